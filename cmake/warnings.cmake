@@ -1,0 +1,4 @@
+# Warnings are errors, in our own code: libraries come in as system headers.
+add_compile_options(-Wall -Wextra -Wpedantic -Wconversion -Wshadow -Werror)
+# The description of a record takes as many macro arguments as it has members, also none.
+add_compile_options($<$<CXX_COMPILER_ID:Clang>:-Wno-gnu-zero-variadic-macro-arguments>)

@@ -1,0 +1,134 @@
+#pragma once
+
+#include "common/blob.h"
+#include "common/cm_time.h"
+#include "common/error.h"
+#include "common/json_document.h"
+#include "common/record.h"
+#include "common/reference_date.h"
+
+#include <boost/mp11.hpp>
+
+#include <limits>
+#include <string>
+#include <utility>
+#include <vector>
+
+/// Reading of records from a parsed document. One generic reader serves every record: each described
+/// member must be present with the right kind of value, unknown keys are ignored, keys may stand in
+/// any order. On a failure the reader returns false, and the fault says where and what.
+namespace kavela {
+
+namespace json_detail {
+
+/// What a JSON value is, in the words of a message.
+[[nodiscard]] std::string kindOf(simdjson::dom::element element);
+
+/// Fills `fault` with "… was expected, found …".
+bool refuse(Fault& fault, std::string_view expected, simdjson::dom::element found);
+
+bool read(simdjson::dom::element element, double& value, Fault& fault);
+bool read(simdjson::dom::element element, std::int64_t& value, Fault& fault);
+bool read(simdjson::dom::element element, std::int32_t& value, Fault& fault);
+bool read(simdjson::dom::element element, std::uint32_t& value, Fault& fault);
+bool read(simdjson::dom::element element, bool& value, Fault& fault);
+bool read(simdjson::dom::element element, std::string& value, Fault& fault);
+bool read(simdjson::dom::element element, Blob& value, Fault& fault);
+bool read(simdjson::dom::element element, ReferenceDate& value, Fault& fault);
+
+template <class T>
+bool read(simdjson::dom::element element, std::vector<T>& values, Fault& fault);
+template <Record T>
+bool read(simdjson::dom::element element, T& record, Fault& fault);
+
+/// Walks through an object in step with a record's declared members: the next key is nearly always
+/// the one asked for, and only otherwise is the object searched.
+class ObjectCursor {
+public:
+    explicit ObjectCursor(simdjson::dom::object object)
+        : m_begin(object.begin()), m_end(object.end()), m_next(m_begin) {}
+
+    /// Finds a key; false when the object has none of that name.
+    bool find(std::string_view name, simdjson::dom::element& value) {
+        if (m_next != m_end && m_next.key() == name) {
+            value = m_next.value();
+            ++m_next;
+            return true;
+        }
+        return search(name, value);
+    }
+
+private:
+    bool search(std::string_view name, simdjson::dom::element& value);
+
+    simdjson::dom::object::iterator m_begin;
+    simdjson::dom::object::iterator m_end;
+    simdjson::dom::object::iterator m_next;
+};
+
+template <class T>
+bool readMember(ObjectCursor& cursor, const char* name, T& value, Fault& fault) {
+    simdjson::dom::element element;
+    if (!cursor.find(name, element)) {
+        fault = {name, "the key is missing"};
+        return false;
+    }
+    if (read(element, value, fault))
+        return true;
+    fault.prependMember(name);
+    return false;
+}
+
+template <class T>
+bool read(simdjson::dom::element element, std::vector<T>& values, Fault& fault) {
+    simdjson::dom::array array;
+    if (element.get(array) != simdjson::SUCCESS)
+        return refuse(fault, "an array", element);
+    values.clear();
+    values.reserve(array.size());
+    for (const simdjson::dom::element entry : array) {
+        if (!read(entry, values.emplace_back(), fault)) {
+            fault.prependIndex(values.size() - 1);
+            return false;
+        }
+    }
+    return true;
+}
+
+template <Record T>
+bool read(simdjson::dom::element element, T& record, Fault& fault) {
+    simdjson::dom::object object;
+    if (element.get(object) != simdjson::SUCCESS)
+        return refuse(fault, "an object", element);
+    ObjectCursor cursor(object);
+    return [&]<class... Member>(boost::mp11::mp_list<Member...>) {
+        return (readMember(cursor, Member::name, record.*Member::pointer, fault) && ...);
+    }(MembersOf<T>{});
+}
+
+} // namespace json_detail
+
+/// Reads a record from a parsed document; false, with the fault told, when it is of another type.
+/// `record` is then in no particular state.
+template <Record T>
+[[nodiscard]] bool tryDecode(simdjson::dom::element element, T& record, Fault& fault) {
+    return json_detail::read(element, record, fault);
+}
+
+/// Reads a record from a parsed document. Throws DecodeError.
+template <Record T>
+[[nodiscard]] T decode(const JsonDocument& document) {
+    T record;
+    Fault fault;
+    if (!tryDecode(document.root(), record, fault))
+        throw DecodeError(std::move(fault));
+    return record;
+}
+
+/// Reads a record from a text. Throws DecodeError.
+template <Record T>
+[[nodiscard]] T decodeText(std::string_view text) {
+    return decode<T>(JsonDocument::fromText(text));
+}
+
+} // namespace kavela

@@ -1,0 +1,109 @@
+#include "common/json_encode.h"
+
+#include <simdjson.h>
+
+#include <charconv>
+#include <cmath>
+
+namespace kavela::json_detail {
+
+namespace {
+
+template <class Number>
+bool append(std::string& json, Number value) {
+    std::array<char, 32> buffer; // NOLINT(cppcoreguidelines-pro-type-member-init): filled below
+    const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value).ptr;
+    json.append(buffer.data(), end);
+    return true;
+}
+
+bool needsEscape(char c) {
+    return static_cast<unsigned char>(c) < 0x20 || c == '"' || c == '\\';
+}
+
+void appendEscaped(std::string& json, char c) {
+    constexpr std::string_view Digits = "0123456789abcdef";
+    switch (c) {
+    case '"':
+    case '\\':
+        json += '\\';
+        json += c;
+        break;
+    case '\n':
+        json += "\\n";
+        break;
+    case '\r':
+        json += "\\r";
+        break;
+    case '\t':
+        json += "\\t";
+        break;
+    default:
+        json += "\\u00";
+        json += Digits[static_cast<unsigned char>(c) >> 4];
+        json += Digits[static_cast<unsigned char>(c) & 15];
+    }
+}
+
+} // namespace
+
+bool write(std::string& json, double value, Fault& fault) {
+    if (!std::isfinite(value)) {
+        fault = {{}, "a number that is not finite cannot be written"};
+        return false;
+    }
+    if (value == 0 && std::signbit(value)) {
+        json += "-0.0"; // "-0" would read back as the integer 0, without its sign
+        return true;
+    }
+    return append(json, value);
+}
+
+bool write(std::string& json, std::int64_t value, Fault&) {
+    return append(json, value);
+}
+
+bool write(std::string& json, std::int32_t value, Fault&) {
+    return append(json, value);
+}
+
+bool write(std::string& json, std::uint32_t value, Fault&) {
+    return append(json, value);
+}
+
+bool write(std::string& json, bool value, Fault&) {
+    json += value ? "true" : "false";
+    return true;
+}
+
+bool write(std::string& json, const std::string& value, Fault& fault) {
+    if (!simdjson::validate_utf8(value.data(), value.size())) {
+        fault = {{}, "a text that is not valid UTF-8 cannot be written"};
+        return false;
+    }
+    json += '"';
+    std::size_t from = 0;
+    for (std::size_t i = 0; i < value.size(); ++i) {
+        if (!needsEscape(value[i]))
+            continue;
+        json.append(value, from, i - from);
+        appendEscaped(json, value[i]);
+        from = i + 1;
+    }
+    json.append(value, from);
+    json += '"';
+    return true;
+}
+
+bool write(std::string& json, const Blob& value, Fault&) {
+    json += '"';
+    appendBase64(json, value);
+    json += '"';
+    return true;
+}
+
+bool write(std::string& json, const ReferenceDate& value, Fault& fault) {
+    return write(json, value.seconds, fault);
+}
+
+} // namespace kavela::json_detail

@@ -1,0 +1,195 @@
+#include "common/safe_file.h"
+
+#include "common/posix_file.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+
+#include <array>
+#include <cerrno>
+#include <cstdlib>
+#include <optional>
+
+namespace kavela {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+constexpr unsigned NewFileMode = 0666; // less what the user's mask takes away
+
+/// A file being written under a name of its own, removed again unless it was renamed.
+class TemporaryFile {
+public:
+    explicit TemporaryFile(const fs::path& target) : m_file(create(target)) {}
+    TemporaryFile(const TemporaryFile&) = delete;
+    TemporaryFile& operator=(const TemporaryFile&) = delete;
+    ~TemporaryFile() {
+        if (!m_renamed)
+            ::unlink(m_file.path().c_str());
+    }
+
+    void write(std::string_view content) {
+        while (!content.empty()) {
+            const ssize_t written =
+                ::write(m_file.descriptor(), content.data(), content.size());
+            if (written < 0 && errno == EINTR)
+                continue;
+            if (written <= 0)
+                throw systemFileError(m_file.path());
+            content.remove_prefix(static_cast<std::size_t>(written));
+        }
+    }
+
+    void takeModeOf(const struct ::stat& status) {
+        if (::fchmod(m_file.descriptor(), status.st_mode & 07777) != 0)
+            throw systemFileError(m_file.path());
+        // Only an administrator may give a file away; everybody else keeps it as their own.
+        if (::geteuid() == 0 && ::fchown(m_file.descriptor(), status.st_uid, status.st_gid) != 0)
+            throw systemFileError(m_file.path());
+    }
+
+    void flush() {
+        if (::fsync(m_file.descriptor()) != 0)
+            throw systemFileError(m_file.path());
+        m_file.close();
+    }
+
+    void renameTo(const fs::path& target) {
+        if (::rename(m_file.path().c_str(), target.c_str()) != 0)
+            throw systemFileError(target);
+        m_renamed = true;
+    }
+
+    [[nodiscard]] const fs::path& path() const { return m_file.path(); }
+    void keep() { m_renamed = true; }
+
+private:
+    static PosixFile create(const fs::path& target) {
+        constexpr int Attempts = 100;
+        for (int attempt = 0;; ++attempt) {
+            const fs::path path = target.parent_path() / freshName(target, attempt);
+            try {
+                return {path, O_WRONLY | O_CREAT | O_EXCL, NewFileMode};
+            } catch (const FileError&) {
+                if (errno != EEXIST || attempt == Attempts)
+                    throw;
+            }
+        }
+    }
+
+    static std::string freshName(const fs::path& target, int attempt) {
+        constexpr std::size_t LongestStem = 200; // names end at 255 bytes on the usual disks
+        return '.' + target.filename().string().substr(0, LongestStem) + '.' +
+               std::to_string(::getpid()) + '-' + std::to_string(attempt) + ".tmp";
+    }
+
+    PosixFile m_file;
+    bool m_renamed = false;
+};
+
+void flushFolder(const fs::path& folder) {
+    const PosixFile file(folder.empty() ? fs::path(".") : folder, O_RDONLY | O_DIRECTORY);
+    // Some network disks cannot flush a folder, and say so; the file itself is safe by then.
+    if (::fsync(file.descriptor()) != 0 && errno != EINVAL && errno != ENOTSUP)
+        throw systemFileError(folder);
+}
+
+/// The file behind a chain of symbolic links, which need not exist yet.
+fs::path behindLinks(const fs::path& path) {
+    constexpr int LongestChain = 40;
+    fs::path target = path;
+    for (int links = 0; fs::is_symlink(fs::symlink_status(target)); ++links) {
+        if (links == LongestChain)
+            throw FileError(path, "too many symbolic links");
+        const fs::path next = fs::read_symlink(target);
+        target = next.is_absolute() ? next : target.parent_path() / next;
+    }
+    return target;
+}
+
+std::optional<struct ::stat> statusOf(const fs::path& path) {
+    struct ::stat status {};
+    if (::stat(path.c_str(), &status) == 0)
+        return status;
+    if (errno == ENOENT)
+        return std::nullopt;
+    throw systemFileError(path);
+}
+
+void writeBehindLinks(const fs::path& target, std::string_view content) {
+    const auto status = statusOf(target);
+    if (status && S_ISDIR(status->st_mode))
+        throw FileError(target, "this is a folder, not a file");
+    if (status && ::access(target.c_str(), W_OK) != 0)
+        throw systemFileError(target);
+    TemporaryFile temporary(target);
+    temporary.write(content);
+    if (status)
+        temporary.takeModeOf(*status);
+    temporary.flush();
+    temporary.renameTo(target);
+    flushFolder(target.parent_path());
+}
+
+std::string contentOf(const fs::path& path) {
+    const PosixFile file(path, O_RDONLY);
+    std::string content;
+    std::array<char, 1 << 16> chunk; // NOLINT(cppcoreguidelines-pro-type-member-init): filled below
+    for (;;) {
+        const ssize_t got = ::read(file.descriptor(), chunk.data(), chunk.size());
+        if (got < 0 && errno == EINTR)
+            continue;
+        if (got < 0)
+            throw systemFileError(path);
+        if (got == 0)
+            return content;
+        content.append(chunk.data(), static_cast<std::size_t>(got));
+    }
+}
+
+/// Makes a name for a file without ever replacing one; false when the name is taken.
+bool linkExclusively(const fs::path& path, const fs::path& name) {
+    if (::link(path.c_str(), name.c_str()) == 0)
+        return true;
+    if (errno == EEXIST)
+        return false;
+    throw systemFileError(name);
+}
+
+/// For disks without hard links. The copy appears under its name only when it is whole.
+bool copyExclusively(const fs::path& path, const fs::path& name) {
+    if (statusOf(name))
+        return false;
+    writeBehindLinks(name, contentOf(path));
+    return true;
+}
+
+} // namespace
+
+void writeFileSafely(const fs::path& path, std::string_view content) {
+    try {
+        writeBehindLinks(behindLinks(path), content);
+    } catch (const fs::filesystem_error& error) {
+        throw FileError(path, error.code().message());
+    }
+}
+
+bool keepUnderSecondName(const fs::path& path, const fs::path& secondName) {
+    try {
+        const fs::path source = behindLinks(path);
+        bool made = false;
+        try {
+            made = linkExclusively(source, secondName);
+        } catch (const FileError&) {
+            made = copyExclusively(source, secondName);
+        }
+        if (made)
+            flushFolder(secondName.parent_path());
+        return made;
+    } catch (const fs::filesystem_error& error) {
+        throw FileError(path, error.code().message());
+    }
+}
+
+} // namespace kavela

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <filesystem>
+#include <string_view>
+
+namespace kavela {
+
+/// Writes a whole file so that at every moment, a power cut included, the disk holds either the
+/// old content or the new one: a temporary file beside the target is filled and flushed, then
+/// renamed over it, then the folder is flushed. A symbolic link is followed; permissions of an
+/// existing file are kept. Throws FileError; the old file is then untouched and no temporary is
+/// left (a crash can leave one, named ".NAME.XXXXXX.tmp").
+void writeFileSafely(const std::filesystem::path& path, std::string_view content);
+
+/// Gives a file's present content a second name that must not exist yet: by a hard link, or where
+/// the disk knows none by a flushed copy. Returns false when the name is taken; throws FileError.
+[[nodiscard]] bool keepUnderSecondName(const std::filesystem::path& path,
+                                       const std::filesystem::path& secondName);
+
+} // namespace kavela

@@ -1,0 +1,126 @@
+#include "splitdata/loader.h"
+
+#include "common/json_document.h"
+#include "common/json_encode.h"
+#include "common/safe_file.h"
+
+namespace kavela {
+
+namespace {
+
+void logAttempt(const DocumentVersion& version, const DiagnosticLog& log) {
+    // The current version is tried in silence.
+    if (&version != &documentVersions().front())
+        log("Trying version " + std::string(version.label));
+}
+
+void logHopeless(const std::filesystem::path& path, const DiagnosticLog& log) {
+    log("I have no more options, sorry");
+    log("I could not do " + path.string());
+}
+
+RecognisedSplitFile recognise(simdjson::dom::element root, const std::filesystem::path& path,
+                              const DiagnosticLog& log, const Clock& clock) {
+    RecognisedSplitFile found;
+    for (const DocumentVersion& version : documentVersions()) {
+        logAttempt(version, log);
+        Fault fault;
+        if (version.read(root, found.document, fault)) {
+            found.version = &version;
+            if (!found.isCurrent())
+                found.document.info.lastSavedDate = clock();
+            return found;
+        }
+        found.failures.push_back({version.record, std::move(fault)});
+    }
+    found.document = {};
+    logHopeless(path, log);
+    return found;
+}
+
+/// A file without a readable document fails every attempt for the same reason.
+RecognisedSplitFile unreadable(const Fault& fault, const std::filesystem::path& path,
+                               const DiagnosticLog& log) {
+    RecognisedSplitFile found;
+    for (const DocumentVersion& version : documentVersions()) {
+        logAttempt(version, log);
+        found.failures.push_back({version.record, fault});
+    }
+    logHopeless(path, log);
+    return found;
+}
+
+bool rewrite(const RecognisedSplitFile& file, const std::filesystem::path& path,
+             const DiagnosticLog& log) {
+    log("I am wriwriting in " + path.string());
+    return saveSplitFile(file.document, path, log);
+}
+
+void showIncompatible(Alerts& alerts) {
+    alerts.show({"", IncompatibleFileText});
+}
+
+} // namespace
+
+RecognisedSplitFile recogniseSplitFile(const std::filesystem::path& path, const DiagnosticLog& log,
+                                       const Clock& clock) {
+    try {
+        const JsonDocument json = JsonDocument::fromFile(path);
+        return recognise(json.root(), path, log, clock);
+    } catch (const DecodeError& error) {
+        return unreadable(error.fault(), path, log);
+    } catch (const FileError& error) {
+        return unreadable({{}, error.reason()}, path, log);
+    }
+}
+
+RecognisedSplitFile recogniseSplitText(std::string_view text, const std::filesystem::path& path,
+                                       const DiagnosticLog& log, const Clock& clock) {
+    try {
+        const JsonDocument json = JsonDocument::fromText(text);
+        return recognise(json.root(), path, log, clock);
+    } catch (const DecodeError& error) {
+        return unreadable(error.fault(), path, log);
+    }
+}
+
+bool saveSplitFile(const splittakerdata031& document, const std::filesystem::path& path,
+                   const DiagnosticLog& log) {
+    std::string reason;
+    try {
+        writeFileSafely(path, encode(document));
+        return true;
+    } catch (const FileError& error) {
+        reason = error.reason();
+    } catch (const EncodeError& error) {
+        reason = error.what();
+    }
+    log("Failed to create file");
+    log("The file " + path.string() + " could not be written: " + reason);
+    return false;
+}
+
+void upgradeSplitFile(const std::filesystem::path& path, const DiagnosticLog& log,
+                      const Clock& clock) {
+    const RecognisedSplitFile file = recogniseSplitFile(path, log, clock);
+    if (file.version && !file.isCurrent())
+        (void)rewrite(file, path, log);
+}
+
+std::optional<splittakerdata031> readSplitFile(const std::filesystem::path& path,
+                                               const DiagnosticLog& log, Alerts& alerts,
+                                               const Clock& clock) {
+    RecognisedSplitFile file = recogniseSplitFile(path, log, clock);
+    if (file.version && (file.isCurrent() || rewrite(file, path, log)))
+        return std::move(file.document);
+    reportIncompatible(file, log, alerts);
+    return std::nullopt;
+}
+
+void reportIncompatible(const RecognisedSplitFile& file, const DiagnosticLog& log, Alerts& alerts) {
+    if (!file.failures.empty())
+        log("The file could not be read: " + file.failures.front().fault.message());
+    showIncompatible(alerts);
+}
+
+} // namespace kavela
