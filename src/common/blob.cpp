@@ -28,9 +28,10 @@ void appendBase64(std::string& text, const Blob& blob) {
     text.reserve(text.size() + (bytes.size() + 2) / 3 * 4);
     for (std::size_t i = 0; i < bytes.size(); i += 3) {
         const std::size_t left = bytes.size() - i;
-        const std::uint32_t triple = static_cast<std::uint32_t>(bytes[i]) << 16 |
-                                     (left > 1 ? static_cast<std::uint32_t>(bytes[i + 1]) << 8 : 0) |
-                                     (left > 2 ? bytes[i + 2] : 0);
+        const std::uint32_t triple =
+            static_cast<std::uint32_t>(bytes[i]) << 16 |
+            (left > 1 ? static_cast<std::uint32_t>(bytes[i + 1]) << 8 : 0) |
+            (left > 2 ? bytes[i + 2] : 0);
         text += Alphabet[triple >> 18];
         text += Alphabet[triple >> 12 & 63];
         text += left > 1 ? Alphabet[triple >> 6 & 63] : '=';

@@ -33,7 +33,8 @@ struct Fault {
 /// A document that does not hold what its record type asks for, or is no JSON at all.
 class DecodeError : public std::runtime_error {
 public:
-    explicit DecodeError(Fault fault) : std::runtime_error(fault.message()), m_fault(std::move(fault)) {}
+    explicit DecodeError(Fault fault)
+        : std::runtime_error(fault.message()), m_fault(std::move(fault)) {}
     [[nodiscard]] const Fault& fault() const { return m_fault; }
 
 private:
@@ -50,7 +51,9 @@ public:
 class FileError : public std::runtime_error {
 public:
     FileError(std::filesystem::path path, const std::string& reason)
-        : std::runtime_error(path.string() + ": " + reason), m_path(std::move(path)), m_reason(reason) {}
+        : std::runtime_error(path.string() + ": " + reason),
+          m_path(std::move(path)),
+          m_reason(reason) {}
     [[nodiscard]] const std::filesystem::path& path() const { return m_path; }
     [[nodiscard]] const std::string& reason() const { return m_reason; }
 

@@ -62,7 +62,8 @@ off_t firstUsed(const PosixFile& file, Range range) {
 off_t pastLastUsed(const PosixFile& file, Range range) {
     std::array<char, 1 << 16> chunk; // NOLINT(cppcoreguidelines-pro-type-member-init): filled below
     while (range.end > range.begin) {
-        const off_t size = std::min<off_t>(static_cast<off_t>(chunk.size()), range.end - range.begin);
+        const off_t size =
+            std::min<off_t>(static_cast<off_t>(chunk.size()), range.end - range.begin);
         const std::size_t got =
             readAt(file, chunk.data(), static_cast<std::size_t>(size), range.end - size);
         const auto used = std::find_if_not(std::make_reverse_iterator(chunk.data() + got),

@@ -14,9 +14,10 @@
 #include <utility>
 #include <vector>
 
-/// Reading of records from a parsed document. One generic reader serves every record: each described
-/// member must be present with the right kind of value, unknown keys are ignored, keys may stand in
-/// any order. On a failure the reader returns false, and the fault says where and what.
+/// Reading of records from a parsed document. One generic reader serves every record: each
+/// described member must be present with the right kind of value, unknown keys are ignored, keys
+/// may stand in any order. On a failure the reader returns false, and the fault says where and
+/// what.
 namespace kavela {
 
 namespace json_detail {

@@ -80,8 +80,9 @@ bool fitsInteger(std::string_view number) {
     const char* const end = number.data() + number.size();
     std::int64_t negative = 0;
     std::uint64_t positive = 0;
-    return number.starts_with('-') ? std::from_chars(number.data(), end, negative).ec == std::errc{}
-                                   : std::from_chars(number.data(), end, positive).ec == std::errc{};
+    return number.starts_with('-')
+               ? std::from_chars(number.data(), end, negative).ec == std::errc{}
+               : std::from_chars(number.data(), end, positive).ec == std::errc{};
 }
 
 /// The parser knows no whole number beyond 64 bits, but JSON does: such a number gets an exponent

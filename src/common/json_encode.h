@@ -9,6 +9,7 @@
 
 #include <array>
 #include <cstdint>
+#include <map>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -36,6 +37,8 @@ template <class T>
 bool write(std::string& json, const std::vector<T>& values, Fault& fault);
 template <class T, std::size_t N>
 bool write(std::string& json, const std::array<T, N>& values, Fault& fault);
+template <class T>
+bool write(std::string& json, const std::map<std::string, T>& values, Fault& fault);
 template <Record T>
 bool write(std::string& json, const T& record, Fault& fault);
 
@@ -84,6 +87,19 @@ bool write(std::string& json, const std::vector<T>& values, Fault& fault) {
 template <class T, std::size_t N>
 bool write(std::string& json, const std::array<T, N>& values, Fault& fault) {
     return writeArray(json, values, fault);
+}
+
+/// An object whose keys are known only at run time; they must be plain letters.
+template <class T>
+bool write(std::string& json, const std::map<std::string, T>& values, Fault& fault) {
+    if (values.empty())
+        json += '{';
+    char separator = '{';
+    for (const auto& [name, value] : values)
+        if (!writeMember(json, std::exchange(separator, ','), name, value, fault))
+            return false;
+    json += '}';
+    return true;
 }
 
 template <Record T>

@@ -16,8 +16,9 @@ std::string shortestText(double value) {
 
 std::string plainText(double value) {
     std::array<char, 1100> buffer{}; // the longest: a sign, "0." and 1,074 digits
-    const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value,
-                                   std::chars_format::fixed).ptr;
+    const auto end =
+        std::to_chars(buffer.data(), buffer.data() + buffer.size(), value, std::chars_format::fixed)
+            .ptr;
     return {buffer.data(), end};
 }
 

@@ -13,9 +13,9 @@ concept Record = std::is_class_v<T> && boost::describe::has_describe_members<T>:
 
 /// The members of a record in declared order, those of its bases first.
 template <Record T>
-using MembersOf = boost::mp11::mp_rename<
-    boost::describe::describe_members<T, boost::describe::mod_public |
-                                             boost::describe::mod_inherited>,
-    boost::mp11::mp_list>;
+using MembersOf =
+    boost::mp11::mp_rename<boost::describe::describe_members<T, boost::describe::mod_public |
+                                                                    boost::describe::mod_inherited>,
+                           boost::mp11::mp_list>;
 
 } // namespace kavela

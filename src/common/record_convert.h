@@ -43,12 +43,11 @@ void convertValue(std::string&& from, std::int64_t& to);
 void convertValue(std::vector<std::string>&& from, std::string& to);
 
 template <Record From, Record To>
-    requires(!std::is_same_v<From, To>)
-void convertValue(std::vector<From>&& from, std::vector<To>& to);
+requires(!std::is_same_v<From, To>) void convertValue(std::vector<From>&& from,
+                                                      std::vector<To>& to);
 
 template <Record From, Record To>
-    requires(!std::is_same_v<From, To>)
-void convertValue(From&& from, To& to);
+requires(!std::is_same_v<From, To>) void convertValue(From&& from, To& to);
 
 namespace convert_detail {
 
@@ -69,8 +68,8 @@ void fillMember(From& from, Target& target) {
 } // namespace convert_detail
 
 template <Record From, Record To>
-    requires(!std::is_same_v<From, To>)
-void convertValue(std::vector<From>&& from, std::vector<To>& to) {
+requires(!std::is_same_v<From, To>) void convertValue(std::vector<From>&& from,
+                                                      std::vector<To>& to) {
     to.clear();
     to.reserve(from.size());
     for (From& value : from)
@@ -78,8 +77,7 @@ void convertValue(std::vector<From>&& from, std::vector<To>& to) {
 }
 
 template <Record From, Record To>
-    requires(!std::is_same_v<From, To>)
-void convertValue(From&& from, To& to) {
+requires(!std::is_same_v<From, To>) void convertValue(From&& from, To& to) {
     [&]<class... Newer>(boost::mp11::mp_list<Newer...>) {
         (convert_detail::fillMember<Newer>(from, to.*Newer::pointer), ...);
     }(MembersOf<To>{});

@@ -31,8 +31,7 @@ public:
 
     void write(std::string_view content) {
         while (!content.empty()) {
-            const ssize_t written =
-                ::write(m_file.descriptor(), content.data(), content.size());
+            const ssize_t written = ::write(m_file.descriptor(), content.data(), content.size());
             if (written < 0 && errno == EINTR)
                 continue;
             if (written <= 0)
@@ -60,9 +59,6 @@ public:
             throw systemFileError(target);
         m_renamed = true;
     }
-
-    [[nodiscard]] const fs::path& path() const { return m_file.path(); }
-    void keep() { m_renamed = true; }
 
 private:
     static PosixFile create(const fs::path& target) {
@@ -129,7 +125,13 @@ void writeBehindLinks(const fs::path& target, std::string_view content) {
         temporary.takeModeOf(*status);
     temporary.flush();
     temporary.renameTo(target);
-    flushFolder(target.parent_path());
+    try {
+        flushFolder(target.parent_path());
+    } catch (const FileError&) {
+        // The new file is in place, and after a power cut either of the two is there, whole. To
+        // report a failure now would claim that the old one is untouched.
+        return;
+    }
 }
 
 std::string contentOf(const fs::path& path) {
