@@ -1,6 +1,5 @@
 #include "splitdata/loader.h"
 
-#include "common/json_document.h"
 #include "common/json_encode.h"
 #include "common/safe_file.h"
 
@@ -17,25 +16,6 @@ void logAttempt(const DocumentVersion& version, const DiagnosticLog& log) {
 void logHopeless(const std::filesystem::path& path, const DiagnosticLog& log) {
     log("I have no more options, sorry");
     log("I could not do " + path.string());
-}
-
-RecognisedSplitFile recognise(simdjson::dom::element root, const std::filesystem::path& path,
-                              const DiagnosticLog& log, const Clock& clock) {
-    RecognisedSplitFile found;
-    for (const DocumentVersion& version : documentVersions()) {
-        logAttempt(version, log);
-        Fault fault;
-        if (version.read(root, found.document, fault)) {
-            found.version = &version;
-            if (!found.isCurrent())
-                found.document.info.lastSavedDate = clock();
-            return found;
-        }
-        found.failures.push_back({version.record, std::move(fault)});
-    }
-    found.document = {};
-    logHopeless(path, log);
-    return found;
 }
 
 /// A file without a readable document fails every attempt for the same reason.
@@ -62,25 +42,34 @@ void showIncompatible(Alerts& alerts) {
 
 } // namespace
 
+RecognisedSplitFile recogniseSplitDocument(const JsonDocument& json,
+                                           const std::filesystem::path& path,
+                                           const DiagnosticLog& log, const Clock& clock) {
+    RecognisedSplitFile found;
+    for (const DocumentVersion& version : documentVersions()) {
+        logAttempt(version, log);
+        Fault fault;
+        if (version.read(json.root(), found.document, fault)) {
+            found.version = &version;
+            if (!found.isCurrent())
+                found.document.info.lastSavedDate = clock();
+            return found;
+        }
+        found.failures.push_back({version.record, std::move(fault)});
+    }
+    found.document = {};
+    logHopeless(path, log);
+    return found;
+}
+
 RecognisedSplitFile recogniseSplitFile(const std::filesystem::path& path, const DiagnosticLog& log,
                                        const Clock& clock) {
     try {
-        const JsonDocument json = JsonDocument::fromFile(path);
-        return recognise(json.root(), path, log, clock);
+        return recogniseSplitDocument(JsonDocument::fromFile(path), path, log, clock);
     } catch (const DecodeError& error) {
         return unreadable(error.fault(), path, log);
     } catch (const FileError& error) {
         return unreadable({{}, error.reason()}, path, log);
-    }
-}
-
-RecognisedSplitFile recogniseSplitText(std::string_view text, const std::filesystem::path& path,
-                                       const DiagnosticLog& log, const Clock& clock) {
-    try {
-        const JsonDocument json = JsonDocument::fromText(text);
-        return recognise(json.root(), path, log, clock);
-    } catch (const DecodeError& error) {
-        return unreadable(error.fault(), path, log);
     }
 }
 

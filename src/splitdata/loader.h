@@ -2,6 +2,7 @@
 
 #include "common/alerts.h"
 #include "common/error.h"
+#include "common/json_document.h"
 #include "common/log.h"
 #include "common/reference_date.h"
 #include "splitdata/history/versions.h"
@@ -40,10 +41,11 @@ struct RecognisedSplitFile {
 [[nodiscard]] RecognisedSplitFile recogniseSplitFile(const std::filesystem::path& path,
                                                      const DiagnosticLog& log, const Clock& clock);
 
-/// The same for a text in memory; `path` is what the log calls it.
-[[nodiscard]] RecognisedSplitFile recogniseSplitText(std::string_view text,
-                                                     const std::filesystem::path& path,
-                                                     const DiagnosticLog& log, const Clock& clock);
+/// The same for a document already parsed; `path` is what the log calls it.
+[[nodiscard]] RecognisedSplitFile recogniseSplitDocument(const JsonDocument& json,
+                                                         const std::filesystem::path& path,
+                                                         const DiagnosticLog& log,
+                                                         const Clock& clock);
 
 /// Writes a document to a path, safely and in the current version; on a failure it logs
 /// "Failed to create file" and the reason, and returns false. The old file is then untouched.

@@ -34,8 +34,8 @@ struct infodata031 {
     std::string event;
     std::string techniquetype;
     std::string category;
-    std::int64_t gates = 0;                              ///< gates are numbered from 1
-    std::vector<std::int64_t> upGates;                   ///< numbers of the upstream gates
+    std::int64_t gates = 0;                                 ///< gates are numbered from 1
+    std::vector<std::int64_t> upGates;                      ///< numbers of the upstream gates
     std::vector<std::vector<std::int64_t>> definedsections; ///< gate numbers of each section
     std::vector<std::string> splitTitles;
     std::int64_t totalsplits = 0; ///< splits taken per run
@@ -75,8 +75,8 @@ BOOST_DESCRIBE_STRUCT(pendata030, (),
 
 /// The timing of one run.
 struct sectiondata030 {
-    std::vector<double> times;       ///< from mark to mark; 0 was not timed
-    std::vector<std::int64_t> pens;  ///< by gate: 0, 2 or 50
+    std::vector<double> times;      ///< from mark to mark; 0 was not timed
+    std::vector<std::int64_t> pens; ///< by gate: 0, 2 or 50
     std::vector<pendata030> pendetails;
     std::vector<std::vector<CMTime>> cmtimes; ///< by split: the players' stamps at the mark
     std::vector<std::string> comments;
