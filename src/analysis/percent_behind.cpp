@@ -1,0 +1,97 @@
+#include "analysis/percent_behind.h"
+
+#include "splitdata/run_timing.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace kavela {
+
+namespace {
+
+/// A time with its penalty; without a time there is nothing to add to.
+double withPenalty(double time, std::int64_t penalty) {
+    return time == 0 ? 0 : time + static_cast<double>(penalty);
+}
+
+/// Fills one figure of every run with the percent behind the best of `value` over all runs.
+template <class Value, class Figure>
+void fillColumn(std::vector<analyzerdata>& runs, Value value, Figure figure) {
+    std::vector<double> column;
+    column.reserve(runs.size());
+    for (const analyzerdata& run : runs)
+        column.push_back(value(run.sectioninfo));
+    const double best = smallestNonZero(column);
+    for (std::size_t i = 0; i < runs.size(); ++i)
+        figure(runs[i].sectioninfo) = percentBehind(column[i], best);
+}
+
+void fillSection(std::vector<analyzerdata>& runs, std::size_t section) {
+    // Runs shorter than the longest get no figure: a place that nothing is kept in takes it.
+    double none = 0;
+    const auto figureOf = [&](std::vector<double>& figures) -> double& {
+        return section < figures.size() ? figures[section] : none;
+    };
+    fillColumn(
+        runs, [&](const sectionmaindata& s) { return entryOrZero(s.times, section); },
+        [&](sectionmaindata& s) -> double& { return figureOf(s.pertimes); });
+    fillColumn(
+        runs,
+        [&](const sectionmaindata& s) {
+            return withPenalty(entryOrZero(s.times, section), entryOrZero(s.pens, section));
+        },
+        [&](sectionmaindata& s) -> double& { return figureOf(s.pertimesandpen); });
+    fillColumn(
+        runs, [&](const sectionmaindata& s) { return entryOrZero(s.accutimes, section); },
+        [&](sectionmaindata& s) -> double& { return figureOf(s.peraccutimes); });
+}
+
+void fillTotals(std::vector<analyzerdata>& runs) {
+    fillColumn(
+        runs, [](const sectionmaindata& s) { return s.totaltime; },
+        [](sectionmaindata& s) -> double& { return s.totalpertime; });
+    fillColumn(
+        runs, [](const sectionmaindata& s) { return withPenalty(s.totaltime, s.totalpen); },
+        [](sectionmaindata& s) -> double& { return s.totalpertimeandpen; });
+    fillColumn(
+        runs, [](const sectionmaindata& s) { return s.realtime; },
+        [](sectionmaindata& s) -> double& { return s.realpertime; });
+    fillColumn(
+        runs, [](const sectionmaindata& s) { return s.sprinttime; },
+        [](sectionmaindata& s) -> double& { return s.sprintpertime; });
+    fillColumn(
+        runs, [](const sectionmaindata& s) { return s.xTime; },
+        [](sectionmaindata& s) -> double& { return s.xPer; });
+}
+
+} // namespace
+
+double percentBehind(double time, double best) {
+    if (time == 0 || best == 0)
+        return 0;
+    return (time / best - 1) * 100;
+}
+
+double smallestNonZero(std::span<const double> values) {
+    double smallest = 0;
+    for (const double value : values)
+        if (value != 0 && (smallest == 0 || value < smallest))
+            smallest = value;
+    return smallest;
+}
+
+void fillPercentFigures(std::vector<analyzerdata>& runs) {
+    std::size_t longest = 0;
+    for (analyzerdata& run : runs) {
+        sectionmaindata& section = run.sectioninfo;
+        longest = std::max(longest, section.times.size());
+        section.pertimes.assign(section.times.size(), 0);
+        section.pertimesandpen.assign(section.times.size(), 0);
+        section.peraccutimes.assign(section.times.size(), 0);
+    }
+    for (std::size_t section = 0; section < longest; ++section)
+        fillSection(runs, section);
+    fillTotals(runs);
+}
+
+} // namespace kavela

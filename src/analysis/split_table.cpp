@@ -1,0 +1,161 @@
+#include "analysis/split_table.h"
+
+#include "analysis/percent_behind.h"
+#include "common/number_text.h"
+#include "splitdata/run_timing.h"
+
+#include <algorithm>
+
+namespace kavela {
+
+namespace {
+
+/// A course has some ten splits. A damaged file may claim any number; beyond this only those are
+/// shown that some run has.
+constexpr std::int64_t MostSplitsOfACourse = 100;
+
+std::size_t shownSections(const RaceSet& set) {
+    std::size_t longest = MostSplitsOfACourse;
+    for (const analyzerdata& run : set.alldata)
+        longest = std::max(longest, run.sectioninfo.times.size());
+    const std::int64_t sections = std::max<std::int64_t>(set.totalsplits, 0);
+    return std::min(static_cast<std::size_t>(sections), longest);
+}
+
+std::string sectionTitle(const RaceSet& set, std::size_t index) {
+    const std::string title = entryOrZero(set.sectiontitles, index);
+    return title.empty() ? "S" + std::to_string(index + 1) : title;
+}
+
+std::vector<TableColumn> tableColumns(const RaceSet& set) {
+    std::vector<TableColumn> columns;
+    for (std::size_t i = 0; i < shownSections(set); ++i) {
+        const bool compared = i < SectionColumns;
+        columns.push_back({compared ? std::optional(static_cast<int>(i) + 1) : std::nullopt,
+                           sectionTitle(set, i)});
+    }
+    columns.push_back({TotalColumn, "Total"});
+    columns.push_back({SprintColumn, "Sprint"});
+    columns.push_back({RealColumn, "Real"});
+    return columns;
+}
+
+/// Values and texts of the cells, before any colour.
+class CellValues {
+public:
+    CellValues(const TableSettings& settings, std::size_t sections)
+        : m_settings(settings), m_sections(sections) {}
+
+    [[nodiscard]] std::vector<TableCell> of(const analyzerdata& run) const {
+        const sectionmaindata& section = run.sectioninfo;
+        std::vector<TableCell> cells;
+        cells.reserve(m_sections + 3);
+        for (std::size_t i = 0; i < m_sections; ++i)
+            cells.push_back(sectionCell(section, i));
+        cells.push_back(cell(TotalColumn, total(section)));
+        cells.push_back(cell(SprintColumn, section.sprinttime));
+        cells.push_back(cell(RealColumn, section.realtime));
+        return cells;
+    }
+
+private:
+    [[nodiscard]] bool includesPenalties() const {
+        return m_settings.penaltiesIncluded && m_settings.kind != ValueKind::Accumulated;
+    }
+
+    [[nodiscard]] TableCell cell(std::optional<int> column, double value) const {
+        TableCell made;
+        made.column = column;
+        made.value = value;
+        made.text = timeText(value, m_settings.isTinted());
+        return made;
+    }
+
+    [[nodiscard]] TableCell sectionCell(const sectionmaindata& section, std::size_t i) const {
+        const std::int64_t penalty = entryOrZero(section.pens, i);
+        double value = entryOrZero(section.times, i);
+        if (m_settings.kind == ValueKind::Accumulated)
+            value = accumulated(section, i);
+        else if (includesPenalties())
+            value += static_cast<double>(penalty);
+        const bool compared = i < SectionColumns;
+        TableCell made =
+            cell(compared ? std::optional(static_cast<int>(i) + 1) : std::nullopt, value);
+        if (m_settings.penaltiesVisible && compared)
+            made.text += " (" + std::to_string(penalty) + ")";
+        return made;
+    }
+
+    /// The time after a section; one that a stopped run never reached keeps the last time.
+    [[nodiscard]] static double accumulated(const sectionmaindata& section, std::size_t i) {
+        const std::vector<double>& sums = section.accutimes;
+        return sums.empty() ? 0 : sums[std::min(i, sums.size() - 1)];
+    }
+
+    [[nodiscard]] double total(const sectionmaindata& section) const {
+        return section.totaltime +
+               (includesPenalties() ? static_cast<double>(section.totalpen) : 0);
+    }
+
+    const TableSettings& m_settings;
+    std::size_t m_sections;
+};
+
+void tintCells(SplitTable& table, const RaceSet& set, const TableSettings& settings) {
+    const TableScales scales(set, settings.kind, settings.penaltiesIncluded);
+    for (TableRow& row : table.rows) {
+        for (TableCell& cell : row.cells) {
+            cell.band = cell.column ? scales.bandOf(*cell.column, cell.value) : Band::Clear;
+            cell.background = bandColour(*cell.band);
+        }
+    }
+}
+
+/// The value that the texts of a column are compared with in race mode: its smallest, 0 for none.
+std::array<double, RealColumn> raceReferences(const RaceSet& set, const TableSettings& settings) {
+    std::array<double, RealColumn> references{};
+    const auto takeOver = [&](const std::vector<Column>& columns) {
+        for (std::size_t i = 0; i < columns.size(); ++i)
+            references[i] = smallestNonZero(columns[i]);
+    };
+    takeOver(sectionColumns(set, settings.penaltiesIncluded));
+    if (settings.kind == ValueKind::Accumulated)
+        takeOver(accumulatedColumns(set)); // sprint and real times are never accumulated
+    return references;
+}
+
+void colourTexts(SplitTable& table, const RaceSet& set, const TableSettings& settings) {
+    const auto references = raceReferences(set, settings);
+    for (TableRow& row : table.rows) {
+        for (TableCell& cell : row.cells) {
+            const double reference =
+                cell.column ? references[static_cast<std::size_t>(*cell.column - 1)] : 0;
+            if (cell.value == 0 || reference == 0)
+                continue;
+            const bool isBest = roundedToHundredths(cell.value) == roundedToHundredths(reference);
+            cell.foreground = isBest ? NamedGreen : NamedRed;
+        }
+    }
+}
+
+} // namespace
+
+std::string timeText(double seconds, bool isTinted) {
+    return seconds == 0 && isTinted ? "-" : hundredthsText(seconds);
+}
+
+SplitTable makeSplitTable(const RaceSet& set, const TableSettings& settings) {
+    SplitTable table;
+    table.columns = tableColumns(set);
+    const CellValues values(settings, shownSections(set));
+    table.rows.reserve(set.alldata.size());
+    for (const analyzerdata& run : set.alldata)
+        table.rows.push_back({&run, set.isFull(run), values.of(run)});
+    if (settings.isTinted())
+        tintCells(table, set, settings);
+    else
+        colourTexts(table, set, settings);
+    return table;
+}
+
+} // namespace kavela

@@ -1,0 +1,58 @@
+#pragma once
+
+#include "analysis/colouring.h"
+
+#include <optional>
+#include <string>
+#include <vector>
+
+/// The split table as it is shown: columns, and for each run its cells with value, text and colour.
+namespace kavela {
+
+/// How the coach wants the table. Defaults are those of the preferences.
+struct TableSettings {
+    ValueKind kind = ValueKind::Sections;
+    bool penaltiesIncluded = false;
+    bool penaltiesVisible = false;
+    std::string colorMode = "Race"; ///< anything else tints the cells
+
+    /// Whether cells are tinted by rank; in race mode only their text is coloured.
+    [[nodiscard]] bool isTinted() const { return colorMode != "Race"; }
+};
+
+/// One column of the table.
+struct TableColumn {
+    std::optional<int> number; ///< of the comparison column; none for sections beyond the tenth
+    std::string title;
+};
+
+/// One cell of the table.
+struct TableCell {
+    std::optional<int> column;
+    double value = 0; ///< seconds, unrounded: the value that is coloured
+    std::string text;
+    std::optional<Band> band; ///< none in race mode
+    std::optional<Colour> background;
+    std::optional<Colour> foreground;
+};
+
+/// The cells of one run, in the order of the columns.
+struct TableRow {
+    const analyzerdata* run = nullptr;
+    bool isFullRun = false;
+    std::vector<TableCell> cells;
+};
+
+/// A whole table. Its rows point into the race set it was made of.
+struct SplitTable {
+    std::vector<TableColumn> columns;
+    std::vector<TableRow> rows;
+};
+
+/// Builds and colours the table: the sections of the course, total, sprint and real time.
+[[nodiscard]] SplitTable makeSplitTable(const RaceSet& set, const TableSettings& settings);
+
+/// The text of a time: two decimals; where cells are tinted, "-" for a time that was not taken.
+[[nodiscard]] std::string timeText(double seconds, bool isTinted);
+
+} // namespace kavela
