@@ -1,0 +1,46 @@
+#include "sample/season.h"
+
+#include "common/json_encode.h"
+#include "sample/cross.h"
+#include "sample/older_releases.h"
+#include "sample/races.h"
+#include "sample/recordings.h"
+#include "sample/training.h"
+
+#include <utility>
+
+namespace kavela {
+
+namespace {
+
+using namespace sample;
+
+/// The opener's official list waits beside it to be imported.
+void addOpener(std::vector<SampleFile>& files) {
+    splittakerdata031 race = holdRace(springOpener());
+    const auto results = std::exchange(race.info.resultsCSVdata, {});
+    race.info.officialresults = {};
+    files.push_back({"races/spring_opener.kvx", encode(race)});
+    files.push_back({"races/spring_opener_results.csv", officialList(results)});
+}
+
+} // namespace
+
+std::vector<SampleFile> sampleSeason() {
+    std::vector<SampleFile> files{{"races/riverside_cup.kvx", encode(holdRace(riversideCup()))}};
+    addOpener(files);
+    files.push_back({"races/highland_open.kvx", encode(holdRace(highlandOpen()))});
+    files.push_back({"races/harbour_night.kvx", encode(holdRace(harbourNight()))});
+    files.push_back({"races/harbour_cross.kvx", encode(crossRace())});
+    files.push_back({"training/gate_laps.kvx", encode(gateLaps())});
+    files.push_back({"training/form_test.kvx", encode(formTest())});
+    files.push_back({"recordings/upstream_drill.kvb", encode(upstreamDrill())});
+    files.push_back({"recordings/sprint_with_watch.kvb", encode(sprintWithWatch())});
+    files.push_back({"recordings/old_phone_v4.kvb", encode(oldPhone())});
+    for (OldFile& file : filesOfOldReleases())
+        files.push_back(
+            {"older/release_" + std::string(file.release) + ".kvx", std::move(file.text)});
+    return files;
+}
+
+} // namespace kavela

@@ -1,0 +1,19 @@
+#pragma once
+
+#include <filesystem>
+#include <string>
+#include <vector>
+
+namespace kavela {
+
+/// A file of the sample season.
+struct SampleFile {
+    std::filesystem::path name; ///< relative, with its folder
+    std::string content;
+};
+
+/// The sample season: races, trainings, recordings, and files of older releases, all of invented
+/// people on invented courses. The same bytes at every call.
+[[nodiscard]] std::vector<SampleFile> sampleSeason();
+
+} // namespace kavela
