@@ -1,0 +1,15 @@
+#pragma once
+
+#include <CLI/App.hpp>
+
+/// The subcommands of `kavela`. Each adds itself to the call's parser; when the call names it, it
+/// does its work and leaves the exit status.
+namespace kavela::cli {
+
+void addInfo(CLI::App& app, int& status);
+void addUpgrade(CLI::App& app, int& status);
+void addShow(CLI::App& app, int& status);
+void addExport(CLI::App& app, int& status);
+void addDemo(CLI::App& app, int& status);
+
+} // namespace kavela::cli

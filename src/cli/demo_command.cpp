@@ -1,0 +1,72 @@
+#include "cli/commands.h"
+
+#include "cli/console.h"
+#include "common/error.h"
+#include "common/safe_file.h"
+#include "sample/season.h"
+
+#include <CLI/CLI.hpp>
+
+#include <fstream>
+#include <iterator>
+#include <memory>
+
+namespace kavela::cli {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+/// Whether a sample file would replace something of the user's own.
+bool wouldReplace(const fs::path& target, const SampleFile& file) {
+    std::ifstream present(target, std::ios::binary);
+    if (!present)
+        return fs::exists(target);
+    const std::string content{std::istreambuf_iterator<char>(present), {}};
+    return content != file.content;
+}
+
+int writeSeason(const fs::path& folder) {
+    const std::vector<SampleFile> season = sampleSeason();
+    for (const SampleFile& file : season) {
+        if (wouldReplace(folder / file.name, file)) {
+            logLine("The file " + pathText(folder / file.name) +
+                    " exists and is not the sample's. Choose another folder.");
+            return NotDone;
+        }
+    }
+    for (const SampleFile& file : season) {
+        const fs::path target = folder / file.name;
+        std::error_code error;
+        fs::create_directories(target.parent_path(), error);
+        if (error)
+            throw FileError(target.parent_path(), error.message());
+        writeFileSafely(target, file.content);
+    }
+    const std::string count = counted(static_cast<std::int64_t>(season.size()), "file", "files");
+    return print("The sample season stands in " + pathText(folder) + ": " + count + ".\n")
+               ? Done
+               : NotDone;
+}
+
+int demo(const fs::path& folder) {
+    try {
+        return writeSeason(folder);
+    } catch (const FileError& error) {
+        logLine("Failed to create file");
+        logLine("The file " + pathText(error.path()) + " could not be written: " + error.reason());
+        return NotDone;
+    }
+}
+
+} // namespace
+
+void addDemo(CLI::App& app, int& status) {
+    const auto folder = std::make_shared<std::string>();
+    CLI::App* command = app.add_subcommand("demo", "Writes a sample season to try Kavela with");
+    command->add_option("FOLDER", *folder, "Folder to write to; made where it is missing")
+        ->required();
+    command->callback([folder, &status] { status = demo(*folder); });
+}
+
+} // namespace kavela::cli

@@ -1,0 +1,42 @@
+#include "cli/commands.h"
+#include "cli/console.h"
+
+#include <CLI/CLI.hpp>
+
+#include <cstdio>
+#include <exception>
+
+using namespace kavela;
+
+namespace {
+
+/// Parses the call and runs the subcommand it names.
+int run(int argc, char** argv) {
+    CLI::App app{"Kavela: splits, results and recordings of canoe slalom.", "kavela"};
+    app.set_version_flag("--version", KAVELA_VERSION);
+    app.require_subcommand(1);
+    app.get_formatter()->column_width(34);
+    int status = cli::Done;
+    cli::addInfo(app, status);
+    cli::addUpgrade(app, status);
+    cli::addShow(app, status);
+    cli::addExport(app, status);
+    cli::addDemo(app, status);
+    try {
+        app.parse(argc, argv);
+    } catch (const CLI::ParseError& error) {
+        return app.exit(error) == 0 ? cli::Done : cli::WrongCall;
+    }
+    return status;
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    try {
+        return run(argc, argv);
+    } catch (const std::exception& error) {
+        cli::logLine(error.what());
+        return cli::NotDone;
+    }
+}

@@ -1,0 +1,105 @@
+#include "cli/commands.h"
+
+#include "analysis/split_table.h"
+#include "app/preferences.h"
+#include "cli/console.h"
+#include "cli/show_json.h"
+#include "cli/show_text.h"
+#include "splitdata/loader.h"
+
+#include <CLI/CLI.hpp>
+
+#include <memory>
+#include <set>
+
+namespace kavela::cli {
+
+namespace {
+
+struct ShowCall {
+    std::string file;
+    std::string mode;
+    bool accumulated = false;
+    std::optional<bool> penaltiesIncluded;
+    std::optional<bool> penaltiesVisible;
+    std::string category;
+    std::string phase;
+    bool json = false;
+};
+
+TableSettings settingsOf(const ShowCall& call) {
+    const Preferences preferences;
+    TableSettings settings;
+    settings.kind = call.accumulated ? ValueKind::Accumulated : ValueKind::Sections;
+    settings.penaltiesIncluded =
+        call.penaltiesIncluded.value_or(preferences.boolean("penaltiesIncluded"));
+    settings.penaltiesVisible =
+        call.penaltiesVisible.value_or(preferences.boolean("penaltiesVisible"));
+    settings.colorMode = call.mode.empty()     ? preferences.string("colorMode")
+                         : call.mode == "race" ? "Race"
+                                               : "Training";
+    return settings;
+}
+
+/// What the runs hold in one field, for the message when none holds what was asked for.
+std::string valuesOf(const RaceSet& set, std::string analyzerdata::*field) {
+    std::set<std::string> values;
+    for (const analyzerdata& run : set.alldata)
+        values.insert(run.*field);
+    std::string text;
+    for (const std::string& value : values)
+        text += (text.empty() ? "\"" : ", \"") + value + '"';
+    return text;
+}
+
+void filter(RaceSet& set, std::string analyzerdata::*field, const std::string& wanted,
+            std::string_view fieldName) {
+    if (wanted.empty())
+        return;
+    const std::string present = valuesOf(set, field);
+    filterRaceSet(set, [&](const analyzerdata& run) { return run.*field == wanted; });
+    if (set.alldata.empty() && !present.empty())
+        logLine("No run has the " + std::string(fieldName) + " \"" + wanted + "\". There is " +
+                present + ".");
+}
+
+int show(const ShowCall& call) {
+    RecognisedSplitFile file = recogniseSplitFile(call.file, logLine, systemNow);
+    if (!file.version) {
+        ConsoleAlerts alerts;
+        reportIncompatible(file, logLine, alerts);
+        return NotDone;
+    }
+    const RaceHeading heading = headingOf(file.document.info);
+    RaceSet set = makeRaceSet(std::move(file.document), call.file);
+    filter(set, &analyzerdata::category, call.category, "category");
+    filter(set, &analyzerdata::phase, call.phase, "phase");
+
+    const TableSettings settings = settingsOf(call);
+    const SplitTable table = makeSplitTable(set, settings);
+    const std::string output =
+        call.json ? tableJson(table) : tableText(heading, table, settings, standardOutput());
+    return print(output) ? Done : NotDone;
+}
+
+} // namespace
+
+void addShow(CLI::App& app, int& status) {
+    const auto call = std::make_shared<ShowCall>();
+    CLI::App* command = app.add_subcommand("show", "Prints the coloured split table of a race");
+    command->add_option("FILE", call->file, "Split file (.kvx) of any release")->required();
+    command->add_option("--mode", call->mode, "Colours: race or training")
+        ->check(CLI::IsMember({"race", "training"}));
+    command->add_flag("--accumulated", call->accumulated, "Times from the start to each split");
+    command->add_flag("--penalties-included,!--no-penalties-included", call->penaltiesIncluded,
+                      "Add penalty seconds to the times");
+    command->add_flag("--penalties-visible,!--no-penalties-visible", call->penaltiesVisible,
+                      "Show penalty seconds behind the times");
+    command->add_option("--category", call->category, "Only runs of this category");
+    command->add_option("--phase", call->phase, "Only runs of this phase");
+    command->add_flag("--json", call->json, "Print one JSON document");
+    command->footer("A file of an older release is read without being rewritten.");
+    command->callback([call, &status] { status = show(*call); });
+}
+
+} // namespace kavela::cli
