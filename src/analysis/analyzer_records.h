@@ -65,6 +65,7 @@ struct analyzerdata {
     std::filesystem::path fileURL; ///< the split file the run came from
     std::int64_t athleteInt = 0;   ///< index of the run in that file
     std::string category;          ///< of the run, or of the race where the run has none
+    std::vector<std::int64_t> gatePenalties; ///< as stored: by gate where the course was set up so
 };
 
 /// One upstream gate of a comparison run.

@@ -59,6 +59,7 @@ analyzerdata comparisonRecord(const infodata031& info, athletedata031&& run, con
     record.event = info.event;
     record.location = info.place;
     record.videoname = filmsBeside(file, run.videoname);
+    record.gatePenalties = run.sectioninfo.pens;
     record.sectioninfo = sectionFigures(info, std::move(run.sectioninfo));
     record.customData = std::move(run.customData);
     record.fixcameras = filmsBeside(file, run.fixcameras);
@@ -85,6 +86,9 @@ RaceSet makeRaceSet(splittakerdata031 document, const fs::path& file) {
     RaceSet set;
     set.sectiontitles = document.info.splitTitles;
     set.totalsplits = document.info.totalsplits;
+    set.gates = document.info.gates;
+    set.upGates = document.info.upGates;
+    set.definedsections = document.info.definedsections;
     set.alldata.reserve(document.athletes.size());
     for (athletedata031& run : document.athletes)
         set.alldata.push_back(

@@ -13,6 +13,9 @@ struct RaceSet {
     std::vector<analyzerdata> alldata;
     std::vector<std::string> sectiontitles;
     std::int64_t totalsplits = 0; ///< number of sections of the course
+    std::int64_t gates = 0;       ///< number of gates of the course
+    std::vector<std::int64_t> upGates;
+    std::vector<std::vector<std::int64_t>> definedsections; ///< gate numbers of each section
 
     /// Whether the whole course of a run was timed.
     [[nodiscard]] bool isFull(const analyzerdata& run) const;

@@ -1,7 +1,7 @@
 #include "cli/commands.h"
 
+#include "app/file_facts.h"
 #include "cli/console.h"
-#include "cli/file_facts.h"
 #include "common/display_text.h"
 
 #include <CLI/CLI.hpp>

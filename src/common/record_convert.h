@@ -26,14 +26,14 @@ void convertRenamed(From&, To&) {}
 
 template <class T>
 void convertValue(T&& from, T& to) {
-    to = std::move(from);
+    to = std::forward<T>(from);
 }
 
 /// One value became a list of values: a single video, the marks of one camera.
 template <class T>
 void convertValue(T&& from, std::vector<T>& to) {
     to.clear();
-    to.push_back(std::move(from));
+    to.push_back(std::forward<T>(from));
 }
 
 /// A number kept as text: 0 when the text is no whole number.

@@ -25,13 +25,13 @@ double officialTotal(const FilmedRun& run) {
 /// Gives the runs of one category and phase their places, and orders them by these; boats that did
 /// not finish have place 0 and come last.
 void rank(std::vector<FilmedRun>& runs) {
-    const auto didNotFinish = std::ranges::stable_partition(
-        runs, [](const FilmedRun& run) { return run.passage.isFinished(); });
-    std::sort(runs.begin(), didNotFinish.begin(), [](const FilmedRun& a, const FilmedRun& b) {
+    const auto didNotFinish = std::stable_partition(
+        runs.begin(), runs.end(), [](const FilmedRun& run) { return run.passage.isFinished(); });
+    std::sort(runs.begin(), didNotFinish, [](const FilmedRun& a, const FilmedRun& b) {
         return std::pair(officialTotal(a), a.boat.bib) < std::pair(officialTotal(b), b.boat.bib);
     });
     std::int64_t place = 0;
-    for (auto run = runs.begin(); run != didNotFinish.begin(); ++run)
+    for (auto run = runs.begin(); run != didNotFinish; ++run)
         run->record.pos = ++place;
 }
 
@@ -100,6 +100,7 @@ void holdPhase(const RacePlan& plan, const Phase& phase, std::vector<Boat>& star
     starters.resize(std::min(starters.size(), phase.boats));
     Dice dice(plan.title + starters.front().category + phase.name);
     std::vector<FilmedRun> runs;
+    runs.reserve(starters.size());
     for (const Boat& boat : starters)
         runs.push_back(raceRun(plan, phase, boat, dice));
     rank(runs);
@@ -110,11 +111,10 @@ void holdPhase(const RacePlan& plan, const Phase& phase, std::vector<Boat>& star
         analyse(runs, plan, race.info, dice);
         noteInterest(race.info, runs);
     }
-    starters.clear();
-    for (FilmedRun& run : runs) {
-        starters.push_back(run.boat);
+    for (std::size_t i = 0; i < runs.size(); ++i)
+        starters[i] = runs[i].boat;
+    for (FilmedRun& run : runs)
         race.athletes.push_back(std::move(run.record));
-    }
 }
 
 } // namespace

@@ -1,12 +1,11 @@
-#include "cli/file_facts.h"
+#include "app/file_facts.h"
 
 #include "boatmotion/session_files.h"
-#include "cli/console.h"
 #include "common/display_text.h"
 #include "common/json_encode.h"
 #include "splitdata/loader.h"
 
-namespace kavela::cli {
+namespace kavela {
 
 BOOST_DESCRIBE_STRUCT(AttemptFact, (), (record, fault))
 BOOST_DESCRIBE_STRUCT(FileFacts, (), (path, kind, record, label, current, counts, error, attempts))
@@ -31,8 +30,8 @@ std::map<std::string, std::int64_t> countsOf(const splittakerdata031& document) 
 
 /// Takes over what a family of types found; false when none of it decoded.
 bool tryAsSplitFile(const JsonDocument& json, FileFacts& facts) {
-    const RecognisedSplitFile found =
-        recogniseSplitDocument(json, facts.path, logNothing, systemNow);
+    const RecognisedSplitFile found = recogniseSplitDocument(
+        json, facts.path, [](std::string_view) {}, systemNow);
     for (const FailedAttempt& failure : found.failures)
         facts.attempts.push_back({std::string(failure.record), failure.fault.message()});
     if (!found.version)
@@ -98,7 +97,7 @@ void failEverything(const fs::path& path, const std::string& reason, FileFacts& 
 
 FileFacts factsOf(const fs::path& path) {
     FileFacts facts;
-    facts.path = pathText(path);
+    facts.path = validUtf8(path.string());
     try {
         const JsonDocument json = JsonDocument::fromFile(path);
         if (!tryEverything(json, path, facts))
@@ -115,4 +114,4 @@ std::string factsJson(const std::vector<FileFacts>& facts) {
     return encode(facts) + '\n';
 }
 
-} // namespace kavela::cli
+} // namespace kavela

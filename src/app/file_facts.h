@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-namespace kavela::cli {
+namespace kavela {
 
 /// A record that a file was tried as in vain.
 struct AttemptFact {
@@ -34,4 +34,4 @@ struct FileFacts {
 /// The facts of several files as one JSON document, ended by a line feed.
 [[nodiscard]] std::string factsJson(const std::vector<FileFacts>& facts);
 
-} // namespace kavela::cli
+} // namespace kavela
