@@ -46,7 +46,7 @@ bool tryAsSplitFile(const JsonDocument& json, FileFacts& facts) {
 
 bool tryAsSession(const JsonDocument& json, FileFacts& facts) {
     const SessionRecognition found = recogniseSession(json);
-    for (const FailedSessionAttempt& failure : found.failures)
+    for (const FailedAttempt& failure : found.failures)
         facts.attempts.push_back({std::string(failure.record), failure.fault.message()});
     if (!found.version)
         return false;

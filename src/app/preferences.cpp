@@ -152,6 +152,11 @@ std::optional<std::string> Preferences::rawText(std::string_view key) const {
     return isText(stored) ? std::optional(stored.toString().toStdString()) : std::nullopt;
 }
 
+std::vector<std::string> Preferences::rawList(std::string_view key) const {
+    const auto list = readArray(m_store->settings.value(qtText(key)));
+    return list ? std::get<std::vector<std::string>>(*list) : std::vector<std::string>();
+}
+
 void Preferences::set(std::string_view key, const PreferenceValue& value) {
     m_store->settings.setValue(qtText(key), std::visit(ToVariant(), value));
 }

@@ -68,6 +68,9 @@ public:
     /// The text under a key outside the table; nothing when there is none or it is no text.
     [[nodiscard]] std::optional<std::string> rawText(std::string_view key) const;
 
+    /// The list under a key outside the table; empty when there is none.
+    [[nodiscard]] std::vector<std::string> rawList(std::string_view key) const;
+
     /// Stores a value under a key.
     void set(std::string_view key, const PreferenceValue& value);
 

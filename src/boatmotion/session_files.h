@@ -21,12 +21,6 @@ struct SessionVersion {
     bool current = false;    ///< whether its kind's reader takes it as it is
 };
 
-/// A record that was tried in vain, and the first thing that spoke against it.
-struct FailedSessionAttempt {
-    std::string_view record;
-    Fault fault;
-};
-
 /// The length of one of the main arrays of a session.
 struct SessionCount {
     std::string_view array;
@@ -37,7 +31,7 @@ struct SessionCount {
 struct SessionRecognition {
     std::optional<SessionVersion> version;      ///< nothing when no record decoded
     std::vector<SessionCount> counts;           ///< in the order of the record
-    std::vector<FailedSessionAttempt> failures; ///< the records tried before, in that order
+    std::vector<FailedAttempt> failures; ///< the records tried before, in that order
 };
 
 /// Every session record, in the order in which they are tried.

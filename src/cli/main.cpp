@@ -5,6 +5,7 @@
 
 #include <cstdio>
 #include <exception>
+#include <new>
 
 using namespace kavela;
 
@@ -35,6 +36,9 @@ int run(int argc, char** argv) {
 int main(int argc, char** argv) {
     try {
         return run(argc, argv);
+    } catch (const std::bad_alloc&) {
+        cli::logLine("There is not enough memory for this file.");
+        return cli::NotDone;
     } catch (const std::exception& error) {
         cli::logLine(error.what());
         return cli::NotDone;

@@ -3,6 +3,7 @@
 #include <filesystem>
 #include <stdexcept>
 #include <string>
+#include <string_view>
 
 namespace kavela {
 
@@ -28,6 +29,12 @@ struct Fault {
         const char* const joint = path.empty() || path.front() == '[' ? "" : ".";
         path = '[' + std::to_string(index) + ']' + joint + path;
     }
+};
+
+/// A record type that a document was tried as in vain, and the first thing that spoke against it.
+struct FailedAttempt {
+    std::string_view record;
+    Fault fault;
 };
 
 /// A document that does not hold what its record type asks for, or is no JSON at all.

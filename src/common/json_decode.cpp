@@ -29,7 +29,7 @@ std::string kindOf(simdjson::dom::element element) {
     case simdjson::dom::element_type::UINT64:
         return "an integer";
     case simdjson::dom::element_type::DOUBLE:
-        return "a number with a fraction or an exponent";
+        return "a number that is no 64-bit integer";
     case simdjson::dom::element_type::STRING:
         return "a string";
     case simdjson::dom::element_type::BOOL:

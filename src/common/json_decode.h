@@ -9,7 +9,7 @@
 
 #include <boost/mp11.hpp>
 
-#include <limits>
+#include <algorithm>
 #include <string>
 #include <utility>
 #include <vector>
@@ -86,7 +86,9 @@ bool read(simdjson::dom::element element, std::vector<T>& values, Fault& fault) 
     if (element.get(array) != simdjson::SUCCESS)
         return refuse(fault, "an array", element);
     values.clear();
-    values.reserve(array.size());
+    // A damaged file can hold a million numbers where records are due: no room before it is earned.
+    constexpr std::size_t MostReserved = (std::size_t{4} << 20) / sizeof(T);
+    values.reserve(std::min(array.size(), MostReserved));
     for (const simdjson::dom::element entry : array) {
         if (!read(entry, values.emplace_back(), fault)) {
             fault.prependIndex(values.size() - 1);

@@ -20,12 +20,6 @@ namespace kavela {
 inline constexpr const char* IncompatibleFileText =
     "The imported file is not compatible. Be sure you have the latest KV version.";
 
-/// A document type that was tried in vain, and the first thing that spoke against it.
-struct FailedAttempt {
-    std::string_view record;
-    Fault fault;
-};
-
 /// A split file as found on the disk, brought to the current version in memory only.
 struct RecognisedSplitFile {
     const DocumentVersion* version = nullptr; ///< null when no type decoded
