@@ -43,6 +43,11 @@ struct Character {
     bool isMalformed = false;
 };
 
+/// The C library also takes what looks like UTF-8 but is beyond Unicode, or half a pair.
+bool isUnicode(wchar_t code) {
+    return code >= 0 && code <= 0x10FFFF && !(code >= 0xD800 && code <= 0xDFFF);
+}
+
 std::vector<Character> charactersOf(std::string_view text) {
     std::vector<Character> characters;
     characters.reserve(text.size());
@@ -50,7 +55,7 @@ std::vector<Character> charactersOf(std::string_view text) {
     while (!text.empty()) {
         Character character;
         const std::size_t length = std::mbrtowc(&character.code, text.data(), text.size(), &state);
-        character.isMalformed = length > text.size();
+        character.isMalformed = length > text.size() || !isUnicode(character.code);
         if (character.isMalformed) {
             state = {};
             character.code = Replacement;

@@ -117,6 +117,8 @@ void writeBehindLinks(const fs::path& target, std::string_view content) {
     const auto status = statusOf(target);
     if (status && S_ISDIR(status->st_mode))
         throw FileError(target, "this is a folder, not a file");
+    if (status && !S_ISREG(status->st_mode))
+        throw FileError(target, "this is not an ordinary file");
     if (status && ::access(target.c_str(), W_OK) != 0)
         throw systemFileError(target);
     TemporaryFile temporary(target);
