@@ -16,10 +16,11 @@ fs::path backupName(const fs::path& path, int number) {
 /// Keeps the present content under the first free backup name; throws FileError.
 fs::path makeBackup(const fs::path& path) {
     for (int number = 1;; ++number) {
-        const fs::path name = backupName(path, number);
+        fs::path name = backupName(path, number);
         std::error_code ignored;
         // An earlier attempt that could not write may have left its backup: it will do.
-        if (fs::equivalent(name, path, ignored) || keepUnderSecondName(path, name))
+        const bool isKept = fs::equivalent(name, path, ignored) && !fs::is_symlink(name, ignored);
+        if (isKept || keepUnderSecondName(path, name))
             return name;
     }
 }

@@ -20,6 +20,7 @@ fs::path filmBeside(const fs::path& file, const std::string& name) {
 
 std::vector<fs::path> filmsBeside(const fs::path& file, const std::vector<std::string>& names) {
     std::vector<fs::path> films;
+    films.reserve(names.size());
     for (const std::string& name : names)
         films.push_back(filmBeside(file, name));
     return films;
@@ -54,7 +55,9 @@ analyzerdata comparisonRecord(const infodata031& info, athletedata031&& run, con
     record.names = std::move(run.names);
     record.hand = std::move(run.hand);
     record.phase = std::move(run.phase);
-    record.category = run.cat.empty() ? info.category : std::move(run.cat);
+    record.category = std::move(run.cat);
+    if (record.category.empty())
+        record.category = info.category;
     record.pos = std::to_string(run.pos);
     record.event = info.event;
     record.location = info.place;

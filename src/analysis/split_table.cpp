@@ -141,7 +141,9 @@ void colourTexts(SplitTable& table, const RaceSet& set, const TableSettings& set
 } // namespace
 
 std::string timeText(double seconds, bool isTinted) {
-    return seconds == 0 && isTinted ? "-" : hundredthsText(seconds);
+    if (seconds == 0)
+        return isTinted ? "-" : "0.00"; // also for a zero with a sign
+    return hundredthsText(seconds);
 }
 
 SplitTable makeSplitTable(const RaceSet& set, const TableSettings& settings) {

@@ -81,6 +81,7 @@ std::filesystem::path besideWith(const std::filesystem::path& file, const char* 
 
 std::vector<SessionVersion> sessionVersions() {
     std::vector<SessionVersion> versions;
+    versions.reserve(KnownSessions.size());
     for (const KnownSession& known : KnownSessions)
         versions.push_back(known.version);
     return versions;

@@ -1,0 +1,31 @@
+#pragma once
+
+#include "analysis/race_set.h"
+
+#include <optional>
+#include <span>
+#include <vector>
+
+/// The run that nobody paddled: the best of every section put together. A time of 0 was not taken
+/// and is never a best; penalties are left out.
+namespace kavela {
+
+/// The best of one section.
+struct IdealSection {
+    double time = 0;                ///< 0 when no run has a time
+    std::optional<std::size_t> run; ///< index in the race set; of the first when several are equal
+};
+
+struct IdealRun {
+    std::vector<IdealSection> sections; ///< of the course, up to the last that some run came to
+    std::optional<double> total;        ///< only when every section of the course has a best
+    std::optional<std::size_t> fastest; ///< the full run of the least total time, without penalties
+};
+
+/// The ideal run of some runs of the set, given by their indices.
+[[nodiscard]] IdealRun idealRun(const RaceSet& set, std::span<const std::size_t> runs);
+
+/// The ideal run of the whole set.
+[[nodiscard]] IdealRun idealRun(const RaceSet& set);
+
+} // namespace kavela

@@ -1,0 +1,44 @@
+#pragma once
+
+#include "analysis/split_table.h"
+
+#include <optional>
+
+/// What a coach reads off a cell beside its time: rank, gap, percent behind, percentile. A value of
+/// 0 was not timed: it has no figure and is never a best.
+namespace kavela {
+
+/// What the runs of a table are held against.
+enum class ReferenceKind { Best, Median, Run };
+
+struct TableReference {
+    ReferenceKind kind = ReferenceKind::Best;
+    std::size_t row = 0; ///< of the run, where a run is the reference
+};
+
+/// The figures of every cell of a table.
+class TableFigures {
+public:
+    explicit TableFigures(const SplitTable& table);
+
+    /// Place within the column, the smallest value being 1; equal values share a place.
+    [[nodiscard]] std::optional<int> rank(std::size_t row, std::size_t column) const;
+    /// Timed cells of a column.
+    [[nodiscard]] std::size_t timed(std::size_t column) const { return m_sorted[column].size(); }
+    /// Percent behind the column's best.
+    [[nodiscard]] std::optional<double> percentBehind(std::size_t row, std::size_t column) const;
+    /// Share of the column's timed values that are slower or equal, in percent: 100 for the best.
+    [[nodiscard]] std::optional<double> percentile(std::size_t row, std::size_t column) const;
+    /// Seconds behind the reference's value in the column; negative when faster.
+    [[nodiscard]] std::optional<double> gap(std::size_t row, std::size_t column,
+                                            const TableReference& reference) const;
+
+private:
+    [[nodiscard]] double value(std::size_t row, std::size_t column) const;
+    [[nodiscard]] double referenceValue(std::size_t column, const TableReference& reference) const;
+
+    std::vector<std::vector<double>> m_values; ///< by column, then row
+    std::vector<std::vector<double>> m_sorted; ///< by column: the timed ones, ascending
+};
+
+} // namespace kavela
