@@ -1,12 +1,17 @@
 #include "cli/commands.h"
 
+#include "app/preferences.h"
 #include "cli/console.h"
 #include "common/safe_file.h"
+#include "report/pdf_file.h"
 #include "splitdata/loader.h"
 #include "splittaking/table_export.h"
 
 #include <CLI/CLI.hpp>
 
+#include <QGuiApplication>
+
+#include <functional>
 #include <memory>
 
 namespace kavela::cli {
@@ -18,38 +23,92 @@ namespace fs = std::filesystem;
 struct ExportCall {
     std::string file;
     std::string csv;
+    std::string pdf;
 };
 
-int exportTable(const ExportCall& call) {
-    const RecognisedSplitFile file = recogniseSplitFile(call.file, logLine, systemNow);
+/// The table's settings, as the user left them.
+TableSettings preferredSettings() {
+    const Preferences preferences;
+    TableSettings settings;
+    settings.penaltiesIncluded = preferences.boolean("penaltiesIncluded");
+    settings.penaltiesVisible = preferences.boolean("penaltiesVisible");
+    settings.colorMode = preferences.string("colorMode");
+    return settings;
+}
+
+/// Paints the report into a file. Fonts ask for an application object, and get one that stays off
+/// the screen: a server has none, and one that cannot be reached would end the program.
+void writeReport(splittakerdata031 document, const ExportCall& call) {
+    std::string arguments[] = {"kavela", "-platform", "offscreen"};
+    char* argv[] = {arguments[0].data(), arguments[1].data(), arguments[2].data(), nullptr};
+    int argc = 3;
+    const QGuiApplication application(argc, argv);
+    report::ReportHeading heading = report::reportHeading(document.info);
+    const RaceSet set = makeRaceSet(std::move(document), call.file);
+    const report::RaceReport report(std::move(heading), set, preferredSettings(),
+                                    report::ReportContent::Race);
+    report::writePdf(report, call.pdf);
+}
+
+/// Writes one of the files; false, and the reason in the log, when that failed.
+bool isWritten(const std::string& path, const std::function<void()>& write) {
+    try {
+        write();
+        return true;
+    } catch (const FileError& error) {
+        logLine("Failed to create file");
+        logLine("The file " + path + " could not be written: " + error.reason());
+        return false;
+    }
+}
+
+/// What is wrong with the call, or nothing.
+std::string complaint(const ExportCall& call) {
+    std::error_code ignored;
+    if (call.csv.empty() && call.pdf.empty())
+        return "Say what to write: --csv OUT, --pdf OUT or both.";
+    if (fs::equivalent(call.file, call.csv, ignored))
+        return "The table cannot be written over the split file itself.";
+    if (fs::equivalent(call.file, call.pdf, ignored))
+        return "The report cannot be written over the split file itself.";
+    if (fs::path(call.csv).lexically_normal() == fs::path(call.pdf).lexically_normal())
+        return "The table and the report cannot be written to the same file.";
+    return {};
+}
+
+int exportRace(const ExportCall& call) {
+    if (const std::string text = complaint(call); !text.empty()) {
+        logLine(text);
+        return WrongCall;
+    }
+    RecognisedSplitFile file = recogniseSplitFile(call.file, logLine, systemNow);
     if (!file.version) {
         ConsoleAlerts alerts;
         reportIncompatible(file, logLine, alerts);
         return NotDone;
     }
-    std::error_code ignored;
-    if (fs::equivalent(call.file, call.csv, ignored)) {
-        logLine("The table cannot be written over the split file itself.");
-        return WrongCall;
-    }
-    try {
-        writeFileSafely(call.csv, splitTableCsv(file.document));
-    } catch (const FileError& error) {
-        logLine("Failed to create file");
-        logLine("The file " + call.csv + " could not be written: " + error.reason());
-        return NotDone;
-    }
-    return Done;
+    bool isDone = true;
+    if (!call.csv.empty())
+        isDone =
+            isWritten(call.csv, [&] { writeFileSafely(call.csv, splitTableCsv(file.document)); });
+    if (!call.pdf.empty())
+        isDone &= isWritten(call.pdf, [&] { writeReport(std::move(file.document), call); });
+    return isDone ? Done : NotDone;
 }
 
 } // namespace
 
 void addExport(CLI::App& app, int& status) {
     const auto call = std::make_shared<ExportCall>();
-    CLI::App* command = app.add_subcommand("export", "Writes the split table for a spreadsheet");
+    CLI::App* command =
+        app.add_subcommand("export", "Writes the split table for a spreadsheet, or a report");
     command->add_option("FILE", call->file, "Split file (.kvx) of any release")->required();
-    command->add_option("--csv", call->csv, "File to write: semicolon-separated text")->required();
-    command->callback([call, &status] { status = exportTable(*call); });
+    command->add_option("--csv", call->csv, "File to write: semicolon-separated text");
+    command->add_option("--pdf", call->pdf, "File to write: the race report, on A4 pages");
+    command->footer(
+        "At least one of the two is written. A file of an older release is read without "
+        "being rewritten.");
+    command->callback([call, &status] { status = exportRace(*call); });
 }
 
 } // namespace kavela::cli

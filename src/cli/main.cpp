@@ -1,5 +1,6 @@
 #include "cli/commands.h"
 #include "cli/console.h"
+#include "cli/start_desktop.h"
 
 #include <CLI/CLI.hpp>
 
@@ -15,7 +16,10 @@ namespace {
 int run(int argc, char** argv) {
     CLI::App app{"Kavela: splits, results and recordings of canoe slalom.", "kavela"};
     app.set_version_flag("--version", KAVELA_VERSION);
-    app.require_subcommand(1);
+    app.require_subcommand(0, 1);
+    app.footer("Without a command, the desktop program starts and opens the files in their tools.");
+    std::vector<std::string> files;
+    app.add_option("FILE", files, "Files to open in the desktop program");
     app.get_formatter()->column_width(34);
     int status = cli::Done;
     cli::addInfo(app, status);
@@ -28,7 +32,7 @@ int run(int argc, char** argv) {
     } catch (const CLI::ParseError& error) {
         return app.exit(error) == 0 ? cli::Done : cli::WrongCall;
     }
-    return status;
+    return app.get_subcommands().empty() ? cli::startDesktop(files) : status;
 }
 
 } // namespace

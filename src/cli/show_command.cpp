@@ -20,8 +20,8 @@ struct ShowCall {
     std::string file;
     std::string mode;
     bool accumulated = false;
-    std::optional<bool> penaltiesIncluded;
-    std::optional<bool> penaltiesVisible;
+    int penaltiesIncluded = 0; ///< above 0 wanted, below 0 not wanted, 0 as the preference says
+    int penaltiesVisible = 0;
     std::string category;
     std::string phase;
     bool json = false;
@@ -29,12 +29,13 @@ struct ShowCall {
 
 TableSettings settingsOf(const ShowCall& call) {
     const Preferences preferences;
+    const auto decided = [&](int flag, std::string_view key) {
+        return flag == 0 ? preferences.boolean(key) : flag > 0;
+    };
     TableSettings settings;
     settings.kind = call.accumulated ? ValueKind::Accumulated : ValueKind::Sections;
-    settings.penaltiesIncluded =
-        call.penaltiesIncluded.value_or(preferences.boolean("penaltiesIncluded"));
-    settings.penaltiesVisible =
-        call.penaltiesVisible.value_or(preferences.boolean("penaltiesVisible"));
+    settings.penaltiesIncluded = decided(call.penaltiesIncluded, "penaltiesIncluded");
+    settings.penaltiesVisible = decided(call.penaltiesVisible, "penaltiesVisible");
     settings.colorMode = call.mode.empty()     ? preferences.string("colorMode")
                          : call.mode == "race" ? "Race"
                                                : "Training";

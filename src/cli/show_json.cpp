@@ -2,6 +2,8 @@
 
 #include "common/json_encode.h"
 
+#include <cmath>
+
 namespace kavela::cli {
 
 namespace {
@@ -16,7 +18,7 @@ BOOST_DESCRIBE_STRUCT(ColumnJson, (), (number, title))
 
 struct CellJson {
     std::optional<std::int32_t> column;
-    double value = 0;
+    std::optional<double> value; ///< null when huge times of a damaged file add up to no number
     std::string text;
     std::optional<std::string> band;
     std::optional<Channels> background;
@@ -48,7 +50,8 @@ std::optional<Channels> channels(const std::optional<Colour>& colour) {
 CellJson cellJson(const TableCell& cell) {
     CellJson json;
     json.column = cell.column;
-    json.value = cell.value;
+    if (std::isfinite(cell.value))
+        json.value = cell.value;
     json.text = cell.text;
     if (cell.band)
         json.band = bandName(*cell.band);

@@ -5,6 +5,7 @@
 #include <fmt/format.h>
 
 #include <algorithm>
+#include <cmath>
 
 namespace kavela::cli {
 
@@ -23,7 +24,7 @@ constexpr Colour TextRed{0.88, 0.25, 0.2, 1};
 
 int channel(double value, double alpha) {
     // A terminal has no alpha: the colour is laid over white, as on the screen's page.
-    return static_cast<int>((value * alpha + (1 - alpha)) * 255 + 0.5);
+    return static_cast<int>(std::lround((value * alpha + (1 - alpha)) * 255));
 }
 
 std::string colourCode(int ground, const Colour& colour) {

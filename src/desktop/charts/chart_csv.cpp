@@ -1,0 +1,38 @@
+#include "desktop/charts/chart_csv.h"
+
+#include "common/number_text.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+namespace kavela::desktop {
+
+namespace {
+
+constexpr double Precision = 1e6; ///< parts of a second: far below the interval of any film
+
+QString quoted(QString field) {
+    static constexpr std::array Special{';', '"', '\n', '\r'};
+    const bool needsQuotes =
+        std::ranges::any_of(Special, [&](char c) { return field.contains(QLatin1Char(c)); });
+    return needsQuotes ? '"' + field.replace("\"", "\"\"") + '"' : field;
+}
+
+} // namespace
+
+QString csvLine(const QStringList& fields) {
+    QStringList safe;
+    for (const QString& field : fields)
+        safe << quoted(field);
+    return safe.join(';') + '\n';
+}
+
+QString csvNumber(std::optional<double> value) {
+    if (!value)
+        return {};
+    const double rounded = std::round(*value * Precision) / Precision;
+    return QString::fromStdString(plainText(std::isfinite(rounded) ? rounded : *value));
+}
+
+} // namespace kavela::desktop

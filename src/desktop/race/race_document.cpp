@@ -1,0 +1,144 @@
+#include "desktop/race/race_document.h"
+
+#include "analysis/open_race.h"
+#include "desktop/shell/workspace.h"
+
+#include <QFileInfo>
+
+namespace kavela::desktop {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+QString qtText(const std::string& text) {
+    return QString::fromStdString(text);
+}
+
+/// Shows the loader's alerts through the workspace.
+class WorkspaceAlerts : public Alerts {
+public:
+    WorkspaceAlerts(Workspace& workspace, QWidget* over) : m_workspace(workspace), m_over(over) {}
+    void show(const Alert& alert) override { m_workspace.showAlert(alert, m_over); }
+
+private:
+    Workspace& m_workspace;
+    QWidget* m_over;
+};
+
+fs::file_time_type lastWritten(const QString& path) {
+    std::error_code ignored;
+    return fs::last_write_time(path.toStdString(), ignored);
+}
+
+QString upgradeNote(const OpenedRace& race) {
+    if (race.foundAs == &documentVersions().front())
+        return {};
+    const QString version = QString::fromUtf8(race.foundAs->label.data(),
+                                              static_cast<qsizetype>(race.foundAs->label.size()));
+    if (race.backup.empty())
+        return RaceDocument::tr("A file of version %1. It could not be rewritten in the current "
+                                "version and stays as it is.")
+            .arg(version);
+    return RaceDocument::tr("A file of version %1, rewritten in the current one. The previous file "
+                            "is kept as %2.")
+        .arg(version, qtText(race.backup.filename().string()));
+}
+
+} // namespace
+
+RaceDocument::RaceDocument(Workspace& workspace, QObject* parent)
+    : QObject(parent), m_workspace(workspace) {
+    connect(&m_workspace, &Workspace::preferenceChanged, this, [this](const QString& key) {
+        if (key == "colorMode" || key == "penaltiesIncluded" || key == "penaltiesVisible")
+            rebuild();
+    });
+    connect(&m_watcher, &QFileSystemWatcher::fileChanged, this, &RaceDocument::noticeDisk);
+}
+
+bool RaceDocument::open(const QString& path, QWidget* over) {
+    WorkspaceAlerts alerts(m_workspace, over);
+    const fs::path file = QFileInfo(path).absoluteFilePath().toStdString();
+    auto race = openRace(file, m_workspace.log(), alerts, m_workspace.clock());
+    if (!race)
+        return false;
+    m_path = qtText(file.string());
+    m_upgradeNote = desktop::upgradeNote(*race);
+    m_info = race->document.info;
+    m_whole = makeRaceSet(std::move(race->document), file);
+    m_filter = {};
+    m_workspace.addRecentFile(m_path);
+    watch();
+    rebuild();
+    return true;
+}
+
+QString RaceDocument::title() const {
+    const std::string& name = m_info.title.empty() ? m_info.event : m_info.title;
+    return name.empty() ? QFileInfo(m_path).completeBaseName() : qtText(name);
+}
+
+QString RaceDocument::subtitle() const {
+    QStringList parts;
+    for (const std::string& part : {m_info.session, m_info.place, dayText(m_info.date)})
+        if (!part.empty())
+            parts.append(qtText(part));
+    parts.append(tr("%1 gates, %2 upstream").arg(m_info.gates).arg(m_info.upGates.size()));
+    return parts.join(" · ");
+}
+
+TableSettings RaceDocument::settings() const {
+    const Preferences& preferences = m_workspace.preferences();
+    TableSettings settings;
+    settings.kind = m_isAccumulated ? ValueKind::Accumulated : ValueKind::Sections;
+    settings.penaltiesIncluded = preferences.boolean("penaltiesIncluded");
+    settings.penaltiesVisible = preferences.boolean("penaltiesVisible");
+    settings.colorMode = preferences.string("colorMode");
+    return settings;
+}
+
+void RaceDocument::setFilter(const RunFilter& filter) {
+    if (filter == m_filter)
+        return;
+    m_filter = filter;
+    rebuild();
+}
+
+void RaceDocument::setAccumulated(bool accumulated) {
+    if (accumulated == m_isAccumulated)
+        return;
+    m_isAccumulated = accumulated;
+    rebuild();
+}
+
+void RaceDocument::rebuild() {
+    m_shown = m_whole;
+    const auto accepts = [](const QString& wanted, const std::string& value) {
+        return wanted.isEmpty() || qtText(value) == wanted;
+    };
+    filterRaceSet(m_shown, [&](const analyzerdata& run) {
+        return accepts(m_filter.phase, run.phase) && accepts(m_filter.category, run.category) &&
+               qtText(run.name).contains(m_filter.name, Qt::CaseInsensitive);
+    });
+    m_table = makeSplitTable(m_shown, settings());
+    m_figures.emplace(m_table);
+    emit tableChanged();
+}
+
+void RaceDocument::watch() {
+    if (!m_watcher.files().isEmpty())
+        m_watcher.removePaths(m_watcher.files());
+    m_watcher.addPath(m_path);
+    m_readTime = lastWritten(m_path);
+}
+
+void RaceDocument::noticeDisk() {
+    const bool isSame = QFileInfo::exists(m_path) && lastWritten(m_path) == m_readTime;
+    // A file replaced by renaming is watched no longer.
+    if (QFileInfo::exists(m_path) && m_watcher.files().isEmpty())
+        m_watcher.addPath(m_path);
+    if (!isSame)
+        emit changedOnDisk();
+}
+
+} // namespace kavela::desktop

@@ -1,0 +1,83 @@
+#pragma once
+
+#include "analysis/race_set.h"
+#include "analysis/split_table.h"
+#include "analysis/table_figures.h"
+
+#include <QFileSystemWatcher>
+#include <QObject>
+
+#include <filesystem>
+#include <optional>
+
+class QWidget;
+
+namespace kavela::desktop {
+
+class Workspace;
+
+/// Which runs of the race are shown. An empty text accepts every run.
+struct RunFilter {
+    QString phase;
+    QString category;
+    QString name; ///< part of a name
+
+    friend bool operator==(const RunFilter&, const RunFilter&) = default;
+};
+
+/// A race in the analyzer: the runs of a split file, those that the filter leaves, and their table
+/// as the preferences want it. The file itself is never edited here.
+class RaceDocument : public QObject {
+    Q_OBJECT
+
+public:
+    explicit RaceDocument(Workspace& workspace, QObject* parent = nullptr);
+
+    /// Opens a split file of any release, upgraded in place with its previous content kept. False,
+    /// after an alert, when it cannot be opened; the document is then as it was.
+    [[nodiscard]] bool open(const QString& path, QWidget* over);
+
+    [[nodiscard]] const QString& path() const { return m_path; }
+    [[nodiscard]] QString title() const;
+    [[nodiscard]] QString subtitle() const;
+    [[nodiscard]] const infodata031& info() const { return m_info; }
+    /// What the file was before it was opened, when it was of an older release.
+    [[nodiscard]] const QString& upgradeNote() const { return m_upgradeNote; }
+
+    [[nodiscard]] const RaceSet& wholeSet() const { return m_whole; }
+    [[nodiscard]] const RaceSet& shownSet() const { return m_shown; }
+    [[nodiscard]] const SplitTable& table() const { return m_table; }
+    [[nodiscard]] const TableFigures& figures() const { return *m_figures; }
+    [[nodiscard]] TableSettings settings() const;
+
+    [[nodiscard]] const RunFilter& filter() const { return m_filter; }
+    void setFilter(const RunFilter& filter);
+    void setAccumulated(bool accumulated);
+    [[nodiscard]] bool isAccumulated() const { return m_isAccumulated; }
+
+signals:
+    /// The table is another one: other runs, values or colours.
+    void tableChanged();
+    /// The file on the disk is not the one that was opened any more.
+    void changedOnDisk();
+
+private:
+    void rebuild();
+    void watch();
+    void noticeDisk();
+
+    Workspace& m_workspace;
+    QFileSystemWatcher m_watcher;
+    QString m_path;
+    QString m_upgradeNote;
+    std::filesystem::file_time_type m_readTime;
+    infodata031 m_info;
+    RunFilter m_filter;
+    bool m_isAccumulated = false;
+    RaceSet m_whole;
+    RaceSet m_shown;
+    SplitTable m_table;
+    std::optional<TableFigures> m_figures;
+};
+
+} // namespace kavela::desktop

@@ -1,0 +1,162 @@
+#include "desktop/race/run_panel.h"
+
+#include "common/number_text.h"
+#include "desktop/race/race_document.h"
+#include "desktop/shell/theme.h"
+#include "splitdata/run_timing.h"
+
+#include <QHeaderView>
+#include <QLabel>
+#include <QTableWidget>
+#include <QVBoxLayout>
+
+namespace kavela::desktop {
+
+namespace {
+
+QString qtText(const std::string& text) {
+    return QString::fromStdString(text);
+}
+
+QString timeOrDash(double seconds) {
+    return seconds == 0 ? "–" : qtText(hundredthsText(seconds));
+}
+
+QString signedOrDash(const std::optional<double>& seconds) {
+    if (!seconds)
+        return "–";
+    return (*seconds > 0 ? "+" : "") + qtText(hundredthsText(*seconds));
+}
+
+QString gateText(const RaceSet& set, const analyzerdata& run) {
+    if (!std::cmp_equal(run.gatePenalties.size(), set.gates))
+        return {};
+    QStringList touched;
+    QStringList missed;
+    for (std::size_t gate = 0; gate < run.gatePenalties.size(); ++gate) {
+        if (run.gatePenalties[gate] >= 50)
+            missed.append(QString::number(gate + 1));
+        else if (run.gatePenalties[gate] > 0)
+            touched.append(QString::number(gate + 1));
+    }
+    if (touched.isEmpty() && missed.isEmpty())
+        return RunPanel::tr("A clean run.");
+    QStringList parts;
+    if (!touched.isEmpty())
+        parts.append(RunPanel::tr("Touched: gate %1.").arg(touched.join(", ")));
+    if (!missed.isEmpty())
+        parts.append(RunPanel::tr("Missed: gate %1.").arg(missed.join(", ")));
+    return parts.join(' ');
+}
+
+enum SectionColumn { TitleColumn, TimeColumn, PenaltyColumn, RankColumn, GapColumn, Columns };
+
+QTableWidget* makeSections() {
+    auto* table = new QTableWidget(0, Columns);
+    table->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    table->setSelectionMode(QAbstractItemView::NoSelection);
+    table->setFocusPolicy(Qt::NoFocus);
+    table->setShowGrid(false);
+    table->verticalHeader()->hide();
+    table->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    table->horizontalHeader()->setSectionResizeMode(TitleColumn, QHeaderView::Stretch);
+    return table;
+}
+
+QLabel* wrapped(const QFont& font) {
+    auto* label = new QLabel;
+    label->setFont(font);
+    label->setWordWrap(true);
+    label->setTextFormat(Qt::PlainText);
+    label->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    return label;
+}
+
+} // namespace
+
+RunPanel::RunPanel(RaceDocument& document, QWidget* parent)
+    : QWidget(parent),
+      m_document(document),
+      m_name(wrapped(theme::titleFont(*this))),
+      m_facts(wrapped(font())),
+      m_gates(wrapped(font())),
+      m_sections(makeSections()),
+      m_empty(wrapped(theme::captionFont(*this))) {
+    m_empty->setText(tr("Select a run to see its sections. Select two to compare them."));
+    m_empty->setForegroundRole(QPalette::PlaceholderText);
+    auto* column = new QVBoxLayout(this);
+    column->setSpacing(theme::Spacing);
+    column->addWidget(m_name);
+    column->addWidget(m_facts);
+    column->addWidget(m_gates);
+    column->addWidget(m_sections, 1);
+    column->addWidget(m_empty);
+    column->addStretch(0);
+    setMinimumWidth(300);
+    showRun(std::nullopt, std::nullopt);
+}
+
+void RunPanel::showRun(std::optional<std::size_t> run, std::optional<std::size_t> against) {
+    for (QWidget* widget : std::initializer_list<QWidget*>{m_name, m_facts, m_gates, m_sections})
+        widget->setVisible(run.has_value());
+    m_empty->setVisible(!run);
+    if (!run)
+        return;
+    fillHeading(*run, against);
+    fillSections(*run, against);
+}
+
+void RunPanel::fillHeading(std::size_t run, std::optional<std::size_t> against) {
+    const RaceSet& set = m_document.shownSet();
+    const analyzerdata& record = set.alldata[run];
+    const sectionmaindata& section = record.sectioninfo;
+    QString name = qtText(record.name);
+    if (against)
+        name += tr(" against %1").arg(qtText(set.alldata[*against].name));
+    m_name->setText(name);
+
+    QStringList facts{qtText(record.category), qtText(record.phase)};
+    facts.removeAll(QString());
+    QString text = facts.join(" · ");
+    text +=
+        tr("\nTotal %1 s, penalties %2 s").arg(timeOrDash(section.totaltime)).arg(section.totalpen);
+    if (section.realtime != 0)
+        text += tr("\nReal %1 s, penalties %2 s")
+                    .arg(timeOrDash(section.realtime))
+                    .arg(section.realpen);
+    if (section.xTime != 0)
+        text += tr("\nExpected %1 s").arg(timeOrDash(section.xTime));
+    if (!set.isFull(record))
+        text += tr("\nNot the whole course");
+    m_facts->setText(text);
+    m_gates->setText(gateText(set, record));
+    m_gates->setVisible(!m_gates->text().isEmpty());
+}
+
+void RunPanel::fillSections(std::size_t run, std::optional<std::size_t> against) {
+    const SplitTable& table = m_document.table();
+    const TableReference reference =
+        against ? TableReference{ReferenceKind::Run, *against} : TableReference{};
+    m_sections->setHorizontalHeaderLabels(
+        {tr("Section"), tr("Time"), tr("Pen"), tr("Place"), against ? tr("Gap") : tr("To best")});
+    m_sections->setRowCount(static_cast<int>(table.columns.size()));
+    const std::vector<std::int64_t>& pens = table.rows[run].run->sectioninfo.pens;
+    for (std::size_t i = 0; i < table.columns.size(); ++i) {
+        const auto rank = m_document.figures().rank(run, i);
+        const bool isSection = i + 3 < table.columns.size();
+        const QStringList texts{
+            qtText(table.columns[i].title), timeOrDash(table.rows[run].cells[i].value),
+            isSection && entryOrZero(pens, i) != 0 ? QString::number(entryOrZero(pens, i))
+                                                   : QString(),
+            rank ? QString::number(*rank) : "–",
+            signedOrDash(m_document.figures().gap(run, i, reference))};
+        for (int column = 0; column < Columns; ++column) {
+            auto* item = new QTableWidgetItem(texts[column]);
+            if (column != TitleColumn)
+                item->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
+            m_sections->setItem(static_cast<int>(i), column, item);
+        }
+    }
+}
+
+} // namespace kavela::desktop

@@ -1,0 +1,149 @@
+#include "desktop/shell/home_window.h"
+
+#include "desktop/shell/theme.h"
+#include "desktop/shell/tile.h"
+#include "desktop/shell/workspace.h"
+
+#include <QAction>
+#include <QDragEnterEvent>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QListWidget>
+#include <QMenuBar>
+#include <QMimeData>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+namespace kavela::desktop {
+
+namespace {
+
+QLabel* label(const QString& text, const QFont& font) {
+    auto* made = new QLabel(text);
+    made->setFont(font);
+    return made;
+}
+
+} // namespace
+
+HomeWindow::HomeWindow(Workspace& workspace, const Tools& tools) : m_workspace(workspace) {
+    setWindowTitle("Kavela");
+    setAcceptDrops(true);
+    makeMenus();
+
+    auto* page = new QWidget;
+    auto* column = new QVBoxLayout(page);
+    column->setContentsMargins(theme::PageMargin, theme::PageMargin, theme::PageMargin,
+                               theme::PageMargin);
+    column->setSpacing(theme::LargeSpacing);
+    column->addWidget(header());
+    column->addWidget(tiles(tools));
+    column->addSpacing(theme::Spacing);
+    column->addWidget(recentFiles(), 1);
+    setCentralWidget(page);
+    resize(1000, 680);
+
+    connect(&m_workspace, &Workspace::recentFilesChanged, this, &HomeWindow::showRecentFiles);
+    showRecentFiles();
+}
+
+void HomeWindow::makeMenus() {
+    QMenu* file = menuBar()->addMenu(tr("&File"));
+    file->addAction(tr("&Open…"), QKeySequence::Open, this, &HomeWindow::chooseFile);
+    file->addAction(tr("Try the &sample season"), this, &HomeWindow::sampleRequested);
+    file->addSeparator();
+    file->addAction(tr("Se&ttings…"), QKeySequence(Qt::CTRL | Qt::Key_Comma), this,
+                    &HomeWindow::settingsRequested);
+    file->addAction(tr("&Quit"), QKeySequence::Quit, this, &QWidget::close);
+}
+
+QWidget* HomeWindow::header() {
+    auto* box = new QWidget;
+    auto* row = new QHBoxLayout(box);
+    row->setContentsMargins(0, 0, 0, 0);
+    auto* words = new QVBoxLayout;
+    words->setSpacing(theme::SmallSpacing);
+    words->addWidget(label("Kavela", theme::headlineFont(*this)));
+    auto* line = label(tr("Where was the time won and lost, and why?"), theme::titleFont(*this));
+    line->setForegroundRole(QPalette::PlaceholderText);
+    words->addWidget(line);
+    row->addLayout(words, 1);
+
+    auto* sample = new QPushButton(tr("Try the sample season"));
+    sample->setObjectName("sample");
+    connect(sample, &QPushButton::clicked, this, &HomeWindow::sampleRequested);
+    auto* open = new QPushButton(tr("Open a file…"));
+    open->setDefault(true);
+    connect(open, &QPushButton::clicked, this, &HomeWindow::chooseFile);
+    row->addWidget(sample, 0, Qt::AlignTop);
+    row->addWidget(open, 0, Qt::AlignTop);
+    return box;
+}
+
+QWidget* HomeWindow::tiles(const Tools& tools) {
+    auto* box = new QWidget;
+    auto* row = new QHBoxLayout(box);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(theme::LargeSpacing);
+    for (const Tool& tool : tools)
+        row->addWidget(new Tile(tool));
+    row->addStretch(1);
+    return box;
+}
+
+QWidget* HomeWindow::recentFiles() {
+    auto* box = new QWidget;
+    auto* column = new QVBoxLayout(box);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->addWidget(label(tr("Recent files"), theme::titleFont(*this)));
+    m_noRecent = label(tr("Nothing opened yet. Drop a split file (.kvx) or a folder here, open one "
+                          "with Ctrl+O, or try the sample season."),
+                       theme::captionFont(*this));
+    m_noRecent->setForegroundRole(QPalette::PlaceholderText);
+    m_noRecent->setWordWrap(true);
+    m_recent = new QListWidget;
+    m_recent->setObjectName("recentFiles");
+    connect(m_recent, &QListWidget::itemActivated, this, [this](const QListWidgetItem* item) {
+        emit m_workspace.openRequested(item->data(Qt::UserRole).toString());
+    });
+    column->addWidget(m_noRecent);
+    column->addWidget(m_recent, 1);
+    column->addStretch(0);
+    return box;
+}
+
+void HomeWindow::showRecentFiles() {
+    m_recent->clear();
+    for (const QString& path : m_workspace.recentFiles()) {
+        const QFileInfo info(path);
+        auto* item = new QListWidgetItem(
+            info.fileName() + "   " + tr("in %1").arg(info.absolutePath()), m_recent);
+        item->setData(Qt::UserRole, path);
+        item->setToolTip(path);
+    }
+    m_recent->setVisible(m_recent->count() > 0);
+    m_noRecent->setVisible(m_recent->count() == 0);
+}
+
+void HomeWindow::chooseFile() {
+    const QStringList files = QFileDialog::getOpenFileNames(
+        this, tr("Open"), QString(), tr("Split files (*.kvx);;All files (*)"));
+    for (const QString& file : files)
+        emit m_workspace.openRequested(file);
+}
+
+void HomeWindow::dragEnterEvent(QDragEnterEvent* event) {
+    if (event->mimeData()->hasUrls())
+        event->acceptProposedAction();
+}
+
+void HomeWindow::dropEvent(QDropEvent* event) {
+    for (const QUrl& url : event->mimeData()->urls())
+        if (url.isLocalFile())
+            emit m_workspace.openRequested(url.toLocalFile());
+    event->acceptProposedAction();
+}
+
+} // namespace kavela::desktop

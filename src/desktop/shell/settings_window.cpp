@@ -1,0 +1,205 @@
+#include "desktop/shell/settings_window.h"
+
+#include "desktop/shell/theme.h"
+#include "desktop/shell/workspace.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDialogButtonBox>
+#include <QFileDialog>
+#include <QFormLayout>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QScrollArea>
+#include <QSpinBox>
+#include <QTabWidget>
+#include <QUrl>
+
+#include <algorithm>
+
+namespace kavela::desktop {
+
+namespace {
+
+/// One page of the settings: the preferences it shows, in this order.
+struct Page {
+    const char* title;
+    std::vector<std::string_view> keys;
+};
+
+const std::vector<Page>& pages() {
+    static const std::vector<Page> Pages{
+        {QT_TR_NOOP("Tables"), {"colorMode", "penaltiesIncluded", "penaltiesVisible"}},
+        {QT_TR_NOOP("Video"),
+         {"autoplaynext", "startinCMTime", "playonclick", "tagmodeplaysjustpart",
+          "coachswordvisible"}},
+        {QT_TR_NOOP("Split taking"),
+         {"predeterminatedsplits", "savetoCSV", "savetoPDF", "savedtags", "savedTLreasons"}},
+        {QT_TR_NOOP("Boat motion"),
+         {"fullscreenBMRoll", "fullscreenBMPitch", "fullscreenHR", "fullscreenBMScatter",
+          "normalizedBMvalues", "gaugeImpulse", "gaugeStrokerate"}},
+        {QT_TR_NOOP("At start"),
+         {"autoloadMainFolderURL", "autoloadPlanning", "autoloadPlanningOnline",
+          "autoloadPlanningURL", "planningOnline", "autoloadTestMonitor"}},
+    };
+    return Pages;
+}
+
+const PreferenceEntry& entryOf(std::string_view key) {
+    const auto table = preferenceTable();
+    return *std::find_if(table.begin(), table.end(),
+                         [&](const PreferenceEntry& entry) { return entry.key == key; });
+}
+
+QString qtText(std::string_view text) {
+    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+} // namespace
+
+SettingsWindow::SettingsWindow(Workspace& workspace, QWidget* parent)
+    : QDialog(parent), m_workspace(workspace) {
+    setWindowTitle(tr("Settings"));
+    auto* tabs = new QTabWidget;
+    for (const Page& page : pages()) {
+        auto* sheet = new QWidget;
+        auto* form = new QVBoxLayout(sheet);
+        form->setContentsMargins(theme::LargeSpacing, theme::LargeSpacing, theme::LargeSpacing,
+                                 theme::LargeSpacing);
+        form->setSpacing(theme::LargeSpacing);
+        for (const std::string_view key : page.keys)
+            form->addWidget(editor(entryOf(key)));
+        form->addStretch(1);
+        tabs->addTab(sheet, tr(page.title));
+    }
+    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Close);
+    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::accept);
+    auto* note = new QLabel(tr("Every change takes effect at once."));
+    note->setForegroundRole(QPalette::PlaceholderText);
+    auto* column = new QVBoxLayout(this);
+    column->addWidget(tabs, 1);
+    column->addWidget(note);
+    column->addWidget(buttons);
+    resize(560, 520);
+}
+
+QWidget* SettingsWindow::editor(const PreferenceEntry& entry) {
+    if (entry.key == "colorMode")
+        return colourModeEditor();
+    switch (entry.kind()) {
+    case PreferenceKind::Bool:
+        return switchEditor(entry);
+    case PreferenceKind::Integer:
+        return numberEditor(entry);
+    case PreferenceKind::Array:
+        return listEditor(entry);
+    case PreferenceKind::Url:
+    case PreferenceKind::String:
+        break;
+    }
+    return urlEditor(entry);
+}
+
+QWidget* SettingsWindow::colourModeEditor() {
+    auto* box = new QWidget;
+    auto* row = new QHBoxLayout(box);
+    row->setContentsMargins(0, 0, 0, 0);
+    auto* modes = new QComboBox;
+    modes->setObjectName("colorMode");
+    modes->addItem(tr("Race: best green, others red"), "Race");
+    modes->addItem(tr("Training: cells tinted by rank"), "Training");
+    modes->setCurrentIndex(m_workspace.preferences().string("colorMode") == "Training" ? 1 : 0);
+    connect(modes, &QComboBox::currentIndexChanged, this, [this, modes] {
+        m_workspace.setPreference("colorMode", modes->currentData().toString().toStdString());
+    });
+    row->addWidget(new QLabel(tr("Colours of the split table")));
+    row->addWidget(modes, 1);
+    return box;
+}
+
+QWidget* SettingsWindow::switchEditor(const PreferenceEntry& entry) {
+    auto* box = new QCheckBox(qtText(entry.meaning));
+    box->setObjectName(qtText(entry.key));
+    box->setChecked(m_workspace.preferences().boolean(entry.key));
+    connect(box, &QCheckBox::toggled, this,
+            [this, key = entry.key](bool on) { m_workspace.setPreference(key, on); });
+    return box;
+}
+
+QWidget* SettingsWindow::numberEditor(const PreferenceEntry& entry) {
+    constexpr int MostSplits = 50;
+    auto* box = new QWidget;
+    auto* row = new QHBoxLayout(box);
+    row->setContentsMargins(0, 0, 0, 0);
+    auto* number = new QSpinBox;
+    number->setObjectName(qtText(entry.key));
+    number->setRange(1, MostSplits);
+    number->setValue(static_cast<int>(m_workspace.preferences().integer(entry.key)));
+    connect(number, &QSpinBox::valueChanged, this, [this, key = entry.key](int value) {
+        m_workspace.setPreference(key, std::int64_t{value});
+    });
+    row->addWidget(new QLabel(qtText(entry.meaning)), 1);
+    row->addWidget(number);
+    return box;
+}
+
+QWidget* SettingsWindow::listEditor(const PreferenceEntry& entry) {
+    auto* box = new QWidget;
+    auto* column = new QVBoxLayout(box);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->addWidget(new QLabel(qtText(entry.meaning) + ' ' + tr("One a line.")));
+    auto* lines = new QPlainTextEdit;
+    lines->setObjectName(qtText(entry.key));
+    lines->setTabChangesFocus(true);
+    QStringList list;
+    for (const std::string& line : m_workspace.preferences().array(entry.key))
+        list.append(QString::fromStdString(line));
+    lines->setPlainText(list.join('\n'));
+    connect(lines, &QPlainTextEdit::textChanged, this, [this, lines, key = entry.key] {
+        std::vector<std::string> values;
+        for (const QString& line : lines->toPlainText().split('\n', Qt::SkipEmptyParts))
+            values.push_back(line.trimmed().toStdString());
+        m_workspace.setPreference(key, values);
+    });
+    column->addWidget(lines);
+    return box;
+}
+
+QWidget* SettingsWindow::urlEditor(const PreferenceEntry& entry) {
+    const bool isFolder = entry.key == "autoloadMainFolderURL";
+    auto* box = new QWidget;
+    auto* row = new QHBoxLayout(box);
+    row->setContentsMargins(0, 0, 0, 0);
+    auto* place = new QLabel;
+    place->setForegroundRole(QPalette::PlaceholderText);
+    const auto show = [this, place, key = entry.key] {
+        const auto url = m_workspace.preferences().url(key);
+        place->setText(url ? QUrl(QString::fromStdString(*url)).toLocalFile() : tr("none"));
+    };
+    show();
+    auto* choose = new QPushButton(tr("Choose…"));
+    connect(choose, &QPushButton::clicked, this, [this, show, isFolder, key = entry.key] {
+        const QString path = isFolder
+                                 ? QFileDialog::getExistingDirectory(this, tr("Choose a folder"))
+                                 : QFileDialog::getOpenFileName(this, tr("Choose a file"));
+        if (path.isEmpty())
+            return;
+        m_workspace.setPreference(
+            key, PreferenceUrl{QUrl::fromLocalFile(path).toString().toStdString()});
+        show();
+    });
+    auto* clear = new QPushButton(tr("None"));
+    connect(clear, &QPushButton::clicked, this, [this, show, key = entry.key] {
+        m_workspace.setPreference(key, PreferenceUrl{});
+        show();
+    });
+    row->addWidget(new QLabel(qtText(entry.meaning)));
+    row->addWidget(place, 1);
+    row->addWidget(choose);
+    row->addWidget(clear);
+    return box;
+}
+
+} // namespace kavela::desktop

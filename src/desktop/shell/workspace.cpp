@@ -1,0 +1,62 @@
+#include "desktop/shell/workspace.h"
+
+#include "app/start_up.h"
+#include "desktop/shell/alert_boxes.h"
+
+namespace kavela::desktop {
+
+namespace {
+constexpr const char* RecentFilesKey = "recentFiles";
+constexpr int MostRecentFiles = 12;
+} // namespace
+
+Workspace::Workspace(Preferences preferences, DiagnosticLog log, Clock clock)
+    : m_preferences(std::move(preferences)), m_log(std::move(log)), m_clock(std::move(clock)) {}
+
+void Workspace::startUp(const std::filesystem::path& libraryFolder) {
+    kavela::startUp(m_preferences, libraryFolder, m_log);
+}
+
+void Workspace::setPreference(std::string_view key, const PreferenceValue& value) {
+    if (m_preferences.value(key) == value)
+        return;
+    m_preferences.set(key, value);
+    emit preferenceChanged(QString::fromUtf8(key.data(), static_cast<qsizetype>(key.size())));
+}
+
+QStringList Workspace::recentFiles() const {
+    QStringList files;
+    for (const std::string& file : m_preferences.rawList(RecentFilesKey))
+        files.append(QString::fromStdString(file));
+    return files;
+}
+
+void Workspace::addRecentFile(const QString& path) {
+    QStringList files = recentFiles();
+    files.removeAll(path);
+    files.prepend(path);
+    storeRecentFiles(files.mid(0, MostRecentFiles));
+}
+
+void Workspace::forgetRecentFile(const QString& path) {
+    QStringList files = recentFiles();
+    files.removeAll(path);
+    storeRecentFiles(files);
+}
+
+void Workspace::storeRecentFiles(const QStringList& files) {
+    std::vector<std::string> list;
+    for (const QString& file : files)
+        list.push_back(file.toStdString());
+    m_preferences.set(RecentFilesKey, list);
+    emit recentFilesChanged();
+}
+
+void Workspace::showAlert(const Alert& alert, QWidget* over) const {
+    if (m_alerts)
+        m_alerts->show(alert);
+    else
+        AlertBoxes(over).show(alert);
+}
+
+} // namespace kavela::desktop

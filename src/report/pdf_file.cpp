@@ -1,0 +1,49 @@
+#include "report/pdf_file.h"
+
+#include "common/safe_file.h"
+#include "report/searchable_text.h"
+
+#include <QBuffer>
+#include <QPainter>
+#include <QPdfWriter>
+
+#include <stdexcept>
+
+namespace kavela::report {
+
+namespace {
+
+constexpr int DotsPerInch = 1200; ///< the grain of places in the document
+constexpr qreal PointsPerInch = 72;
+
+} // namespace
+
+std::string pdfOf(const RaceReport& report) {
+    QBuffer buffer;
+    buffer.open(QIODevice::WriteOnly);
+    {
+        QPdfWriter writer(&buffer);
+        writer.setResolution(DotsPerInch);
+        writer.setPageLayout(report.layout());
+        writer.setTitle(report.heading().title);
+        writer.setCreator(QStringLiteral("Kavela"));
+        QPainter painter;
+        if (!painter.begin(&writer))
+            throw std::runtime_error("The report could not be painted.");
+        painter.scale(DotsPerInch / PointsPerInch, DotsPerInch / PointsPerInch);
+        for (int page = 0; page < report.pageCount(); ++page) {
+            if (page > 0)
+                writer.newPage();
+            report.paintPage(painter, page);
+        }
+    }
+    std::string pdf = buffer.data().toStdString();
+    makeTextSearchable(pdf);
+    return pdf;
+}
+
+void writePdf(const RaceReport& report, const std::filesystem::path& path) {
+    writeFileSafely(path, pdfOf(report));
+}
+
+} // namespace kavela::report

@@ -1,0 +1,17 @@
+#pragma once
+
+#include "report/race_report.h"
+
+#include <filesystem>
+#include <string>
+
+namespace kavela::report {
+
+/// A report as the bytes of a PDF document: vectors, embedded fonts, text that can be searched.
+[[nodiscard]] std::string pdfOf(const RaceReport& report);
+
+/// Writes a report as a PDF document, safely: the file is there whole or not at all. Throws
+/// FileError.
+void writePdf(const RaceReport& report, const std::filesystem::path& path);
+
+} // namespace kavela::report

@@ -1,0 +1,61 @@
+#include "report/report_heading.h"
+
+#include "common/reference_date.h"
+#include "report/typeface.h"
+
+#include <QStringList>
+
+namespace kavela::report {
+
+namespace {
+
+QString gateList(const std::vector<std::int64_t>& gates) {
+    QStringList numbers;
+    for (const std::int64_t gate : gates)
+        numbers << QString::number(gate);
+    return reportText(numbers.join(QStringLiteral(", ")).toStdString());
+}
+
+/// The texts that say something, with dots between them.
+QString joined(QStringList parts) {
+    parts.removeAll(QString());
+    return parts.join(QStringLiteral(" · "));
+}
+
+QString gatesInWords(const infodata031& info) {
+    if (info.gates < 1)
+        return {};
+    const QString gates = QStringLiteral("%1 gates").arg(info.gates);
+    return info.upGates.empty() ? gates
+                                : gates + QStringLiteral(", %1 upstream").arg(info.upGates.size());
+}
+
+} // namespace
+
+ReportHeading reportHeading(const infodata031& info) {
+    ReportHeading heading;
+    heading.title = reportText(info.title.empty() ? info.event : info.title);
+    if (heading.title.isEmpty())
+        heading.title = QStringLiteral("Race");
+    QStringList subtitle{reportText(info.event), reportText(info.session),
+                         reportText(info.category)};
+    subtitle.removeAll(heading.title);
+    heading.subtitle = joined(subtitle);
+
+    const auto add = [&](const char* label, const QString& value) {
+        if (!value.isEmpty())
+            heading.facts.push_back({QString::fromLatin1(label), value});
+    };
+    const QString place = reportText(info.place);
+    const QString day = reportText(dayText(info.date));
+    const QString water = reportText(info.watertype);
+    add("Place", place);
+    add("Date", day);
+    add("Gates", info.gates > 0 ? QString::number(info.gates) : QString());
+    add("Upstream gates", gateList(info.upGates));
+    add("Water", water);
+    heading.line = joined({heading.subtitle, place, day, gatesInWords(info), water});
+    return heading;
+}
+
+} // namespace kavela::report

@@ -1,0 +1,27 @@
+#pragma once
+
+#include "splitdata/records.h"
+
+#include <QString>
+
+#include <vector>
+
+namespace kavela::report {
+
+/// One thing to know of a race: "Gates" and "24".
+struct HeadingFact {
+    QString label;
+    QString value;
+};
+
+/// What stands above a report. Whatever the race does not tell is left out.
+struct ReportHeading {
+    QString title;                  ///< of the race, or of its event
+    QString subtitle;               ///< event, session, category
+    std::vector<HeadingFact> facts; ///< place, date, gates, upstream gates, water
+    QString line;                   ///< all but the title in one line
+};
+
+[[nodiscard]] ReportHeading reportHeading(const infodata031& info);
+
+} // namespace kavela::report

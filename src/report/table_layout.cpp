@@ -1,0 +1,134 @@
+#include "report/table_layout.h"
+
+#include "report/page_builder.h"
+
+#include <algorithm>
+#include <numeric>
+
+namespace kavela::report {
+
+namespace {
+
+constexpr qreal FullPoints = 8.5;
+constexpr qreal LeastPoints = 6.5;
+constexpr qreal StepPoints = 0.25;
+// Widths in letters of one point.
+constexpr qreal CellPadding = 1.1;
+constexpr qreal NamePadding = 1.2;
+constexpr qreal WidestTitle = 6;
+constexpr qreal WidestName = 21;
+constexpr qreal LeastName = 11;
+constexpr qreal RoomiestCell = 7;
+
+/// The widths that a table asks for, for letters of one point: they grow with the letters.
+struct Widths {
+    qreal name = 0;
+    std::vector<qreal> columns;
+
+    [[nodiscard]] qreal ofColumns() const {
+        return std::accumulate(columns.begin(), columns.end(), 0.0);
+    }
+    [[nodiscard]] qreal leastName() const { return std::min(name, LeastName); }
+};
+
+class Measure {
+public:
+    explicit Measure(const Typeface& typeface) : m_typeface(typeface) {}
+
+    [[nodiscard]] qreal of(const QString& text, bool isBold) const {
+        return m_typeface.width(text, {FullPoints, isBold, Ink}) / FullPoints;
+    }
+
+private:
+    const Typeface& m_typeface;
+};
+
+/// The longest text of a column. Figures are of one width, so that counting them is enough.
+QString longestCell(const ReportTable& table, std::size_t column) {
+    QString longest;
+    for (const ReportGroup& group : table.groups)
+        for (const ReportRow& row : group.rows)
+            if (row.cells[column].text.size() > longest.size())
+                longest = row.cells[column].text;
+    return longest;
+}
+
+Widths widthsOf(const ReportTable& table, const Typeface& typeface) {
+    const Measure measure(typeface);
+    Widths widths;
+    for (const ReportGroup& group : table.groups)
+        for (const ReportRow& row : group.rows)
+            widths.name = std::max(widths.name, measure.of(row.name, false));
+    widths.name = std::clamp(widths.name + NamePadding * Point, LeastName * Point / 2,
+                             WidestName * Point);
+    for (std::size_t i = 0; i < table.columns.size(); ++i) {
+        const qreal title = std::min(measure.of(table.columns[i], true), WidestTitle * Point);
+        const qreal cell = measure.of(longestCell(table, i) + BestMark, true);
+        widths.columns.push_back(std::max(title, cell) + CellPadding * Point);
+    }
+    return widths;
+}
+
+qreal paperWidth(QPageLayout::Orientation orientation) {
+    return bodyPlace(orientation).width();
+}
+
+/// The largest letters with which a width for one point fits the paper; 0 when none do.
+qreal fittingPoints(qreal widthOfOnePoint, QPageLayout::Orientation orientation) {
+    for (qreal points = FullPoints; points >= LeastPoints; points -= StepPoints)
+        if (widthOfOnePoint * points <= paperWidth(orientation))
+            return points;
+    return 0;
+}
+
+/// Spreads what is left of the paper: the columns breathe a little, the names take the rest.
+void fillPaper(TableLayout& layout, TableStrip& strip) {
+    qreal& name = layout.nameWidth;
+    const qreal used = std::accumulate(strip.widths.begin(), strip.widths.end(), name);
+    const qreal spare = paperWidth(layout.orientation) - used;
+    const qreal each = spare / static_cast<qreal>(strip.widths.size() + 1);
+    for (qreal& width : strip.widths)
+        width = std::max(width, std::min(width + each, RoomiestCell * layout.points * Point));
+    name = paperWidth(layout.orientation) -
+           std::accumulate(strip.widths.begin(), strip.widths.end(), 0.0);
+}
+
+TableLayout oneStrip(const Widths& widths, QPageLayout::Orientation orientation, qreal points,
+                     qreal nameOfOnePoint) {
+    TableLayout layout{orientation, points, nameOfOnePoint * points, {{}}};
+    for (const qreal width : widths.columns)
+        layout.strips.front().widths.push_back(width * points);
+    fillPaper(layout, layout.strips.front());
+    return layout;
+}
+
+TableLayout manyStrips(const Widths& widths) {
+    TableLayout layout{QPageLayout::Landscape, FullPoints - 1, 0, {}};
+    layout.nameWidth = widths.leastName() * layout.points;
+    qreal left = 0;
+    for (std::size_t i = 0; i < widths.columns.size(); ++i) {
+        const qreal width = widths.columns[i] * layout.points;
+        if (layout.strips.empty() || width > left) {
+            layout.strips.push_back({i, {}});
+            left = paperWidth(layout.orientation) - layout.nameWidth;
+        }
+        layout.strips.back().widths.push_back(width);
+        left -= width;
+    }
+    return layout;
+}
+
+} // namespace
+
+TableLayout layOutTable(const ReportTable& table, const Typeface& typeface) {
+    const Widths widths = widthsOf(table, typeface);
+    if ((widths.name + widths.ofColumns()) * FullPoints <= paperWidth(QPageLayout::Portrait))
+        return oneStrip(widths, QPageLayout::Portrait, FullPoints, widths.name);
+    for (const qreal name : {widths.name, widths.leastName()})
+        if (const qreal points =
+                fittingPoints(name + widths.ofColumns(), QPageLayout::Landscape))
+            return oneStrip(widths, QPageLayout::Landscape, points, name);
+    return manyStrips(widths);
+}
+
+} // namespace kavela::report
