@@ -1,0 +1,147 @@
+#include "ratios.h"
+
+#include <fmt/format.h>
+
+#include <algorithm>
+#include <array>
+#include <optional>
+#include <string_view>
+
+namespace kavela::bench {
+
+namespace {
+
+enum class Target { None, AtLeast, AtMost };
+
+/// One line of the table: the first median, divided by the second when there is one.
+struct Line {
+    std::string_view what;
+    std::string_view unit;
+    const char* first;
+    const char* second = nullptr;
+    Target target = Target::None;
+    double bound = 0;
+};
+
+constexpr std::string_view Times = "x";
+constexpr std::string_view Milliseconds = " ms";
+
+constexpr std::array Lines{
+    Line{"Decode race, speed of the bare parse", Times, "decode/race/bare_parse",
+         "decode/race/kavela", Target::AtLeast, 0.7},
+    Line{"  … of a parser warmed by the same file", Times, "decode/race/bare_parse_again",
+         "decode/race/kavela"},
+    Line{"  … faster than nlohmann-json", Times, "decode/race/nlohmann", "decode/race/kavela"},
+    Line{"  … faster than RapidJSON", Times, "decode/race/rapidjson", "decode/race/kavela"},
+    Line{"Decode recording, speed of the bare parse", Times, "decode/recording/bare_parse",
+         "decode/recording/kavela", Target::AtLeast, 0.7},
+    Line{"  … of a parser warmed by the same file", Times, "decode/recording/bare_parse_again",
+         "decode/recording/kavela"},
+    Line{"  … faster than nlohmann-json", Times, "decode/recording/nlohmann",
+         "decode/recording/kavela"},
+    Line{"  … faster than RapidJSON", Times, "decode/recording/rapidjson",
+         "decode/recording/kavela"},
+    Line{"Encode race, faster than nlohmann-json", Times, "encode/race/nlohmann",
+         "encode/race/kavela"},
+    Line{"  … faster than RapidJSON", Times, "encode/race/rapidjson", "encode/race/kavela"},
+    Line{"Encode recording, faster than nlohmann-json", Times, "encode/recording/nlohmann",
+         "encode/recording/kavela"},
+    Line{"  … faster than RapidJSON", Times, "encode/recording/rapidjson",
+         "encode/recording/kavela"},
+    Line{"Upgrade 0.2, cost of rewriting a current file", Times, "upgrade/oldest",
+         "upgrade/current", Target::AtMost, 1.6},
+    Line{"Peak memory of a race, of its file", Times, "memory/race/kavela#times_file", nullptr,
+         Target::AtMost, 4},
+    Line{"  … of a recording, of its file", Times, "memory/recording/kavela#times_file", nullptr,
+         Target::AtMost, 4},
+    Line{"  … of the race, bare parse", Times, "memory/race/bare_parse#times_file"},
+    Line{"  … of the race, nlohmann-json", Times, "memory/race/nlohmann#times_file"},
+    Line{"  … of the race, RapidJSON", Times, "memory/race/rapidjson#times_file"},
+    Line{"Season of 1,000 files, one core", Milliseconds, "season/one_core"},
+    Line{"  … all cores", Milliseconds, "season/all_cores"},
+    Line{"  … gain of all cores", Times, "season/one_core", "season/all_cores"},
+    Line{"Coloured table of 500 runs", Milliseconds, "table/sections", nullptr, Target::AtMost, 5},
+    Line{"  … of accumulated times", Milliseconds, "table/accumulated", nullptr, Target::AtMost, 5},
+    Line{"kavela show, 60 runs, start to end", Milliseconds, "show", nullptr, Target::AtMost, 30},
+};
+
+/// The value of a line from the medians, or from the best ("#best") of the repetitions.
+std::optional<double> valueOf(const Line& line, const std::map<std::string, double>& values,
+                              const std::string& figure = "") {
+    const auto first = values.find(line.first + figure);
+    const auto second = line.second ? values.find(line.second + figure) : values.end();
+    if (first == values.end() || (line.second && second == values.end()))
+        return std::nullopt;
+    return line.second ? first->second / second->second : first->second;
+}
+
+bool isMissed(const Line& line, double value) {
+    return (line.target == Target::AtLeast && value < line.bound) ||
+           (line.target == Target::AtMost && value > line.bound);
+}
+
+std::string verdict(const Line& line, double value) {
+    if (line.target == Target::None)
+        return {};
+    return fmt::format("{} {}{}: {}", line.target == Target::AtLeast ? "at least" : "at most",
+                       line.bound, line.unit, isMissed(line, value) ? "MISSED" : "reached");
+}
+
+std::string text(const Line& line, std::optional<double> value) {
+    return value ? fmt::format("{:.2f}{}", *value, line.unit) : std::string();
+}
+
+} // namespace
+
+bool ValueReporter::ReportContext(const Context& context) {
+    fmt::print("{:<40}{:>14}{:>14}\n", fmt::format("{} cores", context.cpu_info.num_cpus), "median",
+               "best");
+    return true;
+}
+
+void ValueReporter::ReportRuns(const std::vector<Run>& runs) {
+    const std::string& name = runs.front().run_name.function_name;
+    for (const Run& run : runs) {
+        if (run.error_occurred) {
+            fmt::print("{}: {}\n", name, run.error_message);
+            continue;
+        }
+        const bool byTheClock = run.run_name.time_type == "real_time";
+        const double time = byTheClock ? run.GetAdjustedRealTime() : run.GetAdjustedCPUTime();
+        if (run.run_type != Run::RT_Aggregate)
+            keepBest(name, time);
+        else if (run.aggregate_name == "median")
+            keepMedian(name, time, run.counters);
+    }
+    if (m_values.contains(name))
+        fmt::print("{:<40}{:>14}{:>14}\n", name, fmt::format("{:.2f} ms", m_values[name]),
+                   fmt::format("{:.2f} ms", m_values[name + "#best"]));
+}
+
+void ValueReporter::keepBest(const std::string& name, double time) {
+    const auto [at, isNew] = m_values.emplace(name + "#best", time);
+    at->second = std::min(at->second, time);
+}
+
+void ValueReporter::keepMedian(const std::string& name, double time,
+                               const benchmark::UserCounters& counters) {
+    m_values[name] = time;
+    for (const auto& [counter, value] : counters)
+        m_values[name + '#' + counter] = value;
+}
+
+int printRatios(const std::map<std::string, double>& values) {
+    int missed = 0;
+    fmt::print("\n{:<46}{:>12}{:>12}  target of the median\n", "", "median", "best");
+    for (const Line& line : Lines) {
+        const auto value = valueOf(line, values);
+        if (!value)
+            continue;
+        fmt::print("{:<46}{:>12}{:>12}  {}\n", line.what, text(line, value),
+                   text(line, valueOf(line, values, "#best")), verdict(line, *value));
+        missed += isMissed(line, *value) ? 1 : 0;
+    }
+    return missed;
+}
+
+} // namespace kavela::bench

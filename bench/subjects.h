@@ -1,0 +1,14 @@
+#pragma once
+
+/// Each function adds the benchmarks of one subject.
+namespace kavela::bench {
+
+void addSessionDecode();
+void addSessionEncode();
+void addUpgrade();
+void addMemory();
+void addSeason();
+void addSplitTable();
+void addShowCommand();
+
+} // namespace kavela::bench
