@@ -21,7 +21,8 @@ constexpr unsigned NewFileMode = 0666; // less what the user's mask takes away
 /// A file being written under a name of its own, removed again unless it was renamed.
 class TemporaryFile {
 public:
-    explicit TemporaryFile(const fs::path& target) : m_file(create(target)) {}
+    /// `mode` is that of the file to be replaced, so that a private one is never open to others.
+    TemporaryFile(const fs::path& target, unsigned mode) : m_file(create(target, mode)) {}
     TemporaryFile(const TemporaryFile&) = delete;
     TemporaryFile& operator=(const TemporaryFile&) = delete;
     ~TemporaryFile() {
@@ -41,10 +42,13 @@ public:
     }
 
     void takeModeOf(const struct ::stat& status) {
-        if (::fchmod(m_file.descriptor(), status.st_mode & 07777) != 0)
+        // Only an administrator may give a file away; others can at most keep its group.
+        const bool isAdministrator = ::geteuid() == 0;
+        const ::uid_t owner = isAdministrator ? status.st_uid : static_cast<::uid_t>(-1);
+        const bool isGiven = ::fchown(m_file.descriptor(), owner, status.st_gid) == 0;
+        if (isAdministrator && !isGiven)
             throw systemFileError(m_file.path());
-        // Only an administrator may give a file away; everybody else keeps it as their own.
-        if (::geteuid() == 0 && ::fchown(m_file.descriptor(), status.st_uid, status.st_gid) != 0)
+        if (::fchmod(m_file.descriptor(), status.st_mode & 07777) != 0)
             throw systemFileError(m_file.path());
     }
 
@@ -61,12 +65,12 @@ public:
     }
 
 private:
-    static PosixFile create(const fs::path& target) {
+    static PosixFile create(const fs::path& target, unsigned mode) {
         constexpr int Attempts = 100;
         for (int attempt = 0;; ++attempt) {
             const fs::path path = target.parent_path() / freshName(target, attempt);
             try {
-                return {path, O_WRONLY | O_CREAT | O_EXCL, NewFileMode};
+                return {path, O_WRONLY | O_CREAT | O_EXCL, mode};
             } catch (const FileError&) {
                 if (errno != EEXIST || attempt == Attempts)
                     throw;
@@ -121,7 +125,7 @@ void writeBehindLinks(const fs::path& target, std::string_view content) {
         throw FileError(target, "this is not an ordinary file");
     if (status && ::access(target.c_str(), W_OK) != 0)
         throw systemFileError(target);
-    TemporaryFile temporary(target);
+    TemporaryFile temporary(target, status ? status->st_mode & 0777 : NewFileMode);
     temporary.write(content);
     if (status)
         temporary.takeModeOf(*status);
@@ -163,7 +167,7 @@ bool linkExclusively(const fs::path& path, const fs::path& name) {
 
 /// For disks without hard links. The copy appears under its name only when it is whole.
 bool copyExclusively(const fs::path& path, const fs::path& name) {
-    if (statusOf(name))
+    if (fs::exists(fs::symlink_status(name)))
         return false;
     writeBehindLinks(name, contentOf(path));
     return true;
