@@ -13,14 +13,19 @@ fs::path backupName(const fs::path& path, int number) {
     return path.parent_path() / (path.stem().string() + suffix);
 }
 
+/// Whether a name is a second one of the same file, and no link that would follow the first.
+bool isSecondName(const fs::path& name, const fs::path& path) {
+    std::error_code ignored;
+    return fs::equivalent(name, path, ignored) &&
+           fs::weakly_canonical(name, ignored) != fs::weakly_canonical(path, ignored);
+}
+
 /// Keeps the present content under the first free backup name; throws FileError.
 fs::path makeBackup(const fs::path& path) {
     for (int number = 1;; ++number) {
         fs::path name = backupName(path, number);
-        std::error_code ignored;
         // An earlier attempt that could not write may have left its backup: it will do.
-        const bool isKept = fs::equivalent(name, path, ignored) && !fs::is_symlink(name, ignored);
-        if (isKept || keepUnderSecondName(path, name))
+        if (isSecondName(name, path) || keepUnderSecondName(path, name))
             return name;
     }
 }
