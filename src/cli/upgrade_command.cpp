@@ -13,7 +13,7 @@
 #include <algorithm>
 #include <array>
 #include <memory>
-#include <mutex>
+#include <new>
 
 namespace kavela::cli {
 
@@ -83,10 +83,15 @@ Upgrade upgradeSplitFileAt(const fs::path& path) {
 }
 
 Upgrade upgrade(const fs::path& path) {
-    if (path.extension() == ".kvb")
-        if (const auto recording = upgradeRecording(path))
-            return *recording;
-    return upgradeSplitFileAt(path);
+    try {
+        if (path.extension() == ".kvb")
+            if (const auto recording = upgradeRecording(path))
+                return *recording;
+        return upgradeSplitFileAt(path);
+    } catch (const std::bad_alloc&) {
+        // The other files may well fit.
+        return {Outcome::Failed, {"There is not enough memory for " + pathText(path)}};
+    }
 }
 
 std::string summary(const std::vector<Upgrade>& upgrades) {

@@ -19,6 +19,7 @@ constexpr std::size_t ShortestWideInteger = 19;
 /// Accepts everything and remembers where the text stopped being JSON.
 struct FaultFinder : nlohmann::json_sax<nlohmann::json> {
     std::string fault;
+    bool isExplained = false;
 
     bool null() override { return true; }
     bool boolean(bool) override { return true; }
@@ -40,6 +41,7 @@ struct FaultFinder : nlohmann::json_sax<nlohmann::json> {
         fault = "not JSON, byte " + std::to_string(position);
         if (colon != std::string_view::npos)
             fault += ": " + std::string(what.substr(colon + 2));
+        isExplained = colon != std::string_view::npos;
         return false;
     }
 };
@@ -72,7 +74,7 @@ Fault describe(simdjson::error_code code, std::string_view text) {
     FaultFinder finder;
     if (nlohmann::json::sax_parse(text, &finder) || finder.fault.empty())
         return {{}, plainText(code)};
-    return {{}, finder.fault};
+    return {{}, finder.isExplained ? finder.fault : finder.fault + ": " + plainText(code)};
 }
 
 /// Whether a whole number fits the 64 bits, signed or not, that the parser reads.
