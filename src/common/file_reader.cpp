@@ -1,6 +1,7 @@
 #include "common/file_reader.h"
 
 #include "common/error.h"
+#include "common/large_pages.h"
 #include "common/posix_file.h"
 
 #include <fcntl.h>
@@ -9,6 +10,7 @@
 #include <algorithm>
 #include <array>
 #include <cerrno>
+#include <new>
 
 namespace kavela {
 
@@ -113,6 +115,9 @@ simdjson::padded_string readObjectText(const std::filesystem::path& path) {
     if (size > LargestDocument)
         throw DecodeError({{}, "the file is too large for a document (over 4 GB)"});
     simdjson::padded_string text(size);
+    if (text.data() == nullptr)
+        throw std::bad_alloc();
+    preferLargePages(text.data(), size);
     if (readAt(file, text.data(), size, range.begin) != size)
         throw FileError(path, "the file became shorter while it was read");
     return text;

@@ -45,10 +45,6 @@ bool refuse(Fault& fault, std::string_view expected, simdjson::dom::element foun
     return false;
 }
 
-bool read(simdjson::dom::element element, double& value, Fault& fault) {
-    return element.get(value) == simdjson::SUCCESS || refuse(fault, "a number", element);
-}
-
 bool read(simdjson::dom::element element, std::int64_t& value, Fault& fault) {
     if (element.get(value) == simdjson::SUCCESS)
         return true;

@@ -1,10 +1,13 @@
 #include "common/json_document.h"
 
 #include "common/file_reader.h"
+#include "common/large_pages.h"
 
 #include <nlohmann/json.hpp>
 
+#include <algorithm>
 #include <charconv>
+#include <new>
 #include <string>
 
 namespace kavela {
@@ -118,8 +121,18 @@ std::string withWideIntegersAsDoubles(std::string_view text) {
     return widened;
 }
 
+/// The parser's memory is many times the text, most of it never touched.
+void preferLargePagesIn(simdjson::dom::parser& parser, std::size_t textSize) {
+    preferLargePages(parser.doc.tape.get(), textSize * sizeof(std::uint64_t));
+    preferLargePages(parser.doc.string_buf.get(), textSize);
+    preferLargePages(parser.implementation->structural_indexes.get(),
+                     textSize * sizeof(std::uint32_t));
+}
+
 simdjson::error_code parse(simdjson::dom::parser& parser, const simdjson::padded_string& text,
                            simdjson::dom::element& root) {
+    if (text.size() > 0 && parser.allocate(text.size()) == simdjson::SUCCESS)
+        preferLargePagesIn(parser, text.size());
     return parser.parse(text.data(), text.size(), false).get(root);
 }
 
@@ -139,7 +152,12 @@ JsonDocument JsonDocument::fromFile(const std::filesystem::path& path) {
 }
 
 JsonDocument JsonDocument::fromText(std::string_view text) {
-    return JsonDocument(simdjson::padded_string(text));
+    simdjson::padded_string padded(text.size());
+    if (padded.data() == nullptr)
+        throw std::bad_alloc();
+    preferLargePages(padded.data(), padded.size());
+    std::copy(text.begin(), text.end(), padded.data());
+    return JsonDocument(std::move(padded));
 }
 
 } // namespace kavela

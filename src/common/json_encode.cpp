@@ -1,7 +1,10 @@
 #include "common/json_encode.h"
 
+#include "common/large_pages.h"
+
 #include <simdjson.h>
 
+#include <algorithm>
 #include <charconv>
 #include <cmath>
 
@@ -46,6 +49,17 @@ void appendEscaped(std::string& json, char c) {
 }
 
 } // namespace
+
+void makeRoomForRest(std::string& json, std::size_t firstEntry, std::size_t count) {
+    constexpr std::size_t Smallest = std::size_t{1} << 16;
+    constexpr std::size_t Largest = std::size_t{1} << 28;
+    const std::size_t rest = firstEntry * count;
+    const std::size_t room = std::min(rest + rest / 8, Largest);
+    if (room < Smallest || json.capacity() - json.size() >= room)
+        return;
+    json.reserve(json.size() + room);
+    preferLargePages(json.data() + json.size(), json.capacity() - json.size());
+}
 
 bool write(std::string& json, double value, Fault& fault) {
     if (!std::isfinite(value)) {

@@ -42,9 +42,14 @@ bool write(std::string& json, const std::map<std::string, T>& values, Fault& fau
 template <Record T>
 bool write(std::string& json, const T& record, Fault& fault);
 
+/// Makes room for the rest of a long array once its first entry is written: what comes is seldom
+/// much longer, and a text that outgrows its room is copied.
+void makeRoomForRest(std::string& json, std::size_t firstEntry, std::size_t count);
+
 template <class Values>
 bool writeArray(std::string& json, const Values& values, Fault& fault) {
     json += '[';
+    const std::size_t begin = json.size();
     for (std::size_t i = 0; i < values.size(); ++i) {
         if (i > 0)
             json += ',';
@@ -52,6 +57,8 @@ bool writeArray(std::string& json, const Values& values, Fault& fault) {
             fault.prependIndex(i);
             return false;
         }
+        if (i == 0)
+            makeRoomForRest(json, json.size() - begin, values.size() - 1);
     }
     json += ']';
     return true;
