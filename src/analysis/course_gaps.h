@@ -23,8 +23,8 @@ enum class CourseReferenceKind {
 /// What the runs are held against.
 struct CourseReference {
     CourseReferenceKind kind = CourseReferenceKind::BestRun;
-    std::size_t run = 0;       ///< index in the race set, for `Run`
-    std::string name = {};     ///< whose times, for `Times`
+    std::size_t run = 0;            ///< index in the race set, for `Run`
+    std::string name = {};          ///< whose times, for `Times`
     std::vector<double> times = {}; ///< seconds by section, for `Times`
 
     friend bool operator==(const CourseReference&, const CourseReference&) = default;

@@ -36,12 +36,16 @@ TableSettings preferredSettings() {
     return settings;
 }
 
+/// Takes what the font machinery tells programmers, such as which font lacks which script.
+void ignoreMessage(QtMsgType, const QMessageLogContext&, const QString&) {}
+
 /// Paints the report into a file. Fonts ask for an application object, and get one that stays off
 /// the screen: a server has none, and one that cannot be reached would end the program.
 void writeReport(splittakerdata031 document, const ExportCall& call) {
     std::string arguments[] = {"kavela", "-platform", "offscreen"};
     char* argv[] = {arguments[0].data(), arguments[1].data(), arguments[2].data(), nullptr};
     int argc = 3;
+    qInstallMessageHandler(ignoreMessage);
     const QGuiApplication application(argc, argv);
     report::ReportHeading heading = report::reportHeading(document.info);
     const RaceSet set = makeRaceSet(std::move(document), call.file);

@@ -90,8 +90,8 @@ private:
 
     void paintEntry(QPainter& painter, QRectF& line, const QColor& colour, const char* text) const {
         const QString label = QString::fromLatin1(text);
-        painter.fillRect(
-            QRectF(line.left(), line.center().y() - Swatch / 2, Swatch, Swatch), colour);
+        painter.fillRect(QRectF(line.left(), line.center().y() - Swatch / 2, Swatch, Swatch),
+                         colour);
         line.setLeft(line.left() + Swatch * 1.6);
         m_typeface.draw(painter, line, Qt::AlignLeft, label, Caption);
         line.setLeft(line.left() + m_typeface.width(label, Caption) + 2 * Swatch);
@@ -134,16 +134,14 @@ void putGateChart(PageBuilder& pages, const CoursePenalties& penalties, const Ty
     const GateChart chart(penalties, typeface);
     if (pages.space().height() < SectionHeadingHeight + KeyHeight + chart.height())
         pages.newPage();
-    pages.put(SectionHeadingHeight, [text = remark(penalties),
-                                     typeface](QPainter& painter, const QRectF& place) {
+    pages.put(SectionHeadingHeight, [text = remark(penalties), typeface](QPainter& painter,
+                                                                         const QRectF& place) {
         paintSectionHeading(painter, place, QStringLiteral("Penalties by gate"), text, typeface);
     });
-    pages.put(KeyHeight, [chart](QPainter& painter, const QRectF& place) {
-        chart.paintKey(painter, place);
-    });
-    pages.put(chart.height(), [chart](QPainter& painter, const QRectF& place) {
-        chart.paint(painter, place);
-    });
+    pages.put(KeyHeight,
+              [chart](QPainter& painter, const QRectF& place) { chart.paintKey(painter, place); });
+    pages.put(chart.height(),
+              [chart](QPainter& painter, const QRectF& place) { chart.paint(painter, place); });
 }
 
 } // namespace kavela::report

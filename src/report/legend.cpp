@@ -25,6 +25,7 @@ void paintSwatches(QPainter& painter, QRectF& line) {
         const std::optional<Colour> colour = bandColour(static_cast<Band>(band));
         painter.fillRect(swatch, onPaper(colour.value_or(NamedWhite)));
         painter.setPen(QPen(Rule, 0.4 * Point));
+        painter.setBrush(Qt::NoBrush);
         painter.drawRect(swatch);
         line.setLeft(swatch.right());
     }

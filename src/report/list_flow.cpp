@@ -89,14 +89,15 @@ private:
 
 std::vector<ListPart> flowLists(std::span<const std::size_t> rows, std::size_t columns,
                                 const FlowSizes& sizes) {
-    const std::vector<ListPart> full = *Attempt(columns, sizes).flow(rows);
+    std::vector<ListPart> full = *Attempt(columns, sizes).flow(rows);
     if (full.empty())
         return full;
     const std::size_t lastPage = full.back().column / columns;
     const qreal page = lastPage == 0 ? sizes.firstPage : sizes.otherPages;
-    for (qreal limit = sizes.title + sizes.row; limit < page; limit += sizes.row) {
+    const auto steps = static_cast<int>((page - sizes.title) / sizes.row);
+    for (int step = 1; step <= steps; ++step) {
         Attempt attempt(columns, sizes);
-        attempt.holdShort(lastPage, limit);
+        attempt.holdShort(lastPage, sizes.title + step * sizes.row);
         if (auto even = attempt.flow(rows))
             return *std::move(even);
     }

@@ -25,8 +25,8 @@ void paintFacts(QPainter& painter, const QRectF& place, const std::vector<Headin
     const qreal half = place.height() / 2;
     qreal left = place.left();
     for (const HeadingFact& fact : facts) {
-        const qreal wanted = std::max(typeface.width(fact.label, FactLabel),
-                                      typeface.width(fact.value, FactValue));
+        const qreal wanted =
+            std::max(typeface.width(fact.label, FactLabel), typeface.width(fact.value, FactValue));
         if (left >= place.right())
             return;
         const qreal most = std::min(place.width() * WidestFact, place.right() - left);
@@ -42,8 +42,7 @@ void paintFacts(QPainter& painter, const QRectF& place, const std::vector<Headin
 } // namespace
 
 void putTitleBlock(PageBuilder& pages, const ReportHeading& heading, const Typeface& typeface) {
-    pages.put(12 * Point,
-              [](QPainter& painter, const QRectF& place) { paintBar(painter, place); });
+    pages.put(12 * Point, [](QPainter& painter, const QRectF& place) { paintBar(painter, place); });
     pages.put(30 * Point, [heading, typeface](QPainter& painter, const QRectF& place) {
         typeface.draw(painter, place, Qt::AlignLeft, heading.title, {22, true, Ink});
     });
@@ -88,8 +87,8 @@ void paintPageHead(QPainter& painter, const QRectF& place, const ReportHeading& 
 
 void paintPageNumber(QPainter& painter, const QRectF& place, int page, int pages,
                      const Typeface& typeface) {
-    typeface.draw(painter, place, Qt::AlignRight, QStringLiteral("%1 / %2").arg(page).arg(pages),
-                  {7.5, false, Quiet});
+    typeface.draw(painter, place, Qt::AlignRight,
+                  QStringLiteral("Page %1 / %2").arg(page).arg(pages), {7.5, false, Quiet});
 }
 
 } // namespace kavela::report

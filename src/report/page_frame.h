@@ -17,7 +17,7 @@ void putShortTitle(PageBuilder& pages, const ReportHeading& heading, const Typef
 void paintPageHead(QPainter& painter, const QRectF& place, const ReportHeading& heading,
                    const Typeface& typeface);
 
-/// "2 / 3"
+/// "Page 2 / 3"
 void paintPageNumber(QPainter& painter, const QRectF& place, int page, int pages,
                      const Typeface& typeface);
 

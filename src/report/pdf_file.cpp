@@ -1,5 +1,6 @@
 #include "report/pdf_file.h"
 
+#include "common/error.h"
 #include "common/safe_file.h"
 #include "report/searchable_text.h"
 
@@ -43,6 +44,8 @@ std::string pdfOf(const RaceReport& report) {
 }
 
 void writePdf(const RaceReport& report, const std::filesystem::path& path) {
+    if (!isAnyFontInstalled())
+        throw FileError(path, "no font is installed");
     writeFileSafely(path, pdfOf(report));
 }
 

@@ -11,7 +11,7 @@ namespace kavela::report {
 [[nodiscard]] std::string pdfOf(const RaceReport& report);
 
 /// Writes a report as a PDF document, safely: the file is there whole or not at all. Throws
-/// FileError.
+/// FileError, also on a computer without any font, where all letters would be boxes.
 void writePdf(const RaceReport& report, const std::filesystem::path& path);
 
 } // namespace kavela::report

@@ -59,9 +59,8 @@ SmallList resultList(const RaceSet& set, const RunGroup& group) {
     }
     for (const std::size_t run : group.runs)
         if (!ranked.contains(run))
-            list.rows.push_back({{Dash, reportText(set.alldata[run].name), {}, {}, {}, {}},
-                                 false,
-                                 true});
+            list.rows.push_back(
+                {{Dash, reportText(set.alldata[run].name), {}, {}, {}, {}}, false, true});
     return list;
 }
 

@@ -17,16 +17,19 @@ constexpr std::size_t WidestTime = 16;
 // The named green and red of the table in shades that can be read as text.
 constexpr QColor TextGreen(0x0b, 0x75, 0x38);
 constexpr QColor TextRed(0xab, 0x2f, 0x2a);
+constexpr QColor OnTint(0, 0, 0); ///< also on the strongest red, and when that is printed in grey
 
 /// A time as the table has it; one from a damaged file, hundreds of digits long, in short.
 QString cellText(const TableCell& cell) {
-    return QString::fromStdString(
-        cell.text.size() > WidestTime ? fmt::format("{:.3g}", cell.value) : cell.text);
+    return QString::fromStdString(cell.text.size() > WidestTime ? fmt::format("{:.3g}", cell.value)
+                                                                : cell.text);
 }
 
 QColor inkOf(const TableCell& cell) {
     if (cell.foreground)
         return *cell.foreground == NamedGreen ? TextGreen : TextRed;
+    if (cell.background)
+        return OnTint;
     return cell.value == 0 ? Quiet : Ink;
 }
 

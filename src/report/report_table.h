@@ -15,7 +15,7 @@ struct ReportCell {
     QString text;
     QColor ink;
     std::optional<QColor> ground; ///< the tint
-    bool isBest = false;          ///< of its column: in bold, with a mark, for those who see no colours
+    bool isBest = false; ///< of its column: in bold, with a mark, for those who see no colours
 };
 
 struct ReportRow {

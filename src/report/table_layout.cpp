@@ -3,7 +3,9 @@
 #include "report/page_builder.h"
 
 #include <algorithm>
+#include <cmath>
 #include <numeric>
+#include <optional>
 
 namespace kavela::report {
 
@@ -28,7 +30,6 @@ struct Widths {
     [[nodiscard]] qreal ofColumns() const {
         return std::accumulate(columns.begin(), columns.end(), 0.0);
     }
-    [[nodiscard]] qreal leastName() const { return std::min(name, LeastName); }
 };
 
 class Measure {
@@ -59,8 +60,8 @@ Widths widthsOf(const ReportTable& table, const Typeface& typeface) {
     for (const ReportGroup& group : table.groups)
         for (const ReportRow& row : group.rows)
             widths.name = std::max(widths.name, measure.of(row.name, false));
-    widths.name = std::clamp(widths.name + NamePadding * Point, LeastName * Point / 2,
-                             WidestName * Point);
+    widths.name =
+        std::clamp(widths.name + NamePadding * Point, LeastName * Point, WidestName * Point);
     for (std::size_t i = 0; i < table.columns.size(); ++i) {
         const qreal title = std::min(measure.of(table.columns[i], true), WidestTitle * Point);
         const qreal cell = measure.of(longestCell(table, i) + BestMark, true);
@@ -73,12 +74,13 @@ qreal paperWidth(QPageLayout::Orientation orientation) {
     return bodyPlace(orientation).width();
 }
 
-/// The largest letters with which a width for one point fits the paper; 0 when none do.
-qreal fittingPoints(qreal widthOfOnePoint, QPageLayout::Orientation orientation) {
-    for (qreal points = FullPoints; points >= LeastPoints; points -= StepPoints)
-        if (widthOfOnePoint * points <= paperWidth(orientation))
-            return points;
-    return 0;
+/// The largest letters with which a width for one point fits the paper; none when it is too wide
+/// even for the least.
+std::optional<qreal> fittingPoints(qreal widthOfOnePoint, QPageLayout::Orientation orientation) {
+    const qreal largest = paperWidth(orientation) / widthOfOnePoint;
+    if (largest < LeastPoints)
+        return {};
+    return std::min(FullPoints, std::floor(largest / StepPoints) * StepPoints);
 }
 
 /// Spreads what is left of the paper: the columns breathe a little, the names take the rest.
@@ -104,7 +106,7 @@ TableLayout oneStrip(const Widths& widths, QPageLayout::Orientation orientation,
 
 TableLayout manyStrips(const Widths& widths) {
     TableLayout layout{QPageLayout::Landscape, FullPoints - 1, 0, {}};
-    layout.nameWidth = widths.leastName() * layout.points;
+    layout.nameWidth = LeastName * Point * layout.points;
     qreal left = 0;
     for (std::size_t i = 0; i < widths.columns.size(); ++i) {
         const qreal width = widths.columns[i] * layout.points;
@@ -124,10 +126,9 @@ TableLayout layOutTable(const ReportTable& table, const Typeface& typeface) {
     const Widths widths = widthsOf(table, typeface);
     if ((widths.name + widths.ofColumns()) * FullPoints <= paperWidth(QPageLayout::Portrait))
         return oneStrip(widths, QPageLayout::Portrait, FullPoints, widths.name);
-    for (const qreal name : {widths.name, widths.leastName()})
-        if (const qreal points =
-                fittingPoints(name + widths.ofColumns(), QPageLayout::Landscape))
-            return oneStrip(widths, QPageLayout::Landscape, points, name);
+    for (const qreal name : {widths.name, LeastName * Point})
+        if (const auto points = fittingPoints(name + widths.ofColumns(), QPageLayout::Landscape))
+            return oneStrip(widths, QPageLayout::Landscape, *points, name);
     return manyStrips(widths);
 }
 

@@ -31,7 +31,7 @@ struct TableLayout {
 
 [[nodiscard]] TableLayout layOutTable(const ReportTable& table, const Typeface& typeface);
 
-/// The place of the mark behind a column's best value.
+/// Stands behind the best value of a column.
 inline const QString BestMark = QStringLiteral("*");
 
 } // namespace kavela::report

@@ -59,7 +59,8 @@ private:
                 line.height()};
     }
     /// The places of the cells of a line.
-    [[nodiscard]] std::vector<QRectF> cellPlaces(const QRectF& line, const TableStrip& strip) const {
+    [[nodiscard]] std::vector<QRectF> cellPlaces(const QRectF& line,
+                                                 const TableStrip& strip) const {
         std::vector<QRectF> places;
         qreal x = line.left() + m_layout.nameWidth;
         for (const qreal width : strip.widths) {
@@ -110,7 +111,8 @@ private:
         QRectF text = textPlace(place);
         if (cell.isBest)
             text.setRight(text.right() + m_typeface.width(BestMark, style(Ink, true)));
-        m_typeface.draw(painter, text, Qt::AlignRight, cell.isBest ? cell.text + BestMark : cell.text,
+        m_typeface.draw(painter, text, Qt::AlignRight,
+                        cell.isBest ? cell.text + BestMark : cell.text,
                         style(cell.ink, cell.isBest));
     }
 
@@ -175,8 +177,8 @@ private:
             height += m_sheet->height(line);
         QRectF legend = m_pages.space();
         legend.setTop(legend.bottom() - LegendHeight);
-        m_pages.put(height, [sheet = m_sheet, strip = m_strip, lines = std::move(m_lines)](
-                                QPainter& painter, const QRectF& place) {
+        m_pages.put(height, [sheet = m_sheet, strip = m_strip,
+                             lines = std::move(m_lines)](QPainter& painter, const QRectF& place) {
             sheet->paint(painter, place, strip, lines);
         });
         m_pages.putAt(legend, [sheet = m_sheet](QPainter& painter, const QRectF& place) {

@@ -3,6 +3,7 @@
 #include "common/display_text.h"
 
 #include <QFontDatabase>
+#include <QFontInfo>
 #include <QFontMetricsF>
 #include <QPainter>
 #include <QTextLayout>
@@ -75,10 +76,14 @@ void Typeface::draw(QPainter& painter, const QRectF& place, Qt::Alignment alignm
     else if (alignment & Qt::AlignHCenter)
         x = place.center().x() - line.naturalTextWidth() / 2;
     // Not by the height of the line, which a character from another font would change.
-    const qreal baseline =
-        place.center().y() + QFontMetricsF(layout.font()).capHeight() / 2;
+    const qreal baseline = place.center().y() + QFontMetricsF(layout.font()).capHeight() / 2;
     painter.setPen(style.colour);
     layout.draw(&painter, QPointF(x, baseline - line.ascent()));
+}
+
+bool isAnyFontInstalled() {
+    // Families are always listed: those that stand for the platform's own choice.
+    return !QFontInfo(QFont()).family().isEmpty();
 }
 
 void drawRule(QPainter& painter, const QRectF& place, qreal y, const QColor& colour, qreal points) {
@@ -86,8 +91,7 @@ void drawRule(QPainter& painter, const QRectF& place, qreal y, const QColor& col
 }
 
 QString reportText(std::string_view text) {
-    QString line =
-        QString::fromStdString(printable(text.substr(0, 4 * LongestText))).simplified();
+    QString line = QString::fromStdString(printable(text.substr(0, 4 * LongestText))).simplified();
     if (line.size() > LongestText) {
         line.truncate(line[LongestText - 1].isHighSurrogate() ? LongestText - 1 : LongestText);
         line += QChar(0x2026);

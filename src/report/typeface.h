@@ -9,7 +9,8 @@
 
 class QPainter;
 
-/// How text and colours look on paper. One accent colour and greys; nothing is told by colour alone.
+/// How text and colours look on paper. One accent colour and greys; nothing is told by colour
+/// alone.
 namespace kavela::report {
 
 /// Pages are laid out in twentieths of a point (1/1440 inch). Fonts get a whole size in pixels that
@@ -36,8 +37,8 @@ public:
 
     [[nodiscard]] qreal width(const QString& text, const TextStyle& style) const;
 
-    /// Writes one line into a place, the capitals in the middle of its height. Text that is too long
-    /// is set a little smaller, and cut with an ellipsis where that is not enough.
+    /// Writes one line into a place, the capitals in the middle of its height. Text that is too
+    /// long is set a little smaller, and cut with an ellipsis where that is not enough.
     void draw(QPainter& painter, const QRectF& place, Qt::Alignment alignment, const QString& text,
               TextStyle style) const;
 
@@ -46,6 +47,9 @@ private:
 
     QString m_family;
 };
+
+/// Whether there is a font at all; without one every letter is a box.
+[[nodiscard]] bool isAnyFontInstalled();
 
 /// A thin line from the left to the right of a place, at a height.
 void drawRule(QPainter& painter, const QRectF& place, qreal y, const QColor& colour,

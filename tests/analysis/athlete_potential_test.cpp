@@ -40,8 +40,8 @@ TEST(AthletePotential, PutsTheOwnBestSectionsTogether) {
 }
 
 TEST(AthletePotential, ClaimsNothingThatWasNotTimed) {
-    const auto athletes = potentialsOf(
-        {named({"Ann"}, {10, 0}), named({"Ann"}, {0, 20}), named({"Bea"}, {10, 0}), named({"Cy"}, {})});
+    const auto athletes = potentialsOf({named({"Ann"}, {10, 0}), named({"Ann"}, {0, 20}),
+                                        named({"Bea"}, {10, 0}), named({"Cy"}, {})});
     ASSERT_EQ(athletes.size(), 3U);
     EXPECT_EQ(athletes[0].potential, 30) << "every section once, though no run was full";
     for (const AthletePotential& athlete : athletes) {

@@ -17,8 +17,8 @@ constexpr double Tolerance = 1e-9;
 
 /// Three sections: the first run is the fastest but has penalties, the last one stopped early.
 RaceSet smallRace() {
-    splittakerdata031 race =
-        raceOf(3, {runOf({10, 20, 30}), runOf({11, 19, 31}), runOf({12, 21, 30}), runOf({9, 22, 0})});
+    splittakerdata031 race = raceOf(
+        3, {runOf({10, 20, 30}), runOf({11, 19, 31}), runOf({12, 21, 30}), runOf({9, 22, 0})});
     race.athletes[0].sectioninfo.pens = {0, 2, 0};
     race.athletes[0].sectioninfo.totalpen = 2;
     race.athletes[3].sectioninfo.pens = {0, 0, 50};
@@ -41,13 +41,13 @@ TEST(CourseGaps, AddUpAlongTheCourseAndEndWhereATimeIsMissing) {
         std::vector<double> reference;
         std::vector<double> accumulated;
     };
-    for (const Row& row : {Row{"behind, then ahead", {11, 19, 30}, {10, 20.5, 30}, {1, -0.5, -0.5}},
-                           Row{"run stopped", {11, 0, 30}, {10, 20, 30}, {1}},
-                           Row{"reference stopped", {11, 20, 30}, {10, 20, 0}, {1, 1}},
-                           Row{"first section missed", {0, 20}, {10, 20}, {}},
-                           Row{"shorter reference", {11, 21}, {10}, {1}},
-                           Row{"no reference", {11, 21}, {}, {}},
-                           Row{"sum too large", {1, 1e308, 1e308}, {1, -1e308, 1}, {0}}})
+    for (const Row& row :
+         {Row{"behind, then ahead", {11, 19, 30}, {10, 20.5, 30}, {1, -0.5, -0.5}},
+          Row{"run stopped", {11, 0, 30}, {10, 20, 30}, {1}},
+          Row{"reference stopped", {11, 20, 30}, {10, 20, 0}, {1, 1}},
+          Row{"first section missed", {0, 20}, {10, 20}, {}},
+          Row{"shorter reference", {11, 21}, {10}, {1}}, Row{"no reference", {11, 21}, {}, {}},
+          Row{"sum too large", {1, 1e308, 1e308}, {1, -1e308, 1}, {0}}})
         EXPECT_THAT(accumulated(courseGaps(row.times, row.reference)),
                     Pointwise(DoubleNear(Tolerance), row.accumulated))
             << row.name;

@@ -28,14 +28,14 @@ TEST(SectionDistribution, TellsQuartilesAndWhiskersOfTheTimesTaken) {
         std::vector<double> times;
         std::vector<double> figures; ///< minimum, quartiles, maximum, whiskers
     };
-    for (const Row& row :
-         {Row{"zeros never count", {0, 4, 0, 2, 3, 1, 5}, {1, 2, 3, 4, 5, 1, 5}},
-          Row{"between two ranks", {1, 2}, {1, 1.25, 1.5, 1.75, 2, 1, 2}},
-          Row{"one time", {7}, {7, 7, 7, 7, 7, 7, 7}},
-          Row{"a swim lies outside", {1, 2, 3, 4, 60}, {1, 2, 3, 4, 60, 1, 4}},
-          Row{"times of a damaged file", {-1e308, 1e308, 1e308},
-              {-1e308, HUGE_VAL, 1e308, 1e308, 1e308, -1e308, 1e308}},
-          Row{"nobody was timed", {0, 0}, {0, 0, 0, 0, 0, 0, 0}}}) {
+    for (const Row& row : {Row{"zeros never count", {0, 4, 0, 2, 3, 1, 5}, {1, 2, 3, 4, 5, 1, 5}},
+                           Row{"between two ranks", {1, 2}, {1, 1.25, 1.5, 1.75, 2, 1, 2}},
+                           Row{"one time", {7}, {7, 7, 7, 7, 7, 7, 7}},
+                           Row{"a swim lies outside", {1, 2, 3, 4, 60}, {1, 2, 3, 4, 60, 1, 4}},
+                           Row{"times of a damaged file",
+                               {-1e308, 1e308, 1e308},
+                               {-1e308, HUGE_VAL, 1e308, 1e308, 1e308, -1e308, 1e308}},
+                           Row{"nobody was timed", {0, 0}, {0, 0, 0, 0, 0, 0, 0}}}) {
         const SectionDistribution s = distributionOf(row.times);
         EXPECT_EQ((std::vector{s.minimum, s.lowerQuartile, s.median, s.upperQuartile, s.maximum,
                                s.lowerWhisker, s.upperWhisker}),
