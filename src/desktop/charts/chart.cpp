@@ -3,7 +3,6 @@
 #include "desktop/charts/read_out.h"
 #include "desktop/shell/theme.h"
 
-#include <QEvent>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QStackedLayout>
@@ -11,6 +10,21 @@
 #include <algorithm>
 
 namespace kavela::desktop {
+
+namespace {
+
+/// Larger than the text around it, but no headline.
+QFont messageFont(const QWidget& widget) {
+    QFont font = theme::titleFont(widget);
+    font.setWeight(QFont::Normal);
+    return font;
+}
+
+} // namespace
+
+QString runsText(std::size_t count) {
+    return count == 1 ? Chart::tr("1 run") : Chart::tr("%1 runs").arg(count);
+}
 
 Chart::Chart(QWidget* parent)
     : QWidget(parent),
@@ -33,6 +47,7 @@ Chart::Chart(QWidget* parent)
 }
 
 void Chart::connectPlot() {
+    connect(m_plot, &ChartPlot::themeChanged, this, &Chart::invalidate);
     connect(m_plot, &ChartPlot::hovered, this, [this](QPointF at) { hoverAt(at); });
     connect(m_plot, &ChartPlot::hoverEnded, this, [this] { leaveCursor(); });
     connect(m_plot, &ChartPlot::clicked, this, [this](QPointF at) {
@@ -140,7 +155,7 @@ void Chart::refresh() {
     leaveCursor();
     m_plot->applyTheme();
     const QString reason = emptyReason();
-    m_message->setFont(theme::titleFont(*this));
+    m_message->setFont(messageFont(*this));
     m_message->setText(reason);
     m_stack->setCurrentWidget(reason.isEmpty() ? static_cast<QWidget*>(m_plot) : m_message);
     if (reason.isEmpty())
@@ -213,12 +228,6 @@ void Chart::handleKey(QKeyEvent& event) {
         return;
     }
     event.accept();
-}
-
-void Chart::changeEvent(QEvent* event) {
-    QWidget::changeEvent(event);
-    if (event->type() == QEvent::PaletteChange || event->type() == QEvent::FontChange)
-        invalidate();
 }
 
 void Chart::showEvent(QShowEvent* event) {

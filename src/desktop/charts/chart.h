@@ -89,7 +89,6 @@ protected:
     [[nodiscard]] SeriesLabels& seriesLabels() { return *m_labels; }
     [[nodiscard]] ReadOut& readOut() { return *m_readOut; }
 
-    void changeEvent(QEvent* event) override;
     void showEvent(QShowEvent* event) override;
 
 private:
@@ -100,7 +99,8 @@ private:
     ChartRace m_race;
     CourseReference m_reference;
     bool m_penaltiesIncluded = false;
-    std::map<std::size_t, std::size_t> m_slots; ///< selected runs with their place among the colours
+    std::map<std::size_t, std::size_t>
+        m_slots; ///< selected runs with their place among the colours
     std::size_t m_selectedCount = 0;
     std::set<int> m_hidden;
     bool m_isStale = true;
@@ -111,6 +111,9 @@ private:
     QStackedLayout* m_stack;
     ReadOut* m_readOut;
 };
+
+/// "1 run", "58 runs"
+[[nodiscard]] QString runsText(std::size_t count);
 
 /// The number of a run as the id of its series.
 [[nodiscard]] inline int seriesId(std::size_t run) {

@@ -2,31 +2,76 @@
 
 #include "desktop/shell/theme.h"
 
+#include <QPainterPath>
+
 #include <array>
 
 namespace kavela::desktop {
 
 namespace {
 
-using Shape = QCPScatterStyle;
+using enum MarkerShape;
 
 struct Hue {
     QColor onLight;
     QColor onDark;
-    QCPScatterStyle::ScatterShape shape;
+    MarkerShape shape;
 };
 
 const std::array<Hue, 7>& hues() {
     static const std::array<Hue, 7> all{{
-        {QColor(0x00, 0x72, 0xB2), QColor(0x56, 0xB4, 0xE9), Shape::ssDisc},            // blue
-        {QColor(0xD5, 0x5E, 0x00), QColor(0xFF, 0x8A, 0x3D), Shape::ssSquare},          // vermilion
-        {QColor(0x00, 0x8F, 0x69), QColor(0x2C, 0xC4, 0x98), Shape::ssTriangle},        // green
-        {QColor(0xB8, 0x5A, 0x93), QColor(0xE3, 0x9A, 0xC6), Shape::ssDiamond},         // purple
-        {QColor(0xC2, 0x86, 0x00), QColor(0xF0, 0xC2, 0x42), Shape::ssTriangleInverted}, // orange
-        {QColor(0x3A, 0x9B, 0xD6), QColor(0x8C, 0xA8, 0xFF), Shape::ssCircle},          // sky blue
-        {QColor(0x50, 0x55, 0x5A), QColor(0xD5, 0xD8, 0xDA), Shape::ssPlusSquare},      // grey
+        {QColor(0x00, 0x72, 0xB2), QColor(0x56, 0xB4, 0xE9), Circle},       // blue
+        {QColor(0xD5, 0x5E, 0x00), QColor(0xFF, 0x8A, 0x3D), Square},       // vermilion
+        {QColor(0x00, 0x8F, 0x69), QColor(0x2C, 0xC4, 0x98), Triangle},     // green
+        {QColor(0xB8, 0x5A, 0x93), QColor(0xE3, 0x9A, 0xC6), Diamond},      // purple
+        {QColor(0xC2, 0x86, 0x00), QColor(0xF0, 0xC2, 0x42), TriangleDown}, // orange
+        {QColor(0x50, 0x55, 0x5A), QColor(0xD5, 0xD8, 0xDA), Plus},         // grey
+        {QColor(0x3A, 0x9B, 0xD6), QColor(0x8C, 0xA8, 0xFF), Pentagon},     // sky blue
     }};
     return all;
+}
+
+QPolygonF corners(MarkerShape shape) {
+    switch (shape) {
+    case Circle:
+        return {};
+    case Square:
+        return QRectF(-2.6, -2.6, 5.2, 5.2);
+    case Triangle:
+        return {{{0, -3.2}, {3.1, 2.4}, {-3.1, 2.4}}};
+    case Diamond:
+        return {{{0, -3.4}, {3.4, 0}, {0, 3.4}, {-3.4, 0}}};
+    case TriangleDown:
+        return {{{0, 3.2}, {-3.1, -2.4}, {3.1, -2.4}}};
+    case Pentagon:
+        return {{{0, -3.1}, {3, -0.9}, {1.9, 2.6}, {-1.9, 2.6}, {-3, -0.9}}};
+    case Plus:
+        return {{{-1, -3},
+                 {1, -3},
+                 {1, -1},
+                 {3, -1},
+                 {3, 1},
+                 {1, 1},
+                 {1, 3},
+                 {-1, 3},
+                 {-1, 1},
+                 {-3, 1},
+                 {-3, -1},
+                 {-1, -1}}};
+    }
+    return {};
+}
+
+/// The outline in a field six units wide, as custom markers are drawn.
+QPainterPath outline(MarkerShape shape) {
+    QPainterPath path;
+    if (shape == Circle) {
+        path.addEllipse(QPointF(), 2.9, 2.9);
+        return path;
+    }
+    path.addPolygon(corners(shape));
+    path.closeSubpath();
+    return path;
 }
 
 QColor inPalette(std::size_t hue, const QPalette& palette) {
@@ -42,6 +87,19 @@ SeriesStyle seriesStyle(std::size_t slot, const QPalette& palette) {
     return {inPalette(hue, palette), hues()[hue].shape, Lines[slot / hues().size() % Lines.size()]};
 }
 
+QCPScatterStyle markerOf(const SeriesStyle& style, double size, bool isFull) {
+    constexpr double LineWidth = 1.6;
+    QPen pen(style.colour, LineWidth);
+    pen.setCosmetic(true);
+    return {outline(style.shape), pen, isFull ? QBrush(style.colour) : QBrush(Qt::NoBrush), size};
+}
+
+QCPScatterStyle backgroundDot(const QPalette& palette, double size) {
+    // A marker without a pen would get that of its graph.
+    return {QCPScatterStyle::ssCircle, QPen(Qt::transparent), QBrush(backgroundRuns(palette)),
+            size};
+}
+
 QColor touchColour(const QPalette& palette) {
     return theme::isDark(palette) ? QColor(0xF0, 0xC2, 0x42) : QColor(0xE6, 0x9F, 0x00);
 }
@@ -51,7 +109,7 @@ QColor missedColour(const QPalette& palette) {
 }
 
 QColor upstreamColour(const QPalette& palette) {
-    return inPalette(0, palette);
+    return theme::isDark(palette) ? theme::Accent.lighter(175) : theme::Accent;
 }
 
 QColor chartGround(const QPalette& palette) {

@@ -12,10 +12,13 @@
 /// always goes with the colour.
 namespace kavela::desktop {
 
+/// The shapes of the markers, each in both forms: full and hollow.
+enum class MarkerShape { Circle, Square, Triangle, Diamond, TriangleDown, Pentagon, Plus };
+
 /// How one series is drawn.
 struct SeriesStyle {
     QColor colour;
-    QCPScatterStyle::ScatterShape shape = QCPScatterStyle::ssDisc;
+    MarkerShape shape = MarkerShape::Circle;
     Qt::PenStyle line = Qt::SolidLine;
 };
 
@@ -23,6 +26,11 @@ struct SeriesStyle {
 inline constexpr std::size_t MostSeries = 21;
 
 [[nodiscard]] SeriesStyle seriesStyle(std::size_t slot, const QPalette& palette);
+
+/// The marker of a series, so many pixels wide.
+[[nodiscard]] QCPScatterStyle markerOf(const SeriesStyle& style, double size, bool isFull = true);
+/// The dot of a run that nobody selected.
+[[nodiscard]] QCPScatterStyle backgroundDot(const QPalette& palette, double size);
 
 [[nodiscard]] QColor touchColour(const QPalette& palette);
 [[nodiscard]] QColor missedColour(const QPalette& palette);

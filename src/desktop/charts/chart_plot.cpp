@@ -19,10 +19,10 @@ constexpr int NarrowDrag = 16;          ///< pixels
 
 void styleAxis(QCPAxis& axis, const QWidget& widget) {
     const QPalette palette = widget.palette();
-    const QColor line = theme::hairline(palette);
     axis.setBasePen(Qt::NoPen);
-    axis.setTickPen(line);
-    axis.setSubTickPen(line);
+    // Ticks without a pen would leave dots in a drawing.
+    axis.setTickPen(QPen(Qt::transparent));
+    axis.setSubTickPen(QPen(Qt::transparent));
     axis.setTickLabelFont(theme::captionFont(widget));
     axis.setTickLabelColor(palette.color(QPalette::WindowText));
     axis.setLabelFont(theme::captionFont(widget));
@@ -201,8 +201,8 @@ void ChartPlot::mouseMoveEvent(QMouseEvent* event) {
         emit hovered(event->position());
         return;
     }
-    const bool isDrag = (event->pos() - *m_press).manhattanLength() >=
-                        QApplication::startDragDistance();
+    const bool isDrag =
+        (event->pos() - *m_press).manhattanLength() >= QApplication::startDragDistance();
     if (isDrag && axisRect()->rect().contains(*m_press)) {
         emit hoverEnded();
         m_band.setGeometry(dragArea(event->pos()));
@@ -264,6 +264,12 @@ void ChartPlot::keyPressEvent(QKeyEvent* event) {
     }
     event->ignore();
     emit keyPressed(event);
+}
+
+void ChartPlot::changeEvent(QEvent* event) {
+    QCustomPlot::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange || event->type() == QEvent::FontChange)
+        emit themeChanged();
 }
 
 void ChartPlot::leaveEvent(QEvent* event) {

@@ -36,9 +36,10 @@ private:
     void draw(QCPPainter* painter) override;
 };
 
-/// The plot of a chart with the mouse and keys that all charts share: the wheel zooms at the cursor,
-/// over an axis that axis alone; a left drag zooms into a range, along one axis when it is a narrow
-/// one; a middle drag pans; "+", "-" and "0" zoom and fit. Nobody gets lost outside the data.
+/// The plot of a chart with the mouse and keys that all charts share: the wheel zooms at the
+/// cursor, over an axis that axis alone; a left drag zooms into a range, along one axis when it is
+/// a narrow one; a middle drag pans; "+", "-" and "0" zoom and fit. Nobody gets lost outside the
+/// data.
 class ChartPlot : public QCustomPlot {
     Q_OBJECT
 
@@ -66,6 +67,8 @@ signals:
     void hoverEnded();
     void clicked(QPointF position);
     void doubleClicked(QPointF position);
+    /// The palette or the font is another one, after those of the widgets around.
+    void themeChanged();
     /// A key that the plot has no use for; ignore the event to pass it on.
     void keyPressed(QKeyEvent* event);
 
@@ -77,6 +80,7 @@ protected:
     void wheelEvent(QWheelEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void leaveEvent(QEvent* event) override;
+    void changeEvent(QEvent* event) override;
 
 private:
     struct Limits {
@@ -94,8 +98,8 @@ private:
 
     Limits m_limits{{0, 1}, {0, 1}};
     bool m_isZoomed = false;
-    std::optional<QPoint> m_press;     ///< where the left button went down
-    std::optional<QPointF> m_panFrom;  ///< where the middle button last was
+    std::optional<QPoint> m_press;    ///< where the left button went down
+    std::optional<QPointF> m_panFrom; ///< where the middle button last was
     QRubberBand m_band;
     PlotCaption* m_title;
     PlotCaption* m_subtitle;

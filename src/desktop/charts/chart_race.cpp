@@ -44,7 +44,8 @@ std::shared_ptr<const RaceSet> lightCopy(const RaceSet& set) {
     return light;
 }
 
-template <class Member> bool hasSeveral(const RaceSet& set, Member member) {
+template <class Member>
+bool hasSeveral(const RaceSet& set, Member member) {
     return std::ranges::any_of(set.alldata, [&](const analyzerdata& run) {
         return run.*member != set.alldata.front().*member;
     });

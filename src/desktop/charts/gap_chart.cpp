@@ -14,6 +14,7 @@ namespace {
 
 constexpr double LeastSpan = 0.5; ///< seconds: a race decided by less is no mountain range
 constexpr double Headroom = 0.06; ///< of the span
+constexpr double Margin = 0.06;   ///< of a section: room for the markers at both ends
 constexpr double LineWidth = 2.2;
 constexpr double MarkerSize = 6;
 
@@ -37,7 +38,8 @@ QString GapChart::emptyReason() const {
         return tr("Open a race to see its charts.");
     if (selectedRuns().empty())
         return tr("Select runs in the table to see where time is won and lost.");
-    const std::vector<double> times = referenceTimes(race().set(), reference(), penaltiesIncluded());
+    const std::vector<double> times =
+        referenceTimes(race().set(), reference(), penaltiesIncluded());
     if (times.empty())
         return tr("No run covers the whole course. Choose the median or a run as the reference.");
     if (times.front() == 0)
@@ -70,10 +72,10 @@ void GapChart::fill() {
         const auto times = comparedTimes(set, race().run(selected.run), penaltiesIncluded());
         m_lines.push_back({selected, courseGaps(times, against)});
     }
-    canvas().setCaptions(
-        title(), (penaltiesIncluded() ? tr("Accumulated seconds, penalties included")
-                                      : tr("Accumulated seconds, without penalties")) +
-                     leftOutNote());
+    canvas().setCaptions(title(),
+                         (penaltiesIncluded() ? tr("Accumulated seconds, penalties included")
+                                              : tr("Accumulated seconds, without penalties")) +
+                             leftOutNote());
     canvas().xAxis->grid()->setPen(Qt::NoPen);
     canvas().yAxis->grid()->setZeroLinePen(QPen(palette().color(QPalette::WindowText), 2));
     canvas().yAxis->setLabel(tr("\u2190 slower      faster \u2192"));
@@ -101,8 +103,7 @@ void GapChart::addLine(const Line& line) {
     QCPGraph* graph = canvas().addGraph();
     graph->setName(race().label(line.selected.run));
     graph->setPen(QPen(style.colour, LineWidth, style.line, Qt::RoundCap, Qt::RoundJoin));
-    graph->setScatterStyle(
-        {style.shape, QPen(style.colour, 1.5), QBrush(style.colour), MarkerSize});
+    graph->setScatterStyle(markerOf(style, MarkerSize));
     graph->addData(0, 0);
     for (std::size_t i = 0; i < line.gaps.size(); ++i)
         graph->addData(static_cast<double>(i + 1), line.gaps[i].accumulated);
@@ -130,21 +131,22 @@ void GapChart::setLimits() {
         }
     const double span = std::max(slowest - fastest, LeastSpan);
     const double sections = static_cast<double>(timedSections(race().set()));
-    canvas().setLimits({0, sections}, {fastest - span * Headroom, fastest + span * (1 + Headroom)});
+    canvas().setLimits({-Margin, sections + Margin},
+                       {fastest - span * Headroom, fastest + span * (1 + Headroom)});
 }
 
 QString GapChart::readOutOf(std::size_t split) const {
     std::vector<const Line*> lines = shownLines();
     std::erase_if(lines, [&](const Line* line) { return line->gaps.size() < split; });
-    std::ranges::stable_sort(
-        lines, {}, [&](const Line* line) { return line->gaps[split - 1].accumulated; });
+    std::ranges::stable_sort(lines, {},
+                             [&](const Line* line) { return line->gaps[split - 1].accumulated; });
     const QString section = race().sectionTitle(split - 1);
     QStringList rows{readOutRow({QString(), QString(), tr("Gap"), tr("in %1").arg(section)})};
     for (const Line* line : lines) {
         const SectionGap& gap = line->gaps[split - 1];
-        rows << readOutRow({race().label(line->selected.run), gapText(gap.accumulated),
-                            gapText(gap.difference)},
-                           line->selected.style.colour);
+        rows << readOutRow(
+            {race().label(line->selected.run), gapText(gap.accumulated), gapText(gap.difference)},
+            line->selected.style.colour);
     }
     return readOutText(tr("After %1").arg(section), rows);
 }

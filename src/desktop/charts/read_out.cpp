@@ -41,10 +41,11 @@ QString readOutRow(const QStringList& cells, const QColor& mark) {
     if (mark.isValid())
         row += QStringLiteral("<td style='color:%1'>\u25A0</td>").arg(mark.name());
     for (qsizetype i = 0; i < cells.size(); ++i)
-        row += QStringLiteral("<td align='%1' style='padding-left:%2px; white-space:nowrap'>%3</td>")
-                   .arg(i == 0 ? "left" : "right")
-                   .arg(i == 0 ? theme::SmallSpacing : theme::LargeSpacing)
-                   .arg(cells[i].toHtmlEscaped());
+        row +=
+            QStringLiteral("<td align='%1' style='padding-left:%2px; white-space:nowrap'>%3</td>")
+                .arg(i == 0 ? "left" : "right")
+                .arg(i == 0 ? theme::SmallSpacing : theme::LargeSpacing)
+                .arg(cells[i].toHtmlEscaped());
     return row + QStringLiteral("</tr>");
 }
 

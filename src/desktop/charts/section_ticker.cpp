@@ -8,36 +8,38 @@ namespace kavela::desktop {
 
 namespace {
 
-constexpr double NarrowestTitle = 28; ///< pixels
+// Pixels.
+constexpr double NarrowestTitle = 30;
+constexpr double NarrowestNumber = 20;
 
 } // namespace
 
 void SectionTicker::fit(double pixelsOfSection, const QFont& font) {
     m_pixels = pixelsOfSection - theme::Spacing;
+    m_step = pixelsOfSection >= NarrowestNumber || pixelsOfSection <= 0
+                 ? 1
+                 : static_cast<qsizetype>(NarrowestNumber / pixelsOfSection) + 1;
     m_font = font;
 }
 
 QString SectionTicker::getTickLabel(double tick, const QLocale&, QChar, int) {
     const int section = static_cast<int>(std::floor(tick));
     const QString title = m_titles.value(section);
-    const QFontMetrics metrics(m_font);
-    if (metrics.horizontalAdvance(title) <= m_pixels)
-        return title;
     if (m_pixels < NarrowestTitle)
         return QString::number(section + 1);
-    return metrics.elidedText(title, Qt::ElideRight, static_cast<int>(m_pixels));
+    return QFontMetrics(m_font).elidedText(title, Qt::ElideRight, static_cast<int>(m_pixels));
 }
 
 QVector<double> SectionTicker::createTickVector(double, const QCPRange&) {
     QVector<double> middles;
-    for (qsizetype i = 0; i < m_titles.size(); ++i)
+    for (qsizetype i = 0; i < m_titles.size(); i += m_step)
         middles.append(static_cast<double>(i) + 0.5);
     return middles;
 }
 
 QVector<double> SectionTicker::createSubTickVector(int, const QVector<double>&) {
     QVector<double> splits;
-    for (qsizetype i = 0; i <= m_titles.size(); ++i)
+    for (qsizetype i = 0; i <= m_titles.size(); i += m_step)
         splits.append(static_cast<double>(i));
     return splits;
 }
@@ -58,7 +60,8 @@ QSharedPointer<SectionTicker> showSections(QCustomPlot& plot) {
     plot.xAxis->grid()->setSubGridVisible(true);
     QObject::connect(&plot, &QCustomPlot::beforeReplot, &plot, [&plot, ticker] {
         const QMargins margins = plot.axisRect()->margins();
-        const double width = plot.axisRect()->outerRect().width() - margins.left() - margins.right();
+        const double width =
+            plot.axisRect()->outerRect().width() - margins.left() - margins.right();
         ticker->fit(width / plot.xAxis->range().size(), plot.xAxis->tickLabelFont());
     });
     return ticker;

@@ -11,7 +11,7 @@ namespace kavela::desktop {
 class SectionTicker : public QCPAxisTicker {
 public:
     /// Titles wider than the pixels that a section has are cut, and where not even that would be
-    /// readable the sections are numbered.
+    /// readable the sections are numbered, all or every so many.
     void setTitles(const QStringList& titles) { m_titles = titles; }
     void fit(double pixelsOfSection, const QFont& font);
 
@@ -23,6 +23,7 @@ private:
                                                       const QVector<double>& ticks) override;
 
     QStringList m_titles;
+    qsizetype m_step = 1; ///< sections from one title to the next
     double m_pixels = 0;
     QFont m_font;
 };

@@ -11,8 +11,9 @@ namespace {
 
 constexpr int Gap = 2 * theme::Spacing; ///< from the plot to the labels: room for the leaders
 constexpr int SwatchWidth = 3 * theme::SmallSpacing;
-constexpr int WidestName = 190;
+constexpr double WidestShare = 0.24; ///< of the plot for the names
 constexpr double SwatchSize = 8;
+constexpr int RoundingRoom = 2; ///< widths of text are not whole pixels
 
 QFont labelFont(const ChartPlot& plot) {
     return theme::captionFont(plot);
@@ -39,6 +40,18 @@ SeriesLabels::SeriesLabels(ChartPlot& plot) : QCPLayerable(&plot, "legend"), m_p
     QCPAxisRect& rect = *plot.axisRect();
     rect.setAutoMargins(QCP::msLeft | QCP::msTop | QCP::msBottom);
     rect.setMinimumMargins({0, theme::Spacing, 0, 0});
+    QObject::connect(&plot, &QCustomPlot::beforeReplot, this, [this] { takeRoom(); });
+}
+
+void SeriesLabels::takeRoom() {
+    const int widest = static_cast<int>(WidestShare * m_plot.viewport().width());
+    m_shownNameWidth = std::min(m_nameWidth + RoundingRoom, widest);
+    const int values = m_valueWidth > 0 ? m_valueWidth + theme::Spacing : 0;
+    QMargins margins = m_plot.axisRect()->margins();
+    margins.setRight(m_labels.empty()
+                         ? theme::LargeSpacing
+                         : Gap + SwatchWidth + m_shownNameWidth + values + theme::Spacing);
+    m_plot.axisRect()->setMargins(margins);
 }
 
 void SeriesLabels::setLabels(std::vector<SeriesLabel> labels) {
@@ -49,13 +62,6 @@ void SeriesLabels::setLabels(std::vector<SeriesLabel> labels) {
         m_nameWidth = std::max(m_nameWidth, metrics.horizontalAdvance(label.name));
         m_valueWidth = std::max(m_valueWidth, metrics.horizontalAdvance(label.value));
     }
-    m_nameWidth = std::min(m_nameWidth, WidestName);
-    const int values = m_valueWidth > 0 ? m_valueWidth + theme::Spacing : 0;
-    QMargins margins = m_plot.axisRect()->margins();
-    margins.setRight(m_labels.empty() ? theme::LargeSpacing
-                                      : Gap + SwatchWidth + m_nameWidth + values + theme::Spacing);
-    m_plot.axisRect()->setMargins(margins);
-
     const auto hasFocus = [&](const SeriesLabel& label) { return label.id == m_focus; };
     if (std::ranges::none_of(m_labels, hasFocus))
         m_focus.reset();
@@ -75,12 +81,14 @@ double SeriesLabels::wantedHeight(const SeriesLabel& label) const {
 }
 
 void SeriesLabels::place() {
+    m_places.clear();
     const QRectF plot = m_plot.axisRect()->rect();
+    if (plot.isEmpty())
+        return;
     const double height = QFontMetrics(labelFont(m_plot)).height() + theme::SmallSpacing;
     std::vector<std::size_t> order(m_labels.size());
     std::iota(order.begin(), order.end(), 0U);
-    std::ranges::stable_sort(order, {},
-                             [&](std::size_t i) { return wantedHeight(m_labels[i]); });
+    std::ranges::stable_sort(order, {}, [&](std::size_t i) { return wantedHeight(m_labels[i]); });
     // What does not fit is left out: the table still tells which runs are selected.
     const auto fitting = static_cast<std::size_t>(std::max(0.0, plot.height() / height + 1));
     order.resize(std::min(order.size(), fitting));
@@ -90,11 +98,10 @@ void SeriesLabels::place() {
         wanted.push_back(wantedHeight(m_labels[i]));
     const std::vector<double> centres =
         spreadLabels(std::move(wanted), height, plot.top(), plot.bottom());
-    m_places.clear();
     for (std::size_t i = 0; i < order.size(); ++i)
-        m_places.push_back({order[i], QRectF(plot.right() + Gap, centres[i] - height / 2,
-                                             m_plot.viewport().right() - plot.right() - Gap,
-                                             height)});
+        m_places.push_back(
+            {order[i], QRectF(plot.right() + Gap, centres[i] - height / 2,
+                              m_plot.viewport().right() - plot.right() - Gap, height)});
 }
 
 void SeriesLabels::draw(QCPPainter* painter) {
@@ -135,8 +142,8 @@ void SeriesLabels::drawLabel(QCPPainter& painter, const SeriesLabel& label,
         painter.setBrush(label.isHidden ? QBrush(Qt::NoBrush) : QBrush(colour));
         painter.drawRect(field);
     } else {
-        const QBrush brush = label.isHidden ? QBrush(Qt::NoBrush) : QBrush(colour);
-        const QCPScatterStyle swatch(label.style.shape, QPen(colour, 1.5), brush, SwatchSize);
+        const QCPScatterStyle swatch =
+            markerOf({colour, label.style.shape}, SwatchSize, !label.isHidden);
         swatch.applyTo(&painter, QPen(colour));
         swatch.drawShape(&painter, middle);
     }
@@ -146,9 +153,9 @@ void SeriesLabels::drawLabel(QCPPainter& painter, const SeriesLabel& label,
     font.setUnderline(m_plot.hasFocus() && m_focus == label.id);
     painter.setFont(font);
     painter.setPen(QPen(label.isHidden ? quiet : palette.color(QPalette::WindowText)));
-    const QRectF name(rect.left() + SwatchWidth, rect.top(), m_nameWidth, rect.height());
+    const QRectF name(rect.left() + SwatchWidth, rect.top(), m_shownNameWidth, rect.height());
     painter.drawText(name, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine,
-                     QFontMetrics(font).elidedText(label.name, Qt::ElideRight, m_nameWidth));
+                     QFontMetrics(font).elidedText(label.name, Qt::ElideRight, m_shownNameWidth));
     font.setStrikeOut(false);
     font.setUnderline(false);
     painter.setFont(font);

@@ -30,7 +30,7 @@ class SeriesLabels : public QCPLayerable {
 public:
     explicit SeriesLabels(ChartPlot& plot);
 
-    /// Shows these, and takes from the plot the room that they need.
+    /// Shows these, in room that is taken from the plot.
     void setLabels(std::vector<SeriesLabel> labels);
     [[nodiscard]] const std::vector<SeriesLabel>& labels() const { return m_labels; }
 
@@ -51,6 +51,7 @@ private:
 
     void applyDefaultAntialiasingHint(QCPPainter* painter) const override;
     void draw(QCPPainter* painter) override;
+    void takeRoom();
     void place();
     [[nodiscard]] double wantedHeight(const SeriesLabel& label) const;
     void drawLabel(QCPPainter& painter, const SeriesLabel& label, const QRectF& rect) const;
@@ -61,6 +62,7 @@ private:
     std::vector<Place> m_places; ///< from top to bottom
     std::optional<int> m_focus;
     int m_nameWidth = 0;
+    int m_shownNameWidth = 0; ///< less where the plot is narrow
     int m_valueWidth = 0;
 };
 

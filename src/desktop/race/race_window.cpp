@@ -2,6 +2,7 @@
 
 #include "common/error.h"
 #include "common/safe_file.h"
+#include "desktop/charts/chart_panel.h"
 #include "desktop/race/frozen_table.h"
 #include "desktop/race/run_panel.h"
 #include "desktop/race/table_text.h"
@@ -62,6 +63,7 @@ RaceWindow::RaceWindow(Workspace& workspace)
     makeTableMenu();
     connect(&m_document, &RaceDocument::tableChanged, this, [this] {
         m_count->setText(countText(m_model.rowCount()));
+        showCharts();
         showSelection();
     });
     connect(&m_document, &RaceDocument::changedOnDisk, this, &RaceWindow::offerReload);
@@ -83,8 +85,21 @@ void RaceWindow::makeCentre() {
     m_table->setModel(&m_model);
     m_panel = new RunPanel(m_document);
 
+    m_charts = new ChartPanel;
+    connect(m_charts, &ChartPanel::runActivated, this, &RaceWindow::selectRun);
+    connect(m_charts, &ChartPanel::savingFailed, this,
+            [this](const QString&, const QString& reason) {
+                m_workspace.log()("Failed to create file");
+                m_workspace.showAlert({"Failed to create file", reason.toStdString()}, this);
+            });
+
+    auto* work = new QSplitter(Qt::Vertical);
+    work->addWidget(m_table);
+    work->addWidget(m_charts);
+    work->setStretchFactor(0, 1);
+    work->setSizes({420, 280});
     auto* split = new QSplitter;
-    split->addWidget(m_table);
+    split->addWidget(work);
     split->addWidget(m_panel);
     split->setStretchFactor(0, 1);
     split->setSizes({900, 340});
@@ -277,12 +292,24 @@ void RaceWindow::showSelection() {
     std::vector<std::size_t> runs;
     for (const QModelIndex& row : rows)
         runs.push_back(m_model.runOfRow(row.row()));
+    m_charts->setSelection(runs);
     if (runs.empty())
         m_panel->showRun(std::nullopt, std::nullopt);
     else if (runs.size() == 1)
         m_panel->showRun(runs.front(), std::nullopt);
     else
         m_panel->showRun(runs[1], runs[0]);
+}
+
+void RaceWindow::showCharts() {
+    m_charts->setPenaltiesIncluded(m_document.settings().penaltiesIncluded);
+    m_charts->setRace(m_document.shownSet());
+}
+
+void RaceWindow::selectRun(std::size_t run) {
+    const int row = m_model.rowOfRun(run);
+    if (row >= 0)
+        m_table->selectRow(row);
 }
 
 void RaceWindow::useSelectionAsReference() {

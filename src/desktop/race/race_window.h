@@ -11,6 +11,7 @@ class QLineEdit;
 
 namespace kavela::desktop {
 
+class ChartPanel;
 class FrozenTable;
 class RunPanel;
 class Workspace;
@@ -47,6 +48,8 @@ private:
     void fillFilters();
     void applyFilter();
     void showSelection();
+    void showCharts();
+    void selectRun(std::size_t run);
     void clearFilter();
     void copySelection();
     void saveCsv();
@@ -58,6 +61,7 @@ private:
     SplitTableModel m_model;
     FrozenTable* m_table = nullptr;
     RunPanel* m_panel = nullptr;
+    ChartPanel* m_charts = nullptr;
     QLabel* m_title = nullptr;
     QLabel* m_subtitle = nullptr;
     QLabel* m_note = nullptr;

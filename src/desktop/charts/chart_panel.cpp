@@ -1,0 +1,253 @@
+#include "desktop/charts/chart_panel.h"
+
+#include "common/error.h"
+#include "desktop/charts/chart_export.h"
+#include "desktop/charts/gap_chart.h"
+#include "desktop/charts/gate_chart.h"
+#include "desktop/charts/section_chart.h"
+#include "desktop/charts/totals_chart.h"
+#include "desktop/shell/theme.h"
+
+#include <QAction>
+#include <QComboBox>
+#include <QFileDialog>
+#include <QLabel>
+#include <QStackedWidget>
+#include <QTabBar>
+#include <QToolBar>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+namespace kavela::desktop {
+
+ChartPanel::ChartPanel(QWidget* parent)
+    : QWidget(parent),
+      m_tabs(new QTabBar(this)),
+      m_bar(new QToolBar(this)),
+      m_stack(new QStackedWidget(this)) {
+    m_tabs->setExpanding(false);
+    m_tabs->setDrawBase(false);
+    m_tabs->setAccessibleName(tr("Charts"));
+    auto* row = new QHBoxLayout;
+    row->setContentsMargins(theme::Spacing, theme::SmallSpacing, theme::Spacing, 0);
+    row->setSpacing(theme::LargeSpacing);
+    row->addWidget(m_tabs);
+    row->addWidget(m_bar, 1);
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(theme::SmallSpacing);
+    column->addLayout(row);
+    column->addWidget(m_stack, 1);
+
+    makeBar();
+    addChart(new GapChart);
+    addChart(new SectionChart);
+    addChart(new GateChart);
+    addChart(new TotalsChart);
+    makeActions();
+    connect(m_tabs, &QTabBar::currentChanged, this, [this] { showCurrent(); });
+    fillReferences();
+    m_bar->setMinimumHeight(m_bar->sizeHint().height()); // of the tallest chart: no jump
+    showCurrent();
+}
+
+void ChartPanel::makeBar() {
+    m_bar->setToolButtonStyle(Qt::ToolButtonTextOnly);
+    auto* stretch = new QWidget;
+    stretch->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
+    m_bar->addWidget(stretch);
+    auto* label = new QLabel(tr("&Reference") + QStringLiteral("  "));
+    m_references = new QComboBox;
+    m_references->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    m_references->setMinimumContentsLength(18);
+    m_references->setAccessibleName(tr("Reference"));
+    m_references->setToolTip(tr("What the runs are held against"));
+    label->setBuddy(m_references);
+    m_referenceLabelAction = m_bar->addWidget(label);
+    m_referenceAction = m_bar->addWidget(m_references);
+    connect(m_references, &QComboBox::activated, this, &ChartPanel::chooseReference);
+}
+
+void ChartPanel::addChart(Chart* chart) {
+    m_charts.push_back(chart);
+    const int tab = m_tabs->addTab(chart->name());
+    m_tabs->setTabToolTip(tab, chart->purpose());
+    m_stack->addWidget(chart);
+    m_bar->addActions(chart->options());
+    connect(chart, &Chart::runActivated, this, &ChartPanel::runActivated);
+}
+
+void ChartPanel::makeActions() {
+    m_bar->addSeparator();
+    QAction* fit = m_bar->addAction(tr("Fit"));
+    fit->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_0));
+    fit->setToolTip(tr("Show everything again (%1, or double click)")
+                        .arg(fit->shortcut().toString(QKeySequence::NativeText)));
+    connect(fit, &QAction::triggered, this, [this] { currentChart().plot().fit(); });
+    m_save = m_bar->addAction(tr("Save chart\u2026"));
+    m_save->setShortcut(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_E));
+    m_save->setToolTip(tr("Save as PNG, SVG or CSV (%1)")
+                           .arg(m_save->shortcut().toString(QKeySequence::NativeText)));
+    connect(m_save, &QAction::triggered, this, &ChartPanel::askAndSave);
+    addActions({fit, m_save});
+    for (std::size_t i = 0; i < m_charts.size(); ++i) {
+        auto* show = new QAction(m_charts[i]->purpose(), this);
+        const int index = static_cast<int>(i);
+        show->setShortcut(QKeySequence(Qt::ALT | static_cast<Qt::Key>(Qt::Key_1 + index)));
+        connect(show, &QAction::triggered, this, [this, index] {
+            setCurrentChart(index);
+            currentChart().setFocus();
+        });
+        addAction(show);
+    }
+    for (QAction* action : actions())
+        action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+}
+
+Chart& ChartPanel::currentChart() const {
+    return *m_charts[static_cast<std::size_t>(m_tabs->currentIndex())];
+}
+
+void ChartPanel::setCurrentChart(int index) {
+    m_tabs->setCurrentIndex(index);
+}
+
+void ChartPanel::showCurrent() {
+    m_stack->setCurrentWidget(&currentChart());
+    for (const Chart* chart : m_charts)
+        for (QAction* option : chart->options())
+            option->setVisible(chart == &currentChart());
+    m_referenceLabelAction->setVisible(currentChart().usesReference());
+    m_referenceAction->setVisible(currentChart().usesReference());
+}
+
+void ChartPanel::setRace(const RaceSet& set) {
+    const ChartRace before = m_race;
+    m_race = set;
+    m_selection.clear();
+    for (Chart* chart : m_charts)
+        chart->setRace(m_race);
+    followReferenceRun(before);
+    fillReferences();
+}
+
+void ChartPanel::followReferenceRun(const ChartRace& before) {
+    if (m_reference.kind != CourseReferenceKind::Run)
+        return;
+    const auto run =
+        m_reference.run < before.size() ? m_race.find(before.run(m_reference.run)) : std::nullopt;
+    const CourseReference followed =
+        run ? CourseReference{CourseReferenceKind::Run, *run} : CourseReference{};
+    if (followed == m_reference)
+        return;
+    m_reference = followed;
+    applyReference();
+    emit referenceChanged(m_reference);
+}
+
+void ChartPanel::setSelection(const std::vector<std::size_t>& runs) {
+    m_selection = runs;
+    std::erase_if(m_selection, [this](std::size_t run) { return run >= m_race.size(); });
+    for (Chart* chart : m_charts)
+        chart->setSelection(m_selection);
+    fillReferences();
+}
+
+void ChartPanel::setPenaltiesIncluded(bool included) {
+    for (Chart* chart : m_charts)
+        chart->setPenaltiesIncluded(included);
+}
+
+void ChartPanel::setReference(const CourseReference& reference) {
+    m_reference = reference;
+    if (m_reference.kind == CourseReferenceKind::Run && m_reference.run >= m_race.size())
+        m_reference = {};
+    applyReference();
+    fillReferences();
+}
+
+void ChartPanel::addReference(const QString& name, const std::vector<double>& times) {
+    m_added.push_back({CourseReferenceKind::Times, 0, name.toStdString(), times});
+    fillReferences();
+}
+
+void ChartPanel::applyReference() {
+    for (Chart* chart : m_charts)
+        chart->setReference(m_reference);
+}
+
+QString ChartPanel::titleOf(const CourseReference& reference) const {
+    switch (reference.kind) {
+    case CourseReferenceKind::BestRun:
+        return tr("Best run");
+    case CourseReferenceKind::Median:
+        return tr("Median");
+    case CourseReferenceKind::Ideal:
+        return tr("Ideal run");
+    case CourseReferenceKind::Run:
+        return m_race.label(reference.run);
+    case CourseReferenceKind::Times:
+        return QString::fromStdString(reference.name).simplified();
+    }
+    return {};
+}
+
+void ChartPanel::offerReference(const CourseReference& reference) {
+    if (std::ranges::find(m_offered, reference) != m_offered.end())
+        return;
+    m_offered.push_back(reference);
+    m_references->addItem(titleOf(reference));
+}
+
+/// The chooser offers the selected runs, not all: sixty names are for the table to search.
+void ChartPanel::fillReferences() {
+    constexpr std::size_t MostOffered = 30;
+    m_references->clear();
+    m_offered.clear();
+    using Kind = CourseReferenceKind;
+    for (const Kind kind : {Kind::BestRun, Kind::Median, Kind::Ideal})
+        offerReference({kind});
+    for (const CourseReference& added : m_added)
+        offerReference(added);
+    offerReference(m_reference);
+    for (std::size_t i = 0; i < std::min(m_selection.size(), MostOffered); ++i)
+        offerReference({Kind::Run, m_selection[i]});
+    const auto chosen = std::ranges::find(m_offered, m_reference);
+    m_references->setCurrentIndex(static_cast<int>(chosen - m_offered.begin()));
+}
+
+void ChartPanel::chooseReference(int index) {
+    m_reference = m_offered[static_cast<std::size_t>(index)];
+    applyReference();
+    emit referenceChanged(m_reference);
+}
+
+void ChartPanel::saveChart(const QString& path) {
+    desktop::saveChart(currentChart(), path.toStdU16String());
+    emit chartSaved(path);
+}
+
+void ChartPanel::askAndSave() {
+    const QString png = tr("Picture (*.png)");
+    const QString svg = tr("Drawing (*.svg)");
+    const QString csv = tr("Table (*.csv)");
+    QFileDialog dialog(this, tr("Save chart"));
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setNameFilters({png, svg, csv});
+    dialog.setDefaultSuffix("png");
+    dialog.selectFile(currentChart().purpose() + QStringLiteral(".png"));
+    connect(&dialog, &QFileDialog::filterSelected, &dialog, [&](const QString& filter) {
+        dialog.setDefaultSuffix(filter == svg ? "svg" : filter == csv ? "csv" : "png");
+    });
+    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
+        return;
+    const QString path = dialog.selectedFiles().constFirst();
+    try {
+        saveChart(path);
+    } catch (const FileError& error) {
+        emit savingFailed(path, QString::fromStdString(error.reason()));
+    }
+}
+
+} // namespace kavela::desktop

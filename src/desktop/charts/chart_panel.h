@@ -1,0 +1,83 @@
+#pragma once
+
+#include "analysis/course_gaps.h"
+#include "desktop/charts/chart_race.h"
+
+#include <QWidget>
+
+#include <vector>
+
+class QAction;
+class QComboBox;
+class QLabel;
+class QStackedWidget;
+class QTabBar;
+class QToolBar;
+
+namespace kavela::desktop {
+
+class Chart;
+
+/// The charts of a race under one bar: tabs, the reference, the switches of the chart in front,
+/// saving. The window links it with its table: `setSelection` one way, `runActivated` the other.
+class ChartPanel : public QWidget {
+    Q_OBJECT
+
+public:
+    explicit ChartPanel(QWidget* parent = nullptr);
+
+    /// The runs that the table shows. The selection has to be set again; a chosen reference run
+    /// stays the reference as long as it is among them.
+    void setRace(const RaceSet& set);
+    void setSelection(const std::vector<std::size_t>& runs);
+    void setPenaltiesIncluded(bool included);
+
+    [[nodiscard]] const CourseReference& reference() const { return m_reference; }
+    void setReference(const CourseReference& reference);
+    /// Offers the section times of a run from elsewhere as a reference.
+    void addReference(const QString& name, const std::vector<double>& times);
+
+    [[nodiscard]] const std::vector<Chart*>& charts() const { return m_charts; }
+    [[nodiscard]] Chart& currentChart() const;
+    void setCurrentChart(int index);
+
+    /// Saves the chart in front; throws FileError.
+    void saveChart(const QString& path);
+
+signals:
+    void runActivated(std::size_t run);
+    /// The user chose another reference, or the chosen run is gone.
+    void referenceChanged(const kavela::CourseReference& reference);
+    void chartSaved(const QString& path);
+    void savingFailed(const QString& path, const QString& reason);
+
+private:
+    void addChart(Chart* chart);
+    void makeBar();
+    void makeActions();
+    void showCurrent();
+    void fillReferences();
+    void offerReference(const CourseReference& reference);
+    void chooseReference(int index);
+    void applyReference();
+    void followReferenceRun(const ChartRace& before);
+    void askAndSave();
+    [[nodiscard]] QString titleOf(const CourseReference& reference) const;
+
+    ChartRace m_race;
+    std::vector<std::size_t> m_selection;
+    CourseReference m_reference;
+    std::vector<CourseReference> m_added;   ///< from elsewhere
+    std::vector<CourseReference> m_offered; ///< as in the chooser
+    std::vector<Chart*> m_charts;
+
+    QTabBar* m_tabs;
+    QToolBar* m_bar;
+    QStackedWidget* m_stack;
+    QComboBox* m_references = nullptr;
+    QAction* m_referenceLabelAction = nullptr;
+    QAction* m_referenceAction = nullptr;
+    QAction* m_save = nullptr;
+};
+
+} // namespace kavela::desktop
