@@ -62,9 +62,9 @@ struct analyzerdata {
     std::vector<double> microaccutimes;
     std::vector<double> micropertimes;
     std::vector<double> microaccupertimes;
-    std::filesystem::path fileURL; ///< the split file the run came from
-    std::int64_t athleteInt = 0;   ///< index of the run in that file
-    std::string category;          ///< of the run, or of the race where the run has none
+    std::filesystem::path fileURL;           ///< the split file the run came from
+    std::int64_t athleteInt = 0;             ///< index of the run in that file
+    std::string category;                    ///< of the run, or of the race where the run has none
     std::vector<std::int64_t> gatePenalties; ///< as stored: by gate where the course was set up so
 };
 

@@ -29,9 +29,9 @@ struct SessionCount {
 
 /// What a document turned out to be.
 struct SessionRecognition {
-    std::optional<SessionVersion> version;      ///< nothing when no record decoded
-    std::vector<SessionCount> counts;           ///< in the order of the record
-    std::vector<FailedAttempt> failures; ///< the records tried before, in that order
+    std::optional<SessionVersion> version; ///< nothing when no record decoded
+    std::vector<SessionCount> counts;      ///< in the order of the record
+    std::vector<FailedAttempt> failures;   ///< the records tried before, in that order
 };
 
 /// Every session record, in the order in which they are tried.

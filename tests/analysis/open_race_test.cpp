@@ -1,8 +1,8 @@
 #include "analysis/open_race.h"
 
-#include "boatmotion/temp_folder.h"
 #include "common/file_size_limit.h"
 #include "common/recorders.h"
+#include "common/temp_folder.h"
 
 #include <gmock/gmock.h>
 

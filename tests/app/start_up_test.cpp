@@ -1,7 +1,7 @@
 #include "app/start_up.h"
 
-#include "boatmotion/temp_folder.h"
 #include "common/recorders.h"
+#include "common/temp_folder.h"
 
 #include <gmock/gmock.h>
 

@@ -1,8 +1,8 @@
 #include "boatmotion/session_files.h"
 
-#include "boatmotion/temp_folder.h"
 #include "common/json_decode.h"
 #include "common/json_encode.h"
+#include "common/temp_folder.h"
 
 #include <nlohmann/json.hpp>
 

@@ -1,8 +1,8 @@
-#include "boatmotion/temp_folder.h"
 #include "common/error.h"
 #include "common/file_reader.h"
 #include "common/file_size_limit.h"
 #include "common/safe_file.h"
+#include "common/temp_folder.h"
 
 #include <gmock/gmock.h>
 

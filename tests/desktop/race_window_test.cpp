@@ -1,7 +1,7 @@
 #include "desktop/race/race_window.h"
 
-#include "boatmotion/temp_folder.h"
 #include "common/recorders.h"
+#include "common/temp_folder.h"
 #include "desktop/desktop.h"
 #include "desktop/race/frozen_table.h"
 #include "desktop/shell/settings_window.h"

@@ -1,11 +1,8 @@
+#include "common/file_size_limit.h"
 #include "common/json_encode.h"
 #include "splitdata/version_files.h"
 
 #include <gmock/gmock.h>
-
-#include <sys/resource.h>
-
-#include <csignal>
 
 namespace kavela::test {
 
@@ -30,26 +27,6 @@ struct Reading {
 
     explicit Reading(const std::filesystem::path& path)
         : document(readSplitFile(path, log.log(), alerts, upgradeClock)) {}
-};
-
-/// As long as it lives, no file of this process can grow beyond a size: writing fails for real.
-class FileSizeLimit {
-public:
-    explicit FileSizeLimit(rlim_t bytes) : m_handler(std::signal(SIGXFSZ, SIG_IGN)) {
-        ::getrlimit(RLIMIT_FSIZE, &m_before);
-        const rlimit limit{bytes, m_before.rlim_max};
-        ::setrlimit(RLIMIT_FSIZE, &limit);
-    }
-    FileSizeLimit(const FileSizeLimit&) = delete;
-    FileSizeLimit& operator=(const FileSizeLimit&) = delete;
-    ~FileSizeLimit() {
-        ::setrlimit(RLIMIT_FSIZE, &m_before);
-        (void)std::signal(SIGXFSZ, m_handler);
-    }
-
-private:
-    void (*m_handler)(int);
-    rlimit m_before{};
 };
 
 /// What the log says of a file that no release wrote, but for the reason at its end.

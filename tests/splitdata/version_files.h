@@ -1,6 +1,6 @@
 #pragma once
 
-#include "boatmotion/temp_folder.h"
+#include "common/temp_folder.h"
 #include "splitdata/loader.h"
 #include "splitdata/record_table.h"
 
