@@ -3,6 +3,8 @@
 #include "analysis/percent_behind.h"
 #include "splitdata/run_timing.h"
 
+#include <algorithm>
+#include <iterator>
 #include <numeric>
 
 namespace kavela {
@@ -100,9 +102,12 @@ RaceSet makeRaceSet(splittakerdata031 document, const fs::path& file) {
     return set;
 }
 
-void filterRaceSet(RaceSet& set, const std::function<bool(const analyzerdata&)>& keep) {
-    std::erase_if(set.alldata, [&](const analyzerdata& run) { return !keep(run); });
-    fillPercentFigures(set.alldata);
+RaceSet filteredRaceSet(const RaceSet& set, const std::function<bool(const analyzerdata&)>& keep) {
+    RaceSet kept{{},        set.sectiontitles, set.totalsplits,
+                 set.gates, set.upGates,       set.definedsections};
+    std::ranges::copy_if(set.alldata, std::back_inserter(kept.alldata), keep);
+    fillPercentFigures(kept.alldata);
+    return kept;
 }
 
 } // namespace kavela

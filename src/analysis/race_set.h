@@ -25,7 +25,8 @@ struct RaceSet {
 /// looked for in its folder. The document is taken over, not copied.
 [[nodiscard]] RaceSet makeRaceSet(splittakerdata031 document, const std::filesystem::path& file);
 
-/// Keeps only the runs that `keep` accepts and compares those among themselves.
-void filterRaceSet(RaceSet& set, const std::function<bool(const analyzerdata&)>& keep);
+/// The runs that `keep` accepts, compared among themselves.
+[[nodiscard]] RaceSet filteredRaceSet(const RaceSet& set,
+                                      const std::function<bool(const analyzerdata&)>& keep);
 
 } // namespace kavela

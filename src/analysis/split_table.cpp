@@ -27,19 +27,6 @@ std::string sectionTitle(const RaceSet& set, std::size_t index) {
     return title.empty() ? "S" + std::to_string(index + 1) : title;
 }
 
-std::vector<TableColumn> tableColumns(const RaceSet& set) {
-    std::vector<TableColumn> columns;
-    for (std::size_t i = 0; i < shownSections(set); ++i) {
-        const bool compared = i < SectionColumns;
-        columns.push_back({compared ? std::optional(static_cast<int>(i) + 1) : std::nullopt,
-                           sectionTitle(set, i)});
-    }
-    columns.push_back({TotalColumn, "Total"});
-    columns.push_back({SprintColumn, "Sprint"});
-    columns.push_back({RealColumn, "Real"});
-    return columns;
-}
-
 /// Values and texts of the cells, before any colour.
 class CellValues {
 public:
@@ -139,6 +126,19 @@ void colourTexts(SplitTable& table, const RaceSet& set, const TableSettings& set
 }
 
 } // namespace
+
+std::vector<TableColumn> tableColumns(const RaceSet& set) {
+    std::vector<TableColumn> columns;
+    for (std::size_t i = 0; i < shownSections(set); ++i) {
+        const bool compared = i < SectionColumns;
+        columns.push_back({compared ? std::optional(static_cast<int>(i) + 1) : std::nullopt,
+                           sectionTitle(set, i)});
+    }
+    columns.push_back({TotalColumn, "Total"});
+    columns.push_back({SprintColumn, "Sprint"});
+    columns.push_back({RealColumn, "Real"});
+    return columns;
+}
 
 std::string timeText(double seconds, bool isTinted) {
     if (seconds == 0)

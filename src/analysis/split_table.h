@@ -49,6 +49,9 @@ struct SplitTable {
     std::vector<TableRow> rows;
 };
 
+/// The columns of the table of a race: the sections of the course, total, sprint and real time.
+[[nodiscard]] std::vector<TableColumn> tableColumns(const RaceSet& set);
+
 /// Builds and colours the table: the sections of the course, total, sprint and real time.
 [[nodiscard]] SplitTable makeSplitTable(const RaceSet& set, const TableSettings& settings);
 

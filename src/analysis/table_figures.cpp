@@ -1,7 +1,9 @@
 #include "analysis/table_figures.h"
 
+#include "analysis/comparison_columns.h"
 #include "analysis/percent_behind.h"
 #include "common/percentile.h"
+#include "splitdata/run_timing.h"
 
 #include <algorithm>
 
@@ -10,8 +12,9 @@ namespace kavela {
 TableFigures::TableFigures(const SplitTable& table)
     : m_values(table.columns.size()), m_sorted(table.columns.size()) {
     for (std::size_t column = 0; column < table.columns.size(); ++column) {
+        const bool isTotal = table.columns[column].number == TotalColumn;
         for (const TableRow& row : table.rows)
-            m_values[column].push_back(row.cells[column].value);
+            m_values[column].push_back(isTotal && !row.isFullRun ? 0 : row.cells[column].value);
         m_sorted[column] = m_values[column];
         std::erase(m_sorted[column], 0.0);
         std::sort(m_sorted[column].begin(), m_sorted[column].end());
@@ -32,10 +35,13 @@ std::optional<int> TableFigures::rank(std::size_t row, std::size_t column) const
 }
 
 std::optional<double> TableFigures::percentBehind(std::size_t row, std::size_t column) const {
-    const double time = value(row, column);
-    if (time == 0)
+    return percentBehindOf(value(row, column), column);
+}
+
+std::optional<double> TableFigures::percentBehindOf(double value, std::size_t column) const {
+    if (value == 0 || m_sorted[column].empty())
         return std::nullopt;
-    return kavela::percentBehind(time, m_sorted[column].front());
+    return kavela::percentBehind(value, m_sorted[column].front());
 }
 
 std::optional<double> TableFigures::percentile(std::size_t row, std::size_t column) const {
@@ -56,17 +62,23 @@ double TableFigures::referenceValue(std::size_t column, const TableReference& re
         return sorted.empty() ? 0 : kavela::percentile(sorted, 0.5);
     case ReferenceKind::Run:
         return reference.row < m_values[column].size() ? value(reference.row, column) : 0;
+    case ReferenceKind::Values:
+        return entryOrZero(reference.values, column);
     }
     return 0;
 }
 
 std::optional<double> TableFigures::gap(std::size_t row, std::size_t column,
                                         const TableReference& reference) const {
-    const double time = value(row, column);
+    return gapOf(value(row, column), column, reference);
+}
+
+std::optional<double> TableFigures::gapOf(double value, std::size_t column,
+                                          const TableReference& reference) const {
     const double against = referenceValue(column, reference);
-    if (time == 0 || against == 0)
+    if (value == 0 || against == 0)
         return std::nullopt;
-    return time - against;
+    return value - against;
 }
 
 } // namespace kavela

@@ -3,17 +3,27 @@
 #include "analysis/split_table.h"
 
 #include <optional>
+#include <string>
+#include <vector>
 
 /// What a coach reads off a cell beside its time: rank, gap, percent behind, percentile. A value of
-/// 0 was not timed: it has no figure and is never a best.
+/// 0 was not timed: it has no figure and is never a best. Nor is the total of a run that was not
+/// timed to the end.
 namespace kavela {
 
 /// What the runs of a table are held against.
-enum class ReferenceKind { Best, Median, Run };
+enum class ReferenceKind {
+    Best,
+    Median,
+    Run,    ///< a run of the table
+    Values, ///< what no run of the table paddled: the ideal run, a run of another race
+};
 
 struct TableReference {
     ReferenceKind kind = ReferenceKind::Best;
-    std::size_t row = 0; ///< of the run, where a run is the reference
+    std::size_t row = 0;             ///< of the run, for `Run`
+    std::string name = {};           ///< whose values, for `Values`
+    std::vector<double> values = {}; ///< seconds by column, 0 for none, for `Values`
 };
 
 /// The figures of every cell of a table.
@@ -32,6 +42,10 @@ public:
     /// Seconds behind the reference's value in the column; negative when faster.
     [[nodiscard]] std::optional<double> gap(std::size_t row, std::size_t column,
                                             const TableReference& reference) const;
+    /// The same for a value of none of the table's runs.
+    [[nodiscard]] std::optional<double> gapOf(double value, std::size_t column,
+                                              const TableReference& reference) const;
+    [[nodiscard]] std::optional<double> percentBehindOf(double value, std::size_t column) const;
 
 private:
     [[nodiscard]] double value(std::size_t row, std::size_t column) const;

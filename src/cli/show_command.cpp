@@ -58,7 +58,7 @@ void filter(RaceSet& set, std::string analyzerdata::*field, const std::string& w
     if (wanted.empty())
         return;
     const std::string present = valuesOf(set, field);
-    filterRaceSet(set, [&](const analyzerdata& run) { return run.*field == wanted; });
+    set = filteredRaceSet(set, [&](const analyzerdata& run) { return run.*field == wanted; });
     if (set.alldata.empty() && !present.empty())
         logLine("No run has the " + std::string(fieldName) + " \"" + wanted + "\". There is " +
                 present + ".");

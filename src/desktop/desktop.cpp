@@ -11,7 +11,6 @@
 
 #include <QApplication>
 #include <QDir>
-#include <QDirIterator>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QStandardPaths>
@@ -28,11 +27,21 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// Files a folder may hold before a coach is unlikely to want a window for each.
-constexpr int MostWindowsAtOnce = 12;
+constexpr const char* SessionKey = "openFiles";
+
+/// Files a folder may hold before a coach is unlikely to want a tab for each.
+constexpr int MostRacesOfAFolder = 24;
 
 QIcon icon(const char* name) {
     return QIcon(QString(":/icons/%1.svg").arg(name));
+}
+
+/// The split files of a folder in the order of their names.
+QStringList splitFilesIn(const QString& folder) {
+    QStringList files;
+    for (const QFileInfo& file : QDir(folder).entryInfoList({"*.kvx"}, QDir::Files, QDir::Name))
+        files.append(file.filePath());
+    return files.mid(0, MostRacesOfAFolder);
 }
 
 /// Writes what of the sample season is not there yet.
@@ -59,8 +68,11 @@ Desktop::Desktop(Workspace& workspace) : m_workspace(workspace) {
 
 Desktop::~Desktop() {
     delete m_home;
-    for (const auto& race : m_races)
+    for (const auto& race : m_races) {
+        if (race)
+            race->disconnect(this);
         delete race;
+    }
 }
 
 void Desktop::showHome() {
@@ -72,6 +84,8 @@ void Desktop::showHome() {
         m_home->setAttribute(Qt::WA_DeleteOnClose);
         connect(m_home, &HomeWindow::settingsRequested, this, &Desktop::openSettings);
         connect(m_home, &HomeWindow::sampleRequested, this, &Desktop::openSampleSeason);
+        connect(m_home, &HomeWindow::filesRequested, this,
+                [this](const QStringList& files) { openAll(files); });
     }
     m_home->show();
     m_home->raise();
@@ -83,39 +97,72 @@ QWidget* Desktop::front() const {
 }
 
 void Desktop::chooseRace() {
-    const QStringList files = QFileDialog::getOpenFileNames(
-        front(), tr("Open races"), QString(), tr("Split files (*.kvx);;All files (*)"));
-    for (const QString& file : files)
-        open(file);
+    openAll(QFileDialog::getOpenFileNames(front(), tr("Open races"), QString(),
+                                          tr("Split files (*.kvx);;All files (*)")));
 }
 
-void Desktop::open(const QString& path) {
-    if (QFileInfo(path).isDir()) {
-        QDirIterator files(path, {"*.kvx"}, QDir::Files);
-        for (int opened = 0; files.hasNext() && opened < MostWindowsAtOnce; ++opened)
-            openRace(files.next());
-        return;
+QStringList Desktop::racesAmong(const QStringList& paths) {
+    QStringList races;
+    for (const QString& path : paths) {
+        if (QFileInfo(path).isDir()) {
+            races += splitFilesIn(path);
+            continue;
+        }
+        const FileFacts facts = factsOf(path.toStdString());
+        if (facts.error || facts.kind == "split file")
+            races.append(path); // the reader says what is wrong
+        else
+            m_workspace.showAlert(
+                {"", "This feature is not ready yet.\n\nIt will come with a future update."},
+                front());
     }
-    const FileFacts facts = factsOf(path.toStdString());
-    if (facts.error || facts.kind == "split file") {
-        openRace(path); // the reader says what is wrong
-        return;
-    }
-    m_workspace.showAlert(
-        {"", "This feature is not ready yet.\n\nIt will come with a future update."}, front());
+    return races;
 }
 
-void Desktop::openRace(const QString& path) {
+void Desktop::openAll(const QStringList& paths, RaceWindow* into) {
+    openRaces(racesAmong(paths), into);
+}
+
+RaceWindow* Desktop::makeRaceWindow() {
     auto* window = new RaceWindow(m_workspace);
-    if (!window->open(path)) {
-        delete window;
-        m_workspace.forgetRecentFile(path);
-        return;
-    }
     connect(window, &RaceWindow::homeRequested, this, &Desktop::showHome);
     connect(window, &RaceWindow::settingsRequested, this, &Desktop::openSettings);
-    m_races.append(window);
+    connect(window, &RaceWindow::filesRequested, this,
+            [this, window](const QStringList& files) { openAll(files, window); });
+    connect(window, &RaceWindow::viewsChanged, this, &Desktop::rememberSession);
+    connect(window, &QObject::destroyed, this, &Desktop::rememberSession);
+    return window;
+}
+
+void Desktop::openRaces(const QStringList& paths, RaceWindow* into) {
+    RaceWindow* const window = into ? into : makeRaceWindow();
+    for (const QString& path : paths)
+        if (!window->open(path))
+            m_workspace.forgetRecentFile(path);
+    if (window->views().empty()) {
+        delete window;
+        return;
+    }
+    if (!into)
+        m_races.append(window);
     window->show();
+    rememberSession();
+}
+
+/// The last window's closing leaves the program: what it showed is what the next start shows.
+void Desktop::rememberSession() {
+    QStringList files;
+    for (const RaceWindow* window : raceWindows())
+        files += window->paths();
+    if (!files.isEmpty() || (m_home && m_home->isVisible()))
+        m_workspace.remember(SessionKey, files);
+}
+
+bool Desktop::restoreSession() {
+    QStringList files = m_workspace.remembered(SessionKey);
+    files.removeIf([](const QString& file) { return !QFileInfo::exists(file); });
+    openRaces(files, nullptr);
+    return !raceWindows().isEmpty();
 }
 
 QList<RaceWindow*> Desktop::raceWindows() const {

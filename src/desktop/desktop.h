@@ -19,7 +19,11 @@ public:
 
     void showHome();
     /// Opens a file in the tool it belongs to, by what it holds; every split file of a folder.
-    void open(const QString& path);
+    void open(const QString& path) { openAll({path}); }
+    /// The same for several: their races come into one window, which is `into` where it is given.
+    void openAll(const QStringList& paths, RaceWindow* into = nullptr);
+    /// Opens what was open when the program was left. False when nothing was, or nothing is there.
+    [[nodiscard]] bool restoreSession();
     void openSettings();
     void openSampleSeason();
 
@@ -28,7 +32,11 @@ public:
 
 private:
     void chooseRace();
-    void openRace(const QString& path);
+    void openRaces(const QStringList& paths, RaceWindow* into);
+    [[nodiscard]] RaceWindow* makeRaceWindow();
+    /// The races among files and folders; what is not one is told.
+    [[nodiscard]] QStringList racesAmong(const QStringList& paths);
+    void rememberSession();
     [[nodiscard]] QWidget* front() const;
 
     Workspace& m_workspace;

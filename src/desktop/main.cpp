@@ -39,9 +39,9 @@ int main(int argc, char** argv) {
     workspace.startUp(userLibraryFolder());
     Desktop program(workspace);
     const QStringList files = QApplication::arguments().mid(1);
-    for (const QString& file : files)
-        program.open(file);
-    if (program.raceWindows().isEmpty())
+    if (!files.isEmpty())
+        program.openAll(files);
+    if (program.raceWindows().isEmpty() && (!files.isEmpty() || !program.restoreSession()))
         program.showHome();
     return QApplication::exec();
 }

@@ -76,8 +76,8 @@ TEST(RaceSet, GivesPercentBehindTheBestOfEachColumn) {
                                 none.totalpertime, none.totalpertimeandpen, none.realpertime})
         EXPECT_EQ(figure, 0) << "without a time nothing is behind";
 
-    RaceSet filtered = set;
-    filterRaceSet(filtered, [](const analyzerdata& run) { return run.athleteInt > 0; });
+    const RaceSet filtered =
+        filteredRaceSet(set, [](const analyzerdata& run) { return run.athleteInt > 0; });
     ASSERT_EQ(filtered.alldata.size(), 2U);
     EXPECT_EQ(filtered.alldata[0].sectioninfo.pertimes[0], 0) << "the best that is left";
 }

@@ -1,9 +1,11 @@
-#include "desktop/race/race_window.h"
-
 #include "common/recorders.h"
+#include "common/safe_file.h"
 #include "common/temp_folder.h"
 #include "desktop/desktop.h"
 #include "desktop/race/frozen_table.h"
+#include "desktop/race/race_view.h"
+#include "desktop/race/race_window.h"
+#include "desktop/race/run_chooser.h"
 #include "desktop/shell/settings_window.h"
 #include "splitdata/loader.h"
 
@@ -14,6 +16,10 @@
 #include <QCheckBox>
 #include <QClipboard>
 #include <QComboBox>
+#include <QHeaderView>
+#include <QMenu>
+#include <QPushButton>
+#include <QSignalSpy>
 
 namespace kavela::test {
 namespace {
@@ -115,7 +121,7 @@ TEST_F(RaceWindowTest, KeepsTheSelectionOnItsRunWhenTheRowsMove) {
     const RaceWindow* const window = open(Examples / "races" / "riverside_cup.kvx");
     ASSERT_TRUE(window);
     window->table().selectRow(3);
-    const std::size_t run = window->model().runOfRow(3);
+    const auto run = window->model().runOfRow(3);
     window->table().sortByColumn(FirstTime + 4, Qt::DescendingOrder);
     const QModelIndexList selected = window->table().selectionModel()->selectedRows();
     ASSERT_EQ(selected.size(), 1);
@@ -161,6 +167,112 @@ TEST_F(RaceWindowTest, OpensEverySplitFileOfAFolderByItsContent) {
     m_desktop.open(QString::fromStdString((Examples / "recordings" / "old_phone_v4.kvb").string()));
     EXPECT_EQ(m_desktop.raceWindows().size(), 2);
     EXPECT_THAT(m_recorder.alerts, ::testing::SizeIs(1));
+}
+
+TEST_F(RaceWindowTest, HoldsRunsAgainstTheIdealRunAndARunOfAnotherRace) {
+    RaceWindow* const window = open(Examples / "races" / "riverside_cup.kvx");
+    ASSERT_TRUE(window);
+    const std::vector<std::size_t> order = window->model().order();
+    trigger(*window, Qt::Key_O);
+    EXPECT_EQ(cell(*window, 0, 0, Qt::DisplayRole).toString(), "Ideal run");
+    EXPECT_EQ(window->model().order(), order) << "the ideal run takes no part";
+
+    const fs::path other = copyOf(Examples / "older" / "release_0.11.kvx");
+    const std::string before = contentOf(other);
+    desktop::RunChooser chooser(m_workspace, window->document().path(), nullptr);
+    ASSERT_TRUE(chooser.showRace(QString::fromStdString(other.string())));
+    EXPECT_EQ(contentOf(other), before) << "a race that is only looked into is not rewritten";
+    window->view().document().addComparison(chooser.run(), chooser.race());
+    window->table().selectRow(1);
+    trigger(*window, Qt::SHIFT | Qt::Key_R);
+    trigger(*window, Qt::CTRL | Qt::Key_2);
+    EXPECT_EQ(cell(*window, 1, FirstTime, Qt::DisplayRole).toString(), "0.00");
+    const double theirs = chooser.run().sectioninfo.times[0];
+    const double first = window->document().table().rows[0].cells[0].value;
+    const QString gap = cell(*window, 2, FirstTime, Qt::DisplayRole).toString();
+    EXPECT_NEAR(gap.toDouble(), first - theirs, 0.00501);
+    window->table().sortByColumn(FirstTime, Qt::DescendingOrder);
+    EXPECT_EQ(cell(*window, 0, 0, Qt::DisplayRole).toString(), "Ideal run");
+}
+
+TEST_F(RaceWindowTest, RemembersHiddenAndMovedColumnsFromRaceToRace) {
+    {
+        RaceWindow* const window = open(Examples / "races" / "riverside_cup.kvx");
+        ASSERT_TRUE(window);
+        QMenu menu;
+        window->view().fillColumnMenu(menu);
+        for (QAction* action : menu.actions())
+            if (action->text() == "Phase" || action->text() == "Sprint")
+                action->setChecked(false);
+        QHeaderView* const header = window->table().horizontalHeader();
+        header->moveSection(header->count() - 3, SplitTableModel::LeadingColumns); // the total
+        window->close();
+    }
+    RaceWindow* const window = open(Examples / "races" / "spring_opener.kvx");
+    ASSERT_TRUE(window);
+    trigger(*window, QKeySequence::Copy);
+    const QString header = QApplication::clipboard()->text().section('\n', 0, 0);
+    EXPECT_TRUE(header.startsWith("Name\tCat\tPlace\tTotal\t")) << header.toStdString();
+    EXPECT_TRUE(header.endsWith("\tReal")) << header.toStdString();
+    EXPECT_FALSE(header.contains("Sprint"));
+}
+
+TEST_F(RaceWindowTest, KeepsColumnsInViewInFrontOfTheTimes) {
+    RaceWindow* const window = open(Examples / "races" / "riverside_cup.kvx");
+    ASSERT_TRUE(window);
+    QHeaderView* const header = window->table().horizontalHeader();
+    header->moveSection(FirstTime + 2, 0);
+    EXPECT_EQ(header->logicalIndex(0), SplitTableModel::NameColumn);
+    header->moveSection(0, header->count() - 1);
+    EXPECT_EQ(header->logicalIndex(0), SplitTableModel::NameColumn);
+}
+
+TEST_F(RaceWindowTest, ShowsRacesOpenedTogetherAsTabsOrSideBySide) {
+    m_desktop.openAll(
+        {QString::fromStdString((Examples / "races" / "riverside_cup.kvx").string()),
+         QString::fromStdString((Examples / "races" / "spring_opener.kvx").string())});
+    ASSERT_EQ(m_desktop.raceWindows().size(), 1);
+    RaceWindow* const window = m_desktop.raceWindows().front();
+    ASSERT_EQ(window->views().size(), 2U);
+    EXPECT_FALSE(window->views()[0]->isVisible());
+    trigger(*window, Qt::Key_F8);
+    EXPECT_TRUE(window->views()[0]->isVisible() && window->views()[1]->isVisible());
+    const QString second = window->document().path();
+    trigger(*window, QKeySequence::Close);
+    ASSERT_EQ(window->views().size(), 1U);
+    EXPECT_NE(window->document().path(), second);
+}
+
+TEST_F(RaceWindowTest, ComesBackWithTheRacesThatWereOpen) {
+    const fs::path gone = copyOf(Examples / "races" / "harbour_night.kvx");
+    const QString kept =
+        QString::fromStdString((Examples / "races" / "riverside_cup.kvx").string());
+    m_desktop.openAll({kept, QString::fromStdString(gone.string())});
+    fs::remove(gone);
+    Desktop next(m_workspace);
+    EXPECT_TRUE(next.restoreSession());
+    ASSERT_EQ(next.raceWindows().size(), 1);
+    EXPECT_EQ(next.raceWindows()[0]->paths(), QStringList(kept));
+    EXPECT_THAT(m_recorder.alerts, ::testing::IsEmpty());
+}
+
+TEST_F(RaceWindowTest, OffersToOpenAgainWhatAnotherProgramChanged) {
+    const fs::path file = copyOf(Examples / "races" / "riverside_cup.kvx");
+    RaceWindow* const window = open(file);
+    ASSERT_TRUE(window);
+    trigger(*window, Qt::Key_A);
+    auto* const reload = window->findChild<QPushButton*>("reload");
+    EXPECT_FALSE(reload->isVisible());
+    QSignalSpy changed(&window->view().document(), &desktop::RaceDocument::changedOnDisk);
+    const std::string content = contentOf(Examples / "races" / "spring_opener.kvx");
+    writeFileSafely(file, content);
+    fs::last_write_time(file, fs::last_write_time(file) + std::chrono::seconds(5));
+    ASSERT_TRUE(changed.count() > 0 || changed.wait());
+    EXPECT_TRUE(reload->isVisible());
+    reload->click();
+    EXPECT_EQ(window->document().title(), "Spring Opener");
+    EXPECT_TRUE(window->document().isAccumulated());
+    EXPECT_FALSE(reload->isVisible());
 }
 
 } // namespace

@@ -167,8 +167,16 @@ void ChartPanel::setReference(const CourseReference& reference) {
     fillReferences();
 }
 
-void ChartPanel::addReference(const QString& name, const std::vector<double>& times) {
-    m_added.push_back({CourseReferenceKind::Times, 0, name.toStdString(), times});
+void ChartPanel::setForeignReferences(const std::vector<CourseReference>& references) {
+    if (references == m_foreign)
+        return;
+    m_foreign = references;
+    if (m_reference.kind == CourseReferenceKind::Times) {
+        const auto same = std::ranges::find(m_foreign, m_reference.name, &CourseReference::name);
+        m_reference = same == m_foreign.end() ? CourseReference{} : *same;
+        applyReference();
+        emit referenceChanged(m_reference);
+    }
     fillReferences();
 }
 
@@ -208,8 +216,8 @@ void ChartPanel::fillReferences() {
     using Kind = CourseReferenceKind;
     for (const Kind kind : {Kind::BestRun, Kind::Median, Kind::Ideal})
         offerReference({kind});
-    for (const CourseReference& added : m_added)
-        offerReference(added);
+    for (const CourseReference& foreign : m_foreign)
+        offerReference(foreign);
     offerReference(m_reference);
     for (std::size_t i = 0; i < std::min(m_selection.size(), MostOffered); ++i)
         offerReference({Kind::Run, m_selection[i]});

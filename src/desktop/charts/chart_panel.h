@@ -34,8 +34,9 @@ public:
 
     [[nodiscard]] const CourseReference& reference() const { return m_reference; }
     void setReference(const CourseReference& reference);
-    /// Offers the section times of a run from elsewhere as a reference.
-    void addReference(const QString& name, const std::vector<double>& times);
+    /// Offers the section times of runs from elsewhere as references, in place of those offered
+    /// before. A chosen one that is gone gives way to the best run.
+    void setForeignReferences(const std::vector<CourseReference>& references);
 
     [[nodiscard]] const std::vector<Chart*>& charts() const { return m_charts; }
     [[nodiscard]] Chart& currentChart() const;
@@ -67,7 +68,7 @@ private:
     ChartRace m_race;
     std::vector<std::size_t> m_selection;
     CourseReference m_reference;
-    std::vector<CourseReference> m_added;   ///< from elsewhere
+    std::vector<CourseReference> m_foreign; ///< from elsewhere
     std::vector<CourseReference> m_offered; ///< as in the chooser
     std::vector<Chart*> m_charts;
 

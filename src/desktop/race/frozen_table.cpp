@@ -59,6 +59,8 @@ void FrozenTable::prepareFrozen() {
                 if (section < m_frozenColumns)
                     setColumnWidth(section, size);
             });
+    horizontalHeader()->setSectionsMovable(true);
+    connect(horizontalHeader(), &QHeaderView::sectionMoved, this, &FrozenTable::keepFrozenInFront);
     // One indicator over both headers: the last click decides.
     connect(horizontalHeader(), &QHeaderView::sortIndicatorChanged, m_frozen->horizontalHeader(),
             [this](int section, Qt::SortOrder order) {
@@ -70,6 +72,24 @@ void FrozenTable::prepareFrozen() {
                 const QSignalBlocker blocker(horizontalHeader());
                 horizontalHeader()->setSortIndicator(section, order);
             });
+}
+
+/// A column dragged in front of those that stay would be under them: it goes behind them.
+void FrozenTable::keepFrozenInFront(int column, int from, int to) {
+    const bool isFrozen = column < m_frozenColumns;
+    if (isFrozen != (to < m_frozenColumns)) {
+        const QSignalBlocker blocker(horizontalHeader());
+        horizontalHeader()->moveSection(to, isFrozen ? from : m_frozenColumns);
+        viewport()->update();
+    }
+    emit columnsMoved();
+}
+
+void FrozenTable::setColumnShown(int column, bool isShown) {
+    setColumnHidden(column, !isShown);
+    if (column < m_frozenColumns)
+        m_frozen->setColumnHidden(column, !isShown);
+    placeFrozen();
 }
 
 void FrozenTable::setModel(QAbstractItemModel* model) {
@@ -86,7 +106,7 @@ void FrozenTable::fitColumns() {
     resizeColumnsToContents();
     for (int column = 0; column < model()->columnCount(); ++column) {
         setColumnWidth(column, std::min(columnWidth(column) + CellPadding, WidestColumn));
-        m_frozen->setColumnHidden(column, column >= m_frozenColumns);
+        m_frozen->setColumnHidden(column, column >= m_frozenColumns || isColumnHidden(column));
         m_frozen->setColumnWidth(column, columnWidth(column));
     }
     placeFrozen();
@@ -95,7 +115,7 @@ void FrozenTable::fitColumns() {
 void FrozenTable::placeFrozen() {
     int width = 0;
     for (int column = 0; column < m_frozenColumns; ++column)
-        width += columnWidth(column);
+        width += isColumnHidden(column) ? 0 : columnWidth(column);
     m_frozen->setGeometry(frameWidth(), frameWidth(), width,
                           viewport()->height() + horizontalHeader()->height());
     m_frozen->horizontalHeader()->setFixedHeight(horizontalHeader()->height());

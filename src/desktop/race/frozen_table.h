@@ -14,8 +14,15 @@ public:
     void setModel(QAbstractItemModel* model) override;
     /// Fits every column to its content, within reason.
     void fitColumns();
+    /// Shows or hides a column; the columns that stay, in both views.
+    void setColumnShown(int column, bool isShown);
+    [[nodiscard]] int frozenColumns() const { return m_frozenColumns; }
     /// The view over the columns that stay.
     [[nodiscard]] QTableView* frozenView() const { return m_frozen; }
+
+signals:
+    /// The coach moved a column.
+    void columnsMoved();
 
 protected:
     void resizeEvent(QResizeEvent* event) override;
@@ -25,6 +32,7 @@ protected:
 private:
     void prepareFrozen();
     void placeFrozen();
+    void keepFrozenInFront(int column, int from, int to);
 
     QTableView* m_frozen;
     int m_frozenColumns;

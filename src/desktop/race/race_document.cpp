@@ -15,17 +15,6 @@ QString qtText(const std::string& text) {
     return QString::fromStdString(text);
 }
 
-/// Shows the loader's alerts through the workspace.
-class WorkspaceAlerts : public Alerts {
-public:
-    WorkspaceAlerts(Workspace& workspace, QWidget* over) : m_workspace(workspace), m_over(over) {}
-    void show(const Alert& alert) override { m_workspace.showAlert(alert, m_over); }
-
-private:
-    Workspace& m_workspace;
-    QWidget* m_over;
-};
-
 fs::file_time_type lastWritten(const QString& path) {
     std::error_code ignored;
     return fs::last_write_time(path.toStdString(), ignored);
@@ -57,8 +46,23 @@ RaceDocument::RaceDocument(Workspace& workspace, QObject* parent)
 }
 
 bool RaceDocument::open(const QString& path, QWidget* over) {
+    if (!read(QFileInfo(path).absoluteFilePath().toStdString(), over))
+        return false;
+    m_filter = {};
+    m_workspace.addRecentFile(m_path);
+    rebuild();
+    return true;
+}
+
+bool RaceDocument::reload(QWidget* over) {
+    if (!read(m_path.toStdString(), over))
+        return false;
+    rebuild();
+    return true;
+}
+
+bool RaceDocument::read(const fs::path& file, QWidget* over) {
     WorkspaceAlerts alerts(m_workspace, over);
-    const fs::path file = QFileInfo(path).absoluteFilePath().toStdString();
     auto race = openRace(file, m_workspace.log(), alerts, m_workspace.clock());
     if (!race)
         return false;
@@ -66,10 +70,7 @@ bool RaceDocument::open(const QString& path, QWidget* over) {
     m_upgradeNote = desktop::upgradeNote(*race);
     m_info = race->document.info;
     m_whole = makeRaceSet(std::move(race->document), file);
-    m_filter = {};
-    m_workspace.addRecentFile(m_path);
     watch();
-    rebuild();
     return true;
 }
 
@@ -112,17 +113,57 @@ void RaceDocument::setAccumulated(bool accumulated) {
 }
 
 void RaceDocument::rebuild() {
-    m_shown = m_whole;
     const auto accepts = [](const QString& wanted, const std::string& value) {
         return wanted.isEmpty() || qtText(value) == wanted;
     };
-    filterRaceSet(m_shown, [&](const analyzerdata& run) {
+    m_shown = filteredRaceSet(m_whole, [&](const analyzerdata& run) {
         return accepts(m_filter.phase, run.phase) && accepts(m_filter.category, run.category) &&
                qtText(run.name).contains(m_filter.name, Qt::CaseInsensitive);
     });
     m_table = makeSplitTable(m_shown, settings());
     m_figures.emplace(m_table);
+    rebuildComparisons();
     emit tableChanged();
+}
+
+void RaceDocument::rebuildComparisons() {
+    m_comparisons.clear();
+    if (m_isIdealShown)
+        m_comparisons.push_back(idealRow(m_shown, settings()));
+    for (const analyzerdata& run : m_foreign)
+        m_comparisons.push_back(comparisonRow(m_shown, run, settings()));
+}
+
+void RaceDocument::setIdealShown(bool isShown) {
+    if (isShown == m_isIdealShown)
+        return;
+    m_isIdealShown = isShown;
+    rebuild();
+}
+
+void RaceDocument::addComparison(const analyzerdata& run, const QString& race) {
+    analyzerdata taken;
+    taken.name = run.name;
+    taken.event = race.toStdString();
+    taken.phase = run.phase;
+    taken.category = run.category;
+    taken.sectioninfo = run.sectioninfo;
+    m_foreign.push_back(std::move(taken));
+    rebuild();
+}
+
+void RaceDocument::clearComparisons() {
+    m_foreign.clear();
+    m_isIdealShown = false;
+    rebuild();
+}
+
+std::vector<CourseReference> RaceDocument::courseReferences() const {
+    std::vector<CourseReference> references;
+    for (const analyzerdata& run : m_foreign)
+        references.push_back({CourseReferenceKind::Times, 0, run.name + ", " + run.event,
+                              comparedTimes(m_shown, run, settings().penaltiesIncluded)});
+    return references;
 }
 
 void RaceDocument::watch() {

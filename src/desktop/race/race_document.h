@@ -1,5 +1,7 @@
 #pragma once
 
+#include "analysis/comparison_row.h"
+#include "analysis/course_gaps.h"
 #include "analysis/race_set.h"
 #include "analysis/split_table.h"
 #include "analysis/table_figures.h"
@@ -36,6 +38,8 @@ public:
     /// Opens a split file of any release, upgraded in place with its previous content kept. False,
     /// after an alert, when it cannot be opened; the document is then as it was.
     [[nodiscard]] bool open(const QString& path, QWidget* over);
+    /// Reads the file again; the filter and the comparisons stay.
+    [[nodiscard]] bool reload(QWidget* over);
 
     [[nodiscard]] const QString& path() const { return m_path; }
     [[nodiscard]] QString title() const;
@@ -55,6 +59,16 @@ public:
     void setAccumulated(bool accumulated);
     [[nodiscard]] bool isAccumulated() const { return m_isAccumulated; }
 
+    /// What the runs are held against beside each other: the ideal run, runs of other races.
+    [[nodiscard]] const std::vector<ComparisonRow>& comparisons() const { return m_comparisons; }
+    void setIdealShown(bool isShown);
+    [[nodiscard]] bool isIdealShown() const { return m_isIdealShown; }
+    /// Adds a run of another race; `race` is what that race is called.
+    void addComparison(const analyzerdata& run, const QString& race);
+    void clearComparisons();
+    /// The runs of other races as references of the charts.
+    [[nodiscard]] std::vector<CourseReference> courseReferences() const;
+
 signals:
     /// The table is another one: other runs, values or colours.
     void tableChanged();
@@ -62,7 +76,9 @@ signals:
     void changedOnDisk();
 
 private:
+    [[nodiscard]] bool read(const std::filesystem::path& file, QWidget* over);
     void rebuild();
+    void rebuildComparisons();
     void watch();
     void noticeDisk();
 
@@ -74,6 +90,9 @@ private:
     infodata031 m_info;
     RunFilter m_filter;
     bool m_isAccumulated = false;
+    bool m_isIdealShown = false;
+    std::vector<analyzerdata> m_foreign; ///< runs of other races, their event being that race
+    std::vector<ComparisonRow> m_comparisons;
     RaceSet m_whole;
     RaceSet m_shown;
     SplitTable m_table;

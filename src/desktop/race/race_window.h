@@ -1,74 +1,71 @@
 #pragma once
 
-#include "desktop/race/race_document.h"
-#include "desktop/race/split_table_model.h"
-
 #include <QMainWindow>
 
-class QComboBox;
-class QLabel;
-class QLineEdit;
+#include <vector>
+
+class QSplitter;
+class QTabBar;
 
 namespace kavela::desktop {
 
-class ChartPanel;
 class FrozenTable;
-class RunPanel;
+class RaceActions;
+class RaceDocument;
+class RaceView;
+class SplitTableModel;
 class Workspace;
 
-/// The race analyzer: the coloured split table of a race, its filters, and the selected run.
+/// The race analyzer: one or several races, as tabs or side by side.
 class RaceWindow : public QMainWindow {
     Q_OBJECT
 
 public:
     explicit RaceWindow(Workspace& workspace);
+    ~RaceWindow() override;
 
-    /// Opens a split file; false, after an alert, when that failed.
+    /// Opens a split file in a tab of its own and shows it; a file that is open already is shown.
+    /// False, after an alert, when it cannot be opened.
     [[nodiscard]] bool open(const QString& path);
 
-    [[nodiscard]] const RaceDocument& document() const { return m_document; }
-    [[nodiscard]] const SplitTableModel& model() const { return m_model; }
-    [[nodiscard]] FrozenTable& table() const { return *m_table; }
+    [[nodiscard]] const std::vector<RaceView*>& views() const { return m_views; }
+    /// The race that the menus act on; there is always one once a file was opened.
+    [[nodiscard]] RaceView& view() const;
+    [[nodiscard]] const RaceDocument& document() const;
+    [[nodiscard]] const SplitTableModel& model() const;
+    [[nodiscard]] FrozenTable& table() const;
+    [[nodiscard]] QStringList paths() const;
+
+    void showView(int index);
+    void showNextView(int step);
+    void setSideBySide(bool isSideBySide);
+    [[nodiscard]] bool isSideBySide() const { return m_isSideBySide; }
+    /// Closes the race in front, and the window with the last one.
+    void closeView();
 
 signals:
     void homeRequested();
     void settingsRequested();
+    /// Files dropped on the window, or chosen in it, to be opened here where they belong here.
+    void filesRequested(const QStringList& paths);
+    void viewsChanged();
+
+protected:
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
 
 private:
-    void makeCentre();
-    [[nodiscard]] QWidget* makeFilterBar();
-    void makeFileMenu();
-    void makeTableMenu();
-    void makeContentMenu(QMenu& menu);
-    QAction* preferenceAction(QMenu& menu, const QString& text, const QKeySequence& keys,
-                              const char* key);
-    void makeColourActions(QMenu& menu);
-
-    void showDocument();
-    void fillFilters();
-    void applyFilter();
-    void showSelection();
-    void showCharts();
-    void selectRun(std::size_t run);
-    void clearFilter();
-    void copySelection();
-    void saveCsv();
-    void offerReload();
-    void useSelectionAsReference();
+    void addView(RaceView* view);
+    void showViews();
+    void followFocus(const QWidget* focused);
 
     Workspace& m_workspace;
-    RaceDocument m_document;
-    SplitTableModel m_model;
-    FrozenTable* m_table = nullptr;
-    RunPanel* m_panel = nullptr;
-    ChartPanel* m_charts = nullptr;
-    QLabel* m_title = nullptr;
-    QLabel* m_subtitle = nullptr;
-    QLabel* m_note = nullptr;
-    QLabel* m_count = nullptr;
-    QComboBox* m_phase = nullptr;
-    QComboBox* m_category = nullptr;
-    QLineEdit* m_name = nullptr;
+    std::vector<RaceView*> m_views;
+    int m_current = -1;
+    bool m_isSideBySide = false;
+    QTabBar* m_tabs;
+    QSplitter* m_splitter;
+    RaceActions* m_actions;
 };
 
 } // namespace kavela::desktop

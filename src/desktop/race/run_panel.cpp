@@ -1,5 +1,6 @@
 #include "desktop/race/run_panel.h"
 
+#include "analysis/athlete_potential.h"
 #include "common/number_text.h"
 #include "desktop/race/race_document.h"
 #include "desktop/shell/theme.h"
@@ -9,6 +10,8 @@
 #include <QLabel>
 #include <QTableWidget>
 #include <QVBoxLayout>
+
+#include <algorithm>
 
 namespace kavela::desktop {
 
@@ -49,6 +52,16 @@ QString gateText(const RaceSet& set, const analyzerdata& run) {
     return parts.join(' ');
 }
 
+/// What the best sections of this crew's runs would give, where that is more than this run.
+QString potentialText(const RaceSet& set, const analyzerdata& record) {
+    const auto run = static_cast<std::size_t>(&record - set.alldata.data());
+    for (const AthletePotential& athlete : athletePotentials(set))
+        if (athlete.runs.size() > 1 && athlete.potential &&
+            std::ranges::find(athlete.runs, run) != athlete.runs.end())
+            return RunPanel::tr("\nBest own sections %1 s").arg(timeOrDash(*athlete.potential));
+    return {};
+}
+
 enum SectionColumn { TitleColumn, TimeColumn, PenaltyColumn, RankColumn, GapColumn, Columns };
 
 QTableWidget* makeSections() {
@@ -57,6 +70,7 @@ QTableWidget* makeSections() {
     table->setSelectionMode(QAbstractItemView::NoSelection);
     table->setFocusPolicy(Qt::NoFocus);
     table->setShowGrid(false);
+    table->verticalHeader()->setDefaultSectionSize(table->fontMetrics().height() + theme::Spacing);
     table->verticalHeader()->hide();
     table->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
     table->horizontalHeader()->setSectionResizeMode(TitleColumn, QHeaderView::Stretch);
@@ -96,7 +110,7 @@ RunPanel::RunPanel(RaceDocument& document, QWidget* parent)
     showRun(std::nullopt, std::nullopt);
 }
 
-void RunPanel::showRun(std::optional<std::size_t> run, std::optional<std::size_t> against) {
+void RunPanel::showRun(std::optional<std::size_t> run, const std::optional<RunAgainst>& against) {
     for (QWidget* widget : std::initializer_list<QWidget*>{m_name, m_facts, m_gates, m_sections})
         widget->setVisible(run.has_value());
     m_empty->setVisible(!run);
@@ -106,13 +120,13 @@ void RunPanel::showRun(std::optional<std::size_t> run, std::optional<std::size_t
     fillSections(*run, against);
 }
 
-void RunPanel::fillHeading(std::size_t run, std::optional<std::size_t> against) {
+void RunPanel::fillHeading(std::size_t run, const std::optional<RunAgainst>& against) {
     const RaceSet& set = m_document.shownSet();
     const analyzerdata& record = set.alldata[run];
     const sectionmaindata& section = record.sectioninfo;
     QString name = qtText(record.name);
     if (against)
-        name += tr(" against %1").arg(qtText(set.alldata[*against].name));
+        name += tr(" against %1").arg(against->name);
     m_name->setText(name);
 
     QStringList facts{qtText(record.category), qtText(record.phase)};
@@ -126,6 +140,7 @@ void RunPanel::fillHeading(std::size_t run, std::optional<std::size_t> against) 
                     .arg(section.realpen);
     if (section.xTime != 0)
         text += tr("\nExpected %1 s").arg(timeOrDash(section.xTime));
+    text += potentialText(set, record);
     if (!set.isFull(record))
         text += tr("\nNot the whole course");
     m_facts->setText(text);
@@ -133,10 +148,10 @@ void RunPanel::fillHeading(std::size_t run, std::optional<std::size_t> against) 
     m_gates->setVisible(!m_gates->text().isEmpty());
 }
 
-void RunPanel::fillSections(std::size_t run, std::optional<std::size_t> against) {
+void RunPanel::fillSections(std::size_t run, const std::optional<RunAgainst>& against) {
     const SplitTable& table = m_document.table();
     const TableReference reference =
-        against ? TableReference{ReferenceKind::Run, *against} : TableReference{};
+        against ? TableReference{ReferenceKind::Values, 0, {}, against->values} : TableReference{};
     m_sections->setHorizontalHeaderLabels(
         {tr("Section"), tr("Time"), tr("Pen"), tr("Place"), against ? tr("Gap") : tr("To best")});
     m_sections->setRowCount(static_cast<int>(table.columns.size()));

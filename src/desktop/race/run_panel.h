@@ -3,6 +3,7 @@
 #include <QWidget>
 
 #include <optional>
+#include <vector>
 
 class QLabel;
 class QTableWidget;
@@ -11,8 +12,15 @@ namespace kavela::desktop {
 
 class RaceDocument;
 
+/// What a run is held against.
+struct RunAgainst {
+    QString name;
+    std::vector<double> values; ///< seconds by column of the table, 0 where there is none
+};
+
 /// One run in detail: its sections with penalties, gaps and places, its penalties by gate, totals
-/// and expected time. With two runs, the second is held against the first.
+/// and expected time. Section by section it is held against
+/// the best of each, or against what was chosen.
 class RunPanel : public QWidget {
     Q_OBJECT
 
@@ -20,11 +28,11 @@ public:
     explicit RunPanel(RaceDocument& document, QWidget* parent = nullptr);
 
     /// Shows a run by its number among the shown ones, held against another one if given.
-    void showRun(std::optional<std::size_t> run, std::optional<std::size_t> against);
+    void showRun(std::optional<std::size_t> run, const std::optional<RunAgainst>& against);
 
 private:
-    void fillHeading(std::size_t run, std::optional<std::size_t> against);
-    void fillSections(std::size_t run, std::optional<std::size_t> against);
+    void fillHeading(std::size_t run, const std::optional<RunAgainst>& against);
+    void fillSections(std::size_t run, const std::optional<RunAgainst>& against);
 
     RaceDocument& m_document;
     QLabel* m_name;

@@ -33,7 +33,11 @@ SplitTableModel::SplitTableModel(RaceDocument& document, QObject* parent)
 }
 
 int SplitTableModel::rowCount(const QModelIndex& parent) const {
-    return parent.isValid() ? 0 : static_cast<int>(m_order.size());
+    return parent.isValid() ? 0 : comparisons() + static_cast<int>(m_order.size());
+}
+
+int SplitTableModel::comparisons() const {
+    return static_cast<int>(m_document.comparisons().size());
 }
 
 int SplitTableModel::columnCount(const QModelIndex& parent) const {
@@ -51,13 +55,18 @@ void SplitTableModel::reload() {
     endResetModel();
 }
 
-std::size_t SplitTableModel::runOfRow(int row) const {
-    return m_order[static_cast<std::size_t>(row)];
+std::optional<std::size_t> SplitTableModel::runOfRow(int row) const {
+    const int place = row - comparisons();
+    return place < 0 ? std::nullopt : std::optional(m_order[static_cast<std::size_t>(place)]);
 }
 
 int SplitTableModel::rowOfRun(std::size_t run) const {
     const auto at = std::find(m_order.begin(), m_order.end(), run);
-    return at == m_order.end() ? -1 : static_cast<int>(at - m_order.begin());
+    return at == m_order.end() ? -1 : comparisons() + static_cast<int>(at - m_order.begin());
+}
+
+const ComparisonRow* SplitTableModel::comparisonOfRow(int row) const {
+    return row < comparisons() ? &m_document.comparisons()[static_cast<std::size_t>(row)] : nullptr;
 }
 
 void SplitTableModel::setContent(CellContent content) {
@@ -76,7 +85,7 @@ void SplitTableModel::setScale(ColourScale scale) {
 }
 
 void SplitTableModel::repaint() {
-    if (!m_order.empty())
+    if (rowCount() > 0)
         emit dataChanged(index(0, 0), index(rowCount() - 1, columnCount() - 1));
 }
 
@@ -85,16 +94,18 @@ void SplitTableModel::sort(int column, Qt::SortOrder order) {
     m_sortOrder = order;
     emit layoutAboutToBeChanged({}, VerticalSortHint);
     const QModelIndexList before = persistentIndexList();
-    std::vector<std::size_t> runs;
+    std::vector<std::optional<std::size_t>> runs;
     for (const QModelIndex& index : before)
         runs.push_back(runOfRow(index.row()));
     applySort();
     std::vector<int> rowOf(m_order.size());
     for (std::size_t row = 0; row < m_order.size(); ++row)
-        rowOf[m_order[row]] = static_cast<int>(row);
+        rowOf[m_order[row]] = comparisons() + static_cast<int>(row);
     QModelIndexList after;
-    for (qsizetype i = 0; i < before.size(); ++i)
-        after.append(index(rowOf[runs[static_cast<std::size_t>(i)]], before[i].column()));
+    for (qsizetype i = 0; i < before.size(); ++i) {
+        const auto run = runs[static_cast<std::size_t>(i)];
+        after.append(index(run ? rowOf[*run] : before[i].row(), before[i].column()));
+    }
     changePersistentIndexList(before, after);
     emit layoutChanged({}, VerticalSortHint);
 }
@@ -128,11 +139,6 @@ void SplitTableModel::applySort() {
         const double y = value(b);
         return x != 0 && (y == 0 || ordered(x, y));
     });
-}
-
-const TableCell& SplitTableModel::cellAt(const QModelIndex& index) const {
-    const auto& row = m_document.table().rows[runOfRow(index.row())];
-    return row.cells[static_cast<std::size_t>(index.column() - LeadingColumns)];
 }
 
 QString SplitTableModel::leadingText(std::size_t run, int column) const {
@@ -208,28 +214,72 @@ QVariant SplitTableModel::foreground(const TableCell& cell) const {
 QVariant SplitTableModel::data(const QModelIndex& index, int role) const {
     if (!index.isValid())
         return {};
-    const std::size_t run = runOfRow(index.row());
-    if (index.column() < LeadingColumns) {
-        if (role == Qt::DisplayRole || role == Qt::ToolTipRole)
-            return leadingText(run, index.column());
-        if (role == Qt::TextAlignmentRole && index.column() == PlaceColumn)
-            return QVariant(Qt::AlignRight | Qt::AlignVCenter);
+    if (role == Qt::TextAlignmentRole)
+        return QVariant((index.column() < PlaceColumn ? Qt::AlignLeft : Qt::AlignRight) |
+                        Qt::AlignVCenter);
+    if (const ComparisonRow* row = comparisonOfRow(index.row()))
+        return comparisonData(*row, index.column(), role);
+    return runData(*runOfRow(index.row()), index.column(), role);
+}
+
+QVariant SplitTableModel::comparisonData(const ComparisonRow& row, int column, int role) const {
+    switch (role) {
+    case Qt::DisplayRole:
+        return comparisonText(row, column);
+    case Qt::ToolTipRole:
+        return row.origin.empty() ? tr("The best of every section, put together")
+                                  : tr("%1 in %2").arg(qtText(row.name), qtText(row.origin));
+    case Qt::BackgroundRole:
+        return theme::surface(QApplication::palette());
+    case Qt::FontRole: {
+        QFont font;
+        font.setItalic(true);
+        return font;
+    }
+    default:
         return {};
     }
-    const auto cell = static_cast<std::size_t>(index.column() - LeadingColumns);
+}
+
+QString SplitTableModel::comparisonText(const ComparisonRow& row, int column) const {
+    const QString none = "–";
+    if (column == NameColumn)
+        return row.origin.empty() ? tr("Ideal run")
+                                  : tr("%1, %2").arg(qtText(row.name), qtText(row.origin));
+    if (column < LeadingColumns)
+        return column == PhaseColumn      ? qtText(row.phase)
+               : column == CategoryColumn ? qtText(row.category)
+                                          : QString();
+    const auto cell = static_cast<std::size_t>(column - LeadingColumns);
+    const double value = row.values[cell];
+    if (m_content == CellContent::Gap) {
+        const auto gap = m_document.figures().gapOf(value, cell, m_reference);
+        return gap ? signedHundredths(*gap) : none;
+    }
+    if (m_content == CellContent::PercentBehind) {
+        const auto percent = m_document.figures().percentBehindOf(value, cell);
+        return percent ? qtText(hundredthsText(*percent)) + " %" : none;
+    }
+    // Places and percentiles are for those who raced.
+    return value == 0 || m_content != CellContent::Time ? none : qtText(hundredthsText(value));
+}
+
+QVariant SplitTableModel::runData(std::size_t run, int column, int role) const {
+    if (column < LeadingColumns)
+        return role == Qt::DisplayRole || role == Qt::ToolTipRole ? leadingText(run, column)
+                                                                  : QVariant();
+    const auto cell = static_cast<std::size_t>(column - LeadingColumns);
+    const TableCell& shown = m_document.table().rows[run].cells[cell];
     switch (role) {
     case Qt::DisplayRole:
         return cellText(run, cell);
     case Qt::ToolTipRole:
         return toolTip(run, cell);
-    case Qt::TextAlignmentRole:
-        return QVariant(Qt::AlignRight | Qt::AlignVCenter);
     case Qt::BackgroundRole:
-        return background(cellAt(index));
+        return background(shown);
     case Qt::ForegroundRole:
-        return foreground(cellAt(index));
+        return foreground(shown);
     case Qt::FontRole: {
-        const TableCell& shown = cellAt(index);
         QFont font;
         font.setBold(shown.band == Band::Fastest || shown.foreground == NamedGreen);
         return font;

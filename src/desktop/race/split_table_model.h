@@ -4,6 +4,7 @@
 
 #include <vector>
 
+#include "analysis/comparison_row.h"
 #include "analysis/table_figures.h"
 
 namespace kavela::desktop {
@@ -17,8 +18,8 @@ enum class CellContent { Time, Gap, Rank, PercentBehind, Percentile };
 /// these apart.
 enum class ColourScale { GreenRed, BlueOrange };
 
-/// The split table of a race as Qt's views want it. Rows are sorted here, so that a row of the
-/// model is a row of the screen.
+/// The split table of a race as Qt's views want it: the comparison rows, always on top, then the
+/// runs. Runs are sorted here, so that a row of the model is a row of the screen.
 class SplitTableModel : public QAbstractTableModel {
     Q_OBJECT
 
@@ -39,16 +40,26 @@ public:
     void setReference(const TableReference& reference);
     void setScale(ColourScale scale);
     [[nodiscard]] CellContent content() const { return m_content; }
+    [[nodiscard]] const TableReference& reference() const { return m_reference; }
+    [[nodiscard]] ColourScale scale() const { return m_scale; }
 
-    /// Number of the run, among the shown ones, that stands in a row; and the row of a run.
-    [[nodiscard]] std::size_t runOfRow(int row) const;
+    /// Number of the run, among the shown ones, that stands in a row, none for a comparison row;
+    /// and the row of a run, -1 for none.
+    [[nodiscard]] std::optional<std::size_t> runOfRow(int row) const;
     [[nodiscard]] int rowOfRun(std::size_t run) const;
+    /// The comparison row that stands in a row; null for a run.
+    [[nodiscard]] const ComparisonRow* comparisonOfRow(int row) const;
+    /// The runs in the order of the rows.
+    [[nodiscard]] const std::vector<std::size_t>& order() const { return m_order; }
 
 private:
     void reload();
     void applySort();
     void repaint();
-    [[nodiscard]] const TableCell& cellAt(const QModelIndex& index) const;
+    [[nodiscard]] int comparisons() const;
+    [[nodiscard]] QVariant comparisonData(const ComparisonRow& row, int column, int role) const;
+    [[nodiscard]] QString comparisonText(const ComparisonRow& row, int column) const;
+    [[nodiscard]] QVariant runData(std::size_t run, int column, int role) const;
     [[nodiscard]] QString leadingText(std::size_t run, int column) const;
     [[nodiscard]] QString cellText(std::size_t run, std::size_t cell) const;
     [[nodiscard]] QString toolTip(std::size_t run, std::size_t cell) const;

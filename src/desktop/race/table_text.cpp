@@ -13,11 +13,12 @@ QString quoted(QString field, QChar separator) {
     return needsQuotes ? '"' + field.replace("\"", "\"\"") + '"' : field;
 }
 
-QString separated(const QAbstractItemModel& model, const QList<int>& rows, QChar separator) {
+QString separated(const QAbstractItemModel& model, const QList<int>& rows,
+                  const QList<int>& columns, QChar separator) {
     QString text;
     const auto addLine = [&](auto field) {
         QStringList fields;
-        for (int column = 0; column < model.columnCount(); ++column)
+        for (const int column : columns)
             fields.append(quoted(field(column).toString(), separator));
         text += fields.join(separator) + '\n';
     };
@@ -29,14 +30,15 @@ QString separated(const QAbstractItemModel& model, const QList<int>& rows, QChar
 
 } // namespace
 
-QString tabSeparated(const QAbstractItemModel& model, const QList<int>& rows) {
-    return separated(model, rows, '\t');
+QString tabSeparated(const QAbstractItemModel& model, const QList<int>& rows,
+                     const QList<int>& columns) {
+    return separated(model, rows, columns, '\t');
 }
 
-QString semicolonSeparated(const QAbstractItemModel& model) {
+QString semicolonSeparated(const QAbstractItemModel& model, const QList<int>& columns) {
     QList<int> rows(model.rowCount());
     std::iota(rows.begin(), rows.end(), 0);
-    return separated(model, rows, ';');
+    return separated(model, rows, columns, ';');
 }
 
 } // namespace kavela::desktop

@@ -1,18 +1,20 @@
 #include "desktop/shell/home_window.h"
 
+#include "desktop/shell/dropped_files.h"
+#include "desktop/shell/help_menu.h"
 #include "desktop/shell/theme.h"
 #include "desktop/shell/tile.h"
+#include "desktop/shell/window_place.h"
 #include "desktop/shell/workspace.h"
 
 #include <QAction>
-#include <QDragEnterEvent>
+#include <QCoreApplication>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QListWidget>
 #include <QMenuBar>
-#include <QMimeData>
 #include <QPushButton>
 #include <QVBoxLayout>
 
@@ -44,6 +46,9 @@ HomeWindow::HomeWindow(Workspace& workspace, const Tools& tools) : m_workspace(w
     column->addWidget(recentFiles(), 1);
     setCentralWidget(page);
     resize(1000, 680);
+    rememberPlace(*this, workspace, "home");
+    for (const Tool& tool : tools)
+        m_more.push_back({tool.title, tr("Tools"), QString(), tool.open});
 
     connect(&m_workspace, &Workspace::recentFilesChanged, this, &HomeWindow::showRecentFiles);
     showRecentFiles();
@@ -56,7 +61,8 @@ void HomeWindow::makeMenus() {
     file->addSeparator();
     file->addAction(tr("Se&ttings…"), QKeySequence(Qt::CTRL | Qt::Key_Comma), this,
                     &HomeWindow::settingsRequested);
-    file->addAction(tr("&Quit"), QKeySequence::Quit, this, &QWidget::close);
+    file->addAction(tr("&Quit"), QKeySequence::Quit, this, [] { QCoreApplication::quit(); });
+    addHelpMenu(*this, m_workspace, [this] { return m_more; });
 }
 
 QWidget* HomeWindow::header() {
@@ -130,20 +136,16 @@ void HomeWindow::showRecentFiles() {
 void HomeWindow::chooseFile() {
     const QStringList files = QFileDialog::getOpenFileNames(
         this, tr("Open"), QString(), tr("Split files (*.kvx);;All files (*)"));
-    for (const QString& file : files)
-        emit m_workspace.openRequested(file);
+    if (!files.isEmpty())
+        emit filesRequested(files);
 }
 
 void HomeWindow::dragEnterEvent(QDragEnterEvent* event) {
-    if (event->mimeData()->hasUrls())
-        event->acceptProposedAction();
+    acceptFiles(*event);
 }
 
 void HomeWindow::dropEvent(QDropEvent* event) {
-    for (const QUrl& url : event->mimeData()->urls())
-        if (url.isLocalFile())
-            emit m_workspace.openRequested(url.toLocalFile());
-    event->acceptProposedAction();
+    emit filesRequested(droppedFiles(*event));
 }
 
 } // namespace kavela::desktop

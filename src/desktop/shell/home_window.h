@@ -1,5 +1,6 @@
 #pragma once
 
+#include "desktop/shell/command_palette.h"
 #include "desktop/shell/tool.h"
 
 #include <QMainWindow>
@@ -23,6 +24,8 @@ public:
 signals:
     void settingsRequested();
     void sampleRequested();
+    /// Files or folders dropped on the window or chosen in it.
+    void filesRequested(const QStringList& paths);
 
 protected:
     void dragEnterEvent(QDragEnterEvent* event) override;
@@ -37,6 +40,7 @@ private:
     void chooseFile();
 
     Workspace& m_workspace;
+    Commands m_more; ///< the tools, for the search
     QListWidget* m_recent = nullptr;
     QLabel* m_noRecent = nullptr;
 };

@@ -1,5 +1,7 @@
 #include "desktop/shell/theme.h"
 
+#include <QVBoxLayout>
+
 namespace kavela::desktop::theme {
 
 namespace {
@@ -75,6 +77,16 @@ QColor hairline(const QPalette& palette) {
 
 QColor surface(const QPalette& palette) {
     return palette.color(QPalette::Base);
+}
+
+QFrame* floatingFrame(QWidget& window) {
+    auto* frame = new QFrame;
+    frame->setFrameShape(QFrame::StyledPanel);
+    frame->setAutoFillBackground(true);
+    auto* whole = new QVBoxLayout(&window);
+    whole->setContentsMargins(0, 0, 0, 0);
+    whole->addWidget(frame);
+    return frame;
 }
 
 QPalette darkPalette() {

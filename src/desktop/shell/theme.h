@@ -2,6 +2,7 @@
 
 #include <QColor>
 #include <QFont>
+#include <QFrame>
 #include <QPalette>
 #include <QWidget>
 
@@ -32,6 +33,10 @@ inline constexpr QColor Accent{0x0E, 0x7C, 0x86};
 
 /// A surface that stands out a little from the window.
 [[nodiscard]] QColor surface(const QPalette& palette);
+
+/// Gives a window without a title bar an edge to stand out by; its content goes into what is
+/// returned.
+[[nodiscard]] QFrame* floatingFrame(QWidget& window);
 
 /// A palette of our own where the platform offers no dark scheme.
 [[nodiscard]] QPalette darkPalette();

@@ -24,31 +24,36 @@ void Workspace::setPreference(std::string_view key, const PreferenceValue& value
     emit preferenceChanged(QString::fromUtf8(key.data(), static_cast<qsizetype>(key.size())));
 }
 
+QStringList Workspace::remembered(const QString& key) const {
+    QStringList values;
+    for (const std::string& value : m_preferences.rawList(key.toStdString()))
+        values.append(QString::fromStdString(value));
+    return values;
+}
+
+void Workspace::remember(const QString& key, const QStringList& values) {
+    std::vector<std::string> list;
+    for (const QString& value : values)
+        list.push_back(value.toStdString());
+    m_preferences.set(key.toStdString(), list);
+}
+
 QStringList Workspace::recentFiles() const {
-    QStringList files;
-    for (const std::string& file : m_preferences.rawList(RecentFilesKey))
-        files.append(QString::fromStdString(file));
-    return files;
+    return remembered(RecentFilesKey);
 }
 
 void Workspace::addRecentFile(const QString& path) {
     QStringList files = recentFiles();
     files.removeAll(path);
     files.prepend(path);
-    storeRecentFiles(files.mid(0, MostRecentFiles));
+    remember(RecentFilesKey, files.mid(0, MostRecentFiles));
+    emit recentFilesChanged();
 }
 
 void Workspace::forgetRecentFile(const QString& path) {
     QStringList files = recentFiles();
     files.removeAll(path);
-    storeRecentFiles(files);
-}
-
-void Workspace::storeRecentFiles(const QStringList& files) {
-    std::vector<std::string> list;
-    for (const QString& file : files)
-        list.push_back(file.toStdString());
-    m_preferences.set(RecentFilesKey, list);
+    remember(RecentFilesKey, files);
     emit recentFilesChanged();
 }
 

@@ -35,6 +35,11 @@ public:
     void addRecentFile(const QString& path);
     void forgetRecentFile(const QString& path);
 
+    /// What windows remember from one start to the next, beside the preferences: places, columns,
+    /// open files. Empty where nothing was remembered.
+    [[nodiscard]] QStringList remembered(const QString& key) const;
+    void remember(const QString& key, const QStringList& values);
+
     /// Alerts go to this instead of message boxes, as in tests.
     void setAlerts(Alerts* alerts) { m_alerts = alerts; }
     void showAlert(const Alert& alert, QWidget* over) const;
@@ -46,12 +51,22 @@ signals:
     void openRequested(const QString& path);
 
 private:
-    void storeRecentFiles(const QStringList& files);
-
     Preferences m_preferences;
     DiagnosticLog m_log;
     Clock m_clock;
     Alerts* m_alerts = nullptr;
+};
+
+/// Alerts of the plain libraries, shown through the workspace over a window.
+class WorkspaceAlerts : public Alerts {
+public:
+    WorkspaceAlerts(const Workspace& workspace, QWidget* over)
+        : m_workspace(workspace), m_over(over) {}
+    void show(const Alert& alert) override { m_workspace.showAlert(alert, m_over); }
+
+private:
+    const Workspace& m_workspace;
+    QWidget* m_over;
 };
 
 } // namespace kavela::desktop

@@ -1,0 +1,205 @@
+#include "desktop/race/race_actions.h"
+
+#include "desktop/race/race_view.h"
+#include "desktop/race/race_window.h"
+#include "desktop/shell/help_menu.h"
+#include "desktop/shell/workspace.h"
+
+#include <QActionGroup>
+#include <QCoreApplication>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QMenuBar>
+
+namespace kavela::desktop {
+
+RaceActions::RaceActions(RaceWindow& window, Workspace& workspace)
+    : QObject(&window), m_window(window), m_workspace(workspace) {
+    makeFileMenu();
+    makeTableMenu();
+    makeCompareMenu();
+    makeWindowMenu();
+    addHelpMenu(window, workspace, [this] { return athletes(); });
+    connect(&m_workspace, &Workspace::preferenceChanged, this, &RaceActions::refresh);
+}
+
+void RaceActions::refresh() {
+    if (m_window.views().empty())
+        return;
+    for (const auto& refresher : m_refreshers)
+        refresher();
+}
+
+QAction* RaceActions::add(QMenu& menu, const QString& text, const QKeySequence& keys,
+                          ViewAction act) {
+    return menu.addAction(text, keys, &m_window,
+                          [this, act = std::move(act)] { act(m_window.view()); });
+}
+
+QAction* RaceActions::addSwitch(QMenu& menu, const QString& text, const QKeySequence& keys,
+                                std::function<bool(const RaceView&)> isOn,
+                                std::function<void(RaceView&, bool)> set) {
+    QAction* action = menu.addAction(
+        text, keys, &m_window, [this, set = std::move(set)](bool on) { set(m_window.view(), on); });
+    action->setCheckable(true);
+    m_refreshers.push_back(
+        [this, action, isOn = std::move(isOn)] { action->setChecked(isOn(m_window.view())); });
+    return action;
+}
+
+void RaceActions::makeFileMenu() {
+    QMenu* menu = m_window.menuBar()->addMenu(tr("&File"));
+    menu->addAction(tr("&Open…"), QKeySequence::Open, &m_window, [this] { chooseFiles(); });
+    add(*menu, tr("Open it &again"), QKeySequence(Qt::Key_F5),
+        [](RaceView& view) { view.reload(); });
+    menu->addAction(tr("&Home"), QKeySequence(Qt::CTRL | Qt::Key_H), &m_window,
+                    &RaceWindow::homeRequested);
+    menu->addSeparator();
+    add(*menu, tr("Save the table as &CSV…"), QKeySequence(Qt::CTRL | Qt::Key_E),
+        [](RaceView& view) { view.saveCsv(); });
+    add(*menu, tr("Cop&y the selected runs"), QKeySequence::Copy,
+        [](RaceView& view) { view.copySelection(); });
+    menu->addSeparator();
+    menu->addAction(tr("Se&ttings…"), QKeySequence(Qt::CTRL | Qt::Key_Comma), &m_window,
+                    &RaceWindow::settingsRequested);
+    menu->addAction(tr("C&lose"), QKeySequence::Close, &m_window, &RaceWindow::closeView);
+    menu->addAction(tr("&Quit"), QKeySequence::Quit, &m_window, [] { QCoreApplication::quit(); });
+}
+
+void RaceActions::chooseFiles() {
+    const QString folder = QFileInfo(m_window.document().path()).path();
+    const QStringList files = QFileDialog::getOpenFileNames(
+        &m_window, tr("Open"), folder, tr("Split files (*.kvx);;All files (*)"));
+    if (!files.isEmpty())
+        emit m_window.filesRequested(files);
+}
+
+void RaceActions::makeContentMenu(QMenu& menu) {
+    struct Choice {
+        QString text;
+        Qt::Key key;
+        CellContent content;
+    };
+    const std::vector<Choice> choices{
+        {tr("&Times"), Qt::Key_1, CellContent::Time},
+        {tr("&Gap to the reference"), Qt::Key_2, CellContent::Gap},
+        {tr("&Place"), Qt::Key_3, CellContent::Rank},
+        {tr("Per&cent behind the best"), Qt::Key_4, CellContent::PercentBehind},
+        {tr("Percenti&le"), Qt::Key_5, CellContent::Percentile},
+    };
+    auto* group = new QActionGroup(this);
+    for (const Choice& choice : choices)
+        group->addAction(addSwitch(
+            menu, choice.text, QKeySequence(Qt::CTRL | choice.key),
+            [content = choice.content](const RaceView& view) {
+                return view.model().content() == content;
+            },
+            [content = choice.content](RaceView& view, bool) { view.setContent(content); }));
+}
+
+void RaceActions::makeReferenceMenu(QMenu& menu) {
+    const auto refersTo = [](ReferenceKind kind) {
+        return [kind](const RaceView& view) { return view.model().reference().kind == kind; };
+    };
+    const auto set = [](ReferenceKind kind) {
+        return [kind](RaceView& view, bool) { view.setReference(kind); };
+    };
+    addSwitch(menu, tr("&Reference: the best"), QKeySequence(Qt::SHIFT | Qt::Key_B),
+              refersTo(ReferenceKind::Best), set(ReferenceKind::Best));
+    addSwitch(menu, tr("Reference: the &median"), QKeySequence(Qt::SHIFT | Qt::Key_M),
+              refersTo(ReferenceKind::Median), set(ReferenceKind::Median));
+    addSwitch(
+        menu, tr("Reference: the &selected row"), QKeySequence(Qt::SHIFT | Qt::Key_R),
+        [](const RaceView& view) {
+            const ReferenceKind kind = view.model().reference().kind;
+            return kind == ReferenceKind::Run || kind == ReferenceKind::Values;
+        },
+        [](RaceView& view, bool) { view.useSelectionAsReference(); });
+}
+
+void RaceActions::makeTableMenu() {
+    QMenu* menu = m_window.menuBar()->addMenu(tr("&Table"));
+    makeContentMenu(*menu);
+    menu->addSeparator();
+    makeReferenceMenu(*menu);
+    menu->addSeparator();
+    addSwitch(
+        *menu, tr("&Accumulated times"), QKeySequence(Qt::Key_A),
+        [](const RaceView& view) { return view.document().isAccumulated(); },
+        [](RaceView& view, bool on) { view.document().setAccumulated(on); });
+    addPreference(*menu, tr("Penalties &included"), QKeySequence(Qt::Key_I), "penaltiesIncluded");
+    addPreference(*menu, tr("Penalties &visible"), QKeySequence(Qt::Key_V), "penaltiesVisible");
+    addColourMode(*menu);
+    menu->addSeparator();
+    QMenu* columns = menu->addMenu(tr("C&olumns"));
+    connect(columns, &QMenu::aboutToShow, this, [this, columns] {
+        columns->clear();
+        m_window.view().fillColumnMenu(*columns);
+    });
+    add(*menu, tr("&Find a name"), QKeySequence::Find, [](RaceView& view) { view.findName(); });
+    add(*menu, tr("Show all r&uns"), QKeySequence(Qt::Key_Escape),
+        [](RaceView& view) { view.clearFilter(); });
+}
+
+void RaceActions::addPreference(QMenu& menu, const QString& text, const QKeySequence& keys,
+                                const char* key) {
+    addSwitch(
+        menu, text, keys,
+        [this, key](const RaceView&) { return m_workspace.preferences().boolean(key); },
+        [this, key](RaceView&, bool on) { m_workspace.setPreference(key, on); });
+}
+
+void RaceActions::addColourMode(QMenu& menu) {
+    addSwitch(
+        menu, tr("&Tint cells by rank"), QKeySequence(Qt::Key_T),
+        [this](const RaceView& view) { return view.document().settings().isTinted(); },
+        [this](RaceView&, bool on) {
+            m_workspace.setPreference("colorMode", std::string(on ? "Training" : "Race"));
+        });
+    addSwitch(
+        menu, tr("&Blue to orange instead of green to red"), QKeySequence(Qt::Key_B),
+        [](const RaceView& view) { return view.model().scale() == ColourScale::BlueOrange; },
+        [](RaceView& view, bool on) {
+            view.setScale(on ? ColourScale::BlueOrange : ColourScale::GreenRed);
+        });
+}
+
+void RaceActions::makeCompareMenu() {
+    QMenu* menu = m_window.menuBar()->addMenu(tr("&Compare"));
+    addSwitch(
+        *menu, tr("&Ideal run on top"), QKeySequence(Qt::Key_O),
+        [](const RaceView& view) { return view.document().isIdealShown(); },
+        [](RaceView& view, bool on) { view.document().setIdealShown(on); });
+    add(*menu, tr("A &run of another race…"), QKeySequence(Qt::Key_C),
+        [](RaceView& view) { view.compareWithOtherRace(); });
+    add(*menu, tr("&Clear the comparison"), QKeySequence(Qt::SHIFT | Qt::Key_C),
+        [](RaceView& view) { view.document().clearComparisons(); });
+}
+
+void RaceActions::makeWindowMenu() {
+    QMenu* menu = m_window.menuBar()->addMenu(tr("&Window"));
+    addSwitch(
+        *menu, tr("Races &side by side"), QKeySequence(Qt::Key_F8),
+        [this](const RaceView&) { return m_window.isSideBySide(); },
+        [this](RaceView&, bool on) { m_window.setSideBySide(on); });
+    menu->addAction(tr("&Next race"), QKeySequence(Qt::CTRL | Qt::Key_PageDown), &m_window,
+                    [this] { m_window.showNextView(1); });
+    menu->addAction(tr("&Previous race"), QKeySequence(Qt::CTRL | Qt::Key_PageUp), &m_window,
+                    [this] { m_window.showNextView(-1); });
+}
+
+Commands RaceActions::athletes() const {
+    Commands commands;
+    RaceView& view = m_window.view();
+    const std::vector<analyzerdata>& runs = view.document().shownSet().alldata;
+    for (std::size_t i = 0; i < runs.size(); ++i) {
+        QStringList where{QString::fromStdString(runs[i].category),
+                          QString::fromStdString(runs[i].phase)};
+        where.removeAll(QString());
+        commands.push_back({QString::fromStdString(runs[i].name), where.join(" · "), QString(),
+                            [&view, i] { view.selectRun(i); }});
+    }
+    return commands;
+}
+
+} // namespace kavela::desktop

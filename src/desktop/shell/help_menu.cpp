@@ -1,0 +1,52 @@
+#include "desktop/shell/help_menu.h"
+
+#include "desktop/shell/key_overlay.h"
+#include "desktop/shell/workspace.h"
+
+#include <QFileInfo>
+#include <QMainWindow>
+#include <QMenuBar>
+
+namespace kavela::desktop {
+
+namespace {
+
+void addRecentFiles(Workspace& workspace, Commands& commands) {
+    for (const QString& path : workspace.recentFiles())
+        commands.push_back({QFileInfo(path).fileName(), QObject::tr("Recent files"), QString(),
+                            [&workspace, path] { emit workspace.openRequested(path); }});
+}
+
+void openPalette(QMainWindow& window, Workspace& workspace, const std::function<Commands()>& more) {
+    Commands commands = menuCommands(window);
+    for (Command& command : more())
+        commands.push_back(std::move(command));
+    addRecentFiles(workspace, commands);
+    auto* palette = new CommandPalette(std::move(commands), &window);
+    palette->setAttribute(Qt::WA_DeleteOnClose);
+    palette->open();
+}
+
+void openOverlay(QMainWindow& window) {
+    auto* overlay = new KeyOverlay(window, &window);
+    overlay->setAttribute(Qt::WA_DeleteOnClose);
+    overlay->open();
+}
+
+} // namespace
+
+void addHelpMenu(QMainWindow& window, Workspace& workspace, std::function<Commands()> more) {
+    QMenu* menu = window.menuBar()->addMenu(QObject::tr("&Help"));
+    menu->addAction(
+        QObject::tr("&Search everything…"), QKeySequence(Qt::CTRL | Qt::Key_K), &window,
+        [&window, &workspace, more = std::move(more)] { openPalette(window, workspace, more); });
+    menu->addAction(QObject::tr("&All keys"), QKeySequence(Qt::Key_Question), &window,
+                    [&window] { openOverlay(window); });
+    QAction* full = menu->addAction(
+        QObject::tr("&Full screen"), QKeySequence(Qt::Key_F11), &window, [&window](bool on) {
+            window.setWindowState(window.windowState().setFlag(Qt::WindowFullScreen, on));
+        });
+    full->setCheckable(true);
+}
+
+} // namespace kavela::desktop
