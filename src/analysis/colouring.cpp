@@ -37,6 +37,21 @@ constexpr std::array BandLooks{
     BandLook{"marked", NamedWhite},
 };
 
+// From the fastest to the slowest; steps of a diverging scale that stays apart in lightness for
+// every common kind of colour blindness.
+constexpr std::array BlueOrangeTints{tint(0x2F, 0x7B, 0xC4),
+                                     tint(0x5F, 0xA3, 0xDB),
+                                     tint(0x92, 0xC2, 0xE8),
+                                     tint(0xB9, 0xD8, 0xF0),
+                                     tint(0xDC, 0xEB, 0xF7),
+                                     NamedWhite,
+                                     NamedWhite,
+                                     tint(0xFD, 0xEA, 0xD3),
+                                     tint(0xFB, 0xD0, 0xA0),
+                                     tint(0xF5, 0xB0, 0x65),
+                                     tint(0xE6, 0x85, 0x1C),
+                                     tint(0xD0, 0x6A, 0x00)};
+
 const BandLook& lookOf(Band band) {
     return BandLooks[static_cast<std::size_t>(band)];
 }
@@ -67,7 +82,10 @@ std::string_view bandName(Band band) {
     return lookOf(band).name;
 }
 
-std::optional<Colour> bandColour(Band band) {
+std::optional<Colour> bandColour(Band band, ColourScale scale) {
+    if (scale == ColourScale::BlueOrange && band >= Band::Fastest && band <= Band::Slowest)
+        return BlueOrangeTints[static_cast<std::size_t>(band) -
+                               static_cast<std::size_t>(Band::Fastest)];
     return lookOf(band).colour;
 }
 

@@ -46,8 +46,13 @@ enum class Band {
 /// "clear", "fastest", "1" to "10", "slowest" or "marked".
 [[nodiscard]] std::string_view bandName(Band band);
 
+/// Whether tints run from green to red, or from blue over white to orange for those who cannot tell
+/// these apart.
+enum class ColourScale { GreenRed, BlueOrange };
+
 /// The tint of a band; nothing for a clear cell.
-[[nodiscard]] std::optional<Colour> bandColour(Band band);
+[[nodiscard]] std::optional<Colour> bandColour(Band band,
+                                               ColourScale scale = ColourScale::GreenRed);
 
 /// Which values the table shows; the numbers are the table's own.
 enum class ValueKind { Sections = 0, Accumulated = 2 };

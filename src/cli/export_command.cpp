@@ -4,6 +4,7 @@
 #include "cli/console.h"
 #include "common/safe_file.h"
 #include "report/pdf_file.h"
+#include "report/race_report.h"
 #include "splitdata/loader.h"
 #include "splittaking/table_export.h"
 

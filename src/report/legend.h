@@ -5,9 +5,10 @@
 
 namespace kavela::report {
 
-inline constexpr qreal LegendHeight = 12 * Point;
+/// One line where that is wide enough, else two.
+[[nodiscard]] qreal legendHeight(const ReportTable& table, const Typeface& typeface, qreal width);
 
-/// One line that says what the colours and marks of a table mean, and whether its times hold
+/// Says what the colours and marks of a table mean, what its cells say, and whether the times hold
 /// penalties.
 void paintLegend(QPainter& painter, const QRectF& place, const ReportTable& table,
                  const Typeface& typeface);

@@ -3,6 +3,7 @@
 #include "common/error.h"
 #include "common/safe_file.h"
 #include "report/searchable_text.h"
+#include "report/typeface.h"
 
 #include <QBuffer>
 #include <QPainter>
@@ -19,14 +20,14 @@ constexpr qreal PointsPerInch = 72;
 
 } // namespace
 
-std::string pdfOf(const RaceReport& report) {
+std::string pdfOf(const PagedReport& report) {
     QBuffer buffer;
     buffer.open(QIODevice::WriteOnly);
     {
         QPdfWriter writer(&buffer);
         writer.setResolution(DotsPerInch);
         writer.setPageLayout(report.layout());
-        writer.setTitle(report.heading().title);
+        writer.setTitle(report.documentTitle());
         writer.setCreator(QStringLiteral("Kavela"));
         QPainter painter;
         if (!painter.begin(&writer))
@@ -43,7 +44,7 @@ std::string pdfOf(const RaceReport& report) {
     return pdf;
 }
 
-void writePdf(const RaceReport& report, const std::filesystem::path& path) {
+void writePdf(const PagedReport& report, const std::filesystem::path& path) {
     if (!isAnyFontInstalled())
         throw FileError(path, "no font is installed");
     writeFileSafely(path, pdfOf(report));

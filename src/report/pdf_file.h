@@ -1,6 +1,6 @@
 #pragma once
 
-#include "report/race_report.h"
+#include "report/paged_report.h"
 
 #include <filesystem>
 #include <string>
@@ -8,10 +8,10 @@
 namespace kavela::report {
 
 /// A report as the bytes of a PDF document: vectors, embedded fonts, text that can be searched.
-[[nodiscard]] std::string pdfOf(const RaceReport& report);
+[[nodiscard]] std::string pdfOf(const PagedReport& report);
 
 /// Writes a report as a PDF document, safely: the file is there whole or not at all. Throws
 /// FileError, also on a computer without any font, where all letters would be boxes.
-void writePdf(const RaceReport& report, const std::filesystem::path& path);
+void writePdf(const PagedReport& report, const std::filesystem::path& path);
 
 } // namespace kavela::report

@@ -16,9 +16,9 @@ namespace {
 constexpr qreal SectionGap = 22 * Point;
 constexpr std::size_t FewestRowsBelowHeading = 8;
 
-void putRaceSections(PageBuilder& pages, const RaceSet& set, const ReportTable& table,
+void putRaceSections(PageBuilder& pages, const RaceSet& set, std::span<const QString> sectionTitles,
                      const Typeface& typeface) {
-    putLists(pages, raceLists(set, table.columns), typeface);
+    putLists(pages, raceLists(set, sectionTitles), typeface);
     pages.skip(SectionGap);
     putGateChart(pages, coursePenalties(set), typeface);
     pages.skip(SectionGap);
@@ -44,9 +44,10 @@ void putNoRuns(PageBuilder& pages, const Typeface& typeface) {
 } // namespace
 
 RaceReport::RaceReport(ReportHeading heading, const RaceSet& set, const TableSettings& settings,
-                       ReportContent content)
+                       ReportContent content, const TableView& view)
     : m_heading(std::move(heading)) {
-    const ReportTable table = reportTable(set, settings);
+    const SplitTable splits = makeSplitTable(set, settings);
+    const ReportTable table = reportTable(set, splits, settings, view);
     const TableLayout layout = layOutTable(table, m_typeface);
     m_orientation = layout.orientation;
 
@@ -54,7 +55,7 @@ RaceReport::RaceReport(ReportHeading heading, const RaceSet& set, const TableSet
     if (content == ReportContent::Race) {
         putTitleBlock(pages, m_heading, m_typeface);
         if (table.rowCount() > 0) {
-            putRaceSections(pages, set, table, m_typeface);
+            putRaceSections(pages, set, columnTitles(splits), m_typeface);
             putTableHeading(pages, layout, m_typeface);
         }
     } else {

@@ -1,13 +1,12 @@
 #pragma once
 
-#include "analysis/split_table.h"
 #include "report/page_builder.h"
+#include "report/paged_report.h"
 #include "report/report_heading.h"
+#include "report/table_view.h"
 #include "report/typeface.h"
 
 #include <vector>
-
-class QPainter;
 
 namespace kavela::report {
 
@@ -16,24 +15,20 @@ enum class ReportContent {
     Race,  ///< results, ideal run and penalties by gate, then the table
 };
 
-/// A report of a race as A4 pages that can be painted anywhere: into a file, onto a printer, as a
-/// preview. It keeps what it needs of the race; the race set need not outlive it. Needs a
-/// QGuiApplication, for its fonts.
-class RaceReport {
+/// A report of a race on A4 pages. It keeps what it needs of the race; the race set need not
+/// outlive it.
+class RaceReport : public PagedReport {
 public:
     RaceReport(ReportHeading heading, const RaceSet& set, const TableSettings& settings,
-               ReportContent content);
+               ReportContent content, const TableView& view = {});
 
-    [[nodiscard]] const ReportHeading& heading() const { return m_heading; }
-    [[nodiscard]] int pageCount() const { return static_cast<int>(m_pages.size()); }
+    [[nodiscard]] QString documentTitle() const override { return m_heading.title; }
+    [[nodiscard]] int pageCount() const override { return static_cast<int>(m_pages.size()); }
 
-    /// The paper: A4 without margins, since the pages bring their own. Lying where the table needs
-    /// the width, for the whole report.
-    [[nodiscard]] QPageLayout layout() const { return pageLayout(m_orientation); }
+    /// Lying where the table needs the width, for the whole report.
+    [[nodiscard]] QPageLayout layout() const override { return pageLayout(m_orientation); }
 
-    /// Paints a page, counted from 0, in points (1/72 inch) from the painter's origin, which is the
-    /// top left corner of the paper. The paper itself is not painted. The painter's state is kept.
-    void paintPage(QPainter& painter, int page) const;
+    void paintPage(QPainter& painter, int page) const override;
 
 private:
     ReportHeading m_heading;

@@ -1,68 +1,201 @@
 #include "report/report_table.h"
 
 #include "analysis/ranking.h"
+#include "report/table_note.h"
 #include "report/typeface.h"
-
-#include <fmt/format.h>
 
 #include <QStringList>
 
+#include <algorithm>
 #include <cmath>
+#include <numeric>
+#include <set>
 
 namespace kavela::report {
 
 namespace {
 
-constexpr std::size_t WidestTime = 16;
-// The named green and red of the table in shades that can be read as text.
-constexpr QColor TextGreen(0x0b, 0x75, 0x38);
-constexpr QColor TextRed(0xab, 0x2f, 0x2a);
+constexpr std::size_t WidestText = 16;
 constexpr QColor OnTint(0, 0, 0); ///< also on the strongest red, and when that is printed in grey
 
-/// A time as the table has it; one from a damaged file, hundreds of digits long, in short.
-QString cellText(const TableCell& cell) {
-    return QString::fromStdString(cell.text.size() > WidestTime ? fmt::format("{:.3g}", cell.value)
-                                                                : cell.text);
+/// The colours of race mode in shades that can be read as text.
+struct TextColours {
+    QColor best;
+    QColor other;
+};
+constexpr TextColours GreenAndRed{QColor(0x0b, 0x75, 0x38), QColor(0xab, 0x2f, 0x2a)};
+constexpr TextColours BlueAndOrange{QColor(0x1b, 0x62, 0xa5), QColor(0xa3, 0x51, 0x00)};
+
+/// The text of a cell; a number from a damaged file, hundreds of digits long, in short.
+QString bearable(const std::string& text) {
+    QString whole = QString::fromStdString(text);
+    if (text.size() <= WidestText)
+        return whole;
+    return QString::number(whole.section(' ', 0, 0).toDouble(), 'g', 3);
 }
 
-QColor inkOf(const TableCell& cell) {
-    if (cell.foreground)
-        return *cell.foreground == NamedGreen ? TextGreen : TextRed;
+QColor inkOf(const TableCell& cell, ColourScale scale) {
+    if (cell.foreground) {
+        const TextColours& colours = scale == ColourScale::BlueOrange ? BlueAndOrange : GreenAndRed;
+        return *cell.foreground == NamedGreen ? colours.best : colours.other;
+    }
     if (cell.background)
         return OnTint;
     return cell.value == 0 ? Quiet : Ink;
 }
 
-ReportCell reportCell(const TableCell& cell) {
+ReportCell reportCell(const TableCell& cell, const std::string& text, ColourScale scale) {
     ReportCell made;
-    made.text = cellText(cell);
-    made.ink = inkOf(cell);
-    if (cell.background)
-        made.ground = onPaper(*cell.background);
+    made.text = bearable(text);
+    made.ink = inkOf(cell, scale);
+    if (const auto tint = cell.band ? bandColour(*cell.band, scale) : std::nullopt)
+        made.ground = onPaper(*tint);
     made.isBest = cell.band == Band::Fastest || cell.foreground == NamedGreen;
     return made;
 }
 
-ReportRow reportRow(const TableRow& row) {
-    ReportRow made;
-    made.name = reportText(row.run->name);
-    for (const TableCell& cell : row.cells)
-        made.cells.push_back(reportCell(cell));
-    return made;
+bool isSameGroup(const analyzerdata& a, const analyzerdata& b) {
+    return a.phase == b.phase && a.category == b.category;
 }
 
-QString noteOn(const TableSettings& settings) {
-    QStringList sentences;
-    if (settings.kind == ValueKind::Accumulated)
-        sentences << QStringLiteral("Times from the start, without penalties.");
-    else if (settings.penaltiesIncluded)
-        sentences << QStringLiteral("Penalties are included in sections and total.");
-    else
-        sentences << QStringLiteral("Penalties are not included.");
-    if (settings.penaltiesVisible)
-        sentences << QStringLiteral("Penalty seconds in brackets.");
-    return sentences.join(' ');
+std::vector<std::size_t> knownOf(const std::optional<std::vector<std::size_t>>& chosen,
+                                 std::size_t count) {
+    std::vector<std::size_t> known;
+    if (chosen) {
+        std::ranges::copy_if(*chosen, std::back_inserter(known),
+                             [&](std::size_t index) { return index < count; });
+    } else {
+        known.resize(count);
+        std::iota(known.begin(), known.end(), std::size_t{0});
+    }
+    return known;
 }
+
+/// The rows of a chosen order, parted wherever phase or category change.
+std::vector<RunGroup> partedRows(const RaceSet& set, const std::vector<std::size_t>& rows) {
+    std::vector<RunGroup> groups;
+    for (const std::size_t row : rows) {
+        const analyzerdata& run = set.alldata[row];
+        if (groups.empty() || !isSameGroup(set.alldata[groups.back().runs.front()], run))
+            groups.push_back({run.phase, run.category, {}});
+        groups.back().runs.push_back(row);
+    }
+    return groups;
+}
+
+bool isAnyTwice(const std::vector<RunGroup>& groups) {
+    std::set<std::pair<std::string, std::string>> seen;
+    return !std::ranges::all_of(groups, [&](const RunGroup& group) {
+        return seen.emplace(group.phase, group.category).second;
+    });
+}
+
+/// Makes the table on paper of the table of a race.
+class TableMaker {
+public:
+    TableMaker(const RaceSet& set, const SplitTable& table, const TableView& view)
+        : m_set(set),
+          m_table(table),
+          m_view(view),
+          m_figures(table),
+          m_columns(knownOf(view.columns, table.columns.size())) {}
+
+    [[nodiscard]] ReportTable make() {
+        const std::vector<RunGroup> groups = shownGroups();
+        ReportTable report;
+        report.leads = m_leads;
+        for (const std::size_t column : m_columns)
+            report.columns.push_back(reportText(m_table.columns[column].title));
+        if (!m_view.comparisons.empty())
+            report.groups.push_back(comparisonGroup());
+        for (const RunGroup& group : groups) {
+            ReportGroup& made = report.groups.emplace_back();
+            made.title = groupTitle(group.phase, group.category);
+            if (made.title.isEmpty() && !m_view.comparisons.empty())
+                made.title = QStringLiteral("Runs");
+            for (const std::size_t run : group.runs)
+                made.rows.push_back(reportRow(run));
+        }
+        report.scale = m_view.scale;
+        return report;
+    }
+
+private:
+    /// The runs in their order, and with that which leading columns have something to tell.
+    [[nodiscard]] std::vector<RunGroup> shownGroups() {
+        m_leads = m_view.runColumns;
+        if (m_view.rows) {
+            const std::vector<std::size_t> rows = knownOf(m_view.rows, m_set.alldata.size());
+            std::vector<RunGroup> groups = partedRows(m_set, rows);
+            if (isAnyTwice(groups))
+                return {{{}, {}, rows}};
+            dropToldLeads();
+            return groups;
+        }
+        dropToldLeads();
+        return runGroups(m_set);
+    }
+
+    void dropToldLeads() {
+        std::erase_if(m_leads, [](RunColumn column) { return column != RunColumn::Place; });
+    }
+
+    [[nodiscard]] ReportRow reportRow(std::size_t run) const {
+        const TableRow& row = m_table.rows[run];
+        ReportRow made;
+        made.name = reportText(row.run->name);
+        for (const RunColumn lead : m_leads)
+            made.leads.push_back(leadText(*row.run, lead));
+        for (const std::size_t column : m_columns)
+            made.cells.push_back(reportCell(
+                row.cells[column],
+                cellText(m_table, m_figures, run, column, m_view.content, m_view.reference),
+                m_view.scale));
+        return made;
+    }
+
+    [[nodiscard]] static QString leadText(const analyzerdata& run, RunColumn column) {
+        switch (column) {
+        case RunColumn::Phase:
+            return reportText(run.phase);
+        case RunColumn::Category:
+            return reportText(run.category);
+        case RunColumn::Place:
+            return run.pos == "0" ? QString() : reportText(run.pos);
+        }
+        return {};
+    }
+
+    [[nodiscard]] ReportGroup comparisonGroup() const {
+        ReportGroup group{QStringLiteral("For comparison"), {}};
+        for (const ComparisonRow& row : m_view.comparisons) {
+            ReportRow& made = group.rows.emplace_back();
+            made.name = comparisonName(row);
+            for (const RunColumn lead : m_leads)
+                made.leads.push_back(lead == RunColumn::Phase      ? reportText(row.phase)
+                                     : lead == RunColumn::Category ? reportText(row.category)
+                                                                   : QString());
+            for (const std::size_t column : m_columns)
+                made.cells.push_back(comparisonCell(row, column));
+        }
+        return group;
+    }
+
+    [[nodiscard]] ReportCell comparisonCell(const ComparisonRow& row, std::size_t column) const {
+        if (column >= row.values.size())
+            return {{}, Quiet, {}, false};
+        const std::string text =
+            comparisonText(row, m_figures, column, m_view.content, m_view.reference);
+        return {bearable(text), row.values[column] == 0 ? Quiet : Ink, {}, false};
+    }
+
+    const RaceSet& m_set;
+    const SplitTable& m_table;
+    const TableView& m_view;
+    TableFigures m_figures;
+    std::vector<std::size_t> m_columns;
+    std::vector<RunColumn> m_leads;
+};
 
 } // namespace
 
@@ -79,6 +212,18 @@ QString groupTitle(const std::string& phase, const std::string& category) {
     return parts.join(QStringLiteral(" · "));
 }
 
+QString leadTitle(RunColumn column) {
+    switch (column) {
+    case RunColumn::Phase:
+        return QStringLiteral("Phase");
+    case RunColumn::Category:
+        return QStringLiteral("Cat");
+    case RunColumn::Place:
+        return QStringLiteral("Place");
+    }
+    return {};
+}
+
 QColor onPaper(const Colour& colour) {
     const auto channel = [&](double value) {
         constexpr int Most = 255;
@@ -87,19 +232,18 @@ QColor onPaper(const Colour& colour) {
     return {channel(colour.red), channel(colour.green), channel(colour.blue)};
 }
 
-ReportTable reportTable(const RaceSet& set, const TableSettings& settings) {
-    const SplitTable table = makeSplitTable(set, settings);
-    ReportTable report;
+std::vector<QString> columnTitles(const SplitTable& table) {
+    std::vector<QString> titles;
     for (const TableColumn& column : table.columns)
-        report.columns.push_back(reportText(column.title));
-    for (const RunGroup& group : runGroups(set)) {
-        ReportGroup& made = report.groups.emplace_back();
-        made.title = groupTitle(group.phase, group.category);
-        for (const std::size_t run : group.runs)
-            made.rows.push_back(reportRow(table.rows[run]));
-    }
+        titles.push_back(reportText(column.title));
+    return titles;
+}
+
+ReportTable reportTable(const RaceSet& set, const SplitTable& table, const TableSettings& settings,
+                        const TableView& view) {
+    ReportTable report = TableMaker(set, table, view).make();
     report.isTinted = settings.isTinted();
-    report.note = noteOn(settings);
+    report.note = tableNote(set, settings, view, report.rowCount() - view.comparisons.size());
     return report;
 }
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "analysis/split_table.h"
+#include "report/table_view.h"
 
 #include <QColor>
 #include <QString>
@@ -20,6 +20,7 @@ struct ReportCell {
 
 struct ReportRow {
     QString name;
+    std::vector<QString> leads; ///< by leading column
     std::vector<ReportCell> cells;
 };
 
@@ -30,18 +31,28 @@ struct ReportGroup {
 };
 
 struct ReportTable {
+    std::vector<RunColumn> leads; ///< between the names and the times
     std::vector<QString> columns;
     std::vector<ReportGroup> groups;
     bool isTinted = false;
-    QString note; ///< what the times are: with penalties or without, accumulated
+    ColourScale scale = ColourScale::GreenRed;
+    QString note; ///< what the cells say: gaps to whom, with penalties or without, accumulated
 
     [[nodiscard]] std::size_t rowCount() const;
 };
 
-[[nodiscard]] ReportTable reportTable(const RaceSet& set, const TableSettings& settings);
+/// The table of a race set as a view of it shows it. `table` was made of the set with the settings.
+[[nodiscard]] ReportTable reportTable(const RaceSet& set, const SplitTable& table,
+                                      const TableSettings& settings, const TableView& view = {});
+
+/// The titles of all columns of a table.
+[[nodiscard]] std::vector<QString> columnTitles(const SplitTable& table);
 
 /// "Heats · K1M"
 [[nodiscard]] QString groupTitle(const std::string& phase, const std::string& category);
+
+/// The title of a leading column: "Cat".
+[[nodiscard]] QString leadTitle(RunColumn column);
 
 /// A colour of the table on white paper, without transparency.
 [[nodiscard]] QColor onPaper(const Colour& colour);

@@ -16,20 +16,25 @@ constexpr qreal LeastPoints = 6.5;
 constexpr qreal StepPoints = 0.25;
 // Widths in letters of one point.
 constexpr qreal CellPadding = 1.1;
+constexpr qreal PlacePadding = CellPadding + LeadGap;
 constexpr qreal NamePadding = 1.2;
 constexpr qreal WidestTitle = 6;
 constexpr qreal WidestName = 21;
 constexpr qreal LeastName = 11;
+constexpr qreal WidestLead = 10;
 constexpr qreal RoomiestCell = 7;
+
+qreal sum(const std::vector<qreal>& widths) {
+    return std::accumulate(widths.begin(), widths.end(), 0.0);
+}
 
 /// The widths that a table asks for, for letters of one point: they grow with the letters.
 struct Widths {
     qreal name = 0;
+    std::vector<qreal> leads;
     std::vector<qreal> columns;
 
-    [[nodiscard]] qreal ofColumns() const {
-        return std::accumulate(columns.begin(), columns.end(), 0.0);
-    }
+    [[nodiscard]] qreal besideName() const { return sum(leads) + sum(columns); }
 };
 
 class Measure {
@@ -54,6 +59,15 @@ QString longestCell(const ReportTable& table, std::size_t column) {
     return longest;
 }
 
+qreal leadWidth(const ReportTable& table, std::size_t lead, const Measure& measure) {
+    qreal width = measure.of(leadTitle(table.leads[lead]), true);
+    for (const ReportGroup& group : table.groups)
+        for (const ReportRow& row : group.rows)
+            width = std::max(width, measure.of(row.leads[lead], false));
+    const bool isNumber = table.leads[lead] == RunColumn::Place;
+    return std::min(width + (isNumber ? PlacePadding : CellPadding) * Point, WidestLead * Point);
+}
+
 Widths widthsOf(const ReportTable& table, const Typeface& typeface) {
     const Measure measure(typeface);
     Widths widths;
@@ -62,6 +76,8 @@ Widths widthsOf(const ReportTable& table, const Typeface& typeface) {
             widths.name = std::max(widths.name, measure.of(row.name, false));
     widths.name =
         std::clamp(widths.name + NamePadding * Point, LeastName * Point, WidestName * Point);
+    for (std::size_t i = 0; i < table.leads.size(); ++i)
+        widths.leads.push_back(leadWidth(table, i, measure));
     for (std::size_t i = 0; i < table.columns.size(); ++i) {
         const qreal title = std::min(measure.of(table.columns[i], true), WidestTitle * Point);
         const qreal cell = measure.of(longestCell(table, i) + BestMark, true);
@@ -86,18 +102,19 @@ std::optional<qreal> fittingPoints(qreal widthOfOnePoint, QPageLayout::Orientati
 /// Spreads what is left of the paper: the columns breathe a little, the names take the rest.
 void fillPaper(TableLayout& layout, TableStrip& strip) {
     qreal& name = layout.nameWidth;
-    const qreal used = std::accumulate(strip.widths.begin(), strip.widths.end(), name);
-    const qreal spare = paperWidth(layout.orientation) - used;
+    const qreal paper = paperWidth(layout.orientation) - sum(layout.leadWidths);
+    const qreal spare = paper - name - sum(strip.widths);
     const qreal each = spare / static_cast<qreal>(strip.widths.size() + 1);
     for (qreal& width : strip.widths)
         width = std::max(width, std::min(width + each, RoomiestCell * layout.points * Point));
-    name = paperWidth(layout.orientation) -
-           std::accumulate(strip.widths.begin(), strip.widths.end(), 0.0);
+    name = paper - sum(strip.widths);
 }
 
 TableLayout oneStrip(const Widths& widths, QPageLayout::Orientation orientation, qreal points,
                      qreal nameOfOnePoint) {
-    TableLayout layout{orientation, points, nameOfOnePoint * points, {{}}};
+    TableLayout layout{orientation, points, nameOfOnePoint * points, {}, {{}}};
+    for (const qreal width : widths.leads)
+        layout.leadWidths.push_back(width * points);
     for (const qreal width : widths.columns)
         layout.strips.front().widths.push_back(width * points);
     fillPaper(layout, layout.strips.front());
@@ -105,14 +122,16 @@ TableLayout oneStrip(const Widths& widths, QPageLayout::Orientation orientation,
 }
 
 TableLayout manyStrips(const Widths& widths) {
-    TableLayout layout{QPageLayout::Landscape, FullPoints - 1, 0, {}};
+    TableLayout layout{QPageLayout::Landscape, FullPoints - 1, 0, {}, {}};
     layout.nameWidth = LeastName * Point * layout.points;
+    for (const qreal width : widths.leads)
+        layout.leadWidths.push_back(width * layout.points);
     qreal left = 0;
     for (std::size_t i = 0; i < widths.columns.size(); ++i) {
         const qreal width = widths.columns[i] * layout.points;
         if (layout.strips.empty() || width > left) {
             layout.strips.push_back({i, {}});
-            left = paperWidth(layout.orientation) - layout.nameWidth;
+            left = paperWidth(layout.orientation) - layout.nameWidth - sum(layout.leadWidths);
         }
         layout.strips.back().widths.push_back(width);
         left -= width;
@@ -124,10 +143,10 @@ TableLayout manyStrips(const Widths& widths) {
 
 TableLayout layOutTable(const ReportTable& table, const Typeface& typeface) {
     const Widths widths = widthsOf(table, typeface);
-    if ((widths.name + widths.ofColumns()) * FullPoints <= paperWidth(QPageLayout::Portrait))
+    if ((widths.name + widths.besideName()) * FullPoints <= paperWidth(QPageLayout::Portrait))
         return oneStrip(widths, QPageLayout::Portrait, FullPoints, widths.name);
     for (const qreal name : {widths.name, LeastName * Point})
-        if (const auto points = fittingPoints(name + widths.ofColumns(), QPageLayout::Landscape))
+        if (const auto points = fittingPoints(name + widths.besideName(), QPageLayout::Landscape))
             return oneStrip(widths, QPageLayout::Landscape, *points, name);
     return manyStrips(widths);
 }

@@ -22,6 +22,7 @@ struct TableLayout {
     QPageLayout::Orientation orientation = QPageLayout::Portrait;
     qreal points = 0; ///< size of the letters
     qreal nameWidth = 0;
+    std::vector<qreal> leadWidths; ///< of the columns between the names and the times
     std::vector<TableStrip> strips;
 
     [[nodiscard]] qreal rowHeight() const { return 1.62 * points * Point; }
@@ -30,6 +31,9 @@ struct TableLayout {
 };
 
 [[nodiscard]] TableLayout layOutTable(const ReportTable& table, const Typeface& typeface);
+
+/// Behind a place, in letters: it is no figure like those to its right.
+inline constexpr qreal LeadGap = 1.4;
 
 /// Stands behind the best value of a column.
 inline const QString BestMark = QStringLiteral("*");

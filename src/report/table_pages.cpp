@@ -61,11 +61,19 @@ private:
     /// The places of the cells of a line.
     [[nodiscard]] std::vector<QRectF> cellPlaces(const QRectF& line,
                                                  const TableStrip& strip) const {
+        const std::vector<QRectF> leads = leadPlaces(line);
+        const qreal left = leads.empty() ? line.left() + m_layout.nameWidth : leads.back().right();
+        return placesFrom(left, line, strip.widths);
+    }
+    [[nodiscard]] std::vector<QRectF> leadPlaces(const QRectF& line) const {
+        return placesFrom(line.left() + m_layout.nameWidth, line, m_layout.leadWidths);
+    }
+    [[nodiscard]] static std::vector<QRectF> placesFrom(qreal left, const QRectF& line,
+                                                        const std::vector<qreal>& widths) {
         std::vector<QRectF> places;
-        qreal x = line.left() + m_layout.nameWidth;
-        for (const qreal width : strip.widths) {
-            places.emplace_back(x, line.top(), width, line.height());
-            x += width;
+        for (const qreal width : widths) {
+            places.emplace_back(left, line.top(), width, line.height());
+            left += width;
         }
         return places;
     }
@@ -78,6 +86,9 @@ private:
     void paintHead(QPainter& painter, const QRectF& place, const TableStrip& strip) const {
         m_typeface.draw(painter, namePlace(place), Qt::AlignLeft, QStringLiteral("Name"),
                         style(Quiet, true));
+        const std::vector<QRectF> leads = leadPlaces(place);
+        for (std::size_t i = 0; i < leads.size(); ++i)
+            paintLead(painter, leads[i], i, leadTitle(m_table.leads[i]), style(Quiet, true));
         const std::vector<QRectF> cells = cellPlaces(place, strip);
         for (std::size_t i = 0; i < cells.size(); ++i)
             m_typeface.draw(painter, textPlace(cells[i]), Qt::AlignRight,
@@ -98,10 +109,21 @@ private:
     void paintRow(QPainter& painter, const QRectF& place, const TableStrip& strip,
                   const ReportRow& row) const {
         m_typeface.draw(painter, namePlace(place), Qt::AlignLeft, row.name, style());
+        const std::vector<QRectF> leads = leadPlaces(place);
+        for (std::size_t i = 0; i < leads.size(); ++i)
+            paintLead(painter, leads[i], i, row.leads[i], style());
         const std::vector<QRectF> cells = cellPlaces(place, strip);
         for (std::size_t i = 0; i < cells.size(); ++i)
             paintCell(painter, cells[i], row.cells[strip.first + i]);
         drawRule(painter, place, place.bottom(), Rule, 0.25);
+    }
+
+    void paintLead(QPainter& painter, const QRectF& place, std::size_t lead, const QString& text,
+                   const TextStyle& textStyle) const {
+        const bool isNumber = m_table.leads[lead] == RunColumn::Place;
+        m_typeface.draw(painter,
+                        place.adjusted(0, 0, isNumber ? -LeadGap * m_layout.points * Point : 0, 0),
+                        isNumber ? Qt::AlignRight : Qt::AlignLeft, text, textStyle);
     }
 
     void paintCell(QPainter& painter, const QRectF& place, const ReportCell& cell) const {
@@ -143,7 +165,12 @@ private:
     }
     /// What the page has for lines, below the head of the columns and above the legend.
     [[nodiscard]] qreal roomOnPage() const {
-        return m_pages.space().height() - m_sheet->layout().headHeight() - LegendGap - LegendHeight;
+        return m_pages.space().height() - m_sheet->layout().headHeight() - LegendGap -
+               legendHeight();
+    }
+
+    [[nodiscard]] qreal legendHeight() const {
+        return report::legendHeight(m_sheet->table(), m_sheet->typeface(), m_pages.space().width());
     }
 
     void dealGroup(std::size_t group) {
@@ -176,7 +203,7 @@ private:
         for (const Line& line : m_lines)
             height += m_sheet->height(line);
         QRectF legend = m_pages.space();
-        legend.setTop(legend.bottom() - LegendHeight);
+        legend.setTop(legend.bottom() - legendHeight());
         m_pages.put(height, [sheet = m_sheet, strip = m_strip,
                              lines = std::move(m_lines)](QPainter& painter, const QRectF& place) {
             sheet->paint(painter, place, strip, lines);

@@ -2,6 +2,7 @@
 #include "common/safe_file.h"
 #include "common/temp_folder.h"
 #include "desktop/desktop.h"
+#include "desktop/preview/report_preview.h"
 #include "desktop/race/frozen_table.h"
 #include "desktop/race/race_view.h"
 #include "desktop/race/race_window.h"
@@ -17,9 +18,11 @@
 #include <QClipboard>
 #include <QComboBox>
 #include <QHeaderView>
+#include <QListWidget>
 #include <QMenu>
 #include <QPushButton>
 #include <QSignalSpy>
+#include <QTest>
 
 namespace kavela::test {
 namespace {
@@ -193,6 +196,38 @@ TEST_F(RaceWindowTest, HoldsRunsAgainstTheIdealRunAndARunOfAnotherRace) {
     EXPECT_NEAR(gap.toDouble(), first - theirs, 0.00501);
     window->table().sortByColumn(FirstTime, Qt::DescendingOrder);
     EXPECT_EQ(cell(*window, 0, 0, Qt::DisplayRole).toString(), "Ideal run");
+}
+
+TEST_F(RaceWindowTest, LeadsFromHomeToAPdfByKeysAlone) {
+    m_workspace.addRecentFile(
+        QString::fromStdString((Examples / "races" / "harbour_night.kvx").string()));
+    m_desktop.showHome();
+    const auto press = [](const QKeySequence& keys) {
+        QApplication::processEvents();
+        QWidget* const window = QApplication::activeWindow();
+        ASSERT_TRUE(window);
+        QWidget* const focus = window->focusWidget() ? window->focusWidget() : window;
+        QTest::keyClick(focus, keys[0].key(), keys[0].keyboardModifiers());
+        QApplication::processEvents();
+    };
+    for (int tabs = 0; tabs < 8; ++tabs)
+        if (qobject_cast<QListWidget*>(QApplication::focusWidget()) == nullptr)
+            press(Qt::Key_Tab);
+    press(Qt::Key_Down);
+    press(Qt::Key_Return);
+    ASSERT_EQ(m_desktop.raceWindows().size(), 1);
+    const RaceWindow* const window = m_desktop.raceWindows().front();
+    press(Qt::Key_T);
+    press(Qt::CTRL | Qt::Key_P);
+    auto* const preview = window->findChild<desktop::ReportPreview*>();
+    ASSERT_TRUE(preview);
+    const fs::path pdf = m_folder.path() / "table.pdf";
+    preview->setChooseFile(
+        [&](QWidget*, const QString&) { return QString::fromStdString(pdf.string()); });
+    press(Qt::CTRL | Qt::Key_S);
+    ASSERT_TRUE(fs::exists(pdf));
+    EXPECT_EQ(contentOf(pdf).substr(0, 5), "%PDF-");
+    EXPECT_THAT(m_recorder.alerts, ::testing::IsEmpty());
 }
 
 TEST_F(RaceWindowTest, RemembersHiddenAndMovedColumnsFromRaceToRace) {

@@ -65,7 +65,8 @@ TEST(ReportTable, GroupsRunsAndCarriesTheColoursOfTheTable) {
                                                named("C", "Heats", {12}), named("D", "", {0})}),
                                     "a.kvx");
     TableSettings settings;
-    const report::ReportTable race = report::reportTable(set, settings);
+    const report::ReportTable race =
+        report::reportTable(set, makeSplitTable(set, settings), settings);
     ASSERT_EQ(race.groups.size(), 3U);
     EXPECT_EQ(race.groups[0].title, "Heats");
     ASSERT_EQ(race.groups[0].rows.size(), 2U);
@@ -82,7 +83,8 @@ TEST(ReportTable, GroupsRunsAndCarriesTheColoursOfTheTable) {
     EXPECT_EQ(race.groups[2].rows[0].cells[0].text, "0.00");
 
     settings.colorMode = "Training";
-    const report::ReportTable training = report::reportTable(set, settings);
+    const report::ReportTable training =
+        report::reportTable(set, makeSplitTable(set, settings), settings);
     EXPECT_TRUE(training.groups[0].rows[0].cells[0].isBest);
     EXPECT_EQ(training.groups[0].rows[0].cells[0].ground, QColor(0, 255, 0));
     EXPECT_EQ(training.groups[0].rows[1].cells[0].ground, QColor(255, 51, 51))

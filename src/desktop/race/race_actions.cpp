@@ -55,6 +55,8 @@ void RaceActions::makeFileMenu() {
     menu->addAction(tr("&Home"), QKeySequence(Qt::CTRL | Qt::Key_H), &m_window,
                     &RaceWindow::homeRequested);
     menu->addSeparator();
+    add(*menu, tr("&Report: preview, PDF, print…"), QKeySequence::Print,
+        [](RaceView& view) { view.previewReports(); });
     add(*menu, tr("Save the table as &CSV…"), QKeySequence(Qt::CTRL | Qt::Key_E),
         [](RaceView& view) { view.saveCsv(); });
     add(*menu, tr("Cop&y the selected runs"), QKeySequence::Copy,

@@ -6,6 +6,7 @@
 #include "desktop/race/best_panels.h"
 #include "desktop/race/column_layout.h"
 #include "desktop/race/frozen_table.h"
+#include "desktop/race/race_reports.h"
 #include "desktop/race/run_chooser.h"
 #include "desktop/race/run_panel.h"
 #include "desktop/race/table_text.h"
@@ -353,6 +354,16 @@ void RaceView::saveCsv() {
         m_workspace.log()("Failed to create file");
         m_workspace.showAlert({"Failed to create file", error.reason()}, this);
     }
+}
+
+void RaceView::previewReports() {
+    const PreviewFailures failures{m_workspace.log(), [this](const Alert& alert, QWidget* over) {
+                                       m_workspace.showAlert(alert, over);
+                                   }};
+    auto* preview =
+        new ReportPreview(raceReports(m_document, m_model, shownColumns(*m_table)), failures, this);
+    preview->setAttribute(Qt::WA_DeleteOnClose);
+    preview->show();
 }
 
 void RaceView::noticeChange() {

@@ -56,6 +56,8 @@ public:
     void selectRun(std::size_t run);
     void copySelection();
     void saveCsv();
+    /// Shows the reports of the race as they come out of the printer.
+    void previewReports();
     void reload();
     /// Offers every column to be shown or hidden.
     void fillColumnMenu(QMenu& menu);

@@ -19,11 +19,6 @@ QString qtText(const std::string& text) {
     return QString::fromStdString(text);
 }
 
-QString signedHundredths(double seconds) {
-    const QString text = qtText(hundredthsText(seconds));
-    return seconds > 0 ? '+' + text : text;
-}
-
 } // namespace
 
 SplitTableModel::SplitTableModel(RaceDocument& document, QObject* parent)
@@ -156,29 +151,8 @@ QString SplitTableModel::leadingText(std::size_t run, int column) const {
 }
 
 QString SplitTableModel::cellText(std::size_t run, std::size_t cell) const {
-    const TableFigures& figures = m_document.figures();
-    const QString none = "–";
-    switch (m_content) {
-    case CellContent::Time:
-        return qtText(m_document.table().rows[run].cells[cell].text);
-    case CellContent::Gap: {
-        const auto gap = figures.gap(run, cell, m_reference);
-        return gap ? signedHundredths(*gap) : none;
-    }
-    case CellContent::Rank: {
-        const auto rank = figures.rank(run, cell);
-        return rank ? QString::number(*rank) : none;
-    }
-    case CellContent::PercentBehind: {
-        const auto percent = figures.percentBehind(run, cell);
-        return percent ? qtText(hundredthsText(*percent)) + " %" : none;
-    }
-    case CellContent::Percentile: {
-        const auto percentile = figures.percentile(run, cell);
-        return percentile ? QString::number(*percentile, 'f', 0) : none;
-    }
-    }
-    return none;
+    return qtText(kavela::cellText(m_document.table(), m_document.figures(), run, cell, m_content,
+                                   m_reference));
 }
 
 QString SplitTableModel::toolTip(std::size_t run, std::size_t cell) const {
@@ -192,21 +166,19 @@ QString SplitTableModel::toolTip(std::size_t run, std::size_t cell) const {
              qtText(hundredthsText(row.cells[cell].value)))
         .arg(*rank)
         .arg(figures.timed(cell))
-        .arg(signedHundredths(figures.gap(run, cell, {}).value_or(0)),
+        .arg(qtText(signedHundredths(figures.gap(run, cell, {}).value_or(0))),
              qtText(hundredthsText(figures.percentBehind(run, cell).value_or(0))));
 }
 
 QVariant SplitTableModel::background(const TableCell& cell) const {
-    const auto tint =
-        cell.band ? bandTint(*cell.band, m_scale == ColourScale::BlueOrange) : std::nullopt;
+    const auto tint = cell.band ? bandTint(*cell.band, m_scale) : std::nullopt;
     return tint ? QVariant(*tint) : QVariant();
 }
 
 QVariant SplitTableModel::foreground(const TableCell& cell) const {
-    const bool blueOrange = m_scale == ColourScale::BlueOrange;
     if (cell.foreground)
-        return raceText(*cell.foreground, blueOrange, theme::isDark(QApplication::palette()));
-    if (cell.band && bandTint(*cell.band, blueOrange))
+        return raceText(*cell.foreground, m_scale, theme::isDark(QApplication::palette()));
+    if (cell.band && bandTint(*cell.band, m_scale))
         return QColor(Qt::black); // every tint is a light one
     return {};
 }
@@ -242,7 +214,6 @@ QVariant SplitTableModel::comparisonData(const ComparisonRow& row, int column, i
 }
 
 QString SplitTableModel::comparisonText(const ComparisonRow& row, int column) const {
-    const QString none = "–";
     if (column == NameColumn)
         return row.origin.empty() ? tr("Ideal run")
                                   : tr("%1, %2").arg(qtText(row.name), qtText(row.origin));
@@ -250,18 +221,9 @@ QString SplitTableModel::comparisonText(const ComparisonRow& row, int column) co
         return column == PhaseColumn      ? qtText(row.phase)
                : column == CategoryColumn ? qtText(row.category)
                                           : QString();
-    const auto cell = static_cast<std::size_t>(column - LeadingColumns);
-    const double value = row.values[cell];
-    if (m_content == CellContent::Gap) {
-        const auto gap = m_document.figures().gapOf(value, cell, m_reference);
-        return gap ? signedHundredths(*gap) : none;
-    }
-    if (m_content == CellContent::PercentBehind) {
-        const auto percent = m_document.figures().percentBehindOf(value, cell);
-        return percent ? qtText(hundredthsText(*percent)) + " %" : none;
-    }
-    // Places and percentiles are for those who raced.
-    return value == 0 || m_content != CellContent::Time ? none : qtText(hundredthsText(value));
+    return qtText(kavela::comparisonText(row, m_document.figures(),
+                                         static_cast<std::size_t>(column - LeadingColumns),
+                                         m_content, m_reference));
 }
 
 QVariant SplitTableModel::runData(std::size_t run, int column, int role) const {

@@ -4,19 +4,11 @@
 
 #include <vector>
 
-#include "analysis/comparison_row.h"
-#include "analysis/table_figures.h"
+#include "analysis/cell_text.h"
 
 namespace kavela::desktop {
 
 class RaceDocument;
-
-/// What the cells of the split table say. The colours always follow the times.
-enum class CellContent { Time, Gap, Rank, PercentBehind, Percentile };
-
-/// Whether "Training" cells run from green to red, or from blue to orange for those who cannot tell
-/// these apart.
-enum class ColourScale { GreenRed, BlueOrange };
 
 /// The split table of a race as Qt's views want it: the comparison rows, always on top, then the
 /// runs. Runs are sorted here, so that a row of the model is a row of the screen.

@@ -3,6 +3,9 @@
 #include "app/start_up.h"
 #include "desktop/shell/alert_boxes.h"
 
+#include <QMessageBox>
+#include <QPushButton>
+
 namespace kavela::desktop {
 
 namespace {
@@ -62,6 +65,20 @@ void Workspace::showAlert(const Alert& alert, QWidget* over) const {
         m_alerts->show(alert);
     else
         AlertBoxes(over).show(alert);
+}
+
+bool Workspace::ask(const Alert& question, const QString& yes, QWidget* over) const {
+    if (m_answer)
+        return m_answer(question);
+    QMessageBox box(QMessageBox::Question, QString::fromStdString(question.title),
+                    QString::fromStdString(question.title.empty() ? question.text : question.title),
+                    QMessageBox::Cancel, over);
+    if (!question.title.empty())
+        box.setInformativeText(QString::fromStdString(question.text));
+    box.setTextFormat(Qt::PlainText);
+    const QPushButton* const agree = box.addButton(yes, QMessageBox::AcceptRole);
+    box.exec();
+    return box.clickedButton() == agree;
 }
 
 } // namespace kavela::desktop

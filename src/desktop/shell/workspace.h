@@ -9,6 +9,7 @@
 #include <QStringList>
 
 #include <filesystem>
+#include <functional>
 
 class QWidget;
 
@@ -44,6 +45,13 @@ public:
     void setAlerts(Alerts* alerts) { m_alerts = alerts; }
     void showAlert(const Alert& alert, QWidget* over) const;
 
+    /// Answers questions in place of message boxes, as in tests: true for the yes.
+    using Answer = std::function<bool(const Alert& question)>;
+    void setAnswer(Answer answer) { m_answer = std::move(answer); }
+    /// Asks a question; `yes` is the text of the button that agrees. Anything else, such as Escape,
+    /// is a no.
+    [[nodiscard]] bool ask(const Alert& question, const QString& yes, QWidget* over) const;
+
 signals:
     void preferenceChanged(const QString& key);
     void recentFilesChanged();
@@ -55,6 +63,7 @@ private:
     DiagnosticLog m_log;
     Clock m_clock;
     Alerts* m_alerts = nullptr;
+    Answer m_answer;
 };
 
 /// Alerts of the plain libraries, shown through the workspace over a window.

@@ -1,0 +1,69 @@
+#include "analysis/cell_text.h"
+
+#include "common/number_text.h"
+
+#include <cmath>
+
+namespace kavela {
+
+namespace {
+
+constexpr const char* None = "–";
+
+std::string gapText(std::optional<double> gap) {
+    return gap ? signedHundredths(*gap) : None;
+}
+
+std::string percentText(std::optional<double> percent) {
+    return percent ? hundredthsText(*percent) + " %" : None;
+}
+
+} // namespace
+
+std::string signedHundredths(double seconds) {
+    const double rounded = roundedToHundredths(seconds);
+    if (rounded == 0)
+        return "0.00"; // also for what is a little less
+    return rounded > 0 ? '+' + hundredthsText(seconds) : hundredthsText(seconds);
+}
+
+std::string cellText(const SplitTable& table, const TableFigures& figures, std::size_t row,
+                     std::size_t column, CellContent content, const TableReference& reference) {
+    switch (content) {
+    case CellContent::Time:
+        return table.rows[row].cells[column].text;
+    case CellContent::Gap:
+        return gapText(figures.gap(row, column, reference));
+    case CellContent::Rank: {
+        const std::optional<int> rank = figures.rank(row, column);
+        return rank ? std::to_string(*rank) : None;
+    }
+    case CellContent::PercentBehind:
+        return percentText(figures.percentBehind(row, column));
+    case CellContent::Percentile: {
+        const std::optional<double> percentile = figures.percentile(row, column);
+        return percentile ? std::to_string(std::lround(*percentile)) : None;
+    }
+    }
+    return None;
+}
+
+std::string comparisonText(const ComparisonRow& row, const TableFigures& figures,
+                           std::size_t column, CellContent content,
+                           const TableReference& reference) {
+    const double value = row.values[column];
+    switch (content) {
+    case CellContent::Time:
+        return value == 0 ? None : hundredthsText(value);
+    case CellContent::Gap:
+        return gapText(figures.gapOf(value, column, reference));
+    case CellContent::PercentBehind:
+        return percentText(figures.percentBehindOf(value, column));
+    case CellContent::Rank:
+    case CellContent::Percentile:
+        break;
+    }
+    return None;
+}
+
+} // namespace kavela
