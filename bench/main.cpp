@@ -15,6 +15,7 @@ int main(int count, char** words) {
     addSeason();
     addSplitTable();
     addShowCommand();
+    addVideo();
     ValueReporter reporter;
     benchmark::RunSpecifiedBenchmarks(&reporter);
     return printRatios(reporter.values()) > 0 ? 1 : 0;

@@ -63,6 +63,13 @@ constexpr std::array Lines{
     Line{"Coloured table of 500 runs", Milliseconds, "table/sections", nullptr, Target::AtMost, 5},
     Line{"  … of accumulated times", Milliseconds, "table/accumulated", nullptr, Target::AtMost, 5},
     Line{"kavela show, 60 runs, start to end", Milliseconds, "show", nullptr, Target::AtMost, 30},
+    Line{"Exact seek in a film, 1080p at 59.94", Milliseconds, "video/seek/kavela"},
+    Line{"  … faster than OpenCV", Times, "video/seek/opencv", "video/seek/kavela"},
+    Line{"Step forward", Milliseconds, "video/forward/kavela"},
+    Line{"  … faster than OpenCV", Times, "video/forward/opencv", "video/forward/kavela"},
+    Line{"Ten steps back", Milliseconds, "video/back/kavela"},
+    Line{"  … faster than OpenCV", Times, "video/back/opencv", "video/back/kavela"},
+    Line{"Frame to picture, 1080p", Milliseconds, "video/picture"},
 };
 
 /// The value of a line from the medians, or from the best ("#best") of the repetitions.

@@ -10,5 +10,6 @@ void addMemory();
 void addSeason();
 void addSplitTable();
 void addShowCommand();
+void addVideo();
 
 } // namespace kavela::bench

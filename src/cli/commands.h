@@ -9,7 +9,10 @@ namespace kavela::cli {
 void addInfo(CLI::App& app, int& status);
 void addUpgrade(CLI::App& app, int& status);
 void addShow(CLI::App& app, int& status);
+void addPerfect(CLI::App& app, int& status);
 void addExport(CLI::App& app, int& status);
+void addImportResults(CLI::App& app, int& status);
+void addCollect(CLI::App& app, int& status);
 void addDemo(CLI::App& app, int& status);
 
 } // namespace kavela::cli

@@ -25,7 +25,10 @@ int run(int argc, char** argv) {
     cli::addInfo(app, status);
     cli::addUpgrade(app, status);
     cli::addShow(app, status);
+    cli::addPerfect(app, status);
     cli::addExport(app, status);
+    cli::addImportResults(app, status);
+    cli::addCollect(app, status);
     cli::addDemo(app, status);
     try {
         app.parse(argc, argv);

@@ -1,0 +1,83 @@
+#include "cli/commands.h"
+
+#include "app/preferences.h"
+#include "cli/console.h"
+#include "cli/split_file_edit.h"
+#include "common/error.h"
+#include "splittaking/messages.h"
+#include "splittaking/training_collection.h"
+
+#include <CLI/CLI.hpp>
+
+#include <memory>
+
+namespace kavela::cli {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+struct CollectCall {
+    std::string folder;
+    std::string athlete;
+    bool replace = false;
+};
+
+/// Writes the training file; false, after a message, when it cannot be.
+bool isWritten(TrainingCollection& collection, const fs::path& target) {
+    for (const std::string& film : collection.unusable)
+        logLine("The film " + pathText(film) + " is left out: its name is no UTF-8 text.");
+    return isSaved(collection.document, target.string());
+}
+
+int collect(const CollectCall& call) {
+    const TrainingPlan plan{call.athlete, Preferences().integer("predeterminatedsplits"),
+                            systemNow()};
+    TrainingCollection collection;
+    try {
+        collection = collectTraining(call.folder, plan);
+    } catch (const FileError& error) {
+        logLine("The folder " + pathText(call.folder) + " cannot be read: " + error.reason());
+        return NotDone;
+    }
+    const auto runs = static_cast<std::int64_t>(collection.document.athletes.size());
+    if (runs == 0) {
+        logLine("No video in " + pathText(call.folder) + " carries the name " +
+                pathText(call.athlete) + ". Nothing was written.");
+        return NotDone;
+    }
+    const fs::path target = fs::path(call.folder) / TrainingFileName;
+    if (!call.replace && fs::exists(fs::symlink_status(target))) {
+        logLine("The file " + pathText(target) +
+                " exists already. Say --replace to write a new one in its place.");
+        return NotDone;
+    }
+    if (!isWritten(collection, target))
+        return NotDone;
+    const std::string report = std::string(messages::Saved) + ": " + pathText(target) + " with " +
+                               counted(runs, "video", "videos") + '\n';
+    return print(report) ? Done : NotDone;
+}
+
+/// What speaks against a name, in the words of a wrong call.
+std::string complaintAbout(const std::string& athlete) {
+    return isAthleteName(athlete) ? ""
+                                  : "The athlete's name must be UTF-8 text with letters in it.";
+}
+
+} // namespace
+
+void addCollect(CLI::App& app, int& status) {
+    const auto call = std::make_shared<CollectCall>();
+    CLI::App* command = app.add_subcommand(
+        "collect", "Makes a training file of the videos that carry an athlete's name");
+    command->add_option("FOLDER", call->folder, "Folder of the videos")->required();
+    command->add_option("--athlete", call->athlete, "The athlete's name; a crew as \"A / B\"")
+        ->required()
+        ->check(complaintAbout, "");
+    command->add_flag("--replace", call->replace, "Replace a training file that is there already");
+    command->footer("The file is written to the folder as treining.kvx.");
+    command->callback([call, &status] { status = collect(*call); });
+}
+
+} // namespace kavela::cli

@@ -1,0 +1,68 @@
+#pragma once
+
+#include "common/alerts.h"
+#include "splitdata/records.h"
+
+#include <cstdint>
+#include <optional>
+#include <vector>
+
+/// From marks on the video to the split times of a run. The time of a split goes from the mark
+/// before it to its own, both read in seconds from the first player's stamp; the first split goes
+/// from the start mark, or without one from the start of the video. The text of a time on its
+/// section is hundredthsText().
+namespace kavela {
+
+/// The players' stamps at one mark, one per camera of the run. Empty: the split was not seen. Such
+/// a split has the time 0, and the next one is measured from the last mark before it.
+using Stamps = std::vector<CMTime>;
+
+/// The marks of one run. Splits are counted from 1: split k has entry k - 1.
+struct RunMarks {
+    std::optional<Stamps> start;
+    std::vector<Stamps> marks;
+
+    friend bool operator==(const RunMarks&, const RunMarks&) = default;
+};
+
+/// Marks the next split. On a course whose splits are all taken nothing is recorded, and the alert
+/// says so; likewise without a player's stamp.
+[[nodiscard]] std::optional<Alert> markSplit(RunMarks& run, Stamps stamps,
+                                             std::int64_t totalsplits);
+
+/// What the marking key does: the first press marks the start, each later one a split.
+[[nodiscard]] std::optional<Alert> markNext(RunMarks& run, Stamps stamps, std::int64_t totalsplits);
+
+/// Sets the start mark, before or after the splits. The first time changes with it.
+void setStart(RunMarks& run, Stamps stamps);
+
+/// Moves the mark of a split: its time and the next one's change. Throws std::out_of_range when the
+/// split is not marked.
+void moveMark(RunMarks& run, std::size_t split, Stamps stamps);
+
+/// Takes out a mark that should not be there, a second press by mistake: the marks after it move
+/// up by one split, the first of them measured from the mark before. Throws std::out_of_range when
+/// the split is not marked.
+void removeMark(RunMarks& run, std::size_t split);
+
+/// Takes back the last mark, or the start when no split is marked; nothing when there is none.
+void removeLastMark(RunMarks& run);
+
+/// Seconds of each marked split.
+[[nodiscard]] std::vector<double> splitTimes(const RunMarks& run);
+
+/// Writes the marks into a run: `times` and `cmtimes`, filled up to the splits of the course with
+/// splits not taken, `splitnum`, `totaltime` and `isfullrun`.
+void applyMarks(const RunMarks& run, athletedata031& record, std::int64_t totalsplits);
+
+/// The marks behind a stored timing. The start is as long before the first stamp as the times up
+/// to it say; a split with a time but no stamp gets the stamp its time leads to. Nothing is marked
+/// when the record holds no stamp at all.
+[[nodiscard]] RunMarks marksOf(const sectiondata030& timing);
+
+/// The stamp a number of seconds later (earlier when below 0), exact: in the stamp's own time
+/// scale, or a finer one where the moment asks for it. A moment that no usual time scale meets to
+/// the nanosecond is rounded to one and flagged so.
+[[nodiscard]] CMTime later(const CMTime& stamp, double seconds);
+
+} // namespace kavela

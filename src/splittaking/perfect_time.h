@@ -1,0 +1,34 @@
+#pragma once
+
+#include "common/log.h"
+#include "splitdata/document.h"
+
+#include <vector>
+
+namespace kavela {
+
+/// The best values of all runs of a document and their sum.
+struct PerfectTime {
+    /// One slot per split position. Slots 0 to 10 serve the first eleven positions, and every later
+    /// position shares slot 10; the slot after a run's last position, at most slot 11, takes the
+    /// sprint. At least twelve, and one more than the longest run has times.
+    std::vector<double> best;
+    double total = 0; ///< seconds; infinite when the times of a damaged file have no sum
+};
+
+/// The best values, from zeros: 0 is no time and never a best, and after each run a slot below 0
+/// is set to 0.
+[[nodiscard]] PerfectTime perfectTime(const std::vector<athletedata031>& runs);
+
+/// A run's expected-time factor: its times, and always its sprint, divided by the best values; of
+/// the ratios in ascending order the smallest and the largest are dropped, and once more where two
+/// or more are left; the factor is the mean of the rest, 0 when there is none. A ratio that is not
+/// finite sorts last, infinity before not-a-number, and can leave a factor that is not finite.
+[[nodiscard]] double expectedFactor(const sectiondata030& timing, const std::vector<double>& best);
+
+/// Computes the perfect time, logs it with its slots as "current perfect time … from …", and
+/// stores `perfectRun` and every run's `xPer` and `xTime`. A value that is not finite cannot be
+/// written: it is stored as 0, with a line in the log.
+PerfectTime recomputeExpected(splittakerdata031& document, const DiagnosticLog& log);
+
+} // namespace kavela

@@ -1,0 +1,132 @@
+#include "video/camera_group.h"
+
+#include <algorithm>
+#include <optional>
+#include <stdexcept>
+
+namespace kavela {
+
+double CameraOffset::toOwn(double seconds) const {
+    return seconds - common.seconds() + own.seconds();
+}
+
+double CameraOffset::toCommon(double seconds) const {
+    return seconds - own.seconds() + common.seconds();
+}
+
+CameraGroup::CameraGroup(std::vector<std::shared_ptr<VideoPlayer>> players)
+    : m_players(std::move(players)), m_offsets(m_players.size()) {
+    if (m_players.empty())
+        throw std::invalid_argument("a group of no cameras");
+}
+
+void CameraGroup::updateRange(Moment now) {
+    std::optional<std::pair<double, double>> range;
+    for (std::size_t i = 0; i < m_players.size(); ++i) {
+        const auto index = m_players[i]->index();
+        if (!index || index->frameCount() == 0)
+            continue;
+        const double start = m_offsets[i].toCommon(index->secondsOf(0));
+        const double end = m_offsets[i].toCommon(index->secondsOf(index->frameCount() - 1));
+        range = range ? std::pair(std::min(range->first, start), std::max(range->second, end))
+                      : std::pair(start, end);
+    }
+    if (range && *range != std::pair(m_clock.start(), m_clock.end()))
+        m_clock.setRange(range->first, range->second, now);
+}
+
+void CameraGroup::showAll(Moment now) {
+    const double position = m_clock.position(now);
+    for (std::size_t i = 0; i < m_players.size(); ++i)
+        m_players[i]->requestPosition(m_offsets[i].toOwn(position));
+}
+
+void CameraGroup::tick(Moment now) {
+    updateRange(now);
+    if (!m_clock.isPlaying())
+        return;
+    showAll(now);
+    if (m_clock.isAtLimit(now))
+        m_clock.pause(now);
+}
+
+void CameraGroup::play(Moment now) {
+    updateRange(now);
+    m_clock.play(now);
+    showAll(now);
+}
+
+void CameraGroup::pause(Moment now) {
+    m_clock.pause(now);
+    const auto index = m_players.front()->index();
+    const auto shown = m_players.front()->shown();
+    if (index && shown)
+        m_clock.seek(shown->stamp.seconds(), now);
+    showAll(now);
+}
+
+void CameraGroup::setRate(double rate, Moment now) {
+    m_clock.setRate(rate, now);
+}
+
+void CameraGroup::seek(double seconds, Moment now) {
+    updateRange(now);
+    m_clock.seek(seconds, now);
+    showAll(now);
+}
+
+void CameraGroup::seek(const CMTime& stamp, Moment now) {
+    seek(stamp.seconds(), now);
+    m_players.front()->requestStamp(stamp);
+}
+
+void CameraGroup::step(FrameNumber frames, Moment now) {
+    m_clock.pause(now);
+    const auto index = m_players.front()->index();
+    const auto target = m_players.front()->target();
+    if (!index || !target)
+        return;
+    const FrameNumber number =
+        std::clamp<FrameNumber>(*target + frames, 0, index->frameCount() - 1);
+    seek(index->secondsOf(number), now);
+    m_players.front()->showFrame(number);
+}
+
+void CameraGroup::stepAlone(std::size_t camera, FrameNumber frames, Moment now) {
+    if (m_clock.isPlaying())
+        pause(now);
+    VideoPlayer& player = *m_players.at(camera);
+    if (const auto target = player.target())
+        player.showFrame(*target + frames);
+}
+
+const CameraOffset& CameraGroup::offset(std::size_t camera) const {
+    return m_offsets.at(camera);
+}
+
+void CameraGroup::setOffset(std::size_t camera, const CameraOffset& offset, Moment now) {
+    if (camera == 0)
+        throw std::out_of_range("the first camera has no offset");
+    if (!isMoment(offset.own) || !isMoment(offset.common))
+        throw std::invalid_argument("an offset from a stamp that is no moment");
+    m_offsets.at(camera) = offset;
+    updateRange(now);
+    showAll(now);
+}
+
+bool CameraGroup::alignShown(Moment now) {
+    std::vector<CMTime> stamps;
+    for (const auto& player : m_players) {
+        const auto shown = player->shown();
+        if (!shown)
+            return false;
+        stamps.push_back(shown->stamp);
+    }
+    for (std::size_t i = 1; i < stamps.size(); ++i)
+        m_offsets[i] = {.own = stamps[i], .common = stamps.front()};
+    updateRange(now);
+    m_clock.seek(stamps.front().seconds(), now);
+    return true;
+}
+
+} // namespace kavela

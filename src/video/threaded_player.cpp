@@ -1,0 +1,237 @@
+#include "video/threaded_player.h"
+
+#include "video/video_error.h"
+
+#include <algorithm>
+#include <chrono>
+
+namespace kavela {
+
+namespace {
+
+/// A request so near to the one under way does not replace it: its frame comes out on the way.
+constexpr FrameNumber NearFrames = 30;
+
+/// Somebody who has not moved for so long may start in either direction next.
+constexpr auto QuietBeforeRest = std::chrono::milliseconds(150);
+
+} // namespace
+
+ThreadedPlayer::ThreadedPlayer(std::filesystem::path path, std::shared_ptr<FrameCache> cache,
+                               PlayerEvents events)
+    : m_path(std::move(path)), m_cache(std::move(cache)), m_events(std::move(events)) {
+    m_indexer = std::jthread([this](const std::stop_token& stop) { readIndex(stop); });
+    m_worker = std::jthread([this](const std::stop_token& stop) { work(stop); });
+}
+
+ThreadedPlayer::~ThreadedPlayer() {
+    m_indexer.request_stop();
+    m_worker.request_stop();
+}
+
+void ThreadedPlayer::showFrame(FrameNumber number) {
+    request(number);
+}
+void ThreadedPlayer::requestStamp(const CMTime& stamp) {
+    request(stamp);
+}
+void ThreadedPlayer::requestPosition(double seconds) {
+    request(seconds);
+}
+
+void ThreadedPlayer::request(const Request& request) {
+    {
+        const std::lock_guard lock(m_guard);
+        m_request = request;
+    }
+    m_changed.notify_all();
+}
+
+std::shared_ptr<const VideoIndex> ThreadedPlayer::index() const {
+    const std::lock_guard lock(m_guard);
+    return m_index;
+}
+
+std::optional<FrameNumber> ThreadedPlayer::target() const {
+    const std::lock_guard lock(m_guard);
+    const auto next = m_request ? resolved(*m_request) : std::nullopt;
+    return next ? next : m_target;
+}
+
+std::optional<VideoFrame> ThreadedPlayer::shown() const {
+    const std::lock_guard lock(m_guard);
+    return m_shown;
+}
+
+void ThreadedPlayer::readIndex(const std::stop_token& stop) {
+    guarded([&] {
+        auto index = readVideoIndex(m_path, stop, [this](const IndexProgress& progress) {
+            takeIndex(progress.soFar, progress.fraction);
+        });
+        if (index)
+            takeIndex(std::move(index), 1);
+    });
+}
+
+void ThreadedPlayer::takeIndex(std::shared_ptr<const VideoIndex> index, double fraction) {
+    std::shared_ptr<const VideoIndex> known;
+    {
+        const std::lock_guard lock(m_guard);
+        if (index && index->frameCount() > 0)
+            m_index = std::move(index);
+        known = m_index;
+    }
+    m_changed.notify_all();
+    const std::lock_guard lock(m_eventGuard);
+    if (m_events.onIndex)
+        m_events.onIndex(known, fraction);
+}
+
+void ThreadedPlayer::guarded(const std::function<void()>& work) {
+    try {
+        work();
+    } catch (const std::exception& fault) {
+        fail(fault.what());
+    }
+}
+
+void ThreadedPlayer::fail(const std::string& message) {
+    const std::lock_guard lock(m_eventGuard);
+    if (m_events.onError)
+        m_events.onError(message);
+}
+
+/// The frame of a request; none while the index does not reach so far.
+std::optional<FrameNumber> ThreadedPlayer::resolved(const Request& request) const {
+    if (!m_index || m_index->frameCount() == 0)
+        return std::nullopt;
+    const FrameNumber last = m_index->frameCount() - 1;
+    std::optional<FrameNumber> number;
+    if (const auto* const wanted = std::get_if<FrameNumber>(&request))
+        number = std::clamp<FrameNumber>(*wanted, 0, last);
+    else if (const auto* const stamp = std::get_if<CMTime>(&request))
+        number = m_index->frameAt(*stamp);
+    else
+        number = m_index->frameAt(std::get<double>(request));
+    if (!m_index->isComplete() && number == last)
+        return std::nullopt;
+    return number;
+}
+
+bool ThreadedPlayer::isReady(const std::optional<Request>& request) const {
+    return request && resolved(*request).has_value();
+}
+
+/// Whether the way to a frame should be given up for what was asked meanwhile. Somebody who drags
+/// on and on still sees something between two that are given up.
+bool ThreadedPlayer::isOvertaken(FrameNumber number) const {
+    const std::lock_guard lock(m_guard);
+    const auto next = m_request ? resolved(*m_request) : std::nullopt;
+    return next && m_mayBeOvertaken && std::abs(*next - number) > NearFrames;
+}
+
+void ThreadedPlayer::work(const std::stop_token& stop) {
+    guarded([&] { workUntilStopped(stop); });
+}
+
+void ThreadedPlayer::workUntilStopped(const std::stop_token& stop) {
+    std::optional<FrameSource> source;
+    Idleness idleness = Idleness::Resting;
+    while (const auto task = nextTask(idleness, stop)) {
+        if (!source)
+            source.emplace(task->index, m_cache);
+        else if (&source->index() != task->index.get())
+            source->setIndex(task->index);
+        if (task->isRequest) {
+            show(*source, task->number, stop);
+            idleness = Idleness::Busy;
+            continue;
+        }
+        const auto isDisturbed = [&] {
+            const std::lock_guard lock(m_guard);
+            return stop.stop_requested() || isReady(m_request);
+        };
+        if (source->prefetch(task->number, task->motion, isDisturbed))
+            idleness = task->motion == Motion::None ? Idleness::Resting : Idleness::Pausing;
+    }
+}
+
+/// The newest request, otherwise something to decode ahead. None once the player is to end.
+std::optional<ThreadedPlayer::Task> ThreadedPlayer::nextTask(Idleness& idleness,
+                                                             const std::stop_token& stop) {
+    const auto hasRequest = [this] { return isReady(m_request); };
+    std::unique_lock lock(m_guard);
+    if (idleness == Idleness::Resting)
+        m_changed.wait(lock, stop, hasRequest);
+    const bool isQuiet = idleness == Idleness::Pausing &&
+                         !m_changed.wait_for(lock, stop, QuietBeforeRest, hasRequest);
+    if (stop.stop_requested())
+        return std::nullopt;
+    if (!hasRequest()) {
+        idleness = Idleness::Busy;
+        m_motion = isQuiet ? Motion::None : m_motion;
+        return Task{m_index, m_target.value_or(0), m_motion, false};
+    }
+    const FrameNumber number = *resolved(*m_request);
+    const FrameNumber before = m_target.value_or(number);
+    m_request.reset();
+    if (number != before)
+        m_motion = number < before ? Motion::Backward : Motion::Forward;
+    m_target = number;
+    return Task{m_index, number, m_motion, true};
+}
+
+void ThreadedPlayer::show(FrameSource& source, FrameNumber number, const std::stop_token& stop) {
+    const auto interrupt = [&] { return stop.stop_requested() || isOvertaken(number); };
+    const auto preview = [this](const VideoFrame& frame) { deliver(frame, true); };
+    const FrameSource::Result result = source.frame(number, interrupt, preview);
+    if (stop.stop_requested())
+        return;
+    if (result.outcome == FrameSource::Outcome::Found) {
+        deliver(result.frame, false);
+    } else if (result.outcome == FrameSource::Outcome::Damaged) {
+        showNearest(source, number, stop);
+    } else {
+        const std::lock_guard lock(m_guard);
+        m_mayBeOvertaken = false;
+    }
+}
+
+/// Instead of a frame that cannot be decoded comes the next one that can, first in the direction
+/// of the motion, so that stepping leads across a damaged stretch.
+void ThreadedPlayer::showNearest(FrameSource& source, FrameNumber number,
+                                 const std::stop_token& stop) {
+    const auto interrupt = [&] { return stop.stop_requested() || isOvertaken(number); };
+    const FrameNumber direction = m_motion == Motion::Backward ? -1 : 1;
+    for (const FrameNumber step : {direction, -direction}) {
+        FrameNumber near = number + step;
+        for (; 0 <= near && near < source.index().frameCount(); near += step) {
+            const FrameSource::Result result = source.frame(near, interrupt);
+            if (result.outcome == FrameSource::Outcome::Interrupted)
+                return;
+            if (result.outcome != FrameSource::Outcome::Found)
+                continue;
+            {
+                const std::lock_guard lock(m_guard);
+                m_target = near;
+            }
+            deliver(result.frame, false);
+            return;
+        }
+    }
+    fail(VideoError(m_path, "no frame of the video can be decoded").what());
+}
+
+void ThreadedPlayer::deliver(const VideoFrame& frame, bool isPreview) {
+    {
+        const std::lock_guard lock(m_guard);
+        m_mayBeOvertaken = true;
+        if (!isPreview)
+            m_shown = frame;
+    }
+    const std::lock_guard lock(m_eventGuard);
+    if (m_events.onFrame)
+        m_events.onFrame({frame, isPreview});
+}
+
+} // namespace kavela

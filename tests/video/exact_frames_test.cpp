@@ -1,0 +1,93 @@
+#include "video/frame_source.h"
+
+#include "clips.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <random>
+
+extern "C" {
+#include <libavutil/frame.h>
+}
+
+/// Whichever way somebody comes to a frame, it is that frame, with the stamp that the file gives.
+namespace kavela {
+namespace {
+
+struct Case {
+    const char* clip;
+    int frames;
+    int firstNumber = 0; ///< in the blocks of frame 0
+    bool isStamped = true;
+};
+
+class ExactFrames : public ::testing::TestWithParam<Case> {
+protected:
+    void SetUp() override {
+        m_index = readVideoIndex(clip(GetParam().clip));
+        ASSERT_EQ(m_index->frameCount(), GetParam().frames);
+        m_source.emplace(m_index, std::make_shared<FrameCache>(MemoryBytes));
+    }
+
+    void expectExact(FrameNumber number) {
+        const FrameSource::Result result = m_source->frame(number);
+        ASSERT_EQ(result.outcome, FrameSource::Outcome::Found) << "frame " << number;
+        EXPECT_EQ(numberIn(*result.frame.samples), number + GetParam().firstNumber);
+        EXPECT_EQ(result.frame.number, number);
+        EXPECT_EQ(result.frame.stamp, m_index->stampOf(number));
+    }
+
+    /// Less than a group of the long ones.
+    static constexpr std::size_t MemoryBytes = 4 << 20;
+    std::shared_ptr<const VideoIndex> m_index;
+    std::optional<FrameSource> m_source;
+};
+
+TEST_P(ExactFrames, StampsAreThoseOfTheFile) {
+    EXPECT_EQ(m_index->facts().hasEstimatedStamps, !GetParam().isStamped);
+    if (!GetParam().isStamped)
+        return;
+    const auto probed = probedStamps(GetParam().clip);
+    ASSERT_EQ(std::ssize(probed), m_index->frameCount());
+    for (FrameNumber i = 0; i < m_index->frameCount(); ++i)
+        ASSERT_EQ(m_index->frame(i).stamp, probed[static_cast<std::size_t>(i)]) << "frame " << i;
+}
+
+TEST_P(ExactFrames, ForwardBackwardAndAnywhere) {
+    const FrameNumber count = m_index->frameCount();
+    for (FrameNumber i = 0; i < count; ++i)
+        expectExact(i);
+    for (FrameNumber i = count - 1; i >= 0; --i)
+        expectExact(i);
+    std::mt19937 dice(7);
+    for (int i = 0; i < 60; ++i)
+        expectExact(static_cast<FrameNumber>(dice()) % count);
+}
+
+TEST_P(ExactFrames, StampsOfFramesLeadBackToThem) {
+    for (FrameNumber i = 0; i < m_index->frameCount(); ++i) {
+        ASSERT_EQ(m_index->frameAt(m_index->stampOf(i)), i);
+        ASSERT_EQ(m_index->frameAt(m_index->secondsOf(i)), i);
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Clips, ExactFrames,
+    ::testing::Values(Case{"h264_30.mp4", 120}, Case{"h264_50.mp4", 200}, Case{"h264_60.mov", 290},
+                      Case{"h264_120.mp4", 400}, Case{"h264_240.mp4", 800},
+                      Case{"variable.mp4", 200}, Case{"variable.mkv", 200},
+                      Case{"short_groups.mp4", 150}, Case{"open_h264.mkv", 160},
+                      Case{"intra.mov", 100}, Case{"open_hevc.mp4", 240}, Case{"rotated.mp4", 120},
+                      Case{"offset.mkv", 120}, Case{"stream.ts", 200},
+                      Case{"edit_list.mp4", 135, 65}, Case{"numbers.avi", 100},
+                      Case{"numbers_b.avi", 100, 0, false}, Case{"h264.avi", 150, 0, false},
+                      Case{"raw.h264", 150, 0, false}, Case{"interlaced.ts", 100}),
+    [](const auto& tested) {
+        std::string name = tested.param.clip;
+        std::ranges::replace(name, '.', '_');
+        return name;
+    });
+
+} // namespace
+} // namespace kavela
