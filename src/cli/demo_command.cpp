@@ -1,6 +1,7 @@
 #include "cli/commands.h"
 
 #include "cli/console.h"
+#include "cli/demo_films.h"
 #include "common/error.h"
 #include "common/safe_file.h"
 #include "sample/season.h"
@@ -49,9 +50,10 @@ int writeSeason(const fs::path& folder) {
                : NotDone;
 }
 
-int demo(const fs::path& folder) {
+int demo(const fs::path& folder, bool withFilms) {
     try {
-        return writeSeason(folder);
+        const int status = writeSeason(folder);
+        return status == Done && withFilms ? writeFilms(folder) : status;
     } catch (const FileError& error) {
         logLine("Failed to create file");
         logLine("The file " + pathText(error.path()) + " could not be written: " + error.reason());
@@ -66,7 +68,10 @@ void addDemo(CLI::App& app, int& status) {
     CLI::App* command = app.add_subcommand("demo", "Writes a sample season to try Kavela with");
     command->add_option("FOLDER", *folder, "Folder to write to; made where it is missing")
         ->required();
-    command->callback([folder, &status] { status = demo(*folder); });
+    const auto withFilms = std::make_shared<bool>(false);
+    command->add_flag("--videos", *withFilms, "Makes short films of runs as well");
+    command->footer(filmsHelp());
+    command->callback([=, &status] { status = demo(*folder, *withFilms); });
 }
 
 } // namespace kavela::cli

@@ -6,14 +6,18 @@
 #include "desktop/race/race_window.h"
 #include "desktop/shell/home_window.h"
 #include "desktop/shell/settings_window.h"
+#include "desktop/taking/taking_window.h"
 #include "sample/season.h"
 #include "splitdata/loader.h"
+#include "splittaking/video_names.h"
 
 #include <QApplication>
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QStandardPaths>
+
+#include <algorithm>
 
 /// The icons stand in a static library, which has to be asked for them. Outside any namespace, as
 /// the macro wants it.
@@ -44,6 +48,18 @@ QStringList splitFilesIn(const QString& folder) {
     return files.mid(0, MostRacesOfAFolder);
 }
 
+QString autosaveFolder() {
+    return QStandardPaths::writableLocation(QStandardPaths::AppLocalDataLocation) + "/autosave";
+}
+
+/// Whether a folder is one of films to be timed: it has films and no split file yet.
+bool isFolderOfFilms(const QString& folder) {
+    const QStringList names = QDir(folder).entryList(QDir::Files);
+    return splitFilesIn(folder).isEmpty() && std::ranges::any_of(names, [](const QString& name) {
+               return isVideoFile(name.toStdString());
+           });
+}
+
 /// Writes what of the sample season is not there yet.
 void writeSampleSeason(const fs::path& folder) {
     for (const SampleFile& file : sampleSeason()) {
@@ -60,7 +76,9 @@ void writeSampleSeason(const fs::path& folder) {
 
 } // namespace
 
-Desktop::Desktop(Workspace& workspace) : m_workspace(workspace) {
+Desktop::Desktop(Workspace& workspace, std::optional<Autosave> autosave)
+    : m_workspace(workspace),
+      m_autosave(autosave ? std::move(*autosave) : Autosave(autosaveFolder())) {
     loadIcons();
     QApplication::setWindowIcon(icon("kavela"));
     connect(&m_workspace, &Workspace::openRequested, this, &Desktop::open);
@@ -68,6 +86,8 @@ Desktop::Desktop(Workspace& workspace) : m_workspace(workspace) {
 
 Desktop::~Desktop() {
     delete m_home;
+    for (const auto& taking : m_takings)
+        delete taking;
     for (const auto& race : m_races) {
         if (race)
             race->disconnect(this);
@@ -77,9 +97,11 @@ Desktop::~Desktop() {
 
 void Desktop::showHome() {
     if (!m_home) {
-        const Tools tools{{tr("Race analyzer"),
-                           tr("Every split of a race side by side, coloured by rank."),
-                           icon("race"), [this] { chooseRace(); }}};
+        const Tools tools{
+            {tr("Race analyzer"), tr("Every split of a race side by side, coloured by rank."),
+             icon("race"), [this] { chooseRace(); }},
+            {tr("Split taking"), tr("Time every run from its video, exact to the frame."),
+             icon("taking"), [this] { chooseFilms(); }}};
         m_home = new HomeWindow(m_workspace, tools);
         m_home->setAttribute(Qt::WA_DeleteOnClose);
         connect(m_home, &HomeWindow::settingsRequested, this, &Desktop::openSettings);
@@ -105,6 +127,8 @@ QStringList Desktop::racesAmong(const QStringList& paths) {
     QStringList races;
     for (const QString& path : paths) {
         if (QFileInfo(path).isDir()) {
+            if (isFolderOfFilms(path))
+                (void)openTaking(path);
             races += splitFilesIn(path);
             continue;
         }
@@ -120,7 +144,8 @@ QStringList Desktop::racesAmong(const QStringList& paths) {
 }
 
 void Desktop::openAll(const QStringList& paths, RaceWindow* into) {
-    openRaces(racesAmong(paths), into);
+    if (const QStringList races = racesAmong(paths); !races.isEmpty())
+        openRaces(races, into);
 }
 
 RaceWindow* Desktop::makeRaceWindow() {
@@ -129,6 +154,8 @@ RaceWindow* Desktop::makeRaceWindow() {
     connect(window, &RaceWindow::settingsRequested, this, &Desktop::openSettings);
     connect(window, &RaceWindow::filesRequested, this,
             [this, window](const QStringList& files) { openAll(files, window); });
+    connect(window, &RaceWindow::takingRequested, this, &Desktop::openTaking);
+    connect(window, &RaceWindow::momentRequested, this, &Desktop::showMoment);
     connect(window, &RaceWindow::viewsChanged, this, &Desktop::rememberSession);
     connect(window, &QObject::destroyed, this, &Desktop::rememberSession);
     return window;
@@ -171,6 +198,62 @@ QList<RaceWindow*> Desktop::raceWindows() const {
         if (race)
             open.append(race);
     return open;
+}
+
+void Desktop::chooseFilms() {
+    const QString folder =
+        QFileDialog::getExistingDirectory(front(), tr("Open a folder of videos"));
+    if (!folder.isEmpty())
+        (void)openTaking(folder);
+}
+
+TakingWindow* Desktop::openTaking(const QString& path) {
+    for (TakingWindow* window : takingWindows())
+        if (window->document().path() == QFileInfo(path).absoluteFilePath()) {
+            window->raise();
+            window->activateWindow();
+            return window;
+        }
+    auto* window = new TakingWindow(m_workspace, m_autosave);
+    if (!window->open(path)) {
+        delete window;
+        return nullptr;
+    }
+    connect(window, &TakingWindow::homeRequested, this, &Desktop::showHome);
+    connect(window, &TakingWindow::settingsRequested, this, &Desktop::openSettings);
+    connect(window, &TakingWindow::analysisRequested, this, &Desktop::open);
+    connect(window, &TakingWindow::filesRequested, this, [this](const QStringList& files) {
+        for (const QString& file : files)
+            (void)openTaking(file);
+    });
+    m_takings.append(window);
+    window->show();
+    return window;
+}
+
+/// The moment behind a time of the analyzer, in the film it was taken from.
+void Desktop::showMoment(const QString& path, int run, std::size_t split) {
+    TakingWindow* const window = openTaking(path);
+    if (!window)
+        return;
+    window->selectRun(run);
+    window->goToMark(split);
+}
+
+QList<TakingWindow*> Desktop::takingWindows() const {
+    QList<TakingWindow*> open;
+    for (const auto& taking : m_takings)
+        if (taking)
+            open.append(taking);
+    return open;
+}
+
+void Desktop::offerRecovery() {
+    for (const Autosave::Found& found : m_autosave.all()) {
+        const QFileInfo file(found.path);
+        if (file.exists() || file.dir().exists())
+            (void)openTaking(file.exists() ? found.path : file.path());
+    }
 }
 
 void Desktop::openSettings() {

@@ -1,20 +1,25 @@
 #pragma once
 
+#include "desktop/shell/autosave.h"
 #include "desktop/shell/workspace.h"
 
 #include <QPointer>
+
+#include <optional>
 
 namespace kavela::desktop {
 
 class HomeWindow;
 class RaceWindow;
+class TakingWindow;
 
 /// The desktop program: the home screen, and for each opened file the window of its tool.
 class Desktop : public QObject {
     Q_OBJECT
 
 public:
-    explicit Desktop(Workspace& workspace);
+    /// `autosave` keeps unsaved work; without one it stands beside the program's log.
+    explicit Desktop(Workspace& workspace, std::optional<Autosave> autosave = std::nullopt);
     ~Desktop() override;
 
     void showHome();
@@ -26,12 +31,20 @@ public:
     [[nodiscard]] bool restoreSession();
     void openSettings();
     void openSampleSeason();
+    /// Opens a folder of films, or a split file beside its films, for split taking; null, after a
+    /// message, when it cannot be opened.
+    TakingWindow* openTaking(const QString& path);
+    /// Opens what an earlier session left unsaved, each after asking.
+    void offerRecovery();
 
     /// The windows that are open, in the order of their opening.
     [[nodiscard]] QList<RaceWindow*> raceWindows() const;
+    [[nodiscard]] QList<TakingWindow*> takingWindows() const;
 
 private:
     void chooseRace();
+    void chooseFilms();
+    void showMoment(const QString& path, int run, std::size_t split);
     void openRaces(const QStringList& paths, RaceWindow* into);
     [[nodiscard]] RaceWindow* makeRaceWindow();
     /// The races among files and folders; what is not one is told.
@@ -42,6 +55,8 @@ private:
     Workspace& m_workspace;
     QPointer<HomeWindow> m_home;
     QList<QPointer<RaceWindow>> m_races;
+    QList<QPointer<TakingWindow>> m_takings;
+    Autosave m_autosave;
 };
 
 } // namespace kavela::desktop

@@ -41,7 +41,9 @@ int main(int argc, char** argv) {
     const QStringList files = QApplication::arguments().mid(1);
     if (!files.isEmpty())
         program.openAll(files);
-    if (program.raceWindows().isEmpty() && (!files.isEmpty() || !program.restoreSession()))
+    program.offerRecovery();
+    if (program.raceWindows().isEmpty() && program.takingWindows().isEmpty() &&
+        (!files.isEmpty() || !program.restoreSession()))
         program.showHome();
     return QApplication::exec();
 }

@@ -52,6 +52,8 @@ void RaceActions::makeFileMenu() {
     menu->addAction(tr("&Open…"), QKeySequence::Open, &m_window, [this] { chooseFiles(); });
     add(*menu, tr("Open it &again"), QKeySequence(Qt::Key_F5),
         [](RaceView& view) { view.reload(); });
+    menu->addAction(tr("Ti&me it on video"), QKeySequence(Qt::CTRL | Qt::Key_T), &m_window,
+                    [this] { emit m_window.takingRequested(m_window.document().path()); });
     menu->addAction(tr("&Home"), QKeySequence(Qt::CTRL | Qt::Key_H), &m_window,
                     &RaceWindow::homeRequested);
     menu->addSeparator();

@@ -74,6 +74,13 @@ bool RaceDocument::read(const fs::path& file, QWidget* over) {
     return true;
 }
 
+void RaceDocument::show(splittakerdata031 document, const QString& path) {
+    m_path = path;
+    m_info = document.info;
+    m_whole = makeRaceSet(std::move(document), path.toStdString());
+    rebuild();
+}
+
 QString RaceDocument::title() const {
     const std::string& name = m_info.title.empty() ? m_info.event : m_info.title;
     return name.empty() ? QFileInfo(m_path).completeBaseName() : qtText(name);

@@ -41,6 +41,9 @@ public:
     /// Reads the file again; the filter and the comparisons stay.
     [[nodiscard]] bool reload(QWidget* over);
 
+    /// Shows a document that is being edited elsewhere, as the file at a path would be shown.
+    void show(splittakerdata031 document, const QString& path);
+
     [[nodiscard]] const QString& path() const { return m_path; }
     [[nodiscard]] QString title() const;
     [[nodiscard]] QString subtitle() const;

@@ -128,6 +128,7 @@ QWidget* RaceView::makeWork() {
             menu.exec(header->mapToGlobal(at));
         });
     }
+    connect(m_table, &QTableView::activated, this, &RaceView::requestMoment);
     m_charts = new ChartPanel;
     connect(m_charts, &ChartPanel::runActivated, this, &RaceView::selectRun);
     connect(m_charts, &ChartPanel::savingFailed, this, [this](const QString&, const QString& why) {
@@ -364,6 +365,16 @@ void RaceView::previewReports() {
         new ReportPreview(raceReports(m_document, m_model, shownColumns(*m_table)), failures, this);
     preview->setAttribute(Qt::WA_DeleteOnClose);
     preview->show();
+}
+
+/// A double click on a time, or Enter on it.
+void RaceView::requestMoment(const QModelIndex& index) {
+    const auto shown = m_model.runOfRow(index.row());
+    const int section = index.column() - SplitTableModel::LeadingColumns;
+    if (!shown || section < 0 || section >= m_document.wholeSet().totalsplits)
+        return;
+    const analyzerdata& run = m_document.shownSet().alldata[*shown];
+    emit momentRequested(static_cast<int>(run.athleteInt), static_cast<std::size_t>(section) + 1);
 }
 
 void RaceView::noticeChange() {

@@ -65,6 +65,8 @@ public:
 signals:
     /// What the menus show of the view is another.
     void stateChanged();
+    /// The frame behind a time: a run of the file, a split counted from 1.
+    void momentRequested(int run, std::size_t split);
 
 private:
     void makeCentre();
@@ -78,6 +80,7 @@ private:
     void fillFilters();
     void applyFilter();
     void noticeChange();
+    void requestMoment(const QModelIndex& index);
     void showNote(const QString& note, bool offersReload);
     void rememberColumns();
     void resetColumns();

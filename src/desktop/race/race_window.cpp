@@ -44,7 +44,8 @@ RaceWindow::RaceWindow(Workspace& workspace)
 }
 
 RaceWindow::~RaceWindow() {
-    // The views report to the window while they are taken apart.
+    // The views report to the window while they are taken apart, and the focus moves on.
+    qApp->disconnect(this);
     for (RaceView* view : m_views)
         view->disconnect(this);
 }
@@ -70,6 +71,9 @@ void RaceWindow::addView(RaceView* view) {
     m_views.push_back(view);
     m_splitter->addWidget(view);
     connect(view, &RaceView::stateChanged, m_actions, &RaceActions::refresh);
+    connect(view, &RaceView::momentRequested, this, [this, view](int run, std::size_t split) {
+        emit momentRequested(view->document().path(), run, split);
+    });
     m_current = static_cast<int>(m_views.size()) - 1;
     {
         const QSignalBlocker blocker(m_tabs);

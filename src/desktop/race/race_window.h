@@ -49,6 +49,10 @@ signals:
     /// Files dropped on the window, or chosen in it, to be opened here where they belong here.
     void filesRequested(const QStringList& paths);
     void viewsChanged();
+    /// The race in front is to be timed, or timed on.
+    void takingRequested(const QString& path);
+    /// The frame behind a time is wanted: of a run of the file, of a split counted from 1.
+    void momentRequested(const QString& path, int run, std::size_t split);
 
 protected:
     void dragEnterEvent(QDragEnterEvent* event) override;

@@ -81,4 +81,22 @@ bool Workspace::ask(const Alert& question, const QString& yes, QWidget* over) co
     return box.clickedButton() == agree;
 }
 
+Workspace::Leaving Workspace::askToSave(const QString& document, QWidget* over) const {
+    const QString question = tr("Save the changes to %1?").arg(document);
+    if (m_answer)
+        return m_answer({"", question.toStdString()}) ? Leaving::Save : Leaving::Discard;
+    QMessageBox box(QMessageBox::Question, QString(), question,
+                    QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, over);
+    box.setTextFormat(Qt::PlainText);
+    box.setDefaultButton(QMessageBox::Save);
+    switch (box.exec()) {
+    case QMessageBox::Save:
+        return Leaving::Save;
+    case QMessageBox::Discard:
+        return Leaving::Discard;
+    default:
+        return Leaving::Stay;
+    }
+}
+
 } // namespace kavela::desktop

@@ -52,6 +52,10 @@ public:
     /// is a no.
     [[nodiscard]] bool ask(const Alert& question, const QString& yes, QWidget* over) const;
 
+    enum class Leaving { Save, Discard, Stay };
+    /// Asks what to do with unsaved work before a window closes.
+    [[nodiscard]] Leaving askToSave(const QString& document, QWidget* over) const;
+
 signals:
     void preferenceChanged(const QString& key);
     void recentFilesChanged();

@@ -1,0 +1,86 @@
+#pragma once
+
+#include "desktop/film/camera_slot.h"
+#include "video/camera_group.h"
+#include "video/frame_cache.h"
+
+#include <QObject>
+#include <QStringList>
+#include <QTimer>
+
+#include <memory>
+#include <vector>
+
+namespace kavela::desktop {
+
+/// The films of one run, played in step: the cameras, their clock, and what a coach does with them.
+/// Everything returns at once; frames come when they are decoded.
+class FilmDeck : public QObject {
+    Q_OBJECT
+
+public:
+    explicit FilmDeck(std::shared_ptr<FrameCache> cache, QObject* parent = nullptr);
+    ~FilmDeck() override;
+
+    /// Closes the films that are open and opens these, the first of them leading; none to close.
+    void open(const QStringList& films);
+    [[nodiscard]] const QStringList& films() const { return m_films; }
+    [[nodiscard]] std::size_t cameras() const { return m_slots.size(); }
+
+    /// The frame on the screen; null before the first one.
+    [[nodiscard]] const FilmPicture* shown(std::size_t camera) const;
+    /// The stamps of the frames that stand on the screen now, one per camera; empty as long as a
+    /// camera shows none, or shows one that only stands in.
+    [[nodiscard]] std::vector<CMTime> stamps() const;
+    [[nodiscard]] std::shared_ptr<const VideoIndex> index(std::size_t camera) const;
+
+    [[nodiscard]] bool isPlaying() const;
+    [[nodiscard]] double rate() const;
+    [[nodiscard]] double position() const; ///< seconds of the first film
+    [[nodiscard]] double start() const;
+    [[nodiscard]] double end() const;
+
+    void setBox(std::size_t camera, QSize box);
+
+    void togglePlaying();
+    void play(double rate);
+    void pause();
+    void slower();
+    void faster();
+    void normalSpeed();
+    void shuttle(ShuttleKey key, bool isStopHeld);
+    void step(FrameNumber frames);
+    void stepAlone(std::size_t camera, FrameNumber frames);
+    void jump(double seconds); ///< from where the film stands
+    void seek(double seconds);
+    void seek(const CMTime& stamp);
+    void alignCameras();
+    void setOffset(std::size_t camera, const CameraOffset& offset);
+
+signals:
+    void frameShown(std::size_t camera);
+    void indexChanged(std::size_t camera);
+    void stateChanged(); ///< playing, rate
+    void failed(std::size_t camera, const QString& message);
+
+private:
+    [[nodiscard]] static CameraGroup::Moment now();
+    [[nodiscard]] PlayerEvents eventsOf(std::size_t camera,
+                                        const std::shared_ptr<CameraSlot>& slot);
+    void addCamera(const QString& film);
+    void takePicture(std::size_t camera, int generation);
+    template <class Act>
+    void withGroup(Act act);
+
+    std::shared_ptr<FrameCache> m_cache;
+    QStringList m_films;
+    std::vector<QSize> m_boxes; ///< of the views, also of those that have no film now
+    std::vector<std::shared_ptr<CameraSlot>> m_slots;
+    std::vector<std::shared_ptr<VideoPlayer>> m_players;
+    std::vector<std::optional<FilmPicture>> m_shown;
+    std::unique_ptr<CameraGroup> m_group;
+    QTimer m_tick;
+    int m_generation = 0; ///< of the films: events of those that were closed are ignored
+};
+
+} // namespace kavela::desktop

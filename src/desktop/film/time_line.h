@@ -1,0 +1,65 @@
+#pragma once
+
+#include "common/cm_time.h"
+
+#include <QWidget>
+
+#include <optional>
+#include <vector>
+
+class QLabel;
+
+namespace kavela::desktop {
+
+class FilmDeck;
+
+/// A mark on the time line.
+struct LineMark {
+    CMTime stamp;           ///< of the first film
+    QString label;          ///< "Start", "3"
+    std::size_t number = 0; ///< of the mark, as its owner counts
+};
+
+/// The film from end to end, with the marks of the run. Dragging scrubs frame by frame, a click on
+/// a mark goes to its frame, and hovering shows the frame under the pointer.
+class TimeLine : public QWidget {
+    Q_OBJECT
+
+public:
+    explicit TimeLine(FilmDeck& deck, QWidget* parent = nullptr);
+    ~TimeLine() override;
+
+    void setMarks(std::vector<LineMark> marks);
+    /// The mark that keys act on, by its place in the list; none without a value.
+    void setSelected(std::optional<std::size_t> place);
+
+    [[nodiscard]] QSize sizeHint() const override;
+    /// Pixels from the left of a moment.
+    [[nodiscard]] int placeOf(double seconds) const;
+
+signals:
+    void markClicked(std::size_t number);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void leaveEvent(QEvent* event) override;
+
+private:
+    [[nodiscard]] double momentAt(int place) const;
+    [[nodiscard]] std::optional<std::size_t> markAt(QPoint place) const;
+    void paintMarks(QPainter& painter) const;
+    void hoverAt(int place);
+    void showThumbnail();
+    void hideThumbnail();
+
+    FilmDeck& m_deck;
+    FilmDeck* m_hoverDeck; ///< its own player: hovering leaves the film where it is
+    QLabel* m_thumbnail;
+    std::vector<LineMark> m_marks;
+    std::optional<std::size_t> m_selected;
+    int m_hoverPlace = 0;
+};
+
+} // namespace kavela::desktop

@@ -1,0 +1,250 @@
+#include "desktop/taking/taking_actions.h"
+
+#include "desktop/film/film_deck.h"
+#include "desktop/shell/help_menu.h"
+#include "desktop/shell/workspace.h"
+#include "desktop/taking/taking_window.h"
+#include "splitdata/run_timing.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QFileDialog>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QMenuBar>
+
+namespace kavela::desktop {
+
+namespace {
+
+constexpr double SlowMotion = 0.25;
+
+QKeySequence keys(QKeyCombination combination) {
+    return QKeySequence(combination);
+}
+
+} // namespace
+
+TakingActions::TakingActions(TakingWindow& window, Workspace& workspace)
+    : QObject(&window), m_window(window), m_workspace(workspace) {
+    makeFileMenu();
+    makeEditMenu();
+    makeMarkMenu();
+    makePenaltyMenu();
+    makePlayMenu();
+    makeCameraMenu();
+    addHelpMenu(window, workspace, [this] { return athletes(); });
+    qApp->installEventFilter(this);
+}
+
+/// K held down turns J and L into single steps. The key itself goes on to its action.
+bool TakingActions::eventFilter(QObject* watched, QEvent* event) {
+    const bool isDown =
+        event->type() == QEvent::ShortcutOverride || event->type() == QEvent::KeyPress;
+    if (isDown || event->type() == QEvent::KeyRelease) {
+        const auto* key = static_cast<QKeyEvent*>(event);
+        if (key->key() == Qt::Key_K && !key->isAutoRepeat())
+            m_isStopHeld = isDown;
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+QAction* TakingActions::add(QMenu& menu, const QString& text, const QList<QKeySequence>& shortcuts,
+                            Act act) {
+    QAction* action = menu.addAction(text);
+    action->setShortcuts(shortcuts);
+    connect(action, &QAction::triggered, &m_window, std::move(act));
+    return action;
+}
+
+/// Enter ends the typing in a field before it means anything else.
+bool TakingActions::endsTyping() const {
+    auto* const field = qobject_cast<QLineEdit*>(QApplication::focusWidget());
+    if (!field)
+        return false;
+    if (field->objectName() == "athlete")
+        emit field->returnPressed();
+    else
+        field->clearFocus();
+    return true;
+}
+
+void TakingActions::makeFileMenu() {
+    QMenu* menu = m_window.menuBar()->addMenu(tr("&File"));
+    add(*menu, tr("&Open a folder of videos…"), {QKeySequence::Open}, [this] { chooseFolder(); });
+    add(*menu, tr("Import &video…"), {keys(Qt::CTRL | Qt::Key_I)},
+        [this] { m_window.importVideos(); });
+    add(*menu, tr("Import split &file…"), {}, [this] { m_window.importSplitFile(); });
+    add(*menu, tr("Import official &results…"), {}, [this] { m_window.importResults(); });
+    menu->addSeparator();
+    add(*menu, tr("&Save data"), {QKeySequence::Save}, [this] { m_window.save(); });
+    add(*menu, tr("&Export data…"), {keys(Qt::CTRL | Qt::Key_E)},
+        [this] { m_window.exportData(); });
+    add(*menu, tr("Show in the race &analyzer"), {keys(Qt::CTRL | Qt::Key_R)}, [this] {
+        if (!m_window.document().isDirty() || m_window.document().save(&m_window))
+            emit m_window.analysisRequested(m_window.document().path());
+    });
+    menu->addSeparator();
+    add(*menu, tr("&Home"), {keys(Qt::CTRL | Qt::Key_H)},
+        [this] { emit m_window.homeRequested(); });
+    add(*menu, tr("Se&ttings…"), {keys(Qt::CTRL | Qt::Key_Comma)},
+        [this] { emit m_window.settingsRequested(); });
+    add(*menu, tr("C&lose"), {QKeySequence::Close}, [this] { m_window.close(); });
+}
+
+void TakingActions::chooseFolder() {
+    const QString folder = QFileDialog::getExistingDirectory(
+        &m_window, tr("Open a folder of videos"), m_window.document().folder());
+    if (!folder.isEmpty())
+        emit m_window.filesRequested({folder});
+}
+
+void TakingActions::makeEditMenu() {
+    QMenu* menu = m_window.menuBar()->addMenu(tr("&Edit"));
+    QUndoStack& stack = m_window.document().undoStack();
+    QAction* undo = stack.createUndoAction(&m_window, tr("&Undo"));
+    undo->setShortcut(QKeySequence::Undo);
+    QAction* redo = stack.createRedoAction(&m_window, tr("&Redo"));
+    redo->setShortcut(keys(Qt::CTRL | Qt::SHIFT | Qt::Key_Z));
+    menu->addActions({undo, redo});
+    menu->addSeparator();
+    add(*menu, tr("Race and &course…"), {keys(Qt::CTRL | Qt::Key_G)},
+        [this] { m_window.setUpCourse(); });
+    add(*menu, tr("&Previous run"), {keys(Qt::Key_Up)}, [this] { m_window.stepRun(-1); });
+    add(*menu, tr("&Next run"), {keys(Qt::Key_Down)}, [this] { m_window.stepRun(1); });
+    add(*menu, tr("&Find an athlete"), {QKeySequence::Find}, [this] { m_window.findRun(); });
+    add(*menu, tr("Move the run up"), {keys(Qt::CTRL | Qt::SHIFT | Qt::Key_Up)}, [this] {
+        const int run = m_window.currentRun();
+        m_window.document().moveRun(run, run - 1);
+        m_window.stepRun(-1);
+    });
+    add(*menu, tr("Move the run down"), {keys(Qt::CTRL | Qt::SHIFT | Qt::Key_Down)}, [this] {
+        const int run = m_window.currentRun();
+        m_window.document().moveRun(run, run + 1);
+        m_window.stepRun(1);
+    });
+    m_ofRun.push_back(
+        add(*menu, tr("Remove the run from the list"), {}, [this] { m_window.removeRun(); }));
+    menu->addSeparator();
+    add(*menu, tr("Delete &all data…"), {}, [this] { m_window.document().reset(&m_window); });
+}
+
+void TakingActions::makeMarkMenu() {
+    QMenu* menu = m_window.menuBar()->addMenu(tr("&Mark"));
+    m_ofRun.push_back(add(*menu, tr("&Mark the split"),
+                          {keys(Qt::Key_M), keys(Qt::Key_Return), keys(Qt::Key_Enter)}, [this] {
+                              if (!endsTyping())
+                                  m_window.mark();
+                          }));
+    add(*menu, tr("Move the selected mark &here"), {keys(Qt::SHIFT | Qt::Key_M)},
+        [this] { m_window.moveMarkHere(); });
+    add(*menu, tr("Mark one frame &earlier"), {keys(Qt::ALT | Qt::Key_Left)},
+        [this] { m_window.nudgeMark(-1); });
+    add(*menu, tr("Mark one frame &later"), {keys(Qt::ALT | Qt::Key_Right)},
+        [this] { m_window.nudgeMark(1); });
+    add(*menu, tr("&Remove the selected mark"), {keys(Qt::Key_Delete)},
+        [this] { m_window.deleteMark(); });
+    menu->addSeparator();
+    add(*menu, tr("&Previous mark"), {keys(Qt::CTRL | Qt::Key_Left)},
+        [this] { m_window.stepMark(-1); });
+    add(*menu, tr("&Next mark"), {keys(Qt::CTRL | Qt::Key_Right)},
+        [this] { m_window.stepMark(1); });
+    add(*menu, tr("To the start mark"), {keys(Qt::CTRL | Qt::Key_Home)},
+        [this] { m_window.goToMark(0); });
+    for (int split = 1; split <= 9; ++split)
+        add(*menu, tr("To split &%1").arg(split), {keys(static_cast<Qt::Key>(Qt::Key_0 + split))},
+            [this, split] { m_window.goToMark(static_cast<std::size_t>(split)); });
+}
+
+void TakingActions::makePenaltyMenu() {
+    QMenu* menu = m_window.menuBar()->addMenu(tr("&Gates"));
+    add(*menu, tr("&Touch: 2 s"), {keys(Qt::Key_T)},
+        [this] { m_window.setPenalty(GatePenalty::Touch); });
+    add(*menu, tr("Missed gate: &50 s"), {keys(Qt::Key_F)},
+        [this] { m_window.setPenalty(GatePenalty::MissedGate); });
+    add(*menu, tr("&Clean"), {keys(Qt::Key_0)}, [this] { m_window.setPenalty(GatePenalty::None); });
+    menu->addSeparator();
+    add(*menu, tr("&Next gate"), {keys(Qt::Key_N)}, [this] { m_window.stepGate(1); });
+    add(*menu, tr("&Previous gate"), {keys(Qt::Key_P)}, [this] { m_window.stepGate(-1); });
+}
+
+void TakingActions::makePlayMenu() {
+    QMenu* menu = m_window.menuBar()->addMenu(tr("&Play"));
+    FilmDeck& deck = m_window.deck();
+    add(*menu, tr("&Play or pause"), {keys(Qt::Key_Space)}, [&deck] { deck.togglePlaying(); });
+    const auto shuttle = [this, &deck](ShuttleKey key) {
+        return [this, &deck, key] { deck.shuttle(key, m_isStopHeld); };
+    };
+    add(*menu, tr("Backwards, again: faster"), {keys(Qt::Key_J)}, shuttle(ShuttleKey::J));
+    add(*menu, tr("Stop; held, J and L step a frame"), {keys(Qt::Key_K)}, shuttle(ShuttleKey::K));
+    add(*menu, tr("Forwards, again: faster"), {keys(Qt::Key_L)}, shuttle(ShuttleKey::L));
+    add(*menu, tr("Slow motion backwards"), {keys(Qt::SHIFT | Qt::Key_J)},
+        [&deck] { deck.play(-SlowMotion); });
+    add(*menu, tr("Slow motion forward"), {keys(Qt::SHIFT | Qt::Key_L)},
+        [&deck] { deck.play(SlowMotion); });
+    add(*menu, tr("&Slower"), {keys(Qt::Key_BracketLeft)}, [&deck] { deck.slower(); });
+    add(*menu, tr("&Faster"), {keys(Qt::Key_BracketRight)}, [&deck] { deck.faster(); });
+    add(*menu, tr("&Normal speed"), {keys(Qt::Key_Backspace)}, [&deck] { deck.normalSpeed(); });
+    menu->addSeparator();
+    makeMotionActions(*menu);
+}
+
+void TakingActions::makeMotionActions(QMenu& menu) {
+    FilmDeck& deck = m_window.deck();
+    add(menu, tr("One frame back"), {keys(Qt::Key_Left), keys(Qt::Key_Comma)},
+        [&deck] { deck.step(-1); });
+    add(menu, tr("One frame forward"), {keys(Qt::Key_Right), keys(Qt::Key_Period)},
+        [&deck] { deck.step(1); });
+    struct Jump {
+        QString text;
+        QKeyCombination key;
+        double seconds;
+    };
+    for (const Jump& jump : {Jump{tr("One second back"), Qt::SHIFT | Qt::Key_Left, -1},
+                             Jump{tr("One second forward"), Qt::SHIFT | Qt::Key_Right, 1},
+                             Jump{tr("Ten seconds back"), Qt::Key_PageUp, -10},
+                             Jump{tr("Ten seconds forward"), Qt::Key_PageDown, 10}})
+        add(menu, jump.text, {keys(jump.key)},
+            [&deck, seconds = jump.seconds] { deck.jump(seconds); });
+    add(menu, tr("To the beginning"), {keys(Qt::Key_Home)}, [&deck] { deck.seek(deck.start()); });
+    add(menu, tr("To the end"), {keys(Qt::Key_End)}, [&deck] { deck.seek(deck.end()); });
+}
+
+void TakingActions::makeCameraMenu() {
+    QMenu* menu = m_window.menuBar()->addMenu(tr("&Cameras"));
+    FilmDeck& deck = m_window.deck();
+    m_ofRun.push_back(
+        add(*menu, tr("&Add another camera of this run…"), {}, [this] { m_window.addCamera(); }));
+    add(*menu, tr("Second camera one frame back"), {keys(Qt::CTRL | Qt::ALT | Qt::Key_Left)},
+        [&deck] {
+            if (deck.cameras() > 1)
+                deck.stepAlone(1, -1);
+        });
+    add(*menu, tr("Second camera one frame forward"), {keys(Qt::CTRL | Qt::ALT | Qt::Key_Right)},
+        [&deck] {
+            if (deck.cameras() > 1)
+                deck.stepAlone(1, 1);
+        });
+    add(*menu, tr("The frames shown are &one moment"), {keys(Qt::CTRL | Qt::Key_L)},
+        [&deck] { deck.alignCameras(); });
+}
+
+void TakingActions::refresh() {
+    const bool hasRun = m_window.document().runCount() > 0;
+    for (QAction* action : m_ofRun)
+        action->setEnabled(hasRun);
+}
+
+Commands TakingActions::athletes() const {
+    Commands commands;
+    for (int run = 0; run < m_window.document().runCount(); ++run) {
+        const athletedata031& record = m_window.document().run(run);
+        QStringList where{QString::fromStdString(record.cat), QString::fromStdString(record.phase)};
+        where.removeAll(QString());
+        commands.push_back({QString::fromStdString(crewText(record.names)), where.join(" · "),
+                            QString(), [this, run] { m_window.selectRun(run); }});
+    }
+    return commands;
+}
+
+} // namespace kavela::desktop

@@ -1,0 +1,446 @@
+#include "desktop/taking/taking_document.h"
+
+#include "common/error.h"
+#include "common/json_encode.h"
+#include "common/safe_file.h"
+#include "desktop/shell/workspace.h"
+#include "report/pdf_file.h"
+#include "report/race_report.h"
+#include "splitdata/loader.h"
+#include "splitdata/run_timing.h"
+#include "splittaking/course_setup.h"
+#include "splittaking/messages.h"
+#include "splittaking/penalties.h"
+#include "splittaking/perfect_time.h"
+#include "splittaking/results_import.h"
+#include "splittaking/table_export.h"
+#include "splittaking/training_collection.h"
+#include "splittaking/video_names.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QUndoCommand>
+
+#include <algorithm>
+
+namespace kavela::desktop {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+constexpr int KeepAfterMilliseconds = 1000;
+
+QString qtText(const std::string& text) {
+    return QString::fromStdString(text);
+}
+
+std::optional<fs::file_time_type> lastWritten(const fs::path& file) {
+    std::error_code error;
+    const auto time = fs::last_write_time(file, error);
+    return error ? std::nullopt : std::optional(time);
+}
+
+/// The split file of a folder, the latest of several; a collected training only where there is no
+/// other.
+QString splitFileIn(const QString& folder) {
+    QStringList files = QDir(folder).entryList({"*.kvx"}, QDir::Files, QDir::Time);
+    if (files.size() > 1)
+        files.removeAll(TrainingFileName);
+    return files.isEmpty() ? QString() : QDir(folder).absoluteFilePath(files.front());
+}
+
+QStringList filmsIn(const QString& folder) {
+    QStringList films;
+    for (const QString& name : QDir(folder).entryList(QDir::Files, QDir::Name))
+        if (isVideoFile(name.toStdString()))
+            films.append(name);
+    return films;
+}
+
+} // namespace
+
+/// One edit: the document before and after it. Made after the fact, so its first redo does nothing.
+class TakingStep : public QUndoCommand {
+public:
+    TakingStep(TakingDocument& document, const QString& what, TakingState before, TakingState after)
+        : QUndoCommand(what),
+          m_document(document),
+          m_before(std::move(before)),
+          m_after(std::move(after)) {}
+
+    void undo() override { m_document.show(m_before); }
+    void redo() override { m_document.show(m_after); }
+
+private:
+    TakingDocument& m_document;
+    TakingState m_before;
+    TakingState m_after;
+};
+
+TakingDocument::TakingDocument(Workspace& workspace, Autosave autosave, QObject* parent)
+    : QObject(parent), m_workspace(workspace), m_autosave(std::move(autosave)) {
+    m_keep.setSingleShot(true);
+    m_keep.setInterval(KeepAfterMilliseconds);
+    connect(&m_keep, &QTimer::timeout, this, &TakingDocument::keepWork);
+}
+
+TakingDocument::~TakingDocument() {
+    if (m_keep.isActive())
+        keepWork();
+}
+
+bool TakingDocument::openFolder(const QString& folder, QWidget* over) {
+    const QString absolute = QDir(folder).absolutePath();
+    if (const QString file = splitFileIn(absolute); !file.isEmpty())
+        return openFile(file, over);
+    const QString path = absolute + '/' + QFileInfo(absolute).fileName() + ".kvx";
+    m_folder = absolute;
+    splittakerdata031 document = newDocument();
+    document.athletes = runsOf(filmsIn(absolute));
+    begin(stateOf(std::move(document)), path);
+    offerAutosave(over);
+    return true;
+}
+
+bool TakingDocument::openFile(const QString& file, QWidget* over) {
+    auto document = readCurrent(file, over);
+    if (!document)
+        return false;
+    begin(stateOf(std::move(*document)), QFileInfo(file).absoluteFilePath());
+    m_workspace.addRecentFile(m_path);
+    offerAutosave(over);
+    return true;
+}
+
+/// Only the current version: the analyzer is where an older file is converted, with a backup.
+std::optional<splittakerdata031> TakingDocument::readCurrent(const QString& file, QWidget* over) {
+    RecognisedSplitFile read =
+        recogniseSplitFile(file.toStdString(), m_workspace.log(), m_workspace.clock());
+    if (read.isCurrent())
+        return std::move(read.document);
+    if (read.version) {
+        m_workspace.showAlert({"", messages::OlderVersion}, over);
+        return std::nullopt;
+    }
+    WorkspaceAlerts alerts(m_workspace, over);
+    reportIncompatible(read, m_workspace.log(), alerts);
+    return std::nullopt;
+}
+
+splittakerdata031 TakingDocument::newDocument() const {
+    splittakerdata031 document;
+    document.info.date = m_workspace.clock()();
+    document.info.session = "Race";
+    document.info.title = QFileInfo(m_folder).fileName().toStdString();
+    document.info.totalsplits = m_workspace.preferences().integer("predeterminatedsplits");
+    return document;
+}
+
+std::vector<athletedata031> TakingDocument::runsOf(const QStringList& films) const {
+    const QString kept = m_workspace.remembered("filmNames").value(0);
+    const std::string pattern =
+        kept.isEmpty() ? std::string(DefaultVideoPattern) : kept.toStdString();
+    std::vector<athletedata031> runs;
+    for (const QString& film : films) {
+        const FilmFacts facts = filmFacts(film.toStdString(), pattern);
+        athletedata031 run;
+        run.names = facts.names;
+        run.phase = facts.phase;
+        run.cat = facts.category;
+        run.videoname = {film.toStdString()};
+        (void)fitPenalties(run, info().gates);
+        runs.push_back(std::move(run));
+    }
+    return runs;
+}
+
+void TakingDocument::begin(TakingState state, const QString& path) {
+    m_keep.stop();
+    m_path = path;
+    m_folder = QFileInfo(path).absolutePath();
+    m_readTime = lastWritten(path.toStdString());
+    m_undo.clear();
+    show(state);
+}
+
+void TakingDocument::offerAutosave(QWidget* over) {
+    const auto work = m_autosave.find(m_path);
+    if (!work)
+        return;
+    m_workspace.log()(messages::AutosaveFound);
+    RecognisedSplitFile read;
+    try {
+        read = recogniseSplitDocument(JsonDocument::fromText(*work), m_path.toStdString(),
+                                      m_workspace.log(), m_workspace.clock());
+    } catch (const DecodeError& error) {
+        m_workspace.log()(error.what());
+    }
+    const bool isWanted =
+        read.version && m_workspace.ask({"", messages::AskToLoadAutosave}, tr("Load"), over);
+    if (isWanted)
+        push(tr("recovered work"), stateOf(std::move(read.document)));
+    else
+        m_autosave.putAside(m_path);
+}
+
+const athletedata031& TakingDocument::run(int index) const {
+    return *m_state.runs.at(static_cast<std::size_t>(index)).record;
+}
+
+RunMarks TakingDocument::marks(int index) const {
+    RunMarks marks = marksOf(run(index).sectioninfo);
+    if (marks.marks.empty())
+        marks.start = m_state.runs[static_cast<std::size_t>(index)].start;
+    return marks;
+}
+
+double TakingDocument::expectedTime(int index) const {
+    return entryOrZero(m_expected, static_cast<std::size_t>(index));
+}
+
+QString TakingDocument::film(int index, std::size_t camera) const {
+    const std::string name = entryOrZero(run(index).videoname, camera);
+    const bool isBare = name.find_first_of("/\\") == std::string::npos && name != "..";
+    return name.empty() || !isBare ? QString() : m_folder + '/' + qtText(name);
+}
+
+QString TakingDocument::title() const {
+    const std::string& name = info().title.empty() ? info().event : info().title;
+    return name.empty() ? QFileInfo(m_path).completeBaseName() : qtText(name);
+}
+
+void TakingDocument::push(const QString& what, TakingState after) {
+    m_undo.push(new TakingStep(*this, what, m_state, std::move(after)));
+    m_keep.start();
+}
+
+void TakingDocument::show(const TakingState& state) {
+    m_state = state;
+    splittakerdata031 times = timesOf(m_state);
+    recomputeExpected(times, [](std::string_view) {});
+    m_perfect = times.info.perfectRun;
+    m_expected.clear();
+    for (const athletedata031& run : times.athletes)
+        m_expected.push_back(run.sectioninfo.xTime);
+    if (isDirty())
+        m_keep.start();
+    emit changed();
+}
+
+void TakingDocument::editRun(int index, const QString& what,
+                             const std::function<void(athletedata031&)>& change) {
+    auto edited = std::make_shared<athletedata031>(run(index));
+    change(*edited);
+    TakingState after = m_state;
+    after.runs[static_cast<std::size_t>(index)].record = std::move(edited);
+    push(what, std::move(after));
+}
+
+void TakingDocument::editInfo(const QString& what,
+                              const std::function<void(infodata031&)>& change) {
+    auto edited = std::make_shared<infodata031>(info());
+    change(*edited);
+    TakingState after = m_state;
+    const bool isOtherCourse =
+        edited->gates != info().gates || edited->totalsplits != info().totalsplits;
+    after.info = std::move(edited);
+    if (isOtherCourse)
+        for (TakenRun& run : after.runs) {
+            auto fitted = std::make_shared<athletedata031>(*run.record);
+            (void)fitPenalties(*fitted, after.info->gates);
+            if (const RunMarks marks = marksOf(fitted->sectioninfo); marks != RunMarks())
+                applyMarks(marks, *fitted, after.info->totalsplits);
+            run.record = std::move(fitted);
+        }
+    push(what, std::move(after));
+}
+
+void TakingDocument::setMarks(int index, const QString& what, const RunMarks& marks) {
+    auto edited = std::make_shared<athletedata031>(run(index));
+    applyMarks(marks, *edited, info().totalsplits);
+    TakingState after = m_state;
+    after.runs[static_cast<std::size_t>(index)] = {std::move(edited), marks.start};
+    push(what, std::move(after));
+}
+
+void TakingDocument::addRun(const QString& what, athletedata031 run) {
+    (void)fitPenalties(run, info().gates);
+    TakingState after = m_state;
+    after.runs.push_back({std::make_shared<athletedata031>(std::move(run)), std::nullopt});
+    push(what, std::move(after));
+}
+
+void TakingDocument::removeRun(int index) {
+    TakingState after = m_state;
+    after.runs.erase(after.runs.begin() + index);
+    push(tr("run removed"), std::move(after));
+}
+
+void TakingDocument::moveRun(int index, int to) {
+    if (to < 0 || to >= runCount() || to == index)
+        return;
+    TakingState after = m_state;
+    auto moved = std::move(after.runs[static_cast<std::size_t>(index)]);
+    after.runs.erase(after.runs.begin() + index);
+    after.runs.insert(after.runs.begin() + to, std::move(moved));
+    push(tr("run moved"), std::move(after));
+}
+
+int TakingDocument::addFilms(const QStringList& names) {
+    QStringList fresh;
+    for (const QString& name : names) {
+        const bool isKnown = std::ranges::any_of(m_state.runs, [&](const TakenRun& run) {
+            const std::vector<std::string>& films = run.record->videoname;
+            return std::ranges::find(films, name.toStdString()) != films.end();
+        });
+        if (!isKnown)
+            fresh.append(name);
+    }
+    if (fresh.isEmpty())
+        return 0;
+    TakingState after = m_state;
+    for (athletedata031& run : runsOf(fresh))
+        after.runs.push_back({std::make_shared<athletedata031>(std::move(run)), std::nullopt});
+    push(tr("videos imported"), std::move(after));
+    return static_cast<int>(fresh.size());
+}
+
+void TakingDocument::keepWork() {
+    if (!isDirty()) {
+        m_autosave.forget(m_path);
+        return;
+    }
+    try {
+        m_autosave.keep(m_path, encode(documentOf(m_state)));
+    } catch (const std::exception& error) {
+        m_workspace.log()(std::string("The work could not be kept: ") + error.what());
+    }
+}
+
+void TakingDocument::importSplitFile(const QString& file, QWidget* over) {
+    auto document = readCurrent(file, over);
+    if (!document)
+        return;
+    TakingState imported = stateOf(std::move(*document));
+    TakingState after = m_state;
+    if (after.runs.empty())
+        after = std::move(imported);
+    else
+        after.runs.insert(after.runs.end(), imported.runs.begin(), imported.runs.end());
+    push(tr("split file imported"), std::move(after));
+}
+
+QString TakingDocument::importResults(const QString& file, QWidget* over) {
+    splittakerdata031 document = timesOf(m_state);
+    const ResultsImport import =
+        kavela::importResults(document, file.toStdString(), m_workspace.log());
+    if (import.failure) {
+        m_workspace.showAlert({"", *import.failure}, over);
+        return {};
+    }
+    editInfo(tr("official results imported"),
+             [&](infodata031& info) { info.resultsCSVdata = document.info.resultsCSVdata; });
+    QStringList lines{tr("%n result(s) imported.", nullptr, static_cast<int>(import.imported))};
+    for (const SkippedLine& skipped : import.skipped)
+        lines.append(tr("Line %1: %2").arg(skipped.line).arg(qtText(skipped.reason)));
+    return lines.join('\n');
+}
+
+void TakingDocument::reset(QWidget* over) {
+    if (!m_workspace.ask({messages::BeCareful, messages::AskToDeleteAll}, tr(messages::ResetButton),
+                         over))
+        return;
+    push(tr("reset"), stateOf(newDocument()));
+    logPerfectTime();
+}
+
+void TakingDocument::logPerfectTime() const {
+    (void)finished(true);
+}
+
+/// The document as it is written: with the perfect time and the expected times of its runs.
+splittakerdata031 TakingDocument::finished(bool isLogged) const {
+    splittakerdata031 document = documentOf(m_state);
+    recomputeExpected(document,
+                      isLogged ? m_workspace.log() : DiagnosticLog([](std::string_view) {}));
+    document.info.lastSavedDate = m_workspace.clock()();
+    return document;
+}
+
+bool TakingDocument::mayOverwrite(QWidget* over) const {
+    const auto now = lastWritten(m_path.toStdString());
+    if (!now || now == m_readTime)
+        return true;
+    return m_workspace.ask(
+        {"", tr("The file was changed by another program since it was opened. Saving replaces "
+                "what that program wrote.")
+                 .toStdString()},
+        tr("Save all the same"), over);
+}
+
+bool TakingDocument::save(QWidget* over) {
+    if (m_state.runs.empty()) {
+        m_workspace.showAlert({"", messages::NothingToSave}, over);
+        return false;
+    }
+    const Preferences& preferences = m_workspace.preferences();
+    if (!mayOverwrite(over) || !write(m_path.toStdString(), preferences.boolean("savetoCSV"),
+                                      preferences.boolean("savetoPDF"), over))
+        return false;
+    m_readTime = lastWritten(m_path.toStdString());
+    m_undo.setClean();
+    m_keep.stop();
+    m_autosave.forget(m_path);
+    m_workspace.addRecentFile(m_path);
+    emit saved();
+    return true;
+}
+
+bool TakingDocument::exportTo(const QString& file, bool alsoCsv, bool alsoPdf, QWidget* over) {
+    if (m_state.runs.empty()) {
+        m_workspace.showAlert({"", messages::NothingToExport}, over);
+        return false;
+    }
+    if (!splitFileIn(QFileInfo(file).path()).isEmpty() &&
+        !m_workspace.ask({"", messages::AskToOverwrite}, tr("Overwrite"), over))
+        return false;
+    return write(file.toStdString(), alsoCsv, alsoPdf, over);
+}
+
+bool TakingDocument::write(const fs::path& file, bool csv, bool pdf, QWidget* over) {
+    try {
+        splittakerdata031 document = finished(false);
+        writeFileSafely(file, encode(document));
+        fs::path beside = file;
+        if (csv)
+            writeFileSafely(beside.replace_extension(".csv"), splitTableCsv(document));
+        if (pdf) {
+            const report::ReportHeading heading = report::reportHeading(document.info);
+            const RaceSet set = makeRaceSet(std::move(document), file);
+            report::writePdf(report::RaceReport(heading, set, {}, report::ReportContent::Race),
+                             beside.replace_extension(".pdf"));
+        }
+        return true;
+    } catch (const FileError& error) {
+        tellNotWritten(error.reason(), over);
+    } catch (const EncodeError& error) {
+        tellNotWritten(error.what(), over);
+    }
+    return false;
+}
+
+void TakingDocument::discard() {
+    keepWork();
+    m_keep.stop();
+    m_autosave.putAside(m_path);
+    m_undo.setClean();
+}
+
+void TakingDocument::tellNotWritten(const std::string& reason, QWidget* over) const {
+    m_workspace.log()("Failed to create file");
+    m_workspace.log()(reason);
+    m_workspace.showAlert({"Failed to create file", reason}, over);
+}
+
+} // namespace kavela::desktop

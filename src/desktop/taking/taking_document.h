@@ -1,0 +1,114 @@
+#pragma once
+
+#include "desktop/shell/autosave.h"
+#include "desktop/taking/taking_state.h"
+#include "splittaking/marking.h"
+
+#include <QObject>
+#include <QTimer>
+#include <QUndoStack>
+
+#include <filesystem>
+#include <functional>
+#include <optional>
+
+class QWidget;
+
+namespace kavela::desktop {
+
+class Workspace;
+
+/// The split file that is being taken: its course, its runs, their marks and penalties. Every
+/// change can be undone, is kept apart from the file within a second, and reaches the file only
+/// when it is saved.
+class TakingDocument : public QObject {
+    Q_OBJECT
+
+public:
+    TakingDocument(Workspace& workspace, Autosave autosave, QObject* parent = nullptr);
+    ~TakingDocument() override;
+
+    /// Opens a folder of films: its split file where it has one, otherwise a new document with a
+    /// run for each film. Unsaved work of an earlier session is offered. False, after a message,
+    /// when its split file is of an older release or none at all; the document is then as it was.
+    [[nodiscard]] bool openFolder(const QString& folder, QWidget* over);
+    [[nodiscard]] bool openFile(const QString& file, QWidget* over);
+
+    [[nodiscard]] const TakingState& state() const { return m_state; }
+    [[nodiscard]] const infodata031& info() const { return *m_state.info; }
+    [[nodiscard]] int runCount() const { return static_cast<int>(m_state.runs.size()); }
+    [[nodiscard]] const athletedata031& run(int index) const;
+    [[nodiscard]] RunMarks marks(int index) const;
+    /// Seconds; 0 as long as there is none. Always of the runs as they are now.
+    [[nodiscard]] double perfectTime() const { return m_perfect; }
+    [[nodiscard]] double expectedTime(int index) const;
+    /// The film of a run's camera; empty when its name leads out of the folder.
+    [[nodiscard]] QString film(int index, std::size_t camera) const;
+
+    [[nodiscard]] const QString& folder() const { return m_folder; }
+    [[nodiscard]] const QString& path() const { return m_path; }
+    [[nodiscard]] QString title() const;
+    [[nodiscard]] bool isDirty() const { return !m_undo.isClean(); }
+    [[nodiscard]] QUndoStack& undoStack() { return m_undo; }
+
+    // Every edit is one step of the undo stack; `what` names it there.
+    void editRun(int index, const QString& what,
+                 const std::function<void(athletedata031&)>& change);
+    void editInfo(const QString& what, const std::function<void(infodata031&)>& change);
+    void setMarks(int index, const QString& what, const RunMarks& marks);
+    void addRun(const QString& what, athletedata031 run);
+    void removeRun(int index);
+    void moveRun(int index, int to);
+    /// Adds a run for each film of the folder that no run has; returns how many were added.
+    int addFilms(const QStringList& names);
+
+    /// Takes over the runs of another split file of the current version.
+    void importSplitFile(const QString& file, QWidget* over);
+    /// Takes over an official results list; returns what to tell the coach, empty after a failure.
+    [[nodiscard]] QString importResults(const QString& file, QWidget* over);
+    /// Deletes all data once the coach has confirmed it.
+    void reset(QWidget* over);
+    /// Recomputes the perfect time with its line in the log, as when a real time was entered.
+    void logPerfectTime() const;
+
+    [[nodiscard]] bool save(QWidget* over);
+    /// Writes the split file, and table and report where they are wanted, somewhere else.
+    [[nodiscard]] bool exportTo(const QString& file, bool alsoCsv, bool alsoPdf, QWidget* over);
+
+    /// Gives up what was not saved; it stays aside for a change of mind.
+    void discard();
+
+signals:
+    /// Other runs, another course, or anything about them.
+    void changed();
+    void saved();
+
+private:
+    friend class TakingStep;
+
+    [[nodiscard]] std::optional<splittakerdata031> readCurrent(const QString& file, QWidget* over);
+    void begin(TakingState state, const QString& path);
+    void offerAutosave(QWidget* over);
+    [[nodiscard]] splittakerdata031 newDocument() const;
+    [[nodiscard]] std::vector<athletedata031> runsOf(const QStringList& films) const;
+    void push(const QString& what, TakingState after);
+    void show(const TakingState& state);
+    void keepWork();
+    [[nodiscard]] splittakerdata031 finished(bool isLogged) const;
+    [[nodiscard]] bool write(const std::filesystem::path& file, bool csv, bool pdf, QWidget* over);
+    [[nodiscard]] bool mayOverwrite(QWidget* over) const;
+    void tellNotWritten(const std::string& reason, QWidget* over) const;
+
+    Workspace& m_workspace;
+    Autosave m_autosave;
+    QUndoStack m_undo;
+    QTimer m_keep;
+    TakingState m_state;
+    std::vector<double> m_expected;
+    double m_perfect = 0;
+    QString m_folder;
+    QString m_path;
+    std::optional<std::filesystem::file_time_type> m_readTime; ///< of the file; none before it is
+};
+
+} // namespace kavela::desktop

@@ -1,0 +1,288 @@
+#include "desktop/taking/taking_window.h"
+
+#include "common/error.h"
+#include "common/number_text.h"
+#include "desktop/film/film_deck.h"
+#include "desktop/film/film_view.h"
+#include "desktop/shell/workspace.h"
+#include "desktop/taking/course_dialog.h"
+#include "desktop/taking/export_dialog.h"
+#include "desktop/taking/gate_strip.h"
+#include "desktop/taking/run_form.h"
+#include "splitdata/loader.h"
+#include "splittaking/messages.h"
+#include "splittaking/training_collection.h"
+#include "splittaking/video_names.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QLineEdit>
+#include <QTableView>
+
+#include <algorithm>
+
+/// What the keys of split taking do to the run and its document.
+namespace kavela::desktop {
+
+namespace {
+
+const QString VideoFilter =
+    QObject::tr("Videos (*.mov *.mp4 *.m4v *.avi *.mkv *.mts *.m2ts *.ts *.3gp *.webm *.mpg);;"
+                "All files (*)");
+
+bool hasTimes(const athletedata031& run) {
+    return std::ranges::any_of(run.sectioninfo.times, [](double time) { return time != 0; });
+}
+
+/// The stamp so many frames away, of the frame that a stamp belongs to.
+CMTime nudged(const VideoIndex& index, const CMTime& stamp, int frames) {
+    const auto frame = index.frameAt(stamp);
+    if (!frame)
+        return stamp;
+    return index.stampOf(std::clamp<FrameNumber>(*frame + frames, 0, index.frameCount() - 1));
+}
+
+} // namespace
+
+void TakingWindow::select(std::optional<std::size_t> mark) {
+    m_selected = mark;
+    showMarks();
+}
+
+void TakingWindow::stepRun(int step) {
+    const int run = m_run + step;
+    if (run >= 0 && run < m_document.runCount())
+        selectRun(run);
+}
+
+void TakingWindow::mark() {
+    if (m_run < 0 || m_deck->cameras() == 0) {
+        tell(messages::NoVideo);
+        return;
+    }
+    Stamps stamps = m_deck->stamps();
+    if (stamps.empty())
+        return; // no frame on the screen that could be meant
+    RunMarks marks = m_document.marks(m_run);
+    if (marks == RunMarks() && hasTimes(m_document.run(m_run)) &&
+        !m_workspace.ask({"", tr("The times of this run were taken without marks on the video. "
+                                 "Marking it anew replaces them.")
+                                  .toStdString()},
+                         tr("Mark anew"), this))
+        return;
+    const bool isStart = !marks.start;
+    if (const auto refused = markNext(marks, std::move(stamps), m_document.info().totalsplits)) {
+        m_workspace.showAlert(*refused, this);
+        return;
+    }
+    const std::size_t taken = isStart ? 0 : marks.marks.size();
+    m_selected = taken;
+    m_document.setMarks(m_run, isStart ? tr("start mark") : tr("split %1").arg(taken), marks);
+    m_views.front()->flash(isStart ? tr("Start")
+                                   : tr("%1:  %2").arg(taken).arg(QString::fromStdString(
+                                         hundredthsText(splitTimes(marks).back()))));
+}
+
+void TakingWindow::moveMarkHere() {
+    Stamps stamps = m_deck->stamps();
+    if (m_run < 0 || !m_selected || stamps.empty())
+        return;
+    RunMarks marks = m_document.marks(m_run);
+    if (*m_selected == 0)
+        setStart(marks, std::move(stamps));
+    else
+        moveMark(marks, *m_selected, std::move(stamps));
+    m_document.setMarks(m_run, tr("mark moved"), marks);
+}
+
+/// The selected mark, otherwise the last, moves; the frame on the screen stays.
+void TakingWindow::nudgeMark(int frames) {
+    const auto mark = m_selected ? m_selected : lastMark();
+    if (m_run < 0 || !mark)
+        return;
+    RunMarks marks = m_document.marks(m_run);
+    const Stamps* const before = stampsOf(marks, *mark);
+    if (!before)
+        return;
+    Stamps stamps = *before;
+    for (std::size_t camera = 0; camera < stamps.size(); ++camera)
+        if (const auto index = m_deck->index(camera))
+            stamps[camera] = nudged(*index, stamps[camera], frames);
+    if (*mark == 0)
+        setStart(marks, std::move(stamps));
+    else
+        moveMark(marks, *mark, std::move(stamps));
+    m_selected = mark;
+    m_document.setMarks(m_run, tr("mark moved"), marks);
+}
+
+void TakingWindow::deleteMark() {
+    if (m_run < 0 || !m_selected)
+        return;
+    RunMarks marks = m_document.marks(m_run);
+    if (*m_selected == 0)
+        marks.start.reset();
+    else
+        removeMark(marks, *m_selected);
+    m_selected.reset();
+    m_document.setMarks(m_run, tr("mark removed"), marks);
+}
+
+void TakingWindow::goToMark(std::size_t mark) {
+    if (m_run < 0)
+        return;
+    const RunMarks marks = m_document.marks(m_run);
+    const Stamps* const stamps = stampsOf(marks, mark);
+    if (!stamps)
+        return;
+    select(mark);
+    m_deck->seek(stamps->front());
+}
+
+/// The mark before or after the frame on the screen.
+void TakingWindow::stepMark(int step) {
+    const FilmPicture* const shown = m_deck->shown(0);
+    if (m_run < 0 || !shown)
+        return;
+    const RunMarks marks = m_document.marks(m_run);
+    const double now = shown->frame.stamp.seconds();
+    std::optional<std::size_t> found;
+    for (std::size_t mark = 0; mark <= marks.marks.size(); ++mark) {
+        const Stamps* const stamps = stampsOf(marks, mark);
+        if (!stamps)
+            continue;
+        const double moment = stamps->front().seconds();
+        if (step < 0 && moment < now)
+            found = mark;
+        if (step > 0 && moment > now && !found)
+            found = mark;
+    }
+    if (found)
+        goToMark(*found);
+}
+
+void TakingWindow::setPenalty(GatePenalty penalty) {
+    const auto gates = m_document.info().gates;
+    if (m_run < 0 || gates <= 0)
+        return;
+    const int gate = m_gates->current();
+    m_document.editRun(m_run, tr("penalty at gate %1").arg(gate),
+                       [&](athletedata031& run) { kavela::setPenalty(run, gate, penalty, gates); });
+    stepGate(1);
+}
+
+void TakingWindow::stepGate(int step) {
+    m_gates->setCurrent(m_gates->current() + step);
+}
+
+void TakingWindow::setUpCourse() {
+    CourseDialog dialog(m_document.info(), m_workspace, this);
+    if (dialog.exec() == QDialog::Accepted)
+        m_document.editInfo(tr("course"), [&](infodata031& info) { info = dialog.info(); });
+}
+
+/// Films belong into the folder of the split file, which knows them by bare names only.
+QStringList TakingWindow::copiedIntoFolder(const QStringList& files) {
+    QStringList names;
+    for (const QString& file : files) {
+        const QFileInfo info(file);
+        const QString target = m_document.folder() + '/' + info.fileName();
+        const bool isThere = info.absolutePath() == m_document.folder() || QFile::exists(target);
+        if (isThere || QFile::copy(file, target))
+            names.append(info.fileName());
+        else
+            tell(tr("%1 could not be copied into the folder.").arg(info.fileName()).toStdString());
+    }
+    return names;
+}
+
+void TakingWindow::importVideos() {
+    const QStringList files = m_chooseFiles(tr("Import video"), VideoFilter);
+    if (files.isEmpty())
+        return;
+    (void)m_document.addFilms(copiedIntoFolder(files));
+    if (m_run < 0)
+        stepRun(1);
+}
+
+void TakingWindow::addCamera() {
+    if (m_run < 0)
+        return;
+    const QStringList names =
+        copiedIntoFolder(m_chooseFiles(tr("Add another camera of this run"), VideoFilter));
+    if (names.isEmpty())
+        return;
+    m_document.editRun(m_run, tr("camera added"), [&](athletedata031& run) {
+        for (const QString& name : names)
+            run.videoname.push_back(name.toStdString());
+    });
+}
+
+void TakingWindow::importSplitFile() {
+    for (const QString& file :
+         m_chooseFiles(tr("Import split file"), tr("Split files (*.kvx);;All files (*)")))
+        m_document.importSplitFile(file, this);
+}
+
+void TakingWindow::importResults() {
+    for (const QString& file :
+         m_chooseFiles(tr("Import official results"), tr("Lists (*.csv *.txt);;All files (*)"))) {
+        const QString told = m_document.importResults(file, this);
+        if (!told.isEmpty())
+            tell(told.toStdString());
+    }
+}
+
+void TakingWindow::removeRun() {
+    if (m_run >= 0)
+        m_document.removeRun(m_run);
+}
+
+void TakingWindow::save() {
+    m_form->commit();
+    (void)m_document.save(this);
+}
+
+void TakingWindow::exportData() {
+    m_form->commit();
+    if (m_document.runCount() == 0) {
+        tell(messages::NothingToExport);
+        return;
+    }
+    ExportDialog dialog(m_workspace, m_document.path(), this);
+    if (dialog.exec() == QDialog::Accepted)
+        (void)m_document.exportTo(dialog.path(), dialog.alsoCsv(), dialog.alsoPdf(), this);
+}
+
+void TakingWindow::findRun() {
+    m_name->setFocus();
+    m_name->selectAll();
+}
+
+/// The films of the folder that carry the name become a file of their own.
+void TakingWindow::collectTraining() {
+    const QString athlete = m_name->text().trimmed();
+    if (!isAthleteName(athlete.toStdString()) ||
+        !m_workspace.ask({"", messages::AskToCollect}, tr("Create"), this))
+        return;
+    const TrainingPlan plan{athlete.toStdString(),
+                            m_workspace.preferences().integer("predeterminatedsplits"),
+                            m_workspace.clock()()};
+    const QString target = m_document.folder() + '/' + TrainingFileName;
+    if (QFile::exists(target) &&
+        !m_workspace.ask({"", messages::AskToOverwrite}, tr("Overwrite"), this))
+        return;
+    try {
+        const TrainingCollection training =
+            kavela::collectTraining(m_document.folder().toStdString(), plan);
+        if (saveSplitFile(training.document, target.toStdString(), m_workspace.log()))
+            tell(messages::Saved);
+        else
+            tell("Failed to create file");
+    } catch (const FileError& error) {
+        tell(error.what());
+    }
+}
+
+} // namespace kavela::desktop

@@ -1,0 +1,32 @@
+#pragma once
+
+#include "splitdata/document.h"
+#include "splittaking/marking.h"
+
+#include <memory>
+#include <optional>
+#include <vector>
+
+namespace kavela::desktop {
+
+/// A run in the making. The record has no place for a start mark before the first split.
+struct TakenRun {
+    std::shared_ptr<const athletedata031> record;
+    std::optional<Stamps> start;
+};
+
+/// A split file in the making, at one moment. Copies share what they have in common, so that every
+/// step of the undo stack may hold one.
+struct TakingState {
+    std::shared_ptr<const infodata031> info = std::make_shared<infodata031>();
+    std::vector<TakenRun> runs;
+    std::shared_ptr<const crossdata030> cross = std::make_shared<crossdata030>();
+};
+
+[[nodiscard]] TakingState stateOf(splittakerdata031 document);
+
+/// The whole document; without the recordings of sensors where only times are asked for.
+[[nodiscard]] splittakerdata031 documentOf(const TakingState& state);
+[[nodiscard]] splittakerdata031 timesOf(const TakingState& state);
+
+} // namespace kavela::desktop

@@ -1,0 +1,403 @@
+#include "desktop/taking/taking_window.h"
+
+#include "common/number_text.h"
+#include "desktop/film/film_deck.h"
+#include "desktop/film/film_view.h"
+#include "desktop/film/time_line.h"
+#include "desktop/race/frozen_table.h"
+#include "desktop/shell/dropped_files.h"
+#include "desktop/shell/theme.h"
+#include "desktop/shell/window_place.h"
+#include "desktop/shell/workspace.h"
+#include "desktop/taking/gate_strip.h"
+#include "desktop/taking/run_form.h"
+#include "desktop/taking/split_bar.h"
+#include "desktop/taking/taking_actions.h"
+#include "splitdata/run_timing.h"
+#include "splittaking/messages.h"
+#include "splittaking/video_names.h"
+#include "video/health.h"
+
+#include <QCloseEvent>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QHeaderView>
+#include <QLabel>
+#include <QLineEdit>
+#include <QSplitter>
+#include <QTableView>
+#include <QVBoxLayout>
+
+namespace kavela::desktop {
+
+namespace {
+
+/// Decoded frames of all cameras: some seconds around the place that is looked at.
+constexpr std::size_t FrameCacheBytes = 768U << 20U;
+
+QString qtText(const std::string& text) {
+    return QString::fromStdString(text);
+}
+
+QString rateText(double rate) {
+    return QStringLiteral("×") + QString::number(rate);
+}
+
+QLabel* quietLabel() {
+    auto* label = new QLabel;
+    label->setTextFormat(Qt::PlainText);
+    label->setForegroundRole(QPalette::PlaceholderText);
+    label->setWordWrap(true);
+    return label;
+}
+
+} // namespace
+
+TakingWindow::TakingWindow(Workspace& workspace, Autosave autosave)
+    : m_workspace(workspace),
+      m_document(workspace, std::move(autosave)),
+      m_runs(m_document),
+      m_race(workspace),
+      m_tableModel(m_race),
+      m_deck(new FilmDeck(std::make_shared<FrameCache>(FrameCacheBytes), this)),
+      m_chooseFiles([this](const QString& title, const QString& filter) {
+          return QFileDialog::getOpenFileNames(this, title, m_document.folder(), filter);
+      }) {
+    setAttribute(Qt::WA_DeleteOnClose);
+    setAcceptDrops(true);
+    auto* upper = new QSplitter;
+    upper->addWidget(makeRuns());
+    upper->addWidget(makeStage());
+    m_form = new RunForm(m_document, m_workspace);
+    m_form->setContentsMargins(theme::Spacing, 0, 0, 0);
+    upper->addWidget(m_form);
+    upper->setStretchFactor(1, 1);
+    upper->setSizes({300, 720, 220});
+    rememberSizes(*upper, workspace, "takingParts");
+    auto* whole = new QSplitter(Qt::Vertical);
+    whole->setContentsMargins(theme::LargeSpacing, theme::Spacing, theme::LargeSpacing,
+                              theme::Spacing);
+    whole->addWidget(upper);
+    whole->addWidget(makeTable());
+    whole->setStretchFactor(0, 1);
+    whole->setSizes({560, 200});
+    rememberSizes(*whole, workspace, "takingTable");
+    setCentralWidget(whole);
+    m_actions = new TakingActions(*this, workspace);
+    connectParts();
+    resize(1280, 800);
+    rememberPlace(*this, workspace, "taking");
+}
+
+TakingWindow::~TakingWindow() {
+    m_deck->disconnect(this);
+    m_document.disconnect(this);
+}
+
+QWidget* TakingWindow::makeRuns() {
+    m_name = new QLineEdit;
+    m_name->setObjectName("athlete");
+    m_name->setPlaceholderText(tr("Athlete's name"));
+    m_name->setToolTip(tr("Enter finds the athlete's next run, or collects a training file of all "
+                          "videos with that name"));
+    m_name->setClearButtonEnabled(true);
+    m_runTable = new QTableView;
+    m_runTable->setObjectName("runs");
+    m_runTable->setModel(&m_runs);
+    m_runTable->setSelectionBehavior(QAbstractItemView::SelectRows);
+    m_runTable->setSelectionMode(QAbstractItemView::SingleSelection);
+    m_runTable->setShowGrid(false);
+    m_runTable->setWordWrap(false);
+    m_runTable->verticalHeader()->hide();
+    m_runTable->verticalHeader()->setDefaultSectionSize(fontMetrics().height() + theme::Spacing);
+    m_runTable->horizontalHeader()->setHighlightSections(false);
+    m_runTable->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    m_runTable->horizontalHeader()->setSectionResizeMode(RunTableModel::NameColumn,
+                                                         QHeaderView::Stretch);
+    auto* box = new QWidget;
+    auto* column = new QVBoxLayout(box);
+    column->setContentsMargins(0, 0, theme::Spacing, 0);
+    column->setSpacing(theme::Spacing);
+    column->addWidget(m_name);
+    column->addWidget(m_runTable, 1);
+    return box;
+}
+
+QWidget* TakingWindow::makeStage() {
+    m_films = new QSplitter;
+    m_films->setChildrenCollapsible(false);
+    m_state = new QLabel;
+    m_state->setObjectName("state");
+    m_health = quietLabel();
+    m_health->setObjectName("health");
+    m_line = new TimeLine(*m_deck);
+    m_splits = new SplitBar;
+    m_gates = new GateStrip;
+    auto* row = new QHBoxLayout;
+    row->addWidget(m_health, 1);
+    row->addWidget(m_state, 0, Qt::AlignRight | Qt::AlignTop);
+    auto* box = new QWidget;
+    auto* column = new QVBoxLayout(box);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(theme::SmallSpacing);
+    column->addWidget(m_films, 1);
+    column->addLayout(row);
+    column->addWidget(m_line);
+    column->addWidget(m_splits);
+    column->addWidget(m_gates);
+    return box;
+}
+
+QWidget* TakingWindow::makeTable() {
+    m_table = new FrozenTable(SplitTableModel::LeadingColumns);
+    m_table->setObjectName("splitTable");
+    m_table->setModel(&m_tableModel);
+    m_table->setToolTip(tr("A click on a time shows its frame"));
+    return m_table;
+}
+
+void TakingWindow::connectParts() {
+    connect(&m_document, &TakingDocument::changed, this, &TakingWindow::showDocument);
+    connect(&m_document.undoStack(), &QUndoStack::cleanChanged, this,
+            [this](bool isClean) { setWindowModified(!isClean); });
+    connect(m_runTable->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
+            [this](const QModelIndex& current) { selectRun(current.row()); });
+    connect(m_runTable, &QTableView::clicked, this, [this] {
+        if (m_workspace.preferences().boolean("playonclick"))
+            m_deck->play(1);
+    });
+    connect(m_name, &QLineEdit::returnPressed, this, &TakingWindow::collectTraining);
+    connect(m_deck, &FilmDeck::frameShown, this, &TakingWindow::showRunning);
+    connect(m_deck, &FilmDeck::stateChanged, this, &TakingWindow::showState);
+    connect(m_deck, &FilmDeck::indexChanged, this, &TakingWindow::showHealth);
+    connect(m_line, &TimeLine::markClicked, this, &TakingWindow::goToMark);
+    connect(m_splits, &SplitBar::splitClicked, this, &TakingWindow::goToMark);
+    connect(m_gates, &GateStrip::gateClicked, m_gates, &GateStrip::setCurrent);
+    for (QTableView* table : {static_cast<QTableView*>(m_table), m_table->frozenView()})
+        connect(table, &QTableView::clicked, this, &TakingWindow::playTableCell);
+}
+
+bool TakingWindow::open(const QString& path) {
+    const bool isOpen = QFileInfo(path).isDir() ? m_document.openFolder(path, this)
+                                                : m_document.openFile(path, this);
+    if (!isOpen)
+        return false;
+    m_run = -1;
+    if (m_document.runCount() > 0)
+        m_runTable->selectRow(0);
+    m_runTable->setFocus();
+    return true;
+}
+
+void TakingWindow::tell(const std::string& message) {
+    m_workspace.showAlert({"", message}, this);
+}
+
+void TakingWindow::showDocument() {
+    setWindowTitle(m_document.title() + "[*] – " + tr("split taking") + " – Kavela");
+    setWindowModified(m_document.isDirty());
+    if (m_run >= m_document.runCount())
+        selectRun(m_document.runCount() - 1);
+    else if (m_run >= 0 && filmsOf(m_run) != m_deck->films())
+        showFilms();
+    std::vector<std::int64_t> penalties;
+    if (m_run >= 0)
+        penalties = m_document.run(m_run).sectioninfo.pens;
+    m_gates->setCourse(static_cast<int>(m_document.info().gates), m_document.info().upGates);
+    m_gates->setPenalties(penalties);
+    showMarks();
+    m_race.show(timesOf(m_document.state()), m_document.path());
+    m_actions->refresh();
+}
+
+void TakingWindow::selectRun(int run) {
+    if (run == m_run)
+        return;
+    m_form->commit();
+    m_run = run;
+    m_selected.reset();
+    m_form->showRun(run);
+    if (run >= 0 && m_runTable->currentIndex().row() != run)
+        m_runTable->selectRow(run);
+    showFilms();
+    m_gates->setCurrent(1);
+    if (run >= 0)
+        m_gates->setPenalties(m_document.run(run).sectioninfo.pens);
+    showMarks();
+}
+
+QStringList TakingWindow::filmsOf(int run) const {
+    QStringList films;
+    for (std::size_t camera = 0; camera < m_document.run(run).videoname.size(); ++camera)
+        if (const QString film = m_document.film(run, camera); !film.isEmpty())
+            films.append(film);
+    return films;
+}
+
+void TakingWindow::showFilms() {
+    const QStringList films = m_run < 0 ? QStringList() : filmsOf(m_run);
+    m_hasAlignedCameras = false;
+    m_health->clear();
+    m_deck->open({}); // before its views go
+    for (FilmView* view : m_views)
+        delete view;
+    m_views.clear();
+    for (std::size_t camera = 0; camera < std::max<std::size_t>(films.size(), 1); ++camera) {
+        auto* view = new FilmView(*m_deck, camera);
+        m_films->addWidget(view);
+        m_views.push_back(view);
+    }
+    m_deck->open(films);
+    if (m_run < 0)
+        m_views.front()->setMessage(
+            tr("Import videos with Ctrl+I, or drop a folder of videos here."));
+    else if (films.isEmpty())
+        m_views.front()->setMessage(tr(messages::NoVideo));
+    const RunMarks marks = m_run < 0 ? RunMarks() : m_document.marks(m_run);
+    if (m_workspace.preferences().boolean("startinCMTime") && stampsOf(marks, 0))
+        goToMark(0);
+}
+
+const Stamps* TakingWindow::stampsOf(const RunMarks& marks, std::size_t mark) const {
+    if (mark == 0)
+        return marks.start && !marks.start->empty() ? &*marks.start : nullptr;
+    return mark <= marks.marks.size() && !marks.marks[mark - 1].empty() ? &marks.marks[mark - 1]
+                                                                        : nullptr;
+}
+
+void TakingWindow::showMarks() {
+    const RunMarks marks = m_run < 0 ? RunMarks() : m_document.marks(m_run);
+    const std::vector<double> times = splitTimes(marks);
+    std::vector<LineMark> line;
+    std::optional<std::size_t> selected;
+    for (std::size_t mark = 0; mark <= marks.marks.size(); ++mark) {
+        const Stamps* const stamps = stampsOf(marks, mark);
+        if (!stamps)
+            continue;
+        if (m_selected == mark)
+            selected = line.size();
+        line.push_back({stamps->front(), mark == 0 ? tr("Start") : QString::number(mark), mark});
+    }
+    m_line->setMarks(std::move(line));
+    m_line->setSelected(selected);
+    std::vector<SplitBar::Section> sections;
+    const infodata031& info = m_document.info();
+    for (std::size_t i = 0; std::cmp_less(i, std::min<std::int64_t>(info.totalsplits, 100)); ++i) {
+        const QString title = qtText(entryOrZero(info.splitTitles, i));
+        const bool isTaken = i < times.size() && stampsOf(marks, i + 1);
+        sections.push_back({title.isEmpty() ? 'S' + QString::number(i + 1) : title,
+                            isTaken ? qtText(hundredthsText(times[i])) : QString()});
+    }
+    m_splits->setSections(std::move(sections));
+    m_splits->setSelected(m_selected && *m_selected > 0 ? m_selected : std::nullopt);
+    showRunning();
+}
+
+void TakingWindow::showRunning() {
+    const RunMarks marks = m_run < 0 ? RunMarks() : m_document.marks(m_run);
+    const std::size_t next = marks.marks.size() + 1;
+    const FilmPicture* const shown = m_deck->shown(0);
+    const auto last = lastMark();
+    const bool isRunning =
+        shown && last && std::cmp_less_equal(next, m_document.info().totalsplits);
+    if (!isRunning) {
+        m_splits->setRunning(std::nullopt, {});
+        return;
+    }
+    const double since = shown->frame.stamp.seconds() - stampsOf(marks, *last)->front().seconds();
+    m_splits->setRunning(next, since < 0 ? QString() : qtText(hundredthsText(since)));
+}
+
+std::optional<std::size_t> TakingWindow::lastMark() const {
+    if (m_run < 0)
+        return std::nullopt;
+    const RunMarks marks = m_document.marks(m_run);
+    for (std::size_t mark = marks.marks.size() + 1; mark-- > 0;)
+        if (stampsOf(marks, mark))
+            return mark;
+    return std::nullopt;
+}
+
+void TakingWindow::showState() {
+    const QString motion = m_deck->cameras() == 0 ? QString()
+                           : m_deck->isPlaying()  ? tr("Playing %1").arg(rateText(m_deck->rate()))
+                                                  : tr("Paused, %1").arg(rateText(m_deck->rate()));
+    m_state->setText(motion);
+    const bool hasEnded = !m_deck->isPlaying() && m_deck->cameras() > 0 && m_deck->end() > 0 &&
+                          m_deck->position() >= m_deck->end() && m_deck->rate() > 0;
+    if (hasEnded && m_wasPlaying && m_workspace.preferences().boolean("autoplaynext") &&
+        m_run + 1 < m_document.runCount()) {
+        selectRun(m_run + 1);
+        m_deck->play(1);
+    }
+    m_wasPlaying = m_deck->isPlaying();
+}
+
+/// What is odd about the films, and where the cameras of a run stand to each other: its first mark
+/// that was seen by all tells.
+void TakingWindow::showHealth() {
+    QStringList notes;
+    for (std::size_t camera = 0; camera < m_deck->cameras(); ++camera) {
+        const auto index = m_deck->index(camera);
+        if (!index || !index->isComplete())
+            continue;
+        for (const HealthNote& note : checkHealth(*index))
+            notes.append((m_deck->cameras() > 1 ? tr("Camera %1: ").arg(camera + 1) : QString()) +
+                         qtText(note.text));
+    }
+    m_health->setText(notes.join('\n'));
+    if (m_hasAlignedCameras || m_run < 0 || m_deck->cameras() < 2)
+        return;
+    const RunMarks marks = m_document.marks(m_run);
+    for (const Stamps& stamps : marks.marks) {
+        if (stamps.size() < m_deck->cameras())
+            continue;
+        for (std::size_t camera = 1; camera < m_deck->cameras(); ++camera)
+            m_deck->setOffset(camera, {.own = stamps[camera], .common = stamps.front()});
+        m_hasAlignedCameras = true;
+        return;
+    }
+}
+
+void TakingWindow::playTableCell(const QModelIndex& index) {
+    const auto shown = m_tableModel.runOfRow(index.row());
+    if (!shown)
+        return;
+    selectRun(static_cast<int>(m_race.shownSet().alldata[*shown].athleteInt));
+    const int section = index.column() - SplitTableModel::LeadingColumns;
+    if (section >= 0 && section < m_document.info().totalsplits)
+        goToMark(static_cast<std::size_t>(section) + 1);
+}
+
+void TakingWindow::closeEvent(QCloseEvent* event) {
+    m_form->commit();
+    if (m_document.isDirty()) {
+        const auto choice = m_workspace.askToSave(m_document.title(), this);
+        if (choice == Workspace::Leaving::Stay ||
+            (choice == Workspace::Leaving::Save && !m_document.save(this))) {
+            event->ignore();
+            return;
+        }
+        if (choice == Workspace::Leaving::Discard)
+            m_document.discard();
+    }
+    event->accept();
+}
+
+void TakingWindow::dragEnterEvent(QDragEnterEvent* event) {
+    acceptFiles(*event);
+}
+
+void TakingWindow::dropEvent(QDropEvent* event) {
+    const QStringList files = droppedFiles(*event);
+    QStringList films;
+    QStringList others;
+    for (const QString& file : files)
+        (isVideoFile(QFileInfo(file).fileName().toStdString()) ? films : others).append(file);
+    if (!films.isEmpty())
+        (void)m_document.addFilms(copiedIntoFolder(films));
+    if (!others.isEmpty())
+        emit filesRequested(others);
+}
+
+} // namespace kavela::desktop

@@ -1,0 +1,130 @@
+#pragma once
+
+#include "desktop/race/race_document.h"
+#include "desktop/race/split_table_model.h"
+#include "desktop/taking/run_table_model.h"
+#include "desktop/taking/taking_document.h"
+#include "splittaking/penalties.h"
+
+#include <QMainWindow>
+
+#include <functional>
+
+class QLabel;
+class QLineEdit;
+class QSplitter;
+class QTableView;
+
+namespace kavela::desktop {
+
+class FilmDeck;
+class FilmView;
+class FrozenTable;
+class GateStrip;
+class RunForm;
+class SplitBar;
+class TimeLine;
+class TakingActions;
+
+/// Split taking: the runs to the left, the film of the selected one with its marks and gates in the
+/// middle, what is known of it to the right, and every run of the race in the coloured table below.
+class TakingWindow : public QMainWindow {
+    Q_OBJECT
+
+public:
+    TakingWindow(Workspace& workspace, Autosave autosave);
+    ~TakingWindow() override;
+
+    /// Opens a folder of films, or a split file in its folder; false, after a message, when that
+    /// failed.
+    [[nodiscard]] bool open(const QString& path);
+
+    [[nodiscard]] TakingDocument& document() { return m_document; }
+    [[nodiscard]] FilmDeck& deck() const { return *m_deck; }
+    [[nodiscard]] int currentRun() const { return m_run; }
+    [[nodiscard]] const GateStrip& gates() const { return *m_gates; }
+    [[nodiscard]] std::optional<std::size_t> selectedMark() const { return m_selected; }
+
+    // What the keys do.
+    void selectRun(int run);
+    void stepRun(int step);
+    void mark();
+    void moveMarkHere();
+    void nudgeMark(int frames);
+    void deleteMark();
+    void goToMark(std::size_t mark); ///< 0 is the start, 1 the first split
+    void stepMark(int step);
+    void setPenalty(GatePenalty penalty);
+    void stepGate(int step);
+    void setUpCourse();
+    void importVideos();
+    void addCamera();
+    void importSplitFile();
+    void importResults();
+    void collectTraining();
+    void removeRun();
+    void save();
+    void exportData();
+    void findRun();
+
+    /// Where files come from in place of the platform's dialogs, as in tests.
+    using ChooseFiles = std::function<QStringList(const QString& title, const QString& filter)>;
+    void setChooseFiles(ChooseFiles choose) { m_chooseFiles = std::move(choose); }
+
+signals:
+    void homeRequested();
+    void settingsRequested();
+    void analysisRequested(const QString& path);
+    void filesRequested(const QStringList& paths);
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
+
+private:
+    [[nodiscard]] QWidget* makeRuns();
+    [[nodiscard]] QWidget* makeStage();
+    [[nodiscard]] QWidget* makeTable();
+    void connectParts();
+    void showDocument();
+    void showFilms();
+    void showMarks();
+    void showRunning();
+    void showState();
+    void showHealth();
+    void select(std::optional<std::size_t> mark);
+    void tell(const std::string& message);
+    void playTableCell(const QModelIndex& index);
+    [[nodiscard]] QStringList filmsOf(int run) const;
+    [[nodiscard]] std::optional<std::size_t> lastMark() const;
+    [[nodiscard]] const Stamps* stampsOf(const RunMarks& marks, std::size_t mark) const;
+    [[nodiscard]] QStringList copiedIntoFolder(const QStringList& files);
+
+    Workspace& m_workspace;
+    TakingDocument m_document;
+    RunTableModel m_runs;
+    RaceDocument m_race; ///< of the table below
+    SplitTableModel m_tableModel;
+    FilmDeck* m_deck;
+    TakingActions* m_actions = nullptr;
+    ChooseFiles m_chooseFiles;
+    int m_run = -1;
+    std::optional<std::size_t> m_selected; ///< mark: 0 is the start, 1 the first split
+    bool m_hasAlignedCameras = false;
+    bool m_wasPlaying = false;
+
+    QTableView* m_runTable = nullptr;
+    QLineEdit* m_name = nullptr;
+    QSplitter* m_films = nullptr;
+    std::vector<FilmView*> m_views;
+    QLabel* m_state = nullptr;
+    QLabel* m_health = nullptr;
+    TimeLine* m_line = nullptr;
+    SplitBar* m_splits = nullptr;
+    GateStrip* m_gates = nullptr;
+    RunForm* m_form = nullptr;
+    FrozenTable* m_table = nullptr;
+};
+
+} // namespace kavela::desktop

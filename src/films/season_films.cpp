@@ -1,0 +1,87 @@
+#include "films/season_films.h"
+
+#include "films/film_writer.h"
+#include "sample/races.h"
+#include "sample/training.h"
+#include "splitdata/run_timing.h"
+
+#include <array>
+
+namespace kavela::films {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+QString captionOf(const athletedata031& run) {
+    QString caption;
+    for (const std::string& name : run.names)
+        caption += QString::fromStdString(name) + QStringLiteral("  ·  ");
+    return caption + QString::fromStdString(run.cat) + QStringLiteral("  ·  ") +
+           QString::fromStdString(run.phase);
+}
+
+/// The first camera stands on one bank, the second on the other. A strip is painted when the first
+/// film wants it.
+class Strips {
+public:
+    explicit Strips(const infodata031& info) : m_info(info) {}
+
+    std::shared_ptr<const CourseStrip> seenBy(std::size_t camera) {
+        auto& strip = m_strips[camera % m_strips.size()];
+        if (!strip)
+            strip = std::make_shared<CourseStrip>(layOut(m_info),
+                                                  camera % 2 == 0 ? Bank::Right : Bank::Left);
+        return strip;
+    }
+
+private:
+    const infodata031& m_info;
+    std::array<std::shared_ptr<const CourseStrip>, 2> m_strips;
+};
+
+bool isFilmed(const athletedata031& run, std::size_t camera) {
+    for (const auto& stamps : run.sectioninfo.cmtimes)
+        if (camera < stamps.size())
+            return true;
+    return false;
+}
+
+} // namespace
+
+std::vector<PlannedFilm> sessionFilms(const splittakerdata031& session, const fs::path& folder,
+                                      const std::function<bool(const fs::path&)>& isWanted) {
+    Strips strips(session.info);
+    std::vector<PlannedFilm> films;
+    for (const athletedata031& run : session.athletes) {
+        const FilmedBoat boat{boatLook(run.cat, run.hand, crewText(run.names)), captionOf(run)};
+        for (std::size_t camera = 0; camera < run.videoname.size(); ++camera) {
+            const fs::path name = folder / run.videoname[camera];
+            if (isFilmed(run, camera) && isWanted(name))
+                films.push_back(
+                    {name, std::make_shared<FilmScene>(
+                               strips.seenBy(camera), runOnFilm(session.info, run, camera), boat)});
+        }
+    }
+    return films;
+}
+
+std::vector<PlannedFilm> seasonFilms(const std::function<bool(const fs::path&)>& isWanted) {
+    std::vector<PlannedFilm> films =
+        sessionFilms(sample::holdRace(sample::harbourNight()), "races", isWanted);
+    for (PlannedFilm& film : sessionFilms(sample::formTest(), "training", isWanted))
+        films.push_back(std::move(film));
+    return films;
+}
+
+std::string makeFilm(const FilmScene& scene) {
+    FilmWriter writer(FilmWidth, FilmHeight, scene.run().timescale);
+    YuvPicture picture(FilmWidth, FilmHeight);
+    for (Frames frame = 0; frame < scene.run().length; ++frame) {
+        scene.draw(frame, picture);
+        writer.add(picture);
+    }
+    return writer.finish();
+}
+
+} // namespace kavela::films
