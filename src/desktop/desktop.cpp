@@ -32,6 +32,7 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr const char* SessionKey = "openFiles";
+constexpr const char* TakingSessionKey = "openTakings";
 
 /// Files a folder may hold before a coach is unlikely to want a tab for each.
 constexpr int MostRacesOfAFolder = 24;
@@ -86,8 +87,11 @@ Desktop::Desktop(Workspace& workspace, std::optional<Autosave> autosave)
 
 Desktop::~Desktop() {
     delete m_home;
-    for (const auto& taking : m_takings)
+    for (const auto& taking : m_takings) {
+        if (taking)
+            taking->disconnect(this);
         delete taking;
+    }
     for (const auto& race : m_races) {
         if (race)
             race->disconnect(this);
@@ -181,15 +185,24 @@ void Desktop::rememberSession() {
     QStringList files;
     for (const RaceWindow* window : raceWindows())
         files += window->paths();
-    if (!files.isEmpty() || (m_home && m_home->isVisible()))
-        m_workspace.remember(SessionKey, files);
+    QStringList taken;
+    for (TakingWindow* window : takingWindows())
+        taken.append(window->document().path());
+    if (files.isEmpty() && taken.isEmpty() && !(m_home && m_home->isVisible()))
+        return;
+    m_workspace.remember(SessionKey, files);
+    m_workspace.remember(TakingSessionKey, taken);
 }
 
 bool Desktop::restoreSession() {
     QStringList files = m_workspace.remembered(SessionKey);
     files.removeIf([](const QString& file) { return !QFileInfo::exists(file); });
-    openRaces(files, nullptr);
-    return !raceWindows().isEmpty();
+    if (!files.isEmpty())
+        openRaces(files, nullptr);
+    for (const QString& file : m_workspace.remembered(TakingSessionKey))
+        if (QFileInfo::exists(file))
+            (void)openTaking(file);
+    return !raceWindows().isEmpty() || !takingWindows().isEmpty();
 }
 
 QList<RaceWindow*> Desktop::raceWindows() const {
@@ -226,8 +239,10 @@ TakingWindow* Desktop::openTaking(const QString& path) {
         for (const QString& file : files)
             (void)openTaking(file);
     });
+    connect(window, &QObject::destroyed, this, &Desktop::rememberSession);
     m_takings.append(window);
     window->show();
+    rememberSession();
     return window;
 }
 

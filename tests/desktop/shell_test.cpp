@@ -1,5 +1,9 @@
 #include "desktop/shell/command_palette.h"
 
+#include "common/temp_folder.h"
+#include "desktop/shell/key_bindings.h"
+#include "desktop/shell/workspace.h"
+
 #include <gmock/gmock.h>
 
 #include <QMainWindow>
@@ -47,6 +51,35 @@ TEST(CommandPalette, OffersWhatTheMenusCanDoNow) {
     EXPECT_EQ(commands[1].group, "More");
     commands[0].run();
     EXPECT_EQ(opened, 1);
+}
+
+TEST(Keys, AreChangedRememberedAndNeverTakenTwice) {
+    const TempFolder folder;
+    desktop::Workspace workspace(
+        Preferences(folder.path() / "preferences.ini"), [](std::string_view) {}, systemNow);
+    const auto makeMenus = [](QMainWindow& window) {
+        QMenu* const menu = window.menuBar()->addMenu("&Mark");
+        menu->addAction("&Mark the split")
+            ->setShortcuts({QKeySequence("M"), QKeySequence("Enter")});
+        menu->addAction("Remove")->setShortcut(QKeySequence("Delete"));
+    };
+    {
+        QMainWindow window;
+        makeMenus(window);
+        desktop::KeyEditor editor(applyKeyBindings(window, workspace, "test"), workspace, "test",
+                                  &window);
+        EXPECT_EQ(editor.setKey(1, QKeySequence("Enter")), "Mark/Mark the split");
+        EXPECT_EQ(editor.setKey(0, QKeySequence("X")), "");
+    }
+    QMainWindow later;
+    makeMenus(later);
+    const auto bindings = desktop::applyKeyBindings(later, workspace, "test");
+    EXPECT_EQ(bindings[0].action->shortcut(), QKeySequence("X"));
+    EXPECT_EQ(bindings[1].action->shortcut(), QKeySequence("Delete"));
+    desktop::KeyEditor editor(bindings, workspace, "test", &later);
+    editor.restoreStandard();
+    EXPECT_EQ(bindings[0].action->shortcuts().size(), 2);
+    EXPECT_TRUE(workspace.remembered("keys/test").isEmpty());
 }
 
 } // namespace

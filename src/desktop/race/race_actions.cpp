@@ -19,7 +19,7 @@ RaceActions::RaceActions(RaceWindow& window, Workspace& workspace)
     makeTableMenu();
     makeCompareMenu();
     makeWindowMenu();
-    addHelpMenu(window, workspace, [this] { return athletes(); });
+    addHelpMenu(window, workspace, "race", [this] { return athletes(); });
     connect(&m_workspace, &Workspace::preferenceChanged, this, &RaceActions::refresh);
 }
 

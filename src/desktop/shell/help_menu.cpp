@@ -1,5 +1,6 @@
 #include "desktop/shell/help_menu.h"
 
+#include "desktop/shell/key_bindings.h"
 #include "desktop/shell/key_overlay.h"
 #include "desktop/shell/workspace.h"
 
@@ -35,18 +36,24 @@ void openOverlay(QMainWindow& window) {
 
 } // namespace
 
-void addHelpMenu(QMainWindow& window, Workspace& workspace, std::function<Commands()> more) {
+void addHelpMenu(QMainWindow& window, Workspace& workspace, const QString& kind,
+                 std::function<Commands()> more) {
     QMenu* menu = window.menuBar()->addMenu(QObject::tr("&Help"));
     menu->addAction(
         QObject::tr("&Search everything…"), QKeySequence(Qt::CTRL | Qt::Key_K), &window,
         [&window, &workspace, more = std::move(more)] { openPalette(window, workspace, more); });
     menu->addAction(QObject::tr("&All keys"), QKeySequence(Qt::Key_Question), &window,
                     [&window] { openOverlay(window); });
+    QAction* change = menu->addAction(QObject::tr("&Change keys…"));
     QAction* full = menu->addAction(
         QObject::tr("&Full screen"), QKeySequence(Qt::Key_F11), &window, [&window](bool on) {
             window.setWindowState(window.windowState().setFlag(Qt::WindowFullScreen, on));
         });
     full->setCheckable(true);
+    const std::vector<KeyBinding> bindings = applyKeyBindings(window, workspace, kind);
+    QObject::connect(change, &QAction::triggered, &window, [&window, &workspace, bindings, kind] {
+        KeyEditor(bindings, workspace, kind, &window).exec();
+    });
 }
 
 } // namespace kavela::desktop

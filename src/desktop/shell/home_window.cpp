@@ -62,7 +62,7 @@ void HomeWindow::makeMenus() {
     file->addAction(tr("Se&ttings…"), QKeySequence(Qt::CTRL | Qt::Key_Comma), this,
                     &HomeWindow::settingsRequested);
     file->addAction(tr("&Quit"), QKeySequence::Quit, this, [] { QCoreApplication::quit(); });
-    addHelpMenu(*this, m_workspace, [this] { return m_more; });
+    addHelpMenu(*this, m_workspace, "home", [this] { return m_more; });
 }
 
 QWidget* HomeWindow::header() {

@@ -33,7 +33,7 @@ TakingActions::TakingActions(TakingWindow& window, Workspace& workspace)
     makePenaltyMenu();
     makePlayMenu();
     makeCameraMenu();
-    addHelpMenu(window, workspace, [this] { return athletes(); });
+    addHelpMenu(window, workspace, "taking", [this] { return athletes(); });
     qApp->installEventFilter(this);
 }
 
@@ -110,6 +110,7 @@ void TakingActions::makeEditMenu() {
     menu->addSeparator();
     add(*menu, tr("Race and &course…"), {keys(Qt::CTRL | Qt::Key_G)},
         [this] { m_window.setUpCourse(); });
+    add(*menu, tr("Names of the &films…"), {}, [this] { m_window.readFilmNames(); });
     add(*menu, tr("&Previous run"), {keys(Qt::Key_Up)}, [this] { m_window.stepRun(-1); });
     add(*menu, tr("&Next run"), {keys(Qt::Key_Down)}, [this] { m_window.stepRun(1); });
     add(*menu, tr("&Find an athlete"), {QKeySequence::Find}, [this] { m_window.findRun(); });

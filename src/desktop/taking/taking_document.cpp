@@ -30,6 +30,15 @@ namespace fs = std::filesystem;
 namespace {
 
 constexpr int KeepAfterMilliseconds = 1000;
+constexpr const char* FilmPatternKey = "filmNames";
+
+/// What the name of a run's first film tells.
+void takeFilmName(athletedata031& run, const std::string& pattern) {
+    FilmFacts facts = filmFacts(run.videoname.front(), pattern);
+    run.names = std::move(facts.names);
+    run.phase = std::move(facts.phase);
+    run.cat = std::move(facts.category);
+}
 
 QString qtText(const std::string& text) {
     return QString::fromStdString(text);
@@ -137,18 +146,32 @@ splittakerdata031 TakingDocument::newDocument() const {
     return document;
 }
 
+QString TakingDocument::filmPattern() const {
+    const QString kept = m_workspace.remembered(FilmPatternKey).value(0);
+    return kept.isEmpty() ? QString::fromUtf8(DefaultVideoPattern.data(),
+                                              static_cast<qsizetype>(DefaultVideoPattern.size()))
+                          : kept;
+}
+
+void TakingDocument::readFilmNames(const QString& pattern) {
+    m_workspace.remember(FilmPatternKey, {pattern});
+    TakingState after = m_state;
+    for (TakenRun& run : after.runs) {
+        if (run.record->videoname.empty())
+            continue;
+        auto read = std::make_shared<athletedata031>(*run.record);
+        takeFilmName(*read, pattern.toStdString());
+        run.record = std::move(read);
+    }
+    push(tr("names of the films"), std::move(after));
+}
+
 std::vector<athletedata031> TakingDocument::runsOf(const QStringList& films) const {
-    const QString kept = m_workspace.remembered("filmNames").value(0);
-    const std::string pattern =
-        kept.isEmpty() ? std::string(DefaultVideoPattern) : kept.toStdString();
     std::vector<athletedata031> runs;
     for (const QString& film : films) {
-        const FilmFacts facts = filmFacts(film.toStdString(), pattern);
         athletedata031 run;
-        run.names = facts.names;
-        run.phase = facts.phase;
-        run.cat = facts.category;
         run.videoname = {film.toStdString()};
+        takeFilmName(run, filmPattern().toStdString());
         (void)fitPenalties(run, info().gates);
         runs.push_back(std::move(run));
     }

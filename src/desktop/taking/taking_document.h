@@ -62,6 +62,11 @@ public:
     /// Adds a run for each film of the folder that no run has; returns how many were added.
     int addFilms(const QStringList& names);
 
+    /// How the films are named; remembered for later films. Reading them again keeps everything but
+    /// crew, category and phase.
+    [[nodiscard]] QString filmPattern() const;
+    void readFilmNames(const QString& pattern);
+
     /// Takes over the runs of another split file of the current version.
     void importSplitFile(const QString& file, QWidget* over);
     /// Takes over an official results list; returns what to tell the coach, empty after a failure.

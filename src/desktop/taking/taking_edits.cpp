@@ -4,6 +4,7 @@
 #include "common/number_text.h"
 #include "desktop/film/film_deck.h"
 #include "desktop/film/film_view.h"
+#include "desktop/shell/file_copy.h"
 #include "desktop/shell/workspace.h"
 #include "desktop/taking/course_dialog.h"
 #include "desktop/taking/export_dialog.h"
@@ -17,6 +18,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QInputDialog>
 #include <QLineEdit>
 #include <QTableView>
 
@@ -182,6 +184,24 @@ void TakingWindow::setUpCourse() {
         m_document.editInfo(tr("course"), [&](infodata031& info) { info = dialog.info(); });
 }
 
+void TakingWindow::readFilmNames() {
+    QString pattern = m_document.filmPattern();
+    for (bool isAgreed = false; !isAgreed;) {
+        pattern = QInputDialog::getText(
+            this, tr("Names of the films"),
+            tr("How the films are named, such as \"{any} {name} {category} {phase}\".\n{name}, "
+               "{category}, {phase}, {bib}, {number} and {any} stand for what differs."),
+            QLineEdit::Normal, pattern, &isAgreed);
+        if (!isAgreed)
+            return;
+        if (const auto fault = faultOfVideoPattern(pattern.toStdString())) {
+            tell(*fault);
+            isAgreed = false;
+        }
+    }
+    m_document.readFilmNames(pattern);
+}
+
 /// Films belong into the folder of the split file, which knows them by bare names only.
 QStringList TakingWindow::copiedIntoFolder(const QStringList& files) {
     QStringList names;
@@ -189,10 +209,19 @@ QStringList TakingWindow::copiedIntoFolder(const QStringList& files) {
         const QFileInfo info(file);
         const QString target = m_document.folder() + '/' + info.fileName();
         const bool isThere = info.absolutePath() == m_document.folder() || QFile::exists(target);
-        if (isThere || QFile::copy(file, target))
+        if (isThere) {
             names.append(info.fileName());
-        else
+            continue;
+        }
+        switch (copyFile(file, target, this)) {
+        case CopyEnd::Done:
+            names.append(info.fileName());
+            break;
+        case CopyEnd::Cancelled:
+            return names;
+        case CopyEnd::Failed:
             tell(tr("%1 could not be copied into the folder.").arg(info.fileName()).toStdString());
+        }
     }
     return names;
 }

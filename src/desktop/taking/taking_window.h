@@ -57,6 +57,8 @@ public:
     void setPenalty(GatePenalty penalty);
     void stepGate(int step);
     void setUpCourse();
+    /// Asks how the films are named, and reads the runs from their names again.
+    void readFilmNames();
     void importVideos();
     void addCamera();
     void importSplitFile();
