@@ -80,6 +80,8 @@ PlayerEvents FilmDeck::eventsOf(std::size_t camera, const std::shared_ptr<Camera
     // Events never come two at once, so that the picture maker is used by one of them at a time.
     events.onFrame = [slot](const ShownFrame& shown) { slot->put(shown); };
     events.onIndex = [this, camera, slot, post](const auto& index, double) {
+        if (!index)
+            return;
         slot->setFacts(index->facts());
         post([this, camera] {
             m_group->tick(now()); // the clock learns how long the films are
