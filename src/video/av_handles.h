@@ -6,6 +6,7 @@
 extern "C" {
 #include <libavcodec/avcodec.h>
 #include <libavformat/avformat.h>
+#include <libswresample/swresample.h>
 #include <libswscale/swscale.h>
 }
 
@@ -17,6 +18,7 @@ struct AvDeleter {
     void operator()(AVCodecContext* context) const { avcodec_free_context(&context); }
     void operator()(AVPacket* packet) const { av_packet_free(&packet); }
     void operator()(AVFrame* frame) const { av_frame_free(&frame); }
+    void operator()(SwrContext* context) const { swr_free(&context); }
     void operator()(SwsContext* context) const { sws_freeContext(context); }
 };
 

@@ -55,8 +55,8 @@ AVFormatContext* openLocalFile(const std::filesystem::path& path, AVFormatContex
 
 } // namespace
 
-Demuxer::Demuxer(std::filesystem::path path, std::stop_token stop)
-    : m_path(std::move(path)), m_stop(std::move(stop)), m_packet(av_packet_alloc()) {
+Demuxer::Demuxer(std::filesystem::path path, std::stop_token stop, StreamKind kind)
+    : m_path(std::move(path)), m_stop(std::move(stop)), m_kind(kind), m_packet(av_packet_alloc()) {
     if (!m_packet)
         throw std::bad_alloc();
     open();
@@ -84,15 +84,20 @@ void Demuxer::noteEntries() {
     m_storedEntries = 0;
     for (unsigned i = 0; i < m_container->nb_streams; ++i) {
         AVStream* const stream = m_container->streams[i];
-        if (stream->codecpar->codec_type == AVMEDIA_TYPE_VIDEO)
+        if (stream->codecpar->codec_type == mediaType())
             m_storedEntries = std::max(m_storedEntries, avformat_index_get_entries_count(stream));
     }
 }
 
+AVMediaType Demuxer::mediaType() const {
+    return m_kind == StreamKind::Video ? AVMEDIA_TYPE_VIDEO : AVMEDIA_TYPE_AUDIO;
+}
+
 void Demuxer::chooseStream() {
-    const int best = av_find_best_stream(m_container.get(), AVMEDIA_TYPE_VIDEO, -1, -1, nullptr, 0);
+    const int best = av_find_best_stream(m_container.get(), mediaType(), -1, -1, nullptr, 0);
     if (best < 0)
-        throw VideoError(m_path, "there is no video in this file");
+        throw VideoError(m_path, m_kind == StreamKind::Video ? "there is no video in this file"
+                                                             : "there is no sound in this film");
     m_stream = static_cast<unsigned>(best);
     if ((stream().disposition & AV_DISPOSITION_ATTACHED_PIC) != 0)
         throw VideoError(m_path, "there is no video in this file, only a picture");

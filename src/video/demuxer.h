@@ -8,12 +8,16 @@
 
 namespace kavela {
 
-/// The packets of the video stream of a file, in the order of the file.
+/// What is read of a film.
+enum class StreamKind { Video, Sound };
+
+/// The packets of the video stream of a file, or of its sound, in the order of the file.
 class Demuxer {
 public:
-    /// Throws VideoError when the file cannot be opened or holds no video. Once `stop` is
-    /// requested, opening and reading end early.
-    explicit Demuxer(std::filesystem::path path, std::stop_token stop = {});
+    /// Throws VideoError when the file cannot be opened or holds nothing of that kind. Once `stop`
+    /// is requested, opening and reading end early.
+    explicit Demuxer(std::filesystem::path path, std::stop_token stop = {},
+                     StreamKind kind = StreamKind::Video);
 
     Demuxer(const Demuxer&) = delete;
     Demuxer& operator=(const Demuxer&) = delete;
@@ -33,7 +37,7 @@ public:
 
     /// Whether reading ended for another reason than the end of the file.
     [[nodiscard]] bool wasBroken() const { return m_wasBroken; }
-    /// Packets of the video that the file listed when it was opened.
+    /// Packets of the stream that the file listed when it was opened.
     [[nodiscard]] int storedEntries() const { return m_storedEntries; }
     /// How far reading has come, 0 to 1; 0 when the length of the file is not known.
     [[nodiscard]] double fractionRead() const;
@@ -42,9 +46,11 @@ private:
     void open();
     void noteEntries();
     void chooseStream();
+    [[nodiscard]] AVMediaType mediaType() const;
 
     std::filesystem::path m_path;
     std::stop_token m_stop;
+    StreamKind m_kind;
     AvOwner<AVFormatContext> m_container;
     AvOwner<AVPacket> m_packet;
     unsigned m_stream = 0;

@@ -1,6 +1,7 @@
 #include "desktop/taking/taking_actions.h"
 
 #include "desktop/film/film_deck.h"
+#include "desktop/film/film_sound.h"
 #include "desktop/shell/help_menu.h"
 #include "desktop/shell/workspace.h"
 #include "desktop/taking/taking_window.h"
@@ -18,6 +19,8 @@ namespace kavela::desktop {
 namespace {
 
 constexpr double SlowMotion = 0.25;
+constexpr const char* SoundKey = "sound";
+constexpr const char* SoundOff = "off";
 
 QKeySequence keys(QKeyCombination combination) {
     return QKeySequence(combination);
@@ -186,8 +189,20 @@ void TakingActions::makePlayMenu() {
     add(*menu, tr("&Slower"), {keys(Qt::Key_BracketLeft)}, [&deck] { deck.slower(); });
     add(*menu, tr("&Faster"), {keys(Qt::Key_BracketRight)}, [&deck] { deck.faster(); });
     add(*menu, tr("&Normal speed"), {keys(Qt::Key_Backspace)}, [&deck] { deck.normalSpeed(); });
+    makeSoundAction(*menu);
     menu->addSeparator();
     makeMotionActions(*menu);
+}
+
+void TakingActions::makeSoundAction(QMenu& menu) {
+    FilmSound& sound = m_window.sound();
+    sound.setMuted(m_workspace.remembered(SoundKey).value(0) == SoundOff);
+    QAction* action = add(menu, tr("S&ound, at normal speed"), {keys(Qt::Key_S)}, [this, &sound] {
+        sound.setMuted(!sound.isMuted());
+        m_workspace.remember(SoundKey, {sound.isMuted() ? SoundOff : "on"});
+    });
+    action->setCheckable(true);
+    action->setChecked(!sound.isMuted());
 }
 
 void TakingActions::makeMotionActions(QMenu& menu) {

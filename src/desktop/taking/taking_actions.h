@@ -36,6 +36,7 @@ private:
     void makeMarkMenu();
     void makePenaltyMenu();
     void makePlayMenu();
+    void makeSoundAction(QMenu& menu);
     void makeMotionActions(QMenu& menu);
     void makeCameraMenu();
     QAction* add(QMenu& menu, const QString& text, const QList<QKeySequence>& keys, Act act);

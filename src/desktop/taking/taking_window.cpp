@@ -2,6 +2,7 @@
 
 #include "common/number_text.h"
 #include "desktop/film/film_deck.h"
+#include "desktop/film/film_sound.h"
 #include "desktop/film/film_view.h"
 #include "desktop/film/time_line.h"
 #include "desktop/race/frozen_table.h"
@@ -60,6 +61,7 @@ TakingWindow::TakingWindow(Workspace& workspace, Autosave autosave)
       m_race(workspace),
       m_tableModel(m_race),
       m_deck(new FilmDeck(std::make_shared<FrameCache>(FrameCacheBytes), this)),
+      m_sound(new FilmSound(*m_deck, this)),
       m_chooseFiles([this](const QString& title, const QString& filter) {
           return QFileDialog::getOpenFileNames(this, title, m_document.folder(), filter);
       }) {

@@ -18,6 +18,7 @@ class QTableView;
 namespace kavela::desktop {
 
 class FilmDeck;
+class FilmSound;
 class FilmView;
 class FrozenTable;
 class GateStrip;
@@ -41,6 +42,7 @@ public:
 
     [[nodiscard]] TakingDocument& document() { return m_document; }
     [[nodiscard]] FilmDeck& deck() const { return *m_deck; }
+    [[nodiscard]] FilmSound& sound() const { return *m_sound; }
     [[nodiscard]] int currentRun() const { return m_run; }
     [[nodiscard]] const GateStrip& gates() const { return *m_gates; }
     [[nodiscard]] std::optional<std::size_t> selectedMark() const { return m_selected; }
@@ -109,6 +111,7 @@ private:
     RaceDocument m_race; ///< of the table below
     SplitTableModel m_tableModel;
     FilmDeck* m_deck;
+    FilmSound* m_sound;
     TakingActions* m_actions = nullptr;
     ChooseFiles m_chooseFiles;
     int m_run = -1;
