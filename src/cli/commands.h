@@ -13,6 +13,10 @@ void addPerfect(CLI::App& app, int& status);
 void addExport(CLI::App& app, int& status);
 void addImportResults(CLI::App& app, int& status);
 void addCollect(CLI::App& app, int& status);
+void addTeam(CLI::App& app, int& status);
+void addSelection(CLI::App& app, int& status);
+void addPlanning(CLI::App& app, int& status);
+void addGym(CLI::App& app, int& status);
 void addDemo(CLI::App& app, int& status);
 
 } // namespace kavela::cli

@@ -29,6 +29,10 @@ int run(int argc, char** argv) {
     cli::addExport(app, status);
     cli::addImportResults(app, status);
     cli::addCollect(app, status);
+    cli::addTeam(app, status);
+    cli::addSelection(app, status);
+    cli::addPlanning(app, status);
+    cli::addGym(app, status);
     cli::addDemo(app, status);
     try {
         app.parse(argc, argv);

@@ -2,10 +2,13 @@
 
 #include "boatmotion/session_files.h"
 #include "cli/console.h"
+#include "cli/planning_upgrade.h"
 #include "cli/progress_bar.h"
 #include "cli/upgrade_paths.h"
 #include "common/json_decode.h"
 #include "common/parallel.h"
+#include "planning/planning_file.h"
+#include "results/selection_file.h"
 #include "splitdata/loader.h"
 
 #include <CLI/CLI.hpp>
@@ -82,8 +85,42 @@ Upgrade upgradeSplitFileAt(const fs::path& path) {
     return result;
 }
 
+Upgrade upgradeSelectionAt(const fs::path& path) {
+    Upgrade result;
+    RecordedAlerts alerts(result.lines);
+    const auto log = [&](std::string_view line) { result.lines.emplace_back(line); };
+    const RecognisedSelectionFile file = recogniseSelectionFile(path);
+    if (!file.version)
+        reportIncompatible(file, log, alerts);
+    else if (file.isCurrent())
+        return result;
+    else if (rewriteSelectionFile(file, path, log))
+        return {Outcome::Upgraded,
+                {"The selection races were upgraded from version " +
+                 std::string(file.version->label) + ": " + pathText(path)}};
+    result.outcome = Outcome::Failed;
+    return result;
+}
+
+Upgrade upgradePlanning(const fs::path& path) {
+    PlanningUpgrade result = upgradePlanningAt(path);
+    switch (result.outcome) {
+    case PlanningUpgrade::Outcome::Current:
+        return {Outcome::Current, std::move(result.lines)};
+    case PlanningUpgrade::Outcome::Upgraded:
+        return {Outcome::Upgraded, std::move(result.lines)};
+    case PlanningUpgrade::Outcome::Failed:
+        break;
+    }
+    return {Outcome::Failed, std::move(result.lines)};
+}
+
 Upgrade upgrade(const fs::path& path) {
     try {
+        if (smallExtension(path) == ".kvsr")
+            return upgradeSelectionAt(path);
+        if (smallExtension(path) == PlanningExtension)
+            return upgradePlanning(path);
         if (path.extension() == ".kvb")
             if (const auto recording = upgradeRecording(path))
                 return *recording;
@@ -106,7 +143,7 @@ std::string summary(const std::vector<Upgrade>& upgrades) {
 }
 
 int upgradeAll(const std::vector<std::string>& paths) {
-    const PathsToUpgrade found = splitFilesUnder(paths);
+    const PathsToUpgrade found = filesToUpgrade(paths);
     std::vector<Upgrade> upgrades(found.files.size());
     {
         ProgressBar progress(upgrades.size());
@@ -130,11 +167,14 @@ void addUpgrade(CLI::App& app, int& status) {
     const auto paths = std::make_shared<std::vector<std::string>>();
     CLI::App* command =
         app.add_subcommand("upgrade", "Brings files of older releases to the current version");
-    command->add_option("PATH", *paths, "Split files, recordings, or folders of split files")
+    command
+        ->add_option("PATH", *paths,
+                     "Split files, selection races, plannings and recordings, or folders")
         ->required();
     command->footer("Split files are rewritten in place, safely: on any failure the old file stays "
-                    "as it is. A raw recording (.kvb) of version 4 is converted to a new file "
-                    "beside it.");
+                    "as it is. So are selection races (.kvsr) and plannings (.planning), whose "
+                    "previous file is kept beside them with \"_old\" in its name. A raw recording "
+                    "(.kvb) of version 4 is converted to a new file beside it.");
     command->callback([paths, &status] { status = upgradeAll(*paths); });
 }
 

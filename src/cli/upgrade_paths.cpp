@@ -1,6 +1,8 @@
 #include "cli/upgrade_paths.h"
 
 #include "cli/console.h"
+#include "planning/planning_file.h"
+#include "results/selection_file.h"
 
 #include <algorithm>
 #include <cctype>
@@ -12,11 +14,11 @@ namespace fs = std::filesystem;
 
 namespace {
 
-bool isSplitFileName(const fs::path& path) {
-    std::string extension = path.extension().string();
-    std::transform(extension.begin(), extension.end(), extension.begin(),
-                   [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
-    return extension == ".kvx";
+/// Whether files of this name are upgraded when their folder is. What an upgrade has kept is not.
+bool isUpgradedName(const fs::path& path) {
+    const std::string extension = smallExtension(path);
+    return extension == ".kvx" || (extension == ".kvsr" && !isKeptSelectionName(path)) ||
+           (extension == PlanningExtension && !isKeptPlanningName(path));
 }
 
 void walk(const fs::path& folder, PathsToUpgrade& found) {
@@ -29,7 +31,7 @@ void walk(const fs::path& folder, PathsToUpgrade& found) {
             found.faults.push_back("The folder " + pathText(entry->path()) +
                                    " could not be read: no permission");
             entry.disable_recursion_pending();
-        } else if (isSplitFileName(entry->path()) && entry->is_regular_file(unreadable)) {
+        } else if (isUpgradedName(entry->path()) && entry->is_regular_file(unreadable)) {
             found.files.push_back(entry->path());
         }
     }
@@ -55,7 +57,14 @@ void dropRepeated(std::vector<fs::path>& files) {
 
 } // namespace
 
-PathsToUpgrade splitFilesUnder(const std::vector<std::string>& paths) {
+std::string smallExtension(const fs::path& path) {
+    std::string extension = path.extension().string();
+    std::transform(extension.begin(), extension.end(), extension.begin(),
+                   [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
+    return extension;
+}
+
+PathsToUpgrade filesToUpgrade(const std::vector<std::string>& paths) {
     PathsToUpgrade found;
     for (const fs::path path : paths) {
         std::error_code ignored;

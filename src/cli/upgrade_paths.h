@@ -12,7 +12,10 @@ struct PathsToUpgrade {
     std::vector<std::string> faults;          ///< folders that could not be walked
 };
 
-/// A folder stands for all split files below it; any other path for itself, once.
-[[nodiscard]] PathsToUpgrade splitFilesUnder(const std::vector<std::string>& paths);
+/// A folder stands for all split and selection files below it; any other path for itself, once.
+[[nodiscard]] PathsToUpgrade filesToUpgrade(const std::vector<std::string>& paths);
+
+/// The extension of a name in small letters: ".kvx".
+[[nodiscard]] std::string smallExtension(const std::filesystem::path& path);
 
 } // namespace kavela::cli

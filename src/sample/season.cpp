@@ -3,8 +3,11 @@
 #include "common/json_encode.h"
 #include "sample/cross.h"
 #include "sample/older_releases.h"
+#include "sample/planning.h"
 #include "sample/races.h"
 #include "sample/recordings.h"
+#include "sample/selection.h"
+#include "sample/team.h"
 #include "sample/training.h"
 
 #include <utility>
@@ -24,6 +27,21 @@ void addOpener(std::vector<SampleFile>& files) {
     files.push_back({"races/spring_opener_results.csv", officialList(results)});
 }
 
+void addPlanning(std::vector<SampleFile>& files) {
+    const std::vector<splittakerdata031> runs{holdRace(springOpener()),
+                                              holdRace(riversideCup()),
+                                              holdRace(highlandOpen()),
+                                              holdRace(harbourNight()),
+                                              gateLaps(),
+                                              formTest()};
+    files.push_back({"planning/season.planning", encode(groupPlanning(runs))});
+    files.push_back({"planning/season.planinf", encode(groupAccess())});
+    files.push_back({"planning/morning_variability.csv", morningVariability()});
+    for (OldPlanning& file : oldPlannings())
+        files.push_back(
+            {"older/planning_v" + std::string(file.version) + ".planning", std::move(file.text)});
+}
+
 } // namespace
 
 std::vector<SampleFile> sampleSeason() {
@@ -37,6 +55,12 @@ std::vector<SampleFile> sampleSeason() {
     files.push_back({"recordings/upstream_drill.kvb", encode(upstreamDrill())});
     files.push_back({"recordings/sprint_with_watch.kvb", encode(sprintWithWatch())});
     files.push_back({"recordings/old_phone_v4.kvb", encode(oldPhone())});
+    files.push_back({"team/kavela_team.kvteam", encode(sampleTeam())});
+    files.push_back({"selection/spring_selection.kvsr", encode(springSelection())});
+    for (OldSelection& file : oldSelections())
+        files.push_back(
+            {"older/selection_v" + std::string(file.version) + ".kvsr", std::move(file.text)});
+    addPlanning(files);
     for (OldFile& file : filesOfOldReleases())
         files.push_back(
             {"older/release_" + std::string(file.release) + ".kvx", std::move(file.text)});

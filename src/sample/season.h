@@ -12,8 +12,8 @@ struct SampleFile {
     std::string content;
 };
 
-/// The sample season: races, trainings, recordings, and files of older releases, all of invented
-/// people on invented courses. The same bytes at every call.
+/// The sample season: races, trainings, recordings, a team, a selection, and files of older
+/// releases, all of invented people on invented courses. The same bytes at every call.
 [[nodiscard]] std::vector<SampleFile> sampleSeason();
 
 } // namespace kavela

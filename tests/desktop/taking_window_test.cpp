@@ -1,6 +1,7 @@
 #include "desktop/taking/taking_window.h"
 
 #include "common/recorders.h"
+#include "common/safe_file.h"
 #include "common/temp_folder.h"
 #include "desktop/film/film_deck.h"
 #include "desktop/film/film_view.h"
@@ -37,11 +38,23 @@ using ::testing::SizeIs;
 
 constexpr int Patience = 20000; // milliseconds
 
-/// Two runs of a race of the sample season, and their films, made once.
+/// Two runs of a race of the sample season, and their films.
 struct Evening {
     splittakerdata031 race;
     std::vector<std::pair<fs::path, std::string>> films;
 };
+
+/// Films take seconds to make, and ctest starts a process for each test: they are made once and
+/// kept beside the program.
+std::string filmOf(const films::PlannedFilm& film) {
+    const fs::path kept = fs::path(KAVELA_FILM_FOLDER) / film.name.filename();
+    if (fs::exists(kept))
+        return contentOf(kept);
+    fs::create_directories(kept.parent_path());
+    std::string made = films::makeFilm(*film.scene);
+    writeFileSafely(kept, made);
+    return made;
+}
 
 const Evening& evening() {
     static const Evening made = [] {
@@ -50,7 +63,7 @@ const Evening& evening() {
         evening.race.athletes.resize(2);
         for (const films::PlannedFilm& film :
              films::sessionFilms(evening.race, {}, [](const fs::path&) { return true; }))
-            evening.films.emplace_back(film.name, films::makeFilm(*film.scene));
+            evening.films.emplace_back(film.name, filmOf(film));
         return evening;
     }();
     return made;

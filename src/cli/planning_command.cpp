@@ -1,0 +1,80 @@
+#include "cli/commands.h"
+
+#include "cli/console.h"
+#include "cli/planning_json.h"
+#include "cli/planning_text.h"
+#include "cli/planning_upgrade.h"
+
+#include <CLI/CLI.hpp>
+
+#include <algorithm>
+#include <memory>
+
+namespace kavela::cli {
+
+namespace {
+
+struct ShowCall {
+    std::string file;
+    bool json = false;
+};
+
+int show(const ShowCall& call) {
+    const RecognisedPlanning planning = recognisePlanningFile(call.file, logLine);
+    if (!planning.version) {
+        ConsoleAlerts alerts;
+        reportIncompatible(planning, logLine, alerts);
+        return NotDone;
+    }
+    return print(call.json ? planningJson(planning) : planningText(planning.document)) ? Done
+                                                                                       : NotDone;
+}
+
+/// The same file named twice is upgraded once and current then.
+int upgradeAll(const std::vector<std::string>& files) {
+    using Outcome = PlanningUpgrade::Outcome;
+    std::int64_t upgraded = 0;
+    std::int64_t failed = 0;
+    for (const std::string& file : files) {
+        const PlanningUpgrade upgrade = upgradePlanningAt(file);
+        std::for_each(upgrade.lines.begin(), upgrade.lines.end(), logLine);
+        upgraded += upgrade.outcome == Outcome::Upgraded;
+        failed += upgrade.outcome == Outcome::Failed;
+    }
+    const auto count = static_cast<std::int64_t>(files.size());
+    const std::string summary = counted(count, "file", "files") + ": " + std::to_string(upgraded) +
+                                " upgraded, " + std::to_string(count - upgraded - failed) +
+                                " already current, " + std::to_string(failed) + " not opened\n";
+    return print(summary) && failed == 0 ? Done : NotDone;
+}
+
+void addPlanningShow(CLI::App& planning, int& status) {
+    const auto call = std::make_shared<ShowCall>();
+    CLI::App* command = planning.add_subcommand("show", "The weeks of each athlete's seasons");
+    command->add_option("FILE", call->file, "Planning (.planning) of any version")->required();
+    command->add_flag("--json", call->json, "Print one JSON document");
+    command->footer("The file is only read, also one of an older version.");
+    command->callback([call, &status] { status = show(*call); });
+}
+
+void addPlanningUpgrade(CLI::App& planning, int& status) {
+    const auto files = std::make_shared<std::vector<std::string>>();
+    CLI::App* command =
+        planning.add_subcommand("upgrade", "Brings plannings to the current version");
+    command->add_option("FILE", *files, "Plannings (.planning) of any version")->required();
+    command->footer("The files are rewritten in place, safely. The previous file is kept beside "
+                    "each as \"NAME_old.planning\".");
+    command->callback([files, &status] { status = upgradeAll(*files); });
+}
+
+} // namespace
+
+void addPlanning(CLI::App& app, int& status) {
+    CLI::App* planning = app.add_subcommand("planning", "Shows and upgrades training plannings");
+    planning->require_subcommand(1);
+    planning->footer("Plannings of every version are read.");
+    addPlanningShow(*planning, status);
+    addPlanningUpgrade(*planning, status);
+}
+
+} // namespace kavela::cli

@@ -1,0 +1,24 @@
+#pragma once
+
+#include "report/paged_report.h"
+
+#include <filesystem>
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace kavela::cli {
+
+/// A report to be written under a name of its own.
+struct ReportFile {
+    std::string name; ///< without folder
+    std::function<std::unique_ptr<report::PagedReport>()> make;
+};
+
+/// Makes the reports and writes them into a folder that exists; false, after a message, when one
+/// of them could not be written.
+[[nodiscard]] bool areReportsWritten(const std::vector<ReportFile>& reports,
+                                     const std::filesystem::path& folder);
+
+} // namespace kavela::cli

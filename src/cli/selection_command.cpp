@@ -1,0 +1,238 @@
+#include "cli/commands.h"
+
+#include "cli/console.h"
+#include "cli/report_files.h"
+#include "cli/selection_json.h"
+#include "cli/selection_text.h"
+#include "cli/split_file_edit.h"
+#include "common/display_text.h"
+#include "common/text_file.h"
+#include "report/selection_report.h"
+#include "report/selection_times_report.h"
+#include "results/messages.h"
+#include "results/selection_attach.h"
+#include "results/selection_file.h"
+#include "results/selection_import.h"
+
+#include <CLI/CLI.hpp>
+
+#include <memory>
+
+namespace kavela::cli {
+
+namespace {
+
+struct SelectionCall {
+    std::string file;
+    std::optional<std::size_t> bonus;
+    bool json = false;
+    bool write = false;
+    std::string pdf;
+    std::string list;
+    std::size_t race = 0;
+    std::vector<std::string> splitFiles;
+};
+
+/// A selection of any layout, read without being rewritten; nothing, after a message, when it is
+/// none.
+std::optional<RecognisedSelectionFile> openedSelection(const std::string& path) {
+    RecognisedSelectionFile file = recogniseSelectionFile(path);
+    if (file.version)
+        return file;
+    ConsoleAlerts alerts;
+    reportIncompatible(file, logLine, alerts);
+    return std::nullopt;
+}
+
+/// Whether the file may be written, which one of an older layout may not.
+bool isWritable(const RecognisedSelectionFile& file, const std::string& path) {
+    if (file.isCurrent())
+        return true;
+    logLine("The file " + pathText(path) + " is of an older version, " +
+            std::string(file.version->label) +
+            ", and was not changed. Bring it to the current one first: kavela upgrade " +
+            pathText(path));
+    return false;
+}
+
+/// A selection that is to be changed; nothing, after a message, when it cannot be.
+std::optional<selectionracesStruct_v3> openedForChange(const std::string& path) {
+    auto file = openedSelection(path);
+    if (!file || !isWritable(*file, path))
+        return std::nullopt;
+    return std::move(file->document);
+}
+
+void warnOfZeros(const selectionracesStruct_v3& document) {
+    for (const ResultPlace& place : zeroResults(document)) {
+        const srCategoryStruct_v3& category = document.categories[place.category];
+        logLine("The time of " + category.athletes[place.athlete].name + " (" + category.cat +
+                ") in " + document.races[place.race].location +
+                " is 0; a missing result should be 999.9.");
+    }
+}
+
+bool areBothWritten(const selectionracesStruct_v3& document, const SelectionCall& call) {
+    return areReportsWritten(
+        {{report::SelectionFileName, [&] { return report::selectionReport(document, call.bonus); }},
+         {report::selectionTimesFileName(document),
+          [&] { return report::selectionTimesReport(document, call.bonus); }}},
+        call.pdf);
+}
+
+int rank(const SelectionCall& call) {
+    auto file = openedSelection(call.file);
+    if (!file || (call.write && !isWritable(*file, call.file)))
+        return NotDone;
+    selectionracesStruct_v3& document = file->document;
+    recomputeSelection(document, call.bonus);
+    warnOfZeros(document);
+    if (call.bonus && *call.bonus >= bonusKinds(document))
+        logLine("No athlete has a bonus of kind " + std::to_string(*call.bonus) + '.');
+    if (call.write && !saveSelectionFile(document, call.file, logLine))
+        return NotDone;
+    if (!call.pdf.empty() && !areBothWritten(document, call))
+        return NotDone;
+    const std::string output =
+        call.json ? selectionJson(document, call.bonus) : selectionText(document, call.bonus);
+    return print(output) ? Done : NotDone;
+}
+
+std::string importText(const ListImport& import) {
+    std::string text = counted(import.imported, "athlete", "athletes") + " imported";
+    if (!import.skipped.empty())
+        text += ", " + counted(static_cast<std::int64_t>(import.skipped.size()), "line", "lines") +
+                " skipped";
+    text += '\n';
+    for (const RefusedLine& skipped : import.skipped)
+        text += "Line " + std::to_string(skipped.line) + ": " + printable(skipped.reason) + '\n';
+    return text;
+}
+
+/// The text of a list; nothing, after a message, when it cannot be read.
+std::optional<std::string> textOf(const std::string& list) {
+    std::string reason;
+    try {
+        return readTextFile(list);
+    } catch (const FileError& error) {
+        reason = error.reason();
+    } catch (const DecodeError& error) {
+        reason = error.what();
+    }
+    logLine("The list " + pathText(list) + " could not be read: " + reason);
+    return std::nullopt;
+}
+
+int importList(const SelectionCall& call) {
+    auto document = openedForChange(call.file);
+    if (!document)
+        return NotDone;
+    const auto text = textOf(call.list);
+    if (!text)
+        return NotDone;
+    const ListImport import = importAthletes(*document, *text);
+    if (import.needsRace) {
+        ConsoleAlerts().show({messages::Careful, messages::AddARaceFirst});
+        return NotDone;
+    }
+    return saveSelectionFile(*document, call.file, logLine) && print(importText(import)) ? Done
+                                                                                         : NotDone;
+}
+
+std::string attachedText(const selectionracesStruct_v3& document, std::size_t race,
+                         const Attached& attached) {
+    std::string text = counted(attached.results, "result", "results") + " attached to " +
+                       printable(document.races[race].location) + '\n';
+    for (const ResultPlace& place : attached.missing) {
+        const srCategoryStruct_v3& category = document.categories[place.category];
+        text += "No run: " + printable(category.athletes[place.athlete].name) + " (" +
+                printable(category.cat) + ")\n";
+    }
+    for (const UnusedRun& run : attached.unused)
+        text += "Not used: " + printable(run.crew) + " (" + printable(run.category) + ") " +
+                run.reason + '\n';
+    return text;
+}
+
+std::optional<std::vector<splittakerdata031>> openedRaces(const std::vector<std::string>& paths) {
+    std::vector<splittakerdata031> races;
+    for (const std::string& path : paths) {
+        auto file = openedSplitFile(path);
+        if (!file)
+            return std::nullopt;
+        races.push_back(std::move(file->document));
+    }
+    return races;
+}
+
+int attach(const SelectionCall& call) {
+    auto document = openedForChange(call.file);
+    if (!document)
+        return NotDone;
+    if (call.race >= document->races.size()) {
+        logLine("There is no race " + std::to_string(call.race) + "; the file has " +
+                counted(static_cast<std::int64_t>(document->races.size()), "race", "races") +
+                ", counted from 0.");
+        return NotDone;
+    }
+    const auto races = openedRaces(call.splitFiles);
+    if (!races)
+        return NotDone;
+    const Attached attached = attachRace(*document, call.race, *races);
+    const std::string text = attachedText(*document, call.race, attached);
+    recomputeSelection(*document, call.bonus);
+    return saveSelectionFile(*document, call.file, logLine) && print(text) ? Done : NotDone;
+}
+
+void addRank(CLI::App& selection, const std::shared_ptr<SelectionCall>& call, int& status) {
+    CLI::App* command = selection.add_subcommand("rank", "The ranking of each category");
+    command->add_option("FILE", call->file, "Selection file (.kvsr) of any layout")->required();
+    command->add_option("--bonus", call->bonus, "Kind of bonus that counts, from 0")
+        ->check(CLI::NonNegativeNumber);
+    command->add_flag("--json", call->json, "Print one JSON document");
+    command->add_option("--pdf", call->pdf, "Folder to write both reports into");
+    command->add_flag("--write", call->write, "Store percentages and scores in the file");
+    command->footer("Percentages in brackets do not count: the worst race, with a bonus the second "
+                    "worst too. Without --write the file is only read.");
+    command->callback([call, &status] { status = rank(*call); });
+}
+
+void addImportAthletes(CLI::App& selection, const std::shared_ptr<SelectionCall>& call,
+                       int& status) {
+    CLI::App* command =
+        selection.add_subcommand("import-athletes", "Adds athletes from a list to a selection");
+    command->add_option("FILE", call->file, "Selection file (.kvsr)")->required();
+    command->add_option("LIST", call->list, "Text with lines Cat;Name;Surname;year;club")
+        ->required();
+    command->footer("The first line of the list holds titles and is skipped.");
+    command->callback([call, &status] { status = importList(*call); });
+}
+
+void addAttach(CLI::App& selection, const std::shared_ptr<SelectionCall>& call, int& status) {
+    CLI::App* command =
+        selection.add_subcommand("attach", "Takes the results of a race from its split files");
+    command->add_option("FILE", call->file, "Selection file (.kvsr)")->required();
+    command->add_option("--race", call->race, "Race of the selection, counted from 0")
+        ->required()
+        ->check(CLI::NonNegativeNumber);
+    command->add_option("--bonus", call->bonus, "Kind of bonus that counts in the scores, from 0")
+        ->check(CLI::NonNegativeNumber);
+    command->add_option("SPLITFILE", call->splitFiles, "Split files (.kvx) of the race")
+        ->required();
+    command->footer("Of several runs of an athlete the best one counts. Who has none gets a "
+                    "missing result, in the categories that were raced.");
+    command->callback([call, &status] { status = attach(*call); });
+}
+
+} // namespace
+
+void addSelection(CLI::App& app, int& status) {
+    const auto call = std::make_shared<SelectionCall>();
+    CLI::App* selection = app.add_subcommand("selection", "Selection races and their ranking");
+    selection->require_subcommand(1);
+    addRank(*selection, call, status);
+    addImportAthletes(*selection, call, status);
+    addAttach(*selection, call, status);
+}
+
+} // namespace kavela::cli

@@ -1,0 +1,149 @@
+#include "cli/commands.h"
+
+#include "cli/console.h"
+#include "cli/report_files.h"
+#include "common/display_text.h"
+#include "common/json_encode.h"
+#include "report/team_report.h"
+#include "results/athlete_summary.h"
+#include "results/categorization.h"
+#include "results/team_file.h"
+#include "results/team_seasons.h"
+#include "splitdata/loader.h"
+
+#include <CLI/CLI.hpp>
+
+#include <memory>
+#include <optional>
+
+namespace kavela {
+
+BOOST_DESCRIBE_STRUCT(AthleteSummary, (), (medals, championshipMedals, top6, top15))
+BOOST_DESCRIBE_STRUCT(CategorizedRace, (), (year, event, location, finalPos))
+BOOST_DESCRIBE_STRUCT(Categorization, (),
+                      (name, medals, championshipMedals, top6, top15, events, label, lines, races))
+
+namespace cli {
+
+namespace {
+
+struct TeamCall {
+    std::string file;
+    std::string athlete;
+    std::string category;
+    std::string pdf;
+    bool json = false;
+};
+
+/// The team of a file; nothing, after a message, when it cannot be read.
+std::optional<myTeamToSaveStruct> openedTeam(const std::string& path) {
+    std::string reason;
+    try {
+        return readTeamFile(path);
+    } catch (const DecodeError& error) {
+        reason = error.what();
+    } catch (const FileError& error) {
+        reason = error.reason();
+    }
+    logLine("The file could not be read: " + reason);
+    ConsoleAlerts().show({"", IncompatibleFileText});
+    return std::nullopt;
+}
+
+std::string categoriesOf(const myTeamStruct& athlete) {
+    std::string text;
+    for (const mtCatsStruct& category : athlete.cats)
+        text += (text.empty() ? "" : ", ") + category.cat;
+    return text.empty() ? "none" : text;
+}
+
+std::string summaryText(const myTeamStruct& athlete, const TeamCall& call,
+                        const AthleteSummary& summary) {
+    std::string text = printable(athlete.name) + ", " + printable(call.category) + '\n';
+    for (const std::string& line : summaryLines(summary))
+        text += "  " + line + '\n';
+    return text;
+}
+
+int summarize(const TeamCall& call) {
+    const auto team = openedTeam(call.file);
+    if (!team)
+        return NotDone;
+    const myTeamStruct* const athlete = athleteNamed(*team, call.athlete);
+    if (!athlete) {
+        logLine("The team has no athlete " + call.athlete + '.');
+        return NotDone;
+    }
+    if (!categoryOf(*athlete, call.category)) {
+        logLine(athlete->name + " does not race in " + call.category +
+                ". Categories: " + categoriesOf(*athlete) + '.');
+        return NotDone;
+    }
+    const AthleteSummary summary = athleteSummary(*athlete, call.category);
+    return print(call.json ? encode(summary) + '\n' : summaryText(*athlete, call, summary))
+               ? Done
+               : NotDone;
+}
+
+std::string categorizationText(const std::vector<Categorization>& all, const TeamCall& call) {
+    if (all.empty())
+        return "No athlete of " + printable(call.category) + " comes into question.\n";
+    std::string text;
+    for (const Categorization& athlete : all) {
+        text += printable(athlete.name) + "\n  " + athlete.label + '\n';
+        for (const std::string& line : athlete.lines)
+            text += "  " + line + '\n';
+        for (const CategorizedRace& race : athlete.races)
+            text += "    " + rightAligned(std::to_string(race.finalPos), 3) + "  " +
+                    std::to_string(race.year) + "  " + fitted(printable(race.event), 14) + "  " +
+                    printable(race.location) + '\n';
+        text += '\n';
+    }
+    return text;
+}
+
+int categorize(const TeamCall& call) {
+    const auto team = openedTeam(call.file);
+    if (!team)
+        return NotDone;
+    const std::vector<Categorization> all = categorizeTeam(*team, call.category);
+    if (!call.pdf.empty() &&
+        !areReportsWritten({{report::CategorizationFileName,
+                             [&] { return report::categorizationReport(call.category, all); }}},
+                           call.pdf))
+        return NotDone;
+    return print(call.json ? encode(all) + '\n' : categorizationText(all, call)) ? Done : NotDone;
+}
+
+CLI::App* addCall(CLI::App& team, const char* name, const char* help, TeamCall& call) {
+    CLI::App* command = team.add_subcommand(name, help);
+    command->add_option("FILE", call.file, "Team file (.kvteam)")->required();
+    command
+        ->add_option("--category", call.category,
+                     "Category, letter for letter as in the file: MK1, WK1, MC1, WC1, MX1, WX1")
+        ->required();
+    command->add_flag("--json", call.json, "Print one JSON document");
+    return command;
+}
+
+} // namespace
+
+void addTeam(CLI::App& app, int& status) {
+    const auto call = std::make_shared<TeamCall>();
+    CLI::App* team = app.add_subcommand("team", "What the athletes of a team reached");
+    team->require_subcommand(1);
+    CLI::App* summary =
+        addCall(*team, "summary", "Counts an athlete's medals and places of all seasons", *call);
+    summary->add_option("--athlete", call->athlete, "Name of the athlete")->required();
+    summary->footer("A race without a final position counts as a medal here.");
+    summary->callback([call, &status] { status = summarize(*call); });
+    CLI::App* categorization =
+        addCall(*team, "categorize", "Puts athletes into levels by their first two seasons", *call);
+    categorization->add_option("--pdf", call->pdf,
+                               "Folder to write \"2025 Categorization.pdf\" into");
+    categorization->callback([call, &status] { status = categorize(*call); });
+}
+
+} // namespace cli
+
+} // namespace kavela

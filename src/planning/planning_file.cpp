@@ -1,0 +1,155 @@
+#include "planning/planning_file.h"
+
+#include "common/json_decode.h"
+#include "common/json_encode.h"
+#include "common/record_convert.h"
+#include "common/safe_file.h"
+#include "planning/history/planning_history.h"
+#include "planning/messages.h"
+#include "splitdata/loader.h"
+
+#include <array>
+
+namespace kavela {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+bool readCurrent(simdjson::dom::element root, planningdatac_v6& document, Fault& fault) {
+    return tryDecode(root, document, fault);
+}
+
+template <class Old>
+bool readOld(simdjson::dom::element root, planningdatac_v6& document, Fault& fault) {
+    Old old;
+    if (!tryDecode(root, old, fault))
+        return false;
+    document = converted<planningdatac_v6>(std::move(old));
+    return true;
+}
+
+constexpr std::array Versions{
+    PlanningVersion{"planningdatac_v6", "6", readCurrent},
+    PlanningVersion{"planningdatac_v5", "5", readOld<history::planningdatac_v5>},
+    PlanningVersion{"planningdatac_v4", "4", readOld<history::planningdatac_v4>},
+    PlanningVersion{"planningdatac_v3", "3", readOld<history::planningdatac_v3>},
+    PlanningVersion{"planningdatac_v2", "2", readOld<history::planningdatac_v2>},
+    PlanningVersion{"planningdatac_v1", "1", readOld<history::planningdatac_v1>},
+};
+
+RecognisedPlanning unreadable(const Fault& fault) {
+    RecognisedPlanning found;
+    for (const PlanningVersion& version : Versions)
+        found.failures.push_back({version.record, fault});
+    return found;
+}
+
+constexpr std::string_view KeptMark = "_old";
+
+fs::path keptName(const fs::path& path, int number) {
+    std::string name = path.stem().string() + std::string(KeptMark);
+    if (number > 1)
+        name += std::to_string(number);
+    return path.parent_path() / (name + path.extension().string());
+}
+
+bool keepPrevious(const fs::path& path, const DiagnosticLog& log) {
+    try {
+        int number = 1;
+        while (!keepUnderSecondName(path, keptName(path, number)))
+            ++number;
+        return true;
+    } catch (const FileError& error) {
+        log(planning_messages::NotSaved);
+        log("The file " + path.string() +
+            " could not be kept under a second name: " + error.reason());
+        return false;
+    }
+}
+
+} // namespace
+
+std::span<const PlanningVersion> planningVersions() {
+    return Versions;
+}
+
+RecognisedPlanning recognisePlanningDocument(const JsonDocument& json, const DiagnosticLog& log) {
+    RecognisedPlanning found;
+    for (const PlanningVersion& version : Versions) {
+        Fault fault;
+        if (version.read(json.root(), found.document, fault)) {
+            found.version = &version;
+            if (!found.isCurrent())
+                log(planning_messages::TryConvert);
+            return found;
+        }
+        found.failures.push_back({version.record, std::move(fault)});
+    }
+    found.document = {};
+    return found;
+}
+
+RecognisedPlanning recognisePlanningFile(const fs::path& path, const DiagnosticLog& log) {
+    try {
+        return recognisePlanningDocument(JsonDocument::fromFile(path), log);
+    } catch (const DecodeError& error) {
+        return unreadable(error.fault());
+    } catch (const FileError& error) {
+        return unreadable({{}, error.reason()});
+    }
+}
+
+std::size_t variabilityWithoutPlace(const RecognisedPlanning& planning) {
+    std::size_t count = 0;
+    if (planning.version && !planning.isCurrent())
+        for (const athletesplanning_v6& athlete : planning.document.athletes)
+            for (const yearsplannings_v6& season : athlete.year)
+                count += season.heartdata.variability.size();
+    return count;
+}
+
+std::optional<planningdatac_v6> openPlanningFile(const fs::path& path, const DiagnosticLog& log,
+                                                 Alerts& alerts) {
+    RecognisedPlanning planning = recognisePlanningFile(path, log);
+    if (planning.version)
+        return std::move(planning.document);
+    reportIncompatible(planning, log, alerts);
+    return std::nullopt;
+}
+
+void reportIncompatible(const RecognisedPlanning& planning, const DiagnosticLog& log,
+                        Alerts& alerts) {
+    for (const FailedAttempt& failure : planning.failures)
+        log(std::string(failure.record) + ": " + failure.fault.message());
+    alerts.show({"", IncompatibleFileText});
+}
+
+bool savePlanningFile(const planningdatac_v6& document, const fs::path& path,
+                      const DiagnosticLog& log) {
+    std::string reason;
+    try {
+        writeFileSafely(path, encode(document));
+        return true;
+    } catch (const FileError& error) {
+        reason = error.reason();
+    } catch (const EncodeError& error) {
+        reason = error.what();
+    }
+    log(planning_messages::NotSaved);
+    log("The file " + path.string() + " could not be written: " + reason);
+    return false;
+}
+
+bool rewritePlanningFile(const RecognisedPlanning& planning, const fs::path& path,
+                         const DiagnosticLog& log) {
+    return keepPrevious(path, log) && savePlanningFile(planning.document, path, log);
+}
+
+bool isKeptPlanningName(const fs::path& path) {
+    std::string stem = path.stem().string();
+    stem.erase(stem.find_last_not_of("0123456789") + 1);
+    return stem.ends_with(KeptMark);
+}
+
+} // namespace kavela

@@ -1,0 +1,121 @@
+#include "results/athlete_keys.h"
+
+#include "common/folded_text.h"
+
+#include <algorithm>
+#include <map>
+#include <vector>
+
+namespace kavela {
+
+namespace {
+
+std::vector<std::string> wordsOf(std::string_view text) {
+    constexpr std::string_view Blanks = " \t\r\n,";
+    std::vector<std::string> words;
+    while (!text.empty()) {
+        const std::size_t end = std::min(text.find_first_of(Blanks), text.size());
+        if (end > 0)
+            words.emplace_back(text.substr(0, end));
+        text.remove_prefix(std::min(end + 1, text.size()));
+    }
+    return words;
+}
+
+/// The first in the alphabet of the texts that come of moving words from the front to the back:
+/// either part of a name may have several words.
+std::string personKey(std::string_view name) {
+    std::vector<std::string> words = wordsOf(folded(name));
+    std::string best;
+    for (std::size_t turn = 0; turn < words.size(); ++turn) {
+        std::string text;
+        for (const std::string& word : words)
+            text += word + ' ';
+        if (turn == 0 || text < best)
+            best = std::move(text);
+        std::rotate(words.begin(), words.begin() + 1, words.end());
+    }
+    return best;
+}
+
+void addPeople(std::string_view crew, std::vector<std::string>& keys) {
+    while (!crew.empty()) {
+        const std::size_t dash = crew.find(" - ");
+        const std::size_t end = std::min({crew.find_first_of("/&+"), dash, crew.size()});
+        if (std::string key = personKey(crew.substr(0, end)); !key.empty())
+            keys.push_back(std::move(key));
+        crew.remove_prefix(std::min(end + (end == dash ? 3 : 1), crew.size()));
+    }
+}
+
+std::string joined(std::vector<std::string> keys) {
+    std::sort(keys.begin(), keys.end());
+    std::string text;
+    for (const std::string& key : keys)
+        text += key + '/';
+    return text;
+}
+
+char32_t capitalLetter(char32_t letter) {
+    static const std::map<char32_t, char32_t> Capitals = [] {
+        constexpr char32_t EndOfLatin = 0x1F00;
+        std::map<char32_t, char32_t> capitals;
+        for (char32_t capital = U'A'; capital < EndOfLatin; ++capital)
+            if (const char32_t small = smallLetter(capital); small != capital)
+                capitals.emplace(small, capital);
+        return capitals;
+    }();
+    const auto found = Capitals.find(letter);
+    return found == Capitals.end() ? letter : found->second;
+}
+
+void appendUtf8(std::string& text, char32_t character) {
+    const auto byte = [&](char32_t bits) { text += static_cast<char>(bits); };
+    if (character < 0x80) {
+        byte(character);
+    } else if (character < 0x800) {
+        byte(0xc0U | (character >> 6U));
+        byte(0x80U | (character & 0x3fU));
+    } else if (character < 0x10000) {
+        byte(0xe0U | (character >> 12U));
+        byte(0x80U | ((character >> 6U) & 0x3fU));
+        byte(0x80U | (character & 0x3fU));
+    } else {
+        byte(0xf0U | (character >> 18U));
+        byte(0x80U | ((character >> 12U) & 0x3fU));
+        byte(0x80U | ((character >> 6U) & 0x3fU));
+        byte(0x80U | (character & 0x3fU));
+    }
+}
+
+} // namespace
+
+std::string crewKey(std::string_view crew) {
+    std::vector<std::string> keys;
+    addPeople(crew, keys);
+    return joined(std::move(keys));
+}
+
+std::string crewKey(std::span<const std::string> names) {
+    std::vector<std::string> keys;
+    for (const std::string& name : names)
+        addPeople(name, keys);
+    return joined(std::move(keys));
+}
+
+std::string categoryKey(std::string_view label) {
+    constexpr std::string_view Marks = " -_./";
+    std::string key = folded(label);
+    std::erase_if(key, [&](char c) { return Marks.find(c) != std::string_view::npos; });
+    std::sort(key.begin(), key.end());
+    return key;
+}
+
+std::string inCapitals(std::string_view text) {
+    std::string capitals;
+    for (const char32_t character : charactersIn(text))
+        appendUtf8(capitals, capitalLetter(character));
+    return capitals;
+}
+
+} // namespace kavela

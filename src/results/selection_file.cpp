@@ -1,0 +1,161 @@
+#include "results/selection_file.h"
+
+#include "common/json_decode.h"
+#include "common/json_encode.h"
+#include "common/record_convert.h"
+#include "common/safe_file.h"
+#include "results/history/selection_history.h"
+#include "results/messages.h"
+#include "splitdata/loader.h"
+
+#include <algorithm>
+#include <array>
+
+namespace kavela {
+
+namespace fs = std::filesystem;
+
+bool read(simdjson::dom::element element, std::vector<bool>& flags, Fault& fault) {
+    simdjson::dom::array array;
+    if (element.get(array) != simdjson::SUCCESS)
+        return json_detail::refuse(fault, "an array", element);
+    flags.clear();
+    for (const simdjson::dom::element entry : array) {
+        bool flag = false;
+        if (!json_detail::read(entry, flag, fault)) {
+            fault.prependIndex(flags.size());
+            return false;
+        }
+        flags.push_back(flag);
+    }
+    return true;
+}
+
+namespace {
+
+bool readCurrent(simdjson::dom::element root, selectionracesStruct_v3& document, Fault& fault) {
+    return tryDecode(root, document, fault);
+}
+
+template <class Old>
+bool readOld(simdjson::dom::element root, selectionracesStruct_v3& document, Fault& fault) {
+    Old old;
+    if (!tryDecode(root, old, fault))
+        return false;
+    document = converted<selectionracesStruct_v3>(std::move(old));
+    return true;
+}
+
+constexpr std::array Versions{
+    SelectionVersion{"selectionracesStruct_v3", "3", readCurrent},
+    SelectionVersion{"selectionracesStruct_v2", "2", readOld<history::selectionracesStruct_v2>},
+    SelectionVersion{"selectionracesStruct", "1", readOld<history::selectionracesStruct>},
+};
+
+RecognisedSelectionFile unreadable(const Fault& fault) {
+    RecognisedSelectionFile found;
+    for (const SelectionVersion& version : Versions)
+        found.failures.push_back({version.record, fault});
+    return found;
+}
+
+constexpr std::string_view KeptMark = "_old";
+
+fs::path keptName(const fs::path& path, int number) {
+    std::string name = path.stem().string() + std::string(KeptMark);
+    if (number > 1)
+        name += std::to_string(number);
+    return path.parent_path() / (name + path.extension().string());
+}
+
+bool keepPrevious(const fs::path& path, const DiagnosticLog& log) {
+    try {
+        int number = 1;
+        while (!keepUnderSecondName(path, keptName(path, number)))
+            ++number;
+        return true;
+    } catch (const FileError& error) {
+        log(messages::SelectionNotSaved);
+        log("The file " + path.string() +
+            " could not be kept under a second name: " + error.reason());
+        return false;
+    }
+}
+
+} // namespace
+
+std::span<const SelectionVersion> selectionVersions() {
+    return Versions;
+}
+
+RecognisedSelectionFile recogniseSelectionDocument(const JsonDocument& json) {
+    RecognisedSelectionFile found;
+    for (const SelectionVersion& version : Versions) {
+        Fault fault;
+        if (version.read(json.root(), found.document, fault)) {
+            found.version = &version;
+            return found;
+        }
+        found.failures.push_back({version.record, std::move(fault)});
+    }
+    found.document = {};
+    return found;
+}
+
+RecognisedSelectionFile recogniseSelectionFile(const fs::path& path) {
+    try {
+        return recogniseSelectionDocument(JsonDocument::fromFile(path));
+    } catch (const DecodeError& error) {
+        return unreadable(error.fault());
+    } catch (const FileError& error) {
+        return unreadable({{}, error.reason()});
+    }
+}
+
+bool saveSelectionFile(const selectionracesStruct_v3& document, const fs::path& path,
+                       const DiagnosticLog& log) {
+    std::string reason;
+    try {
+        writeFileSafely(path, encode(document));
+        return true;
+    } catch (const FileError& error) {
+        reason = error.reason();
+    } catch (const EncodeError& error) {
+        reason = error.what();
+    }
+    log(messages::SelectionNotSaved);
+    log("The file " + path.string() + " could not be written: " + reason);
+    return false;
+}
+
+bool rewriteSelectionFile(const RecognisedSelectionFile& file, const fs::path& path,
+                          const DiagnosticLog& log) {
+    return keepPrevious(path, log) && saveSelectionFile(file.document, path, log);
+}
+
+bool isKeptSelectionName(const fs::path& path) {
+    std::string stem = path.stem().string();
+    stem.erase(stem.find_last_not_of("0123456789") + 1);
+    return stem.ends_with(KeptMark);
+}
+
+std::optional<selectionracesStruct_v3> openSelectionFile(const fs::path& path,
+                                                         const DiagnosticLog& log, Alerts& alerts) {
+    RecognisedSelectionFile file = recogniseSelectionFile(path);
+    if (!file.version) {
+        reportIncompatible(file, log, alerts);
+        return std::nullopt;
+    }
+    if (!file.isCurrent())
+        (void)rewriteSelectionFile(file, path, log);
+    return std::move(file.document);
+}
+
+void reportIncompatible(const RecognisedSelectionFile& file, const DiagnosticLog& log,
+                        Alerts& alerts) {
+    if (!file.failures.empty())
+        log("The file could not be read: " + file.failures.front().fault.message());
+    alerts.show({"", IncompatibleFileText});
+}
+
+} // namespace kavela
