@@ -4,14 +4,18 @@
 #include "common/error.h"
 #include "common/safe_file.h"
 #include "desktop/race/race_window.h"
+#include "desktop/selection/selection_window.h"
+#include "desktop/shell/editor_window.h"
 #include "desktop/shell/home_window.h"
 #include "desktop/shell/settings_window.h"
 #include "desktop/taking/taking_window.h"
+#include "desktop/team/team_window.h"
 #include "sample/season.h"
 #include "splitdata/loader.h"
 #include "splittaking/video_names.h"
 
 #include <QApplication>
+#include <QDate>
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
@@ -33,6 +37,7 @@ namespace fs = std::filesystem;
 
 constexpr const char* SessionKey = "openFiles";
 constexpr const char* TakingSessionKey = "openTakings";
+constexpr const char* EditorSessionKey = "openEditors";
 
 /// Files a folder may hold before a coach is unlikely to want a tab for each.
 constexpr int MostRacesOfAFolder = 24;
@@ -87,6 +92,11 @@ Desktop::Desktop(Workspace& workspace, std::optional<Autosave> autosave)
 
 Desktop::~Desktop() {
     delete m_home;
+    for (const auto& editor : m_editors) {
+        if (editor)
+            editor->disconnect(this);
+        delete editor;
+    }
     for (const auto& taking : m_takings) {
         if (taking)
             taking->disconnect(this);
@@ -105,7 +115,11 @@ void Desktop::showHome() {
             {tr("Race analyzer"), tr("Every split of a race side by side, coloured by rank."),
              icon("race"), [this] { chooseRace(); }},
             {tr("Split taking"), tr("Time every run from its video, exact to the frame."),
-             icon("taking"), [this] { chooseFilms(); }}};
+             icon("taking"), [this] { chooseFilms(); }},
+            {tr("Team"), tr("Results of every athlete, season by season, and their category."),
+             icon("team"), [this] { chooseTeam(); }},
+            {tr("Selection races"), tr("Who is selected, by which results, and why."),
+             icon("selection"), [this] { chooseSelection(); }}};
         m_home = new HomeWindow(m_workspace, tools);
         m_home->setAttribute(Qt::WA_DeleteOnClose);
         connect(m_home, &HomeWindow::settingsRequested, this, &Desktop::openSettings);
@@ -137,7 +151,11 @@ QStringList Desktop::racesAmong(const QStringList& paths) {
             continue;
         }
         const FileFacts facts = factsOf(path.toStdString());
-        if (facts.error || facts.kind == "split file")
+        if (facts.kind == "selection races")
+            (void)openSelection(path);
+        else if (facts.kind == "team")
+            (void)openTeam(path);
+        else if (facts.error || facts.kind == "split file")
             races.append(path); // the reader says what is wrong
         else
             m_workspace.showAlert(
@@ -188,10 +206,18 @@ void Desktop::rememberSession() {
     QStringList taken;
     for (TakingWindow* window : takingWindows())
         taken.append(window->document().path());
-    if (files.isEmpty() && taken.isEmpty() && !(m_home && m_home->isVisible()))
+    QStringList edited;
+    for (const EditorWindow* window : editorWindows())
+        edited.append(window->file().path());
+    if (files.isEmpty() && taken.isEmpty() && edited.isEmpty() && !(m_home && m_home->isVisible()))
         return;
     m_workspace.remember(SessionKey, files);
     m_workspace.remember(TakingSessionKey, taken);
+    m_workspace.remember(EditorSessionKey, edited);
+}
+
+bool Desktop::hasWindows() const {
+    return !raceWindows().isEmpty() || !takingWindows().isEmpty() || !editorWindows().isEmpty();
 }
 
 bool Desktop::restoreSession() {
@@ -202,7 +228,10 @@ bool Desktop::restoreSession() {
     for (const QString& file : m_workspace.remembered(TakingSessionKey))
         if (QFileInfo::exists(file))
             (void)openTaking(file);
-    return !raceWindows().isEmpty() || !takingWindows().isEmpty();
+    for (const QString& file : m_workspace.remembered(EditorSessionKey))
+        if (QFileInfo::exists(file))
+            openAll({file});
+    return hasWindows();
 }
 
 QList<RaceWindow*> Desktop::raceWindows() const {
@@ -263,10 +292,100 @@ QList<TakingWindow*> Desktop::takingWindows() const {
     return open;
 }
 
+QString Desktop::chooseFile(const QString& title, const QString& kind,
+                            const QString& suffix) const {
+    QFileDialog dialog(front(), title, QString(), tr("%1 (*.%2);;All files (*)").arg(kind, suffix));
+    dialog.setAcceptMode(QFileDialog::AcceptOpen);
+    dialog.setFileMode(QFileDialog::AnyFile);
+    dialog.setDefaultSuffix(suffix);
+    return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
+}
+
+void Desktop::chooseTeam() {
+    const QString path = chooseFile(tr("Open a team, or name a new one"), tr("Teams"), "kvteam");
+    if (path.isEmpty())
+        return;
+    if (QFileInfo::exists(path)) {
+        open(path);
+        return;
+    }
+    auto* window = new TeamWindow(m_workspace, m_autosave);
+    window->startNew(path);
+    show(window);
+}
+
+void Desktop::chooseSelection() {
+    const QString path =
+        chooseFile(tr("Open a selection, or name a new one"), tr("Selection races"), "kvsr");
+    if (path.isEmpty())
+        return;
+    if (QFileInfo::exists(path)) {
+        open(path);
+        return;
+    }
+    auto* window = new SelectionWindow(m_workspace, m_autosave);
+    window->startNew(path, QDate::currentDate().year());
+    show(window);
+}
+
+template <class Window>
+bool Desktop::openEditor(const QString& path) {
+    if (isShown(path))
+        return true;
+    auto* window = new Window(m_workspace, m_autosave);
+    if (!window->open(path)) {
+        delete window;
+        m_workspace.forgetRecentFile(path);
+        return false;
+    }
+    show(window);
+    return true;
+}
+
+bool Desktop::openTeam(const QString& path) {
+    return openEditor<TeamWindow>(path);
+}
+
+bool Desktop::openSelection(const QString& path) {
+    return openEditor<SelectionWindow>(path);
+}
+
+bool Desktop::isShown(const QString& path) {
+    for (EditorWindow* window : editorWindows())
+        if (window->file().path() == QFileInfo(path).absoluteFilePath()) {
+            window->raise();
+            window->activateWindow();
+            return true;
+        }
+    return false;
+}
+
+void Desktop::show(EditorWindow* window) {
+    connect(window, &EditorWindow::homeRequested, this, &Desktop::showHome);
+    connect(window, &EditorWindow::settingsRequested, this, &Desktop::openSettings);
+    connect(window, &EditorWindow::openRequested, this,
+            [this](const QStringList& paths) { openAll(paths); });
+    connect(&window->file(), &EditedFile::saved, this, &Desktop::rememberSession);
+    connect(window, &QObject::destroyed, this, &Desktop::rememberSession);
+    m_editors.append(window);
+    window->show();
+    rememberSession();
+}
+
+QList<EditorWindow*> Desktop::editorWindows() const {
+    QList<EditorWindow*> open;
+    for (const auto& editor : m_editors)
+        if (editor)
+            open.append(editor);
+    return open;
+}
+
 void Desktop::offerRecovery() {
     for (const Autosave::Found& found : m_autosave.all()) {
         const QFileInfo file(found.path);
-        if (file.exists() || file.dir().exists())
+        if (file.suffix() != "kvx")
+            openAll({found.path});
+        else if (file.exists() || file.dir().exists())
             (void)openTaking(file.exists() ? found.path : file.path());
     }
 }

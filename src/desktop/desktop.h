@@ -9,6 +9,7 @@
 
 namespace kavela::desktop {
 
+class EditorWindow;
 class HomeWindow;
 class RaceWindow;
 class TakingWindow;
@@ -34,16 +35,32 @@ public:
     /// Opens a folder of films, or a split file beside its films, for split taking; null, after a
     /// message, when it cannot be opened.
     TakingWindow* openTaking(const QString& path);
+    /// Opens a team or a selection; false, after an alert, when it cannot be opened.
+    bool openTeam(const QString& path);
+    bool openSelection(const QString& path);
     /// Opens what an earlier session left unsaved, each after asking.
     void offerRecovery();
 
+    [[nodiscard]] bool hasWindows() const;
     /// The windows that are open, in the order of their opening.
     [[nodiscard]] QList<RaceWindow*> raceWindows() const;
     [[nodiscard]] QList<TakingWindow*> takingWindows() const;
+    /// The windows of the other tools, which edit a file each.
+    [[nodiscard]] QList<EditorWindow*> editorWindows() const;
 
 private:
     void chooseRace();
     void chooseFilms();
+    void chooseTeam();
+    void chooseSelection();
+    /// Asks for a file to open; a name that is not there yet begins a new one. Empty for none.
+    [[nodiscard]] QString chooseFile(const QString& title, const QString& kind,
+                                     const QString& suffix) const;
+    template <class Window>
+    bool openEditor(const QString& path);
+    /// Shows a window that edits a file, and follows what it asks for.
+    void show(EditorWindow* window);
+    [[nodiscard]] bool isShown(const QString& path);
     void showMoment(const QString& path, int run, std::size_t split);
     void openRaces(const QStringList& paths, RaceWindow* into);
     [[nodiscard]] RaceWindow* makeRaceWindow();
@@ -56,6 +73,7 @@ private:
     QPointer<HomeWindow> m_home;
     QList<QPointer<RaceWindow>> m_races;
     QList<QPointer<TakingWindow>> m_takings;
+    QList<QPointer<EditorWindow>> m_editors;
     Autosave m_autosave;
 };
 

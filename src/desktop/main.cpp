@@ -42,8 +42,7 @@ int main(int argc, char** argv) {
     if (!files.isEmpty())
         program.openAll(files);
     program.offerRecovery();
-    if (program.raceWindows().isEmpty() && program.takingWindows().isEmpty() &&
-        (!files.isEmpty() || !program.restoreSession()))
+    if (!program.hasWindows() && (!files.isEmpty() || !program.restoreSession()))
         program.showHome();
     return QApplication::exec();
 }

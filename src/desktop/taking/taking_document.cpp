@@ -97,6 +97,7 @@ TakingDocument::TakingDocument(Workspace& workspace, Autosave autosave, QObject*
 TakingDocument::~TakingDocument() {
     if (m_keep.isActive())
         keepWork();
+    m_undo.disconnect(); // it tells of its end, when the rest is gone already
 }
 
 bool TakingDocument::openFolder(const QString& folder, QWidget* over) {

@@ -1,0 +1,83 @@
+#include "desktop/selection/athlete_dialog.h"
+
+#include "common/number_text.h"
+#include "results/list_lines.h"
+#include "results/selection_ranking.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDialogButtonBox>
+#include <QFormLayout>
+#include <QLineEdit>
+#include <QSpinBox>
+
+#include <algorithm>
+
+namespace kavela::desktop {
+
+AthleteDialog::AthleteDialog(const NewAthlete& athlete, std::size_t groups, std::size_t bonuses,
+                             QWidget* parent)
+    : QDialog(parent),
+      m_name(new QLineEdit(QString::fromStdString(athlete.name))),
+      m_club(new QLineEdit(QString::fromStdString(athlete.club))),
+      m_year(new QSpinBox),
+      m_ageGroup(new QComboBox) {
+    setWindowTitle(tr("Athlete"));
+    m_name->setObjectName("athleteName");
+    m_name->setPlaceholderText(tr("SURNAME Name"));
+    m_year->setObjectName("birthYear");
+    m_year->setRange(0, 2100);
+    m_year->setSpecialValueText(tr("unknown"));
+    m_year->setValue(static_cast<int>(std::clamp<std::int64_t>(athlete.birthYear, 0, 2100)));
+    m_ageGroup->setObjectName("ageGroup");
+    auto* form = new QFormLayout(this);
+    form->addRow(tr("&Name"), m_name);
+    form->addRow(tr("&Club"), m_club);
+    form->addRow(tr("&Birth year"), m_year);
+    form->addRow(tr("&Age group"), m_ageGroup);
+    for (std::size_t group = 0; group < std::max<std::size_t>(groups, 1); ++group) {
+        auto* box = new QCheckBox(groups < 2 ? tr("Preselected")
+                                             : tr("Preselected, group %1").arg(group + 1));
+        box->setChecked(group < athlete.preselected.size() && athlete.preselected[group]);
+        form->addRow(box);
+        m_groups.push_back(box);
+    }
+    for (std::size_t kind = 0; kind < std::max<std::size_t>(bonuses, 1); ++kind) {
+        const double bonus = kind < athlete.bonuses.size() ? athlete.bonuses[kind] : NoBonus;
+        auto* edit = new QLineEdit(bonus > NoBonus ? QString::fromStdString(shortestText(bonus))
+                                                   : QString());
+        edit->setPlaceholderText(tr("none"));
+        form->addRow(tr("Bonus %1 (percent)").arg(kind + 1), edit);
+        m_bonuses.push_back(edit);
+    }
+    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
+    form->addRow(buttons);
+    connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
+    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    connect(m_year, &QSpinBox::textChanged, this, &AthleteDialog::showAgeGroups);
+    showAgeGroups();
+}
+
+void AthleteDialog::showAgeGroups() {
+    m_ageGroup->clear();
+    for (const std::string& group : ageGroups(m_year->text().toStdString()))
+        m_ageGroup->addItem(QString::fromStdString(group));
+}
+
+NewAthlete AthleteDialog::athlete() const {
+    NewAthlete athlete;
+    athlete.name = m_name->text().trimmed().toStdString();
+    athlete.club = m_club->text().trimmed().toStdString();
+    athlete.birthYear = m_year->value();
+    for (const QCheckBox* box : m_groups)
+        athlete.preselected.push_back(box->isChecked());
+    for (const QLineEdit* edit : m_bonuses) {
+        double bonus = NoBonus;
+        if (!parseField(edit->text().trimmed().toStdString(), bonus))
+            bonus = NoBonus;
+        athlete.bonuses.push_back(bonus);
+    }
+    return athlete;
+}
+
+} // namespace kavela::desktop

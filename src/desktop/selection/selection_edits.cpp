@@ -1,0 +1,292 @@
+#include "desktop/selection/selection_window.h"
+
+#include "common/error.h"
+#include "common/text_file.h"
+#include "desktop/race/table_text.h"
+#include "desktop/selection/athlete_dialog.h"
+#include "desktop/shell/workspace.h"
+#include "results/messages.h"
+#include "results/selection_attach.h"
+#include "splitdata/loader.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QInputDialog>
+#include <QMenuBar>
+#include <QPushButton>
+#include <QTableView>
+
+#include <numeric>
+
+/// What the menus of the selection do to its document.
+namespace kavela::desktop {
+
+namespace {
+
+QString qtText(const std::string& text) {
+    return QString::fromStdString(text);
+}
+
+/// More lines than these are not read in a message box.
+constexpr qsizetype MostLinesTold = 12;
+
+QString told(QStringList lines) {
+    const qsizetype more = lines.size() - MostLinesTold;
+    if (more > 0)
+        lines = lines.mid(0, MostLinesTold) + QStringList(QObject::tr("and %1 more").arg(more));
+    return lines.join('\n');
+}
+
+} // namespace
+
+void SelectionWindow::makeMenus() {
+    makeReportMenu(*makeFileMenu());
+    QMenu* edit = makeEditMenu();
+    edit->addAction(tr("Make times of 0 &missing results"), this,
+                    &SelectionWindow::makeZerosMissing);
+    edit->addAction(tr("&Copy the table"), QKeySequence::Copy, this, &SelectionWindow::copyTable);
+    edit->addAction(tr("&What if"), QKeySequence(Qt::Key_W), this, [this] { m_whatIf->toggle(); });
+    makeRaceMenu();
+    makeAthleteMenu();
+    finishMenus([this] {
+        Commands commands;
+        const auto& categories = m_document.shown().categories;
+        for (std::size_t category = 0; category < categories.size(); ++category)
+            for (const srAthleteStruct_v3& athlete : categories[category].athletes)
+                commands.push_back(
+                    {qtText(athlete.name), qtText(categories[category].cat), {}, [this, category] {
+                         showCategory(category);
+                     }});
+        return commands;
+    });
+}
+
+void SelectionWindow::makeRaceMenu() {
+    QMenu* menu = menuBar()->addMenu(tr("&Races"));
+    menu->addAction(tr("&Add a race…"), QKeySequence(Qt::CTRL | Qt::Key_R), this, [this] {
+        const QString location = QInputDialog::getText(this, tr("Race"), tr("Race location"));
+        if (!location.trimmed().isEmpty())
+            addRace(location.trimmed());
+    });
+    menu->addAction(tr("&Rename a race…"), this, &SelectionWindow::renameRace);
+    menu->addAction(tr("Remo&ve a race…"), this, &SelectionWindow::removeRace);
+    menu->addSeparator();
+    menu->addAction(tr("Results from &split files…"), QKeySequence(Qt::CTRL | Qt::Key_I), this,
+                    &SelectionWindow::askForSplitFiles);
+    menu->addAction(tr("Results from a &list (position, total, penalty)…"), this,
+                    [this] { askForResults(ResultLayout::ComaMode, messages::ComaModeHelp); });
+    menu->addAction(tr("Results from a list with &categories and clubs…"), this,
+                    [this] { askForResults(ResultLayout::Tacen, messages::TacenHelp); });
+}
+
+void SelectionWindow::makeAthleteMenu() {
+    QMenu* menu = menuBar()->addMenu(tr("&Athletes"));
+    menu->addAction(tr("Add a &category…"), QKeySequence(Qt::CTRL | Qt::Key_G), this, [this] {
+        const QString label = QInputDialog::getText(this, tr("Category"), tr("Such as MK1, WC1"));
+        if (!label.trimmed().isEmpty())
+            addCategory(label.trimmed());
+    });
+    menu->addAction(tr("&Add an athlete…"), QKeySequence(Qt::CTRL | Qt::Key_N), this,
+                    &SelectionWindow::askForAthlete);
+    menu->addAction(tr("&Edit the athlete…"), QKeySequence(Qt::CTRL | Qt::Key_Return), this,
+                    &SelectionWindow::editAthlete);
+    menu->addAction(tr("&Remove the athlete"), QKeySequence(Qt::CTRL | Qt::Key_Delete), this,
+                    &SelectionWindow::removeAthlete);
+    menu->addSeparator();
+    menu->addAction(tr("&Import athletes…"), this, [this] {
+        const QString path = QFileDialog::getOpenFileName(this, tr("Import athletes"),
+                                                          QFileInfo(m_document.path()).path(),
+                                                          tr("Lists (*.csv *.txt);;All files (*)"));
+        if (!path.isEmpty())
+            importAthletesFrom(path);
+    });
+    menu->addAction(tr("&How a list has to look"), this, [this] {
+        workspace().showAlert({messages::ImportHelpTitle, messages::ImportHelp}, this);
+    });
+    for (int category = 1; category <= 9; ++category)
+        addAction(tr("Category %1").arg(category),
+                  QKeySequence(Qt::ALT | static_cast<Qt::Key>(Qt::Key_0 + category)), this,
+                  [this, category] { showCategory(static_cast<std::size_t>(category - 1)); });
+}
+
+void SelectionWindow::askForAthlete() {
+    if (!hasRace())
+        return;
+    AthleteDialog dialog({}, preselectionGroups(m_document.shown()), bonusKinds(m_document.shown()),
+                         this);
+    if (dialog.exec() == QDialog::Accepted && !dialog.athlete().name.empty())
+        addAthlete(dialog.athlete());
+}
+
+void SelectionWindow::editAthlete() {
+    const QModelIndex current = m_table->currentIndex();
+    if (!current.isValid())
+        return;
+    const std::size_t category = m_model.category();
+    const std::size_t index = m_model.athleteOfRow(current.row());
+    const srAthleteStruct_v3& before = m_document.shown().categories[category].athletes[index];
+    AthleteDialog dialog(
+        {before.name, before.year, before.club, before.preselected, before.bonuses},
+        preselectionGroups(m_document.shown()), bonusKinds(m_document.shown()), this);
+    if (dialog.exec() != QDialog::Accepted)
+        return;
+    const NewAthlete after = dialog.athlete();
+    m_document.change(tr("athlete"), [&](selectionracesStruct_v3& document) {
+        srAthleteStruct_v3& athlete = document.categories[category].athletes[index];
+        athlete.name = after.name;
+        athlete.year = after.birthYear;
+        athlete.club = after.club;
+        athlete.preselected = after.preselected;
+        athlete.bonuses = after.bonuses;
+    });
+}
+
+void SelectionWindow::removeAthlete() {
+    const QModelIndex current = m_table->currentIndex();
+    if (!current.isValid())
+        return;
+    const std::size_t category = m_model.category();
+    const auto index = static_cast<std::ptrdiff_t>(m_model.athleteOfRow(current.row()));
+    m_document.change(tr("athlete removed"), [&](selectionracesStruct_v3& document) {
+        auto& athletes = document.categories[category].athletes;
+        athletes.erase(athletes.begin() + index);
+    });
+}
+
+std::optional<std::size_t> SelectionWindow::askForRace(const QString& title) {
+    if (!hasRace())
+        return std::nullopt;
+    QStringList names;
+    for (const sRaceStruct& race : m_document.shown().races)
+        names.append(tr("%1. %2").arg(names.size() + 1).arg(qtText(race.location)));
+    bool isChosen = false;
+    const QString name = QInputDialog::getItem(this, title, tr("Race"), names, 0, false, &isChosen);
+    return isChosen ? std::optional(static_cast<std::size_t>(names.indexOf(name))) : std::nullopt;
+}
+
+void SelectionWindow::renameRace() {
+    const auto race = askForRace(tr("Rename which race?"));
+    if (!race)
+        return;
+    const QString location =
+        QInputDialog::getText(this, tr("Race"), tr("Race location"), QLineEdit::Normal,
+                              qtText(m_document.shown().races[*race].location));
+    if (!location.trimmed().isEmpty())
+        m_document.change(tr("race renamed"), [&](selectionracesStruct_v3& document) {
+            document.races[*race].location = location.trimmed().toStdString();
+        });
+}
+
+void SelectionWindow::removeRace() {
+    const auto race = askForRace(tr("Remove which race?"));
+    if (race)
+        m_document.change(tr("race removed"), [&](selectionracesStruct_v3& document) {
+            kavela::removeRace(document, *race);
+        });
+}
+
+void SelectionWindow::tellSkipped(const ListImport& import) {
+    if (import.needsRace) {
+        workspace().showAlert({messages::Careful, messages::AddARaceFirst}, this);
+        return;
+    }
+    QStringList lines{tr("%n line(s) taken over.", nullptr, static_cast<int>(import.imported))};
+    for (const RefusedLine& line : import.skipped)
+        lines.append(tr("Line %1: %2").arg(line.line).arg(qtText(line.reason)));
+    tell(told(lines).toStdString());
+}
+
+void SelectionWindow::importAthletesFrom(const QString& path) {
+    try {
+        const std::string list = readTextFile(path.toStdString());
+        ListImport import;
+        m_document.change(tr("athletes imported"), [&](selectionracesStruct_v3& document) {
+            import = importAthletes(document, list);
+        });
+        tellSkipped(import);
+    } catch (const std::runtime_error& error) {
+        tell(error.what());
+    }
+}
+
+void SelectionWindow::askForResults(ResultLayout layout, const char* help) {
+    const auto race = askForRace(tr("Results of which race?"));
+    if (!race)
+        return;
+    const QString path = QFileDialog::getOpenFileName(this, QString(help).replace('\n', "  "),
+                                                      QFileInfo(m_document.path()).path(),
+                                                      tr("Lists (*.csv *.txt);;All files (*)"));
+    if (!path.isEmpty())
+        importResultsFrom(path, *race, layout);
+}
+
+void SelectionWindow::importResultsFrom(const QString& path, std::size_t race,
+                                        ResultLayout layout) {
+    try {
+        const std::string list = readTextFile(path.toStdString());
+        ListImport import;
+        m_document.change(tr("results imported"), [&](selectionracesStruct_v3& document) {
+            import = importResultList(document, race, m_model.category(), layout, list);
+        });
+        tellSkipped(import);
+    } catch (const std::runtime_error& error) {
+        tell(error.what());
+    }
+}
+
+void SelectionWindow::askForSplitFiles() {
+    const auto race = askForRace(tr("Results of which race?"));
+    if (!race)
+        return;
+    const QStringList files = QFileDialog::getOpenFileNames(
+        this, tr("Split files of the race"), QFileInfo(m_document.path()).path(),
+        tr("Split files (*.kvx);;All files (*)"));
+    if (!files.isEmpty())
+        attachFiles(*race, files);
+}
+
+/// The split files are read as they are: one of an older release is not rewritten from here.
+void SelectionWindow::attachFiles(std::size_t race, const QStringList& paths) {
+    std::vector<splittakerdata031> files;
+    for (const QString& path : paths) {
+        RecognisedSplitFile file =
+            recogniseSplitFile(path.toStdString(), workspace().log(), workspace().clock());
+        if (!file.version) {
+            WorkspaceAlerts alerts(workspace(), this);
+            reportIncompatible(file, workspace().log(), alerts);
+            return;
+        }
+        files.push_back(std::move(file.document));
+    }
+    Attached attached;
+    m_document.change(tr("results attached"), [&](selectionracesStruct_v3& document) {
+        attached = attachRace(document, race, files);
+    });
+    QStringList lines{
+        tr("%n athlete(s) got a result.", nullptr, static_cast<int>(attached.results))};
+    for (const UnusedRun& run : attached.unused)
+        lines.append(
+            tr("%1 %2: %3").arg(qtText(run.crew), qtText(run.category), qtText(run.reason)));
+    tell(told(lines).toStdString());
+}
+
+void SelectionWindow::makeZerosMissing() {
+    const auto zeros = zeroResults(m_document.shown());
+    if (!zeros.empty())
+        m_document.change(tr("times of 0"), [&](selectionracesStruct_v3& document) {
+            for (const ResultPlace& place : zeros)
+                clearResult(document, place);
+        });
+}
+
+void SelectionWindow::copyTable() {
+    QList<int> rows(m_model.rowCount());
+    std::iota(rows.begin(), rows.end(), 0);
+    QList<int> columns(m_model.columnCount());
+    std::iota(columns.begin(), columns.end(), 0);
+    QApplication::clipboard()->setText(tabSeparated(m_model, rows, columns));
+}
+
+} // namespace kavela::desktop

@@ -1,0 +1,261 @@
+#include "desktop/selection/selection_window.h"
+
+#include "desktop/selection/athlete_dialog.h"
+#include "desktop/selection/why_panel.h"
+#include "desktop/shell/theme.h"
+#include "desktop/shell/workspace.h"
+#include "results/messages.h"
+#include "results/selection_file.h"
+
+#include <QComboBox>
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QInputDialog>
+#include <QLabel>
+#include <QMenu>
+#include <QMenuBar>
+#include <QPushButton>
+#include <QSplitter>
+#include <QTabBar>
+#include <QTableView>
+
+namespace kavela::desktop {
+
+namespace {
+
+QString qtText(const std::string& text) {
+    return QString::fromStdString(text);
+}
+
+} // namespace
+
+SelectionWindow::SelectionWindow(Workspace& workspace, Autosave autosave)
+    : EditorWindow(workspace, m_document, "selection", tr("Selection races"), "kvsr"),
+      m_document(workspace, std::move(autosave)),
+      m_model(m_document) {
+    m_table = new QTableView;
+    m_table->setObjectName("ranking");
+    m_table->setModel(&m_model);
+    m_table->setSelectionBehavior(QAbstractItemView::SelectItems);
+    m_table->setShowGrid(false);
+    m_table->setAlternatingRowColors(true);
+    m_table->setWordWrap(false);
+    m_table->verticalHeader()->hide();
+    m_table->verticalHeader()->setDefaultSectionSize(fontMetrics().height() + theme::Spacing);
+    m_table->horizontalHeader()->setHighlightSections(false);
+    m_table->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    m_why = new WhyPanel(m_document, m_model);
+    auto* split = new QSplitter;
+    split->addWidget(m_table);
+    split->addWidget(m_why);
+    split->setStretchFactor(0, 1);
+    split->setSizes({900, 340});
+    auto* page = new QWidget;
+    auto* column = new QVBoxLayout(page);
+    column->setContentsMargins(theme::LargeSpacing, theme::Spacing, theme::LargeSpacing,
+                               theme::LargeSpacing);
+    column->setSpacing(theme::Spacing);
+    column->addWidget(makeBar());
+    column->addWidget(m_hint);
+    column->addWidget(split, 1);
+    setCentralWidget(page);
+    makeMenus();
+    connect(&m_document, &SelectionDocument::changed, this, &SelectionWindow::showDocument);
+    connect(&m_model, &RankingModel::refused, this,
+            [this](const QString& reason) { tell(reason.toStdString()); });
+    connect(m_table->selectionModel(), &QItemSelectionModel::currentChanged, this,
+            &SelectionWindow::showWhy);
+    connect(&m_model, &QAbstractItemModel::modelReset, this, &SelectionWindow::showWhy);
+}
+
+SelectionWindow::~SelectionWindow() {
+    m_document.disconnect(this);
+    m_model.disconnect(this);
+}
+
+QWidget* SelectionWindow::makeBar() {
+    m_title = new QLabel;
+    m_title->setTextFormat(Qt::PlainText);
+    m_title->setFont(theme::titleFont(*this));
+    m_hint = new QLabel;
+    m_hint->setTextFormat(Qt::PlainText);
+    m_hint->setWordWrap(true);
+    m_categories = new QTabBar;
+    m_categories->setObjectName("categories");
+    m_categories->setDocumentMode(true);
+    m_categories->setExpanding(false);
+    m_categories->setAccessibleName(tr("Categories"));
+    m_bonus = new QComboBox;
+    m_bonus->setObjectName("bonus");
+    m_bonus->setAccessibleName(tr("Bonus"));
+    m_times = new QComboBox;
+    m_times->setObjectName("times");
+    m_times->addItems({tr("Official times"), tr("xTimes")});
+    m_whatIf = new QPushButton(tr("What if…"));
+    m_whatIf->setObjectName("whatIf");
+    m_whatIf->setCheckable(true);
+    m_whatIf->setToolTip(tr("Try other times and penalties; nothing of it is kept (W)"));
+    connect(m_categories, &QTabBar::currentChanged, this, [this](int category) {
+        m_model.setCategory(static_cast<std::size_t>(std::max(category, 0)));
+    });
+    connect(m_bonus, &QComboBox::activated, this, [this](int choice) {
+        m_document.setBonus(choice == 0 ? std::nullopt
+                                        : BonusKind(static_cast<std::size_t>(choice - 1)));
+    });
+    connect(m_times, &QComboBox::activated, this, [this](int choice) {
+        m_document.setTimes(choice == 0 ? SelectionTimes::Official : SelectionTimes::Expected);
+    });
+    connect(m_whatIf, &QPushButton::toggled, this, &SelectionWindow::setWhatIf);
+    auto* box = new QWidget;
+    auto* row = new QHBoxLayout(box);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(theme::Spacing);
+    row->addWidget(m_title);
+    row->addSpacing(theme::LargeSpacing);
+    row->addWidget(m_categories, 1);
+    for (QWidget* widget : std::initializer_list<QWidget*>{m_bonus, m_times, m_whatIf})
+        row->addWidget(widget);
+    return box;
+}
+
+bool SelectionWindow::open(const QString& path) {
+    if (!m_document.open(path, this))
+        return false;
+    m_table->setFocus();
+    return true;
+}
+
+void SelectionWindow::startNew(const QString& path, std::int64_t year) {
+    m_document.startNew(path, year, this);
+}
+
+void SelectionWindow::commit() {
+    if (QWidget* const editor = m_table->indexWidget(m_table->currentIndex()))
+        editor->clearFocus();
+}
+
+void SelectionWindow::tell(const std::string& text) {
+    workspace().showAlert({"", text}, this);
+}
+
+void SelectionWindow::showDocument() {
+    const selectionracesStruct_v3& document = m_document.shown();
+    m_title->setText(tr("Selection %1").arg(document.year));
+    fillCategories();
+    fillBonuses();
+    QStringList hints;
+    if (m_document.isWhatIf())
+        hints.append(tr("What if: times and penalties typed now are tried only. End it (W) to go "
+                        "back to the real results."));
+    if (document.races.empty())
+        hints.append(tr("Add the races of the selection first (Ctrl+R), then athletes (Ctrl+N, or "
+                        "drop a .csv file)."));
+    else if (const auto zeros = zeroResults(document); !zeros.empty())
+        hints.append(tr("%n result(s) have a time of 0, which puts their athletes far in front. "
+                        "Edit > Make times of 0 missing results.",
+                        nullptr, static_cast<int>(zeros.size())));
+    m_hint->setText(hints.join('\n'));
+    m_hint->setVisible(!hints.isEmpty());
+    const QSignalBlocker blocker(m_whatIf);
+    m_whatIf->setChecked(m_document.isWhatIf());
+    m_whatIf->setText(m_document.isWhatIf() ? tr("End what if") : tr("What if…"));
+    m_table->setColumnHidden(RankingModel::BonusColumn, !m_document.bonus());
+}
+
+void SelectionWindow::fillCategories() {
+    const auto& categories = m_document.shown().categories;
+    const QSignalBlocker blocker(m_categories);
+    while (m_categories->count() > static_cast<int>(categories.size()))
+        m_categories->removeTab(m_categories->count() - 1);
+    for (std::size_t i = 0; i < categories.size(); ++i) {
+        const QString title =
+            tr("%1 (%2)").arg(qtText(categories[i].cat)).arg(categories[i].athletes.size());
+        if (std::cmp_less(i, m_categories->count()))
+            m_categories->setTabText(static_cast<int>(i), title);
+        else
+            m_categories->addTab(title);
+    }
+    const auto current = static_cast<std::size_t>(std::max(m_categories->currentIndex(), 0));
+    if (current != m_model.category())
+        m_model.setCategory(current);
+}
+
+void SelectionWindow::fillBonuses() {
+    m_bonus->clear();
+    m_bonus->addItem(tr("No bonus"));
+    for (std::size_t kind = 0; kind < bonusKinds(m_document.shown()); ++kind)
+        m_bonus->addItem(tr("Bonus %1").arg(kind + 1));
+    m_bonus->setCurrentIndex(m_document.bonus() ? static_cast<int>(*m_document.bonus()) + 1 : 0);
+    m_bonus->setVisible(m_bonus->count() > 1);
+    m_times->setCurrentIndex(m_document.times() == SelectionTimes::Official ? 0 : 1);
+}
+
+void SelectionWindow::showWhy() {
+    m_why->showRow(m_table->currentIndex().isValid() ? m_table->currentIndex().row() : -1);
+}
+
+void SelectionWindow::showCategory(std::size_t category) {
+    m_categories->setCurrentIndex(static_cast<int>(category));
+}
+
+void SelectionWindow::setWhatIf(bool isOn) {
+    m_document.setWhatIf(isOn);
+    m_table->setFocus();
+}
+
+bool SelectionWindow::hasRace() {
+    if (!m_document.shown().races.empty())
+        return true;
+    workspace().showAlert({messages::Careful, messages::AddARaceFirst}, this);
+    return false;
+}
+
+void SelectionWindow::addRace(const QString& location) {
+    m_document.change(tr("race added"), [&](selectionracesStruct_v3& document) {
+        kavela::addRace(document, location.toStdString());
+    });
+}
+
+void SelectionWindow::addCategory(const QString& label) {
+    std::size_t index = 0;
+    m_document.change(tr("category added"), [&](selectionracesStruct_v3& document) {
+        index = categoryIndex(document, label.toStdString());
+    });
+    showCategory(index);
+}
+
+void SelectionWindow::addAthlete(const NewAthlete& athlete) {
+    if (!hasRace())
+        return;
+    if (m_document.shown().categories.empty()) {
+        tell(tr("Add a category first.").toStdString());
+        return;
+    }
+    const std::size_t category = m_model.category();
+    if (hasAthlete(m_document.shown().categories[category], athlete.name)) {
+        tell(tr("%1 is in this category already.").arg(qtText(athlete.name)).toStdString());
+        return;
+    }
+    m_document.change(tr("athlete added"), [&](selectionracesStruct_v3& document) {
+        (void)kavela::addAthlete(document, category, athlete);
+    });
+}
+
+/// A list dropped on the table brings athletes, split files bring results, selections are opened.
+void SelectionWindow::takeFiles(const QStringList& paths) {
+    QStringList splitFiles;
+    QStringList others;
+    for (const QString& path : paths) {
+        if (path.endsWith(".csv", Qt::CaseInsensitive))
+            importAthletesFrom(path);
+        else
+            (path.endsWith(".kvx", Qt::CaseInsensitive) ? splitFiles : others).append(path);
+    }
+    if (!splitFiles.isEmpty())
+        if (const auto race = askForRace(tr("Results of which race?")))
+            attachFiles(*race, splitFiles);
+    if (!others.isEmpty())
+        EditorWindow::takeFiles(others);
+}
+
+} // namespace kavela::desktop

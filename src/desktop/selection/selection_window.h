@@ -1,0 +1,84 @@
+#pragma once
+
+#include "desktop/selection/ranking_model.h"
+#include "desktop/selection/selection_document.h"
+#include "desktop/shell/editor_window.h"
+#include "results/selection_import.h"
+
+class QComboBox;
+class QLabel;
+class QPushButton;
+class QTabBar;
+class QTableView;
+
+namespace kavela::desktop {
+
+class WhyPanel;
+
+/// Selection races: per category the ranking, live, with the reasons for it; races, athletes and
+/// results entered, imported or taken from split files; and a mode to try what would have been.
+class SelectionWindow : public EditorWindow {
+    Q_OBJECT
+
+public:
+    SelectionWindow(Workspace& workspace, Autosave autosave);
+    ~SelectionWindow() override;
+
+    [[nodiscard]] bool open(const QString& path);
+    void startNew(const QString& path, std::int64_t year);
+
+    [[nodiscard]] SelectionDocument& document() { return m_document; }
+    [[nodiscard]] RankingModel& model() { return m_model; }
+    [[nodiscard]] QTableView& table() const { return *m_table; }
+
+    void showCategory(std::size_t category);
+    void addRace(const QString& location);
+    void addCategory(const QString& label);
+    void addAthlete(const NewAthlete& athlete);
+    void importAthletesFrom(const QString& path);
+    void importResultsFrom(const QString& path, std::size_t race, ResultLayout layout);
+    void attachFiles(std::size_t race, const QStringList& paths);
+    void setWhatIf(bool isOn);
+
+protected:
+    void takeFiles(const QStringList& paths) override;
+    void commit() override;
+
+private:
+    [[nodiscard]] QWidget* makeBar();
+    void makeMenus();
+    void makeRaceMenu();
+    void makeAthleteMenu();
+    void makeReportMenu(QMenu& menu);
+    void showDocument();
+    void fillCategories();
+    void fillBonuses();
+    void showWhy();
+    void tell(const std::string& text);
+    void tellSkipped(const ListImport& import);
+    [[nodiscard]] std::optional<std::size_t> askForRace(const QString& title);
+    [[nodiscard]] bool hasRace();
+    void askForAthlete();
+    void editAthlete();
+    void removeAthlete();
+    void renameRace();
+    void removeRace();
+    void askForResults(ResultLayout layout, const char* help);
+    void askForSplitFiles();
+    void makeZerosMissing();
+    void copyTable();
+    void preview();
+
+    SelectionDocument m_document;
+    RankingModel m_model;
+    QTabBar* m_categories = nullptr;
+    QComboBox* m_bonus = nullptr;
+    QComboBox* m_times = nullptr;
+    QPushButton* m_whatIf = nullptr;
+    QLabel* m_title = nullptr;
+    QLabel* m_hint = nullptr;
+    QTableView* m_table = nullptr;
+    WhyPanel* m_why = nullptr;
+};
+
+} // namespace kavela::desktop

@@ -1,0 +1,131 @@
+#pragma once
+
+#include "desktop/shell/autosave.h"
+
+#include <QObject>
+#include <QTimer>
+#include <QUndoStack>
+
+#include <filesystem>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+
+class QWidget;
+
+namespace kavela::desktop {
+
+class Workspace;
+
+/// A file that is being edited. Every edit can be undone, is kept apart from the file within a
+/// second, and reaches the file only when it is saved.
+class EditedFile : public QObject {
+    Q_OBJECT
+
+public:
+    EditedFile(Workspace& workspace, Autosave autosave, QObject* parent = nullptr);
+    ~EditedFile() override;
+
+    [[nodiscard]] const QString& path() const { return m_path; }
+    [[nodiscard]] QString fileName() const;
+    [[nodiscard]] bool isDirty() const { return !m_undo.isClean(); }
+    [[nodiscard]] QUndoStack& undoStack() { return m_undo; }
+
+    /// Writes the file; asks before it replaces what another program wrote meanwhile. False, after
+    /// a message, when it was not written; the work then stays as it is.
+    [[nodiscard]] bool save(QWidget* over);
+    /// The same under another name, which the document has from then on.
+    [[nodiscard]] bool saveAs(const QString& path, QWidget* over);
+    /// Gives up what was not saved; it stays aside for a change of mind.
+    void discard();
+    /// Keeps the work now, as before the program ends.
+    void keepWork();
+
+signals:
+    void changed();
+    void saved();
+
+protected:
+    /// The document as its file holds it. Throws EncodeError.
+    [[nodiscard]] virtual std::string content() const = 0;
+    /// Takes over recovered work as an edit; false when it is none.
+    [[nodiscard]] virtual bool recover(const std::string& content) = 0;
+    /// What to tell when the file cannot be written.
+    [[nodiscard]] virtual std::string failure() const { return "Failed to create file"; }
+
+    /// A document is open under a path that may not exist yet. Unsaved work is offered.
+    void begin(const QString& path, QWidget* over);
+    void keepSoon();
+    [[nodiscard]] Workspace& workspace() const { return m_workspace; }
+
+private:
+    [[nodiscard]] bool mayOverwrite(QWidget* over) const;
+    [[nodiscard]] bool write(const QString& path, QWidget* over);
+    void offerRecovery(QWidget* over);
+
+    Workspace& m_workspace;
+    Autosave m_autosave;
+    QUndoStack m_undo;
+    QTimer m_keep;
+    QString m_path;
+    std::optional<std::filesystem::file_time_type> m_readTime;
+};
+
+/// An edited file that holds one value. Steps of the undo stack share it as long as it is the same.
+/// A document that derives from it calls keepWork() in its destructor: only it can still write.
+template <class Value>
+class EditedValue : public EditedFile {
+public:
+    using EditedFile::EditedFile;
+
+    [[nodiscard]] const Value& value() const { return *m_value; }
+
+    /// One step of the undo stack; `what` names it there.
+    void edit(const QString& what, const std::function<void(Value&)>& change) {
+        auto after = std::make_shared<Value>(*m_value);
+        change(*after);
+        settle(*after);
+        undoStack().push(new Step(*this, what, m_value, std::move(after)));
+        keepSoon();
+    }
+
+protected:
+    /// Brings what follows from the rest up to date, after every edit.
+    virtual void settle(Value& /*value*/) {}
+
+    void start(Value value, const QString& path, QWidget* over) {
+        settle(value);
+        m_value = std::make_shared<Value>(std::move(value));
+        begin(path, over);
+        emit changed();
+    }
+
+private:
+    class Step : public QUndoCommand {
+    public:
+        Step(EditedValue& document, const QString& what, std::shared_ptr<const Value> before,
+             std::shared_ptr<const Value> after)
+            : QUndoCommand(what),
+              m_document(document),
+              m_before(std::move(before)),
+              m_after(std::move(after)) {}
+        void undo() override { m_document.show(m_before); }
+        void redo() override { m_document.show(m_after); }
+
+    private:
+        EditedValue& m_document;
+        std::shared_ptr<const Value> m_before;
+        std::shared_ptr<const Value> m_after;
+    };
+
+    void show(std::shared_ptr<const Value> value) {
+        m_value = std::move(value);
+        keepSoon();
+        emit changed();
+    }
+
+    std::shared_ptr<const Value> m_value = std::make_shared<Value>();
+};
+
+} // namespace kavela::desktop

@@ -1,0 +1,117 @@
+#include "desktop/shell/editor_window.h"
+
+#include "desktop/shell/dropped_files.h"
+#include "desktop/shell/edited_file.h"
+#include "desktop/shell/help_menu.h"
+#include "desktop/shell/window_place.h"
+#include "desktop/shell/workspace.h"
+
+#include <QCloseEvent>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QMenuBar>
+
+namespace kavela::desktop {
+
+EditorWindow::EditorWindow(Workspace& workspace, EditedFile& file, QString kind, QString toolTitle,
+                           QString suffix)
+    : m_workspace(workspace),
+      m_file(file),
+      m_kind(std::move(kind)),
+      m_toolTitle(std::move(toolTitle)),
+      m_suffix(std::move(suffix)) {
+    setAttribute(Qt::WA_DeleteOnClose);
+    setAcceptDrops(true);
+    resize(1280, 800);
+}
+
+void EditorWindow::showTitle() {
+    setWindowTitle(m_file.fileName() + "[*] – " + m_toolTitle + " – Kavela");
+    setWindowModified(m_file.isDirty());
+}
+
+QMenu* EditorWindow::makeFileMenu() {
+    QMenu* menu = menuBar()->addMenu(tr("&File"));
+    m_fileMenu = menu;
+    const QString filter = tr("%1 files (*.%2);;All files (*)").arg(m_toolTitle, m_suffix);
+    menu->addAction(tr("&Open…"), QKeySequence::Open, this, [this, filter] {
+        const QStringList files = QFileDialog::getOpenFileNames(
+            this, tr("Open"), QFileInfo(m_file.path()).path(), filter);
+        if (!files.isEmpty())
+            emit openRequested(files);
+    });
+    menu->addAction(tr("&Save"), QKeySequence::Save, this, [this] { save(); });
+    menu->addAction(tr("Save &as…"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S), this,
+                    [this] { saveAs(); });
+    menu->addSeparator();
+    return menu;
+}
+
+QMenu* EditorWindow::makeEditMenu() {
+    QMenu* menu = menuBar()->addMenu(tr("&Edit"));
+    QAction* undo = m_file.undoStack().createUndoAction(this, tr("&Undo"));
+    undo->setShortcut(QKeySequence::Undo);
+    QAction* redo = m_file.undoStack().createRedoAction(this, tr("&Redo"));
+    redo->setShortcut(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z));
+    menu->addActions({undo, redo});
+    menu->addSeparator();
+    return menu;
+}
+
+void EditorWindow::finishMenus(std::function<Commands()> more) {
+    connect(&m_file, &EditedFile::changed, this, &EditorWindow::showTitle);
+    connect(&m_file, &EditedFile::saved, this, &EditorWindow::showTitle);
+    connect(&m_file.undoStack(), &QUndoStack::cleanChanged, this, &EditorWindow::showTitle);
+    m_fileMenu->addSeparator();
+    m_fileMenu->addAction(tr("&Home"), QKeySequence(Qt::CTRL | Qt::Key_H), this,
+                          &EditorWindow::homeRequested);
+    m_fileMenu->addAction(tr("Se&ttings…"), QKeySequence(Qt::CTRL | Qt::Key_Comma), this,
+                          &EditorWindow::settingsRequested);
+    m_fileMenu->addAction(tr("C&lose"), QKeySequence::Close, this, &QWidget::close);
+    addHelpMenu(*this, m_workspace, m_kind, std::move(more));
+    rememberPlace(*this, m_workspace, m_kind);
+}
+
+bool EditorWindow::save() {
+    commit();
+    return QFileInfo::exists(m_file.path()) ? m_file.save(this) : saveAs();
+}
+
+bool EditorWindow::saveAs() {
+    commit();
+    QFileDialog dialog(this, tr("Save"), QFileInfo(m_file.path()).path(),
+                       tr("%1 files (*.%2)").arg(m_toolTitle, m_suffix));
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setDefaultSuffix(m_suffix);
+    dialog.selectFile(QFileInfo(m_file.path()).fileName());
+    return dialog.exec() == QDialog::Accepted && !dialog.selectedFiles().isEmpty() &&
+           m_file.saveAs(dialog.selectedFiles().constFirst(), this);
+}
+
+void EditorWindow::closeEvent(QCloseEvent* event) {
+    commit();
+    if (m_file.isDirty()) {
+        const auto choice = m_workspace.askToSave(m_file.fileName(), this);
+        if (choice == Workspace::Leaving::Stay || (choice == Workspace::Leaving::Save && !save())) {
+            event->ignore();
+            return;
+        }
+        if (choice == Workspace::Leaving::Discard)
+            m_file.discard();
+    }
+    event->accept();
+}
+
+void EditorWindow::dragEnterEvent(QDragEnterEvent* event) {
+    acceptFiles(*event);
+}
+
+void EditorWindow::dropEvent(QDropEvent* event) {
+    takeFiles(droppedFiles(*event));
+}
+
+void EditorWindow::takeFiles(const QStringList& paths) {
+    emit openRequested(paths);
+}
+
+} // namespace kavela::desktop

@@ -1,0 +1,63 @@
+#pragma once
+
+#include "desktop/shell/command_palette.h"
+
+#include <QMainWindow>
+
+class QMenu;
+
+namespace kavela::desktop {
+
+class EditedFile;
+class Workspace;
+
+/// A window that edits a file: its title with the mark of unsaved work, the menus for saving and
+/// undoing, and the question before it closes.
+class EditorWindow : public QMainWindow {
+    Q_OBJECT
+
+public:
+    /// `kind` names such windows where their place and keys are remembered, `toolTitle` the tool;
+    /// `suffix` is that of its files, without the point. The file may be a member of the window that
+    /// derives from this one: it is not touched before finishMenus().
+    EditorWindow(Workspace& workspace, EditedFile& file, QString kind, QString toolTitle,
+                 QString suffix);
+
+    [[nodiscard]] EditedFile& file() const { return m_file; }
+    /// Asks for a name where the document has none on the disk yet.
+    bool save();
+    bool saveAs();
+
+signals:
+    void homeRequested();
+    void settingsRequested();
+    void openRequested(const QStringList& paths);
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
+    /// Files were dropped; opened by default.
+    virtual void takeFiles(const QStringList& paths);
+    /// What is being typed goes into the document, before it is saved.
+    virtual void commit() {}
+
+    /// The menus in front, with `reports` behind saving where the tool has reports; then the tool's
+    /// own; then finishMenus().
+    QMenu* makeFileMenu();
+    QMenu* makeEditMenu();
+    void finishMenus(std::function<Commands()> more);
+    [[nodiscard]] Workspace& workspace() const { return m_workspace; }
+
+private:
+    void showTitle();
+
+    Workspace& m_workspace;
+    EditedFile& m_file;
+    QString m_kind;
+    QString m_toolTitle;
+    QString m_suffix;
+    QMenu* m_fileMenu = nullptr;
+};
+
+} // namespace kavela::desktop

@@ -1,0 +1,19 @@
+#pragma once
+
+#include <QTreeView>
+
+namespace kavela::desktop {
+
+/// A tree that is moved in like a table: left and right go from cell to cell, and in the first
+/// column close and open a row.
+class SeasonTree : public QTreeView {
+    Q_OBJECT
+
+public:
+    using QTreeView::QTreeView;
+
+protected:
+    QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override;
+};
+
+} // namespace kavela::desktop

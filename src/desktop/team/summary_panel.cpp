@@ -1,0 +1,124 @@
+#include "desktop/team/summary_panel.h"
+
+#include "desktop/shell/theme.h"
+#include "desktop/team/team_edits.h"
+#include "results/athlete_summary.h"
+#include "results/categorization.h"
+#include "results/team_seasons.h"
+
+#include <QLabel>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+namespace kavela::desktop {
+
+namespace {
+
+template <class Lines>
+QString joined(const Lines& lines) {
+    QStringList texts;
+    for (const std::string& line : lines)
+        texts.append(QString::fromStdString(line));
+    return texts.join('\n');
+}
+
+QLabel* label(const char* name, bool isQuiet) {
+    auto* made = new QLabel;
+    made->setObjectName(name);
+    made->setTextFormat(Qt::PlainText);
+    made->setWordWrap(true);
+    made->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    if (isQuiet)
+        made->setForegroundRole(QPalette::PlaceholderText);
+    return made;
+}
+
+std::int64_t racesWithoutPosition(const mtCatsStruct& category) {
+    std::int64_t count = 0;
+    for (const mtSeasonStruct& season : category.seasons)
+        count += std::ranges::count(season.races, 0, &mtRaceStruct::finalPos);
+    return count;
+}
+
+/// Why an athlete has no categorization.
+QString obstacle(const myTeamStruct& athlete, const mtCatsStruct& category) {
+    if (athlete.isretired)
+        return SummaryPanel::tr("Retired athletes are left out.");
+    if (category.seasons.size() < CountedSeasons)
+        return SummaryPanel::tr("Two seasons are needed.");
+    return SummaryPanel::tr("The first two seasons have no race with a final position.");
+}
+
+QString countedYears(const mtCatsStruct& category) {
+    QStringList years;
+    for (std::size_t i = 0; i < std::min(CountedSeasons, category.seasons.size()); ++i)
+        years.append(QString::number(category.seasons[i].year));
+    return years.join(SummaryPanel::tr(" and "));
+}
+
+} // namespace
+
+SummaryPanel::SummaryPanel(QWidget* parent)
+    : QWidget(parent),
+      m_who(label("who", true)),
+      m_summary(label("summary", false)),
+      m_unplaced(label("unplaced", true)),
+      m_label(label("label", false)),
+      m_counts(label("counts", false)),
+      m_seasons(label("countedSeasons", true)) {
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(theme::LargeSpacing, 0, 0, 0);
+    column->setSpacing(theme::Spacing);
+    const auto title = [&](const QString& text) {
+        auto* heading = new QLabel(text);
+        heading->setFont(theme::titleFont(*this));
+        column->addWidget(heading);
+        m_titles.push_back(heading);
+    };
+    title(tr("All seasons"));
+    column->addWidget(m_who);
+    column->addWidget(m_summary);
+    column->addWidget(m_unplaced);
+    column->addSpacing(theme::LargeSpacing);
+    title(tr("Categorization"));
+    column->addWidget(m_label);
+    column->addWidget(m_counts);
+    column->addWidget(m_seasons);
+    column->addStretch(1);
+    QFont bold = font();
+    bold.setBold(true);
+    m_label->setFont(bold);
+    setMinimumWidth(160);
+}
+
+void SummaryPanel::show(const myTeamStruct* athlete, const std::string& category) {
+    const mtCatsStruct* const results = athlete ? categoryOf(*athlete, category) : nullptr;
+    for (QLabel* text : {m_who, m_summary, m_unplaced, m_label, m_counts, m_seasons})
+        text->clear();
+    for (QLabel* title : m_titles)
+        title->setVisible(results != nullptr);
+    if (!results)
+        return;
+    m_who->setText(QString::fromStdString(category) +
+                   (athlete->birthYear > 0 ? tr(", born %1").arg(athlete->birthYear) : QString()));
+    m_summary->setText(joined(summaryLines(athleteSummary(*athlete, category))));
+    if (const std::int64_t races = racesWithoutPosition(*results); races > 0)
+        m_unplaced->setText(races == 1
+                                ? tr("One race has no final position. It counts as a medal here, "
+                                     "not in the categorization.")
+                                : tr("%1 races have no final position. They count as medals here, "
+                                     "not in the categorization.")
+                                      .arg(races));
+    if (const auto categorization = categorize(*athlete, category)) {
+        m_label->setText(QString::fromStdString(categorization->label).trimmed());
+        m_counts->setText(joined(categorization->lines));
+        m_seasons->setText(tr("Counted: %1").arg(countedYears(*results)));
+    } else {
+        m_counts->setText(obstacle(*athlete, *results));
+    }
+    m_unplaced->setVisible(!m_unplaced->text().isEmpty());
+    m_label->setVisible(!m_label->text().isEmpty());
+}
+
+} // namespace kavela::desktop

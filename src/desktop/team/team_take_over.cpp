@@ -1,0 +1,119 @@
+#include "common/error.h"
+#include "common/text_file.h"
+#include "desktop/shell/workspace.h"
+#include "desktop/team/athlete_panel.h"
+#include "desktop/team/results_view.h"
+#include "desktop/team/takeover/take_over_dialog.h"
+#include "desktop/team/team_window.h"
+#include "splitdata/loader.h"
+
+#include <QFileDialog>
+#include <QFileInfo>
+
+#include <algorithm>
+
+/// Taking results over, as the window does it.
+namespace kavela::desktop {
+
+namespace {
+
+bool isList(const QString& path) {
+    const QString suffix = QFileInfo(path).suffix().toLower();
+    return suffix == "csv" || suffix == "txt";
+}
+
+bool isTeamFile(const QString& path) {
+    return QFileInfo(path).suffix().toLower() == "kvteam";
+}
+
+} // namespace
+
+void TeamWindow::askForResults() {
+    takeOverFrom(QFileDialog::getOpenFileNames(
+        this, tr("Take results over"), QFileInfo(m_document->path()).path(),
+        tr("Split files and result lists (*.kvx *.csv *.txt);;All files (*)")));
+}
+
+void TeamWindow::takeFiles(const QStringList& paths) {
+    QStringList teams;
+    QStringList results;
+    for (const QString& path : paths)
+        (isTeamFile(path) ? teams : results).append(path);
+    if (!teams.isEmpty())
+        emit openRequested(teams);
+    takeOverFrom(results);
+}
+
+void TeamWindow::takeOverFrom(const QStringList& paths) {
+    for (const QString& path : paths) {
+        if (isList(path))
+            takeOverList(path);
+        else
+            takeOverSplitFile(path);
+    }
+}
+
+/// The list is one of the coach's own files, and may be anything.
+void TeamWindow::takeOverList(const QString& path) {
+    const std::string title =
+        tr("“%1” cannot be taken over").arg(QFileInfo(path).fileName()).toStdString();
+    try {
+        ResultsList list = parseResults(readTextFile(path.toStdString()));
+        if (list.results.empty()) {
+            workspace().showAlert(
+                {title, list.skipped.empty()
+                            ? tr("There are no results in it.").toStdString()
+                            : tr("Line %1: %2")
+                                  .arg(list.skipped.front().line)
+                                  .arg(QString::fromStdString(list.skipped.front().reason))
+                                  .toStdString()},
+                this);
+            return;
+        }
+        TakeOverDialog dialog(m_document->value(), std::move(list), m_results->category(),
+                              workspace().clock()(), this);
+        apply(dialog);
+    } catch (const FileError& error) {
+        workspace().showAlert({title, error.reason()}, this);
+    } catch (const DecodeError& error) {
+        workspace().showAlert({title, error.what()}, this);
+    }
+}
+
+/// A file of an older release is read as it is and stays so.
+void TeamWindow::takeOverSplitFile(const QString& path) {
+    const RecognisedSplitFile file =
+        recogniseSplitFile(path.toStdString(), workspace().log(), workspace().clock());
+    if (!file.version) {
+        WorkspaceAlerts alerts(workspace(), this);
+        reportIncompatible(file, workspace().log(), alerts);
+        return;
+    }
+    FoundRace race = foundInSplitFile(file.document);
+    if (race.results.empty()) {
+        workspace().showAlert(
+            {tr("“%1” cannot be taken over").arg(QFileInfo(path).fileName()).toStdString(),
+             tr("There are no runs in it.").toStdString()},
+            this);
+        return;
+    }
+    TakeOverDialog dialog(m_document->value(), std::move(race), this);
+    apply(dialog);
+}
+
+void TeamWindow::apply(TakeOverDialog& dialog) {
+    if (dialog.exec() != QDialog::Accepted)
+        return;
+    const auto first = std::ranges::find_if(dialog.planned(), &PlannedResult::isTicked);
+    if (first == dialog.planned().end())
+        return;
+    const std::size_t athlete = first->athlete;
+    const std::string category = first->found.category;
+    m_document->edit(tr("results taken over"), [&](myTeamToSaveStruct& team) {
+        takeOver(team, dialog.planned(), dialog.name());
+    });
+    m_athletes->choose(athlete);
+    m_results->showCategory(category);
+}
+
+} // namespace kavela::desktop

@@ -1,0 +1,241 @@
+#include "desktop/team/team_window.h"
+
+#include "common/error.h"
+#include "desktop/preview/report_preview.h"
+#include "desktop/shell/theme.h"
+#include "desktop/shell/window_place.h"
+#include "desktop/shell/workspace.h"
+#include "desktop/team/athlete_panel.h"
+#include "desktop/team/charts/chart_tabs.h"
+#include "desktop/team/results_view.h"
+#include "desktop/team/summary_panel.h"
+#include "desktop/team/team_actions.h"
+#include "desktop/team/team_athlete_dialog.h"
+#include "desktop/team/team_edits.h"
+#include "report/team_report.h"
+
+#include <QApplication>
+#include <QFileInfo>
+#include <QLineEdit>
+#include <QSplitter>
+#include <QTableView>
+
+#include <algorithm>
+
+namespace kavela::desktop {
+
+TeamWindow::TeamWindow(Workspace& workspace, Autosave autosave)
+    : TeamWindow(workspace, std::make_unique<TeamDocument>(workspace, std::move(autosave))) {}
+
+TeamWindow::TeamWindow(Workspace& workspace, std::unique_ptr<TeamDocument> document)
+    : EditorWindow(workspace, *document, "team", tr("Team"), "kvteam"),
+      m_document(std::move(document)) {
+    makeParts();
+    connectParts();
+    QMenu* const fileMenu = makeFileMenu();
+    makeTeamMenus(*this, *fileMenu, *makeEditMenu());
+    finishMenus([this] { return teamCommands(*this); });
+}
+
+TeamWindow::~TeamWindow() {
+    m_document->undoStack().disconnect(this);
+    m_document->disconnect(this);
+}
+
+void TeamWindow::makeParts() {
+    m_athletes = new AthletePanel(*m_document);
+    m_results = new ResultsView(*m_document);
+    m_summary = new SummaryPanel;
+    m_charts = new ChartTabs;
+    auto* middle = new QSplitter(Qt::Vertical);
+    middle->addWidget(m_results);
+    middle->addWidget(m_charts);
+    middle->setStretchFactor(0, 3);
+    middle->setStretchFactor(1, 2);
+    middle->setSizes({440, 250});
+    rememberSizes(*middle, workspace(), "teamCharts");
+    auto* whole = new QSplitter;
+    whole->setContentsMargins(theme::LargeSpacing, theme::Spacing, theme::LargeSpacing,
+                              theme::Spacing);
+    whole->addWidget(m_athletes);
+    whole->addWidget(middle);
+    whole->addWidget(m_summary);
+    whole->setStretchFactor(1, 1);
+    whole->setSizes({310, 756, 180});
+    rememberSizes(*whole, workspace(), "teamParts");
+    setCentralWidget(whole);
+}
+
+void TeamWindow::connectParts() {
+    const auto refuse = [this](const QString& reason) { tell(reason.toStdString()); };
+    connect(&m_athletes->model(), &AthleteModel::refused, this, refuse, Qt::QueuedConnection);
+    connect(m_results, &ResultsView::refused, this, refuse, Qt::QueuedConnection);
+    connect(m_athletes, &AthletePanel::athleteChosen, this, &TeamWindow::showAthlete);
+    connect(m_athletes, &AthletePanel::categoryChosen, this, &TeamWindow::showAthlete);
+    connect(m_results, &ResultsView::placeChanged, this, &TeamWindow::showFigures);
+    connect(m_charts, &ChartTabs::saveRequested, this, &TeamWindow::saveChart);
+    connect(m_charts, &ChartTabs::raceClicked, this,
+            [this](const SeasonPlace& race) { m_results->choose(race); });
+}
+
+bool TeamWindow::open(const QString& path) {
+    if (!m_document->open(path, this))
+        return false;
+    m_athletes->table().setFocus();
+    return true;
+}
+
+void TeamWindow::startNew(const QString& path) {
+    if (QFileInfo(path).isDir())
+        m_document->createNew(path, this);
+    else
+        m_document->startNew(path, this);
+    m_athletes->table().setFocus();
+}
+
+void TeamWindow::showAthlete() {
+    m_results->showAthlete(m_athletes->athlete(), m_athletes->category());
+}
+
+void TeamWindow::showFigures() {
+    const auto athlete = m_results->athlete();
+    const myTeamStruct* const record = athlete && *athlete < m_document->athletes().size()
+                                           ? &m_document->athletes()[*athlete]
+                                           : nullptr;
+    m_summary->show(record, m_results->category());
+    m_charts->setVisible(m_results->seasons().results() != nullptr);
+    m_charts->show(record ? QString::fromStdString(record->name) : QString(),
+                   m_results->seasons().results(), m_results->place());
+}
+
+void TeamWindow::tell(const std::string& text) {
+    workspace().showAlert({"", text}, this);
+}
+
+void TeamWindow::addAthlete(myTeamStruct athlete) {
+    m_document->edit(tr("new athlete"), [&](myTeamToSaveStruct& team) {
+        team.realMyTeam.push_back(std::move(athlete));
+    });
+    m_athletes->choose(m_document->athletes().size() - 1);
+}
+
+void TeamWindow::askForAthlete() {
+    TeamAthleteDialog dialog(
+        [this](const QString& name) { return checkedName(*m_document, name, std::nullopt); },
+        m_athletes->category(), this);
+    if (dialog.exec() == QDialog::Accepted)
+        addAthlete(dialog.athlete());
+}
+
+void TeamWindow::removeAthlete() {
+    const auto athlete = m_athletes->athlete();
+    if (!athlete)
+        return;
+    m_document->edit(tr("removal of an athlete"), [&](myTeamToSaveStruct& team) {
+        team.realMyTeam.erase(team.realMyTeam.begin() + static_cast<std::ptrdiff_t>(*athlete));
+    });
+    if (const std::size_t left = m_document->athletes().size(); left > 0)
+        m_athletes->choose(std::min(*athlete, left - 1));
+}
+
+void TeamWindow::addCategory(const std::string& category) {
+    const auto athlete = m_athletes->athlete();
+    if (!athlete)
+        return;
+    m_document->editAthlete(*athlete, tr("new category"),
+                            [&](myTeamStruct& record) { (void)categoryIn(record, category); });
+    m_results->showCategory(category);
+}
+
+void TeamWindow::removeCategory() {
+    const auto athlete = m_results->athlete();
+    if (!m_results->seasons().results())
+        return;
+    m_document->editAthlete(*athlete, tr("removal of a category"), [&](myTeamStruct& record) {
+        std::erase_if(record.cats, [&](const mtCatsStruct& entry) {
+            return entry.cat == m_results->category();
+        });
+    });
+}
+
+/// The next season after the latest, or the present one.
+void TeamWindow::addSeason() {
+    const mtCatsStruct* const results = m_results->seasons().results();
+    if (!results) {
+        tell(tr("Choose an athlete and a category first.").toStdString());
+        return;
+    }
+    std::int64_t year = std::stoll(dayText(workspace().clock()()).substr(0, 4));
+    for (const mtSeasonStruct& season : results->seasons)
+        year = std::max(year, season.year + 1);
+    m_results->addSeason(year);
+}
+
+void TeamWindow::addRace() {
+    const mtCatsStruct* const results = m_results->seasons().results();
+    if (!results || results->seasons.empty())
+        tell(tr("Add a season first.").toStdString());
+    else
+        m_results->addRace();
+}
+
+void TeamWindow::removeCurrent() {
+    if (m_athletes->table().hasFocus())
+        removeAthlete();
+    else
+        m_results->removeCurrent();
+}
+
+void TeamWindow::editCurrent() {
+    QTableView& athletes = m_athletes->table();
+    if (athletes.hasFocus())
+        athletes.edit(athletes.currentIndex());
+    else
+        m_results->editCurrent();
+}
+
+/// The category shown, or the one that the athletes are filtered by.
+void TeamWindow::previewCategorization() {
+    const std::string filtered = m_athletes->category();
+    const std::string category = filtered.empty() ? m_results->category() : filtered;
+    if (category.empty()) {
+        tell(tr("Choose a category first.").toStdString());
+        return;
+    }
+    auto athletes = categorizeTeam(m_document->value(), category);
+    if (athletes.empty()) {
+        tell(tr("No athlete comes into question in %1: two seasons are needed, with a final "
+                "position in one of the first two.")
+                 .arg(QString::fromStdString(category))
+                 .toStdString());
+        return;
+    }
+    const QString path =
+        QFileInfo(m_document->path()).path() + '/' + report::CategorizationFileName;
+    const auto make = [category, athletes] {
+        return report::categorizationReport(category, athletes);
+    };
+    ReportPreview preview(
+        {{tr("Categorization %1").arg(QString::fromStdString(category)), path, make}},
+        {workspace().log(),
+         [this](const Alert& alert, QWidget* over) { workspace().showAlert(alert, over); }},
+        this);
+    preview.exec();
+}
+
+void TeamWindow::saveChart() {
+    try {
+        m_charts->saveCurrent(QFileInfo(m_document->path()).path());
+    } catch (const FileError& error) {
+        workspace().log()(error.what());
+        workspace().showAlert({"Failed to create file", error.reason()}, this);
+    }
+}
+
+/// What is being typed in a cell is taken when the cell loses the focus.
+void TeamWindow::commit() {
+    if (QWidget* const field = focusWidget(); qobject_cast<QLineEdit*>(field))
+        field->clearFocus();
+}
+
+} // namespace kavela::desktop

@@ -1,0 +1,74 @@
+#pragma once
+
+#include "desktop/shell/editor_window.h"
+#include "desktop/team/team_document.h"
+
+#include <memory>
+
+namespace kavela::desktop {
+
+class AthletePanel;
+class ChartTabs;
+class ResultsView;
+class SummaryPanel;
+class TakeOverDialog;
+
+/// The team: every athlete's results season by season, typed in or taken over from split files and
+/// official lists, with summary, categorization and charts, all live.
+class TeamWindow : public EditorWindow {
+    Q_OBJECT
+
+public:
+    TeamWindow(Workspace& workspace, Autosave autosave);
+    ~TeamWindow() override;
+
+    /// False, after an alert, when the file cannot be opened.
+    [[nodiscard]] bool open(const QString& path);
+    /// A new team; the path is a folder, or a file that saving will propose.
+    void startNew(const QString& path);
+
+    [[nodiscard]] TeamDocument& document() const { return *m_document; }
+    [[nodiscard]] AthletePanel& athletes() const { return *m_athletes; }
+    [[nodiscard]] ResultsView& results() const { return *m_results; }
+    [[nodiscard]] ChartTabs& charts() const { return *m_charts; }
+
+    void addAthlete(myTeamStruct athlete);
+    void removeAthlete();
+    void addCategory(const std::string& category);
+    void removeCategory();
+    void addSeason();
+    void addRace();
+    /// Takes out what has the focus: a run, a race, a season or an athlete.
+    void removeCurrent();
+    void editCurrent();
+    /// Shows what split files or official lists have, and enters what was ticked.
+    void takeOverFrom(const QStringList& paths);
+
+    void askForAthlete();
+    void askForResults();
+    void previewCategorization();
+    void saveChart();
+
+protected:
+    void takeFiles(const QStringList& paths) override;
+    void commit() override;
+
+private:
+    TeamWindow(Workspace& workspace, std::unique_ptr<TeamDocument> document);
+    void makeParts();
+    void connectParts();
+    void showAthlete();
+    void showFigures();
+    void tell(const std::string& text);
+    void takeOverList(const QString& path);
+    void takeOverSplitFile(const QString& path);
+    void apply(TakeOverDialog& dialog);
+
+    std::unique_ptr<TeamDocument> m_document;
+    AthletePanel* m_athletes = nullptr;
+    ResultsView* m_results = nullptr;
+    SummaryPanel* m_summary = nullptr;
+    ChartTabs* m_charts = nullptr;
+};
+
+} // namespace kavela::desktop

@@ -1,0 +1,429 @@
+#include "desktop/team/team_window.h"
+
+#include "common/json_encode.h"
+#include "common/recorders.h"
+#include "common/temp_folder.h"
+#include "desktop/shell/workspace.h"
+#include "desktop/team/athlete_panel.h"
+#include "desktop/team/charts/chart_tabs.h"
+#include "desktop/team/charts/progression_chart.h"
+#include "desktop/team/charts/season_chart.h"
+#include "desktop/team/results_view.h"
+#include "desktop/team/takeover/take_over_dialog.h"
+#include "desktop/team/typed_values.h"
+#include "results/phase_averages.h"
+#include "results/team_file.h"
+#include "splitdata/document.h"
+#include "splittaking/messages.h"
+
+#include <gmock/gmock.h>
+
+#include <QApplication>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMimeData>
+#include <QTableView>
+#include <QTableWidget>
+#include <QTest>
+#include <QTimer>
+#include <QTreeView>
+
+namespace kavela::test {
+namespace {
+
+namespace fs = std::filesystem;
+using desktop::Autosave;
+using desktop::SeasonModel;
+using desktop::SeasonPlace;
+using desktop::TakeOverDialog;
+using desktop::TeamWindow;
+using desktop::Workspace;
+using ::testing::Contains;
+using ::testing::ElementsAre;
+using ::testing::HasSubstr;
+using ::testing::IsEmpty;
+using ::testing::Not;
+using ::testing::SizeIs;
+
+mtRaceStruct race(const char* event, const char* location, std::int64_t finalPos) {
+    mtRaceStruct made;
+    made.event = event;
+    made.location = location;
+    made.finalPos = finalPos;
+    return made;
+}
+
+mtSeasonStruct season(std::int64_t year, std::vector<mtRaceStruct> races) {
+    mtSeasonStruct made;
+    made.year = year;
+    made.races = std::move(races);
+    return made;
+}
+
+/// An athlete whose third season makes the difference, and a second one.
+myTeamToSaveStruct smallTeam() {
+    myTeamToSaveStruct team;
+    myTeamStruct ann{"ŠTERN Ann Marie", 1998, {}, false};
+    ann.cats.push_back(
+        {"WK1",
+         {season(2025, {race("WC1", "Tacen", 5), race("ICF", "Solkan", 9)}),
+          season(2024, {race("WC2", "Praha", 12)}), season(2023, {race("EUROS", "Ljubljana", 2)})},
+         {}});
+    team.realMyTeam.push_back(ann);
+    team.realMyTeam.push_back({"OAKES Tom", 2001, {{"MC1", {}, {}}}, false});
+    return team;
+}
+
+class TeamWindowTest : public ::testing::Test {
+protected:
+    TeamWindowTest() {
+        m_workspace.setAlerts(&m_recorder);
+        m_workspace.setAnswer([this](const Alert& question) {
+            m_questions.push_back(question.text);
+            return true;
+        });
+        saveTeamFile(smallTeam(), file());
+    }
+
+    fs::path file() const { return m_folder.path() / "team.kvteam"; }
+
+    std::unique_ptr<TeamWindow> makeWindow() {
+        auto window = std::make_unique<TeamWindow>(
+            m_workspace, Autosave(QString::fromStdString((m_folder.path() / "autosave").string())));
+        window->setAttribute(Qt::WA_DeleteOnClose, false);
+        return window;
+    }
+
+    static void show(TeamWindow& window) {
+        window.show();
+        QApplication::setActiveWindow(&window);
+        QApplication::processEvents();
+    }
+
+    std::unique_ptr<TeamWindow> openWindow() {
+        auto window = makeWindow();
+        if (!window->open(QString::fromStdString(file().string())))
+            return nullptr;
+        show(*window);
+        window->athletes().choose(0);
+        return window;
+    }
+
+    static void press(TeamWindow& window, QKeyCombination keys) {
+        if (QApplication::activeWindow() != &window)
+            QApplication::setActiveWindow(&window); // no window manager does
+        QWidget* const focus = window.focusWidget() ? window.focusWidget() : &window;
+        QTest::keyClick(focus, keys.key(), keys.keyboardModifiers());
+        QApplication::processEvents();
+    }
+
+    /// Opens the current cell of a view, types and leaves it with Enter.
+    static void type(TeamWindow& window, QAbstractItemView& view, const QString& text) {
+        view.setFocus();
+        press(window, Qt::Key_F2);
+        auto* const field = qobject_cast<QLineEdit*>(QApplication::focusWidget());
+        ASSERT_TRUE(field);
+        field->selectAll();
+        QTest::keyClicks(field, text);
+        QTest::keyClick(field, Qt::Key_Return);
+        QApplication::processEvents(); // the cell closes,
+        QApplication::processEvents(); // then a refusal is told
+    }
+
+    static QString label(const TeamWindow& window, const char* name) {
+        return window.findChild<QLabel*>(name)->text();
+    }
+
+    /// Looks at the dialog that comes next, and closes it.
+    static void whenAsked(std::function<void(TakeOverDialog&)> act) {
+        QTimer::singleShot(0, [act = std::move(act)] {
+            auto* const dialog = qobject_cast<TakeOverDialog*>(QApplication::activeModalWidget());
+            ASSERT_TRUE(dialog);
+            act(*dialog);
+            dialog->accept();
+        });
+    }
+
+    const mtCatsStruct& results(const TeamWindow& window) const {
+        return window.document().athletes()[0].cats[0];
+    }
+
+    TempFolder m_folder;
+    Recorder m_recorder;
+    std::vector<std::string> m_questions;
+    Workspace m_workspace{Preferences(m_folder.path() / "preferences.ini"), m_recorder.log(),
+                          [] { return ReferenceDate{7.7e8}; }}; // in May 2025
+};
+
+TEST_F(TeamWindowTest, EditsByKeysAloneAndTakesEveryStepBack) {
+    const auto window = openWindow();
+    ASSERT_TRUE(window);
+    auto& view = window->results();
+    view.tree().setFocus();
+    press(*window, Qt::Key_Up);
+    ASSERT_EQ(view.place(), (SeasonPlace{0, {}}));
+    press(*window, Qt::Key_Down); // from the season to its first race
+    ASSERT_EQ(view.place(), (SeasonPlace{0, 0}));
+    press(*window, Qt::Key_Right);
+    press(*window, Qt::Key_Right);
+    type(*window, view.tree(), "2");
+    EXPECT_EQ(results(*window).seasons[0].races[0].finalPos, 2);
+    press(*window, Qt::Key_Insert);
+    ASSERT_EQ(view.place(), (SeasonPlace{0, 2}));
+    view.runs().setCurrentIndex(view.runs().model()->index(3, desktop::PhaseModel::TimeColumn));
+    type(*window, view.runs(), "1:32.34");
+    press(*window, Qt::Key_Right);
+    type(*window, view.runs(), "2");
+    const mtPhaseStruct final = results(*window).seasons[0].races[2].phases.at(0);
+    EXPECT_EQ(final.phase, "Final");
+    EXPECT_EQ(final.time, 92.34);
+    EXPECT_EQ(final.pen, 2);
+    EXPECT_THAT(results(*window).aves, SizeIs(1)) << "averages follow";
+    press(*window, Qt::CTRL | Qt::Key_S);
+    EXPECT_EQ(encode(readTeamFile(file())), encode(window->document().value()));
+    while (window->document().undoStack().canUndo())
+        press(*window, Qt::CTRL | Qt::Key_Z);
+    EXPECT_EQ(encode(window->document().value()), encode(smallTeam()));
+    EXPECT_THAT(m_recorder.alerts, IsEmpty());
+}
+
+TEST_F(TeamWindowTest, TheOrderOfTheSeasonsDecidesTheLabel) {
+    const auto window = openWindow();
+    ASSERT_TRUE(window);
+    EXPECT_EQ(label(*window, "label"), "Categorization: Senior development");
+    EXPECT_THAT(label(*window, "summary").toStdString(), HasSubstr("Medals in SP or EP: 1"));
+    window->results().choose({2, {}});
+    window->results().tree().setFocus();
+    press(*window, Qt::ALT | Qt::Key_Up);
+    EXPECT_EQ(results(*window).seasons[1].year, 2023);
+    EXPECT_EQ(window->results().place(), (SeasonPlace{1, {}})) << "the season stays chosen";
+    EXPECT_EQ(label(*window, "label"), "Categorization: Medalist");
+    EXPECT_EQ(label(*window, "countedSeasons"), "Counted: 2025 and 2023");
+    press(*window, Qt::CTRL | Qt::Key_Z);
+    EXPECT_EQ(label(*window, "label"), "Categorization: Senior development");
+
+    auto* const model = window->results().tree().model(); // the same by dragging
+    const std::unique_ptr<QMimeData> dragged(model->mimeData({model->index(2, 0)}));
+    EXPECT_TRUE(model->dropMimeData(dragged.get(), Qt::MoveAction, 0, 0, {}));
+    EXPECT_EQ(results(*window).seasons[0].year, 2023);
+    EXPECT_EQ(results(*window).seasons[2].year, 2024);
+    EXPECT_EQ(label(*window, "label"), "Categorization: Medalist");
+}
+
+TEST_F(TeamWindowTest, RefusesWhatIsNoResult) {
+    struct Case {
+        SeasonPlace place;
+        int seasonColumn; ///< of the table of seasons; -1: the column of the runs
+        int runColumn;
+        const char* typed;
+        const char* alert;
+    };
+    const SeasonPlace first{0, 0};
+    using Runs = desktop::PhaseModel;
+    const Case cases[] = {
+        {first, -1, Runs::TimeColumn, "92x", "“92x”"},
+        {first, -1, Runs::TimeColumn, "-3", "“-3”"},
+        {first, -1, Runs::TimeColumn, "nan", "“nan”"},
+        {first, -1, Runs::PositionColumn, "2.5", "position"},
+        {first, -1, Runs::DateColumn, "2025-02-30", "day of the calendar"},
+        {first, SeasonModel::FinalColumn, 0, "first", "position"},
+        {{0, {}}, SeasonModel::TitleColumn, 0, "2024", "2024 already"},
+        {{0, {}}, SeasonModel::PointsColumn, 0, "1e999", "points"},
+    };
+    const auto window = openWindow();
+    ASSERT_TRUE(window);
+    auto& view = window->results();
+    for (const Case& wrong : cases) {
+        SCOPED_TRACE(wrong.typed);
+        m_recorder.alerts.clear();
+        view.choose(wrong.place, std::max(wrong.seasonColumn, 0));
+        if (wrong.seasonColumn < 0) {
+            view.runs().setCurrentIndex(view.runs().model()->index(0, wrong.runColumn));
+            type(*window, view.runs(), wrong.typed);
+        } else {
+            type(*window, view.tree(), wrong.typed);
+        }
+        EXPECT_THAT(m_recorder.alerts, ElementsAre(HasSubstr(wrong.alert)));
+        EXPECT_EQ(encode(window->document().value()), encode(smallTeam()));
+    }
+    EXPECT_FALSE(window->document().isDirty());
+}
+
+TEST(TypedValues, AreReadAsCoachesWriteThem) {
+    using namespace desktop;
+    EXPECT_EQ(typedTime(" 92,34 "), 92.34);
+    EXPECT_EQ(typedTime("1:02.5"), 62.5);
+    EXPECT_EQ(typedTime(""), 0);
+    EXPECT_EQ(dayShown(typedDay("14.6.2025", {})), "2025-06-14");
+    const ReferenceDate evening = referenceDate(std::chrono::year(2025) / 6 / 1, 68400);
+    EXPECT_EQ(typedDay("2025-06-14", evening).seconds, evening.seconds + 13 * 86400);
+    EXPECT_EQ(typedDay("", evening), ReferenceDate());
+    EXPECT_THROW((void)typedTime("1:60"), RefusedEntry);
+    EXPECT_THROW((void)typedTime("3600"), RefusedEntry);
+    EXPECT_THROW((void)typedBirthYear("98"), RefusedEntry);
+}
+
+athletedata031 run(const char* name, const char* phase, std::vector<double> times) {
+    athletedata031 made;
+    made.names = {name};
+    made.cat = "K1W";
+    made.phase = phase;
+    made.sectioninfo.times = times;
+    made.sectioninfo.totaltime = times[0] + times[1];
+    made.sectioninfo.isfullrun = times[1] > 0;
+    return made;
+}
+
+/// A race with the names in another order, and no positions.
+splittakerdata031 splitFile() {
+    splittakerdata031 file;
+    file.info.event = "World Cup 3";
+    file.info.place = "Praha";
+    file.info.date = referenceDate(std::chrono::year(2025) / 6 / 14);
+    file.info.totalsplits = 2;
+    file.athletes = {run("Zoe Fast", "Heats", {40, 50}), run("Ann Marie Stern", "Heats", {44, 50}),
+                     run("Zoe Fast", "Final", {40, 48}), run("Ann Marie Stern", "Final", {41, 48})};
+    file.athletes[1].sectioninfo.realtime = 94.03;
+    file.athletes[1].sectioninfo.realpen = 2;
+    return file;
+}
+
+TEST_F(TeamWindowTest, TakesResultsOverFromASplitFileAfterShowingThem) {
+    const auto window = openWindow();
+    ASSERT_TRUE(window);
+    const fs::path path = m_folder.add("race.kvx", encode(splitFile()));
+    whenAsked([&](TakeOverDialog& dialog) {
+        EXPECT_EQ(encode(window->document().value()), encode(smallTeam())) << "nothing yet";
+        EXPECT_EQ(dialog.tickedCount(), 3U); // two runs and the final position
+        auto* const lines = dialog.findChild<QTableWidget*>("lines");
+        EXPECT_EQ(lines->item(0, 0)->text(), "ŠTERN Ann Marie");
+        EXPECT_EQ(lines->item(3, 1)->text(), "Zoe Fast");
+        EXPECT_EQ(lines->item(3, 5)->text(), "is not in the team");
+        lines->item(1, 0)->setCheckState(Qt::Unchecked); // not the run of the final
+    });
+    window->takeOverFrom({QString::fromStdString(path.string())});
+    const mtRaceStruct taken = results(*window).seasons[0].races.at(2);
+    EXPECT_EQ(taken.event, "WC3");
+    EXPECT_EQ(taken.location, "Praha");
+    EXPECT_EQ(taken.finalPos, 2);
+    ASSERT_THAT(taken.phases, SizeIs(1));
+    EXPECT_EQ(taken.phases[0].phase, "Heats 1");
+    EXPECT_EQ(taken.phases[0].time, 94.03);
+    EXPECT_EQ(taken.phases[0].pen, 2);
+    EXPECT_EQ(taken.phases[0].pos, 2);
+    EXPECT_THAT(taken.phases[0].pers, ElementsAre(::testing::DoubleEq((44.0 / 40 - 1) * 100), 0));
+    EXPECT_EQ(results(*window).seasons[0].aves.at(0).phase, "Heats 1");
+    EXPECT_TRUE(window->charts().seasonChart().hasData());
+    EXPECT_THAT(window->charts().progressionChart().csv().toStdString(),
+                HasSubstr("WC3;Praha;Result;2"));
+    press(*window, Qt::CTRL | Qt::Key_Z);
+    EXPECT_EQ(encode(window->document().value()), encode(smallTeam()));
+}
+
+TEST_F(TeamWindowTest, AListReplacesTheResultButKeepsTheSplits) {
+    myTeamToSaveStruct team = smallTeam();
+    mtPhaseStruct final;
+    final.phase = "Final";
+    final.time = 100;
+    final.splits = {50, 50};
+    final.pers = {1, 2};
+    team.realMyTeam[0].cats[0].seasons[0].races[0].phases.push_back(final);
+    saveTeamFile(team, file());
+    const auto window = openWindow();
+    ASSERT_TRUE(window);
+    const fs::path list = m_folder.add("final.csv", "pos;bib;name;nationality;time;pen\n"
+                                                    "4;7;Ann Marie STERN;SLO;99.5;2\n"
+                                                    "5;8;Tom Oakes;SLO;101;0\n");
+    whenAsked([](TakeOverDialog& dialog) {
+        dialog.findChild<QComboBox*>("event")->setCurrentText("WC1");
+        dialog.findChild<QLineEdit*>("location")->setText("TACEN");
+        EXPECT_EQ(dialog.findChild<QTableWidget*>("lines")->item(0, 5)->text(), "replaces 100.00");
+        EXPECT_EQ(dialog.tickedCount(), 2U) << "none of the athlete of another boat";
+    });
+    window->takeOverFrom({QString::fromStdString(list.string())});
+    ASSERT_THAT(results(*window).seasons[0].races, SizeIs(2)) << "the race is the one there";
+    const mtRaceStruct& taken = results(*window).seasons[0].races[0];
+    EXPECT_EQ(taken.finalPos, 4);
+    EXPECT_EQ(taken.phases.at(0).time, 99.5);
+    EXPECT_THAT(taken.phases.at(0).splits, ElementsAre(50, 50));
+}
+
+TEST_F(TeamWindowTest, RefusesBadFilesAndLosesNothing) {
+    const auto window = openWindow();
+    ASSERT_TRUE(window);
+    window->results().addSeason(2026);
+    const std::string before = encode(window->document().value());
+    const fs::path damaged = m_folder.add(
+        "bad.kvteam",
+        R"({"realMyTeam":[{"name":"A","birthYear":"x","cats":[],"isretired":false}]})");
+    EXPECT_FALSE(window->open(QString::fromStdString(damaged.string())));
+    EXPECT_THAT(m_recorder.alerts, ElementsAre(HasSubstr("realMyTeam[0].birthYear")));
+    m_recorder.alerts.clear();
+    for (const auto& [name, content] : {std::pair("bad.kvx", "{}"), std::pair("bad.csv", "a;b\n1")})
+        window->takeOverFrom({QString::fromStdString(m_folder.add(name, content).string())});
+    EXPECT_THAT(m_recorder.alerts, SizeIs(2));
+    EXPECT_EQ(encode(window->document().value()), before);
+    EXPECT_TRUE(window->document().isDirty());
+}
+
+TEST_F(TeamWindowTest, OffersTheWorkOfASessionThatWasCutOff) {
+    {
+        const auto window = openWindow();
+        window->results().addSeason(2026);
+    } // goes without being closed
+    EXPECT_EQ(encode(readTeamFile(file())), encode(smallTeam())) << "never over the original";
+    const auto window = openWindow();
+    EXPECT_THAT(m_questions, ElementsAre(messages::AskToLoadAutosave));
+    EXPECT_EQ(results(*window).seasons[0].year, 2026);
+    EXPECT_TRUE(window->document().isDirty());
+}
+
+TEST_F(TeamWindowTest, BuildsATeamFromNothing) {
+    const auto window = makeWindow();
+    window->startNew(QString::fromStdString(m_folder.path().string()));
+    show(*window);
+    EXPECT_EQ(window->document().path().toStdString(), (m_folder.path() / "Team.kvteam").string());
+    EXPECT_THAT(label(*window, "hint").toStdString(), HasSubstr("Ctrl+N"));
+    QTimer::singleShot(0, [] {
+        auto* const dialog = QApplication::activeModalWidget();
+        ASSERT_TRUE(dialog);
+        dialog->findChild<QLineEdit*>("surname")->insert("müller");
+        QTest::keyClicks(dialog->findChild<QLineEdit*>("givenName"), "Eva");
+        QTest::keyClicks(dialog->findChild<QLineEdit*>("birthYear"), "1999");
+        QTest::keyClick(dialog->findChild<QWidget*>("WK1"), Qt::Key_Space);
+        QTest::keyClick(dialog, Qt::Key_Return);
+    });
+    press(*window, Qt::CTRL | Qt::Key_N);
+    ASSERT_THAT(window->document().athletes(), SizeIs(1));
+    EXPECT_EQ(window->document().athletes()[0].name, "MÜLLER Eva");
+    EXPECT_EQ(window->document().athletes()[0].birthYear, 1999);
+    press(*window, Qt::CTRL | Qt::SHIFT | Qt::Key_N);
+    press(*window, Qt::Key_Insert);
+    EXPECT_EQ(results(*window).seasons.at(0).year, 2025);
+    EXPECT_THAT(results(*window).seasons.at(0).races, SizeIs(1));
+    press(*window, Qt::Key_Delete);
+    press(*window, Qt::Key_Delete);
+    EXPECT_THAT(results(*window).seasons, IsEmpty());
+    window->athletes().table().setFocus();
+    press(*window, Qt::Key_Delete);
+    EXPECT_THAT(window->document().athletes(), IsEmpty());
+    EXPECT_THAT(m_recorder.alerts, IsEmpty());
+}
+
+TEST_F(TeamWindowTest, SavesChartsAsPicturesAndData) {
+    const auto window = openWindow();
+    ASSERT_TRUE(window);
+    auto& chart = window->charts().progressionChart();
+    for (const auto& [name, start] :
+         {std::pair("chart.png", "\x89PNG"), std::pair("chart.svg", "<?xml"),
+          std::pair("chart.csv", "Event;Location;Phase;Position\n")}) {
+        desktop::saveTeamChart(chart, m_folder.path() / name);
+        EXPECT_THAT(contentOf(m_folder.path() / name), ::testing::StartsWith(start));
+    }
+    EXPECT_THROW(desktop::saveTeamChart(chart, m_folder.path() / "chart.doc"), FileError);
+    EXPECT_THAT(m_folder.names(), Not(Contains("chart.doc")));
+}
+
+} // namespace
+} // namespace kavela::test
