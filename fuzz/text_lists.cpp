@@ -7,8 +7,8 @@
 #include <cstdlib>
 #include <string_view>
 
-/// Texts that people and spreadsheets write: result lists, lists of athletes, gate numbers, names of
-/// films. Whatever comes, nothing taken over is out of its range.
+/// Texts that people and spreadsheets write: result lists, lists of athletes, gate numbers, names
+/// of films. Whatever comes, nothing taken over is out of its range.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t size) {
     using namespace kavela;
     const std::string_view text(reinterpret_cast<const char*>(bytes), size);

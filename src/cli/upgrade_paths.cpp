@@ -17,8 +17,8 @@ namespace {
 /// Whether files of this name are upgraded when their folder is. What an upgrade has kept is not.
 bool isUpgradedName(const fs::path& path) {
     const std::string extension = smallExtension(path);
-    return extension == ".kvx" || (extension == ".kvsr" && !isKeptSelectionName(path)) ||
-           (extension == PlanningExtension && !isKeptPlanningName(path));
+    return extension == ".kvx" || (extension == ".kvsr" && !isKeptName(path)) ||
+           (extension == PlanningExtension && !isKeptName(path));
 }
 
 void walk(const fs::path& folder, PathsToUpgrade& found) {

@@ -2,6 +2,7 @@
 
 #include "common/json_decode.h"
 #include "common/json_encode.h"
+#include "common/kept_file.h"
 #include "common/record_convert.h"
 #include "common/safe_file.h"
 #include "planning/history/planning_history.h"
@@ -43,29 +44,6 @@ RecognisedPlanning unreadable(const Fault& fault) {
     for (const PlanningVersion& version : Versions)
         found.failures.push_back({version.record, fault});
     return found;
-}
-
-constexpr std::string_view KeptMark = "_old";
-
-fs::path keptName(const fs::path& path, int number) {
-    std::string name = path.stem().string() + std::string(KeptMark);
-    if (number > 1)
-        name += std::to_string(number);
-    return path.parent_path() / (name + path.extension().string());
-}
-
-bool keepPrevious(const fs::path& path, const DiagnosticLog& log) {
-    try {
-        int number = 1;
-        while (!keepUnderSecondName(path, keptName(path, number)))
-            ++number;
-        return true;
-    } catch (const FileError& error) {
-        log(planning_messages::NotSaved);
-        log("The file " + path.string() +
-            " could not be kept under a second name: " + error.reason());
-        return false;
-    }
 }
 
 } // namespace
@@ -143,13 +121,9 @@ bool savePlanningFile(const planningdatac_v6& document, const fs::path& path,
 
 bool rewritePlanningFile(const RecognisedPlanning& planning, const fs::path& path,
                          const DiagnosticLog& log) {
-    return keepPrevious(path, log) && savePlanningFile(planning.document, path, log);
-}
-
-bool isKeptPlanningName(const fs::path& path) {
-    std::string stem = path.stem().string();
-    stem.erase(stem.find_last_not_of("0123456789") + 1);
-    return stem.ends_with(KeptMark);
+    return !keepPreviousFile(path, path.extension().string(), planning_messages::NotSaved, log)
+                .empty() &&
+           savePlanningFile(planning.document, path, log);
 }
 
 } // namespace kavela

@@ -72,6 +72,6 @@ void reportIncompatible(const RecognisedPlanning& planning, const DiagnosticLog&
                                        const std::filesystem::path& path, const DiagnosticLog& log);
 
 /// Whether a file is what rewriting another one kept: its stem ends in "_old", "_old2" and so on.
-[[nodiscard]] bool isKeptPlanningName(const std::filesystem::path& path);
+[[nodiscard]] bool isKeptName(const std::filesystem::path& path);
 
 } // namespace kavela

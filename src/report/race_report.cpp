@@ -41,43 +41,33 @@ void putNoRuns(PageBuilder& pages, const Typeface& typeface) {
     });
 }
 
-} // namespace
-
-RaceReport::RaceReport(ReportHeading heading, const RaceSet& set, const TableSettings& settings,
-                       ReportContent content, const TableView& view)
-    : m_heading(std::move(heading)) {
+PageBuilder racePages(const ReportHeading& heading, const RaceSet& set,
+                      const TableSettings& settings, ReportContent content, const TableView& view) {
+    const Typeface typeface;
     const SplitTable splits = makeSplitTable(set, settings);
     const ReportTable table = reportTable(set, splits, settings, view);
-    const TableLayout layout = layOutTable(table, m_typeface);
-    m_orientation = layout.orientation;
-
-    PageBuilder pages(m_orientation);
+    const TableLayout layout = layOutTable(table, typeface);
+    PageBuilder pages(layout.orientation);
     if (content == ReportContent::Race) {
-        putTitleBlock(pages, m_heading, m_typeface);
+        putTitleBlock(pages, heading, typeface);
         if (table.rowCount() > 0) {
-            putRaceSections(pages, set, columnTitles(splits), m_typeface);
-            putTableHeading(pages, layout, m_typeface);
+            putRaceSections(pages, set, columnTitles(splits), typeface);
+            putTableHeading(pages, layout, typeface);
         }
     } else {
-        putShortTitle(pages, m_heading, m_typeface);
+        putShortTitle(pages, heading, typeface);
     }
     if (table.rowCount() > 0)
-        putTable(pages, table, layout, m_typeface);
+        putTable(pages, table, layout, typeface);
     else
-        putNoRuns(pages, m_typeface);
-    m_pages = std::move(pages).pages();
+        putNoRuns(pages, typeface);
+    return pages;
 }
 
-void RaceReport::paintPage(QPainter& painter, int page) const {
-    painter.save();
-    painter.scale(1 / Point, 1 / Point);
-    painter.setRenderHint(QPainter::Antialiasing);
-    for (const Piece& piece : m_pages.at(static_cast<std::size_t>(page)))
-        piece.paint(painter, piece.place);
-    if (page > 0)
-        paintPageHead(painter, headPlace(m_orientation), m_heading, m_typeface);
-    paintPageNumber(painter, footPlace(m_orientation), page + 1, pageCount(), m_typeface);
-    painter.restore();
-}
+} // namespace
+
+RaceReport::RaceReport(const ReportHeading& heading, const RaceSet& set,
+                       const TableSettings& settings, ReportContent content, const TableView& view)
+    : SheetReport(heading, racePages(heading, set, settings, content, view)) {}
 
 } // namespace kavela::report

@@ -2,6 +2,7 @@
 
 #include "common/json_decode.h"
 #include "common/json_encode.h"
+#include "common/kept_file.h"
 #include "common/record_convert.h"
 #include "common/safe_file.h"
 #include "results/history/selection_history.h"
@@ -59,29 +60,6 @@ RecognisedSelectionFile unreadable(const Fault& fault) {
     return found;
 }
 
-constexpr std::string_view KeptMark = "_old";
-
-fs::path keptName(const fs::path& path, int number) {
-    std::string name = path.stem().string() + std::string(KeptMark);
-    if (number > 1)
-        name += std::to_string(number);
-    return path.parent_path() / (name + path.extension().string());
-}
-
-bool keepPrevious(const fs::path& path, const DiagnosticLog& log) {
-    try {
-        int number = 1;
-        while (!keepUnderSecondName(path, keptName(path, number)))
-            ++number;
-        return true;
-    } catch (const FileError& error) {
-        log(messages::SelectionNotSaved);
-        log("The file " + path.string() +
-            " could not be kept under a second name: " + error.reason());
-        return false;
-    }
-}
-
 } // namespace
 
 std::span<const SelectionVersion> selectionVersions() {
@@ -130,13 +108,9 @@ bool saveSelectionFile(const selectionracesStruct_v3& document, const fs::path& 
 
 bool rewriteSelectionFile(const RecognisedSelectionFile& file, const fs::path& path,
                           const DiagnosticLog& log) {
-    return keepPrevious(path, log) && saveSelectionFile(file.document, path, log);
-}
-
-bool isKeptSelectionName(const fs::path& path) {
-    std::string stem = path.stem().string();
-    stem.erase(stem.find_last_not_of("0123456789") + 1);
-    return stem.ends_with(KeptMark);
+    return !keepPreviousFile(path, path.extension().string(), messages::SelectionNotSaved, log)
+                .empty() &&
+           saveSelectionFile(file.document, path, log);
 }
 
 std::optional<selectionracesStruct_v3> openSelectionFile(const fs::path& path,

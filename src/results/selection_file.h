@@ -54,9 +54,6 @@ struct RecognisedSelectionFile {
                                         const std::filesystem::path& path,
                                         const DiagnosticLog& log);
 
-/// Whether a file name is that of a previous file kept by a rewriting.
-[[nodiscard]] bool isKeptSelectionName(const std::filesystem::path& path);
-
 /// How a window opens a selection file: one of an older layout is rewritten first, and opens all
 /// the same where that cannot be. Nothing, and an alert, when no layout decodes it.
 [[nodiscard]] std::optional<selectionracesStruct_v3>

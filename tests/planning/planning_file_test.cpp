@@ -184,8 +184,8 @@ TEST(PlanningFiles, RewritingKeepsWhatWasThere) {
     EXPECT_EQ(contentOf(folder.path() / "group_old2.planning"), old);
     EXPECT_EQ(contentOf(folder.path() / "group_old.planning"), "an earlier one");
     EXPECT_TRUE(recognisePlanningFile(path, recorder.log()).isCurrent());
-    EXPECT_TRUE(isKeptPlanningName("a/group_old2.planning"));
-    EXPECT_FALSE(isKeptPlanningName("a/group_2024.planning"));
+    EXPECT_TRUE(isKeptName("a/group_old2.planning"));
+    EXPECT_FALSE(isKeptName("a/group_2024.planning"));
 }
 
 TEST(PlanningFiles, FailedWriteIsToldAndKeepsTheOldFile) {

@@ -18,8 +18,8 @@ class EditorWindow : public QMainWindow {
 
 public:
     /// `kind` names such windows where their place and keys are remembered, `toolTitle` the tool;
-    /// `suffix` is that of its files, without the point. The file may be a member of the window that
-    /// derives from this one: it is not touched before finishMenus().
+    /// `suffix` is that of its files, without the point. The file may be a member of the window
+    /// that derives from this one: it is not touched before finishMenus().
     EditorWindow(Workspace& workspace, EditedFile& file, QString kind, QString toolTitle,
                  QString suffix);
 

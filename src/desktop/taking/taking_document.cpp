@@ -4,6 +4,7 @@
 #include "common/json_encode.h"
 #include "common/safe_file.h"
 #include "desktop/shell/workspace.h"
+#include "desktop/taking/taking_files.h"
 #include "report/pdf_file.h"
 #include "report/race_report.h"
 #include "splitdata/loader.h"
@@ -42,29 +43,6 @@ void takeFilmName(athletedata031& run, const std::string& pattern) {
 
 QString qtText(const std::string& text) {
     return QString::fromStdString(text);
-}
-
-std::optional<fs::file_time_type> lastWritten(const fs::path& file) {
-    std::error_code error;
-    const auto time = fs::last_write_time(file, error);
-    return error ? std::nullopt : std::optional(time);
-}
-
-/// The split file of a folder, the latest of several; a collected training only where there is no
-/// other.
-QString splitFileIn(const QString& folder) {
-    QStringList files = QDir(folder).entryList({"*.kvx"}, QDir::Files, QDir::Time);
-    if (files.size() > 1)
-        files.removeAll(TrainingFileName);
-    return files.isEmpty() ? QString() : QDir(folder).absoluteFilePath(files.front());
-}
-
-QStringList filmsIn(const QString& folder) {
-    QStringList films;
-    for (const QString& name : QDir(folder).entryList(QDir::Files, QDir::Name))
-        if (isVideoFile(name.toStdString()))
-            films.append(name);
-    return films;
 }
 
 } // namespace
@@ -379,92 +357,11 @@ void TakingDocument::reset(QWidget* over) {
     logPerfectTime();
 }
 
-void TakingDocument::logPerfectTime() const {
-    (void)finished(true);
-}
-
-/// The document as it is written: with the perfect time and the expected times of its runs.
-splittakerdata031 TakingDocument::finished(bool isLogged) const {
-    splittakerdata031 document = documentOf(m_state);
-    recomputeExpected(document,
-                      isLogged ? m_workspace.log() : DiagnosticLog([](std::string_view) {}));
-    document.info.lastSavedDate = m_workspace.clock()();
-    return document;
-}
-
-bool TakingDocument::mayOverwrite(QWidget* over) const {
-    const auto now = lastWritten(m_path.toStdString());
-    if (!now || now == m_readTime)
-        return true;
-    return m_workspace.ask(
-        {"", tr("The file was changed by another program since it was opened. Saving replaces "
-                "what that program wrote.")
-                 .toStdString()},
-        tr("Save all the same"), over);
-}
-
-bool TakingDocument::save(QWidget* over) {
-    if (m_state.runs.empty()) {
-        m_workspace.showAlert({"", messages::NothingToSave}, over);
-        return false;
-    }
-    const Preferences& preferences = m_workspace.preferences();
-    if (!mayOverwrite(over) || !write(m_path.toStdString(), preferences.boolean("savetoCSV"),
-                                      preferences.boolean("savetoPDF"), over))
-        return false;
-    m_readTime = lastWritten(m_path.toStdString());
-    m_undo.setClean();
-    m_keep.stop();
-    m_autosave.forget(m_path);
-    m_workspace.addRecentFile(m_path);
-    emit saved();
-    return true;
-}
-
-bool TakingDocument::exportTo(const QString& file, bool alsoCsv, bool alsoPdf, QWidget* over) {
-    if (m_state.runs.empty()) {
-        m_workspace.showAlert({"", messages::NothingToExport}, over);
-        return false;
-    }
-    if (!splitFileIn(QFileInfo(file).path()).isEmpty() &&
-        !m_workspace.ask({"", messages::AskToOverwrite}, tr("Overwrite"), over))
-        return false;
-    return write(file.toStdString(), alsoCsv, alsoPdf, over);
-}
-
-bool TakingDocument::write(const fs::path& file, bool csv, bool pdf, QWidget* over) {
-    try {
-        splittakerdata031 document = finished(false);
-        writeFileSafely(file, encode(document));
-        fs::path beside = file;
-        if (csv)
-            writeFileSafely(beside.replace_extension(".csv"), splitTableCsv(document));
-        if (pdf) {
-            const report::ReportHeading heading = report::reportHeading(document.info);
-            const RaceSet set = makeRaceSet(std::move(document), file);
-            report::writePdf(report::RaceReport(heading, set, {}, report::ReportContent::Race),
-                             beside.replace_extension(".pdf"));
-        }
-        return true;
-    } catch (const FileError& error) {
-        tellNotWritten(error.reason(), over);
-    } catch (const EncodeError& error) {
-        tellNotWritten(error.what(), over);
-    }
-    return false;
-}
-
 void TakingDocument::discard() {
     keepWork();
     m_keep.stop();
     m_autosave.putAside(m_path);
     m_undo.setClean();
-}
-
-void TakingDocument::tellNotWritten(const std::string& reason, QWidget* over) const {
-    m_workspace.log()("Failed to create file");
-    m_workspace.log()(reason);
-    m_workspace.showAlert({"Failed to create file", reason}, over);
 }
 
 } // namespace kavela::desktop

@@ -1,0 +1,102 @@
+#include "desktop/taking/taking_document.h"
+
+#include "common/error.h"
+#include "common/json_encode.h"
+#include "common/safe_file.h"
+#include "desktop/shell/workspace.h"
+#include "desktop/taking/taking_files.h"
+#include "report/pdf_file.h"
+#include "report/race_report.h"
+#include "splittaking/messages.h"
+#include "splittaking/perfect_time.h"
+#include "splittaking/table_export.h"
+
+#include <QFileInfo>
+
+/// How the document reaches the disk.
+namespace kavela::desktop {
+
+namespace fs = std::filesystem;
+
+void TakingDocument::logPerfectTime() const {
+    (void)finished(true);
+}
+
+/// The document as it is written: with the perfect time and the expected times of its runs.
+splittakerdata031 TakingDocument::finished(bool isLogged) const {
+    splittakerdata031 document = documentOf(m_state);
+    recomputeExpected(document,
+                      isLogged ? m_workspace.log() : DiagnosticLog([](std::string_view) {}));
+    document.info.lastSavedDate = m_workspace.clock()();
+    return document;
+}
+
+bool TakingDocument::mayOverwrite(QWidget* over) const {
+    const auto now = lastWritten(m_path.toStdString());
+    if (!now || now == m_readTime)
+        return true;
+    return m_workspace.ask(
+        {"", tr("The file was changed by another program since it was opened. Saving replaces "
+                "what that program wrote.")
+                 .toStdString()},
+        tr("Save all the same"), over);
+}
+
+bool TakingDocument::save(QWidget* over) {
+    if (m_state.runs.empty()) {
+        m_workspace.showAlert({"", messages::NothingToSave}, over);
+        return false;
+    }
+    const Preferences& preferences = m_workspace.preferences();
+    if (!mayOverwrite(over) || !write(m_path.toStdString(), preferences.boolean("savetoCSV"),
+                                      preferences.boolean("savetoPDF"), over))
+        return false;
+    m_readTime = lastWritten(m_path.toStdString());
+    m_undo.setClean();
+    m_keep.stop();
+    m_autosave.forget(m_path);
+    m_workspace.addRecentFile(m_path);
+    emit saved();
+    return true;
+}
+
+bool TakingDocument::exportTo(const QString& file, bool alsoCsv, bool alsoPdf, QWidget* over) {
+    if (m_state.runs.empty()) {
+        m_workspace.showAlert({"", messages::NothingToExport}, over);
+        return false;
+    }
+    if (!splitFileIn(QFileInfo(file).path()).isEmpty() &&
+        !m_workspace.ask({"", messages::AskToOverwrite}, tr("Overwrite"), over))
+        return false;
+    return write(file.toStdString(), alsoCsv, alsoPdf, over);
+}
+
+bool TakingDocument::write(const fs::path& file, bool csv, bool pdf, QWidget* over) {
+    try {
+        splittakerdata031 document = finished(false);
+        writeFileSafely(file, encode(document));
+        fs::path beside = file;
+        if (csv)
+            writeFileSafely(beside.replace_extension(".csv"), splitTableCsv(document));
+        if (pdf) {
+            const report::ReportHeading heading = report::reportHeading(document.info);
+            const RaceSet set = makeRaceSet(std::move(document), file);
+            report::writePdf(report::RaceReport(heading, set, {}, report::ReportContent::Race),
+                             beside.replace_extension(".pdf"));
+        }
+        return true;
+    } catch (const FileError& error) {
+        tellNotWritten(error.reason(), over);
+    } catch (const EncodeError& error) {
+        tellNotWritten(error.what(), over);
+    }
+    return false;
+}
+
+void TakingDocument::tellNotWritten(const std::string& reason, QWidget* over) const {
+    m_workspace.log()("Failed to create file");
+    m_workspace.log()(reason);
+    m_workspace.showAlert({"Failed to create file", reason}, over);
+}
+
+} // namespace kavela::desktop
