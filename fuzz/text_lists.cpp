@@ -1,3 +1,4 @@
+#include "results/selection_edit.h"
 #include "results/selection_import.h"
 #include "splittaking/course_setup.h"
 #include "splittaking/results_import.h"
