@@ -2,6 +2,7 @@
 
 #include "common/recorders.h"
 #include "common/temp_folder.h"
+#include "desktop/selection/athlete_dialog.h"
 #include "desktop/shell/workspace.h"
 #include "results/messages.h"
 #include "results/selection_file.h"
@@ -10,6 +11,8 @@
 #include <gmock/gmock.h>
 
 #include <QApplication>
+#include <QCheckBox>
+#include <QComboBox>
 #include <QTableView>
 #include <QTest>
 
@@ -154,6 +157,16 @@ TEST_F(SelectionWindowTest, TellsWhichLinesOfAListItCouldNotTake) {
     EXPECT_THAT(m_recorder.alerts[0], HasSubstr("Line 3"));
     window->document().undoStack().undo();
     EXPECT_EQ(window->document().value().categories.size(), 1U);
+}
+
+TEST(AthleteDialog, OffersOneGroupAndBonusMoreThanThereAreAndAddsThemOnlyWhenUsed) {
+    const NewAthlete athlete{"ALDER Ann", 2006, "Club", {true}, {0.5}};
+    desktop::AthleteDialog dialog(athlete, 1, 1, nullptr);
+    EXPECT_EQ(dialog.athlete().preselected, std::vector<bool>{true});
+    EXPECT_EQ(dialog.athlete().bonuses, std::vector<double>{0.5});
+    dialog.findChildren<QCheckBox*>().back()->setChecked(true);
+    EXPECT_EQ(dialog.athlete().preselected, (std::vector<bool>{true, true}));
+    EXPECT_EQ(dialog.findChild<QComboBox*>("ageGroup")->count(), 2) << "Senior and Junior";
 }
 
 TEST_F(SelectionWindowTest, OffersUnsavedWork) {

@@ -18,6 +18,8 @@ namespace kavela::desktop {
 AthleteDialog::AthleteDialog(const NewAthlete& athlete, std::size_t groups, std::size_t bonuses,
                              QWidget* parent)
     : QDialog(parent),
+      m_groupCount(groups),
+      m_bonusCount(bonuses),
       m_name(new QLineEdit(QString::fromStdString(athlete.name))),
       m_club(new QLineEdit(QString::fromStdString(athlete.club))),
       m_year(new QSpinBox),
@@ -35,14 +37,13 @@ AthleteDialog::AthleteDialog(const NewAthlete& athlete, std::size_t groups, std:
     form->addRow(tr("&Club"), m_club);
     form->addRow(tr("&Birth year"), m_year);
     form->addRow(tr("&Age group"), m_ageGroup);
-    for (std::size_t group = 0; group < std::max<std::size_t>(groups, 1); ++group) {
-        auto* box = new QCheckBox(groups < 2 ? tr("Preselected")
-                                             : tr("Preselected, group %1").arg(group + 1));
+    for (std::size_t group = 0; group <= groups; ++group) {
+        auto* box = new QCheckBox(tr("Preselected, group %1").arg(group + 1));
         box->setChecked(group < athlete.preselected.size() && athlete.preselected[group]);
         form->addRow(box);
         m_groups.push_back(box);
     }
-    for (std::size_t kind = 0; kind < std::max<std::size_t>(bonuses, 1); ++kind) {
+    for (std::size_t kind = 0; kind <= bonuses; ++kind) {
         const double bonus = kind < athlete.bonuses.size() ? athlete.bonuses[kind] : NoBonus;
         auto* edit = new QLineEdit(bonus > NoBonus ? QString::fromStdString(shortestText(bonus))
                                                    : QString());
@@ -77,6 +78,11 @@ NewAthlete AthleteDialog::athlete() const {
             bonus = NoBonus;
         athlete.bonuses.push_back(bonus);
     }
+    // The one more of each is there only when it was used.
+    if (!athlete.preselected.back())
+        athlete.preselected.resize(m_groupCount);
+    if (athlete.bonuses.back() <= NoBonus)
+        athlete.bonuses.resize(m_bonusCount);
     return athlete;
 }
 

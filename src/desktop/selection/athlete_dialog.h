@@ -17,7 +17,8 @@ class AthleteDialog : public QDialog {
     Q_OBJECT
 
 public:
-    /// So many preselection groups and kinds of bonus are offered, at least one of each.
+    /// So many preselection groups and kinds of bonus the selection has; one more of each is
+    /// offered.
     AthleteDialog(const NewAthlete& athlete, std::size_t groups, std::size_t bonuses,
                   QWidget* parent);
 
@@ -26,6 +27,8 @@ public:
 private:
     void showAgeGroups();
 
+    std::size_t m_groupCount;
+    std::size_t m_bonusCount;
     QLineEdit* m_name;
     QLineEdit* m_club;
     QSpinBox* m_year;
