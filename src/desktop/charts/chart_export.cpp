@@ -2,9 +2,10 @@
 
 #include "common/error.h"
 #include "common/safe_file.h"
-#include "desktop/charts/chart.h"
+#include "desktop/charts/chart_frame.h"
 
 #include <QBuffer>
+#include <QFileDialog>
 #include <QSvgGenerator>
 
 #include <algorithm>
@@ -49,7 +50,7 @@ QByteArray svgOf(ChartPlot& plot) {
 
 } // namespace
 
-void saveChart(Chart& chart, const std::filesystem::path& path) {
+void saveChart(ChartFrame& chart, const std::filesystem::path& path) {
     const QString extension = QString::fromStdString(path.extension().string()).toLower();
     chart.plot().replot(); // what has not been on the screen yet has no layout
     QByteArray bytes;
@@ -62,6 +63,22 @@ void saveChart(Chart& chart, const std::filesystem::path& path) {
     else
         throw FileError(path, "A chart is saved as .png, .svg or .csv");
     writeFileSafely(path, {bytes.constData(), static_cast<std::size_t>(bytes.size())});
+}
+
+QString askChartPath(const QString& name, QWidget* over) {
+    const QString png = ChartFrame::tr("Picture (*.png)");
+    const QString svg = ChartFrame::tr("Drawing (*.svg)");
+    const QString csv = ChartFrame::tr("Table (*.csv)");
+    QFileDialog dialog(over, ChartFrame::tr("Save chart"));
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setNameFilters({png, svg, csv});
+    dialog.setDefaultSuffix("png");
+    dialog.selectFile(name + QStringLiteral(".png"));
+    QObject::connect(&dialog, &QFileDialog::filterSelected, &dialog, [&](const QString& filter) {
+        dialog.setDefaultSuffix(filter == svg ? "svg" : filter == csv ? "csv" : "png");
+    });
+    const bool isChosen = dialog.exec() == QDialog::Accepted && !dialog.selectedFiles().isEmpty();
+    return isChosen ? dialog.selectedFiles().constFirst() : QString();
 }
 
 } // namespace kavela::desktop

@@ -10,7 +10,6 @@
 
 #include <QAction>
 #include <QComboBox>
-#include <QFileDialog>
 #include <QLabel>
 #include <QStackedWidget>
 #include <QTabBar>
@@ -237,20 +236,9 @@ void ChartPanel::saveChart(const QString& path) {
 }
 
 void ChartPanel::askAndSave() {
-    const QString png = tr("Picture (*.png)");
-    const QString svg = tr("Drawing (*.svg)");
-    const QString csv = tr("Table (*.csv)");
-    QFileDialog dialog(this, tr("Save chart"));
-    dialog.setAcceptMode(QFileDialog::AcceptSave);
-    dialog.setNameFilters({png, svg, csv});
-    dialog.setDefaultSuffix("png");
-    dialog.selectFile(currentChart().purpose() + QStringLiteral(".png"));
-    connect(&dialog, &QFileDialog::filterSelected, &dialog, [&](const QString& filter) {
-        dialog.setDefaultSuffix(filter == svg ? "svg" : filter == csv ? "csv" : "png");
-    });
-    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
+    const QString path = askChartPath(currentChart().purpose(), this);
+    if (path.isEmpty())
         return;
-    const QString path = dialog.selectedFiles().constFirst();
     try {
         saveChart(path);
     } catch (const FileError& error) {

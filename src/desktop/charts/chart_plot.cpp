@@ -6,6 +6,7 @@
 #include <QApplication>
 #include <QKeyEvent>
 
+#include <algorithm>
 #include <cmath>
 
 namespace kavela::desktop {
@@ -71,23 +72,57 @@ ChartPlot::ChartPlot(QWidget* parent)
             [this] { keepInside(*xAxis, m_limits.x); });
     connect(yAxis, qOverload<const QCPRange&>(&QCPAxis::rangeChanged), this,
             [this] { keepInside(*yAxis, m_limits.y); });
+    connect(yAxis2, qOverload<const QCPRange&>(&QCPAxis::rangeChanged), this, [this] {
+        if (m_limits.right)
+            keepInside(*yAxis2, *m_limits.right);
+    });
     applyTheme();
 }
 
 void ChartPlot::setLimits(const QCPRange& x, const QCPRange& y) {
-    m_limits = {x, y};
-    if (m_isZoomed) {
-        keepInside(*xAxis, x);
-        keepInside(*yAxis, y);
+    applyLimits({x, y, {}});
+}
+
+void ChartPlot::setLimits(const QCPRange& x, const QCPRange& y, const QCPRange& right) {
+    applyLimits({x, y, right});
+}
+
+void ChartPlot::applyLimits(const Limits& limits) {
+    m_limits = limits;
+    yAxis2->setVisible(limits.right.has_value());
+    if (!m_isZoomed) {
+        fit();
         return;
     }
-    fit();
+    keepInside(*xAxis, limits.x);
+    keepInside(*yAxis, limits.y);
+    if (limits.right)
+        keepInside(*yAxis2, *limits.right);
+}
+
+int ChartPlot::rightAxisWidth() const {
+    if (!yAxis2->visible())
+        return 0;
+    QVector<double> ticks;
+    QVector<QString> texts;
+    yAxis2->ticker()->generate(yAxis2->range(), locale(), QLatin1Char('g'),
+                               yAxis2->numberPrecision(), ticks, nullptr, &texts);
+    const QFontMetrics metrics(yAxis2->tickLabelFont());
+    int widest = 0;
+    for (const QString& text : texts)
+        widest = std::max(widest, metrics.horizontalAdvance(text));
+    const int title = yAxis2->label().isEmpty()
+                          ? 0
+                          : QFontMetrics(yAxis2->labelFont()).height() + yAxis2->labelPadding();
+    return yAxis2->tickLabelPadding() + widest + title;
 }
 
 void ChartPlot::fit() {
     m_isZoomed = false;
     xAxis->setRange(m_limits.x);
     yAxis->setRange(m_limits.y);
+    if (m_limits.right)
+        yAxis2->setRange(*m_limits.right);
     replot(rpQueuedReplot);
 }
 
@@ -102,6 +137,7 @@ void ChartPlot::applyTheme() {
     setBackground(QBrush(chartGround(palette())));
     styleAxis(*xAxis, *this);
     styleAxis(*yAxis, *this);
+    styleAxis(*yAxis2, *this);
     m_title->setFont(theme::titleFont(*this));
     m_title->setTextColor(palette().color(QPalette::WindowText));
     m_subtitle->setFont(theme::captionFont(*this));
@@ -122,50 +158,58 @@ void ChartPlot::keepInside(QCPAxis& axis, const QCPRange& limits) {
         axis.setRange(inside);
 }
 
-Qt::Orientations ChartPlot::axesAt(const QPointF& position) const {
+int ChartPlot::axesAt(const QPointF& position) const {
     const QRectF rect = axisRect()->rect();
     const bool isInColumn = position.x() >= rect.left() && position.x() <= rect.right();
     const bool isInRow = position.y() >= rect.top() && position.y() <= rect.bottom();
     if (isInColumn && isInRow)
-        return Qt::Horizontal | Qt::Vertical;
+        return All;
     if (isInColumn && position.y() > rect.bottom())
-        return Qt::Horizontal;
+        return Across;
     if (isInRow && position.x() < rect.left())
-        return Qt::Vertical;
-    return {};
+        return Left;
+    if (isInRow && position.x() > rect.right() && position.x() <= rect.right() + rightAxisWidth())
+        return Right;
+    return NoSide;
 }
 
 void ChartPlot::noteView() {
-    m_isZoomed = xAxis->range() != m_limits.x || yAxis->range() != m_limits.y;
+    const bool isRightMoved = m_limits.right && yAxis2->range() != *m_limits.right;
+    m_isZoomed = xAxis->range() != m_limits.x || yAxis->range() != m_limits.y || isRightMoved;
     replot(rpQueuedReplot);
 }
 
-void ChartPlot::zoom(double factor, const QPointF& at, Qt::Orientations axes) {
-    if (!axes)
+void ChartPlot::zoom(double factor, const QPointF& at, int sides) {
+    if (sides == NoSide)
         return;
-    if (axes.testFlag(Qt::Horizontal))
+    if (sides & Across)
         xAxis->scaleRange(factor, xAxis->pixelToCoord(at.x()));
-    if (axes.testFlag(Qt::Vertical))
+    if (sides & Left)
         yAxis->scaleRange(factor, yAxis->pixelToCoord(at.y()));
+    if (sides & Right)
+        yAxis2->scaleRange(factor, yAxis2->pixelToCoord(at.y()));
     noteView();
 }
 
 void ChartPlot::zoomInto(const QRect& area) {
-    const auto between = [](const QCPAxis& axis, double a, double b) {
+    const auto between = [](QCPAxis& axis, double a, double b) {
         QCPRange range(axis.pixelToCoord(a), axis.pixelToCoord(b));
         range.normalize();
-        return range;
+        axis.setRange(range);
     };
-    const QCPRange x = between(*xAxis, area.left(), area.right());
-    const QCPRange y = between(*yAxis, area.top(), area.bottom());
-    xAxis->setRange(x);
-    yAxis->setRange(y);
+    between(*xAxis, area.left(), area.right());
+    between(*yAxis, area.top(), area.bottom());
+    between(*yAxis2, area.top(), area.bottom());
     noteView();
 }
 
 void ChartPlot::pan(const QPointF& to) {
-    xAxis->moveRange(xAxis->pixelToCoord(m_panFrom->x()) - xAxis->pixelToCoord(to.x()));
-    yAxis->moveRange(yAxis->pixelToCoord(m_panFrom->y()) - yAxis->pixelToCoord(to.y()));
+    const auto move = [](QCPAxis& axis, double from, double pixel) {
+        axis.moveRange(axis.pixelToCoord(from) - axis.pixelToCoord(pixel));
+    };
+    move(*xAxis, m_panFrom->x(), to.x());
+    move(*yAxis, m_panFrom->y(), to.y());
+    move(*yAxis2, m_panFrom->y(), to.y());
     m_panFrom = to;
     noteView();
 }
@@ -233,10 +277,10 @@ void ChartPlot::mouseDoubleClickEvent(QMouseEvent* event) {
 }
 
 void ChartPlot::wheelEvent(QWheelEvent* event) {
-    const Qt::Orientations axes = axesAt(event->position());
+    const int axes = axesAt(event->position());
     const double notches = event->angleDelta().y() / 120.0;
     zoom(std::pow(WheelStep, notches), event->position(), axes);
-    event->setAccepted(static_cast<bool>(axes));
+    event->setAccepted(axes != NoSide);
 }
 
 void ChartPlot::keyPressEvent(QKeyEvent* event) {
@@ -244,10 +288,10 @@ void ChartPlot::keyPressEvent(QKeyEvent* event) {
     switch (event->key()) {
     case Qt::Key_Plus:
     case Qt::Key_Equal:
-        zoom(KeyStep, centre, Qt::Horizontal | Qt::Vertical);
+        zoom(KeyStep, centre, All);
         return;
     case Qt::Key_Minus:
-        zoom(1 / KeyStep, centre, Qt::Horizontal | Qt::Vertical);
+        zoom(1 / KeyStep, centre, All);
         return;
     case Qt::Key_0:
         fit();

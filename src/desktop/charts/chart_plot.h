@@ -48,6 +48,10 @@ public:
 
     /// What fits all data. The view follows, unless the user has chosen one of their own.
     void setLimits(const QCPRange& x, const QCPRange& y);
+    /// The same with another measure on a right-hand axis, which moves along with the left one.
+    void setLimits(const QCPRange& x, const QCPRange& y, const QCPRange& right);
+    /// Pixels that the right-hand axis takes beside the plot.
+    [[nodiscard]] int rightAxisWidth() const;
     /// Shows all data again, now and when they change.
     void fit();
     [[nodiscard]] bool isZoomed() const { return m_isZoomed; }
@@ -86,17 +90,21 @@ private:
     struct Limits {
         QCPRange x;
         QCPRange y;
+        std::optional<QCPRange> right;
     };
+    enum Side { NoSide = 0, Across = 1, Left = 2, Right = 4, All = Across | Left | Right };
 
+    void applyLimits(const Limits& limits);
     void noteView();
     void keepInside(QCPAxis& axis, const QCPRange& limits);
-    void zoom(double factor, const QPointF& at, Qt::Orientations axes);
+    void zoom(double factor, const QPointF& at, int sides);
     void zoomInto(const QRect& area);
     void pan(const QPointF& to);
-    [[nodiscard]] Qt::Orientations axesAt(const QPointF& position) const;
+    /// The axes that the wheel turns at a place; combined sides.
+    [[nodiscard]] int axesAt(const QPointF& position) const;
     [[nodiscard]] QRect dragArea(const QPoint& to) const;
 
-    Limits m_limits{{0, 1}, {0, 1}};
+    Limits m_limits{{0, 1}, {0, 1}, {}};
     bool m_isZoomed = false;
     std::optional<QPoint> m_press;    ///< where the left button went down
     std::optional<QPointF> m_panFrom; ///< where the middle button last was

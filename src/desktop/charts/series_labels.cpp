@@ -48,9 +48,9 @@ void SeriesLabels::takeRoom() {
     m_shownNameWidth = std::min(m_nameWidth + RoundingRoom, widest);
     const int values = m_valueWidth > 0 ? m_valueWidth + theme::Spacing : 0;
     QMargins margins = m_plot.axisRect()->margins();
-    margins.setRight(m_labels.empty()
-                         ? theme::LargeSpacing
-                         : Gap + SwatchWidth + m_shownNameWidth + values + theme::Spacing);
+    margins.setRight(m_labels.empty() ? theme::LargeSpacing + m_plot.rightAxisWidth()
+                                      : m_plot.rightAxisWidth() + Gap + SwatchWidth +
+                                            m_shownNameWidth + values + theme::Spacing);
     m_plot.axisRect()->setMargins(margins);
 }
 
@@ -71,13 +71,22 @@ void SeriesLabels::applyDefaultAntialiasingHint(QCPPainter* painter) const {
     painter->setAntialiasing(true);
 }
 
+const QCPAxis& SeriesLabels::axisOf(const SeriesLabel& label) const {
+    return label.onRight ? *m_plot.yAxis2 : *m_plot.yAxis;
+}
+
+/// Where the labels begin.
+double SeriesLabels::left() const {
+    return m_plot.axisRect()->rect().right() + Gap + m_plot.rightAxisWidth();
+}
+
 double SeriesLabels::wantedHeight(const SeriesLabel& label) const {
     const QRectF plot = m_plot.axisRect()->rect();
     if (label.isHidden)
         return plot.bottom();
     if (!label.end)
         return plot.top();
-    return std::clamp(m_plot.yAxis->coordToPixel(label.end->y()), plot.top(), plot.bottom());
+    return std::clamp(axisOf(label).coordToPixel(label.end->y()), plot.top(), plot.bottom());
 }
 
 void SeriesLabels::place() {
@@ -99,9 +108,8 @@ void SeriesLabels::place() {
     const std::vector<double> centres =
         spreadLabels(std::move(wanted), height, plot.top(), plot.bottom());
     for (std::size_t i = 0; i < order.size(); ++i)
-        m_places.push_back(
-            {order[i], QRectF(plot.right() + Gap, centres[i] - height / 2,
-                              m_plot.viewport().right() - plot.right() - Gap, height)});
+        m_places.push_back({order[i], QRectF(left(), centres[i] - height / 2,
+                                             m_plot.viewport().right() - left(), height)});
 }
 
 void SeriesLabels::draw(QCPPainter* painter) {
@@ -115,7 +123,8 @@ void SeriesLabels::draw(QCPPainter* painter) {
 
 void SeriesLabels::drawLeader(QCPPainter& painter, const SeriesLabel& label,
                               const QRectF& rect) const {
-    if (label.isHidden || !label.end)
+    // A line across the numbers of an axis would make neither easier to read.
+    if (label.isHidden || !label.end || m_plot.yAxis2->visible())
         return;
     const QRectF plot = m_plot.axisRect()->rect();
     const QPointF end = m_plot.toPixel(label.end->x(), label.end->y());

@@ -15,6 +15,7 @@ struct SeriesLabel {
     QString value;
     SeriesStyle style;
     std::optional<QPointF> end; ///< where the series ends, in the plot's coordinates
+    bool onRight = false;       ///< the end is measured on the right-hand axis
     bool isHidden = false;
     bool isBar = false; ///< drawn as a filled field instead of a marker
 };
@@ -54,6 +55,8 @@ private:
     void takeRoom();
     void place();
     [[nodiscard]] double wantedHeight(const SeriesLabel& label) const;
+    [[nodiscard]] const QCPAxis& axisOf(const SeriesLabel& label) const;
+    [[nodiscard]] double left() const;
     void drawLabel(QCPPainter& painter, const SeriesLabel& label, const QRectF& rect) const;
     void drawLeader(QCPPainter& painter, const SeriesLabel& label, const QRectF& rect) const;
 
