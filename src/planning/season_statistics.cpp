@@ -67,12 +67,21 @@ std::vector<const athletedata031*> rivalsOf(const athletedata031& run,
     return rivals;
 }
 
-TimeAndPenalty bestOf(const std::vector<const athletedata031*>& runs) {
+/// A run that stopped half way is no best one. Where no run was timed over the whole course, their
+/// totals are all there is.
+TimeAndPenalty bestOf(const std::vector<const athletedata031*>& runs, std::int64_t splits) {
     std::optional<TimeAndPenalty> best;
-    for (const athletedata031* run : runs)
-        if (const TimeAndPenalty result = resultOf(run->sectioninfo);
-            result.time > 0 && (!best || result.sum() < best->sum()))
+    bool isBestWhole = false;
+    for (const athletedata031* run : runs) {
+        const TimeAndPenalty result = resultOf(run->sectioninfo);
+        const bool isWhole =
+            run->sectioninfo.isfullrun || isFullRun(run->sectioninfo.times, splits);
+        if (result.time <= 0 || (isBestWhole && !isWhole))
+            continue;
+        if (!best || isWhole != isBestWhole || result.sum() < best->sum())
             best = result;
+        isBestWhole = isWhole;
+    }
     return best.value_or(TimeAndPenalty{});
 }
 
@@ -94,7 +103,7 @@ std::vector<double> percentBehind(const athletedata031& run,
 void addRace(racedataplanning_v3& races, const athletedata031& run, const splittakerdata031& file) {
     const auto rivals = rivalsOf(run, file);
     const TimeAndPenalty own = resultOf(run.sectioninfo);
-    const TimeAndPenalty best = bestOf(rivals);
+    const TimeAndPenalty best = bestOf(rivals, file.info.totalsplits);
     races.date.push_back(file.info.date);
     races.event.push_back(file.info.event.empty() ? file.info.title : file.info.event);
     races.phase.push_back(run.phase);

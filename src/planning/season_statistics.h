@@ -14,10 +14,10 @@ namespace kavela {
 /// whatever the case and accents, surname or given name first, alone or in a crew.
 ///
 /// A race is a file whose session is labelled "Race". Its time is `realtime` with `realpen` where
-/// there is one, otherwise `totaltime` with `totalpen`; the best is that of the run of the same
-/// category and phase with the least sum of both. Percentages are those of the section times behind
-/// the best one of that section in the same category and phase, 0 for a section without a time.
-/// Every run, of a race or a training, tells its touches and missed gates.
+/// there is one, otherwise `totaltime` with `totalpen`; the best is that of the whole run of the
+/// same category and phase with the least sum of both. Percentages are those of the section times
+/// behind the best one of that section in the same category and phase, 0 for a section without a
+/// time. Every run, of a race or a training, tells its touches and missed gates.
 [[nodiscard]] statisticsplanning_v3 seasonStatistics(std::string_view name,
                                                      std::span<const splittakerdata031> files);
 
