@@ -5,6 +5,7 @@
 #include "common/json_encode.h"
 #include "planning/planning_access.h"
 #include "planning/planning_file.h"
+#include "planning/water_test_file.h"
 #include "results/selection_file.h"
 #include "results/team_file.h"
 #include "splitdata/loader.h"
@@ -167,6 +168,28 @@ bool tryAsPlanningAccess(const JsonDocument& json, FileFacts& facts) {
     return true;
 }
 
+std::map<std::string, std::int64_t> countsOf(const onWaterTests& document) {
+    const auto laps = std::ranges::count(document.tests, water_test::Lap, &onWaterTest::kind);
+    const auto size = [](const auto& list) { return static_cast<std::int64_t>(list.size()); };
+    return {{"lapTests", laps},
+            {"sprints", size(document.tests) - laps},
+            {"eightTests", size(document.eights)}};
+}
+
+bool tryAsTests(const JsonDocument& json, FileFacts& facts) {
+    const RecognisedTests found = recogniseTests(json);
+    if (found.failure)
+        facts.attempts.push_back({TestsRecord, found.failure->fault.message()});
+    if (!found.tests)
+        return false;
+    facts.kind = "test results";
+    facts.record = TestsRecord;
+    facts.label = "1";
+    facts.current = true;
+    facts.counts = countsOf(*found.tests);
+    return true;
+}
+
 template <class Versions>
 std::vector<std::string> recordsOf(const Versions& versions) {
     std::vector<std::string> records;
@@ -191,6 +214,7 @@ constexpr std::array Families{
            tryAsPlanningAccess,
            [] { return std::vector<std::string>{std::string(PlanningAccessRecord)}; }},
     Family{{".kvteam"}, tryAsTeam, [] { return std::vector<std::string>{TeamRecord}; }},
+    Family{{TestsExtension}, tryAsTests, [] { return std::vector<std::string>{TestsRecord}; }},
 };
 
 /// The families in the order in which a file of this name is tried: first what it promises.

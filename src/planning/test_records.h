@@ -1,13 +1,14 @@
 #pragma once
 
 #include "common/cm_time.h"
+#include "common/record.h"
 #include "common/reference_date.h"
 
 #include <cstdint>
 #include <string>
 #include <vector>
 
-/// The records of the on-water tests. They are kept in memory only.
+/// The records of the on-water tests.
 namespace kavela {
 
 /// One run of an on-water test. Series per stroke are parallel to `strokeDate`; series per section
@@ -38,12 +39,18 @@ struct testData {
     std::vector<double> rightRotations; ///< by right turn: peak, rad/s
     std::vector<double> rightRotationsTime;
 };
+BOOST_DESCRIBE_STRUCT(testData, (),
+                      (athlete, date, location, splits, totalTime, straightTime, aveSpeed,
+                       strokeRate, strokeDate, strokeEfficiency, maxAcce, aveAcce, avedeacce,
+                       maxForce, maxAcceNeg, pow, waterPhase, airPhase, speed, roll, leftRotations,
+                       leftRotationsTime, rightRotations, rightRotationsTime))
 
 /// The same with the impulses and the dates of the speed samples.
 struct testStruct : testData {
     std::vector<double> impulses; ///< by stroke
     std::vector<ReferenceDate> speedDate;
 };
+BOOST_DESCRIBE_STRUCT(testStruct, (testData), (impulses, speedDate))
 
 /// One athlete's run of the eight test. The motion series are parallel to `date`.
 struct datafor8 {
@@ -80,5 +87,11 @@ struct datafor8 {
     std::vector<double> zrotsubmaxR; ///< peaks of the turns to the right, rad/s, as magnitudes
     std::vector<double> zrotsubmaxL; ///< the same to the left
 };
+BOOST_DESCRIBE_STRUCT(datafor8, (),
+                      (athlete, cat, phase, sp1, sp2, sp3, sp4, sp5, totalsplit, sdv, videourl,
+                       videoname, videotimes1, videotimes2, videotimes3, videotimes4, videotimes5,
+                       date, xacceleration, yacceleration, zacceleration, xrotation, yrotation,
+                       zrotation, pitch, roll, yaw, xgravity, ygravity, zgravity, zrotsubmaxR,
+                       zrotsubmaxL))
 
 } // namespace kavela

@@ -3,6 +3,7 @@
 #include "common/number_text.h"
 #include "planning/test_sections.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace kavela {
@@ -26,20 +27,6 @@ constexpr const char* Groups[] = {"Stroke rate",
                                   "Right Rotation peak",
                                   "Right Rotation duration"};
 
-std::string columnNames(const std::string& group) {
-    std::string names;
-    for (std::size_t i = 1; i <= Columns; ++i)
-        names += ';' + group + ' ' + std::to_string(i);
-    return names;
-}
-
-std::string columnLine() {
-    std::string line = "Name;Date" + columnNames("Time") + ";Total";
-    for (const char* group : Groups)
-        line += columnNames(group);
-    return line + '\n';
-}
-
 std::string quoted(const std::string& field) {
     if (field.find_first_of(";\"\n\r") == std::string::npos)
         return field;
@@ -52,43 +39,72 @@ std::string quoted(const std::string& field) {
     return text + '"';
 }
 
+std::string line(const std::vector<std::string>& fields) {
+    std::string text;
+    for (const std::string& field : fields)
+        text += quoted(field) + ';';
+    text.back() = '\n';
+    return text;
+}
+
+/// None of the values is ever 0 but for want of an entry.
 std::string cell(std::optional<double> value) {
-    return value && std::isfinite(*value) ? ';' + shortestText(*value) : ";";
+    return value && std::isfinite(*value) && *value != 0 ? shortestText(*value) : "";
 }
 
+/// Adds the cells of one group.
 template <class Value>
-std::string fiveCells(Value valueAt) {
-    std::string cells;
+void addFive(std::vector<std::string>& cells, Value valueAt) {
     for (std::size_t i = 0; i < Columns; ++i)
-        cells += cell(valueAt(i));
-    return cells;
+        cells.push_back(cell(valueAt(i)));
 }
 
-std::string cellsOf(const std::vector<double>& values) {
-    return fiveCells(
-        [&](std::size_t i) { return i < values.size() ? std::optional(values[i]) : std::nullopt; });
-}
-
-std::string runLine(const testData& run) {
-    const std::vector<TestSection> sections = testSections(run);
-    const auto cellsBySection = [&](std::optional<double> TestSection::*value) {
-        return fiveCells(
-            [&](std::size_t i) { return i < sections.size() ? sections[i].*value : std::nullopt; });
-    };
-    return quoted(run.athlete) + ';' + dayText(run.date) + cellsOf(run.splits) +
-           cell(run.totalTime) + cellsBySection(&TestSection::strokeRate) +
-           cellsBySection(&TestSection::strokeEfficiency) + cellsOf(run.aveSpeed) +
-           cellsBySection(&TestSection::maximumAcceleration) + cellsOf(run.straightTime) +
-           cellsOf(run.leftRotations) + cellsOf(run.leftRotationsTime) +
-           cellsOf(run.rightRotations) + cellsOf(run.rightRotationsTime) + '\n';
+void addFive(std::vector<std::string>& cells, const std::vector<double>& values) {
+    addFive(cells, [&](std::size_t i) {
+        return i < values.size() ? std::optional(values[i]) : std::nullopt;
+    });
 }
 
 } // namespace
 
+std::vector<std::string> testTableColumns() {
+    std::vector<std::string> names{"Name", "Date"};
+    const auto addGroup = [&](const std::string& group) {
+        for (std::size_t i = 1; i <= Columns; ++i)
+            names.push_back(group + ' ' + std::to_string(i));
+    };
+    addGroup("Time");
+    names.emplace_back("Total");
+    std::ranges::for_each(Groups, addGroup);
+    return names;
+}
+
+std::vector<std::string> testTableCells(const testData& run) {
+    const std::vector<TestSection> sections = testSections(run);
+    std::vector<std::string> cells{run.athlete, dayText(run.date)};
+    const auto addBySection = [&](std::optional<double> TestSection::*value) {
+        addFive(cells, [&](std::size_t i) {
+            return i < sections.size() ? sections[i].*value : std::nullopt;
+        });
+    };
+    addFive(cells, run.splits);
+    cells.push_back(cell(run.totalTime));
+    addBySection(&TestSection::strokeRate);
+    addBySection(&TestSection::strokeEfficiency);
+    addFive(cells, run.aveSpeed);
+    addBySection(&TestSection::maximumAcceleration);
+    addFive(cells, run.straightTime);
+    addFive(cells, run.leftRotations);
+    addFive(cells, run.leftRotationsTime);
+    addFive(cells, run.rightRotations);
+    addFive(cells, run.rightRotationsTime);
+    return cells;
+}
+
 std::string testTableCsv(std::span<const testData> runs) {
-    std::string table = Titles + columnLine();
+    std::string table = Titles + line(testTableColumns());
     for (const testData& run : runs)
-        table += runLine(run);
+        table += line(testTableCells(run));
     return table;
 }
 

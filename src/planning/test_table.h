@@ -4,6 +4,7 @@
 
 #include <span>
 #include <string>
+#include <vector>
 
 namespace kavela {
 
@@ -12,5 +13,9 @@ namespace kavela {
 /// reads back the same; a cell without a value is empty. Sections, and turns to a side, after the
 /// fifth are not in the table. Series per stroke are told by section, as testSections has them.
 [[nodiscard]] std::string testTableCsv(std::span<const testData> runs);
+
+/// The names of the single columns, and their cells for a run, as they stand in that table.
+[[nodiscard]] std::vector<std::string> testTableColumns();
+[[nodiscard]] std::vector<std::string> testTableCells(const testData& run);
 
 } // namespace kavela

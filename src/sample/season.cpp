@@ -8,6 +8,7 @@
 #include "sample/recordings.h"
 #include "sample/selection.h"
 #include "sample/team.h"
+#include "sample/tests.h"
 #include "sample/training.h"
 
 #include <utility>
@@ -56,6 +57,7 @@ std::vector<SampleFile> sampleSeason() {
     files.push_back({"recordings/sprint_with_watch.kvb", encode(sprintWithWatch())});
     files.push_back({"recordings/old_phone_v4.kvb", encode(oldPhone())});
     files.push_back({"team/kavela_team.kvteam", encode(sampleTeam())});
+    files.push_back({"tests/form_tests.kvtest", encode(formTests())});
     files.push_back({"selection/spring_selection.kvsr", encode(springSelection())});
     for (OldSelection& file : oldSelections())
         files.push_back(
