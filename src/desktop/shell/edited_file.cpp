@@ -78,7 +78,11 @@ void EditedFile::keepWork() {
 
 bool EditedFile::mayOverwrite(QWidget* over) const {
     const auto now = lastWritten(m_path);
-    if (!now || now == m_readTime)
+    return !now || mayReplace(now != m_readTime, over);
+}
+
+bool EditedFile::mayReplace(bool isChangedOnDisk, QWidget* over) const {
+    if (!isChangedOnDisk)
         return true;
     return m_workspace.ask(
         {"", tr("The file was changed by another program since it was opened. Saving replaces "

@@ -34,7 +34,7 @@ public:
 
     /// Writes the file; asks before it replaces what another program wrote meanwhile. False, after
     /// a message, when it was not written; the work then stays as it is.
-    [[nodiscard]] bool save(QWidget* over);
+    [[nodiscard]] virtual bool save(QWidget* over);
     /// The same under another name, which the document has from then on.
     [[nodiscard]] bool saveAs(const QString& path, QWidget* over);
     /// Gives up what was not saved; it stays aside for a change of mind.
@@ -54,13 +54,17 @@ protected:
     /// What to tell when the file cannot be written.
     [[nodiscard]] virtual std::string failure() const { return "Failed to create file"; }
 
+    /// Asks before a file that exists is replaced, where that needs a question; by default only when
+    /// another program changed it since it was read.
+    [[nodiscard]] virtual bool mayReplace(bool isChangedOnDisk, QWidget* over) const;
+    [[nodiscard]] bool mayOverwrite(QWidget* over) const;
+
     /// A document is open under a path that may not exist yet. Unsaved work is offered.
     void begin(const QString& path, QWidget* over);
     void keepSoon();
     [[nodiscard]] Workspace& workspace() const { return m_workspace; }
 
 private:
-    [[nodiscard]] bool mayOverwrite(QWidget* over) const;
     [[nodiscard]] bool write(const QString& path, QWidget* over);
     void offerRecovery(QWidget* over);
 

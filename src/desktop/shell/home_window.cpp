@@ -11,6 +11,7 @@
 #include <QCoreApplication>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QListWidget>
@@ -21,6 +22,8 @@
 namespace kavela::desktop {
 
 namespace {
+
+constexpr int TilesInRow = 4;
 
 QLabel* label(const QString& text, const QFont& font) {
     auto* made = new QLabel(text);
@@ -90,12 +93,15 @@ QWidget* HomeWindow::header() {
 
 QWidget* HomeWindow::tiles(const Tools& tools) {
     auto* box = new QWidget;
-    auto* row = new QHBoxLayout(box);
-    row->setContentsMargins(0, 0, 0, 0);
-    row->setSpacing(theme::LargeSpacing);
-    for (const Tool& tool : tools)
-        row->addWidget(new Tile(tool));
-    row->addStretch(1);
+    auto* grid = new QGridLayout(box);
+    grid->setContentsMargins(0, 0, 0, 0);
+    grid->setSpacing(theme::LargeSpacing);
+    int place = 0;
+    for (const Tool& tool : tools) {
+        grid->addWidget(new Tile(tool), place / TilesInRow, place % TilesInRow);
+        ++place;
+    }
+    grid->setColumnStretch(TilesInRow, 1);
     return box;
 }
 

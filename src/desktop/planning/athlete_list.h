@@ -1,0 +1,51 @@
+#pragma once
+
+#include "desktop/planning/planning_document.h"
+
+#include <QWidget>
+
+#include <limits>
+
+class QComboBox;
+class QLabel;
+class QLineEdit;
+class QListWidget;
+
+namespace kavela::desktop {
+
+/// The athletes of a planning, searched by name, with the seasons of the chosen one.
+class AthleteList : public QWidget {
+    Q_OBJECT
+
+public:
+    explicit AthleteList(PlanningDocument& document, QWidget* parent = nullptr);
+
+    [[nodiscard]] std::optional<std::size_t> athlete() const { return m_athlete; }
+    /// The chosen season; nothing where the athlete has none.
+    [[nodiscard]] std::optional<PlannedSeason> season() const;
+    void chooseAthlete(std::size_t athlete);
+    void chooseSeason(std::size_t season);
+
+    [[nodiscard]] QLineEdit& search() const { return *m_search; }
+    [[nodiscard]] QListWidget& list() const { return *m_list; }
+
+signals:
+    void seasonChosen();
+
+private:
+    void fill();
+    void fillSeasons();
+    void showCard();
+    void filter();
+
+    PlanningDocument& m_document;
+    QLineEdit* m_search;
+    QListWidget* m_list;
+    QComboBox* m_seasons;
+    QLabel* m_photo;
+    QLabel* m_contact;
+    std::optional<std::size_t> m_athlete;
+    std::size_t m_season = std::numeric_limits<std::size_t>::max(); ///< the latest, to begin with
+};
+
+} // namespace kavela::desktop

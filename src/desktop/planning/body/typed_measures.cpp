@@ -1,0 +1,84 @@
+#include "desktop/planning/body/typed_measures.h"
+
+#include "common/number_text.h"
+#include "desktop/team/typed_values.h"
+#include "planning/calendar_day.h"
+
+#include <QLocale>
+
+#include <cmath>
+
+namespace kavela::desktop {
+
+namespace {
+
+constexpr double LongestPlain = 1e12; ///< longer numbers are written as powers
+
+QString tr(const char* text) {
+    return QCoreApplication::translate("TypedMeasures", text);
+}
+
+} // namespace
+
+ReferenceDate typedDate(const QString& text, ReferenceDate before) {
+    if (text.trimmed().isEmpty())
+        throw RefusedEntry(tr("A measurement needs a day of the calendar such as 2026-03-09."));
+    // The time of day of a moment in no calendar is none.
+    return typedDay(text, dayOfMoment(before) ? before : ReferenceDate());
+}
+
+double typedMeasure(const QString& text, double most) {
+    const QString typed = text.trimmed();
+    if (typed.isEmpty())
+        return 0;
+    bool isNumber = false;
+    const double value = QLocale::c().toDouble(QString(typed).replace(',', '.'), &isNumber);
+    if (!isNumber || !(value >= 0 && value <= most))
+        throw RefusedEntry(tr("Expected is a number from 0 to %1, such as 72.4; “%2” is none.")
+                               .arg(measureEdited(most), typed));
+    return value;
+}
+
+std::int64_t typedCount(const QString& text, std::int64_t most) {
+    const QString typed = text.trimmed();
+    if (typed.isEmpty())
+        return 0;
+    bool isNumber = false;
+    const qlonglong count = QLocale::c().toLongLong(typed, &isNumber);
+    if (!isNumber || count < 0 || count > most)
+        throw RefusedEntry(
+            tr("Expected is a whole number from 0 to %1; “%2” is none.").arg(most).arg(typed));
+    return count;
+}
+
+QString measureShown(double value) {
+    return measureEdited(std::abs(value) < LongestPlain ? roundedToHundredths(value) : value);
+}
+
+QString measureEdited(double value) {
+    if (value == 0)
+        return {};
+    return QString::fromStdString(std::abs(value) < LongestPlain ? plainText(value)
+                                                                 : shortestText(value));
+}
+
+QString oddityOf(ReferenceDate date) {
+    return dayOfMoment(date) ? QString()
+                             : tr("This moment is in no calendar: %1 seconds from 2001-01-01. It "
+                                  "stays as it is until another date is typed.")
+                                   .arg(QString::fromStdString(shortestText(date.seconds)));
+}
+
+QString oddityOf(double value, double most) {
+    if (value >= 0 && value <= most)
+        return {};
+    return (value < 0 ? tr("A value below 0 cannot be measured.")
+                      : tr("More than %1 was hardly measured.").arg(measureEdited(most))) +
+           ' ' + tr("It stays as it is until another one is typed.");
+}
+
+QString marked(const QString& text) {
+    return QStringLiteral("⚠ ") + text;
+}
+
+} // namespace kavela::desktop

@@ -1,0 +1,103 @@
+#include "desktop/planning/body/variability_dialog.h"
+
+#include "desktop/shell/theme.h"
+
+#include <QDialogButtonBox>
+#include <QHeaderView>
+#include <QLabel>
+#include <QPushButton>
+#include <QTableWidget>
+#include <QVBoxLayout>
+
+namespace kavela::desktop {
+
+namespace {
+
+QLabel* makeLabel(const char* name, const QString& text) {
+    auto* const label = new QLabel(text);
+    label->setObjectName(name);
+    label->setWordWrap(true);
+    return label;
+}
+
+QString countText(std::size_t added, std::size_t read) {
+    if (read == 0)
+        return VariabilityDialog::tr("There is no measurement in this list.");
+    if (added == 0)
+        return VariabilityDialog::tr("All %1 measurements of this list are there already.")
+            .arg(read);
+    const QString text = added == 1 ? VariabilityDialog::tr("1 measurement is new.")
+                                    : VariabilityDialog::tr("%1 measurements are new.").arg(added);
+    if (added == read)
+        return text;
+    const std::size_t present = read - added;
+    return text + ' ' +
+           (present == 1 ? VariabilityDialog::tr("1 other is there already.")
+                         : VariabilityDialog::tr("%1 others are there already.").arg(present));
+}
+
+} // namespace
+
+VariabilityDialog::VariabilityDialog(const QString& fileName, const VariabilityList& list,
+                                     std::size_t added, QWidget* parent)
+    : QDialog(parent) {
+    setWindowTitle(tr("Import variability"));
+    auto* const column = new QVBoxLayout(this);
+    column->setContentsMargins(theme::LargeSpacing, theme::LargeSpacing, theme::LargeSpacing,
+                               theme::LargeSpacing);
+    column->setSpacing(theme::Spacing);
+    QLabel* const title = makeLabel("file", fileName);
+    title->setFont(theme::titleFont(*this));
+    column->addWidget(title);
+    column->addWidget(makeLabel("count", countText(added, list.measurements.size())));
+    if (!list.skipped.empty()) {
+        column->addSpacing(theme::Spacing);
+        column->addWidget(
+            makeLabel("skipped", list.skipped.size() == 1
+                                     ? tr("1 line is left out:")
+                                     : tr("%1 lines are left out:").arg(list.skipped.size())));
+        column->addWidget(makeSkippedLines(list.skipped), 1);
+    } else {
+        column->addStretch();
+    }
+    auto* const buttons = new QDialogButtonBox(QDialogButtonBox::Cancel);
+    if (added > 0) {
+        QPushButton* const add = buttons->addButton(
+            added == 1 ? tr("Add 1 measurement") : tr("Add %1 measurements").arg(added),
+            QDialogButtonBox::AcceptRole);
+        add->setDefault(true);
+        add->setFocus();
+    }
+    column->addSpacing(theme::Spacing);
+    column->addWidget(buttons);
+    connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
+    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    resize(list.skipped.empty() ? QSize(420, 160) : QSize(620, 380));
+}
+
+QTableWidget* VariabilityDialog::makeSkippedLines(const std::vector<SkippedMeasurement>& skipped) {
+    auto* const lines = new QTableWidget(static_cast<int>(skipped.size()), 2);
+    lines->setObjectName("lines");
+    lines->setHorizontalHeaderLabels({tr("Line"), tr("Reason")});
+    lines->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    lines->setSelectionBehavior(QAbstractItemView::SelectRows);
+    lines->setShowGrid(false);
+    lines->setTabKeyNavigation(false);
+    lines->verticalHeader()->hide();
+    lines->verticalHeader()->setDefaultSectionSize(lines->fontMetrics().height() + theme::Spacing);
+    lines->setColumnWidth(0, 8 * theme::Spacing);
+    QHeaderView* const header = lines->horizontalHeader();
+    header->setHighlightSections(false);
+    header->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    header->setStretchLastSection(true);
+    for (int row = 0; row < lines->rowCount(); ++row) {
+        const SkippedMeasurement& line = skipped[static_cast<std::size_t>(row)];
+        const QString reason = QString::fromStdString(line.reason);
+        lines->setItem(row, 0, new QTableWidgetItem(QString::number(line.line)));
+        lines->setItem(row, 1, new QTableWidgetItem(reason));
+        lines->item(row, 1)->setToolTip(reason);
+    }
+    return lines;
+}
+
+} // namespace kavela::desktop

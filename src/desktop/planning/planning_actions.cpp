@@ -1,0 +1,124 @@
+#include "desktop/planning/planning_actions.h"
+
+#include "desktop/planning/athlete_list.h"
+#include "desktop/planning/plan/plan_view.h"
+#include "desktop/planning/planning_window.h"
+
+#include <QLineEdit>
+#include <QMenu>
+#include <QMenuBar>
+#include <QTabWidget>
+
+namespace kavela::desktop {
+
+namespace {
+
+QString tr(const char* text) {
+    return PlanningWindow::tr(text);
+}
+
+/// Adds an action that works on the plan, which comes to the front with it.
+void add(QMenu& menu, PlanningWindow& window, const QString& text, const QKeySequence& key,
+         const std::function<void(PlanView&)>& act) {
+    menu.addAction(text, key, &window, [&window, act] {
+        window.tabs().setCurrentWidget(&window.plan());
+        act(window.plan());
+    });
+}
+
+void makeAthleteMenu(PlanningWindow& window) {
+    QMenu* menu = window.menuBar()->addMenu(tr("&Athlete"));
+    menu->addAction(tr("&New athlete…"), QKeySequence::New, &window,
+                    [&window] { window.askForAthlete(); });
+    menu->addAction(tr("&Edit the athlete…"), &window, [&window] { window.editAthlete(); });
+    menu->addAction(tr("&Remove the athlete"), &window, [&window] { window.removeAthlete(); });
+    menu->addSeparator();
+    menu->addAction(tr("New &season"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_N), &window,
+                    [&window] { window.addSeason(); });
+    menu->addAction(tr("Remove the s&eason"), &window, [&window] { window.removeSeason(); });
+}
+
+void makeSessionMenu(PlanningWindow& window) {
+    QMenu& menu = *window.menuBar()->addMenu(tr("&Session"));
+    add(menu, window, tr("&New session…"), QKeySequence(Qt::Key_Insert),
+        [](PlanView& plan) { plan.addSession(); });
+    add(menu, window, tr("&Edit the session…"), QKeySequence(Qt::Key_F2),
+        [](PlanView& plan) { plan.editSession(); });
+    add(menu, window, tr("&Remove the session"), QKeySequence(Qt::CTRL | Qt::Key_Backspace),
+        [](PlanView& plan) { plan.removeSession(); });
+    menu.addSeparator();
+    add(menu, window, tr("&Copy the session"), QKeySequence::Copy,
+        [](PlanView& plan) { plan.copySession(); });
+    add(menu, window, tr("&Paste the session"), QKeySequence::Paste,
+        [](PlanView& plan) { plan.pasteSession(); });
+    add(menu, window, tr("Move to the week &before"), QKeySequence(Qt::ALT | Qt::Key_PageUp),
+        [](PlanView& plan) { plan.moveSessionBy(-1); });
+    add(menu, window, tr("Move to the week be&hind"), QKeySequence(Qt::ALT | Qt::Key_PageDown),
+        [](PlanView& plan) { plan.moveSessionBy(1); });
+}
+
+void makeWeekMenu(PlanningWindow& window) {
+    QMenu& menu = *window.menuBar()->addMenu(tr("&Week"));
+    add(menu, window, tr("&Previous week"), QKeySequence(Qt::Key_PageUp),
+        [](PlanView& plan) { plan.stepWeek(-1); });
+    add(menu, window, tr("&Next week"), QKeySequence(Qt::Key_PageDown),
+        [](PlanView& plan) { plan.stepWeek(1); });
+    add(menu, window, tr("&This week"), QKeySequence(Qt::CTRL | Qt::Key_T),
+        [](PlanView& plan) { plan.goToToday(); });
+    menu.addSeparator();
+    add(menu, window, tr("&Copy the week"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_C),
+        [](PlanView& plan) { plan.copyWeek(); });
+    add(menu, window, tr("Paste the &week"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_V),
+        [](PlanView& plan) { plan.pasteWeek(); });
+    add(menu, window, tr("&Repeat the chosen weeks…"), QKeySequence(Qt::CTRL | Qt::Key_R),
+        [](PlanView& plan) { plan.askToRepeat(); });
+    add(menu, window, tr("&Empty the chosen weeks"), {}, [](PlanView& plan) { plan.clearWeek(); });
+    add(menu, window, tr("P&lan what is in the sessions"), QKeySequence(Qt::CTRL | Qt::Key_L),
+        [](PlanView& plan) { plan.planAsInSessions(); });
+    menu.addSeparator();
+    add(menu, window, tr("&Add a week at the end"), {}, [](PlanView& plan) { plan.addWeek(); });
+    add(menu, window, tr("Re&move the last week"), {},
+        [](PlanView& plan) { plan.removeLastWeek(); });
+}
+
+void makeViewMenu(PlanningWindow& window) {
+    QMenu* menu = window.menuBar()->addMenu(tr("&View"));
+    QTabWidget& tabs = window.tabs();
+    for (int tab = 0; tab < tabs.count(); ++tab)
+        menu->addAction(tabs.tabText(tab),
+                        QKeySequence(Qt::CTRL | static_cast<Qt::Key>(Qt::Key_1 + tab)), &window,
+                        [&tabs, tab] { tabs.setCurrentIndex(tab); });
+    menu->addSeparator();
+    menu->addAction(tr("&Find an athlete"), QKeySequence::Find, &window, [&window] {
+        window.athletes().search().setFocus();
+        window.athletes().search().selectAll();
+    });
+}
+
+} // namespace
+
+void makePlanningMenus(PlanningWindow& window, QMenu& file) {
+    file.addAction(tr("&Reports: preview, PDF, print…"), QKeySequence::Print, &window,
+                   [&window] { window.previewReports(); });
+    file.addAction(tr("Week as a &calendar file…"), QKeySequence(Qt::CTRL | Qt::Key_E), &window,
+                   [&window] { window.askForCalendar(); });
+    file.addSeparator();
+    file.addAction(tr("Open an o&nline planning…"), &window,
+                   [&window] { window.askToLoadOnline(); });
+    file.addAction(tr("Sa&ve online…"), &window, [&window] { window.askToSaveOnline(); });
+    makeAthleteMenu(window);
+    makeSessionMenu(window);
+    makeWeekMenu(window);
+    makeViewMenu(window);
+}
+
+Commands planningCommands(PlanningWindow& window) {
+    Commands commands;
+    const auto& athletes = window.document().athletes();
+    for (std::size_t i = 0; i < athletes.size(); ++i)
+        commands.push_back({QString::fromStdString(athletes[i].name), tr("Athletes"), QString(),
+                            [&window, i] { window.athletes().chooseAthlete(i); }});
+    return commands;
+}
+
+} // namespace kavela::desktop

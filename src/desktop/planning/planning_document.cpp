@@ -1,0 +1,120 @@
+#include "desktop/planning/planning_document.h"
+
+#include "common/json_document.h"
+#include "common/json_encode.h"
+#include "common/kept_file.h"
+#include "desktop/shell/workspace.h"
+#include "planning/messages.h"
+#include "planning/planning_file.h"
+
+namespace kavela::desktop {
+
+bool PlanningDocument::open(const QString& path, QWidget* over) {
+    RecognisedPlanning found = recognisePlanningFile(path.toStdString(), workspace().log());
+    if (!found.version) {
+        WorkspaceAlerts alerts(workspace(), over);
+        reportIncompatible(found, workspace().log(), alerts);
+        return false;
+    }
+    m_isOlder = !found.isCurrent();
+    m_withoutPlace = variabilityWithoutPlace(found);
+    start(std::move(found.document), path, over);
+    return true;
+}
+
+bool PlanningDocument::startFrom(const std::string& text, const QString& path, QWidget* over) {
+    try {
+        auto found = recognisePlanningDocument(JsonDocument::fromText(text), workspace().log());
+        if (!found.version)
+            return false;
+        startNew(path, over);
+        edit(tr("online planning"),
+             [&](planningdatac_v6& plan) { plan = std::move(found.document); });
+        return true;
+    } catch (const DecodeError& error) {
+        workspace().log()(error.what());
+        return false;
+    }
+}
+
+void PlanningDocument::startNew(const QString& path, QWidget* over) {
+    m_isOlder = false;
+    m_withoutPlace = 0;
+    start({}, path, over);
+}
+
+const athletesplanning_v6* PlanningDocument::athleteAt(std::size_t athlete) const {
+    return athlete < athletes().size() ? &athletes()[athlete] : nullptr;
+}
+
+const yearsplannings_v6* PlanningDocument::seasonAt(const PlannedSeason& place) const {
+    const athletesplanning_v6* const athlete = athleteAt(place.athlete);
+    return athlete && place.season < athlete->year.size() ? &athlete->year[place.season] : nullptr;
+}
+
+void PlanningDocument::editAthlete(std::size_t athlete, const QString& what,
+                                   const std::function<void(athletesplanning_v6&)>& change) {
+    if (athleteAt(athlete))
+        edit(what, [&](planningdatac_v6& plan) { change(plan.athletes[athlete]); });
+}
+
+void PlanningDocument::editSeason(const PlannedSeason& place, const QString& what,
+                                  const std::function<void(yearsplannings_v6&)>& change) {
+    if (seasonAt(place))
+        editAthlete(place.athlete, what,
+                    [&](athletesplanning_v6& athlete) { change(athlete.year[place.season]); });
+}
+
+/// The file of an older version is kept beside the new one; where that fails, nothing is written.
+bool PlanningDocument::save(QWidget* over) {
+    if (!m_isOlder)
+        return EditedValue::save(over);
+    if (!mayOverwrite(over))
+        return false;
+    if (keepPreviousFile(path().toStdString(), PlanningExtension, planning_messages::NotSaved,
+                         workspace().log())
+            .empty()) {
+        workspace().showAlert({planning_messages::NotSaved,
+                               tr("The file of the older version could not be kept beside the new "
+                                  "one, so that nothing was written.")
+                                   .toStdString()},
+                              over);
+        return false;
+    }
+    m_isOlder = !saveAs(path(), over);
+    return !m_isOlder;
+}
+
+std::string PlanningDocument::content() const {
+    return encode(value());
+}
+
+bool PlanningDocument::recover(const std::string& content) {
+    try {
+        auto recognised =
+            recognisePlanningDocument(JsonDocument::fromText(content), workspace().log());
+        if (!recognised.version)
+            return false;
+        edit(tr("recovered work"),
+             [&](planningdatac_v6& plan) { plan = std::move(recognised.document); });
+        return true;
+    } catch (const DecodeError& error) {
+        workspace().log()(error.what());
+        return false;
+    }
+}
+
+std::string PlanningDocument::failure() const {
+    return planning_messages::NotSaved;
+}
+
+bool PlanningDocument::mayReplace(bool isChangedOnDisk, QWidget* over) const {
+    QString text = tr("The planning “%1” will be replaced.").arg(fileName());
+    if (isChangedOnDisk)
+        text += ' ' + tr("Another program has changed it since it was opened; what that program "
+                         "wrote will be lost.");
+    return workspace().ask({planning_messages::Careful, text.toStdString()},
+                           planning_messages::SaveAnyway, over);
+}
+
+} // namespace kavela::desktop

@@ -1,0 +1,65 @@
+#pragma once
+
+#include "desktop/shell/edited_file.h"
+#include "planning/planning_records.h"
+
+#include <optional>
+
+namespace kavela::desktop {
+
+/// Which season of which athlete, by their places in the file.
+struct PlannedSeason {
+    std::size_t athlete = 0;
+    std::size_t season = 0;
+
+    friend bool operator==(const PlannedSeason&, const PlannedSeason&) = default;
+};
+
+/// A planning file that is being edited. Saving asks before it replaces the file.
+class PlanningDocument : public EditedValue<planningdatac_v6> {
+    Q_OBJECT
+
+public:
+    using EditedValue::EditedValue;
+    ~PlanningDocument() override { keepWork(); }
+
+    /// Opens a file of any version; one of an older version is converted in memory, and saving it
+    /// first keeps the file as it was. False, after an alert, when no version decodes; the document
+    /// then stays as it is.
+    [[nodiscard]] bool open(const QString& path, QWidget* over);
+    /// A planning that came from elsewhere as text, to be saved under a path; false when no version
+    /// decodes. The document then stays as it is.
+    [[nodiscard]] bool startFrom(const std::string& text, const QString& path, QWidget* over);
+    /// A new planning; the path is where saving will propose to put it.
+    void startNew(const QString& path, QWidget* over);
+
+    [[nodiscard]] const std::vector<athletesplanning_v6>& athletes() const {
+        return value().athletes;
+    }
+    /// Null when there is none of that place.
+    [[nodiscard]] const athletesplanning_v6* athleteAt(std::size_t athlete) const;
+    [[nodiscard]] const yearsplannings_v6* seasonAt(const PlannedSeason& place) const;
+
+    /// One step of the undo stack each; nothing for a place that is not there.
+    void editAthlete(std::size_t athlete, const QString& what,
+                     const std::function<void(athletesplanning_v6&)>& change);
+    void editSeason(const PlannedSeason& place, const QString& what,
+                    const std::function<void(yearsplannings_v6&)>& change);
+
+    /// How many variability measurements of an older version found no place in this one.
+    [[nodiscard]] std::size_t withoutPlace() const { return m_withoutPlace; }
+
+    [[nodiscard]] bool save(QWidget* over) override;
+
+protected:
+    [[nodiscard]] std::string content() const override;
+    [[nodiscard]] bool recover(const std::string& content) override;
+    [[nodiscard]] std::string failure() const override;
+    [[nodiscard]] bool mayReplace(bool isChangedOnDisk, QWidget* over) const override;
+
+private:
+    bool m_isOlder = false; ///< the file on the disk is of an older version
+    std::size_t m_withoutPlace = 0;
+};
+
+} // namespace kavela::desktop

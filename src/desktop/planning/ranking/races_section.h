@@ -1,0 +1,42 @@
+#pragma once
+
+#include "planning/planning_records.h"
+
+#include <QWidget>
+
+class QLabel;
+class QPushButton;
+class QTableWidget;
+
+namespace kavela::desktop {
+
+class SeriesChart;
+
+/// The races of a season, what its penalties come to, and how both went over time.
+class RacesSection : public QWidget {
+    Q_OBJECT
+
+public:
+    explicit RacesSection(QWidget* parent = nullptr);
+
+    /// Shows the statistics of a season; nothing can be taken for a null one.
+    void show(const statisticsplanning_v3* statistics);
+
+    [[nodiscard]] QTableWidget& table() const { return *m_table; }
+
+signals:
+    void filesAsked();
+    void folderAsked();
+
+private:
+    [[nodiscard]] QWidget* makeHead();
+    void fill(const racedataplanning_v3& races);
+
+    QTableWidget* m_table;
+    QLabel* m_summary;
+    QPushButton* m_take;
+    SeriesChart* m_penalties;
+    SeriesChart* m_percents;
+};
+
+} // namespace kavela::desktop

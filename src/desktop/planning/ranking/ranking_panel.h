@@ -1,0 +1,40 @@
+#pragma once
+
+#include "desktop/planning/season_panel.h"
+
+namespace kavela::desktop {
+
+class RacesSection;
+class RankingSection;
+class Workspace;
+
+/// The athlete's ranking in a season, and the statistics of its races and penalties.
+class RankingPanel : public SeasonPanel {
+    Q_OBJECT
+
+public:
+    RankingPanel(PlanningDocument& document, Workspace& workspace, QWidget* parent = nullptr);
+
+    [[nodiscard]] RankingSection& ranking() const { return *m_ranking; }
+    [[nodiscard]] RacesSection& races() const { return *m_races; }
+
+    /// Makes the season's statistics from split files, and from those in folders, once the coach
+    /// has seen what was found and agrees. Files of another year are told and left out.
+    void takeFrom(const QStringList& paths);
+    void askForFiles();
+    void askForFolder();
+
+protected:
+    void refresh() override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
+
+private:
+    void connectParts();
+
+    Workspace& m_workspace;
+    RankingSection* m_ranking;
+    RacesSection* m_races;
+};
+
+} // namespace kavela::desktop
