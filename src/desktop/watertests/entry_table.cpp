@@ -1,0 +1,160 @@
+#include "desktop/watertests/entry_table.h"
+
+#include "common/number_text.h"
+#include "desktop/shell/theme.h"
+#include "desktop/team/typed_values.h"
+#include "results/list_lines.h"
+
+#include <QHeaderView>
+
+#include <algorithm>
+#include <cmath>
+
+namespace kavela::desktop {
+
+namespace {
+
+/// Throws RefusedEntry.
+double typedNumber(const QString& text, const EntryColumn& column) {
+    const QString typed = text.trimmed();
+    if (typed.isEmpty())
+        return 0;
+    if (typed.contains(':'))
+        return typedTime(typed);
+    double number = 0;
+    if (!parseField(QString(typed).replace(',', '.').toStdString(), number) ||
+        !std::isfinite(number) || number < 0 || number > column.most)
+        throw RefusedEntry(EntryModel::tr("“%1” is a number from 0 to %2; “%3” is none.")
+                               .arg(QString(column.title).replace('\n', ' '))
+                               .arg(column.most)
+                               .arg(typed));
+    return number;
+}
+
+} // namespace
+
+EntryModel::EntryModel(std::vector<EntryColumn> columns, QObject* parent)
+    : QAbstractTableModel(parent), m_columns(std::move(columns)) {}
+
+/// A model that is reset closes the editor in a cell, so it is only where rows came or went.
+void EntryModel::show(Rows rows, const QStringList& rowTitles) {
+    const bool isSameShape = rows.size() == m_rows.size() && rowTitles == m_rowTitles;
+    if (!isSameShape)
+        beginResetModel();
+    m_rows = std::move(rows);
+    m_rowTitles = rowTitles;
+    if (!isSameShape)
+        endResetModel();
+    else if (!m_rows.empty())
+        emit dataChanged(index(0, 0), index(rowCount() - 1, columnCount() - 1));
+}
+
+void EntryModel::setReadOnly(int column, bool isReadOnly, const QString& tip) {
+    EntryColumn& entry = m_columns[static_cast<std::size_t>(column)];
+    entry.isReadOnly = isReadOnly;
+    entry.tip = tip;
+}
+
+int EntryModel::rowCount(const QModelIndex& parent) const {
+    return parent.isValid() ? 0 : static_cast<int>(m_rows.size());
+}
+
+int EntryModel::columnCount(const QModelIndex& parent) const {
+    return parent.isValid() ? 0 : static_cast<int>(m_columns.size());
+}
+
+double EntryModel::valueAt(const QModelIndex& index) const {
+    const std::vector<double>& row = m_rows[static_cast<std::size_t>(index.row())];
+    const auto column = static_cast<std::size_t>(index.column());
+    return column < row.size() ? row[column] : 0;
+}
+
+QVariant EntryModel::data(const QModelIndex& index, int role) const {
+    if (!index.isValid() || index.row() >= rowCount())
+        return {};
+    const EntryColumn& column = m_columns[static_cast<std::size_t>(index.column())];
+    const double value = valueAt(index);
+    if (role == Qt::DisplayRole)
+        return value == 0 ? QString() : QString::fromStdString(hundredthsText(value));
+    if (role == Qt::EditRole)
+        return value == 0 ? QString() : QString::fromStdString(plainText(value));
+    if (role == Qt::TextAlignmentRole)
+        return QVariant(Qt::AlignRight | Qt::AlignVCenter);
+    if (role == Qt::ToolTipRole)
+        return column.tip;
+    return {};
+}
+
+QVariant EntryModel::headerData(int section, Qt::Orientation orientation, int role) const {
+    if (orientation == Qt::Vertical)
+        return role == Qt::DisplayRole ? QVariant(m_rowTitles.value(section)) : QVariant();
+    const EntryColumn& column = m_columns[static_cast<std::size_t>(section)];
+    if (role == Qt::DisplayRole)
+        return column.title;
+    if (role == Qt::ToolTipRole)
+        return column.tip;
+    return {};
+}
+
+Qt::ItemFlags EntryModel::flags(const QModelIndex& index) const {
+    const Qt::ItemFlags flags = QAbstractTableModel::flags(index);
+    const bool isReadOnly =
+        index.isValid() && m_columns[static_cast<std::size_t>(index.column())].isReadOnly;
+    return isReadOnly ? flags : flags | Qt::ItemIsEditable;
+}
+
+bool EntryModel::setData(const QModelIndex& index, const QVariant& value, int role) {
+    if (role != Qt::EditRole || !(flags(index) & Qt::ItemIsEditable) ||
+        data(index, Qt::EditRole).toString() == value.toString())
+        return false;
+    try {
+        const double number =
+            typedNumber(value.toString(), m_columns[static_cast<std::size_t>(index.column())]);
+        if (number != valueAt(index))
+            emit entered(index.row(), index.column(), number);
+        return true;
+    } catch (const RefusedEntry& refusal) {
+        emit refused(QString::fromStdString(refusal.what()));
+        return false;
+    }
+}
+
+QStringList numbered(const QString& title, std::size_t count) {
+    QStringList titles;
+    for (std::size_t number = 1; number <= count; ++number)
+        titles.append(title.arg(number));
+    return titles;
+}
+
+EntryTable::EntryTable(EntryModel& model, QWidget* parent) : QTableView(parent) {
+    setModel(&model);
+    setEditTriggers(QAbstractItemView::AnyKeyPressed | QAbstractItemView::DoubleClicked |
+                    QAbstractItemView::EditKeyPressed);
+    setWordWrap(false);
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Maximum);
+    verticalHeader()->setDefaultSectionSize(fontMetrics().height() + theme::Spacing);
+    horizontalHeader()->setHighlightSections(false);
+    horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
+    horizontalHeader()->setMinimumSectionSize(64);
+}
+
+/// High enough for the rows of most tests, so that they need no scrolling.
+QSize EntryTable::sizeHint() const {
+    const int rows = std::clamp(model()->rowCount(), 5, 14);
+    return {QTableView::sizeHint().width(), horizontalHeader()->sizeHint().height() +
+                                                rows * verticalHeader()->defaultSectionSize() +
+                                                2 * frameWidth()};
+}
+
+void EntryTable::closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint hint) {
+    QTableView::closeEditor(editor, hint);
+    if (hint == QAbstractItemDelegate::SubmitModelCache && currentIndex().isValid() &&
+        currentIndex().row() + 1 < model()->rowCount())
+        setCurrentIndex(currentIndex().siblingAtRow(currentIndex().row() + 1));
+}
+
+void EntryTable::emptyCurrent() {
+    model()->setData(currentIndex(), QString());
+}
+
+} // namespace kavela::desktop

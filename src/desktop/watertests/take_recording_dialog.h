@@ -1,0 +1,67 @@
+#pragma once
+
+#include "boatmotion/strokes/motion_analysis.h"
+#include "desktop/watertests/tests_document.h"
+
+#include <QDialog>
+
+#include <vector>
+
+class QComboBox;
+class QDoubleSpinBox;
+class QLabel;
+class QLineEdit;
+class QPushButton;
+class QSpinBox;
+
+namespace kavela::desktop {
+
+class EntryModel;
+class EntryTable;
+class SeriesChart;
+
+/// Which part of a recording is which test: its marks are proposed from the strokes and turns, and
+/// can be changed.
+class TakeRecordingDialog : public QDialog {
+    Q_OBJECT
+
+public:
+    /// `athlete` is proposed where the recording names none. Throws MotionError for a recording
+    /// that cannot be analysed.
+    TakeRecordingDialog(bmrawdata_v5 session, const std::string& athlete,
+                        QWidget* parent = nullptr);
+    ~TakeRecordingDialog() override;
+
+    [[nodiscard]] TestsDocument::Content test() const;
+
+private:
+    void makeFields(const std::string& athlete);
+    void layOut();
+    void connectParts();
+    void analyse();
+    void suggest();
+    void showMarks();
+    void showCurve();
+    void enterMark(int row, double seconds);
+    [[nodiscard]] TestKind kind() const;
+    [[nodiscard]] double begin() const;
+
+    bmrawdata_v5 m_session;
+    MotionAnalysis m_motion;
+    /// The start and the end of each section, on the clock of the samples.
+    std::vector<double> m_moments;
+    QComboBox* m_kind;
+    QLineEdit* m_athlete;
+    QLineEdit* m_location;
+    QSpinBox* m_laps;
+    QDoubleSpinBox* m_distance;
+    QDoubleSpinBox* m_turnLimit;
+    EntryModel* m_marks;
+    EntryTable* m_table;
+    SeriesChart* m_chart;
+    QLabel* m_found;
+    QLabel* m_fault;
+    QPushButton* m_take = nullptr;
+};
+
+} // namespace kavela::desktop

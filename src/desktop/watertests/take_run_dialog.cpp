@@ -1,0 +1,141 @@
+#include "desktop/watertests/take_run_dialog.h"
+
+#include "common/number_text.h"
+#include "desktop/shell/theme.h"
+#include "planning/test_from_run.h"
+#include "splitdata/run_timing.h"
+
+#include <QComboBox>
+#include <QDialogButtonBox>
+#include <QFormLayout>
+#include <QHeaderView>
+#include <QLabel>
+#include <QPushButton>
+#include <QTableWidget>
+
+#include <algorithm>
+#include <numeric>
+
+namespace kavela::desktop {
+
+namespace {
+
+constexpr std::size_t EightSplits = 5;
+
+QString qtText(const std::string& text) {
+    return QString::fromStdString(text);
+}
+
+/// "5", or "3 of 5" when some sections were not timed.
+QString sectionText(const std::vector<double>& times) {
+    const auto timed = std::ranges::count_if(times, [](double time) { return time > 0; });
+    return timed == std::ssize(times) ? QString::number(timed)
+                                      : TakeRunDialog::tr("%1 of %2").arg(timed).arg(times.size());
+}
+
+QStringList cellsOf(const athletedata031& run) {
+    const std::vector<double>& times = run.sectioninfo.times;
+    const double total = std::accumulate(times.begin(), times.end(), 0.0);
+    return {qtText(crewText(run.names)),
+            qtText(run.cat),
+            qtText(run.phase),
+            sectionText(times),
+            qtText(hundredthsText(total)),
+            run.bm.empty() ? QString() : TakeRunDialog::tr("yes")};
+}
+
+} // namespace
+
+TakeRunDialog::TakeRunDialog(splittakerdata031 file, std::filesystem::path folder, QWidget* parent)
+    : QDialog(parent),
+      m_file(std::move(file)),
+      m_folder(std::move(folder)),
+      m_kind(new QComboBox),
+      m_runs(new QTableWidget),
+      m_hint(new QLabel) {
+    setWindowTitle(tr("Take in tests from “%1”").arg(qtText(m_file.info.title)));
+    m_kind->setObjectName("kind");
+    for (const TestKind kind : {TestKind::Lap, TestKind::Sprint, TestKind::Eight})
+        m_kind->addItem(kindText(kind), static_cast<int>(kind));
+    m_kind->setCurrentIndex(m_file.info.totalsplits == EightSplits ? 2 : 0);
+    m_hint->setWordWrap(true);
+    m_hint->setForegroundRole(QPalette::PlaceholderText);
+    fillRuns();
+    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Cancel);
+    m_take = buttons->addButton(tr("Take in"), QDialogButtonBox::AcceptRole);
+    auto* form = new QFormLayout(this);
+    form->setSpacing(theme::Spacing);
+    form->addRow(tr("&Test"), m_kind);
+    form->addRow(m_runs);
+    form->addRow(m_hint);
+    form->addRow(buttons);
+    connect(m_kind, &QComboBox::currentIndexChanged, this, &TakeRunDialog::showChoice);
+    connect(m_runs, &QTableWidget::itemSelectionChanged, this, &TakeRunDialog::showChoice);
+    connect(m_runs, &QTableWidget::itemDoubleClicked, this, &QDialog::accept);
+    connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
+    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    resize(720, 460);
+    m_runs->selectRow(0);
+    showChoice();
+}
+
+void TakeRunDialog::fillRuns() {
+    const QStringList titles{tr("Athlete"),  tr("Category"),  tr("Phase"),
+                             tr("Sections"), tr("Total (s)"), tr("Motion")};
+    m_runs->setObjectName("runs");
+    m_runs->setColumnCount(static_cast<int>(titles.size()));
+    m_runs->setHorizontalHeaderLabels(titles);
+    m_runs->setRowCount(static_cast<int>(m_file.athletes.size()));
+    for (int row = 0; row < m_runs->rowCount(); ++row) {
+        const QStringList cells = cellsOf(m_file.athletes[static_cast<std::size_t>(row)]);
+        for (int column = 0; column < cells.size(); ++column)
+            m_runs->setItem(row, column, new QTableWidgetItem(cells[column]));
+    }
+    m_runs->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    m_runs->setSelectionBehavior(QAbstractItemView::SelectRows);
+    m_runs->setShowGrid(false);
+    m_runs->verticalHeader()->hide();
+    m_runs->verticalHeader()->setDefaultSectionSize(fontMetrics().height() + theme::Spacing);
+    m_runs->horizontalHeader()->setHighlightSections(false);
+    m_runs->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    m_runs->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    m_runs->horizontalHeader()->setSectionResizeMode(0, QHeaderView::Stretch);
+}
+
+TestKind TakeRunDialog::kind() const {
+    return static_cast<TestKind>(m_kind->currentData().toInt());
+}
+
+void TakeRunDialog::showChoice() {
+    const auto count = m_runs->selectionModel()->selectedRows().size();
+    m_take->setEnabled(count > 0);
+    m_take->setText(count > 1 ? tr("Take %1 runs in").arg(count) : tr("Take in"));
+    switch (kind()) {
+    case TestKind::Lap:
+        m_hint->setText(tr("Each section of the run becomes a lap."));
+        break;
+    case TestKind::Sprint:
+        m_hint->setText(tr("Each section of the run becomes a stretch of the sprint."));
+        break;
+    case TestKind::Eight:
+        m_hint->setText(tr("The first five sections become the splits, with their marks in the "
+                           "video; the motion samples of the run tell its rotation."));
+        break;
+    }
+}
+
+std::vector<TestsDocument::Content> TakeRunDialog::tests() const {
+    std::vector<TestsDocument::Content> tests;
+    for (const QModelIndex& index : m_runs->selectionModel()->selectedRows()) {
+        const athletedata031& run = m_file.athletes[static_cast<std::size_t>(index.row())];
+        if (kind() == TestKind::Eight)
+            tests.emplace_back(eightFromRun(m_file.info, run, m_folder));
+        else
+            tests.emplace_back(
+                testFromRun(m_file.info, run,
+                            kind() == TestKind::Sprint ? water_test::Sprint : water_test::Lap));
+    }
+    return tests;
+}
+
+} // namespace kavela::desktop

@@ -1,0 +1,54 @@
+#pragma once
+
+#include "desktop/shell/edited_file.h"
+#include "desktop/watertests/listed_test.h"
+
+#include <span>
+
+namespace kavela::desktop {
+
+/// A file of on-water tests that is being edited. An eight test is scored again after every edit of
+/// it.
+class TestsDocument : public EditedValue<TestList> {
+    Q_OBJECT
+
+public:
+    using EditedValue::EditedValue;
+    ~TestsDocument() override { keepWork(); }
+
+    /// False, after an alert that says what is wrong where, when it cannot be opened; the document
+    /// then stays as it is.
+    [[nodiscard]] bool open(const QString& path, QWidget* over);
+    /// A new file; the path is where saving will propose to put it.
+    void startNew(const QString& path, QWidget* over);
+    /// The same under a name that is free in a folder.
+    void createNew(const QString& folder, QWidget* over);
+
+    /// Null when there is none, as after its removal.
+    [[nodiscard]] const ListedTest* find(TestId id) const;
+    /// The athletes with a test, by name.
+    [[nodiscard]] QStringList athletes() const;
+
+    using Content = std::variant<onWaterTest, onWaterEight>;
+    /// Adds tests and returns their names.
+    std::vector<TestId> add(const QString& what, std::vector<Content> tests);
+    void remove(std::span<const TestId> tests);
+    /// One step of the undo stack each; nothing when the test is of another kind or not there.
+    void editRun(TestId id, const QString& what, const std::function<void(onWaterTest&)>& change);
+    void editEight(TestId id, const QString& what,
+                   const std::function<void(onWaterEight&)>& change);
+
+protected:
+    [[nodiscard]] std::string content() const override;
+    [[nodiscard]] bool recover(const std::string& content) override;
+
+private:
+    [[nodiscard]] TestList listOf(onWaterTests tests);
+    void append(TestList& list, Content test);
+    template <class Test>
+    void editAs(TestId id, const QString& what, const std::function<void(Test&)>& change);
+
+    TestId m_lastId = 0;
+};
+
+} // namespace kavela::desktop

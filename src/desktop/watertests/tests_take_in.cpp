@@ -1,0 +1,102 @@
+#include "boatmotion/session_files.h"
+#include "common/json_decode.h"
+#include "desktop/shell/workspace.h"
+#include "desktop/watertests/take_recording_dialog.h"
+#include "desktop/watertests/take_run_dialog.h"
+#include "desktop/watertests/tests_window.h"
+#include "splitdata/loader.h"
+
+#include <QFileDialog>
+#include <QFileInfo>
+
+/// Taking tests in, as the window does it.
+namespace kavela::desktop {
+
+namespace {
+
+bool hasSuffix(const QString& path, const char* suffix) {
+    return QFileInfo(path).suffix().toLower() == suffix;
+}
+
+/// A recording of version 4 is brought to the present one in memory. Throws FileError and
+/// DecodeError.
+bmrawdata_v5 readRecording(const QString& path) {
+    const JsonDocument json = JsonDocument::fromFile(path.toStdString());
+    bmrawdata_v4 old;
+    Fault fault;
+    if (bmrawdata_v5 session; tryDecode(json.root(), session, fault))
+        return session;
+    if (Fault other; tryDecode(json.root(), old, other))
+        return upgradedRawSession(std::move(old));
+    throw DecodeError(std::move(fault));
+}
+
+} // namespace
+
+void TestsWindow::askForSplitFile() {
+    takeIn(QFileDialog::getOpenFileNames(this, tr("Take tests in from a split file"), ownFolder(),
+                                         tr("Split files (*.kvx);;All files (*)")));
+}
+
+void TestsWindow::askForRecording() {
+    takeIn(QFileDialog::getOpenFileNames(this, tr("Take a test in from a recording"), ownFolder(),
+                                         tr("Recordings (*.kvb);;All files (*)")));
+}
+
+void TestsWindow::takeFiles(const QStringList& paths) {
+    QStringList sources;
+    QStringList others;
+    for (const QString& path : paths)
+        (hasSuffix(path, "kvx") || hasSuffix(path, "kvb") ? sources : others).append(path);
+    if (!others.isEmpty())
+        emit openRequested(others);
+    takeIn(sources);
+}
+
+void TestsWindow::takeIn(const QStringList& paths) {
+    commit();
+    for (const QString& path : paths) {
+        if (hasSuffix(path, "kvb"))
+            takeInRecording(path);
+        else
+            takeInSplitFile(path);
+    }
+}
+
+/// A file of an older release is read as it is and stays so.
+void TestsWindow::takeInSplitFile(const QString& path) {
+    RecognisedSplitFile file =
+        recogniseSplitFile(path.toStdString(), workspace().log(), workspace().clock());
+    if (!file.version) {
+        WorkspaceAlerts alerts(workspace(), this);
+        reportIncompatible(file, workspace().log(), alerts);
+        return;
+    }
+    if (file.document.athletes.empty()) {
+        tell(tr("“%1” cannot be taken in").arg(QFileInfo(path).fileName()),
+             tr("There are no runs in it."));
+        return;
+    }
+    TakeRunDialog dialog(std::move(file.document), QFileInfo(path).absolutePath().toStdString(),
+                         this);
+    if (dialog.exec() == QDialog::Accepted)
+        addAndChoose(tr("tests taken in"), dialog.tests());
+}
+
+void TestsWindow::takeInRecording(const QString& path) {
+    const QString title = tr("“%1” cannot be taken in").arg(QFileInfo(path).fileName());
+    try {
+        TakeRecordingDialog dialog(readRecording(path), chosenAthlete(), this);
+        if (dialog.exec() == QDialog::Accepted)
+            addAndChoose(tr("test taken in"), {dialog.test()});
+    } catch (const FileError& error) {
+        tell(title, QString::fromStdString(error.reason()));
+    } catch (const DecodeError& error) {
+        tell(title, tr("It is no raw recording, or a damaged one: %1")
+                        .arg(QString::fromStdString(error.what())));
+    } catch (const MotionError& error) {
+        tell(title, QString::fromStdString(error.what()));
+    }
+}
+
+} // namespace kavela::desktop

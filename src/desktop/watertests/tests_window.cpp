@@ -1,0 +1,260 @@
+#include "desktop/watertests/tests_window.h"
+
+#include "common/error.h"
+#include "common/safe_file.h"
+#include "desktop/race/table_text.h"
+#include "desktop/shell/theme.h"
+#include "desktop/shell/window_place.h"
+#include "desktop/shell/workspace.h"
+#include "desktop/watertests/chart_view.h"
+#include "desktop/watertests/entry_table.h"
+#include "desktop/watertests/result_table_model.h"
+#include "desktop/watertests/test_list_panel.h"
+#include "desktop/watertests/tests_actions.h"
+#include "desktop/watertests/values_panel.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QHeaderView>
+#include <QSplitter>
+#include <QTabWidget>
+#include <QTableView>
+
+#include <algorithm>
+#include <cmath>
+#include <numeric>
+
+namespace kavela::desktop {
+
+namespace {
+
+constexpr double SecondsOfDay = 86400;
+
+/// The beginning of a moment's day: a test that is typed has no time of day.
+ReferenceDate dayOf(ReferenceDate date) {
+    return {std::floor(date.seconds / SecondsOfDay) * SecondsOfDay};
+}
+
+} // namespace
+
+TestsWindow::TestsWindow(Workspace& workspace, Autosave autosave)
+    : TestsWindow(workspace, std::make_unique<TestsDocument>(workspace, std::move(autosave))) {}
+
+TestsWindow::TestsWindow(Workspace& workspace, std::unique_ptr<TestsDocument> document)
+    : EditorWindow(workspace, *document, "watertests", tr("Tests"), "kvtest"),
+      m_document(std::move(document)) {
+    makeParts();
+    connectParts();
+    QMenu* const fileMenu = makeFileMenu();
+    makeTestsMenus(*this, *fileMenu, *makeEditMenu());
+    finishMenus([this] { return testsCommands(*this); });
+}
+
+TestsWindow::~TestsWindow() {
+    m_document->undoStack().disconnect(this);
+    m_document->disconnect(this);
+}
+
+void TestsWindow::makeParts() {
+    m_list = new TestListPanel(*m_document);
+    m_charts = new ChartView;
+    m_values = new ValuesPanel(*m_document);
+    m_pages = new QTabWidget;
+    m_pages->setDocumentMode(true);
+    m_pages->addTab(m_charts, tr("Charts"));
+    m_pages->addTab(m_values, tr("Values"));
+    m_pages->addTab(makeTablePage(), tr("Table"));
+    auto* whole = new QSplitter;
+    whole->setContentsMargins(theme::LargeSpacing, theme::Spacing, theme::LargeSpacing,
+                              theme::Spacing);
+    whole->addWidget(m_list);
+    whole->addWidget(m_pages);
+    whole->setStretchFactor(1, 1);
+    whole->setSizes({410, 830});
+    rememberSizes(*whole, workspace(), "watertestsParts");
+    setCentralWidget(whole);
+}
+
+QWidget* TestsWindow::makeTablePage() {
+    m_table = new ResultTableModel(this);
+    m_tableView = new QTableView;
+    m_tableView->setObjectName("table");
+    m_tableView->setModel(m_table);
+    m_tableView->setSelectionBehavior(QAbstractItemView::SelectRows);
+    m_tableView->setWordWrap(false);
+    m_tableView->verticalHeader()->setDefaultSectionSize(fontMetrics().height() + theme::Spacing);
+    m_tableView->horizontalHeader()->setHighlightSections(false);
+    m_tableView->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    return m_tableView;
+}
+
+void TestsWindow::connectParts() {
+    connect(m_list, &TestListPanel::chosen, this, &TestsWindow::showTests);
+    connect(m_list, &TestListPanel::listChanged, this, &TestsWindow::showTable);
+    connect(m_document.get(), &TestsDocument::changed, this, &TestsWindow::showTests);
+    connect(
+        m_values, &ValuesPanel::refused, this, [this](const QString& reason) { tell({}, reason); },
+        Qt::QueuedConnection);
+    connect(m_tableView, &QTableView::doubleClicked, this, [this](const QModelIndex& index) {
+        m_list->choose(m_list->listed()[static_cast<std::size_t>(index.row())]);
+        showPage(ChartPage);
+    });
+}
+
+bool TestsWindow::open(const QString& path) {
+    if (!m_document->open(path, this))
+        return false;
+    m_list->table().setFocus();
+    return true;
+}
+
+void TestsWindow::startNew(const QString& path) {
+    if (QFileInfo(path).isDir())
+        m_document->createNew(path, this);
+    else
+        m_document->startNew(path, this);
+    showPage(ValuePage);
+    m_list->table().setFocus();
+}
+
+void TestsWindow::showPage(Page page) {
+    m_pages->setCurrentIndex(page);
+}
+
+/// The chosen test, and the ticked ones of its kind laid over it.
+void TestsWindow::showTests() {
+    const auto current = m_list->current();
+    m_values->show(current);
+    const ListedTest* const chosen = current ? m_document->find(*current) : nullptr;
+    const std::vector<TestId> ticked = m_list->ticked();
+    TestList shown;
+    int others = 0;
+    for (const auto& test : m_document->value()) {
+        const bool isTicked = std::ranges::count(ticked, test->id) > 0;
+        if (chosen && test->kind() != chosen->kind())
+            others += isTicked ? 1 : 0;
+        else if (isTicked || test.get() == chosen)
+            shown.push_back(test);
+    }
+    std::ranges::stable_sort(shown, {}, [](const auto& test) { return test->date(); });
+    QString note;
+    if (others > 0)
+        note = others == 1
+                   ? tr("One ticked test is of another kind and left out here.")
+                   : tr("%1 ticked tests are of another kind and left out here.").arg(others);
+    m_charts->showTests(shown, note);
+}
+
+void TestsWindow::showTable() {
+    TestList listed;
+    for (const TestId id : m_list->listed())
+        for (const auto& test : m_document->value())
+            if (test->id == id)
+                listed.push_back(test);
+    m_table->show(listed);
+}
+
+void TestsWindow::tell(const QString& title, const QString& text) {
+    workspace().showAlert({title.toStdString(), text.toStdString()}, this);
+}
+
+std::string TestsWindow::chosenAthlete() const {
+    const auto current = m_list->current();
+    const ListedTest* const test = current ? m_document->find(*current) : nullptr;
+    return test ? test->athlete().toStdString() : std::string();
+}
+
+QString TestsWindow::ownFolder() const {
+    return QFileInfo(m_document->path()).path();
+}
+
+void TestsWindow::addAndChoose(const QString& what, std::vector<TestsDocument::Content> tests) {
+    if (tests.empty())
+        return;
+    const std::vector<TestId> added = m_document->add(what, std::move(tests));
+    m_list->choose(added.front());
+}
+
+void TestsWindow::addTest(TestKind kind) {
+    commit();
+    const auto current = m_list->current();
+    const ListedTest* const before = current ? m_document->find(*current) : nullptr;
+    const std::string location = before ? before->location().toStdString() : std::string();
+    const ReferenceDate day = dayOf(workspace().clock()());
+    if (kind == TestKind::Eight) {
+        onWaterEight eight{day, location, {}};
+        eight.run.athlete = chosenAthlete();
+        addAndChoose(tr("new eight test"), {eight});
+    } else {
+        onWaterTest test;
+        if (before && before->run() && before->kind() == kind) {
+            test = *before->run(); // the same set-up as the test before
+            test.test = {};
+        }
+        test.kind = kind == TestKind::Sprint ? water_test::Sprint : water_test::Lap;
+        test.test.athlete = chosenAthlete();
+        test.test.location = location;
+        test.test.date = day;
+        addAndChoose(kind == TestKind::Sprint ? tr("new sprint") : tr("new lap test"), {test});
+    }
+    showPage(ValuePage);
+    m_values->focusAthlete();
+}
+
+void TestsWindow::duplicateTest() {
+    commit();
+    const auto current = m_list->current();
+    if (const ListedTest* const test = current ? m_document->find(*current) : nullptr)
+        addAndChoose(tr("copy of a test"), {test->test});
+}
+
+void TestsWindow::removeCurrent() {
+    if (auto* const table = qobject_cast<EntryTable*>(focusWidget())) {
+        table->emptyCurrent();
+        return;
+    }
+    m_document->remove(m_list->selected());
+}
+
+void TestsWindow::moveBy(int rows) {
+    commit();
+    m_list->move(rows);
+}
+
+/// Every test that the list shows, in its order.
+void TestsWindow::copyTable() {
+    QList<int> rows(m_table->rowCount());
+    std::iota(rows.begin(), rows.end(), 0);
+    QList<int> columns(m_table->columnCount());
+    std::iota(columns.begin(), columns.end(), 0);
+    QApplication::clipboard()->setText(tabSeparated(*m_table, rows, columns));
+}
+
+void TestsWindow::exportTable(const QString& path) const {
+    writeFileSafely(path.toStdString(), m_table->csv());
+}
+
+void TestsWindow::askAndExport() {
+    commit();
+    QFileDialog dialog(this, tr("Export the table of tests"), ownFolder(),
+                       tr("Semicolon-separated text (*.csv);;All files (*)"));
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setDefaultSuffix("csv");
+    dialog.selectFile(QFileInfo(m_document->path()).completeBaseName() + ".csv");
+    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
+        return;
+    try {
+        exportTable(dialog.selectedFiles().constFirst());
+    } catch (const FileError& error) {
+        workspace().log()(error.what());
+        workspace().showAlert({"Failed to create file", error.reason()}, this);
+    }
+}
+
+void TestsWindow::commit() {
+    m_values->commit();
+}
+
+} // namespace kavela::desktop

@@ -1,0 +1,84 @@
+#pragma once
+
+#include "desktop/shell/editor_window.h"
+#include "desktop/watertests/tests_document.h"
+
+#include <memory>
+
+class QTableView;
+class QTabWidget;
+
+namespace kavela::desktop {
+
+class ChartView;
+class ResultTableModel;
+class TestListPanel;
+class ValuesPanel;
+
+/// On-water tests: lap tests, sprints and eight tests, typed in or taken in from split files and
+/// recordings, their charts laid over each other, and the table of their results.
+class TestsWindow : public EditorWindow {
+    Q_OBJECT
+
+public:
+    TestsWindow(Workspace& workspace, Autosave autosave);
+    ~TestsWindow() override;
+
+    /// False, after an alert, when the file cannot be opened.
+    [[nodiscard]] bool open(const QString& path);
+    /// A new file; the path is a folder, or a file that saving will propose.
+    void startNew(const QString& path);
+
+    enum Page { ChartPage, ValuePage, TablePage };
+    void showPage(Page page);
+
+    [[nodiscard]] TestsDocument& document() const { return *m_document; }
+    [[nodiscard]] TestListPanel& list() const { return *m_list; }
+    [[nodiscard]] ChartView& charts() const { return *m_charts; }
+
+    /// A new test of the athlete that is chosen, ready to be typed.
+    void addTest(TestKind kind);
+    void duplicateTest();
+    /// Takes out the selected tests; empties the cell where one is being edited in a table.
+    void removeCurrent();
+    /// Moves the choice in the list.
+    void moveBy(int rows);
+
+    void askForSplitFile();
+    void askForRecording();
+    /// Shows what split files and recordings hold, and takes in what was chosen.
+    void takeIn(const QStringList& paths);
+
+    void copyTable();
+    void askAndExport();
+    /// Writes the table of the listed tests. Throws FileError.
+    void exportTable(const QString& path) const;
+
+protected:
+    void takeFiles(const QStringList& paths) override;
+    void commit() override;
+
+private:
+    TestsWindow(Workspace& workspace, std::unique_ptr<TestsDocument> document);
+    void makeParts();
+    QWidget* makeTablePage();
+    void connectParts();
+    void showTests();
+    void showTable();
+    void tell(const QString& title, const QString& text);
+    void takeInSplitFile(const QString& path);
+    void takeInRecording(const QString& path);
+    void addAndChoose(const QString& what, std::vector<TestsDocument::Content> tests);
+    [[nodiscard]] std::string chosenAthlete() const;
+    [[nodiscard]] QString ownFolder() const;
+
+    std::unique_ptr<TestsDocument> m_document;
+    TestListPanel* m_list = nullptr;
+    QTabWidget* m_pages = nullptr;
+    ChartView* m_charts = nullptr;
+    ValuesPanel* m_values = nullptr;
+    ResultTableModel* m_table = nullptr;
+    QTableView* m_tableView = nullptr;
+};
+
+} // namespace kavela::desktop
