@@ -3,6 +3,8 @@
 #include "app/file_facts.h"
 #include "common/error.h"
 #include "common/safe_file.h"
+#include "desktop/planning/online/online_dialog.h"
+#include "desktop/planning/planning_window.h"
 #include "desktop/race/race_window.h"
 #include "desktop/selection/selection_window.h"
 #include "desktop/shell/editor_window.h"
@@ -10,6 +12,9 @@
 #include "desktop/shell/settings_window.h"
 #include "desktop/taking/taking_window.h"
 #include "desktop/team/team_window.h"
+#include "desktop/watertests/tests_window.h"
+#include "planning/messages.h"
+#include "planning/planning_file.h"
 #include "sample/season.h"
 #include "splitdata/loader.h"
 #include "splittaking/video_names.h"
@@ -20,6 +25,7 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QStandardPaths>
+#include <QUrl>
 
 #include <algorithm>
 
@@ -119,7 +125,11 @@ void Desktop::showHome() {
             {tr("Team"), tr("Results of every athlete, season by season, and their category."),
              icon("team"), [this] { chooseTeam(); }},
             {tr("Selection races"), tr("Who is selected, by which results, and why."),
-             icon("selection"), [this] { chooseSelection(); }}};
+             icon("selection"), [this] { chooseSelection(); }},
+            {tr("Planning"), tr("Seasons, weeks and sessions, heart, gym and goals of a group."),
+             icon("planning"), [this] { choosePlanning(); }},
+            {tr("Tests"), tr("Lap, sprint and eight tests on the water, compared."),
+             icon("watertests"), [this] { chooseTests(); }}};
         m_home = new HomeWindow(m_workspace, tools);
         m_home->setAttribute(Qt::WA_DeleteOnClose);
         connect(m_home, &HomeWindow::settingsRequested, this, &Desktop::openSettings);
@@ -155,6 +165,10 @@ QStringList Desktop::racesAmong(const QStringList& paths) {
             (void)openSelection(path);
         else if (facts.kind == "team")
             (void)openTeam(path);
+        else if (facts.kind == "planning" || path.endsWith(PlanningExtension))
+            (void)openPlanning(path); // one that does not decode is told there
+        else if (facts.kind == "test results")
+            (void)openTests(path);
         else if (facts.error || facts.kind == "split file")
             races.append(path); // the reader says what is wrong
         else
@@ -301,31 +315,39 @@ QString Desktop::chooseFile(const QString& title, const QString& kind,
     return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
 }
 
-void Desktop::chooseTeam() {
-    const QString path = chooseFile(tr("Open a team, or name a new one"), tr("Teams"), "kvteam");
+template <class Window>
+void Desktop::chooseEditor(const QString& path, const std::function<void(Window&)>& begin) {
     if (path.isEmpty())
         return;
     if (QFileInfo::exists(path)) {
         open(path);
         return;
     }
-    auto* window = new TeamWindow(m_workspace, m_autosave);
-    window->startNew(path);
+    auto* window = new Window(m_workspace, m_autosave);
+    begin(*window);
     show(window);
+}
+
+void Desktop::chooseTeam() {
+    const QString path = chooseFile(tr("Open a team, or name a new one"), tr("Teams"), "kvteam");
+    chooseEditor<TeamWindow>(path, [&](TeamWindow& window) { window.startNew(path); });
 }
 
 void Desktop::chooseSelection() {
     const QString path =
         chooseFile(tr("Open a selection, or name a new one"), tr("Selection races"), "kvsr");
-    if (path.isEmpty())
-        return;
-    if (QFileInfo::exists(path)) {
-        open(path);
-        return;
-    }
-    auto* window = new SelectionWindow(m_workspace, m_autosave);
-    window->startNew(path, QDate::currentDate().year());
-    show(window);
+    chooseEditor<SelectionWindow>(
+        path, [&](SelectionWindow& window) { window.startNew(path, QDate::currentDate().year()); });
+}
+
+void Desktop::choosePlanning() {
+    const QString path = chooseFile(planning_messages::ImportTitle, tr("Plannings"), "planning");
+    chooseEditor<PlanningWindow>(path, [&](PlanningWindow& window) { window.startNew(path); });
+}
+
+void Desktop::chooseTests() {
+    const QString path = chooseFile(tr("Open tests, or name new ones"), tr("Tests"), "kvtest");
+    chooseEditor<TestsWindow>(path, [&](TestsWindow& window) { window.startNew(path); });
 }
 
 template <class Window>
@@ -348,6 +370,41 @@ bool Desktop::openTeam(const QString& path) {
 
 bool Desktop::openSelection(const QString& path) {
     return openEditor<SelectionWindow>(path);
+}
+
+bool Desktop::openTests(const QString& path) {
+    return openEditor<TestsWindow>(path);
+}
+
+bool Desktop::openPlanning(const QString& path) {
+    return openEditor<PlanningWindow>(path);
+}
+
+void Desktop::loadPlanningAtStart() {
+    const Preferences& preferences = m_workspace.preferences();
+    if (!preferences.boolean("autoloadPlanning"))
+        return;
+    if (preferences.boolean("autoloadPlanningOnline")) {
+        loadOnlinePlanning();
+        return;
+    }
+    const auto url = preferences.url("autoloadPlanningURL");
+    const QString path = url ? QUrl(QString::fromStdString(*url)).toLocalFile() : QString();
+    if (!path.isEmpty())
+        (void)openPlanning(path);
+}
+
+/// The store asks for a password, which is kept nowhere, so that the coach is asked for it.
+void Desktop::loadOnlinePlanning() {
+    auto* window = new PlanningWindow(m_workspace, m_autosave);
+    const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    window->startNew(documents + '/' + rememberedEntry(m_workspace) + ".planning");
+    show(window);
+    if (const OnlineAddress address = rememberedAddress(m_workspace);
+        address.user.isEmpty() && address.fault().isEmpty())
+        window->loadOnline(address, rememberedEntry(m_workspace));
+    else
+        window->askToLoadOnline();
 }
 
 bool Desktop::isShown(const QString& path) {

@@ -5,6 +5,7 @@
 
 #include <QPointer>
 
+#include <functional>
 #include <optional>
 
 namespace kavela::desktop {
@@ -38,6 +39,10 @@ public:
     /// Opens a team or a selection; false, after an alert, when it cannot be opened.
     bool openTeam(const QString& path);
     bool openSelection(const QString& path);
+    bool openPlanning(const QString& path);
+    bool openTests(const QString& path);
+    /// Opens the planning that the preferences name, where they ask for one.
+    void loadPlanningAtStart();
     /// Opens what an earlier session left unsaved, each after asking.
     void offerRecovery();
 
@@ -53,9 +58,15 @@ private:
     void chooseFilms();
     void chooseTeam();
     void chooseSelection();
+    void choosePlanning();
+    void loadOnlinePlanning();
+    void chooseTests();
     /// Asks for a file to open; a name that is not there yet begins a new one. Empty for none.
     [[nodiscard]] QString chooseFile(const QString& title, const QString& kind,
                                      const QString& suffix) const;
+    /// Opens a chosen file, or begins a new one where there is none of that name yet.
+    template <class Window>
+    void chooseEditor(const QString& path, const std::function<void(Window&)>& begin);
     template <class Window>
     bool openEditor(const QString& path);
     /// Shows a window that edits a file, and follows what it asks for.

@@ -42,6 +42,7 @@ int main(int argc, char** argv) {
     if (!files.isEmpty())
         program.openAll(files);
     program.offerRecovery();
+    program.loadPlanningAtStart();
     if (!program.hasWindows() && (!files.isEmpty() || !program.restoreSession()))
         program.showHome();
     return QApplication::exec();
