@@ -54,8 +54,8 @@ protected:
     /// What to tell when the file cannot be written.
     [[nodiscard]] virtual std::string failure() const { return "Failed to create file"; }
 
-    /// Asks before a file that exists is replaced, where that needs a question; by default only when
-    /// another program changed it since it was read.
+    /// Asks before a file that exists is replaced, where that needs a question; by default only
+    /// when another program changed it since it was read.
     [[nodiscard]] virtual bool mayReplace(bool isChangedOnDisk, QWidget* over) const;
     [[nodiscard]] bool mayOverwrite(QWidget* over) const;
 

@@ -23,7 +23,7 @@ namespace kavela::desktop {
 
 namespace {
 
-constexpr int TilesInRow = 4;
+constexpr int TilesInRow = 3;
 
 QLabel* label(const QString& text, const QFont& font) {
     auto* made = new QLabel(text);

@@ -7,7 +7,7 @@
 namespace kavela::desktop {
 
 namespace {
-constexpr int Width = 320;
+constexpr int Width = 300;
 constexpr int Height = 104;
 constexpr int IconSize = 40;
 constexpr int Radius = 8;

@@ -101,7 +101,7 @@ void SessionDialog::makeFields() {
     auto* form = new QFormLayout;
     form->setSpacing(theme::Spacing);
     form->addRow(tr("&Title"), m_title);
-    form->addRow(tr("&When"), when);
+    form->addRow(tr("When"), when);
     form->addRow(tr("&Place"), m_place);
     form->addRow(tr("&Description"), m_description);
     form->addRow(m_faults);
