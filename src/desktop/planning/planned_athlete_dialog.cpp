@@ -1,6 +1,6 @@
 #include "desktop/planning/planned_athlete_dialog.h"
 
-#include "desktop/charts/chart_colours.h"
+#include "desktop/shell/fault_label.h"
 #include "desktop/shell/theme.h"
 
 #include <QDialogButtonBox>
@@ -36,15 +36,10 @@ PlannedAthleteDialog::PlannedAthleteDialog(const athletesplanning_v6& athlete, Q
       m_phone(new QLineEdit(QString::fromStdString(athlete.phone))),
       m_categories(new QLineEdit(categoriesText(athlete.categories))),
       m_picture(new QLabel),
-      m_fault(new QLabel) {
+      m_fault(new FaultLabel) {
     setWindowTitle(tr("Athlete"));
     m_name->setObjectName("name");
     m_categories->setPlaceholderText("K1W, C1W");
-    m_fault->setWordWrap(true);
-    m_fault->hide();
-    QPalette colours = m_fault->palette();
-    colours.setColor(QPalette::WindowText, missedColour(palette()));
-    m_fault->setPalette(colours);
     auto* choose = new QPushButton(tr("&Picture…"));
     auto* remove = new QPushButton(tr("&No picture"));
     connect(choose, &QPushButton::clicked, this, [this] {
@@ -96,11 +91,10 @@ bool PlannedAthleteDialog::takePicture(const QString& path) {
     const QByteArray bytes = isOpen ? file.readAll() : QByteArray();
     QPixmap picture;
     if (!picture.loadFromData(bytes)) {
-        m_fault->setText(tr("The file is no picture, cannot be read, or is larger than 8 MB."));
-        m_fault->show();
+        m_fault->tell(tr("The file is no picture, cannot be read, or is larger than 8 MB."));
         return false;
     }
-    m_fault->hide();
+    m_fault->tell({});
     m_athlete.photo.bytes.assign(bytes.begin(), bytes.end());
     showPicture();
     return true;
@@ -125,8 +119,7 @@ void PlannedAthleteDialog::accept() {
         QDialog::accept();
         return;
     }
-    m_fault->setText(tr("The athlete needs a name."));
-    m_fault->show();
+    m_fault->tell(tr("The athlete needs a name."));
     m_name->setFocus();
 }
 

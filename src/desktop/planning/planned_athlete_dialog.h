@@ -9,6 +9,8 @@ class QLineEdit;
 
 namespace kavela::desktop {
 
+class FaultLabel;
+
 /// Who an athlete of a planning is: name, contact, categories, picture.
 class PlannedAthleteDialog : public QDialog {
     Q_OBJECT
@@ -32,7 +34,7 @@ private:
     QLineEdit* m_phone;
     QLineEdit* m_categories;
     QLabel* m_picture;
-    QLabel* m_fault;
+    FaultLabel* m_fault;
 };
 
 } // namespace kavela::desktop

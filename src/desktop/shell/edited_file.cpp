@@ -91,6 +91,13 @@ bool EditedFile::mayReplace(bool isChangedOnDisk, QWidget* over) const {
         tr("Save all the same"), over);
 }
 
+void EditedFile::tellUnreadable(const QString& path, const std::string& reason,
+                                QWidget* over) const {
+    m_workspace.log()(path.toStdString() + ": " + reason);
+    m_workspace.showAlert(
+        {tr("“%1” cannot be opened").arg(QFileInfo(path).fileName()).toStdString(), reason}, over);
+}
+
 bool EditedFile::write(const QString& path, QWidget* over) {
     std::string reason;
     try {

@@ -59,6 +59,9 @@ protected:
     [[nodiscard]] virtual bool mayReplace(bool isChangedOnDisk, QWidget* over) const;
     [[nodiscard]] bool mayOverwrite(QWidget* over) const;
 
+    /// Tells that a file could not be opened, and why.
+    void tellUnreadable(const QString& path, const std::string& reason, QWidget* over) const;
+
     /// A document is open under a path that may not exist yet. Unsaved work is offered.
     void begin(const QString& path, QWidget* over);
     void keepSoon();

@@ -23,9 +23,7 @@ bool TeamDocument::open(const QString& path, QWidget* over) {
                      .arg(QString::fromStdString(error.what()))
                      .toStdString();
     }
-    workspace().log()(path.toStdString() + ": " + reason);
-    workspace().showAlert(
-        {tr("“%1” cannot be opened").arg(QFileInfo(path).fileName()).toStdString(), reason}, over);
+    tellUnreadable(path, reason, over);
     return false;
 }
 

@@ -1,6 +1,6 @@
 #include "desktop/planning/online/online_dialog.h"
 
-#include "desktop/charts/chart_colours.h"
+#include "desktop/shell/fault_label.h"
 #include "desktop/shell/theme.h"
 #include "desktop/shell/workspace.h"
 
@@ -38,7 +38,7 @@ OnlineDialog::OnlineDialog(Workspace& workspace, const QString& purpose, QWidget
       m_folder(new QLineEdit),
       m_user(new QLineEdit),
       m_password(new QLineEdit),
-      m_fault(new QLabel) {
+      m_fault(new FaultLabel) {
     setWindowTitle(purpose);
     for (const std::string& entry : workspace.preferences().array(EntriesKey))
         m_entry->addItem(QString::fromStdString(entry));
@@ -48,11 +48,6 @@ OnlineDialog::OnlineDialog(Workspace& workspace, const QString& purpose, QWidget
     m_folder->setPlaceholderText("https://cloud.example.org/plans/");
     m_user->setText(address.user);
     m_password->setEchoMode(QLineEdit::Password);
-    m_fault->setWordWrap(true);
-    m_fault->hide();
-    QPalette colours = m_fault->palette();
-    colours.setColor(QPalette::WindowText, missedColour(palette()));
-    m_fault->setPalette(colours);
     auto* note = new QLabel(tr("Any server that stores files by WebDAV will do. The password is "
                                "asked for each time and stored nowhere."));
     note->setFont(theme::captionFont(*this));
@@ -87,8 +82,7 @@ void OnlineDialog::accept() {
     const QString fault =
         m_entry->count() == 0 ? tr("The settings name no shared planning.") : address().fault();
     if (!fault.isEmpty()) {
-        m_fault->setText(fault);
-        m_fault->show();
+        m_fault->tell(fault);
         return;
     }
     m_workspace.remember(AddressKey,

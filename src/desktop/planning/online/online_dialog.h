@@ -5,10 +5,11 @@
 #include <QDialog>
 
 class QComboBox;
-class QLabel;
 class QLineEdit;
 
 namespace kavela::desktop {
+
+class FaultLabel;
 
 class Workspace;
 
@@ -31,7 +32,7 @@ private:
     QLineEdit* m_folder;
     QLineEdit* m_user;
     QLineEdit* m_password;
-    QLabel* m_fault;
+    FaultLabel* m_fault;
 };
 
 /// The address as it was entered last, without a password; nothing when none was.

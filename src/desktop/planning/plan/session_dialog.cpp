@@ -1,7 +1,7 @@
 #include "desktop/planning/plan/session_dialog.h"
 
-#include "desktop/charts/chart_colours.h"
 #include "desktop/planning/plan/week_texts.h"
+#include "desktop/shell/fault_label.h"
 #include "desktop/shell/theme.h"
 #include "planning/calendar_day.h"
 #include "planning/training_categories.h"
@@ -15,7 +15,6 @@
 #include <QDoubleSpinBox>
 #include <QFormLayout>
 #include <QGroupBox>
-#include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QTimeEdit>
@@ -73,7 +72,7 @@ SessionDialog::SessionDialog(const sessioninmicro_v5& session, sys_days firstDay
       m_title(lineWith(titles)),
       m_place(lineWith(places)),
       m_description(new QPlainTextEdit),
-      m_faults(new QLabel) {
+      m_faults(new FaultLabel) {
     setWindowTitle(tr("Training session"));
     makeFields();
     showSession();
@@ -91,7 +90,6 @@ void SessionDialog::makeFields() {
     m_zone->setMinimumContentsLength(14);
     m_description->setTabChangesFocus(true);
     m_description->setFixedHeight(4 * fontMetrics().lineSpacing() + theme::LargeSpacing);
-    m_faults->setWordWrap(true);
     connect(m_hasTime, &QCheckBox::toggled, m_time, &QWidget::setEnabled);
     auto* when = new QHBoxLayout;
     when->addWidget(m_day, 1);
@@ -161,11 +159,7 @@ void SessionDialog::showSession() {
     m_title->setText(titleOf(m_session));
     m_place->setText(QString::fromStdString(m_session.trainingplace));
     m_description->setPlainText(descriptionOf(m_session));
-    m_faults->setText(sessionFaults(m_session));
-    m_faults->setVisible(!m_faults->text().isEmpty());
-    QPalette colours = m_faults->palette();
-    colours.setColor(QPalette::WindowText, missedColour(palette()));
-    m_faults->setPalette(colours);
+    m_faults->tell(sessionFaults(m_session));
 }
 
 sys_days SessionDialog::chosenDay() const {

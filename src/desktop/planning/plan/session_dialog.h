@@ -9,12 +9,13 @@
 class QCheckBox;
 class QComboBox;
 class QDoubleSpinBox;
-class QLabel;
 class QLineEdit;
 class QPlainTextEdit;
 class QTimeEdit;
 
 namespace kavela::desktop {
+
+class FaultLabel;
 
 /// A training session: when, where, what, and how much of each training category. What a file holds
 /// beyond the fields stays as it is.
@@ -45,7 +46,7 @@ private:
     QLineEdit* m_title;
     QLineEdit* m_place;
     QPlainTextEdit* m_description;
-    QLabel* m_faults;
+    FaultLabel* m_faults;
     std::vector<QDoubleSpinBox*> m_values;
     int m_shownDay = 0; ///< as the dialog opened, to tell what the coach changed
     QString m_shownZone;

@@ -1,7 +1,7 @@
 #include "desktop/planning/plan/week_form.h"
 
-#include "desktop/charts/chart_colours.h"
 #include "desktop/planning/plan/week_texts.h"
+#include "desktop/shell/fault_label.h"
 #include "desktop/shell/theme.h"
 #include "planning/calendar_day.h"
 #include "planning/health_states.h"
@@ -78,12 +78,11 @@ WeekForm::WeekForm(QWidget* parent)
     : QWidget(parent),
       m_title(new QLabel),
       m_note(new QLabel),
-      m_faults(new QLabel),
+      m_faults(new FaultLabel),
       m_body(new QWidget) {
     m_title->setFont(theme::titleFont(*this));
     m_note->setFont(theme::captionFont(*this));
     m_note->setWordWrap(true);
-    m_faults->setWordWrap(true);
     auto* form = new QFormLayout(m_body);
     form->setContentsMargins(0, 0, 0, 0);
     form->setSpacing(theme::SmallSpacing);
@@ -281,12 +280,7 @@ void WeekForm::showHead(const microsplanning_v5& week) {
     m_note->setText(tr("%1 weeks are chosen: load, cycles and place go into all of them.")
                         .arg(m_block.count()));
     m_note->setVisible(m_block.count() > 1);
-    const QString faults = weekFaults(week);
-    m_faults->setText(faults.isEmpty() ? QString() : "⚠ " + faults);
-    m_faults->setVisible(!faults.isEmpty());
-    QPalette colours = m_faults->palette();
-    colours.setColor(QPalette::WindowText, missedColour(palette()));
-    m_faults->setPalette(colours);
+    m_faults->tell(weekFaults(week));
 }
 
 void WeekForm::setWeek(const yearsplannings_v6* season, const WeekBlock& block) {

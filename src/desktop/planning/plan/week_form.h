@@ -16,6 +16,8 @@ class QPlainTextEdit;
 
 namespace kavela::desktop {
 
+class FaultLabel;
+
 /// What a week is for, beside its sessions. Each field is written when it is left and was changed.
 /// Load, cycles and place go into every chosen week, the rest into the one shown.
 class WeekForm : public QWidget {
@@ -62,7 +64,7 @@ private:
     const yearsplannings_v6* m_season = nullptr; ///< only while a week is being shown
     QLabel* m_title;
     QLabel* m_note;
-    QLabel* m_faults;
+    FaultLabel* m_faults;
     QWidget* m_body;
 };
 
