@@ -36,7 +36,7 @@ void logFailure(const Conversion& conversion, const DiagnosticLog& log) {
 
 /// The recording as a processed session; nothing, with the reason in `result`, when it is none.
 std::optional<smartAlldata_v4> processed(const fs::path& source, const DiagnosticLog& log,
-                                         ProfileOf profile, Conversion& result) {
+                                         const ProfileOf& profile, Conversion& result) {
     try {
         const bmrawdata_v5 session = readRawSession(source);
         log(conversion_messages::Count + source.filename().string() + ' ' +
@@ -93,7 +93,7 @@ std::string Conversion::message() const {
 }
 
 Conversion convertRecording(const fs::path& source, const fs::path& target,
-                            const DiagnosticLog& log, ProfileOf profile) {
+                            const DiagnosticLog& log, const ProfileOf& profile) {
     Conversion result;
     result.target = target;
     if (isTaken(target)) {

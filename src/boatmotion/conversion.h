@@ -4,6 +4,7 @@
 #include "common/log.h"
 
 #include <filesystem>
+#include <functional>
 
 /// From a raw recording to a processed session.
 namespace kavela {
@@ -48,13 +49,14 @@ struct Conversion {
 };
 
 /// How a recording's own athlete information becomes a profile.
-using ProfileOf = MotionProfile (*)(const infoathlete_v5& athlete);
+using ProfileOf = std::function<MotionProfile(const infoathlete_v5& athlete)>;
 
 /// Converts a recording into a file that must not exist yet; the recording itself is never touched.
 /// Failures are in the result, and in the log with their reason.
 [[nodiscard]] Conversion convertRecording(const std::filesystem::path& source,
                                           const std::filesystem::path& target,
-                                          const DiagnosticLog& log, ProfileOf profile = profileOf);
+                                          const DiagnosticLog& log,
+                                          const ProfileOf& profile = profileOf);
 
 /// Where a recording is converted to: beside it as NAME_postv5.bms, or under a name of the coach's
 /// own, with the extension .bms unless it has it. Throws std::invalid_argument for a name that is

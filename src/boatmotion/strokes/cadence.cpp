@@ -24,7 +24,7 @@ constexpr double ShareOfGreatest = 0.8;
 using Correlations = std::array<float, LastLag + 1>;
 
 float product(const float* a, const float* b, std::size_t count) {
-    // Four sums of their own let the compiler use vectors without reordering a single one.
+    // Eight sums side by side are what the compiler can turn into vectors.
     std::array<float, 8> sums{};
     std::size_t i = 0;
     for (; i + 8 <= count; i += 8)

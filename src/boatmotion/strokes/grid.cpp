@@ -14,6 +14,7 @@ constexpr double StandardGravity = 9.80665; // m/s²
 constexpr double LongestBridge = 0.30;      // s, over which values are interpolated
 constexpr double LongestHole = 2.0;         // s, that is kept at its length
 constexpr double ShortestStretch = 0.2;     // s, of samples without a hole
+constexpr std::size_t FewestSamples = 5;    // in it
 constexpr double GreatestAcceleration = 50; // g
 constexpr double GreatestRotation = 100;    // rad/s
 constexpr double GreatestStamp = 1e11;      // s, three thousand years
@@ -195,7 +196,7 @@ public:
     void build() {
         for (std::size_t begin = 0; begin < m_samples.size();) {
             const std::size_t end = endOfStretch(begin);
-            if (timeAt(end - 1) - timeAt(begin) >= ShortestStretch)
+            if (end - begin >= FewestSamples && timeAt(end - 1) - timeAt(begin) >= ShortestStretch)
                 addStretch(begin, end);
             begin = end;
         }
