@@ -17,6 +17,8 @@ void addTeam(CLI::App& app, int& status);
 void addSelection(CLI::App& app, int& status);
 void addPlanning(CLI::App& app, int& status);
 void addGym(CLI::App& app, int& status);
+void addConvert(CLI::App& app, int& status);
+void addStrokes(CLI::App& app, int& status);
 void addDemo(CLI::App& app, int& status);
 
 } // namespace kavela::cli

@@ -33,6 +33,8 @@ int run(int argc, char** argv) {
     cli::addSelection(app, status);
     cli::addPlanning(app, status);
     cli::addGym(app, status);
+    cli::addConvert(app, status);
+    cli::addStrokes(app, status);
     cli::addDemo(app, status);
     try {
         app.parse(argc, argv);
