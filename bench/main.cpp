@@ -16,6 +16,7 @@ int main(int count, char** words) {
     addSplitTable();
     addShowCommand();
     addVideo();
+    addMotionAnalysis();
     ValueReporter reporter;
     benchmark::RunSpecifiedBenchmarks(&reporter);
     return printRatios(reporter.values()) > 0 ? 1 : 0;

@@ -70,6 +70,9 @@ constexpr std::array Lines{
     Line{"Ten steps back", Milliseconds, "video/back/kavela"},
     Line{"  … faster than OpenCV", Times, "video/back/opencv", "video/back/kavela"},
     Line{"Frame to picture, 1080p", Milliseconds, "video/picture"},
+    Line{"Strokes of an hour at 100 samples a second", Milliseconds, "motion/analysis"},
+    Line{"  … of the time to decode it", Times, "motion/analysis", "motion/decode", Target::AtMost,
+         0.15},
 };
 
 /// The value of a line from the medians, or from the best ("#best") of the repetitions.

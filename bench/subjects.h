@@ -11,5 +11,6 @@ void addSeason();
 void addSplitTable();
 void addShowCommand();
 void addVideo();
+void addMotionAnalysis();
 
 } // namespace kavela::bench

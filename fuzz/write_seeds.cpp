@@ -106,6 +106,7 @@ int main(int count, char** words) {
     seeds.add<splittakerdata031>("split_document", "splittakerdata031");
     seeds.add<bmrawdata_v4>("raw_session", "bmrawdata_v4");
     seeds.add<bmrawdata_v5>("raw_session", "bmrawdata_v5");
+    seeds.add<bmrawdata_v5>("stroke_analysis", "bmrawdata_v5");
     seeds.add<smartAlldata>("smart_session", "smartAlldata");
     seeds.add<smartAlldata_v3>("smart_session", "smartAlldata_v3");
     seeds.add<smartAlldata_v4>("smart_session", "smartAlldata_v4");
