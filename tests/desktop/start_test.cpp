@@ -1,0 +1,120 @@
+#include "desktop/desktop.h"
+
+#include "common/recorders.h"
+#include "common/temp_folder.h"
+#include "desktop/planning/planning_window.h"
+#include "desktop/selection/selection_window.h"
+#include "desktop/shell/edited_file.h"
+#include "desktop/team/team_window.h"
+#include "desktop/watertests/tests_window.h"
+
+#include <gmock/gmock.h>
+
+#include <QFile>
+#include <QSignalSpy>
+#include <QUrl>
+
+namespace kavela::test {
+namespace {
+
+namespace fs = std::filesystem;
+using desktop::Autosave;
+using desktop::Desktop;
+using desktop::EditorWindow;
+using desktop::Workspace;
+using ::testing::IsEmpty;
+using ::testing::SizeIs;
+
+class StartTest : public ::testing::Test {
+protected:
+    StartTest() { m_workspace.setAlerts(&m_recorder); }
+
+    QString copied(const char* example) const {
+        const fs::path from = fs::path(KAVELA_EXAMPLES) / example;
+        fs::copy_file(from, m_folder.path() / from.filename(),
+                      fs::copy_options::overwrite_existing);
+        return QString::fromStdString((m_folder.path() / from.filename()).string());
+    }
+
+    [[nodiscard]] Autosave autosave() const {
+        return Autosave(QString::fromStdString((m_folder.path() / "kept").string()));
+    }
+
+    TempFolder m_folder;
+    Recorder m_recorder;
+    Workspace m_workspace{Preferences(m_folder.path() / "preferences.ini"), m_recorder.log(),
+                          [] { return ReferenceDate{8e8}; }};
+};
+
+struct Case {
+    const char* name;
+    const char* example;
+    std::function<bool(const EditorWindow*)> isItsTool;
+};
+
+template <class Window>
+Case tool(const char* name, const char* example) {
+    return {name, example, [](const EditorWindow* window) {
+                return qobject_cast<const Window*>(window) != nullptr;
+            }};
+}
+
+TEST_F(StartTest, OpensEachFileInItsToolWhateverItIsCalledAndAgainAtTheNextStart) {
+    const std::vector<Case> cases{
+        tool<desktop::TeamWindow>("team", "team/kavela_team.kvteam"),
+        tool<desktop::SelectionWindow>("selection", "selection/spring_selection.kvsr"),
+        tool<desktop::PlanningWindow>("planning", "planning/season.planning"),
+        tool<desktop::TestsWindow>("tests", "tests/form_tests.kvtest")};
+    for (const Case& each : cases) {
+        SCOPED_TRACE(each.name);
+        const QString renamed =
+            QString::fromStdString((m_folder.path() / each.name).string()) + ".json";
+        ASSERT_TRUE(QFile::rename(copied(each.example), renamed));
+        {
+            Desktop program(m_workspace, autosave());
+            program.open(renamed);
+            ASSERT_THAT(program.editorWindows(), SizeIs(1));
+            EXPECT_TRUE(each.isItsTool(program.editorWindows().front()));
+        }
+        Desktop next(m_workspace, autosave());
+        EXPECT_TRUE(next.restoreSession());
+        ASSERT_THAT(next.editorWindows(), SizeIs(1));
+        EXPECT_TRUE(each.isItsTool(next.editorWindows().front()));
+    }
+    EXPECT_THAT(m_recorder.alerts, IsEmpty());
+}
+
+TEST_F(StartTest, LoadsThePlanningThatThePreferencesName) {
+    const QString path = copied("planning/season.planning");
+    const auto windowsWith = [&](bool isOn, const QString& file) {
+        m_workspace.setPreference("autoloadPlanning", isOn);
+        m_workspace.setPreference(
+            "autoloadPlanningURL",
+            PreferenceUrl{QUrl::fromLocalFile(file).toString().toStdString()});
+        Desktop program(m_workspace, autosave());
+        program.loadPlanningAtStart();
+        return program.editorWindows().size();
+    };
+    EXPECT_EQ(windowsWith(false, path), 0);
+    EXPECT_EQ(windowsWith(true, path), 1);
+    EXPECT_THAT(m_recorder.alerts, IsEmpty());
+    EXPECT_EQ(windowsWith(true, path + ".gone"), 0);
+    EXPECT_THAT(m_recorder.alerts, SizeIs(1));
+}
+
+TEST_F(StartTest, OffersAnOnlinePlanningAtStartOnlyFromASafeAddress) {
+    m_workspace.setPreference("autoloadPlanning", true);
+    m_workspace.setPreference("autoloadPlanningOnline", true);
+    m_workspace.remember("onlinePlanningAddress", {"http://127.0.0.1:1/plans", "", "Team"});
+    Desktop program(m_workspace, autosave());
+    program.loadPlanningAtStart();
+    ASSERT_THAT(program.editorWindows(), SizeIs(1));
+    QSignalSpy loaded(qobject_cast<desktop::PlanningWindow*>(program.editorWindows().front()),
+                      &desktop::PlanningWindow::onlineLoaded);
+    ASSERT_TRUE(loaded.wait());
+    EXPECT_FALSE(loaded.front().front().toBool());
+    EXPECT_THAT(m_recorder.alerts, SizeIs(1));
+}
+
+} // namespace
+} // namespace kavela::test
