@@ -1,5 +1,7 @@
 #pragma once
 
+#include "common/refused_line.h"
+
 #include <charconv>
 #include <cstdint>
 #include <string>
@@ -9,14 +11,6 @@
 
 /// Semicolon-separated lists that people and spreadsheets write.
 namespace kavela {
-
-/// A line of a list that could not be taken.
-struct RefusedLine {
-    std::int64_t line = 0; ///< counted from 1, the titles included
-    std::string reason;
-
-    friend bool operator==(const RefusedLine&, const RefusedLine&) = default;
-};
 
 /// A line with something on it, its fields without blanks around them and without the quotes that
 /// spreadsheets put around a field.
