@@ -1,0 +1,79 @@
+#include "desktop/charts/sensor_series.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+namespace kavela::desktop {
+
+namespace {
+
+constexpr double JoinedGap = 2; ///< seconds
+constexpr double ThinGap = 2.5; ///< of the usual interval of a thin series
+
+} // namespace
+
+double joinedGap(const std::vector<double>& times) {
+    // A few hundred intervals from all over tell the usual one.
+    constexpr std::size_t Looks = 255;
+    if (times.size() < 2)
+        return JoinedGap;
+    std::array<double, Looks> intervals{};
+    for (std::size_t i = 0; i < Looks; ++i) {
+        const std::size_t at = i * (times.size() - 2) / (Looks - 1);
+        intervals[i] = times[at + 1] - times[at];
+    }
+    std::ranges::nth_element(intervals, intervals.begin() + Looks / 2);
+    return std::max(JoinedGap, ThinGap * intervals[Looks / 2]);
+}
+
+std::optional<std::size_t> sampleAt(const SensorSeries& series, double time) {
+    const std::vector<double>& times = *series.times;
+    if (times.empty() || !std::isfinite(time))
+        return std::nullopt;
+    const double wanted = time - series.offset;
+    auto nearest = std::ranges::lower_bound(times, wanted);
+    if (nearest == times.end() ||
+        (nearest != times.begin() && wanted - *std::prev(nearest) < *nearest - wanted))
+        --nearest;
+    const auto index = static_cast<std::size_t>(nearest - times.begin());
+    if (std::abs(*nearest - wanted) > joinedGap(times) / 2 ||
+        !std::isfinite((*series.values)[index]))
+        return std::nullopt;
+    return index;
+}
+
+std::optional<double> valueAt(const SensorSeries& series, double time) {
+    const auto index = sampleAt(series, time);
+    return index ? std::optional((*series.values)[*index]) : std::nullopt;
+}
+
+QString sensorText(double value) {
+    const double size = std::abs(value);
+    QString text;
+    if (size >= 1e6 || (size > 0 && size < 0.005))
+        text = QString::number(value, 'g', size < 1 ? 1 : 4);
+    else
+        text = QString::number(value, 'f', size >= 100 ? 0 : size >= 10 ? 1 : 2);
+    return text.replace(QLatin1Char('-'), QChar(0x2212));
+}
+
+QString momentText(double seconds, int decimals) {
+    if (!std::isfinite(seconds) || std::abs(seconds) > 1e12)
+        return QStringLiteral("–");
+    const double scale = std::pow(10, decimals);
+    const auto parts = std::llround(std::abs(seconds) * scale); // so that 59.999 is no "0:60.00"
+    const auto whole = parts / static_cast<long long>(scale);
+    QString text = seconds < 0 && parts > 0 ? QStringLiteral("-") : QString();
+    if (whole >= 3600)
+        text += QStringLiteral("%1:%2").arg(whole / 3600).arg(whole / 60 % 60, 2, 10, QChar('0'));
+    else
+        text += QString::number(whole / 60);
+    text += QStringLiteral(":%1").arg(whole % 60, 2, 10, QChar('0'));
+    if (decimals > 0)
+        text += QStringLiteral(".%1").arg(parts % static_cast<long long>(scale), decimals, 10,
+                                          QChar('0'));
+    return text;
+}
+
+} // namespace kavela::desktop
