@@ -1,0 +1,55 @@
+#pragma once
+
+#include "boatmotion/imports/sensor_csv.h"
+
+#include <QDialog>
+
+class QComboBox;
+class QLabel;
+class QPushButton;
+class QTableWidget;
+
+namespace kavela::desktop {
+
+class CsvReading;
+class CsvUnitsForm;
+
+/// How a list of samples is to be read: its first lines with a choice over each column, units, and
+/// what the whole list gives, read again after each change.
+class CsvMappingDialog : public QDialog {
+    Q_OBJECT
+
+public:
+    explicit CsvMappingDialog(SensorCsv csv, QWidget* parent = nullptr);
+    ~CsvMappingDialog() override;
+
+    [[nodiscard]] CsvMapping mapping() const;
+
+    /// What was read, once the dialog was accepted; the dialog has none afterwards.
+    [[nodiscard]] CsvImport takeImport();
+
+private:
+    void layOut();
+    void showMapping(const CsvMapping& mapping);
+    void fillTable();
+    void fitColumns();
+    [[nodiscard]] QComboBox* columnChoice(CsvQuantity quantity);
+    void readAgain();
+    void tellResult();
+    void tellFault(const QString& fault);
+    void proposeStart();
+
+    CsvReading* m_reading;
+    CsvUnitsForm* m_units;
+    QTableWidget* m_table;
+    QLabel* m_result;
+    QLabel* m_details;
+    QPushButton* m_import = nullptr;
+    CsvMapping m_shown; ///< as it was guessed for the present separator
+    std::vector<QComboBox*> m_choices;
+};
+
+/// "12,345 samples, 100 per second, 2 min 3 s", with positions and heart rates where there are any.
+[[nodiscard]] QString importText(const CsvImport& import);
+
+} // namespace kavela::desktop

@@ -1,0 +1,149 @@
+#include "common/recorders.h"
+#include "common/temp_folder.h"
+#include "desktop/imports/csv_mapping_dialog.h"
+#include "desktop/imports/import_files.h"
+
+#include <fmt/format.h>
+#include <gmock/gmock.h>
+
+#include <QApplication>
+#include <QComboBox>
+#include <QDateTimeEdit>
+#include <QLabel>
+#include <QPushButton>
+#include <QTableWidget>
+#include <QTest>
+#include <QTimer>
+
+namespace kavela::test {
+namespace {
+
+using desktop::CsvMappingDialog;
+using desktop::ImportedFile;
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+using testing::SizeIs;
+
+/// Two minutes and three seconds of a phone that lies still, 100 lines a second.
+std::string longList(const char* separator = ",") {
+    std::string text = fmt::format("time{0}ax{0}ay{0}az{0}heart\n", separator);
+    for (int i = 0; i <= 12300; ++i)
+        text += fmt::format("{1}.{2:02}{0}0{0}0{0}9.8{0}\n", separator, i / 100, i % 100);
+    return text;
+}
+
+class ImportsTest : public testing::Test {
+protected:
+    std::string add(const char* name, const std::string& content) {
+        return m_folder.add(name, content).string();
+    }
+    static QPushButton* importButton(const QDialog& dialog) {
+        for (auto* button : dialog.findChildren<QPushButton*>())
+            if (button->text() == "Import")
+                return button;
+        return nullptr;
+    }
+    static QString resultOf(const QDialog& dialog) {
+        return dialog.findChild<QLabel*>("result")->text();
+    }
+    static QComboBox* choiceOver(const QDialog& dialog, int column) {
+        auto* table = dialog.findChild<QTableWidget*>("preview");
+        return qobject_cast<QComboBox*>(table->cellWidget(0, column));
+    }
+    /// Waits until the list was read.
+    static void waitForResult(const QDialog& dialog) {
+        ASSERT_TRUE(QTest::qWaitFor([&] { return resultOf(dialog) != "Reading…"; }));
+    }
+    /// Does something in the dialog that is about to open.
+    static void inDialog(std::function<void(CsvMappingDialog&)> act) {
+        QTimer::singleShot(0, [act = std::move(act)] {
+            auto* dialog = qobject_cast<CsvMappingDialog*>(QApplication::activeModalWidget());
+            ASSERT_TRUE(dialog);
+            waitForResult(*dialog);
+            act(*dialog);
+        });
+    }
+
+    TempFolder m_folder;
+    Recorder m_recorder;
+};
+
+TEST_F(ImportsTest, TheDialogTellsWhatTheListGives) {
+    CsvMappingDialog dialog(SensorCsv(add("run.csv", longList())));
+    EXPECT_FALSE(importButton(dialog)->isEnabled());
+    waitForResult(dialog);
+    EXPECT_EQ(resultOf(dialog), "This gives 12,301 samples, 100 per second, 2 min 3 s.");
+    EXPECT_TRUE(importButton(dialog)->isEnabled());
+    auto* table = dialog.findChild<QTableWidget*>("preview");
+    EXPECT_EQ(table->rowCount(), 21);
+    EXPECT_EQ(table->item(3, 0)->text(), "0.02");
+    EXPECT_EQ(choiceOver(dialog, 3)->currentText(), "Acc. z with gravity");
+    EXPECT_EQ(dialog.findChild<QComboBox*>("acceleration")->currentText(), "m/s²");
+    EXPECT_THAT(dialog.findChild<QLabel*>("details")->text().toStdString(),
+                HasSubstr("low-pass of 0.3 Hz"));
+    EXPECT_THAT(dialog.takeImport().session.boatmotion, SizeIs(12301));
+}
+
+TEST_F(ImportsTest, ChangesAreReadAtOnce) {
+    CsvMappingDialog dialog(SensorCsv(add("run.csv", longList())));
+    choiceOver(dialog, 2)->setCurrentIndex(0);
+    EXPECT_EQ(resultOf(dialog), "Of the acceleration with gravity all of x, y and z are needed.");
+    QTest::qWait(50); // the reading that was given up tells nothing any more
+    EXPECT_FALSE(importButton(dialog)->isEnabled());
+    choiceOver(dialog, 2)->setCurrentIndex(static_cast<int>(CsvQuantity::TotalY));
+    dialog.findChild<QComboBox*>("time")->setCurrentIndex(static_cast<int>(CsvTime::Milliseconds));
+    waitForResult(dialog);
+    EXPECT_EQ(resultOf(dialog), "This gives 12,301 samples, 100,000 per second, 0.1 s.");
+}
+
+TEST_F(ImportsTest, AnotherSeparatorGuessesAnew) {
+    CsvMappingDialog dialog(SensorCsv(add("run.csv", longList(";"))));
+    auto* separator = dialog.findChild<QComboBox*>("separator");
+    EXPECT_EQ(separator->currentText(), "Semicolon");
+    separator->setCurrentIndex(2);
+    EXPECT_EQ(resultOf(dialog), "No column is the time.");
+    separator->setCurrentIndex(1);
+    waitForResult(dialog);
+    EXPECT_THAT(resultOf(dialog).toStdString(), HasSubstr("12,301 samples"));
+}
+
+TEST_F(ImportsTest, AListWithoutDatesBeginsWhenTheCoachSays) {
+    CsvMappingDialog dialog(SensorCsv(add("run.csv", longList())));
+    waitForResult(dialog);
+    auto* start = dialog.findChild<QDateTimeEdit*>("start");
+    EXPECT_TRUE(start->isEnabled());
+    EXPECT_NEAR(static_cast<double>(start->dateTime().secsTo(QDateTime::currentDateTime())), 123, 5)
+        << "the file was written at its end";
+    start->setDateTime(QDateTime::fromString("2026-05-07T10:02:00Z", Qt::ISODate).toLocalTime());
+    waitForResult(dialog);
+    EXPECT_EQ(dialog.takeImport().session.info.date.seconds, 799840920);
+}
+
+TEST_F(ImportsTest, FilesBecomeTracksAndRecordings) {
+    const std::string gpx = "<gpx><trkpt lat=\"47\" lon=\"8\"><time>2026-05-07T10:02:00Z</time>"
+                            "</trkpt><trkpt lat=\"47\" lon=\"8\"/></gpx>";
+    const QStringList paths{QString::fromStdString(add("a.gpx", gpx)),
+                            QString::fromStdString(add("b.csv", longList()))};
+    inDialog([](CsvMappingDialog& dialog) { dialog.accept(); });
+    const std::vector<ImportedFile> files = desktop::importFiles(paths, m_recorder, nullptr);
+    ASSERT_THAT(files, SizeIs(2));
+    EXPECT_THAT(std::get<ImportedTrack>(files[0].content).gps, SizeIs(1));
+    EXPECT_THAT(std::get<bmrawdata_v5>(files[1].content).boatmotion, SizeIs(12301));
+    EXPECT_THAT(m_recorder.alerts, ElementsAre(HasSubstr("1 points without a date")));
+}
+
+TEST_F(ImportsTest, CancelledAndDamagedFilesAreLeftOut) {
+    const QStringList paths{
+        QString::fromStdString(add("a.csv", longList())),
+        QString::fromStdString(add("b.fit", std::string("\x0e\x20xxxxxx.FIT", 12))),
+        QString::fromStdString(add("c.csv", "words\n")),
+        QString::fromStdString((m_folder.path() / "none.gpx").string())};
+    inDialog([](CsvMappingDialog& dialog) { dialog.reject(); });
+    EXPECT_THAT(desktop::importFiles(paths, m_recorder, nullptr), IsEmpty());
+    EXPECT_THAT(m_recorder.alerts, ElementsAre(HasSubstr("byte "), HasSubstr("no list of samples"),
+                                               HasSubstr("no such file")));
+}
+
+} // namespace
+} // namespace kavela::test
