@@ -9,6 +9,7 @@
 #include "sample/selection.h"
 #include "sample/team.h"
 #include "sample/tests.h"
+#include "sample/tracks.h"
 #include "sample/training.h"
 
 #include <utility>
@@ -56,6 +57,8 @@ std::vector<SampleFile> sampleSeason() {
     files.push_back({"recordings/upstream_drill.kvb", encode(upstreamDrill())});
     files.push_back({"recordings/sprint_with_watch.kvb", encode(sprintWithWatch())});
     files.push_back({"recordings/old_phone_v4.kvb", encode(oldPhone())});
+    files.push_back({"recordings/watch.gpx", watchTrack()});
+    files.push_back({"recordings/phone_logger.csv", phoneList()});
     files.push_back({"team/kavela_team.kvteam", encode(sampleTeam())});
     files.push_back({"tests/form_tests.kvtest", encode(formTests())});
     files.push_back({"selection/spring_selection.kvsr", encode(springSelection())});

@@ -1,16 +1,20 @@
 #include "sample/training.h"
 
+#include "boatmotion/attachment.h"
 #include "sample/annotations.h"
 #include "sample/recording.h"
 #include "sample/session.h"
 
 #include <algorithm>
+#include <numbers>
+#include <numeric>
 
 namespace kavela::sample {
 
 namespace {
 
 using namespace std::chrono_literals;
+using std::numbers::pi;
 
 /// Seven boats that train together.
 std::vector<Boat> group() {
@@ -42,20 +46,39 @@ std::vector<FilmedRun> paddleLaps(const Course& course, const std::string& prefi
     return runs;
 }
 
-/// Cuts the first seconds of what the sensors recorded on a lap to the run.
-void attachSensors(athletedata031& run, const Course& course, ReferenceDate start) {
-    Recording recording = record({.label = "gate laps",
-                                  .seconds = 6,
-                                  .strokesPerMinute = 78,
-                                  .start = start,
-                                  .clockStart = 5120.5,
-                                  .latitude = course.latitude,
-                                  .longitude = course.longitude,
-                                  .hasWatch = true});
-    run.bm = std::move(recording.boat);
-    run.watchmotion = std::move(recording.watch);
-    run.gps = std::move(recording.gps);
-    run.hr = std::move(recording.heart);
+/// Attaches the part of a recording that belongs to a lap, which the phone began some seconds
+/// before the start and ended after the last mark.
+void attachRecording(athletedata031& run, const Course& course, ReferenceDate start,
+                     double strokesPerMinute, bool hasWatch = false) {
+    const std::vector<double>& times = run.sectioninfo.times;
+    const double seconds = std::accumulate(times.begin(), times.end(), 0.0);
+    constexpr double Lead = 2 * AttachMargin;
+    RecordingPlan plan{.label = run.phase,
+                       .seconds = seconds + 2 * Lead,
+                       .strokesPerMinute = strokesPerMinute,
+                       .start = {start.seconds - Lead},
+                       .clockStart = 5120.5,
+                       .latitude = course.latitude,
+                       .longitude = course.longitude,
+                       .hasWatch = hasWatch};
+    plan.turns = {{Lead + seconds * 0.3, 2.2, pi},
+                  {Lead + seconds * 0.36, 2.3, -pi},
+                  {Lead + seconds * 0.7, 2.1, -pi},
+                  {Lead + seconds * 0.76, 2.4, pi}};
+    Recording recording = record(plan);
+    bmrawdata_v5 session;
+    session.info.date = plan.start;
+    for (std::size_t i = 0; i < recording.boat.size(); i += 2) // an older phone: 25 a second
+        session.boatmotion.push_back(recording.boat[i]);
+    for (std::size_t i = 0; i < recording.watch.size(); i += 2)
+        session.watchmotion.push_back(recording.watch[i]);
+    session.gps = std::move(recording.gps);
+    session.heart = std::move(recording.heart);
+    AttachedPart part = partOf(session, ClockFit{{-Lead, plan.clockStart}}, 0, seconds);
+    run.bm = std::move(part.bm);
+    run.watchmotion = std::move(part.watchmotion);
+    run.gps = std::move(part.gps);
+    run.hr = std::move(part.hr);
 }
 
 } // namespace
@@ -78,7 +101,8 @@ splittakerdata031 gateLaps() {
         noteTags(run.record, footage, session.info.tags, dice);
         session.athletes.push_back(std::move(run.record));
     }
-    attachSensors(session.athletes[1], course, {session.info.date.seconds + 1260});
+    attachRecording(session.athletes[0], course, {session.info.date.seconds + 780}, 80);
+    attachRecording(session.athletes[1], course, {session.info.date.seconds + 1260}, 74, true);
     return session;
 }
 
