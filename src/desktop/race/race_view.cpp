@@ -6,6 +6,7 @@
 #include "desktop/race/best_panels.h"
 #include "desktop/race/column_layout.h"
 #include "desktop/race/frozen_table.h"
+#include "desktop/race/motion_panel.h"
 #include "desktop/race/race_reports.h"
 #include "desktop/race/run_chooser.h"
 #include "desktop/race/run_panel.h"
@@ -150,11 +151,13 @@ QWidget* RaceView::makeSide() {
     m_potential = new PotentialPanel(m_document);
     connect(m_ideal, &IdealPanel::runActivated, this, &RaceView::selectRun);
     connect(m_potential, &PotentialPanel::runActivated, this, &RaceView::selectRun);
+    m_motion = new MotionPanel(m_document);
     m_side = new QTabWidget;
     m_side->setDocumentMode(true);
     m_side->addTab(m_run, tr("&Run"));
     m_side->addTab(m_ideal, tr("I&deal run"));
     m_side->addTab(m_potential, tr("Pote&ntial"));
+    m_side->addTab(m_motion, tr("&Motion"));
     return m_side;
 }
 
@@ -238,6 +241,7 @@ void RaceView::showTable() {
     m_charts->setForeignReferences(m_document.courseReferences());
     m_ideal->refresh();
     m_potential->refresh();
+    m_motion->forget();
     showSelection();
     emit stateChanged();
 }
@@ -253,6 +257,7 @@ void RaceView::showSelection() {
                        m_model.comparisonOfRow(row.row())->values};
     }
     m_charts->setSelection(runs);
+    m_motion->showRuns(runs);
     if (runs.empty()) {
         m_run->showRun(std::nullopt, std::nullopt);
         return;

@@ -18,6 +18,7 @@ namespace kavela::desktop {
 class ChartPanel;
 class FrozenTable;
 class IdealPanel;
+class MotionPanel;
 class PotentialPanel;
 class RunPanel;
 class Workspace;
@@ -39,6 +40,8 @@ public:
     [[nodiscard]] const SplitTableModel& model() const { return m_model; }
     [[nodiscard]] FrozenTable& table() const { return *m_table; }
     [[nodiscard]] ChartPanel& charts() const { return *m_charts; }
+    [[nodiscard]] MotionPanel& motion() const { return *m_motion; }
+    [[nodiscard]] QTabWidget& side() const { return *m_side; }
 
     /// Only the table, as where several races stand side by side.
     void setCompact(bool isCompact);
@@ -92,6 +95,7 @@ private:
     RunPanel* m_run = nullptr;
     IdealPanel* m_ideal = nullptr;
     PotentialPanel* m_potential = nullptr;
+    MotionPanel* m_motion = nullptr;
     QTabWidget* m_side = nullptr;
     ChartPanel* m_charts = nullptr;
     QLabel* m_title = nullptr;

@@ -79,6 +79,8 @@ void TakingActions::makeFileMenu() {
         [this] { m_window.importVideos(); });
     add(*menu, tr("Import split &file…"), {}, [this] { m_window.importSplitFile(); });
     add(*menu, tr("Import official &results…"), {}, [this] { m_window.importResults(); });
+    m_ofRun.push_back(add(*menu, tr("&Recording of the run…"), {keys(Qt::CTRL | Qt::Key_B)},
+                          [this] { m_window.openRecording(); }));
     menu->addSeparator();
     add(*menu, tr("&Save data"), {QKeySequence::Save}, [this] { m_window.save(); });
     add(*menu, tr("&Export data…"), {keys(Qt::CTRL | Qt::Key_E)},

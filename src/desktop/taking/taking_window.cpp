@@ -11,6 +11,7 @@
 #include "desktop/shell/window_place.h"
 #include "desktop/shell/workspace.h"
 #include "desktop/taking/gate_strip.h"
+#include "desktop/taking/recording/recording_dialog.h"
 #include "desktop/taking/run_form.h"
 #include "desktop/taking/split_bar.h"
 #include "desktop/taking/taking_actions.h"
@@ -226,6 +227,8 @@ void TakingWindow::selectRun(int run) {
     if (run >= 0)
         m_gates->setPenalties(m_document.run(run).sectioninfo.pens);
     showMarks();
+    if (m_recording)
+        m_recording->startRun();
 }
 
 QStringList TakingWindow::filmsOf(int run) const {
@@ -395,7 +398,10 @@ void TakingWindow::dropEvent(QDropEvent* event) {
     QStringList films;
     QStringList others;
     for (const QString& file : files)
-        (isVideoFile(QFileInfo(file).fileName().toStdString()) ? films : others).append(file);
+        if (QFileInfo(file).suffix().toLower() == "kvb")
+            openRecording(file);
+        else
+            (isVideoFile(QFileInfo(file).fileName().toStdString()) ? films : others).append(file);
     if (!films.isEmpty())
         (void)m_document.addFilms(copiedIntoFolder(films));
     if (!others.isEmpty())

@@ -22,6 +22,7 @@ class FilmSound;
 class FilmView;
 class FrozenTable;
 class GateStrip;
+class RecordingDialog;
 class RunForm;
 class SplitBar;
 class TimeLine;
@@ -70,6 +71,9 @@ public:
     void save();
     void exportData();
     void findRun();
+    /// Shows the recording of the run beside the film, to be aligned and attached.
+    void openRecording(const QString& path = {});
+    [[nodiscard]] RecordingDialog& recording();
 
     /// Where files come from in place of the platform's dialogs, as in tests.
     using ChooseFiles = std::function<QStringList(const QString& title, const QString& filter)>;
@@ -130,6 +134,7 @@ private:
     GateStrip* m_gates = nullptr;
     RunForm* m_form = nullptr;
     FrozenTable* m_table = nullptr;
+    RecordingDialog* m_recording = nullptr; ///< made when it is first wanted
 };
 
 } // namespace kavela::desktop

@@ -1,0 +1,305 @@
+#include "desktop/taking/recording/recording_dialog.h"
+
+#include "boatmotion/session_files.h"
+#include "desktop/charts/sensor_chart.h"
+#include "desktop/shell/dropped_files.h"
+#include "desktop/shell/fault_label.h"
+#include "desktop/shell/theme.h"
+
+#include <QDropEvent>
+#include <QFileInfo>
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QPushButton>
+
+#include <cmath>
+
+namespace kavela::desktop {
+
+namespace {
+
+constexpr std::size_t EventSlot = 1;
+constexpr std::size_t RunSlot = 2;
+
+QString clockText(const ClockFit& fit, bool hasDrift) {
+    QString text = RecordingDialog::tr("The recording's clock stands at %1 s when the film begins.")
+                       .arg(fit.stampAt(0), 0, 'f', 3);
+    if (hasDrift)
+        text += ' ' + RecordingDialog::tr("It gains %1 ms in a minute.")
+                          .arg((fit.rate - 1) * 60'000, 0, 'f', 1);
+    return text;
+}
+
+} // namespace
+
+RecordingDialog::RecordingDialog(Film film, QWidget* parent)
+    : QDialog(parent),
+      m_film(std::move(film)),
+      m_title(new QLabel),
+      m_note(new QLabel),
+      m_clocks(new QLabel),
+      m_fault(new FaultLabel),
+      m_chart(new SensorChart),
+      m_yaw(new SensorChart) {
+    setWindowTitle(tr("Recording of a run"));
+    setAcceptDrops(true);
+    makeParts();
+    showRecording();
+    resize(860, 560);
+}
+
+void RecordingDialog::makeParts() {
+    m_title->setFont(theme::titleFont(*this));
+    m_note->setFont(theme::captionFont(*this));
+    m_note->setWordWrap(true);
+    m_clocks->setWordWrap(true);
+    m_choose = new QPushButton(tr("Choose a &recording…"));
+    m_attach = new QPushButton(tr("&Attach the part of this run"));
+    m_detach = new QPushButton(tr("Take o&ff what is attached"));
+    auto* close = new QPushButton(tr("Close"));
+    for (QPushButton* button : {m_choose, m_attach, m_detach, close})
+        button->setAutoDefault(false);
+    connect(m_choose, &QPushButton::clicked, this, &RecordingDialog::chooseRequested);
+    connect(m_attach, &QPushButton::clicked, this, &RecordingDialog::attach);
+    connect(m_detach, &QPushButton::clicked, this, [this] { m_film.detach(); });
+    connect(close, &QPushButton::clicked, this, &QDialog::close);
+    for (SensorChart* chart : {m_chart, m_yaw}) {
+        SensorChart* const other = chart == m_chart ? m_yaw : m_chart;
+        connect(chart, &SensorChart::viewChanged, other, &SensorChart::setView);
+        connect(chart, &SensorChart::hoveredAt, other, &SensorChart::showCursorAt);
+        connect(chart, &SensorChart::hoverEnded, other, &SensorChart::hideCursor);
+        connect(chart, &SensorChart::clickedAt, this, [this](double stamp) {
+            m_cursor = stamp;
+            showMarks();
+            if (m_fit)
+                m_film.show(m_fit->videoAt(stamp));
+        });
+    }
+    auto* head = new QHBoxLayout;
+    head->addWidget(m_title, 1);
+    head->addWidget(m_choose);
+    auto* foot = new QHBoxLayout;
+    foot->addWidget(m_detach);
+    foot->addStretch(1);
+    foot->addWidget(m_attach);
+    foot->addWidget(close);
+    auto* whole = new QVBoxLayout(this);
+    whole->setContentsMargins(theme::LargeSpacing, theme::LargeSpacing, theme::LargeSpacing,
+                              theme::LargeSpacing);
+    whole->setSpacing(theme::Spacing);
+    whole->addLayout(head);
+    whole->addWidget(m_note);
+    whole->addWidget(m_chart, 3);
+    whole->addWidget(m_yaw, 2);
+    whole->addWidget(makeEvents());
+    whole->addWidget(m_clocks);
+    whole->addWidget(m_fault);
+    whole->addLayout(foot);
+}
+
+QWidget* RecordingDialog::makeEvents() {
+    auto* box = new QWidget;
+    auto* grid = new QGridLayout(box);
+    grid->setContentsMargins(0, 0, 0, 0);
+    grid->setHorizontalSpacing(theme::LargeSpacing);
+    grid->setVerticalSpacing(theme::SmallSpacing);
+    const QStringList titles{tr("Common moment"), tr("A later one, against drift")};
+    for (int i = 0; i < 2; ++i) {
+        Row& row = m_rows[i];
+        const auto which = static_cast<Event>(i);
+        row = {new QLabel, new QLabel, new QPushButton(tr("From the film")),
+               new QPushButton(tr("From the chart")), new QPushButton(tr("Clear"))};
+        connect(row.setVideo, &QPushButton::clicked, this, [=, this] { setVideo(which); });
+        connect(row.setStamp, &QPushButton::clicked, this,
+                [=, this] { setStamp(which, m_cursor); });
+        connect(row.clear, &QPushButton::clicked, this, [=, this] { clear(which); });
+        grid->addWidget(new QLabel(titles[i]), i, 0);
+        int column = 1;
+        for (QWidget* part : std::initializer_list<QWidget*>{row.video, row.setVideo, row.stamp,
+                                                             row.setStamp, row.clear}) {
+            if (auto* const button = qobject_cast<QPushButton*>(part))
+                button->setAutoDefault(false);
+            grid->addWidget(part, i, column++);
+        }
+    }
+    grid->setColumnStretch(6, 1);
+    return box;
+}
+
+void RecordingDialog::load(const QString& path) {
+    struct Read {
+        std::unique_ptr<LoadedRecording> recording;
+        QString fault;
+    };
+    const QString name = QFileInfo(path).fileName();
+    m_choose->setEnabled(false);
+    m_title->setText(tr("Reading %1…").arg(name));
+    m_work.run(
+        [path, name] {
+            Read read;
+            try {
+                read.recording = std::make_unique<LoadedRecording>(
+                    loadedRecording(name.toStdString(), readRawSession(path.toStdString())));
+            } catch (const std::exception& error) {
+                read.fault = QString::fromUtf8(error.what());
+            }
+            return read;
+        },
+        [this, name](Read read) {
+            m_choose->setEnabled(true);
+            if (read.recording) {
+                setRecording(std::move(*read.recording));
+                emit loaded();
+                return;
+            }
+            showRecording();
+            emit failed(tr("“%1” cannot be opened").arg(name), read.fault);
+        });
+}
+
+void RecordingDialog::setRecording(LoadedRecording recording) {
+    m_recording = std::make_unique<LoadedRecording>(std::move(recording));
+    m_events = {};
+    m_cursor = m_recording->first();
+    showRecording();
+}
+
+CommonEvents::Event& RecordingDialog::event(Event event) {
+    return event == First ? m_events.first : m_events.second;
+}
+
+void RecordingDialog::setVideo(Event which) {
+    event(which).video = m_film.position();
+    showFit();
+}
+
+void RecordingDialog::setStamp(Event which, double stamp) {
+    if (m_recording)
+        event(which).stamp = stamp;
+    showFit();
+}
+
+void RecordingDialog::clear(Event which) {
+    event(which) = {};
+    showFit();
+}
+
+void RecordingDialog::showRecording() {
+    for (QWidget* part : std::initializer_list<QWidget*>{m_rows[0].setStamp, m_rows[1].setStamp,
+                                                         m_rows[0].setVideo, m_rows[1].setVideo})
+        part->setEnabled(m_recording != nullptr);
+    if (!m_recording) {
+        m_title->setText(tr("No recording yet"));
+        m_note->setText(tr("Choose the recording (.kvb) of the run, or drop it here."));
+        m_chart->setEmptyText(tr("The boat's acceleration stands here."));
+        m_yaw->setVisible(false);
+        showFit();
+        return;
+    }
+    m_title->setText(QString::fromStdString(m_recording->name));
+    m_note->setText(QString::fromStdString(m_recording->note) +
+                    (m_recording->note.empty() ? "" : "\n") +
+                    tr("Find a moment that film and recording both show, such as the first stroke "
+                       "or a hit on the boat: go there in the film, click it in the chart, and set "
+                       "both."));
+    const bool hasAnalysis = !m_recording->yawRate->empty();
+    m_chart->setSeries({{hasAnalysis ? tr("Forward acceleration") : tr("Acceleration"), "m/s²",
+                         m_recording->times, m_recording->forward, 0}});
+    m_yaw->setVisible(hasAnalysis);
+    if (hasAnalysis)
+        m_yaw->setSeries({{tr("Yaw rate"), "rad/s", m_recording->times, m_recording->yawRate, 3}});
+    const double first = m_recording->first();
+    for (SensorChart* chart : {m_chart, m_yaw}) {
+        chart->setTimeText([first](double stamp) { return momentText(stamp - first); });
+        chart->setLimits(first, m_recording->last());
+        chart->fit();
+    }
+    showFit();
+}
+
+void RecordingDialog::startRun() {
+    m_events = {};
+    showFit();
+}
+
+void RecordingDialog::showFit() {
+    const double first = m_recording ? m_recording->first() : 0;
+    for (int i = 0; i < 2; ++i) {
+        const CommonEvents::Event& shown = event(static_cast<Event>(i));
+        m_rows[i].video->setText(shown.video ? tr("film %1").arg(momentText(*shown.video))
+                                             : tr("film –"));
+        m_rows[i].stamp->setText(shown.stamp
+                                     ? tr("recording %1").arg(momentText(*shown.stamp - first))
+                                     : tr("recording –"));
+        m_rows[i].clear->setEnabled(shown.video || shown.stamp);
+    }
+    m_fit.reset();
+    QString fault;
+    try {
+        m_fit = m_events.fit();
+    } catch (const ClockError& error) {
+        fault = error.what();
+    }
+    m_fault->tell(fault);
+    m_clocks->setText(m_fit
+                          ? clockText(*m_fit, m_events.first.isWhole() && m_events.second.isWhole())
+                          : QString());
+    m_clocks->setVisible(m_fit.has_value());
+    showMarks();
+    showRun();
+}
+
+void RecordingDialog::showMarks() {
+    if (!m_recording)
+        return;
+    std::vector<SensorMark> marks{{m_cursor, m_cursor, {}, EventSlot}};
+    for (int i = 0; i < 2; ++i)
+        if (const auto stamp = event(static_cast<Event>(i)).stamp)
+            marks.push_back({*stamp, *stamp, QString::number(i + 1), EventSlot});
+    if (const auto span = m_film.span(); span && m_fit)
+        marks.push_back(
+            {m_fit->stampAt(span->start), m_fit->stampAt(span->end), m_film.run(), RunSlot});
+    m_chart->setMarks(marks);
+    m_yaw->setMarks(marks);
+}
+
+void RecordingDialog::showRun() {
+    const bool hasSpan = m_film.span().has_value();
+    m_attach->setEnabled(m_fit && hasSpan);
+    m_attach->setToolTip(hasSpan ? QString()
+                                 : tr("The run has to be marked first: its start and its splits."));
+    m_detach->setEnabled(m_film.isAttached());
+    showMarks();
+}
+
+void RecordingDialog::attach() {
+    const auto span = m_film.span();
+    if (!m_recording || !m_fit || !span)
+        return;
+    try {
+        AttachedPart part = partOf(m_recording->session, *m_fit, span->start, span->end);
+        QStringList notes;
+        for (const std::string& note : part.notes)
+            notes.append(QString::fromStdString(note));
+        if (part.isEmpty()) {
+            m_fault->tell(tr("Nothing of the recording lies within the run."));
+            return;
+        }
+        m_film.attach(std::move(part));
+        m_clocks->setText(tr("The part of %1 is attached.").arg(m_film.run()) +
+                          (notes.isEmpty() ? "" : "\n" + notes.join('\n')));
+    } catch (const ClockError& error) {
+        m_fault->tell(error.what());
+    }
+}
+
+void RecordingDialog::dragEnterEvent(QDragEnterEvent* event) {
+    acceptFiles(*event);
+}
+
+void RecordingDialog::dropEvent(QDropEvent* event) {
+    if (const QStringList files = droppedFiles(*event); !files.isEmpty())
+        load(files.front());
+}
+
+} // namespace kavela::desktop

@@ -1,0 +1,102 @@
+#pragma once
+
+#include "desktop/motion/background_work.h"
+#include "desktop/taking/recording/run_recording.h"
+
+#include <QDialog>
+
+#include <functional>
+
+class QLabel;
+class QPushButton;
+
+namespace kavela::desktop {
+
+class FaultLabel;
+class SensorChart;
+
+/// A recording beside the film of a run: a moment that both show is set in each, a second one
+/// removes the drift of the clocks, and the part that belongs to the run is attached to it. Stands
+/// beside the window, which plays the film meanwhile.
+class RecordingDialog : public QDialog {
+    Q_OBJECT
+
+public:
+    /// What the dialog wants of the window that it stands beside.
+    struct Film {
+        std::function<double()> position;             ///< seconds of the first film
+        std::function<void(double)> show;             ///< goes there
+        std::function<std::optional<RunSpan>()> span; ///< of the run in front
+        std::function<QString()> run;                 ///< its name
+        std::function<void(AttachedPart)> attach;     ///< as one step that can be undone
+        std::function<void()> detach;
+        std::function<bool()> isAttached;
+    };
+
+    RecordingDialog(Film film, QWidget* parent);
+
+    /// Reads a raw recording beside the interface. What was aligned before is forgotten.
+    void load(const QString& path);
+    void setRecording(LoadedRecording recording);
+    [[nodiscard]] bool hasRecording() const { return m_recording != nullptr; }
+
+    enum Event { First, Second };
+    /// Sets the moment of an event: where the film stands, or the cursor of the chart.
+    void setVideo(Event event);
+    void setStamp(Event event, double stamp);
+    void clear(Event event);
+    [[nodiscard]] std::optional<ClockFit> fit() const { return m_fit; }
+
+    void attach();
+    /// Another run is in front, with a film of its own: what was aligned is forgotten.
+    void startRun();
+    /// The run in front, its marks or what is attached to it is another.
+    void showRun();
+    [[nodiscard]] SensorChart& chart() const { return *m_chart; }
+
+signals:
+    /// A recording is wanted; answered by load().
+    void chooseRequested();
+    void loaded();
+    void failed(const QString& title, const QString& reason);
+
+protected:
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
+
+private:
+    struct Row {
+        QLabel* video = nullptr;
+        QLabel* stamp = nullptr;
+        QPushButton* setVideo = nullptr;
+        QPushButton* setStamp = nullptr;
+        QPushButton* clear = nullptr;
+    };
+
+    void makeParts();
+    [[nodiscard]] QWidget* makeEvents();
+    void showRecording();
+    void showFit();
+    void showMarks();
+    [[nodiscard]] CommonEvents::Event& event(Event event);
+
+    Film m_film;
+    std::unique_ptr<LoadedRecording> m_recording;
+    CommonEvents m_events;
+    std::optional<ClockFit> m_fit;
+    double m_cursor = 0;
+    BackgroundWork m_work{*this};
+
+    QLabel* m_title;
+    QLabel* m_note;
+    QLabel* m_clocks;
+    FaultLabel* m_fault;
+    SensorChart* m_chart;
+    SensorChart* m_yaw;
+    Row m_rows[2];
+    QPushButton* m_choose = nullptr;
+    QPushButton* m_attach = nullptr;
+    QPushButton* m_detach = nullptr;
+};
+
+} // namespace kavela::desktop
