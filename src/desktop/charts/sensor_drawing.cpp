@@ -3,6 +3,8 @@
 #include "desktop/charts/chart_colours.h"
 #include "desktop/shell/theme.h"
 
+#include <QImage>
+#include <QPaintEngine>
 #include <QPainter>
 #include <QWidget>
 
@@ -18,6 +20,7 @@ constexpr double TickRoom = 92;         ///< pixels between two moments
 constexpr double ValueRoom = 24;        ///< pixels between two values
 constexpr double LeastMarkDistance = 5; ///< pixels; closer lines would be a wall
 constexpr double Swatch = 10;
+constexpr float BandOpacity = 0.65F;
 constexpr double Headroom = 0.06; ///< of the values, above and below
 
 QFont heavy(QFont font) {
@@ -100,10 +103,11 @@ void SensorDrawing::layOut(const SensorScene& scene, const QSizeF& size, const Q
     m_font = theme::captionFont(style);
     m_titleFont = heavy(m_font);
     const QFontMetricsF metrics(m_font);
-    const double line = metrics.height();
+    const double line = std::ceil(metrics.height());
     m_valueWidth = metrics.horizontalAdvance(QStringLiteral("−0000.00")) + theme::SmallSpacing;
     // The same in all charts, so that their moments stand below each other.
-    const double left = metrics.horizontalAdvance(QStringLiteral("−00000")) + theme::LargeSpacing;
+    const double left =
+        std::ceil(metrics.horizontalAdvance(QStringLiteral("−00000"))) + theme::LargeSpacing;
     const double bottom = scene.hasTimeAxis ? line + theme::Spacing : theme::SmallSpacing;
     const double top = line + theme::Spacing;
     m_scale.plot = QRectF(left, top, std::max(1.0, size.width() - left - theme::LargeSpacing),
@@ -267,8 +271,15 @@ void SensorDrawing::paintSeries(QPainter& painter, const DrawnSeries& drawn,
     pen.setCosmetic(true);
     painter.setPen(pen);
     painter.setBrush(Qt::NoBrush);
-    for (const QRectF& column : made.columns)
-        painter.fillRect(column, colour);
+    // Bands of several series cover each other: each lets those below shine through.
+    QColor band = colour;
+    if (m_series.size() > 1)
+        band.setAlphaF(BandOpacity);
+    if (painter.paintEngine()->type() == QPaintEngine::Raster)
+        paintBand(painter, made.columns, band, pixelRatio);
+    else
+        for (const QRectF& column : made.columns)
+            painter.fillRect(column, band);
     painter.setRenderHint(QPainter::Antialiasing);
     for (const QPolygonF& line : made.lines)
         painter.drawPolyline(line);
@@ -277,6 +288,31 @@ void SensorDrawing::paintSeries(QPainter& painter, const DrawnSeries& drawn,
     for (const QPointF& dot : made.dots)
         painter.drawEllipse(dot, 2, 2);
     painter.setRenderHint(QPainter::Antialiasing, false);
+}
+
+/// Pixel by pixel, and then at once: thousands of rectangles that shine through would take the
+/// painter many times as long.
+void SensorDrawing::paintBand(QPainter& painter, const std::vector<QRectF>& columns,
+                              const QColor& colour, double pixelRatio) const {
+    if (columns.empty())
+        return;
+    const QRectF& plot = m_scale.plot;
+    QImage image((plot.size() * pixelRatio).toSize(), QImage::Format_ARGB32_Premultiplied);
+    image.setDevicePixelRatio(pixelRatio);
+    image.fill(Qt::transparent);
+    const QRgb pixel = qPremultiply(colour.rgba());
+    const auto stride = image.bytesPerLine() / static_cast<qsizetype>(sizeof(QRgb));
+    auto* const pixels = reinterpret_cast<QRgb*>(image.bits());
+    const auto row = [&](double y) { return std::clamp(static_cast<int>(y), 0, image.height()); };
+    for (const QRectF& column : columns) {
+        const auto x = std::lround((column.left() - plot.left()) * pixelRatio);
+        if (x < 0 || x >= image.width())
+            continue;
+        const int end = row(std::ceil((column.bottom() - plot.top()) * pixelRatio));
+        for (int y = row(std::floor((column.top() - plot.top()) * pixelRatio)); y < end; ++y)
+            pixels[y * stride + x] = pixel;
+    }
+    painter.drawImage(plot.topLeft(), image);
 }
 
 void SensorDrawing::paintLabels(QPainter& painter, const SensorScene& scene) const {

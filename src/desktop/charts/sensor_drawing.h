@@ -55,6 +55,8 @@ private:
     void paintMarks(QPainter& painter, const SensorScene& scene) const;
     void paintMark(QPainter& painter, const SensorMark& mark, double room) const;
     void paintSeries(QPainter& painter, const DrawnSeries& drawn, double pixelRatio) const;
+    void paintBand(QPainter& painter, const std::vector<QRectF>& columns, const QColor& colour,
+                   double pixelRatio) const;
     void paintLabels(QPainter& painter, const SensorScene& scene) const;
     [[nodiscard]] QColor colourOf(const SensorSeries& series) const;
 
