@@ -1,0 +1,30 @@
+#pragma once
+
+#include "boatmotion/sessions.h"
+
+#include <QDialog>
+
+#include <array>
+
+class QDoubleSpinBox;
+class QLineEdit;
+
+namespace kavela::desktop {
+
+/// Athlete, place, kind and equipment of a session.
+class InformationDialog : public QDialog {
+    Q_OBJECT
+
+public:
+    explicit InformationDialog(const infosessionSmart_v3& info, QWidget* parent = nullptr);
+
+    [[nodiscard]] infosessionSmart_v3 information() const;
+
+private:
+    infosessionSmart_v3 m_info;
+    std::array<QLineEdit*, 3> m_texts{};
+    std::array<QDoubleSpinBox*, 5> m_numbers{};
+    std::array<double, 5> m_shown{}; ///< as the boxes rounded them
+};
+
+} // namespace kavela::desktop

@@ -1,0 +1,108 @@
+#include "desktop/sessions/power_meter_dialog.h"
+
+#include "desktop/charts/sensor_series.h"
+#include "desktop/shell/theme.h"
+
+#include <QDialogButtonBox>
+#include <QDoubleSpinBox>
+#include <QFormLayout>
+#include <QHeaderView>
+#include <QLabel>
+#include <QPushButton>
+#include <QTableWidget>
+
+#include <algorithm>
+
+namespace kavela::desktop {
+
+namespace {
+
+constexpr double FarthestSeconds = 100000;
+
+QTableWidget* refusedTable(const std::vector<RefusedLine>& refused) {
+    auto* table = new QTableWidget(static_cast<int>(refused.size()), 2);
+    table->setObjectName("refused");
+    table->setHorizontalHeaderLabels(
+        {PowerMeterDialog::tr("Line"), PowerMeterDialog::tr("Why it is refused")});
+    table->horizontalHeader()->setStretchLastSection(true);
+    table->verticalHeader()->hide();
+    table->verticalHeader()->setDefaultSectionSize(table->fontMetrics().height() +
+                                                   theme::SmallSpacing);
+    table->setColumnWidth(0, 60);
+    table->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    for (int row = 0; row < table->rowCount(); ++row) {
+        const RefusedLine& line = refused[static_cast<std::size_t>(row)];
+        table->setItem(row, 0, new QTableWidgetItem(QString::number(line.line)));
+        table->setItem(row, 1, new QTableWidgetItem(QString::fromStdString(line.reason)));
+    }
+    return table;
+}
+
+} // namespace
+
+PowerMeterDialog::PowerMeterDialog(const QString& fileName, const PowerMeterList& list,
+                                   const EditedSession& session, QWidget* parent)
+    : QDialog(parent),
+      m_placed(placedInSession(list, session)),
+      m_moments(momentsOf(session)),
+      m_begin(new QDoubleSpinBox),
+      m_overlap(new QLabel) {
+    setWindowTitle(tr("Import power-meter data"));
+    auto* form = new QFormLayout(this);
+    form->setSpacing(theme::Spacing);
+    auto* file = new QLabel(fileName);
+    file->setFont(theme::titleFont(*this));
+    file->setTextFormat(Qt::PlainText);
+    form->addRow(file);
+    auto* count = new QLabel(
+        tr("Samples: %1. Lines refused: %2.").arg(list.samples.size()).arg(list.refused.size()));
+    count->setObjectName("count");
+    form->addRow(count);
+    m_begin->setObjectName("begin");
+    m_begin->setRange(-FarthestSeconds, FarthestSeconds);
+    m_begin->setDecimals(1);
+    m_begin->setSuffix(tr(" s"));
+    m_overlap->setObjectName("overlap");
+    m_overlap->setForegroundRole(QPalette::PlaceholderText);
+    if (!m_placed.empty()) {
+        m_begin->setValue(m_placed.front().dateDouble - m_moments.from);
+        form->addRow(tr("It &begins after the session's start by"), m_begin);
+        form->addRow(m_overlap);
+    }
+    if (!list.refused.empty())
+        form->addRow(refusedTable(list.refused));
+    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Cancel);
+    if (!m_placed.empty())
+        buttons->addButton(tr("Import"), QDialogButtonBox::AcceptRole)->setDefault(true);
+    connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
+    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    form->addRow(buttons);
+    connect(m_begin, &QDoubleSpinBox::valueChanged, this, &PowerMeterDialog::showOverlap);
+    showOverlap();
+    resize(list.refused.empty() ? QSize(460, 180) : QSize(560, 420));
+}
+
+double PowerMeterDialog::shift() const {
+    return m_moments.from + m_begin->value() - m_placed.front().dateDouble;
+}
+
+std::vector<powermeterData> PowerMeterDialog::samples() const {
+    std::vector<powermeterData> samples = m_placed;
+    if (samples.empty())
+        return samples;
+    for (powermeterData& sample : samples)
+        sample.dateDouble += shift();
+    return samples;
+}
+
+void PowerMeterDialog::showOverlap() {
+    const std::vector<powermeterData> shifted = samples();
+    const auto inside = std::ranges::count_if(shifted, [this](const powermeterData& sample) {
+        return sample.dateDouble >= m_moments.from && sample.dateDouble <= m_moments.to;
+    });
+    m_overlap->setText(tr("%1 of them lie in the session, which lasts %2.")
+                           .arg(inside)
+                           .arg(momentText(m_moments.to - m_moments.from, 1)));
+}
+
+} // namespace kavela::desktop

@@ -1,0 +1,42 @@
+#include "desktop/sessions/session_document.h"
+
+#include "boatmotion/session_files.h"
+#include "common/json_decode.h"
+#include "common/json_encode.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+namespace kavela::desktop {
+
+void SessionDocument::show(EditedSession session, const QString& path, QWidget* over) {
+    keepWork(); // of the session that was here before
+    start(std::move(session), path, over);
+}
+
+std::string SessionDocument::content() const {
+    return encode(value().session);
+}
+
+/// A recording that is open beside stays as it was read.
+bool SessionDocument::recover(const std::string& content) {
+    try {
+        EditedSession recovered = editedSession(decodeText<smartAlldata_v4>(content));
+        edit(tr("recovered work"), [&](EditedSession& session) { session = recovered; });
+        return true;
+    } catch (const DecodeError&) {
+        return false;
+    }
+}
+
+QString proposedPath(const QString& recording) {
+    const QFileInfo proposed(
+        QString::fromStdString(convertedSessionPath(recording.toStdString()).string()));
+    QString path = proposed.filePath();
+    for (int number = 2; QFileInfo::exists(path); ++number)
+        path = proposed.dir().filePath(
+            QString("%1_%2.bms").arg(proposed.completeBaseName()).arg(number));
+    return path;
+}
+
+} // namespace kavela::desktop

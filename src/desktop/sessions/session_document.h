@@ -1,0 +1,29 @@
+#pragma once
+
+#include "boatmotion/session_editing.h"
+#include "desktop/shell/edited_file.h"
+
+namespace kavela::desktop {
+
+/// A session that is being worked on: a recording that was converted, or a processed session that
+/// was read. Its file is the processed session; the recording is saved apart.
+class SessionDocument : public EditedValue<EditedSession> {
+    Q_OBJECT
+
+public:
+    using EditedValue::EditedValue;
+    ~SessionDocument() override { keepWork(); }
+
+    /// The document is this session from now on, under a path that may not exist yet.
+    void show(EditedSession session, const QString& path, QWidget* over);
+
+protected:
+    [[nodiscard]] std::string content() const override;
+    [[nodiscard]] bool recover(const std::string& content) override;
+};
+
+/// Where the processed session of a recording is proposed to be saved: beside it, under a name that
+/// is not taken.
+[[nodiscard]] QString proposedPath(const QString& recording);
+
+} // namespace kavela::desktop

@@ -1,0 +1,252 @@
+#include "desktop/sessions/power_meter_dialog.h"
+#include "desktop/sessions/session_view.h"
+#include "desktop/sessions/session_window.h"
+#include "desktop/sessions/work_beside.h"
+
+#include "boatmotion/conversion.h"
+#include "boatmotion/session_files.h"
+#include "common/error.h"
+#include "common/safe_file.h"
+#include "common/text_file.h"
+#include "desktop/shell/workspace.h"
+
+#include <QDir>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QScopedValueRollback>
+#include <QStatusBar>
+
+namespace kavela::desktop {
+
+namespace {
+
+constexpr int MessageMilliseconds = 10000;
+
+bool isRecording(const QString& path) {
+    return QFileInfo(path).suffix().compare("kvb", Qt::CaseInsensitive) == 0;
+}
+
+/// A converted recording, on a thread of its own.
+EditedSession convert(const QString& path, const DiagnosticLog& log, QWidget* over) {
+    EditedSession session;
+    std::size_t samples = 0;
+    doBeside(over, conversion_messages::Converting, [&] {
+        auto recording = std::make_shared<const bmrawdata_v5>(readRawSession(path.toStdString()));
+        samples = recording->boatmotion.size();
+        const MotionAnalysis analysis =
+            analyseMotion(*recording, profileOf(recording->athleteinfo));
+        session = editedSession(std::move(recording), analysis);
+    });
+    log(conversion_messages::Count + QFileInfo(path).fileName().toStdString() + ' ' +
+        std::to_string(samples));
+    return session;
+}
+
+} // namespace
+
+/// Nothing of a file is taken over before all of it is there.
+bool SessionWindow::read(const QString& path, EditedSession& session) {
+    const QScopedValueRollback busy(m_isBusy, true);
+    std::string reason;
+    try {
+        if (isRecording(path))
+            session = convert(path, workspace().log(), this);
+        else
+            doBeside(this, tr("Reading…"),
+                     [&] { session = editedSession(readSmartSession(path.toStdString())); });
+        return true;
+    } catch (const FileError& error) {
+        reason = error.reason();
+    } catch (const DecodeError& error) {
+        reason = error.what();
+    } catch (const MotionError& error) {
+        reason = error.what();
+    }
+    const QString name = QFileInfo(path).fileName();
+    const QString title = isRecording(path) ? QString(conversion_messages::NotConverted)
+                                            : tr("“%1” cannot be opened").arg(name);
+    workspace().log()(title.toStdString());
+    workspace().log()(path.toStdString() + ": " + reason);
+    tell(title, isRecording(path) ? name + ": " + QString::fromStdString(reason)
+                                  : QString::fromStdString(reason));
+    return false;
+}
+
+QString SessionWindow::askForFile(const QString& title, const QString& filter) {
+    return QFileDialog::getOpenFileName(this, title, QFileInfo(m_document->path()).path(),
+                                        filter + ";;" + tr("All files (*)"));
+}
+
+void SessionWindow::askForRecording() {
+    const QString path = askForFile(tr("Import .kvb file"), tr("Recordings (*.kvb)"));
+    if (!path.isEmpty())
+        (void)open(path); // told there
+}
+
+void SessionWindow::askForSession() {
+    const QString path = askForFile(tr("Import .sbm file"), tr("Sessions (*.sbm *.bms)"));
+    if (!path.isEmpty())
+        (void)open(path);
+}
+
+void SessionWindow::askForPowerMeter() {
+    const QString path = askForFile(tr("Import power-meter data"), tr("Lists (*.csv *.txt)"));
+    if (!path.isEmpty())
+        importPowerMeter(path);
+}
+
+bool SessionWindow::importPowerMeter(const QString& path) {
+    const QString title = tr("“%1” cannot be read").arg(QFileInfo(path).fileName());
+    if (!hasSession()) {
+        tell(title, tr("Import a recording or a session first: power-meter data belongs to its "
+                       "strokes."));
+        return false;
+    }
+    try {
+        const PowerMeterList list = parsePowerMeter(readTextFile(path.toStdString()));
+        PowerMeterDialog dialog(QFileInfo(path).fileName(), list, m_document->value(), this);
+        if (dialog.exec() != QDialog::Accepted || dialog.samples().empty())
+            return false;
+        m_document->edit(tr("import of power-meter data"),
+                         [&](EditedSession& session) { session.powerMeter = dialog.samples(); });
+        return true;
+    } catch (const FileError& error) {
+        tell(title, QString::fromStdString(error.reason()));
+    } catch (const DecodeError& error) {
+        tell(title, QString::fromStdString(error.what()));
+    }
+    return false;
+}
+
+void SessionWindow::analyseAgain() {
+    if (m_isBusy || !m_document->value().recording)
+        return;
+    EditedSession again;
+    try {
+        const QScopedValueRollback busy(m_isBusy, true);
+        doBeside(this, conversion_messages::Converting, [&] {
+            auto recording = std::make_shared<const bmrawdata_v5>(recordingOf(m_document->value()));
+            const MotionAnalysis analysis =
+                analyseMotion(*recording, profileOf(recording->athleteinfo));
+            again = editedSession(std::move(recording), analysis);
+        });
+    } catch (const MotionError& error) {
+        tell(conversion_messages::NotConverted, QString::fromStdString(error.what()));
+        return;
+    }
+    m_document->edit(tr("new analysis"), [&](EditedSession& session) {
+        again.powerMeter = std::move(session.powerMeter);
+        setMarks(again, std::move(session.marks));
+        session = std::move(again);
+    });
+}
+
+/// One mark makes no segment, and power-meter data belongs in the session or not: what has to be
+/// settled before a file is written.
+bool SessionWindow::mayWrite() {
+    if (m_document->value().marks.size() == 1) {
+        tell(TooFewMarksTitle, TooFewMarks);
+        return false;
+    }
+    if (!m_document->value().powerMeter.empty() &&
+        workspace().ask({"", AskToSavePowerMeter}, tr("Save it"), this)) {
+        m_document->edit(tr("power of the power meter"),
+                         [](EditedSession& session) { applyPowerMeter(session); });
+    }
+    return true;
+}
+
+bool SessionWindow::saveSession() {
+    if (!QFileInfo::exists(m_document->path()))
+        return saveSessionAs();
+    if (!mayWrite() || !m_document->save(this))
+        return false;
+    tellSaved(m_document->path());
+    return true;
+}
+
+QString SessionWindow::askWhereTo(const QString& title, const QString& filter,
+                                  const QString& suffix, const QString& proposal) {
+    QFileDialog dialog(this, title, QFileInfo(proposal).path(), filter);
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setDefaultSuffix(suffix);
+    dialog.selectFile(QFileInfo(proposal).fileName());
+    if (dialog.exec() != QDialog::Accepted)
+        return {};
+    return dialog.selectedFiles().value(0);
+}
+
+bool SessionWindow::saveSessionAs() {
+    const QString path =
+        askWhereTo(tr("Save the session"), tr("Sessions (*.bms);;Sessions (*.sbm)"), "bms",
+                   m_document->path());
+    return !path.isEmpty() && saveSessionTo(path);
+}
+
+bool SessionWindow::saveSessionTo(const QString& path) {
+    if (!mayWrite() || !m_document->saveAs(path, this))
+        return false;
+    tellSaved(path);
+    return true;
+}
+
+void SessionWindow::tellSaved(const QString& path) {
+    workspace().log()(conversion_messages::Saved);
+    statusBar()->showMessage(QString(conversion_messages::Saved) + ' ' +
+                                 QDir::toNativeSeparators(path),
+                             MessageMilliseconds);
+}
+
+void SessionWindow::askAndSaveRecording() {
+    if (!m_document->value().recording)
+        return;
+    const QFileInfo source(m_recordingPath);
+    const QString path =
+        askWhereTo(tr("Save the edited .kvb file"), tr("Recordings (*.kvb)"), "kvb",
+                   source.dir().filePath(source.completeBaseName() + "_edited.kvb"));
+    if (!path.isEmpty())
+        saveRecording(path);
+}
+
+bool SessionWindow::saveRecording(const QString& path) {
+    std::string reason;
+    try {
+        saveRawSession(recordingOf(m_document->value()), path.toStdString());
+        tellSaved(path);
+        return true;
+    } catch (const FileError& error) {
+        reason = error.reason();
+    } catch (const EncodeError& error) {
+        reason = error.what();
+    }
+    workspace().log()(conversion_messages::NotSaved);
+    workspace().log()(reason);
+    workspace().showAlert({conversion_messages::NotSaved, reason}, this);
+    return false;
+}
+
+void SessionWindow::exportTable(SessionTables::Page page, const QString& path) const {
+    if (const SessionGrid* const grid = m_view->tables().gridOf(page))
+        writeFileSafely(path.toStdString(), csvOf(*grid));
+}
+
+void SessionWindow::askAndExport(SessionTables::Page page) {
+    const QFileInfo file(m_document->path());
+    const QString ending = page == SessionTables::StrokePage    ? "_strokes.csv"
+                           : page == SessionTables::TurnPage    ? "_turns.csv"
+                           : page == SessionTables::SegmentPage ? "_segments.csv"
+                                                                : "_distance.csv";
+    const QString path = askWhereTo(tr("Export the table"), tr("Semicolon-separated text (*.csv)"),
+                                    "csv", file.dir().filePath(file.completeBaseName() + ending));
+    if (path.isEmpty())
+        return;
+    try {
+        exportTable(page, path);
+        tellSaved(path);
+    } catch (const FileError& error) {
+        workspace().log()(error.what());
+        workspace().showAlert({conversion_messages::NotSaved, error.reason()}, this);
+    }
+}
+
+} // namespace kavela::desktop

@@ -1,0 +1,59 @@
+#pragma once
+
+#include "boatmotion/session_table.h"
+
+#include <QTabWidget>
+
+class QLabel;
+class QSpinBox;
+class QTableView;
+
+namespace kavela::desktop {
+
+class BalanceView;
+class GridModel;
+
+/// The tables of a session: strokes, turns, segments, values per distance mark, left and right. A
+/// row that is clicked moves the cursor; the cursor moves the current row.
+class SessionTables : public QTabWidget {
+    Q_OBJECT
+
+public:
+    explicit SessionTables(QWidget* parent = nullptr);
+
+    enum Page { StrokePage, TurnPage, SegmentPage, MetersPage, BalancePage };
+
+    void show(const EditedSession& session, const SessionFigures& figures);
+    using QTabWidget::show;
+
+    /// The strokes or turns that are selected in the table in front, by their place in the records.
+    [[nodiscard]] std::vector<std::size_t> selectedEntries() const;
+    /// The table of a page; null for the balance.
+    [[nodiscard]] const SessionGrid* gridOf(Page page) const;
+    [[nodiscard]] QTableView* view(Page page) const;
+
+public slots:
+    void showCursorAt(double moment);
+
+signals:
+    void momentChosen(double moment);
+
+private:
+    QTableView* addTable(const char* name, GridModel* model);
+    QWidget* makeMetersPage();
+    void showMeters();
+
+    GridModel* m_strokes;
+    GridModel* m_turns;
+    GridModel* m_segments;
+    GridModel* m_meters;
+    std::vector<QTableView*> m_views; ///< by page
+    QSpinBox* m_step = nullptr;
+    QLabel* m_metersBegin = nullptr; ///< where the distance is counted from
+    BalanceView* m_balance;
+    EditedSession m_session;
+    SessionFigures m_figures;
+    bool m_isFollowing = false; ///< the cursor moves the rows, not the other way round
+};
+
+} // namespace kavela::desktop

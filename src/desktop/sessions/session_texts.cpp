@@ -1,0 +1,56 @@
+#include "desktop/sessions/session_texts.h"
+
+#include <QCoreApplication>
+
+#include <cmath>
+
+namespace kavela::desktop {
+
+namespace {
+
+QString tr(const char* text) {
+    return QCoreApplication::translate("SessionTexts", text);
+}
+
+} // namespace
+
+QString valueText(std::optional<double> value, int decimals) {
+    if (!value || !std::isfinite(*value))
+        return QString(QChar(Dash));
+    constexpr double Largest = 1e9;
+    if (std::abs(*value) > Largest)
+        return QString::number(*value, 'g', 3);
+    const double scale = std::pow(10, decimals);
+    return QString::number(std::round(*value * scale) / scale + 0.0, 'f', decimals);
+}
+
+QString cellText(const Cell& cell, int decimals) {
+    if (const std::string* const text = std::get_if<std::string>(&cell))
+        return QString::fromStdString(*text);
+    const double* const number = std::get_if<double>(&cell);
+    return valueText(number ? std::optional(*number) : std::nullopt, decimals);
+}
+
+QString sessionTitle(const infosessionSmart_v3& info) {
+    QStringList parts;
+    for (const std::string& part : {info.name, info.location, dayText(info.date), info.sessionKind})
+        if (!part.empty())
+            parts.append(QString::fromStdString(part));
+    return parts.join(" · ");
+}
+
+QStringList remarksOn(const EditedSession& edited) {
+    QStringList remarks;
+    for (const MotionFlag flag : edited.flags) {
+        const std::string_view text = textOf(flag);
+        remarks.append(QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())));
+    }
+    if (edited.isClockGuessed && !edited.session.gps.empty())
+        remarks.append(tr("The file does not tell how the clocks of strokes and fixes go together: "
+                          "they were fitted by the turns and may be some seconds apart."));
+    if (!edited.powerMeter.empty())
+        remarks.append(tr("Power-meter data is not in the strokes yet; you are asked on saving."));
+    return remarks;
+}
+
+} // namespace kavela::desktop

@@ -1,0 +1,109 @@
+#pragma once
+
+#include "desktop/sessions/session_document.h"
+#include "desktop/sessions/session_tables.h"
+#include "desktop/shell/editor_window.h"
+
+class QStackedWidget;
+
+namespace kavela::desktop {
+
+class DropAreas;
+class Replay;
+class SessionView;
+
+/// Makes sessions out of recordings and shows them: import of raw recordings and processed
+/// sessions, cuts, segments, power-meter data, and the figures of it all.
+class SessionWindow : public EditorWindow {
+    Q_OBJECT
+
+public:
+    SessionWindow(Workspace& workspace, Autosave autosave);
+    ~SessionWindow() override;
+
+    /// Opens a recording (.kvb), which is converted, or a processed session (.sbm, .bms). False,
+    /// after an alert, when it cannot be opened; what was open then stays.
+    [[nodiscard]] bool open(const QString& path);
+    /// An empty window, for files to be dropped on; work that was kept for this path is offered.
+    void startNew(const QString& path);
+
+    [[nodiscard]] SessionDocument& document() const { return *m_document; }
+    [[nodiscard]] SessionView& view() const { return *m_view; }
+    [[nodiscard]] Replay& replay() const { return *m_replay; }
+
+    void askForRecording();
+    void askForSession();
+    void askForPowerMeter();
+    /// Shows what a list of a power meter holds and brings it in. False when it is not to be read
+    /// or not wanted.
+    bool importPowerMeter(const QString& path);
+
+    /// Saves the session after what has to be asked or told before. False when it was not saved.
+    bool saveSession();
+    bool saveSessionAs();
+    /// The same without asking for a name.
+    bool saveSessionTo(const QString& path);
+    /// Writes what is left of the recording, with the information of the session.
+    void askAndSaveRecording();
+    bool saveRecording(const QString& path);
+    void askAndExport(SessionTables::Page page);
+    /// Throws FileError.
+    void exportTable(SessionTables::Page page, const QString& path) const;
+
+    void editInformation();
+    void analyseAgain();
+    void keepSelection();
+    void removeSelection();
+    /// Takes out the strokes or turns that are selected in the table in front; the mark at the
+    /// cursor where none is.
+    void removeCurrent();
+
+    /// Marks the moment of the cursor.
+    void mark();
+    void removeMark();
+    void removeMarks();
+    void moveMark(double seconds);
+    void moveMarkHere();
+    void goToMark(int steps);
+    void goToStroke(int steps);
+    /// Saves the session with its segments; told when there are too few marks.
+    void saveSegments();
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+    void changeEvent(QEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dragLeaveEvent(QDragLeaveEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
+    void takeFiles(const QStringList& paths) override;
+
+private:
+    SessionWindow(Workspace& workspace, std::unique_ptr<SessionDocument> document);
+    void makeParts();
+    void replaceSaving(QMenu& file);
+    void showSession();
+    void placeOverlay();
+    [[nodiscard]] bool read(const QString& path, EditedSession& session);
+    [[nodiscard]] bool mayLeave();
+    [[nodiscard]] bool mayWrite();
+    [[nodiscard]] bool hasSession() const;
+    [[nodiscard]] std::optional<std::size_t> markAtCursor() const;
+    void setMarksTo(const QString& what, std::vector<double> marks);
+    void cutTo(const QString& what, std::optional<EditedSession> cut);
+    void tell(const QString& title, const QString& text);
+    void tellSaved(const QString& path);
+    [[nodiscard]] QString askForFile(const QString& title, const QString& filter);
+    [[nodiscard]] QString askWhereTo(const QString& title, const QString& filter,
+                                     const QString& suffix, const QString& proposal);
+
+    std::unique_ptr<SessionDocument> m_document;
+    Replay* m_replay;
+    SessionView* m_view = nullptr;
+    QStackedWidget* m_pages = nullptr;
+    DropAreas* m_overlay = nullptr;
+    QString m_recordingPath; ///< of the recording that was imported
+    bool m_isBusy = false;   ///< a file is being read
+};
+
+} // namespace kavela::desktop
