@@ -3,6 +3,7 @@
 #include "app/file_facts.h"
 #include "common/error.h"
 #include "common/safe_file.h"
+#include "desktop/motion/motion_window.h"
 #include "desktop/race/race_window.h"
 #include "desktop/shell/edited_file.h"
 #include "desktop/shell/editor_window.h"
@@ -91,6 +92,9 @@ Desktop::Desktop(Workspace& workspace, std::optional<Autosave> autosave)
 
 Desktop::~Desktop() {
     delete m_home;
+    if (m_motion)
+        m_motion->disconnect(this);
+    delete m_motion;
     for (const auto& editor : m_editors) {
         if (editor)
             editor->disconnect(this);
@@ -122,7 +126,12 @@ void Desktop::showHome() {
             {tr("Planning"), tr("Seasons, weeks and sessions, heart, gym and goals of a group."),
              icon("planning"), [this] { choosePlanning(); }},
             {tr("Tests"), tr("Lap, sprint and eight tests on the water, compared."),
-             icon("watertests"), [this] { chooseTests(); }}};
+             icon("watertests"), [this] { chooseTests(); }},
+            {tr("Boat motion"), tr("Recordings of phone and watch over each other, and converted."),
+             icon("motion"), [this] { chooseRecordings(); }},
+            {tr("Sessions"),
+             tr("Strokes, turns and segments of a recording, on a map and replayed."),
+             icon("sessions"), [this] { chooseSession(); }}};
         m_home = new HomeWindow(m_workspace, tools);
         m_home->setAttribute(Qt::WA_DeleteOnClose);
         connect(m_home, &HomeWindow::settingsRequested, this, &Desktop::openSettings);
@@ -146,6 +155,7 @@ void Desktop::chooseRace() {
 
 QStringList Desktop::racesAmong(const QStringList& paths) {
     QStringList races;
+    QStringList recordings;
     for (const QString& path : paths) {
         if (QFileInfo(path).isDir()) {
             if (isFolderOfFilms(path))
@@ -153,7 +163,7 @@ QStringList Desktop::racesAmong(const QStringList& paths) {
             races += splitFilesIn(path);
             continue;
         }
-        const FileFacts facts = factsOf(path.toStdString());
+        const FileFacts facts = kavela::factsOf(path.toStdString());
         if (facts.kind == "selection races")
             (void)openSelection(path);
         else if (facts.kind == "team")
@@ -162,6 +172,12 @@ QStringList Desktop::racesAmong(const QStringList& paths) {
             (void)openPlanning(path); // one that does not decode is told there
         else if (facts.kind == "test results")
             (void)openTests(path);
+        else if (facts.kind == "raw session")
+            recordings.append(path);
+        else if (facts.kind == "smart session")
+            (void)openSession(path);
+        else if (facts.kind == "test session")
+            (void)openTestSession(path);
         else if (facts.error || facts.kind == "split file")
             races.append(path); // the reader says what is wrong
         else
@@ -169,6 +185,8 @@ QStringList Desktop::racesAmong(const QStringList& paths) {
                 {"", "This feature is not ready yet.\n\nIt will come with a future update."},
                 front());
     }
+    if (!recordings.isEmpty())
+        openRecordings(recordings);
     return races;
 }
 
@@ -216,6 +234,8 @@ void Desktop::rememberSession() {
     QStringList edited;
     for (const EditorWindow* window : editorWindows())
         edited.append(window->file().path());
+    if (m_motion)
+        edited += m_motion->paths();
     if (files.isEmpty() && taken.isEmpty() && edited.isEmpty() && !(m_home && m_home->isVisible()))
         return;
     m_workspace.remember(SessionKey, files);
@@ -224,7 +244,8 @@ void Desktop::rememberSession() {
 }
 
 bool Desktop::hasWindows() const {
-    return !raceWindows().isEmpty() || !takingWindows().isEmpty() || !editorWindows().isEmpty();
+    return !raceWindows().isEmpty() || !takingWindows().isEmpty() || !editorWindows().isEmpty() ||
+           m_motion;
 }
 
 bool Desktop::restoreSession() {
@@ -235,9 +256,10 @@ bool Desktop::restoreSession() {
     for (const QString& file : m_workspace.remembered(TakingSessionKey))
         if (QFileInfo::exists(file))
             (void)openTaking(file);
-    for (const QString& file : m_workspace.remembered(EditorSessionKey))
-        if (QFileInfo::exists(file))
-            openAll({file});
+    QStringList edited = m_workspace.remembered(EditorSessionKey);
+    edited.removeIf([](const QString& file) { return !QFileInfo::exists(file); });
+    if (!edited.isEmpty())
+        openAll(edited);
     return hasWindows();
 }
 

@@ -11,6 +11,7 @@
 namespace kavela::desktop {
 
 class EditorWindow;
+class MotionWindow;
 class HomeWindow;
 class RaceWindow;
 class TakingWindow;
@@ -41,6 +42,10 @@ public:
     bool openSelection(const QString& path);
     bool openPlanning(const QString& path);
     bool openTests(const QString& path);
+    /// Opens raw recordings beside each other, in the window that has some where there is one.
+    void openRecordings(const QStringList& paths);
+    bool openSession(const QString& path);
+    bool openTestSession(const QString& path);
     /// Opens the planning that the preferences name, where they ask for one.
     void loadPlanningAtStart();
     /// Opens what an earlier session left unsaved, each after asking.
@@ -52,6 +57,8 @@ public:
     [[nodiscard]] QList<TakingWindow*> takingWindows() const;
     /// The windows of the other tools, which edit a file each.
     [[nodiscard]] QList<EditorWindow*> editorWindows() const;
+    /// The window of raw recordings; null when there is none.
+    [[nodiscard]] MotionWindow* motionWindow() const;
 
 private:
     void chooseRace();
@@ -61,6 +68,8 @@ private:
     void choosePlanning();
     void loadOnlinePlanning();
     void chooseTests();
+    void chooseRecordings();
+    void chooseSession();
     /// Asks for a file to open; a name that is not there yet begins a new one. Empty for none.
     [[nodiscard]] QString chooseFile(const QString& title, const QString& kind,
                                      const QString& suffix) const;
@@ -85,6 +94,7 @@ private:
     QList<QPointer<RaceWindow>> m_races;
     QList<QPointer<TakingWindow>> m_takings;
     QList<QPointer<EditorWindow>> m_editors;
+    QPointer<MotionWindow> m_motion;
     Autosave m_autosave;
 };
 

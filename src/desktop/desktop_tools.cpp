@@ -1,8 +1,11 @@
 #include "desktop/desktop.h"
 
+#include "desktop/motion/motion_window.h"
 #include "desktop/planning/online/online_dialog.h"
 #include "desktop/planning/planning_window.h"
 #include "desktop/selection/selection_window.h"
+#include "desktop/sessions/session_window.h"
+#include "desktop/sessions/test_session_window.h"
 #include "desktop/team/team_window.h"
 #include "desktop/watertests/tests_window.h"
 #include "planning/messages.h"
@@ -60,6 +63,38 @@ void Desktop::chooseTests() {
     chooseEditor<TestsWindow>(path, [&](TestsWindow& window) { window.startNew(path); });
 }
 
+void Desktop::chooseRecordings() {
+    const QStringList chosen = QFileDialog::getOpenFileNames(
+        front(), tr("Open recordings"), QString(), tr("Recordings (*.kvb);;All files (*)"));
+    if (!chosen.isEmpty())
+        openAll(chosen);
+}
+
+void Desktop::chooseSession() {
+    const QString path = chooseFile(tr("Open a session, or name a new one"), tr("Sessions"), "bms");
+    chooseEditor<SessionWindow>(path, [&](SessionWindow& window) { window.startNew(path); });
+}
+
+void Desktop::openRecordings(const QStringList& paths) {
+    if (!m_motion) {
+        m_motion = new MotionWindow(m_workspace);
+        m_motion->setAttribute(Qt::WA_DeleteOnClose);
+        connect(m_motion, &MotionWindow::homeRequested, this, &Desktop::showHome);
+        connect(m_motion, &MotionWindow::settingsRequested, this, &Desktop::openSettings);
+        connect(m_motion, &MotionWindow::openRequested, this,
+                [this](const QStringList& others) { openAll(others); });
+        connect(m_motion, &MotionWindow::recordingsChanged, this, &Desktop::rememberSession);
+        connect(m_motion, &QObject::destroyed, this, &Desktop::rememberSession);
+    }
+    m_motion->show();
+    m_motion->raise();
+    m_motion->open(paths);
+}
+
+MotionWindow* Desktop::motionWindow() const {
+    return m_motion;
+}
+
 template <class Window>
 bool Desktop::openEditor(const QString& path) {
     if (isShown(path))
@@ -84,6 +119,14 @@ bool Desktop::openSelection(const QString& path) {
 
 bool Desktop::openTests(const QString& path) {
     return openEditor<TestsWindow>(path);
+}
+
+bool Desktop::openSession(const QString& path) {
+    return openEditor<SessionWindow>(path);
+}
+
+bool Desktop::openTestSession(const QString& path) {
+    return openEditor<TestSessionWindow>(path);
 }
 
 bool Desktop::openPlanning(const QString& path) {

@@ -2,6 +2,7 @@
 
 #include "common/recorders.h"
 #include "common/temp_folder.h"
+#include "desktop/motion/motion_window.h"
 #include "desktop/planning/planning_window.h"
 #include "desktop/selection/selection_window.h"
 #include "desktop/shell/edited_file.h"
@@ -12,6 +13,7 @@
 
 #include <QFile>
 #include <QSignalSpy>
+#include <QTest>
 #include <QUrl>
 
 namespace kavela::test {
@@ -81,6 +83,22 @@ TEST_F(StartTest, OpensEachFileInItsToolWhateverItIsCalledAndAgainAtTheNextStart
         ASSERT_THAT(next.editorWindows(), SizeIs(1));
         EXPECT_TRUE(each.isItsTool(next.editorWindows().front()));
     }
+    EXPECT_THAT(m_recorder.alerts, IsEmpty());
+}
+
+TEST_F(StartTest, OpensRecordingsBesideEachOtherAndAgainAtTheNextStart) {
+    const QStringList files{copied("recordings/upstream_drill.kvb"),
+                            copied("recordings/sprint_with_watch.kvb")};
+    {
+        Desktop program(m_workspace, autosave());
+        program.openAll(files);
+        ASSERT_TRUE(program.motionWindow());
+        EXPECT_TRUE(QTest::qWaitFor([&] { return program.motionWindow()->paths().size() == 2; }));
+    }
+    Desktop next(m_workspace, autosave());
+    EXPECT_TRUE(next.restoreSession());
+    ASSERT_TRUE(next.motionWindow());
+    EXPECT_TRUE(QTest::qWaitFor([&] { return next.motionWindow()->paths() == files; }));
     EXPECT_THAT(m_recorder.alerts, IsEmpty());
 }
 
