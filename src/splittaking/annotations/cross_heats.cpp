@@ -67,7 +67,7 @@ void rename(Names& names, const std::string& from, const std::string& to) {
 std::size_t insertAction(rounddata030& heat, actiondata030 action) {
     const CMTime moment = action.time.empty() ? NotMarked : action.time.front();
     const auto next = std::ranges::find_if(heat.actions, [&](const actiondata030& other) {
-        return isMoment(moment) && !other.time.empty() && isMoment(other.time.front()) &&
+        return isTaken(moment) && !other.time.empty() && isTaken(other.time.front()) &&
                orderOf(other.time.front(), moment) > 0;
     });
     return static_cast<std::size_t>(heat.actions.insert(next, std::move(action)) -

@@ -23,7 +23,7 @@ customData020& recordOf(athletedata031& run, TagHandle handle) {
 
 std::optional<CMTime> momentAt(const std::vector<CMTime>& list, std::size_t entry) {
     const CMTime moment = entryOrZero(list, entry);
-    return isMoment(moment) ? std::optional(moment) : std::nullopt;
+    return isTaken(moment) ? std::optional(moment) : std::nullopt;
 }
 
 Tag read(const customData020& record, TagHandle handle) {
@@ -99,7 +99,7 @@ void renameTag(athletedata031& run, TagHandle handle, std::string name) {
 TagHandle setFixedMoment(athletedata031& run, TagHandle handle, std::int64_t fixedCamera,
                          const CMTime& moment) {
     customData020& record = recordOf(run, handle);
-    if (record.fixInt != fixedCamera && std::ranges::any_of(record.fixCMTimes, isMoment))
+    if (record.fixInt != fixedCamera && std::ranges::any_of(record.fixCMTimes, isTaken))
         return moveToCamera(run, handle, fixedCamera, moment);
     record.fixInt = fixedCamera;
     setPadded(record.fixCMTimes, handle.entry, moment);

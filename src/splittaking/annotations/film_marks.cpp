@@ -21,7 +21,7 @@ double secondsSince(const std::optional<CMTime>& start, const CMTime& moment) {
 
 } // namespace
 
-bool isMoment(const CMTime& stamp) {
+bool isTaken(const CMTime& stamp) {
     return stamp.timescale > 0 && (stamp.flags & Unbounded) == 0;
 }
 
@@ -30,7 +30,7 @@ std::strong_ordering orderOf(const CMTime& a, const CMTime& b) {
 }
 
 double secondsFrom(const CMTime& from, const CMTime& to) {
-    if (!isMoment(from) || !isMoment(to))
+    if (!isTaken(from) || !isTaken(to))
         return 0;
     if (from.timescale == to.timescale)
         return static_cast<double>(static_cast<Wide>(to.value) - from.value) / from.timescale;
@@ -40,7 +40,7 @@ double secondsFrom(const CMTime& from, const CMTime& to) {
 
 std::optional<CMTime> startOf(const athletedata031& run, std::size_t camera) {
     const RunMarks marks = marksOf(run.sectioninfo);
-    if (!marks.start || camera >= marks.start->size() || !isMoment((*marks.start)[camera]))
+    if (!marks.start || camera >= marks.start->size() || !isTaken((*marks.start)[camera]))
         return std::nullopt;
     return (*marks.start)[camera];
 }
@@ -52,10 +52,10 @@ double runSecondsAt(const athletedata031& run, const CMTime& moment) {
 void retimeNotes(athletedata031& run) {
     const std::optional<CMTime> start = startOf(run);
     for (microsplitsdata025& split : run.microsplits)
-        if (isMoment(split.cmtime))
+        if (isTaken(split.cmtime))
             split.time = secondsSince(start, split.cmtime);
     for (strokessdata025& stroke : run.strokes)
-        if (!stroke.cmtimes.empty() && isMoment(stroke.cmtimes.front()))
+        if (!stroke.cmtimes.empty() && isTaken(stroke.cmtimes.front()))
             stroke.time = secondsSince(start, stroke.cmtimes.front());
 }
 

@@ -19,7 +19,7 @@ inline constexpr CMTime NotMarked{};
 
 /// Whether a stamp is a moment of a film: it has a time scale above 0 and is neither infinite nor
 /// indefinite. Its value may be below 0, before the film begins.
-[[nodiscard]] bool isMoment(const CMTime& stamp);
+[[nodiscard]] bool isTaken(const CMTime& stamp);
 
 /// The order of two moments, exact in whatever time scales they stand.
 [[nodiscard]] std::strong_ordering orderOf(const CMTime& a, const CMTime& b);

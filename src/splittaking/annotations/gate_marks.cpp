@@ -31,7 +31,7 @@ std::optional<GateMark> markAtPlace(std::size_t place, std::size_t count) {
 
 std::optional<CMTime> markOf(std::span<const CMTime> marks, GateMark which) {
     const auto place = placeOf(which, marks.size());
-    return place && isMoment(marks[*place]) ? std::optional(marks[*place]) : std::nullopt;
+    return place && isTaken(marks[*place]) ? std::optional(marks[*place]) : std::nullopt;
 }
 
 void setMark(GateMarks& marks, GateMark which, const CMTime& moment) {
@@ -53,7 +53,7 @@ void clearMark(GateMarks& marks, GateMark which) {
         eraseEntry(marks, *place);
     else
         marks[*place] = NotMarked;
-    if (std::ranges::none_of(marks, isMoment))
+    if (std::ranges::none_of(marks, isTaken))
         marks.clear();
 }
 

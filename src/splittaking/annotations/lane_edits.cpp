@@ -18,7 +18,7 @@ Stamps inStep(Stamps stamps, std::size_t camera, const CMTime& moment) {
     CMTime& moved = entryOf(stamps, camera, "camera");
     const double seconds = secondsFrom(moved, moment);
     for (CMTime& stamp : stamps)
-        if (isMoment(stamp))
+        if (isTaken(stamp))
             stamp = later(stamp, seconds);
     moved = moment;
     return stamps;
@@ -123,7 +123,7 @@ void removeUpstreamMark(athletedata031& run, const MarkHandle& handle) {
 
 MarkHandle moveLaneMark(athletedata031& run, const infodata031& info, const MarkHandle& handle,
                         const CMTime& moment) {
-    if (!isMoment(moment))
+    if (!isTaken(moment))
         throw std::invalid_argument("a mark must lie at a moment of a film");
     switch (handle.kind) {
     case MarkKind::Start:

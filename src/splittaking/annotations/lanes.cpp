@@ -56,7 +56,7 @@ public:
 private:
     void add(const FilmOfRun& film, const CMTime& time, std::string text,
              const MarkHandle& handle) {
-        if (isMoment(time))
+        if (isTaken(time))
             m_lanes.marks.push_back(
                 {handle.kind, 0, film, time, time.seconds(), std::move(text), handle});
     }

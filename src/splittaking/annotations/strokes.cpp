@@ -22,7 +22,7 @@ CMTime momentOf(const strokessdata025& stroke) {
 template <class T>
 std::size_t insertInTime(std::vector<T>& marks, T mark) {
     const auto next = std::ranges::find_if(marks, [&](const T& other) {
-        return isMoment(momentOf(other)) && orderOf(momentOf(other), momentOf(mark)) > 0;
+        return isTaken(momentOf(other)) && orderOf(momentOf(other), momentOf(mark)) > 0;
     });
     return static_cast<std::size_t>(marks.insert(next, std::move(mark)) - marks.begin());
 }
@@ -47,7 +47,7 @@ void count(SectionStrokes& section, std::int64_t hand) {
 std::vector<CMTime> strokesUpTo(std::span<const strokessdata025> strokes, const CMTime& moment) {
     std::vector<CMTime> moments;
     for (const strokessdata025& stroke : strokes)
-        if (isMoment(momentOf(stroke)) && orderOf(momentOf(stroke), moment) <= 0)
+        if (isTaken(momentOf(stroke)) && orderOf(momentOf(stroke), moment) <= 0)
             moments.push_back(momentOf(stroke));
     std::ranges::sort(moments, [](const CMTime& a, const CMTime& b) { return orderOf(a, b) < 0; });
     return moments;

@@ -17,7 +17,7 @@ std::size_t placeOf(LossMark which) {
 
 std::optional<CMTime> markAt(const timeloss031& loss, std::size_t side, std::size_t place) {
     const CMTime moment = entryOrZero(entryOrZero(loss.cmtimes, side), place);
-    return isMoment(moment) ? std::optional(moment) : std::nullopt;
+    return isTaken(moment) ? std::optional(moment) : std::nullopt;
 }
 
 /// The first camera's stamps before and at a split.
