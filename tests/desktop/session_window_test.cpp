@@ -7,6 +7,7 @@
 #include "common/temp_folder.h"
 #include "desktop/charts/sensor_chart.h"
 #include "desktop/charts/series_chart.h"
+#include "desktop/imports/csv_mapping_dialog.h"
 #include "desktop/sessions/course_map.h"
 #include "desktop/sessions/gauge.h"
 #include "desktop/sessions/grid_model.h"
@@ -25,6 +26,7 @@
 #include <QDoubleSpinBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPushButton>
 #include <QTableView>
 #include <QTest>
 #include <QTimer>
@@ -371,6 +373,33 @@ TEST_F(SessionWindowTest, ShowsTheAttemptsOfATestSession) {
     EXPECT_FALSE(window.open(add("no.json", encode(smartAlldata_v4()))));
     EXPECT_THAT(m_recorder.alerts, ElementsAre(HasSubstr("smart session")));
     (void)window.grab();
+}
+
+TEST_F(SessionWindowTest, AListOfALoggerBecomesARecordingAndATrackJoinsIt) {
+    const auto window = makeWindow();
+    const std::string examples = std::string(KAVELA_EXAMPLES) + "/recordings/";
+    const QString track = QString::fromStdString(examples + "watch.gpx");
+    window->importFrom({track});
+    EXPECT_THAT(m_recorder.alerts, SizeIs(1)) << "there is nothing that it could join yet";
+    QTimer::singleShot(200, [] {
+        auto* const dialog =
+            qobject_cast<desktop::CsvMappingDialog*>(QApplication::activeModalWidget());
+        ASSERT_TRUE(dialog);
+        auto* const import = dialog->findChild<QPushButton*>("import");
+        ASSERT_TRUE(import);
+        ASSERT_TRUE(QTest::qWaitFor([&] { return import->isEnabled(); }));
+        import->click();
+    });
+    window->importFrom({QString::fromStdString(examples + "phone_logger.csv")});
+    ASSERT_TRUE(window->document().value().recording);
+    EXPECT_FALSE(window->document().value().session.strokesData.empty());
+    const std::size_t before = window->document().value().session.heart.size();
+    window->importFrom({track});
+    EXPECT_GT(window->document().value().session.heart.size(), before);
+    press(*window, Qt::CTRL | Qt::Key_Z);
+    EXPECT_EQ(window->document().value().session.heart.size(), before);
+    EXPECT_TRUE(window->saveRecording(path("logger.kvb")));
+    EXPECT_FALSE(readRawSession(m_folder.path() / "logger.kvb").boatmotion.empty());
 }
 
 } // namespace

@@ -128,6 +128,7 @@ void CsvMappingDialog::layOut() {
     m_details->setAlignment(Qt::AlignTop | Qt::AlignLeft);
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Cancel);
     m_import = buttons->addButton(tr("Import"), QDialogButtonBox::AcceptRole);
+    m_import->setObjectName("import");
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     auto* whole = new QVBoxLayout(this);

@@ -45,6 +45,7 @@ void fillFileMenu(SessionWindow& window, QMenu& menu) {
         [&window] { window.askForRecording(); });
     add(menu, window, tr("Import .s&bm file"), Qt::CTRL | Qt::SHIFT | Qt::Key_I,
         [&window] { window.askForSession(); });
+    add(menu, window, tr("Import from a &watch or logger…"), [&window] { window.askForImports(); });
     add(menu, window, tr("Import &power-meter data…"), [&window] { window.askForPowerMeter(); });
     QAction* const raw = add(menu, window, tr("Save the edited .&kvb file"),
                              [&window] { window.askAndSaveRecording(); });

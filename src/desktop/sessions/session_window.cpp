@@ -158,8 +158,10 @@ void SessionWindow::takeFiles(const QStringList& paths) {
     QStringList others;
     for (const QString& path : paths) {
         const QString suffix = QFileInfo(path).suffix().toLower();
-        if (suffix == "csv" || suffix == "txt")
+        if (isPowerMeterList(path))
             importPowerMeter(path);
+        else if (isImportable(path))
+            importFrom({path});
         else if (QStringList{"kvb", "sbm", "bms"}.contains(suffix) && paths.size() == 1)
             (void)open(path); // told there
         else

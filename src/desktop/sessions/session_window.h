@@ -1,5 +1,6 @@
 #pragma once
 
+#include "desktop/imports/import_files.h"
 #include "desktop/sessions/session_document.h"
 #include "desktop/sessions/session_tables.h"
 #include "desktop/shell/editor_window.h"
@@ -37,6 +38,11 @@ public:
     /// Shows what a list of a power meter holds and brings it in. False when it is not to be read
     /// or not wanted.
     bool importPowerMeter(const QString& path);
+
+    /// Takes in what watches and phone loggers recorded: a list of samples is opened as a
+    /// recording, a track joins the recording that is open.
+    void askForImports();
+    void importFrom(const QStringList& paths);
 
     /// Saves the session after what has to be asked or told before. False when it was not saved.
     bool saveSession();
@@ -85,6 +91,9 @@ private:
     void showSession();
     void placeOverlay();
     [[nodiscard]] bool read(const QString& path, EditedSession& session);
+    void takeIn(ImportedFile file);
+    void showImported(bmrawdata_v5 recording, const QString& path);
+    void join(const ImportedTrack& track);
     [[nodiscard]] bool mayLeave();
     [[nodiscard]] bool mayWrite();
     [[nodiscard]] bool hasSession() const;
@@ -105,5 +114,8 @@ private:
     QString m_recordingPath; ///< of the recording that was imported
     bool m_isBusy = false;   ///< a file is being read
 };
+
+/// Whether a file is a list of a power meter, by what it holds.
+[[nodiscard]] bool isPowerMeterList(const QString& path);
 
 } // namespace kavela::desktop

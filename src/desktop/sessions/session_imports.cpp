@@ -1,0 +1,111 @@
+#include "desktop/sessions/replay.h"
+#include "desktop/sessions/session_view.h"
+#include "desktop/sessions/session_window.h"
+#include "desktop/sessions/work_beside.h"
+
+#include "boatmotion/conversion.h"
+#include "boatmotion/imports/join_recording.h"
+#include "boatmotion/power_meter.h"
+#include "common/text_file.h"
+#include "desktop/imports/import_files.h"
+#include "desktop/shell/workspace.h"
+
+#include <QFileInfo>
+#include <QScopedValueRollback>
+
+/// What other devices recorded: lists of phone loggers become recordings, tracks of watches join
+/// the recording that is open.
+namespace kavela::desktop {
+
+namespace {
+
+EditedSession analysed(bmrawdata_v5 recording, QWidget* over) {
+    EditedSession session;
+    doBeside(over, conversion_messages::Converting, [&] {
+        auto shared = std::make_shared<const bmrawdata_v5>(std::move(recording));
+        const MotionAnalysis analysis = analyseMotion(*shared, profileOf(shared->athleteinfo));
+        session = editedSession(std::move(shared), analysis);
+    });
+    return session;
+}
+
+QString joinedText(const JoinedTrack& joined) {
+    QStringList lines{SessionWindow::tr("%1 positions and %2 heart rates were taken over.")
+                          .arg(joined.fixes)
+                          .arg(joined.heart)};
+    for (const std::string& note : joined.notes)
+        lines.append(QString::fromStdString(note));
+    return lines.join('\n');
+}
+
+} // namespace
+
+bool isPowerMeterList(const QString& path) {
+    try {
+        const PowerMeterList list = parsePowerMeter(readTextFile(path.toStdString()));
+        return !list.samples.empty();
+    } catch (const std::runtime_error&) {
+        return false;
+    }
+}
+
+void SessionWindow::askForImports() {
+    WorkspaceAlerts alerts(workspace(), this);
+    for (ImportedFile& file :
+         kavela::desktop::askForImports(QFileInfo(m_document->path()).path(), alerts, this))
+        takeIn(std::move(file));
+}
+
+void SessionWindow::importFrom(const QStringList& paths) {
+    WorkspaceAlerts alerts(workspace(), this);
+    for (ImportedFile& file : importFiles(paths, alerts, this))
+        takeIn(std::move(file));
+}
+
+void SessionWindow::takeIn(ImportedFile file) {
+    if (m_isBusy)
+        return;
+    try {
+        if (auto* const recording = std::get_if<bmrawdata_v5>(&file.content))
+            showImported(std::move(*recording), file.path);
+        else
+            join(std::get<ImportedTrack>(file.content));
+    } catch (const MotionError& error) {
+        tell(conversion_messages::NotConverted,
+             QFileInfo(file.path).fileName() + ": " + QString::fromUtf8(error.what()));
+    }
+}
+
+/// A list of samples is a recording that has no file yet: "Save the edited .kvb file" makes one.
+void SessionWindow::showImported(bmrawdata_v5 recording, const QString& path) {
+    if (!mayLeave())
+        return;
+    const QScopedValueRollback busy(m_isBusy, true);
+    EditedSession session = analysed(std::move(recording), this);
+    m_recordingPath = QFileInfo(path).path() + '/' + QFileInfo(path).completeBaseName() + ".kvb";
+    m_view->select(std::nullopt);
+    m_document->show(std::move(session), proposedPath(m_recordingPath), this);
+    m_replay->setMoment(m_replay->from());
+}
+
+void SessionWindow::join(const ImportedTrack& track) {
+    if (!m_document->value().recording) {
+        tell({}, tr("Import the recording of the boat first: a track gives it positions and heart "
+                    "rates."));
+        return;
+    }
+    bmrawdata_v5 recording = recordingOf(m_document->value());
+    const JoinedTrack joined = joinRecording(recording, track);
+    if (joined.fixes > 0 || joined.heart > 0) {
+        const QScopedValueRollback busy(m_isBusy, true);
+        EditedSession again = analysed(std::move(recording), this);
+        m_document->edit(tr("track of a watch"), [&](EditedSession& session) {
+            again.powerMeter = std::move(session.powerMeter);
+            setMarks(again, std::move(session.marks));
+            session = std::move(again);
+        });
+    }
+    tell({}, joinedText(joined));
+}
+
+} // namespace kavela::desktop
