@@ -24,7 +24,9 @@ std::size_t insertInTime(std::vector<T>& marks, T mark) {
     const auto next = std::ranges::find_if(marks, [&](const T& other) {
         return isTaken(momentOf(other)) && orderOf(momentOf(other), momentOf(mark)) > 0;
     });
-    return static_cast<std::size_t>(marks.insert(next, std::move(mark)) - marks.begin());
+    const auto place = next - marks.begin(); // taken before the list may move
+    marks.insert(next, std::move(mark));
+    return static_cast<std::size_t>(place);
 }
 
 /// Takes a mark out and puts it where it now belongs.
