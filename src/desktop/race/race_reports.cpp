@@ -3,6 +3,7 @@
 #include "desktop/race/race_document.h"
 #include "desktop/race/split_table_model.h"
 #include "report/race_report.h"
+#include "report/run_sheet.h"
 
 #include <QFileInfo>
 
@@ -39,7 +40,8 @@ report::TableView viewOf(const RaceDocument& document, const SplitTableModel& mo
 } // namespace
 
 std::vector<NamedReport> raceReports(const RaceDocument& document, const SplitTableModel& model,
-                                     const QList<int>& columns) {
+                                     const QList<int>& columns,
+                                     std::optional<std::size_t> selectedRun) {
     const auto set = std::make_shared<const RaceSet>(document.shownSet());
     const report::ReportHeading heading = report::reportHeading(document.info());
     const TableSettings settings = document.settings();
@@ -50,9 +52,16 @@ std::vector<NamedReport> raceReports(const RaceDocument& document, const SplitTa
     };
     const QFileInfo file(document.path());
     const QString stem = file.path() + '/' + file.completeBaseName();
-    return {{ReportPreview::tr("Table as shown"), stem + " table.pdf",
-             make(ReportContent::Table, viewOf(document, model, columns))},
-            {ReportPreview::tr("Race report"), stem + ".pdf", make(ReportContent::Race, {})}};
+    std::vector<NamedReport> reports{
+        {ReportPreview::tr("Table as shown"), stem + " table.pdf",
+         make(ReportContent::Table, viewOf(document, model, columns))},
+        {ReportPreview::tr("Race report"), stem + ".pdf", make(ReportContent::Race, {})}};
+    if (selectedRun && *selectedRun < set->alldata.size())
+        reports.push_back({ReportPreview::tr("Run sheet"), stem + " run sheet.pdf",
+                           [set, info = document.info(), run = *selectedRun] {
+                               return report::runSheet(info, *set, run);
+                           }});
+    return reports;
 }
 
 } // namespace kavela::desktop

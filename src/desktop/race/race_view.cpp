@@ -366,8 +366,15 @@ void RaceView::previewReports() {
     const PreviewFailures failures{m_workspace.log(), [this](const Alert& alert, QWidget* over) {
                                        m_workspace.showAlert(alert, over);
                                    }};
-    auto* preview =
-        new ReportPreview(raceReports(m_document, m_model, shownColumns(*m_table)), failures, this);
+    // The run that the sheet is of: the topmost of the selected ones.
+    QModelIndexList rows = m_table->selectionModel()->selectedRows();
+    std::sort(rows.begin(), rows.end());
+    std::optional<std::size_t> run;
+    for (const QModelIndex& row : rows)
+        if (!run)
+            run = m_model.runOfRow(row.row());
+    auto* preview = new ReportPreview(raceReports(m_document, m_model, shownColumns(*m_table), run),
+                                      failures, this);
     preview->setAttribute(Qt::WA_DeleteOnClose);
     preview->show();
 }

@@ -1,0 +1,249 @@
+#include "report/sheet_lists.h"
+
+#include "report/wrapped_text.h"
+
+#include <QPainter>
+
+#include <algorithm>
+#include <numeric>
+#include <span>
+
+namespace kavela::report {
+
+namespace {
+
+constexpr TextStyle TitleStyle{10, true, Accent};
+constexpr TextStyle HeadStyle{6.5, false, Quiet};
+constexpr TextStyle RowStyle{8, false, Ink};
+constexpr TextStyle NoteStyle{7.5, false, Quiet};
+constexpr qreal TitleHeight = 16 * Point;
+constexpr qreal HeadHeight = 10 * Point;
+constexpr qreal LineHeight = 11.4 * Point;
+constexpr qreal ListGap = 10 * Point;
+constexpr qreal CellGap = 7 * Point;
+constexpr qreal ColumnGap = 24 * Point;
+constexpr qreal NoteIndent = 8 * Point;
+constexpr std::size_t MostRows = 80; ///< more never fit on a page
+constexpr std::size_t MostCellLines = 5;
+constexpr std::size_t MostNoteLines = 3;
+
+/// One line of a row: cells, or a line of its note.
+struct Line {
+    std::vector<QString> cells;
+    QString note;
+};
+
+using Lines = std::vector<Line>;
+
+qreal restWidth(const SheetList& list, qreal width) {
+    qreal rest = width + CellGap;
+    for (const SheetColumn& column : list.columns)
+        rest -= CellGap + column.points * Point;
+    return std::max(rest, 20 * Point);
+}
+
+std::vector<QString> cut(std::vector<QString> lines, std::size_t most) {
+    if (lines.size() > most) {
+        lines.resize(most);
+        lines.back() += QChar(0x2026);
+    }
+    return lines;
+}
+
+Lines linesOf(const SheetList& list, const SheetRow& row, qreal width, const Typeface& typeface) {
+    Lines lines(row.cells.empty() ? 0 : 1);
+    const auto cellAt = [&](std::size_t line, std::size_t column) -> QString& {
+        if (line >= lines.size())
+            lines.resize(line + 1);
+        lines[line].cells.resize(list.columns.size());
+        return lines[line].cells[column];
+    };
+    for (std::size_t i = 0; i < list.columns.size() && i < row.cells.size(); ++i) {
+        if (list.columns[i].points > 0) {
+            cellAt(0, i) = reportText(row.cells[i]);
+            continue;
+        }
+        const auto texts = cut(
+            wrappedLines(row.cells[i], typeface, RowStyle, restWidth(list, width)), MostCellLines);
+        for (std::size_t line = 0; line < texts.size(); ++line)
+            cellAt(line, i) = texts[line];
+    }
+    for (const QString& text :
+         cut(wrappedLines(row.note, typeface, NoteStyle, width - NoteIndent), MostNoteLines))
+        lines.push_back({{}, text});
+    return lines;
+}
+
+/// A list as it is laid out in a column of the page.
+class LaidList {
+public:
+    LaidList(const SheetList& list, qreal width, const Typeface& typeface)
+        : m_list(list), m_typeface(typeface), m_width(width) {
+        for (std::size_t i = 0; i < std::min(list.rows.size(), MostRows); ++i)
+            m_rows.push_back(linesOf(list, list.rows[i], width, typeface));
+        for (const Lines& row : m_rows)
+            m_wanted += row.size();
+        m_wanted += list.rows.size() > MostRows;
+    }
+
+    [[nodiscard]] std::size_t wantedLines() const { return m_wanted; }
+    [[nodiscard]] qreal overhead() const { return TitleHeight + (hasHead() ? HeadHeight : 0); }
+    [[nodiscard]] qreal height(std::size_t lines) const {
+        return overhead() + static_cast<qreal>(lines) * LineHeight;
+    }
+
+    void put(PageBuilder& pages, const QPointF& corner, std::size_t lines) const {
+        QRectF place(corner, QSizeF(m_width, TitleHeight));
+        write(pages, place, Qt::AlignLeft, m_list.title, TitleStyle);
+        place = {place.left(), place.bottom(), m_width, hasHead() ? HeadHeight : 0};
+        if (hasHead())
+            putHead(pages, place);
+        place = {place.left(), place.bottom(), m_width, LineHeight};
+        for (const Line& line : shownLines(lines)) {
+            putLine(pages, place, line);
+            place.translate(0, LineHeight);
+        }
+    }
+
+private:
+    [[nodiscard]] bool hasHead() const {
+        return std::ranges::any_of(m_list.columns,
+                                   [](const SheetColumn& c) { return !c.title.isEmpty(); });
+    }
+
+    /// Whole rows only; the last line says how many are left out.
+    [[nodiscard]] Lines shownLines(std::size_t room) const {
+        if (room == 0)
+            return {};
+        Lines shown;
+        const bool isCut = m_wanted > room || m_rows.size() < m_list.rows.size();
+        const std::size_t most = isCut ? room - 1 : room;
+        std::size_t row = 0;
+        for (; row < m_rows.size() && shown.size() + m_rows[row].size() <= most; ++row)
+            shown.insert(shown.end(), m_rows[row].begin(), m_rows[row].end());
+        // A first row that is too high shows how it begins: better than a number alone.
+        if (row == 0 && most > 0 && !m_rows.empty()) {
+            shown.assign(m_rows[0].begin(), m_rows[0].begin() + static_cast<std::ptrdiff_t>(most));
+            ++row;
+        }
+        if (row < m_list.rows.size())
+            shown.push_back({{}, QStringLiteral("and %1 more").arg(m_list.rows.size() - row)});
+        return shown;
+    }
+
+    void write(PageBuilder& pages, const QRectF& place, Qt::Alignment alignment,
+               const QString& text, const TextStyle& style) const {
+        if (!text.isEmpty())
+            pages.putAt(place, [=, typeface = m_typeface](QPainter& painter, const QRectF& at) {
+                typeface.draw(painter, at, alignment, text, style);
+            });
+    }
+
+    template <class Write>
+    void forCells(const QRectF& line, const Write& writeCell) const {
+        QRectF cell = line;
+        for (std::size_t i = 0; i < m_list.columns.size(); ++i) {
+            const qreal points = m_list.columns[i].points;
+            cell.setWidth(points > 0 ? points * Point : restWidth(m_list, m_width));
+            writeCell(cell, i);
+            cell.moveLeft(cell.right() + CellGap);
+        }
+    }
+
+    void putHead(PageBuilder& pages, const QRectF& place) const {
+        forCells(place, [&](const QRectF& cell, std::size_t i) {
+            write(pages, cell, m_list.columns[i].alignment, m_list.columns[i].title, HeadStyle);
+        });
+        pages.putAt(place, [](QPainter& painter, const QRectF& at) {
+            drawRule(painter, at, at.bottom(), Accent, 0.6);
+        });
+    }
+
+    void putLine(PageBuilder& pages, const QRectF& place, const Line& line) const {
+        forCells(place, [&](const QRectF& cell, std::size_t i) {
+            if (i < line.cells.size())
+                write(pages, cell, m_list.columns[i].alignment, line.cells[i], RowStyle);
+        });
+        write(pages, place.adjusted(NoteIndent, 0, 0, 0), Qt::AlignLeft, line.note, NoteStyle);
+    }
+
+    const SheetList& m_list;
+    const Typeface& m_typeface;
+    qreal m_width;
+    std::vector<Lines> m_rows;
+    std::size_t m_wanted = 0;
+};
+
+qreal wantedHeight(std::span<const LaidList> lists) {
+    qreal height = 0;
+    for (const LaidList& list : lists)
+        height += list.height(list.wantedLines()) + ListGap;
+    return height;
+}
+
+/// How many of the lists stand in the left column: so that the higher one is as low as can be.
+std::size_t leftCount(const std::vector<LaidList>& lists) {
+    std::size_t best = 1;
+    qreal lowest = 0;
+    for (std::size_t count = 1; count < lists.size(); ++count) {
+        const std::span<const LaidList> all(lists);
+        const qreal height =
+            std::max(wantedHeight(all.first(count)), wantedHeight(all.subspan(count)));
+        if (count == 1 || height < lowest) {
+            best = count;
+            lowest = height;
+        }
+    }
+    return best;
+}
+
+/// Puts lists below each other.
+void putColumn(PageBuilder& pages, std::span<const LaidList> lists, QPointF corner, qreal height) {
+    std::vector<std::size_t> wanted;
+    qreal left = height + ListGap;
+    for (const LaidList& list : lists) {
+        wanted.push_back(list.wantedLines());
+        left -= list.overhead() + ListGap;
+    }
+    const std::vector<std::size_t> lines =
+        sharedLines(wanted, static_cast<std::size_t>(std::max(0.0, left / LineHeight)));
+    for (std::size_t i = 0; i < lists.size(); ++i) {
+        lists[i].put(pages, corner, lines[i]);
+        corner.ry() += lists[i].height(lines[i]) + ListGap;
+    }
+}
+
+} // namespace
+
+std::vector<std::size_t> sharedLines(const std::vector<std::size_t>& wanted, std::size_t room) {
+    std::vector<std::size_t> order(wanted.size());
+    std::iota(order.begin(), order.end(), std::size_t{0});
+    std::ranges::stable_sort(order, {}, [&](std::size_t i) { return wanted[i]; });
+    std::vector<std::size_t> lines(wanted.size());
+    for (std::size_t i = 0; i < order.size(); ++i) {
+        const std::size_t share = room / (order.size() - i);
+        lines[order[i]] = std::min(wanted[order[i]], share);
+        room -= lines[order[i]];
+    }
+    return lines;
+}
+
+void putSheetLists(PageBuilder& pages, const std::vector<SheetList>& lists,
+                   const Typeface& typeface) {
+    if (lists.empty())
+        return;
+    const QRectF space = pages.space();
+    const bool isSingle = lists.size() == 1;
+    const qreal width = isSingle ? space.width() : (space.width() - ColumnGap) / 2;
+    std::vector<LaidList> laid;
+    laid.reserve(lists.size());
+    for (const SheetList& list : lists)
+        laid.emplace_back(list, width, typeface);
+    const std::span<const LaidList> all(laid);
+    const std::size_t left = leftCount(laid);
+    putColumn(pages, all.first(left), space.topLeft(), space.height());
+    putColumn(pages, all.subspan(left), space.topLeft() + QPointF(width + ColumnGap, 0),
+              space.height());
+}
+
+} // namespace kavela::report
