@@ -43,8 +43,11 @@ void GateStrip::setPenalties(const std::vector<std::int64_t>& penalties) {
 }
 
 void GateStrip::setCurrent(int gate) {
+    const int before = m_current;
     m_current = std::clamp(gate, 1, std::max(m_gates, 1));
     update();
+    if (m_current != before)
+        emit currentChanged(m_current);
 }
 
 bool GateStrip::isUpstream(int gate) const {

@@ -26,6 +26,7 @@ public:
 
 signals:
     void gateClicked(int gate);
+    void currentChanged(int gate);
 
 protected:
     void paintEvent(QPaintEvent* event) override;

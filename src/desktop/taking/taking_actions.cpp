@@ -4,11 +4,14 @@
 #include "desktop/film/film_sound.h"
 #include "desktop/shell/help_menu.h"
 #include "desktop/shell/workspace.h"
+#include "desktop/taking/notes/note_actions.h"
+#include "desktop/taking/taking_reports.h"
 #include "desktop/taking/taking_window.h"
 #include "splitdata/run_timing.h"
 
 #include <QAction>
 #include <QApplication>
+#include <QComboBox>
 #include <QFileDialog>
 #include <QKeyEvent>
 #include <QLineEdit>
@@ -34,6 +37,7 @@ TakingActions::TakingActions(TakingWindow& window, Workspace& workspace)
     makeEditMenu();
     makeMarkMenu();
     makePenaltyMenu();
+    addNoteMenu(window, window.notes());
     makePlayMenu();
     makeCameraMenu();
     addHelpMenu(window, workspace, "taking", [this] { return athletes(); });
@@ -62,6 +66,11 @@ QAction* TakingActions::add(QMenu& menu, const QString& text, const QList<QKeySe
 
 /// Enter ends the typing in a field before it means anything else.
 bool TakingActions::endsTyping() const {
+    auto* const choice = qobject_cast<QComboBox*>(QApplication::focusWidget());
+    if (choice && choice->isEditable()) {
+        choice->clearFocus();
+        return true;
+    }
     auto* const field = qobject_cast<QLineEdit*>(QApplication::focusWidget());
     if (!field)
         return false;
@@ -81,6 +90,8 @@ void TakingActions::makeFileMenu() {
     add(*menu, tr("Import official &results…"), {}, [this] { m_window.importResults(); });
     m_ofRun.push_back(add(*menu, tr("&Recording of the run…"), {keys(Qt::CTRL | Qt::Key_B)},
                           [this] { m_window.openRecording(); }));
+    m_ofRun.push_back(add(*menu, tr("Run s&heet: preview, PDF, print…"), {QKeySequence::Print},
+                          [this] { previewRunSheet(m_window, m_workspace); }));
     menu->addSeparator();
     add(*menu, tr("&Save data"), {QKeySequence::Save}, [this] { m_window.save(); });
     add(*menu, tr("&Export data…"), {keys(Qt::CTRL | Qt::Key_E)},

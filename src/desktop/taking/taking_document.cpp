@@ -9,6 +9,7 @@
 #include "report/race_report.h"
 #include "splitdata/loader.h"
 #include "splitdata/run_timing.h"
+#include "splittaking/annotations/film_marks.h"
 #include "splittaking/course_setup.h"
 #include "splittaking/messages.h"
 #include "splittaking/penalties.h"
@@ -260,7 +261,10 @@ void TakingDocument::editInfo(const QString& what,
 
 void TakingDocument::setMarks(int index, const QString& what, const RunMarks& marks) {
     auto edited = std::make_shared<athletedata031>(run(index));
+    const auto start = startOf(*edited);
     applyMarks(marks, *edited, info().totalsplits);
+    if (startOf(*edited) != start)
+        retimeNotes(*edited);
     TakingState after = m_state;
     after.runs[static_cast<std::size_t>(index)] = {std::move(edited), marks.start};
     push(what, std::move(after));

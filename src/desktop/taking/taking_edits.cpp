@@ -9,8 +9,10 @@
 #include "desktop/taking/course_dialog.h"
 #include "desktop/taking/export_dialog.h"
 #include "desktop/taking/gate_strip.h"
+#include "desktop/taking/notes/notes_panel.h"
 #include "desktop/taking/run_form.h"
 #include "splitdata/loader.h"
+#include "splittaking/annotations/penalty_details.h"
 #include "splittaking/messages.h"
 #include "splittaking/training_collection.h"
 #include "splittaking/video_names.h"
@@ -49,6 +51,8 @@ CMTime nudged(const VideoIndex& index, const CMTime& stamp, int frames) {
 
 void TakingWindow::select(std::optional<std::size_t> mark) {
     m_selected = mark;
+    if (mark)
+        m_notes->clearSelection();
     showMarks();
 }
 
@@ -59,6 +63,10 @@ void TakingWindow::stepRun(int step) {
 }
 
 void TakingWindow::mark() {
+    if (m_notes->takesMarks()) {
+        m_notes->mark();
+        return;
+    }
     if (m_run < 0 || m_deck->cameras() == 0) {
         tell(messages::NoVideo);
         return;
@@ -79,6 +87,7 @@ void TakingWindow::mark() {
         return;
     }
     const std::size_t taken = isStart ? 0 : marks.marks.size();
+    m_notes->clearSelection();
     m_selected = taken;
     m_document.setMarks(m_run, isStart ? tr("start mark") : tr("split %1").arg(taken), marks);
     m_views.front()->flash(isStart ? tr("Start")
@@ -87,6 +96,10 @@ void TakingWindow::mark() {
 }
 
 void TakingWindow::moveMarkHere() {
+    if (m_notes->takesEdits() && !m_selected) {
+        m_notes->moveMarkHere();
+        return;
+    }
     Stamps stamps = m_deck->stamps();
     if (m_run < 0 || !m_selected || stamps.empty())
         return;
@@ -100,6 +113,10 @@ void TakingWindow::moveMarkHere() {
 
 /// The selected mark, otherwise the last, moves; the frame on the screen stays.
 void TakingWindow::nudgeMark(int frames) {
+    if (m_notes->takesEdits() && !m_selected) {
+        m_notes->nudgeMark(frames);
+        return;
+    }
     const auto mark = m_selected ? m_selected : lastMark();
     if (m_run < 0 || !mark)
         return;
@@ -120,6 +137,10 @@ void TakingWindow::nudgeMark(int frames) {
 }
 
 void TakingWindow::deleteMark() {
+    if (m_notes->takesEdits() && !m_selected) {
+        m_notes->deleteMark();
+        return;
+    }
     if (m_run < 0 || !m_selected)
         return;
     RunMarks marks = m_document.marks(m_run);
@@ -144,6 +165,8 @@ void TakingWindow::goToMark(std::size_t mark) {
 
 /// The mark before or after the frame on the screen.
 void TakingWindow::stepMark(int step) {
+    if (m_notes->stepMark(step))
+        return;
     const FilmPicture* const shown = m_deck->shown(0);
     if (m_run < 0 || !shown)
         return;
@@ -169,13 +192,15 @@ void TakingWindow::setPenalty(GatePenalty penalty) {
     if (m_run < 0 || gates <= 0)
         return;
     const int gate = m_gates->current();
-    m_document.editRun(m_run, tr("penalty at gate %1").arg(gate),
-                       [&](athletedata031& run) { kavela::setPenalty(run, gate, penalty, gates); });
+    m_document.editRun(m_run, tr("penalty at gate %1").arg(gate), [&](athletedata031& run) {
+        setPenaltyAndDetails(run, gate, static_cast<std::int64_t>(penalty), gates);
+    });
     stepGate(1);
 }
 
 void TakingWindow::stepGate(int step) {
-    m_gates->setCurrent(m_gates->current() + step);
+    if (!m_notes->stepGate(step))
+        m_gates->setCurrent(m_gates->current() + step);
 }
 
 void TakingWindow::setUpCourse() {

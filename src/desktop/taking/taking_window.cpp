@@ -11,6 +11,8 @@
 #include "desktop/shell/window_place.h"
 #include "desktop/shell/workspace.h"
 #include "desktop/taking/gate_strip.h"
+#include "desktop/taking/notes/lane_strip.h"
+#include "desktop/taking/notes/notes_panel.h"
 #include "desktop/taking/recording/recording_dialog.h"
 #include "desktop/taking/run_form.h"
 #include "desktop/taking/split_bar.h"
@@ -27,6 +29,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QSplitter>
+#include <QTabBar>
 #include <QTableView>
 #include <QVBoxLayout>
 
@@ -71,11 +74,9 @@ TakingWindow::TakingWindow(Workspace& workspace, Autosave autosave)
     auto* upper = new QSplitter;
     upper->addWidget(makeRuns());
     upper->addWidget(makeStage());
-    m_form = new RunForm(m_document, m_workspace);
-    m_form->setContentsMargins(theme::Spacing, 0, 0, 0);
-    upper->addWidget(m_form);
+    upper->addWidget(m_notes);
     upper->setStretchFactor(1, 1);
-    upper->setSizes({300, 720, 220});
+    upper->setSizes({260, 700, 280});
     rememberSizes(*upper, workspace, "takingParts");
     auto* whole = new QSplitter(Qt::Vertical);
     whole->setContentsMargins(theme::LargeSpacing, theme::Spacing, theme::LargeSpacing,
@@ -88,6 +89,7 @@ TakingWindow::TakingWindow(Workspace& workspace, Autosave autosave)
     setCentralWidget(whole);
     m_actions = new TakingActions(*this, workspace);
     connectParts();
+    connectNotes();
     resize(1280, 800);
     rememberPlace(*this, workspace, "taking");
 }
@@ -136,6 +138,8 @@ QWidget* TakingWindow::makeStage() {
     m_line = new TimeLine(*m_deck);
     m_splits = new SplitBar;
     m_gates = new GateStrip;
+    m_form = new RunForm(m_document, m_workspace);
+    m_notes = new NotesPanel({m_document, *m_deck, m_workspace, *m_gates}, *m_line, *m_form);
     auto* row = new QHBoxLayout;
     row->addWidget(m_health, 1);
     row->addWidget(m_state, 0, Qt::AlignRight | Qt::AlignTop);
@@ -143,9 +147,11 @@ QWidget* TakingWindow::makeStage() {
     auto* column = new QVBoxLayout(box);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(theme::SmallSpacing);
+    column->addWidget(&m_notes->bar());
     column->addWidget(m_films, 1);
     column->addLayout(row);
     column->addWidget(m_line);
+    column->addWidget(&m_notes->lanes());
     column->addWidget(m_splits);
     column->addWidget(m_gates);
     return box;
@@ -178,6 +184,20 @@ void TakingWindow::connectParts() {
     connect(m_gates, &GateStrip::gateClicked, m_gates, &GateStrip::setCurrent);
     for (QTableView* table : {static_cast<QTableView*>(m_table), m_table->frozenView()})
         connect(table, &QTableView::clicked, this, &TakingWindow::playTableCell);
+}
+
+/// One mark is selected at a time: a split or a note.
+void TakingWindow::connectNotes() {
+    const auto leaveSplits = [this] {
+        m_selected.reset();
+        showMarks();
+    };
+    connect(m_notes, &NotesPanel::modeChanged, this, leaveSplits);
+    connect(m_notes, &NotesPanel::noteSelected, this, leaveSplits);
+    connect(m_notes, &NotesPanel::splitChosen, this, &TakingWindow::goToMark);
+    connect(m_notes, &NotesPanel::runRequested, this, &TakingWindow::selectRun);
+    connect(m_notes, &NotesPanel::flashed, this,
+            [this](const QString& text) { m_views.front()->flash(text); });
 }
 
 bool TakingWindow::open(const QString& path) {
@@ -217,6 +237,7 @@ void TakingWindow::selectRun(int run) {
     if (run == m_run)
         return;
     m_form->commit();
+    m_notes->commit();
     m_run = run;
     m_selected.reset();
     m_form->showRun(run);
@@ -224,6 +245,7 @@ void TakingWindow::selectRun(int run) {
         m_runTable->selectRow(run);
     showFilms();
     m_gates->setCurrent(1);
+    m_notes->showRun(run);
     if (run >= 0)
         m_gates->setPenalties(m_document.run(run).sectioninfo.pens);
     showMarks();
@@ -376,6 +398,7 @@ void TakingWindow::playTableCell(const QModelIndex& index) {
 
 void TakingWindow::closeEvent(QCloseEvent* event) {
     m_form->commit();
+    m_notes->commit();
     if (m_document.isDirty()) {
         const auto choice = m_workspace.askToSave(m_document.title(), this);
         if (choice == Workspace::Leaving::Stay ||

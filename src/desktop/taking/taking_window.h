@@ -22,6 +22,7 @@ class FilmSound;
 class FilmView;
 class FrozenTable;
 class GateStrip;
+class NotesPanel;
 class RecordingDialog;
 class RunForm;
 class SplitBar;
@@ -46,6 +47,7 @@ public:
     [[nodiscard]] FilmSound& sound() const { return *m_sound; }
     [[nodiscard]] int currentRun() const { return m_run; }
     [[nodiscard]] const GateStrip& gates() const { return *m_gates; }
+    [[nodiscard]] NotesPanel& notes() const { return *m_notes; }
     [[nodiscard]] std::optional<std::size_t> selectedMark() const { return m_selected; }
 
     // What the keys do.
@@ -95,6 +97,7 @@ private:
     [[nodiscard]] QWidget* makeStage();
     [[nodiscard]] QWidget* makeTable();
     void connectParts();
+    void connectNotes();
     void showDocument();
     void showFilms();
     void showMarks();
@@ -133,6 +136,7 @@ private:
     SplitBar* m_splits = nullptr;
     GateStrip* m_gates = nullptr;
     RunForm* m_form = nullptr;
+    NotesPanel* m_notes = nullptr;
     FrozenTable* m_table = nullptr;
     RecordingDialog* m_recording = nullptr; ///< made when it is first wanted
 };

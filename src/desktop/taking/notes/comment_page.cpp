@@ -1,0 +1,123 @@
+#include "desktop/taking/notes/comment_page.h"
+
+#include "desktop/shell/theme.h"
+#include "desktop/shell/workspace.h"
+#include "desktop/taking/taking_document.h"
+#include "splitdata/run_timing.h"
+#include "splittaking/annotations/run_notes.h"
+#include "splittaking/course_setup.h"
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QDoubleSpinBox>
+#include <QFormLayout>
+#include <QLabel>
+#include <QSignalBlocker>
+#include <QTableWidget>
+
+#include <algorithm>
+
+namespace kavela::desktop {
+
+namespace {
+
+constexpr const char* VisibleKey = "coachswordvisible";
+
+QDoubleSpinBox* scoreBox(const char* name) {
+    auto* box = new QDoubleSpinBox;
+    box->setObjectName(name);
+    box->setRange(0, BestScore);
+    box->setDecimals(1);
+    box->setSingleStep(0.5);
+    box->setKeyboardTracking(false);
+    return box;
+}
+
+} // namespace
+
+CommentPage::CommentPage(NoteDesk& desk)
+    : NotePage(desk),
+      m_isVisible(new QCheckBox(tr("Show the coach's comments"))),
+      m_table(textTable({tr("Split"), tr("Comment")})),
+      m_athletesScore(scoreBox("athletesScore")),
+      m_coachsScore(scoreBox("coachsScore")),
+      m_giveUps(new QSpinBox) {
+    m_isVisible->setObjectName("commentsVisible");
+    m_table->setObjectName("comments");
+    m_table->setEditTriggers(QAbstractItemView::DoubleClicked | QAbstractItemView::SelectedClicked |
+                             QAbstractItemView::EditKeyPressed);
+    m_giveUps->setObjectName("giveUps");
+    m_giveUps->setKeyboardTracking(false);
+    addScores();
+    connect(m_isVisible, &QCheckBox::toggled, this, [this](bool isVisible) {
+        m_desk.workspace.setPreference(VisibleKey, isVisible);
+        m_table->setVisible(isVisible);
+    });
+    connect(m_table, &QTableWidget::cellChanged, this, &CommentPage::takeComment);
+}
+
+void CommentPage::addScores() {
+    auto* form = new QFormLayout(this);
+    form->setContentsMargins(0, 0, 0, 0);
+    form->setVerticalSpacing(theme::SmallSpacing);
+    form->addRow(m_isVisible);
+    form->addRow(m_table);
+    form->addRow(tr("Athlete's score"), m_athletesScore);
+    form->addRow(tr("Coach's score"), m_coachsScore);
+    form->addRow(tr("Give-ups"), m_giveUps);
+    const auto take = [this](Scorer scorer) {
+        return [this, scorer](double score) {
+            edit(tr("score"), [&](athletedata031& run) { setScore(run, scorer, score); });
+        };
+    };
+    connect(m_athletesScore, &QDoubleSpinBox::valueChanged, this, take(Scorer::Athlete));
+    connect(m_coachsScore, &QDoubleSpinBox::valueChanged, this, take(Scorer::Coach));
+    connect(m_giveUps, &QSpinBox::valueChanged, this, [this](int count) {
+        edit(tr("give-ups"), [&](athletedata031& run) { addGiveUps(run, count - run.giveups); });
+    });
+}
+
+void CommentPage::commit() {
+    QWidget* const focus = QApplication::focusWidget();
+    if (focus && isAncestorOf(focus))
+        focus->clearFocus(); // an editor of the table closes and hands its text over
+}
+
+/// Comments of a file beyond the splits of its course are listed too.
+void CommentPage::refresh() {
+    const athletedata031* const run = m_desk.record();
+    setEnabled(run);
+    const QSignalBlocker blocks[] = {QSignalBlocker(m_isVisible), QSignalBlocker(m_athletesScore),
+                                     QSignalBlocker(m_coachsScore), QSignalBlocker(m_giveUps)};
+    m_isVisible->setChecked(m_desk.workspace.preferences().boolean(VisibleKey));
+    m_table->setVisible(m_isVisible->isChecked());
+    m_athletesScore->setValue(run ? run->athletesscore : 0);
+    m_coachsScore->setValue(run ? run->coachsscore : 0);
+    m_giveUps->setValue(run ? static_cast<int>(std::clamp<std::int64_t>(run->giveups, 0, 99)) : 0);
+    std::vector<QStringList> rows;
+    const infodata031& info = m_desk.document.info();
+    const auto splits =
+        static_cast<std::size_t>(std::clamp<std::int64_t>(info.totalsplits, 0, 100));
+    const std::size_t count = run ? std::min(std::max(splits, run->sectioninfo.comments.size()),
+                                             static_cast<std::size_t>(MostSplits))
+                                  : 0;
+    for (std::size_t split = 1; split <= count; ++split) {
+        const auto title = QString::fromStdString(entryOrZero(info.splitTitles, split - 1));
+        rows.push_back({title.isEmpty() ? 'S' + QString::number(split) : title,
+                        QString::fromStdString(splitComment(*run, split))});
+    }
+    fillTable(*m_table, rows);
+    const QSignalBlocker blocked(m_table);
+    for (int row = 0; row < m_table->rowCount(); ++row)
+        m_table->item(row, 0)->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable);
+}
+
+void CommentPage::takeComment(int row, int column) {
+    const auto split = static_cast<std::size_t>(row) + 1;
+    const std::string text = m_table->item(row, column)->text().trimmed().toStdString();
+    if (column == 1 && m_desk.record() && text != splitComment(*m_desk.record(), split))
+        edit(tr("comment on split %1").arg(split),
+             [&](athletedata031& run) { setSplitComment(run, split, text); });
+}
+
+} // namespace kavela::desktop

@@ -1,0 +1,111 @@
+#include "desktop/taking/notes/lane_strip.h"
+
+#include "desktop/film/time_line.h"
+#include "desktop/shell/theme.h"
+
+#include <QMouseEvent>
+#include <QPainter>
+
+#include <algorithm>
+#include <map>
+
+namespace kavela::desktop {
+
+namespace {
+
+constexpr int RowHeight = 14;
+constexpr int Reach = 6; // pixels beside a mark that still hit it
+
+bool isOnTimeLine(const LaneMark& mark) {
+    return mark.kind == MarkKind::Start || mark.kind == MarkKind::Split;
+}
+
+} // namespace
+
+LaneStrip::LaneStrip(const TimeLine& line, QWidget* parent) : QWidget(parent), m_line(line) {
+    setObjectName("lanes");
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    setAccessibleName(tr("Notes of the run"));
+    setToolTip(tr("A click shows the frame of a mark"));
+}
+
+void LaneStrip::setLanes(const AnnotationLanes& lanes, const MarkFilter& kinds) {
+    m_titles.clear();
+    m_marks.clear();
+    std::map<int, int> rows;
+    for (const LaneMark& mark : marksOn(lanes.marks, {}, kinds)) {
+        if (isOnTimeLine(mark))
+            continue;
+        const auto [row, isNew] =
+            rows.try_emplace(mark.lane, std::min(MostRows - 1, static_cast<int>(rows.size())));
+        if (isNew && std::cmp_equal(m_titles.size(), row->second))
+            m_titles.push_back(
+                QString::fromStdString(lanes.titles.at(static_cast<std::size_t>(mark.lane))));
+        else if (isNew)
+            m_titles.back() = tr("Others");
+        m_marks.push_back(mark);
+        m_marks.back().lane = row->second;
+    }
+    setVisible(!m_titles.empty());
+    updateGeometry();
+    update();
+}
+
+void LaneStrip::setSelected(const std::optional<MarkHandle>& handle) {
+    m_selected = handle;
+    update();
+}
+
+QSize LaneStrip::sizeHint() const {
+    return {400, RowHeight * rows()};
+}
+
+QPoint LaneStrip::placeOf(const LaneMark& mark) const {
+    return {m_line.placeOf(mark.seconds), mark.lane * RowHeight + RowHeight / 2};
+}
+
+void LaneStrip::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.setFont(theme::captionFont(*this));
+    for (int row = 0; row < rows(); ++row) {
+        const QRect place(0, row * RowHeight, width(), RowHeight);
+        painter.setPen(theme::hairline(palette()));
+        painter.drawLine(place.bottomLeft(), place.bottomRight());
+    }
+    for (const LaneMark& mark : m_marks) {
+        const bool isSelected = mark.handle == m_selected;
+        const QPoint place = placeOf(mark);
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(isSelected ? theme::Accent : theme::quietText(palette()));
+        const int half = isSelected ? 3 : 1;
+        painter.drawRect(place.x() - half, place.y() - RowHeight / 2 + 2, 2 * half, RowHeight - 4);
+    }
+    for (int row = 0; row < rows(); ++row) {
+        const QString& title = m_titles[static_cast<std::size_t>(row)];
+        const QRect place(0, row * RowHeight,
+                          painter.fontMetrics().horizontalAdvance(title) + theme::SmallSpacing,
+                          RowHeight - 1);
+        QColor behind = palette().color(QPalette::Window);
+        behind.setAlpha(200); // marks below the title stay seen
+        painter.fillRect(place, behind);
+        painter.setPen(theme::quietText(palette()));
+        painter.drawText(place, Qt::AlignLeft | Qt::AlignVCenter, title);
+    }
+}
+
+void LaneStrip::mousePressEvent(QMouseEvent* event) {
+    const LaneMark* nearest = nullptr;
+    int least = Reach + 1;
+    for (const LaneMark& mark : m_marks) {
+        const QPoint place = placeOf(mark);
+        const int distance = std::abs(place.x() - event->pos().x());
+        if (std::abs(place.y() - event->pos().y()) <= RowHeight / 2 && distance < least) {
+            least = distance;
+            nearest = &mark;
+        }
+    }
+    if (nearest)
+        emit chosen(nearest->handle);
+}
+
+} // namespace kavela::desktop

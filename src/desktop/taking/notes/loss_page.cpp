@@ -1,0 +1,383 @@
+#include "desktop/taking/notes/loss_page.h"
+
+#include "common/number_text.h"
+#include "desktop/shell/theme.h"
+#include "desktop/shell/workspace.h"
+#include "desktop/taking/notes/code_combo.h"
+#include "desktop/taking/taking_document.h"
+#include "splitdata/run_timing.h"
+#include "splittaking/annotations/remembered_texts.h"
+
+#include <QComboBox>
+#include <QFormLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPushButton>
+#include <QSignalBlocker>
+#include <QTableWidget>
+#include <QTimer>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+namespace kavela::desktop {
+
+namespace {
+
+constexpr const char* ReasonsKey = "savedTLreasons";
+
+constexpr std::array CodeMembers{&timeloss031::gateCombination, &timeloss031::gateDetails,
+                                 &timeloss031::style, &timeloss031::waterFeature};
+
+QString runName(const athletedata031& run) {
+    const QString crew = QString::fromStdString(crewText(run.names));
+    return run.phase.empty() ? crew : crew + " · " + QString::fromStdString(run.phase);
+}
+
+bool isOwn(LossMark which) {
+    return which == LossMark::OwnStart || which == LossMark::OwnEnd;
+}
+
+QString textOf(LossMark which) {
+    return which == LossMark::OwnStart || which == LossMark::VersusStart ? LossPage::tr("Start")
+                                                                         : LossPage::tr("End");
+}
+
+QString signedText(double value) {
+    return QString(value > 0 ? "+" : "") + QString::fromStdString(hundredthsText(value));
+}
+
+} // namespace
+
+LossPage::LossPage(NoteDesk& desk) : NotePage(desk) {
+    makeParts();
+    auto* form = new QFormLayout;
+    form->addRow(tr("Against"), m_versus);
+    auto* section = new QHBoxLayout;
+    auto* over = new QPushButton(tr("Add over the section"));
+    over->setObjectName("lossAdd");
+    section->addWidget(m_split, 1);
+    section->addWidget(over);
+    form->addRow(section);
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(theme::SmallSpacing);
+    column->addLayout(form);
+    column->addWidget(m_table, 1);
+    makeMarks(*column);
+    makeCodes(*column);
+    connect(over, &QPushButton::clicked, this,
+            [this] { add(static_cast<std::size_t>(m_split->currentIndex() + 1)); });
+    connect(m_table, &QTableWidget::cellClicked, this, [this](int row) {
+        m_loss = static_cast<std::size_t>(row);
+        refresh();
+    });
+}
+
+void LossPage::makeParts() {
+    m_versus = new QComboBox;
+    m_versus->setObjectName("lossVersus");
+    m_versus->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    m_versus->setMinimumContentsLength(8);
+    m_split = new QComboBox;
+    m_split->setObjectName("lossSplit");
+    m_table = textTable({tr("Against"), tr("Seconds"), tr("Percent")});
+    m_table->setObjectName("losses");
+    m_table->setMinimumHeight(70);
+    m_table->setMaximumHeight(110);
+    m_result = new QLabel;
+    m_result->setObjectName("lossResult");
+    m_result->setWordWrap(true);
+    m_reasons = new QListWidget;
+    m_reasons->setObjectName("lossReasons");
+    m_reasons->setMinimumHeight(60);
+    m_newReason = new QLineEdit;
+    m_newReason->setObjectName("lossNewReason");
+    m_newReason->setPlaceholderText(tr("Another reason"));
+    m_comment = new QLineEdit;
+    m_comment->setObjectName("lossComment");
+    m_comment->setPlaceholderText(tr("Comment"));
+    m_other = new QPushButton(tr("To the other run"));
+    m_other->setObjectName("lossOther");
+    connect(m_other, &QPushButton::clicked, this, &LossPage::goToOtherRun);
+    connect(m_newReason, &QLineEdit::editingFinished, this, &LossPage::addReason);
+    connect(m_comment, &QLineEdit::editingFinished, this, [this] {
+        if (loss() && m_comment->isModified())
+            change(tr("comment on a time loss"), [&](timeloss031& changed) {
+                changed.comments = m_comment->text().trimmed().toStdString();
+            });
+    });
+    connect(m_reasons, &QListWidget::itemChanged, this, [this](const QListWidgetItem* item) {
+        const std::string reason = item->text().toStdString();
+        // Later, as the list is filled anew and the item goes.
+        QTimer::singleShot(0, this, [this, reason] {
+            change(tr("reason of a time loss"),
+                   [&](timeloss031& changed) { toggleReason(changed, reason); });
+        });
+    });
+}
+
+void LossPage::makeMarks(QVBoxLayout& column) {
+    column.addWidget(m_result);
+    for (const bool own : {true, false}) {
+        auto* row = new QHBoxLayout;
+        row->addWidget(new QLabel(own ? tr("This run") : tr("Other run")), 1);
+        for (std::size_t i = own ? 0 : 2; i < (own ? 2U : Marks); ++i) {
+            auto* button = new QPushButton;
+            button->setObjectName(QStringLiteral("lossMark%1").arg(i));
+            button->setToolTip(tr("Sets this mark at the frame shown"));
+            m_marks[i] = button;
+            row->addWidget(button);
+            connect(button, &QPushButton::clicked, this, [this, i] {
+                if (const auto moment = m_desk.moment())
+                    setMarkHere(static_cast<LossMark>(i), *moment);
+            });
+        }
+        column.addLayout(row);
+    }
+    column.addWidget(m_other);
+}
+
+void LossPage::makeCodes(QVBoxLayout& column) {
+    struct Row {
+        LabelList list;
+        QString title;
+        const char* name;
+    };
+    const std::array rows{
+        Row{LabelList::LossGateCombination, tr("Gates"), "lossGates"},
+        Row{LabelList::LossGateDetails, tr("Part"), "lossPart"},
+        Row{LabelList::LossStyle, tr("Style"), "lossStyle"},
+        Row{LabelList::LossWaterFeature, tr("Water"), "lossWater"},
+    };
+    auto* form = new QFormLayout;
+    form->setVerticalSpacing(theme::SmallSpacing);
+    for (std::size_t i = 0; i < rows.size(); ++i) {
+        m_codes[i] = new CodeCombo(rows[i].list);
+        m_codes[i]->setObjectName(rows[i].name);
+        form->addRow(rows[i].title, m_codes[i]);
+        connect(m_codes[i], &CodeCombo::codeChosen, this, [this, i](std::int64_t code) {
+            change(tr("kind of a time loss"),
+                   [&](timeloss031& changed) { changed.*CodeMembers[i] = code; });
+        });
+    }
+    column.addLayout(form);
+    column.addWidget(m_reasons, 1);
+    column.addWidget(m_newReason);
+    column.addWidget(m_comment);
+}
+
+const timeloss031* LossPage::loss() const {
+    if (m_owner < 0 || m_owner >= m_desk.document.runCount() || !m_loss)
+        return nullptr;
+    const auto& losses = m_desk.document.run(m_owner).timeslosses;
+    return *m_loss < losses.size() ? &losses[*m_loss] : nullptr;
+}
+
+/// The run that a loss was marked against: the one with its film, or else with its crew.
+std::optional<int> LossPage::otherRun() const {
+    const timeloss031* const inHand = loss();
+    if (!inHand)
+        return std::nullopt;
+    const std::string film = entryOrZero(inHand->videos, VersusSide);
+    for (int run = 0; run < m_desk.document.runCount(); ++run) {
+        const athletedata031& record = m_desk.document.run(run);
+        const bool isSame = film.empty() ? crewText(record.names) == inHand->versus
+                                         : entryOrZero(record.videoname, 0) == film;
+        if (run != m_owner && isSame)
+            return run;
+    }
+    return std::nullopt;
+}
+
+bool LossPage::isOnOtherRun() const {
+    return m_desk.run != m_owner && m_desk.run >= 0 && otherRun() == m_desk.run;
+}
+
+void LossPage::refresh() {
+    if (const int run = m_desk.record() ? m_desk.run : -1; run != m_owner && !isOnOtherRun()) {
+        m_owner = run;
+        m_loss.reset();
+    }
+    if (!loss())
+        m_loss.reset();
+    showVersus();
+    showLosses();
+    showMarks();
+    showWords();
+}
+
+/// The runs that a new loss can be against, and the sections; what is chosen stays.
+void LossPage::showVersus() {
+    const QVariant chosen = m_versus->currentData();
+    m_versus->clear();
+    for (int run = 0; run < m_desk.document.runCount(); ++run)
+        if (run != m_owner)
+            m_versus->addItem(runName(m_desk.document.run(run)), run);
+    m_versus->setCurrentIndex(std::max(0, m_versus->findData(chosen)));
+    const int split = m_split->currentIndex();
+    m_split->clear();
+    const infodata031& info = m_desk.document.info();
+    for (std::size_t i = 0; std::cmp_less(i, std::min<std::int64_t>(info.totalsplits, 100)); ++i) {
+        const auto title = QString::fromStdString(entryOrZero(info.splitTitles, i));
+        m_split->addItem(title.isEmpty() ? 'S' + QString::number(i + 1) : title);
+    }
+    m_split->setCurrentIndex(std::clamp(split, -1 + (m_split->count() > 0), m_split->count() - 1));
+}
+
+int LossPage::chosenVersus() const {
+    return m_versus->count() > 0 ? m_versus->currentData().toInt() : -1;
+}
+
+void LossPage::showLosses() {
+    std::vector<QStringList> rows;
+    if (m_owner >= 0)
+        for (const timeloss031& each : m_desk.document.run(m_owner).timeslosses)
+            rows.push_back({QString::fromStdString(each.versus), signedText(each.timeloss),
+                            signedText(each.timelossper)});
+    fillTable(*m_table, rows);
+    m_table->setCurrentCell(m_loss ? static_cast<int>(*m_loss) : -1, m_loss ? 0 : -1);
+}
+
+void LossPage::showMarks() {
+    const timeloss031* const inHand = loss();
+    for (std::size_t i = 0; i < Marks; ++i) {
+        const auto which = static_cast<LossMark>(i);
+        const auto moment = inHand ? markOf(*inHand, which) : std::nullopt;
+        m_marks[i]->setText(
+            textOf(which) + ' ' +
+            (moment ? QString::fromStdString(hundredthsText(moment->seconds())) : "–"));
+        m_marks[i]->setEnabled(inHand && isOwn(which) != isOnOtherRun());
+    }
+    m_other->setEnabled(otherRun().has_value());
+    m_other->setText(isOnOtherRun() ? tr("Back to the run") : tr("To the other run"));
+    if (!inHand) {
+        m_result->setText(tr("M marks where the stretch starts and makes a time loss."));
+        return;
+    }
+    const auto fault = faultOfMarks(*inHand);
+    m_result->setText(tr("%1 s (%2 %) against %3")
+                          .arg(signedText(inHand->timeloss))
+                          .arg(signedText(inHand->timelossper))
+                          .arg(QString::fromStdString(inHand->versus)) +
+                      (fault ? '\n' + QString::fromStdString(*fault) : QString()));
+}
+
+/// Kinds, reasons and comment: the reasons saved for reuse, and those of the loss.
+void LossPage::showWords() {
+    const timeloss031* const inHand = loss();
+    const timeloss031 shown = inHand ? *inHand : timeloss031{};
+    for (std::size_t i = 0; i < Codes; ++i) {
+        m_codes[i]->setCode(shown.*CodeMembers[i]);
+        m_codes[i]->setEnabled(inHand);
+    }
+    const QSignalBlocker blocked(m_reasons);
+    m_reasons->clear();
+    m_reasons->setEnabled(inHand);
+    for (const std::string& reason :
+         withRemembered(shown.reasons, m_desk.workspace.preferences().array(ReasonsKey))) {
+        auto* item = new QListWidgetItem(QString::fromStdString(reason), m_reasons);
+        const bool isGiven = std::ranges::count(shown.reasons, reason) > 0;
+        item->setCheckState(isGiven ? Qt::Checked : Qt::Unchecked);
+    }
+    m_newReason->setEnabled(inHand);
+    m_comment->setEnabled(inHand);
+    if (!m_comment->hasFocus() || !m_comment->isModified())
+        m_comment->setText(QString::fromStdString(shown.comments));
+}
+
+/// Split 0 is a loss without marks.
+void LossPage::add(std::size_t split) {
+    const int versus = chosenVersus();
+    if (!m_desk.record() || m_desk.run != m_owner || versus < 0) {
+        emit told(isOnOtherRun() ? tr("Go back to the run that lost the time first.")
+                                 : tr("A time loss needs another run to compare with."));
+        return;
+    }
+    const athletedata031& other = m_desk.document.run(versus);
+    m_loss = m_desk.record()->timeslosses.size();
+    edit(tr("time loss"), [&](athletedata031& run) {
+        run.timeslosses.push_back(split > 0 ? lossOverSplit(run, other, split)
+                                            : lossAgainst(run, other));
+    });
+}
+
+void LossPage::mark(const Stamps& stamps) {
+    if (!loss()) {
+        const int versus = chosenVersus();
+        if (versus < 0) {
+            emit told(tr("A time loss needs another run to compare with."));
+            return;
+        }
+        timeloss031 made = lossAgainst(*m_desk.record(), m_desk.document.run(versus));
+        setMark(made, LossMark::OwnStart, stamps.front());
+        m_loss = m_desk.record()->timeslosses.size();
+        edit(tr("time loss"), [&](athletedata031& run) { run.timeslosses.push_back(made); });
+        emit marked(MarkKind::TimeLoss, stamps.front());
+        emit flashed(tr("Start"));
+        return;
+    }
+    for (const LossMark which : isOnOtherRun()
+                                    ? std::array{LossMark::VersusStart, LossMark::VersusEnd}
+                                    : std::array{LossMark::OwnStart, LossMark::OwnEnd})
+        if (!markOf(*loss(), which)) {
+            setMarkHere(which, stamps.front());
+            return;
+        }
+    emit told(tr("Start and end of this stretch are marked. Their buttons move them."));
+}
+
+void LossPage::setMarkHere(LossMark which, const CMTime& moment) {
+    change(tr("mark of a time loss"),
+           [&](timeloss031& changed) { setMark(changed, which, moment); });
+    if (isOwn(which))
+        emit marked(MarkKind::TimeLoss, moment);
+    emit flashed(textOf(which));
+}
+
+void LossPage::choose(const LaneMark& mark) {
+    if (mark.handle.record == m_loss && m_owner == m_desk.run)
+        return;
+    m_owner = m_desk.run;
+    m_loss = mark.handle.record;
+    refresh();
+}
+
+void LossPage::removeCurrent() {
+    if (!loss())
+        return;
+    const std::size_t removed = *m_loss;
+    m_loss.reset();
+    m_desk.document.editRun(m_owner, tr("time loss removed"),
+                            [&](athletedata031& run) { removeTimeLoss(run, removed); });
+}
+
+void LossPage::goToOtherRun() {
+    if (m_desk.run != m_owner)
+        emit runRequested(m_owner);
+    else if (const auto other = otherRun())
+        emit runRequested(*other);
+}
+
+void LossPage::change(const QString& what, const std::function<void(timeloss031&)>& act) {
+    if (loss())
+        m_desk.document.editRun(m_owner, what,
+                                [&](athletedata031& run) { act(run.timeslosses.at(*m_loss)); });
+}
+
+/// A new reason is kept for other losses.
+void LossPage::addReason() {
+    const std::string reason = m_newReason->text().trimmed().toStdString();
+    m_newReason->clear();
+    if (reason.empty() || !loss())
+        return;
+    const std::vector<std::string> used{reason};
+    m_desk.workspace.setPreference(
+        ReasonsKey, withRemembered(m_desk.workspace.preferences().array(ReasonsKey), used));
+    if (std::ranges::count(loss()->reasons, reason) == 0)
+        change(tr("reason of a time loss"),
+               [&](timeloss031& changed) { toggleReason(changed, reason); });
+}
+
+} // namespace kavela::desktop

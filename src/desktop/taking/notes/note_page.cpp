@@ -1,0 +1,82 @@
+#include "desktop/taking/notes/note_page.h"
+
+#include "common/number_text.h"
+#include "desktop/film/film_deck.h"
+#include "desktop/taking/taking_document.h"
+
+#include <QHeaderView>
+#include <QSignalBlocker>
+#include <QTableWidget>
+
+namespace kavela::desktop {
+
+QString titleOf(NoteMode mode) {
+    switch (mode) {
+    case NoteMode::Splits:
+        return NotePage::tr("Splits");
+    case NoteMode::Penalties:
+        return NotePage::tr("Penalties");
+    case NoteMode::Upstreams:
+        return NotePage::tr("Upstreams");
+    case NoteMode::Strokes:
+        return NotePage::tr("Strokes");
+    case NoteMode::MicroSplits:
+        return NotePage::tr("Micro splits");
+    case NoteMode::Tags:
+        return NotePage::tr("Tags");
+    case NoteMode::TimeLosses:
+        return NotePage::tr("Time losses");
+    case NoteMode::Comments:
+        break;
+    }
+    return NotePage::tr("Comments");
+}
+
+const athletedata031* NoteDesk::record() const {
+    return run >= 0 && run < document.runCount() ? &document.run(run) : nullptr;
+}
+
+std::optional<CMTime> NoteDesk::moment() const {
+    const FilmPicture* const shown = deck.shown(0);
+    return shown ? std::optional(shown->frame.stamp) : std::nullopt;
+}
+
+void NotePage::edit(const QString& what, const std::function<void(athletedata031&)>& change) {
+    if (m_desk.record())
+        m_desk.document.editRun(m_desk.run, what, change);
+}
+
+QTableWidget* textTable(const QStringList& titles) {
+    auto* table = new QTableWidget(0, static_cast<int>(titles.size()));
+    table->setHorizontalHeaderLabels(titles);
+    table->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    table->setSelectionBehavior(QAbstractItemView::SelectRows);
+    table->setSelectionMode(QAbstractItemView::SingleSelection);
+    table->setShowGrid(false);
+    table->verticalHeader()->hide();
+    table->verticalHeader()->setDefaultSectionSize(table->fontMetrics().height() + 8);
+    table->horizontalHeader()->setHighlightSections(false);
+    table->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    table->horizontalHeader()->setStretchLastSection(true);
+    return table;
+}
+
+void fillTable(QTableWidget& table, const std::vector<QStringList>& rows) {
+    const QSignalBlocker blocked(table);
+    const int current = table.currentRow();
+    table.setRowCount(static_cast<int>(rows.size()));
+    for (int row = 0; row < table.rowCount(); ++row)
+        for (int column = 0; column < table.columnCount(); ++column) {
+            if (!table.item(row, column)) // one that is being edited must stay
+                table.setItem(row, column, new QTableWidgetItem);
+            table.item(row, column)->setText(rows[static_cast<std::size_t>(row)].value(column));
+        }
+    if (current >= 0 && current < table.rowCount() && current != table.currentRow())
+        table.setCurrentCell(current, 0);
+}
+
+QString timeOrDash(double seconds) {
+    return seconds == 0 ? QStringLiteral("–") : QString::fromStdString(hundredthsText(seconds));
+}
+
+} // namespace kavela::desktop

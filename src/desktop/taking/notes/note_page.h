@@ -1,0 +1,105 @@
+#pragma once
+
+#include "common/alerts.h"
+#include "splittaking/annotations/lanes.h"
+#include "splittaking/marking.h"
+
+#include <QWidget>
+
+#include <functional>
+
+class QTableWidget;
+
+namespace kavela::desktop {
+
+class FilmDeck;
+class GateStrip;
+class TakingDocument;
+class Workspace;
+
+/// What the marking key marks. The number of a mode is its place in the mode bar.
+enum class NoteMode {
+    Splits,
+    Penalties,
+    Upstreams,
+    Strokes,
+    MicroSplits,
+    Tags,
+    TimeLosses,
+    Comments
+};
+
+inline constexpr int NoteModes = 8;
+
+[[nodiscard]] QString titleOf(NoteMode mode);
+
+/// What the pages of all modes work on.
+struct NoteDesk {
+    TakingDocument& document;
+    FilmDeck& deck;
+    Workspace& workspace;
+    GateStrip& gates; ///< its current gate is the gate in front
+    int run = -1;     ///< in front; below 0 without one
+
+    /// The run in front; null without one.
+    [[nodiscard]] const athletedata031* record() const;
+    /// The frame of the first camera on the screen; nothing without one.
+    [[nodiscard]] std::optional<CMTime> moment() const;
+};
+
+/// The page of one mode: what it shows of the run in front, and what its keys do. Every edit is one
+/// step that can be undone.
+class NotePage : public QWidget {
+    Q_OBJECT
+
+public:
+    explicit NotePage(NoteDesk& desk) : m_desk(desk) {}
+
+    /// Why the mode cannot be entered; nothing when it can.
+    [[nodiscard]] virtual std::optional<Alert> refusal() const { return std::nullopt; }
+    virtual void enter() {}
+    /// Takes what is being typed, before another run or mode comes.
+    virtual void commit() {}
+    /// Another run, another gate in front, or another content of the run.
+    virtual void refresh() = 0;
+    /// Another frame on the screen.
+    virtual void showFrame() {}
+
+    /// The marks that the mode takes, among which its keys jump.
+    [[nodiscard]] virtual std::optional<MarkKind> kind() const { return std::nullopt; }
+    /// What the marking key does, with the stamps of all cameras.
+    virtual void mark(const Stamps& stamps) = 0;
+    /// Whether marking needs a frame on the screen; without it the stamps may be empty.
+    [[nodiscard]] virtual bool needsFrame() const { return true; }
+    /// A mark of this mode was chosen in the list of marks or on the lanes.
+    virtual void choose(const LaneMark&) {}
+    /// No mark is chosen any more.
+    virtual void unchoose() {}
+    /// What the removing key does when no mark is selected.
+    virtual void removeCurrent() {}
+    /// The next gate or the one before among those of the mode; false leaves it to the gate strip.
+    virtual bool stepGate(int) { return false; }
+
+signals:
+    /// A mark was taken at a moment, in the record of the run in front or beside it.
+    void marked(MarkKind kind, CMTime moment);
+    void flashed(const QString& text); ///< to be shown on the film for a moment
+    void told(const QString& text);    ///< to be shown below the page
+    void runRequested(int run);
+
+protected:
+    void edit(const QString& what, const std::function<void(athletedata031&)>& change);
+
+    NoteDesk& m_desk;
+};
+
+/// A table of texts without row numbers, its last column taking what is left.
+[[nodiscard]] QTableWidget* textTable(const QStringList& titles);
+
+/// Fills a table row by row, leaving the row that was current so.
+void fillTable(QTableWidget& table, const std::vector<QStringList>& rows);
+
+/// Seconds to the hundredth; a dash for 0, which was not timed.
+[[nodiscard]] QString timeOrDash(double seconds);
+
+} // namespace kavela::desktop

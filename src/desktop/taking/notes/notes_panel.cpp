@@ -1,0 +1,413 @@
+#include "desktop/taking/notes/notes_panel.h"
+
+#include "desktop/film/film_deck.h"
+#include "desktop/shell/theme.h"
+#include "desktop/shell/workspace.h"
+#include "desktop/taking/gate_strip.h"
+#include "desktop/taking/notes/comment_page.h"
+#include "desktop/taking/notes/lane_strip.h"
+#include "desktop/taking/notes/loss_page.h"
+#include "desktop/taking/notes/mark_list.h"
+#include "desktop/taking/notes/micro_page.h"
+#include "desktop/taking/notes/penalty_page.h"
+#include "desktop/taking/notes/stroke_page.h"
+#include "desktop/taking/notes/tag_page.h"
+#include "desktop/taking/notes/upstream_page.h"
+#include "desktop/taking/taking_document.h"
+#include "splittaking/messages.h"
+
+#include <QLabel>
+#include <QScrollArea>
+#include <QSignalBlocker>
+#include <QSplitter>
+#include <QStackedWidget>
+#include <QTabBar>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+namespace kavela::desktop {
+
+namespace {
+
+/// A mark moves by this where its film does not tell how far its frames are apart.
+constexpr double SecondsWithoutFrames = 0.01;
+
+std::optional<NoteMode> modeOf(MarkKind kind) {
+    switch (kind) {
+    case MarkKind::MicroSplit:
+        return NoteMode::MicroSplits;
+    case MarkKind::Upstream:
+        return NoteMode::Upstreams;
+    case MarkKind::Stroke:
+        return NoteMode::Strokes;
+    case MarkKind::TimeLoss:
+        return NoteMode::TimeLosses;
+    case MarkKind::Tag:
+        return NoteMode::Tags;
+    case MarkKind::Start:
+    case MarkKind::Split:
+        break;
+    }
+    return std::nullopt;
+}
+
+QWidget* scrolled(QWidget& page) {
+    auto* area = new QScrollArea;
+    area->setFrameShape(QFrame::NoFrame);
+    area->setWidgetResizable(true);
+    area->setWidget(&page);
+    return area;
+}
+
+} // namespace
+
+NotesPanel::NotesPanel(const NoteDesk& desk, const TimeLine& line, QWidget& splits)
+    : m_desk(desk),
+      m_bar(new QTabBar),
+      m_stack(new QStackedWidget),
+      m_told(new QLabel),
+      m_list(new MarkList),
+      m_lanes(new LaneStrip(line)) {
+    m_bar->setObjectName("modes");
+    m_bar->setExpanding(false);
+    m_bar->setDrawBase(false);
+    m_bar->setFocusPolicy(Qt::NoFocus);
+    m_told->setObjectName("noteTold");
+    m_told->setTextFormat(Qt::PlainText);
+    m_told->setWordWrap(true);
+    m_told->hide();
+    addPages(splits);
+    auto* parts = new QSplitter(Qt::Vertical);
+    parts->addWidget(m_stack);
+    parts->addWidget(m_list);
+    parts->setStretchFactor(0, 3);
+    parts->setStretchFactor(1, 2);
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(theme::Spacing, 0, 0, 0);
+    column->addWidget(parts, 1);
+    column->addWidget(m_told);
+    connect(m_bar, &QTabBar::currentChanged, this,
+            [this](int index) { setMode(static_cast<NoteMode>(index)); });
+    connect(m_list, &MarkList::chosen, this, &NotesPanel::goTo);
+    connect(m_list, &MarkList::filterChanged, this, &NotesPanel::showList);
+    connect(m_lanes, &LaneStrip::chosen, this, &NotesPanel::goTo);
+    connect(&m_desk.document, &TakingDocument::changed, this, &NotesPanel::refresh);
+    connect(&m_desk.deck, &FilmDeck::frameShown, this, &NotesPanel::showFrame);
+    connect(&m_desk.deck, &FilmDeck::indexChanged, this, &NotesPanel::showList);
+    connect(&m_desk.gates, &GateStrip::currentChanged, this, [this] {
+        if (page())
+            page()->refresh();
+    });
+}
+
+void NotesPanel::addPages(QWidget& splits) {
+    m_strokes = new StrokePage(m_desk);
+    m_tags = new TagPage(m_desk);
+    m_losses = new LossPage(m_desk);
+    m_bar->addTab(titleOf(NoteMode::Splits));
+    m_stack->addWidget(scrolled(splits));
+    addPage(new PenaltyPage(m_desk));
+    addPage(new UpstreamPage(m_desk));
+    addPage(m_strokes);
+    addPage(new MicroPage(m_desk));
+    addPage(m_tags);
+    addPage(m_losses);
+    addPage(new CommentPage(m_desk));
+}
+
+/// The pages come in the order of their modes.
+void NotesPanel::addPage(NotePage* page) {
+    const int place = m_stack->addWidget(scrolled(*page));
+    m_bar->addTab(titleOf(static_cast<NoteMode>(place)));
+    m_pages[static_cast<std::size_t>(place)] = page;
+    connect(page, &NotePage::marked, this, &NotesPanel::selectAt);
+    connect(page, &NotePage::flashed, this, &NotesPanel::flashed);
+    connect(page, &NotePage::told, this, &NotesPanel::tell);
+    connect(page, &NotePage::runRequested, this, &NotesPanel::runRequested);
+}
+
+NotePage* NotesPanel::page() const {
+    return m_pages[static_cast<std::size_t>(m_mode)];
+}
+
+void NotesPanel::setMode(NoteMode mode) {
+    NotePage* const entered = m_pages[static_cast<std::size_t>(mode)];
+    if (mode != m_mode) {
+        commit();
+        const auto refused = entered ? entered->refusal() : std::nullopt;
+        if (!refused) {
+            m_mode = mode;
+            m_stack->setCurrentIndex(static_cast<int>(mode));
+            tell({});
+            if (m_selected && modeOf(m_selected->kind) != mode)
+                clearSelection();
+            if (entered) {
+                entered->enter();
+                entered->refresh();
+            }
+            emit modeChanged();
+        } else {
+            m_desk.workspace.showAlert(*refused, window());
+        }
+    }
+    const QSignalBlocker blocked(m_bar);
+    m_bar->setCurrentIndex(static_cast<int>(m_mode));
+}
+
+bool NotesPanel::takesMarks() const {
+    return m_mode != NoteMode::Splits && m_mode != NoteMode::Comments;
+}
+
+void NotesPanel::commit() {
+    if (page())
+        page()->commit();
+}
+
+void NotesPanel::showRun(int run) {
+    commit();
+    m_desk.run = run;
+    clearSelection();
+    tell({});
+    refresh();
+}
+
+void NotesPanel::refresh() {
+    const athletedata031* const run = m_desk.record();
+    m_marks = run ? annotationLanes(*run, m_desk.document.info()) : AnnotationLanes();
+    keepSelection();
+    if (page())
+        page()->refresh();
+    showList();
+}
+
+/// The selected mark may stand elsewhere in the record after an edit, or be gone.
+void NotesPanel::keepSelection() {
+    if (!m_selected)
+        return;
+    const auto isSame = [&](const LaneMark& mark) {
+        return mark.handle == m_selected->handle && mark.time == m_selected->time;
+    };
+    const auto isMoved = [&](const LaneMark& mark) {
+        return mark.kind == m_selected->kind && mark.film == m_selected->film &&
+               mark.time == m_selected->time;
+    };
+    if (std::ranges::any_of(m_marks.marks, isSame))
+        return;
+    const auto found = std::ranges::find_if(m_marks.marks, isMoved);
+    if (found == m_marks.marks.end())
+        clearSelection();
+    else
+        select(*found);
+}
+
+void NotesPanel::showList() {
+    const FilmDeck& deck = m_desk.deck;
+    const bool hasFilm = deck.cameras() > 0 && deck.shown(0);
+    m_list->setMarks(m_desk.record(), m_marks.marks,
+                     hasFilm ? MarkList::Film{deck.start(), deck.end()} : MarkList::Film{});
+    m_lanes->setLanes(m_marks, m_list->filter());
+    showSelection();
+}
+
+void NotesPanel::showFrame() {
+    if (page())
+        page()->showFrame();
+}
+
+void NotesPanel::showSelection() {
+    const auto handle = m_selected ? std::optional(m_selected->handle) : std::nullopt;
+    m_list->setSelected(handle);
+    m_lanes->setSelected(handle);
+}
+
+void NotesPanel::clearSelection() {
+    m_selected.reset();
+    for (NotePage* const each : m_pages)
+        if (each)
+            each->unchoose();
+    showSelection();
+}
+
+void NotesPanel::select(const LaneMark& mark) {
+    m_selected = mark;
+    emit noteSelected();
+    if (page() && page()->kind() == mark.kind)
+        page()->choose(mark);
+    showSelection();
+}
+
+void NotesPanel::selectAt(MarkKind kind, const CMTime& moment) {
+    const LaneMark* found = nullptr;
+    for (const LaneMark& mark : m_marks.marks)
+        if (mark.kind == kind && mark.time == moment && mark.film.kind == FilmKind::Own &&
+            mark.film.number == 0)
+            found = &mark;
+    if (found)
+        select(LaneMark(*found));
+}
+
+/// A mark of another mode brings its mode with it, where that can be entered.
+void NotesPanel::goTo(const MarkHandle& handle) {
+    const auto found = std::ranges::find(m_marks.marks, handle, &LaneMark::handle);
+    if (found == m_marks.marks.end())
+        return;
+    const LaneMark mark = *found;
+    const auto mode = modeOf(mark.kind);
+    if (!mode) {
+        emit splitChosen(mark.kind == MarkKind::Start ? 0 : mark.handle.record + 1);
+        return;
+    }
+    const NotePage* const its = m_pages[static_cast<std::size_t>(*mode)];
+    if (!its->refusal())
+        setMode(*mode);
+    tell({});
+    select(mark);
+    seek(mark);
+}
+
+void NotesPanel::seek(const LaneMark& mark) {
+    switch (mark.film.kind) {
+    case FilmKind::Fixed:
+        tell(tr("This mark lies on the film of a fixed camera."));
+        return;
+    case FilmKind::Versus:
+        m_losses->goToOtherRun();
+        break;
+    case FilmKind::Own:
+        if (mark.film.number > 0) {
+            m_desk.deck.seek(mark.seconds);
+            return;
+        }
+        break;
+    }
+    m_desk.deck.seek(mark.time);
+}
+
+/// The stamps of the frames on the screen; nothing, once the coach was told why, where the mode
+/// needs them and there are none.
+std::optional<Stamps> NotesPanel::stampsToMark() {
+    tell({});
+    Stamps stamps = m_desk.deck.stamps();
+    if (m_desk.record() && (!stamps.empty() || !page()->needsFrame()))
+        return stamps;
+    if (!m_desk.record() || m_desk.deck.cameras() == 0)
+        m_desk.workspace.showAlert({"", messages::NoVideo}, window());
+    else
+        tell(tr("No frame of the film is shown that could be marked."));
+    return std::nullopt;
+}
+
+void NotesPanel::mark() {
+    if (const auto stamps = stampsToMark())
+        page()->mark(*stamps);
+}
+
+void NotesPanel::actIn(NoteMode mode, const std::function<void()>& act) {
+    if (m_mode == mode)
+        act();
+    else
+        tell(tr("This key works in the mode %1.").arg(titleOf(mode)));
+}
+
+void NotesPanel::markStroke(HandCode hand) {
+    if (const auto stamps = stampsToMark())
+        m_strokes->markHand(*stamps, hand);
+}
+
+void NotesPanel::swapHand() {
+    m_strokes->swapChosen();
+}
+
+void NotesPanel::playTag() {
+    m_tags->playPart();
+}
+
+void NotesPanel::goToOtherRun() {
+    m_losses->goToOtherRun();
+}
+
+/// What is marked on one camera follows on the others.
+void NotesPanel::moveSelected(const CMTime& moment) {
+    const LaneMark mark = *m_selected;
+    m_desk.document.editRun(m_desk.run, tr("mark moved"), [&](athletedata031& run) {
+        m_selected->handle = moveLaneMark(run, m_desk.document.info(), mark.handle, moment);
+        m_selected->time = moment;
+    });
+    if (m_selected)
+        select(LaneMark(*m_selected));
+}
+
+void NotesPanel::moveMarkHere() {
+    if (!m_selected || !m_desk.record())
+        return;
+    if (m_selected->film.kind != FilmKind::Own) {
+        tell(tr("This mark lies on another film than the one shown."));
+        return;
+    }
+    const Stamps stamps = m_desk.deck.stamps();
+    const auto camera = static_cast<std::size_t>(m_selected->film.number);
+    if (camera < stamps.size())
+        moveSelected(stamps[camera]);
+}
+
+CMTime NotesPanel::nudged(const LaneMark& mark, int frames) const {
+    const auto camera = static_cast<std::size_t>(mark.film.number);
+    const bool isShown = mark.film.kind == FilmKind::Own && camera < m_desk.deck.cameras();
+    const auto index = isShown ? m_desk.deck.index(camera) : nullptr;
+    const auto frame = index ? index->frameAt(mark.time) : std::nullopt;
+    const auto target = frame ? *frame + frames : -1;
+    if (frame && target >= 0 && target < index->frameCount())
+        return index->stampOf(target);
+    return later(mark.time, frames * SecondsWithoutFrames);
+}
+
+void NotesPanel::nudgeMark(int frames) {
+    if (m_selected && m_desk.record())
+        moveSelected(nudged(*m_selected, frames));
+}
+
+void NotesPanel::deleteMark() {
+    if (!m_desk.record())
+        return;
+    if (!m_selected) {
+        if (page())
+            page()->removeCurrent();
+        return;
+    }
+    const MarkHandle handle = m_selected->handle;
+    clearSelection();
+    m_desk.document.editRun(m_desk.run, tr("mark removed"), [&](athletedata031& run) {
+        removeLaneMark(run, m_desk.document.info(), handle);
+    });
+}
+
+/// The mark of the mode before or after the frame on the screen; without a film, beside the
+/// selected one.
+bool NotesPanel::stepMark(int step) {
+    const auto kind = page() ? page()->kind() : std::nullopt;
+    if (!kind)
+        return false;
+    const auto shown = m_desk.moment();
+    const std::optional<CMTime> now = shown        ? shown
+                                      : m_selected ? std::optional(m_selected->time)
+                                                   : std::nullopt;
+    const std::array kinds{*kind};
+    const auto place = now ? step < 0 ? previousMark(m_marks.marks, {}, *now, onlyKinds(kinds))
+                                      : nextMark(m_marks.marks, {}, *now, onlyKinds(kinds))
+                           : std::nullopt;
+    if (place)
+        goTo(m_marks.marks[*place].handle);
+    return true;
+}
+
+bool NotesPanel::stepGate(int step) {
+    return page() && page()->stepGate(step);
+}
+
+void NotesPanel::tell(const QString& text) {
+    m_told->setText(text);
+    m_told->setVisible(!text.isEmpty());
+}
+
+} // namespace kavela::desktop

@@ -1,0 +1,108 @@
+#pragma once
+
+#include "desktop/taking/notes/note_page.h"
+#include "splitdata/annotation_labels.h"
+
+#include <QWidget>
+
+#include <array>
+
+class QLabel;
+class QStackedWidget;
+class QTabBar;
+
+namespace kavela::desktop {
+
+class LaneStrip;
+class LossPage;
+class MarkList;
+class StrokePage;
+class TagPage;
+class TimeLine;
+
+/// The modes of split taking: a bar to choose one from, its page beside the film, the list of all
+/// marks of the run and their lanes under the time line. Splits keep their own keys and page; in
+/// the other modes the same keys act on the marks of the mode.
+class NotesPanel : public QWidget {
+    Q_OBJECT
+
+public:
+    /// `splits` is the page of the splits.
+    NotesPanel(const NoteDesk& desk, const TimeLine& line, QWidget& splits);
+
+    [[nodiscard]] QTabBar& bar() const { return *m_bar; }
+    [[nodiscard]] LaneStrip& lanes() const { return *m_lanes; }
+    [[nodiscard]] MarkList& list() const { return *m_list; }
+
+    [[nodiscard]] NoteMode mode() const { return m_mode; }
+    /// Enters a mode; one that cannot be entered tells why, and the present one stays.
+    void setMode(NoteMode mode);
+
+    void showRun(int run);
+    /// Takes what is being typed.
+    void commit();
+
+    /// Whether the marking key is the mode's, and not that of the splits.
+    [[nodiscard]] bool takesMarks() const;
+    /// Whether the keys of the selected mark are, as long as no split is selected.
+    [[nodiscard]] bool takesEdits() const { return takesMarks() || m_selected; }
+    /// The mark that keys act on; none while a split is selected.
+    [[nodiscard]] const std::optional<LaneMark>& selected() const { return m_selected; }
+    void clearSelection();
+
+    // What the keys do in a mode that marks.
+    void mark();
+    /// Does what a key does in its mode; in another one it tells where it works.
+    void actIn(NoteMode mode, const std::function<void()>& act);
+    void markStroke(HandCode hand);
+    void swapHand();
+    void moveMarkHere();
+    void nudgeMark(int frames);
+    void deleteMark();
+    /// False where the mode has no marks of its own to go to.
+    [[nodiscard]] bool stepMark(int step);
+    [[nodiscard]] bool stepGate(int step);
+    void playTag();
+    void goToOtherRun();
+
+signals:
+    void modeChanged();
+    void noteSelected();                ///< a mark that is no split
+    void splitChosen(std::size_t mark); ///< 0 is the start, 1 the first split
+    void flashed(const QString& text);
+    void runRequested(int run);
+
+private:
+    void addPages(QWidget& splits);
+    void addPage(NotePage* page);
+    [[nodiscard]] NotePage* page() const;
+    void refresh();
+    void showFrame();
+    void showList();
+    void keepSelection();
+    void showSelection();
+    [[nodiscard]] std::optional<Stamps> stampsToMark();
+    void select(const LaneMark& mark);
+    void selectAt(MarkKind kind, const CMTime& moment);
+    void goTo(const MarkHandle& handle);
+    void seek(const LaneMark& mark);
+    [[nodiscard]] CMTime nudged(const LaneMark& mark, int frames) const;
+    void moveSelected(const CMTime& moment);
+    void tell(const QString& text);
+
+    NoteDesk m_desk;
+    NoteMode m_mode = NoteMode::Splits;
+    QTabBar* m_bar;
+    QStackedWidget* m_stack;
+    QLabel* m_told;
+    MarkList* m_list;
+    LaneStrip* m_lanes;
+    std::array<NotePage*, NoteModes> m_pages{}; ///< by mode; none for the splits
+    StrokePage* m_strokes = nullptr;
+    TagPage* m_tags = nullptr;
+    LossPage* m_losses = nullptr;
+    AnnotationLanes m_marks;
+    std::optional<LaneMark> m_selected;
+};
+
+} // namespace kavela::desktop

@@ -1,0 +1,198 @@
+#include "desktop/taking/notes/penalty_page.h"
+
+#include "desktop/shell/theme.h"
+#include "desktop/taking/gate_strip.h"
+#include "desktop/taking/notes/code_combo.h"
+#include "desktop/taking/taking_document.h"
+#include "splitdata/run_timing.h"
+
+#include <QFormLayout>
+#include <QLabel>
+#include <QTableWidget>
+
+#include <algorithm>
+
+namespace kavela::desktop {
+
+namespace {
+
+std::size_t placeOf(PenaltyField field) {
+    return static_cast<std::size_t>(field);
+}
+
+QString textOf(const PenaltyEntry& entry, PenaltyField field) {
+    return entry[field] ? QString::fromStdString(labelOf(*labelListOf(field), *entry[field]))
+                        : QString();
+}
+
+} // namespace
+
+PenaltyPage::PenaltyPage(NoteDesk& desk)
+    : NotePage(desk),
+      m_front(new QLabel),
+      m_outOfStep(new QLabel),
+      m_table(textTable({tr("Gate"), tr("Penalty"), tr("Pole"), tr("With")})) {
+    m_front->setObjectName("penaltyFront");
+    m_front->setFont(theme::titleFont(*this));
+    m_front->setWordWrap(true);
+    m_outOfStep->setObjectName("penaltyOutOfStep");
+    m_outOfStep->setWordWrap(true);
+    m_table->setObjectName("penalties");
+    addCodes();
+    connect(m_table, &QTableWidget::cellClicked, this, [this](int row) { choose(row); });
+}
+
+void PenaltyPage::addCodes() {
+    auto* form = new QFormLayout(this);
+    form->setContentsMargins(0, 0, 0, 0);
+    form->setVerticalSpacing(theme::SmallSpacing);
+    form->addRow(m_front);
+    struct Row {
+        PenaltyField field;
+        QString title;
+        const char* name;
+    };
+    for (const Row& row : {Row{PenaltyField::Kind, tr("Penalty"), "penaltyKind"},
+                           Row{PenaltyField::Pole, tr("Pole"), "penaltyPole"},
+                           Row{PenaltyField::Way, tr("With"), "penaltyWay"},
+                           Row{PenaltyField::Moment, tr("Moment"), "penaltyMoment"},
+                           Row{PenaltyField::GateKind, tr("Gate is"), "penaltyGateKind"},
+                           Row{PenaltyField::Direction, tr("Boat moves"), "penaltyDirection"},
+                           Row{PenaltyField::Style, tr("Style"), "penaltyStyle"},
+                           Row{PenaltyField::Eye, tr("Eyes"), "penaltyEye"}}) {
+        auto* combo = new CodeCombo(*labelListOf(row.field));
+        combo->setObjectName(row.name);
+        m_codes[placeOf(row.field)] = combo;
+        form->addRow(row.title, combo);
+        connect(combo, &CodeCombo::codeChosen, this,
+                [this, field = row.field](std::int64_t code) { change(field, code); });
+    }
+    form->addRow(m_outOfStep);
+    form->addRow(m_table);
+}
+
+std::int64_t PenaltyPage::codeOf(PenaltyField field) const {
+    return m_codes[placeOf(field)]->code();
+}
+
+void PenaltyPage::refresh() {
+    const athletedata031* const run = m_desk.record();
+    m_entries = run ? penaltyEntries(*run) : std::vector<PenaltyEntry>();
+    const bool isChosenThere = m_chosen && std::ranges::any_of(m_entries, [&](const auto& entry) {
+                                   return entry.handle == *m_chosen;
+                               });
+    const bool isSamePlace = m_gate == m_desk.gates.current() && m_run == m_desk.run;
+    if (!isChosenThere || !isSamePlace)
+        chooseAtGate();
+    showChosen();
+    showTable();
+    showOutOfStep();
+}
+
+/// The last penalty of the gate in front; a gate without one offers the codes that are likely
+/// there.
+void PenaltyPage::chooseAtGate() {
+    m_gate = m_desk.gates.current();
+    m_run = m_desk.run;
+    m_chosen.reset();
+    for (const PenaltyEntry& entry : m_entries)
+        if (entry[PenaltyField::Gate] == m_gate)
+            m_chosen = entry.handle;
+    if (m_chosen)
+        return;
+    const bool isUpstream = std::ranges::count(m_desk.document.info().upGates, m_gate) > 0;
+    for (CodeCombo* const combo : m_codes)
+        if (combo)
+            combo->setCode(0);
+    m_codes[placeOf(PenaltyField::GateKind)]->setCode(
+        kavela::codeOf(LabelList::PenaltyGateKind, isUpstream ? "upstream" : "downstream")
+            .value_or(0));
+}
+
+void PenaltyPage::showChosen() {
+    const athletedata031* const run = m_desk.record();
+    const std::int64_t seconds =
+        run ? entryOrZero(run->sectioninfo.pens, static_cast<std::size_t>(m_gate - 1)) : 0;
+    m_front->setText(tr("Gate %1: %2 s. M adds a penalty.").arg(m_gate).arg(seconds));
+    if (!m_chosen)
+        return;
+    const auto chosen = std::ranges::find(m_entries, *m_chosen, &PenaltyEntry::handle);
+    for (std::size_t field = 0; field < PenaltyFields; ++field) {
+        if (m_codes[field] && chosen->codes[field])
+            m_codes[field]->setCode(*chosen->codes[field]);
+        else if (m_codes[field])
+            m_codes[field]->clearCode();
+    }
+}
+
+void PenaltyPage::showTable() {
+    std::vector<QStringList> rows;
+    int current = -1;
+    for (const PenaltyEntry& entry : m_entries) {
+        if (entry.handle == m_chosen)
+            current = static_cast<int>(rows.size());
+        const auto gate = entry[PenaltyField::Gate];
+        rows.push_back({gate ? QString::number(*gate) : QStringLiteral("–"),
+                        textOf(entry, PenaltyField::Kind), textOf(entry, PenaltyField::Pole),
+                        textOf(entry, PenaltyField::Way)});
+    }
+    fillTable(*m_table, rows);
+    m_table->setCurrentCell(current, current < 0 ? -1 : 0);
+}
+
+void PenaltyPage::showOutOfStep() {
+    QStringList gates;
+    if (const athletedata031* const run = m_desk.record())
+        for (const std::int64_t gate : gatesOutOfStep(*run, m_desk.document.info().gates))
+            gates.append(QString::number(gate));
+    m_outOfStep->setVisible(!gates.isEmpty());
+    m_outOfStep->setText(
+        tr("The seconds differ from the penalties listed at gate %1.").arg(gates.join(", ")));
+}
+
+void PenaltyPage::choose(int row) {
+    const PenaltyEntry& entry = m_entries.at(static_cast<std::size_t>(row));
+    const auto gate = entry[PenaltyField::Gate].value_or(0);
+    if (gate >= 1 && gate <= m_desk.document.info().gates)
+        m_desk.gates.setCurrent(static_cast<int>(gate));
+    m_gate = m_desk.gates.current();
+    m_chosen = entry.handle;
+    refresh();
+}
+
+void PenaltyPage::mark(const Stamps&) {
+    const auto gates = m_desk.document.info().gates;
+    if (gates <= 0) {
+        emit told(tr("The course has no gates yet: Ctrl+G sets it up."));
+        return;
+    }
+    const PenaltyDetail detail{m_gate,
+                               codeOf(PenaltyField::GateKind),
+                               codeOf(PenaltyField::Kind),
+                               codeOf(PenaltyField::Pole),
+                               codeOf(PenaltyField::Way),
+                               codeOf(PenaltyField::Moment),
+                               codeOf(PenaltyField::Direction),
+                               codeOf(PenaltyField::Style),
+                               codeOf(PenaltyField::Eye)};
+    edit(tr("penalty at gate %1").arg(m_gate),
+         [&](athletedata031& run) { m_chosen = addPenalty(run, detail, gates); });
+}
+
+void PenaltyPage::removeCurrent() {
+    if (!m_chosen)
+        return;
+    const PenaltyHandle removed = *m_chosen;
+    m_chosen.reset();
+    edit(tr("penalty removed"),
+         [&](athletedata031& run) { removePenalty(run, removed, m_desk.document.info().gates); });
+}
+
+void PenaltyPage::change(PenaltyField field, std::int64_t code) {
+    if (m_chosen)
+        edit(tr("penalty at gate %1").arg(m_gate), [&](athletedata031& run) {
+            changePenalty(run, *m_chosen, field, code, m_desk.document.info().gates);
+        });
+}
+
+} // namespace kavela::desktop

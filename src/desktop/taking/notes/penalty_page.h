@@ -1,0 +1,45 @@
+#pragma once
+
+#include "desktop/taking/notes/note_page.h"
+#include "splittaking/annotations/penalty_details.h"
+
+class QLabel;
+
+namespace kavela::desktop {
+
+class CodeCombo;
+
+/// The penalties of a run in detail. The marking key adds one to the gate in front; penalties have
+/// no moment on the film.
+class PenaltyPage : public NotePage {
+    Q_OBJECT
+
+public:
+    explicit PenaltyPage(NoteDesk& desk);
+
+    void refresh() override;
+    void mark(const Stamps& stamps) override;
+    [[nodiscard]] bool needsFrame() const override { return false; }
+    void removeCurrent() override;
+
+private:
+    void addCodes();
+    void chooseAtGate();
+    void showChosen();
+    void showTable();
+    void showOutOfStep();
+    void choose(int row);
+    void change(PenaltyField field, std::int64_t code);
+    [[nodiscard]] std::int64_t codeOf(PenaltyField field) const;
+
+    QLabel* m_front;
+    QLabel* m_outOfStep;
+    std::array<CodeCombo*, PenaltyFields> m_codes{}; ///< by field; none for the gate
+    QTableWidget* m_table;
+    std::vector<PenaltyEntry> m_entries; ///< as in the table
+    std::optional<PenaltyHandle> m_chosen;
+    int m_gate = 0; ///< that was in front when a penalty was chosen
+    int m_run = -1;
+};
+
+} // namespace kavela::desktop

@@ -1,0 +1,185 @@
+#include "desktop/taking/notes/tag_page.h"
+
+#include "common/number_text.h"
+#include "desktop/film/film_deck.h"
+#include "desktop/shell/theme.h"
+#include "desktop/shell/workspace.h"
+#include "desktop/taking/taking_document.h"
+#include "splittaking/annotations/custom_tags.h"
+#include "splittaking/annotations/remembered_texts.h"
+#include "splittaking/annotations/upstream_gates.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QFormLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QSignalBlocker>
+#include <QTableWidget>
+
+#include <algorithm>
+
+namespace kavela::desktop {
+
+namespace {
+
+constexpr const char* SavedKey = "savedtags";
+constexpr const char* IndexKey = "comtagIndex";
+constexpr const char* JustPartKey = "tagmodeplaysjustpart";
+
+} // namespace
+
+TagPage::TagPage(NoteDesk& desk)
+    : NotePage(desk),
+      m_name(new QComboBox),
+      m_justPart(new QCheckBox(tr("Play just the tagged part"))),
+      m_table(textTable({tr("Time"), tr("Tag")})) {
+    m_name->setObjectName("tagName");
+    m_name->setEditable(true);
+    m_name->setInsertPolicy(QComboBox::NoInsert);
+    m_justPart->setObjectName("tagJustPart");
+    m_table->setObjectName("tags");
+    auto* rename = new QPushButton(tr("Rename the tag"));
+    rename->setObjectName("tagRename");
+    rename->setToolTip(tr("Gives the selected tag the name above"));
+    auto* hint = new QLabel(tr("M sets the tag at the frame shown."));
+    auto* form = new QFormLayout(this);
+    form->setContentsMargins(0, 0, 0, 0);
+    form->setVerticalSpacing(theme::SmallSpacing);
+    form->addRow(hint);
+    form->addRow(tr("Tag"), m_name);
+    form->addRow(rename);
+    form->addRow(m_justPart);
+    form->addRow(m_table);
+    connect(rename, &QPushButton::clicked, this, &TagPage::renameChosen);
+    connect(m_justPart, &QCheckBox::toggled, this,
+            [this](bool isOn) { m_desk.workspace.setPreference(JustPartKey, isOn); });
+    connect(m_name, &QComboBox::activated, this, [this] { remember(name()); });
+    connect(m_table, &QTableWidget::cellClicked, this, [this](int row) {
+        const LaneMark tag = m_tags.at(static_cast<std::size_t>(row));
+        emit marked(MarkKind::Tag, tag.time);
+        playPart();
+    });
+}
+
+std::optional<Alert> TagPage::refusal() const {
+    return tagModeRefusal(m_desk.record() != nullptr);
+}
+
+QStringList TagPage::names() const {
+    std::vector<athletedata031> runs; // their tags only: recordings of sensors are large
+    for (const TakenRun& run : m_desk.document.state().runs)
+        runs.emplace_back().customData = run.record->customData;
+    QStringList texts;
+    for (const std::string& text :
+         tagNames(m_desk.document.info(), m_desk.workspace.preferences().array(SavedKey), runs))
+        texts.append(QString::fromStdString(text));
+    return texts;
+}
+
+QString TagPage::name() const {
+    return m_name->currentText().trimmed();
+}
+
+/// A new name is saved for reuse, and the one chosen is offered first the next time.
+void TagPage::remember(const QString& name) {
+    if (!names().contains(name)) {
+        const std::vector<std::string> used{name.toStdString()};
+        m_desk.workspace.setPreference(
+            SavedKey, withRemembered(m_desk.workspace.preferences().array(SavedKey), used));
+    }
+    m_desk.workspace.setPreference(
+        IndexKey, static_cast<std::int64_t>(std::max<qsizetype>(0, names().indexOf(name))));
+}
+
+/// What is being typed stays.
+void TagPage::showNames() {
+    const QSignalBlocker blocked(m_name);
+    const QString typed = m_name->currentText();
+    const QStringList texts = names();
+    m_name->clear();
+    m_name->addItems(texts);
+    const auto last = m_desk.workspace.preferences().integer(IndexKey);
+    m_name->setCurrentText(typed.isEmpty() ? texts.value(static_cast<qsizetype>(last)) : typed);
+}
+
+void TagPage::showTable() {
+    const athletedata031* const run = m_desk.record();
+    m_tags.clear();
+    if (run)
+        for (LaneMark& mark : annotationLanes(*run, m_desk.document.info()).marks)
+            if (mark.kind == MarkKind::Tag && mark.film.kind == FilmKind::Own)
+                m_tags.push_back(std::move(mark));
+    std::vector<QStringList> rows;
+    for (const LaneMark& tag : m_tags)
+        rows.push_back({QString::fromStdString(hundredthsText(runSecondsAt(*run, tag.time))),
+                        QString::fromStdString(tag.text)});
+    fillTable(*m_table, rows);
+}
+
+void TagPage::refresh() {
+    showNames();
+    const QSignalBlocker blocked(m_justPart);
+    m_justPart->setChecked(m_desk.workspace.preferences().boolean(JustPartKey));
+    showTable();
+}
+
+void TagPage::mark(const Stamps& stamps) {
+    if (name().isEmpty()) {
+        emit told(tr("Choose or type the name of the tag first."));
+        return;
+    }
+    const QString text = name();
+    remember(text);
+    edit(tr("tag %1").arg(text),
+         [&](athletedata031& run) { addTag(run, 0, text.toStdString(), stamps.front()); });
+    emit marked(MarkKind::Tag, stamps.front());
+    emit flashed(text);
+}
+
+void TagPage::choose(const LaneMark& mark) {
+    m_chosen = mark;
+}
+
+void TagPage::renameChosen() {
+    if (!m_chosen || name().isEmpty()) {
+        emit told(tr("Select a tag and write its new name."));
+        return;
+    }
+    const QString text = name();
+    remember(text);
+    edit(tr("tag renamed"), [&](athletedata031& run) {
+        renameTag(run, {m_chosen->handle.record, m_chosen->handle.entry}, text.toStdString());
+    });
+}
+
+void TagPage::playPart() {
+    if (!m_chosen || m_desk.deck.cameras() == 0)
+        return;
+    m_part.reset();
+    if (m_desk.workspace.preferences().boolean(JustPartKey)) {
+        double end = m_chosen->seconds + PartSeconds;
+        for (const LaneMark& tag : m_tags)
+            if (tag.film == m_chosen->film && tag.seconds > m_chosen->seconds)
+                end = std::min(end, tag.seconds);
+        m_part = Part{m_chosen->seconds, end};
+    }
+    m_desk.deck.seek(m_chosen->time);
+    m_desk.deck.play(1);
+}
+
+/// A coach who goes somewhere else has left the part.
+void TagPage::showFrame() {
+    constexpr double FrameSlack = 0.5; // seconds, of the frame before the first one
+    if (!m_part)
+        return;
+    const double now = m_desk.deck.position();
+    if (now < m_part->from - FrameSlack || now > m_part->to + FrameSlack) {
+        m_part.reset();
+    } else if (now >= m_part->to) {
+        m_part.reset();
+        m_desk.deck.pause();
+    }
+}
+
+} // namespace kavela::desktop

@@ -1,0 +1,52 @@
+#pragma once
+
+#include "desktop/taking/notes/note_page.h"
+
+class QCheckBox;
+class QComboBox;
+
+namespace kavela::desktop {
+
+/// The coach's own tags. Names are those of the file, the ones saved for reuse, or typed anew; the
+/// one chosen last is remembered.
+class TagPage : public NotePage {
+    Q_OBJECT
+
+public:
+    explicit TagPage(NoteDesk& desk);
+
+    [[nodiscard]] std::optional<Alert> refusal() const override;
+    void refresh() override;
+    void showFrame() override;
+    [[nodiscard]] std::optional<MarkKind> kind() const override { return MarkKind::Tag; }
+    void mark(const Stamps& stamps) override;
+    void choose(const LaneMark& mark) override;
+    void unchoose() override { m_chosen.reset(); }
+    /// Plays from the chosen tag, and where the coach wants just that, no further than its part:
+    /// to the next tag, at most PartSeconds.
+    void playPart();
+    void renameChosen();
+
+    static constexpr double PartSeconds = 10;
+
+private:
+    [[nodiscard]] QStringList names() const;
+    [[nodiscard]] QString name() const;
+    void remember(const QString& name);
+    void showNames();
+    void showTable();
+
+    struct Part {
+        double from = 0;
+        double to = 0;
+    };
+
+    QComboBox* m_name;
+    QCheckBox* m_justPart;
+    QTableWidget* m_table;
+    std::vector<LaneMark> m_tags; ///< as in the table
+    std::optional<LaneMark> m_chosen;
+    std::optional<Part> m_part; ///< that is being played
+};
+
+} // namespace kavela::desktop

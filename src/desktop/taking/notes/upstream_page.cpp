@@ -1,0 +1,212 @@
+#include "desktop/taking/notes/upstream_page.h"
+
+#include "common/number_text.h"
+#include "desktop/shell/theme.h"
+#include "desktop/taking/gate_strip.h"
+#include "desktop/taking/notes/code_combo.h"
+#include "desktop/taking/taking_document.h"
+#include "splittaking/annotations/upstream_gates.h"
+
+#include <QCheckBox>
+#include <QFormLayout>
+#include <QLabel>
+#include <QTableWidget>
+
+#include <algorithm>
+
+namespace kavela::desktop {
+
+namespace {
+
+QString nameOf(GateMark which) {
+    switch (which) {
+    case GateMark::Entrance:
+        return UpstreamPage::tr("entrance");
+    case GateMark::Middle:
+        return UpstreamPage::tr("middle");
+    case GateMark::Exit:
+        break;
+    }
+    return UpstreamPage::tr("exit");
+}
+
+} // namespace
+
+UpstreamPage::UpstreamPage(NoteDesk& desk)
+    : NotePage(desk),
+      m_front(new QLabel),
+      m_times(new QLabel),
+      m_withMiddle(new QCheckBox(tr("Mark the pole line too"))),
+      m_direction(new CodeCombo(LabelList::UpstreamDirection)),
+      m_style(new CodeCombo(LabelList::UpstreamStyle)),
+      m_table(textTable({tr("Gate"), tr("In"), tr("Out"), tr("Total"), tr("Turn")})) {
+    m_front->setObjectName("upstreamFront");
+    m_front->setFont(theme::titleFont(*this));
+    m_times->setObjectName("upstreamTimes");
+    m_withMiddle->setObjectName("upstreamMiddle");
+    m_withMiddle->setChecked(true);
+    m_direction->setObjectName("upstreamDirection");
+    m_style->setObjectName("upstreamStyle");
+    m_table->setObjectName("upstreams");
+    auto* form = new QFormLayout(this);
+    form->setContentsMargins(0, 0, 0, 0);
+    form->setVerticalSpacing(theme::SmallSpacing);
+    form->addRow(m_front);
+    form->addRow(m_times);
+    form->addRow(m_withMiddle);
+    form->addRow(tr("Turn to the"), m_direction);
+    form->addRow(tr("Style"), m_style);
+    form->addRow(m_table);
+    connect(m_withMiddle, &QCheckBox::toggled, this, &UpstreamPage::refresh);
+    connect(m_direction, &CodeCombo::codeChosen, this,
+            [this](std::int64_t code) { changeCode(&upstreamdata025::direction, code); });
+    connect(m_style, &CodeCombo::codeChosen, this,
+            [this](std::int64_t code) { changeCode(&upstreamdata025::style, code); });
+    connect(m_table, &QTableWidget::cellClicked, this,
+            [this](int row) { m_desk.gates.setCurrent(m_table->item(row, 0)->text().toInt()); });
+}
+
+std::optional<Alert> UpstreamPage::refusal() const {
+    return upstreamModeRefusal(m_desk.document.info());
+}
+
+void UpstreamPage::enter() {
+    if (!gate() || !nextMark())
+        goOn();
+    if (!gate()) // all are marked
+        m_desk.gates.setCurrent(static_cast<int>(upstreamGates(m_desk.document.info()).front()));
+}
+
+/// The gate in front when it is an upstream gate.
+std::optional<std::int64_t> UpstreamPage::gate() const {
+    const auto gates = upstreamGates(m_desk.document.info());
+    const std::int64_t current = m_desk.gates.current();
+    return std::ranges::find(gates, current) == gates.end() ? std::nullopt : std::optional(current);
+}
+
+const upstreamdata025* UpstreamPage::entry() const {
+    const athletedata031* const run = m_desk.record();
+    const auto place = run && gate() ? upstreamAt(*run, *gate()) : std::nullopt;
+    return place ? &run->upstreams[*place] : nullptr;
+}
+
+/// The mark that the gate in front still wants; a middle left out of a finished gate is not asked
+/// for again.
+std::optional<GateMark> UpstreamPage::nextMark() const {
+    const upstreamdata025* const upstream = entry();
+    const auto isTaken = [&](GateMark which) {
+        return upstream && markOf(upstream->cmtimes, which);
+    };
+    if (!isTaken(GateMark::Entrance))
+        return GateMark::Entrance;
+    if (isTaken(GateMark::Exit))
+        return std::nullopt;
+    return m_withMiddle->isChecked() && !isTaken(GateMark::Middle) ? GateMark::Middle
+                                                                   : GateMark::Exit;
+}
+
+void UpstreamPage::goOn() {
+    const athletedata031* const run = m_desk.record();
+    if (!run)
+        return;
+    if (const auto next = nextUpstreamMark(*run, m_desk.document.info(), m_withMiddle->isChecked()))
+        m_desk.gates.setCurrent(static_cast<int>(next->gate));
+}
+
+void UpstreamPage::mark(const Stamps& stamps) {
+    const auto front = gate();
+    const auto which = front ? nextMark() : std::nullopt;
+    if (!which) {
+        emit told(front ? tr("Gate %1 is marked. N goes to the next gate, Shift+M moves the "
+                             "selected mark.")
+                              .arg(*front)
+                        : tr("Gate %1 is no upstream gate. N goes to the next one.")
+                              .arg(m_desk.gates.current()));
+        return;
+    }
+    edit(tr("%1 of gate %2").arg(nameOf(*which)).arg(*front), [&](athletedata031& run) {
+        markUpstream(run, m_desk.document.info(), *front, *which, stamps.front());
+    });
+    const upstreamdata025* const upstream = entry();
+    emit flashed(tr("Gate %1 %2").arg(*front).arg(nameOf(*which)));
+    if (const auto fault = faultOfMarks(upstream->cmtimes))
+        emit told(QString::fromStdString(*fault));
+    emit marked(MarkKind::Upstream, stamps.front());
+    if (*which == GateMark::Exit)
+        goOn();
+}
+
+void UpstreamPage::choose(const LaneMark& mark) {
+    m_desk.gates.setCurrent(
+        static_cast<int>(m_desk.record()->upstreams.at(mark.handle.record).num));
+}
+
+void UpstreamPage::removeCurrent() {
+    if (const upstreamdata025* const upstream = entry(); upstream && upstream->cmtimes.empty())
+        edit(tr("gate %1 removed").arg(*gate()),
+             [this](athletedata031& run) { removeUpstream(run, *gate()); });
+}
+
+bool UpstreamPage::stepGate(int step) {
+    const auto gates = upstreamGates(m_desk.document.info());
+    const std::int64_t current = m_desk.gates.current();
+    std::optional<std::int64_t> found;
+    for (const std::int64_t gate : gates)
+        if (step < 0 ? gate < current : gate > current && !found)
+            found = gate;
+    if (found)
+        m_desk.gates.setCurrent(static_cast<int>(*found));
+    return true;
+}
+
+void UpstreamPage::refresh() {
+    const upstreamdata025* const upstream = entry();
+    m_direction->setCode(upstream ? upstream->direction : 0);
+    m_style->setCode(upstream ? upstream->style : 0);
+    m_direction->setEnabled(upstream);
+    m_style->setEnabled(upstream);
+    if (!gate())
+        m_front->setText(tr("Gate %1 is no upstream gate").arg(m_desk.gates.current()));
+    else if (const auto which = nextMark())
+        m_front->setText(tr("Gate %1: M marks the %2").arg(*gate()).arg(nameOf(*which)));
+    else
+        m_front->setText(tr("Gate %1 is marked").arg(*gate()));
+    showTable();
+    showFrame();
+}
+
+void UpstreamPage::showTable() {
+    std::vector<QStringList> rows;
+    const athletedata031* const run = m_desk.record();
+    for (const std::int64_t number : upstreamGates(m_desk.document.info())) {
+        const auto place = run ? upstreamAt(*run, number) : std::nullopt;
+        const upstreamdata025 gate = place ? run->upstreams[*place] : upstreamdata025{};
+        const QString turn =
+            place ? QString::fromStdString(labelOf(LabelList::UpstreamDirection, gate.direction) +
+                                           ", " + labelOf(LabelList::UpstreamStyle, gate.style))
+                  : QString();
+        rows.push_back({QString::number(number), timeOrDash(gate.timeEntrace),
+                        timeOrDash(gate.timeExit), timeOrDash(gate.time), turn});
+    }
+    fillTable(*m_table, rows);
+}
+
+/// The time at the gate in front runs along with the film until its exit is marked.
+void UpstreamPage::showFrame() {
+    const upstreamdata025* const upstream = entry();
+    const auto from = upstream ? markOf(upstream->cmtimes, GateMark::Entrance) : std::nullopt;
+    const auto now = m_desk.moment();
+    double seconds = upstream ? upstream->time : 0;
+    if (from && now && nextMark())
+        seconds = std::max(0.0, secondsFrom(*from, *now));
+    m_times->setText(tr("%1 s in the gate").arg(timeOrDash(seconds)));
+}
+
+void UpstreamPage::changeCode(std::int64_t upstreamdata025::*member, std::int64_t code) {
+    edit(tr("gate %1").arg(m_desk.gates.current()), [&](athletedata031& run) {
+        if (const auto place = upstreamAt(run, m_desk.gates.current()))
+            run.upstreams[*place].*member = code;
+    });
+}
+
+} // namespace kavela::desktop

@@ -1,0 +1,48 @@
+#pragma once
+
+#include "desktop/taking/notes/note_page.h"
+#include "splittaking/annotations/gate_marks.h"
+
+class QCheckBox;
+class QLabel;
+
+namespace kavela::desktop {
+
+class CodeCombo;
+
+/// The upstream gates of a run: the gate in front is marked at its entrance, its pole line where
+/// that is wanted, and its exit; the next gate follows by itself.
+class UpstreamPage : public NotePage {
+    Q_OBJECT
+
+public:
+    explicit UpstreamPage(NoteDesk& desk);
+
+    [[nodiscard]] std::optional<Alert> refusal() const override;
+    void enter() override;
+    void refresh() override;
+    void showFrame() override;
+    [[nodiscard]] std::optional<MarkKind> kind() const override { return MarkKind::Upstream; }
+    void mark(const Stamps& stamps) override;
+    void choose(const LaneMark& mark) override;
+    /// Takes out the entry of the gate in front once it has no mark.
+    void removeCurrent() override;
+    bool stepGate(int step) override;
+
+private:
+    [[nodiscard]] std::optional<std::int64_t> gate() const;
+    [[nodiscard]] const upstreamdata025* entry() const;
+    [[nodiscard]] std::optional<GateMark> nextMark() const;
+    void goOn();
+    void showTable();
+    void changeCode(std::int64_t upstreamdata025::*member, std::int64_t code);
+
+    QLabel* m_front;
+    QLabel* m_times;
+    QCheckBox* m_withMiddle;
+    CodeCombo* m_direction;
+    CodeCombo* m_style;
+    QTableWidget* m_table;
+};
+
+} // namespace kavela::desktop
