@@ -203,7 +203,7 @@ void NotesPanel::keepSelection() {
 
 void NotesPanel::showList() {
     const FilmDeck& deck = m_desk.deck;
-    const bool hasFilm = deck.cameras() > 0 && deck.shown(0);
+    const bool hasFilm = deck.index(0) != nullptr; // which may come before or after its first frame
     m_list->setMarks(m_desk.record(), m_marks.marks,
                      hasFilm ? MarkList::Film{deck.start(), deck.end()} : MarkList::Film{});
     m_lanes->setLanes(m_marks, m_list->filter());
