@@ -240,6 +240,15 @@ void TakingDocument::editRun(int index, const QString& what,
     push(what, std::move(after));
 }
 
+void TakingDocument::editCross(const QString& what,
+                               const std::function<void(crossdata030&)>& change) {
+    auto edited = std::make_shared<crossdata030>(cross());
+    change(*edited);
+    TakingState after = m_state;
+    after.cross = std::move(edited);
+    push(what, std::move(after));
+}
+
 void TakingDocument::editInfo(const QString& what,
                               const std::function<void(infodata031&)>& change) {
     auto edited = std::make_shared<infodata031>(info());

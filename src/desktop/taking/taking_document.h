@@ -36,6 +36,7 @@ public:
 
     [[nodiscard]] const TakingState& state() const { return m_state; }
     [[nodiscard]] const infodata031& info() const { return *m_state.info; }
+    [[nodiscard]] const crossdata030& cross() const { return *m_state.cross; }
     [[nodiscard]] int runCount() const { return static_cast<int>(m_state.runs.size()); }
     [[nodiscard]] const athletedata031& run(int index) const;
     [[nodiscard]] RunMarks marks(int index) const;
@@ -55,6 +56,7 @@ public:
     void editRun(int index, const QString& what,
                  const std::function<void(athletedata031&)>& change);
     void editInfo(const QString& what, const std::function<void(infodata031&)>& change);
+    void editCross(const QString& what, const std::function<void(crossdata030&)>& change);
     void setMarks(int index, const QString& what, const RunMarks& marks);
     void addRun(const QString& what, athletedata031 run);
     void removeRun(int index);

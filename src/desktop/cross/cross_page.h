@@ -1,0 +1,71 @@
+#pragma once
+
+#include "desktop/film/time_line.h"
+#include "splitdata/cross_records.h"
+
+#include <QWidget>
+
+#include <functional>
+#include <optional>
+
+namespace kavela::desktop {
+
+class FilmDeck;
+class TakingDocument;
+class Workspace;
+
+/// What the pages of a cross race work on.
+struct CrossDesk {
+    TakingDocument& document;
+    FilmDeck& deck; ///< of the page in front
+    Workspace& workspace;
+
+    [[nodiscard]] const crossdata030& cross() const;
+    /// The frame on the screen; nothing without one, or while another one only stands in for it.
+    [[nodiscard]] std::optional<CMTime> moment() const;
+};
+
+/// A page of the cross window: what it lists, the film of what is selected there, the marks on that
+/// film, and what the keys do to them. Every edit is one step that can be undone.
+class CrossPage : public QWidget {
+    Q_OBJECT
+
+public:
+    explicit CrossPage(const CrossDesk& desk) : m_desk(desk) {}
+
+    /// Another content of the document; what was selected stays so as far as it is still there.
+    virtual void refresh() = 0;
+    /// Another frame on the screen.
+    virtual void showFrame() {}
+    /// Takes what is being typed.
+    virtual void commit() {}
+
+    /// The name of the film of what is selected, in the folder of the document; empty without one.
+    [[nodiscard]] virtual QString film() const { return {}; }
+    /// The marks on that film; numbered from 0 in their order here.
+    [[nodiscard]] virtual std::vector<LineMark> marks() const { return {}; }
+    /// The mark that keys act on, by its number.
+    [[nodiscard]] virtual std::optional<std::size_t> selectedMark() const { return std::nullopt; }
+    virtual void selectMark(std::size_t) {}
+
+    // What the keys do.
+    virtual void mark(const CMTime&) {}     ///< M, Enter: marks the frame shown
+    virtual void moveMark(const CMTime&) {} ///< moves the selected mark
+    virtual void removeMark() {}
+    virtual void stepRow(int) {}     ///< up, down: the row before, the next one
+    virtual void stepGate(int) {}    ///< P, N: the gate before, the next one
+    virtual void pressNumber(int) {} ///< 1 to 9
+
+signals:
+    void filmChanged();                ///< another film, or none
+    void marksChanged();               ///< other marks, or another one selected
+    void flashed(const QString& text); ///< to be shown on the film for a moment
+    void told(const QString& text);    ///< to be shown below the page
+
+protected:
+    void edit(const QString& what, const std::function<void(crossdata030&)>& change);
+
+    CrossDesk m_desk;
+};
+
+} // namespace kavela::desktop
