@@ -14,15 +14,15 @@ double CameraOffset::toCommon(double seconds) const {
     return seconds - own.seconds() + common.seconds();
 }
 
-CameraGroup::CameraGroup(std::vector<std::shared_ptr<VideoPlayer>> players)
-    : m_players(std::move(players)), m_offsets(m_players.size()) {
+CameraGroup::CameraGroup(std::vector<std::shared_ptr<VideoPlayer>> players, std::size_t ranging)
+    : m_players(std::move(players)), m_offsets(m_players.size()), m_ranging(ranging) {
     if (m_players.empty())
         throw std::invalid_argument("a group of no cameras");
 }
 
 void CameraGroup::updateRange(Moment now) {
     std::optional<std::pair<double, double>> range;
-    for (std::size_t i = 0; i < m_players.size(); ++i) {
+    for (std::size_t i = 0; i < std::min(m_ranging, m_players.size()); ++i) {
         const auto index = m_players[i]->index();
         if (!index || index->frameCount() == 0)
             continue;

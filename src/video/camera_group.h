@@ -4,6 +4,7 @@
 #include "video/player.h"
 
 #include <cstddef>
+#include <limits>
 #include <memory>
 #include <vector>
 
@@ -26,8 +27,10 @@ class CameraGroup {
 public:
     using Moment = PlayClock::Moment;
 
-    /// At least one player; the first one leads.
-    explicit CameraGroup(std::vector<std::shared_ptr<VideoPlayer>> players);
+    /// At least one player; the first one leads. The clock goes as far as the first `ranging` of
+    /// them have a film; further ones only follow.
+    explicit CameraGroup(std::vector<std::shared_ptr<VideoPlayer>> players,
+                         std::size_t ranging = std::numeric_limits<std::size_t>::max());
 
     [[nodiscard]] std::size_t size() const { return m_players.size(); }
     [[nodiscard]] VideoPlayer& player(std::size_t camera) { return *m_players.at(camera); }
@@ -63,6 +66,7 @@ private:
 
     std::vector<std::shared_ptr<VideoPlayer>> m_players;
     std::vector<CameraOffset> m_offsets;
+    std::size_t m_ranging;
     PlayClock m_clock;
 };
 

@@ -31,7 +31,7 @@ CameraGroup::Moment FilmDeck::now() {
     return std::chrono::steady_clock::now();
 }
 
-void FilmDeck::open(const QStringList& films) {
+void FilmDeck::open(const QStringList& films, const QStringList& beside) {
     ++m_generation;
     m_tick.stop();
     m_group.reset();
@@ -39,10 +39,11 @@ void FilmDeck::open(const QStringList& films) {
     m_slots.clear();
     m_shown.clear();
     m_films = films;
-    for (const QString& film : films)
+    m_beside = films.isEmpty() ? QStringList() : beside;
+    for (const QString& film : m_films + m_beside)
         addCamera(film);
     if (!m_players.empty()) {
-        m_group = std::make_unique<CameraGroup>(m_players);
+        m_group = std::make_unique<CameraGroup>(m_players, cameras());
         m_group->player(0).showFrame(0);
         m_group->seek(0.0, now());
     }
@@ -110,12 +111,18 @@ const FilmPicture* FilmDeck::shown(std::size_t camera) const {
 
 std::vector<CMTime> FilmDeck::stamps() const {
     std::vector<CMTime> stamps;
-    for (const auto& shown : m_shown) {
-        if (!shown || shown->isPreview)
+    for (std::size_t camera = 0; camera < cameras(); ++camera) {
+        const auto shown = stamp(camera);
+        if (!shown)
             return {};
-        stamps.push_back(shown->frame.stamp);
+        stamps.push_back(*shown);
     }
     return stamps;
+}
+
+std::optional<CMTime> FilmDeck::stamp(std::size_t camera) const {
+    const FilmPicture* const picture = shown(camera);
+    return picture && !picture->isPreview ? std::optional(picture->frame.stamp) : std::nullopt;
 }
 
 std::shared_ptr<const VideoIndex> FilmDeck::index(std::size_t camera) const {

@@ -8,7 +8,9 @@
 #include <QStringList>
 #include <QTimer>
 
+#include <algorithm>
 #include <memory>
+#include <optional>
 #include <vector>
 
 namespace kavela::desktop {
@@ -23,15 +25,27 @@ public:
     ~FilmDeck() override;
 
     /// Closes the films that are open and opens these, the first of them leading; none to close.
-    void open(const QStringList& films);
+    /// Films beside them, such as a fixed camera's of a whole race, only follow: nothing is marked
+    /// on them by the way, and they do not make the run longer.
+    void open(const QStringList& films, const QStringList& beside = {});
     [[nodiscard]] const QStringList& films() const { return m_films; }
-    [[nodiscard]] std::size_t cameras() const { return m_slots.size(); }
+    [[nodiscard]] const QStringList& filmsBeside() const { return m_beside; }
+    /// Those of the run. Films beside them have the numbers behind theirs, wherever a camera is
+    /// asked for.
+    [[nodiscard]] std::size_t cameras() const {
+        return std::min(m_slots.size(), static_cast<std::size_t>(m_films.size()));
+    }
+
+    /// All that are shown, those beside included.
+    [[nodiscard]] std::size_t views() const { return m_slots.size(); }
 
     /// The frame on the screen; null before the first one.
     [[nodiscard]] const FilmPicture* shown(std::size_t camera) const;
     /// The stamps of the frames that stand on the screen now, one per camera; empty as long as a
     /// camera shows none, or shows one that only stands in.
     [[nodiscard]] std::vector<CMTime> stamps() const;
+    /// The stamp of the frame of one camera; nothing as long as it shows none of its own.
+    [[nodiscard]] std::optional<CMTime> stamp(std::size_t camera) const;
     [[nodiscard]] std::shared_ptr<const VideoIndex> index(std::size_t camera) const;
 
     [[nodiscard]] bool isPlaying() const;
@@ -74,6 +88,7 @@ private:
 
     std::shared_ptr<FrameCache> m_cache;
     QStringList m_films;
+    QStringList m_beside;
     std::vector<QSize> m_boxes; ///< of the views, also of those that have no film now
     std::vector<std::shared_ptr<CameraSlot>> m_slots;
     std::vector<std::shared_ptr<VideoPlayer>> m_players;
