@@ -91,7 +91,7 @@ void removeFixMark(athletedata031& run, std::size_t camera, std::size_t mark) {
     eraseEntry(dates, place);
 }
 
-std::optional<CameraOffset> offsetBetween(const athletedata031& run, std::size_t first,
+std::optional<ClockOffset> offsetBetween(const athletedata031& run, std::size_t first,
                                           std::size_t second) {
     const std::vector<ReferenceDate> from = fixMarksOf(run, first);
     const std::vector<ReferenceDate> to = fixMarksOf(run, second);
@@ -101,7 +101,7 @@ std::optional<CameraOffset> offsetBetween(const athletedata031& run, std::size_t
     if (offsets.empty())
         return std::nullopt;
     std::ranges::sort(offsets);
-    return CameraOffset{percentile(offsets, 0.5), offsets.back() - offsets.front(), offsets.size()};
+    return ClockOffset{percentile(offsets, 0.5), offsets.back() - offsets.front(), offsets.size()};
 }
 
 } // namespace kavela

@@ -23,14 +23,14 @@ void moveFixMark(athletedata031& run, std::size_t camera, std::size_t mark, Refe
 void removeFixMark(athletedata031& run, std::size_t camera, std::size_t mark);
 
 /// How two cameras' clocks lie to each other.
-struct CameraOffset {
+struct ClockOffset {
     double seconds = 0;    ///< by which the second camera's clock is ahead: the median of the marks
     double spread = 0;     ///< from the smallest to the largest offset of a single mark
     std::size_t marks = 0; ///< moments marked on both
 };
 
 /// Nothing without a moment marked on both cameras.
-[[nodiscard]] std::optional<CameraOffset> offsetBetween(const athletedata031& run,
+[[nodiscard]] std::optional<ClockOffset> offsetBetween(const athletedata031& run,
                                                         std::size_t first, std::size_t second);
 
 } // namespace kavela

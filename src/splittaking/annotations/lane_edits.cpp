@@ -1,4 +1,4 @@
-#include "splittaking/annotations/custom_tags.h"
+#include "splittaking/annotations/camera_sync.h"
 #include "splittaking/annotations/lanes.h"
 #include "splittaking/annotations/strokes.h"
 #include "splittaking/annotations/time_losses.h"
@@ -92,17 +92,23 @@ CMTime& lossMark(athletedata031& run, const MarkHandle& handle) {
 
 void setTagMoment(athletedata031& run, const MarkHandle& handle, const CMTime& moment) {
     const TagHandle tag{handle.record, handle.entry};
-    if (handle.film == FilmKind::Fixed)
-        setFixedMoment(run, tag, entryOf(run.customData, tag.record, "record of tags").fixInt,
-                       moment);
-    else
+    if (handle.film != FilmKind::Fixed) {
         moveTag(run, tag, moment);
+        return;
+    }
+    const customData020& record = entryOf(run.customData, tag.record, "record of tags");
+    if (const auto date = syncDateOf(run, tag)) {
+        const double moved = secondsFrom(record.fixCMTimes.at(tag.entry), moment);
+        const ReferenceDate before = fixMarksOf(run, date->camera).at(date->mark);
+        moveFixMark(run, date->camera, date->mark, {before.seconds + moved});
+    }
+    setFixedMoment(run, tag, record.fixInt, moment);
 }
 
 void removeTagMark(athletedata031& run, const MarkHandle& handle) {
     const TagHandle tag{handle.record, handle.entry};
-    if (handle.film == FilmKind::Fixed)
-        clearFixedMoment(run, tag);
+    if (handle.film == FilmKind::Fixed || syncDateOf(run, tag))
+        removeSync(run, tag);
     else
         removeTag(run, tag);
 }
