@@ -3,12 +3,14 @@
 #include "desktop/film/film_deck.h"
 #include "desktop/shell/theme.h"
 
+#include <QApplication>
 #include <QLabel>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPainterPath>
 
 #include <cmath>
+#include <utility>
 
 namespace kavela::desktop {
 
@@ -121,16 +123,30 @@ void TimeLine::paintMarks(QPainter& painter) const {
 void TimeLine::mousePressEvent(QMouseEvent* event) {
     if (event->button() != Qt::LeftButton)
         return;
-    if (const auto mark = markAt(event->pos()))
-        emit markClicked(m_marks[*mark].number);
-    else
+    m_pressed.reset();
+    m_isDragging = false;
+    m_pressedPlace = event->pos().x();
+    if (const auto mark = markAt(event->pos())) {
+        m_pressed = m_marks[*mark].number;
+        emit markClicked(*m_pressed);
+    } else {
         m_deck.seek(momentAt(event->pos().x()));
+    }
+}
+
+void TimeLine::mouseReleaseEvent(QMouseEvent* event) {
+    const auto pressed = std::exchange(m_pressed, std::nullopt);
+    if (pressed && std::exchange(m_isDragging, false))
+        emit markDropped(*pressed, momentAt(event->pos().x()));
 }
 
 void TimeLine::mouseMoveEvent(QMouseEvent* event) {
     if (event->buttons().testFlag(Qt::LeftButton)) {
         hideThumbnail();
-        m_deck.seek(momentAt(event->pos().x()));
+        const int way = std::abs(event->pos().x() - m_pressedPlace);
+        m_isDragging = m_isDragging || way >= QApplication::startDragDistance();
+        if (!m_pressed || m_isDragging)
+            m_deck.seek(momentAt(event->pos().x()));
     } else {
         hoverAt(event->pos().x());
     }

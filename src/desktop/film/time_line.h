@@ -21,7 +21,8 @@ struct LineMark {
 };
 
 /// The film from end to end, with the marks of the run. Dragging scrubs frame by frame, a click on
-/// a mark goes to its frame, and hovering shows the frame under the pointer.
+/// a mark goes to its frame, dragging a mark moves it, and hovering shows the frame under the
+/// pointer.
 class TimeLine : public QWidget {
     Q_OBJECT
 
@@ -36,18 +37,21 @@ public:
     [[nodiscard]] QSize sizeHint() const override;
     /// Pixels from the left of a moment.
     [[nodiscard]] int placeOf(double seconds) const;
+    /// The moment of the film at so many pixels from the left.
+    [[nodiscard]] double momentAt(int place) const;
 
 signals:
     void markClicked(std::size_t number);
+    void markDropped(std::size_t number, double seconds);
 
 protected:
     void paintEvent(QPaintEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
     void leaveEvent(QEvent* event) override;
 
 private:
-    [[nodiscard]] double momentAt(int place) const;
     [[nodiscard]] std::optional<std::size_t> markAt(QPoint place) const;
     void paintMarks(QPainter& painter) const;
     void hoverAt(int place);
@@ -60,6 +64,9 @@ private:
     std::vector<LineMark> m_marks;
     std::optional<std::size_t> m_selected;
     int m_hoverPlace = 0;
+    std::optional<std::size_t> m_pressed; ///< number of the mark under the button
+    int m_pressedPlace = 0;
+    bool m_isDragging = false; ///< the mark pressed has left its place
 };
 
 } // namespace kavela::desktop

@@ -244,15 +244,15 @@ void TakingActions::makeCameraMenu() {
     FilmDeck& deck = m_window.deck();
     m_ofRun.push_back(
         add(*menu, tr("&Add another camera of this run…"), {}, [this] { m_window.addCamera(); }));
-    add(*menu, tr("Second camera one frame back"), {keys(Qt::CTRL | Qt::ALT | Qt::Key_Left)},
+    add(*menu, tr("Last camera one frame back"), {keys(Qt::CTRL | Qt::ALT | Qt::Key_Left)},
         [&deck] {
-            if (deck.cameras() > 1)
-                deck.stepAlone(1, -1);
+            if (deck.views() > 1)
+                deck.stepAlone(deck.views() - 1, -1);
         });
-    add(*menu, tr("Second camera one frame forward"), {keys(Qt::CTRL | Qt::ALT | Qt::Key_Right)},
+    add(*menu, tr("Last camera one frame forward"), {keys(Qt::CTRL | Qt::ALT | Qt::Key_Right)},
         [&deck] {
-            if (deck.cameras() > 1)
-                deck.stepAlone(1, 1);
+            if (deck.views() > 1)
+                deck.stepAlone(deck.views() - 1, 1);
         });
     add(*menu, tr("The frames shown are &one moment"), {keys(Qt::CTRL | Qt::Key_L)},
         [&deck] { deck.alignCameras(); });

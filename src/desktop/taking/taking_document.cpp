@@ -203,7 +203,14 @@ double TakingDocument::expectedTime(int index) const {
 }
 
 QString TakingDocument::film(int index, std::size_t camera) const {
-    const std::string name = entryOrZero(run(index).videoname, camera);
+    return pathOf(entryOrZero(run(index).videoname, camera));
+}
+
+QString TakingDocument::fixedFilm(int index, std::size_t camera) const {
+    return pathOf(entryOrZero(run(index).fixcameras, camera));
+}
+
+QString TakingDocument::pathOf(const std::string& name) const {
     const bool isBare = name.find_first_of("/\\") == std::string::npos && name != "..";
     return name.empty() || !isBare ? QString() : m_folder + '/' + qtText(name);
 }
@@ -246,6 +253,17 @@ void TakingDocument::editCross(const QString& what,
     change(*edited);
     TakingState after = m_state;
     after.cross = std::move(edited);
+    push(what, std::move(after));
+}
+
+void TakingDocument::editRuns(const QString& what,
+                              const std::function<void(athletedata031&)>& change) {
+    TakingState after = m_state;
+    for (TakenRun& each : after.runs) {
+        auto edited = std::make_shared<athletedata031>(*each.record);
+        change(*edited);
+        each.record = std::move(edited);
+    }
     push(what, std::move(after));
 }
 

@@ -45,6 +45,7 @@ public:
     [[nodiscard]] double expectedTime(int index) const;
     /// The film of a run's camera; empty when its name leads out of the folder.
     [[nodiscard]] QString film(int index, std::size_t camera) const;
+    [[nodiscard]] QString fixedFilm(int index, std::size_t camera) const;
 
     [[nodiscard]] const QString& folder() const { return m_folder; }
     [[nodiscard]] const QString& path() const { return m_path; }
@@ -55,6 +56,8 @@ public:
     // Every edit is one step of the undo stack; `what` names it there.
     void editRun(int index, const QString& what,
                  const std::function<void(athletedata031&)>& change);
+    /// Changes every run in one step.
+    void editRuns(const QString& what, const std::function<void(athletedata031&)>& change);
     void editInfo(const QString& what, const std::function<void(infodata031&)>& change);
     void editCross(const QString& what, const std::function<void(crossdata030&)>& change);
     void setMarks(int index, const QString& what, const RunMarks& marks);
@@ -94,6 +97,7 @@ private:
     friend class TakingStep;
 
     [[nodiscard]] std::optional<splittakerdata031> readCurrent(const QString& file, QWidget* over);
+    [[nodiscard]] QString pathOf(const std::string& film) const;
     void begin(TakingState state, const QString& path);
     void offerAutosave(QWidget* over);
     [[nodiscard]] splittakerdata031 newDocument() const;

@@ -12,6 +12,7 @@
 #include "desktop/taking/notes/notes_panel.h"
 #include "desktop/taking/run_form.h"
 #include "splitdata/loader.h"
+#include "splittaking/annotations/fixed_cameras.h"
 #include "splittaking/annotations/penalty_details.h"
 #include "splittaking/messages.h"
 #include "splittaking/training_collection.h"
@@ -45,6 +46,13 @@ CMTime nudged(const VideoIndex& index, const CMTime& stamp, int frames) {
     if (!frame)
         return stamp;
     return index.stampOf(std::clamp<FrameNumber>(*frame + frames, 0, index.frameCount() - 1));
+}
+
+/// The frame so many seconds later; the moment itself where the film is not there to tell.
+CMTime shifted(const VideoIndex* index, const CMTime& stamp, double seconds) {
+    const CMTime moment = later(stamp, seconds);
+    const auto frame = index ? index->frameAt(moment) : std::nullopt;
+    return frame ? index->stampOf(*frame) : moment;
 }
 
 } // namespace
@@ -125,7 +133,7 @@ void TakingWindow::nudgeMark(int frames) {
     if (!before)
         return;
     Stamps stamps = *before;
-    for (std::size_t camera = 0; camera < stamps.size(); ++camera)
+    for (std::size_t camera = 0; camera < std::min(stamps.size(), m_deck->cameras()); ++camera)
         if (const auto index = m_deck->index(camera))
             stamps[camera] = nudged(*index, stamps[camera], frames);
     if (*mark == 0)
@@ -133,6 +141,26 @@ void TakingWindow::nudgeMark(int frames) {
     else
         moveMark(marks, *mark, std::move(stamps));
     m_selected = mark;
+    m_document.setMarks(m_run, tr("mark moved"), marks);
+}
+
+void TakingWindow::dropMark(std::size_t mark, double seconds) {
+    const auto index = m_deck->index(0);
+    const auto frame = index ? index->frameAt(seconds) : std::nullopt;
+    RunMarks marks = m_run < 0 ? RunMarks() : m_document.marks(m_run);
+    const Stamps* const before = stampsOf(marks, mark);
+    if (!frame || !before)
+        return;
+    Stamps stamps = *before;
+    const double way = secondsFrom(stamps.front(), index->stampOf(*frame));
+    for (std::size_t camera = 0; camera < stamps.size(); ++camera)
+        stamps[camera] = shifted(camera < m_deck->cameras() ? m_deck->index(camera).get() : nullptr,
+                                 stamps[camera], way);
+    if (mark == 0)
+        setStart(marks, std::move(stamps));
+    else
+        moveMark(marks, mark, std::move(stamps));
+    select(mark);
     m_document.setMarks(m_run, tr("mark moved"), marks);
 }
 
@@ -271,6 +299,25 @@ void TakingWindow::addCamera() {
         for (const QString& name : names)
             run.videoname.push_back(name.toStdString());
     });
+}
+
+void TakingWindow::attachFixedCamera() {
+    if (m_run < 0)
+        return;
+    const QStringList names =
+        copiedIntoFolder(m_chooseFiles(tr("Attach the film of a fixed camera"), VideoFilter));
+    QStringList added;
+    const auto& attached = m_document.run(m_run).fixcameras;
+    for (const QString& name : names)
+        if (std::ranges::find(attached, name.toStdString()) == attached.end())
+            added.append(name);
+    if (!added.isEmpty())
+        m_document.editRun(m_run, tr("fixed camera attached"), [&](athletedata031& run) {
+            for (const QString& name : added)
+                (void)kavela::attachFixedCamera(run, name.toStdString());
+        });
+    if (!names.isEmpty())
+        m_notes->showFixedFilm(names.front());
 }
 
 void TakingWindow::importSplitFile() {

@@ -11,6 +11,7 @@
 #include "desktop/shell/window_place.h"
 #include "desktop/shell/workspace.h"
 #include "desktop/taking/gate_strip.h"
+#include "desktop/taking/notes/clip_player.h"
 #include "desktop/taking/notes/lane_strip.h"
 #include "desktop/taking/notes/notes_panel.h"
 #include "desktop/taking/recording/recording_dialog.h"
@@ -28,6 +29,7 @@
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
+#include <QSignalBlocker>
 #include <QSplitter>
 #include <QTabBar>
 #include <QTableView>
@@ -138,8 +140,10 @@ QWidget* TakingWindow::makeStage() {
     m_line = new TimeLine(*m_deck);
     m_splits = new SplitBar;
     m_gates = new GateStrip;
+    m_clips = new ClipPlayer(*m_deck, this);
     m_form = new RunForm(m_document, m_workspace);
-    m_notes = new NotesPanel({m_document, *m_deck, m_workspace, *m_gates}, *m_line, *m_form);
+    m_notes = new NotesPanel({m_document, *m_deck, m_workspace, *m_gates, *m_clips, m_run, {}},
+                             *m_line, *m_form);
     auto* row = new QHBoxLayout;
     row->addWidget(m_health, 1);
     row->addWidget(m_state, 0, Qt::AlignRight | Qt::AlignTop);
@@ -180,6 +184,7 @@ void TakingWindow::connectParts() {
     connect(m_deck, &FilmDeck::stateChanged, this, &TakingWindow::showState);
     connect(m_deck, &FilmDeck::indexChanged, this, &TakingWindow::showHealth);
     connect(m_line, &TimeLine::markClicked, this, &TakingWindow::goToMark);
+    connect(m_line, &TimeLine::markDropped, this, &TakingWindow::dropMark);
     connect(m_splits, &SplitBar::splitClicked, this, &TakingWindow::goToMark);
     connect(m_gates, &GateStrip::gateClicked, m_gates, &GateStrip::setCurrent);
     for (QTableView* table : {static_cast<QTableView*>(m_table), m_table->frozenView()})
@@ -195,6 +200,8 @@ void TakingWindow::connectNotes() {
     connect(m_notes, &NotesPanel::modeChanged, this, leaveSplits);
     connect(m_notes, &NotesPanel::noteSelected, this, leaveSplits);
     connect(m_notes, &NotesPanel::splitChosen, this, &TakingWindow::goToMark);
+    connect(m_notes, &NotesPanel::attachWanted, this, &TakingWindow::attachFixedCamera);
+    connect(m_notes, &NotesPanel::besideChanged, this, &TakingWindow::showBeside);
     connect(m_notes, &NotesPanel::runRequested, this, &TakingWindow::selectRun);
     connect(m_notes, &NotesPanel::flashed, this,
             [this](const QString& text) { m_views.front()->flash(text); });
@@ -243,9 +250,12 @@ void TakingWindow::selectRun(int run) {
     m_form->showRun(run);
     if (run >= 0 && m_runTable->currentIndex().row() != run)
         m_runTable->selectRow(run);
+    {
+        const QSignalBlocker blocked(m_notes); // the film beside is opened with the run's own
+        m_notes->showRun(run);
+    }
     showFilms();
     m_gates->setCurrent(1);
-    m_notes->showRun(run);
     if (run >= 0)
         m_gates->setPenalties(m_document.run(run).sectioninfo.pens);
     showMarks();
@@ -269,12 +279,18 @@ void TakingWindow::showFilms() {
     for (FilmView* view : m_views)
         delete view;
     m_views.clear();
-    for (std::size_t camera = 0; camera < std::max<std::size_t>(films.size(), 1); ++camera) {
+    QStringList beside;
+    if (const auto fixed = m_notes->fixedCamera(); fixed && m_run >= 0)
+        beside.append(m_document.fixedFilm(m_run, *fixed));
+    beside.removeAll(QString());
+    const qsizetype shown = films.isEmpty() ? 0 : films.size() + beside.size();
+    for (std::size_t camera = 0; camera < std::max<std::size_t>(shown, 1); ++camera) {
         auto* view = new FilmView(*m_deck, camera);
         m_films->addWidget(view);
         m_views.push_back(view);
     }
-    m_deck->open(films);
+    m_deck->open(films, beside);
+    m_notes->bringIntoStep();
     if (m_run < 0)
         m_views.front()->setMessage(
             tr("Import videos with Ctrl+I, or drop a folder of videos here."));
@@ -283,6 +299,16 @@ void TakingWindow::showFilms() {
     const RunMarks marks = m_run < 0 ? RunMarks() : m_document.marks(m_run);
     if (m_workspace.preferences().boolean("startinCMTime") && stampsOf(marks, 0))
         goToMark(0);
+}
+
+/// The run's own film stays where it is.
+void TakingWindow::showBeside() {
+    if (m_run >= m_document.runCount())
+        return; // another run comes to the front
+    const auto moment = m_deck->stamp(0);
+    showFilms();
+    if (moment)
+        m_deck->seek(*moment);
 }
 
 const Stamps* TakingWindow::stampsOf(const RunMarks& marks, std::size_t mark) const {

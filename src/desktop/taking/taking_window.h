@@ -17,6 +17,7 @@ class QTableView;
 
 namespace kavela::desktop {
 
+class ClipPlayer;
 class FilmDeck;
 class FilmSound;
 class FilmView;
@@ -57,6 +58,8 @@ public:
     void moveMarkHere();
     void nudgeMark(int frames);
     void deleteMark();
+    /// Moves a mark to the frame at so many seconds of the film, on all cameras by the same time.
+    void dropMark(std::size_t mark, double seconds);
     void goToMark(std::size_t mark); ///< 0 is the start, 1 the first split
     void stepMark(int step);
     void setPenalty(GatePenalty penalty);
@@ -66,6 +69,7 @@ public:
     void readFilmNames();
     void importVideos();
     void addCamera();
+    void attachFixedCamera();
     void importSplitFile();
     void importResults();
     void collectTraining();
@@ -100,6 +104,7 @@ private:
     void connectNotes();
     void showDocument();
     void showFilms();
+    void showBeside();
     void showMarks();
     void showRunning();
     void showState();
@@ -136,6 +141,7 @@ private:
     SplitBar* m_splits = nullptr;
     GateStrip* m_gates = nullptr;
     RunForm* m_form = nullptr;
+    ClipPlayer* m_clips = nullptr;
     NotesPanel* m_notes = nullptr;
     FrozenTable* m_table = nullptr;
     RecordingDialog* m_recording = nullptr; ///< made when it is first wanted

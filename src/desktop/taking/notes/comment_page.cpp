@@ -2,6 +2,7 @@
 
 #include "desktop/shell/theme.h"
 #include "desktop/shell/workspace.h"
+#include "desktop/taking/notes/radio_box.h"
 #include "desktop/taking/taking_document.h"
 #include "splitdata/run_timing.h"
 #include "splittaking/annotations/run_notes.h"
@@ -33,6 +34,12 @@ QDoubleSpinBox* scoreBox(const char* name) {
     return box;
 }
 
+/// A score of a file beyond the best one is shown as it is.
+void showScore(QDoubleSpinBox& box, double score) {
+    box.setRange(std::min(0.0, score), std::max(BestScore, score));
+    box.setValue(score);
+}
+
 } // namespace
 
 CommentPage::CommentPage(NoteDesk& desk)
@@ -41,7 +48,8 @@ CommentPage::CommentPage(NoteDesk& desk)
       m_table(textTable({tr("Split"), tr("Comment")})),
       m_athletesScore(scoreBox("athletesScore")),
       m_coachsScore(scoreBox("coachsScore")),
-      m_giveUps(new QSpinBox) {
+      m_giveUps(new QSpinBox),
+      m_radio(new RadioBox(loudspeaker, microphone)) {
     m_isVisible->setObjectName("commentsVisible");
     m_table->setObjectName("comments");
     m_table->setEditTriggers(QAbstractItemView::DoubleClicked | QAbstractItemView::SelectedClicked |
@@ -65,9 +73,13 @@ void CommentPage::addScores() {
     form->addRow(tr("Athlete's score"), m_athletesScore);
     form->addRow(tr("Coach's score"), m_coachsScore);
     form->addRow(tr("Give-ups"), m_giveUps);
+    form->addRow(m_radio);
+    addRadio();
     const auto take = [this](Scorer scorer) {
         return [this, scorer](double score) {
-            edit(tr("score"), [&](athletedata031& run) { setScore(run, scorer, score); });
+            edit(tr("score"), [&](athletedata031& run) {
+                setScore(run, scorer, std::clamp(score, 0.0, BestScore));
+            });
         };
     };
     connect(m_athletesScore, &QDoubleSpinBox::valueChanged, this, take(Scorer::Athlete));
@@ -77,7 +89,30 @@ void CommentPage::addScores() {
     });
 }
 
+void CommentPage::addRadio() {
+    connect(m_radio, &RadioBox::added, this, [this](const Blob& recording) {
+        edit(tr("team radio"), [&](athletedata031& run) { (void)addTeamRadio(run, recording); });
+    });
+    connect(m_radio, &RadioBox::removed, this, [this](int recording) {
+        edit(tr("team radio removed"), [&](athletedata031& run) {
+            removeTeamRadio(run, static_cast<std::size_t>(recording));
+        });
+    });
+    connect(m_radio, &RadioBox::moved, this, [this](int from, int to) {
+        edit(tr("team radio moved"), [&](athletedata031& run) {
+            moveTeamRadio(run, static_cast<std::size_t>(from), static_cast<std::size_t>(to));
+        });
+    });
+    connect(m_radio, &RadioBox::told, this, &CommentPage::told);
+}
+
+void CommentPage::recordRadio() {
+    if (m_desk.record())
+        m_radio->toggleRecording();
+}
+
 void CommentPage::commit() {
+    m_radio->finish();
     QWidget* const focus = QApplication::focusWidget();
     if (focus && isAncestorOf(focus))
         focus->clearFocus(); // an editor of the table closes and hands its text over
@@ -91,21 +126,19 @@ void CommentPage::refresh() {
                                      QSignalBlocker(m_coachsScore), QSignalBlocker(m_giveUps)};
     m_isVisible->setChecked(m_desk.workspace.preferences().boolean(VisibleKey));
     m_table->setVisible(m_isVisible->isChecked());
-    m_athletesScore->setValue(run ? run->athletesscore : 0);
-    m_coachsScore->setValue(run ? run->coachsscore : 0);
+    showScore(*m_athletesScore, run ? run->athletesscore : 0);
+    showScore(*m_coachsScore, run ? run->coachsscore : 0);
+    m_radio->setRecordings(run ? std::span<const Blob>(run->sectioninfo.teamradio)
+                               : std::span<const Blob>());
     m_giveUps->setValue(run ? static_cast<int>(std::clamp<std::int64_t>(run->giveups, 0, 99)) : 0);
     std::vector<QStringList> rows;
-    const infodata031& info = m_desk.document.info();
-    const auto splits =
-        static_cast<std::size_t>(std::clamp<std::int64_t>(info.totalsplits, 0, 100));
-    const std::size_t count = run ? std::min(std::max(splits, run->sectioninfo.comments.size()),
-                                             static_cast<std::size_t>(MostSplits))
-                                  : 0;
-    for (std::size_t split = 1; split <= count; ++split) {
-        const auto title = QString::fromStdString(entryOrZero(info.splitTitles, split - 1));
-        rows.push_back({title.isEmpty() ? 'S' + QString::number(split) : title,
-                        QString::fromStdString(splitComment(*run, split))});
-    }
+    QStringList names = sectionNames(m_desk.document.info());
+    const std::size_t commented = run ? run->sectioninfo.comments.size() : 0;
+    while (std::cmp_less(names.size(), std::min<std::size_t>(commented, MostSplits)))
+        names.append('S' + QString::number(names.size() + 1));
+    for (qsizetype place = 0; run && place < names.size(); ++place)
+        rows.push_back({names[place], QString::fromStdString(splitComment(
+                                          *run, static_cast<std::size_t>(place) + 1))});
     fillTable(*m_table, rows);
     const QSignalBlocker blocked(m_table);
     for (int row = 0; row < m_table->rowCount(); ++row)

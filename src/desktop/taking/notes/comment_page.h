@@ -8,7 +8,9 @@ class QSpinBox;
 
 namespace kavela::desktop {
 
-/// The coach's words on each split, the scores of the run and its give-ups.
+class RadioBox;
+
+/// The coach's words on each split, the scores of the run, its give-ups and its team radio.
 class CommentPage : public NotePage {
     Q_OBJECT
 
@@ -18,9 +20,12 @@ public:
     void commit() override;
     void refresh() override;
     void mark(const Stamps&) override {}
+    /// Begins or ends a recording of the team radio.
+    void recordRadio();
 
 private:
     void addScores();
+    void addRadio();
     void takeComment(int row, int column);
 
     QCheckBox* m_isVisible;
@@ -28,6 +33,7 @@ private:
     QDoubleSpinBox* m_athletesScore;
     QDoubleSpinBox* m_coachsScore;
     QSpinBox* m_giveUps;
+    RadioBox* m_radio;
 };
 
 } // namespace kavela::desktop

@@ -3,11 +3,13 @@
 #include "desktop/film/time_line.h"
 #include "desktop/shell/theme.h"
 
+#include <QApplication>
 #include <QMouseEvent>
 #include <QPainter>
 
 #include <algorithm>
 #include <map>
+#include <utility>
 
 namespace kavela::desktop {
 
@@ -26,7 +28,7 @@ LaneStrip::LaneStrip(const TimeLine& line, QWidget* parent) : QWidget(parent), m
     setObjectName("lanes");
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     setAccessibleName(tr("Notes of the run"));
-    setToolTip(tr("A click shows the frame of a mark"));
+    setToolTip(tr("A click shows the frame of a mark, dragging moves the mark"));
 }
 
 void LaneStrip::setLanes(const AnnotationLanes& lanes, const MarkFilter& kinds) {
@@ -72,6 +74,14 @@ void LaneStrip::paintEvent(QPaintEvent*) {
         painter.setPen(theme::hairline(palette()));
         painter.drawLine(place.bottomLeft(), place.bottomRight());
     }
+    for (int row = 0; row < rows(); ++row) {
+        const QString& title = m_titles[static_cast<std::size_t>(row)];
+        const QRect place(0, row * RowHeight,
+                          painter.fontMetrics().horizontalAdvance(title) + theme::SmallSpacing,
+                          RowHeight - 1);
+        painter.setPen(theme::quietText(palette()));
+        painter.drawText(place, Qt::AlignLeft | Qt::AlignVCenter, title);
+    }
     for (const LaneMark& mark : m_marks) {
         const bool isSelected = mark.handle == m_selected;
         const QPoint place = placeOf(mark);
@@ -80,32 +90,51 @@ void LaneStrip::paintEvent(QPaintEvent*) {
         const int half = isSelected ? 3 : 1;
         painter.drawRect(place.x() - half, place.y() - RowHeight / 2 + 2, 2 * half, RowHeight - 4);
     }
-    for (int row = 0; row < rows(); ++row) {
-        const QString& title = m_titles[static_cast<std::size_t>(row)];
-        const QRect place(0, row * RowHeight,
-                          painter.fontMetrics().horizontalAdvance(title) + theme::SmallSpacing,
-                          RowHeight - 1);
-        QColor behind = palette().color(QPalette::Window);
-        behind.setAlpha(200); // marks below the title stay seen
-        painter.fillRect(place, behind);
-        painter.setPen(theme::quietText(palette()));
-        painter.drawText(place, Qt::AlignLeft | Qt::AlignVCenter, title);
-    }
 }
 
-void LaneStrip::mousePressEvent(QMouseEvent* event) {
+const LaneMark* LaneStrip::markAt(QPoint place) const {
     const LaneMark* nearest = nullptr;
     int least = Reach + 1;
     for (const LaneMark& mark : m_marks) {
-        const QPoint place = placeOf(mark);
-        const int distance = std::abs(place.x() - event->pos().x());
-        if (std::abs(place.y() - event->pos().y()) <= RowHeight / 2 && distance < least) {
+        const QPoint drawn = placeOf(mark);
+        const int distance = std::abs(drawn.x() - place.x());
+        if (std::abs(drawn.y() - place.y()) <= RowHeight / 2 && distance < least) {
             least = distance;
             nearest = &mark;
         }
     }
-    if (nearest)
-        emit chosen(nearest->handle);
+    return nearest;
+}
+
+void LaneStrip::mousePressEvent(QMouseEvent* event) {
+    m_drag.reset();
+    const LaneMark* const mark = markAt(event->pos());
+    if (event->button() != Qt::LeftButton || !mark)
+        return;
+    const MarkHandle handle = mark->handle; // the marks may change when it is chosen
+    m_drag = Drag{handle, event->pos()};
+    emit chosen(handle);
+}
+
+void LaneStrip::mouseMoveEvent(QMouseEvent* event) {
+    if (!m_drag || !event->buttons().testFlag(Qt::LeftButton))
+        return;
+    const int way = std::abs(event->pos().x() - m_drag->from.x());
+    m_drag->isMoving = m_drag->isMoving || way >= QApplication::startDragDistance();
+    if (!m_drag->isMoving)
+        return;
+    const double seconds = m_line.momentAt(event->pos().x());
+    for (LaneMark& mark : m_marks)
+        if (mark.handle == m_drag->handle)
+            mark.seconds = seconds;
+    update();
+    emit dragged(seconds);
+}
+
+void LaneStrip::mouseReleaseEvent(QMouseEvent* event) {
+    const auto drag = std::exchange(m_drag, std::nullopt);
+    if (drag && drag->isMoving)
+        emit dropped(drag->handle, m_line.momentAt(event->pos().x()));
 }
 
 } // namespace kavela::desktop

@@ -27,15 +27,29 @@ public:
 
 signals:
     void chosen(const MarkHandle& handle);
+    void dragged(double seconds); ///< a mark is on its way
+    void dropped(const MarkHandle& handle, double seconds);
 
 protected:
     void paintEvent(QPaintEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
 
 private:
-    static constexpr int MostRows = 6; ///< further ones share the last
+    [[nodiscard]] const LaneMark* markAt(QPoint place) const;
+
+    static constexpr int MostRows = 8; ///< further ones share the last
+
+    /// A mark under the button.
+    struct Drag {
+        MarkHandle handle;
+        QPoint from;
+        bool isMoving = false; ///< the mouse has left the place where it was pressed
+    };
 
     const TimeLine& m_line;
+    std::optional<Drag> m_drag;
     std::vector<QString> m_titles;
     std::vector<LaneMark> m_marks; ///< `lane` is the row here
     std::optional<MarkHandle> m_selected;

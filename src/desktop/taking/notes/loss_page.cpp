@@ -30,11 +30,6 @@ constexpr const char* ReasonsKey = "savedTLreasons";
 constexpr std::array CodeMembers{&timeloss031::gateCombination, &timeloss031::gateDetails,
                                  &timeloss031::style, &timeloss031::waterFeature};
 
-QString runName(const athletedata031& run) {
-    const QString crew = QString::fromStdString(crewText(run.names));
-    return run.phase.empty() ? crew : crew + " · " + QString::fromStdString(run.phase);
-}
-
 bool isOwn(LossMark which) {
     return which == LossMark::OwnStart || which == LossMark::OwnEnd;
 }
@@ -218,11 +213,7 @@ void LossPage::showVersus() {
     m_versus->setCurrentIndex(std::max(0, m_versus->findData(chosen)));
     const int split = m_split->currentIndex();
     m_split->clear();
-    const infodata031& info = m_desk.document.info();
-    for (std::size_t i = 0; std::cmp_less(i, std::min<std::int64_t>(info.totalsplits, 100)); ++i) {
-        const auto title = QString::fromStdString(entryOrZero(info.splitTitles, i));
-        m_split->addItem(title.isEmpty() ? 'S' + QString::number(i + 1) : title);
-    }
+    m_split->addItems(sectionNames(m_desk.document.info()));
     m_split->setCurrentIndex(std::clamp(split, -1 + (m_split->count() > 0), m_split->count() - 1));
 }
 

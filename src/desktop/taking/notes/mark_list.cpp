@@ -57,22 +57,26 @@ bool isRepeated(const LaneMark& mark) {
 } // namespace
 
 MarkList::MarkList(QWidget* parent)
-    : QWidget(parent), m_kinds(new QToolButton), m_tree(new QTreeWidget) {
+    : QWidget(parent), m_kinds(new QToolButton), m_clips(new QToolButton), m_tree(new QTreeWidget) {
     m_tree->setObjectName("marks");
     m_tree->setRootIsDecorated(false);
     m_tree->setUniformRowHeights(true);
     m_tree->setHeaderLabels({tr("Time"), tr("Mark")});
     m_tree->header()->setSectionResizeMode(0, QHeaderView::ResizeToContents);
-    m_tree->setToolTip(tr("A click shows the frame of a mark"));
+    m_tree->setSelectionMode(QAbstractItemView::ExtendedSelection);
+    m_tree->setToolTip(tr("A click shows the frame of a mark; Ctrl and Shift choose several for "
+                          "their clips"));
     m_kinds->setObjectName("markKinds");
     m_kinds->setText(tr("Kinds"));
     m_kinds->setPopupMode(QToolButton::InstantPopup);
     m_kinds->setToolTip(tr("The kinds of marks that are listed"));
     makeFilterMenu();
+    makeClipMenu();
     auto* title = new QLabel(tr("Marks of the run"));
     title->setFont(theme::titleFont(*this));
     auto* row = new QHBoxLayout;
     row->addWidget(title, 1);
+    row->addWidget(m_clips);
     row->addWidget(m_kinds);
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
@@ -80,6 +84,8 @@ MarkList::MarkList(QWidget* parent)
     column->addLayout(row);
     column->addWidget(m_tree, 1);
     connect(m_tree, &QTreeWidget::itemClicked, this, [this](QTreeWidgetItem* item) {
+        if (m_tree->selectedItems().size() > 1)
+            return; // several are being chosen for their clips
         const auto place = static_cast<std::size_t>(item->data(0, Qt::UserRole).toULongLong());
         emit chosen(m_rows.at(place).handle);
     });
@@ -102,6 +108,47 @@ void MarkList::makeFilterMenu() {
         });
     }
     m_kinds->setMenu(menu);
+}
+
+void MarkList::makeClipMenu() {
+    m_clips->setObjectName("clips");
+    m_clips->setText(tr("Clips"));
+    m_clips->setPopupMode(QToolButton::MenuButtonPopup);
+    m_clips->setToolTip(tr("Plays the clips of the chosen marks one after another; of all that are "
+                           "listed when not several are chosen"));
+    connect(m_clips, &QToolButton::clicked, this, &MarkList::clipsWanted);
+    auto* menu = new QMenu(m_clips);
+    for (const int seconds : {1, 2, 3, 5, 8}) {
+        QAction* const action =
+            menu->addAction(tr("%n second(s) before and after a mark", nullptr, seconds));
+        action->setCheckable(true);
+        action->setData(seconds);
+        connect(action, &QAction::triggered, this, [this, seconds] {
+            setClipSeconds(seconds);
+            emit clipSecondsChanged(seconds);
+        });
+    }
+    m_clips->setMenu(menu);
+    setClipSeconds(m_clipSeconds);
+}
+
+void MarkList::setClipSeconds(int seconds) {
+    m_clipSeconds = seconds;
+    for (QAction* const action : m_clips->menu()->actions())
+        action->setChecked(action->data().toInt() == seconds);
+}
+
+std::vector<MarkHandle> MarkList::forClips() const {
+    const bool hasChosen = m_tree->selectedItems().size() > 1;
+    std::vector<MarkHandle> handles;
+    for (int row = 0; row < m_tree->topLevelItemCount(); ++row) {
+        const QTreeWidgetItem* const item = m_tree->topLevelItem(row);
+        if (!hasChosen || item->isSelected())
+            handles.push_back(
+                m_rows.at(static_cast<std::size_t>(item->data(0, Qt::UserRole).toULongLong()))
+                    .handle);
+    }
+    return handles;
 }
 
 void MarkList::setFilter(const MarkFilter& filter) {

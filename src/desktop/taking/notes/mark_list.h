@@ -29,12 +29,22 @@ public:
     [[nodiscard]] const MarkFilter& filter() const { return m_filter; }
     void setFilter(const MarkFilter& filter);
 
+    /// The marks whose clips are played: those that are selected, or all listed where there are
+    /// not several.
+    [[nodiscard]] std::vector<MarkHandle> forClips() const;
+    /// Seconds before and after a mark that belong to its clip.
+    [[nodiscard]] int clipSeconds() const { return m_clipSeconds; }
+    void setClipSeconds(int seconds);
+
 signals:
     void chosen(const MarkHandle& handle);
     void filterChanged();
+    void clipsWanted();
+    void clipSecondsChanged(int seconds);
 
 private:
     void makeFilterMenu();
+    void makeClipMenu();
     void show();
 
     struct Row {
@@ -44,7 +54,9 @@ private:
     };
 
     MarkFilter m_filter = MarkFilter().set();
+    int m_clipSeconds = 2;
     QToolButton* m_kinds;
+    QToolButton* m_clips;
     QTreeWidget* m_tree;
     std::vector<Row> m_rows;
     std::optional<MarkHandle> m_selected;

@@ -18,8 +18,8 @@ QString tr(const char* text) {
 }
 
 QKeySequence keyOf(NoteMode mode) {
-    return QKeySequence(Qt::CTRL |
-                        static_cast<Qt::Key>(static_cast<int>(Qt::Key_1) + static_cast<int>(mode)));
+    const int digit = (static_cast<int>(mode) + 1) % NoteModes; // the tenth has the key behind 9
+    return QKeySequence(Qt::CTRL | static_cast<Qt::Key>(static_cast<int>(Qt::Key_0) + digit));
 }
 
 void addModes(QMenu& menu, NotesPanel& notes) {
@@ -66,13 +66,18 @@ void addNoteMenu(QMainWindow& window, NotesPanel& notes) {
                                Entry{tr("Play from the selected tag"), Qt::SHIFT | Qt::Key_Space,
                                      NoteMode::Tags, [&notes] { notes.playTag(); }},
                                Entry{tr("To the other run of the time loss"), Qt::CTRL | Qt::Key_T,
-                                     NoteMode::TimeLosses, [&notes] { notes.goToOtherRun(); }}}) {
+                                     NoteMode::TimeLosses, [&notes] { notes.goToOtherRun(); }},
+                               Entry{tr("Record the team radio, or end it"), Qt::Key_R,
+                                     NoteMode::Comments, [&notes] { notes.recordRadio(); }}}) {
         QAction* const action = menu->addAction(entry.text);
         action->setShortcut(QKeySequence(entry.key));
         // Always enabled: a key without its action would type into the list of runs.
         QObject::connect(action, &QAction::triggered, &notes,
                          [&notes, entry] { notes.actIn(entry.mode, entry.act); });
     }
+    QAction* const clips = menu->addAction(tr("Clips of the chosen marks, one after another"));
+    clips->setShortcut(QKeySequence(Qt::Key_C));
+    QObject::connect(clips, &QAction::triggered, &notes, &NotesPanel::playClips);
 }
 
 } // namespace kavela::desktop

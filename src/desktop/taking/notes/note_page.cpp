@@ -3,6 +3,8 @@
 #include "common/number_text.h"
 #include "desktop/film/film_deck.h"
 #include "desktop/taking/taking_document.h"
+#include "splitdata/run_timing.h"
+#include "splittaking/course_setup.h"
 
 #include <QHeaderView>
 #include <QSignalBlocker>
@@ -27,9 +29,13 @@ QString titleOf(NoteMode mode) {
     case NoteMode::TimeLosses:
         return NotePage::tr("Time losses");
     case NoteMode::Comments:
+        return NotePage::tr("Comments");
+    case NoteMode::Strategies:
+        return NotePage::tr("Ways");
+    case NoteMode::Cameras:
         break;
     }
-    return NotePage::tr("Comments");
+    return NotePage::tr("Cameras");
 }
 
 const athletedata031* NoteDesk::record() const {
@@ -44,6 +50,21 @@ std::optional<CMTime> NoteDesk::moment() const {
 void NotePage::edit(const QString& what, const std::function<void(athletedata031&)>& change) {
     if (m_desk.record())
         m_desk.document.editRun(m_desk.run, what, change);
+}
+
+QString runName(const athletedata031& run) {
+    const QString crew = QString::fromStdString(crewText(run.names));
+    return run.phase.empty() ? crew : crew + " · " + QString::fromStdString(run.phase);
+}
+
+QStringList sectionNames(const infodata031& info) {
+    QStringList names;
+    for (std::size_t i = 0; std::cmp_less(i, std::min<std::int64_t>(info.totalsplits, MostSplits));
+         ++i) {
+        const auto title = QString::fromStdString(entryOrZero(info.splitTitles, i));
+        names.append(title.isEmpty() ? 'S' + QString::number(i + 1) : title);
+    }
+    return names;
 }
 
 QTableWidget* textTable(const QStringList& titles) {

@@ -12,6 +12,7 @@ class QTableWidget;
 
 namespace kavela::desktop {
 
+class ClipPlayer;
 class FilmDeck;
 class GateStrip;
 class TakingDocument;
@@ -26,10 +27,12 @@ enum class NoteMode {
     MicroSplits,
     Tags,
     TimeLosses,
-    Comments
+    Comments,
+    Strategies,
+    Cameras
 };
 
-inline constexpr int NoteModes = 8;
+inline constexpr int NoteModes = 10;
 
 [[nodiscard]] QString titleOf(NoteMode mode);
 
@@ -39,7 +42,9 @@ struct NoteDesk {
     FilmDeck& deck;
     Workspace& workspace;
     GateStrip& gates; ///< its current gate is the gate in front
-    int run = -1;     ///< in front; below 0 without one
+    ClipPlayer& clips;
+    int run = -1;                           ///< in front; below 0 without one
+    std::optional<std::size_t> fixedCamera; ///< whose film is shown beside the run's
 
     /// The run in front; null without one.
     [[nodiscard]] const athletedata031* record() const;
@@ -92,6 +97,12 @@ protected:
 
     NoteDesk& m_desk;
 };
+
+/// The crew and the phase of a run, as runs are told apart.
+[[nodiscard]] QString runName(const athletedata031& run);
+
+/// The titles of the course's sections, "S1" and so on for those without one.
+[[nodiscard]] QStringList sectionNames(const infodata031& info);
 
 /// A table of texts without row numbers, its last column taking what is left.
 [[nodiscard]] QTableWidget* textTable(const QStringList& titles);

@@ -4,12 +4,15 @@
 #include "desktop/shell/theme.h"
 #include "desktop/shell/workspace.h"
 #include "desktop/taking/gate_strip.h"
+#include "desktop/taking/notes/camera_page.h"
+#include "desktop/taking/notes/clip_player.h"
 #include "desktop/taking/notes/comment_page.h"
 #include "desktop/taking/notes/lane_strip.h"
 #include "desktop/taking/notes/loss_page.h"
 #include "desktop/taking/notes/mark_list.h"
 #include "desktop/taking/notes/micro_page.h"
 #include "desktop/taking/notes/penalty_page.h"
+#include "desktop/taking/notes/strategy_page.h"
 #include "desktop/taking/notes/stroke_page.h"
 #include "desktop/taking/notes/tag_page.h"
 #include "desktop/taking/notes/upstream_page.h"
@@ -32,6 +35,8 @@ namespace {
 
 /// A mark moves by this where its film does not tell how far its frames are apart.
 constexpr double SecondsWithoutFrames = 0.01;
+
+constexpr const char* ClipKey = "clipSeconds";
 
 std::optional<NoteMode> modeOf(MarkKind kind) {
     switch (kind) {
@@ -91,7 +96,20 @@ NotesPanel::NotesPanel(const NoteDesk& desk, const TimeLine& line, QWidget& spli
             [this](int index) { setMode(static_cast<NoteMode>(index)); });
     connect(m_list, &MarkList::chosen, this, &NotesPanel::goTo);
     connect(m_list, &MarkList::filterChanged, this, &NotesPanel::showList);
+    connect(m_list, &MarkList::clipsWanted, this, &NotesPanel::playClips);
+    connect(m_list, &MarkList::clipSecondsChanged, this, [this](int seconds) {
+        m_desk.workspace.remember(ClipKey, {QString::number(seconds)});
+    });
     connect(m_lanes, &LaneStrip::chosen, this, &NotesPanel::goTo);
+    connect(m_lanes, &LaneStrip::dragged, this,
+            [this](double seconds) { m_desk.deck.seek(seconds); });
+    connect(m_lanes, &LaneStrip::dropped, this, &NotesPanel::dropMark);
+    connect(&m_desk.clips, &ClipPlayer::began, this, [this](std::size_t clip, std::size_t clips) {
+        if (clips > 1)
+            emit flashed(tr("Clip %1 of %2").arg(clip + 1).arg(clips));
+    });
+    if (const int seconds = m_desk.workspace.remembered(ClipKey).value(0).toInt(); seconds > 0)
+        m_list->setClipSeconds(seconds);
     connect(&m_desk.document, &TakingDocument::changed, this, &NotesPanel::refresh);
     connect(&m_desk.deck, &FilmDeck::frameShown, this, &NotesPanel::showFrame);
     connect(&m_desk.deck, &FilmDeck::indexChanged, this, &NotesPanel::showList);
@@ -105,6 +123,8 @@ void NotesPanel::addPages(QWidget& splits) {
     m_strokes = new StrokePage(m_desk);
     m_tags = new TagPage(m_desk);
     m_losses = new LossPage(m_desk);
+    m_comments = new CommentPage(m_desk);
+    m_cameras = new CameraPage(m_desk);
     m_bar->addTab(titleOf(NoteMode::Splits));
     m_stack->addWidget(scrolled(splits));
     addPage(new PenaltyPage(m_desk));
@@ -113,7 +133,11 @@ void NotesPanel::addPages(QWidget& splits) {
     addPage(new MicroPage(m_desk));
     addPage(m_tags);
     addPage(m_losses);
-    addPage(new CommentPage(m_desk));
+    addPage(m_comments);
+    addPage(new StrategyPage(m_desk));
+    addPage(m_cameras);
+    connect(m_cameras, &CameraPage::attachWanted, this, &NotesPanel::attachWanted);
+    connect(m_cameras, &CameraPage::besideChanged, this, &NotesPanel::besideChanged);
 }
 
 /// The pages come in the order of their modes.
@@ -178,6 +202,8 @@ void NotesPanel::refresh() {
     keepSelection();
     if (page())
         page()->refresh();
+    if (page() != m_cameras)
+        m_cameras->refresh(); // what is shown beside the film, whatever the mode
     showList();
 }
 
@@ -269,7 +295,10 @@ void NotesPanel::goTo(const MarkHandle& handle) {
 void NotesPanel::seek(const LaneMark& mark) {
     switch (mark.film.kind) {
     case FilmKind::Fixed:
-        tell(tr("This mark lies on the film of a fixed camera."));
+        if (const auto own = m_cameras->ownSeconds(mark.film.number, mark.seconds))
+            m_desk.deck.seek(*own);
+        else
+            tell(tr("This mark lies on the film of a fixed camera that is not in step."));
         return;
     case FilmKind::Versus:
         m_losses->goToOtherRun();
@@ -327,6 +356,18 @@ void NotesPanel::goToOtherRun() {
     m_losses->goToOtherRun();
 }
 
+void NotesPanel::recordRadio() {
+    m_comments->recordRadio();
+}
+
+void NotesPanel::showFixedFilm(const QString& name) {
+    m_cameras->showFilm(name);
+}
+
+void NotesPanel::bringIntoStep() {
+    m_cameras->bringIntoStep();
+}
+
 /// What is marked on one camera follows on the others.
 void NotesPanel::moveSelected(const CMTime& moment) {
     const LaneMark mark = *m_selected;
@@ -341,20 +382,63 @@ void NotesPanel::moveSelected(const CMTime& moment) {
 void NotesPanel::moveMarkHere() {
     if (!m_selected || !m_desk.record())
         return;
-    if (m_selected->film.kind != FilmKind::Own) {
+    const auto camera = shownCamera(m_selected->film);
+    if (!camera) {
         tell(tr("This mark lies on another film than the one shown."));
         return;
     }
-    const Stamps stamps = m_desk.deck.stamps();
-    const auto camera = static_cast<std::size_t>(m_selected->film.number);
-    if (camera < stamps.size())
-        moveSelected(stamps[camera]);
+    if (const auto stamp = m_desk.deck.stamp(*camera))
+        moveSelected(*stamp);
+}
+
+/// Which of the deck's cameras shows a film of the run; nothing for one that is not open.
+std::optional<std::size_t> NotesPanel::shownCamera(const FilmOfRun& film) const {
+    const auto number = static_cast<std::size_t>(film.number);
+    const FilmDeck& deck = m_desk.deck;
+    if (film.kind == FilmKind::Own && number < deck.cameras())
+        return number;
+    if (film.kind == FilmKind::Fixed && m_desk.fixedCamera == number &&
+        !deck.filmsBeside().isEmpty())
+        return deck.cameras();
+    return std::nullopt;
+}
+
+/// The mark goes to the frame on which it was let go.
+void NotesPanel::dropMark(const MarkHandle& handle, double seconds) {
+    const auto found = std::ranges::find(m_marks.marks, handle, &LaneMark::handle);
+    if (found == m_marks.marks.end() || !m_desk.record())
+        return;
+    m_selected = *found;
+    const auto camera = shownCamera(found->film);
+    const auto index = camera ? m_desk.deck.index(*camera) : nullptr;
+    const auto frame = index ? index->frameAt(seconds) : std::nullopt;
+    moveSelected(frame ? index->stampOf(*frame) : later(found->time, seconds - found->seconds));
+}
+
+/// Marks on other films than the run's own have no place in its clips.
+void NotesPanel::playClips() {
+    const double around = m_list->clipSeconds();
+    std::vector<Clip> clips;
+    for (const MarkHandle& handle : m_list->forClips()) {
+        const auto mark = std::ranges::find(m_marks.marks, handle, &LaneMark::handle);
+        if (mark == m_marks.marks.end() || mark->film.kind == FilmKind::Versus)
+            continue;
+        const auto seconds = mark->film.kind == FilmKind::Fixed
+                                 ? m_cameras->ownSeconds(mark->film.number, mark->seconds)
+                                 : std::optional(mark->seconds);
+        if (seconds)
+            clips.push_back({std::max(m_desk.deck.start(), *seconds - around),
+                             std::min(m_desk.deck.end(), *seconds + around)});
+    }
+    std::erase_if(clips, [](const Clip& clip) { return clip.from >= clip.to; });
+    if (clips.empty())
+        tell(tr("None of these marks lies on the film that is shown."));
+    m_desk.clips.play(joinedClips(std::move(clips)));
 }
 
 CMTime NotesPanel::nudged(const LaneMark& mark, int frames) const {
-    const auto camera = static_cast<std::size_t>(mark.film.number);
-    const bool isShown = mark.film.kind == FilmKind::Own && camera < m_desk.deck.cameras();
-    const auto index = isShown ? m_desk.deck.index(camera) : nullptr;
+    const auto camera = shownCamera(mark.film);
+    const auto index = camera ? m_desk.deck.index(*camera) : nullptr;
     const auto frame = index ? index->frameAt(mark.time) : std::nullopt;
     const auto target = frame ? *frame + frames : -1;
     if (frame && target >= 0 && target < index->frameCount())

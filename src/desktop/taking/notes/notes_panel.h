@@ -13,6 +13,8 @@ class QTabBar;
 
 namespace kavela::desktop {
 
+class CameraPage;
+class CommentPage;
 class LaneStrip;
 class LossPage;
 class MarkList;
@@ -64,8 +66,20 @@ public:
     [[nodiscard]] bool stepGate(int step);
     void playTag();
     void goToOtherRun();
+    void recordRadio();
+    /// The clips of the marks chosen in the list, one after another.
+    void playClips();
+
+    /// The camera whose film is to be shown beside the run's own, of the run in front.
+    [[nodiscard]] std::optional<std::size_t> fixedCamera() const { return m_desk.fixedCamera; }
+    /// The film was attached to the run: it is shown.
+    void showFixedFilm(const QString& name);
+    /// The film beside was opened.
+    void bringIntoStep();
 
 signals:
+    void attachWanted();  ///< of a fixed camera's film
+    void besideChanged(); ///< another film is to be shown beside the run's own, or none
     void modeChanged();
     void noteSelected();                ///< a mark that is no split
     void splitChosen(std::size_t mark); ///< 0 is the start, 1 the first split
@@ -86,8 +100,10 @@ private:
     void selectAt(MarkKind kind, const CMTime& moment);
     void goTo(const MarkHandle& handle);
     void seek(const LaneMark& mark);
+    [[nodiscard]] std::optional<std::size_t> shownCamera(const FilmOfRun& film) const;
     [[nodiscard]] CMTime nudged(const LaneMark& mark, int frames) const;
     void moveSelected(const CMTime& moment);
+    void dropMark(const MarkHandle& handle, double seconds);
     void tell(const QString& text);
 
     NoteDesk m_desk;
@@ -101,6 +117,8 @@ private:
     StrokePage* m_strokes = nullptr;
     TagPage* m_tags = nullptr;
     LossPage* m_losses = nullptr;
+    CommentPage* m_comments = nullptr;
+    CameraPage* m_cameras = nullptr;
     AnnotationLanes m_marks;
     std::optional<LaneMark> m_selected;
 };

@@ -4,6 +4,7 @@
 #include "desktop/film/film_deck.h"
 #include "desktop/shell/theme.h"
 #include "desktop/shell/workspace.h"
+#include "desktop/taking/notes/clip_player.h"
 #include "desktop/taking/taking_document.h"
 #include "splittaking/annotations/custom_tags.h"
 #include "splittaking/annotations/remembered_texts.h"
@@ -131,8 +132,12 @@ void TagPage::mark(const Stamps& stamps) {
     }
     const QString text = name();
     remember(text);
-    edit(tr("tag %1").arg(text),
-         [&](athletedata031& run) { addTag(run, 0, text.toStdString(), stamps.front()); });
+    const auto fixed = m_desk.fixedCamera ? m_desk.deck.stamp(m_desk.deck.cameras()) : std::nullopt;
+    edit(tr("tag %1").arg(text), [&](athletedata031& run) {
+        const TagHandle tag = addTag(run, 0, text.toStdString(), stamps.front());
+        if (fixed)
+            (void)setFixedMoment(run, tag, static_cast<std::int64_t>(*m_desk.fixedCamera), *fixed);
+    });
     emit marked(MarkKind::Tag, stamps.front());
     emit flashed(text);
 }
@@ -156,30 +161,17 @@ void TagPage::renameChosen() {
 void TagPage::playPart() {
     if (!m_chosen || m_desk.deck.cameras() == 0)
         return;
-    m_part.reset();
-    if (m_desk.workspace.preferences().boolean(JustPartKey)) {
-        double end = m_chosen->seconds + PartSeconds;
-        for (const LaneMark& tag : m_tags)
-            if (tag.film == m_chosen->film && tag.seconds > m_chosen->seconds)
-                end = std::min(end, tag.seconds);
-        m_part = Part{m_chosen->seconds, end};
-    }
-    m_desk.deck.seek(m_chosen->time);
-    m_desk.deck.play(1);
-}
-
-/// A coach who goes somewhere else has left the part.
-void TagPage::showFrame() {
-    constexpr double FrameSlack = 0.5; // seconds, of the frame before the first one
-    if (!m_part)
+    if (!m_desk.workspace.preferences().boolean(JustPartKey)) {
+        m_desk.clips.stop();
+        m_desk.deck.seek(m_chosen->time);
+        m_desk.deck.play(1);
         return;
-    const double now = m_desk.deck.position();
-    if (now < m_part->from - FrameSlack || now > m_part->to + FrameSlack) {
-        m_part.reset();
-    } else if (now >= m_part->to) {
-        m_part.reset();
-        m_desk.deck.pause();
     }
+    double end = m_chosen->seconds + PartSeconds;
+    for (const LaneMark& tag : m_tags)
+        if (tag.film == m_chosen->film && tag.seconds > m_chosen->seconds)
+            end = std::min(end, tag.seconds);
+    m_desk.clips.play({{m_chosen->seconds, end}});
 }
 
 } // namespace kavela::desktop

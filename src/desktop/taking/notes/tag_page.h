@@ -17,7 +17,6 @@ public:
 
     [[nodiscard]] std::optional<Alert> refusal() const override;
     void refresh() override;
-    void showFrame() override;
     [[nodiscard]] std::optional<MarkKind> kind() const override { return MarkKind::Tag; }
     void mark(const Stamps& stamps) override;
     void choose(const LaneMark& mark) override;
@@ -36,17 +35,11 @@ private:
     void showNames();
     void showTable();
 
-    struct Part {
-        double from = 0;
-        double to = 0;
-    };
-
     QComboBox* m_name;
     QCheckBox* m_justPart;
     QTableWidget* m_table;
     std::vector<LaneMark> m_tags; ///< as in the table
     std::optional<LaneMark> m_chosen;
-    std::optional<Part> m_part; ///< that is being played
 };
 
 } // namespace kavela::desktop

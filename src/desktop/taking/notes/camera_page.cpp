@@ -1,0 +1,220 @@
+#include "desktop/taking/notes/camera_page.h"
+
+#include "common/number_text.h"
+#include "desktop/film/film_deck.h"
+#include "desktop/shell/theme.h"
+#include "desktop/taking/taking_document.h"
+#include "splitdata/run_timing.h"
+#include "video/recording_date.h"
+
+#include <QComboBox>
+#include <QFormLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QSignalBlocker>
+#include <QTableWidget>
+
+#include <algorithm>
+#include <cmath>
+
+namespace kavela::desktop {
+
+namespace {
+
+constexpr std::int32_t Microseconds = 1'000'000; // a second
+
+QString signedSeconds(double seconds) {
+    return QString(seconds > 0 ? "+" : "") + QString::number(seconds, 'f', 3);
+}
+
+CMTime stampOfSeconds(double seconds) {
+    return {std::llround(seconds * Microseconds), Microseconds, ValidStamp, 0};
+}
+
+} // namespace
+
+CameraPage::CameraPage(NoteDesk& desk) : NotePage(desk) {
+    makeParts();
+    auto* attach = new QPushButton(tr("Attach a film…"));
+    attach->setObjectName("cameraAttach");
+    auto* buttons = new QHBoxLayout;
+    buttons->addWidget(attach);
+    buttons->addWidget(m_detach);
+    auto* form = new QFormLayout(this);
+    form->setContentsMargins(0, 0, 0, 0);
+    form->setVerticalSpacing(theme::SmallSpacing);
+    form->addRow(tr("Beside the film"), m_cameras);
+    form->addRow(buttons);
+    form->addRow(m_all);
+    form->addRow(m_next);
+    form->addRow(m_table);
+    form->addRow(m_step);
+    connect(attach, &QPushButton::clicked, this, &CameraPage::attachWanted);
+    connect(m_detach, &QPushButton::clicked, this, &CameraPage::detach);
+    connect(m_all, &QPushButton::clicked, this, &CameraPage::attachToAll);
+    connect(m_cameras, &QComboBox::activated, this,
+            [this](int place) { choose(m_cameras->itemData(place).toString()); });
+    connect(m_table, &QTableWidget::cellClicked, this,
+            [this](int row) { m_desk.deck.seek(m_marks.at(static_cast<std::size_t>(row)).own); });
+}
+
+void CameraPage::makeParts() {
+    m_cameras = new QComboBox;
+    m_cameras->setObjectName("cameras");
+    m_cameras->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    m_cameras->setMinimumContentsLength(8);
+    m_detach = new QPushButton(tr("Detach"));
+    m_detach->setObjectName("cameraDetach");
+    m_detach->setToolTip(tr("Takes the film shown beside off this run"));
+    m_all = new QPushButton(tr("Attach it to every run"));
+    m_all->setObjectName("cameraAll");
+    m_all->setToolTip(tr("A fixed camera often films the whole race in one go"));
+    m_next = new QLabel;
+    m_next->setObjectName("cameraNext");
+    m_next->setWordWrap(true);
+    m_step = new QLabel;
+    m_step->setObjectName("cameraStep");
+    m_step->setWordWrap(true);
+    m_table = textTable({tr("Time"), tr("Tag"), tr("Lag"), tr("Off by")});
+    m_table->setObjectName("cameraMarks");
+    m_table->setMinimumHeight(110);
+}
+
+QString CameraPage::nameOf(std::size_t camera) const {
+    const athletedata031* const run = m_desk.record();
+    return run ? QString::fromStdString(entryOrZero(run->fixcameras, camera)) : QString();
+}
+
+void CameraPage::refresh() {
+    const athletedata031* const run = m_desk.record();
+    setEnabled(run);
+    const auto before = m_desk.fixedCamera;
+    m_desk.fixedCamera.reset();
+    for (std::size_t camera = 0; run && !m_film.isEmpty() && camera < run->fixcameras.size();
+         ++camera)
+        if (nameOf(camera) == m_film)
+            m_desk.fixedCamera = camera;
+    showCameras();
+    showMarks();
+    if (before != m_desk.fixedCamera)
+        emit besideChanged();
+}
+
+void CameraPage::showCameras() {
+    const QSignalBlocker blocked(m_cameras);
+    m_cameras->clear();
+    m_cameras->addItem(tr("None"), QString());
+    if (const athletedata031* const run = m_desk.record())
+        for (std::size_t camera = 0; camera < run->fixcameras.size(); ++camera)
+            m_cameras->addItem(nameOf(camera), nameOf(camera));
+    m_cameras->setCurrentIndex(m_desk.fixedCamera ? static_cast<int>(*m_desk.fixedCamera) + 1 : 0);
+    m_detach->setEnabled(m_desk.fixedCamera.has_value());
+    m_all->setEnabled(m_desk.fixedCamera.has_value() && m_desk.document.runCount() > 1);
+}
+
+void CameraPage::showMarks() {
+    const athletedata031* const run = m_desk.record();
+    m_marks = run && m_desk.fixedCamera ? syncMarksOf(*run, *m_desk.fixedCamera)
+                                        : std::vector<SyncMark>();
+    std::vector<QStringList> rows;
+    for (const SyncMark& each : m_marks)
+        rows.push_back({QString::fromStdString(hundredthsText(runSecondsAt(*run, each.own))),
+                        QString::fromStdString(each.name), QString::number(each.lag, 'f', 3),
+                        signedSeconds(each.deviation)});
+    fillTable(*m_table, rows);
+    if (!m_desk.fixedCamera) {
+        m_next->setText(run && run->fixcameras.empty()
+                            ? tr("Attach the film of a camera that stood at the course.")
+                            : tr("Choose a camera to see its film beside this one."));
+        m_step->clear();
+        return;
+    }
+    m_next->setText(tr("Find one moment on both films, the fixed camera's alone with "
+                       "Ctrl+Alt+← →. M marks it."));
+    const auto lag = lagOf(*run, *m_desk.fixedCamera);
+    m_step->setText(lag ? tr("In step: the fixed camera's film is %1 s ahead.")
+                              .arg(QString::number(*lag, 'f', 3))
+                    : lagByDates(*m_desk.fixedCamera)
+                        ? tr("Placed by the dates in the two films, to a second or two.")
+                        : tr("Not in step yet."));
+}
+
+void CameraPage::choose(const QString& film) {
+    m_film = film;
+    refresh();
+}
+
+void CameraPage::showFilm(const QString& name) {
+    choose(name);
+}
+
+void CameraPage::detach() {
+    if (!m_desk.fixedCamera)
+        return;
+    const std::size_t camera = *m_desk.fixedCamera;
+    edit(tr("fixed camera detached"), [&](athletedata031& run) { detachFixedCamera(run, camera); });
+}
+
+void CameraPage::attachToAll() {
+    if (!m_desk.fixedCamera)
+        return;
+    const std::string film = nameOf(*m_desk.fixedCamera).toStdString();
+    m_desk.document.editRuns(tr("fixed camera for every run"), [&](athletedata031& run) {
+        if (std::ranges::find(run.fixcameras, film) == run.fixcameras.end())
+            (void)attachFixedCamera(run, film);
+    });
+}
+
+void CameraPage::mark(const Stamps& stamps) {
+    if (!m_desk.fixedCamera) {
+        emit told(m_next->text());
+        return;
+    }
+    const std::size_t camera = *m_desk.fixedCamera;
+    const auto fixed = m_desk.deck.stamp(m_desk.deck.cameras());
+    if (!fixed) {
+        emit told(tr("The film of the fixed camera shows no frame yet."));
+        return;
+    }
+    const QString film = m_desk.document.fixedFilm(m_desk.run, camera);
+    const ReferenceDate began = recordingBegan(film.toStdString()).value_or(ReferenceDate{});
+    edit(tr("moment on both films"),
+         [&](athletedata031& run) { markSync(run, camera, stamps.front(), *fixed, began); });
+    bringIntoStep();
+    emit flashed(tr("Same moment"));
+}
+
+void CameraPage::removeCurrent() {
+    const int row = m_table->currentRow();
+    if (!m_desk.fixedCamera || row < 0 || std::cmp_greater_equal(row, m_marks.size()))
+        return;
+    const TagHandle tag = m_marks[static_cast<std::size_t>(row)].tag;
+    edit(tr("moment removed"), [&](athletedata031& run) { removeSync(run, tag); });
+    bringIntoStep();
+}
+
+/// The films' own dates, where both cameras wrote theirs.
+std::optional<double> CameraPage::lagByDates(std::size_t camera) const {
+    const auto own = recordingBegan(m_desk.document.film(m_desk.run, 0).toStdString());
+    const auto fixed = recordingBegan(m_desk.document.fixedFilm(m_desk.run, camera).toStdString());
+    return own && fixed ? std::optional(own->seconds - fixed->seconds) : std::nullopt;
+}
+
+void CameraPage::bringIntoStep() {
+    if (!m_desk.record() || !m_desk.fixedCamera || m_desk.deck.filmsBeside().isEmpty())
+        return;
+    auto lag = lagOf(*m_desk.record(), *m_desk.fixedCamera);
+    if (!lag)
+        lag = lagByDates(*m_desk.fixedCamera);
+    m_desk.deck.setOffset(m_desk.deck.cameras(),
+                          {.own = stampOfSeconds(lag.value_or(0)), .common = stampOfSeconds(0)});
+}
+
+std::optional<double> CameraPage::ownSeconds(std::int64_t camera, double seconds) const {
+    const athletedata031* const run = m_desk.record();
+    const auto lag =
+        run && camera >= 0 ? lagOf(*run, static_cast<std::size_t>(camera)) : std::nullopt;
+    return lag ? std::optional(seconds - *lag) : std::nullopt;
+}
+
+} // namespace kavela::desktop

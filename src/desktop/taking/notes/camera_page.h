@@ -1,0 +1,57 @@
+#pragma once
+
+#include "desktop/taking/notes/note_page.h"
+#include "splittaking/annotations/camera_sync.h"
+
+class QComboBox;
+class QLabel;
+class QPushButton;
+
+namespace kavela::desktop {
+
+/// The fixed cameras of a run: their films are attached, shown beside the run's own, and brought
+/// into step by moments that were marked on both.
+class CameraPage : public NotePage {
+    Q_OBJECT
+
+public:
+    explicit CameraPage(NoteDesk& desk);
+
+    void refresh() override;
+    /// The frames shown are one moment.
+    void mark(const Stamps& stamps) override;
+    void removeCurrent() override;
+
+    /// Where on the run's film a moment of a fixed camera's film lies, in seconds; nothing as long
+    /// as they are not in step.
+    [[nodiscard]] std::optional<double> ownSeconds(std::int64_t camera, double seconds) const;
+    /// Sets the film beside in step, once it was opened.
+    void bringIntoStep();
+    /// The film was attached to the run, and is shown.
+    void showFilm(const QString& name);
+
+signals:
+    void attachWanted();
+    void besideChanged(); ///< another camera is shown beside the film, or none
+
+private:
+    void makeParts();
+    void choose(const QString& film);
+    void detach();
+    void attachToAll();
+    void showCameras();
+    void showMarks();
+    [[nodiscard]] QString nameOf(std::size_t camera) const;
+    [[nodiscard]] std::optional<double> lagByDates(std::size_t camera) const;
+
+    QString m_film; ///< shown beside every run that has it; empty for none
+    std::vector<SyncMark> m_marks;
+    QComboBox* m_cameras = nullptr;
+    QPushButton* m_detach = nullptr;
+    QPushButton* m_all = nullptr;
+    QLabel* m_next = nullptr;
+    QLabel* m_step = nullptr;
+    QTableWidget* m_table = nullptr;
+};
+
+} // namespace kavela::desktop
