@@ -85,6 +85,12 @@ QString CameraPage::nameOf(std::size_t camera) const {
     return run ? QString::fromStdString(entryOrZero(run->fixcameras, camera)) : QString();
 }
 
+void CameraPage::enter() {
+    const athletedata031* const run = m_desk.record();
+    if (run && run->fixcameras.size() == 1 && !m_hasChosen)
+        choose(nameOf(0));
+}
+
 void CameraPage::refresh() {
     const athletedata031* const run = m_desk.record();
     setEnabled(run);
@@ -141,6 +147,7 @@ void CameraPage::showMarks() {
 
 void CameraPage::choose(const QString& film) {
     m_film = film;
+    m_hasChosen = true;
     refresh();
 }
 

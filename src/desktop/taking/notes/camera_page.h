@@ -17,6 +17,8 @@ class CameraPage : public NotePage {
 public:
     explicit CameraPage(NoteDesk& desk);
 
+    /// Shows the camera of a run that has one, as long as the coach has chosen none.
+    void enter() override;
     void refresh() override;
     /// The frames shown are one moment.
     void mark(const Stamps& stamps) override;
@@ -45,6 +47,7 @@ private:
     [[nodiscard]] std::optional<double> lagByDates(std::size_t camera) const;
 
     QString m_film; ///< shown beside every run that has it; empty for none
+    bool m_hasChosen = false;
     std::vector<SyncMark> m_marks;
     QComboBox* m_cameras = nullptr;
     QPushButton* m_detach = nullptr;

@@ -70,8 +70,12 @@ void CommentPage::addScores() {
     form->setVerticalSpacing(theme::SmallSpacing);
     form->addRow(m_isVisible);
     form->addRow(m_table);
-    form->addRow(tr("Athlete's score"), m_athletesScore);
-    form->addRow(tr("Coach's score"), m_coachsScore);
+    m_athletesScore->setPrefix(tr("athlete "));
+    m_coachsScore->setPrefix(tr("coach "));
+    auto* scores = new QHBoxLayout;
+    scores->addWidget(m_athletesScore);
+    scores->addWidget(m_coachsScore);
+    form->addRow(tr("Scores"), scores);
     form->addRow(tr("Give-ups"), m_giveUps);
     form->addRow(m_radio);
     addRadio();

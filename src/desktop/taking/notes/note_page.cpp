@@ -23,11 +23,11 @@ QString titleOf(NoteMode mode) {
     case NoteMode::Strokes:
         return NotePage::tr("Strokes");
     case NoteMode::MicroSplits:
-        return NotePage::tr("Micro splits");
+        return NotePage::tr("Micro");
     case NoteMode::Tags:
         return NotePage::tr("Tags");
     case NoteMode::TimeLosses:
-        return NotePage::tr("Time losses");
+        return NotePage::tr("Losses");
     case NoteMode::Comments:
         return NotePage::tr("Comments");
     case NoteMode::Strategies:

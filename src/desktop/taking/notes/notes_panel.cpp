@@ -75,6 +75,7 @@ NotesPanel::NotesPanel(const NoteDesk& desk, const TimeLine& line, QWidget& spli
       m_list(new MarkList),
       m_lanes(new LaneStrip(line)) {
     m_bar->setObjectName("modes");
+    m_bar->setFont(theme::captionFont(*this)); // all of them in sight on a small screen
     m_bar->setExpanding(false);
     m_bar->setDrawBase(false);
     m_bar->setFocusPolicy(Qt::NoFocus);

@@ -55,9 +55,6 @@ StrategyPage::StrategyPage(NoteDesk& desk) : NotePage(desk) {
     auto* newOption = new QHBoxLayout;
     newOption->addWidget(m_newOption, 1);
     newOption->addWidget(addOption);
-    auto* taken = new QHBoxLayout;
-    taken->addWidget(m_section, 1);
-    taken->addWidget(m_take);
     auto* form = new QFormLayout(this);
     form->setContentsMargins(0, 0, 0, 0);
     form->setVerticalSpacing(theme::SmallSpacing);
@@ -68,7 +65,8 @@ StrategyPage::StrategyPage(NoteDesk& desk) : NotePage(desk) {
     form->addRow(newOption);
     form->addRow(m_cost);
     form->addRow(tr("Time from"), m_run);
-    form->addRow(tr("Section"), taken);
+    form->addRow(tr("Section"), m_section);
+    form->addRow(QString(), m_take);
     form->addRow(m_comment);
     connect(add, &QPushButton::clicked, this, &StrategyPage::addComparison);
     connect(addOption, &QPushButton::clicked, this, &StrategyPage::addWay);
