@@ -15,6 +15,16 @@ constexpr QColor Ground{0x10, 0x12, 0x14};
 constexpr QColor Veil{0, 0, 0, 150};
 constexpr QColor Letters{0xF2, 0xF4, 0xF6};
 
+QSize boxOf(const QString& text, const QFontMetrics& metrics) {
+    return metrics.boundingRect(text).size() + QSize(2 * theme::Spacing, 2 * theme::SmallSpacing);
+}
+
+void paintText(QPainter& painter, const QRect& box, const QString& text) {
+    painter.fillRect(box, Veil);
+    painter.setPen(Letters);
+    painter.drawText(box, Qt::AlignCenter, text);
+}
+
 } // namespace
 
 FilmView::FilmView(FilmDeck& deck, std::size_t camera, QWidget* parent)
@@ -55,6 +65,11 @@ void FilmView::setMessage(const QString& message) {
     update();
 }
 
+void FilmView::setCaption(const QString& caption) {
+    m_caption = caption;
+    update();
+}
+
 void FilmView::flash(const QString& text) {
     m_flash = text;
     update();
@@ -74,12 +89,17 @@ void FilmView::resizeEvent(QResizeEvent*) {
 
 void FilmView::paintCorner(QPainter& painter, const QRect& picture) const {
     const QString text = m_isPreview ? tr("…") : m_corner;
-    const QRect box = painter.fontMetrics().boundingRect(text).marginsAdded(
-        {theme::Spacing, theme::SmallSpacing, theme::Spacing, theme::SmallSpacing});
-    const QRect corner(picture.bottomRight() - QPoint(box.width(), box.height()), box.size());
-    painter.fillRect(corner, Veil);
-    painter.setPen(Letters);
-    painter.drawText(corner, Qt::AlignCenter, text);
+    const QSize size = boxOf(text, painter.fontMetrics());
+    paintText(painter, {picture.bottomRight() - QPoint(size.width(), size.height()), size}, text);
+}
+
+void FilmView::paintCaption(QPainter& painter, const QRect& picture) const {
+    if (m_caption.isEmpty())
+        return;
+    const QString text = painter.fontMetrics().elidedText(m_caption, Qt::ElideMiddle,
+                                                          picture.width() - 2 * theme::Spacing);
+    const QSize size = boxOf(text, painter.fontMetrics());
+    paintText(painter, {{picture.left(), picture.top()}, size}, text);
 }
 
 void FilmView::paintEvent(QPaintEvent*) {
@@ -97,6 +117,7 @@ void FilmView::paintEvent(QPaintEvent*) {
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
     painter.drawImage(picture, m_image);
     paintCorner(painter, picture);
+    paintCaption(painter, picture);
     if (m_flash.isEmpty())
         return;
     painter.setFont(theme::headlineFont(*this));

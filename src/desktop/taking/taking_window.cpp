@@ -287,6 +287,8 @@ void TakingWindow::showFilms() {
     for (std::size_t camera = 0; camera < std::max<std::size_t>(shown, 1); ++camera) {
         auto* view = new FilmView(*m_deck, camera);
         m_films->addWidget(view);
+        if (std::cmp_greater_equal(camera, films.size()) && shown > 0)
+            view->setCaption(tr("Fixed: %1").arg(QFileInfo(beside.front()).completeBaseName()));
         m_views.push_back(view);
     }
     m_deck->open(films, beside);

@@ -31,7 +31,7 @@ QComboBox* narrowCombo(const char* name) {
     auto* combo = new QComboBox;
     combo->setObjectName(name);
     combo->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    combo->setMinimumContentsLength(8);
+    combo->setMinimumContentsLength(5);
     return combo;
 }
 
@@ -49,6 +49,9 @@ StrategyPage::StrategyPage(NoteDesk& desk) : NotePage(desk) {
     makeParts();
     auto* add = button(tr("Add"), "strategyAdd");
     auto* addOption = button(tr("Add"), "strategyAddWay");
+    for (QPushButton* const narrow : {add, addOption})
+        narrow->setMaximumWidth(fontMetrics().horizontalAdvance(narrow->text()) +
+                                theme::LargeSpacing);
     auto* created = new QHBoxLayout;
     created->addWidget(m_title, 1);
     created->addWidget(add);
@@ -85,7 +88,7 @@ void StrategyPage::makeParts() {
     m_next->setWordWrap(true);
     m_options = textTable({QString(), tr("Way"), tr("Time"), tr("Gap")});
     m_options->setObjectName("strategyWays");
-    m_options->setMinimumHeight(110);
+    m_options->setFixedHeight(120);
     m_options->setEditTriggers(QAbstractItemView::DoubleClicked |
                                QAbstractItemView::EditKeyPressed);
     m_options->setToolTip(tr("The tick is at the way that the run took. Names and times are edited "
@@ -214,8 +217,10 @@ void StrategyPage::showChoices() {
     m_take->setEnabled(strategy());
     m_newOption->setEnabled(strategy());
     m_comment->setEnabled(strategy());
-    if (!m_comment->hasFocus() || !m_comment->isModified())
+    if (!m_comment->hasFocus() || !m_comment->isModified()) {
         m_comment->setText(strategy() ? QString::fromStdString(strategy()->comments) : QString());
+        m_comment->setCursorPosition(0);
+    }
     const auto cost = strategy() ? costOfChoice(*strategy()) : std::nullopt;
     m_cost->setText(!cost        ? QString()
                     : *cost == 0 ? tr("The run took the fastest way.")
