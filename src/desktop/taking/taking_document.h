@@ -105,6 +105,7 @@ private:
     void push(const QString& what, TakingState after);
     void show(const TakingState& state);
     void keepWork();
+    [[nodiscard]] bool holdsNothing() const;
     [[nodiscard]] splittakerdata031 finished(bool isLogged) const;
     [[nodiscard]] bool write(const std::filesystem::path& file, bool csv, bool pdf, QWidget* over);
     [[nodiscard]] bool mayOverwrite(QWidget* over) const;

@@ -42,8 +42,14 @@ bool TakingDocument::mayOverwrite(QWidget* over) const {
         tr("Save all the same"), over);
 }
 
+/// A split file may hold runs, a cross race, or both.
+bool TakingDocument::holdsNothing() const {
+    return m_state.runs.empty() && cross().timetrials.empty() && cross().eliphase.empty() &&
+           cross().crossinfo.gates.empty();
+}
+
 bool TakingDocument::save(QWidget* over) {
-    if (m_state.runs.empty()) {
+    if (holdsNothing()) {
         m_workspace.showAlert({"", messages::NothingToSave}, over);
         return false;
     }
@@ -61,7 +67,7 @@ bool TakingDocument::save(QWidget* over) {
 }
 
 bool TakingDocument::exportTo(const QString& file, bool alsoCsv, bool alsoPdf, QWidget* over) {
-    if (m_state.runs.empty()) {
+    if (holdsNothing()) {
         m_workspace.showAlert({"", messages::NothingToExport}, over);
         return false;
     }
@@ -75,6 +81,8 @@ bool TakingDocument::write(const fs::path& file, bool csv, bool pdf, QWidget* ov
     try {
         splittakerdata031 document = finished(false);
         writeFileSafely(file, encode(document));
+        if (document.athletes.empty())
+            return true; // table and report are of runs
         fs::path beside = file;
         if (csv)
             writeFileSafely(beside.replace_extension(".csv"), splitTableCsv(document));
