@@ -70,8 +70,8 @@ std::size_t insertAction(rounddata030& heat, actiondata030 action) {
         return isTaken(moment) && !other.time.empty() && isTaken(other.time.front()) &&
                orderOf(other.time.front(), moment) > 0;
     });
-    return static_cast<std::size_t>(heat.actions.insert(next, std::move(action)) -
-                                    heat.actions.begin());
+    const auto inserted = heat.actions.insert(next, std::move(action)); // which moves the list
+    return static_cast<std::size_t>(inserted - heat.actions.begin());
 }
 
 } // namespace

@@ -210,8 +210,8 @@ TEST(CrossHeats, AreEditedWithinTheHeat) {
     EXPECT_THAT(likelyOrder(semi, Course, 2), ElementsAre("B", "A", "C"));
     EXPECT_THAT(likelyOrder(semi, Course, 1), ElementsAre("A", "B", "C"));
 
-    addAction(semi, attack("A", {"B"}, true, 500));
-    addAction(semi, attack("C", {"A", "B"}, false, 100));
+    EXPECT_EQ(addAction(semi, attack("A", {"B"}, true, 500)), 0U);
+    EXPECT_EQ(addAction(semi, attack("C", {"A", "B"}, false, 100)), 0U);
     EXPECT_EQ(semi.actions[0].attacker, "C");
     EXPECT_EQ(changeAction(semi, 0, attack("C", {"A"}, false, 900)), 1U);
     renameBoat(semi, 0, "Ana");
