@@ -1,7 +1,7 @@
 #include "desktop/taking/taking_actions.h"
 
 #include "desktop/film/film_deck.h"
-#include "desktop/film/film_sound.h"
+#include "desktop/film/play_menu.h"
 #include "desktop/shell/help_menu.h"
 #include "desktop/shell/workspace.h"
 #include "desktop/taking/notes/note_actions.h"
@@ -13,17 +13,12 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QFileDialog>
-#include <QKeyEvent>
 #include <QLineEdit>
 #include <QMenuBar>
 
 namespace kavela::desktop {
 
 namespace {
-
-constexpr double SlowMotion = 0.25;
-constexpr const char* SoundKey = "sound";
-constexpr const char* SoundOff = "off";
 
 QKeySequence keys(QKeyCombination combination) {
     return QKeySequence(combination);
@@ -38,22 +33,9 @@ TakingActions::TakingActions(TakingWindow& window, Workspace& workspace)
     makeMarkMenu();
     makePenaltyMenu();
     addNoteMenu(window, window.notes());
-    makePlayMenu();
+    new PlayMenu(window, window.deck(), window.sound(), workspace); // the window owns it
     makeCameraMenu();
     addHelpMenu(window, workspace, "taking", [this] { return athletes(); });
-    qApp->installEventFilter(this);
-}
-
-/// K held down turns J and L into single steps. The key itself goes on to its action.
-bool TakingActions::eventFilter(QObject* watched, QEvent* event) {
-    const bool isDown =
-        event->type() == QEvent::ShortcutOverride || event->type() == QEvent::KeyPress;
-    if (isDown || event->type() == QEvent::KeyRelease) {
-        const auto* key = static_cast<QKeyEvent*>(event);
-        if (key->key() == Qt::Key_K && !key->isAutoRepeat())
-            m_isStopHeld = isDown;
-    }
-    return QObject::eventFilter(watched, event);
 }
 
 QAction* TakingActions::add(QMenu& menu, const QString& text, const QList<QKeySequence>& shortcuts,
@@ -99,6 +81,10 @@ void TakingActions::makeFileMenu() {
     add(*menu, tr("Show in the race &analyzer"), {keys(Qt::CTRL | Qt::Key_R)}, [this] {
         if (!m_window.document().isDirty() || m_window.document().save(&m_window))
             emit m_window.analysisRequested(m_window.document().path());
+    });
+    add(*menu, tr("Kayak &cross of this race"), {keys(Qt::CTRL | Qt::SHIFT | Qt::Key_R)}, [this] {
+        if (!m_window.document().isDirty() || m_window.document().save(&m_window))
+            emit m_window.crossRequested(m_window.document().path());
     });
     menu->addSeparator();
     add(*menu, tr("&Home"), {keys(Qt::CTRL | Qt::Key_H)},
@@ -183,60 +169,6 @@ void TakingActions::makePenaltyMenu() {
     menu->addSeparator();
     add(*menu, tr("&Next gate"), {keys(Qt::Key_N)}, [this] { m_window.stepGate(1); });
     add(*menu, tr("&Previous gate"), {keys(Qt::Key_P)}, [this] { m_window.stepGate(-1); });
-}
-
-void TakingActions::makePlayMenu() {
-    QMenu* menu = m_window.menuBar()->addMenu(tr("&Play"));
-    FilmDeck& deck = m_window.deck();
-    add(*menu, tr("&Play or pause"), {keys(Qt::Key_Space)}, [&deck] { deck.togglePlaying(); });
-    const auto shuttle = [this, &deck](ShuttleKey key) {
-        return [this, &deck, key] { deck.shuttle(key, m_isStopHeld); };
-    };
-    add(*menu, tr("Backwards, again: faster"), {keys(Qt::Key_J)}, shuttle(ShuttleKey::J));
-    add(*menu, tr("Stop; held, J and L step a frame"), {keys(Qt::Key_K)}, shuttle(ShuttleKey::K));
-    add(*menu, tr("Forwards, again: faster"), {keys(Qt::Key_L)}, shuttle(ShuttleKey::L));
-    add(*menu, tr("Slow motion backwards"), {keys(Qt::SHIFT | Qt::Key_J)},
-        [&deck] { deck.play(-SlowMotion); });
-    add(*menu, tr("Slow motion forward"), {keys(Qt::SHIFT | Qt::Key_L)},
-        [&deck] { deck.play(SlowMotion); });
-    add(*menu, tr("&Slower"), {keys(Qt::Key_BracketLeft)}, [&deck] { deck.slower(); });
-    add(*menu, tr("&Faster"), {keys(Qt::Key_BracketRight)}, [&deck] { deck.faster(); });
-    add(*menu, tr("&Normal speed"), {keys(Qt::Key_Backspace)}, [&deck] { deck.normalSpeed(); });
-    makeSoundAction(*menu);
-    menu->addSeparator();
-    makeMotionActions(*menu);
-}
-
-void TakingActions::makeSoundAction(QMenu& menu) {
-    FilmSound& sound = m_window.sound();
-    sound.setMuted(m_workspace.remembered(SoundKey).value(0) == SoundOff);
-    QAction* action = add(menu, tr("S&ound, at normal speed"), {keys(Qt::Key_S)}, [this, &sound] {
-        sound.setMuted(!sound.isMuted());
-        m_workspace.remember(SoundKey, {sound.isMuted() ? SoundOff : "on"});
-    });
-    action->setCheckable(true);
-    action->setChecked(!sound.isMuted());
-}
-
-void TakingActions::makeMotionActions(QMenu& menu) {
-    FilmDeck& deck = m_window.deck();
-    add(menu, tr("One frame back"), {keys(Qt::Key_Left), keys(Qt::Key_Comma)},
-        [&deck] { deck.step(-1); });
-    add(menu, tr("One frame forward"), {keys(Qt::Key_Right), keys(Qt::Key_Period)},
-        [&deck] { deck.step(1); });
-    struct Jump {
-        QString text;
-        QKeyCombination key;
-        double seconds;
-    };
-    for (const Jump& jump : {Jump{tr("One second back"), Qt::SHIFT | Qt::Key_Left, -1},
-                             Jump{tr("One second forward"), Qt::SHIFT | Qt::Key_Right, 1},
-                             Jump{tr("Ten seconds back"), Qt::Key_PageUp, -10},
-                             Jump{tr("Ten seconds forward"), Qt::Key_PageDown, 10}})
-        add(menu, jump.text, {keys(jump.key)},
-            [&deck, seconds = jump.seconds] { deck.jump(seconds); });
-    add(menu, tr("To the beginning"), {keys(Qt::Key_Home)}, [&deck] { deck.seek(deck.start()); });
-    add(menu, tr("To the end"), {keys(Qt::Key_End)}, [&deck] { deck.seek(deck.end()); });
 }
 
 void TakingActions::makeCameraMenu() {

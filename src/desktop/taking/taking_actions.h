@@ -25,9 +25,6 @@ public:
     /// Shows what can be done now.
     void refresh();
 
-protected:
-    bool eventFilter(QObject* watched, QEvent* event) override;
-
 private:
     using Act = std::function<void()>;
 
@@ -35,9 +32,6 @@ private:
     void makeEditMenu();
     void makeMarkMenu();
     void makePenaltyMenu();
-    void makePlayMenu();
-    void makeSoundAction(QMenu& menu);
-    void makeMotionActions(QMenu& menu);
     void makeCameraMenu();
     QAction* add(QMenu& menu, const QString& text, const QList<QKeySequence>& keys, Act act);
     [[nodiscard]] Commands athletes() const;
@@ -47,7 +41,6 @@ private:
     TakingWindow& m_window;
     Workspace& m_workspace;
     std::vector<QAction*> m_ofRun; ///< that need a run
-    bool m_isStopHeld = false;
 };
 
 } // namespace kavela::desktop
