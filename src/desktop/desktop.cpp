@@ -3,6 +3,7 @@
 #include "app/file_facts.h"
 #include "common/error.h"
 #include "common/safe_file.h"
+#include "desktop/cross/cross_window.h"
 #include "desktop/motion/motion_window.h"
 #include "desktop/race/race_window.h"
 #include "desktop/shell/edited_file.h"
@@ -37,6 +38,7 @@ namespace fs = std::filesystem;
 
 constexpr const char* SessionKey = "openFiles";
 constexpr const char* TakingSessionKey = "openTakings";
+constexpr const char* CrossSessionKey = "openCrosses";
 constexpr const char* EditorSessionKey = "openEditors";
 
 /// Files a folder may hold before a coach is unlikely to want a tab for each.
@@ -100,6 +102,11 @@ Desktop::~Desktop() {
             editor->disconnect(this);
         delete editor;
     }
+    for (const auto& cross : m_crosses) {
+        if (cross)
+            cross->disconnect(this);
+        delete cross;
+    }
     for (const auto& taking : m_takings) {
         if (taking)
             taking->disconnect(this);
@@ -119,6 +126,8 @@ void Desktop::showHome() {
              icon("race"), [this] { chooseRace(); }},
             {tr("Split taking"), tr("Time every run from its video, exact to the frame."),
              icon("taking"), [this] { chooseFilms(); }},
+            {tr("Kayak cross"), tr("Time trials, heats and attacks of a cross race, from video."),
+             icon("cross"), [this] { chooseCross(); }},
             {tr("Team"), tr("Results of every athlete, season by season, and their category."),
              icon("team"), [this] { chooseTeam(); }},
             {tr("Selection races"), tr("Who is selected, by which results, and why."),
@@ -231,33 +240,45 @@ void Desktop::rememberSession() {
     QStringList taken;
     for (TakingWindow* window : takingWindows())
         taken.append(window->document().path());
+    QStringList crossed;
+    for (CrossWindow* window : crossWindows())
+        crossed.append(window->document().path());
     QStringList edited;
     for (const EditorWindow* window : editorWindows())
         edited.append(window->file().path());
     if (m_motion)
         edited += m_motion->paths();
-    if (files.isEmpty() && taken.isEmpty() && edited.isEmpty() && !(m_home && m_home->isVisible()))
+    const bool isHome = m_home && m_home->isVisible();
+    if (files.isEmpty() && taken.isEmpty() && crossed.isEmpty() && edited.isEmpty() && !isHome)
         return;
     m_workspace.remember(SessionKey, files);
     m_workspace.remember(TakingSessionKey, taken);
+    m_workspace.remember(CrossSessionKey, crossed);
     m_workspace.remember(EditorSessionKey, edited);
 }
 
 bool Desktop::hasWindows() const {
-    return !raceWindows().isEmpty() || !takingWindows().isEmpty() || !editorWindows().isEmpty() ||
-           m_motion;
+    return !raceWindows().isEmpty() || !takingWindows().isEmpty() || !crossWindows().isEmpty() ||
+           !editorWindows().isEmpty() || m_motion;
 }
 
 bool Desktop::restoreSession() {
-    QStringList files = m_workspace.remembered(SessionKey);
-    files.removeIf([](const QString& file) { return !QFileInfo::exists(file); });
+    const auto remembered = [this](const char* key) {
+        QStringList files = m_workspace.remembered(key);
+        files.removeIf([](const QString& file) { return !QFileInfo::exists(file); });
+        return files;
+    };
+    // All are read first: what is opened is remembered at once in their place.
+    const QStringList files = remembered(SessionKey);
+    const QStringList taken = remembered(TakingSessionKey);
+    const QStringList crossed = remembered(CrossSessionKey);
+    const QStringList edited = remembered(EditorSessionKey);
     if (!files.isEmpty())
         openRaces(files, nullptr);
-    for (const QString& file : m_workspace.remembered(TakingSessionKey))
-        if (QFileInfo::exists(file))
-            (void)openTaking(file);
-    QStringList edited = m_workspace.remembered(EditorSessionKey);
-    edited.removeIf([](const QString& file) { return !QFileInfo::exists(file); });
+    for (const QString& file : taken)
+        (void)openTaking(file);
+    for (const QString& file : crossed)
+        (void)openCross(file);
     if (!edited.isEmpty())
         openAll(edited);
     return hasWindows();
@@ -268,56 +289,6 @@ QList<RaceWindow*> Desktop::raceWindows() const {
     for (const auto& race : m_races)
         if (race)
             open.append(race);
-    return open;
-}
-
-void Desktop::chooseFilms() {
-    const QString folder =
-        QFileDialog::getExistingDirectory(front(), tr("Open a folder of videos"));
-    if (!folder.isEmpty())
-        (void)openTaking(folder);
-}
-
-TakingWindow* Desktop::openTaking(const QString& path) {
-    for (TakingWindow* window : takingWindows())
-        if (window->document().path() == QFileInfo(path).absoluteFilePath()) {
-            window->raise();
-            window->activateWindow();
-            return window;
-        }
-    auto* window = new TakingWindow(m_workspace, m_autosave);
-    if (!window->open(path)) {
-        delete window;
-        return nullptr;
-    }
-    connect(window, &TakingWindow::homeRequested, this, &Desktop::showHome);
-    connect(window, &TakingWindow::settingsRequested, this, &Desktop::openSettings);
-    connect(window, &TakingWindow::analysisRequested, this, &Desktop::open);
-    connect(window, &TakingWindow::filesRequested, this, [this](const QStringList& files) {
-        for (const QString& file : files)
-            (void)openTaking(file);
-    });
-    connect(window, &QObject::destroyed, this, &Desktop::rememberSession);
-    m_takings.append(window);
-    window->show();
-    rememberSession();
-    return window;
-}
-
-/// The moment behind a time of the analyzer, in the film it was taken from.
-void Desktop::showMoment(const QString& path, int run, std::size_t split) {
-    TakingWindow* const window = openTaking(path);
-    if (!window)
-        return;
-    window->selectRun(run);
-    window->goToMark(split);
-}
-
-QList<TakingWindow*> Desktop::takingWindows() const {
-    QList<TakingWindow*> open;
-    for (const auto& taking : m_takings)
-        if (taking)
-            open.append(taking);
     return open;
 }
 
@@ -352,10 +323,13 @@ QList<EditorWindow*> Desktop::editorWindows() const {
 }
 
 void Desktop::offerRecovery() {
+    const QStringList crossed = m_workspace.remembered(CrossSessionKey);
     for (const Autosave::Found& found : m_autosave.all()) {
         const QFileInfo file(found.path);
         if (file.suffix() != "kvx")
             openAll({found.path});
+        else if (crossed.contains(found.path) && (file.exists() || file.dir().exists()))
+            (void)openCross(file.exists() ? found.path : file.path());
         else if (file.exists() || file.dir().exists())
             (void)openTaking(file.exists() ? found.path : file.path());
     }

@@ -10,10 +10,12 @@
 
 namespace kavela::desktop {
 
+class CrossWindow;
 class EditorWindow;
 class MotionWindow;
 class HomeWindow;
 class RaceWindow;
+class TakingDocument;
 class TakingWindow;
 
 /// The desktop program: the home screen, and for each opened file the window of its tool.
@@ -37,6 +39,10 @@ public:
     /// Opens a folder of films, or a split file beside its films, for split taking; null, after a
     /// message, when it cannot be opened.
     TakingWindow* openTaking(const QString& path);
+    /// Opens the kayak cross of a split file, or of a folder of films; null, after a message, when
+    /// it cannot be opened. A file is edited in one window at a time, for split taking or for its
+    /// cross: the other one closes, once the coach has decided about unsaved work.
+    CrossWindow* openCross(const QString& path);
     /// Opens a team or a selection; false, after an alert, when it cannot be opened.
     bool openTeam(const QString& path);
     bool openSelection(const QString& path);
@@ -55,6 +61,7 @@ public:
     /// The windows that are open, in the order of their opening.
     [[nodiscard]] QList<RaceWindow*> raceWindows() const;
     [[nodiscard]] QList<TakingWindow*> takingWindows() const;
+    [[nodiscard]] QList<CrossWindow*> crossWindows() const;
     /// The windows of the other tools, which edit a file each.
     [[nodiscard]] QList<EditorWindow*> editorWindows() const;
     /// The window of raw recordings; null when there is none.
@@ -63,6 +70,8 @@ public:
 private:
     void chooseRace();
     void chooseFilms();
+    void chooseCross();
+    void openCrosses(const QStringList& paths);
     void chooseTeam();
     void chooseSelection();
     void choosePlanning();
@@ -81,6 +90,7 @@ private:
     /// Shows a window that edits a file, and follows what it asks for.
     void show(EditorWindow* window);
     [[nodiscard]] bool isShown(const QString& path);
+    [[nodiscard]] bool mayLeave(TakingDocument& document, QWidget& window);
     void showMoment(const QString& path, int run, std::size_t split);
     void openRaces(const QStringList& paths, RaceWindow* into);
     [[nodiscard]] RaceWindow* makeRaceWindow();
@@ -93,6 +103,7 @@ private:
     QPointer<HomeWindow> m_home;
     QList<QPointer<RaceWindow>> m_races;
     QList<QPointer<TakingWindow>> m_takings;
+    QList<QPointer<CrossWindow>> m_crosses;
     QList<QPointer<EditorWindow>> m_editors;
     QPointer<MotionWindow> m_motion;
     Autosave m_autosave;

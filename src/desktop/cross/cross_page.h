@@ -42,11 +42,16 @@ public:
 
     /// The name of the film of what is selected, in the folder of the document; empty without one.
     [[nodiscard]] virtual QString film() const { return {}; }
-    /// The marks on that film; numbered from 0 in their order here.
+    /// The marks on that film; numbered from 0 in their order here. Those without a label stand as
+    /// ticks below the time line.
     [[nodiscard]] virtual std::vector<LineMark> marks() const { return {}; }
     /// The mark that keys act on, by its number.
     [[nodiscard]] virtual std::optional<std::size_t> selectedMark() const { return std::nullopt; }
     virtual void selectMark(std::size_t) {}
+    /// Whether the keys that go from mark to mark stop at one.
+    [[nodiscard]] virtual bool stopsAt(std::size_t) const { return true; }
+    /// Gives what is selected another film of the folder, by its bare name.
+    virtual void setFilm(const QString&) {}
 
     // What the keys do.
     virtual void mark(const CMTime&) {}     ///< M, Enter: marks the frame shown

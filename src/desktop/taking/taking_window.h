@@ -89,6 +89,7 @@ signals:
     void homeRequested();
     void settingsRequested();
     void analysisRequested(const QString& path);
+    void crossRequested(const QString& path);
     void filesRequested(const QStringList& paths);
 
 protected:

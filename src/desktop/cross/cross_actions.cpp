@@ -1,0 +1,226 @@
+#include "desktop/cross/cross_actions.h"
+
+#include "desktop/cross/course_strip.h"
+#include "desktop/cross/cross_window.h"
+#include "desktop/cross/heats/heat_page.h"
+#include "desktop/cross/results/results_page.h"
+#include "desktop/cross/trials/trial_page.h"
+#include "desktop/film/play_menu.h"
+#include "desktop/shell/help_menu.h"
+#include "desktop/shell/workspace.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QComboBox>
+#include <QFileDialog>
+#include <QLineEdit>
+#include <QMenuBar>
+
+namespace kavela::desktop {
+
+namespace {
+
+using Page = CrossWindow::Page;
+
+QKeySequence numberKey(int number, Qt::KeyboardModifiers modifiers = {}) {
+    return QKeySequence(QKeyCombination(modifiers, static_cast<Qt::Key>(Qt::Key_0 + number)));
+}
+
+} // namespace
+
+CrossActions::CrossActions(CrossWindow& window, Workspace& workspace)
+    : QObject(&window), m_window(window) {
+    makeFileMenu();
+    makeEditMenu();
+    makeMarkMenu();
+    makeTrialMenu();
+    makeHeatMenu();
+    makeViewMenu();
+    new PlayMenu(window, window.deck(), window.sound(), workspace); // the window owns it
+    addHelpMenu(window, workspace, "cross", [this] { return athletes(); });
+    connect(&window, &CrossWindow::pageChanged, this, &CrossActions::showWhatCanBeDone);
+}
+
+QAction* CrossActions::add(QMenu& menu, const QString& text, const QList<QKeySequence>& shortcuts,
+                           Act act) {
+    QAction* const action = menu.addAction(text);
+    action->setShortcuts(shortcuts);
+    connect(action, &QAction::triggered, &m_window, std::move(act));
+    return action;
+}
+
+/// Enter ends the typing in a field before it means anything else.
+bool CrossActions::endsTyping() const {
+    auto* const choice = qobject_cast<QComboBox*>(QApplication::focusWidget());
+    if (choice && choice->isEditable()) {
+        choice->clearFocus();
+        return true;
+    }
+    auto* const field = qobject_cast<QLineEdit*>(QApplication::focusWidget());
+    if (!field)
+        return false;
+    emit field->returnPressed();
+    field->clearFocus();
+    return true;
+}
+
+CrossActions::Act CrossActions::savedThen(void (CrossWindow::*request)(const QString& path)) {
+    return [this, request] {
+        if (!m_window.document().isDirty() || m_window.save())
+            (m_window.*request)(m_window.document().path());
+    };
+}
+
+void CrossActions::makeFileMenu() {
+    QMenu* const menu = m_window.menuBar()->addMenu(tr("&File"));
+    add(*menu, tr("&Open a split file…"), {QKeySequence::Open}, [this] {
+        const QStringList files = QFileDialog::getOpenFileNames(
+            &m_window, tr("Open a split file"), m_window.document().folder(),
+            tr("Split files (*.kvx);;All files (*)"));
+        if (!files.isEmpty())
+            emit m_window.filesRequested(files);
+    });
+    add(*menu, tr("Open a &folder of films…"), {}, [this] {
+        const QString folder = QFileDialog::getExistingDirectory(
+            &m_window, tr("Open a folder of films"), m_window.document().folder());
+        if (!folder.isEmpty())
+            emit m_window.filesRequested({folder});
+    });
+    add(*menu, tr("&Import films of time trials…"), {Qt::CTRL | Qt::Key_I},
+        [this] { m_window.importFilms(); });
+    add(*menu, tr("Film of the selected trial or &heat…"), {Qt::CTRL | Qt::SHIFT | Qt::Key_I},
+        [this] { m_window.chooseFilm(); });
+    menu->addSeparator();
+    add(*menu, tr("&Save data"), {QKeySequence::Save}, [this] { (void)m_window.save(); });
+    add(*menu, tr("Split &taking of this race"), {Qt::CTRL | Qt::SHIFT | Qt::Key_R},
+        savedThen(&CrossWindow::takingRequested));
+    add(*menu, tr("Show in the race &analyzer"), {Qt::CTRL | Qt::Key_R},
+        savedThen(&CrossWindow::analysisRequested));
+    menu->addSeparator();
+    add(*menu, tr("&Home"), {Qt::CTRL | Qt::Key_H}, [this] { emit m_window.homeRequested(); });
+    add(*menu, tr("Se&ttings…"), {Qt::CTRL | Qt::Key_Comma},
+        [this] { emit m_window.settingsRequested(); });
+    add(*menu, tr("C&lose"), {QKeySequence::Close}, [this] { m_window.close(); });
+}
+
+void CrossActions::makeEditMenu() {
+    QMenu* const menu = m_window.menuBar()->addMenu(tr("&Edit"));
+    QUndoStack& stack = m_window.document().undoStack();
+    QAction* const undo = stack.createUndoAction(&m_window, tr("&Undo"));
+    undo->setShortcut(QKeySequence::Undo);
+    QAction* const redo = stack.createRedoAction(&m_window, tr("&Redo"));
+    redo->setShortcut(Qt::CTRL | Qt::SHIFT | Qt::Key_Z);
+    menu->addActions({undo, redo});
+    menu->addSeparator();
+    add(*menu, tr("&Course of the cross race"), {Qt::CTRL | Qt::Key_G},
+        [this] { m_window.course().toggle(); });
+    add(*menu, tr("&Previous trial or heat"), {Qt::Key_Up},
+        [this] { m_window.page().stepRow(-1); });
+    add(*menu, tr("&Next trial or heat"), {Qt::Key_Down}, [this] { m_window.page().stepRow(1); });
+    menu->addSeparator();
+    m_ofResults.push_back(add(*menu, tr("Copy the &results"), {QKeySequence::Copy},
+                              [this] { m_window.results().copy(); }));
+}
+
+void CrossActions::makeMarkMenu() {
+    QMenu* const menu = m_window.menuBar()->addMenu(tr("&Mark"));
+    add(*menu, tr("&Mark the frame shown"), {Qt::Key_M, Qt::Key_Return, Qt::Key_Enter}, [this] {
+        if (!endsTyping())
+            m_window.mark();
+    });
+    add(*menu, tr("Move the selected mark &here"), {Qt::SHIFT | Qt::Key_M},
+        [this] { m_window.moveMarkHere(); });
+    add(*menu, tr("Mark one frame &earlier"), {Qt::ALT | Qt::Key_Left},
+        [this] { m_window.nudgeMark(-1); });
+    add(*menu, tr("Mark one frame &later"), {Qt::ALT | Qt::Key_Right},
+        [this] { m_window.nudgeMark(1); });
+    add(*menu, tr("&Remove the selected mark"), {Qt::Key_Delete},
+        [this] { m_window.page().removeMark(); });
+    menu->addSeparator();
+    add(*menu, tr("&Previous mark"), {Qt::CTRL | Qt::Key_Left}, [this] { m_window.stepMark(-1); });
+    add(*menu, tr("&Next mark"), {Qt::CTRL | Qt::Key_Right}, [this] { m_window.stepMark(1); });
+    add(*menu, tr("To the first mark"), {Qt::CTRL | Qt::Key_Home},
+        [this] { m_window.goToMark(0); });
+    add(*menu, tr("Next &gate"), {Qt::Key_N}, [this] { m_window.page().stepGate(1); });
+    add(*menu, tr("Previous g&ate"), {Qt::Key_P}, [this] { m_window.page().stepGate(-1); });
+    menu->addSeparator();
+    for (int number = 1; number <= 9; ++number)
+        add(*menu, tr("Split, gate or boat &%1").arg(number), {numberKey(number)},
+            [this, number] { m_window.page().pressNumber(number); });
+}
+
+void CrossActions::makeTrialMenu() {
+    QMenu* const menu = m_window.menuBar()->addMenu(tr("&Time trials"));
+    TrialPage& trials = m_window.trials();
+    add(*menu, tr("&Add an athlete"), {Qt::CTRL | Qt::Key_N}, [this, &trials] {
+        m_window.showPage(Page::Trials);
+        trials.startAdding();
+    });
+    struct Mode {
+        QString text;
+        TrialMode mode;
+    };
+    int number = 0;
+    for (const Mode& mode : {Mode{tr("M marks the &splits"), TrialMode::Splits},
+                             Mode{tr("M marks the &upstream gates"), TrialMode::Upstreams},
+                             Mode{tr("M marks the &roll"), TrialMode::Roll}})
+        m_ofTrials.push_back(add(*menu, mode.text,
+                                 {numberKey(++number, Qt::ControlModifier | Qt::ShiftModifier)},
+                                 [&trials, mode] { trials.setMode(mode.mode); }));
+    m_ofTrials.push_back(
+        add(*menu, tr("Re&name the athlete"), {Qt::Key_F2}, [&trials] { trials.startRenaming(); }));
+    m_ofTrials.push_back(
+        add(*menu, tr("R&emove the trial"), {}, [&trials] { trials.removeTrial(); }));
+    menu->addSeparator();
+    m_ofTrials.push_back(
+        add(*menu, tr("Make &heats from the trials"), {}, [&trials] { trials.makeHeats(); }));
+}
+
+void CrossActions::makeHeatMenu() {
+    QMenu* const menu = m_window.menuBar()->addMenu(tr("&Heats"));
+    HeatPage& heats = m_window.heats();
+    add(*menu, tr("&Add a heat…"), {Qt::CTRL | Qt::SHIFT | Qt::Key_N}, [this, &heats] {
+        m_window.showPage(Page::Heats);
+        heats.addHeat();
+    });
+    m_ofHeats = {
+        add(*menu, tr("A&ttack, beginning here"), {Qt::Key_A}, [&heats] { heats.addAttack(); }),
+        add(*menu, tr("&End of the attack"), {Qt::Key_E}, [&heats] { heats.endAttack(); }),
+        add(*menu, tr("&Names of the boats…"), {}, [&heats] { heats.renameBoats(); }),
+        add(*menu, tr("&Remove the heat"), {}, [&heats] { heats.removeHeat(); })};
+}
+
+void CrossActions::makeViewMenu() {
+    QMenu* const menu = m_window.menuBar()->addMenu(tr("&View"));
+    int number = 0;
+    for (const QString& title : {tr("&Time trials"), tr("&Heats"), tr("&Results")}) {
+        const auto page = static_cast<Page>(number++);
+        add(*menu, title, {numberKey(number, Qt::ControlModifier)},
+            [this, page] { m_window.showPage(page); });
+    }
+}
+
+void CrossActions::showWhatCanBeDone() {
+    const CrossPage* const front = &m_window.page();
+    const auto enable = [front](const std::vector<QAction*>& actions, const CrossPage& page) {
+        for (QAction* const action : actions)
+            action->setEnabled(front == &page);
+    };
+    enable(m_ofTrials, m_window.trials());
+    enable(m_ofHeats, m_window.heats());
+    enable(m_ofResults, m_window.results());
+}
+
+Commands CrossActions::athletes() const {
+    Commands commands;
+    const auto& trials = m_window.document().cross().timetrials;
+    for (std::size_t trial = 0; trial < trials.size(); ++trial)
+        commands.push_back({QString::fromStdString(trials[trial].athlete), tr("Time trial"),
+                            QString(), [this, trial] {
+                                m_window.showPage(Page::Trials);
+                                m_window.trials().selectTrial(trial);
+                            }});
+    return commands;
+}
+
+} // namespace kavela::desktop

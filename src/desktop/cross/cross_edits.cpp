@@ -1,0 +1,150 @@
+#include "desktop/cross/course_strip.h"
+#include "desktop/cross/cross_window.h"
+#include "desktop/cross/trials/trial_page.h"
+#include "desktop/film/film_deck.h"
+#include "desktop/shell/file_copy.h"
+#include "desktop/shell/workspace.h"
+#include "splittaking/marking.h"
+
+#include <QFile>
+#include <QFileInfo>
+
+#include <algorithm>
+#include <limits>
+
+/// What the keys of the cross window do to the marks, and how films come into the folder.
+namespace kavela::desktop {
+
+namespace {
+
+/// A mark moves by this where its film does not tell how far its frames are apart.
+constexpr double SecondsWithoutFrames = 0.01;
+
+/// Seconds by which two readings of one moment may differ.
+constexpr double SameMoment = 1e-6;
+
+QString videoFilter() {
+    return QObject::tr("Videos (*.mov *.mp4 *.m4v *.avi *.mkv *.mts *.m2ts *.ts *.3gp *.webm "
+                       "*.mpg);;All files (*)");
+}
+
+} // namespace
+
+void CrossWindow::mark() {
+    if (const auto moment = CrossDesk{m_document, *m_deck, m_workspace}.moment())
+        page().mark(*moment);
+    else if (m_deck->cameras() == 0)
+        tell(tr("There is no film to mark on."));
+}
+
+void CrossWindow::moveMarkHere() {
+    if (const auto moment = CrossDesk{m_document, *m_deck, m_workspace}.moment())
+        page().moveMark(*moment);
+}
+
+/// The selected mark, otherwise the last one, moves; the frame on the screen stays.
+void CrossWindow::nudgeMark(int frames) {
+    const auto marks = page().marks();
+    auto mark = page().selectedMark();
+    for (std::size_t last = marks.size(); !mark && last-- > 0;)
+        if (page().stopsAt(last))
+            mark = last;
+    if (!mark || *mark >= marks.size())
+        return;
+    if (page().selectedMark() != mark)
+        page().selectMark(*mark);
+    page().moveMark(nudged(marks[*mark].stamp, frames));
+}
+
+CMTime CrossWindow::nudged(const CMTime& stamp, int frames) const {
+    const auto index = m_deck->cameras() > 0 ? m_deck->index(0) : nullptr;
+    const auto frame = index ? index->frameAt(stamp) : std::nullopt;
+    if (!frame)
+        return later(stamp, frames * SecondsWithoutFrames);
+    return index->stampOf(std::clamp<FrameNumber>(*frame + frames, 0, index->frameCount() - 1));
+}
+
+void CrossWindow::dropMark(std::size_t mark, double seconds) {
+    const auto index = m_deck->index(0);
+    const auto frame = index ? index->frameAt(seconds) : std::nullopt;
+    if (!frame || mark >= page().marks().size())
+        return;
+    page().selectMark(mark);
+    page().moveMark(index->stampOf(*frame));
+}
+
+void CrossWindow::goToMark(std::size_t mark) {
+    const auto marks = page().marks();
+    if (mark >= marks.size())
+        return;
+    page().selectMark(mark);
+    m_deck->seek(marks[mark].stamp);
+}
+
+/// The mark before or after where the film stands, also while its frame is still on its way;
+/// without a film, beside the selected one.
+void CrossWindow::stepMark(int step) {
+    const auto marks = page().marks();
+    const auto selected = page().selectedMark();
+    std::optional<double> now;
+    if (m_deck->cameras() > 0)
+        now = m_deck->position();
+    else if (selected && *selected < marks.size())
+        now = marks[*selected].stamp.seconds();
+    std::optional<std::size_t> found;
+    double least = std::numeric_limits<double>::infinity();
+    for (std::size_t mark = 0; mark < marks.size(); ++mark) {
+        const double way = now ? step * (marks[mark].stamp.seconds() - *now) : 0;
+        const bool isAhead = !now || way > SameMoment;
+        if (isAhead && way < least && page().stopsAt(mark)) {
+            found = mark;
+            least = way;
+        }
+    }
+    if (found)
+        goToMark(*found);
+}
+
+/// Films belong into the folder of the split file, which knows them by bare names only.
+QStringList CrossWindow::copiedIntoFolder(const QStringList& files) {
+    QStringList names;
+    for (const QString& file : files) {
+        const QFileInfo info(file);
+        const QString target = m_document.folder() + '/' + info.fileName();
+        const bool isThere = info.absolutePath() == m_document.folder() || QFile::exists(target);
+        const CopyEnd end = isThere ? CopyEnd::Done : copyFile(file, target, this);
+        if (end == CopyEnd::Cancelled)
+            return names;
+        if (end == CopyEnd::Done)
+            names.append(info.fileName());
+        else
+            tell(tr("%1 could not be copied into the folder.").arg(info.fileName()));
+    }
+    return names;
+}
+
+void CrossWindow::importFilms() {
+    const QStringList names =
+        copiedIntoFolder(m_chooseFiles(tr("Import films of time trials"), videoFilter()));
+    if (names.isEmpty())
+        return;
+    showPage(Page::Trials);
+    m_trials->addFilms(names);
+}
+
+void CrossWindow::chooseFilm() {
+    if (&page() == static_cast<CrossPage*>(m_trials) && !m_trials->trial())
+        return;
+    const QStringList chosen =
+        m_chooseFiles(tr("Choose the film of the trial or heat"), videoFilter()).mid(0, 1);
+    if (const QStringList names = copiedIntoFolder(chosen); !names.isEmpty())
+        page().setFilm(names.front());
+}
+
+bool CrossWindow::save() {
+    if (!commit())
+        return false; // what is wrong with the course is shown
+    return m_document.save(this);
+}
+
+} // namespace kavela::desktop

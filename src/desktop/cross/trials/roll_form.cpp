@@ -1,0 +1,53 @@
+#include "desktop/cross/trials/roll_form.h"
+
+#include "desktop/shell/theme.h"
+#include "desktop/taking/notes/code_combo.h"
+#include "desktop/taking/notes/note_page.h"
+#include "splittaking/annotations/gate_marks.h"
+
+#include <QFormLayout>
+#include <QHeaderView>
+#include <QTableWidget>
+
+namespace kavela::desktop {
+
+RollForm::RollForm(QWidget* parent)
+    : QWidget(parent),
+      m_direction(new CodeCombo(LabelList::RollDirection)),
+      m_style(new CodeCombo(LabelList::RollStyle)),
+      m_table(textTable({tr("Part of the roll"), tr("Time")})) {
+    m_direction->setObjectName("rollDirection");
+    m_style->setObjectName("rollStyle");
+    m_table->setObjectName("roll");
+    m_table->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    m_table->setSelectionMode(QAbstractItemView::NoSelection);
+    auto* roll = new QHBoxLayout;
+    roll->addWidget(m_direction, 1);
+    roll->addWidget(m_style, 2);
+    auto* form = new QFormLayout(this);
+    form->setContentsMargins(0, 0, 0, 0);
+    form->setVerticalSpacing(theme::Spacing);
+    form->addRow(tr("Roll"), roll);
+    form->addRow(m_table);
+    connect(m_direction, &CodeCombo::codeChosen, this, &RollForm::directionChosen);
+    connect(m_style, &CodeCombo::codeChosen, this, &RollForm::styleChosen);
+}
+
+void RollForm::setRoll(const ttroll030* roll) {
+    m_direction->setEnabled(roll);
+    m_style->setEnabled(roll);
+    if (roll) {
+        m_direction->setCode(roll->direction);
+        m_style->setCode(roll->style);
+    } else {
+        m_direction->clearCode();
+        m_style->clearCode();
+    }
+    const GateTimes times =
+        timesOf(roll ? std::span<const CMTime>(roll->cmtimes) : std::span<const CMTime>());
+    fillTable(*m_table, {{tr("Going over"), timeOrDash(times.entrance)},
+                         {tr("Coming up"), timeOrDash(times.exit)},
+                         {tr("Total"), timeOrDash(times.total)}});
+}
+
+} // namespace kavela::desktop

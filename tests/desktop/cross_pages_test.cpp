@@ -1,0 +1,464 @@
+#include "common/recorders.h"
+#include "common/temp_folder.h"
+#include "desktop/cross/heats/attack_form.h"
+#include "desktop/cross/heats/boat_looks.h"
+#include "desktop/cross/heats/heat_page.h"
+#include "desktop/cross/heats/order_board.h"
+#include "desktop/cross/heats/place_grid.h"
+#include "desktop/cross/results/results_page.h"
+#include "desktop/film/film_deck.h"
+#include "desktop/shell/workspace.h"
+#include "desktop/taking/taking_document.h"
+#include "sample/races.h"
+#include "splitdata/loader.h"
+
+#include <gmock/gmock.h>
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QClipboard>
+#include <QComboBox>
+#include <QDialog>
+#include <QDialogButtonBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QTableWidget>
+#include <QTest>
+#include <QTimer>
+#include <QToolButton>
+
+namespace kavela::test {
+namespace {
+
+using desktop::CrossDesk;
+using desktop::FilmDeck;
+using desktop::HeatPage;
+using desktop::OrderBoard;
+using desktop::PlaceGrid;
+using desktop::ResultsPage;
+using desktop::TakingDocument;
+using desktop::Workspace;
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+using ::testing::SizeIs;
+using Names = std::vector<std::string>;
+
+const std::string Ada = "Ada Stone";
+const std::string Bea = "Bea Rill";
+const std::string Cleo = "Cleo Weir";
+const std::string Dora = "Dora Moss";
+const std::string Stranger = "Una Known";
+
+CMTime at(std::int64_t seconds) {
+    return {seconds * 50, 50, 1, 0};
+}
+
+/// A heat of four on a course of four gates, its film not there and nothing taken.
+crossdata030 freshCross() {
+    crossdata030 cross;
+    cross.crossinfo.gates = {2, 4, 5, 7};
+    cross.eliphase = {{"heat.MOV", {Ada, Bea, Cleo, Dora}, {}, {}}};
+    return cross;
+}
+
+generaldata030 order(std::int64_t gate, Names names, std::int64_t seconds = 30) {
+    return {at(seconds), gate, 1, std::move(names), ""};
+}
+
+class CrossPagesTest : public ::testing::Test {
+protected:
+    CrossPagesTest() { m_workspace.setAlerts(&m_recorder); }
+
+    /// The pages follow the document as their window makes them.
+    void open(const crossdata030& cross) {
+        splittakerdata031 race = sample::holdRace(sample::harbourNight());
+        race.athletes.resize(1);
+        race.crossracedata = cross;
+        ASSERT_TRUE(saveSplitFile(race, file(), m_recorder.log()));
+        ASSERT_TRUE(m_document.openFile(QString::fromStdString(file().string()), nullptr));
+        for (desktop::CrossPage* const page : {static_cast<desktop::CrossPage*>(&m_heats),
+                                               static_cast<desktop::CrossPage*>(&m_results)}) {
+            QObject::connect(&m_document, &TakingDocument::changed, page,
+                             [page] { page->refresh(); });
+            page->resize(700, 740);
+            page->refresh();
+            page->show();
+        }
+        QObject::connect(&m_heats, &desktop::CrossPage::told,
+                         [this](const QString& text) { m_told = text.toStdString(); });
+        QApplication::processEvents();
+    }
+
+    std::filesystem::path file() const { return m_folder.path() / "cross.kvx"; }
+
+    const rounddata030& heat(std::size_t place = 0) const {
+        return m_document.cross().eliphase.at(place);
+    }
+
+    void press(std::initializer_list<int> numbers) {
+        for (const int number : numbers)
+            m_heats.pressNumber(number);
+    }
+
+    template <class T>
+    T& part(const QString& name, desktop::CrossPage* page = nullptr) {
+        T* const found = (page ? page : &m_heats)->findChild<T*>(name);
+        if (!found)
+            throw std::runtime_error("no part " + name.toStdString());
+        return *found;
+    }
+
+    void click(const QString& name) {
+        QTest::mouseClick(&part<QAbstractButton>(name), Qt::LeftButton);
+    }
+
+    void type(QLineEdit& edit, const QString& text) {
+        QApplication::setActiveWindow(edit.window());
+        edit.setFocus();
+        edit.selectAll();
+        QTest::keyClicks(&edit, text);
+        QTest::keyClick(&edit, Qt::Key_Return);
+    }
+
+    /// Answers the dialog that comes next with these names, the fault it shows kept.
+    void answerDialog(const QStringList& names) {
+        QTimer::singleShot(0, [this, names] {
+            auto* const dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+            for (qsizetype boat = 0; boat < names.size(); ++boat)
+                dialog->findChild<QComboBox*>(QStringLiteral("boat%1").arg(boat + 1))
+                    ->setEditText(names[boat]);
+            auto* const ok = dialog->findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok);
+            m_isRefused = !ok->isEnabled();
+            m_isRefused ? dialog->reject() : ok->click();
+        });
+    }
+
+    /// The row of a table as text.
+    static std::string row(const QTableWidget& table, int row) {
+        QStringList texts;
+        for (int column = 0; column < table.columnCount(); ++column)
+            texts.append(table.item(row, column)->text());
+        return texts.join('|').toStdString();
+    }
+
+    void undoAll() {
+        while (m_document.undoStack().canUndo())
+            m_document.undoStack().undo();
+    }
+
+    TempFolder m_folder;
+    Recorder m_recorder;
+    Workspace m_workspace{Preferences(m_folder.path() / "preferences.ini"), m_recorder.log(),
+                          [] { return ReferenceDate{7e8}; }};
+    TakingDocument m_document{m_workspace, desktop::Autosave(QString::fromStdString(
+                                               (m_folder.path() / "autosave").string()))};
+    FilmDeck m_deck{std::make_shared<FrameCache>(1U << 20U)};
+    HeatPage m_heats{CrossDesk{m_document, m_deck, m_workspace}};
+    ResultsPage m_results{CrossDesk{m_document, m_deck, m_workspace}};
+    std::string m_told;
+    bool m_isRefused = false;
+};
+
+TEST_F(CrossPagesTest, TakesOrdersByNumberAndLeavesOutBoatsThatWereNotSeen) {
+    ASSERT_NO_FATAL_FAILURE(open(freshCross()));
+    QSignalSpy flashes(&m_heats, &desktop::CrossPage::flashed);
+    press({3, 2, 1, 2}); // the second press takes a boat back
+    EXPECT_THAT(heat().generals, IsEmpty()) << "only shown until it is taken";
+    m_heats.mark(at(10));
+    ASSERT_THAT(heat().generals, SizeIs(1));
+    EXPECT_THAT(heat().generals[0].order, ElementsAre(Cleo, Ada));
+    EXPECT_EQ(heat().generals[0].time, at(10));
+    EXPECT_EQ(flashes.size(), 1);
+    EXPECT_EQ(m_heats.gate(), 4) << "the next gate follows";
+    EXPECT_EQ(m_heats.selectedMark(), 0U) << "the order just taken can be moved";
+    m_heats.moveMark(at(11));
+    EXPECT_EQ(heat().generals[0].time, at(11));
+    m_heats.mark(at(20));
+    EXPECT_THAT(heat().generals.at(1).order, ElementsAre(Cleo, Ada)) << "as at the gate before";
+    press({5});
+    EXPECT_EQ(m_told, "This heat has 4 boats.");
+    m_heats.removeMark();
+    EXPECT_THAT(heat().generals, SizeIs(1));
+    undoAll();
+    EXPECT_FALSE(m_document.isDirty());
+    EXPECT_THAT(heat().generals, IsEmpty());
+}
+
+TEST_F(CrossPagesTest, TakesASecondOrderAtAGateInPlaceOfTheFirst) {
+    ASSERT_NO_FATAL_FAILURE(open(freshCross()));
+    m_heats.mark(at(10));
+    m_heats.stepGate(-1);
+    type(part<QLineEdit>("orderComment"), "Late start");
+    press({2, 1, 3, 4});
+    m_heats.mark(at(12));
+    ASSERT_THAT(heat().generals, SizeIs(1));
+    EXPECT_THAT(heat().generals[0].order, ElementsAre(Bea, Ada, Cleo, Dora));
+    EXPECT_EQ(heat().generals[0].time, at(12));
+    EXPECT_EQ(heat().generals[0].comments, "Late start");
+    EXPECT_EQ(m_heats.gate(), 2) << "a correction stays at its gate";
+    m_heats.mark(at(13));
+    EXPECT_EQ(heat().generals[0].time, at(13)) << "the same order at another frame";
+}
+
+TEST_F(CrossPagesTest, ShowsWhoWentPastWhom) {
+    crossdata030 cross = freshCross();
+    cross.eliphase[0].generals = {order(2, {Ada, Bea, Cleo, Dora}), order(5, {Dora, Ada, Bea})};
+    ASSERT_NO_FATAL_FAILURE(open(cross));
+    EXPECT_EQ(m_heats.gate(), 4) << "the first gate without an order";
+    auto& grid = part<PlaceGrid>("placeGrid");
+    ASSERT_THAT(grid.columns(), SizeIs(4));
+    EXPECT_THAT(grid.columns()[1].boats, IsEmpty());
+    const auto& boats = grid.columns()[2].boats;
+    EXPECT_THAT((std::array{boats[0].change, boats[1].change, boats[2].change}),
+                ElementsAre(3, -1, -1));
+    EXPECT_EQ(desktop::changeText(3), "▲3");
+    QTest::mouseClick(&grid, Qt::LeftButton, {}, grid.placeOf(2, 1).center().toPoint());
+    EXPECT_EQ(m_heats.gate(), 5);
+    EXPECT_EQ(m_heats.selectedMark(), 1U);
+    EXPECT_EQ(part<QLabel>("orderTitle").text(), "Gate 5 · taken at 30.00");
+    press({1});
+    EXPECT_EQ(part<QLabel>("orderTitle").text(), "Gate 5 · not taken yet");
+    ASSERT_THAT(grid.columns()[2].boats, SizeIs(1)) << "what is not taken yet is shown";
+    click("resetOrder");
+    EXPECT_THAT(grid.columns()[2].boats, SizeIs(3));
+    EXPECT_FALSE(m_document.isDirty());
+}
+
+TEST_F(CrossPagesTest, SortsBoatsWithTheMouse) {
+    ASSERT_NO_FATAL_FAILURE(open(freshCross()));
+    auto& board = part<OrderBoard>("orderBoard");
+    const auto place = [](int row) { return QPoint(100, PlaceGrid::RowHeight * row + 20); };
+    QTest::mousePress(&board, Qt::LeftButton, {}, place(2));
+    for (const int row : {1, 0})
+        QTest::mouseMove(&board, place(row));
+    QTest::mouseRelease(&board, Qt::LeftButton, {}, place(0));
+    click("down1"); // Ada, Cleo, Bea, Dora
+    click("seen3"); // Ada, Cleo, Dora
+    click("up3");   // Ada, Dora, Cleo
+    click("seen4"); // Bea again, as the last
+    click("keepOrder");
+    ASSERT_THAT(heat().generals, SizeIs(1));
+    EXPECT_THAT(heat().generals[0].order, ElementsAre(Ada, Dora, Cleo, Bea));
+    EXPECT_THAT(m_heats.marks(), IsEmpty()) << "without a film there is no moment";
+    m_heats.stepGate(-1);
+    m_heats.moveMark(at(9));
+    click("seen4");
+    click("keepOrder");
+    EXPECT_THAT(heat().generals[0].order, ElementsAre(Ada, Dora, Cleo));
+    EXPECT_EQ(heat().generals[0].time, at(9)) << "a correction keeps the moment";
+}
+
+TEST_F(CrossPagesTest, NotesAttacksByKeyAndInTheForm) {
+    ASSERT_NO_FATAL_FAILURE(open(freshCross()));
+    m_heats.addAttack(at(20));
+    ASSERT_THAT(heat().actions, SizeIs(1));
+    EXPECT_EQ(heat().actions[0].attacker, Bea);
+    EXPECT_THAT(heat().actions[0].defenders, ElementsAre(Ada)) << "the likeliest attack";
+    press({4, 2, 3, 4});
+    EXPECT_EQ(heat().actions[0].attacker, Dora);
+    EXPECT_THAT(heat().actions[0].defenders, ElementsAre(Bea, Cleo));
+    EXPECT_EQ(m_told, "Dora Moss cannot attack and defend at once.");
+    m_heats.endAttack(at(22));
+    EXPECT_THAT(heat().actions[0].time, ElementsAre(at(20), at(22)));
+    click("attackSucceeded");
+    click("defender2");
+    type(*part<QComboBox>("attackSide").lineEdit(), "Inside line");
+    type(part<QLineEdit>("attackComment"), "Hard");
+    EXPECT_EQ(row(part<QTableWidget>("attacks"), 0),
+              "20.00|22.00|Dora Moss|Cleo Weir|✓ passed|Inside line|Gate 2|Hard");
+    EXPECT_GE(part<QComboBox>("attackSide").findText("Inside line"), 0) << "offered again";
+    m_heats.addAttack(at(5));
+    EXPECT_EQ(heat().actions[1].attacker, Dora) << "attacks stand in order of time";
+    EXPECT_THAT(m_heats.marks(), SizeIs(3));
+    m_heats.selectMark(2);
+    m_heats.moveMark(at(23));
+    EXPECT_THAT(heat().actions[1].time, ElementsAre(at(20), at(23)));
+    m_heats.removeMark();
+    EXPECT_THAT(heat().actions[1].time, ElementsAre(at(20))) << "the end only";
+    auto& table = part<QTableWidget>("attacks");
+    QTest::mouseClick(table.viewport(), Qt::LeftButton, {},
+                      table.visualItemRect(table.item(0, 2)).center());
+    EXPECT_EQ(m_heats.selectedMark(), 0U);
+    click("attackRemoval");
+    ASSERT_THAT(heat().actions, SizeIs(1));
+    EXPECT_EQ(heat().actions[0].attacker, Dora);
+    undoAll();
+    EXPECT_FALSE(m_document.isDirty());
+    EXPECT_THAT(heat().actions, IsEmpty());
+}
+
+TEST_F(CrossPagesTest, SavesAndReadsBackWhatWasTaken) {
+    ASSERT_NO_FATAL_FAILURE(open(freshCross()));
+    press({2, 1});
+    m_heats.mark(at(10));
+    m_heats.addAttack(at(12));
+    m_heats.endAttack(at(13));
+    m_heats.setFilm("other.MOV");
+    const rounddata030 taken = heat();
+    ASSERT_TRUE(m_document.save(nullptr));
+    m_heats.mark(at(40));
+    ASSERT_TRUE(m_document.openFile(QString::fromStdString(file().string()), nullptr));
+    EXPECT_EQ(heat().videoname, "other.MOV");
+    EXPECT_EQ(m_heats.film(), "other.MOV");
+    ASSERT_THAT(heat().generals, SizeIs(1));
+    EXPECT_EQ(heat().generals[0].order, taken.generals[0].order);
+    EXPECT_EQ(heat().generals[0].time, taken.generals[0].time);
+    ASSERT_THAT(heat().actions, SizeIs(1));
+    EXPECT_EQ(heat().actions[0].time, taken.actions[0].time);
+    EXPECT_FALSE(m_document.isDirty());
+}
+
+/// As a file from elsewhere may be.
+TEST_F(CrossPagesTest, ShowsAndKeepsWhatDoesNotFitTogether) {
+    crossdata030 cross = freshCross();
+    rounddata030& round = cross.eliphase[0];
+    round.generals = {order(2, {Ada, Bea}, 10), order(99, {Stranger, Ada}),
+                      order(2, {Stranger, Bea, Ada}, 900000)};
+    round.actions = {{{at(50), at(40), at(60)}, Stranger, {Ada, "Nobody"}, true, "", "", ""},
+                     {{}, Ada, {}, false, "", "", ""}};
+    ASSERT_NO_FATAL_FAILURE(open(cross));
+    const QString faults = part<QLabel>("heatFaults").text();
+    for (const char* const fault : {"Gate 99: it is not on the cross course",
+                                    "Gate 2: Una Known is not in this heat", "Attack 1:"})
+        EXPECT_TRUE(faults.contains(fault)) << fault;
+    EXPECT_THAT(m_heats.marks(), SizeIs(6)) << "also those far beyond the film";
+    EXPECT_THAT(part<PlaceGrid>("placeGrid").columns(), SizeIs(6));
+    m_heats.selectMark(1);
+    EXPECT_EQ(part<QLabel>("orderTitle").text(), "Gate 99 · taken at 30.00");
+    m_heats.mark(at(1));
+    EXPECT_THAT(m_told, ::testing::HasSubstr("does not count for the course"));
+    EXPECT_FALSE(m_document.isDirty());
+    m_heats.selectMark(3);
+    type(part<QLineEdit>("attackComment"), "Unclear");
+    EXPECT_EQ(heat().actions[0].comments, "Unclear") << "strangers leave the rest editable";
+    EXPECT_EQ(heat().actions[0].attacker, Stranger);
+    m_heats.selectMark(2);
+    m_heats.stepGate(0);
+    m_heats.mark(at(11));
+    EXPECT_THAT(heat().generals[2].order, ElementsAre(Stranger, Bea, Ada)) << "only moved";
+    m_heats.stepGate(1);
+    m_heats.mark(at(12));
+    EXPECT_THAT(heat().generals.at(1).order, ElementsAre(Bea, Ada)) << "offered without strangers";
+    undoAll();
+    EXPECT_THAT(heat().generals, SizeIs(3));
+}
+
+TEST_F(CrossPagesTest, TellsWhyThereIsNothingToTake) {
+    crossdata030 cross = freshCross();
+    cross.crossinfo.gates.clear();
+    cross.eliphase[0].athletes = {Ada};
+    ASSERT_NO_FATAL_FAILURE(open(cross));
+    press({1});
+    m_heats.mark(at(1));
+    m_heats.stepGate(1);
+    EXPECT_EQ(m_told, "The cross course has no gates yet.");
+    m_heats.addAttack(at(2));
+    EXPECT_EQ(heat().actions.at(0).attacker, Ada) << "alone, against nobody";
+    EXPECT_THAT(heat().actions.at(0).defenders, IsEmpty());
+    m_document.editCross("course", [](crossdata030& changed) {
+        changed.crossinfo.gates = {3};
+        changed.eliphase[0].athletes.clear();
+    });
+    m_heats.stepGate(1);
+    m_heats.mark(at(3));
+    EXPECT_EQ(m_told, "No boat is named yet.");
+    m_heats.addAttack();
+    EXPECT_EQ(m_told, "There is no frame of the film to start the attack at.");
+    m_heats.stepRow(1);
+    m_heats.removeMark();
+    EXPECT_THAT(heat().generals, IsEmpty());
+}
+
+TEST_F(CrossPagesTest, AddsRenamesAndRemovesHeats) {
+    crossdata030 cross = freshCross();
+    cross.eliphase[0].generals = {order(2, {Bea, Ada})};
+    ASSERT_NO_FATAL_FAILURE(open(cross));
+    answerDialog({"Eve", "Eve"});
+    click("addHeat");
+    EXPECT_TRUE(m_isRefused);
+    answerDialog({"Eve", "", "Fay"});
+    click("addHeat");
+    EXPECT_EQ(m_heats.heat(), 1U);
+    EXPECT_THAT(heat(1).athletes, ElementsAre("Eve", "Fay"));
+    m_heats.stepRow(-1);
+    EXPECT_EQ(m_heats.heat(), 0U);
+    answerDialog({"Bea Rill", "Ada Stone"});
+    click("renameBoats");
+    EXPECT_THAT(heat().athletes, ElementsAre(Bea, Ada, Cleo, Dora)) << "two boats swap names";
+    EXPECT_THAT(heat().generals[0].order, ElementsAre(Ada, Bea));
+    click("removeHeat");
+    EXPECT_THAT(heat().athletes, ElementsAre("Eve", "Fay"));
+    click("removeHeat");
+    EXPECT_TRUE(part<QLabel>("noHeats").isVisible());
+    press({1});
+    m_heats.mark(at(1));
+    EXPECT_EQ(m_told, "Add a heat first.");
+    undoAll();
+    EXPECT_THAT(heat().athletes, ElementsAre(Ada, Bea, Cleo, Dora));
+}
+
+TEST_F(CrossPagesTest, ListsTheResultsOfEachRound) {
+    crossdata030 cross = freshCross();
+    cross.eliphase[0].generals = {order(2, {Ada, Bea, Cleo, Dora}), order(4, {Bea, Ada, Dora}),
+                                  order(5, {Bea, Dora, Ada}), order(7, {Dora, Bea, Ada})};
+    cross.eliphase[0].actions = {{{at(1)}, Dora, {Bea}, true, "Left", "Gate 7", ""},
+                                 {{at(2)}, Dora, {Bea, Ada}, false, "Left", "Gate 7", ""}};
+    cross.eliphase.push_back({"", {Dora, Bea}, {order(2, {Bea, Dora})}, {}});
+    ASSERT_NO_FATAL_FAILURE(open(cross));
+    auto& first = part<QTableWidget>("heat1Places", &m_results);
+    EXPECT_EQ(row(first, 0), "Dora Moss|1|4|3|0|→ goes on");
+    EXPECT_EQ(row(first, 1), "Bea Rill|2|2|1|1|→ goes on");
+    EXPECT_EQ(row(first, 3), "Cleo Weir|–|3|0|0|out");
+    EXPECT_EQ(part<QLabel>("heat1Missing", &m_results).text(),
+              "⚠ Not all boats were seen at the last gate.");
+    EXPECT_EQ(row(part<QTableWidget>("heat2Places", &m_results), 0), "Bea Rill|1|1|0|0|")
+        << "nobody has won yet";
+    EXPECT_EQ(part<QLabel>("heat2Missing", &m_results).text(),
+              "⚠ Not finished. Gates without an order: 4, 5, 7.");
+    EXPECT_EQ(row(part<QTableWidget>("attackers", &m_results), 2), "Dora Moss|2|1|50 %|0|0|–");
+    EXPECT_EQ(row(part<QTableWidget>("attackPlaces", &m_results), 0), "Gate 7, Left|2|1|50 %");
+    QSignalSpy wanted(&m_results, &ResultsPage::heatWanted);
+    auto& title = part<QLabel>("heat2", &m_results);
+    QTest::mouseClick(&title, Qt::LeftButton, {}, {8, title.height() / 2});
+    ASSERT_EQ(wanted.size(), 1);
+    EXPECT_EQ(wanted[0][0].value<std::size_t>(), 1U);
+}
+
+TEST_F(CrossPagesTest, CopiesResultsForASpreadsheet) {
+    crossdata030 cross = freshCross();
+    cross.eliphase[0].generals = {order(7, {Ada, Bea})};
+    ASSERT_NO_FATAL_FAILURE(open(cross));
+    QApplication::setActiveWindow(&m_results);
+    auto& table = part<QTableWidget>("heat1Places", &m_results);
+    table.setFocus();
+    table.selectRow(1);
+    QTest::keyClick(&table, Qt::Key_C, Qt::ControlModifier);
+    EXPECT_EQ(QApplication::clipboard()->text().toStdString(),
+              "Boat\tPlace\tStart\tGained\tLost\tOutcome\nBea Rill\t2\t2\t0\t0\t\n");
+    table.clearFocus();
+    m_results.copy();
+    EXPECT_EQ(QApplication::clipboard()->text().count('\n'), 5);
+    m_document.editCross("heats removed", [](crossdata030& all) { all.eliphase.clear(); });
+    EXPECT_TRUE(part<QLabel>("noResults", &m_results).isVisible());
+}
+
+TEST(BoatLooks, TellBoatsApartByAFewLetters) {
+    struct Case {
+        Names athletes;
+        std::vector<std::string> cues;
+    };
+    for (const Case& each : {Case{{"Ada Stone", "Bea Rill"}, {"AS", "BR"}},
+                             Case{{"Ada Stone", "Alma Sun"}, {"ASt", "ASu"}},
+                             Case{{"Åse", "Ana Maria Lopez", ""}, {"Å", "AL", "3"}},
+                             Case{{"瀬音 ひなた"}, {"瀬ひ"}}}) {
+        std::vector<std::string> cues;
+        for (const desktop::BoatLook& look : desktop::boatLooks(each.athletes, QPalette()))
+            cues.push_back(look.cue.toStdString());
+        EXPECT_EQ(cues, each.cues);
+    }
+}
+
+} // namespace
+} // namespace kavela::test
