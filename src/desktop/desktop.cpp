@@ -41,6 +41,12 @@ constexpr const char* TakingSessionKey = "openTakings";
 constexpr const char* CrossSessionKey = "openCrosses";
 constexpr const char* EditorSessionKey = "openEditors";
 
+/// A split file of this release without runs for the other tools.
+bool holdsOnlyCross(const FileFacts& facts) {
+    return facts.kind == "split file" && facts.current && facts.counts.at("runs") == 0 &&
+           facts.counts.at("crossTimeTrials") + facts.counts.at("crossHeats") > 0;
+}
+
 /// Files a folder may hold before a coach is unlikely to want a tab for each.
 constexpr int MostRacesOfAFolder = 24;
 
@@ -187,6 +193,8 @@ QStringList Desktop::racesAmong(const QStringList& paths) {
             (void)openSession(path);
         else if (facts.kind == "test session")
             (void)openTestSession(path);
+        else if (holdsOnlyCross(facts))
+            (void)openCross(path);
         else if (facts.error || facts.kind == "split file")
             races.append(path); // the reader says what is wrong
         else

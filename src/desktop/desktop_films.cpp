@@ -98,7 +98,8 @@ CrossWindow* Desktop::openCross(const QString& path) {
     }
     connect(window, &CrossWindow::homeRequested, this, &Desktop::showHome);
     connect(window, &CrossWindow::settingsRequested, this, &Desktop::openSettings);
-    connect(window, &CrossWindow::analysisRequested, this, &Desktop::open);
+    connect(window, &CrossWindow::analysisRequested, this,
+            [this](const QString& file) { openRaces({file}, nullptr); });
     connect(window, &CrossWindow::takingRequested, this, &Desktop::openTaking);
     connect(window, &CrossWindow::filesRequested, this, &Desktop::openCrosses);
     connect(window, &QObject::destroyed, this, &Desktop::rememberSession);

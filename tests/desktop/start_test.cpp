@@ -86,6 +86,14 @@ TEST_F(StartTest, OpensEachFileInItsToolWhateverItIsCalledAndAgainAtTheNextStart
     EXPECT_THAT(m_recorder.alerts, IsEmpty());
 }
 
+TEST_F(StartTest, OpensASplitFileWithoutRunsAsItsKayakCross) {
+    Desktop program(m_workspace, autosave());
+    program.open(copied("races/harbour_cross.kvx"));
+    EXPECT_THAT(program.crossWindows(), SizeIs(1));
+    EXPECT_THAT(program.raceWindows(), IsEmpty());
+    EXPECT_THAT(m_recorder.alerts, IsEmpty());
+}
+
 TEST_F(StartTest, OpensRecordingsBesideEachOtherAndAgainAtTheNextStart) {
     const QStringList files{copied("recordings/upstream_drill.kvb"),
                             copied("recordings/sprint_with_watch.kvb")};

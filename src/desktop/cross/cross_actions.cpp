@@ -64,10 +64,10 @@ bool CrossActions::endsTyping() const {
     return true;
 }
 
-CrossActions::Act CrossActions::savedThen(void (CrossWindow::*request)(const QString& path)) {
-    return [this, request] {
+CrossActions::Act CrossActions::savedThen(std::function<void(const QString& path)> request) {
+    return [this, request = std::move(request)] {
         if (!m_window.document().isDirty() || m_window.save())
-            (m_window.*request)(m_window.document().path());
+            request(m_window.document().path());
     };
 }
 
@@ -93,9 +93,9 @@ void CrossActions::makeFileMenu() {
     menu->addSeparator();
     add(*menu, tr("&Save data"), {QKeySequence::Save}, [this] { (void)m_window.save(); });
     add(*menu, tr("Split &taking of this race"), {Qt::CTRL | Qt::SHIFT | Qt::Key_R},
-        savedThen(&CrossWindow::takingRequested));
+        savedThen([this](const QString& path) { emit m_window.takingRequested(path); }));
     add(*menu, tr("Show in the race &analyzer"), {Qt::CTRL | Qt::Key_R},
-        savedThen(&CrossWindow::analysisRequested));
+        savedThen([this](const QString& path) { emit m_window.analysisRequested(path); }));
     menu->addSeparator();
     add(*menu, tr("&Home"), {Qt::CTRL | Qt::Key_H}, [this] { emit m_window.homeRequested(); });
     add(*menu, tr("Se&ttings…"), {Qt::CTRL | Qt::Key_Comma},

@@ -33,7 +33,7 @@ private:
     void makeViewMenu();
     QAction* add(QMenu& menu, const QString& text, const QList<QKeySequence>& keys, Act act);
     /// Saves, then hands the file on to another tool.
-    [[nodiscard]] Act savedThen(void (CrossWindow::*request)(const QString& path));
+    [[nodiscard]] Act savedThen(std::function<void(const QString& path)> request);
     void showWhatCanBeDone();
     [[nodiscard]] bool endsTyping() const;
     [[nodiscard]] Commands athletes() const;
