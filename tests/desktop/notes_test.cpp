@@ -258,6 +258,9 @@ TEST_F(NotesTest, JumpsFromTheListAndTellsWhatLiesOutsideTheFilm) {
         Patience));
     ASSERT_TRUE(notes().selected());
     EXPECT_EQ(notes().selected()->handle.record, 0U);
+    const CMTime outside = run().microsplits[1].cmtime;
+    EXPECT_EQ(m_window->deck().nudged(0, outside, -1), later(outside, -0.01))
+        << "a mark behind the film does not jump into it";
     EXPECT_FALSE(m_window->document().isDirty()) << "looking changes nothing";
 }
 

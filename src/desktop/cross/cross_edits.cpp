@@ -2,12 +2,8 @@
 #include "desktop/cross/cross_window.h"
 #include "desktop/cross/trials/trial_page.h"
 #include "desktop/film/film_deck.h"
-#include "desktop/shell/file_copy.h"
 #include "desktop/shell/workspace.h"
-#include "splittaking/marking.h"
-
-#include <QFile>
-#include <QFileInfo>
+#include "desktop/taking/folder_films.h"
 
 #include <algorithm>
 #include <limits>
@@ -17,16 +13,8 @@ namespace kavela::desktop {
 
 namespace {
 
-/// A mark moves by this where its film does not tell how far its frames are apart.
-constexpr double SecondsWithoutFrames = 0.01;
-
 /// Seconds by which two readings of one moment may differ.
 constexpr double SameMoment = 1e-6;
-
-QString videoFilter() {
-    return QObject::tr("Videos (*.mov *.mp4 *.m4v *.avi *.mkv *.mts *.m2ts *.ts *.3gp *.webm "
-                       "*.mpg);;All files (*)");
-}
 
 } // namespace
 
@@ -53,15 +41,7 @@ void CrossWindow::nudgeMark(int frames) {
         return;
     if (page().selectedMark() != mark)
         page().selectMark(*mark);
-    page().moveMark(nudged(marks[*mark].stamp, frames));
-}
-
-CMTime CrossWindow::nudged(const CMTime& stamp, int frames) const {
-    const auto index = m_deck->cameras() > 0 ? m_deck->index(0) : nullptr;
-    const auto frame = index ? index->frameAt(stamp) : std::nullopt;
-    if (!frame)
-        return later(stamp, frames * SecondsWithoutFrames);
-    return index->stampOf(std::clamp<FrameNumber>(*frame + frames, 0, index->frameCount() - 1));
+    page().moveMark(m_deck->nudged(0, marks[*mark].stamp, frames));
 }
 
 void CrossWindow::dropMark(std::size_t mark, double seconds) {
@@ -105,27 +85,13 @@ void CrossWindow::stepMark(int step) {
         goToMark(*found);
 }
 
-/// Films belong into the folder of the split file, which knows them by bare names only.
-QStringList CrossWindow::copiedIntoFolder(const QStringList& files) {
-    QStringList names;
-    for (const QString& file : files) {
-        const QFileInfo info(file);
-        const QString target = m_document.folder() + '/' + info.fileName();
-        const bool isThere = info.absolutePath() == m_document.folder() || QFile::exists(target);
-        const CopyEnd end = isThere ? CopyEnd::Done : copyFile(file, target, this);
-        if (end == CopyEnd::Cancelled)
-            return names;
-        if (end == CopyEnd::Done)
-            names.append(info.fileName());
-        else
-            tell(tr("%1 could not be copied into the folder.").arg(info.fileName()));
-    }
-    return names;
+QStringList CrossWindow::copied(const QStringList& files) {
+    return copiedIntoFolder(m_document.folder(), files, m_workspace, this);
 }
 
 void CrossWindow::importFilms() {
     const QStringList names =
-        copiedIntoFolder(m_chooseFiles(tr("Import films of time trials"), videoFilter()));
+        copied(m_chooseFiles(tr("Import films of time trials"), videoFilter()));
     if (names.isEmpty())
         return;
     showPage(Page::Trials);
@@ -137,7 +103,7 @@ void CrossWindow::chooseFilm() {
         return;
     const QStringList chosen =
         m_chooseFiles(tr("Choose the film of the trial or heat"), videoFilter()).mid(0, 1);
-    if (const QStringList names = copiedIntoFolder(chosen); !names.isEmpty())
+    if (const QStringList names = copied(chosen); !names.isEmpty())
         page().setFilm(names.front());
 }
 

@@ -332,7 +332,7 @@ void CrossWindow::dropEvent(QDropEvent* event) {
     QStringList others;
     for (const QString& file : droppedFiles(*event))
         (isVideoFile(QFileInfo(file).fileName().toStdString()) ? films : others).append(file);
-    if (const QStringList names = copiedIntoFolder(films); !names.isEmpty()) {
+    if (const QStringList names = copied(films); !names.isEmpty()) {
         if (&page() == static_cast<CrossPage*>(m_trials))
             m_trials->addFilms(names);
         else

@@ -94,8 +94,7 @@ private:
     void showHealth();
     void tell(const QString& text);
     bool commit();
-    [[nodiscard]] CMTime nudged(const CMTime& stamp, int frames) const;
-    [[nodiscard]] QStringList copiedIntoFolder(const QStringList& files);
+    [[nodiscard]] QStringList copied(const QStringList& files);
 
     Workspace& m_workspace;
     TakingDocument m_document;

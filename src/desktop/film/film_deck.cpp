@@ -1,5 +1,7 @@
 #include "desktop/film/film_deck.h"
 
+#include "splittaking/annotations/film_marks.h"
+#include "splittaking/marking.h"
 #include "video/threaded_player.h"
 
 namespace kavela::desktop {
@@ -7,6 +9,15 @@ namespace kavela::desktop {
 namespace {
 
 constexpr int RefreshMilliseconds = 8; // above the rate of any screen; nothing is drawn twice
+
+/// A mark moves by this where its film is not open.
+constexpr double SecondsWithoutFrames = 0.01;
+
+/// A mark from elsewhere may lie before the film's first frame or behind its last one.
+bool isWithin(const VideoIndex& film, const CMTime& stamp) {
+    return film.frameCount() > 0 && orderOf(stamp, film.stampOf(0)) >= 0 &&
+           orderOf(stamp, film.stampOf(film.frameCount() - 1)) <= 0;
+}
 
 } // namespace
 
@@ -127,6 +138,14 @@ std::optional<CMTime> FilmDeck::stamp(std::size_t camera) const {
 
 std::shared_ptr<const VideoIndex> FilmDeck::index(std::size_t camera) const {
     return camera < m_players.size() ? m_players[camera]->index() : nullptr;
+}
+
+CMTime FilmDeck::nudged(std::size_t camera, const CMTime& stamp, int frames) const {
+    const auto film = index(camera);
+    const auto frame = film && isWithin(*film, stamp) ? film->frameAt(stamp) : std::nullopt;
+    if (!frame)
+        return later(stamp, frames * SecondsWithoutFrames);
+    return film->stampOf(std::clamp<FrameNumber>(*frame + frames, 0, film->frameCount() - 1));
 }
 
 bool FilmDeck::isPlaying() const {

@@ -48,6 +48,10 @@ public:
     [[nodiscard]] std::optional<CMTime> stamp(std::size_t camera) const;
     [[nodiscard]] std::shared_ptr<const VideoIndex> index(std::size_t camera) const;
 
+    /// The stamp of the frame so many frames beside the one of a stamp; where the film is not open,
+    /// or ends before it, the stamp moves by hundredths of a second.
+    [[nodiscard]] CMTime nudged(std::size_t camera, const CMTime& stamp, int frames) const;
+
     [[nodiscard]] bool isPlaying() const;
     [[nodiscard]] double rate() const;
     [[nodiscard]] double position() const; ///< seconds of the first film

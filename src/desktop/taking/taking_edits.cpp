@@ -32,20 +32,8 @@ namespace kavela::desktop {
 
 namespace {
 
-const QString VideoFilter =
-    QObject::tr("Videos (*.mov *.mp4 *.m4v *.avi *.mkv *.mts *.m2ts *.ts *.3gp *.webm *.mpg);;"
-                "All files (*)");
-
 bool hasTimes(const athletedata031& run) {
     return std::ranges::any_of(run.sectioninfo.times, [](double time) { return time != 0; });
-}
-
-/// The stamp so many frames away, of the frame that a stamp belongs to.
-CMTime nudged(const VideoIndex& index, const CMTime& stamp, int frames) {
-    const auto frame = index.frameAt(stamp);
-    if (!frame)
-        return stamp;
-    return index.stampOf(std::clamp<FrameNumber>(*frame + frames, 0, index.frameCount() - 1));
 }
 
 /// The frame so many seconds later; the moment itself where the film is not there to tell.
@@ -133,9 +121,9 @@ void TakingWindow::nudgeMark(int frames) {
     if (!before)
         return;
     Stamps stamps = *before;
-    for (std::size_t camera = 0; camera < std::min(stamps.size(), m_deck->cameras()); ++camera)
-        if (const auto index = m_deck->index(camera))
-            stamps[camera] = nudged(*index, stamps[camera], frames);
+    for (std::size_t camera = 0; camera < stamps.size(); ++camera)
+        stamps[camera] = m_deck->nudged(camera < m_deck->cameras() ? camera : m_deck->views(),
+                                        stamps[camera], frames);
     if (*mark == 0)
         setStart(marks, std::move(stamps));
     else
@@ -253,71 +241,6 @@ void TakingWindow::readFilmNames() {
         }
     }
     m_document.readFilmNames(pattern);
-}
-
-/// Films belong into the folder of the split file, which knows them by bare names only.
-QStringList TakingWindow::copiedIntoFolder(const QStringList& files) {
-    QStringList names;
-    for (const QString& file : files) {
-        const QFileInfo info(file);
-        const QString target = m_document.folder() + '/' + info.fileName();
-        const bool isThere = info.absolutePath() == m_document.folder() || QFile::exists(target);
-        if (isThere) {
-            names.append(info.fileName());
-            continue;
-        }
-        switch (copyFile(file, target, this)) {
-        case CopyEnd::Done:
-            names.append(info.fileName());
-            break;
-        case CopyEnd::Cancelled:
-            return names;
-        case CopyEnd::Failed:
-            tell(tr("%1 could not be copied into the folder.").arg(info.fileName()).toStdString());
-        }
-    }
-    return names;
-}
-
-void TakingWindow::importVideos() {
-    const QStringList files = m_chooseFiles(tr("Import video"), VideoFilter);
-    if (files.isEmpty())
-        return;
-    (void)m_document.addFilms(copiedIntoFolder(files));
-    if (m_run < 0)
-        stepRun(1);
-}
-
-void TakingWindow::addCamera() {
-    if (m_run < 0)
-        return;
-    const QStringList names =
-        copiedIntoFolder(m_chooseFiles(tr("Add another camera of this run"), VideoFilter));
-    if (names.isEmpty())
-        return;
-    m_document.editRun(m_run, tr("camera added"), [&](athletedata031& run) {
-        for (const QString& name : names)
-            run.videoname.push_back(name.toStdString());
-    });
-}
-
-void TakingWindow::attachFixedCamera() {
-    if (m_run < 0)
-        return;
-    const QStringList names =
-        copiedIntoFolder(m_chooseFiles(tr("Attach the film of a fixed camera"), VideoFilter));
-    QStringList added;
-    const auto& attached = m_document.run(m_run).fixcameras;
-    for (const QString& name : names)
-        if (std::ranges::find(attached, name.toStdString()) == attached.end())
-            added.append(name);
-    if (!added.isEmpty())
-        m_document.editRun(m_run, tr("fixed camera attached"), [&](athletedata031& run) {
-            for (const QString& name : added)
-                (void)kavela::attachFixedCamera(run, name.toStdString());
-        });
-    if (!names.isEmpty())
-        m_notes->showFixedFilm(names.front());
 }
 
 void TakingWindow::importSplitFile() {

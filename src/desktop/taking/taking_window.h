@@ -116,7 +116,7 @@ private:
     [[nodiscard]] QStringList filmsOf(int run) const;
     [[nodiscard]] std::optional<std::size_t> lastMark() const;
     [[nodiscard]] const Stamps* stampsOf(const RunMarks& marks, std::size_t mark) const;
-    [[nodiscard]] QStringList copiedIntoFolder(const QStringList& files);
+    [[nodiscard]] QStringList copied(const QStringList& files);
 
     Workspace& m_workspace;
     TakingDocument m_document;

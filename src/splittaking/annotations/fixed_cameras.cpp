@@ -92,7 +92,7 @@ void removeFixMark(athletedata031& run, std::size_t camera, std::size_t mark) {
 }
 
 std::optional<ClockOffset> offsetBetween(const athletedata031& run, std::size_t first,
-                                          std::size_t second) {
+                                         std::size_t second) {
     const std::vector<ReferenceDate> from = fixMarksOf(run, first);
     const std::vector<ReferenceDate> to = fixMarksOf(run, second);
     std::vector<double> offsets;

@@ -30,7 +30,7 @@ struct ClockOffset {
 };
 
 /// Nothing without a moment marked on both cameras.
-[[nodiscard]] std::optional<ClockOffset> offsetBetween(const athletedata031& run,
-                                                        std::size_t first, std::size_t second);
+[[nodiscard]] std::optional<ClockOffset> offsetBetween(const athletedata031& run, std::size_t first,
+                                                       std::size_t second);
 
 } // namespace kavela

@@ -101,7 +101,6 @@ private:
     void goTo(const MarkHandle& handle);
     void seek(const LaneMark& mark);
     [[nodiscard]] std::optional<std::size_t> shownCamera(const FilmOfRun& film) const;
-    [[nodiscard]] CMTime nudged(const LaneMark& mark, int frames) const;
     void moveSelected(const CMTime& moment);
     void dropMark(const MarkHandle& handle, double seconds);
     void tell(const QString& text);

@@ -1,0 +1,141 @@
+#include "desktop/film/film_deck.h"
+#include "desktop/film/film_view.h"
+#include "desktop/shell/workspace.h"
+#include "desktop/taking/folder_films.h"
+#include "desktop/taking/notes/notes_panel.h"
+#include "desktop/taking/taking_window.h"
+#include "splittaking/annotations/fixed_cameras.h"
+#include "splittaking/messages.h"
+#include "video/health.h"
+
+#include <QFileInfo>
+#include <QLabel>
+#include <QSplitter>
+
+#include <algorithm>
+
+/// The films of split taking: those of a run are shown, others join it.
+namespace kavela::desktop {
+
+QStringList TakingWindow::filmsOf(int run) const {
+    QStringList films;
+    for (std::size_t camera = 0; camera < m_document.run(run).videoname.size(); ++camera)
+        if (const QString film = m_document.film(run, camera); !film.isEmpty())
+            films.append(film);
+    return films;
+}
+
+void TakingWindow::showFilms() {
+    const QStringList films = m_run < 0 ? QStringList() : filmsOf(m_run);
+    m_hasAlignedCameras = false;
+    m_health->clear();
+    m_deck->open({}); // before its views go
+    for (FilmView* view : m_views)
+        delete view;
+    m_views.clear();
+    QStringList beside;
+    if (const auto fixed = m_notes->fixedCamera(); fixed && m_run >= 0)
+        beside.append(m_document.fixedFilm(m_run, *fixed));
+    beside.removeAll(QString());
+    const qsizetype shown = films.isEmpty() ? 0 : films.size() + beside.size();
+    for (std::size_t camera = 0; camera < std::max<std::size_t>(shown, 1); ++camera) {
+        auto* view = new FilmView(*m_deck, camera);
+        m_films->addWidget(view);
+        if (std::cmp_greater_equal(camera, films.size()) && shown > 0)
+            view->setCaption(tr("Fixed: %1").arg(QFileInfo(beside.front()).completeBaseName()));
+        m_views.push_back(view);
+    }
+    m_deck->open(films, beside);
+    m_notes->bringIntoStep();
+    if (m_run < 0)
+        m_views.front()->setMessage(
+            tr("Import videos with Ctrl+I, or drop a folder of videos here."));
+    else if (films.isEmpty())
+        m_views.front()->setMessage(tr(messages::NoVideo));
+    const RunMarks marks = m_run < 0 ? RunMarks() : m_document.marks(m_run);
+    if (m_workspace.preferences().boolean("startinCMTime") && stampsOf(marks, 0))
+        goToMark(0);
+}
+
+/// The run's own film stays where it is.
+void TakingWindow::showBeside() {
+    if (m_run >= m_document.runCount())
+        return; // another run comes to the front
+    const auto moment = m_deck->stamp(0);
+    showFilms();
+    if (moment)
+        m_deck->seek(*moment);
+}
+
+/// What is odd about the films, and where the cameras of a run stand to each other: its first mark
+/// that was seen by all tells.
+void TakingWindow::showHealth() {
+    QStringList notes;
+    for (std::size_t camera = 0; camera < m_deck->cameras(); ++camera) {
+        const auto index = m_deck->index(camera);
+        if (!index || !index->isComplete())
+            continue;
+        for (const HealthNote& note : checkHealth(*index))
+            notes.append((m_deck->cameras() > 1 ? tr("Camera %1: ").arg(camera + 1) : QString()) +
+                         QString::fromStdString(note.text));
+    }
+    m_health->setText(notes.join('\n'));
+    if (m_hasAlignedCameras || m_run < 0 || m_deck->cameras() < 2)
+        return;
+    const RunMarks marks = m_document.marks(m_run);
+    for (const Stamps& stamps : marks.marks) {
+        if (stamps.size() < m_deck->cameras())
+            continue;
+        for (std::size_t camera = 1; camera < m_deck->cameras(); ++camera)
+            m_deck->setOffset(camera, {.own = stamps[camera], .common = stamps.front()});
+        m_hasAlignedCameras = true;
+        return;
+    }
+}
+
+QStringList TakingWindow::copied(const QStringList& files) {
+    return copiedIntoFolder(m_document.folder(), files, m_workspace, this);
+}
+
+void TakingWindow::importVideos() {
+    const QStringList files = m_chooseFiles(tr("Import video"), videoFilter());
+    if (files.isEmpty())
+        return;
+    (void)m_document.addFilms(copied(files));
+    if (m_run < 0)
+        stepRun(1);
+}
+
+void TakingWindow::addCamera() {
+    if (m_run < 0)
+        return;
+    const QStringList names =
+        copied(m_chooseFiles(tr("Add another camera of this run"), videoFilter()));
+    if (names.isEmpty())
+        return;
+    m_document.editRun(m_run, tr("camera added"), [&](athletedata031& run) {
+        for (const QString& name : names)
+            run.videoname.push_back(name.toStdString());
+    });
+}
+
+void TakingWindow::attachFixedCamera() {
+    if (m_run < 0)
+        return;
+    const QStringList names =
+        copied(m_chooseFiles(tr("Attach the film of a fixed camera"), videoFilter()));
+    QStringList added;
+    const auto& attached = m_document.run(m_run).fixcameras;
+    for (const QString& name : names)
+        if (std::ranges::find(attached, name.toStdString()) == attached.end())
+            added.append(name);
+    if (!added.isEmpty())
+        m_document.editRun(m_run, tr("fixed camera attached"), [&](athletedata031& run) {
+            for (const QString& name : added)
+                (void)kavela::attachFixedCamera(run, name.toStdString());
+        });
+    if (!names.isEmpty())
+        m_notes->showFixedFilm(names.front());
+}
+
+} // namespace kavela::desktop
