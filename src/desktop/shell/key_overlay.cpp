@@ -9,7 +9,10 @@
 #include <QMainWindow>
 #include <QMenu>
 #include <QMenuBar>
+#include <QScreen>
 #include <QSet>
+
+#include <memory>
 
 namespace kavela::desktop {
 
@@ -58,7 +61,27 @@ QList<KeyGroup> keyGroups(const QMainWindow& window) {
     return groups;
 }
 
-QWidget* columnOf(const KeyGroup& group, const QWidget& like) {
+/// The groups of each column, in their order, in as low columns as so many of them allow.
+QList<QList<KeyGroup>> packed(const QList<KeyGroup>& groups, qsizetype columns) {
+    constexpr qsizetype TitleLines = 2; // with the gap above it
+    for (qsizetype height = 1;; ++height) {
+        QList<QList<KeyGroup>> tried;
+        qsizetype used = height;
+        for (const KeyGroup& group : groups) {
+            const qsizetype lines = group.lines.size() + TitleLines;
+            if (tried.isEmpty() || used + lines > height) {
+                tried.append(QList<KeyGroup>());
+                used = 0;
+            }
+            tried.back().append(group);
+            used += lines;
+        }
+        if (tried.size() <= columns)
+            return tried;
+    }
+}
+
+QWidget* boxOf(const KeyGroup& group, const QWidget& like) {
     auto* box = new QWidget;
     auto* grid = new QGridLayout(box);
     grid->setContentsMargins(0, 0, 0, 0);
@@ -77,8 +100,27 @@ QWidget* columnOf(const KeyGroup& group, const QWidget& like) {
         grid->addWidget(new QLabel(what), row++, 1);
     }
     grid->setColumnStretch(1, 1);
-    grid->setRowStretch(row, 1);
     return box;
+}
+
+/// As many columns as fit beside each other on the screen.
+QWidget* columnsOf(const QList<KeyGroup>& groups, const QWidget& like, int width) {
+    for (qsizetype count = groups.size();; --count) {
+        auto whole = std::make_unique<QWidget>();
+        auto* row = new QHBoxLayout(whole.get());
+        row->setContentsMargins(0, 0, 0, 0);
+        row->setSpacing(theme::PageMargin);
+        for (const QList<KeyGroup>& column : packed(groups, count)) {
+            auto* stack = new QVBoxLayout;
+            stack->setSpacing(theme::LargeSpacing);
+            for (const KeyGroup& group : column)
+                stack->addWidget(boxOf(group, like));
+            stack->addStretch(1);
+            row->addLayout(stack);
+        }
+        if (count <= 1 || whole->sizeHint().width() <= width)
+            return whole.release();
+    }
 }
 
 } // namespace
@@ -89,9 +131,9 @@ KeyOverlay::KeyOverlay(const QMainWindow& window, QWidget* parent)
     auto* row = new QHBoxLayout(theme::floatingFrame(*this));
     row->setContentsMargins(theme::PageMargin, theme::PageMargin, theme::PageMargin,
                             theme::PageMargin);
-    row->setSpacing(theme::PageMargin);
-    for (const KeyGroup& group : keyGroups(window))
-        row->addWidget(columnOf(group, *this), 0, Qt::AlignTop);
+    const int margins = 2 * theme::PageMargin + 2 * theme::Spacing;
+    row->addWidget(
+        columnsOf(keyGroups(window), *this, screen()->availableSize().width() - margins));
 }
 
 void KeyOverlay::keyPressEvent(QKeyEvent*) {
