@@ -145,7 +145,11 @@ TEST_F(NotesTest, PutsAFixedCameraInStepByAMomentOnBothFilms) {
     EXPECT_THAT(run().fixcameras, ElementsAre(other.toStdString()));
     auto& deck = m_window->deck();
     const auto bothShown = [&] { return !deck.stamps().empty() && deck.stamp(1).has_value(); };
-    ASSERT_TRUE(QTest::qWaitFor(bothShown, Patience));
+    const auto isRead = [&](std::size_t camera) {
+        return deck.index(camera) && deck.index(camera)->isComplete();
+    };
+    ASSERT_TRUE(QTest::qWaitFor([&] { return bothShown() && isRead(0) && isRead(1); }, Patience));
+    deck.seek(0.0); // the clock learns how long the films are
     EXPECT_THAT(deck.stamps(), SizeIs(1)) << "splits are marked on the run's own films only";
     const double length = deck.end();
     for (int frame = 0; frame < 25; ++frame)

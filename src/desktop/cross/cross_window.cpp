@@ -74,6 +74,7 @@ CrossWindow::CrossWindow(Workspace& workspace, Autosave autosave)
 }
 
 CrossWindow::~CrossWindow() {
+    m_tabs->disconnect(this); // its pages go one by one
     m_deck->disconnect(this);
     m_document.disconnect(this);
 }
@@ -154,7 +155,7 @@ void CrossWindow::connectParts() {
     connect(m_line, &TimeLine::markClicked, this, &CrossWindow::goToMark);
     connect(m_line, &TimeLine::markDropped, this, &CrossWindow::dropMark);
     connect(m_ticks, &TickStrip::markClicked, this, &CrossWindow::goToMark);
-    const auto follow = [this] { m_ticks->update(); };
+    const auto follow = [ticks = m_ticks] { ticks->update(); };
     connect(m_deck, &FilmDeck::indexChanged, m_ticks, follow);
     connect(m_deck, &FilmDeck::stateChanged, m_ticks, follow);
     connect(m_trials, &TrialPage::filmWanted, this, &CrossWindow::chooseFilm);

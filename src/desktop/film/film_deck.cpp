@@ -35,6 +35,7 @@ FilmDeck::FilmDeck(std::shared_ptr<FrameCache> cache, QObject* parent)
 }
 
 FilmDeck::~FilmDeck() {
+    blockSignals(true); // whoever shows the films may be gone in part
     open({});
 }
 
