@@ -221,7 +221,7 @@ RaceWindow* Desktop::makeRaceWindow() {
     connect(window, &RaceWindow::takingRequested, this, &Desktop::openTaking);
     connect(window, &RaceWindow::momentRequested, this, &Desktop::showMoment);
     connect(window, &RaceWindow::viewsChanged, this, &Desktop::rememberSession);
-    connect(window, &QObject::destroyed, this, &Desktop::rememberSession);
+    rememberWithout(window);
     return window;
 }
 
@@ -263,6 +263,11 @@ void Desktop::rememberSession() {
     m_workspace.remember(TakingSessionKey, taken);
     m_workspace.remember(CrossSessionKey, crossed);
     m_workspace.remember(EditorSessionKey, edited);
+}
+
+void Desktop::rememberWithout(const QWidget* window) {
+    // Later: while it is being destroyed, it still counts as a window of its kind.
+    connect(window, &QObject::destroyed, this, &Desktop::rememberSession, Qt::QueuedConnection);
 }
 
 bool Desktop::hasWindows() const {
@@ -316,7 +321,7 @@ void Desktop::show(EditorWindow* window) {
     connect(window, &EditorWindow::openRequested, this,
             [this](const QStringList& paths) { openAll(paths); });
     connect(&window->file(), &EditedFile::saved, this, &Desktop::rememberSession);
-    connect(window, &QObject::destroyed, this, &Desktop::rememberSession);
+    rememberWithout(window);
     m_editors.append(window);
     window->show();
     rememberSession();

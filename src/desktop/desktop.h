@@ -97,6 +97,8 @@ private:
     /// The races among files and folders; what is not one is told.
     [[nodiscard]] QStringList racesAmong(const QStringList& paths);
     void rememberSession();
+    /// Remembers what is left once a window is gone.
+    void rememberWithout(const QWidget* window);
     [[nodiscard]] QWidget* front() const;
 
     Workspace& m_workspace;

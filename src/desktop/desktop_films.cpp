@@ -50,7 +50,7 @@ TakingWindow* Desktop::openTaking(const QString& path) {
         for (const QString& file : files)
             (void)openTaking(file);
     });
-    connect(window, &QObject::destroyed, this, &Desktop::rememberSession);
+    rememberWithout(window);
     m_takings.append(window);
     window->show();
     if (cross)
@@ -102,7 +102,7 @@ CrossWindow* Desktop::openCross(const QString& path) {
             [this](const QString& file) { openRaces({file}, nullptr); });
     connect(window, &CrossWindow::takingRequested, this, &Desktop::openTaking);
     connect(window, &CrossWindow::filesRequested, this, &Desktop::openCrosses);
-    connect(window, &QObject::destroyed, this, &Desktop::rememberSession);
+    rememberWithout(window);
     m_crosses.append(window);
     window->show();
     if (taking)

@@ -84,7 +84,7 @@ void Desktop::openRecordings(const QStringList& paths) {
         connect(m_motion, &MotionWindow::openRequested, this,
                 [this](const QStringList& others) { openAll(others); });
         connect(m_motion, &MotionWindow::recordingsChanged, this, &Desktop::rememberSession);
-        connect(m_motion, &QObject::destroyed, this, &Desktop::rememberSession);
+        rememberWithout(m_motion);
     }
     m_motion->show();
     m_motion->raise();

@@ -41,6 +41,8 @@ PlayMenu::PlayMenu(QMainWindow& window, FilmDeck& deck, FilmSound& sound, Worksp
 
 /// K held down turns J and L into single steps. The key itself goes on to its action.
 bool PlayMenu::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::WindowDeactivate)
+        m_isStopHeld = false; // its release goes elsewhere
     const bool isDown =
         event->type() == QEvent::ShortcutOverride || event->type() == QEvent::KeyPress;
     if (isDown || event->type() == QEvent::KeyRelease) {

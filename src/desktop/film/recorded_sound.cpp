@@ -83,6 +83,11 @@ void RecordedSoundPlayer::end(int played) {
 SpeechRecorder::SpeechRecorder(QObject* parent, MakeInput makeInput)
     : QObject(parent), m_makeInput(std::move(makeInput)) {}
 
+SpeechRecorder::~SpeechRecorder() {
+    m_isRecording = false;
+    m_input.reset(); // may give what it still has
+}
+
 bool SpeechRecorder::start() {
     m_samples.clear();
     if (!m_input)

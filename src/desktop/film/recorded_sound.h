@@ -55,6 +55,7 @@ public:
     using MakeInput = std::function<std::unique_ptr<SoundInput>()>;
 
     explicit SpeechRecorder(QObject* parent = nullptr, MakeInput makeInput = microphone);
+    ~SpeechRecorder() override;
 
     /// Begins anew. False where there is no microphone.
     [[nodiscard]] bool start();

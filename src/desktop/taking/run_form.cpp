@@ -155,6 +155,11 @@ void RunForm::showRun(int run) {
     refresh();
 }
 
+void RunForm::runMoved(int run) {
+    m_run = run;
+    refresh();
+}
+
 void RunForm::refresh() {
     if (m_run >= m_document.runCount())
         m_run = -1;

@@ -27,6 +27,8 @@ public:
 
     /// Shows a run, -1 for none. What was typed for the run before is taken over first.
     void showRun(int run);
+    /// The run that is shown stands elsewhere in the list now.
+    void runMoved(int run);
     /// Takes over what is being typed.
     void commit();
 

@@ -3,6 +3,7 @@
 #include "desktop/film/film_deck.h"
 #include "desktop/film/play_menu.h"
 #include "desktop/shell/help_menu.h"
+#include "desktop/shell/typing.h"
 #include "desktop/shell/workspace.h"
 #include "desktop/taking/notes/note_actions.h"
 #include "desktop/taking/taking_reports.h"
@@ -10,10 +11,7 @@
 #include "splitdata/run_timing.h"
 
 #include <QAction>
-#include <QApplication>
-#include <QComboBox>
 #include <QFileDialog>
-#include <QLineEdit>
 #include <QMenuBar>
 
 namespace kavela::desktop {
@@ -46,23 +44,6 @@ QAction* TakingActions::add(QMenu& menu, const QString& text, const QList<QKeySe
     return action;
 }
 
-/// Enter ends the typing in a field before it means anything else.
-bool TakingActions::endsTyping() const {
-    auto* const choice = qobject_cast<QComboBox*>(QApplication::focusWidget());
-    if (choice && choice->isEditable()) {
-        choice->clearFocus();
-        return true;
-    }
-    auto* const field = qobject_cast<QLineEdit*>(QApplication::focusWidget());
-    if (!field)
-        return false;
-    if (field->objectName() == "athlete")
-        emit field->returnPressed();
-    else
-        field->clearFocus();
-    return true;
-}
-
 void TakingActions::makeFileMenu() {
     QMenu* menu = m_window.menuBar()->addMenu(tr("&File"));
     add(*menu, tr("&Open a folder of videos…"), {QKeySequence::Open}, [this] { chooseFolder(); });
@@ -79,11 +60,11 @@ void TakingActions::makeFileMenu() {
     add(*menu, tr("&Export data…"), {keys(Qt::CTRL | Qt::Key_E)},
         [this] { m_window.exportData(); });
     add(*menu, tr("Show in the race &analyzer"), {keys(Qt::CTRL | Qt::Key_R)}, [this] {
-        if (!m_window.document().isDirty() || m_window.document().save(&m_window))
+        if (savedIfDirty())
             emit m_window.analysisRequested(m_window.document().path());
     });
     add(*menu, tr("Kayak &cross of this race"), {keys(Qt::CTRL | Qt::SHIFT | Qt::Key_R)}, [this] {
-        if (!m_window.document().isDirty() || m_window.document().save(&m_window))
+        if (savedIfDirty())
             emit m_window.crossRequested(m_window.document().path());
     });
     menu->addSeparator();
@@ -92,6 +73,11 @@ void TakingActions::makeFileMenu() {
     add(*menu, tr("Se&ttings…"), {keys(Qt::CTRL | Qt::Key_Comma)},
         [this] { emit m_window.settingsRequested(); });
     add(*menu, tr("C&lose"), {QKeySequence::Close}, [this] { m_window.close(); });
+}
+
+bool TakingActions::savedIfDirty() {
+    m_window.commit();
+    return !m_window.document().isDirty() || m_window.save();
 }
 
 void TakingActions::chooseFolder() {
@@ -108,35 +94,39 @@ void TakingActions::makeEditMenu() {
     undo->setShortcut(QKeySequence::Undo);
     QAction* redo = stack.createRedoAction(&m_window, tr("&Redo"));
     redo->setShortcut(keys(Qt::CTRL | Qt::SHIFT | Qt::Key_Z));
+    undo->disconnect(&stack); // what is being typed is taken first
+    redo->disconnect(&stack);
+    connect(undo, &QAction::triggered, &m_window, &TakingWindow::undo);
+    connect(redo, &QAction::triggered, &m_window, &TakingWindow::redo);
     menu->addActions({undo, redo});
     menu->addSeparator();
     add(*menu, tr("Race and &course…"), {keys(Qt::CTRL | Qt::Key_G)},
         [this] { m_window.setUpCourse(); });
     add(*menu, tr("Names of the &films…"), {}, [this] { m_window.readFilmNames(); });
-    add(*menu, tr("&Previous run"), {keys(Qt::Key_Up)}, [this] { m_window.stepRun(-1); });
-    add(*menu, tr("&Next run"), {keys(Qt::Key_Down)}, [this] { m_window.stepRun(1); });
+    add(*menu, tr("&Previous run"), {keys(Qt::Key_Up)}, [this] {
+        if (!stepNumber(1))
+            m_window.stepRun(-1);
+    });
+    add(*menu, tr("&Next run"), {keys(Qt::Key_Down)}, [this] {
+        if (!stepNumber(-1))
+            m_window.stepRun(1);
+    });
     add(*menu, tr("&Find an athlete"), {QKeySequence::Find}, [this] { m_window.findRun(); });
-    add(*menu, tr("Move the run up"), {keys(Qt::CTRL | Qt::SHIFT | Qt::Key_Up)}, [this] {
-        const int run = m_window.currentRun();
-        m_window.document().moveRun(run, run - 1);
-        m_window.stepRun(-1);
-    });
-    add(*menu, tr("Move the run down"), {keys(Qt::CTRL | Qt::SHIFT | Qt::Key_Down)}, [this] {
-        const int run = m_window.currentRun();
-        m_window.document().moveRun(run, run + 1);
-        m_window.stepRun(1);
-    });
+    add(*menu, tr("Move the run up"), {keys(Qt::CTRL | Qt::SHIFT | Qt::Key_Up)},
+        [this] { m_window.moveRun(-1); });
+    add(*menu, tr("Move the run down"), {keys(Qt::CTRL | Qt::SHIFT | Qt::Key_Down)},
+        [this] { m_window.moveRun(1); });
     m_ofRun.push_back(
         add(*menu, tr("Remove the run from the list"), {}, [this] { m_window.removeRun(); }));
     menu->addSeparator();
-    add(*menu, tr("Delete &all data…"), {}, [this] { m_window.document().reset(&m_window); });
+    add(*menu, tr("Delete &all data…"), {}, [this] { m_window.reset(); });
 }
 
 void TakingActions::makeMarkMenu() {
     QMenu* menu = m_window.menuBar()->addMenu(tr("&Mark"));
     m_ofRun.push_back(add(*menu, tr("&Mark the split"),
                           {keys(Qt::Key_M), keys(Qt::Key_Return), keys(Qt::Key_Enter)}, [this] {
-                              if (!endsTyping())
+                              if (!endTyping())
                                   m_window.mark();
                           }));
     add(*menu, tr("Move the selected mark &here"), {keys(Qt::SHIFT | Qt::Key_M)},
@@ -176,13 +166,13 @@ void TakingActions::makeCameraMenu() {
     FilmDeck& deck = m_window.deck();
     m_ofRun.push_back(
         add(*menu, tr("&Add another camera of this run…"), {}, [this] { m_window.addCamera(); }));
-    add(*menu, tr("Last camera one frame back"), {keys(Qt::CTRL | Qt::ALT | Qt::Key_Left)},
-        [&deck] {
+    add(*menu, tr("Last camera one frame back"),
+        {keys(Qt::ALT | Qt::Key_PageUp), keys(Qt::CTRL | Qt::ALT | Qt::Key_Left)}, [&deck] {
             if (deck.views() > 1)
                 deck.stepAlone(deck.views() - 1, -1);
         });
-    add(*menu, tr("Last camera one frame forward"), {keys(Qt::CTRL | Qt::ALT | Qt::Key_Right)},
-        [&deck] {
+    add(*menu, tr("Last camera one frame forward"),
+        {keys(Qt::ALT | Qt::Key_PageDown), keys(Qt::CTRL | Qt::ALT | Qt::Key_Right)}, [&deck] {
             if (deck.views() > 1)
                 deck.stepAlone(deck.views() - 1, 1);
         });

@@ -191,6 +191,15 @@ const athletedata031& TakingDocument::run(int index) const {
     return *m_state.runs.at(static_cast<std::size_t>(index)).record;
 }
 
+RunIdentity TakingDocument::identityOf(int index) const {
+    return m_state.runs.at(static_cast<std::size_t>(index)).identity;
+}
+
+int TakingDocument::placeOf(const RunIdentity& identity) const {
+    const auto found = std::ranges::find(m_state.runs, identity, &TakenRun::identity);
+    return found == m_state.runs.end() ? -1 : static_cast<int>(found - m_state.runs.begin());
+}
+
 RunMarks TakingDocument::marks(int index) const {
     RunMarks marks = marksOf(run(index).sectioninfo);
     if (marks.marks.empty())
@@ -293,7 +302,9 @@ void TakingDocument::setMarks(int index, const QString& what, const RunMarks& ma
     if (startOf(*edited) != start)
         retimeNotes(*edited);
     TakingState after = m_state;
-    after.runs[static_cast<std::size_t>(index)] = {std::move(edited), marks.start};
+    TakenRun& marked = after.runs[static_cast<std::size_t>(index)];
+    marked.record = std::move(edited);
+    marked.start = marks.start;
     push(what, std::move(after));
 }
 
@@ -305,13 +316,16 @@ void TakingDocument::addRun(const QString& what, athletedata031 run) {
 }
 
 void TakingDocument::removeRun(int index) {
+    if (index < 0 || index >= runCount())
+        return;
     TakingState after = m_state;
     after.runs.erase(after.runs.begin() + index);
     push(tr("run removed"), std::move(after));
 }
 
 void TakingDocument::moveRun(int index, int to) {
-    if (to < 0 || to >= runCount() || to == index)
+    const auto isRun = [this](int place) { return place >= 0 && place < runCount(); };
+    if (!isRun(index) || !isRun(to) || to == index)
         return;
     TakingState after = m_state;
     auto moved = std::move(after.runs[static_cast<std::size_t>(index)]);

@@ -39,6 +39,9 @@ public:
     [[nodiscard]] const crossdata030& cross() const { return *m_state.cross; }
     [[nodiscard]] int runCount() const { return static_cast<int>(m_state.runs.size()); }
     [[nodiscard]] const athletedata031& run(int index) const;
+    [[nodiscard]] RunIdentity identityOf(int index) const;
+    /// Where that run stands now; -1 when it is gone.
+    [[nodiscard]] int placeOf(const RunIdentity& identity) const;
     [[nodiscard]] RunMarks marks(int index) const;
     /// Seconds; 0 as long as there is none. Always of the runs as they are now.
     [[nodiscard]] double perfectTime() const { return m_perfect; }
@@ -107,7 +110,11 @@ private:
     void keepWork();
     [[nodiscard]] bool holdsNothing() const;
     [[nodiscard]] splittakerdata031 finished(bool isLogged) const;
-    [[nodiscard]] bool write(const std::filesystem::path& file, bool csv, bool pdf, QWidget* over);
+    [[nodiscard]] bool writeSplitFile(const splittakerdata031& document,
+                                      const std::filesystem::path& file, QWidget* over) const;
+    [[nodiscard]] bool writeBeside(splittakerdata031 document, const std::filesystem::path& file,
+                                   bool csv, bool pdf, QWidget* over) const;
+    [[nodiscard]] bool written(const std::function<void()>& write, QWidget* over) const;
     [[nodiscard]] bool mayOverwrite(QWidget* over) const;
     void tellNotWritten(const std::string& reason, QWidget* over) const;
 

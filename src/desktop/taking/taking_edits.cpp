@@ -97,9 +97,9 @@ void TakingWindow::moveMarkHere() {
         return;
     }
     Stamps stamps = m_deck->stamps();
-    if (m_run < 0 || !m_selected || stamps.empty())
+    RunMarks marks = m_run < 0 ? RunMarks() : m_document.marks(m_run);
+    if (!m_selected || !stampsOf(marks, *m_selected) || stamps.empty())
         return;
-    RunMarks marks = m_document.marks(m_run);
     if (*m_selected == 0)
         setStart(marks, std::move(stamps));
     else
@@ -157,9 +157,9 @@ void TakingWindow::deleteMark() {
         m_notes->deleteMark();
         return;
     }
-    if (m_run < 0 || !m_selected)
+    RunMarks marks = m_run < 0 ? RunMarks() : m_document.marks(m_run);
+    if (!m_selected || !stampsOf(marks, *m_selected))
         return;
-    RunMarks marks = m_document.marks(m_run);
     if (*m_selected == 0)
         marks.start.reset();
     else
@@ -244,12 +244,14 @@ void TakingWindow::readFilmNames() {
 }
 
 void TakingWindow::importSplitFile() {
+    commit();
     for (const QString& file :
          m_chooseFiles(tr("Import split file"), tr("Split files (*.kvx);;All files (*)")))
         m_document.importSplitFile(file, this);
 }
 
 void TakingWindow::importResults() {
+    commit();
     for (const QString& file :
          m_chooseFiles(tr("Import official results"), tr("Lists (*.csv *.txt);;All files (*)"))) {
         const QString told = m_document.importResults(file, this);
@@ -259,17 +261,38 @@ void TakingWindow::importResults() {
 }
 
 void TakingWindow::removeRun() {
-    if (m_run >= 0)
-        m_document.removeRun(m_run);
+    commit();
+    m_document.removeRun(m_run);
 }
 
-void TakingWindow::save() {
-    m_form->commit();
-    (void)m_document.save(this);
+void TakingWindow::moveRun(int step) {
+    commit();
+    m_document.moveRun(m_run, m_run + step);
+}
+
+/// What is being typed is the last step.
+void TakingWindow::undo() {
+    commit();
+    m_document.undoStack().undo();
+}
+
+void TakingWindow::redo() {
+    commit();
+    m_document.undoStack().redo();
+}
+
+void TakingWindow::reset() {
+    commit();
+    m_document.reset(this);
+}
+
+bool TakingWindow::save() {
+    commit();
+    return m_document.save(this);
 }
 
 void TakingWindow::exportData() {
-    m_form->commit();
+    commit();
     if (m_document.runCount() == 0) {
         tell(messages::NothingToExport);
         return;

@@ -13,6 +13,7 @@
 #include <QSplitter>
 
 #include <algorithm>
+#include <span>
 
 /// The films of split taking: those of a run are shown, others join it.
 namespace kavela::desktop {
@@ -53,8 +54,9 @@ void TakingWindow::showFilms() {
     else if (films.isEmpty())
         m_views.front()->setMessage(tr(messages::NoVideo));
     const RunMarks marks = m_run < 0 ? RunMarks() : m_document.marks(m_run);
-    if (m_workspace.preferences().boolean("startinCMTime") && stampsOf(marks, 0))
-        goToMark(0);
+    if (const Stamps* const start = stampsOf(marks, 0);
+        start && m_workspace.preferences().boolean("startinCMTime"))
+        m_deck->seek(start->front());
 }
 
 /// The run's own film stays where it is.
@@ -84,7 +86,8 @@ void TakingWindow::showHealth() {
         return;
     const RunMarks marks = m_document.marks(m_run);
     for (const Stamps& stamps : marks.marks) {
-        if (stamps.size() < m_deck->cameras())
+        const std::span seen(stamps.begin(), std::min(stamps.size(), m_deck->cameras()));
+        if (seen.size() < m_deck->cameras() || !std::ranges::all_of(seen, isTaken))
             continue;
         for (std::size_t camera = 1; camera < m_deck->cameras(); ++camera)
             m_deck->setOffset(camera, {.own = stamps[camera], .common = stamps.front()});
@@ -101,9 +104,8 @@ void TakingWindow::importVideos() {
     const QStringList files = m_chooseFiles(tr("Import video"), videoFilter());
     if (files.isEmpty())
         return;
+    commit();
     (void)m_document.addFilms(copied(files));
-    if (m_run < 0)
-        stepRun(1);
 }
 
 void TakingWindow::addCamera() {

@@ -53,16 +53,19 @@ bool TakingDocument::save(QWidget* over) {
         m_workspace.showAlert({"", messages::NothingToSave}, over);
         return false;
     }
-    const Preferences& preferences = m_workspace.preferences();
-    if (!mayOverwrite(over) || !write(m_path.toStdString(), preferences.boolean("savetoCSV"),
-                                      preferences.boolean("savetoPDF"), over))
+    splittakerdata031 document = finished(false);
+    const fs::path file = m_path.toStdString();
+    if (!mayOverwrite(over) || !writeSplitFile(document, file, over))
         return false;
-    m_readTime = lastWritten(m_path.toStdString());
+    m_readTime = lastWritten(file);
     m_undo.setClean();
     m_keep.stop();
     m_autosave.forget(m_path);
     m_workspace.addRecentFile(m_path);
     emit saved();
+    const Preferences& preferences = m_workspace.preferences();
+    (void)writeBeside(std::move(document), file, preferences.boolean("savetoCSV"),
+                      preferences.boolean("savetoPDF"), over);
     return true;
 }
 
@@ -74,24 +77,39 @@ bool TakingDocument::exportTo(const QString& file, bool alsoCsv, bool alsoPdf, Q
     if (!splitFileIn(QFileInfo(file).path()).isEmpty() &&
         !m_workspace.ask({"", messages::AskToOverwrite}, tr("Overwrite"), over))
         return false;
-    return write(file.toStdString(), alsoCsv, alsoPdf, over);
+    splittakerdata031 document = finished(false);
+    return writeSplitFile(document, file.toStdString(), over) &&
+           writeBeside(std::move(document), file.toStdString(), alsoCsv, alsoPdf, over);
 }
 
-bool TakingDocument::write(const fs::path& file, bool csv, bool pdf, QWidget* over) {
-    try {
-        splittakerdata031 document = finished(false);
-        writeFileSafely(file, encode(document));
-        if (document.athletes.empty())
-            return true; // table and report are of runs
-        fs::path beside = file;
-        if (csv)
-            writeFileSafely(beside.replace_extension(".csv"), splitTableCsv(document));
-        if (pdf) {
+bool TakingDocument::writeSplitFile(const splittakerdata031& document, const fs::path& file,
+                                    QWidget* over) const {
+    return written([&] { writeFileSafely(file, encode(document)); }, over);
+}
+
+/// Table and report are of runs.
+bool TakingDocument::writeBeside(splittakerdata031 document, const fs::path& file, bool csv,
+                                 bool pdf, QWidget* over) const {
+    if (document.athletes.empty())
+        return true;
+    return written(
+        [&] {
+            fs::path beside = file;
+            if (csv)
+                writeFileSafely(beside.replace_extension(".csv"), splitTableCsv(document));
+            if (!pdf)
+                return;
             const report::ReportHeading heading = report::reportHeading(document.info);
             const RaceSet set = makeRaceSet(std::move(document), file);
             report::writePdf(report::RaceReport(heading, set, {}, report::ReportContent::Race),
                              beside.replace_extension(".pdf"));
-        }
+        },
+        over);
+}
+
+bool TakingDocument::written(const std::function<void()>& write, QWidget* over) const {
+    try {
+        write();
         return true;
     } catch (const FileError& error) {
         tellNotWritten(error.reason(), over);

@@ -9,10 +9,14 @@
 
 namespace kavela::desktop {
 
+using RunIdentity = std::shared_ptr<const char>;
+
 /// A run in the making. The record has no place for a start mark before the first split.
 struct TakenRun {
     std::shared_ptr<const athletedata031> record;
     std::optional<Stamps> start;
+    /// Which run it is: the same through all its edits, wherever it stands in the list.
+    RunIdentity identity = std::make_shared<const char>();
 };
 
 /// A split file in the making, at one moment. Copies share what they have in common, so that every

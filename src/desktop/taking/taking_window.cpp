@@ -212,9 +212,8 @@ bool TakingWindow::open(const QString& path) {
                                                 : m_document.openFile(path, this);
     if (!isOpen)
         return false;
-    m_run = -1;
-    if (m_document.runCount() > 0)
-        m_runTable->selectRow(0);
+    if (m_run < 0)
+        showFilms(); // says how films come here
     m_runTable->setFocus();
     return true;
 }
@@ -226,10 +225,11 @@ void TakingWindow::tell(const std::string& message) {
 void TakingWindow::showDocument() {
     setWindowTitle(m_document.title() + "[*] – " + tr("split taking") + " – Kavela");
     setWindowModified(m_document.isDirty());
-    if (m_run >= m_document.runCount())
-        selectRun(m_document.runCount() - 1);
-    else if (m_run >= 0 && filmsOf(m_run) != m_deck->films())
+    followRun();
+    if (m_run >= 0 && filmsOf(m_run) != m_deck->films())
         showFilms();
+    if (m_selected && (m_run < 0 || !stampsOf(m_document.marks(m_run), *m_selected)))
+        m_selected.reset();
     std::vector<std::int64_t> penalties;
     if (m_run >= 0)
         penalties = m_document.run(m_run).sectioninfo.pens;
@@ -240,12 +240,37 @@ void TakingWindow::showDocument() {
     m_actions->refresh();
 }
 
-void TakingWindow::selectRun(int run) {
-    if (run == m_run)
-        return;
+void TakingWindow::commit() {
     m_form->commit();
     m_notes->commit();
+}
+
+/// The run in front may stand elsewhere in the list after an edit, or be gone.
+void TakingWindow::followRun() {
+    const int place = m_document.placeOf(m_identity);
+    if (place == m_run && m_run >= 0)
+        return;
+    m_notes->forget();
+    if (place < 0) {
+        showRun(std::clamp(m_run, m_document.runCount() > 0 ? 0 : -1, m_document.runCount() - 1));
+        return;
+    }
+    m_run = place;
+    m_form->runMoved(place);
+    m_notes->runMoved(place);
+    m_runTable->selectRow(place);
+}
+
+void TakingWindow::selectRun(int run) {
+    if (run == m_run || run >= m_document.runCount())
+        return;
+    commit();
+    showRun(run);
+}
+
+void TakingWindow::showRun(int run) {
     m_run = run;
+    m_identity = run < 0 ? nullptr : m_document.identityOf(run);
     m_selected.reset();
     m_form->showRun(run);
     if (run >= 0 && m_runTable->currentIndex().row() != run)
@@ -349,8 +374,7 @@ void TakingWindow::playTableCell(const QModelIndex& index) {
 }
 
 void TakingWindow::closeEvent(QCloseEvent* event) {
-    m_form->commit();
-    m_notes->commit();
+    commit();
     if (m_document.isDirty()) {
         const auto choice = m_workspace.askToSave(m_document.title(), this);
         if (choice == Workspace::Leaving::Stay ||
@@ -377,6 +401,7 @@ void TakingWindow::dropEvent(QDropEvent* event) {
             openRecording(file);
         else
             (isVideoFile(QFileInfo(file).fileName().toStdString()) ? films : others).append(file);
+    commit();
     if (!films.isEmpty())
         (void)m_document.addFilms(copied(films));
     if (!others.isEmpty())

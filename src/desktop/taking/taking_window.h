@@ -51,8 +51,11 @@ public:
     [[nodiscard]] NotesPanel& notes() const { return *m_notes; }
     [[nodiscard]] std::optional<std::size_t> selectedMark() const { return m_selected; }
 
+    /// Takes what is being typed, and ends a recording of the team radio.
+    void commit();
+
     // What the keys do.
-    void selectRun(int run);
+    void selectRun(int run); ///< a number beyond the runs changes nothing
     void stepRun(int step);
     void mark();
     void moveMarkHere();
@@ -74,7 +77,11 @@ public:
     void importResults();
     void collectTraining();
     void removeRun();
-    void save();
+    void moveRun(int step);
+    void undo();
+    void redo();
+    void reset();
+    bool save();
     void exportData();
     void findRun();
     /// Shows the recording of the run beside the film, to be aligned and attached.
@@ -103,6 +110,8 @@ private:
     [[nodiscard]] QWidget* makeTable();
     void connectParts();
     void connectNotes();
+    void showRun(int run);
+    void followRun();
     void showDocument();
     void showFilms();
     void showBeside();
@@ -128,6 +137,7 @@ private:
     TakingActions* m_actions = nullptr;
     ChooseFiles m_chooseFiles;
     int m_run = -1;
+    RunIdentity m_identity;                ///< of the run in front
     std::optional<std::size_t> m_selected; ///< mark: 0 is the start, 1 the first split
     bool m_hasAlignedCameras = false;
     bool m_wasPlaying = false;

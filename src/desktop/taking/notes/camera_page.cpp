@@ -54,8 +54,10 @@ CameraPage::CameraPage(NoteDesk& desk) : NotePage(desk) {
     connect(m_all, &QPushButton::clicked, this, &CameraPage::attachToAll);
     connect(m_cameras, &QComboBox::activated, this,
             [this](int place) { choose(m_cameras->itemData(place).toString()); });
-    connect(m_table, &QTableWidget::cellClicked, this,
-            [this](int row) { m_desk.deck.seek(m_marks.at(static_cast<std::size_t>(row)).own); });
+    connect(m_table, &QTableWidget::cellClicked, this, [this](int row) {
+        emit rowChosen();
+        m_desk.deck.seek(m_marks.at(static_cast<std::size_t>(row)).own);
+    });
 }
 
 void CameraPage::makeParts() {
@@ -136,7 +138,7 @@ void CameraPage::showMarks() {
         return;
     }
     m_next->setText(tr("Find one moment on both films, the fixed camera's alone with "
-                       "Ctrl+Alt+← →. M marks it."));
+                       "Alt+PgUp and Alt+PgDown. M marks it."));
     const auto lag = lagOf(*run, *m_desk.fixedCamera);
     m_step->setText(lag ? tr("In step: the fixed camera's film is %1 s ahead.")
                               .arg(QString::number(*lag, 'f', 3))
@@ -183,10 +185,10 @@ void CameraPage::mark(const Stamps& stamps) {
         emit told(tr("The film of the fixed camera shows no frame yet."));
         return;
     }
-    const QString film = m_desk.document.fixedFilm(m_desk.run, camera);
-    const ReferenceDate began = recordingBegan(film.toStdString()).value_or(ReferenceDate{});
+    const ReferenceDate zero =
+        began(m_desk.document.fixedFilm(m_desk.run, camera)).value_or(ReferenceDate{});
     edit(tr("moment on both films"),
-         [&](athletedata031& run) { markSync(run, camera, stamps.front(), *fixed, began); });
+         [&](athletedata031& run) { markSync(run, camera, stamps.front(), *fixed, zero); });
     bringIntoStep();
     emit flashed(tr("Same moment"));
 }
@@ -200,10 +202,17 @@ void CameraPage::removeCurrent() {
     bringIntoStep();
 }
 
+/// Films are asked once: the page is shown anew at every mark.
+std::optional<ReferenceDate> CameraPage::began(const QString& film) const {
+    if (const auto known = m_began.find(film); known != m_began.end())
+        return known->second;
+    return m_began[film] = recordingBegan(film.toStdString());
+}
+
 /// The films' own dates, where both cameras wrote theirs.
 std::optional<double> CameraPage::lagByDates(std::size_t camera) const {
-    const auto own = recordingBegan(m_desk.document.film(m_desk.run, 0).toStdString());
-    const auto fixed = recordingBegan(m_desk.document.fixedFilm(m_desk.run, camera).toStdString());
+    const auto own = began(m_desk.document.film(m_desk.run, 0));
+    const auto fixed = began(m_desk.document.fixedFilm(m_desk.run, camera));
     return own && fixed ? std::optional(own->seconds - fixed->seconds) : std::nullopt;
 }
 

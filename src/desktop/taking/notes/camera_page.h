@@ -3,6 +3,8 @@
 #include "desktop/taking/notes/note_page.h"
 #include "splittaking/annotations/camera_sync.h"
 
+#include <map>
+
 class QComboBox;
 class QLabel;
 class QPushButton;
@@ -45,10 +47,12 @@ private:
     void showMarks();
     [[nodiscard]] QString nameOf(std::size_t camera) const;
     [[nodiscard]] std::optional<double> lagByDates(std::size_t camera) const;
+    [[nodiscard]] std::optional<ReferenceDate> began(const QString& film) const;
 
     QString m_film; ///< shown beside every run that has it; empty for none
     bool m_hasChosen = false;
     std::vector<SyncMark> m_marks;
+    mutable std::map<QString, std::optional<ReferenceDate>> m_began; ///< by film
     QComboBox* m_cameras = nullptr;
     QPushButton* m_detach = nullptr;
     QPushButton* m_all = nullptr;

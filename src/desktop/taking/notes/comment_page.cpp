@@ -8,7 +8,6 @@
 #include "splittaking/annotations/run_notes.h"
 #include "splittaking/course_setup.h"
 
-#include <QApplication>
 #include <QCheckBox>
 #include <QDoubleSpinBox>
 #include <QFormLayout>
@@ -117,9 +116,7 @@ void CommentPage::recordRadio() {
 
 void CommentPage::commit() {
     m_radio->finish();
-    QWidget* const focus = QApplication::focusWidget();
-    if (focus && isAncestorOf(focus))
-        focus->clearFocus(); // an editor of the table closes and hands its text over
+    NotePage::commit();
 }
 
 /// Comments of a file beyond the splits of its course are listed too.

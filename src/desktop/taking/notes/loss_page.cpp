@@ -190,6 +190,11 @@ bool LossPage::isOnOtherRun() const {
     return m_desk.run != m_owner && m_desk.run >= 0 && otherRun() == m_desk.run;
 }
 
+void LossPage::forget() {
+    m_owner = -1;
+    m_loss.reset();
+}
+
 void LossPage::refresh() {
     if (const int run = m_desk.record() ? m_desk.run : -1; run != m_owner && !isOnOtherRun()) {
         m_owner = run;
@@ -344,11 +349,11 @@ void LossPage::removeCurrent() {
                             [&](athletedata031& run) { removeTimeLoss(run, removed); });
 }
 
-void LossPage::goToOtherRun() {
-    if (m_desk.run != m_owner)
-        emit runRequested(m_owner);
-    else if (const auto other = otherRun())
+bool LossPage::goToOtherRun() {
+    const auto other = m_desk.run == m_owner ? otherRun() : std::optional(m_owner);
+    if (other)
         emit runRequested(*other);
+    return other.has_value();
 }
 
 void LossPage::change(const QString& what, const std::function<void(timeloss031&)>& act) {

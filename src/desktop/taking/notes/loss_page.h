@@ -24,14 +24,15 @@ class LossPage : public NotePage {
 public:
     explicit LossPage(NoteDesk& desk);
 
+    void forget() override;
     void refresh() override;
     [[nodiscard]] std::optional<MarkKind> kind() const override { return MarkKind::TimeLoss; }
     /// Start and end of the stretch in turn, on the run in front; the first mark makes the loss.
     void mark(const Stamps& stamps) override;
     void choose(const LaneMark& mark) override;
     void removeCurrent() override;
-    /// To the run on the other side of the loss in hand.
-    void goToOtherRun();
+    /// To the run on the other side of the loss in hand; false where the file has none.
+    bool goToOtherRun();
 
 private:
     void makeParts();

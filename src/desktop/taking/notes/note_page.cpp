@@ -2,6 +2,7 @@
 
 #include "common/number_text.h"
 #include "desktop/film/film_deck.h"
+#include "desktop/shell/typing.h"
 #include "desktop/taking/taking_document.h"
 #include "splitdata/run_timing.h"
 #include "splittaking/course_setup.h"
@@ -45,6 +46,10 @@ const athletedata031* NoteDesk::record() const {
 std::optional<CMTime> NoteDesk::moment() const {
     const FilmPicture* const shown = deck.shown(0);
     return shown ? std::optional(shown->frame.stamp) : std::nullopt;
+}
+
+void NotePage::commit() {
+    endTypingIn(*this);
 }
 
 void NotePage::edit(const QString& what, const std::function<void(athletedata031&)>& change) {

@@ -64,7 +64,9 @@ public:
     [[nodiscard]] virtual std::optional<Alert> refusal() const { return std::nullopt; }
     virtual void enter() {}
     /// Takes what is being typed, before another run or mode comes.
-    virtual void commit() {}
+    virtual void commit();
+    /// The runs stand in another order, or are others: nothing of before stays in hand.
+    virtual void forget() {}
     /// Another run, another gate in front, or another content of the run.
     virtual void refresh() = 0;
     /// Another frame on the screen.
@@ -88,6 +90,10 @@ public:
 signals:
     /// A mark was taken at a moment, in the record of the run in front or beside it.
     void marked(MarkKind kind, CMTime moment);
+    /// A mark was clicked, which is to be shown and selected.
+    void picked(const MarkHandle& handle);
+    /// Something without a mark of its own was clicked, and is what the keys mean now.
+    void rowChosen();
     void flashed(const QString& text); ///< to be shown on the film for a moment
     void told(const QString& text);    ///< to be shown below the page
     void runRequested(int run);

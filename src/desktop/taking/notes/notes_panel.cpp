@@ -144,6 +144,8 @@ void NotesPanel::addPage(NotePage* page) {
     m_bar->addTab(titleOf(static_cast<NoteMode>(place)));
     m_pages[static_cast<std::size_t>(place)] = page;
     connect(page, &NotePage::marked, this, &NotesPanel::selectAt);
+    connect(page, &NotePage::picked, this, &NotesPanel::goTo);
+    connect(page, &NotePage::rowChosen, this, &NotesPanel::noteSelected);
     connect(page, &NotePage::flashed, this, &NotesPanel::flashed);
     connect(page, &NotePage::told, this, &NotesPanel::tell);
     connect(page, &NotePage::runRequested, this, &NotesPanel::runRequested);
@@ -192,6 +194,17 @@ void NotesPanel::showRun(int run) {
     clearSelection();
     tell({});
     refresh();
+}
+
+void NotesPanel::runMoved(int run) {
+    m_desk.run = run;
+    refresh();
+}
+
+void NotesPanel::forget() {
+    for (NotePage* const each : m_pages)
+        if (each)
+            each->forget();
 }
 
 void NotesPanel::refresh() {
@@ -299,7 +312,10 @@ void NotesPanel::seek(const LaneMark& mark) {
             tell(tr("This mark lies on the film of a fixed camera that is not in step."));
         return;
     case FilmKind::Versus:
-        m_losses->goToOtherRun();
+        if (!m_losses->goToOtherRun()) {
+            tell(tr("The other run of this time loss is not in this file."));
+            return;
+        }
         break;
     case FilmKind::Own:
         if (mark.film.number > 0) {

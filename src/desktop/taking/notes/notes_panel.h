@@ -41,6 +41,10 @@ public:
     void setMode(NoteMode mode);
 
     void showRun(int run);
+    /// The run that is shown stands elsewhere in the list now.
+    void runMoved(int run);
+    /// The runs stand in another order, or are others: nothing of before stays in hand.
+    void forget();
     /// Takes what is being typed.
     void commit();
 

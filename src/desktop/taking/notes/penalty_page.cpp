@@ -75,12 +75,17 @@ std::int64_t PenaltyPage::codeOf(PenaltyField field) const {
     return m_codes[placeOf(field)]->code();
 }
 
+void PenaltyPage::forget() {
+    m_run = -1;
+}
+
 void PenaltyPage::refresh() {
     const athletedata031* const run = m_desk.record();
     m_entries = run ? penaltyEntries(*run) : std::vector<PenaltyEntry>();
-    const bool isChosenThere = m_chosen && std::ranges::any_of(m_entries, [&](const auto& entry) {
-                                   return entry.handle == *m_chosen;
-                               });
+    const bool isChosenThere =
+        m_chosen && std::ranges::any_of(m_entries, [&](const auto& entry) {
+            return entry.handle == *m_chosen && entry[PenaltyField::Gate] == m_chosenGate;
+        });
     const bool isSamePlace = m_gate == m_desk.gates.current() && m_run == m_desk.run;
     if (!isChosenThere || !isSamePlace)
         chooseAtGate();
@@ -95,6 +100,7 @@ void PenaltyPage::chooseAtGate() {
     m_gate = m_desk.gates.current();
     m_run = m_desk.run;
     m_chosen.reset();
+    m_chosenGate = m_gate;
     for (const PenaltyEntry& entry : m_entries)
         if (entry[PenaltyField::Gate] == m_gate)
             m_chosen = entry.handle;
@@ -157,6 +163,8 @@ void PenaltyPage::choose(int row) {
         m_desk.gates.setCurrent(static_cast<int>(gate));
     m_gate = m_desk.gates.current();
     m_chosen = entry.handle;
+    m_chosenGate = entry[PenaltyField::Gate];
+    emit rowChosen();
     refresh();
 }
 
@@ -175,6 +183,7 @@ void PenaltyPage::mark(const Stamps&) {
                                codeOf(PenaltyField::Direction),
                                codeOf(PenaltyField::Style),
                                codeOf(PenaltyField::Eye)};
+    m_chosenGate = m_gate;
     edit(tr("penalty at gate %1").arg(m_gate),
          [&](athletedata031& run) { m_chosen = addPenalty(run, detail, gates); });
 }

@@ -17,6 +17,7 @@ class PenaltyPage : public NotePage {
 public:
     explicit PenaltyPage(NoteDesk& desk);
 
+    void forget() override;
     void refresh() override;
     void mark(const Stamps& stamps) override;
     [[nodiscard]] bool needsFrame() const override { return false; }
@@ -38,7 +39,8 @@ private:
     QTableWidget* m_table;
     std::vector<PenaltyEntry> m_entries; ///< as in the table
     std::optional<PenaltyHandle> m_chosen;
-    int m_gate = 0; ///< that was in front when a penalty was chosen
+    std::optional<std::int64_t> m_chosenGate; ///< of the one chosen, which another may follow there
+    int m_gate = 0;                           ///< that was in front when a penalty was chosen
     int m_run = -1;
 };
 

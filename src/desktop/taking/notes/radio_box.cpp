@@ -186,7 +186,7 @@ void RadioBox::save() {
     const int row = m_list->currentRow();
     if (row < 0)
         return;
-    const Blob& sound = m_recordings[static_cast<std::size_t>(row)];
+    const Blob sound = m_recordings[static_cast<std::size_t>(row)]; // they may change meanwhile
     const std::string_view extension = soundExtension(sound);
     const QString name =
         tr("recording %1").arg(row + 1) +

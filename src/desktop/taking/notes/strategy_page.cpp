@@ -6,7 +6,6 @@
 #include "splitdata/run_timing.h"
 #include "splittaking/annotations/upstream_gates.h"
 
-#include <QApplication>
 #include <QComboBox>
 #include <QFormLayout>
 #include <QLabel>
@@ -14,6 +13,8 @@
 #include <QPushButton>
 #include <QSignalBlocker>
 #include <QTableWidget>
+
+#include <cmath>
 
 namespace kavela::desktop {
 
@@ -117,6 +118,7 @@ void StrategyPage::makeParts() {
             m_from.reset();
         showNextMark();
     });
+    connect(m_options, &QTableWidget::cellClicked, this, &StrategyPage::rowChosen);
     connect(m_comment, &QLineEdit::editingFinished, this, [this] {
         const std::string text = m_comment->text().trimmed().toStdString();
         if (strategy() && m_comment->isModified() && text != strategy()->comments)
@@ -145,11 +147,8 @@ void StrategyPage::change(const QString& what, const std::function<void(strategy
         edit(what, [&](athletedata031& run) { act(run.strategies.at(m_strategy)); });
 }
 
-/// A field or a cell that is being typed in hands its text over.
-void StrategyPage::commit() {
-    QWidget* const focus = QApplication::focusWidget();
-    if (focus && isAncestorOf(focus))
-        focus->clearFocus();
+void StrategyPage::forget() {
+    m_owner = -1;
 }
 
 void StrategyPage::refresh() {
@@ -285,7 +284,7 @@ void StrategyPage::takeCell(int row, int column) {
         bool isNumber = false;
         const double typed =
             QLocale::c().toDouble(cell->text().trimmed().replace(',', '.'), &isNumber);
-        if (isNumber && typed >= 0) {
+        if (isNumber && std::isfinite(typed) && typed >= 0) {
             change(tr("time of a way"),
                    [&](strategy001& changed) { setOptionSeconds(changed, place, typed); });
             return;

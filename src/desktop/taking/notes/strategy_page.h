@@ -20,7 +20,7 @@ public:
 
     [[nodiscard]] std::optional<Alert> refusal() const override;
     void refresh() override;
-    void commit() override;
+    void forget() override;
     /// Where the way in hand begins, then where it ends.
     void mark(const Stamps& stamps) override;
     /// Removes the way in hand; where there is none, the comparison.

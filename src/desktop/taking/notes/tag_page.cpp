@@ -58,7 +58,7 @@ TagPage::TagPage(NoteDesk& desk)
     connect(m_name, &QComboBox::activated, this, [this] { remember(name()); });
     connect(m_table, &QTableWidget::cellClicked, this, [this](int row) {
         const LaneMark tag = m_tags.at(static_cast<std::size_t>(row));
-        emit marked(MarkKind::Tag, tag.time);
+        emit picked(tag.handle);
         playPart();
     });
 }

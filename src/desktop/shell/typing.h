@@ -1,0 +1,18 @@
+#pragma once
+
+class QWidget;
+
+/// What keys mean while something is being typed.
+namespace kavela::desktop {
+
+/// Ends the typing in the field that has the focus, which takes what was typed. False where no
+/// field has it, so that Enter may mean something else.
+bool endTyping();
+
+/// Ends the typing in a field of `part`, or in a cell of a table there.
+void endTypingIn(const QWidget& part);
+
+/// Steps the number that is being edited; false where none is.
+bool stepNumber(int step);
+
+} // namespace kavela::desktop

@@ -1,0 +1,161 @@
+#include "desktop/notes_fixture.h"
+#include "splittaking/annotations/time_losses.h"
+
+#include <QDoubleSpinBox>
+
+namespace kavela::test {
+namespace {
+
+using ::testing::IsEmpty;
+
+/// What a coach types and selects stays with the run it was meant for.
+class TakingCareTest : public NotesTest {
+protected:
+    void type(const char* name, const char* text) {
+        auto& field = part<QLineEdit>(name);
+        field.setFocus();
+        field.selectAll();
+        QTest::keyClicks(&field, text);
+    }
+
+    const std::string& crew(int index) const { return run(index).names.front(); }
+};
+
+TEST_F(TakingCareTest, LeavesASelectedMarkThatUndoTookAway) {
+    splittakerdata031 race = timedRace();
+    for (athletedata031& each : race.athletes)
+        each.sectioninfo.cmtimes.clear();
+    race.athletes[0].sectioninfo.times.clear();
+    ASSERT_NO_FATAL_FAILURE(open(race, false));
+    const Stamps first{{100, 50, 1, 0}};
+    const Stamps second{{200, 50, 1, 0}};
+    m_window->document().setMarks(0, "marks", {.start = first, .marks = {second}});
+    m_window->goToMark(1);
+    ASSERT_EQ(m_window->selectedMark(), 1U);
+    undo(1);
+    EXPECT_FALSE(m_window->selectedMark());
+    for (const auto key :
+         {QKeyCombination(Qt::Key_Delete), Qt::SHIFT | Qt::Key_M, Qt::ALT | Qt::Key_Right})
+        press(key);
+    EXPECT_FALSE(m_window->document().isDirty()) << "there was nothing to act on";
+}
+
+TEST_F(TakingCareTest, TakesWhatIsTypedBeforeTheRunsChangePlaces) {
+    ASSERT_NO_FATAL_FAILURE(open(timedRace(), false));
+    const std::string other = crew(1);
+    type("crew", "Nova");
+    press(Qt::CTRL | Qt::SHIFT | Qt::Key_Down);
+    EXPECT_EQ(crew(1), "Nova");
+    EXPECT_EQ(crew(0), other);
+    EXPECT_EQ(m_window->currentRun(), 1) << "the run that moved stays in front";
+    type("crew", "Zora");
+    m_window->removeRun();
+    EXPECT_EQ(m_window->document().runCount(), 1);
+    EXPECT_EQ(crew(0), other);
+    EXPECT_EQ(m_window->currentRun(), 0);
+    EXPECT_EQ(part<QLineEdit>("crew").text(), QString::fromStdString(other));
+    m_window->undo();
+    EXPECT_EQ(crew(1), "Zora") << "it was typed before the run went";
+    m_window->undo();
+    EXPECT_EQ(crew(1), "Nova");
+    EXPECT_EQ(m_window->currentRun(), 0);
+}
+
+TEST_F(TakingCareTest, PutsARunInFrontAsSoonAsThereIsOne) {
+    ASSERT_NO_FATAL_FAILURE(open(timedRace(), false));
+    while (m_window->document().runCount() > 0)
+        m_window->removeRun();
+    EXPECT_EQ(m_window->currentRun(), -1);
+    m_window->moveRun(1);
+    m_window->selectRun(7);
+    press(Qt::CTRL | Qt::Key_Z);
+    EXPECT_EQ(m_window->document().runCount(), 1);
+    EXPECT_EQ(m_window->currentRun(), 0);
+}
+
+TEST_F(TakingCareTest, SavesWhatIsStillBeingTyped) {
+    ASSERT_NO_FATAL_FAILURE(open(timedRace(), false));
+    press(Qt::CTRL | Qt::Key_8);
+    auto& table = part<QTableWidget>("comments");
+    table.setFocus();
+    table.setCurrentCell(0, 1);
+    table.editItem(table.item(0, 1));
+    QTest::keyClicks(QApplication::focusWidget(), "Wide");
+    EXPECT_TRUE(m_window->save());
+    const auto saved =
+        recogniseSplitFile(m_window->document().path().toStdString(), m_recorder.log(), systemNow);
+    EXPECT_EQ(saved.document.athletes[0].sectioninfo.comments.at(0), "Wide");
+    EXPECT_FALSE(m_window->document().isDirty());
+
+    const auto splits = run().sectioninfo.cmtimes;
+    auto& score = part<QDoubleSpinBox>("coachsScore");
+    score.setFocus();
+    score.selectAll();
+    QTest::keyClicks(&score, "7.5");
+    press(Qt::Key_Up);
+    EXPECT_EQ(m_window->currentRun(), 0) << "the arrows are the number's";
+    press(Qt::Key_Return);
+    EXPECT_EQ(run().coachsscore, 8);
+    EXPECT_EQ(run().sectioninfo.cmtimes, splits) << "Enter was for the score";
+    EXPECT_THAT(m_recorder.alerts, IsEmpty());
+}
+
+TEST_F(TakingCareTest, KeepsTheWordsOfALossWhenAnotherRunComes) {
+    splittakerdata031 race = timedRace();
+    race.athletes[0].timeslosses = {lossAgainst(race.athletes[0], race.athletes[1])};
+    ASSERT_NO_FATAL_FAILURE(open(race, false));
+    press(Qt::CTRL | Qt::Key_7);
+    auto& losses = part<QTableWidget>("losses");
+    emit losses.cellClicked(0, 0);
+    type("lossComment", "Too high");
+    m_window->selectRun(1);
+    EXPECT_EQ(run(0).timeslosses[0].comments, "Too high");
+    EXPECT_THAT(run(1).timeslosses, IsEmpty());
+}
+
+TEST_F(TakingCareTest, RemovesThePenaltyAndNotTheSplitThatWasSelectedBefore) {
+    splittakerdata031 race = timedRace();
+    race.athletes[0].sectioninfo.pens.at(4) = 2;
+    race.athletes[0].sectioninfo.pens.at(2) = 2;
+    race.athletes[0].sectioninfo.pendetails = {
+        {{5, 3}, {0, 0}, {0, 0}, {0, 0}, {0, 0}, {0, 0}, {0, 0}, {0, 0}, {0, 0}}};
+    ASSERT_NO_FATAL_FAILURE(open(race, false));
+    const auto splits = run().sectioninfo.cmtimes;
+    press(Qt::CTRL | Qt::Key_2);
+    m_window->goToMark(1);
+    auto& table = part<QTableWidget>("penalties");
+    emit table.cellClicked(0, 0);
+    press(Qt::Key_Delete);
+    EXPECT_EQ(run().sectioninfo.cmtimes, splits);
+    EXPECT_THAT(run().sectioninfo.pendetails.at(0).gate, ElementsAre(3));
+    emit table.cellClicked(0, 0); // gate 3, at the place that gate 5 had
+    press(Qt::CTRL | Qt::Key_Z);
+    press(Qt::Key_Delete);
+    EXPECT_EQ(run().sectioninfo.pens.at(4), 2) << "another penalty came to that place";
+    EXPECT_EQ(run().sectioninfo.pens.at(2), 0);
+}
+
+/// As other programs may write them.
+TEST_F(TakingCareTest, OpensRunsWhoseMarksAreNoMomentsOfTheSecondFilm) {
+    splittakerdata031 race = timedRace();
+    for (athletedata031& each : race.athletes) {
+        each.videoname.push_back(each.videoname.front());
+        for (Stamps& stamps : each.sectioninfo.cmtimes)
+            stamps.resize(2, CMTime{});
+    }
+    for (const films::PlannedFilm& film :
+         films::sessionFilms(timedRace(), {}, [](const fs::path&) { return true; }))
+        (void)m_folder.add("films/" + film.name.filename().string(), filmOf(film));
+    ASSERT_NO_FATAL_FAILURE(open(race, false));
+    EXPECT_TRUE(QTest::qWaitFor(
+        [&] {
+            const auto index = m_window->deck().index(1);
+            return index && index->isComplete();
+        },
+        Patience));
+    QApplication::processEvents();
+    EXPECT_FALSE(m_window->document().isDirty());
+}
+
+} // namespace
+} // namespace kavela::test
