@@ -402,6 +402,21 @@ void TakingDocument::reset(QWidget* over) {
     logPerfectTime();
 }
 
+bool TakingDocument::mayClose(QWidget* over) {
+    if (!isDirty())
+        return true;
+    switch (m_workspace.askToSave(title(), over)) {
+    case Workspace::Leaving::Save:
+        return save(over);
+    case Workspace::Leaving::Discard:
+        discard();
+        return true;
+    case Workspace::Leaving::Stay:
+        break;
+    }
+    return false;
+}
+
 void TakingDocument::discard() {
     keepWork();
     m_keep.stop();

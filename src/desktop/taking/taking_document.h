@@ -90,6 +90,8 @@ public:
 
     /// Gives up what was not saved; it stays aside for a change of mind.
     void discard();
+    /// Asks what becomes of unsaved work, and does it; false when the document is to stay open.
+    [[nodiscard]] bool mayClose(QWidget* over);
 
 signals:
     /// Other runs, another course, or anything about them.

@@ -375,17 +375,7 @@ void TakingWindow::playTableCell(const QModelIndex& index) {
 
 void TakingWindow::closeEvent(QCloseEvent* event) {
     commit();
-    if (m_document.isDirty()) {
-        const auto choice = m_workspace.askToSave(m_document.title(), this);
-        if (choice == Workspace::Leaving::Stay ||
-            (choice == Workspace::Leaving::Save && !m_document.save(this))) {
-            event->ignore();
-            return;
-        }
-        if (choice == Workspace::Leaving::Discard)
-            m_document.discard();
-    }
-    event->accept();
+    event->setAccepted(m_document.mayClose(this));
 }
 
 void TakingWindow::dragEnterEvent(QDragEnterEvent* event) {
