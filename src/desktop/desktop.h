@@ -15,7 +15,6 @@ class EditorWindow;
 class MotionWindow;
 class HomeWindow;
 class RaceWindow;
-class TakingDocument;
 class TakingWindow;
 
 /// The desktop program: the home screen, and for each opened file the window of its tool.
@@ -41,7 +40,8 @@ public:
     TakingWindow* openTaking(const QString& path);
     /// Opens the kayak cross of a split file, or of a folder of films; null, after a message, when
     /// it cannot be opened. A file is edited in one window at a time, for split taking or for its
-    /// cross: the other one closes, once the coach has decided about unsaved work.
+    /// cross: the other one closes first, when the coach decides about unsaved work. One that stays
+    /// open keeps the file.
     CrossWindow* openCross(const QString& path);
     /// Opens a team or a selection; false, after an alert, when it cannot be opened.
     bool openTeam(const QString& path);
@@ -90,7 +90,10 @@ private:
     /// Shows a window that edits a file, and follows what it asks for.
     void show(EditorWindow* window);
     [[nodiscard]] bool isShown(const QString& path);
-    [[nodiscard]] bool mayLeave(TakingDocument& document, QWidget& window);
+    /// A new window for the split file or folder, which none edits; null, after a message, when it
+    /// cannot be opened.
+    TakingWindow* showTaking(const QString& path);
+    CrossWindow* showCross(const QString& path);
     void showMoment(const QString& path, int run, std::size_t split);
     void openRaces(const QStringList& paths, RaceWindow* into);
     [[nodiscard]] RaceWindow* makeRaceWindow();

@@ -1,21 +1,105 @@
 #include "desktop/cross/cross_window.h"
 #include "desktop/desktop.h"
+#include "desktop/race/race_view.h"
+#include "desktop/race/race_window.h"
+#include "desktop/taking/taking_files.h"
 #include "desktop/taking/taking_window.h"
+#include "splitdata/run_timing.h"
 
+#include <QDir>
+#include <QEventLoopLocker>
 #include <QFileDialog>
 #include <QFileInfo>
+
+#include <algorithm>
 
 /// The tools that edit a split file on its films: split taking and kayak cross.
 namespace kavela::desktop {
 
 namespace {
 
+/// A path by which a file is known however it is named; it need not be there yet.
+QString canonical(const QString& file) {
+    const QFileInfo info(file);
+    return info.exists()
+               ? info.canonicalFilePath()
+               : QFileInfo(info.absolutePath()).canonicalFilePath() + '/' + info.fileName();
+}
+
+/// The split file that a path stands for: of a folder of films the one in it, or the one that will
+/// be made there.
+QString splitFileOf(const QString& path) {
+    if (!QFileInfo(path).isDir())
+        return canonical(path);
+    const QString folder = QDir(path).absolutePath();
+    const QString file = splitFileIn(folder);
+    return canonical(file.isEmpty() ? folder + '/' + QFileInfo(folder).fileName() + ".kvx" : file);
+}
+
+/// What opens a document that may never have been saved: a new one stands for its folder.
+QString openable(const QString& path) {
+    const QString folder = QFileInfo(path).absolutePath();
+    const bool isNew = !QFileInfo::exists(path) && splitFileOf(folder) == canonical(path);
+    return isNew ? folder : path;
+}
+
 /// The window among some that edits the split file; null when none does.
 template <class Window>
 Window* windowOf(const QList<Window*>& windows, const QString& path) {
+    const QString file = splitFileOf(path);
     for (Window* const window : windows)
-        if (window->document().path() == QFileInfo(path).absoluteFilePath())
+        if (canonical(window->document().path()) == file)
             return window;
+    return nullptr;
+}
+
+void bringToFront(QWidget& window) {
+    window.raise();
+    window.activateWindow();
+}
+
+/// Closes a window as the coach would, who decides about unsaved work then. One that stays open
+/// comes to the front.
+bool isClosed(QWidget& window) {
+    if (window.close())
+        return true;
+    bringToFront(window);
+    return false;
+}
+
+/// Where a run of the analyzer stands in split taking, which may have changed since it was saved;
+/// -1 when it is gone. It is known by its first film and its crew, or by a film of its own.
+int placeOf(const analyzerdata& run, const RaceSet& race, const TakingDocument& document) {
+    const auto filmOf = [](const analyzerdata& of) {
+        return of.videoname.empty() ? std::string() : of.videoname.front().filename().string();
+    };
+    const std::string film = filmOf(run);
+    const auto hasFilm = [&](int place) {
+        return entryOrZero(document.run(place).videoname, 0) == film;
+    };
+    const auto isIt = [&](int place) {
+        return document.run(place).names == run.names && (film.empty() || hasFilm(place));
+    };
+    const int saved = static_cast<int>(run.athleteInt);
+    if (saved < document.runCount() && isIt(saved))
+        return saved;
+    std::vector<int> ofFilm;
+    for (int place = 0; place < document.runCount(); ++place) {
+        if (isIt(place))
+            return place;
+        if (hasFilm(place))
+            ofFilm.push_back(place);
+    }
+    const bool isItsOwn = !film.empty() && std::ranges::count(race.alldata, film, filmOf) == 1;
+    return isItsOwn && ofFilm.size() == 1 ? ofFilm.front() : -1;
+}
+
+/// The race as an analyzer shows it; null when none does.
+const RaceSet* shownRace(const QList<RaceWindow*>& windows, const QString& path) {
+    for (const RaceWindow* const window : windows)
+        for (const RaceView* const view : window->views())
+            if (view->document().path() == path)
+                return &view->document().wholeSet();
     return nullptr;
 }
 
@@ -30,13 +114,23 @@ void Desktop::chooseFilms() {
 
 TakingWindow* Desktop::openTaking(const QString& path) {
     if (TakingWindow* const open = windowOf(takingWindows(), path)) {
-        open->raise();
-        open->activateWindow();
+        bringToFront(*open);
         return open;
     }
     CrossWindow* const cross = windowOf(crossWindows(), path);
-    if (cross && !mayLeave(cross->document(), *cross))
+    if (!cross)
+        return showTaking(path);
+    const QEventLoopLocker running; // also between the two windows
+    const QString left = cross->document().path();
+    if (!isClosed(*cross))
         return nullptr;
+    TakingWindow* const window = showTaking(openable(path));
+    if (!window && !showCross(openable(left)))
+        showHome();
+    return window;
+}
+
+TakingWindow* Desktop::showTaking(const QString& path) {
     auto* window = new TakingWindow(m_workspace, m_autosave);
     if (!window->open(path)) {
         delete window;
@@ -53,8 +147,6 @@ TakingWindow* Desktop::openTaking(const QString& path) {
     rememberWithout(window);
     m_takings.append(window);
     window->show();
-    if (cross)
-        cross->close(); // last, so that the program always has a window
     rememberSession();
     return window;
 }
@@ -66,31 +158,25 @@ void Desktop::chooseCross() {
         (void)openCross(file);
 }
 
-/// Whether a document may be edited in another window: nothing is left to be saved then. Otherwise
-/// its window comes to the front.
-bool Desktop::mayLeave(TakingDocument& document, QWidget& window) {
-    if (!document.isDirty())
-        return true;
-    const auto choice = m_workspace.askToSave(document.title(), &window);
-    if (choice == Workspace::Leaving::Discard)
-        document.discard();
-    if (choice == Workspace::Leaving::Discard ||
-        (choice == Workspace::Leaving::Save && document.save(&window)))
-        return true;
-    window.raise();
-    window.activateWindow();
-    return false;
-}
-
 CrossWindow* Desktop::openCross(const QString& path) {
     if (CrossWindow* const open = windowOf(crossWindows(), path)) {
-        open->raise();
-        open->activateWindow();
+        bringToFront(*open);
         return open;
     }
     TakingWindow* const taking = windowOf(takingWindows(), path);
-    if (taking && !mayLeave(taking->document(), *taking))
+    if (!taking)
+        return showCross(path);
+    const QEventLoopLocker running; // also between the two windows
+    const QString left = taking->document().path();
+    if (!isClosed(*taking))
         return nullptr;
+    CrossWindow* const window = showCross(openable(path));
+    if (!window && !showTaking(openable(left)))
+        showHome();
+    return window;
+}
+
+CrossWindow* Desktop::showCross(const QString& path) {
     auto* window = new CrossWindow(m_workspace, m_autosave);
     if (!window->open(path)) {
         delete window;
@@ -105,8 +191,6 @@ CrossWindow* Desktop::openCross(const QString& path) {
     rememberWithout(window);
     m_crosses.append(window);
     window->show();
-    if (taking)
-        taking->close(); // last, so that the program always has a window
     rememberSession();
     return window;
 }
@@ -122,10 +206,11 @@ void Desktop::openCrosses(const QStringList& paths) {
     }
 }
 
+/// One that was closed is there until the event loop gets to it, but edits nothing any more.
 QList<CrossWindow*> Desktop::crossWindows() const {
     QList<CrossWindow*> open;
     for (const auto& cross : m_crosses)
-        if (cross)
+        if (cross && !cross->isHidden())
             open.append(cross);
     return open;
 }
@@ -135,6 +220,21 @@ void Desktop::showMoment(const QString& path, int run, std::size_t split) {
     TakingWindow* const window = openTaking(path);
     if (!window)
         return;
+    const RaceSet* const race = shownRace(raceWindows(), path);
+    const auto saved = static_cast<std::size_t>(run);
+    if (race && saved < race->alldata.size()) {
+        const analyzerdata& wanted = race->alldata[saved];
+        run = placeOf(wanted, *race, window->document());
+        if (run < 0) {
+            m_workspace.showAlert(
+                {"", tr("The run of %1 is not in split taking any more: it was removed there, or "
+                        "has another crew and film.")
+                         .arg(QString::fromStdString(wanted.name))
+                         .toStdString()},
+                window);
+            return;
+        }
+    }
     window->selectRun(run);
     window->goToMark(split);
 }
@@ -142,7 +242,7 @@ void Desktop::showMoment(const QString& path, int run, std::size_t split) {
 QList<TakingWindow*> Desktop::takingWindows() const {
     QList<TakingWindow*> open;
     for (const auto& taking : m_takings)
-        if (taking)
+        if (taking && !taking->isHidden())
             open.append(taking);
     return open;
 }

@@ -7,13 +7,11 @@
 #include "desktop/cross/trials/trial_page.h"
 #include "desktop/film/play_menu.h"
 #include "desktop/shell/help_menu.h"
+#include "desktop/shell/typing.h"
 #include "desktop/shell/workspace.h"
 
 #include <QAction>
-#include <QApplication>
-#include <QComboBox>
 #include <QFileDialog>
-#include <QLineEdit>
 #include <QMenuBar>
 
 namespace kavela::desktop {
@@ -47,21 +45,6 @@ QAction* CrossActions::add(QMenu& menu, const QString& text, const QList<QKeySeq
     action->setShortcuts(shortcuts);
     connect(action, &QAction::triggered, &m_window, std::move(act));
     return action;
-}
-
-/// Enter ends the typing in a field before it means anything else.
-bool CrossActions::endsTyping() const {
-    auto* const choice = qobject_cast<QComboBox*>(QApplication::focusWidget());
-    if (choice && choice->isEditable()) {
-        choice->clearFocus();
-        return true;
-    }
-    auto* const field = qobject_cast<QLineEdit*>(QApplication::focusWidget());
-    if (!field)
-        return false;
-    emit field->returnPressed();
-    field->clearFocus();
-    return true;
 }
 
 CrossActions::Act CrossActions::savedThen(std::function<void(const QString& path)> request) {
@@ -114,9 +97,14 @@ void CrossActions::makeEditMenu() {
     menu->addSeparator();
     add(*menu, tr("&Course of the cross race"), {Qt::CTRL | Qt::Key_G},
         [this] { m_window.course().toggle(); });
-    add(*menu, tr("&Previous trial or heat"), {Qt::Key_Up},
-        [this] { m_window.page().stepRow(-1); });
-    add(*menu, tr("&Next trial or heat"), {Qt::Key_Down}, [this] { m_window.page().stepRow(1); });
+    add(*menu, tr("&Previous trial or heat"), {Qt::Key_Up}, [this] {
+        if (!stepNumber(1))
+            m_window.page().stepRow(-1);
+    });
+    add(*menu, tr("&Next trial or heat"), {Qt::Key_Down}, [this] {
+        if (!stepNumber(-1))
+            m_window.page().stepRow(1);
+    });
     menu->addSeparator();
     m_ofResults.push_back(add(*menu, tr("Copy the &results"), {QKeySequence::Copy},
                               [this] { m_window.results().copy(); }));
@@ -125,7 +113,7 @@ void CrossActions::makeEditMenu() {
 void CrossActions::makeMarkMenu() {
     QMenu* const menu = m_window.menuBar()->addMenu(tr("&Mark"));
     add(*menu, tr("&Mark the frame shown"), {Qt::Key_M, Qt::Key_Return, Qt::Key_Enter}, [this] {
-        if (!endsTyping())
+        if (!endTyping())
             m_window.mark();
     });
     add(*menu, tr("Move the selected mark &here"), {Qt::SHIFT | Qt::Key_M},

@@ -35,7 +35,6 @@ private:
     /// Saves, then hands the file on to another tool.
     [[nodiscard]] Act savedThen(std::function<void(const QString& path)> request);
     void showWhatCanBeDone();
-    [[nodiscard]] bool endsTyping() const;
     [[nodiscard]] Commands athletes() const;
 
     CrossWindow& m_window;

@@ -30,16 +30,16 @@ void CrossWindow::moveMarkHere() {
         page().moveMark(*moment);
 }
 
-/// The selected mark, otherwise the last one, moves; the frame on the screen stays.
+/// The frame on the screen stays.
 void CrossWindow::nudgeMark(int frames) {
     const auto marks = page().marks();
-    auto mark = page().selectedMark();
-    for (std::size_t last = marks.size(); !mark && last-- > 0;)
-        if (page().stopsAt(last))
-            mark = last;
-    if (!mark || *mark >= marks.size())
+    const auto selected = page().selectedMark();
+    const auto mark = selected ? selected : page().lastMark();
+    if (!mark || *mark >= marks.size()) {
+        tell(tr("No mark is selected. Ctrl and the arrows go from mark to mark."));
         return;
-    if (page().selectedMark() != mark)
+    }
+    if (mark != selected)
         page().selectMark(*mark);
     page().moveMark(m_deck->nudged(0, marks[*mark].stamp, frames));
 }

@@ -48,6 +48,8 @@ public:
     /// The mark that keys act on, by its number.
     [[nodiscard]] virtual std::optional<std::size_t> selectedMark() const { return std::nullopt; }
     virtual void selectMark(std::size_t) {}
+    /// The one that was marked last, where that is plain although it is not selected.
+    [[nodiscard]] virtual std::optional<std::size_t> lastMark() const { return std::nullopt; }
     /// Whether the keys that go from mark to mark stop at one.
     [[nodiscard]] virtual bool stopsAt(std::size_t) const { return true; }
     /// Gives what is selected another film of the folder, by its bare name.

@@ -306,21 +306,7 @@ void CrossWindow::closeEvent(QCloseEvent* event) {
                                             "lost when the window closes.")
                                              .toStdString()},
                                     tr("Close all the same"), this);
-    if (!isTaken) {
-        event->ignore();
-        return;
-    }
-    if (m_document.isDirty()) {
-        const auto choice = m_workspace.askToSave(m_document.title(), this);
-        if (choice == Workspace::Leaving::Stay ||
-            (choice == Workspace::Leaving::Save && !m_document.save(this))) {
-            event->ignore();
-            return;
-        }
-        if (choice == Workspace::Leaving::Discard)
-            m_document.discard();
-    }
-    event->accept();
+    event->setAccepted(isTaken && m_document.mayClose(this));
 }
 
 void CrossWindow::dragEnterEvent(QDragEnterEvent* event) {

@@ -12,6 +12,7 @@
 #include <QFileInfo>
 #include <QLabel>
 #include <QPushButton>
+#include <QScopedValueRollback>
 #include <QSignalBlocker>
 #include <QTableWidget>
 
@@ -93,7 +94,9 @@ const crossinfodata030& HeatPage::course() const {
 /// What the edit refuses is told, and nothing changes.
 void HeatPage::change(const QString& what, const std::function<void(crossdata030&)>& change) {
     try {
+        const QScopedValueRollback<bool> isEditing(m_isEditing, true);
         edit(what, change);
+        m_seen = m_desk.document.state().cross;
         emit told({}); // what was told before is over
     } catch (const std::invalid_argument& refused) {
         emit told(QString::fromUtf8(refused.what()));
@@ -103,27 +106,6 @@ void HeatPage::change(const QString& what, const std::function<void(crossdata030
 void HeatPage::editHeat(const QString& what, const std::function<void(rounddata030&)>& act) {
     if (current())
         change(what, [&](crossdata030& cross) { act(cross.eliphase.at(*m_heat)); });
-}
-
-/// Another content may have fewer heats, gates, boats and marks.
-void HeatPage::checkState() {
-    const std::size_t heats = m_desk.cross().eliphase.size();
-    if (heats == 0)
-        m_heat.reset();
-    else if (!m_heat || *m_heat >= heats)
-        openHeat(heats - 1 < m_heat.value_or(0) ? heats - 1 : 0);
-    m_gate = std::min(m_gate, std::max<std::size_t>(course().gates.size(), 1) - 1);
-    if (m_selected && !exists(*m_selected)) {
-        m_selected.reset();
-        m_naming = Naming::Nothing;
-    }
-    const auto isKnown = [&](const std::string& name) {
-        const auto record = orderInFront();
-        return std::ranges::count(current()->athletes, name) > 0 ||
-               (record && std::ranges::count(current()->generals[*record].order, name) > 0);
-    };
-    if (m_draft && (!current() || !std::ranges::all_of(*m_draft, isKnown)))
-        m_draft.reset();
 }
 
 /// Brings the first gate without an order to the front.
@@ -281,8 +263,10 @@ void HeatPage::goTo(const HeatMark& mark) {
 }
 
 void HeatPage::moveMark(const CMTime& moment) {
-    if (!m_selected || !current())
+    if (!m_selected || !current()) {
+        emit told(tr("No mark is selected. Ctrl and the arrows go from mark to mark."));
         return;
+    }
     const HeatMark mark = *m_selected;
     if (mark.isOrder)
         editHeat(tr("order moved"),
@@ -325,10 +309,13 @@ void HeatPage::addHeat() {
            [&](crossdata030& cross) { openHeat(kavela::addHeat(cross, {}, dialog.names())); });
 }
 
+/// The heat that comes to the front is another one: nothing of this one stays selected.
 void HeatPage::removeHeat() {
-    if (current())
-        change(tr("heat removed"),
-               [&](crossdata030& cross) { kavela::removeHeat(cross, *m_heat); });
+    if (!current())
+        return;
+    const std::size_t removed = *m_heat;
+    edit(tr("heat removed"), [&](crossdata030& cross) { kavela::removeHeat(cross, removed); });
+    emit told({});
 }
 
 void HeatPage::renameBoats() {

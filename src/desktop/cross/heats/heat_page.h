@@ -3,6 +3,8 @@
 #include "desktop/cross/cross_page.h"
 #include "desktop/cross/heats/boat_looks.h"
 
+#include <memory>
+
 class QLabel;
 class QLineEdit;
 class QPushButton;
@@ -95,6 +97,9 @@ private:
     void editHeat(const QString& what, const std::function<void(rounddata030&)>& change);
     void change(const QString& what, const std::function<void(crossdata030&)>& change);
     void checkState();
+    void follow(const crossdata030& before);
+    void followGate(const std::vector<std::int64_t>& before);
+    void followMark(const rounddata030& before);
     void openHeat(std::optional<std::size_t> heat);
     void showHeats();
     void tellFilm();
@@ -139,6 +144,8 @@ private:
     Naming m_naming = Naming::Nothing;
     QString m_film;
     std::vector<BoatLook> m_looks;
+    std::shared_ptr<const crossdata030> m_seen; ///< the content that is shown
+    bool m_isEditing = false;                   ///< the page itself changes the content now
 
     QTableWidget* m_heats;
     std::vector<QPushButton*> m_heatButtons; ///< that need a heat

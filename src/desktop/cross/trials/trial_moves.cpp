@@ -1,12 +1,80 @@
+#include "desktop/cross/place_after.h"
 #include "desktop/cross/trials/gate_form.h"
 #include "desktop/cross/trials/trial_page.h"
 #include "desktop/film/film_deck.h"
 #include "desktop/taking/taking_document.h"
 
 #include <algorithm>
+#include <utility>
 
 /// Which trial, mode, gate and mark of the page are in front.
 namespace kavela::desktop {
+
+namespace {
+
+/// Positions change with the trials of others.
+bool isSameTrial(const ttdata030& one, const ttdata030& other) {
+    const auto isSameGate = [](const ttupstream030& gate, const ttupstream030& like) {
+        return gate.gateNum == like.gateNum && gate.cmtimes == like.cmtimes;
+    };
+    return one.athlete == other.athlete && one.videoname == other.videoname &&
+           one.time == other.time && one.splittimes == other.splittimes &&
+           one.roll.cmtimes == other.roll.cmtimes &&
+           std::ranges::equal(one.upstreams, other.upstreams, isSameGate);
+}
+
+bool isOfSameList(const TrialMark& one, const TrialMark& other) {
+    return one.mode == other.mode && one.gate == other.gate;
+}
+
+/// Marks of one list are known by their moments. There is one start: a file tells its moment by the
+/// last split, to which it is rounded.
+bool isSameMoment(const TrialMark& one, const TrialMark& other) {
+    const auto isStart = [](const TrialMark& mark) {
+        return mark.mode == TrialMode::Splits && mark.place == 0;
+    };
+    if (isStart(one) || isStart(other))
+        return isStart(one) && isStart(other);
+    return isOfSameList(one, other) && one.stamp == other.stamp;
+}
+
+} // namespace
+
+/// Looks for the trial in front in another content of the document; true when it is gone, so that
+/// another one comes to the front as if it had been chosen.
+bool TrialPage::followTrial() {
+    const auto seen = std::exchange(m_seen, m_desk.document.state().cross);
+    if (!seen || seen == m_seen || !m_trial)
+        return false;
+    const auto& was = seen->timetrials;
+    const auto& trials = m_desk.cross().timetrials;
+    const bool isInPlace = *m_trial < was.size() && was.size() == trials.size();
+    const auto place = isInPlace ? m_trial : placeAfter(was, *m_trial, trials, isSameTrial);
+    if (place) {
+        m_trial = place;
+        return false;
+    }
+    m_selected.reset();
+    m_gate.reset();
+    return true;
+}
+
+/// Keeps the selected mark only as long as it is the same one: keys must not act on what took its
+/// place. What the page itself marks or moves is selected afterwards.
+void TrialPage::followMark() {
+    const auto marks = trialMarks();
+    const auto before = std::exchange(m_seenMarks, marks);
+    if (!m_selected)
+        return;
+    const auto was = std::ranges::find_if(
+        before, [this](const TrialMark& mark) { return isSameMark(mark, *m_selected); });
+    const auto place =
+        placeAfter(before, static_cast<std::size_t>(was - before.begin()), marks, isSameMoment);
+    if (place && isOfSameList(marks[*place], *m_selected))
+        m_selected = marks[*place];
+    else
+        m_selected.reset();
+}
 
 void TrialPage::select(const TrialMark& mark) {
     m_selected = mark;
@@ -21,6 +89,14 @@ void TrialPage::selectMark(std::size_t mark) {
     const auto marks = trialMarks();
     if (mark < marks.size())
         select(marks[mark]);
+}
+
+std::optional<std::size_t> TrialPage::lastMark() const {
+    const auto splits =
+        m_mode == TrialMode::Splits
+            ? std::ranges::count(trialMarks(), TrialMode::Splits, &TrialMark::mode) // come first
+            : 0;
+    return splits > 0 ? std::optional(static_cast<std::size_t>(splits) - 1) : std::nullopt;
 }
 
 bool TrialPage::stopsAt(std::size_t mark) const {

@@ -232,12 +232,12 @@ void TrialPage::refresh() {
         m_starts.clear();
         m_trial.reset();
     }
+    const bool isOther = followTrial();
     if (trials.empty())
         m_trial.reset();
     else
         m_trial = std::min(m_trial.value_or(0), trials.size() - 1);
-    if (!selectedMark())
-        m_selected.reset();
+    followMark();
     m_list->setTrials(trials, m_desk.document.folder());
     m_list->setCurrent(m_trial);
     const auto& gates = m_desk.cross().crossinfo.gates;
@@ -246,6 +246,8 @@ void TrialPage::refresh() {
     if (!m_gate || isFrontGone)
         m_gate = gates.empty() ? std::nullopt : std::optional(gates.front());
     showTrial();
+    if (isOther)
+        goOn();
 }
 
 void TrialPage::showTrial() {

@@ -4,6 +4,8 @@
 #include "desktop/cross/trials/start_marks.h"
 #include "desktop/cross/trials/trial_marks.h"
 
+#include <memory>
+
 class QComboBox;
 class QLabel;
 class QStackedWidget;
@@ -34,6 +36,8 @@ public:
     [[nodiscard]] std::optional<std::size_t> selectedMark() const override;
     /// Brings the mode of the mark, and its gate in front.
     void selectMark(std::size_t mark) override;
+    /// The last split; gates and rolls stand beside each other.
+    [[nodiscard]] std::optional<std::size_t> lastMark() const override;
     /// At those of the present mode.
     [[nodiscard]] bool stopsAt(std::size_t mark) const override;
 
@@ -85,6 +89,8 @@ private:
     [[nodiscard]] QString frontText() const;
     [[nodiscard]] std::optional<CMTime> runningFrom() const;
 
+    [[nodiscard]] bool followTrial();
+    void followMark();
     void showTrial();
     void showMode();
     void select(const TrialMark& mark);
@@ -111,6 +117,8 @@ private:
     TrialMode m_mode = TrialMode::Splits;
     std::optional<std::int64_t> m_gate;
     std::optional<TrialMark> m_selected;
+    std::shared_ptr<const crossdata030> m_seen; ///< the content that is shown
+    std::vector<TrialMark> m_seenMarks;         ///< of the trial in front
 
     TrialList* m_list;
     QComboBox* m_boats;
