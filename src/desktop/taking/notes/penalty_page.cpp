@@ -157,7 +157,7 @@ void PenaltyPage::showOutOfStep() {
 }
 
 void PenaltyPage::choose(int row) {
-    const PenaltyEntry& entry = m_entries.at(static_cast<std::size_t>(row));
+    const PenaltyEntry entry = m_entries.at(static_cast<std::size_t>(row)); // refreshed meanwhile
     const auto gate = entry[PenaltyField::Gate].value_or(0);
     if (gate >= 1 && gate <= m_desk.document.info().gates)
         m_desk.gates.setCurrent(static_cast<int>(gate));
