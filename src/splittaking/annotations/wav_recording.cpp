@@ -16,7 +16,8 @@ constexpr std::uint16_t SampleBytes = 2;
 constexpr std::uint16_t SampleBits = 16;
 
 void append(Blob& file, std::string_view name) {
-    file.bytes.insert(file.bytes.end(), name.begin(), name.end());
+    for (const char letter : name)
+        file.bytes.push_back(static_cast<unsigned char>(letter));
 }
 
 template <std::unsigned_integral Number>
