@@ -65,7 +65,6 @@ VariabilityDialog::VariabilityDialog(const QString& fileName, const VariabilityL
         QPushButton* const add = buttons->addButton(
             added == 1 ? tr("Add 1 measurement") : tr("Add %1 measurements").arg(added),
             QDialogButtonBox::AcceptRole);
-        add->setDefault(true);
         add->setFocus();
     }
     column->addSpacing(theme::Spacing);

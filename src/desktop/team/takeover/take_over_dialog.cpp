@@ -160,7 +160,6 @@ void TakeOverDialog::finish(QFormLayout* form) {
     m_note->setWordWrap(true);
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Cancel);
     m_take = buttons->addButton(tr("Take over"), QDialogButtonBox::AcceptRole);
-    m_take->setDefault(true);
     QPushButton* all = buttons->addButton(tr("Tick &all"), QDialogButtonBox::ActionRole);
     QPushButton* none = buttons->addButton(tr("Tick &none"), QDialogButtonBox::ActionRole);
     connect(all, &QPushButton::clicked, this, [this] { tickAll(true); });
