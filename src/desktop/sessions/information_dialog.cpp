@@ -76,11 +76,13 @@ InformationDialog::InformationDialog(const Info& info, QWidget* parent)
     resize(420, sizeHint().height());
 }
 
-/// A number that nobody touched stays as it was, with all its decimals.
+/// What nobody touched stays as it was: a number with all its decimals, a text with its spaces.
 Info InformationDialog::information() const {
     Info info = m_info;
-    for (std::size_t i = 0; i < Texts.size(); ++i)
-        info.*Texts[i].member = m_texts[i]->text().simplified().toStdString();
+    for (std::size_t i = 0; i < Texts.size(); ++i) {
+        if (const QString text = m_texts[i]->text(); text.toStdString() != m_info.*Texts[i].member)
+            info.*Texts[i].member = text.simplified().toStdString();
+    }
     for (std::size_t i = 0; i < Numbers.size(); ++i) {
         if (m_numbers[i]->value() != m_shown[i])
             info.*Numbers[i].member = m_numbers[i]->value();

@@ -73,7 +73,7 @@ PowerMeterDialog::PowerMeterDialog(const QString& fileName, const PowerMeterList
         form->addRow(refusedTable(list.refused));
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Cancel);
     if (!m_placed.empty())
-        buttons->addButton(tr("Import"), QDialogButtonBox::AcceptRole)->setDefault(true);
+        buttons->addButton(tr("Import"), QDialogButtonBox::AcceptRole);
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     form->addRow(buttons);

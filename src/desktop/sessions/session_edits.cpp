@@ -1,3 +1,4 @@
+#include "common/json_encode.h"
 #include "desktop/charts/sensor_series.h"
 #include "desktop/sessions/information_dialog.h"
 #include "desktop/sessions/replay.h"
@@ -24,8 +25,11 @@ void SessionWindow::editInformation() {
     InformationDialog dialog(before, this);
     if (dialog.exec() != QDialog::Accepted)
         return;
+    const infosessionSmart_v3 after = dialog.information();
+    if (encode(after) == encode(before))
+        return;
     m_document->edit(tr("session information"),
-                     [&](EditedSession& session) { session.session.info = dialog.information(); });
+                     [&](EditedSession& session) { session.session.info = after; });
 }
 
 void SessionWindow::cutTo(const QString& what, std::optional<EditedSession> cut) {
@@ -69,13 +73,17 @@ void SessionWindow::setMarksTo(const QString& what, std::vector<double> marks) {
 void SessionWindow::mark() {
     if (!hasSession())
         return;
+    if (hasMarkAt(m_replay->moment()))
+        return;
     std::vector<double> marks = m_document->value().marks;
-    const double moment = m_replay->moment();
-    const auto isHere = [&](double other) { return std::abs(other - moment) < SamePlace; };
-    if (std::ranges::none_of(marks, isHere)) {
-        marks.push_back(moment);
-        setMarksTo(tr("mark"), std::move(marks));
-    }
+    marks.push_back(m_replay->moment());
+    setMarksTo(tr("mark"), std::move(marks));
+}
+
+bool SessionWindow::hasMarkAt(double moment) const {
+    return std::ranges::any_of(m_document->value().marks, [moment](double mark) {
+        return std::abs(mark - moment) < SamePlace;
+    });
 }
 
 /// The nearest one, however far: it is shown where it is.
@@ -108,6 +116,10 @@ void SessionWindow::moveMark(double seconds) {
         return;
     std::vector<double> marks = m_document->value().marks;
     const double moved = std::clamp(marks[*place] + seconds, m_replay->from(), m_replay->to());
+    if (hasMarkAt(moved)) {
+        statusBar()->showMessage(tr("There is a mark already"), MessageMilliseconds);
+        return;
+    }
     marks[*place] = moved;
     setMarksTo(tr("move of a mark"), std::move(marks));
     m_replay->setMoment(moved);

@@ -7,6 +7,7 @@
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
+#include <QScopedValueRollback>
 #include <QSignalBlocker>
 #include <QSpinBox>
 #include <QTableView>
@@ -53,17 +54,22 @@ QTableView* SessionTables::addTable(const char* name, GridModel* model) {
     view->verticalHeader()->setDefaultSectionSize(fontMetrics().height() + theme::SmallSpacing);
     view->horizontalHeader()->setHighlightSections(false);
     view->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
-    connect(view, &QTableView::clicked, this, [this, model](const QModelIndex& index) {
-        emit momentChosen(model->grid().rows[static_cast<std::size_t>(index.row())].moment);
-    });
+    connect(view, &QTableView::clicked, this,
+            [this, view](const QModelIndex& index) { choose(*view, index); });
     connect(view->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
-            [this, model](const QModelIndex& index) {
+            [this, view](const QModelIndex& index) {
                 if (!m_isFollowing && index.isValid())
-                    emit momentChosen(
-                        model->grid().rows[static_cast<std::size_t>(index.row())].moment);
+                    choose(*view, index);
             });
     m_views.push_back(view);
     return view;
+}
+
+/// The row stays as it was chosen: another one may have the same moment, or one beside it.
+void SessionTables::choose(const QTableView& table, const QModelIndex& index) {
+    const auto& model = static_cast<const GridModel&>(*table.model());
+    const QScopedValueRollback choosing(m_choosing, &table);
+    emit momentChosen(model.grid().rows[static_cast<std::size_t>(index.row())].moment);
 }
 
 QWidget* SessionTables::makeMetersPage() {
@@ -151,7 +157,7 @@ void SessionTables::showCursorAt(double moment) {
         const auto* const model = static_cast<const GridModel*>(table->model());
         const auto stroke = page == StrokePage ? strokeAt(m_figures, moment) : std::nullopt;
         const int row = stroke ? static_cast<int>(*stroke) : model->rowAt(moment);
-        if (row >= 0 && table->currentIndex().row() != row)
+        if (table != m_choosing && row >= 0 && table->currentIndex().row() != row)
             follow(*table, model->index(row, 0));
     }
     m_isFollowing = false;

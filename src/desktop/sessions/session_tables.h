@@ -40,6 +40,7 @@ signals:
 
 private:
     QTableView* addTable(const char* name, GridModel* model);
+    void choose(const QTableView& table, const QModelIndex& index);
     QWidget* makeMetersPage();
     void showMeters();
 
@@ -53,7 +54,8 @@ private:
     BalanceView* m_balance;
     EditedSession m_session;
     SessionFigures m_figures;
-    bool m_isFollowing = false; ///< the cursor moves the rows, not the other way round
+    const QTableView* m_choosing = nullptr; ///< a row of it is being chosen
+    bool m_isFollowing = false;             ///< the cursor moves the rows, not the other way round
 };
 
 } // namespace kavela::desktop

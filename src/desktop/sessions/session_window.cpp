@@ -155,6 +155,8 @@ void SessionWindow::dropEvent(QDropEvent* event) {
 
 /// The kind of a file decides, not the side it fell on.
 void SessionWindow::takeFiles(const QStringList& paths) {
+    if (m_isBusy)
+        return;
     QStringList others;
     for (const QString& path : paths) {
         const QString suffix = QFileInfo(path).suffix().toLower();

@@ -98,6 +98,7 @@ private:
     [[nodiscard]] bool mayWrite();
     [[nodiscard]] bool hasSession() const;
     [[nodiscard]] std::optional<std::size_t> markAtCursor() const;
+    [[nodiscard]] bool hasMarkAt(double moment) const;
     void setMarksTo(const QString& what, std::vector<double> marks);
     void cutTo(const QString& what, std::optional<EditedSession> cut);
     void tell(const QString& title, const QString& text);

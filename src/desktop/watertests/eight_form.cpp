@@ -48,7 +48,7 @@ EightForm::EightForm(QWidget* parent)
 void EightForm::connectText(QLineEdit& field, std::string datafor8::*member, const QString& what) {
     connect(&field, &QLineEdit::editingFinished, this, [this, &field, member, what] {
         const std::string text = field.text().simplified().toStdString();
-        if (text != m_shown.*member)
+        if (field.text().toStdString() != m_shown.*member && text != m_shown.*member)
             emit edited(what, [=](onWaterEight& eight) { eight.run.*member = text; });
     });
 }

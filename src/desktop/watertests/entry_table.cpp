@@ -36,17 +36,25 @@ double typedNumber(const QString& text, const EntryColumn& column) {
 EntryModel::EntryModel(std::vector<EntryColumn> columns, QObject* parent)
     : QAbstractTableModel(parent), m_columns(std::move(columns)) {}
 
-/// A model that is reset closes the editor in a cell, so it is only where rows came or went.
+/// A model that is reset closes the editor in a cell and forgets which cell it was, so rows come
+/// and go at the end.
 void EntryModel::show(Rows rows, const QStringList& rowTitles) {
-    const bool isSameShape = rows.size() == m_rows.size() && rowTitles == m_rowTitles;
-    if (!isSameShape)
-        beginResetModel();
+    const int before = rowCount();
+    const int after = static_cast<int>(rows.size());
+    if (after > before)
+        beginInsertRows({}, before, after - 1);
+    else if (after < before)
+        beginRemoveRows({}, after, before - 1);
     m_rows = std::move(rows);
     m_rowTitles = rowTitles;
-    if (!isSameShape)
-        endResetModel();
-    else if (!m_rows.empty())
-        emit dataChanged(index(0, 0), index(rowCount() - 1, columnCount() - 1));
+    if (after > before)
+        endInsertRows();
+    else if (after < before)
+        endRemoveRows();
+    if (after == 0)
+        return;
+    emit headerDataChanged(Qt::Vertical, 0, after - 1);
+    emit dataChanged(index(0, 0), index(after - 1, columnCount() - 1));
 }
 
 void EntryModel::setReadOnly(int column, bool isReadOnly, const QString& tip) {

@@ -28,6 +28,7 @@ FactsForm::FactsForm(QWidget* parent)
     m_date->setObjectName("date");
     m_date->setDisplayFormat("yyyy-MM-dd");
     m_date->setDateRange(QDate(1900, 1, 1), QDate(2100, 12, 31));
+    m_date->setSpecialValueText(tr("–")); // the first day of all: no day is known
     m_date->setCalendarPopup(true);
     m_date->setKeyboardTracking(false);
     m_location->setObjectName("location");
@@ -55,12 +56,15 @@ FactsForm::FactsForm(QWidget* parent)
 }
 
 void FactsForm::enterAthlete() {
-    if (const QString name = m_athlete->currentText().simplified(); name != m_shownAthlete)
+    const QString typed = m_athlete->currentText();
+    if (const QString name = typed.simplified(); typed != m_shownAthlete && name != m_shownAthlete)
         emit athleteEntered(name);
 }
 
 void FactsForm::enterLocation() {
-    if (const QString place = m_location->text().simplified(); place != m_shownLocation)
+    const QString typed = m_location->text();
+    if (const QString place = typed.simplified();
+        typed != m_shownLocation && place != m_shownLocation)
         emit locationEntered(place);
 }
 
@@ -68,7 +72,6 @@ void FactsForm::show(const ListedTest& test, const QStringList& athletes) {
     m_kind->setText(kindText(test.kind()));
     m_shownAthlete = test.athlete();
     m_shownLocation = test.location();
-    m_shownDate = test.date();
     const QSignalBlocker quietAthlete(m_athlete);
     const QSignalBlocker quietDate(m_date);
     QStringList present;
@@ -81,7 +84,9 @@ void FactsForm::show(const ListedTest& test, const QStringList& athletes) {
     m_athlete->setCurrentIndex(m_athlete->findText(test.athlete()));
     if (m_athlete->currentText() != test.athlete())
         m_athlete->setEditText(test.athlete());
-    m_date->setDate(QDate::fromString(test.day(), "yyyy-MM-dd"));
+    const QDate day = QDate::fromString(test.day(), "yyyy-MM-dd");
+    m_shownDate = day.isValid() ? test.date() : ReferenceDate();
+    m_date->setDate(day.isValid() ? day : m_date->minimumDate());
     if (m_location->text() != test.location())
         m_location->setText(test.location());
 }

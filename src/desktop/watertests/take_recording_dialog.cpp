@@ -99,6 +99,7 @@ void TakeRecordingDialog::layOut() {
     form->addRow(tr("&Distance between the gates"), m_distance);
     form->addRow(tr("T&urn limit"), m_turnLimit);
     auto* again = new QPushButton(tr("&Suggest the marks again"));
+    again->setAutoDefault(false); // Enter in a field would throw the typed marks away
     connect(again, &QPushButton::clicked, this, &TakeRecordingDialog::suggest);
     auto* left = new QVBoxLayout;
     left->addLayout(form);

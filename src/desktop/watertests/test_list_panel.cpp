@@ -23,12 +23,18 @@ public:
     void set(const QString& athlete, int kind) {
         m_athlete = athlete;
         m_kind = kind;
+        m_kept.reset();
         invalidateFilter();
     }
+
+    /// A test that is being typed stays listed, also when it no longer fits.
+    void keep(TestId id) { m_kept = id; }
 
 protected:
     bool filterAcceptsRow(int row, const QModelIndex& parent) const override {
         const QModelIndex index = sourceModel()->index(row, TestListModel::AthleteColumn, parent);
+        if (m_kept && index.data(TestListModel::IdRole).value<TestId>() == *m_kept)
+            return true;
         return (m_athlete.isEmpty() || index.data().toString() == m_athlete) &&
                (m_kind < 0 || index.data(TestListModel::KindRole).toInt() == m_kind);
     }
@@ -44,6 +50,7 @@ protected:
 private:
     QString m_athlete;
     int m_kind = -1;
+    std::optional<TestId> m_kept;
 };
 
 TestListPanel::TestListPanel(TestsDocument& document, QWidget* parent)
@@ -99,9 +106,15 @@ void TestListPanel::makeTable() {
                 if (!index.isValid())
                     return;
                 m_chosen = idAt(index);
+                m_shown->keep(*m_chosen);
                 emit chosen();
             });
+    connect(m_shown, &QAbstractItemModel::modelAboutToBeReset, this,
+            [this] { m_place = std::max(m_table->currentIndex().row(), 0); });
     connect(m_shown, &QAbstractItemModel::modelReset, this, &TestListPanel::keepOneChosen);
+    for (const auto change : {&QAbstractItemModel::rowsInserted, &QAbstractItemModel::rowsRemoved})
+        connect(m_shown, change, this, &TestListPanel::listChanged);
+    connect(m_shown, &QAbstractItemModel::layoutChanged, this, &TestListPanel::listChanged);
     connect(m_shown, &QAbstractItemModel::dataChanged, this, &TestListPanel::listChanged);
 }
 
@@ -125,21 +138,24 @@ void TestListPanel::fillAthletes() {
         m_athlete->setCurrentIndex(
             chosenName.isEmpty() ? 0 : std::max(m_athlete->findText(chosenName), 0));
     }
-    filter();
+    if (!chosenName.isEmpty() && m_athlete->currentIndex() == 0)
+        filter();
 }
 
 void TestListPanel::filter() {
+    m_place = 0;
     m_shown->set(m_athlete->currentIndex() > 0 ? m_athlete->currentText() : QString(),
                  m_kind->currentData().toInt());
     keepOneChosen();
 }
 
-/// The test chosen before where it is still listed, or else the first one.
+/// The test chosen before where it is still listed, or else the one in its place.
 void TestListPanel::keepOneChosen() {
     QModelIndex index =
         m_chosen ? m_shown->mapFromSource(m_model.indexOf(*m_chosen)) : QModelIndex();
     if (!index.isValid() && m_shown->rowCount() > 0)
-        index = m_shown->index(0, TestListModel::AthleteColumn);
+        index = m_shown->index(std::min(m_place, m_shown->rowCount() - 1),
+                               TestListModel::AthleteColumn);
     if (m_table->selectionModel())
         m_table->setCurrentIndex(index);
     m_chosen = index.isValid() ? std::optional(idAt(index)) : std::nullopt;

@@ -57,6 +57,7 @@ private:
     QComboBox* m_kind;
     QTableView* m_table;
     std::optional<TestId> m_chosen;
+    int m_place = 0; ///< the row to choose where the chosen test is gone
 };
 
 } // namespace kavela::desktop

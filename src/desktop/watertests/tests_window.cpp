@@ -18,6 +18,7 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QHeaderView>
+#include <QMenu>
 #include <QSplitter>
 #include <QTabWidget>
 #include <QTableView>
@@ -48,7 +49,10 @@ TestsWindow::TestsWindow(Workspace& workspace, std::unique_ptr<TestsDocument> do
     makeParts();
     connectParts();
     QMenu* const fileMenu = makeFileMenu();
-    makeTestsMenus(*this, *fileMenu, *makeEditMenu());
+    QMenu* const editMenu = makeEditMenu();
+    // A cell keeps its editor under a menu, and undoing would overwrite what stands in it.
+    connect(editMenu, &QMenu::aboutToShow, this, &TestsWindow::commit);
+    makeTestsMenus(*this, *fileMenu, *editMenu);
     finishMenus([this] { return testsCommands(*this); });
 }
 

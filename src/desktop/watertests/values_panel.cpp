@@ -2,6 +2,7 @@
 
 #include "desktop/shell/theme.h"
 #include "desktop/watertests/eight_form.h"
+#include "desktop/watertests/entry_table.h"
 #include "desktop/watertests/facts_form.h"
 #include "desktop/watertests/section_form.h"
 #include "desktop/watertests/tests_document.h"
@@ -109,14 +110,19 @@ void ValuesPanel::editFacts(const QString& what, const std::function<void(onWate
         m_document.editEight(*m_id, what, changeEight);
 }
 
-/// Fields take what was typed when they lose the focus; the focus comes back to a field.
+/// Fields take what was typed when they lose the focus; the focus comes back to a field, or to the
+/// table of a cell.
 void ValuesPanel::commit() {
     const QPointer<QWidget> field = QApplication::focusWidget();
     if (!field || !isAncestorOf(field))
         return;
+    QPointer<QWidget> back = field;
+    for (QWidget* part = field; part != this; part = part->parentWidget())
+        if (qobject_cast<EntryTable*>(part))
+            back = part;
     field->clearFocus();
-    if (field && field->isVisible())
-        field->setFocus();
+    if (back && back->isVisible())
+        back->setFocus();
 }
 
 void ValuesPanel::show(std::optional<TestId> test) {

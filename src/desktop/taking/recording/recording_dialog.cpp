@@ -145,7 +145,9 @@ void RecordingDialog::load(const QString& path) {
             }
             return read;
         },
-        [this, name](Read read) {
+        [this, name, wanted = ++m_wanted](Read read) {
+            if (wanted != m_wanted)
+                return;
             m_choose->setEnabled(true);
             if (read.recording) {
                 setRecording(std::move(*read.recording));
@@ -241,11 +243,6 @@ void RecordingDialog::showFit() {
         fault = error.what();
     }
     m_fault->tell(fault);
-    m_clocks->setText(m_fit
-                          ? clockText(*m_fit, m_events.first.isWhole() && m_events.second.isWhole())
-                          : QString());
-    m_clocks->setVisible(m_fit.has_value());
-    showMarks();
     showRun();
 }
 
@@ -269,6 +266,10 @@ void RecordingDialog::showRun() {
     m_attach->setToolTip(hasSpan ? QString()
                                  : tr("The run has to be marked first: its start and its splits."));
     m_detach->setEnabled(m_film.isAttached());
+    m_clocks->setText(m_fit
+                          ? clockText(*m_fit, m_events.first.isWhole() && m_events.second.isWhole())
+                          : QString());
+    m_clocks->setVisible(m_fit.has_value());
     showMarks();
 }
 
@@ -285,6 +286,7 @@ void RecordingDialog::attach() {
             m_fault->tell(tr("Nothing of the recording lies within the run."));
             return;
         }
+        m_fault->tell({});
         m_film.attach(std::move(part));
         m_clocks->setText(tr("The part of %1 is attached.").arg(m_film.run()) +
                           (notes.isEmpty() ? "" : "\n" + notes.join('\n')));

@@ -85,6 +85,7 @@ private:
     CommonEvents m_events;
     std::optional<ClockFit> m_fit;
     double m_cursor = 0;
+    int m_wanted = 0; ///< counts the files that were to be read: only the last one counts
     BackgroundWork m_work{*this};
 
     QLabel* m_title;
