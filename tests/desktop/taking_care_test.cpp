@@ -1,7 +1,9 @@
+#include "common/json_encode.h"
 #include "desktop/notes_fixture.h"
 #include "splittaking/annotations/time_losses.h"
 
 #include <QDoubleSpinBox>
+#include <QPushButton>
 
 namespace kavela::test {
 namespace {
@@ -133,6 +135,58 @@ TEST_F(TakingCareTest, RemovesThePenaltyAndNotTheSplitThatWasSelectedBefore) {
     press(Qt::Key_Delete);
     EXPECT_EQ(run().sectioninfo.pens.at(4), 2) << "another penalty came to that place";
     EXPECT_EQ(run().sectioninfo.pens.at(2), 0);
+}
+
+/// What every mode writes is in the file, and shown again.
+TEST_F(TakingCareTest, ReopensWhatEveryModeWrote) {
+    ASSERT_NO_FATAL_FAILURE(open(timedRace(), true));
+    const auto press2 = [&](QKeyCombination mode, QKeyCombination key) {
+        press(mode);
+        press(key);
+    };
+    press2(Qt::CTRL | Qt::Key_2, Qt::Key_M);
+    press2(Qt::CTRL | Qt::Key_3, Qt::Key_M);
+    press2(Qt::CTRL | Qt::Key_4, Qt::Key_D);
+    press2(Qt::CTRL | Qt::Key_5, Qt::Key_M);
+    press(Qt::CTRL | Qt::Key_6);
+    part<QComboBox>("tagName").setEditText("Wave");
+    press(Qt::Key_M);
+    press2(Qt::CTRL | Qt::Key_7, Qt::Key_M);
+    press(Qt::CTRL | Qt::Key_8);
+    part<QDoubleSpinBox>("athletesScore").setValue(6.5);
+    part<QTableWidget>("comments").item(2, 1)->setText("High line");
+    press(Qt::CTRL | Qt::Key_9);
+    part<QPushButton>("strategyAdd").click();
+    type("strategyNewWay", "Spin");
+    press(Qt::Key_Return);
+    press(Qt::Key_M);
+    ASSERT_NO_FATAL_FAILURE(goOnASecond());
+    press(Qt::Key_M);
+    ASSERT_TRUE(m_window->save());
+    const auto notesOf = [](athletedata031 record) {
+        record.sectioninfo.xTime = record.sectioninfo.xPer = 0; // computed as it is written
+        return encode(record);
+    };
+    const std::string written = notesOf(run());
+    const QStringList marks = listed();
+    EXPECT_THAT(marks, SizeIs(::testing::Ge(12)));
+    const QString path = m_window->document().path();
+    m_window.reset();
+
+    m_window = std::make_unique<TakingWindow>(
+        m_workspace,
+        desktop::Autosave(QString::fromStdString((m_folder.path() / "autosave").string())));
+    m_window->setAttribute(Qt::WA_DeleteOnClose, false);
+    ASSERT_TRUE(m_window->open(path));
+    EXPECT_EQ(notesOf(run()), written);
+    EXPECT_EQ(run().strokes.at(0).hand, 1);
+    EXPECT_NEAR(run().strategies.at(0).times.at(0), 1, 1e-9);
+    EXPECT_EQ(run().sectioninfo.pens.at(0), 2);
+    EXPECT_EQ(listed().size(), marks.size());
+    notes().setMode(NoteMode::Strategies);
+    EXPECT_EQ(part<QTableWidget>("strategyWays").item(0, 2)->text(), "1.00");
+    notes().setMode(NoteMode::Comments);
+    EXPECT_EQ(part<QTableWidget>("comments").item(2, 1)->text(), "High line");
 }
 
 /// As other programs may write them.
