@@ -57,6 +57,14 @@ void clearMark(GateMarks& marks, GateMark which) {
         marks.clear();
 }
 
+std::optional<GateMark> nextMark(std::span<const CMTime> marks, bool withMiddle) {
+    if (!markOf(marks, GateMark::Entrance))
+        return GateMark::Entrance;
+    if (markOf(marks, GateMark::Exit))
+        return std::nullopt;
+    return withMiddle && !markOf(marks, GateMark::Middle) ? GateMark::Middle : GateMark::Exit;
+}
+
 GateTimes timesOf(std::span<const CMTime> marks) {
     return {secondsBetween(marks, GateMark::Entrance, GateMark::Exit),
             secondsBetween(marks, GateMark::Entrance, GateMark::Middle),

@@ -25,6 +25,10 @@ void clearMark(GateMarks& marks, GateMark which);
 /// Which mark stands at a place of a list of `count`; nothing between the second and the last.
 [[nodiscard]] std::optional<GateMark> markAtPlace(std::size_t place, std::size_t count);
 
+/// The mark that a gate or a roll still wants; a middle left out of a finished one is not asked for
+/// again. Nothing when it is marked.
+[[nodiscard]] std::optional<GateMark> nextMark(std::span<const CMTime> marks, bool withMiddle);
+
 /// What the marks tell, in seconds; 0 where a mark is missing, below 0 where two are swapped.
 struct GateTimes {
     double total = 0;    ///< from entrance to exit

@@ -3,6 +3,7 @@
 #include "desktop/cross/trials/trial_list.h"
 #include "desktop/cross/trials/trial_page.h"
 #include "desktop/shell/workspace.h"
+#include "desktop/taking/notes/note_page.h"
 #include "desktop/taking/taking_document.h"
 #include "splitdata/run_timing.h"
 #include "splittaking/annotations/cross_heats.h"

@@ -66,14 +66,6 @@ void removeGateMark(ttdata030& trial, const TrialMark& mark) {
         eraseEntry(list, mark.entry);
 }
 
-std::optional<GateMark> nextMark(std::span<const CMTime> marks, bool withMiddle) {
-    if (!markOf(marks, GateMark::Entrance))
-        return GateMark::Entrance;
-    if (markOf(marks, GateMark::Exit))
-        return std::nullopt;
-    return withMiddle && !markOf(marks, GateMark::Middle) ? GateMark::Middle : GateMark::Exit;
-}
-
 std::vector<std::int64_t> upstreamGates(const crossdata030& cross,
                                         std::span<const std::int64_t> upGates) {
     const auto isUpstream = [&](std::int64_t gate) {
@@ -85,18 +77,6 @@ std::vector<std::int64_t> upstreamGates(const crossdata030& cross,
     std::vector<std::int64_t> gates;
     std::ranges::copy_if(cross.crossinfo.gates, std::back_inserter(gates), isUpstream);
     return gates;
-}
-
-QString gateMarkText(GateMark which) {
-    switch (which) {
-    case GateMark::Entrance:
-        return QObject::tr("entrance");
-    case GateMark::Middle:
-        return QObject::tr("middle");
-    case GateMark::Exit:
-        break;
-    }
-    return QObject::tr("exit");
 }
 
 QString rollMarkText(GateMark which) {

@@ -39,17 +39,11 @@ struct TrialMark {
 void moveGateMark(ttdata030& trial, const TrialMark& mark, const CMTime& moment);
 void removeGateMark(ttdata030& trial, const TrialMark& mark);
 
-/// The mark that a gate or a roll still wants; a middle left out of a finished one is not asked for
-/// again. Nothing when it is marked.
-[[nodiscard]] std::optional<GateMark> nextMark(std::span<const CMTime> marks, bool withMiddle);
-
 /// Gates of the cross course that are known as upstream ones, in its order: because a trial has
 /// marks there, or `upGates` of the race name them.
 [[nodiscard]] std::vector<std::int64_t> upstreamGates(const crossdata030& cross,
                                                       std::span<const std::int64_t> upGates);
 
-/// "entrance", "middle", "exit".
-[[nodiscard]] QString gateMarkText(GateMark which);
 /// "start of the roll", "boat upside down", "boat up again".
 [[nodiscard]] QString rollMarkText(GateMark which);
 

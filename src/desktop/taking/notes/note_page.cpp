@@ -62,6 +62,18 @@ QString runName(const athletedata031& run) {
     return run.phase.empty() ? crew : crew + " · " + QString::fromStdString(run.phase);
 }
 
+QString gateMarkText(GateMark which) {
+    switch (which) {
+    case GateMark::Entrance:
+        return QObject::tr("entrance");
+    case GateMark::Middle:
+        return QObject::tr("middle");
+    case GateMark::Exit:
+        break;
+    }
+    return QObject::tr("exit");
+}
+
 QStringList sectionNames(const infodata031& info) {
     QStringList names;
     for (std::size_t i = 0; std::cmp_less(i, std::min<std::int64_t>(info.totalsplits, MostSplits));

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "common/alerts.h"
+#include "splittaking/annotations/gate_marks.h"
 #include "splittaking/annotations/lanes.h"
 #include "splittaking/marking.h"
 
@@ -106,6 +107,9 @@ protected:
 
 /// The crew and the phase of a run, as runs are told apart.
 [[nodiscard]] QString runName(const athletedata031& run);
+
+/// What a mark of an upstream gate is called within a sentence.
+[[nodiscard]] QString gateMarkText(GateMark which);
 
 /// The titles of the course's sections, "S1" and so on for those without one.
 [[nodiscard]] QStringList sectionNames(const infodata031& info);

@@ -16,22 +16,6 @@
 
 namespace kavela::desktop {
 
-namespace {
-
-QString nameOf(GateMark which) {
-    switch (which) {
-    case GateMark::Entrance:
-        return UpstreamPage::tr("entrance");
-    case GateMark::Middle:
-        return UpstreamPage::tr("middle");
-    case GateMark::Exit:
-        break;
-    }
-    return UpstreamPage::tr("exit");
-}
-
-} // namespace
-
 UpstreamPage::UpstreamPage(NoteDesk& desk)
     : NotePage(desk),
       m_front(new QLabel),
@@ -94,15 +78,7 @@ const upstreamdata025* UpstreamPage::entry() const {
 /// for again.
 std::optional<GateMark> UpstreamPage::nextMark() const {
     const upstreamdata025* const upstream = entry();
-    const auto isTaken = [&](GateMark which) {
-        return upstream && markOf(upstream->cmtimes, which);
-    };
-    if (!isTaken(GateMark::Entrance))
-        return GateMark::Entrance;
-    if (isTaken(GateMark::Exit))
-        return std::nullopt;
-    return m_withMiddle->isChecked() && !isTaken(GateMark::Middle) ? GateMark::Middle
-                                                                   : GateMark::Exit;
+    return kavela::nextMark(upstream ? upstream->cmtimes : GateMarks(), m_withMiddle->isChecked());
 }
 
 void UpstreamPage::goOn() {
@@ -124,11 +100,11 @@ void UpstreamPage::mark(const Stamps& stamps) {
                               .arg(m_desk.gates.current()));
         return;
     }
-    edit(tr("%1 of gate %2").arg(nameOf(*which)).arg(*front), [&](athletedata031& run) {
+    edit(tr("%1 of gate %2").arg(gateMarkText(*which)).arg(*front), [&](athletedata031& run) {
         markUpstream(run, m_desk.document.info(), *front, *which, stamps.front());
     });
     const upstreamdata025* const upstream = entry();
-    emit flashed(tr("Gate %1 %2").arg(*front).arg(nameOf(*which)));
+    emit flashed(tr("Gate %1 %2").arg(*front).arg(gateMarkText(*which)));
     if (const auto fault = faultOfMarks(upstream->cmtimes))
         emit told(QString::fromStdString(*fault));
     emit marked(MarkKind::Upstream, stamps.front());
@@ -168,7 +144,7 @@ void UpstreamPage::refresh() {
     if (!gate())
         m_front->setText(tr("Gate %1 is no upstream gate").arg(m_desk.gates.current()));
     else if (const auto which = nextMark())
-        m_front->setText(tr("Gate %1: M marks the %2").arg(*gate()).arg(nameOf(*which)));
+        m_front->setText(tr("Gate %1: M marks the %2").arg(*gate()).arg(gateMarkText(*which)));
     else
         m_front->setText(tr("Gate %1 is marked").arg(*gate()));
     showTable();
