@@ -1,7 +1,6 @@
 #include "common/recorders.h"
 #include "common/temp_folder.h"
 #include "desktop/cross/heats/attack_form.h"
-#include "desktop/cross/heats/boat_looks.h"
 #include "desktop/cross/heats/heat_page.h"
 #include "desktop/cross/heats/order_board.h"
 #include "desktop/cross/heats/place_grid.h"
@@ -442,22 +441,6 @@ TEST_F(CrossPagesTest, CopiesResultsForASpreadsheet) {
     EXPECT_EQ(QApplication::clipboard()->text().count('\n'), 5);
     m_document.editCross("heats removed", [](crossdata030& all) { all.eliphase.clear(); });
     EXPECT_TRUE(part<QLabel>("noResults", &m_results).isVisible());
-}
-
-TEST(BoatLooks, TellBoatsApartByAFewLetters) {
-    struct Case {
-        Names athletes;
-        std::vector<std::string> cues;
-    };
-    for (const Case& each : {Case{{"Ada Stone", "Bea Rill"}, {"AS", "BR"}},
-                             Case{{"Ada Stone", "Alma Sun"}, {"ASt", "ASu"}},
-                             Case{{"Åse", "Ana Maria Lopez", ""}, {"Å", "AL", "3"}},
-                             Case{{"瀬音 ひなた"}, {"瀬ひ"}}}) {
-        std::vector<std::string> cues;
-        for (const desktop::BoatLook& look : desktop::boatLooks(each.athletes, QPalette()))
-            cues.push_back(look.cue.toStdString());
-        EXPECT_EQ(cues, each.cues);
-    }
 }
 
 } // namespace

@@ -1,22 +1,14 @@
-#include "desktop/sessions/session_window.h"
+#include "desktop/session_fixture.h"
 
 #include "boatmotion/session_files.h"
-#include "common/json_encode.h"
-#include "common/recorders.h"
-#include "common/temp_folder.h"
 #include "desktop/charts/series_chart.h"
 #include "desktop/odd_recordings.h"
 #include "desktop/sessions/grid_model.h"
 #include "desktop/sessions/information_dialog.h"
 #include "desktop/sessions/power_meter_dialog.h"
-#include "desktop/sessions/replay.h"
 #include "desktop/sessions/session_view.h"
 #include "desktop/sessions/test_session_window.h"
 #include "desktop/sessions/work_beside.h"
-#include "desktop/shell/workspace.h"
-#include "sample/recordings.h"
-
-#include <gmock/gmock.h>
 
 #include <QApplication>
 #include <QComboBox>
@@ -55,50 +47,8 @@ void whenAsked(std::function<void(Dialog&)> act) {
 }
 
 /// A window with the drill of the sample season, forty seconds.
-class SessionCareTest : public ::testing::Test {
+class SessionCareTest : public SessionFixture {
 protected:
-    SessionCareTest() {
-        m_workspace.setAlerts(&m_recorder);
-        m_workspace.setAnswer([this](const Alert& question) {
-            m_questions.push_back(question.text);
-            return m_isYes;
-        });
-    }
-
-    QString path(const char* name) const {
-        return QString::fromStdString((m_folder.path() / name).string());
-    }
-
-    QString add(const char* name, const std::string& content) const {
-        return QString::fromStdString(m_folder.add(name, content).string());
-    }
-
-    std::unique_ptr<SessionWindow> openDrill() {
-        auto window =
-            std::make_unique<SessionWindow>(m_workspace, desktop::Autosave(path("autosave")));
-        window->setAttribute(Qt::WA_DeleteOnClose, false);
-        window->startNew(path("new.bms"));
-        window->show();
-        EXPECT_TRUE(window->open(add("drill.kvb", encode(sample::upstreamDrill()))));
-        QApplication::setActiveWindow(window.get());
-        QApplication::processEvents();
-        return window;
-    }
-
-    static void press(QWidget& widget, QKeyCombination keys) {
-        if (QApplication::activeWindow() != widget.window())
-            QApplication::setActiveWindow(widget.window());
-        QTest::keyClick(&widget, keys.key(), keys.keyboardModifiers());
-        QApplication::processEvents();
-    }
-
-    static void markAt(SessionWindow& window, std::initializer_list<double> seconds) {
-        for (const double second : seconds) {
-            window.replay().setMoment(window.replay().from() + second);
-            press(window, Qt::Key_M);
-        }
-    }
-
     static void drop(QWidget& widget, const QStringList& paths) {
         QMimeData files;
         QList<QUrl> urls;
@@ -123,13 +73,6 @@ protected:
     static std::string sessionOf(const SessionWindow& window) {
         return encode(window.document().value().session);
     }
-
-    TempFolder m_folder;
-    Recorder m_recorder;
-    bool m_isYes = true;
-    std::vector<std::string> m_questions;
-    desktop::Workspace m_workspace{Preferences(m_folder.path() / "preferences.ini"),
-                                   m_recorder.log(), [] { return ReferenceDate{7.7e8}; }};
 };
 
 TEST_F(SessionCareTest, AnOddClockIsToldOrShownAndNothingIsHalfLoaded) {

@@ -1,10 +1,7 @@
-#include "desktop/sessions/session_window.h"
+#include "desktop/session_fixture.h"
 
 #include "boatmotion/power_meter.h"
 #include "boatmotion/session_files.h"
-#include "common/json_encode.h"
-#include "common/recorders.h"
-#include "common/temp_folder.h"
 #include "desktop/charts/sensor_chart.h"
 #include "desktop/charts/series_chart.h"
 #include "desktop/imports/csv_mapping_dialog.h"
@@ -13,13 +10,8 @@
 #include "desktop/sessions/grid_model.h"
 #include "desktop/sessions/information_dialog.h"
 #include "desktop/sessions/power_meter_dialog.h"
-#include "desktop/sessions/replay.h"
 #include "desktop/sessions/session_view.h"
 #include "desktop/sessions/test_session_window.h"
-#include "desktop/shell/workspace.h"
-#include "sample/recordings.h"
-
-#include <gmock/gmock.h>
 
 #include <QApplication>
 #include <QComboBox>
@@ -50,56 +42,8 @@ using ::testing::IsEmpty;
 using ::testing::Not;
 using ::testing::SizeIs;
 
-class SessionWindowTest : public ::testing::Test {
+class SessionWindowTest : public SessionFixture {
 protected:
-    SessionWindowTest() {
-        m_workspace.setAlerts(&m_recorder);
-        m_workspace.setAnswer([this](const Alert& question) {
-            m_questions.push_back(question.text);
-            return m_isYes;
-        });
-    }
-
-    QString path(const char* name) const {
-        return QString::fromStdString((m_folder.path() / name).string());
-    }
-
-    QString add(const char* name, const std::string& content) const {
-        return QString::fromStdString(m_folder.add(name, content).string());
-    }
-
-    std::unique_ptr<SessionWindow> makeWindow() {
-        auto window = std::make_unique<SessionWindow>(m_workspace, Autosave(path("autosave")));
-        window->setAttribute(Qt::WA_DeleteOnClose, false);
-        window->startNew(path("new.bms"));
-        window->show();
-        QApplication::setActiveWindow(window.get());
-        QApplication::processEvents();
-        return window;
-    }
-
-    /// A window with the drill of the sample season, forty seconds with two turns and more.
-    std::unique_ptr<SessionWindow> openDrill() {
-        auto window = makeWindow();
-        EXPECT_TRUE(window->open(add("drill.kvb", encode(sample::upstreamDrill()))));
-        return window;
-    }
-
-    static void press(SessionWindow& window, QKeyCombination keys) {
-        if (QApplication::activeWindow() != &window)
-            QApplication::setActiveWindow(&window);
-        QTest::keyClick(&window, keys.key(), keys.keyboardModifiers());
-        QApplication::processEvents();
-    }
-
-    /// Marks so many seconds after the start.
-    static void markAt(SessionWindow& window, std::initializer_list<double> seconds) {
-        for (const double second : seconds) {
-            window.replay().setMoment(window.replay().from() + second);
-            press(window, Qt::Key_M);
-        }
-    }
-
     template <class Dialog>
     static void whenAsked(std::function<void(Dialog&)> act) {
         QTimer::singleShot(0, [act = std::move(act)] {
@@ -113,13 +57,6 @@ protected:
     static std::string gauge(const SessionWindow& window, const char* name) {
         return window.findChild<Gauge*>(name)->text().toStdString();
     }
-
-    TempFolder m_folder;
-    Recorder m_recorder;
-    bool m_isYes = true;
-    std::vector<std::string> m_questions;
-    Workspace m_workspace{Preferences(m_folder.path() / "preferences.ini"), m_recorder.log(),
-                          [] { return ReferenceDate{7.7e8}; }};
 };
 
 TEST_F(SessionWindowTest, ConvertsARecordingAndSavesItBesideTheSource) {

@@ -1,0 +1,78 @@
+#pragma once
+
+#include "common/json_encode.h"
+#include "common/recorders.h"
+#include "common/temp_folder.h"
+#include "desktop/sessions/replay.h"
+#include "desktop/sessions/session_window.h"
+#include "desktop/shell/workspace.h"
+#include "sample/recordings.h"
+
+#include <gmock/gmock.h>
+
+#include <QApplication>
+#include <QTest>
+
+namespace kavela::test {
+
+/// Windows of sessions in a folder of their own.
+class SessionFixture : public ::testing::Test {
+protected:
+    SessionFixture() {
+        m_workspace.setAlerts(&m_recorder);
+        m_workspace.setAnswer([this](const Alert& question) {
+            m_questions.push_back(question.text);
+            return m_isYes;
+        });
+    }
+
+    QString path(const char* name) const {
+        return QString::fromStdString((m_folder.path() / name).string());
+    }
+
+    QString add(const char* name, const std::string& content) const {
+        return QString::fromStdString(m_folder.add(name, content).string());
+    }
+
+    std::unique_ptr<desktop::SessionWindow> makeWindow() {
+        auto window = std::make_unique<desktop::SessionWindow>(m_workspace,
+                                                               desktop::Autosave(path("autosave")));
+        window->setAttribute(Qt::WA_DeleteOnClose, false);
+        window->startNew(path("new.bms"));
+        window->show();
+        QApplication::setActiveWindow(window.get());
+        QApplication::processEvents();
+        return window;
+    }
+
+    /// A window with the drill of the sample season, forty seconds with two turns and more.
+    std::unique_ptr<desktop::SessionWindow> openDrill() {
+        auto window = makeWindow();
+        EXPECT_TRUE(window->open(add("drill.kvb", encode(sample::upstreamDrill()))));
+        return window;
+    }
+
+    static void press(QWidget& widget, QKeyCombination keys) {
+        if (QApplication::activeWindow() != widget.window())
+            QApplication::setActiveWindow(widget.window());
+        QTest::keyClick(&widget, keys.key(), keys.keyboardModifiers());
+        QApplication::processEvents();
+    }
+
+    /// Marks so many seconds after the start.
+    static void markAt(desktop::SessionWindow& window, std::initializer_list<double> seconds) {
+        for (const double second : seconds) {
+            window.replay().setMoment(window.replay().from() + second);
+            press(window, Qt::Key_M);
+        }
+    }
+
+    TempFolder m_folder;
+    Recorder m_recorder;
+    bool m_isYes = true;
+    std::vector<std::string> m_questions;
+    desktop::Workspace m_workspace{Preferences(m_folder.path() / "preferences.ini"),
+                                   m_recorder.log(), [] { return ReferenceDate{7.7e8}; }};
+};
+
+} // namespace kavela::test
