@@ -165,6 +165,8 @@ std::optional<RunClock> analyseBoat(const RunArrays& run, const MotionProfile& p
         const MotionAnalysis analysis =
             analyseMotion({run.bm, run.watchmotion, run.gps, startDate(run)}, profile);
         motion.flags = analysis.flags;
+        motion.notes = notesOf(analysis);
+        motion.isBowKnown = analysis.isBowKnown;
         placeMotion(analysis, *clock, motion);
         RunClock dates = *clock;
         dates.first += analysis.clockOffset;

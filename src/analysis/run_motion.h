@@ -49,8 +49,10 @@ struct RunMotion {
     double seconds = 0; ///< of the run, to its last mark
     /// Why strokes, or all of it, are not known; empty when they are.
     std::string reason;
-    std::vector<MotionFlag> flags; ///< what has to be known about the figures
-    double drift = 0;              ///< of the recorder's clock against the video's; 0.001 is 0.1 %
+    std::vector<MotionFlag> flags;  ///< what has to be known about the figures
+    std::vector<std::string> notes; ///< the same as sentences
+    bool isBowKnown = true;         ///< else the hands of the strokes are not known, and more
+    double drift = 0;               ///< of the recorder's clock against the video's; 0.001 is 0.1 %
     std::vector<RunStroke> strokes;
     std::vector<RunTurn> turns;
     std::vector<TimedValue> speed;       ///< ten a second, or those of the fixes; m/s

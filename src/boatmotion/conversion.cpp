@@ -45,6 +45,7 @@ std::optional<smartAlldata_v4> processed(const fs::path& source, const Diagnosti
         result.strokes = analysis.strokes.size();
         result.turns = analysis.turns.size();
         result.flags = analysis.flags;
+        result.notes = notesOf(analysis);
         return processedSession(session, analysis);
     } catch (const FileError& error) {
         result.detail = error.what();

@@ -43,6 +43,7 @@ struct Conversion {
     std::size_t strokes = 0;
     std::size_t turns = 0;
     std::vector<MotionFlag> flags;
+    std::vector<std::string> notes; ///< what has to be known about the figures, as sentences
 
     /// What the user is told: the words above, or for an existing target that it exists.
     [[nodiscard]] std::string message() const;

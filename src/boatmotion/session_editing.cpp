@@ -30,6 +30,15 @@ std::vector<double> marksOf(const std::vector<smartBMdata_v4>& entries) {
     return marks;
 }
 
+/// Sessions that were made without knowing the bow tell no hand of any stroke.
+bool isBowKnown(const std::vector<smartBMdata_v4>& entries) {
+    const auto isStroke = [](const smartBMdata_v4& entry) { return entry.stroke.strokeRate > 0; };
+    return std::ranges::none_of(entries, isStroke) ||
+           std::ranges::any_of(entries, [&](const smartBMdata_v4& entry) {
+               return isStroke(entry) && entry.stroke.hand != UnknownHand;
+           });
+}
+
 template <class Sample, class MomentOf>
 void keep(std::vector<Sample>& samples, const IsKept& isKept, const MomentOf& momentOf) {
     std::erase_if(samples, [&](const Sample& sample) { return !isKept(momentOf(sample)); });
@@ -78,7 +87,9 @@ EditedSession editedSession(std::shared_ptr<const bmrawdata_v5> recording,
     edited.clockOffset = analysis.clockOffset;
     edited.watchOffset = analysis.usedWatch ? analysis.watchOffset : 0;
     edited.flags = analysis.flags;
-    edited.hasSpeed = analysis.hasSpeed;
+    edited.notes = notesOf(analysis);
+    edited.hasSpeed = analysis.hasForce();
+    edited.isBowKnown = analysis.isBowKnown;
     return edited;
 }
 
@@ -87,6 +98,7 @@ EditedSession editedSession(smartAlldata_v4 session) {
     const SessionClock clock = clockOf(session);
     edited.clockOffset = clock.offset;
     edited.isClockGuessed = clock.isGuessed;
+    edited.isBowKnown = isBowKnown(session.strokesData);
     edited.session = std::move(session);
     EditedSession marked = edited;
     setMarks(marked, marksOf(edited.session.strokesData));

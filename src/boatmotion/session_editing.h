@@ -22,7 +22,11 @@ struct EditedSession {
     double watchOffset = 0;                   ///< moment = stamp of the watch + watchOffset
     std::vector<powermeterData> powerMeter{}; ///< `dateDouble` is a moment; not in the session yet
     std::vector<MotionFlag> flags{};
-    bool hasSpeed = true; ///< else force, impulse and power are not known
+    std::vector<std::string> notes{}; ///< what has to be known about the figures, as sentences
+    bool hasSpeed = true;             ///< else force, impulse and power are not known
+    /// Else much is not known of strokes and turns, see MotionAnalysis::isBowKnown. In a session
+    /// that was read it is known when any stroke has a hand.
+    bool isBowKnown = true;
 };
 
 /// The session of an analysed recording.

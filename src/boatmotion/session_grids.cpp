@@ -1,4 +1,5 @@
 #include "boatmotion/session_table.h"
+#include "boatmotion/strokes/stroke_table.h"
 #include "common/number_text.h"
 
 #include <cmath>
@@ -14,6 +15,10 @@ constexpr double LargestRounded = 1e11; // has no place for four decimals
 
 Cell cell(std::optional<double> value) {
     return value ? Cell(*value) : Cell();
+}
+
+Cell cellIf(bool isKnown, double value) {
+    return isKnown ? Cell(value) : Cell();
 }
 
 /// 0 stands for what is not known.
@@ -38,13 +43,16 @@ SessionGrid::Row strokeRow(const EditedSession& edited, const SessionFigures& fi
                            const StrokeFigures& stroke) {
     const smartBMdata_v4& entry = edited.session.strokesData[stroke.entry];
     const smartStraight_v3& values = entry.stroke;
+    const bool hasBow = edited.isBowKnown;
+    const std::string hand(handText(values.hand));
     return {stroke.time,
             stroke.entry,
             {stroke.time - figures.moments.from, static_cast<double>(entry.segment),
-             std::string(values.hand == 0 ? "left" : "right"), stroke.rate, values.strokeRate,
-             cell(stroke.force), cell(stroke.impulse), cell(stroke.power), values.waterPhase,
-             values.aerealPhase, values.aveAcce, values.maxAcce, values.aveDecce,
-             values.roll * DegreesPerRadian, cell(stroke.speed), cell(stroke.way),
+             hand.empty() ? Cell() : Cell(hand), stroke.rate, values.strokeRate, cell(stroke.force),
+             cell(stroke.impulse), cell(stroke.power), cellIf(hasBow, values.waterPhase),
+             cellIf(hasBow, values.aerealPhase), cellIf(hasBow, values.aveAcce),
+             cellIf(hasBow, values.maxAcce), cellIf(hasBow, values.aveDecce),
+             cellIf(hasBow, values.roll * DegreesPerRadian), cell(stroke.speed), cell(stroke.way),
              cell(stroke.heartRate)}};
 }
 
@@ -52,14 +60,16 @@ SessionGrid::Row turnRow(const EditedSession& edited, const SessionFigures& figu
                          const TurnFigures& turn, std::size_t number) {
     const smartBMdata_v4& entry = edited.session.strokesData[turn.entry];
     const smartRotation& values = entry.rotation;
+    const bool hasBow = edited.isBowKnown;
     return {turn.time,
             turn.entry,
             {static_cast<double>(number), turn.time - figures.moments.from,
              static_cast<double>(entry.segment), values.rotationTime,
              values.rotationTime * values.aveRotSpeed * DegreesPerRadian,
              values.rotSpeedPeak * DegreesPerRadian, values.aveRotSpeed * DegreesPerRadian,
-             values.pushOutPeak, values.pushOutAve, values.aveRoll * DegreesPerRadian,
-             values.avePitch * DegreesPerRadian, cell(turn.heartRate)}};
+             cellIf(hasBow, values.pushOutPeak), cellIf(hasBow, values.pushOutAve),
+             cellIf(hasBow, values.aveRoll * DegreesPerRadian),
+             cellIf(hasBow, values.avePitch * DegreesPerRadian), cell(turn.heartRate)}};
 }
 
 } // namespace

@@ -40,7 +40,7 @@ struct SideFigures {
     std::optional<double> force{};
     std::optional<double> impulse{};
     std::optional<double> power{};
-    double waterPhase = 0; ///< s
+    double waterPhase = 0; ///< s; 0 without strokes
 };
 
 /// What happened from one moment to another; means over the strokes.

@@ -29,8 +29,8 @@ bool convert(const std::string& file, const std::filesystem::path& target) {
         logLine("Give another name with --name.");
     if (conversion.outcome != ConversionOutcome::Saved)
         return false;
-    for (const MotionFlag flag : conversion.flags)
-        logLine(textOf(flag));
+    for (const std::string& note : conversion.notes)
+        logLine(note);
     logLine(conversion.message());
     return print(summary(conversion));
 }

@@ -31,15 +31,18 @@ std::string headings(std::initializer_list<const char*> names) {
 std::string strokeLine(const MotionAnalysis& analysis, std::size_t index) {
     const Stroke& stroke = analysis.strokes[index];
     const smartStraight_v3& values = stroke.values;
-    const bool isKnown = analysis.hasSpeed;
+    const bool hasSpeed = analysis.hasSpeed;
+    const bool hasBow = analysis.isBowKnown;
+    const bool hasForce = analysis.hasForce();
+    const std::string_view hand = handText(values.hand);
     return cell(stroke.catchTime - analysis.series.time.front(), 2) +
-           rightAligned(values.hand == 0 ? "left" : "right", Width) +
-           cell(analysis.strokeRates[index], 1) + cell(values.waterPhase, 2) +
-           cell(values.aerealPhase, 2) + cell(values.maxAcce, 2) + cell(values.aveDecce, 2) +
-           cellIf(isKnown, values.force, 0) + cellIf(isKnown, values.impulse, 1) +
-           cellIf(isKnown, values.power, 0) + cellIf(isKnown, stroke.speed, 2) +
-           cellIf(isKnown, stroke.efficiency.value_or(0), 2) + cell(values.roll * Degrees, 1) +
-           '\n' + (stroke.endOfBout ? "\n" : "");
+           rightAligned(hand.empty() ? "–" : std::string(hand), Width) +
+           cell(analysis.strokeRates[index], 1) + cellIf(hasBow, values.waterPhase, 2) +
+           cellIf(hasBow, values.aerealPhase, 2) + cellIf(hasBow, values.maxAcce, 2) +
+           cellIf(hasBow, values.aveDecce, 2) + cellIf(hasForce, values.force, 0) +
+           cellIf(hasForce, values.impulse, 1) + cellIf(hasForce, values.power, 0) +
+           cellIf(hasSpeed, stroke.speed, 2) + cellIf(hasSpeed, stroke.efficiency.value_or(0), 2) +
+           cellIf(hasBow, values.roll * Degrees, 1) + '\n' + (stroke.endOfBout ? "\n" : "");
 }
 
 std::string strokeTable(const MotionAnalysis& analysis) {
@@ -57,16 +60,18 @@ std::string strokeTable(const MotionAnalysis& analysis) {
 std::string turnTable(const MotionAnalysis& analysis) {
     if (analysis.turns.empty())
         return {};
+    const bool hasBow = analysis.isBowKnown;
     std::string table =
         headings({"Turn", "Time", "Angle", "Peak", "Mean", "Push-out", "Mean", "Lean", "Pitch"}) +
         headings({"s", "s", "°", "°/s", "°/s", "m/s²", "m/s²", "°", "°"});
     for (const Turn& turn : analysis.turns)
-        table += cell(turn.start - analysis.series.time.front(), 2) +
-                 cell(turn.values.rotationTime, 2) + cell(turn.angle * Degrees, 0) +
-                 cell(turn.values.rotSpeedPeak * Degrees, 0) +
-                 cell(turn.values.aveRotSpeed * Degrees, 0) + cell(turn.values.pushOutPeak, 2) +
-                 cell(turn.values.pushOutAve, 2) + cell(turn.values.aveRoll * Degrees, 1) +
-                 cell(turn.values.avePitch * Degrees, 1) + '\n';
+        table +=
+            cell(turn.start - analysis.series.time.front(), 2) + cell(turn.values.rotationTime, 2) +
+            cell(turn.angle * Degrees, 0) + cell(turn.values.rotSpeedPeak * Degrees, 0) +
+            cell(turn.values.aveRotSpeed * Degrees, 0) +
+            cellIf(hasBow, turn.values.pushOutPeak, 2) + cellIf(hasBow, turn.values.pushOutAve, 2) +
+            cellIf(hasBow, turn.values.aveRoll * Degrees, 1) +
+            cellIf(hasBow, turn.values.avePitch * Degrees, 1) + '\n';
     return table + '\n';
 }
 
@@ -84,15 +89,21 @@ std::string count(std::size_t value) {
     return std::to_string(value);
 }
 
+/// How many strokes, of which hand, in how many bouts.
+std::string strokeCounts(const SessionTotals& totals) {
+    const std::string sides = totals.left && totals.right ? count(*totals.left) + " left, " +
+                                                                count(*totals.right) + " right"
+                                                          : std::string("left or right not known");
+    return count(totals.strokes) + ": " + sides + ", in " +
+           counted(static_cast<std::int64_t>(totals.bouts), "bout", "bouts");
+}
+
 } // namespace
 
 std::string strokesText(const MotionAnalysis& analysis, const MotionProfile& profile) {
     const SessionTotals totals = totalsOf(analysis);
     return strokeTable(analysis) + turnTable(analysis) +
-           totalLine("Strokes",
-                     count(totals.strokes) + ": " + count(totals.left) + " left, " +
-                         count(totals.right) + " right, in " +
-                         counted(static_cast<std::int64_t>(totals.bouts), "bout", "bouts")) +
+           totalLine("Strokes", strokeCounts(totals)) +
            totalLine("Turns", count(analysis.turns.size()) + ": " + count(totals.leftTurns) +
                                   " left, " + count(totals.rightTurns) + " right") +
            totalLine("Time", fmt::format("{:.1f} s", totals.seconds)) +
@@ -100,7 +111,7 @@ std::string strokesText(const MotionAnalysis& analysis, const MotionProfile& pro
            totalIf("Mean speed", totals.meanSpeed, 2, "m/s") +
            totalIf("Top speed", totals.topSpeed, 2, "m/s") +
            totalLine("Median rate", fmt::format("{:.1f} 1/min", totals.medianRate)) +
-           totalLine("Mean water phase", fmt::format("{:.2f} s", totals.waterPhase)) +
+           totalIf("Mean water phase", totals.waterPhase, 2, "s") +
            totalIf("Mean force", totals.force, 0, "N") +
            totalIf("Mean impulse", totals.impulse, 1, "N·s") +
            totalIf("Mean power", totals.power, 0, "W") +

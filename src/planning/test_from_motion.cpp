@@ -51,10 +51,11 @@ void addStroke(testStruct& test, const MotionAnalysis& motion, std::size_t index
     test.maxAcce.push_back(values.maxAcce);
     test.aveAcce.push_back(values.aveAcce);
     test.avedeacce.push_back(values.aveDecce);
-    test.maxForce.push_back(motion.hasSpeed ? std::max(extremeOf(series.force, water, true), 0.0)
-                                            : 0);
+    test.maxForce.push_back(motion.hasForce() ? std::max(extremeOf(series.force, water, true), 0.0)
+                                              : 0);
     test.impulses.push_back(values.impulse);
-    test.maxAcceNeg.push_back(std::min(extremeOf(series.forward, cycle, false), 0.0));
+    test.maxAcceNeg.push_back(
+        motion.isBowKnown ? std::min(extremeOf(series.forward, cycle, false), 0.0) : 0);
     test.pow.push_back(values.power);
     test.waterPhase.push_back(values.waterPhase);
     test.airPhase.push_back(values.aerealPhase);

@@ -1,5 +1,6 @@
 #include "boatmotion/hand_made_recording.h"
 #include "boatmotion/stroke_scoring.h"
+#include "boatmotion/strokes/stroke_table.h"
 
 #include <gmock/gmock.h>
 
@@ -9,8 +10,10 @@ namespace kavela::test {
 
 namespace {
 
+using testing::Contains;
 using testing::DoubleNear;
 using testing::Each;
+using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::Not;
 
@@ -125,7 +128,30 @@ TEST(Strokes, WithoutFixesOnlySpeedAndForceAreUnknown) {
         EXPECT_EQ(stroke.values.power, 0);
         EXPECT_FALSE(stroke.efficiency);
     }
-    EXPECT_TRUE(analysed(truth.session, std::nullopt).has(MotionFlag::UnknownMount));
+}
+
+TEST(Strokes, WithoutFixesAndMountTheBowAndWhatHangsOnItAreUnknown) {
+    const Simulation truth = simulate({.seed = 84, .style = Style::Slalom, .hasPosition = false});
+    const MotionAnalysis analysis = analysed(truth.session, std::nullopt);
+    EXPECT_TRUE(analysis.has(MotionFlag::UnknownMount));
+    EXPECT_FALSE(analysis.isBowKnown);
+    EXPECT_FALSE(analysis.hasForce());
+    EXPECT_NEAR(static_cast<double>(analysis.strokes.size()),
+                static_cast<double>(truth.strokes.size()), 6)
+        << "that there are strokes is known";
+    for (const Stroke& stroke : analysis.strokes) {
+        EXPECT_EQ(stroke.values.hand, UnknownHand);
+        EXPECT_GT(stroke.values.strokeRate, 0);
+        EXPECT_EQ(stroke.values.waterPhase, 0);
+        EXPECT_EQ(stroke.confidence, 0);
+    }
+    ASSERT_THAT(analysis.turns, Not(IsEmpty()));
+    EXPECT_EQ(analysis.turns.front().values.aveRoll, 0) << "inside and outside may be swapped";
+    EXPECT_GT(analysis.turns.front().values.rotSpeedPeak, 0.5);
+    const SessionTotals totals = totalsOf(analysis);
+    EXPECT_EQ(totals.left, std::nullopt);
+    EXPECT_EQ(totals.waterPhase, std::nullopt);
+    EXPECT_THAT(notesOf(analysis), Contains(HasSubstr("until you name it")));
 }
 
 TEST(Strokes, ValuesAreThoseOfTheirDefinitions) {

@@ -47,7 +47,7 @@ std::optional<Glide> glideWithin(const MotionSeries& series, double from, double
 } // namespace
 
 std::optional<DragCalibration> calibrateDrag(const MotionAnalysis& analysis, double mass) {
-    if (!analysis.hasSpeed)
+    if (!analysis.hasForce())
         return std::nullopt;
     const MotionSeries& series = analysis.series;
     DragCalibration result;

@@ -7,6 +7,7 @@
 #include "boatmotion/strokes/speed.h"
 #include "boatmotion/strokes/stroke_values.h"
 #include "boatmotion/strokes/turns.h"
+#include "boatmotion/strokes/unknown_bow.h"
 #include "boatmotion/strokes/watch.h"
 
 #include <algorithm>
@@ -142,29 +143,6 @@ MotionProfile profileOf(const infoathlete_v5& athlete) {
     return profile;
 }
 
-std::string_view textOf(MotionFlag flag) {
-    switch (flag) {
-    case MotionFlag::NoPosition:
-        return "There are no usable position fixes: speed, force, impulse and power are not known, "
-               "and waves at rest may count as strokes.";
-    case MotionFlag::UnknownMount:
-        return "Neither fixes nor settings tell which side of the phone points to the bow: front "
-               "and back may be swapped.";
-    case MotionFlag::MountAssumed:
-        return "The fixes do not tell where the bow is: the mount of the settings was used.";
-    case MotionFlag::WatchIgnored:
-        return "The watch does not fit the boat's motion and was ignored.";
-    case MotionFlag::HasHoles:
-        return "Samples of the boat are missing for a while; strokes there are not found.";
-    case MotionFlag::GravityRebuilt:
-        return "The samples have no gravity; it was rebuilt from the attitude.";
-    case MotionFlag::GuessedClocks:
-        return "The recording's date does not fit its fixes; fixes and motion were taken to begin "
-               "together.";
-    }
-    return {};
-}
-
 bool MotionAnalysis::has(MotionFlag flag) const {
     return std::find(flags.begin(), flags.end(), flag) != flags.end();
 }
@@ -205,6 +183,9 @@ MotionAnalysis analyseMotion(const MotionSamples& samples, const MotionProfile& 
     fillForce(motion.forward6, profile, series);
     findStrokes(samples.watch, profile, motion, analysis);
     analysis.turns = findTurns(series, motion.yaw3, profile);
+    analysis.isBowKnown = bow.isKnown;
+    if (!analysis.isBowKnown)
+        withholdWhatNeedsTheBow(analysis);
     return analysis;
 }
 

@@ -46,7 +46,15 @@ struct MotionProfile {
 /// the discipline begins with a "C". The rest is as in a new profile.
 [[nodiscard]] MotionProfile profileOf(const infoathlete_v5& athlete);
 
-/// One stroke. Of `values`, force, impulse and power are 0 where the speed is not known.
+/// What `smartStraight_v3::hand` holds in an analysis, and in a session made of one. A session from
+/// elsewhere may hold any number: what is neither left nor right is not known.
+inline constexpr std::int64_t LeftHand = 0;
+inline constexpr std::int64_t RightHand = 1;
+inline constexpr std::int64_t UnknownHand = -1;
+
+/// One stroke. Of `values`, force, impulse and power are 0 where they are not known, see
+/// MotionAnalysis::hasForce(); much more is where it is not known which end is the bow, see
+/// MotionAnalysis::isBowKnown.
 struct Stroke {
     double catchTime = 0; ///< the blade begins to pull, s
     double exitTime = 0;  ///< the blade leaves the water, s
@@ -57,7 +65,7 @@ struct Stroke {
     /// aveDecce m/s²: mean forward acceleration of the aerial phase, normally below 0;
     /// impulse N·s: ∫ max(F, 0) dt over the water phase, F = mass·a + drag·v²;
     /// force N: impulse / waterPhase; power W: ∫ max(F, 0)·v dt of the water phase / cycle;
-    /// roll rad: greatest |roll| of the water phase; hand: 0 left, 1 right.
+    /// roll rad: greatest |roll| of the water phase; hand: LeftHand, RightHand or UnknownHand.
     smartStraight_v3 values;
     double cycle = 0;      ///< to the next catch, s; at the end of a bout that of the stroke before
     double confidence = 0; ///< in the hand, 0 to 1
@@ -102,6 +110,7 @@ enum class MotionFlag {
     UnknownMount, ///< neither fixes nor the profile tell where the bow is: front and back may swap
     MountAssumed, ///< fixes do not tell where the bow is; the profile's mount was used
     WatchIgnored, ///< the watch does not fit the boat's samples
+    PhoneSlipped, ///< the phone moved in its mount, see MotionAnalysis::slips
     HasHoles,     ///< samples are missing for more than 0.3 s at least once
     GravityRebuilt, ///< gravity was missing and was rebuilt from the attitude
     GuessedClocks,  ///< the first fix was put on the first sample, for want of a believable date
@@ -109,6 +118,12 @@ enum class MotionFlag {
 
 /// The flag as a sentence for people.
 [[nodiscard]] std::string_view textOf(MotionFlag flag);
+
+/// The phone moved in its mount. What came before and after is analysed with a mount of its own.
+struct PhoneSlip {
+    double time = 0;  ///< s; within some seconds
+    double angle = 0; ///< by how much it turned, rad, above 0
+};
 
 struct MotionAnalysis {
     MotionSeries series;
@@ -118,7 +133,19 @@ struct MotionAnalysis {
     /// A single stroke's rate is a few percent off; this is the one to show.
     std::vector<double> strokeRates;
     std::vector<MotionFlag> flags;
-    bool hasSpeed = false;   ///< else speed, force, impulse and power are not known
+    std::vector<PhoneSlip> slips; ///< by time
+    bool hasSpeed = false;        ///< else speed, force, impulse and power are not known
+    /// False together with MotionFlag::UnknownMount: front and back, and with them left and right,
+    /// may be swapped, and a stroke may be taken for the pause between two. Then
+    /// - known are: that there are strokes and how many, their rate, cycle, speed and metres; turns
+    ///   with their moments, angle and yaw rates; speed and distance;
+    /// - not known are, of a stroke: hand (UnknownHand) and confidence, force, impulse, power, both
+    ///   phases, the three accelerations, roll, all 0, and whether it steers (false); catch, exit
+    ///   and peak tell the stroke up to half a cycle early or late;
+    /// - of a turn: pushOutPeak, pushOutAve, aveRoll and avePitch, all 0;
+    /// - of the series: the signs of forward, roll and pitch, and the force.
+    /// Show a dash for these, never the 0.
+    bool isBowKnown = true;
     double clockOffset = 0;  ///< date = moment + clockOffset, in seconds since 2001
     double fixLag = 0;       ///< how late the fixes are, s
     double bowCertainty = 0; ///< share of the fixes' speed changes that the bow axis explains, 0-1
@@ -126,7 +153,13 @@ struct MotionAnalysis {
     bool usedWatch = false;
 
     [[nodiscard]] bool has(MotionFlag flag) const;
+    /// Whether force, impulse and power are known.
+    [[nodiscard]] bool hasForce() const { return hasSpeed && isBowKnown; }
 };
+
+/// What a coach has to know about the figures, as sentences: those of the flags, and for each slip
+/// of the phone when it was, from the first sample, and by how much.
+[[nodiscard]] std::vector<std::string> notesOf(const MotionAnalysis& analysis);
 
 /// A recording that cannot be analysed.
 class MotionError : public std::runtime_error {

@@ -57,7 +57,7 @@ Sprint sprintBetween(const MotionAnalysis& analysis, double start, double end) {
     for (std::size_t i = first; i < last; ++i)
         rates.push_back(analysis.strokes[i].values.strokeRate);
     sprint.medianRate = percentileOf(rates, 0.5);
-    if (analysis.hasSpeed)
+    if (analysis.hasForce())
         measurePower(analysis, workUpTo(analysis.series), sprint);
     return sprint;
 }
@@ -86,7 +86,7 @@ std::optional<Sprint> bestSprint(const MotionAnalysis& analysis) {
         const auto [first, last] = valuesBetween(analysis.series, start, start + SprintSeconds);
         const auto [from, to] = strokesBetween(analysis, start, start + SprintSeconds);
         const double value =
-            analysis.hasSpeed ? work[last] - work[first] : static_cast<double>(to - from);
+            analysis.hasForce() ? work[last] - work[first] : static_cast<double>(to - from);
         if (value > most) {
             most = value;
             best = i;

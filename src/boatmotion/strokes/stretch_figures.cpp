@@ -57,7 +57,7 @@ StretchFigures StretchSums::figures() const {
     result.distance = m_distance;
     if (m_moving > 0)
         result.speed = m_distance / m_moving;
-    if (m_sums.strokes > 0) {
+    if (m_sums.strokes > 0 && m_analysis.isBowKnown) {
         result.force = m_force / count;
         result.power = m_power / count;
         result.impulse = m_impulse / count;

@@ -29,7 +29,7 @@ public:
         return *this;
     }
     Line& numberIf(bool isKnown, double value) { return isKnown ? number(value) : text(""); }
-    Line& text(const char* value) {
+    Line& text(std::string_view value) {
         m_text += ';';
         m_text += value;
         return *this;
@@ -48,33 +48,37 @@ std::string strokeLine(const MotionAnalysis& analysis, std::size_t index) {
     const Stroke& stroke = analysis.strokes[index];
     const smartStraight_v3& values = stroke.values;
     const double start = analysis.series.time.front();
-    const bool isKnown = analysis.hasSpeed;
+    const bool hasBow = analysis.isBowKnown;
+    const bool hasForce = analysis.hasForce();
     return Line("stroke")
         .number(stroke.catchTime - start)
         .number(stroke.exitTime - start)
-        .text(values.hand == 0 ? "left" : "right")
-        .number(stroke.confidence)
+        .text(handText(values.hand))
+        .numberIf(hasBow, stroke.confidence)
         .number(values.strokeRate)
         .number(analysis.strokeRates[index])
-        .number(values.waterPhase)
-        .number(values.aerealPhase)
-        .number(values.aveAcce)
-        .number(values.maxAcce)
-        .number(values.aveDecce)
-        .numberIf(isKnown, values.force)
-        .numberIf(isKnown, values.impulse)
-        .numberIf(isKnown, values.power)
-        .numberIf(isKnown, stroke.speed)
-        .numberIf(isKnown, stroke.efficiency.value_or(0))
-        .number(values.roll * Degrees)
+        .numberIf(hasBow, values.waterPhase)
+        .numberIf(hasBow, values.aerealPhase)
+        .numberIf(hasBow, values.aveAcce)
+        .numberIf(hasBow, values.maxAcce)
+        .numberIf(hasBow, values.aveDecce)
+        .numberIf(hasForce, values.force)
+        .numberIf(hasForce, values.impulse)
+        .numberIf(hasForce, values.power)
+        .numberIf(analysis.hasSpeed, stroke.speed)
+        .numberIf(analysis.hasSpeed, stroke.efficiency.value_or(0))
+        .numberIf(hasBow, values.roll * Degrees)
         .text(stroke.endOfBout ? "yes" : "no")
-        .text(stroke.steering ? "yes" : "no")
+        .text(!hasBow           ? ""
+              : stroke.steering ? "yes"
+                                : "no")
         .empty(7)
         .done();
 }
 
 std::string turnLine(const MotionAnalysis& analysis, const Turn& turn) {
     const double start = analysis.series.time.front();
+    const bool hasBow = analysis.isBowKnown;
     return Line("turn")
         .number(turn.start - start)
         .number(turn.end - start)
@@ -82,14 +86,18 @@ std::string turnLine(const MotionAnalysis& analysis, const Turn& turn) {
         .number(turn.angle * Degrees)
         .number(turn.values.rotSpeedPeak * Degrees)
         .number(turn.values.aveRotSpeed * Degrees)
-        .number(turn.values.pushOutPeak)
-        .number(turn.values.pushOutAve)
-        .number(turn.values.aveRoll * Degrees)
-        .number(turn.values.avePitch * Degrees)
+        .numberIf(hasBow, turn.values.pushOutPeak)
+        .numberIf(hasBow, turn.values.pushOutAve)
+        .numberIf(hasBow, turn.values.aveRoll * Degrees)
+        .numberIf(hasBow, turn.values.avePitch * Degrees)
         .done();
 }
 
 } // namespace
+
+std::string_view handText(std::int64_t hand) {
+    return hand == LeftHand ? "left" : hand == RightHand ? "right" : "";
+}
 
 SessionTotals totalsOf(const MotionAnalysis& analysis) {
     const std::vector<double>& time = analysis.series.time;
@@ -98,11 +106,19 @@ SessionTotals totalsOf(const MotionAnalysis& analysis) {
     totals.seconds = time.back() - time.front();
     totals.strokes = analysis.strokes.size();
     std::vector<double> rates;
+    double waterPhases = 0;
+    std::size_t left = 0;
     for (const Stroke& stroke : analysis.strokes) {
-        (stroke.values.hand == 0 ? totals.left : totals.right) += 1;
+        left += stroke.values.hand == LeftHand;
         totals.bouts += stroke.endOfBout;
-        totals.waterPhase += stroke.values.waterPhase / static_cast<double>(totals.strokes);
+        waterPhases += stroke.values.waterPhase;
         rates.push_back(stroke.values.strokeRate);
+    }
+    if (analysis.isBowKnown) {
+        totals.left = left;
+        totals.right = totals.strokes - left;
+        if (totals.strokes > 0)
+            totals.waterPhase = waterPhases / static_cast<double>(totals.strokes);
     }
     totals.medianRate = strokes::percentileOf(rates, 0.5);
     for (const Turn& turn : analysis.turns)

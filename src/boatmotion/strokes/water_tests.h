@@ -85,7 +85,7 @@ struct Sprint {
 };
 
 /// The sprint of 30 s that begins with a catch: that of the stroke with this index, or the one with
-/// the highest mean power (the most strokes where the speed is not known). Nothing when there are
+/// the highest mean power (the most strokes where the power is not known). Nothing when there are
 /// no strokes, the stroke is none of the analysis, or fewer than 5 s follow it.
 [[nodiscard]] std::optional<Sprint> sprintFrom(const MotionAnalysis& analysis, std::size_t stroke);
 [[nodiscard]] std::optional<Sprint> bestSprint(const MotionAnalysis& analysis);
