@@ -4,6 +4,7 @@
 #include "boatmotion/strokes/stroke_table.h"
 #include "cli/console.h"
 #include "cli/strokes_json.h"
+#include "cli/strokes_profile.h"
 #include "cli/strokes_text.h"
 #include "common/safe_file.h"
 
@@ -20,6 +21,7 @@ namespace fs = std::filesystem;
 struct StrokesCall {
     std::string file;
     std::string csv;
+    StrokesProfile profile;
     bool json = false;
 };
 
@@ -45,10 +47,10 @@ int showStrokes(const StrokesCall& call) {
     }
     try {
         const bmrawdata_v5 session = readRawSession(call.file);
-        const MotionProfile profile = profileOf(session.athleteinfo);
+        const MotionProfile profile = call.profile.over(profileOf(session.athleteinfo));
         const MotionAnalysis analysis = analyseMotion(session, profile);
-        for (const MotionFlag flag : analysis.flags)
-            logLine(textOf(flag));
+        for (const std::string& note : notesOf(analysis))
+            logLine(note);
         const bool isWritten = writeTable(analysis, call.csv);
         const bool isPrinted =
             print(call.json ? strokesJson(analysis, profile) : strokesText(analysis, profile));
@@ -70,9 +72,11 @@ void addStrokes(CLI::App& app, int& status) {
     command->add_option("FILE", call->file, "Raw recording (.kvb)")->required();
     command->add_flag("--json", call->json, "Print one JSON document");
     command->add_option("--csv", call->csv, "File to write: semicolon-separated text");
+    addProfileOptions(*command, call->profile);
     command->footer(
         "The recording is only read. Phases, force and power are estimates from the "
-        "hull's motion; the mass is the recorded athlete's with 13 kg of boat and kit.");
+        "hull's motion. Without other word the mass is the recorded athlete's with 13 kg of boat "
+        "and kit, the boat that of the recorded discipline.");
     command->callback([call, &status] { status = showStrokes(*call); });
 }
 

@@ -88,9 +88,45 @@ TEST_F(RecordingCalls, ShowWhatIsNotKnownAsSuch) {
     const json shown = json::parse(ending.output);
     EXPECT_EQ(shown["notes"].size(), 3U) << shown["notes"] << " fixes, mount, holes";
     EXPECT_EQ(shown["strokes"][0]["power"], nullptr);
+    EXPECT_EQ(shown["strokes"][0]["hand"], nullptr);
+    EXPECT_EQ(shown["strokes"][0]["waterPhase"], nullptr);
+    EXPECT_EQ(shown["turns"][0]["aveRoll"], nullptr);
+    EXPECT_EQ(shown["totals"]["left"], nullptr);
     EXPECT_EQ(shown["totals"]["distance"], nullptr);
     EXPECT_THAT(content("run.csv"), HasSubstr(";;;;;"));
-    EXPECT_THAT(call({"strokes", "run.kvb"}).output, HasSubstr("Distance            –\n"));
+    EXPECT_THAT(content("run.csv"), Not(HasSubstr("left")));
+    const std::string text = call({"strokes", "run.kvb"}).output;
+    EXPECT_THAT(text, HasSubstr("Distance            –\n"));
+    EXPECT_THAT(text, HasSubstr(": left or right not known, in "));
+}
+
+TEST_F(RecordingCalls, TakeTheCoachsWordForBoatAndPhone) {
+    addRun("run.kvb", false);
+    const Ending ending = call({"strokes", "run.kvb", "--json", "--bow", "Top", "--mass", "82,5",
+                                "--drag", "4.2", "--boat", "C1"});
+    EXPECT_EQ(ending.status, 0) << ending.errors;
+    const json shown = json::parse(ending.output);
+    EXPECT_EQ(shown["profile"], json::parse(R"({"mass":82.5,"drag":4.2,"boat":"canoe"})"));
+    EXPECT_TRUE(shown["isBowKnown"]);
+    EXPECT_TRUE(shown["strokes"][0]["hand"].is_number());
+    EXPECT_TRUE(shown["strokes"][0]["waterPhase"].is_number());
+    EXPECT_EQ(shown["strokes"][0]["power"], nullptr) << "there are no fixes";
+    const std::pair<std::vector<std::string>, const char*> refusals[] = {
+        {{"--bow", "stern"}, "\"stern\" is none of: top, bottom, right, left, back, screen."},
+        {{"--mass", "8"}, "\"8\" is no number from 20 to 300 kg."},
+        {{"--mass", "80 kg"}, "\"80 kg\" is no number from 20 to 300 kg."},
+        {{"--drag", "nan"}, "\"nan\" is no number from 0 to 50"},
+        {{"--boat", "raft"}, "\"raft\" is none of: k1, "},
+    };
+    for (const auto& [words, reason] : refusals) {
+        std::vector<std::string> arguments{"strokes", "run.kvb"};
+        arguments.insert(arguments.end(), words.begin(), words.end());
+        const Ending refused = call(arguments);
+        EXPECT_EQ(refused.status, 2) << words[1];
+        EXPECT_THAT(refused.errors, HasSubstr(words[0]));
+        EXPECT_THAT(refused.errors, HasSubstr(reason));
+        EXPECT_EQ(refused.output, "");
+    }
 }
 
 TEST_F(RecordingCalls, ConvertBesideTheRecordingAndNeverOverIt) {
