@@ -104,7 +104,8 @@ void fillForce(const std::vector<double>& forward6, const MotionProfile& profile
 
 void decideHandsWithWatch(const StrokeView& view, std::span<const WaterPhase> phases,
                           std::span<const watchmotiondata_v5> watch, MotionAnalysis& analysis) {
-    std::vector<double> scores = handScores(view, phases);
+    const HandEvidence seen = handEvidence(view, phases);
+    std::vector<double> scores = seen.scores;
     if (!watch.empty()) {
         if (auto evidence = watchEvidence(view, phases, scores, gridOf(watch))) {
             scores = std::move(evidence->scores);
@@ -114,7 +115,7 @@ void decideHandsWithWatch(const StrokeView& view, std::span<const WaterPhase> ph
             analysis.flags.push_back(MotionFlag::WatchIgnored);
         }
     }
-    decideHands(view, phases, scores, analysis.strokes);
+    decideHands(seen, scores, analysis.strokes);
 }
 
 void findStrokes(std::span<const watchmotiondata_v5> watch, const MotionProfile& profile,

@@ -1,0 +1,198 @@
+#include "boatmotion/strokes/side_measures.h"
+
+#include "boatmotion/strokes/filters.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+namespace kavela::strokes {
+
+namespace {
+
+constexpr std::size_t Course = 4;         // terms of the boat's own course, a cubic
+constexpr std::size_t Terms = Course + 3; // with the answers to this stroke and both neighbours
+constexpr std::size_t Own = Course;       // the term of this stroke
+constexpr double Reach = 0.5;             // of a cycle, before the catch and after the exit
+constexpr double LongestCycle = 1.6;      // s
+constexpr std::size_t LeastValues = 20;
+
+using Row = std::array<double, Terms>;
+
+/// The answer of a hull to one stroke.
+struct Answer {
+    std::size_t begin = 0; ///< index of the first value
+    std::vector<double> values;
+
+    [[nodiscard]] double at(std::size_t index) const {
+        return index >= begin && index - begin < values.size() ? values[index - begin] : 0;
+    }
+};
+
+/// What a hull does that follows the force of a stroke, at its height 1, and goes back at a speed.
+Answer answerTo(const StrokeView& view, const WaterPhase& phase, double speed) {
+    constexpr std::size_t Tail = 50; // 1 s
+    const std::span<const double> force = view.series.force;
+    Answer answer;
+    answer.begin = static_cast<std::size_t>(phase.catchAt);
+    const auto end = static_cast<std::size_t>(phase.exitAt) + 1;
+    const double base = std::min(force[answer.begin], force[std::min(end, force.size() - 1)]);
+    const double height = std::max(force[phase.peak] - base, 1e-6);
+    const double keep = std::exp(-speed * Step);
+    double value = 0;
+    for (std::size_t i = answer.begin; i < std::min(end + Tail, force.size()); ++i) {
+        const double push = i <= end ? std::clamp((force[i] - base) / height, 0.0, 1.0) : 0;
+        value = keep * value + (1 - keep) / speed * push;
+        answer.values.push_back(value);
+    }
+    return answer;
+}
+
+/// Sums of products for a fit by least squares.
+class Fit {
+public:
+    void add(const Row& row, double value) {
+        for (std::size_t r = 0; r < Terms; ++r) {
+            for (std::size_t c = 0; c <= r; ++c)
+                m_products[r][c] += row[r] * row[c];
+            m_with[r] += row[r] * value;
+        }
+        m_square += value * value;
+        ++m_count;
+    }
+
+    /// The factor of the stroke's own answer, and its error.
+    [[nodiscard]] Measure own(double& rest) {
+        if (m_count < LeastValues || !(m_products[Own][Own] > 1e-12))
+            return {};
+        // A little of each on the diagonal keeps what cannot be told apart from growing wild.
+        for (std::size_t r = 0; r < Terms; ++r)
+            m_products[r][r] = m_products[r][r] * (1 + 1e-6) + (r < Course ? 1e-9 : 1e-4);
+        decompose();
+        const Row factors = solved(m_with);
+        double explained = 0;
+        for (std::size_t r = 0; r < Terms; ++r)
+            explained += factors[r] * m_with[r];
+        rest = std::max(0.0, m_square - explained);
+        Row unit{};
+        unit[Own] = 1;
+        // Neighbouring values err together: a tenth of a second is about one independent value.
+        constexpr double Together = 5;
+        const double freedom = std::max(1.0, static_cast<double>(m_count) - Terms);
+        return {factors[Own], Together * solved(unit)[Own] * rest / freedom, true};
+    }
+
+private:
+    /// Cholesky, in place.
+    void decompose() {
+        for (std::size_t r = 0; r < Terms; ++r)
+            for (std::size_t c = 0; c <= r; ++c) {
+                double sum = m_products[r][c];
+                for (std::size_t k = 0; k < c; ++k)
+                    sum -= m_products[r][k] * m_products[c][k];
+                m_products[r][c] =
+                    r == c ? std::sqrt(std::max(sum, 1e-15)) : sum / m_products[c][c];
+            }
+    }
+    [[nodiscard]] Row solved(Row b) const {
+        for (std::size_t r = 0; r < Terms; ++r) {
+            for (std::size_t k = 0; k < r; ++k)
+                b[r] -= m_products[r][k] * b[k];
+            b[r] /= m_products[r][r];
+        }
+        for (std::size_t r = Terms; r-- > 0;) {
+            for (std::size_t k = r + 1; k < Terms; ++k)
+                b[r] -= m_products[k][r] * b[k];
+            b[r] /= m_products[r][r];
+        }
+        return b;
+    }
+
+    std::array<Row, Terms> m_products{};
+    Row m_with{};
+    double m_square = 0;
+    std::size_t m_count = 0;
+};
+
+class Measuring {
+public:
+    Measuring(const StrokeView& view, std::span<const WaterPhase> phases,
+              std::span<const double> series)
+        : m_view(view), m_phases(phases), m_series(series) {}
+
+    /// All strokes, for one speed of the answer; adds what stays unexplained to `rest`.
+    std::vector<Measure> measured(double speed, double& rest) const {
+        std::vector<Answer> answers;
+        for (const WaterPhase& phase : m_phases)
+            answers.push_back(answerTo(m_view, phase, speed));
+        std::vector<Measure> measures;
+        for (std::size_t i = 0; i < m_phases.size(); ++i) {
+            double own = 0;
+            measures.push_back(measure(answers, i, own));
+            rest += own;
+        }
+        return measures;
+    }
+
+private:
+    [[nodiscard]] Measure measure(const std::vector<Answer>& answers, std::size_t i,
+                                  double& rest) const {
+        static const Answer None;
+        const WaterPhase& phase = m_phases[i];
+        const double reach = Reach * cycleAround(i) * Rate;
+        const auto begin = static_cast<std::size_t>(std::max(0.0, phase.catchAt - reach));
+        const auto end =
+            std::min(static_cast<std::size_t>(phase.exitAt + reach) + 1, m_series.size());
+        const Answer& before = i > 0 ? answers[i - 1] : None;
+        const Answer& after = i + 1 < answers.size() ? answers[i + 1] : None;
+        const double middle = (static_cast<double>(begin) + static_cast<double>(end)) / 2;
+        const double half = (static_cast<double>(end) - static_cast<double>(begin)) / 2;
+        Fit fit;
+        for (std::size_t k = begin; k < end; ++k) {
+            if (!m_view.series.valid[k])
+                continue;
+            const double x = (static_cast<double>(k) - middle) / half;
+            fit.add({1, x, x * x - 1.0 / 3, x * (x * x - 0.6), answers[i].at(k), before.at(k),
+                     after.at(k)},
+                    m_series[k]);
+        }
+        return fit.own(rest);
+    }
+
+    /// Seconds from this stroke to the nearer of its neighbours.
+    [[nodiscard]] double cycleAround(std::size_t i) const {
+        double cycle = LongestCycle;
+        if (i > 0)
+            cycle = std::min(cycle, secondsBetween(i - 1, i));
+        if (i + 1 < m_phases.size())
+            cycle = std::min(cycle, secondsBetween(i, i + 1));
+        return cycle;
+    }
+    [[nodiscard]] double secondsBetween(std::size_t a, std::size_t b) const {
+        return m_view.series.time[m_phases[b].peak] - m_view.series.time[m_phases[a].peak];
+    }
+
+    const StrokeView& m_view;
+    std::span<const WaterPhase> m_phases;
+    std::span<const double> m_series;
+};
+
+} // namespace
+
+SideMeasures sideMeasures(const StrokeView& view, std::span<const WaterPhase> phases,
+                          std::span<const double> series, std::span<const double> answers) {
+    const Measuring measuring(view, phases, series);
+    SideMeasures best;
+    double least = HUGE_VAL;
+    for (const double answer : answers) {
+        double rest = 0;
+        std::vector<Measure> measures = measuring.measured(answer, rest);
+        if (rest < least) {
+            least = rest;
+            best = {std::move(measures), answer};
+        }
+    }
+    return best;
+}
+
+} // namespace kavela::strokes
