@@ -43,6 +43,8 @@ class Hull {
 public:
     Hull(const Scenario& scenario, Voyage& voyage, Chance& chance)
         : m_voyage(voyage),
+          m_habits(Habits::of(scenario)),
+          m_seconds(scenario.seconds),
           m_surge(surgeOf(scenario.sea), 0.25, 0.9, chance),
           m_rocking(0.006 + 0.12 * surgeOf(scenario.sea), 0.3, 0.9, chance),
           m_nodding(0.004 + 0.06 * surgeOf(scenario.sea), 0.3, 1.1, chance),
@@ -53,7 +55,12 @@ public:
           m_leanPerPull(chance.between(0.03, 0.07) * (chance.hits(0.7) ? 1 : -1)),
           m_bodySway(scenario.isHostile ? 0.25 : chance.between(0.02, 0.12)),
           m_swayPhase(chance.between(0, 2 * pi)) {
-        voyage.mass = 88;
+        m_yawArm *= m_habits.kick;
+        if (m_habits.lean != 0)
+            m_leanPerPull = m_habits.lean;
+        // A double is as heavy as two; its hull is longer.
+        m_yawInertia *= m_habits.crew > 1 ? 2.6 : 1;
+        voyage.mass = m_habits.crew > 1 ? 165 : 88;
         voyage.drag = 5;
         voyage.impulses.resize(voyage.plan.strokes.size());
         voyage.works.resize(voyage.plan.strokes.size());
@@ -93,11 +100,12 @@ private:
         if (m_next >= strokes.size())
             return {};
         const PlannedStroke& stroke = strokes[m_next];
-        const double force = stroke.force(time);
+        const double force = m_habits.crew * stroke.force(time);
         m_voyage.impulses[m_next] += force * Tick;
         m_voyage.works[m_next] += force * m_state.speed * Tick;
         const double phase = std::max(0.0, (time - stroke.begin) / stroke.water);
-        return {force, force / stroke.peak, stroke.hand == 0 ? 1.0 : -1.0, stroke.leverage, phase};
+        return {force, force / stroke.peak / m_habits.crew, stroke.hand == 0 ? 1.0 : -1.0,
+                stroke.leverage, phase};
     }
 
     double turnRateAt(double time) {
@@ -118,10 +126,9 @@ private:
     }
 
     void yaw(double time, const Blade& blade, double turnRate) {
-        constexpr double Decay = 2.6; // 1/s
         // The left blade pushes the bow to the right.
         const double torque = -blade.side * m_yawArm * blade.leverage * blade.force;
-        m_wobble += (torque / m_yawInertia - Decay * m_wobble) * Tick;
+        m_wobble += (torque / m_yawInertia - m_habits.yawDecay * m_wobble) * Tick;
         turn(2, m_wobble + turnRate + m_yawing.at(time));
         m_state.heading += m_state.rotation[2] * Tick;
     }
@@ -129,10 +136,11 @@ private:
     void tilt(double time, const Blade& blade, double turnRate) {
         // A paddler leans to the blade or away from it, and into turns; the hull follows late.
         const double lean = -m_leanPerPull * blade.side * blade.share - 0.12 * turnRate;
-        m_lean += (lean - m_lean) * Tick / 0.12;
+        m_lean += (lean - m_lean) * Tick / m_habits.leanDelay;
         const double nod = 0.012 * blade.share;
         m_nod += (nod - m_nod) * Tick / 0.15;
-        const double roll = m_lean + m_rocking.at(time);
+        const double drift = m_habits.rollDrift * std::sin(4 * time / m_seconds);
+        const double roll = m_lean + m_rocking.at(time) + drift;
         const double pitch = m_nod + m_nodding.at(time);
         turn(0, (roll - m_state.roll) / Tick);
         turn(1, -(pitch - m_state.pitch) / Tick); // about the left axis the bow goes down
@@ -146,6 +154,8 @@ private:
     }
 
     Voyage& m_voyage;
+    Habits m_habits;
+    double m_seconds;
     Waves m_surge;
     Waves m_rocking;
     Waves m_nodding;

@@ -26,6 +26,25 @@ private:
     std::mt19937_64 m_engine;
 };
 
+/// How paddlers, hulls and waters differ. What stands here is what all have who are not varied.
+struct Habits {
+    double kick = 1;         ///< times the usual arm of the blade
+    double yawDecay = 2.6;   ///< 1/s, of the kick in the water
+    double lean = 0;         ///< rad at full pull, above 0 to the blade; 0: by chance, as usual
+    double leanDelay = 0.12; ///< s
+    double repeats = 0.4;    ///< chance of the same hand again in a turn
+    double outside = 0;      ///< share of a turn's strokes that are made on its outside anyway
+    double sweep = 1.5;      ///< greatest leverage in a turn over the least one
+    double turnShape = 2;    ///< power of the sine that a turn's rate follows
+    double waterShare = 0.6; ///< of a cycle
+    double jitter = 0.15;    ///< of the cycles in slalom
+    double rollDrift = 0;    ///< rad, of the trim in the course of the recording
+    double ferrying = 0;     ///< share of the bouts that cross a current: turned aside, one-sided
+    double crew = 1;         ///< paddlers
+
+    [[nodiscard]] static Habits of(const Scenario& scenario);
+};
+
 /// One stroke as the paddler means it, on a time that begins with the recording.
 struct PlannedStroke {
     double begin = 0;
@@ -46,6 +65,7 @@ struct PlannedTurn {
     double begin = 0;
     double seconds = 0;
     double angle = 0;
+    double shape = 2; ///< see Habits::turnShape
 
     /// The yaw rate of the turn itself at a time.
     [[nodiscard]] double rate(double time) const;

@@ -64,7 +64,22 @@ public:
           m_place{chance.between(-0.6, 0.6), chance.between(-0.12, 0.12), chance.between(0, 0.2)},
           m_bias{chance.bell(0.006), chance.bell(0.006), chance.bell(0.006)},
           m_noise(scenario.noise),
-          m_chance(chance) {}
+          m_chance(chance) {
+        if (scenario.isVaried)
+            m_place[0] *= 1.6; // far from the middle of the boat
+    }
+
+    /// Turns about an axis of chance; what it feels turns with it.
+    void slip(double angle) {
+        const double half = angle / 2;
+        const Axes axis{m_chance.bell(1), m_chance.bell(1), m_chance.bell(1)};
+        const double size =
+            std::sin(half) / std::sqrt(axis[0] * axis[0] + axis[1] * axis[1] + axis[2] * axis[2]);
+        const Orientation turned =
+            fromQuaternion(std::cos(half), size * axis[0], size * axis[1], size * axis[2]);
+        for (Axes& row : m_orientation.device)
+            row = turned.toDevice(row);
+    }
 
     boatmotionrawdata_v5 sample(const BoatState& boat, double timestamp) {
         const Axes swing = cross(boat.rotation, cross(boat.rotation, m_place));
@@ -131,7 +146,7 @@ public:
         m_result.session.info = {{m_dateStart}, "Test water", "Training", "Simulated"};
         m_result.session.athleteinfo.name = "Ada Example";
         m_result.session.athleteinfo.discipline = m_scenario.isCanoe ? "C1W" : "K1W";
-        m_result.session.athleteinfo.weight = 75;
+        m_result.session.athleteinfo.weight = m_voyage.mass - 13;
         keepTruth();
         if (m_scenario.hasFaults)
             planGaps();
@@ -179,8 +194,14 @@ private:
     void recordBoat() {
         Phone phone(m_scenario, m_chance);
         auto& samples = m_result.session.boatmotion;
+        bool slips = m_scenario.slip != 0;
         for (std::size_t i = 0; i < m_voyage.states.size(); i += samplePace(i)) {
             const BoatState& state = m_voyage.states[i];
+            if (slips && state.time > m_scenario.seconds * 0.45) {
+                phone.slip(m_scenario.slip);
+                m_result.slipTime = stamp(state.time);
+                slips = false;
+            }
             if (isInGap(stamp(state.time)))
                 continue;
             samples.push_back(phone.sample(state, stamp(state.time) + m_chance.between(0, 0.001)));

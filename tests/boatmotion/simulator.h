@@ -30,6 +30,9 @@ struct Scenario {
     bool isIdle = false;    ///< nobody paddles
     bool isHostile = false; ///< uneven sides, strokes with two humps, a body that rocks
     double noise = 0.012;   ///< of the accelerometer, g
+    /// Paddler, boat and water of chance: see Habits. Else those are much alike.
+    bool isVaried = false;
+    double slip = 0; ///< rad by which the phone turns in its mount midway
 };
 
 struct TrueStroke {
@@ -66,6 +69,7 @@ struct Simulation {
     double watchOffset = 0;           ///< boat's stamp = watch's stamp + watchOffset
     double mass = 0;                  ///< kg
     double drag = 0;                  ///< N·s²/m²
+    double slipTime = 0;              ///< on the clock of the boat's samples; 0 without a slip
 };
 
 /// Equal scenarios give equal simulations.
