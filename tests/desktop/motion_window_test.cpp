@@ -14,6 +14,7 @@
 #include <gmock/gmock.h>
 
 #include <QApplication>
+#include <QComboBox>
 #include <QDoubleSpinBox>
 #include <QSignalSpy>
 #include <QTest>
@@ -130,6 +131,8 @@ TEST_F(MotionWindowTest, ConvertsBesideTheRecordingAndAsksForAFurtherName) {
     const fs::path source = add("run.kvb");
     const std::string before = contentOf(source);
     ASSERT_TRUE(open({text(source)}));
+    // At an even speed fixes do not tell the bow, and without the bow there is no force.
+    m_window.findChild<QComboBox*>("mount")->setCurrentText("Top to the bow");
     QSignalSpy converted(&m_window, &MotionWindow::convertedTo);
     QSignalSpy opened(&m_window, &MotionWindow::openRequested);
     m_window.convertCurrent();
