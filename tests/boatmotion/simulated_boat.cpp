@@ -73,8 +73,8 @@ public:
         const double turnRate = turnRateAt(time);
         const double turning = std::min(1.0, std::abs(turnRate));
         push(time, blade, turning);
-        yaw(time, blade, turnRate);
-        tilt(time, blade, turnRate);
+        yaw(time, m_habits.kickDelay == 0 ? blade : bladeNear(time - m_habits.kickDelay), turnRate);
+        tilt(time, m_habits.leanLead == 0 ? blade : bladeNear(time + m_habits.leanLead), turnRate);
         m_state.heave = m_heaving.at(time);
         // The hull slides: it is pulled inside less than its path would ask.
         m_state.side = 0.7 * m_state.speed * m_state.rotation[2];
@@ -106,6 +106,19 @@ private:
         const double phase = std::max(0.0, (time - stroke.begin) / stroke.water);
         return {force, force / stroke.peak / m_habits.crew, stroke.hand == 0 ? 1.0 : -1.0,
                 stroke.leverage, phase};
+    }
+
+    /// Force and side of whatever stroke there is at a time near the present.
+    [[nodiscard]] Blade bladeNear(double time) const {
+        const auto& strokes = m_voyage.plan.strokes;
+        for (std::size_t i = m_next < 1 ? 0 : m_next - 1; i < std::min(m_next + 2, strokes.size());
+             ++i)
+            if (time > strokes[i].begin && time < strokes[i].begin + strokes[i].water) {
+                const double force = strokes[i].force(time);
+                return {m_habits.crew * force, force / strokes[i].peak,
+                        strokes[i].hand == 0 ? 1.0 : -1.0, strokes[i].leverage, 0};
+            }
+        return {};
     }
 
     double turnRateAt(double time) {

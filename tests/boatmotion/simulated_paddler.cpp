@@ -122,9 +122,11 @@ Habits Habits::of(const Scenario& scenario) {
     Chance chance(scenario.seed * 104729 + 71);
     Habits habits;
     habits.kick = chance.between(0.5, 1.6);
-    habits.yawDecay = chance.between(1.2, 8);
+    habits.kickDelay = chance.between(-0.06, 0.06);
+    habits.yawDecay = std::exp(chance.between(0, 3));
     habits.lean = chance.between(0.008, 0.08) * (chance.hits(0.7) ? 1 : -1);
     habits.leanDelay = chance.between(0.05, 0.2);
+    habits.leanLead = chance.between(-0.05, 0.12);
     habits.repeats = chance.between(0.05, 0.45);
     habits.outside = chance.hits(0.6) ? chance.between(0.1, 0.6) : 0;
     habits.sweep = chance.between(1.1, 2);

@@ -30,8 +30,10 @@ private:
 struct Habits {
     double kick = 1;         ///< times the usual arm of the blade
     double yawDecay = 2.6;   ///< 1/s, of the kick in the water
+    double kickDelay = 0;    ///< s, of the kick after the force
     double lean = 0;         ///< rad at full pull, above 0 to the blade; 0: by chance, as usual
-    double leanDelay = 0.12; ///< s
+    double leanDelay = 0.12; ///< s, of the hull
+    double leanLead = 0;     ///< s, of the body before the force
     double repeats = 0.4;    ///< chance of the same hand again in a turn
     double outside = 0;      ///< share of a turn's strokes that are made on its outside anyway
     double sweep = 1.5;      ///< greatest leverage in a turn over the least one

@@ -183,15 +183,43 @@ void learnChanges(std::span<const HandLink> links, std::span<const double> chang
 
 } // namespace
 
-HandModel learnHands(std::span<const HandLink> links, bool changesMostly) {
-    HandModel model = firstModel(links, changesMostly);
-    for (int round = 0; round < Rounds; ++round) {
+namespace {
+
+void learn(std::span<const HandLink> links, bool changesMostly, int rounds, HandModel& model) {
+    for (int round = 0; round < rounds; ++round) {
         const std::vector<double> odds = handOdds(links, model);
         std::vector<double> changes;
         const std::vector<double> chances = sweep(links, model, odds, &changes);
         for (std::size_t m = 0; m < 2; ++m)
             learnMeasure(links, chances, changesMostly, m, model);
         learnChanges(links, changes, changesMostly, model);
+    }
+}
+
+/// Whether the anchor agrees with the hands that a model finds.
+bool isUpright(std::span<const HandLink> links, const HandModel& model) {
+    const std::vector<double> odds = handOdds(links, model);
+    const std::vector<double> chances = sweep(links, model, odds, nullptr);
+    double vote = 0;
+    for (std::size_t i = 0; i < links.size(); ++i) {
+        const HandLink& link = links[i];
+        const double spread = between(model.spread[0], link.turning) + link.variances[0];
+        if (link.variances[0] >= 0 && spread > 0)
+            vote += (2 * chances[i] - 1) * link.measures[0] / spread;
+    }
+    return vote >= 0;
+}
+
+} // namespace
+
+HandModel learnHands(std::span<const HandLink> links, bool changesMostly) {
+    HandModel model = firstModel(links, changesMostly);
+    learn(links, changesMostly, Rounds, model);
+    if (!isUpright(links, model)) {
+        // The second measure took the lead with its sign the wrong way round.
+        for (double& shift : model.shift[1])
+            shift = -shift;
+        learn(links, changesMostly, Rounds, model);
     }
     return model;
 }

@@ -17,7 +17,7 @@ constexpr double MostScore = 3;
 constexpr double Emission = 1.2; // half the log-odds of a score of 1
 
 /// How fast hulls go back, 1/s: bows from a blade's kick, and the lean from its pull.
-constexpr std::array KickAnswers{1.0, 2.0, 4.0, 8.0};
+constexpr std::array KickAnswers{1.0, 2.0, 4.0, 8.0, 16.0, 32.0};
 constexpr std::array LeanAnswers{4.0, 8.0, 16.0, 32.0};
 
 } // namespace

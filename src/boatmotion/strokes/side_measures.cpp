@@ -10,14 +10,16 @@ namespace kavela::strokes {
 
 namespace {
 
-constexpr std::size_t Course = 4;         // terms of the boat's own course, a cubic
-constexpr std::size_t Terms = Course + 3; // with the answers to this stroke and both neighbours
-constexpr std::size_t Own = Course;       // the term of this stroke
-constexpr double Reach = 0.5;             // of a cycle, before the catch and after the exit
-constexpr double LongestCycle = 1.6;      // s
+constexpr std::size_t Answers = 3;     // to this stroke and both neighbours
+constexpr std::size_t LeastCourse = 4; // terms of the boat's own course
+constexpr std::size_t MostCourse = 7;
+constexpr double CoursePerSecond = 3; // terms: turns begin and end within half a second
+constexpr std::size_t MostTerms = Answers + MostCourse;
+constexpr double Reach = 0.5;        // of a cycle, before the catch and after the exit
+constexpr double LongestCycle = 1.6; // s
 constexpr std::size_t LeastValues = 20;
 
-using Row = std::array<double, Terms>;
+using Row = std::array<double, MostTerms>;
 
 /// The answer of a hull to one stroke.
 struct Answer {
@@ -48,11 +50,13 @@ Answer answerTo(const StrokeView& view, const WaterPhase& phase, double speed) {
     return answer;
 }
 
-/// Sums of products for a fit by least squares.
+/// Sums of products for a fit by least squares, the stroke's own answer first.
 class Fit {
 public:
+    explicit Fit(std::size_t terms) : m_terms(terms) {}
+
     void add(const Row& row, double value) {
-        for (std::size_t r = 0; r < Terms; ++r) {
+        for (std::size_t r = 0; r < m_terms; ++r) {
             for (std::size_t c = 0; c <= r; ++c)
                 m_products[r][c] += row[r] * row[c];
             m_with[r] += row[r] * value;
@@ -61,31 +65,33 @@ public:
         ++m_count;
     }
 
-    /// The factor of the stroke's own answer, and its error.
+    /// The factor of the stroke's own answer, and its error; adds what stays unexplained to `rest`.
     [[nodiscard]] Measure own(double& rest) {
-        if (m_count < LeastValues || !(m_products[Own][Own] > 1e-12))
+        if (m_count < LeastValues || !(m_products[0][0] > 1e-12))
             return {};
         // A little of each on the diagonal keeps what cannot be told apart from growing wild.
-        for (std::size_t r = 0; r < Terms; ++r)
-            m_products[r][r] = m_products[r][r] * (1 + 1e-6) + (r < Course ? 1e-9 : 1e-4);
+        for (std::size_t r = 0; r < m_terms; ++r)
+            m_products[r][r] = m_products[r][r] * (1 + 1e-6) + (r < Answers ? 1e-4 : 1e-9);
         decompose();
         const Row factors = solved(m_with);
         double explained = 0;
-        for (std::size_t r = 0; r < Terms; ++r)
+        for (std::size_t r = 0; r < m_terms; ++r)
             explained += factors[r] * m_with[r];
-        rest = std::max(0.0, m_square - explained);
+        const double unexplained = std::max(0.0, m_square - explained);
+        rest += unexplained;
         Row unit{};
-        unit[Own] = 1;
+        unit[0] = 1;
         // Neighbouring values err together: a tenth of a second is about one independent value.
         constexpr double Together = 5;
-        const double freedom = std::max(1.0, static_cast<double>(m_count) - Terms);
-        return {factors[Own], Together * solved(unit)[Own] * rest / freedom, true};
+        const double freedom =
+            std::max(1.0, static_cast<double>(m_count) - static_cast<double>(m_terms));
+        return {factors[0], Together * solved(unit)[0] * unexplained / freedom, true};
     }
 
 private:
     /// Cholesky, in place.
     void decompose() {
-        for (std::size_t r = 0; r < Terms; ++r)
+        for (std::size_t r = 0; r < m_terms; ++r)
             for (std::size_t c = 0; c <= r; ++c) {
                 double sum = m_products[r][c];
                 for (std::size_t k = 0; k < c; ++k)
@@ -95,20 +101,21 @@ private:
             }
     }
     [[nodiscard]] Row solved(Row b) const {
-        for (std::size_t r = 0; r < Terms; ++r) {
+        for (std::size_t r = 0; r < m_terms; ++r) {
             for (std::size_t k = 0; k < r; ++k)
                 b[r] -= m_products[r][k] * b[k];
             b[r] /= m_products[r][r];
         }
-        for (std::size_t r = Terms; r-- > 0;) {
-            for (std::size_t k = r + 1; k < Terms; ++k)
+        for (std::size_t r = m_terms; r-- > 0;) {
+            for (std::size_t k = r + 1; k < m_terms; ++k)
                 b[r] -= m_products[k][r] * b[k];
             b[r] /= m_products[r][r];
         }
         return b;
     }
 
-    std::array<Row, Terms> m_products{};
+    std::size_t m_terms;
+    std::array<Row, MostTerms> m_products{};
     Row m_with{};
     double m_square = 0;
     std::size_t m_count = 0;
@@ -127,9 +134,7 @@ public:
             answers.push_back(answerTo(m_view, phase, speed));
         std::vector<Measure> measures;
         for (std::size_t i = 0; i < m_phases.size(); ++i) {
-            double own = 0;
-            measures.push_back(measure(answers, i, own));
-            rest += own;
+            measures.push_back(measure(answers, i, rest));
         }
         return measures;
     }
@@ -147,14 +152,20 @@ private:
         const Answer& after = i + 1 < answers.size() ? answers[i + 1] : None;
         const double middle = (static_cast<double>(begin) + static_cast<double>(end)) / 2;
         const double half = (static_cast<double>(end) - static_cast<double>(begin)) / 2;
-        Fit fit;
+        const auto course =
+            std::clamp(static_cast<std::size_t>(2.5 + CoursePerSecond * 2 * half * Step),
+                       LeastCourse, MostCourse);
+        Fit fit(Answers + course);
         for (std::size_t k = begin; k < end; ++k) {
             if (!m_view.series.valid[k])
                 continue;
             const double x = (static_cast<double>(k) - middle) / half;
-            fit.add({1, x, x * x - 1.0 / 3, x * (x * x - 0.6), answers[i].at(k), before.at(k),
-                     after.at(k)},
-                    m_series[k]);
+            Row row{answers[i].at(k), before.at(k), after.at(k), 1, x};
+            for (std::size_t n = 2; n < course; ++n) // Legendre's polynomials
+                row[Answers + n] = (static_cast<double>(2 * n - 1) * x * row[Answers + n - 1] -
+                                    static_cast<double>(n - 1) * row[Answers + n - 2]) /
+                                   static_cast<double>(n);
+            fit.add(row, m_series[k]);
         }
         return fit.own(rest);
     }
