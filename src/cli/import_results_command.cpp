@@ -38,7 +38,17 @@ std::string importText(const ResultsImport& import) {
     text += '\n';
     for (const SkippedLine& skipped : import.skipped)
         text += "Line " + std::to_string(skipped.line) + ": " + printable(skipped.reason) + '\n';
+    for (const SkippedLine& doubtful : import.doubtful)
+        text += "Line " + std::to_string(doubtful.line) + ": " + doubtful.reason +
+                ", and was imported as it stands\n";
     return text;
+}
+
+/// The JSON tells what was left out; what is odd among the rest goes beside it.
+void tellDoubtful(const ResultsImport& import) {
+    for (const SkippedLine& doubtful : import.doubtful)
+        logLine("Line " + std::to_string(doubtful.line) + ": " + doubtful.reason +
+                ", and was imported as it stands.");
 }
 
 int importList(const ImportCall& call) {
@@ -48,6 +58,8 @@ int importList(const ImportCall& call) {
     const ResultsImport import = importResults(file->document, call.list, logLine);
     if (import.failure || !isSaved(file->document, call.file))
         return NotDone;
+    if (call.json)
+        tellDoubtful(import);
     const std::string output =
         call.json ? encode(ImportJson{import.imported, import.skipped}) + '\n' : importText(import);
     return print(output) ? Done : NotDone;

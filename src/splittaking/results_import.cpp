@@ -1,6 +1,7 @@
 #include "splittaking/results_import.h"
 
 #include "common/error.h"
+#include "common/number_text.h"
 #include "common/text_file.h"
 #include "splittaking/perfect_time.h"
 
@@ -98,6 +99,24 @@ allresultsdata030 resultOf(ResultLine& line) {
     return result;
 }
 
+constexpr double LongestTime = 3600;
+constexpr std::int64_t MostPenalty = 999;
+
+/// What is odd in a result; empty where nothing is. Times of 0 are not: they stand for runs that
+/// were not finished.
+std::string oddity(const allresultsdata030& result) {
+    if (result.time < 0)
+        return "the time " + shortestText(result.time) + " is below 0";
+    if (result.time >= LongestTime)
+        return "the time " + shortestText(result.time) + " is an hour or more";
+    if (result.pen < 0)
+        return "the penalty " + std::to_string(result.pen) + " is below 0";
+    if (result.pen > MostPenalty)
+        return "the penalty " + std::to_string(result.pen) + " is over " +
+               std::to_string(MostPenalty);
+    return result.pos < 0 ? "the position " + std::to_string(result.pos) + " is below 0" : "";
+}
+
 bool isBlank(std::string_view line) {
     return line.find_first_not_of(" \t") == std::string_view::npos;
 }
@@ -112,10 +131,13 @@ ResultsList parseResults(std::string_view text) {
             continue;
         ResultLine line(content);
         allresultsdata030 result = resultOf(line);
-        if (line.isFine())
-            list.results.push_back(std::move(result));
-        else
+        if (!line.isFine()) {
             list.skipped.push_back({number, line.reason()});
+            continue;
+        }
+        if (std::string odd = oddity(result); !odd.empty())
+            list.doubtful.push_back({number, std::move(odd)});
+        list.results.push_back(std::move(result));
     }
     return list;
 }
@@ -137,6 +159,7 @@ ResultsImport importResults(splittakerdata031& document, const std::filesystem::
     }
     import.imported = static_cast<std::int64_t>(read.results.size());
     import.skipped = std::move(read.skipped);
+    import.doubtful = std::move(read.doubtful);
     std::move(read.results.begin(), read.results.end(),
               std::back_inserter(document.info.resultsCSVdata));
     recomputeExpected(document, log);

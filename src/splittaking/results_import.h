@@ -14,7 +14,7 @@
 /// seconds, penalty seconds; what follows on a line is ignored.
 namespace kavela {
 
-/// A line that could not be taken.
+/// A line that could not be taken, or was taken and is odd.
 struct SkippedLine {
     std::int64_t line = 0; ///< counted from 1, the header included
     std::string reason;
@@ -26,6 +26,8 @@ struct SkippedLine {
 struct ResultsList {
     std::vector<allresultsdata030> results;
     std::vector<SkippedLine> skipped; ///< without the header and blank lines
+    /// Lines that were taken as they stand, with what no official result has.
+    std::vector<SkippedLine> doubtful;
 };
 
 /// Reads a list from a text in UTF-8. The first line is the header. Numbers are whole fields in
@@ -35,6 +37,7 @@ struct ResultsList {
 struct ResultsImport {
     std::int64_t imported = 0;
     std::vector<SkippedLine> skipped;
+    std::vector<SkippedLine> doubtful;  ///< imported all the same
     std::optional<std::string> failure; ///< why nothing was imported: the list cannot be read
 };
 

@@ -92,6 +92,11 @@ TEST_F(SplitTakingCalls, ImportResults) {
     EXPECT_EQ(call({"import-results", "race.kvx", "list.csv"}).output,
               "1 result imported, 1 line skipped\nLine 4: the bib \"x\" is no whole number\n");
     EXPECT_THAT(document("race.kvx").info.resultsCSVdata, SizeIs(2)) << "added to what is there";
+    add("odd.csv", "pos;bib;name;nationality;time;pen\n1;7;Ann Lee;GBR;-5;0\n");
+    EXPECT_EQ(call({"import-results", "race.kvx", "odd.csv"}).output,
+              "1 result imported\nLine 2: the time -5 is below 0, and was imported as it stands\n");
+    EXPECT_THAT(call({"import-results", "race.kvx", "odd.csv", "--json"}).errors,
+                HasSubstr("Line 2: the time -5 is below 0"));
 }
 
 TEST_F(SplitTakingCalls, CollectATrainingFile) {

@@ -34,6 +34,17 @@ TEST(ResultsImport, ReadsEveryField) {
               R"("total":100}])");
 }
 
+TEST(ResultsImport, TakesOddResultsAndTellsThem) {
+    const ResultsList list = listOf("1;1;a;FRA;-5;0\n2;2;b;FRA;80;-2\n3;3;c;FRA;7200;0\n"
+                                    "0;4;d;FRA;0;0\n-1;5;e;FRA;81;50\n6;6;f;FRA;82;5000");
+    EXPECT_THAT(list.results, SizeIs(6));
+    EXPECT_THAT(list.doubtful, ElementsAre(SkippedLine{2, "the time -5 is below 0"},
+                                           SkippedLine{3, "the penalty -2 is below 0"},
+                                           SkippedLine{4, "the time 7200 is an hour or more"},
+                                           SkippedLine{6, "the position -1 is below 0"},
+                                           SkippedLine{7, "the penalty 5000 is over 999"}));
+}
+
 TEST(ResultsImport, SkipsWhatDoesNotParse) {
     struct Row {
         const char* line;

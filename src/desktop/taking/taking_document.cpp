@@ -391,6 +391,9 @@ QString TakingDocument::importResults(const QString& file, QWidget* over) {
     QStringList lines{tr("%n result(s) imported.", nullptr, static_cast<int>(import.imported))};
     for (const SkippedLine& skipped : import.skipped)
         lines.append(tr("Line %1: %2").arg(skipped.line).arg(qtText(skipped.reason)));
+    for (const SkippedLine& doubtful : import.doubtful)
+        lines.append(
+            tr("Line %1 was imported, but %2.").arg(doubtful.line).arg(qtText(doubtful.reason)));
     return lines.join('\n');
 }
 
