@@ -1,0 +1,73 @@
+#include "desktop/people/person_delegate.h"
+
+#include "desktop/people/found_lines.h"
+#include "desktop/shell/theme.h"
+
+#include <QApplication>
+#include <QComboBox>
+#include <QPainter>
+
+#include <algorithm>
+
+namespace kavela::desktop {
+
+namespace {
+
+constexpr int ArrowWidth = theme::LargeSpacing;
+
+const FoundLines* linesOf(const QModelIndex& index) {
+    return qobject_cast<const FoundLines*>(index.model());
+}
+
+} // namespace
+
+/// An arrow tells which cells hold a choice.
+void PersonDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
+                           const QModelIndex& index) const {
+    QStyledItemDelegate::paint(painter, option, index);
+    if (!index.flags().testFlag(Qt::ItemIsEditable))
+        return;
+    QStyleOptionViewItem arrow = option;
+    arrow.rect = QRect(option.rect.right() - ArrowWidth, option.rect.center().y() - ArrowWidth / 4,
+                       ArrowWidth / 2, ArrowWidth / 2);
+    const QStyle* const style = option.widget ? option.widget->style() : QApplication::style();
+    style->drawPrimitive(QStyle::PE_IndicatorArrowDown, &arrow, painter, option.widget);
+}
+
+QSize PersonDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const {
+    return QStyledItemDelegate::sizeHint(option, index) + QSize(ArrowWidth + theme::Spacing, 0);
+}
+
+QWidget* PersonDelegate::createEditor(QWidget* parent, const QStyleOptionViewItem& /*option*/,
+                                      const QModelIndex& index) const {
+    const FoundLines* const lines = linesOf(index);
+    if (!lines)
+        return nullptr;
+    auto* const combo = new QComboBox(parent);
+    combo->setObjectName("whose");
+    for (const Belonging& whose : lines->choicesFor(index.row()))
+        combo->addItem(lines->choiceText(index.row(), whose));
+    // A choice from the open list is meant: it counts at once, not only when the cell is left.
+    connect(combo, &QComboBox::activated, this, [this, combo] {
+        auto* const self = const_cast<PersonDelegate*>(this);
+        emit self->commitData(combo);
+        emit self->closeEditor(combo);
+    });
+    return combo;
+}
+
+void PersonDelegate::setEditorData(QWidget* editor, const QModelIndex& index) const {
+    const auto choices = linesOf(index)->choicesFor(index.row());
+    const auto& whose = linesOf(index)->lines().at(static_cast<std::size_t>(index.row())).whose;
+    const auto found = std::ranges::find(choices, whose);
+    if (auto* const combo = qobject_cast<QComboBox*>(editor); combo && found != choices.end())
+        combo->setCurrentIndex(static_cast<int>(found - choices.begin()));
+}
+
+void PersonDelegate::setModelData(QWidget* editor, QAbstractItemModel* model,
+                                  const QModelIndex& index) const {
+    if (const auto* const combo = qobject_cast<QComboBox*>(editor))
+        model->setData(index, combo->currentIndex());
+}
+
+} // namespace kavela::desktop
