@@ -17,14 +17,17 @@ constexpr double MostScore = 3;
 constexpr double Emission = 1.2; // half the log-odds of a score of 1
 
 /// How fast hulls go back, 1/s: bows from a blade's kick, and the lean from its pull.
-constexpr std::array KickAnswers{1.0, 2.0, 4.0, 8.0, 16.0, 32.0};
-constexpr std::array LeanAnswers{4.0, 8.0, 16.0, 32.0};
+constexpr std::array KickDecays{1.0, 2.0, 4.0, 8.0, 16.0, 32.0};
+constexpr std::array LeanDecays{4.0, 8.0, 16.0, 32.0};
+
+/// Bodies and blades do not move just with the force that the hull feels, s.
+constexpr std::array Delays{-0.06, 0.0, 0.06};
 
 } // namespace
 
 HandEvidence handEvidence(const StrokeView& view, std::span<const WaterPhase> phases) {
-    const SideMeasures kicks = sideMeasures(view, phases, view.series.yawRate, KickAnswers);
-    const SideMeasures leans = sideMeasures(view, phases, view.series.roll, LeanAnswers);
+    const SideMeasures kicks = sideMeasures(view, phases, view.series.yawRate, KickDecays, Delays);
+    const SideMeasures leans = sideMeasures(view, phases, view.series.roll, LeanDecays, Delays);
     std::vector<double> gaps;
     for (std::size_t i = 1; i < phases.size(); ++i)
         gaps.push_back(view.series.time[phases[i].peak] - view.series.time[phases[i - 1].peak]);

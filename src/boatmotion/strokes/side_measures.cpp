@@ -23,28 +23,31 @@ using Row = std::array<double, MostTerms>;
 
 /// The answer of a hull to one stroke.
 struct Answer {
-    std::size_t begin = 0; ///< index of the first value
+    std::ptrdiff_t begin = 0; ///< index of the first value
     std::vector<double> values;
 
     [[nodiscard]] double at(std::size_t index) const {
-        return index >= begin && index - begin < values.size() ? values[index - begin] : 0;
+        const std::ptrdiff_t place = static_cast<std::ptrdiff_t>(index) - begin;
+        return place >= 0 && place < std::ssize(values) ? values[static_cast<std::size_t>(place)]
+                                                        : 0;
     }
 };
 
-/// What a hull does that follows the force of a stroke, at its height 1, and goes back at a speed.
-Answer answerTo(const StrokeView& view, const WaterPhase& phase, double speed) {
+/// What a hull does for the force of a stroke, brought to a height of 1.
+Answer answerTo(const StrokeView& view, const WaterPhase& phase, const HullAnswer& hull) {
     constexpr std::size_t Tail = 50; // 1 s
     const std::span<const double> force = view.series.force;
     Answer answer;
-    answer.begin = static_cast<std::size_t>(phase.catchAt);
+    const auto begin = static_cast<std::size_t>(phase.catchAt);
+    answer.begin = static_cast<std::ptrdiff_t>(begin) + std::lround(hull.delay * Rate);
     const auto end = static_cast<std::size_t>(phase.exitAt) + 1;
-    const double base = std::min(force[answer.begin], force[std::min(end, force.size() - 1)]);
+    const double base = std::min(force[begin], force[std::min(end, force.size() - 1)]);
     const double height = std::max(force[phase.peak] - base, 1e-6);
-    const double keep = std::exp(-speed * Step);
+    const double keep = std::exp(-hull.decay * Step);
     double value = 0;
-    for (std::size_t i = answer.begin; i < std::min(end + Tail, force.size()); ++i) {
+    for (std::size_t i = begin; i < std::min(end + Tail, force.size()); ++i) {
         const double push = i <= end ? std::clamp((force[i] - base) / height, 0.0, 1.0) : 0;
-        value = keep * value + (1 - keep) / speed * push;
+        value = keep * value + (1 - keep) / hull.decay * push;
         answer.values.push_back(value);
     }
     return answer;
@@ -127,15 +130,14 @@ public:
               std::span<const double> series)
         : m_view(view), m_phases(phases), m_series(series) {}
 
-    /// All strokes, for one speed of the answer; adds what stays unexplained to `rest`.
-    std::vector<Measure> measured(double speed, double& rest) const {
+    /// All strokes, for one kind of hull; adds what stays unexplained to `rest`.
+    std::vector<Measure> measured(const HullAnswer& hull, double& rest) const {
         std::vector<Answer> answers;
         for (const WaterPhase& phase : m_phases)
-            answers.push_back(answerTo(m_view, phase, speed));
+            answers.push_back(answerTo(m_view, phase, hull));
         std::vector<Measure> measures;
-        for (std::size_t i = 0; i < m_phases.size(); ++i) {
+        for (std::size_t i = 0; i < m_phases.size(); ++i)
             measures.push_back(measure(answers, i, rest));
-        }
         return measures;
     }
 
@@ -191,18 +193,20 @@ private:
 } // namespace
 
 SideMeasures sideMeasures(const StrokeView& view, std::span<const WaterPhase> phases,
-                          std::span<const double> series, std::span<const double> answers) {
+                          std::span<const double> series, std::span<const double> decays,
+                          std::span<const double> delays) {
     const Measuring measuring(view, phases, series);
     SideMeasures best;
     double least = HUGE_VAL;
-    for (const double answer : answers) {
-        double rest = 0;
-        std::vector<Measure> measures = measuring.measured(answer, rest);
-        if (rest < least) {
-            least = rest;
-            best = {std::move(measures), answer};
+    for (const double delay : delays)
+        for (const double decay : decays) {
+            double rest = 0;
+            std::vector<Measure> measures = measuring.measured({decay, delay}, rest);
+            if (rest < least) {
+                least = rest;
+                best = {std::move(measures), {decay, delay}};
+            }
         }
-    }
     return best;
 }
 

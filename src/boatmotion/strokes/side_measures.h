@@ -12,18 +12,24 @@ struct Measure {
     bool isKnown = false;
 };
 
-/// How a hull answers to a blade: it follows the force and goes back, in 1/s.
+/// How a hull answers to a blade: it is set in motion by the force, and goes back by itself.
+struct HullAnswer {
+    double decay = 1; ///< 1/s: how fast it goes back
+    double delay = 0; ///< s after the force that is felt; below 0 before it
+};
+
 struct SideMeasures {
     std::vector<Measure> strokes; ///< one for each stroke
-    double answer = 0;            ///< 1/s: how fast the hull goes back
+    HullAnswer answer;
 };
 
 /// Measures what each stroke did to a series, in its units at the height of the stroke's force.
 /// Around each stroke the series is taken for a smooth course of the boat's own with the answers to
-/// this stroke and its neighbours on it, all fitted together by least squares. How fast the hull
-/// answers is the one of `answers` (1/s) that explains the series best.
+/// this stroke and its neighbours on it, all fitted together by least squares. How the hull answers
+/// is found by the decays (1/s) and delays (s) that explain the series best.
 [[nodiscard]] SideMeasures sideMeasures(const StrokeView& view, std::span<const WaterPhase> phases,
                                         std::span<const double> series,
-                                        std::span<const double> answers);
+                                        std::span<const double> decays,
+                                        std::span<const double> delays);
 
 } // namespace kavela::strokes
