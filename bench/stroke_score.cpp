@@ -5,6 +5,7 @@
 
 #include <functional>
 #include <map>
+#include <numbers>
 #include <string>
 
 /// Runs the stroke analysis over simulated recordings of which everything is known, and prints how
@@ -40,6 +41,7 @@ std::vector<Scenario> scenarios(std::uint64_t firstSeed, int perKind) {
                     scenario.style = style;
                     scenario.mount = static_cast<PhoneMount>(all.size() % 3);
                     scenario.sampling = static_cast<Sampling>(all.size() / 3 % 3);
+                    scenario.isVaried = i % 2 == 1;
                     all.push_back(scenario);
                 }
     return all;
@@ -132,10 +134,20 @@ void printSpecial(const std::string& name, Scenario scenario, std::uint64_t firs
 
 void printSpecials(std::uint64_t seed) {
     const Scenario slalom{.style = Style::Slalom};
+    const Scenario anybody{.style = Style::Slalom, .isVaried = true};
     const auto with = [](Scenario scenario, auto change) {
         change(scenario);
         return scenario;
     };
+    printSpecial("anybody", anybody, seed + 120);
+    printSpecial("anybody, rough", with(anybody, [](Scenario& s) { s.sea = Sea::Rough; }),
+                 seed + 140);
+    printSpecial("anybody, canoe", with(anybody, [](Scenario& s) { s.isCanoe = true; }),
+                 seed + 160);
+    for (const int degrees : {10, 30, 60})
+        printSpecial(fmt::format("anybody, slips by {}°", degrees),
+                     with(anybody, [&](Scenario& s) { s.slip = degrees * std::numbers::pi / 180; }),
+                     seed + 180 + static_cast<std::uint64_t>(degrees));
     printSpecial("with watch", with(slalom, [](Scenario& s) { s.hasWatch = true; }), seed);
     printSpecial("canoe", with(slalom, [](Scenario& s) { s.isCanoe = true; }), seed + 20);
     printSpecial("noise 0.06 g", with(slalom, [](Scenario& s) { s.noise = 0.06; }), seed + 40);
@@ -186,6 +198,10 @@ int printTargets(const std::vector<Result>& results) {
     check("F1 below", sumOf(results, 0, 59).f1(), true, 0.92);
     check("Rate over 20 s, median error", medianSize(all.rateErrors), false, 0.03);
     check("Hand outside turns", shareOr1(all.rightStraightHands, all.straightHands), true, 0.97);
+    check("Hand in turns", shareOr1(all.rightTurningHands, all.turningHands), true, 0.88);
+    const Score slow = sumOf(results, 0, 45);
+    check("Hand at 40 strokes a minute", shareOr1(slow.rightStraightHands, slow.straightHands),
+          true, 0.97);
     check("Turns found", shareOr1(all.matchedTurns, all.trueTurns), true, 0.98);
     check("Turns that are some", shareOr1(all.foundTurns - all.falseTurns, all.foundTurns), true,
           0.95);

@@ -59,6 +59,7 @@ TEST_P(Simulated, StrokesAndHandsAreFound) {
     EXPECT_LE(medianSize(result.found.rateErrors), 0.03);
     EXPECT_EQ(result.found.matchedTurns, result.found.trueTurns);
     EXPECT_EQ(result.found.falseTurns, 0);
+    EXPECT_THAT(result.analysis.slips, IsEmpty());
     EXPECT_TRUE(
         std::is_sorted(result.analysis.strokes.begin(), result.analysis.strokes.end(),
                        [](const Stroke& a, const Stroke& b) { return a.exitTime <= b.catchTime; }));
@@ -85,6 +86,47 @@ INSTANTIATE_TEST_SUITE_P(
         Expectation{"watch", {.seed = 79, .style = Style::Slalom, .hasWatch = true}, 0.97, 0.97},
         Expectation{"noisy", {.seed = 80, .noise = 0.06}, 0.97, 0.95}),
     [](const auto& instance) { return instance.param.name; });
+
+TEST(Strokes, HandsHoldInTurnsAndAtFewStrokesWhoeverPaddles) {
+    Score all;
+    Score slow;
+    for (std::uint64_t i = 0; i < 8; ++i) {
+        const bool isSlow = i < 4;
+        const Score found = analysed({.seed = 640001 + i,
+                                      .strokesPerMinute = isSlow ? 40 : 50 + 12.0 * double(i),
+                                      .sea = i % 2 == 0 ? Sea::Calm : Sea::Light,
+                                      .style = Style::Slalom,
+                                      .isCanoe = i == 7,
+                                      .isVaried = true})
+                                .found;
+        all.add(found);
+        if (isSlow)
+            slow.add(found);
+    }
+    EXPECT_GE(all.rightTurningHands / all.turningHands, 0.9);
+    EXPECT_GE(all.rightStraightHands / all.straightHands, 0.98);
+    EXPECT_GE(slow.rightStraightHands / slow.straightHands, 0.97);
+    EXPECT_GE(slow.f1(), 0.94);
+}
+
+TEST(Strokes, PhoneThatSlipsIsToldAndBothSidesAreAnalysed) {
+    for (const double degrees : {12.0, 45.0}) {
+        const double slip = degrees * std::numbers::pi / 180;
+        const Analysed result = analysed({.seed = 85,
+                                          .sea = Sea::Light,
+                                          .style = Style::Slalom,
+                                          .isVaried = true,
+                                          .slip = slip});
+        EXPECT_TRUE(result.analysis.has(MotionFlag::PhoneSlipped));
+        ASSERT_EQ(result.analysis.slips.size(), 1U) << degrees;
+        EXPECT_NEAR(result.analysis.slips.front().time, result.truth.slipTime, 3);
+        EXPECT_NEAR(result.analysis.slips.front().angle, slip, 0.1);
+        EXPECT_THAT(notesOf(result.analysis),
+                    Contains(HasSubstr("slipped in its mount about 0:5")));
+        EXPECT_GE(result.found.f1(), 0.97);
+        EXPECT_GE(result.found.rightStraightHands / result.found.straightHands, 0.97);
+    }
+}
 
 TEST(Strokes, ForceAndPhasesComeNearTheTruth) {
     const Analysed result = analysed({.seed = 81, .sea = Sea::Light});

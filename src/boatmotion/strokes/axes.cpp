@@ -74,6 +74,10 @@ struct Scatter {
         en += other.en * trace / size;
         nn += other.nn * trace / size;
     }
+    /// How much more there is along the principal direction than across it, 0 to 1.
+    [[nodiscard]] double eccentricity() const {
+        return ee + nn > 0 ? std::hypot(ee - nn, 2 * en) / (ee + nn) : 0;
+    }
     [[nodiscard]] double principalAngle() const { return 0.5 * std::atan2(2 * en, ee - nn); }
 };
 
@@ -237,6 +241,20 @@ Bow findBow(const MotionGrid& grid, const LevelMotion& level, std::span<const Sp
     const double ahead = -bow.north * scatters.sway[0] + bow.east * scatters.sway[1];
     bow.ahead = std::clamp(ahead, -FarthestAhead, FarthestAhead);
     return bow;
+}
+
+BoatAxes boatAxes(const MotionGrid& grid) {
+    const LevelMotion level = levelMotion(grid);
+    const StrokingScatters scatters = strokingScatters(grid, level);
+    Scatter sum;
+    sum.addScaled(scatters.pull, 1);
+    sum.addScaled(scatters.tilt, 1);
+    const double angle = sum.principalAngle();
+    BoatAxes axes{.up = level.up, .certainty = sum.eccentricity()};
+    for (std::size_t k = 0; k < 3; ++k)
+        axes.along[k] = std::cos(angle) * level.east[k] + std::sin(angle) * level.north[k];
+    axes.left = cross(axes.up, axes.along);
+    return axes;
 }
 
 std::vector<double> forwardAcceleration(const LevelMotion& level, const Bow& bow) {

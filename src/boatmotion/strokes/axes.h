@@ -37,6 +37,18 @@ struct Bow {
 [[nodiscard]] Bow findBow(const MotionGrid& grid, const LevelMotion& level,
                           std::span<const SpeedFix> fixes, std::optional<Mount> mount);
 
+/// Directions of a boat in the axes of the device: along it, to its left and up. Which end of it is
+/// the bow is not known.
+struct BoatAxes {
+    Vector along{};
+    Vector left{};
+    Vector up{};
+    double certainty = 0; ///< 0 where stroking shows no direction, to 1 where it shows one alone
+};
+
+/// The boat's axes by its stroking alone.
+[[nodiscard]] BoatAxes boatAxes(const MotionGrid& grid);
+
 /// The acceleration of the boat along its bow: what the phone feels there, without what it feels
 /// for being swung around the boat's middle.
 [[nodiscard]] std::vector<double> forwardAcceleration(const LevelMotion& level, const Bow& bow);

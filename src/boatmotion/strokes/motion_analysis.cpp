@@ -4,6 +4,7 @@
 #include "boatmotion/strokes/filters.h"
 #include "boatmotion/strokes/hands.h"
 #include "boatmotion/strokes/phases.h"
+#include "boatmotion/strokes/slips.h"
 #include "boatmotion/strokes/speed.h"
 #include "boatmotion/strokes/stroke_values.h"
 #include "boatmotion/strokes/turns.h"
@@ -165,6 +166,9 @@ MotionAnalysis analyseMotion(const MotionSamples& samples, const MotionProfile& 
     flagIf(analysis.hasSpeed && clocks.isGuessed, MotionFlag::GuessedClocks);
     flagIf(grid.hasHoles, MotionFlag::HasHoles);
     flagIf(grid.gravityRebuilt, MotionFlag::GravityRebuilt);
+
+    analysis.slips = straightenSlips(grid);
+    flagIf(!analysis.slips.empty(), MotionFlag::PhoneSlipped);
 
     LevelMotion level = levelMotion(grid);
     const Bow bow = findBow(grid, level, fixes, profile.mount);
