@@ -68,8 +68,8 @@ public:
         ++m_count;
     }
 
-    /// The factor of the stroke's own answer, and its error; adds what stays unexplained to `rest`.
-    [[nodiscard]] Measure own(double& rest) {
+    /// The factor of the stroke's own answer, and its error.
+    [[nodiscard]] Measure own() {
         if (m_count < LeastValues || !(m_products[0][0] > 1e-12))
             return {};
         // A little of each on the diagonal keeps what cannot be told apart from growing wild.
@@ -81,7 +81,6 @@ public:
         for (std::size_t r = 0; r < m_terms; ++r)
             explained += factors[r] * m_with[r];
         const double unexplained = std::max(0.0, m_square - explained);
-        rest += unexplained;
         Row unit{};
         unit[0] = 1;
         // Neighbouring values err together: a tenth of a second is about one independent value.
@@ -130,20 +129,33 @@ public:
               std::span<const double> series)
         : m_view(view), m_phases(phases), m_series(series) {}
 
-    /// All strokes, for one kind of hull; adds what stays unexplained to `rest`.
-    std::vector<Measure> measured(const HullAnswer& hull, double& rest) const {
+    /// All strokes, for one kind of hull.
+    [[nodiscard]] std::vector<Measure> measured(const HullAnswer& hull) const {
         std::vector<Answer> answers;
         for (const WaterPhase& phase : m_phases)
             answers.push_back(answerTo(m_view, phase, hull));
         std::vector<Measure> measures;
         for (std::size_t i = 0; i < m_phases.size(); ++i)
-            measures.push_back(measure(answers, i, rest));
+            measures.push_back(measure(answers, i));
         return measures;
     }
 
+    /// How far measures stand out from their errors. Only straight on: in a turn what is left
+    /// unexplained is that of the turn, whatever the hull.
+    [[nodiscard]] double clearness(const std::vector<Measure>& measures) const {
+        constexpr double StraightOn = 0.3; // rad/s
+        double sum = 0;
+        for (std::size_t i = 0; i < measures.size(); ++i) {
+            const Measure& m = measures[i];
+            if (m.isKnown && m.variance > 0 &&
+                std::abs(m_view.yawMean[m_phases[i].peak]) < StraightOn)
+                sum += std::log1p(m.value * m.value / m.variance);
+        }
+        return sum;
+    }
+
 private:
-    [[nodiscard]] Measure measure(const std::vector<Answer>& answers, std::size_t i,
-                                  double& rest) const {
+    [[nodiscard]] Measure measure(const std::vector<Answer>& answers, std::size_t i) const {
         static const Answer None;
         const WaterPhase& phase = m_phases[i];
         const double reach = Reach * cycleAround(i) * Rate;
@@ -169,7 +181,7 @@ private:
                                    static_cast<double>(n);
             fit.add(row, m_series[k]);
         }
-        return fit.own(rest);
+        return fit.own();
     }
 
     /// Seconds from this stroke to the nearer of its neighbours.
@@ -197,13 +209,13 @@ SideMeasures sideMeasures(const StrokeView& view, std::span<const WaterPhase> ph
                           std::span<const double> delays) {
     const Measuring measuring(view, phases, series);
     SideMeasures best;
-    double least = HUGE_VAL;
+    double clearest = -1;
     for (const double delay : delays)
         for (const double decay : decays) {
-            double rest = 0;
-            std::vector<Measure> measures = measuring.measured({decay, delay}, rest);
-            if (rest < least) {
-                least = rest;
+            std::vector<Measure> measures = measuring.measured({decay, delay});
+            const double clear = measuring.clearness(measures);
+            if (clear > clearest) {
+                clearest = clear;
                 best = {std::move(measures), {decay, delay}};
             }
         }

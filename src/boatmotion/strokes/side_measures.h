@@ -26,7 +26,7 @@ struct SideMeasures {
 /// Measures what each stroke did to a series, in its units at the height of the stroke's force.
 /// Around each stroke the series is taken for a smooth course of the boat's own with the answers to
 /// this stroke and its neighbours on it, all fitted together by least squares. How the hull answers
-/// is found by the decays (1/s) and delays (s) that explain the series best.
+/// is found by the decays (1/s) and delays (s) with which the strokes stand out most clearly.
 [[nodiscard]] SideMeasures sideMeasures(const StrokeView& view, std::span<const WaterPhase> phases,
                                         std::span<const double> series,
                                         std::span<const double> decays,
