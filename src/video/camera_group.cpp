@@ -22,21 +22,29 @@ CameraGroup::CameraGroup(std::vector<std::shared_ptr<VideoPlayer>> players, std:
 
 void CameraGroup::updateRange(Moment now) {
     std::optional<std::pair<double, double>> range;
+    m_isGrowing = false;
     for (std::size_t i = 0; i < std::min(m_ranging, m_players.size()); ++i) {
         const auto index = m_players[i]->index();
         if (!index || index->frameCount() == 0)
             continue;
+        m_isGrowing = m_isGrowing || !index->isComplete();
         const double start = m_offsets[i].toCommon(index->secondsOf(0));
         const double end = m_offsets[i].toCommon(index->secondsOf(index->frameCount() - 1));
         range = range ? std::pair(std::min(range->first, start), std::max(range->second, end))
                       : std::pair(start, end);
     }
+    m_isGrowing = m_isGrowing || !range;
     if (range && *range != std::pair(m_clock.start(), m_clock.end()))
         m_clock.setRange(range->first, range->second, now);
+    if (!m_wanted)
+        return;
+    m_clock.seek(*m_wanted, now);
+    if (!m_isGrowing || *m_wanted <= m_clock.end())
+        m_wanted.reset();
 }
 
 void CameraGroup::showAll(Moment now) {
-    const double position = m_clock.position(now);
+    const double position = this->position(now);
     for (std::size_t i = 0; i < m_players.size(); ++i)
         m_players[i]->requestPosition(m_offsets[i].toOwn(position));
 }
@@ -46,23 +54,26 @@ void CameraGroup::tick(Moment now) {
     if (!m_clock.isPlaying())
         return;
     showAll(now);
-    if (m_clock.isAtLimit(now))
+    if (m_clock.isAtLimit(now) && !m_isGrowing)
         m_clock.pause(now);
 }
 
 void CameraGroup::play(Moment now) {
     updateRange(now);
+    m_wanted.reset();
     m_clock.play(now);
     showAll(now);
 }
 
-void CameraGroup::pause(Moment now) {
+void CameraGroup::pause(Moment now, const std::optional<CMTime>& seen) {
+    if (!m_clock.isPlaying())
+        return;
     m_clock.pause(now);
-    const auto index = m_players.front()->index();
     const auto shown = m_players.front()->shown();
-    if (index && shown)
-        m_clock.seek(shown->stamp.seconds(), now);
-    showAll(now);
+    if (seen || shown)
+        seek(seen ? *seen : shown->stamp, now);
+    else
+        showAll(now);
 }
 
 void CameraGroup::setRate(double rate, Moment now) {
@@ -72,12 +83,18 @@ void CameraGroup::setRate(double rate, Moment now) {
 void CameraGroup::seek(double seconds, Moment now) {
     updateRange(now);
     m_clock.seek(seconds, now);
+    m_wanted = m_isGrowing && seconds > m_clock.end() ? std::optional(seconds) : std::nullopt;
     showAll(now);
 }
 
 void CameraGroup::seek(const CMTime& stamp, Moment now) {
     seek(stamp.seconds(), now);
     m_players.front()->requestStamp(stamp);
+}
+
+void CameraGroup::expect(std::optional<double> seconds) {
+    for (std::size_t i = 0; i < m_players.size(); ++i)
+        m_players[i]->expect(seconds ? std::optional(m_offsets[i].toOwn(*seconds)) : std::nullopt);
 }
 
 void CameraGroup::step(FrameNumber frames, Moment now) {
@@ -117,10 +134,12 @@ void CameraGroup::setOffset(std::size_t camera, const CameraOffset& offset, Mome
 bool CameraGroup::alignShown(Moment now) {
     std::vector<CMTime> stamps;
     for (const auto& player : m_players) {
+        const auto index = player->index();
         const auto shown = player->shown();
-        if (!shown)
+        const auto asked = shown && !m_clock.isPlaying() ? player->target() : std::nullopt;
+        if (!index || !shown || (!m_clock.isPlaying() && !asked))
             return false;
-        stamps.push_back(shown->stamp);
+        stamps.push_back(asked ? index->stampOf(*asked) : shown->stamp);
     }
     for (std::size_t i = 1; i < stamps.size(); ++i)
         m_offsets[i] = {.own = stamps[i], .common = stamps.front()};

@@ -6,6 +6,7 @@
 #include <cstddef>
 #include <limits>
 #include <memory>
+#include <optional>
 #include <vector>
 
 namespace kavela {
@@ -35,19 +36,26 @@ public:
     [[nodiscard]] std::size_t size() const { return m_players.size(); }
     [[nodiscard]] VideoPlayer& player(std::size_t camera) { return *m_players.at(camera); }
     [[nodiscard]] const PlayClock& clock() const { return m_clock; }
+    /// Seconds of the first film; also where a film that is still being read is to be shown.
+    [[nodiscard]] double position(Moment now) const {
+        return m_wanted.value_or(m_clock.position(now));
+    }
 
     /// Asks each player for the frame due now; to be called at each refresh of the screen. Stops
     /// the clock at the end of the films.
     void tick(Moment now);
 
     void play(Moment now);
-    /// Stops at the frame that the first player shows.
-    void pause(Moment now);
+    /// Stops at the frame that is seen: the one of a stamp of the first film, otherwise the one
+    /// that its player shows. What stands already stays.
+    void pause(Moment now, const std::optional<CMTime>& seen = {});
     void setRate(double rate, Moment now);
     /// To a number of seconds of the first film.
     void seek(double seconds, Moment now);
     /// To a frame of the first film, exactly, such as a stored mark.
     void seek(const CMTime& stamp, Moment now);
+    /// Where somebody is likely to go next, in seconds of the first film; nowhere without a value.
+    void expect(std::optional<double> seconds);
     /// Stops and moves all by so many frames of the first film.
     void step(FrameNumber frames, Moment now);
     /// Stops and moves one film by so many of its frames; the others stay, until the clock moves.
@@ -57,7 +65,8 @@ public:
     /// Throws std::out_of_range for the first film, whose time is the common one, and for a stamp
     /// that is no moment std::invalid_argument.
     void setOffset(std::size_t camera, const CameraOffset& offset, Moment now);
-    /// The frames shown now become one moment. False when not every film shows one yet.
+    /// The frames shown now become one moment, those on their way included. False when not every
+    /// film shows one yet.
     bool alignShown(Moment now);
 
 private:
@@ -68,6 +77,9 @@ private:
     std::vector<CameraOffset> m_offsets;
     std::size_t m_ranging;
     PlayClock m_clock;
+    bool m_isGrowing = true; ///< the end of the films is not known yet
+    /// Where the clock goes as soon as the films are known to reach so far.
+    std::optional<double> m_wanted;
 };
 
 } // namespace kavela

@@ -47,6 +47,10 @@ bool FrameRun::canGoOnTo(FrameNumber first) const {
     return !key || *key <= m_lastFed;
 }
 
+bool FrameRun::endedBefore(FrameNumber number) const {
+    return m_decoder.isEmpty() && m_lastFed < m_index->frame(number).packet;
+}
+
 bool FrameRun::start(const Order& order, const Interrupt& interrupt) {
     m_decoder.flush();
     m_isStarted = false;

@@ -33,8 +33,14 @@ public:
     /// that is wanted included, until the last is past or the film ends. False when interrupted.
     [[nodiscard]] bool run(const Order& order, const Interrupt& interrupt, const Take& take);
 
-private:
+    /// Whether a frame is reached from here sooner than from its key frame.
     [[nodiscard]] bool canGoOnTo(FrameNumber first) const;
+    /// The frame handed over last; -1 before the first one.
+    [[nodiscard]] FrameNumber lastOut() const { return m_lastOut; }
+    /// Whether the file came to its end before a frame that its index lists.
+    [[nodiscard]] bool endedBefore(FrameNumber number) const;
+
+private:
     [[nodiscard]] bool start(const Order& order, const Interrupt& interrupt);
     [[nodiscard]] bool goTo(PacketNumber key, const Interrupt& interrupt);
     [[nodiscard]] bool readUpTo(PacketNumber key, const Interrupt& interrupt);

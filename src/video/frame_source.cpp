@@ -1,6 +1,7 @@
 #include "video/frame_source.h"
 
 #include "video/frame_run.h"
+#include "video/video_error.h"
 
 #include <algorithm>
 
@@ -49,17 +50,21 @@ FrameSource::~FrameSource() {
 void FrameSource::setIndex(std::shared_ptr<const VideoIndex> index) {
     m_index = std::move(index);
     m_run->setIndex(m_index);
+    if (m_other)
+        m_other->setIndex(m_index);
 }
 
 FrameSource::Result FrameSource::frame(FrameNumber number, const Interrupt& interrupt,
                                        const Preview& preview) {
     if (number < 0 || number >= m_index->frameCount() || m_damaged.contains(number))
         return {};
-    const Stretch stretch = stretchFor(number);
+    Stretch stretch = stretchFor(number);
     m_lastAsked = number;
     if (FramePtr samples = m_cache->find(m_id, number))
         return {Outcome::Found, named(number, std::move(samples))};
     Take take{.wanted = number, .preview = preview ? &preview : nullptr};
+    stretch = withoutSettled(stretch);
+    takeNearerRun(stretch.first);
     if (!decode(stretch, take, interrupt))
         return {Outcome::Interrupted, {}};
     if (!take.found)
@@ -72,8 +77,9 @@ VideoFrame FrameSource::named(FrameNumber number, FramePtr samples) const {
 }
 
 FrameNumber FrameSource::stretchLength() const {
-    // The stretch in use, the one decoded for when it ends, and the one just left.
-    constexpr std::size_t Stretches = 3;
+    // The stretch in use, the one decoded for when it ends, the one just left, and the one around
+    // the place that is gone to next.
+    constexpr std::size_t Stretches = 4;
     const std::size_t frames = m_cache->fairShare() / Stretches / estimatedBytes(m_index->facts());
     return std::clamp(static_cast<FrameNumber>(frames), FrameNumber{1}, LongestStretch);
 }
@@ -109,9 +115,21 @@ bool FrameSource::isSettled(FrameNumber number) const {
     return m_damaged.contains(number) || m_cache->holds(m_id, number);
 }
 
-bool FrameSource::decode(Stretch stretch, Take& take, const Interrupt& interrupt) {
+/// Of two decoders that can go on to a frame the nearer one does.
+void FrameSource::takeNearerRun(FrameNumber first) {
+    if (!m_other || !m_other->canGoOnTo(first))
+        return;
+    if (!m_run->canGoOnTo(first) || m_other->lastOut() > m_run->lastOut())
+        std::swap(m_run, m_other);
+}
+
+FrameSource::Stretch FrameSource::withoutSettled(Stretch stretch) const {
     while (stretch.first < stretch.last && isSettled(stretch.first))
         ++stretch.first;
+    return stretch;
+}
+
+bool FrameSource::decode(Stretch stretch, Take& take, const Interrupt& interrupt) {
     const auto keep = [&](FrameNumber number, FramePtr samples) {
         if (number == take.wanted)
             take.found = samples;
@@ -153,6 +171,8 @@ bool FrameSource::decodeAgain(Stretch stretch, Take& take, const Interrupt& inte
     };
     if (!m_run->run({stretch.first, stretch.last, true}, interrupt, keep))
         return false;
+    if (m_run->endedBefore(stretch.last))
+        throw VideoError(m_index->facts().path, "the film could not be read any further");
     for (FrameNumber number = stretch.first; number < behind; ++number)
         if (isMissing(number))
             m_damaged.insert(number);
@@ -183,8 +203,31 @@ bool FrameSource::prefetch(FrameNumber number, Motion motion, const Interrupt& i
     return prefetchStretch(m_stretch, interrupt);
 }
 
+bool FrameSource::prepare(FrameNumber number, const Interrupt& interrupt) {
+    const FrameNumber half = stretchLength() / 2;
+    if (half < 1)
+        return true; // there is no room to keep anything for later
+    Stretch around{std::max<FrameNumber>(number - half, 0),
+                   std::min(number + half, m_index->frameCount() - 1)};
+    while (around.first <= around.last && isSettled(around.first))
+        ++around.first;
+    while (around.first <= around.last && isSettled(around.last))
+        --around.last;
+    if (around.first > around.last)
+        return true;
+    if (!m_other)
+        m_other = std::make_unique<FrameRun>(m_index);
+    Take take;
+    std::swap(m_run, m_other); // the one in use stays where somebody goes on from
+    static_cast<void>(decode(around, take, interrupt));
+    std::swap(m_run, m_other);
+    return false;
+}
+
 bool FrameSource::prefetchStretch(Stretch stretch, const Interrupt& interrupt) {
     Take take;
+    stretch = withoutSettled(stretch);
+    takeNearerRun(stretch.first);
     static_cast<void>(decode(stretch, take, interrupt));
     return false;
 }

@@ -48,7 +48,8 @@ public:
     void setIndex(std::shared_ptr<const VideoIndex> index);
     [[nodiscard]] const VideoIndex& index() const { return *m_index; }
 
-    /// The frame of a number; Damaged for one outside the film.
+    /// The frame of a number; Damaged for one outside the film. Throws VideoError when the file
+    /// cannot be read any more; it is to be opened anew then.
     [[nodiscard]] Result frame(FrameNumber number, const Interrupt& interrupt = {},
                                const Preview& preview = {});
 
@@ -56,6 +57,10 @@ public:
     /// rests. Returns whether there was
     /// nothing left to do; an interrupted call is taken up again by the next.
     bool prefetch(FrameNumber number, Motion motion, const Interrupt& interrupt = {});
+
+    /// Decodes around a frame that somebody is likely to go to later, with a decoder of its own, so
+    /// that going on from where he is stays as quick as before. Returns as prefetch() does.
+    bool prepare(FrameNumber number, const Interrupt& interrupt = {});
 
 private:
     struct Stretch {
@@ -72,6 +77,8 @@ private:
     [[nodiscard]] Stretch stretchBelow(FrameNumber number) const;
     [[nodiscard]] FrameNumber keyNumberFor(FrameNumber number) const;
     [[nodiscard]] bool isSettled(FrameNumber number) const;
+    [[nodiscard]] Stretch withoutSettled(Stretch stretch) const;
+    void takeNearerRun(FrameNumber first);
     [[nodiscard]] bool decode(Stretch stretch, Take& take, const Interrupt& interrupt);
     [[nodiscard]] bool decodeAgain(Stretch stretch, Take& take, const Interrupt& interrupt);
     [[nodiscard]] bool prefetchStretch(Stretch stretch, const Interrupt& interrupt);
@@ -81,6 +88,7 @@ private:
     std::shared_ptr<FrameCache> m_cache;
     FrameCache::SourceId m_id;
     std::unique_ptr<FrameRun> m_run;
+    std::unique_ptr<FrameRun> m_other; ///< stands elsewhere; none until it is first wanted
     std::set<FrameNumber> m_damaged;
     FrameNumber m_lastAsked = -1;
     Stretch m_stretch; ///< the last one decoded for going back

@@ -15,6 +15,9 @@ constexpr FrameNumber NearFrames = 30;
 /// Somebody who has not moved for so long may start in either direction next.
 constexpr auto QuietBeforeRest = std::chrono::milliseconds(150);
 
+/// Between two trials to read a film that could not be read.
+constexpr auto RestBetweenTrials = std::chrono::milliseconds(500);
+
 } // namespace
 
 ThreadedPlayer::ThreadedPlayer(std::filesystem::path path, std::shared_ptr<FrameCache> cache,
@@ -39,10 +42,22 @@ void ThreadedPlayer::requestPosition(double seconds) {
     request(seconds);
 }
 
-void ThreadedPlayer::request(const Request& request) {
+void ThreadedPlayer::request(const FrameRequest& request) {
     {
         const std::lock_guard lock(m_guard);
         m_request = request;
+        ++m_requests;
+    }
+    m_changed.notify_all();
+}
+
+void ThreadedPlayer::expect(std::optional<double> seconds) {
+    {
+        const std::lock_guard lock(m_guard);
+        if (m_expected == seconds)
+            return;
+        m_expected = seconds;
+        m_isExpectedNew = true;
     }
     m_changed.notify_all();
 }
@@ -52,10 +67,19 @@ std::shared_ptr<const VideoIndex> ThreadedPlayer::index() const {
     return m_index;
 }
 
+std::optional<FrameRequest> ThreadedPlayer::asked() const {
+    const std::lock_guard lock(m_guard);
+    return m_request ? m_request : m_target ? std::optional<FrameRequest>(*m_target) : std::nullopt;
+}
+
 std::optional<FrameNumber> ThreadedPlayer::target() const {
     const std::lock_guard lock(m_guard);
-    const auto next = m_request ? resolved(*m_request) : std::nullopt;
-    return next ? next : m_target;
+    return m_request ? resolved(*m_request) : m_target;
+}
+
+std::uint64_t ThreadedPlayer::requests() const {
+    const std::lock_guard lock(m_guard);
+    return m_requests;
 }
 
 std::optional<VideoFrame> ThreadedPlayer::shown() const {
@@ -63,14 +87,31 @@ std::optional<VideoFrame> ThreadedPlayer::shown() const {
     return m_shown;
 }
 
+/// A film that cannot be read, such as one on a disk that was unplugged, is tried again when
+/// something is asked of it.
 void ThreadedPlayer::readIndex(const std::stop_token& stop) {
-    guarded([&] {
-        auto index = readVideoIndex(m_path, stop, [this](const IndexProgress& progress) {
-            takeIndex(progress.soFar, progress.fraction);
-        });
-        if (index)
-            takeIndex(std::move(index), 1);
-    });
+    std::uint64_t before = 0;
+    do {
+        before = requests();
+        try {
+            auto index = readVideoIndex(m_path, stop, [this](const IndexProgress& progress) {
+                takeIndex(progress.soFar, progress.fraction);
+            });
+            if (index)
+                takeIndex(std::move(index), 1);
+            return;
+        } catch (const std::exception& fault) {
+            fail(fault.what());
+        }
+    } while (waitForRequestAfter(before, stop));
+}
+
+/// A film that plays asks many times a second.
+bool ThreadedPlayer::waitForRequestAfter(std::uint64_t before, const std::stop_token& stop) {
+    std::unique_lock lock(m_guard);
+    const auto isAsked = [this, before] { return m_requests != before; };
+    m_changed.wait_for(lock, stop, RestBetweenTrials, [] { return false; });
+    return m_changed.wait(lock, stop, isAsked);
 }
 
 void ThreadedPlayer::takeIndex(std::shared_ptr<const VideoIndex> index, double fraction) {
@@ -87,14 +128,6 @@ void ThreadedPlayer::takeIndex(std::shared_ptr<const VideoIndex> index, double f
         m_events.onIndex(known, fraction);
 }
 
-void ThreadedPlayer::guarded(const std::function<void()>& work) {
-    try {
-        work();
-    } catch (const std::exception& fault) {
-        fail(fault.what());
-    }
-}
-
 void ThreadedPlayer::fail(const std::string& message) {
     const std::lock_guard lock(m_eventGuard);
     if (m_events.onError)
@@ -102,23 +135,11 @@ void ThreadedPlayer::fail(const std::string& message) {
 }
 
 /// The frame of a request; none while the index does not reach so far.
-std::optional<FrameNumber> ThreadedPlayer::resolved(const Request& request) const {
-    if (!m_index || m_index->frameCount() == 0)
-        return std::nullopt;
-    const FrameNumber last = m_index->frameCount() - 1;
-    std::optional<FrameNumber> number;
-    if (const auto* const wanted = std::get_if<FrameNumber>(&request))
-        number = std::clamp<FrameNumber>(*wanted, 0, last);
-    else if (const auto* const stamp = std::get_if<CMTime>(&request))
-        number = m_index->frameAt(*stamp);
-    else
-        number = m_index->frameAt(std::get<double>(request));
-    if (!m_index->isComplete() && number == last)
-        return std::nullopt;
-    return number;
+std::optional<FrameNumber> ThreadedPlayer::resolved(const FrameRequest& request) const {
+    return m_index ? frameOf(*m_index, request) : std::nullopt;
 }
 
-bool ThreadedPlayer::isReady(const std::optional<Request>& request) const {
+bool ThreadedPlayer::isReady(const std::optional<FrameRequest>& request) const {
     return request && resolved(*request).has_value();
 }
 
@@ -130,30 +151,41 @@ bool ThreadedPlayer::isOvertaken(FrameNumber number) const {
     return next && m_mayBeOvertaken && std::abs(*next - number) > NearFrames;
 }
 
+/// What fails does not end the player: the film is opened anew for the next request.
 void ThreadedPlayer::work(const std::stop_token& stop) {
-    guarded([&] { workUntilStopped(stop); });
-}
-
-void ThreadedPlayer::workUntilStopped(const std::stop_token& stop) {
     std::optional<FrameSource> source;
     Idleness idleness = Idleness::Resting;
     while (const auto task = nextTask(idleness, stop)) {
-        if (!source)
-            source.emplace(task->index, m_cache);
-        else if (&source->index() != task->index.get())
-            source->setIndex(task->index);
-        if (task->isRequest) {
-            show(*source, task->number, stop);
-            idleness = Idleness::Busy;
-            continue;
+        try {
+            if (!source)
+                source.emplace(task->index, m_cache);
+            else if (&source->index() != task->index.get())
+                source->setIndex(task->index);
+            idleness = perform(*source, *task, stop);
+        } catch (const std::exception& fault) {
+            source.reset();
+            idleness = Idleness::Resting;
+            if (task->isRequest)
+                fail(fault.what());
         }
-        const auto isDisturbed = [&] {
-            const std::lock_guard lock(m_guard);
-            return stop.stop_requested() || isReady(m_request);
-        };
-        if (source->prefetch(task->number, task->motion, isDisturbed))
-            idleness = task->motion == Motion::None ? Idleness::Resting : Idleness::Pausing;
     }
+}
+
+ThreadedPlayer::Idleness ThreadedPlayer::perform(FrameSource& source, const Task& task,
+                                                 const std::stop_token& stop) {
+    if (task.isRequest) {
+        show(source, task, stop);
+        return Idleness::Busy;
+    }
+    const auto isDisturbed = [&] {
+        const std::lock_guard lock(m_guard);
+        return stop.stop_requested() || isReady(m_request);
+    };
+    if (task.expected && !source.prepare(*task.expected, isDisturbed))
+        return Idleness::Busy;
+    if (!source.prefetch(task.number, task.motion, isDisturbed))
+        return Idleness::Busy;
+    return task.motion == Motion::None ? Idleness::Resting : Idleness::Pausing;
 }
 
 /// The newest request, otherwise something to decode ahead. None once the player is to end.
@@ -162,15 +194,20 @@ std::optional<ThreadedPlayer::Task> ThreadedPlayer::nextTask(Idleness& idleness,
     const auto hasRequest = [this] { return isReady(m_request); };
     std::unique_lock lock(m_guard);
     if (idleness == Idleness::Resting)
-        m_changed.wait(lock, stop, hasRequest);
+        m_changed.wait(lock, stop,
+                       [&] { return hasRequest() || (m_isExpectedNew && m_index && m_target); });
     const bool isQuiet = idleness == Idleness::Pausing &&
                          !m_changed.wait_for(lock, stop, QuietBeforeRest, hasRequest);
     if (stop.stop_requested())
         return std::nullopt;
     if (!hasRequest()) {
         idleness = Idleness::Busy;
+        m_isExpectedNew = false;
         m_motion = isQuiet ? Motion::None : m_motion;
-        return Task{m_index, m_target.value_or(0), m_motion, false};
+        Task task{m_index, m_target.value_or(0), m_motion, false, m_requests};
+        if (m_expected && m_motion == Motion::None)
+            task.expected = resolved(*m_expected);
+        return task;
     }
     const FrameNumber number = *resolved(*m_request);
     const FrameNumber before = m_target.value_or(number);
@@ -178,19 +215,19 @@ std::optional<ThreadedPlayer::Task> ThreadedPlayer::nextTask(Idleness& idleness,
     if (number != before)
         m_motion = number < before ? Motion::Backward : Motion::Forward;
     m_target = number;
-    return Task{m_index, number, m_motion, true};
+    return Task{m_index, number, m_motion, true, m_requests};
 }
 
-void ThreadedPlayer::show(FrameSource& source, FrameNumber number, const std::stop_token& stop) {
-    const auto interrupt = [&] { return stop.stop_requested() || isOvertaken(number); };
-    const auto preview = [this](const VideoFrame& frame) { deliver(frame, true); };
-    const FrameSource::Result result = source.frame(number, interrupt, preview);
+void ThreadedPlayer::show(FrameSource& source, const Task& task, const std::stop_token& stop) {
+    const auto interrupt = [&] { return stop.stop_requested() || isOvertaken(task.number); };
+    const auto preview = [&](const VideoFrame& frame) { deliver(task, frame, true); };
+    const FrameSource::Result result = source.frame(task.number, interrupt, preview);
     if (stop.stop_requested())
         return;
     if (result.outcome == FrameSource::Outcome::Found) {
-        deliver(result.frame, false);
+        deliver(task, result.frame, false);
     } else if (result.outcome == FrameSource::Outcome::Damaged) {
-        showNearest(source, number, stop);
+        showNearest(source, task, stop);
     } else {
         const std::lock_guard lock(m_guard);
         m_mayBeOvertaken = false;
@@ -199,12 +236,12 @@ void ThreadedPlayer::show(FrameSource& source, FrameNumber number, const std::st
 
 /// Instead of a frame that cannot be decoded comes the next one that can, first in the direction
 /// of the motion, so that stepping leads across a damaged stretch.
-void ThreadedPlayer::showNearest(FrameSource& source, FrameNumber number,
+void ThreadedPlayer::showNearest(FrameSource& source, const Task& task,
                                  const std::stop_token& stop) {
-    const auto interrupt = [&] { return stop.stop_requested() || isOvertaken(number); };
-    const FrameNumber direction = m_motion == Motion::Backward ? -1 : 1;
+    const auto interrupt = [&] { return stop.stop_requested() || isOvertaken(task.number); };
+    const FrameNumber direction = task.motion == Motion::Backward ? -1 : 1;
     for (const FrameNumber step : {direction, -direction}) {
-        FrameNumber near = number + step;
+        FrameNumber near = task.number + step;
         for (; 0 <= near && near < source.index().frameCount(); near += step) {
             const FrameSource::Result result = source.frame(near, interrupt);
             if (result.outcome == FrameSource::Outcome::Interrupted)
@@ -215,14 +252,14 @@ void ThreadedPlayer::showNearest(FrameSource& source, FrameNumber number,
                 const std::lock_guard lock(m_guard);
                 m_target = near;
             }
-            deliver(result.frame, false);
+            deliver(task, result.frame, false);
             return;
         }
     }
     fail(VideoError(m_path, "no frame of the video can be decoded").what());
 }
 
-void ThreadedPlayer::deliver(const VideoFrame& frame, bool isPreview) {
+void ThreadedPlayer::deliver(const Task& task, const VideoFrame& frame, bool isPreview) {
     {
         const std::lock_guard lock(m_guard);
         m_mayBeOvertaken = true;
@@ -231,7 +268,7 @@ void ThreadedPlayer::deliver(const VideoFrame& frame, bool isPreview) {
     }
     const std::lock_guard lock(m_eventGuard);
     if (m_events.onFrame)
-        m_events.onFrame({frame, isPreview});
+        m_events.onFrame({frame, isPreview, task.request});
 }
 
 } // namespace kavela

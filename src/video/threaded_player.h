@@ -8,7 +8,6 @@
 #include <filesystem>
 #include <mutex>
 #include <thread>
-#include <variant>
 
 namespace kavela {
 
@@ -25,17 +24,21 @@ public:
     void showFrame(FrameNumber number) override;
     void requestStamp(const CMTime& stamp) override;
     void requestPosition(double seconds) override;
+    void expect(std::optional<double> seconds) override;
     [[nodiscard]] std::shared_ptr<const VideoIndex> index() const override;
+    [[nodiscard]] std::optional<FrameRequest> asked() const override;
     [[nodiscard]] std::optional<FrameNumber> target() const override;
+    [[nodiscard]] std::uint64_t requests() const override;
     [[nodiscard]] std::optional<VideoFrame> shown() const override;
 
 private:
-    using Request = std::variant<FrameNumber, CMTime, double>;
     struct Task {
         std::shared_ptr<const VideoIndex> index;
         FrameNumber number = 0;
         Motion motion = Motion::None;
-        bool isRequest = false; ///< otherwise to decode ahead of that frame
+        bool isRequest = false;                   ///< otherwise to decode ahead of that frame
+        std::uint64_t request = 0;                ///< how many there had been with this one
+        std::optional<FrameNumber> expected = {}; ///< to decode around, before anything else
     };
     enum class Idleness {
         Busy,    ///< there is something to decode ahead
@@ -43,20 +46,20 @@ private:
         Resting  ///< nothing more in either direction
     };
 
-    void request(const Request& request);
+    void request(const FrameRequest& request);
     void readIndex(const std::stop_token& stop);
     void takeIndex(std::shared_ptr<const VideoIndex> index, double fraction);
     void work(const std::stop_token& stop);
-    void workUntilStopped(const std::stop_token& stop);
+    [[nodiscard]] Idleness perform(FrameSource& source, const Task& task,
+                                   const std::stop_token& stop);
     [[nodiscard]] std::optional<Task> nextTask(Idleness& idleness, const std::stop_token& stop);
-    void show(FrameSource& source, FrameNumber number, const std::stop_token& stop);
-    void showNearest(FrameSource& source, FrameNumber number, const std::stop_token& stop);
-    void deliver(const VideoFrame& frame, bool isPreview);
+    void show(FrameSource& source, const Task& task, const std::stop_token& stop);
+    void showNearest(FrameSource& source, const Task& task, const std::stop_token& stop);
+    void deliver(const Task& task, const VideoFrame& frame, bool isPreview);
     void fail(const std::string& message);
-    /// Runs work that can throw; what is thrown becomes an event.
-    void guarded(const std::function<void()>& work);
-    [[nodiscard]] std::optional<FrameNumber> resolved(const Request& request) const;
-    [[nodiscard]] bool isReady(const std::optional<Request>& request) const;
+    [[nodiscard]] std::optional<FrameNumber> resolved(const FrameRequest& request) const;
+    [[nodiscard]] bool isReady(const std::optional<FrameRequest>& request) const;
+    [[nodiscard]] bool waitForRequestAfter(std::uint64_t before, const std::stop_token& stop);
     [[nodiscard]] bool isOvertaken(FrameNumber number) const;
 
     const std::filesystem::path m_path;
@@ -67,11 +70,14 @@ private:
     std::mutex m_eventGuard;
     std::condition_variable_any m_changed;
     std::shared_ptr<const VideoIndex> m_index;
-    std::optional<Request> m_request;    ///< not begun yet
+    std::optional<FrameRequest> m_request; ///< not begun yet
+    std::uint64_t m_requests = 0;
     std::optional<FrameNumber> m_target; ///< begun last
     std::optional<VideoFrame> m_shown;
     Motion m_motion = Motion::None;
     bool m_mayBeOvertaken = true; ///< something was shown since a request was last given up
+    std::optional<double> m_expected;
+    bool m_isExpectedNew = false;
 
     std::jthread m_indexer;
     std::jthread m_worker;

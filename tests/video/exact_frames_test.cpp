@@ -1,5 +1,7 @@
 #include "video/frame_source.h"
 
+#include "video/machine_memory.h"
+
 #include "clips.h"
 
 #include <gtest/gtest.h>
@@ -52,6 +54,34 @@ TEST_P(ExactFrames, StampsAreThoseOfTheFile) {
     ASSERT_EQ(std::ssize(probed), m_index->frameCount());
     for (FrameNumber i = 0; i < m_index->frameCount(); ++i)
         ASSERT_EQ(m_index->frame(i).stamp, probed[static_cast<std::size_t>(i)]) << "frame " << i;
+}
+
+TEST(PreparedFrames, AreThereAndExactAndLeaveTheRestAsItWas) {
+    const auto cache = std::make_shared<FrameCache>(std::size_t{64} << 20);
+    FrameSource source(readVideoIndex(clip("h264_240.mp4")), cache);
+    constexpr FrameCache::SourceId TheFilm = 0;
+    const auto number = [&](FrameNumber wanted) {
+        const FrameSource::Result result = source.frame(wanted);
+        return result.frame.samples ? numberIn(*result.frame.samples) : -1;
+    };
+    ASSERT_EQ(number(10), 10);
+    int interruptions = 0;
+    while (!source.prepare(600, [&] { return ++interruptions % 40 == 0; }))
+        if (interruptions % 3 == 0) { // somebody steps on meanwhile
+            ASSERT_EQ(number(11 + interruptions / 40), 11 + interruptions / 40);
+        }
+    for (const FrameNumber near : {580, 600, 620})
+        EXPECT_TRUE(cache->holds(TheFilm, near)) << "frame " << near;
+    for (FrameNumber i = 580; i < 760; ++i)
+        ASSERT_EQ(number(i), i) << "also where what was prepared ends";
+    for (FrameNumber i = 60; i > 0; --i)
+        ASSERT_EQ(number(i), i);
+}
+
+TEST(FrameMemory, IsAQuarterOfTheMachineAtMost) {
+    EXPECT_EQ(frameMemory(std::size_t{1} << 30), std::size_t{256} << 20);
+    EXPECT_EQ(frameMemory(std::size_t{64} << 30), std::size_t{768} << 20);
+    EXPECT_GT(machineMemory(), std::size_t{64} << 20);
 }
 
 TEST_P(ExactFrames, ForwardBackwardAndAnywhere) {

@@ -5,12 +5,17 @@
 
 #include <gmock/gmock.h>
 
+#include <unistd.h>
+
 #include <condition_variable>
+#include <filesystem>
+#include <fstream>
 #include <mutex>
 
 namespace kavela {
 namespace {
 
+namespace fs = std::filesystem;
 using namespace std::chrono_literals;
 using ::testing::HasSubstr;
 
@@ -30,6 +35,10 @@ public:
     std::string error() {
         const std::lock_guard lock(m_guard);
         return m_error;
+    }
+    void forgetError() {
+        const std::lock_guard lock(m_guard);
+        m_error.clear();
     }
     [[nodiscard]] bool waitForFrame(FrameNumber number) {
         return wait([=, this] {
@@ -145,6 +154,47 @@ TEST(ThreadedPlayer, StepsAcrossWhatCannotBeDecoded) {
     watched.player->showFrame(first.number + 1);
     ASSERT_TRUE(watched.waitForFrame(first.number + 1));
     EXPECT_EQ(numberIn(*watched.player->shown()->samples), numberIn(*first.samples) + 1);
+}
+
+TEST(ThreadedPlayer, TellsWhatWasAskedBeforeTheFilmIsRead) {
+    Watched watched(clip("h264_50.mp4"));
+    watched.player->showFrame(10);
+    watched.player->requestPosition(2);
+    ASSERT_TRUE(watched.player->asked());
+    const FrameRequest asked = *watched.player->asked();
+    ASSERT_TRUE(watched.waitForFrame(100));
+    EXPECT_EQ(frameOf(*watched.player->index(), asked), 100);
+    EXPECT_EQ(watched.frames().back().request, watched.player->requests());
+    EXPECT_EQ(watched.player->asked(), FrameRequest(FrameNumber{100}));
+}
+
+TEST(ThreadedPlayer, GoesOnOnceAFilmCanBeReadAgain) {
+    const fs::path folder = fs::temp_directory_path() / ("kavela-film-" + std::to_string(getpid()));
+    fs::create_directories(folder);
+    const fs::path film = folder / "film.mov";
+    const fs::path away = folder / "away.mov";
+    fs::copy_file(clip("intra.mov"), away, fs::copy_options::overwrite_existing);
+    {
+        Watched watched(film);
+        watched.player->showFrame(3);
+        ASSERT_TRUE(watched.waitForError()) << "the stick is not there yet";
+        fs::rename(away, film);
+        watched.player->showFrame(20);
+        ASSERT_TRUE(watched.waitForFrame(20));
+        const auto whole = fs::file_size(film);
+        fs::copy_file(film, away);
+        fs::resize_file(film, whole / 8); // as a stick that is pulled out while its film is open
+        watched.forgetError();
+        watched.player->showFrame(95);
+        ASSERT_TRUE(watched.waitForError());
+        EXPECT_THAT(watched.error(), HasSubstr("film.mov"));
+        std::ofstream(film, std::ios::binary | std::ios::in | std::ios::out)
+            << std::ifstream(away, std::ios::binary).rdbuf();
+        watched.player->showFrame(95);
+        ASSERT_TRUE(watched.waitForFrame(95));
+        EXPECT_EQ(numberIn(*watched.player->shown()->samples), 95);
+    }
+    fs::remove_all(folder);
 }
 
 /// Plays by refreshes of a screen that waits for every frame.
