@@ -7,6 +7,7 @@
 #include "desktop/cross/tick_strip.h"
 #include "desktop/cross/trials/trial_page.h"
 #include "desktop/film/film_deck.h"
+#include "desktop/film/film_memory.h"
 #include "desktop/film/film_sound.h"
 #include "desktop/film/film_view.h"
 #include "desktop/film/time_line.h"
@@ -31,9 +32,6 @@ namespace kavela::desktop {
 
 namespace {
 
-/// Decoded frames: some seconds around the place that is looked at.
-constexpr std::size_t FrameCacheBytes = 512U << 20U;
-
 /// A label of one or more lines that explains.
 QLabel* quietLabel(const char* name) {
     auto* label = new QLabel;
@@ -49,7 +47,7 @@ QLabel* quietLabel(const char* name) {
 CrossWindow::CrossWindow(Workspace& workspace, Autosave autosave)
     : m_workspace(workspace),
       m_document(workspace, std::move(autosave)),
-      m_deck(new FilmDeck(std::make_shared<FrameCache>(FrameCacheBytes), this)),
+      m_deck(new FilmDeck(FilmMemory::of(workspace), this)),
       m_sound(new FilmSound(*m_deck, this)),
       m_chooseFiles([this](const QString& title, const QString& filter) {
           return QFileDialog::getOpenFileNames(this, title, m_document.folder(), filter);

@@ -2,6 +2,7 @@
 
 #include "desktop/shell/theme.h"
 #include "desktop/shell/workspace.h"
+#include "video/machine_memory.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -10,6 +11,7 @@
 #include <QFormLayout>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QLocale>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QScrollArea>
@@ -57,6 +59,22 @@ QString qtText(std::string_view text) {
     return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
 }
 
+/// Nothing to choose, and worth knowing where memory is short.
+QLabel* frameMemoryNote() {
+    const auto text = [](std::size_t bytes) {
+        return QLocale().formattedDataSize(static_cast<qint64>(bytes), 1,
+                                           QLocale::DataSizeTraditionalFormat);
+    };
+    const std::size_t machine = machineMemory();
+    auto* note = new QLabel(SettingsWindow::tr("The decoded frames of all open films together take "
+                                               "at most %1, and never more than a quarter of this "
+                                               "computer's memory of %2.")
+                                .arg(text(frameMemory(machine)), text(machine)));
+    note->setObjectName("frameMemory");
+    note->setWordWrap(true);
+    return note;
+}
+
 } // namespace
 
 SettingsWindow::SettingsWindow(Workspace& workspace, QWidget* parent)
@@ -71,6 +89,8 @@ SettingsWindow::SettingsWindow(Workspace& workspace, QWidget* parent)
         form->setSpacing(theme::LargeSpacing);
         for (const std::string_view key : page.keys)
             form->addWidget(editor(entryOf(key)));
+        if (std::ranges::find(page.keys, "startinCMTime") != page.keys.end())
+            form->addWidget(frameMemoryNote());
         form->addStretch(1);
         tabs->addTab(sheet, tr(page.title));
     }

@@ -2,6 +2,7 @@
 
 #include "common/number_text.h"
 #include "desktop/film/film_deck.h"
+#include "desktop/film/film_memory.h"
 #include "desktop/film/film_sound.h"
 #include "desktop/film/film_view.h"
 #include "desktop/film/time_line.h"
@@ -39,9 +40,6 @@ namespace kavela::desktop {
 
 namespace {
 
-/// Decoded frames of all cameras: some seconds around the place that is looked at.
-constexpr std::size_t FrameCacheBytes = 768U << 20U;
-
 QString qtText(const std::string& text) {
     return QString::fromStdString(text);
 }
@@ -66,7 +64,7 @@ TakingWindow::TakingWindow(Workspace& workspace, Autosave autosave)
       m_runs(m_document),
       m_race(workspace),
       m_tableModel(m_race),
-      m_deck(new FilmDeck(std::make_shared<FrameCache>(FrameCacheBytes), this)),
+      m_deck(new FilmDeck(FilmMemory::of(workspace), this)),
       m_sound(new FilmSound(*m_deck, this)),
       m_chooseFiles([this](const QString& title, const QString& filter) {
           return QFileDialog::getOpenFileNames(this, title, m_document.folder(), filter);
