@@ -8,6 +8,7 @@
 #include <benchmark/benchmark.h>
 #include <opencv2/videoio.hpp>
 
+#include <algorithm>
 #include <memory>
 #include <random>
 #include <stdexcept>
@@ -19,6 +20,7 @@ namespace kavela::bench {
 namespace {
 
 constexpr FrameNumber Frames = 600;
+constexpr double Rate = 60000.0 / 1001;
 constexpr std::size_t CacheBytes = std::size_t{512} << 20;
 constexpr int Seeks = 30;
 constexpr int Steps = 60;
@@ -77,6 +79,11 @@ public:
     [[nodiscard]] FramePtr samples(FrameNumber number) {
         return m_source.frame(number).frame.samples;
     }
+    /// Decodes around a frame while nobody asks for anything.
+    void prepare(FrameNumber number) {
+        while (!m_source.prepare(number))
+            ;
+    }
     [[nodiscard]] PictureMaker& pictures() { return m_pictures; }
 
 private:
@@ -103,6 +110,26 @@ private:
     FrameNumber m_next = 0;
 };
 
+/// A tool that starts anew for each frame.
+class CommandLine {
+public:
+    void show(FrameNumber number) {
+        constexpr double Early = 0.5; // frames: a moment just behind it would give the next one
+        const double seconds = std::max(0.0, (static_cast<double>(number) - Early) / Rate);
+        const std::string pixels = outputOf(
+            {KAVELA_FFMPEG, "-v", "error", "-ss", std::to_string(seconds), "-i",
+             film().path().string(), "-frames:v", "1", "-pix_fmt", "bgra", "-f", "rawvideo", "-"});
+        if (pixels.empty())
+            throw std::runtime_error("the peer cannot read the film");
+    }
+};
+
+/// The part of it that is not seeking.
+class CommandLineAtFirst : public CommandLine {
+public:
+    void show(FrameNumber) { CommandLine::show(0); }
+};
+
 /// A player that stays open from one repetition to the next.
 template <class Player>
 class Opened {
@@ -126,6 +153,27 @@ void addSeek(const std::string& name) {
                                      Player& opened = (*player)();
                                      const FrameNumber number =
                                          static_cast<FrameNumber>((*dice)()) % Frames;
+                                     for ([[maybe_unused]] const auto iteration : state)
+                                         opened.show(number);
+                                 })
+        ->Iterations(1)
+        ->Repetitions(Seeks)
+        ->UseRealTime();
+}
+
+/// To a place that was to be expected, from another one.
+void addExpected() {
+    const auto player = std::make_shared<Opened<Ours>>();
+    const auto dice = std::make_shared<std::mt19937>(13);
+    benchmark::RegisterBenchmark("video/expected/kavela",
+                                 [=](benchmark::State& state) {
+                                     Ours& opened = (*player)();
+                                     const auto roll = [&] {
+                                         return static_cast<FrameNumber>((*dice)()) % Frames;
+                                     };
+                                     opened.show(roll());
+                                     const FrameNumber number = roll();
+                                     opened.prepare(number);
                                      for ([[maybe_unused]] const auto iteration : state)
                                          opened.show(number);
                                  })
@@ -175,6 +223,9 @@ void addBack(const std::string& name) {
 void addVideo() {
     addSeek<Ours>("video/seek/kavela");
     addSeek<Peer>("video/seek/opencv");
+    addSeek<CommandLine>("video/seek/ffmpeg");
+    addSeek<CommandLineAtFirst>("video/seek/ffmpeg_first");
+    addExpected();
     addForward<Ours>("video/forward/kavela");
     addForward<Peer>("video/forward/opencv");
     addBack<Ours>("video/back/kavela");
