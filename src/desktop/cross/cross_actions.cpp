@@ -73,6 +73,7 @@ void CrossActions::makeFileMenu() {
         [this] { m_window.importFilms(); });
     add(*menu, tr("Film of the selected trial or &heat…"), {Qt::CTRL | Qt::SHIFT | Qt::Key_I},
         [this] { m_window.chooseFilm(); });
+    add(*menu, tr("&Where are the films now?…"), {}, [this] { m_window.findFilms(); });
     menu->addSeparator();
     add(*menu, tr("&Save data"), {QKeySequence::Save}, [this] { (void)m_window.save(); });
     add(*menu, tr("Split &taking of this race"), {Qt::CTRL | Qt::SHIFT | Qt::Key_R},
@@ -93,6 +94,10 @@ void CrossActions::makeEditMenu() {
     undo->setShortcut(QKeySequence::Undo);
     QAction* const redo = stack.createRedoAction(&m_window, tr("&Redo"));
     redo->setShortcut(Qt::CTRL | Qt::SHIFT | Qt::Key_Z);
+    undo->disconnect(&stack); // what waits for its frame is taken first
+    redo->disconnect(&stack);
+    connect(undo, &QAction::triggered, &m_window, &CrossWindow::undo);
+    connect(redo, &QAction::triggered, &m_window, &CrossWindow::redo);
     menu->addActions({undo, redo});
     menu->addSeparator();
     add(*menu, tr("&Course of the cross race"), {Qt::CTRL | Qt::Key_G},

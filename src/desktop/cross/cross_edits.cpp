@@ -4,6 +4,9 @@
 #include "desktop/film/film_deck.h"
 #include "desktop/shell/workspace.h"
 #include "desktop/taking/folder_films.h"
+#include "splittaking/marking.h"
+
+#include <QScopedValueRollback>
 
 #include <algorithm>
 #include <limits>
@@ -18,16 +21,30 @@ constexpr double SameMoment = 1e-6;
 
 } // namespace
 
+/// Acts on the page in front with the frame that is meant now, as soon as that is known.
+void CrossWindow::press(const std::function<void(CrossPage&, const CMTime&)>& act) {
+    if (m_deck->cameras() == 0) {
+        refuse(page().film().isEmpty()
+                   ? tr("There is no film to mark on.")
+                   : tr("Nothing can be marked: %1 is not in the folder of the split file. File > "
+                        "Where are the films now?")
+                         .arg(page().film()));
+        return;
+    }
+    m_deck->whenMeant(
+        [this, act, meant = &page()](const std::vector<CMTime>& stamps) {
+            const QScopedValueRollback<bool> pressed(m_isPressed, true);
+            act(*meant, stamps.front());
+        },
+        [this](const QString& why) { refuse(why); });
+}
+
 void CrossWindow::mark() {
-    if (const auto moment = CrossDesk{m_document, *m_deck, m_workspace}.moment())
-        page().mark(*moment);
-    else if (m_deck->cameras() == 0)
-        tell(tr("There is no film to mark on."));
+    press([](CrossPage& page, const CMTime& moment) { page.mark(moment); });
 }
 
 void CrossWindow::moveMarkHere() {
-    if (const auto moment = CrossDesk{m_document, *m_deck, m_workspace}.moment())
-        page().moveMark(*moment);
+    press([](CrossPage& page, const CMTime& moment) { page.moveMark(moment); });
 }
 
 /// The frame on the screen stays.
@@ -36,21 +53,58 @@ void CrossWindow::nudgeMark(int frames) {
     const auto selected = page().selectedMark();
     const auto mark = selected ? selected : page().lastMark();
     if (!mark || *mark >= marks.size()) {
-        tell(tr("No mark is selected. Ctrl and the arrows go from mark to mark."));
+        refuse(tr("No mark is selected. Ctrl and the arrows go from mark to mark."));
         return;
     }
     if (mark != selected)
         page().selectMark(*mark);
-    page().moveMark(m_deck->nudged(0, marks[*mark].stamp, frames));
+    const auto nudge = [this, meant = &page(), stamp = marks[*mark].stamp, frames] {
+        meant->moveMark(m_deck->nudged(0, stamp, frames));
+    };
+    if (m_deck->cameras() == 0 || !m_deck->fault(0).isEmpty() || m_deck->index(0))
+        nudge();
+    else
+        m_deck->whenKnown(
+            marks[*mark].stamp, [nudge](const std::vector<CMTime>&) { nudge(); },
+            [this](const QString& why) { refuse(why); });
 }
 
 void CrossWindow::dropMark(std::size_t mark, double seconds) {
-    const auto index = m_deck->index(0);
-    const auto frame = index ? index->frameAt(seconds) : std::nullopt;
-    if (!frame || mark >= page().marks().size())
+    const auto marks = page().marks();
+    if (mark >= marks.size())
         return;
     page().selectMark(mark);
-    page().moveMark(index->stampOf(*frame));
+    const CMTime& before = marks[mark].stamp;
+    if (m_deck->cameras() == 0 || !m_deck->fault(0).isEmpty())
+        page().moveMark(later(before, seconds - before.seconds()));
+    else
+        m_deck->whenKnown(
+            seconds,
+            [meant = &page()](const std::vector<CMTime>& stamps) {
+                meant->moveMark(stamps.front());
+            },
+            [this](const QString& why) { refuse(why); });
+}
+
+void CrossWindow::findFilms() {
+    const QString folder = m_chooseFolder(tr("Where are the films now?"));
+    if (folder.isEmpty())
+        return;
+    const QStringList missing = m_document.findFilms(folder);
+    showDocument();
+    if (!missing.isEmpty())
+        refuse(tr("Not found: %1.").arg(missing.join(", ")));
+}
+
+/// What waits for its frame is the last step.
+void CrossWindow::undo() {
+    m_deck->finishPresses();
+    m_document.undoStack().undo();
+}
+
+void CrossWindow::redo() {
+    m_deck->finishPresses();
+    m_document.undoStack().redo();
 }
 
 void CrossWindow::goToMark(std::size_t mark) {

@@ -23,6 +23,8 @@ struct CrossDesk {
     [[nodiscard]] const crossdata030& cross() const;
     /// The frame on the screen; nothing without one, or while another one only stands in for it.
     [[nodiscard]] std::optional<CMTime> moment() const;
+    /// Whether keys and buttons have a film to mark on.
+    [[nodiscard]] bool hasFilm() const;
 };
 
 /// A page of the cross window: what it lists, the film of what is selected there, the marks on that
@@ -68,9 +70,12 @@ signals:
     void marksChanged();               ///< other marks, or another one selected
     void flashed(const QString& text); ///< to be shown on the film for a moment
     void told(const QString& text);    ///< to be shown below the page
+    void refused(const QString& why);  ///< what was pressed could not be done
 
 protected:
     void edit(const QString& what, const std::function<void(crossdata030&)>& change);
+    /// Acts with the frame that is meant by what is pressed now, as soon as it is known.
+    void whenMeant(std::function<void(const CMTime&)> act);
 
     CrossDesk m_desk;
 };

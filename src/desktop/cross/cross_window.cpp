@@ -51,6 +51,9 @@ CrossWindow::CrossWindow(Workspace& workspace, Autosave autosave)
       m_sound(new FilmSound(*m_deck, this)),
       m_chooseFiles([this](const QString& title, const QString& filter) {
           return QFileDialog::getOpenFileNames(this, title, m_document.folder(), filter);
+      }),
+      m_chooseFolder([this](const QString& title) {
+          return QFileDialog::getExistingDirectory(this, title, m_document.folder());
       }) {
     setAttribute(Qt::WA_DeleteOnClose);
     setAcceptDrops(true);
@@ -118,7 +121,10 @@ void CrossWindow::addPage(CrossPage& page, const QString& title) {
     connect(&page, &CrossPage::filmChanged, this, ifInFront([this] { showFilm(); }));
     connect(&page, &CrossPage::marksChanged, this, ifInFront([this] { showMarks(); }));
     connect(&page, &CrossPage::flashed, this, [this](const QString& text) { m_view->flash(text); });
-    connect(&page, &CrossPage::told, this, &CrossWindow::tell);
+    connect(&page, &CrossPage::refused, this, &CrossWindow::refuse);
+    connect(&page, &CrossPage::told, this, [this](const QString& text) {
+        m_isPressed && !text.isEmpty() ? refuse(text) : tell(text);
+    });
 }
 
 QWidget* CrossWindow::makeStage() {
@@ -150,6 +156,7 @@ void CrossWindow::connectParts() {
     connect(m_deck, &FilmDeck::frameShown, this, [this] { page().showFrame(); });
     connect(m_deck, &FilmDeck::stateChanged, this, &CrossWindow::showState);
     connect(m_deck, &FilmDeck::indexChanged, this, &CrossWindow::showHealth);
+    connect(m_view, &FilmView::answered, this, &CrossWindow::findFilms);
     connect(m_line, &TimeLine::markClicked, this, &CrossWindow::goToMark);
     connect(m_line, &TimeLine::markDropped, this, &CrossWindow::dropMark);
     connect(m_ticks, &TickStrip::markClicked, this, &CrossWindow::goToMark);
@@ -204,6 +211,7 @@ void CrossWindow::showPage(Page page) {
 }
 
 void CrossWindow::showPageInFront() {
+    m_deck->finishPresses();
     if (m_front && m_front != &page())
         m_front->commit();
     m_front = &page();
@@ -233,29 +241,47 @@ void CrossWindow::tell(const QString& text) {
 /// A film that is open already goes on.
 void CrossWindow::showFilm() {
     const QString name = page().film();
-    const bool isBare = !name.contains('/') && !name.contains('\\') && name != "..";
-    const QString film = m_document.folder() + '/' + name;
-    const bool isThere = !name.isEmpty() && isBare && QFileInfo(film).isFile();
+    const QString film = m_document.pathOf(name.toStdString());
+    const bool isThere = QFileInfo(film).isFile();
     const QStringList films = isThere ? QStringList(film) : QStringList();
     if (films != m_deck->films()) {
         m_health->clear();
         m_view->setMessage({});
+        rememberFilmPlace();
         m_deck->open(films);
         const auto marks = page().marks();
-        if (isThere && !marks.empty() && m_workspace.preferences().boolean("startinCMTime"))
+        const auto left = m_places.find(film);
+        if (isThere && left != m_places.end())
+            m_deck->seek(left->second);
+        else if (isThere && !marks.empty() && m_workspace.preferences().boolean("startinCMTime"))
             m_deck->seek(marks.front().stamp);
     }
     if (isThere)
         return;
     const bool isNothing = &page() == static_cast<CrossPage*>(m_trials) && !m_trials->trial();
-    m_view->setMessage(isNothing ? tr("Import films with Ctrl+I, or drop them here: each becomes a "
-                                      "time trial.")
-                       : name.isEmpty()
-                           ? tr("No film yet. Ctrl+Shift+I chooses the film of what is selected; "
-                                "films can be dropped here too.")
-                           : tr("%1 is not in the folder of the split file. Ctrl+Shift+I chooses "
-                                "another film.")
-                                 .arg(name));
+    if (isNothing)
+        m_view->setMessage(tr("Import films with Ctrl+I, or drop them here: each becomes a time "
+                              "trial."));
+    else if (name.isEmpty())
+        m_view->setMessage(tr("No film yet. Ctrl+Shift+I chooses the film of what is selected; "
+                              "films can be dropped here too."));
+    else
+        m_view->setQuestion(tr("%1 is not in the folder of the split file. Ctrl+Shift+I chooses "
+                               "another film.")
+                                .arg(name),
+                            tr("Where are the films now?…"));
+}
+
+void CrossWindow::rememberFilmPlace() {
+    const auto meant = m_deck->meant();
+    if (!meant.empty())
+        m_places.insert_or_assign(m_deck->films().front(), meant.front());
+}
+
+/// Whoever looks at the film hears and sees that a key did nothing.
+void CrossWindow::refuse(const QString& why) {
+    tell(why);
+    m_view->refuse(why);
 }
 
 void CrossWindow::showMarks() {
@@ -294,6 +320,7 @@ void CrossWindow::showHealth() {
 }
 
 bool CrossWindow::commit() {
+    m_deck->finishPresses();
     page().commit();
     return m_course->commit();
 }

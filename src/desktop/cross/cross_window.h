@@ -6,6 +6,7 @@
 #include <QMainWindow>
 
 #include <functional>
+#include <map>
 
 class QLabel;
 class QTabWidget;
@@ -61,11 +62,18 @@ public:
     void importFilms();
     /// Chooses the film of the selected trial or heat.
     void chooseFilm();
+    /// Asks in which folder the films are now, and finds them there by their names.
+    void findFilms();
+    void undo();
+    void redo();
     bool save();
 
     /// Where files come from in place of the platform's dialogs, as in tests.
     using ChooseFiles = std::function<QStringList(const QString& title, const QString& filter)>;
     void setChooseFiles(ChooseFiles choose) { m_chooseFiles = std::move(choose); }
+    /// The same for a folder; empty for none.
+    using ChooseFolder = std::function<QString(const QString& title)>;
+    void setChooseFolder(ChooseFolder choose) { m_chooseFolder = std::move(choose); }
 
 signals:
     void homeRequested();
@@ -93,6 +101,9 @@ private:
     void showState();
     void showHealth();
     void tell(const QString& text);
+    void refuse(const QString& why);
+    void press(const std::function<void(CrossPage&, const CMTime&)>& act);
+    void rememberFilmPlace();
     bool commit();
     [[nodiscard]] QStringList copied(const QStringList& files);
 
@@ -102,6 +113,9 @@ private:
     FilmSound* m_sound;
     CrossActions* m_actions = nullptr;
     ChooseFiles m_chooseFiles;
+    ChooseFolder m_chooseFolder;
+    std::map<QString, CMTime> m_places; ///< where a film was left
+    bool m_isPressed = false; ///< a key acts: what a page tells meanwhile is why it did not
 
     QTabWidget* m_tabs = nullptr;
     CourseStrip* m_course = nullptr;

@@ -40,10 +40,13 @@ void CameraSlot::put(const ShownFrame& shown) {
     }
     FilmPicture made{shown.frame,
                      imageOf(m_maker->make(*shown.frame.samples, {box.width(), box.height()})),
-                     shown.isPreview};
+                     shown.isPreview, shown.request};
     bool isFirst = false;
     {
         const std::scoped_lock lock(m_guard);
+        if (!shown.isPreview)
+            m_settledRequest = shown.request;
+        made.settledRequest = m_settledRequest;
         isFirst = !m_waiting;
         m_waiting = std::move(made);
     }

@@ -6,6 +6,7 @@
 #include <QImage>
 #include <QSize>
 
+#include <cstdint>
 #include <functional>
 #include <mutex>
 #include <optional>
@@ -16,7 +17,10 @@ namespace kavela::desktop {
 struct FilmPicture {
     VideoFrame frame;
     QImage image;
-    bool isPreview = false; ///< stands in until the frame that was asked for is decoded
+    bool isPreview = false;    ///< stands in until the frame that was asked for is decoded
+    std::uint64_t request = 0; ///< as ShownFrame has it
+    /// The same of the last frame up to this one that did not stand in.
+    std::uint64_t settledRequest = 0;
 };
 
 /// Where a player's thread leaves the latest picture for the interface. Pictures that came faster
@@ -39,6 +43,7 @@ private:
     std::mutex m_guard;
     QSize m_box;
     std::optional<FilmPicture> m_waiting;
+    std::uint64_t m_settledRequest = 0;    ///< also of a picture that was dropped
     std::unique_ptr<PictureMaker> m_maker; ///< used by the player's thread alone
 };
 

@@ -4,6 +4,9 @@
 #include "splittaking/marking.h"
 #include "video/threaded_player.h"
 
+#include <chrono>
+#include <thread>
+
 namespace kavela::desktop {
 
 namespace {
@@ -12,6 +15,9 @@ constexpr int RefreshMilliseconds = 8; // above the rate of any screen; nothing 
 
 /// A mark moves by this where its film is not open.
 constexpr double SecondsWithoutFrames = 0.01;
+
+/// A film is read so far in less, unless its disk does not answer.
+constexpr auto LongestWait = std::chrono::seconds(3);
 
 /// A mark from elsewhere may lie before the film's first frame or behind its last one.
 bool isWithin(const VideoIndex& film, const CMTime& stamp) {
@@ -22,7 +28,9 @@ bool isWithin(const VideoIndex& film, const CMTime& stamp) {
 } // namespace
 
 FilmDeck::FilmDeck(std::shared_ptr<FrameCache> cache, QObject* parent)
-    : QObject(parent), m_cache(std::move(cache)) {
+    : QObject(parent),
+      m_cache(std::move(cache)),
+      m_presses([this](const PressQueue::Meant& meant) { return stampsOf(meant); }) {
     m_tick.setTimerType(Qt::PreciseTimer);
     m_tick.setInterval(RefreshMilliseconds);
     connect(&m_tick, &QTimer::timeout, this, [this] {
@@ -36,6 +44,7 @@ FilmDeck::FilmDeck(std::shared_ptr<FrameCache> cache, QObject* parent)
 
 FilmDeck::~FilmDeck() {
     blockSignals(true); // whoever shows the films may be gone in part
+    m_presses.clear();
     open({});
 }
 
@@ -44,20 +53,26 @@ CameraGroup::Moment FilmDeck::now() {
 }
 
 void FilmDeck::open(const QStringList& films, const QStringList& beside) {
+    m_presses.refuseAll(tr("The film was closed before it had been read so far."));
     ++m_generation;
     m_tick.stop();
     m_group.reset();
     m_players.clear(); // ends their threads
     m_slots.clear();
     m_shown.clear();
+    m_jumps.clear();
+    m_faults.clear();
     m_films = films;
     m_beside = films.isEmpty() ? QStringList() : beside;
     for (const QString& film : m_films + m_beside)
         addCamera(film);
     if (!m_players.empty()) {
         m_group = std::make_unique<CameraGroup>(m_players, cameras());
-        m_group->player(0).showFrame(0);
-        m_group->seek(0.0, now());
+        jumpWithGroup([](CameraGroup& group) {
+            group.player(0).showFrame(0);
+            group.seek(0.0, now());
+        });
+        return;
     }
     emit stateChanged();
 }
@@ -74,6 +89,8 @@ void FilmDeck::addCamera(const QString& film) {
     if (camera < m_boxes.size())
         slot->setBox(m_boxes[camera]);
     m_shown.emplace_back();
+    m_jumps.emplace_back();
+    m_faults.emplace_back();
     m_players.push_back(
         std::make_shared<ThreadedPlayer>(film.toStdString(), m_cache, eventsOf(camera, slot)));
 }
@@ -92,29 +109,61 @@ PlayerEvents FilmDeck::eventsOf(std::size_t camera, const std::shared_ptr<Camera
     PlayerEvents events;
     // Events never come two at once, so that the picture maker is used by one of them at a time.
     events.onFrame = [slot](const ShownFrame& shown) { slot->put(shown); };
-    events.onIndex = [this, camera, slot, post](const auto& index, double) {
+    events.onIndex = [this, camera, slot, post, generation](const auto& index, double) {
         if (!index)
             return;
         slot->setFacts(index->facts());
-        post([this, camera] {
+        post([this, camera, generation] {
             m_group->tick(now()); // the clock learns how long the films are
+            m_faults[camera].clear();
+            m_presses.run();
+            if (generation != m_generation)
+                return;
             emit indexChanged(camera);
         });
     };
     events.onError = [this, camera, post](const std::string& message) {
-        post([this, camera, text = QString::fromStdString(message)] { emit failed(camera, text); });
+        post([this, camera, text = QString::fromStdString(message)] { fail(camera, text); });
     };
     return events;
+}
+
+/// A film that cannot be read is not played, which would try to read it on and on.
+void FilmDeck::fail(std::size_t camera, const QString& message) {
+    if (m_faults[camera] == message)
+        return;
+    m_faults[camera] = message;
+    if (camera == 0) {
+        pause();
+        m_presses.refuseAll(message);
+    } else {
+        m_presses.run();
+    }
+    emit failed(camera, message);
+}
+
+QString FilmDeck::fault(std::size_t camera) const {
+    return camera < m_faults.size() ? m_faults[camera] : QString();
 }
 
 void FilmDeck::takePicture(std::size_t camera, int generation) {
     if (generation != m_generation)
         return;
     auto picture = m_slots[camera]->take();
-    if (!picture)
+    auto& jump = m_jumps[camera];
+    if (!picture || (jump && isLate(*jump, *picture)))
         return;
     m_shown[camera] = std::move(picture);
+    m_faults[camera].clear();
+    if (jump && (jump->isStop || m_shown[camera]->settledRequest >= jump->request))
+        jump.reset();
     emit frameShown(camera);
+}
+
+/// Who stops sees the frame already: those that were still on their way do not come any more.
+bool FilmDeck::isLate(const Jump& jump, const FilmPicture& picture) const {
+    return jump.isStop && (picture.request < jump.request ||
+                           (picture.request == jump.request && picture.isPreview));
 }
 
 const FilmPicture* FilmDeck::shown(std::size_t camera) const {
@@ -141,6 +190,69 @@ std::shared_ptr<const VideoIndex> FilmDeck::index(std::size_t camera) const {
     return camera < m_players.size() ? m_players[camera]->index() : nullptr;
 }
 
+FrameRequest FilmDeck::meantBy(std::size_t camera) const {
+    if (m_jumps[camera])
+        return m_jumps[camera]->to;
+    if (m_shown[camera])
+        return m_shown[camera]->frame.stamp;
+    return m_players[camera]->asked().value_or(FrameNumber{0});
+}
+
+PressQueue::Meant FilmDeck::meantNow() const {
+    PressQueue::Meant meant;
+    for (std::size_t camera = 0; camera < views(); ++camera)
+        meant.push_back(meantBy(camera));
+    return meant;
+}
+
+std::vector<CMTime> FilmDeck::stampsOf(const PressQueue::Meant& meant) const {
+    std::vector<CMTime> stamps;
+    for (std::size_t camera = 0; camera < meant.size(); ++camera) {
+        const auto film = index(camera);
+        const auto frame = film ? frameOf(*film, meant[camera]) : std::nullopt;
+        if (frame) {
+            stamps.push_back(film->stampOf(*frame));
+        } else if (camera >= cameras() && !m_faults[camera].isEmpty()) {
+            break; // nothing is marked on a film beside that cannot be read
+        } else if (camera > 0 && !m_faults[camera].isEmpty()) {
+            const double way = m_group->offset(camera).toOwn(0);
+            stamps.push_back(later(stamps.front(), way));
+        } else {
+            return {};
+        }
+    }
+    return stamps;
+}
+
+std::vector<CMTime> FilmDeck::meant() const {
+    return stampsOf(meantNow());
+}
+
+void FilmDeck::whenMeant(PressQueue::Act act, PressQueue::Refuse refuse) {
+    if (!fault(0).isEmpty())
+        refuse(fault(0));
+    else if (m_group)
+        m_presses.add(meantNow(), std::move(act), std::move(refuse));
+}
+
+void FilmDeck::whenKnown(const FrameRequest& frame, PressQueue::Act act,
+                         PressQueue::Refuse refuse) {
+    if (m_group)
+        m_presses.add({frame}, std::move(act), std::move(refuse));
+}
+
+/// The films are read by threads of their own: nothing here has to turn for them.
+void FilmDeck::finishPresses() {
+    const auto end = std::chrono::steady_clock::now() + LongestWait;
+    m_presses.run();
+    while (m_presses.isWaiting() && std::chrono::steady_clock::now() < end) {
+        std::this_thread::sleep_for(std::chrono::milliseconds(2));
+        m_presses.run();
+    }
+    if (m_presses.isWaiting())
+        m_presses.refuseAll(tr("The film has not been read so far yet: nothing was marked."));
+}
+
 CMTime FilmDeck::nudged(std::size_t camera, const CMTime& stamp, int frames) const {
     const auto film = index(camera);
     const auto frame = film && isWithin(*film, stamp) ? film->frameAt(stamp) : std::nullopt;
@@ -158,7 +270,7 @@ double FilmDeck::rate() const {
 }
 
 double FilmDeck::position() const {
-    return m_group ? m_group->clock().position(now()) : 0;
+    return m_group ? m_group->position(now()) : 0;
 }
 
 double FilmDeck::start() const {
@@ -189,13 +301,27 @@ void FilmDeck::withGroup(Act act) {
     emit stateChanged();
 }
 
+/// What is done to the films goes to other frames, which are meant from now on.
+template <class Act>
+void FilmDeck::jumpWithGroup(Act act, bool isStop) {
+    if (!m_group)
+        return;
+    act(*m_group);
+    for (std::size_t camera = 0; camera < views(); ++camera)
+        if (const auto asked = m_players[camera]->asked())
+            m_jumps[camera] = Jump{*asked, m_players[camera]->requests(), isStop};
+    withGroup([](CameraGroup&) {});
+}
+
+/// The frame of the first film that somebody has before his eyes, or has asked for.
+std::optional<CMTime> FilmDeck::seen() const {
+    const auto film = index(0);
+    const auto frame = film ? frameOf(*film, meantBy(0)) : std::nullopt;
+    return frame ? std::optional(film->stampOf(*frame)) : std::nullopt;
+}
+
 void FilmDeck::togglePlaying() {
-    withGroup([](CameraGroup& group) {
-        if (group.clock().isPlaying())
-            group.pause(now());
-        else
-            group.play(now());
-    });
+    isPlaying() ? pause() : withGroup([](CameraGroup& group) { group.play(now()); });
 }
 
 void FilmDeck::play(double rate) {
@@ -206,7 +332,10 @@ void FilmDeck::play(double rate) {
 }
 
 void FilmDeck::pause() {
-    withGroup([](CameraGroup& group) { group.pause(now()); });
+    if (!isPlaying())
+        return;
+    const bool isSeen = !m_jumps[0] && m_shown[0];
+    jumpWithGroup([at = seen()](CameraGroup& group) { group.pause(now(), at); }, isSeen);
 }
 
 void FilmDeck::slower() {
@@ -222,26 +351,28 @@ void FilmDeck::normalSpeed() {
 }
 
 void FilmDeck::shuttle(ShuttleKey key, bool isStopHeld) {
+    if (!m_group)
+        return;
+    const ShuttleStep wanted = kavela::shuttle(m_group->clock(), key, isStopHeld);
+    if (wanted.frames != 0)
+        return step(wanted.frames);
+    if (!wanted.isPlaying)
+        pause();
     withGroup([&](CameraGroup& group) {
-        const ShuttleStep step = kavela::shuttle(group.clock(), key, isStopHeld);
-        if (step.frames != 0) {
-            group.step(step.frames, now());
-            return;
-        }
-        group.setRate(step.rate, now());
-        if (step.isPlaying)
+        group.setRate(wanted.rate, now());
+        if (wanted.isPlaying)
             group.play(now());
-        else
-            group.pause(now());
     });
 }
 
 void FilmDeck::step(FrameNumber frames) {
-    withGroup([frames](CameraGroup& group) { group.step(frames, now()); });
+    pause(); // steps count from the frame that is seen
+    jumpWithGroup([frames](CameraGroup& group) { group.step(frames, now()); });
 }
 
 void FilmDeck::stepAlone(std::size_t camera, FrameNumber frames) {
-    withGroup([&](CameraGroup& group) { group.stepAlone(camera, frames, now()); });
+    pause();
+    jumpWithGroup([&](CameraGroup& group) { group.stepAlone(camera, frames, now()); });
 }
 
 void FilmDeck::jump(double seconds) {
@@ -249,11 +380,16 @@ void FilmDeck::jump(double seconds) {
 }
 
 void FilmDeck::seek(double seconds) {
-    withGroup([seconds](CameraGroup& group) { group.seek(seconds, now()); });
+    jumpWithGroup([seconds](CameraGroup& group) { group.seek(seconds, now()); });
 }
 
 void FilmDeck::seek(const CMTime& stamp) {
-    withGroup([&](CameraGroup& group) { group.seek(stamp, now()); });
+    jumpWithGroup([&](CameraGroup& group) { group.seek(stamp, now()); });
+}
+
+void FilmDeck::expect(std::optional<double> seconds) {
+    if (m_group)
+        m_group->expect(seconds);
 }
 
 void FilmDeck::alignCameras() {
@@ -261,7 +397,8 @@ void FilmDeck::alignCameras() {
 }
 
 void FilmDeck::setOffset(std::size_t camera, const CameraOffset& offset) {
-    withGroup([&](CameraGroup& group) { group.setOffset(camera, offset, now()); });
+    const auto set = [&](CameraGroup& group) { group.setOffset(camera, offset, now()); };
+    isPlaying() ? withGroup(set) : jumpWithGroup(set);
 }
 
 } // namespace kavela::desktop

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "desktop/film/camera_slot.h"
+#include "desktop/film/press_queue.h"
 #include "video/camera_group.h"
 #include "video/frame_cache.h"
 
@@ -17,6 +18,9 @@ namespace kavela::desktop {
 
 /// The films of one run, played in step: the cameras, their clock, and what a coach does with them.
 /// Everything returns at once; frames come when they are decoded.
+///
+/// Who presses a key means a frame: the one on the screen, and after a jump or a step the one that
+/// was gone to, until it has been decoded and shown.
 class FilmDeck : public QObject {
     Q_OBJECT
 
@@ -47,6 +51,21 @@ public:
     /// The stamp of the frame of one camera; nothing as long as it shows none of its own.
     [[nodiscard]] std::optional<CMTime> stamp(std::size_t camera) const;
     [[nodiscard]] std::shared_ptr<const VideoIndex> index(std::size_t camera) const;
+    /// Why the film of a camera cannot be shown; empty when it can.
+    [[nodiscard]] QString fault(std::size_t camera) const;
+
+    /// The stamps of the frames that somebody means who presses a key now, one per view. Empty as
+    /// long as the films are not read so far. Where another film of the run than the first cannot
+    /// be read its offset tells; those beside are left out then.
+    [[nodiscard]] std::vector<CMTime> meant() const;
+    /// Acts with them, at once where they are known, otherwise as soon as they are; `refuse` says
+    /// why when that can no longer be.
+    void whenMeant(PressQueue::Act act, PressQueue::Refuse refuse);
+    /// The same for the frame of the first film due at a number of seconds, or with a stamp.
+    void whenKnown(const FrameRequest& frame, PressQueue::Act act, PressQueue::Refuse refuse);
+    /// Lets the presses that wait act before something else is done, such as saving. Waits a little
+    /// for films that are being read; what is not known then is refused.
+    void finishPresses();
 
     /// The stamp of the frame so many frames beside the one of a stamp; where the film is not open,
     /// or ends before it, the stamp moves by hundredths of a second.
@@ -72,6 +91,9 @@ public:
     void jump(double seconds); ///< from where the film stands
     void seek(double seconds);
     void seek(const CMTime& stamp);
+    /// Where somebody is likely to go next, in seconds of the first film, so that it is decoded
+    /// beforehand; nowhere without a value.
+    void expect(std::optional<double> seconds);
     void alignCameras();
     void setOffset(std::size_t camera, const CameraOffset& offset);
 
@@ -82,13 +104,28 @@ signals:
     void failed(std::size_t camera, const QString& message);
 
 private:
+    /// Where a view was last sent, until that frame stands on the screen.
+    struct Jump {
+        FrameRequest to;
+        std::uint64_t request = 0; ///< frames that come for earlier ones are those of before
+        bool isStop = false;       ///< at the frame on the screen
+    };
+
     [[nodiscard]] static CameraGroup::Moment now();
     [[nodiscard]] PlayerEvents eventsOf(std::size_t camera,
                                         const std::shared_ptr<CameraSlot>& slot);
     void addCamera(const QString& film);
     void takePicture(std::size_t camera, int generation);
+    void fail(std::size_t camera, const QString& message);
+    [[nodiscard]] PressQueue::Meant meantNow() const;
+    [[nodiscard]] FrameRequest meantBy(std::size_t camera) const;
+    [[nodiscard]] std::vector<CMTime> stampsOf(const PressQueue::Meant& meant) const;
+    [[nodiscard]] std::optional<CMTime> seen() const;
     template <class Act>
     void withGroup(Act act);
+    template <class Act>
+    void jumpWithGroup(Act act, bool isStop = false);
+    [[nodiscard]] bool isLate(const Jump& jump, const FilmPicture& picture) const;
 
     std::shared_ptr<FrameCache> m_cache;
     QStringList m_films;
@@ -97,6 +134,9 @@ private:
     std::vector<std::shared_ptr<CameraSlot>> m_slots;
     std::vector<std::shared_ptr<VideoPlayer>> m_players;
     std::vector<std::optional<FilmPicture>> m_shown;
+    std::vector<std::optional<Jump>> m_jumps;
+    std::vector<QString> m_faults;
+    PressQueue m_presses;
     std::unique_ptr<CameraGroup> m_group;
     QTimer m_tick;
     int m_generation = 0; ///< of the films: events of those that were closed are ignored

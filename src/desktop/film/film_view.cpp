@@ -3,17 +3,23 @@
 #include "desktop/film/film_deck.h"
 #include "desktop/shell/theme.h"
 
+#include <QApplication>
 #include <QPainter>
+#include <QPushButton>
 #include <QTimer>
+
+#include <algorithm>
 
 namespace kavela::desktop {
 
 namespace {
 
 constexpr int FlashMilliseconds = 1200;
+constexpr int RefusalMilliseconds = 4000; // it has to be read
 constexpr QColor Ground{0x10, 0x12, 0x14};
 constexpr QColor Veil{0, 0, 0, 150};
 constexpr QColor Letters{0xF2, 0xF4, 0xF6};
+constexpr QColor Warning{0xB0, 0x4A, 0x10, 230};
 
 QSize boxOf(const QString& text, const QFontMetrics& metrics) {
     return metrics.boundingRect(text).size() + QSize(2 * theme::Spacing, 2 * theme::SmallSpacing);
@@ -37,8 +43,8 @@ FilmView::FilmView(FilmDeck& deck, std::size_t camera, QWidget* parent)
             showFrame();
     });
     connect(&m_deck, &FilmDeck::failed, this, [this](std::size_t failed, const QString& why) {
-        if (failed == m_camera)
-            setMessage(why);
+        if (failed == m_camera && (!m_button || m_button->isHidden()))
+            setMessage(why); // a question says more
     });
 }
 
@@ -49,6 +55,8 @@ void FilmView::showFrame() {
     m_image = picture->image;
     m_isPreview = picture->isPreview;
     m_message.clear();
+    if (m_button)
+        m_button->hide();
     const auto index = m_deck.index(m_camera);
     m_corner = tr("frame %1   %2 s")
                    .arg(picture->frame.number)
@@ -59,10 +67,35 @@ void FilmView::showFrame() {
 }
 
 void FilmView::setMessage(const QString& message) {
+    if (m_button)
+        m_button->hide();
     m_message = message;
     m_image = {};
     m_corner.clear();
     update();
+}
+
+void FilmView::setQuestion(const QString& message, const QString& button) {
+    setMessage(message);
+    if (!m_button) {
+        m_button = new QPushButton(this);
+        m_button->setObjectName("filmQuestion");
+        m_button->setFocusPolicy(Qt::TabFocus); // a click leaves the keys to the window
+        connect(m_button, &QPushButton::clicked, this, &FilmView::answered);
+    }
+    m_button->setText(button);
+    m_button->show();
+    placeButton();
+}
+
+/// Below the message, which stands in the middle.
+void FilmView::placeButton() {
+    if (!m_button)
+        return;
+    m_button->adjustSize();
+    const int below = rect().center().y() + 3 * fontMetrics().height();
+    m_button->move(rect().center().x() - m_button->width() / 2,
+                   std::min(below, height() - m_button->height() - theme::Spacing));
 }
 
 void FilmView::setCaption(const QString& caption) {
@@ -71,9 +104,21 @@ void FilmView::setCaption(const QString& caption) {
 }
 
 void FilmView::flash(const QString& text) {
+    m_isRefusal = false;
+    flashFor(text, FlashMilliseconds);
+}
+
+void FilmView::refuse(const QString& why) {
+    m_isRefusal = true;
+    flashFor(why, RefusalMilliseconds);
+    QApplication::beep();
+    emit refused(why);
+}
+
+void FilmView::flashFor(const QString& text, int milliseconds) {
     m_flash = text;
     update();
-    QTimer::singleShot(FlashMilliseconds, this, [this, text] {
+    QTimer::singleShot(milliseconds, this, [this, text] {
         if (m_flash == text) {
             m_flash.clear();
             update();
@@ -82,6 +127,7 @@ void FilmView::flash(const QString& text) {
 }
 
 void FilmView::resizeEvent(QResizeEvent*) {
+    placeButton();
     const qreal ratio = devicePixelRatioF();
     m_deck.setBox(m_camera,
                   {static_cast<int>(width() * ratio), static_cast<int>(height() * ratio)});
@@ -102,6 +148,21 @@ void FilmView::paintCaption(QPainter& painter, const QRect& picture) const {
     paintText(painter, {{picture.left(), picture.top()}, size}, text);
 }
 
+/// A reason is longer than a number: it has its own lines.
+void FilmView::paintFlash(QPainter& painter, const QRect& picture) const {
+    if (m_flash.isEmpty())
+        return;
+    painter.setFont(m_isRefusal ? theme::titleFont(*this) : theme::headlineFont(*this));
+    const QRect room = picture.adjusted(theme::Spacing, theme::Spacing, -theme::Spacing, 0);
+    const int height = painter.fontMetrics().boundingRect(room, Qt::TextWordWrap, m_flash).height();
+    const QRect band(picture.left(), picture.top() + theme::Spacing, picture.width(),
+                     height + 2 * theme::SmallSpacing);
+    painter.fillRect(band, m_isRefusal ? Warning : Veil);
+    painter.setPen(Letters);
+    painter.drawText(band.adjusted(theme::Spacing, 0, -theme::Spacing, 0),
+                     Qt::AlignCenter | Qt::TextWordWrap, m_flash);
+}
+
 void FilmView::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.fillRect(rect(), Ground);
@@ -110,6 +171,7 @@ void FilmView::paintEvent(QPaintEvent*) {
         painter.drawText(rect().marginsRemoved({theme::PageMargin, theme::PageMargin,
                                                 theme::PageMargin, theme::PageMargin}),
                          Qt::AlignCenter | Qt::TextWordWrap, m_message);
+        paintFlash(painter, rect());
         return;
     }
     QRect picture(QPoint(), m_image.size().scaled(size(), Qt::KeepAspectRatio));
@@ -118,14 +180,7 @@ void FilmView::paintEvent(QPaintEvent*) {
     painter.drawImage(picture, m_image);
     paintCorner(painter, picture);
     paintCaption(painter, picture);
-    if (m_flash.isEmpty())
-        return;
-    painter.setFont(theme::headlineFont(*this));
-    const QRect band(picture.left(), picture.top() + theme::Spacing, picture.width(),
-                     painter.fontMetrics().height() + 2 * theme::SmallSpacing);
-    painter.fillRect(band, Veil);
-    painter.setPen(Letters);
-    painter.drawText(band, Qt::AlignCenter, m_flash);
+    paintFlash(painter, picture);
 }
 
 } // namespace kavela::desktop

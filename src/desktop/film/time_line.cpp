@@ -9,6 +9,7 @@
 #include <QPainter>
 #include <QPainterPath>
 
+#include <algorithm>
 #include <cmath>
 #include <utility>
 
@@ -23,6 +24,7 @@ constexpr int Side = 12; // room left and right, so that a mark at an end is who
 constexpr int Reach = 6; // pixels beside a mark that still hit it
 constexpr QSize ThumbnailSize{240, 135};
 constexpr std::size_t HoverCacheBytes = 64U << 20U;
+constexpr double RoomBesideMarks = 0.04; // of the time between them, where there is no film
 
 } // namespace
 
@@ -64,15 +66,34 @@ void TimeLine::setSelected(std::optional<std::size_t> place) {
     update();
 }
 
+void TimeLine::setExpected(std::optional<double> seconds, const QString& label) {
+    if (m_expected == seconds && m_expectedLabel == label)
+        return;
+    m_expected = seconds;
+    m_expectedLabel = label;
+    update();
+}
+
+TimeLine::Range TimeLine::range() const {
+    if (m_deck.end() > m_deck.start() || m_marks.empty())
+        return {m_deck.start(), m_deck.end()};
+    const auto seconds = [](const LineMark& mark) { return mark.stamp.seconds(); };
+    const auto [first, last] = std::ranges::minmax_element(m_marks, {}, seconds);
+    const double room = RoomBesideMarks * (seconds(*last) - seconds(*first));
+    return {seconds(*first) - room, seconds(*last) + room};
+}
+
 int TimeLine::placeOf(double seconds) const {
-    const double length = m_deck.end() - m_deck.start();
-    const double share = length > 0 ? (seconds - m_deck.start()) / length : 0;
+    const Range range = this->range();
+    const double length = range.end - range.start;
+    const double share = length > 0 ? (seconds - range.start) / length : 0;
     return Side + static_cast<int>(std::lround(share * (width() - 2 * Side)));
 }
 
 double TimeLine::momentAt(int place) const {
     const double share = static_cast<double>(place - Side) / std::max(1, width() - 2 * Side);
-    return m_deck.start() + std::clamp(share, 0.0, 1.0) * (m_deck.end() - m_deck.start());
+    const Range range = this->range();
+    return range.start + std::clamp(share, 0.0, 1.0) * (range.end - range.start);
 }
 
 std::optional<std::size_t> TimeLine::markAt(QPoint place) const {
@@ -92,15 +113,31 @@ void TimeLine::paintEvent(QPaintEvent*) {
     painter.setPen(Qt::NoPen);
     painter.setBrush(theme::hairline(palette()));
     painter.drawRoundedRect(rail, RailHeight / 2.0, RailHeight / 2.0);
-    if (m_deck.cameras() == 0)
+    const bool hasFilm = m_deck.cameras() > 0 && m_deck.end() > m_deck.start();
+    if (!hasFilm) {
+        paintMarks(painter);
         return;
+    }
     const int place = placeOf(m_deck.position());
     painter.setBrush(theme::Accent);
     painter.drawRoundedRect(QRect(rail.left(), top, place - rail.left(), RailHeight),
                             RailHeight / 2.0, RailHeight / 2.0);
+    paintExpected(painter);
     paintMarks(painter);
     painter.setPen(QPen(palette().color(QPalette::WindowText), 2));
     painter.drawLine(place, FlagHeight, place, Height - theme::SmallSpacing);
+}
+
+/// Fainter than any mark: nothing was taken there yet.
+void TimeLine::paintExpected(QPainter& painter) const {
+    if (!m_expected || *m_expected < m_deck.start() || *m_expected > m_deck.end())
+        return;
+    const int place = placeOf(*m_expected);
+    painter.setPen(QPen(theme::quietText(palette()), 1, Qt::DashLine));
+    painter.drawLine(place, FlagHeight - 2, place, Height - theme::Spacing);
+    painter.setFont(theme::captionFont(*this));
+    painter.drawText(QRect(place - FlagHeight, 0, 2 * FlagHeight, FlagHeight - 2), Qt::AlignCenter,
+                     m_expectedLabel);
 }
 
 void TimeLine::paintMarks(QPainter& painter) const {

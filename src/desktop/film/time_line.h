@@ -22,7 +22,7 @@ struct LineMark {
 
 /// The film from end to end, with the marks of the run. Dragging scrubs frame by frame, a click on
 /// a mark goes to its frame, dragging a mark moves it, and hovering shows the frame under the
-/// pointer.
+/// pointer. Without a film it goes from the first mark to the last.
 class TimeLine : public QWidget {
     Q_OBJECT
 
@@ -31,6 +31,10 @@ public:
     ~TimeLine() override;
 
     void setMarks(std::vector<LineMark> marks);
+    /// Where the next mark is to be expected, in seconds of the first film, and its label; nowhere
+    /// without a value.
+    void setExpected(std::optional<double> seconds, const QString& label = {});
+    [[nodiscard]] std::optional<double> expected() const { return m_expected; }
     /// The mark that keys act on, by its place in the list; none without a value.
     void setSelected(std::optional<std::size_t> place);
 
@@ -53,7 +57,13 @@ protected:
 
 private:
     [[nodiscard]] std::optional<std::size_t> markAt(QPoint place) const;
+    struct Range {
+        double start = 0;
+        double end = 0;
+    };
+    [[nodiscard]] Range range() const;
     void paintMarks(QPainter& painter) const;
+    void paintExpected(QPainter& painter) const;
     void hoverAt(int place);
     void showThumbnail();
     void hideThumbnail();
@@ -63,6 +73,8 @@ private:
     QLabel* m_thumbnail;
     std::vector<LineMark> m_marks;
     std::optional<std::size_t> m_selected;
+    std::optional<double> m_expected;
+    QString m_expectedLabel;
     int m_hoverPlace = 0;
     std::optional<std::size_t> m_pressed; ///< number of the mark under the button
     int m_pressedPlace = 0;

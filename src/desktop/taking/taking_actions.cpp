@@ -142,6 +142,8 @@ void TakingActions::makeMarkMenu() {
         [this] { m_window.stepMark(-1); });
     add(*menu, tr("&Next mark"), {keys(Qt::CTRL | Qt::Key_Right)},
         [this] { m_window.stepMark(1); });
+    m_ofRun.push_back(add(*menu, tr("To where the next split is e&xpected"), {keys(Qt::Key_E)},
+                          [this] { m_window.goToExpected(); }));
     add(*menu, tr("To the start mark"), {keys(Qt::CTRL | Qt::Key_Home)},
         [this] { m_window.goToMark(0); });
     for (int split = 1; split <= 9; ++split)
@@ -166,6 +168,8 @@ void TakingActions::makeCameraMenu() {
     FilmDeck& deck = m_window.deck();
     m_ofRun.push_back(
         add(*menu, tr("&Add another camera of this run…"), {}, [this] { m_window.addCamera(); }));
+    m_ofRun.push_back(
+        add(*menu, tr("&Where are the films now?…"), {}, [this] { m_window.findFilms(); }));
     add(*menu, tr("Last camera one frame back"),
         {keys(Qt::ALT | Qt::Key_PageUp), keys(Qt::CTRL | Qt::ALT | Qt::Key_Left)}, [&deck] {
             if (deck.views() > 1)

@@ -4,6 +4,7 @@
 #include "common/json_encode.h"
 #include "common/safe_file.h"
 #include "desktop/shell/workspace.h"
+#include "desktop/taking/film_places.h"
 #include "desktop/taking/taking_files.h"
 #include "report/pdf_file.h"
 #include "report/race_report.h"
@@ -221,7 +222,18 @@ QString TakingDocument::fixedFilm(int index, std::size_t camera) const {
 
 QString TakingDocument::pathOf(const std::string& name) const {
     const bool isBare = name.find_first_of("/\\") == std::string::npos && name != "..";
-    return name.empty() || !isBare ? QString() : m_folder + '/' + qtText(name);
+    return name.empty() || !isBare ? QString() : placeOfFilm(m_workspace, m_path, qtText(name));
+}
+
+QStringList TakingDocument::filmNames() const {
+    return desktop::filmNames(m_state);
+}
+
+QStringList TakingDocument::findFilms(const QString& folder) {
+    QStringList missing = filmNames();
+    missing.removeIf(
+        [this](const QString& name) { return QFileInfo(pathOf(name.toStdString())).isFile(); });
+    return desktop::findFilms(m_workspace, m_path, folder, missing);
 }
 
 QString TakingDocument::title() const {

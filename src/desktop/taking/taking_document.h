@@ -49,6 +49,13 @@ public:
     /// The film of a run's camera; empty when its name leads out of the folder.
     [[nodiscard]] QString film(int index, std::size_t camera) const;
     [[nodiscard]] QString fixedFilm(int index, std::size_t camera) const;
+    /// The same for a film of any name. Films that were moved are found where the coach said.
+    [[nodiscard]] QString pathOf(const std::string& film) const;
+    /// The names of all films of the runs and of the cross race.
+    [[nodiscard]] QStringList filmNames() const;
+    /// Looks for them in another folder, and remembers where they are; returns those that were not
+    /// found.
+    [[nodiscard]] QStringList findFilms(const QString& folder);
 
     [[nodiscard]] const QString& folder() const { return m_folder; }
     [[nodiscard]] const QString& path() const { return m_path; }
@@ -102,7 +109,6 @@ private:
     friend class TakingStep;
 
     [[nodiscard]] std::optional<splittakerdata031> readCurrent(const QString& file, QWidget* over);
-    [[nodiscard]] QString pathOf(const std::string& film) const;
     void begin(TakingState state, const QString& path);
     void offerAutosave(QWidget* over);
     [[nodiscard]] splittakerdata031 newDocument() const;

@@ -7,6 +7,7 @@
 #include "desktop/shell/file_copy.h"
 #include "desktop/shell/workspace.h"
 #include "desktop/taking/course_dialog.h"
+#include "desktop/taking/expected_place.h"
 #include "desktop/taking/export_dialog.h"
 #include "desktop/taking/gate_strip.h"
 #include "desktop/taking/notes/notes_panel.h"
@@ -45,6 +46,21 @@ CMTime shifted(const VideoIndex* index, const CMTime& stamp, double seconds) {
 
 } // namespace
 
+void TakingWindow::refuse(const QString& why) {
+    m_views.front()->refuse(why);
+}
+
+/// A run whose films were moved says where they were looked for.
+void TakingWindow::refuseWithoutFilm() {
+    if (m_run < 0 || m_filmsShown.isEmpty())
+        tell(messages::NoVideo);
+    else
+        refuse(
+            tr("Nothing can be marked: %1 is not in the folder of the split file. Cameras > Where "
+               "are the films now?")
+                .arg(QFileInfo(m_filmsShown.front()).fileName()));
+}
+
 void TakingWindow::select(std::optional<std::size_t> mark) {
     m_selected = mark;
     if (mark)
@@ -64,12 +80,18 @@ void TakingWindow::mark() {
         return;
     }
     if (m_run < 0 || m_deck->cameras() == 0) {
-        tell(messages::NoVideo);
+        refuseWithoutFilm();
         return;
     }
-    Stamps stamps = m_deck->stamps();
-    if (stamps.empty())
-        return; // no frame on the screen that could be meant
+    m_deck->whenMeant(
+        [this](Stamps stamps) {
+            stamps.resize(std::min(stamps.size(), m_deck->cameras()));
+            markSplit(std::move(stamps));
+        },
+        [this](const QString& why) { refuse(why); });
+}
+
+void TakingWindow::markSplit(Stamps stamps) {
     RunMarks marks = m_document.marks(m_run);
     if (marks == RunMarks() && hasTimes(m_document.run(m_run)) &&
         !m_workspace.ask({"", tr("The times of this run were taken without marks on the video. "
@@ -96,9 +118,26 @@ void TakingWindow::moveMarkHere() {
         m_notes->moveMarkHere();
         return;
     }
-    Stamps stamps = m_deck->stamps();
-    RunMarks marks = m_run < 0 ? RunMarks() : m_document.marks(m_run);
-    if (!m_selected || !stampsOf(marks, *m_selected) || stamps.empty())
+    const RunMarks marks = m_run < 0 ? RunMarks() : m_document.marks(m_run);
+    if (!m_selected || !stampsOf(marks, *m_selected)) {
+        refuse(tr("No mark is selected. Ctrl and the arrows go from mark to mark."));
+        return;
+    }
+    if (m_deck->cameras() == 0) {
+        refuseWithoutFilm();
+        return;
+    }
+    m_deck->whenMeant(
+        [this](Stamps stamps) {
+            stamps.resize(std::min(stamps.size(), m_deck->cameras()));
+            moveMarkTo(std::move(stamps));
+        },
+        [this](const QString& why) { refuse(why); });
+}
+
+void TakingWindow::moveMarkTo(Stamps stamps) {
+    RunMarks marks = m_document.marks(m_run);
+    if (!m_selected || !stampsOf(marks, *m_selected))
         return;
     if (*m_selected == 0)
         setStart(marks, std::move(stamps));
@@ -114,33 +153,59 @@ void TakingWindow::nudgeMark(int frames) {
         return;
     }
     const auto mark = m_selected ? m_selected : lastMark();
-    if (m_run < 0 || !mark)
+    if (m_run < 0 || !mark) {
+        refuse(tr("There is no mark yet that could be moved."));
         return;
-    RunMarks marks = m_document.marks(m_run);
+    }
+    const RunMarks marks = m_document.marks(m_run);
     const Stamps* const before = stampsOf(marks, *mark);
+    if (!before)
+        return;
+    if (m_deck->cameras() == 0 || !m_deck->fault(0).isEmpty())
+        nudge(*mark, frames);
+    else
+        m_deck->whenKnown(
+            before->front(), [this, mark = *mark, frames](const Stamps&) { nudge(mark, frames); },
+            [this](const QString& why) { refuse(why); });
+}
+
+void TakingWindow::nudge(std::size_t mark, int frames) {
+    RunMarks marks = m_document.marks(m_run);
+    const Stamps* const before = stampsOf(marks, mark);
     if (!before)
         return;
     Stamps stamps = *before;
     for (std::size_t camera = 0; camera < stamps.size(); ++camera)
         stamps[camera] = m_deck->nudged(camera < m_deck->cameras() ? camera : m_deck->views(),
                                         stamps[camera], frames);
-    if (*mark == 0)
+    if (mark == 0)
         setStart(marks, std::move(stamps));
     else
-        moveMark(marks, *mark, std::move(stamps));
+        moveMark(marks, mark, std::move(stamps));
     m_selected = mark;
     m_document.setMarks(m_run, tr("mark moved"), marks);
 }
 
 void TakingWindow::dropMark(std::size_t mark, double seconds) {
-    const auto index = m_deck->index(0);
-    const auto frame = index ? index->frameAt(seconds) : std::nullopt;
-    RunMarks marks = m_run < 0 ? RunMarks() : m_document.marks(m_run);
+    const RunMarks marks = m_run < 0 ? RunMarks() : m_document.marks(m_run);
     const Stamps* const before = stampsOf(marks, mark);
-    if (!frame || !before)
+    if (!before)
+        return;
+    if (m_deck->cameras() == 0 || !m_deck->fault(0).isEmpty())
+        dropMarkAt(mark, later(before->front(), seconds - before->front().seconds()));
+    else
+        m_deck->whenKnown(
+            seconds, [this, mark](const Stamps& stamps) { dropMarkAt(mark, stamps.front()); },
+            [this](const QString& why) { refuse(why); });
+}
+
+void TakingWindow::dropMarkAt(std::size_t mark, const CMTime& moment) {
+    RunMarks marks = m_document.marks(m_run);
+    const Stamps* const before = stampsOf(marks, mark);
+    if (!before)
         return;
     Stamps stamps = *before;
-    const double way = secondsFrom(stamps.front(), index->stampOf(*frame));
+    const double way = secondsFrom(stamps.front(), moment);
     for (std::size_t camera = 0; camera < stamps.size(); ++camera)
         stamps[camera] = shifted(camera < m_deck->cameras() ? m_deck->index(camera).get() : nullptr,
                                  stamps[camera], way);
@@ -157,6 +222,7 @@ void TakingWindow::deleteMark() {
         m_notes->deleteMark();
         return;
     }
+    m_deck->finishPresses();
     RunMarks marks = m_run < 0 ? RunMarks() : m_document.marks(m_run);
     if (!m_selected || !stampsOf(marks, *m_selected))
         return;
@@ -179,15 +245,36 @@ void TakingWindow::goToMark(std::size_t mark) {
     m_deck->seek(stamps->front());
 }
 
-/// The mark before or after the frame on the screen.
+/// Somebody who watches sees the boat come there.
+void TakingWindow::goToExpected() {
+    if (m_run < 0 || m_deck->cameras() == 0) {
+        refuseWithoutFilm();
+        return;
+    }
+    constexpr double SecondsToWatch = 1;
+    m_deck->finishPresses(); // the next split is another one then
+    const ExpectedPlace expected = expectedPlace(m_document, m_run);
+    if (!expected.seconds) {
+        refuse(expected.why);
+        return;
+    }
+    m_deck->seek(*expected.seconds - (m_deck->isPlaying() ? SecondsToWatch : 0));
+    const bool isBehind = m_deck->end() > 0 && *expected.seconds > m_deck->end();
+    if (isBehind)
+        refuse(tr("Split %1 is expected behind the end of the film.").arg(expected.split));
+    else
+        m_views.front()->flash(tr("Split %1 is expected here").arg(expected.split));
+}
+
+/// The mark before or after the frame that was asked for last.
 void TakingWindow::stepMark(int step) {
     if (m_notes->stepMark(step))
         return;
-    const FilmPicture* const shown = m_deck->shown(0);
-    if (m_run < 0 || !shown)
+    const Stamps meant = m_deck->meant();
+    if (m_run < 0 || meant.empty())
         return;
     const RunMarks marks = m_document.marks(m_run);
-    const double now = shown->frame.stamp.seconds();
+    const double now = meant.front().seconds();
     std::optional<std::size_t> found;
     for (std::size_t mark = 0; mark <= marks.marks.size(); ++mark) {
         const Stamps* const stamps = stampsOf(marks, mark);

@@ -1,6 +1,8 @@
 #include "desktop/film/film_deck.h"
 #include "desktop/film/film_view.h"
+#include "desktop/film/time_line.h"
 #include "desktop/shell/workspace.h"
+#include "desktop/taking/expected_place.h"
 #include "desktop/taking/folder_films.h"
 #include "desktop/taking/notes/notes_panel.h"
 #include "desktop/taking/taking_window.h"
@@ -26,8 +28,35 @@ QStringList TakingWindow::filmsOf(int run) const {
     return films;
 }
 
+void TakingWindow::rememberFilmPlace() {
+    const auto meant = m_deck->meant();
+    if (m_identity && !meant.empty())
+        m_places.insert_or_assign(m_identity, meant.front());
+}
+
+/// Where the film of a run was left; the first time its start, where that is wanted.
+std::optional<CMTime> TakingWindow::placeToShow(int run) const {
+    if (run < 0)
+        return std::nullopt;
+    if (const auto left = m_places.find(m_document.identityOf(run)); left != m_places.end())
+        return left->second;
+    const RunMarks marks = m_document.marks(run);
+    const Stamps* const start = stampsOf(marks, 0);
+    const bool isWanted = m_workspace.preferences().boolean("startinCMTime");
+    return start && isWanted ? std::optional(start->front()) : std::nullopt;
+}
+
+void TakingWindow::showExpected() {
+    const ExpectedPlace expected = m_run < 0 ? ExpectedPlace() : expectedPlace(m_document, m_run);
+    m_line->setExpected(expected.seconds, tr("%1?").arg(expected.split));
+    m_deck->expect(expected.seconds);
+}
+
 void TakingWindow::showFilms() {
-    const QStringList films = m_run < 0 ? QStringList() : filmsOf(m_run);
+    m_filmsShown = m_run < 0 ? QStringList() : filmsOf(m_run);
+    // The first film leads: without it there is nothing to go by.
+    const bool isThere = !m_filmsShown.isEmpty() && QFileInfo(m_filmsShown.front()).isFile();
+    const QStringList films = isThere ? m_filmsShown : QStringList();
     m_hasAlignedCameras = false;
     m_health->clear();
     m_deck->open({}); // before its views go
@@ -51,22 +80,56 @@ void TakingWindow::showFilms() {
     if (m_run < 0)
         m_views.front()->setMessage(
             tr("Import videos with Ctrl+I, or drop a folder of videos here."));
-    else if (films.isEmpty())
+    else if (m_filmsShown.isEmpty())
         m_views.front()->setMessage(tr(messages::NoVideo));
-    const RunMarks marks = m_run < 0 ? RunMarks() : m_document.marks(m_run);
-    if (const Stamps* const start = stampsOf(marks, 0);
-        start && m_workspace.preferences().boolean("startinCMTime"))
-        m_deck->seek(start->front());
+    askForFilms(m_filmsShown);
+    if (const auto place = placeToShow(m_run))
+        m_deck->seek(*place);
+    showExpected();
+}
+
+/// In the place of each film that is not there; the marks stay on the time line meanwhile.
+void TakingWindow::askForFilms(const QStringList& films) {
+    for (qsizetype camera = 0; camera < std::min<qsizetype>(films.size(), std::ssize(m_views));
+         ++camera) {
+        if (QFileInfo(films[camera]).isFile())
+            continue;
+        FilmView* const view = m_views[static_cast<std::size_t>(camera)];
+        view->setQuestion(tr("%1 is not in the folder of the split file.")
+                              .arg(QFileInfo(films[camera]).fileName()),
+                          tr("Where are the films now?…"));
+        connect(view, &FilmView::answered, this, &TakingWindow::findFilms,
+                Qt::QueuedConnection); // the view goes when the films are found
+    }
+}
+
+void TakingWindow::findFilms() {
+    const QString folder = m_chooseFolder(tr("Where are the films now?"));
+    if (folder.isEmpty())
+        return;
+    commit();
+    const QStringList missing = m_document.findFilms(folder);
+    const qsizetype films = m_document.filmNames().size();
+    if (m_run >= 0 && filmsOf(m_run) != m_filmsShown)
+        showFilms();
+    constexpr qsizetype MostNamed = 5;
+    const QString which = missing.mid(0, MostNamed).join(", ") +
+                          (missing.size() > MostNamed ? QStringLiteral(" …") : QString());
+    if (!missing.isEmpty())
+        refuse(tr("%1 of %2 films are there. Not found: %3.")
+                   .arg(films - missing.size())
+                   .arg(films)
+                   .arg(which));
+    else
+        m_views.front()->flash(tr("All films are found"));
 }
 
 /// The run's own film stays where it is.
 void TakingWindow::showBeside() {
     if (m_run >= m_document.runCount())
         return; // another run comes to the front
-    const auto moment = m_deck->stamp(0);
+    rememberFilmPlace();
     showFilms();
-    if (moment)
-        m_deck->seek(*moment);
 }
 
 /// What is odd about the films, and where the cameras of a run stand to each other: its first mark

@@ -68,6 +68,9 @@ TakingWindow::TakingWindow(Workspace& workspace, Autosave autosave)
       m_sound(new FilmSound(*m_deck, this)),
       m_chooseFiles([this](const QString& title, const QString& filter) {
           return QFileDialog::getOpenFileNames(this, title, m_document.folder(), filter);
+      }),
+      m_chooseFolder([this](const QString& title) {
+          return QFileDialog::getExistingDirectory(this, title, m_document.folder());
       }) {
     setAttribute(Qt::WA_DeleteOnClose);
     setAcceptDrops(true);
@@ -201,6 +204,7 @@ void TakingWindow::connectNotes() {
     connect(m_notes, &NotesPanel::attachWanted, this, &TakingWindow::attachFixedCamera);
     connect(m_notes, &NotesPanel::besideChanged, this, &TakingWindow::showBeside);
     connect(m_notes, &NotesPanel::runRequested, this, &TakingWindow::selectRun);
+    connect(m_notes, &NotesPanel::refused, this, &TakingWindow::refuse);
     connect(m_notes, &NotesPanel::flashed, this,
             [this](const QString& text) { m_views.front()->flash(text); });
 }
@@ -224,7 +228,7 @@ void TakingWindow::showDocument() {
     setWindowTitle(m_document.title() + "[*] – " + tr("split taking") + " – Kavela");
     setWindowModified(m_document.isDirty());
     followRun();
-    if (m_run >= 0 && filmsOf(m_run) != m_deck->films())
+    if (m_run >= 0 && filmsOf(m_run) != m_filmsShown)
         showFilms();
     if (m_selected && (m_run < 0 || !stampsOf(m_document.marks(m_run), *m_selected)))
         m_selected.reset();
@@ -238,7 +242,9 @@ void TakingWindow::showDocument() {
     m_actions->refresh();
 }
 
+/// Presses that wait for their frame belong to what is in front now.
 void TakingWindow::commit() {
+    m_deck->finishPresses();
     m_form->commit();
     m_notes->commit();
 }
@@ -267,6 +273,7 @@ void TakingWindow::selectRun(int run) {
 }
 
 void TakingWindow::showRun(int run) {
+    rememberFilmPlace();
     m_run = run;
     m_identity = run < 0 ? nullptr : m_document.identityOf(run);
     m_selected.reset();
@@ -319,6 +326,7 @@ void TakingWindow::showMarks() {
     m_splits->setSections(std::move(sections));
     m_splits->setSelected(m_selected && *m_selected > 0 ? m_selected : std::nullopt);
     showRunning();
+    showExpected();
 }
 
 void TakingWindow::showRunning() {
@@ -355,6 +363,7 @@ void TakingWindow::showState() {
                           m_deck->position() >= m_deck->end() && m_deck->rate() > 0;
     if (hasEnded && m_wasPlaying && m_workspace.preferences().boolean("autoplaynext") &&
         m_run + 1 < m_document.runCount()) {
+        m_places.erase(m_document.identityOf(m_run + 1)); // from its beginning
         selectRun(m_run + 1);
         m_deck->play(1);
     }

@@ -9,6 +9,7 @@
 #include <QMainWindow>
 
 #include <functional>
+#include <map>
 
 class QLabel;
 class QLineEdit;
@@ -64,6 +65,8 @@ public:
     /// Moves a mark to the frame at so many seconds of the film, on all cameras by the same time.
     void dropMark(std::size_t mark, double seconds);
     void goToMark(std::size_t mark); ///< 0 is the start, 1 the first split
+    /// To where the next split is to be expected; tells why when nothing says where that is.
+    void goToExpected();
     void stepMark(int step);
     void setPenalty(GatePenalty penalty);
     void stepGate(int step);
@@ -73,6 +76,8 @@ public:
     void importVideos();
     void addCamera();
     void attachFixedCamera();
+    /// Asks in which folder the films are now, and finds them there by their names.
+    void findFilms();
     void importSplitFile();
     void importResults();
     void collectTraining();
@@ -91,6 +96,9 @@ public:
     /// Where files come from in place of the platform's dialogs, as in tests.
     using ChooseFiles = std::function<QStringList(const QString& title, const QString& filter)>;
     void setChooseFiles(ChooseFiles choose) { m_chooseFiles = std::move(choose); }
+    /// The same for a folder; empty for none.
+    using ChooseFolder = std::function<QString(const QString& title)>;
+    void setChooseFolder(ChooseFolder choose) { m_chooseFolder = std::move(choose); }
 
 signals:
     void homeRequested();
@@ -115,12 +123,22 @@ private:
     void showDocument();
     void showFilms();
     void showBeside();
+    void askForFilms(const QStringList& films);
+    [[nodiscard]] std::optional<CMTime> placeToShow(int run) const;
+    void rememberFilmPlace();
     void showMarks();
+    void showExpected();
     void showRunning();
     void showState();
     void showHealth();
     void select(std::optional<std::size_t> mark);
     void tell(const std::string& message);
+    void refuse(const QString& why);
+    void refuseWithoutFilm();
+    void markSplit(Stamps stamps);
+    void moveMarkTo(Stamps stamps);
+    void nudge(std::size_t mark, int frames);
+    void dropMarkAt(std::size_t mark, const CMTime& moment);
     void playTableCell(const QModelIndex& index);
     [[nodiscard]] QStringList filmsOf(int run) const;
     [[nodiscard]] std::optional<std::size_t> lastMark() const;
@@ -136,6 +154,9 @@ private:
     FilmSound* m_sound;
     TakingActions* m_actions = nullptr;
     ChooseFiles m_chooseFiles;
+    ChooseFolder m_chooseFolder;
+    QStringList m_filmsShown;               ///< of the run in front, found or not
+    std::map<RunIdentity, CMTime> m_places; ///< where the film of a run was left
     int m_run = -1;
     RunIdentity m_identity;                ///< of the run in front
     std::optional<std::size_t> m_selected; ///< mark: 0 is the start, 1 the first split

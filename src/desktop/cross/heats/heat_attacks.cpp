@@ -78,23 +78,23 @@ void HeatPage::changeAttack(const QString& what, const std::function<void(action
 
 /// Between the second boat and the first: the likeliest attack.
 void HeatPage::addAttack() {
-    const auto moment = m_desk.moment();
-    if (!current() || !moment) {
-        emit told(current() ? tr("There is no frame of the film to start the attack at.")
-                            : tr("Add a heat first."));
-        return;
-    }
-    addAttack(*moment);
+    if (!current())
+        emit refused(tr("Add a heat first."));
+    else if (m_desk.hasFilm())
+        whenMeant([this](const CMTime& moment) { addAttack(moment); });
+    else
+        addAttack(std::nullopt); // who saw the race without a film knows who attacked whom
 }
 
-void HeatPage::addAttack(const CMTime& moment) {
+void HeatPage::addAttack(const std::optional<CMTime>& moment) {
     if (!current() || current()->athletes.empty())
         return;
     commit();
     const Names likely = offeredOrder();
     const Names& order = likely.empty() ? current()->athletes : likely;
     actiondata030 made;
-    made.time = {moment};
+    if (moment)
+        made.time = {*moment};
     made.attacker = order[std::min<std::size_t>(1, order.size() - 1)];
     if (order.size() > 1)
         made.defenders = {order.front()};
@@ -106,6 +106,9 @@ void HeatPage::addAttack(const CMTime& moment) {
         m_naming = Naming::Attacker;
     });
     emit flashed(tr("Attack: number of the attacker, then of the defenders"));
+    if (!moment)
+        emit told(tr("An attack without a moment, since there is no film: press the number of the "
+                     "attacker, then those of the defenders."));
 }
 
 /// The attacker first, then defenders, a second press taking one back.
@@ -133,11 +136,10 @@ void HeatPage::setAttackMoment(std::size_t entry, const CMTime& moment) {
 }
 
 void HeatPage::endAttack() {
-    const auto moment = m_desk.moment();
-    if (!moment)
-        emit told(tr("There is no frame of the film to end the attack at."));
+    if (!attack())
+        emit refused(tr("Select the attack that ends here."));
     else
-        endAttack(*moment);
+        whenMeant([this](const CMTime& moment) { endAttack(moment); });
 }
 
 void HeatPage::endAttack(const CMTime& moment) {

@@ -2,6 +2,7 @@
 #include "desktop/cross/heats/heat_page.h"
 #include "desktop/cross/heats/order_board.h"
 #include "desktop/cross/heats/place_grid.h"
+#include "desktop/film/film_deck.h"
 #include "desktop/taking/taking_document.h"
 #include "splittaking/annotations/cross_heats.h"
 
@@ -101,6 +102,7 @@ QString HeatPage::orderFault() const {
 }
 
 void HeatPage::pressNumber(int number) {
+    m_desk.deck.finishPresses(); // an attack may be about to begin, whose boats are named
     if (!current())
         return;
     const auto boat = static_cast<std::size_t>(number - 1);
@@ -271,7 +273,7 @@ void HeatPage::showOrderButtons() {
     if (!current())
         return;
     const auto record = orderInFront();
-    const bool hasFrame = m_desk.moment().has_value();
+    const bool hasFrame = m_desk.hasFilm();
     const std::int64_t at = strayOrder() ? current()->generals[*record].gate : gate().value_or(0);
     const QString state = m_draft ? tr("not taken yet")
                           : record

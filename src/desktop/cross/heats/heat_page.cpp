@@ -25,11 +25,6 @@ namespace {
 
 using Names = std::vector<std::string>;
 
-/// Films are known by bare names in the folder of the document.
-bool isThere(const QString& folder, const QString& film) {
-    return film == QFileInfo(film).fileName() && QFileInfo(folder + '/' + film).isFile();
-}
-
 QString joined(const Names& names) {
     QStringList texts;
     for (const std::string& name : names)
@@ -37,10 +32,12 @@ QString joined(const Names& names) {
     return texts.join(", ");
 }
 
-QString filmText(const QString& folder, const QString& film) {
+QString filmText(const TakingDocument& document, const std::string& name) {
+    const QString film = QString::fromStdString(name);
     if (film.isEmpty())
         return HeatPage::tr("none");
-    return isThere(folder, film) ? film : HeatPage::tr("⚠ missing: %1").arg(film);
+    return QFileInfo(document.pathOf(name)).isFile() ? film
+                                                     : HeatPage::tr("⚠ missing: %1").arg(film);
 }
 
 QString takenText(const rounddata030& heat, const crossinfodata030& course) {
@@ -136,10 +133,9 @@ void HeatPage::showHeats() {
     const auto& heats = m_desk.cross().eliphase;
     std::vector<QStringList> rows;
     for (std::size_t heat = 0; heat < heats.size(); ++heat)
-        rows.push_back(
-            {QString::number(heat + 1), joined(heats[heat].athletes),
-             filmText(m_desk.document.folder(), QString::fromStdString(heats[heat].videoname)),
-             takenText(heats[heat], course())});
+        rows.push_back({QString::number(heat + 1), joined(heats[heat].athletes),
+                        filmText(m_desk.document, heats[heat].videoname),
+                        takenText(heats[heat], course())});
     fillTable(*m_heats, rows);
     const QSignalBlocker blocked(m_heats);
     tipTexts(*m_heats);
@@ -296,6 +292,7 @@ void HeatPage::stepRow(int step) {
 void HeatPage::selectHeat(std::size_t heat) {
     if (heat >= m_desk.cross().eliphase.size() || heat == m_heat)
         return;
+    m_desk.deck.finishPresses(); // they belong to the heat in front
     commit();
     openHeat(heat);
     refresh();

@@ -60,9 +60,10 @@ public:
     /// Gives the boats of the heat other names.
     void renameBoats();
 
-    /// Adds an attack at the frame shown, between the boats that are likely to meet.
+    /// Adds an attack at the frame shown, between the boats that are likely to meet; without a film
+    /// it has no moment.
     void addAttack();
-    void addAttack(const CMTime& moment);
+    void addAttack(const std::optional<CMTime>& moment);
     /// Ends the selected attack at the frame shown.
     void endAttack();
     void endAttack(const CMTime& moment);

@@ -147,10 +147,8 @@ void HeatPage::makeOrderButtons(QVBoxLayout& column) {
         row->addWidget(each);
     row->addWidget(m_comment, 1);
     column.addLayout(row);
-    connect(m_take, &QPushButton::clicked, this, [this] {
-        if (const auto moment = m_desk.moment())
-            mark(*moment);
-    });
+    connect(m_take, &QPushButton::clicked, this,
+            [this] { whenMeant([this](const CMTime& moment) { mark(moment); }); });
     connect(m_keep, &QPushButton::clicked, this, [this] {
         const auto record = orderInFront();
         takeOrder(record ? current()->generals[*record].time : CMTime{});
@@ -194,12 +192,8 @@ void HeatPage::makeAttacks(QVBoxLayout& column) {
             [this](const QString& what, const std::function<void(actiondata030&)>& change) {
                 changeAttack(what, change);
             });
-    connect(m_form, &AttackForm::startWanted, this, [this] {
-        if (const auto moment = m_desk.moment())
-            setAttackMoment(0, *moment);
-        else
-            emit told(tr("There is no frame of the film to start the attack at."));
-    });
+    connect(m_form, &AttackForm::startWanted, this,
+            [this] { whenMeant([this](const CMTime& moment) { setAttackMoment(0, moment); }); });
     connect(m_form, &AttackForm::endWanted, this, [this] { endAttack(); });
     connect(m_form, &AttackForm::endCleared, this, [this] { removeAttackMoment(1); });
     connect(m_form, &AttackForm::removalWanted, this, &HeatPage::removeAttack);

@@ -3,6 +3,7 @@
 #include "desktop/charts/chart_colours.h"
 #include "desktop/shell/theme.h"
 #include "desktop/taking/notes/note_page.h"
+#include "desktop/taking/taking_document.h"
 
 #include <QFileInfo>
 #include <QHBoxLayout>
@@ -101,8 +102,9 @@ void TrialList::setText(int row, Column column, const QString& text) {
     item->setText(text);
 }
 
-void TrialList::showFilm(int row, const QString& name, const QString& folder) {
-    const bool isMissing = !name.isEmpty() && !QFileInfo::exists(folder + '/' + name);
+void TrialList::showFilm(int row, const std::string& film, const TakingDocument& document) {
+    const QString name = QString::fromStdString(film);
+    const bool isMissing = !name.isEmpty() && !QFileInfo::exists(document.pathOf(film));
     setText(row, FilmColumn,
             name.isEmpty() ? QStringLiteral("–")
             : isMissing    ? tr("⚠ missing")
@@ -112,7 +114,7 @@ void TrialList::showFilm(int row, const QString& name, const QString& folder) {
     item.setForeground(isMissing ? missedColour(palette()) : palette().color(QPalette::Text));
 }
 
-void TrialList::setTrials(const std::vector<ttdata030>& trials, const QString& folder) {
+void TrialList::setTrials(const std::vector<ttdata030>& trials, const TakingDocument& document) {
     const QSignalBlocker blocked(m_table);
     m_table->setRowCount(static_cast<int>(trials.size()));
     for (int row = 0; row < m_table->rowCount(); ++row) {
@@ -121,7 +123,7 @@ void TrialList::setTrials(const std::vector<ttdata030>& trials, const QString& f
                 trial.pos == 0 ? QStringLiteral("–") : QString::number(trial.pos));
         setText(row, AthleteColumn, QString::fromStdString(trial.athlete));
         setText(row, TimeColumn, timeOrDash(trial.time));
-        showFilm(row, QString::fromStdString(trial.videoname), folder);
+        showFilm(row, trial.videoname, document);
     }
 }
 

@@ -10,6 +10,8 @@ class QTableWidget;
 
 namespace kavela::desktop {
 
+class TakingDocument;
+
 /// The time trials of a cross race in the order of the file, with what adds, names and removes
 /// them. Changes nothing itself.
 class TrialList : public QWidget {
@@ -18,8 +20,8 @@ class TrialList : public QWidget {
 public:
     explicit TrialList(QWidget* parent = nullptr);
 
-    /// Films that are not in `folder` are shown as missing.
-    void setTrials(const std::vector<ttdata030>& trials, const QString& folder);
+    /// Films that the document does not find are shown as missing.
+    void setTrials(const std::vector<ttdata030>& trials, const TakingDocument& document);
     void setCurrent(std::optional<std::size_t> trial);
 
     void startAdding();
@@ -38,7 +40,7 @@ private:
     [[nodiscard]] QTableWidget* makeTable();
     void connectTable();
     void setText(int row, Column column, const QString& text);
-    void showFilm(int row, const QString& name, const QString& folder);
+    void showFilm(int row, const std::string& film, const TakingDocument& document);
 
     QLineEdit* m_name;
     QTableWidget* m_table;

@@ -126,6 +126,7 @@ void TrialPage::goTo(const TrialMark& mark) {
 void TrialPage::selectTrial(std::size_t trial) {
     if (trial >= m_desk.cross().timetrials.size() || m_trial == trial)
         return;
+    m_desk.deck.finishPresses(); // they belong to the trial in front
     m_trial = trial;
     m_selected.reset();
     m_gate.reset();

@@ -238,7 +238,7 @@ void TrialPage::refresh() {
     else
         m_trial = std::min(m_trial.value_or(0), trials.size() - 1);
     followMark();
-    m_list->setTrials(trials, m_desk.document.folder());
+    m_list->setTrials(trials, m_desk.document);
     m_list->setCurrent(m_trial);
     const auto& gates = m_desk.cross().crossinfo.gates;
     const bool isFrontGone =

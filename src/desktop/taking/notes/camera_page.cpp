@@ -180,9 +180,9 @@ void CameraPage::mark(const Stamps& stamps) {
         return;
     }
     const std::size_t camera = *m_desk.fixedCamera;
-    const auto fixed = m_desk.deck.stamp(m_desk.deck.cameras());
+    const auto fixed = m_desk.fixedMoment;
     if (!fixed) {
-        emit told(tr("The film of the fixed camera shows no frame yet."));
+        emit told(tr("The film of the fixed camera shows no frame."));
         return;
     }
     const ReferenceDate zero =

@@ -1,6 +1,7 @@
 #include "desktop/taking/notes/loss_page.h"
 
 #include "common/number_text.h"
+#include "desktop/film/film_deck.h"
 #include "desktop/shell/theme.h"
 #include "desktop/shell/workspace.h"
 #include "desktop/taking/notes/code_combo.h"
@@ -125,8 +126,9 @@ void LossPage::makeMarks(QVBoxLayout& column) {
             m_marks[i] = button;
             row->addWidget(button);
             connect(button, &QPushButton::clicked, this, [this, i] {
-                if (const auto moment = m_desk.moment())
-                    setMarkHere(static_cast<LossMark>(i), *moment);
+                emit pressed([this, i](const Stamps& stamps) {
+                    setMarkHere(static_cast<LossMark>(i), stamps.front());
+                });
             });
         }
         column.addLayout(row);
@@ -351,9 +353,15 @@ void LossPage::removeCurrent() {
 
 bool LossPage::goToOtherRun() {
     const auto other = m_desk.run == m_owner ? otherRun() : std::optional(m_owner);
-    if (other)
-        emit runRequested(*other);
-    return other.has_value();
+    if (!other)
+        return false;
+    emit runRequested(*other);
+    const auto start =
+        loss() ? markOf(*loss(), isOnOtherRun() ? LossMark::VersusStart : LossMark::OwnStart)
+               : std::nullopt;
+    if (start)
+        m_desk.deck.seek(*start); // to the stretch that is compared
+    return true;
 }
 
 void LossPage::change(const QString& what, const std::function<void(timeloss031&)>& act) {

@@ -46,12 +46,17 @@ struct NoteDesk {
     ClipPlayer& clips;
     int run = -1;                           ///< in front; below 0 without one
     std::optional<std::size_t> fixedCamera; ///< whose film is shown beside the run's
+    /// Where the fixed camera's film stands for the key that acts now; nothing without one.
+    std::optional<CMTime> fixedMoment = {};
 
     /// The run in front; null without one.
     [[nodiscard]] const athletedata031* record() const;
     /// The frame of the first camera on the screen; nothing without one.
     [[nodiscard]] std::optional<CMTime> moment() const;
 };
+
+/// What a key does with the frames that are meant by it, one of each camera.
+using FrameAct = std::function<void(const Stamps&)>;
 
 /// The page of one mode: what it shows of the run in front, and what its keys do. Every edit is one
 /// step that can be undone.
@@ -98,6 +103,8 @@ signals:
     void flashed(const QString& text); ///< to be shown on the film for a moment
     void told(const QString& text);    ///< to be shown below the page
     void runRequested(int run);
+    /// A button was pressed that acts with the frames that are meant by it.
+    void pressed(const FrameAct& act);
 
 protected:
     void edit(const QString& what, const std::function<void(athletedata031&)>& change);

@@ -11,40 +11,55 @@
 #include "desktop/taking/taking_document.h"
 #include "splittaking/messages.h"
 
+#include <QScopedValueRollback>
+
 #include <algorithm>
+#include <utility>
 
 /// What the keys and the mouse do to the marks of the modes.
 namespace kavela::desktop {
 
-/// The stamps of the frames on the screen; nothing, once the coach was told why, where the mode
-/// needs them and there are none.
-std::optional<Stamps> NotesPanel::stampsToMark() {
+/// Acts with the frames that are meant now, as soon as they are known, or tells why it does not.
+void NotesPanel::press(const FrameAct& act) {
     tell({});
-    Stamps stamps = m_desk.deck.stamps();
-    if (m_desk.record() && (!stamps.empty() || !page()->needsFrame()))
-        return stamps;
-    if (!m_desk.record() || m_desk.deck.cameras() == 0)
-        m_desk.workspace.showAlert({"", messages::NoVideo}, window());
+    FilmDeck& deck = m_desk.deck;
+    const athletedata031* const run = m_desk.record();
+    if (run && !page()->needsFrame())
+        actPressed(act, deck.meant());
+    else if (run && deck.cameras() > 0)
+        deck.whenMeant([this, act](const Stamps& stamps) { actPressed(act, stamps); },
+                       [this](const QString& why) { refuse(why); });
+    else if (run && !m_desk.document.film(m_desk.run, 0).isEmpty())
+        refuse(
+            tr("Nothing can be marked: %1 is not in the folder of the split file. Cameras > Where "
+               "are the films now?")
+                .arg(QString::fromStdString(run->videoname.front())));
     else
-        tell(tr("No frame of the film is shown that could be marked."));
-    return std::nullopt;
+        m_desk.workspace.showAlert({"", messages::NoVideo}, window());
+}
+
+void NotesPanel::actPressed(const FrameAct& act, const Stamps& stamps) {
+    const QScopedValueRollback<bool> pressed(m_isPressed, true);
+    const auto own = static_cast<std::ptrdiff_t>(std::min(stamps.size(), m_desk.deck.cameras()));
+    m_desk.fixedMoment = std::cmp_less(own, stamps.size())
+                             ? std::optional(stamps[static_cast<std::size_t>(own)])
+                             : std::nullopt;
+    act(Stamps(stamps.begin(), stamps.begin() + own));
 }
 
 void NotesPanel::mark() {
-    if (const auto stamps = stampsToMark())
-        page()->mark(*stamps);
+    press([this](const Stamps& stamps) { page()->mark(stamps); });
 }
 
 void NotesPanel::actIn(NoteMode mode, const std::function<void()>& act) {
     if (m_mode == mode)
         act();
     else
-        tell(tr("This key works in the mode %1.").arg(titleOf(mode)));
+        refuse(tr("This key works in the mode %1.").arg(titleOf(mode)));
 }
 
 void NotesPanel::markStroke(HandCode hand) {
-    if (const auto stamps = stampsToMark())
-        m_strokes->markHand(*stamps, hand);
+    press([this, hand](const Stamps& stamps) { m_strokes->markHand(stamps, hand); });
 }
 
 void NotesPanel::swapHand() {
@@ -75,15 +90,21 @@ void NotesPanel::moveSelected(const CMTime& moment) {
 }
 
 void NotesPanel::moveMarkHere() {
-    if (!m_selected || !m_desk.record())
-        return;
-    const auto camera = shownCamera(m_selected->film);
-    if (!camera) {
-        tell(tr("This mark lies on another film than the one shown."));
+    if (!m_selected || !m_desk.record()) {
+        refuse(tr("No mark is selected. Ctrl and the arrows go from mark to mark."));
         return;
     }
-    if (const auto stamp = m_desk.deck.stamp(*camera))
-        moveSelected(*stamp);
+    const auto camera = shownCamera(m_selected->film);
+    if (!camera) {
+        refuse(tr("This mark lies on another film than the one shown."));
+        return;
+    }
+    m_desk.deck.whenMeant(
+        [this, camera = *camera](const Stamps& stamps) {
+            if (m_selected && camera < stamps.size())
+                moveSelected(stamps[camera]);
+        },
+        [this](const QString& why) { refuse(why); });
 }
 
 /// Which of the deck's cameras shows a film of the run; nothing for one that is not open.
@@ -132,12 +153,28 @@ void NotesPanel::playClips() {
 }
 
 void NotesPanel::nudgeMark(int frames) {
+    if (!m_selected || !m_desk.record()) {
+        refuse(tr("No mark is selected. Ctrl and the arrows go from mark to mark."));
+        return;
+    }
+    const FilmDeck& deck = m_desk.deck;
+    const bool isOnFilm = shownCamera(m_selected->film) == std::size_t{0};
+    if (isOnFilm && deck.fault(0).isEmpty())
+        m_desk.deck.whenKnown(
+            m_selected->time, [this, frames](const Stamps&) { nudgeSelected(frames); },
+            [this](const QString& why) { refuse(why); });
+    else
+        nudgeSelected(frames);
+}
+
+void NotesPanel::nudgeSelected(int frames) {
     if (m_selected && m_desk.record())
         moveSelected(m_desk.deck.nudged(shownCamera(m_selected->film).value_or(m_desk.deck.views()),
                                         m_selected->time, frames));
 }
 
 void NotesPanel::deleteMark() {
+    m_desk.deck.finishPresses();
     if (!m_desk.record())
         return;
     if (!m_selected) {
@@ -158,10 +195,10 @@ bool NotesPanel::stepMark(int step) {
     const auto kind = page() ? page()->kind() : std::nullopt;
     if (!kind)
         return false;
-    const auto shown = m_desk.moment();
-    const std::optional<CMTime> now = shown        ? shown
-                                      : m_selected ? std::optional(m_selected->time)
-                                                   : std::nullopt;
+    const Stamps meant = m_desk.deck.meant();
+    const std::optional<CMTime> now = !meant.empty() ? std::optional(meant.front())
+                                      : m_selected   ? std::optional(m_selected->time)
+                                                     : std::nullopt;
     const std::array kinds{*kind};
     const auto place = now ? step < 0 ? previousMark(m_marks.marks, {}, *now, onlyKinds(kinds))
                                       : nextMark(m_marks.marks, {}, *now, onlyKinds(kinds))

@@ -147,7 +147,8 @@ void NotesPanel::addPage(NotePage* page) {
     connect(page, &NotePage::picked, this, &NotesPanel::goTo);
     connect(page, &NotePage::rowChosen, this, &NotesPanel::noteSelected);
     connect(page, &NotePage::flashed, this, &NotesPanel::flashed);
-    connect(page, &NotePage::told, this, &NotesPanel::tell);
+    connect(page, &NotePage::told, this, &NotesPanel::hear);
+    connect(page, &NotePage::pressed, this, &NotesPanel::press);
     connect(page, &NotePage::runRequested, this, &NotesPanel::runRequested);
 }
 
@@ -184,6 +185,7 @@ bool NotesPanel::takesMarks() const {
 }
 
 void NotesPanel::commit() {
+    m_desk.deck.finishPresses();
     if (page())
         page()->commit();
 }
@@ -333,6 +335,19 @@ void NotesPanel::showFixedFilm(const QString& name) {
 
 void NotesPanel::bringIntoStep() {
     m_cameras->bringIntoStep();
+}
+
+/// Whoever looks at the film hears and sees that a key did nothing.
+void NotesPanel::refuse(const QString& why) {
+    tell(why);
+    emit refused(why);
+}
+
+void NotesPanel::hear(const QString& told) {
+    if (m_isPressed && !told.isEmpty())
+        refuse(told);
+    else
+        tell(told);
 }
 
 void NotesPanel::tell(const QString& text) {

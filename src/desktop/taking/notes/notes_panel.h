@@ -88,6 +88,7 @@ signals:
     void noteSelected();                ///< a mark that is no split
     void splitChosen(std::size_t mark); ///< 0 is the start, 1 the first split
     void flashed(const QString& text);
+    void refused(const QString& why); ///< a key could not do what it was pressed for
     void runRequested(int run);
 
 private:
@@ -99,13 +100,17 @@ private:
     void showList();
     void keepSelection();
     void showSelection();
-    [[nodiscard]] std::optional<Stamps> stampsToMark();
+    void press(const FrameAct& act);
+    void actPressed(const FrameAct& act, const Stamps& stamps);
+    void refuse(const QString& why);
+    void hear(const QString& told);
     void select(const LaneMark& mark);
     void selectAt(MarkKind kind, const CMTime& moment);
     void goTo(const MarkHandle& handle);
     void seek(const LaneMark& mark);
     [[nodiscard]] std::optional<std::size_t> shownCamera(const FilmOfRun& film) const;
     void moveSelected(const CMTime& moment);
+    void nudgeSelected(int frames);
     void dropMark(const MarkHandle& handle, double seconds);
     void tell(const QString& text);
 
@@ -122,6 +127,7 @@ private:
     LossPage* m_losses = nullptr;
     CommentPage* m_comments = nullptr;
     CameraPage* m_cameras = nullptr;
+    bool m_isPressed = false; ///< a key acts: what a page tells meanwhile is why it did not
     AnnotationLanes m_marks;
     std::optional<LaneMark> m_selected;
 };

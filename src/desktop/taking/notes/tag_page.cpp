@@ -132,7 +132,7 @@ void TagPage::mark(const Stamps& stamps) {
     }
     const QString text = name();
     remember(text);
-    const auto fixed = m_desk.fixedCamera ? m_desk.deck.stamp(m_desk.deck.cameras()) : std::nullopt;
+    const auto fixed = m_desk.fixedCamera ? m_desk.fixedMoment : std::nullopt;
     edit(tr("tag %1").arg(text), [&](athletedata031& run) {
         const TagHandle tag = addTag(run, 0, text.toStdString(), stamps.front());
         if (fixed)
