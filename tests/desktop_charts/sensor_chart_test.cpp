@@ -172,6 +172,19 @@ TEST_F(SensorCharts, ShareViewAndCursorInARing) {
     EXPECT_EQ(m_other.view(), std::pair(0.0, 100.0));
 }
 
+TEST_F(SensorCharts, ShowTheCurveWhileTheFocusAndTheCursorStandOnIt) {
+    m_chart.showCursorAt(30); // on a value, which gets a dot
+    m_chart.clearFocus();
+    const QImage before = m_chart.grab().toImage();
+    QApplication::setActiveWindow(&m_chart);
+    m_chart.setFocus();
+    ASSERT_TRUE(m_chart.hasFocus());
+    const QImage focused = m_chart.grab().toImage();
+    const QRect inside = focused.rect().adjusted(2, 2, -2, -2);
+    EXPECT_EQ(focused.copy(inside), before.copy(inside)) << "the frame alone is added";
+    EXPECT_NE(focused, before);
+}
+
 TEST_F(SensorCharts, DragsSelectPanAndShift) {
     QSignalSpy selected(&m_chart, &SensorChart::rangeSelected);
     drag(20, 40, Qt::LeftButton);

@@ -392,6 +392,7 @@ void SensorChart::paintEvent(QPaintEvent*) {
     if (m_drag == Drag::Select)
         paintSelection(painter);
     if (hasFocus()) {
+        painter.setBrush(Qt::NoBrush); // that of the cursor's dots would fill the frame
         painter.setPen(QPen(palette().color(QPalette::Highlight), 1));
         painter.drawRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5));
     }
