@@ -128,6 +128,19 @@ std::optional<ReferenceDate> startDate(const RunArrays& run) {
     return start;
 }
 
+void placeCover(const MotionCover& cover, RunMotion& motion) {
+    const auto place = [&](SectionMotion& section) {
+        if (!(section.end > section.start))
+            return;
+        section.cover = cover.of(section.start, section.end);
+        section.covered = cover.secondsOf(section.start, section.end);
+    };
+    for (SectionMotion& section : motion.sections)
+        place(section);
+    place(motion.whole);
+    motion.coverNotes = cover.notes(motion.seconds);
+}
+
 void placeMotion(const MotionAnalysis& analysis, const RunClock& clock, RunMotion& motion) {
     for (std::size_t i = 0; i < analysis.strokes.size(); ++i) {
         const double time = clock.momentOf(analysis.strokes[i].catchTime);
@@ -167,6 +180,7 @@ std::optional<RunClock> analyseBoat(const RunArrays& run, const MotionProfile& p
         motion.flags = analysis.flags;
         motion.notes = notesOf(analysis);
         motion.isBowKnown = analysis.isBowKnown;
+        placeCover(MotionCover(run.bm, *clock), motion);
         placeMotion(analysis, *clock, motion);
         RunClock dates = *clock;
         dates.first += analysis.clockOffset;
@@ -198,8 +212,10 @@ void countStrokes(const RunMotion& motion, SectionMotion& section) {
         }
     for (const RunTurn& turn : motion.turns)
         turns += turn.time >= section.start && turn.time < section.end;
-    section.strokes = strokes;
-    section.turns = turns;
+    if (section.cover != MotionCover::None) {
+        section.strokes = strokes;
+        section.turns = turns;
+    }
     if (strokes > 0)
         section.strokeRate = rates / static_cast<double>(strokes);
 }
@@ -242,6 +258,10 @@ RunMotion runMotion(const RunArrays& run, const MotionProfile& profile) {
     for (SectionMotion& section : motion.sections)
         fillSection(motion, section);
     fillSection(motion, motion.whole);
+    if (motion.whole.cover == MotionCover::Part) {
+        motion.whole.strokes.reset();
+        motion.whole.turns.reset();
+    }
     return motion;
 }
 

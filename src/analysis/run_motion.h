@@ -1,6 +1,7 @@
 #pragma once
 
 #include "analysis/analyzer_records.h"
+#include "boatmotion/motion_cover.h"
 #include "boatmotion/strokes/motion_analysis.h"
 
 #include <optional>
@@ -36,6 +37,10 @@ struct TimedValue {
 struct SectionMotion {
     double start = 0; ///< s; a section that follows untimed ones begins where those do
     double end = 0;   ///< s; the start, for a section that was not timed: nothing is known of it
+    /// How much of it the boat's samples cover, and for how many seconds. Strokes and turns of a
+    /// section covered in part are those of that part; of a whole run they are then not known.
+    MotionCover::Share cover = MotionCover::None;
+    double covered = 0;
     std::optional<std::size_t> strokes;
     std::optional<double> strokeRate; ///< mean of its strokes, 1/min
     std::optional<double> meanSpeed;  ///< m/s
@@ -53,6 +58,7 @@ struct RunMotion {
     std::vector<std::string> notes; ///< the same as sentences
     bool isBowKnown = true;         ///< else the hands of the strokes are not known, and more
     double drift = 0;               ///< of the recorder's clock against the video's; 0.001 is 0.1 %
+    std::vector<std::string> coverNotes; ///< what of the run was not recorded, as sentences
     std::vector<RunStroke> strokes;
     std::vector<RunTurn> turns;
     std::vector<TimedValue> speed;       ///< ten a second, or those of the fixes; m/s

@@ -1,5 +1,6 @@
 #include "boatmotion/attachment.h"
 
+#include "boatmotion/motion_cover.h"
 #include "boatmotion/strokes/clocks.h"
 
 #include <fmt/format.h>
@@ -11,8 +12,8 @@ namespace kavela {
 
 namespace {
 
-/// Beyond these distances of its neighbours, in seconds, the value between them is not known.
-constexpr double LongestMotionBridge = 0.3;
+/// Beyond these distances of its neighbours, in seconds, the value between them is not known, as
+/// beyond LongestMotionBridge for the boat's samples.
 constexpr double LongestFixBridge = 5;
 constexpr double LongestHeartBridge = 10;
 
@@ -144,26 +145,6 @@ std::vector<Sample> cut(const std::vector<Sample>& samples, const Range& range, 
     return part;
 }
 
-/// What the boat's samples leave of a run.
-void noteCover(const std::vector<boatmotionrawdata_v5>& samples, const Range& run, double rate,
-               std::vector<std::string>& notes) {
-    if (samples.empty())
-        return;
-    const auto inRun = within(std::span<const boatmotionrawdata_v5>(samples), run);
-    if (inRun.empty()) {
-        notes.emplace_back("The recording does not reach into this run.");
-        return;
-    }
-    const auto [first, last] = std::ranges::minmax_element(
-        inRun, {}, [](const boatmotionrawdata_v5& sample) { return sample.timestamp; });
-    const double late = (first->timestamp - run.first) / rate;
-    const double early = (run.last - last->timestamp) / rate;
-    if (late > LongestMotionBridge)
-        notes.push_back(fmt::format("Of the first {:.1f} s of the run nothing is recorded.", late));
-    if (early > LongestMotionBridge)
-        notes.push_back(fmt::format("Of the last {:.1f} s of the run nothing is recorded.", early));
-}
-
 /// date = stamp + offset.
 double dateOffset(const bmrawdata_v5& session, std::vector<std::string>& notes) {
     if (session.boatmotion.empty())
@@ -232,7 +213,9 @@ AttachedPart partOf(const bmrawdata_v5& session, const ClockFit& fit, double run
     const Range range{fit.stampAt(runStart - AttachMargin), fit.stampAt(runEnd + AttachMargin)};
     AttachedPart part;
     part.bm = cut(session.boatmotion, range, run, LongestMotionBridge);
-    noteCover(session.boatmotion, run, fit.rate, part.notes);
+    if (!session.boatmotion.empty())
+        part.notes =
+            MotionCover(session.boatmotion, runClock(fit, runStart)).notes(runEnd - runStart);
     if (!session.boatmotion.empty() && part.bm.empty())
         return part;
     part.watchmotion = within(std::span<const watchmotiondata_v5>(session.watchmotion),

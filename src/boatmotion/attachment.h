@@ -30,6 +30,7 @@ namespace kavela {
 
 inline constexpr double AttachMargin = 3; ///< s; filters need a lead, and the start its first pull
 inline constexpr double WatchMargin = 3;  ///< s
+inline constexpr double LongestMotionBridge = 0.3; ///< s between samples that belong together
 inline constexpr double GreatestDrift = 0.01;
 inline constexpr double LeastEventDistance = 5; ///< s between two events that are to tell a drift
 

@@ -110,10 +110,17 @@ void addRecordedStrokes(RunSheetData& data, const analyzerdata& run) {
         return;
     const RunMotion motion = runMotion(run);
     data.recordingNote = reportText(motion.reason);
-    for (std::size_t k = 0; k < std::min(motion.sections.size(), data.splits.size()); ++k)
-        data.splits[k].recorded = {motion.sections[k].strokes, motion.sections[k].strokeRate};
+    if (motion.whole.cover == MotionCover::Part)
+        data.recordingNote = QStringLiteral("%1 s of %2 s; strokes are counted of whole sections.")
+                                 .arg(motion.whole.covered, 0, 'f', 1)
+                                 .arg(motion.seconds, 0, 'f', 1);
+    for (std::size_t k = 0; k < std::min(motion.sections.size(), data.splits.size()); ++k) {
+        const SectionMotion& section = motion.sections[k];
+        const bool isCounted = section.cover == MotionCover::Whole;
+        data.splits[k].recorded = {isCounted ? section.strokes : std::nullopt, section.strokeRate};
+    }
     data.whole.recorded = {motion.whole.strokes, motion.whole.strokeRate};
-    data.hasRecordedStrokes = motion.whole.strokes.value_or(0) > 0;
+    data.hasRecordedStrokes = !motion.strokes.empty();
 }
 
 RunCourse courseOf(const RaceSet& set, const analyzerdata& run) {

@@ -35,7 +35,7 @@ struct RunSheetData {
     SheetSplit whole; ///< its time is without penalties, its gap and rank are with them
     bool hasMarkedStrokes = false;
     bool hasRecordedStrokes = false;
-    QString recordingNote; ///< why the strokes of an attached recording are not known
+    QString recordingNote; ///< why strokes of an attached recording are not known
     RunCourse course;
     std::vector<SheetList> lists; ///< upstream gates, time losses, tags, comments; none is empty
 };

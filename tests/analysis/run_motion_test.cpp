@@ -135,6 +135,33 @@ TEST(RunMotions, UntimedSectionsAreNotKnown) {
     EXPECT_GT(motion.sections[2].strokes.value_or(0), 20U);
 }
 
+/// A recorder that was started late and failed for some seconds: what it did not see is not 0.
+TEST(RunMotions, SectionsThatWereNotRecordedHaveNoCount) {
+    bmrawdata_v5 session = handMade(120, steadyPaddling);
+    const double begin = session.boatmotion.front().timestamp;
+    std::erase_if(session.boatmotion, [&](const boatmotionrawdata_v5& sample) {
+        const double moment = sample.timestamp - begin;
+        return moment < RunStart + 30 || (moment > RunStart + 65 && moment < RunStart + 69);
+    });
+    athletedata031 run = runOf({20, 20, 20, 20});
+    attach(run, partOf(session, {{0, begin}, 1}, RunStart, RunStart + 80));
+    const RunMotion motion = runMotion(run, infodata031{});
+    ASSERT_EQ(motion.reason, "");
+    using enum MotionCover::Share;
+    EXPECT_THAT(motion.sections, testing::ElementsAre(testing::Field(&SectionMotion::cover, None),
+                                                      testing::Field(&SectionMotion::cover, Part),
+                                                      testing::Field(&SectionMotion::cover, Whole),
+                                                      testing::Field(&SectionMotion::cover, Part)));
+    EXPECT_FALSE(motion.sections[0].strokes);
+    EXPECT_FALSE(motion.sections[0].turns);
+    EXPECT_NEAR(static_cast<double>(motion.sections[1].strokes.value_or(0)), 10 / 0.75, 1.5);
+    EXPECT_NEAR(motion.sections[3].covered, 16, 0.05);
+    EXPECT_FALSE(motion.whole.strokes) << "no total of a part";
+    EXPECT_THAT(motion.coverNotes,
+                testing::ElementsAre("Of the first 30.0 s of the run nothing is recorded.",
+                                     "From 65.0 s to 69.0 s of the run nothing is recorded."));
+}
+
 TEST(RunMotions, OfATrackAloneTellSpeedAndHeartRate) {
     bmrawdata_v5 session = handMade(90, steadyPaddling);
     const double date = session.gps.front().date.seconds;

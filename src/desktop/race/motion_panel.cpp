@@ -21,9 +21,12 @@ constexpr std::size_t MarkSlot = 6;
 
 enum Column { TitleColumn, StrokesColumn, RateColumn, SpeedColumn, HeartColumn, ColumnCount };
 
+constexpr QChar PartMark = u'*'; ///< behind what is told of a part of a section alone
+const QString Unknown = QStringLiteral("–");
+
 template <class Number>
 QString numberOrDash(const std::optional<Number>& number, int decimals = 0) {
-    return number ? QString::number(static_cast<double>(*number), 'f', decimals) : "–";
+    return number ? QString::number(static_cast<double>(*number), 'f', decimals) : Unknown;
 }
 
 /// The run as it stands in its file, as far as its motion goes.
@@ -163,7 +166,12 @@ void MotionPanel::refresh() {
 }
 
 void MotionPanel::addRow(int row, const QString& title, const SectionMotion& section) {
-    const QStringList texts{title, numberOrDash(section.strokes), numberOrDash(section.strokeRate),
+    const bool isPart = section.cover == MotionCover::Part;
+    const auto counted = [isPart](const QString& number) {
+        return isPart && number != Unknown ? number + PartMark : number;
+    };
+    const QStringList texts{title, counted(numberOrDash(section.strokes)),
+                            counted(numberOrDash(section.strokeRate)),
                             numberOrDash(section.meanSpeed, 2), numberOrDash(section.heartRate)};
     for (int column = 0; column < ColumnCount; ++column) {
         auto* item = new QTableWidgetItem(texts[column]);
@@ -171,6 +179,13 @@ void MotionPanel::addRow(int row, const QString& title, const SectionMotion& sec
             item->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
         m_sections->setItem(row, column, item);
     }
+    const QString cover = isPart ? tr("%1 s of %2 s are recorded.")
+                                       .arg(QString::number(section.covered, 'f', 1),
+                                            QString::number(section.end - section.start, 'f', 1))
+                          : section.strokes ? QString()
+                                            : tr("Nothing of it is recorded.");
+    for (const int column : {StrokesColumn, RateColumn})
+        m_sections->item(row, column)->setToolTip(cover);
     m_sections->item(row, SpeedColumn)
         ->setToolTip(tr("greatest %1 m/s, %2 m")
                          .arg(numberOrDash(section.maxSpeed, 2), numberOrDash(section.distance)));
@@ -183,6 +198,11 @@ void MotionPanel::fillTable(std::size_t run) {
     for (const MotionFlag flag : motion.flags)
         notes.append(
             QString::fromUtf8(textOf(flag).data(), static_cast<qsizetype>(textOf(flag).size())));
+    for (const std::string& note : motion.coverNotes)
+        notes.append(QString::fromStdString(note));
+    if (motion.whole.cover == MotionCover::Part)
+        notes.append(tr("%1 of the part that is recorded; strokes of the whole run are not known.")
+                         .arg(PartMark));
     notes.removeAll(QString());
     m_note->setText(notes.join('\n'));
     m_note->setVisible(!notes.isEmpty());
