@@ -46,19 +46,20 @@ constexpr std::array KnownSessions{
     KnownSession{{"varoTestAlldata", "test session", "1", true}, readAndCount<varoTestAlldata>},
 };
 
-/// What to tell about a document that a reader refuses: what it is, when it is a session of another
-/// kind or version, otherwise the fault that was found.
-Fault explanation(const JsonDocument& document, Fault fault) {
+/// Refuses a document: it tells what it is, when it is a session of another kind or version,
+/// otherwise the fault that was found.
+[[noreturn]] void refuse(const JsonDocument& document, Fault fault) {
     const auto version = recogniseSession(document).version;
     if (!version)
-        return fault;
+        throw DecodeError(std::move(fault));
     if (version->record == "bmrawdata_v4")
-        return {{},
-                "this is a recording of version 4; `kavela upgrade` converts it to a new file of "
-                "the current version"};
-    return {{},
-            "this is a " + std::string(version->kind) + " of version " +
-                std::string(version->label) + ", which is not what is read here"};
+        throw OlderRecording(
+            {{},
+             "this is a recording of version 4; `kavela upgrade` converts it to a new file of "
+             "the current version"});
+    throw DecodeError({{},
+                       "this is a " + std::string(version->kind) + " of version " +
+                           std::string(version->label) + ", which is not what is read here"});
 }
 
 template <Record T>
@@ -67,7 +68,7 @@ T readSession(const std::filesystem::path& path) {
     T session;
     Fault fault;
     if (!tryDecode(document.root(), session, fault))
-        throw DecodeError(explanation(document, std::move(fault)));
+        refuse(document, std::move(fault));
     return session;
 }
 

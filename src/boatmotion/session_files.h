@@ -41,8 +41,15 @@ struct SessionRecognition {
 /// the one that is written first, then the test session.
 [[nodiscard]] SessionRecognition recogniseSession(const JsonDocument& document);
 
+/// A recording of version 4, which is not read as it is: see older_recording.h.
+class OlderRecording : public DecodeError {
+public:
+    using DecodeError::DecodeError;
+};
+
 /// The readers. Each reads one record and no other: a session of another kind or version is refused
-/// as a whole, with a text that says what it is. They throw FileError and DecodeError.
+/// as a whole, with a text that says what it is. They throw FileError and DecodeError, of which an
+/// OlderRecording is one.
 [[nodiscard]] bmrawdata_v5 readRawSession(const std::filesystem::path& path);
 [[nodiscard]] smartAlldata_v4 readSmartSession(const std::filesystem::path& path);
 [[nodiscard]] varoTestAlldata readTestSession(const std::filesystem::path& path);

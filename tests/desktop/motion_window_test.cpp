@@ -119,12 +119,29 @@ TEST_F(MotionWindowTest, ABrokenFileLeavesTheListAsItWas) {
     const std::string older =
         contentOf(fs::path(KAVELA_EXAMPLES) / "recordings" / "old_phone_v4.kvb");
     ASSERT_TRUE(open({text(add("good.kvb"))}));
-    ASSERT_TRUE(open({text(m_folder.add("broken.kvb", cut)), text(m_folder.add("older.kvb", older)),
-                      text(m_folder.path() / "no.kvb")}));
+    std::vector<Alert> asked;
+    bool isWanted = false;
+    m_workspace.setAnswer([&](const Alert& question) {
+        asked.push_back(question);
+        return isWanted;
+    });
+    const QString old = text(m_folder.add("older.kvb", older));
+    ASSERT_TRUE(
+        open({text(m_folder.add("broken.kvb", cut)), old, text(m_folder.path() / "no.kvb")}));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !asked.empty(); }));
     ASSERT_THAT(recordings().all(), SizeIs(1));
-    EXPECT_THAT(takeAlerts(), ElementsAre(HasSubstr("broken.kvb: boatmotion[0]"),
-                                          HasSubstr("kavela upgrade"), HasSubstr("no.kvb")));
+    EXPECT_THAT(takeAlerts(),
+                ElementsAre(HasSubstr("broken.kvb: boatmotion[0]"), HasSubstr("no.kvb")));
     EXPECT_THAT(m_recorder.lines, Contains("Error converting!").Times(3));
+    EXPECT_EQ(asked[0].title, "Error converting!");
+    EXPECT_THAT(m_folder.names(), testing::Not(Contains("older_v5.kvb"))) << "it was not wanted";
+
+    isWanted = true;
+    m_window.open({old});
+    ASSERT_TRUE(QTest::qWaitFor([&] { return recordings().all().size() == 2; }));
+    EXPECT_EQ(recordings().all()[1]->data.name, "older_v5.kvb");
+    EXPECT_EQ(contentOf(m_folder.path() / "older.kvb"), older) << "it stays as it was";
+    ASSERT_TRUE(open({}));
 }
 
 TEST_F(MotionWindowTest, ConvertsBesideTheRecordingAndAsksForAFurtherName) {
@@ -205,6 +222,16 @@ TEST_F(MotionWindowTest, MovesARecordingInTime) {
     EXPECT_NEAR(recordings().all()[1]->shift, 12, 0.001);
     m_window.alignStarts();
     EXPECT_EQ(recordings().all()[1]->shift, 0);
+    QTest::keyClick(&m_window, Qt::Key_Z, Qt::ControlModifier);
+    QTest::keyClick(&m_window, Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_NEAR(recordings().all()[1]->shift, 3, 1e-9) << "what was aligned by hand is not lost";
+    for (const double part : {0.5, 0.25})
+        emit charts.shiftDragged(part);
+    emit charts.shiftDragEnded();
+    EXPECT_NEAR(recordings().all()[1]->shift, 3.75, 1e-9);
+    QTest::keyClick(&m_window, Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_NEAR(recordings().all()[1]->shift, 3, 1e-9) << "a drag is one move";
+    m_window.alignStarts();
 
     charts.setCursor(10);
     m_window.goToStroke(1);

@@ -38,6 +38,10 @@ protected:
         auto window = std::make_unique<desktop::SessionWindow>(m_workspace,
                                                                desktop::Autosave(path("autosave")));
         window->setAttribute(Qt::WA_DeleteOnClose, false);
+        window->setAskPowerMeter([this](const QString& question) {
+            m_questions.push_back(question.toStdString());
+            return std::optional(m_isYes);
+        });
         window->startNew(path("new.bms"));
         window->show();
         QApplication::setActiveWindow(window.get());

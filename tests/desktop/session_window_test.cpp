@@ -12,9 +12,11 @@
 #include "desktop/sessions/power_meter_dialog.h"
 #include "desktop/sessions/session_view.h"
 #include "desktop/sessions/test_session_window.h"
+#include "desktop/sessions/track_offset_dialog.h"
 
 #include <QApplication>
 #include <QComboBox>
+#include <QDateTimeEdit>
 #include <QDoubleSpinBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -115,7 +117,6 @@ TEST_F(SessionWindowTest, WhatCannotBeOpenedIsToldAndWhatWasOpenStays) {
         QString file;
         const char* told;
     } cases[] = {
-        {add("old.kvb", encode(sample::oldPhone())), "recording of version 4"},
         {add("one.kvb", encode(one)), "one.kvb: "},
         {add("none.kvb", encode(none)), "none.kvb: "},
         {add("cut.kvb", encode(one).substr(0, 200)), "cut.kvb: "},
@@ -332,9 +333,39 @@ TEST_F(SessionWindowTest, AListOfALoggerBecomesARecordingAndATrackJoinsIt) {
     EXPECT_FALSE(window->document().value().session.strokesData.empty());
     const std::size_t before = window->document().value().session.heart.size();
     window->importFrom({track});
-    EXPECT_GT(window->document().value().session.heart.size(), before);
+    const std::size_t readings = window->document().value().session.heart.size();
+    EXPECT_GT(readings, before);
     press(*window, Qt::CTRL | Qt::Key_Z);
     EXPECT_EQ(window->document().value().session.heart.size(), before);
+
+    // The same from a watch whose clock is three days behind.
+    std::string late = contentOf(examples + "watch.gpx");
+    const std::string day = late.substr(late.find("<time>") + 6, 10);
+    const QDate before3 = QDate::fromString(QString::fromStdString(day), Qt::ISODate).addDays(-3);
+    for (std::size_t at = late.find(day); at != late.npos; at = late.find(day, at))
+        late.replace(at, day.size(), before3.toString(Qt::ISODate).toStdString());
+    whenAsked<desktop::TrackOffsetDialog>([](auto& dialog) {
+        auto* const begin = dialog.template findChild<QDateTimeEdit*>("begin");
+        const auto* const overlap = dialog.template findChild<QLabel*>("overlap");
+        EXPECT_THAT(overlap->text().toStdString(), HasSubstr("before the recording"));
+        begin->setDateTime(begin->dateTime().addDays(3));
+        EXPECT_FALSE(overlap->text().contains("before the recording"));
+    });
+    m_recorder.alerts.clear();
+    window->importFrom({add("late.gpx", late)});
+    const auto heart = [&] { return window->document().value().session.heart; };
+    ASSERT_THAT(heart(), Not(IsEmpty()));
+    EXPECT_THAT(m_recorder.alerts, ElementsAre(HasSubstr("heart rates were taken over")));
+    const double first = heart().front().date.seconds;
+    whenAsked<desktop::TrackOffsetDialog>([](auto& dialog) {
+        auto* const begin = dialog.template findChild<QDateTimeEdit*>("begin");
+        begin->setDateTime(begin->dateTime().addSecs(2));
+    });
+    window->moveTrack();
+    EXPECT_NEAR(heart().front().date.seconds, first + 2, 1.5) << "moved, and not joined twice";
+    EXPECT_LE(heart().size(), readings);
+    press(*window, Qt::CTRL | Qt::Key_Z);
+    EXPECT_EQ(heart().front().date.seconds, first);
     EXPECT_TRUE(window->saveRecording(path("logger.kvb")));
     EXPECT_FALSE(readRawSession(m_folder.path() / "logger.kvb").boatmotion.empty());
 }

@@ -67,6 +67,7 @@ protected:
 
     TempFolder m_folder;
     Recorder m_recorder;
+    desktop::CsvMappings m_known;
 };
 
 TEST_F(ImportsTest, TheDialogTellsWhatTheListGives) {
@@ -126,11 +127,53 @@ TEST_F(ImportsTest, FilesBecomeTracksAndRecordings) {
     const QStringList paths{QString::fromStdString(add("a.gpx", gpx)),
                             QString::fromStdString(add("b.csv", longList()))};
     inDialog([](CsvMappingDialog& dialog) { dialog.accept(); });
-    const std::vector<ImportedFile> files = desktop::importFiles(paths, m_recorder, nullptr);
+    const std::vector<ImportedFile> files =
+        desktop::importFiles(paths, m_recorder, nullptr, m_known);
     ASSERT_THAT(files, SizeIs(2));
     EXPECT_THAT(std::get<ImportedTrack>(files[0].content).gps, SizeIs(1));
     EXPECT_THAT(std::get<bmrawdata_v5>(files[1].content).boatmotion, SizeIs(12301));
     EXPECT_THAT(m_recorder.alerts, ElementsAre(HasSubstr("1 points without a date")));
+}
+
+TEST_F(ImportsTest, AListIsReadAsTheLastOneWithItsTitles) {
+    const QStringList first{QString::fromStdString(add("a.csv", longList()))};
+    inDialog([](CsvMappingDialog& dialog) {
+        EXPECT_FALSE(dialog.findChild<QPushButton*>("guessAgain")->isVisible());
+        choiceOver(dialog, 4)->setCurrentIndex(static_cast<int>(CsvQuantity::None));
+        dialog.findChild<QComboBox*>("acceleration")->setCurrentIndex(0);
+        waitForResult(dialog);
+        dialog.accept();
+    });
+    ASSERT_THAT(desktop::importFiles(first, m_recorder, nullptr, m_known), SizeIs(1));
+    const auto isAsBefore = [](CsvMappingDialog& dialog) {
+        EXPECT_EQ(choiceOver(dialog, 4)->currentText(), "–");
+        EXPECT_EQ(dialog.findChild<QComboBox*>("acceleration")->currentText(), "g");
+        auto* const again = dialog.findChild<QPushButton*>("guessAgain");
+        EXPECT_TRUE(again->isVisible());
+        again->click();
+        EXPECT_EQ(choiceOver(dialog, 4)->currentText(), "Heart rate");
+        dialog.reject();
+    };
+    const QStringList again{QString::fromStdString(add("b.csv", longList()))};
+    inDialog(isAsBefore);
+    EXPECT_THAT(desktop::importFiles(again, m_recorder, nullptr, m_known), IsEmpty());
+    EXPECT_THAT(m_known, SizeIs(1)) << "what was given up is not remembered";
+
+    std::string others = longList();
+    others.replace(others.find("heart"), 5, "puls");
+    const QStringList other{QString::fromStdString(add("c.csv", others))};
+    inDialog([](CsvMappingDialog& dialog) {
+        EXPECT_EQ(choiceOver(dialog, 4)->currentText(), "Heart rate") << "other titles";
+        dialog.accept();
+    });
+    ASSERT_THAT(desktop::importFiles(other, m_recorder, nullptr, m_known), SizeIs(1));
+    EXPECT_THAT(m_known, SizeIs(2));
+    m_known[0] = "44 0 9 9 9\t" + m_known[0].substr(m_known[0].find('\t') + 1);
+    inDialog([](CsvMappingDialog& dialog) {
+        EXPECT_EQ(choiceOver(dialog, 4)->currentText(), "Heart rate") << "damaged: guessed";
+        dialog.reject();
+    });
+    EXPECT_THAT(desktop::importFiles(other, m_recorder, nullptr, m_known), IsEmpty());
 }
 
 TEST_F(ImportsTest, CancelledAndDamagedFilesAreLeftOut) {
@@ -140,7 +183,7 @@ TEST_F(ImportsTest, CancelledAndDamagedFilesAreLeftOut) {
         QString::fromStdString(add("c.csv", "words\n")),
         QString::fromStdString((m_folder.path() / "none.gpx").string())};
     inDialog([](CsvMappingDialog& dialog) { dialog.reject(); });
-    EXPECT_THAT(desktop::importFiles(paths, m_recorder, nullptr), IsEmpty());
+    EXPECT_THAT(desktop::importFiles(paths, m_recorder, nullptr, m_known), IsEmpty());
     EXPECT_THAT(m_recorder.alerts, ElementsAre(HasSubstr("byte "), HasSubstr("no list of samples"),
                                                HasSubstr("no such file")));
 }

@@ -13,33 +13,20 @@ namespace {
 
 constexpr double Around = 60; // s
 
-struct Dates {
-    double first = 0;
-    double last = 0;
-};
-
-/// The dates of the first and last motion sample.
-Dates datesOf(const bmrawdata_v5& session) {
-    const auto& samples = session.boatmotion;
-    const auto [first, last] =
-        std::minmax_element(samples.begin(), samples.end(),
-                            [](const auto& a, const auto& b) { return a.timestamp < b.timestamp; });
-    const double offset =
-        strokes::clockRelation(first->timestamp, last->timestamp, session.gps, session.info.date)
-            .offset;
-    return {first->timestamp + offset, last->timestamp + offset};
+template <class Sample>
+bool isWithin(const Sample& sample, const DateSpan& dates, double offset) {
+    const double date = sample.date.seconds + offset;
+    return date >= dates.first - Around && date <= dates.last + Around;
 }
 
 template <class Sample>
-std::size_t join(std::vector<Sample>& present, const std::vector<Sample>& track, const Dates& dates,
-                 double offset) {
-    for (Sample sample : track) {
-        sample.date.seconds += offset;
-        if (sample.date.seconds >= dates.first - Around &&
-            sample.date.seconds <= dates.last + Around)
+void join(std::vector<Sample>& present, const std::vector<Sample>& track, const DateSpan& dates,
+          double offset) {
+    for (Sample sample : track)
+        if (isWithin(sample, dates, offset)) {
+            sample.date.seconds += offset;
             present.push_back(sample);
-    }
-    return present.size();
+        }
 }
 
 std::string durationText(double seconds) {
@@ -53,7 +40,7 @@ std::string durationText(double seconds) {
 
 /// Why a track does not meet the recording; a clock on the time of another zone is often why.
 template <class Sample>
-std::string apartText(const std::vector<Sample>& track, const Dates& dates, double offset,
+std::string apartText(const std::vector<Sample>& track, const DateSpan& dates, double offset,
                       const char* what) {
     const double ahead = track.front().date.seconds + offset - dates.first;
     std::string text = fmt::format("The track's {} begin {} {} the recording", what,
@@ -65,34 +52,71 @@ std::string apartText(const std::vector<Sample>& track, const Dates& dates, doub
 }
 
 template <class Sample>
-std::size_t joinWhereMissing(std::vector<Sample>& present, const std::vector<Sample>& track,
-                             const Dates& dates, double offset, const char* what,
-                             std::vector<std::string>& notes) {
+std::size_t countWhereMissing(const std::vector<Sample>& present, const std::vector<Sample>& track,
+                              const DateSpan& dates, double offset, const char* what,
+                              std::vector<std::string>& notes) {
     if (track.empty())
         return 0;
     if (!present.empty()) {
         notes.push_back(fmt::format("The recording has {} of its own, which stay.", what));
         return 0;
     }
-    const std::size_t taken = join(present, track, dates, offset);
+    const auto taken = std::ranges::count_if(
+        track, [&](const Sample& sample) { return isWithin(sample, dates, offset); });
     if (taken == 0)
         notes.push_back(apartText(track, dates, offset, what));
-    return taken;
+    return static_cast<std::size_t>(taken);
 }
 
 } // namespace
 
-JoinedTrack joinRecording(bmrawdata_v5& session, const ImportedTrack& track, double offset) {
+DateSpan spanOf(const bmrawdata_v5& session) {
+    const auto& samples = session.boatmotion;
+    const auto [first, last] =
+        std::minmax_element(samples.begin(), samples.end(),
+                            [](const auto& a, const auto& b) { return a.timestamp < b.timestamp; });
+    const double offset =
+        strokes::clockRelation(first->timestamp, last->timestamp, session.gps, session.info.date)
+            .offset;
+    return {first->timestamp + offset, last->timestamp + offset};
+}
+
+DateSpan spanOf(const ImportedTrack& track) {
+    DateSpan span{HUGE_VAL, -HUGE_VAL};
+    const auto take = [&](const auto& samples) {
+        for (const auto& sample : samples) {
+            span.first = std::min(span.first, sample.date.seconds);
+            span.last = std::max(span.last, sample.date.seconds);
+        }
+    };
+    take(track.gps);
+    take(track.heart);
+    return span;
+}
+
+JoinedTrack joinable(const bmrawdata_v5& session, const ImportedTrack& track, double offset) {
     JoinedTrack joined;
     if (session.boatmotion.empty()) {
         joined.notes.push_back("The recording has no motion samples to join the track to.");
         return joined;
     }
-    const Dates dates = datesOf(session);
+    const DateSpan dates = spanOf(session);
     joined.fixes =
-        joinWhereMissing(session.gps, track.gps, dates, offset, "positions", joined.notes);
+        countWhereMissing(session.gps, track.gps, dates, offset, "positions", joined.notes);
     joined.heart =
-        joinWhereMissing(session.heart, track.heart, dates, offset, "heart rates", joined.notes);
+        countWhereMissing(session.heart, track.heart, dates, offset, "heart rates", joined.notes);
+    return joined;
+}
+
+JoinedTrack joinRecording(bmrawdata_v5& session, const ImportedTrack& track, double offset) {
+    const JoinedTrack joined = joinable(session, track, offset);
+    if (session.boatmotion.empty())
+        return joined;
+    const DateSpan dates = spanOf(session); // as it is before it has the fixes of the track
+    if (joined.fixes > 0)
+        join(session.gps, track.gps, dates, offset);
+    if (joined.heart > 0)
+        join(session.heart, track.heart, dates, offset);
     return joined;
 }
 

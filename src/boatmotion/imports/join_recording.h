@@ -18,4 +18,18 @@ struct JoinedTrack {
 [[nodiscard]] JoinedTrack joinRecording(bmrawdata_v5& session, const ImportedTrack& track,
                                         double offset = 0);
 
+/// The same without doing it: what would be taken over, and what not.
+[[nodiscard]] JoinedTrack joinable(const bmrawdata_v5& session, const ImportedTrack& track,
+                                   double offset = 0);
+
+/// The first and last date, in seconds since 2001.
+struct DateSpan {
+    double first = 0;
+    double last = 0;
+};
+/// Of the motion samples, of which there has to be one.
+[[nodiscard]] DateSpan spanOf(const bmrawdata_v5& session);
+/// Of positions and heart rates; the track is not empty.
+[[nodiscard]] DateSpan spanOf(const ImportedTrack& track);
+
 } // namespace kavela

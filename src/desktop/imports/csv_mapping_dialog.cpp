@@ -1,5 +1,6 @@
 #include "desktop/imports/csv_mapping_dialog.h"
 
+#include "boatmotion/imports/csv_memory.h"
 #include "desktop/imports/csv_reading.h"
 #include "desktop/imports/csv_units_form.h"
 #include "desktop/shell/theme.h"
@@ -10,6 +11,7 @@
 #include <QDialogButtonBox>
 #include <QFileInfo>
 #include <QFontDatabase>
+#include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
 #include <QLocale>
@@ -68,6 +70,11 @@ QString unreadText(const CsvImport& import) {
     return lines.join("<br>");
 }
 
+QString guessedHint() {
+    return CsvMappingDialog::tr("What each column holds was guessed from its title. Choose over a "
+                                "column what it is; a column without a choice is left out.");
+}
+
 } // namespace
 
 QString importText(const CsvImport& import) {
@@ -84,13 +91,15 @@ QString importText(const CsvImport& import) {
     return parts.join(", ");
 }
 
-CsvMappingDialog::CsvMappingDialog(SensorCsv csv, QWidget* parent)
+CsvMappingDialog::CsvMappingDialog(SensorCsv csv, QWidget* parent,
+                                   std::vector<std::string> remembered)
     : QDialog(parent),
       m_reading(new CsvReading(std::move(csv), this)),
       m_units(new CsvUnitsForm),
       m_table(new QTableWidget),
       m_result(new QLabel),
-      m_details(new QLabel) {
+      m_details(new QLabel),
+      m_remembered(std::move(remembered)) {
     const QFileInfo file(QString::fromStdString(m_reading->csv().path().string()));
     setWindowTitle(tr("Import “%1”").arg(file.fileName()));
     layOut();
@@ -100,17 +109,49 @@ CsvMappingDialog::CsvMappingDialog(SensorCsv csv, QWidget* parent)
             [this](char separator) { showMapping(m_reading->csv().guess(separator)); });
     connect(m_reading, &CsvReading::finished, this, &CsvMappingDialog::tellResult);
     connect(m_reading, &CsvReading::failed, this, &CsvMappingDialog::tellFault);
-    showMapping(m_reading->csv().guess());
+    showBeginning();
     resize(1080, 660);
+}
+
+/// A list with titles that are known is read as it was read before.
+void CsvMappingDialog::showBeginning() {
+    const CsvMapping guess = m_reading->csv().guess();
+    const auto known =
+        rememberedMapping(m_remembered, m_reading->csv().preview(guess).titles, guess);
+    m_guessAgain->setVisible(known && known->columns != guess.columns);
+    if (!known)
+        return showMapping(guess);
+    m_hint->setText(tr("Columns and units are read as they were for the last list with these "
+                       "titles. Choose over a column what it is; one without a choice is left "
+                       "out."));
+    showMapping(*known);
+}
+
+void CsvMappingDialog::guessAgain() {
+    m_guessAgain->hide();
+    m_hint->setText(guessedHint());
+    showMapping(m_reading->csv().guess());
+}
+
+std::vector<std::string> CsvMappingDialog::remembered() const {
+    const CsvMapping mapping = this->mapping();
+    return withMapping(m_remembered, mapping, m_reading->csv().preview(mapping).titles);
 }
 
 CsvMappingDialog::~CsvMappingDialog() = default;
 
 void CsvMappingDialog::layOut() {
-    auto* hint = new QLabel(tr("What each column holds was guessed from its title. Choose over a "
-                               "column what it is; a column without a choice is left out."));
-    hint->setWordWrap(true);
-    hint->setForegroundRole(QPalette::PlaceholderText);
+    m_hint = new QLabel(guessedHint());
+    m_hint->setObjectName("hint");
+    m_hint->setWordWrap(true);
+    m_hint->setForegroundRole(QPalette::PlaceholderText);
+    m_guessAgain = new QPushButton(tr("Guess from the titles"));
+    m_guessAgain->setObjectName("guessAgain");
+    m_guessAgain->setAutoDefault(false);
+    connect(m_guessAgain, &QPushButton::clicked, this, &CsvMappingDialog::guessAgain);
+    auto* head = new QHBoxLayout;
+    head->addWidget(m_hint, 1);
+    head->addWidget(m_guessAgain);
     m_table->setObjectName("preview");
     m_table->setEditTriggers(QAbstractItemView::NoEditTriggers);
     m_table->setSelectionMode(QAbstractItemView::NoSelection);
@@ -133,7 +174,7 @@ void CsvMappingDialog::layOut() {
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     auto* whole = new QVBoxLayout(this);
     whole->setSpacing(theme::Spacing);
-    whole->addWidget(hint);
+    whole->addLayout(head);
     whole->addWidget(m_table, 1);
     whole->addWidget(m_units);
     whole->addWidget(m_result);

@@ -20,16 +20,22 @@ class CsvMappingDialog : public QDialog {
     Q_OBJECT
 
 public:
-    explicit CsvMappingDialog(SensorCsv csv, QWidget* parent = nullptr);
+    /// `remembered`: how lists were read before, see boatmotion/imports/csv_memory.h.
+    explicit CsvMappingDialog(SensorCsv csv, QWidget* parent = nullptr,
+                              std::vector<std::string> remembered = {});
     ~CsvMappingDialog() override;
 
     [[nodiscard]] CsvMapping mapping() const;
+    /// How lists are read from then on, with this one read as it is shown.
+    [[nodiscard]] std::vector<std::string> remembered() const;
 
     /// What was read, once the dialog was accepted; the dialog has none afterwards.
     [[nodiscard]] CsvImport takeImport();
 
 private:
     void layOut();
+    void showBeginning();
+    void guessAgain();
     void showMapping(const CsvMapping& mapping);
     void fillTable();
     void fitColumns();
@@ -45,6 +51,9 @@ private:
     QLabel* m_result;
     QLabel* m_details;
     QPushButton* m_import = nullptr;
+    QLabel* m_hint = nullptr;
+    QPushButton* m_guessAgain = nullptr;
+    std::vector<std::string> m_remembered;
     CsvMapping m_shown; ///< as it was guessed for the present separator
     std::vector<QComboBox*> m_choices;
 };

@@ -35,15 +35,17 @@ void tellNotes(const QString& path, const std::vector<std::string>& notes, Alert
     alerts.show({translated("Imported “%1”").arg(QFileInfo(path).fileName()).toStdString(), text});
 }
 
-std::optional<ImportedFile> importList(const QString& path, QWidget* over) {
-    CsvMappingDialog dialog(SensorCsv(path.toStdString()), over);
+std::optional<ImportedFile> importList(const QString& path, QWidget* over, CsvMappings& known) {
+    CsvMappingDialog dialog(SensorCsv(path.toStdString()), over, known);
     if (dialog.exec() != QDialog::Accepted)
         return std::nullopt;
+    known = dialog.remembered();
     // What was left out, the dialog has told.
     return ImportedFile{path, dialog.takeImport().session};
 }
 
-std::optional<ImportedFile> importFile(const QString& path, Alerts& alerts, QWidget* over) {
+std::optional<ImportedFile> importFile(const QString& path, Alerts& alerts, QWidget* over,
+                                       CsvMappings& known) {
     const auto refuse = [&](const std::string& reason) {
         alerts.show(
             {translated("“%1” cannot be imported").arg(QFileInfo(path).fileName()).toStdString(),
@@ -51,7 +53,7 @@ std::optional<ImportedFile> importFile(const QString& path, Alerts& alerts, QWid
     };
     try {
         if (!holdsTrack(path))
-            return importList(path, over);
+            return importList(path, over, known);
         ImportedTrack track = importTrack(path.toStdString());
         tellNotes(path, track.notes, alerts);
         if (track.isEmpty())
@@ -76,19 +78,21 @@ bool isImportable(const QString& path) {
     return Suffixes.contains(QFileInfo(path).suffix().toLower());
 }
 
-std::vector<ImportedFile> importFiles(const QStringList& paths, Alerts& alerts, QWidget* over) {
+std::vector<ImportedFile> importFiles(const QStringList& paths, Alerts& alerts, QWidget* over,
+                                      CsvMappings& known) {
     std::vector<ImportedFile> files;
     for (const QString& path : paths)
-        if (auto file = importFile(path, alerts, over))
+        if (auto file = importFile(path, alerts, over, known))
             files.push_back(std::move(*file));
     return files;
 }
 
-std::vector<ImportedFile> askForImports(const QString& folder, Alerts& alerts, QWidget* over) {
+std::vector<ImportedFile> askForImports(const QString& folder, Alerts& alerts, QWidget* over,
+                                        CsvMappings& known) {
     return importFiles(QFileDialog::getOpenFileNames(over,
                                                      translated("Import from a watch or a phone"),
                                                      folder, importFilter()),
-                       alerts, over);
+                       alerts, over, known);
 }
 
 } // namespace kavela::desktop

@@ -20,6 +20,10 @@ struct ImportedFile {
     std::variant<bmrawdata_v5, ImportedTrack> content;
 };
 
+/// How lists were read before; kept from one import to the next, and in windows to come where the
+/// owner keeps it.
+using CsvMappings = std::vector<std::string>;
+
 /// The files that can be imported, as a filter of file dialogs.
 [[nodiscard]] QString importFilter();
 
@@ -31,10 +35,10 @@ struct ImportedFile {
 /// asked; a dialog that is cancelled leaves its file out. What cannot be read, and what was left
 /// out of a file, is told by alerts.
 [[nodiscard]] std::vector<ImportedFile> importFiles(const QStringList& paths, Alerts& alerts,
-                                                    QWidget* over);
+                                                    QWidget* over, CsvMappings& known);
 
 /// Asks for files, beginning in a folder, and takes them in.
 [[nodiscard]] std::vector<ImportedFile> askForImports(const QString& folder, Alerts& alerts,
-                                                      QWidget* over);
+                                                      QWidget* over, CsvMappings& known);
 
 } // namespace kavela::desktop

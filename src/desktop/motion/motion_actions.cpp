@@ -111,6 +111,13 @@ void MotionActions::makeTimeMenu() {
     QMenu* menu = m_window.menuBar()->addMenu(tr("&Time"));
     MotionWindow* const window = &m_window;
     const auto hasAny = [window] { return window->list().current().has_value(); };
+    QUndoStack& steps = window->recordings().shiftSteps();
+    QAction* const undo = steps.createUndoAction(window, tr("&Undo the move"));
+    undo->setShortcut(QKeySequence::Undo);
+    QAction* const redo = steps.createRedoAction(window, tr("&Redo the move"));
+    redo->setShortcut(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z));
+    menu->addActions({undo, redo});
+    menu->addSeparator();
     add(
         *menu, tr("Align the &starts"), QKeySequence(Qt::Key_S),
         [window] { window->alignStarts(); }, hasAny);

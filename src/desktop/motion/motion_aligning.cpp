@@ -32,7 +32,7 @@ void MotionWindow::moveChoice(int step) {
 
 void MotionWindow::alignStarts() {
     m_recordings.setShifts(std::vector<double>(m_recordings.all().size(), 0));
-    tell(tr("Every recording begins at 0"));
+    tell(tr("Every recording begins at 0. Ctrl+Z brings the alignment before back."));
 }
 
 void MotionWindow::alignByClock() {
@@ -49,7 +49,8 @@ void MotionWindow::alignByClock() {
         shifts.push_back(date ? *date - *first : all[i]->shift);
     }
     m_recordings.setShifts(shifts);
-    tell(unknown.isEmpty() ? tr("Every recording stands at its date")
+    tell(unknown.isEmpty() ? tr("Every recording stands at its date. Ctrl+Z brings the alignment "
+                                "before back.")
                            : tr("The date is not known of %1").arg(unknown.join(", ")));
 }
 

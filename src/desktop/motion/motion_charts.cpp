@@ -61,6 +61,7 @@ void MotionCharts::connectChart(SensorChart& chart) {
     connect(&chart, &SensorChart::hoverEnded, this, [this] { setCursor(std::nullopt); });
     connect(&chart, &SensorChart::clickedAt, this, [this](double time) { setPin(time); });
     connect(&chart, &SensorChart::shiftDragged, this, &MotionCharts::shiftDragged);
+    connect(&chart, &SensorChart::shiftDragEnded, this, &MotionCharts::shiftDragEnded);
     connect(&chart, &SensorChart::menuRequested, this, [this, &chart](const QPoint& at) {
         QMenu menu;
         menu.addAction(tr("Save this chart…"), this,

@@ -55,6 +55,7 @@ signals:
     void cursorMoved(std::optional<double> time);
     void shownChanged();
     void shiftDragged(double seconds);
+    void shiftDragEnded();
     void saveRequested(kavela::desktop::SensorChart* chart);
 
 private:

@@ -40,6 +40,43 @@ bool isSame(const MotionProfile& a, const MotionProfile& b) {
 
 } // namespace
 
+/// Recordings that were moved: a removed one is moved too, and nobody sees it.
+class MotionRecordings::ShiftStep : public QUndoCommand {
+public:
+    struct Move {
+        Recording recording;
+        double before = 0;
+        double after = 0;
+    };
+
+    static constexpr int NoDrag = -1;
+
+    ShiftStep(MotionRecordings& recordings, std::vector<Move> moves, int drag = NoDrag)
+        : m_recordings(recordings), m_moves(std::move(moves)), m_drag(drag) {}
+
+    void undo() override { apply(&Move::before); }
+    void redo() override { apply(&Move::after); }
+    [[nodiscard]] int id() const override { return m_drag; }
+    bool mergeWith(const QUndoCommand* other) override {
+        const auto& next = static_cast<const ShiftStep&>(*other);
+        if (next.m_moves.front().recording != m_moves.front().recording)
+            return false;
+        m_moves.front().after = next.m_moves.front().after;
+        return true;
+    }
+
+private:
+    void apply(double Move::*shift) {
+        for (const Move& move : m_moves)
+            move.recording->shift = move.*shift;
+        emit m_recordings.shiftsChanged();
+    }
+
+    MotionRecordings& m_recordings;
+    std::vector<Move> m_moves;
+    int m_drag;
+};
+
 MotionRecordings::MotionRecordings(DiagnosticLog log, QObject* parent)
     : QObject(parent), m_log(std::move(log)), m_work(*this) {}
 
@@ -83,6 +120,8 @@ void MotionRecordings::readNext() {
             ReadResult result;
             try {
                 result.recording = readRecording(file);
+            } catch (const OlderRecording&) {
+                result.isOlder = true;
             } catch (const FileError& error) {
                 result.reason = QString::fromUtf8(error.what());
             } catch (const DecodeError& error) {
@@ -101,6 +140,10 @@ void MotionRecordings::readNext() {
 }
 
 void MotionRecordings::take(const QString& path, ReadResult result) {
+    if (result.isOlder) {
+        emit refusedAsOlder(path);
+        return;
+    }
     if (!result.recording) {
         m_log(conversion_messages::NotConverted);
         m_log(result.reason.toStdString());
@@ -175,16 +218,23 @@ void MotionRecordings::setTicked(std::size_t index, bool isTicked) {
 }
 
 void MotionRecordings::setShift(std::size_t index, double seconds) {
-    if (m_all[index]->shift == seconds || !std::isfinite(seconds))
-        return;
-    m_all[index]->shift = seconds;
-    emit shiftsChanged();
+    if (m_all[index]->shift != seconds && std::isfinite(seconds))
+        m_shiftSteps.push(new ShiftStep(*this, {{m_all[index], m_all[index]->shift, seconds}}));
+}
+
+void MotionRecordings::dragShift(std::size_t index, double seconds) {
+    if (m_all[index]->shift != seconds && std::isfinite(seconds))
+        m_shiftSteps.push(
+            new ShiftStep(*this, {{m_all[index], m_all[index]->shift, seconds}}, m_drag));
 }
 
 void MotionRecordings::setShifts(const std::vector<double>& seconds) {
+    std::vector<ShiftStep::Move> moves;
     for (std::size_t i = 0; i < m_all.size(); ++i)
-        m_all[i]->shift = seconds[i];
-    emit shiftsChanged();
+        if (m_all[i]->shift != seconds[i])
+            moves.push_back({m_all[i], m_all[i]->shift, seconds[i]});
+    if (!moves.empty())
+        m_shiftSteps.push(new ShiftStep(*this, std::move(moves)));
 }
 
 void MotionRecordings::convert(std::size_t index, const std::filesystem::path& target) {

@@ -5,6 +5,7 @@
 #include "desktop/motion/motion_recording.h"
 
 #include <QObject>
+#include <QUndoStack>
 
 #include <deque>
 #include <optional>
@@ -31,9 +32,13 @@ public:
     void read(const QStringList& paths);
     void remove(std::size_t index);
     void setTicked(std::size_t index, bool isTicked);
+    /// Moves of a recording can be taken back one by one; a drag is one move until it ends.
     void setShift(std::size_t index, double seconds);
+    void dragShift(std::size_t index, double seconds);
+    void endDrag() { ++m_drag; }
     /// Moves several at once: one shift for each recording.
     void setShifts(const std::vector<double>& seconds);
+    [[nodiscard]] QUndoStack& shiftSteps() { return m_shiftSteps; }
     /// Analyses the recording again.
     void setProfile(std::size_t index, const MotionProfile& profile);
 
@@ -54,6 +59,8 @@ signals:
     void added(std::size_t index);
     /// The file could not be read, for this reason; nothing of it is here.
     void refused(const QString& path, const QString& reason);
+    /// The same for a recording of version 4, which has to be converted first.
+    void refusedAsOlder(const QString& path);
     void listChanged();
     void ticksChanged();
     void shiftsChanged();
@@ -65,7 +72,9 @@ private:
     struct ReadResult {
         Recording recording;
         QString reason;
+        bool isOlder = false;
     };
+    class ShiftStep;
 
     void readNext();
     void take(const QString& path, ReadResult result);
@@ -82,6 +91,8 @@ private:
     bool m_isReading = false;
     int m_converting = 0;
     BackgroundWork m_work;
+    QUndoStack m_shiftSteps;
+    int m_drag = 0; ///< number of the drag that is under way, or comes next
 };
 
 } // namespace kavela::desktop

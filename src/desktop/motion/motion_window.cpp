@@ -3,6 +3,7 @@
 #include "desktop/motion/cursor_table.h"
 #include "desktop/motion/motion_actions.h"
 #include "desktop/motion/motion_charts.h"
+#include "desktop/motion/older_recordings.h"
 #include "desktop/motion/recording_list.h"
 #include "desktop/motion/recording_panel.h"
 #include "desktop/shell/dropped_files.h"
@@ -131,6 +132,14 @@ void MotionWindow::connectParts() {
             m_workspace.forgetRecentFile(path);
             m_workspace.showAlert({conversion_messages::NotConverted, reason.toStdString()}, this);
         });
+    connect(
+        &m_recordings, &MotionRecordings::refusedAsOlder, this,
+        [this](const QString& path) {
+            if (const auto converted = convertOlderRecording(path, m_workspace, this))
+                m_recordings.read({*converted});
+        },
+        // A question is no place to wait in for the recordings that are read meanwhile.
+        Qt::QueuedConnection);
     connect(&m_recordings, &MotionRecordings::added, this, [this](std::size_t index) {
         m_workspace.addRecentFile(
             QString::fromStdString(m_recordings.all()[index]->data.url.string()));
@@ -156,7 +165,11 @@ void MotionWindow::connectParts() {
     });
     connect(m_charts, &MotionCharts::cursorMoved, m_values, &CursorTable::showAt);
     connect(m_charts, &MotionCharts::shownChanged, this, &MotionWindow::showValues);
-    connect(m_charts, &MotionCharts::shiftDragged, this, &MotionWindow::shiftCurrent);
+    connect(m_charts, &MotionCharts::shiftDragged, this, [this](double seconds) {
+        if (const auto index = m_list->current())
+            m_recordings.dragShift(*index, m_recordings.all()[*index]->shift + seconds);
+    });
+    connect(m_charts, &MotionCharts::shiftDragEnded, this, [this] { m_recordings.endDrag(); });
     connect(m_charts, &MotionCharts::saveRequested, this, &MotionWindow::saveChart);
     connect(m_convert, &QPushButton::clicked, this, &MotionWindow::convertCurrent);
     connect(m_convertAll, &QPushButton::clicked, this, &MotionWindow::convertTicked);

@@ -46,6 +46,10 @@ void fillFileMenu(SessionWindow& window, QMenu& menu) {
     add(menu, window, tr("Import .s&bm file"), Qt::CTRL | Qt::SHIFT | Qt::Key_I,
         [&window] { window.askForSession(); });
     add(menu, window, tr("Import from a &watch or logger…"), [&window] { window.askForImports(); });
+    enableWhile(menu,
+                add(menu, window, tr("Move the trac&k of the watch in time…"),
+                    [&window] { window.moveTrack(); }),
+                [&window] { return window.hasTrack(); });
     add(menu, window, tr("Import &power-meter data…"), [&window] { window.askForPowerMeter(); });
     QAction* const raw = add(menu, window, tr("Save the edited .&kvb file"),
                              [&window] { window.askAndSaveRecording(); });

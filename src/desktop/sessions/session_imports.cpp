@@ -1,6 +1,7 @@
 #include "desktop/sessions/replay.h"
 #include "desktop/sessions/session_view.h"
 #include "desktop/sessions/session_window.h"
+#include "desktop/sessions/track_offset_dialog.h"
 #include "desktop/sessions/work_beside.h"
 
 #include "boatmotion/conversion.h"
@@ -29,6 +30,23 @@ EditedSession analysed(bmrawdata_v5 recording, QWidget* over) {
     return session;
 }
 
+constexpr const char* MappingsKey = "imports/lists";
+
+CsvMappings knownMappings(const Workspace& workspace) {
+    CsvMappings known;
+    for (const QString& mapping : workspace.remembered(MappingsKey))
+        known.push_back(mapping.toStdString());
+    return known;
+}
+
+void keepMappings(const CsvMappings& known, Workspace& workspace) {
+    QStringList kept;
+    for (const std::string& mapping : known)
+        kept.append(QString::fromStdString(mapping));
+    if (kept != workspace.remembered(MappingsKey))
+        workspace.remember(MappingsKey, kept);
+}
+
 QString joinedText(const JoinedTrack& joined) {
     QStringList lines{SessionWindow::tr("%1 positions and %2 heart rates were taken over.")
                           .arg(joined.fixes)
@@ -51,14 +69,20 @@ bool isPowerMeterList(const QString& path) {
 
 void SessionWindow::askForImports() {
     WorkspaceAlerts alerts(workspace(), this);
-    for (ImportedFile& file :
-         kavela::desktop::askForImports(QFileInfo(m_document->path()).path(), alerts, this))
+    CsvMappings known = knownMappings(workspace());
+    auto files =
+        kavela::desktop::askForImports(QFileInfo(m_document->path()).path(), alerts, this, known);
+    keepMappings(known, workspace());
+    for (ImportedFile& file : files)
         takeIn(std::move(file));
 }
 
 void SessionWindow::importFrom(const QStringList& paths) {
     WorkspaceAlerts alerts(workspace(), this);
-    for (ImportedFile& file : importFiles(paths, alerts, this))
+    CsvMappings known = knownMappings(workspace());
+    auto files = importFiles(paths, alerts, this, known);
+    keepMappings(known, workspace());
+    for (ImportedFile& file : files)
         takeIn(std::move(file));
 }
 
@@ -69,7 +93,7 @@ void SessionWindow::takeIn(ImportedFile file) {
         if (auto* const recording = std::get_if<bmrawdata_v5>(&file.content))
             showImported(std::move(*recording), file.path);
         else
-            join(std::get<ImportedTrack>(file.content));
+            join(std::move(std::get<ImportedTrack>(file.content)));
     } catch (const MotionError& error) {
         tell(conversion_messages::NotConverted,
              QFileInfo(file.path).fileName() + ": " + QString::fromUtf8(error.what()));
@@ -82,28 +106,68 @@ void SessionWindow::showImported(bmrawdata_v5 recording, const QString& path) {
         return;
     const QScopedValueRollback busy(m_isBusy, true);
     EditedSession session = analysed(std::move(recording), this);
+    m_watchTrack.reset();
     m_recordingPath = QFileInfo(path).path() + '/' + QFileInfo(path).completeBaseName() + ".kvb";
     m_view->select(std::nullopt);
     m_document->show(std::move(session), proposedPath(m_recordingPath), this);
     m_replay->setMoment(m_replay->from());
 }
 
-void SessionWindow::join(const ImportedTrack& track) {
+void SessionWindow::join(ImportedTrack track) {
     if (!m_document->value().recording) {
         tell({}, tr("Import the recording of the boat first: a track gives it positions and heart "
                     "rates."));
         return;
     }
     bmrawdata_v5 recording = recordingOf(m_document->value());
-    const JoinedTrack joined = joinRecording(recording, track);
+    WatchTrack joined{.track = std::move(track),
+                      .givesFixes = recording.gps.empty(),
+                      .givesHeart = recording.heart.empty()};
+    const JoinedTrack fits = joinable(recording, joined.track);
+    if (fits.fixes + fits.heart == 0 && joined.isWanted() && !recording.boatmotion.empty()) {
+        // It lies days or hours beside the recording: the watch's clock was wrong, or it is of
+        // another session.
+        if (const auto offset = askForOffset(recording, joined))
+            joined.offset = *offset;
+        else
+            return tell({}, joinedText(fits));
+    }
+    joinTrack(std::move(recording), std::move(joined), tr("track of a watch"));
+}
+
+void SessionWindow::moveTrack() {
+    if (m_isBusy || !m_document->value().recording || !m_watchTrack)
+        return;
+    WatchTrack moved = *m_watchTrack;
+    bmrawdata_v5 recording = recordingOf(m_document->value());
+    if (moved.givesFixes)
+        recording.gps.clear();
+    if (moved.givesHeart)
+        recording.heart.clear();
+    const auto offset = askForOffset(recording, moved);
+    if (!offset)
+        return;
+    moved.offset = *offset;
+    joinTrack(std::move(recording), std::move(moved), tr("move of a watch's track"));
+}
+
+std::optional<double> SessionWindow::askForOffset(const bmrawdata_v5& recording,
+                                                  const WatchTrack& track) {
+    TrackOffsetDialog dialog(recording, track.track, track.offset, this);
+    return dialog.exec() == QDialog::Accepted ? std::optional(dialog.offset()) : std::nullopt;
+}
+
+void SessionWindow::joinTrack(bmrawdata_v5 recording, WatchTrack track, const QString& what) {
+    const JoinedTrack joined = joinRecording(recording, track.track, track.offset);
     if (joined.fixes > 0 || joined.heart > 0) {
         const QScopedValueRollback busy(m_isBusy, true);
         EditedSession again = analysed(std::move(recording), this);
-        m_document->edit(tr("track of a watch"), [&](EditedSession& session) {
+        m_document->edit(what, [&](EditedSession& session) {
             again.powerMeter = std::move(session.powerMeter);
             setMarks(again, std::move(session.marks));
             session = std::move(again);
         });
+        m_watchTrack = std::move(track);
     }
     tell({}, joinedText(joined));
 }

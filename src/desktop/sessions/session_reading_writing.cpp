@@ -1,3 +1,4 @@
+#include "desktop/motion/older_recordings.h"
 #include "desktop/sessions/power_meter_dialog.h"
 #include "desktop/sessions/session_view.h"
 #include "desktop/sessions/session_window.h"
@@ -13,6 +14,8 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QMessageBox>
+#include <QPushButton>
 #include <QScopedValueRollback>
 #include <QStatusBar>
 
@@ -44,8 +47,18 @@ EditedSession convert(const QString& path, const DiagnosticLog& log, QWidget* ov
 
 } // namespace
 
+/// A recording of version 4 is read from the file that it was converted to, which then is the one
+/// that was opened.
+bool SessionWindow::readConverted(QString& path, EditedSession& session) {
+    const auto converted = convertOlderRecording(path, workspace(), this);
+    if (!converted)
+        return false;
+    path = *converted;
+    return read(path, session);
+}
+
 /// Nothing of a file is taken over before all of it is there.
-bool SessionWindow::read(const QString& path, EditedSession& session) {
+bool SessionWindow::read(QString& path, EditedSession& session) {
     const QScopedValueRollback busy(m_isBusy, true);
     std::string reason;
     try {
@@ -55,6 +68,8 @@ bool SessionWindow::read(const QString& path, EditedSession& session) {
             doBeside(this, tr("Reading…"),
                      [&] { session = editedSession(readSmartSession(path.toStdString())); });
         return true;
+    } catch (const OlderRecording&) {
+        return readConverted(path, session);
     } catch (const FileError& error) {
         reason = error.reason();
     } catch (const DecodeError& error) {
@@ -148,10 +163,39 @@ bool SessionWindow::mayWrite() {
         tell(TooFewMarksTitle, TooFewMarks);
         return false;
     }
-    if (!m_document->value().powerMeter.empty() &&
-        workspace().ask({"", AskToSavePowerMeter}, tr("Save it"), this)) {
+    if (m_document->value().powerMeter.empty())
+        return true;
+    const auto isWanted = askForPowerMeterData();
+    if (isWanted && *isWanted)
         m_document->edit(tr("power of the power meter"),
                          [](EditedSession& session) { applyPowerMeter(session); });
+    return isWanted.has_value();
+}
+
+std::optional<bool> SessionWindow::askForPowerMeterData() {
+    if (m_askPowerMeter)
+        return m_askPowerMeter(AskToSavePowerMeter);
+    QMessageBox box(QMessageBox::Question, tr("Save the session"), AskToSavePowerMeter,
+                    QMessageBox::Cancel, this);
+    QPushButton* const with = box.addButton(tr("Save with it"), QMessageBox::AcceptRole);
+    const QPushButton* const without =
+        box.addButton(tr("Save without it"), QMessageBox::DestructiveRole);
+    box.setDefaultButton(with);
+    box.exec();
+    if (box.clickedButton() == with)
+        return true;
+    return box.clickedButton() == without ? std::optional(false) : std::nullopt;
+}
+
+/// Power-meter data that was left out is still here and in no file: it is work not saved.
+bool SessionWindow::tellWritten(bool isSaved) {
+    if (!isSaved)
+        return false;
+    tellSaved(m_document->path());
+    if (!m_document->value().powerMeter.empty()) {
+        m_document->undoStack().resetClean();
+        statusBar()->showMessage(tr("Saved without the power meter's data, which are still here."),
+                                 MessageMilliseconds);
     }
     return true;
 }
@@ -159,10 +203,7 @@ bool SessionWindow::mayWrite() {
 bool SessionWindow::saveSession() {
     if (!QFileInfo::exists(m_document->path()))
         return saveSessionAs();
-    if (!mayWrite() || !m_document->save(this))
-        return false;
-    tellSaved(m_document->path());
-    return true;
+    return mayWrite() && tellWritten(m_document->save(this));
 }
 
 QString SessionWindow::askWhereTo(const QString& title, const QString& filter,
@@ -184,10 +225,7 @@ bool SessionWindow::saveSessionAs() {
 }
 
 bool SessionWindow::saveSessionTo(const QString& path) {
-    if (!mayWrite() || !m_document->saveAs(path, this))
-        return false;
-    tellSaved(path);
-    return true;
+    return mayWrite() && tellWritten(m_document->saveAs(path, this));
 }
 
 void SessionWindow::tellSaved(const QString& path) {

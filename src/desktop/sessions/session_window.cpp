@@ -69,12 +69,14 @@ void SessionWindow::replaceSaving(QMenu& file) {
     }
 }
 
-bool SessionWindow::open(const QString& path) {
+bool SessionWindow::open(const QString& wanted) {
+    QString path = wanted;
     EditedSession session;
     if (m_isBusy || !mayLeave() || !read(path, session))
         return false;
     const bool isRecording = session.recording != nullptr;
     m_recordingPath = isRecording ? QFileInfo(path).absoluteFilePath() : QString();
+    m_watchTrack.reset();
     m_view->select(std::nullopt);
     m_document->show(std::move(session), isRecording ? proposedPath(path) : path, this);
     if (isRecording)
@@ -85,6 +87,7 @@ bool SessionWindow::open(const QString& path) {
 
 void SessionWindow::startNew(const QString& path) {
     m_recordingPath.clear();
+    m_watchTrack.reset();
     m_document->show(
         {}, QFileInfo(path).isDir() ? QDir(path).filePath(tr("Session") + ".bms") : path, this);
 }

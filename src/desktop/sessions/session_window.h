@@ -24,7 +24,7 @@ public:
 
     /// Opens a recording (.kvb), which is converted, or a processed session (.sbm, .bms). False,
     /// after an alert, when it cannot be opened; what was open then stays.
-    [[nodiscard]] bool open(const QString& path);
+    [[nodiscard]] bool open(const QString& wanted);
     /// An empty window, for files to be dropped on; work that was kept for this path is offered.
     void startNew(const QString& path);
 
@@ -43,7 +43,14 @@ public:
     /// recording, a track joins the recording that is open.
     void askForImports();
     void importFrom(const QStringList& paths);
+    /// Moves the track that was joined last in time: the clock of the watch was wrong.
+    void moveTrack();
+    [[nodiscard]] bool hasTrack() const { return m_watchTrack.has_value(); }
 
+    /// Whether power-meter data goes into the session that is saved; nothing to save nothing.
+    using AskPowerMeter = std::function<std::optional<bool>(const QString& question)>;
+    /// Answers that in place of a message box, as in tests.
+    void setAskPowerMeter(AskPowerMeter ask) { m_askPowerMeter = std::move(ask); }
     /// Saves the session after what has to be asked or told before. False when it was not saved.
     bool saveSession();
     bool saveSessionAs();
@@ -90,12 +97,29 @@ private:
     void replaceSaving(QMenu& file);
     void showSession();
     void placeOverlay();
-    [[nodiscard]] bool read(const QString& path, EditedSession& session);
+    [[nodiscard]] bool read(QString& path, EditedSession& session);
+    [[nodiscard]] bool readConverted(QString& path, EditedSession& session);
     void takeIn(ImportedFile file);
     void showImported(bmrawdata_v5 recording, const QString& path);
-    void join(const ImportedTrack& track);
+    /// The track of a watch that was joined to the recording, and what it gave to it.
+    struct WatchTrack {
+        ImportedTrack track;
+        bool givesFixes = false;
+        bool givesHeart = false;
+        double offset = 0; ///< s by which its clock was behind
+
+        [[nodiscard]] bool isWanted() const {
+            return (givesFixes && !track.gps.empty()) || (givesHeart && !track.heart.empty());
+        }
+    };
+    void join(ImportedTrack track);
+    void joinTrack(bmrawdata_v5 recording, WatchTrack track, const QString& what);
+    [[nodiscard]] std::optional<double> askForOffset(const bmrawdata_v5& recording,
+                                                     const WatchTrack& track);
     [[nodiscard]] bool mayLeave();
     [[nodiscard]] bool mayWrite();
+    [[nodiscard]] std::optional<bool> askForPowerMeterData();
+    bool tellWritten(bool isSaved);
     [[nodiscard]] bool hasSession() const;
     [[nodiscard]] std::optional<std::size_t> markAtCursor() const;
     [[nodiscard]] bool hasMarkAt(double moment) const;
@@ -113,7 +137,9 @@ private:
     QStackedWidget* m_pages = nullptr;
     DropAreas* m_overlay = nullptr;
     QString m_recordingPath; ///< of the recording that was imported
-    bool m_isBusy = false;   ///< a file is being read
+    std::optional<WatchTrack> m_watchTrack;
+    AskPowerMeter m_askPowerMeter;
+    bool m_isBusy = false; ///< a file is being read
 };
 
 /// Whether a file is a list of a power meter, by what it holds.

@@ -101,6 +101,26 @@ INSTANTIATE_TEST_SUITE_P(
                CsvTime::Seconds,
                CsvAcceleration::MetresPerSecondSquared,
                true},
+        Titles{"German",
+               "\"Zeit (s)\";\"Lineare Beschleunigung x (m/s^2)\";"
+               "\"Lineare Beschleunigung y (m/s^2)\";\"Lineare Beschleunigung z (m/s^2)\";"
+               "\"Gyroskop x (rad/s)\";\"Gyroskop y (rad/s)\";\"Gyroskop z (rad/s)\";"
+               "\"Breite (°)\";\"Länge (°)\";\"Geschwindigkeit (m/s)\";\"Richtung (°)\";"
+               "\"Horizontale Genauigkeit (m)\";\"Herzfrequenz (bpm)\";\"Beschleunigung absolut\"\n"
+               "0,01;0;0,1;0;0;0;0;47,1;8,2;2;90;3;140;0,1\n"
+               "0,02;0;0,1;0;0;0;0;47,1;8,2;2;90;3;140;0,1\n",
+               {Q::Time, Q::UserX, Q::UserY, Q::UserZ, Q::RotationX, Q::RotationY, Q::RotationZ,
+                Q::Latitude, Q::Longitude, Q::Speed, Q::None, Q::None, Q::HeartRate, Q::None},
+               CsvTime::Seconds,
+               CsvAcceleration::MetresPerSecondSquared,
+               true},
+        Titles{"German, with gravity",
+               "Zeit in ms;Beschleunigung X;Beschleunigung Y;Beschleunigung Z;Drehrate X;"
+               "Drehrate Y;Drehrate Z\n0;0,1;0,1;9,8;0;0;0\n10;0,1;0,1;9,8;0;0;0\n",
+               {Q::Time, Q::TotalX, Q::TotalY, Q::TotalZ, Q::RotationX, Q::RotationY, Q::RotationZ},
+               CsvTime::Milliseconds,
+               CsvAcceleration::MetresPerSecondSquared,
+               true},
         Titles{"epoch nanoseconds, axes reversed",
                "time,seconds_elapsed,z,y,x,accel_z,accel_y,accel_x\n"
                "1778148120000000000,0.1,1,2,3,0.1,0,0\n1778148120010000000,0.11,1,2,3,0.1,0,0\n",

@@ -59,9 +59,9 @@ std::string takeUnit(std::string_view& title) {
 
 /// Titles in short: "ax", "accX", "gFx", "wz". What they are goes before the axis.
 Words withAxisApart(const Words& words) {
-    constexpr std::array<std::string_view, 14> Stems = {"a",    "acc", "accel", "gf",   "lin",
-                                                        "la",   "w",   "gyr",   "gyro", "rot",
-                                                        "grav", "g",   "user",  "f"};
+    constexpr std::array<std::string_view, 15> Stems = {
+        "a",    "acc", "accel", "gf", "lin",           "la", "w", "gyr", "gyro", "rot",
+        "grav", "g",   "user",  "f",  "beschleunigung"};
     Words apart;
     for (const std::string& word : words) {
         const std::string_view stem = std::string_view(word).substr(0, word.size() - 1);
@@ -87,42 +87,53 @@ CsvQuantity onAxis(CsvQuantity x, int axis) {
     return static_cast<CsvQuantity>(static_cast<int>(x) + axis);
 }
 
+/// The words are those of English and German loggers: a telephone writes in the language that it
+/// is set to.
 CsvQuantity plainQuantity(const Words& words) {
-    if (hasAny(words, {"lat", "latitude"}))
+    if (hasAny(words, {"lat", "latitude", "breite", "breitengrad"}))
         return CsvQuantity::Latitude;
-    if (hasAny(words, {"lon", "lng", "long", "longitude"}))
+    if (hasAny(words,
+               {"lon", "lng", "long", "longitude", "länge", "laenge", "längengrad", "laengengrad"}))
         return CsvQuantity::Longitude;
-    if (hasAny(words, {"speed", "velocity"}))
+    if (hasAny(words, {"speed", "velocity", "geschwindigkeit"}))
         return CsvQuantity::Speed;
-    if (hasAny(words, {"hr", "bpm", "heart", "heartrate", "pulse"}))
+    if (hasAny(words,
+               {"hr", "bpm", "heart", "heartrate", "pulse", "puls", "herzfrequenz", "herzrate"}))
         return CsvQuantity::HeartRate;
-    if (hasAny(words, {"pitch"}))
+    if (hasAny(words, {"pitch", "nicken", "nickwinkel"}))
         return CsvQuantity::Pitch;
-    if (hasAny(words, {"roll"}))
+    if (hasAny(words, {"roll", "rollen", "rollwinkel"}))
         return CsvQuantity::Roll;
-    if (hasAny(words, {"yaw", "azimuth"}))
+    if (hasAny(words, {"yaw", "azimuth", "gieren", "gierwinkel", "azimut"}))
         return CsvQuantity::Yaw;
     if (hasAny(words, {"time", "timestamp", "date", "datetime", "seconds", "elapsed", "t", "ts",
-                       "millis", "milliseconds", "zeit", "uptime"}))
+                       "millis", "milliseconds", "zeit", "uptime", "zeitstempel", "uhrzeit",
+                       "datum", "sekunden", "millisekunden"}))
         return CsvQuantity::Time;
     return CsvQuantity::None;
 }
 
 /// Of a title with an axis.
 CsvTitle axisQuantity(const Words& words, int axis) {
-    const bool namesGravity = hasAny(words, {"gravity", "grav"});
-    const bool excludes = hasAny(words, {"user", "linear", "lin", "la", "without", "no",
-                                         "excluding", "useracceleration", "linearacceleration"});
+    const bool namesGravity =
+        hasAny(words, {"gravity", "grav", "schwerkraft", "erdbeschleunigung", "gravitation"});
+    const bool excludes =
+        hasAny(words, {"user", "linear", "lin", "la", "without", "no", "excluding",
+                       "useracceleration", "linearacceleration", "lineare", "ohne",
+                       "linearbeschleunigung", "nutzerbeschleunigung"});
     const bool isAcceleration =
-        hasAny(words, {"acceleration", "accelerometer", "accel", "acc", "a", "gforce", "gf", "f"});
+        hasAny(words, {"acceleration", "accelerometer", "accel", "acc", "a", "gforce", "gf", "f",
+                       "beschleunigung", "beschleunigungssensor", "gesamtbeschleunigung"});
     if (hasAny(words, {"rotation", "rotationrate", "gyroscope", "gyro", "gyr", "angular", "rot",
-                       "omega", "w"}))
+                       "omega", "w", "gyroskop", "drehrate", "drehung", "rotationsrate",
+                       "winkelgeschwindigkeit", "drehgeschwindigkeit"}))
         return {onAxis(CsvQuantity::RotationX, axis), false, {}};
     if (excludes)
         return {onAxis(CsvQuantity::UserX, axis), true, {}};
     if (isAcceleration)
         return {onAxis(CsvQuantity::TotalX, axis),
-                hasAny(words, {"total", "raw", "with", "including", "accelerometer"}),
+                hasAny(words, {"total", "raw", "with", "including", "accelerometer", "mit",
+                               "gesamtbeschleunigung", "beschleunigungssensor"}),
                 {}};
     if (namesGravity)
         return {onAxis(CsvQuantity::GravityX, axis), false, {}};
@@ -139,13 +150,14 @@ CsvTitle readTitle(std::string_view title) {
     CsvTitle read;
     // Fields and errors of the sensors, which hold the same words.
     if (!hasAny(words, {"mag", "magnetic", "magnetometer", "accuracy", "bias", "quaternion",
-                        "course", "heading", "variability", "max", "min"})) {
+                        "course", "heading", "variability", "max", "min", "magnetfeld",
+                        "genauigkeit", "kurs", "richtung", "variabilität"})) {
         if (const auto axis = axisOf(words))
             read = axisQuantity(words, *axis);
         else
             read.quantity = plainQuantity(words);
     }
-    if (unit.empty() && hasAny(words, {"ms", "millis", "milliseconds"}))
+    if (unit.empty() && hasAny(words, {"ms", "millis", "milliseconds", "millisekunden"}))
         unit = "ms";
     if (unit.empty() && hasAny(words, {"ns", "nanoseconds"}))
         unit = "ns";
