@@ -75,6 +75,19 @@ void addStroke(const smartBMdata_v4& entry, std::size_t place, SessionFigures& f
     figures.strokes.push_back(stroke);
 }
 
+/// A rate is that of a stroke alone and its cycle may end a little before or after the next catch;
+/// one that ends long before it was followed by something else.
+void holdStrokes(std::vector<StrokeFigures>& strokes) {
+    constexpr double FollowsWithin = 1.5; // cycles
+    for (std::size_t i = 0; i < strokes.size(); ++i) {
+        StrokeFigures& stroke = strokes[i];
+        const double cycle = std::min(stroke.end - stroke.time, BoutGap);
+        stroke.until = stroke.time + (cycle > 0 ? cycle : 0);
+        if (i + 1 < strokes.size() && strokes[i + 1].time <= stroke.time + FollowsWithin * cycle)
+            stroke.until = strokes[i + 1].time;
+    }
+}
+
 void addTurn(const smartBMdata_v4& entry, std::size_t place, SessionFigures& figures) {
     TurnFigures turn;
     turn.entry = place;
@@ -200,6 +213,7 @@ SessionFigures figuresOf(const EditedSession& edited) {
     std::ranges::stable_sort(figures.turns, {}, &TurnFigures::time);
     for (std::size_t i = 0; i < figures.strokes.size(); ++i)
         figures.strokes[i].rate = medianRate(figures.strokes, i, entries);
+    holdStrokes(figures.strokes);
     addSegments(edited, figures);
     figures.sides = {sideOf(edited, figures, 0), sideOf(edited, figures, 1)};
     return figures;
@@ -211,6 +225,13 @@ std::optional<double> heartRateAt(const SessionFigures& figures, double moment) 
     if (after == figures.heart.begin() || moment - std::prev(after)->first > HeartReach)
         return std::nullopt;
     return std::prev(after)->second;
+}
+
+std::optional<std::size_t> strokeMadeAt(const SessionFigures& figures, double moment) {
+    const auto after = std::ranges::upper_bound(figures.strokes, moment, {}, &StrokeFigures::time);
+    if (after == figures.strokes.begin() || moment >= std::prev(after)->until)
+        return std::nullopt;
+    return static_cast<std::size_t>(after - figures.strokes.begin()) - 1;
 }
 
 std::optional<std::size_t> strokeAt(const SessionFigures& figures, double moment) {

@@ -17,6 +17,7 @@ struct StrokeFigures {
     std::size_t entry = 0; ///< place in `strokesData`
     double time = 0;       ///< of the catch, s
     double end = 0;        ///< of its cycle, s
+    double until = 0;      ///< its values are read up to here: the next catch, or its end, s
     double rate = 0;       ///< median of up to five strokes around it within its bout, 1/min
     std::optional<double> force{};     ///< N
     std::optional<double> impulse{};   ///< N·s
@@ -68,6 +69,10 @@ struct SessionFigures {
 
 /// The heart rate at a moment: the last reading of the 15 s before it, or nothing.
 [[nodiscard]] std::optional<double> heartRateAt(const SessionFigures& figures, double moment);
+
+/// The stroke that is being made at a moment, as an index: whoever reads the values of a stroke
+/// reads those of this one. Nothing between bouts and where strokes were taken out.
+[[nodiscard]] std::optional<std::size_t> strokeMadeAt(const SessionFigures& figures, double moment);
 
 /// The stroke whose catch is nearest to a moment, as an index; nothing between bouts.
 [[nodiscard]] std::optional<std::size_t> strokeAt(const SessionFigures& figures, double moment);

@@ -1,11 +1,14 @@
 #include "desktop/session_fixture.h"
 
 #include "boatmotion/session_files.h"
+#include "desktop/charts/sensor_chart.h"
 #include "desktop/charts/series_chart.h"
 #include "desktop/odd_recordings.h"
+#include "desktop/sessions/gauge.h"
 #include "desktop/sessions/grid_model.h"
 #include "desktop/sessions/information_dialog.h"
 #include "desktop/sessions/power_meter_dialog.h"
+#include "desktop/sessions/session_texts.h"
 #include "desktop/sessions/session_view.h"
 #include "desktop/sessions/test_session_window.h"
 #include "desktop/sessions/work_beside.h"
@@ -15,6 +18,7 @@
 #include <QDoubleSpinBox>
 #include <QDropEvent>
 #include <QLabel>
+#include <QMessageBox>
 #include <QMimeData>
 #include <QSignalSpy>
 #include <QTableView>
@@ -30,6 +34,7 @@ namespace {
 
 using desktop::SessionTables;
 using desktop::SessionWindow;
+using ::testing::Contains;
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
@@ -303,6 +308,143 @@ TEST_F(SessionCareTest, ASaveThatFailsKeepsWhatWasAskedAndDone) {
     ASSERT_TRUE(window->saveSessionTo(path("a.bms")));
     EXPECT_THAT(m_questions, SizeIs(1)) << "asked once";
     EXPECT_EQ(encode(readSmartSession(m_folder.path() / "a.bms")), sessionOf(*window));
+}
+
+/// The question itself, answered by keys.
+TEST_F(SessionCareTest, CancellingTheQuestionAboutThePowerMeterSavesNothing) {
+    const auto window = openDrill();
+    ASSERT_TRUE(window->saveSessionTo(path("a.bms")));
+    const std::string before = contentOf(m_folder.path() / "a.bms");
+    whenAsked<desktop::PowerMeterDialog>([](auto& dialog) { dialog.accept(); });
+    ASSERT_TRUE(window->importPowerMeter(add("meter.csv", "Time;Power\n0;200\n1;210\n2;205\n")));
+    window->setAskPowerMeter(nullptr);
+    const auto answer = [&](const char* button) {
+        QTimer::singleShot(0, [button] {
+            auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+            ASSERT_TRUE(box);
+            EXPECT_EQ(box->text(), "Would you like to save the powermeter data into sbm file?");
+            for (QAbstractButton* const one : box->buttons())
+                if (one->text() == button)
+                    return one->click();
+            QTest::keyClick(box, Qt::Key_Escape);
+        });
+        press(*window, Qt::CTRL | Qt::Key_S);
+    };
+    answer("Escape");
+    EXPECT_TRUE(window->isWindowModified());
+    EXPECT_EQ(contentOf(m_folder.path() / "a.bms"), before);
+    EXPECT_THAT(m_recorder.lines, Contains("Autosaved!").Times(1)) << "of the first time";
+
+    press(*window, Qt::Key_M);
+    window->replay().setMoment(window->replay().to());
+    press(*window, Qt::Key_M);
+    answer("Save without it");
+    EXPECT_NE(contentOf(m_folder.path() / "a.bms"), before) << "the marks are saved";
+    EXPECT_TRUE(window->isWindowModified()) << "its data are in no file yet";
+    EXPECT_THAT(window->document().value().powerMeter, SizeIs(3));
+    bool isAsked = false;
+    window->setAskPowerMeter([&](const QString&) {
+        isAsked = true;
+        return std::optional(true);
+    });
+    m_questions.clear();
+    EXPECT_TRUE(window->close());
+    EXPECT_THAT(m_questions, SizeIs(1)) << "whether to save";
+    EXPECT_TRUE(isAsked) << "and with what";
+    EXPECT_FALSE(window->isWindowModified());
+    EXPECT_EQ(encode(readSmartSession(m_folder.path() / "a.bms")), sessionOf(*window));
+}
+
+TEST_F(SessionCareTest, ARecordingOfVersion4IsConvertedAndOpened) {
+    const auto window = openDrill();
+    const std::string old = encode(sample::oldPhone());
+    m_isYes = false;
+    EXPECT_FALSE(window->open(add("old.kvb", old)));
+    EXPECT_EQ(window->document().path(), path("drill_postv5.bms"));
+    ASSERT_THAT(m_questions, SizeIs(1));
+    EXPECT_THAT(m_questions[0], HasSubstr("“old_v5.kvb” is written beside it"));
+    m_isYes = true;
+    ASSERT_TRUE(window->open(path("old.kvb")));
+    EXPECT_EQ(window->document().path(), path("old_v5_postv5.bms"));
+    EXPECT_EQ(contentOf(m_folder.path() / "old.kvb"), old);
+    ASSERT_TRUE(window->open(path("old.kvb")));
+    EXPECT_THAT(m_folder.names(), Not(Contains("old_v5_2.kvb"))) << "it is there already";
+    EXPECT_THAT(m_recorder.alerts, IsEmpty());
+}
+
+/// Whatever the cursor stands on, gauge and chart read one value.
+TEST_F(SessionCareTest, GaugesTellWhatTheChartsTell) {
+    using desktop::SessionMeasure;
+    const auto window = openDrill();
+    const auto gauge = [&](const char* name) {
+        return window->findChild<desktop::Gauge*>(name)->text();
+    };
+    const auto compare = [&](const char* when) {
+        SCOPED_TRACE(when);
+        const double from = window->replay().from();
+        for (double second = 0; second <= window->replay().to() - from; second += 0.25) {
+            window->replay().setMoment(from + second);
+            const auto chart = [&](SessionMeasure measure, int decimals, const char* unit) {
+                const auto& series = window->view().charts().chart(measure).series();
+                const auto value = series.empty() ? std::nullopt : valueAt(series[0], second);
+                const QString text = desktop::valueText(value, decimals);
+                return value ? text + ' ' + unit : text;
+            };
+            EXPECT_EQ(gauge("strokeRateGauge"), chart(SessionMeasure::StrokeRate, 0, "1/min"));
+            EXPECT_EQ(gauge("forceGauge"), chart(SessionMeasure::Force, 0, "N"));
+            EXPECT_EQ(gauge("speedGauge"), chart(SessionMeasure::Speed, 2, "m/s"));
+        }
+    };
+    compare("as it was read");
+    const auto strokes = window->view().figures().strokes;
+    const double begin = window->replay().from();
+    window->view().select(MomentRange{begin + 16, begin + 22});
+    window->removeSelection();
+    compare("with a stretch taken out");
+    window->replay().setMoment(begin + 19);
+    for (const char* const name : {"strokeRateGauge", "forceGauge", "speedGauge"})
+        EXPECT_EQ(gauge(name), "–") << name << ", in the stretch";
+    press(*window, Qt::CTRL | Qt::Key_Z);
+
+    QTableView& table = *window->view().tables().view(SessionTables::StrokePage);
+    table.setFocus();
+    table.selectRow(10);
+    press(table, Qt::Key_Delete);
+    compare("without a stroke");
+    window->replay().setMoment(strokes[10].time + 0.1);
+    EXPECT_EQ(gauge("forceGauge"), "–") << "neither that of the stroke before nor of the next";
+    window->replay().setMoment(strokes[9].time + 0.1);
+    EXPECT_NE(gauge("forceGauge"), "–");
+}
+
+TEST_F(SessionCareTest, WithoutPositionsTheRoomIsForTheChartsThatTellSomething) {
+    const auto window = makeWindow();
+    bmrawdata_v5 session = sample::upstreamDrill();
+    session.gps.clear();
+    session.heart.clear();
+    ASSERT_TRUE(window->open(add("drill.kvb", encode(session))));
+    window->resize(1280, 800);
+    QApplication::processEvents();
+    std::vector<desktop::SessionMeasure> shown;
+    for (const auto measure : window->view().charts().measures())
+        if (window->view().charts().chart(measure).isVisible())
+            shown.push_back(measure);
+    EXPECT_THAT(shown,
+                ElementsAre(desktop::SessionMeasure::StrokeRate, desktop::SessionMeasure::Phases));
+    const auto* const empty = window->findChild<QLabel*>("emptyCharts");
+    EXPECT_TRUE(empty->isVisible());
+    EXPECT_THAT(empty->text().toStdString(), HasSubstr("Force, Impulse, Speed: not known"));
+    EXPECT_THAT(empty->text().toStdString(), HasSubstr("Heart rate: none was recorded"));
+
+    // What has to be known about the figures is read whole.
+    const auto* const remarks = window->findChild<QLabel*>("remarks");
+    ASSERT_TRUE(remarks->isVisible());
+    EXPECT_GE(remarks->height(), remarks->heightForWidth(remarks->width()));
+    for (const QChar sign : remarks->text())
+        EXPECT_TRUE(sign.unicode() < 0x2400 || sign.unicode() >= 0x2500)
+            << "no sign for which a font has to be found";
+    ASSERT_TRUE(window->open(add("whole.kvb", encode(sample::upstreamDrill()))));
+    EXPECT_FALSE(empty->isVisible());
 }
 
 TEST_F(SessionCareTest, ClosingStaysOpenWhereItCannotSave) {

@@ -27,20 +27,35 @@ double joinedGap(const std::vector<double>& times) {
     return std::max(JoinedGap, ThinGap * intervals[Looks / 2]);
 }
 
-std::optional<std::size_t> sampleAt(const SensorSeries& series, double time) {
-    const std::vector<double>& times = *series.times;
-    if (times.empty() || !std::isfinite(time))
+namespace {
+
+std::optional<std::size_t> holdingSample(const SensorSeries& series, double wanted) {
+    const auto after = std::ranges::upper_bound(*series.times, wanted);
+    if (after == series.times->begin())
         return std::nullopt;
-    const double wanted = time - series.offset;
+    const auto index = static_cast<std::size_t>(after - series.times->begin()) - 1;
+    return wanted < (*series.ends)[index] ? std::optional(index) : std::nullopt;
+}
+
+std::optional<std::size_t> nearestSample(const std::vector<double>& times, double wanted) {
     auto nearest = std::ranges::lower_bound(times, wanted);
     if (nearest == times.end() ||
         (nearest != times.begin() && wanted - *std::prev(nearest) < *nearest - wanted))
         --nearest;
-    const auto index = static_cast<std::size_t>(nearest - times.begin());
-    if (std::abs(*nearest - wanted) > joinedGap(times) / 2 ||
-        !std::isfinite((*series.values)[index]))
+    if (std::abs(*nearest - wanted) > joinedGap(times) / 2)
         return std::nullopt;
-    return index;
+    return static_cast<std::size_t>(nearest - times.begin());
+}
+
+} // namespace
+
+std::optional<std::size_t> sampleAt(const SensorSeries& series, double time) {
+    if (series.times->empty() || !std::isfinite(time))
+        return std::nullopt;
+    const double wanted = time - series.offset;
+    const auto index =
+        series.ends ? holdingSample(series, wanted) : nearestSample(*series.times, wanted);
+    return index && std::isfinite((*series.values)[*index]) ? index : std::nullopt;
 }
 
 std::optional<double> valueAt(const SensorSeries& series, double time) {

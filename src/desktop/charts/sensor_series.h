@@ -18,8 +18,11 @@ struct SensorSeries {
     std::shared_ptr<const std::vector<double>> times;  ///< seconds, ascending
     std::shared_ptr<const std::vector<double>> values; ///< one for each time; not finite: missing
     std::size_t slot = 0;                              ///< its colour, see seriesStyle()
-    double offset = 0;                                 ///< seconds added to all times
-    bool isQuiet = false;                              ///< drawn grey, behind the others
+    /// Until when each value holds, where it is that of a span, such as a stroke; null where the
+    /// values are those of moments, and the nearest one is read.
+    std::shared_ptr<const std::vector<double>> ends{};
+    double offset = 0;    ///< seconds added to all times
+    bool isQuiet = false; ///< drawn grey, behind the others
     /// Of the values; made where it is missing. Whoever loads long rows in another thread makes it
     /// there.
     std::shared_ptr<const SamplePyramid> pyramid{};
@@ -38,7 +41,8 @@ struct SensorMark {
 /// thin, such as a heart rate every 5 s.
 [[nodiscard]] double joinedGap(const std::vector<double>& times);
 
-/// The place of the sample nearest to a moment; nothing in a gap, or where its value is missing.
+/// The place of the sample that is read at a moment: the one that holds then, or the nearest where
+/// none has an end; nothing in a gap, or where its value is missing.
 [[nodiscard]] std::optional<std::size_t> sampleAt(const SensorSeries& series, double time);
 /// Its value.
 [[nodiscard]] std::optional<double> valueAt(const SensorSeries& series, double time);

@@ -1,6 +1,7 @@
 #include "desktop/sessions/gauge_row.h"
 
 #include "desktop/sessions/gauge.h"
+#include "desktop/sessions/session_series.h"
 #include "desktop/shell/theme.h"
 #include "desktop/shell/workspace.h"
 
@@ -14,17 +15,16 @@ namespace {
 
 using Range = std::optional<std::pair<double, double>>;
 
-void widen(Range& range, std::optional<double> value) {
-    if (value)
-        range = {std::min(range ? range->first : *value, *value),
-                 std::max(range ? range->second : *value, *value)};
+void widen(Range& range, double value) {
+    range = {std::min(range ? range->first : value, value),
+             std::max(range ? range->second : value, value)};
 }
 
-template <class Values, class Get>
-Range rangeOf(const Values& values, const Get& get) {
+Range rangeOf(const std::vector<SensorSeries>& curves) {
     Range range;
-    for (const auto& value : values)
-        widen(range, std::optional<double>(get(value)));
+    for (const SensorSeries& curve : curves)
+        for (const double value : *curve.values)
+            widen(range, value);
     return range;
 }
 
@@ -35,22 +35,22 @@ GaugeRow::GaugeRow(Workspace& workspace, QWidget* parent)
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(theme::Spacing);
-    m_rate = add("strokeRateGauge", tr("Stroke rate"), tr("1/min"), 0);
-    m_speed = add("speedGauge", tr("Speed"), tr("m/s"), 2);
-    m_force = add("forceGauge", tr("Force"), tr("N"), 0);
-    m_impulse = add("impulseGauge", tr("Impulse"), tr("N·s"), 1);
-    m_power = add("powerGauge", tr("Power"), tr("W"), 0);
-    m_heart = add("heartGauge", tr("Heart rate"), tr("1/min"), 0);
+    m_rate = add("strokeRateGauge", SessionMeasure::StrokeRate, tr("1/min"), 0);
+    add("speedGauge", SessionMeasure::Speed, tr("m/s"), 2);
+    add("forceGauge", SessionMeasure::Force, tr("N"), 0);
+    m_impulse = add("impulseGauge", SessionMeasure::Impulse, tr("N·s"), 1);
+    add("powerGauge", SessionMeasure::Power, tr("W"), 0);
+    add("heartGauge", SessionMeasure::HeartRate, tr("1/min"), 0);
     connect(&workspace, &Workspace::preferenceChanged, this, &GaugeRow::followPreferences);
     followPreferences();
 }
 
-Gauge* GaugeRow::add(const char* objectName, const QString& name, const QString& unit,
+Gauge* GaugeRow::add(const char* objectName, SessionMeasure measure, const QString& unit,
                      int decimals) {
-    auto* gauge = new Gauge(name, unit, decimals);
+    auto* gauge = new Gauge(SessionCharts::nameOf(measure), unit, decimals);
     gauge->setObjectName(objectName);
     layout()->addWidget(gauge);
-    m_all.push_back(gauge);
+    m_readings.push_back({measure, gauge});
     return gauge;
 }
 
@@ -60,43 +60,30 @@ void GaugeRow::followPreferences() {
 }
 
 void GaugeRow::setLarge(bool isLarge) {
-    for (Gauge* const gauge : m_all)
-        gauge->setLarge(isLarge);
+    for (const Reading& reading : m_readings)
+        reading.gauge->setLarge(isLarge);
 }
 
 void GaugeRow::show(const EditedSession& session, const SessionFigures& figures) {
-    const auto& strokes = figures.strokes;
-    m_rate->setRange(rangeOf(strokes, [](const auto& stroke) { return stroke.rate; }));
-    m_force->setRange(rangeOf(strokes, [](const auto& stroke) { return stroke.force; }));
-    m_impulse->setRange(rangeOf(strokes, [](const auto& stroke) { return stroke.impulse; }));
-    Range power = rangeOf(strokes, [](const auto& stroke) { return stroke.power; });
-    for (const powermeterData& sample : session.powerMeter)
-        widen(power, sample.power);
-    m_power->setRange(power);
-    m_speed->setRange(rangeOf(figures.track, [](const TrackPlace& point) {
-        return point.speed > 0 ? std::optional(point.speed) : std::nullopt;
-    }));
-    m_heart->setRange(rangeOf(figures.heart, [](const auto& reading) { return reading.second; }));
+    for (Reading& reading : m_readings) {
+        std::vector<SensorSeries> curves = seriesFor(reading.measure, session, figures);
+        reading.gauge->setRange(rangeOf(curves));
+        reading.curve = std::move(curves.front());
+    }
 }
 
 void GaugeRow::showMoment(const EditedSession& session, const SessionFigures& figures,
                           double moment) {
-    const auto place = strokeAt(figures, moment);
-    const StrokeFigures* const stroke = place ? &figures.strokes[*place] : nullptr;
-    const auto valueOf = [&](std::optional<double> StrokeFigures::*member) {
-        return stroke ? stroke->*member : std::nullopt;
-    };
-    m_rate->setValue(stroke ? std::optional(stroke->rate) : std::nullopt);
+    for (const Reading& reading : m_readings)
+        reading.gauge->setValue(reading.curve.times
+                                    ? valueAt(reading.curve, moment - figures.moments.from)
+                                    : std::nullopt);
     QString hand;
-    if (stroke)
-        hand =
-            session.session.strokesData[stroke->entry].stroke.hand == 0 ? tr("left") : tr("right");
+    if (const auto place = strokeMadeAt(figures, moment))
+        hand = session.session.strokesData[figures.strokes[*place].entry].stroke.hand == 0
+                   ? tr("left")
+                   : tr("right");
     m_rate->setNote(hand);
-    m_force->setValue(valueOf(&StrokeFigures::force));
-    m_impulse->setValue(valueOf(&StrokeFigures::impulse));
-    m_power->setValue(valueOf(&StrokeFigures::power));
-    m_speed->setValue(speedAt(figures.track, moment));
-    m_heart->setValue(heartRateAt(figures, moment));
 }
 
 } // namespace kavela::desktop

@@ -1,6 +1,7 @@
 #pragma once
 
-#include "boatmotion/session_table.h"
+#include "desktop/charts/sensor_series.h"
+#include "desktop/sessions/session_charts.h"
 
 #include <QWidget>
 
@@ -9,8 +10,8 @@ namespace kavela::desktop {
 class Gauge;
 class Workspace;
 
-/// The gauges of a session at the cursor. Those of stroke rate and impulse are shown as the
-/// preferences say.
+/// The gauges of a session at the cursor. They read the curves of the charts, so that both tell the
+/// same. Those of stroke rate and impulse are shown as the preferences say.
 class GaugeRow : public QWidget {
     Q_OBJECT
 
@@ -23,17 +24,20 @@ public:
     void setLarge(bool isLarge);
 
 private:
-    Gauge* add(const char* objectName, const QString& name, const QString& unit, int decimals);
+    /// A gauge and the curve that it reads: the first one of its chart.
+    struct Reading {
+        SessionMeasure measure;
+        Gauge* gauge;
+        SensorSeries curve{};
+    };
+
+    Gauge* add(const char* objectName, SessionMeasure measure, const QString& unit, int decimals);
     void followPreferences();
 
     Workspace& m_workspace;
-    std::vector<Gauge*> m_all;
+    std::vector<Reading> m_readings;
     Gauge* m_rate;
-    Gauge* m_force;
     Gauge* m_impulse;
-    Gauge* m_power;
-    Gauge* m_speed;
-    Gauge* m_heart;
 };
 
 } // namespace kavela::desktop

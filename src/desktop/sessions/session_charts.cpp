@@ -2,7 +2,9 @@
 
 #include "desktop/charts/sensor_chart.h"
 #include "desktop/sessions/session_series.h"
+#include "desktop/shell/theme.h"
 
+#include <QLabel>
 #include <QScrollArea>
 #include <QVBoxLayout>
 
@@ -27,17 +29,16 @@ constexpr std::array AllMeasures{
 QString emptyTextOf(SessionMeasure measure) {
     switch (measure) {
     case SessionMeasure::HeartRate:
-        return SessionCharts::tr("No heart rate was recorded.");
+        return SessionCharts::tr("none was recorded");
     case SessionMeasure::Speed:
-        return SessionCharts::tr("The speed is not known: there are no fixes.");
     case SessionMeasure::Force:
     case SessionMeasure::Impulse:
     case SessionMeasure::Power:
-        return SessionCharts::tr("Not known: it needs the speed.");
+        return SessionCharts::tr("not known, since there are no positions that tell the speed");
     case SessionMeasure::Pitch:
-        return SessionCharts::tr("There are no turns.");
+        return SessionCharts::tr("there are no turns");
     default:
-        return SessionCharts::tr("There are no strokes.");
+        return SessionCharts::tr("there are no strokes");
     }
 }
 
@@ -62,6 +63,13 @@ SessionCharts::SessionCharts(QWidget* parent) : QWidget(parent) {
     whole->addWidget(scroll);
     for (const SessionMeasure measure : AllMeasures)
         addLane(measure);
+    m_empty = new QLabel;
+    m_empty->setObjectName("emptyCharts");
+    m_empty->setForegroundRole(QPalette::PlaceholderText);
+    m_empty->setTextFormat(Qt::PlainText);
+    m_empty->setWordWrap(true);
+    m_empty->setContentsMargins(theme::LargeSpacing, theme::SmallSpacing, theme::LargeSpacing, 0);
+    m_column->addWidget(m_empty);
     setMeasures({SessionMeasure::StrokeRate, SessionMeasure::Force, SessionMeasure::Impulse,
                  SessionMeasure::Speed, SessionMeasure::HeartRate, SessionMeasure::Phases});
 }
@@ -94,7 +102,6 @@ void SessionCharts::addLane(SessionMeasure measure) {
     auto* chart = new SensorChart;
     chart->setTitle(nameOf(measure));
     chart->setDragZooms(false);
-    chart->setEmptyText(emptyTextOf(measure));
     chart->setMinimumHeight(LaneHeight);
     m_column->addWidget(chart, 1);
     const auto begin = [this] { return m_figures.moments.from; };
@@ -120,7 +127,6 @@ SensorChart& SessionCharts::chart(SessionMeasure measure) const {
 
 void SessionCharts::setMeasures(std::vector<SessionMeasure> measures) {
     m_measures = std::move(measures);
-    showLanes();
     fillLanes();
     showMarks();
 }
@@ -129,9 +135,8 @@ void SessionCharts::setMeasures(std::vector<SessionMeasure> measures) {
 void SessionCharts::showLanes() {
     bool isLast = true;
     for (const Lane& lane : std::views::reverse(m_lanes)) {
-        const bool isShown = std::ranges::count(m_measures, lane.measure) > 0;
-        lane.chart->setVisible(isShown);
-        if (!isShown)
+        lane.chart->setVisible(isShown(lane.measure));
+        if (!isShown(lane.measure))
             continue;
         lane.chart->setTimeAxisVisible(isLast);
         lane.chart->setMinimumHeight(LaneHeight + (isLast ? AxisHeight : 0));
@@ -162,13 +167,41 @@ std::vector<SensorSeries> SessionCharts::seriesOf(SessionMeasure measure) const 
     return m_isNormalized ? normalized(std::move(series)) : series;
 }
 
+bool SessionCharts::isShown(SessionMeasure measure) const {
+    return std::ranges::count(m_measures, measure) > 0 &&
+           std::ranges::find(m_lanes, measure, &Lane::measure)->hasValues;
+}
+
 void SessionCharts::fillLanes() {
-    for (const Lane& lane : m_lanes) {
+    for (Lane& lane : m_lanes) {
         if (std::ranges::count(m_measures, lane.measure) == 0)
             continue;
-        lane.chart->setSeries(seriesOf(lane.measure));
+        std::vector<SensorSeries> series = seriesOf(lane.measure);
+        lane.hasValues = !series.empty();
+        lane.chart->setSeries(std::move(series));
         lane.chart->setLimits(0, std::max(1.0, m_figures.moments.to - m_figures.moments.from));
     }
+    showLanes();
+    tellEmpty();
+}
+
+/// A chart of nothing would take the room of one that tells something.
+void SessionCharts::tellEmpty() {
+    std::vector<std::pair<QString, QStringList>> reasons; // with the charts that they leave empty
+    for (const Lane& lane : m_lanes) {
+        if (std::ranges::count(m_measures, lane.measure) == 0 || lane.hasValues)
+            continue;
+        const QString reason = emptyTextOf(lane.measure);
+        auto known = std::ranges::find(reasons, reason, &std::pair<QString, QStringList>::first);
+        if (known == reasons.end())
+            known = reasons.insert(reasons.end(), {reason, {}});
+        known->second.append(nameOf(lane.measure));
+    }
+    QStringList lines;
+    for (const auto& [reason, names] : reasons)
+        lines.append(names.join(", ") + ": " + reason);
+    m_empty->setText(lines.join('\n'));
+    m_empty->setVisible(!lines.isEmpty());
 }
 
 void SessionCharts::showSelection(std::optional<MomentRange> range) {
@@ -191,7 +224,7 @@ void SessionCharts::showMarks() {
     bool isFirst = true; // of the charts that are seen: it alone bears the numbers
     for (const Lane& lane : m_lanes) {
         lane.chart->setMarks(marks);
-        if (!isFirst || std::ranges::count(m_measures, lane.measure) == 0)
+        if (!isFirst || !isShown(lane.measure))
             continue;
         isFirst = false;
         for (SensorMark& mark : marks)

@@ -6,6 +6,7 @@
 
 #include <memory>
 
+class QLabel;
 class QVBoxLayout;
 
 namespace kavela::desktop {
@@ -40,7 +41,7 @@ public:
     /// Values as a share of the greatest one of each series, in percent.
     void setNormalized(bool isNormalized);
 
-    /// Which of them are shown, whether or not they have a value.
+    /// Which of them are shown. Those without a value are named in one line below the others.
     void setMeasures(std::vector<SessionMeasure> measures);
     [[nodiscard]] const std::vector<SessionMeasure>& measures() const { return m_measures; }
     [[nodiscard]] static QString nameOf(SessionMeasure measure);
@@ -64,17 +65,21 @@ private:
     struct Lane {
         SessionMeasure measure;
         SensorChart* chart;
+        bool hasValues = false;
     };
 
     void addLane(SessionMeasure measure);
     void showLanes();
     void fillLanes();
+    void tellEmpty();
+    [[nodiscard]] bool isShown(SessionMeasure measure) const;
     void showMarks();
     [[nodiscard]] std::vector<SensorSeries> seriesOf(SessionMeasure measure) const;
 
     std::vector<Lane> m_lanes;
     std::vector<SessionMeasure> m_measures;
     QVBoxLayout* m_column;
+    QLabel* m_empty; ///< the charts without a value, and why
     EditedSession m_session;
     SessionFigures m_figures;
     std::optional<MomentRange> m_selection;

@@ -28,16 +28,26 @@ public:
         m_times->push_back(moment - m_begin);
         m_values->push_back(*value);
     }
+    void add(const StrokeFigures& stroke, std::optional<double> value) {
+        add(stroke.time, value);
+        if (value)
+            m_ends->push_back(stroke.until - m_begin);
+    }
 
     [[nodiscard]] SensorSeries series(const QString& name, const QString& unit,
                                       std::size_t slot) const {
-        return {.name = name, .unit = unit, .times = m_times, .values = m_values, .slot = slot};
+        SensorSeries series{
+            .name = name, .unit = unit, .times = m_times, .values = m_values, .slot = slot};
+        if (!m_ends->empty())
+            series.ends = m_ends;
+        return series;
     }
 
 private:
     double m_begin;
     std::shared_ptr<std::vector<double>> m_times = std::make_shared<std::vector<double>>();
     std::shared_ptr<std::vector<double>> m_values = std::make_shared<std::vector<double>>();
+    std::shared_ptr<std::vector<double>> m_ends = std::make_shared<std::vector<double>>();
 };
 
 using ValueOfStroke =
@@ -48,7 +58,7 @@ SensorSeries strokeCurve(const EditedSession& session, const SessionFigures& fig
                          const ValueOfStroke& valueOf) {
     Curve curve(figures.moments.from);
     for (const StrokeFigures& stroke : figures.strokes)
-        curve.add(stroke.time, valueOf(stroke, session.session.strokesData[stroke.entry].stroke));
+        curve.add(stroke, valueOf(stroke, session.session.strokesData[stroke.entry].stroke));
     return curve.series(name, unit, slot);
 }
 

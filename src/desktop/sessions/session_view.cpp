@@ -17,6 +17,7 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QSplitter>
+#include <QStyle>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -102,21 +103,39 @@ QWidget* SessionView::makeHead() {
     m_title->setObjectName("title");
     m_title->setFont(theme::titleFont(*this));
     m_title->setTextFormat(Qt::PlainText);
+    m_title->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    auto* edit = smallButton(tr("Information…"), tr("Athlete, place, kind and equipment"));
+    connect(edit, &QPushButton::clicked, this, &SessionView::informationRequested);
+    auto* head = new QWidget;
+    auto* column = new QVBoxLayout(head);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(theme::SmallSpacing);
+    auto* row = new QHBoxLayout;
+    row->setSpacing(theme::LargeSpacing);
+    row->addWidget(m_title, 1);
+    row->addWidget(edit);
+    column->addLayout(row);
+    column->addWidget(makeRemarks());
+    return head;
+}
+
+/// On lines of their own, as many as they need: what a coach has to know is not cut.
+QWidget* SessionView::makeRemarks() {
+    auto* icon = new QLabel;
+    const int size = style()->pixelMetric(QStyle::PM_SmallIconSize);
+    icon->setPixmap(style()->standardIcon(QStyle::SP_MessageBoxInformation).pixmap(size, size));
     m_remarks = new QLabel;
     m_remarks->setObjectName("remarks");
     m_remarks->setForegroundRole(QPalette::PlaceholderText);
     m_remarks->setTextFormat(Qt::PlainText);
-    m_remarks->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-    auto* edit = smallButton(tr("Information…"), tr("Athlete, place, kind and equipment"));
-    connect(edit, &QPushButton::clicked, this, &SessionView::informationRequested);
-    auto* head = new QWidget;
-    auto* row = new QHBoxLayout(head);
+    m_remarks->setWordWrap(true);
+    m_remarkRow = new QWidget;
+    auto* row = new QHBoxLayout(m_remarkRow);
     row->setContentsMargins(0, 0, 0, 0);
-    row->setSpacing(theme::LargeSpacing);
-    row->addWidget(m_title);
+    row->setSpacing(theme::Spacing);
+    row->addWidget(icon, 0, Qt::AlignTop);
     row->addWidget(m_remarks, 1);
-    row->addWidget(edit);
-    return head;
+    return m_remarkRow;
 }
 
 QWidget* SessionView::makeSelectionBar() {
@@ -209,8 +228,8 @@ void SessionView::showMoment(double moment) {
 void SessionView::showTitle() {
     m_title->setText(sessionTitle(m_session.session.info));
     const QStringList remarks = remarksOn(m_session);
-    m_remarks->setText(remarks.isEmpty() ? QString() : "ⓘ " + remarks.join(' '));
-    m_remarks->setToolTip(remarks.join('\n'));
+    m_remarks->setText(remarks.join(' '));
+    m_remarkRow->setVisible(!remarks.isEmpty());
 }
 
 void SessionView::showRememberedMeasures() {

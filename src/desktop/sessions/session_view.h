@@ -57,6 +57,7 @@ signals:
 
 private:
     QWidget* makeHead();
+    QWidget* makeRemarks();
     QWidget* makeSelectionBar();
     QWidget* makeMapPart();
     void connectParts();
@@ -76,6 +77,7 @@ private:
 
     QLabel* m_title = nullptr;
     QLabel* m_remarks = nullptr;
+    QWidget* m_remarkRow = nullptr;
     GaugeRow* m_gauges;
     SessionCharts* m_charts;
     SeriesChart* m_scatter;
