@@ -24,11 +24,14 @@ class RecordingCareTest : public ::testing::Test {
 protected:
     RecordingCareTest() {
         m_dialog = std::make_unique<RecordingDialog>(
-            RecordingDialog::Film{[this] { return m_position; }, [](double) {},
-                                  [this] { return m_span; }, [] { return QString("Jana"); },
-                                  [this](AttachedPart part) { m_attached = std::move(part); },
-                                  [this] { m_attached.reset(); },
-                                  [this] { return m_attached.has_value(); }},
+            RecordingDialog::Film{
+                .position = [this] { return m_position; },
+                .show = [](double) {},
+                .run = [this] { return desktop::RunFacts{.span = m_span}; },
+                .attach = [this](AttachedPart part) { m_attached = std::move(part); },
+                .detach = [this] { m_attached.reset(); },
+                .isAttached = [this] { return m_attached.has_value(); },
+                .isMeant = [](const Alert&) { return true; }},
             nullptr);
         m_dialog->show();
         QApplication::processEvents();

@@ -1,10 +1,11 @@
 #include "desktop/film/film_deck.h"
+#include "desktop/motion/older_recordings.h"
 #include "desktop/shell/workspace.h"
 #include "desktop/taking/recording/recording_dialog.h"
 #include "desktop/taking/taking_window.h"
-#include "splitdata/run_timing.h"
 
-#include <QFileDialog>
+#include <QScreen>
+#include <QSplitter>
 
 namespace kavela::desktop {
 
@@ -12,18 +13,23 @@ RecordingDialog& TakingWindow::recording() {
     if (m_recording)
         return *m_recording;
     m_recording = new RecordingDialog(
-        {[this] { return m_deck->position(); }, [this](double seconds) { m_deck->seek(seconds); },
-         [this] { return m_run < 0 ? std::nullopt : runSpan(m_document.run(m_run)); },
-         [this] {
-             return m_run < 0 ? QString()
-                              : QString::fromStdString(crewText(m_document.run(m_run).names));
-         },
-         [this](AttachedPart part) {
-             m_document.editRun(m_run, tr("recording"),
-                                [&](athletedata031& run) { attachTo(run, std::move(part)); });
-         },
-         [this] { m_document.editRun(m_run, tr("recording taken off"), detachFrom); },
-         [this] { return m_run >= 0 && hasRecording(m_document.run(m_run)); }},
+        {.position = [this] { return m_deck->position(); },
+         .show = [this](double seconds) { m_deck->seek(seconds); },
+         .run =
+             [this] {
+                 return m_run < 0 ? RunFacts() : factsOf(m_document.run(m_run), m_document.info());
+             },
+         .attach =
+             [this](AttachedPart part) {
+                 m_document.editRun(m_run, tr("recording"),
+                                    [&](athletedata031& run) { attachTo(run, std::move(part)); });
+             },
+         .detach = [this] { m_document.editRun(m_run, tr("recording taken off"), detachFrom); },
+         .isAttached = [this] { return m_run >= 0 && hasRecording(m_document.run(m_run)); },
+         .isMeant =
+             [this](const Alert& question) {
+                 return m_workspace.ask(question, tr("Attach it all the same"), m_recording);
+             }},
         this);
     connect(m_recording, &RecordingDialog::chooseRequested, this, [this] {
         const QStringList chosen =
@@ -36,11 +42,20 @@ RecordingDialog& TakingWindow::recording() {
                 m_workspace.log()(title.toStdString() + ": " + reason.toStdString());
                 m_workspace.showAlert({title.toStdString(), reason.toStdString()}, m_recording);
             });
+    connect(m_recording, &RecordingDialog::refusedAsOlder, this, [this](const QString& path) {
+        if (const auto converted = convertOlderRecording(path, m_workspace, m_recording))
+            m_recording->load(*converted);
+    });
     connect(&m_document, &TakingDocument::changed, m_recording, &RecordingDialog::showRun);
     return *m_recording;
 }
 
 void TakingWindow::openRecording(const QString& path) {
+    if (!recording().isVisible()) {
+        // The dialog asks for moments of the film, which therefore has to be seen.
+        const QRect film(m_films->mapToGlobal(QPoint()), m_films->size());
+        recording().placeBeside(film, screen()->availableGeometry());
+    }
     recording().show();
     recording().raise();
     if (!path.isEmpty())

@@ -5,13 +5,16 @@
 #include "desktop/shell/dropped_files.h"
 #include "desktop/shell/fault_label.h"
 #include "desktop/shell/theme.h"
+#include "splitdata/run_timing.h"
 
 #include <QDropEvent>
 #include <QFileInfo>
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QPushButton>
+#include <QScrollArea>
 
+#include <array>
 #include <cmath>
 
 namespace kavela::desktop {
@@ -20,14 +23,58 @@ namespace {
 
 constexpr std::size_t EventSlot = 1;
 constexpr std::size_t RunSlot = 2;
+constexpr int MessageLines = 4;
+constexpr QSize Usual(860, 560);
+constexpr const char* Widest = "-0:00:00.00"; ///< a moment: the buttons beside it stay in place
 
-QString clockText(const ClockFit& fit, bool hasDrift) {
-    QString text = RecordingDialog::tr("The recording's clock stands at %1 s when the film begins.")
-                       .arg(fit.stampAt(0), 0, 'f', 3);
+QString clockText(const ClockFit& fit, double first, bool hasDrift) {
+    const double later = fit.stampAt(0) - first; // seconds of the recording
+    QString text =
+        later >= 0
+            ? RecordingDialog::tr("The film begins %1 after the recording.").arg(momentText(later))
+            : RecordingDialog::tr("The film begins %1 before the recording.")
+                  .arg(momentText(-later));
     if (hasDrift)
-        text += ' ' + RecordingDialog::tr("It gains %1 ms in a minute.")
-                          .arg((fit.rate - 1) * 60'000, 0, 'f', 1);
+        text += ' ' + RecordingDialog::tr("Its clock gains %1 s in 100 s, which is taken out.")
+                          .arg((fit.rate - 1) * 100, 0, 'f', 2);
     return text;
+}
+
+QString joined(const QStringList& parts) {
+    QStringList known = parts;
+    known.removeAll(QString());
+    return known.isEmpty() ? QStringLiteral("–") : known.join(" · ");
+}
+
+QString dayOf(std::optional<ReferenceDate> date) {
+    return date && date->seconds > 0 ? QString::fromStdString(dayText(*date)) : QString();
+}
+
+QString whoseText(const bmrawdata_v5& recording) {
+    return joined({QString::fromStdString(recording.athleteinfo.name), dayOf(recording.info.date),
+                   QString::fromStdString(recording.info.location)});
+}
+
+QString whoseText(const RunFacts& run) {
+    return joined({QString::fromStdString(crewText(run.crew)), dayOf(run.date),
+                   QString::fromStdString(run.race)});
+}
+
+QString differenceText(const Difference& difference) {
+    if (difference.isOtherAthlete && difference.isOtherDay)
+        return RecordingDialog::tr("The recording is of another athlete and another day.");
+    if (difference.isOtherAthlete)
+        return RecordingDialog::tr("The recording is of another athlete.");
+    return difference.isOtherDay ? RecordingDialog::tr("The recording is of another day.")
+                                 : QString();
+}
+
+/// The free strips around a part of the screen.
+std::array<QRect, 4> stripsAround(const QRect& kept, const QRect& screen) {
+    return {QRect(QPoint(screen.left(), kept.bottom() + 1), screen.bottomRight()),
+            QRect(QPoint(kept.right() + 1, screen.top()), screen.bottomRight()),
+            QRect(screen.topLeft(), QPoint(screen.right(), kept.top() - 1)),
+            QRect(screen.topLeft(), QPoint(kept.left() - 1, screen.bottom()))};
 }
 
 } // namespace
@@ -36,6 +83,8 @@ RecordingDialog::RecordingDialog(Film film, QWidget* parent)
     : QDialog(parent),
       m_film(std::move(film)),
       m_title(new QLabel),
+      m_whose(new QLabel),
+      m_other(new FaultLabel),
       m_note(new QLabel),
       m_clocks(new QLabel),
       m_fault(new FaultLabel),
@@ -45,7 +94,7 @@ RecordingDialog::RecordingDialog(Film film, QWidget* parent)
     setAcceptDrops(true);
     makeParts();
     showRecording();
-    resize(860, 560);
+    resize(Usual);
 }
 
 void RecordingDialog::makeParts() {
@@ -53,6 +102,10 @@ void RecordingDialog::makeParts() {
     m_note->setFont(theme::captionFont(*this));
     m_note->setWordWrap(true);
     m_clocks->setWordWrap(true);
+    m_whose->setObjectName("whose");
+    m_whose->setTextFormat(Qt::PlainText);
+    m_whose->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    m_other->setObjectName("other");
     m_choose = new QPushButton(tr("Choose a &recording…"));
     m_attach = new QPushButton(tr("&Attach the part of this run"));
     m_detach = new QPushButton(tr("Take o&ff what is attached"));
@@ -78,6 +131,9 @@ void RecordingDialog::makeParts() {
     auto* head = new QHBoxLayout;
     head->addWidget(m_title, 1);
     head->addWidget(m_choose);
+    auto* whose = new QHBoxLayout;
+    whose->addWidget(m_whose, 3);
+    whose->addWidget(m_other, 2);
     auto* foot = new QHBoxLayout;
     foot->addWidget(m_detach);
     foot->addStretch(1);
@@ -88,13 +144,32 @@ void RecordingDialog::makeParts() {
                               theme::LargeSpacing);
     whole->setSpacing(theme::Spacing);
     whole->addLayout(head);
+    whole->addLayout(whose);
     whole->addWidget(m_note);
     whole->addWidget(m_chart, 3);
     whole->addWidget(m_yaw, 2);
     whole->addWidget(makeEvents());
-    whole->addWidget(m_clocks);
-    whole->addWidget(m_fault);
+    whole->addWidget(makeMessages());
     whole->addLayout(foot);
+}
+
+/// A place of its own for all that is told, always as high: nothing moves under the mouse.
+QWidget* RecordingDialog::makeMessages() {
+    auto* inside = new QWidget;
+    auto* column = new QVBoxLayout(inside);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(theme::SmallSpacing);
+    column->addWidget(m_fault);
+    column->addWidget(m_clocks);
+    column->addStretch();
+    auto* area = new QScrollArea;
+    area->setObjectName("messages");
+    area->setFrameShape(QFrame::NoFrame);
+    area->setWidgetResizable(true);
+    area->setFocusPolicy(Qt::NoFocus);
+    area->setWidget(inside);
+    area->setFixedHeight(MessageLines * fontMetrics().lineSpacing() + theme::Spacing);
+    return area;
 }
 
 QWidget* RecordingDialog::makeEvents() {
@@ -113,6 +188,8 @@ QWidget* RecordingDialog::makeEvents() {
         connect(row.setStamp, &QPushButton::clicked, this,
                 [=, this] { setStamp(which, m_cursor); });
         connect(row.clear, &QPushButton::clicked, this, [=, this] { clear(which); });
+        row.video->setMinimumWidth(fontMetrics().horizontalAdvance(tr("film %1").arg(Widest)));
+        row.stamp->setMinimumWidth(fontMetrics().horizontalAdvance(tr("recording %1").arg(Widest)));
         grid->addWidget(new QLabel(titles[i]), i, 0);
         int column = 1;
         for (QWidget* part : std::initializer_list<QWidget*>{row.video, row.setVideo, row.stamp,
@@ -130,6 +207,7 @@ void RecordingDialog::load(const QString& path) {
     struct Read {
         std::unique_ptr<LoadedRecording> recording;
         QString fault;
+        bool isOlder = false;
     };
     const QString name = QFileInfo(path).fileName();
     m_choose->setEnabled(false);
@@ -140,12 +218,14 @@ void RecordingDialog::load(const QString& path) {
             try {
                 read.recording = std::make_unique<LoadedRecording>(
                     loadedRecording(name.toStdString(), readRawSession(path.toStdString())));
+            } catch (const OlderRecording&) {
+                read.isOlder = true;
             } catch (const std::exception& error) {
                 read.fault = QString::fromUtf8(error.what());
             }
             return read;
         },
-        [this, name, wanted = ++m_wanted](Read read) {
+        [this, path, name, wanted = ++m_wanted](Read read) {
             if (wanted != m_wanted)
                 return;
             m_choose->setEnabled(true);
@@ -155,7 +235,10 @@ void RecordingDialog::load(const QString& path) {
                 return;
             }
             showRecording();
-            emit failed(tr("“%1” cannot be opened").arg(name), read.fault);
+            if (read.isOlder)
+                emit refusedAsOlder(path);
+            else
+                emit failed(tr("“%1” cannot be opened").arg(name), read.fault);
         });
 }
 
@@ -253,46 +336,83 @@ void RecordingDialog::showMarks() {
     for (int i = 0; i < 2; ++i)
         if (const auto stamp = event(static_cast<Event>(i)).stamp)
             marks.push_back({*stamp, *stamp, QString::number(i + 1), EventSlot});
-    if (const auto span = m_film.span(); span && m_fit)
-        marks.push_back(
-            {m_fit->stampAt(span->start), m_fit->stampAt(span->end), m_film.run(), RunSlot});
+    const RunFacts run = m_film.run();
+    if (run.span && m_fit)
+        marks.push_back({m_fit->stampAt(run.span->start), m_fit->stampAt(run.span->end),
+                         QString::fromStdString(crewText(run.crew)), RunSlot});
     m_chart->setMarks(marks);
     m_yaw->setMarks(marks);
 }
 
 void RecordingDialog::showRun() {
-    const bool hasSpan = m_film.span().has_value();
-    m_attach->setEnabled(m_fit && hasSpan);
-    m_attach->setToolTip(hasSpan ? QString()
-                                 : tr("The run has to be marked first: its start and its splits."));
+    const RunFacts run = m_film.run();
+    showWhose(run);
+    m_attach->setEnabled(m_fit && run.span);
+    m_attach->setToolTip(
+        run.span ? QString() : tr("The run has to be marked first: its start and its splits."));
     m_detach->setEnabled(m_film.isAttached());
-    m_clocks->setText(m_fit
-                          ? clockText(*m_fit, m_events.first.isWhole() && m_events.second.isWhole())
-                          : QString());
-    m_clocks->setVisible(m_fit.has_value());
+    QStringList told;
+    if (m_fit) {
+        told << clockText(*m_fit, m_recording->first(),
+                          m_events.first.isWhole() && m_events.second.isWhole());
+        for (const std::string& note : coverNotes(m_recording->session, *m_fit, run))
+            told << QString::fromStdString(note);
+    }
+    m_clocks->setText(told.join('\n'));
     showMarks();
 }
 
+/// Whose recording it is, beside whose run: a wrong one is seen before it is attached.
+void RecordingDialog::showWhose(const RunFacts& run) {
+    const QString recording = m_recording ? whoseText(m_recording->session) : QStringLiteral("–");
+    m_whose->setText(tr("Recording: %1").arg(recording) + '\n' + tr("Run: %1").arg(whoseText(run)));
+    m_whose->setToolTip(m_whose->text());
+    m_other->tell(m_recording ? differenceText(differenceOf(m_recording->session, run))
+                              : QString());
+}
+
+bool RecordingDialog::isMeantFor(const RunFacts& run) const {
+    const Difference difference = differenceOf(m_recording->session, run);
+    if (!difference.isAny())
+        return true;
+    return m_film.isMeant(
+        {differenceText(difference).toStdString(), m_whose->text().toStdString()});
+}
+
 void RecordingDialog::attach() {
-    const auto span = m_film.span();
-    if (!m_recording || !m_fit || !span)
+    const RunFacts run = m_film.run();
+    if (!m_recording || !m_fit || !run.span)
         return;
     try {
-        AttachedPart part = partOf(m_recording->session, *m_fit, span->start, span->end);
-        QStringList notes;
-        for (const std::string& note : part.notes)
-            notes.append(QString::fromStdString(note));
+        AttachedPart part = partOf(m_recording->session, *m_fit, run.span->start, run.span->end);
         if (part.isEmpty()) {
             m_fault->tell(tr("Nothing of the recording lies within the run."));
             return;
         }
         m_fault->tell({});
+        if (!isMeantFor(run))
+            return;
         m_film.attach(std::move(part));
-        m_clocks->setText(tr("The part of %1 is attached.").arg(m_film.run()) +
-                          (notes.isEmpty() ? "" : "\n" + notes.join('\n')));
+        const QString crew = QString::fromStdString(crewText(run.crew));
+        m_clocks->setText(tr("The part of %1 is attached.").arg(crew) + '\n' + m_clocks->text());
     } catch (const ClockError& error) {
         m_fault->tell(error.what());
     }
+}
+
+void RecordingDialog::placeBeside(const QRect& kept, const QRect& screen) {
+    const QSize least = minimumSizeHint();
+    QRect best;
+    for (const QRect& strip : stripsAround(kept, screen)) {
+        const bool fits = strip.width() >= least.width() && strip.height() >= least.height();
+        if (fits && qint64(strip.width()) * strip.height() > qint64(best.width()) * best.height())
+            best = strip;
+    }
+    const QSize size = Usual.boundedTo(best.isValid() ? best.size() : screen.size());
+    if (!best.isValid())
+        best =
+            QRect(QPoint(screen.left(), screen.bottom() + 1 - size.height()), screen.bottomRight());
+    setGeometry(QRect(best.topLeft(), size.expandedTo(least)));
 }
 
 void RecordingDialog::dragEnterEvent(QDragEnterEvent* event) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "common/alerts.h"
 #include "desktop/motion/background_work.h"
 #include "desktop/taking/recording/run_recording.h"
 
@@ -24,13 +25,15 @@ class RecordingDialog : public QDialog {
 public:
     /// What the dialog wants of the window that it stands beside.
     struct Film {
-        std::function<double()> position;             ///< seconds of the first film
-        std::function<void(double)> show;             ///< goes there
-        std::function<std::optional<RunSpan>()> span; ///< of the run in front
-        std::function<QString()> run;                 ///< its name
-        std::function<void(AttachedPart)> attach;     ///< as one step that can be undone
+        std::function<double()> position;         ///< seconds of the first film
+        std::function<void(double)> show;         ///< goes there
+        std::function<RunFacts()> run;            ///< the run in front
+        std::function<void(AttachedPart)> attach; ///< as one step that can be undone
         std::function<void()> detach;
         std::function<bool()> isAttached;
+        /// Whether a recording that is told to be of someone or some day else is meant all the
+        /// same.
+        std::function<bool(const Alert& question)> isMeant;
     };
 
     RecordingDialog(Film film, QWidget* parent);
@@ -54,11 +57,17 @@ public:
     void showRun();
     [[nodiscard]] SensorChart& chart() const { return *m_chart; }
 
+    /// Stands where it leaves a part of the screen free, on the screen of that part: the film that
+    /// is looked at meanwhile. Where nowhere is room it stands at the bottom.
+    void placeBeside(const QRect& kept, const QRect& screen);
+
 signals:
     /// A recording is wanted; answered by load().
     void chooseRequested();
     void loaded();
     void failed(const QString& title, const QString& reason);
+    /// The recording is one of version 4, which has to be converted first.
+    void refusedAsOlder(const QString& path);
 
 protected:
     void dragEnterEvent(QDragEnterEvent* event) override;
@@ -75,7 +84,10 @@ private:
 
     void makeParts();
     [[nodiscard]] QWidget* makeEvents();
+    [[nodiscard]] QWidget* makeMessages();
     void showRecording();
+    void showWhose(const RunFacts& run);
+    [[nodiscard]] bool isMeantFor(const RunFacts& run) const;
     void showFit();
     void showMarks();
     [[nodiscard]] CommonEvents::Event& event(Event event);
@@ -89,6 +101,8 @@ private:
     BackgroundWork m_work{*this};
 
     QLabel* m_title;
+    QLabel* m_whose; ///< athlete and day of the recording, and of the run
+    FaultLabel* m_other;
     QLabel* m_note;
     QLabel* m_clocks;
     FaultLabel* m_fault;
