@@ -1,6 +1,7 @@
 #include "desktop/planning/planning_actions.h"
 
 #include "desktop/planning/athlete_list.h"
+#include "desktop/planning/body/body_panel.h"
 #include "desktop/planning/plan/plan_view.h"
 #include "desktop/planning/planning_window.h"
 
@@ -102,6 +103,11 @@ void makePlanningMenus(PlanningWindow& window, QMenu& file) {
                    [&window] { window.previewReports(); });
     file.addAction(tr("Week as a &calendar file…"), QKeySequence(Qt::CTRL | Qt::Key_E), &window,
                    [&window] { window.askForCalendar(); });
+    file.addAction(tr("Import heart-rate &variability…"), &window, [&window] {
+        window.tabs().setCurrentWidget(&window.body());
+        window.body().showSection(BodyPanel::Variability);
+        window.body().askForImport();
+    });
     file.addSeparator();
     file.addAction(tr("Open an o&nline planning…"), &window,
                    [&window] { window.askToLoadOnline(); });

@@ -34,6 +34,8 @@ public:
     /// Shows what a list of variability measurements would bring, and takes it in after a yes as
     /// one step.
     void importVariability(const QString& path);
+    /// Asks for such a list.
+    void askForImport();
 
 protected:
     void refresh() override;
@@ -55,7 +57,6 @@ private:
     void makeImport();
     void addMeasurement(Section section);
     void showCharts(const yearsplannings_v6& shown);
-    void askForImport();
     [[nodiscard]] QString emptyText(Section section) const;
 
     Clock m_clock;
