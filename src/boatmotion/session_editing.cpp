@@ -93,6 +93,16 @@ EditedSession editedSession(std::shared_ptr<const bmrawdata_v5> recording,
     return edited;
 }
 
+EditedSession analysedSession(bmrawdata_v5 recording, std::optional<Mount> mount) {
+    auto shared = std::make_shared<const bmrawdata_v5>(std::move(recording));
+    MotionProfile profile = profileOf(shared->athleteinfo);
+    profile.mount = mount;
+    const MotionAnalysis analysis = analyseMotion(*shared, profile);
+    EditedSession edited = editedSession(std::move(shared), analysis);
+    edited.mount = mount;
+    return edited;
+}
+
 EditedSession editedSession(smartAlldata_v4 session) {
     EditedSession edited;
     const SessionClock clock = clockOf(session);

@@ -27,11 +27,16 @@ struct EditedSession {
     /// Else much is not known of strokes and turns, see MotionAnalysis::isBowKnown. In a session
     /// that was read it is known when any stroke has a hand.
     bool isBowKnown = true;
+    std::optional<Mount> mount{}; ///< of the phone, as the coach named it for the analysis
 };
 
 /// The session of an analysed recording.
 [[nodiscard]] EditedSession editedSession(std::shared_ptr<const bmrawdata_v5> recording,
                                           const MotionAnalysis& analysis);
+
+/// Analyses a recording with the profile of its athlete and the mount that the coach named. Throws
+/// MotionError.
+[[nodiscard]] EditedSession analysedSession(bmrawdata_v5 recording, std::optional<Mount> mount);
 
 /// A processed session that was read. Its marks are found again from its segment numbers, each at
 /// the first stroke or turn behind it; segments that are not numbered in turn give none.

@@ -154,7 +154,7 @@ TEST(RunMotions, SectionsThatWereNotRecordedHaveNoCount) {
                                                       testing::Field(&SectionMotion::cover, Part)));
     EXPECT_FALSE(motion.sections[0].strokes);
     EXPECT_FALSE(motion.sections[0].turns);
-    EXPECT_NEAR(static_cast<double>(motion.sections[1].strokes.value_or(0)), 10 / 0.75, 1.5);
+    EXPECT_NEAR(static_cast<double>(motion.sections[1].strokes.value_or(0)), 10 / 0.75, 2.5);
     EXPECT_NEAR(motion.sections[3].covered, 16, 0.05);
     EXPECT_FALSE(motion.whole.strokes) << "no total of a part";
     EXPECT_THAT(motion.coverNotes,

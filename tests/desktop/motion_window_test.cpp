@@ -95,6 +95,7 @@ TEST_F(MotionWindowTest, LaysRecordingsOverEachOtherAndReadsThemAtTheCursor) {
     EXPECT_EQ(words.data, "100 a second · no position · no heart · no watch");
     EXPECT_THAT(words.found.toStdString(), HasSubstr("a hole of 2.0 s"));
     EXPECT_THAT(words.found.toStdString(), HasSubstr("the clock ran backwards once"));
+    EXPECT_THAT(words.found.toStdString(), HasSubstr("side unknown")) << "it has no positions";
 
     MotionCharts& charts = m_window.charts();
     EXPECT_NEAR(charts.view().second, 29.99, 1e-9);
@@ -106,6 +107,13 @@ TEST_F(MotionWindowTest, LaysRecordingsOverEachOtherAndReadsThemAtTheCursor) {
     charts.chart(CurveKind::Forward)->showCursorAt(6);
     EXPECT_EQ(charts.chart(CurveKind::Roll)->cursor(), 6);
     EXPECT_EQ(m_window.values().item(0, 0)->text(), "0:06.00");
+    charts.chart(CurveKind::Forward)->showCursorAt(12);
+    const int stroke = m_window.values().rowCount() - 4;
+    EXPECT_THAT(m_window.values().item(stroke, 0)->text().toStdString(),
+                testing::MatchesRegex("(left|right), [0-9]+"));
+    EXPECT_THAT(m_window.values().item(stroke, 1)->text().toStdString(),
+                testing::StartsWith("side unknown, "));
+    EXPECT_EQ(m_window.values().item(stroke + 1, 1)->text(), "–") << "nor its force";
 
     recordings().setTicked(0, false);
     EXPECT_THAT(charts.chart(CurveKind::Forward)->series(), SizeIs(1));
@@ -222,6 +230,8 @@ TEST_F(MotionWindowTest, MovesARecordingInTime) {
     EXPECT_NEAR(recordings().all()[1]->shift, 12, 0.001);
     m_window.alignStarts();
     EXPECT_EQ(recordings().all()[1]->shift, 0);
+    QApplication::setActiveWindow(&m_window);
+    m_window.list().setFocus();
     QTest::keyClick(&m_window, Qt::Key_Z, Qt::ControlModifier);
     QTest::keyClick(&m_window, Qt::Key_Z, Qt::ControlModifier);
     EXPECT_NEAR(recordings().all()[1]->shift, 3, 1e-9) << "what was aligned by hand is not lost";

@@ -6,11 +6,13 @@
 #include "common/temp_folder.h"
 #include "common/text_file.h"
 #include "desktop/planning/athlete_list.h"
+#include "desktop/planning/body/body_panel.h"
 #include "desktop/planning/plan/plan_view.h"
 #include "desktop/planning/plan/session_dialog.h"
 #include "desktop/planning/plan/totals_table.h"
 #include "desktop/planning/plan/week_form.h"
 #include "desktop/planning/plan/year_strip.h"
+#include "desktop/shell/command_palette.h"
 #include "desktop/shell/workspace.h"
 #include "planning/calendar_day.h"
 #include "planning/planning_file.h"
@@ -21,6 +23,7 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QDoubleSpinBox>
+#include <QFileDialog>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPlainTextEdit>
@@ -299,6 +302,24 @@ TEST_F(PlanningWindowTest, KeepsTheFileOfAnOlderVersionWhenItSaves) {
     EXPECT_TRUE(window->save());
     EXPECT_EQ(readTextFile(m_folder.path() / "season_old.planning"), before);
     EXPECT_TRUE(recognisePlanningFile(file(), m_quiet).isCurrent());
+}
+
+TEST_F(PlanningWindowTest, SearchingFindsTheImportOfVariability) {
+    const auto window = openWindow();
+    ASSERT_TRUE(window);
+    const desktop::Commands commands = desktop::menuCommands(*window);
+    const auto found = desktop::matching(commands, "variability");
+    ASSERT_THAT(found, SizeIs(1));
+    bool isAsked = false;
+    QTimer::singleShot(0, [&] {
+        if (auto* const dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget())) {
+            isAsked = true;
+            dialog->reject();
+        }
+    });
+    found.front()->run();
+    EXPECT_TRUE(isAsked) << "for the list";
+    EXPECT_EQ(window->tabs().currentWidget(), &window->body());
 }
 
 } // namespace

@@ -4,6 +4,7 @@
 #include "desktop/charts/sensor_chart.h"
 #include "desktop/charts/series_chart.h"
 #include "desktop/odd_recordings.h"
+#include "desktop/sessions/balance_view.h"
 #include "desktop/sessions/gauge.h"
 #include "desktop/sessions/grid_model.h"
 #include "desktop/sessions/information_dialog.h"
@@ -18,16 +19,19 @@
 #include <QDoubleSpinBox>
 #include <QDropEvent>
 #include <QLabel>
+#include <QMenu>
 #include <QMessageBox>
 #include <QMimeData>
 #include <QSignalSpy>
 #include <QTableView>
 #include <QTest>
 #include <QTimer>
+#include <QToolButton>
 #include <QUrl>
 
 #include <algorithm>
 #include <future>
+#include <set>
 
 namespace kavela::test {
 namespace {
@@ -386,7 +390,8 @@ TEST_F(SessionCareTest, GaugesTellWhatTheChartsTell) {
             window->replay().setMoment(from + second);
             const auto chart = [&](SessionMeasure measure, int decimals, const char* unit) {
                 const auto& series = window->view().charts().chart(measure).series();
-                const auto value = series.empty() ? std::nullopt : valueAt(series[0], second);
+                const double at = window->replay().moment() - from;
+                const auto value = series.empty() ? std::nullopt : valueAt(series[0], at);
                 const QString text = desktop::valueText(value, decimals);
                 return value ? text + ' ' + unit : text;
             };
@@ -429,11 +434,10 @@ TEST_F(SessionCareTest, WithoutPositionsTheRoomIsForTheChartsThatTellSomething) 
     for (const auto measure : window->view().charts().measures())
         if (window->view().charts().chart(measure).isVisible())
             shown.push_back(measure);
-    EXPECT_THAT(shown,
-                ElementsAre(desktop::SessionMeasure::StrokeRate, desktop::SessionMeasure::Phases));
+    EXPECT_THAT(shown, ElementsAre(desktop::SessionMeasure::StrokeRate));
     const auto* const empty = window->findChild<QLabel*>("emptyCharts");
     EXPECT_TRUE(empty->isVisible());
-    EXPECT_THAT(empty->text().toStdString(), HasSubstr("Force, Impulse, Speed: not known"));
+    EXPECT_THAT(empty->text().toStdString(), HasSubstr("Force, Impulse, Phases: not known"));
     EXPECT_THAT(empty->text().toStdString(), HasSubstr("Heart rate: none was recorded"));
 
     // What has to be known about the figures is read whole.
@@ -445,6 +449,48 @@ TEST_F(SessionCareTest, WithoutPositionsTheRoomIsForTheChartsThatTellSomething) 
             << "no sign for which a font has to be found";
     ASSERT_TRUE(window->open(add("whole.kvb", encode(sample::upstreamDrill()))));
     EXPECT_FALSE(empty->isVisible());
+}
+
+/// Without positions front and back may be swapped: no side is shown as if it were known.
+TEST_F(SessionCareTest, SidesAreUnknownUntilTheCoachNamesTheMount) {
+    const auto window = makeWindow();
+    bmrawdata_v5 session = sample::upstreamDrill();
+    session.gps.clear();
+    ASSERT_TRUE(window->open(add("drill.kvb", encode(session))));
+    const auto hands = [&] {
+        std::set<std::string> texts;
+        const auto& rows = window->view().tables().gridOf(SessionTables::StrokePage)->rows;
+        for (const SessionGrid::Row& row : rows)
+            texts.insert(desktop::cellText(row.cells[2], 0).toStdString());
+        return texts;
+    };
+    const auto rate = [&] {
+        return window->findChild<desktop::Gauge*>("strokeRateGauge")
+            ->accessibleName()
+            .toStdString();
+    };
+    const auto* const balance = window->findChild<desktop::BalanceView*>();
+    window->goToStroke(1);
+    EXPECT_THAT(hands(), ElementsAre("–"));
+    EXPECT_THAT(rate(), ::testing::EndsWith(", side unknown"));
+    EXPECT_THAT(balance->accessibleDescription().toStdString(), HasSubstr("Side unknown"));
+    window->view().tables().setCurrentIndex(SessionTables::BalancePage);
+    (void)window->grab();
+
+    auto* const name = window->findChild<QToolButton*>("nameMount");
+    ASSERT_TRUE(name->isVisible());
+    name->menu()->actions().at(1)->trigger();
+    EXPECT_THAT(hands(), ElementsAre("left", "right"));
+    EXPECT_THAT(rate(),
+                ::testing::AnyOf(::testing::EndsWith("left"), ::testing::EndsWith("right")));
+    EXPECT_EQ(balance->accessibleDescription(), "");
+    EXPECT_FALSE(name->isVisible());
+    const std::string named = sessionOf(*window);
+    press(*window, Qt::Key_F5);
+    EXPECT_EQ(sessionOf(*window), named) << "the mount stays named";
+    press(*window, Qt::CTRL | Qt::Key_Z);
+    press(*window, Qt::CTRL | Qt::Key_Z);
+    EXPECT_THAT(hands(), ElementsAre("–"));
 }
 
 TEST_F(SessionCareTest, ClosingStaysOpenWhereItCannotSave) {

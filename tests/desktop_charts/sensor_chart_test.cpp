@@ -174,9 +174,9 @@ TEST_F(SensorCharts, ShareViewAndCursorInARing) {
 
 TEST_F(SensorCharts, ShowTheCurveWhileTheFocusAndTheCursorStandOnIt) {
     m_chart.showCursorAt(30); // on a value, which gets a dot
+    QApplication::setActiveWindow(&m_chart);
     m_chart.clearFocus();
     const QImage before = m_chart.grab().toImage();
-    QApplication::setActiveWindow(&m_chart);
     m_chart.setFocus();
     ASSERT_TRUE(m_chart.hasFocus());
     const QImage focused = m_chart.grab().toImage();

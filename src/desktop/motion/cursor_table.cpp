@@ -30,6 +30,12 @@ const Turn* turnAt(const MotionAnalysis& analysis, double stamp) {
     return found == analysis.turns.end() ? nullptr : &*found;
 }
 
+QString sideText(std::int64_t hand) {
+    if (hand == LeftHand)
+        return CursorTable::tr("left");
+    return hand == RightHand ? CursorTable::tr("right") : CursorTable::tr("side unknown");
+}
+
 QString strokeText(const MotionAnalysis& analysis, double stamp, int row) {
     std::size_t index = 0;
     const Stroke* const stroke = strokeAt(analysis, stamp, index);
@@ -37,15 +43,14 @@ QString strokeText(const MotionAnalysis& analysis, double stamp, int row) {
         return QStringLiteral("–");
     switch (row) {
     case 0:
-        return CursorTable::tr("%1, %2").arg(stroke->values.hand == 0 ? CursorTable::tr("left")
-                                                                      : CursorTable::tr("right"),
+        return CursorTable::tr("%1, %2").arg(sideText(stroke->values.hand),
                                              QString::number(qRound(analysis.strokeRates[index])));
     case 1:
-        return analysis.hasSpeed ? QString::number(qRound(stroke->values.force))
-                                 : QStringLiteral("–");
+        return analysis.hasForce() ? QString::number(qRound(stroke->values.force))
+                                   : QStringLiteral("–");
     default:
-        return analysis.hasSpeed ? QString::number(qRound(stroke->values.power))
-                                 : QStringLiteral("–");
+        return analysis.hasForce() ? QString::number(qRound(stroke->values.power))
+                                   : QStringLiteral("–");
     }
 }
 

@@ -216,7 +216,10 @@ std::vector<SensorMark> MotionCharts::marks() const {
                          recording.slot});
     for (const Stroke& stroke : recording.analysis->strokes)
         marks.push_back({stroke.catchTime + offset, stroke.catchTime + offset,
-                         stroke.values.hand == 0 ? tr("L") : tr("R"), recording.slot});
+                         stroke.values.hand == LeftHand    ? tr("L")
+                         : stroke.values.hand == RightHand ? tr("R")
+                                                           : QString(),
+                         recording.slot});
     return marks;
 }
 

@@ -12,6 +12,7 @@ void save(const MotionRecording& recording, const MotionAnalysis& analysis, Conv
     result.strokes = analysis.strokes.size();
     result.turns = analysis.turns.size();
     result.flags = analysis.flags;
+    result.notes = notesOf(analysis);
     try {
         saveSmartSession(processedSession(recording.session, analysis), result.target);
         result.outcome = ConversionOutcome::Saved;

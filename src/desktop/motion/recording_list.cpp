@@ -123,12 +123,15 @@ RecordingWords wordsOf(const MotionRecording& recording) {
         found << RecordingList::tr("%1 strokes, %2 turns")
                      .arg(recording.analysis->strokes.size())
                      .arg(recording.analysis->turns.size());
+    const bool isSideUnknown = recording.analysis && !recording.analysis->isBowKnown;
+    if (isSideUnknown && !recording.isAnalysing)
+        found << RecordingList::tr("side unknown");
     found << facts.oddities;
     return {.name = QString::fromStdString(recording.data.name),
             .session = session.join(dot),
             .data = data.join(dot),
             .found = found.join(dot),
-            .isOdd = !facts.oddities.isEmpty() || !recording.fault.isEmpty()};
+            .isOdd = !facts.oddities.isEmpty() || !recording.fault.isEmpty() || isSideUnknown};
 }
 
 RecordingList::RecordingList(MotionRecordings& recordings, QWidget* parent)

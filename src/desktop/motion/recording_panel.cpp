@@ -1,6 +1,7 @@
 #include "desktop/motion/recording_panel.h"
 
 #include "desktop/motion/motion_recording.h"
+#include "desktop/motion/mount_names.h"
 #include "desktop/shell/theme.h"
 
 #include <QComboBox>
@@ -24,14 +25,11 @@ QDoubleSpinBox* numberBox(double low, double high, double step, int decimals,
     return box;
 }
 
-QString notesOf(const MotionRecording& recording) {
-    if (!recording.analysis)
-        return {};
+QString notesText(const MotionRecording& recording) {
     QStringList notes;
-    for (const MotionFlag flag : recording.analysis->flags) {
-        const std::string_view text = textOf(flag);
-        notes << QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-    }
+    if (recording.analysis)
+        for (const std::string& note : notesOf(*recording.analysis))
+            notes << QString::fromStdString(note);
     return notes.join('\n');
 }
 
@@ -58,9 +56,7 @@ RecordingPanel::RecordingPanel(QWidget* parent)
     m_mount->setToolTip(tr("Which side of the phone points to the bow; used where the position "
                            "does not tell"));
     m_mount->addItem(tr("Found from the position"), -1);
-    const QStringList sides{tr("Top to the bow"),   tr("Bottom to the bow"),
-                            tr("Right to the bow"), tr("Left to the bow"),
-                            tr("Back to the bow"),  tr("Screen to the bow")};
+    const QStringList sides = mountNames();
     for (int i = 0; i < sides.size(); ++i)
         m_mount->addItem(sides[i], i);
     m_notes->setWordWrap(true);
@@ -95,7 +91,7 @@ void RecordingPanel::show(const MotionRecording* recording) {
     m_boat->setCurrentIndex(m_boat->findData(static_cast<int>(m_profile.boat)));
     m_mount->setCurrentIndex(
         m_mount->findData(m_profile.mount ? static_cast<int>(*m_profile.mount) : -1));
-    const QString notes = recording ? notesOf(*recording) : QString();
+    const QString notes = recording ? notesText(*recording) : QString();
     m_notes->setText(notes);
     m_notes->setVisible(!notes.isEmpty());
 }

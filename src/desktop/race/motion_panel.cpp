@@ -195,9 +195,8 @@ void MotionPanel::fillTable(std::size_t run) {
     const RunMotion& motion = motionOf(run);
     m_name->setText(QString::fromStdString(m_document.shownSet().alldata[run].name));
     QStringList notes{QString::fromStdString(motion.reason)};
-    for (const MotionFlag flag : motion.flags)
-        notes.append(
-            QString::fromUtf8(textOf(flag).data(), static_cast<qsizetype>(textOf(flag).size())));
+    for (const std::string& note : motion.notes)
+        notes.append(QString::fromStdString(note));
     for (const std::string& note : motion.coverNotes)
         notes.append(QString::fromStdString(note));
     if (motion.whole.cover == MotionCover::Part)

@@ -17,12 +17,19 @@ constexpr double NoFinding = 15;  // percent: a smaller difference may be chance
 constexpr double BarHeight = 14;  // pixels
 constexpr double ValueWidth = 70; // pixels beside the bars
 
+QString unknownText() {
+    return BalanceView::tr("Side unknown: nothing tells which side of the phone points to the bow. "
+                           "Name its mount in the menu Edit, and left and right are found.");
+}
+
 } // namespace
 
 BalanceView::BalanceView(QWidget* parent) : QWidget(parent) {}
 
-void BalanceView::show(const std::array<SideFigures, 2>& sides) {
+void BalanceView::show(const std::array<SideFigures, 2>& sides, bool isSideKnown) {
     m_sides = sides;
+    m_isSideKnown = isSideKnown;
+    setAccessibleDescription(isSideKnown ? QString() : unknownText());
     update();
 }
 
@@ -56,8 +63,12 @@ void BalanceView::paintEvent(QPaintEvent* /*event*/) {
     painter.setRenderHint(QPainter::Antialiasing);
     const double rowHeight = 2 * fontMetrics().height() + theme::Spacing;
     QRectF area = QRectF(rect()).adjusted(theme::Spacing, theme::SmallSpacing, -theme::Spacing, 0);
-    painter.setFont(theme::captionFont(*this));
     painter.setPen(theme::quietText(palette()));
+    if (!m_isSideKnown) {
+        painter.drawText(area, Qt::AlignCenter | Qt::TextWordWrap, unknownText());
+        return;
+    }
+    painter.setFont(theme::captionFont(*this));
     const double caption = painter.fontMetrics().height() + theme::SmallSpacing;
     painter.drawText(QRectF(area.left(), area.top(), area.width(), caption), Qt::AlignLeft,
                      tr("Left"));

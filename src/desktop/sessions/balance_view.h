@@ -13,7 +13,8 @@ class BalanceView : public QWidget {
 public:
     explicit BalanceView(QWidget* parent = nullptr);
 
-    void show(const std::array<SideFigures, 2>& sides);
+    /// Bars, or why there are none where the sides of the strokes are not known.
+    void show(const std::array<SideFigures, 2>& sides, bool isSideKnown);
     using QWidget::show;
 
     /// "right +11 %", "even", or a dash.
@@ -34,6 +35,7 @@ private:
     void paintRow(QPainter& painter, const QRectF& area, const Row& row) const;
 
     std::array<SideFigures, 2> m_sides;
+    bool m_isSideKnown = true;
 };
 
 } // namespace kavela::desktop

@@ -40,6 +40,7 @@ void Gauge::setNote(const QString& note) {
     if (note == m_note)
         return;
     m_note = note;
+    showAccessibly();
     update();
 }
 
@@ -50,7 +51,7 @@ void Gauge::setLarge(bool isLarge) {
 }
 
 void Gauge::showAccessibly() {
-    setAccessibleName(m_name + ": " + text());
+    setAccessibleName(m_name + ": " + text() + (m_note.isEmpty() ? "" : ", " + m_note));
 }
 
 QString Gauge::text() const {

@@ -2,6 +2,7 @@
 
 #include "desktop/sessions/gauge.h"
 #include "desktop/sessions/session_series.h"
+#include "desktop/sessions/session_texts.h"
 #include "desktop/shell/theme.h"
 #include "desktop/shell/workspace.h"
 
@@ -80,9 +81,7 @@ void GaugeRow::showMoment(const EditedSession& session, const SessionFigures& fi
                                     : std::nullopt);
     QString hand;
     if (const auto place = strokeMadeAt(figures, moment))
-        hand = session.session.strokesData[figures.strokes[*place].entry].stroke.hand == 0
-                   ? tr("left")
-                   : tr("right");
+        hand = sideText(session.session.strokesData[figures.strokes[*place].entry].stroke.hand);
     m_rate->setNote(hand);
 }
 

@@ -1,5 +1,6 @@
 #include "desktop/sessions/session_actions.h"
 
+#include "desktop/motion/mount_names.h"
 #include "desktop/sessions/course_map.h"
 #include "desktop/sessions/replay.h"
 #include "desktop/sessions/session_view.h"
@@ -65,12 +66,32 @@ void fillFileMenu(SessionWindow& window, QMenu& menu) {
         [&window] { window.askAndExport(SessionTables::MetersPage); });
 }
 
+/// Which side of the phone points to the bow. Also offered where it is not known.
+void addMounts(SessionWindow& window, QMenu& menu) {
+    QMenu* const mounts = menu.addMenu(tr("Mount of the p&hone"));
+    const QStringList names = mountNames();
+    for (int i = -1; i < names.size(); ++i) {
+        const auto mount = i < 0 ? std::nullopt : std::optional(static_cast<Mount>(i));
+        QAction* const action = mounts->addAction(i < 0 ? tr("Found from the position") : names[i]);
+        action->setCheckable(true);
+        QObject::connect(mounts, &QMenu::aboutToShow, action, [action, &window, mount] {
+            action->setChecked(window.document().value().mount == mount);
+        });
+        QObject::connect(action, &QAction::triggered, &window,
+                         [&window, mount] { window.nameMount(mount); });
+    }
+    enableWhile(menu, mounts->menuAction(),
+                [&window] { return window.document().value().recording != nullptr; });
+    window.view().setMountMenu(mounts);
+}
+
 void fillEditMenu(SessionWindow& window, QMenu& menu) {
     add(menu, window, tr("Session &information…"), Qt::CTRL | Qt::Key_D,
         [&window] { window.editInformation(); });
     QAction* const again = add(menu, window, tr("&Analyse the recording again"), Qt::Key_F5,
                                [&window] { window.analyseAgain(); });
     enableWhile(menu, again, [&window] { return window.document().value().recording != nullptr; });
+    addMounts(window, menu);
     menu.addSeparator();
     const auto isSelected = [&window] { return window.view().selection().has_value(); };
     enableWhile(menu,

@@ -26,20 +26,23 @@ constexpr std::array AllMeasures{
     SessionMeasure::Power,      SessionMeasure::Speed, SessionMeasure::HeartRate,
     SessionMeasure::Phases,     SessionMeasure::Roll,  SessionMeasure::Pitch};
 
-QString emptyTextOf(SessionMeasure measure) {
-    switch (measure) {
-    case SessionMeasure::HeartRate:
+/// Why a chart has nothing to show.
+QString emptyTextOf(SessionMeasure measure, const EditedSession& session,
+                    const SessionFigures& figures) {
+    const bool needsStrokes = measure != SessionMeasure::HeartRate &&
+                              measure != SessionMeasure::Speed && measure != SessionMeasure::Pitch;
+    const bool needsBow = measure != SessionMeasure::HeartRate &&
+                          measure != SessionMeasure::Speed && measure != SessionMeasure::StrokeRate;
+    if (measure == SessionMeasure::HeartRate)
         return SessionCharts::tr("none was recorded");
-    case SessionMeasure::Speed:
-    case SessionMeasure::Force:
-    case SessionMeasure::Impulse:
-    case SessionMeasure::Power:
-        return SessionCharts::tr("not known, since there are no positions that tell the speed");
-    case SessionMeasure::Pitch:
+    if (measure == SessionMeasure::Pitch && figures.turns.empty())
         return SessionCharts::tr("there are no turns");
-    default:
+    if (needsStrokes && figures.strokes.empty())
         return SessionCharts::tr("there are no strokes");
-    }
+    if (needsBow && !session.isBowKnown)
+        return SessionCharts::tr("not known, since nothing tells which side of the phone points "
+                                 "to the bow");
+    return SessionCharts::tr("not known, since there are no positions that tell the speed");
 }
 
 bool hasValues(const std::vector<SensorSeries>& series) {
@@ -191,7 +194,7 @@ void SessionCharts::tellEmpty() {
     for (const Lane& lane : m_lanes) {
         if (std::ranges::count(m_measures, lane.measure) == 0 || lane.hasValues)
             continue;
-        const QString reason = emptyTextOf(lane.measure);
+        const QString reason = emptyTextOf(lane.measure, m_session, m_figures);
         auto known = std::ranges::find(reasons, reason, &std::pair<QString, QStringList>::first);
         if (known == reasons.end())
             known = reasons.insert(reasons.end(), {reason, {}});

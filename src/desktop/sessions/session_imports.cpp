@@ -20,13 +20,10 @@ namespace kavela::desktop {
 
 namespace {
 
-EditedSession analysed(bmrawdata_v5 recording, QWidget* over) {
+EditedSession analysed(bmrawdata_v5 recording, std::optional<Mount> mount, QWidget* over) {
     EditedSession session;
-    doBeside(over, conversion_messages::Converting, [&] {
-        auto shared = std::make_shared<const bmrawdata_v5>(std::move(recording));
-        const MotionAnalysis analysis = analyseMotion(*shared, profileOf(shared->athleteinfo));
-        session = editedSession(std::move(shared), analysis);
-    });
+    doBeside(over, conversion_messages::Converting,
+             [&] { session = analysedSession(std::move(recording), mount); });
     return session;
 }
 
@@ -105,7 +102,7 @@ void SessionWindow::showImported(bmrawdata_v5 recording, const QString& path) {
     if (!mayLeave())
         return;
     const QScopedValueRollback busy(m_isBusy, true);
-    EditedSession session = analysed(std::move(recording), this);
+    EditedSession session = analysed(std::move(recording), std::nullopt, this);
     m_watchTrack.reset();
     m_recordingPath = QFileInfo(path).path() + '/' + QFileInfo(path).completeBaseName() + ".kvb";
     m_view->select(std::nullopt);
@@ -161,7 +158,7 @@ void SessionWindow::joinTrack(bmrawdata_v5 recording, WatchTrack track, const QS
     const JoinedTrack joined = joinRecording(recording, track.track, track.offset);
     if (joined.fixes > 0 || joined.heart > 0) {
         const QScopedValueRollback busy(m_isBusy, true);
-        EditedSession again = analysed(std::move(recording), this);
+        EditedSession again = analysed(std::move(recording), m_document->value().mount, this);
         m_document->edit(what, [&](EditedSession& session) {
             again.powerMeter = std::move(session.powerMeter);
             setMarks(again, std::move(session.marks));

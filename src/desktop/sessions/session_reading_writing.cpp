@@ -34,11 +34,9 @@ EditedSession convert(const QString& path, const DiagnosticLog& log, QWidget* ov
     EditedSession session;
     std::size_t samples = 0;
     doBeside(over, conversion_messages::Converting, [&] {
-        auto recording = std::make_shared<const bmrawdata_v5>(readRawSession(path.toStdString()));
-        samples = recording->boatmotion.size();
-        const MotionAnalysis analysis =
-            analyseMotion(*recording, profileOf(recording->athleteinfo));
-        session = editedSession(std::move(recording), analysis);
+        bmrawdata_v5 recording = readRawSession(path.toStdString());
+        samples = recording.boatmotion.size();
+        session = analysedSession(std::move(recording), std::nullopt);
     });
     log(conversion_messages::Count + QFileInfo(path).fileName().toStdString() + ' ' +
         std::to_string(samples));
@@ -134,22 +132,26 @@ bool SessionWindow::importPowerMeter(const QString& path) {
 }
 
 void SessionWindow::analyseAgain() {
+    analyseWith(tr("new analysis"), m_document->value().mount);
+}
+
+void SessionWindow::nameMount(std::optional<Mount> mount) {
+    analyseWith(tr("mount of the phone"), mount);
+}
+
+void SessionWindow::analyseWith(const QString& what, std::optional<Mount> mount) {
     if (m_isBusy || !m_document->value().recording)
         return;
     EditedSession again;
     try {
         const QScopedValueRollback busy(m_isBusy, true);
-        doBeside(this, conversion_messages::Converting, [&] {
-            auto recording = std::make_shared<const bmrawdata_v5>(recordingOf(m_document->value()));
-            const MotionAnalysis analysis =
-                analyseMotion(*recording, profileOf(recording->athleteinfo));
-            again = editedSession(std::move(recording), analysis);
-        });
+        doBeside(this, conversion_messages::Converting,
+                 [&] { again = analysedSession(recordingOf(m_document->value()), mount); });
     } catch (const MotionError& error) {
         tell(conversion_messages::NotConverted, QString::fromStdString(error.what()));
         return;
     }
-    m_document->edit(tr("new analysis"), [&](EditedSession& session) {
+    m_document->edit(what, [&](EditedSession& session) {
         again.powerMeter = std::move(session.powerMeter);
         setMarks(again, std::move(session.marks));
         session = std::move(again);

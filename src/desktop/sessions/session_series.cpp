@@ -81,11 +81,22 @@ std::vector<SensorSeries> powers(const EditedSession& session, const SessionFigu
     return series;
 }
 
+/// What of a stroke is known only with the bow.
+ValueOfStroke withBow(const EditedSession& session, double smartStraight_v3::*value,
+                      double factor = 1) {
+    return [isKnown = session.isBowKnown, value,
+            factor](const StrokeFigures&, const smartStraight_v3& stroke) -> std::optional<double> {
+        if (!isKnown)
+            return std::nullopt;
+        return stroke.*value * factor;
+    };
+}
+
 std::vector<SensorSeries> phases(const EditedSession& session, const SessionFigures& figures) {
     return {strokeCurve(session, figures, tr("Water phase"), tr("s"), 0,
-                        [](const auto&, const auto& stroke) { return stroke.waterPhase; }),
+                        withBow(session, &smartStraight_v3::waterPhase)),
             strokeCurve(session, figures, tr("Aerial phase"), tr("s"), 1,
-                        [](const auto&, const auto& stroke) { return stroke.aerealPhase; })};
+                        withBow(session, &smartStraight_v3::aerealPhase))};
 }
 
 SensorSeries speed(const SessionFigures& figures) {
@@ -105,8 +116,9 @@ SensorSeries heart(const SessionFigures& figures) {
 SensorSeries pitch(const EditedSession& session, const SessionFigures& figures) {
     Curve curve(figures.moments.from);
     for (const TurnFigures& turn : figures.turns)
-        curve.add(turn.time,
-                  session.session.strokesData[turn.entry].rotation.avePitch * DegreesPerRadian);
+        if (session.isBowKnown)
+            curve.add(turn.time,
+                      session.session.strokesData[turn.entry].rotation.avePitch * DegreesPerRadian);
     return curve.series(tr("Pitch in turns"), tr("°"), 4);
 }
 
@@ -131,9 +143,8 @@ std::vector<SensorSeries> seriesFor(SessionMeasure measure, const EditedSession&
     case SessionMeasure::Phases:
         return phases(session, figures);
     case SessionMeasure::Roll:
-        return {strokeCurve(
-            session, figures, tr("Roll of the stroke"), tr("°"), 3,
-            [](const auto&, const auto& stroke) { return stroke.roll * DegreesPerRadian; })};
+        return {strokeCurve(session, figures, tr("Roll of the stroke"), tr("°"), 3,
+                            withBow(session, &smartStraight_v3::roll, DegreesPerRadian))};
     case SessionMeasure::Pitch:
         return {pitch(session, figures)};
     }

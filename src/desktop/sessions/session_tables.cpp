@@ -105,7 +105,7 @@ void SessionTables::show(const EditedSession& session, const SessionFigures& fig
     m_strokes->show(strokeGrid(session, figures));
     m_turns->show(turnGrid(session, figures));
     m_segments->show(segmentGrid(figures));
-    m_balance->show(figures.sides);
+    m_balance->show(figures.sides, session.isBowKnown);
     showMeters();
     m_isFollowing = false;
     setTabText(StrokePage, tr("Strokes (%1)").arg(figures.strokes.size()));

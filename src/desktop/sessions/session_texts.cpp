@@ -24,6 +24,12 @@ QString valueText(std::optional<double> value, int decimals) {
     return QString::number(std::round(*value * scale) / scale + 0.0, 'f', decimals);
 }
 
+QString sideText(std::int64_t hand) {
+    if (hand == LeftHand)
+        return tr("left");
+    return hand == RightHand ? tr("right") : tr("side unknown");
+}
+
 QString cellText(const Cell& cell, int decimals) {
     if (const std::string* const text = std::get_if<std::string>(&cell))
         return QString::fromStdString(*text);
@@ -41,10 +47,11 @@ QString sessionTitle(const infosessionSmart_v3& info) {
 
 QStringList remarksOn(const EditedSession& edited) {
     QStringList remarks;
-    for (const MotionFlag flag : edited.flags) {
-        const std::string_view text = textOf(flag);
-        remarks.append(QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())));
-    }
+    for (const std::string& note : edited.notes)
+        remarks.append(QString::fromStdString(note));
+    if (!edited.isBowKnown && edited.notes.empty())
+        remarks.append(tr("Side unknown: when the session was made, it was not known which side of "
+                          "the phone points to the bow."));
     if (edited.isClockGuessed && !edited.session.gps.empty())
         remarks.append(tr("The file does not tell how the clocks of strokes and fixes go together: "
                           "they were fitted by the turns and may be some seconds apart."));

@@ -12,6 +12,9 @@ inline constexpr char16_t Dash = u'–';
 /// "52.5", or a dash.
 [[nodiscard]] QString valueText(std::optional<double> value, int decimals);
 
+/// "left", "right", or "side unknown".
+[[nodiscard]] QString sideText(std::int64_t hand);
+
 /// A cell of a table as the screen shows it.
 [[nodiscard]] QString cellText(const Cell& cell, int decimals);
 

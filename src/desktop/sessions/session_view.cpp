@@ -18,6 +18,7 @@
 #include <QPushButton>
 #include <QSplitter>
 #include <QStyle>
+#include <QToolButton>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -36,13 +37,17 @@ ChartContent rateScatter(const EditedSession& session, const SessionFigures& fig
     content.yTitle = SessionView::tr("Speed (m/s)");
     content.emptyText = SessionView::tr("The speed of the strokes is not known.");
     const auto points = ChartSeries::Form::Points;
-    content.series = {{.name = SessionView::tr("Left"), .points = {}, .form = points},
-                      {.name = SessionView::tr("Right"), .points = {}, .form = points, .slot = 1}};
+    content.series = {
+        {.name = SessionView::tr("Left"), .points = {}, .form = points},
+        {.name = SessionView::tr("Right"), .points = {}, .form = points, .slot = 1},
+        {.name = SessionView::tr("Side unknown"), .points = {}, .form = points, .slot = 2}};
     for (const StrokeFigures& stroke : figures.strokes) {
-        const bool isLeft = session.session.strokesData[stroke.entry].stroke.hand == 0;
+        const std::int64_t hand = session.session.strokesData[stroke.entry].stroke.hand;
+        const std::size_t side = hand == LeftHand ? 0 : hand == RightHand ? 1 : 2;
         if (stroke.speed)
-            content.series[isLeft ? 0 : 1].points.emplace_back(stroke.rate, *stroke.speed);
+            content.series[side].points.emplace_back(stroke.rate, *stroke.speed);
     }
+    std::erase_if(content.series, [](const ChartSeries& series) { return series.points.empty(); });
     return content;
 }
 
@@ -135,6 +140,11 @@ QWidget* SessionView::makeRemarks() {
     row->setSpacing(theme::Spacing);
     row->addWidget(icon, 0, Qt::AlignTop);
     row->addWidget(m_remarks, 1);
+    m_nameMount = new QToolButton;
+    m_nameMount->setObjectName("nameMount");
+    m_nameMount->setText(tr("Name the phone's mount"));
+    m_nameMount->setPopupMode(QToolButton::InstantPopup);
+    row->addWidget(m_nameMount, 0, Qt::AlignTop);
     return m_remarkRow;
 }
 
@@ -230,6 +240,7 @@ void SessionView::showTitle() {
     const QStringList remarks = remarksOn(m_session);
     m_remarks->setText(remarks.join(' '));
     m_remarkRow->setVisible(!remarks.isEmpty());
+    m_nameMount->setVisible(!m_session.isBowKnown && m_session.recording);
 }
 
 void SessionView::showRememberedMeasures() {
@@ -259,6 +270,10 @@ void SessionView::showPowerMeter() {
         return;
     measures.push_back(SessionMeasure::Power);
     m_charts->setMeasures(std::move(measures));
+}
+
+void SessionView::setMountMenu(QMenu* menu) {
+    m_nameMount->setMenu(menu);
 }
 
 QString SessionView::remarks() const {

@@ -9,6 +9,7 @@
 
 class QComboBox;
 class QLabel;
+class QMenu;
 class QSplitter;
 class QToolButton;
 
@@ -47,7 +48,9 @@ public:
     [[nodiscard]] SessionTables& tables() const { return *m_tables; }
     /// Shows these charts, also in windows to come.
     void chooseMeasures(const std::vector<SessionMeasure>& measures);
-    /// What is said about the session beside its title.
+    /// Offered where it is not known which side of the phone points to the bow.
+    void setMountMenu(QMenu* menu);
+    /// What is said about the session below its title.
     [[nodiscard]] QString remarks() const;
 
 signals:
@@ -78,6 +81,7 @@ private:
     QLabel* m_title = nullptr;
     QLabel* m_remarks = nullptr;
     QWidget* m_remarkRow = nullptr;
+    QToolButton* m_nameMount = nullptr;
     GaugeRow* m_gauges;
     SessionCharts* m_charts;
     SeriesChart* m_scatter;

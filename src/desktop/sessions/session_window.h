@@ -65,6 +65,9 @@ public:
 
     void editInformation();
     void analyseAgain();
+    /// Says which side of the phone points to the bow, or leaves it to the positions, and looks for
+    /// the strokes again.
+    void nameMount(std::optional<Mount> mount);
     void keepSelection();
     void removeSelection();
     /// Takes out the strokes or turns that are selected in the table in front; the mark at the
@@ -113,6 +116,7 @@ private:
         }
     };
     void join(ImportedTrack track);
+    void analyseWith(const QString& what, std::optional<Mount> mount);
     void joinTrack(bmrawdata_v5 recording, WatchTrack track, const QString& what);
     [[nodiscard]] std::optional<double> askForOffset(const bmrawdata_v5& recording,
                                                      const WatchTrack& track);

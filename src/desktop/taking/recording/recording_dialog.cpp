@@ -13,6 +13,7 @@
 #include <QHBoxLayout>
 #include <QPushButton>
 #include <QScrollArea>
+#include <QStyle>
 
 #include <array>
 #include <cmath>
@@ -402,11 +403,14 @@ void RecordingDialog::attach() {
 
 void RecordingDialog::placeBeside(const QRect& kept, const QRect& screen) {
     const QSize least = minimumSizeHint();
+    const int title = style()->pixelMetric(QStyle::PM_TitleBarHeight);
     QRect best;
     for (const QRect& strip : stripsAround(kept, screen)) {
-        const bool fits = strip.width() >= least.width() && strip.height() >= least.height();
-        if (fits && qint64(strip.width()) * strip.height() > qint64(best.width()) * best.height())
-            best = strip;
+        const QRect inside = strip.adjusted(0, title, 0, 0);
+        const bool fits = inside.width() >= least.width() && inside.height() >= least.height();
+        const auto areaOf = [](const QRect& rect) { return qint64(rect.width()) * rect.height(); };
+        if (fits && areaOf(inside) > areaOf(best))
+            best = inside;
     }
     const QSize size = Usual.boundedTo(best.isValid() ? best.size() : screen.size());
     if (!best.isValid())

@@ -66,8 +66,8 @@ LoadedRecording loadedRecording(std::string name, bmrawdata_v5 session) {
         recording.times = shared(std::move(analysis.series.time));
         recording.forward = shared(std::move(analysis.series.forward));
         recording.yawRate = shared(std::move(analysis.series.yawRate));
-        for (const MotionFlag flag : analysis.flags)
-            recording.note += (recording.note.empty() ? "" : "\n") + std::string(textOf(flag));
+        for (const std::string& note : notesOf(analysis))
+            recording.note += (recording.note.empty() ? "" : "\n") + note;
     } catch (const MotionError& error) {
         showAccelerations(recording);
         recording.note = error.what();
