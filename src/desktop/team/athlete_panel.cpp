@@ -1,6 +1,7 @@
 #include "desktop/team/athlete_panel.h"
 
 #include "common/folded_text.h"
+#include "desktop/shell/edit_order.h"
 #include "desktop/shell/theme.h"
 #include "desktop/team/team_document.h"
 
@@ -62,7 +63,7 @@ AthletePanel::AthletePanel(TeamDocument& document, QWidget* parent)
       m_shown(new AthleteFilter(this)),
       m_search(new QLineEdit),
       m_category(new QComboBox),
-      m_table(new QTableView) {
+      m_table(new EditOrder<QTableView>) {
     m_search->setObjectName("search");
     m_search->setPlaceholderText(tr("Search athletes"));
     m_search->setToolTip(tr("Ctrl+F"));
@@ -93,7 +94,7 @@ void AthletePanel::makeTable() {
     m_table->setSelectionMode(QAbstractItemView::SingleSelection);
     m_table->setShowGrid(false);
     m_table->setWordWrap(false);
-    m_table->setTabKeyNavigation(false);
+    m_table->setTabKeyNavigation(false); // the list is gone through with the arrows
     m_table->setSortingEnabled(true);
     m_table->sortByColumn(AthleteModel::NameColumn, Qt::AscendingOrder);
     m_table->verticalHeader()->hide();

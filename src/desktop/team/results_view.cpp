@@ -1,5 +1,6 @@
 #include "desktop/team/results_view.h"
 
+#include "desktop/shell/edit_order.h"
 #include "desktop/shell/theme.h"
 #include "desktop/team/event_delegate.h"
 #include "desktop/team/season_tree.h"
@@ -109,12 +110,12 @@ void ResultsView::makeTree() {
 
 void ResultsView::makeRuns() {
     m_race = new QLabel;
+    m_race->setObjectName("race");
     m_race->setTextFormat(Qt::PlainText);
-    m_runs = new QTableView;
+    m_runs = new EditOrder<QTableView>;
     m_runs->setObjectName("runs");
     m_runs->setModel(&m_phases);
     m_runs->setEditTriggers(EditKeys);
-    m_runs->setTabKeyNavigation(false);
     m_runs->setSelectionMode(QAbstractItemView::SingleSelection);
     m_runs->verticalHeader()->hide();
     m_runs->verticalHeader()->setDefaultSectionSize(fontMetrics().height() + theme::Spacing);
@@ -174,6 +175,7 @@ void ResultsView::showDocument() {
         showAthlete(athlete, m_seasons.category());
     else
         fillTabs();
+    showHeading();
     emit placeChanged();
 }
 
@@ -235,6 +237,12 @@ void ResultsView::keepPlace() {
 void ResultsView::showPlace() {
     m_place = place();
     m_phases.show(m_place);
+    showHeading();
+    emit placeChanged();
+}
+
+/// What the runs below belong to.
+void ResultsView::showHeading() {
     m_race->setText(tr("Choose a race to see and edit its runs."));
     if (const mtCatsStruct* const results = m_seasons.results(); results && m_place) {
         const mtSeasonStruct& season = results->seasons[m_place->season];
@@ -245,7 +253,6 @@ void ResultsView::showPlace() {
                             QString::number(season.year));
         }
     }
-    emit placeChanged();
 }
 
 void ResultsView::edit(const QString& what, const std::function<void(mtCatsStruct&)>& change) {

@@ -60,6 +60,7 @@ private:
     void fillTabs();
     void showPlace();
     void showHint();
+    void showHeading();
     void keepPlace();
     void openSeasons();
     void edit(const QString& what, const std::function<void(mtCatsStruct&)>& change);

@@ -191,7 +191,7 @@ QVariant SeasonModel::headerData(int section, Qt::Orientation orientation, int r
         return {};
     if (isPhaseColumn(section))
         return tr(phaseOf(section));
-    return QStringList{tr("Season, race"), tr("Location"), tr("Final"), tr("Rank"), tr("Points")}
+    return QStringList{tr("Season, race"), tr("Location"), tr("Place"), tr("Rank"), tr("Points")}
         .value(section);
 }
 

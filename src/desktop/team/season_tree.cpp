@@ -6,7 +6,7 @@ QModelIndex SeasonTree::moveCursor(CursorAction action, Qt::KeyboardModifiers mo
     const QModelIndex current = currentIndex();
     const bool isSideways = action == MoveLeft || action == MoveRight;
     if (!isSideways || !current.isValid())
-        return QTreeView::moveCursor(action, modifiers);
+        return EditOrder::moveCursor(action, modifiers);
     const bool isFirst = current.column() == 0;
     if (isFirst && action == MoveLeft) {
         collapse(current);

@@ -134,7 +134,7 @@ QStringList numbered(const QString& title, std::size_t count) {
     return titles;
 }
 
-EntryTable::EntryTable(EntryModel& model, QWidget* parent) : QTableView(parent) {
+EntryTable::EntryTable(EntryModel& model, QWidget* parent) : EditOrder(parent) {
     setModel(&model);
     setEditTriggers(QAbstractItemView::AnyKeyPressed | QAbstractItemView::DoubleClicked |
                     QAbstractItemView::EditKeyPressed);
@@ -149,13 +149,13 @@ EntryTable::EntryTable(EntryModel& model, QWidget* parent) : QTableView(parent) 
 /// High enough for the rows of most tests, so that they need no scrolling.
 QSize EntryTable::sizeHint() const {
     const int rows = std::clamp(model()->rowCount(), 5, 14);
-    return {QTableView::sizeHint().width(), horizontalHeader()->sizeHint().height() +
-                                                rows * verticalHeader()->defaultSectionSize() +
-                                                2 * frameWidth()};
+    return {EditOrder::sizeHint().width(), horizontalHeader()->sizeHint().height() +
+                                               rows * verticalHeader()->defaultSectionSize() +
+                                               2 * frameWidth()};
 }
 
 void EntryTable::closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint hint) {
-    QTableView::closeEditor(editor, hint);
+    EditOrder::closeEditor(editor, hint);
     if (hint == QAbstractItemDelegate::SubmitModelCache && currentIndex().isValid() &&
         currentIndex().row() + 1 < model()->rowCount())
         setCurrentIndex(currentIndex().siblingAtRow(currentIndex().row() + 1));

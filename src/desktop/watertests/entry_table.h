@@ -1,7 +1,8 @@
 #pragma once
 
+#include "desktop/shell/edit_order.h"
+
 #include <QAbstractTableModel>
-#include <QTableView>
 
 #include <vector>
 
@@ -54,7 +55,7 @@ private:
 [[nodiscard]] QStringList numbered(const QString& title, std::size_t count);
 
 /// A table to type numbers into: a digit begins, Enter goes on to the next row.
-class EntryTable : public QTableView {
+class EntryTable : public EditOrder<QTableView> {
     Q_OBJECT
 
 public:

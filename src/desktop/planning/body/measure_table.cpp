@@ -1,5 +1,6 @@
 #include "desktop/planning/body/measure_table.h"
 
+#include "desktop/shell/edit_order.h"
 #include "desktop/shell/theme.h"
 
 #include <QAction>
@@ -18,7 +19,7 @@ MeasureTable::MeasureTable(std::vector<MeasureColumn> columns, const QString& ad
                            QWidget* parent)
     : QWidget(parent),
       m_model(std::move(columns)),
-      m_view(new QTableView),
+      m_view(new EditOrder<QTableView>),
       m_empty(new QLabel),
       m_stack(new QStackedWidget),
       m_buttons(new QHBoxLayout),
@@ -58,7 +59,6 @@ void MeasureTable::makeView() {
     m_view->setShowGrid(false);
     m_view->setAlternatingRowColors(true);
     m_view->setWordWrap(false);
-    m_view->setTabKeyNavigation(false);
     m_view->setEditTriggers(QAbstractItemView::DoubleClicked | QAbstractItemView::EditKeyPressed |
                             QAbstractItemView::AnyKeyPressed);
     m_view->verticalHeader()->hide();

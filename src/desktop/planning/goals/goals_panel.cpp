@@ -1,6 +1,7 @@
 #include "desktop/planning/goals/goals_panel.h"
 
 #include "desktop/planning/goals/goal_delegate.h"
+#include "desktop/shell/edit_order.h"
 #include "desktop/shell/theme.h"
 
 #include <QAction>
@@ -49,7 +50,7 @@ QString newText(Kind kind) {
 
 GoalsPanel::GoalsPanel(PlanningDocument& document, QWidget* parent)
     : SeasonPanel(document, parent),
-      m_tree(new QTreeWidget),
+      m_tree(new EditOrder<QTreeWidget>),
       m_empty(new QLabel),
       m_stack(new QStackedWidget) {
     makeTree();

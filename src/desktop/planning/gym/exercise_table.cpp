@@ -3,6 +3,7 @@
 #include "common/number_text.h"
 #include "desktop/planning/body/typed_measures.h"
 #include "desktop/planning/gym/exercise_delegate.h"
+#include "desktop/shell/edit_order.h"
 #include "desktop/shell/theme.h"
 #include "planning/gym_maximum.h"
 
@@ -42,7 +43,7 @@ ExerciseTable::ExerciseTable(const DiagnosticLog& log, QWidget* parent)
     : QWidget(parent),
       m_model(log),
       m_delegate(new ExerciseDelegate(this)),
-      m_view(new QTableView),
+      m_view(new EditOrder<QTableView>),
       m_empty(new QLabel),
       m_stack(new QStackedWidget),
       m_add(new QPushButton(tr("Add exercise"))),
@@ -76,7 +77,6 @@ void ExerciseTable::makeView() {
     m_view->setShowGrid(false);
     m_view->setAlternatingRowColors(true);
     m_view->setWordWrap(false);
-    m_view->setTabKeyNavigation(false);
     m_view->setEditTriggers(QAbstractItemView::DoubleClicked | QAbstractItemView::EditKeyPressed |
                             QAbstractItemView::AnyKeyPressed);
     m_view->verticalHeader()->hide();

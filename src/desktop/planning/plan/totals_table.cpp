@@ -28,7 +28,7 @@ QString doneText(const CategoryTotal& total) {
 
 } // namespace
 
-TotalsTable::TotalsTable(QWidget* parent) : QTableWidget(parent) {
+TotalsTable::TotalsTable(QWidget* parent) : EditOrder(parent) {
     setColumnCount(ColumnCount);
     setHorizontalHeaderLabels({tr("Category"), tr("Sessions"), tr("planned"), tr("Quantity"),
                                tr("planned"), tr("In the sessions")});
@@ -41,7 +41,6 @@ TotalsTable::TotalsTable(QWidget* parent) : QTableWidget(parent) {
     horizontalHeader()->setSectionResizeMode(CategoryColumn, QHeaderView::Stretch);
     setShowGrid(false);
     setAlternatingRowColors(true);
-    setTabKeyNavigation(false);
     connect(this, &QTableWidget::itemChanged, this, [this](QTableWidgetItem* item) {
         if (!m_isFilling)
             take(*item);

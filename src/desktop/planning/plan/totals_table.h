@@ -1,5 +1,6 @@
 #pragma once
 
+#include "desktop/shell/edit_order.h"
 #include "planning/week_totals.h"
 
 #include <QTableWidget>
@@ -8,7 +9,7 @@ namespace kavela::desktop {
 
 /// Totals per training category: what the sessions add up to, beside what was planned. The planned
 /// columns of a single week can be typed in.
-class TotalsTable : public QTableWidget {
+class TotalsTable : public EditOrder<QTableWidget> {
     Q_OBJECT
 
 public:

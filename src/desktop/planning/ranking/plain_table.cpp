@@ -1,5 +1,6 @@
 #include "desktop/planning/ranking/plain_table.h"
 
+#include "desktop/shell/edit_order.h"
 #include "desktop/shell/theme.h"
 
 #include <QHeaderView>
@@ -22,14 +23,14 @@ void set(QTableWidget& table, int row, int column, const QString& text, Qt::Alig
 } // namespace
 
 QTableWidget* plainTable(const QStringList& titles) {
-    auto* const table = new QTableWidget(0, static_cast<int>(titles.size()));
+    auto* const table = new EditOrder<QTableWidget>;
+    table->setColumnCount(static_cast<int>(titles.size()));
     table->setHorizontalHeaderLabels(titles);
     table->setEditTriggers(QAbstractItemView::NoEditTriggers);
     table->setSelectionBehavior(QAbstractItemView::SelectRows);
     table->setShowGrid(false);
     table->setAlternatingRowColors(true);
     table->setWordWrap(false);
-    table->setTabKeyNavigation(false);
     table->verticalHeader()->hide();
     table->verticalHeader()->setDefaultSectionSize(table->fontMetrics().height() + theme::Spacing);
     table->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
