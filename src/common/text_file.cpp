@@ -8,6 +8,7 @@
 #include <fcntl.h>
 #include <sys/stat.h>
 
+#include <algorithm>
 #include <array>
 #include <cerrno>
 
@@ -44,19 +45,73 @@ std::string contentOf(const PosixFile& file) {
     }
 }
 
-} // namespace
-
-std::string readTextFile(const std::filesystem::path& path) {
-    constexpr std::string_view ByteOrderMark = "\xEF\xBB\xBF";
+std::string bytesOf(const std::filesystem::path& path) {
     // Not waiting for a writer, should somebody name a pipe.
     const PosixFile file(path, O_RDONLY | O_NONBLOCK);
     checkOrdinary(file);
-    std::string text = contentOf(file);
-    if (!simdjson::validate_utf8(text))
-        throw DecodeError({{}, "the file is not UTF-8 text"});
+    return contentOf(file);
+}
+
+std::string withoutMark(std::string text) {
+    constexpr std::string_view ByteOrderMark = "\xEF\xBB\xBF";
     if (text.starts_with(ByteOrderMark))
         text.erase(0, ByteOrderMark.size());
     return text;
+}
+
+/// What Windows writes for the bytes 0x80 to 0x9F; 0 where it has nothing.
+constexpr std::array<char16_t, 32> WindowsLetters{
+    u'€', 0,    u'‚', u'ƒ', u'„', u'…', u'†', u'‡', u'ˆ', u'‰', u'Š', u'‹', u'Œ', 0, u'Ž', 0,
+    0,    u'‘', u'’', u'“', u'”', u'•', u'–', u'—', u'˜', u'™', u'š', u'›', u'œ', 0, u'ž', u'Ÿ'};
+
+/// A spreadsheet's own file has bytes that no list has.
+bool isText(std::string_view bytes) {
+    return std::ranges::none_of(bytes, [](char c) {
+        return static_cast<unsigned char>(c) < ' ' && c != '\t' && c != '\r' && c != '\n';
+    });
+}
+
+void appendUtf8(std::string& text, char16_t letter) {
+    const auto byte = [&](unsigned bits) { text += static_cast<char>(bits); };
+    if (letter < 0x80) {
+        byte(letter);
+    } else if (letter < 0x800) {
+        byte(0xC0U | (letter >> 6U));
+        byte(0x80U | (letter & 0x3FU));
+    } else {
+        byte(0xE0U | (letter >> 12U));
+        byte(0x80U | ((letter >> 6U) & 0x3FU));
+        byte(0x80U | (letter & 0x3FU));
+    }
+}
+
+std::string fromLatin1(std::string_view bytes) {
+    std::string text;
+    for (const char c : bytes) {
+        const auto byte = static_cast<unsigned char>(c);
+        const bool isWindows = byte >= 0x80 && byte < 0xA0;
+        const char16_t letter = isWindows ? WindowsLetters.at(byte - 0x80U) : char16_t{byte};
+        appendUtf8(text, letter == 0 ? u'\uFFFD' : letter);
+    }
+    return text;
+}
+
+} // namespace
+
+std::string readTextFile(const std::filesystem::path& path) {
+    std::string text = bytesOf(path);
+    if (!simdjson::validate_utf8(text))
+        throw DecodeError({{}, "the file is not UTF-8 text"});
+    return withoutMark(std::move(text));
+}
+
+ListText readListText(const std::filesystem::path& path) {
+    std::string bytes = bytesOf(path);
+    if (!isText(bytes))
+        throw DecodeError({{}, "the file is no text; save the list as text (CSV) first"});
+    if (simdjson::validate_utf8(bytes))
+        return {withoutMark(std::move(bytes)), false};
+    return {fromLatin1(bytes), true};
 }
 
 } // namespace kavela

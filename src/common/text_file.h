@@ -11,4 +11,14 @@ namespace kavela {
 /// and DecodeError when it is not UTF-8 text.
 [[nodiscard]] std::string readTextFile(const std::filesystem::path& path);
 
+/// A list in UTF-8, however its file writes letters.
+struct ListText {
+    std::string text;
+    bool isLatin1 = false; ///< was no UTF-8 and taken as Latin-1: other letters may be meant
+};
+
+/// The same for lists of people, which older spreadsheets write in Latin-1 (read with what Windows
+/// puts into its unused places, such as Š and Ž). Throws DecodeError for what is no text at all.
+[[nodiscard]] ListText readListText(const std::filesystem::path& path);
+
 } // namespace kavela
