@@ -130,13 +130,17 @@ void computePercentages(selectionracesStruct_v3& document) {
         computeRace(document, race);
 }
 
-void recomputeSelection(selectionracesStruct_v3& document, BonusKind bonus) {
+void computeScores(selectionracesStruct_v3& document, BonusKind bonus) {
     computePercentages(document);
-    for (srCategoryStruct_v3& category : document.categories) {
+    for (srCategoryStruct_v3& category : document.categories)
         for (srAthleteStruct_v3& athlete : category.athletes)
             athlete.result = scoreOf(athlete, document.races.size(), bonus).score;
+}
+
+void recomputeSelection(selectionracesStruct_v3& document, BonusKind bonus) {
+    computeScores(document, bonus);
+    for (srCategoryStruct_v3& category : document.categories)
         std::ranges::stable_sort(category.athletes, {}, &srAthleteStruct_v3::result);
-    }
 }
 
 std::vector<Standing> standings(const srCategoryStruct_v3& category, std::size_t races,

@@ -66,6 +66,9 @@ struct Score {
 /// than races get missing ones. The order of athletes stays.
 void computePercentages(selectionracesStruct_v3& document);
 
+/// Percentages and scores; the order of athletes stays.
+void computeScores(selectionracesStruct_v3& document, BonusKind bonus);
+
 /// The whole recomputation: percentages, scores, and the athletes of each category by score, those
 /// of equal scores in the order they had.
 void recomputeSelection(selectionracesStruct_v3& document, BonusKind bonus);

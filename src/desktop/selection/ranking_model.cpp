@@ -8,6 +8,7 @@
 #include <QFont>
 
 #include <algorithm>
+#include <utility>
 
 namespace kavela::desktop {
 
@@ -23,6 +24,11 @@ QString hundredths(double value) {
     return qtText(hundredthsText(value));
 }
 
+QString resultText(const saRaceStruct& result) {
+    return result.pen > 0 ? QString("%1 (%2)").arg(hundredths(result.resultTime)).arg(result.pen)
+                          : hundredths(result.resultTime);
+}
+
 QString preselectionText(const std::vector<bool>& flags) {
     QStringList groups;
     for (std::size_t group = 0; group < flags.size(); ++group)
@@ -34,21 +40,65 @@ QString preselectionText(const std::vector<bool>& flags) {
 } // namespace
 
 RankingModel::RankingModel(SelectionDocument& document, QObject* parent)
-    : QAbstractTableModel(parent), m_document(document) {
+    : QAbstractTableModel(parent), m_document(document), m_real(document) {
     connect(&m_document, &SelectionDocument::changed, this, &RankingModel::reload);
 }
 
 void RankingModel::setCategory(std::size_t category) {
     m_category = category;
+    m_isKeepingOrder = false;
     reload();
 }
 
+void RankingModel::orderAnew() {
+    if (!m_isKeepingOrder)
+        return;
+    m_isKeepingOrder = false;
+    reload();
+}
+
+RankingModel::Shape RankingModel::shape() const {
+    const srCategoryStruct_v3* const category = categoryShown();
+    return {m_category, category ? category->athletes.size() : 0, races()};
+}
+
+/// A model that is reset forgets the current cell, so it is only where rows or columns came or
+/// went.
 void RankingModel::reload() {
-    beginResetModel();
-    m_standings.clear();
+    std::vector<Standing> ranking;
     if (const srCategoryStruct_v3* const category = categoryShown())
-        m_standings = standings(*category, races(), m_document.bonus(), m_document.times());
+        ranking = standings(*category, races(), m_document.bonus(), m_document.times());
+    m_real.update(m_category);
+    if (shape() == m_shape) {
+        setOrder(std::move(ranking));
+        return;
+    }
+    beginResetModel();
+    m_shape = shape();
+    m_standings = std::move(ranking);
+    m_isKeepingOrder = false;
     endResetModel();
+}
+
+/// The rows in the order of a ranking of the same athletes, or in the order they have.
+void RankingModel::setOrder(std::vector<Standing> ranking) {
+    if (m_isKeepingOrder) {
+        for (Standing& standing : m_standings)
+            standing = *std::ranges::find(ranking, standing.athlete, &Standing::athlete);
+        if (rowCount() > 0)
+            emit dataChanged(index(0, 0), index(rowCount() - 1, columnCount() - 1));
+        emit headerDataChanged(Qt::Horizontal, 0, columnCount() - 1);
+        return;
+    }
+    emit layoutAboutToBeChanged();
+    const QModelIndexList before = persistentIndexList();
+    QModelIndexList after;
+    const std::vector<Standing> old = std::exchange(m_standings, std::move(ranking));
+    for (const QModelIndex& kept : before)
+        after.append(
+            index(rowOfAthlete(old[static_cast<std::size_t>(kept.row())].athlete), kept.column()));
+    changePersistentIndexList(before, after);
+    emit layoutChanged();
 }
 
 const srCategoryStruct_v3* RankingModel::categoryShown() const {
@@ -73,6 +123,21 @@ const Standing& RankingModel::standingOfRow(int row) const {
     return m_standings.at(static_cast<std::size_t>(row));
 }
 
+std::optional<Standing> RankingModel::realStandingOfRow(int row) const {
+    return m_real.standingOf(athleteAt(row).name);
+}
+
+/// Whether a result is one that was only tried.
+bool RankingModel::isAssumed(int row, std::size_t race) const {
+    const saRaceStruct* const real = m_real.resultOf(athleteAt(row).name, race);
+    const auto& results = athleteAt(row).racedata;
+    if (!real || race >= results.size())
+        return false;
+    const saRaceStruct& shown = results[race];
+    return shown.resultTime != real->resultTime || shown.pen != real->pen ||
+           shown.xTime != real->xTime;
+}
+
 const srAthleteStruct_v3& RankingModel::athleteAt(int row) const {
     return categoryShown()->athletes[athleteOfRow(row)];
 }
@@ -91,11 +156,20 @@ int RankingModel::columnCount(const QModelIndex& parent) const {
     return parent.isValid() ? 0 : LeadingColumns + RaceColumns * static_cast<int>(races());
 }
 
+/// What a place would be, and what it is.
+QString RankingModel::rankText(int row) const {
+    const std::int64_t rank = standingOfRow(row).rank;
+    const auto real = realStandingOfRow(row);
+    if (!real || real->rank == rank)
+        return QString::number(rank);
+    return tr("%1 (was %2)").arg(rank).arg(real->rank);
+}
+
 QString RankingModel::leadingText(int row, int column) const {
     const srAthleteStruct_v3& athlete = athleteAt(row);
     switch (column) {
     case RankColumn:
-        return QString::number(standingOfRow(row).rank);
+        return rankText(row);
     case NameColumn:
         return qtText(athlete.name);
     case ScoreColumn:
@@ -124,12 +198,16 @@ QString RankingModel::raceText(int row, std::size_t race, int part, int role) co
     switch (part) {
     case TimeColumn: {
         const double time = isExpected ? result.xTime : result.resultTime;
+        if (time == MissingTime)
+            return role == Qt::DisplayRole ? "–" : QString();
         return role == Qt::DisplayRole ? hundredths(time) : qtText(shortestText(time));
     }
     case PenaltyColumn:
         return QString::number(result.pen);
-    default:
-        return hundredths(isExpected ? result.resultxPer : result.resultPer);
+    default: {
+        const double percent = isExpected ? result.resultxPer : result.resultPer;
+        return percent == MissingPercentage ? QString() : hundredths(percent);
+    }
     }
 }
 
@@ -148,35 +226,62 @@ QVariant RankingModel::raceToolTip(int row, std::size_t race) const {
     }
 }
 
+QVariant RankingModel::toolTip(const QModelIndex& index) const {
+    const int row = index.row();
+    const auto race = raceOfColumn(index.column());
+    if (race && isAssumed(row, *race)) {
+        const saRaceStruct& real = *m_real.resultOf(athleteAt(row).name, *race);
+        return tr("Tried only. Really: %1")
+            .arg(isMissing(real) ? tr("no result") : resultText(real));
+    }
+    if (race)
+        return raceToolTip(row, *race);
+    const auto real = realStandingOfRow(row);
+    const double score = standingOfRow(row).score.score;
+    if (index.column() == ScoreColumn && real && real->score.score != score)
+        return tr("was %1, now %2").arg(hundredths(real->score.score), hundredths(score));
+    // A name or a club may be longer than its column.
+    return index.data();
+}
+
+QVariant RankingModel::font(const QModelIndex& index) const {
+    QFont font;
+    const auto race = raceOfColumn(index.column());
+    font.setBold(index.column() == ScoreColumn || index.column() == RankColumn);
+    if (race) {
+        font.setItalic(isAssumed(index.row(), *race));
+        font.setStrikeOut(standingOfRow(index.row()).score.races[*race].fate !=
+                          ResultFate::Counted);
+    }
+    return font;
+}
+
 QVariant RankingModel::data(const QModelIndex& index, int role) const {
     if (!index.isValid())
         return {};
     const int row = index.row();
     const auto race = raceOfColumn(index.column());
-    const int part = (index.column() - LeadingColumns) % RaceColumns;
-    if (role == Qt::DisplayRole || role == Qt::EditRole)
-        return race ? raceText(row, *race, part, role) : leadingText(row, index.column());
-    if (role == Qt::TextAlignmentRole) {
+    switch (role) {
+    case Qt::DisplayRole:
+    case Qt::EditRole:
+        return race ? raceText(row, *race, (index.column() - LeadingColumns) % RaceColumns, role)
+                    : leadingText(row, index.column());
+    case Qt::TextAlignmentRole: {
         const bool isText = index.column() == NameColumn || index.column() == ClubColumn;
         return QVariant((isText ? Qt::AlignLeft : Qt::AlignRight) | Qt::AlignVCenter);
     }
-    if (!race) {
-        QFont bold;
-        bold.setBold(true);
-        const bool isMain = index.column() == ScoreColumn || index.column() == RankColumn;
-        return role == Qt::FontRole && isMain ? QVariant(bold) : QVariant();
+    case Qt::ToolTipRole:
+        return toolTip(index);
+    case Qt::FontRole:
+        return font(index);
+    case Qt::ForegroundRole:
+        if (race && *race < athleteAt(row).racedata.size() &&
+            isZero(athleteAt(row).racedata[*race]))
+            return Warning;
+        return {};
+    default:
+        return {};
     }
-    if (role == Qt::ToolTipRole)
-        return raceToolTip(row, *race);
-    if (role == Qt::FontRole && standingOfRow(row).score.races[*race].fate != ResultFate::Counted) {
-        QFont struck;
-        struck.setStrikeOut(true);
-        return struck;
-    }
-    if (role == Qt::ForegroundRole && *race < athleteAt(row).racedata.size() &&
-        isZero(athleteAt(row).racedata[*race]))
-        return Warning;
-    return {};
 }
 
 QVariant RankingModel::headerData(int section, Qt::Orientation orientation, int role) const {
@@ -211,10 +316,14 @@ bool RankingModel::setData(const QModelIndex& index, const QVariant& value, int 
     const QString text = value.toString().trimmed();
     if (role != Qt::EditRole || text == data(index, Qt::EditRole).toString())
         return false;
-    if (const auto race = raceOfColumn(index.column()))
-        return setResultPart(index.row(), *race, (index.column() - LeadingColumns) % RaceColumns,
-                             text);
-    return setLeading(index.row(), index.column(), text);
+    // Should the edit be refused, nothing was out of order.
+    const bool wasKeeping = std::exchange(m_isKeepingOrder, true);
+    const auto race = raceOfColumn(index.column());
+    const bool isTaken = race ? setResultPart(index.row(), *race,
+                                              (index.column() - LeadingColumns) % RaceColumns, text)
+                              : setLeading(index.row(), index.column(), text);
+    m_isKeepingOrder = isTaken || wasKeeping;
+    return isTaken;
 }
 
 bool RankingModel::setLeading(int row, int column, const QString& text) {
@@ -234,24 +343,40 @@ bool RankingModel::setLeading(int row, int column, const QString& text) {
     return true;
 }
 
-/// An emptied time makes the result a missing one.
 bool RankingModel::setResultPart(int row, std::size_t race, int part, const QString& text) {
     const ResultPlace place{m_category, athleteOfRow(row), race};
     const srAthleteStruct_v3& athlete = athleteAt(row);
     saRaceStruct result = race < athlete.racedata.size() ? athlete.racedata[race] : missingResult();
-    if (part == TimeColumn && text.isEmpty()) {
+    if (part == TimeColumn)
+        return setTime(place, result, text);
+    if (isMissing(result)) {
+        emit refused(tr("Enter the time first: the penalty belongs to it."));
+        return false;
+    }
+    if (!parseField(text.toStdString(), result.pen) || result.pen < 0) {
+        emit refused(tr("The penalty must be a whole number of seconds."));
+        return false;
+    }
+    m_document.change(tr("penalty"), [&](selectionracesStruct_v3& document) {
+        setResult(document, place, result.resultTime, result.pen, result.xTime);
+    });
+    return true;
+}
+
+/// An emptied time makes the result a missing one; an emptied expected time leaves the result
+/// itself alone.
+bool RankingModel::setTime(const ResultPlace& place, saRaceStruct result, const QString& text) {
+    const bool isExpected = m_document.times() == SelectionTimes::Expected;
+    if (text.isEmpty() && !isExpected) {
         m_document.change(tr("result removed"),
                           [&](selectionracesStruct_v3& document) { clearResult(document, place); });
         return true;
     }
-    const bool isExpected = m_document.times() == SelectionTimes::Expected;
     double& time = isExpected ? result.xTime : result.resultTime;
-    const bool isNumber = part == TimeColumn
-                              ? parseField(text.toStdString(), time) && time >= 0
-                              : parseField(text.toStdString(), result.pen) && result.pen >= 0;
-    if (!isNumber) {
-        emit refused(part == TimeColumn ? tr("The time must be a number of seconds, with a point.")
-                                        : tr("The penalty must be a whole number of seconds."));
+    if (text.isEmpty()) {
+        time = MissingTime;
+    } else if (!parseField(text.toStdString(), time) || !(time >= 0)) {
+        emit refused(tr("The time must be a number of seconds, with a point."));
         return false;
     }
     m_document.change(tr("result"), [&](selectionracesStruct_v3& document) {

@@ -1,10 +1,13 @@
 #pragma once
 
+#include "desktop/selection/real_ranking.h"
 #include "results/selection_edit.h"
 #include "results/selection_ranking.h"
 
 #include <QAbstractTableModel>
 
+#include <optional>
+#include <string>
 #include <vector>
 
 namespace kavela::desktop {
@@ -12,7 +15,9 @@ namespace kavela::desktop {
 class SelectionDocument;
 
 /// The ranking of one category: place, who, score and bonus, the results of every race. Results,
-/// names, clubs and birth years are edited in place.
+/// names, clubs and birth years are edited in place. What is typed changes places and scores at
+/// once, but the rows keep their order until the row is left: values that belong together are typed
+/// one after the other. In what-if mode places say what they really are.
 class RankingModel : public QAbstractTableModel {
     Q_OBJECT
 
@@ -37,6 +42,11 @@ public:
     [[nodiscard]] std::size_t athleteOfRow(int row) const;
     [[nodiscard]] int rowOfAthlete(std::size_t athlete) const;
     [[nodiscard]] const Standing& standingOfRow(int row) const;
+    /// In what-if mode, how the athlete of a row really stands; none for one who is not there.
+    [[nodiscard]] std::optional<Standing> realStandingOfRow(int row) const;
+    /// Puts the rows into the order of the ranking, after a row was left. Indexes that are kept
+    /// follow their athletes.
+    void orderAnew();
     /// The race that a column belongs to; none for other columns.
     [[nodiscard]] std::optional<std::size_t> raceOfColumn(int column) const;
 
@@ -53,7 +63,23 @@ signals:
     void refused(const QString& reason);
 
 private:
+    /// As long as this stays the same, so do rows and columns.
+    struct Shape {
+        std::size_t category = 0;
+        std::size_t athletes = 0;
+        std::size_t races = 0;
+
+        friend bool operator==(const Shape&, const Shape&) = default;
+    };
+
     void reload();
+    [[nodiscard]] Shape shape() const;
+    void setOrder(std::vector<Standing> ranking);
+    [[nodiscard]] bool isAssumed(int row, std::size_t race) const;
+    [[nodiscard]] QString rankText(int row) const;
+    [[nodiscard]] QVariant toolTip(const QModelIndex& index) const;
+    [[nodiscard]] QVariant font(const QModelIndex& index) const;
+    [[nodiscard]] bool setTime(const ResultPlace& place, saRaceStruct result, const QString& text);
     [[nodiscard]] const srCategoryStruct_v3* categoryShown() const;
     [[nodiscard]] const srAthleteStruct_v3& athleteAt(int row) const;
     [[nodiscard]] std::size_t races() const;
@@ -66,6 +92,9 @@ private:
     SelectionDocument& m_document;
     std::size_t m_category = 0;
     std::vector<Standing> m_standings;
+    RealRanking m_real;
+    Shape m_shape;
+    bool m_isKeepingOrder = false;
 };
 
 } // namespace kavela::desktop

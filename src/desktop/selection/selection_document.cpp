@@ -86,7 +86,7 @@ std::string SelectionDocument::failure() const {
 }
 
 void SelectionDocument::settle(selectionracesStruct_v3& value) {
-    recomputeSelection(value, m_bonus);
+    computeScores(value, m_bonus);
 }
 
 } // namespace kavela::desktop

@@ -7,8 +7,10 @@
 
 namespace kavela::desktop {
 
-/// A selection file that is being edited: percentages, scores and the order of athletes always
-/// follow the results. In what-if mode edits go into a copy that is thrown away afterwards.
+/// A selection file that is being edited: percentages and scores always follow the results. The
+/// athletes stay in the order of the file while it is edited, so that the place of one is good for
+/// several edits; its content has them in the order of the score. In what-if mode edits go into a
+/// copy that is thrown away afterwards.
 class SelectionDocument : public EditedValue<selectionracesStruct_v3> {
     Q_OBJECT
 

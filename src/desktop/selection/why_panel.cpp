@@ -49,10 +49,12 @@ WhyPanel::WhyPanel(const SelectionDocument& document, const RankingModel& model,
       m_document(document),
       m_model(model),
       m_name(plainLabel()),
+      m_real(plainLabel()),
       m_parts(new QTableWidget(0, 3)),
       m_sum(plainLabel()),
       m_wayUp(plainLabel()) {
     m_name->setFont(theme::titleFont(*this));
+    m_real->setObjectName("real");
     m_parts->setHorizontalHeaderLabels({tr("Result"), tr("Percent"), tr("Score")});
     m_parts->setEditTriggers(QAbstractItemView::NoEditTriggers);
     m_parts->setSelectionMode(QAbstractItemView::NoSelection);
@@ -67,6 +69,7 @@ WhyPanel::WhyPanel(const SelectionDocument& document, const RankingModel& model,
     column->setContentsMargins(theme::LargeSpacing, 0, 0, 0);
     column->setSpacing(theme::Spacing);
     column->addWidget(m_name);
+    column->addWidget(m_real);
     column->addWidget(m_parts, 1);
     column->addWidget(m_sum);
     column->addWidget(m_wayUp);
@@ -95,6 +98,7 @@ void WhyPanel::showRow(int row) {
     m_parts->setVisible(isShown);
     m_sum->setVisible(isShown);
     m_wayUp->setVisible(isShown);
+    m_real->setVisible(false);
     m_parts->setRowCount(0);
     if (!isShown) {
         m_name->setText(tr("Select an athlete to see where the score comes from."));
@@ -104,6 +108,7 @@ void WhyPanel::showRow(int row) {
     m_name->setText(tr("%1. %2")
                         .arg(standing.rank)
                         .arg(m_model.index(row, RankingModel::NameColumn).data().toString()));
+    showReal(row);
     const auto& races = m_document.shown().races;
     for (std::size_t race = 0; race < standing.score.races.size(); ++race) {
         const ScorePart& part = standing.score.races[race];
@@ -119,6 +124,19 @@ void WhyPanel::showRow(int row) {
     m_sum->setText(tr("Score: %1 / 3 = %2")
                        .arg(hundredths(standing.score.sum), hundredths(standing.score.score)));
     showWayUp(row);
+}
+
+/// What trying changed: place and score as they are, beside what they would be.
+void WhyPanel::showReal(int row) {
+    const auto real = m_model.realStandingOfRow(row);
+    if (!real)
+        return;
+    const Standing& now = m_model.standingOfRow(row);
+    m_real->setText(tr("Place: was %1, now %2. Score: was %3, now %4.")
+                        .arg(real->rank)
+                        .arg(now.rank)
+                        .arg(hundredths(real->score.score), hundredths(now.score.score)));
+    m_real->setVisible(true);
 }
 
 /// Only the official times make the score, so only they tell what was missing.

@@ -25,11 +25,13 @@ public:
 
 private:
     void addLine(const QString& what, const QString& percent, const QString& fate, bool isCounted);
+    void showReal(int row);
     void showWayUp(int row);
 
     const SelectionDocument& m_document;
     const RankingModel& m_model;
     QLabel* m_name;
+    QLabel* m_real;
     QTableWidget* m_parts;
     QLabel* m_sum;
     QLabel* m_wayUp;
