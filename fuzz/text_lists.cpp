@@ -27,7 +27,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t siz
     (void)importAthletes(selection, text);
     for (const ResultLayout layout : {ResultLayout::ComaMode, ResultLayout::Tacen})
         if (!selection.categories.empty())
-            (void)importResultList(selection, 0, 0, layout, text);
+            (void)enterRuns(selection, 0, foundInList(selection, 0, layout, text));
     for (const srCategoryStruct_v3& category : selection.categories)
         for (const srAthleteStruct_v3& athlete : category.athletes)
             if (athlete.racedata.size() != 1)

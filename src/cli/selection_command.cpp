@@ -6,17 +6,23 @@
 #include "cli/selection_text.h"
 #include "cli/split_file_edit.h"
 #include "common/display_text.h"
+#include "common/folded_text.h"
+#include "common/number_text.h"
 #include "common/text_file.h"
 #include "report/selection_report.h"
 #include "report/selection_times_report.h"
+#include "results/list_lines.h"
 #include "results/messages.h"
 #include "results/selection_attach.h"
 #include "results/selection_file.h"
 #include "results/selection_import.h"
+#include "results/team_records.h"
 
 #include <CLI/CLI.hpp>
 
+#include <algorithm>
 #include <memory>
+#include <utility>
 
 namespace kavela::cli {
 
@@ -29,7 +35,7 @@ struct SelectionCall {
     bool write = false;
     std::string pdf;
     std::string list;
-    std::size_t race = 0;
+    std::string race;
     std::vector<std::string> splitFiles;
 };
 
@@ -113,7 +119,11 @@ std::string importText(const ListImport& import) {
 std::optional<std::string> textOf(const std::string& list) {
     std::string reason;
     try {
-        return readTextFile(list);
+        ListText read = readListText(list);
+        if (read.isLatin1)
+            logLine("The list " + pathText(list) +
+                    " is no UTF-8 text and was read as Latin-1: look at the names.");
+        return std::move(read.text);
     } catch (const FileError& error) {
         reason = error.reason();
     } catch (const DecodeError& error) {
@@ -123,6 +133,25 @@ std::optional<std::string> textOf(const std::string& list) {
     return std::nullopt;
 }
 
+std::string knownCategories() {
+    std::string text;
+    for (const char* category : team::Categories)
+        text += (text.empty() ? "" : ", ") + std::string(category);
+    return text;
+}
+
+/// What somebody has to see who does not read the lines that were printed.
+void tellOddities(const ListImport& import, const std::string& list) {
+    if (!import.skipped.empty())
+        logLine(counted(static_cast<std::int64_t>(import.skipped.size()), "line", "lines") +
+                " of " + pathText(list) + " skipped.");
+    for (const NewCategory& category : import.added)
+        logLine("Line " + std::to_string(category.line) + " brought the category " +
+                printable(category.label) + " into the selection" +
+                (category.isKnown ? "." : "; it is none of " + knownCategories() + '.'));
+}
+
+/// A list of which nothing could be taken is a failure, unless everybody in it is there already.
 int importList(const SelectionCall& call) {
     auto document = openedForChange(call.file);
     if (!document)
@@ -135,19 +164,44 @@ int importList(const SelectionCall& call) {
         ConsoleAlerts().show({messages::Careful, messages::AddARaceFirst});
         return NotDone;
     }
-    return saveSelectionFile(*document, call.file, logLine) && print(importText(import)) ? Done
-                                                                                         : NotDone;
+    tellOddities(import, call.list);
+    const bool isInVain =
+        import.imported == 0 && std::cmp_greater(import.skipped.size(), import.present);
+    if (!isInVain && !saveSelectionFile(*document, call.file, logLine))
+        return NotDone;
+    return print(importText(import)) && !isInVain ? Done : NotDone;
 }
 
+std::string resultText(const saRaceStruct& result) {
+    return hundredthsText(result.resultTime) +
+           (result.pen > 0 ? " (" + std::to_string(result.pen) + ')' : "");
+}
+
+std::string whoText(const selectionracesStruct_v3& document, const ResultPlace& place) {
+    const srCategoryStruct_v3& category = document.categories[place.category];
+    return printable(category.athletes[place.athlete].name) + " (" + printable(category.cat) + ')';
+}
+
+/// What attaching did, beside what stood there before.
 std::string attachedText(const selectionracesStruct_v3& document, std::size_t race,
-                         const Attached& attached) {
-    std::string text = counted(attached.results, "result", "results") + " attached to " +
-                       printable(document.races[race].location) + '\n';
-    for (const ResultPlace& place : attached.missing) {
-        const srCategoryStruct_v3& category = document.categories[place.category];
-        text += "No run: " + printable(category.athletes[place.athlete].name) + " (" +
-                printable(category.cat) + ")\n";
+                         const Attached& attached, const selectionracesStruct_v3& before) {
+    const EnteredRuns& entered = attached.entered;
+    std::string text =
+        counted(static_cast<std::int64_t>(entered.results.size()), "result", "results") +
+        " attached to " + printable(document.races[race].location) + '\n';
+    for (const ResultPlace& place : entered.missing) {
+        const auto& was = before.categories[place.category].athletes[place.athlete].racedata;
+        text += "No run: " + whoText(document, place);
+        if (race < was.size() && !isMissing(was[race]) && !isZero(was[race]))
+            text += ", was " + resultText(was[race]);
+        text += '\n';
     }
+    for (const ResultPlace& place : entered.keptExpected)
+        text +=
+            "Expected time kept: " + whoText(document, place) + ", " +
+            hundredthsText(
+                document.categories[place.category].athletes[place.athlete].racedata[race].xTime) +
+            '\n';
     for (const UnusedRun& run : attached.unused)
         text += "Not used: " + printable(run.crew) + " (" + printable(run.category) + ") " +
                 run.reason + '\n';
@@ -165,30 +219,61 @@ std::optional<std::vector<splittakerdata031>> openedRaces(const std::vector<std:
     return races;
 }
 
+/// A race by its number from 0, or by its name; nothing, after a message with those that exist.
+std::optional<std::size_t> raceOf(const selectionracesStruct_v3& document,
+                                  const std::string& written) {
+    const auto& races = document.races;
+    std::size_t number = 0;
+    if (parseField(written, number) && number < races.size())
+        return number;
+    const auto isNamed = [&](const sRaceStruct& race) {
+        return folded(race.location) == folded(written);
+    };
+    const auto named = std::ranges::find_if(races, isNamed);
+    const auto count = std::ranges::count_if(races, isNamed);
+    if (count == 1)
+        return static_cast<std::size_t>(named - races.begin());
+    std::string text = count > 1 ? std::to_string(count) + " races are called " +
+                                       printable(written) + ": give the number of one."
+                                 : "There is no race " + printable(written) + '.';
+    text += races.empty() ? " The file has none yet." : " Those of the file:";
+    for (std::size_t race = 0; race < races.size(); ++race)
+        text += (race == 0 ? " " : ", ") + std::to_string(race) + " \"" +
+                printable(races[race].location) + '"';
+    logLine(text);
+    return std::nullopt;
+}
+
 int attach(const SelectionCall& call) {
     auto document = openedForChange(call.file);
     if (!document)
         return NotDone;
-    if (call.race >= document->races.size()) {
-        logLine("There is no race " + std::to_string(call.race) + "; the file has " +
-                counted(static_cast<std::int64_t>(document->races.size()), "race", "races") +
-                ", counted from 0.");
-        return NotDone;
-    }
-    const auto races = openedRaces(call.splitFiles);
+    const auto race = raceOf(*document, call.race);
+    const auto races = race ? openedRaces(call.splitFiles) : std::nullopt;
     if (!races)
         return NotDone;
-    const Attached attached = attachRace(*document, call.race, *races);
-    const std::string text = attachedText(*document, call.race, attached);
+    const selectionracesStruct_v3 before = *document;
+    const Attached attached = attachRace(*document, *race, *races);
+    const std::string text = attachedText(*document, *race, attached, before);
     recomputeSelection(*document, call.bonus);
     return saveSelectionFile(*document, call.file, logLine) && print(text) ? Done : NotDone;
+}
+
+/// The library's own check answers with the largest number there is, in 309 digits.
+CLI::Validator wholeNumber() {
+    return {[](const std::string& text) {
+                std::size_t number = 0;
+                return parseField(text, number) ? std::string()
+                                                : '"' + text + "\" is no whole number from 0 on";
+            },
+            ""};
 }
 
 void addRank(CLI::App& selection, const std::shared_ptr<SelectionCall>& call, int& status) {
     CLI::App* command = selection.add_subcommand("rank", "The ranking of each category");
     command->add_option("FILE", call->file, "Selection file (.kvsr) of any layout")->required();
     command->add_option("--bonus", call->bonus, "Kind of bonus that counts, from 0")
-        ->check(CLI::NonNegativeNumber);
+        ->check(wholeNumber());
     command->add_flag("--json", call->json, "Print one JSON document");
     command->add_option("--pdf", call->pdf, "Folder to write both reports into");
     command->add_flag("--write", call->write, "Store percentages and scores in the file");
@@ -204,7 +289,9 @@ void addImportAthletes(CLI::App& selection, const std::shared_ptr<SelectionCall>
     command->add_option("FILE", call->file, "Selection file (.kvsr)")->required();
     command->add_option("LIST", call->list, "Text with lines Cat;Name;Surname;year;club")
         ->required();
-    command->footer("The first line of the list holds titles and is skipped.");
+    command->footer("The first line of the list holds titles and is skipped. Lines that could not "
+                    "be taken are printed, and counted on standard error; when none could be "
+                    "taken, nothing is written and the exit status is 1.");
     command->callback([call, &status] { status = importList(*call); });
 }
 
@@ -212,15 +299,17 @@ void addAttach(CLI::App& selection, const std::shared_ptr<SelectionCall>& call, 
     CLI::App* command =
         selection.add_subcommand("attach", "Takes the results of a race from its split files");
     command->add_option("FILE", call->file, "Selection file (.kvsr)")->required();
-    command->add_option("--race", call->race, "Race of the selection, counted from 0")
-        ->required()
-        ->check(CLI::NonNegativeNumber);
+    command
+        ->add_option("--race", call->race,
+                     "Race of the selection: its name, or its number counted from 0")
+        ->required();
     command->add_option("--bonus", call->bonus, "Kind of bonus that counts in the scores, from 0")
-        ->check(CLI::NonNegativeNumber);
+        ->check(wholeNumber());
     command->add_option("SPLITFILE", call->splitFiles, "Split files (.kvx) of the race")
         ->required();
     command->footer("Of several runs of an athlete the best one counts. Who has none gets a "
-                    "missing result, in the categories that were raced.");
+                    "missing result, in the categories that were raced. An expected time stays "
+                    "where the split file has none.");
     command->callback([call, &status] { status = attach(*call); });
 }
 

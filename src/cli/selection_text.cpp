@@ -14,8 +14,10 @@ constexpr int NarrowestPart = 10;
 constexpr int WidestPart = 17;
 constexpr int ScoreWidth = 8;
 
+/// A dash for a race without a result.
 std::string partText(const ScorePart& part) {
-    const std::string text = hundredthsText(part.percentage);
+    const std::string text =
+        part.percentage == MissingPercentage ? "-" : hundredthsText(part.percentage);
     return part.fate == ResultFate::Counted ? text + ' ' : '(' + text + ')';
 }
 

@@ -3,25 +3,12 @@
 #include "results/athlete_keys.h"
 #include "splitdata/run_timing.h"
 
-#include <algorithm>
-#include <map>
-#include <optional>
+#include <cmath>
 #include <set>
 
 namespace kavela {
 
 namespace {
-
-struct TimedRun {
-    double time = 0;
-    std::int64_t penalty = 0;
-    double expectedTime = MissingTime;
-
-    [[nodiscard]] double total() const { return time + static_cast<double>(penalty); }
-};
-
-/// What tells whose run it is: category and crew.
-using RunKey = std::pair<std::string, std::string>;
 
 /// Whether the times from video tell the whole run; a file may hold no more than the sum.
 bool isTimedWhole(const sectiondata030& timing, std::int64_t splits) {
@@ -29,102 +16,58 @@ bool isTimedWhole(const sectiondata030& timing, std::int64_t splits) {
            isFullRun(timing.times, splits);
 }
 
-std::optional<TimedRun> resultOf(const sectiondata030& timing, std::int64_t splits) {
-    TimedRun run;
-    if (timing.xTime != 0)
-        run.expectedTime = timing.xTime;
-    if (timing.realtime != 0) {
-        run.time = timing.realtime;
-        run.penalty = timing.realpen;
-    } else if (timing.totaltime != 0 && isTimedWhole(timing, splits)) {
-        run.time = timing.totaltime;
-        run.penalty = timing.totalpen;
+bool isTime(double seconds) {
+    return std::isfinite(seconds) && seconds > 0;
+}
+
+FoundRun foundRun(const athletedata031& run, const infodata031& info) {
+    const sectiondata030& timing = run.sectioninfo;
+    FoundRun found;
+    found.name = crewText(run.names);
+    found.category = run.cat.empty() ? info.category : run.cat;
+    found.phase = run.phase;
+    if (isTime(timing.xTime))
+        found.expectedTime = timing.xTime;
+    if (isTime(timing.realtime)) {
+        found.time = timing.realtime;
+        found.penalty = timing.realpen;
+    } else if (isTime(timing.totaltime) && isTimedWhole(timing, info.totalsplits)) {
+        found.time = timing.totaltime;
+        found.penalty = timing.totalpen;
     } else {
-        return std::nullopt;
+        found.fault = "did not finish the run";
     }
-    return run;
-}
-
-/// The best runs of all files.
-class Runs {
-public:
-    Runs(std::span<const splittakerdata031> files, const std::set<RunKey>& wanted,
-         std::vector<UnusedRun>& unused)
-        : m_wanted(wanted), m_unused(unused) {
-        for (const splittakerdata031& file : files)
-            for (const athletedata031& run : file.athletes)
-                take(run, file.info);
-    }
-
-    [[nodiscard]] const TimedRun* bestOf(const RunKey& key) const {
-        const auto found = m_best.find(key);
-        return found == m_best.end() ? nullptr : &found->second;
-    }
-
-    [[nodiscard]] bool hasCategory(const std::string& key) const {
-        return m_categories.contains(key);
-    }
-
-private:
-    void take(const athletedata031& run, const infodata031& info) {
-        const std::string& category = run.cat.empty() ? info.category : run.cat;
-        const RunKey key{categoryKey(category), crewKey(run.names)};
-        m_categories.insert(key.first);
-        const auto result = resultOf(run.sectioninfo, info.totalsplits);
-        if (!m_wanted.contains(key))
-            m_unused.push_back({crewText(run.names), category, "is not in the selection"});
-        else if (!result)
-            m_unused.push_back({crewText(run.names), category, "did not finish the run"});
-        else if (const auto [at, isNew] = m_best.emplace(key, *result);
-                 !isNew && result->total() < at->second.total())
-            at->second = *result;
-    }
-
-    const std::set<RunKey>& m_wanted;
-    std::vector<UnusedRun>& m_unused;
-    std::map<RunKey, TimedRun> m_best;
-    std::set<std::string> m_categories;
-};
-
-std::set<RunKey> athletesOf(const selectionracesStruct_v3& document) {
-    std::set<RunKey> athletes;
-    for (const srCategoryStruct_v3& category : document.categories)
-        for (const srAthleteStruct_v3& athlete : category.athletes)
-            athletes.insert({categoryKey(category.cat), crewKey(athlete.name)});
-    return athletes;
-}
-
-void enter(const TimedRun& run, saRaceStruct& result) {
-    result.resultTime = run.time;
-    result.pen = run.penalty;
-    result.xTime = run.expectedTime;
+    return found;
 }
 
 } // namespace
 
+FoundRuns foundInSplitFiles(const selectionracesStruct_v3& document,
+                            std::span<const splittakerdata031> files) {
+    FoundRuns found;
+    found.isWholeRace = true;
+    std::set<std::string> labels;
+    for (const splittakerdata031& file : files)
+        for (const athletedata031& run : file.athletes) {
+            found.runs.push_back(foundRun(run, file.info));
+            FoundRun& last = found.runs.back();
+            last.athlete = athleteOf(document, last.category, last.name);
+            labels.insert(categoryKey(last.category));
+        }
+    for (std::size_t c = 0; c < document.categories.size(); ++c)
+        if (labels.contains(categoryKey(document.categories[c].cat)))
+            found.raced.push_back(c);
+    return found;
+}
+
 Attached attachRace(selectionracesStruct_v3& document, std::size_t race,
                     std::span<const splittakerdata031> files) {
-    Attached attached;
-    const std::set<RunKey> wanted = athletesOf(document);
-    const Runs runs(files, wanted, attached.unused);
-    for (std::size_t c = 0; c < document.categories.size(); ++c) {
-        srCategoryStruct_v3& category = document.categories[c];
-        const std::string categoryText = categoryKey(category.cat);
-        for (std::size_t a = 0; a < category.athletes.size(); ++a) {
-            srAthleteStruct_v3& athlete = category.athletes[a];
-            if (athlete.racedata.size() <= race)
-                athlete.racedata.resize(race + 1, missingResult());
-            saRaceStruct& result = athlete.racedata[race];
-            if (const TimedRun* run = runs.bestOf({categoryText, crewKey(athlete.name)})) {
-                enter(*run, result);
-                ++attached.results;
-            } else if (isZero(result) || runs.hasCategory(categoryText)) {
-                clearResult(document, {c, a, race});
-                attached.missing.push_back({c, a, race});
-            }
-        }
-    }
-    rankRace(document, race);
+    const FoundRuns found = foundInSplitFiles(document, files);
+    Attached attached{enterRuns(document, race, found), {}};
+    for (const FoundRun& run : found.runs)
+        if (!run.isTaken())
+            attached.unused.push_back(
+                {run.name, run.category, run.athlete ? run.fault : "is not in the selection"});
     return attached;
 }
 

@@ -2,6 +2,7 @@
 
 #include "results/athlete_keys.h"
 #include "results/selection_edit.h"
+#include "results/team_records.h"
 
 #include <algorithm>
 #include <cmath>
@@ -19,13 +20,27 @@ std::string tooShort(const ListLine& line, const char* needed) {
            " where " + needed + " are needed";
 }
 
+/// The category of a list line in the selection, added and noted where it is missing.
+std::size_t categoryOf(const ListLine& line, selectionracesStruct_v3& document,
+                       ListImport& import) {
+    const std::string& label = line.fields[0];
+    const std::size_t before = document.categories.size();
+    const std::size_t category = categoryIndex(document, label);
+    if (document.categories.size() > before) {
+        const auto isSame = [&](const char* known) {
+            return categoryKey(known) == categoryKey(label);
+        };
+        import.added.push_back({label, line.number, std::ranges::any_of(team::Categories, isSame)});
+    }
+    return category;
+}
+
 /// Adds the athlete of a line; why not, or an empty text.
-std::string addFrom(const ListLine& line, selectionracesStruct_v3& document) {
+std::string addFrom(const ListLine& line, selectionracesStruct_v3& document, ListImport& import) {
     if (line.fields.size() < 5)
         return tooShort(line, "five");
-    const std::string& label = line.fields[0];
     const std::string& surname = line.fields[2];
-    if (label.empty())
+    if (line.fields[0].empty())
         return "the category is empty";
     if (surname.empty())
         return "the surname is empty";
@@ -36,20 +51,14 @@ std::string addFrom(const ListLine& line, selectionracesStruct_v3& document) {
     if (!line.fields[1].empty())
         athlete.name += ' ' + line.fields[1];
     athlete.club = line.fields[4];
-    const std::size_t category = categoryIndex(document, label);
-    if (hasAthlete(document.categories[category], athlete.name))
+    const std::size_t category = categoryOf(line, document, import);
+    if (hasAthlete(document.categories[category], athlete.name)) {
+        ++import.present;
         return athlete.name + " is in " + document.categories[category].cat + " already";
+    }
     (void)addAthlete(document, category, std::move(athlete));
     return {};
 }
-
-/// A line of a result list.
-struct ListedResult {
-    std::size_t category = 0;
-    std::string name;
-    double time = 0;
-    std::int64_t penalty = 0;
-};
 
 struct Columns {
     std::size_t name;
@@ -62,66 +71,33 @@ constexpr Columns ComaColumns{1, 2, 3, "four"};
 constexpr Columns TacenColumns{1, 3, 4, "five"};
 
 /// Reads the columns of a line; why not, or an empty text.
-std::string readColumns(ListLine line, const Columns& columns, bool hasComma,
-                        ListedResult& result) {
+std::string readColumns(const ListLine& line, const Columns& columns, bool hasComma,
+                        FoundRun& run) {
     if (line.fields.size() <= columns.penalty)
         return tooShort(line, columns.needed);
     std::string time = line.fields[columns.time];
     if (hasComma)
         std::ranges::replace(time, ',', '.');
-    if (!parseField(time, result.time) || !std::isfinite(result.time) || result.time <= 0)
+    if (!parseField(time, run.time) || !std::isfinite(run.time) || run.time <= 0)
         return quoted("time", line.fields[columns.time]) + " is no time in seconds";
     const std::string& penalty = line.fields[columns.penalty];
-    if (!penalty.empty() && (!parseField(penalty, result.penalty) || result.penalty < 0))
+    if (!penalty.empty() && (!parseField(penalty, run.penalty) || run.penalty < 0))
         return quoted("penalty", penalty) + " is no whole number of seconds";
-    result.name = line.fields[columns.name];
+    run.name = line.fields[columns.name];
+    if (run.name.empty())
+        return "the name is empty";
     return {};
 }
 
-/// The category that a line names; why not, or an empty text.
-std::string findCategory(const selectionracesStruct_v3& document, const std::string& label,
-                         std::size_t& index) {
-    const auto found = std::ranges::find(
-        document.categories, categoryKey(label),
-        [](const srCategoryStruct_v3& category) { return categoryKey(category.cat); });
-    if (found == document.categories.end())
-        return quoted("category", label) + " is not in the selection";
-    index = static_cast<std::size_t>(found - document.categories.begin());
-    return {};
-}
+} // namespace
 
-std::string enter(const ListedResult& listed, std::size_t race, selectionracesStruct_v3& document) {
-    const auto& athletes = document.categories.at(listed.category).athletes;
-    const auto found =
-        std::ranges::find(athletes, crewKey(listed.name),
-                          [](const srAthleteStruct_v3& athlete) { return crewKey(athlete.name); });
-    if (found == athletes.end())
-        return listed.name + " is not in " + document.categories[listed.category].cat;
-    const ResultPlace place{listed.category, static_cast<std::size_t>(found - athletes.begin()),
-                            race};
-    // The list tells nothing of an expected time: one of an attached run stays.
-    const double expected =
-        race < found->racedata.size() ? found->racedata[race].xTime : MissingTime;
-    setResult(document, place, listed.time, listed.penalty, expected);
-    return {};
-}
-
-std::string enterFrom(const ListLine& line, std::size_t race, std::size_t category,
-                      ResultLayout layout, selectionracesStruct_v3& document) {
-    ListedResult listed{category, {}, 0, 0};
-    const bool isTacen = layout == ResultLayout::Tacen;
-    std::string refusal = readColumns(line, isTacen ? TacenColumns : ComaColumns, !isTacen, listed);
-    if (refusal.empty() && isTacen)
-        refusal = findCategory(document, line.fields[0], listed.category);
-    return refusal.empty() ? enter(listed, race, document) : refusal;
-}
-
-/// Takes each line with a function that tells why it refused one.
-template <class Take>
-ListImport takeLines(std::string_view text, Take take) {
+ListImport importAthletes(selectionracesStruct_v3& document, std::string_view text) {
     ListImport import;
+    import.needsRace = document.races.empty();
+    if (import.needsRace)
+        return import;
     for (const ListLine& line : linesBelowTitles(text)) {
-        std::string refusal = take(line);
+        std::string refusal = addFrom(line, document, import);
         if (refusal.empty())
             ++import.imported;
         else
@@ -130,19 +106,24 @@ ListImport takeLines(std::string_view text, Take take) {
     return import;
 }
 
-} // namespace
-
-ListImport importAthletes(selectionracesStruct_v3& document, std::string_view text) {
-    if (document.races.empty())
-        return {0, {}, true};
-    return takeLines(text, [&](const ListLine& line) { return addFrom(line, document); });
-}
-
-ListImport importResultList(selectionracesStruct_v3& document, std::size_t race,
-                            std::size_t category, ResultLayout layout, std::string_view text) {
-    return takeLines(text, [&](const ListLine& line) {
-        return enterFrom(line, race, category, layout, document);
-    });
+FoundRuns foundInList(const selectionracesStruct_v3& document, std::size_t category,
+                      ResultLayout layout, std::string_view text) {
+    FoundRuns found;
+    const bool isTacen = layout == ResultLayout::Tacen;
+    for (const ListLine& line : linesBelowTitles(text)) {
+        FoundRun run;
+        std::string refusal =
+            readColumns(line, isTacen ? TacenColumns : ComaColumns, !isTacen, run);
+        if (!refusal.empty()) {
+            found.refused.push_back({line.number, std::move(refusal)});
+            continue;
+        }
+        run.line = line.number;
+        run.category = isTacen ? line.fields[0] : document.categories.at(category).cat;
+        run.athlete = athleteOf(document, run.category, run.name);
+        found.runs.push_back(std::move(run));
+    }
+    return found;
 }
 
 } // namespace kavela

@@ -2,6 +2,7 @@
 
 #include "results/list_lines.h"
 #include "results/selection_records.h"
+#include "results/selection_takeover.h"
 
 #include <cstdint>
 #include <optional>
@@ -13,10 +14,21 @@
 /// works on a text in UTF-8 (see readTextFile), whose first line holds titles.
 namespace kavela {
 
-/// What became of a list.
+/// A category that a list brought into the selection.
+struct NewCategory {
+    std::string label;
+    std::int64_t line = 0; ///< the first that names it
+    bool isKnown = false;  ///< whether it is one of the categories that boats are raced in
+
+    friend bool operator==(const NewCategory&, const NewCategory&) = default;
+};
+
+/// What became of a list of athletes.
 struct ListImport {
     std::int64_t imported = 0;
+    std::int64_t present = 0; ///< of the lines skipped: athletes who are there already
     std::vector<RefusedLine> skipped;
+    std::vector<NewCategory> added;
     bool needsRace = false; ///< nothing was added: there is no race yet (messages::AddARaceFirst)
 };
 
@@ -30,12 +42,9 @@ enum class ResultLayout {
     Tacen,    ///< cat;SURNAME NAME;Club;Time(.);P;Tot
 };
 
-/// Enters the results of one race: time and penalty of athletes who are in the selection, places
-/// by total; other athletes keep what they have. A list of the first layout is one category's; the
-/// other names it in each line. Lines without an athlete of the selection are skipped, and told.
-/// Recompute afterwards.
-[[nodiscard]] ListImport importResultList(selectionracesStruct_v3& document, std::size_t race,
-                                          std::size_t category, ResultLayout layout,
-                                          std::string_view text);
+/// The results that a list of one race holds. A list of the first layout is one category's, which
+/// must exist; the other names it in each line.
+[[nodiscard]] FoundRuns foundInList(const selectionracesStruct_v3& document, std::size_t category,
+                                    ResultLayout layout, std::string_view text);
 
 } // namespace kavela

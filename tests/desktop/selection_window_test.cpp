@@ -1,11 +1,14 @@
 #include "desktop/selection/selection_window.h"
 
+#include "common/json_encode.h"
 #include "common/recorders.h"
 #include "common/temp_folder.h"
 #include "desktop/selection/athlete_dialog.h"
+#include "desktop/selection/take_over_dialog.h"
 #include "desktop/shell/workspace.h"
 #include "results/messages.h"
 #include "results/selection_file.h"
+#include "splitdata/document.h"
 #include "splittaking/messages.h"
 
 #include <gmock/gmock.h>
@@ -13,14 +16,19 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QLabel>
 #include <QTableView>
 #include <QTest>
+#include <QTimer>
+
+#include <algorithm>
 
 namespace kavela::test {
 namespace {
 
 namespace fs = std::filesystem;
 using desktop::Autosave;
+using desktop::Belonging;
 using desktop::RankingModel;
 using desktop::SelectionWindow;
 using desktop::Workspace;
@@ -81,6 +89,10 @@ protected:
         return names;
     }
 
+    static QString text(SelectionWindow& window, int row, int column) {
+        return window.model().index(row, column).data().toString();
+    }
+
     static bool type(SelectionWindow& window, int row, int column, const char* text) {
         return window.model().setData(window.model().index(row, column), text, Qt::EditRole);
     }
@@ -105,9 +117,11 @@ TEST_F(SelectionWindowTest, RanksLiveAndUndoes) {
     const auto window = filledWindow();
     EXPECT_THAT(names(*window), ElementsAre("ALDER Ann", "BIRK Ben", "CEDAR Cyd"));
     EXPECT_TRUE(type(*window, 2, Time, "80.5"));
+    window->model().orderAnew();
     EXPECT_THAT(names(*window), ElementsAre("ALDER Ann", "CEDAR Cyd", "BIRK Ben"))
         << "one win each, the worse race dropped: the order stays";
     EXPECT_TRUE(type(*window, 1, Time + RankingModel::RaceColumns, "80.5"));
+    window->model().orderAnew();
     EXPECT_THAT(names(*window), ElementsAre("CEDAR Cyd", "ALDER Ann", "BIRK Ben"));
     EXPECT_FALSE(type(*window, 0, Time, "80,5"));
     EXPECT_FALSE(type(*window, 0, Penalty, "two"));
@@ -124,12 +138,155 @@ TEST_F(SelectionWindowTest, TriesWhatWouldHaveBeenAndKeepsNothingOfIt) {
     ASSERT_TRUE(window->document().saveAs(QString::fromStdString(file().string()), nullptr));
     window->setWhatIf(true);
     EXPECT_TRUE(type(*window, 2, Time, "70"));
-    EXPECT_TRUE(type(*window, 1, Time + RankingModel::RaceColumns, "70"));
+    EXPECT_TRUE(type(*window, 2, Time + RankingModel::RaceColumns, "70"));
+    window->model().orderAnew();
     EXPECT_EQ(names(*window).front(), "CEDAR Cyd");
+    EXPECT_EQ(text(*window, 0, RankingModel::RankColumn), "1 (was 3)");
+    window->table().setCurrentIndex(window->model().index(0, Time));
+    EXPECT_THAT(window->findChild<QLabel*>("real")->text().toStdString(),
+                HasSubstr("was 3, now 1"));
+    EXPECT_EQ(window->model().index(0, Time).data(Qt::ToolTipRole).toString(),
+              "Tried only. Really: 95.00");
     EXPECT_FALSE(window->document().isDirty());
     window->setWhatIf(false);
     EXPECT_THAT(names(*window), ElementsAre("ALDER Ann", "BIRK Ben", "CEDAR Cyd"));
+    EXPECT_EQ(text(*window, 0, RankingModel::RankColumn), "1");
     EXPECT_FALSE(window->document().isDirty());
+}
+
+TEST_F(SelectionWindowTest, KeepsTheCursorInTheRowThatIsTypedInto) {
+    const auto window = filledWindow();
+    window->show();
+    QApplication::setActiveWindow(window.get());
+    auto& table = window->table();
+    table.setFocus();
+    table.setCurrentIndex(window->model().index(2, Time));
+    const auto keys = [&](const char* text) {
+        for (; *text; ++text)
+            QTest::keyClick(QApplication::focusWidget(), *text);
+    };
+    keys("80.5\t2\t81\t4"); // time and penalty of both races, over the percentages
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+    QApplication::processEvents(); // then the cell is taken
+    const auto& cedar = window->document().value().categories[0].athletes[2];
+    EXPECT_EQ(cedar.racedata[0].resultTime, 80.5);
+    EXPECT_EQ(cedar.racedata[0].pen, 2);
+    EXPECT_EQ(cedar.racedata[1].resultTime, 81);
+    EXPECT_EQ(cedar.racedata[1].pen, 4);
+    EXPECT_EQ(names(*window).back(), "CEDAR Cyd") << "the row stays while it is typed into";
+    EXPECT_EQ(text(*window, 2, RankingModel::RankColumn), "1") << "the place is told at once";
+    EXPECT_EQ(table.currentIndex().row(), 2);
+    QTest::keyClick(&table, Qt::Key_Up);
+    EXPECT_THAT(names(*window), ElementsAre("CEDAR Cyd", "ALDER Ann", "BIRK Ben"));
+    EXPECT_EQ(text(*window, table.currentIndex().row(), RankingModel::NameColumn), "BIRK Ben")
+        << "the cursor goes with the athlete whom it went to";
+    table.setCurrentIndex(table.currentIndex().siblingAtColumn(Time));
+    keys("79");
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+    QApplication::processEvents(); // then the cell is taken
+    window->findChild<QComboBox*>("times")->setFocus();
+    EXPECT_EQ(names(*window).front(), "BIRK Ben") << "leaving the table leaves the row";
+}
+
+TEST_F(SelectionWindowTest, LeavesTheResultAloneWhenAnExpectedTimeIsEmptied) {
+    const auto window = filledWindow();
+    window->document().setTimes(SelectionTimes::Expected);
+    EXPECT_EQ(text(*window, 0, Time), "–");
+    EXPECT_TRUE(type(*window, 0, Time, "88.5"));
+    EXPECT_TRUE(type(*window, 0, Time, ""));
+    EXPECT_EQ(window->document().value().categories[0].athletes[0].racedata[0].resultTime, 90);
+    EXPECT_EQ(window->document().value().categories[0].athletes[0].racedata[0].xTime, 999.9);
+}
+
+TEST_F(SelectionWindowTest, SaysAtEveryStepWhatComesNext) {
+    const auto window = makeWindow();
+    window->startNew(QString::fromStdString(file().string()), 2026);
+    const auto hint = [&] { return window->findChild<QLabel*>("hint")->text().toStdString(); };
+    EXPECT_THAT(hint(), HasSubstr("Ctrl+R"));
+    window->addRace("Riverside");
+    EXPECT_THAT(hint(), HasSubstr("Ctrl+G"));
+    window->addCategory("MK1");
+    EXPECT_THAT(hint(), HasSubstr("Ctrl+N"));
+    window->addAthlete({"ALDER Ann", 2004, "Club", {}, {}});
+    EXPECT_EQ(hint(), "");
+    EXPECT_EQ(window->table().currentIndex().column(), Time) << "the result is typed next";
+}
+
+TEST_F(SelectionWindowTest, AsksNoSecondTimeForTheNameOfANewFile) {
+    const auto window = filledWindow();
+    window->setNamed();
+    EXPECT_TRUE(window->save());
+    EXPECT_TRUE(fs::exists(file()));
+}
+
+/// A race of split files: one who is in the selection, one nearly, one not at all.
+splittakerdata031 splitFile() {
+    splittakerdata031 file;
+    file.info.category = "K1M";
+    for (const auto& [name, time] :
+         {std::pair("Ann Alder", 89.0), std::pair("B. Birk", 88.0), std::pair("Eve Roth", 87.0)}) {
+        athletedata031 run;
+        run.names = {name};
+        run.phase = "Final";
+        run.sectioninfo.totaltime = time;
+        file.athletes.push_back(std::move(run));
+    }
+    return file;
+}
+
+TEST_F(SelectionWindowTest, ShowsWhatAFileWouldChangeAndWhoseRunsAreByHand) {
+    const auto window = filledWindow();
+    window->document().change("expected", [](selectionracesStruct_v3& document) {
+        setResult(document, {0, 0, 0}, 90, 0, 86.5);
+    });
+    const auto before = encode(window->document().value());
+    const QString path =
+        QString::fromStdString(m_folder.add("race.kvx", encode(splitFile())).string());
+    const auto look = [&](bool isTaken) {
+        QTimer::singleShot(0, [&, isTaken] {
+            auto* const dialog =
+                qobject_cast<desktop::SelectionTakeOverDialog*>(QApplication::activeModalWidget());
+            ASSERT_TRUE(dialog);
+            auto& lines = dialog->lines();
+            const auto cell = [&](int line, int column) {
+                return lines.index(line, column).data().toString().toStdString();
+            };
+            ASSERT_EQ(lines.rowCount(), 5) << "three runs, two athletes without one";
+            EXPECT_EQ(cell(0, lines.wasColumn()), "90.00");
+            EXPECT_EQ(cell(0, lines.nowColumn()), "89.00");
+            EXPECT_THAT(cell(0, lines.remarkColumn()), HasSubstr("expected time 86.50 stays"));
+            EXPECT_EQ(cell(1, lines.nowColumn()), "no result");
+            EXPECT_EQ(cell(3, lines.remarkColumn()), "perhaps BIRK Ben?");
+            const auto choose = [&](int line, const Belonging& whose) {
+                const auto choices = lines.choicesFor(line);
+                const auto choice = std::ranges::find(choices, whose) - choices.begin();
+                lines.setData(lines.index(line, lines.whoseColumn()), int(choice), Qt::EditRole);
+            };
+            choose(3, Belonging::toPerson(1));
+            ASSERT_EQ(lines.rowCount(), 4) << "one has a run now";
+            EXPECT_EQ(cell(2, lines.wasColumn()), "91.00");
+            EXPECT_EQ(cell(2, lines.nowColumn()), "88.00");
+            EXPECT_THAT(cell(2, lines.remarkColumn()), HasSubstr("place 1, was 2"));
+            choose(3, Belonging::toNewPerson());
+            lines.setData(lines.index(1, 0), Qt::Unchecked, Qt::CheckStateRole);
+            EXPECT_THAT(dialog->findChild<QLabel*>("note")->text().toStdString(),
+                        HasSubstr("result: 3, of them new in the selection: 1"));
+            isTaken ? dialog->accept() : dialog->reject();
+        });
+        window->attachFiles(0, {path});
+    };
+    look(false);
+    EXPECT_EQ(encode(window->document().value()), before);
+    look(true);
+    const auto& athletes = window->document().value().categories[0].athletes;
+    ASSERT_EQ(athletes.size(), 4U);
+    EXPECT_EQ(athletes[0].racedata[0].resultTime, 89);
+    EXPECT_EQ(athletes[0].racedata[0].xTime, 86.5);
+    EXPECT_EQ(athletes[1].racedata[0].resultTime, 88);
+    EXPECT_EQ(athletes[2].racedata[0].resultTime, 95) << "kept by hand";
+    EXPECT_EQ(athletes[3].name, "Eve Roth");
+    window->document().undoStack().undo();
+    EXPECT_EQ(encode(window->document().value()), before);
 }
 
 TEST_F(SelectionWindowTest, SavesWhatItShowsAndOpensItAgain) {

@@ -117,8 +117,12 @@ TEST(SelectionImport, AddsAthletesAndTellsWhichLinesItLeftOut) {
                                                        "MK1;Cy;Dam;20x4;Mill\n"
                                                        "MK1;Cy;Dam;2004\n"
                                                        "MK1;Cy;;2004;Mill\n"
-                                                       " MK1 ; Cy ; Dam ;2004;;more");
-    EXPECT_EQ(import.imported, 2);
+                                                       " MK1 ; Cy ; Dam ;2004;;more\n"
+                                                       "Veterans;Al;Old;1950;Mill");
+    EXPECT_EQ(import.imported, 3);
+    EXPECT_EQ(import.present, 1);
+    EXPECT_THAT(import.added,
+                ElementsAre(NewCategory{"WK1", 2, true}, NewCategory{"Veterans", 9, false}));
     std::vector<std::int64_t> lines;
     for (const RefusedLine& skipped : import.skipped)
         lines.push_back(skipped.line);
@@ -137,25 +141,25 @@ TEST(SelectionImport, AddsAthletesAndTellsWhichLinesItLeftOut) {
 
 TEST(SelectionImport, EntersResultsOfBothLayouts) {
     auto document = selectionOf({{"BROOK Adam", {999.9}}, {"LOCK Cy", {999.9}}});
-    const ListImport coma = importResultList(document, 0, 0, ResultLayout::ComaMode,
-                                             "Pos;SURNAME Name;Totaltime;Totalpen\n"
-                                             "1;LOCK Cy;95,25;2\n2;Adam Brook;98.5;0\n"
-                                             "3;WEIR Ed;99;0\n4;LOCK Cy;DNS;");
-    EXPECT_EQ(coma.imported, 2);
-    EXPECT_THAT(coma.skipped,
-                ElementsAre(RefusedLine{4, "WEIR Ed is not in MK1"},
-                            RefusedLine{5, "the time \"DNS\" is no time in seconds"}));
+    const FoundRuns coma = foundInList(document, 0, ResultLayout::ComaMode,
+                                       "Pos;SURNAME Name;Totaltime;Totalpen\n"
+                                       "1;LOCK Cy;95,25;2\n2;Adam Brook;98.5;0\n"
+                                       "3;WEIR Ed;99;0\n4;LOCK Cy;DNS;");
+    EXPECT_THAT(coma.refused,
+                ElementsAre(RefusedLine{5, "the time \"DNS\" is no time in seconds"}));
+    EXPECT_FALSE(coma.runs.at(2).athlete) << "WEIR Ed is not in MK1";
+    EXPECT_THAT(enterRuns(document, 0, coma).results, SizeIs(2));
     const auto& athletes = document.categories[0].athletes;
     EXPECT_EQ(athletes[1].racedata[0].resultTime, 95.25);
     EXPECT_EQ(athletes[1].racedata[0].pen, 2);
     EXPECT_EQ(athletes[1].racedata[0].pos, 1);
 
-    const ListImport tacen =
-        importResultList(document, 0, 0, ResultLayout::Tacen,
-                         "cat;SURNAME NAME;Club;Time(.);P;Tot\nK1M;BROOK ADAM;Mill;94.1;4;98.1\n"
-                         "WK1;BROOK ADAM;Mill;94.1;4;98.1\nMK1;LOCK CY;Mill;94,1;0;94,1");
-    EXPECT_EQ(tacen.imported, 1);
-    EXPECT_THAT(tacen.skipped, SizeIs(2));
+    const FoundRuns tacen =
+        foundInList(document, 0, ResultLayout::Tacen,
+                    "cat;SURNAME NAME;Club;Time(.);P;Tot\nK1M;BROOK ADAM;Mill;94.1;4;98.1\n"
+                    "WK1;BROOK ADAM;Mill;94.1;4;98.1\nMK1;LOCK CY;Mill;94,1;0;94,1");
+    EXPECT_THAT(tacen.refused, SizeIs(1));
+    EXPECT_THAT(enterRuns(document, 0, tacen).results, ElementsAre(ResultPlace{0, 0, 0}));
     EXPECT_EQ(athletes[0].racedata[0].resultTime, 94.1);
     EXPECT_EQ(athletes[0].racedata[0].pos, 2);
 }
@@ -185,7 +189,7 @@ TEST(SelectionAttach, FindsRunsHoweverNamesAreWritten) {
     finals.athletes = {runOf({"BROOK Adam van der"}, "", 100.5)};
     const Attached attached = attachRace(document, 1, std::vector{heats, finals});
 
-    EXPECT_EQ(attached.results, 3);
+    EXPECT_THAT(attached.entered.results, SizeIs(3));
     const auto result = [&](std::size_t category, std::size_t athlete) {
         const saRaceStruct& r = document.categories[category].athletes[athlete].racedata[1];
         return std::vector<double>{r.resultTime, static_cast<double>(r.pen), r.xTime,
@@ -198,13 +202,48 @@ TEST(SelectionAttach, FindsRunsHoweverNamesAreWritten) {
     EXPECT_THAT(result(1, 0), ElementsAre(120, 0, 999.9, 1)) << "a double, the other way round";
     EXPECT_EQ(result(2, 0)[0], 50) << "a category that was not raced";
     EXPECT_EQ(document.categories[0].athletes[0].racedata[0].resultTime, 50) << "another race";
-    EXPECT_THAT(attached.missing, ElementsAre(ResultPlace{0, 2, 1}, ResultPlace{0, 3, 1}));
+    EXPECT_THAT(attached.entered.missing, ElementsAre(ResultPlace{0, 2, 1}, ResultPlace{0, 3, 1}));
     std::vector<std::string> unused;
     for (const UnusedRun& run : attached.unused)
         unused.push_back(run.crew + ": " + run.reason);
     EXPECT_THAT(unused,
                 ElementsAre("Ed Weir: did not finish the run", "Nobody: is not in the selection",
                             "Cy Lock: is not in the selection"));
+}
+
+TEST(SelectionAttach, KeepsAnExpectedTimeThatTheFileDoesNotHave) {
+    auto document = selectionOf({{"BROOK Adam", {50}}, {"LOCK Cy", {50}}});
+    setResult(document, {0, 0, 0}, 50, 0, 48.5);
+    splittakerdata031 file;
+    file.info.category = "MK1";
+    file.athletes = {runOf({"Adam Brook"}, "", 99), runOf({"Cy Lock"}, "", 97)};
+    const Attached attached = attachRace(document, 0, std::vector{file});
+    EXPECT_EQ(document.categories[0].athletes[0].racedata[0].resultTime, 99);
+    EXPECT_EQ(document.categories[0].athletes[0].racedata[0].xTime, 48.5);
+    EXPECT_THAT(attached.entered.keptExpected, ElementsAre(ResultPlace{0, 0, 0}));
+}
+
+TEST(SelectionTakeover, EntersWhatWasGivenToAthletesByHand) {
+    auto document = selectionOf({{"BROOK Adam", {50}}, {"LOCK Cy", {50}}, {"WEIR Ed", {50}}});
+    splittakerdata031 file;
+    file.info.category = "K1M";
+    file.athletes = {runOf({"A. Broock"}, "", 99), runOf({"Adam Brook"}, "", 101),
+                     runOf({"Fay Sluice"}, "", 98), runOf({"Fay SLUICE"}, "", 97)};
+    FoundRuns found = foundInSplitFiles(document, std::vector{file});
+    EXPECT_THAT(withoutRun(document, 0, found),
+                ElementsAre(AthletePlace{0, 1}, AthletePlace{0, 2}));
+    found.runs[0].athlete = AthletePlace{0, 0};
+    found.runs[2].isOfNewAthlete = found.runs[3].isOfNewAthlete = true;
+    found.kept = {{0, 2}};
+    const EnteredRuns entered = enterRuns(document, 0, found);
+    const auto& athletes = document.categories[0].athletes;
+    EXPECT_EQ(athletes[0].racedata[0].resultTime, 99) << "the better of both ways of writing";
+    EXPECT_THAT(entered.missing, ElementsAre(ResultPlace{0, 1, 0}));
+    EXPECT_EQ(athletes[2].racedata[0].resultTime, 50) << "kept by hand";
+    ASSERT_THAT(athletes, SizeIs(4)) << "one new athlete for both runs";
+    EXPECT_EQ(athletes[3].name, "Fay Sluice");
+    EXPECT_EQ(athletes[3].racedata[0].resultTime, 97);
+    EXPECT_EQ(athletes[3].racedata[0].pos, 2);
 }
 
 } // namespace kavela::test

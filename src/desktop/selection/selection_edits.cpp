@@ -1,13 +1,10 @@
 #include "desktop/selection/selection_window.h"
 
-#include "common/error.h"
-#include "common/text_file.h"
 #include "desktop/race/table_text.h"
 #include "desktop/selection/athlete_dialog.h"
 #include "desktop/shell/workspace.h"
 #include "results/messages.h"
-#include "results/selection_attach.h"
-#include "splitdata/loader.h"
+#include "results/team_records.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -27,16 +24,6 @@ namespace {
 
 QString qtText(const std::string& text) {
     return QString::fromStdString(text);
-}
-
-/// More lines than these are not read in a message box.
-constexpr qsizetype MostLinesTold = 12;
-
-QString told(QStringList lines) {
-    const qsizetype more = lines.size() - MostLinesTold;
-    if (more > 0)
-        lines = lines.mid(0, MostLinesTold) + QStringList(QObject::tr("and %1 more").arg(more));
-    return lines.join('\n');
 }
 
 } // namespace
@@ -83,11 +70,8 @@ void SelectionWindow::makeRaceMenu() {
 
 void SelectionWindow::makeAthleteMenu() {
     QMenu* menu = menuBar()->addMenu(tr("&Athletes"));
-    menu->addAction(tr("Add a &category…"), QKeySequence(Qt::CTRL | Qt::Key_G), this, [this] {
-        const QString label = QInputDialog::getText(this, tr("Category"), tr("Such as MK1, WC1"));
-        if (!label.trimmed().isEmpty())
-            addCategory(label.trimmed());
-    });
+    menu->addAction(tr("Add a &category…"), QKeySequence(Qt::CTRL | Qt::Key_G), this,
+                    [this] { (void)askForCategory(); });
     menu->addAction(tr("&Add an athlete…"), QKeySequence(Qt::CTRL | Qt::Key_N), this,
                     &SelectionWindow::askForAthlete);
     menu->addAction(tr("&Edit the athlete…"), QKeySequence(Qt::CTRL | Qt::Key_Return), this,
@@ -111,8 +95,25 @@ void SelectionWindow::makeAthleteMenu() {
                   [this, category] { showCategory(static_cast<std::size_t>(category - 1)); });
 }
 
+/// The categories of the sport are offered; a selection may have others. False when none was added.
+bool SelectionWindow::askForCategory() {
+    QStringList known;
+    for (const char* category : team::Categories)
+        known.append(category);
+    for (const srCategoryStruct_v3& category : m_document.shown().categories)
+        known.removeAll(qtText(category.cat));
+    bool isGiven = false;
+    const QString label = QInputDialog::getItem(
+        this, tr("Category"), tr("Category of the athletes"), known, 0, true, &isGiven);
+    if (!isGiven || label.trimmed().isEmpty())
+        return false;
+    addCategory(label.trimmed());
+    return true;
+}
+
+/// An athlete needs a race and a category: what is missing is asked for first.
 void SelectionWindow::askForAthlete() {
-    if (!hasRace())
+    if (!hasRace() || (m_document.shown().categories.empty() && !askForCategory()))
         return;
     AthleteDialog dialog({}, preselectionGroups(m_document.shown()), bonusKinds(m_document.shown()),
                          this);
@@ -187,91 +188,6 @@ void SelectionWindow::removeRace() {
         });
 }
 
-void SelectionWindow::tellSkipped(const ListImport& import) {
-    if (import.needsRace) {
-        workspace().showAlert({messages::Careful, messages::AddARaceFirst}, this);
-        return;
-    }
-    QStringList lines{tr("%n line(s) taken over.", nullptr, static_cast<int>(import.imported))};
-    for (const RefusedLine& line : import.skipped)
-        lines.append(tr("Line %1: %2").arg(line.line).arg(qtText(line.reason)));
-    tell(told(lines).toStdString());
-}
-
-void SelectionWindow::importAthletesFrom(const QString& path) {
-    try {
-        const std::string list = readTextFile(path.toStdString());
-        ListImport import;
-        m_document.change(tr("athletes imported"), [&](selectionracesStruct_v3& document) {
-            import = importAthletes(document, list);
-        });
-        tellSkipped(import);
-    } catch (const std::runtime_error& error) {
-        tell(error.what());
-    }
-}
-
-void SelectionWindow::askForResults(ResultLayout layout, const char* help) {
-    const auto race = askForRace(tr("Results of which race?"));
-    if (!race)
-        return;
-    const QString path = QFileDialog::getOpenFileName(this, QString(help).replace('\n', "  "),
-                                                      QFileInfo(m_document.path()).path(),
-                                                      tr("Lists (*.csv *.txt);;All files (*)"));
-    if (!path.isEmpty())
-        importResultsFrom(path, *race, layout);
-}
-
-void SelectionWindow::importResultsFrom(const QString& path, std::size_t race,
-                                        ResultLayout layout) {
-    try {
-        const std::string list = readTextFile(path.toStdString());
-        ListImport import;
-        m_document.change(tr("results imported"), [&](selectionracesStruct_v3& document) {
-            import = importResultList(document, race, m_model.category(), layout, list);
-        });
-        tellSkipped(import);
-    } catch (const std::runtime_error& error) {
-        tell(error.what());
-    }
-}
-
-void SelectionWindow::askForSplitFiles() {
-    const auto race = askForRace(tr("Results of which race?"));
-    if (!race)
-        return;
-    const QStringList files = QFileDialog::getOpenFileNames(
-        this, tr("Split files of the race"), QFileInfo(m_document.path()).path(),
-        tr("Split files (*.kvx);;All files (*)"));
-    if (!files.isEmpty())
-        attachFiles(*race, files);
-}
-
-/// The split files are read as they are: one of an older release is not rewritten from here.
-void SelectionWindow::attachFiles(std::size_t race, const QStringList& paths) {
-    std::vector<splittakerdata031> files;
-    for (const QString& path : paths) {
-        RecognisedSplitFile file =
-            recogniseSplitFile(path.toStdString(), workspace().log(), workspace().clock());
-        if (!file.version) {
-            WorkspaceAlerts alerts(workspace(), this);
-            reportIncompatible(file, workspace().log(), alerts);
-            return;
-        }
-        files.push_back(std::move(file.document));
-    }
-    Attached attached;
-    m_document.change(tr("results attached"), [&](selectionracesStruct_v3& document) {
-        attached = attachRace(document, race, files);
-    });
-    QStringList lines{
-        tr("%n athlete(s) got a result.", nullptr, static_cast<int>(attached.results))};
-    for (const UnusedRun& run : attached.unused)
-        lines.append(
-            tr("%1 %2: %3").arg(qtText(run.crew), qtText(run.category), qtText(run.reason)));
-    tell(told(lines).toStdString());
-}
-
 void SelectionWindow::makeZerosMissing() {
     const auto zeros = zeroResults(m_document.shown());
     if (!zeros.empty())
@@ -282,6 +198,7 @@ void SelectionWindow::makeZerosMissing() {
 }
 
 void SelectionWindow::copyTable() {
+    m_model.orderAnew();
     QList<int> rows(m_model.rowCount());
     std::iota(rows.begin(), rows.end(), 0);
     QList<int> columns(m_model.columnCount());

@@ -2,22 +2,28 @@
 
 #include "desktop/selection/athlete_dialog.h"
 #include "desktop/selection/why_panel.h"
+#include "desktop/shell/edit_order.h"
 #include "desktop/shell/theme.h"
 #include "desktop/shell/workspace.h"
 #include "results/messages.h"
 #include "results/selection_file.h"
 
+#include <QApplication>
 #include <QComboBox>
+#include <QDialogButtonBox>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QInputDialog>
 #include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
+#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QSplitter>
 #include <QTabBar>
 #include <QTableView>
+
+#include <algorithm>
 
 namespace kavela::desktop {
 
@@ -33,7 +39,7 @@ SelectionWindow::SelectionWindow(Workspace& workspace, Autosave autosave)
     : EditorWindow(workspace, m_document, "selection", tr("Selection races"), "kvsr"),
       m_document(workspace, std::move(autosave)),
       m_model(m_document) {
-    m_table = new QTableView;
+    m_table = new EditOrder<QTableView>;
     m_table->setObjectName("ranking");
     m_table->setModel(&m_model);
     m_table->setSelectionBehavior(QAbstractItemView::SelectItems);
@@ -65,10 +71,27 @@ SelectionWindow::SelectionWindow(Workspace& workspace, Autosave autosave)
             [this](const QString& reason) { tell(reason.toStdString()); });
     connect(m_table->selectionModel(), &QItemSelectionModel::currentChanged, this,
             &SelectionWindow::showWhy);
-    connect(&m_model, &QAbstractItemModel::modelReset, this, &SelectionWindow::showWhy);
+    connect(m_table->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
+            &SelectionWindow::leaveRow);
+    connect(&m_model, &QAbstractItemModel::modelAboutToBeReset, this, [this] {
+        const QModelIndex current = m_table->currentIndex();
+        m_currentName = current.siblingAtColumn(RankingModel::NameColumn).data().toString();
+        m_currentColumn = current.column();
+    });
+    connect(&m_model, &QAbstractItemModel::modelReset, this, &SelectionWindow::keepCurrent);
+    connect(&m_model, &QAbstractItemModel::layoutChanged, this, &SelectionWindow::showWhy);
+    connect(&m_model, &QAbstractItemModel::dataChanged, this, &SelectionWindow::showWhy);
+    m_leaveRow.setSingleShot(true);
+    connect(&m_leaveRow, &QTimer::timeout, this, [this] {
+        if (!m_table->indexWidget(m_table->currentIndex()))
+            m_model.orderAnew();
+    });
+    watchFocus();
 }
 
 SelectionWindow::~SelectionWindow() {
+    qApp->disconnect(this);
+    m_table->selectionModel()->disconnect(this);
     m_document.disconnect(this);
     m_model.disconnect(this);
 }
@@ -78,6 +101,7 @@ QWidget* SelectionWindow::makeBar() {
     m_title->setTextFormat(Qt::PlainText);
     m_title->setFont(theme::titleFont(*this));
     m_hint = new QLabel;
+    m_hint->setObjectName("hint");
     m_hint->setTextFormat(Qt::PlainText);
     m_hint->setWordWrap(true);
     m_categories = new QTabBar;
@@ -134,8 +158,57 @@ void SelectionWindow::commit() {
         editor->clearFocus();
 }
 
+/// After rows or columns came or went the cursor stands at the same athlete.
+void SelectionWindow::keepCurrent() {
+    for (int row = 0; row < m_model.rowCount(); ++row)
+        if (m_model.index(row, RankingModel::NameColumn).data().toString() == m_currentName)
+            m_table->setCurrentIndex(
+                m_model.index(row, std::min(m_currentColumn, m_model.columnCount() - 1)));
+    showWhy();
+}
+
+/// Rows are ordered when one was left by a key at once; after a click not before it may have become
+/// a double click, which would else hit another athlete.
+void SelectionWindow::leaveRow() {
+    if (QApplication::mouseButtons() == Qt::NoButton)
+        m_model.orderAnew();
+    else
+        m_leaveRow.start(QApplication::doubleClickInterval());
+}
+
+/// The row is left with the table, too; not for the editor of a cell, nor for another program.
+void SelectionWindow::watchFocus() {
+    connect(qApp, &QApplication::focusChanged, this, [this](QWidget* before, QWidget* now) {
+        const auto isInTable = [this](QWidget* widget) {
+            return widget && (widget == m_table || m_table->isAncestorOf(widget));
+        };
+        if (now && isInTable(before) && !isInTable(now))
+            m_model.orderAnew();
+    });
+}
+
 void SelectionWindow::tell(const std::string& text) {
     workspace().showAlert({"", text}, this);
+}
+
+/// Many lines are scrolled through: none hides behind a number.
+void SelectionWindow::tellLines(const QStringList& lines) {
+    constexpr qsizetype MostInABox = 12;
+    if (lines.size() <= MostInABox) {
+        tell(lines.join('\n').toStdString());
+        return;
+    }
+    QDialog dialog(this);
+    dialog.setWindowTitle(tr("Import"));
+    auto* text = new QPlainTextEdit(lines.join('\n'));
+    text->setReadOnly(true);
+    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Close);
+    connect(buttons, &QDialogButtonBox::rejected, &dialog, &QDialog::reject);
+    auto* column = new QVBoxLayout(&dialog);
+    column->addWidget(text);
+    column->addWidget(buttons);
+    dialog.resize(640, 420);
+    dialog.exec();
 }
 
 void SelectionWindow::showDocument() {
@@ -150,6 +223,12 @@ void SelectionWindow::showDocument() {
     if (document.races.empty())
         hints.append(tr("Add the races of the selection first (Ctrl+R), then athletes (Ctrl+N, or "
                         "drop a .csv file)."));
+    else if (document.categories.empty())
+        hints.append(tr("Now add a category (Ctrl+G), such as MK1; then its athletes (Ctrl+N, or "
+                        "drop a .csv file)."));
+    else if (m_model.rowCount() == 0)
+        hints.append(tr("Add the athletes of the category (Ctrl+N, or drop a .csv file), then "
+                        "their results: type them, or take them over from split files (Ctrl+I)."));
     else if (const auto zeros = zeroResults(document); !zeros.empty())
         hints.append(tr("%n result(s) have a time of 0, which puts their athletes far in front. "
                         "Edit > Make times of 0 missing results.",
@@ -239,6 +318,11 @@ void SelectionWindow::addAthlete(const NewAthlete& athlete) {
     m_document.change(tr("athlete added"), [&](selectionracesStruct_v3& document) {
         (void)kavela::addAthlete(document, category, athlete);
     });
+    const auto added =
+        static_cast<int>(m_document.shown().categories[category].athletes.size()) - 1;
+    m_table->setCurrentIndex(
+        m_model.index(m_model.rowOfAthlete(static_cast<std::size_t>(added)),
+                      RankingModel::LeadingColumns + int{RankingModel::TimeColumn}));
 }
 
 /// A list dropped on the table brings athletes, split files bring results, selections are opened.

@@ -5,6 +5,8 @@
 #include "desktop/shell/editor_window.h"
 #include "results/selection_import.h"
 
+#include <QTimer>
+
 class QComboBox;
 class QLabel;
 class QPushButton;
@@ -55,7 +57,14 @@ private:
     void fillBonuses();
     void showWhy();
     void tell(const std::string& text);
-    void tellSkipped(const ListImport& import);
+    void tellLines(const QStringList& lines);
+    void tellUnread(const QString& path, const std::string& reason);
+    void tellImported(const ListImport& import, bool isLatin1);
+    void lookAndEnter(const QString& path, std::size_t race, FoundRuns found);
+    [[nodiscard]] bool askForCategory();
+    void keepCurrent();
+    void leaveRow();
+    void watchFocus();
     [[nodiscard]] std::optional<std::size_t> askForRace(const QString& title);
     [[nodiscard]] bool hasRace();
     void askForAthlete();
@@ -79,6 +88,9 @@ private:
     QLabel* m_hint = nullptr;
     QTableView* m_table = nullptr;
     WhyPanel* m_why = nullptr;
+    QTimer m_leaveRow;
+    QString m_currentName; ///< of the athlete in the current row, over the model's resets
+    int m_currentColumn = 0;
 };
 
 } // namespace kavela::desktop
