@@ -3,6 +3,7 @@
 #include "common/json_encode.h"
 #include "common/recorders.h"
 #include "common/temp_folder.h"
+#include "desktop/people/found_lines_view.h"
 #include "desktop/shell/workspace.h"
 #include "desktop/team/athlete_panel.h"
 #include "desktop/team/charts/chart_tabs.h"
@@ -23,8 +24,8 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMimeData>
+#include <QTabBar>
 #include <QTableView>
-#include <QTableWidget>
 #include <QTest>
 #include <QTimer>
 #include <QTreeView>
@@ -145,6 +146,18 @@ protected:
         });
     }
 
+    static QString text(TakeOverDialog& dialog, int line, int column) {
+        return dialog.lines().index(line, column).data().toString();
+    }
+
+    /// Types into the view that has the focus, wherever the keys go.
+    static void keys(TeamWindow& window, const char* text) {
+        for (; *text; ++text) {
+            QApplication::setActiveWindow(&window);
+            QTest::keyClick(QApplication::focusWidget(), *text);
+        }
+    }
+
     const mtCatsStruct& results(const TeamWindow& window) const {
         return window.document().athletes()[0].cats[0];
     }
@@ -186,6 +199,66 @@ TEST_F(TeamWindowTest, EditsByKeysAloneAndTakesEveryStepBack) {
         press(*window, Qt::CTRL | Qt::Key_Z);
     EXPECT_EQ(encode(window->document().value()), encode(smallTeam()));
     EXPECT_THAT(m_recorder.alerts, IsEmpty());
+}
+
+TEST_F(TeamWindowTest, TabGoesOnToTheNextCellThatTakesText) {
+    const auto window = openWindow();
+    ASSERT_TRUE(window);
+    auto& view = window->results();
+    view.choose({0, 1}, SeasonModel::LocationColumn);
+    view.tree().setFocus();
+    keys(*window, "Bled\t3\t"); // a race has a place behind its location, then comes a season
+    EXPECT_EQ(results(*window).seasons[0].races[1].location, "Bled");
+    EXPECT_EQ(results(*window).seasons[0].races[1].finalPos, 3);
+    EXPECT_EQ(view.place(), (SeasonPlace{1, {}}));
+    keys(*window, "2022\t17\t"); // over the cells of a season that only tell
+    EXPECT_EQ(results(*window).seasons[1].year, 2022);
+    EXPECT_EQ(results(*window).seasons[1].icfrankingpos, 17);
+    EXPECT_EQ(results(*window).seasons[0].races[1].finalPos, 3);
+    press(*window, Qt::Key_Escape);
+    press(*window, Qt::SHIFT | Qt::Key_Tab); // with no cell open
+    EXPECT_EQ(view.tree().currentIndex().column(), SeasonModel::RankingColumn);
+
+    view.choose({0, 0});
+    view.runs().setFocus();
+    view.runs().setCurrentIndex(view.runs().model()->index(2, desktop::PhaseModel::TimeColumn));
+    keys(*window, "92.5\t2\t7\t2025-06-14\t93\t");
+    const mtRaceStruct& race = results(*window).seasons[0].races[0];
+    ASSERT_THAT(race.phases, SizeIs(2));
+    EXPECT_EQ(race.phases[0].phase, "Semifinal");
+    EXPECT_EQ(race.phases[0].pen, 2);
+    EXPECT_EQ(race.phases[0].pos, 7);
+    EXPECT_EQ(race.phases[1].time, 93) << "on to the final, not into the total";
+    EXPECT_THAT(m_recorder.alerts, IsEmpty());
+}
+
+TEST_F(TeamWindowTest, ShowsTheFirstAthleteWithEverythingFromTheBeginning) {
+    const auto window = makeWindow();
+    ASSERT_TRUE(window->open(QString::fromStdString(file().string())));
+    show(*window);
+    auto* const tabs = window->results().findChild<QTabBar*>("categories");
+    ASSERT_EQ(tabs->count(), 1);
+    EXPECT_EQ(tabs->tabText(0), window->results().category().c_str());
+    EXPECT_GT(tabs->width(), tabs->fontMetrics().horizontalAdvance(tabs->tabText(0)));
+    EXPECT_GT(tabs->height(), tabs->fontMetrics().height());
+}
+
+TEST_F(TeamWindowTest, HeadsEveryColumnOfItsOwnAndFollowsTheNameOfARace) {
+    const auto window = openWindow();
+    ASSERT_TRUE(window);
+    const auto* const model = window->results().tree().model();
+    QStringList titles;
+    for (int column = 0; column < SeasonModel::Columns; ++column)
+        titles.append(model->headerData(column, Qt::Horizontal).toString());
+    EXPECT_EQ(titles.removeDuplicates(), 0) << titles.join(' ').toStdString();
+    window->results().choose({0, 0});
+    auto& tree = window->results().tree();
+    const auto heading = [&] {
+        return window->results().findChild<QLabel*>("race")->text().toStdString();
+    };
+    EXPECT_EQ(heading(), "WC1  Tacen  2025");
+    tree.model()->setData(tree.currentIndex(), "EUROS");
+    EXPECT_EQ(heading(), "EUROS  Tacen  2025");
 }
 
 TEST_F(TeamWindowTest, TheOrderOfTheSeasonsDecidesTheLabel) {
@@ -296,11 +369,12 @@ TEST_F(TeamWindowTest, TakesResultsOverFromASplitFileAfterShowingThem) {
     whenAsked([&](TakeOverDialog& dialog) {
         EXPECT_EQ(encode(window->document().value()), encode(smallTeam())) << "nothing yet";
         EXPECT_EQ(dialog.tickedCount(), 3U); // two runs and the final position
-        auto* const lines = dialog.findChild<QTableWidget*>("lines");
-        EXPECT_EQ(lines->item(0, 0)->text(), "ŠTERN Ann Marie");
-        EXPECT_EQ(lines->item(3, 1)->text(), "Zoe Fast");
-        EXPECT_EQ(lines->item(3, 5)->text(), "is not in the team");
-        lines->item(1, 0)->setCheckState(Qt::Unchecked); // not the run of the final
+        EXPECT_EQ(text(dialog, 0, dialog.lines().whoseColumn()), "ŠTERN Ann Marie");
+        EXPECT_EQ(text(dialog, 3, 0), "Zoe Fast");
+        EXPECT_EQ(text(dialog, 3, dialog.lines().whoseColumn()), "not in the team");
+        dialog.view().selectRow(1);
+        QTest::keyClick(&dialog.view(), Qt::Key_Space); // not the run of the final
+        EXPECT_EQ(dialog.tickedCount(), 2U);
     });
     window->takeOverFrom({QString::fromStdString(path.string())});
     const mtRaceStruct taken = results(*window).seasons[0].races.at(2);
@@ -338,7 +412,8 @@ TEST_F(TeamWindowTest, AListReplacesTheResultButKeepsTheSplits) {
     whenAsked([](TakeOverDialog& dialog) {
         dialog.findChild<QComboBox*>("event")->setCurrentText("WC1");
         dialog.findChild<QLineEdit*>("location")->setText("TACEN");
-        EXPECT_EQ(dialog.findChild<QTableWidget*>("lines")->item(0, 5)->text(), "replaces 100.00");
+        EXPECT_EQ(text(dialog, 0, dialog.lines().wasColumn()), "100.00");
+        EXPECT_EQ(text(dialog, 0, dialog.lines().nowColumn()), "4. 99.50 (2)");
         EXPECT_EQ(dialog.tickedCount(), 2U) << "none of the athlete of another boat";
     });
     window->takeOverFrom({QString::fromStdString(list.string())});
@@ -347,6 +422,45 @@ TEST_F(TeamWindowTest, AListReplacesTheResultButKeepsTheSplits) {
     EXPECT_EQ(taken.finalPos, 4);
     EXPECT_EQ(taken.phases.at(0).time, 99.5);
     EXPECT_THAT(taken.phases.at(0).splits, ElementsAre(50, 50));
+}
+
+TEST_F(TeamWindowTest, GivesCrewsToAthletesByHandAndAddsThem) {
+    const auto window = openWindow();
+    ASSERT_TRUE(window);
+    splittakerdata031 file = splitFile();
+    for (athletedata031& run : file.athletes)
+        if (run.names[0].starts_with("Ann"))
+            run.names[0] = "A. Stern";
+    const fs::path path = m_folder.add("race.kvx", encode(file));
+    whenAsked([&](TakeOverDialog& dialog) {
+        EXPECT_EQ(dialog.tickedCount(), 0U);
+        ASSERT_EQ(text(dialog, 0, 0), "A. Stern") << "whose name is like one of the team";
+        EXPECT_EQ(text(dialog, 0, dialog.lines().remarkColumn()), "perhaps ŠTERN Ann Marie?");
+        auto& view = dialog.view();
+        const auto choose = [&](int row, const char* beginning) {
+            view.setFocus();
+            view.setCurrentIndex(dialog.lines().index(row, dialog.lines().whoseColumn()));
+            QTest::keyClick(&view, Qt::Key_F2);
+            auto* const combo = view.findChild<QComboBox*>("whose");
+            ASSERT_TRUE(combo);
+            QTest::keyClicks(combo, beginning);
+            QTest::keyClick(combo, Qt::Key_Return);
+            QApplication::processEvents();
+        };
+        choose(0, "Š");
+        EXPECT_EQ(dialog.tickedCount(), 3U) << "both runs and the final position";
+        ASSERT_EQ(text(dialog, 3, 0), "Zoe Fast");
+        choose(3, "Add");
+        EXPECT_EQ(dialog.tickedCount(), 6U);
+        EXPECT_EQ(text(dialog, 3, dialog.lines().whoseColumn()), "new: Zoe Fast");
+    });
+    window->takeOverFrom({QString::fromStdString(path.string())});
+    EXPECT_EQ(results(*window).seasons[0].races.at(2).finalPos, 2);
+    ASSERT_THAT(window->document().athletes(), SizeIs(3));
+    const myTeamStruct& added = window->document().athletes()[2];
+    EXPECT_EQ(added.name, "Zoe Fast");
+    EXPECT_EQ(added.cats.at(0).cat, "WK1");
+    EXPECT_EQ(added.cats[0].seasons.at(0).races.at(0).finalPos, 1);
 }
 
 TEST_F(TeamWindowTest, RefusesBadFilesAndLosesNothing) {

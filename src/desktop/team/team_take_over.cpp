@@ -10,7 +10,7 @@
 #include <QFileDialog>
 #include <QFileInfo>
 
-#include <algorithm>
+#include <optional>
 
 /// Taking results over, as the window does it.
 namespace kavela::desktop {
@@ -104,16 +104,14 @@ void TeamWindow::takeOverSplitFile(const QString& path) {
 void TeamWindow::apply(TakeOverDialog& dialog) {
     if (dialog.exec() != QDialog::Accepted)
         return;
-    const auto first = std::ranges::find_if(dialog.planned(), &PlannedResult::isTicked);
-    if (first == dialog.planned().end())
-        return;
-    const std::size_t athlete = first->athlete;
-    const std::string category = first->found.category;
+    std::optional<TakenPlace> first;
     m_document->edit(tr("results taken over"), [&](myTeamToSaveStruct& team) {
-        takeOver(team, dialog.planned(), dialog.name());
+        first = takeOver(team, dialog.planned(), dialog.name());
     });
-    m_athletes->choose(athlete);
-    m_results->showCategory(category);
+    if (!first)
+        return;
+    m_athletes->choose(first->athlete);
+    m_results->showCategory(first->category);
 }
 
 } // namespace kavela::desktop

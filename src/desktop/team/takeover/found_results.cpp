@@ -152,7 +152,9 @@ FoundRace foundInList(const ResultsList& list, const ListFacts& facts) {
         run.time = line.time;
         run.pen = line.pen;
         run.date = facts.date;
-        if (line.time <= 0 && line.pos <= 0)
+        if (line.time < 0 || line.pen < 0)
+            found.fault = "a time or a penalty is below 0";
+        else if (line.time == 0 && line.pos <= 0)
             found.fault = NotFinished;
         race.results.push_back(found);
         if (facts.isFinalClassification && line.pos > 0)

@@ -1,9 +1,12 @@
 #pragma once
 
+#include "desktop/people/belonging.h"
 #include "results/team_records.h"
 #include "splitdata/document.h"
 #include "splittaking/results_import.h"
 
+#include <compare>
+#include <map>
 #include <optional>
 #include <span>
 #include <string>
@@ -53,38 +56,53 @@ struct RaceName {
     std::string location;
 };
 
-/// A result that can be taken over.
+/// A crew of a file in a category of it, however its name is written there.
+struct CrewOfFile {
+    std::string category;
+    std::string key;
+
+    friend auto operator<=>(const CrewOfFile&, const CrewOfFile&) = default;
+};
+
+[[nodiscard]] CrewOfFile crewOf(const FoundResult& found);
+
+/// Whose crews are, where it was chosen by hand.
+using ChosenByHand = std::map<CrewOfFile, Belonging>;
+
+/// A result of the file, and what would become of it.
 struct PlannedResult {
     FoundResult found;
-    std::size_t athlete = 0; ///< in the team
+    Belonging whose; ///< an athlete of the team, one to be added to it, or nobody
     bool addsCategory = false;
-    std::string before; ///< what it would replace; empty for something new
-    bool isTicked = true;
+    std::string before;   ///< what it would replace; empty for something new
+    std::string reason;   ///< why it cannot be taken over; empty where it can
+    std::string likely;   ///< of nobody's: the athlete who may be meant; empty where none is like
+    std::size_t more = 0; ///< of nobody's: further results of the crew, which have no line
+    bool isTicked = false;
+
+    [[nodiscard]] bool canBeTaken() const { return reason.empty(); }
 };
 
-/// A boat of the file that stays out.
-struct NotTaken {
-    std::string crew;
-    std::string category;
-    std::string reason;
-};
-
-struct TakeOverPlan {
-    std::vector<PlannedResult> planned; ///< by athlete, in the order of the team
-    std::vector<NotTaken> notTaken;
-};
-
-/// What of a race belongs to the team. Names are matched however they are written. Ticked is what a
-/// coach will want: not another boat than an athlete races in, which may be a list of another.
-[[nodiscard]] TakeOverPlan planTakeOver(const myTeamToSaveStruct& team, const FoundRace& race,
-                                        const RaceName& name);
+/// What of a race belongs to the team. Names are matched however they are written, and as chosen by
+/// hand. Ticked is what a coach will want: not another boat than an athlete races in, which may be
+/// a list of another. Results of athletes come first, in the order of the team; then those of
+/// nobody, one for each crew.
+[[nodiscard]] std::vector<PlannedResult> planTakeOver(const myTeamToSaveStruct& team,
+                                                      const FoundRace& race, const RaceName& name,
+                                                      const ChosenByHand& chosen = {});
 
 /// A planned result as text: a run, or a final position.
 [[nodiscard]] std::string resultText(const FoundResult& result);
 
-/// Enters the ticked ones. Seasons, races and phases are added where they are missing; averages are
-/// computed again for the athletes concerned.
-void takeOver(myTeamToSaveStruct& team, std::span<const PlannedResult> planned,
-              const RaceName& name);
+/// Whose result was entered, and in which category.
+struct TakenPlace {
+    std::size_t athlete = 0;
+    std::string category;
+};
+
+/// Enters the ticked ones. Athletes, seasons, races and phases are added where they are missing;
+/// averages are computed again for the athletes concerned. Returns the first that was entered.
+std::optional<TakenPlace> takeOver(myTeamToSaveStruct& team, std::span<const PlannedResult> planned,
+                                   const RaceName& name);
 
 } // namespace kavela::desktop

@@ -1,5 +1,6 @@
 #include "desktop/team/takeover/take_over_dialog.h"
 
+#include "desktop/people/found_lines_view.h"
 #include "desktop/shell/theme.h"
 #include "desktop/team/typed_values.h"
 
@@ -8,27 +9,16 @@
 #include <QDateEdit>
 #include <QDialogButtonBox>
 #include <QFormLayout>
-#include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QSpinBox>
-#include <QTableWidget>
 
 #include <algorithm>
 
 namespace kavela::desktop {
 
 namespace {
-
-enum Column {
-    AthleteColumn,
-    WrittenColumn,
-    CategoryColumn,
-    PhaseColumn,
-    ResultColumn,
-    EffectColumn
-};
 
 QString qtText(const std::string& text) {
     return QString::fromStdString(text);
@@ -38,22 +28,55 @@ QDate dateOf(ReferenceDate date) {
     return QDate::fromString(qtText(dayText(date)), "yyyy-MM-dd");
 }
 
-QString effectOf(const PlannedResult& planned) {
+FoundTitles titles() {
+    return {{TakeOverDialog::tr("Boat"), TakeOverDialog::tr("Phase"), TakeOverDialog::tr("Result")},
+            TakeOverDialog::tr("Athlete"),
+            TakeOverDialog::tr("not in the team"),
+            TakeOverDialog::tr("Leave out"),
+            TakeOverDialog::tr("Add %1 to the team")};
+}
+
+std::vector<KnownPerson> peopleOf(const myTeamToSaveStruct& team) {
+    std::vector<KnownPerson> people;
+    for (const myTeamStruct& athlete : team.realMyTeam)
+        people.push_back({athlete.name});
+    return people;
+}
+
+/// A final position has no phase.
+std::pair<CrewOfFile, std::string> tickKey(const PlannedResult& planned) {
+    return {crewOf(planned.found), planned.found.run ? planned.found.run->phase : std::string()};
+}
+
+QString remarkOn(const PlannedResult& planned) {
+    if (planned.whose.to == Belonging::To::Nobody)
+        return planned.likely.empty()
+                   ? QString()
+                   : TakeOverDialog::tr("perhaps %1?").arg(qtText(planned.likely));
+    if (!planned.canBeTaken())
+        return qtText(planned.reason);
     if (planned.addsCategory)
-        return TakeOverDialog::tr("new; %1 is added to the athlete's boats")
+        return TakeOverDialog::tr("%1 is added to the athlete's boats")
             .arg(qtText(planned.found.category));
-    if (planned.before.empty())
-        return TakeOverDialog::tr("new");
-    if (planned.before == resultText(planned.found))
-        return TakeOverDialog::tr("the same stands there");
-    return TakeOverDialog::tr("replaces %1").arg(qtText(planned.before));
+    return planned.before == resultText(planned.found) ? TakeOverDialog::tr("the same stands there")
+                                                       : QString();
 }
 
 } // namespace
 
 TakeOverDialog::TakeOverDialog(const myTeamToSaveStruct& team, QWidget* parent)
-    : QDialog(parent), m_team(team) {
+    : QDialog(parent),
+      m_team(team),
+      m_lines(titles(), peopleOf(team)),
+      m_view(new FoundLinesView(m_lines)) {
     setWindowTitle(tr("Take results over"));
+    connect(&m_lines, &FoundLines::ticked, this, [this](int line, bool isTicked) {
+        tick(static_cast<std::size_t>(line), isTicked);
+        plan();
+    });
+    connect(&m_lines, &FoundLines::chosen, this, [this](int line, const Belonging& whose) {
+        choose(crewOf(m_plan.at(static_cast<std::size_t>(line)).found), whose);
+    });
 }
 
 TakeOverDialog::TakeOverDialog(const myTeamToSaveStruct& team, FoundRace race, QWidget* parent)
@@ -72,6 +95,7 @@ TakeOverDialog::TakeOverDialog(const myTeamToSaveStruct& team, ResultsList list,
     race.date = present;
     makeRace(*form, race);
     makeListFacts(*form, category, present);
+    m_skipped = list.skipped;
     m_read = [this, list = std::move(list)] {
         return foundInList(
             list, {m_category->currentText().toStdString(), m_phase->currentText().toStdString(),
@@ -136,26 +160,6 @@ void TakeOverDialog::makeListFacts(QFormLayout& form, const std::string& categor
 }
 
 void TakeOverDialog::finish(QFormLayout* form) {
-    m_lines = new QTableWidget(0, EffectColumn + 1);
-    m_lines->setObjectName("lines");
-    m_lines->setHorizontalHeaderLabels({tr("Athlete"), tr("In the file"), tr("Boat"), tr("Phase"),
-                                        tr("Result"), tr("In the team")});
-    m_lines->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    m_lines->setSelectionBehavior(QAbstractItemView::SelectRows);
-    m_lines->setShowGrid(false);
-    m_lines->setTabKeyNavigation(false);
-    m_lines->verticalHeader()->hide();
-    m_lines->verticalHeader()->setDefaultSectionSize(fontMetrics().height() + theme::Spacing);
-    m_lines->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    m_lines->horizontalHeader()->setHighlightSections(false);
-    m_lines->horizontalHeader()->setStretchLastSection(true);
-    connect(m_lines, &QTableWidget::itemChanged, this, [this](const QTableWidgetItem* item) {
-        const auto row = static_cast<std::size_t>(item->row());
-        if (m_isFilling || item->column() != AthleteColumn || row >= m_plan.planned.size())
-            return;
-        m_plan.planned[row].isTicked = item->checkState() == Qt::Checked;
-        showCount();
-    });
     m_note = new QLabel;
     m_note->setWordWrap(true);
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Cancel);
@@ -169,16 +173,16 @@ void TakeOverDialog::finish(QFormLayout* form) {
     auto* column = new QVBoxLayout(this);
     column->setSpacing(theme::Spacing);
     column->addLayout(form);
-    column->addWidget(m_lines, 1);
+    column->addWidget(m_view, 1);
     column->addWidget(m_note);
     column->addWidget(buttons);
-    resize(860, 560);
+    resize(960, 600);
     plan();
-    m_lines->resizeColumnsToContents();
+    m_view->fitColumns();
     if (m_event->currentIndex() < 0)
         m_event->setFocus();
     else
-        m_lines->setFocus();
+        m_view->setFocus();
 }
 
 RaceName TakeOverDialog::name() const {
@@ -186,60 +190,48 @@ RaceName TakeOverDialog::name() const {
             m_location->text().trimmed().toStdString()};
 }
 
-/// Ticks that the coach set stay where the lines stay the same.
 void TakeOverDialog::plan() {
-    const std::vector<PlannedResult> before = std::move(m_plan.planned);
-    m_plan = planTakeOver(m_team, m_read(), name());
-    const bool isSame = std::ranges::equal(
-        before, m_plan.planned, [](const PlannedResult& a, const PlannedResult& b) {
-            return a.athlete == b.athlete && a.found.run.has_value() == b.found.run.has_value() &&
-                   a.found.category == b.found.category;
-        });
-    for (std::size_t i = 0; isSame && i < before.size(); ++i)
-        m_plan.planned[i].isTicked = before[i].isTicked;
+    m_plan = planTakeOver(m_team, m_read(), name(), m_chosen);
+    for (PlannedResult& planned : m_plan)
+        if (const auto ticked = m_ticks.find(tickKey(planned));
+            ticked != m_ticks.end() && planned.canBeTaken())
+            planned.isTicked = ticked->second;
     showPlan();
 }
 
 void TakeOverDialog::showPlan() {
-    m_isFilling = true;
-    m_lines->setRowCount(static_cast<int>(m_plan.planned.size() + m_plan.notTaken.size()));
-    int row = 0;
-    for (const PlannedResult& planned : m_plan.planned)
-        fillRow(row++, planned);
-    for (const NotTaken& boat : m_plan.notTaken)
-        fillRow(row++, boat);
-    m_isFilling = false;
+    std::vector<FoundLine> lines;
+    for (const PlannedResult& planned : m_plan)
+        lines.push_back(lineOf(planned));
+    for (const SkippedLine& skipped : m_skipped)
+        lines.push_back(
+            {tr("(line %1)").arg(skipped.line), {}, {}, {}, false, {}, {}, qtText(skipped.reason)});
+    m_lines.setLines(std::move(lines));
     showCount();
 }
 
-void TakeOverDialog::fillRow(int row, const PlannedResult& planned) {
+FoundLine TakeOverDialog::lineOf(const PlannedResult& planned) const {
     const FoundResult& found = planned.found;
-    const QStringList texts{qtText(m_team.realMyTeam[planned.athlete].name),
-                            qtText(found.crew),
-                            qtText(found.category),
-                            found.run ? qtText(found.run->phase) : tr("Final position"),
-                            qtText(resultText(found)),
-                            effectOf(planned)};
-    for (int column = AthleteColumn; column <= EffectColumn; ++column)
-        m_lines->setItem(row, column, new QTableWidgetItem(texts[column]));
-    QTableWidgetItem* const tick = m_lines->item(row, AthleteColumn);
-    tick->setFlags(tick->flags() | Qt::ItemIsUserCheckable);
-    tick->setCheckState(planned.isTicked ? Qt::Checked : Qt::Unchecked);
-}
-
-void TakeOverDialog::fillRow(int row, const NotTaken& boat) {
-    const QStringList texts{QString(), qtText(boat.crew), qtText(boat.category),
-                            QString(), QString(),         qtText(boat.reason)};
-    for (int column = AthleteColumn; column <= EffectColumn; ++column) {
-        auto* item = new QTableWidgetItem(texts[column]);
-        item->setForeground(theme::quietText(palette()));
-        m_lines->setItem(row, column, item);
+    QString result = qtText(resultText(found));
+    if (planned.more > 0)
+        result = tr("%1 and %2 more").arg(result).arg(planned.more);
+    FoundLine line;
+    line.name = qtText(found.crew);
+    line.facts = {qtText(found.category),
+                  found.run ? qtText(found.run->phase) : tr("Final position"), result};
+    line.whose = planned.whose;
+    line.isChosenByHand = true;
+    if (planned.canBeTaken()) {
+        line.tick = planned.isTicked;
+        line.was = qtText(planned.before);
+        line.now = planned.isTicked ? result : line.was;
     }
+    line.remark = remarkOn(planned);
+    return line;
 }
 
 std::size_t TakeOverDialog::tickedCount() const {
-    return static_cast<std::size_t>(
-        std::ranges::count_if(m_plan.planned, &PlannedResult::isTicked));
+    return static_cast<std::size_t>(std::ranges::count_if(m_plan, &PlannedResult::isTicked));
 }
 
 void TakeOverDialog::showCount() {
@@ -247,21 +239,37 @@ void TakeOverDialog::showCount() {
     const bool hasRace = m_event->currentIndex() >= 0;
     m_take->setEnabled(count > 0 && hasRace);
     m_take->setText(count == 1 ? tr("&Take over 1 line") : tr("&Take over %1 lines").arg(count));
-    if (m_plan.planned.empty())
-        m_note->setText(tr("Nothing in the file belongs to an athlete of the team."));
-    else if (!hasRace)
+    const auto takeable = std::ranges::count_if(m_plan, &PlannedResult::canBeTaken);
+    if (!hasRace)
         m_note->setText(tr("Choose the event of the race."));
+    else if (takeable == 0)
+        m_note->setText(tr("Nothing in the file belongs to an athlete of the team. A click on “not "
+                           "in the team” chooses one, or adds the name to the team."));
     else
-        m_note->setText(tr("%1 of %2 lines are ticked; %3 stay out, with the reason beside them.")
-                            .arg(count)
-                            .arg(m_plan.planned.size())
-                            .arg(m_plan.notTaken.size()));
+        m_note->setText(
+            tr("%1 of %2 lines are ticked; %3 stay out. A click on an athlete chooses "
+               "another one, or adds the name to the team.")
+                .arg(count)
+                .arg(takeable)
+                .arg(static_cast<qlonglong>(m_plan.size() + m_skipped.size()) - takeable));
+}
+
+/// What was ticked while the crew was another's is no wish any more.
+void TakeOverDialog::choose(const CrewOfFile& crew, const Belonging& whose) {
+    m_chosen[crew] = whose;
+    std::erase_if(m_ticks, [&](const auto& tick) { return tick.first.first == crew; });
+    plan();
+}
+
+void TakeOverDialog::tick(std::size_t line, bool isTicked) {
+    m_ticks[tickKey(m_plan.at(line))] = isTicked;
 }
 
 void TakeOverDialog::tickAll(bool isTicked) {
-    for (PlannedResult& planned : m_plan.planned)
-        planned.isTicked = isTicked;
-    showPlan();
+    for (std::size_t line = 0; line < m_plan.size(); ++line)
+        if (m_plan[line].canBeTaken())
+            tick(line, isTicked);
+    plan();
 }
 
 } // namespace kavela::desktop

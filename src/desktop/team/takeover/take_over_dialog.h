@@ -1,10 +1,12 @@
 #pragma once
 
+#include "desktop/people/found_lines.h"
 #include "desktop/team/takeover/take_over.h"
 
 #include <QDialog>
 
 #include <functional>
+#include <map>
 
 class QComboBox;
 class QCheckBox;
@@ -14,12 +16,14 @@ class QLabel;
 class QLineEdit;
 class QPushButton;
 class QSpinBox;
-class QTableWidget;
 
 namespace kavela::desktop {
 
+class FoundLinesView;
+
 /// What a file has for the athletes of the team, to be ticked line by line before anything is
-/// written; and who stays out, with the reason.
+/// written, with what it replaces; and who stays out, with the reason. Crews that no name of the
+/// team fits are given to an athlete by hand, or added to the team.
 class TakeOverDialog : public QDialog {
     Q_OBJECT
 
@@ -32,9 +36,12 @@ public:
                    ReferenceDate present, QWidget* parent);
 
     /// What was chosen.
-    [[nodiscard]] const std::vector<PlannedResult>& planned() const { return m_plan.planned; }
+    [[nodiscard]] const std::vector<PlannedResult>& planned() const { return m_plan; }
     [[nodiscard]] RaceName name() const;
     [[nodiscard]] std::size_t tickedCount() const;
+
+    [[nodiscard]] FoundLines& lines() { return m_lines; }
+    [[nodiscard]] FoundLinesView& view() { return *m_view; }
 
 private:
     TakeOverDialog(const myTeamToSaveStruct& team, QWidget* parent);
@@ -43,14 +50,20 @@ private:
     void finish(QFormLayout* form);
     void plan();
     void showPlan();
-    void fillRow(int row, const PlannedResult& planned);
-    void fillRow(int row, const NotTaken& boat);
+    [[nodiscard]] FoundLine lineOf(const PlannedResult& planned) const;
+    void choose(const CrewOfFile& crew, const Belonging& whose);
+    void tick(std::size_t line, bool isTicked);
     void showCount();
     void tickAll(bool isTicked);
 
     const myTeamToSaveStruct& m_team;
     std::function<FoundRace()> m_read;
-    TakeOverPlan m_plan;
+    FoundLines m_lines;
+    ChosenByHand m_chosen;
+    /// What was ticked and unticked by hand: crew, and the phase of the run or nothing.
+    std::map<std::pair<CrewOfFile, std::string>, bool> m_ticks;
+    std::vector<PlannedResult> m_plan;
+    std::vector<SkippedLine> m_skipped; ///< of a list
     QComboBox* m_event = nullptr;
     QLineEdit* m_location = nullptr;
     QSpinBox* m_year = nullptr;
@@ -58,10 +71,9 @@ private:
     QComboBox* m_phase = nullptr;
     QDateEdit* m_date = nullptr;
     QCheckBox* m_isFinal = nullptr;
-    QTableWidget* m_lines = nullptr;
+    FoundLinesView* m_view;
     QLabel* m_note = nullptr;
     QPushButton* m_take = nullptr;
-    bool m_isFilling = false;
 };
 
 } // namespace kavela::desktop
