@@ -11,6 +11,8 @@
 namespace kavela::desktop {
 
 class CrossWindow;
+struct DocumentChoice;
+struct DocumentKind;
 class EditorWindow;
 class MotionWindow;
 class HomeWindow;
@@ -79,12 +81,12 @@ private:
     void chooseTests();
     void chooseRecordings();
     void chooseSession();
-    /// Asks for a file to open; a name that is not there yet begins a new one. Empty for none.
-    [[nodiscard]] QString chooseFile(const QString& title, const QString& kind,
-                                     const QString& suffix) const;
-    /// Opens a chosen file, or begins a new one where there is none of that name yet.
+    /// Asks for a document to open, or for the name of a new one.
+    [[nodiscard]] DocumentChoice chooseDocument(const DocumentKind& kind) const;
+    /// Opens a chosen document, or begins a new one.
     template <class Window>
-    void chooseEditor(const QString& path, const std::function<void(Window&)>& begin);
+    void chooseEditor(const DocumentKind& kind,
+                      const std::function<void(Window&, const QString&)>& begin);
     template <class Window>
     bool openEditor(const QString& path);
     /// Shows a window that edits a file, and follows what it asks for.

@@ -6,6 +6,7 @@
 #include "desktop/selection/selection_window.h"
 #include "desktop/sessions/session_window.h"
 #include "desktop/sessions/test_session_window.h"
+#include "desktop/shell/document_choice.h"
 #include "desktop/team/team_window.h"
 #include "desktop/watertests/tests_window.h"
 #include "planning/messages.h"
@@ -19,48 +20,61 @@
 /// The tools that edit a file each: how one is chosen, begun and opened.
 namespace kavela::desktop {
 
-QString Desktop::chooseFile(const QString& title, const QString& kind,
-                            const QString& suffix) const {
-    QFileDialog dialog(front(), title, QString(), tr("%1 (*.%2);;All files (*)").arg(kind, suffix));
-    dialog.setAcceptMode(QFileDialog::AcceptOpen);
-    dialog.setFileMode(QFileDialog::AnyFile);
-    dialog.setDefaultSuffix(suffix);
-    return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
+DocumentChoice Desktop::chooseDocument(const DocumentKind& kind) const {
+    QStringList recent;
+    for (const QString& path : m_workspace.recentFiles())
+        if (QFileInfo(path).suffix().compare(kind.suffix, Qt::CaseInsensitive) == 0 &&
+            QFileInfo::exists(path))
+            recent.append(path);
+    DocumentChoiceDialog dialog(kind, recent, front());
+    return dialog.exec() == QDialog::Accepted ? dialog.choice() : DocumentChoice();
 }
 
 template <class Window>
-void Desktop::chooseEditor(const QString& path, const std::function<void(Window&)>& begin) {
-    if (path.isEmpty())
+void Desktop::chooseEditor(const DocumentKind& kind,
+                           const std::function<void(Window&, const QString&)>& begin) {
+    const DocumentChoice choice = chooseDocument(kind);
+    if (choice.path.isEmpty())
         return;
-    if (QFileInfo::exists(path)) {
-        open(path);
+    if (!choice.isNew) {
+        open(choice.path);
         return;
     }
     auto* window = new Window(m_workspace, m_autosave);
-    begin(*window);
+    begin(*window, choice.path);
+    window->setNamed();
     show(window);
 }
 
 void Desktop::chooseTeam() {
-    const QString path = chooseFile(tr("Open a team, or name a new one"), tr("Teams"), "kvteam");
-    chooseEditor<TeamWindow>(path, [&](TeamWindow& window) { window.startNew(path); });
+    chooseEditor<TeamWindow>(
+        {tr("Team results"), tr("Teams"), "kvteam", tr("Team")},
+        [](TeamWindow& window, const QString& path) { window.startNew(path); });
 }
 
 void Desktop::chooseSelection() {
-    const QString path =
-        chooseFile(tr("Open a selection, or name a new one"), tr("Selection races"), "kvsr");
+    const int year = QDate::currentDate().year();
     chooseEditor<SelectionWindow>(
-        path, [&](SelectionWindow& window) { window.startNew(path, QDate::currentDate().year()); });
+        {tr("Selection races"), tr("Selection races"), "kvsr", tr("Selection %1").arg(year)},
+        [year](SelectionWindow& window, const QString& path) { window.startNew(path, year); });
 }
 
 void Desktop::choosePlanning() {
-    const QString path = chooseFile(planning_messages::ImportTitle, tr("Plannings"), "planning");
-    chooseEditor<PlanningWindow>(path, [&](PlanningWindow& window) { window.startNew(path); });
+    chooseEditor<PlanningWindow>(
+        {planning_messages::ImportTitle, tr("Plannings"), "planning", tr("Planning")},
+        [](PlanningWindow& window, const QString& path) { window.startNew(path); });
 }
 
 void Desktop::chooseTests() {
-    const QString path = chooseFile(tr("Open tests, or name new ones"), tr("Tests"), "kvtest");
-    chooseEditor<TestsWindow>(path, [&](TestsWindow& window) { window.startNew(path); });
+    chooseEditor<TestsWindow>(
+        {tr("Tests"), tr("Tests"), "kvtest", tr("Tests")},
+        [](TestsWindow& window, const QString& path) { window.startNew(path); });
+}
+
+void Desktop::chooseSession() {
+    chooseEditor<SessionWindow>(
+        {tr("Sessions"), tr("Sessions"), "bms", tr("Session")},
+        [](SessionWindow& window, const QString& path) { window.startNew(path); });
 }
 
 void Desktop::chooseRecordings() {
@@ -68,11 +82,6 @@ void Desktop::chooseRecordings() {
         front(), tr("Open recordings"), QString(), tr("Recordings (*.kvb);;All files (*)"));
     if (!chosen.isEmpty())
         openAll(chosen);
-}
-
-void Desktop::chooseSession() {
-    const QString path = chooseFile(tr("Open a session, or name a new one"), tr("Sessions"), "bms");
-    chooseEditor<SessionWindow>(path, [&](SessionWindow& window) { window.startNew(path); });
 }
 
 void Desktop::openRecordings(const QStringList& paths) {

@@ -74,7 +74,7 @@ void EditorWindow::finishMenus(std::function<Commands()> more) {
 
 bool EditorWindow::save() {
     commit();
-    return QFileInfo::exists(m_file.path()) ? m_file.save(this) : saveAs();
+    return m_isNamed || QFileInfo::exists(m_file.path()) ? m_file.save(this) : saveAs();
 }
 
 bool EditorWindow::saveAs() {

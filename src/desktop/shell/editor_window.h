@@ -24,6 +24,8 @@ public:
                  QString suffix);
 
     [[nodiscard]] EditedFile& file() const { return m_file; }
+    /// The path of a new document was chosen by the coach: saving need not ask for one.
+    void setNamed() { m_isNamed = true; }
     /// Asks for a name where the document has none on the disk yet.
     bool save();
     bool saveAs();
@@ -58,6 +60,7 @@ private:
     QString m_toolTitle;
     QString m_suffix;
     QMenu* m_fileMenu = nullptr;
+    bool m_isNamed = false;
 };
 
 } // namespace kavela::desktop
