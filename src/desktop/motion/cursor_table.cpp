@@ -77,6 +77,7 @@ CursorTable::CursorTable(QWidget* parent) : QTableWidget(parent) {
     setAlternatingRowColors(true);
     verticalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
+    horizontalHeader()->setTextElideMode(Qt::ElideMiddle); // names differ at their ends
     horizontalHeader()->setHighlightSections(false);
     verticalHeader()->setHighlightSections(false);
     setFont(theme::captionFont(*this));
