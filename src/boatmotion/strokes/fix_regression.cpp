@@ -12,8 +12,10 @@ namespace {
 constexpr double Window = 3;          // s
 constexpr double LongestWindow = 4.5; // s
 constexpr double GreatestTurn = 0.5;  // rad
-constexpr double GreatestLag = 1.4;   // s
-constexpr double LagStep = 0.1;       // s
+constexpr double LooseTurn = 1.5;     // rad, where the boat hardly ever keeps its heading
+constexpr double LeastExplained = 0.1;
+constexpr double GreatestLag = 1.4; // s
+constexpr double LagStep = 0.1;     // s
 constexpr std::size_t LeastWindows = 8;
 
 /// Running integrals of the motion, looked up at any moment.
@@ -39,8 +41,9 @@ public:
     };
 
     /// What came together from one moment to another; nothing outside the recording, in holes or
-    /// over a turn. `hint` is where the last look-up ended, since moments ascend.
-    [[nodiscard]] std::optional<Sums> between(double from, double to, std::size_t& hint) const {
+    /// over a greater turn. `hint` is where the last look-up ended, since moments ascend.
+    [[nodiscard]] std::optional<Sums> between(double from, double to, double greatestTurn,
+                                              std::size_t& hint) const {
         while (hint + 1 < m_time.size() && m_time[hint + 1] <= from)
             ++hint;
         if (from < m_time.front() || m_time[hint] > from)
@@ -52,7 +55,7 @@ public:
         const Sums b = at(m_time[end + 1] <= to ? end + 1 : end, to);
         const Sums sum{b.east - a.east, b.north - a.north, b.heading - a.heading,
                        b.missing - a.missing};
-        if (sum.missing > 0 || std::abs(sum.heading) > GreatestTurn)
+        if (sum.missing > 0 || std::abs(sum.heading) > greatestTurn)
             return std::nullopt;
         return sum;
     }
@@ -127,14 +130,10 @@ std::vector<std::size_t> windowEnds(std::span<const SpeedFix> fixes) {
     return ends;
 }
 
-} // namespace
-
-FixRegression regressFixes(const MotionGrid& grid, const LevelMotion& level,
-                           std::span<const SpeedFix> fixes) {
+/// The regression over the windows in which the boat does not turn more than so far.
+FixRegression regressed(const Integrals& integrals, std::span<const SpeedFix> fixes,
+                        double greatestTurn) {
     FixRegression best;
-    if (fixes.size() < LeastWindows)
-        return best;
-    const Integrals integrals(grid, level);
     const std::vector<std::size_t> ends = windowEnds(fixes);
     const double between =
         (fixes.back().time - fixes.front().time) / static_cast<double>(fixes.size() - 1);
@@ -145,7 +144,8 @@ FixRegression regressFixes(const MotionGrid& grid, const LevelMotion& level,
             if (ends[i] == 0)
                 continue;
             const SpeedFix& end = fixes[ends[i]];
-            if (const auto sum = integrals.between(fixes[i].time - lag, end.time - lag, hint))
+            if (const auto sum =
+                    integrals.between(fixes[i].time - lag, end.time - lag, greatestTurn, hint))
                 products.add(sum->east, sum->north, end.speed - fixes[i].speed);
         }
         if (products.n < LeastWindows)
@@ -155,6 +155,17 @@ FixRegression regressFixes(const MotionGrid& grid, const LevelMotion& level,
             best = {found.east, found.north, found.explained, lag};
     }
     return best;
+}
+
+} // namespace
+
+FixRegression regressFixes(const MotionGrid& grid, const LevelMotion& level,
+                           std::span<const SpeedFix> fixes) {
+    if (fixes.size() < LeastWindows)
+        return {};
+    const Integrals integrals(grid, level);
+    const FixRegression straight = regressed(integrals, fixes, GreatestTurn);
+    return straight.explained >= LeastExplained ? straight : regressed(integrals, fixes, LooseTurn);
 }
 
 } // namespace kavela::strokes

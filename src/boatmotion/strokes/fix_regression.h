@@ -13,7 +13,8 @@ struct FixRegression {
 };
 
 /// Regression of speed changes over about 3 s, where the boat keeps its heading, on the integrals
-/// of both accelerations; the lag is the one that explains most.
+/// of both accelerations; the lag is the one that explains most. Where that tells little, the boat
+/// may turn more.
 [[nodiscard]] FixRegression regressFixes(const MotionGrid& grid, const LevelMotion& level,
                                          std::span<const SpeedFix> fixes);
 
