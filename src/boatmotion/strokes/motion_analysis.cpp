@@ -167,7 +167,7 @@ MotionAnalysis analyseMotion(const MotionSamples& samples, const MotionProfile& 
     flagIf(grid.hasHoles, MotionFlag::HasHoles);
     flagIf(grid.gravityRebuilt, MotionFlag::GravityRebuilt);
 
-    analysis.slips = straightenSlips(grid);
+    analysis.slips = straightenSlips(grid, profile.boat);
     flagIf(!analysis.slips.empty(), MotionFlag::PhoneSlipped);
 
     LevelMotion level = levelMotion(grid);

@@ -19,9 +19,10 @@ constexpr std::size_t Beside = 10;         // s on either side that are compared
 constexpr std::size_t AxisBeside = 30;     // s, for the boat's long axis
 constexpr std::size_t AxisHop = 5;         // s
 constexpr std::size_t LeastForAxis = 20;   // s of a stretch whose long axis can be told
-constexpr double LeastTilt = 5.5 * Degree; // of gravity
+constexpr double LeastTilt = 7 * Degree;   // of gravity
 constexpr double LeastTwist = 15 * Degree; // of the long axis
-constexpr double LeastCertainty = 0.35;    // of a long axis
+constexpr double LeastCertainty = 0.5;     // of a long axis
+constexpr double CanoeTwist = 30 * Degree; // that strokes on one side may feign
 constexpr double GreatestSlip = 75 * Degree;
 
 Vector normalised(const Vector& v) {
@@ -116,7 +117,7 @@ double tiltAt(std::span<const Vector> down, std::size_t second) {
     const Direction before = directionOf(down.subspan(second - Beside, Beside));
     const Direction after = directionOf(down.subspan(second, Beside));
     const double angle = angleBetween(before.middle, after.middle);
-    return angle > 2 * (before.spread + after.spread) ? angle : 0;
+    return angle > 3 * (before.spread + after.spread) ? angle : 0;
 }
 
 /// The index within two seconds of it where gravity jumps most.
@@ -171,7 +172,7 @@ std::vector<std::size_t> tilts(const MotionGrid& grid) {
 
 /// The axes of a stretch, along the same way as others; of a short one the along of the others,
 /// levelled.
-BoatAxes axesLike(const MotionGrid& stretch, const BoatAxes& others) {
+BoatAxes axesLike(const MotionGrid& stretch, const BoatAxes& others, BoatClass boat) {
     BoatAxes axes = boatAxes(stretch);
     const auto crossed = [](const Vector& a, const Vector& b) {
         return Vector{a[1] * b[2] - a[2] * b[1], a[2] * b[0] - a[0] * b[2],
@@ -189,17 +190,20 @@ BoatAxes axesLike(const MotionGrid& stretch, const BoatAxes& others) {
         for (std::size_t k = 0; k < 3; ++k)
             along[k] = cosine * along[k] + sine * aside[k] + share * unit[k];
     }
-    if (stretch.size() < LeastForAxis * Second || axes.certainty < LeastCertainty)
-        axes.along = along;
-    else if (dot(axes.along, along) < 0)
+    if (dot(axes.along, along) < 0)
         axes.along = {-axes.along[0], -axes.along[1], -axes.along[2]};
+    const bool isTold = stretch.size() >= LeastForAxis * Second && axes.certainty > LeastCertainty;
+    const bool isAskew = boat == BoatClass::Canoe && angleBetween(axes.along, along) < CanoeTwist;
+    if (!isTold || isAskew)
+        axes.along = along;
     axes.left = crossed(axes.up, axes.along);
     return axes;
 }
 
 /// Turns all stretches between the cuts like the longest one; what has turned at each cut, where
 /// that is told.
-std::vector<PhoneSlip> straighten(MotionGrid& grid, const std::vector<std::size_t>& cuts) {
+std::vector<PhoneSlip> straighten(MotionGrid& grid, const std::vector<std::size_t>& cuts,
+                                  BoatClass boat) {
     std::vector<std::size_t> ends = cuts;
     ends.insert(ends.begin(), 0);
     ends.push_back(grid.size());
@@ -211,8 +215,9 @@ std::vector<PhoneSlip> straighten(MotionGrid& grid, const std::vector<std::size_
     std::vector<Rotation> rotations;
     for (std::size_t i = 0; i + 1 < ends.size(); ++i) {
         rotations.push_back(
-            i == longest ? bringing(model, model)
-                         : bringing(axesLike(part(grid, ends[i], ends[i + 1]), model), model));
+            i == longest
+                ? bringing(model, model)
+                : bringing(axesLike(part(grid, ends[i], ends[i + 1]), model, boat), model));
         if (angleOf(rotations.back()) <= GreatestSlip)
             turn(grid, ends[i], ends[i + 1], rotations.back());
     }
@@ -248,15 +253,17 @@ std::vector<std::size_t> twists(const MotionGrid& grid) {
 
 } // namespace
 
-std::vector<PhoneSlip> straightenSlips(MotionGrid& grid) {
+std::vector<PhoneSlip> straightenSlips(MotionGrid& grid, BoatClass boat) {
     std::vector<PhoneSlip> slips;
-    for (const auto find : {&tilts, &twists}) {
-        const std::vector<std::size_t> cuts = find(grid);
+    const auto straightenAt = [&](const std::vector<std::size_t>& cuts) {
         if (cuts.empty())
-            continue;
-        const std::vector<PhoneSlip> some = straighten(grid, cuts);
+            return;
+        const std::vector<PhoneSlip> some = straighten(grid, cuts, boat);
         slips.insert(slips.end(), some.begin(), some.end());
-    }
+    };
+    straightenAt(tilts(grid));
+    if (boat == BoatClass::Kayak)
+        straightenAt(twists(grid));
     std::ranges::sort(slips, {}, &PhoneSlip::time);
     return slips;
 }
