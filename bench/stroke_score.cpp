@@ -24,6 +24,8 @@ struct Result {
 Result run(const Scenario& scenario) {
     const Simulation truth = simulate(scenario);
     MotionProfile profile = profileOf(truth.session.athleteinfo);
+    if (!scenario.hasPosition && scenario.mount == PhoneMount::Forward)
+        profile.mount = Mount::TopToBow; // as its coach would have to say
     return {scenario, score(truth, analyseMotion(truth.session, profile)),
             scorePeaks(truth, simplePeaks(truth))};
 }
