@@ -69,13 +69,16 @@ RecognisedPlanning recognisePlanningDocument(const JsonDocument& json, const Dia
 }
 
 RecognisedPlanning recognisePlanningFile(const fs::path& path, const DiagnosticLog& log) {
+    RecognisedPlanning found;
     try {
-        return recognisePlanningDocument(JsonDocument::fromFile(path), log);
+        found = recognisePlanningDocument(JsonDocument::fromFile(path), log);
     } catch (const DecodeError& error) {
-        return unreadable(error.fault());
+        found = unreadable(error.fault());
     } catch (const FileError& error) {
-        return unreadable({{}, error.reason()});
+        found = unreadable({{}, error.reason()});
     }
+    found.path = path;
+    return found;
 }
 
 std::size_t variabilityWithoutPlace(const RecognisedPlanning& planning) {
@@ -100,7 +103,7 @@ void reportIncompatible(const RecognisedPlanning& planning, const DiagnosticLog&
                         Alerts& alerts) {
     for (const FailedAttempt& failure : planning.failures)
         log(std::string(failure.record) + ": " + failure.fault.message());
-    alerts.show({"", IncompatibleFileText});
+    alerts.show({"", incompatibleText(planning.path, planning.failures)});
 }
 
 bool savePlanningFile(const planningdatac_v6& document, const fs::path& path,

@@ -35,6 +35,7 @@ struct RecognisedPlanning {
     const PlanningVersion* version = nullptr; ///< null when no type decoded
     planningdatac_v6 document;                ///< empty when no type decoded
     std::vector<FailedAttempt> failures;      ///< the types tried before, newest first
+    std::filesystem::path path;               ///< of the file; empty for a document that has none
 
     [[nodiscard]] bool isCurrent() const { return version == &planningVersions().front(); }
 };

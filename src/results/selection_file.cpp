@@ -81,13 +81,16 @@ RecognisedSelectionFile recogniseSelectionDocument(const JsonDocument& json) {
 }
 
 RecognisedSelectionFile recogniseSelectionFile(const fs::path& path) {
+    RecognisedSelectionFile found;
     try {
-        return recogniseSelectionDocument(JsonDocument::fromFile(path));
+        found = recogniseSelectionDocument(JsonDocument::fromFile(path));
     } catch (const DecodeError& error) {
-        return unreadable(error.fault());
+        found = unreadable(error.fault());
     } catch (const FileError& error) {
-        return unreadable({{}, error.reason()});
+        found = unreadable({{}, error.reason()});
     }
+    found.path = path;
+    return found;
 }
 
 bool saveSelectionFile(const selectionracesStruct_v3& document, const fs::path& path,
@@ -129,7 +132,7 @@ void reportIncompatible(const RecognisedSelectionFile& file, const DiagnosticLog
                         Alerts& alerts) {
     if (!file.failures.empty())
         log("The file could not be read: " + file.failures.front().fault.message());
-    alerts.show({"", IncompatibleFileText});
+    alerts.show({"", incompatibleText(file.path, file.failures)});
 }
 
 } // namespace kavela

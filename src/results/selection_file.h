@@ -33,6 +33,7 @@ struct RecognisedSelectionFile {
     const SelectionVersion* version = nullptr; ///< null when no layout decoded
     selectionracesStruct_v3 document;
     std::vector<FailedAttempt> failures; ///< the layouts tried before, newest first
+    std::filesystem::path path;          ///< of the file; empty for a document that has none
 
     [[nodiscard]] bool isCurrent() const { return version == &selectionVersions().front(); }
 };

@@ -1,5 +1,6 @@
 #include "splitdata/loader.h"
 
+#include "common/display_text.h"
 #include "common/json_encode.h"
 #include "common/safe_file.h"
 
@@ -22,6 +23,7 @@ void logHopeless(const std::filesystem::path& path, const DiagnosticLog& log) {
 RecognisedSplitFile unreadable(const Fault& fault, const std::filesystem::path& path,
                                const DiagnosticLog& log) {
     RecognisedSplitFile found;
+    found.path = path;
     for (const DocumentVersion& version : documentVersions()) {
         logAttempt(version, log);
         found.failures.push_back({version.record, fault});
@@ -36,16 +38,24 @@ bool rewrite(const RecognisedSplitFile& file, const std::filesystem::path& path,
     return saveSplitFile(file.document, path, log);
 }
 
-void showIncompatible(Alerts& alerts) {
-    alerts.show({"", IncompatibleFileText});
-}
-
 } // namespace
+
+std::string incompatibleText(const std::filesystem::path& path,
+                             const std::vector<FailedAttempt>& failures) {
+    std::string text = IncompatibleFileText;
+    if (path.empty())
+        return text;
+    text += "\n" + validUtf8(path.filename().string());
+    if (!failures.empty())
+        text += ": " + validUtf8(failures.front().fault.message());
+    return text;
+}
 
 RecognisedSplitFile recogniseSplitDocument(const JsonDocument& json,
                                            const std::filesystem::path& path,
                                            const DiagnosticLog& log, const Clock& clock) {
     RecognisedSplitFile found;
+    found.path = path;
     for (const DocumentVersion& version : documentVersions()) {
         logAttempt(version, log);
         Fault fault;
@@ -109,7 +119,7 @@ std::optional<splittakerdata031> readSplitFile(const std::filesystem::path& path
 void reportIncompatible(const RecognisedSplitFile& file, const DiagnosticLog& log, Alerts& alerts) {
     if (!file.failures.empty())
         log("The file could not be read: " + file.failures.front().fault.message());
-    showIncompatible(alerts);
+    alerts.show({"", incompatibleText(file.path, file.failures)});
 }
 
 } // namespace kavela

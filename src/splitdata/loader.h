@@ -20,11 +20,17 @@ namespace kavela {
 inline constexpr const char* IncompatibleFileText =
     "The imported file is not compatible. Be sure you have the latest KV version.";
 
+/// That, and in a second sentence which file it is and what is wrong with it; `failures` are the
+/// types it was tried as. Without a path nothing more is known.
+[[nodiscard]] std::string incompatibleText(const std::filesystem::path& path,
+                                           const std::vector<FailedAttempt>& failures);
+
 /// A split file as found on the disk, brought to the current version in memory only.
 struct RecognisedSplitFile {
     const DocumentVersion* version = nullptr; ///< null when no type decoded
     splittakerdata031 document;               ///< empty when no type decoded
     std::vector<FailedAttempt> failures;      ///< the types tried before, newest first
+    std::filesystem::path path;               ///< of the file
 
     [[nodiscard]] bool isCurrent() const { return version == &documentVersions().front(); }
 };

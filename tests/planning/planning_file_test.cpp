@@ -211,8 +211,10 @@ TEST(PlanningFiles, ThatCannotBeOpenedAreReported) {
         const fs::path path = folder.add("broken.planning", content);
         EXPECT_FALSE(openPlanningFile(path, recorder.log(), recorder));
         EXPECT_THAT(recorder.alerts,
-                    ElementsAre("The imported file is not compatible. Be sure you have the latest "
-                                "KV version."));
+                    ElementsAre(testing::AllOf(
+                        testing::StartsWith("The imported file is not compatible. Be sure you "
+                                            "have the latest KV version.\n"),
+                        HasSubstr("broken.planning"), HasSubstr(reason))));
         EXPECT_THAT(recorder.lines, Each(HasSubstr(reason)));
         EXPECT_THAT(recorder.lines, testing::SizeIs(6));
     }

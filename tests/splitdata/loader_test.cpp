@@ -42,7 +42,8 @@ void expectRefused(const Reading& reading, const std::filesystem::path& path,
     EXPECT_FALSE(reading.document);
     EXPECT_THAT(reading.alerts.texts,
                 ElementsAre("The imported file is not compatible. Be sure you have the latest KV "
-                            "version."));
+                            "version.\n" +
+                            path.filename().string() + ": " + reason));
     std::vector<std::string> lines = hopelessLines(path);
     lines.push_back("The file could not be read: " + reason);
     EXPECT_THAT(reading.log.lines, ElementsAreArray(lines));
