@@ -95,8 +95,7 @@ bool PlanningDocument::recover(const std::string& content) {
             recognisePlanningDocument(JsonDocument::fromText(content), workspace().log());
         if (!recognised.version)
             return false;
-        edit(tr("recovered work"),
-             [&](planningdatac_v6& plan) { plan = std::move(recognised.document); });
+        startFrom(std::move(recognised.document));
         return true;
     } catch (const DecodeError& error) {
         workspace().log()(error.what());

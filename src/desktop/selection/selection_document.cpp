@@ -72,8 +72,7 @@ bool SelectionDocument::recover(const std::string& content) {
         auto recognised = recogniseSelectionDocument(JsonDocument::fromText(content));
         if (!recognised.version)
             return false;
-        edit(tr("recovered work"),
-             [&](selectionracesStruct_v3& document) { document = std::move(recognised.document); });
+        startFrom(std::move(recognised.document));
         return true;
     } catch (const DecodeError& error) {
         workspace().log()(error.what());

@@ -21,8 +21,7 @@ std::string SessionDocument::content() const {
 /// A recording that is open beside stays as it was read.
 bool SessionDocument::recover(const std::string& content) {
     try {
-        EditedSession recovered = editedSession(decodeText<smartAlldata_v4>(content));
-        edit(tr("recovered work"), [&](EditedSession& session) { session = recovered; });
+        startFrom(editedSession(decodeText<smartAlldata_v4>(content)));
         return true;
     } catch (const DecodeError&) {
         return false;

@@ -51,9 +51,9 @@ void EditedFile::offerRecovery(QWidget* over) {
     if (!work)
         return;
     m_workspace.log()(messages::AutosaveFound);
-    const bool isWanted =
-        m_workspace.ask({"", messages::AskToLoadAutosave}, tr("Load"), over) && recover(*work);
-    if (!isWanted)
+    if (m_workspace.ask({"", messages::AskToLoadAutosave}, tr("Load"), over) && recover(*work))
+        m_undo.resetClean(); // dirty, and no undo makes it clean: its copy stays until it is saved
+    else
         m_autosave.putAside(m_path);
 }
 

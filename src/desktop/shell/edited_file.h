@@ -49,7 +49,7 @@ signals:
 protected:
     /// The document as its file holds it. Throws EncodeError.
     [[nodiscard]] virtual std::string content() const = 0;
-    /// Takes over recovered work as an edit; false when it is none.
+    /// Starts from recovered work instead of what the file holds; false when it is none.
     [[nodiscard]] virtual bool recover(const std::string& content) = 0;
     /// What to tell when the file cannot be written.
     [[nodiscard]] virtual std::string failure() const { return "Failed to create file"; }
@@ -102,10 +102,15 @@ protected:
     virtual void settle(Value& /*value*/) {}
 
     void start(Value value, const QString& path, QWidget* over) {
-        settle(value);
-        m_value = std::make_shared<Value>(std::move(value));
+        startFrom(std::move(value));
         begin(path, over);
         emit changed();
+    }
+
+    /// No step of the undo stack leads behind this value.
+    void startFrom(Value value) {
+        settle(value);
+        m_value = std::make_shared<Value>(std::move(value));
     }
 
 private:

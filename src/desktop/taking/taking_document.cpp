@@ -182,10 +182,12 @@ void TakingDocument::offerAutosave(QWidget* over) {
     }
     const bool isWanted =
         read.version && m_workspace.ask({"", messages::AskToLoadAutosave}, tr("Load"), over);
-    if (isWanted)
-        push(tr("recovered work"), stateOf(std::move(read.document)));
-    else
+    if (!isWanted) {
         m_autosave.putAside(m_path);
+        return;
+    }
+    m_undo.resetClean(); // dirty, and no undo makes it clean: its copy stays until it is saved
+    show(stateOf(std::move(read.document)));
 }
 
 const athletedata031& TakingDocument::run(int index) const {

@@ -68,8 +68,7 @@ bool TeamDocument::recover(const std::string& content) {
         auto recognised = recogniseTeamDocument(JsonDocument::fromText(content));
         if (!recognised.team)
             return false;
-        edit(tr("recovered work"),
-             [&](myTeamToSaveStruct& team) { team = std::move(*recognised.team); });
+        startFrom(std::move(*recognised.team));
         return true;
     } catch (const DecodeError& error) {
         workspace().log()(error.what());

@@ -135,8 +135,7 @@ bool TestsDocument::recover(const std::string& content) {
         auto recognised = recogniseTests(JsonDocument::fromText(content));
         if (!recognised.tests)
             return false;
-        edit(tr("recovered work"),
-             [&](TestList& list) { list = listOf(std::move(*recognised.tests)); });
+        startFrom(listOf(std::move(*recognised.tests)));
         return true;
     } catch (const DecodeError& error) {
         workspace().log()(error.what());

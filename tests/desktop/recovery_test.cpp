@@ -1,0 +1,185 @@
+#include "common/recorders.h"
+#include "common/temp_folder.h"
+#include "desktop/cross/cross_window.h"
+#include "desktop/desktop.h"
+#include "desktop/planning/planning_window.h"
+#include "desktop/selection/selection_window.h"
+#include "desktop/shell/edited_file.h"
+#include "desktop/taking/taking_window.h"
+#include "desktop/team/team_window.h"
+#include "desktop/watertests/tests_window.h"
+#include "splittaking/messages.h"
+
+#include <gmock/gmock.h>
+
+#include <QApplication>
+#include <QMainWindow>
+#include <QTest>
+
+/// What was not saved when the program ended in the middle of work.
+namespace kavela::test {
+namespace {
+
+namespace fs = std::filesystem;
+using desktop::Autosave;
+using desktop::Desktop;
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+
+/// A tool with a document in it: what a coach changes there, and whether it is there.
+struct Tool {
+    const char* name;
+    const char* example;
+    std::function<void(QMainWindow&)> edit;
+    std::function<bool(QMainWindow&)> isEdited;
+    std::function<bool(QMainWindow&)> save;
+};
+
+/// A tool on a list: the coach removes all that it holds.
+template <class Window, class List>
+Tool listTool(const char* name, const char* example, List list) {
+    return {name, example,
+            [list](QMainWindow& window) {
+                dynamic_cast<Window&>(window).document().edit(
+                    "removal", [&](auto& value) { list(value).clear(); });
+            },
+            [list](QMainWindow& window) {
+                auto value = dynamic_cast<Window&>(window).document().value();
+                return list(value).empty();
+            },
+            [](QMainWindow& window) { return dynamic_cast<Window&>(window).file().save(&window); }};
+}
+
+constexpr const char* Typed = "typed before the end";
+
+std::vector<Tool> tools() {
+    using desktop::CrossWindow;
+    using desktop::TakingWindow;
+    return {
+        listTool<desktop::TeamWindow>(
+            "team", "team/kavela_team.kvteam", [](auto& team) -> auto& { return team.realMyTeam; }),
+        listTool<desktop::SelectionWindow>(
+            "selection", "selection/spring_selection.kvsr",
+            [](auto& selection) -> auto& { return selection.races; }),
+        listTool<desktop::PlanningWindow>(
+            "planning", "planning/season.planning",
+            [](auto& plan) -> auto& { return plan.athletes; }),
+        listTool<desktop::TestsWindow>(
+            "tests", "tests/form_tests.kvtest", [](auto& tests) -> auto& { return tests; }),
+        {"split taking", "races/spring_opener.kvx",
+         [](QMainWindow& window) {
+             dynamic_cast<TakingWindow&>(window).document().editRun(
+                 0, "hand", [](athletedata031& run) { run.hand = Typed; });
+         },
+         [](QMainWindow& window) {
+             return dynamic_cast<TakingWindow&>(window).document().run(0).hand == Typed;
+         },
+         [](QMainWindow& window) { return dynamic_cast<TakingWindow&>(window).save(); }},
+        {"kayak cross", "races/harbour_cross.kvx",
+         [](QMainWindow& window) {
+             dynamic_cast<CrossWindow&>(window).document().editCross(
+                 "name", [](crossdata030& cross) { cross.crossinfo.phase = Typed; });
+         },
+         [](QMainWindow& window) {
+             return dynamic_cast<CrossWindow&>(window).document().cross().crossinfo.phase == Typed;
+         },
+         [](QMainWindow& window) {
+             auto& document = dynamic_cast<CrossWindow&>(window).document();
+             return document.save(&window);
+         }}};
+}
+
+class RecoveryTest : public ::testing::TestWithParam<Tool> {
+protected:
+    RecoveryTest() {
+        m_workspace.setAlerts(&m_recorder);
+        m_workspace.setAnswer([this](const Alert& question) {
+            m_questions.push_back(question.text);
+            return true;
+        });
+    }
+
+    /// The program as it starts after one that ended without a word.
+    void start() {
+        m_program = std::make_unique<Desktop>(
+            m_workspace, Autosave(QString::fromStdString((m_folder.path() / "kept").string())));
+        m_questions.clear();
+    }
+
+    [[nodiscard]] QMainWindow* window() const {
+        if (!m_program->takingWindows().isEmpty())
+            return m_program->takingWindows().front();
+        if (!m_program->crossWindows().isEmpty())
+            return m_program->crossWindows().front();
+        return m_program->editorWindows().isEmpty() ? nullptr : m_program->editorWindows().front();
+    }
+
+    void open(const QString& path) {
+        if (path.endsWith("opener.kvx"))
+            (void)m_program->openTaking(path);
+        else
+            m_program->open(path);
+    }
+
+    void press(QKeyCombination keys) {
+        QApplication::setActiveWindow(window());
+        QWidget* const focus = window()->focusWidget() ? window()->focusWidget() : window();
+        QTest::keyClick(focus, keys.key(), keys.keyboardModifiers());
+        QApplication::processEvents();
+    }
+
+    TempFolder m_folder;
+    Recorder m_recorder;
+    std::vector<std::string> m_questions;
+    desktop::Workspace m_workspace{Preferences(m_folder.path() / "preferences.ini"),
+                                   m_recorder.log(), [] { return ReferenceDate{8e8}; }};
+    std::unique_ptr<Desktop> m_program;
+};
+
+/// Work that was recovered is where the document begins: no undo leads behind it, and until it is
+/// saved its copy stays.
+TEST_P(RecoveryTest, IsNotLostByUndoNorByAnotherEnd) {
+    const Tool& tool = GetParam();
+    const fs::path example = fs::path(KAVELA_EXAMPLES) / tool.example;
+    const fs::path file = m_folder.path() / example.filename();
+    fs::copy_file(example, file);
+    start();
+    open(QString::fromStdString(file.string()));
+    ASSERT_TRUE(window());
+    tool.edit(*window());
+    ASSERT_TRUE(tool.isEdited(*window()));
+
+    start(); // the program before is gone without having been closed
+    m_program->offerRecovery();
+    EXPECT_THAT(m_questions, ElementsAre(messages::AskToLoadAutosave));
+    ASSERT_TRUE(window());
+    EXPECT_TRUE(tool.isEdited(*window()));
+    EXPECT_TRUE(window()->isWindowModified());
+    for (int i = 0; i < 3; ++i)
+        press(Qt::CTRL | Qt::Key_Z);
+    EXPECT_TRUE(tool.isEdited(*window())) << "nothing was done yet that could be undone";
+    EXPECT_TRUE(window()->isWindowModified());
+
+    start();
+    m_program->offerRecovery();
+    EXPECT_THAT(m_questions, ElementsAre(messages::AskToLoadAutosave)) << "it was never saved";
+    ASSERT_TRUE(window());
+    EXPECT_TRUE(tool.isEdited(*window()));
+    EXPECT_TRUE(tool.save(*window()));
+    EXPECT_FALSE(window()->isWindowModified());
+
+    start();
+    m_program->offerRecovery();
+    EXPECT_THAT(m_questions, IsEmpty());
+    EXPECT_FALSE(window()) << "what is saved needs no recovery";
+    EXPECT_THAT(m_recorder.alerts, IsEmpty());
+}
+
+INSTANTIATE_TEST_SUITE_P(Tools, RecoveryTest, ::testing::ValuesIn(tools()), [](const auto& tool) {
+    std::string name = tool.param.name;
+    std::erase(name, ' ');
+    return name;
+});
+
+} // namespace
+} // namespace kavela::test
