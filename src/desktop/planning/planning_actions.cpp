@@ -22,7 +22,7 @@ QString tr(const char* text) {
 void add(QMenu& menu, PlanningWindow& window, const QString& text, const QKeySequence& key,
          const std::function<void(PlanView&)>& act) {
     menu.addAction(text, key, &window, [&window, act] {
-        window.tabs().setCurrentWidget(&window.plan());
+        window.tabs().setCurrentIndex(0); // the plan
         act(window.plan());
     });
 }

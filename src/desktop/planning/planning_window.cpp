@@ -11,6 +11,7 @@
 #include "desktop/planning/planned_athlete_dialog.h"
 #include "desktop/planning/planning_actions.h"
 #include "desktop/planning/ranking/ranking_panel.h"
+#include "desktop/shell/scroll_page.h"
 #include "desktop/shell/theme.h"
 #include "desktop/shell/window_place.h"
 #include "desktop/shell/workspace.h"
@@ -73,12 +74,15 @@ void PlanningWindow::makeParts() {
     m_gym = new GymPanel(*m_document, workspace().log(), workspace().clock());
     m_ranking = new RankingPanel(*m_document, workspace());
     m_intervals = new IntervalsPanel(*m_document);
-    m_tabs->addTab(m_plan, tr("Plan"));
-    m_tabs->addTab(m_goals, tr("Goals"));
-    m_tabs->addTab(m_body, tr("Body and heart"));
-    m_tabs->addTab(m_gym, tr("Gym"));
-    m_tabs->addTab(m_ranking, tr("Ranking and races"));
-    m_tabs->addTab(m_intervals, tr("Interval sessions"));
+    const auto add = [this](QWidget* page, const QString& title) {
+        m_tabs->addTab(new ScrollPage(page), title);
+    };
+    add(m_plan, tr("Plan"));
+    add(m_goals, tr("Goals"));
+    add(m_body, tr("Body and heart"));
+    add(m_gym, tr("Gym"));
+    add(m_ranking, tr("Ranking and races"));
+    add(m_intervals, tr("Interval sessions"));
     auto* whole = new QSplitter;
     whole->setContentsMargins(theme::LargeSpacing, theme::Spacing, theme::LargeSpacing,
                               theme::Spacing);
@@ -95,10 +99,8 @@ void PlanningWindow::connectParts() {
     connect(m_athletes, &AthleteList::seasonChosen, this, &PlanningWindow::showSeason);
     connect(m_plan, &PlanView::told, this,
             [this](const QString& text) { statusBar()->showMessage(text, ToldMilliseconds); });
-    for (int tab = 0; tab < m_tabs->count(); ++tab)
-        if (auto* const panel = qobject_cast<SeasonPanel*>(m_tabs->widget(tab)))
-            connect(panel, &SeasonPanel::refused, this, &PlanningWindow::tell,
-                    Qt::QueuedConnection);
+    for (const SeasonPanel* const panel : m_tabs->findChildren<SeasonPanel*>())
+        connect(panel, &SeasonPanel::refused, this, &PlanningWindow::tell, Qt::QueuedConnection);
     connect(m_intervals, &IntervalsPanel::refused, this, &PlanningWindow::tell,
             Qt::QueuedConnection);
 }
@@ -132,9 +134,8 @@ void PlanningWindow::showSeason() {
     const auto place = season    ? season
                        : athlete ? std::optional(PlannedSeason{*athlete, 0})
                                  : std::nullopt;
-    for (int tab = 0; tab < m_tabs->count(); ++tab)
-        if (auto* const panel = qobject_cast<SeasonPanel*>(m_tabs->widget(tab)))
-            panel->showSeason(place);
+    for (SeasonPanel* const panel : m_tabs->findChildren<SeasonPanel*>())
+        panel->showSeason(place);
 }
 
 void PlanningWindow::tell(const QString& text) {

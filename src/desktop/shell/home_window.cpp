@@ -17,6 +17,7 @@
 #include <QListWidget>
 #include <QMenuBar>
 #include <QPushButton>
+#include <QScrollArea>
 #include <QVBoxLayout>
 
 namespace kavela::desktop {
@@ -24,6 +25,7 @@ namespace kavela::desktop {
 namespace {
 
 constexpr int TilesInRow = 3;
+constexpr int LeastRecentHeight = 96; ///< some lines, also where the page scrolls
 
 QLabel* label(const QString& text, const QFont& font) {
     auto* made = new QLabel(text);
@@ -47,7 +49,12 @@ HomeWindow::HomeWindow(Workspace& workspace, const Tools& tools) : m_workspace(w
     column->addWidget(tiles(tools));
     column->addSpacing(theme::Spacing);
     column->addWidget(recentFiles(), 1);
-    setCentralWidget(page);
+    auto* area = new QScrollArea;
+    area->setWidgetResizable(true);
+    area->setFrameShape(QFrame::NoFrame);
+    area->setFocusPolicy(Qt::NoFocus);
+    area->setWidget(page);
+    setCentralWidget(area);
     resize(1000, 680);
     rememberPlace(*this, workspace, "home");
     for (const Tool& tool : tools)
@@ -117,6 +124,7 @@ QWidget* HomeWindow::recentFiles() {
     m_noRecent->setWordWrap(true);
     m_recent = new QListWidget;
     m_recent->setObjectName("recentFiles");
+    m_recent->setMinimumHeight(LeastRecentHeight);
     connect(m_recent, &QListWidget::itemActivated, this, [this](const QListWidgetItem* item) {
         emit m_workspace.openRequested(item->data(Qt::UserRole).toString());
     });

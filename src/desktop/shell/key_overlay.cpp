@@ -1,5 +1,7 @@
 #include "desktop/shell/key_overlay.h"
 
+#include "desktop/shell/key_list.h"
+#include "desktop/shell/screen_fit.h"
 #include "desktop/shell/theme.h"
 
 #include <QAction>
@@ -7,10 +9,9 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QMainWindow>
-#include <QMenu>
-#include <QMenuBar>
-#include <QScreen>
-#include <QSet>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QStyle>
 
 #include <memory>
 
@@ -18,47 +19,11 @@ namespace kavela::desktop {
 
 namespace {
 
-struct KeyGroup {
-    QString title;
-    QList<QPair<QString, QString>> lines; ///< keys, what they do
-};
-
 QString plainTitle(QString text) {
     text.remove('&');
     if (text.endsWith(u'…'))
         text.chop(1);
     return text;
-}
-
-void collect(const QList<QAction*>& actions, KeyGroup& group, QSet<const QAction*>& seen) {
-    for (const QAction* action : actions) {
-        if (action->menu())
-            collect(action->menu()->actions(), group, seen);
-        if (action->shortcut().isEmpty() || seen.contains(action))
-            continue;
-        seen.insert(action);
-        group.lines.append(
-            {action->shortcut().toString(QKeySequence::NativeText), plainTitle(action->text())});
-    }
-}
-
-QList<KeyGroup> keyGroups(const QMainWindow& window) {
-    QList<KeyGroup> groups;
-    QSet<const QAction*> seen;
-    for (const QAction* menu : window.menuBar()->actions()) {
-        if (!menu->menu())
-            continue;
-        KeyGroup group{plainTitle(menu->text()), {}};
-        collect(menu->menu()->actions(), group, seen);
-        groups.append(group);
-    }
-    KeyGroup others{KeyOverlay::tr("In the charts"), {}};
-    for (const QWidget* part : window.findChildren<QWidget*>())
-        if (part->isVisible())
-            collect(part->actions(), others, seen);
-    groups.append(others);
-    groups.removeIf([](const KeyGroup& group) { return group.lines.isEmpty(); });
-    return groups;
 }
 
 /// The groups of each column, in their order, in as low columns as so many of them allow.
@@ -68,7 +33,7 @@ QList<QList<KeyGroup>> packed(const QList<KeyGroup>& groups, qsizetype columns) 
         QList<QList<KeyGroup>> tried;
         qsizetype used = height;
         for (const KeyGroup& group : groups) {
-            const qsizetype lines = group.lines.size() + TitleLines;
+            const qsizetype lines = group.keys.size() + TitleLines;
             if (tried.isEmpty() || used + lines > height) {
                 tried.append(QList<KeyGroup>());
                 used = 0;
@@ -91,13 +56,13 @@ QWidget* boxOf(const KeyGroup& group, const QWidget& like) {
     title->setFont(theme::titleFont(like));
     grid->addWidget(title, 0, 0, 1, 2);
     int row = 1;
-    for (const auto& [keys, what] : group.lines) {
-        auto* key = new QLabel(keys);
+    for (const ListedKey& listed : group.keys) {
+        auto* key = new QLabel(listed.action->shortcut().toString(QKeySequence::NativeText));
         QFont bold = key->font();
         bold.setBold(true);
         key->setFont(bold);
         grid->addWidget(key, row, 0, Qt::AlignRight);
-        grid->addWidget(new QLabel(what), row++, 1);
+        grid->addWidget(new QLabel(plainTitle(listed.action->text())), row++, 1);
     }
     grid->setColumnStretch(1, 1);
     return box;
@@ -126,18 +91,59 @@ QWidget* columnsOf(const QList<KeyGroup>& groups, const QWidget& like, int width
 } // namespace
 
 KeyOverlay::KeyOverlay(const QMainWindow& window, QWidget* parent)
-    : QDialog(parent, Qt::Dialog | Qt::FramelessWindowHint) {
+    : QDialog(parent, Qt::Dialog | Qt::FramelessWindowHint), m_area(new QScrollArea) {
     setWindowTitle(tr("All keys"));
-    auto* row = new QHBoxLayout(theme::floatingFrame(*this));
-    row->setContentsMargins(theme::PageMargin, theme::PageMargin, theme::PageMargin,
-                            theme::PageMargin);
+    const QSize free = freeArea(window).size();
     const int margins = 2 * theme::PageMargin + 2 * theme::Spacing;
-    row->addWidget(
-        columnsOf(keyGroups(window), *this, screen()->availableSize().width() - margins));
+    QWidget* const keys = columnsOf(keyGroups(window), *this, free.width() - margins);
+    keys->layout()->setContentsMargins(theme::PageMargin, theme::PageMargin, theme::PageMargin,
+                                       theme::PageMargin);
+    m_area->setFrameShape(QFrame::NoFrame);
+    m_area->setWidgetResizable(true);
+    m_area->setFocusPolicy(Qt::NoFocus);
+    m_area->setWidget(keys);
+    auto* column = new QVBoxLayout(theme::floatingFrame(*this));
+    column->setContentsMargins(0, 0, 0, 0);
+    column->addWidget(m_area, 1);
+    const QSize whole = keys->sizeHint() + QSize(2, 2) * 2;
+    const bool isTooHigh = whole.height() > free.height();
+    if (isTooHigh) {
+        auto* hint = new QLabel(tr("Up, Down, Page up and Page down show the rest; any other key "
+                                   "closes."));
+        hint->setForegroundRole(QPalette::PlaceholderText);
+        hint->setAlignment(Qt::AlignCenter);
+        column->addWidget(hint);
+    }
+    const int bar = isTooHigh ? style()->pixelMetric(QStyle::PM_ScrollBarExtent) : 0;
+    resize((whole + QSize(bar, 0)).boundedTo(free));
 }
 
-void KeyOverlay::keyPressEvent(QKeyEvent*) {
-    accept();
+/// Scrolls by a key where not all keys fit; false where the key is none of these.
+bool KeyOverlay::isScrolledBy(int key) {
+    QScrollBar& bar = *m_area->verticalScrollBar();
+    if (bar.maximum() == bar.minimum())
+        return false;
+    switch (key) {
+    case Qt::Key_Down:
+        bar.triggerAction(QAbstractSlider::SliderSingleStepAdd);
+        return true;
+    case Qt::Key_Up:
+        bar.triggerAction(QAbstractSlider::SliderSingleStepSub);
+        return true;
+    case Qt::Key_PageDown:
+        bar.triggerAction(QAbstractSlider::SliderPageStepAdd);
+        return true;
+    case Qt::Key_PageUp:
+        bar.triggerAction(QAbstractSlider::SliderPageStepSub);
+        return true;
+    default:
+        return false;
+    }
+}
+
+void KeyOverlay::keyPressEvent(QKeyEvent* event) {
+    if (!isScrolledBy(event->key()))
+        accept();
 }
 
 void KeyOverlay::mousePressEvent(QMouseEvent*) {

@@ -8,6 +8,7 @@ namespace kavela::desktop {
 
 namespace {
 constexpr int Width = 300;
+constexpr int LeastWidth = 236; ///< three beside each other on a small screen
 constexpr int Height = 104;
 constexpr int IconSize = 40;
 constexpr int Radius = 8;
@@ -20,12 +21,17 @@ Tile::Tile(const Tool& tool, QWidget* parent) : QAbstractButton(parent), m_purpo
     setAccessibleDescription(tool.purpose);
     setCursor(Qt::PointingHandCursor);
     setFocusPolicy(Qt::StrongFocus);
-    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+    setMaximumWidth(Width);
     connect(this, &QAbstractButton::clicked, this, tool.open);
 }
 
 QSize Tile::sizeHint() const {
     return {Width, Height};
+}
+
+QSize Tile::minimumSizeHint() const {
+    return {LeastWidth, Height};
 }
 
 void Tile::paintEvent(QPaintEvent*) {

@@ -14,6 +14,7 @@ public:
     explicit Tile(const Tool& tool, QWidget* parent = nullptr);
 
     [[nodiscard]] QSize sizeHint() const override;
+    [[nodiscard]] QSize minimumSizeHint() const override;
 
 protected:
     void paintEvent(QPaintEvent* event) override;

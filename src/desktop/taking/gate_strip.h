@@ -23,6 +23,7 @@ public:
     [[nodiscard]] int gates() const { return m_gates; }
 
     [[nodiscard]] QSize sizeHint() const override;
+    [[nodiscard]] QSize minimumSizeHint() const override;
 
 signals:
     void gateClicked(int gate);
@@ -30,10 +31,12 @@ signals:
 
 protected:
     void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     bool event(QEvent* event) override;
 
 private:
+    void fitRows();
     [[nodiscard]] QRectF placeOf(int gate) const;
     [[nodiscard]] int gateAt(QPointF place) const;
     [[nodiscard]] bool isUpstream(int gate) const;
@@ -44,6 +47,7 @@ private:
     int m_current = 1;
     std::vector<std::int64_t> m_upGates;
     std::vector<std::int64_t> m_penalties;
+    int m_rows = 1;
 };
 
 } // namespace kavela::desktop

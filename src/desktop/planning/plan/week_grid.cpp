@@ -367,8 +367,9 @@ void WeekGrid::paintFrame(QPainter& painter) const {
         painter.setPen(isToday ? palette().color(QPalette::Link)
                                : palette().color(QPalette::WindowText));
         if (m_firstDay)
-            painter.drawText(head.adjusted(Gap, 0, 0, 0), Qt::AlignLeft | Qt::AlignVCenter,
-                             dayTitle(*m_firstDay + days(day)));
+            painter.drawText(
+                head.adjusted(Gap, 0, 0, 0), Qt::AlignLeft | Qt::AlignVCenter,
+                dayTitle(*m_firstDay + days(day), head.width() - 2 * Gap, painter.fontMetrics()));
         if (day >= 5)
             painter.fillRect(QRect(head.left(), m_rowTops[0], head.width(), bottom - m_rowTops[0]),
                              palette().color(QPalette::AlternateBase));

@@ -130,4 +130,13 @@ QString dayTitle(std::chrono::sys_days day) {
     return QLocale::c().toString(shown, "ddd d MMM");
 }
 
+QString dayTitle(std::chrono::sys_days day, int width, const QFontMetrics& metrics) {
+    const QString whole = dayTitle(day); // "Mon 25 May"
+    const QString withoutMonth = whole.section(' ', 0, 1);
+    for (const QString& title : {whole, withoutMonth})
+        if (metrics.horizontalAdvance(title) <= width)
+            return title;
+    return withoutMonth.section(' ', 1);
+}
+
 } // namespace kavela::desktop

@@ -2,6 +2,7 @@
 
 #include "planning/planning_records.h"
 
+#include <QFontMetrics>
 #include <QString>
 
 /// Weeks and sessions in words, as they stand on the strip of the year and in the week.
@@ -26,5 +27,7 @@ namespace kavela::desktop {
 
 /// "Mon 9 Mar"
 [[nodiscard]] QString dayTitle(std::chrono::sys_days day);
+/// As much of it as fits so many pixels: "Mon 9 Mar", "Mon 9" or "9".
+[[nodiscard]] QString dayTitle(std::chrono::sys_days day, int width, const QFontMetrics& metrics);
 
 } // namespace kavela::desktop

@@ -1,0 +1,184 @@
+#include "desktop/shell/screen_fit.h"
+
+#include <QApplication>
+#include <QDialog>
+#include <QDialogButtonBox>
+#include <QEvent>
+#include <QFileDialog>
+#include <QMainWindow>
+#include <QMessageBox>
+#include <QProgressDialog>
+#include <QPushButton>
+#include <QScreen>
+#include <QScrollArea>
+#include <QStyle>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+namespace kavela::desktop {
+
+namespace {
+
+constexpr int LeastTitleBar = 30; ///< pixels; most systems draw about this
+constexpr int LeastBorder = 2;
+constexpr const char* Scrolls = "contentScrolls"; ///< property of a window that was made to
+
+/// The frame that a window will have is known only once it is there: before, it is guessed.
+QMargins frameOf(const QWidget& window) {
+    if (window.windowFlags().testFlag(Qt::FramelessWindowHint))
+        return {};
+    const QRect inner = window.geometry();
+    const QRect outer = window.frameGeometry();
+    if (outer != inner)
+        return {inner.left() - outer.left(), inner.top() - outer.top(),
+                outer.right() - inner.right(), outer.bottom() - inner.bottom()};
+    const int title = window.style()->pixelMetric(QStyle::PM_TitleBarHeight, nullptr, &window);
+    return {LeastBorder, std::max(title, LeastTitleBar), LeastBorder, LeastBorder};
+}
+
+bool isFittedWindow(const QObject& watched) {
+    if (!watched.isWidgetType())
+        return false;
+    const auto& widget = static_cast<const QWidget&>(watched);
+    return widget.isWindow() &&
+           (widget.windowType() == Qt::Window || widget.windowType() == Qt::Dialog);
+}
+
+/// Dialogs that lay themselves out.
+bool isOfTheToolkit(const QWidget& window) {
+    return qobject_cast<const QMessageBox*>(&window) || qobject_cast<const QFileDialog*>(&window) ||
+           qobject_cast<const QProgressDialog*>(&window);
+}
+
+QScrollArea* scrolling(QWidget* content) {
+    auto* area = new QScrollArea;
+    area->setWidgetResizable(true);
+    area->setFrameShape(QFrame::NoFrame);
+    area->setFocusPolicy(Qt::NoFocus); // Tab goes from field to field, as without it
+    area->setWidget(content);
+    return area;
+}
+
+bool holdsButtons(const QLayoutItem& item) {
+    if (qobject_cast<const QDialogButtonBox*>(item.widget()))
+        return true;
+    QLayout* const row = const_cast<QLayoutItem&>(item).layout();
+    for (int i = 0; row && i < row->count(); ++i)
+        if (qobject_cast<const QPushButton*>(row->itemAt(i)->widget()))
+            return true;
+    return false;
+}
+
+/// What a dialog holds scrolls; its buttons at the bottom stay in view.
+void makeScroll(QDialog& dialog) {
+    QLayout* const content = dialog.layout();
+    auto* const page = new QWidget;
+    QLayoutItem* buttons = nullptr;
+    if (auto* const column = qobject_cast<QVBoxLayout*>(content);
+        column && column->count() > 1 && holdsButtons(*column->itemAt(column->count() - 1)))
+        buttons = column->takeAt(column->count() - 1);
+    const QMargins margins = content->contentsMargins();
+    QWidget* const focus = dialog.focusWidget();
+    content->setSizeConstraint(QLayout::SetDefaultConstraint);
+    page->setLayout(content); // with the widgets in it
+    auto* const whole = new QVBoxLayout(&dialog);
+    whole->setContentsMargins(0, 0, 0, buttons ? margins.bottom() : 0);
+    whole->addWidget(scrolling(page), 1);
+    if (buttons) {
+        auto* const row = new QHBoxLayout;
+        row->setContentsMargins(margins.left(), 0, margins.right(), 0);
+        if (QLayout* const inner = buttons->layout())
+            row->addLayout(inner, 1);
+        else
+            row->addItem(buttons);
+        whole->addLayout(row);
+    }
+    if (focus)
+        focus->setFocus(); // lost it when it changed its parent
+}
+
+/// Only where a window cannot be made small enough by its own parts.
+void makeScroll(QMainWindow& window) {
+    QWidget* const central = window.takeCentralWidget();
+    if (central)
+        window.setCentralWidget(scrolling(central));
+}
+
+} // namespace
+
+QRect fitted(const QRect& wanted, const QRect& area) {
+    QRect inside(wanted.topLeft(), wanted.size().boundedTo(area.size()));
+    inside.moveLeft(
+        std::clamp(inside.left(), area.left(), area.left() + area.width() - inside.width()));
+    inside.moveTop(
+        std::clamp(inside.top(), area.top(), area.top() + area.height() - inside.height()));
+    return inside;
+}
+
+QRect freeArea(const QWidget& window) {
+    const QScreen* screen = QGuiApplication::screenAt(window.geometry().center());
+    if (!screen || !window.testAttribute(Qt::WA_Moved))
+        screen = window.screen();
+    return screen->availableGeometry();
+}
+
+ScreenFit::ScreenFit(QObject* parent, Area area) : QObject(parent), m_area(std::move(area)) {
+    qApp->installEventFilter(this);
+}
+
+bool ScreenFit::eventFilter(QObject* watched, QEvent* event) {
+    switch (event->type()) {
+    case QEvent::Show:
+        if (isFittedWindow(*watched)) {
+            fitContent(static_cast<QWidget&>(*watched));
+            fitPlace(static_cast<QWidget&>(*watched));
+        }
+        break;
+    case QEvent::LayoutRequest: // before the layout makes a visible window larger than its screen
+        if (isFittedWindow(*watched) && static_cast<QWidget*>(watched)->isVisible())
+            fitContent(static_cast<QWidget&>(*watched));
+        break;
+    case QEvent::WindowStateChange: // what is no longer maximised has the size from before
+        if (isFittedWindow(*watched) && static_cast<QWidget*>(watched)->isVisible())
+            fitPlace(static_cast<QWidget&>(*watched));
+        break;
+    default:
+        break;
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+QRect ScreenFit::areaInside(const QWidget& window) const {
+    return m_area(window).marginsRemoved(frameOf(window));
+}
+
+void ScreenFit::fitContent(QWidget& window) {
+    QLayout* const layout = window.layout();
+    if (!layout || isOfTheToolkit(window) || window.property(Scrolls).toBool())
+        return;
+    const QSize most = areaInside(window).size();
+    const QSize least = layout->totalMinimumSize().expandedTo(window.minimumSize());
+    if (least.width() <= most.width() && least.height() <= most.height())
+        return;
+    window.setProperty(Scrolls, true);
+    if (auto* const dialog = qobject_cast<QDialog*>(&window))
+        makeScroll(*dialog);
+    else if (auto* const main = qobject_cast<QMainWindow*>(&window))
+        makeScroll(*main);
+    window.setMinimumSize(window.minimumSize().boundedTo(most));
+}
+
+void ScreenFit::fitPlace(QWidget& window) {
+    if (window.isMaximized() || window.isFullScreen())
+        return;
+    const QRect now = window.geometry();
+    const QRect inside = fitted(now, areaInside(window));
+    if (inside.size() != now.size())
+        window.resize(inside.size());
+    // A place that nobody chose is the system's to choose.
+    if (window.testAttribute(Qt::WA_Moved) && inside.topLeft() != now.topLeft())
+        window.move(inside.topLeft() - QPoint(frameOf(window).left(), frameOf(window).top()));
+}
+
+} // namespace kavela::desktop
