@@ -79,29 +79,21 @@ void ChartPanel::addChart(Chart* chart) {
 
 void ChartPanel::makeActions() {
     m_bar->addSeparator();
-    QAction* fit = m_bar->addAction(tr("Fit"));
-    fit->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_0));
-    fit->setToolTip(tr("Show everything again (%1, or double click)")
-                        .arg(fit->shortcut().toString(QKeySequence::NativeText)));
-    connect(fit, &QAction::triggered, this, [this] { currentChart().plot().fit(); });
-    m_save = m_bar->addAction(tr("Save chart\u2026"));
-    m_save->setShortcut(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_E));
-    m_save->setToolTip(tr("Save as PNG, SVG or CSV (%1)")
-                           .arg(m_save->shortcut().toString(QKeySequence::NativeText)));
-    connect(m_save, &QAction::triggered, this, &ChartPanel::askAndSave);
-    addActions({fit, m_save});
-    for (std::size_t i = 0; i < m_charts.size(); ++i) {
-        auto* show = new QAction(m_charts[i]->purpose(), this);
-        const int index = static_cast<int>(i);
-        show->setShortcut(QKeySequence(Qt::ALT | static_cast<Qt::Key>(Qt::Key_1 + index)));
-        connect(show, &QAction::triggered, this, [this, index] {
-            setCurrentChart(index);
-            currentChart().setFocus();
-        });
-        addAction(show);
-    }
-    for (QAction* action : actions())
-        action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+    QAction* fitted = m_bar->addAction(tr("Fit"));
+    fitted->setToolTip(tr("Show everything again (or double click)"));
+    connect(fitted, &QAction::triggered, this, &ChartPanel::fit);
+    QAction* save = m_bar->addAction(tr("Save chart\u2026"));
+    save->setToolTip(tr("Save as PNG, SVG or CSV"));
+    connect(save, &QAction::triggered, this, &ChartPanel::askAndSave);
+}
+
+void ChartPanel::goToChart(int index) {
+    setCurrentChart(index);
+    currentChart().setFocus();
+}
+
+void ChartPanel::fit() {
+    currentChart().plot().fit();
 }
 
 Chart& ChartPanel::currentChart() const {

@@ -41,6 +41,12 @@ public:
     [[nodiscard]] const std::vector<Chart*>& charts() const { return m_charts; }
     [[nodiscard]] Chart& currentChart() const;
     void setCurrentChart(int index);
+    /// Shows a chart and gives it the focus.
+    void goToChart(int index);
+    /// Shows all of the chart in front again.
+    void fit();
+    /// Asks where to save the chart in front, and saves it there.
+    void askAndSave();
 
     /// Saves the chart in front; throws FileError.
     void saveChart(const QString& path);
@@ -62,7 +68,6 @@ private:
     void chooseReference(int index);
     void applyReference();
     void followReferenceRun(const ChartRace& before);
-    void askAndSave();
     [[nodiscard]] QString titleOf(const CourseReference& reference) const;
 
     ChartRace m_race;
@@ -78,7 +83,6 @@ private:
     QComboBox* m_references = nullptr;
     QAction* m_referenceLabelAction = nullptr;
     QAction* m_referenceAction = nullptr;
-    QAction* m_save = nullptr;
 };
 
 } // namespace kavela::desktop

@@ -1,5 +1,6 @@
 #include "desktop/race/race_actions.h"
 
+#include "desktop/charts/chart_panel.h"
 #include "desktop/race/race_view.h"
 #include "desktop/race/race_window.h"
 #include "desktop/shell/help_menu.h"
@@ -18,6 +19,7 @@ RaceActions::RaceActions(RaceWindow& window, Workspace& workspace)
     makeFileMenu();
     makeTableMenu();
     makeCompareMenu();
+    makeChartMenu();
     makeWindowMenu();
     addHelpMenu(window, workspace, "race", [this] { return athletes(); });
     connect(&m_workspace, &Workspace::preferenceChanged, this, &RaceActions::refresh);
@@ -178,6 +180,22 @@ void RaceActions::makeCompareMenu() {
         [](RaceView& view) { view.compareWithOtherRace(); });
     add(*menu, tr("&Clear the comparison"), QKeySequence(Qt::SHIFT | Qt::Key_C),
         [](RaceView& view) { view.document().clearComparisons(); });
+}
+
+/// Of the window and not of the charts: their keys are meant from the table too, and where races
+/// stand side by side for the one in front.
+void RaceActions::makeChartMenu() {
+    QMenu* menu = m_window.menuBar()->addMenu(tr("C&harts"));
+    const QStringList titles{tr("&Gaps along the course"), tr("T&imes of the sections"),
+                             tr("P&enalties at the gates"), tr("&Totals")};
+    for (int index = 0; index < titles.size(); ++index)
+        add(*menu, titles[index], QKeySequence(Qt::ALT | static_cast<Qt::Key>(Qt::Key_1 + index)),
+            [index](RaceView& view) { view.charts().goToChart(index); });
+    menu->addSeparator();
+    add(*menu, tr("Show the &whole chart"), QKeySequence(Qt::CTRL | Qt::Key_0),
+        [](RaceView& view) { view.charts().fit(); });
+    add(*menu, tr("&Save the chart…"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_E),
+        [](RaceView& view) { view.charts().askAndSave(); });
 }
 
 void RaceActions::makeWindowMenu() {

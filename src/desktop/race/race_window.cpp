@@ -4,6 +4,7 @@
 #include "desktop/race/race_actions.h"
 #include "desktop/race/race_view.h"
 #include "desktop/shell/dropped_files.h"
+#include "desktop/shell/file_names.h"
 #include "desktop/shell/theme.h"
 #include "desktop/shell/window_place.h"
 
@@ -113,7 +114,11 @@ void RaceWindow::showViews() {
         m_views[i]->setCompact(isSideBySide);
         m_views[i]->setVisible(isSideBySide || std::cmp_equal(i, m_current));
     }
-    setWindowTitle(document().title() + " – Kavela");
+    const QStringList names = namesToldApart(paths());
+    for (int tab = 0; tab < m_tabs->count() && tab < names.size(); ++tab)
+        m_tabs->setTabText(tab, names[tab]);
+    const QString file = QFileInfo(document().path()).completeBaseName();
+    setWindowTitle(document().title() + " – " + file + " – Kavela");
     setWindowFilePath(document().path());
     m_actions->refresh();
 }
