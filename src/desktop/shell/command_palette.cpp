@@ -65,8 +65,9 @@ public:
         const bool isSelected = option.state.testFlag(QStyle::State_Selected);
         if (isSelected)
             painter->fillRect(option.rect, option.palette.highlight());
-        const QColor text =
-            option.palette.color(isSelected ? QPalette::HighlightedText : QPalette::Text);
+        const QColor text = option.palette.color(
+            option.state.testFlag(QStyle::State_Enabled) ? QPalette::Active : QPalette::Disabled,
+            isSelected ? QPalette::HighlightedText : QPalette::Text);
         const QColor quiet = isSelected ? text : theme::quietText(option.palette);
         QRect line = option.rect.adjusted(theme::Spacing, 0, -theme::Spacing, 0);
         for (const int role : {int{KeysRole}, int{GroupRole}}) {
@@ -161,19 +162,28 @@ void CommandPalette::show(const QString& query) {
         item->setData(GroupRole, command->group);
         item->setData(KeysRole, command->keys);
     }
+    if (m_shown.empty()) {
+        auto* told =
+            new QListWidgetItem(tr("Nothing here is called “%1”.").arg(query.simplified()), m_list);
+        told->setFlags(Qt::NoItemFlags);
+        auto* offered = new QListWidgetItem(
+            tr("Searched: actions, recent files and the names in this window."), m_list);
+        offered->setFlags(Qt::NoItemFlags);
+        return;
+    }
     m_list->setCurrentRow(0);
 }
 
 bool CommandPalette::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() != QEvent::KeyPress)
         return QDialog::eventFilter(watched, event);
-    const int last = m_list->count() - 1;
+    const int last = static_cast<int>(m_shown.size()) - 1;
     switch (static_cast<QKeyEvent*>(event)->key()) {
     case Qt::Key_Down:
         m_list->setCurrentRow(std::min(m_list->currentRow() + 1, last));
         return true;
     case Qt::Key_Up:
-        m_list->setCurrentRow(std::max(m_list->currentRow() - 1, 0));
+        m_list->setCurrentRow(std::max(m_list->currentRow() - 1, std::min(0, last)));
         return true;
     case Qt::Key_Return:
     case Qt::Key_Enter:
@@ -186,7 +196,7 @@ bool CommandPalette::eventFilter(QObject* watched, QEvent* event) {
 
 void CommandPalette::runCurrent() {
     const int row = m_list->currentRow();
-    if (row < 0)
+    if (row < 0 || m_shown.empty())
         return;
     const auto run = m_shown[static_cast<std::size_t>(row)]->run;
     accept(); // first, so that what the command opens stands in front

@@ -4,6 +4,7 @@
 #include "desktop/shell/key_overlay.h"
 #include "desktop/shell/workspace.h"
 
+#include <QDir>
 #include <QFileInfo>
 #include <QMainWindow>
 #include <QMenuBar>
@@ -13,9 +14,12 @@ namespace kavela::desktop {
 namespace {
 
 void addRecentFiles(Workspace& workspace, Commands& commands) {
-    for (const QString& path : workspace.recentFiles())
-        commands.push_back({QFileInfo(path).fileName(), QObject::tr("Recent files"), QString(),
+    for (const QString& path : workspace.recentFiles()) {
+        const QFileInfo file(path);
+        commands.push_back({file.fileName(),
+                            QObject::tr("Recent files, in %1").arg(file.dir().dirName()), QString(),
                             [&workspace, path] { emit workspace.openRequested(path); }});
+    }
 }
 
 void openPalette(QMainWindow& window, Workspace& workspace, const std::function<Commands()>& more) {

@@ -5,8 +5,9 @@
 
 #include <QAction>
 #include <QFormLayout>
+#include <QKeyEvent>
 #include <QKeySequenceEdit>
-#include <QLabel>
+#include <QLineEdit>
 #include <QMainWindow>
 #include <QMenu>
 #include <QMenuBar>
@@ -33,10 +34,38 @@ void collect(const QMenu& menu, const QString& path, std::vector<KeyBinding>& bi
     }
 }
 
-/// One remembered line: the action's name, then its key.
+/// One remembered line: the action's name, then its keys.
 QString lineOf(const KeyBinding& binding) {
-    return binding.name + '\t' + binding.action->shortcut().toString(QKeySequence::PortableText);
+    QStringList parts{binding.name};
+    for (const QKeySequence& key : binding.action->shortcuts())
+        parts.append(key.toString(QKeySequence::PortableText));
+    return parts.join('\t');
 }
+
+QList<QKeySequence> keysOf(const QString& line) {
+    QList<QKeySequence> keys;
+    for (const QString& text : line.split('\t').mid(1))
+        if (!text.isEmpty())
+            keys.append(QKeySequence::fromString(text, QKeySequence::PortableText));
+    return keys;
+}
+
+/// Takes the next key as the one that is wanted. Esc, and a second Tab, are no such key: Esc
+/// leaves the dialog as it leaves every other.
+class KeyField : public QKeySequenceEdit {
+public:
+    using QKeySequenceEdit::QKeySequenceEdit;
+
+    bool event(QEvent* event) override {
+        const bool isKey =
+            event->type() == QEvent::KeyPress || event->type() == QEvent::ShortcutOverride;
+        if (isKey && static_cast<QKeyEvent*>(event)->matches(QKeySequence::Cancel)) {
+            event->ignore();
+            return false;
+        }
+        return QKeySequenceEdit::event(event);
+    }
+};
 
 } // namespace
 
@@ -50,8 +79,7 @@ std::vector<KeyBinding> applyKeyBindings(QMainWindow& window, const Workspace& w
         const QString name = line.section('\t', 0, 0);
         const auto found = std::ranges::find(bindings, name, &KeyBinding::name);
         if (found != bindings.end())
-            found->action->setShortcut(
-                QKeySequence::fromString(line.section('\t', 1), QKeySequence::PortableText));
+            found->action->setShortcuts(keysOf(line));
     }
     return bindings;
 }
@@ -63,17 +91,25 @@ KeyEditor::KeyEditor(std::vector<KeyBinding> bindings, Workspace& workspace, QSt
       m_workspace(workspace),
       m_kind(std::move(kind)) {
     setWindowTitle(tr("Keys"));
+    auto* find = new QLineEdit; // has the focus first: no field of a key listens unasked
+    find->setObjectName("findAction");
+    find->setPlaceholderText(tr("Find an action"));
+    find->setClearButtonEnabled(true);
     auto* list = new QWidget;
     auto* form = new QFormLayout(list);
     form->setVerticalSpacing(theme::SmallSpacing);
     for (std::size_t i = 0; i < m_bindings.size(); ++i) {
-        auto* edit = new QKeySequenceEdit(m_bindings[i].action->shortcut());
+        auto* edit = new KeyField(m_bindings[i].action->shortcut());
         edit->setClearButtonEnabled(true);
         form->addRow(QString(m_bindings[i].name).replace("/", "  ›  "), edit);
         m_edits.push_back(edit);
         connect(edit, &QKeySequenceEdit::editingFinished, this,
                 [this, i, edit] { change(i, *edit); });
     }
+    connect(find, &QLineEdit::textChanged, this, [this, form](const QString& text) {
+        for (std::size_t i = 0; i < m_edits.size(); ++i)
+            form->setRowVisible(m_edits[i], m_bindings[i].name.contains(text, Qt::CaseInsensitive));
+    });
     auto* area = new QScrollArea;
     area->setWidget(list);
     area->setWidgetResizable(true);
@@ -88,31 +124,58 @@ KeyEditor::KeyEditor(std::vector<KeyBinding> bindings, Workspace& workspace, QSt
     buttons->addStretch(1);
     buttons->addWidget(close);
     auto* column = new QVBoxLayout(this);
+    column->addWidget(find);
     column->addWidget(area, 1);
     column->addLayout(buttons);
+    find->setFocus();
     resize(560, 560);
 }
 
-QString KeyEditor::setKey(std::size_t binding, const QKeySequence& key) {
+std::optional<std::size_t> KeyEditor::ownerOf(const QKeySequence& key, std::size_t but) const {
     for (std::size_t i = 0; i < m_bindings.size(); ++i)
-        if (i != binding && !key.isEmpty() && m_bindings[i].action->shortcuts().contains(key))
-            return m_bindings[i].name;
+        if (i != but && !key.isEmpty() && m_bindings[i].action->shortcuts().contains(key))
+            return i;
+    return std::nullopt;
+}
+
+QString KeyEditor::setKey(std::size_t binding, const QKeySequence& key) {
+    if (const auto owner = ownerOf(key, binding))
+        return m_bindings[*owner].name;
     m_bindings[binding].action->setShortcut(key);
     remember();
     return {};
+}
+
+void KeyEditor::takeKey(std::size_t binding, const QKeySequence& key) {
+    while (const auto owner = ownerOf(key, binding)) {
+        QAction& action = *m_bindings[*owner].action;
+        QList<QKeySequence> left = action.shortcuts();
+        left.removeAll(key);
+        action.setShortcuts(left);
+        m_edits[*owner]->setKeySequence(action.shortcut());
+    }
+    (void)setKey(binding, key); // free by now
 }
 
 void KeyEditor::change(std::size_t binding, QKeySequenceEdit& edit) {
     // One key, not a sequence of several.
     const QKeySequence key =
         edit.keySequence().isEmpty() ? QKeySequence() : QKeySequence(edit.keySequence()[0]);
-    const QString taken = setKey(binding, key);
+    if (m_bindings[binding].action->shortcuts().contains(key)) {
+        edit.setKeySequence(m_bindings[binding].action->shortcut());
+        return; // left as it was
+    }
+    const QString owner = setKey(binding, key);
+    const QString name = m_bindings[binding].name.section('/', -1);
+    if (!owner.isEmpty() &&
+        m_workspace.ask(
+            {"", tr("%1 is the key of “%2” already. “%3” can take it over; “%2” has it "
+                    "no longer then.")
+                     .arg(key.toString(QKeySequence::NativeText), owner.section('/', -1), name)
+                     .toStdString()},
+            tr("Take it over"), this))
+        takeKey(binding, key);
     edit.setKeySequence(m_bindings[binding].action->shortcut());
-    if (!taken.isEmpty())
-        m_workspace.showAlert({"", tr("%1 is the key of \"%2\" already.")
-                                       .arg(key.toString(QKeySequence::NativeText), taken)
-                                       .toStdString()},
-                              this);
 }
 
 void KeyEditor::restoreStandard() {

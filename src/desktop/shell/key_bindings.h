@@ -3,6 +3,8 @@
 #include <QDialog>
 #include <QKeySequence>
 
+#include <cstddef>
+#include <optional>
 #include <vector>
 
 class QAction;
@@ -37,10 +39,14 @@ public:
     /// Gives an action a key, empty for none. A key that another action has is refused: its name is
     /// returned.
     QString setKey(std::size_t binding, const QKeySequence& key);
+    /// The same; another action that has the key loses it.
+    void takeKey(std::size_t binding, const QKeySequence& key);
     /// All keys as they were made.
     void restoreStandard();
 
 private:
+    [[nodiscard]] std::optional<std::size_t> ownerOf(const QKeySequence& key,
+                                                     std::size_t but) const;
     void change(std::size_t binding, QKeySequenceEdit& edit);
     void remember();
 

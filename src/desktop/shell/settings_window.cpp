@@ -1,5 +1,6 @@
 #include "desktop/shell/settings_window.h"
 
+#include "desktop/shell/scheme.h"
 #include "desktop/shell/theme.h"
 #include "desktop/shell/workspace.h"
 #include "video/machine_memory.h"
@@ -33,7 +34,7 @@ struct Page {
 
 const std::vector<Page>& pages() {
     static const std::vector<Page> Pages{
-        {QT_TR_NOOP("Tables"), {"colorMode", "penaltiesIncluded", "penaltiesVisible"}},
+        {QT_TR_NOOP("Look and tables"), {"colorMode", "penaltiesIncluded", "penaltiesVisible"}},
         {QT_TR_NOOP("Video"),
          {"autoplaynext", "startinCMTime", "playonclick", "tagmodeplaysjustpart",
           "coachswordvisible"}},
@@ -87,6 +88,8 @@ SettingsWindow::SettingsWindow(Workspace& workspace, QWidget* parent)
         form->setContentsMargins(theme::LargeSpacing, theme::LargeSpacing, theme::LargeSpacing,
                                  theme::LargeSpacing);
         form->setSpacing(theme::LargeSpacing);
+        if (tabs->count() == 0)
+            form->addWidget(schemeEditor());
         for (const std::string_view key : page.keys)
             form->addWidget(editor(entryOf(key)));
         if (std::ranges::find(page.keys, "startinCMTime") != page.keys.end())
@@ -120,6 +123,23 @@ QWidget* SettingsWindow::editor(const PreferenceEntry& entry) {
         break;
     }
     return urlEditor(entry);
+}
+
+QWidget* SettingsWindow::schemeEditor() {
+    auto* box = new QWidget;
+    auto* row = new QHBoxLayout(box);
+    row->setContentsMargins(0, 0, 0, 0);
+    auto* schemes = new QComboBox;
+    schemes->setObjectName("scheme");
+    schemes->addItems({tr("As the system"), tr("Light"), tr("Dark")});
+    schemes->setCurrentIndex(static_cast<int>(chosenScheme(m_workspace)));
+    connect(schemes, &QComboBox::activated, this,
+            [this](int chosen) { chooseScheme(m_workspace, static_cast<Scheme>(chosen)); });
+    if (qEnvironmentVariableIsSet("KAVELA_SCHEME"))
+        schemes->setToolTip(tr("The environment variable KAVELA_SCHEME decides for this session."));
+    row->addWidget(new QLabel(tr("Windows")));
+    row->addWidget(schemes, 1);
+    return box;
 }
 
 QWidget* SettingsWindow::colourModeEditor() {
