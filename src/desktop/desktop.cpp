@@ -1,20 +1,19 @@
 #include "desktop/desktop.h"
 
-#include "app/file_facts.h"
 #include "common/error.h"
 #include "common/safe_file.h"
 #include "desktop/cross/cross_window.h"
 #include "desktop/motion/motion_window.h"
+#include "desktop/opened_as.h"
 #include "desktop/race/race_window.h"
 #include "desktop/shell/edited_file.h"
 #include "desktop/shell/editor_window.h"
+#include "desktop/shell/file_names.h"
 #include "desktop/shell/home_window.h"
 #include "desktop/shell/settings_window.h"
 #include "desktop/taking/taking_window.h"
-#include "planning/planning_file.h"
 #include "sample/season.h"
 #include "splitdata/loader.h"
-#include "splittaking/video_names.h"
 
 #include <QApplication>
 #include <QDir>
@@ -41,12 +40,6 @@ constexpr const char* TakingSessionKey = "openTakings";
 constexpr const char* CrossSessionKey = "openCrosses";
 constexpr const char* EditorSessionKey = "openEditors";
 
-/// A split file of this release without runs for the other tools.
-bool holdsOnlyCross(const FileFacts& facts) {
-    return facts.kind == "split file" && facts.current && facts.counts.at("runs") == 0 &&
-           facts.counts.at("crossTimeTrials") + facts.counts.at("crossHeats") > 0;
-}
-
 /// Files a folder may hold before a coach is unlikely to want a tab for each.
 constexpr int MostRacesOfAFolder = 24;
 
@@ -64,14 +57,6 @@ QStringList splitFilesIn(const QString& folder) {
 
 QString autosaveFolder() {
     return QStandardPaths::writableLocation(QStandardPaths::AppLocalDataLocation) + "/autosave";
-}
-
-/// Whether a folder is one of films to be timed: it has films and no split file yet.
-bool isFolderOfFilms(const QString& folder) {
-    const QStringList names = QDir(folder).entryList(QDir::Files);
-    return splitFilesIn(folder).isEmpty() && std::ranges::any_of(names, [](const QString& name) {
-               return isVideoFile(name.toStdString());
-           });
 }
 
 /// Writes what of the sample season is not there yet.
@@ -168,43 +153,88 @@ void Desktop::chooseRace() {
                                           tr("Split files (*.kvx);;All files (*)")));
 }
 
+QStringList Desktop::racesIn(const QString& folder) {
+    const QStringList races = splitFilesIn(folder);
+    if (races.isEmpty())
+        m_workspace.showAlert(
+            {tr("Nothing to open in “%1”").arg(QDir(folder).dirName()).toStdString(),
+             tr("There is no split file (.kvx) and no film in this folder.").toStdString()},
+            front());
+    return races;
+}
+
 QStringList Desktop::racesAmong(const QStringList& paths) {
     QStringList races;
     QStringList recordings;
+    QStringList imports;
     for (const QString& path : paths) {
-        if (QFileInfo(path).isDir()) {
-            if (isFolderOfFilms(path))
-                (void)openTaking(path);
-            races += splitFilesIn(path);
-            continue;
-        }
-        const FileFacts facts = kavela::factsOf(path.toStdString());
-        if (facts.kind == "selection races")
-            (void)openSelection(path);
-        else if (facts.kind == "team")
-            (void)openTeam(path);
-        else if (facts.kind == "planning" || path.endsWith(PlanningExtension))
-            (void)openPlanning(path); // one that does not decode is told there
-        else if (facts.kind == "test results")
-            (void)openTests(path);
-        else if (facts.kind == "raw session")
+        switch (const OpensAs kind = opensAs(path)) {
+        case OpensAs::Race:
+            races.append(path);
+            break;
+        case OpensAs::FolderOfRaces:
+            races += racesIn(path);
+            break;
+        case OpensAs::Recording:
             recordings.append(path);
-        else if (facts.kind == "smart session")
-            (void)openSession(path);
-        else if (facts.kind == "test session")
-            (void)openTestSession(path);
-        else if (holdsOnlyCross(facts))
-            (void)openCross(path);
-        else if (facts.error || facts.kind == "split file")
-            races.append(path); // the reader says what is wrong
-        else
-            m_workspace.showAlert(
-                {"", "This feature is not ready yet.\n\nIt will come with a future update."},
-                front());
+            break;
+        case OpensAs::Import:
+        case OpensAs::PowerList:
+            imports.append(path);
+            break;
+        default:
+            openInTool(path, kind);
+        }
     }
     if (!recordings.isEmpty())
         openRecordings(recordings);
+    if (!imports.isEmpty())
+        openImports(imports);
     return races;
+}
+
+/// What has a window of its own; each tells what is wrong with its file.
+void Desktop::openInTool(const QString& path, OpensAs kind) {
+    switch (kind) {
+    case OpensAs::FolderOfFilms:
+        (void)openTaking(path);
+        return;
+    case OpensAs::Film:
+        openFilm(path);
+        return;
+    case OpensAs::Cross:
+        (void)openCross(path);
+        return;
+    case OpensAs::Selection:
+        (void)openSelection(path);
+        return;
+    case OpensAs::Team:
+        (void)openTeam(path);
+        return;
+    case OpensAs::Planning:
+        (void)openPlanning(path);
+        return;
+    case OpensAs::Tests:
+        (void)openTests(path);
+        return;
+    case OpensAs::Session:
+        (void)openSession(path);
+        return;
+    case OpensAs::TestSession:
+        (void)openTestSession(path);
+        return;
+    case OpensAs::ResultsList:
+        m_workspace.showAlert(
+            {tr("“%1” is a list of official results").arg(QFileInfo(path).fileName()).toStdString(),
+             tr("It is taken into a race: open the race in split taking, then File > Import "
+                "official results.")
+                 .toStdString()},
+            front());
+        return;
+    default:
+        m_workspace.showAlert(
+            {"", "This feature is not ready yet.\n\nIt will come with a future update."}, front());
+    }
 }
 
 void Desktop::openAll(const QStringList& paths, RaceWindow* into) {
@@ -225,7 +255,37 @@ RaceWindow* Desktop::makeRaceWindow() {
     return window;
 }
 
-void Desktop::openRaces(const QStringList& paths, RaceWindow* into) {
+RaceWindow* Desktop::windowOfRace(const QString& path) const {
+    const QString wanted = canonicalPath(path);
+    for (RaceWindow* const window : raceWindows())
+        for (const QString& shown : window->paths())
+            if (canonicalPath(shown) == wanted)
+                return window;
+    return nullptr;
+}
+
+/// A race that a window shows already comes to the front there.
+QStringList Desktop::notShownAmong(const QStringList& races) {
+    QStringList others;
+    for (const QString& path : races) {
+        RaceWindow* const window = windowOfRace(path);
+        if (!window) {
+            others.append(path);
+            continue;
+        }
+        for (const QString& shown : window->paths())
+            if (canonicalPath(shown) == canonicalPath(path))
+                (void)window->open(shown); // shows it
+        window->raise();
+        window->activateWindow();
+    }
+    return others;
+}
+
+void Desktop::openRaces(const QStringList& races, RaceWindow* into) {
+    const QStringList paths = notShownAmong(races);
+    if (paths.isEmpty())
+        return;
     RaceWindow* const window = into ? into : makeRaceWindow();
     for (const QString& path : paths)
         if (!window->open(path))

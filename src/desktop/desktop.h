@@ -1,5 +1,6 @@
 #pragma once
 
+#include "desktop/opened_as.h"
 #include "desktop/shell/autosave.h"
 #include "desktop/shell/workspace.h"
 
@@ -96,9 +97,20 @@ private:
     /// cannot be opened.
     TakingWindow* showTaking(const QString& path);
     CrossWindow* showCross(const QString& path);
+    void openFilm(const QString& path);
+    /// Shows a race in the analyzer as its file is now.
+    void showAnalysis(const QString& path);
     void showMoment(const QString& path, int run, std::size_t split);
     void openRaces(const QStringList& paths, RaceWindow* into);
     [[nodiscard]] RaceWindow* makeRaceWindow();
+    /// The window that shows a race; null when none does.
+    [[nodiscard]] RaceWindow* windowOfRace(const QString& path) const;
+    /// The split files of a folder; told when there are none.
+    [[nodiscard]] QStringList racesIn(const QString& folder);
+    [[nodiscard]] QStringList notShownAmong(const QStringList& races);
+    void openInTool(const QString& path, OpensAs kind);
+    /// Takes lists and tracks of other devices into the session in front, or into a new one.
+    void openImports(const QStringList& paths);
     /// The races among files and folders; what is not one is told.
     [[nodiscard]] QStringList racesAmong(const QStringList& paths);
     void rememberSession();

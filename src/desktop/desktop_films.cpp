@@ -2,6 +2,7 @@
 #include "desktop/desktop.h"
 #include "desktop/race/race_view.h"
 #include "desktop/race/race_window.h"
+#include "desktop/shell/file_names.h"
 #include "desktop/taking/taking_files.h"
 #include "desktop/taking/taking_window.h"
 #include "splitdata/run_timing.h"
@@ -18,28 +19,21 @@ namespace kavela::desktop {
 
 namespace {
 
-/// A path by which a file is known however it is named; it need not be there yet.
-QString canonical(const QString& file) {
-    const QFileInfo info(file);
-    return info.exists()
-               ? info.canonicalFilePath()
-               : QFileInfo(info.absolutePath()).canonicalFilePath() + '/' + info.fileName();
-}
-
 /// The split file that a path stands for: of a folder of films the one in it, or the one that will
 /// be made there.
 QString splitFileOf(const QString& path) {
     if (!QFileInfo(path).isDir())
-        return canonical(path);
+        return canonicalPath(path);
     const QString folder = QDir(path).absolutePath();
     const QString file = splitFileIn(folder);
-    return canonical(file.isEmpty() ? folder + '/' + QFileInfo(folder).fileName() + ".kvx" : file);
+    return canonicalPath(file.isEmpty() ? folder + '/' + QFileInfo(folder).fileName() + ".kvx"
+                                        : file);
 }
 
 /// What opens a document that may never have been saved: a new one stands for its folder.
 QString openable(const QString& path) {
     const QString folder = QFileInfo(path).absolutePath();
-    const bool isNew = !QFileInfo::exists(path) && splitFileOf(folder) == canonical(path);
+    const bool isNew = !QFileInfo::exists(path) && splitFileOf(folder) == canonicalPath(path);
     return isNew ? folder : path;
 }
 
@@ -48,7 +42,7 @@ template <class Window>
 Window* windowOf(const QList<Window*>& windows, const QString& path) {
     const QString file = splitFileOf(path);
     for (Window* const window : windows)
-        if (canonical(window->document().path()) == file)
+        if (canonicalPath(window->document().path()) == file)
             return window;
     return nullptr;
 }
@@ -112,6 +106,27 @@ void Desktop::chooseFilms() {
         (void)openTaking(folder);
 }
 
+/// A film alone stands for the run that it shows, among the films of its folder.
+void Desktop::openFilm(const QString& path) {
+    TakingWindow* const window = openTaking(QFileInfo(path).absolutePath());
+    if (!window)
+        return;
+    const std::string film = QFileInfo(path).fileName().toStdString();
+    const TakingDocument& document = window->document();
+    for (int run = 0; run < document.runCount(); ++run)
+        if (std::ranges::count(document.run(run).videoname, film) > 0) {
+            window->selectRun(run);
+            return;
+        }
+}
+
+void Desktop::showAnalysis(const QString& path) {
+    RaceWindow* const shown = windowOfRace(path);
+    openRaces({path}, nullptr);
+    if (shown)
+        shown->view().reload(); // what was saved a moment ago is wanted
+}
+
 TakingWindow* Desktop::openTaking(const QString& path) {
     if (TakingWindow* const open = windowOf(takingWindows(), path)) {
         bringToFront(*open);
@@ -138,7 +153,7 @@ TakingWindow* Desktop::showTaking(const QString& path) {
     }
     connect(window, &TakingWindow::homeRequested, this, &Desktop::showHome);
     connect(window, &TakingWindow::settingsRequested, this, &Desktop::openSettings);
-    connect(window, &TakingWindow::analysisRequested, this, &Desktop::open);
+    connect(window, &TakingWindow::analysisRequested, this, &Desktop::showAnalysis);
     connect(window, &TakingWindow::crossRequested, this, &Desktop::openCross);
     connect(window, &TakingWindow::filesRequested, this, [this](const QStringList& files) {
         for (const QString& file : files)
@@ -184,8 +199,7 @@ CrossWindow* Desktop::showCross(const QString& path) {
     }
     connect(window, &CrossWindow::homeRequested, this, &Desktop::showHome);
     connect(window, &CrossWindow::settingsRequested, this, &Desktop::openSettings);
-    connect(window, &CrossWindow::analysisRequested, this,
-            [this](const QString& file) { openRaces({file}, nullptr); });
+    connect(window, &CrossWindow::analysisRequested, this, &Desktop::showAnalysis);
     connect(window, &CrossWindow::takingRequested, this, &Desktop::openTaking);
     connect(window, &CrossWindow::filesRequested, this, &Desktop::openCrosses);
     rememberWithout(window);

@@ -84,6 +84,20 @@ void Desktop::chooseRecordings() {
         openAll(chosen);
 }
 
+void Desktop::openImports(const QStringList& paths) {
+    SessionWindow* window = nullptr;
+    for (EditorWindow* const editor : editorWindows())
+        if (auto* const session = qobject_cast<SessionWindow*>(editor))
+            window = !window || session->isActiveWindow() ? session : window;
+    if (!window) {
+        window = new SessionWindow(m_workspace, m_autosave);
+        const QFileInfo first(paths.constFirst());
+        window->startNew(first.absolutePath() + '/' + first.completeBaseName() + ".bms");
+        show(window);
+    }
+    window->takeInAll(paths);
+}
+
 void Desktop::openRecordings(const QStringList& paths) {
     if (!m_motion) {
         m_motion = new MotionWindow(m_workspace);

@@ -14,6 +14,8 @@
 #include <QFileInfo>
 #include <QScopedValueRollback>
 
+#include <algorithm>
+
 /// What other devices recorded: lists of phone loggers become recordings, tracks of watches join
 /// the recording that is open.
 namespace kavela::desktop {
@@ -81,6 +83,20 @@ void SessionWindow::importFrom(const QStringList& paths) {
     keepMappings(known, workspace());
     for (ImportedFile& file : files)
         takeIn(std::move(file));
+}
+
+void SessionWindow::takeInAll(const QStringList& paths) {
+    static const QStringList Tracks{"gpx", "tcx", "fit"};
+    QStringList ordered = paths;
+    std::ranges::stable_partition(ordered, [](const QString& path) {
+        return !Tracks.contains(QFileInfo(path).suffix().toLower()) && !isPowerMeterList(path);
+    });
+    for (const QString& path : ordered) {
+        if (isPowerMeterList(path))
+            importPowerMeter(path);
+        else
+            importFrom({path});
+    }
 }
 
 void SessionWindow::takeIn(ImportedFile file) {

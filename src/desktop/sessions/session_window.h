@@ -46,6 +46,8 @@ public:
     /// Moves the track that was joined last in time: the clock of the watch was wrong.
     void moveTrack();
     [[nodiscard]] bool hasTrack() const { return m_watchTrack.has_value(); }
+    /// The same, and lists of power meters; recordings come first, so that tracks find one to join.
+    void takeInAll(const QStringList& paths);
 
     /// Whether power-meter data goes into the session that is saved; nothing to save nothing.
     using AskPowerMeter = std::function<std::optional<bool>(const QString& question)>;

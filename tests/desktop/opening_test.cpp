@@ -1,0 +1,179 @@
+#include "common/recorders.h"
+#include "common/safe_file.h"
+#include "common/temp_folder.h"
+#include "desktop/desktop.h"
+#include "desktop/imports/csv_mapping_dialog.h"
+#include "desktop/race/race_window.h"
+#include "desktop/sessions/session_window.h"
+#include "desktop/start_options.h"
+#include "desktop/taking/taking_window.h"
+#include "splitdata/loader.h"
+
+#include <gmock/gmock.h>
+
+#include <QApplication>
+#include <QProcess>
+#include <QPushButton>
+#include <QTest>
+#include <QTimer>
+
+#include <algorithm>
+
+/// What is named on the command line, dropped or chosen at home.
+namespace kavela::test {
+namespace {
+
+namespace fs = std::filesystem;
+using desktop::Desktop;
+using desktop::OpensAs;
+using desktop::startOptions;
+using ::testing::ElementsAre;
+using ::testing::HasSubstr;
+using ::testing::IsEmpty;
+using ::testing::SizeIs;
+
+QString example(const char* name) {
+    return QString(KAVELA_EXAMPLES) + '/' + name;
+}
+
+TEST(StartOptions, AreFilesAndAFaultForWhatIsNeither) {
+    EXPECT_EQ(startOptions({"a.kvx", "", "b"}).files, (QStringList{"a.kvx", "b"}));
+    EXPECT_EQ(startOptions({"--", "--odd.kvx"}).files, QStringList{"--odd.kvx"});
+    EXPECT_TRUE(startOptions({"--", "--odd.kvx"}).fault.isEmpty());
+    EXPECT_THAT(startOptions({"--hlep", "a.kvx"}).fault.toStdString(), HasSubstr("--hlep"));
+    EXPECT_FALSE(desktop::answerWithoutWindow({"--", "--help"}, "1"));
+}
+
+/// As from a terminal without a screen: no window can be opened there.
+TEST(DesktopProgram, AnswersHelpAndVersionWithoutAWindow) {
+    struct Row {
+        const char* option;
+        int code;
+        const char* output;
+    };
+    for (const Row& row :
+         {Row{"--help", 0, "Usage: kavela-desktop"}, Row{"-h", 0, "Usage: kavela-desktop"},
+          Row{"--version", 0, "kavela-desktop "}}) {
+        SCOPED_TRACE(row.option);
+        QProcess program;
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert("QT_QPA_PLATFORM", "none such");
+        program.setProcessEnvironment(environment);
+        program.start(KAVELA_DESKTOP_PROGRAM, {row.option});
+        ASSERT_TRUE(program.waitForFinished());
+        EXPECT_EQ(program.exitStatus(), QProcess::NormalExit);
+        EXPECT_EQ(program.exitCode(), row.code);
+        EXPECT_THAT(program.readAllStandardOutput().toStdString(), HasSubstr(row.output));
+        EXPECT_THAT(program.readAllStandardError().toStdString(), IsEmpty());
+    }
+    QProcess program;
+    program.start(KAVELA_DESKTOP_PROGRAM, {"--hlep"});
+    ASSERT_TRUE(program.waitForFinished());
+    EXPECT_EQ(program.exitCode(), 2);
+    EXPECT_THAT(program.readAllStandardError().toStdString(), HasSubstr("--hlep"));
+}
+
+class OpeningTest : public ::testing::Test {
+protected:
+    OpeningTest() { m_workspace.setAlerts(&m_recorder); }
+
+    static QString text(const fs::path& path) { return QString::fromStdString(path.string()); }
+
+    [[nodiscard]] desktop::SessionWindow* session() const {
+        return m_program.editorWindows().isEmpty()
+                   ? nullptr
+                   : qobject_cast<desktop::SessionWindow*>(m_program.editorWindows().front());
+    }
+
+    TempFolder m_folder;
+    Recorder m_recorder;
+    desktop::Workspace m_workspace{Preferences(m_folder.path() / "preferences.ini"),
+                                   m_recorder.log(), [] { return ReferenceDate{8e8}; }};
+    Desktop m_program{m_workspace, desktop::Autosave(text(m_folder.path() / "kept"))};
+};
+
+TEST_F(OpeningTest, TakesAPhonesListAndAWatchsTrackIntoASession) {
+    bool isAsked = false;
+    QTimer::singleShot(0, [&] {
+        auto* const dialog =
+            qobject_cast<desktop::CsvMappingDialog*>(QApplication::activeModalWidget());
+        ASSERT_TRUE(dialog);
+        isAsked = true;
+        auto* const import = dialog->findChild<QPushButton*>("import");
+        EXPECT_TRUE(QTest::qWaitFor([&] { return import->isEnabled(); }));
+        import->click();
+    });
+    m_program.openAll({example("recordings/watch.gpx"), example("recordings/phone_logger.csv")});
+    EXPECT_TRUE(isAsked);
+    ASSERT_TRUE(session());
+    EXPECT_TRUE(session()->document().value().recording);
+    ASSERT_THAT(m_recorder.alerts, ::testing::Not(IsEmpty()));
+    EXPECT_THAT(m_recorder.alerts.back(), HasSubstr("positions and"))
+        << "the track joins the recording, though it was named first";
+    EXPECT_THAT(m_program.editorWindows(), SizeIs(1));
+    EXPECT_THAT(m_program.raceWindows(), IsEmpty());
+}
+
+TEST_F(OpeningTest, SaysWhereATrackOrAListBelongsAndThatAFolderIsEmpty) {
+    m_program.open(example("recordings/watch.gpx"));
+    m_program.open(example("races/spring_opener_results.csv"));
+    fs::create_directory(m_folder.path() / "empty");
+    m_program.open(text(m_folder.path() / "empty"));
+    EXPECT_THAT(m_recorder.alerts,
+                ElementsAre(HasSubstr("Import the recording of the boat first"),
+                            HasSubstr("Import official results"), HasSubstr("no film")));
+    EXPECT_THAT(m_program.raceWindows(), IsEmpty());
+}
+
+TEST_F(OpeningTest, NamesTheFileThatCannotBeReadAndTheReason) {
+    const fs::path film = m_folder.add("heat1.kvx", std::string("\0\0\0\x20"
+                                                                "ftypisom\0\0\2\0",
+                                                                16));
+    m_program.openAll({text(film), text(m_folder.add("cup.kvx", R"({"info":{}})")),
+                       text(m_folder.path() / "gone.kvx")});
+    EXPECT_THAT(
+        m_recorder.alerts,
+        ElementsAre(::testing::AllOf(HasSubstr(IncompatibleFileText), HasSubstr("heat1.kvx: ")),
+                    HasSubstr("cup.kvx: "), HasSubstr("gone.kvx: No such file")));
+    EXPECT_FALSE(m_program.hasWindows());
+}
+
+TEST_F(OpeningTest, OpensAFilmWithItsFolderAndItsRunInFront) {
+    for (const char* film : {"Ada Berg.mov", "Bea Dahl.mov"})
+        (void)m_folder.add(std::string("day1/") + film, "no film yet");
+    m_program.open(text(m_folder.path() / "day1" / "Bea Dahl.mov"));
+    ASSERT_THAT(m_program.takingWindows(), SizeIs(1));
+    desktop::TakingWindow* const window = m_program.takingWindows().front();
+    ASSERT_EQ(window->document().runCount(), 2);
+    EXPECT_THAT(window->document().run(window->currentRun()).videoname,
+                ElementsAre("Bea Dahl.mov"));
+}
+
+TEST_F(OpeningTest, ShowsARaceThatIsOpenInsteadOfASecondWindowOfIt) {
+    const fs::path race = m_folder.path() / "cup.kvx";
+    fs::copy_file(fs::path(KAVELA_EXAMPLES) / "races/riverside_cup.kvx", race);
+    fs::create_symlink(race, m_folder.path() / "link.kvx");
+    m_program.open(text(race));
+    m_program.open(example("races/spring_opener.kvx"));
+    ASSERT_THAT(m_program.raceWindows(), SizeIs(2));
+    m_program.open(text(race));
+    m_program.open(text(m_folder.path() / "link.kvx"));
+    EXPECT_THAT(m_program.raceWindows(), SizeIs(2));
+
+    desktop::TakingWindow* const taking = m_program.openTaking(text(race));
+    ASSERT_TRUE(taking);
+    taking->document().editRun(0, "crew", [](athletedata031& run) { run.names = {"Ada Neumann"}; });
+    ASSERT_TRUE(taking->document().save(taking));
+    emit taking->analysisRequested(taking->document().path());
+    EXPECT_THAT(m_program.raceWindows(), SizeIs(2));
+    const desktop::RaceWindow* const shown = m_program.raceWindows().front();
+    EXPECT_EQ(shown->views().size(), 1U);
+    EXPECT_TRUE(
+        std::ranges::any_of(shown->document().wholeSet().alldata,
+                            [](const analyzerdata& run) { return run.name == "Ada Neumann"; }))
+        << "as it was saved a moment ago";
+    EXPECT_THAT(m_recorder.alerts, IsEmpty());
+}
+
+} // namespace
+} // namespace kavela::test
