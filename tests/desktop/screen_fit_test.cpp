@@ -7,6 +7,8 @@
 #include "desktop/motion/motion_window.h"
 #include "desktop/planning/planning_window.h"
 #include "desktop/race/race_window.h"
+#include "desktop/sessions/session_charts.h"
+#include "desktop/shell/editor_window.h"
 #include "desktop/shell/key_bindings.h"
 #include "desktop/shell/key_overlay.h"
 #include "desktop/shell/settings_window.h"
@@ -124,6 +126,10 @@ TEST_F(ScreenFitTest, HoldsEveryWindowWithRoomForItsContentAndWithoutScrollingTh
             << main->layout()->totalMinimumSize().height();
     }
     EXPECT_EQ(windows, 10);
+    for (const desktop::EditorWindow* const window : program.editorWindows())
+        if (const auto* const charts = window->findChild<desktop::SessionCharts*>()) {
+            EXPECT_GT(charts->width(), SmallScreen.width() / 2) << "what is looked at most";
+        }
     EXPECT_THAT(m_recorder.alerts, ::testing::IsEmpty());
 }
 

@@ -36,7 +36,7 @@ ChartFrame::ChartFrame(QWidget* parent)
     m_stack->addWidget(m_message);
     m_stack->addWidget(m_plot);
     setFocusProxy(m_plot);
-    setMinimumSize(320, 200);
+    setMinimumSize(240, 120);
     connectPlot();
 }
 

@@ -83,7 +83,8 @@ SessionView::SessionView(Workspace& workspace, Replay& replay, QWidget* parent)
     m_parts = new QSplitter;
     m_parts->addWidget(left);
     m_parts->addWidget(right);
-    m_parts->setStretchFactor(0, 1);
+    m_parts->setStretchFactor(0, 4); // on a small screen both give way
+    m_parts->setStretchFactor(1, 3);
     m_parts->setSizes({700, 540});
     rememberSizes(*m_parts, workspace, "sessionParts");
     rememberSizes(*right, workspace, "sessionSide");
