@@ -128,6 +128,17 @@ TEST(Strokes, PhoneThatSlipsIsToldAndBothSidesAreAnalysed) {
     }
 }
 
+TEST(Strokes, CanoeThatCirclesOnOneSideIsNeitherLostNorTakenForASlip) {
+    const Analysed result = analysed({.seed = 700030,
+                                      .strokesPerMinute = 110,
+                                      .mount = PhoneMount::Forward,
+                                      .isCanoe = true,
+                                      .isVaried = true});
+    EXPECT_TRUE(result.analysis.isBowKnown);
+    EXPECT_THAT(result.analysis.slips, IsEmpty());
+    EXPECT_GE(result.found.rightStraightHands / result.found.straightHands, 0.97);
+}
+
 TEST(Strokes, ForceAndPhasesComeNearTheTruth) {
     const Analysed result = analysed({.seed = 81, .sea = Sea::Light});
     EXPECT_LE(medianSize(result.found.catchErrors), 0.04);
