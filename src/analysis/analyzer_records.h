@@ -9,8 +9,8 @@
 #include <vector>
 
 /// The runs of a race as the analyzer works on them. Times are seconds, penalties whole seconds;
-/// percent figures are percent behind the best non-zero value of their column, 0 where there is no
-/// time.
+/// percent figures are percent behind the best value of their column that counts, 0 where none
+/// does.
 namespace kavela {
 
 /// The section figures of one run.

@@ -89,6 +89,12 @@ std::optional<Colour> bandColour(Band band, ColourScale scale) {
     return lookOf(band).colour;
 }
 
+Colour faded(const Colour& tint) {
+    constexpr double Left = 0.3;
+    const auto pale = [&](double channel) { return 1 - Left * tint.alpha * (1 - channel); };
+    return {pale(tint.red), pale(tint.green), pale(tint.blue), 1};
+}
+
 ColumnScale::ColumnScale(Column column, int number, std::int64_t sections) {
     const bool hasZero = std::find(column.begin(), column.end(), 0.0) != column.end();
     m_isMarked = number == TotalColumn && hasZero && sections >= TotalColumn;

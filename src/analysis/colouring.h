@@ -54,6 +54,9 @@ enum class ColourScale { GreenRed, BlueOrange };
 [[nodiscard]] std::optional<Colour> bandColour(Band band,
                                                ColourScale scale = ColourScale::GreenRed);
 
+/// A tint as it looks in a cell that counts for nothing: most of it gone, its hue still there.
+[[nodiscard]] Colour faded(const Colour& tint);
+
 /// Which values the table shows; the numbers are the table's own.
 enum class ValueKind { Sections = 0, Accumulated = 2 };
 

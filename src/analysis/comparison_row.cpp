@@ -24,12 +24,12 @@ std::vector<double> valuesOf(const RaceSet& one, std::size_t columns,
                              const TableSettings& settings) {
     constexpr std::size_t Closing = 3; // total, sprint, real
     const SplitTable table = makeSplitTable(one, settings);
-    const std::vector<TableCell>& cells = table.rows.front().cells;
+    const std::vector<double> own = countedValues(table.rows.front());
     std::vector<double> values(columns);
-    for (std::size_t i = 0; i + Closing < std::min(columns, cells.size()); ++i)
-        values[i] = cells[i].value;
+    for (std::size_t i = 0; i + Closing < std::min(columns, own.size()); ++i)
+        values[i] = own[i];
     for (std::size_t i = 1; i <= Closing; ++i)
-        values[columns - i] = cells[cells.size() - i].value;
+        values[columns - i] = own[own.size() - i];
     return values;
 }
 

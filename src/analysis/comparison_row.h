@@ -14,7 +14,7 @@ struct ComparisonRow {
     std::string origin; ///< the race it comes from; empty for this one
     std::string phase;
     std::string category;
-    std::vector<double> values; ///< seconds by column of the table, 0 where there is none
+    std::vector<double> values; ///< seconds by column of the table, 0 where none counts
 };
 
 /// The best of every section of the runs, as a row of their table; its total only where every

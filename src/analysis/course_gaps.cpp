@@ -3,6 +3,7 @@
 #include "analysis/ideal_run.h"
 #include "analysis/ranking.h"
 #include "analysis/section_distribution.h"
+#include "analysis/standing.h"
 #include "splitdata/run_timing.h"
 
 #include <algorithm>
@@ -46,9 +47,10 @@ std::size_t timedSections(const RaceSet& set) {
 
 double comparedTime(const analyzerdata& run, std::size_t section, bool penaltiesIncluded) {
     const double time = entryOrZero(run.sectioninfo.times, section);
-    if (time == 0 || !penaltiesIncluded)
-        return time;
-    return time + static_cast<double>(entryOrZero(run.sectioninfo.pens, section));
+    const std::int64_t penalty =
+        isTaken(time) && penaltiesIncluded ? entryOrZero(run.sectioninfo.pens, section) : 0;
+    const double compared = time + static_cast<double>(penalty);
+    return isTaken(compared) ? compared : 0;
 }
 
 std::vector<double> comparedTimes(const RaceSet& set, const analyzerdata& run,

@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-/// Where on the course a run wins and loses time against a reference. A time of 0 was not taken:
+/// Where on the course a run wins and loses time against a reference. Where a time was not taken,
 /// from there on nothing is known of a run, so its gaps end before it. Where penalties are
 /// included, each section's time contains the seconds of its penalties.
 namespace kavela {

@@ -1,5 +1,6 @@
 #include "analysis/ideal_run.h"
 
+#include "analysis/standing.h"
 #include "splitdata/run_timing.h"
 
 #include <algorithm>
@@ -14,7 +15,7 @@ IdealSection bestOfSection(const RaceSet& set, std::span<const std::size_t> runs
     IdealSection best;
     for (const std::size_t run : runs) {
         const double time = entryOrZero(set.alldata[run].sectioninfo.times, section);
-        if (time != 0 && (!best.run || time < best.time))
+        if (isTaken(time) && (!best.run || time < best.time))
             best = {time, run};
     }
     return best;
@@ -24,7 +25,7 @@ std::optional<std::size_t> fastestFullRun(const RaceSet& set, std::span<const st
     std::optional<std::size_t> fastest;
     const auto time = [&](std::size_t run) { return set.alldata[run].sectioninfo.totaltime; };
     for (const std::size_t run : runs)
-        if (set.isFull(set.alldata[run]) && (!fastest || time(run) < time(*fastest)))
+        if (isWhole(set, set.alldata[run]) && (!fastest || time(run) < time(*fastest)))
             fastest = run;
     return fastest;
 }

@@ -6,8 +6,8 @@
 #include <span>
 #include <vector>
 
-/// The run that nobody paddled: the best of every section put together. A time of 0 was not taken
-/// and is never a best; penalties are left out.
+/// The run that nobody paddled: the best of every section put together. A time that was not taken
+/// is never a best; penalties are left out.
 namespace kavela {
 
 /// The best of one section.
@@ -19,7 +19,8 @@ struct IdealSection {
 struct IdealRun {
     std::vector<IdealSection> sections; ///< of the course, up to the last that some run came to
     std::optional<double> total;        ///< only when every section of the course has a best
-    std::optional<std::size_t> fastest; ///< the full run of the least total time, without penalties
+    std::optional<std::size_t>
+        fastest; ///< the whole run of the least total time, without penalties
 };
 
 /// The ideal run of some runs of the set, given by their indices.

@@ -1,17 +1,34 @@
 #include "analysis/percent_behind.h"
 
+#include "analysis/standing.h"
 #include "splitdata/run_timing.h"
 
 #include <algorithm>
-#include <cmath>
 
 namespace kavela {
 
 namespace {
 
+double counted(double value, Standing standing) {
+    return standing == Standing::Counts ? value : 0;
+}
+
+double counted(double value) {
+    return counted(value, timeStanding(value));
+}
+
 /// A time with its penalty; without a time there is nothing to add to.
 double withPenalty(double time, std::int64_t penalty) {
-    return time == 0 ? 0 : time + static_cast<double>(penalty);
+    return time == 0 ? 0 : counted(time + static_cast<double>(penalty));
+}
+
+/// The least of the values that are not 0; 0 when there is none.
+double leastOf(const std::vector<double>& values) {
+    double least = 0;
+    for (const double value : values)
+        if (value != 0 && (least == 0 || value < least))
+            least = value;
+    return least;
 }
 
 /// Fills one figure of every run with the percent behind the best of `value` over all runs.
@@ -21,7 +38,7 @@ void fillColumn(std::vector<analyzerdata>& runs, Value value, Figure figure) {
     column.reserve(runs.size());
     for (const analyzerdata& run : runs)
         column.push_back(value(run.sectioninfo));
-    const double best = smallestNonZero(column);
+    const double best = leastOf(column);
     for (std::size_t i = 0; i < runs.size(); ++i)
         figure(runs[i].sectioninfo) = percentBehind(column[i], best);
 }
@@ -33,34 +50,39 @@ void fillSection(std::vector<analyzerdata>& runs, std::size_t section) {
         return section < figures.size() ? figures[section] : none;
     };
     fillColumn(
-        runs, [&](const sectionmaindata& s) { return entryOrZero(s.times, section); },
+        runs, [&](const sectionmaindata& s) { return counted(entryOrZero(s.times, section)); },
         [&](sectionmaindata& s) -> double& { return figureOf(s.pertimes); });
     fillColumn(
         runs,
         [&](const sectionmaindata& s) {
-            return withPenalty(entryOrZero(s.times, section), entryOrZero(s.pens, section));
+            return withPenalty(counted(entryOrZero(s.times, section)),
+                               entryOrZero(s.pens, section));
         },
         [&](sectionmaindata& s) -> double& { return figureOf(s.pertimesandpen); });
     fillColumn(
-        runs, [&](const sectionmaindata& s) { return entryOrZero(s.accutimes, section); },
+        runs,
+        [&](const sectionmaindata& s) {
+            return counted(entryOrZero(s.accutimes, section), accumulatedStanding(s, section));
+        },
         [&](sectionmaindata& s) -> double& { return figureOf(s.peraccutimes); });
 }
 
-void fillTotals(std::vector<analyzerdata>& runs) {
+void fillTotals(std::vector<analyzerdata>& runs, std::int64_t sections) {
+    const auto total = [sections](const sectionmaindata& s) {
+        return counted(s.totaltime, totalStanding(s, sections));
+    };
+    fillColumn(runs, total, [](sectionmaindata& s) -> double& { return s.totalpertime; });
     fillColumn(
-        runs, [](const sectionmaindata& s) { return s.totaltime; },
-        [](sectionmaindata& s) -> double& { return s.totalpertime; });
-    fillColumn(
-        runs, [](const sectionmaindata& s) { return withPenalty(s.totaltime, s.totalpen); },
+        runs, [&](const sectionmaindata& s) { return withPenalty(total(s), s.totalpen); },
         [](sectionmaindata& s) -> double& { return s.totalpertimeandpen; });
     fillColumn(
-        runs, [](const sectionmaindata& s) { return s.realtime; },
+        runs, [](const sectionmaindata& s) { return counted(s.realtime); },
         [](sectionmaindata& s) -> double& { return s.realpertime; });
     fillColumn(
-        runs, [](const sectionmaindata& s) { return s.sprinttime; },
+        runs, [](const sectionmaindata& s) { return counted(s.sprinttime); },
         [](sectionmaindata& s) -> double& { return s.sprintpertime; });
     fillColumn(
-        runs, [](const sectionmaindata& s) { return s.xTime; },
+        runs, [](const sectionmaindata& s) { return counted(s.xTime); },
         [](sectionmaindata& s) -> double& { return s.xPer; });
 }
 
@@ -72,15 +94,8 @@ double percentBehind(double time, double best) {
     return (time / best - 1) * 100;
 }
 
-double smallestNonZero(std::span<const double> values) {
-    double smallest = 0;
-    for (const double value : values)
-        if (value != 0 && (smallest == 0 || value < smallest))
-            smallest = value;
-    return smallest;
-}
-
-void fillPercentFigures(std::vector<analyzerdata>& runs) {
+void fillPercentFigures(RaceSet& set) {
+    std::vector<analyzerdata>& runs = set.alldata;
     std::size_t longest = 0;
     for (analyzerdata& run : runs) {
         sectionmaindata& section = run.sectioninfo;
@@ -91,7 +106,7 @@ void fillPercentFigures(std::vector<analyzerdata>& runs) {
     }
     for (std::size_t section = 0; section < longest; ++section)
         fillSection(runs, section);
-    fillTotals(runs);
+    fillTotals(runs, set.totalsplits);
 }
 
 } // namespace kavela

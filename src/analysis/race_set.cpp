@@ -98,7 +98,7 @@ RaceSet makeRaceSet(splittakerdata031 document, const fs::path& file) {
     for (athletedata031& run : document.athletes)
         set.alldata.push_back(
             comparisonRecord(document.info, std::move(run), file, set.alldata.size()));
-    fillPercentFigures(set.alldata);
+    fillPercentFigures(set);
     return set;
 }
 
@@ -106,7 +106,7 @@ RaceSet filteredRaceSet(const RaceSet& set, const std::function<bool(const analy
     RaceSet kept{{},        set.sectiontitles, set.totalsplits,
                  set.gates, set.upGates,       set.definedsections};
     std::ranges::copy_if(set.alldata, std::back_inserter(kept.alldata), keep);
-    fillPercentFigures(kept.alldata);
+    fillPercentFigures(kept);
     return kept;
 }
 

@@ -1,9 +1,9 @@
 #include "analysis/ranking.h"
 
+#include "analysis/standing.h"
 #include "common/number_text.h"
 
 #include <algorithm>
-#include <cmath>
 #include <map>
 
 namespace kavela {
@@ -19,7 +19,7 @@ std::vector<RankedRun> fullRuns(const RaceSet& set, std::span<const std::size_t>
     for (const std::size_t run : runs) {
         const double total = totalWithPenalties(set.alldata[run]);
         // The sum of absurd times may be no number, and then there is no order to put it in.
-        if (set.isFull(set.alldata[run]) && std::isfinite(roundedToHundredths(total)))
+        if (isWhole(set, set.alldata[run]) && isTaken(roundedToHundredths(total)))
             full.push_back({run, 0, total, 0});
     }
     return full;

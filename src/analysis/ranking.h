@@ -7,9 +7,9 @@
 #include <string>
 #include <vector>
 
-/// The order of the runs of a race: within each phase and category the full runs by total with
-/// penalties. Totals that look the same, to the hundredth, share a rank, and the next rank counts
-/// them all: 1, 2, 2, 4.
+/// The order of the runs of a race: within each phase and category the runs whose total counts, by
+/// total with penalties. Totals that look the same, to the hundredth, share a rank, and the next
+/// rank counts them all: 1, 2, 2, 4.
 namespace kavela {
 
 /// The runs that compete with one another, by their indices in the race set, in its order.
@@ -30,10 +30,11 @@ struct RankedRun {
 /// The groups of a race, in the order in which their first runs stand.
 [[nodiscard]] std::vector<RunGroup> runGroups(const RaceSet& set);
 
-/// The full runs among these, the fastest first; equal ones in the order given.
+/// The runs among these whose total counts, the fastest first; equal ones in the order given.
 [[nodiscard]] std::vector<RankedRun> ranking(const RaceSet& set, std::span<const std::size_t> runs);
 
-/// The rank of each run of the set within its own group; none for a run that is not full.
+/// The rank of each run of the set within its own group; none for a run whose total does not
+/// count.
 [[nodiscard]] std::vector<std::optional<int>> ranksInGroups(const RaceSet& set);
 
 } // namespace kavela

@@ -1,6 +1,5 @@
 #include "analysis/split_table.h"
 
-#include "analysis/percent_behind.h"
 #include "common/number_text.h"
 #include "splitdata/run_timing.h"
 
@@ -30,8 +29,8 @@ std::string sectionTitle(const RaceSet& set, std::size_t index) {
 /// Values and texts of the cells, before any colour.
 class CellValues {
 public:
-    CellValues(const TableSettings& settings, std::size_t sections)
-        : m_settings(settings), m_sections(sections) {}
+    CellValues(const TableSettings& settings, std::size_t sections, std::int64_t course)
+        : m_settings(settings), m_sections(sections), m_course(course) {}
 
     [[nodiscard]] std::vector<TableCell> of(const analyzerdata& run) const {
         const sectionmaindata& section = run.sectioninfo;
@@ -39,9 +38,9 @@ public:
         cells.reserve(m_sections + 3);
         for (std::size_t i = 0; i < m_sections; ++i)
             cells.push_back(sectionCell(section, i));
-        cells.push_back(cell(TotalColumn, total(section)));
-        cells.push_back(cell(SprintColumn, section.sprinttime));
-        cells.push_back(cell(RealColumn, section.realtime));
+        cells.push_back(cell(TotalColumn, total(section), totalStanding(section, m_course)));
+        cells.push_back(cell(SprintColumn, section.sprinttime, timeStanding(section.sprinttime)));
+        cells.push_back(cell(RealColumn, section.realtime, timeStanding(section.realtime)));
         return cells;
     }
 
@@ -50,10 +49,12 @@ private:
         return m_settings.penaltiesIncluded && m_settings.kind != ValueKind::Accumulated;
     }
 
-    [[nodiscard]] TableCell cell(std::optional<int> column, double value) const {
+    [[nodiscard]] TableCell cell(std::optional<int> column, double value, Standing standing) const {
         TableCell made;
         made.column = column;
         made.value = value;
+        // Penalties below 0, as a damaged file may have them, do not make a better time either.
+        made.standing = standing == Standing::Counts ? timeStanding(value) : standing;
         made.text = timeText(value, m_settings.isTinted());
         return made;
     }
@@ -61,13 +62,16 @@ private:
     [[nodiscard]] TableCell sectionCell(const sectionmaindata& section, std::size_t i) const {
         const std::int64_t penalty = entryOrZero(section.pens, i);
         double value = entryOrZero(section.times, i);
-        if (m_settings.kind == ValueKind::Accumulated)
+        Standing standing = timeStanding(value);
+        if (m_settings.kind == ValueKind::Accumulated) {
             value = accumulated(section, i);
-        else if (includesPenalties())
+            standing = accumulatedStanding(section, i);
+        } else if (includesPenalties()) {
             value += static_cast<double>(penalty);
+        }
         const bool compared = i < SectionColumns;
         TableCell made =
-            cell(compared ? std::optional(static_cast<int>(i) + 1) : std::nullopt, value);
+            cell(compared ? std::optional(static_cast<int>(i) + 1) : std::nullopt, value, standing);
         if (m_settings.penaltiesVisible && compared)
             made.text += " (" + std::to_string(penalty) + ")";
         return made;
@@ -86,6 +90,7 @@ private:
 
     const TableSettings& m_settings;
     std::size_t m_sections;
+    std::int64_t m_course; ///< sections of the course
 };
 
 void tintCells(SplitTable& table, const RaceSet& set, const TableSettings& settings) {
@@ -98,30 +103,30 @@ void tintCells(SplitTable& table, const RaceSet& set, const TableSettings& setti
     }
 }
 
-/// The value that the texts of a column are compared with in race mode: its smallest, 0 for none.
-std::array<double, RealColumn> raceReferences(const RaceSet& set, const TableSettings& settings) {
-    std::array<double, RealColumn> references{};
-    const auto takeOver = [&](const std::vector<Column>& columns) {
-        for (std::size_t i = 0; i < columns.size(); ++i)
-            references[i] = smallestNonZero(columns[i]);
-    };
-    takeOver(sectionColumns(set, settings.penaltiesIncluded));
-    if (settings.kind == ValueKind::Accumulated)
-        takeOver(accumulatedColumns(set)); // sprint and real times are never accumulated
-    return references;
+/// Marks the cells that show the least of what counts in their column.
+void markBests(SplitTable& table) {
+    for (std::size_t column = 0; column < table.columns.size(); ++column) {
+        double best = 0;
+        for (const TableRow& row : table.rows)
+            if (const TableCell& cell = row.cells[column]; cell.standing == Standing::Counts)
+                best = best == 0 ? cell.value : std::min(best, cell.value);
+        for (TableRow& row : table.rows) {
+            TableCell& cell = row.cells[column];
+            cell.isBest = cell.standing == Standing::Counts &&
+                          roundedToHundredths(cell.value) == roundedToHundredths(best);
+        }
+    }
 }
 
-void colourTexts(SplitTable& table, const RaceSet& set, const TableSettings& settings) {
-    const auto references = raceReferences(set, settings);
-    for (TableRow& row : table.rows) {
-        for (TableCell& cell : row.cells) {
-            const double reference =
-                cell.column ? references[static_cast<std::size_t>(*cell.column - 1)] : 0;
-            if (cell.value == 0 || reference == 0)
-                continue;
-            const bool isBest = roundedToHundredths(cell.value) == roundedToHundredths(reference);
-            cell.foreground = isBest ? NamedGreen : NamedRed;
-        }
+/// In race mode the best of a column is green and all else red, where there is a best.
+void colourTexts(SplitTable& table) {
+    for (std::size_t column = 0; column < table.columns.size(); ++column) {
+        const auto isBest = [&](const TableRow& row) { return row.cells[column].isBest; };
+        if (!table.columns[column].number || std::ranges::none_of(table.rows, isBest))
+            continue;
+        for (TableRow& row : table.rows)
+            if (TableCell& cell = row.cells[column]; cell.value != 0)
+                cell.foreground = cell.isBest ? NamedGreen : NamedRed;
     }
 }
 
@@ -140,6 +145,19 @@ std::vector<TableColumn> tableColumns(const RaceSet& set) {
     return columns;
 }
 
+std::vector<double> countedValues(const TableRow& row) {
+    std::vector<double> values;
+    for (const TableCell& cell : row.cells)
+        values.push_back(cell.standing == Standing::Counts ? cell.value : 0);
+    return values;
+}
+
+bool hasGreyed(const SplitTable& table) {
+    return std::ranges::any_of(table.rows, [](const TableRow& row) {
+        return std::ranges::any_of(row.cells, &TableCell::isGreyed);
+    });
+}
+
 std::string timeText(double seconds, bool isTinted) {
     if (seconds == 0)
         return isTinted ? "-" : "0.00"; // also for a zero with a sign
@@ -149,14 +167,15 @@ std::string timeText(double seconds, bool isTinted) {
 SplitTable makeSplitTable(const RaceSet& set, const TableSettings& settings) {
     SplitTable table;
     table.columns = tableColumns(set);
-    const CellValues values(settings, shownSections(set));
+    const CellValues values(settings, shownSections(set), set.totalsplits);
     table.rows.reserve(set.alldata.size());
     for (const analyzerdata& run : set.alldata)
         table.rows.push_back({&run, set.isFull(run), values.of(run)});
+    markBests(table);
     if (settings.isTinted())
         tintCells(table, set, settings);
     else
-        colourTexts(table, set, settings);
+        colourTexts(table);
     return table;
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "analysis/colouring.h"
+#include "analysis/standing.h"
 
 #include <optional>
 #include <string>
@@ -34,6 +35,12 @@ struct TableCell {
     std::optional<Band> band; ///< none in race mode
     std::optional<Colour> background;
     std::optional<Colour> foreground;
+    /// Whether the value may be a best. Band and background follow the value alone.
+    Standing standing = Standing::Counts;
+    bool isBest = false; ///< to the hundredth, among the values of the column that count
+
+    /// Whether a value is shown that counts for nothing: it is greyed.
+    [[nodiscard]] bool isGreyed() const { return value != 0 && standing != Standing::Counts; }
 };
 
 /// The cells of one run, in the order of the columns.
@@ -54,6 +61,12 @@ struct SplitTable {
 
 /// Builds and colours the table: the sections of the course, total, sprint and real time.
 [[nodiscard]] SplitTable makeSplitTable(const RaceSet& set, const TableSettings& settings);
+
+/// The values of a row by column, 0 where they do not count: what others are held against.
+[[nodiscard]] std::vector<double> countedValues(const TableRow& row);
+
+/// Whether some cell shows a value that counts for nothing.
+[[nodiscard]] bool hasGreyed(const SplitTable& table);
 
 /// The text of a time: two decimals; where cells are tinted, "-" for a time that was not taken.
 [[nodiscard]] std::string timeText(double seconds, bool isTinted);

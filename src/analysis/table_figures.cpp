@@ -1,7 +1,7 @@
 #include "analysis/table_figures.h"
 
-#include "analysis/comparison_columns.h"
 #include "analysis/percent_behind.h"
+#include "common/number_text.h"
 #include "common/percentile.h"
 #include "splitdata/run_timing.h"
 
@@ -12,9 +12,10 @@ namespace kavela {
 TableFigures::TableFigures(const SplitTable& table)
     : m_values(table.columns.size()), m_sorted(table.columns.size()) {
     for (std::size_t column = 0; column < table.columns.size(); ++column) {
-        const bool isTotal = table.columns[column].number == TotalColumn;
-        for (const TableRow& row : table.rows)
-            m_values[column].push_back(isTotal && !row.isFullRun ? 0 : row.cells[column].value);
+        for (const TableRow& row : table.rows) {
+            const TableCell& cell = row.cells[column];
+            m_values[column].push_back(cell.standing == Standing::Counts ? cell.value : 0);
+        }
         m_sorted[column] = m_values[column];
         std::erase(m_sorted[column], 0.0);
         std::sort(m_sorted[column].begin(), m_sorted[column].end());
@@ -30,8 +31,9 @@ std::optional<int> TableFigures::rank(std::size_t row, std::size_t column) const
     if (time == 0)
         return std::nullopt;
     const auto& sorted = m_sorted[column];
-    return static_cast<int>(std::lower_bound(sorted.begin(), sorted.end(), time) - sorted.begin()) +
-           1;
+    const auto first =
+        std::ranges::lower_bound(sorted, roundedToHundredths(time), {}, roundedToHundredths);
+    return static_cast<int>(first - sorted.begin()) + 1;
 }
 
 std::optional<double> TableFigures::percentBehind(std::size_t row, std::size_t column) const {

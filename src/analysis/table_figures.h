@@ -6,9 +6,8 @@
 #include <string>
 #include <vector>
 
-/// What a coach reads off a cell beside its time: rank, gap, percent behind, percentile. A value of
-/// 0 was not timed: it has no figure and is never a best. Nor is the total of a run that was not
-/// timed to the end.
+/// What a coach reads off a cell beside its time: rank, gap, percent behind, percentile. A cell
+/// that does not count has no figure, and none is held against it.
 namespace kavela {
 
 /// What the runs of a table are held against.
@@ -31,18 +30,19 @@ class TableFigures {
 public:
     explicit TableFigures(const SplitTable& table);
 
-    /// Place within the column, the smallest value being 1; equal values share a place.
+    /// Place within the column, the smallest value being 1; values that look the same, to the
+    /// hundredth, share a place.
     [[nodiscard]] std::optional<int> rank(std::size_t row, std::size_t column) const;
-    /// Timed cells of a column.
+    /// Cells of a column that count.
     [[nodiscard]] std::size_t timed(std::size_t column) const { return m_sorted[column].size(); }
     /// Percent behind the column's best.
     [[nodiscard]] std::optional<double> percentBehind(std::size_t row, std::size_t column) const;
-    /// Share of the column's timed values that are slower or equal, in percent: 100 for the best.
+    /// Share of the column's values that are slower or equal, in percent: 100 for the best.
     [[nodiscard]] std::optional<double> percentile(std::size_t row, std::size_t column) const;
     /// Seconds behind the reference's value in the column; negative when faster.
     [[nodiscard]] std::optional<double> gap(std::size_t row, std::size_t column,
                                             const TableReference& reference) const;
-    /// The same for a value of none of the table's runs.
+    /// The same for a value of none of the table's runs, 0 being none.
     [[nodiscard]] std::optional<double> gapOf(double value, std::size_t column,
                                               const TableReference& reference) const;
     [[nodiscard]] std::optional<double> percentBehindOf(double value, std::size_t column) const;
@@ -51,8 +51,8 @@ private:
     [[nodiscard]] double value(std::size_t row, std::size_t column) const;
     [[nodiscard]] double referenceValue(std::size_t column, const TableReference& reference) const;
 
-    std::vector<std::vector<double>> m_values; ///< by column, then row
-    std::vector<std::vector<double>> m_sorted; ///< by column: the timed ones, ascending
+    std::vector<std::vector<double>> m_values; ///< by column, then row; 0 where it does not count
+    std::vector<std::vector<double>> m_sorted; ///< by column: those that count, ascending
 };
 
 } // namespace kavela

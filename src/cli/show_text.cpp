@@ -21,6 +21,7 @@ constexpr std::string_view Gap = " ";
 // The named colours in shades that can be read on a dark and on a light ground.
 constexpr Colour TextGreen{0, 0.66, 0.25, 1};
 constexpr Colour TextRed{0.88, 0.25, 0.2, 1};
+constexpr Colour TextGrey{0.45, 0.45, 0.45, 1};
 
 int channel(double value, double alpha) {
     // A terminal has no alpha: the colour is laid over white, as on the screen's page.
@@ -36,6 +37,9 @@ std::string codesOf(const TableCell& cell) {
     constexpr int Foreground = 38;
     constexpr int Background = 48;
     std::string codes;
+    if (cell.isGreyed())
+        return (cell.background ? colourCode(Background, faded(*cell.background)) : codes) +
+               colourCode(Foreground, TextGrey);
     if (cell.background)
         codes += colourCode(Background, *cell.background) + "\x1b[38;2;0;0;0m";
     if (cell.foreground)
@@ -43,16 +47,12 @@ std::string codesOf(const TableCell& cell) {
     return codes;
 }
 
-/// The best of a column is marked for those who see no colours.
-bool isBest(const TableCell& cell) {
-    return cell.band == Band::Fastest || cell.foreground == NamedGreen;
-}
-
-/// A time as the table has it; one from a damaged file, hundreds of digits long, in short.
+/// A time as the table has it, the best marked for those who see no colours; one from a damaged
+/// file, hundreds of digits long, in short.
 std::string cellText(const TableCell& cell) {
     const std::string text =
         cell.text.size() > WidestTime ? fmt::format("{:.3g}", cell.value) : cell.text;
-    return text + (isBest(cell) ? '*' : ' ');
+    return text + (cell.isBest ? '*' : ' ');
 }
 
 std::string joined(std::initializer_list<std::string> parts, std::string_view separator) {
@@ -230,6 +230,8 @@ std::string tableText(const RaceHeading& heading, const SplitTable& table,
     text += printer.text() + '\n';
     std::string foot = counted(static_cast<std::int64_t>(table.rows.size()), "run", "runs") + "; " +
                        legend(settings);
+    if (terminal.hasColours && hasGreyed(table))
+        foot += "; grey: not timed as a whole, never a best";
     if (!printer.leftOut().empty())
         foot += "; left out for want of width: " + printer.leftOut();
     return text + style(Dim, foot) + '\n';

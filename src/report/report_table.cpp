@@ -35,6 +35,8 @@ QString bearable(const std::string& text) {
 }
 
 QColor inkOf(const TableCell& cell, ColourScale scale) {
+    if (cell.isGreyed())
+        return Quiet;
     if (cell.foreground) {
         const TextColours& colours = scale == ColourScale::BlueOrange ? BlueAndOrange : GreenAndRed;
         return *cell.foreground == NamedGreen ? colours.best : colours.other;
@@ -49,8 +51,8 @@ ReportCell reportCell(const TableCell& cell, const std::string& text, ColourScal
     made.text = bearable(text);
     made.ink = inkOf(cell, scale);
     if (const auto tint = cell.band ? bandColour(*cell.band, scale) : std::nullopt)
-        made.ground = onPaper(*tint);
-    made.isBest = cell.band == Band::Fastest || cell.foreground == NamedGreen;
+        made.ground = onPaper(cell.isGreyed() ? faded(*tint) : *tint);
+    made.isBest = cell.isBest;
     return made;
 }
 
@@ -244,6 +246,8 @@ ReportTable reportTable(const RaceSet& set, const SplitTable& table, const Table
     ReportTable report = TableMaker(set, table, view).make();
     report.isTinted = settings.isTinted();
     report.note = tableNote(set, settings, view, report.rowCount() - view.comparisons.size());
+    if (view.content == CellContent::Time && hasGreyed(table))
+        report.note += QStringLiteral(" Grey: not timed as a whole, never a best.");
     return report;
 }
 

@@ -1,6 +1,7 @@
 #include "report/run_sheet_data.h"
 
 #include "analysis/run_motion.h"
+#include "analysis/standing.h"
 #include "common/number_text.h"
 #include "common/reference_date.h"
 #include "report/run_sheet_notes.h"
@@ -22,24 +23,20 @@ constexpr std::size_t MostSections = 64;
 constexpr std::int64_t TouchSeconds = 2;
 constexpr std::int64_t MissedSeconds = 50;
 
-bool isTimed(double seconds) {
-    return std::isfinite(seconds) && seconds > 0;
-}
-
 /// A value against those of the category, of which those that are no times do not count.
-struct Standing {
+struct Comparison {
     double best = 0; ///< 0 for none
     int faster = 0;
     int count = 0;
 };
 
 template <class ValueOf>
-Standing standing(const RaceSet& set, const analyzerdata& run, const ValueOf& valueOf) {
-    Standing found;
+Comparison compared(const RaceSet& set, const analyzerdata& run, const ValueOf& valueOf) {
+    Comparison found;
     const double own = roundedToHundredths(valueOf(run));
     for (const analyzerdata& other : set.alldata) {
         const double value = valueOf(other);
-        if (other.category != run.category || !isTimed(value))
+        if (other.category != run.category || !isTaken(value))
             continue;
         ++found.count;
         found.best = found.count == 1 ? value : std::min(found.best, value);
@@ -51,16 +48,16 @@ Standing standing(const RaceSet& set, const analyzerdata& run, const ValueOf& va
 template <class ValueOf>
 void rank(SheetSplit& split, const RaceSet& set, const analyzerdata& run, const ValueOf& valueOf) {
     const double own = valueOf(run);
-    if (!isTimed(own))
+    if (!isTaken(own))
         return;
-    const Standing found = standing(set, run, valueOf);
+    const Comparison found = compared(set, run, valueOf);
     split.gap = own - found.best;
     split.rank = found.faster + 1;
 }
 
 double totalOf(const RaceSet& set, const analyzerdata& run) {
     const sectionmaindata& section = run.sectioninfo;
-    return set.isFull(run) ? section.totaltime + static_cast<double>(section.totalpen) : 0;
+    return isWhole(set, run) ? section.totaltime + static_cast<double>(section.totalpen) : 0;
 }
 
 QString sectionTitle(const RaceSet& set, std::size_t section) {
@@ -174,16 +171,16 @@ void addTotals(ReportHeading& heading, const RaceSet& set, const analyzerdata& r
     const double total = totalOf(set, run);
     if (run.pos != "0")
         add("Place", reportText(run.pos));
-    if (isTimed(total))
+    if (isTaken(total))
         add("Total", sheetSeconds(total));
-    if (isTimed(timing.totaltime))
-        add(isTimed(total) ? "Time" : "Time so far", sheetSeconds(timing.totaltime));
+    if (isTaken(timing.totaltime))
+        add(isTaken(total) ? "Time" : "Time so far", sheetSeconds(timing.totaltime));
     const QString words = penaltiesInWords(run);
     add("Penalties", QString::number(timing.totalpen) +
                          (words.isEmpty() ? QString() : QStringLiteral(" (%1)").arg(words)));
-    if (isTimed(total)) {
-        const Standing found =
-            standing(set, run, [&](const analyzerdata& of) { return totalOf(set, of); });
+    if (isTaken(total)) {
+        const Comparison found =
+            compared(set, run, [&](const analyzerdata& of) { return totalOf(set, of); });
         const QString category = reportText(run.category);
         heading.facts.push_back(
             {category.isEmpty() ? QStringLiteral("Among all runs")

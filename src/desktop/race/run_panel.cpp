@@ -1,6 +1,7 @@
 #include "desktop/race/run_panel.h"
 
 #include "analysis/athlete_potential.h"
+#include "analysis/standing.h"
 #include "common/number_text.h"
 #include "desktop/race/race_document.h"
 #include "desktop/shell/theme.h"
@@ -141,7 +142,7 @@ void RunPanel::fillHeading(std::size_t run, const std::optional<RunAgainst>& aga
     if (section.xTime != 0)
         text += tr("\nExpected %1 s").arg(timeOrDash(section.xTime));
     text += potentialText(set, record);
-    if (!set.isFull(record))
+    if (!isWhole(set, record))
         text += tr("\nNot the whole course");
     m_facts->setText(text);
     m_gates->setText(gateText(set, record));
