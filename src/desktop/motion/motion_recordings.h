@@ -1,8 +1,8 @@
 #pragma once
 
 #include "boatmotion/conversion.h"
-#include "desktop/motion/background_work.h"
 #include "desktop/motion/motion_recording.h"
+#include "desktop/shell/background_work.h"
 
 #include <QObject>
 #include <QUndoStack>

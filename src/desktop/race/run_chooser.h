@@ -1,14 +1,17 @@
 #pragma once
 
 #include "analysis/race_set.h"
+#include "common/reference_date.h"
+#include "desktop/shell/background_work.h"
 
 #include <QDialog>
 
 #include <optional>
 
-class QComboBox;
+class QLabel;
 class QLineEdit;
 class QListWidget;
+class QListWidgetItem;
 
 namespace kavela::desktop {
 
@@ -17,6 +20,7 @@ class Workspace;
 /// A race to take a run from.
 struct OtherRace {
     QString title;
+    ReferenceDate date;
     RaceSet set;
 };
 
@@ -25,8 +29,9 @@ struct OtherRace {
 [[nodiscard]] std::optional<OtherRace> readOtherRace(Workspace& workspace, const QString& path,
                                                      QWidget* over);
 
-/// Finds one run of another race: the race first, of those recently opened or of any file, then the
-/// run by a few letters.
+/// Finds one run of another race: the race first, of those in the folder of the open one, those
+/// recently opened, or of any file; then the run by a few letters. What the races are called, their
+/// day and number of runs are read beside the dialog, which is there at once.
 class RunChooser : public QDialog {
     Q_OBJECT
 
@@ -42,16 +47,28 @@ public:
     bool showRace(const QString& path);
 
 private:
+    [[nodiscard]] QWidget* makeRaces();
+    [[nodiscard]] QWidget* makeRuns();
+    void offerRaces(const QString& without);
+    QListWidgetItem* offer(const QString& path);
+    void readNext();
+    void takeFacts(const QString& path, std::optional<OtherRace> race);
+    void takeRace(OtherRace race);
+    [[nodiscard]] QListWidgetItem* itemOf(const QString& path) const;
+    void chooseRace(const QListWidgetItem* item);
     void chooseFile();
     void filter();
     void updateButtons();
 
     Workspace& m_workspace;
-    QComboBox* m_files;
+    QListWidget* m_files;
     QLineEdit* m_name;
     QListWidget* m_runs;
     QWidget* m_take = nullptr;
+    QString m_shown; ///< path of the race whose runs are shown
     std::optional<OtherRace> m_race;
+    QStringList m_unread;
+    BackgroundWork m_reading; // last: what it brings needs all the rest
 };
 
 } // namespace kavela::desktop

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "common/alerts.h"
-#include "desktop/motion/background_work.h"
+#include "desktop/shell/background_work.h"
 #include "desktop/taking/recording/run_recording.h"
 
 #include <QDialog>
