@@ -76,6 +76,7 @@ void applyColumnLayout(FrozenTable& table, const QStringList& layout) {
         header.moveSection(header.visualIndex(order[place]), place);
     for (int column = 0; column < header.count(); ++column)
         table.setColumnShown(column, !layout.contains('-' + columnName(*table.model(), column)));
+    table.arrange();
 }
 
 } // namespace kavela::desktop
