@@ -105,8 +105,13 @@ TEST_F(Panel, AReferenceRunIsFollowedThroughAFilter) {
 
     filtered = filteredRaceSet(filtered, [](const analyzerdata& run) { return run.name == "Bea"; });
     m_panel.setRace(filtered);
-    EXPECT_EQ(m_panel.reference(), CourseReference{}) << "gone: the best run again";
+    EXPECT_EQ(m_panel.reference(), (CourseReference{Kind::Times, 0, "Cyd", {12, 21, 30}}))
+        << "not shown, and still the one that the others are held against";
     EXPECT_EQ(changed.size(), 2);
+    m_panel.setPenaltiesIncluded(true);
+    EXPECT_EQ(m_panel.reference().times, (std::vector<double>{12, 71, 32}));
+    m_panel.setRace(chartRaceSet());
+    EXPECT_EQ(m_panel.reference(), (CourseReference{Kind::Run, 2})) << "back again";
 }
 
 TEST_F(Panel, LeadsToEveryChart) {

@@ -114,22 +114,25 @@ void ChartPanel::showCurrent() {
 }
 
 void ChartPanel::setRace(const RaceSet& set) {
-    const ChartRace before = m_race;
     m_race = set;
     m_selection.clear();
     for (Chart* chart : m_charts)
         chart->setRace(m_race);
-    followReferenceRun(before);
+    followReferenceRun();
     fillReferences();
 }
 
-void ChartPanel::followReferenceRun(const ChartRace& before) {
-    if (m_reference.kind != CourseReferenceKind::Run)
+/// A filter may leave out the run that the coach holds all others against: its times stay.
+void ChartPanel::followReferenceRun() {
+    if (!m_referenceRun)
         return;
-    const auto run =
-        m_reference.run < before.size() ? m_race.find(before.run(m_reference.run)) : std::nullopt;
+    const auto run = m_race.find(*m_referenceRun);
+    if (run)
+        m_referenceRun = m_race.run(*run);
     const CourseReference followed =
-        run ? CourseReference{CourseReferenceKind::Run, *run} : CourseReference{};
+        run ? CourseReference{CourseReferenceKind::Run, *run}
+            : CourseReference{CourseReferenceKind::Times, 0, m_referenceRun->name,
+                              comparedTimes(m_race.set(), *m_referenceRun, m_penaltiesIncluded)};
     if (followed == m_reference)
         return;
     m_reference = followed;
@@ -146,23 +149,32 @@ void ChartPanel::setSelection(const std::vector<std::size_t>& runs) {
 }
 
 void ChartPanel::setPenaltiesIncluded(bool included) {
+    m_penaltiesIncluded = included;
     for (Chart* chart : m_charts)
         chart->setPenaltiesIncluded(included);
+    followReferenceRun(); // by its times it has others now
 }
 
 void ChartPanel::setReference(const CourseReference& reference) {
     m_reference = reference;
     if (m_reference.kind == CourseReferenceKind::Run && m_reference.run >= m_race.size())
         m_reference = {};
+    noteReferenceRun();
     applyReference();
     fillReferences();
+}
+
+void ChartPanel::noteReferenceRun() {
+    m_referenceRun.reset();
+    if (m_reference.kind == CourseReferenceKind::Run)
+        m_referenceRun = m_race.run(m_reference.run);
 }
 
 void ChartPanel::setForeignReferences(const std::vector<CourseReference>& references) {
     if (references == m_foreign)
         return;
     m_foreign = references;
-    if (m_reference.kind == CourseReferenceKind::Times) {
+    if (m_reference.kind == CourseReferenceKind::Times && !m_referenceRun) {
         const auto same = std::ranges::find(m_foreign, m_reference.name, &CourseReference::name);
         m_reference = same == m_foreign.end() ? CourseReference{} : *same;
         applyReference();
@@ -217,7 +229,11 @@ void ChartPanel::fillReferences() {
 }
 
 void ChartPanel::chooseReference(int index) {
-    m_reference = m_offered[static_cast<std::size_t>(index)];
+    const CourseReference& chosen = m_offered[static_cast<std::size_t>(index)];
+    if (chosen == m_reference)
+        return; // maybe a run that is not shown, which is still meant
+    m_reference = chosen;
+    noteReferenceRun();
     applyReference();
     emit referenceChanged(m_reference);
 }

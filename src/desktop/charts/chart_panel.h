@@ -27,7 +27,7 @@ public:
     explicit ChartPanel(QWidget* parent = nullptr);
 
     /// The runs that the table shows. The selection has to be set again; a chosen reference run
-    /// stays the reference as long as it is among them.
+    /// stays the reference, by its times alone where it is not among them.
     void setRace(const RaceSet& set);
     void setSelection(const std::vector<std::size_t>& runs);
     void setPenaltiesIncluded(bool included);
@@ -53,7 +53,7 @@ public:
 
 signals:
     void runActivated(std::size_t run);
-    /// The user chose another reference, or the chosen run is gone.
+    /// The user chose another reference, or the chosen run has another place.
     void referenceChanged(const kavela::CourseReference& reference);
     void chartSaved(const QString& path);
     void savingFailed(const QString& path, const QString& reason);
@@ -67,12 +67,15 @@ private:
     void offerReference(const CourseReference& reference);
     void chooseReference(int index);
     void applyReference();
-    void followReferenceRun(const ChartRace& before);
+    void followReferenceRun();
+    void noteReferenceRun();
     [[nodiscard]] QString titleOf(const CourseReference& reference) const;
 
     ChartRace m_race;
     std::vector<std::size_t> m_selection;
     CourseReference m_reference;
+    std::optional<analyzerdata> m_referenceRun; ///< where the reference is, or stands for, a run
+    bool m_penaltiesIncluded = false;
     std::vector<CourseReference> m_foreign; ///< from elsewhere
     std::vector<CourseReference> m_offered; ///< as in the chooser
     std::vector<Chart*> m_charts;

@@ -81,12 +81,27 @@ QString ChartRace::sectionTitle(std::size_t section) const {
 }
 
 std::optional<std::size_t> ChartRace::find(const analyzerdata& run) const {
-    const auto found = std::ranges::find_if(m_set->alldata, [&](const analyzerdata& other) {
+    const auto placeOf = [this](const auto& isMeant) -> std::optional<std::size_t> {
+        const auto found = std::ranges::find_if(m_set->alldata, isMeant);
+        if (found == m_set->alldata.end())
+            return std::nullopt;
+        return static_cast<std::size_t>(found - m_set->alldata.begin());
+    };
+    const auto isAlike = [&](const analyzerdata& other) {
+        return other.names == run.names && other.phase == run.phase &&
+               other.category == run.category && other.fileURL == run.fileURL;
+    };
+    const auto hasNumber = [&](const analyzerdata& other) {
         return other.athleteInt == run.athleteInt && other.fileURL == run.fileURL;
-    });
-    if (found == m_set->alldata.end())
-        return std::nullopt;
-    return static_cast<std::size_t>(found - m_set->alldata.begin());
+    };
+    auto found = placeOf([&](const auto& other) { return isAlike(other) && hasNumber(other); });
+    if (!found)
+        found = placeOf(isAlike);
+    if (!found)
+        found = placeOf([&](const auto& other) {
+            return hasNumber(other) && other.sectioninfo.times == run.sectioninfo.times;
+        });
+    return found;
 }
 
 } // namespace kavela::desktop

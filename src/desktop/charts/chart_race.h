@@ -27,7 +27,8 @@ public:
     [[nodiscard]] QString label(std::size_t run) const;
     [[nodiscard]] QString sectionTitle(std::size_t section) const;
 
-    /// The same run of the same file as a run of another set.
+    /// A run of another set of the same file: the same crew in the same phase and category, of
+    /// several alike the one with its number; a crew of another name has its number and its times.
     [[nodiscard]] std::optional<std::size_t> find(const analyzerdata& run) const;
 
 private:
