@@ -385,6 +385,13 @@ void TakingDocument::importSplitFile(const QString& file, QWidget* over) {
         return;
     TakingState imported = stateOf(std::move(*document));
     TakingState after = m_state;
+    if (imported.runs.empty() && !after.runs.empty()) {
+        m_workspace.showAlert({"", tr("“%1” holds no runs. Nothing was imported.")
+                                       .arg(QFileInfo(file).fileName())
+                                       .toStdString()},
+                              over);
+        return;
+    }
     if (after.runs.empty())
         after = std::move(imported);
     else
@@ -400,8 +407,9 @@ QString TakingDocument::importResults(const QString& file, QWidget* over) {
         m_workspace.showAlert({"", *import.failure}, over);
         return {};
     }
-    editInfo(tr("official results imported"),
-             [&](infodata031& info) { info.resultsCSVdata = document.info.resultsCSVdata; });
+    if (import.imported > 0)
+        editInfo(tr("official results imported"),
+                 [&](infodata031& info) { info.resultsCSVdata = document.info.resultsCSVdata; });
     QStringList lines{tr("%n result(s) imported.", nullptr, static_cast<int>(import.imported))};
     for (const SkippedLine& skipped : import.skipped)
         lines.append(tr("Line %1: %2").arg(skipped.line).arg(qtText(skipped.reason)));

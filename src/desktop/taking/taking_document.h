@@ -117,6 +117,7 @@ private:
     void show(const TakingState& state);
     void keepWork();
     [[nodiscard]] bool holdsNothing() const;
+    void noteWritten();
     [[nodiscard]] splittakerdata031 finished(bool isLogged) const;
     [[nodiscard]] bool writeSplitFile(const splittakerdata031& document,
                                       const std::filesystem::path& file, QWidget* over) const;

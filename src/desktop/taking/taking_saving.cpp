@@ -57,12 +57,7 @@ bool TakingDocument::save(QWidget* over) {
     const fs::path file = m_path.toStdString();
     if (!mayOverwrite(over) || !writeSplitFile(document, file, over))
         return false;
-    m_readTime = lastWritten(file);
-    m_undo.setClean();
-    m_keep.stop();
-    m_autosave.forget(m_path);
-    m_workspace.addRecentFile(m_path);
-    emit saved();
+    noteWritten();
     const Preferences& preferences = m_workspace.preferences();
     (void)writeBeside(std::move(document), file, preferences.boolean("savetoCSV"),
                       preferences.boolean("savetoPDF"), over);
@@ -78,8 +73,21 @@ bool TakingDocument::exportTo(const QString& file, bool alsoCsv, bool alsoPdf, Q
         !m_workspace.ask({"", messages::AskToOverwrite}, tr("Overwrite"), over))
         return false;
     splittakerdata031 document = finished(false);
-    return writeSplitFile(document, file.toStdString(), over) &&
-           writeBeside(std::move(document), file.toStdString(), alsoCsv, alsoPdf, over);
+    if (!writeSplitFile(document, file.toStdString(), over))
+        return false;
+    if (QFileInfo(file) == QFileInfo(m_path))
+        noteWritten(); // who exports onto the document's own file has saved it
+    return writeBeside(std::move(document), file.toStdString(), alsoCsv, alsoPdf, over);
+}
+
+/// The document's own file holds the work as it is now.
+void TakingDocument::noteWritten() {
+    m_readTime = lastWritten(m_path.toStdString());
+    m_undo.setClean();
+    m_keep.stop();
+    m_autosave.forget(m_path);
+    m_workspace.addRecentFile(m_path);
+    emit saved();
 }
 
 bool TakingDocument::writeSplitFile(const splittakerdata031& document, const fs::path& file,
