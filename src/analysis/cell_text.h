@@ -17,6 +17,12 @@ enum class CellContent {
     Percentile,
 };
 
+/// The figure of a run's cell, rounded as it is shown and written with a point, without units:
+/// what a spreadsheet takes as a number. Empty where there is none.
+[[nodiscard]] std::string cellNumber(const SplitTable& table, const TableFigures& figures,
+                                     std::size_t row, std::size_t column, CellContent content,
+                                     const TableReference& reference);
+
 /// The text of a run's cell; a dash for a figure that there is none of. The figures are those of
 /// the table.
 [[nodiscard]] std::string cellText(const SplitTable& table, const TableFigures& figures,
@@ -27,6 +33,11 @@ enum class CellContent {
 [[nodiscard]] std::string comparisonText(const ComparisonRow& row, const TableFigures& figures,
                                          std::size_t column, CellContent content,
                                          const TableReference& reference);
+
+/// The same as a number.
+[[nodiscard]] std::string comparisonNumber(const ComparisonRow& row, const TableFigures& figures,
+                                           std::size_t column, CellContent content,
+                                           const TableReference& reference);
 
 /// Hundredths with a plus in front of what is more than 0: "+0.25", "-0.25", "0.00".
 [[nodiscard]] std::string signedHundredths(double seconds);

@@ -1,19 +1,9 @@
-#include "common/recorders.h"
-#include "common/safe_file.h"
-#include "common/temp_folder.h"
-#include "desktop/desktop.h"
 #include "desktop/preview/report_preview.h"
-#include "desktop/race/frozen_table.h"
-#include "desktop/race/race_view.h"
-#include "desktop/race/race_window.h"
 #include "desktop/race/run_chooser.h"
+#include "desktop/race_fixture.h"
 #include "desktop/shell/settings_window.h"
 #include "splitdata/loader.h"
 
-#include <gmock/gmock.h>
-
-#include <QAction>
-#include <QApplication>
 #include <QCheckBox>
 #include <QClipboard>
 #include <QComboBox>
@@ -22,58 +12,9 @@
 #include <QMenu>
 #include <QPushButton>
 #include <QSignalSpy>
-#include <QTest>
 
 namespace kavela::test {
 namespace {
-
-namespace fs = std::filesystem;
-using desktop::Desktop;
-using desktop::RaceWindow;
-using desktop::SplitTableModel;
-using desktop::Workspace;
-
-const fs::path Examples = KAVELA_EXAMPLES;
-constexpr int FirstTime = SplitTableModel::LeadingColumns;
-
-/// The desktop program with preferences, files and alerts of its own.
-class RaceWindowTest : public ::testing::Test {
-protected:
-    RaceWindowTest() { m_workspace.setAlerts(&m_recorder); }
-
-    RaceWindow* open(const fs::path& file) {
-        m_desktop.open(QString::fromStdString(file.string()));
-        return m_desktop.raceWindows().isEmpty() ? nullptr : m_desktop.raceWindows().back();
-    }
-
-    fs::path copyOf(const fs::path& file) {
-        return m_folder.add(file.filename().string(), contentOf(file));
-    }
-
-    /// Does what a shortcut does; the screen that nobody sees makes no window the active one.
-    static void trigger(const RaceWindow& window, const QKeySequence& keys) {
-        for (QAction* action : window.findChildren<QAction*>())
-            if (action->shortcut() == keys)
-                action->trigger();
-    }
-
-    static QVariant cell(const RaceWindow& window, int row, int column, int role) {
-        return window.model().index(row, column).data(role);
-    }
-
-    static QStringList column(const RaceWindow& window, int number) {
-        QStringList texts;
-        for (int row = 0; row < window.model().rowCount(); ++row)
-            texts.append(cell(window, row, number, Qt::DisplayRole).toString());
-        return texts;
-    }
-
-    TempFolder m_folder;
-    Recorder m_recorder;
-    Workspace m_workspace{Preferences(m_folder.path() / "preferences.ini"), m_recorder.log(),
-                          [] { return ReferenceDate{7e8}; }};
-    Desktop m_desktop{m_workspace};
-};
 
 TEST_F(RaceWindowTest, KeepsTheFileOfAnOlderReleaseBesideTheNewOne) {
     const fs::path file = copyOf(Examples / "older" / "release_0.11.kvx");

@@ -2,12 +2,22 @@
 
 namespace kavela::desktop {
 
+namespace {
+
+QColor qtColour(const Colour& colour) {
+    return QColor::fromRgbF(static_cast<float>(colour.red), static_cast<float>(colour.green),
+                            static_cast<float>(colour.blue), static_cast<float>(colour.alpha));
+}
+
+} // namespace
+
 std::optional<QColor> bandTint(Band band, ColourScale scale) {
     const auto colour = bandColour(band, scale);
-    if (!colour)
-        return std::nullopt;
-    return QColor::fromRgbF(static_cast<float>(colour->red), static_cast<float>(colour->green),
-                            static_cast<float>(colour->blue), static_cast<float>(colour->alpha));
+    return colour ? std::optional(qtColour(*colour)) : std::nullopt;
+}
+
+QColor fadedTint(const QColor& tint) {
+    return qtColour(faded({tint.redF(), tint.greenF(), tint.blueF(), tint.alphaF()}));
 }
 
 QColor raceText(const Colour& colour, ColourScale scale, bool isDark) {

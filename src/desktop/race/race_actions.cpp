@@ -204,6 +204,10 @@ void RaceActions::makeWindowMenu() {
         *menu, tr("Races &side by side"), QKeySequence(Qt::Key_F8),
         [this](const RaceView&) { return m_window.isSideBySide(); },
         [this](RaceView&, bool on) { m_window.setSideBySide(on); });
+    addSwitch(
+        *menu, tr("&Larger: the table or the chart alone"), QKeySequence(Qt::Key_F9),
+        [](const RaceView& view) { return view.isEnlarged(); },
+        [](RaceView& view, bool on) { view.setEnlarged(on); });
     menu->addAction(tr("&Next race"), QKeySequence(Qt::CTRL | Qt::Key_PageDown), &m_window,
                     [this] { m_window.showNextView(1); });
     menu->addAction(tr("&Previous race"), QKeySequence(Qt::CTRL | Qt::Key_PageUp), &m_window,

@@ -1,9 +1,12 @@
 #include "desktop/race/race_document.h"
 
+#include "analysis/followed_runs.h"
 #include "analysis/open_race.h"
 #include "desktop/shell/workspace.h"
 
 #include <QFileInfo>
+
+#include <algorithm>
 
 namespace kavela::desktop {
 
@@ -50,15 +53,27 @@ bool RaceDocument::open(const QString& path, QWidget* over) {
         return false;
     m_filter = {};
     m_workspace.addRecentFile(m_path);
-    rebuild();
+    chooseRuns();
     return true;
 }
 
 bool RaceDocument::reload(QWidget* over) {
     if (!read(m_path.toStdString(), over))
         return false;
-    rebuild();
+    keepFilterPossible();
+    chooseRuns();
     return true;
+}
+
+/// A phase or category that no run has any more would leave an empty table behind.
+void RaceDocument::keepFilterPossible() {
+    const auto drop = [this](QString& wanted, std::string analyzerdata::*field) {
+        const auto has = [&](const analyzerdata& run) { return qtText(run.*field) == wanted; };
+        if (std::ranges::none_of(m_whole.alldata, has))
+            wanted.clear();
+    };
+    drop(m_filter.phase, &analyzerdata::phase);
+    drop(m_filter.category, &analyzerdata::category);
 }
 
 bool RaceDocument::read(const fs::path& file, QWidget* over) {
@@ -66,19 +81,25 @@ bool RaceDocument::read(const fs::path& file, QWidget* over) {
     auto race = openRace(file, m_workspace.log(), alerts, m_workspace.clock());
     if (!race)
         return false;
-    m_path = qtText(file.string());
     m_upgradeNote = desktop::upgradeNote(*race);
-    m_info = race->document.info;
-    m_whole = makeRaceSet(std::move(race->document), file);
+    takeOver(std::move(race->document), file);
     watch();
     return true;
 }
 
-void RaceDocument::show(splittakerdata031 document, const QString& path) {
-    m_path = path;
+void RaceDocument::takeOver(splittakerdata031 document, const fs::path& file) {
+    m_path = qtText(file.string());
     m_info = document.info;
-    m_whole = makeRaceSet(std::move(document), path.toStdString());
-    rebuild();
+    RaceSet now = makeRaceSet(std::move(document), file);
+    const RunMoves moves = followedRuns(m_whole, now);
+    m_whole = std::move(now);
+    emit runsMoved(moves);
+}
+
+void RaceDocument::show(splittakerdata031 document, const QString& path) {
+    takeOver(std::move(document), path.toStdString());
+    keepFilterPossible();
+    chooseRuns();
 }
 
 QString RaceDocument::title() const {
@@ -109,7 +130,7 @@ void RaceDocument::setFilter(const RunFilter& filter) {
     if (filter == m_filter)
         return;
     m_filter = filter;
-    rebuild();
+    chooseRuns();
 }
 
 void RaceDocument::setAccumulated(bool accumulated) {
@@ -119,7 +140,7 @@ void RaceDocument::setAccumulated(bool accumulated) {
     rebuild();
 }
 
-void RaceDocument::rebuild() {
+void RaceDocument::chooseRuns() {
     const auto accepts = [](const QString& wanted, const std::string& value) {
         return wanted.isEmpty() || qtText(value) == wanted;
     };
@@ -127,6 +148,11 @@ void RaceDocument::rebuild() {
         return accepts(m_filter.phase, run.phase) && accepts(m_filter.category, run.category) &&
                qtText(run.name).contains(m_filter.name, Qt::CaseInsensitive);
     });
+    ++m_shownVersion;
+    rebuild();
+}
+
+void RaceDocument::rebuild() {
     m_table = makeSplitTable(m_shown, settings());
     m_figures.emplace(m_table);
     rebuildComparisons();
@@ -139,6 +165,25 @@ void RaceDocument::rebuildComparisons() {
         m_comparisons.push_back(idealRow(m_shown, settings()));
     for (const analyzerdata& run : m_foreign)
         m_comparisons.push_back(comparisonRow(m_shown, run, settings()));
+}
+
+std::vector<RowKey> RaceDocument::comparisonKeys() const {
+    std::vector<RowKey> keys;
+    if (m_isIdealShown)
+        keys.push_back({RowKey::Kind::Ideal});
+    for (std::size_t i = 0; i < m_foreign.size(); ++i)
+        keys.push_back({RowKey::Kind::Other, i});
+    return keys;
+}
+
+std::optional<ComparisonRow> RaceDocument::valuesOf(const RowKey& row) const {
+    if (row.kind == RowKey::Kind::Ideal)
+        return idealRow(m_shown, settings());
+    const bool isOwn = row.kind == RowKey::Kind::Run;
+    const std::vector<analyzerdata>& runs = isOwn ? m_whole.alldata : m_foreign;
+    if (row.number >= runs.size())
+        return std::nullopt;
+    return comparisonRow(m_shown, runs[row.number], settings());
 }
 
 void RaceDocument::setIdealShown(bool isShown) {

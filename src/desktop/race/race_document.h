@@ -27,6 +27,24 @@ struct RunFilter {
     friend bool operator==(const RunFilter&, const RunFilter&) = default;
 };
 
+/// What a row of the table is, whatever order, filter and settings make of its place.
+struct RowKey {
+    enum class Kind {
+        Run,   ///< of this race
+        Ideal, ///< the ideal run
+        Other, ///< a run of another race
+    };
+    Kind kind = Kind::Run;
+    /// Of the run in its file, counted from 0; of the runs of other races, as they were added.
+    std::size_t number = 0;
+
+    friend bool operator==(const RowKey&, const RowKey&) = default;
+};
+
+/// Where each run of the file as it was before stands in the file as it is now; none for one that
+/// is gone.
+using RunMoves = std::vector<std::optional<std::size_t>>;
+
 /// A race in the analyzer: the runs of a split file, those that the filter leaves, and their table
 /// as the preferences want it. The file itself is never edited here.
 class RaceDocument : public QObject {
@@ -38,7 +56,7 @@ public:
     /// Opens a split file of any release, upgraded in place with its previous content kept. False,
     /// after an alert, when it cannot be opened; the document is then as it was.
     [[nodiscard]] bool open(const QString& path, QWidget* over);
-    /// Reads the file again; the filter and the comparisons stay.
+    /// Reads the file again; comparisons stay, and the filter as far as there are runs for it.
     [[nodiscard]] bool reload(QWidget* over);
 
     /// Shows a document that is being edited elsewhere, as the file at a path would be shown.
@@ -53,6 +71,8 @@ public:
 
     [[nodiscard]] const RaceSet& wholeSet() const { return m_whole; }
     [[nodiscard]] const RaceSet& shownSet() const { return m_shown; }
+    /// Another number for every other set of runs that is shown.
+    [[nodiscard]] unsigned shownVersion() const { return m_shownVersion; }
     [[nodiscard]] const SplitTable& table() const { return m_table; }
     [[nodiscard]] const TableFigures& figures() const { return *m_figures; }
     [[nodiscard]] TableSettings settings() const;
@@ -64,6 +84,11 @@ public:
 
     /// What the runs are held against beside each other: the ideal run, runs of other races.
     [[nodiscard]] const std::vector<ComparisonRow>& comparisons() const { return m_comparisons; }
+    /// What stands in the comparison rows, in their order.
+    [[nodiscard]] std::vector<RowKey> comparisonKeys() const;
+    /// What a row holds under the settings as they are, whether it is shown or not; none when there
+    /// is no such run.
+    [[nodiscard]] std::optional<ComparisonRow> valuesOf(const RowKey& row) const;
     void setIdealShown(bool isShown);
     [[nodiscard]] bool isIdealShown() const { return m_isIdealShown; }
     /// Adds a run of another race; `race` is what that race is called.
@@ -73,6 +98,9 @@ public:
     [[nodiscard]] std::vector<CourseReference> courseReferences() const;
 
 signals:
+    /// The file was read again; `tableChanged` follows. Whoever keeps numbers of runs of the file
+    /// renumbers them.
+    void runsMoved(const kavela::desktop::RunMoves& moves);
     /// The table is another one: other runs, values or colours.
     void tableChanged();
     /// The file on the disk is not the one that was opened any more.
@@ -80,6 +108,9 @@ signals:
 
 private:
     [[nodiscard]] bool read(const std::filesystem::path& file, QWidget* over);
+    void takeOver(splittakerdata031 document, const std::filesystem::path& file);
+    void keepFilterPossible();
+    void chooseRuns();
     void rebuild();
     void rebuildComparisons();
     void watch();
@@ -98,6 +129,7 @@ private:
     std::vector<ComparisonRow> m_comparisons;
     RaceSet m_whole;
     RaceSet m_shown;
+    unsigned m_shownVersion = 0;
     SplitTable m_table;
     std::optional<TableFigures> m_figures;
 };

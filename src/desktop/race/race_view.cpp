@@ -6,24 +6,24 @@
 #include "desktop/race/best_panels.h"
 #include "desktop/race/column_layout.h"
 #include "desktop/race/frozen_table.h"
+#include "desktop/race/kept_selection.h"
 #include "desktop/race/motion_panel.h"
+#include "desktop/race/race_header.h"
 #include "desktop/race/race_reports.h"
 #include "desktop/race/run_chooser.h"
 #include "desktop/race/run_panel.h"
-#include "desktop/race/table_text.h"
+#include "desktop/race/table_export.h"
 #include "desktop/shell/theme.h"
 #include "desktop/shell/window_place.h"
 #include "desktop/shell/workspace.h"
 
 #include <QApplication>
 #include <QClipboard>
-#include <QComboBox>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
-#include <QLineEdit>
 #include <QMenu>
 #include <QPushButton>
 #include <QSplitter>
@@ -31,6 +31,7 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <numeric>
 
 namespace kavela::desktop {
 
@@ -42,30 +43,6 @@ QString qtText(const std::string& text) {
     return QString::fromStdString(text);
 }
 
-/// Refills a filter with the values that the runs have, the choice of all in front, and keeps the
-/// choice where it is still there.
-void fill(QComboBox& box, const QString& all, const RaceSet& set,
-          std::string analyzerdata::*field) {
-    const QSignalBlocker blocker(box);
-    const QString chosen = box.currentData().toString();
-    QStringList values;
-    for (const analyzerdata& run : set.alldata)
-        if (const QString value = qtText(run.*field); !value.isEmpty() && !values.contains(value))
-            values.append(value);
-    box.clear();
-    box.addItem(all, QString());
-    for (const QString& value : values)
-        box.addItem(value, value);
-    box.setCurrentIndex(std::max(0, box.findData(chosen)));
-    box.setVisible(values.size() > 1);
-}
-
-QString countText(std::size_t shown, std::size_t all) {
-    if (shown == all)
-        return all == 1 ? RaceView::tr("1 run") : RaceView::tr("%1 runs").arg(all);
-    return RaceView::tr("%1 of %2 runs").arg(shown).arg(all);
-}
-
 QLabel* quietLabel() {
     auto* label = new QLabel;
     label->setTextFormat(Qt::PlainText);
@@ -73,22 +50,18 @@ QLabel* quietLabel() {
     return label;
 }
 
-std::vector<double> valuesOf(const TableRow& row) {
-    std::vector<double> values;
-    for (const TableCell& cell : row.cells)
-        values.push_back(cell.value);
-    return values;
-}
-
 } // namespace
 
 RaceView::RaceView(Workspace& workspace, QWidget* parent)
-    : QWidget(parent), m_workspace(workspace), m_document(workspace), m_model(m_document) {
+    : QWidget(parent),
+      m_workspace(workspace),
+      m_document(workspace),
+      m_model(m_document),
+      m_header(new RaceHeader(m_document)) {
     makeCentre();
     connect(&m_document, &RaceDocument::tableChanged, this, &RaceView::showTable);
     connect(&m_document, &RaceDocument::changedOnDisk, this, &RaceView::noticeChange);
-    connect(m_table->selectionModel(), &QItemSelectionModel::selectionChanged, this,
-            &RaceView::showSelection);
+    connect(m_selection, &KeptSelection::changed, this, &RaceView::showSelection);
 }
 
 bool RaceView::open(const QString& path) {
@@ -110,18 +83,18 @@ void RaceView::makeCentre() {
     column->setContentsMargins(theme::LargeSpacing, theme::Spacing, theme::LargeSpacing,
                                theme::LargeSpacing);
     column->setSpacing(theme::Spacing);
-    column->addWidget(makeFilterBar());
+    column->addWidget(m_header);
     column->addWidget(makeNoteBar());
     column->addWidget(split, 1);
 }
 
 QWidget* RaceView::makeWork() {
-    m_table = new FrozenTable(SplitTableModel::LeadingColumns);
+    m_table = new FrozenTable(SplitTableModel::LeadingColumns, SplitTableModel::ClosingColumns);
     m_table->setObjectName("splitTable");
     m_table->setModel(&m_model);
+    m_selection = new KeptSelection(*m_table, m_model, m_document, this);
     connect(m_table, &FrozenTable::columnsMoved, this, &RaceView::rememberColumns);
-    for (QHeaderView* header :
-         {m_table->horizontalHeader(), m_table->frozenView()->horizontalHeader()}) {
+    for (QHeaderView* header : m_table->headers()) {
         header->setContextMenuPolicy(Qt::CustomContextMenu);
         connect(header, &QWidget::customContextMenuRequested, this, [this, header](QPoint at) {
             QMenu menu;
@@ -161,41 +134,6 @@ QWidget* RaceView::makeSide() {
     return m_side;
 }
 
-QWidget* RaceView::makeFilterBar() {
-    m_title = new QLabel;
-    m_title->setTextFormat(Qt::PlainText);
-    m_title->setFont(theme::titleFont(*this));
-    m_subtitle = quietLabel();
-    m_count = quietLabel();
-    m_phase = new QComboBox;
-    m_phase->setObjectName("phase");
-    m_phase->setAccessibleName(tr("Phase"));
-    m_category = new QComboBox;
-    m_category->setObjectName("category");
-    m_category->setAccessibleName(tr("Category"));
-    m_name = new QLineEdit;
-    m_name->setObjectName("name");
-    m_name->setPlaceholderText(tr("Name"));
-    m_name->setClearButtonEnabled(true);
-    m_name->setMaximumWidth(200);
-    for (QComboBox* box : {m_phase, m_category})
-        connect(box, &QComboBox::currentIndexChanged, this, &RaceView::applyFilter);
-    connect(m_name, &QLineEdit::textChanged, this, &RaceView::applyFilter);
-
-    auto* words = new QVBoxLayout;
-    words->setSpacing(0);
-    words->addWidget(m_title);
-    words->addWidget(m_subtitle);
-    auto* box = new QWidget;
-    auto* row = new QHBoxLayout(box);
-    row->setContentsMargins(0, 0, 0, 0);
-    row->setSpacing(theme::Spacing);
-    row->addLayout(words, 1);
-    for (QWidget* widget : std::initializer_list<QWidget*>{m_count, m_phase, m_category, m_name})
-        row->addWidget(widget, 0, Qt::AlignBottom);
-    return box;
-}
-
 QWidget* RaceView::makeNoteBar() {
     m_note = quietLabel();
     m_note->setObjectName("note");
@@ -213,15 +151,37 @@ QWidget* RaceView::makeNoteBar() {
 }
 
 void RaceView::setCompact(bool isCompact) {
-    m_side->setVisible(!isCompact);
-    m_charts->setVisible(!isCompact);
+    m_isCompact = isCompact;
+    showParts();
+}
+
+void RaceView::setEnlarged(bool isEnlarged) {
+    const QWidget* focused = QApplication::focusWidget();
+    const bool isInCharts = focused != nullptr && m_charts->isAncestorOf(focused);
+    if (!isEnlarged)
+        m_enlarged = nullptr;
+    else if (isInCharts)
+        m_enlarged = m_charts;
+    else
+        m_enlarged = m_table;
+    showParts();
+    if (m_enlarged == m_table && !m_header->isAncestorOf(focused))
+        m_table->setFocus(); // also where the keyboard was in what is hidden now
+    emit stateChanged();
+}
+
+void RaceView::showParts() {
+    m_side->setVisible(!m_isCompact && m_enlarged == nullptr);
+    m_table->setVisible(m_enlarged != m_charts);
+    m_charts->setVisible(m_enlarged == nullptr ? !m_isCompact : m_enlarged == m_charts);
+    m_header->setVisible(m_enlarged != m_charts); // the filter belongs to the table
 }
 
 void RaceView::showDocument() {
-    m_title->setText(m_document.title());
-    m_subtitle->setText(m_document.subtitle());
-    showNote(m_document.upgradeNote(), false);
-    fillFilters();
+    m_header->showRace();
+    QStringList notes{m_document.upgradeNote(), courseNote()};
+    notes.removeAll(QString());
+    showNote(notes.join('\n'), false);
     m_table->setFocus();
     emit stateChanged();
 }
@@ -232,29 +192,64 @@ void RaceView::showNote(const QString& note, bool offersReload) {
     m_reload->setVisible(offersReload);
 }
 
+/// Whom the gaps in the table are to: the reference may be a run that the filter leaves out.
+QString RaceView::referenceText() const {
+    const TableReference& reference = m_model.reference();
+    if (m_model.content() != CellContent::Gap)
+        return {};
+    switch (reference.kind) {
+    case ReferenceKind::Best:
+        return tr("gaps to the best");
+    case ReferenceKind::Median:
+        return tr("gaps to the median");
+    case ReferenceKind::Run:
+        return tr("gaps to %1").arg(qtText(m_document.table().rows[reference.row].run->name));
+    case ReferenceKind::Values:
+        return tr("gaps to %1")
+            .arg(reference.name.empty() ? tr("the ideal run") : qtText(reference.name));
+    }
+    return {};
+}
+
+/// What a coach would otherwise take for a fault of the table.
+QString RaceView::courseNote() const {
+    if (m_document.wholeSet().totalsplits <= SectionColumns)
+        return {};
+    return tr("This course has %1 sections. The colours and the penalties in brackets are those of "
+              "the first ten; place, gap and percent are there for all of them.")
+        .arg(m_document.wholeSet().totalsplits);
+}
+
 void RaceView::showTable() {
-    m_count->setText(
-        countText(m_document.shownSet().alldata.size(), m_document.wholeSet().alldata.size()));
     applyColumnLayout(*m_table, m_workspace.remembered(ColumnsKey));
     m_charts->setPenaltiesIncluded(m_document.settings().penaltiesIncluded);
-    m_charts->setRace(m_document.shownSet());
+    if (m_shownVersion != m_document.shownVersion())
+        showRuns();
     m_charts->setForeignReferences(m_document.courseReferences());
+    showSelection();
+    m_header->showCount(referenceText());
+    emit stateChanged();
+}
+
+/// What depends on the runs alone stays as it is under other settings of the table, as far as the
+/// coach has zoomed a chart.
+void RaceView::showRuns() {
+    m_shownVersion = m_document.shownVersion();
+    m_charts->setRace(m_document.shownSet());
     m_ideal->refresh();
     m_potential->refresh();
     m_motion->forget();
-    showSelection();
-    emit stateChanged();
 }
 
 void RaceView::showSelection() {
     std::vector<std::size_t> runs;
     std::optional<RunAgainst> against;
-    for (const QModelIndex& row : m_table->selectionModel()->selectedRows()) {
-        if (const auto run = m_model.runOfRow(row.row()))
+    for (const int row : m_selection->rows()) {
+        if (const auto run = m_model.runOfRow(row))
             runs.push_back(*run);
         else
-            against = {row.siblingAtColumn(SplitTableModel::NameColumn).data().toString(),
-                       m_model.comparisonOfRow(row.row())->values};
+            against = {m_model.index(row, SplitTableModel::NameColumn).data().toString(),
+                       m_model.comparisonOfRow(row)->values};
     }
     m_charts->setSelection(runs);
     m_motion->showRuns(runs);
@@ -264,32 +259,22 @@ void RaceView::showSelection() {
     }
     if (runs.size() > 1 && !against) {
         const TableRow& first = m_document.table().rows[runs.front()];
-        against = {qtText(first.run->name), valuesOf(first)};
+        against = {qtText(first.run->name), countedValues(first)};
         m_run->showRun(runs[1], against);
         return;
     }
     m_run->showRun(runs.front(), against);
 }
 
-void RaceView::fillFilters() {
-    fill(*m_phase, tr("All phases"), m_document.wholeSet(), &analyzerdata::phase);
-    fill(*m_category, tr("All categories"), m_document.wholeSet(), &analyzerdata::category);
-}
-
-void RaceView::applyFilter() {
-    m_document.setFilter({m_phase->currentData().toString(), m_category->currentData().toString(),
-                          m_name->text().trimmed()});
-}
-
 void RaceView::findName() {
-    m_name->setFocus();
-    m_name->selectAll();
+    if (m_enlarged == m_charts)
+        setEnlarged(false);
+    m_header->findName();
 }
 
 void RaceView::clearFilter() {
-    m_phase->setCurrentIndex(0);
-    m_category->setCurrentIndex(0);
-    m_name->clear();
+    m_document.setFilter({});
+    m_header->showRace();
     m_table->setFocus();
 }
 
@@ -303,6 +288,8 @@ void RaceView::selectRun(std::size_t run) {
 
 void RaceView::setContent(CellContent content) {
     m_model.setContent(content);
+    m_table->fitColumns();
+    m_header->showCount(referenceText());
     emit stateChanged();
 }
 
@@ -312,21 +299,16 @@ void RaceView::setScale(ColourScale scale) {
 }
 
 void RaceView::setReference(ReferenceKind kind) {
-    m_model.setReference({kind});
+    m_model.setReference(kind);
+    m_header->showCount(referenceText());
     emit stateChanged();
 }
 
 void RaceView::useSelectionAsReference() {
-    const QModelIndexList rows = m_table->selectionModel()->selectedRows();
-    if (rows.isEmpty())
-        return;
-    const int row = rows.front().row();
-    if (const auto run = m_model.runOfRow(row))
-        m_model.setReference({ReferenceKind::Run, *run});
-    else
-        m_model.setReference({ReferenceKind::Values, 0, m_model.comparisonOfRow(row)->name,
-                              m_model.comparisonOfRow(row)->values});
-    emit stateChanged();
+    if (!m_selection->rows().empty())
+        m_model.setReferenceRow(m_model.keyOfRow(m_selection->rows().front()));
+    m_header->showCount(referenceText());
+    emit stateChanged(); // also where nothing was selected, since the menu has ticked itself
 }
 
 void RaceView::compareWithOtherRace() {
@@ -335,15 +317,17 @@ void RaceView::compareWithOtherRace() {
         m_document.addComparison(chooser.run(), chooser.race());
 }
 
+QList<int> RaceView::allRows() const {
+    QList<int> rows(m_model.rowCount());
+    std::iota(rows.begin(), rows.end(), 0);
+    return rows;
+}
+
 void RaceView::copySelection() {
-    QList<int> rows;
-    for (const QModelIndex& row : m_table->selectionModel()->selectedRows())
-        rows.append(row.row());
+    QList<int> rows(m_selection->rows().begin(), m_selection->rows().end());
     std::sort(rows.begin(), rows.end());
-    if (rows.isEmpty())
-        for (int row = 0; row < m_model.rowCount(); ++row)
-            rows.append(row);
-    QApplication::clipboard()->setText(tabSeparated(m_model, rows, shownColumns(*m_table)));
+    QApplication::clipboard()->setText(tableAsText(m_model, rows.isEmpty() ? allRows() : rows,
+                                                   shownColumns(*m_table), clipboardTable()));
 }
 
 void RaceView::saveCsv() {
@@ -354,8 +338,9 @@ void RaceView::saveCsv() {
     if (path.isEmpty())
         return;
     try {
-        writeFileSafely(path.toStdString(),
-                        semicolonSeparated(m_model, shownColumns(*m_table)).toStdString());
+        writeFileSafely(
+            path.toStdString(),
+            tableAsText(m_model, allRows(), shownColumns(*m_table), fileTable()).toStdString());
     } catch (const FileError& error) {
         m_workspace.log()("Failed to create file");
         m_workspace.showAlert({"Failed to create file", error.reason()}, this);
@@ -367,12 +352,12 @@ void RaceView::previewReports() {
                                        m_workspace.showAlert(alert, over);
                                    }};
     // The run that the sheet is of: the topmost of the selected ones.
-    QModelIndexList rows = m_table->selectionModel()->selectedRows();
-    std::sort(rows.begin(), rows.end());
+    std::vector<int> rows = m_selection->rows();
+    std::ranges::sort(rows);
     std::optional<std::size_t> run;
-    for (const QModelIndex& row : rows)
+    for (const int row : rows)
         if (!run)
-            run = m_model.runOfRow(row.row());
+            run = m_model.runOfRow(row);
     auto* preview = new ReportPreview(raceReports(m_document, m_model, shownColumns(*m_table), run),
                                       failures, this);
     preview->setAttribute(Qt::WA_DeleteOnClose);

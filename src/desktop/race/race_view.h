@@ -5,9 +5,7 @@
 
 #include <QWidget>
 
-class QComboBox;
 class QLabel;
-class QLineEdit;
 class QMenu;
 class QPushButton;
 class QSplitter;
@@ -20,6 +18,8 @@ class FrozenTable;
 class IdealPanel;
 class MotionPanel;
 class PotentialPanel;
+class RaceHeader;
+class KeptSelection;
 class RunPanel;
 class Workspace;
 
@@ -45,6 +45,11 @@ public:
 
     /// Only the table, as where several races stand side by side.
     void setCompact(bool isCompact);
+
+    /// The table alone over the whole window, or the charts where the keyboard is in them; and
+    /// everything again.
+    void setEnlarged(bool isEnlarged);
+    [[nodiscard]] bool isEnlarged() const { return m_enlarged != nullptr; }
 
     void setContent(CellContent content);
     void setReference(ReferenceKind kind);
@@ -75,13 +80,15 @@ private:
     void makeCentre();
     [[nodiscard]] QWidget* makeWork();
     [[nodiscard]] QWidget* makeSide();
-    [[nodiscard]] QWidget* makeFilterBar();
     [[nodiscard]] QWidget* makeNoteBar();
+    void showParts();
     void showDocument();
     void showTable();
+    void showRuns();
     void showSelection();
-    void fillFilters();
-    void applyFilter();
+    [[nodiscard]] QList<int> allRows() const;
+    [[nodiscard]] QString courseNote() const;
+    [[nodiscard]] QString referenceText() const;
     void noticeChange();
     void requestMoment(const QModelIndex& index);
     void showNote(const QString& note, bool offersReload);
@@ -91,22 +98,21 @@ private:
     Workspace& m_workspace;
     RaceDocument m_document;
     SplitTableModel m_model;
+    RaceHeader* m_header;
     FrozenTable* m_table = nullptr;
+    KeptSelection* m_selection = nullptr;
+    const QWidget* m_enlarged = nullptr; ///< table or charts, where one of them is alone
+    bool m_isCompact = false;
+    unsigned m_shownVersion = 0; ///< of the runs in the charts
     RunPanel* m_run = nullptr;
     IdealPanel* m_ideal = nullptr;
     PotentialPanel* m_potential = nullptr;
     MotionPanel* m_motion = nullptr;
     QTabWidget* m_side = nullptr;
     ChartPanel* m_charts = nullptr;
-    QLabel* m_title = nullptr;
-    QLabel* m_subtitle = nullptr;
     QWidget* m_noteBar = nullptr;
     QLabel* m_note = nullptr;
     QPushButton* m_reload = nullptr;
-    QLabel* m_count = nullptr;
-    QComboBox* m_phase = nullptr;
-    QComboBox* m_category = nullptr;
-    QLineEdit* m_name = nullptr;
 };
 
 } // namespace kavela::desktop

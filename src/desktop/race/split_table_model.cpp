@@ -2,13 +2,14 @@
 
 #include "common/number_text.h"
 #include "desktop/race/cell_colours.h"
-#include "desktop/race/race_document.h"
 #include "desktop/shell/theme.h"
+#include "splitdata/run_timing.h"
 
 #include <QApplication>
 #include <QCollator>
 
 #include <algorithm>
+#include <limits>
 #include <numeric>
 
 namespace kavela::desktop {
@@ -24,6 +25,7 @@ QString qtText(const std::string& text) {
 SplitTableModel::SplitTableModel(RaceDocument& document, QObject* parent)
     : QAbstractTableModel(parent), m_document(document) {
     connect(&m_document, &RaceDocument::tableChanged, this, &SplitTableModel::reload);
+    connect(&m_document, &RaceDocument::runsMoved, this, &SplitTableModel::renumber);
     reload();
 }
 
@@ -43,11 +45,55 @@ int SplitTableModel::columnCount(const QModelIndex& parent) const {
 void SplitTableModel::reload() {
     beginResetModel();
     m_order.resize(m_document.table().rows.size());
-    std::iota(m_order.begin(), m_order.end(), std::size_t{0});
-    if (m_reference.row >= m_order.size())
-        m_reference = {};
     applySort();
+    resolveReference();
     endResetModel();
+}
+
+/// The keys of the rows and the reference are numbers of runs of the file, which has others now.
+void SplitTableModel::renumber(const RunMoves& moves) {
+    constexpr std::size_t Gone = std::numeric_limits<std::size_t>::max();
+    const auto follow = [&](RowKey& key) {
+        if (key.kind == RowKey::Kind::Run)
+            key.number = key.number < moves.size() ? moves[key.number].value_or(Gone) : Gone;
+    };
+    std::ranges::for_each(m_keys, follow);
+    follow(m_referenceRow);
+}
+
+void SplitTableModel::listKeys() {
+    m_keys = m_document.comparisonKeys();
+    for (const std::size_t run : m_order) {
+        const std::int64_t number = m_document.shownSet().alldata[run].athleteInt;
+        m_keys.push_back({RowKey::Kind::Run, static_cast<std::size_t>(number)});
+    }
+}
+
+const RowKey& SplitTableModel::keyOfRow(int row) const {
+    return m_keys[static_cast<std::size_t>(row)];
+}
+
+int SplitTableModel::rowOfKey(const RowKey& key) const {
+    const auto at = std::ranges::find(m_keys, key);
+    return at == m_keys.end() ? -1 : static_cast<int>(at - m_keys.begin());
+}
+
+/// A run that is shown is the reference by its place, as the report names it; any other row by what
+/// it holds under the settings of the table as they are now.
+void SplitTableModel::resolveReference() {
+    m_reference = {m_referenceKind};
+    if (m_referenceKind != ReferenceKind::Run)
+        return;
+    const int row = rowOfKey(m_referenceRow);
+    const auto run = row < 0 ? std::nullopt : runOfRow(row);
+    if (run) {
+        m_reference.row = *run;
+    } else if (const auto values = m_document.valuesOf(m_referenceRow)) {
+        m_reference = {ReferenceKind::Values, 0, values->name, values->values};
+    } else {
+        m_referenceKind = ReferenceKind::Best;
+        m_reference = {};
+    }
 }
 
 std::optional<std::size_t> SplitTableModel::runOfRow(int row) const {
@@ -69,9 +115,15 @@ void SplitTableModel::setContent(CellContent content) {
     repaint();
 }
 
-void SplitTableModel::setReference(const TableReference& reference) {
-    m_reference = reference;
+void SplitTableModel::setReference(ReferenceKind kind) {
+    m_referenceKind = kind;
+    resolveReference();
     repaint();
+}
+
+void SplitTableModel::setReferenceRow(const RowKey& row) {
+    m_referenceRow = row;
+    setReference(ReferenceKind::Run);
 }
 
 void SplitTableModel::setScale(ColourScale scale) {
@@ -105,35 +157,55 @@ void SplitTableModel::sort(int column, Qt::SortOrder order) {
     emit layoutChanged({}, VerticalSortHint);
 }
 
+const TableCell* SplitTableModel::sortedCell(std::size_t run) const {
+    if (m_sortColumn < LeadingColumns)
+        return nullptr;
+    return &m_document.table()
+                .rows[run]
+                .cells[static_cast<std::size_t>(m_sortColumn - LeadingColumns)];
+}
+
+/// The official place; runs without one stand behind all others in either direction.
+double SplitTableModel::placeOf(std::size_t run) const {
+    return qtText(m_document.table().rows[run].run->pos).toDouble();
+}
+
+void SplitTableModel::applyTextSort() {
+    const bool descends = m_sortOrder == Qt::DescendingOrder;
+    QCollator collator;
+    collator.setNumericMode(true);
+    std::vector<QCollatorSortKey> keys;
+    for (const std::size_t run : m_order)
+        keys.push_back(collator.sortKey(leadingText(run, m_sortColumn)));
+    std::stable_sort(m_order.begin(), m_order.end(), [&](std::size_t a, std::size_t b) {
+        return descends ? keys[b].compare(keys[a]) < 0 : keys[a].compare(keys[b]) < 0;
+    });
+}
+
 void SplitTableModel::applySort() {
     std::iota(m_order.begin(), m_order.end(), std::size_t{0});
-    if (m_sortColumn < 0 || m_sortColumn >= columnCount())
-        return;
-    const bool descends = m_sortOrder == Qt::DescendingOrder;
-    const auto ordered = [&](const auto& a, const auto& b) { return descends ? b < a : a < b; };
-    if (m_sortColumn < LeadingColumns && m_sortColumn != PlaceColumn) {
-        QCollator collator;
-        collator.setNumericMode(true);
-        std::vector<QCollatorSortKey> keys;
-        for (const std::size_t run : m_order)
-            keys.push_back(collator.sortKey(leadingText(run, m_sortColumn)));
+    if (m_sortColumn >= 0 && m_sortColumn < LeadingColumns && m_sortColumn != PlaceColumn) {
+        applyTextSort();
+    } else if (m_sortColumn >= 0 && m_sortColumn < columnCount()) {
+        // What was not timed stands last in either direction, behind what counts for nothing.
+        const auto group = [&](std::size_t run) {
+            const TableCell* cell = sortedCell(run);
+            if (cell == nullptr)
+                return placeOf(run) == 0 ? 2 : 0;
+            return cell->value == 0 ? 2 : cell->isGreyed() ? 1 : 0;
+        };
+        const auto value = [&](std::size_t run) {
+            const TableCell* cell = sortedCell(run);
+            return cell != nullptr ? cell->value : placeOf(run);
+        };
+        const bool descends = m_sortOrder == Qt::DescendingOrder;
         std::stable_sort(m_order.begin(), m_order.end(), [&](std::size_t a, std::size_t b) {
-            return descends ? keys[b].compare(keys[a]) < 0 : keys[a].compare(keys[b]) < 0;
+            if (group(a) != group(b))
+                return group(a) < group(b);
+            return descends ? value(b) < value(a) : value(a) < value(b);
         });
-        return;
     }
-    const auto value = [&](std::size_t run) {
-        if (m_sortColumn == PlaceColumn)
-            return qtText(m_document.table().rows[run].run->pos).toDouble();
-        const auto cell = static_cast<std::size_t>(m_sortColumn - LeadingColumns);
-        return m_document.table().rows[run].cells[cell].value;
-    };
-    std::stable_sort(m_order.begin(), m_order.end(), [&](std::size_t a, std::size_t b) {
-        // What was not timed stands last in either direction.
-        const double x = value(a);
-        const double y = value(b);
-        return x != 0 && (y == 0 || ordered(x, y));
-    });
+    listKeys();
 }
 
 QString SplitTableModel::leadingText(std::size_t run, int column) const {
@@ -155,12 +227,32 @@ QString SplitTableModel::cellText(std::size_t run, std::size_t cell) const {
                                    m_reference));
 }
 
+QString SplitTableModel::plainNumber(std::size_t run, std::size_t cell) const {
+    return qtText(
+        cellNumber(m_document.table(), m_document.figures(), run, cell, m_content, m_reference));
+}
+
+bool SplitTableModel::showsPenalties(std::size_t cell) const {
+    const std::vector<TableColumn>& columns = m_document.table().columns;
+    return m_content == CellContent::Time && m_document.settings().penaltiesVisible &&
+           cell + ClosingColumns < columns.size();
+}
+
+QVariant SplitTableModel::penalty(std::size_t run, std::size_t cell) const {
+    if (!showsPenalties(cell))
+        return {};
+    const auto& penalties = m_document.table().rows[run].run->sectioninfo.pens;
+    return QVariant::fromValue(static_cast<qlonglong>(entryOrZero(penalties, cell)));
+}
+
 QString SplitTableModel::toolTip(std::size_t run, std::size_t cell) const {
     const TableFigures& figures = m_document.figures();
     const auto rank = figures.rank(run, cell);
+    const TableRow& row = m_document.table().rows[run];
+    if (row.cells[cell].isGreyed())
+        return greyedTip(run, cell);
     if (!rank)
         return tr("Not timed");
-    const TableRow& row = m_document.table().rows[run];
     return tr("%1, %2: %3 s\nplace %4 of %5\n%6 s behind the best, %7 %")
         .arg(qtText(row.run->name), qtText(m_document.table().columns[cell].title),
              qtText(hundredthsText(row.cells[cell].value)))
@@ -170,12 +262,26 @@ QString SplitTableModel::toolTip(std::size_t run, std::size_t cell) const {
              qtText(hundredthsText(figures.percentBehind(run, cell).value_or(0))));
 }
 
+/// Why a cell is grey.
+QString SplitTableModel::greyedTip(std::size_t run, std::size_t cell) const {
+    const TableRow& row = m_document.table().rows[run];
+    const std::string_view reason = reasonOf(row.cells[cell].standing);
+    return tr("%1, %2: %3 s\n%4\nIt counts for nothing: no place, no gap, never a best.")
+        .arg(qtText(row.run->name), qtText(m_document.table().columns[cell].title),
+             qtText(hundredthsText(row.cells[cell].value)),
+             QString::fromUtf8(reason.data(), static_cast<qsizetype>(reason.size())));
+}
+
 QVariant SplitTableModel::background(const TableCell& cell) const {
     const auto tint = cell.band ? bandTint(*cell.band, m_scale) : std::nullopt;
-    return tint ? QVariant(*tint) : QVariant();
+    if (!tint)
+        return {};
+    return cell.isGreyed() ? fadedTint(*tint) : *tint;
 }
 
 QVariant SplitTableModel::foreground(const TableCell& cell) const {
+    if (cell.isGreyed())
+        return cell.background ? OnFadedTint : theme::quietText(QApplication::palette());
     if (cell.foreground)
         return raceText(*cell.foreground, m_scale, theme::isDark(QApplication::palette()));
     if (cell.band && bandTint(*cell.band, m_scale))
@@ -198,6 +304,12 @@ QVariant SplitTableModel::comparisonData(const ComparisonRow& row, int column, i
     switch (role) {
     case Qt::DisplayRole:
         return comparisonText(row, column);
+    case NumberRole:
+        return column < LeadingColumns
+                   ? comparisonText(row, column)
+                   : qtText(comparisonNumber(row, m_document.figures(),
+                                             static_cast<std::size_t>(column - LeadingColumns),
+                                             m_content, m_reference));
     case Qt::ToolTipRole:
         return row.origin.empty() ? tr("The best of every section, put together")
                                   : tr("%1 in %2").arg(qtText(row.name), qtText(row.origin));
@@ -228,13 +340,18 @@ QString SplitTableModel::comparisonText(const ComparisonRow& row, int column) co
 
 QVariant SplitTableModel::runData(std::size_t run, int column, int role) const {
     if (column < LeadingColumns)
-        return role == Qt::DisplayRole || role == Qt::ToolTipRole ? leadingText(run, column)
-                                                                  : QVariant();
+        return role == Qt::DisplayRole || role == Qt::ToolTipRole || role == NumberRole
+                   ? leadingText(run, column)
+                   : QVariant();
     const auto cell = static_cast<std::size_t>(column - LeadingColumns);
     const TableCell& shown = m_document.table().rows[run].cells[cell];
     switch (role) {
     case Qt::DisplayRole:
         return cellText(run, cell);
+    case NumberRole:
+        return plainNumber(run, cell);
+    case PenaltyRole:
+        return penalty(run, cell);
     case Qt::ToolTipRole:
         return toolTip(run, cell);
     case Qt::BackgroundRole:
@@ -243,12 +360,33 @@ QVariant SplitTableModel::runData(std::size_t run, int column, int role) const {
         return foreground(shown);
     case Qt::FontRole: {
         QFont font;
-        font.setBold(shown.band == Band::Fastest || shown.foreground == NamedGreen);
+        font.setBold(shown.isBest);
+        font.setItalic(shown.isGreyed());
         return font;
     }
     default:
         return {};
     }
+}
+
+/// The gates of a section, and what is different about those from the eleventh on.
+QString SplitTableModel::headerTip(std::size_t cell) const {
+    const TableColumn& column = m_document.table().columns[cell];
+    QStringList lines{qtText(column.title)};
+    const auto& sections = m_document.shownSet().definedsections;
+    if (cell < sections.size() && (!column.number || *column.number <= SectionColumns)) {
+        QStringList gates;
+        for (const std::int64_t gate : sections[cell])
+            gates.append(QString::number(gate));
+        if (!gates.isEmpty())
+            lines.append(tr("Gates %1").arg(gates.join(", ")));
+    }
+    if (!column.number)
+        lines.append(tr("Section %1: the colours and the penalties in brackets are those of the "
+                        "first ten sections only.\nPlace, gap and percent are there as in any "
+                        "other.")
+                         .arg(cell + 1));
+    return lines.join('\n');
 }
 
 QVariant SplitTableModel::headerData(int section, Qt::Orientation orientation, int role) const {
@@ -257,6 +395,11 @@ QVariant SplitTableModel::headerData(int section, Qt::Orientation orientation, i
     if (role == Qt::TextAlignmentRole)
         return QVariant((section < PlaceColumn ? Qt::AlignLeft : Qt::AlignRight) |
                         Qt::AlignVCenter);
+    if (role == PenaltyRole)
+        return section >= LeadingColumns &&
+               showsPenalties(static_cast<std::size_t>(section - LeadingColumns));
+    if (role == Qt::ToolTipRole && section >= LeadingColumns)
+        return headerTip(static_cast<std::size_t>(section - LeadingColumns));
     if (role != Qt::DisplayRole)
         return {};
     switch (section) {

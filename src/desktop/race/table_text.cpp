@@ -1,7 +1,5 @@
 #include "desktop/race/table_text.h"
 
-#include <numeric>
-
 namespace kavela::desktop {
 
 namespace {
@@ -13,32 +11,27 @@ QString quoted(QString field, QChar separator) {
     return needsQuotes ? '"' + field.replace("\"", "\"\"") + '"' : field;
 }
 
-QString separated(const QAbstractItemModel& model, const QList<int>& rows,
-                  const QList<int>& columns, QChar separator) {
+} // namespace
+
+QString separatedLine(QStringList fields, QChar separator) {
+    for (QString& field : fields)
+        field = quoted(field, separator);
+    return fields.join(separator) + '\n';
+}
+
+QString tabSeparated(const QAbstractItemModel& model, const QList<int>& rows,
+                     const QList<int>& columns) {
     QString text;
     const auto addLine = [&](auto field) {
         QStringList fields;
         for (const int column : columns)
-            fields.append(quoted(field(column).toString(), separator));
-        text += fields.join(separator) + '\n';
+            fields.append(field(column).toString());
+        text += separatedLine(fields, '\t');
     };
     addLine([&](int column) { return model.headerData(column, Qt::Horizontal); });
     for (const int row : rows)
         addLine([&](int column) { return model.index(row, column).data(); });
     return text;
-}
-
-} // namespace
-
-QString tabSeparated(const QAbstractItemModel& model, const QList<int>& rows,
-                     const QList<int>& columns) {
-    return separated(model, rows, columns, '\t');
-}
-
-QString semicolonSeparated(const QAbstractItemModel& model, const QList<int>& columns) {
-    QList<int> rows(model.rowCount());
-    std::iota(rows.begin(), rows.end(), 0);
-    return separated(model, rows, columns, ';');
 }
 
 } // namespace kavela::desktop

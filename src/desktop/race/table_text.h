@@ -10,8 +10,7 @@ namespace kavela::desktop {
 [[nodiscard]] QString tabSeparated(const QAbstractItemModel& model, const QList<int>& rows,
                                    const QList<int>& columns);
 
-/// Every row, as semicolon-separated text with a header line.
-[[nodiscard]] QString semicolonSeparated(const QAbstractItemModel& model,
-                                         const QList<int>& columns);
+/// One line of such a text: a field that holds the separator, a quote or a line break is quoted.
+[[nodiscard]] QString separatedLine(QStringList fields, QChar separator);
 
 } // namespace kavela::desktop

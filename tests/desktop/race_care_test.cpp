@@ -1,0 +1,385 @@
+#include "desktop/charts/chart.h"
+#include "desktop/charts/chart_panel.h"
+#include "desktop/race/run_chooser.h"
+#include "desktop/race/table_export.h"
+#include "desktop/race_fixture.h"
+#include "sample/races.h"
+#include "splitdata/loader.h"
+
+#include <QClipboard>
+#include <QComboBox>
+#include <QHeaderView>
+#include <QLabel>
+#include <QListWidget>
+#include <QLocale>
+#include <QPushButton>
+#include <QScrollBar>
+#include <QTabBar>
+
+#include <algorithm>
+
+namespace kavela::test {
+namespace {
+
+using ::testing::HasSubstr;
+
+/// What a coach has chosen and is looking at stays, and nothing is called what it is not.
+class RaceCareTest : public RaceWindowTest {
+protected:
+    /// A window of the size of a small laptop.
+    RaceWindow* show(const fs::path& file) {
+        RaceWindow* const window = open(file);
+        if (window == nullptr)
+            return nullptr;
+        window->resize(1280, 800);
+        window->show();
+        QApplication::processEvents();
+        return window;
+    }
+
+    fs::path write(const splittakerdata031& race, const char* name = "race.kvx") {
+        fs::path file = m_folder.path() / name;
+        EXPECT_TRUE(saveSplitFile(race, file, m_recorder.log()));
+        return file;
+    }
+
+    static std::string nameIn(const RaceWindow& window, int row) {
+        return cell(window, row, 0, Qt::DisplayRole).toString().toStdString();
+    }
+
+    static int rowOf(const RaceWindow& window, const std::string& name) {
+        for (int row = 0; row < window.model().rowCount(); ++row)
+            if (nameIn(window, row) == name)
+                return row;
+        return -1;
+    }
+
+    static std::vector<std::string> selected(const RaceWindow& window) {
+        std::vector<std::string> names;
+        for (const QModelIndex& row : window.table().selectionModel()->selectedRows())
+            names.push_back(nameIn(window, row.row()));
+        return names;
+    }
+
+    static QString text(const RaceWindow& window, const std::string& name, int column) {
+        return cell(window, rowOf(window, name), column, Qt::DisplayRole).toString();
+    }
+
+    /// What the cell of a section shows on the screen, whatever lies over it.
+    static bool isInView(const RaceWindow& window, int column) {
+        const desktop::FrozenTable& table = window.table();
+        const int left = table.columnViewportPosition(column);
+        const QTableView& back = *table.backView();
+        const int end =
+            back.isVisible() ? back.x() - table.frameWidth() : table.viewport()->width();
+        return left >= table.frozenView()->width() && left + table.columnWidth(column) <= end;
+    }
+};
+
+/// Four crews over three sections; the second was not timed but touched a gate.
+splittakerdata031 smallRace() {
+    splittakerdata031 race;
+    race.info.title = "Small Race";
+    race.info.totalsplits = 3;
+    race.info.splitTitles = {"Start", "Pool", "Finish"};
+    const std::vector<std::vector<double>> times{{10, 20, 30}, {0, 0, 0}, {9, 19}, {11, 22, 33}};
+    const std::vector<std::string> names{"Ann", "Bea", "Cyd", "Dee"};
+    for (std::size_t i = 0; i < names.size(); ++i) {
+        athletedata031& run = race.athletes.emplace_back();
+        run.names = {names[i]};
+        run.cat = i % 2 == 0 ? "K1W" : "C1W";
+        run.phase = i < 3 ? "Heats" : "Final";
+        run.sectioninfo.times = times[i];
+        run.sectioninfo.pens = {i == 1 ? 2 : 0, 0, 0};
+    }
+    return race;
+}
+
+TEST_F(RaceCareTest, GreysWhatCountsForNothingAndSaysWhy) {
+    RaceWindow* const window = show(write(smallRace()));
+    ASSERT_TRUE(window);
+    press(*window, Qt::Key_I);
+    press(*window, Qt::Key_T);
+    const auto isBold = [&](const char* name, int column) {
+        return cell(*window, rowOf(*window, name), column, Qt::FontRole).value<QFont>().bold();
+    };
+    const auto tip = [&](const char* name, int column) {
+        return cell(*window, rowOf(*window, name), column, Qt::ToolTipRole)
+            .toString()
+            .toStdString();
+    };
+    EXPECT_EQ(text(*window, "Bea", FirstTime), "2.00");
+    EXPECT_FALSE(isBold("Bea", FirstTime));
+    EXPECT_TRUE(isBold("Cyd", FirstTime));
+    EXPECT_THAT(tip("Bea", FirstTime), HasSubstr("No time was taken here"));
+    EXPECT_NE(cell(*window, rowOf(*window, "Bea"), FirstTime, Qt::BackgroundRole).value<QColor>(),
+              QColor(0, 255, 0));
+
+    press(*window, Qt::Key_A);
+    const int total = FirstTime + 3;
+    EXPECT_THAT(tip("Cyd", FirstTime + 2), HasSubstr("was not timed"));
+    EXPECT_FALSE(isBold("Cyd", FirstTime + 2));
+    EXPECT_TRUE(isBold("Ann", FirstTime + 2));
+    EXPECT_THAT(tip("Cyd", total), HasSubstr("not timed to the end"));
+    window->table().sortByColumn(total, Qt::AscendingOrder);
+    EXPECT_EQ(nameIn(*window, 0), "Ann") << "28 s over two sections are no first place";
+    press(*window, Qt::CTRL | Qt::Key_3);
+    EXPECT_EQ(text(*window, "Cyd", total), "–");
+}
+
+TEST_F(RaceCareTest, KeepsSelectionAndPlaceThroughEveryChangeOfView) {
+    RaceWindow* const window = show(Examples / "races" / "riverside_cup.kvx");
+    ASSERT_TRUE(window);
+    desktop::FrozenTable& table = window->table();
+    table.selectRow(30);
+    table.selectionModel()->select(table.model()->index(28, 0),
+                                   QItemSelectionModel::Select | QItemSelectionModel::Rows);
+    table.setCurrentIndex(table.model()->index(30, FirstTime + 2));
+    table.selectionModel()->select(table.model()->index(28, 0),
+                                   QItemSelectionModel::Select | QItemSelectionModel::Rows);
+    const auto names = selected(*window);
+    ASSERT_EQ(names.size(), 2U);
+    const auto current = [&] { return table.currentIndex(); };
+    const int place = table.verticalScrollBar()->value();
+    ASSERT_GT(place, 0);
+    desktop::ChartPanel& charts = window->view().charts();
+    const QString compared = charts.currentChart().csv();
+    for (const QKeySequence& keys :
+         {QKeySequence(Qt::Key_T), QKeySequence(Qt::Key_V), QKeySequence(Qt::Key_A),
+          QKeySequence(Qt::CTRL | Qt::Key_2), QKeySequence(Qt::Key_B), QKeySequence(Qt::Key_A),
+          QKeySequence(Qt::Key_F5)}) {
+        press(*window, keys);
+        EXPECT_EQ(selected(*window), names) << keys.toString().toStdString();
+        EXPECT_EQ(current().row(), 30) << keys.toString().toStdString();
+        EXPECT_EQ(current().column(), FirstTime + 2);
+        EXPECT_EQ(table.verticalScrollBar()->value(), place) << keys.toString().toStdString();
+    }
+    EXPECT_EQ(charts.currentChart().csv(), compared) << "the chart still compares them";
+}
+
+TEST_F(RaceCareTest, SelectsAgainWhatAFilterLeftOut) {
+    RaceWindow* const window = show(write(smallRace()));
+    ASSERT_TRUE(window);
+    auto* const category = window->findChild<QComboBox*>("category");
+    window->table().selectRow(rowOf(*window, "Dee"));
+    category->setCurrentIndex(category->findData("K1W"));
+    EXPECT_TRUE(selected(*window).empty());
+    category->setCurrentIndex(category->findData("C1W"));
+    EXPECT_EQ(selected(*window), std::vector<std::string>{"Dee"});
+    category->setCurrentIndex(category->findData("K1W"));
+    window->table().selectRow(rowOf(*window, "Cyd"));
+    press(*window, Qt::Key_Escape);
+    EXPECT_EQ(selected(*window), std::vector<std::string>{"Cyd"}) << "chosen since";
+}
+
+TEST_F(RaceCareTest, HoldsAgainstTheSameRunUnderEveryFilterAndSetting) {
+    RaceWindow* const window = show(write(smallRace()));
+    ASSERT_TRUE(window);
+    window->table().selectRow(rowOf(*window, "Dee"));
+    press(*window, Qt::SHIFT | Qt::Key_R);
+    press(*window, Qt::CTRL | Qt::Key_2);
+    ASSERT_EQ(text(*window, "Ann", FirstTime + 1), "-2.00");
+    auto* const category = window->findChild<QComboBox*>("category");
+    const auto* const count = window->findChild<QLabel*>("count");
+    for (const char* chosen : {"K1W", "C1W", ""}) {
+        category->setCurrentIndex(category->findData(chosen));
+        const char* other = std::string(chosen) == "C1W" ? "Dee" : "Ann";
+        EXPECT_EQ(text(*window, other, FirstTime + 1), *other == 'D' ? "0.00" : "-2.00") << chosen;
+        EXPECT_THAT(count->text().toStdString(), HasSubstr("gaps to Dee")) << chosen;
+    }
+    press(*window, Qt::Key_A);
+    EXPECT_EQ(text(*window, "Ann", FirstTime + 1), "-3.00") << "30 s against 33 s";
+    category->setCurrentIndex(category->findData("K1W"));
+    EXPECT_EQ(text(*window, "Ann", FirstTime + 1), "-3.00");
+    press(*window, Qt::Key_A);
+    EXPECT_EQ(text(*window, "Ann", FirstTime + 1), "-2.00");
+}
+
+TEST_F(RaceCareTest, RefersToTheIdealRunAsTheTableShowsIt) {
+    RaceWindow* const window = show(write(smallRace()));
+    ASSERT_TRUE(window);
+    press(*window, Qt::Key_O);
+    window->table().selectRow(0);
+    press(*window, Qt::SHIFT | Qt::Key_R);
+    press(*window, Qt::CTRL | Qt::Key_2);
+    EXPECT_EQ(text(*window, "Ann", FirstTime + 1), "+1.00");
+    press(*window, Qt::Key_A);
+    EXPECT_EQ(text(*window, "Ann", FirstTime + 1), "+2.00") << "9 and 19 from the start";
+    press(*window, Qt::Key_O);
+    EXPECT_EQ(text(*window, "Ann", FirstTime + 1), "+2.00") << "also while it is not shown";
+}
+
+TEST_F(RaceCareTest, FollowsTheRunsOfAFileThatWasChanged) {
+    splittakerdata031 race = smallRace();
+    const fs::path file = write(race);
+    RaceWindow* const window = show(file);
+    ASSERT_TRUE(window);
+    window->table().selectRow(rowOf(*window, "Dee"));
+    press(*window, Qt::SHIFT | Qt::Key_R);
+    press(*window, Qt::CTRL | Qt::Key_2);
+    window->view().charts().setReference({CourseReferenceKind::Run, 3});
+    athletedata031 first = race.athletes[2];
+    first.names = {"Eve"};
+    race.athletes.insert(race.athletes.begin(), first);
+    write(race);
+    press(*window, Qt::Key_F5);
+    EXPECT_EQ(selected(*window), std::vector<std::string>{"Dee"});
+    EXPECT_EQ(text(*window, "Ann", FirstTime + 1), "-2.00");
+    EXPECT_EQ(window->view().charts().reference(), (CourseReference{CourseReferenceKind::Run, 4}));
+    race.athletes.pop_back();
+    write(race);
+    press(*window, Qt::Key_F5);
+    EXPECT_TRUE(selected(*window).empty());
+    EXPECT_EQ(text(*window, "Ann", FirstTime + 1), "+1.00") << "she is gone: the best again";
+}
+
+TEST_F(RaceCareTest, ShowsAllRunsWhereTheFilteredPhaseIsGone) {
+    splittakerdata031 race = smallRace();
+    RaceWindow* const window = show(write(race));
+    ASSERT_TRUE(window);
+    auto* const phase = window->findChild<QComboBox*>("phase");
+    phase->setCurrentIndex(phase->findData("Final"));
+    ASSERT_EQ(window->model().rowCount(), 1);
+    race.athletes.pop_back();
+    write(race);
+    press(*window, Qt::Key_F5);
+    EXPECT_EQ(window->model().rowCount(), 3);
+    window->view().document().setFilter({"nowhere", {}, {}});
+    ASSERT_EQ(window->model().rowCount(), 0);
+    press(*window, Qt::Key_Escape);
+    EXPECT_EQ(window->model().rowCount(), 3) << "whatever the boxes show";
+}
+
+TEST_F(RaceCareTest, KeepsNameAndTotalsInViewWhileSectionsScroll) {
+    for (const std::size_t sections : {7U, 12U, 20U}) {
+        splittakerdata031 race = sample::holdRace(sample::harbourNight());
+        race.info.totalsplits = static_cast<std::int64_t>(sections);
+        race.info.splitTitles.resize(sections);
+        for (athletedata031& run : race.athletes)
+            run.sectioninfo.times.assign(sections, 12.34);
+        m_workspace.setPreference("penaltiesVisible", true);
+        RaceWindow* const window = show(write(race, (std::to_string(sections) + ".kvx").c_str()));
+        ASSERT_TRUE(window);
+        const desktop::FrozenTable& table = window->table();
+        const QTableView& back = *table.backView();
+        ASSERT_TRUE(back.isVisible()) << sections;
+        EXPECT_EQ(back.x() + back.width() <= table.width(), true) << sections;
+        for (int closing = 1; closing <= 3; ++closing)
+            EXPECT_FALSE(back.isColumnHidden(window->model().columnCount() - closing)) << sections;
+        window->table().setCurrentIndex(window->model().index(0, 0));
+        for (int column = 1; column < FirstTime + static_cast<int>(sections); ++column) {
+            press(*window, Qt::Key_Right);
+            ASSERT_EQ(table.currentIndex().column(), column);
+            EXPECT_TRUE(column < FirstTime || isInView(*window, column))
+                << "section " << column - FirstTime + 1 << " of " << sections;
+        }
+        window->close();
+    }
+}
+
+TEST_F(RaceCareTest, LetsTheTotalsStandWhereTheyAreMoved) {
+    RaceWindow* const window = show(Examples / "races" / "riverside_cup.kvx");
+    ASSERT_TRUE(window);
+    QHeaderView* const header = window->table().horizontalHeader();
+    const int total = header->count() - 3;
+    const QTableView& back = *window->table().backView();
+    EXPECT_FALSE(back.isColumnHidden(total));
+    header->moveSection(total, FirstTime);
+    EXPECT_TRUE(back.isColumnHidden(total)) << "it scrolls with the sections now";
+    EXPECT_FALSE(back.isColumnHidden(total + 1));
+}
+
+TEST_F(RaceCareTest, KeepsTheWidthThatTheCoachGaveAColumn) {
+    RaceWindow* const window = show(Examples / "races" / "riverside_cup.kvx");
+    ASSERT_TRUE(window);
+    window->table().frozenView()->horizontalHeader()->resizeSection(0, 333);
+    press(*window, Qt::Key_T);
+    EXPECT_EQ(window->table().columnWidth(0), 333);
+    EXPECT_EQ(window->table().frozenView()->columnWidth(0), 333);
+}
+
+TEST_F(RaceCareTest, SaysWhySectionsFromTheEleventhOnLookOtherwise) {
+    splittakerdata031 race = smallRace();
+    race.info.totalsplits = 12;
+    const RaceWindow* const window = show(write(race));
+    ASSERT_TRUE(window);
+    const auto* const note = window->findChild<QLabel*>("note");
+    EXPECT_TRUE(note->isVisible());
+    EXPECT_THAT(note->text().toStdString(), HasSubstr("12 sections"));
+    const auto tip = [&](int section) {
+        return window->model()
+            .headerData(FirstTime + section - 1, Qt::Horizontal, Qt::ToolTipRole)
+            .toString()
+            .toStdString();
+    };
+    EXPECT_THAT(tip(11), HasSubstr("first ten sections"));
+    EXPECT_THAT(tip(10), ::testing::Not(HasSubstr("first ten sections")));
+}
+
+TEST_F(RaceCareTest, CopiesNumbersWithTheSignOfTheSystem) {
+    RaceWindow* const window = show(write(smallRace()));
+    ASSERT_TRUE(window);
+    const QLocale before;
+    QLocale::setDefault(QLocale("de_DE"));
+    window->table().selectRow(rowOf(*window, "Bea"));
+    press(*window, Qt::Key_V);
+    press(*window, Qt::Key_I);
+    press(*window, QKeySequence::Copy);
+    const QStringList lines = QApplication::clipboard()->text().split('\n');
+    ASSERT_EQ(lines.size(), 3);
+    EXPECT_EQ(lines[0],
+              "Name\tPhase\tCat\tPlace\tStart\tStart penalty\tPool\tPool penalty\tFinish\t"
+              "Finish penalty\tTotal\tSprint\tReal");
+    EXPECT_EQ(lines[1], "Bea\tHeats\tC1W\t\t2,00\t2\t\t0\t\t0\t\t\t") << "untimed cells are empty";
+    const QString csv = desktop::tableAsText(window->model(), {0}, {0, FirstTime, FirstTime + 3},
+                                             desktop::fileTable());
+    EXPECT_EQ(csv, "Name;Start;Start penalty;Total\nAnn;10.00;0;60.00\n");
+    press(*window, Qt::CTRL | Qt::Key_2);
+    window->table().selectRow(0);
+    press(*window, QKeySequence::Copy);
+    EXPECT_EQ(QApplication::clipboard()->text().section('\n', 1, 1),
+              "Ann\tHeats\tK1W\t\t1,00\t1,00\t0,00\t0,00\t\t")
+        << "gaps without plus and brackets";
+    QLocale::setDefault(before);
+}
+
+TEST_F(RaceCareTest, OffersTheRacesOfTheFolder) {
+    splittakerdata031 other = smallRace();
+    other.info.title = "Other Race";
+    other.info.date = ReferenceDate{7e8};
+    write(other, "other.kvx");
+    (void)m_folder.add("broken.kvx", "{");
+    RaceWindow* const window = show(write(smallRace()));
+    ASSERT_TRUE(window);
+    desktop::RunChooser chooser(m_workspace, window->document().path(), window);
+    const auto* const files = chooser.findChild<QListWidget*>("files");
+    ASSERT_EQ(files->count(), 2) << "not the race that is open";
+    const auto* const runs = chooser.findChild<QListWidget*>("runs");
+    ASSERT_TRUE(QTest::qWaitFor([&] { return runs->count() == 4; }));
+    EXPECT_FALSE(files->item(0)->flags().testFlag(Qt::ItemIsEnabled)) << "broken.kvx";
+    EXPECT_EQ(files->item(1)->text().toStdString(), "Other Race\n2023-03-08 · 4 runs · other.kvx");
+    EXPECT_EQ(files->currentRow(), 1);
+    EXPECT_EQ(chooser.run().name, "Ann");
+    EXPECT_TRUE(m_recorder.alerts.empty());
+}
+
+TEST_F(RaceCareTest, MakesTheTableOrTheChartFillTheWindow) {
+    RaceWindow* const window = show(Examples / "races" / "riverside_cup.kvx");
+    ASSERT_TRUE(window);
+    desktop::RaceView& view = window->view();
+    view.table().setFocus();
+    press(*window, Qt::Key_F9);
+    EXPECT_TRUE(view.table().isVisible());
+    EXPECT_FALSE(view.side().isVisible() || view.charts().isVisible());
+    EXPECT_GT(view.table().width(), 1200);
+    press(*window, Qt::Key_F9);
+    EXPECT_TRUE(view.side().isVisible() && view.charts().isVisible());
+    view.charts().currentChart().setFocus();
+    press(*window, Qt::Key_F9);
+    EXPECT_FALSE(view.table().isVisible() || view.side().isVisible());
+    press(*window, QKeySequence::Find);
+    EXPECT_TRUE(view.table().isVisible()) << "the filter belongs to the table";
+}
+
+} // namespace
+} // namespace kavela::test
