@@ -75,7 +75,7 @@ void applyColumnLayout(FrozenTable& table, const QStringList& layout) {
     for (int place = 0; place < order.size(); ++place)
         header.moveSection(header.visualIndex(order[place]), place);
     for (int column = 0; column < header.count(); ++column)
-        table.setColumnShown(column, !layout.contains('-' + columnName(*table.model(), column)));
+        table.setColumnHidden(column, layout.contains('-' + columnName(*table.model(), column)));
     table.arrange();
 }
 

@@ -187,6 +187,12 @@ void FrozenTable::arrange() {
     place();
 }
 
+void FrozenTable::doItemsLayout() {
+    m_front->doItemsLayout();
+    m_back->doItemsLayout();
+    QTableView::doItemsLayout();
+}
+
 void FrozenTable::place() {
     const int height = viewport()->height() + horizontalHeader()->height();
     const int frontWidth = m_front->horizontalHeader()->length();

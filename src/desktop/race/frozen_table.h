@@ -29,6 +29,9 @@ public:
     /// Places the views anew once the columns stand in another order.
     void arrange();
 
+    /// Of every view: one that lags behind would hold the others back as they scroll.
+    void doItemsLayout() override;
+
 signals:
     /// The coach moved a column.
     void columnsMoved();

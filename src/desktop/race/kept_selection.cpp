@@ -86,6 +86,7 @@ void KeptSelection::restore() {
 
 /// After the cell of the keyboard, which the table scrolls to.
 void KeptSelection::restorePlace() {
+    m_table.doItemsLayout(); // as far as the new rows reach
     const int top = m_top ? m_model.rowOfKey(*m_top) : -1;
     if (top >= 0)
         m_table.verticalScrollBar()->setValue(m_table.verticalHeader()->sectionPosition(top) +
