@@ -343,7 +343,6 @@ TEST_F(SelectionWindowTest, AListOfWhichNothingWasTakenIsNoEdit) {
     const int steps = window->document().undoStack().count();
     const fs::path list = m_folder.add("list.csv", "one line\nthat is no list\n");
     window->importAthletesFrom(QString::fromStdString(list.string()));
-    window->importResultsFrom(QString::fromStdString(list.string()), 0, ResultLayout{});
     EXPECT_EQ(window->document().undoStack().count(), steps);
     EXPECT_FALSE(m_recorder.alerts.empty()) << "what is wrong with it is told";
 }

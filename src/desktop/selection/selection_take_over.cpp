@@ -25,10 +25,12 @@ QString qtText(const std::string& text) {
 void SelectionWindow::importAthletesFrom(const QString& path) {
     try {
         const ListText list = readListText(path.toStdString());
-        ListImport import;
-        m_document.change(tr("athletes imported"), [&](selectionracesStruct_v3& document) {
-            import = importAthletes(document, list.text);
-        });
+        selectionracesStruct_v3 after = m_document.shown();
+        const ListImport import = importAthletes(after, list.text);
+        if (import.imported > 0)
+            m_document.change(tr("athletes imported"), [&](selectionracesStruct_v3& document) {
+                document = std::move(after);
+            });
         tellImported(import, list.isLatin1);
     } catch (const FileError& error) {
         tellUnread(path, error.reason());
