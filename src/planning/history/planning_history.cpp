@@ -18,6 +18,11 @@ std::int64_t placeInDay(const std::vector<sessioninmicro_v5>& earlier,
 
 } // namespace
 
+void convertRenamed(testdataplanning_v1& /*from*/, testdataplanning_v5& to) {
+    for (std::vector<ReferenceDate>* const done : {&to.blood, &to.endurance, &to.water})
+        std::erase(*done, ReferenceDate());
+}
+
 void convertRenamed(microsplanning_v1& from, microsplanning_v5& to) {
     const std::size_t count =
         std::max({from.dateinInts.size(), from.trainingtimeInt.size(),

@@ -13,6 +13,9 @@ struct testdataplanning_v1 {
 };
 BOOST_DESCRIBE_STRUCT(testdataplanning_v1, (), (blood, endurance, water))
 
+/// A date of 0 stood for a test that was not done.
+void convertRenamed(testdataplanning_v1& from, testdataplanning_v5& to);
+
 /// The week before sessions were records: entry i of each of seven arrays made up session i.
 struct microsplanning_v1 {
     std::int64_t number = 0;
