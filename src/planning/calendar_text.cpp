@@ -3,6 +3,7 @@
 #include "common/display_text.h"
 #include "common/number_text.h"
 #include "planning/calendar_day.h"
+#include "planning/session_length.h"
 #include "planning/training_categories.h"
 #include "splitdata/run_timing.h"
 
@@ -13,6 +14,8 @@ namespace kavela {
 using namespace std::chrono;
 
 namespace {
+
+constexpr minutes UsualLength = hours(1);
 
 std::string dayDigits(sys_days day) {
     const year_month_day date(day);
@@ -74,12 +77,12 @@ std::string titleOf(const sessioninmicro_v5& session) {
     return title.empty() ? "Training" : title;
 }
 
-std::string timesOf(const sessioninmicro_v5& session, sys_days day) {
+std::string timesOf(const sessioninmicro_v5& session, sys_days day, minutes length) {
     const auto time = timeOf(session);
     if (!time)
         return contentLine("DTSTART;VALUE=DATE:" + dayDigits(day));
     return contentLine("DTSTART:" + momentDigits(day, *time)) +
-           contentLine("DTEND:" + momentDigits(day, *time + hours(1)));
+           contentLine("DTEND:" + momentDigits(day, *time + length));
 }
 
 /// The same at every export, so that a calendar replaces a session and does not show it twice.
@@ -93,6 +96,7 @@ std::string identifier(const std::string& athlete, const std::string& place) {
 } // namespace
 
 std::string weekCalendar(const athletesplanning_v6& athlete, const microsplanning_v5& week,
+                         std::span<const favInvervalSessions_v2> intervalSessions,
                          ReferenceDate written) {
     const sys_days stampDay = dayOfMoment(written).value_or(sys_days());
     const auto sinceMidnight = seconds(static_cast<std::int64_t>(
@@ -106,7 +110,9 @@ std::string weekCalendar(const athletesplanning_v6& athlete, const microsplannin
         const std::string place = dayDigits(*day) + '-' + std::to_string(session.dayPosition);
         text += "BEGIN:VEVENT\r\n";
         text += contentLine("UID:" + identifier(athlete.name, place));
-        text += contentLine("DTSTAMP:" + stamp) + timesOf(session, *day);
+        text += contentLine("DTSTAMP:" + stamp);
+        text +=
+            timesOf(session, *day, plannedLength(session, intervalSessions).value_or(UsualLength));
         text += contentLine("SUMMARY:" + escaped(titleOf(session)));
         if (!session.trainingplace.empty())
             text += contentLine("LOCATION:" + escaped(session.trainingplace));

@@ -205,7 +205,7 @@ TEST(WeekCalendar, TellsASessionToATelephone) {
     week.sessions[0].titleanddes[1] = "ten, by\none";
     week.sessions[0].trainingplace = "Home water";
     const std::string text =
-        weekCalendar(athlete, week, {midnightOf(day(2026, 3, 8)).seconds + 3723.5});
+        weekCalendar(athlete, week, {}, {midnightOf(day(2026, 3, 8)).seconds + 3723.5});
     EXPECT_THAT(text, testing::StartsWith("BEGIN:VCALENDAR\r\nVERSION:2.0\r\n"));
     EXPECT_THAT(text, HasSubstr("BEGIN:VEVENT\r\nUID:20260310-0-"));
     EXPECT_THAT(text, HasSubstr("DTSTAMP:20260308T010200Z\r\n"
@@ -214,6 +214,41 @@ TEST(WeekCalendar, TellsASessionToATelephone) {
                                 "DESCRIPTION:ten\\, by\\none\\nAerobic glucolytic: "
                                 "12.5\r\nEND:VEVENT\r\n"));
     EXPECT_THAT(text, testing::EndsWith("END:VCALENDAR\r\n"));
+}
+
+TEST(WeekCalendar, ASessionLastsAsLongAsItIsPlanned) {
+    favInvervalSessions_v2 gates;
+    gates.title = "Gates Šprint";
+    gates.sets = 3;
+    gates.setrest = 240;
+    gates.reps = 6;
+    gates.worktime = 45;
+    gates.workrest = 75; // 40.25 minutes in all
+    const struct {
+        const char* title;
+        const char* description;
+        const char* end;
+    } rows[] = {
+        {"Long", "90 min", "T1100"},
+        {"Long", "quiet water\n1 h 30 min\nhome", "T1100"},
+        {"Long", "1:45 h", "T1115"},
+        {"Long", "Duration: 2,5 h\n20 min", "T1200"},
+        {"Long", "2h", "T1130"},
+        {"Parts", "20 min\ngates\n40 min", "T1030"}, // of parts, not of the whole
+        {"Parts", "3x10 min", "T1030"},
+        {"Long", "0 min", "T1030"},
+        {"Long", "9999999999999999999999 min", "T1030"},
+        {"gates sprint", "", "T1011"},
+        {"gates sprint", "50 min", "T1020"},
+    };
+    for (const auto& row : rows) {
+        microsplanning_v5 week;
+        week.sessions = {sessionOn(day(2026, 3, 10), row.title)};
+        week.sessions[0].titleanddes[1] = row.description;
+        EXPECT_THAT(weekCalendar({}, week, std::vector{gates}, {}),
+                    HasSubstr(std::string("DTEND:20260310") + row.end + "00\r\n"))
+            << row.title << ": " << row.description;
+    }
 }
 
 TEST(WeekCalendar, TakesSessionsAsTheyCome) {
@@ -227,7 +262,7 @@ TEST(WeekCalendar, TakesSessionsAsTheyCome) {
     week.sessions[1].trainingtimeInt = {23, 30};
     week.sessions[2].trainingtime = {1e300};
     week.sessions[3].titleanddes = {"bad \xC9 bytes\rBEGIN:VEVENT"};
-    const std::string text = weekCalendar({}, week, {1e300});
+    const std::string text = weekCalendar({}, week, {}, {1e300});
     EXPECT_THAT(text, HasSubstr("DTSTART;VALUE=DATE:20260310\r\nSUMMARY:xxx"));
     EXPECT_THAT(text, HasSubstr("DTSTART:20260331T233000\r\nDTEND:20260401T003000\r\n"));
     EXPECT_THAT(text, HasSubstr("SUMMARY:bad \xEF\xBF\xBD bytesBEGIN:VEVENT\r\n"));

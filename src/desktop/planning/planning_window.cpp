@@ -204,8 +204,9 @@ void PlanningWindow::writeCalendar(const QString& path) {
     const auto athlete = m_athletes->athlete();
     const microsplanning_v5* const week = m_plan->week();
     if (athlete && week)
-        writeFileSafely(path.toStdString(), weekCalendar(m_document->athletes()[*athlete], *week,
-                                                         workspace().clock()()));
+        writeFileSafely(path.toStdString(),
+                        weekCalendar(m_document->athletes()[*athlete], *week,
+                                     m_document->value().favintses, workspace().clock()()));
 }
 
 void PlanningWindow::askForCalendar() {
