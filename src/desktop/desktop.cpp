@@ -80,6 +80,7 @@ Desktop::Desktop(Workspace& workspace, std::optional<Autosave> autosave)
       m_autosave(autosave ? std::move(*autosave) : Autosave(autosaveFolder())) {
     loadIcons();
     QApplication::setWindowIcon(icon("kavela"));
+    qApp->installEventFilter(&m_wheelGuard);
     connect(&m_workspace, &Workspace::openRequested, this, &Desktop::open);
 }
 

@@ -2,6 +2,7 @@
 
 #include "desktop/opened_as.h"
 #include "desktop/shell/autosave.h"
+#include "desktop/shell/wheel_guard.h"
 #include "desktop/shell/workspace.h"
 
 #include <QPointer>
@@ -121,6 +122,7 @@ private:
     Workspace& m_workspace;
     QPointer<HomeWindow> m_home;
     QList<QPointer<RaceWindow>> m_races;
+    WheelGuard m_wheelGuard;
     QList<QPointer<TakingWindow>> m_takings;
     QList<QPointer<CrossWindow>> m_crosses;
     QList<QPointer<EditorWindow>> m_editors;

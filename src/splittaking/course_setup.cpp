@@ -77,11 +77,6 @@ std::optional<std::int64_t> parseGates(std::string_view text) {
     return gates && *gates >= 0 && *gates <= MostGates ? gates : std::nullopt;
 }
 
-std::optional<double> parseRealTime(std::string_view text) {
-    const auto seconds = parsed<double>(trimmed(text));
-    return seconds && std::isfinite(*seconds) && *seconds >= 0 ? seconds : std::nullopt;
-}
-
 GateList parseGateList(std::string_view text, std::int64_t gates) {
     GateList list;
     while (text.find_first_not_of(Separators) != std::string_view::npos) {

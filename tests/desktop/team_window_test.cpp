@@ -4,6 +4,7 @@
 #include "common/recorders.h"
 #include "common/temp_folder.h"
 #include "desktop/people/found_lines_view.h"
+#include "desktop/refusals.h"
 #include "desktop/shell/workspace.h"
 #include "desktop/team/athlete_panel.h"
 #include "desktop/team/charts/chart_tabs.h"
@@ -290,7 +291,7 @@ TEST_F(TeamWindowTest, RefusesWhatIsNoResult) {
         int seasonColumn; ///< of the table of seasons; -1: the column of the runs
         int runColumn;
         const char* typed;
-        const char* alert;
+        const char* reason;
     };
     const SeasonPlace first{0, 0};
     using Runs = desktop::PhaseModel;
@@ -309,7 +310,6 @@ TEST_F(TeamWindowTest, RefusesWhatIsNoResult) {
     auto& view = window->results();
     for (const Case& wrong : cases) {
         SCOPED_TRACE(wrong.typed);
-        m_recorder.alerts.clear();
         view.choose(wrong.place, std::max(wrong.seasonColumn, 0));
         if (wrong.seasonColumn < 0) {
             view.runs().setCurrentIndex(view.runs().model()->index(0, wrong.runColumn));
@@ -317,7 +317,9 @@ TEST_F(TeamWindowTest, RefusesWhatIsNoResult) {
         } else {
             type(*window, view.tree(), wrong.typed);
         }
-        EXPECT_THAT(m_recorder.alerts, ElementsAre(HasSubstr(wrong.alert)));
+        EXPECT_THAT(refusalIn(*window), HasSubstr(wrong.reason));
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
+        EXPECT_THAT(refusalIn(*window), IsEmpty());
         EXPECT_EQ(encode(window->document().value()), encode(smallTeam()));
     }
     EXPECT_FALSE(window->document().isDirty());

@@ -3,6 +3,7 @@
 #include "common/json_encode.h"
 #include "common/recorders.h"
 #include "common/temp_folder.h"
+#include "desktop/refusals.h"
 #include "desktop/shell/workspace.h"
 #include "desktop/watertests/chart_card.h"
 #include "desktop/watertests/chart_view.h"
@@ -189,10 +190,10 @@ TEST_F(TestsWindowTest, RefusesWhatIsNoTime) {
     window->list().choose(window->document().value().front()->id);
     const auto before = window->document().undoStack().count();
     for (const auto& [column, typed] : {std::pair{0, "1x"}, {0, "99999"}, {1, "500"}}) {
-        m_recorder.alerts.clear();
         startIn(*window, "sections", 0, column);
         type(typed);
-        EXPECT_THAT(m_recorder.alerts, SizeIs(1)) << typed;
+        EXPECT_THAT(refusalIn(*window), HasSubstr(column == 1 ? "straight line" : typed));
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
     }
     EXPECT_EQ(window->document().undoStack().count(), before);
 }
@@ -262,8 +263,13 @@ TEST_F(TestsWindowTest, TakesASprintInFromARecording) {
     (void)m_folder.add("broken.kvb", "{}");
     const auto window = openWindow({});
     ASSERT_TRUE(window);
-    whenAsked<desktop::TakeRecordingDialog>(
-        [](auto& dialog) { dialog.template findChild<QComboBox*>("kind")->setCurrentIndex(1); });
+    whenAsked<desktop::TakeRecordingDialog>([](auto& dialog) {
+        dialog.template findChild<QSpinBox*>("laps")->setValue(50);
+        EXPECT_THAT(dialog.template findChild<QLabel*>("fault")->text().toStdString(),
+                    HasSubstr(" of 50"))
+            << "told at once";
+        dialog.template findChild<QComboBox*>("kind")->setCurrentIndex(1);
+    });
     window->takeIn({path("sprint.kvb")});
     ASSERT_THAT(window->document().value(), SizeIs(1));
     const testStruct& test = last(*window).run()->test;

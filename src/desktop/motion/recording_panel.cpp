@@ -2,10 +2,10 @@
 
 #include "desktop/motion/motion_recording.h"
 #include "desktop/motion/mount_names.h"
+#include "desktop/shell/number_box.h"
 #include "desktop/shell/theme.h"
 
 #include <QComboBox>
-#include <QDoubleSpinBox>
 #include <QFormLayout>
 #include <QLabel>
 #include <QSignalBlocker>
@@ -14,9 +14,8 @@ namespace kavela::desktop {
 
 namespace {
 
-QDoubleSpinBox* numberBox(double low, double high, double step, int decimals,
-                          const QString& suffix) {
-    auto* box = new QDoubleSpinBox;
+NumberBox* numberBox(double low, double high, double step, int decimals, const QString& suffix) {
+    auto* box = new NumberBox;
     box->setRange(low, high);
     box->setSingleStep(step);
     box->setDecimals(decimals);
@@ -44,6 +43,7 @@ RecordingPanel::RecordingPanel(QWidget* parent)
       m_mount(new QComboBox),
       m_notes(new QLabel) {
     m_shift->setObjectName("shift");
+    m_shift->setIsTime(true);
     m_shift->setToolTip(tr("Drag a curve with Shift, or press A, to move it in time"));
     m_mass->setObjectName("mass");
     m_mass->setToolTip(tr("Athlete, boat and kit"));
@@ -70,9 +70,9 @@ RecordingPanel::RecordingPanel(QWidget* parent)
     form->addRow(tr("&Boat"), m_boat);
     form->addRow(tr("P&hone"), m_mount);
     form->addRow(m_notes);
-    connect(m_shift, &QDoubleSpinBox::valueChanged, this, &RecordingPanel::shiftEntered);
-    for (const QDoubleSpinBox* box : {m_mass, m_drag})
-        connect(box, &QDoubleSpinBox::valueChanged, this, &RecordingPanel::enterProfile);
+    connect(m_shift, &NumberBox::valueChanged, this, &RecordingPanel::shiftEntered);
+    for (const NumberBox* box : {m_mass, m_drag})
+        connect(box, &NumberBox::valueChanged, this, &RecordingPanel::enterProfile);
     for (const QComboBox* box : {m_boat, m_mount})
         connect(box, &QComboBox::currentIndexChanged, this, &RecordingPanel::enterProfile);
 }
@@ -85,9 +85,9 @@ void RecordingPanel::show(const MotionRecording* recording) {
     const QSignalBlocker boat(m_boat);
     const QSignalBlocker mount(m_mount);
     m_profile = recording ? recording->profile : MotionProfile();
-    m_shift->setValue(recording ? recording->shift : 0);
-    m_mass->setValue(m_profile.mass);
-    m_drag->setValue(m_profile.drag);
+    m_shift->showValue(recording ? recording->shift : 0);
+    m_mass->showValue(m_profile.mass);
+    m_drag->showValue(m_profile.drag);
     m_boat->setCurrentIndex(m_boat->findData(static_cast<int>(m_profile.boat)));
     m_mount->setCurrentIndex(
         m_mount->findData(m_profile.mount ? static_cast<int>(*m_profile.mount) : -1));

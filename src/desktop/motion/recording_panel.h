@@ -5,10 +5,11 @@
 #include <QWidget>
 
 class QComboBox;
-class QDoubleSpinBox;
 class QLabel;
 
 namespace kavela::desktop {
+
+class NumberBox;
 
 struct MotionRecording;
 
@@ -31,9 +32,9 @@ private:
     void enterProfile();
 
     MotionProfile m_profile;
-    QDoubleSpinBox* m_shift;
-    QDoubleSpinBox* m_mass;
-    QDoubleSpinBox* m_drag;
+    NumberBox* m_shift;
+    NumberBox* m_mass;
+    NumberBox* m_drag;
     QComboBox* m_boat;
     QComboBox* m_mount;
     QLabel* m_notes;

@@ -1,7 +1,9 @@
 #include "desktop/selection/athlete_dialog.h"
 
-#include "common/number_text.h"
-#include "results/list_lines.h"
+#include "desktop/shell/number_box.h"
+#include "desktop/shell/refused_entry.h"
+#include "desktop/shell/shown_number.h"
+#include "desktop/shell/typed_number.h"
 #include "results/selection_ranking.h"
 
 #include <QCheckBox>
@@ -9,20 +11,25 @@
 #include <QDialogButtonBox>
 #include <QFormLayout>
 #include <QLineEdit>
-#include <QSpinBox>
 
 #include <algorithm>
 
 namespace kavela::desktop {
 
+namespace {
+
+const NumberRange BonusRange{0, 100, {}}; // percent
+
+} // namespace
+
 AthleteDialog::AthleteDialog(const NewAthlete& athlete, std::size_t groups, std::size_t bonuses,
                              QWidget* parent)
-    : QDialog(parent),
+    : EntryDialog(parent),
       m_groupCount(groups),
       m_bonusCount(bonuses),
       m_name(new QLineEdit(QString::fromStdString(athlete.name))),
       m_club(new QLineEdit(QString::fromStdString(athlete.club))),
-      m_year(new QSpinBox),
+      m_year(new WholeBox),
       m_ageGroup(new QComboBox) {
     setWindowTitle(tr("Athlete"));
     m_name->setObjectName("athleteName");
@@ -45,17 +52,16 @@ AthleteDialog::AthleteDialog(const NewAthlete& athlete, std::size_t groups, std:
     }
     for (std::size_t kind = 0; kind <= bonuses; ++kind) {
         const double bonus = kind < athlete.bonuses.size() ? athlete.bonuses[kind] : NoBonus;
-        auto* edit = new QLineEdit(bonus > NoBonus ? QString::fromStdString(shortestText(bonus))
-                                                   : QString());
+        auto* edit = new QLineEdit(bonus > NoBonus ? shownNumber(bonus) : QString());
         edit->setPlaceholderText(tr("none"));
         form->addRow(tr("Bonus %1 (percent)").arg(kind + 1), edit);
         m_bonuses.push_back(edit);
     }
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
     form->addRow(buttons);
-    connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
+    connect(buttons, &QDialogButtonBox::accepted, this, &AthleteDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
-    connect(m_year, &QSpinBox::textChanged, this, &AthleteDialog::showAgeGroups);
+    connect(m_year, &WholeBox::textChanged, this, &AthleteDialog::showAgeGroups);
     showAgeGroups();
 }
 
@@ -63,6 +69,18 @@ void AthleteDialog::showAgeGroups() {
     m_ageGroup->clear();
     for (const std::string& group : ageGroups(m_year->text().toStdString()))
         m_ageGroup->addItem(QString::fromStdString(group));
+}
+
+void AthleteDialog::accept() {
+    for (QLineEdit* const edit : m_bonuses) {
+        try {
+            if (!edit->text().trimmed().isEmpty())
+                (void)typedReal(edit->text(), BonusRange);
+        } catch (const RefusedEntry& refusal) {
+            refuseEntry(*edit, refusal.reason(), [edit] { edit->clear(); });
+        }
+    }
+    EntryDialog::accept();
 }
 
 NewAthlete AthleteDialog::athlete() const {
@@ -73,10 +91,8 @@ NewAthlete AthleteDialog::athlete() const {
     for (const QCheckBox* box : m_groups)
         athlete.preselected.push_back(box->isChecked());
     for (const QLineEdit* edit : m_bonuses) {
-        double bonus = NoBonus;
-        if (!parseField(edit->text().trimmed().toStdString(), bonus))
-            bonus = NoBonus;
-        athlete.bonuses.push_back(bonus);
+        const QString typed = edit->text().trimmed();
+        athlete.bonuses.push_back(typed.isEmpty() ? NoBonus : typedReal(typed, BonusRange));
     }
     // The one more of each is there only when it was used.
     if (!athlete.preselected.back())

@@ -1,19 +1,19 @@
 #pragma once
 
+#include "desktop/shell/entry_dialog.h"
 #include "results/selection_edit.h"
-
-#include <QDialog>
 
 class QCheckBox;
 class QComboBox;
 class QLineEdit;
-class QSpinBox;
 
 namespace kavela::desktop {
 
+class WholeBox;
+
 /// An athlete of a selection: name, club, birth year with the age group it allows, preselection and
 /// bonuses.
-class AthleteDialog : public QDialog {
+class AthleteDialog : public EntryDialog {
     Q_OBJECT
 
 public:
@@ -23,6 +23,7 @@ public:
                   QWidget* parent);
 
     [[nodiscard]] NewAthlete athlete() const;
+    void accept() override;
 
 private:
     void showAgeGroups();
@@ -31,7 +32,7 @@ private:
     std::size_t m_bonusCount;
     QLineEdit* m_name;
     QLineEdit* m_club;
-    QSpinBox* m_year;
+    WholeBox* m_year;
     QComboBox* m_ageGroup;
     std::vector<QCheckBox*> m_groups;
     std::vector<QLineEdit*> m_bonuses;

@@ -1,8 +1,8 @@
 #include "desktop/selection/ranking_model.h"
 
-#include "common/number_text.h"
 #include "desktop/selection/selection_document.h"
-#include "results/list_lines.h"
+#include "desktop/shell/shown_number.h"
+#include "desktop/team/typed_values.h"
 
 #include <QColor>
 #include <QFont>
@@ -21,7 +21,7 @@ QString qtText(const std::string& text) {
 }
 
 QString hundredths(double value) {
-    return qtText(hundredthsText(value));
+    return shownHundredths(value);
 }
 
 QString resultText(const saRaceStruct& result) {
@@ -200,7 +200,7 @@ QString RankingModel::raceText(int row, std::size_t race, int part, int role) co
         const double time = isExpected ? result.xTime : result.resultTime;
         if (time == MissingTime)
             return role == Qt::DisplayRole ? "–" : QString();
-        return role == Qt::DisplayRole ? hundredths(time) : qtText(shortestText(time));
+        return role == Qt::DisplayRole ? hundredths(time) : shownNumber(time);
     }
     case PenaltyColumn:
         return QString::number(result.pen);
@@ -318,20 +318,22 @@ bool RankingModel::setData(const QModelIndex& index, const QVariant& value, int 
         return false;
     // Should the edit be refused, nothing was out of order.
     const bool wasKeeping = std::exchange(m_isKeepingOrder, true);
-    const auto race = raceOfColumn(index.column());
-    const bool isTaken = race ? setResultPart(index.row(), *race,
-                                              (index.column() - LeadingColumns) % RaceColumns, text)
-                              : setLeading(index.row(), index.column(), text);
-    m_isKeepingOrder = isTaken || wasKeeping;
-    return isTaken;
-}
-
-bool RankingModel::setLeading(int row, int column, const QString& text) {
-    std::int64_t year = 0;
-    if (column == YearColumn && !text.isEmpty() && !parseField(text.toStdString(), year)) {
-        emit refused(tr("The birth year must be a whole number."));
+    try {
+        if (const auto race = raceOfColumn(index.column()))
+            setResultPart(index.row(), *race, (index.column() - LeadingColumns) % RaceColumns,
+                          text);
+        else
+            setLeading(index.row(), index.column(), text);
+        return true;
+    } catch (const RefusedEntry& refusal) {
+        m_isKeepingOrder = wasKeeping;
+        emit refused(refusal.reason());
         return false;
     }
+}
+
+void RankingModel::setLeading(int row, int column, const QString& text) {
+    const std::int64_t year = column == YearColumn ? typedBirthYear(text) : 0;
     const std::size_t athlete = athleteOfRow(row);
     m_document.change(tr("correction"), [&](selectionracesStruct_v3& document) {
         srAthleteStruct_v3& record = document.categories[m_category].athletes[athlete];
@@ -340,49 +342,38 @@ bool RankingModel::setLeading(int row, int column, const QString& text) {
         else
             (column == NameColumn ? record.name : record.club) = text.toStdString();
     });
-    return true;
 }
 
-bool RankingModel::setResultPart(int row, std::size_t race, int part, const QString& text) {
+void RankingModel::setResultPart(int row, std::size_t race, int part, const QString& text) {
     const ResultPlace place{m_category, athleteOfRow(row), race};
     const srAthleteStruct_v3& athlete = athleteAt(row);
     saRaceStruct result = race < athlete.racedata.size() ? athlete.racedata[race] : missingResult();
-    if (part == TimeColumn)
-        return setTime(place, result, text);
-    if (isMissing(result)) {
-        emit refused(tr("Enter the time first: the penalty belongs to it."));
-        return false;
+    if (part == TimeColumn) {
+        setTime(place, result, text);
+        return;
     }
-    if (!parseField(text.toStdString(), result.pen) || result.pen < 0) {
-        emit refused(tr("The penalty must be a whole number of seconds."));
-        return false;
-    }
+    if (isMissing(result))
+        throw RefusedEntry(tr("Enter the time first: the penalty belongs to it."));
+    result.pen = typedPenalty(text);
     m_document.change(tr("penalty"), [&](selectionracesStruct_v3& document) {
         setResult(document, place, result.resultTime, result.pen, result.xTime);
     });
-    return true;
 }
 
 /// An emptied time makes the result a missing one; an emptied expected time leaves the result
 /// itself alone.
-bool RankingModel::setTime(const ResultPlace& place, saRaceStruct result, const QString& text) {
+void RankingModel::setTime(const ResultPlace& place, saRaceStruct result, const QString& text) {
     const bool isExpected = m_document.times() == SelectionTimes::Expected;
     if (text.isEmpty() && !isExpected) {
         m_document.change(tr("result removed"),
                           [&](selectionracesStruct_v3& document) { clearResult(document, place); });
-        return true;
+        return;
     }
     double& time = isExpected ? result.xTime : result.resultTime;
-    if (text.isEmpty()) {
-        time = MissingTime;
-    } else if (!parseField(text.toStdString(), time) || !(time >= 0)) {
-        emit refused(tr("The time must be a number of seconds, with a point."));
-        return false;
-    }
+    time = text.isEmpty() ? MissingTime : typedTime(text);
     m_document.change(tr("result"), [&](selectionracesStruct_v3& document) {
         setResult(document, place, result.resultTime, result.pen, result.xTime);
     });
-    return true;
 }
 
 } // namespace kavela::desktop

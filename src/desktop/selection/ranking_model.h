@@ -79,15 +79,15 @@ private:
     [[nodiscard]] QString rankText(int row) const;
     [[nodiscard]] QVariant toolTip(const QModelIndex& index) const;
     [[nodiscard]] QVariant font(const QModelIndex& index) const;
-    [[nodiscard]] bool setTime(const ResultPlace& place, saRaceStruct result, const QString& text);
+    void setTime(const ResultPlace& place, saRaceStruct result, const QString& text);
     [[nodiscard]] const srCategoryStruct_v3* categoryShown() const;
     [[nodiscard]] const srAthleteStruct_v3& athleteAt(int row) const;
     [[nodiscard]] std::size_t races() const;
     [[nodiscard]] QString leadingText(int row, int column) const;
     [[nodiscard]] QString raceText(int row, std::size_t race, int part, int role) const;
     [[nodiscard]] QVariant raceToolTip(int row, std::size_t race) const;
-    [[nodiscard]] bool setLeading(int row, int column, const QString& text);
-    [[nodiscard]] bool setResultPart(int row, std::size_t race, int part, const QString& text);
+    void setLeading(int row, int column, const QString& text);
+    void setResultPart(int row, std::size_t race, int part, const QString& text);
 
     SelectionDocument& m_document;
     std::size_t m_category = 0;

@@ -2,6 +2,7 @@
 
 #include "desktop/selection/athlete_dialog.h"
 #include "desktop/selection/why_panel.h"
+#include "desktop/shell/cell_delegate.h"
 #include "desktop/shell/edit_order.h"
 #include "desktop/shell/theme.h"
 #include "desktop/shell/workspace.h"
@@ -67,8 +68,7 @@ SelectionWindow::SelectionWindow(Workspace& workspace, Autosave autosave)
     setCentralWidget(page);
     makeMenus();
     connect(&m_document, &SelectionDocument::changed, this, &SelectionWindow::showDocument);
-    connect(&m_model, &RankingModel::refused, this,
-            [this](const QString& reason) { tell(reason.toStdString()); });
+    connect(&m_model, &RankingModel::refused, new CellDelegate(*m_table), &CellDelegate::refuse);
     connect(m_table->selectionModel(), &QItemSelectionModel::currentChanged, this,
             &SelectionWindow::showWhy);
     connect(m_table->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
@@ -151,11 +151,6 @@ bool SelectionWindow::open(const QString& path) {
 
 void SelectionWindow::startNew(const QString& path, std::int64_t year) {
     m_document.startNew(path, year, this);
-}
-
-void SelectionWindow::commit() {
-    if (QWidget* const editor = m_table->indexWidget(m_table->currentIndex()))
-        editor->clearFocus();
 }
 
 /// After rows or columns came or went the cursor stands at the same athlete.

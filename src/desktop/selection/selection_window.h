@@ -26,7 +26,7 @@ public:
     SelectionWindow(Workspace& workspace, Autosave autosave);
     ~SelectionWindow() override;
 
-    [[nodiscard]] bool open(const QString& path);
+    [[nodiscard]] bool open(const QString& path) override;
     void startNew(const QString& path, std::int64_t year);
 
     [[nodiscard]] SelectionDocument& document() { return m_document; }
@@ -44,7 +44,6 @@ public:
 
 protected:
     void takeFiles(const QStringList& paths) override;
-    void commit() override;
 
 private:
     [[nodiscard]] QWidget* makeBar();

@@ -1,9 +1,9 @@
 #include "desktop/sessions/information_dialog.h"
 
+#include "desktop/shell/number_box.h"
 #include "desktop/shell/theme.h"
 
 #include <QDialogButtonBox>
-#include <QDoubleSpinBox>
 #include <QFormLayout>
 #include <QLabel>
 #include <QLineEdit>
@@ -43,7 +43,7 @@ constexpr double Most = 10000; // of any of the numbers
 } // namespace
 
 InformationDialog::InformationDialog(const Info& info, QWidget* parent)
-    : QDialog(parent), m_info(info) {
+    : EntryDialog(parent), m_info(info) {
     setWindowTitle(tr("Session information"));
     auto* form = new QFormLayout(this);
     form->setSpacing(theme::Spacing);
@@ -53,7 +53,7 @@ InformationDialog::InformationDialog(const Info& info, QWidget* parent)
         form->addRow(tr(Texts[i].label), m_texts[i]);
     }
     for (std::size_t i = 0; i < Numbers.size(); ++i) {
-        auto* box = new QDoubleSpinBox;
+        auto* box = new NumberBox;
         box->setObjectName(Numbers[i].name);
         box->setRange(0, Most);
         box->setDecimals(1);

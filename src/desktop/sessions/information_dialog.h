@@ -1,18 +1,18 @@
 #pragma once
 
 #include "boatmotion/sessions.h"
-
-#include <QDialog>
+#include "desktop/shell/entry_dialog.h"
 
 #include <array>
 
-class QDoubleSpinBox;
 class QLineEdit;
 
 namespace kavela::desktop {
 
+class NumberBox;
+
 /// Athlete, place, kind and equipment of a session.
-class InformationDialog : public QDialog {
+class InformationDialog : public EntryDialog {
     Q_OBJECT
 
 public:
@@ -23,7 +23,7 @@ public:
 private:
     infosessionSmart_v3 m_info;
     std::array<QLineEdit*, 3> m_texts{};
-    std::array<QDoubleSpinBox*, 5> m_numbers{};
+    std::array<NumberBox*, 5> m_numbers{};
     std::array<double, 5> m_shown{}; ///< as the boxes rounded them
 };
 

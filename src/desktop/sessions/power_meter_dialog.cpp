@@ -1,10 +1,10 @@
 #include "desktop/sessions/power_meter_dialog.h"
 
 #include "desktop/charts/sensor_series.h"
+#include "desktop/shell/number_box.h"
 #include "desktop/shell/theme.h"
 
 #include <QDialogButtonBox>
-#include <QDoubleSpinBox>
 #include <QFormLayout>
 #include <QHeaderView>
 #include <QLabel>
@@ -42,10 +42,10 @@ QTableWidget* refusedTable(const std::vector<RefusedLine>& refused) {
 
 PowerMeterDialog::PowerMeterDialog(const QString& fileName, const PowerMeterList& list,
                                    const EditedSession& session, QWidget* parent)
-    : QDialog(parent),
+    : EntryDialog(parent),
       m_placed(placedInSession(list, session)),
       m_moments(momentsOf(session)),
-      m_begin(new QDoubleSpinBox),
+      m_begin(new NumberBox),
       m_overlap(new QLabel) {
     setWindowTitle(tr("Import power-meter data"));
     auto* form = new QFormLayout(this);
@@ -59,6 +59,7 @@ PowerMeterDialog::PowerMeterDialog(const QString& fileName, const PowerMeterList
     count->setObjectName("count");
     form->addRow(count);
     m_begin->setObjectName("begin");
+    m_begin->setIsTime(true);
     m_begin->setRange(-FarthestSeconds, FarthestSeconds);
     m_begin->setDecimals(1);
     m_begin->setSuffix(tr(" s"));
@@ -77,7 +78,7 @@ PowerMeterDialog::PowerMeterDialog(const QString& fileName, const PowerMeterList
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     form->addRow(buttons);
-    connect(m_begin, &QDoubleSpinBox::valueChanged, this, &PowerMeterDialog::showOverlap);
+    connect(m_begin, &NumberBox::valueChanged, this, &PowerMeterDialog::showOverlap);
     showOverlap();
     resize(list.refused.empty() ? QSize(460, 180) : QSize(560, 420));
 }

@@ -1,17 +1,17 @@
 #pragma once
 
 #include "boatmotion/power_meter.h"
+#include "desktop/shell/entry_dialog.h"
 
-#include <QDialog>
-
-class QDoubleSpinBox;
 class QLabel;
 
 namespace kavela::desktop {
 
+class NumberBox;
+
 /// What a list of a power meter holds, which lines of it are refused and why, and where in the
 /// session it begins.
-class PowerMeterDialog : public QDialog {
+class PowerMeterDialog : public EntryDialog {
     Q_OBJECT
 
 public:
@@ -27,7 +27,7 @@ private:
 
     std::vector<powermeterData> m_placed;
     MomentRange m_moments;
-    QDoubleSpinBox* m_begin;
+    NumberBox* m_begin;
     QLabel* m_overlap;
 };
 

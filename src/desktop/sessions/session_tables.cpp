@@ -2,6 +2,7 @@
 
 #include "desktop/sessions/balance_view.h"
 #include "desktop/sessions/grid_model.h"
+#include "desktop/shell/number_box.h"
 #include "desktop/shell/theme.h"
 
 #include <QHBoxLayout>
@@ -9,7 +10,6 @@
 #include <QLabel>
 #include <QScopedValueRollback>
 #include <QSignalBlocker>
-#include <QSpinBox>
 #include <QTableView>
 #include <QVBoxLayout>
 
@@ -73,7 +73,7 @@ void SessionTables::choose(const QTableView& table, const QModelIndex& index) {
 }
 
 QWidget* SessionTables::makeMetersPage() {
-    m_step = new QSpinBox;
+    m_step = new WholeBox;
     m_step->setObjectName("step");
     m_step->setRange(5, LongestStep);
     m_step->setSingleStep(UsualStep);
@@ -94,7 +94,7 @@ QWidget* SessionTables::makeMetersPage() {
     column->setContentsMargins(0, theme::SmallSpacing, 0, 0);
     column->addLayout(row);
     column->addWidget(addTable("meters", m_meters));
-    connect(m_step, &QSpinBox::valueChanged, this, &SessionTables::showMeters);
+    connect(m_step, &WholeBox::valueChanged, this, &SessionTables::showMeters);
     return page;
 }
 

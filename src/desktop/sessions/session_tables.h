@@ -5,11 +5,11 @@
 #include <QTabWidget>
 
 class QLabel;
-class QSpinBox;
 class QTableView;
 
 namespace kavela::desktop {
 
+class WholeBox;
 class BalanceView;
 class GridModel;
 
@@ -49,7 +49,7 @@ private:
     GridModel* m_segments;
     GridModel* m_meters;
     std::vector<QTableView*> m_views; ///< by page
-    QSpinBox* m_step = nullptr;
+    WholeBox* m_step = nullptr;
     QLabel* m_metersBegin = nullptr; ///< where the distance is counted from
     BalanceView* m_balance;
     EditedSession m_session;

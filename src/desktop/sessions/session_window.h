@@ -24,7 +24,7 @@ public:
 
     /// Opens a recording (.kvb), which is converted, or a processed session (.sbm, .bms). False,
     /// after an alert, when it cannot be opened; what was open then stays.
-    [[nodiscard]] bool open(const QString& wanted);
+    [[nodiscard]] bool open(const QString& wanted) override;
     /// An empty window, for files to be dropped on; work that was kept for this path is offered.
     void startNew(const QString& path);
 

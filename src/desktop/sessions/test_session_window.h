@@ -39,7 +39,7 @@ public:
     ~TestSessionWindow() override;
 
     /// False, after an alert, when the file is no test session.
-    [[nodiscard]] bool open(const QString& path);
+    [[nodiscard]] bool open(const QString& path) override;
 
     void chooseAttempt(int place);
     [[nodiscard]] GridModel& table() const { return *m_model; }

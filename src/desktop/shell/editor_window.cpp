@@ -3,6 +3,8 @@
 #include "desktop/shell/dropped_files.h"
 #include "desktop/shell/edited_file.h"
 #include "desktop/shell/help_menu.h"
+#include "desktop/shell/theme.h"
+#include "desktop/shell/typing.h"
 #include "desktop/shell/window_place.h"
 #include "desktop/shell/workspace.h"
 
@@ -88,7 +90,9 @@ bool EditorWindow::saveAs() {
            m_file.saveAs(dialog.selectedFiles().constFirst(), this);
 }
 
-void EditorWindow::closeEvent(QCloseEvent* event) {
+bool EditorWindow::mayLeave() {
+    if (!takeTyping(*this))
+        return false;
     commit();
     if (m_file.isDirty()) {
         const auto choice = m_workspace.askToSave(m_file.fileName(), this);
@@ -115,3 +119,7 @@ void EditorWindow::takeFiles(const QStringList& paths) {
 }
 
 } // namespace kavela::desktop
+    if (!takeTyping(*this))
+        return false;
+    if (!takeTyping(*this))
+        return false;

@@ -41,7 +41,8 @@ protected:
     void dropEvent(QDropEvent* event) override;
     /// Files were dropped; opened by default.
     virtual void takeFiles(const QStringList& paths);
-    /// What is being typed goes into the document, before it is saved.
+    /// What a window keeps of its own besides what is typed in its fields goes into the document,
+    /// before it is saved.
     virtual void commit() {}
 
     /// The menus in front, with `reports` behind saving where the tool has reports; then the tool's

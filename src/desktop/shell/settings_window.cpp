@@ -1,5 +1,6 @@
 #include "desktop/shell/settings_window.h"
 
+#include "desktop/shell/number_box.h"
 #include "desktop/shell/scheme.h"
 #include "desktop/shell/theme.h"
 #include "desktop/shell/workspace.h"
@@ -16,7 +17,6 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QScrollArea>
-#include <QSpinBox>
 #include <QTabWidget>
 #include <QUrl>
 
@@ -173,11 +173,11 @@ QWidget* SettingsWindow::numberEditor(const PreferenceEntry& entry) {
     auto* box = new QWidget;
     auto* row = new QHBoxLayout(box);
     row->setContentsMargins(0, 0, 0, 0);
-    auto* number = new QSpinBox;
+    auto* number = new WholeBox;
     number->setObjectName(qtText(entry.key));
     number->setRange(1, MostSplits);
     number->setValue(static_cast<int>(m_workspace.preferences().integer(entry.key)));
-    connect(number, &QSpinBox::valueChanged, this, [this, key = entry.key](int value) {
+    connect(number, &WholeBox::valueChanged, this, [this, key = entry.key](int value) {
         m_workspace.setPreference(key, std::int64_t{value});
     });
     row->addWidget(new QLabel(qtText(entry.meaning)), 1);

@@ -1,11 +1,32 @@
 #include "desktop/shell/typing.h"
 
+#include "desktop/shell/refused_entry.h"
+
+#include <QAbstractItemView>
 #include <QAbstractSpinBox>
 #include <QApplication>
 #include <QComboBox>
 #include <QLineEdit>
+#include <QPointer>
 
 namespace kavela::desktop {
+
+namespace {
+
+/// What is no number stays for the box to refuse, once it loses the focus.
+void interpret(QAbstractSpinBox& number) {
+    if (number.hasAcceptableInput())
+        number.interpretText();
+}
+
+/// Where the cursor belongs once a field has been left: for the editor of a cell, the table.
+QWidget* placeOf(QWidget& field) {
+    QWidget* const above = field.parentWidget();
+    auto* const table = above ? qobject_cast<QAbstractItemView*>(above->parentWidget()) : nullptr;
+    return table && table->viewport() == above ? table : &field;
+}
+
+} // namespace
 
 bool endTyping() {
     QWidget* const focus = QApplication::focusWidget();
@@ -13,7 +34,7 @@ bool endTyping() {
     auto* const choice = qobject_cast<QComboBox*>(focus);
     auto* const field = qobject_cast<QLineEdit*>(focus);
     if (number)
-        number->interpretText();
+        interpret(*number);
     else if (field)
         emit field->returnPressed();
     else if (!choice || !choice->isEditable())
@@ -23,12 +44,23 @@ bool endTyping() {
 }
 
 void endTypingIn(const QWidget& part) {
-    QWidget* const focus = QApplication::focusWidget();
-    if (!focus || !part.isAncestorOf(focus))
+    QWidget* const field = QApplication::focusWidget();
+    if (!field || !part.isAncestorOf(field))
         return;
-    if (auto* const number = qobject_cast<QAbstractSpinBox*>(focus))
-        number->interpretText();
-    focus->clearFocus(); // an editor of a table closes and hands its text over
+    if (auto* const number = qobject_cast<QAbstractSpinBox*>(field))
+        interpret(*number);
+    field->clearFocus(); // an editor of a table closes and hands its text over
+}
+
+bool takeTyping(const QWidget& window) {
+    QWidget* const field = QApplication::focusWidget();
+    const QPointer<QWidget> place = field && window.isAncestorOf(field) ? placeOf(*field) : nullptr;
+    endTypingIn(window);
+    if (showRefusedEntry(window))
+        return false;
+    if (place)
+        place->setFocus();
+    return true;
 }
 
 bool stepNumber(int step) {

@@ -12,6 +12,10 @@ bool endTyping();
 /// Ends the typing in a field of `part`, or in a cell of a table there.
 void endTypingIn(const QWidget& part);
 
+/// Takes what is being typed in a window, as before it is saved; the cursor stays in its field or
+/// table. False, with the cursor in the field, where one holds what cannot be taken.
+[[nodiscard]] bool takeTyping(const QWidget& window);
+
 /// Steps the number that is being edited; false where none is.
 bool stepNumber(int step);
 

@@ -1,5 +1,6 @@
 #include "desktop/taking/course_dialog.h"
 
+#include "desktop/shell/number_box.h"
 #include "desktop/shell/theme.h"
 #include "desktop/shell/workspace.h"
 #include "splittaking/course_setup.h"
@@ -12,7 +13,6 @@
 #include <QHeaderView>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QSpinBox>
 #include <QTableWidget>
 
 #include <cmath>
@@ -43,7 +43,7 @@ QDateTime momentOf(ReferenceDate date) {
 } // namespace
 
 CourseDialog::CourseDialog(const infodata031& info, Workspace& workspace, QWidget* parent)
-    : QDialog(parent), m_workspace(workspace), m_info(info) {
+    : EntryDialog(parent), m_workspace(workspace), m_info(info) {
     setWindowTitle(tr("Race and course"));
     auto* columns = new QHBoxLayout;
     columns->setSpacing(theme::PageMargin);
@@ -97,7 +97,7 @@ QWidget* CourseDialog::makeCourse() {
     m_upGates = new QLineEdit(numbersText(m_info.upGates));
     m_upGates->setObjectName("upGates");
     m_upGates->setPlaceholderText(tr("Such as 4 8 12"));
-    m_splits = new QSpinBox;
+    m_splits = new WholeBox;
     m_splits->setObjectName("splits");
     m_splits->setRange(1, static_cast<int>(MostSplits));
     m_splits->setValue(static_cast<int>(m_info.totalsplits));
@@ -108,7 +108,7 @@ QWidget* CourseDialog::makeCourse() {
     auto* share = new QPushButton(tr("Share the gates &evenly"));
     share->setObjectName("share");
     share->setAutoDefault(false);
-    connect(m_splits, &QSpinBox::valueChanged, this, &CourseDialog::resizeSections);
+    connect(m_splits, &WholeBox::valueChanged, this, &CourseDialog::resizeSections);
     connect(share, &QPushButton::clicked, this, &CourseDialog::shareEvenly);
 
     auto* box = new QWidget;
@@ -204,7 +204,7 @@ void CourseDialog::accept() {
     m_info.session = m_session->currentText().trimmed().toStdString();
     const qint64 days = momentOf(m_info.date).date().daysTo(m_date->date());
     m_info.date.seconds += static_cast<double>(days) * 86400;
-    QDialog::accept();
+    EntryDialog::accept();
 }
 
 } // namespace kavela::desktop

@@ -1,23 +1,22 @@
 #pragma once
 
+#include "desktop/shell/entry_dialog.h"
 #include "splitdata/records.h"
-
-#include <QDialog>
 
 class QComboBox;
 class QDateEdit;
 class QFormLayout;
 class QLineEdit;
-class QSpinBox;
 class QTableWidget;
 
 namespace kavela::desktop {
 
+class WholeBox;
 class Workspace;
 
 /// The race and its course: gates, upstream gates, the sections between the splits and their
 /// titles.
-class CourseDialog : public QDialog {
+class CourseDialog : public EntryDialog {
     Q_OBJECT
 
 public:
@@ -48,7 +47,7 @@ private:
     QComboBox* m_session = nullptr;
     QLineEdit* m_gates = nullptr;
     QLineEdit* m_upGates = nullptr;
-    QSpinBox* m_splits = nullptr;
+    WholeBox* m_splits = nullptr;
     QTableWidget* m_sections = nullptr;
 };
 

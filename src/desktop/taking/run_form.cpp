@@ -1,8 +1,9 @@
 #include "desktop/taking/run_form.h"
 
-#include "common/number_text.h"
+#include "desktop/shell/refused_entry.h"
+#include "desktop/shell/shown_number.h"
 #include "desktop/shell/theme.h"
-#include "desktop/shell/workspace.h"
+#include "desktop/shell/typed_number.h"
 #include "desktop/taking/taking_document.h"
 #include "splitdata/run_timing.h"
 #include "splittaking/course_setup.h"
@@ -22,17 +23,16 @@ QString qtText(const std::string& text) {
 }
 
 QString secondsText(double seconds) {
-    return seconds == 0 ? QString() : qtText(shortestText(seconds));
+    return seconds == 0 ? QString() : shownNumber(seconds);
 }
 
-QString hundredthsOrDash(double seconds) {
-    return seconds == 0 ? "–" : qtText(hundredthsText(seconds));
-}
+constexpr double LongestTime = 86400;
+constexpr double MostPenalty = 999;
 
 } // namespace
 
-RunForm::RunForm(TakingDocument& document, Workspace& workspace, QWidget* parent)
-    : QWidget(parent), m_document(document), m_workspace(workspace), m_figures(new QLabel) {
+RunForm::RunForm(TakingDocument& document, QWidget* parent)
+    : QWidget(parent), m_document(document), m_figures(new QLabel) {
     auto* form = new QFormLayout(this);
     form->setContentsMargins(0, 0, 0, 0);
     form->setVerticalSpacing(theme::SmallSpacing);
@@ -47,7 +47,7 @@ RunForm::RunForm(TakingDocument& document, Workspace& workspace, QWidget* parent
 
 void RunForm::addField(QFormLayout& form, const QString& title, const char* name,
                        std::function<QString(const athletedata031&)> show,
-                       std::function<bool(const QString&)> take) {
+                       std::function<void(const QString&)> take) {
     auto* edit = new QLineEdit;
     edit->setObjectName(name);
     form.addRow(title, edit);
@@ -62,7 +62,6 @@ void RunForm::addTexts(QFormLayout& form) {
         [](const athletedata031& run) { return qtText(crewText(run.names)); },
         [this](const QString& text) {
             edit(tr("crew"), [&](athletedata031& run) { run.names = crewIn(text.toStdString()); });
-            return true;
         });
     struct Text {
         QString title;
@@ -78,7 +77,6 @@ void RunForm::addTexts(QFormLayout& form) {
             [this, field](const QString& text) {
                 edit(field.title,
                      [&](athletedata031& run) { run.*field.member = text.toStdString(); });
-                return true;
             });
 }
 
@@ -87,10 +85,8 @@ void RunForm::addTimes(QFormLayout& form) {
         form, tr("Real time"), "realTime",
         [](const athletedata031& run) { return secondsText(run.sectioninfo.realtime); },
         [this](const QString& text) {
-            const bool isTaken = takeSeconds(text, &sectiondata030::realtime, tr("real time"));
-            if (isTaken)
-                m_document.logPerfectTime();
-            return isTaken;
+            takeSeconds(text, &sectiondata030::realtime, tr("real time"));
+            m_document.logPerfectTime();
         });
     addField(
         form, tr("Real penalty"), "realPenalty",
@@ -98,12 +94,12 @@ void RunForm::addTimes(QFormLayout& form) {
             return run.sectioninfo.realpen == 0 ? QString()
                                                 : QString::number(run.sectioninfo.realpen);
         },
-        [this](const QString& text) { return takePenalty(text); });
+        [this](const QString& text) { takePenalty(text); });
     addField(
         form, tr("Sprint"), "sprint",
         [](const athletedata031& run) { return secondsText(run.sectioninfo.sprinttime); },
         [this](const QString& text) {
-            return takeSeconds(text, &sectiondata030::sprinttime, tr("sprint time"));
+            takeSeconds(text, &sectiondata030::sprinttime, tr("sprint time"));
         });
 }
 
@@ -111,37 +107,38 @@ void RunForm::edit(const QString& what, const std::function<void(athletedata031&
     m_document.editRun(m_run, what, change);
 }
 
-bool RunForm::takeSeconds(const QString& text, double sectiondata030::*member,
+void RunForm::takeSeconds(const QString& text, double sectiondata030::*member,
                           const QString& what) {
-    const auto seconds = text.isEmpty() ? std::optional(0.0) : parseRealTime(text.toStdString());
-    if (!seconds) {
-        m_workspace.showAlert({"", messages::RealTimeNoNumber}, this);
-        return false;
-    }
-    edit(what, [&](athletedata031& run) { run.sectioninfo.*member = *seconds; });
-    return true;
+    const double seconds =
+        typedSecondsOrNone(text, {0, LongestTime,
+                                  qtText(messages::RealTimeNoNumber) + '\n' +
+                                      tr("A comma and minutes, such as 1:32,34, are taken too")});
+    edit(what, [&](athletedata031& run) { run.sectioninfo.*member = seconds; });
 }
 
-bool RunForm::takePenalty(const QString& text) {
-    bool isNumber = text.isEmpty();
-    const int penalty = isNumber ? 0 : text.toInt(&isNumber);
-    if (!isNumber || penalty < 0) {
-        m_workspace.showAlert(
-            {"", tr("The penalty must be a whole number of seconds.").toStdString()}, this);
-        return false;
-    }
+void RunForm::takePenalty(const QString& text) {
+    const std::int64_t penalty = typedWholeOrNone(
+        text, {0, MostPenalty, tr("A penalty is a whole number of seconds, 0 to 999")});
     edit(tr("real penalty"), [&](athletedata031& run) { run.sectioninfo.realpen = penalty; });
-    return true;
 }
 
-/// What is refused stays as it was, and the field shows that again.
 void RunForm::takeField(const Field& field) {
     if (m_run < 0 || !field.edit->isModified())
         return;
-    field.edit->setModified(false); // an alert takes the focus, which ends the editing once more
+    const QString before = field.show(m_document.run(m_run));
     const QString text = field.edit->text().trimmed();
-    if (text == field.show(m_document.run(m_run)) || !field.take(text))
+    try {
+        field.edit->setModified(
+            false); // an edit shows the run anew, and ends the editing once more
+        if (text != before)
+            field.take(text);
+        acceptEntry(*field.edit);
         field.edit->setText(field.show(m_document.run(m_run)));
+    } catch (const RefusedEntry& refusal) {
+        field.edit->setModified(true);
+        refuseEntry(*field.edit, refusal.reason(),
+                    [edit = field.edit, before] { edit->setText(before); });
+    }
 }
 
 void RunForm::commit() {
@@ -152,6 +149,8 @@ void RunForm::commit() {
 void RunForm::showRun(int run) {
     commit();
     m_run = run;
+    for (const Field& field : m_fields)
+        field.edit->setModified(false); // it was typed for the run before
     refresh();
 }
 

@@ -23,7 +23,7 @@ class RunForm : public QWidget {
     Q_OBJECT
 
 public:
-    RunForm(TakingDocument& document, Workspace& workspace, QWidget* parent = nullptr);
+    explicit RunForm(TakingDocument& document, QWidget* parent = nullptr);
 
     /// Shows a run, -1 for none. What was typed for the run before is taken over first.
     void showRun(int run);
@@ -33,27 +33,25 @@ public:
     void commit();
 
 private:
-    /// How a field shows a run, and how it takes over what was typed: false refuses it.
+    /// How a field shows a run, and how it takes over what was typed; it throws RefusedEntry.
     struct Field {
         QLineEdit* edit;
         std::function<QString(const athletedata031&)> show;
-        std::function<bool(const QString&)> take;
+        std::function<void(const QString&)> take;
     };
 
     void addField(QFormLayout& form, const QString& title, const char* name,
                   std::function<QString(const athletedata031&)> show,
-                  std::function<bool(const QString&)> take);
+                  std::function<void(const QString&)> take);
     void addTexts(QFormLayout& form);
     void addTimes(QFormLayout& form);
     void takeField(const Field& field);
-    [[nodiscard]] bool takeSeconds(const QString& text, double sectiondata030::*member,
-                                   const QString& what);
-    [[nodiscard]] bool takePenalty(const QString& text);
+    void takeSeconds(const QString& text, double sectiondata030::*member, const QString& what);
+    void takePenalty(const QString& text);
     void edit(const QString& what, const std::function<void(athletedata031&)>& change);
     void refresh();
 
     TakingDocument& m_document;
-    Workspace& m_workspace;
     int m_run = -1;
     std::vector<Field> m_fields;
     QLabel* m_figures;

@@ -1,10 +1,11 @@
 #include "desktop/taking/taking_window.h"
 
 #include "common/error.h"
-#include "common/number_text.h"
 #include "desktop/film/film_deck.h"
 #include "desktop/film/film_view.h"
 #include "desktop/shell/file_copy.h"
+#include "desktop/shell/shown_number.h"
+#include "desktop/shell/typing.h"
 #include "desktop/shell/workspace.h"
 #include "desktop/taking/course_dialog.h"
 #include "desktop/taking/expected_place.h"
@@ -108,9 +109,9 @@ void TakingWindow::markSplit(Stamps stamps) {
     m_notes->clearSelection();
     m_selected = taken;
     m_document.setMarks(m_run, isStart ? tr("start mark") : tr("split %1").arg(taken), marks);
-    m_views.front()->flash(isStart ? tr("Start")
-                                   : tr("%1:  %2").arg(taken).arg(QString::fromStdString(
-                                         hundredthsText(splitTimes(marks).back()))));
+    m_views.front()->flash(
+        isStart ? tr("Start")
+                : tr("%1:  %2").arg(taken).arg(shownHundredths(splitTimes(marks).back())));
 }
 
 void TakingWindow::moveMarkHere() {
@@ -375,7 +376,7 @@ void TakingWindow::reset() {
 
 bool TakingWindow::save() {
     commit();
-    return m_document.save(this);
+    return takeTyping(*this) && m_document.save(this);
 }
 
 void TakingWindow::exportData() {

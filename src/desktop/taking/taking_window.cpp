@@ -1,6 +1,5 @@
 #include "desktop/taking/taking_window.h"
 
-#include "common/number_text.h"
 #include "desktop/film/film_deck.h"
 #include "desktop/film/film_memory.h"
 #include "desktop/film/film_sound.h"
@@ -8,7 +7,10 @@
 #include "desktop/film/time_line.h"
 #include "desktop/race/frozen_table.h"
 #include "desktop/shell/dropped_files.h"
+#include "desktop/shell/refused_entry.h"
+#include "desktop/shell/shown_number.h"
 #include "desktop/shell/theme.h"
+#include "desktop/shell/typing.h"
 #include "desktop/shell/window_place.h"
 #include "desktop/shell/workspace.h"
 #include "desktop/taking/gate_strip.h"
@@ -142,7 +144,7 @@ QWidget* TakingWindow::makeStage() {
     m_splits = new SplitBar;
     m_gates = new GateStrip;
     m_clips = new ClipPlayer(*m_deck, this);
-    m_form = new RunForm(m_document, m_workspace);
+    m_form = new RunForm(m_document);
     m_notes = new NotesPanel({m_document, *m_deck, m_workspace, *m_gates, *m_clips, m_run, {}},
                              *m_line, *m_form);
     auto* row = new QHBoxLayout;
@@ -269,6 +271,10 @@ void TakingWindow::selectRun(int run) {
     if (run == m_run || run >= m_document.runCount())
         return;
     commit();
+    if (showRefusedEntry(*m_form)) {
+        m_runTable->selectRow(m_run);
+        return;
+    }
     showRun(run);
 }
 
@@ -321,7 +327,7 @@ void TakingWindow::showMarks() {
         const QString title = qtText(entryOrZero(info.splitTitles, i));
         const bool isTaken = i < times.size() && stampsOf(marks, i + 1);
         sections.push_back({title.isEmpty() ? 'S' + QString::number(i + 1) : title,
-                            isTaken ? qtText(hundredthsText(times[i])) : QString()});
+                            isTaken ? shownHundredths(times[i]) : QString()});
     }
     m_splits->setSections(std::move(sections));
     m_splits->setSelected(m_selected && *m_selected > 0 ? m_selected : std::nullopt);
@@ -341,7 +347,7 @@ void TakingWindow::showRunning() {
         return;
     }
     const double since = shown->frame.stamp.seconds() - stampsOf(marks, *last)->front().seconds();
-    m_splits->setRunning(next, since < 0 ? QString() : qtText(hundredthsText(since)));
+    m_splits->setRunning(next, since < 0 ? QString() : shownHundredths(since));
 }
 
 std::optional<std::size_t> TakingWindow::lastMark() const {
@@ -382,7 +388,7 @@ void TakingWindow::playTableCell(const QModelIndex& index) {
 
 void TakingWindow::closeEvent(QCloseEvent* event) {
     commit();
-    event->setAccepted(m_document.mayClose(this));
+    event->setAccepted(takeTyping(*this) && m_document.mayClose(this));
 }
 
 void TakingWindow::dragEnterEvent(QDragEnterEvent* event) {

@@ -100,7 +100,7 @@ bool AthleteModel::setData(const QModelIndex& index, const QVariant& value, int 
                                      : setBirthYear(athlete, value.toString());
         return true;
     } catch (const RefusedEntry& refusal) {
-        emit refused(QString::fromStdString(refusal.what()));
+        emit refused(refusal.reason());
         return false;
     }
 }

@@ -1,6 +1,7 @@
 #include "desktop/team/athlete_panel.h"
 
 #include "common/folded_text.h"
+#include "desktop/shell/cell_delegate.h"
 #include "desktop/shell/edit_order.h"
 #include "desktop/shell/theme.h"
 #include "desktop/team/team_document.h"
@@ -90,6 +91,7 @@ void AthletePanel::makeTable() {
     m_shown->setSourceModel(&m_model);
     m_table->setObjectName("athletes");
     m_table->setModel(m_shown);
+    connect(&m_model, &AthleteModel::refused, new CellDelegate(*m_table), &CellDelegate::refuse);
     m_table->setSelectionBehavior(QAbstractItemView::SelectRows);
     m_table->setSelectionMode(QAbstractItemView::SingleSelection);
     m_table->setShowGrid(false);

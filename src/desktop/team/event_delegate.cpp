@@ -1,6 +1,7 @@
 #include "desktop/team/event_delegate.h"
 
 #include "desktop/shell/theme.h"
+#include "desktop/team/season_model.h"
 #include "results/team_records.h"
 
 #include <QComboBox>
@@ -9,8 +10,8 @@ namespace kavela::desktop {
 
 QWidget* EventDelegate::createEditor(QWidget* parent, const QStyleOptionViewItem& option,
                                      const QModelIndex& index) const {
-    if (!index.parent().isValid())
-        return QStyledItemDelegate::createEditor(parent, option, index);
+    if (!index.parent().isValid() || index.column() != SeasonModel::TitleColumn)
+        return CellDelegate::createEditor(parent, option, index);
     auto* combo = new QComboBox(parent);
     for (const char* event : team::Events)
         combo->addItem(event);
@@ -18,23 +19,8 @@ QWidget* EventDelegate::createEditor(QWidget* parent, const QStyleOptionViewItem
 }
 
 QSize EventDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const {
-    const QSize size = QStyledItemDelegate::sizeHint(option, index);
+    const QSize size = CellDelegate::sizeHint(option, index);
     return size.expandedTo({0, option.fontMetrics.height() + theme::SmallSpacing});
-}
-
-void EventDelegate::setEditorData(QWidget* editor, const QModelIndex& index) const {
-    if (auto* const combo = qobject_cast<QComboBox*>(editor))
-        combo->setCurrentText(index.data(Qt::EditRole).toString());
-    else
-        QStyledItemDelegate::setEditorData(editor, index);
-}
-
-void EventDelegate::setModelData(QWidget* editor, QAbstractItemModel* model,
-                                 const QModelIndex& index) const {
-    if (const auto* const combo = qobject_cast<QComboBox*>(editor))
-        model->setData(index, combo->currentText());
-    else
-        QStyledItemDelegate::setModelData(editor, model, index);
 }
 
 } // namespace kavela::desktop

@@ -1,6 +1,6 @@
 #include "desktop/team/phase_model.h"
 
-#include "common/number_text.h"
+#include "desktop/shell/shown_number.h"
 #include "desktop/team/team_document.h"
 #include "desktop/team/team_edits.h"
 #include "desktop/team/typed_values.h"
@@ -12,7 +12,7 @@ namespace kavela::desktop {
 namespace {
 
 QString hundredths(double seconds) {
-    return QString::fromStdString(hundredthsText(seconds));
+    return shownHundredths(seconds);
 }
 
 /// Phases of a race are mostly held on one day, or on the next.
@@ -167,7 +167,7 @@ bool PhaseModel::setData(const QModelIndex& index, const QVariant& value, int ro
         setCell(m_rows[static_cast<std::size_t>(index.row())], index.column(), value.toString());
         return true;
     } catch (const RefusedEntry& refusal) {
-        emit refused(QString::fromStdString(refusal.what()));
+        emit refused(refusal.reason());
         return false;
     }
 }

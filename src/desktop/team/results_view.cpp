@@ -49,8 +49,6 @@ ResultsView::ResultsView(TeamDocument& document, QWidget* parent)
     column->addSpacing(theme::SmallSpacing);
     column->addWidget(m_runs);
     connect(&m_document, &TeamDocument::changed, this, &ResultsView::showDocument);
-    connect(&m_seasons, &SeasonModel::refused, this, &ResultsView::refused);
-    connect(&m_phases, &PhaseModel::refused, this, &ResultsView::refused);
     connect(&m_seasons, &SeasonModel::seasonDropped, this,
             [this](std::size_t from, std::size_t before) {
                 moveSeason(from, before > from ? before - 1 : before);
@@ -82,7 +80,7 @@ void ResultsView::makeTree() {
     m_tree = new SeasonTree;
     m_tree->setObjectName("seasons");
     m_tree->setModel(&m_seasons);
-    m_tree->setItemDelegateForColumn(SeasonModel::TitleColumn, new EventDelegate(m_tree));
+    connect(&m_seasons, &SeasonModel::refused, new EventDelegate(*m_tree), &CellDelegate::refuse);
     m_tree->setEditTriggers(EditKeys);
     m_tree->setUniformRowHeights(true);
     m_tree->setIndentation(theme::LargeSpacing - 2);
@@ -115,6 +113,7 @@ void ResultsView::makeRuns() {
     m_runs = new EditOrder<QTableView>;
     m_runs->setObjectName("runs");
     m_runs->setModel(&m_phases);
+    connect(&m_phases, &PhaseModel::refused, new CellDelegate(*m_runs), &CellDelegate::refuse);
     m_runs->setEditTriggers(EditKeys);
     m_runs->setSelectionMode(QAbstractItemView::SingleSelection);
     m_runs->verticalHeader()->hide();

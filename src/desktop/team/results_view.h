@@ -50,7 +50,6 @@ public:
 signals:
     /// Another athlete, category, season or race is shown.
     void placeChanged();
-    void refused(const QString& reason);
 
 private:
     void makeTree();

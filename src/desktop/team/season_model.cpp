@@ -222,7 +222,7 @@ bool SeasonModel::setData(const QModelIndex& index, const QVariant& value, int r
                    : setSeason(place.season, index.column(), value.toString());
         return true;
     } catch (const RefusedEntry& refusal) {
-        emit refused(QString::fromStdString(refusal.what()));
+        emit refused(refusal.reason());
         return false;
     }
 }

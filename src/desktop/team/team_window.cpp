@@ -16,7 +16,6 @@
 
 #include <QApplication>
 #include <QFileInfo>
-#include <QLineEdit>
 #include <QSplitter>
 #include <QTableView>
 
@@ -67,9 +66,6 @@ void TeamWindow::makeParts() {
 }
 
 void TeamWindow::connectParts() {
-    const auto refuse = [this](const QString& reason) { tell(reason.toStdString()); };
-    connect(&m_athletes->model(), &AthleteModel::refused, this, refuse, Qt::QueuedConnection);
-    connect(m_results, &ResultsView::refused, this, refuse, Qt::QueuedConnection);
     connect(m_athletes, &AthletePanel::athleteChosen, this, &TeamWindow::showAthlete);
     connect(m_athletes, &AthletePanel::categoryChosen, this, &TeamWindow::showAthlete);
     connect(m_results, &ResultsView::placeChanged, this, &TeamWindow::showFigures);
@@ -230,12 +226,6 @@ void TeamWindow::saveChart() {
         workspace().log()(error.what());
         workspace().showAlert({"Failed to create file", error.reason()}, this);
     }
-}
-
-/// What is being typed in a cell is taken when the cell loses the focus.
-void TeamWindow::commit() {
-    if (QWidget* const field = focusWidget(); qobject_cast<QLineEdit*>(field))
-        field->clearFocus();
 }
 
 } // namespace kavela::desktop

@@ -23,7 +23,7 @@ public:
     ~TeamWindow() override;
 
     /// False, after an alert, when the file cannot be opened.
-    [[nodiscard]] bool open(const QString& path);
+    [[nodiscard]] bool open(const QString& path) override;
     /// A new team; the path is a folder, or a file that saving will propose.
     void startNew(const QString& path);
 
@@ -51,7 +51,6 @@ public:
 
 protected:
     void takeFiles(const QStringList& paths) override;
-    void commit() override;
 
 private:
     TeamWindow(Workspace& workspace, std::unique_ptr<TeamDocument> document);

@@ -1,22 +1,16 @@
 #pragma once
 
 #include "common/reference_date.h"
+#include "desktop/shell/typed_number.h"
 
 #include <QCoreApplication>
 #include <QString>
 
 #include <cstdint>
-#include <stdexcept>
 
 /// What a coach types into the cells of a team. Numbers are plain ones, with a decimal point or
 /// comma; an empty text is 0, which stands for "not entered". Each throws RefusedEntry.
 namespace kavela::desktop {
-
-/// Something that was typed cannot be taken; says what is expected.
-class RefusedEntry : public std::runtime_error {
-public:
-    explicit RefusedEntry(const QString& reason) : std::runtime_error(reason.toStdString()) {}
-};
 
 /// Seconds below an hour: "92.34" or "1:32.34".
 [[nodiscard]] double typedTime(const QString& text);

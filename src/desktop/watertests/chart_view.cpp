@@ -1,5 +1,6 @@
 #include "desktop/watertests/chart_view.h"
 
+#include "desktop/shell/shown_number.h"
 #include "desktop/shell/theme.h"
 #include "desktop/watertests/chart_card.h"
 #include "desktop/watertests/eight_texts.h"
@@ -172,8 +173,8 @@ void ChartView::showScores() {
         const datafor8& run = shown.test->eight()->run;
         QStringList cells{shown.name};
         for (const double split : splitsOf(run))
-            cells.append(shownNumber(split));
-        cells << shownNumber(run.totalsplit) << deviationText(run);
+            cells.append(hundredthsOrDash(split));
+        cells << totalText(run) << deviationText(run);
         for (int column = 0; column < cells.size(); ++column) {
             auto* item = new QTableWidgetItem(cells[column]);
             if (column > 0)

@@ -42,7 +42,6 @@ EightForm::EightForm(QWidget* parent)
     connectText(*m_phase, &datafor8::phase, tr("phase"));
     connect(&m_splits, &EntryModel::entered, this,
             [this](int row, int /*column*/, double seconds) { enterSplit(row, seconds); });
-    connect(&m_splits, &EntryModel::refused, this, &EightForm::refused);
 }
 
 void EightForm::connectText(QLineEdit& field, std::string datafor8::*member, const QString& what) {

@@ -24,7 +24,6 @@ public:
 signals:
     /// `what` names the step of the undo stack.
     void edited(const QString& what, const std::function<void(onWaterEight&)>& change);
-    void refused(const QString& reason);
 
 private:
     void enterSplit(int row, double seconds);

@@ -1,33 +1,30 @@
 #include "desktop/watertests/entry_table.h"
 
-#include "common/number_text.h"
+#include "desktop/shell/cell_delegate.h"
+#include "desktop/shell/shown_number.h"
 #include "desktop/shell/theme.h"
-#include "desktop/team/typed_values.h"
-#include "results/list_lines.h"
+#include "desktop/shell/typed_number.h"
 
 #include <QHeaderView>
 
 #include <algorithm>
-#include <cmath>
 
 namespace kavela::desktop {
 
 namespace {
 
-/// Throws RefusedEntry.
+/// The number typed into a cell; 0 for an emptied one. Throws RefusedEntry.
 double typedNumber(const QString& text, const EntryColumn& column) {
-    const QString typed = text.trimmed();
-    if (typed.isEmpty())
+    if (text.trimmed().isEmpty() && !column.hasZero)
         return 0;
-    if (typed.contains(':'))
-        return typedTime(typed);
-    double number = 0;
-    if (!parseField(QString(typed).replace(',', '.').toStdString(), number) ||
-        !std::isfinite(number) || number < 0 || number > column.most)
-        throw RefusedEntry(EntryModel::tr("“%1” is a number from 0 to %2; “%3” is none.")
-                               .arg(QString(column.title).replace('\n', ' '))
-                               .arg(column.most)
-                               .arg(typed));
+    const QString title = QString(column.title).replace('\n', ' ');
+    const NumberRange range{
+        0, column.most,
+        EntryModel::tr("“%1” is a number from 0 to %2").arg(title, shownNumber(column.most))};
+    const double number = text.contains(':') ? typedSeconds(text, range) : typedReal(text, range);
+    if (number == 0 && !column.hasZero)
+        throw RefusedEntry(
+            EntryModel::tr("“%1” is more than 0. An emptied cell stands for none.").arg(title));
     return number;
 }
 
@@ -82,10 +79,11 @@ QVariant EntryModel::data(const QModelIndex& index, int role) const {
         return {};
     const EntryColumn& column = m_columns[static_cast<std::size_t>(index.column())];
     const double value = valueAt(index);
+    const bool isEmpty = value == 0 && !column.hasZero;
     if (role == Qt::DisplayRole)
-        return value == 0 ? QString() : QString::fromStdString(hundredthsText(value));
+        return isEmpty ? QString() : shownHundredths(value);
     if (role == Qt::EditRole)
-        return value == 0 ? QString() : QString::fromStdString(plainText(value));
+        return isEmpty ? QString() : shownNumber(value);
     if (role == Qt::TextAlignmentRole)
         return QVariant(Qt::AlignRight | Qt::AlignVCenter);
     if (role == Qt::ToolTipRole)
@@ -122,7 +120,7 @@ bool EntryModel::setData(const QModelIndex& index, const QVariant& value, int ro
             emit entered(index.row(), index.column(), number);
         return true;
     } catch (const RefusedEntry& refusal) {
-        emit refused(QString::fromStdString(refusal.what()));
+        emit refused(refusal.reason());
         return false;
     }
 }
@@ -134,8 +132,10 @@ QStringList numbered(const QString& title, std::size_t count) {
     return titles;
 }
 
-EntryTable::EntryTable(EntryModel& model, QWidget* parent) : EditOrder(parent) {
+EntryTable::EntryTable(EntryModel& model, QWidget* parent)
+    : EditOrder(parent), m_cells(new CellDelegate(*this)) {
     setModel(&model);
+    connect(&model, &EntryModel::refused, m_cells, &CellDelegate::refuse);
     setEditTriggers(QAbstractItemView::AnyKeyPressed | QAbstractItemView::DoubleClicked |
                     QAbstractItemView::EditKeyPressed);
     setWordWrap(false);
@@ -159,6 +159,10 @@ void EntryTable::closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint
     if (hint == QAbstractItemDelegate::SubmitModelCache && currentIndex().isValid() &&
         currentIndex().row() + 1 < model()->rowCount())
         setCurrentIndex(currentIndex().siblingAtRow(currentIndex().row() + 1));
+}
+
+void EntryTable::refuse(const QString& reason) {
+    m_cells->refuse(reason);
 }
 
 void EntryTable::emptyCurrent() {

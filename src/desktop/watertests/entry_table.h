@@ -8,16 +8,19 @@
 
 namespace kavela::desktop {
 
+class CellDelegate;
+
 /// A column of numbers that a coach types.
 struct EntryColumn {
     QString title;
     QString tip;
     double most = 0; ///< a greater number is refused; 0 in a column that is only read
     bool isReadOnly = false;
+    bool hasZero = false; ///< 0 is a value here and not the want of one
 };
 
 /// Rows of numbers, none of them negative. 0 stands for "not entered" and is shown as an empty
-/// cell.
+/// cell, unless the column says otherwise.
 class EntryModel : public QAbstractTableModel {
     Q_OBJECT
 
@@ -62,10 +65,15 @@ public:
     explicit EntryTable(EntryModel& model, QWidget* parent = nullptr);
 
     void emptyCurrent();
+    /// What is just being entered cannot be taken.
+    void refuse(const QString& reason);
     [[nodiscard]] QSize sizeHint() const override;
 
 protected:
     void closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint hint) override;
+
+private:
+    CellDelegate* m_cells;
 };
 
 } // namespace kavela::desktop

@@ -1,6 +1,6 @@
 #include "desktop/watertests/result_table_model.h"
 
-#include "common/number_text.h"
+#include "desktop/shell/shown_number.h"
 #include "planning/test_table.h"
 
 namespace kavela::desktop {
@@ -49,8 +49,7 @@ QVariant ResultTableModel::data(const QModelIndex& index, int role) const {
     if (role == Qt::DisplayRole) {
         bool isNumber = false;
         const double value = text.toDouble(&isNumber);
-        return isNumber && index.column() > 1 ? QString::fromStdString(hundredthsText(value))
-                                              : text;
+        return isNumber && index.column() > 1 ? shownHundredths(value) : text;
     }
     if (role == Qt::TextAlignmentRole && index.column() > 1)
         return QVariant(Qt::AlignRight | Qt::AlignVCenter);

@@ -1,18 +1,19 @@
 #include "desktop/watertests/section_form.h"
 
+#include "desktop/shell/number_box.h"
+#include "desktop/shell/shown_number.h"
 #include "desktop/shell/theme.h"
 #include "desktop/watertests/eight_texts.h"
 #include "planning/test_texts.h"
 
-#include <QDoubleSpinBox>
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
 #include <QSignalBlocker>
-#include <QSpinBox>
 
 #include <algorithm>
+#include <utility>
 
 namespace kavela::desktop {
 
@@ -76,9 +77,9 @@ QLabel* quietLabel(const char* name) {
 SectionForm::SectionForm(QWidget* parent)
     : QWidget(parent),
       m_setUp(new QWidget),
-      m_laps(new QSpinBox),
-      m_distance(new QDoubleSpinBox),
-      m_turnLimit(new QDoubleSpinBox),
+      m_laps(new WholeBox),
+      m_distance(new NumberBox),
+      m_turnLimit(new NumberBox),
       m_description(quietLabel("description")),
       m_sections(sectionColumns()),
       m_turns(turnColumns()),
@@ -150,19 +151,17 @@ void SectionForm::layOut() {
 }
 
 void SectionForm::connectParts() {
-    connect(m_laps, &QSpinBox::valueChanged, this, [this](int laps) {
+    connect(m_laps, &WholeBox::valueChanged, this, [this](int laps) {
         emit edited(tr("number of laps"), [laps](onWaterTest& test) { test.laps = laps; });
     });
-    connect(m_distance, &QDoubleSpinBox::valueChanged, this, [this](double metres) {
+    connect(m_distance, &NumberBox::valueChanged, this, [this](double metres) {
         emit edited(tr("distance"), [metres](onWaterTest& test) { setDistance(test, metres); });
     });
-    connect(m_turnLimit, &QDoubleSpinBox::valueChanged, this, [this](double limit) {
+    connect(m_turnLimit, &NumberBox::valueChanged, this, [this](double limit) {
         emit edited(tr("turn limit"), [limit](onWaterTest& test) { test.turnLimit = limit; });
     });
     connect(&m_sections, &EntryModel::entered, this, &SectionForm::enterSection);
     connect(&m_turns, &EntryModel::entered, this, &SectionForm::enterTurn);
-    connect(&m_sections, &EntryModel::refused, this, &SectionForm::refused);
-    connect(&m_turns, &EntryModel::refused, this, &SectionForm::refused);
 }
 
 void SectionForm::enterSection(int row, int column, double value) {
@@ -170,8 +169,8 @@ void SectionForm::enterSection(int row, int column, double value) {
     SectionEntry& section = sections[static_cast<std::size_t>(row)];
     section.*sectionMember(column) = value;
     if (section.time > 0 && section.straightTime > section.time) {
-        emit refused(tr("The time in straight line is part of the time of its section: it cannot "
-                        "be longer."));
+        m_sectionTable->refuse(tr("The time in straight line is part of the time of its section: "
+                                  "it cannot be longer."));
         return;
     }
     emit edited(tr("section %1").arg(row + 1),
@@ -193,9 +192,9 @@ void SectionForm::show(const onWaterTest& test) {
     const bool isSprint = test.kind == water_test::Sprint;
     const QSignalBlocker quiet[] = {QSignalBlocker(m_laps), QSignalBlocker(m_distance),
                                     QSignalBlocker(m_turnLimit)};
-    m_laps->setValue(static_cast<int>(plannedSections(test)));
-    m_distance->setValue(test.distance);
-    m_turnLimit->setValue(test.turnLimit);
+    m_laps->showValue(static_cast<int>(plannedSections(test)));
+    m_distance->showValue(test.distance);
+    m_turnLimit->showValue(test.turnLimit);
     m_setUp->setVisible(!isSprint);
     m_turnTitle->setVisible(!isSprint);
     m_turnTable->setVisible(!isSprint);
@@ -228,7 +227,13 @@ void SectionForm::showSections(const onWaterTest& test) {
     const QStringList titles =
         numbered(test.kind == water_test::Sprint ? tr("Stretch %1") : tr("Lap %1"), rows.size());
     m_sections.show(std::move(rows), titles);
-    QString total = tr("Total: %1 s").arg(shownNumber(test.test.totalTime));
+    const auto timed = std::ranges::count_if(
+        m_shown, [](const SectionEntry& section) { return section.time > 0; });
+    const bool isWhole = std::cmp_greater_equal(timed, plannedSections(test));
+    QString total =
+        isWhole || timed == 0
+            ? tr("Total: %1 s").arg(hundredthsOrDash(test.test.totalTime))
+            : tr("Total: – · %1 of %2 sections are timed").arg(timed).arg(plannedSections(test));
     if (isRecorded)
         total += tr(" · %1 strokes recorded").arg(test.test.strokeDate.size());
     m_total->setText(total);

@@ -7,11 +7,12 @@
 
 #include <functional>
 
-class QDoubleSpinBox;
 class QLabel;
-class QSpinBox;
 
 namespace kavela::desktop {
+
+class NumberBox;
+class WholeBox;
 
 /// A lap test or a sprint as it was set up, its sections and its turns, to be typed.
 class SectionForm : public QWidget {
@@ -26,7 +27,6 @@ public:
 signals:
     /// `what` names the step of the undo stack.
     void edited(const QString& what, const std::function<void(onWaterTest&)>& change);
-    void refused(const QString& reason);
 
 private:
     void makeSetUp();
@@ -38,9 +38,9 @@ private:
     void showSections(const onWaterTest& test);
 
     QWidget* m_setUp;
-    QSpinBox* m_laps;
-    QDoubleSpinBox* m_distance;
-    QDoubleSpinBox* m_turnLimit;
+    WholeBox* m_laps;
+    NumberBox* m_distance;
+    NumberBox* m_turnLimit;
     QLabel* m_description;
     EntryModel m_sections;
     EntryModel m_turns;

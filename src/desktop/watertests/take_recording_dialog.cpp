@@ -1,19 +1,18 @@
 #include "desktop/watertests/take_recording_dialog.h"
 
 #include "desktop/charts/series_chart.h"
+#include "desktop/shell/number_box.h"
 #include "desktop/shell/theme.h"
 #include "desktop/watertests/entry_table.h"
 #include "planning/test_from_motion.h"
 
 #include <QComboBox>
 #include <QDialogButtonBox>
-#include <QDoubleSpinBox>
 #include <QFormLayout>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QSpinBox>
 
 #include <algorithm>
 #include <functional>
@@ -25,8 +24,8 @@ namespace {
 /// The curve shows every fifth sample, ten a second: more would not be seen.
 constexpr std::size_t CurveStep = 5;
 
-QDoubleSpinBox* numberBox(double low, double high, double step, const QString& suffix) {
-    auto* box = new QDoubleSpinBox;
+NumberBox* numberBox(double low, double high, double step, const QString& suffix) {
+    auto* box = new NumberBox;
     box->setRange(low, high);
     box->setSingleStep(step);
     box->setSuffix(suffix);
@@ -38,18 +37,19 @@ QDoubleSpinBox* numberBox(double low, double high, double step, const QString& s
 
 TakeRecordingDialog::TakeRecordingDialog(bmrawdata_v5 session, const std::string& athlete,
                                          QWidget* parent)
-    : QDialog(parent),
+    : EntryDialog(parent),
       m_session(std::move(session)),
       m_kind(new QComboBox),
       m_athlete(new QLineEdit),
       m_location(new QLineEdit),
-      m_laps(new QSpinBox),
+      m_laps(new WholeBox),
       m_distance(numberBox(1, 1000, 0.5, tr(" m"))),
       m_turnLimit(numberBox(0.05, 10, 0.05, tr(" rad/s"))),
-      m_marks(new EntryModel(
-          {{tr("Ends at\n(s)"), tr("Seconds from the beginning of the recording"), 100000},
-           {tr("Time\n(s)"), tr("Length of the section"), 0, true}},
-          this)),
+      m_marks(
+          new EntryModel({{tr("Ends at\n(s)"), tr("Seconds from the beginning of the recording"),
+                           100000, false, true},
+                          {tr("Time\n(s)"), tr("Length of the section"), 0, true}},
+                         this)),
       m_table(new EntryTable(*m_marks)),
       m_chart(new SeriesChart),
       m_found(new QLabel),
@@ -124,14 +124,10 @@ void TakeRecordingDialog::layOut() {
 
 void TakeRecordingDialog::connectParts() {
     connect(m_kind, &QComboBox::currentIndexChanged, this, &TakeRecordingDialog::suggest);
-    connect(m_laps, &QSpinBox::valueChanged, this, &TakeRecordingDialog::suggest);
-    connect(m_turnLimit, &QDoubleSpinBox::valueChanged, this, &TakeRecordingDialog::analyse);
+    connect(m_laps, &WholeBox::valueChanged, this, &TakeRecordingDialog::suggest);
+    connect(m_turnLimit, &NumberBox::valueChanged, this, &TakeRecordingDialog::analyse);
     connect(m_marks, &EntryModel::entered, this,
             [this](int row, int /*column*/, double seconds) { enterMark(row, seconds); });
-    connect(m_marks, &EntryModel::refused, this, [this](const QString& reason) {
-        m_fault->setText(reason);
-        m_fault->show();
-    });
 }
 
 void TakeRecordingDialog::analyse() {
@@ -195,10 +191,25 @@ void TakeRecordingDialog::showMarks() {
         std::ranges::adjacent_find(m_moments, std::greater_equal()) == m_moments.end();
     m_fault->setText(m_moments.size() < 2 ? tr("No such test was found in the recording.")
                      : !isAscending       ? tr("Each mark has to be later than the one before.")
-                                          : QString());
+                                          : missingText());
     m_fault->setVisible(!m_fault->text().isEmpty());
     m_take->setEnabled(isAscending && m_moments.size() >= 2);
     showCurve();
+}
+
+/// Says at once what the recording does not hold of the test.
+QString TakeRecordingDialog::missingText() const {
+    const std::size_t found = m_moments.size() - 1;
+    const auto laps = static_cast<std::size_t>(m_laps->value());
+    if (kind() == TestKind::Lap && found < laps)
+        return tr("Laps found in the recording: %1 of %2. What is taken in has no more of them.")
+            .arg(found)
+            .arg(laps);
+    if (kind() == TestKind::Eight && found < EightSplits)
+        return tr("Eights found in the recording: %1 of %2. What is taken in has no more of them.")
+            .arg(found)
+            .arg(EightSplits);
+    return {};
 }
 
 void TakeRecordingDialog::showCurve() {

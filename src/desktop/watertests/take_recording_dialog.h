@@ -1,28 +1,27 @@
 #pragma once
 
 #include "boatmotion/strokes/motion_analysis.h"
+#include "desktop/shell/entry_dialog.h"
 #include "desktop/watertests/tests_document.h"
-
-#include <QDialog>
 
 #include <vector>
 
 class QComboBox;
-class QDoubleSpinBox;
 class QLabel;
 class QLineEdit;
 class QPushButton;
-class QSpinBox;
 
 namespace kavela::desktop {
 
+class NumberBox;
+class WholeBox;
 class EntryModel;
 class EntryTable;
 class SeriesChart;
 
 /// Which part of a recording is which test: its marks are proposed from the strokes and turns, and
 /// can be changed.
-class TakeRecordingDialog : public QDialog {
+class TakeRecordingDialog : public EntryDialog {
     Q_OBJECT
 
 public:
@@ -41,6 +40,7 @@ private:
     void analyse();
     void suggest();
     void showMarks();
+    [[nodiscard]] QString missingText() const;
     void showCurve();
     void enterMark(int row, double seconds);
     [[nodiscard]] TestKind kind() const;
@@ -53,9 +53,9 @@ private:
     QComboBox* m_kind;
     QLineEdit* m_athlete;
     QLineEdit* m_location;
-    QSpinBox* m_laps;
-    QDoubleSpinBox* m_distance;
-    QDoubleSpinBox* m_turnLimit;
+    WholeBox* m_laps;
+    NumberBox* m_distance;
+    NumberBox* m_turnLimit;
     EntryModel* m_marks;
     EntryTable* m_table;
     SeriesChart* m_chart;

@@ -98,9 +98,6 @@ void TestsWindow::connectParts() {
     connect(m_list, &TestListPanel::chosen, this, &TestsWindow::showTests);
     connect(m_list, &TestListPanel::listChanged, this, &TestsWindow::showTable);
     connect(m_document.get(), &TestsDocument::changed, this, &TestsWindow::showTests);
-    connect(
-        m_values, &ValuesPanel::refused, this, [this](const QString& reason) { tell({}, reason); },
-        Qt::QueuedConnection);
     connect(m_tableView, &QTableView::doubleClicked, this, [this](const QModelIndex& index) {
         m_list->choose(m_list->listed()[static_cast<std::size_t>(index.row())]);
         showPage(ChartPage);

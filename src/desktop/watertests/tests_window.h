@@ -25,7 +25,7 @@ public:
     ~TestsWindow() override;
 
     /// False, after an alert, when the file cannot be opened.
-    [[nodiscard]] bool open(const QString& path);
+    [[nodiscard]] bool open(const QString& path) override;
     /// A new file; the path is a folder, or a file that saving will propose.
     void startNew(const QString& path);
 

@@ -74,8 +74,6 @@ ValuesPanel::ValuesPanel(TestsDocument& document, QWidget* parent)
         if (m_id)
             m_document.editEight(*m_id, what, change);
     });
-    connect(m_sections, &SectionForm::refused, this, &ValuesPanel::refused);
-    connect(m_eight, &EightForm::refused, this, &ValuesPanel::refused);
     reload();
 }
 

@@ -30,9 +30,6 @@ public:
     void commit();
     void focusAthlete();
 
-signals:
-    void refused(const QString& reason);
-
 private:
     void connectFacts();
     void reload();

@@ -104,7 +104,6 @@ void BodyPanel::connectPart(Section section) {
                     part.measures->setValue(season, place, column, value);
                 });
             });
-    connect(model, &MeasureModel::refused, this, &BodyPanel::refused);
     connect(part.chart, &SeriesChart::pointActivated, this, [this, section](int series, int index) {
         const auto& points = m_parts[section].chart->content().series;
         const double x =

@@ -1,7 +1,7 @@
 #include "desktop/planning/body/measure_model.h"
 
 #include "desktop/planning/body/typed_measures.h"
-#include "desktop/team/typed_values.h"
+#include "desktop/shell/typed_number.h"
 
 #include <algorithm>
 #include <utility>
@@ -120,7 +120,7 @@ bool MeasureModel::setData(const QModelIndex& index, const QVariant& value, int 
                             typedMeasure(value.toString(), column(index).most));
         return true;
     } catch (const RefusedEntry& refusal) {
-        emit refused(QString::fromStdString(refusal.what()));
+        emit refused(refusal.reason());
         return false;
     }
 }

@@ -1,5 +1,7 @@
 #include "desktop/planning/body/measure_table.h"
 
+#include "desktop/shell/cell_delegate.h"
+#include "desktop/shell/choose_alone.h"
 #include "desktop/shell/edit_order.h"
 #include "desktop/shell/theme.h"
 
@@ -55,6 +57,7 @@ MeasureTable::MeasureTable(std::vector<MeasureColumn> columns, const QString& ad
 
 void MeasureTable::makeView() {
     m_view->setModel(&m_model);
+    connect(&m_model, &MeasureModel::refused, new CellDelegate(*m_view), &CellDelegate::refuse);
     m_view->setSelectionBehavior(QAbstractItemView::SelectRows);
     m_view->setShowGrid(false);
     m_view->setAlternatingRowColors(true);
@@ -97,7 +100,7 @@ void MeasureTable::show(std::vector<MeasureRow> rows) {
         row = std::min(rowBefore, m_model.rowCount() - 1);
     if (const QModelIndex index = m_model.index(row, column);
         index.isValid() && index != m_view->currentIndex())
-        m_view->setCurrentIndex(index);
+        chooseAlone(*m_view, index);
     enable();
 }
 
@@ -118,7 +121,7 @@ std::optional<std::size_t> MeasureTable::current() const {
 
 void MeasureTable::choose(std::size_t place) {
     const QModelIndex index = m_model.index(m_model.rowOf(place), MeasureModel::DateColumn);
-    m_view->setCurrentIndex(index);
+    chooseAlone(*m_view, index);
     m_view->scrollTo(index);
 }
 
@@ -128,7 +131,7 @@ void MeasureTable::edit(std::size_t place) {
     const QModelIndex index =
         m_model.index(m_model.rowOf(place), hasValue ? 1 : MeasureModel::DateColumn);
     m_view->setFocus();
-    m_view->setCurrentIndex(index);
+    chooseAlone(*m_view, index);
     m_view->edit(index);
 }
 

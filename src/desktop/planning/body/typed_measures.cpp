@@ -1,10 +1,10 @@
 #include "desktop/planning/body/typed_measures.h"
 
 #include "common/number_text.h"
+#include "desktop/shell/shown_number.h"
+#include "desktop/shell/typed_number.h"
 #include "desktop/team/typed_values.h"
 #include "planning/calendar_day.h"
-
-#include <QLocale>
 
 #include <cmath>
 
@@ -28,27 +28,13 @@ ReferenceDate typedDate(const QString& text, ReferenceDate before) {
 }
 
 double typedMeasure(const QString& text, double most) {
-    const QString typed = text.trimmed();
-    if (typed.isEmpty())
-        return 0;
-    bool isNumber = false;
-    const double value = QLocale::c().toDouble(QString(typed).replace(',', '.'), &isNumber);
-    if (!isNumber || !(value >= 0 && value <= most))
-        throw RefusedEntry(tr("Expected is a number from 0 to %1, such as 72.4; “%2” is none.")
-                               .arg(measureEdited(most), typed));
-    return value;
+    return typedRealOrNone(text, {0, most,
+                                  tr("Expected is a number from 0 to %1, such as %2")
+                                      .arg(shownNumber(most), shownNumber(72.4))});
 }
 
 std::int64_t typedCount(const QString& text, std::int64_t most) {
-    const QString typed = text.trimmed();
-    if (typed.isEmpty())
-        return 0;
-    bool isNumber = false;
-    const qlonglong count = QLocale::c().toLongLong(typed, &isNumber);
-    if (!isNumber || count < 0 || count > most)
-        throw RefusedEntry(
-            tr("Expected is a whole number from 0 to %1; “%2” is none.").arg(most).arg(typed));
-    return count;
+    return typedWholeOrNone(text, {0, static_cast<double>(most), {}});
 }
 
 QString measureShown(double value) {
@@ -56,10 +42,7 @@ QString measureShown(double value) {
 }
 
 QString measureEdited(double value) {
-    if (value == 0)
-        return {};
-    return QString::fromStdString(std::abs(value) < LongestPlain ? plainText(value)
-                                                                 : shortestText(value));
+    return value == 0 ? QString() : shownNumber(value);
 }
 
 QString oddityOf(ReferenceDate date) {

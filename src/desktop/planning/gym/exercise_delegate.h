@@ -1,16 +1,17 @@
 #pragma once
 
+#include "desktop/shell/cell_delegate.h"
+
 #include <QStringList>
-#include <QStyledItemDelegate>
 
 namespace kavela::desktop {
 
-/// Completes the name of an exercise from those that were used before.
-class ExerciseDelegate : public QStyledItemDelegate {
+/// The cells of a gym session. Completes the name of an exercise from those that were used before.
+class ExerciseDelegate : public CellDelegate {
     Q_OBJECT
 
 public:
-    using QStyledItemDelegate::QStyledItemDelegate;
+    using CellDelegate::CellDelegate;
 
     void setNames(const QStringList& names) { m_names = names; }
 

@@ -162,7 +162,7 @@ bool ExerciseModel::setData(const QModelIndex& index, const QVariant& value, int
         setCell(index.row(), index.column(), typed);
         return true;
     } catch (const RefusedEntry& refusal) {
-        emit refused(QString::fromStdString(refusal.what()));
+        emit refused(refusal.reason());
         return false;
     }
 }

@@ -42,8 +42,8 @@ QString estimateText(double kilograms) {
 ExerciseTable::ExerciseTable(const DiagnosticLog& log, QWidget* parent)
     : QWidget(parent),
       m_model(log),
-      m_delegate(new ExerciseDelegate(this)),
       m_view(new EditOrder<QTableView>),
+      m_delegate(new ExerciseDelegate(*m_view)),
       m_empty(new QLabel),
       m_stack(new QStackedWidget),
       m_add(new QPushButton(tr("Add exercise"))),
@@ -72,7 +72,7 @@ ExerciseTable::ExerciseTable(const DiagnosticLog& log, QWidget* parent)
 void ExerciseTable::makeView() {
     m_view->setObjectName("exercises");
     m_view->setModel(&m_model);
-    m_view->setItemDelegateForColumn(ExerciseModel::ExerciseColumn, m_delegate);
+    connect(&m_model, &ExerciseModel::refused, m_delegate, &CellDelegate::refuse);
     m_view->setSelectionMode(QAbstractItemView::SingleSelection);
     m_view->setShowGrid(false);
     m_view->setAlternatingRowColors(true);

@@ -48,8 +48,8 @@ private:
     [[nodiscard]] QString totalsText(const gymdataplanning_v1& session) const;
 
     ExerciseModel m_model;
-    ExerciseDelegate* m_delegate;
     QTableView* m_view;
+    ExerciseDelegate* m_delegate;
     QLabel* m_empty;
     QStackedWidget* m_stack;
     QPushButton* m_add;

@@ -112,7 +112,6 @@ void GymPanel::makeSessions() {
                      [&](yearsplannings_v6& season) { removePlaces(season.gymdata, places); });
             });
     connect(m_sessions, &MeasureTable::currentChanged, this, &GymPanel::showExercises);
-    connect(&m_sessions->model(), &MeasureModel::refused, this, &GymPanel::refused);
     connect(&m_sessions->model(), &MeasureModel::dateTyped, this,
             [this](std::size_t place, ReferenceDate date) {
                 edit(tr("date"), [&](yearsplannings_v6& season) {
@@ -124,7 +123,6 @@ void GymPanel::makeSessions() {
 
 void GymPanel::connectExercises() {
     connect(m_exercises, &ExerciseTable::edited, this, &GymPanel::editSession);
-    connect(&m_exercises->model(), &ExerciseModel::refused, this, &GymPanel::refused);
     connect(m_exercises, &ExerciseTable::exerciseChosen, this, &GymPanel::chooseExercise);
     connect(m_names, &QComboBox::currentIndexChanged, this, &GymPanel::showHistory);
 }

@@ -1,9 +1,10 @@
 #include "desktop/planning/intervals/interval_form.h"
 
-#include "common/number_text.h"
 #include "desktop/planning/intervals/interval_texts.h"
+#include "desktop/shell/refused_entry.h"
+#include "desktop/shell/shown_number.h"
 #include "desktop/shell/theme.h"
-#include "desktop/team/typed_values.h"
+#include "desktop/shell/typed_number.h"
 #include "planning/training_categories.h"
 
 #include <QCompleter>
@@ -121,9 +122,7 @@ void IntervalForm::addAmount(QFormLayout& form, const char* name, const QString&
                              double Session::*amount) {
     add(
         form, name, label,
-        [amount](const Session& session) {
-            return QString::fromStdString(shortestText(session.*amount));
-        },
+        [amount](const Session& session) { return shownNumber(session.*amount); },
         [amount](const QString& typed) -> Change {
             return
                 [amount, entry = typedAmount(typed)](Session& session) { session.*amount = entry; };
@@ -156,10 +155,12 @@ void IntervalForm::take(const Field& field) {
         return;
     try {
         emit changed(field.typed(field.edit->text()));
+        acceptEntry(*field.edit);
+        field.edit->setText(field.shown(m_session));
     } catch (const RefusedEntry& refusal) {
-        emit refused(QString::fromStdString(refusal.what()));
+        refuseEntry(*field.edit, refusal.reason(),
+                    [this, &field] { field.edit->setText(field.shown(m_session)); });
     }
-    field.edit->setText(field.shown(m_session));
 }
 
 void IntervalForm::takeDescription() {

@@ -30,7 +30,6 @@ public:
 
 signals:
     void changed(const kavela::desktop::IntervalForm::Change& change);
-    void refused(const QString& reason);
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;

@@ -53,7 +53,6 @@ IntervalsPanel::IntervalsPanel(PlanningDocument& document, QWidget* parent)
     whole->addWidget(splitter);
     makeKeys();
     connect(&document, &PlanningDocument::changed, this, &IntervalsPanel::invalidate);
-    connect(m_form, &IntervalForm::refused, this, &IntervalsPanel::refused);
     connect(m_form, &IntervalForm::changed, this, [this](const IntervalForm::Change& change) {
         if (const auto at = current())
             m_document.edit(tr("interval session"),

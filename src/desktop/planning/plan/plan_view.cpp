@@ -100,7 +100,6 @@ void PlanView::connectParts() {
     connect(m_grid, &WeekGrid::moved, this, &PlanView::moveSession);
     connect(m_grid, &WeekGrid::activated, this,
             [this] { m_grid->session() ? editSession() : addSession(); });
-    connect(m_form, &WeekForm::refused, this, &PlanView::refused);
     connect(m_form, &WeekForm::edited, this,
             [this](const QString& what, const WeekForm::Change& change, bool wholeBlock) {
                 const WeekBlock block =
@@ -111,7 +110,6 @@ void PlanView::connectParts() {
                 });
             });
     connect(m_scope, &QComboBox::currentIndexChanged, this, &PlanView::showTotals);
-    connect(m_totals, &TotalsTable::refused, this, &PlanView::refused);
     connect(m_totals, &TotalsTable::sessionsTyped, this,
             [this](std::size_t category, std::int64_t sessions) {
                 editWeek(tr("planned sessions"), [=](microsplanning_v5& week) {

@@ -2,6 +2,7 @@
 
 #include "desktop/planning/plan/week_texts.h"
 #include "desktop/shell/fault_label.h"
+#include "desktop/shell/number_box.h"
 #include "desktop/shell/theme.h"
 #include "planning/calendar_day.h"
 #include "planning/training_categories.h"
@@ -12,7 +13,6 @@
 #include <QCompleter>
 #include <QDateTime>
 #include <QDialogButtonBox>
-#include <QDoubleSpinBox>
 #include <QFormLayout>
 #include <QGroupBox>
 #include <QLineEdit>
@@ -62,7 +62,7 @@ QLineEdit* lineWith(const QStringList& offered) {
 
 SessionDialog::SessionDialog(const sessioninmicro_v5& session, sys_days firstDay,
                              const QStringList& titles, const QStringList& places, QWidget* parent)
-    : QDialog(parent),
+    : EntryDialog(parent),
       m_session(session),
       m_firstDay(firstDay),
       m_day(new QComboBox),
@@ -130,7 +130,7 @@ void SessionDialog::makeValues() {
             form->setSpacing(theme::SmallSpacing);
             groups->addWidget(group);
         }
-        auto* value = new QDoubleSpinBox;
+        auto* value = new NumberBox;
         const double present = i < m_session.data.size() ? m_session.data[i] : 0;
         value->setDecimals(1);
         value->setRange(std::min(0.0, present), std::max(MostOfCategory, present));

@@ -1,25 +1,24 @@
 #pragma once
 
+#include "desktop/shell/entry_dialog.h"
 #include "planning/planning_records.h"
-
-#include <QDialog>
 
 #include <chrono>
 
 class QCheckBox;
 class QComboBox;
-class QDoubleSpinBox;
 class QLineEdit;
 class QPlainTextEdit;
 class QTimeEdit;
 
 namespace kavela::desktop {
 
+class NumberBox;
 class FaultLabel;
 
 /// A training session: when, where, what, and how much of each training category. What a file holds
 /// beyond the fields stays as it is.
-class SessionDialog : public QDialog {
+class SessionDialog : public EntryDialog {
     Q_OBJECT
 
 public:
@@ -47,7 +46,7 @@ private:
     QLineEdit* m_place;
     QPlainTextEdit* m_description;
     FaultLabel* m_faults;
-    std::vector<QDoubleSpinBox*> m_values;
+    std::vector<NumberBox*> m_values;
     int m_shownDay = 0; ///< as the dialog opened, to tell what the coach changed
     QString m_shownZone;
 };

@@ -1,10 +1,11 @@
 #include "desktop/planning/plan/totals_table.h"
 
+#include "desktop/shell/cell_delegate.h"
+#include "desktop/shell/shown_number.h"
 #include "desktop/shell/theme.h"
+#include "desktop/shell/typed_number.h"
 
 #include <QHeaderView>
-
-#include <cmath>
 
 namespace kavela::desktop {
 
@@ -12,9 +13,11 @@ namespace {
 
 constexpr double Behind = 90; ///< percent of the plan
 constexpr double Beyond = 110;
+constexpr double MostSessions = 999;
+constexpr double MostQuantity = 1e6; ///< in whatever unit
 
 QString numberText(double number) {
-    return number == 0 ? QString() : QString::number(number, 'g', 8);
+    return number == 0 ? QString() : shownNumbers(QString::number(number, 'g', 8));
 }
 
 /// Says in sign and number how much of the plan is in the sessions.
@@ -23,12 +26,12 @@ QString doneText(const CategoryTotal& total) {
         return total.quantity > 0 ? TotalsTable::tr("not planned") : QString();
     const double percent = total.percentDone();
     const QString mark = percent < Behind ? "▼ " : percent > Beyond ? "▲ " : "";
-    return mark + QString::number(percent, 'f', 0) + " %";
+    return mark + shownNumber(percent, 0) + " %";
 }
 
 } // namespace
 
-TotalsTable::TotalsTable(QWidget* parent) : EditOrder(parent) {
+TotalsTable::TotalsTable(QWidget* parent) : EditOrder(parent), m_cells(new CellDelegate(*this)) {
     setColumnCount(ColumnCount);
     setHorizontalHeaderLabels({tr("Category"), tr("Sessions"), tr("planned"), tr("Quantity"),
                                tr("planned"), tr("In the sessions")});
@@ -77,23 +80,15 @@ void TotalsTable::addRow(int row, const CategoryTotal& total, bool canBeTyped) {
 
 void TotalsTable::take(const QTableWidgetItem& item) {
     const auto category = static_cast<std::size_t>(item.row());
-    const QString typed = item.text().trimmed().replace(',', '.');
-    bool isNumber = true;
-    if (item.column() == PlannedSessionsColumn) {
-        const qlonglong sessions = typed.isEmpty() ? 0 : typed.toLongLong(&isNumber);
-        if (isNumber && sessions >= 0) {
-            emit sessionsTyped(category, sessions);
-            return;
-        }
-    } else {
-        const double quantity = typed.isEmpty() ? 0 : typed.toDouble(&isNumber);
-        if (isNumber && std::isfinite(quantity) && quantity >= 0) {
-            emit quantityTyped(category, quantity);
-            return;
-        }
+    try {
+        if (item.column() == PlannedSessionsColumn)
+            emit sessionsTyped(category, typedWholeOrNone(item.text(), {0, MostSessions, {}}));
+        else
+            emit quantityTyped(category, typedRealOrNone(item.text(), {0, MostQuantity, {}}));
+    } catch (const RefusedEntry& refusal) {
+        m_cells->refuse(refusal.reason());
+        setTotals(m_totals, true);
     }
-    setTotals(m_totals, true);
-    emit refused(tr("“%1” is no number from 0 upwards.").arg(typed));
 }
 
 } // namespace kavela::desktop

@@ -7,6 +7,8 @@
 
 namespace kavela::desktop {
 
+class CellDelegate;
+
 /// Totals per training category: what the sessions add up to, beside what was planned. The planned
 /// columns of a single week can be typed in.
 class TotalsTable : public EditOrder<QTableWidget> {
@@ -30,12 +32,12 @@ public:
 signals:
     void sessionsTyped(std::size_t category, std::int64_t sessions);
     void quantityTyped(std::size_t category, double quantity);
-    void refused(const QString& reason);
 
 private:
     void addRow(int row, const CategoryTotal& total, bool canBeTyped);
     void take(const QTableWidgetItem& item);
 
+    CellDelegate* m_cells;
     std::vector<CategoryTotal> m_totals;
     bool m_isFilling = false;
 };

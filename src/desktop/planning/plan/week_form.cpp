@@ -2,12 +2,13 @@
 
 #include "desktop/planning/plan/week_texts.h"
 #include "desktop/shell/fault_label.h"
+#include "desktop/shell/number_box.h"
+#include "desktop/shell/refused_entry.h"
 #include "desktop/shell/theme.h"
 #include "planning/calendar_day.h"
 #include "planning/health_states.h"
 
 #include <QComboBox>
-#include <QDoubleSpinBox>
 #include <QEvent>
 #include <QFormLayout>
 #include <QLabel>
@@ -169,15 +170,16 @@ void WeekForm::addDates(QFormLayout& form, const QString& label, const char* nam
         const std::vector<ReferenceDate>& before = m_week.testdata.*field;
         if (!line->isModified() || line->text() == datesText(before))
             return;
-        line->setModified(false);
         const auto dates = datesOf(line->text(), before);
         if (!dates) {
-            const QString typed = line->text();
-            line->setText(datesText(before));
-            emit refused(
-                tr("“%1” are no dates. Write them as 2026-03-10, with commas between.").arg(typed));
+            refuseEntry(*line,
+                        tr("“%1” are no dates. Write them as 2026-03-10, with commas between.")
+                            .arg(line->text()),
+                        [=] { line->setText(datesText(before)); });
             return;
         }
+        line->setModified(false);
+        acceptEntry(*line);
         emit edited(
             tr("dates of tests"), [=](microsplanning_v5& week) { week.testdata.*field = *dates; },
             false);
@@ -192,25 +194,27 @@ void WeekForm::addDates(QFormLayout& form, const QString& label, const char* nam
 }
 
 void WeekForm::addLoad(QFormLayout& form) {
-    auto* load = new QDoubleSpinBox;
+    auto* load = new NumberBox;
     load->setObjectName("load");
     load->setDecimals(1);
     load->setSuffix(" %");
     load->setSingleStep(5);
     load->setKeyboardTracking(false);
     const auto write = [=, this] {
+        if (load->hasAcceptableInput())
+            load->interpretText(); // what was typed counts before the box is left, too
         const double shown = QString::number(m_week.percentaje, 'f', 1).toDouble();
         if (const double typed = load->value(); typed != shown)
             emit edited(
                 tr("load"), [=](microsplanning_v5& week) { week.percentaje = typed; }, true);
     };
-    connect(load, &QDoubleSpinBox::valueChanged, this, write);
+    connect(load, &NumberBox::valueChanged, this, write);
     form.addRow(tr("Load"), load);
     m_fields.push_back({[=](const microsplanning_v5& week) {
                             const QSignalBlocker quiet(load);
                             load->setRange(std::min(0.0, week.percentaje),
                                            std::max(MostLoad, week.percentaje));
-                            load->setValue(week.percentaje);
+                            load->showValue(week.percentaje);
                         },
                         write, load});
 }

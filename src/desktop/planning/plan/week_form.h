@@ -8,7 +8,6 @@
 #include <functional>
 
 class QComboBox;
-class QDoubleSpinBox;
 class QFormLayout;
 class QLabel;
 class QLineEdit;
@@ -16,6 +15,7 @@ class QPlainTextEdit;
 
 namespace kavela::desktop {
 
+class NumberBox;
 class FaultLabel;
 
 /// What a week is for, beside its sessions. Each field is written when it is left and was changed.
@@ -36,7 +36,6 @@ public:
 signals:
     void edited(const QString& what, const kavela::desktop::WeekForm::Change& change,
                 bool wholeBlock);
-    void refused(const QString& reason);
 
 private:
     using Text = std::string microsplanning_v5::*;

@@ -66,7 +66,6 @@ RankingPanel::RankingPanel(PlanningDocument& document, Workspace& workspace, QWi
 }
 
 void RankingPanel::connectParts() {
-    connect(m_ranking, &RankingSection::refused, this, &RankingPanel::refused);
     connect(m_ranking, &RankingSection::entered, this,
             [this](std::size_t row, const RankingEntry& entry) {
                 edit(tr("entry of the ranking list"), [&](yearsplannings_v6& changed) {

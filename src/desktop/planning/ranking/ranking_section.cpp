@@ -1,9 +1,10 @@
 #include "desktop/planning/ranking/ranking_section.h"
 
-#include "common/number_text.h"
 #include "desktop/charts/series_chart.h"
 #include "desktop/planning/ranking/plain_table.h"
 #include "desktop/planning/ranking/ranking_charts.h"
+#include "desktop/shell/cell_delegate.h"
+#include "desktop/shell/shown_number.h"
 #include "desktop/shell/theme.h"
 #include "desktop/team/typed_values.h"
 
@@ -23,11 +24,11 @@ namespace {
 enum Column { ReleaseColumn, PointsColumn, PositionColumn };
 
 constexpr int TableWidth = 300;
+constexpr double MostRelease = 999999999;
 
 QStringList textsOf(const RankingEntry& entry) {
     return {entry.release ? QString::number(*entry.release) : QString(),
-            entry.points.value_or(0) != 0 ? QString::fromStdString(shortestText(*entry.points))
-                                          : QString(),
+            entry.points.value_or(0) != 0 ? shownNumber(*entry.points) : QString(),
             numberShown(entry.position.value_or(0))};
 }
 
@@ -41,14 +42,9 @@ protected:
 };
 
 std::int64_t typedRelease(const QString& text) {
-    constexpr int MostDigits = 9;
-    bool isNumber = false;
-    const int release = text.trimmed().toInt(&isNumber);
-    if (!isNumber || release < 0 || text.trimmed().size() > MostDigits)
-        throw RefusedEntry(RankingSection::tr("The release of a ranking list is a whole number "
-                                              "such as 4; “%1” is none.")
-                               .arg(text.trimmed()));
-    return release;
+    return typedWhole(
+        text, {0, MostRelease,
+               RankingSection::tr("The release of a ranking list is a whole number such as 4")});
 }
 
 } // namespace
@@ -56,6 +52,7 @@ std::int64_t typedRelease(const QString& text) {
 RankingSection::RankingSection(QWidget* parent)
     : QWidget(parent),
       m_table(plainTable({tr("Release"), tr("Points"), tr("Position")})),
+      m_cells(new CellDelegate(*m_table)),
       m_add(new QPushButton(tr("Add release"))),
       m_remove(new QPushButton(tr("Remove"))),
       m_positions(new SeriesChart),
@@ -153,10 +150,10 @@ void RankingSection::take(int row, int column, const QString& typed) {
     try {
         emit entered(place, typedEntry(column, typed));
     } catch (const RefusedEntry& refusal) {
+        m_cells->refuse(refusal.reason());
         m_isFilling = true;
         setNumber(*m_table, row, column, textsOf(m_entries[place])[column]);
         m_isFilling = false;
-        emit refused(QString::fromStdString(refusal.what()));
     }
 }
 

@@ -9,6 +9,7 @@ class QTableWidget;
 
 namespace kavela::desktop {
 
+class CellDelegate;
 class SeriesChart;
 
 /// The releases of the ranking list: a table to type in, and charts of position and points.
@@ -30,7 +31,6 @@ signals:
     /// What is known of an entry is to be written into a row; one behind the last adds an entry.
     void entered(std::size_t row, const RankingEntry& entry);
     void removed(std::size_t row);
-    void refused(const QString& reason);
 
 private:
     void makeTable();
@@ -38,6 +38,7 @@ private:
     [[nodiscard]] RankingEntry typedEntry(int column, const QString& typed) const;
 
     QTableWidget* m_table;
+    CellDelegate* m_cells;
     QPushButton* m_add;
     QPushButton* m_remove;
     SeriesChart* m_positions;

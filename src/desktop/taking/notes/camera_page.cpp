@@ -1,7 +1,7 @@
 #include "desktop/taking/notes/camera_page.h"
 
-#include "common/number_text.h"
 #include "desktop/film/film_deck.h"
+#include "desktop/shell/shown_number.h"
 #include "desktop/shell/theme.h"
 #include "desktop/taking/taking_document.h"
 #include "splitdata/run_timing.h"
@@ -24,7 +24,7 @@ namespace {
 constexpr std::int32_t Microseconds = 1'000'000; // a second
 
 QString signedSeconds(double seconds) {
-    return QString(seconds > 0 ? "+" : "") + QString::number(seconds, 'f', 3);
+    return QString(seconds > 0 ? "+" : "") + shownNumber(seconds, 3);
 }
 
 CMTime stampOfSeconds(double seconds) {
@@ -126,8 +126,8 @@ void CameraPage::showMarks() {
                                         : std::vector<SyncMark>();
     std::vector<QStringList> rows;
     for (const SyncMark& each : m_marks)
-        rows.push_back({QString::fromStdString(hundredthsText(runSecondsAt(*run, each.own))),
-                        QString::fromStdString(each.name), QString::number(each.lag, 'f', 3),
+        rows.push_back({shownHundredths(runSecondsAt(*run, each.own)),
+                        QString::fromStdString(each.name), shownNumber(each.lag, 3),
                         signedSeconds(each.deviation)});
     fillTable(*m_table, rows);
     if (!m_desk.fixedCamera) {
@@ -140,11 +140,11 @@ void CameraPage::showMarks() {
     m_next->setText(tr("Find one moment on both films, the fixed camera's alone with "
                        "Alt+PgUp and Alt+PgDown. M marks it."));
     const auto lag = lagOf(*run, *m_desk.fixedCamera);
-    m_step->setText(lag ? tr("In step: the fixed camera's film is %1 s ahead.")
-                              .arg(QString::number(*lag, 'f', 3))
-                    : lagByDates(*m_desk.fixedCamera)
-                        ? tr("Placed by the dates in the two films, to a second or two.")
-                        : tr("Not in step yet."));
+    m_step->setText(
+        lag ? tr("In step: the fixed camera's film is %1 s ahead.").arg(shownNumber(*lag, 3))
+        : lagByDates(*m_desk.fixedCamera)
+            ? tr("Placed by the dates in the two films, to a second or two.")
+            : tr("Not in step yet."));
 }
 
 void CameraPage::choose(const QString& film) {

@@ -1,5 +1,6 @@
 #include "desktop/taking/notes/comment_page.h"
 
+#include "desktop/shell/number_box.h"
 #include "desktop/shell/theme.h"
 #include "desktop/shell/workspace.h"
 #include "desktop/taking/notes/radio_box.h"
@@ -9,7 +10,6 @@
 #include "splittaking/course_setup.h"
 
 #include <QCheckBox>
-#include <QDoubleSpinBox>
 #include <QFormLayout>
 #include <QLabel>
 #include <QSignalBlocker>
@@ -23,8 +23,8 @@ namespace {
 
 constexpr const char* VisibleKey = "coachswordvisible";
 
-QDoubleSpinBox* scoreBox(const char* name) {
-    auto* box = new QDoubleSpinBox;
+NumberBox* scoreBox(const char* name) {
+    auto* box = new NumberBox;
     box->setObjectName(name);
     box->setRange(0, BestScore);
     box->setDecimals(1);
@@ -34,9 +34,9 @@ QDoubleSpinBox* scoreBox(const char* name) {
 }
 
 /// A score of a file beyond the best one is shown as it is.
-void showScore(QDoubleSpinBox& box, double score) {
+void showScore(NumberBox& box, double score) {
     box.setRange(std::min(0.0, score), std::max(BestScore, score));
-    box.setValue(score);
+    box.showValue(score);
 }
 
 } // namespace
@@ -47,7 +47,7 @@ CommentPage::CommentPage(NoteDesk& desk)
       m_table(textTable({tr("Split"), tr("Comment")})),
       m_athletesScore(scoreBox("athletesScore")),
       m_coachsScore(scoreBox("coachsScore")),
-      m_giveUps(new QSpinBox),
+      m_giveUps(new WholeBox),
       m_radio(new RadioBox(loudspeaker, microphone)) {
     m_isVisible->setObjectName("commentsVisible");
     m_table->setObjectName("comments");
@@ -85,9 +85,9 @@ void CommentPage::addScores() {
             });
         };
     };
-    connect(m_athletesScore, &QDoubleSpinBox::valueChanged, this, take(Scorer::Athlete));
-    connect(m_coachsScore, &QDoubleSpinBox::valueChanged, this, take(Scorer::Coach));
-    connect(m_giveUps, &QSpinBox::valueChanged, this, [this](int count) {
+    connect(m_athletesScore, &NumberBox::valueChanged, this, take(Scorer::Athlete));
+    connect(m_coachsScore, &NumberBox::valueChanged, this, take(Scorer::Coach));
+    connect(m_giveUps, &WholeBox::valueChanged, this, [this](int count) {
         edit(tr("give-ups"), [&](athletedata031& run) { addGiveUps(run, count - run.giveups); });
     });
 }
@@ -131,7 +131,7 @@ void CommentPage::refresh() {
     showScore(*m_coachsScore, run ? run->coachsscore : 0);
     m_radio->setRecordings(run ? std::span<const Blob>(run->sectioninfo.teamradio)
                                : std::span<const Blob>());
-    m_giveUps->setValue(run ? static_cast<int>(std::clamp<std::int64_t>(run->giveups, 0, 99)) : 0);
+    m_giveUps->showValue(run ? static_cast<int>(std::clamp<std::int64_t>(run->giveups, 0, 99)) : 0);
     std::vector<QStringList> rows;
     QStringList names = sectionNames(m_desk.document.info());
     const std::size_t commented = run ? run->sectioninfo.comments.size() : 0;

@@ -3,11 +3,11 @@
 #include "desktop/taking/notes/note_page.h"
 
 class QCheckBox;
-class QDoubleSpinBox;
-class QSpinBox;
 
 namespace kavela::desktop {
 
+class NumberBox;
+class WholeBox;
 class RadioBox;
 
 /// The coach's words on each split, the scores of the run, its give-ups and its team radio.
@@ -30,9 +30,9 @@ private:
 
     QCheckBox* m_isVisible;
     QTableWidget* m_table;
-    QDoubleSpinBox* m_athletesScore;
-    QDoubleSpinBox* m_coachsScore;
-    QSpinBox* m_giveUps;
+    NumberBox* m_athletesScore;
+    NumberBox* m_coachsScore;
+    WholeBox* m_giveUps;
     RadioBox* m_radio;
 };
 

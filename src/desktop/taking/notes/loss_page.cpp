@@ -1,7 +1,7 @@
 #include "desktop/taking/notes/loss_page.h"
 
-#include "common/number_text.h"
 #include "desktop/film/film_deck.h"
+#include "desktop/shell/shown_number.h"
 #include "desktop/shell/theme.h"
 #include "desktop/shell/workspace.h"
 #include "desktop/taking/notes/code_combo.h"
@@ -41,7 +41,7 @@ QString textOf(LossMark which) {
 }
 
 QString signedText(double value) {
-    return QString(value > 0 ? "+" : "") + QString::fromStdString(hundredthsText(value));
+    return QString(value > 0 ? "+" : "") + shownHundredths(value);
 }
 
 } // namespace
@@ -243,9 +243,8 @@ void LossPage::showMarks() {
     for (std::size_t i = 0; i < Marks; ++i) {
         const auto which = static_cast<LossMark>(i);
         const auto moment = inHand ? markOf(*inHand, which) : std::nullopt;
-        m_marks[i]->setText(
-            textOf(which) + ' ' +
-            (moment ? QString::fromStdString(hundredthsText(moment->seconds())) : "–"));
+        m_marks[i]->setText(textOf(which) + ' ' +
+                            (moment ? shownHundredths(moment->seconds()) : "–"));
         m_marks[i]->setEnabled(inHand && isOwn(which) != isOnOtherRun());
     }
     m_other->setEnabled(otherRun().has_value());

@@ -1,6 +1,6 @@
 #include "desktop/taking/notes/mark_list.h"
 
-#include "common/number_text.h"
+#include "desktop/shell/shown_number.h"
 #include "desktop/shell/theme.h"
 
 #include <QHeaderView>
@@ -170,7 +170,7 @@ void MarkList::setMarks(const athletedata031* run, const std::vector<LaneMark>& 
         const double seconds = run && isOnFirst ? runSecondsAt(*run, mark.time) : mark.seconds;
         const bool isOutside = isOnFirst && film.to > film.from &&
                                (mark.seconds < film.from || mark.seconds > film.to);
-        m_rows.push_back({mark.handle, QString::fromStdString(hundredthsText(seconds)),
+        m_rows.push_back({mark.handle, shownHundredths(seconds),
                           QString::fromStdString(mark.text) + filmText(mark.film) +
                               (isOutside ? tr(" · outside the film") : QString())});
     }

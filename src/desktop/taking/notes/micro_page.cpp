@@ -1,6 +1,6 @@
 #include "desktop/taking/notes/micro_page.h"
 
-#include "common/number_text.h"
+#include "desktop/shell/shown_number.h"
 #include "desktop/shell/theme.h"
 #include "splittaking/annotations/strokes.h"
 
@@ -27,8 +27,7 @@ void MicroPage::refresh() {
     if (const athletedata031* const run = m_desk.record()) {
         double before = 0;
         for (const microsplitsdata025& micro : run->microsplits) {
-            rows.push_back({QString::fromStdString(hundredthsText(micro.time)),
-                            QString::fromStdString(hundredthsText(micro.time - before))});
+            rows.push_back({shownHundredths(micro.time), shownHundredths(micro.time - before)});
             before = micro.time;
         }
     }
@@ -38,8 +37,7 @@ void MicroPage::refresh() {
 void MicroPage::mark(const Stamps& stamps) {
     edit(tr("micro split"), [&](athletedata031& run) { (void)addMicroSplit(run, stamps.front()); });
     emit marked(MarkKind::MicroSplit, stamps.front());
-    emit flashed(
-        QString::fromStdString(hundredthsText(runSecondsAt(*m_desk.record(), stamps.front()))));
+    emit flashed(shownHundredths(runSecondsAt(*m_desk.record(), stamps.front())));
 }
 
 } // namespace kavela::desktop

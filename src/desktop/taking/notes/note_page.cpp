@@ -1,7 +1,7 @@
 #include "desktop/taking/notes/note_page.h"
 
-#include "common/number_text.h"
 #include "desktop/film/film_deck.h"
+#include "desktop/shell/shown_number.h"
 #include "desktop/shell/typing.h"
 #include "desktop/taking/taking_document.h"
 #include "splitdata/run_timing.h"
@@ -114,7 +114,7 @@ void fillTable(QTableWidget& table, const std::vector<QStringList>& rows) {
 }
 
 QString timeOrDash(double seconds) {
-    return seconds == 0 ? QStringLiteral("–") : QString::fromStdString(hundredthsText(seconds));
+    return hundredthsOrDash(seconds);
 }
 
 } // namespace kavela::desktop

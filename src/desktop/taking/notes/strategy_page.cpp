@@ -1,7 +1,9 @@
 #include "desktop/taking/notes/strategy_page.h"
 
-#include "common/number_text.h"
+#include "desktop/shell/cell_delegate.h"
+#include "desktop/shell/shown_number.h"
 #include "desktop/shell/theme.h"
+#include "desktop/shell/typed_number.h"
 #include "desktop/taking/taking_document.h"
 #include "splitdata/run_timing.h"
 #include "splittaking/annotations/upstream_gates.h"
@@ -14,13 +16,13 @@
 #include <QSignalBlocker>
 #include <QTableWidget>
 
-#include <cmath>
-
 namespace kavela::desktop {
 
 namespace {
 
 enum Column { Chosen, Way, Seconds, Gap };
+
+constexpr double LongestTime = 3600;
 
 QPushButton* button(const QString& text, const char* name) {
     auto* made = new QPushButton(text);
@@ -89,6 +91,7 @@ void StrategyPage::makeParts() {
     m_next->setWordWrap(true);
     m_options = textTable({QString(), tr("Way"), tr("Time"), tr("Gap")});
     m_options->setObjectName("strategyWays");
+    m_cells = new CellDelegate(*m_options);
     m_options->setFixedHeight(120);
     m_options->setEditTriggers(QAbstractItemView::DoubleClicked |
                                QAbstractItemView::EditKeyPressed);
@@ -189,7 +192,7 @@ void StrategyPage::showOptions() {
         const double gap = best ? each.seconds - options[*best].seconds : 0;
         const QString gapText = each.seconds == 0 ? QString()
                                 : each.isBest     ? tr("best")
-                                              : '+' + QString::fromStdString(hundredthsText(gap));
+                                                  : '+' + shownHundredths(gap);
         rows.push_back(
             {QString(), QString::fromStdString(each.name), timeOrDash(each.seconds), gapText});
     }
@@ -223,8 +226,7 @@ void StrategyPage::showChoices() {
     const auto cost = strategy() ? costOfChoice(*strategy()) : std::nullopt;
     m_cost->setText(!cost        ? QString()
                     : *cost == 0 ? tr("The run took the fastest way.")
-                                 : tr("The way of the run cost %1 s.")
-                                       .arg(QString::fromStdString(hundredthsText(*cost))));
+                                 : tr("The way of the run cost %1 s.").arg(shownHundredths(*cost)));
     m_cost->setVisible(!m_cost->text().isEmpty());
 }
 
@@ -281,15 +283,18 @@ void StrategyPage::takeCell(int row, int column) {
         change(tr("way renamed"),
                [&](strategy001& changed) { renameOption(changed, place, name); });
     } else if (column == Seconds) {
-        bool isNumber = false;
-        const double typed =
-            QLocale::c().toDouble(cell->text().trimmed().replace(',', '.'), &isNumber);
-        if (isNumber && std::isfinite(typed) && typed >= 0) {
-            change(tr("time of a way"),
-                   [&](strategy001& changed) { setOptionSeconds(changed, place, typed); });
-            return;
-        }
-        emit told(tr("\"%1\" is no time in seconds.").arg(cell->text()));
+        takeSeconds(place, cell->text());
+    }
+}
+
+void StrategyPage::takeSeconds(std::size_t option, const QString& text) {
+    try {
+        const double typed = typedSeconds(
+            text, {0, LongestTime, tr("A time is a number of seconds such as 4.35, or 1:04.35")});
+        change(tr("time of a way"),
+               [&](strategy001& changed) { setOptionSeconds(changed, option, typed); });
+    } catch (const RefusedEntry& refusal) {
+        m_cells->refuse(refusal.reason());
         showOptions();
     }
 }

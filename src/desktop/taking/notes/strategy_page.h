@@ -10,6 +10,8 @@ class QPushButton;
 
 namespace kavela::desktop {
 
+class CellDelegate;
+
 /// Ways of paddling a section, compared by their times. A way is timed by two marks on the film, by
 /// the section's time in a run of the file, or by hand.
 class StrategyPage : public NotePage {
@@ -34,6 +36,7 @@ private:
     void addComparison();
     void addWay();
     void takeCell(int row, int column);
+    void takeSeconds(std::size_t option, const QString& text);
     void takeSectionTime();
     void setInHand(std::size_t option);
     void showComparisons();
@@ -48,6 +51,7 @@ private:
     QComboBox* m_title = nullptr;
     QLabel* m_next = nullptr;
     QTableWidget* m_options = nullptr;
+    CellDelegate* m_cells = nullptr;
     QLineEdit* m_newOption = nullptr;
     QComboBox* m_run = nullptr;
     QComboBox* m_section = nullptr;

@@ -1,5 +1,6 @@
 #include "desktop/taking/notes/stroke_page.h"
 
+#include "desktop/shell/shown_number.h"
 #include "desktop/shell/theme.h"
 #include "desktop/taking/notes/code_combo.h"
 #include "desktop/taking/taking_document.h"
@@ -14,7 +15,7 @@ namespace kavela::desktop {
 namespace {
 
 QString rateText(const std::optional<double>& perMinute) {
-    return perMinute ? QString::number(*perMinute, 'f', 1) : QStringLiteral("–");
+    return perMinute ? shownNumber(*perMinute, 1) : QStringLiteral("–");
 }
 
 /// The hand of the stroke after the last one before a moment: left begins.

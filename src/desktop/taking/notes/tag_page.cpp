@@ -1,7 +1,7 @@
 #include "desktop/taking/notes/tag_page.h"
 
-#include "common/number_text.h"
 #include "desktop/film/film_deck.h"
+#include "desktop/shell/shown_number.h"
 #include "desktop/shell/theme.h"
 #include "desktop/shell/workspace.h"
 #include "desktop/taking/notes/clip_player.h"
@@ -113,8 +113,8 @@ void TagPage::showTable() {
                 m_tags.push_back(std::move(mark));
     std::vector<QStringList> rows;
     for (const LaneMark& tag : m_tags)
-        rows.push_back({QString::fromStdString(hundredthsText(runSecondsAt(*run, tag.time))),
-                        QString::fromStdString(tag.text)});
+        rows.push_back(
+            {shownHundredths(runSecondsAt(*run, tag.time)), QString::fromStdString(tag.text)});
     fillTable(*m_table, rows);
 }
 

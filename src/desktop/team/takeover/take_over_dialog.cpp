@@ -1,6 +1,7 @@
 #include "desktop/team/takeover/take_over_dialog.h"
 
 #include "desktop/people/found_lines_view.h"
+#include "desktop/shell/number_box.h"
 #include "desktop/shell/theme.h"
 #include "desktop/team/typed_values.h"
 
@@ -12,7 +13,6 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QSpinBox>
 
 #include <algorithm>
 
@@ -65,7 +65,7 @@ QString remarkOn(const PlannedResult& planned) {
 } // namespace
 
 TakeOverDialog::TakeOverDialog(const myTeamToSaveStruct& team, QWidget* parent)
-    : QDialog(parent),
+    : EntryDialog(parent),
       m_team(team),
       m_lines(titles(), peopleOf(team)),
       m_view(new FoundLinesView(m_lines)) {
@@ -113,7 +113,7 @@ void TakeOverDialog::makeRace(QFormLayout& form, const FoundRace& race) {
     m_event->setCurrentIndex(race.event.empty() ? -1 : m_event->findText(qtText(race.event)));
     m_location = new QLineEdit(qtText(race.location));
     m_location->setObjectName("location");
-    m_year = new QSpinBox;
+    m_year = new WholeBox;
     m_year->setObjectName("year");
     m_year->setRange(1900, 2100);
     m_year->setValue(dateOf(race.date).year());
@@ -122,7 +122,7 @@ void TakeOverDialog::makeRace(QFormLayout& form, const FoundRace& race) {
     form.addRow(tr("&Season"), m_year);
     connect(m_event, &QComboBox::currentIndexChanged, this, &TakeOverDialog::plan);
     connect(m_location, &QLineEdit::textChanged, this, &TakeOverDialog::plan);
-    connect(m_year, &QSpinBox::valueChanged, this, &TakeOverDialog::plan);
+    connect(m_year, &WholeBox::valueChanged, this, &TakeOverDialog::plan);
 }
 
 void TakeOverDialog::makeListFacts(QFormLayout& form, const std::string& category,

@@ -1,9 +1,8 @@
 #pragma once
 
 #include "desktop/people/found_lines.h"
+#include "desktop/shell/entry_dialog.h"
 #include "desktop/team/takeover/take_over.h"
-
-#include <QDialog>
 
 #include <functional>
 #include <map>
@@ -15,16 +14,16 @@ class QFormLayout;
 class QLabel;
 class QLineEdit;
 class QPushButton;
-class QSpinBox;
 
 namespace kavela::desktop {
 
 class FoundLinesView;
+class WholeBox;
 
 /// What a file has for the athletes of the team, to be ticked line by line before anything is
 /// written, with what it replaces; and who stays out, with the reason. Crews that no name of the
 /// team fits are given to an athlete by hand, or added to the team.
-class TakeOverDialog : public QDialog {
+class TakeOverDialog : public EntryDialog {
     Q_OBJECT
 
 public:
@@ -66,7 +65,7 @@ private:
     std::vector<SkippedLine> m_skipped; ///< of a list
     QComboBox* m_event = nullptr;
     QLineEdit* m_location = nullptr;
-    QSpinBox* m_year = nullptr;
+    WholeBox* m_year = nullptr;
     QComboBox* m_category = nullptr;
     QComboBox* m_phase = nullptr;
     QDateEdit* m_date = nullptr;

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QString>
+
+#include <string>
+
+/// Numbers as the windows show them: with the decimal sign of the system, which is a comma or
+/// otherwise a point, plain digits and no groups, so that each can be typed as it is shown. Files
+/// and what is exported keep the point.
+namespace kavela::desktop {
+
+/// A text of ours that holds plain numbers, with the decimal sign of the system in them.
+[[nodiscard]] QString shownNumbers(QString text);
+
+/// Every digit, as it is edited: "82.75", "12".
+[[nodiscard]] QString shownNumber(double value);
+/// Rounded to so many decimals.
+[[nodiscard]] QString shownNumber(double value, int decimals);
+/// A time in seconds: "82.75".
+[[nodiscard]] QString shownHundredths(double seconds);
+/// The same with a dash where there is none, which is what 0 stands for.
+[[nodiscard]] QString hundredthsOrDash(double seconds);
+
+} // namespace kavela::desktop
