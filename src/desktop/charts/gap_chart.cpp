@@ -1,8 +1,8 @@
 #include "desktop/charts/gap_chart.h"
 
-#include "common/number_text.h"
 #include "desktop/charts/chart_csv.h"
 #include "desktop/charts/read_out.h"
+#include "desktop/shell/shown_number.h"
 #include "desktop/shell/theme.h"
 
 #include <algorithm>
@@ -19,8 +19,8 @@ constexpr double LineWidth = 2.2;
 constexpr double MarkerSize = 6;
 
 QString gapText(double seconds) {
-    const QString text = QString::fromStdString(hundredthsText(std::abs(seconds)));
-    if (text == QStringLiteral("0.00"))
+    const QString text = shownHundredths(std::abs(seconds));
+    if (text == shownHundredths(0))
         return text;
     return (seconds > 0 ? QStringLiteral("+") : QStringLiteral("\u2212")) + text;
 }

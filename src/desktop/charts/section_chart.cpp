@@ -1,8 +1,8 @@
 #include "desktop/charts/section_chart.h"
 
-#include "common/number_text.h"
 #include "desktop/charts/chart_csv.h"
 #include "desktop/charts/read_out.h"
+#include "desktop/shell/shown_number.h"
 #include "desktop/shell/theme.h"
 
 #include <QAction>
@@ -25,7 +25,7 @@ constexpr double SelectedSize = 9;
 constexpr double Reach = 8; ///< pixels from the cursor to a dot
 
 QString timeText(double seconds) {
-    return QString::fromStdString(hundredthsText(seconds));
+    return shownHundredths(seconds);
 }
 
 /// Where the n-th dot of a strip stands between -0.5 and 0.5: the van der Corput sequence, which

@@ -2,6 +2,7 @@
 
 #include "desktop/charts/chart_colours.h"
 #include "desktop/charts/sensor_drawing.h"
+#include "desktop/shell/shown_number.h"
 #include "desktop/shell/theme.h"
 
 #include <QApplication>
@@ -427,7 +428,7 @@ void SensorChart::paintSelection(QPainter& painter) const {
     const double seconds = (right - left) / plot.width() * (m_to - m_from);
     painter.setFont(theme::captionFont(*this));
     painter.drawText(QPointF(left + theme::SmallSpacing, plot.bottom() - theme::SmallSpacing),
-                     tr("%1 s").arg(seconds, 0, 'f', 2));
+                     tr("%1 s").arg(shownNumber(seconds, 2)));
 }
 
 } // namespace kavela::desktop

@@ -1,6 +1,7 @@
 #include "desktop/charts/sensor_drawing.h"
 
 #include "desktop/charts/chart_colours.h"
+#include "desktop/shell/shown_number.h"
 #include "desktop/shell/theme.h"
 
 #include <QImage>
@@ -39,7 +40,7 @@ QString valueWithUnit(const SensorSeries& series, std::optional<double> value) {
 QString tickText(double value, double step) {
     const int decimals = std::clamp(static_cast<int>(std::ceil(-std::log10(step) - 1e-9)), 0, 9);
     const bool isLong = std::abs(value) >= 1e6;
-    QString text = isLong ? QString::number(value, 'g', 4) : QString::number(value, 'f', decimals);
+    QString text = isLong ? QString::number(value, 'g', 4) : shownNumber(value, decimals);
     return text.replace(QLatin1Char('-'), QChar(0x2212));
 }
 

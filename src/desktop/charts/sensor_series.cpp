@@ -1,5 +1,7 @@
 #include "desktop/charts/sensor_series.h"
 
+#include "desktop/shell/shown_number.h"
+
 #include <algorithm>
 #include <array>
 #include <cmath>
@@ -69,7 +71,7 @@ QString sensorText(double value) {
     if (size >= 1e6 || (size > 0 && size < 0.005))
         text = QString::number(value, 'g', size < 1 ? 1 : 4);
     else
-        text = QString::number(value, 'f', size >= 100 ? 0 : size >= 10 ? 1 : 2);
+        text = shownNumber(value, size >= 100 ? 0 : size >= 10 ? 1 : 2);
     return text.replace(QLatin1Char('-'), QChar(0x2212));
 }
 

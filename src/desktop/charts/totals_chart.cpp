@@ -1,8 +1,8 @@
 #include "desktop/charts/totals_chart.h"
 
-#include "common/number_text.h"
 #include "desktop/charts/chart_csv.h"
 #include "desktop/charts/read_out.h"
+#include "desktop/shell/shown_number.h"
 #include "desktop/shell/theme.h"
 
 #include <algorithm>
@@ -22,7 +22,7 @@ constexpr double Headroom = 0.06;
 constexpr double LeastSpan = 1; ///< seconds
 
 QString timeText(double seconds) {
-    return QString::fromStdString(hundredthsText(seconds));
+    return shownHundredths(seconds);
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 #include "desktop/film/film_view.h"
 
 #include "desktop/film/film_deck.h"
+#include "desktop/shell/shown_number.h"
 #include "desktop/shell/theme.h"
 
 #include <QApplication>
@@ -60,9 +61,9 @@ void FilmView::showFrame() {
     const auto index = m_deck.index(m_camera);
     m_corner = tr("frame %1   %2 s")
                    .arg(picture->frame.number)
-                   .arg(picture->frame.stamp.seconds(), 0, 'f', 3);
+                   .arg(shownNumber(picture->frame.stamp.seconds(), 3));
     if (index && picture->frame.number < index->frameCount())
-        m_corner += tr("  ±%1").arg(index->uncertainty(picture->frame.number), 0, 'f', 3);
+        m_corner += tr("  ±%1").arg(shownNumber(index->uncertainty(picture->frame.number), 3));
     update();
 }
 

@@ -3,6 +3,7 @@
 #include "boatmotion/imports/csv_memory.h"
 #include "desktop/imports/csv_reading.h"
 #include "desktop/imports/csv_units_form.h"
+#include "desktop/shell/shown_number.h"
 #include "desktop/shell/theme.h"
 
 #include <QAbstractItemView>
@@ -41,7 +42,7 @@ QString durationText(double seconds) {
         return CsvMappingDialog::tr("%1 h %2 min").arg(whole / 3600).arg(whole / 60 % 60);
     if (whole >= 60)
         return CsvMappingDialog::tr("%1 min %2 s").arg(whole / 60).arg(whole % 60);
-    return CsvMappingDialog::tr("%1 s").arg(seconds, 0, 'f', 1);
+    return CsvMappingDialog::tr("%1 s").arg(shownNumber(seconds, 1));
 }
 
 QString rateText(double rate) {

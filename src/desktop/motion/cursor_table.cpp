@@ -2,6 +2,7 @@
 
 #include "desktop/charts/chart_colours.h"
 #include "desktop/charts/sensor_series.h"
+#include "desktop/shell/shown_number.h"
 #include "desktop/shell/theme.h"
 
 #include <QHeaderView>
@@ -61,7 +62,7 @@ QString turnText(const MotionAnalysis& analysis, double stamp) {
     return CursorTable::tr("%1 %2°, %3 s")
         .arg(turn->angle > 0 ? CursorTable::tr("left") : CursorTable::tr("right"))
         .arg(qRound(std::abs(turn->angle) * Degrees))
-        .arg(turn->values.rotationTime, 0, 'f', 1);
+        .arg(shownNumber(turn->values.rotationTime, 1));
 }
 
 constexpr int StrokeRows = 3;

@@ -1,6 +1,7 @@
 #include "desktop/motion/motion_recording.h"
 
 #include "boatmotion/session_files.h"
+#include "desktop/shell/shown_number.h"
 
 #include <QCoreApplication>
 
@@ -82,10 +83,11 @@ QStringList odditiesOf(const std::vector<boatmotionrawdata_v5>& samples) {
     const StampFaults faults = faultsOf(samples);
     QStringList told;
     if (faults.holes == 1)
-        told << tr("a hole of %1 s").arg(faults.longest, 0, 'f', 1);
+        told << tr("a hole of %1 s").arg(shownNumber(faults.longest, 1));
     if (faults.holes > 1)
-        told
-            << tr("%1 holes, the longest of %2 s").arg(faults.holes).arg(faults.longest, 0, 'f', 1);
+        told << tr("%1 holes, the longest of %2 s")
+                    .arg(faults.holes)
+                    .arg(shownNumber(faults.longest, 1));
     if (faults.backward > 0)
         told << (faults.backward == 1
                      ? tr("the clock ran backwards once")

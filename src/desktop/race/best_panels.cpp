@@ -2,8 +2,8 @@
 
 #include "analysis/athlete_potential.h"
 #include "analysis/ideal_run.h"
-#include "common/number_text.h"
 #include "desktop/race/race_document.h"
+#include "desktop/shell/shown_number.h"
 #include "desktop/shell/theme.h"
 
 #include <QHeaderView>
@@ -24,11 +24,11 @@ QString qtText(const std::string& text) {
 }
 
 QString timeOrDash(const std::optional<double>& seconds) {
-    return seconds && *seconds != 0 ? qtText(hundredthsText(*seconds)) : "–";
+    return seconds && *seconds != 0 ? shownHundredths(*seconds) : "–";
 }
 
 QString aheadOf(const std::optional<double>& seconds) {
-    return seconds ? '+' + qtText(hundredthsText(*seconds)) : "–";
+    return seconds ? '+' + shownHundredths(*seconds) : "–";
 }
 
 QTableWidget* listTable(const QStringList& headers, int stretched) {

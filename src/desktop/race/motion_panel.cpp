@@ -2,6 +2,7 @@
 
 #include "desktop/charts/sensor_chart.h"
 #include "desktop/race/race_document.h"
+#include "desktop/shell/shown_number.h"
 #include "desktop/shell/theme.h"
 
 #include <QHeaderView>
@@ -26,7 +27,7 @@ const QString Unknown = QStringLiteral("–");
 
 template <class Number>
 QString numberOrDash(const std::optional<Number>& number, int decimals = 0) {
-    return number ? QString::number(static_cast<double>(*number), 'f', decimals) : Unknown;
+    return number ? shownNumber(static_cast<double>(*number), decimals) : Unknown;
 }
 
 /// The run as it stands in its file, as far as its motion goes.

@@ -1,6 +1,6 @@
 #include "desktop/race/run_chooser.h"
 
-#include "common/number_text.h"
+#include "desktop/shell/shown_number.h"
 #include "desktop/shell/theme.h"
 #include "desktop/shell/workspace.h"
 #include "splitdata/loader.h"
@@ -32,7 +32,7 @@ QString lineOf(const analyzerdata& run) {
     QStringList parts{qtText(run.name), qtText(run.category), qtText(run.phase)};
     parts.removeAll(QString());
     const double total = run.sectioninfo.totaltime;
-    return parts.join(" · ") + (total == 0 ? "" : "   " + qtText(hundredthsText(total)) + " s");
+    return parts.join(" · ") + (total == 0 ? "" : "   " + shownHundredths(total) + " s");
 }
 
 OtherRace otherRace(RecognisedSplitFile read, const QString& path) {

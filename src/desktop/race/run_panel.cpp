@@ -2,8 +2,8 @@
 
 #include "analysis/athlete_potential.h"
 #include "analysis/standing.h"
-#include "common/number_text.h"
 #include "desktop/race/race_document.h"
+#include "desktop/shell/shown_number.h"
 #include "desktop/shell/theme.h"
 #include "splitdata/run_timing.h"
 
@@ -23,13 +23,13 @@ QString qtText(const std::string& text) {
 }
 
 QString timeOrDash(double seconds) {
-    return seconds == 0 ? "–" : qtText(hundredthsText(seconds));
+    return seconds == 0 ? "–" : shownHundredths(seconds);
 }
 
 QString signedOrDash(const std::optional<double>& seconds) {
     if (!seconds)
         return "–";
-    return (*seconds > 0 ? "+" : "") + qtText(hundredthsText(*seconds));
+    return (*seconds > 0 ? "+" : "") + shownHundredths(*seconds);
 }
 
 QString gateText(const RaceSet& set, const analyzerdata& run) {

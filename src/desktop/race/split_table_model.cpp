@@ -1,7 +1,7 @@
 #include "desktop/race/split_table_model.h"
 
-#include "common/number_text.h"
 #include "desktop/race/cell_colours.h"
+#include "desktop/shell/shown_number.h"
 #include "desktop/shell/theme.h"
 #include "splitdata/run_timing.h"
 
@@ -255,11 +255,11 @@ QString SplitTableModel::toolTip(std::size_t run, std::size_t cell) const {
         return tr("Not timed");
     return tr("%1, %2: %3 s\nplace %4 of %5\n%6 s behind the best, %7 %")
         .arg(qtText(row.run->name), qtText(m_document.table().columns[cell].title),
-             qtText(hundredthsText(row.cells[cell].value)))
+             shownHundredths(row.cells[cell].value))
         .arg(*rank)
         .arg(figures.timed(cell))
         .arg(qtText(signedHundredths(figures.gap(run, cell, {}).value_or(0))),
-             qtText(hundredthsText(figures.percentBehind(run, cell).value_or(0))));
+             shownHundredths(figures.percentBehind(run, cell).value_or(0)));
 }
 
 /// Why a cell is grey.
@@ -268,7 +268,7 @@ QString SplitTableModel::greyedTip(std::size_t run, std::size_t cell) const {
     const std::string_view reason = reasonOf(row.cells[cell].standing);
     return tr("%1, %2: %3 s\n%4\nIt counts for nothing: no place, no gap, never a best.")
         .arg(qtText(row.run->name), qtText(m_document.table().columns[cell].title),
-             qtText(hundredthsText(row.cells[cell].value)),
+             shownHundredths(row.cells[cell].value),
              QString::fromUtf8(reason.data(), static_cast<qsizetype>(reason.size())));
 }
 

@@ -1,8 +1,8 @@
 #include "desktop/selection/why_panel.h"
 
-#include "common/number_text.h"
 #include "desktop/selection/ranking_model.h"
 #include "desktop/selection/selection_document.h"
+#include "desktop/shell/shown_number.h"
 #include "desktop/shell/theme.h"
 #include "results/selection_whatif.h"
 
@@ -20,7 +20,7 @@ QString qtText(const std::string& text) {
 }
 
 QString hundredths(double value) {
-    return qtText(hundredthsText(value));
+    return shownHundredths(value);
 }
 
 QLabel* plainLabel() {

@@ -1,5 +1,7 @@
 #include "desktop/sessions/session_texts.h"
 
+#include "desktop/shell/shown_number.h"
+
 #include <QCoreApplication>
 
 #include <cmath>
@@ -21,7 +23,7 @@ QString valueText(std::optional<double> value, int decimals) {
     if (std::abs(*value) > Largest)
         return QString::number(*value, 'g', 3);
     const double scale = std::pow(10, decimals);
-    return QString::number(std::round(*value * scale) / scale + 0.0, 'f', decimals);
+    return shownNumber(std::round(*value * scale) / scale + 0.0, decimals);
 }
 
 QString sideText(std::int64_t hand) {

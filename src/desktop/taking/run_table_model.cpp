@@ -1,6 +1,6 @@
 #include "desktop/taking/run_table_model.h"
 
-#include "common/number_text.h"
+#include "desktop/shell/shown_number.h"
 #include "desktop/taking/taking_document.h"
 #include "splitdata/run_timing.h"
 #include "splittaking/video_names.h"
@@ -57,7 +57,7 @@ QString RunTableModel::text(int run, int column) const {
     case SplitsColumn:
         return tr("%1/%2").arg(timing.splitnum).arg(m_document.info().totalsplits);
     default:
-        return timing.totaltime == 0 ? QString() : qtText(hundredthsText(timing.totaltime));
+        return timing.totaltime == 0 ? QString() : shownHundredths(timing.totaltime);
     }
 }
 

@@ -1,6 +1,6 @@
 #include "desktop/team/season_model.h"
 
-#include "common/number_text.h"
+#include "desktop/shell/shown_number.h"
 #include "desktop/team/team_document.h"
 #include "desktop/team/team_edits.h"
 #include "desktop/team/typed_values.h"
@@ -124,9 +124,7 @@ QVariant SeasonModel::seasonText(const mtSeasonStruct& season, std::size_t place
     case RankingColumn:
         return numberShown(season.icfrankingpos);
     case PointsColumn:
-        return season.icfrankingpoints == 0
-                   ? QString()
-                   : QString::fromStdString(shortestText(season.icfrankingpoints));
+        return season.icfrankingpoints == 0 ? QString() : shownNumber(season.icfrankingpoints);
     default:
         return QString();
     }

@@ -1,6 +1,6 @@
 #include "desktop/cross/heats/attack_form.h"
 
-#include "common/number_text.h"
+#include "desktop/shell/shown_number.h"
 #include "desktop/shell/theme.h"
 #include "splittaking/annotations/film_marks.h"
 
@@ -61,8 +61,7 @@ void refill(QComboBox& combo, const std::vector<std::string>& texts) {
 } // namespace
 
 QString momentText(const CMTime& moment) {
-    return isTaken(moment) ? QString::fromStdString(hundredthsText(moment.seconds()))
-                           : QStringLiteral("–");
+    return isTaken(moment) ? shownHundredths(moment.seconds()) : QStringLiteral("–");
 }
 
 AttackForm::AttackForm(QWidget* parent)

@@ -1,7 +1,7 @@
-#include "common/number_text.h"
 #include "desktop/cross/trials/gate_form.h"
 #include "desktop/cross/trials/trial_list.h"
 #include "desktop/cross/trials/trial_page.h"
+#include "desktop/shell/shown_number.h"
 #include "desktop/shell/workspace.h"
 #include "desktop/taking/notes/note_page.h"
 #include "desktop/taking/taking_document.h"
@@ -152,9 +152,7 @@ void TrialPage::markSplit(const CMTime& moment) {
         return mark.mode == TrialMode::Splits && mark.place == place;
     });
     const double seconds = isStart ? 0 : splitTimes(marks).back();
-    emit flashed(
-        isStart ? tr("Start")
-                : tr("%1:  %2").arg(place).arg(QString::fromStdString(hundredthsText(seconds))));
+    emit flashed(isStart ? tr("Start") : tr("%1:  %2").arg(place).arg(shownHundredths(seconds)));
     if (seconds < 0)
         emit told(tr("Split %1 is marked before the mark that comes first.").arg(place));
 }

@@ -1,5 +1,6 @@
 #include "desktop/planning/plan/week_texts.h"
 
+#include "desktop/shell/shown_number.h"
 #include "planning/calendar_day.h"
 #include "planning/day_parts.h"
 #include "planning/training_categories.h"
@@ -19,7 +20,7 @@ QString tr(const char* text) {
 }
 
 QString numberText(double number) {
-    return QString::number(number, 'g', 6);
+    return shownNumbers(QString::number(number, 'g', 6));
 }
 
 QString entry(const std::vector<std::string>& list, std::size_t index) {

@@ -1,9 +1,9 @@
 #include "desktop/planning/ranking/races_section.h"
 
-#include "common/number_text.h"
 #include "desktop/charts/series_chart.h"
 #include "desktop/planning/ranking/plain_table.h"
 #include "desktop/planning/ranking/ranking_charts.h"
+#include "desktop/shell/shown_number.h"
 #include "desktop/shell/theme.h"
 #include "desktop/team/typed_values.h"
 #include "planning/season_results.h"
@@ -36,7 +36,7 @@ enum Column {
 constexpr int LeastTableHeight = 130;
 
 QString hundredths(double number) {
-    return QString::fromStdString(hundredthsText(number));
+    return shownHundredths(number);
 }
 
 template <class T>
@@ -53,7 +53,7 @@ QString summaryText(const PenaltySummary& summary) {
                             "<b>%4</b>  ·  missed gates per run <b>%5</b>")
         .arg(summary.runs)
         .arg(summary.cleanRuns)
-        .arg(clean, 0, 'f', 0)
+        .arg(shownNumber(clean, 0))
         .arg(hundredths(summary.touchesPerRun()), hundredths(summary.fiftiesPerRun()));
 }
 

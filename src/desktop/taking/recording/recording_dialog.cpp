@@ -4,6 +4,7 @@
 #include "desktop/charts/sensor_chart.h"
 #include "desktop/shell/dropped_files.h"
 #include "desktop/shell/fault_label.h"
+#include "desktop/shell/shown_number.h"
 #include "desktop/shell/theme.h"
 #include "splitdata/run_timing.h"
 
@@ -37,7 +38,7 @@ QString clockText(const ClockFit& fit, double first, bool hasDrift) {
                   .arg(momentText(-later));
     if (hasDrift)
         text += ' ' + RecordingDialog::tr("Its clock gains %1 s in 100 s, which is taken out.")
-                          .arg((fit.rate - 1) * 100, 0, 'f', 2);
+                          .arg(shownNumber((fit.rate - 1) * 100, 2));
     return text;
 }
 

@@ -1,5 +1,7 @@
 #include "desktop/team/charts/averages_model.h"
 
+#include "desktop/shell/shown_number.h"
+
 #include <algorithm>
 
 namespace kavela::desktop {
@@ -11,7 +13,7 @@ constexpr int Shares = 5;
 constexpr int FirstSplitColumn = FirstShareColumn + Shares;
 
 QString percent(double value) {
-    return QString::number(value, 'f', 1) + " %";
+    return shownNumber(value, 1) + " %";
 }
 
 /// Percentages by split have that of the whole run behind them, where it is known.

@@ -1,8 +1,8 @@
 #include "desktop/team/charts/season_chart.h"
 
-#include "common/number_text.h"
 #include "desktop/charts/chart_colours.h"
 #include "desktop/charts/chart_csv.h"
+#include "desktop/shell/shown_number.h"
 
 #include <QCursor>
 #include <QToolTip>
@@ -137,8 +137,7 @@ void SeasonChart::tellOnHover(QLineSeries& line, const std::vector<SeasonRace>& 
         QToolTip::showText(QCursor::pos(),
                            tr("%1, %2\n%3 % behind, penalty %4 s")
                                .arg(raceLabel(race), QString::fromStdString(phase),
-                                    QString::fromStdString(hundredthsText(*run->behind)),
-                                    QString::number(run->penalty)),
+                                    shownHundredths(*run->behind), QString::number(run->penalty)),
                            this);
     });
     connect(&line, &QLineSeries::clicked, this, [=, this](const QPointF& point) {
