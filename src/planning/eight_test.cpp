@@ -1,5 +1,7 @@
 #include "planning/eight_test.h"
 
+#include "planning/test_entry.h"
+
 #include <algorithm>
 #include <array>
 #include <cmath>
@@ -30,8 +32,12 @@ std::vector<double> turnPeaks(std::span<const double> rotation, bool toTheLeft) 
     return peaks;
 }
 
+bool isWhole(const datafor8& run) {
+    return std::ranges::all_of(splitsOf(run), [](double split) { return split > 0; });
+}
+
 void scoreEightTest(datafor8& run) {
-    const std::array splits{run.sp1, run.sp2, run.sp3, run.sp4, run.sp5};
+    const std::array splits = splitsOf(run);
     run.totalsplit = 0;
     for (const double split : splits)
         run.totalsplit += split;

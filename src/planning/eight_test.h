@@ -13,6 +13,11 @@ namespace kavela {
 /// greatest rotation of the series in it; slower movement is the boat's own sway.
 [[nodiscard]] std::vector<double> turnPeaks(std::span<const double> rotation, bool toTheLeft);
 
+inline constexpr std::size_t EightSplits = 5;
+
+/// Whether all five splits were timed: only then are their total and their deviation results.
+[[nodiscard]] bool isWhole(const datafor8& run);
+
 /// Fills `totalsplit`, `sdv` (over the five splits, divided by one less than their number),
 /// `zrotsubmaxR` and `zrotsubmaxL`.
 void scoreEightTest(datafor8& run);

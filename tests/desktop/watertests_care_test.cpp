@@ -3,10 +3,12 @@
 #include "common/json_encode.h"
 #include "common/recorders.h"
 #include "common/temp_folder.h"
+#include "desktop/refusals.h"
 #include "desktop/shell/workspace.h"
 #include "desktop/watertests/entry_table.h"
 #include "desktop/watertests/take_recording_dialog.h"
 #include "desktop/watertests/test_list_panel.h"
+#include "planning/eight_test.h"
 #include "planning/test_entry.h"
 #include "sample/recordings.h"
 #include "sample/tests.h"
@@ -32,6 +34,7 @@ using desktop::TakeRecordingDialog;
 using desktop::TestId;
 using desktop::TestsWindow;
 using ::testing::ElementsAre;
+using ::testing::HasSubstr;
 using ::testing::IsEmpty;
 using ::testing::Not;
 using ::testing::SizeIs;
@@ -159,6 +162,21 @@ TEST_F(TestsCareTest, ATestThatNoLongerFitsTheFilterStaysInFrontWhileItIsTyped) 
         EXPECT_EQ(other->location() == "Lake", other->id == typed);
 }
 
+/// Through the window system, as at the coach's desk: Ctrl is held while the new row is chosen.
+TEST_F(TestsCareTest, ANewTestIsTheOnlyOneThatIsSelected) {
+    ASSERT_NO_FATAL_FAILURE(open(sample::formTests()));
+    const std::size_t before = listed().size();
+    part<QTableView>("tests").setFocus();
+    QTest::keyClick(m_window->windowHandle(), Qt::Key_N, Qt::ControlModifier);
+    QApplication::processEvents();
+    ASSERT_EQ(listed().size(), before + 1);
+    EXPECT_THAT(m_window->list().selected(), ElementsAre(*m_window->list().current()));
+    part<QTableView>("tests").setFocus();
+    QTest::keyClick(m_window->windowHandle(), Qt::Key_Delete);
+    QApplication::processEvents();
+    EXPECT_EQ(listed().size(), before) << "the one that was selected before is still there";
+}
+
 TEST_F(TestsCareTest, RemovingChoosesTheNextTestAndUndoBringsAllBack) {
     ASSERT_NO_FATAL_FAILURE(open(sample::formTests()));
     const std::vector<TestId> before = listed();
@@ -279,6 +297,48 @@ TEST_F(TestsCareTest, ACountThatIsTypedIsSavedWithoutEnter) {
     press(Qt::Key_Return);
     press(Qt::CTRL | Qt::Key_N);
     EXPECT_EQ(m_window->document().value().front()->run()->laps, 3);
+}
+
+TEST_F(TestsCareTest, ATimeOfZeroIsRefusedAndNotEmptied) {
+    ASSERT_NO_FATAL_FAILURE(open({}));
+    press(Qt::CTRL | Qt::Key_N);
+    const TestId id = *m_window->list().current();
+    beginCell("sections", 0, 0, '7');
+    press(Qt::Key_Return);
+    for (const char* wrong : {"0", "abc", "0,00"}) {
+        beginCell("sections", 0, 0, wrong[0]);
+        QTest::keyClicks(QApplication::focusWidget(), wrong + 1);
+        press(Qt::Key_Return);
+        EXPECT_THAT(refusalIn(*m_window), HasSubstr("Time")) << wrong;
+        EXPECT_THAT(test(id).run()->test.splits, ElementsAre(7)) << wrong;
+        EXPECT_EQ(qobject_cast<QLineEdit*>(QApplication::focusWidget())->text(), wrong);
+        press(Qt::Key_Escape);
+    }
+}
+
+TEST_F(TestsCareTest, ATotalWaitsForAllOfItsParts) {
+    onWaterTests tests;
+    tests.eights.resize(1);
+    tests.eights[0].run.sp1 = 14.9;
+    tests.eights[0].run.sp2 = 15.1;
+    scoreEightTest(tests.eights[0].run);
+    tests.tests.resize(1);
+    tests.tests[0].laps = 5;
+    tests.tests[0].test.splits = {30, 31};
+    tests.tests[0].test.totalTime = 61;
+    ASSERT_NO_FATAL_FAILURE(open(tests));
+    for (const auto& each : m_window->document().value()) {
+        m_window->list().choose(each->id);
+        EXPECT_EQ(part<QLabel>(each->eight() ? "score" : "total").text(),
+                  each->eight() ? "Total – · 2 of 5 splits are timed"
+                                : "Total: – · 2 of 5 sections are timed");
+    }
+    const QAbstractItemModel& table = *part<QTableView>("table").model();
+    const int total = 7; // behind name, date and five splits
+    ASSERT_EQ(table.headerData(total, Qt::Horizontal).toString(), "Total");
+    for (int row = 0; row < table.rowCount(); ++row)
+        if (test(listed()[static_cast<std::size_t>(row)]).eight())
+            EXPECT_EQ(table.index(row, total).data().toString(), "");
 }
 
 TEST_F(TestsCareTest, ADayThatIsNoneShowsNotThatOfAnotherTest) {

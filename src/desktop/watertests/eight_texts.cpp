@@ -1,29 +1,31 @@
 #include "desktop/watertests/eight_texts.h"
 
-#include "common/number_text.h"
+#include "desktop/shell/shown_number.h"
+#include "planning/eight_test.h"
 #include "planning/test_entry.h"
 
 #include <QCoreApplication>
 
 #include <algorithm>
-#include <cmath>
 
 namespace kavela::desktop {
 
-QString shownNumber(double value) {
-    return std::isfinite(value) && value != 0 ? QString::fromStdString(hundredthsText(value))
-                                              : QString("–");
+QString totalText(const datafor8& eight) {
+    return isWhole(eight) ? hundredthsOrDash(eight.totalsplit) : QStringLiteral("–");
 }
 
 QString deviationText(const datafor8& eight) {
-    const bool isWhole =
-        std::ranges::all_of(splitsOf(eight), [](double split) { return split > 0; });
-    return isWhole ? QString::fromStdString(hundredthsText(eight.sdv)) : QString("–");
+    return isWhole(eight) ? shownHundredths(eight.sdv) : QStringLiteral("–");
 }
 
 QString scoreText(const datafor8& eight) {
+    const auto splits = splitsOf(eight);
+    if (!isWhole(eight))
+        return QCoreApplication::translate("EightTest", "Total – · %1 of %2 splits are timed")
+            .arg(std::ranges::count_if(splits, [](double split) { return split > 0; }))
+            .arg(splits.size());
     return QCoreApplication::translate("EightTest", "Total %1 s · standard deviation %2 s")
-        .arg(shownNumber(eight.totalsplit), deviationText(eight));
+        .arg(totalText(eight), deviationText(eight));
 }
 
 } // namespace kavela::desktop

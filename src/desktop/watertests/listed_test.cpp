@@ -1,5 +1,6 @@
 #include "desktop/watertests/listed_test.h"
 
+#include "planning/eight_test.h"
 #include "planning/test_entry.h"
 
 #include <QCoreApplication>
@@ -67,7 +68,7 @@ testData tableRunOf(const ListedTest& test) {
     run.date = test.date();
     const auto splits = splitsOf(eight);
     run.splits.assign(splits.begin(), splits.end());
-    run.totalTime = eight.totalsplit;
+    run.totalTime = isWhole(eight) ? eight.totalsplit : 0;
     run.leftRotations = eight.zrotsubmaxL;
     run.rightRotations = eight.zrotsubmaxR;
     return run;

@@ -4,6 +4,7 @@
 #include "desktop/shell/number_box.h"
 #include "desktop/shell/theme.h"
 #include "desktop/watertests/entry_table.h"
+#include "planning/eight_test.h"
 #include "planning/test_from_motion.h"
 
 #include <QComboBox>

@@ -1,7 +1,8 @@
 #include "desktop/watertests/take_run_dialog.h"
 
-#include "common/number_text.h"
+#include "desktop/shell/shown_number.h"
 #include "desktop/shell/theme.h"
+#include "planning/eight_test.h"
 #include "planning/test_from_run.h"
 #include "splitdata/run_timing.h"
 
@@ -20,8 +21,6 @@ namespace kavela::desktop {
 
 namespace {
 
-constexpr std::size_t EightSplits = 5;
-
 QString qtText(const std::string& text) {
     return QString::fromStdString(text);
 }
@@ -36,12 +35,9 @@ QString sectionText(const std::vector<double>& times) {
 QStringList cellsOf(const athletedata031& run) {
     const std::vector<double>& times = run.sectioninfo.times;
     const double total = std::accumulate(times.begin(), times.end(), 0.0);
-    return {qtText(crewText(run.names)),
-            qtText(run.cat),
-            qtText(run.phase),
-            sectionText(times),
-            qtText(hundredthsText(total)),
-            run.bm.empty() ? QString() : TakeRunDialog::tr("yes")};
+    return {qtText(crewText(run.names)), qtText(run.cat),
+            qtText(run.phase),           sectionText(times),
+            shownHundredths(total),      run.bm.empty() ? QString() : TakeRunDialog::tr("yes")};
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 #include "desktop/watertests/test_list_panel.h"
 
 #include "common/folded_text.h"
+#include "desktop/shell/choose_alone.h"
 #include "desktop/shell/theme.h"
 #include "desktop/watertests/tests_document.h"
 
@@ -157,7 +158,7 @@ void TestListPanel::keepOneChosen() {
         index = m_shown->index(std::min(m_place, m_shown->rowCount() - 1),
                                TestListModel::AthleteColumn);
     if (m_table->selectionModel())
-        m_table->setCurrentIndex(index);
+        chooseAlone(*m_table, index);
     m_chosen = index.isValid() ? std::optional(idAt(index)) : std::nullopt;
     emit chosen();
     emit listChanged();
@@ -174,7 +175,7 @@ void TestListPanel::choose(TestId id) {
         m_kind->setCurrentIndex(0);
     }
     if (const QModelIndex shown = m_shown->mapFromSource(index); shown.isValid())
-        m_table->setCurrentIndex(shown);
+        chooseAlone(*m_table, shown);
 }
 
 std::vector<TestId> TestListPanel::selected() const {
@@ -220,7 +221,7 @@ void TestListPanel::tickHistory() {
 void TestListPanel::move(int rows) {
     const int row =
         std::clamp(m_table->currentIndex().row() + rows, 0, std::max(m_shown->rowCount() - 1, 0));
-    m_table->setCurrentIndex(m_shown->index(row, TestListModel::AthleteColumn));
+    chooseAlone(*m_table, m_shown->index(row, TestListModel::AthleteColumn));
 }
 
 } // namespace kavela::desktop
