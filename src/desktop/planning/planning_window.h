@@ -26,7 +26,7 @@ public:
     ~PlanningWindow() override;
 
     /// False, after an alert, when the file cannot be opened; what is shown then stays.
-    [[nodiscard]] bool open(const QString& path);
+    [[nodiscard]] bool open(const QString& path) override;
     /// A new planning; the path is where saving will propose to put it.
     void startNew(const QString& path);
 

@@ -26,6 +26,7 @@ EditedFile::EditedFile(Workspace& workspace, Autosave autosave, QObject* parent)
     m_keep.setSingleShot(true);
     m_keep.setInterval(KeepAfterMilliseconds);
     connect(&m_keep, &QTimer::timeout, this, &EditedFile::keepWork);
+    connect(&m_watcher, &QFileSystemWatcher::fileChanged, this, &EditedFile::noticeDisk);
 }
 
 EditedFile::~EditedFile() {
@@ -39,11 +40,28 @@ QString EditedFile::fileName() const {
 void EditedFile::begin(const QString& path, QWidget* over) {
     m_keep.stop();
     m_path = QFileInfo(path).absoluteFilePath();
-    m_readTime = lastWritten(m_path);
+    watch();
     m_undo.clear();
     if (m_readTime)
         m_workspace.addRecentFile(m_path);
     offerRecovery(over);
+}
+
+void EditedFile::watch() {
+    if (!m_watcher.files().isEmpty())
+        m_watcher.removePaths(m_watcher.files());
+    m_readTime = lastWritten(m_path);
+    if (m_readTime)
+        m_watcher.addPath(m_path);
+}
+
+void EditedFile::noticeDisk() {
+    const auto now = lastWritten(m_path);
+    // A file that was replaced by renaming is watched no longer.
+    if (now && m_watcher.files().isEmpty())
+        m_watcher.addPath(m_path);
+    if (now != m_readTime)
+        emit changedElsewhere();
 }
 
 void EditedFile::offerRecovery(QWidget* over) {
@@ -123,7 +141,7 @@ bool EditedFile::saveAs(const QString& path, QWidget* over) {
         return false;
     m_autosave.forget(m_path);
     m_path = QFileInfo(path).absoluteFilePath();
-    m_readTime = lastWritten(m_path);
+    watch();
     m_undo.setClean();
     m_keep.stop();
     m_workspace.addRecentFile(m_path);

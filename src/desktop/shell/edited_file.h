@@ -2,6 +2,7 @@
 
 #include "desktop/shell/autosave.h"
 
+#include <QFileSystemWatcher>
 #include <QObject>
 #include <QTimer>
 #include <QUndoStack>
@@ -45,6 +46,8 @@ public:
 signals:
     void changed();
     void saved();
+    /// Another program wrote the file, or took it away, since it was read or saved here.
+    void changedElsewhere();
 
 protected:
     /// The document as its file holds it. Throws EncodeError.
@@ -70,11 +73,14 @@ protected:
 private:
     [[nodiscard]] bool write(const QString& path, QWidget* over);
     void offerRecovery(QWidget* over);
+    void watch();
+    void noticeDisk();
 
     Workspace& m_workspace;
     Autosave m_autosave;
     QUndoStack m_undo;
     QTimer m_keep;
+    QFileSystemWatcher m_watcher;
     QString m_path;
     std::optional<std::filesystem::file_time_type> m_readTime;
 };

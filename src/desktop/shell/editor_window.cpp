@@ -11,7 +11,9 @@
 #include <QCloseEvent>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QLabel>
 #include <QMenuBar>
+#include <QToolBar>
 
 namespace kavela::desktop {
 
@@ -60,7 +62,53 @@ QMenu* EditorWindow::makeEditMenu() {
     return menu;
 }
 
+/// A bar above the window's parts, shown when there is something to say about the file.
+void EditorWindow::makeNote() {
+    m_noteText = new QLabel;
+    m_noteText->setTextFormat(Qt::PlainText);
+    m_noteText->setWordWrap(true);
+    m_noteText->setMargin(theme::SmallSpacing);
+    m_noteText->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
+    m_note = new QToolBar;
+    m_note->setObjectName("fileNote");
+    m_note->setMovable(false);
+    m_note->toggleViewAction()->setVisible(false);
+    m_note->addWidget(m_noteText);
+    m_note->addAction(tr("Open it again"), this, &EditorWindow::openAgain);
+    m_note->addAction(tr("Keep what is here"), m_note, &QWidget::hide);
+    addToolBar(m_note);
+    m_note->hide();
+    connect(&m_file, &EditedFile::changedElsewhere, this, &EditorWindow::noteChange);
+    connect(&m_file, &EditedFile::saved, m_note, &QWidget::hide);
+}
+
+void EditorWindow::noteChange() {
+    const QString name = QFileInfo(m_file.path()).fileName();
+    const bool isThere = QFileInfo::exists(m_file.path());
+    m_noteText->setText(
+        isThere ? tr("⚠ Another program changed “%1”. What is shown here is from before.").arg(name)
+                : tr("⚠ “%1” is no longer in its folder. Saving puts it there again.").arg(name));
+    m_note->actions().at(1)->setVisible(isThere);
+    m_note->show();
+}
+
+void EditorWindow::openAgain() {
+    const bool isWanted =
+        !m_file.isDirty() ||
+        m_workspace.ask({"", tr("Opening “%1” again gives up what was not saved here.")
+                                 .arg(m_file.fileName())
+                                 .toStdString()},
+                        tr("Open it again"), this);
+    if (!isWanted)
+        return;
+    if (m_file.isDirty())
+        m_file.discard();
+    if (open(m_file.path()))
+        m_note->hide();
+}
+
 void EditorWindow::finishMenus(std::function<Commands()> more) {
+    makeNote();
     connect(&m_file, &EditedFile::changed, this, &EditorWindow::showTitle);
     connect(&m_file, &EditedFile::saved, this, &EditorWindow::showTitle);
     connect(&m_file.undoStack(), &QUndoStack::cleanChanged, this, &EditorWindow::showTitle);

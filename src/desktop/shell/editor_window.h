@@ -6,6 +6,7 @@
 
 class QMenu;
 
+class QToolBar;
 namespace kavela::desktop {
 
 class EditedFile;
@@ -27,6 +28,9 @@ public:
     /// The path of a new document was chosen by the coach: saving need not ask for one.
     void setNamed() { m_isNamed = true; }
     /// Asks for a name where the document has none on the disk yet.
+    /// Opens a file in place of what is shown. False, after an alert, when it cannot be opened;
+    /// what is shown then stays.
+    [[nodiscard]] virtual bool open(const QString& path) = 0;
     bool save();
     bool saveAs();
 
@@ -59,9 +63,14 @@ private:
     EditedFile& m_file;
     QString m_kind;
     QString m_toolTitle;
+    void makeNote();
+    void noteChange();
+    void openAgain();
     QString m_suffix;
     QMenu* m_fileMenu = nullptr;
     bool m_isNamed = false;
 };
 
 } // namespace kavela::desktop
+    QToolBar* m_note = nullptr;
+    QLabel* m_noteText = nullptr;

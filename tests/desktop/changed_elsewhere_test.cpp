@@ -1,0 +1,108 @@
+#include "desktop/selection/selection_window.h"
+
+#include "common/json_encode.h"
+#include "common/recorders.h"
+#include "common/safe_file.h"
+#include "common/temp_folder.h"
+#include "desktop/shell/workspace.h"
+#include "results/selection_file.h"
+
+#include <gmock/gmock.h>
+
+#include <QAction>
+#include <QLabel>
+#include <QTest>
+#include <QToolBar>
+
+#include <filesystem>
+
+/// A file that another program writes while a window edits it.
+namespace kavela::test {
+namespace {
+
+using ::testing::HasSubstr;
+using ::testing::SizeIs;
+
+class ChangedElsewhereTest : public ::testing::Test {
+protected:
+    ChangedElsewhereTest() {
+        m_workspace.setAlerts(&m_recorder);
+        m_workspace.setAnswer([this](const Alert& question) {
+            m_questions.push_back(question.text);
+            return m_answer;
+        });
+        m_window.setAttribute(Qt::WA_DeleteOnClose, false);
+        m_window.startNew(path(), 2026);
+        m_window.addRace("Riverside");
+        EXPECT_TRUE(m_window.document().saveAs(path(), nullptr));
+        m_window.show();
+    }
+
+    [[nodiscard]] QString path() const { return QString::fromStdString(file().string()); }
+    [[nodiscard]] std::filesystem::path file() const { return m_folder.path() / "trials.kvsr"; }
+    [[nodiscard]] bool isTold() const { return m_note->isVisible(); }
+    void openAgain() { m_note->actions().at(1)->trigger(); }
+
+    /// As another program would: the file is replaced as a whole.
+    void writeElsewhere(const char* race) {
+        selectionracesStruct_v3 document = m_window.document().value();
+        document.races.at(0).location = race;
+        writeFileSafely(file(), encode(document));
+    }
+    [[nodiscard]] std::string race() { return m_window.document().value().races.at(0).location; }
+
+    TempFolder m_folder;
+    Recorder m_recorder;
+    std::vector<std::string> m_questions;
+    bool m_answer = false;
+    desktop::Workspace m_workspace{Preferences(m_folder.path() / "preferences.ini"),
+                                   m_recorder.log(), [] { return ReferenceDate{7e8}; }};
+    desktop::SelectionWindow m_window{m_workspace, desktop::Autosave(QString::fromStdString(
+                                                       (m_folder.path() / "kept").string()))};
+    QToolBar* m_note = m_window.findChild<QToolBar*>("fileNote");
+};
+
+TEST_F(ChangedElsewhereTest, IsToldAtOnceAndOpenedAgain) {
+    EXPECT_FALSE(isTold());
+    for (const char* there : {"Harbour", "Lake"}) { // also the file that took its place is watched
+        writeElsewhere(there);
+        ASSERT_TRUE(QTest::qWaitFor([this] { return isTold(); }));
+        EXPECT_THAT(m_note->findChild<QLabel*>()->text().toStdString(), HasSubstr("trials.kvsr"));
+        EXPECT_EQ(race(), there == std::string("Lake") ? "Harbour" : "Riverside");
+        openAgain();
+        EXPECT_EQ(race(), there);
+        EXPECT_FALSE(isTold());
+    }
+    EXPECT_THAT(m_questions, SizeIs(0));
+}
+
+TEST_F(ChangedElsewhereTest, UnsavedWorkGivesWayOnlyWhenAgreed) {
+    m_window.addRace("Mine");
+    writeElsewhere("Harbour");
+    ASSERT_TRUE(QTest::qWaitFor([this] { return isTold(); }));
+    openAgain();
+    EXPECT_THAT(m_questions, SizeIs(1));
+    EXPECT_EQ(race(), "Riverside");
+    EXPECT_TRUE(m_window.document().isDirty());
+    m_answer = true;
+    openAgain();
+    EXPECT_EQ(race(), "Harbour");
+    EXPECT_FALSE(isTold());
+}
+
+TEST_F(ChangedElsewhereTest, OwnSavesAreNotTold) {
+    m_window.addRace("Second");
+    ASSERT_TRUE(m_window.save());
+    writeElsewhere(
+        "Harbour"); // so that the watch has something to tell, which comes behind the save
+    ASSERT_TRUE(QTest::qWaitFor([this] { return isTold(); }));
+    m_answer = true;
+    m_window.addRace("Third");
+    ASSERT_TRUE(m_window.save());
+    EXPECT_FALSE(isTold());
+    QApplication::processEvents();
+    EXPECT_FALSE(isTold());
+}
+
+} // namespace
+} // namespace kavela::test
