@@ -5,6 +5,7 @@
 #include "desktop/cross/cross_window.h"
 #include "desktop/motion/motion_window.h"
 #include "desktop/opened_as.h"
+#include "desktop/planning/planning_window.h"
 #include "desktop/race/race_window.h"
 #include "desktop/shell/edited_file.h"
 #include "desktop/shell/editor_window.h"
@@ -79,8 +80,8 @@ Desktop::Desktop(Workspace& workspace, std::optional<Autosave> autosave)
     : m_workspace(workspace),
       m_autosave(autosave ? std::move(*autosave) : Autosave(autosaveFolder())) {
     loadIcons();
-    QApplication::setWindowIcon(icon("kavela"));
     qApp->installEventFilter(&m_wheelGuard);
+    QApplication::setWindowIcon(icon("kavela"));
     connect(&m_workspace, &Workspace::openRequested, this, &Desktop::open);
 }
 
@@ -382,6 +383,8 @@ void Desktop::show(EditorWindow* window) {
     connect(window, &EditorWindow::openRequested, this,
             [this](const QStringList& paths) { openAll(paths); });
     connect(&window->file(), &EditedFile::saved, this, &Desktop::rememberSession);
+    if (auto* const planning = qobject_cast<PlanningWindow*>(window))
+        connect(planning, &PlanningWindow::copyRequested, this, &Desktop::showPlanningCopy);
     rememberWithout(window);
     m_editors.append(window);
     window->show();

@@ -80,6 +80,8 @@ private:
     void chooseSelection();
     void choosePlanning();
     void loadOnlinePlanning();
+    /// A planning of the server in a window of its own.
+    void showPlanningCopy(const QByteArray& content, const QString& name);
     void chooseTests();
     void chooseRecordings();
     void chooseSession();
@@ -120,9 +122,9 @@ private:
     [[nodiscard]] QWidget* front() const;
 
     Workspace& m_workspace;
+    WheelGuard m_wheelGuard;
     QPointer<HomeWindow> m_home;
     QList<QPointer<RaceWindow>> m_races;
-    WheelGuard m_wheelGuard;
     QList<QPointer<TakingWindow>> m_takings;
     QList<QPointer<CrossWindow>> m_crosses;
     QList<QPointer<EditorWindow>> m_editors;

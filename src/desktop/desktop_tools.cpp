@@ -170,6 +170,18 @@ void Desktop::loadPlanningAtStart() {
         (void)openPlanning(path);
 }
 
+void Desktop::showPlanningCopy(const QByteArray& content, const QString& name) {
+    auto* window = new PlanningWindow(m_workspace, m_autosave);
+    const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    if (window->showCopy(content,
+                         documents + '/' + tr("%1 (on the server)").arg(name) + ".planning")) {
+        show(window);
+        return;
+    }
+    delete window;
+    m_workspace.showAlert({"", tr("What the server has is no planning.").toStdString()}, front());
+}
+
 /// The store asks for a password, which is kept nowhere, so that the coach is asked for it.
 void Desktop::loadOnlinePlanning() {
     auto* window = new PlanningWindow(m_workspace, m_autosave);

@@ -22,6 +22,15 @@ bool PlanningDocument::open(const QString& path, QWidget* over) {
     return true;
 }
 
+bool PlanningDocument::isPlanning(const std::string& text) const {
+    try {
+        return recognisePlanningDocument(JsonDocument::fromText(text), workspace().log()).version;
+    } catch (const DecodeError& error) {
+        workspace().log()(error.what());
+        return false;
+    }
+}
+
 bool PlanningDocument::startFrom(const std::string& text, const QString& path, QWidget* over) {
     try {
         auto found = recognisePlanningDocument(JsonDocument::fromText(text), workspace().log());

@@ -27,6 +27,8 @@ public:
     /// first keeps the file as it was. False, after an alert, when no version decodes; the document
     /// then stays as it is.
     [[nodiscard]] bool open(const QString& path, QWidget* over);
+    /// Whether a text is a planning of any version.
+    [[nodiscard]] bool isPlanning(const std::string& text) const;
     /// A planning that came from elsewhere as text, to be saved under a path; false when no version
     /// decodes. The document then stays as it is.
     [[nodiscard]] bool startFrom(const std::string& text, const QString& path, QWidget* over);

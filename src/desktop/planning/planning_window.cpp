@@ -48,7 +48,8 @@ PlanningWindow::PlanningWindow(Workspace& workspace, Autosave autosave)
 
 PlanningWindow::PlanningWindow(Workspace& workspace, std::unique_ptr<PlanningDocument> document)
     : EditorWindow(workspace, *document, "planning", tr("Planning"), "planning"),
-      m_document(std::move(document)) {
+      m_document(std::move(document)),
+      m_states(workspace) {
     makeParts();
     connectParts();
     QMenu* const fileMenu = makeFileMenu();
@@ -101,6 +102,8 @@ void PlanningWindow::connectParts() {
             [this](const QString& text) { statusBar()->showMessage(text, ToldMilliseconds); });
     for (const SeasonPanel* const panel : m_tabs->findChildren<SeasonPanel*>())
         connect(panel, &SeasonPanel::refused, this, &PlanningWindow::tell, Qt::QueuedConnection);
+    connect(m_document.get(), &EditedFile::saved, this,
+            [this] { m_states.keepWith(m_document->path()); });
     connect(m_intervals, &IntervalsPanel::refused, this, &PlanningWindow::tell,
             Qt::QueuedConnection);
 }
@@ -112,6 +115,7 @@ bool PlanningWindow::open(const QString& path) {
         return false;
     }
     statusBar()->clearMessage();
+    m_states.begin(m_document->path());
     if (const std::size_t count = m_document->withoutPlace())
         tell(tr("%1 measurements of heart-rate variability of this older file hold only a highest "
                 "and a lowest value, for which the present version has no place: their dates are "
@@ -124,6 +128,7 @@ bool PlanningWindow::open(const QString& path) {
 
 void PlanningWindow::startNew(const QString& path) {
     m_document->startNew(path, this);
+    m_states.begin({});
     m_athletes->list().setFocus();
 }
 

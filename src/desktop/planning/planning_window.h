@@ -1,5 +1,6 @@
 #pragma once
 
+#include "desktop/planning/online/online_states.h"
 #include "desktop/planning/online/online_store.h"
 #include "desktop/planning/planning_document.h"
 #include "desktop/shell/editor_window.h"
@@ -51,7 +52,12 @@ public:
     void writeCalendar(const QString& path);
     void askForCalendar();
 
-    /// Puts the planning and its access record into the store under the entry's name.
+    /// A planning that was read elsewhere, to be looked at; the name is where saving will propose
+    /// to put it. False when it is none.
+    [[nodiscard]] bool showCopy(const QByteArray& content, const QString& path);
+
+    /// Puts the planning and its access record into the store under the entry's name. Asks before
+    /// it replaces what somebody else put there.
     void saveOnline(const OnlineAddress& address, const QString& entry);
     void askToSaveOnline();
     /// Opens a planning of the store as an unsaved document; what is shown stays when that fails.
@@ -60,6 +66,9 @@ public:
 
 signals:
     void onlineLoaded(bool isOpen);
+    void onlineSaved(bool isSaved);
+    /// What lies on the server is to be looked at in a window of its own.
+    void copyRequested(const QByteArray& content, const QString& name);
 
 protected:
     void takeFiles(const QStringList& paths) override;
@@ -71,9 +80,14 @@ private:
     void connectParts();
     void showSeason();
     void tell(const QString& text);
+    void tellOnlineFault(const QString& reason);
+    void chooseForChanged(OnlineSaving& saving, const OnlineAddress& address, const QString& entry,
+                          const QByteArray& there);
+    void saveOnlineUnderAnotherName(const OnlineAddress& address, const QString& entry);
 
     std::unique_ptr<PlanningDocument> m_document;
     OnlineStore m_store;
+    OnlineStates m_states;
     AthleteList* m_athletes = nullptr;
     QTabWidget* m_tabs = nullptr;
     PlanView* m_plan = nullptr;

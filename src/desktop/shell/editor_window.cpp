@@ -101,10 +101,13 @@ void EditorWindow::openAgain() {
                         tr("Open it again"), this);
     if (!isWanted)
         return;
-    if (m_file.isDirty())
-        m_file.discard();
+    const bool wasDirty = m_file.isDirty();
+    if (wasDirty)
+        m_file.discard(); // or opening would offer it
     if (open(m_file.path()))
         m_note->hide();
+    else if (wasDirty)
+        m_file.undoStack().resetClean(); // it is still here, and unsaved
 }
 
 void EditorWindow::finishMenus(std::function<Commands()> more) {
@@ -123,11 +126,15 @@ void EditorWindow::finishMenus(std::function<Commands()> more) {
 }
 
 bool EditorWindow::save() {
+    if (!takeTyping(*this))
+        return false;
     commit();
     return m_isNamed || QFileInfo::exists(m_file.path()) ? m_file.save(this) : saveAs();
 }
 
 bool EditorWindow::saveAs() {
+    if (!takeTyping(*this))
+        return false;
     commit();
     QFileDialog dialog(this, tr("Save"), QFileInfo(m_file.path()).path(),
                        tr("%1 files (*.%2)").arg(m_toolTitle, m_suffix));
@@ -142,16 +149,18 @@ bool EditorWindow::mayLeave() {
     if (!takeTyping(*this))
         return false;
     commit();
-    if (m_file.isDirty()) {
-        const auto choice = m_workspace.askToSave(m_file.fileName(), this);
-        if (choice == Workspace::Leaving::Stay || (choice == Workspace::Leaving::Save && !save())) {
-            event->ignore();
-            return;
-        }
-        if (choice == Workspace::Leaving::Discard)
-            m_file.discard();
-    }
-    event->accept();
+    if (!m_file.isDirty())
+        return true;
+    const auto choice = m_workspace.askToSave(m_file.fileName(), this);
+    if (choice == Workspace::Leaving::Save)
+        return save();
+    if (choice == Workspace::Leaving::Discard)
+        m_file.discard();
+    return choice == Workspace::Leaving::Discard;
+}
+
+void EditorWindow::closeEvent(QCloseEvent* event) {
+    event->setAccepted(mayLeave());
 }
 
 void EditorWindow::dragEnterEvent(QDragEnterEvent* event) {
@@ -167,7 +176,3 @@ void EditorWindow::takeFiles(const QStringList& paths) {
 }
 
 } // namespace kavela::desktop
-    if (!takeTyping(*this))
-        return false;
-    if (!takeTyping(*this))
-        return false;

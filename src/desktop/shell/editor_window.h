@@ -4,9 +4,10 @@
 
 #include <QMainWindow>
 
+class QLabel;
 class QMenu;
-
 class QToolBar;
+
 namespace kavela::desktop {
 
 class EditedFile;
@@ -27,10 +28,10 @@ public:
     [[nodiscard]] EditedFile& file() const { return m_file; }
     /// The path of a new document was chosen by the coach: saving need not ask for one.
     void setNamed() { m_isNamed = true; }
-    /// Asks for a name where the document has none on the disk yet.
     /// Opens a file in place of what is shown. False, after an alert, when it cannot be opened;
     /// what is shown then stays.
     [[nodiscard]] virtual bool open(const QString& path) = 0;
+    /// Asks for a name where the document has none on the disk yet.
     bool save();
     bool saveAs();
 
@@ -49,6 +50,10 @@ protected:
     /// before it is saved.
     virtual void commit() {}
 
+    /// Whether the document may give way to another one, or to none: what is typed is taken, and
+    /// unsaved work is asked for.
+    [[nodiscard]] bool mayLeave();
+
     /// The menus in front, with `reports` behind saving where the tool has reports; then the tool's
     /// own; then finishMenus().
     QMenu* makeFileMenu();
@@ -58,19 +63,19 @@ protected:
 
 private:
     void showTitle();
+    void makeNote();
+    void noteChange();
+    void openAgain();
 
     Workspace& m_workspace;
     EditedFile& m_file;
     QString m_kind;
     QString m_toolTitle;
-    void makeNote();
-    void noteChange();
-    void openAgain();
     QString m_suffix;
     QMenu* m_fileMenu = nullptr;
     bool m_isNamed = false;
+    QToolBar* m_note = nullptr;
+    QLabel* m_noteText = nullptr;
 };
 
 } // namespace kavela::desktop
-    QToolBar* m_note = nullptr;
-    QLabel* m_noteText = nullptr;

@@ -81,6 +81,23 @@ bool Workspace::ask(const Alert& question, const QString& yes, QWidget* over) co
     return box.clickedButton() == agree;
 }
 
+int Workspace::choose(const Alert& question, const QStringList& choices, QWidget* over) const {
+    if (m_choice)
+        return m_choice(question, choices);
+    QMessageBox box(QMessageBox::Question, QString::fromStdString(question.title),
+                    QString::fromStdString(question.title.empty() ? question.text : question.title),
+                    QMessageBox::Cancel, over);
+    if (!question.title.empty())
+        box.setInformativeText(QString::fromStdString(question.text));
+    box.setTextFormat(Qt::PlainText);
+    QList<QAbstractButton*> buttons;
+    for (const QString& choice : choices)
+        buttons.append(box.addButton(choice, QMessageBox::ActionRole));
+    box.setDefaultButton(qobject_cast<QPushButton*>(buttons.constFirst()));
+    box.exec();
+    return static_cast<int>(buttons.indexOf(box.clickedButton()));
+}
+
 Workspace::Leaving Workspace::askToSave(const QString& document, QWidget* over) const {
     const QString question = tr("Save the changes to %1?").arg(document);
     if (m_answer)

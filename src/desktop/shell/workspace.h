@@ -52,6 +52,14 @@ public:
     /// is a no.
     [[nodiscard]] bool ask(const Alert& question, const QString& yes, QWidget* over) const;
 
+    /// Chooses in place of message boxes, as in tests: the place of one of the choices.
+    using Choice = std::function<int(const Alert& question, const QStringList& choices)>;
+    void setChoice(Choice choice) { m_choice = std::move(choice); }
+    /// Asks which of several ways to go, the most careful one first; Enter takes that. -1 for none,
+    /// such as by Escape.
+    [[nodiscard]] int choose(const Alert& question, const QStringList& choices,
+                             QWidget* over) const;
+
     enum class Leaving { Save, Discard, Stay };
     /// Asks what to do with unsaved work before a window closes.
     [[nodiscard]] Leaving askToSave(const QString& document, QWidget* over) const;
@@ -68,6 +76,7 @@ private:
     Clock m_clock;
     Alerts* m_alerts = nullptr;
     Answer m_answer;
+    Choice m_choice;
 };
 
 /// Alerts of the plain libraries, shown through the workspace over a window.

@@ -18,6 +18,21 @@ struct OnlineAddress {
     [[nodiscard]] QString fault() const;
 };
 
+/// What a server answered about a file.
+struct OnlineAnswer {
+    QString reason; ///< why it failed; empty on success, and where there is no such file
+    bool isThere = true;
+    bool isRefusedByCondition = false; ///< the file is not the one that was meant to be replaced
+    QByteArray mark;                   ///< the server's for this state of the file; empty for none
+    QByteArray content;
+};
+
+/// Which state of a file a put may replace.
+struct OnlineCondition {
+    QByteArray mark;    ///< this one; empty for any, where the server has no marks
+    bool isNew = false; ///< none: there must be no such file yet
+};
+
 /// Files of shared plannings on such a server. Everything is asynchronous; an answer that does not
 /// come within half a minute is a failure.
 class OnlineStore : public QObject {
@@ -30,16 +45,19 @@ public:
         QString name; ///< within the folder
         QByteArray content;
     };
-    /// `reason` is empty on success.
-    using Done = std::function<void(const QString& reason)>;
-    using Fetched = std::function<void(const QByteArray& content, const QString& reason)>;
+    using Answered = std::function<void(const OnlineAnswer& answer)>;
 
-    /// Puts the files there one after the other, in this order, and stops at the first failure.
-    void put(const OnlineAddress& address, QList<Upload> files, const Done& done);
-    void get(const OnlineAddress& address, const QString& name, const Fetched& fetched);
+    /// Whether there is a file and in which state, without its content.
+    void look(const OnlineAddress& address, const QString& name, const Answered& answered);
+    void get(const OnlineAddress& address, const QString& name, const Answered& answered);
+    void put(const OnlineAddress& address, const Upload& file, const OnlineCondition& condition,
+             const Answered& answered);
 
 private:
     [[nodiscard]] static QNetworkRequest request(const OnlineAddress& address, const QString& name);
+    /// Sends nothing to an address that has a fault.
+    void send(const OnlineAddress& address, const std::function<QNetworkReply*()>& sent,
+              const Answered& answered);
 
     QNetworkAccessManager m_network;
 };
