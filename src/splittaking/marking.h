@@ -25,19 +25,30 @@ struct RunMarks {
     friend bool operator==(const RunMarks&, const RunMarks&) = default;
 };
 
-/// Marks the next split. On a course whose splits are all taken nothing is recorded, and the alert
-/// says so; likewise without a player's stamp.
+/// Marks the next split; a frame between two marks puts in the split that was missed there, or the
+/// one that was not seen, and those behind it move up. The marks of a run lie in order of time on
+/// the first camera: a frame before the start or on another mark records nothing, and the alert
+/// says why; likewise on a course whose splits are all taken, and without a player's stamp.
 [[nodiscard]] std::optional<Alert> markSplit(RunMarks& run, Stamps stamps,
                                              std::int64_t totalsplits);
 
-/// What the marking key does: the first press marks the start, each later one a split.
+/// What the marking key does: the first press marks the start, each later one a split. A start that
+/// is not known is marked by a frame before the first split.
 [[nodiscard]] std::optional<Alert> markNext(RunMarks& run, Stamps stamps, std::int64_t totalsplits);
 
-/// Sets the start mark, before or after the splits. The first time changes with it.
+/// The mark at a moment of the first camera's film: 0 is the start, 1 the first split.
+[[nodiscard]] std::optional<std::size_t> markAt(const RunMarks& run, const CMTime& moment);
+
+/// Why a mark, counted as by markAt(), cannot be moved to a moment of the first camera's film: it
+/// would lie on its neighbour or beyond. Nothing when it can.
+[[nodiscard]] std::optional<Alert> refusalToMove(const RunMarks& run, std::size_t mark,
+                                                 const CMTime& moment);
+
+/// Sets the start mark whatever the splits are. The first time changes with it.
 void setStart(RunMarks& run, Stamps stamps);
 
-/// Moves the mark of a split: its time and the next one's change. Throws std::out_of_range when the
-/// split is not marked.
+/// Moves the mark of a split, wherever that is: its time and the next one's change. Throws
+/// std::out_of_range when the split is not marked.
 void moveMark(RunMarks& run, std::size_t split, Stamps stamps);
 
 /// Takes out a mark that should not be there, a second press by mistake: the marks after it move

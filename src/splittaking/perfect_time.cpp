@@ -81,6 +81,14 @@ PerfectTime perfectTime(const std::vector<athletedata031>& runs) {
     return perfect;
 }
 
+void blankNegativeTimes(std::vector<athletedata031>& runs) {
+    for (athletedata031& run : runs) {
+        for (double& time : run.sectioninfo.times)
+            time = std::max(time, 0.0);
+        run.sectioninfo.sprinttime = std::max(run.sectioninfo.sprinttime, 0.0);
+    }
+}
+
 double expectedFactor(const sectiondata030& timing, const std::vector<double>& best) {
     std::vector<double> ratios;
     ratios.reserve(timing.times.size() + 1);

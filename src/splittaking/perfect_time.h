@@ -20,6 +20,10 @@ struct PerfectTime {
 /// is set to 0.
 [[nodiscard]] PerfectTime perfectTime(const std::vector<athletedata031>& runs);
 
+/// Blanks times below 0, which a file from elsewhere may hold, so that they are no best values
+/// where times are shown while they are taken. What is stored follows perfectTime() to the letter.
+void blankNegativeTimes(std::vector<athletedata031>& runs);
+
 /// A run's expected-time factor: its times, and always its sprint, divided by the best values; of
 /// the ratios in ascending order the smallest and the largest are dropped, and once more where two
 /// or more are left; the factor is the mean of the rest, 0 when there is none. A ratio that is not

@@ -55,6 +55,62 @@ TEST(Marking, RefusesMoreSplitsThanTheCourseHas) {
     EXPECT_EQ(run, before);
 }
 
+/// A start at 2 s, splits at 12, 24.346 and 29.346 s.
+TEST(Marking, KeepsTheMarksInTheOrderOfTime) {
+    struct Row {
+        const char* name;
+        std::int64_t moment;
+        std::vector<double> times;
+        std::string refusal;
+    };
+    const std::vector<double> before{10, 12.346, 5};
+    for (const Row& row : {
+             Row{"behind all", 31346, {10, 12.346, 5, 2}, ""},
+             Row{"missed between two", 20000, {10, 8, 4.346, 5}, ""},
+             Row{"missed behind the start", 4000, {2, 8, 12.346, 5}, ""},
+             Row{"before the start", 1000, before, "This frame lies before the start at 2.00."},
+             Row{"on the start", 2000, before, "The start is marked on this frame already."},
+             Row{"on a split", 24346, before, "Split 2 is marked on this frame already."},
+         }) {
+        RunMarks run = threeSplits();
+        const auto refused = markNext(run, {at(row.moment), at(row.moment - 1500)}, 7);
+        EXPECT_EQ(refused ? refused->text : "", row.refusal) << row.name;
+        EXPECT_THAT(splitTimes(run), seconds(row.times)) << row.name;
+        EXPECT_EQ(markAt(run, at(row.moment)).has_value(),
+                  row.refusal.empty() || refused->text.ends_with("already."))
+            << row.name;
+    }
+    RunMarks full = threeSplits();
+    EXPECT_TRUE(markNext(full, {at(20000)}, 3)) << "there is no room for a fourth";
+    full.marks[1].clear();
+    EXPECT_FALSE(markNext(full, {at(20000)}, 3)) << "but for the one that was not seen";
+    EXPECT_EQ(markAt(full, at(20000)), 2U);
+    RunMarks unstarted{std::nullopt, {{at(12000)}}};
+    EXPECT_FALSE(markNext(unstarted, {at(3000)}, 7));
+    EXPECT_EQ(markAt(unstarted, at(3000)), 0U);
+}
+
+TEST(Marking, RefusesToMoveAMarkOntoItsNeighbourOrBeyond) {
+    RunMarks run = threeSplits();
+    struct Row {
+        std::size_t mark;
+        std::int64_t moment;
+        const char* refusal;
+    };
+    for (const Row& row : {Row{2, 12001, ""}, Row{2, 29345, ""}, Row{3, 99000, ""}, Row{0, -5, ""},
+                           Row{2, 12000, "Split 1 is marked on this frame already."},
+                           Row{2, 11000, "This frame lies before split 1 at 12.00."},
+                           Row{2, 30000, "This frame lies after split 3 at 29.35."},
+                           Row{0, 12000, "Split 1 is marked on this frame already."},
+                           Row{1, 1999, "This frame lies before the start at 2.00."}}) {
+        const auto refused = refusalToMove(run, row.mark, at(row.moment));
+        EXPECT_EQ(refused ? refused->text : "", row.refusal) << row.mark << " to " << row.moment;
+    }
+    run.marks[1].clear();
+    EXPECT_FALSE(refusalToMove(run, 3, at(13000)));
+    EXPECT_TRUE(refusalToMove(run, 3, at(11000))) << "beyond one that was not seen";
+}
+
 TEST(Marking, EditsAsACoachNeeds) {
     struct Row {
         const char* name;

@@ -64,6 +64,12 @@ TEST(PerfectTime, TakesTheBestOfEverySlot) {
         EXPECT_EQ(bestOf(row.runs), row.best) << row.name;
 }
 
+TEST(PerfectTime, LetsNoNegativeTimeBeShownAsABest) {
+    std::vector<athletedata031> runs{runOf({7, 5}, 2), runOf({-1, 6}, -3)};
+    blankNegativeTimes(runs);
+    EXPECT_THAT(bestOf(runs), ElementsAre(7, 5, 2));
+}
+
 TEST(PerfectTime, SharesTheSlotsAfterTheTenth) {
     EXPECT_EQ(perfectTime({}).best.size(), 12U);
     std::vector<double> best = upTo(11);
