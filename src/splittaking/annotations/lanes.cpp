@@ -77,7 +77,7 @@ private:
 
     void addMicroSplits() {
         for (std::size_t k = 0; k < m_run.microsplits.size(); ++k)
-            add({}, m_run.microsplits[k].cmtime, hundredthsText(m_run.microsplits[k].time),
+            add({}, m_run.microsplits[k].cmtime, "Micro " + std::to_string(k + 1),
                 {MarkKind::MicroSplit, k});
     }
 

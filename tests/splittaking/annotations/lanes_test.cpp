@@ -54,7 +54,7 @@ TEST(AnnotationLanes, ListEveryMarkByTime) {
     EXPECT_THAT(lanes.titles, ElementsAre("Start", "Splits", "Micro splits", "Upstream gates",
                                           "Strokes", "Time losses", "Exit"));
     EXPECT_THAT(textsOf(marksOn(lanes.marks, First, All)),
-                ElementsAre("Start", "Right", "6.00", "Gate 3 entrance", "Gate 3 exit", "1-3",
+                ElementsAre("Start", "Right", "Micro 1", "Gate 3 entrance", "Gate 3 exit", "1-3",
                             "Loss against Ana, start: 0.00 s", "S2",
                             "Loss against Ana, end: 0.00 s", "7-8"));
     EXPECT_THAT(textsOf(marksOn(lanes.marks, {FilmKind::Own, 1}, All)),
@@ -75,9 +75,9 @@ TEST(AnnotationLanes, TakeOddMarksAsTheyAre) {
     run.customData = {{-7, {"a", "b"}, {CMTime{}, at(6)}, "", 0, {at(1), at(2), at(3)}}};
     const AnnotationLanes lanes = annotationLanes(run, {});
     EXPECT_THAT(textsOf(marksOn(lanes.marks, First, All)),
-                ElementsAre("-3.00", "Gate 3 entrance", "Loss against , start: 0.00 s",
+                ElementsAre("Micro 2", "Gate 3 entrance", "Loss against , start: 0.00 s",
                             "Gate 3 middle", "Loss against , end: 0.00 s", "Gate 3",
-                            "Loss against , 3: 0.00 s", "Gate 3 exit", "9.00"));
+                            "Loss against , 3: 0.00 s", "Gate 3 exit", "Micro 4"));
     EXPECT_THAT(textsOf(marksOn(lanes.marks, {FilmKind::Own, 1}, All)), ElementsAre("5, 66"));
     EXPECT_THAT(textsOf(marksOn(lanes.marks, {FilmKind::Own, -7}, All)), ElementsAre("b"));
     EXPECT_THAT(textsOf(marksOn(lanes.marks, {FilmKind::Fixed, 0}, All)),
