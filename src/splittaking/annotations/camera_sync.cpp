@@ -1,5 +1,6 @@
 #include "splittaking/annotations/camera_sync.h"
 
+#include "common/percentile.h"
 #include "splitdata/run_timing.h"
 
 #include <algorithm>
@@ -9,14 +10,21 @@ namespace kavela {
 namespace {
 
 bool isOnBoth(const Tag& tag, std::size_t camera) {
-    return tag.video == 0 && std::cmp_equal(tag.fixedCamera, camera) && tag.moment &&
-           tag.fixedMoment;
+    return tag.name == SyncTag && tag.video == 0 && std::cmp_equal(tag.fixedCamera, camera) &&
+           tag.moment && tag.fixedMoment;
 }
 
 } // namespace
 
 std::optional<double> lagOf(const athletedata031& run, std::size_t camera) {
-    return fixedCameraLag(run, 0, static_cast<std::int64_t>(camera));
+    std::vector<double> lags;
+    for (const Tag& tag : tagsOf(run))
+        if (isOnBoth(tag, camera))
+            lags.push_back(secondsFrom(*tag.moment, *tag.fixedMoment));
+    if (lags.empty())
+        return std::nullopt;
+    std::ranges::sort(lags);
+    return percentile(lags, 0.5);
 }
 
 std::vector<SyncMark> syncMarksOf(const athletedata031& run, std::size_t camera) {
@@ -35,8 +43,9 @@ std::vector<SyncMark> syncMarksOf(const athletedata031& run, std::size_t camera)
 }
 
 void markSync(athletedata031& run, std::size_t camera, const CMTime& own, const CMTime& fixed,
-              ReferenceDate began) {
-    addFixMark(run, camera, {began.seconds + fixed.seconds()});
+              std::optional<ReferenceDate> began) {
+    if (began)
+        addFixMark(run, camera, {began->seconds + fixed.seconds()});
     const TagHandle tag = addTag(run, 0, SyncTag, own);
     (void)setFixedMoment(run, tag, static_cast<std::int64_t>(camera), fixed);
 }
@@ -45,14 +54,13 @@ void markSync(athletedata031& run, std::size_t camera, const CMTime& own, const 
 std::optional<SyncDate> syncDateOf(const athletedata031& run, const TagHandle& handle) {
     const std::vector<Tag> tags = tagsOf(run);
     const auto found = std::ranges::find(tags, handle, &Tag::handle);
-    if (found == tags.end() || found->name != SyncTag || found->fixedCamera < 0)
+    if (found == tags.end() || found->fixedCamera < 0)
         return std::nullopt;
     const auto camera = static_cast<std::size_t>(found->fixedCamera);
     if (!isOnBoth(*found, camera))
         return std::nullopt;
-    const auto place = std::count_if(tags.begin(), found, [&](const Tag& tag) {
-        return tag.name == SyncTag && isOnBoth(tag, camera);
-    });
+    const auto place =
+        std::count_if(tags.begin(), found, [&](const Tag& tag) { return isOnBoth(tag, camera); });
     const SyncDate date{camera, static_cast<std::size_t>(place)};
     return date.mark < fixMarksOf(run, camera).size() ? std::optional(date) : std::nullopt;
 }

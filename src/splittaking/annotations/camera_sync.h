@@ -3,10 +3,10 @@
 #include "splittaking/annotations/custom_tags.h"
 #include "splittaking/annotations/fixed_cameras.h"
 
-/// How a fixed camera's film lies beside the run's first film: by moments that were marked on both.
-/// Any tag with both moments counts; those made for that alone are named SyncTag and have a date on
-/// the camera's own clock too. Cameras are counted from 0; edits throw std::out_of_range for what
-/// does not exist.
+/// How a fixed camera's film lies beside the run's first film: by moments that were marked on both
+/// for that alone. Their tags are named SyncTag, and have a date on the camera's own clock too
+/// where that is known. Other tags on both films were set by the lag, and tell nothing about it.
+/// Cameras are counted from 0; edits throw std::out_of_range for what does not exist.
 namespace kavela {
 
 inline constexpr const char* SyncTag = "Sync";
@@ -24,12 +24,14 @@ struct SyncMark {
 /// In the order of the run's film.
 [[nodiscard]] std::vector<SyncMark> syncMarksOf(const athletedata031& run, std::size_t camera);
 
-/// Seconds by which the camera's film is later than the run's; nothing without a mark.
+/// Seconds by which the camera's film is later than the run's, the median of all marks; nothing
+/// without one.
 [[nodiscard]] std::optional<double> lagOf(const athletedata031& run, std::size_t camera);
 
-/// Marks one moment on both films, whose film began at `began`, the zero of the camera's clock.
+/// Marks one moment on both films. The fixed camera's film began at `began`, the zero of its clock;
+/// where that is not known no date is stored.
 void markSync(athletedata031& run, std::size_t camera, const CMTime& own, const CMTime& fixed,
-              ReferenceDate began);
+              std::optional<ReferenceDate> began);
 
 /// Where a tag that was made by markSync() has its date.
 struct SyncDate {

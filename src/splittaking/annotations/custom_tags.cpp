@@ -1,6 +1,5 @@
 #include "splittaking/annotations/custom_tags.h"
 
-#include "common/percentile.h"
 #include "splitdata/run_timing.h"
 #include "splittaking/annotations/remembered_texts.h"
 
@@ -139,18 +138,6 @@ std::vector<std::string> tagNames(const infodata031& info, std::span<const std::
         for (const customData020& record : run.customData)
             names = withRemembered(std::move(names), record.tags);
     return names;
-}
-
-std::optional<double> fixedCameraLag(const athletedata031& run, std::int64_t video,
-                                     std::int64_t fixedCamera) {
-    std::vector<double> lags;
-    for (const Tag& tag : tagsOf(run))
-        if (tag.video == video && tag.fixedCamera == fixedCamera && tag.moment && tag.fixedMoment)
-            lags.push_back(secondsFrom(*tag.moment, *tag.fixedMoment));
-    if (lags.empty())
-        return std::nullopt;
-    std::ranges::sort(lags);
-    return percentile(lags, 0.5);
 }
 
 } // namespace kavela

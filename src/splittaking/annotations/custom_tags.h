@@ -57,9 +57,4 @@ std::size_t renameTags(athletedata031& run, const std::string& from, const std::
                                                 std::span<const std::string> saved,
                                                 std::span<const athletedata031> runs);
 
-/// Seconds by which a moment is later on a fixed camera's film than on a video of the run, from the
-/// tags marked on both: their median. Nothing without such a tag.
-[[nodiscard]] std::optional<double> fixedCameraLag(const athletedata031& run, std::int64_t video,
-                                                   std::int64_t fixedCamera);
-
 } // namespace kavela
