@@ -88,18 +88,22 @@ void addMarkedStrokes(RunSheetData& data, const athletedata031& record) {
         return;
     const std::vector<SectionStrokes> sections = strokesBySection(record);
     std::size_t strokes = 0;
+    std::size_t intervals = 0;
     double seconds = 0;
     for (std::size_t k = 0; k < std::min(sections.size(), data.splits.size()); ++k) {
-        // Strokes are often marked in a part of the run only, whose rate is the one that counts.
-        if (!sections[k].perMinute || sections[k].total() == 0)
+        if (sections[k].total() == 0)
             continue;
         data.splits[k].marked = {sections[k].total(), sections[k].perMinute};
         strokes += sections[k].total();
+        intervals += sections[k].perMinute ? sections[k].total() - 1 : 0;
         seconds += sections[k].seconds;
     }
     data.hasMarkedStrokes = strokes > 0;
-    if (data.hasMarkedStrokes)
-        data.whole.marked = {strokes, 60 * static_cast<double>(strokes) / seconds};
+    if (!data.hasMarkedStrokes)
+        return;
+    data.whole.marked.count = strokes;
+    if (intervals > 0)
+        data.whole.marked.rate = 60 * static_cast<double>(intervals) / seconds;
 }
 
 void addRecordedStrokes(RunSheetData& data, const analyzerdata& run) {

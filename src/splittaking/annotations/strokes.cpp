@@ -120,13 +120,19 @@ std::vector<SectionStrokes> strokesBySection(const athletedata031& run) {
     double begin = 0;
     for (const double seconds : run.sectioninfo.times) {
         SectionStrokes section;
-        section.seconds = seconds;
         const double end = begin + seconds;
-        for (const strokessdata025& stroke : run.strokes)
-            if (stroke.time >= begin - SameMoment && stroke.time < end - SameMoment)
-                count(section, stroke.hand);
-        if (seconds > 0)
-            section.perMinute = static_cast<double>(section.total()) / seconds * 60;
+        double first = end;
+        double last = begin;
+        for (const strokessdata025& stroke : run.strokes) {
+            if (stroke.time < begin - SameMoment || stroke.time >= end - SameMoment)
+                continue;
+            count(section, stroke.hand);
+            first = std::min(first, stroke.time);
+            last = std::max(last, stroke.time);
+        }
+        section.seconds = std::max(last - first, 0.0);
+        if (section.total() > 1 && section.seconds > SameMoment)
+            section.perMinute = static_cast<double>(section.total() - 1) / section.seconds * 60;
         sections.push_back(section);
         begin = end;
     }

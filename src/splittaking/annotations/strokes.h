@@ -48,14 +48,15 @@ struct SectionStrokes {
     std::size_t left = 0;
     std::size_t right = 0;
     std::size_t other = 0;           ///< with a hand that is neither
-    double seconds = 0;              ///< of the section; 0 was not timed
-    std::optional<double> perMinute; ///< nothing without a time
+    double seconds = 0;              ///< from the first of them to the last
+    std::optional<double> perMinute; ///< between them; nothing with fewer than two
 
     [[nodiscard]] std::size_t total() const { return left + right + other; }
 };
 
-/// By split of the run. A stroke at the moment of a mark belongs to the section that begins there;
-/// strokes before the start and after the last mark belong to none.
+/// By split of the run. Strokes are often marked in a part of a section only: the rate is that of
+/// the stretch that has marks. A stroke at the moment of a mark belongs to the section that begins
+/// there; strokes before the start and after the last mark belong to none.
 [[nodiscard]] std::vector<SectionStrokes> strokesBySection(const athletedata031& run);
 
 } // namespace kavela

@@ -1,5 +1,6 @@
 #include "splittaking/annotations/run_notes.h"
 
+#include "splittaking/annotations/camera_sync.h"
 #include "splittaking/annotations/custom_tags.h"
 #include "splittaking/annotations/fixed_cameras.h"
 #include "splittaking/annotations/moments.h"
@@ -88,10 +89,12 @@ TEST(Strokes, AreCountedBySection) {
     ASSERT_EQ(sections.size(), 3U);
     EXPECT_EQ(sections[0].left, 1U) << "at the start mark";
     EXPECT_EQ(sections[0].right, 1U);
-    EXPECT_EQ(sections[0].perMinute, 12.0);
+    EXPECT_NEAR(sections[0].perMinute.value_or(0), 60 / 9.999, 1e-9)
+        << "over the stretch that has marks";
     EXPECT_EQ(sections[1].left, 1U);
     EXPECT_EQ(sections[1].other, 1U);
     EXPECT_EQ(sections[2].total(), 1U) << "the finish ends the run";
+    EXPECT_EQ(sections[2].perMinute, std::nullopt) << "one stroke has no rate";
     swapHand(run, 4);
     swapHand(run, 4);
     EXPECT_EQ(run.strokes[4].hand, 1);
@@ -169,14 +172,13 @@ TEST(FixedCameras, LieToEachOtherAsTheirMarksSay) {
     EXPECT_THROW(moveFixMark(run, 2, 3, {1}), std::out_of_range);
     EXPECT_THROW(addFixMark(run, 3, {1}), std::out_of_range);
 
-    const TagHandle tag = addTag(run, 0, "Drop", at(1000));
-    setFixedMoment(run, tag, 2, at(4500));
-    EXPECT_EQ(fixedCameraLag(run, 0, 2), 3.5);
+    markSync(run, 2, at(1000), at(4500), std::nullopt);
+    EXPECT_EQ(lagOf(run, 2), 3.5);
     detachFixedCamera(run, 1);
     EXPECT_EQ(fixMarksOf(run, 1).size(), 3U);
-    EXPECT_EQ(fixedCameraLag(run, 0, 1), 3.5) << "numbers move up";
+    EXPECT_EQ(lagOf(run, 1), 3.5) << "numbers move up";
     detachFixedCamera(run, 1);
-    EXPECT_EQ(fixedCameraLag(run, 0, 1), std::nullopt);
+    EXPECT_EQ(lagOf(run, 1), std::nullopt);
     EXPECT_EQ(tagsOf(run).size(), 1U);
     EXPECT_EQ(offsetBetween(run, 0, 1), std::nullopt);
 }
