@@ -6,6 +6,7 @@
 #include <QAbstractSpinBox>
 #include <QApplication>
 #include <QComboBox>
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QPointer>
 
@@ -26,6 +27,22 @@ QWidget* placeOf(QWidget& field) {
     return table && table->viewport() == above ? table : &field;
 }
 
+bool isCell(QLineEdit& line) {
+    return placeOf(line) != &line;
+}
+
+/// What takes the text may show a box over it, or take the field away.
+void takeLine(QLineEdit& line) {
+    const QPointer<QLineEdit> field(&line);
+    emit field->returnPressed();
+    if (field)
+        emit field->editingFinished();
+    if (field && !field->isModified())
+        field->setText(field->text()); // what was taken is undone in the document
+    if (field)
+        field->selectAll();
+}
+
 } // namespace
 
 bool endTyping() {
@@ -33,13 +50,18 @@ bool endTyping() {
     auto* const number = qobject_cast<QAbstractSpinBox*>(focus);
     auto* const choice = qobject_cast<QComboBox*>(focus);
     auto* const field = qobject_cast<QLineEdit*>(focus);
-    if (number)
-        interpret(*number);
-    else if (field)
-        emit field->returnPressed();
-    else if (!choice || !choice->isEditable())
+    if (number) {
+        QKeyEvent enter(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier);
+        QApplication::sendEvent(number, &enter); // the box knows what it takes and what it refuses
+    } else if (field && isCell(*field)) {
+        focus->clearFocus(); // the table takes it
+    } else if (field) {
+        takeLine(*field);
+    } else if (choice && choice->isEditable()) {
+        takeLine(*choice->lineEdit());
+    } else {
         return false;
-    focus->clearFocus();
+    }
     return true;
 }
 

@@ -5,8 +5,9 @@ class QWidget;
 /// What keys mean while something is being typed.
 namespace kavela::desktop {
 
-/// Ends the typing in the field that has the focus, which takes what was typed. False where no
-/// field has it, so that Enter may mean something else.
+/// Enter, in the field that has the focus: it takes what was typed, and keeps the focus, since what
+/// is typed next is text again and no key of the window. A cell of a table closes. False where no
+/// field has the focus, so that Enter may mean something else.
 bool endTyping();
 
 /// Ends the typing in a field of `part`, or in a cell of a table there.
