@@ -67,18 +67,31 @@ void Workspace::showAlert(const Alert& alert, QWidget* over) const {
         AlertBoxes(over).show(alert);
 }
 
-bool Workspace::ask(const Alert& question, const QString& yes, QWidget* over) const {
-    if (m_answer)
-        return m_answer(question);
+namespace {
+
+bool isAgreed(const Alert& question, const QString& yes, bool isDefault, QWidget* over) {
     QMessageBox box(QMessageBox::Question, QString::fromStdString(question.title),
                     QString::fromStdString(question.title.empty() ? question.text : question.title),
                     QMessageBox::Cancel, over);
     if (!question.title.empty())
         box.setInformativeText(QString::fromStdString(question.text));
     box.setTextFormat(Qt::PlainText);
-    const QPushButton* const agree = box.addButton(yes, QMessageBox::AcceptRole);
+    const QPushButton* const agree =
+        box.addButton(yes, isDefault ? QMessageBox::AcceptRole : QMessageBox::DestructiveRole);
+    if (!isDefault)
+        box.setDefaultButton(QMessageBox::Cancel);
     box.exec();
     return box.clickedButton() == agree;
+}
+
+} // namespace
+
+bool Workspace::ask(const Alert& question, const QString& yes, QWidget* over) const {
+    return m_answer ? m_answer(question) : isAgreed(question, yes, true, over);
+}
+
+bool Workspace::askBeforeLoss(const Alert& question, const QString& yes, QWidget* over) const {
+    return m_answer ? m_answer(question) : isAgreed(question, yes, false, over);
 }
 
 int Workspace::choose(const Alert& question, const QStringList& choices, QWidget* over) const {

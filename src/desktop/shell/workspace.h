@@ -60,6 +60,10 @@ public:
     [[nodiscard]] int choose(const Alert& question, const QStringList& choices,
                              QWidget* over) const;
 
+    /// The same before much is lost: Enter is a no too.
+    [[nodiscard]] bool askBeforeLoss(const Alert& question, const QString& yes,
+                                     QWidget* over) const;
+
     enum class Leaving { Save, Discard, Stay };
     /// Asks what to do with unsaved work before a window closes.
     [[nodiscard]] Leaving askToSave(const QString& document, QWidget* over) const;
