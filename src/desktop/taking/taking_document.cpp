@@ -5,6 +5,7 @@
 #include "common/safe_file.h"
 #include "desktop/shell/workspace.h"
 #include "desktop/taking/film_places.h"
+#include "desktop/taking/kept_work.h"
 #include "desktop/taking/taking_files.h"
 #include "report/pdf_file.h"
 #include "report/race_report.h"
@@ -21,7 +22,9 @@
 #include "splittaking/video_names.h"
 
 #include <QDir>
+#include <QFileDialog>
 #include <QFileInfo>
+#include <QStandardPaths>
 #include <QUndoCommand>
 
 #include <algorithm>
@@ -68,7 +71,13 @@ private:
 };
 
 TakingDocument::TakingDocument(Workspace& workspace, Autosave autosave, QObject* parent)
-    : QObject(parent), m_workspace(workspace), m_autosave(std::move(autosave)) {
+    : QObject(parent),
+      m_workspace(workspace),
+      m_autosave(std::move(autosave)),
+      m_chooseCopy([this](const QString& proposed) {
+          return QFileDialog::getSaveFileName(nullptr, tr("Save a copy as"), proposed,
+                                              tr("Split files (*.kvx)"));
+      }) {
     m_keep.setSingleShot(true);
     m_keep.setInterval(KeepAfterMilliseconds);
     connect(&m_keep, &QTimer::timeout, this, &TakingDocument::keepWork);
@@ -78,53 +87,6 @@ TakingDocument::~TakingDocument() {
     if (m_keep.isActive())
         keepWork();
     m_undo.disconnect(); // it tells of its end, when the rest is gone already
-}
-
-bool TakingDocument::openFolder(const QString& folder, QWidget* over) {
-    const QString absolute = QDir(folder).absolutePath();
-    if (const QString file = splitFileIn(absolute); !file.isEmpty())
-        return openFile(file, over);
-    const QString path = absolute + '/' + QFileInfo(absolute).fileName() + ".kvx";
-    m_folder = absolute;
-    splittakerdata031 document = newDocument();
-    document.athletes = runsOf(filmsIn(absolute));
-    begin(stateOf(std::move(document)), path);
-    offerAutosave(over);
-    return true;
-}
-
-bool TakingDocument::openFile(const QString& file, QWidget* over) {
-    auto document = readCurrent(file, over);
-    if (!document)
-        return false;
-    begin(stateOf(std::move(*document)), QFileInfo(file).absoluteFilePath());
-    m_workspace.addRecentFile(m_path);
-    offerAutosave(over);
-    return true;
-}
-
-/// Only the current version: the analyzer is where an older file is converted, with a backup.
-std::optional<splittakerdata031> TakingDocument::readCurrent(const QString& file, QWidget* over) {
-    RecognisedSplitFile read =
-        recogniseSplitFile(file.toStdString(), m_workspace.log(), m_workspace.clock());
-    if (read.isCurrent())
-        return std::move(read.document);
-    if (read.version) {
-        m_workspace.showAlert({"", messages::OlderVersion}, over);
-        return std::nullopt;
-    }
-    WorkspaceAlerts alerts(m_workspace, over);
-    reportIncompatible(read, m_workspace.log(), alerts);
-    return std::nullopt;
-}
-
-splittakerdata031 TakingDocument::newDocument() const {
-    splittakerdata031 document;
-    document.info.date = m_workspace.clock()();
-    document.info.session = "Race";
-    document.info.title = QFileInfo(m_folder).fileName().toStdString();
-    document.info.totalsplits = m_workspace.preferences().integer("predeterminatedsplits");
-    return document;
 }
 
 QString TakingDocument::filmPattern() const {
@@ -157,37 +119,6 @@ std::vector<athletedata031> TakingDocument::runsOf(const QStringList& films) con
         runs.push_back(std::move(run));
     }
     return runs;
-}
-
-void TakingDocument::begin(TakingState state, const QString& path) {
-    m_keep.stop();
-    m_path = path;
-    m_folder = QFileInfo(path).absolutePath();
-    m_readTime = lastWritten(path.toStdString());
-    m_undo.clear();
-    show(state);
-}
-
-void TakingDocument::offerAutosave(QWidget* over) {
-    const auto work = m_autosave.find(m_path);
-    if (!work)
-        return;
-    m_workspace.log()(messages::AutosaveFound);
-    RecognisedSplitFile read;
-    try {
-        read = recogniseSplitDocument(JsonDocument::fromText(*work), m_path.toStdString(),
-                                      m_workspace.log(), m_workspace.clock());
-    } catch (const DecodeError& error) {
-        m_workspace.log()(error.what());
-    }
-    const bool isWanted =
-        read.version && m_workspace.ask({"", messages::AskToLoadAutosave}, tr("Load"), over);
-    if (!isWanted) {
-        m_autosave.putAside(m_path);
-        return;
-    }
-    m_undo.resetClean(); // dirty, and no undo makes it clean: its copy stays until it is saved
-    show(stateOf(std::move(read.document)));
 }
 
 const athletedata031& TakingDocument::run(int index) const {
@@ -251,6 +182,7 @@ void TakingDocument::push(const QString& what, TakingState after) {
 void TakingDocument::show(const TakingState& state) {
     m_state = state;
     splittakerdata031 times = timesOf(m_state);
+    blankNegativeTimes(times.athletes);
     recomputeExpected(times, [](std::string_view) {});
     m_perfect = times.info.perfectRun;
     m_expected.clear();
@@ -373,7 +305,7 @@ void TakingDocument::keepWork() {
         return;
     }
     try {
-        m_autosave.keep(m_path, encode(documentOf(m_state)));
+        m_autosave.keep(m_path, keptWork(m_state));
     } catch (const std::exception& error) {
         m_workspace.log()(std::string("The work could not be kept: ") + error.what());
     }
@@ -420,19 +352,27 @@ QString TakingDocument::importResults(const QString& file, QWidget* over) {
 }
 
 void TakingDocument::reset(QWidget* over) {
-    if (!m_workspace.ask({messages::BeCareful, messages::AskToDeleteAll}, tr(messages::ResetButton),
-                         over))
+    const QString runs = runCount() == 1 ? tr("1 run") : tr("%1 runs").arg(runCount());
+    const QString what = tr("%1 with %2 is emptied. Ctrl+Z brings it back.").arg(title(), runs);
+    if (!m_workspace.askBeforeLoss(
+            {messages::BeCareful,
+             messages::AskToDeleteAll + std::string("\n\n") + what.toStdString()},
+            tr(messages::ResetButton), over))
         return;
     push(tr("reset"), stateOf(newDocument()));
     logPerfectTime();
 }
 
+bool TakingDocument::isDirty() const {
+    return !m_undo.isClean() || startsWithoutSplit(m_state) > 0;
+}
+
 bool TakingDocument::mayClose(QWidget* over) {
-    if (!isDirty())
-        return true;
+    if (m_undo.isClean())
+        return mayLeaveStarts(over);
     switch (m_workspace.askToSave(title(), over)) {
     case Workspace::Leaving::Save:
-        return save(over);
+        return save(over) && mayLeaveStarts(over);
     case Workspace::Leaving::Discard:
         discard();
         return true;
@@ -440,6 +380,23 @@ bool TakingDocument::mayClose(QWidget* over) {
         break;
     }
     return false;
+}
+
+/// They stay in the automatic save, and are offered when the file is opened again.
+bool TakingDocument::mayLeaveStarts(QWidget* over) {
+    const int starts = startsWithoutSplit(m_state);
+    if (starts == 0)
+        return true;
+    const QString told =
+        (starts == 1 ? tr("1 start without a split is not stored in the file. This computer keeps "
+                          "it, and offers it when the file is opened here again.")
+                     : tr("%1 starts without a split are not stored in the file. This computer "
+                          "keeps them, and offers them when the file is opened here again.")
+                           .arg(starts));
+    if (!m_workspace.ask({"", told.toStdString()}, tr("Close"), over))
+        return false;
+    keepWork();
+    return true;
 }
 
 void TakingDocument::discard() {

@@ -14,6 +14,10 @@
 
 class QWidget;
 
+namespace kavela {
+struct RecognisedSplitFile;
+}
+
 namespace kavela::desktop {
 
 class Workspace;
@@ -33,6 +37,10 @@ public:
     /// when its split file is of an older release or none at all; the document is then as it was.
     [[nodiscard]] bool openFolder(const QString& folder, QWidget* over);
     [[nodiscard]] bool openFile(const QString& file, QWidget* over);
+    /// Where a copy of an older file is written to, proposed a path, empty for nowhere; in place of
+    /// the platform's dialog, as in tests.
+    using ChooseCopy = std::function<QString(const QString& proposed)>;
+    void setChooseCopy(ChooseCopy choose) { m_chooseCopy = std::move(choose); }
 
     [[nodiscard]] const TakingState& state() const { return m_state; }
     [[nodiscard]] const infodata031& info() const { return *m_state.info; }
@@ -60,7 +68,11 @@ public:
     [[nodiscard]] const QString& folder() const { return m_folder; }
     [[nodiscard]] const QString& path() const { return m_path; }
     [[nodiscard]] QString title() const;
-    [[nodiscard]] bool isDirty() const { return !m_undo.isClean(); }
+    /// Whether there is work that the file does not hold: also start marks without a split, for
+    /// which it has no place.
+    [[nodiscard]] bool isDirty() const;
+    /// The document as it would be saved now.
+    [[nodiscard]] splittakerdata031 content() const { return finished(false); }
     [[nodiscard]] QUndoStack& undoStack() { return m_undo; }
 
     // Every edit is one step of the undo stack; `what` names it there.
@@ -109,6 +121,8 @@ private:
     friend class TakingStep;
 
     [[nodiscard]] std::optional<splittakerdata031> readCurrent(const QString& file, QWidget* over);
+    [[nodiscard]] bool openCopy(const RecognisedSplitFile& older, const QString& file,
+                                QWidget* over);
     void begin(TakingState state, const QString& path);
     void offerAutosave(QWidget* over);
     [[nodiscard]] splittakerdata031 newDocument() const;
@@ -118,6 +132,7 @@ private:
     void keepWork();
     [[nodiscard]] bool holdsNothing() const;
     void noteWritten();
+    [[nodiscard]] bool mayLeaveStarts(QWidget* over);
     [[nodiscard]] splittakerdata031 finished(bool isLogged) const;
     [[nodiscard]] bool writeSplitFile(const splittakerdata031& document,
                                       const std::filesystem::path& file, QWidget* over) const;
@@ -137,6 +152,7 @@ private:
     QString m_folder;
     QString m_path;
     std::optional<std::filesystem::file_time_type> m_readTime; ///< of the file; none before it is
+    ChooseCopy m_chooseCopy;
 };
 
 } // namespace kavela::desktop

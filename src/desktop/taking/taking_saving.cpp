@@ -85,7 +85,7 @@ void TakingDocument::noteWritten() {
     m_readTime = lastWritten(m_path.toStdString());
     m_undo.setClean();
     m_keep.stop();
-    m_autosave.forget(m_path);
+    keepWork(); // forgets it, but for start marks that the file cannot hold
     m_workspace.addRecentFile(m_path);
     emit saved();
 }
