@@ -19,6 +19,7 @@ class EditorWindow;
 class MotionWindow;
 class HomeWindow;
 class RaceWindow;
+class TakingDocument;
 class TakingWindow;
 
 /// The desktop program: the home screen, and for each opened file the window of its tool.
@@ -101,8 +102,6 @@ private:
     TakingWindow* showTaking(const QString& path);
     CrossWindow* showCross(const QString& path);
     void openFilm(const QString& path);
-    /// Shows a race in the analyzer as its file is now.
-    void showAnalysis(const QString& path);
     void showMoment(const QString& path, int run, std::size_t split);
     void openRaces(const QStringList& paths, RaceWindow* into);
     [[nodiscard]] RaceWindow* makeRaceWindow();
@@ -114,6 +113,7 @@ private:
     void openInTool(const QString& path, OpensAs kind);
     /// Takes lists and tracks of other devices into the session in front, or into a new one.
     void openImports(const QStringList& paths);
+    void showInAnalyzer(const TakingDocument& document);
     /// The races among files and folders; what is not one is told.
     [[nodiscard]] QStringList racesAmong(const QStringList& paths);
     void rememberSession();

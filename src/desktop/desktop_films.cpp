@@ -120,13 +120,6 @@ void Desktop::openFilm(const QString& path) {
         }
 }
 
-void Desktop::showAnalysis(const QString& path) {
-    RaceWindow* const shown = windowOfRace(path);
-    openRaces({path}, nullptr);
-    if (shown)
-        shown->view().reload(); // what was saved a moment ago is wanted
-}
-
 TakingWindow* Desktop::openTaking(const QString& path) {
     if (TakingWindow* const open = windowOf(takingWindows(), path)) {
         bringToFront(*open);
@@ -153,7 +146,8 @@ TakingWindow* Desktop::showTaking(const QString& path) {
     }
     connect(window, &TakingWindow::homeRequested, this, &Desktop::showHome);
     connect(window, &TakingWindow::settingsRequested, this, &Desktop::openSettings);
-    connect(window, &TakingWindow::analysisRequested, this, &Desktop::showAnalysis);
+    connect(window, &TakingWindow::analysisRequested, this,
+            [this, window] { showInAnalyzer(window->document()); });
     connect(window, &TakingWindow::crossRequested, this, &Desktop::openCross);
     connect(window, &TakingWindow::filesRequested, this, [this](const QStringList& files) {
         for (const QString& file : files)
@@ -164,6 +158,21 @@ TakingWindow* Desktop::showTaking(const QString& path) {
     window->show();
     rememberSession();
     return window;
+}
+
+/// The race as it is being edited, saved or not, in the window that shows its file already.
+void Desktop::showInAnalyzer(const TakingDocument& document) {
+    RaceWindow* const found = windowOfRace(document.path());
+    RaceWindow* const window = found ? found : makeRaceWindow();
+    window->showRace(document.content(), document.path(),
+                     document.isDirty()
+                         ? tr("As it is in split taking now. The file does not hold all of it yet.")
+                         : QString());
+    if (!found)
+        m_races.append(window);
+    window->show();
+    bringToFront(*window);
+    rememberSession();
 }
 
 void Desktop::chooseCross() {
@@ -199,7 +208,8 @@ CrossWindow* Desktop::showCross(const QString& path) {
     }
     connect(window, &CrossWindow::homeRequested, this, &Desktop::showHome);
     connect(window, &CrossWindow::settingsRequested, this, &Desktop::openSettings);
-    connect(window, &CrossWindow::analysisRequested, this, &Desktop::showAnalysis);
+    connect(window, &CrossWindow::analysisRequested, this,
+            [this, window] { showInAnalyzer(window->document()); });
     connect(window, &CrossWindow::takingRequested, this, &Desktop::openTaking);
     connect(window, &CrossWindow::filesRequested, this, &Desktop::openCrosses);
     rememberWithout(window);

@@ -78,8 +78,10 @@ void CrossActions::makeFileMenu() {
     add(*menu, tr("&Save data"), {QKeySequence::Save}, [this] { (void)m_window.save(); });
     add(*menu, tr("Split &taking of this race"), {Qt::CTRL | Qt::SHIFT | Qt::Key_R},
         savedThen([this](const QString& path) { emit m_window.takingRequested(path); }));
-    add(*menu, tr("Show in the race &analyzer"), {Qt::CTRL | Qt::Key_R},
-        savedThen([this](const QString& path) { emit m_window.analysisRequested(path); }));
+    add(*menu, tr("Show in the race &analyzer"), {Qt::CTRL | Qt::Key_R}, [this] {
+        if (m_window.commit())
+            emit m_window.analysisRequested();
+    });
     menu->addSeparator();
     add(*menu, tr("&Home"), {Qt::CTRL | Qt::Key_H}, [this] { emit m_window.homeRequested(); });
     add(*menu, tr("Se&ttings…"), {Qt::CTRL | Qt::Key_Comma},

@@ -12,6 +12,7 @@
 #include "desktop/film/film_view.h"
 #include "desktop/film/time_line.h"
 #include "desktop/shell/dropped_files.h"
+#include "desktop/shell/field_keys.h"
 #include "desktop/shell/theme.h"
 #include "desktop/shell/window_place.h"
 #include "desktop/shell/workspace.h"
@@ -149,9 +150,10 @@ QWidget* CrossWindow::makeStage() {
 }
 
 void CrossWindow::connectParts() {
+    new FieldKeys(*this, [this] { page().setFocus(); }); // the window owns it
     connect(&m_document, &TakingDocument::changed, this, &CrossWindow::showDocument);
     connect(&m_document.undoStack(), &QUndoStack::cleanChanged, this,
-            [this](bool isClean) { setWindowModified(!isClean); });
+            [this] { setWindowModified(m_document.isDirty()); });
     connect(m_tabs, &QTabWidget::currentChanged, this, &CrossWindow::showPageInFront);
     connect(m_deck, &FilmDeck::frameShown, this, [this] { page().showFrame(); });
     connect(m_deck, &FilmDeck::stateChanged, this, &CrossWindow::showState);

@@ -67,6 +67,8 @@ public:
     void undo();
     void redo();
     bool save();
+    /// Takes what is being typed; false when it makes no sense, which is shown.
+    bool commit();
 
     /// Where files come from in place of the platform's dialogs, as in tests.
     using ChooseFiles = std::function<QStringList(const QString& title, const QString& filter)>;
@@ -79,7 +81,7 @@ signals:
     void homeRequested();
     void settingsRequested();
     void pageChanged();
-    void analysisRequested(const QString& path);
+    void analysisRequested(); ///< of the document as it is now, saved or not
     void takingRequested(const QString& path);
     void filesRequested(const QStringList& paths);
 
@@ -104,7 +106,6 @@ private:
     void refuse(const QString& why);
     void press(const std::function<void(CrossPage&, const CMTime&)>& act);
     void rememberFilmPlace();
-    bool commit();
     [[nodiscard]] QStringList copied(const QStringList& files);
 
     Workspace& m_workspace;

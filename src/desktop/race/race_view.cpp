@@ -71,6 +71,12 @@ bool RaceView::open(const QString& path) {
     return true;
 }
 
+void RaceView::showRace(splittakerdata031 race, const QString& path, const QString& note) {
+    m_document.show(std::move(race), path);
+    showDocument();
+    showNote(note, false);
+}
+
 void RaceView::makeCentre() {
     auto* split = new QSplitter;
     split->addWidget(makeWork());

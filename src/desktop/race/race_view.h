@@ -33,6 +33,8 @@ public:
 
     /// Opens a split file; false, after an alert, when that failed.
     [[nodiscard]] bool open(const QString& path);
+    /// Shows a race as it is being edited elsewhere; `note` says what its file does not hold.
+    void showRace(splittakerdata031 race, const QString& path, const QString& note);
 
     [[nodiscard]] RaceDocument& document() { return m_document; }
     [[nodiscard]] const RaceDocument& document() const { return m_document; }

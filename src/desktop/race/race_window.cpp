@@ -52,13 +52,8 @@ RaceWindow::~RaceWindow() {
 }
 
 bool RaceWindow::open(const QString& path) {
-    const QString wanted = QFileInfo(path).absoluteFilePath();
-    for (std::size_t i = 0; i < m_views.size(); ++i) {
-        if (m_views[i]->document().path() == wanted) {
-            showView(static_cast<int>(i));
-            return true;
-        }
-    }
+    if (showViewOf(path))
+        return true;
     auto* view = new RaceView(m_workspace);
     if (!view->open(path)) {
         delete view;
@@ -66,6 +61,26 @@ bool RaceWindow::open(const QString& path) {
     }
     addView(view);
     return true;
+}
+
+bool RaceWindow::showViewOf(const QString& path) {
+    const QString wanted = QFileInfo(path).absoluteFilePath();
+    for (std::size_t i = 0; i < m_views.size(); ++i)
+        if (m_views[i]->document().path() == wanted) {
+            showView(static_cast<int>(i));
+            return true;
+        }
+    return false;
+}
+
+void RaceWindow::showRace(splittakerdata031 race, const QString& path, const QString& note) {
+    if (showViewOf(path)) {
+        view().showRace(std::move(race), path, note);
+        return;
+    }
+    auto* const made = new RaceView(m_workspace);
+    made->showRace(std::move(race), path, note);
+    addView(made);
 }
 
 void RaceWindow::addView(RaceView* view) {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "splitdata/document.h"
+
 #include <QMainWindow>
 
 #include <vector>
@@ -27,6 +29,8 @@ public:
     /// Opens a split file in a tab of its own and shows it; a file that is open already is shown.
     /// False, after an alert, when it cannot be opened.
     [[nodiscard]] bool open(const QString& path);
+    /// Shows a race as it is being edited elsewhere, in the tab of its file or in one of its own.
+    void showRace(splittakerdata031 race, const QString& path, const QString& note);
 
     [[nodiscard]] const std::vector<RaceView*>& views() const { return m_views; }
     /// The race that the menus act on; there is always one once a file was opened.
@@ -60,6 +64,7 @@ protected:
 
 private:
     void addView(RaceView* view);
+    [[nodiscard]] bool showViewOf(const QString& path);
     void showViews();
     void followFocus(const QWidget* focused);
 
