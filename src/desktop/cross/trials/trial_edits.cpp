@@ -7,6 +7,7 @@
 #include "desktop/taking/taking_document.h"
 #include "splitdata/run_timing.h"
 #include "splittaking/annotations/cross_heats.h"
+#include "splittaking/annotations/refusals.h"
 #include "splittaking/course_setup.h"
 #include "splittaking/video_names.h"
 
@@ -141,25 +142,30 @@ void TrialPage::markSplit(const CMTime& moment) {
     if (!mayMarkAnew())
         return;
     RunMarks marks = runMarks();
-    const bool isStart = !marks.start;
     if (const auto refused = markNext(marks, {moment}, MostSplits)) {
-        emit told(QString::fromStdString(refused->text));
+        refuses(refused->text);
         return;
     }
-    const std::size_t place = isStart ? 0 : marks.marks.size();
+    const std::size_t place = markAt(marks, moment).value_or(marks.marks.size());
+    const bool isStart = place == 0;
     setRunMarks(isStart ? tr("start mark") : tr("split %1").arg(place), marks);
     selectWhere([place](const TrialMark& mark) {
         return mark.mode == TrialMode::Splits && mark.place == place;
     });
-    const double seconds = isStart ? 0 : splitTimes(marks).back();
+    const double seconds = isStart ? 0 : splitTimes(marks).at(place - 1);
     emit flashed(isStart ? tr("Start") : tr("%1:  %2").arg(place).arg(shownHundredths(seconds)));
-    if (seconds < 0)
-        emit told(tr("Split %1 is marked before the mark that comes first.").arg(place));
+    if (!isStart && place < marks.marks.size())
+        emit told(
+            tr("Split %1 was put in between two marks. Ctrl+Z takes it out again.").arg(place));
 }
 
-void TrialPage::tellFault(const GateMarks& marks) {
-    if (const auto fault = faultOfMarks(marks))
-        emit told(QString::fromStdString(*fault));
+/// Whether a mark is refused, which is told then.
+bool TrialPage::refuses(const std::optional<std::string>& why) {
+    if (why) {
+        emit told(QString::fromStdString(*why));
+        emit flashed(QString::fromStdString(*why));
+    }
+    return why.has_value();
 }
 
 void TrialPage::markGate(const CMTime& moment) {
@@ -172,11 +178,13 @@ void TrialPage::markGate(const CMTime& moment) {
         return;
     }
     const std::int64_t gate = *m_gate;
+    const GateMarks before = upstream() ? upstream()->cmtimes : GateMarks();
+    if (refuses(refusalOfGateMark(before, *which, moment)))
+        return;
     editTrial(tr("%1 of gate %2").arg(gateMarkText(*which)).arg(gate), [&](ttdata030& trial) {
         markUpstream(trial, m_desk.cross().crossinfo, gate, *which, moment);
     });
     emit flashed(tr("Gate %1 %2").arg(gate).arg(gateMarkText(*which)));
-    tellFault(upstream()->cmtimes);
     selectWhere([&](const TrialMark& mark) {
         return mark.mode == TrialMode::Upstreams && mark.gate == gate && mark.which == which;
     });
@@ -190,12 +198,25 @@ void TrialPage::markRoll(const CMTime& moment) {
         emit told(tr("The roll is marked. Shift+M moves the selected mark, Delete removes it."));
         return;
     }
+    if (refuses(refusalOfGateMark(record()->roll.cmtimes, *which, moment, NamesOfRoll)))
+        return;
     editTrial(rollMarkText(*which),
               [&](ttdata030& trial) { setMark(trial.roll.cmtimes, *which, moment); });
     emit flashed(rollMarkText(*which));
-    tellFault(record()->roll.cmtimes);
     selectWhere(
         [&](const TrialMark& mark) { return mark.mode == TrialMode::Roll && mark.which == which; });
+}
+
+std::optional<std::string> TrialPage::refusalToMove(const TrialMark& mark,
+                                                    const CMTime& moment) const {
+    if (mark.mode == TrialMode::Splits) {
+        const auto refused = kavela::refusalToMove(runMarks(), mark.place, moment);
+        return refused ? std::optional(refused->text) : std::nullopt;
+    }
+    ttdata030 trial = *record();
+    return mark.which ? refusalOfGateMark(listOf(trial, mark), *mark.which, moment,
+                                          mark.mode == TrialMode::Roll ? NamesOfRoll : NamesAtGate)
+                      : std::nullopt;
 }
 
 void TrialPage::moveMark(const CMTime& moment) {
@@ -205,6 +226,11 @@ void TrialPage::moveMark(const CMTime& moment) {
     }
     const TrialMark mark = *m_selected;
     const QString what = tr("mark moved");
+    emit told({});
+    if (refuses(refusalToMove(*m_selected, moment))) {
+        emit marksChanged(); // where it was, if it was dragged
+        return;
+    }
     if (mark.mode != TrialMode::Splits) {
         editTrial(what, [&](ttdata030& trial) { moveGateMark(trial, mark, moment); });
     } else {

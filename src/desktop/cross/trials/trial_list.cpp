@@ -35,7 +35,8 @@ TrialList::TrialList(QWidget* parent)
       m_remove(button(tr("Remove"), "removeTrial", tr("Removes the selected trial"))) {
     m_name->setObjectName("newTrial");
     m_name->setPlaceholderText(tr("New athlete"));
-    m_name->setToolTip(tr("Enter adds a time trial of that athlete"));
+    m_name->setToolTip(
+        tr("Enter adds a time trial of that athlete; Esc gives the keys back to the film"));
     auto* row = new QHBoxLayout;
     row->addWidget(m_name, 1);
     row->addWidget(m_film);
@@ -47,8 +48,7 @@ TrialList::TrialList(QWidget* parent)
     column->addWidget(m_table, 1);
     connect(m_name, &QLineEdit::returnPressed, this, [this] {
         const QString athlete = m_name->text().trimmed();
-        m_name->clear();
-        m_table->setFocus(); // the next M marks
+        m_name->setText({}); // the next name may follow at once
         if (!athlete.isEmpty())
             emit nameTyped(athlete);
     });

@@ -109,7 +109,9 @@ private:
     void setGate(std::optional<std::int64_t> gate);
     void bringGate();
     void goOn();
-    void tellFault(const GateMarks& marks);
+    bool refuses(const std::optional<std::string>& why);
+    [[nodiscard]] std::optional<std::string> refusalToMove(const TrialMark& mark,
+                                                           const CMTime& moment) const;
 
     StartMarks m_starts;
     QString m_path; ///< of the document that the starts belong to
