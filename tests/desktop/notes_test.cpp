@@ -69,6 +69,8 @@ TEST_F(NotesTest, MovesAndRemovesTheNoteThatIsSelectedAndNoSplit) {
     press(Qt::CTRL | Qt::Key_5);
     press(Qt::Key_Delete);
     EXPECT_EQ(run().sectioninfo.cmtimes, splits) << "the mode left the split";
+    EXPECT_THAT(part<QLabel>("noteTold").text().toStdString(),
+                ::testing::HasSubstr("Nothing is selected"));
     press(Qt::Key_M);
     ASSERT_THAT(run().microsplits, SizeIs(1));
     const double marked = run().microsplits[0].time;
@@ -94,8 +96,12 @@ TEST_F(NotesTest, KeepsTheNameOfATagAndPlaysJustItsPart) {
     name.lineEdit()->selectAll();
     QTest::keyClicks(&name, "Eddy");
     press(Qt::Key_Return);
-    EXPECT_THAT(run().customData, IsEmpty()) << "Enter ends the typing";
+    EXPECT_THAT(run().customData, IsEmpty()) << "Enter takes the name";
+    press(Qt::Key_Return);
+    EXPECT_THAT(run().customData, SizeIs(1)) << "once more it is the marking key";
+    press(Qt::Key_Escape);
     press(Qt::Key_M);
+    EXPECT_THAT(run().customData[0].tags, SizeIs(1)) << "the tag is there on this frame";
     ASSERT_NO_FATAL_FAILURE(goOnASecond());
     press(Qt::Key_M);
     ASSERT_THAT(run().customData, SizeIs(::testing::Ge(1U)));

@@ -159,6 +159,7 @@ TEST_F(TakingCareTest, ReopensWhatEveryModeWrote) {
     part<QPushButton>("strategyAdd").click();
     type("strategyNewWay", "Spin");
     press(Qt::Key_Return);
+    press(Qt::Key_Escape);
     press(Qt::Key_M);
     ASSERT_NO_FATAL_FAILURE(goOnASecond());
     press(Qt::Key_M);

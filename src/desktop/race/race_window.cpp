@@ -16,6 +16,10 @@
 
 namespace kavela::desktop {
 
+namespace {
+constexpr int WidestTab = 260; // pixels: a file's name may be wider than the window
+} // namespace
+
 RaceWindow::RaceWindow(Workspace& workspace)
     : m_workspace(workspace), m_tabs(new QTabBar), m_splitter(new QSplitter) {
     setAttribute(Qt::WA_DeleteOnClose);
@@ -93,7 +97,8 @@ void RaceWindow::addView(RaceView* view) {
     m_current = static_cast<int>(m_views.size()) - 1;
     {
         const QSignalBlocker blocker(m_tabs);
-        m_tabs->addTab(QFileInfo(view->document().path()).completeBaseName());
+        m_tabs->addTab(m_tabs->fontMetrics().elidedText(
+            QFileInfo(view->document().path()).completeBaseName(), Qt::ElideMiddle, WidestTab));
         m_tabs->setTabToolTip(m_current, view->document().path());
         m_tabs->setCurrentIndex(m_current);
     }

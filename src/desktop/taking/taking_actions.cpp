@@ -60,8 +60,8 @@ void TakingActions::makeFileMenu() {
     add(*menu, tr("&Export data…"), {keys(Qt::CTRL | Qt::Key_E)},
         [this] { m_window.exportData(); });
     add(*menu, tr("Show in the race &analyzer"), {keys(Qt::CTRL | Qt::Key_R)}, [this] {
-        if (savedIfDirty())
-            emit m_window.analysisRequested(m_window.document().path());
+        m_window.commit(); // what is typed is shown too; nothing is saved
+        emit m_window.analysisRequested();
     });
     add(*menu, tr("Kayak &cross of this race"), {keys(Qt::CTRL | Qt::SHIFT | Qt::Key_R)}, [this] {
         if (savedIfDirty())
@@ -180,6 +180,8 @@ void TakingActions::makeCameraMenu() {
             if (deck.views() > 1)
                 deck.stepAlone(deck.views() - 1, 1);
         });
+    add(*menu, tr("&Larger: without the table, the film alone, all again"), {keys(Qt::Key_F9)},
+        [this] { m_window.makeFilmLarger(); });
     add(*menu, tr("The frames shown are &one moment"), {keys(Qt::CTRL | Qt::Key_L)},
         [&deck] { deck.alignCameras(); });
 }

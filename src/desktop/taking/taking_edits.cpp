@@ -100,18 +100,49 @@ void TakingWindow::markSplit(Stamps stamps) {
                                   .toStdString()},
                          tr("Mark anew"), this))
         return;
-    const bool isStart = !marks.start;
+    const CMTime moment = stamps.front();
     if (const auto refused = markNext(marks, std::move(stamps), m_document.info().totalsplits)) {
-        m_workspace.showAlert(*refused, this);
+        refuseMark(*refused);
         return;
     }
-    const std::size_t taken = isStart ? 0 : marks.marks.size();
+    const std::size_t taken = markAt(marks, moment).value_or(marks.marks.size());
+    const bool isStart = taken == 0;
     m_notes->clearSelection();
     m_selected = taken;
     m_document.setMarks(m_run, isStart ? tr("start mark") : tr("split %1").arg(taken), marks);
     m_views.front()->flash(
         isStart ? tr("Start")
-                : tr("%1:  %2").arg(taken).arg(shownHundredths(splitTimes(marks).back())));
+                : tr("%1:  %2").arg(taken).arg(shownHundredths(splitTimes(marks).at(taken - 1))));
+    m_notes->tell(
+        taken < marks.marks.size() && !isStart
+            ? tr("Split %1 was put in between two marks. Ctrl+Z takes it out again.").arg(taken)
+            : QString());
+}
+
+/// The order of the marks is told where the coach looks; what must be decided first, in a box.
+void TakingWindow::refuseMark(const Alert& why) {
+    if (!why.title.empty()) {
+        m_workspace.showAlert(why, this);
+        return;
+    }
+    refuse(QString::fromStdString(why.text));
+    m_notes->tell(QString::fromStdString(why.text));
+}
+
+/// A mark goes to another frame, unless it would pass its neighbour.
+void TakingWindow::moveTo(std::size_t mark, Stamps stamps) {
+    RunMarks marks = m_document.marks(m_run);
+    if (const auto refused = refusalToMove(marks, mark, stamps.front())) {
+        refuseMark(*refused);
+        showMarks(); // where it was, if it was dragged
+        return;
+    }
+    if (mark == 0)
+        setStart(marks, std::move(stamps));
+    else
+        moveMark(marks, mark, std::move(stamps));
+    m_notes->tell({});
+    m_document.setMarks(m_run, tr("mark moved"), marks);
 }
 
 void TakingWindow::moveMarkHere() {
@@ -137,14 +168,8 @@ void TakingWindow::moveMarkHere() {
 }
 
 void TakingWindow::moveMarkTo(Stamps stamps) {
-    RunMarks marks = m_document.marks(m_run);
-    if (!m_selected || !stampsOf(marks, *m_selected))
-        return;
-    if (*m_selected == 0)
-        setStart(marks, std::move(stamps));
-    else
-        moveMark(marks, *m_selected, std::move(stamps));
-    m_document.setMarks(m_run, tr("mark moved"), marks);
+    if (m_selected && stampsOf(m_document.marks(m_run), *m_selected))
+        moveTo(*m_selected, std::move(stamps));
 }
 
 /// The selected mark, otherwise the last, moves; the frame on the screen stays.
@@ -171,7 +196,7 @@ void TakingWindow::nudgeMark(int frames) {
 }
 
 void TakingWindow::nudge(std::size_t mark, int frames) {
-    RunMarks marks = m_document.marks(m_run);
+    const RunMarks marks = m_document.marks(m_run);
     const Stamps* const before = stampsOf(marks, mark);
     if (!before)
         return;
@@ -179,12 +204,8 @@ void TakingWindow::nudge(std::size_t mark, int frames) {
     for (std::size_t camera = 0; camera < stamps.size(); ++camera)
         stamps[camera] = m_deck->nudged(camera < m_deck->cameras() ? camera : m_deck->views(),
                                         stamps[camera], frames);
-    if (mark == 0)
-        setStart(marks, std::move(stamps));
-    else
-        moveMark(marks, mark, std::move(stamps));
     m_selected = mark;
-    m_document.setMarks(m_run, tr("mark moved"), marks);
+    moveTo(mark, std::move(stamps));
 }
 
 void TakingWindow::dropMark(std::size_t mark, double seconds) {
@@ -201,7 +222,7 @@ void TakingWindow::dropMark(std::size_t mark, double seconds) {
 }
 
 void TakingWindow::dropMarkAt(std::size_t mark, const CMTime& moment) {
-    RunMarks marks = m_document.marks(m_run);
+    const RunMarks marks = m_document.marks(m_run);
     const Stamps* const before = stampsOf(marks, mark);
     if (!before)
         return;
@@ -210,12 +231,8 @@ void TakingWindow::dropMarkAt(std::size_t mark, const CMTime& moment) {
     for (std::size_t camera = 0; camera < stamps.size(); ++camera)
         stamps[camera] = shifted(camera < m_deck->cameras() ? m_deck->index(camera).get() : nullptr,
                                  stamps[camera], way);
-    if (mark == 0)
-        setStart(marks, std::move(stamps));
-    else
-        moveMark(marks, mark, std::move(stamps));
     select(mark);
-    m_document.setMarks(m_run, tr("mark moved"), marks);
+    moveTo(mark, std::move(stamps));
 }
 
 void TakingWindow::deleteMark() {
@@ -225,8 +242,11 @@ void TakingWindow::deleteMark() {
     }
     m_deck->finishPresses();
     RunMarks marks = m_run < 0 ? RunMarks() : m_document.marks(m_run);
-    if (!m_selected || !stampsOf(marks, *m_selected))
+    if (!m_selected || !stampsOf(marks, *m_selected)) {
+        refuse(tr("No mark is selected. Ctrl and the arrows go from mark to mark."));
         return;
+    }
+    m_notes->tell({});
     if (*m_selected == 0)
         marks.start.reset();
     else

@@ -3,6 +3,7 @@
 #include "desktop/film/time_line.h"
 #include "desktop/shell/workspace.h"
 #include "desktop/taking/expected_place.h"
+#include "desktop/taking/film_grid.h"
 #include "desktop/taking/folder_films.h"
 #include "desktop/taking/notes/notes_panel.h"
 #include "desktop/taking/taking_window.h"
@@ -12,7 +13,6 @@
 
 #include <QFileInfo>
 #include <QLabel>
-#include <QSplitter>
 
 #include <algorithm>
 #include <span>
@@ -70,11 +70,11 @@ void TakingWindow::showFilms() {
     const qsizetype shown = films.isEmpty() ? 0 : films.size() + beside.size();
     for (std::size_t camera = 0; camera < std::max<std::size_t>(shown, 1); ++camera) {
         auto* view = new FilmView(*m_deck, camera);
-        m_films->addWidget(view);
         if (std::cmp_greater_equal(camera, films.size()) && shown > 0)
             view->setCaption(tr("Fixed: %1").arg(QFileInfo(beside.front()).completeBaseName()));
         m_views.push_back(view);
     }
+    m_films->setFilms({m_views.begin(), m_views.end()});
     m_deck->open(films, beside);
     m_notes->bringIntoStep();
     if (m_run < 0)
@@ -144,6 +144,8 @@ void TakingWindow::showHealth() {
             notes.append((m_deck->cameras() > 1 ? tr("Camera %1: ").arg(camera + 1) : QString()) +
                          QString::fromStdString(note.text));
     }
+    for (QString& note : notes)
+        note.prepend(QStringLiteral("⚠ "));
     m_health->setText(notes.join('\n'));
     if (m_hasAlignedCameras || m_run < 0 || m_deck->cameras() < 2)
         return;

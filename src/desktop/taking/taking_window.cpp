@@ -7,12 +7,14 @@
 #include "desktop/film/time_line.h"
 #include "desktop/race/frozen_table.h"
 #include "desktop/shell/dropped_files.h"
+#include "desktop/shell/field_keys.h"
 #include "desktop/shell/refused_entry.h"
 #include "desktop/shell/shown_number.h"
 #include "desktop/shell/theme.h"
 #include "desktop/shell/typing.h"
 #include "desktop/shell/window_place.h"
 #include "desktop/shell/workspace.h"
+#include "desktop/taking/film_grid.h"
 #include "desktop/taking/gate_strip.h"
 #include "desktop/taking/notes/clip_player.h"
 #include "desktop/taking/notes/lane_strip.h"
@@ -26,6 +28,7 @@
 #include "splittaking/video_names.h"
 #include "video/health.h"
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QFileDialog>
 #include <QFileInfo>
@@ -48,14 +51,6 @@ QString qtText(const std::string& text) {
 
 QString rateText(double rate) {
     return QStringLiteral("×") + QString::number(rate);
-}
-
-QLabel* quietLabel() {
-    auto* label = new QLabel;
-    label->setTextFormat(Qt::PlainText);
-    label->setForegroundRole(QPalette::PlaceholderText);
-    label->setWordWrap(true);
-    return label;
 }
 
 } // namespace
@@ -124,22 +119,26 @@ QWidget* TakingWindow::makeRuns() {
     m_runTable->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
     m_runTable->horizontalHeader()->setSectionResizeMode(RunTableModel::NameColumn,
                                                          QHeaderView::Stretch);
-    auto* box = new QWidget;
-    auto* column = new QVBoxLayout(box);
+    m_list = new QWidget;
+    auto* column = new QVBoxLayout(m_list);
     column->setContentsMargins(0, 0, theme::Spacing, 0);
     column->setSpacing(theme::Spacing);
     column->addWidget(m_name);
     column->addWidget(m_runTable, 1);
-    return box;
+    return m_list;
 }
 
 QWidget* TakingWindow::makeStage() {
-    m_films = new QSplitter;
-    m_films->setChildrenCollapsible(false);
+    m_films = new FilmGrid;
     m_state = new QLabel;
     m_state->setObjectName("state");
-    m_health = quietLabel();
+    m_health = new QLabel;
+    m_health->setTextFormat(Qt::PlainText);
+    m_health->setWordWrap(true);
     m_health->setObjectName("health");
+    m_typing = new QLabel(tr("Typing: Esc gives the keys back to the film"));
+    m_typing->setObjectName("typing");
+    m_typing->hide();
     m_line = new TimeLine(*m_deck);
     m_splits = new SplitBar;
     m_gates = new GateStrip;
@@ -149,6 +148,7 @@ QWidget* TakingWindow::makeStage() {
                              *m_line, *m_form);
     auto* row = new QHBoxLayout;
     row->addWidget(m_health, 1);
+    row->addWidget(m_typing, 0, Qt::AlignRight | Qt::AlignTop);
     row->addWidget(m_state, 0, Qt::AlignRight | Qt::AlignTop);
     auto* box = new QWidget;
     auto* column = new QVBoxLayout(box);
@@ -173,9 +173,12 @@ QWidget* TakingWindow::makeTable() {
 }
 
 void TakingWindow::connectParts() {
+    auto* const keys = new FieldKeys(
+        *this, [this] { m_list->isVisible() ? m_runTable->setFocus() : m_line->setFocus(); });
+    connect(keys, &FieldKeys::typingChanged, m_typing, &QLabel::setVisible);
     connect(&m_document, &TakingDocument::changed, this, &TakingWindow::showDocument);
     connect(&m_document.undoStack(), &QUndoStack::cleanChanged, this,
-            [this](bool isClean) { setWindowModified(!isClean); });
+            [this] { setWindowModified(m_document.isDirty()); });
     connect(m_runTable->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
             [this](const QModelIndex& current) { selectRun(current.row()); });
     connect(m_runTable, &QTableView::clicked, this, [this] {
@@ -220,6 +223,18 @@ bool TakingWindow::open(const QString& path) {
         showFilms(); // says how films come here
     m_runTable->setFocus();
     return true;
+}
+
+void TakingWindow::makeFilmLarger() {
+    constexpr int Stages = 3;
+    m_larger = (m_larger + 1) % Stages;
+    m_table->setVisible(m_larger == 0);
+    m_list->setVisible(m_larger < 2);
+    m_notes->setVisible(m_larger < 2);
+    if (m_larger == 2)
+        m_line->setFocus(); // what was hidden may have had it, and keys belong to the window
+    else
+        m_runTable->setFocus();
 }
 
 void TakingWindow::tell(const std::string& message) {

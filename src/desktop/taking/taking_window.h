@@ -13,13 +13,13 @@
 
 class QLabel;
 class QLineEdit;
-class QSplitter;
 class QTableView;
 
 namespace kavela::desktop {
 
 class ClipPlayer;
 class FilmDeck;
+class FilmGrid;
 class FilmSound;
 class FilmView;
 class FrozenTable;
@@ -89,6 +89,8 @@ public:
     bool save();
     void exportData();
     void findRun();
+    /// Makes the film larger: without the table, then alone, then with all beside it again.
+    void makeFilmLarger();
     /// Shows the recording of the run beside the film, to be aligned and attached.
     void openRecording(const QString& path = {});
     [[nodiscard]] RecordingDialog& recording();
@@ -103,7 +105,7 @@ public:
 signals:
     void homeRequested();
     void settingsRequested();
-    void analysisRequested(const QString& path);
+    void analysisRequested(); ///< of the document as it is now, saved or not
     void crossRequested(const QString& path);
     void filesRequested(const QStringList& paths);
 
@@ -132,6 +134,8 @@ private:
     void showState();
     void showHealth();
     void select(std::optional<std::size_t> mark);
+    void refuseMark(const Alert& why);
+    void moveTo(std::size_t mark, Stamps stamps);
     void tell(const std::string& message);
     void refuse(const QString& why);
     void refuseWithoutFilm();
@@ -165,10 +169,13 @@ private:
 
     QTableView* m_runTable = nullptr;
     QLineEdit* m_name = nullptr;
-    QSplitter* m_films = nullptr;
+    FilmGrid* m_films = nullptr;
+    QWidget* m_list = nullptr; ///< the runs to the left
+    int m_larger = 0;          ///< 0 to 2: how much has made room for the film
     std::vector<FilmView*> m_views;
     QLabel* m_state = nullptr;
     QLabel* m_health = nullptr;
+    QLabel* m_typing = nullptr; ///< how the keys come back from a field to the film
     TimeLine* m_line = nullptr;
     SplitBar* m_splits = nullptr;
     GateStrip* m_gates = nullptr;

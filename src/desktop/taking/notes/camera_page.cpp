@@ -5,6 +5,7 @@
 #include "desktop/shell/theme.h"
 #include "desktop/taking/taking_document.h"
 #include "splitdata/run_timing.h"
+#include "splittaking/annotations/refusals.h"
 #include "video/recording_date.h"
 
 #include <QComboBox>
@@ -140,11 +141,17 @@ void CameraPage::showMarks() {
     m_next->setText(tr("Find one moment on both films, the fixed camera's alone with "
                        "Alt+PgUp and Alt+PgDown. M marks it."));
     const auto lag = lagOf(*run, *m_desk.fixedCamera);
-    m_step->setText(
+    const QString step =
         lag ? tr("In step: the fixed camera's film is %1 s ahead.").arg(shownNumber(*lag, 3))
         : lagByDates(*m_desk.fixedCamera)
             ? tr("Placed by the dates in the two films, to a second or two.")
-            : tr("Not in step yet."));
+            : tr("Not in step yet.");
+    const bool hasDate =
+        began(m_desk.document.fixedFilm(m_desk.run, *m_desk.fixedCamera)).has_value();
+    m_step->setText(hasDate ? step
+                            : step + ' ' +
+                                  tr("Its film has no date: moments are kept without the "
+                                     "time of its clock."));
 }
 
 void CameraPage::choose(const QString& film) {
@@ -185,21 +192,23 @@ void CameraPage::mark(const Stamps& stamps) {
         emit told(tr("The film of the fixed camera shows no frame."));
         return;
     }
-    const ReferenceDate zero =
-        began(m_desk.document.fixedFilm(m_desk.run, camera)).value_or(ReferenceDate{});
+    if (refuses(refusalOfSync(*m_desk.record(), camera, stamps.front(), *fixed)))
+        return;
+    const auto zero = began(m_desk.document.fixedFilm(m_desk.run, camera));
     edit(tr("moment on both films"),
          [&](athletedata031& run) { markSync(run, camera, stamps.front(), *fixed, zero); });
     bringIntoStep();
     emit flashed(tr("Same moment"));
 }
 
-void CameraPage::removeCurrent() {
+bool CameraPage::removeCurrent() {
     const int row = m_table->currentRow();
     if (!m_desk.fixedCamera || row < 0 || std::cmp_greater_equal(row, m_marks.size()))
-        return;
+        return false;
     const TagHandle tag = m_marks[static_cast<std::size_t>(row)].tag;
     edit(tr("moment removed"), [&](athletedata031& run) { removeSync(run, tag); });
     bringIntoStep();
+    return true;
 }
 
 /// Films are asked once: the page is shown anew at every mark.

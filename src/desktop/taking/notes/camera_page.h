@@ -24,7 +24,7 @@ public:
     void refresh() override;
     /// The frames shown are one moment.
     void mark(const Stamps& stamps) override;
-    void removeCurrent() override;
+    [[nodiscard]] bool removeCurrent() override;
 
     /// Where on the run's film a moment of a fixed camera's film lies, in seconds; nothing as long
     /// as they are not in step.

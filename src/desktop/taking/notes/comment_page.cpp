@@ -9,6 +9,7 @@
 #include "splittaking/annotations/run_notes.h"
 #include "splittaking/course_setup.h"
 
+#include <QAbstractItemDelegate>
 #include <QCheckBox>
 #include <QFormLayout>
 #include <QLabel>
@@ -61,6 +62,11 @@ CommentPage::CommentPage(NoteDesk& desk)
         m_table->setVisible(isVisible);
     });
     connect(m_table, &QTableWidget::cellChanged, this, &CommentPage::takeComment);
+    connect(m_table->itemDelegate(), &QAbstractItemDelegate::closeEditor, this,
+            [this](QWidget*, QAbstractItemDelegate::EndEditHint hint) {
+                if (hint == QAbstractItemDelegate::SubmitModelCache) // by Enter
+                    QMetaObject::invokeMethod(this, &CommentPage::goOn, Qt::QueuedConnection);
+            });
 }
 
 void CommentPage::addScores() {
@@ -144,6 +150,15 @@ void CommentPage::refresh() {
     const QSignalBlocker blocked(m_table);
     for (int row = 0; row < m_table->rowCount(); ++row)
         m_table->item(row, 0)->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable);
+}
+
+/// Enter leads from one comment to the next: what is typed behind it is text and no key.
+void CommentPage::goOn() {
+    const int next = m_table->currentRow() + 1;
+    if (next >= m_table->rowCount())
+        return;
+    m_table->setCurrentCell(next, 1);
+    m_table->editItem(m_table->item(next, 1));
 }
 
 void CommentPage::takeComment(int row, int column) {

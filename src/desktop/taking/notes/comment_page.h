@@ -27,6 +27,7 @@ private:
     void addScores();
     void addRadio();
     void takeComment(int row, int column);
+    void goOn();
 
     QCheckBox* m_isVisible;
     QTableWidget* m_table;

@@ -16,7 +16,8 @@ namespace kavela::desktop {
 namespace {
 
 constexpr int RowHeight = 14;
-constexpr int Reach = 6; // pixels beside a mark that still hit it
+constexpr int Reach = 6;  // pixels beside a mark that still hit it
+constexpr int Beside = 4; // pixels between a mark and a title
 
 bool isOnTimeLine(const LaneMark& mark) {
     return mark.kind == MarkKind::Start || mark.kind == MarkKind::Split;
@@ -66,6 +67,32 @@ QPoint LaneStrip::placeOf(const LaneMark& mark) const {
     return {m_line.placeOf(mark.seconds), mark.lane * RowHeight + RowHeight / 2};
 }
 
+QRect LaneStrip::titlePlace(int row) const {
+    const QFontMetrics metrics(theme::captionFont(*this));
+    // A name may be as long as a file's; it must not push the title out of every room.
+    const int wanted = std::min(
+        metrics.horizontalAdvance(m_titles.at(static_cast<std::size_t>(row))) + theme::SmallSpacing,
+        width() / 4);
+    std::vector<int> walls;
+    for (const LaneMark& mark : m_marks)
+        if (mark.lane == row)
+            walls.push_back(placeOf(mark).x());
+    walls.push_back(width());
+    std::ranges::sort(walls);
+    int left = 0;
+    QRect widest;
+    for (const int wall : walls) {
+        const QRect room(left, row * RowHeight, wall - Beside - left, RowHeight - 1);
+        if (room.width() > widest.width())
+            widest = room;
+        if (widest.width() >= wanted)
+            break;
+        left = wall + Beside;
+    }
+    widest.setWidth(std::min(widest.width(), wanted));
+    return widest;
+}
+
 void LaneStrip::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setFont(theme::captionFont(*this));
@@ -75,12 +102,11 @@ void LaneStrip::paintEvent(QPaintEvent*) {
         painter.drawLine(place.bottomLeft(), place.bottomRight());
     }
     for (int row = 0; row < rows(); ++row) {
-        const QString& title = m_titles[static_cast<std::size_t>(row)];
-        const QRect place(0, row * RowHeight,
-                          painter.fontMetrics().horizontalAdvance(title) + theme::SmallSpacing,
-                          RowHeight - 1);
+        const QRect place = titlePlace(row);
         painter.setPen(theme::quietText(palette()));
-        painter.drawText(place, Qt::AlignLeft | Qt::AlignVCenter, title);
+        painter.drawText(place, Qt::AlignLeft | Qt::AlignVCenter,
+                         painter.fontMetrics().elidedText(m_titles[static_cast<std::size_t>(row)],
+                                                          Qt::ElideRight, place.width()));
     }
     for (const LaneMark& mark : m_marks) {
         const bool isSelected = mark.handle == m_selected;

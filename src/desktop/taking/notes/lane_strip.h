@@ -24,6 +24,9 @@ public:
     [[nodiscard]] QSize sizeHint() const override;
     /// Where a mark is drawn.
     [[nodiscard]] QPoint placeOf(const LaneMark& mark) const;
+    /// Where the title of a row stands: beside the marks, in the first room that is wide enough for
+    /// it, or else in the widest.
+    [[nodiscard]] QRect titlePlace(int row) const;
 
 signals:
     void chosen(const MarkHandle& handle);

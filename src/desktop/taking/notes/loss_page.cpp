@@ -7,7 +7,9 @@
 #include "desktop/taking/notes/code_combo.h"
 #include "desktop/taking/taking_document.h"
 #include "splitdata/run_timing.h"
+#include "splittaking/annotations/refusals.h"
 #include "splittaking/annotations/remembered_texts.h"
+#include "splittaking/marking.h"
 
 #include <QComboBox>
 #include <QFormLayout>
@@ -48,8 +50,15 @@ QString signedText(double value) {
 
 LossPage::LossPage(NoteDesk& desk) : NotePage(desk) {
     makeParts();
+    auto* fresh = new QPushButton(tr("New"));
+    fresh->setObjectName("lossNew");
+    fresh->setToolTip(tr("The next M begins another time loss"));
+    connect(fresh, &QPushButton::clicked, this, &LossPage::begin);
+    auto* against = new QHBoxLayout;
+    against->addWidget(m_versus, 1);
+    against->addWidget(fresh);
     auto* form = new QFormLayout;
-    form->addRow(tr("Against"), m_versus);
+    form->addRow(tr("Against"), against);
     auto* section = new QHBoxLayout;
     auto* over = new QPushButton(tr("Add over the section"));
     over->setObjectName("lossAdd");
@@ -67,6 +76,7 @@ LossPage::LossPage(NoteDesk& desk) : NotePage(desk) {
             [this] { add(static_cast<std::size_t>(m_split->currentIndex() + 1)); });
     connect(m_table, &QTableWidget::cellClicked, this, [this](int row) {
         m_loss = static_cast<std::size_t>(row);
+        emit rowChosen();
         refresh();
     });
 }
@@ -99,7 +109,9 @@ void LossPage::makeParts() {
     connect(m_other, &QPushButton::clicked, this, &LossPage::goToOtherRun);
     connect(m_newReason, &QLineEdit::editingFinished, this, &LossPage::addReason);
     connect(m_comment, &QLineEdit::editingFinished, this, [this] {
-        if (loss() && m_comment->isModified())
+        const bool isTyped = m_comment->isModified();
+        m_comment->setModified(false); // taken, whatever is undone in the field afterwards
+        if (loss() && isTyped)
             change(tr("comment on a time loss"), [&](timeloss031& changed) {
                 changed.comments = m_comment->text().trimmed().toStdString();
             });
@@ -250,7 +262,9 @@ void LossPage::showMarks() {
     m_other->setEnabled(otherRun().has_value());
     m_other->setText(isOnOtherRun() ? tr("Back to the run") : tr("To the other run"));
     if (!inHand) {
-        m_result->setText(tr("M marks where the stretch starts and makes a time loss."));
+        m_result->setText(m_owner >= 0 && !m_desk.document.run(m_owner).timeslosses.empty()
+                              ? tr("M marks where the stretch starts and makes another time loss.")
+                              : tr("M marks where the stretch starts and makes a time loss."));
         return;
     }
     const auto fault = faultOfMarks(*inHand);
@@ -300,19 +314,38 @@ void LossPage::add(std::size_t split) {
     });
 }
 
+/// The losses of the run stay; none of them is in hand.
+void LossPage::begin() {
+    if (m_desk.run != m_owner) {
+        emit told(tr("Go back to the run that lost the time first."));
+        return;
+    }
+    m_loss.reset();
+    emit rowChosen();
+    refresh();
+}
+
+void LossPage::beginAt(const CMTime& moment) {
+    const int versus = chosenVersus();
+    if (versus < 0) {
+        emit refused(tr("A time loss needs another run to compare with."));
+        return;
+    }
+    timeloss031 made = lossAgainst(*m_desk.record(), m_desk.document.run(versus));
+    setMark(made, LossMark::OwnStart, moment);
+    m_loss = m_desk.record()->timeslosses.size();
+    edit(tr("time loss"), [&](athletedata031& run) { run.timeslosses.push_back(made); });
+    emit marked(MarkKind::TimeLoss, moment);
+    emit flashed(tr("Start"));
+}
+
+bool LossPage::isMarked(std::size_t side) const {
+    return loss() && stretchSeconds(*loss(), side).has_value();
+}
+
 void LossPage::mark(const Stamps& stamps) {
-    if (!loss()) {
-        const int versus = chosenVersus();
-        if (versus < 0) {
-            emit told(tr("A time loss needs another run to compare with."));
-            return;
-        }
-        timeloss031 made = lossAgainst(*m_desk.record(), m_desk.document.run(versus));
-        setMark(made, LossMark::OwnStart, stamps.front());
-        m_loss = m_desk.record()->timeslosses.size();
-        edit(tr("time loss"), [&](athletedata031& run) { run.timeslosses.push_back(made); });
-        emit marked(MarkKind::TimeLoss, stamps.front());
-        emit flashed(tr("Start"));
+    if (!loss() || (!isOnOtherRun() && isMarked(OwnSide))) {
+        beginAt(stamps.front());
         return;
     }
     for (const LossMark which : isOnOtherRun()
@@ -322,10 +355,13 @@ void LossPage::mark(const Stamps& stamps) {
             setMarkHere(which, stamps.front());
             return;
         }
-    emit told(tr("Start and end of this stretch are marked. Their buttons move them."));
+    emit refused(tr("Start and end are marked here too. Ctrl+T goes back to the run that lost the "
+                    "time, where M begins its next loss."));
 }
 
 void LossPage::setMarkHere(LossMark which, const CMTime& moment) {
+    if (loss() && refuses(refusalOfLossMark(*loss(), which, moment)))
+        return;
     change(tr("mark of a time loss"),
            [&](timeloss031& changed) { setMark(changed, which, moment); });
     if (isOwn(which))
@@ -341,25 +377,40 @@ void LossPage::choose(const LaneMark& mark) {
     refresh();
 }
 
-void LossPage::removeCurrent() {
+bool LossPage::removeCurrent() {
     if (!loss())
-        return;
+        return false;
     const std::size_t removed = *m_loss;
     m_loss.reset();
     m_desk.document.editRun(m_owner, tr("time loss removed"),
                             [&](athletedata031& run) { removeTimeLoss(run, removed); });
+    return true;
+}
+
+/// Where the stretch in hand starts on one of its two films; while that is not marked, as long
+/// after the start of the run as on the other one.
+std::optional<CMTime> LossPage::stretchOn(int run) const {
+    const timeloss031* const inHand = loss();
+    if (!inHand)
+        return std::nullopt;
+    const bool isOwner = run == m_owner;
+    const auto here = markOf(*inHand, isOwner ? LossMark::OwnStart : LossMark::VersusStart);
+    const auto there = markOf(*inHand, isOwner ? LossMark::VersusStart : LossMark::OwnStart);
+    const auto start = startOf(m_desk.document.run(run));
+    const auto other = isOwner ? otherRun() : std::optional(m_owner);
+    if (here || !there || !start || !other)
+        return here;
+    return later(*start, runSecondsAt(m_desk.document.run(*other), *there));
 }
 
 bool LossPage::goToOtherRun() {
     const auto other = m_desk.run == m_owner ? otherRun() : std::optional(m_owner);
-    if (!other)
+    if (!other || *other < 0)
         return false;
+    const auto moment = stretchOn(*other);
     emit runRequested(*other);
-    const auto start =
-        loss() ? markOf(*loss(), isOnOtherRun() ? LossMark::VersusStart : LossMark::OwnStart)
-               : std::nullopt;
-    if (start)
-        m_desk.deck.seek(*start); // to the stretch that is compared
+    if (moment && m_desk.run == *other)
+        m_desk.deck.seek(*moment);
     return true;
 }
 
@@ -372,7 +423,7 @@ void LossPage::change(const QString& what, const std::function<void(timeloss031&
 /// A new reason is kept for other losses.
 void LossPage::addReason() {
     const std::string reason = m_newReason->text().trimmed().toStdString();
-    m_newReason->clear();
+    m_newReason->setText({}); // nothing of it is left to undo there
     if (reason.empty() || !loss())
         return;
     const std::vector<std::string> used{reason};

@@ -28,10 +28,12 @@ public:
     void refresh() override;
     [[nodiscard]] std::optional<MarkKind> kind() const override { return MarkKind::TimeLoss; }
     /// Start and end of the stretch in turn, on the run in front; the first mark makes the loss.
+    /// Once both are marked on its own run, the next press begins the next loss.
     void mark(const Stamps& stamps) override;
     void choose(const LaneMark& mark) override;
-    void removeCurrent() override;
-    /// To the run on the other side of the loss in hand; false where the file has none.
+    [[nodiscard]] bool removeCurrent() override;
+    /// To the run on the other side of the loss in hand, and to the stretch there; false where the
+    /// file has none.
     bool goToOtherRun();
 
 private:
@@ -43,6 +45,10 @@ private:
     [[nodiscard]] std::optional<int> otherRun() const;
     [[nodiscard]] int chosenVersus() const;
     void add(std::size_t split);
+    void begin();
+    void beginAt(const CMTime& moment);
+    [[nodiscard]] bool isMarked(std::size_t side) const;
+    [[nodiscard]] std::optional<CMTime> stretchOn(int run) const;
     void setMarkHere(LossMark which, const CMTime& moment);
     void change(const QString& what, const std::function<void(timeloss031&)>& act);
     void addReason();

@@ -47,11 +47,12 @@ QString filmText(const FilmOfRun& film) {
     return MarkList::tr(" · other run");
 }
 
-/// Whether a mark repeats one of the first camera on another one.
-bool isRepeated(const LaneMark& mark) {
-    const bool isOfAllCameras = mark.kind == MarkKind::Start || mark.kind == MarkKind::Split ||
-                                mark.kind == MarkKind::Stroke;
-    return isOfAllCameras && mark.handle.entry > 0;
+/// Where a mark lies on another film than the run's own, by that film's clock.
+QString filmText(const ListedMark& listed) {
+    const QString film = filmText(listed.mark.film);
+    return film.isEmpty() || !listed.filmSeconds
+               ? film
+               : MarkList::tr("%1 at %2").arg(film, shownHundredths(*listed.filmSeconds));
 }
 
 } // namespace
@@ -64,8 +65,8 @@ MarkList::MarkList(QWidget* parent)
     m_tree->setHeaderLabels({tr("Time"), tr("Mark")});
     m_tree->header()->setSectionResizeMode(0, QHeaderView::ResizeToContents);
     m_tree->setSelectionMode(QAbstractItemView::ExtendedSelection);
-    m_tree->setToolTip(tr("A click shows the frame of a mark; Ctrl and Shift choose several for "
-                          "their clips"));
+    m_tree->setToolTip(tr("Times are of this run, whatever film a mark lies on. A click shows the "
+                          "frame of a mark; Ctrl and Shift choose several for their clips"));
     m_kinds->setObjectName("markKinds");
     m_kinds->setText(tr("Kinds"));
     m_kinds->setPopupMode(QToolButton::InstantPopup);
@@ -160,18 +161,15 @@ void MarkList::setFilter(const MarkFilter& filter) {
     emit filterChanged();
 }
 
-void MarkList::setMarks(const athletedata031* run, const std::vector<LaneMark>& marks,
-                        const Film& film) {
+void MarkList::setMarks(const std::vector<ListedMark>& marks, const Film& film) {
     m_rows.clear();
-    for (const LaneMark& mark : marks) {
-        if (isRepeated(mark))
-            continue;
-        const bool isOnFirst = mark.film == FilmOfRun{};
-        const double seconds = run && isOnFirst ? runSecondsAt(*run, mark.time) : mark.seconds;
-        const bool isOutside = isOnFirst && film.to > film.from &&
+    for (const ListedMark& listed : marks) {
+        const LaneMark& mark = listed.mark;
+        const bool isOutside = mark.film == FilmOfRun{} && film.to > film.from &&
                                (mark.seconds < film.from || mark.seconds > film.to);
-        m_rows.push_back({mark.handle, shownHundredths(seconds),
-                          QString::fromStdString(mark.text) + filmText(mark.film) +
+        m_rows.push_back({mark.handle,
+                          listed.seconds ? shownHundredths(*listed.seconds) : QStringLiteral("–"),
+                          QString::fromStdString(mark.text) + filmText(listed) +
                               (isOutside ? tr(" · outside the film") : QString())});
     }
     show();

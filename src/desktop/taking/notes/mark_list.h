@@ -1,6 +1,6 @@
 #pragma once
 
-#include "splittaking/annotations/lanes.h"
+#include "splittaking/annotations/marks_list.h"
 
 #include <QWidget>
 
@@ -23,7 +23,7 @@ public:
         double to = 0;
     };
 
-    void setMarks(const athletedata031* run, const std::vector<LaneMark>& marks, const Film& film);
+    void setMarks(const std::vector<ListedMark>& marks, const Film& film);
     void setSelected(const std::optional<MarkHandle>& handle);
 
     [[nodiscard]] const MarkFilter& filter() const { return m_filter; }

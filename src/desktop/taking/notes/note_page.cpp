@@ -52,6 +52,12 @@ void NotePage::commit() {
     endTypingIn(*this);
 }
 
+bool NotePage::refuses(const std::optional<std::string>& why) {
+    if (why)
+        emit refused(QString::fromStdString(*why));
+    return why.has_value();
+}
+
 void NotePage::edit(const QString& what, const std::function<void(athletedata031&)>& change) {
     if (m_desk.record())
         m_desk.document.editRun(m_desk.run, what, change);

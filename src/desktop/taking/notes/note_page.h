@@ -88,8 +88,8 @@ public:
     virtual void choose(const LaneMark&) {}
     /// No mark is chosen any more.
     virtual void unchoose() {}
-    /// What the removing key does when no mark is selected.
-    virtual void removeCurrent() {}
+    /// What the removing key does when no mark is selected; false where nothing is in hand.
+    [[nodiscard]] virtual bool removeCurrent() { return false; }
     /// The next gate or the one before among those of the mode; false leaves it to the gate strip.
     virtual bool stepGate(int) { return false; }
 
@@ -102,11 +102,15 @@ signals:
     void rowChosen();
     void flashed(const QString& text); ///< to be shown on the film for a moment
     void told(const QString& text);    ///< to be shown below the page
+    void refused(const QString& why);  ///< a key did nothing: to be shown where the coach looks
     void runRequested(int run);
     /// A button was pressed that acts with the frames that are meant by it.
     void pressed(const FrameAct& act);
+    void markWanted(); ///< the marking key was pressed in a field of the page
 
 protected:
+    /// Whether a note is refused, which is told then.
+    bool refuses(const std::optional<std::string>& why);
     void edit(const QString& what, const std::function<void(athletedata031&)>& change);
 
     NoteDesk& m_desk;

@@ -9,6 +9,7 @@
 #include "desktop/taking/notes/stroke_page.h"
 #include "desktop/taking/notes/tag_page.h"
 #include "desktop/taking/taking_document.h"
+#include "splittaking/annotations/refusals.h"
 #include "splittaking/messages.h"
 
 #include <QScopedValueRollback>
@@ -81,6 +82,12 @@ void NotesPanel::recordRadio() {
 /// What is marked on one camera follows on the others.
 void NotesPanel::moveSelected(const CMTime& moment) {
     const LaneMark mark = *m_selected;
+    if (const auto why = refusalOfMove(*m_desk.record(), mark.handle, moment)) {
+        refuse(QString::fromStdString(*why));
+        refresh(); // where it was, if it was dragged
+        return;
+    }
+    tell({});
     m_desk.document.editRun(m_desk.run, tr("mark moved"), [&](athletedata031& run) {
         m_selected->handle = moveLaneMark(run, m_desk.document.info(), mark.handle, moment);
         m_selected->time = moment;
@@ -177,9 +184,11 @@ void NotesPanel::deleteMark() {
     m_desk.deck.finishPresses();
     if (!m_desk.record())
         return;
+    tell({});
     if (!m_selected) {
-        if (page())
-            page()->removeCurrent();
+        if (!page() || !page()->removeCurrent())
+            refuse(tr("Nothing is selected that could be removed. Ctrl and the arrows go from mark "
+                      "to mark."));
         return;
     }
     const MarkHandle handle = m_selected->handle;

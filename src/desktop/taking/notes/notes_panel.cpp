@@ -145,10 +145,15 @@ void NotesPanel::addPage(NotePage* page) {
     m_pages[static_cast<std::size_t>(place)] = page;
     connect(page, &NotePage::marked, this, &NotesPanel::selectAt);
     connect(page, &NotePage::picked, this, &NotesPanel::goTo);
-    connect(page, &NotePage::rowChosen, this, &NotesPanel::noteSelected);
+    connect(page, &NotePage::rowChosen, this, [this] {
+        clearSelection(); // the row is what the keys mean now
+        emit noteSelected();
+    });
     connect(page, &NotePage::flashed, this, &NotesPanel::flashed);
     connect(page, &NotePage::told, this, &NotesPanel::hear);
     connect(page, &NotePage::pressed, this, &NotesPanel::press);
+    connect(page, &NotePage::markWanted, this, &NotesPanel::mark);
+    connect(page, &NotePage::refused, this, &NotesPanel::refuse);
     connect(page, &NotePage::runRequested, this, &NotesPanel::runRequested);
 }
 
@@ -243,7 +248,11 @@ void NotesPanel::keepSelection() {
 void NotesPanel::showList() {
     const FilmDeck& deck = m_desk.deck;
     const bool hasFilm = deck.index(0) != nullptr; // which may come before or after its first frame
-    m_list->setMarks(m_desk.record(), m_marks.marks,
+    const auto own = [this](std::int64_t camera, double seconds) {
+        return m_cameras->ownSeconds(camera, seconds);
+    };
+    m_list->setMarks(m_desk.record() ? marksList(*m_desk.record(), m_marks.marks, own)
+                                     : std::vector<ListedMark>(),
                      hasFilm ? MarkList::Film{deck.start(), deck.end()} : MarkList::Film{});
     m_lanes->setLanes(m_marks, m_list->filter());
     showSelection();

@@ -47,6 +47,8 @@ public:
     void forget();
     /// Takes what is being typed.
     void commit();
+    /// Says something below the page; nothing takes it away.
+    void tell(const QString& text);
 
     /// Whether the marking key is the mode's, and not that of the splits.
     [[nodiscard]] bool takesMarks() const;
@@ -112,7 +114,6 @@ private:
     void moveSelected(const CMTime& moment);
     void nudgeSelected(int frames);
     void dropMark(const MarkHandle& handle, double seconds);
-    void tell(const QString& text);
 
     NoteDesk m_desk;
     NoteMode m_mode = NoteMode::Splits;

@@ -5,9 +5,11 @@
 #include "desktop/taking/notes/code_combo.h"
 #include "desktop/taking/taking_document.h"
 #include "splitdata/run_timing.h"
+#include "splittaking/annotations/refusals.h"
 
 #include <QFormLayout>
 #include <QLabel>
+#include <QPushButton>
 #include <QTableWidget>
 
 #include <algorithm>
@@ -31,13 +33,17 @@ PenaltyPage::PenaltyPage(NoteDesk& desk)
     : NotePage(desk),
       m_front(new QLabel),
       m_outOfStep(new QLabel),
+      m_another(new QPushButton(tr("Another at this gate"))),
       m_table(textTable({tr("Gate"), tr("Penalty"), tr("Pole"), tr("With")})) {
     m_front->setObjectName("penaltyFront");
     m_front->setFont(theme::titleFont(*this));
     m_front->setWordWrap(true);
     m_outOfStep->setObjectName("penaltyOutOfStep");
     m_outOfStep->setWordWrap(true);
+    m_another->setObjectName("penaltyAnother");
+    m_another->setToolTip(tr("Choose what else happened at the gate in front; M adds it"));
     m_table->setObjectName("penalties");
+    connect(m_another, &QPushButton::clicked, this, &PenaltyPage::begin);
     addCodes();
     connect(m_table, &QTableWidget::cellClicked, this, [this](int row) { choose(row); });
 }
@@ -67,6 +73,7 @@ void PenaltyPage::addCodes() {
         connect(combo, &CodeCombo::codeChosen, this,
                 [this, field = row.field](std::int64_t code) { change(field, code); });
     }
+    form->addRow(m_another);
     form->addRow(m_outOfStep);
     form->addRow(m_table);
 }
@@ -87,7 +94,8 @@ void PenaltyPage::refresh() {
             return entry.handle == *m_chosen && entry[PenaltyField::Gate] == m_chosenGate;
         });
     const bool isSamePlace = m_gate == m_desk.gates.current() && m_run == m_desk.run;
-    if (!isChosenThere || !isSamePlace)
+    m_isBeginning = m_isBeginning && isSamePlace;
+    if (!m_isBeginning && (!isChosenThere || !isSamePlace))
         chooseAtGate();
     showChosen();
     showTable();
@@ -115,11 +123,25 @@ void PenaltyPage::chooseAtGate() {
             .value_or(0));
 }
 
+/// What the lists say stays, and is a penalty of its own from now on.
+void PenaltyPage::begin() {
+    m_isBeginning = true;
+    m_chosen.reset();
+    m_gate = m_desk.gates.current();
+    m_run = m_desk.run;
+    emit rowChosen();
+    refresh();
+}
+
 void PenaltyPage::showChosen() {
     const athletedata031* const run = m_desk.record();
     const std::int64_t seconds =
         run ? entryOrZero(run->sectioninfo.pens, static_cast<std::size_t>(m_gate - 1)) : 0;
-    m_front->setText(tr("Gate %1: %2 s. M adds a penalty.").arg(m_gate).arg(seconds));
+    m_front->setText((m_chosen ? tr("Gate %1: %2 s. The lists change its penalty.")
+                               : tr("Gate %1: %2 s. M adds a penalty."))
+                         .arg(m_gate)
+                         .arg(seconds));
+    m_another->setEnabled(m_chosen.has_value());
     if (!m_chosen)
         return;
     const auto chosen = std::ranges::find(m_entries, *m_chosen, &PenaltyEntry::handle);
@@ -161,6 +183,7 @@ void PenaltyPage::choose(int row) {
     const auto gate = entry[PenaltyField::Gate].value_or(0);
     if (gate >= 1 && gate <= m_desk.document.info().gates)
         m_desk.gates.setCurrent(static_cast<int>(gate));
+    m_isBeginning = false;
     m_gate = m_desk.gates.current();
     m_chosen = entry.handle;
     m_chosenGate = entry[PenaltyField::Gate];
@@ -183,18 +206,25 @@ void PenaltyPage::mark(const Stamps&) {
                                codeOf(PenaltyField::Direction),
                                codeOf(PenaltyField::Style),
                                codeOf(PenaltyField::Eye)};
+    if (const auto why = refusalOfPenalty(*m_desk.record(), detail)) {
+        emit refused(QString::fromStdString(*why) + ' ' +
+                     tr("\"%1\" begins a second one.").arg(m_another->text()));
+        return;
+    }
+    m_isBeginning = false;
     m_chosenGate = m_gate;
     edit(tr("penalty at gate %1").arg(m_gate),
          [&](athletedata031& run) { m_chosen = addPenalty(run, detail, gates); });
 }
 
-void PenaltyPage::removeCurrent() {
+bool PenaltyPage::removeCurrent() {
     if (!m_chosen)
-        return;
+        return false;
     const PenaltyHandle removed = *m_chosen;
     m_chosen.reset();
     edit(tr("penalty removed"),
          [&](athletedata031& run) { removePenalty(run, removed, m_desk.document.info().gates); });
+    return true;
 }
 
 void PenaltyPage::change(PenaltyField field, std::int64_t code) {

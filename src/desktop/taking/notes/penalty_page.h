@@ -4,6 +4,7 @@
 #include "splittaking/annotations/penalty_details.h"
 
 class QLabel;
+class QPushButton;
 
 namespace kavela::desktop {
 
@@ -21,7 +22,7 @@ public:
     void refresh() override;
     void mark(const Stamps& stamps) override;
     [[nodiscard]] bool needsFrame() const override { return false; }
-    void removeCurrent() override;
+    [[nodiscard]] bool removeCurrent() override;
 
 private:
     void addCodes();
@@ -30,11 +31,13 @@ private:
     void showTable();
     void showOutOfStep();
     void choose(int row);
+    void begin();
     void change(PenaltyField field, std::int64_t code);
     [[nodiscard]] std::int64_t codeOf(PenaltyField field) const;
 
     QLabel* m_front;
     QLabel* m_outOfStep;
+    QPushButton* m_another;
     std::array<CodeCombo*, PenaltyFields> m_codes{}; ///< by field; none for the gate
     QTableWidget* m_table;
     std::vector<PenaltyEntry> m_entries; ///< as in the table
@@ -42,6 +45,7 @@ private:
     std::optional<std::int64_t> m_chosenGate; ///< of the one chosen, which another may follow there
     int m_gate = 0;                           ///< that was in front when a penalty was chosen
     int m_run = -1;
+    bool m_isBeginning = false; ///< another penalty at the gate in front, beside those it has
 };
 
 } // namespace kavela::desktop

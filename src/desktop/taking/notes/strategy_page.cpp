@@ -75,6 +75,7 @@ StrategyPage::StrategyPage(NoteDesk& desk) : NotePage(desk) {
     form->addRow(QString(), m_take);
     form->addRow(m_comment);
     connect(add, &QPushButton::clicked, this, &StrategyPage::addComparison);
+    connect(m_title->lineEdit(), &QLineEdit::returnPressed, this, &StrategyPage::addComparison);
     connect(addOption, &QPushButton::clicked, this, &StrategyPage::addWay);
     connect(m_newOption, &QLineEdit::editingFinished, this, &StrategyPage::addWay);
     connect(m_take, &QPushButton::clicked, this, &StrategyPage::takeSectionTime);
@@ -124,7 +125,9 @@ void StrategyPage::makeParts() {
     connect(m_options, &QTableWidget::cellClicked, this, &StrategyPage::rowChosen);
     connect(m_comment, &QLineEdit::editingFinished, this, [this] {
         const std::string text = m_comment->text().trimmed().toStdString();
-        if (strategy() && m_comment->isModified() && text != strategy()->comments)
+        const bool isTyped = m_comment->isModified();
+        m_comment->setModified(false); // taken, whatever is undone in the field afterwards
+        if (strategy() && isTyped && text != strategy()->comments)
             change(tr("comment on ways"), [&](strategy001& changed) { changed.comments = text; });
     });
 }
@@ -260,7 +263,7 @@ void StrategyPage::addWay() {
     const std::string name = m_newOption->text().trimmed().toStdString();
     if (!strategy() || name.empty())
         return;
-    m_newOption->clear();
+    m_newOption->setText({}); // nothing of it is left to undo there
     const std::size_t added = optionsOf(*strategy()).size();
     change(tr("way added"), [&](strategy001& changed) { (void)addOption(changed, name); });
     setInHand(added);
@@ -289,8 +292,10 @@ void StrategyPage::takeCell(int row, int column) {
 
 void StrategyPage::takeSeconds(std::size_t option, const QString& text) {
     try {
-        const double typed = typedSeconds(
-            text, {0, LongestTime, tr("A time is a number of seconds such as 4.35, or 1:04.35")});
+        const NumberRange range{0, LongestTime,
+                                tr("A time is a number of seconds such as 4.35, or 1:04.35")};
+        const bool isEmptied = text.trimmed().isEmpty(); // to be timed anew
+        const double typed = isEmptied ? 0 : typedSeconds(text, range);
         change(tr("time of a way"),
                [&](strategy001& changed) { setOptionSeconds(changed, option, typed); });
     } catch (const RefusedEntry& refusal) {
@@ -323,6 +328,12 @@ void StrategyPage::mark(const Stamps& stamps) {
         return;
     }
     const CMTime moment = stamps.front();
+    const StrategyOption timed = optionsOf(*strategy()).at(*inHand);
+    if (!m_from && timed.seconds > 0) {
+        emit refused(tr("%1 is timed: %2 s. Empty its time to mark it anew.")
+                         .arg(QString::fromStdString(timed.name), timeOrDash(timed.seconds)));
+        return;
+    }
     if (!m_from) {
         m_from = moment;
         emit flashed(tr("Start"));
@@ -330,7 +341,8 @@ void StrategyPage::mark(const Stamps& stamps) {
         return;
     }
     if (orderOf(*m_from, moment) != std::strong_ordering::less) {
-        emit told(tr("The end of a way comes after its beginning."));
+        emit refused(tr("The end of a way comes after its beginning at %1.")
+                         .arg(timeOrDash(m_from->seconds())));
         return;
     }
     const CMTime from = *m_from;
@@ -342,16 +354,17 @@ void StrategyPage::mark(const Stamps& stamps) {
         setInHand(*inHand + 1);
 }
 
-void StrategyPage::removeCurrent() {
+bool StrategyPage::removeCurrent() {
     if (!strategy())
-        return;
+        return false;
     m_from.reset();
     if (const auto inHand = option()) {
         change(tr("way removed"), [&](strategy001& changed) { removeOption(changed, *inHand); });
-        return;
+        return true;
     }
     const std::size_t removed = m_strategy;
     edit(tr("ways removed"), [&](athletedata031& run) { removeStrategy(run, removed); });
+    return true;
 }
 
 } // namespace kavela::desktop

@@ -26,7 +26,7 @@ public:
     /// Where the way in hand begins, then where it ends.
     void mark(const Stamps& stamps) override;
     /// Removes the way in hand; where there is none, the comparison.
-    void removeCurrent() override;
+    [[nodiscard]] bool removeCurrent() override;
 
 private:
     void makeParts();

@@ -5,6 +5,7 @@
 #include "desktop/taking/notes/code_combo.h"
 #include "desktop/taking/taking_document.h"
 #include "splitdata/run_timing.h"
+#include "splittaking/annotations/refusals.h"
 
 #include <QFormLayout>
 #include <QLabel>
@@ -85,6 +86,8 @@ void StrokePage::mark(const Stamps& stamps) {
 
 void StrokePage::markHand(const Stamps& stamps, HandCode hand) {
     const bool isLeft = hand == HandCode::Left;
+    if (refuses(refusalOfStroke(*m_desk.record(), stamps.front(), hand)))
+        return;
     edit(isLeft ? tr("left stroke") : tr("right stroke"),
          [&](athletedata031& run) { (void)addStroke(run, stamps, hand, m_style->code()); });
     emit marked(MarkKind::Stroke, stamps.front());

@@ -7,6 +7,7 @@
 #include "desktop/taking/notes/clip_player.h"
 #include "desktop/taking/taking_document.h"
 #include "splittaking/annotations/custom_tags.h"
+#include "splittaking/annotations/refusals.h"
 #include "splittaking/annotations/remembered_texts.h"
 #include "splittaking/annotations/upstream_gates.h"
 
@@ -14,6 +15,7 @@
 #include <QComboBox>
 #include <QFormLayout>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QSignalBlocker>
 #include <QTableWidget>
@@ -38,6 +40,8 @@ TagPage::TagPage(NoteDesk& desk)
     m_name->setObjectName("tagName");
     m_name->setEditable(true);
     m_name->setInsertPolicy(QComboBox::NoInsert);
+    m_name->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    m_name->setMinimumContentsLength(8); // a long name must not make the page wider
     m_justPart->setObjectName("tagJustPart");
     m_table->setObjectName("tags");
     auto* rename = new QPushButton(tr("Rename the tag"));
@@ -56,6 +60,8 @@ TagPage::TagPage(NoteDesk& desk)
     connect(m_justPart, &QCheckBox::toggled, this,
             [this](bool isOn) { m_desk.workspace.setPreference(JustPartKey, isOn); });
     connect(m_name, &QComboBox::activated, this, [this] { remember(name()); });
+    connect(m_name->lineEdit(), &QLineEdit::textEdited, this, [this] { m_isTaken = false; });
+    connect(m_name->lineEdit(), &QLineEdit::returnPressed, this, &TagPage::takeName);
     connect(m_table, &QTableWidget::cellClicked, this, [this](int row) {
         const LaneMark tag = m_tags.at(static_cast<std::size_t>(row));
         emit picked(tag.handle);
@@ -91,6 +97,20 @@ void TagPage::remember(const QString& name) {
     }
     m_desk.workspace.setPreference(
         IndexKey, static_cast<std::int64_t>(std::max<qsizetype>(0, names().indexOf(name))));
+}
+
+/// Enter takes the name; once more it is the marking key, as everywhere else.
+void TagPage::takeName() {
+    if (name().isEmpty())
+        return;
+    if (m_isTaken) {
+        emit markWanted();
+        return;
+    }
+    m_isTaken = true;
+    remember(name());
+    emit told(tr("Enter sets the tag %1 at the frame shown. Esc gives the keys back to the film.")
+                  .arg(name()));
 }
 
 /// What is being typed stays.
@@ -131,6 +151,8 @@ void TagPage::mark(const Stamps& stamps) {
         return;
     }
     const QString text = name();
+    if (refuses(refusalOfTag(*m_desk.record(), 0, text.toStdString(), stamps.front())))
+        return;
     remember(text);
     const auto fixed = m_desk.fixedCamera ? m_desk.fixedMoment : std::nullopt;
     edit(tr("tag %1").arg(text), [&](athletedata031& run) {

@@ -32,6 +32,7 @@ private:
     [[nodiscard]] QStringList names() const;
     [[nodiscard]] QString name() const;
     void remember(const QString& name);
+    void takeName();
     void showNames();
     void showTable();
 
@@ -40,6 +41,7 @@ private:
     QTableWidget* m_table;
     std::vector<LaneMark> m_tags; ///< as in the table
     std::optional<LaneMark> m_chosen;
+    bool m_isTaken = false; ///< the name that stands there was taken by Enter
 };
 
 } // namespace kavela::desktop

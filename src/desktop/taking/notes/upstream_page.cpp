@@ -5,6 +5,7 @@
 #include "desktop/taking/gate_strip.h"
 #include "desktop/taking/notes/code_combo.h"
 #include "desktop/taking/taking_document.h"
+#include "splittaking/annotations/refusals.h"
 #include "splittaking/annotations/upstream_gates.h"
 
 #include <QCheckBox>
@@ -46,8 +47,12 @@ UpstreamPage::UpstreamPage(NoteDesk& desk)
             [this](std::int64_t code) { changeCode(&upstreamdata025::direction, code); });
     connect(m_style, &CodeCombo::codeChosen, this,
             [this](std::int64_t code) { changeCode(&upstreamdata025::style, code); });
-    connect(m_table, &QTableWidget::cellClicked, this,
-            [this](int row) { m_desk.gates.setCurrent(m_table->item(row, 0)->text().toInt()); });
+    connect(m_table, &QTableWidget::cellClicked, this, [this](int row) {
+        const int clicked = m_table->item(row, 0)->text().toInt();
+        emit rowChosen();
+        m_desk.gates.setCurrent(clicked);
+        m_clicked = {m_desk.run, clicked};
+    });
 }
 
 std::optional<Alert> UpstreamPage::refusal() const {
@@ -90,6 +95,7 @@ void UpstreamPage::goOn() {
 }
 
 void UpstreamPage::mark(const Stamps& stamps) {
+    m_clicked.reset();
     const auto front = gate();
     const auto which = front ? nextMark() : std::nullopt;
     if (!which) {
@@ -100,13 +106,13 @@ void UpstreamPage::mark(const Stamps& stamps) {
                               .arg(m_desk.gates.current()));
         return;
     }
+    const GateMarks marks = entry() ? entry()->cmtimes : GateMarks();
+    if (refuses(refusalOfGateMark(marks, *which, stamps.front())))
+        return;
     edit(tr("%1 of gate %2").arg(gateMarkText(*which)).arg(*front), [&](athletedata031& run) {
         markUpstream(run, m_desk.document.info(), *front, *which, stamps.front());
     });
-    const upstreamdata025* const upstream = entry();
     emit flashed(tr("Gate %1 %2").arg(*front).arg(gateMarkText(*which)));
-    if (const auto fault = faultOfMarks(upstream->cmtimes))
-        emit told(QString::fromStdString(*fault));
     emit marked(MarkKind::Upstream, stamps.front());
     if (*which == GateMark::Exit)
         goOn();
@@ -117,10 +123,17 @@ void UpstreamPage::choose(const LaneMark& mark) {
         static_cast<int>(m_desk.record()->upstreams.at(mark.handle.record).num));
 }
 
-void UpstreamPage::removeCurrent() {
-    if (const upstreamdata025* const upstream = entry(); upstream && upstream->cmtimes.empty())
-        edit(tr("gate %1 removed").arg(*gate()),
-             [this](athletedata031& run) { removeUpstream(run, *gate()); });
+bool UpstreamPage::removeCurrent() {
+    const bool isMeant =
+        entry() && (entry()->cmtimes.empty() || m_clicked == std::pair(m_desk.run, *gate()));
+    m_clicked.reset();
+    if (!isMeant)
+        return false;
+    const std::int64_t removed = *gate();
+    edit(tr("gate %1 removed").arg(removed),
+         [removed](athletedata031& run) { removeUpstream(run, removed); });
+    emit told(tr("The marks of gate %1 are removed. Ctrl+Z brings them back.").arg(removed));
+    return true;
 }
 
 bool UpstreamPage::stepGate(int step) {

@@ -25,8 +25,8 @@ public:
     [[nodiscard]] std::optional<MarkKind> kind() const override { return MarkKind::Upstream; }
     void mark(const Stamps& stamps) override;
     void choose(const LaneMark& mark) override;
-    /// Takes out the entry of the gate in front once it has no mark.
-    void removeCurrent() override;
+    /// Takes out the entry of the gate that was clicked with its marks, or one without marks.
+    [[nodiscard]] bool removeCurrent() override;
     bool stepGate(int step) override;
 
 private:
@@ -43,6 +43,9 @@ private:
     CodeCombo* m_direction;
     CodeCombo* m_style;
     QTableWidget* m_table;
+    /// The gate whose row was clicked, and the run: that is what keys mean as long as it is in
+    /// front.
+    std::optional<std::pair<int, std::int64_t>> m_clicked;
 };
 
 } // namespace kavela::desktop

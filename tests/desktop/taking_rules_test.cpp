@@ -1,0 +1,323 @@
+#include "desktop/desktop.h"
+#include "desktop/film/time_line.h"
+#include "desktop/notes_fixture.h"
+#include "desktop/race/race_view.h"
+#include "desktop/race/race_window.h"
+#include "splittaking/annotations/time_losses.h"
+
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTableView>
+#include <QTimer>
+
+namespace kavela::test {
+namespace {
+
+using ::testing::Each;
+using ::testing::HasSubstr;
+using ::testing::IsEmpty;
+
+/// Two runs on film, the first of them not marked yet.
+splittakerdata031 unmarkedRace() {
+    splittakerdata031 race = timedRace();
+    sectiondata030& timing = race.athletes[0].sectioninfo;
+    timing.times.clear();
+    timing.cmtimes.clear();
+    timing.splitnum = 0;
+    timing.totaltime = 0;
+    return race;
+}
+
+/// What the keys may not do to a run, whatever is pressed.
+class TakingRulesTest : public NotesTest {
+protected:
+    void goTo(double seconds) {
+        m_window->deck().seek(seconds);
+        ASSERT_TRUE(QTest::qWaitFor(
+            [&] {
+                const auto stamps = m_window->deck().stamps();
+                return !stamps.empty() && std::abs(stamps.front().seconds() - seconds) < 0.001;
+            },
+            Patience));
+    }
+
+    void markAt(double seconds) {
+        ASSERT_NO_FATAL_FAILURE(goTo(seconds));
+        press(Qt::Key_M);
+    }
+
+    std::vector<double> times() const {
+        std::vector<double> taken = run().sectioninfo.times;
+        while (!taken.empty() && taken.back() == 0)
+            taken.pop_back();
+        return taken;
+    }
+
+    std::string told() const { return part<QLabel>("noteTold").text().toStdString(); }
+
+    std::unique_ptr<TakingWindow> opened() {
+        auto window = std::make_unique<TakingWindow>(
+            m_workspace,
+            desktop::Autosave(QString::fromStdString((m_folder.path() / "autosave").string())));
+        window->setAttribute(Qt::WA_DeleteOnClose, false);
+        EXPECT_TRUE(window->open(QString::fromStdString((folder() / "films.kvx").string())));
+        return window;
+    }
+
+    void type(const char* name, const char* text) {
+        auto& field = part<QLineEdit>(name);
+        field.setFocus();
+        QTest::keyClicks(&field, text);
+    }
+};
+
+auto seconds(const std::vector<double>& times) {
+    return ::testing::Pointwise(::testing::DoubleNear(1e-9), times);
+}
+
+TEST_F(TakingRulesTest, TakesNoSplitBeforeTheMarkThatComesFirst) {
+    ASSERT_NO_FATAL_FAILURE(open(unmarkedRace(), true));
+    for (const double moment : {10.0, 20.0, 30.0})
+        ASSERT_NO_FATAL_FAILURE(markAt(moment));
+    EXPECT_THAT(times(), seconds({10, 10}));
+    ASSERT_NO_FATAL_FAILURE(markAt(0));
+    EXPECT_THAT(told(), HasSubstr("before the start at 10.00"));
+    ASSERT_NO_FATAL_FAILURE(markAt(20));
+    EXPECT_EQ(told(), "Split 1 is marked on this frame already.");
+    EXPECT_THAT(times(), seconds({10, 10}));
+    ASSERT_NO_FATAL_FAILURE(markAt(19));
+    EXPECT_THAT(times(), seconds({9, 1, 10})) << "a split that was missed";
+    EXPECT_EQ(m_window->selectedMark(), 1U);
+    EXPECT_THAT(told(), HasSubstr("put in between"));
+    press(Qt::CTRL | Qt::Key_Z);
+    m_window->goToMark(2);
+    ASSERT_NO_FATAL_FAILURE(goTo(15));
+    press(Qt::SHIFT | Qt::Key_M);
+    EXPECT_THAT(told(), HasSubstr("before split 1 at 20.00"));
+    m_window->dropMark(1, 31);
+    EXPECT_THAT(told(), HasSubstr("after split 2 at 30.00"));
+    EXPECT_THAT(times(), seconds({10, 10}));
+    undo(3);
+    EXPECT_FALSE(m_window->document().isDirty()) << "what was refused is no step";
+}
+
+TEST_F(TakingRulesTest, OpensMarksThatAreOutOfOrderAsTheyAre) {
+    splittakerdata031 race = unmarkedRace();
+    race.athletes[0].sectioninfo.times = {10, -1, -19};
+    race.athletes[0].sectioninfo.cmtimes = {{{1000, 50, 1, 0}}, {{950, 50, 1, 0}}, {{0, 50, 1, 0}}};
+    ASSERT_NO_FATAL_FAILURE(open(race, false));
+    EXPECT_THAT(times(), seconds({10, -1, -19}));
+    double others = 0;
+    for (const double time : run(1).sectioninfo.times)
+        others += time;
+    EXPECT_GT(m_window->document().perfectTime(), others * 0.5) << "no negative time is a best";
+    EXPECT_FALSE(m_window->document().isDirty());
+}
+
+TEST_F(TakingRulesTest, KeepsAStartWithoutASplit) {
+    std::vector<std::string> questions;
+    bool answer = true;
+    m_workspace.setAnswer([&](const Alert& question) {
+        questions.push_back(question.text);
+        return answer;
+    });
+    ASSERT_NO_FATAL_FAILURE(open(unmarkedRace(), true));
+    press(Qt::Key_M);
+    EXPECT_TRUE(m_window->isWindowModified());
+    const auto start = m_window->document().marks(0).start;
+    ASSERT_TRUE(start);
+    m_window.reset(); // as after a crash
+    m_window = opened();
+    EXPECT_EQ(m_window->document().marks(0).start, start);
+    ASSERT_TRUE(m_window->save());
+    EXPECT_TRUE(m_window->isWindowModified()) << "the file has no place for it";
+    answer = false;
+    EXPECT_FALSE(m_window->close());
+    EXPECT_THAT(questions.back(), HasSubstr("1 start without a split is not stored in the file."));
+    answer = true;
+    EXPECT_TRUE(m_window->close());
+    m_window = opened();
+    EXPECT_EQ(m_window->document().marks(0).start, start) << "kept on this computer";
+    m_window->document().setMarks(0, "none", {});
+    ASSERT_TRUE(m_window->save());
+    EXPECT_FALSE(m_window->isWindowModified());
+    questions.clear();
+    EXPECT_TRUE(m_window->close());
+    EXPECT_THAT(questions, IsEmpty());
+}
+
+TEST_F(TakingRulesTest, ShowsInTheAnalyzerWhatIsNotSavedYet) {
+    ASSERT_TRUE(saveSplitFile(timedRace(), folder() / "films.kvx", m_recorder.log()));
+    const std::string saved = contentOf(folder() / "films.kvx");
+    m_workspace.setAnswer([](const Alert&) { return true; });
+    desktop::Desktop program(m_workspace, desktop::Autosave(QString::fromStdString(
+                                              (m_folder.path() / "autosave").string())));
+    TakingWindow* const taking =
+        program.openTaking(QString::fromStdString((folder() / "films.kvx").string()));
+    ASSERT_TRUE(taking);
+    const auto rename = [&](const char* name) {
+        taking->document().editRun(0, "crew", [&](athletedata031& run) { run.names = {name}; });
+        QApplication::setActiveWindow(taking);
+        QTest::keyClick(taking, Qt::Key_R, Qt::ControlModifier);
+        QApplication::processEvents();
+    };
+    rename("Nova");
+    rename("Zora");
+    EXPECT_EQ(contentOf(folder() / "films.kvx"), saved) << "nothing is saved";
+    ASSERT_THAT(program.raceWindows(), SizeIs(1)) << "one analyzer for one race";
+    ASSERT_THAT(program.raceWindows()[0]->views(), SizeIs(1));
+    EXPECT_EQ(program.raceWindows()[0]->document().wholeSet().alldata[0].name, "Zora");
+    taking->document().undoStack().setClean();
+}
+
+TEST_F(TakingRulesTest, LeavesTheKeysToTheFieldThatIsTypedIn) {
+    ASSERT_NO_FATAL_FAILURE(open(timedRace(), true));
+    ASSERT_NO_FATAL_FAILURE(goTo(12));
+    m_window->document().editRun(0, "hand", [](athletedata031& run) { run.hand = "Left"; });
+    press(Qt::CTRL | Qt::Key_F);
+    auto& name = part<QLineEdit>("athlete");
+    ASSERT_TRUE(name.hasFocus());
+    press(Qt::CTRL | Qt::Key_Z);
+    EXPECT_NE(run().hand, "Left") << "the field has nothing to undo";
+    QTest::keyClicks(&name, "Ana");
+    for (const Qt::Key key : {Qt::Key_PageDown, Qt::Key_Home, Qt::Key_End, Qt::Key_Left})
+        press(key);
+    EXPECT_NEAR(m_window->deck().position(), 12, 0.001) << "the film stays where it is";
+    EXPECT_EQ(name.cursorPosition(), 2);
+    EXPECT_TRUE(part<QLabel>("typing").isVisible());
+    press(Qt::Key_Escape);
+    EXPECT_EQ(name.text(), "");
+    EXPECT_TRUE(part<QTableView>("runs").hasFocus());
+    EXPECT_FALSE(part<QLabel>("typing").isVisible());
+    press(Qt::Key_Home);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return m_window->deck().position() < 0.1; }, Patience));
+}
+
+/// The names of two ways, one typed behind the other: no letter of them is a key.
+TEST_F(TakingRulesTest, TakesLettersBehindATypedEntryAsLetters) {
+    ASSERT_NO_FATAL_FAILURE(open(timedRace(), false));
+    press(Qt::CTRL | Qt::Key_9);
+    part<QPushButton>("strategyAdd").click();
+    type("strategyNewWay", "left");
+    press(Qt::Key_Return);
+    QTest::keyClicks(QApplication::focusWidget(), "offt");
+    EXPECT_THAT(run().sectioninfo.pens, Each(0));
+    EXPECT_EQ(part<QLineEdit>("strategyNewWay").text(), "offt");
+    press(Qt::Key_Return);
+    EXPECT_THAT(run().strategies.at(0).options, ElementsAre("left", "offt"));
+    press(Qt::CTRL | Qt::Key_Z);
+    EXPECT_THAT(run().strategies.at(0).options, ElementsAre("left"));
+    press(Qt::CTRL | Qt::Key_1);
+    for (const char* const field : {"crew", "cat", "runPhase", "hand", "realTime", "sprint"}) {
+        type(field, "7");
+        press(Qt::Key_Return);
+        EXPECT_TRUE(part<QLineEdit>(field).hasFocus()) << field;
+    }
+    EXPECT_THAT(m_recorder.alerts, IsEmpty());
+}
+
+TEST_F(TakingRulesTest, DeletesEverythingOnlyWhereThatIsMeant) {
+    ASSERT_NO_FATAL_FAILURE(open(timedRace(), false));
+    const auto resetAnd = [&](Qt::Key key) {
+        QString told;
+        QTimer::singleShot(0, [&] {
+            auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+            ASSERT_TRUE(box);
+            told = box->informativeText();
+            EXPECT_EQ(box->defaultButton(), box->button(QMessageBox::Cancel));
+            QTest::keyClick(box, key);
+        });
+        m_window->reset();
+        return told;
+    };
+    const QString told = resetAnd(Qt::Key_Return);
+    EXPECT_EQ(m_window->document().runCount(), 2);
+    EXPECT_THAT(told.toStdString(), HasSubstr(m_window->document().title().toStdString()));
+    EXPECT_THAT(told.toStdString(), HasSubstr("2 runs"));
+    resetAnd(Qt::Key_Escape);
+    EXPECT_FALSE(m_window->document().isDirty());
+}
+
+TEST_F(TakingRulesTest, BeginsTheNextLossOnceOneIsMarked) {
+    ASSERT_NO_FATAL_FAILURE(open(timedRace(), true));
+    press(Qt::CTRL | Qt::Key_7);
+    for (const double moment : {12.0, 14.0, 16.0, 18.0})
+        ASSERT_NO_FATAL_FAILURE(markAt(moment));
+    ASSERT_THAT(run().timeslosses, SizeIs(2));
+    for (const timeloss031& loss : run().timeslosses)
+        EXPECT_NEAR(stretchSeconds(loss, OwnSide).value_or(0), 2, 1e-9);
+    emit part<QTableWidget>("losses").cellClicked(0, 0);
+    ASSERT_NO_FATAL_FAILURE(goTo(11));
+    part<QPushButton>("lossMark1").click();
+    EXPECT_THAT(told(), HasSubstr("before the start of the stretch at 12.00"));
+    press(Qt::CTRL | Qt::Key_T);
+    ASSERT_EQ(m_window->currentRun(), 1);
+    const auto start = [&](int place) { return startOf(run(place))->seconds(); };
+    const double expected = start(1) + 12 - start(0);
+    EXPECT_TRUE(QTest::qWaitFor(
+        [&] { return std::abs(m_window->deck().position() - expected) < 0.05; }, Patience))
+        << "as long after the start";
+    press(Qt::CTRL | Qt::Key_T);
+    part<QPushButton>("lossNew").click();
+    ASSERT_NO_FATAL_FAILURE(markAt(20));
+    EXPECT_THAT(run().timeslosses, SizeIs(3));
+}
+
+TEST_F(TakingRulesTest, LetsEqualNotesStandOnce) {
+    ASSERT_NO_FATAL_FAILURE(open(timedRace(), true));
+    press(Qt::CTRL | Qt::Key_2);
+    for (int i = 0; i < 4; ++i)
+        press(Qt::Key_M);
+    ASSERT_THAT(run().sectioninfo.pendetails, SizeIs(1));
+    EXPECT_THAT(run().sectioninfo.pendetails[0].gate, SizeIs(1));
+    EXPECT_THAT(told(), HasSubstr("Gate 1 has this penalty already."));
+    part<QPushButton>("penaltyAnother").click();
+    choose("penaltyPole", 1);
+    press(Qt::Key_M);
+    EXPECT_THAT(run().sectioninfo.pendetails[0].polekind, ElementsAre(0, 1));
+    press(Qt::CTRL | Qt::Key_5);
+    press(Qt::Key_M);
+    press(Qt::Key_M);
+    EXPECT_THAT(run().microsplits, SizeIs(1));
+    emit part<QTableWidget>("microSplits").cellClicked(0, 0);
+    press(Qt::Key_Delete);
+    EXPECT_THAT(run().microsplits, IsEmpty()) << "the row that was clicked";
+    press(Qt::CTRL | Qt::Key_4);
+    press(Qt::Key_A);
+    press(Qt::Key_A);
+    EXPECT_THAT(run().strokes, SizeIs(1));
+}
+
+TEST_F(TakingRulesTest, TimesAWayOnceAndRemovesTheGateThatWasClicked) {
+    ASSERT_NO_FATAL_FAILURE(open(timedRace(), true));
+    press(Qt::CTRL | Qt::Key_9);
+    part<QPushButton>("strategyAdd").click();
+    type("strategyNewWay", "Spin");
+    press(Qt::Key_Return);
+    press(Qt::Key_Escape);
+    ASSERT_NO_FATAL_FAILURE(markAt(10));
+    ASSERT_NO_FATAL_FAILURE(markAt(21));
+    ASSERT_NO_FATAL_FAILURE(markAt(25));
+    ASSERT_NO_FATAL_FAILURE(markAt(26));
+    EXPECT_NEAR(run().strategies.at(0).times.at(0), 11, 1e-9);
+    EXPECT_THAT(told(), HasSubstr("Spin is timed: 11.00 s"));
+    part<QTableWidget>("strategyWays").item(0, 2)->setText("");
+    ASSERT_NO_FATAL_FAILURE(markAt(25));
+    ASSERT_NO_FATAL_FAILURE(markAt(26));
+    EXPECT_NEAR(run().strategies.at(0).times.at(0), 1, 1e-9);
+
+    press(Qt::CTRL | Qt::Key_3);
+    ASSERT_NO_FATAL_FAILURE(markAt(30));
+    ASSERT_NO_FATAL_FAILURE(markAt(29));
+    EXPECT_THAT(told(), HasSubstr("before the entrance at 30.00"));
+    press(Qt::CTRL | Qt::Key_1);
+    press(Qt::CTRL | Qt::Key_3);
+    press(Qt::Key_Delete);
+    EXPECT_THAT(run().upstreams, SizeIs(1)) << "nothing was selected";
+    emit part<QTableWidget>("upstreams").cellClicked(0, 0);
+    press(Qt::Key_Delete);
+    EXPECT_THAT(run().upstreams, IsEmpty());
+}
+
+} // namespace
+} // namespace kavela::test
