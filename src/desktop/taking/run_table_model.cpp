@@ -54,10 +54,10 @@ QString RunTableModel::text(int run, int column) const {
         return qtText(record.cat);
     case PhaseColumn:
         return qtText(record.phase);
-    case SplitsColumn:
-        return tr("%1/%2").arg(timing.splitnum).arg(m_document.info().totalsplits);
     default:
-        return timing.totaltime == 0 ? QString() : shownHundredths(timing.totaltime);
+        return timing.isfullrun
+                   ? shownHundredths(timing.totaltime)
+                   : tr("%1/%2").arg(timing.splitnum).arg(m_document.info().totalsplits);
     }
 }
 
@@ -69,13 +69,13 @@ QVariant RunTableModel::data(const QModelIndex& index, int role) const {
     case Qt::EditRole:
         return text(index.row(), index.column());
     case Qt::ToolTipRole: {
-        QStringList films;
+        QStringList films{text(index.row(), NameColumn)};
         for (const std::string& film : m_document.run(index.row()).videoname)
             films.append(qtText(film));
         return films.join('\n');
     }
     case Qt::TextAlignmentRole:
-        return QVariant((index.column() < SplitsColumn ? Qt::AlignLeft : Qt::AlignRight) |
+        return QVariant((index.column() < TakenColumn ? Qt::AlignLeft : Qt::AlignRight) |
                         Qt::AlignVCenter);
     default:
         return {};
@@ -85,7 +85,7 @@ QVariant RunTableModel::data(const QModelIndex& index, int role) const {
 QVariant RunTableModel::headerData(int section, Qt::Orientation orientation, int role) const {
     if (orientation == Qt::Vertical || role != Qt::DisplayRole)
         return {};
-    static const QStringList titles{tr("Name"), tr("Cat"), tr("Phase"), tr("Splits"), tr("Total")};
+    static const QStringList titles{tr("Name"), tr("Cat"), tr("Phase"), tr("Total")};
     return titles[section];
 }
 

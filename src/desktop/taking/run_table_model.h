@@ -12,7 +12,9 @@ class RunTableModel : public QAbstractTableModel {
     Q_OBJECT
 
 public:
-    enum RunColumn { NameColumn, CategoryColumn, PhaseColumn, SplitsColumn, TotalColumn, Columns };
+    /// TakenColumn: the total of a whole run, of any other how many splits it has. One column for
+    /// both leaves room for the names.
+    enum RunColumn { NameColumn, CategoryColumn, PhaseColumn, TakenColumn, Columns };
 
     explicit RunTableModel(TakingDocument& document, QObject* parent = nullptr);
 
