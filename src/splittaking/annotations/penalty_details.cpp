@@ -94,12 +94,35 @@ void takeSecondsFromDetails(athletedata031& run, std::optional<std::int64_t> gat
         setPenalty(run, *gate, penaltyOf(secondsOfDetails(run, *gate)), gates);
 }
 
+void eraseDetail(athletedata031& run, PenaltyHandle handle) {
+    pendata030& record = recordOf(run, handle);
+    for (const auto list : Lists)
+        eraseEntry(record.*list, handle.entry);
+    if (entriesIn(record) == 0)
+        eraseEntry(run.sectioninfo.pendetails, handle.record);
+}
+
+/// Takes out those of some entries that say the same as another one. Handles behind one that goes
+/// are no longer good, so it begins with the last.
+void eraseRepeated(athletedata031& run, const std::vector<PenaltyHandle>& handles) {
+    for (auto handle = handles.rbegin(); handle != handles.rend(); ++handle) {
+        const std::vector<PenaltyEntry> entries = penaltyEntries(run);
+        const auto own = std::ranges::find(entries, *handle, &PenaltyEntry::handle);
+        const bool isRepeated = std::ranges::any_of(entries, [&](const PenaltyEntry& other) {
+            return other.handle != *handle && other.codes == own->codes;
+        });
+        if (isRepeated)
+            eraseDetail(run, *handle);
+    }
+}
+
 /// Changes the kinds that cost other seconds than the gate now has.
 void changeKindsAt(athletedata031& run, std::int64_t gate, std::int64_t seconds) {
     const bool isTouch = penaltyOf(seconds) == GatePenalty::Touch;
     const auto code =
         static_cast<std::int64_t>(isTouch ? PenaltyKindCode::Touch : PenaltyKindCode::MissedGate);
     const std::vector<PenaltyEntry> entries = entriesAt(run, gate);
+    std::vector<PenaltyHandle> changed;
     for (const PenaltyEntry& entry : entries) {
         const auto& kind = entry[PenaltyField::Kind];
         const auto known = kind ? penaltySecondsOf(*kind) : std::nullopt;
@@ -108,15 +131,9 @@ void changeKindsAt(athletedata031& run, std::int64_t gate, std::int64_t seconds)
             continue;
         pendata030& record = recordOf(run, entry.handle);
         setPadded(listOf(record, PenaltyField::Kind), entry.handle.entry, code);
+        changed.push_back(entry.handle);
     }
-}
-
-void eraseDetail(athletedata031& run, PenaltyHandle handle) {
-    pendata030& record = recordOf(run, handle);
-    for (const auto list : Lists)
-        eraseEntry(record.*list, handle.entry);
-    if (entriesIn(record) == 0)
-        eraseEntry(run.sectioninfo.pendetails, handle.record);
+    eraseRepeated(run, changed);
 }
 
 } // namespace

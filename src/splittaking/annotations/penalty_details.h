@@ -73,7 +73,8 @@ void removePenalty(athletedata031& run, PenaltyHandle handle, std::int64_t gates
 
 /// Sets the seconds at a gate (0, 2 or 50) and brings the details there in step: without a penalty
 /// they go; of a touch that became a missed gate the last one becomes that, of a missed gate that
-/// became a touch all. Throws std::out_of_range for a gate that is not on the course.
+/// became a touch all, those that then say the same as another one going. Throws std::out_of_range
+/// for a gate that is not on the course.
 void setPenaltyAndDetails(athletedata031& run, std::int64_t gate, std::int64_t seconds,
                           std::int64_t gates);
 

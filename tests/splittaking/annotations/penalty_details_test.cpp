@@ -80,6 +80,19 @@ TEST(PenaltyDetails, FollowThePenaltyOfTheGate) {
     EXPECT_THAT(gatesOutOfStep(run, Gates), ElementsAre(3));
 }
 
+TEST(PenaltyDetails, DoNotPileUpWhenAMissedGateBecomesATouch) {
+    athletedata031 run;
+    PenaltyDetail otherPole = detail(2, Missed);
+    otherPole.polekind = 1;
+    for (const PenaltyDetail& each :
+         {detail(2, Touch), detail(2, Missed), otherPole, detail(3, Touch)})
+        addPenalty(run, each, Gates);
+    setPenaltyAndDetails(run, 2, 2, Gates);
+    EXPECT_THAT(run.sectioninfo.pendetails.at(0).gate, ElementsAre(2, 2, 3));
+    EXPECT_THAT(run.sectioninfo.pendetails[0].polekind, ElementsAre(0, 1, 0));
+    EXPECT_THAT(run.sectioninfo.pens, ElementsAre(0, 2, 2, 0));
+}
+
 TEST(PenaltyDetails, LeaveUnevenListsAsTheyAreElsewhere) {
     struct Row {
         const char* name;
