@@ -5,6 +5,7 @@
 #include "desktop/race/race_window.h"
 #include "splittaking/annotations/time_losses.h"
 
+#include <QDialogButtonBox>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTableView>
@@ -236,6 +237,48 @@ TEST_F(TakingRulesTest, DeletesEverythingOnlyWhereThatIsMeant) {
     EXPECT_THAT(told.toStdString(), HasSubstr("2 runs"));
     resetAnd(Qt::Key_Escape);
     EXPECT_FALSE(m_window->document().isDirty());
+}
+
+TEST_F(TakingRulesTest, ShowsWhatAListHasForWhomBeforeItIsTaken) {
+    splittakerdata031 race = timedRace();
+    race.athletes[0].sectioninfo.realtime = 0;
+    race.athletes[0].sectioninfo.realpen = 0;
+    const std::string first = race.athletes[0].names.front();
+    race.athletes[1].names = {"Nobody Known"};
+    ASSERT_NO_FATAL_FAILURE(open(race, false));
+    const fs::path list = m_folder.add("list.csv", "pos;bib;name;nat;time;pen\n1;1;" + first +
+                                                       ";X;88.5;2\n2;2;Other "
+                                                       "Name;X;90;0\nrubbish\n");
+    m_window->setChooseFiles([&](const QString&, const QString&) {
+        return QStringList{QString::fromStdString(list.string())};
+    });
+    const auto importAnd = [&](QDialogButtonBox::ButtonRole role) {
+        QString told;
+        QTimer::singleShot(0, [&] {
+            auto* const dialog = QApplication::activeModalWidget();
+            ASSERT_TRUE(dialog);
+            told = dialog->findChild<QLabel*>("resultsCount")->text();
+            auto& table = *dialog->findChild<QTableWidget*>("resultsOfRuns");
+            static_cast<QComboBox*>(table.cellWidget(1, 3))->setCurrentIndex(2);
+            table.item(1, 0)->setCheckState(Qt::Checked);
+            auto* const box = dialog->findChild<QDialogButtonBox*>();
+            for (QAbstractButton* const button : box->buttons())
+                if (box->buttonRole(button) == role)
+                    button->click();
+        });
+        m_window->importResults();
+        return told;
+    };
+    EXPECT_THAT(importAnd(QDialogButtonBox::RejectRole).toStdString(),
+                HasSubstr("No line was found for Nobody Known."));
+    EXPECT_FALSE(m_window->document().isDirty());
+    importAnd(QDialogButtonBox::AcceptRole);
+    EXPECT_EQ(run(0).sectioninfo.realtime, 88.5);
+    EXPECT_EQ(run(0).sectioninfo.realpen, 2);
+    EXPECT_EQ(run(1).sectioninfo.realtime, 90) << "chosen by hand";
+    EXPECT_THAT(m_window->document().info().resultsCSVdata, SizeIs(::testing::Ge(2U)));
+    undo(1);
+    EXPECT_FALSE(m_window->document().isDirty()) << "one step";
 }
 
 TEST_F(TakingRulesTest, BeginsTheNextLossOnceOneIsMarked) {

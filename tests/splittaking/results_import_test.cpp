@@ -1,4 +1,5 @@
 #include "splittaking/results_import.h"
+#include "splittaking/results_match.h"
 
 #include "common/json_encode.h"
 #include "common/recorders.h"
@@ -120,6 +121,24 @@ TEST(ResultsImport, LeavesTheDocumentAloneWithoutAReadableList) {
         EXPECT_THAT(recorder.lines, ElementsAre(HasSubstr(list.string())));
         EXPECT_EQ(encode(race), before);
     }
+}
+
+TEST(ResultsMatch, FindsTheLineOfACrewHoweverItIsWritten) {
+    std::vector<athletedata031> runs(4);
+    runs[0].names = {"Ana Novák"};
+    runs[1].names = {"Ben Berg", "Cem Dal"};
+    runs[2].names = {"Somebody Else"};
+    const ResultsList list = listOf("1;1;BERG Ben / DAL Cem;GER;90;2\n2;2;NOVAK Ana;CZE;91.5;0\n"
+                                    "3;3;Ana Novak;CZE;95;0\n4;4;;CZE;99;0\n");
+    const auto matched = matchedResults(runs, list.results);
+    ASSERT_THAT(matched, SizeIs(4));
+    EXPECT_EQ(matched[0].line, 1U);
+    EXPECT_EQ(matched[1].line, 0U);
+    EXPECT_FALSE(matched[2].line);
+    EXPECT_FALSE(matched[3].line) << "nobody is no name";
+    takeResult(runs[1], list.results[0]);
+    EXPECT_EQ(runs[1].sectioninfo.realtime, 90);
+    EXPECT_EQ(runs[1].sectioninfo.realpen, 2);
 }
 
 } // namespace kavela::test

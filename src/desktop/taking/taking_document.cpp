@@ -16,7 +16,6 @@
 #include "splittaking/messages.h"
 #include "splittaking/penalties.h"
 #include "splittaking/perfect_time.h"
-#include "splittaking/results_import.h"
 #include "splittaking/table_export.h"
 #include "splittaking/training_collection.h"
 #include "splittaking/video_names.h"
@@ -331,24 +330,22 @@ void TakingDocument::importSplitFile(const QString& file, QWidget* over) {
     push(tr("split file imported"), std::move(after));
 }
 
-QString TakingDocument::importResults(const QString& file, QWidget* over) {
-    splittakerdata031 document = timesOf(m_state);
-    const ResultsImport import =
-        kavela::importResults(document, file.toStdString(), m_workspace.log());
-    if (import.failure) {
-        m_workspace.showAlert({"", *import.failure}, over);
-        return {};
+void TakingDocument::takeResults(const ResultsList& list, const std::vector<ResultOfRun>& runs) {
+    if (list.results.empty())
+        return;
+    auto edited = std::make_shared<infodata031>(info());
+    edited->resultsCSVdata.insert(edited->resultsCSVdata.end(), list.results.begin(),
+                                  list.results.end());
+    TakingState after = m_state;
+    after.info = std::move(edited);
+    for (const ResultOfRun& each : runs) {
+        TakenRun& taken = after.runs.at(each.run);
+        auto record = std::make_shared<athletedata031>(*taken.record);
+        takeResult(*record, list.results.at(each.line.value()));
+        taken.record = std::move(record);
     }
-    if (import.imported > 0)
-        editInfo(tr("official results imported"),
-                 [&](infodata031& info) { info.resultsCSVdata = document.info.resultsCSVdata; });
-    QStringList lines{tr("%n result(s) imported.", nullptr, static_cast<int>(import.imported))};
-    for (const SkippedLine& skipped : import.skipped)
-        lines.append(tr("Line %1: %2").arg(skipped.line).arg(qtText(skipped.reason)));
-    for (const SkippedLine& doubtful : import.doubtful)
-        lines.append(
-            tr("Line %1 was imported, but %2.").arg(doubtful.line).arg(qtText(doubtful.reason)));
-    return lines.join('\n');
+    push(tr("official results imported"), std::move(after));
+    logPerfectTime();
 }
 
 void TakingDocument::reset(QWidget* over) {

@@ -3,6 +3,8 @@
 #include "desktop/shell/autosave.h"
 #include "desktop/taking/taking_state.h"
 #include "splittaking/marking.h"
+#include "splittaking/results_import.h"
+#include "splittaking/results_match.h"
 
 #include <QObject>
 #include <QTimer>
@@ -96,8 +98,9 @@ public:
 
     /// Takes over the runs of another split file of the current version.
     void importSplitFile(const QString& file, QWidget* over);
-    /// Takes over an official results list; returns what to tell the coach, empty after a failure.
-    [[nodiscard]] QString importResults(const QString& file, QWidget* over);
+    /// Adds the lines of an official list to the race, and real time and penalty to the runs that
+    /// have one of them, in one step.
+    void takeResults(const ResultsList& list, const std::vector<ResultOfRun>& runs);
     /// Deletes all data once the coach has confirmed it.
     void reset(QWidget* over);
     /// Recomputes the perfect time with its line in the log, as when a real time was entered.

@@ -1,6 +1,7 @@
 #include "desktop/taking/taking_window.h"
 
 #include "common/error.h"
+#include "common/text_file.h"
 #include "desktop/film/film_deck.h"
 #include "desktop/film/film_view.h"
 #include "desktop/shell/file_copy.h"
@@ -12,6 +13,7 @@
 #include "desktop/taking/export_dialog.h"
 #include "desktop/taking/gate_strip.h"
 #include "desktop/taking/notes/notes_panel.h"
+#include "desktop/taking/results_dialog.h"
 #include "desktop/taking/run_form.h"
 #include "splitdata/loader.h"
 #include "splittaking/annotations/fixed_cameras.h"
@@ -361,11 +363,30 @@ void TakingWindow::importSplitFile() {
 void TakingWindow::importResults() {
     commit();
     for (const QString& file :
-         m_chooseFiles(tr("Import official results"), tr("Lists (*.csv *.txt);;All files (*)"))) {
-        const QString told = m_document.importResults(file, this);
-        if (!told.isEmpty())
-            tell(told.toStdString());
+         m_chooseFiles(tr("Import official results"), tr("Lists (*.csv *.txt);;All files (*)")))
+        try {
+            importResults(QFileInfo(file).fileName(),
+                          parseResults(readTextFile(file.toStdString())));
+        } catch (const FileError& error) {
+            tell(error.reason());
+        } catch (const DecodeError& error) {
+            tell(error.what());
+        }
+}
+
+/// Nothing is taken before the coach has seen what there is for whom.
+void TakingWindow::importResults(const QString& name, const ResultsList& list) {
+    if (list.results.empty()) {
+        std::string why = tr("There are no results in %1.").arg(name).toStdString();
+        for (const SkippedLine& line : list.skipped)
+            why += "\nLine " + std::to_string(line.line) + ": " + line.reason;
+        tell(why);
+        return;
     }
+    const splittakerdata031 race = timesOf(m_document.state());
+    ResultsDialog dialog(race.athletes, list, name, this);
+    if (dialog.exec() == QDialog::Accepted)
+        m_document.takeResults(list, dialog.taken());
 }
 
 void TakingWindow::removeRun() {

@@ -76,7 +76,7 @@ TakingWindow::TakingWindow(Workspace& workspace, Autosave autosave)
     upper->addWidget(makeStage());
     upper->addWidget(m_notes);
     upper->setStretchFactor(1, 1);
-    upper->setSizes({260, 700, 280});
+    upper->setSizes({290, 670, 280});
     rememberSizes(*upper, workspace, "takingParts");
     auto* whole = new QSplitter(Qt::Vertical);
     whole->setContentsMargins(theme::LargeSpacing, theme::Spacing, theme::LargeSpacing,

@@ -134,6 +134,7 @@ private:
     void showState();
     void showHealth();
     void select(std::optional<std::size_t> mark);
+    void importResults(const QString& name, const ResultsList& list);
     void refuseMark(const Alert& why);
     void moveTo(std::size_t mark, Stamps stamps);
     void tell(const std::string& message);

@@ -1,6 +1,5 @@
 #include "desktop/taking/notes/upstream_page.h"
 
-#include "common/number_text.h"
 #include "desktop/shell/theme.h"
 #include "desktop/taking/gate_strip.h"
 #include "desktop/taking/notes/code_combo.h"
