@@ -175,6 +175,29 @@ TEST_P(RecoveryTest, IsNotLostByUndoNorByAnotherEnd) {
     EXPECT_THAT(m_recorder.alerts, IsEmpty());
 }
 
+/// The guide promises it: what was changed is on the disk soon after, whatever becomes of the
+/// program, which here goes on and neither saves nor closes anything.
+TEST_P(RecoveryTest, FindsEveryChangeSoonAfterItWasMade) {
+    const Tool& tool = GetParam();
+    const fs::path example = fs::path(KAVELA_EXAMPLES) / tool.example;
+    const fs::path file = m_folder.path() / example.filename();
+    fs::copy_file(example, file);
+    start();
+    open(QString::fromStdString(file.string()));
+    ASSERT_TRUE(window());
+    const Autosave kept(QString::fromStdString((m_folder.path() / "kept").string()));
+    const QString path = QString::fromStdString(file.string());
+    tool.edit(*window());
+    QTRY_VERIFY(kept.find(path));
+
+    const std::unique_ptr<Desktop> ended = std::move(m_program);
+    start();
+    m_program->offerRecovery();
+    ASSERT_TRUE(window());
+    EXPECT_TRUE(tool.isEdited(*window()));
+    m_program.reset();
+}
+
 INSTANTIATE_TEST_SUITE_P(Tools, RecoveryTest, ::testing::ValuesIn(tools()), [](const auto& tool) {
     std::string name = tool.param.name;
     std::erase(name, ' ');
