@@ -9,8 +9,8 @@ namespace kavela {
 
 namespace {
 
-double counted(double value, Standing standing) {
-    return standing == Standing::Counts ? value : 0;
+double counted(double value, TimeStanding standing) {
+    return standing == TimeStanding::Counts ? value : 0;
 }
 
 double counted(double value) {

@@ -49,12 +49,13 @@ private:
         return m_settings.penaltiesIncluded && m_settings.kind != ValueKind::Accumulated;
     }
 
-    [[nodiscard]] TableCell cell(std::optional<int> column, double value, Standing standing) const {
+    [[nodiscard]] TableCell cell(std::optional<int> column, double value,
+                                 TimeStanding standing) const {
         TableCell made;
         made.column = column;
         made.value = value;
         // Penalties below 0, as a damaged file may have them, do not make a better time either.
-        made.standing = standing == Standing::Counts ? timeStanding(value) : standing;
+        made.standing = standing == TimeStanding::Counts ? timeStanding(value) : standing;
         made.text = timeText(value, m_settings.isTinted());
         return made;
     }
@@ -62,7 +63,7 @@ private:
     [[nodiscard]] TableCell sectionCell(const sectionmaindata& section, std::size_t i) const {
         const std::int64_t penalty = entryOrZero(section.pens, i);
         double value = entryOrZero(section.times, i);
-        Standing standing = timeStanding(value);
+        TimeStanding standing = timeStanding(value);
         if (m_settings.kind == ValueKind::Accumulated) {
             value = accumulated(section, i);
             standing = accumulatedStanding(section, i);
@@ -108,11 +109,11 @@ void markBests(SplitTable& table) {
     for (std::size_t column = 0; column < table.columns.size(); ++column) {
         double best = 0;
         for (const TableRow& row : table.rows)
-            if (const TableCell& cell = row.cells[column]; cell.standing == Standing::Counts)
+            if (const TableCell& cell = row.cells[column]; cell.standing == TimeStanding::Counts)
                 best = best == 0 ? cell.value : std::min(best, cell.value);
         for (TableRow& row : table.rows) {
             TableCell& cell = row.cells[column];
-            cell.isBest = cell.standing == Standing::Counts &&
+            cell.isBest = cell.standing == TimeStanding::Counts &&
                           roundedToHundredths(cell.value) == roundedToHundredths(best);
         }
     }
@@ -148,7 +149,7 @@ std::vector<TableColumn> tableColumns(const RaceSet& set) {
 std::vector<double> countedValues(const TableRow& row) {
     std::vector<double> values;
     for (const TableCell& cell : row.cells)
-        values.push_back(cell.standing == Standing::Counts ? cell.value : 0);
+        values.push_back(cell.standing == TimeStanding::Counts ? cell.value : 0);
     return values;
 }
 

@@ -36,11 +36,11 @@ struct TableCell {
     std::optional<Colour> background;
     std::optional<Colour> foreground;
     /// Whether the value may be a best. Band and background follow the value alone.
-    Standing standing = Standing::Counts;
+    TimeStanding standing = TimeStanding::Counts;
     bool isBest = false; ///< to the hundredth, among the values of the column that count
 
     /// Whether a value is shown that counts for nothing: it is greyed.
-    [[nodiscard]] bool isGreyed() const { return value != 0 && standing != Standing::Counts; }
+    [[nodiscard]] bool isGreyed() const { return value != 0 && standing != TimeStanding::Counts; }
 };
 
 /// The cells of one run, in the order of the columns.

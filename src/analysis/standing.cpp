@@ -11,11 +11,11 @@ namespace kavela {
 namespace {
 
 /// Of the sum of some times; the first that is not there, or is none, decides.
-Standing sumStanding(std::span<const double> times, Standing whereUntimed) {
+TimeStanding sumStanding(std::span<const double> times, TimeStanding whereUntimed) {
     for (const double time : times)
         if (!isTaken(time))
-            return time == 0 ? whereUntimed : Standing::NotPositive;
-    return Standing::Counts;
+            return time == 0 ? whereUntimed : TimeStanding::NotPositive;
+    return TimeStanding::Counts;
 }
 
 } // namespace
@@ -24,46 +24,46 @@ bool isTaken(double seconds) {
     return std::isfinite(seconds) && seconds > 0;
 }
 
-Standing timeStanding(double seconds) {
+TimeStanding timeStanding(double seconds) {
     if (seconds == 0)
-        return Standing::NotTimed;
-    return isTaken(seconds) ? Standing::Counts : Standing::NotPositive;
+        return TimeStanding::NotTimed;
+    return isTaken(seconds) ? TimeStanding::Counts : TimeStanding::NotPositive;
 }
 
-Standing accumulatedStanding(const sectionmaindata& timing, std::size_t section) {
+TimeStanding accumulatedStanding(const sectionmaindata& timing, std::size_t section) {
     const std::vector<double>& times = timing.times;
     if (std::ranges::none_of(times, [](double time) { return time != 0; }))
-        return Standing::NotTimed;
+        return TimeStanding::NotTimed;
     if (section >= times.size())
-        return Standing::AfterUntimed;
-    return sumStanding(std::span(times).first(section + 1), Standing::AfterUntimed);
+        return TimeStanding::AfterUntimed;
+    return sumStanding(std::span(times).first(section + 1), TimeStanding::AfterUntimed);
 }
 
-Standing totalStanding(const sectionmaindata& timing, std::int64_t sections) {
+TimeStanding totalStanding(const sectionmaindata& timing, std::int64_t sections) {
     if (timing.totaltime == 0 && timing.times.empty())
-        return Standing::NotTimed;
+        return TimeStanding::NotTimed;
     if (!isFullRun(timing.times, sections))
-        return Standing::NotFinished;
+        return TimeStanding::NotFinished;
     const auto course = std::span(timing.times).first(static_cast<std::size_t>(sections));
-    const Standing standing = sumStanding(course, Standing::NotFinished);
-    return standing == Standing::Counts ? timeStanding(timing.totaltime) : standing;
+    const TimeStanding standing = sumStanding(course, TimeStanding::NotFinished);
+    return standing == TimeStanding::Counts ? timeStanding(timing.totaltime) : standing;
 }
 
 bool isWhole(const RaceSet& set, const analyzerdata& run) {
-    return totalStanding(run.sectioninfo, set.totalsplits) == Standing::Counts;
+    return totalStanding(run.sectioninfo, set.totalsplits) == TimeStanding::Counts;
 }
 
-std::string_view reasonOf(Standing standing) {
+std::string_view reasonOf(TimeStanding standing) {
     switch (standing) {
-    case Standing::Counts:
+    case TimeStanding::Counts:
         return {};
-    case Standing::NotTimed:
+    case TimeStanding::NotTimed:
         return "No time was taken here.";
-    case Standing::NotPositive:
+    case TimeStanding::NotPositive:
         return "A time must be above 0. Check the marks of this run.";
-    case Standing::AfterUntimed:
+    case TimeStanding::AfterUntimed:
         return "A section up to here was not timed, so this is not the time from the start.";
-    case Standing::NotFinished:
+    case TimeStanding::NotFinished:
         return "This run was not timed to the end, so this is not the time of the whole course.";
     }
     return {};

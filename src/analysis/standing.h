@@ -10,7 +10,7 @@
 /// else is shown as it stands, and counts for nothing.
 namespace kavela {
 
-enum class Standing {
+enum class TimeStanding {
     Counts,
     NotTimed,     ///< no time was taken; what stands there are penalty seconds at most
     NotPositive,  ///< a time of less than nothing, or a sum that holds one
@@ -22,18 +22,18 @@ enum class Standing {
 [[nodiscard]] bool isTaken(double seconds);
 
 /// Of a time that stands alone: a section, sprint or real time.
-[[nodiscard]] Standing timeStanding(double seconds);
+[[nodiscard]] TimeStanding timeStanding(double seconds);
 
 /// Of the time from the start to the end of a section, counted from 0.
-[[nodiscard]] Standing accumulatedStanding(const sectionmaindata& timing, std::size_t section);
+[[nodiscard]] TimeStanding accumulatedStanding(const sectionmaindata& timing, std::size_t section);
 
 /// Of the total of a run over a course of so many sections.
-[[nodiscard]] Standing totalStanding(const sectionmaindata& timing, std::int64_t sections);
+[[nodiscard]] TimeStanding totalStanding(const sectionmaindata& timing, std::int64_t sections);
 
 /// Whether the total of a run of the set counts.
 [[nodiscard]] bool isWhole(const RaceSet& set, const analyzerdata& run);
 
 /// Why a value counts for nothing, as a sentence for the coach; empty for one that counts.
-[[nodiscard]] std::string_view reasonOf(Standing standing);
+[[nodiscard]] std::string_view reasonOf(TimeStanding standing);
 
 } // namespace kavela

@@ -14,7 +14,7 @@ TableFigures::TableFigures(const SplitTable& table)
     for (std::size_t column = 0; column < table.columns.size(); ++column) {
         for (const TableRow& row : table.rows) {
             const TableCell& cell = row.cells[column];
-            m_values[column].push_back(cell.standing == Standing::Counts ? cell.value : 0);
+            m_values[column].push_back(cell.standing == TimeStanding::Counts ? cell.value : 0);
         }
         m_sorted[column] = m_values[column];
         std::erase(m_sorted[column], 0.0);

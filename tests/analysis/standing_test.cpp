@@ -33,8 +33,8 @@ SplitTable tableOf(const RaceSet& set, ValueKind kind, bool penaltiesIncluded, c
     return makeSplitTable(set, {kind, penaltiesIncluded, false, mode});
 }
 
-std::vector<Standing> standings(const SplitTable& table, std::size_t column) {
-    std::vector<Standing> found;
+std::vector<TimeStanding> standings(const SplitTable& table, std::size_t column) {
+    std::vector<TimeStanding> found;
     for (const TableRow& row : table.rows)
         found.push_back(row.cells[column].standing);
     return found;
@@ -48,15 +48,15 @@ std::vector<std::size_t> bests(const SplitTable& table, std::size_t column) {
     return found;
 }
 
-constexpr auto Counts = Standing::Counts;
-constexpr auto NotTimed = Standing::NotTimed;
-constexpr auto NotPositive = Standing::NotPositive;
-constexpr auto AfterUntimed = Standing::AfterUntimed;
-constexpr auto NotFinished = Standing::NotFinished;
+constexpr auto Counts = TimeStanding::Counts;
+constexpr auto NotTimed = TimeStanding::NotTimed;
+constexpr auto NotPositive = TimeStanding::NotPositive;
+constexpr auto AfterUntimed = TimeStanding::AfterUntimed;
+constexpr auto NotFinished = TimeStanding::NotFinished;
 
 } // namespace
 
-TEST(Standing, IsOfTimesThatWereTaken) {
+TEST(TimeStanding, IsOfTimesThatWereTaken) {
     const RaceSet set = oddRace();
     const SplitTable sections = tableOf(set, ValueKind::Sections, true, "Race");
     EXPECT_THAT(standings(sections, 0), ElementsAre(Counts, NotTimed, Counts, Counts, NotTimed));
@@ -71,7 +71,7 @@ TEST(Standing, IsOfTimesThatWereTaken) {
     EXPECT_EQ(reasonOf(Counts), "");
 }
 
-TEST(Standing, CallsNothingBestThatDoesNotCount) {
+TEST(TimeStanding, CallsNothingBestThatDoesNotCount) {
     const RaceSet set = oddRace();
     for (const char* mode : {"Race", "Training"}) {
         const SplitTable sections = tableOf(set, ValueKind::Sections, true, mode);
@@ -86,7 +86,7 @@ TEST(Standing, CallsNothingBestThatDoesNotCount) {
     }
 }
 
-TEST(Standing, LeavesValuesAndBandsToTheColumn) {
+TEST(TimeStanding, LeavesValuesAndBandsToTheColumn) {
     const RaceSet set = oddRace();
     const SplitTable table = tableOf(set, ValueKind::Sections, true, "Training");
     const TableCell& touch = table.rows[1].cells[0];
@@ -101,7 +101,7 @@ TEST(Standing, LeavesValuesAndBandsToTheColumn) {
     EXPECT_FALSE(race.rows[4].cells[0].isGreyed()) << "nothing is shown there to be greyed";
 }
 
-TEST(Standing, TakesNoPlaceAndIsNoReference) {
+TEST(TimeStanding, TakesNoPlaceAndIsNoReference) {
     const RaceSet set = oddRace();
     const SplitTable sums = tableOf(set, ValueKind::Accumulated, false, "Race");
     const TableFigures figures(sums);
@@ -116,7 +116,7 @@ TEST(Standing, TakesNoPlaceAndIsNoReference) {
     EXPECT_THAT(stopped.values, ElementsAre(9, 60, 0, 0, 0, 0)) << "nor from another race";
 }
 
-TEST(Standing, KeepsTimesOfLessThanNothingOutOfEveryBest) {
+TEST(TimeStanding, KeepsTimesOfLessThanNothingOutOfEveryBest) {
     const RaceSet set = makeRaceSet(
         raceOf(3, {runOf({10, 20, -1}), runOf({11, 21, 31}), runOf({-5, -6, -7})}), "a.kvx");
     const IdealRun ideal = idealRun(set);

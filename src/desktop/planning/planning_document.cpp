@@ -31,7 +31,7 @@ bool PlanningDocument::isPlanning(const std::string& text) const {
     }
 }
 
-bool PlanningDocument::startFrom(const std::string& text, const QString& path, QWidget* over) {
+bool PlanningDocument::startFromText(const std::string& text, const QString& path, QWidget* over) {
     try {
         auto found = recognisePlanningDocument(JsonDocument::fromText(text), workspace().log());
         if (!found.version)

@@ -31,7 +31,7 @@ public:
     [[nodiscard]] bool isPlanning(const std::string& text) const;
     /// A planning that came from elsewhere as text, to be saved under a path; false when no version
     /// decodes. The document then stays as it is.
-    [[nodiscard]] bool startFrom(const std::string& text, const QString& path, QWidget* over);
+    [[nodiscard]] bool startFromText(const std::string& text, const QString& path, QWidget* over);
     /// A new planning; the path is where saving will propose to put it.
     void startNew(const QString& path, QWidget* over);
 

@@ -153,7 +153,7 @@ void PlanningWindow::askToSaveOnline() {
 }
 
 bool PlanningWindow::showCopy(const QByteArray& content, const QString& path) {
-    if (!m_document->startFrom(content.toStdString(), path, this))
+    if (!m_document->startFromText(content.toStdString(), path, this))
         return false;
     m_states.begin({});
     return true;

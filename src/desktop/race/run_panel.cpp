@@ -142,10 +142,10 @@ void RunPanel::fillHeading(std::size_t run, const std::optional<RunAgainst>& aga
     if (section.xTime != 0)
         text += tr("\nExpected %1 s").arg(timeOrDash(section.xTime));
     text += potentialText(set, record);
-    const Standing standing = totalStanding(section, set.totalsplits);
-    if (standing == Standing::NotPositive)
+    const TimeStanding standing = totalStanding(section, set.totalsplits);
+    if (standing == TimeStanding::NotPositive)
         text += tr("\nA time must be above 0. Check the marks of this run.");
-    else if (standing != Standing::Counts)
+    else if (standing != TimeStanding::Counts)
         text += tr("\nNot the whole course");
     m_facts->setText(text);
     m_gates->setText(gateText(set, record));
