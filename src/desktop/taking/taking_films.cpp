@@ -152,7 +152,8 @@ void TakingWindow::showHealth() {
     const RunMarks marks = m_document.marks(m_run);
     for (const Stamps& stamps : marks.marks) {
         const std::span seen(stamps.begin(), std::min(stamps.size(), m_deck->cameras()));
-        if (seen.size() < m_deck->cameras() || !std::ranges::all_of(seen, isTaken))
+        const auto isThere = [](const CMTime& stamp) { return isTaken(stamp); };
+        if (seen.size() < m_deck->cameras() || !std::ranges::all_of(seen, isThere))
             continue;
         for (std::size_t camera = 1; camera < m_deck->cameras(); ++camera)
             m_deck->setOffset(camera, {.own = stamps[camera], .common = stamps.front()});
