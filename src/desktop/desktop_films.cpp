@@ -162,13 +162,18 @@ TakingWindow* Desktop::showTaking(const QString& path) {
 
 /// The race as it is being edited, saved or not, in the window that shows its file already.
 void Desktop::showInAnalyzer(const TakingDocument& document) {
-    RaceWindow* const found = windowOfRace(document.path());
-    RaceWindow* const window = found ? found : makeRaceWindow();
-    window->showRace(document.content(), document.path(),
+    RaceWindow* const shown = windowOfRace(document.path());
+    RaceWindow* const window = shown ? shown : makeRaceWindow();
+    const auto isIt = [&](const QString& path) {
+        return canonicalPath(path) == canonicalPath(document.path());
+    };
+    const QStringList paths = window->paths();
+    const auto known = std::ranges::find_if(paths, isIt);
+    window->showRace(document.content(), known == paths.end() ? document.path() : *known,
                      document.isDirty()
                          ? tr("As it is in split taking now. The file does not hold all of it yet.")
                          : QString());
-    if (!found)
+    if (!shown)
         m_races.append(window);
     window->show();
     bringToFront(*window);

@@ -164,7 +164,7 @@ TEST_F(OpeningTest, ShowsARaceThatIsOpenInsteadOfASecondWindowOfIt) {
     ASSERT_TRUE(taking);
     taking->document().editRun(0, "crew", [](athletedata031& run) { run.names = {"Ada Neumann"}; });
     ASSERT_TRUE(taking->document().save(taking));
-    emit taking->analysisRequested(taking->document().path());
+    emit taking->analysisRequested();
     EXPECT_THAT(m_program.raceWindows(), SizeIs(2));
     const desktop::RaceWindow* const shown = m_program.raceWindows().front();
     EXPECT_EQ(shown->views().size(), 1U);

@@ -1,5 +1,8 @@
 #include "desktop/notes_fixture.h"
 
+#include <QDialog>
+#include <QTimer>
+
 namespace kavela::test {
 namespace {
 
@@ -19,12 +22,17 @@ protected:
         m_window->document().editRun(0, "name", [&](athletedata031& run) { run.names = {crew}; });
     }
 
-    /// Takes over a list of the folder; what the coach is told.
-    std::string importList(const std::string& content) {
+    /// Takes over a list of the folder, and agrees to what it has.
+    void importList(const std::string& content) {
         const fs::path list = m_folder.add("list.csv", content);
-        return m_window->document()
-            .importResults(QString::fromStdString(list.string()), nullptr)
-            .toStdString();
+        m_window->setChooseFiles([&](const QString&, const QString&) {
+            return QStringList{QString::fromStdString(list.string())};
+        });
+        QTimer::singleShot(0, m_window.get(), [] {
+            if (auto* const dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget()))
+                dialog->accept();
+        });
+        m_window->importResults();
     }
 
     std::vector<std::string> m_asked;
@@ -45,8 +53,9 @@ TEST_F(OwnFileTest, HoldsTheWorkOnceItWasExportedOntoItself) {
 
 TEST_F(OwnFileTest, ImportsThatTookNothingAreNoEdit) {
     ASSERT_NO_FATAL_FAILURE(open(timedRace(), false));
-    EXPECT_THAT(importList("pos;bib;name;nat;time;pen\nno result at all\n"),
-                ::testing::HasSubstr("Line 2"));
+    importList("pos;bib;name;nat;time;pen\nno result at all\n");
+    EXPECT_THAT(m_recorder.alerts, ElementsAre(::testing::HasSubstr("Line 2")));
+    m_recorder.alerts.clear();
     EXPECT_FALSE(m_window->document().isDirty());
     splittakerdata031 empty = timedRace();
     empty.athletes.clear();
@@ -56,7 +65,7 @@ TEST_F(OwnFileTest, ImportsThatTookNothingAreNoEdit) {
     EXPECT_FALSE(m_window->document().isDirty());
     ASSERT_THAT(m_recorder.alerts, SizeIs(1));
     EXPECT_THAT(m_recorder.alerts[0], ::testing::HasSubstr("empty.kvx"));
-    (void)importList("pos;bib;name;nat;time;pen\n1;4;Nova;CZE;82.75;2\n");
+    importList("pos;bib;name;nat;time;pen\n1;4;Nova;CZE;82.75;2\n");
     EXPECT_TRUE(m_window->document().isDirty());
 }
 

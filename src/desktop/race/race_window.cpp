@@ -136,7 +136,8 @@ void RaceWindow::showViews() {
     }
     const QStringList names = namesToldApart(paths());
     for (int tab = 0; tab < m_tabs->count() && tab < names.size(); ++tab)
-        m_tabs->setTabText(tab, names[tab]);
+        m_tabs->setTabText(
+            tab, m_tabs->fontMetrics().elidedText(names[tab], Qt::ElideMiddle, WidestTab));
     const QString file = QFileInfo(document().path()).completeBaseName();
     setWindowTitle(document().title() + " – " + file + " – Kavela");
     setWindowFilePath(document().path());
