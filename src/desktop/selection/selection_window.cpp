@@ -90,6 +90,7 @@ SelectionWindow::SelectionWindow(Workspace& workspace, Autosave autosave)
 }
 
 SelectionWindow::~SelectionWindow() {
+    commit(); // an open cell would else hand its text to what is gone already
     qApp->disconnect(this);
     m_table->selectionModel()->disconnect(this);
     m_document.disconnect(this);
@@ -249,6 +250,7 @@ void SelectionWindow::fillCategories() {
         else
             m_categories->addTab(title);
     }
+    m_categories->updateGeometry(); // a bar that is filled unseen keeps its height to itself
     const auto current = static_cast<std::size_t>(std::max(m_categories->currentIndex(), 0));
     if (current != m_model.category())
         m_model.setCategory(current);

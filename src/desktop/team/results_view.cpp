@@ -162,6 +162,8 @@ void ResultsView::fillTabs() {
         }
     }
     m_isFilling = false;
+    // Filled before the window is seen, the bar keeps the height of none to itself.
+    m_categories->updateGeometry();
     showHint();
 }
 

@@ -37,6 +37,7 @@ TeamWindow::TeamWindow(Workspace& workspace, std::unique_ptr<TeamDocument> docum
 }
 
 TeamWindow::~TeamWindow() {
+    commit(); // an open cell would else hand its text to what is gone already
     m_document->undoStack().disconnect(this);
     m_document->disconnect(this);
 }
