@@ -65,7 +65,7 @@ CrossWindow::CrossWindow(Workspace& workspace, Autosave autosave)
     whole->addWidget(makePages());
     whole->addWidget(makeStage());
     whole->setStretchFactor(1, 1);
-    whole->setSizes({500, 750});
+    shareSizes(*whole, {500, 750});
     rememberSizes(*whole, workspace, "crossParts");
     setCentralWidget(whole);
     m_actions = new CrossActions(*this, workspace);

@@ -36,7 +36,7 @@ void paintText(QPainter& painter, const QRect& box, const QString& text) {
 
 FilmView::FilmView(FilmDeck& deck, std::size_t camera, QWidget* parent)
     : QWidget(parent), m_deck(deck), m_camera(camera) {
-    setMinimumSize(240, 135);
+    setMinimumSize(160, 90);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     setAttribute(Qt::WA_OpaquePaintEvent);
     connect(&m_deck, &FilmDeck::frameShown, this, [this](std::size_t shown) {

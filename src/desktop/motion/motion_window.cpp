@@ -55,7 +55,7 @@ void MotionWindow::makeParts() {
     splitter->addWidget(m_side);
     splitter->addWidget(m_pages);
     splitter->setStretchFactor(1, 1);
-    splitter->setSizes({350, 930});
+    shareSizes(*splitter, {350, 930});
     rememberSizes(*splitter, m_workspace, "motion");
     setCentralWidget(splitter);
     m_progress = new QProgressBar;

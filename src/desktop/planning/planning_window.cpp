@@ -90,7 +90,7 @@ void PlanningWindow::makeParts() {
     whole->addWidget(m_athletes);
     whole->addWidget(m_tabs);
     whole->setStretchFactor(1, 1);
-    whole->setSizes({190, 1058});
+    shareSizes(*whole, {190, 1058});
     whole->setChildrenCollapsible(false);
     rememberSizes(*whole, workspace(), "planningParts");
     setCentralWidget(whole);

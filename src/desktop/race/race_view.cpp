@@ -82,7 +82,7 @@ void RaceView::makeCentre() {
     split->addWidget(makeWork());
     split->addWidget(makeSide());
     split->setStretchFactor(0, 1);
-    split->setSizes({900, 340});
+    shareSizes(*split, {900, 340});
     rememberSizes(*split, m_workspace, "raceSide");
 
     auto* column = new QVBoxLayout(this);
@@ -119,7 +119,7 @@ QWidget* RaceView::makeWork() {
     work->addWidget(m_table);
     work->addWidget(m_charts);
     work->setStretchFactor(0, 1);
-    work->setSizes({420, 280});
+    shareSizes(*work, {420, 280});
     rememberSizes(*work, m_workspace, "raceCharts");
     return work;
 }

@@ -107,7 +107,7 @@ RunPanel::RunPanel(RaceDocument& document, QWidget* parent)
     column->addWidget(m_sections, 1);
     column->addWidget(m_empty);
     column->addStretch(0);
-    setMinimumWidth(300);
+    setMinimumWidth(240);
     showRun(std::nullopt, std::nullopt);
 }
 

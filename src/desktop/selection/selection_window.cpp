@@ -5,6 +5,7 @@
 #include "desktop/shell/cell_delegate.h"
 #include "desktop/shell/edit_order.h"
 #include "desktop/shell/theme.h"
+#include "desktop/shell/window_place.h"
 #include "desktop/shell/workspace.h"
 #include "results/messages.h"
 #include "results/selection_file.h"
@@ -56,7 +57,7 @@ SelectionWindow::SelectionWindow(Workspace& workspace, Autosave autosave)
     split->addWidget(m_table);
     split->addWidget(m_why);
     split->setStretchFactor(0, 1);
-    split->setSizes({900, 340});
+    shareSizes(*split, {900, 340});
     auto* page = new QWidget;
     auto* column = new QVBoxLayout(page);
     column->setContentsMargins(theme::LargeSpacing, theme::Spacing, theme::LargeSpacing,

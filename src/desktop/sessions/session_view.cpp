@@ -79,13 +79,12 @@ SessionView::SessionView(Workspace& workspace, Replay& replay, QWidget* parent)
     auto* right = new QSplitter(Qt::Vertical);
     right->addWidget(makeMapPart());
     right->addWidget(m_tables);
-    right->setSizes({300, 260});
+    shareSizes(*right, {300, 260});
     m_parts = new QSplitter;
     m_parts->addWidget(left);
     m_parts->addWidget(right);
-    m_parts->setStretchFactor(0, 4); // on a small screen both give way
-    m_parts->setStretchFactor(1, 3);
-    m_parts->setSizes({700, 540});
+    m_parts->setStretchFactor(0, 1);
+    shareSizes(*m_parts, {700, 540});
     rememberSizes(*m_parts, workspace, "sessionParts");
     rememberSizes(*right, workspace, "sessionSide");
     auto* whole = new QVBoxLayout(this);

@@ -120,7 +120,7 @@ void TestSessionWindow::makeParts() {
     parts->addWidget(m_attempts);
     parts->addWidget(right);
     parts->setStretchFactor(1, 1);
-    parts->setSizes({220, 1020});
+    shareSizes(*parts, {220, 1020});
     rememberSizes(*parts, workspace(), "testsessionParts");
     auto* central = new QWidget;
     auto* whole = new QVBoxLayout(central);

@@ -6,9 +6,14 @@
 #include <QSplitter>
 #include <QWidget>
 
+#include <algorithm>
+#include <numeric>
+
 namespace kavela::desktop {
 
 namespace {
+
+constexpr const char* ChosenSizes = "chosenSizes"; ///< property: the coach moved a handle
 
 /// Keeps the place of the window it belongs to.
 class PlaceKeeper : public QObject {
@@ -30,6 +35,43 @@ private:
     QString m_key;
 };
 
+/// Keeps the shares of the parts of a splitter while it is small.
+class SizeSharer : public QObject {
+public:
+    SizeSharer(QSplitter& splitter, QList<int> sizes)
+        : QObject(&splitter), m_splitter(splitter), m_sizes(std::move(sizes)) {
+        splitter.installEventFilter(this);
+        connect(&splitter, &QSplitter::splitterMoved, this,
+                [this] { m_splitter.setProperty(ChosenSizes, true); });
+    }
+
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (watched == &m_splitter && event->type() == QEvent::Resize &&
+            !m_splitter.property(ChosenSizes).toBool())
+            share();
+        return QObject::eventFilter(watched, event);
+    }
+
+private:
+    void share() {
+        const QRect place = m_splitter.contentsRect();
+        const int whole =
+            m_splitter.orientation() == Qt::Horizontal ? place.width() : place.height();
+        const int wanted = std::accumulate(m_sizes.begin(), m_sizes.end(), 0);
+        if (whole >= wanted && !m_wasSmall)
+            return;
+        m_wasSmall = whole < wanted;
+        QList<int> sizes;
+        for (const int size : m_sizes)
+            sizes.append(m_wasSmall ? std::max(size * whole / wanted, 1) : size);
+        m_splitter.setSizes(sizes);
+    }
+
+    QSplitter& m_splitter;
+    QList<int> m_sizes;
+    bool m_wasSmall = false;
+};
+
 QByteArray kept(const Workspace& workspace, const QString& key) {
     return QByteArray::fromBase64(workspace.remembered(key).value(0).toLatin1());
 }
@@ -42,9 +84,15 @@ void rememberPlace(QWidget& window, Workspace& workspace, const QString& kind) {
     new PlaceKeeper(window, workspace, key); // the window owns it
 }
 
+void shareSizes(QSplitter& splitter, const QList<int>& sizes) {
+    splitter.setSizes(sizes);
+    new SizeSharer(splitter, sizes); // the splitter owns it
+}
+
 void rememberSizes(QSplitter& splitter, Workspace& workspace, const QString& kind) {
     const QString key = "sizes/" + kind;
-    splitter.restoreState(kept(workspace, key));
+    if (splitter.restoreState(kept(workspace, key)))
+        splitter.setProperty(ChosenSizes, true);
     QObject::connect(
         &splitter, &QSplitter::splitterMoved, &workspace, [&splitter, &workspace, key] {
             workspace.remember(key, {QString::fromLatin1(splitter.saveState().toBase64())});

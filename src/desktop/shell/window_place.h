@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QList>
 #include <QString>
 
 class QSplitter;
@@ -13,7 +14,11 @@ class Workspace;
 /// window must not outlive the workspace.
 void rememberPlace(QWidget& window, Workspace& workspace, const QString& kind);
 
-/// The same for the parts of a splitter.
+/// Gives the parts of a splitter sizes; where it is smaller than all of them together, each gives
+/// way by its share. Beyond that, and once the coach moved a handle, its stretch factors decide.
+void shareSizes(QSplitter& splitter, const QList<int>& sizes);
+
+/// Puts the parts of a splitter where they were left, and keeps their places.
 void rememberSizes(QSplitter& splitter, Workspace& workspace, const QString& kind);
 
 } // namespace kavela::desktop

@@ -14,10 +14,9 @@ namespace kavela::desktop {
 namespace {
 
 constexpr int Height = 44;
-constexpr int HeightOfSeveral = 36; ///< of each row, where the gates stand in several
+constexpr int HeightOfSeveral = 30; ///< of each row, where the gates stand in several
 constexpr qreal WidestGate = 48;
 constexpr int NarrowestGate = 26; ///< that its number, and the arrow before it, fit
-constexpr int MostRows = 3;
 constexpr QColor Upstream{0xC9, 0x2A, 0x2A};
 constexpr QColor Downstream{0x0B, 0x84, 0x3A};
 constexpr QColor Touch{0xF2, 0xB1, 0x34};
@@ -25,27 +24,22 @@ constexpr QColor Missed{0xD6, 0x33, 0x33};
 
 } // namespace
 
-GateStrip::GateStrip(QWidget* parent) : QWidget(parent) {
+GateStrip::GateStrip(QWidget* parent) : QWidget(parent), m_rows(WidestGate, NarrowestGate) {
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     setAccessibleName(tr("Penalties at the gates"));
 }
 
 QSize GateStrip::sizeHint() const {
-    return {400, m_rows == 1 ? Height : m_rows * HeightOfSeveral};
+    return {400, m_rows.count() == 1 ? Height : m_rows.count() * HeightOfSeveral};
 }
 
 QSize GateStrip::minimumSizeHint() const {
     return {NarrowestGate, sizeHint().height()};
 }
 
-/// Gates that are too many for one row stand in several.
 void GateStrip::fitRows() {
-    const int inRow = std::max(width() / NarrowestGate, 1);
-    const int rows = std::clamp((m_gates + inRow - 1) / inRow, 1, MostRows);
-    if (rows == m_rows)
-        return;
-    m_rows = rows;
-    updateGeometry();
+    if (m_rows.fit(m_gates, width()))
+        updateGeometry();
 }
 
 void GateStrip::resizeEvent(QResizeEvent*) {
@@ -82,11 +76,7 @@ std::int64_t GateStrip::penaltyAt(int gate) const {
 }
 
 QRectF GateStrip::placeOf(int gate) const {
-    const int inRow = std::max((m_gates + m_rows - 1) / m_rows, 1);
-    const qreal step = std::min(WidestGate, static_cast<qreal>(width()) / inRow);
-    const qreal high = static_cast<qreal>(height()) / m_rows;
-    const int row = (gate - 1) / inRow;
-    return QRectF(step * ((gate - 1) % inRow), high * row, step, high).adjusted(1, 1, -1, -1);
+    return m_rows.placeOf(gate - 1, size());
 }
 
 int GateStrip::gateAt(QPointF place) const {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "desktop/taking/cell_rows.h"
+
 #include <QWidget>
 
 #include <cstdint>
@@ -47,7 +49,7 @@ private:
     int m_current = 1;
     std::vector<std::int64_t> m_upGates;
     std::vector<std::int64_t> m_penalties;
-    int m_rows = 1;
+    CellRows m_rows;
 };
 
 } // namespace kavela::desktop

@@ -11,20 +11,36 @@ namespace kavela::desktop {
 
 namespace {
 constexpr int Height = 48;
+constexpr int HeightOfSeveral = 34; ///< of each row, where the sections stand in several
 constexpr qreal WidestSection = 110;
+constexpr int NarrowestSection = 44; ///< that a time fits
 } // namespace
 
-SplitBar::SplitBar(QWidget* parent) : QWidget(parent) {
+SplitBar::SplitBar(QWidget* parent) : QWidget(parent), m_rows(WidestSection, NarrowestSection) {
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     setAccessibleName(tr("Split times"));
 }
 
 QSize SplitBar::sizeHint() const {
-    return {400, Height};
+    return {400, m_rows.count() == 1 ? Height : m_rows.count() * HeightOfSeveral};
+}
+
+QSize SplitBar::minimumSizeHint() const {
+    return {NarrowestSection, sizeHint().height()};
+}
+
+void SplitBar::fitRows() {
+    if (m_rows.fit(static_cast<int>(m_sections.size()), width()))
+        updateGeometry();
+}
+
+void SplitBar::resizeEvent(QResizeEvent*) {
+    fitRows();
 }
 
 void SplitBar::setSections(std::vector<Section> sections) {
     m_sections = std::move(sections);
+    fitRows();
     update();
 }
 
@@ -44,9 +60,7 @@ QString SplitBar::timeText(std::size_t split) const {
 }
 
 QRectF SplitBar::placeOf(std::size_t index) const {
-    const auto count = static_cast<qreal>(std::max<std::size_t>(m_sections.size(), 1));
-    const qreal step = std::min(WidestSection, width() / count);
-    return QRectF(step * static_cast<qreal>(index), 0, step, height()).adjusted(1, 1, -1, -1);
+    return m_rows.placeOf(static_cast<int>(index), size());
 }
 
 void SplitBar::paintEvent(QPaintEvent*) {

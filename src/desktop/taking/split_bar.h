@@ -1,5 +1,7 @@
 #pragma once
 
+#include "desktop/taking/cell_rows.h"
+
 #include <QWidget>
 
 #include <optional>
@@ -27,21 +29,25 @@ public:
 
     [[nodiscard]] QString timeText(std::size_t split) const;
     [[nodiscard]] QSize sizeHint() const override;
+    [[nodiscard]] QSize minimumSizeHint() const override;
 
 signals:
     void splitClicked(std::size_t split);
 
 protected:
     void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
 
 private:
+    void fitRows();
     [[nodiscard]] QRectF placeOf(std::size_t index) const;
 
     std::vector<Section> m_sections;
     std::optional<std::size_t> m_running;
     QString m_runningTime;
     std::optional<std::size_t> m_selected;
+    CellRows m_rows;
 };
 
 } // namespace kavela::desktop

@@ -76,7 +76,7 @@ TakingWindow::TakingWindow(Workspace& workspace, Autosave autosave)
     upper->addWidget(makeStage());
     upper->addWidget(m_notes);
     upper->setStretchFactor(1, 1);
-    upper->setSizes({290, 670, 280});
+    shareSizes(*upper, {290, 670, 280});
     rememberSizes(*upper, workspace, "takingParts");
     auto* whole = new QSplitter(Qt::Vertical);
     whole->setContentsMargins(theme::LargeSpacing, theme::Spacing, theme::LargeSpacing,
@@ -84,7 +84,7 @@ TakingWindow::TakingWindow(Workspace& workspace, Autosave autosave)
     whole->addWidget(upper);
     whole->addWidget(makeTable());
     whole->setStretchFactor(0, 1);
-    whole->setSizes({560, 200});
+    shareSizes(*whole, {560, 200});
     rememberSizes(*whole, workspace, "takingTable");
     setCentralWidget(whole);
     m_actions = new TakingActions(*this, workspace);

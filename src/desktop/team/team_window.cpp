@@ -52,7 +52,7 @@ void TeamWindow::makeParts() {
     middle->addWidget(m_charts);
     middle->setStretchFactor(0, 3);
     middle->setStretchFactor(1, 2);
-    middle->setSizes({440, 250});
+    shareSizes(*middle, {440, 250});
     rememberSizes(*middle, workspace(), "teamCharts");
     auto* whole = new QSplitter;
     whole->setContentsMargins(theme::LargeSpacing, theme::Spacing, theme::LargeSpacing,
@@ -61,7 +61,7 @@ void TeamWindow::makeParts() {
     whole->addWidget(middle);
     whole->addWidget(m_summary);
     whole->setStretchFactor(1, 1);
-    whole->setSizes({310, 756, 180});
+    shareSizes(*whole, {310, 756, 180});
     rememberSizes(*whole, workspace(), "teamParts");
     setCentralWidget(whole);
 }

@@ -76,7 +76,7 @@ void TestsWindow::makeParts() {
     whole->addWidget(m_list);
     whole->addWidget(m_pages);
     whole->setStretchFactor(1, 1);
-    whole->setSizes({410, 830});
+    shareSizes(*whole, {410, 830});
     rememberSizes(*whole, workspace(), "watertestsParts");
     setCentralWidget(whole);
 }
