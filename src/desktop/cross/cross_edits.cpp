@@ -44,11 +44,13 @@ void CrossWindow::mark() {
 }
 
 void CrossWindow::moveMarkHere() {
+    m_deck->finishPresses();
     press([](CrossPage& page, const CMTime& moment) { page.moveMark(moment); });
 }
 
 /// The frame on the screen stays.
 void CrossWindow::nudgeMark(int frames) {
+    m_deck->finishPresses(); // the last mark may be one of them
     const auto marks = page().marks();
     const auto selected = page().selectedMark();
     const auto mark = selected ? selected : page().lastMark();

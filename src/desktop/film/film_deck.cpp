@@ -19,6 +19,17 @@ constexpr double SecondsWithoutFrames = 0.01;
 /// A film is read so far in less, unless its disk does not answer.
 constexpr auto LongestWait = std::chrono::seconds(3);
 
+/// A film that was just opened tells its first frames in less.
+constexpr auto LongestWaitForStep = std::chrono::milliseconds(500);
+
+/// Films are read by threads of their own: nothing here has to turn for them.
+template <class IsDone>
+void waitFor(const IsDone& isDone, std::chrono::milliseconds atMost) {
+    const auto end = std::chrono::steady_clock::now() + atMost;
+    while (!isDone() && std::chrono::steady_clock::now() < end)
+        std::this_thread::sleep_for(std::chrono::milliseconds(2));
+}
+
 /// A mark from elsewhere may lie before the film's first frame or behind its last one.
 bool isWithin(const VideoIndex& film, const CMTime& stamp) {
     return film.frameCount() > 0 && orderOf(stamp, film.stampOf(0)) >= 0 &&
@@ -241,14 +252,12 @@ void FilmDeck::whenKnown(const FrameRequest& frame, PressQueue::Act act,
         m_presses.add({frame}, std::move(act), std::move(refuse));
 }
 
-/// The films are read by threads of their own: nothing here has to turn for them.
 void FilmDeck::finishPresses() {
-    const auto end = std::chrono::steady_clock::now() + LongestWait;
-    m_presses.run();
-    while (m_presses.isWaiting() && std::chrono::steady_clock::now() < end) {
-        std::this_thread::sleep_for(std::chrono::milliseconds(2));
+    const auto isDone = [this] {
         m_presses.run();
-    }
+        return !m_presses.isWaiting();
+    };
+    waitFor(isDone, LongestWait);
     if (m_presses.isWaiting())
         m_presses.refuseAll(tr("The film has not been read so far yet: nothing was marked."));
 }
@@ -366,7 +375,10 @@ void FilmDeck::shuttle(ShuttleKey key, bool isStopHeld) {
 }
 
 void FilmDeck::step(FrameNumber frames) {
+    if (!m_group)
+        return;
     pause(); // steps count from the frame that is seen
+    waitFor([this] { return m_players[0]->target() || !fault(0).isEmpty(); }, LongestWaitForStep);
     jumpWithGroup([frames](CameraGroup& group) { group.step(frames, now()); });
 }
 

@@ -148,6 +148,7 @@ void TakingWindow::moveTo(std::size_t mark, Stamps stamps) {
 }
 
 void TakingWindow::moveMarkHere() {
+    m_deck->finishPresses();
     if (m_notes->takesEdits() && !m_selected) {
         m_notes->moveMarkHere();
         return;
@@ -176,6 +177,7 @@ void TakingWindow::moveMarkTo(Stamps stamps) {
 
 /// The selected mark, otherwise the last, moves; the frame on the screen stays.
 void TakingWindow::nudgeMark(int frames) {
+    m_deck->finishPresses(); // the last mark may be one of them
     if (m_notes->takesEdits() && !m_selected) {
         m_notes->nudgeMark(frames);
         return;
