@@ -1,3 +1,4 @@
+#include "common/display_text.h"
 #include "common/file_size_limit.h"
 #include "common/json_encode.h"
 #include "splitdata/version_files.h"
@@ -43,7 +44,7 @@ void expectRefused(const Reading& reading, const std::filesystem::path& path,
     EXPECT_THAT(reading.alerts.texts,
                 ElementsAre("The imported file is not compatible. Be sure you have the latest KV "
                             "version.\n" +
-                            path.filename().string() + ": " + reason));
+                            path.filename().string() + ": " + printable(reason)));
     std::vector<std::string> lines = hopelessLines(path);
     lines.push_back("The file could not be read: " + reason);
     EXPECT_THAT(reading.log.lines, ElementsAreArray(lines));
