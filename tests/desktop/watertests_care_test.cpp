@@ -336,9 +336,11 @@ TEST_F(TestsCareTest, ATotalWaitsForAllOfItsParts) {
     const QAbstractItemModel& table = *part<QTableView>("table").model();
     const int total = 7; // behind name, date and five splits
     ASSERT_EQ(table.headerData(total, Qt::Horizontal).toString(), "Total");
-    for (int row = 0; row < table.rowCount(); ++row)
-        if (test(listed()[static_cast<std::size_t>(row)]).eight())
+    for (int row = 0; row < table.rowCount(); ++row) {
+        if (test(listed()[static_cast<std::size_t>(row)]).eight()) {
             EXPECT_EQ(table.index(row, total).data().toString(), "");
+        }
+    }
 }
 
 TEST_F(TestsCareTest, ADayThatIsNoneShowsNotThatOfAnotherTest) {
