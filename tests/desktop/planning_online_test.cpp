@@ -75,7 +75,8 @@ private:
             return;
         const QList<QByteArray> words = request.left(request.indexOf("\r\n")).split(' ');
         const QByteArray answer =
-            answerTo(words.at(0), words.at(1), request.left(head), request.mid(head + 4, size));
+            answerTo(words.at(0), QByteArray::fromPercentEncoding(words.at(1)), request.left(head),
+                     request.mid(head + 4, size));
         m_requests.erase(&socket);
         socket.write(answer);
         socket.disconnectFromHost();
@@ -318,7 +319,7 @@ protected:
         socket->setSocketDescriptor(handle);
         const QString folder = KAVELA_TEST_DATA "/certificates/";
         socket->setLocalCertificate(folder + "untrusted.pem");
-        socket->setPrivateKey(folder + "untrusted.key");
+        socket->setPrivateKey(folder + "untrusted.key", QSsl::Ec);
         connect(socket, &QSslSocket::readyRead, this, [this] { wasAsked = true; });
         socket->startServerEncryption();
     }
