@@ -253,7 +253,7 @@ TEST_F(SelectionWindowTest, ShowsWhatAFileWouldChangeAndWhoseRunsAreByHand) {
             ASSERT_EQ(lines.rowCount(), 5) << "three runs, two athletes without one";
             EXPECT_EQ(cell(0, lines.wasColumn()), "90.00");
             EXPECT_EQ(cell(0, lines.nowColumn()), "89.00");
-            EXPECT_THAT(cell(0, lines.remarkColumn()), HasSubstr("expected time 86.50 stays"));
+            EXPECT_THAT(cell(0, lines.remarkColumn()), HasSubstr("xTime 86.50 stays"));
             EXPECT_EQ(cell(1, lines.nowColumn()), "no result");
             EXPECT_EQ(cell(3, lines.remarkColumn()), "perhaps BIRK Ben?");
             const auto choose = [&](int line, const Belonging& whose) {

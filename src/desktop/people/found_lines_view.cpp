@@ -44,6 +44,10 @@ void FoundLinesView::fitColumns() {
     resizeColumnsToContents();
     for (int column = 0; column < m_lines.remarkColumn(); ++column)
         setColumnWidth(column, std::min(columnWidth(column), WidestColumn));
+    // A choice brings results where there was none to measure.
+    const int result = fontMetrics().horizontalAdvance("99. 999.99 (50)") + theme::Spacing;
+    for (const int column : {m_lines.wasColumn(), m_lines.nowColumn()})
+        setColumnWidth(column, std::max(columnWidth(column), result));
 }
 
 void FoundLinesView::keyPressEvent(QKeyEvent* event) {

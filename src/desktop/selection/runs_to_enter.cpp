@@ -161,25 +161,39 @@ QString RunsToEnter::resultBefore(const AthletePlace& athlete) const {
     return resultText(results[m_race].resultTime, results[m_race].pen);
 }
 
+/// The athlete in whose result a run ends up; none where it is left out or another one is better.
+std::optional<AthletePlace> RunsToEnter::athleteWith(std::size_t run,
+                                                     const Outcome& outcome) const {
+    const FoundRun& found = m_found.runs[run];
+    if (!m_isTicked[run] || !found.isTaken())
+        return std::nullopt;
+    const auto athlete = outcome.athleteOf(found);
+    if (!athlete)
+        return std::nullopt;
+    const saRaceStruct& result =
+        outcome.after.categories[athlete->category].athletes[athlete->athlete].racedata[m_race];
+    const bool isIt = result.resultTime == found.time && result.pen == found.penalty;
+    return isIt ? athlete : std::nullopt;
+}
+
 QString RunsToEnter::runRemark(std::size_t run, const Outcome& outcome) const {
     const FoundRun& found = m_found.runs[run];
     if (!found.fault.empty())
         return qtText(found.fault);
-    if (!found.isTaken() && !m_likely[run].isEmpty())
-        return tr("perhaps %1?").arg(m_likely[run]);
-    const auto athlete =
-        m_isTicked[run] && found.isTaken() ? outcome.athleteOf(found) : std::nullopt;
+    if (!found.isTaken())
+        return m_likely[run].isEmpty() ? QString() : tr("perhaps %1?").arg(m_likely[run]);
+    const auto athlete = athleteWith(run, outcome);
     if (!athlete)
-        return {};
-    const saRaceStruct& result =
-        outcome.after.categories[athlete->category].athletes[athlete->athlete].racedata[m_race];
-    if (result.resultTime != found.time || result.pen != found.penalty)
-        return tr("another run is better");
+        return m_isTicked[run] ? tr("another run is better") : QString();
     QString remark = outcome.rankText(*athlete);
     const ResultPlace place{athlete->category, athlete->athlete, m_race};
     const auto& kept = outcome.entered.keptExpected;
     if (std::ranges::find(kept, place) != kept.end())
-        remark += tr("; the expected time %1 stays").arg(qtText(hundredthsText(result.xTime)));
+        remark += tr("; xTime %1 stays")
+                      .arg(qtText(hundredthsText(outcome.after.categories[athlete->category]
+                                                     .athletes[athlete->athlete]
+                                                     .racedata[m_race]
+                                                     .xTime)));
     return remark;
 }
 
@@ -200,7 +214,10 @@ FoundLine RunsToEnter::runLine(std::size_t run, const Outcome& outcome) const {
     }
     if (found.isTaken()) {
         line.tick = m_isTicked[run];
-        line.now = m_isTicked[run] ? resultText(found.time, found.penalty) : line.was;
+        if (athleteWith(run, outcome))
+            line.now = resultText(found.time, found.penalty);
+        else if (!m_isTicked[run])
+            line.now = line.was;
     }
     line.facts.append(isResult ? resultText(found.time, found.penalty) : QString());
     line.remark = runRemark(run, outcome);

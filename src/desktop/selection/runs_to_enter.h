@@ -50,6 +50,8 @@ private:
     [[nodiscard]] FoundLine runLine(std::size_t run, const Outcome& outcome) const;
     [[nodiscard]] FoundLine athleteLine(const AthletePlace& athlete, const Outcome& outcome) const;
     [[nodiscard]] FoundLine refusalLine(const RefusedLine& refused) const;
+    [[nodiscard]] std::optional<AthletePlace> athleteWith(std::size_t run,
+                                                          const Outcome& outcome) const;
     [[nodiscard]] QString runRemark(std::size_t run, const Outcome& outcome) const;
     [[nodiscard]] QString resultBefore(const AthletePlace& athlete) const;
     [[nodiscard]] Outcome outcome() const;

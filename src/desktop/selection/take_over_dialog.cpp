@@ -46,7 +46,6 @@ SelectionTakeOverDialog::SelectionTakeOverDialog(const selectionracesStruct_v3& 
     m_note->setWordWrap(true);
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Cancel);
     m_take = buttons->addButton(tr("&Take over"), QDialogButtonBox::AcceptRole);
-    m_take->setDefault(true);
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     auto* column = new QVBoxLayout(this);
@@ -54,7 +53,8 @@ SelectionTakeOverDialog::SelectionTakeOverDialog(const selectionracesStruct_v3& 
     column->addWidget(m_view, 1);
     column->addWidget(m_note);
     column->addWidget(buttons);
-    resize(960, 560);
+    m_take->setDefault(true); // once it is part of the dialog: a button asks that for it
+    resize(1120, 600);
     showRuns();
     m_view->fitColumns();
     m_view->setFocus();

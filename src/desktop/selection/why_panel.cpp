@@ -35,9 +35,9 @@ QString fateText(ResultFate fate) {
     case ResultFate::Counted:
         return WhyPanel::tr("counted");
     case ResultFate::Worst:
-        return WhyPanel::tr("dropped: the worst");
+        return WhyPanel::tr("dropped: worst");
     case ResultFate::SecondWorst:
-        return WhyPanel::tr("dropped: a bonus counts");
+        return WhyPanel::tr("dropped: bonus");
     }
     return {};
 }
@@ -84,6 +84,7 @@ void WhyPanel::addLine(const QString& what, const QString& percent, const QStrin
     const QStringList texts{what, percent, fate};
     for (int column = 0; column < texts.size(); ++column) {
         auto* item = new QTableWidgetItem(texts[column]);
+        item->setToolTip(texts[column]); // the name of a race may be cut
         QFont font = item->font();
         font.setStrikeOut(!isCounted && column == 1);
         item->setFont(font);

@@ -37,7 +37,6 @@ DocumentChoiceDialog::DocumentChoiceDialog(DocumentKind kind, const QStringList&
     add->setObjectName("new");
     other->setObjectName("other");
     open->setEnabled(!recent.isEmpty());
-    (recent.isEmpty() ? add : open)->setDefault(true);
     connect(add, &QPushButton::clicked, this, &DocumentChoiceDialog::nameNew);
     connect(other, &QPushButton::clicked, this, &DocumentChoiceDialog::openOther);
     connect(buttons, &QDialogButtonBox::accepted, this, &DocumentChoiceDialog::takeRecent);
@@ -49,6 +48,7 @@ DocumentChoiceDialog::DocumentChoiceDialog(DocumentKind kind, const QStringList&
         new QLabel(recent.isEmpty() ? tr("None was opened yet.") : tr("Opened before:")));
     column->addWidget(m_recent, 1);
     column->addWidget(buttons);
+    (recent.isEmpty() ? add : open)->setDefault(true);
     m_recent->setVisible(!recent.isEmpty());
     m_recent->setCurrentRow(0);
     resize(520, recent.isEmpty() ? sizeHint().height() : 320);

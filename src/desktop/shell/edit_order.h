@@ -22,6 +22,12 @@ public:
         this->setTabKeyNavigation(true);
     }
 
+    /// A digit is a value that missed its cell, not a search: it must not lead to another row.
+    void keyboardSearch(const QString& text) override {
+        if (text.isEmpty() || !text.front().isDigit())
+            View::keyboardSearch(text);
+    }
+
 protected:
     QModelIndex moveCursor(typename View::CursorAction action,
                            Qt::KeyboardModifiers modifiers) override {
