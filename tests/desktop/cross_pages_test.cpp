@@ -363,8 +363,10 @@ TEST_F(CrossPagesTest, TellsWhyThereIsNothingToTake) {
     m_heats.stepGate(1);
     m_heats.mark(at(3));
     EXPECT_EQ(m_told, "No boat is named yet.");
+    QSignalSpy refused(&m_heats, &desktop::CrossPage::refused);
     m_heats.addAttack();
-    EXPECT_EQ(m_told, "There is no frame of the film to start the attack at.");
+    ASSERT_EQ(refused.size(), 1);
+    EXPECT_EQ(refused[0][0].toString(), "This heat has no boats yet.");
     m_heats.stepRow(1);
     m_heats.removeMark();
     EXPECT_THAT(heat().generals, IsEmpty());

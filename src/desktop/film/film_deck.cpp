@@ -315,9 +315,13 @@ template <class Act>
 void FilmDeck::jumpWithGroup(Act act, bool isStop) {
     if (!m_group)
         return;
+    std::vector<std::uint64_t> before;
+    for (const auto& player : m_players)
+        before.push_back(player->requests());
     act(*m_group);
     for (std::size_t camera = 0; camera < views(); ++camera)
-        if (const auto asked = m_players[camera]->asked())
+        if (const auto asked = m_players[camera]->asked();
+            asked && m_players[camera]->requests() != before[camera])
             m_jumps[camera] = Jump{*asked, m_players[camera]->requests(), isStop};
     withGroup([](CameraGroup&) {});
 }

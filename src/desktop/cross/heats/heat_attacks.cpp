@@ -80,6 +80,8 @@ void HeatPage::changeAttack(const QString& what, const std::function<void(action
 void HeatPage::addAttack() {
     if (!current())
         emit refused(tr("Add a heat first."));
+    else if (current()->athletes.empty())
+        emit refused(tr("This heat has no boats yet."));
     else if (m_desk.hasFilm())
         whenMeant([this](const CMTime& moment) { addAttack(moment); });
     else
