@@ -75,11 +75,11 @@ protected:
 
     fs::path folder() const { return m_folder.path() / "films"; }
 
-    /// With the films of both runs, or without any.
+    /// With the films of both runs, as they are made for the timed race, or without any.
     void open(const splittakerdata031& race, bool withFilms) {
         if (withFilms)
             for (const films::PlannedFilm& film :
-                 films::sessionFilms(race, {}, [](const fs::path&) { return true; }))
+                 films::sessionFilms(timedRace(), {}, [](const fs::path&) { return true; }))
                 (void)m_folder.add("films/" + film.name.filename().string(), filmOf(film));
         const fs::path file = folder() / "films.kvx";
         ASSERT_TRUE(saveSplitFile(race, file, m_recorder.log()));

@@ -102,6 +102,13 @@ void NumberBox::focusOutEvent(QFocusEvent* event) {
         QDoubleSpinBox::focusOutEvent(event);
 }
 
+void NumberBox::takeTyped() {
+    if (refuses(*this, text(), [this](const QString& typed) { return read(typed); }))
+        return;
+    interpretText();
+    emit editingFinished();
+}
+
 void NumberBox::keyPressEvent(QKeyEvent* event) {
     if (!isEnter(*event) ||
         !refuses(*this, text(), [this](const QString& typed) { return read(typed); }))
@@ -137,6 +144,13 @@ void WholeBox::focusOutEvent(QFocusEvent* event) {
         lineEdit()->event(event);
     else
         QSpinBox::focusOutEvent(event);
+}
+
+void WholeBox::takeTyped() {
+    if (refuses(*this, text(), [this](const QString& typed) { return read(typed); }))
+        return;
+    interpretText();
+    emit editingFinished();
 }
 
 void WholeBox::keyPressEvent(QKeyEvent* event) {

@@ -18,6 +18,8 @@ public:
     void setIsTime(bool isTime) { m_isTime = isTime; }
     /// Shows what a document holds, unless another number is being typed in its place.
     void showValue(double value);
+    /// What Enter does: the text becomes the value, or the box says why it cannot.
+    void takeTyped();
 
     [[nodiscard]] double valueFromText(const QString& text) const override;
     [[nodiscard]] QString textFromValue(double value) const override;
@@ -41,6 +43,8 @@ public:
     explicit WholeBox(QWidget* parent = nullptr);
 
     void showValue(int value);
+    /// The same as NumberBox has it.
+    void takeTyped();
 
     [[nodiscard]] int valueFromText(const QString& text) const override;
     [[nodiscard]] QString textFromValue(int value) const override;

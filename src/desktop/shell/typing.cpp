@@ -1,12 +1,12 @@
 #include "desktop/shell/typing.h"
 
+#include "desktop/shell/number_box.h"
 #include "desktop/shell/refused_entry.h"
 
 #include <QAbstractItemView>
 #include <QAbstractSpinBox>
 #include <QApplication>
 #include <QComboBox>
-#include <QKeyEvent>
 #include <QLineEdit>
 #include <QPointer>
 
@@ -18,6 +18,16 @@ namespace {
 void interpret(QAbstractSpinBox& number) {
     if (number.hasAcceptableInput())
         number.interpretText();
+}
+
+/// The box knows what it takes and what it refuses.
+void takeNumber(QAbstractSpinBox& number) {
+    if (auto* const box = qobject_cast<NumberBox*>(&number))
+        box->takeTyped();
+    else if (auto* const whole = qobject_cast<WholeBox*>(&number))
+        whole->takeTyped();
+    else
+        interpret(number);
 }
 
 /// Where the cursor belongs once a field has been left: for the editor of a cell, the table.
@@ -51,8 +61,7 @@ bool endTyping() {
     auto* const choice = qobject_cast<QComboBox*>(focus);
     auto* const field = qobject_cast<QLineEdit*>(focus);
     if (number) {
-        QKeyEvent enter(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier);
-        QApplication::sendEvent(number, &enter); // the box knows what it takes and what it refuses
+        takeNumber(*number);
     } else if (field && isCell(*field)) {
         focus->clearFocus(); // the table takes it
     } else if (field) {
