@@ -27,6 +27,13 @@ void add(QMenu& menu, PlanningWindow& window, const QString& text, const QKeySeq
     });
 }
 
+/// Brings the tab to the front that a page stands in, with whatever is around it there.
+void showPage(QTabWidget& tabs, const QWidget& page) {
+    for (int tab = 0; tab < tabs.count(); ++tab)
+        if (tabs.widget(tab) == &page || tabs.widget(tab)->isAncestorOf(&page))
+            tabs.setCurrentIndex(tab);
+}
+
 void makeAthleteMenu(PlanningWindow& window) {
     QMenu* menu = window.menuBar()->addMenu(tr("&Athlete"));
     menu->addAction(tr("&New athlete…"), QKeySequence::New, &window,
@@ -104,7 +111,7 @@ void makePlanningMenus(PlanningWindow& window, QMenu& file) {
     file.addAction(tr("Week as a &calendar file…"), QKeySequence(Qt::CTRL | Qt::Key_E), &window,
                    [&window] { window.askForCalendar(); });
     file.addAction(tr("Import heart-rate &variability…"), &window, [&window] {
-        window.tabs().setCurrentWidget(&window.body());
+        showPage(window.tabs(), window.body());
         window.body().showSection(BodyPanel::Variability);
         window.body().askForImport();
     });
