@@ -109,11 +109,17 @@ TEST_F(MotionWindowTest, LaysRecordingsOverEachOtherAndReadsThemAtTheCursor) {
     EXPECT_EQ(m_window.values().item(0, 0)->text(), "0:06.00");
     charts.chart(CurveKind::Forward)->showCursorAt(12);
     const int stroke = m_window.values().rowCount() - 4;
-    EXPECT_THAT(m_window.values().item(stroke, 0)->text().toStdString(),
-                testing::MatchesRegex("(left|right), [0-9]+"));
-    EXPECT_THAT(m_window.values().item(stroke, 1)->text().toStdString(),
-                testing::StartsWith("side unknown, "));
-    EXPECT_EQ(m_window.values().item(stroke + 1, 1)->text(), "–") << "nor its force";
+    const auto at = [&](int row, int column) {
+        return m_window.values().item(row, column)->text().toStdString();
+    };
+    EXPECT_THAT(at(stroke, 1), testing::StartsWith("side unknown, "));
+    EXPECT_EQ(at(stroke + 1, 1), "–") << "nor its force";
+    m_window.list().choose(0);
+    m_window.findChild<QComboBox*>("mount")->setCurrentIndex(1);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !recordings().all()[0]->isAnalysing; }));
+    charts.chart(CurveKind::Forward)->showCursorAt(12.01);
+    EXPECT_THAT(at(stroke, 0), testing::MatchesRegex("(left|right), [0-9]+"))
+        << "of the mount that was named";
 
     recordings().setTicked(0, false);
     EXPECT_THAT(charts.chart(CurveKind::Forward)->series(), SizeIs(1));

@@ -53,7 +53,7 @@ protected:
                             .sections = {{"Top", 0, 10}, {"Bottom", 10, 16}}};
     std::optional<AttachedPart> m_attached;
     std::vector<Alert> m_asked;
-    bool m_isMeant = false;
+    bool m_isMeant = true;
     RecordingDialog m_dialog{{.position = [this] { return m_position; },
                               .show = [this](double seconds) { m_shown = seconds; },
                               .run = [this] { return m_run; },
@@ -118,6 +118,7 @@ TEST_F(RunRecordingTest, ARecordingOfSomeoneAndSomeDayElseIsToldAndAsksFirst) {
     EXPECT_TRUE(m_attached);
     EXPECT_THAT(m_asked, IsEmpty()) << "the same name, written another way";
 
+    m_isMeant = false;
     const auto* const other = m_dialog.findChild<QLabel*>("other");
     EXPECT_FALSE(other->isVisible());
     m_run.crew = {"Jana Example"};
