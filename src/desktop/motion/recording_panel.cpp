@@ -9,6 +9,7 @@
 #include <QFormLayout>
 #include <QLabel>
 #include <QSignalBlocker>
+#include <QVBoxLayout>
 
 namespace kavela::desktop {
 
@@ -61,15 +62,19 @@ RecordingPanel::RecordingPanel(QWidget* parent)
         m_mount->addItem(sides[i], i);
     m_notes->setWordWrap(true);
     m_notes->setForegroundRole(QPalette::PlaceholderText);
-    auto* form = new QFormLayout(this);
-    form->setContentsMargins(0, 0, 0, 0);
+    auto* form = new QFormLayout;
     form->setSpacing(theme::SmallSpacing);
     form->addRow(tr("Later b&y"), m_shift);
     form->addRow(tr("&Mass in motion"), m_mass);
     form->addRow(tr("&Drag"), m_drag);
     form->addRow(tr("&Boat"), m_boat);
     form->addRow(tr("P&hone"), m_mount);
-    form->addRow(m_notes);
+    // Not in the form: it would not give the words the lines that they need.
+    auto* whole = new QVBoxLayout(this);
+    whole->setContentsMargins(0, 0, 0, 0);
+    whole->setSpacing(theme::SmallSpacing);
+    whole->addLayout(form);
+    whole->addWidget(m_notes);
     connect(m_shift, &NumberBox::valueChanged, this, &RecordingPanel::shiftEntered);
     for (const NumberBox* box : {m_mass, m_drag})
         connect(box, &NumberBox::valueChanged, this, &RecordingPanel::enterProfile);

@@ -14,7 +14,6 @@
 #include <QHBoxLayout>
 #include <QPushButton>
 #include <QScrollArea>
-#include <QStyle>
 
 #include <array>
 #include <cmath>
@@ -27,6 +26,7 @@ constexpr std::size_t EventSlot = 1;
 constexpr std::size_t RunSlot = 2;
 constexpr int MessageLines = 4;
 constexpr QSize Usual(860, 560);
+constexpr QMargins Frame(2, 30, 2, 2);        ///< pixels that most systems draw around a window
 constexpr const char* Widest = "-0:00:00.00"; ///< a moment: the buttons beside it stay in place
 
 QString clockText(const ClockFit& fit, double first, bool hasDrift) {
@@ -147,7 +147,6 @@ void RecordingDialog::makeParts() {
     whole->setSpacing(theme::Spacing);
     whole->addLayout(head);
     whole->addLayout(whose);
-    whole->addWidget(m_note);
     whole->addWidget(m_chart, 3);
     whole->addWidget(m_yaw, 2);
     whole->addWidget(makeEvents());
@@ -163,6 +162,7 @@ QWidget* RecordingDialog::makeMessages() {
     column->setSpacing(theme::SmallSpacing);
     column->addWidget(m_fault);
     column->addWidget(m_clocks);
+    column->addWidget(m_note);
     column->addStretch();
     auto* area = new QScrollArea;
     area->setObjectName("messages");
@@ -404,20 +404,21 @@ void RecordingDialog::attach() {
 
 void RecordingDialog::placeBeside(const QRect& kept, const QRect& screen) {
     const QSize least = minimumSizeHint();
-    const int title = style()->pixelMetric(QStyle::PM_TitleBarHeight);
+    const auto areaOf = [](const QRect& rect) { return qint64(rect.width()) * rect.height(); };
     QRect best;
     for (const QRect& strip : stripsAround(kept, screen)) {
-        const QRect inside = strip.adjusted(0, title, 0, 0);
+        const QRect inside = strip.marginsRemoved(Frame);
         const bool fits = inside.width() >= least.width() && inside.height() >= least.height();
-        const auto areaOf = [](const QRect& rect) { return qint64(rect.width()) * rect.height(); };
         if (fits && areaOf(inside) > areaOf(best))
             best = inside;
     }
-    const QSize size = Usual.boundedTo(best.isValid() ? best.size() : screen.size());
-    if (!best.isValid())
-        best =
-            QRect(QPoint(screen.left(), screen.bottom() + 1 - size.height()), screen.bottomRight());
-    setGeometry(QRect(best.topLeft(), size.expandedTo(least)));
+    const bool isBeside = best.isValid();
+    if (!isBeside)
+        best = screen.marginsRemoved(Frame);
+    QRect place(best.topLeft(), Usual.boundedTo(best.size()).expandedTo(least));
+    if (!isBeside)
+        place.moveBottom(best.bottom());
+    setGeometry(place);
 }
 
 void RecordingDialog::dragEnterEvent(QDragEnterEvent* event) {
