@@ -247,7 +247,9 @@ TEST_F(TakingWindowTest, RefusesTheSplitBeyondTheLast) {
     ASSERT_TRUE(window);
     ASSERT_TRUE(settles(*window, 0));
     const auto times = window->document().run(0).sectioninfo.times;
+    press(*window, Qt::Key_End); // behind the last mark
     press(*window, Qt::Key_M);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !m_recorder.alerts.empty(); }));
     EXPECT_THAT(m_recorder.alerts, ElementsAre(messages::SplitLimitReached));
     EXPECT_EQ(window->document().run(0).sectioninfo.times, times);
 }
