@@ -253,6 +253,15 @@ void failEverything(const fs::path& path, const std::string& reason, FileFacts& 
             facts.attempts.push_back({std::move(record), validUtf8(reason)});
 }
 
+/// The system says of a link that leads nowhere what it says of a file that is not there, although
+/// its name stands in the folder.
+std::string readingFault(const fs::path& path, const FileError& error) {
+    std::error_code code;
+    if (fs::is_symlink(path, code) && !fs::exists(path, code) && !code)
+        return "this is a link to " + fs::read_symlink(path, code).string() + ", which is missing";
+    return error.reason();
+}
+
 } // namespace
 
 FileFacts factsOf(const fs::path& path) {
@@ -265,7 +274,9 @@ FileFacts factsOf(const fs::path& path) {
     } catch (const DecodeError& error) {
         failEverything(path, error.what(), facts);
     } catch (const FileError& error) {
-        failEverything(path, error.reason(), facts);
+        const std::string reason = readingFault(path, error);
+        failEverything(path, reason, facts);
+        facts.unread = validUtf8(reason);
     }
     return facts;
 }

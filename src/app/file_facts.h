@@ -25,6 +25,7 @@ struct FileFacts {
     std::map<std::string, std::int64_t> counts;
     std::optional<std::string> error; ///< nothing when the file decoded
     std::vector<AttemptFact> attempts;
+    std::optional<std::string> unread; ///< why it could not even be read; not in the JSON
 };
 
 /// Finds out what a file is by decoding it: first as what its extension promises, then as anything

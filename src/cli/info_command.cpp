@@ -58,6 +58,13 @@ std::string factsText(const FileFacts& facts) {
     return name + "  " + *facts.error + '\n' + faultsText(facts);
 }
 
+/// A file that could not be read is no matter of record types: one line says what is wrong.
+void logUnread(const std::vector<FileFacts>& all) {
+    for (const FileFacts& facts : all)
+        if (facts.unread)
+            logLine(printable(facts.path) + ": " + printable(*facts.unread));
+}
+
 int info(const InfoCall& call) {
     std::vector<FileFacts> all;
     for (const std::string& file : call.files)
@@ -67,7 +74,9 @@ int info(const InfoCall& call) {
         output = factsJson(all);
     else
         for (const FileFacts& facts : all)
-            output += factsText(facts);
+            if (!facts.unread)
+                output += factsText(facts);
+    logUnread(all);
     const bool allDecoded =
         std::none_of(all.begin(), all.end(), [](const FileFacts& facts) { return facts.error; });
     return print(output) && allDecoded ? Done : NotDone;

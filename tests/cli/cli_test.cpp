@@ -6,6 +6,7 @@
 #include <nlohmann/json.hpp>
 #include <sys/stat.h>
 
+#include <set>
 #include <sstream>
 
 namespace kavela::test {
@@ -15,6 +16,7 @@ namespace {
 namespace fs = std::filesystem;
 
 using nlohmann::json;
+using testing::AllOf;
 using testing::Contains;
 using testing::ElementsAre;
 using testing::HasSubstr;
@@ -224,6 +226,32 @@ TEST_F(CommandLine, SaysWhatFilesAre) {
     EXPECT_EQ(call({"info", "a.kvx", "b.kvx"}).status, 0);
 }
 
+TEST_F(CommandLine, SaysInOneLineWhyAFileCannotBeRead) {
+    (void)folder().add("a.kvx", release("0.31"));
+    fs::create_directory(folder().path() / "b.kvx");
+    fs::create_symlink("gone.kvx", folder().path() / "c.kvx");
+    const std::vector<std::string> names{"info", "a.kvx", "b.kvx", "c.kvx", "south.kvx"};
+    const Ending ending = call(names);
+    EXPECT_EQ(ending.status, 1);
+    EXPECT_THAT(ending.output, AllOf(StartsWith("a.kvx\n  split file, "), Not(HasSubstr("b.kvx")),
+                                     Not(HasSubstr("splittakerdata030"))));
+    EXPECT_THAT(linesOf(ending.errors),
+                ElementsAre("b.kvx: this is a folder, not a file",
+                            "c.kvx: this is a link to gone.kvx, which is missing",
+                            "south.kvx: No such file or directory"));
+
+    std::vector<std::string> asJson = names;
+    asJson.emplace_back("--json");
+    const json facts = json::parse(call(asJson).output);
+    ASSERT_EQ(facts.size(), 4U);
+    for (const std::size_t i : {1U, 2U, 3U}) {
+        EXPECT_FALSE(facts[i].contains("unread"));
+        EXPECT_EQ(facts[i]["error"], Incompatible);
+        EXPECT_GE(facts[i]["attempts"].size(), 24U);
+    }
+    EXPECT_EQ(facts[2]["attempts"][0]["fault"], "this is a link to gone.kvx, which is missing");
+}
+
 TEST_F(CommandLine, RefusesEveryBadFileAndChangesNothing) {
     const std::string good = release("0.31");
     const auto replaced = [&](const std::string& what, const std::string& by) {
@@ -252,6 +280,7 @@ TEST_F(CommandLine, RefusesEveryBadFileAndChangesNothing) {
     ASSERT_EQ(::truncate(folder().add("sparse", "").c_str(), off_t(2) << 30), 0);
     auto names = m_kavela.everything();
     names["missing"] = "";
+    const std::set<std::string> unread{"folder", "pipe", "missing"};
     const auto before = m_kavela.everything();
     for (const auto& [name, content] : names) {
         for (const char* command : {"show", "info", "export", "upgrade"}) {
@@ -263,7 +292,9 @@ TEST_F(CommandLine, RefusesEveryBadFileAndChangesNothing) {
                 arguments.insert(arguments.end(), {"--csv", "out.csv"});
             const Ending ending = call(arguments);
             EXPECT_EQ(ending.status, 1);
-            EXPECT_THAT(ending.output + ending.errors, HasSubstr(Incompatible));
+            const bool isToldAlone = command == std::string("info") && unread.contains(name);
+            EXPECT_THAT(ending.output + ending.errors,
+                        HasSubstr(isToldAlone ? name + ": " : Incompatible));
         }
     }
     EXPECT_EQ(m_kavela.everything(), before);
