@@ -5,7 +5,9 @@
 #include "sample/training.h"
 #include "splitdata/run_timing.h"
 
+#include <algorithm>
 #include <array>
+#include <iterator>
 
 namespace kavela::films {
 
@@ -19,6 +21,16 @@ QString captionOf(const athletedata031& run) {
         caption += QString::fromStdString(name) + QStringLiteral("  ·  ");
     return caption + QString::fromStdString(run.cat) + QStringLiteral("  ·  ") +
            QString::fromStdString(run.phase);
+}
+
+/// The race that newcomers see first has films of every run of its final; to film its other phases
+/// too would take too long.
+splittakerdata031 riversideFinal() {
+    const sample::RacePlan plan = sample::riversideCup();
+    splittakerdata031 race = sample::holdRace(plan);
+    std::erase_if(race.athletes,
+                  [&](const athletedata031& run) { return run.phase != plan.phases.back().name; });
+    return race;
 }
 
 /// The first camera stands on one bank, the second on the other. A strip is painted when the first
@@ -67,10 +79,12 @@ std::vector<PlannedFilm> sessionFilms(const splittakerdata031& session, const fs
 }
 
 std::vector<PlannedFilm> seasonFilms(const std::function<bool(const fs::path&)>& isWanted) {
-    std::vector<PlannedFilm> films =
-        sessionFilms(sample::holdRace(sample::harbourNight()), "races", isWanted);
-    for (PlannedFilm& film : sessionFilms(sample::formTest(), "training", isWanted))
-        films.push_back(std::move(film));
+    std::vector<PlannedFilm> films = sessionFilms(riversideFinal(), "races", isWanted);
+    const auto add = [&](const splittakerdata031& session, const fs::path& folder) {
+        std::ranges::move(sessionFilms(session, folder, isWanted), std::back_inserter(films));
+    };
+    add(sample::holdRace(sample::harbourNight()), "races");
+    add(sample::formTest(), "training");
     return films;
 }
 

@@ -17,8 +17,9 @@ struct PlannedFilm {
     std::shared_ptr<const FilmScene> scene;
 };
 
-/// The films of the sample season, each camera's of every run of two of its sessions, apart from
-/// those whose name is not wanted. Needs a QGuiApplication.
+/// The films of the sample season, each camera's of every run: of the final of its most
+/// international race, of a smaller race and of a training; apart from those whose name is not
+/// wanted. Needs a QGuiApplication.
 [[nodiscard]] std::vector<PlannedFilm>
 seasonFilms(const std::function<bool(const std::filesystem::path&)>& isWanted);
 
