@@ -11,6 +11,7 @@
 #include "desktop/planning/ranking/ranking_panel.h"
 #include "desktop/planning/ranking/ranking_section.h"
 #include "desktop/planning/ranking/statistics_dialog.h"
+#include "desktop/refusals.h"
 #include "desktop/shell/workspace.h"
 #include "desktop/team/typed_values.h"
 #include "planning/planning_file.h"
@@ -174,15 +175,15 @@ TEST_F(PlanningGoals, AStatusIsChosenAndAForeignWordStaysToChoose) {
 
 TEST_F(PlanningGoals, RankingListsOfUnequalLengthAreShownAndEdited) {
     RankingPanel panel(m_document, m_workspace);
-    std::string refusal;
-    QObject::connect(&panel, &SeasonPanel::refused,
-                     [&](const QString& reason) { refusal = reason.toStdString(); });
     show(panel);
     QTableWidget& table = panel.ranking().table();
     ASSERT_EQ(table.rowCount(), 2);
     EXPECT_EQ(table.item(1, 1)->text(), "");
-    table.item(1, 2)->setText("eighth");
-    EXPECT_THAT(refusal, HasSubstr("eighth"));
+    table.setCurrentCell(1, 2);
+    table.editItem(table.item(1, 2));
+    type("eighth");
+    EXPECT_THAT(refusalIn(panel), HasSubstr("eighth"));
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
     EXPECT_EQ(table.item(1, 2)->text(), "");
     EXPECT_EQ(steps(), 0);
     table.item(0, 2)->setText("8");
@@ -251,9 +252,6 @@ TEST_F(PlanningGoals, NothingIsReplacedWhereNothingWasFound) {
 
 TEST_F(PlanningGoals, IntervalSessionsAreTypedMovedAndCopied) {
     IntervalsPanel panel(m_document);
-    std::string refusal;
-    QObject::connect(&panel, &IntervalsPanel::refused,
-                     [&](const QString& reason) { refusal = reason.toStdString(); });
     show(panel);
     EXPECT_EQ(panel.table().item(0, 2)->text(), "8:30");
     EXPECT_EQ(panel.table().item(0, 3)->text(), "1:30");
@@ -261,7 +259,9 @@ TEST_F(PlanningGoals, IntervalSessionsAreTypedMovedAndCopied) {
     EXPECT_EQ(m_document.value().favintses[0].worktime, 90);
     EXPECT_EQ(panel.table().item(0, 3)->text(), "9:00");
     typeInto(panel.form(), "reps", "many");
-    EXPECT_THAT(refusal, HasSubstr("many"));
+    EXPECT_THAT(refusalIn(panel), HasSubstr("many"));
+    EXPECT_EQ(panel.form().findChild<QLineEdit*>("reps")->text(), "many");
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
     EXPECT_EQ(panel.form().findChild<QLineEdit*>("reps")->text(), "3");
     EXPECT_EQ(steps(), 1);
     panel.duplicate();

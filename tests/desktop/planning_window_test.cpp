@@ -261,7 +261,9 @@ TEST_F(PlanningWindowTest, WhatIsTypedInACellIsInTheFileWhenTheWindowSavesAndClo
     write(plan);
     const auto weight = [this] { return stored().athletes[0].year[0].healthdata.at(0).weight; };
     auto window = openWindow();
-    window->tabs().setCurrentWidget(&window->body());
+    for (int tab = 0; tab < window->tabs().count(); ++tab)
+        if (window->tabs().widget(tab)->isAncestorOf(&window->body()))
+            window->tabs().setCurrentIndex(tab);
     QTableView& table = window->body().table(desktop::BodyPanel::Body).view();
     const auto type = [&](const char* text) {
         table.setFocus();

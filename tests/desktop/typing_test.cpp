@@ -159,7 +159,8 @@ protected:
         const QPointF place = part.rect().center();
         QWheelEvent event(place, part.mapToGlobal(place), {}, {0, 120 * clicks}, Qt::NoButton,
                           Qt::NoModifier, Qt::NoScrollPhase, false);
-        QApplication::sendEvent(&part, &event);
+        QSpontaneKeyEvent::setSpontaneous(&event); // as the mouse's own, it goes on to the page
+        qApp->notify(&part, &event);
     }
 
     desktop::WheelGuard m_guard;
@@ -249,6 +250,7 @@ TEST_F(CellsTest, TakeTheCommaUnderTheThumbAndShowIt) {
 }
 
 TEST_F(CellsTest, KeepWhatTheyCannotTakeWithTheCursorInIt) {
+    const int before = m_window.document().undoStack().count();
     press("82x5");
     press(Qt::Key_Return);
     EXPECT_THAT(refusalIn(m_window), HasSubstr("“82x5”"));
@@ -267,7 +269,7 @@ TEST_F(CellsTest, KeepWhatTheyCannotTakeWithTheCursorInIt) {
     EXPECT_THAT(refusalIn(m_window), IsEmpty()) << "it goes as soon as something is typed";
     press(Qt::Key_Return);
     EXPECT_EQ(timeOf(0), 825);
-    EXPECT_EQ(m_window.document().undoStack().count(), 6) << "one step, not two";
+    EXPECT_EQ(m_window.document().undoStack().count(), before + 1) << "one step, not two";
 }
 
 TEST_F(CellsTest, AreNotSavedOverAndEscBringsTheOldValueBack) {

@@ -25,6 +25,8 @@
 #include <QTest>
 #include <QTimer>
 
+#include <cctype>
+
 namespace kavela::test {
 namespace {
 
@@ -85,7 +87,7 @@ protected:
         auto& view = part<EntryTable>(table);
         view.setFocus();
         view.setCurrentIndex(view.model()->index(row, column));
-        press(Qt::Key(digit));
+        press(Qt::Key(std::toupper(digit)));
         ASSERT_TRUE(qobject_cast<QLineEdit*>(QApplication::focusWidget()));
     }
 

@@ -68,7 +68,10 @@ void showUnlessTyped(Box& box, const QLineEdit& edit, Value value) {
 
 } // namespace
 
-NumberBox::NumberBox(QWidget* parent) : QDoubleSpinBox(parent) {}
+/// A number that is half typed is none yet.
+NumberBox::NumberBox(QWidget* parent) : QDoubleSpinBox(parent) {
+    setKeyboardTracking(false);
+}
 
 double NumberBox::read(const QString& text) const {
     const NumberRange range{minimum(), maximum(), {}};
@@ -115,7 +118,9 @@ void NumberBox::keyPressEvent(QKeyEvent* event) {
         QDoubleSpinBox::keyPressEvent(event);
 }
 
-WholeBox::WholeBox(QWidget* parent) : QSpinBox(parent) {}
+WholeBox::WholeBox(QWidget* parent) : QSpinBox(parent) {
+    setKeyboardTracking(false);
+}
 
 int WholeBox::read(const QString& text) const {
     return static_cast<int>(

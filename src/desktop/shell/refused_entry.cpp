@@ -112,6 +112,8 @@ public:
             return false;
         case QEvent::Hide:
             m_bubble->hide();
+            if (m_field.isHidden())
+                remove(); // a cell's editor was closed, and its text is gone
             return false;
         default:
             return false;
