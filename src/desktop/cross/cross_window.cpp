@@ -13,6 +13,7 @@
 #include "desktop/film/time_line.h"
 #include "desktop/shell/dropped_files.h"
 #include "desktop/shell/field_keys.h"
+#include "desktop/shell/scroll_page.h"
 #include "desktop/shell/theme.h"
 #include "desktop/shell/window_place.h"
 #include "desktop/shell/workspace.h"
@@ -111,7 +112,7 @@ QWidget* CrossWindow::makePages() {
 }
 
 void CrossWindow::addPage(CrossPage& page, const QString& title) {
-    m_tabs->addTab(&page, title);
+    m_tabs->addTab(new ScrollPage(&page), title);
     page.layout()->setContentsMargins(0, theme::Spacing, 0, 0);
     const auto ifInFront = [this, &page](auto act) {
         return [this, &page, act] {
@@ -205,7 +206,7 @@ void CrossWindow::takeFolder() {
 }
 
 CrossPage& CrossWindow::page() const {
-    return *static_cast<CrossPage*>(m_tabs->currentWidget());
+    return *static_cast<CrossPage*>(static_cast<ScrollPage*>(m_tabs->currentWidget())->widget());
 }
 
 void CrossWindow::showPage(Page page) {

@@ -1,10 +1,13 @@
 #pragma once
 
 #include <QScrollArea>
+#include <QStyle>
+
+#include <algorithm>
 
 namespace kavela::desktop {
 
-/// Fills its place with a page, and scrolls it where the place is smaller than the page can be.
+/// Fills its place with a page, and scrolls it up and down where the place is too low for it.
 class ScrollPage : public QScrollArea {
 public:
     explicit ScrollPage(QWidget* page, QWidget* parent = nullptr) : QScrollArea(parent) {
@@ -12,6 +15,12 @@ public:
         setFrameShape(QFrame::NoFrame);
         setFocusPolicy(Qt::NoFocus); // Tab goes through the fields of the page
         setWidget(page);
+    }
+
+    [[nodiscard]] QSize minimumSizeHint() const override {
+        const int content = std::max(widget()->minimumWidth(), widget()->minimumSizeHint().width());
+        const int bar = style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, this);
+        return {content + bar, QScrollArea::minimumSizeHint().height()};
     }
 };
 

@@ -104,6 +104,7 @@ void AthletePanel::makeTable() {
     QHeaderView* header = m_table->horizontalHeader();
     header->setHighlightSections(false);
     header->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    setMinimumWidth(250); // that names are read in the list
     header->setSectionResizeMode(QHeaderView::ResizeToContents);
     header->setSectionResizeMode(AthleteModel::NameColumn, QHeaderView::Stretch);
     connect(m_table->selectionModel(), &QItemSelectionModel::currentRowChanged, this,

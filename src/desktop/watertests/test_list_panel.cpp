@@ -100,6 +100,7 @@ void TestListPanel::makeTable() {
     QHeaderView* header = m_table->horizontalHeader();
     header->setHighlightSections(false);
     header->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    setMinimumWidth(330); // that names are read in the list
     header->setSectionResizeMode(QHeaderView::ResizeToContents);
     header->setSectionResizeMode(TestListModel::AthleteColumn, QHeaderView::Stretch);
     connect(m_table->selectionModel(), &QItemSelectionModel::currentRowChanged, this,

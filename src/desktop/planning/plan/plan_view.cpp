@@ -23,6 +23,9 @@ using namespace std::chrono;
 
 enum Scope { OfWeek, OfBlock, OfMesocycle, OfSeason };
 
+constexpr int LowHeight = 520;       ///< in which the year leaves more to the week
+constexpr int LeastWeekHeight = 240; ///< below which the plan scrolls
+
 QScrollArea* scrolled(QWidget& content) {
     auto* area = new QScrollArea;
     area->setWidget(&content);
@@ -64,7 +67,8 @@ void PlanView::makeParts() {
     QScrollArea* strip = scrolled(*m_strip);
     strip->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     strip->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
-    strip->setMinimumHeight(m_strip->sizeHint().height());
+    m_stripArea = strip;
+    parts->setMinimumHeight(LeastWeekHeight);
     auto* plan = new QWidget;
     auto* column = new QVBoxLayout(plan);
     column->setContentsMargins(0, 0, 0, 0);
@@ -76,6 +80,12 @@ void PlanView::makeParts() {
     m_stack = new QStackedLayout(this);
     m_stack->addWidget(plan);
     m_stack->addWidget(m_empty);
+}
+
+void PlanView::resizeEvent(QResizeEvent* event) {
+    m_strip->setLow(height() < LowHeight);
+    m_stripArea->setFixedHeight(m_strip->sizeHint().height());
+    SeasonPanel::resizeEvent(event);
 }
 
 QWidget* PlanView::makeTotals() {

@@ -65,6 +65,7 @@ signals:
     void told(const QString& text);
 
 protected:
+    void resizeEvent(QResizeEvent* event) override;
     void refresh() override;
 
 private:
@@ -83,6 +84,7 @@ private:
     [[nodiscard]] std::optional<sessioninmicro_v5> asked(const sessioninmicro_v5& session);
 
     YearStrip* m_strip;
+    QWidget* m_stripArea = nullptr; ///< in which it scrolls
     WeekGrid* m_grid;
     WeekForm* m_form;
     TotalsTable* m_totals;

@@ -23,6 +23,7 @@ using namespace std::chrono;
 enum RowIndex { MonthRow, MacroRow, MesoRow, LoadRow, NumberRow, EventRow, TestRow };
 /// In heights of a line of small text.
 constexpr std::array RowHeights{1.3, 1.4, 1.4, 4.6, 1.3, 1.3, 1.2};
+constexpr double LowLoad = 2.2; ///< height of the loads where the window is low
 constexpr double TitleWidth = 86;
 constexpr double NarrowestWeek = 7;
 constexpr double FullLoad = 100;
@@ -77,11 +78,24 @@ void YearStrip::setBlock(const WeekBlock& block) {
 
 YearStrip::Row YearStrip::row(int index) const {
     const double line = QFontMetricsF(theme::captionFont(*this)).height();
+    const auto heightOf = [&](int each) {
+        const bool isLowRow = m_isLow && each == LoadRow;
+        return std::round((isLowRow ? LowLoad : RowHeights.at(static_cast<std::size_t>(each))) *
+                          line);
+    };
     Row row;
     for (int i = 0; i < index; ++i)
-        row.top += std::round(RowHeights.at(static_cast<std::size_t>(i)) * line);
-    row.height = std::round(RowHeights.at(static_cast<std::size_t>(index)) * line);
+        row.top += heightOf(i);
+    row.height = heightOf(index);
     return row;
+}
+
+void YearStrip::setLow(bool isLow) {
+    if (isLow == m_isLow)
+        return;
+    m_isLow = isLow;
+    updateGeometry();
+    update();
 }
 
 QSize YearStrip::sizeHint() const {

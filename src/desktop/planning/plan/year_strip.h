@@ -31,6 +31,8 @@ public:
     /// The week under a place; nothing beside the weeks.
     [[nodiscard]] std::optional<std::size_t> weekAt(double x) const;
 
+    /// Takes less height, as in a low window.
+    void setLow(bool isLow);
     [[nodiscard]] QSize sizeHint() const override;
     [[nodiscard]] QSize minimumSizeHint() const override;
 
@@ -85,6 +87,7 @@ private:
     std::vector<Week> m_weeks;
     std::optional<std::chrono::sys_days> m_today;
     WeekBlock m_block;
+    bool m_isLow = false;
 };
 
 } // namespace kavela::desktop
