@@ -9,6 +9,7 @@
 #include "splittaking/video_names.h"
 
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 
 #include <algorithm>
@@ -49,6 +50,13 @@ OpensAs importOpensAs(const QString& path) {
     return isResultsList(path) ? OpensAs::ResultsList : OpensAs::Import;
 }
 
+/// Documents begin with a brace, lists and tracks do not, whatever their names end with.
+bool beginsAsDocument(const QString& path) {
+    QFile file(path);
+    constexpr qint64 Beginning = 64;
+    return file.open(QIODevice::ReadOnly) && file.read(Beginning).trimmed().startsWith('{');
+}
+
 OpensAs documentOpensAs(const QString& path) {
     static const std::map<std::string, OpensAs> Kinds{
         {"selection races", OpensAs::Selection}, {"team", OpensAs::Team},
@@ -73,7 +81,8 @@ OpensAs opensAs(const QString& path) {
         return folderOpensAs(QDir(path));
     if (isVideoFile(info.fileName().toStdString()))
         return OpensAs::Film;
-    return isImportable(path) ? importOpensAs(path) : documentOpensAs(path);
+    return isImportable(path) && !beginsAsDocument(path) ? importOpensAs(path)
+                                                         : documentOpensAs(path);
 }
 
 } // namespace kavela::desktop

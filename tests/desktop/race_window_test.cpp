@@ -35,9 +35,9 @@ TEST_F(RaceWindowTest, RefusesWhatIsNoSplitFileWithTheAlertAndNoWindow) {
     EXPECT_THAT(
         m_recorder.alerts,
         ::testing::ElementsAre(::testing::StartsWith(std::string(IncompatibleFileText) +
-                                                     "\nbroken.kvx: no complete JSON document"),
+                                                     "\nbroken.kvx: not JSON, byte 9"),
                                ::testing::StartsWith(std::string(IncompatibleFileText) +
-                                                     "\nmissing.kvx: No such file")));
+                                                     "\nmissing.kvx: there is no such file")));
     EXPECT_TRUE(m_workspace.recentFiles().isEmpty());
 }
 
