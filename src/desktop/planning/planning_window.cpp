@@ -59,6 +59,7 @@ PlanningWindow::PlanningWindow(Workspace& workspace, std::unique_ptr<PlanningDoc
 }
 
 PlanningWindow::~PlanningWindow() {
+    hide(); // an open cell would else hand its text to what is gone already
     m_document->undoStack().disconnect(this);
     m_document->disconnect(this);
 }

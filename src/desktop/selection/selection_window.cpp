@@ -91,7 +91,8 @@ SelectionWindow::SelectionWindow(Workspace& workspace, Autosave autosave)
 }
 
 SelectionWindow::~SelectionWindow() {
-    commit(); // an open cell would else hand its text to what is gone already
+    commit();
+    hide(); // an open cell would else hand its text to what is gone already
     qApp->disconnect(this);
     m_table->selectionModel()->disconnect(this);
     m_document.disconnect(this);

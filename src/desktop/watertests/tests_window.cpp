@@ -57,6 +57,7 @@ TestsWindow::TestsWindow(Workspace& workspace, std::unique_ptr<TestsDocument> do
 }
 
 TestsWindow::~TestsWindow() {
+    hide(); // an open cell would else hand its text to what is gone already
     m_document->undoStack().disconnect(this);
     m_document->disconnect(this);
 }
