@@ -272,6 +272,7 @@ TEST_F(RaceCareTest, KeepsNameAndTotalsInViewWhileSectionsScroll) {
             ASSERT_EQ(table.currentIndex().column(), column);
             EXPECT_TRUE(column < FirstTime || isInView(*window, column))
                 << "section " << column - FirstTime + 1 << " of " << sections;
+            EXPECT_FALSE(table.frozenView()->isColumnHidden(0));
         }
         window->close();
     }

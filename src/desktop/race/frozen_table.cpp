@@ -51,7 +51,8 @@ FrozenTable::FrozenTable(int frontColumns, int backColumns, QWidget* parent)
       m_frontEdge(edgeIn(*this)),
       m_backEdge(edgeIn(*this)),
       m_frontColumns(frontColumns),
-      m_backColumns(backColumns) {
+      m_backColumns(backColumns),
+      m_kept(frontColumns) {
     prepare(*this);
     prepareOver(*m_front);
     prepareOver(*m_back);
@@ -83,8 +84,9 @@ void FrozenTable::prepareOver(QTableView& view) {
             &QScrollBar::setValue);
     connect(&view, &QTableView::activated, this, &QTableView::activated);
     connect(view.horizontalHeader(), &QHeaderView::sectionResized, this,
-            [this, &view](int column, int, int size) {
-                if (size > 0 && isOver(view, column)) // a hidden one has none
+            [this, &view](int column, int before, int size) {
+                // One that is hidden or shown again has no width of the coach's.
+                if (before > 0 && size > 0 && isOver(view, column))
                     setColumnWidth(column, size);
             });
 }
@@ -116,14 +118,25 @@ QList<int> FrozenTable::columnsAtTheBack() const {
     return columns;
 }
 
+int FrozenTable::columnsToKeep() const {
+    const QList<int> back = columnsAtTheBack();
+    int sides = 0;
+    int between = 0;
+    for (int column = 0; column < horizontalHeader()->count(); ++column) {
+        const bool isSide = column < m_frontColumns || back.contains(column);
+        (isSide ? sides : between) += columnWidth(column); // a hidden one has none
+    }
+    return 2 * (viewport()->width() - sides) >= between ? m_frontColumns : 1;
+}
+
 bool FrozenTable::isOver(const QTableView& view, int column) const {
-    return &view == m_front ? column < m_frontColumns : !view.isColumnHidden(column);
+    return &view == m_front ? column < m_kept : !view.isColumnHidden(column);
 }
 
 void FrozenTable::takeWidth(int column, int before, int size) {
     if (size > 0 && before > 0 && !m_isFitting)
         m_sized.insert(column);
-    if (size > 0 && column < m_frontColumns)
+    if (size > 0 && column < m_kept)
         m_front->setColumnWidth(column, size);
     if (size > 0 && !m_back->isColumnHidden(column))
         m_back->setColumnWidth(column, size);
@@ -144,8 +157,6 @@ void FrozenTable::keepInPlace(int column, int from, int to) {
 
 void FrozenTable::setColumnShown(int column, bool isShown) {
     setColumnHidden(column, !isShown);
-    if (column < m_frontColumns)
-        m_front->setColumnHidden(column, !isShown);
     arrange();
 }
 
@@ -173,13 +184,14 @@ void FrozenTable::fitColumns() {
 }
 
 void FrozenTable::arrange() {
+    m_kept = columnsToKeep();
     const QList<int> back = columnsAtTheBack();
     QHeaderView& order = *m_back->horizontalHeader();
     for (int place = 0; place < horizontalHeader()->count(); ++place) {
         const int column = horizontalHeader()->logicalIndex(place);
         order.moveSection(order.visualIndex(column), place);
         m_back->setColumnHidden(column, !back.contains(column));
-        m_front->setColumnHidden(column, column >= m_frontColumns || isColumnHidden(column));
+        m_front->setColumnHidden(column, column >= m_kept || isColumnHidden(column));
         for (QTableView* view : {m_front, m_back})
             if (!view->isColumnHidden(column))
                 view->setColumnWidth(column, columnWidth(column));
@@ -194,6 +206,10 @@ void FrozenTable::doItemsLayout() {
 }
 
 void FrozenTable::place() {
+    if (columnsToKeep() != m_kept) {
+        arrange();
+        return;
+    }
     const int height = viewport()->height() + horizontalHeader()->height();
     const int frontWidth = m_front->horizontalHeader()->length();
     const int backWidth = m_back->horizontalHeader()->length();
@@ -230,7 +246,7 @@ void FrozenTable::resizeEvent(QResizeEvent* event) {
 void FrozenTable::scrollTo(const QModelIndex& index, ScrollHint hint) {
     if (!index.isValid())
         return;
-    if (index.column() < m_frontColumns) {
+    if (index.column() < m_kept) {
         m_front->scrollTo(index, hint); // its rows move with ours
     } else if (m_back->isVisibleTo(this) && !m_back->isColumnHidden(index.column())) {
         m_back->scrollTo(index, hint);

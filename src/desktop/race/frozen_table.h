@@ -8,8 +8,9 @@ class QFrame;
 namespace kavela::desktop {
 
 /// A table whose first columns stay in view at the left and whose last ones at the right, while
-/// those between them scroll. The last ones stay only as long as they stand at the end, where the
-/// coach may have moved others, and as long as there is room between the two sides.
+/// those between them scroll. Of the first ones only the very first stays where the others would
+/// leave less than half of those between them in view. The last ones stay as long as they stand at
+/// the end, where the coach may have moved others, and as long as there is room between the sides.
 class FrozenTable : public QTableView {
     Q_OBJECT
 
@@ -44,6 +45,7 @@ private:
     void prepareOver(QTableView& view);
     void linkSorting();
     [[nodiscard]] QList<int> columnsAtTheBack() const;
+    [[nodiscard]] int columnsToKeep() const;
     [[nodiscard]] bool isOver(const QTableView& view, int column) const;
     void takeWidth(int column, int before, int size);
     void place();
@@ -57,6 +59,7 @@ private:
     QFrame* m_backEdge;
     int m_frontColumns;
     int m_backColumns;
+    int m_kept; ///< of the first columns: how many stay in view
     QSet<int> m_sized; ///< by the coach
     bool m_isFitting = false;
 };

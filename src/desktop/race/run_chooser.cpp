@@ -107,6 +107,7 @@ QWidget* RunChooser::makeRaces() {
     auto* browse = new QPushButton(tr("&Other file…"));
     browse->setAutoDefault(false);
     connect(browse, &QPushButton::clicked, this, &RunChooser::chooseFile);
+    m_files->setSpacing(theme::SmallSpacing / 2); // each has two lines
     connect(m_files, &QListWidget::currentItemChanged, this, &RunChooser::chooseRace);
     auto* box = new QWidget;
     auto* column = new QVBoxLayout(box);
