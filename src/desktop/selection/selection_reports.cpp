@@ -1,6 +1,7 @@
 #include "desktop/selection/selection_window.h"
 
 #include "desktop/preview/report_preview.h"
+#include "desktop/shell/typing.h"
 #include "desktop/shell/workspace.h"
 #include "report/paged_report.h"
 #include "report/selection_report.h"
@@ -19,7 +20,8 @@ void SelectionWindow::makeReportMenu(QMenu& menu) {
 /// Both reports, that of the times shown in front. Always of the real results: who reads a report
 /// cannot see that something was only tried.
 void SelectionWindow::preview() {
-    commit();
+    if (!takeTyping(*this))
+        return;
     const auto document = std::make_shared<selectionracesStruct_v3>(m_document.value());
     recomputeSelection(*document, m_document.bonus());
     const BonusKind bonus = m_document.bonus();

@@ -91,7 +91,6 @@ SelectionWindow::SelectionWindow(Workspace& workspace, Autosave autosave)
 }
 
 SelectionWindow::~SelectionWindow() {
-    commit();
     hide(); // an open cell would else hand its text to what is gone already
     qApp->disconnect(this);
     m_table->selectionModel()->disconnect(this);

@@ -37,7 +37,6 @@ TeamWindow::TeamWindow(Workspace& workspace, std::unique_ptr<TeamDocument> docum
 }
 
 TeamWindow::~TeamWindow() {
-    commit();
     hide(); // an open cell would else hand its text to what is gone already
     m_document->undoStack().disconnect(this);
     m_document->disconnect(this);
