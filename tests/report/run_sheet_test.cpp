@@ -105,7 +105,7 @@ TEST_F(RunSheet, TellsWhatIsNotedOnTheRun) {
     for (const char* part : {"Upstream gates", "1.50", "1.25", "Time losses", "+0.75", "+3.7 %",
                              "Late turn, Pole. Look up", "Boof", "37.50 s", "Too wide", "finish"})
         EXPECT_THAT(text, HasSubstr(part));
-    EXPECT_THAT(lineWith(text, "30.00"), AllOf(HasSubstr(" 20 "), HasSubstr("40.0")));
+    EXPECT_THAT(lineWith(text, "30.00"), AllOf(HasSubstr(" 20 "), HasSubstr("60.0")));
 }
 
 TEST_F(RunSheet, LeavesOutWhatARunDoesNotHave) {
