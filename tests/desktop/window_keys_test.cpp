@@ -97,6 +97,7 @@ protected:
         for (const desktop::KeyGroup& group : desktop::keyGroups(window))
             for (const ListedKey& listed : group.keys) {
                 QAction& action = *listed.action;
+                EXPECT_FALSE(action.text().isEmpty()) << action.shortcut().toString().toStdString();
                 QObject::disconnect(&action, &QAction::triggered, nullptr, nullptr);
                 if (!action.isEnabled())
                     continue;

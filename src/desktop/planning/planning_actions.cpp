@@ -70,6 +70,11 @@ void makeSessionMenu(PlanningWindow& window) {
         [](PlanView& plan) { plan.moveSessionBy(-1); });
     add(menu, window, tr("Move to the week be&hind"), QKeySequence(Qt::ALT | Qt::Key_PageDown),
         [](PlanView& plan) { plan.moveSessionBy(1); });
+    // The tables of the other tabs have these keys for themselves: Insert, F2, copying.
+    QObject::connect(&window.tabs(), &QTabWidget::currentChanged, &menu, [&menu](int tab) {
+        for (QAction* const action : menu.actions())
+            action->setEnabled(tab == 0);
+    });
 }
 
 void makeWeekMenu(PlanningWindow& window) {

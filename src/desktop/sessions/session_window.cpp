@@ -5,6 +5,7 @@
 #include "desktop/sessions/session_actions.h"
 #include "desktop/sessions/session_view.h"
 #include "desktop/shell/dropped_files.h"
+#include "desktop/shell/scroll_page.h"
 #include "desktop/shell/workspace.h"
 
 #include <QCloseEvent>
@@ -41,7 +42,7 @@ void SessionWindow::makeParts() {
     auto* empty = new DropAreas;
     m_pages = new QStackedWidget;
     m_pages->addWidget(empty);
-    m_pages->addWidget(m_view);
+    m_pages->addWidget(new ScrollPage(m_view));
     setCentralWidget(m_pages);
     statusBar()->setSizeGripEnabled(false);
     m_overlay = new DropAreas(this);
@@ -100,7 +101,7 @@ bool SessionWindow::hasSession() const {
 
 void SessionWindow::showSession() {
     m_view->show(m_document->value());
-    m_pages->setCurrentWidget(hasSession() ? static_cast<QWidget*>(m_view) : m_pages->widget(0));
+    m_pages->setCurrentIndex(hasSession() ? 1 : 0);
 }
 
 bool SessionWindow::mayLeave() {

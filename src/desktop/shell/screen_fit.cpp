@@ -12,6 +12,7 @@
 #include <QScreen>
 #include <QScrollArea>
 #include <QStyle>
+#include <QTimer>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -94,8 +95,8 @@ void makeScroll(QDialog& dialog) {
             row->addItem(buttons);
         whole->addLayout(row);
     }
-    if (focus)
-        focus->setFocus(); // lost it when it changed its parent
+    if (focus) // lost it with its parent, and takes it again once it is seen
+        QTimer::singleShot(0, focus, [focus] { focus->setFocus(); });
 }
 
 /// Only where a window cannot be made small enough by its own parts.
@@ -176,9 +177,12 @@ void ScreenFit::fitPlace(QWidget& window) {
     const QRect inside = fitted(now, areaInside(window));
     if (inside.size() != now.size())
         window.resize(inside.size());
-    // A place that nobody chose is the system's to choose.
-    if (window.testAttribute(Qt::WA_Moved) && inside.topLeft() != now.topLeft())
+    // A place that nobody chose is the system's to choose; a dialog stands over its window.
+    const bool isPlaced = window.testAttribute(Qt::WA_Moved);
+    if ((isPlaced || qobject_cast<QDialog*>(&window)) && inside.topLeft() != now.topLeft()) {
         window.move(inside.topLeft() - QPoint(frameOf(window).left(), frameOf(window).top()));
+        window.setAttribute(Qt::WA_Moved, isPlaced);
+    }
 }
 
 } // namespace kavela::desktop

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QScrollArea>
-#include <QStyle>
 
 #include <algorithm>
 
@@ -18,9 +17,8 @@ public:
     }
 
     [[nodiscard]] QSize minimumSizeHint() const override {
-        const int content = std::max(widget()->minimumWidth(), widget()->minimumSizeHint().width());
-        const int bar = style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, this);
-        return {content + bar, QScrollArea::minimumSizeHint().height()};
+        return {std::max(widget()->minimumWidth(), widget()->minimumSizeHint().width()),
+                QScrollArea::minimumSizeHint().height()};
     }
 };
 

@@ -120,6 +120,7 @@ QWidget* TakingWindow::makeRuns() {
     m_runTable->horizontalHeader()->setSectionResizeMode(RunTableModel::NameColumn,
                                                          QHeaderView::Stretch);
     m_list = new QWidget;
+    m_list->setMinimumWidth(220); // that names are read in the list
     auto* column = new QVBoxLayout(m_list);
     column->setContentsMargins(0, 0, theme::Spacing, 0);
     column->setSpacing(theme::Spacing);

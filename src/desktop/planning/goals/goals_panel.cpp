@@ -136,17 +136,19 @@ QWidget* GoalsPanel::makeButtons() {
 }
 
 void GoalsPanel::makeKeys() {
-    const auto key = [this](const QKeySequence& keys, const std::function<void()>& act) {
-        auto* const action = new QAction(m_tree);
+    const auto key = [this](const QString& text, const QKeySequence& keys,
+                            const std::function<void()>& act) {
+        auto* const action = new QAction(text, m_tree);
         action->setShortcut(keys);
         action->setShortcutContext(Qt::WidgetShortcut);
         connect(action, &QAction::triggered, this, act);
         m_tree->addAction(action);
     };
-    key(Qt::Key_Insert, [this] { add(current() ? Kind::Subgoal : Kind::Group); });
-    key(Qt::Key_Delete, [this] { removeCurrent(); });
-    key(Qt::ALT | Qt::Key_Up, [this] { move(true); });
-    key(Qt::ALT | Qt::Key_Down, [this] { move(false); });
+    key(tr("Add sub-goal"), Qt::Key_Insert,
+        [this] { add(current() ? Kind::Subgoal : Kind::Group); });
+    key(tr("Remove"), Qt::Key_Delete, [this] { removeCurrent(); });
+    key(tr("Up"), Qt::ALT | Qt::Key_Up, [this] { move(true); });
+    key(tr("Down"), Qt::ALT | Qt::Key_Down, [this] { move(false); });
 }
 
 GoalPlace GoalsPanel::placeOf(const QTreeWidgetItem& item) {

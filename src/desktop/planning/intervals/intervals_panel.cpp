@@ -124,18 +124,19 @@ QWidget* IntervalsPanel::makeDetails() {
 }
 
 void IntervalsPanel::makeKeys() {
-    const auto key = [this](const QKeySequence& keys, const std::function<void()>& act) {
-        auto* const action = new QAction(m_table);
+    const auto key = [this](const QString& text, const QKeySequence& keys,
+                            const std::function<void()>& act) {
+        auto* const action = new QAction(text, m_table);
         action->setShortcut(keys);
         action->setShortcutContext(Qt::WidgetShortcut);
         connect(action, &QAction::triggered, this, act);
         m_table->addAction(action);
     };
-    key(Qt::Key_Insert, [this] { add(); });
-    key(Qt::Key_Delete, [this] { removeCurrent(); });
-    key(Qt::CTRL | Qt::Key_D, [this] { duplicate(); });
-    key(Qt::ALT | Qt::Key_Up, [this] { move(true); });
-    key(Qt::ALT | Qt::Key_Down, [this] { move(false); });
+    key(tr("Add a session"), Qt::Key_Insert, [this] { add(); });
+    key(tr("Remove the session"), Qt::Key_Delete, [this] { removeCurrent(); });
+    key(tr("Another one like it"), Qt::CTRL | Qt::Key_D, [this] { duplicate(); });
+    key(tr("Up"), Qt::ALT | Qt::Key_Up, [this] { move(true); });
+    key(tr("Down"), Qt::ALT | Qt::Key_Down, [this] { move(false); });
 }
 
 const std::vector<favInvervalSessions_v2>& IntervalsPanel::sessions() const {

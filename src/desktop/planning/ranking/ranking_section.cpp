@@ -103,15 +103,15 @@ void RankingSection::makeTable() {
         if (!m_isFilling)
             take(item->row(), item->column(), item->text());
     });
-    const auto key = [this](Qt::Key keys, void (RankingSection::*act)()) {
-        auto* const action = new QAction(m_table);
+    const auto key = [this](const QString& text, Qt::Key keys, void (RankingSection::*act)()) {
+        auto* const action = new QAction(text, m_table);
         action->setShortcut(keys);
         action->setShortcutContext(Qt::WidgetShortcut);
         connect(action, &QAction::triggered, this, act);
         m_table->addAction(action);
     };
-    key(Qt::Key_Insert, &RankingSection::addRelease);
-    key(Qt::Key_Delete, &RankingSection::removeCurrent);
+    key(tr("Add a release"), Qt::Key_Insert, &RankingSection::addRelease);
+    key(tr("Remove the release"), Qt::Key_Delete, &RankingSection::removeCurrent);
 }
 
 void RankingSection::show(const icfdataplanning_v1* ranking) {
