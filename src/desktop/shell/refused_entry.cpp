@@ -10,6 +10,7 @@
 #include <QLineEdit>
 #include <QPainter>
 #include <QScreen>
+#include <QScrollArea>
 #include <QStackedWidget>
 #include <QTabWidget>
 
@@ -192,6 +193,8 @@ void uncover(QWidget& widget) {
     QWidget* page = &widget;
     for (QWidget* above = widget.parentWidget(); above && !page->isWindow();
          page = std::exchange(above, above->parentWidget())) {
+        if (auto* const area = qobject_cast<QScrollArea*>(above))
+            area->ensureWidgetVisible(&widget);
         auto* const tabs = qobject_cast<QTabWidget*>(above->parentWidget());
         auto* const stack = qobject_cast<QStackedWidget*>(above);
         if (stack && tabs)
