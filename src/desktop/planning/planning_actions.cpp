@@ -19,18 +19,12 @@ QString tr(const char* text) {
 }
 
 /// Adds an action that works on the plan, which comes to the front with it.
-QAction& add(QMenu& menu, PlanningWindow& window, const QString& text, const QKeySequence& key,
-             const std::function<void(PlanView&)>& act) {
-    return *menu.addAction(text, key, &window, [&window, act] {
+void add(QMenu& menu, PlanningWindow& window, const QString& text, const QKeySequence& key,
+         const std::function<void(PlanView&)>& act) {
+    menu.addAction(text, key, &window, [&window, act] {
         window.tabs().setCurrentIndex(0); // the plan
         act(window.plan());
     });
-}
-
-/// On other pages the key belongs to their tables.
-void allowOnThePlanAlone(QAction& action, PlanningWindow& window) {
-    QObject::connect(&window.tabs(), &QTabWidget::currentChanged, &action,
-                     [&action](int page) { action.setEnabled(page == 0); });
 }
 
 /// Brings the tab to the front that a page stands in, with whatever is around it there.
@@ -54,9 +48,8 @@ void makeAthleteMenu(PlanningWindow& window) {
 
 void makeSessionMenu(PlanningWindow& window) {
     QMenu& menu = *window.menuBar()->addMenu(tr("&Session"));
-    allowOnThePlanAlone(add(menu, window, tr("&New session…"), QKeySequence(Qt::Key_Insert),
-                            [](PlanView& plan) { plan.addSession(); }),
-                        window);
+    add(menu, window, tr("&New session…"), QKeySequence(Qt::Key_Insert),
+        [](PlanView& plan) { plan.addSession(); });
     add(menu, window, tr("&Edit the session…"), QKeySequence(Qt::Key_F2),
         [](PlanView& plan) { plan.editSession(); });
     add(menu, window, tr("&Remove the session"), QKeySequence(Qt::CTRL | Qt::Key_Backspace),
