@@ -159,18 +159,19 @@ std::optional<Alert> markSplit(RunMarks& run, Stamps stamps, std::int64_t totals
     if (stamps.empty())
         return isFull ? limitReached() : Alert{"", messages::NoVideo};
     const CMTime moment = stamps.front();
+    const std::size_t next = firstBehind(run, moment);
+    const auto unseen = unseenBefore(run, next);
+    if (isFull && !unseen)
+        return limitReached();
     if (const auto there = markAt(run, moment))
         return Alert{"", alreadyThere(nameOf(*there))};
     if (const auto refused = refusalBetween(neighbour(run, 0), std::nullopt, moment))
         return Alert{"", *refused};
-    const std::size_t next = firstBehind(run, moment);
-    if (const auto gap = unseenBefore(run, next)) {
-        run.marks[*gap - 1] = std::move(stamps);
-        return std::nullopt;
-    }
-    if (isFull)
-        return limitReached();
-    run.marks.insert(run.marks.begin() + static_cast<std::ptrdiff_t>(next - 1), std::move(stamps));
+    if (unseen)
+        run.marks[*unseen - 1] = std::move(stamps);
+    else
+        run.marks.insert(run.marks.begin() + static_cast<std::ptrdiff_t>(next - 1),
+                         std::move(stamps));
     return std::nullopt;
 }
 

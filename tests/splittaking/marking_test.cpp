@@ -81,7 +81,9 @@ TEST(Marking, KeepsTheMarksInTheOrderOfTime) {
             << row.name;
     }
     RunMarks full = threeSplits();
-    EXPECT_TRUE(markNext(full, {at(20000)}, 3)) << "there is no room for a fourth";
+    for (const std::int64_t moment : {1000, 12000, 20000, 40000})
+        EXPECT_EQ(markNext(full, {at(moment)}, 3).value_or(Alert()).title, "Be careful!")
+            << "there is no room for a fourth, wherever it lies: " << moment;
     full.marks[1].clear();
     EXPECT_FALSE(markNext(full, {at(20000)}, 3)) << "but for the one that was not seen";
     EXPECT_EQ(markAt(full, at(20000)), 2U);
