@@ -197,6 +197,7 @@ bool CourseDialog::takeSections() {
 }
 
 void CourseDialog::accept() {
+    m_splits->takeTyped(); // it has its value only then, and the sections follow it
     if (!takeGates() || !takeSections())
         return;
     for (const auto& [edit, member] : m_texts)
