@@ -446,12 +446,13 @@ TEST_F(TeamWindowTest, GivesCrewsToAthletesByHandAndAddsThem) {
             const auto combos = view.findChildren<QComboBox*>("whose");
             ASSERT_FALSE(combos.isEmpty());
             QComboBox* const combo = combos.last(); // the one before may still be on its way out
-            for (int i = 0; i < down; ++i) // leave out, add, then the likest
+            for (int i = 0; i < down; ++i)          // leave out, add, then the likest
                 QTest::keyClick(combo, Qt::Key_Down);
             QTest::keyClick(combo, Qt::Key_Return);
             QApplication::processEvents();
         };
         choose(0, 2);
+        EXPECT_EQ(text(dialog, 0, dialog.lines().whoseColumn()), "ŠTERN Ann Marie");
         EXPECT_EQ(dialog.tickedCount(), 3U) << "both runs and the final position";
         ASSERT_EQ(text(dialog, 3, 0), "Zoe Fast");
         choose(3, 1);

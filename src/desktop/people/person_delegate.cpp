@@ -5,6 +5,7 @@
 
 #include <QApplication>
 #include <QComboBox>
+#include <QKeyEvent>
 #include <QPainter>
 
 #include <algorithm>
@@ -18,6 +19,25 @@ constexpr int ArrowWidth = theme::LargeSpacing;
 const FoundLines* linesOf(const QModelIndex& index) {
     return qobject_cast<const FoundLines*>(index.model());
 }
+
+/// Arrows and letters only look through the choices; Enter, leaving the cell, or a choice from the
+/// open list means one.
+class PeopleCombo : public QComboBox {
+public:
+    using QComboBox::QComboBox;
+
+    [[nodiscard]] bool isBrowsing() const { return m_isBrowsing; }
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override {
+        m_isBrowsing = true;
+        QComboBox::keyPressEvent(event);
+        m_isBrowsing = false;
+    }
+
+private:
+    bool m_isBrowsing = false;
+};
 
 } // namespace
 
@@ -43,12 +63,13 @@ QWidget* PersonDelegate::createEditor(QWidget* parent, const QStyleOptionViewIte
     const FoundLines* const lines = linesOf(index);
     if (!lines)
         return nullptr;
-    auto* const combo = new QComboBox(parent);
+    auto* const combo = new PeopleCombo(parent);
     combo->setObjectName("whose");
     for (const Belonging& whose : lines->choicesFor(index.row()))
         combo->addItem(lines->choiceText(index.row(), whose));
-    // A choice from the open list is meant: it counts at once, not only when the cell is left.
     connect(combo, &QComboBox::activated, this, [this, combo] {
+        if (combo->isBrowsing())
+            return;
         auto* const self = const_cast<PersonDelegate*>(this);
         emit self->commitData(combo);
         emit self->closeEditor(combo);
