@@ -238,7 +238,7 @@ TEST_F(CommandLine, SaysInOneLineWhyAFileCannotBeRead) {
     EXPECT_THAT(linesOf(ending.errors),
                 ElementsAre("b.kvx: this is a folder, not a file",
                             "c.kvx: this is a link to gone.kvx, which is missing",
-                            "south.kvx: No such file or directory"));
+                            "south.kvx: there is no such file"));
 
     std::vector<std::string> asJson = names;
     asJson.emplace_back("--json");
