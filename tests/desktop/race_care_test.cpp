@@ -273,6 +273,9 @@ TEST_F(RaceCareTest, KeepsNameAndTotalsInViewWhileSectionsScroll) {
             EXPECT_TRUE(column < FirstTime || isInView(*window, column))
                 << "section " << column - FirstTime + 1 << " of " << sections;
             EXPECT_FALSE(table.frozenView()->isColumnHidden(0));
+            for (const QTableView* view : {table.frozenView(), table.backView()})
+                EXPECT_TRUE(view->isAncestorOf(table.childAt(view->geometry().center())))
+                    << "what stays lies over what scrolls";
         }
         window->close();
     }

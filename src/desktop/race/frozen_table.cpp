@@ -77,7 +77,7 @@ void FrozenTable::prepareOver(QTableView& view) {
     view.setFrameShape(QFrame::NoFrame);
     view.setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     view.setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    viewport()->stackUnder(&view);
+    view.raise(); // over our own cells
     connect(view.verticalScrollBar(), &QScrollBar::valueChanged, verticalScrollBar(),
             &QScrollBar::setValue);
     connect(verticalScrollBar(), &QScrollBar::valueChanged, view.verticalScrollBar(),
