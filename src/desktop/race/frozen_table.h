@@ -59,7 +59,7 @@ private:
     QFrame* m_backEdge;
     int m_frontColumns;
     int m_backColumns;
-    int m_kept; ///< of the first columns: how many stay in view
+    int m_kept;        ///< of the first columns: how many stay in view
     QSet<int> m_sized; ///< by the coach
     bool m_isFitting = false;
 };
