@@ -4,11 +4,25 @@
 
 #include <unistd.h>
 
+#include <cstdlib>
 #include <filesystem>
 
 namespace kavela::cli {
 
 namespace fs = std::filesystem;
+
+namespace {
+
+// A checkout builds the desktop when it is first started: it names a program that does.
+std::string desktopProgram() {
+    if (const char* named = std::getenv("KAVELA_DESKTOP"); named && *named)
+        return named;
+    std::error_code error;
+    const fs::path self = fs::read_symlink("/proc/self/exe", error);
+    return (self.parent_path() / "kavela-desktop").string();
+}
+
+} // namespace
 
 int startDesktop(std::vector<std::string> files) {
     for (const std::string& file : files) {
@@ -19,9 +33,7 @@ int startDesktop(std::vector<std::string> files) {
             return WrongCall;
         }
     }
-    std::error_code error;
-    const fs::path self = fs::read_symlink("/proc/self/exe", error);
-    std::string program = (self.parent_path() / "kavela-desktop").string();
+    std::string program = desktopProgram();
     std::vector<char*> arguments{program.data()};
     for (std::string& file : files)
         arguments.push_back(file.data());
