@@ -7,8 +7,6 @@
 #include "splittaking/messages.h"
 #include "splittaking/training_collection.h"
 
-#include <CLI/CLI.hpp>
-
 #include <memory>
 
 namespace kavela::cli {
@@ -67,17 +65,17 @@ std::string complaintAbout(const std::string& athlete) {
 
 } // namespace
 
-void addCollect(CLI::App& app, int& status) {
+void addCollect(Command program, int& status) {
     const auto call = std::make_shared<CollectCall>();
-    CLI::App* command = app.add_subcommand(
+    Command command = program.command(
         "collect", "Makes a training file of the videos that carry an athlete's name");
-    command->add_option("FOLDER", call->folder, "Folder of the videos")->required();
-    command->add_option("--athlete", call->athlete, "The athlete's name; a crew as \"A / B\"")
-        ->required()
-        ->check(complaintAbout, "");
-    command->add_flag("--replace", call->replace, "Replace a training file that is there already");
-    command->footer("The file is written to the folder as treining.kvx.");
-    command->callback([call, &status] { status = collect(*call); });
+    command.option("FOLDER", call->folder, "Folder of the videos").required();
+    command.option("--athlete", call->athlete, "The athlete's name; a crew as \"A / B\"")
+        .required()
+        .check(complaintAbout);
+    command.flag("--replace", call->replace, "Replace a training file that is there already");
+    command.footer("The file is written to the folder as treining.kvx.");
+    command.onRun([call, &status] { status = collect(*call); });
 }
 
 } // namespace kavela::cli

@@ -1,24 +1,24 @@
 #pragma once
 
-#include <CLI/App.hpp>
+#include "cli/call.h"
 
 /// The subcommands of `kavela`. Each adds itself to the call's parser; when the call names it, it
 /// does its work and leaves the exit status.
 namespace kavela::cli {
 
-void addInfo(CLI::App& app, int& status);
-void addUpgrade(CLI::App& app, int& status);
-void addShow(CLI::App& app, int& status);
-void addPerfect(CLI::App& app, int& status);
-void addExport(CLI::App& app, int& status);
-void addImportResults(CLI::App& app, int& status);
-void addCollect(CLI::App& app, int& status);
-void addTeam(CLI::App& app, int& status);
-void addSelection(CLI::App& app, int& status);
-void addPlanning(CLI::App& app, int& status);
-void addGym(CLI::App& app, int& status);
-void addConvert(CLI::App& app, int& status);
-void addStrokes(CLI::App& app, int& status);
-void addDemo(CLI::App& app, int& status);
+void addInfo(Command program, int& status);
+void addUpgrade(Command program, int& status);
+void addShow(Command program, int& status);
+void addPerfect(Command program, int& status);
+void addExport(Command program, int& status);
+void addImportResults(Command program, int& status);
+void addCollect(Command program, int& status);
+void addTeam(Command program, int& status);
+void addSelection(Command program, int& status);
+void addPlanning(Command program, int& status);
+void addGym(Command program, int& status);
+void addConvert(Command program, int& status);
+void addStrokes(Command program, int& status);
+void addDemo(Command program, int& status);
 
 } // namespace kavela::cli

@@ -3,8 +3,6 @@
 #include "boatmotion/conversion.h"
 #include "cli/console.h"
 
-#include <CLI/CLI.hpp>
-
 #include <memory>
 
 namespace kavela::cli {
@@ -56,14 +54,13 @@ int convertAll(const ConvertCall& call) {
 
 } // namespace
 
-void addConvert(CLI::App& app, int& status) {
+void addConvert(Command program, int& status) {
     const auto call = std::make_shared<ConvertCall>();
-    CLI::App* command =
-        app.add_subcommand("convert", "Writes the processed session of raw recordings");
-    command->add_option("FILE", call->files, "Raw recordings (.kvb)")->required();
-    command->add_option("--name", call->name, "Name of the new file, for a further one");
-    command->footer("run.kvb gives run_postv5.bms beside it. No file is ever overwritten.");
-    command->callback([call, &status] { status = convertAll(*call); });
+    Command command = program.command("convert", "Writes the processed session of raw recordings");
+    command.option("FILE", call->files, "Raw recordings (.kvb)").required();
+    command.option("--name", call->name, "Name of the new file, for a further one");
+    command.footer("run.kvb gives run_postv5.bms beside it. No file is ever overwritten.");
+    command.onRun([call, &status] { status = convertAll(*call); });
 }
 
 } // namespace kavela::cli

@@ -6,8 +6,6 @@
 #include "common/safe_file.h"
 #include "sample/season.h"
 
-#include <CLI/CLI.hpp>
-
 #include <fstream>
 #include <iterator>
 #include <memory>
@@ -63,15 +61,14 @@ int demo(const fs::path& folder, bool withFilms) {
 
 } // namespace
 
-void addDemo(CLI::App& app, int& status) {
+void addDemo(Command program, int& status) {
     const auto folder = std::make_shared<std::string>();
-    CLI::App* command = app.add_subcommand("demo", "Writes a sample season to try Kavela with");
-    command->add_option("FOLDER", *folder, "Folder to write to; made where it is missing")
-        ->required();
+    Command command = program.command("demo", "Writes a sample season to try Kavela with");
+    command.option("FOLDER", *folder, "Folder to write to; made where it is missing").required();
     const auto withFilms = std::make_shared<bool>(false);
-    command->add_flag("--videos", *withFilms, "Makes short films of runs as well");
-    command->footer(filmsHelp());
-    command->callback([=, &status] { status = demo(*folder, *withFilms); });
+    command.flag("--videos", *withFilms, "Makes short films of runs as well");
+    command.footer(filmsHelp());
+    command.onRun([=, &status] { status = demo(*folder, *withFilms); });
 }
 
 } // namespace kavela::cli

@@ -8,8 +8,6 @@
 #include "splitdata/loader.h"
 #include "splittaking/table_export.h"
 
-#include <CLI/CLI.hpp>
-
 #include <QGuiApplication>
 
 #include <functional>
@@ -103,17 +101,16 @@ int exportRace(const ExportCall& call) {
 
 } // namespace
 
-void addExport(CLI::App& app, int& status) {
+void addExport(Command program, int& status) {
     const auto call = std::make_shared<ExportCall>();
-    CLI::App* command =
-        app.add_subcommand("export", "Writes the split table for a spreadsheet, or a report");
-    command->add_option("FILE", call->file, "Split file (.kvx) of any release")->required();
-    command->add_option("--csv", call->csv, "File to write: semicolon-separated text");
-    command->add_option("--pdf", call->pdf, "File to write: the race report, on A4 pages");
-    command->footer(
-        "At least one of the two is written. A file of an older release is read without "
-        "being rewritten.");
-    command->callback([call, &status] { status = exportRace(*call); });
+    Command command =
+        program.command("export", "Writes the split table for a spreadsheet, or a report");
+    command.option("FILE", call->file, "Split file (.kvx) of any release").required();
+    command.option("--csv", call->csv, "File to write: semicolon-separated text");
+    command.option("--pdf", call->pdf, "File to write: the race report, on A4 pages");
+    command.footer("At least one of the two is written. A file of an older release is read without "
+                   "being rewritten.");
+    command.onRun([call, &status] { status = exportRace(*call); });
 }
 
 } // namespace kavela::cli

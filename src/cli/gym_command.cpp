@@ -6,8 +6,6 @@
 #include "common/number_text.h"
 #include "planning/gym_maximum.h"
 
-#include <CLI/CLI.hpp>
-
 #include <cmath>
 #include <memory>
 
@@ -68,18 +66,16 @@ std::string complaintAboutWeight(const std::string& text) {
 
 } // namespace
 
-void addGym(CLI::App& app, int& status) {
+void addGym(Command program, int& status) {
     const auto call = std::make_shared<GymCall>();
-    CLI::App* command =
-        app.add_subcommand("gym", "What an athlete can lift once, by five formulas");
-    command->add_option("REPETITIONS", call->repetitions, "How often the weight was lifted")
-        ->required();
-    command->add_option("WEIGHT", call->weight, "The weight in kilograms")
-        ->required()
-        ->check(complaintAboutWeight, "");
-    command->add_flag("--json", call->json, "Print one JSON document");
-    command->footer("The one-repetition maximum is the Lombardi estimate with two decimals.");
-    command->callback([call, &status] { status = gym(*call); });
+    Command command = program.command("gym", "What an athlete can lift once, by five formulas");
+    command.option("REPETITIONS", call->repetitions, "How often the weight was lifted").required();
+    command.option("WEIGHT", call->weight, "The weight in kilograms")
+        .required()
+        .check(complaintAboutWeight);
+    command.flag("--json", call->json, "Print one JSON document");
+    command.footer("The one-repetition maximum is the Lombardi estimate with two decimals.");
+    command.onRun([call, &status] { status = gym(*call); });
 }
 
 } // namespace kavela::cli

@@ -6,8 +6,6 @@
 #include "common/json_encode.h"
 #include "splittaking/results_import.h"
 
-#include <CLI/CLI.hpp>
-
 #include <memory>
 
 namespace kavela {
@@ -67,20 +65,20 @@ int importList(const ImportCall& call) {
 
 } // namespace
 
-void addImportResults(CLI::App& app, int& status) {
+void addImportResults(Command program, int& status) {
     const auto call = std::make_shared<ImportCall>();
-    CLI::App* command =
-        app.add_subcommand("import-results", "Adds an official results list to a split file");
-    command->add_option("FILE", call->file, "Split file (.kvx) of the current version")->required();
+    Command command =
+        program.command("import-results", "Adds an official results list to a split file");
+    command.option("FILE", call->file, "Split file (.kvx) of the current version").required();
     command
-        ->add_option("LIST", call->list,
-                     "Semicolon-separated text with a header line: position, bib, name, "
-                     "nationality, time, penalty")
-        ->required();
-    command->add_flag("--json", call->json, "Print one JSON document");
-    command->footer("The results are added to those that the file has already, and the perfect "
-                    "time and the expected times are computed again.");
-    command->callback([call, &status] { status = importList(*call); });
+        .option("LIST", call->list,
+                "Semicolon-separated text with a header line: position, bib, name, "
+                "nationality, time, penalty")
+        .required();
+    command.flag("--json", call->json, "Print one JSON document");
+    command.footer("The results are added to those that the file has already, and the perfect "
+                   "time and the expected times are computed again.");
+    command.onRun([call, &status] { status = importList(*call); });
 }
 
 } // namespace cli

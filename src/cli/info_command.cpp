@@ -4,8 +4,6 @@
 #include "cli/console.h"
 #include "common/display_text.h"
 
-#include <CLI/CLI.hpp>
-
 #include <algorithm>
 #include <memory>
 
@@ -84,12 +82,12 @@ int info(const InfoCall& call) {
 
 } // namespace
 
-void addInfo(CLI::App& app, int& status) {
+void addInfo(Command program, int& status) {
     const auto call = std::make_shared<InfoCall>();
-    CLI::App* command = app.add_subcommand("info", "Says what files are, or what is wrong in them");
-    command->add_option("FILE", call->files, "Files of any kind")->required();
-    command->add_flag("--json", call->json, "Print one JSON document");
-    command->callback([call, &status] { status = info(*call); });
+    Command command = program.command("info", "Says what files are, or what is wrong in them");
+    command.option("FILE", call->files, "Files of any kind").required();
+    command.flag("--json", call->json, "Print one JSON document");
+    command.onRun([call, &status] { status = info(*call); });
 }
 
 } // namespace kavela::cli

@@ -1,12 +1,13 @@
+#include "cli/call.h"
 #include "cli/commands.h"
 #include "cli/console.h"
 #include "cli/start_desktop.h"
 
-#include <CLI/CLI.hpp>
-
 #include <cstdio>
 #include <exception>
 #include <new>
+#include <string>
+#include <vector>
 
 using namespace kavela;
 
@@ -14,34 +15,31 @@ namespace {
 
 /// Parses the call and runs the subcommand it names.
 int run(int argc, char** argv) {
-    CLI::App app{"Kavela: splits, results and recordings of canoe slalom.", "kavela"};
-    app.set_version_flag("--version", KAVELA_VERSION);
-    app.require_subcommand(0, 1);
-    app.footer("Without a command, the desktop program starts and opens the files in their tools.");
+    cli::Call call("kavela", "Kavela: splits, results and recordings of canoe slalom.",
+                   KAVELA_VERSION);
+    cli::Command program = call.program();
+    program.footer(
+        "Without a command, the desktop program starts and opens the files in their tools.");
     std::vector<std::string> files;
-    app.add_option("FILE", files, "Files to open in the desktop program");
-    app.get_formatter()->column_width(34);
+    program.option("FILE", files, "Files to open in the desktop program");
     int status = cli::Done;
-    cli::addInfo(app, status);
-    cli::addUpgrade(app, status);
-    cli::addShow(app, status);
-    cli::addPerfect(app, status);
-    cli::addExport(app, status);
-    cli::addImportResults(app, status);
-    cli::addCollect(app, status);
-    cli::addTeam(app, status);
-    cli::addSelection(app, status);
-    cli::addPlanning(app, status);
-    cli::addGym(app, status);
-    cli::addConvert(app, status);
-    cli::addStrokes(app, status);
-    cli::addDemo(app, status);
-    try {
-        app.parse(argc, argv);
-    } catch (const CLI::ParseError& error) {
-        return app.exit(error) == 0 ? cli::Done : cli::WrongCall;
-    }
-    return app.get_subcommands().empty() ? cli::startDesktop(files) : status;
+    cli::addInfo(program, status);
+    cli::addUpgrade(program, status);
+    cli::addShow(program, status);
+    cli::addPerfect(program, status);
+    cli::addExport(program, status);
+    cli::addImportResults(program, status);
+    cli::addCollect(program, status);
+    cli::addTeam(program, status);
+    cli::addSelection(program, status);
+    cli::addPlanning(program, status);
+    cli::addGym(program, status);
+    cli::addConvert(program, status);
+    cli::addStrokes(program, status);
+    cli::addDemo(program, status);
+    if (const auto ended = call.run(argc, argv))
+        return *ended;
+    return call.namesCommand() ? status : cli::startDesktop(files);
 }
 
 } // namespace

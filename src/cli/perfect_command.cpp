@@ -8,8 +8,6 @@
 #include "splitdata/run_timing.h"
 #include "splittaking/perfect_time.h"
 
-#include <CLI/CLI.hpp>
-
 #include <fmt/format.h>
 
 #include <algorithm>
@@ -86,16 +84,16 @@ int perfect(const PerfectCall& call) {
 
 } // namespace
 
-void addPerfect(CLI::App& app, int& status) {
+void addPerfect(Command program, int& status) {
     const auto call = std::make_shared<PerfectCall>();
-    CLI::App* command =
-        app.add_subcommand("perfect", "The sum of the best splits, and what each run could be");
-    command->add_option("FILE", call->file, "Split file (.kvx) of any release")->required();
-    command->add_flag("--json", call->json, "Print one JSON document");
-    command->add_flag("--write", call->write, "Store the values in the file");
-    command->footer("Without --write the file is only read. One of an older release has to be "
-                    "upgraded before it is written.");
-    command->callback([call, &status] { status = perfect(*call); });
+    Command command =
+        program.command("perfect", "The sum of the best splits, and what each run could be");
+    command.option("FILE", call->file, "Split file (.kvx) of any release").required();
+    command.flag("--json", call->json, "Print one JSON document");
+    command.flag("--write", call->write, "Store the values in the file");
+    command.footer("Without --write the file is only read. One of an older release has to be "
+                   "upgraded before it is written.");
+    command.onRun([call, &status] { status = perfect(*call); });
 }
 
 } // namespace kavela::cli

@@ -5,8 +5,6 @@
 #include "cli/planning_text.h"
 #include "cli/planning_upgrade.h"
 
-#include <CLI/CLI.hpp>
-
 #include <algorithm>
 #include <memory>
 
@@ -48,33 +46,32 @@ int upgradeAll(const std::vector<std::string>& files) {
     return print(summary) && failed == 0 ? Done : NotDone;
 }
 
-void addPlanningShow(CLI::App& planning, int& status) {
+void addPlanningShow(Command planning, int& status) {
     const auto call = std::make_shared<ShowCall>();
-    CLI::App* command = planning.add_subcommand("show", "The weeks of each athlete's seasons");
-    command->add_option("FILE", call->file, "Planning (.planning) of any version")->required();
-    command->add_flag("--json", call->json, "Print one JSON document");
-    command->footer("The file is only read, also one of an older version.");
-    command->callback([call, &status] { status = show(*call); });
+    Command command = planning.command("show", "The weeks of each athlete's seasons");
+    command.option("FILE", call->file, "Planning (.planning) of any version").required();
+    command.flag("--json", call->json, "Print one JSON document");
+    command.footer("The file is only read, also one of an older version.");
+    command.onRun([call, &status] { status = show(*call); });
 }
 
-void addPlanningUpgrade(CLI::App& planning, int& status) {
+void addPlanningUpgrade(Command planning, int& status) {
     const auto files = std::make_shared<std::vector<std::string>>();
-    CLI::App* command =
-        planning.add_subcommand("upgrade", "Brings plannings to the current version");
-    command->add_option("FILE", *files, "Plannings (.planning) of any version")->required();
-    command->footer("The files are rewritten in place, safely. The previous file is kept beside "
-                    "each as \"NAME_old.planning\".");
-    command->callback([files, &status] { status = upgradeAll(*files); });
+    Command command = planning.command("upgrade", "Brings plannings to the current version");
+    command.option("FILE", *files, "Plannings (.planning) of any version").required();
+    command.footer("The files are rewritten in place, safely. The previous file is kept beside "
+                   "each as \"NAME_old.planning\".");
+    command.onRun([files, &status] { status = upgradeAll(*files); });
 }
 
 } // namespace
 
-void addPlanning(CLI::App& app, int& status) {
-    CLI::App* planning = app.add_subcommand("planning", "Shows and upgrades training plannings");
-    planning->require_subcommand(1);
-    planning->footer("Plannings of every version are read.");
-    addPlanningShow(*planning, status);
-    addPlanningUpgrade(*planning, status);
+void addPlanning(Command program, int& status) {
+    Command planning = program.command("planning", "Shows and upgrades training plannings");
+    planning.needsCommand();
+    planning.footer("Plannings of every version are read.");
+    addPlanningShow(planning, status);
+    addPlanningUpgrade(planning, status);
 }
 
 } // namespace kavela::cli

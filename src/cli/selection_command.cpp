@@ -18,8 +18,6 @@
 #include "results/selection_import.h"
 #include "results/team_records.h"
 
-#include <CLI/CLI.hpp>
-
 #include <algorithm>
 #include <memory>
 #include <utility>
@@ -260,68 +258,64 @@ int attach(const SelectionCall& call) {
 }
 
 /// The library's own check answers with the largest number there is, in 309 digits.
-CLI::Validator wholeNumber() {
-    return {[](const std::string& text) {
-                std::size_t number = 0;
-                return parseField(text, number) ? std::string()
-                                                : '"' + text + "\" is no whole number from 0 on";
-            },
-            ""};
+Complaint wholeNumber() {
+    return [](const std::string& text) {
+        std::size_t number = 0;
+        return parseField(text, number) ? std::string()
+                                        : '"' + text + "\" is no whole number from 0 on";
+    };
 }
 
-void addRank(CLI::App& selection, const std::shared_ptr<SelectionCall>& call, int& status) {
-    CLI::App* command = selection.add_subcommand("rank", "The ranking of each category");
-    command->add_option("FILE", call->file, "Selection file (.kvsr) of any layout")->required();
-    command->add_option("--bonus", call->bonus, "Kind of bonus that counts, from 0")
-        ->check(wholeNumber());
-    command->add_flag("--json", call->json, "Print one JSON document");
-    command->add_option("--pdf", call->pdf, "Folder to write both reports into");
-    command->add_flag("--write", call->write, "Store percentages and scores in the file");
-    command->footer("Percentages in brackets do not count: the worst race, with a bonus the second "
-                    "worst too. Without --write the file is only read.");
-    command->callback([call, &status] { status = rank(*call); });
+void addRank(Command selection, const std::shared_ptr<SelectionCall>& call, int& status) {
+    Command command = selection.command("rank", "The ranking of each category");
+    command.option("FILE", call->file, "Selection file (.kvsr) of any layout").required();
+    command.option("--bonus", call->bonus, "Kind of bonus that counts, from 0")
+        .check(wholeNumber());
+    command.flag("--json", call->json, "Print one JSON document");
+    command.option("--pdf", call->pdf, "Folder to write both reports into");
+    command.flag("--write", call->write, "Store percentages and scores in the file");
+    command.footer("Percentages in brackets do not count: the worst race, with a bonus the second "
+                   "worst too. Without --write the file is only read.");
+    command.onRun([call, &status] { status = rank(*call); });
 }
 
-void addImportAthletes(CLI::App& selection, const std::shared_ptr<SelectionCall>& call,
-                       int& status) {
-    CLI::App* command =
-        selection.add_subcommand("import-athletes", "Adds athletes from a list to a selection");
-    command->add_option("FILE", call->file, "Selection file (.kvsr)")->required();
-    command->add_option("LIST", call->list, "Text with lines Cat;Name;Surname;year;club")
-        ->required();
-    command->footer("The first line of the list holds titles and is skipped. Lines that could not "
-                    "be taken are printed, and counted on standard error; when none could be "
-                    "taken, nothing is written and the exit status is 1.");
-    command->callback([call, &status] { status = importList(*call); });
+void addImportAthletes(Command selection, const std::shared_ptr<SelectionCall>& call, int& status) {
+    Command command =
+        selection.command("import-athletes", "Adds athletes from a list to a selection");
+    command.option("FILE", call->file, "Selection file (.kvsr)").required();
+    command.option("LIST", call->list, "Text with lines Cat;Name;Surname;year;club").required();
+    command.footer("The first line of the list holds titles and is skipped. Lines that could not "
+                   "be taken are printed, and counted on standard error; when none could be "
+                   "taken, nothing is written and the exit status is 1.");
+    command.onRun([call, &status] { status = importList(*call); });
 }
 
-void addAttach(CLI::App& selection, const std::shared_ptr<SelectionCall>& call, int& status) {
-    CLI::App* command =
-        selection.add_subcommand("attach", "Takes the results of a race from its split files");
-    command->add_option("FILE", call->file, "Selection file (.kvsr)")->required();
+void addAttach(Command selection, const std::shared_ptr<SelectionCall>& call, int& status) {
+    Command command =
+        selection.command("attach", "Takes the results of a race from its split files");
+    command.option("FILE", call->file, "Selection file (.kvsr)").required();
     command
-        ->add_option("--race", call->race,
-                     "Race of the selection: its name, or its number counted from 0")
-        ->required();
-    command->add_option("--bonus", call->bonus, "Kind of bonus that counts in the scores, from 0")
-        ->check(wholeNumber());
-    command->add_option("SPLITFILE", call->splitFiles, "Split files (.kvx) of the race")
-        ->required();
-    command->footer("Of several runs of an athlete the best one counts. Who has none gets a "
-                    "missing result, in the categories that were raced. An expected time stays "
-                    "where the split file has none.");
-    command->callback([call, &status] { status = attach(*call); });
+        .option("--race", call->race,
+                "Race of the selection: its name, or its number counted from 0")
+        .required();
+    command.option("--bonus", call->bonus, "Kind of bonus that counts in the scores, from 0")
+        .check(wholeNumber());
+    command.option("SPLITFILE", call->splitFiles, "Split files (.kvx) of the race").required();
+    command.footer("Of several runs of an athlete the best one counts. Who has none gets a "
+                   "missing result, in the categories that were raced. An expected time stays "
+                   "where the split file has none.");
+    command.onRun([call, &status] { status = attach(*call); });
 }
 
 } // namespace
 
-void addSelection(CLI::App& app, int& status) {
+void addSelection(Command program, int& status) {
     const auto call = std::make_shared<SelectionCall>();
-    CLI::App* selection = app.add_subcommand("selection", "Selection races and their ranking");
-    selection->require_subcommand(1);
-    addRank(*selection, call, status);
-    addImportAthletes(*selection, call, status);
-    addAttach(*selection, call, status);
+    Command selection = program.command("selection", "Selection races and their ranking");
+    selection.needsCommand();
+    addRank(selection, call, status);
+    addImportAthletes(selection, call, status);
+    addAttach(selection, call, status);
 }
 
 } // namespace kavela::cli

@@ -7,8 +7,6 @@
 #include "cli/show_text.h"
 #include "splitdata/loader.h"
 
-#include <CLI/CLI.hpp>
-
 #include <memory>
 #include <set>
 
@@ -85,22 +83,21 @@ int show(const ShowCall& call) {
 
 } // namespace
 
-void addShow(CLI::App& app, int& status) {
+void addShow(Command program, int& status) {
     const auto call = std::make_shared<ShowCall>();
-    CLI::App* command = app.add_subcommand("show", "Prints the coloured split table of a race");
-    command->add_option("FILE", call->file, "Split file (.kvx) of any release")->required();
-    command->add_option("--mode", call->mode, "Colours: race or training")
-        ->check(CLI::IsMember({"race", "training"}));
-    command->add_flag("--accumulated", call->accumulated, "Times from the start to each split");
-    command->add_flag("--penalties-included,!--no-penalties-included", call->penaltiesIncluded,
-                      "Add penalty seconds to the times");
-    command->add_flag("--penalties-visible,!--no-penalties-visible", call->penaltiesVisible,
-                      "Show penalty seconds behind the times");
-    command->add_option("--category", call->category, "Only runs of this category");
-    command->add_option("--phase", call->phase, "Only runs of this phase");
-    command->add_flag("--json", call->json, "Print one JSON document");
-    command->footer("A file of an older release is read without being rewritten.");
-    command->callback([call, &status] { status = show(*call); });
+    Command command = program.command("show", "Prints the coloured split table of a race");
+    command.option("FILE", call->file, "Split file (.kvx) of any release").required();
+    command.option("--mode", call->mode, "Colours: race or training").oneOf({"race", "training"});
+    command.flag("--accumulated", call->accumulated, "Times from the start to each split");
+    command.flag("--penalties-included,!--no-penalties-included", call->penaltiesIncluded,
+                 "Add penalty seconds to the times");
+    command.flag("--penalties-visible,!--no-penalties-visible", call->penaltiesVisible,
+                 "Show penalty seconds behind the times");
+    command.option("--category", call->category, "Only runs of this category");
+    command.option("--phase", call->phase, "Only runs of this phase");
+    command.flag("--json", call->json, "Print one JSON document");
+    command.footer("A file of an older release is read without being rewritten.");
+    command.onRun([call, &status] { status = show(*call); });
 }
 
 } // namespace kavela::cli

@@ -8,8 +8,6 @@
 #include "cli/strokes_text.h"
 #include "common/safe_file.h"
 
-#include <CLI/CLI.hpp>
-
 #include <memory>
 
 namespace kavela::cli {
@@ -65,19 +63,19 @@ int showStrokes(const StrokesCall& call) {
 
 } // namespace
 
-void addStrokes(CLI::App& app, int& status) {
+void addStrokes(Command program, int& status) {
     const auto call = std::make_shared<StrokesCall>();
-    CLI::App* command =
-        app.add_subcommand("strokes", "Finds the strokes and turns of a boat-motion recording");
-    command->add_option("FILE", call->file, "Raw recording (.kvb)")->required();
-    command->add_flag("--json", call->json, "Print one JSON document");
-    command->add_option("--csv", call->csv, "File to write: semicolon-separated text");
-    addProfileOptions(*command, call->profile);
-    command->footer(
+    Command command =
+        program.command("strokes", "Finds the strokes and turns of a boat-motion recording");
+    command.option("FILE", call->file, "Raw recording (.kvb)").required();
+    command.flag("--json", call->json, "Print one JSON document");
+    command.option("--csv", call->csv, "File to write: semicolon-separated text");
+    addProfileOptions(command, call->profile);
+    command.footer(
         "The recording is only read. Phases, force and power are estimates from the "
         "hull's motion. Without other word the mass is the recorded athlete's with 13 kg of boat "
         "and kit, the boat that of the recorded discipline.");
-    command->callback([call, &status] { status = showStrokes(*call); });
+    command.onRun([call, &status] { status = showStrokes(*call); });
 }
 
 } // namespace kavela::cli

@@ -1,6 +1,5 @@
 #include "cli/strokes_profile.h"
 
-#include <CLI/CLI.hpp>
 #include <fmt/format.h>
 
 #include <algorithm>
@@ -55,28 +54,26 @@ std::optional<double> numberOf(std::string text) {
     return isWhole ? std::optional(value) : std::nullopt;
 }
 
-CLI::Validator numberWithin(double least, double most, const char* unit) {
-    return {[=](const std::string& text) {
-                const auto value = numberOf(text);
-                return value && *value >= least && *value <= most
-                           ? std::string()
-                           : fmt::format("\"{}\" is no number from {:g} to {:g} {}.", text, least,
-                                         most, unit);
-            },
-            ""};
+Complaint numberWithin(double least, double most, const char* unit) {
+    return [=](const std::string& text) {
+        const auto value = numberOf(text);
+        return value && *value >= least && *value <= most
+                   ? std::string()
+                   : fmt::format("\"{}\" is no number from {:g} to {:g} {}.", text, least, most,
+                                 unit);
+    };
 }
 
 template <class Table>
-CLI::Validator wordOf(const Table& table) {
-    return {[&table](const std::string& text) {
-                if (valueOf(table, text))
-                    return std::string();
-                std::string names;
-                for (const auto& [name, value] : table)
-                    names += (names.empty() ? "" : ", ") + std::string(name);
-                return fmt::format("\"{}\" is none of: {}.", text, names);
-            },
-            ""};
+Complaint wordOf(const Table& table) {
+    return [&table](const std::string& text) {
+        if (valueOf(table, text))
+            return std::string();
+        std::string names;
+        for (const auto& [name, value] : table)
+            names += (names.empty() ? "" : ", ") + std::string(name);
+        return fmt::format("\"{}\" is none of: {}.", text, names);
+    };
 }
 
 } // namespace
@@ -90,28 +87,28 @@ MotionProfile StrokesProfile::over(MotionProfile profile) const {
     return profile;
 }
 
-void addProfileOptions(CLI::App& command, StrokesProfile& profile) {
+void addProfileOptions(Command command, StrokesProfile& profile) {
     command
-        .add_option_function<std::string>(
+        .option(
             "--bow", [&](const std::string& text) { profile.bow = valueOf(Sides, text); },
             "Side of the phone that points to the bow, where fixes do not tell: top, bottom, "
             "right, left, back or screen")
-        ->check(wordOf(Sides));
+        .check(wordOf(Sides));
     command
-        .add_option_function<std::string>(
+        .option(
             "--mass", [&](const std::string& text) { profile.mass = numberOf(text); },
             "Athlete, boat and kit in kg")
-        ->check(numberWithin(20, 300, "kg"));
+        .check(numberWithin(20, 300, "kg"));
     command
-        .add_option_function<std::string>(
+        .option(
             "--drag", [&](const std::string& text) { profile.drag = numberOf(text); },
             "Resistance of the hull over the square of its speed in N·s²/m²")
-        ->check(numberWithin(0, 50, "N·s²/m²"));
+        .check(numberWithin(0, 50, "N·s²/m²"));
     command
-        .add_option_function<std::string>(
+        .option(
             "--boat", [&](const std::string& text) { profile.boat = valueOf(Boats, text); },
             "Class of boat: k1, c1, c2, kayak or canoe")
-        ->check(wordOf(Boats));
+        .check(wordOf(Boats));
 }
 
 } // namespace kavela::cli

@@ -1,12 +1,9 @@
 #pragma once
 
 #include "boatmotion/strokes/motion_analysis.h"
+#include "cli/call.h"
 
 #include <optional>
-
-namespace CLI {
-class App;
-}
 
 namespace kavela::cli {
 
@@ -23,6 +20,6 @@ struct StrokesProfile {
 
 /// Adds --bow, --mass, --drag and --boat, each with a refusal that names what it takes. `profile`
 /// must outlive the call.
-void addProfileOptions(CLI::App& command, StrokesProfile& profile);
+void addProfileOptions(Command command, StrokesProfile& profile);
 
 } // namespace kavela::cli

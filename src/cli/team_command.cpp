@@ -11,8 +11,6 @@
 #include "results/team_seasons.h"
 #include "splitdata/loader.h"
 
-#include <CLI/CLI.hpp>
-
 #include <memory>
 #include <optional>
 
@@ -115,33 +113,32 @@ int categorize(const TeamCall& call) {
     return print(call.json ? encode(all) + '\n' : categorizationText(all, call)) ? Done : NotDone;
 }
 
-CLI::App* addCall(CLI::App& team, const char* name, const char* help, TeamCall& call) {
-    CLI::App* command = team.add_subcommand(name, help);
-    command->add_option("FILE", call.file, "Team file (.kvteam)")->required();
+Command addCall(Command team, const char* name, const char* help, TeamCall& call) {
+    Command command = team.command(name, help);
+    command.option("FILE", call.file, "Team file (.kvteam)").required();
     command
-        ->add_option("--category", call.category,
-                     "Category, letter for letter as in the file: MK1, WK1, MC1, WC1, MX1, WX1")
-        ->required();
-    command->add_flag("--json", call.json, "Print one JSON document");
+        .option("--category", call.category,
+                "Category, letter for letter as in the file: MK1, WK1, MC1, WC1, MX1, WX1")
+        .required();
+    command.flag("--json", call.json, "Print one JSON document");
     return command;
 }
 
 } // namespace
 
-void addTeam(CLI::App& app, int& status) {
+void addTeam(Command program, int& status) {
     const auto call = std::make_shared<TeamCall>();
-    CLI::App* team = app.add_subcommand("team", "What the athletes of a team reached");
-    team->require_subcommand(1);
-    CLI::App* summary =
-        addCall(*team, "summary", "Counts an athlete's medals and places of all seasons", *call);
-    summary->add_option("--athlete", call->athlete, "Name of the athlete")->required();
-    summary->footer("A race without a final position counts as a medal here.");
-    summary->callback([call, &status] { status = summarize(*call); });
-    CLI::App* categorization =
-        addCall(*team, "categorize", "Puts athletes into levels by their first two seasons", *call);
-    categorization->add_option("--pdf", call->pdf,
-                               "Folder to write \"2025 Categorization.pdf\" into");
-    categorization->callback([call, &status] { status = categorize(*call); });
+    Command team = program.command("team", "What the athletes of a team reached");
+    team.needsCommand();
+    Command summary =
+        addCall(team, "summary", "Counts an athlete's medals and places of all seasons", *call);
+    summary.option("--athlete", call->athlete, "Name of the athlete").required();
+    summary.footer("A race without a final position counts as a medal here.");
+    summary.onRun([call, &status] { status = summarize(*call); });
+    Command categorization =
+        addCall(team, "categorize", "Puts athletes into levels by their first two seasons", *call);
+    categorization.option("--pdf", call->pdf, "Folder to write \"2025 Categorization.pdf\" into");
+    categorization.onRun([call, &status] { status = categorize(*call); });
 }
 
 } // namespace cli

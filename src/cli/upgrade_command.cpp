@@ -11,8 +11,6 @@
 #include "results/selection_file.h"
 #include "splitdata/loader.h"
 
-#include <CLI/CLI.hpp>
-
 #include <algorithm>
 #include <array>
 #include <memory>
@@ -163,19 +161,19 @@ int upgradeAll(const std::vector<std::string>& paths) {
 
 } // namespace
 
-void addUpgrade(CLI::App& app, int& status) {
+void addUpgrade(Command program, int& status) {
     const auto paths = std::make_shared<std::vector<std::string>>();
-    CLI::App* command =
-        app.add_subcommand("upgrade", "Brings files of older releases to the current version");
+    Command command =
+        program.command("upgrade", "Brings files of older releases to the current version");
     command
-        ->add_option("PATH", *paths,
-                     "Split files, selection races, plannings and recordings, or folders")
-        ->required();
-    command->footer("Split files are rewritten in place, safely: on any failure the old file stays "
-                    "as it is. So are selection races (.kvsr) and plannings (.planning), whose "
-                    "previous file is kept beside them with \"_old\" in its name. A raw recording "
-                    "(.kvb) of version 4 is converted to a new file beside it.");
-    command->callback([paths, &status] { status = upgradeAll(*paths); });
+        .option("PATH", *paths,
+                "Split files, selection races, plannings and recordings, or folders")
+        .required();
+    command.footer("Split files are rewritten in place, safely: on any failure the old file stays "
+                   "as it is. So are selection races (.kvsr) and plannings (.planning), whose "
+                   "previous file is kept beside them with \"_old\" in its name. A raw recording "
+                   "(.kvb) of version 4 is converted to a new file beside it.");
+    command.onRun([paths, &status] { status = upgradeAll(*paths); });
 }
 
 } // namespace kavela::cli

@@ -1,0 +1,110 @@
+#include "cli/call.h"
+
+#include "cli/console.h"
+
+#include <CLI/CLI.hpp>
+
+#include <utility>
+
+namespace kavela::cli {
+
+namespace {
+
+/// Columns of the names in a help text.
+constexpr std::size_t NameColumns = 34;
+
+} // namespace
+
+Option& Option::required() {
+    m_option->required();
+    return *this;
+}
+
+Option& Option::check(Complaint complaint) {
+    m_option->check(std::move(complaint), "");
+    return *this;
+}
+
+Option& Option::oneOf(std::vector<std::string> words) {
+    m_option->check(CLI::IsMember(std::move(words)));
+    return *this;
+}
+
+Command Command::command(const std::string& name, const std::string& help) {
+    return Command(*m_app->add_subcommand(name, help));
+}
+
+void Command::needsCommand() {
+    m_app->require_subcommand(1);
+}
+
+void Command::footer(const std::string& text) {
+    m_app->footer(text);
+}
+
+void Command::onRun(std::function<void()> work) {
+    m_app->callback(std::move(work));
+}
+
+Option Command::option(const std::string& name, std::string& value, const std::string& help) {
+    return Option(*m_app->add_option(name, value, help));
+}
+
+Option Command::option(const std::string& name, std::vector<std::string>& values,
+                       const std::string& help) {
+    return Option(*m_app->add_option(name, values, help));
+}
+
+Option Command::option(const std::string& name, std::optional<std::size_t>& value,
+                       const std::string& help) {
+    return Option(*m_app->add_option(name, value, help));
+}
+
+Option Command::option(const std::string& name, std::int64_t& value, const std::string& help) {
+    return Option(*m_app->add_option(name, value, help));
+}
+
+Option Command::option(const std::string& name, double& value, const std::string& help) {
+    return Option(*m_app->add_option(name, value, help));
+}
+
+Option Command::option(const std::string& name, std::function<void(const std::string& text)> take,
+                       const std::string& help) {
+    return Option(*m_app->add_option_function<std::string>(name, take, help));
+}
+
+void Command::flag(const std::string& name, bool& value, const std::string& help) {
+    m_app->add_flag(name, value, help);
+}
+
+void Command::flag(const std::string& names, int& count, const std::string& help) {
+    m_app->add_flag(names, count, help);
+}
+
+Call::Call(const std::string& name, const std::string& help, const std::string& version)
+    : m_app(std::make_unique<CLI::App>(help, name)) {
+    m_app->set_version_flag("--version", version);
+    m_app->require_subcommand(0, 1);
+    m_app->get_formatter()->column_width(NameColumns);
+}
+
+Call::~Call() = default;
+
+Command Call::program() {
+    return Command(*m_app);
+}
+
+std::optional<int> Call::run(int argc, char** argv) {
+    try {
+        m_app->parse(argc, argv);
+    } catch (const CLI::ParseError& error) {
+        return m_app->exit(error) == 0 ? Done : WrongCall;
+    }
+    return std::nullopt;
+}
+
+bool Call::namesCommand() const {
+    return !m_app->get_subcommands().empty();
+}
+
+} // namespace kavela::cli
