@@ -1,147 +1,63 @@
 #include "common/folded_text.h"
 
+#include "common/utf8.h"
+
+#include <utf8proc.h>
+
 #include <algorithm>
 #include <array>
-#include <unordered_map>
 
 namespace kavela {
 
 namespace {
 
-struct Accents {
+struct PlainLetters {
+    char32_t letter;
     std::string_view plain;
-    std::string_view accented;
 };
 
-constexpr std::array AccentTable = std::to_array<Accents>({
-    {"a", "àáâãäåāăąǎǟǡǻȁȃȧḁạảấầẩẫậắằẳẵặ"},
-    {"ae", "æǣǽ"},
-    {"b", "ḃḅḇ"},
-    {"c", "çćĉċčḉ"},
-    {"d", "ðďđḋḍḏḑḓ"},
-    {"e", "èéêëēĕėęěȅȇȩḕḗḙḛḝẹẻẽếềểễệ"},
-    {"f", "ḟ"},
-    {"g", "ĝğġģǧǵḡ"},
-    {"h", "ĥħȟḣḥḧḩḫẖ"},
-    {"i", "ìíîïĩīĭįıǐȉȋḭḯỉị"},
-    {"ij", "ĳ"},
-    {"j", "ĵǰ"},
-    {"k", "ķĸǩḱḳḵ"},
-    {"l", "ĺļľŀłḷḹḻḽ"},
-    {"m", "ḿṁṃ"},
-    {"n", "ñńņňŉŋǹṅṇṉṋ"},
-    {"o", "òóôõöøōŏőơǒǫǭǿȍȏȫȭȯȱṍṏṑṓọỏốồổỗộớờởỡợ"},
-    {"oe", "œ"},
-    {"p", "ṕṗ"},
-    {"r", "ŕŗřȑȓṙṛṝṟ"},
-    {"s", "śŝşšſșṡṣṥṧṩẛ"},
-    {"ss", "ß"},
-    {"t", "ţťŧțṫṭṯṱẗ"},
-    {"th", "þ"},
-    {"u", "ùúûüũūŭůűųưǔǖǘǚǜȕȗṳṵṷṹṻụủứừửữự"},
-    {"v", "ṽṿ"},
-    {"w", "ŵẁẃẅẇẉẘ"},
-    {"x", "ẋẍ"},
-    {"y", "ýÿŷȝȳẏẙỳỵỷỹ"},
-    {"z", "źżžƶẑẓẕ"},
-    {"α", "ά"},
-    {"ε", "έ"},
-    {"η", "ή"},
-    {"ι", "ίϊΐ"},
-    {"ο", "ό"},
-    {"σ", "ς"},
-    {"υ", "ΰϋύ"},
-    {"ω", "ώ"},
-    {"а", "ӑӓ"},
-    {"г", "ѓ"},
-    {"е", "ѐёӗ"},
-    {"ж", "ӂӝ"},
-    {"з", "ӟ"},
-    {"и", "йѝӣӥ"},
-    {"к", "ќ"},
-    {"о", "ӧ"},
-    {"у", "ўӯӱӳ"},
-    {"ч", "ӵ"},
-    {"ы", "ӹ"},
-    {"э", "ӭ"},
-    {"і", "ї"},
+/// Small letters that are no accented ones to Unicode, but are to those who type a name.
+constexpr std::array PlainTable = std::to_array<PlainLetters>({
+    {U'æ', "ae"},
+    {U'ð', "d"},
+    {U'ø', "o"},
+    {U'þ', "th"},
+    {U'đ', "d"},
+    {U'ħ', "h"},
+    {U'ı', "i"},
+    {U'ĳ', "ij"},
+    {U'ĸ', "k"},
+    {U'ŀ', "l"},
+    {U'ł', "l"},
+    {U'ŉ', "n"},
+    {U'ŋ', "n"},
+    {U'œ', "oe"},
+    {U'ŧ', "t"},
+    {U'ƶ', "z"},
 });
 
-using PlainLetters = std::unordered_map<char32_t, std::string_view>;
-
-const PlainLetters& plainLetters() {
-    static const PlainLetters Letters = [] {
-        PlainLetters letters;
-        for (const Accents& row : AccentTable)
-            for (const char32_t letter : charactersIn(row.accented))
-                letters.emplace(letter, row.plain);
-        return letters;
-    }();
-    return Letters;
+/// Accents, which stand behind their letter once they are taken apart.
+bool isAccent(char32_t character) {
+    return character >= 0x0300 && character <= 0x036F;
 }
 
-bool isWithin(char32_t character, char32_t first, char32_t last) {
-    return character >= first && character <= last;
+/// A character in small letters, its accents apart. Their number is small, that of "ΐ" 3.
+std::u32string takenApart(char32_t character) {
+    constexpr auto How = static_cast<utf8proc_option_t>(UTF8PROC_DECOMPOSE | UTF8PROC_CASEFOLD);
+    std::array<utf8proc_int32_t, 32> parts{};
+    int boundary = 0;
+    const auto count =
+        utf8proc_decompose_char(static_cast<utf8proc_int32_t>(character), parts.data(),
+                                static_cast<utf8proc_ssize_t>(parts.size()), How, &boundary);
+    if (count < 0 || count > static_cast<utf8proc_ssize_t>(parts.size()))
+        return {character};
+    return {parts.begin(), parts.begin() + count};
 }
 
-bool isEven(char32_t character) {
-    return character % 2 == 0;
-}
-
-/// Accents that stand behind their letter, as some systems write the names of files.
-bool isCombining(char32_t character) {
-    return isWithin(character, 0x0300, 0x036F);
-}
-
-void append(std::string& text, char32_t character) {
-    const auto byte = [&](char32_t bits) { text += static_cast<char>(bits); };
-    const auto rest = [&](int shift) { byte(0x80 | ((character >> shift) & 0x3F)); };
-    if (character < 0x80)
-        return byte(character);
-    if (character < 0x800) {
-        byte(0xC0 | (character >> 6));
-    } else if (character < 0x10000) {
-        byte(0xE0 | (character >> 12));
-        rest(6);
-    } else {
-        byte(0xF0 | (character >> 18));
-        rest(12);
-        rest(6);
-    }
-    rest(0);
-}
-
-/// The length of a character's UTF-8 form by its first byte; 0 where none begins.
-std::size_t lengthFrom(unsigned char first) {
-    if (first < 0x80)
-        return 1;
-    if (first >= 0xC2 && first < 0xE0)
-        return 2;
-    if (first >= 0xE0 && first < 0xF0)
-        return 3;
-    return first >= 0xF0 && first < 0xF5 ? 4 : 0;
-}
-
-bool isUnicode(char32_t character, std::size_t length) {
-    constexpr std::array<char32_t, 5> Smallest{0, 0, 0x80, 0x800, 0x10000};
-    return character >= Smallest[length] && character <= 0x10FFFF &&
-           !isWithin(character, 0xD800, 0xDFFF);
-}
-
-/// Takes the first character off a text that is not empty.
-char32_t takeCharacter(std::string_view& text) {
-    constexpr char32_t Malformed = 0xFFFD;
-    const auto at = [&](std::size_t i) { return static_cast<unsigned char>(text[i]); };
-    const std::size_t length = lengthFrom(at(0));
-    char32_t character = length < 2 ? at(0) : at(0) & (0xFFU >> (length + 1));
-    bool isWhole = length > 0 && length <= text.size();
-    for (std::size_t i = 1; isWhole && i < length; ++i) {
-        isWhole = (at(i) & 0xC0U) == 0x80U;
-        character = (character << 6) | (at(i) & 0x3FU);
-    }
-    isWhole = isWhole && isUnicode(character, length);
-    text.remove_prefix(isWhole ? length : 1);
-    return isWhole ? character : Malformed;
+/// The plain letters for one of the table; nothing for any other character.
+std::string_view plainLettersFor(char32_t character) {
+    const auto found = std::ranges::find(PlainTable, character, &PlainLetters::letter);
+    return found == PlainTable.end() ? std::string_view() : found->plain;
 }
 
 bool isDigit(char c) {
@@ -181,65 +97,24 @@ int naturalOrder(std::string_view a, std::string_view b) {
 
 } // namespace
 
-std::u32string charactersIn(std::string_view text) {
-    std::u32string characters;
-    characters.reserve(text.size());
-    while (!text.empty())
-        characters += takeCharacter(text);
-    return characters;
-}
-
-char32_t smallLetter(char32_t c) {
-    if (isWithin(c, 'A', 'Z') || (isWithin(c, 0xC0, 0xDE) && c != 0xD7))
-        return c + 0x20;
-    if (isWithin(c, 0x0391, 0x03AB) || isWithin(c, 0x0410, 0x042F))
-        return c + 0x20;
-    if (isWithin(c, 0x0400, 0x040F))
-        return c + 0x50;
-    switch (c) {
-    case 0x0130:
-        return 'i';
-    case 0x0178:
-        return 0xFF;
-    case 0x0386:
-        return 0x03AC;
-    case 0x0388:
-    case 0x0389:
-    case 0x038A:
-        return c + 0x25;
-    case 0x038C:
-        return 0x03CC;
-    case 0x038E:
-    case 0x038F:
-        return c + 0x3F;
-    case 0x1E9E:
-        return 0xDF;
-    default:
-        break;
-    }
-    // From here on capitals and small letters take turns.
-    if (isWithin(c, 0x0139, 0x0148) || isWithin(c, 0x0179, 0x017E) || isWithin(c, 0x01CD, 0x01DC))
-        return isEven(c) ? c : c + 1;
-    const bool startsEven = isWithin(c, 0x0100, 0x0137) || isWithin(c, 0x014A, 0x0177) ||
-                            isWithin(c, 0x01DE, 0x01EF) || isWithin(c, 0x01F8, 0x021F) ||
-                            isWithin(c, 0x0222, 0x0233) || isWithin(c, 0x0460, 0x0481) ||
-                            isWithin(c, 0x048A, 0x04BF) || isWithin(c, 0x04D0, 0x04FF) ||
-                            isWithin(c, 0x1E00, 0x1E95) || isWithin(c, 0x1EA0, 0x1EFF);
-    return startsEven && isEven(c) ? c + 1 : c;
-}
-
 std::string folded(std::string_view text) {
-    const PlainLetters& plain = plainLetters();
     std::string result;
     result.reserve(text.size());
-    for (const char32_t character : charactersIn(text)) {
-        if (isCombining(character))
-            continue;
-        const char32_t small = smallLetter(character);
-        if (const auto letter = plain.find(small); letter != plain.end())
-            result += letter->second;
+    const auto append = [&](char32_t character) {
+        const std::string_view plain = plainLettersFor(character);
+        if (plain.empty())
+            appendUtf8(result, character);
+        result += plain;
+    };
+    while (!text.empty()) {
+        const char32_t character = takeCharacter(text).value_or(ReplacementCharacter);
+        // "ŉ" as a whole, since an apostrophe would be left of it.
+        if (const char32_t small = smallLetter(character); !plainLettersFor(small).empty())
+            append(small);
         else
-            append(result, small);
+            for (const char32_t part : takenApart(character))
+                if (!isAccent(part))
+                    append(part);
     }
     return result;
 }

@@ -6,12 +6,6 @@
 /// Comparison of names as people write them: without regard to case and accents, numbers by value.
 namespace kavela {
 
-/// The characters of a UTF-8 text; U+FFFD for each malformed byte.
-[[nodiscard]] std::u32string charactersIn(std::string_view text);
-
-/// The small letter of a capital Latin, Greek or Cyrillic letter; any other character as it is.
-[[nodiscard]] char32_t smallLetter(char32_t character);
-
 /// The text in small letters without accents, whether they are part of the letter or stand behind
 /// it: "Šárka ØSTBY" is "sarka ostby". Ligatures become two letters (ß is "ss").
 [[nodiscard]] std::string folded(std::string_view text);

@@ -8,6 +8,7 @@
 #include "common/reference_date.h"
 
 #include <boost/mp11.hpp>
+#include <simdjson.h>
 
 #include <algorithm>
 #include <cstring>
@@ -95,14 +96,20 @@ bool read(simdjson::dom::element element, std::vector<T>& values, Fault& fault) 
     if (element.get(array) != simdjson::SUCCESS)
         return refuse(fault, "an array", element);
     values.clear();
-    // A damaged file can hold a million numbers where records are due: no room before it is earned.
-    constexpr std::size_t MostReserved = (std::size_t{4} << 20) / sizeof(T);
-    values.reserve(std::min(array.size(), MostReserved));
+    // A damaged file can hold a million numbers where records are due: no more room than this is
+    // made before what was made is filled.
+    constexpr std::size_t MostAhead = (std::size_t{4} << 20) / sizeof(T) + 1;
+    const std::size_t count = array.size();
+    std::size_t next = 0;
     for (const simdjson::dom::element entry : array) {
-        if (!read(entry, values.emplace_back(), fault)) {
-            fault.prependIndex(values.size() - 1);
+        // The parser counts up to 2^24 and no further.
+        if (next == values.size())
+            values.resize(std::max(next + 1, std::min(count, next + std::max(next, MostAhead))));
+        if (!read(entry, values[next], fault)) {
+            fault.prependIndex(next);
             return false;
         }
+        ++next;
     }
     return true;
 }

@@ -1,9 +1,10 @@
 #include "common/json_document.h"
 
 #include "common/file_reader.h"
+#include "common/json_fault.h"
 #include "common/large_pages.h"
 
-#include <nlohmann/json.hpp>
+#include <simdjson.h>
 
 #include <algorithm>
 #include <charconv>
@@ -18,36 +19,6 @@ namespace {
 constexpr std::size_t LargestTextToSearch = 64U << 20;
 /// Digits of the smallest whole number that 64 signed bits cannot hold.
 constexpr std::size_t ShortestWideInteger = 19;
-
-/// Accepts everything and remembers where the text stopped being JSON.
-struct FaultFinder : nlohmann::json_sax<nlohmann::json> {
-    std::string fault;
-    bool isExplained = false;
-
-    bool null() override { return true; }
-    bool boolean(bool) override { return true; }
-    bool number_integer(number_integer_t) override { return true; }
-    bool number_unsigned(number_unsigned_t) override { return true; }
-    bool number_float(number_float_t, const string_t&) override { return true; }
-    bool string(string_t&) override { return true; }
-    bool binary(binary_t&) override { return true; }
-    bool start_object(std::size_t) override { return true; }
-    bool key(string_t&) override { return true; }
-    bool end_object() override { return true; }
-    bool start_array(std::size_t) override { return true; }
-    bool end_array() override { return true; }
-    bool parse_error(std::size_t position, const std::string&,
-                     const nlohmann::detail::exception& error) override {
-        // The library's text reads "[json.exception…] parse error at line 1, column 5: what".
-        const std::string_view what = error.what();
-        const auto colon = what.find(": ");
-        fault = "not JSON, byte " + std::to_string(position);
-        if (colon != std::string_view::npos)
-            fault += ": " + std::string(what.substr(colon + 2));
-        isExplained = colon != std::string_view::npos;
-        return false;
-    }
-};
 
 std::string plainText(simdjson::error_code code) {
     switch (code) {
@@ -74,10 +45,10 @@ Fault describe(simdjson::error_code code, std::string_view text) {
     if (code == simdjson::DEPTH_ERROR || code == simdjson::MEMALLOC ||
         text.size() > LargestTextToSearch)
         return {{}, plainText(code)};
-    FaultFinder finder;
-    if (nlohmann::json::sax_parse(text, &finder) || finder.fault.empty())
+    const auto fault = findJsonFault(text);
+    if (!fault)
         return {{}, plainText(code)};
-    return {{}, finder.isExplained ? finder.fault : finder.fault + ": " + plainText(code)};
+    return {{}, "not JSON, byte " + std::to_string(fault->byte) + ": " + std::string(fault->what)};
 }
 
 /// Whether a whole number fits the 64 bits, signed or not, that the parser reads.
@@ -138,17 +109,31 @@ simdjson::error_code parse(simdjson::dom::parser& parser, const simdjson::padded
 
 } // namespace
 
-JsonDocument::JsonDocument(simdjson::padded_string text)
-    : m_parser(std::make_unique<simdjson::dom::parser>()) {
-    simdjson::error_code code = parse(*m_parser, text, m_root);
-    if (code == simdjson::NUMBER_ERROR)
-        code = parse(*m_parser, simdjson::padded_string(withWideIntegersAsDoubles(text)), m_root);
-    if (code != simdjson::SUCCESS)
-        throw DecodeError(describe(code, text));
+struct JsonDocument::Tree {
+    explicit Tree(const simdjson::padded_string& text) {
+        simdjson::error_code code = parse(parser, text, root);
+        if (code == simdjson::NUMBER_ERROR)
+            code = parse(parser, simdjson::padded_string(withWideIntegersAsDoubles(text)), root);
+        if (code != simdjson::SUCCESS)
+            throw DecodeError(describe(code, text));
+    }
+
+    simdjson::dom::parser parser;
+    simdjson::dom::element root;
+};
+
+JsonDocument::JsonDocument(std::unique_ptr<Tree> tree) : m_tree(std::move(tree)) {}
+
+JsonDocument::JsonDocument(JsonDocument&&) noexcept = default;
+JsonDocument& JsonDocument::operator=(JsonDocument&&) noexcept = default;
+JsonDocument::~JsonDocument() = default;
+
+simdjson::dom::element JsonDocument::root() const {
+    return m_tree->root;
 }
 
 JsonDocument JsonDocument::fromFile(const std::filesystem::path& path) {
-    return JsonDocument(readObjectText(path));
+    return JsonDocument(std::make_unique<Tree>(readObjectText(path)));
 }
 
 JsonDocument JsonDocument::fromText(std::string_view text) {
@@ -157,7 +142,7 @@ JsonDocument JsonDocument::fromText(std::string_view text) {
         throw std::bad_alloc();
     preferLargePages(padded.data(), padded.size());
     std::copy(text.begin(), text.end(), padded.data());
-    return JsonDocument(std::move(padded));
+    return JsonDocument(std::make_unique<Tree>(padded));
 }
 
 } // namespace kavela

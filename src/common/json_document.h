@@ -2,11 +2,14 @@
 
 #include "common/error.h"
 
-#include <simdjson.h>
-
 #include <filesystem>
 #include <memory>
 #include <string_view>
+
+// The parser's own header is long: only what decodes reads it.
+namespace simdjson::dom {
+class element;
+} // namespace simdjson::dom
 
 namespace kavela {
 
@@ -18,13 +21,19 @@ public:
     /// Parses a text in memory. Throws DecodeError when it is no JSON.
     [[nodiscard]] static JsonDocument fromText(std::string_view text);
 
-    [[nodiscard]] simdjson::dom::element root() const { return m_root; }
+    JsonDocument(JsonDocument&&) noexcept;
+    JsonDocument& operator=(JsonDocument&&) noexcept;
+    ~JsonDocument();
+
+    /// Lives as long as the document.
+    [[nodiscard]] simdjson::dom::element root() const;
 
 private:
-    explicit JsonDocument(simdjson::padded_string text);
+    struct Tree;
 
-    std::unique_ptr<simdjson::dom::parser> m_parser;
-    simdjson::dom::element m_root;
+    explicit JsonDocument(std::unique_ptr<Tree> tree);
+
+    std::unique_ptr<Tree> m_tree;
 };
 
 } // namespace kavela

@@ -1,8 +1,8 @@
 #include "common/json_encode.h"
 
-#include "common/large_pages.h"
+#include "common/utf8.h"
 
-#include <simdjson.h>
+#include "common/large_pages.h"
 
 #include <algorithm>
 #include <charconv>
@@ -91,7 +91,7 @@ bool write(std::string& json, bool value, Fault&) {
 }
 
 bool write(std::string& json, const std::string& value, Fault& fault) {
-    if (!simdjson::validate_utf8(value.data(), value.size())) {
+    if (!isUtf8(value)) {
         fault = {{}, "a text that is not valid UTF-8 cannot be written"};
         return false;
     }

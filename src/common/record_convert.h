@@ -71,9 +71,9 @@ template <Record From, Record To>
 requires(!std::is_same_v<From, To>) void convertValue(std::vector<From>&& from,
                                                       std::vector<To>& to) {
     to.clear();
-    to.reserve(from.size());
-    for (From& value : from)
-        convertValue(std::move(value), to.emplace_back());
+    to.resize(from.size());
+    for (std::size_t i = 0; i < from.size(); ++i)
+        convertValue(std::move(from[i]), to[i]);
 }
 
 template <Record From, Record To>

@@ -2,8 +2,7 @@
 
 #include "common/error.h"
 #include "common/posix_file.h"
-
-#include <simdjson.h>
+#include "common/utf8.h"
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -71,27 +70,13 @@ bool isText(std::string_view bytes) {
     });
 }
 
-void appendUtf8(std::string& text, char16_t letter) {
-    const auto byte = [&](unsigned bits) { text += static_cast<char>(bits); };
-    if (letter < 0x80) {
-        byte(letter);
-    } else if (letter < 0x800) {
-        byte(0xC0U | (letter >> 6U));
-        byte(0x80U | (letter & 0x3FU));
-    } else {
-        byte(0xE0U | (letter >> 12U));
-        byte(0x80U | ((letter >> 6U) & 0x3FU));
-        byte(0x80U | (letter & 0x3FU));
-    }
-}
-
 std::string fromLatin1(std::string_view bytes) {
     std::string text;
     for (const char c : bytes) {
         const auto byte = static_cast<unsigned char>(c);
         const bool isWindows = byte >= 0x80 && byte < 0xA0;
         const char16_t letter = isWindows ? WindowsLetters.at(byte - 0x80U) : char16_t{byte};
-        appendUtf8(text, letter == 0 ? u'\uFFFD' : letter);
+        appendUtf8(text, letter == 0 ? ReplacementCharacter : letter);
     }
     return text;
 }
@@ -100,7 +85,7 @@ std::string fromLatin1(std::string_view bytes) {
 
 std::string readTextFile(const std::filesystem::path& path) {
     std::string text = bytesOf(path);
-    if (!simdjson::validate_utf8(text))
+    if (!isUtf8(text))
         throw DecodeError({{}, "the file is not UTF-8 text"});
     return withoutMark(std::move(text));
 }
@@ -109,7 +94,7 @@ ListText readListText(const std::filesystem::path& path) {
     std::string bytes = bytesOf(path);
     if (!isText(bytes))
         throw DecodeError({{}, "the file is no text; save the list as text (CSV) first"});
-    if (simdjson::validate_utf8(bytes))
+    if (isUtf8(bytes))
         return {withoutMark(std::move(bytes)), false};
     return {fromLatin1(bytes), true};
 }

@@ -1,9 +1,9 @@
 #include "results/athlete_keys.h"
 
 #include "common/folded_text.h"
+#include "common/utf8.h"
 
 #include <algorithm>
-#include <map>
 #include <vector>
 
 namespace kavela {
@@ -54,38 +54,6 @@ std::string joined(std::vector<std::string> keys) {
     for (const std::string& key : keys)
         text += key + '/';
     return text;
-}
-
-char32_t capitalLetter(char32_t letter) {
-    static const std::map<char32_t, char32_t> Capitals = [] {
-        constexpr char32_t EndOfLatin = 0x1F00;
-        std::map<char32_t, char32_t> capitals;
-        for (char32_t capital = U'A'; capital < EndOfLatin; ++capital)
-            if (const char32_t small = smallLetter(capital); small != capital)
-                capitals.emplace(small, capital);
-        return capitals;
-    }();
-    const auto found = Capitals.find(letter);
-    return found == Capitals.end() ? letter : found->second;
-}
-
-void appendUtf8(std::string& text, char32_t character) {
-    const auto byte = [&](char32_t bits) { text += static_cast<char>(bits); };
-    if (character < 0x80) {
-        byte(character);
-    } else if (character < 0x800) {
-        byte(0xc0U | (character >> 6U));
-        byte(0x80U | (character & 0x3fU));
-    } else if (character < 0x10000) {
-        byte(0xe0U | (character >> 12U));
-        byte(0x80U | ((character >> 6U) & 0x3fU));
-        byte(0x80U | (character & 0x3fU));
-    } else {
-        byte(0xf0U | (character >> 18U));
-        byte(0x80U | ((character >> 12U) & 0x3fU));
-        byte(0x80U | ((character >> 6U) & 0x3fU));
-        byte(0x80U | (character & 0x3fU));
-    }
 }
 
 } // namespace

@@ -3,11 +3,13 @@
 #include "common/error.h"
 #include "common/record.h"
 
-#include <simdjson.h>
-
 #include <cstdint>
 #include <string>
 #include <vector>
+
+namespace simdjson::dom {
+class element;
+} // namespace simdjson::dom
 
 /// The selection-race document (.kvsr): the races by which a national team is picked. These are the
 /// current records; their members are the keys of the file, letter for letter. Times are seconds,

@@ -2,10 +2,9 @@
 
 #include "common/error.h"
 #include "common/folded_text.h"
+#include "common/utf8.h"
 #include "splittaking/course_setup.h"
 #include "splittaking/video_names.h"
-
-#include <simdjson.h>
 
 #include <algorithm>
 #include <numeric>
@@ -108,7 +107,7 @@ athletedata031 runOf(const std::string& film, const std::vector<std::string>& na
 } // namespace
 
 bool isAthleteName(std::string_view text) {
-    return simdjson::validate_utf8(text) && !nameWords(text).empty();
+    return isUtf8(text) && !nameWords(text).empty();
 }
 
 bool carriesName(std::string_view fileName, std::string_view athlete) {
@@ -137,7 +136,7 @@ TrainingCollection collectTraining(const fs::path& folder, const TrainingPlan& p
         const auto isCarried = [&](const std::string& name) { return carriesName(film, name); };
         if (names.empty() || !std::all_of(names.begin(), names.end(), isCarried))
             continue;
-        if (simdjson::validate_utf8(film))
+        if (isUtf8(film))
             runs.push_back(runOf(film, names, runs.size() + 1));
         else
             collection.unusable.push_back(film);

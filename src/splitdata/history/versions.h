@@ -4,10 +4,12 @@
 
 #include "common/error.h"
 
-#include <simdjson.h>
-
 #include <span>
 #include <string_view>
+
+namespace simdjson::dom {
+class element;
+} // namespace simdjson::dom
 
 namespace kavela {
 
