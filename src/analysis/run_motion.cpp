@@ -107,8 +107,8 @@ constexpr auto Date = [](const auto& sample) { return sample.date.seconds; };
 
 /// Values with their dates, on the time of the run.
 template <class Sample>
-std::vector<TimedValue> valuesOf(std::span<const Sample> samples, const RunClock& clock,
-                                 double Sample::*value, double least, double most) {
+std::vector<TimedValue> timedValuesOf(std::span<const Sample> samples, const RunClock& clock,
+                                      double Sample::*value, double least, double most) {
     std::vector<TimedValue> values;
     for (const Sample& sample : samples) {
         const double time = clock.momentOf(sample.date.seconds);
@@ -196,9 +196,9 @@ std::optional<RunClock> analyseBoat(const RunArrays& run, const MotionProfile& p
 void placeDated(const RunArrays& run, const std::optional<RunClock>& dates, RunMotion& motion) {
     if (motion.speed.empty())
         if (const auto clock = dates ? dates : clockOf(run.gps, motion.seconds, Date))
-            motion.speed = valuesOf(run.gps, *clock, &gpsrawdata::speed, 0, GreatestSpeed);
+            motion.speed = timedValuesOf(run.gps, *clock, &gpsrawdata::speed, 0, GreatestSpeed);
     if (const auto clock = dates ? dates : clockOf(run.hr, motion.seconds, Date))
-        motion.heart = valuesOf(run.hr, *clock, &heartmotiondata::hr, 1, 300);
+        motion.heart = timedValuesOf(run.hr, *clock, &heartmotiondata::hr, 1, 300);
 }
 
 void countStrokes(const RunMotion& motion, SectionMotion& section) {
@@ -220,7 +220,7 @@ void countStrokes(const RunMotion& motion, SectionMotion& section) {
         section.strokeRate = rates / static_cast<double>(strokes);
 }
 
-void fillSection(const RunMotion& motion, SectionMotion& section) {
+void fillMotion(const RunMotion& motion, SectionMotion& section) {
     if (!(section.end > section.start))
         return;
     if (motion.reason.empty())
@@ -256,8 +256,8 @@ RunMotion runMotion(const RunArrays& run, const MotionProfile& profile) {
     }
     placeDated(run, analyseBoat(run, profile, motion), motion);
     for (SectionMotion& section : motion.sections)
-        fillSection(motion, section);
-    fillSection(motion, motion.whole);
+        fillMotion(motion, section);
+    fillMotion(motion, motion.whole);
     if (motion.whole.cover == MotionCover::Part) {
         motion.whole.strokes.reset();
         motion.whole.turns.reset();

@@ -23,7 +23,7 @@ std::vector<SectionValue> timedValues(const RaceSet& set, std::size_t section,
     return values;
 }
 
-void fillFigures(SectionDistribution& section) {
+void fillDistribution(SectionDistribution& section) {
     std::vector<double> times;
     for (const SectionValue& value : section.values)
         times.push_back(value.time);
@@ -49,7 +49,7 @@ std::vector<SectionDistribution> sectionDistributions(const RaceSet& set, bool p
     for (std::size_t i = 0; i < sections.size(); ++i) {
         sections[i].values = timedValues(set, i, penaltiesIncluded);
         if (!sections[i].values.empty())
-            fillFigures(sections[i]);
+            fillDistribution(sections[i]);
     }
     return sections;
 }

@@ -37,19 +37,20 @@ double momentOf(const heartmotiondata& heart) {
     return heart.date.seconds;
 }
 
-double between(double a, double b, double part) {
+double valueBetween(double a, double b, double part) {
     return a + part * (b - a);
 }
 
 template <class Axes>
 Axes axesBetween(const Axes& a, const Axes& b, double part) {
-    return {between(a.x, b.x, part), between(a.y, b.y, part), between(a.z, b.z, part)};
+    return {valueBetween(a.x, b.x, part), valueBetween(a.y, b.y, part),
+            valueBetween(a.z, b.z, part)};
 }
 
 /// Attitudes jump where an angle has gone round, so that of the nearer sample is taken.
 boatmotionrawdata_v5 valueBetween(const boatmotionrawdata_v5& a, const boatmotionrawdata_v5& b,
                                   double part) {
-    return {between(a.timestamp, b.timestamp, part),
+    return {valueBetween(a.timestamp, b.timestamp, part),
             axesBetween(a.acceleration, b.acceleration, part),
             axesBetween(a.rotationRate, b.rotationRate, part), part < 0.5 ? a.attitude : b.attitude,
             axesBetween(a.gravity, b.gravity, part)};
@@ -57,14 +58,14 @@ boatmotionrawdata_v5 valueBetween(const boatmotionrawdata_v5& a, const boatmotio
 
 gpsrawdata valueBetween(const gpsrawdata& a, const gpsrawdata& b, double part) {
     const bool isSpeedKnown = a.speed >= 0 && b.speed >= 0;
-    return {{between(a.date.seconds, b.date.seconds, part)},
-            isSpeedKnown ? between(a.speed, b.speed, part) : -1,
-            between(a.latitude, b.latitude, part),
-            between(a.longitude, b.longitude, part)};
+    return {{valueBetween(a.date.seconds, b.date.seconds, part)},
+            isSpeedKnown ? valueBetween(a.speed, b.speed, part) : -1,
+            valueBetween(a.latitude, b.latitude, part),
+            valueBetween(a.longitude, b.longitude, part)};
 }
 
 heartmotiondata valueBetween(const heartmotiondata& a, const heartmotiondata& b, double part) {
-    return {{between(a.date.seconds, b.date.seconds, part)}, between(a.hr, b.hr, part)};
+    return {{valueBetween(a.date.seconds, b.date.seconds, part)}, valueBetween(a.hr, b.hr, part)};
 }
 
 /// A sample that says that nothing is known.
@@ -122,8 +123,8 @@ std::vector<Sample> within(std::span<const Sample> samples, const Range& range) 
 /// The samples from the beginning of a range to its end, one on each edge; none when none lies
 /// in the run itself.
 template <class Sample>
-std::vector<Sample> cut(const std::vector<Sample>& samples, const Range& range, const Range& run,
-                        double longestBridge) {
+std::vector<Sample> cutSamples(const std::vector<Sample>& samples, const Range& range,
+                               const Range& run, double longestBridge) {
     const std::span<const Sample> all(samples);
     if (within(all, run).empty())
         return {};
@@ -212,7 +213,7 @@ AttachedPart partOf(const bmrawdata_v5& session, const ClockFit& fit, double run
     const Range run{fit.stampAt(runStart), fit.stampAt(runEnd)};
     const Range range{fit.stampAt(runStart - AttachMargin), fit.stampAt(runEnd + AttachMargin)};
     AttachedPart part;
-    part.bm = cut(session.boatmotion, range, run, LongestMotionBridge);
+    part.bm = cutSamples(session.boatmotion, range, run, LongestMotionBridge);
     if (!session.boatmotion.empty())
         part.notes =
             MotionCover(session.boatmotion, runClock(fit, runStart)).notes(runEnd - runStart);
@@ -223,8 +224,8 @@ AttachedPart partOf(const bmrawdata_v5& session, const ClockFit& fit, double run
     const double offset = dateOffset(session, part.notes);
     const Range dates{range.first + offset, range.last + offset};
     const Range runDates{run.first + offset, run.last + offset};
-    part.gps = cut(session.gps, dates, runDates, LongestFixBridge);
-    part.hr = cut(session.heart, dates, runDates, LongestHeartBridge);
+    part.gps = cutSamples(session.gps, dates, runDates, LongestFixBridge);
+    part.hr = cutSamples(session.heart, dates, runDates, LongestHeartBridge);
     if (part.isEmpty())
         part.notes.emplace_back("The recording does not reach into this run.");
     return part;

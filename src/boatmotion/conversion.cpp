@@ -2,6 +2,7 @@
 
 #include "boatmotion/session_files.h"
 #include "common/error.h"
+#include "common/safe_file.h"
 
 #include <algorithm>
 
@@ -22,11 +23,6 @@ infosessionSmart_v3 processedInfo(const bmrawdata_v5& session) {
             .bladeArea = athlete.bladeArea,
             .bladeHeight = athlete.bladeHeight,
             .handPosition = athlete.handPosition};
-}
-
-bool isTaken(const fs::path& path) {
-    std::error_code ignored;
-    return fs::exists(fs::symlink_status(path, ignored));
 }
 
 void logFailure(const Conversion& conversion, const DiagnosticLog& log) {

@@ -11,11 +11,6 @@ namespace fs = std::filesystem;
 
 namespace {
 
-bool isTaken(const fs::path& path) {
-    std::error_code ignored;
-    return fs::exists(fs::symlink_status(path, ignored));
-}
-
 bool holds(const fs::path& path, const std::string& content) {
     std::error_code error;
     if (fs::file_size(path, error) != content.size() || error)

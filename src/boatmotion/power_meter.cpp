@@ -16,7 +16,7 @@ using Fields = std::vector<std::string_view>;
 constexpr double MostPower = 5000;    // W
 constexpr double LeastHeartRate = 20; // 1/min
 constexpr double MostHeartRate = 250; // 1/min
-constexpr double SecondsOfDay = 86400;
+constexpr double DaySeconds = 86400;
 constexpr double LongestGap = 3;    // s between samples that are joined
 constexpr double HeartDistance = 5; // s
 
@@ -145,7 +145,7 @@ private:
 };
 
 bool isWithinADay(double date, const EditedSession& session) {
-    return std::abs(date - session.session.info.date.seconds) < SecondsOfDay;
+    return std::abs(date - session.session.info.date.seconds) < DaySeconds;
 }
 
 /// What to add to the times of a list to have moments.
@@ -158,7 +158,7 @@ double shiftOf(const PowerMeterList& list, const EditedSession& edited) {
         return -SecondsFrom1970To2001 - edited.clockOffset;
     if (list.isTimeOfDay) {
         const double begin = moments.from + edited.clockOffset;
-        const double midnight = std::floor(begin / SecondsOfDay) * SecondsOfDay;
+        const double midnight = std::floor(begin / DaySeconds) * DaySeconds;
         const bool isDuring = midnight + first <= moments.to + edited.clockOffset &&
                               midnight + list.samples.back().dateDouble >= begin;
         if (isDuring)

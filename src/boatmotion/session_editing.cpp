@@ -12,7 +12,7 @@ namespace kavela {
 
 namespace {
 
-constexpr std::size_t LeastSamples = 100;
+constexpr std::size_t LeastSamplesKept = 100;
 constexpr double FarthestMoment = 1e12; // s: what is further away is a damaged number
 using IsKept = std::function<bool(double moment)>;
 
@@ -58,7 +58,7 @@ void cutRecording(EditedSession& edited, const IsKept& isKept) {
     edited.recording = std::make_shared<const bmrawdata_v5>(std::move(recording));
 }
 
-std::optional<EditedSession> cut(const EditedSession& session, const IsKept& isKept) {
+std::optional<EditedSession> cutSession(const EditedSession& session, const IsKept& isKept) {
     EditedSession result = session;
     const auto dated = [&](const auto& sample) { return sample.date.seconds - result.clockOffset; };
     keep(result.session.strokesData, isKept, [](const auto& entry) { return entry.timestamp; });
@@ -72,7 +72,7 @@ std::optional<EditedSession> cut(const EditedSession& session, const IsKept& isK
     if (!result.recording)
         return result.session.strokesData.empty() ? std::nullopt : std::optional(std::move(result));
     cutRecording(result, isKept);
-    if (result.recording->boatmotion.size() < LeastSamples)
+    if (result.recording->boatmotion.size() < LeastSamplesKept)
         return std::nullopt;
     return result;
 }
@@ -138,13 +138,13 @@ MomentRange momentsOf(const EditedSession& edited) {
 }
 
 std::optional<EditedSession> keptRange(const EditedSession& session, MomentRange range) {
-    return cut(session,
-               [range](double moment) { return moment >= range.from && moment < range.to; });
+    return cutSession(session,
+                      [range](double moment) { return moment >= range.from && moment < range.to; });
 }
 
 std::optional<EditedSession> withoutRange(const EditedSession& session, MomentRange range) {
-    return cut(session,
-               [range](double moment) { return moment < range.from || moment >= range.to; });
+    return cutSession(session,
+                      [range](double moment) { return moment < range.from || moment >= range.to; });
 }
 
 void setMarks(EditedSession& edited, std::vector<double> marks) {

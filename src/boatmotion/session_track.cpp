@@ -8,7 +8,7 @@ namespace kavela {
 
 namespace {
 
-constexpr double LongestHole = 10;        // s
+constexpr double LongestTrackHole = 10;   // s
 constexpr double EarthRadius = 6371008.8; // m
 constexpr double FastestBoat = 30;        // m/s: more is the receiver's error
 constexpr double DegreesToRadians = std::numbers::pi / 180;
@@ -22,7 +22,7 @@ bool isSpeed(double speed) {
     return speed > 0 && speed < FastestBoat;
 }
 
-TrackPlace pointOf(const gpsrawdata& fix, const TrackPlace& first, double clockOffset) {
+TrackPlace trackPlaceOf(const gpsrawdata& fix, const TrackPlace& first, double clockOffset) {
     TrackPlace point;
     point.time = fix.date.seconds - clockOffset;
     point.latitude = fix.latitude;
@@ -36,7 +36,7 @@ TrackPlace pointOf(const gpsrawdata& fix, const TrackPlace& first, double clockO
 
 double stepBetween(const TrackPlace& from, const TrackPlace& to) {
     const double seconds = to.time - from.time;
-    if (from.speed > 0 && to.speed > 0 && seconds <= LongestHole)
+    if (from.speed > 0 && to.speed > 0 && seconds <= LongestTrackHole)
         return (from.speed + to.speed) / 2 * seconds;
     return std::hypot(to.east - from.east, to.north - from.north);
 }
@@ -53,7 +53,7 @@ Track trackOf(std::span<const gpsrawdata> fixes, double clockOffset) {
         TrackPlace first;
         first.latitude = ordered.front().latitude;
         first.longitude = ordered.front().longitude;
-        TrackPlace point = pointOf(fix, first, clockOffset);
+        TrackPlace point = trackPlaceOf(fix, first, clockOffset);
         if (!track.empty()) {
             if (point.time <= track.back().time)
                 continue;
@@ -70,7 +70,7 @@ std::optional<TrackPlace> placeAt(const Track& track, double time) {
         return std::nullopt;
     if (next->time == time)
         return *next;
-    if (next == track.begin() || next->time - std::prev(next)->time > LongestHole)
+    if (next == track.begin() || next->time - std::prev(next)->time > LongestTrackHole)
         return std::nullopt;
     const TrackPlace& from = *std::prev(next);
     const double share = (time - from.time) / (next->time - from.time);

@@ -22,7 +22,7 @@ struct CollectCall {
 };
 
 /// Writes the training file; false, after a message, when it cannot be.
-bool isWritten(TrainingCollection& collection, const fs::path& target) {
+bool isCollected(TrainingCollection& collection, const fs::path& target) {
     for (const std::string& film : collection.unusable)
         logLine("The film " + pathText(film) + " is left out: its name is no UTF-8 text.");
     return isSaved(collection.document, target.string());
@@ -50,7 +50,7 @@ int collect(const CollectCall& call) {
                 " exists already. Say --replace to write a new one in its place.");
         return NotDone;
     }
-    if (!isWritten(collection, target))
+    if (!isCollected(collection, target))
         return NotDone;
     const std::string report = std::string(messages::Saved) + ": " + pathText(target) + " with " +
                                counted(runs, "video", "videos") + '\n';

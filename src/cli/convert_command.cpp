@@ -14,7 +14,7 @@ struct ConvertCall {
     std::string name;
 };
 
-std::string summary(const Conversion& conversion) {
+std::string conversionText(const Conversion& conversion) {
     return pathText(conversion.target) + ": " +
            counted(static_cast<std::int64_t>(conversion.strokes), "stroke", "strokes") + ", " +
            counted(static_cast<std::int64_t>(conversion.turns), "turn", "turns") + '\n';
@@ -30,7 +30,7 @@ bool convert(const std::string& file, const std::filesystem::path& target) {
     for (const std::string& note : conversion.notes)
         logLine(note);
     logLine(conversion.message());
-    return print(summary(conversion));
+    return print(conversionText(conversion));
 }
 
 int convertAll(const ConvertCall& call) {

@@ -1,6 +1,7 @@
 #include "cli/demo_films.h"
 
 #include "cli/console.h"
+#include "cli/offscreen_application.h"
 #include "cli/progress_bar.h"
 #include "common/error.h"
 #include "common/parallel.h"
@@ -8,25 +9,15 @@
 #include "films/film_writer.h"
 #include "films/season_films.h"
 
-#include <QGuiApplication>
-
 namespace kavela::cli {
 
 namespace {
 
 namespace fs = std::filesystem;
 
-/// Takes what the font machinery tells programmers.
-void ignoreMessage(QtMsgType, const QMessageLogContext&, const QString&) {}
-
-/// The films that are not there yet. Fonts ask for an application object, and get one that stays
-/// off the screen: a server has none.
+/// The films that are not there yet.
 std::vector<films::PlannedFilm> missingFilms(const fs::path& folder) {
-    std::string arguments[] = {"kavela", "-platform", "offscreen"};
-    char* argv[] = {arguments[0].data(), arguments[1].data(), arguments[2].data(), nullptr};
-    int argc = 3;
-    qInstallMessageHandler(ignoreMessage);
-    const QGuiApplication application(argc, argv);
+    const OffscreenApplication application;
     return films::seasonFilms([&](const fs::path& name) { return !fs::exists(folder / name); });
 }
 

@@ -2,13 +2,12 @@
 
 #include "app/preferences.h"
 #include "cli/console.h"
+#include "cli/offscreen_application.h"
 #include "common/safe_file.h"
 #include "report/pdf_file.h"
 #include "report/race_report.h"
 #include "splitdata/loader.h"
 #include "splittaking/table_export.h"
-
-#include <QGuiApplication>
 
 #include <functional>
 #include <memory>
@@ -35,17 +34,9 @@ TableSettings preferredSettings() {
     return settings;
 }
 
-/// Takes what the font machinery tells programmers, such as which font lacks which script.
-void ignoreMessage(QtMsgType, const QMessageLogContext&, const QString&) {}
-
-/// Paints the report into a file. Fonts ask for an application object, and get one that stays off
-/// the screen: a server has none, and one that cannot be reached would end the program.
+/// Paints the report into a file.
 void writeReport(splittakerdata031 document, const ExportCall& call) {
-    std::string arguments[] = {"kavela", "-platform", "offscreen"};
-    char* argv[] = {arguments[0].data(), arguments[1].data(), arguments[2].data(), nullptr};
-    int argc = 3;
-    qInstallMessageHandler(ignoreMessage);
-    const QGuiApplication application(argc, argv);
+    const OffscreenApplication application;
     report::ReportHeading heading = report::reportHeading(document.info);
     const RaceSet set = makeRaceSet(std::move(document), call.file);
     const report::RaceReport report(std::move(heading), set, preferredSettings(),

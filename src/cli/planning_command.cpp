@@ -12,12 +12,12 @@ namespace kavela::cli {
 
 namespace {
 
-struct ShowCall {
+struct PlanningCall {
     std::string file;
     bool json = false;
 };
 
-int show(const ShowCall& call) {
+int showPlanning(const PlanningCall& call) {
     const RecognisedPlanning planning = recognisePlanningFile(call.file, logLine);
     if (!planning.version) {
         ConsoleAlerts alerts;
@@ -29,7 +29,7 @@ int show(const ShowCall& call) {
 }
 
 /// The same file named twice is upgraded once and current then.
-int upgradeAll(const std::vector<std::string>& files) {
+int upgradePlannings(const std::vector<std::string>& files) {
     using Outcome = PlanningUpgrade::Outcome;
     std::int64_t upgraded = 0;
     std::int64_t failed = 0;
@@ -47,12 +47,12 @@ int upgradeAll(const std::vector<std::string>& files) {
 }
 
 void addPlanningShow(Command planning, int& status) {
-    const auto call = std::make_shared<ShowCall>();
+    const auto call = std::make_shared<PlanningCall>();
     Command command = planning.command("show", "The weeks of each athlete's seasons");
     command.option("FILE", call->file, "Planning (.planning) of any version").required();
     command.flag("--json", call->json, "Print one JSON document");
     command.footer("The file is only read, also one of an older version.");
-    command.onRun([call, &status] { status = show(*call); });
+    command.onRun([call, &status] { status = showPlanning(*call); });
 }
 
 void addPlanningUpgrade(Command planning, int& status) {
@@ -61,7 +61,7 @@ void addPlanningUpgrade(Command planning, int& status) {
     command.option("FILE", *files, "Plannings (.planning) of any version").required();
     command.footer("The files are rewritten in place, safely. The previous file is kept beside "
                    "each as \"NAME_old.planning\".");
-    command.onRun([files, &status] { status = upgradeAll(*files); });
+    command.onRun([files, &status] { status = upgradePlannings(*files); });
 }
 
 } // namespace

@@ -57,12 +57,12 @@ struct SeasonJson {
 };
 BOOST_DESCRIBE_STRUCT(SeasonJson, (), (year, weeks, counts))
 
-struct AthleteJson {
+struct PlannedAthleteJson {
     std::string name;
     std::vector<std::string> categories;
     std::vector<SeasonJson> seasons;
 };
-BOOST_DESCRIBE_STRUCT(AthleteJson, (), (name, categories, seasons))
+BOOST_DESCRIBE_STRUCT(PlannedAthleteJson, (), (name, categories, seasons))
 
 struct FavouriteJson {
     std::string title;
@@ -81,7 +81,7 @@ struct PlanningJson {
     std::string label;
     bool current = false;
     std::string coach;
-    std::vector<AthleteJson> athletes;
+    std::vector<PlannedAthleteJson> athletes;
     std::vector<FavouriteJson> favourites;
 };
 BOOST_DESCRIBE_STRUCT(PlanningJson, (), (record, label, current, coach, athletes, favourites))
@@ -146,7 +146,7 @@ std::string planningJson(const RecognisedPlanning& planning) {
     json.current = planning.isCurrent();
     json.coach = planning.document.coach;
     for (const athletesplanning_v6& athlete : planning.document.athletes) {
-        AthleteJson& entry = json.athletes.emplace_back();
+        PlannedAthleteJson& entry = json.athletes.emplace_back();
         entry.name = athlete.name;
         entry.categories = athlete.categories;
         for (const yearsplannings_v6& season : athlete.year)

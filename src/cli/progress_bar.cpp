@@ -9,7 +9,7 @@ namespace kavela::cli {
 
 namespace {
 constexpr std::size_t ShortWork = 3;
-constexpr std::size_t Width = 40;
+constexpr std::size_t BarWidth = 40;
 } // namespace
 
 ProgressBar::ProgressBar(std::size_t steps)
@@ -28,8 +28,8 @@ void ProgressBar::step() {
 }
 
 void ProgressBar::draw() const {
-    const std::size_t filled = Width * m_done / m_steps;
-    const std::string bar = std::string(filled, '#') + std::string(Width - filled, '.');
+    const std::size_t filled = BarWidth * m_done / m_steps;
+    const std::string bar = std::string(filled, '#') + std::string(BarWidth - filled, '.');
     std::fprintf(stderr, "\r[%s] %zu of %zu files", bar.c_str(), m_done, m_steps);
 }
 

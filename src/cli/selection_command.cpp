@@ -102,7 +102,7 @@ int rank(const SelectionCall& call) {
     return print(output) ? Done : NotDone;
 }
 
-std::string importText(const ListImport& import) {
+std::string athletesText(const ListImport& import) {
     std::string text = counted(import.imported, "athlete", "athletes") + " imported";
     if (!import.skipped.empty())
         text += ", " + counted(static_cast<std::int64_t>(import.skipped.size()), "line", "lines") +
@@ -150,7 +150,7 @@ void tellOddities(const ListImport& import, const std::string& list) {
 }
 
 /// A list of which nothing could be taken is a failure, unless everybody in it is there already.
-int importList(const SelectionCall& call) {
+int importAthletes(const SelectionCall& call) {
     auto document = openedForChange(call.file);
     if (!document)
         return NotDone;
@@ -167,7 +167,7 @@ int importList(const SelectionCall& call) {
         import.imported == 0 && std::cmp_greater(import.skipped.size(), import.present);
     if (!isInVain && !saveSelectionFile(*document, call.file, logLine))
         return NotDone;
-    return print(importText(import)) && !isInVain ? Done : NotDone;
+    return print(athletesText(import)) && !isInVain ? Done : NotDone;
 }
 
 std::string resultText(const saRaceStruct& result) {
@@ -287,7 +287,7 @@ void addImportAthletes(Command selection, const std::shared_ptr<SelectionCall>& 
     command.footer("The first line of the list holds titles and is skipped. Lines that could not "
                    "be taken are printed, and counted on standard error; when none could be "
                    "taken, nothing is written and the exit status is 1.");
-    command.onRun([call, &status] { status = importList(*call); });
+    command.onRun([call, &status] { status = importAthletes(*call); });
 }
 
 void addAttach(Command selection, const std::shared_ptr<SelectionCall>& call, int& status) {

@@ -9,7 +9,7 @@ namespace kavela::cli {
 
 namespace {
 
-constexpr int WidestName = 32;
+constexpr int WidestAthlete = 32;
 constexpr int NarrowestPart = 10;
 constexpr int WidestPart = 17;
 constexpr int ScoreWidth = 8;
@@ -26,7 +26,7 @@ int nameWidth(const selectionracesStruct_v3& document) {
     for (const srCategoryStruct_v3& category : document.categories)
         for (const srAthleteStruct_v3& athlete : category.athletes)
             width = std::max(width, displayWidth(printable(athlete.name)));
-    return std::min(width, WidestName);
+    return std::min(width, WidestAthlete);
 }
 
 /// How wide a column of percentages is: the names of the races stand above them.

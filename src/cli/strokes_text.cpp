@@ -11,20 +11,20 @@ namespace kavela::cli {
 namespace {
 
 constexpr double Degrees = 180 / std::numbers::pi;
-constexpr int Width = 9;
+constexpr int ColumnWidth = 9;
 
 std::string cell(double value, int decimals) {
-    return rightAligned(fmt::format("{:.{}f}", value, decimals), Width);
+    return rightAligned(fmt::format("{:.{}f}", value, decimals), ColumnWidth);
 }
 
 std::string cellIf(bool isKnown, double value, int decimals) {
-    return isKnown ? cell(value, decimals) : rightAligned("–", Width);
+    return isKnown ? cell(value, decimals) : rightAligned("–", ColumnWidth);
 }
 
 std::string headings(std::initializer_list<const char*> names) {
     std::string line;
     for (const char* name : names)
-        line += rightAligned(name, Width);
+        line += rightAligned(name, ColumnWidth);
     return line + '\n';
 }
 
@@ -36,7 +36,7 @@ std::string strokeLine(const MotionAnalysis& analysis, std::size_t index) {
     const bool hasForce = analysis.hasForce();
     const std::string_view hand = handText(values.hand);
     return cell(stroke.catchTime - analysis.series.time.front(), 2) +
-           rightAligned(hand.empty() ? "–" : std::string(hand), Width) +
+           rightAligned(hand.empty() ? "–" : std::string(hand), ColumnWidth) +
            cell(analysis.strokeRates[index], 1) + cellIf(hasBow, values.waterPhase, 2) +
            cellIf(hasBow, values.aerealPhase, 2) + cellIf(hasBow, values.maxAcce, 2) +
            cellIf(hasBow, values.aveDecce, 2) + cellIf(hasForce, values.force, 0) +

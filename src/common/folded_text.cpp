@@ -60,13 +60,13 @@ std::string_view plainLettersFor(char32_t character) {
     return found == PlainTable.end() ? std::string_view() : found->plain;
 }
 
-bool isDigit(char c) {
+bool isDigitByte(char c) {
     return c >= '0' && c <= '9';
 }
 
 /// Takes the digits off the front of a text, without leading zeros.
 std::string_view takeNumber(std::string_view& text) {
-    const auto end = std::find_if_not(text.begin(), text.end(), isDigit);
+    const auto end = std::find_if_not(text.begin(), text.end(), isDigitByte);
     std::string_view number = text.substr(0, static_cast<std::size_t>(end - text.begin()));
     text.remove_prefix(number.size());
     number.remove_prefix(std::min(number.find_first_not_of('0'), number.size()));
@@ -76,7 +76,7 @@ std::string_view takeNumber(std::string_view& text) {
 /// Below 0, 0 or above 0 as the order of two folded names.
 int naturalOrder(std::string_view a, std::string_view b) {
     while (!a.empty() && !b.empty()) {
-        if (isDigit(a.front()) && isDigit(b.front())) {
+        if (isDigitByte(a.front()) && isDigitByte(b.front())) {
             const std::string_view left = takeNumber(a);
             const std::string_view right = takeNumber(b);
             if (left.size() != right.size())

@@ -13,7 +13,7 @@ namespace kavela::json_detail {
 namespace {
 
 template <class Number>
-bool append(std::string& json, Number value) {
+bool appendNumber(std::string& json, Number value) {
     std::array<char, 32> buffer; // NOLINT(cppcoreguidelines-pro-type-member-init): filled below
     const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value).ptr;
     json.append(buffer.data(), end);
@@ -70,19 +70,19 @@ bool write(std::string& json, double value, Fault& fault) {
         json += "-0.0"; // "-0" would read back as the integer 0, without its sign
         return true;
     }
-    return append(json, value);
+    return appendNumber(json, value);
 }
 
 bool write(std::string& json, std::int64_t value, Fault&) {
-    return append(json, value);
+    return appendNumber(json, value);
 }
 
 bool write(std::string& json, std::int32_t value, Fault&) {
-    return append(json, value);
+    return appendNumber(json, value);
 }
 
 bool write(std::string& json, std::uint32_t value, Fault&) {
-    return append(json, value);
+    return appendNumber(json, value);
 }
 
 bool write(std::string& json, bool value, Fault&) {

@@ -140,7 +140,7 @@ void writeBehindLinks(const fs::path& target, std::string_view content) {
     }
 }
 
-std::string contentOf(const fs::path& path) {
+std::string presentContentOf(const fs::path& path) {
     const PosixFile file(path, O_RDONLY);
     std::string content;
     std::array<char, 1 << 16> chunk; // NOLINT(cppcoreguidelines-pro-type-member-init): filled below
@@ -169,7 +169,7 @@ bool linkExclusively(const fs::path& path, const fs::path& name) {
 bool copyExclusively(const fs::path& path, const fs::path& name) {
     if (fs::exists(fs::symlink_status(name)))
         return false;
-    writeBehindLinks(name, contentOf(path));
+    writeBehindLinks(name, presentContentOf(path));
     return true;
 }
 
@@ -198,6 +198,11 @@ bool keepUnderSecondName(const fs::path& path, const fs::path& secondName) {
     } catch (const fs::filesystem_error& error) {
         throw FileError(path, error.code().message());
     }
+}
+
+bool isTaken(const fs::path& path) {
+    std::error_code ignored;
+    return fs::exists(fs::symlink_status(path, ignored));
 }
 
 } // namespace kavela

@@ -17,4 +17,7 @@ void writeFileSafely(const std::filesystem::path& path, std::string_view content
 [[nodiscard]] bool keepUnderSecondName(const std::filesystem::path& path,
                                        const std::filesystem::path& secondName);
 
+/// Whether a name is taken, be it by a link that leads nowhere.
+[[nodiscard]] bool isTaken(const std::filesystem::path& path);
+
 } // namespace kavela

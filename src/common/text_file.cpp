@@ -52,9 +52,9 @@ std::string bytesOf(const std::filesystem::path& path) {
 }
 
 std::string withoutMark(std::string text) {
-    constexpr std::string_view ByteOrderMark = "\xEF\xBB\xBF";
-    if (text.starts_with(ByteOrderMark))
-        text.erase(0, ByteOrderMark.size());
+    constexpr std::string_view Mark = "\xEF\xBB\xBF";
+    if (text.starts_with(Mark))
+        text.erase(0, Mark.size());
     return text;
 }
 

@@ -13,7 +13,7 @@ constexpr double UsualLeg = 3.1;
 constexpr double UsualUpstreamLeg = 6.1;
 constexpr double UsualLastLeg = 4.1;
 
-constexpr Frames AfterFinish = 90;
+constexpr Frames FramesAfterFinish = 90;
 constexpr Frames AfterGivingUp = 220;
 
 Frames frameOf(const CMTime& stamp) {
@@ -198,7 +198,7 @@ private:
         else if (last < finishPlace())
             film.length = (*m_at[last] + *film.finish) / 2;
         else
-            film.length = *film.finish + AfterFinish;
+            film.length = *film.finish + FramesAfterFinish;
         return std::move(film);
     }
 

@@ -1,6 +1,7 @@
 #include "planning/season_goals.h"
 
 #include "common/folded_text.h"
+#include "planning/erase_at.h"
 #include "splitdata/run_timing.h"
 
 #include <algorithm>
@@ -24,12 +25,6 @@ T& filledUpTo(std::vector<T>& list, std::size_t index) {
     if (list.size() <= index)
         list.resize(index + 1);
     return list[index];
-}
-
-template <class T>
-void eraseAt(std::vector<T>& list, std::size_t index) {
-    if (index < list.size())
-        list.erase(list.begin() + static_cast<std::ptrdiff_t>(index));
 }
 
 /// Swaps two neighbours; where the list ends between them, the one that is there moves all the

@@ -1,5 +1,6 @@
 #include "planning/season_results.h"
 
+#include "planning/erase_at.h"
 #include "splitdata/run_timing.h"
 
 #include <algorithm>
@@ -26,12 +27,6 @@ void setAt(std::vector<T>& list, std::size_t row, const std::optional<T>& value)
     if (list.size() <= row)
         list.resize(row + 1);
     list[row] = *value;
-}
-
-template <class T>
-void eraseAt(std::vector<T>& list, std::size_t row) {
-    if (row < list.size())
-        list.erase(list.begin() + static_cast<std::ptrdiff_t>(row));
 }
 
 std::optional<double> percentBehind(const racedataplanning_v3& races, std::size_t row) {

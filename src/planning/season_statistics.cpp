@@ -85,8 +85,8 @@ TimeAndPenalty bestOf(const std::vector<const athletedata031*>& runs, std::int64
     return best.value_or(TimeAndPenalty{});
 }
 
-std::vector<double> percentBehind(const athletedata031& run,
-                                  const std::vector<const athletedata031*>& rivals) {
+std::vector<double> sectionsBehind(const athletedata031& run,
+                                   const std::vector<const athletedata031*>& rivals) {
     std::vector<double> percentages;
     for (std::size_t i = 0; i < run.sectioninfo.times.size(); ++i) {
         const double own = run.sectioninfo.times[i];
@@ -108,7 +108,7 @@ void addRace(racedataplanning_v3& races, const athletedata031& run, const splitt
     races.event.push_back(file.info.event.empty() ? file.info.title : file.info.event);
     races.phase.push_back(run.phase);
     races.location.push_back(file.info.place);
-    races.percentajes.push_back(percentBehind(run, rivals));
+    races.percentajes.push_back(sectionsBehind(run, rivals));
     races.penalties.push_back(run.sectioninfo.pens);
     races.pendetails.push_back(detailsOf(run));
     races.gates.push_back(file.info.gates);

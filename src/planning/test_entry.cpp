@@ -12,7 +12,7 @@ namespace {
 
 constexpr std::int64_t MostLaps = 100; // more come from a damaged file
 
-double entryAt(const std::vector<double>& values, std::size_t index) {
+double numberAt(const std::vector<double>& values, std::size_t index) {
     return index < values.size() && std::isfinite(values[index]) ? values[index] : 0;
 }
 
@@ -75,7 +75,7 @@ void enterStrokes(testStruct& test, const std::vector<SectionEntry>& sections) {
     }
 }
 
-void shift(std::vector<ReferenceDate>& dates, double seconds) {
+void shiftDates(std::vector<ReferenceDate>& dates, double seconds) {
     for (ReferenceDate& date : dates)
         date.seconds += seconds;
 }
@@ -96,8 +96,8 @@ std::vector<SectionEntry> sectionEntries(const onWaterTest& test) {
     const std::vector<TestSection> told = testSections(test.test);
     std::vector<SectionEntry> sections(std::max(plannedSections(test), told.size()));
     for (std::size_t i = 0; i < told.size(); ++i)
-        sections[i] = {entryAt(test.test.splits, i), entryAt(test.test.straightTime, i),
-                       entryAt(test.test.aveSpeed, i), told[i].strokeRate.value_or(0),
+        sections[i] = {numberAt(test.test.splits, i), numberAt(test.test.straightTime, i),
+                       numberAt(test.test.aveSpeed, i), told[i].strokeRate.value_or(0),
                        told[i].strokeEfficiency.value_or(0)};
     return sections;
 }
@@ -133,8 +133,8 @@ std::vector<TurnEntry> turnEntries(const testStruct& test) {
     std::vector<TurnEntry> turns(
         std::max({leftPeaks.size(), leftTimes.size(), rightPeaks.size(), rightTimes.size()}));
     for (std::size_t i = 0; i < turns.size(); ++i)
-        turns[i] = {entryAt(leftPeaks, i), entryAt(leftTimes, i), entryAt(rightPeaks, i),
-                    entryAt(rightTimes, i)};
+        turns[i] = {numberAt(leftPeaks, i), numberAt(leftTimes, i), numberAt(rightPeaks, i),
+                    numberAt(rightTimes, i)};
     return turns;
 }
 
@@ -147,13 +147,13 @@ void enterTurns(testStruct& test, const std::vector<TurnEntry>& turns) {
 
 void moveTo(testStruct& test, ReferenceDate date) {
     const double seconds = date.seconds - test.date.seconds;
-    shift(test.strokeDate, seconds);
-    shift(test.speedDate, seconds);
+    shiftDates(test.strokeDate, seconds);
+    shiftDates(test.speedDate, seconds);
     test.date = date;
 }
 
 void moveTo(onWaterEight& eight, ReferenceDate date) {
-    shift(eight.run.date, date.seconds - eight.date.seconds);
+    shiftDates(eight.run.date, date.seconds - eight.date.seconds);
     eight.date = date;
 }
 

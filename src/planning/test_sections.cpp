@@ -7,7 +7,7 @@ namespace kavela {
 
 namespace {
 
-std::optional<double> entryAt(const std::vector<double>& values, std::size_t index) {
+std::optional<double> timeAt(const std::vector<double>& values, std::size_t index) {
     if (index >= values.size() || !std::isfinite(values[index]))
         return std::nullopt;
     return values[index];
@@ -42,10 +42,10 @@ std::optional<double> greatestOf(const std::vector<double>& series, StrokeRange 
 TestSection sectionAt(const testData& test, std::size_t index, StrokeRange strokes) {
     TestSection section;
     section.time = test.splits[index];
-    section.straightTime = entryAt(test.straightTime, index);
+    section.straightTime = timeAt(test.straightTime, index);
     if (section.straightTime)
         section.rotationTime = section.time - *section.straightTime;
-    section.speed = entryAt(test.aveSpeed, index);
+    section.speed = timeAt(test.aveSpeed, index);
     section.strokeRate = meanOf(test.strokeRate, strokes);
     section.strokeEfficiency = meanOf(test.strokeEfficiency, strokes);
     section.maximumAcceleration = greatestOf(test.maxAcce, strokes);

@@ -11,8 +11,8 @@ using namespace std::chrono;
 namespace {
 
 void shift(ReferenceDate& date, days by) {
-    constexpr double SecondsPerDay = 86400;
-    date.seconds += SecondsPerDay * static_cast<double>(by.count());
+    constexpr double DaySeconds = 86400;
+    date.seconds += DaySeconds * static_cast<double>(by.count());
 }
 
 std::vector<std::int64_t> asIntegers(sys_days day) {

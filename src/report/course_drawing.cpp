@@ -1,5 +1,7 @@
 #include "report/course_drawing.h"
 
+#include "report/list_styles.h"
+
 #include <QPainter>
 #include <QPolygonF>
 
@@ -16,11 +18,9 @@ constexpr QColor Water(0xe6, 0xf0, 0xf5);
 constexpr QColor Touched(0xf2, 0xa9, 0x1c);
 constexpr QColor Missed(0xb8, 0x2a, 0x2a);
 constexpr QColor White(0xff, 0xff, 0xff);
-constexpr TextStyle TitleStyle{10, true, Accent};
-constexpr TextStyle Caption{7, false, Quiet};
-constexpr qreal TitleHeight = 17 * Point;
-constexpr qreal KeyHeight = 13 * Point;
-constexpr qreal RowHeight = 74 * Point;
+constexpr qreal CourseTitleHeight = 17 * Point;
+constexpr qreal CourseKeyHeight = 13 * Point;
+constexpr qreal CourseRowHeight = 74 * Point;
 constexpr qreal SectionHeight = 11 * Point; ///< of the titles above the river
 constexpr qreal HalfRiver = 15 * Point;
 constexpr qreal Swing = 6 * Point; ///< of the river to either side
@@ -30,10 +30,10 @@ constexpr qreal PoleLength = 4 * Point;
 constexpr qreal End = 10 * Point; ///< of the river before the first gate and after the last
 constexpr std::size_t GatesInRow = 26;
 constexpr qreal WidestStep = 40 * Point;
-constexpr std::int64_t MissedSeconds = 50;
+constexpr std::int64_t MissedGateSeconds = 50;
 
 /// A triangle that points against the stream, to the left.
-void paintUpstreamMark(QPainter& painter, const QPointF& tip) {
+void paintCourseUpstreamMark(QPainter& painter, const QPointF& tip) {
     constexpr qreal Half = 2.4 * Point;
     constexpr qreal Length = 3.6 * Point;
     painter.setPen(Qt::NoPen);
@@ -54,11 +54,11 @@ void paintPatch(QPainter& painter, const QPointF& centre, const QString& text, c
 }
 
 QColor penaltyColour(std::int64_t penalty) {
-    return penalty >= MissedSeconds ? Missed : Touched;
+    return penalty >= MissedGateSeconds ? Missed : Touched;
 }
 
 QColor numberColour(std::int64_t penalty) {
-    return penalty >= MissedSeconds ? White : Ink;
+    return penalty >= MissedGateSeconds ? White : Ink;
 }
 
 void paintPenalty(QPainter& painter, const QPointF& centre, std::int64_t penalty,
@@ -171,7 +171,7 @@ private:
                    isPenalised ? penaltyColour(gate.penalty) : White,
                    isPenalised ? penaltyColour(gate.penalty) : plain, number, m_typeface);
         if (gate.isUpstream)
-            paintUpstreamMark(painter, centre - QPointF(PatchWidth / 2 + 3 * Point, 0));
+            paintCourseUpstreamMark(painter, centre - QPointF(PatchWidth / 2 + 3 * Point, 0));
         if (isPenalised)
             paintPenalty(painter,
                          {centre.x(), m_place.top() + SectionHeight + 2 * Swing + 2 * HalfRiver +
@@ -198,13 +198,13 @@ qreal paintEntry(QPainter& painter, QRectF line, qreal left, const char* text,
 void paintKey(QPainter& painter, const QRectF& line, const Typeface& typeface) {
     const qreal y = line.center().y();
     const qreal gap = 4 * Point;
-    paintUpstreamMark(painter, {line.left(), y});
+    paintCourseUpstreamMark(painter, {line.left(), y});
     qreal left =
         paintEntry(painter, line, line.left() + 3.6 * Point + gap, "upstream gate", typeface);
-    for (const std::int64_t penalty : {std::int64_t{2}, MissedSeconds}) {
+    for (const std::int64_t penalty : {std::int64_t{2}, MissedGateSeconds}) {
         paintPenalty(painter, {left + PatchWidth / 2, y}, penalty, typeface);
         left = paintEntry(painter, line, left + PatchWidth + gap,
-                          penalty == MissedSeconds ? "missed gate" : "touch", typeface);
+                          penalty == MissedGateSeconds ? "missed gate" : "touch", typeface);
     }
 }
 
@@ -213,13 +213,13 @@ void paintKey(QPainter& painter, const QRectF& line, const Typeface& typeface) {
 void putCourse(PageBuilder& pages, const RunCourse& course, const Typeface& typeface) {
     if (course.gates.empty())
         return;
-    pages.put(TitleHeight, [=](QPainter& painter, const QRectF& place) {
+    pages.put(CourseTitleHeight, [=](QPainter& painter, const QRectF& place) {
         typeface.draw(painter, place, Qt::AlignLeft, QStringLiteral("Penalties by gate"),
-                      TitleStyle);
+                      ListTitleStyle);
         typeface.draw(painter, place.adjusted(place.width() * 0.4, 0, 0, 0), Qt::AlignRight,
                       course.remark, Caption);
     });
-    pages.put(KeyHeight, [=](QPainter& painter, const QRectF& place) {
+    pages.put(CourseKeyHeight, [=](QPainter& painter, const QRectF& place) {
         paintKey(painter, place, typeface);
         if (course.leftOut > 0)
             typeface.draw(painter, place, Qt::AlignRight,
@@ -230,7 +230,7 @@ void putCourse(PageBuilder& pages, const RunCourse& course, const Typeface& type
     const std::size_t rows = (shown + GatesInRow - 1) / GatesInRow;
     const std::size_t inRow = (shown + rows - 1) / rows;
     for (std::size_t first = 0; first < shown; first += inRow)
-        pages.put(RowHeight, [=](QPainter& painter, const QRectF& place) {
+        pages.put(CourseRowHeight, [=](QPainter& painter, const QRectF& place) {
             const std::span<const RunGate> gates(course.gates);
             CourseRow(gates.subspan(first, std::min(inRow, shown - first)), course, place, typeface)
                 .paint(painter);

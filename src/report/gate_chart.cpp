@@ -1,5 +1,6 @@
 #include "report/gate_chart.h"
 
+#include "report/list_styles.h"
 #include "report/small_lists.h"
 
 #include <QPainter>
@@ -20,7 +21,6 @@ constexpr qreal TallestCount = 11 * Point;
 constexpr qreal NarrowestLabel = 9 * Point;
 constexpr qreal Swatch = 6 * Point;
 constexpr qreal KeyHeight = 14 * Point;
-constexpr TextStyle Caption{7, false, Quiet};
 
 /// A small triangle that points against the stream: upwards.
 void paintUpstreamMark(QPainter& painter, const QPointF& top) {

@@ -1,13 +1,14 @@
 #include "report/legend.h"
 
+#include "report/list_styles.h"
+
 #include <QPainter>
 
 namespace kavela::report {
 
 namespace {
 
-constexpr TextStyle Caption{7, false, Quiet};
-constexpr qreal LineHeight = 12 * Point;
+constexpr qreal LegendLineHeight = 12 * Point;
 constexpr qreal SwatchWidth = 13 * Point;
 constexpr qreal SwatchHeight = 7 * Point;
 constexpr qreal Gap = 5 * Point;
@@ -66,7 +67,7 @@ bool fitsOneLine(const ReportTable& table, const Typeface& typeface, qreal width
 } // namespace
 
 qreal legendHeight(const ReportTable& table, const Typeface& typeface, qreal width) {
-    return fitsOneLine(table, typeface, width) ? LineHeight : 2 * LineHeight;
+    return fitsOneLine(table, typeface, width) ? LegendLineHeight : 2 * LegendLineHeight;
 }
 
 void paintLegend(QPainter& painter, const QRectF& place, const ReportTable& table,
@@ -74,14 +75,14 @@ void paintLegend(QPainter& painter, const QRectF& place, const ReportTable& tabl
     const bool isOneLine = fitsOneLine(table, typeface, place.width());
     const ScaleWords words = scaleWords(table);
     QRectF line = place;
-    line.setHeight(LineHeight);
+    line.setHeight(LegendLineHeight);
     write(painter, line, typeface, words.front);
     if (table.isTinted) {
         paintSwatches(painter, line, table.scale);
         write(painter, line, typeface, words.back);
     }
     if (!isOneLine)
-        line = {place.left(), line.bottom(), place.width(), LineHeight};
+        line = {place.left(), line.bottom(), place.width(), LegendLineHeight};
     typeface.draw(painter, line, isOneLine ? Qt::AlignRight : Qt::AlignLeft, table.note, Caption);
 }
 

@@ -7,8 +7,8 @@ namespace kavela::report {
 
 namespace {
 
-constexpr std::size_t FewestRows = 5;     ///< of a list that goes on in the next column
-constexpr std::size_t FewestRowsOver = 2; ///< there
+constexpr std::size_t FewestFlowingRows = 5; ///< of a list that goes on in the next column
+constexpr std::size_t FewestRowsOver = 2;    ///< there
 
 /// One attempt to fill the columns; those of one page may be held shorter than the page.
 class Attempt {
@@ -61,7 +61,7 @@ private:
             return rows;
         const bool mustBeCut = m_sizes.height(left) > wholeColumn();
         const qreal fitting = (room - m_sizes.title) / m_sizes.row;
-        if (!mustBeCut || fitting < static_cast<qreal>(FewestRows))
+        if (!mustBeCut || fitting < static_cast<qreal>(FewestFlowingRows))
             return first;
         return first + std::min(static_cast<std::size_t>(fitting), left - FewestRowsOver);
     }

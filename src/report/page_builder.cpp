@@ -11,7 +11,7 @@ namespace {
 constexpr qreal SideMargin = 42 * Point;
 constexpr qreal TopMargin = 36 * Point;
 constexpr qreal BottomMargin = 30 * Point;
-constexpr qreal HeadHeight = 14 * Point;
+constexpr qreal PageHeadHeight = 14 * Point;
 constexpr qreal FootHeight = 12 * Point;
 constexpr qreal BodyGap = 14 * Point; ///< between the body and the head and foot
 
@@ -29,13 +29,13 @@ QPageLayout pageLayout(QPageLayout::Orientation orientation) {
 
 QRectF headPlace(QPageLayout::Orientation orientation) {
     QRectF place = insideMargins(orientation);
-    place.setHeight(HeadHeight);
+    place.setHeight(PageHeadHeight);
     return place;
 }
 
 QRectF bodyPlace(QPageLayout::Orientation orientation) {
     return insideMargins(orientation)
-        .adjusted(0, HeadHeight + BodyGap, 0, -FootHeight - BodyGap / 2);
+        .adjusted(0, PageHeadHeight + BodyGap, 0, -FootHeight - BodyGap / 2);
 }
 
 QRectF footPlace(QPageLayout::Orientation orientation) {

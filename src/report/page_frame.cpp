@@ -8,7 +8,7 @@ namespace kavela::report {
 
 namespace {
 
-constexpr qreal BarHeight = 3 * Point;
+constexpr qreal FrameBarHeight = 3 * Point;
 constexpr qreal BarWidth = 34 * Point;
 constexpr qreal FactGap = 26 * Point;
 constexpr qreal WidestFact = 0.4; ///< of the page
@@ -16,7 +16,7 @@ constexpr TextStyle FactLabel{6.5, false, Quiet};
 constexpr TextStyle FactValue{9.5, false, Ink};
 
 void paintBar(QPainter& painter, const QRectF& place) {
-    painter.fillRect(QRectF(place.left(), place.top(), BarWidth, BarHeight), Accent);
+    painter.fillRect(QRectF(place.left(), place.top(), BarWidth, FrameBarHeight), Accent);
 }
 
 /// The facts side by side, each with its label above it.

@@ -1,6 +1,7 @@
 #include "report/planning_parts.h"
 
 #include "common/number_text.h"
+#include "report/list_styles.h"
 
 #include <QDate>
 #include <QLocale>
@@ -16,8 +17,6 @@ namespace kavela::report {
 namespace {
 
 constexpr TextStyle PartStyle{10, true, Accent};
-constexpr TextStyle HeadStyle{6.5, false, Quiet};
-constexpr TextStyle RowStyle{8, false, Ink};
 constexpr TextStyle QuietStyle{8, false, Quiet};
 constexpr qreal PartHeight = 17 * Point;
 constexpr qreal HeadLine = 9.5 * Point;
@@ -26,11 +25,6 @@ constexpr qreal RowHeight = 12.5 * Point;
 constexpr qreal BarHeight = 4 * Point;
 constexpr std::size_t MostCategories = 40;
 constexpr qreal FullBar = 125; ///< percent
-const auto Dash = QStringLiteral("–");
-
-QDate dateOf(std::chrono::sys_days day) {
-    return QDate(1970, 1, 1).addDays(day.time_since_epoch().count());
-}
 
 QString datesText(std::chrono::sys_days first, const QString& month) {
     const QLocale english = QLocale::c();
@@ -128,6 +122,10 @@ void paintTotal(QPainter& painter, const QRectF& line, const CategoryTotal& tota
 }
 
 } // namespace
+
+QDate dateOf(std::chrono::sys_days day) {
+    return QDate(1970, 1, 1).addDays(day.time_since_epoch().count());
+}
 
 QString amountText(double amount) {
     if (amount == 0 || !std::isfinite(amount))

@@ -4,10 +4,17 @@
 #include "report/page_builder.h"
 #include "report/typeface.h"
 
+#include <QDate>
+
 #include <chrono>
 
 /// What the reports of a planning share.
 namespace kavela::report {
+
+/// Goals of a plan beyond this number are left out.
+constexpr std::size_t MostGoals = 50;
+
+[[nodiscard]] QDate dateOf(std::chrono::sys_days day);
 
 /// A quantity in few characters; a dash for none and for what is no number.
 [[nodiscard]] QString amountText(double amount);

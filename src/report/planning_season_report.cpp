@@ -18,16 +18,15 @@ namespace kavela::report {
 namespace {
 
 constexpr TextStyle GroupStyle{9, true, Ink};
-constexpr TextStyle GoalStyle{8.5, true, Ink};
+constexpr TextStyle SeasonGoalStyle{8.5, true, Ink};
 constexpr TextStyle SubgoalStyle{8.5, false, Ink};
 constexpr TextStyle StatusStyle{8.5, false, Quiet};
-constexpr TextStyle NoteStyle{9, false, Quiet};
-constexpr qreal PartGap = 14 * Point;
+constexpr TextStyle SeasonNoteStyle{9, false, Quiet};
+constexpr qreal SeasonPartGap = 14 * Point;
 constexpr qreal GroupGap = 6 * Point;
 constexpr qreal StatusWidth = 76 * Point;
 constexpr qreal BoxSide = 6 * Point;
 constexpr qreal Indent = 12 * Point;
-constexpr std::size_t MostGoals = 50; ///< of a group
 
 QString countOf(std::size_t count) {
     return QString::number(count);
@@ -41,7 +40,7 @@ std::size_t macrocycleCount(const std::vector<microsplanning_v5>& weeks) {
     return names.size();
 }
 
-ReportHeading headingOf(std::string_view athlete, const yearsplannings_v6& season) {
+ReportHeading seasonHeadingOf(std::string_view athlete, const yearsplannings_v6& season) {
     ReportHeading heading;
     heading.title = reportText(athlete);
     heading.subtitle = QStringLiteral("Season %1").arg(season.year);
@@ -64,7 +63,7 @@ ReportHeading headingOf(std::string_view athlete, const yearsplannings_v6& seaso
 
 void putNote(PageBuilder& pages, const char* text, const Typeface& typeface) {
     pages.put(16 * Point, [=](QPainter& painter, const QRectF& place) {
-        typeface.draw(painter, place, Qt::AlignLeft, QString::fromLatin1(text), NoteStyle);
+        typeface.draw(painter, place, Qt::AlignLeft, QString::fromLatin1(text), SeasonNoteStyle);
     });
 }
 
@@ -117,19 +116,20 @@ void putGroup(PageBuilder& pages, const yearsplannings_v6& season, std::size_t g
     putLines(pages, {title}, GroupStyle, typeface);
     const auto& goals = goalsOf(season, group);
     for (std::size_t i = 0; i < std::min(goals.size(), MostGoals); ++i)
-        putLines(pages, wrappedLines(goals[i], typeface, GoalStyle, pages.space().width() - Indent),
-                 GoalStyle, typeface, {}, Indent);
+        putLines(pages,
+                 wrappedLines(goals[i], typeface, SeasonGoalStyle, pages.space().width() - Indent),
+                 SeasonGoalStyle, typeface, {}, Indent);
     const auto& subgoals = subgoalsOf(season, group);
     for (std::size_t i = 0; i < std::min(subgoals.size(), MostGoals); ++i)
         putSubgoal(pages, subgoals[i], subgoalStatus(season, group, i), typeface);
     pages.skip(GroupGap);
 }
 
-void putGoals(PageBuilder& pages, const yearsplannings_v6& season, const Typeface& typeface) {
+void putSeasonGoals(PageBuilder& pages, const yearsplannings_v6& season, const Typeface& typeface) {
     const std::size_t groups = goalGroupCount(season);
     if (groups == 0)
         return;
-    pages.skip(PartGap);
+    pages.skip(SeasonPartGap);
     putPartTitle(pages, QStringLiteral("Goals of the season"), 4 * lineHeight(GroupStyle),
                  typeface);
     for (std::size_t group = 0; group < groups; ++group)
@@ -141,20 +141,20 @@ void putGoals(PageBuilder& pages, const yearsplannings_v6& season, const Typefac
 std::unique_ptr<PagedReport> planningSeasonReport(std::string_view athlete,
                                                   const yearsplannings_v6& season) {
     const Typeface typeface;
-    ReportHeading heading = headingOf(athlete, season);
+    ReportHeading heading = seasonHeadingOf(athlete, season);
     PageBuilder pages(QPageLayout::Portrait);
     putTitleBlock(pages, heading, typeface);
     if (season.micros.empty())
         putNote(pages, "No week of this season is planned yet.", typeface);
     else
         putSeasonWeeks(pages, season.micros, typeface);
-    pages.skip(PartGap);
+    pages.skip(SeasonPartGap);
     const std::vector<CategoryTotal> totals = totalsOf(season.micros);
     putPartTitle(pages, QStringLiteral("Training by category"),
                  std::min(totalsHeight(totals), bodyPlace(pages.orientation()).height() / 2),
                  typeface);
     putTotals(pages, totals, pages.space().width(), typeface);
-    putGoals(pages, season, typeface);
+    putSeasonGoals(pages, season, typeface);
     return std::make_unique<SheetReport>(std::move(heading), std::move(pages));
 }
 

@@ -1,6 +1,7 @@
 #include "report/planning_season_weeks.h"
 
 #include "planning/calendar_day.h"
+#include "report/list_styles.h"
 #include "report/planning_parts.h"
 
 #include <QPainter>
@@ -14,18 +15,17 @@ namespace kavela::report {
 
 namespace {
 
-constexpr TextStyle HeadStyle{6.5, false, Quiet};
-constexpr TextStyle RowStyle{7.5, false, Ink};
-constexpr TextStyle QuietStyle{7.5, false, Quiet};
+constexpr TextStyle WeekRowStyle{7.5, false, Ink};
+constexpr TextStyle WeekQuietStyle{7.5, false, Quiet};
 constexpr TextStyle EventStyle{7.5, true, Ink};
 constexpr TextStyle CycleStyle{7.5, true, Accent};
-constexpr qreal HeadHeight = 12 * Point;
-constexpr qreal RowHeight = 11.2 * Point;
-constexpr qreal CellGap = 7 * Point;
-constexpr qreal BarHeight = 6 * Point;
+constexpr qreal WeekHeadHeight = 12 * Point;
+constexpr qreal WeekRowHeight = 11.2 * Point;
+constexpr qreal WeekCellGap = 7 * Point;
+constexpr qreal WeekBarHeight = 6 * Point;
 constexpr QColor CycleGround(0xe3, 0xee, 0xf3);
 
-struct Row {
+struct WeekRow {
     QString number;
     QString dates;
     QString macrocycle;
@@ -46,7 +46,7 @@ Places places(const QRectF& line) {
     const auto take = [&](qreal points) {
         QRectF cell = rest;
         cell.setWidth(points * Point);
-        rest.setLeft(cell.right() + CellGap);
+        rest.setLeft(cell.right() + WeekCellGap);
         return cell;
     };
     Places at;
@@ -81,7 +81,7 @@ double loadOf(const microsplanning_v5& week) {
     return std::isfinite(week.percentaje) ? std::max(week.percentaje, 0.0) : 0;
 }
 
-Row rowOf(const microsplanning_v5& week, double most) {
+WeekRow weekRowOf(const microsplanning_v5& week, double most) {
     const auto first = dayOfMidnight(week.monday);
     return {QString::number(week.number),
             first ? shortWeekDates(*first) : QStringLiteral("–"),
@@ -102,7 +102,7 @@ public:
         for (const microsplanning_v5& week : weeks)
             most = std::max(most, loadOf(week));
         for (const microsplanning_v5& week : weeks)
-            m_rows.push_back(rowOf(week, most));
+            m_rows.push_back(weekRowOf(week, most));
     }
 
     [[nodiscard]] std::size_t count() const { return m_rows.size(); }
@@ -125,26 +125,26 @@ public:
 
     /// `isFirst` of the page, where the cycles are named again.
     void paintRow(QPainter& painter, const QRectF& line, std::size_t index, bool isFirst) const {
-        const Row& row = m_rows[index];
+        const WeekRow& row = m_rows[index];
         const Places at = places(line);
-        paintCycle(painter, at.macrocycle, index, &Row::macrocycle, isFirst);
-        paintCycle(painter, at.mesocycle, index, &Row::mesocycle, isFirst);
-        const qreal top = line.center().y() - BarHeight / 2;
-        painter.fillRect(QRectF(at.bar.left(), top, at.bar.width() * row.share, BarHeight),
+        paintCycle(painter, at.macrocycle, index, &WeekRow::macrocycle, isFirst);
+        paintCycle(painter, at.mesocycle, index, &WeekRow::mesocycle, isFirst);
+        const qreal top = line.center().y() - WeekBarHeight / 2;
+        painter.fillRect(QRectF(at.bar.left(), top, at.bar.width() * row.share, WeekBarHeight),
                          AccentLight);
-        m_typeface.draw(painter, at.number, Qt::AlignRight, row.number, RowStyle);
-        m_typeface.draw(painter, at.dates, Qt::AlignLeft, row.dates, QuietStyle);
-        m_typeface.draw(painter, at.load, Qt::AlignRight, row.load, RowStyle);
-        m_typeface.draw(painter, at.sessions, Qt::AlignRight, row.sessions, RowStyle);
+        m_typeface.draw(painter, at.number, Qt::AlignRight, row.number, WeekRowStyle);
+        m_typeface.draw(painter, at.dates, Qt::AlignLeft, row.dates, WeekQuietStyle);
+        m_typeface.draw(painter, at.load, Qt::AlignRight, row.load, WeekRowStyle);
+        m_typeface.draw(painter, at.sessions, Qt::AlignRight, row.sessions, WeekRowStyle);
         m_typeface.draw(painter, at.event, Qt::AlignLeft, row.event, EventStyle);
-        m_typeface.draw(painter, at.tests, Qt::AlignLeft, row.tests, QuietStyle);
+        m_typeface.draw(painter, at.tests, Qt::AlignLeft, row.tests, WeekQuietStyle);
         drawRule(painter, line, line.bottom(), Rule, 0.25);
     }
 
 private:
     /// The ground of a band, with its name in its first line.
-    void paintCycle(QPainter& painter, const QRectF& place, std::size_t index, QString Row::*cycle,
-                    bool isFirst) const {
+    void paintCycle(QPainter& painter, const QRectF& place, std::size_t index,
+                    QString WeekRow::*cycle, bool isFirst) const {
         const QString& name = m_rows[index].*cycle;
         if (name.isEmpty())
             return;
@@ -160,7 +160,7 @@ private:
     }
 
     Typeface m_typeface;
-    std::vector<Row> m_rows;
+    std::vector<WeekRow> m_rows;
 };
 
 } // namespace
@@ -169,19 +169,19 @@ void putSeasonWeeks(PageBuilder& pages, const std::vector<microsplanning_v5>& we
                     const Typeface& typeface) {
     const auto shown = std::make_shared<const Weeks>(weeks, typeface);
     const auto putHead = [&] {
-        pages.put(HeadHeight, [shown](QPainter& painter, const QRectF& place) {
+        pages.put(WeekHeadHeight, [shown](QPainter& painter, const QRectF& place) {
             shown->paintHead(painter, place);
         });
     };
     putHead();
     bool isFirst = true;
     for (std::size_t week = 0; week < shown->count(); ++week, isFirst = false) {
-        if (pages.space().height() < RowHeight) {
+        if (pages.space().height() < WeekRowHeight) {
             pages.newPage();
             putHead();
             isFirst = true;
         }
-        pages.put(RowHeight, [shown, week, isFirst](QPainter& painter, const QRectF& place) {
+        pages.put(WeekRowHeight, [shown, week, isFirst](QPainter& painter, const QRectF& place) {
             shown->paintRow(painter, place, week, isFirst);
         });
     }

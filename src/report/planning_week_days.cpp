@@ -23,28 +23,28 @@ namespace {
 
 using namespace std::chrono;
 
-constexpr TextStyle HeadStyle{7, true, Quiet};
+constexpr TextStyle DayHeadStyle{7, true, Quiet};
 constexpr TextStyle DayStyle{8.5, true, Accent};
 constexpr TextStyle DateStyle{7.5, false, Quiet};
-constexpr TextStyle TitleStyle{8, true, Ink};
+constexpr TextStyle DayTitleStyle{8, true, Ink};
 constexpr TextStyle PlaceStyle{7.5, false, Quiet};
 constexpr TextStyle TextLine{7.5, false, Ink};
 constexpr TextStyle ValueStyle{7, false, Accent};
-constexpr qreal LineHeight = 10.5 * Point;
-constexpr qreal HeadHeight = 13 * Point;
+constexpr qreal DayLineHeight = 10.5 * Point;
+constexpr qreal DayHeadHeight = 13 * Point;
 constexpr qreal DayWidth = 58 * Point;
-constexpr qreal ColumnGap = 10 * Point;
+constexpr qreal DayColumnGap = 10 * Point;
 constexpr qreal RowMargin = 4 * Point; ///< above and below the lines of a day
 constexpr std::size_t FewestLines = 3; ///< of a day at the foot of a page
 constexpr std::size_t MostValues = 40;
 
 /// The columns; the last one only where a session stands in it.
-constexpr std::array Columns{DayPart::Morning, DayPart::Afternoon, DayPart::Evening,
-                             DayPart::AnyTime};
+constexpr std::array DayColumns{DayPart::Morning, DayPart::Afternoon, DayPart::Evening,
+                                DayPart::AnyTime};
 constexpr std::array ColumnNames{"Morning", "Afternoon", "Evening", "Any time"};
 const auto OtherDays = QStringLiteral("Other days");
 
-struct Line {
+struct DayLine {
     QString text;
     TextStyle style;
 };
@@ -53,7 +53,7 @@ struct Line {
 struct Day {
     QString name;
     QString date;
-    std::array<std::vector<Line>, Columns.size()> columns;
+    std::array<std::vector<DayLine>, DayColumns.size()> columns;
 
     [[nodiscard]] std::size_t lines() const {
         std::size_t most = 2; // name and date
@@ -62,10 +62,6 @@ struct Day {
         return most;
     }
 };
-
-QDate dateOf(sys_days day) {
-    return QDate(1970, 1, 1).addDays(day.time_since_epoch().count());
-}
 
 std::string valuesText(const sessioninmicro_v5& session) {
     std::string text;
@@ -98,8 +94,8 @@ public:
         : m_typeface(std::move(typeface)) {
         const bool hasAnyTime = std::ranges::any_of(
             week.sessions, [](const auto& session) { return partOf(session) == DayPart::AnyTime; });
-        m_columns = hasAnyTime ? Columns.size() : Columns.size() - 1;
-        m_columnWidth = (width - DayWidth) / static_cast<qreal>(m_columns) - ColumnGap;
+        m_columns = hasAnyTime ? DayColumns.size() : DayColumns.size() - 1;
+        m_columnWidth = (width - DayWidth) / static_cast<qreal>(m_columns) - DayColumnGap;
         const WeekSessions sessions = sessionsByDay(week);
         if (const auto first = dayOfMidnight(week.monday))
             for (std::size_t day = 0; day < sessions.days.size(); ++day)
@@ -113,7 +109,7 @@ public:
     void paintHead(QPainter& painter, const QRectF& place) const {
         for (std::size_t i = 0; i < m_columns; ++i)
             m_typeface.draw(painter, column(place, i), Qt::AlignLeft,
-                            QString::fromLatin1(ColumnNames[i]), HeadStyle);
+                            QString::fromLatin1(ColumnNames[i]), DayHeadStyle);
         drawRule(painter, place, place.bottom(), Accent, 0.6);
     }
 
@@ -122,18 +118,18 @@ public:
                std::size_t end) const {
         const Day& day = m_days[index];
         const qreal top = place.top() + RowMargin;
-        QRectF label(place.left(), top, DayWidth - 4 * Point, LineHeight);
+        QRectF label(place.left(), top, DayWidth - 4 * Point, DayLineHeight);
         m_typeface.draw(painter, label, Qt::AlignLeft, day.name, DayStyle);
-        label.translate(0, LineHeight);
+        label.translate(0, DayLineHeight);
         m_typeface.draw(painter, label, Qt::AlignLeft,
                         first == 0 ? day.date : QStringLiteral("continued"), DateStyle);
         for (std::size_t part = 0; part < m_columns; ++part) {
             const auto& lines = day.columns[part];
             QRectF line = column(place, part);
-            line.setRect(line.left(), top, line.width(), LineHeight);
+            line.setRect(line.left(), top, line.width(), DayLineHeight);
             for (std::size_t i = first; i < std::min(end, lines.size()); ++i) {
                 m_typeface.draw(painter, line, Qt::AlignLeft, lines[i].text, lines[i].style);
-                line.translate(0, LineHeight);
+                line.translate(0, DayLineHeight);
             }
         }
         drawRule(painter, place, place.bottom(), Rule, 0.5);
@@ -147,7 +143,7 @@ private:
                                            english.toString(dateOf(date), QStringLiteral("d MMMM")),
                                            {}});
         for (std::size_t i = 0; i < m_columns; ++i)
-            for (const std::size_t session : sessions.at(index, Columns[i]))
+            for (const std::size_t session : sessions.at(index, DayColumns[i]))
                 addLines(day.columns[i], week.sessions[session], {});
     }
 
@@ -156,13 +152,13 @@ private:
         for (const std::size_t index : sessions) {
             const sessioninmicro_v5& session = week.sessions[index];
             const auto date = dayOf(session);
-            const auto column = std::ranges::find(Columns, partOf(session)) - Columns.begin();
+            const auto column = std::ranges::find(DayColumns, partOf(session)) - DayColumns.begin();
             addLines(day.columns[static_cast<std::size_t>(column)], session,
                      date ? dayText(midnightOf(*date)) : std::string());
         }
     }
 
-    void addLines(std::vector<Line>& lines, const sessioninmicro_v5& session,
+    void addLines(std::vector<DayLine>& lines, const sessioninmicro_v5& session,
                   const std::string& date) const {
         if (!lines.empty())
             lines.emplace_back();
@@ -170,7 +166,7 @@ private:
             for (QString& line : wrappedLines(text, m_typeface, style, m_columnWidth))
                 lines.push_back({std::move(line), style});
         };
-        add(titleText(session), TitleStyle);
+        add(titleText(session), DayTitleStyle);
         add(date, PlaceStyle);
         add(session.trainingplace, PlaceStyle);
         add(entryOrZero(session.titleanddes, 1), TextLine);
@@ -178,7 +174,8 @@ private:
     }
 
     [[nodiscard]] QRectF column(const QRectF& place, std::size_t index) const {
-        return {place.left() + DayWidth + static_cast<qreal>(index) * (m_columnWidth + ColumnGap),
+        return {place.left() + DayWidth +
+                    static_cast<qreal>(index) * (m_columnWidth + DayColumnGap),
                 place.top(), m_columnWidth, place.height()};
     }
 
@@ -189,26 +186,26 @@ private:
 };
 
 qreal heightOf(std::size_t lines) {
-    return static_cast<qreal>(lines) * LineHeight + 2 * RowMargin;
+    return static_cast<qreal>(lines) * DayLineHeight + 2 * RowMargin;
 }
 
-void putHead(PageBuilder& pages, const std::shared_ptr<const Days>& days) {
-    pages.put(HeadHeight,
+void putDayHead(PageBuilder& pages, const std::shared_ptr<const Days>& days) {
+    pages.put(DayHeadHeight,
               [days](QPainter& painter, const QRectF& place) { days->paintHead(painter, place); });
 }
 
 void putDay(PageBuilder& pages, const std::shared_ptr<const Days>& days, std::size_t index) {
     const std::size_t count = days->all()[index].lines();
-    const qreal page = bodyPlace(pages.orientation()).height() - HeadHeight;
+    const qreal page = bodyPlace(pages.orientation()).height() - DayHeadHeight;
     for (std::size_t first = 0; first < count;) {
         const std::size_t rest = count - first;
         const qreal least = heightOf(heightOf(rest) <= page ? rest : FewestLines);
         if (pages.space().height() < least) {
             pages.newPage();
-            putHead(pages, days);
+            putDayHead(pages, days);
         }
         const auto room =
-            static_cast<std::size_t>((pages.space().height() - 2 * RowMargin) / LineHeight);
+            static_cast<std::size_t>((pages.space().height() - 2 * RowMargin) / DayLineHeight);
         // Name and date of the day need two lines, however few are left.
         const std::size_t taken = std::min(rest, room);
         pages.put(heightOf(std::max<std::size_t>(taken, 2)),
@@ -223,7 +220,7 @@ void putDay(PageBuilder& pages, const std::shared_ptr<const Days>& days, std::si
 
 void putWeekDays(PageBuilder& pages, const microsplanning_v5& week, const Typeface& typeface) {
     const auto days = std::make_shared<const Days>(week, typeface, pages.space().width());
-    putHead(pages, days);
+    putDayHead(pages, days);
     for (std::size_t index = 0; index < days->all().size(); ++index)
         putDay(pages, days, index);
 }

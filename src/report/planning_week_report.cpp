@@ -13,21 +13,20 @@ namespace kavela::report {
 
 namespace {
 
-constexpr TextStyle GoalStyle{8.5, false, Ink};
+constexpr TextStyle WeekGoalStyle{8.5, false, Ink};
 constexpr TextStyle TestStyle{8.5, false, Ink};
-constexpr qreal PartGap = 12 * Point;
+constexpr qreal WeekPartGap = 12 * Point;
 constexpr qreal GoalIndent = 9 * Point;
 constexpr qreal TotalsShare = 0.64; ///< of the width, where goals stand beside them
-constexpr qreal ColumnGap = 22 * Point;
+constexpr qreal WeekColumnGap = 22 * Point;
 constexpr qreal PartTitleHeight = 17 * Point;
 constexpr qreal NoteLine = 20 * Point;
-constexpr std::size_t MostNoteLines = 8;
+constexpr std::size_t WeekMostNoteLines = 8;
 constexpr std::size_t FewestNoteLines = 4;
 constexpr std::size_t MostBeside = 1000; ///< characters of goals
-constexpr std::size_t MostGoals = 50;
 const auto Bullet = QStringLiteral("•");
 
-ReportHeading headingOf(std::string_view athlete, const microsplanning_v5& week) {
+ReportHeading weekHeadingOf(std::string_view athlete, const microsplanning_v5& week) {
     ReportHeading heading;
     heading.title = reportText(athlete);
     if (heading.title.isEmpty())
@@ -72,7 +71,7 @@ std::vector<std::vector<QString>> goalLines(const microsplanning_v5& week, qreal
                                             const Typeface& typeface) {
     std::vector<std::vector<QString>> goals;
     for (const std::string& goal : week.goals)
-        if (auto lines = wrappedLines(goal, typeface, GoalStyle, width - GoalIndent);
+        if (auto lines = wrappedLines(goal, typeface, WeekGoalStyle, width - GoalIndent);
             !lines.empty() && goals.size() < MostGoals)
             goals.push_back(std::move(lines));
     return goals;
@@ -90,36 +89,37 @@ bool putGoalsBeside(PageBuilder& pages, const microsplanning_v5& week, const QRe
     std::size_t count = 0;
     for (const auto& lines : goals)
         count += lines.size();
-    if (static_cast<qreal>(count) * lineHeight(GoalStyle) > place.height() - PartTitleHeight)
+    if (static_cast<qreal>(count) * lineHeight(WeekGoalStyle) > place.height() - PartTitleHeight)
         return false;
     QRectF line(place.left(), place.top(), place.width(), PartTitleHeight);
     pages.putAt(line, [=](QPainter& painter, const QRectF& at) {
         typeface.draw(painter, at, Qt::AlignLeft, QStringLiteral("Goals of the week"),
                       {10, true, Accent});
     });
-    line = {line.left(), line.bottom(), line.width(), lineHeight(GoalStyle)};
+    line = {line.left(), line.bottom(), line.width(), lineHeight(WeekGoalStyle)};
     for (const auto& lines : goals)
         for (std::size_t i = 0; i < lines.size(); ++i) {
             pages.putAt(line, [=, text = lines[i]](QPainter& painter, const QRectF& at) {
-                typeface.draw(painter, at, Qt::AlignLeft, i == 0 ? Bullet : QString(), GoalStyle);
+                typeface.draw(painter, at, Qt::AlignLeft, i == 0 ? Bullet : QString(),
+                              WeekGoalStyle);
                 typeface.draw(painter, at.adjusted(GoalIndent, 0, 0, 0), Qt::AlignLeft, text,
-                              GoalStyle);
+                              WeekGoalStyle);
             });
             line.translate(0, line.height());
         }
     return true;
 }
 
-void putGoals(PageBuilder& pages, const microsplanning_v5& week, const Typeface& typeface) {
-    pages.skip(PartGap);
-    putPartTitle(pages, QStringLiteral("Goals of the week"), lineHeight(GoalStyle), typeface);
+void putWeekGoals(PageBuilder& pages, const microsplanning_v5& week, const Typeface& typeface) {
+    pages.skip(WeekPartGap);
+    putPartTitle(pages, QStringLiteral("Goals of the week"), lineHeight(WeekGoalStyle), typeface);
     for (const auto& lines : goalLines(week, pages.space().width(), typeface))
-        putLines(pages, lines, GoalStyle, typeface, Bullet, GoalIndent);
+        putLines(pages, lines, WeekGoalStyle, typeface, Bullet, GoalIndent);
 }
 
 void putTotalsAndGoals(PageBuilder& pages, const microsplanning_v5& week,
                        const Typeface& typeface) {
-    pages.skip(PartGap);
+    pages.skip(WeekPartGap);
     const std::vector<CategoryTotal> totals = weekTotals(week);
     const QRectF space = pages.space();
     const qreal height = totalsHeight(totals);
@@ -127,21 +127,21 @@ void putTotalsAndGoals(PageBuilder& pages, const microsplanning_v5& week,
     putPartTitle(pages, QStringLiteral("Training by category"),
                  std::min(height, bodyPlace(pages.orientation()).height() / 2), typeface);
     const QRectF below = pages.space();
-    const QRectF beside(below.left() + width + ColumnGap, below.top() - PartTitleHeight,
-                        below.width() - width - ColumnGap, height + PartTitleHeight);
+    const QRectF beside(below.left() + width + WeekColumnGap, below.top() - PartTitleHeight,
+                        below.width() - width - WeekColumnGap, height + PartTitleHeight);
     const bool isBeside = !week.goals.empty() && height <= below.height() &&
                           putGoalsBeside(pages, week, beside, typeface);
     putTotals(pages, totals, isBeside ? width : below.width(), typeface);
     if (!week.goals.empty() && !isBeside)
-        putGoals(pages, week, typeface);
+        putWeekGoals(pages, week, typeface);
 }
 
 /// Lines to write on, as many as the page has room for.
 void putNotes(PageBuilder& pages, const Typeface& typeface) {
-    pages.skip(PartGap);
+    pages.skip(WeekPartGap);
     putPartTitle(pages, QStringLiteral("Notes"), FewestNoteLines * NoteLine, typeface);
     const auto room = static_cast<std::size_t>(pages.space().height() / NoteLine);
-    for (std::size_t line = 0; line < std::min(room, MostNoteLines); ++line)
+    for (std::size_t line = 0; line < std::min(room, WeekMostNoteLines); ++line)
         pages.put(NoteLine, [](QPainter& painter, const QRectF& place) {
             drawRule(painter, place, place.bottom(), Rule);
         });
@@ -152,7 +152,7 @@ void putNotes(PageBuilder& pages, const Typeface& typeface) {
 std::unique_ptr<PagedReport> planningWeekReport(std::string_view athlete,
                                                 const microsplanning_v5& week) {
     const Typeface typeface;
-    ReportHeading heading = headingOf(athlete, week);
+    ReportHeading heading = weekHeadingOf(athlete, week);
     PageBuilder pages(QPageLayout::Portrait);
     putTitleBlock(pages, heading, typeface);
     putTests(pages, week, typeface);

@@ -3,6 +3,7 @@
 #include "analysis/ideal_run.h"
 #include "analysis/ranking.h"
 #include "common/number_text.h"
+#include "report/list_styles.h"
 #include "report/report_table.h"
 
 #include <algorithm>
@@ -15,7 +16,6 @@ namespace {
 constexpr int Podium = 3;
 constexpr std::size_t Results = 0;
 constexpr std::size_t Ideals = 1;
-const auto Dash = QStringLiteral("–");
 
 QString secondsText(double seconds) {
     const std::string text = hundredthsText(seconds);

@@ -9,7 +9,7 @@ namespace kavela::report {
 
 namespace {
 
-constexpr qreal PartGap = 12 * Point;
+constexpr qreal SheetPartGap = 12 * Point;
 
 /// A run without what is not compared: its films and, for the other runs, everything but times.
 athletedata031 timesOf(const athletedata031& run) {
@@ -44,10 +44,10 @@ std::unique_ptr<PagedReport> runSheet(const infodata031& info, const RaceSet& se
     putTitleBlock(pages, data.heading, typeface);
     putSplits(pages, data, typeface);
     if (!data.splits.empty())
-        pages.skip(PartGap);
+        pages.skip(SheetPartGap);
     putCourse(pages, data.course, typeface);
     if (!data.course.gates.empty())
-        pages.skip(PartGap);
+        pages.skip(SheetPartGap);
     putSheetLists(pages, data.lists, typeface);
     return std::make_unique<SheetReport>(std::move(data.heading), std::move(pages));
 }

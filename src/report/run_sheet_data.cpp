@@ -150,7 +150,7 @@ RunCourse courseOf(const RaceSet& set, const analyzerdata& run) {
 }
 
 /// "2 touches, 1 missed gate", as far as the penalties are known by gate.
-QString penaltiesInWords(const analyzerdata& run) {
+QString penaltiesOfRun(const analyzerdata& run) {
     const auto touches = std::ranges::count(run.gatePenalties, TouchSeconds);
     const auto missed = std::ranges::count(run.gatePenalties, MissedSeconds);
     QStringList parts;
@@ -179,7 +179,7 @@ void addTotals(ReportHeading& heading, const RaceSet& set, const analyzerdata& r
         add("Total", sheetSeconds(total));
     if (isTaken(timing.totaltime))
         add(isTaken(total) ? "Time" : "Time so far", sheetSeconds(timing.totaltime));
-    const QString words = penaltiesInWords(run);
+    const QString words = penaltiesOfRun(run);
     add("Penalties", QString::number(timing.totalpen) +
                          (words.isEmpty() ? QString() : QStringLiteral(" (%1)").arg(words)));
     if (isTaken(total)) {
@@ -195,7 +195,7 @@ void addTotals(ReportHeading& heading, const RaceSet& set, const analyzerdata& r
     }
 }
 
-ReportHeading headingOf(const infodata031& info, const RaceSet& set, const analyzerdata& run) {
+ReportHeading runHeadingOf(const infodata031& info, const RaceSet& set, const analyzerdata& run) {
     const ReportHeading race = reportHeading(info);
     ReportHeading heading;
     heading.title = reportText(run.name);
@@ -216,7 +216,7 @@ RunSheetData runSheetData(const infodata031& info, const RaceSet& set, std::size
     const analyzerdata& shown = set.alldata[run];
     const athletedata031 record = annotatedRecord(shown);
     RunSheetData data;
-    data.heading = headingOf(info, set, shown);
+    data.heading = runHeadingOf(info, set, shown);
     addSplits(data, set, shown);
     addMarkedStrokes(data, record);
     addRecordedStrokes(data, shown);

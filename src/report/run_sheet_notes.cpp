@@ -12,7 +12,7 @@ namespace kavela::report {
 
 namespace {
 
-std::string joined(std::span<const std::string> parts) {
+std::string joinedNotes(std::span<const std::string> parts) {
     std::string text;
     for (const std::string& part : parts)
         if (!part.empty())
@@ -57,7 +57,7 @@ SheetList lossList(const athletedata031& run) {
         std::string percent = sheetSeconds(loss.timelossper).chopped(1).toStdString();
         if (!std::isfinite(loss.timelossper))
             percent = "–";
-        std::string note = joined(loss.reasons);
+        std::string note = joinedNotes(loss.reasons);
         if (!loss.comments.empty())
             note += (note.empty() ? "" : ". ") + loss.comments;
         list.rows.push_back(

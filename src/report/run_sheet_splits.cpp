@@ -1,5 +1,7 @@
 #include "report/run_sheet_splits.h"
 
+#include "report/list_styles.h"
+
 #include <QPainter>
 
 #include <algorithm>
@@ -11,18 +13,14 @@ namespace kavela::report {
 
 namespace {
 
-constexpr TextStyle TitleStyle{10, true, Accent};
-constexpr TextStyle HeadStyle{6.5, false, Quiet};
-constexpr TextStyle RowStyle{8, false, Ink};
-constexpr qreal TitleHeight = 17 * Point;
-constexpr qreal HeadLine = 9.5 * Point;
-constexpr qreal RowHeight = 12.5 * Point;
-constexpr qreal CellGap = 9 * Point;
-constexpr qreal BarHeight = 4.5 * Point;
-constexpr qreal WidestTitle = 146;    ///< points
-constexpr qreal TitleForStrokes = 34; ///< that a title gives up for columns of strokes
-constexpr std::size_t MostRows = 14;
-const auto Dash = QStringLiteral("–");
+constexpr qreal SplitTitleHeight = 17 * Point;
+constexpr qreal SplitHeadLine = 9.5 * Point;
+constexpr qreal SplitRowHeight = 12.5 * Point;
+constexpr qreal SplitCellGap = 9 * Point;
+constexpr qreal SplitBarHeight = 4.5 * Point;
+constexpr qreal SplitWidestTitle = 146; ///< points
+constexpr qreal TitleForStrokes = 34;   ///< that a title gives up for columns of strokes
+constexpr std::size_t SplitMostRows = 14;
 
 struct Column {
     const char* group = "";
@@ -57,7 +55,7 @@ void addStrokes(std::vector<Column>& columns, const char* group, SheetStrokes Sh
 
 std::vector<Column> columnsOf(const RunSheetData& data) {
     const int strokes = data.hasMarkedStrokes + data.hasRecordedStrokes;
-    const qreal title = WidestTitle - strokes * TitleForStrokes;
+    const qreal title = SplitWidestTitle - strokes * TitleForStrokes;
     std::vector<Column> columns{
         {"", "Split", title, [](const SheetSplit& s) { return s.title; }, Qt::AlignLeft},
         {"", "Time", 40,
@@ -85,17 +83,18 @@ public:
 
     void paintHead(QPainter& painter, const QRectF& line) const {
         QRectF upper = line;
-        upper.setHeight(HeadLine);
+        upper.setHeight(SplitHeadLine);
         forCells(line, [&](const QRectF& cell, std::size_t i) {
             QRectF place = cell;
-            place.setTop(line.bottom() - HeadLine);
+            place.setTop(line.bottom() - SplitHeadLine);
             m_typeface.draw(painter, place, m_columns[i].alignment,
                             QString::fromLatin1(m_columns[i].title), HeadStyle);
             if (*m_columns[i].group == '\0')
                 return;
             // The group stands above its two columns.
             QRectF group(cell.left(), line.top(),
-                         cell.width() + CellGap + m_columns[i + 1].points * Point, HeadLine);
+                         cell.width() + SplitCellGap + m_columns[i + 1].points * Point,
+                         SplitHeadLine);
             m_typeface.draw(painter, group, Qt::AlignRight, QString::fromLatin1(m_columns[i].group),
                             HeadStyle);
         });
@@ -120,24 +119,25 @@ public:
 private:
     template <class Paint>
     void forCells(const QRectF& line, const Paint& paint) const {
-        qreal rest = line.width() + CellGap;
+        qreal rest = line.width() + SplitCellGap;
         for (const Column& column : m_columns)
-            rest -= CellGap + column.points * Point;
+            rest -= SplitCellGap + column.points * Point;
         QRectF cell = line;
         for (std::size_t i = 0; i < m_columns.size(); ++i) {
             cell.setWidth(m_columns[i].points > 0 ? m_columns[i].points * Point : rest);
             paint(cell, i);
-            cell.moveLeft(cell.right() + CellGap);
+            cell.moveLeft(cell.right() + SplitCellGap);
         }
     }
 
     void paintGap(QPainter& painter, const QRectF& cell, const SheetSplit& split) const {
         if (!split.gap)
             return;
-        const qreal top = cell.center().y() - BarHeight / 2;
+        const qreal top = cell.center().y() - SplitBarHeight / 2;
         const qreal share = m_greatestGap > 0 ? *split.gap / m_greatestGap : 0;
-        painter.fillRect(QRectF(cell.left(), top, cell.width() * share, BarHeight), AccentLight);
-        painter.fillRect(QRectF(cell.left(), top - Point, 0.8 * Point, BarHeight + 2 * Point),
+        painter.fillRect(QRectF(cell.left(), top, cell.width() * share, SplitBarHeight),
+                         AccentLight);
+        painter.fillRect(QRectF(cell.left(), top - Point, 0.8 * Point, SplitBarHeight + 2 * Point),
                          Accent);
     }
 
@@ -162,24 +162,26 @@ void putSplits(PageBuilder& pages, const RunSheetData& data, const Typeface& typ
     };
     const QString remark =
         QStringLiteral("gap and rank among all runs of the category; the run's with penalties");
-    put(TitleHeight, QStringLiteral("Splits"), remark, TitleStyle);
+    put(SplitTitleHeight, QStringLiteral("Splits"), remark, ListTitleStyle);
     const bool hasGroups = data.hasMarkedStrokes || data.hasRecordedStrokes;
-    pages.put(hasGroups ? 2 * HeadLine : HeadLine,
+    pages.put(hasGroups ? 2 * SplitHeadLine : SplitHeadLine,
               [=](QPainter& painter, const QRectF& place) { lines->paintHead(painter, place); });
     const std::size_t all = data.splits.size() + data.leftOutSplits;
-    const bool isCut = data.splits.size() > MostRows;
-    const std::size_t shown = isCut ? MostRows - 1 : data.splits.size();
+    const bool isCut = data.splits.size() > SplitMostRows;
+    const std::size_t shown = isCut ? SplitMostRows - 1 : data.splits.size();
     for (std::size_t k = 0; k < shown; ++k)
-        pages.put(RowHeight, [=, split = data.splits[k]](QPainter& painter, const QRectF& place) {
-            lines->paintRow(painter, place, split, false);
-        });
+        pages.put(SplitRowHeight,
+                  [=, split = data.splits[k]](QPainter& painter, const QRectF& place) {
+                      lines->paintRow(painter, place, split, false);
+                  });
     if (isCut)
-        put(RowHeight, QStringLiteral("and %1 more").arg(all - shown), {}, {7.5, false, Quiet});
-    pages.put(RowHeight, [=, whole = data.whole](QPainter& painter, const QRectF& place) {
+        put(SplitRowHeight, QStringLiteral("and %1 more").arg(all - shown), {},
+            {7.5, false, Quiet});
+    pages.put(SplitRowHeight, [=, whole = data.whole](QPainter& painter, const QRectF& place) {
         lines->paintRow(painter, place, whole, true);
     });
     if (!data.recordingNote.isEmpty())
-        put(RowHeight, {}, QStringLiteral("Recording: ") + data.recordingNote, RowStyle);
+        put(SplitRowHeight, {}, QStringLiteral("Recording: ") + data.recordingNote, RowStyle);
 }
 
 } // namespace kavela::report

@@ -1,6 +1,7 @@
 #include "report/selection_table.h"
 
 #include "common/number_text.h"
+#include "report/list_styles.h"
 
 #include <QPainter>
 #include <QStringList>
@@ -12,23 +13,19 @@ namespace kavela::report {
 
 namespace {
 
-constexpr TextStyle RowStyle{8, false, Ink};
 constexpr TextStyle BoldStyle{8, true, Ink};
 constexpr TextStyle DroppedStyle{8, false, Quiet};
-constexpr TextStyle HeadStyle{6.5, false, Quiet};
-constexpr TextStyle RaceStyle{7.5, true, Ink};
-constexpr TextStyle TitleStyle{11, true, Accent};
-constexpr TextStyle NoteStyle{7.5, false, Quiet};
-constexpr qreal TitleHeight = 19 * Point;
+constexpr TextStyle SelectionRaceStyle{7.5, true, Ink};
+constexpr TextStyle SelectionTitleStyle{11, true, Accent};
+constexpr qreal SelectionTitleHeight = 19 * Point;
 constexpr qreal RaceLineHeight = 13 * Point;
-constexpr qreal HeadHeight = 11 * Point;
-constexpr qreal RowHeight = 13.5 * Point;
+constexpr qreal SelectionHeadHeight = 11 * Point;
+constexpr qreal SelectionRowHeight = 13.5 * Point;
 constexpr qreal TableGap = 16 * Point;
-constexpr qreal CellGap = 6 * Point;
+constexpr qreal SelectionCellGap = 6 * Point;
 constexpr qreal LineSpacing = 12 * Point;
-constexpr std::size_t FewestRows = 3; ///< below a heading
+constexpr std::size_t SelectionFewestRows = 3; ///< below a heading
 constexpr std::size_t RacesSideBySide = 4;
-const auto Dash = QStringLiteral("–");
 
 QString numberText(double value) {
     const std::string text = hundredthsText(value);
@@ -44,7 +41,7 @@ struct ResultCell {
     bool isDropped = false;
 };
 
-struct Row {
+struct SelectionRow {
     QString rank;
     QString name;
     QString club;
@@ -64,7 +61,7 @@ struct Race {
 struct Table {
     QString title;
     std::vector<Race> races;
-    std::vector<Row> rows;
+    std::vector<SelectionRow> rows;
     bool hasPreselected = false;
     bool hasBonus = false;
     bool isExpected = false;
@@ -86,15 +83,16 @@ QString preselectedText(const std::vector<bool>& flags) {
     return groups.join(' ');
 }
 
-Row rowOf(const srAthleteStruct_v3& athlete, const Standing& standing, SelectionTimes times) {
-    Row row{QString::number(standing.rank),
-            reportText(athlete.name),
-            reportText(athlete.club),
-            athlete.year == 0 ? QString() : QString::number(athlete.year),
-            preselectedText(athlete.preselected),
-            {},
-            {},
-            numberText(standing.score.score)};
+SelectionRow selectionRowOf(const srAthleteStruct_v3& athlete, const Standing& standing,
+                            SelectionTimes times) {
+    SelectionRow row{QString::number(standing.rank),
+                     reportText(athlete.name),
+                     reportText(athlete.club),
+                     athlete.year == 0 ? QString() : QString::number(athlete.year),
+                     preselectedText(athlete.preselected),
+                     {},
+                     {},
+                     numberText(standing.score.score)};
     for (std::size_t i = 0; i < standing.score.races.size(); ++i)
         row.races.push_back(
             cellOf(i < athlete.racedata.size() ? athlete.racedata[i] : missingResult(),
@@ -119,7 +117,7 @@ Table tableOf(const selectionracesStruct_v3& document, std::size_t index, Select
     for (const sRaceStruct& race : document.races)
         table.races.push_back(raceOf(race, index, times));
     for (const Standing& standing : standings(category, document.races.size(), bonus, times)) {
-        table.rows.push_back(rowOf(category.athletes[standing.athlete], standing, times));
+        table.rows.push_back(selectionRowOf(category.athletes[standing.athlete], standing, times));
         table.hasPreselected |= !table.rows.back().preselected.isEmpty();
     }
     return table;
@@ -134,7 +132,7 @@ Table partOf(const Table& table, std::size_t first) {
     };
     Table part = table;
     part.races = cut(table.races);
-    for (Row& row : part.rows)
+    for (SelectionRow& row : part.rows)
         row.races = cut(row.races);
     if (table.races.size() > RacesSideBySide)
         part.title += QStringLiteral(" · races %1 to %2").arg(first + 1).arg(end);
@@ -142,27 +140,27 @@ Table partOf(const Table& table, std::size_t first) {
 }
 
 /// A table as it is being painted. The pieces of the pages share it.
-class Sheet {
+class SelectionSheet {
 public:
-    Sheet(Table table, Typeface typeface)
+    SelectionSheet(Table table, Typeface typeface)
         : m_table(std::move(table)), m_typeface(std::move(typeface)) {}
 
     [[nodiscard]] std::size_t rowCount() const { return m_table.rows.size(); }
 
     void paintHead(QPainter& painter, const QRectF& place, bool isContinued) const {
-        QRectF line(place.left(), place.top(), place.width(), TitleHeight);
+        QRectF line(place.left(), place.top(), place.width(), SelectionTitleHeight);
         const QString more = isContinued ? QStringLiteral(", continued") : QString();
-        m_typeface.draw(painter, line, Qt::AlignLeft, m_table.title + more, TitleStyle);
+        m_typeface.draw(painter, line, Qt::AlignLeft, m_table.title + more, SelectionTitleStyle);
         line = {line.left(), line.bottom(), line.width(), RaceLineHeight};
         for (std::size_t i = 0; i < m_table.races.size(); ++i)
             paintRaceHead(painter, places(line).races[i], m_table.races[i]);
-        line = {line.left(), line.bottom(), line.width(), HeadHeight};
+        line = {line.left(), line.bottom(), line.width(), SelectionHeadHeight};
         paintColumnHead(painter, places(line));
         drawRule(painter, line, line.bottom(), Accent, 0.6);
     }
 
     void paintRow(QPainter& painter, const QRectF& line, std::size_t index) const {
-        const Row& row = m_table.rows[index];
+        const SelectionRow& row = m_table.rows[index];
         const Places at = places(line);
         m_typeface.draw(painter, at.rank, Qt::AlignRight, row.rank, BoldStyle);
         m_typeface.draw(painter, at.name, Qt::AlignLeft, row.name, RowStyle);
@@ -192,7 +190,7 @@ private:
         const auto fromRight = [&](qreal points) {
             QRectF cell = rest;
             cell.setLeft(rest.right() - points * Point);
-            rest.setRight(cell.left() - CellGap);
+            rest.setRight(cell.left() - SelectionCellGap);
             return cell;
         };
         at.score = fromRight(38);
@@ -205,7 +203,7 @@ private:
         at.year = fromRight(22);
         at.rank = rest;
         at.rank.setWidth(16 * Point);
-        rest.setLeft(at.rank.right() + CellGap);
+        rest.setLeft(at.rank.right() + SelectionCellGap);
         at.club = fromRight(rest.width() / Point * 0.38);
         at.name = rest;
         return at;
@@ -224,7 +222,7 @@ private:
         const QRectF inner = place.adjusted(6 * Point, 0, 0, 0);
         QRectF location = inner;
         location.setRight(inner.right() - m_typeface.width(race.best, HeadStyle) - 4 * Point);
-        m_typeface.draw(painter, location, Qt::AlignLeft, race.location, RaceStyle);
+        m_typeface.draw(painter, location, Qt::AlignLeft, race.location, SelectionRaceStyle);
         m_typeface.draw(painter, inner, Qt::AlignRight, race.best, HeadStyle);
         drawRule(painter, inner, inner.bottom(), Rule);
     }
@@ -271,31 +269,33 @@ private:
     Typeface m_typeface;
 };
 
-void putHead(PageBuilder& pages, const std::shared_ptr<const Sheet>& sheet, bool isContinued) {
-    pages.put(TitleHeight + RaceLineHeight + HeadHeight,
+void putSelectionHead(PageBuilder& pages, const std::shared_ptr<const SelectionSheet>& sheet,
+                      bool isContinued) {
+    pages.put(SelectionTitleHeight + RaceLineHeight + SelectionHeadHeight,
               [sheet, isContinued](QPainter& painter, const QRectF& place) {
                   sheet->paintHead(painter, place, isContinued);
               });
 }
 
 void putTable(PageBuilder& pages, Table table, const Typeface& typeface) {
-    const auto sheet = std::make_shared<const Sheet>(std::move(table), typeface);
+    const auto sheet = std::make_shared<const SelectionSheet>(std::move(table), typeface);
     const auto heightOf = [](std::size_t rows) {
-        return TitleHeight + RaceLineHeight + HeadHeight + static_cast<qreal>(rows) * RowHeight;
+        return SelectionTitleHeight + RaceLineHeight + SelectionHeadHeight +
+               static_cast<qreal>(rows) * SelectionRowHeight;
     };
     // A category is cut only when a page is too short for it.
     const qreal whole = heightOf(sheet->rowCount());
     const qreal page = bodyPlace(pages.orientation()).height();
-    const qreal least = whole <= page ? whole : heightOf(FewestRows);
+    const qreal least = whole <= page ? whole : heightOf(SelectionFewestRows);
     if (pages.space().height() < least)
         pages.newPage();
-    putHead(pages, sheet, false);
+    putSelectionHead(pages, sheet, false);
     for (std::size_t row = 0; row < sheet->rowCount(); ++row) {
-        if (pages.space().height() < RowHeight) {
+        if (pages.space().height() < SelectionRowHeight) {
             pages.newPage();
-            putHead(pages, sheet, true);
+            putSelectionHead(pages, sheet, true);
         }
-        pages.put(RowHeight, [sheet, row](QPainter& painter, const QRectF& place) {
+        pages.put(SelectionRowHeight, [sheet, row](QPainter& painter, const QRectF& place) {
             sheet->paintRow(painter, place, row);
         });
     }

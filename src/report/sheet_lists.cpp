@@ -1,5 +1,6 @@
 #include "report/sheet_lists.h"
 
+#include "report/list_styles.h"
 #include "report/wrapped_text.h"
 
 #include <QPainter>
@@ -12,33 +13,29 @@ namespace kavela::report {
 
 namespace {
 
-constexpr TextStyle TitleStyle{10, true, Accent};
-constexpr TextStyle HeadStyle{6.5, false, Quiet};
-constexpr TextStyle RowStyle{8, false, Ink};
-constexpr TextStyle NoteStyle{7.5, false, Quiet};
-constexpr qreal TitleHeight = 16 * Point;
-constexpr qreal HeadHeight = 10 * Point;
-constexpr qreal LineHeight = 11.4 * Point;
-constexpr qreal ListGap = 10 * Point;
-constexpr qreal CellGap = 7 * Point;
-constexpr qreal ColumnGap = 24 * Point;
+constexpr qreal SheetTitleHeight = 16 * Point;
+constexpr qreal SheetHeadHeight = 10 * Point;
+constexpr qreal SheetLineHeight = 11.4 * Point;
+constexpr qreal SheetListGap = 10 * Point;
+constexpr qreal SheetCellGap = 7 * Point;
+constexpr qreal SheetColumnGap = 24 * Point;
 constexpr qreal NoteIndent = 8 * Point;
-constexpr std::size_t MostRows = 80; ///< more never fit on a page
+constexpr std::size_t SheetMostRows = 80; ///< more never fit on a page
 constexpr std::size_t MostCellLines = 5;
-constexpr std::size_t MostNoteLines = 3;
+constexpr std::size_t SheetMostNoteLines = 3;
 
 /// One line of a row: cells, or a line of its note.
-struct Line {
+struct SheetLine {
     std::vector<QString> cells;
     QString note;
 };
 
-using Lines = std::vector<Line>;
+using Lines = std::vector<SheetLine>;
 
 qreal restWidth(const SheetList& list, qreal width) {
-    qreal rest = width + CellGap;
+    qreal rest = width + SheetCellGap;
     for (const SheetColumn& column : list.columns)
-        rest -= CellGap + column.points * Point;
+        rest -= SheetCellGap + column.points * Point;
     return std::max(rest, 20 * Point);
 }
 
@@ -69,7 +66,7 @@ Lines linesOf(const SheetList& list, const SheetRow& row, qreal width, const Typ
             cellAt(line, i) = texts[line];
     }
     for (const QString& text :
-         cut(wrappedLines(row.note, typeface, NoteStyle, width - NoteIndent), MostNoteLines))
+         cut(wrappedLines(row.note, typeface, NoteStyle, width - NoteIndent), SheetMostNoteLines))
         lines.push_back({{}, text});
     return lines;
 }
@@ -79,29 +76,31 @@ class LaidList {
 public:
     LaidList(const SheetList& list, qreal width, const Typeface& typeface)
         : m_list(list), m_typeface(typeface), m_width(width) {
-        for (std::size_t i = 0; i < std::min(list.rows.size(), MostRows); ++i)
+        for (std::size_t i = 0; i < std::min(list.rows.size(), SheetMostRows); ++i)
             m_rows.push_back(linesOf(list, list.rows[i], width, typeface));
         for (const Lines& row : m_rows)
             m_wanted += row.size();
-        m_wanted += list.rows.size() > MostRows;
+        m_wanted += list.rows.size() > SheetMostRows;
     }
 
     [[nodiscard]] std::size_t wantedLines() const { return m_wanted; }
-    [[nodiscard]] qreal overhead() const { return TitleHeight + (hasHead() ? HeadHeight : 0); }
+    [[nodiscard]] qreal overhead() const {
+        return SheetTitleHeight + (hasHead() ? SheetHeadHeight : 0);
+    }
     [[nodiscard]] qreal height(std::size_t lines) const {
-        return overhead() + static_cast<qreal>(lines) * LineHeight;
+        return overhead() + static_cast<qreal>(lines) * SheetLineHeight;
     }
 
     void put(PageBuilder& pages, const QPointF& corner, std::size_t lines) const {
-        QRectF place(corner, QSizeF(m_width, TitleHeight));
-        write(pages, place, Qt::AlignLeft, m_list.title, TitleStyle);
-        place = {place.left(), place.bottom(), m_width, hasHead() ? HeadHeight : 0};
+        QRectF place(corner, QSizeF(m_width, SheetTitleHeight));
+        write(pages, place, Qt::AlignLeft, m_list.title, ListTitleStyle);
+        place = {place.left(), place.bottom(), m_width, hasHead() ? SheetHeadHeight : 0};
         if (hasHead())
             putHead(pages, place);
-        place = {place.left(), place.bottom(), m_width, LineHeight};
-        for (const Line& line : shownLines(lines)) {
+        place = {place.left(), place.bottom(), m_width, SheetLineHeight};
+        for (const SheetLine& line : shownLines(lines)) {
             putLine(pages, place, line);
-            place.translate(0, LineHeight);
+            place.translate(0, SheetLineHeight);
         }
     }
 
@@ -146,7 +145,7 @@ private:
             const qreal points = m_list.columns[i].points;
             cell.setWidth(points > 0 ? points * Point : restWidth(m_list, m_width));
             writeCell(cell, i);
-            cell.moveLeft(cell.right() + CellGap);
+            cell.moveLeft(cell.right() + SheetCellGap);
         }
     }
 
@@ -159,7 +158,7 @@ private:
         });
     }
 
-    void putLine(PageBuilder& pages, const QRectF& place, const Line& line) const {
+    void putLine(PageBuilder& pages, const QRectF& place, const SheetLine& line) const {
         forCells(place, [&](const QRectF& cell, std::size_t i) {
             if (i < line.cells.size())
                 write(pages, cell, m_list.columns[i].alignment, line.cells[i], RowStyle);
@@ -177,7 +176,7 @@ private:
 qreal wantedHeight(std::span<const LaidList> lists) {
     qreal height = 0;
     for (const LaidList& list : lists)
-        height += list.height(list.wantedLines()) + ListGap;
+        height += list.height(list.wantedLines()) + SheetListGap;
     return height;
 }
 
@@ -200,16 +199,16 @@ std::size_t leftCount(const std::vector<LaidList>& lists) {
 /// Puts lists below each other.
 void putColumn(PageBuilder& pages, std::span<const LaidList> lists, QPointF corner, qreal height) {
     std::vector<std::size_t> wanted;
-    qreal left = height + ListGap;
+    qreal left = height + SheetListGap;
     for (const LaidList& list : lists) {
         wanted.push_back(list.wantedLines());
-        left -= list.overhead() + ListGap;
+        left -= list.overhead() + SheetListGap;
     }
     const std::vector<std::size_t> lines =
-        sharedLines(wanted, static_cast<std::size_t>(std::max(0.0, left / LineHeight)));
+        sharedLines(wanted, static_cast<std::size_t>(std::max(0.0, left / SheetLineHeight)));
     for (std::size_t i = 0; i < lists.size(); ++i) {
         lists[i].put(pages, corner, lines[i]);
-        corner.ry() += lists[i].height(lines[i]) + ListGap;
+        corner.ry() += lists[i].height(lines[i]) + SheetListGap;
     }
 }
 
@@ -234,7 +233,7 @@ void putSheetLists(PageBuilder& pages, const std::vector<SheetList>& lists,
         return;
     const QRectF space = pages.space();
     const bool isSingle = lists.size() == 1;
-    const qreal width = isSingle ? space.width() : (space.width() - ColumnGap) / 2;
+    const qreal width = isSingle ? space.width() : (space.width() - SheetColumnGap) / 2;
     std::vector<LaidList> laid;
     laid.reserve(lists.size());
     for (const SheetList& list : lists)
@@ -242,7 +241,7 @@ void putSheetLists(PageBuilder& pages, const std::vector<SheetList>& lists,
     const std::span<const LaidList> all(laid);
     const std::size_t left = leftCount(laid);
     putColumn(pages, all.first(left), space.topLeft(), space.height());
-    putColumn(pages, all.subspan(left), space.topLeft() + QPointF(width + ColumnGap, 0),
+    putColumn(pages, all.subspan(left), space.topLeft() + QPointF(width + SheetColumnGap, 0),
               space.height());
 }
 

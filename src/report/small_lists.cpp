@@ -1,6 +1,7 @@
 #include "report/small_lists.h"
 
 #include "report/list_flow.h"
+#include "report/list_styles.h"
 
 #include <QPainter>
 
@@ -11,24 +12,22 @@ namespace kavela::report {
 
 namespace {
 
-constexpr TextStyle RowStyle{8, false, Ink};
-constexpr TextStyle HeadStyle{6.5, false, Quiet};
-constexpr TextStyle TitleStyle{9, true, Accent};
-constexpr qreal RowHeight = 12.4 * Point;
-constexpr qreal TitleHeight = 17 * Point;
-constexpr qreal HeadHeight = 12 * Point;
-constexpr qreal ListGap = 12 * Point;
-constexpr qreal CellGap = 6.5 * Point;
-constexpr qreal ColumnGap = 22 * Point;
+constexpr TextStyle SmallListTitleStyle{9, true, Accent};
+constexpr qreal SmallListRowHeight = 12.4 * Point;
+constexpr qreal SmallListTitleHeight = 17 * Point;
+constexpr qreal SmallListHeadHeight = 12 * Point;
+constexpr qreal SmallListGap = 12 * Point;
+constexpr qreal SmallListCellGap = 6.5 * Point;
+constexpr qreal SmallListColumnGap = 22 * Point;
 constexpr qreal LeastColumn = 215 * Point;
 constexpr qreal WidestRest = 150 * Point;
 constexpr std::size_t FewestSideBySide = 2;
 constexpr std::size_t MostSideBySide = 3;
 
 /// The columns of one kind of list, fitted to what they hold.
-class Columns {
+class SmallListColumns {
 public:
-    Columns(const SmallLists& lists, std::size_t kind, const Typeface& typeface)
+    SmallListColumns(const SmallLists& lists, std::size_t kind, const Typeface& typeface)
         : m_columns(lists.kinds[kind]) {
         TextStyle bold = RowStyle;
         bold.isBold = true;
@@ -45,23 +44,23 @@ public:
 
     /// How wide a list has to be to show everything, within reason.
     [[nodiscard]] qreal wantedWidth() const {
-        qreal width = -CellGap;
+        qreal width = -SmallListCellGap;
         for (std::size_t i = 0; i < size(); ++i)
-            width += CellGap +
+            width += SmallListCellGap +
                      (m_columns[i].takesRest ? std::min(m_widths[i], WidestRest) : m_widths[i]);
         return width;
     }
 
     /// The place of a column in a line: what the others leave goes to the one that takes the rest.
     [[nodiscard]] QRectF cell(const QRectF& line, std::size_t column) const {
-        qreal rest = line.width() + CellGap;
+        qreal rest = line.width() + SmallListCellGap;
         for (std::size_t i = 0; i < size(); ++i)
-            rest -= CellGap + (m_columns[i].takesRest ? 0 : m_widths[i]);
+            rest -= SmallListCellGap + (m_columns[i].takesRest ? 0 : m_widths[i]);
         QRectF place = line;
         for (std::size_t i = 0; i <= column; ++i) {
             place.setWidth(m_columns[i].takesRest ? rest : m_widths[i]);
             if (i < column)
-                place.moveLeft(place.right() + CellGap);
+                place.moveLeft(place.right() + SmallListCellGap);
         }
         return place;
     }
@@ -72,9 +71,9 @@ private:
 };
 
 /// The lists as they are being painted. The pieces of the pages share it.
-class Sheet {
+class SmallListSheet {
 public:
-    Sheet(SmallLists lists, Typeface typeface)
+    SmallListSheet(SmallLists lists, Typeface typeface)
         : m_lists(std::move(lists)), m_typeface(std::move(typeface)) {
         for (std::size_t kind = 0; kind < m_lists.kinds.size(); ++kind)
             m_kinds.emplace_back(m_lists, kind, m_typeface);
@@ -82,7 +81,7 @@ public:
 
     [[nodiscard]] qreal wantedWidth() const {
         qreal width = 0;
-        for (const Columns& columns : m_kinds)
+        for (const SmallListColumns& columns : m_kinds)
             width = std::max(width, columns.wantedWidth());
         return width;
     }
@@ -97,26 +96,26 @@ public:
     void paint(QPainter& painter, const QRectF& place, const ListPart& part) const {
         const SmallList& list = m_lists.lists[part.list];
         QRectF line = place;
-        line.setHeight(TitleHeight);
+        line.setHeight(SmallListTitleHeight);
         const QString more = part.firstRow > 0 ? QStringLiteral(", continued") : QString();
-        m_typeface.draw(painter, line, Qt::AlignLeft, list.title + more, TitleStyle);
-        line = {line.left(), line.bottom(), line.width(), HeadHeight};
+        m_typeface.draw(painter, line, Qt::AlignLeft, list.title + more, SmallListTitleStyle);
+        line = {line.left(), line.bottom(), line.width(), SmallListHeadHeight};
         paintHead(painter, line, m_kinds[list.kind]);
         for (std::size_t row = part.firstRow; row < part.endRow; ++row) {
-            line = {line.left(), line.bottom(), line.width(), RowHeight};
+            line = {line.left(), line.bottom(), line.width(), SmallListRowHeight};
             paintRow(painter, line, m_kinds[list.kind], list.rows[row]);
         }
     }
 
 private:
-    void paintHead(QPainter& painter, const QRectF& line, const Columns& columns) const {
+    void paintHead(QPainter& painter, const QRectF& line, const SmallListColumns& columns) const {
         for (std::size_t i = 0; i < columns.size(); ++i)
             m_typeface.draw(painter, columns.cell(line, i), columns[i].alignment, columns[i].title,
                             HeadStyle);
         drawRule(painter, line, line.bottom(), Accent, 0.6);
     }
 
-    void paintRow(QPainter& painter, const QRectF& line, const Columns& columns,
+    void paintRow(QPainter& painter, const QRectF& line, const SmallListColumns& columns,
                   const ListRow& row) const {
         for (std::size_t i = 0; i < columns.size(); ++i) {
             TextStyle style = RowStyle;
@@ -130,30 +129,33 @@ private:
 
     SmallLists m_lists;
     Typeface m_typeface;
-    std::vector<Columns> m_kinds;
+    std::vector<SmallListColumns> m_kinds;
 };
 
 std::size_t sideBySide(qreal paper, qreal wanted) {
-    const auto most = static_cast<std::size_t>((paper + ColumnGap) / (LeastColumn + ColumnGap));
-    const auto fitting = static_cast<std::size_t>((paper + ColumnGap) / (wanted + ColumnGap));
+    const auto most =
+        static_cast<std::size_t>((paper + SmallListColumnGap) / (LeastColumn + SmallListColumnGap));
+    const auto fitting =
+        static_cast<std::size_t>((paper + SmallListColumnGap) / (wanted + SmallListColumnGap));
     return std::clamp(std::min(most, fitting), FewestSideBySide, MostSideBySide);
 }
 
 } // namespace
 
 void putLists(PageBuilder& pages, SmallLists lists, const Typeface& typeface) {
-    const auto sheet = std::make_shared<const Sheet>(std::move(lists), typeface);
+    const auto sheet = std::make_shared<const SmallListSheet>(std::move(lists), typeface);
     const QRectF space = pages.space();
     const std::size_t columns = sideBySide(space.width(), sheet->wantedWidth());
-    const qreal width = (space.width() + ColumnGap) / static_cast<qreal>(columns) - ColumnGap;
-    const FlowSizes sizes{TitleHeight + HeadHeight, RowHeight, ListGap, space.height(),
-                          bodyPlace(pages.orientation()).height()};
+    const qreal width =
+        (space.width() + SmallListColumnGap) / static_cast<qreal>(columns) - SmallListColumnGap;
+    const FlowSizes sizes{SmallListTitleHeight + SmallListHeadHeight, SmallListRowHeight,
+                          SmallListGap, space.height(), bodyPlace(pages.orientation()).height()};
     std::size_t page = 0;
     qreal lowest = 0;
     for (const ListPart& part : flowLists(sheet->rowCounts(), columns, sizes)) {
         for (; page < part.column / columns; ++page, lowest = 0)
             pages.newPage();
-        const qreal x = static_cast<qreal>(part.column % columns) * (width + ColumnGap);
+        const qreal x = static_cast<qreal>(part.column % columns) * (width + SmallListColumnGap);
         const qreal height = sizes.height(part.endRow - part.firstRow);
         const QPointF corner = pages.space().topLeft() + QPointF(x, part.top);
         pages.putAt({corner, QSizeF(width, height)},

@@ -16,31 +16,31 @@ constexpr qreal GroundGap = 0.5 * Point; ///< of paper around a tinted cell
 constexpr std::size_t FewestRowsBelowTitle = 2;
 
 /// One line of the table: the title of a group, or one of its rows.
-struct Line {
+struct TableLine {
     std::size_t group = 0;
     std::optional<std::size_t> row;
     bool isContinued = false;
 };
 
 /// A table as it is being painted. The pieces of its pages share it.
-class Sheet {
+class TableSheet {
 public:
-    Sheet(ReportTable table, TableLayout layout, Typeface typeface)
+    TableSheet(ReportTable table, TableLayout layout, Typeface typeface)
         : m_table(std::move(table)), m_layout(std::move(layout)), m_typeface(std::move(typeface)) {}
 
     [[nodiscard]] const ReportTable& table() const { return m_table; }
     [[nodiscard]] const TableLayout& layout() const { return m_layout; }
     [[nodiscard]] const Typeface& typeface() const { return m_typeface; }
-    [[nodiscard]] qreal height(const Line& line) const {
+    [[nodiscard]] qreal height(const TableLine& line) const {
         return line.row ? m_layout.rowHeight() : m_layout.groupHeight();
     }
 
     void paint(QPainter& painter, const QRectF& place, std::size_t strip,
-               const std::vector<Line>& lines) const {
+               const std::vector<TableLine>& lines) const {
         QRectF linePlace = place;
         linePlace.setHeight(m_layout.headHeight());
         paintHead(painter, linePlace, m_layout.strips[strip]);
-        for (const Line& line : lines) {
+        for (const TableLine& line : lines) {
             linePlace = {linePlace.left(), linePlace.bottom(), linePlace.width(), height(line)};
             const ReportGroup& group = m_table.groups[line.group];
             if (line.row)
@@ -146,7 +146,7 @@ private:
 /// Deals the lines of a table out to pages.
 class Dealer {
 public:
-    Dealer(PageBuilder& pages, std::shared_ptr<const Sheet> sheet)
+    Dealer(PageBuilder& pages, std::shared_ptr<const TableSheet> sheet)
         : m_pages(pages), m_sheet(std::move(sheet)) {}
 
     void dealStrip(std::size_t strip) {
@@ -191,7 +191,7 @@ private:
         }
     }
 
-    void add(const Line& line) {
+    void add(const TableLine& line) {
         m_room -= m_sheet->height(line);
         m_lines.push_back(line);
     }
@@ -200,7 +200,7 @@ private:
 
     void finishPage() {
         qreal height = m_sheet->layout().headHeight();
-        for (const Line& line : m_lines)
+        for (const TableLine& line : m_lines)
             height += m_sheet->height(line);
         QRectF legend = m_pages.space();
         legend.setTop(legend.bottom() - legendHeight());
@@ -221,9 +221,9 @@ private:
     }
 
     PageBuilder& m_pages;
-    std::shared_ptr<const Sheet> m_sheet;
+    std::shared_ptr<const TableSheet> m_sheet;
     std::size_t m_strip = 0;
-    std::vector<Line> m_lines;
+    std::vector<TableLine> m_lines;
     qreal m_room = 0;
 };
 
@@ -231,7 +231,7 @@ private:
 
 void putTable(PageBuilder& pages, const ReportTable& table, const TableLayout& layout,
               const Typeface& typeface) {
-    Dealer dealer(pages, std::make_shared<const Sheet>(table, layout, typeface));
+    Dealer dealer(pages, std::make_shared<const TableSheet>(table, layout, typeface));
     for (std::size_t strip = 0; strip < layout.strips.size(); ++strip) {
         if (strip > 0)
             pages.newPage();

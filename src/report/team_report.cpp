@@ -16,14 +16,14 @@ namespace {
 constexpr TextStyle NameStyle{11, true, Ink};
 constexpr TextStyle LabelStyle{8.5, true, Accent};
 constexpr TextStyle CountStyle{8.5, false, Ink};
-constexpr TextStyle RaceStyle{8, false, Ink};
-constexpr TextStyle QuietStyle{8, false, Quiet};
+constexpr TextStyle TeamRaceStyle{8, false, Ink};
+constexpr TextStyle TeamQuietStyle{8, false, Quiet};
 constexpr qreal NameHeight = 17 * Point;
-constexpr qreal LineHeight = 12.5 * Point;
+constexpr qreal TeamLineHeight = 12.5 * Point;
 constexpr qreal RuleGap = 5 * Point;
 constexpr qreal RaceHeight = 12.5 * Point;
 constexpr qreal BlockGap = 20 * Point;
-constexpr qreal ColumnGap = 28 * Point;
+constexpr qreal TeamColumnGap = 28 * Point;
 constexpr std::size_t ColumnCount = 2;
 constexpr std::size_t CountLines = 4;
 
@@ -62,7 +62,7 @@ public:
         for (const Categorization& athlete : m_athletes)
             for (const CategorizedRace& race : athlete.races)
                 m_eventWidth =
-                    std::max(m_eventWidth, m_typeface.width(reportText(race.event), RaceStyle));
+                    std::max(m_eventWidth, m_typeface.width(reportText(race.event), TeamRaceStyle));
         m_eventWidth = std::min(m_eventWidth, 70 * Point);
     }
 
@@ -90,7 +90,7 @@ private:
         const QString more = isContinued ? QStringLiteral(", continued") : QString();
         m_typeface.draw(painter, line, Qt::AlignLeft, reportText(athlete.name) + more, NameStyle);
         const auto write = [&](const std::string& text, const TextStyle& style) {
-            line = {line.left(), line.bottom(), line.width(), LineHeight};
+            line = {line.left(), line.bottom(), line.width(), TeamLineHeight};
             m_typeface.draw(painter, line, Qt::AlignLeft, QString::fromStdString(text), style);
         };
         write(athlete.label, LabelStyle);
@@ -114,9 +114,9 @@ private:
         };
         cell.moveLeft(cell.left() + SquareSide + ExtraWidth + 2 * Point);
         write(20 * Point, Qt::AlignRight, QString::number(race.finalPos), {8, true, Ink});
-        write(22 * Point, Qt::AlignLeft, QString::number(race.year), QuietStyle);
-        write(m_eventWidth, Qt::AlignLeft, reportText(race.event), RaceStyle);
-        write(line.right() - cell.left(), Qt::AlignLeft, reportText(race.location), QuietStyle);
+        write(22 * Point, Qt::AlignLeft, QString::number(race.year), TeamQuietStyle);
+        write(m_eventWidth, Qt::AlignLeft, reportText(race.event), TeamRaceStyle);
+        write(line.right() - cell.left(), Qt::AlignLeft, reportText(race.location), TeamQuietStyle);
     }
 
     std::vector<Categorization> m_athletes;
@@ -137,7 +137,8 @@ std::vector<HeadingFact> levelFacts(const std::vector<Categorization>& athletes)
     return facts;
 }
 
-ReportHeading headingOf(std::string_view category, const std::vector<Categorization>& athletes) {
+ReportHeading teamHeadingOf(std::string_view category,
+                            const std::vector<Categorization>& athletes) {
     ReportHeading heading;
     heading.title = QStringLiteral("2025 Categorization");
     heading.subtitle = reportText(category);
@@ -150,7 +151,7 @@ ReportHeading headingOf(std::string_view category, const std::vector<Categorizat
 
 void putLegend(PageBuilder& pages, const Typeface& typeface) {
     pages.put(22 * Point, [typeface](QPainter& painter, const QRectF& place) {
-        QRectF line(place.left(), place.top(), place.width(), LineHeight);
+        QRectF line(place.left(), place.top(), place.width(), TeamLineHeight);
         const auto write = [&](const QString& text) {
             typeface.draw(painter, line, Qt::AlignLeft, text, {7.5, false, Quiet});
             line.setLeft(line.left() + typeface.width(text, {7.5, false, Quiet}) + 6 * Point);
@@ -168,14 +169,15 @@ void putLegend(PageBuilder& pages, const Typeface& typeface) {
 void putBlocks(PageBuilder& pages, std::vector<Categorization> athletes, const Typeface& typeface) {
     const auto blocks = std::make_shared<const Blocks>(std::move(athletes), typeface);
     const QRectF first = pages.space();
-    const qreal width = (first.width() + ColumnGap) / static_cast<qreal>(ColumnCount) - ColumnGap;
-    const FlowSizes sizes{NameHeight + (CountLines + 1) * LineHeight + RuleGap, RaceHeight,
+    const qreal width =
+        (first.width() + TeamColumnGap) / static_cast<qreal>(ColumnCount) - TeamColumnGap;
+    const FlowSizes sizes{NameHeight + (CountLines + 1) * TeamLineHeight + RuleGap, RaceHeight,
                           BlockGap, first.height(), bodyPlace(pages.orientation()).height()};
     std::size_t page = 0;
     for (const ListPart& part : flowLists(blocks->raceCounts(), ColumnCount, sizes)) {
         for (; page < part.column / ColumnCount; ++page)
             pages.newPage();
-        const qreal x = static_cast<qreal>(part.column % ColumnCount) * (width + ColumnGap);
+        const qreal x = static_cast<qreal>(part.column % ColumnCount) * (width + TeamColumnGap);
         const QPointF corner = pages.space().topLeft() + QPointF(x, part.top);
         pages.putAt({corner, QSizeF(width, sizes.height(part.endRow - part.firstRow))},
                     [blocks, part](QPainter& painter, const QRectF& place) {
@@ -189,7 +191,7 @@ void putBlocks(PageBuilder& pages, std::vector<Categorization> athletes, const T
 std::unique_ptr<PagedReport> categorizationReport(std::string_view category,
                                                   std::vector<Categorization> athletes) {
     const Typeface typeface;
-    ReportHeading heading = headingOf(category, athletes);
+    ReportHeading heading = teamHeadingOf(category, athletes);
     PageBuilder pages(QPageLayout::Portrait);
     putTitleBlock(pages, heading, typeface);
     if (athletes.empty()) {

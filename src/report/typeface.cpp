@@ -15,7 +15,7 @@ namespace kavela::report {
 
 namespace {
 
-constexpr qsizetype LongestText = 200;
+constexpr qsizetype LongestMeasured = 200;
 constexpr qreal MostSqueezed = 0.86;
 constexpr qreal Tolerance = Point / 4; ///< a plain figure may be a hair wider than a bold one
 
@@ -91,9 +91,11 @@ void drawRule(QPainter& painter, const QRectF& place, qreal y, const QColor& col
 }
 
 QString reportText(std::string_view text) {
-    QString line = QString::fromStdString(printable(text.substr(0, 4 * LongestText))).simplified();
-    if (line.size() > LongestText) {
-        line.truncate(line[LongestText - 1].isHighSurrogate() ? LongestText - 1 : LongestText);
+    QString line =
+        QString::fromStdString(printable(text.substr(0, 4 * LongestMeasured))).simplified();
+    if (line.size() > LongestMeasured) {
+        line.truncate(line[LongestMeasured - 1].isHighSurrogate() ? LongestMeasured - 1
+                                                                  : LongestMeasured);
         line += QChar(0x2026);
     }
     return line;

@@ -22,7 +22,7 @@ bool hasFinalPosition(std::span<const mtSeasonStruct> seasons) {
     });
 }
 
-void count(const mtSeasonStruct& season, const mtRaceStruct& race, Categorization& counted) {
+void countRace(const mtSeasonStruct& season, const mtRaceStruct& race, Categorization& counted) {
     const std::int64_t place = race.finalPos;
     if (place == 0)
         return;
@@ -67,7 +67,7 @@ std::optional<Categorization> categorize(const myTeamStruct& athlete, std::strin
     counted.name = athlete.name;
     for (const mtSeasonStruct& season : countedSeasons(*results))
         for (const mtRaceStruct& race : season.races)
-            count(season, race, counted);
+            countRace(season, race, counted);
     counted.label = labelOf(counted);
     counted.lines = countLines(counted, category);
     return counted;

@@ -15,7 +15,7 @@ constexpr double InitialsWorth = 0.9;
 constexpr double BeginningsWorth = 0.8;
 constexpr std::size_t ShortestBeginning = 3; ///< in letters, of what is no initial
 
-std::vector<std::string> wordsOf(std::string_view name) {
+std::vector<std::string> likenessWordsOf(std::string_view name) {
     constexpr std::string_view Marks = " \t\r,./&+-_";
     const std::string text = folded(name);
     std::vector<std::string> words;
@@ -64,8 +64,8 @@ double wordLikeness(std::string_view a, std::string_view b) {
 /// first, since an initial is like many. Words that
 /// stay over count a third: a second given name is often left out.
 double nameLikeness(std::string_view a, std::string_view b) {
-    std::vector<std::string> few = wordsOf(a);
-    std::vector<std::string> many = wordsOf(b);
+    std::vector<std::string> few = likenessWordsOf(a);
+    std::vector<std::string> many = likenessWordsOf(b);
     if (few.size() > many.size())
         few.swap(many);
     if (few.empty())

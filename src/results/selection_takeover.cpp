@@ -30,8 +30,8 @@ std::map<AthletePlace, const FoundRun*> bestRuns(selectionracesStruct_v3& docume
     return best;
 }
 
-saRaceStruct& resultAt(selectionracesStruct_v3& document, const AthletePlace& place,
-                       std::size_t race) {
+saRaceStruct& takenResultAt(selectionracesStruct_v3& document, const AthletePlace& place,
+                            std::size_t race) {
     auto& results = document.categories.at(place.category).athletes.at(place.athlete).racedata;
     if (results.size() <= race)
         results.resize(race + 1, missingResult());
@@ -84,7 +84,7 @@ EnteredRuns enterRuns(selectionracesStruct_v3& document, std::size_t race, const
     EnteredRuns entered;
     const std::vector<AthletePlace> without = withoutRun(document, race, found);
     for (const auto& [place, run] : bestRuns(document, found)) {
-        saRaceStruct& result = resultAt(document, place, race);
+        saRaceStruct& result = takenResultAt(document, place, race);
         const ResultPlace at{place.category, place.athlete, race};
         result.resultTime = run->time;
         result.pen = run->penalty;

@@ -15,7 +15,7 @@ struct Entry {
     const char* partner = nullptr;
 };
 
-struct Category {
+struct AthleteCategory {
     const char* label;
     std::int64_t firstBib;
     double pace; ///< of its fastest boat, against the fastest kayak
@@ -62,14 +62,14 @@ constexpr Entry Doubles[] = {
     {"Finn Wehrstedt", "GER", "Mia Wehrstedt"},
 };
 
-constexpr Category Categories[] = {
+constexpr AthleteCategory AthleteCategories[] = {
     {"K1M", 1, 1.0, MenInKayaks},      {"C1M", 41, 1.055, MenInCanoes},
     {"K1W", 61, 1.115, WomenInKayaks}, {"C1W", 81, 1.185, WomenInCanoes},
     {"C2X", 91, 1.17, Doubles},
 };
 
 /// The better athlete of a field has the lower bib, give or take a few places.
-Boat boatOf(const Category& category, const Entry& entry, std::int64_t bib) {
+Boat boatOf(const AthleteCategory& category, const Entry& entry, std::int64_t bib) {
     Dice dice(entry.name);
     Boat boat;
     boat.names = {entry.name};
@@ -97,7 +97,7 @@ std::string Boat::crew() const {
 
 std::vector<Boat> sampleBoats() {
     std::vector<Boat> boats;
-    for (const Category& category : Categories) {
+    for (const AthleteCategory& category : AthleteCategories) {
         std::int64_t bib = category.firstBib;
         for (const Entry& entry : category.entries)
             boats.push_back(boatOf(category, entry, bib++));

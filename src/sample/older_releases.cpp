@@ -49,7 +49,7 @@ namespace {
 using namespace std::chrono_literals;
 
 template <class Document>
-std::string textOf(splittakerdata031 document) {
+std::string olderText(splittakerdata031 document) {
     return encode(converted<Document>(std::move(document)));
 }
 
@@ -86,15 +86,15 @@ bmrawdata_v4 asVersion4(bmrawdata_v5 session) {
 std::vector<OldFile> filesOfOldReleases() {
     using namespace history;
     return {
-        {"0.28", textOf<splittakerdata028>(raceOf028())},
-        {"0.22", textOf<splittakerdata022>(
+        {"0.28", olderText<splittakerdata028>(raceOf028())},
+        {"0.22", olderText<splittakerdata022>(
                      formerRace("Midsummer Race", highland(), "K1W", 2022y / 6 / 25))},
         {"0.14",
-         textOf<splittakerdata014>(formerRace("Mill Days", oldMill(), "C1M", 2019y / 5 / 18))},
+         olderText<splittakerdata014>(formerRace("Mill Days", oldMill(), "C1M", 2019y / 5 / 18))},
         {"0.11",
-         textOf<splittakerdata011>(formerRace("River Open", riverside(), "K1M", 2018y / 7 / 7))},
+         olderText<splittakerdata011>(formerRace("River Open", riverside(), "K1M", 2018y / 7 / 7))},
         {"0.2",
-         textOf<splittakerdataOLD>(formerRace("Mill Days 2015", oldMill(), "K1M", 2015y / 5 / 23))},
+         olderText<splittakerdataOLD>(formerRace("Mill Days 2015", oldMill(), "K1M", 2015y / 5 / 23))},
     };
 }
 

@@ -24,7 +24,7 @@ double officialTotal(const FilmedRun& run) {
 
 /// Gives the runs of one category and phase their places, and orders them by these; boats that did
 /// not finish have place 0 and come last.
-void rank(std::vector<FilmedRun>& runs) {
+void rankRuns(std::vector<FilmedRun>& runs) {
     const auto didNotFinish = std::stable_partition(
         runs.begin(), runs.end(), [](const FilmedRun& run) { return run.passage.isFinished(); });
     std::sort(runs.begin(), didNotFinish, [](const FilmedRun& a, const FilmedRun& b) {
@@ -103,7 +103,7 @@ void holdPhase(const RacePlan& plan, const Phase& phase, std::vector<Boat>& star
     runs.reserve(starters.size());
     for (const Boat& boat : starters)
         runs.push_back(raceRun(plan, phase, boat, dice));
-    rank(runs);
+    rankRuns(runs);
     annotate(runs, plan, dice);
     if (phase.name == plan.phases.front().name)
         appendOfficial(race.info.resultsCSVdata, runs);

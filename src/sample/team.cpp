@@ -12,7 +12,7 @@ namespace kavela::sample {
 
 namespace {
 
-struct Category {
+struct TeamCategory {
     const char* label;
     double place; ///< where the athlete usually ends
     double pace;  ///< of the category's fastest boat, against the fastest kayak
@@ -21,7 +21,7 @@ struct Category {
 struct Member {
     const char* name;
     std::int64_t birthYear;
-    std::vector<Category> categories;
+    std::vector<TeamCategory> categories;
     int seasons = 4;
     bool isRetired = false;
 };
@@ -59,7 +59,7 @@ constexpr Stop ExtremeStops[] = {
     {"WC1", "Brückwehr", 6}, {"WC3", "Mlýnice", 7}, {"WCH", "Three Weirs", 9}};
 
 constexpr std::size_t Splits = 5;
-constexpr std::int64_t LastSeason = 2025;
+constexpr std::int64_t LastTeamSeason = 2025;
 
 /// One run, so many percent behind the fastest of each split.
 mtPhaseStruct runOf(const char* phase, std::int64_t place, double pace, ReferenceDate day,
@@ -82,7 +82,7 @@ mtPhaseStruct runOf(const char* phase, std::int64_t place, double pace, Referenc
     return run;
 }
 
-mtRaceStruct raceOf(const Stop& stop, std::int64_t year, const Category& category, Dice& dice) {
+mtRaceStruct raceOf(const Stop& stop, std::int64_t year, const TeamCategory& category, Dice& dice) {
     mtRaceStruct race{stop.location, stop.event, 0, {}};
     if (dice.chance(0.06))
         return race; // did not start: no final position
@@ -106,7 +106,7 @@ mtRaceStruct raceOf(const Stop& stop, std::int64_t year, const Category& categor
     return race;
 }
 
-mtSeasonStruct seasonOf(std::int64_t year, const Category& category, Dice& dice) {
+mtSeasonStruct teamSeasonOf(std::int64_t year, const TeamCategory& category, Dice& dice) {
     mtSeasonStruct season;
     season.year = year;
     season.icfrankingpos =
@@ -129,11 +129,12 @@ myTeamToSaveStruct sampleTeam() {
     myTeamToSaveStruct team;
     for (const Member& member : members()) {
         myTeamStruct athlete{member.name, member.birthYear, {}, member.isRetired};
-        for (Category category : member.categories) {
+        for (TeamCategory category : member.categories) {
             Dice dice(std::string("team ") + member.name + category.label);
             athlete.cats.push_back({category.label, {}, {}});
             for (int i = 0; i < member.seasons; ++i, category.place *= 1.15)
-                athlete.cats.back().seasons.push_back(seasonOf(LastSeason - i, category, dice));
+                athlete.cats.back().seasons.push_back(
+                    teamSeasonOf(LastTeamSeason - i, category, dice));
         }
         recomputeAverages(athlete);
         team.realMyTeam.push_back(std::move(athlete));

@@ -83,7 +83,7 @@ Stamps startBefore(const sectiondata030& timing, std::size_t firstStamped) {
 }
 
 /// The moment of a mark on the first camera: 0 is the start. Nothing when it was not taken.
-std::optional<CMTime> momentOf(const RunMarks& run, std::size_t mark) {
+std::optional<CMTime> momentOfMark(const RunMarks& run, std::size_t mark) {
     static const Stamps None;
     const Stamps& stamps = mark == 0 ? run.start ? *run.start : None : run.marks.at(mark - 1);
     return !stamps.empty() && isTaken(stamps.front()) ? std::optional(stamps.front())
@@ -95,7 +95,7 @@ std::string nameOf(std::size_t mark) {
 }
 
 std::optional<Neighbour> neighbour(const RunMarks& run, std::size_t mark) {
-    const auto moment = momentOf(run, mark);
+    const auto moment = momentOfMark(run, mark);
     return moment ? std::optional(Neighbour{nameOf(mark), *moment}) : std::nullopt;
 }
 
@@ -103,7 +103,7 @@ std::optional<Neighbour> neighbour(const RunMarks& run, std::size_t mark) {
 std::size_t firstBehind(const RunMarks& run, const CMTime& moment) {
     std::size_t split = 1;
     for (; split <= run.marks.size(); ++split)
-        if (const auto taken = momentOf(run, split); taken && orderOf(*taken, moment) > 0)
+        if (const auto taken = momentOfMark(run, split); taken && orderOf(*taken, moment) > 0)
             break;
     return split;
 }
@@ -138,7 +138,7 @@ CMTime later(const CMTime& stamp, double seconds) {
 
 std::optional<std::size_t> markAt(const RunMarks& run, const CMTime& moment) {
     for (std::size_t mark = 0; mark <= run.marks.size(); ++mark)
-        if (const auto taken = momentOf(run, mark); taken && orderOf(*taken, moment) == 0)
+        if (const auto taken = momentOfMark(run, mark); taken && orderOf(*taken, moment) == 0)
             return mark;
     return std::nullopt;
 }

@@ -11,7 +11,7 @@ namespace kavela {
 namespace {
 
 /// More than any spreadsheet has columns for; only a damaged file claims so many.
-constexpr std::int64_t MostSplits = 8000;
+constexpr std::int64_t MostTableSplits = 8000;
 
 std::string quoted(const std::string& field) {
     if (field.find_first_of(";\"\n\r") == std::string::npos)
@@ -46,7 +46,7 @@ std::string line(const infodata031& info, const athletedata031& run, std::size_t
 
 std::string splitTableCsv(const splittakerdata031& document) {
     const infodata031& info = document.info;
-    if (info.totalsplits > MostSplits)
+    if (info.totalsplits > MostTableSplits)
         throw EncodeError({"info.totalsplits", std::to_string(info.totalsplits) +
                                                    " splits are more than a table can have"});
     const auto splits = static_cast<std::size_t>(std::max<std::int64_t>(info.totalsplits, 0));

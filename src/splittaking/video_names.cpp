@@ -135,7 +135,7 @@ private:
     FilmFacts m_facts;
 };
 
-std::string_view withoutBlanks(std::string_view text) {
+std::string_view nameWithoutBlanks(std::string_view text) {
     text.remove_prefix(std::min(text.find_first_not_of(' '), text.size()));
     return text.substr(0, text.find_last_not_of(' ') + 1);
 }
@@ -166,7 +166,7 @@ std::vector<std::string> crewIn(std::string_view text) {
     const std::string padded = ' ' + std::string(text) + ' ';
     for (std::string_view rest = padded; !rest.empty();) {
         const auto [at, length] = nextSeparator(rest);
-        const std::string_view name = withoutBlanks(rest.substr(0, at));
+        const std::string_view name = nameWithoutBlanks(rest.substr(0, at));
         if (!name.empty())
             names.emplace_back(name);
         if (at == std::string_view::npos)

@@ -12,7 +12,7 @@ namespace kavela {
 namespace {
 
 /// A damaged stretch gives errors in a row; past so many the rest is not worth waiting for.
-constexpr int MostErrorsInARow = 500;
+constexpr int MostBadPacketsInARow = 500;
 
 int stopRequested(void* token) {
     return static_cast<const std::stop_token*>(token)->stop_requested() ? 1 : 0;
@@ -109,7 +109,7 @@ void Demuxer::chooseStream() {
 }
 
 AVPacket* Demuxer::next() {
-    for (int errors = 0; errors < MostErrorsInARow && !m_stop.stop_requested();) {
+    for (int errors = 0; errors < MostBadPacketsInARow && !m_stop.stop_requested();) {
         av_packet_unref(m_packet.get());
         const int code = av_read_frame(m_container.get(), m_packet.get());
         if (code == AVERROR_EOF)

@@ -12,7 +12,7 @@ namespace kavela {
 
 namespace {
 
-constexpr std::size_t ReportEvery = 256;
+constexpr std::size_t ReportEveryPackets = 256;
 /// No coding reorders frames over more packets than this.
 constexpr std::size_t DeepestReordering = 64;
 
@@ -60,7 +60,7 @@ private:
         while (const AVPacket* const packet = m_demuxer.next()) {
             m_packets.push_back(recordOf(*packet));
             m_lacksStamps = m_lacksStamps || lacksStamp(m_packets.back());
-            if (m_packets.size() % ReportEvery == 0)
+            if (m_packets.size() % ReportEveryPackets == 0)
                 report();
         }
     }
@@ -70,7 +70,7 @@ private:
             return;
         IndexProgress progress{m_demuxer.fractionRead(), nullptr};
         // Each beginning is sorted anew: doubling them keeps the sum small.
-        const std::size_t reports = m_packets.size() / ReportEvery;
+        const std::size_t reports = m_packets.size() / ReportEveryPackets;
         if (!m_lacksStamps && !isSuspectOfFields() && (reports & (reports - 1)) == 0)
             progress.soFar = beginning();
         m_onProgress(progress);

@@ -17,30 +17,30 @@ constexpr std::uint16_t Record = 20;
 constexpr std::uint16_t Event = 21;
 constexpr std::int64_t Activity = 4;
 
-constexpr double Degree = 180.0 / 2147483648.0; // of a half circle in 2^31 parts
+constexpr double FitDegree = 180.0 / 2147483648.0; // of a half circle in 2^31 parts
 
 /// Below it a time is counted from when the device was switched on.
 constexpr std::uint32_t EarliestDate = 0x10000000;
 
-std::optional<double> scaled(std::optional<std::int64_t> value, double scale) {
+std::optional<double> fitScaled(std::optional<std::int64_t> value, double scale) {
     if (!value)
         return std::nullopt;
     return static_cast<double>(*value) * scale;
 }
 
-TrackPoint pointOf(const FitMessage& record) {
+TrackPoint fitPointOf(const FitMessage& record) {
     const double epoch = referenceDate(1989y / 12 / 31).seconds;
     TrackPoint point;
     if (const auto time = record.time(); time && *time >= EarliestDate)
         point.date = epoch + *time;
-    point.latitude = scaled(record.value(0), Degree);
-    point.longitude = scaled(record.value(1), Degree);
-    point.heartRate = scaled(record.value(3), 1);
+    point.latitude = fitScaled(record.value(0), FitDegree);
+    point.longitude = fitScaled(record.value(1), FitDegree);
+    point.heartRate = fitScaled(record.value(3), 1);
     if (point.heartRate == 0) // a belt without contact
         point.heartRate.reset();
-    point.speed = scaled(record.value(73), 1e-3);
+    point.speed = fitScaled(record.value(73), 1e-3);
     if (!point.speed)
-        point.speed = scaled(record.value(6), 1e-3);
+        point.speed = fitScaled(record.value(6), 1e-3);
     return point;
 }
 
@@ -68,7 +68,7 @@ ImportedTrack fitTrack(std::string_view content) {
             isOther |= message->value(0).value_or(Activity) != Activity;
             break;
         case Record:
-            builder.add(pointOf(*message));
+            builder.add(fitPointOf(*message));
             break;
         case Session:
             ++sessions;

@@ -14,7 +14,7 @@ namespace {
 constexpr double Around = 60; // s
 
 template <class Sample>
-bool isWithin(const Sample& sample, const DateSpan& dates, double offset) {
+bool isRecordedWithin(const Sample& sample, const DateSpan& dates, double offset) {
     const double date = sample.date.seconds + offset;
     return date >= dates.first - Around && date <= dates.last + Around;
 }
@@ -23,7 +23,7 @@ template <class Sample>
 void join(std::vector<Sample>& present, const std::vector<Sample>& track, const DateSpan& dates,
           double offset) {
     for (Sample sample : track)
-        if (isWithin(sample, dates, offset)) {
+        if (isRecordedWithin(sample, dates, offset)) {
             sample.date.seconds += offset;
             present.push_back(sample);
         }
@@ -62,7 +62,7 @@ std::size_t countWhereMissing(const std::vector<Sample>& present, const std::vec
         return 0;
     }
     const auto taken = std::ranges::count_if(
-        track, [&](const Sample& sample) { return isWithin(sample, dates, offset); });
+        track, [&](const Sample& sample) { return isRecordedWithin(sample, dates, offset); });
     if (taken == 0)
         notes.push_back(apartText(track, dates, offset, what));
     return static_cast<std::size_t>(taken);

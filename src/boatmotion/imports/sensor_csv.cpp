@@ -30,7 +30,7 @@ bool has(const CsvMapping& mapping, CsvQuantity quantity) {
     return std::ranges::find(mapping.columns, quantity) != mapping.columns.end();
 }
 
-std::string quoted(CsvQuantity quantity) {
+std::string quotedQuantity(CsvQuantity quantity) {
     return "“" + std::string(textOf(quantity)) + "”";
 }
 
@@ -38,7 +38,7 @@ std::optional<std::string> repeatedQuantity(const CsvMapping& mapping) {
     for (std::size_t q = 1; q < CsvQuantities; ++q) {
         const auto quantity = static_cast<CsvQuantity>(q);
         if (std::ranges::count(mapping.columns, quantity) > 1)
-            return quoted(quantity) + " stands over two columns.";
+            return quotedQuantity(quantity) + " stands over two columns.";
     }
     return std::nullopt;
 }

@@ -8,9 +8,9 @@ namespace kavela::imports {
 
 namespace {
 
-constexpr double FarthestNeighbour = 10; // s
-constexpr double GreatestSpeed = 50;     // m/s; a fix that jumped
-constexpr double GreatestDate = 1e10;    // s, three hundred years
+constexpr double FarthestNeighbour = 10;   // s
+constexpr double GreatestTrackSpeed = 50;  // m/s; a fix that jumped
+constexpr double GreatestTrackDate = 1e10; // s, three hundred years
 
 /// Metres between two positions (haversine, on a globe of mean radius).
 double distanceBetween(const gpsrawdata& a, const gpsrawdata& b) {
@@ -37,7 +37,7 @@ double computedSpeed(const std::vector<gpsrawdata>& fixes, std::size_t index) {
         addWay(index - 1, index);
     if (index + 1 < fixes.size())
         addWay(index, index + 1);
-    return time > 0 && distance <= GreatestSpeed * time ? distance / time : -1;
+    return time > 0 && distance <= GreatestTrackSpeed * time ? distance / time : -1;
 }
 
 /// Gives how many values share their moment with one before.
@@ -51,7 +51,7 @@ std::size_t orderByDate(std::vector<Value>& values) {
     return all - values.size();
 }
 
-bool isWithin(double value, double least, double most) {
+bool isBetween(double value, double least, double most) {
     return value >= least && value <= most;
 }
 
@@ -83,11 +83,11 @@ void TrackBuilder::leaveOut(const char* what, std::size_t count) {
 void TrackBuilder::addFix(const TrackPoint& point, ReferenceDate date) {
     if (!point.latitude && !point.longitude)
         return;
-    if (!point.latitude || !point.longitude || !isWithin(*point.latitude, -90, 90) ||
-        !isWithin(*point.longitude, -180, 180))
+    if (!point.latitude || !point.longitude || !isBetween(*point.latitude, -90, 90) ||
+        !isBetween(*point.longitude, -180, 180))
         return leaveOut("positions outside the globe");
     double speed = point.speed.value_or(-1);
-    if (point.speed && !isWithin(speed, 0, GreatestSpeed)) {
+    if (point.speed && !isBetween(speed, 0, GreatestTrackSpeed)) {
         leaveOut("speeds that no boat has");
         speed = -1;
     }
@@ -98,13 +98,13 @@ void TrackBuilder::add(const TrackPoint& point) {
     if (++m_points > MostTrackPoints)
         throw DecodeError(
             {{}, "the track has more than " + std::to_string(MostTrackPoints) + " points"});
-    if (!point.date || !isWithin(*point.date, -GreatestDate, GreatestDate))
+    if (!point.date || !isBetween(*point.date, -GreatestTrackDate, GreatestTrackDate))
         return leaveOut("points without a date");
     const ReferenceDate date{*point.date};
     addFix(point, date);
     if (!point.heartRate)
         return;
-    if (isWithin(*point.heartRate, 1, 300))
+    if (isBetween(*point.heartRate, 1, 300))
         m_track.heart.push_back({date, *point.heartRate});
     else
         leaveOut("heart rates that are none");

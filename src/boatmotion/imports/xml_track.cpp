@@ -11,12 +11,12 @@ namespace kavela::imports {
 
 namespace {
 
-std::string_view trimmed(std::string_view text) {
-    constexpr std::string_view Blanks = " \t\r\n";
-    const auto begin = text.find_first_not_of(Blanks);
+std::string_view trimmedText(std::string_view text) {
+    constexpr std::string_view Around = " \t\r\n";
+    const auto begin = text.find_first_not_of(Around);
     if (begin == text.npos)
         return {};
-    return text.substr(begin, text.find_last_not_of(Blanks) - begin + 1);
+    return text.substr(begin, text.find_last_not_of(Around) - begin + 1);
 }
 
 /// The name without the prefix of its name space.
@@ -29,7 +29,7 @@ std::string_view localName(const pugi::xml_node& node) {
 /// A number, or one that fits nowhere for a text that is none.
 double numberOf(std::string_view text) {
     constexpr double NotANumber = 1e300;
-    text = trimmed(text);
+    text = trimmedText(text);
     if (text.starts_with('+'))
         text.remove_prefix(1);
     double value = 0;
@@ -51,7 +51,7 @@ void takeField(const pugi::xml_node& node, TrackPoint& point) {
     const std::string_view name = localName(node);
     const std::string_view text = node.child_value();
     if (name == "time" || name == "Time") {
-        if (const auto date = isoDate(trimmed(text)))
+        if (const auto date = isoDate(trimmedText(text)))
             point.date = date->seconds;
     } else if (name == "speed" || name == "Speed") {
         point.speed = numberOf(text);

@@ -21,7 +21,7 @@ struct Span {
     }
 };
 
-std::optional<Span> datesOf(std::span<const gpsrawdata> gps) {
+std::optional<Span> fixDatesOf(std::span<const gpsrawdata> gps) {
     std::optional<Span> dates;
     for (const gpsrawdata& fix : gps) {
         const double date = fix.date.seconds;
@@ -39,7 +39,7 @@ std::optional<Span> datesOf(std::span<const gpsrawdata> gps) {
 
 ClockRelation clockRelation(double firstStamp, double lastStamp, std::span<const gpsrawdata> gps,
                             std::optional<ReferenceDate> start) {
-    const auto dates = datesOf(gps);
+    const auto dates = fixDatesOf(gps);
     if (start && !(std::abs(start->seconds) <= GreatestDate))
         start.reset();
     if (!dates && !start)

@@ -9,7 +9,7 @@ namespace kavela::strokes {
 
 namespace {
 
-constexpr double Window = 3;          // s
+constexpr double FixWindow = 3;       // s
 constexpr double LongestWindow = 4.5; // s
 constexpr double GreatestTurn = 0.5;  // rad
 constexpr double LooseTurn = 1.5;     // rad, where the boat hardly ever keeps its heading
@@ -109,7 +109,7 @@ FixRegression planeThrough(const Products& p, double secondsBetweenFixes) {
     if (!(length > 0))
         return {};
     // Windows overlap: only every so many-th says something of its own.
-    const double independent = p.n * std::min(1.0, secondsBetweenFixes / Window);
+    const double independent = p.n * std::min(1.0, secondsBetweenFixes / FixWindow);
     const double raw = std::clamp((bx * xz + by * yz) / zz, 0.0, 1.0);
     const double corrected =
         independent > 3.5 ? 1 - (1 - raw) * (independent - 1) / (independent - 3) : 0;
@@ -121,10 +121,10 @@ std::vector<std::size_t> windowEnds(std::span<const SpeedFix> fixes) {
     std::vector<std::size_t> ends(fixes.size(), 0);
     std::size_t end = 0;
     for (std::size_t i = 0; i < fixes.size(); ++i) {
-        while (end + 1 < fixes.size() && fixes[end].time < fixes[i].time + Window - 0.3)
+        while (end + 1 < fixes.size() && fixes[end].time < fixes[i].time + FixWindow - 0.3)
             ++end;
         const double length = fixes[end].time - fixes[i].time;
-        if (length >= Window - 0.3 && length <= LongestWindow)
+        if (length >= FixWindow - 0.3 && length <= LongestWindow)
             ends[i] = end;
     }
     return ends;

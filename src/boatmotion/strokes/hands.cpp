@@ -11,8 +11,8 @@ namespace kavela::strokes {
 
 namespace {
 
-constexpr double StraightRate = 0.15; // rad/s, below which nothing is turning
-constexpr double TurningRate = 0.5;   // rad/s, above which all is
+constexpr double StraightRate = 0.15;   // rad/s, below which nothing is turning
+constexpr double HandTurningRate = 0.5; // rad/s, above which all is
 constexpr double MostScore = 3;
 constexpr double Emission = 1.2; // half the log-odds of a score of 1
 
@@ -39,7 +39,7 @@ HandEvidence handEvidence(const StrokeView& view, std::span<const WaterPhase> ph
         link.measures = {kick.value, lean.value};
         link.variances = {kick.isKnown ? kick.variance : -1, lean.isKnown ? lean.variance : -1};
         link.turning = std::clamp((std::abs(view.yawMean[phases[i].peak]) - StraightRate) /
-                                      (TurningRate - StraightRate),
+                                      (HandTurningRate - StraightRate),
                                   0.0, 1.0);
         if (i > 0) {
             std::array<double, 9> some{};

@@ -11,7 +11,7 @@ namespace {
 
 constexpr double ShareOfPeak = 0.15; // of the force at catch and exit
 constexpr double LowestBase = -0.10; // of the peak
-constexpr std::size_t Reach = 45;    // 0.9 s, on either side of the peak at most
+constexpr std::size_t PhaseReach = 45;    // 0.9 s, on either side of the peak at most
 
 /// The stretch around a stroke that is its own.
 struct Surroundings {
@@ -31,12 +31,12 @@ std::vector<Surroundings> surroundings(std::span<const double> force,
     std::vector<Surroundings> around(strokes.size());
     for (std::size_t i = 0; i < strokes.size(); ++i) {
         const std::size_t peak = strokes[i].peak;
-        const bool follows = i > 0 && peak - strokes[i - 1].peak < 2 * Reach;
+        const bool follows = i > 0 && peak - strokes[i - 1].peak < 2 * PhaseReach;
         if (follows)
             around[i].begin = around[i - 1].end = lowest(force, strokes[i - 1].peak, peak);
         else
-            around[i].begin = lowest(force, peak < Reach ? 0 : peak - Reach, peak);
-        around[i].end = lowest(force, peak, std::min(peak + Reach, force.size() - 1));
+            around[i].begin = lowest(force, peak < PhaseReach ? 0 : peak - PhaseReach, peak);
+        around[i].end = lowest(force, peak, std::min(peak + PhaseReach, force.size() - 1));
     }
     return around;
 }

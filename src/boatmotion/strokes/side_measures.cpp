@@ -15,8 +15,8 @@ constexpr std::size_t LeastCourse = 4; // terms of the boat's own course
 constexpr std::size_t MostCourse = 7;
 constexpr double CoursePerSecond = 3; // terms: turns begin and end within half a second
 constexpr std::size_t MostTerms = Answers + MostCourse;
-constexpr double Reach = 0.5;        // of a cycle, before the catch and after the exit
-constexpr double LongestCycle = 1.6; // s
+constexpr double SideReach = 0.5;        // of a cycle, before the catch and after the exit
+constexpr double LongestSideCycle = 1.6; // s
 constexpr std::size_t LeastValues = 20;
 
 using Row = std::array<double, MostTerms>;
@@ -158,7 +158,7 @@ private:
     [[nodiscard]] Measure measure(const std::vector<Answer>& answers, std::size_t i) const {
         static const Answer None;
         const WaterPhase& phase = m_phases[i];
-        const double reach = Reach * cycleAround(i) * Rate;
+        const double reach = SideReach * cycleAround(i) * Rate;
         const auto begin = static_cast<std::size_t>(std::max(0.0, phase.catchAt - reach));
         const auto end =
             std::min(static_cast<std::size_t>(phase.exitAt + reach) + 1, m_series.size());
@@ -186,7 +186,7 @@ private:
 
     /// Seconds from this stroke to the nearer of its neighbours.
     [[nodiscard]] double cycleAround(std::size_t i) const {
-        double cycle = LongestCycle;
+        double cycle = LongestSideCycle;
         if (i > 0)
             cycle = std::min(cycle, secondsBetween(i - 1, i));
         if (i + 1 < m_phases.size())

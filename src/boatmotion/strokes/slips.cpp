@@ -21,7 +21,7 @@ constexpr std::size_t AxisHop = 5;         // s
 constexpr std::size_t LeastForAxis = 20;   // s of a stretch whose long axis can be told
 constexpr double LeastTilt = 7 * Degree;   // of gravity
 constexpr double LeastTwist = 15 * Degree; // of the long axis
-constexpr double LeastCertainty = 0.5;     // of a long axis
+constexpr double LeastAxisCertainty = 0.5; // of a long axis
 constexpr double CanoeTwist = 30 * Degree; // that strokes on one side may feign
 constexpr double GreatestSlip = 75 * Degree;
 
@@ -192,7 +192,8 @@ BoatAxes axesLike(const MotionGrid& stretch, const BoatAxes& others, BoatClass b
     }
     if (dot(axes.along, along) < 0)
         axes.along = {-axes.along[0], -axes.along[1], -axes.along[2]};
-    const bool isTold = stretch.size() >= LeastForAxis * Second && axes.certainty > LeastCertainty;
+    const bool isTold =
+        stretch.size() >= LeastForAxis * Second && axes.certainty > LeastAxisCertainty;
     const bool isAskew = boat == BoatClass::Canoe && angleBetween(axes.along, along) < CanoeTwist;
     if (!isTold || isAskew)
         axes.along = along;
@@ -236,18 +237,18 @@ std::vector<PhoneSlip> straighten(MotionGrid& grid, const std::vector<std::size_
 /// Where the boat's long axis turns about the vertical for good, as indexes.
 std::vector<std::size_t> twists(const MotionGrid& grid) {
     constexpr std::size_t Width = AxisBeside * Second;
-    constexpr std::size_t Hop = AxisHop * Second;
+    constexpr std::size_t Stride = AxisHop * Second;
     std::vector<double> angles;
-    for (std::size_t i = Width; i + Width <= grid.size(); i += Hop) {
+    for (std::size_t i = Width; i + Width <= grid.size(); i += Stride) {
         const BoatAxes before = boatAxes(part(grid, i - Width, i));
         const BoatAxes after = boatAxes(part(grid, i, i + Width));
-        const bool areSure = std::min(before.certainty, after.certainty) > LeastCertainty;
+        const bool areSure = std::min(before.certainty, after.certainty) > LeastAxisCertainty;
         angles.push_back(
             areSure ? std::acos(std::min(1.0, std::abs(dot(before.along, after.along)))) : 0);
     }
     std::vector<std::size_t> found;
     for (const std::size_t place : peaksOver(angles, LeastTwist, AxisBeside / AxisHop))
-        found.push_back(Width + place * Hop);
+        found.push_back(Width + place * Stride);
     return found;
 }
 

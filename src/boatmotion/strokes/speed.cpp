@@ -9,11 +9,11 @@ namespace kavela::strokes {
 
 namespace {
 
-constexpr double SpeedGain = 0.42;   // of the difference at a fix, one second after the last
-constexpr double BiasGain = 0.054;   // 1/s
-constexpr double GreatestBias = 0.6; // m/s²
-constexpr double GreatestSpeed = 10; // m/s
-constexpr double FreshFix = 1.5;     // s, for which a pass counts in full
+constexpr double SpeedGain = 0.42;       // of the difference at a fix, one second after the last
+constexpr double BiasGain = 0.054;       // 1/s
+constexpr double GreatestBias = 0.6;     // m/s²
+constexpr double GreatestBoatSpeed = 10; // m/s
+constexpr double FreshFix = 1.5;         // s, for which a pass counts in full
 
 /// A moment's estimate of one pass.
 struct Estimate {
@@ -25,7 +25,8 @@ struct Estimate {
     void advance(double seconds, double acceleration) {
         sinceFix += seconds;
         if (sinceFix < 4 * FreshFix) // beyond, the integral is worth less than the last speed
-            speed = std::clamp(speed + acceleration * seconds, -GreatestSpeed, GreatestSpeed);
+            speed =
+                std::clamp(speed + acceleration * seconds, -GreatestBoatSpeed, GreatestBoatSpeed);
     }
 
     /// Takes in a fix; `direction` is -1 in the pass from the end.

@@ -90,8 +90,8 @@ void measurePushOut(const MotionSeries& series, std::size_t peak, std::size_t en
     values.pushOutAve = count > 0 ? sum / count : 0;
 }
 
-Turn measured(const MotionSeries& series, std::span<const double> yawRate3,
-              const Stretch& stretch) {
+Turn measuredTurn(const MotionSeries& series, std::span<const double> yawRate3,
+                  const Stretch& stretch) {
     Turn turn;
     turn.start = series.time[stretch.begin];
     turn.end = series.time[stretch.end - 1] + Step;
@@ -117,7 +117,7 @@ std::vector<Turn> findTurns(const MotionSeries& series, std::span<const double> 
     filterBothWays<1>({lowPass(TurnBand)}, {std::span(slow)});
     std::vector<Turn> turns;
     for (const Stretch& stretch : joined(seeded(slow, series.valid), series.valid)) {
-        const Turn turn = measured(series, yawRate3, stretch);
+        const Turn turn = measuredTurn(series, yawRate3, stretch);
         const double peak = std::abs(slow[fastest(slow, stretch)]);
         if (std::abs(turn.angle) >= profile.leastTurnAngle && peak >= profile.leastTurnPeak)
             turns.push_back(turn);

@@ -11,7 +11,7 @@ namespace kavela::strokes {
 namespace {
 
 constexpr double LongestShift = 3; // s
-constexpr double LeastCorrelation = 0.1;
+constexpr double LeastWatchCorrelation = 0.1;
 constexpr double LeastAgreement = 0.6;
 constexpr double WatchShare = 1.5;
 constexpr double BoatShare = 0.5;
@@ -112,7 +112,7 @@ Alignment align(const MotionGrid& watch, const StrokeView& view) {
     const bool isInside = best > 0 && best + 1 < found.products.size();
     const double scale = std::sqrt(found.wristEnergy * found.boatEnergy);
     const double shift = (static_cast<double>(best) - static_cast<double>(MostShift)) * Step;
-    return {coarse - shift, isInside && scale > 0 && *greatest / scale >= LeastCorrelation};
+    return {coarse - shift, isInside && scale > 0 && *greatest / scale >= LeastWatchCorrelation};
 }
 
 using Tilts = std::vector<Vector>;

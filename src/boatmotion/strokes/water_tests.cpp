@@ -13,7 +13,7 @@ namespace {
 using namespace strokes;
 using std::numbers::pi;
 
-constexpr double Degree = pi / 180;
+constexpr double DegreeInRadians = pi / 180;
 
 /// Cuts a lap into its turns and what lies between them.
 Lap lapFrom(const MotionAnalysis& analysis, double start, double end) {
@@ -53,7 +53,8 @@ struct Point {
 
 Point pointFrom(const Place& origin, double latitude, double longitude) {
     constexpr double MetresPerDegree = 111320;
-    return {(longitude - origin.longitude) * MetresPerDegree * std::cos(origin.latitude * Degree),
+    return {(longitude - origin.longitude) * MetresPerDegree *
+                std::cos(origin.latitude * DegreeInRadians),
             (latitude - origin.latitude) * MetresPerDegree};
 }
 
@@ -63,7 +64,8 @@ double area(const Point& a, const Point& b, const Point& c) {
 }
 
 /// The share of the way from `a` to `b` at which it crosses the line, where it does.
-std::optional<double> crossing(const Point& a, const Point& b, const Point& from, const Point& to) {
+std::optional<double> lineCrossing(const Point& a, const Point& b, const Point& from,
+                                   const Point& to) {
     const double before = area(from, to, a);
     const double after = area(from, to, b);
     const bool changesSide = (before < 0) != (after < 0);
@@ -87,11 +89,12 @@ double headingBetween(const MotionSeries& series, double start, double end) {
 }
 
 bool isHalfOfEight(const Turn& turn) {
-    return std::abs(turn.angle) >= 120 * Degree && std::abs(turn.angle) <= 330 * Degree;
+    return std::abs(turn.angle) >= 120 * DegreeInRadians &&
+           std::abs(turn.angle) <= 330 * DegreeInRadians;
 }
 
 Eight eightFrom(const MotionAnalysis& analysis, std::size_t first) {
-    constexpr double MostNetHeading = 60 * Degree;
+    constexpr double MostNetHeading = 60 * DegreeInRadians;
     const Turn& one = analysis.turns[first];
     const Turn& two = analysis.turns[first + 1];
     // Where there is no turn to come from or to go to, the outer ways are taken as long as the
@@ -136,9 +139,9 @@ std::vector<double> lineCrossings(const MotionAnalysis& analysis, std::span<cons
     std::vector<double> moments;
     for (std::size_t i = 0; i + 1 < fixes.size(); ++i) {
         const double seconds = fixes[i + 1]->date.seconds - fixes[i]->date.seconds;
-        const auto part =
-            crossing(pointFrom(line.from, fixes[i]->latitude, fixes[i]->longitude),
-                     pointFrom(line.from, fixes[i + 1]->latitude, fixes[i + 1]->longitude), {}, to);
+        const auto part = lineCrossing(
+            pointFrom(line.from, fixes[i]->latitude, fixes[i]->longitude),
+            pointFrom(line.from, fixes[i + 1]->latitude, fixes[i + 1]->longitude), {}, to);
         if (!part || seconds > LongestStep)
             continue;
         const double moment =

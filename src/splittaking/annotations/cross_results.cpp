@@ -50,7 +50,7 @@ std::vector<Names> ordersOf(const rounddata030& heat, const crossinfodata030& co
     return orders;
 }
 
-HeatPlace placeOf(const std::string& athlete, std::span<const Names> orders) {
+HeatPlace heatPlaceOf(const std::string& athlete, std::span<const Names> orders) {
     HeatPlace result;
     result.athlete = athlete;
     std::optional<std::size_t> before;
@@ -149,7 +149,7 @@ HeatResult resultOf(const rounddata030& heat, const crossinfodata030& course) {
     HeatResult result;
     const std::vector<Names> orders = ordersOf(heat, course);
     for (const std::string& athlete : cleanOrder(heat, heat.athletes))
-        result.places.push_back(placeOf(athlete, orders));
+        result.places.push_back(heatPlaceOf(athlete, orders));
     std::ranges::stable_sort(result.places, {}, finishRank);
     for (const std::int64_t gate : course.gates)
         if (lastOrderAt(heat, gate) == nullptr)

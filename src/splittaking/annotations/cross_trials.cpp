@@ -6,14 +6,14 @@ namespace kavela {
 
 namespace {
 
-ttupstream030& entryAt(ttdata030& trial, std::int64_t gate) {
+ttupstream030& trialEntryAt(ttdata030& trial, std::int64_t gate) {
     const auto place = upstreamAt(trial, gate);
     if (!place)
         throw std::out_of_range("upstream gate " + std::to_string(gate) + " is not marked");
     return trial.upstreams[*place];
 }
 
-ttupstream030& addEntry(ttdata030& trial, const crossinfodata030& course, std::int64_t gate) {
+ttupstream030& addTrialEntry(ttdata030& trial, const crossinfodata030& course, std::int64_t gate) {
     if (std::ranges::find(course.gates, gate) == course.gates.end())
         throw std::out_of_range("gate " + std::to_string(gate) + " is not on the cross course");
     const auto next = std::ranges::find_if(
@@ -74,12 +74,12 @@ std::optional<std::size_t> upstreamAt(const ttdata030& trial, std::int64_t gate)
 void markUpstream(ttdata030& trial, const crossinfodata030& course, std::int64_t gate,
                   GateMark which, const CMTime& moment) {
     ttupstream030& entry =
-        upstreamAt(trial, gate) ? entryAt(trial, gate) : addEntry(trial, course, gate);
+        upstreamAt(trial, gate) ? trialEntryAt(trial, gate) : addTrialEntry(trial, course, gate);
     setMark(entry.cmtimes, which, moment);
 }
 
 void clearUpstreamMark(ttdata030& trial, std::int64_t gate, GateMark which) {
-    clearMark(entryAt(trial, gate).cmtimes, which);
+    clearMark(trialEntryAt(trial, gate).cmtimes, which);
 }
 
 std::size_t addTrial(crossdata030& cross, std::string athlete, std::string videoname) {

@@ -13,7 +13,7 @@ std::size_t tagsIn(const customData020& record) {
     return std::max({record.tags.size(), record.cmTimes.size(), record.fixCMTimes.size()});
 }
 
-customData020& recordOf(athletedata031& run, TagHandle handle) {
+customData020& tagRecordOf(athletedata031& run, TagHandle handle) {
     customData020& record = entryOf(run.customData, handle.record, "the record of tags");
     if (handle.entry >= tagsIn(record))
         throw std::out_of_range("tag " + std::to_string(handle.entry + 1) + " does not exist");
@@ -25,13 +25,13 @@ std::optional<CMTime> momentAt(const std::vector<CMTime>& list, std::size_t entr
     return isTaken(moment) ? std::optional(moment) : std::nullopt;
 }
 
-Tag read(const customData020& record, TagHandle handle) {
+Tag readTag(const customData020& record, TagHandle handle) {
     return {handle,          entryOrZero(record.tags, handle.entry),
             record.videoInt, momentAt(record.cmTimes, handle.entry),
             record.fixInt,   momentAt(record.fixCMTimes, handle.entry)};
 }
 
-std::size_t recordFor(athletedata031& run, std::int64_t video) {
+std::size_t tagRecordFor(athletedata031& run, std::int64_t video) {
     const auto found = std::ranges::find(run.customData, video, &customData020::videoInt);
     if (found != run.customData.end())
         return static_cast<std::size_t>(found - run.customData.begin());
@@ -40,7 +40,7 @@ std::size_t recordFor(athletedata031& run, std::int64_t video) {
 }
 
 /// Where the tags of a video stand that are marked on a fixed camera.
-std::size_t recordFor(athletedata031& run, std::int64_t video, std::int64_t fixedCamera) {
+std::size_t tagRecordFor(athletedata031& run, std::int64_t video, std::int64_t fixedCamera) {
     const auto found = std::ranges::find_if(run.customData, [&](const customData020& record) {
         return record.videoInt == video && record.fixInt == fixedCamera;
     });
@@ -54,8 +54,8 @@ std::size_t recordFor(athletedata031& run, std::int64_t video, std::int64_t fixe
 
 TagHandle moveToCamera(athletedata031& run, TagHandle from, std::int64_t fixedCamera,
                        const CMTime& moment) {
-    const Tag tag = read(recordOf(run, from), from);
-    TagHandle to{recordFor(run, tag.video, fixedCamera), 0};
+    const Tag tag = readTag(tagRecordOf(run, from), from);
+    TagHandle to{tagRecordFor(run, tag.video, fixedCamera), 0};
     customData020& record = run.customData[to.record];
     to.entry = tagsIn(record);
     setPadded(record.tags, to.entry, tag.name);
@@ -74,12 +74,12 @@ std::vector<Tag> tagsOf(const athletedata031& run) {
     std::vector<Tag> tags;
     for (std::size_t r = 0; r < run.customData.size(); ++r)
         for (std::size_t k = 0; k < tagsIn(run.customData[r]); ++k)
-            tags.push_back(read(run.customData[r], {r, k}));
+            tags.push_back(readTag(run.customData[r], {r, k}));
     return tags;
 }
 
 TagHandle addTag(athletedata031& run, std::int64_t video, std::string name, const CMTime& moment) {
-    const std::size_t place = recordFor(run, video);
+    const std::size_t place = tagRecordFor(run, video);
     customData020& record = run.customData[place];
     const TagHandle handle{place, tagsIn(record)};
     setPadded(record.tags, handle.entry, std::move(name));
@@ -88,16 +88,16 @@ TagHandle addTag(athletedata031& run, std::int64_t video, std::string name, cons
 }
 
 void moveTag(athletedata031& run, TagHandle handle, const CMTime& moment) {
-    setPadded(recordOf(run, handle).cmTimes, handle.entry, moment);
+    setPadded(tagRecordOf(run, handle).cmTimes, handle.entry, moment);
 }
 
 void renameTag(athletedata031& run, TagHandle handle, std::string name) {
-    setPadded(recordOf(run, handle).tags, handle.entry, std::move(name));
+    setPadded(tagRecordOf(run, handle).tags, handle.entry, std::move(name));
 }
 
 TagHandle setFixedMoment(athletedata031& run, TagHandle handle, std::int64_t fixedCamera,
                          const CMTime& moment) {
-    customData020& record = recordOf(run, handle);
+    customData020& record = tagRecordOf(run, handle);
     if (record.fixInt != fixedCamera && std::ranges::any_of(record.fixCMTimes, isTaken))
         return moveToCamera(run, handle, fixedCamera, moment);
     record.fixInt = fixedCamera;
@@ -106,13 +106,13 @@ TagHandle setFixedMoment(athletedata031& run, TagHandle handle, std::int64_t fix
 }
 
 void clearFixedMoment(athletedata031& run, TagHandle handle) {
-    std::vector<CMTime>& moments = recordOf(run, handle).fixCMTimes;
+    std::vector<CMTime>& moments = tagRecordOf(run, handle).fixCMTimes;
     if (handle.entry < moments.size())
         moments[handle.entry] = NotMarked;
 }
 
 void removeTag(athletedata031& run, TagHandle handle) {
-    customData020& record = recordOf(run, handle);
+    customData020& record = tagRecordOf(run, handle);
     eraseEntry(record.tags, handle.entry);
     eraseEntry(record.cmTimes, handle.entry);
     eraseEntry(record.fixCMTimes, handle.entry);

@@ -7,12 +7,12 @@ namespace kavela {
 namespace {
 
 /// Wide enough for the product of a stamp and a time scale.
-__extension__ using Wide = __int128;
+__extension__ using WideMark = __int128;
 
 constexpr std::uint32_t Unbounded = 4 | 8 | 16;
 
-Wide crossed(const CMTime& stamp, const CMTime& other) {
-    return static_cast<Wide>(stamp.value) * other.timescale;
+WideMark crossed(const CMTime& stamp, const CMTime& other) {
+    return static_cast<WideMark>(stamp.value) * other.timescale;
 }
 
 double secondsSince(const std::optional<CMTime>& start, const CMTime& moment) {
@@ -33,7 +33,7 @@ double secondsFrom(const CMTime& from, const CMTime& to) {
     if (!isTaken(from) || !isTaken(to))
         return 0;
     if (from.timescale == to.timescale)
-        return static_cast<double>(static_cast<Wide>(to.value) - from.value) / from.timescale;
+        return static_cast<double>(static_cast<WideMark>(to.value) - from.value) / from.timescale;
     return static_cast<double>(crossed(to, from) - crossed(from, to)) /
            (static_cast<double>(from.timescale) * to.timescale);
 }

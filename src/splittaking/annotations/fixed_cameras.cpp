@@ -13,7 +13,7 @@ void askForCamera(const athletedata031& run, std::size_t camera) {
     (void)entryOf(run.fixcameras, camera, "fixed camera");
 }
 
-fixMarkStruct& recordFor(athletedata031& run, std::size_t camera) {
+fixMarkStruct& cameraRecordFor(athletedata031& run, std::size_t camera) {
     const auto isOfCamera = [&](const fixMarkStruct& record) {
         return std::cmp_equal(record.camNum, camera);
     };
@@ -26,8 +26,8 @@ fixMarkStruct& recordFor(athletedata031& run, std::size_t camera) {
 }
 
 /// The list and the place in it of a mark counted through all records of a camera.
-std::pair<std::vector<ReferenceDate>&, std::size_t> find(athletedata031& run, std::size_t camera,
-                                                         std::size_t mark) {
+std::pair<std::vector<ReferenceDate>&, std::size_t> findMark(athletedata031& run,
+                                                             std::size_t camera, std::size_t mark) {
     std::size_t place = mark;
     for (fixMarkStruct& record : run.fixMarkDates) {
         if (!std::cmp_equal(record.camNum, camera))
@@ -78,16 +78,16 @@ std::vector<ReferenceDate> fixMarksOf(const athletedata031& run, std::size_t cam
 
 void addFixMark(athletedata031& run, std::size_t camera, ReferenceDate date) {
     askForCamera(run, camera);
-    recordFor(run, camera).fixMarkDates.push_back(date);
+    cameraRecordFor(run, camera).fixMarkDates.push_back(date);
 }
 
 void moveFixMark(athletedata031& run, std::size_t camera, std::size_t mark, ReferenceDate date) {
-    const auto [dates, place] = find(run, camera, mark);
+    const auto [dates, place] = findMark(run, camera, mark);
     dates[place] = date;
 }
 
 void removeFixMark(athletedata031& run, std::size_t camera, std::size_t mark) {
-    const auto [dates, place] = find(run, camera, mark);
+    const auto [dates, place] = findMark(run, camera, mark);
     eraseEntry(dates, place);
 }
 

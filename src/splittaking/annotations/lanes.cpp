@@ -22,13 +22,13 @@ std::string splitText(const infodata031& info, std::size_t split) {
     return title.empty() ? "S" + std::to_string(split + 1) : title;
 }
 
-std::string gateText(const upstreamdata025& upstream, std::size_t place) {
+std::string laneGateText(const upstreamdata025& upstream, std::size_t place) {
     const std::string gate = "Gate " + std::to_string(upstream.num);
     const auto which = markAtPlace(place, upstream.cmtimes.size());
     if (!which)
         return gate;
-    constexpr const char* Names[] = {" entrance", " middle", " exit"};
-    return gate + Names[static_cast<std::size_t>(*which)];
+    constexpr const char* MarkNames[] = {" entrance", " middle", " exit"};
+    return gate + MarkNames[static_cast<std::size_t>(*which)];
 }
 
 std::string lossText(const timeloss031& loss, std::size_t place) {
@@ -85,7 +85,7 @@ private:
         for (std::size_t k = 0; k < m_run.upstreams.size(); ++k) {
             const upstreamdata025& upstream = m_run.upstreams[k];
             for (std::size_t place = 0; place < upstream.cmtimes.size(); ++place)
-                add({}, upstream.cmtimes[place], gateText(upstream, place),
+                add({}, upstream.cmtimes[place], laneGateText(upstream, place),
                     {MarkKind::Upstream, k, place});
         }
     }

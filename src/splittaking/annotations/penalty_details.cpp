@@ -29,7 +29,7 @@ std::size_t entriesIn(const pendata030& record) {
     return count;
 }
 
-pendata030& recordOf(athletedata031& run, PenaltyHandle handle) {
+pendata030& penaltyRecordOf(athletedata031& run, PenaltyHandle handle) {
     pendata030& record =
         entryOf(run.sectioninfo.pendetails, handle.record, "the record of penalties");
     if (handle.entry >= entriesIn(record))
@@ -37,7 +37,7 @@ pendata030& recordOf(athletedata031& run, PenaltyHandle handle) {
     return record;
 }
 
-PenaltyEntry read(const pendata030& record, PenaltyHandle handle) {
+PenaltyEntry readPenalty(const pendata030& record, PenaltyHandle handle) {
     PenaltyEntry entry{handle, {}};
     for (std::size_t k = 0; k < Lists.size(); ++k) {
         const Codes& list = record.*Lists[k];
@@ -95,7 +95,7 @@ void takeSecondsFromDetails(athletedata031& run, std::optional<std::int64_t> gat
 }
 
 void eraseDetail(athletedata031& run, PenaltyHandle handle) {
-    pendata030& record = recordOf(run, handle);
+    pendata030& record = penaltyRecordOf(run, handle);
     for (const auto list : Lists)
         eraseEntry(record.*list, handle.entry);
     if (entriesIn(record) == 0)
@@ -129,7 +129,7 @@ void changeKindsAt(athletedata031& run, std::int64_t gate, std::int64_t seconds)
         if (known.value_or(seconds) == seconds ||
             (!isTouch && entry.handle != entries.back().handle))
             continue;
-        pendata030& record = recordOf(run, entry.handle);
+        pendata030& record = penaltyRecordOf(run, entry.handle);
         setPadded(listOf(record, PenaltyField::Kind), entry.handle.entry, code);
         changed.push_back(entry.handle);
     }
@@ -153,7 +153,7 @@ std::vector<PenaltyEntry> penaltyEntries(const athletedata031& run) {
     const auto& records = run.sectioninfo.pendetails;
     for (std::size_t r = 0; r < records.size(); ++r)
         for (std::size_t k = 0; k < entriesIn(records[r]); ++k)
-            entries.push_back(read(records[r], {r, k}));
+            entries.push_back(readPenalty(records[r], {r, k}));
     return entries;
 }
 
@@ -175,8 +175,8 @@ PenaltyHandle addPenalty(athletedata031& run, const PenaltyDetail& detail, std::
 
 void changePenalty(athletedata031& run, PenaltyHandle handle, PenaltyField field,
                    std::int64_t value, std::int64_t gates) {
-    pendata030& record = recordOf(run, handle);
-    const std::optional<std::int64_t> gateBefore = read(record, handle)[PenaltyField::Gate];
+    pendata030& record = penaltyRecordOf(run, handle);
+    const std::optional<std::int64_t> gateBefore = readPenalty(record, handle)[PenaltyField::Gate];
     if (field == PenaltyField::Gate)
         askForGate(value, gates);
     setPadded(listOf(record, field), handle.entry, value);
@@ -188,7 +188,7 @@ void changePenalty(athletedata031& run, PenaltyHandle handle, PenaltyField field
 
 void removePenalty(athletedata031& run, PenaltyHandle handle, std::int64_t gates) {
     const std::optional<std::int64_t> gate =
-        read(recordOf(run, handle), handle)[PenaltyField::Gate];
+        readPenalty(penaltyRecordOf(run, handle), handle)[PenaltyField::Gate];
     eraseDetail(run, handle);
     takeSecondsFromDetails(run, gate, gates);
 }

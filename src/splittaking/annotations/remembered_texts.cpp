@@ -8,7 +8,7 @@ namespace kavela {
 
 namespace {
 
-std::string trimmed(std::string_view text) {
+std::string withoutOuterBlanks(std::string_view text) {
     const std::size_t begin = text.find_first_not_of(" \t\r\n");
     if (begin == std::string_view::npos)
         return {};
@@ -20,7 +20,7 @@ std::string trimmed(std::string_view text) {
 std::vector<std::string> withRemembered(std::vector<std::string> saved,
                                         std::span<const std::string> used) {
     for (const std::string& text : used) {
-        std::string tidy = trimmed(text);
+        std::string tidy = withoutOuterBlanks(text);
         const auto isSame = [&](const std::string& kept) { return folded(kept) == folded(tidy); };
         if (!tidy.empty() && std::ranges::none_of(saved, isSame))
             saved.push_back(std::move(tidy));
@@ -29,7 +29,7 @@ std::vector<std::string> withRemembered(std::vector<std::string> saved,
 }
 
 std::vector<std::string> fittingTexts(std::span<const std::string> saved, std::string_view typed) {
-    const std::string wanted = folded(trimmed(typed));
+    const std::string wanted = folded(withoutOuterBlanks(typed));
     std::vector<std::string> fitting;
     for (const std::string& text : saved)
         if (folded(text).find(wanted) != std::string::npos)

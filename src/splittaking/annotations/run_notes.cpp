@@ -17,17 +17,18 @@ std::vector<Blob>& radioOf(athletedata031& run, std::size_t recording) {
 }
 
 /// What a kind of sound file has at a place of its first bytes.
-struct Sign {
+struct NoteSign {
     std::size_t place;
     std::string_view bytes;
     std::string_view extension;
 };
 
-constexpr Sign Signs[] = {{4, "ftyp", ".m4a"},     {8, "WAVE", ".wav"},     {8, "AIFF", ".aiff"},
-                          {8, "AIFC", ".aiff"},    {0, "caff", ".caf"},     {0, "OggS", ".ogg"},
-                          {0, "fLaC", ".flac"},    {0, "#!AMR", ".amr"},    {0, "ID3", ".mp3"},
-                          {0, "\xFF\xF1", ".aac"}, {0, "\xFF\xF9", ".aac"}, {0, "\xFF\xFB", ".mp3"},
-                          {0, "\xFF\xF3", ".mp3"}, {0, "\xFF\xF2", ".mp3"}};
+constexpr NoteSign Signs[] = {
+    {4, "ftyp", ".m4a"},     {8, "WAVE", ".wav"},     {8, "AIFF", ".aiff"},
+    {8, "AIFC", ".aiff"},    {0, "caff", ".caf"},     {0, "OggS", ".ogg"},
+    {0, "fLaC", ".flac"},    {0, "#!AMR", ".amr"},    {0, "ID3", ".mp3"},
+    {0, "\xFF\xF1", ".aac"}, {0, "\xFF\xF9", ".aac"}, {0, "\xFF\xFB", ".mp3"},
+    {0, "\xFF\xF3", ".mp3"}, {0, "\xFF\xF2", ".mp3"}};
 
 } // namespace
 
@@ -77,7 +78,7 @@ void moveTeamRadio(athletedata031& run, std::size_t from, std::size_t to) {
 }
 
 std::string_view soundExtension(const Blob& recording) {
-    const auto hasSign = [&](const Sign& sign) {
+    const auto hasSign = [&](const NoteSign& sign) {
         return recording.bytes.size() >= sign.place + sign.bytes.size() &&
                std::equal(
                    sign.bytes.begin(), sign.bytes.end(),

@@ -11,7 +11,7 @@ std::size_t sideOf(LossMark which) {
     return which == LossMark::OwnStart || which == LossMark::OwnEnd ? OwnSide : VersusSide;
 }
 
-std::size_t placeOf(LossMark which) {
+std::size_t placeOfLoss(LossMark which) {
     return which == LossMark::OwnStart || which == LossMark::VersusStart ? 0 : 1;
 }
 
@@ -40,14 +40,14 @@ Stamps marksAround(const athletedata031& run, std::size_t split) {
 } // namespace
 
 std::optional<CMTime> markOf(const timeloss031& loss, LossMark which) {
-    return markAt(loss, sideOf(which), placeOf(which));
+    return markAt(loss, sideOf(which), placeOfLoss(which));
 }
 
 void setMark(timeloss031& loss, LossMark which, const CMTime& moment) {
     const std::size_t side = sideOf(which);
     if (loss.cmtimes.size() <= side)
         loss.cmtimes.resize(side + 1);
-    setPadded(loss.cmtimes[side], placeOf(which), moment);
+    setPadded(loss.cmtimes[side], placeOfLoss(which), moment);
     recompute(loss);
 }
 

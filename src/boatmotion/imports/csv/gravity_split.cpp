@@ -7,8 +7,8 @@ namespace kavela::imports {
 
 namespace {
 
-constexpr double CutOff = 0.3;   // Hz
-constexpr double LongestGap = 1; // s
+constexpr double CutOff = 0.3;           // Hz
+constexpr double LongestFilteredGap = 1; // s
 
 struct Level {
     double x = 0;
@@ -38,8 +38,8 @@ void smooth(Iterator begin, Iterator end, const Reading& reading) {
     Level level;
     for (Iterator i = begin; i != end; ++i) {
         const double step =
-            i == begin ? LongestGap + 1 : std::abs(i->timestamp - (i - 1)->timestamp);
-        if (step > LongestGap)
+            i == begin ? LongestFilteredGap + 1 : std::abs(i->timestamp - (i - 1)->timestamp);
+        if (step > LongestFilteredGap)
             level = beginning(i, end, reading);
         else
             level.approach(reading(*i), 1 - std::exp(-2 * std::numbers::pi * CutOff * step));

@@ -14,10 +14,10 @@ namespace kavela::imports {
 
 namespace {
 
-constexpr double LeastDate = 1e9;           // s since 1970; a device does not run for thirty years
-constexpr double GreatestStamp = 1e10;      // s
-constexpr double LeastFixDistance = 0.0999; // s
-constexpr double GreatestFixDistance = 0.999; // s
+constexpr double LeastDate = 1e9;         // s since 1970; a device does not run for thirty years
+constexpr double GreatestRowStamp = 1e10; // s
+constexpr double LeastRowFixDistance = 0.0999; // s
+constexpr double GreatestFixDistance = 0.999;  // s
 
 std::size_t indexOf(CsvQuantity quantity) {
     return static_cast<std::size_t>(quantity);
@@ -60,7 +60,7 @@ std::array<double, CsvQuantities> scalesOf(const CsvMapping& mapping) {
     return scales;
 }
 
-bool isMotion(std::size_t quantity) {
+bool isMotionQuantity(std::size_t quantity) {
     return quantity >= indexOf(CsvQuantity::TotalX) && quantity <= indexOf(CsvQuantity::UserZ);
 }
 
@@ -113,7 +113,7 @@ CsvRows::Reading CsvRows::readTime(std::string_view field) {
         return Reading::Taken;
     }
     const auto number = fieldNumber(field, m_mapping.hasDecimalComma);
-    if (!number || std::abs(*number * timeScale(m_mapping.time)) > GreatestStamp)
+    if (!number || std::abs(*number * timeScale(m_mapping.time)) > GreatestRowStamp)
         return Reading::Unreadable;
     m_stamp = *number * timeScale(m_mapping.time);
     if (!m_firstStamp)
@@ -168,8 +168,8 @@ void CsvRows::take(std::string_view line, std::size_t number) {
         std::size_t found = 0;
         std::size_t wanted = 0;
         for (std::size_t q = 0; q < CsvQuantities; ++q) {
-            wanted += isMotion(q) && m_mapped[q];
-            found += isMotion(q) && m_isNew[q];
+            wanted += isMotionQuantity(q) && m_mapped[q];
+            found += isMotionQuantity(q) && m_isNew[q];
         }
         // A line of another sensor has no acceleration; one that is torn has a part of it.
         if (found > 0 && found < wanted && found % 3 != 0)
@@ -228,7 +228,7 @@ void CsvRows::addFix() {
         const double since = std::abs(m_stamp - *m_fixStamp);
         const bool isSame =
             fixes.back().latitude == latitude && fixes.back().longitude == longitude;
-        if (since < (isSame ? GreatestFixDistance : LeastFixDistance))
+        if (since < (isSame ? GreatestFixDistance : LeastRowFixDistance))
             return;
     }
     m_fixStamp = m_stamp;
@@ -243,7 +243,7 @@ void CsvRows::addHeart() {
     auto& heart = m_import.session.heart;
     if (m_heartStamp) {
         const double since = std::abs(m_stamp - *m_heartStamp);
-        if (since < (heart.back().hr == rate ? GreatestFixDistance : LeastFixDistance))
+        if (since < (heart.back().hr == rate ? GreatestFixDistance : LeastRowFixDistance))
             return;
     }
     m_heartStamp = m_stamp;
