@@ -1,6 +1,7 @@
 #include "boatmotion/power_meter.h"
 
 #include "boatmotion/strokes/segments.h"
+#include "common/delimited_text.h"
 #include "common/folded_text.h"
 
 #include <algorithm>
@@ -11,8 +12,6 @@ namespace kavela {
 
 namespace {
 
-using Fields = std::vector<std::string_view>;
-
 constexpr double MostPower = 5000;    // W
 constexpr double LeastHeartRate = 20; // 1/min
 constexpr double MostHeartRate = 250; // 1/min
@@ -20,33 +19,11 @@ constexpr double DaySeconds = 86400;
 constexpr double LongestGap = 3;    // s between samples that are joined
 constexpr double HeartDistance = 5; // s
 
-std::string_view trimmed(std::string_view text) {
-    constexpr std::string_view Blanks = " \t\r\"";
-    const std::size_t first = text.find_first_not_of(Blanks);
-    if (first == std::string_view::npos)
-        return {};
-    return text.substr(first, text.find_last_not_of(Blanks) - first + 1);
-}
-
 std::string_view takeUntil(std::string_view& text, char end) {
     const std::size_t length = std::min(text.find(end), text.size());
     const std::string_view taken = text.substr(0, length);
     text.remove_prefix(std::min(length + 1, text.size()));
     return taken;
-}
-
-Fields fieldsOf(std::string_view line, char separator) {
-    Fields fields;
-    while (!line.empty())
-        fields.push_back(trimmed(takeUntil(line, separator)));
-    return fields;
-}
-
-char separatorOf(std::string_view header) {
-    for (const char separator : {';', '\t'})
-        if (header.find(separator) != std::string_view::npos)
-            return separator;
-    return ',';
 }
 
 std::optional<double> numberIn(std::string_view text) {
@@ -84,8 +61,7 @@ std::string quoted(std::string_view text) {
 /// Where the header says each value stands.
 class Header {
 public:
-    explicit Header(std::string_view line) : m_separator(separatorOf(line)) {
-        const Fields names = fieldsOf(line, m_separator);
+    explicit Header(const std::vector<std::string_view>& names) {
         for (std::size_t column = 0; column < names.size(); ++column) {
             const std::string name = folded(names[column]);
             const auto begins = [&](const char* word) { return name.starts_with(word); };
@@ -106,23 +82,22 @@ public:
     }
 
     /// Reads a line; the reason when it cannot be.
-    [[nodiscard]] std::string read(std::string_view line, powermeterData& sample) const {
-        const Fields fields = fieldsOf(line, m_separator);
-        const std::string_view timeText = at(fields, *m_time);
+    [[nodiscard]] std::string read(const DelimitedReader& line, powermeterData& sample) const {
+        const std::string_view timeText = line.field(*m_time);
         const auto time = secondsIn(timeText);
         if (!time)
             return "the time " + quoted(timeText) + " is neither seconds nor hh:mm:ss";
-        const std::string_view powerText = at(fields, *m_power);
+        const std::string_view powerText = line.field(*m_power);
         const auto power = numberIn(powerText);
         if (!power || *power < 0 || *power > MostPower)
             return "the power " + quoted(powerText) + " is no number of watts from 0 to 5000";
         sample.dateDouble = *time;
         sample.power = *power;
-        return readHeart(m_heart ? at(fields, *m_heart) : std::string_view(), sample);
+        return readHeart(m_heart ? line.field(*m_heart) : std::string_view(), sample);
     }
 
-    [[nodiscard]] bool hasColons(std::string_view line) const {
-        return at(fieldsOf(line, m_separator), *m_time).find(':') != std::string_view::npos;
+    [[nodiscard]] bool hasColons(const DelimitedReader& line) const {
+        return line.field(*m_time).find(':') != std::string_view::npos;
     }
 
 private:
@@ -134,11 +109,6 @@ private:
         return {};
     }
 
-    static std::string_view at(const Fields& fields, std::size_t column) {
-        return column < fields.size() ? fields[column] : std::string_view();
-    }
-
-    char m_separator;
     std::optional<std::size_t> m_time;
     std::optional<std::size_t> m_power;
     std::optional<std::size_t> m_heart;
@@ -207,25 +177,24 @@ void addHeartRates(EditedSession& edited) {
 
 PowerMeterList parsePowerMeter(std::string_view text) {
     PowerMeterList list;
-    const Header header(takeUntil(text, '\n'));
+    DelimitedReader reader(text);
+    const bool hasTitles = reader.next() && reader.number() == 1;
+    const Header header(hasTitles ? reader.fields() : std::vector<std::string_view>());
     if (std::string fault = header.fault(); !fault.empty()) {
         list.refused.push_back({1, std::move(fault)});
         return list;
     }
-    for (std::size_t number = 2; !text.empty(); ++number) {
-        const std::string_view line = takeUntil(text, '\n');
-        if (trimmed(line).empty())
-            continue;
+    while (reader.next()) {
         powermeterData sample;
-        std::string reason = header.read(line, sample);
+        std::string reason = header.read(reader, sample);
         if (reason.empty() && !list.samples.empty() &&
             sample.dateDouble <= list.samples.back().dateDouble)
             reason = "its time is not later than that of the line before";
         if (!reason.empty()) {
-            list.refused.push_back({static_cast<std::int64_t>(number), std::move(reason)});
+            list.refused.push_back({reader.number(), std::move(reason)});
             continue;
         }
-        list.isTimeOfDay = list.isTimeOfDay || header.hasColons(line);
+        list.isTimeOfDay = list.isTimeOfDay || header.hasColons(reader);
         list.samples.push_back(sample);
     }
     return list;

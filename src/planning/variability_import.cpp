@@ -1,5 +1,6 @@
 #include "planning/variability_import.h"
 
+#include "common/delimited_text.h"
 #include "common/folded_text.h"
 
 #include <algorithm>
@@ -13,7 +14,6 @@ namespace kavela {
 namespace {
 
 using Measurement = variabilitydataplanning_v2;
-using Fields = std::vector<std::string_view>;
 
 struct Index {
     const char* name;
@@ -24,41 +24,6 @@ constexpr std::array Indices{
     Index{"AVNN", &Measurement::AVNN},   Index{"SDNN", &Measurement::SDNN},
     Index{"rMSSD", &Measurement::rMSSD}, Index{"pNN50", &Measurement::pNN50},
     Index{"LF", &Measurement::LF},       Index{"HF", &Measurement::HF}};
-
-std::string_view trimmed(std::string_view text) {
-    constexpr std::string_view Blanks = " \t\r";
-    const std::size_t first = text.find_first_not_of(Blanks);
-    if (first == std::string_view::npos)
-        return {};
-    text = text.substr(first, text.find_last_not_of(Blanks) - first + 1);
-    const bool isQuoted = text.size() >= 2 && text.starts_with('"') && text.ends_with('"');
-    return isQuoted ? text.substr(1, text.size() - 2) : text;
-}
-
-std::string_view takeLine(std::string_view& text) {
-    const std::size_t end = std::min(text.find('\n'), text.size());
-    const std::string_view line = text.substr(0, end);
-    text.remove_prefix(std::min(end + 1, text.size()));
-    return line;
-}
-
-Fields fieldsOf(std::string_view line, char separator) {
-    Fields fields;
-    for (;;) {
-        const std::size_t end = line.find(separator);
-        fields.push_back(trimmed(line.substr(0, end)));
-        if (end == std::string_view::npos)
-            return fields;
-        line.remove_prefix(end + 1);
-    }
-}
-
-char separatorOf(std::string_view header) {
-    for (const char separator : {';', '\t'})
-        if (header.find(separator) != std::string_view::npos)
-            return separator;
-    return ',';
-}
 
 template <class Number>
 bool parse(std::string_view text, Number& number) {
@@ -108,8 +73,7 @@ std::optional<ReferenceDate> parseDate(std::string_view text) {
 /// Where the header says each value stands.
 class Header {
 public:
-    explicit Header(std::string_view line) : m_separator(separatorOf(line)) {
-        const Fields names = fieldsOf(line, m_separator);
+    explicit Header(const std::vector<std::string_view>& names) {
         for (std::size_t column = 0; column < names.size(); ++column) {
             const std::string name = folded(names[column]);
             if (name == "date")
@@ -130,16 +94,15 @@ public:
     }
 
     /// Reads a line; the reason when it cannot be.
-    [[nodiscard]] std::string read(std::string_view line, Measurement& measurement) const {
-        const Fields fields = fieldsOf(line, m_separator);
-        const std::string_view dateText = at(fields, *m_date);
+    [[nodiscard]] std::string read(const DelimitedReader& line, Measurement& measurement) const {
+        const std::string_view dateText = line.field(*m_date);
         const auto date = parseDate(dateText);
         if (!date)
             return "the date \"" + std::string(dateText) + "\" is no date such as 2026-03-09";
         measurement.date = *date;
         bool isMeasured = false;
         for (std::size_t i = 0; i < Indices.size(); ++i) {
-            const std::string_view text = m_columns[i] ? at(fields, *m_columns[i]) : "";
+            const std::string_view text = m_columns[i] ? line.field(*m_columns[i]) : "";
             double& value = measurement.*Indices[i].member;
             if (!text.empty() && (!parse(text, value) || !std::isfinite(value) || value < 0))
                 return "the " + std::string(Indices[i].name) + " \"" + std::string(text) +
@@ -150,11 +113,6 @@ public:
     }
 
 private:
-    static std::string_view at(const Fields& fields, std::size_t column) {
-        return column < fields.size() ? fields[column] : std::string_view();
-    }
-
-    char m_separator;
     std::optional<std::size_t> m_date;
     std::array<std::optional<std::size_t>, Indices.size()> m_columns;
 };
@@ -163,18 +121,17 @@ private:
 
 VariabilityList parseVariability(std::string_view text) {
     VariabilityList list;
-    const Header header(takeLine(text));
+    DelimitedReader reader(text);
+    const bool hasTitles = reader.next() && reader.number() == 1;
+    const Header header(hasTitles ? reader.fields() : std::vector<std::string_view>());
     if (!header.fault().empty()) {
         list.skipped.push_back({1, header.fault()});
         return list;
     }
-    for (std::int64_t number = 2; !text.empty(); ++number) {
-        const std::string_view line = takeLine(text);
-        if (trimmed(line).empty())
-            continue;
+    while (reader.next()) {
         Measurement measurement;
-        if (std::string reason = header.read(line, measurement); !reason.empty())
-            list.skipped.push_back({number, std::move(reason)});
+        if (std::string reason = header.read(reader, measurement); !reason.empty())
+            list.skipped.push_back({reader.number(), std::move(reason)});
         else
             list.measurements.push_back(measurement);
     }

@@ -15,11 +15,6 @@ std::string quoted(std::string_view what, const std::string& text) {
     return "the " + std::string(what) + " \"" + text + '"';
 }
 
-std::string tooShort(const ListLine& line, const char* needed) {
-    return std::to_string(line.fields.size()) + (line.fields.size() == 1 ? " field" : " fields") +
-           " where " + needed + " are needed";
-}
-
 /// The category of a list line in the selection, added and noted where it is missing.
 std::size_t categoryOf(const ListLine& line, selectionracesStruct_v3& document,
                        ListImport& import) {
@@ -38,7 +33,7 @@ std::size_t categoryOf(const ListLine& line, selectionracesStruct_v3& document,
 /// Adds the athlete of a line; why not, or an empty text.
 std::string addFrom(const ListLine& line, selectionracesStruct_v3& document, ListImport& import) {
     if (line.fields.size() < 5)
-        return tooShort(line, "five");
+        return lackOfFields(line.fields.size(), 5, "five");
     const std::string& surname = line.fields[2];
     if (line.fields[0].empty())
         return "the category is empty";
@@ -74,7 +69,7 @@ constexpr Columns TacenColumns{1, 3, 4, "five"};
 std::string readColumns(const ListLine& line, const Columns& columns, bool hasComma,
                         FoundRun& run) {
     if (line.fields.size() <= columns.penalty)
-        return tooShort(line, columns.needed);
+        return lackOfFields(line.fields.size(), columns.penalty + 1, columns.needed);
     std::string time = line.fields[columns.time];
     if (hasComma)
         std::ranges::replace(time, ',', '.');

@@ -1,12 +1,12 @@
 #include "splittaking/results_import.h"
 
+#include "common/delimited_text.h"
 #include "common/error.h"
 #include "common/number_text.h"
 #include "common/text_file.h"
 #include "splittaking/perfect_time.h"
 
 #include <algorithm>
-#include <charconv>
 #include <cmath>
 
 namespace kavela {
@@ -15,63 +15,28 @@ namespace {
 
 constexpr std::size_t FieldsNeeded = 6;
 
-using Fields = std::vector<std::string_view>;
-
-/// Takes the next line off a text that is not empty, without its line end.
-std::string_view takeLine(std::string_view& text) {
-    const std::size_t end = std::min(text.find('\n'), text.size());
-    std::string_view line = text.substr(0, end);
-    text.remove_prefix(std::min(end + 1, text.size()));
-    if (line.ends_with('\r'))
-        line.remove_suffix(1);
-    return line;
-}
-
-Fields fieldsOf(std::string_view line) {
-    Fields fields;
-    for (;;) {
-        const std::size_t end = line.find(';');
-        fields.push_back(line.substr(0, end));
-        if (end == std::string_view::npos)
-            return fields;
-        line.remove_prefix(end + 1);
-    }
-}
-
-template <class Number>
-bool parse(std::string_view field, Number& number) {
-    if (field.starts_with('+') && !field.starts_with("+-"))
-        field.remove_prefix(1);
-    const char* const end = field.data() + field.size();
-    const auto [rest, fault] = std::from_chars(field.data(), end, number);
-    return fault == std::errc() && rest == end;
-}
-
 /// One line of a list being read, with the first thing that is wrong in it.
 class ResultLine {
 public:
-    explicit ResultLine(std::string_view line) : m_fields(fieldsOf(line)) {
-        if (m_fields.size() < FieldsNeeded)
-            m_reason = std::to_string(m_fields.size()) +
-                       (m_fields.size() == 1 ? " field" : " fields") + " where six are needed";
-    }
+    explicit ResultLine(const DelimitedReader& line)
+        : m_line(line), m_reason(line.lack(FieldsNeeded, "six")) {}
 
     [[nodiscard]] std::int64_t wholeNumber(std::size_t at, std::string_view what) {
         std::int64_t number = 0;
-        if (isFine() && !parse(m_fields[at], number))
+        if (isFine() && !parseField(m_line.field(at), number))
             refuse(at, what, " is no whole number");
         return number;
     }
 
     [[nodiscard]] double seconds(std::size_t at, std::string_view what) {
         double number = 0;
-        if (isFine() && (!parse(m_fields[at], number) || !std::isfinite(number)))
+        if (isFine() && (!parseField(m_line.field(at), number) || !std::isfinite(number)))
             refuse(at, what, " is no number of seconds");
         return number;
     }
 
     [[nodiscard]] std::string text(std::size_t at) const {
-        return isFine() ? std::string(m_fields[at]) : std::string();
+        return isFine() ? std::string(m_line.field(at)) : std::string();
     }
 
     [[nodiscard]] bool isFine() const { return m_reason.empty(); }
@@ -79,11 +44,11 @@ public:
 
 private:
     void refuse(std::size_t at, std::string_view what, std::string_view fault) {
-        m_reason = "the " + std::string(what) + " \"" + std::string(m_fields[at]) + '"' +
+        m_reason = "the " + std::string(what) + " \"" + std::string(m_line.field(at)) + '"' +
                    std::string(fault);
     }
 
-    Fields m_fields;
+    const DelimitedReader& m_line;
     std::string m_reason;
 };
 
@@ -117,19 +82,16 @@ std::string oddity(const allresultsdata030& result) {
     return result.pos < 0 ? "the position " + std::to_string(result.pos) + " is below 0" : "";
 }
 
-bool isBlank(std::string_view line) {
-    return line.find_first_not_of(" \t") == std::string_view::npos;
-}
-
 } // namespace
 
 ResultsList parseResults(std::string_view text) {
     ResultsList list;
-    for (std::int64_t number = 1; !text.empty(); ++number) {
-        const std::string_view content = takeLine(text);
-        if (number == 1 || isBlank(content))
+    DelimitedReader reader(text, ';', FieldForm::AsWritten);
+    while (reader.next()) {
+        const std::int64_t number = reader.number();
+        if (number == 1)
             continue;
-        ResultLine line(content);
+        ResultLine line(reader);
         allresultsdata030 result = resultOf(line);
         if (!line.isFine()) {
             list.skipped.push_back({number, line.reason()});

@@ -4,6 +4,7 @@
 #include "boatmotion/imports/csv/guess.h"
 #include "boatmotion/imports/csv/rows.h"
 #include "boatmotion/imports/source_file.h"
+#include "common/delimited_text.h"
 #include "common/display_text.h"
 
 #include <algorithm>
@@ -147,7 +148,7 @@ CsvPreview SensorCsv::preview(const CsvMapping& mapping) const {
     std::vector<std::string_view> fields;
     for (std::size_t i = mapping.firstSample;
          i < m_lines.size() && preview.rows.size() < PreviewRows; ++i) {
-        imports::splitFields(m_lines[i], mapping.separator, fields);
+        splitFields(m_lines[i], mapping.separator, fields);
         auto& row = preview.rows.emplace_back();
         for (const std::string_view field : fields)
             row.push_back(validUtf8(field));

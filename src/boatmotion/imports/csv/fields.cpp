@@ -7,47 +7,6 @@
 
 namespace kavela::imports {
 
-namespace {
-
-constexpr std::size_t MostFields = 256;
-constexpr std::string_view Blanks = " \t\r";
-
-std::string_view bare(std::string_view field) {
-    const auto begin = field.find_first_not_of(Blanks);
-    if (begin == field.npos)
-        return {};
-    field = field.substr(begin, field.find_last_not_of(Blanks) - begin + 1);
-    if (field.size() >= 2 && field.front() == '"' && field.back() == '"')
-        field = field.substr(1, field.size() - 2);
-    return field;
-}
-
-/// Where the field that begins here ends.
-std::size_t endOfField(std::string_view line, std::size_t begin, char separator) {
-    bool isQuoted = false;
-    for (std::size_t i = begin; i < line.size(); ++i) {
-        if (line[i] == '"')
-            isQuoted = !isQuoted;
-        else if (line[i] == separator && !isQuoted)
-            return i;
-    }
-    return line.size();
-}
-
-} // namespace
-
-void splitFields(std::string_view line, char separator, std::vector<std::string_view>& fields) {
-    fields.clear();
-    std::size_t begin = 0;
-    while (fields.size() < MostFields) {
-        const std::size_t end = endOfField(line, begin, separator);
-        fields.push_back(bare(line.substr(begin, end - begin)));
-        if (end == line.size())
-            return;
-        begin = end + 1;
-    }
-}
-
 std::optional<double> fieldNumber(std::string_view field, bool hasDecimalComma) {
     std::array<char, 64> copy; // NOLINT(cppcoreguidelines-pro-type-member-init): filled below
     if (hasDecimalComma && field.size() <= copy.size()) {

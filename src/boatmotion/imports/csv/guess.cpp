@@ -3,6 +3,7 @@
 #include "boatmotion/imports/csv/fields.h"
 #include "boatmotion/imports/csv/titles.h"
 #include "boatmotion/imports/iso_date.h"
+#include "common/delimited_text.h"
 
 #include <algorithm>
 #include <array>

@@ -4,6 +4,7 @@
 #include "boatmotion/imports/csv/gravity_split.h"
 #include "boatmotion/imports/iso_date.h"
 #include "boatmotion/imports/track_builder.h"
+#include "common/delimited_text.h"
 #include "common/display_text.h"
 
 #include <algorithm>
