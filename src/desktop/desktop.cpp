@@ -4,23 +4,27 @@
 #include "common/safe_file.h"
 #include "desktop/cross/cross_window.h"
 #include "desktop/motion/motion_window.h"
-#include "desktop/opened_as.h"
+#include "desktop/open_session.h"
+#include "desktop/planning/online/online_dialog.h"
+#include "desktop/planning/online/planning_start.h"
 #include "desktop/planning/planning_window.h"
 #include "desktop/race/race_window.h"
+#include "desktop/sessions/session_window.h"
+#include "desktop/shell/disk_worker.h"
 #include "desktop/shell/edited_file.h"
-#include "desktop/shell/editor_window.h"
 #include "desktop/shell/file_names.h"
 #include "desktop/shell/home_window.h"
 #include "desktop/shell/settings_window.h"
 #include "desktop/taking/taking_window.h"
+#include "desktop/tools.h"
 #include "sample/season.h"
-#include "splitdata/loader.h"
 
 #include <QApplication>
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QStandardPaths>
+#include <QUrl>
 
 #include <algorithm>
 
@@ -35,11 +39,6 @@ namespace kavela::desktop {
 namespace {
 
 namespace fs = std::filesystem;
-
-constexpr const char* SessionKey = "openFiles";
-constexpr const char* TakingSessionKey = "openTakings";
-constexpr const char* CrossSessionKey = "openCrosses";
-constexpr const char* EditorSessionKey = "openEditors";
 
 /// Files a folder may hold before a coach is unlikely to want a tab for each.
 constexpr int MostRacesOfAFolder = 24;
@@ -74,6 +73,11 @@ void writeSampleSeason(const fs::path& folder) {
     }
 }
 
+void bringToFront(QWidget& window) {
+    window.raise();
+    window.activateWindow();
+}
+
 } // namespace
 
 Desktop::Desktop(Workspace& workspace, std::optional<Autosave> autosave)
@@ -85,55 +89,24 @@ Desktop::Desktop(Workspace& workspace, std::optional<Autosave> autosave)
     connect(&m_workspace, &Workspace::openRequested, this, &Desktop::open);
 }
 
+/// What is still being written is written to its end.
 Desktop::~Desktop() {
     delete m_home;
-    if (m_motion)
-        m_motion->disconnect(this);
-    delete m_motion;
-    for (const auto& editor : m_editors) {
-        if (editor)
-            editor->disconnect(this);
-        delete editor;
+    for (const auto& window : m_windows) {
+        if (window)
+            window->disconnect(this);
+        delete window;
     }
-    for (const auto& cross : m_crosses) {
-        if (cross)
-            cross->disconnect(this);
-        delete cross;
-    }
-    for (const auto& taking : m_takings) {
-        if (taking)
-            taking->disconnect(this);
-        delete taking;
-    }
-    for (const auto& race : m_races) {
-        if (race)
-            race->disconnect(this);
-        delete race;
-    }
+    disk::waitForAll();
 }
 
 void Desktop::showHome() {
     if (!m_home) {
-        const Tools tools{
-            {tr("Race analyzer"), tr("Every split of a race side by side, coloured by rank."),
-             icon("race"), [this] { chooseRace(); }},
-            {tr("Split taking"), tr("Time every run from its video, exact to the frame."),
-             icon("taking"), [this] { chooseFilms(); }},
-            {tr("Kayak cross"), tr("Time trials, heats and attacks of a cross race, from video."),
-             icon("cross"), [this] { chooseCross(); }},
-            {tr("Team"), tr("Results of every athlete, season by season, and their category."),
-             icon("team"), [this] { chooseTeam(); }},
-            {tr("Selection races"), tr("Who is selected, by which results, and why."),
-             icon("selection"), [this] { chooseSelection(); }},
-            {tr("Planning"), tr("Seasons, weeks and sessions, heart, gym and goals of a group."),
-             icon("planning"), [this] { choosePlanning(); }},
-            {tr("Tests"), tr("Lap, sprint and eight tests on the water, compared."),
-             icon("watertests"), [this] { chooseTests(); }},
-            {tr("Boat motion"), tr("Recordings of phone and watch over each other, and converted."),
-             icon("motion"), [this] { chooseRecordings(); }},
-            {tr("Sessions"),
-             tr("Strokes, turns and segments of a recording, on a map and replayed."),
-             icon("sessions"), [this] { chooseSession(); }}};
+        Tools tools;
+        for (const ToolKind& tool : toolKinds())
+            if (!tool.sentence.isEmpty())
+                tools.push_back(
+                    {tool.title, tool.sentence, icon(tool.icon), [this, &tool] { choose(tool); }});
         m_home = new HomeWindow(m_workspace, tools);
         m_home->setAttribute(Qt::WA_DeleteOnClose);
         connect(m_home, &HomeWindow::settingsRequested, this, &Desktop::openSettings);
@@ -142,17 +115,56 @@ void Desktop::showHome() {
                 [this](const QStringList& files) { openAll(files); });
     }
     m_home->show();
-    m_home->raise();
-    m_home->activateWindow();
+    bringToFront(*m_home);
 }
 
 QWidget* Desktop::front() const {
     return QApplication::activeWindow() ? QApplication::activeWindow() : m_home;
 }
 
-void Desktop::chooseRace() {
-    openAll(QFileDialog::getOpenFileNames(front(), tr("Open races"), QString(),
-                                          tr("Split files (*.kvx);;All files (*)")));
+void Desktop::choose(const ToolKind& tool) {
+    if (tool.choice == ToolKind::Choice::Document) {
+        chooseDocument(tool);
+        return;
+    }
+    const DocumentKind& kind = tool.documents;
+    QStringList chosen;
+    if (tool.choice == ToolKind::Choice::Folder)
+        chosen = {QFileDialog::getExistingDirectory(front(), kind.title)};
+    else
+        chosen = QFileDialog::getOpenFileNames(
+            front(), kind.title, QString(),
+            tr("%1 (*.%2);;All files (*)").arg(kind.plural, kind.suffix));
+    chosen.removeAll(QString());
+    if (tool.opens == OpensAs::Race || tool.opens == OpensAs::Recording)
+        openAll(chosen);
+    else
+        for (const QString& path : chosen)
+            (void)openIn(tool, path);
+}
+
+/// A document to open, or the name of a new one.
+void Desktop::chooseDocument(const ToolKind& tool) {
+    QStringList recent;
+    for (const QString& path : m_workspace.recentFiles())
+        if (QFileInfo(path).suffix().compare(tool.documents.suffix, Qt::CaseInsensitive) == 0 &&
+            QFileInfo::exists(path))
+            recent.append(path);
+    DocumentChoiceDialog dialog(tool.documents, recent, front());
+    if (dialog.exec() != QDialog::Accepted || dialog.choice().path.isEmpty())
+        return;
+    if (!dialog.choice().isNew) {
+        open(dialog.choice().path);
+        return;
+    }
+    ToolWindow* const window = make(tool);
+    window->startNew(dialog.choice().path);
+    window->file()->setNamed();
+    show(window);
+}
+
+ToolWindow* Desktop::make(const ToolKind& tool) {
+    return tool.make(m_workspace, m_autosave);
 }
 
 QStringList Desktop::racesIn(const QString& folder) {
@@ -185,7 +197,7 @@ QStringList Desktop::racesAmong(const QStringList& paths) {
             imports.append(path);
             break;
         default:
-            openInTool(path, kind);
+            openByContent(path, kind);
         }
     }
     if (!recordings.isEmpty())
@@ -196,47 +208,47 @@ QStringList Desktop::racesAmong(const QStringList& paths) {
 }
 
 /// What has a window of its own; each tells what is wrong with its file.
-void Desktop::openInTool(const QString& path, OpensAs kind) {
-    switch (kind) {
-    case OpensAs::FolderOfFilms:
-        (void)openTaking(path);
-        return;
-    case OpensAs::Film:
+void Desktop::openByContent(const QString& path, OpensAs kind) {
+    if (const ToolKind* const tool = toolFor(kind)) {
+        (void)openIn(*tool, path);
+    } else if (kind == OpensAs::Film) {
         openFilm(path);
-        return;
-    case OpensAs::Cross:
-        (void)openCross(path);
-        return;
-    case OpensAs::Selection:
-        (void)openSelection(path);
-        return;
-    case OpensAs::Team:
-        (void)openTeam(path);
-        return;
-    case OpensAs::Planning:
-        (void)openPlanning(path);
-        return;
-    case OpensAs::Tests:
-        (void)openTests(path);
-        return;
-    case OpensAs::Session:
-        (void)openSession(path);
-        return;
-    case OpensAs::TestSession:
-        (void)openTestSession(path);
-        return;
-    case OpensAs::ResultsList:
+    } else if (kind == OpensAs::ResultsList) {
         m_workspace.showAlert(
             {tr("“%1” is a list of official results").arg(QFileInfo(path).fileName()).toStdString(),
              tr("It is taken into a race: open the race in split taking, then File > Import "
                 "official results.")
                  .toStdString()},
             front());
-        return;
-    default:
+    } else {
         m_workspace.showAlert(
             {"", "This feature is not ready yet.\n\nIt will come with a future update."}, front());
     }
+}
+
+bool Desktop::openIn(const ToolKind& tool, const QString& path) {
+    if (tool.opens == OpensAs::Race || tool.opens == OpensAs::Recording) {
+        tool.opens == OpensAs::Race ? openRaces({path}, nullptr) : openRecordings({path});
+        return true;
+    }
+    if (tool.opens == OpensAs::FolderOfFilms)
+        return openTaking(path) != nullptr;
+    if (tool.opens == OpensAs::Cross)
+        return openCross(path) != nullptr;
+    const QString file = canonicalPath(path);
+    if (m_opening.contains(file) || raiseEditorOf(path))
+        return true;
+    m_opening.insert(file);
+    ToolWindow* const window = make(tool);
+    const bool isOpen = window->open(path);
+    m_opening.remove(file);
+    if (isOpen) {
+        show(window);
+        return true;
+    }
+    delete window;
+    m_workspace.forgetRecentFile(path);
+    return false;
 }
 
 void Desktop::openAll(const QStringList& paths, RaceWindow* into) {
@@ -244,22 +256,28 @@ void Desktop::openAll(const QStringList& paths, RaceWindow* into) {
         openRaces(races, into);
 }
 
+void Desktop::connectTool(ToolWindow& window) {
+    connect(&window, &ToolWindow::homeRequested, this, &Desktop::showHome);
+    connect(&window, &ToolWindow::settingsRequested, this, &Desktop::openSettings);
+    if (window.file())
+        connect(window.file(), &EditedFile::saved, this, &Desktop::rememberSession);
+    // Later: while it is being destroyed, it still counts as a window of its kind.
+    connect(&window, &QObject::destroyed, this, &Desktop::rememberSession, Qt::QueuedConnection);
+}
+
 RaceWindow* Desktop::makeRaceWindow() {
     auto* window = new RaceWindow(m_workspace);
-    connect(window, &RaceWindow::homeRequested, this, &Desktop::showHome);
-    connect(window, &RaceWindow::settingsRequested, this, &Desktop::openSettings);
-    connect(window, &RaceWindow::filesRequested, this,
+    connect(window, &RaceWindow::openRequested, this,
             [this, window](const QStringList& files) { openAll(files, window); });
     connect(window, &RaceWindow::takingRequested, this, &Desktop::openTaking);
     connect(window, &RaceWindow::momentRequested, this, &Desktop::showMoment);
     connect(window, &RaceWindow::viewsChanged, this, &Desktop::rememberSession);
-    rememberWithout(window);
     return window;
 }
 
 RaceWindow* Desktop::windowOfRace(const QString& path) const {
     const QString wanted = canonicalPath(path);
-    for (RaceWindow* const window : raceWindows())
+    for (RaceWindow* const window : windowsOf<RaceWindow>())
         for (const QString& shown : window->paths())
             if (canonicalPath(shown) == wanted)
                 return window;
@@ -275,11 +293,8 @@ QStringList Desktop::notShownAmong(const QStringList& races) {
             others.append(path);
             continue;
         }
-        for (const QString& shown : window->paths())
-            if (canonicalPath(shown) == canonicalPath(path))
-                (void)window->open(shown); // shows it
-        window->raise();
-        window->activateWindow();
+        (void)window->open(path); // shows it
+        bringToFront(*window);
     }
     return others;
 }
@@ -296,120 +311,152 @@ void Desktop::openRaces(const QStringList& races, RaceWindow* into) {
         delete window;
         return;
     }
-    if (!into)
-        m_races.append(window);
-    window->show();
-    rememberSession();
+    if (into)
+        rememberSession();
+    else
+        show(window);
 }
 
 /// The last window's closing leaves the program: what it showed is what the next start shows.
 void Desktop::rememberSession() {
-    QStringList files;
-    for (const RaceWindow* window : raceWindows())
-        files += window->paths();
-    QStringList taken;
-    for (TakingWindow* window : takingWindows())
-        taken.append(window->document().path());
-    QStringList crossed;
-    for (CrossWindow* window : crossWindows())
-        crossed.append(window->document().path());
-    QStringList edited;
-    for (const EditorWindow* window : editorWindows())
-        edited.append(window->file().path());
-    if (m_motion)
-        edited += m_motion->paths();
+    QList<OpenFile> files;
+    for (const ToolWindow* const window : windows())
+        for (const QString& path : window->paths())
+            files.append({window->kind(), path});
     const bool isHome = m_home && m_home->isVisible();
-    if (files.isEmpty() && taken.isEmpty() && crossed.isEmpty() && edited.isEmpty() && !isHome)
-        return;
-    m_workspace.remember(SessionKey, files);
-    m_workspace.remember(TakingSessionKey, taken);
-    m_workspace.remember(CrossSessionKey, crossed);
-    m_workspace.remember(EditorSessionKey, edited);
+    if (!files.isEmpty() || isHome)
+        desktop::rememberSession(m_workspace, files);
 }
 
-void Desktop::rememberWithout(const QWidget* window) {
-    // Later: while it is being destroyed, it still counts as a window of its kind.
-    connect(window, &QObject::destroyed, this, &Desktop::rememberSession, Qt::QueuedConnection);
-}
-
-bool Desktop::hasWindows() const {
-    return !raceWindows().isEmpty() || !takingWindows().isEmpty() || !crossWindows().isEmpty() ||
-           !editorWindows().isEmpty() || m_motion;
-}
-
+/// All are read first: what is opened is remembered at once in their place.
 bool Desktop::restoreSession() {
-    const auto remembered = [this](const char* key) {
-        QStringList files = m_workspace.remembered(key);
-        files.removeIf([](const QString& file) { return !QFileInfo::exists(file); });
-        return files;
-    };
-    // All are read first: what is opened is remembered at once in their place.
-    const QStringList files = remembered(SessionKey);
-    const QStringList taken = remembered(TakingSessionKey);
-    const QStringList crossed = remembered(CrossSessionKey);
-    const QStringList edited = remembered(EditorSessionKey);
-    if (!files.isEmpty())
-        openRaces(files, nullptr);
-    for (const QString& file : taken)
-        (void)openTaking(file);
-    for (const QString& file : crossed)
-        (void)openCross(file);
-    if (!edited.isEmpty())
-        openAll(edited);
-    return hasWindows();
+    QStringList races;
+    QStringList others;
+    for (const OpenFile& file : rememberedSession(m_workspace))
+        if (file.kind == "race")
+            races.append(file.path);
+        else if (file.kind == "taking")
+            (void)openTaking(file.path);
+        else if (file.kind == "cross")
+            (void)openCross(file.path);
+        else
+            others.append(file.path);
+    if (!races.isEmpty())
+        openRaces(races, nullptr);
+    if (!others.isEmpty())
+        openAll(others);
+    return !windows().isEmpty();
 }
 
-QList<RaceWindow*> Desktop::raceWindows() const {
-    QList<RaceWindow*> open;
-    for (const auto& race : m_races)
-        if (race)
-            open.append(race);
+/// One that was closed is there until the event loop gets to it, but is open no more.
+QList<ToolWindow*> Desktop::windows() const {
+    QList<ToolWindow*> open;
+    for (const auto& window : m_windows)
+        if (window && !window->isHidden())
+            open.append(window);
     return open;
 }
 
-bool Desktop::isShown(const QString& path) {
-    for (EditorWindow* window : editorWindows())
-        if (window->file().path() == QFileInfo(path).absoluteFilePath()) {
-            window->raise();
-            window->activateWindow();
+bool Desktop::raiseEditorOf(const QString& path) {
+    const QString wanted = canonicalPath(path);
+    for (ToolWindow* const window : windows())
+        if (window->file() && canonicalPath(window->file()->path()) == wanted) {
+            bringToFront(*window);
             return true;
         }
     return false;
 }
 
-void Desktop::show(EditorWindow* window) {
-    connect(window, &EditorWindow::homeRequested, this, &Desktop::showHome);
-    connect(window, &EditorWindow::settingsRequested, this, &Desktop::openSettings);
-    connect(window, &EditorWindow::openRequested, this,
-            [this](const QStringList& paths) { openAll(paths); });
-    connect(&window->file(), &EditedFile::saved, this, &Desktop::rememberSession);
+/// Those that the analyzer and the films are connected with beforehand hear more.
+void Desktop::show(ToolWindow* window) {
+    connectTool(*window);
     if (auto* const planning = qobject_cast<PlanningWindow*>(window))
         connect(planning, &PlanningWindow::copyRequested, this, &Desktop::showPlanningCopy);
-    rememberWithout(window);
-    m_editors.append(window);
+    const bool isConnected = qobject_cast<RaceWindow*>(window) ||
+                             qobject_cast<TakingWindow*>(window) ||
+                             qobject_cast<CrossWindow*>(window);
+    if (!isConnected)
+        connect(window, &ToolWindow::openRequested, this,
+                [this](const QStringList& paths) { openAll(paths); });
+    m_windows.append(window);
     window->show();
     rememberSession();
 }
 
-QList<EditorWindow*> Desktop::editorWindows() const {
-    QList<EditorWindow*> open;
-    for (const auto& editor : m_editors)
-        if (editor)
-            open.append(editor);
-    return open;
+void Desktop::offerRecovery() {
+    for (const Autosave::Found& found : m_autosave.all())
+        recover(found);
 }
 
-void Desktop::offerRecovery() {
-    const QStringList crossed = m_workspace.remembered(CrossSessionKey);
-    for (const Autosave::Found& found : m_autosave.all()) {
-        const QFileInfo file(found.path);
-        if (file.suffix() != "kvx")
-            openAll({found.path});
-        else if (crossed.contains(found.path) && (file.exists() || file.dir().exists()))
-            (void)openCross(file.exists() ? found.path : file.path());
-        else if (file.exists() || file.dir().exists())
-            (void)openTaking(file.exists() ? found.path : file.path());
+/// Work of an earlier release does not say with which tool it was edited; that of a folder that is
+/// gone stays kept.
+void Desktop::recover(const Autosave::Found& found) {
+    const QFileInfo file(found.path);
+    const bool isSplitFile = file.suffix() == "kvx";
+    const ToolKind* tool = toolOfKind(found.tool);
+    if (!tool && isSplitFile)
+        tool = toolFor(OpensAs::FolderOfFilms);
+    if (isSplitFile) {
+        if (file.exists() || file.dir().exists())
+            (void)openIn(*tool, file.exists() ? found.path : file.path());
+    } else if (file.exists() || !tool) {
+        openAll({found.path});
+    } else if (!raiseEditorOf(found.path)) {
+        ToolWindow* const window = make(*tool);
+        window->startNew(found.path);
+        show(window);
     }
+}
+
+void Desktop::openImports(const QStringList& paths) {
+    SessionWindow* window = nullptr;
+    for (SessionWindow* const session : windowsOf<SessionWindow>())
+        window = !window || session->isActiveWindow() ? session : window;
+    if (!window) {
+        window = new SessionWindow(m_workspace, m_autosave);
+        const QFileInfo first(paths.constFirst());
+        window->startNew(first.absolutePath() + '/' + first.completeBaseName() + ".bms");
+        show(window);
+    }
+    window->takeInAll(paths);
+}
+
+void Desktop::openRecordings(const QStringList& paths) {
+    MotionWindow* window = windowsOf<MotionWindow>().value(0);
+    if (!window) {
+        window = new MotionWindow(m_workspace);
+        connect(window, &MotionWindow::recordingsChanged, this, &Desktop::rememberSession);
+        show(window);
+    }
+    bringToFront(*window);
+    window->open(paths);
+}
+
+void Desktop::loadPlanningAtStart() {
+    const Preferences& preferences = m_workspace.preferences();
+    if (!preferences.boolean("autoloadPlanning"))
+        return;
+    if (preferences.boolean("autoloadPlanningOnline")) {
+        auto* window = new PlanningWindow(m_workspace, m_autosave);
+        window->startNew(placeForCopy(rememberedEntry(m_workspace)));
+        show(window);
+        loadRememberedPlanning(*window, m_workspace);
+        return;
+    }
+    const auto url = preferences.url("autoloadPlanningURL");
+    const QString path = url ? QUrl(QString::fromStdString(*url)).toLocalFile() : QString();
+    if (!path.isEmpty())
+        (void)openIn(*toolFor(OpensAs::Planning), path);
+}
+
+void Desktop::showPlanningCopy(const QByteArray& content, const QString& name) {
+    auto* window = new PlanningWindow(m_workspace, m_autosave);
+    if (window->showCopy(content, placeForCopy(tr("%1 (on the server)").arg(name)))) {
+        show(window);
+        return;
+    }
+    delete window;
+    m_workspace.showAlert({"", tr("What the server has is no planning.").toStdString()}, front());
 }
 
 void Desktop::openSettings() {

@@ -2,25 +2,24 @@
 
 #include "desktop/opened_as.h"
 #include "desktop/shell/autosave.h"
+#include "desktop/shell/tool_window.h"
 #include "desktop/shell/wheel_guard.h"
 #include "desktop/shell/workspace.h"
 
 #include <QPointer>
+#include <QSet>
 
-#include <functional>
 #include <optional>
 
 namespace kavela::desktop {
 
 class CrossWindow;
-struct DocumentChoice;
-struct DocumentKind;
-class EditorWindow;
 class MotionWindow;
 class HomeWindow;
 class RaceWindow;
 class TakingDocument;
 class TakingWindow;
+struct ToolKind;
 
 /// The desktop program: the home screen, and for each opened file the window of its tool.
 class Desktop : public QObject {
@@ -48,55 +47,42 @@ public:
     /// cross: the other one closes first, when the coach decides about unsaved work. One that stays
     /// open keeps the file.
     CrossWindow* openCross(const QString& path);
-    /// Opens a team or a selection; false, after an alert, when it cannot be opened.
-    bool openTeam(const QString& path);
-    bool openSelection(const QString& path);
-    bool openPlanning(const QString& path);
-    bool openTests(const QString& path);
+    /// Opens a file in a tool, or raises the window that has it; false, after an alert, when it
+    /// cannot be opened there.
+    bool openIn(const ToolKind& tool, const QString& path);
     /// Opens raw recordings beside each other, in the window that has some where there is one.
     void openRecordings(const QStringList& paths);
-    bool openSession(const QString& path);
-    bool openTestSession(const QString& path);
     /// Opens the planning that the preferences name, where they ask for one.
     void loadPlanningAtStart();
-    /// Opens what an earlier session left unsaved, each after asking.
+    /// Opens what an earlier session left unsaved, each after asking, in the tool that it was edited
+    /// with, whether it was ever saved or not.
     void offerRecovery();
 
-    [[nodiscard]] bool hasWindows() const;
     /// The windows that are open, in the order of their opening.
-    [[nodiscard]] QList<RaceWindow*> raceWindows() const;
-    [[nodiscard]] QList<TakingWindow*> takingWindows() const;
-    [[nodiscard]] QList<CrossWindow*> crossWindows() const;
-    /// The windows of the other tools, which edit a file each.
-    [[nodiscard]] QList<EditorWindow*> editorWindows() const;
-    /// The window of raw recordings; null when there is none.
-    [[nodiscard]] MotionWindow* motionWindow() const;
+    [[nodiscard]] QList<ToolWindow*> windows() const;
+    /// Those of a tool.
+    template <class Window>
+    [[nodiscard]] QList<Window*> windowsOf() const {
+        QList<Window*> found;
+        for (ToolWindow* const window : windows())
+            if (auto* const it = qobject_cast<Window*>(window))
+                found.append(it);
+        return found;
+    }
 
 private:
-    void chooseRace();
-    void chooseFilms();
-    void chooseCross();
-    void openCrosses(const QStringList& paths);
-    void chooseTeam();
-    void chooseSelection();
-    void choosePlanning();
-    void loadOnlinePlanning();
+    /// Lets the coach choose what a tool is to open or begin.
+    void choose(const ToolKind& tool);
+    void chooseDocument(const ToolKind& tool);
+    [[nodiscard]] ToolWindow* make(const ToolKind& tool);
     /// A planning of the server in a window of its own.
     void showPlanningCopy(const QByteArray& content, const QString& name);
-    void chooseTests();
-    void chooseRecordings();
-    void chooseSession();
-    /// Asks for a document to open, or for the name of a new one.
-    [[nodiscard]] DocumentChoice chooseDocument(const DocumentKind& kind) const;
-    /// Opens a chosen document, or begins a new one.
-    template <class Window>
-    void chooseEditor(const DocumentKind& kind,
-                      const std::function<void(Window&, const QString&)>& begin);
-    template <class Window>
-    bool openEditor(const QString& path);
-    /// Shows a window that edits a file, and follows what it asks for.
-    void show(EditorWindow* window);
-    [[nodiscard]] bool isShown(const QString& path);
+    /// Shows a window, and follows what it asks for.
+    void show(ToolWindow* window);
+    void connectTool(ToolWindow& window);
+    /// Brings the window to the front that edits a file; false when none does.
+    [[nodiscard]] bool raiseEditorOf(const QString& path);
+    void recover(const Autosave::Found& found);
     /// A new window for the split file or folder, which none edits; null, after a message, when it
     /// cannot be opened.
     TakingWindow* showTaking(const QString& path);
@@ -110,25 +96,20 @@ private:
     /// The split files of a folder; told when there are none.
     [[nodiscard]] QStringList racesIn(const QString& folder);
     [[nodiscard]] QStringList notShownAmong(const QStringList& races);
-    void openInTool(const QString& path, OpensAs kind);
+    void openByContent(const QString& path, OpensAs kind);
     /// Takes lists and tracks of other devices into the session in front, or into a new one.
     void openImports(const QStringList& paths);
     void showInAnalyzer(const TakingDocument& document);
     /// The races among files and folders; what is not one is told.
     [[nodiscard]] QStringList racesAmong(const QStringList& paths);
     void rememberSession();
-    /// Remembers what is left once a window is gone.
-    void rememberWithout(const QWidget* window);
     [[nodiscard]] QWidget* front() const;
 
     Workspace& m_workspace;
     WheelGuard m_wheelGuard;
     QPointer<HomeWindow> m_home;
-    QList<QPointer<RaceWindow>> m_races;
-    QList<QPointer<TakingWindow>> m_takings;
-    QList<QPointer<CrossWindow>> m_crosses;
-    QList<QPointer<EditorWindow>> m_editors;
-    QPointer<MotionWindow> m_motion;
+    QList<QPointer<ToolWindow>> m_windows;
+    QSet<QString> m_opening; ///< canonical: files that a window is reading right now
     Autosave m_autosave;
 };
 

@@ -99,13 +99,6 @@ const RaceSet* shownRace(const QList<RaceWindow*>& windows, const QString& path)
 
 } // namespace
 
-void Desktop::chooseFilms() {
-    const QString folder =
-        QFileDialog::getExistingDirectory(front(), tr("Open a folder of videos"));
-    if (!folder.isEmpty())
-        (void)openTaking(folder);
-}
-
 /// A film alone stands for the run that it shows, among the films of its folder.
 void Desktop::openFilm(const QString& path) {
     TakingWindow* const window = openTaking(QFileInfo(path).absolutePath());
@@ -121,11 +114,11 @@ void Desktop::openFilm(const QString& path) {
 }
 
 TakingWindow* Desktop::openTaking(const QString& path) {
-    if (TakingWindow* const open = windowOf(takingWindows(), path)) {
+    if (TakingWindow* const open = windowOf(windowsOf<TakingWindow>(), path)) {
         bringToFront(*open);
         return open;
     }
-    CrossWindow* const cross = windowOf(crossWindows(), path);
+    CrossWindow* const cross = windowOf(windowsOf<CrossWindow>(), path);
     if (!cross)
         return showTaking(path);
     const QEventLoopLocker running; // also between the two windows
@@ -144,19 +137,14 @@ TakingWindow* Desktop::showTaking(const QString& path) {
         delete window;
         return nullptr;
     }
-    connect(window, &TakingWindow::homeRequested, this, &Desktop::showHome);
-    connect(window, &TakingWindow::settingsRequested, this, &Desktop::openSettings);
     connect(window, &TakingWindow::analysisRequested, this,
             [this, window] { showInAnalyzer(window->document()); });
     connect(window, &TakingWindow::crossRequested, this, &Desktop::openCross);
-    connect(window, &TakingWindow::filesRequested, this, [this](const QStringList& files) {
+    connect(window, &TakingWindow::openRequested, this, [this](const QStringList& files) {
         for (const QString& file : files)
             (void)openTaking(file);
     });
-    rememberWithout(window);
-    m_takings.append(window);
-    window->show();
-    rememberSession();
+    show(window);
     return window;
 }
 
@@ -169,30 +157,23 @@ void Desktop::showInAnalyzer(const TakingDocument& document) {
     };
     const QStringList paths = window->paths();
     const auto known = std::ranges::find_if(paths, isIt);
-    window->showRace(document.content(), known == paths.end() ? document.path() : *known,
+    window->showRace(document.finished(), known == paths.end() ? document.path() : *known,
                      document.isDirty()
                          ? tr("As it is in split taking now. The file does not hold all of it yet.")
                          : QString());
-    if (!shown)
-        m_races.append(window);
-    window->show();
+    if (shown)
+        rememberSession();
+    else
+        show(window);
     bringToFront(*window);
-    rememberSession();
-}
-
-void Desktop::chooseCross() {
-    const QString file = QFileDialog::getOpenFileName(front(), tr("Open a kayak cross"), QString(),
-                                                      tr("Split files (*.kvx);;All files (*)"));
-    if (!file.isEmpty())
-        (void)openCross(file);
 }
 
 CrossWindow* Desktop::openCross(const QString& path) {
-    if (CrossWindow* const open = windowOf(crossWindows(), path)) {
+    if (CrossWindow* const open = windowOf(windowsOf<CrossWindow>(), path)) {
         bringToFront(*open);
         return open;
     }
-    TakingWindow* const taking = windowOf(takingWindows(), path);
+    TakingWindow* const taking = windowOf(windowsOf<TakingWindow>(), path);
     if (!taking)
         return showCross(path);
     const QEventLoopLocker running; // also between the two windows
@@ -211,37 +192,16 @@ CrossWindow* Desktop::showCross(const QString& path) {
         delete window;
         return nullptr;
     }
-    connect(window, &CrossWindow::homeRequested, this, &Desktop::showHome);
-    connect(window, &CrossWindow::settingsRequested, this, &Desktop::openSettings);
     connect(window, &CrossWindow::analysisRequested, this,
             [this, window] { showInAnalyzer(window->document()); });
     connect(window, &CrossWindow::takingRequested, this, &Desktop::openTaking);
-    connect(window, &CrossWindow::filesRequested, this, &Desktop::openCrosses);
-    rememberWithout(window);
-    m_crosses.append(window);
-    window->show();
-    rememberSession();
+    connect(window, &CrossWindow::openRequested, this, [this](const QStringList& paths) {
+        for (const QString& file : paths) // split files and folders open as crosses
+            QFileInfo(file).isDir() || QFileInfo(file).suffix() == "kvx" ? (void)openCross(file)
+                                                                         : open(file);
+    });
+    show(window);
     return window;
-}
-
-/// Split files and folders open as crosses, other files in their tools.
-void Desktop::openCrosses(const QStringList& paths) {
-    for (const QString& path : paths) {
-        const QFileInfo info(path);
-        if (info.isDir() || info.suffix() == "kvx")
-            (void)openCross(path);
-        else
-            open(path);
-    }
-}
-
-/// One that was closed is there until the event loop gets to it, but edits nothing any more.
-QList<CrossWindow*> Desktop::crossWindows() const {
-    QList<CrossWindow*> open;
-    for (const auto& cross : m_crosses)
-        if (cross && !cross->isHidden())
-            open.append(cross);
-    return open;
 }
 
 /// The moment behind a time of the analyzer, in the film it was taken from.
@@ -249,7 +209,7 @@ void Desktop::showMoment(const QString& path, int run, std::size_t split) {
     TakingWindow* const window = openTaking(path);
     if (!window)
         return;
-    const RaceSet* const race = shownRace(raceWindows(), path);
+    const RaceSet* const race = shownRace(windowsOf<RaceWindow>(), path);
     const auto saved = static_cast<std::size_t>(run);
     if (race && saved < race->alldata.size()) {
         const analyzerdata& wanted = race->alldata[saved];
@@ -266,14 +226,6 @@ void Desktop::showMoment(const QString& path, int run, std::size_t split) {
     }
     window->selectRun(run);
     window->goToMark(split);
-}
-
-QList<TakingWindow*> Desktop::takingWindows() const {
-    QList<TakingWindow*> open;
-    for (const auto& taking : m_takings)
-        if (taking && !taking->isHidden())
-            open.append(taking);
-    return open;
 }
 
 } // namespace kavela::desktop

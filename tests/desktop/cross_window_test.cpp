@@ -395,14 +395,14 @@ TEST_F(CrossWindowTest, EditsAFileInOneWindowAtATimeAndOpensItAtTheNextStart) {
     ASSERT_TRUE(window);
     EXPECT_EQ(program.openCross(path()), window);
     emit window->takingRequested(path());
-    EXPECT_TRUE(QTest::qWaitFor([&] { return program.crossWindows().isEmpty(); }, Patience));
-    ASSERT_THAT(program.takingWindows(), SizeIs(1));
-    emit program.takingWindows().front()->crossRequested(path());
-    EXPECT_TRUE(QTest::qWaitFor([&] { return program.takingWindows().isEmpty(); }, Patience));
-    ASSERT_THAT(program.crossWindows(), SizeIs(1));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return program.windowsOf<CrossWindow>().isEmpty(); }, Patience));
+    ASSERT_THAT(program.windowsOf<desktop::TakingWindow>(), SizeIs(1));
+    emit program.windowsOf<desktop::TakingWindow>().front()->crossRequested(path());
+    EXPECT_TRUE(QTest::qWaitFor([&] { return program.windowsOf<desktop::TakingWindow>().isEmpty(); }, Patience));
+    ASSERT_THAT(program.windowsOf<CrossWindow>(), SizeIs(1));
     desktop::Desktop next(m_workspace, autosave());
     EXPECT_TRUE(next.restoreSession());
-    EXPECT_THAT(next.crossWindows(), SizeIs(1));
+    EXPECT_THAT(next.windowsOf<CrossWindow>(), SizeIs(1));
 }
 
 TEST_F(CrossWindowTest, BeginsARaceOnAFolderOfFilms) {

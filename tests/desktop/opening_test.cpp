@@ -80,9 +80,9 @@ protected:
     static QString text(const fs::path& path) { return QString::fromStdString(path.string()); }
 
     [[nodiscard]] desktop::SessionWindow* session() const {
-        return m_program.editorWindows().isEmpty()
+        return m_program.windows().isEmpty()
                    ? nullptr
-                   : qobject_cast<desktop::SessionWindow*>(m_program.editorWindows().front());
+                   : qobject_cast<desktop::SessionWindow*>(m_program.windows().front());
     }
 
     TempFolder m_folder;
@@ -110,8 +110,8 @@ TEST_F(OpeningTest, TakesAPhonesListAndAWatchsTrackIntoASession) {
     ASSERT_THAT(m_recorder.alerts, ::testing::Not(IsEmpty()));
     EXPECT_THAT(m_recorder.alerts.back(), HasSubstr("positions and"))
         << "the track joins the recording, though it was named first";
-    EXPECT_THAT(m_program.editorWindows(), SizeIs(1));
-    EXPECT_THAT(m_program.raceWindows(), IsEmpty());
+    EXPECT_THAT(m_program.windows(), SizeIs(1));
+    EXPECT_THAT(m_program.windowsOf<desktop::RaceWindow>(), IsEmpty());
 }
 
 TEST_F(OpeningTest, SaysWhereATrackOrAListBelongsAndThatAFolderIsEmpty) {
@@ -122,7 +122,7 @@ TEST_F(OpeningTest, SaysWhereATrackOrAListBelongsAndThatAFolderIsEmpty) {
     EXPECT_THAT(m_recorder.alerts,
                 ElementsAre(HasSubstr("Import the recording of the boat first"),
                             HasSubstr("Import official results"), HasSubstr("no film")));
-    EXPECT_THAT(m_program.raceWindows(), IsEmpty());
+    EXPECT_THAT(m_program.windowsOf<desktop::RaceWindow>(), IsEmpty());
 }
 
 TEST_F(OpeningTest, NamesTheFileThatCannotBeReadAndTheReason) {
@@ -143,8 +143,8 @@ TEST_F(OpeningTest, OpensAFilmWithItsFolderAndItsRunInFront) {
     for (const char* film : {"Ada Berg.mov", "Bea Dahl.mov"})
         (void)m_folder.add(std::string("day1/") + film, "no film yet");
     m_program.open(text(m_folder.path() / "day1" / "Bea Dahl.mov"));
-    ASSERT_THAT(m_program.takingWindows(), SizeIs(1));
-    desktop::TakingWindow* const window = m_program.takingWindows().front();
+    ASSERT_THAT(m_program.windowsOf<desktop::TakingWindow>(), SizeIs(1));
+    desktop::TakingWindow* const window = m_program.windowsOf<desktop::TakingWindow>().front();
     ASSERT_EQ(window->document().runCount(), 2);
     EXPECT_THAT(window->document().run(window->currentRun()).videoname,
                 ElementsAre("Bea Dahl.mov"));
@@ -156,18 +156,18 @@ TEST_F(OpeningTest, ShowsARaceThatIsOpenInsteadOfASecondWindowOfIt) {
     fs::create_symlink(race, m_folder.path() / "link.kvx");
     m_program.open(text(race));
     m_program.open(example("races/spring_opener.kvx"));
-    ASSERT_THAT(m_program.raceWindows(), SizeIs(2));
+    ASSERT_THAT(m_program.windowsOf<desktop::RaceWindow>(), SizeIs(2));
     m_program.open(text(race));
     m_program.open(text(m_folder.path() / "link.kvx"));
-    EXPECT_THAT(m_program.raceWindows(), SizeIs(2));
+    EXPECT_THAT(m_program.windowsOf<desktop::RaceWindow>(), SizeIs(2));
 
     desktop::TakingWindow* const taking = m_program.openTaking(text(race));
     ASSERT_TRUE(taking);
     taking->document().editRun(0, "crew", [](athletedata031& run) { run.names = {"Ada Neumann"}; });
     ASSERT_TRUE(taking->document().save(taking));
     emit taking->analysisRequested();
-    EXPECT_THAT(m_program.raceWindows(), SizeIs(2));
-    const desktop::RaceWindow* const shown = m_program.raceWindows().front();
+    EXPECT_THAT(m_program.windowsOf<desktop::RaceWindow>(), SizeIs(2));
+    const desktop::RaceWindow* const shown = m_program.windowsOf<desktop::RaceWindow>().front();
     EXPECT_EQ(shown->views().size(), 1U);
     EXPECT_TRUE(
         std::ranges::any_of(shown->document().wholeSet().alldata,

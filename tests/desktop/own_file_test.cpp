@@ -43,7 +43,7 @@ TEST_F(OwnFileTest, HoldsTheWorkOnceItWasExportedOntoItself) {
     rename("Nova");
     fs::last_write_time(folder() / "films.kvx",
                         fs::file_time_type::clock::now() - std::chrono::hours(1));
-    ASSERT_TRUE(m_window->document().exportTo(file(), false, false, nullptr));
+    ASSERT_TRUE(m_window->document().exportTo(file(), {false, false}, nullptr));
     EXPECT_FALSE(m_window->document().isDirty());
     EXPECT_THAT(m_asked, SizeIs(1)) << "whether to write over the file";
     rename("Zora");

@@ -109,16 +109,16 @@ TEST_F(RaceWindowTest, OpensEverySplitFileOfAFolderByItsContent) {
     (void)copyOf(Examples / "races" / "highland_open.kvx");
     fs::rename(m_folder.path() / "highland_open.kvx", m_folder.path() / "renamed.txt");
     m_desktop.open(QString::fromStdString(m_folder.path().string()));
-    EXPECT_EQ(m_desktop.raceWindows().size(), 1);
+    EXPECT_EQ(m_desktop.windowsOf<desktop::RaceWindow>().size(), 1);
     EXPECT_TRUE(open(m_folder.path() / "renamed.txt"));
-    EXPECT_EQ(m_desktop.raceWindows().size(), 2);
+    EXPECT_EQ(m_desktop.windowsOf<desktop::RaceWindow>().size(), 2);
     int asked = 0;
     m_workspace.setAnswer([&](const Alert&) {
         ++asked;
         return false; // no conversion
     });
     m_desktop.open(QString::fromStdString((Examples / "recordings" / "old_phone_v4.kvb").string()));
-    EXPECT_EQ(m_desktop.raceWindows().size(), 2);
+    EXPECT_EQ(m_desktop.windowsOf<desktop::RaceWindow>().size(), 2);
     EXPECT_TRUE(QTest::qWaitFor([&] { return asked == 1; }));
 }
 
@@ -165,8 +165,8 @@ TEST_F(RaceWindowTest, LeadsFromHomeToAPdfByKeysAlone) {
             press(Qt::Key_Tab);
     press(Qt::Key_Down);
     press(Qt::Key_Return);
-    ASSERT_EQ(m_desktop.raceWindows().size(), 1);
-    const RaceWindow* const window = m_desktop.raceWindows().front();
+    ASSERT_EQ(m_desktop.windowsOf<desktop::RaceWindow>().size(), 1);
+    const RaceWindow* const window = m_desktop.windowsOf<desktop::RaceWindow>().front();
     press(Qt::Key_T);
     press(Qt::CTRL | Qt::Key_P);
     auto* const preview = window->findChild<desktop::ReportPreview*>();
@@ -216,8 +216,8 @@ TEST_F(RaceWindowTest, ShowsRacesOpenedTogetherAsTabsOrSideBySide) {
     m_desktop.openAll(
         {QString::fromStdString((Examples / "races" / "riverside_cup.kvx").string()),
          QString::fromStdString((Examples / "races" / "spring_opener.kvx").string())});
-    ASSERT_EQ(m_desktop.raceWindows().size(), 1);
-    RaceWindow* const window = m_desktop.raceWindows().front();
+    ASSERT_EQ(m_desktop.windowsOf<desktop::RaceWindow>().size(), 1);
+    RaceWindow* const window = m_desktop.windowsOf<desktop::RaceWindow>().front();
     ASSERT_EQ(window->views().size(), 2U);
     EXPECT_FALSE(window->views()[0]->isVisible());
     trigger(*window, Qt::Key_F8);
@@ -236,8 +236,8 @@ TEST_F(RaceWindowTest, ComesBackWithTheRacesThatWereOpen) {
     fs::remove(gone);
     Desktop next(m_workspace);
     EXPECT_TRUE(next.restoreSession());
-    ASSERT_EQ(next.raceWindows().size(), 1);
-    EXPECT_EQ(next.raceWindows()[0]->paths(), QStringList(kept));
+    ASSERT_EQ(next.windowsOf<desktop::RaceWindow>().size(), 1);
+    EXPECT_EQ(next.windowsOf<desktop::RaceWindow>()[0]->paths(), QStringList(kept));
     EXPECT_THAT(m_recorder.alerts, ::testing::IsEmpty());
 }
 

@@ -107,11 +107,7 @@ protected:
     }
 
     [[nodiscard]] QMainWindow* window() const {
-        if (!m_program->takingWindows().isEmpty())
-            return m_program->takingWindows().front();
-        if (!m_program->crossWindows().isEmpty())
-            return m_program->crossWindows().front();
-        return m_program->editorWindows().isEmpty() ? nullptr : m_program->editorWindows().front();
+        return m_program->windows().value(0);
     }
 
     void open(const QString& path) {

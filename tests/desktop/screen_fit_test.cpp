@@ -8,7 +8,7 @@
 #include "desktop/planning/planning_window.h"
 #include "desktop/race/race_window.h"
 #include "desktop/sessions/session_charts.h"
-#include "desktop/shell/editor_window.h"
+#include "desktop/shell/tool_window.h"
 #include "desktop/shell/key_bindings.h"
 #include "desktop/shell/key_overlay.h"
 #include "desktop/shell/settings_window.h"
@@ -133,7 +133,7 @@ TEST_F(ScreenFitTest, HoldsEveryWindowWithRoomForItsContentAndWithoutScrollingTh
             << leastOf(*main).width() << " x " << leastOf(*main).height();
     }
     EXPECT_EQ(windows, 10);
-    for (const desktop::EditorWindow* const window : program.editorWindows())
+    for (const desktop::ToolWindow* const window : program.windows())
         if (const auto* const charts = window->findChild<desktop::SessionCharts*>()) {
             EXPECT_GT(charts->width(), SmallScreen.width() / 2) << "what is looked at most";
         }

@@ -93,8 +93,8 @@ TEST_F(SharedFileTest, KnowsAFileThatIsOpenByAnyOfItsPaths) {
          {folder, folder / "", folder / ".." / "day1" / "day1.kvx", link, link / "day1.kvx"})
         EXPECT_EQ(m_program.openTaking(text(path)), window) << path;
     EXPECT_TRUE(m_program.openCross(text(folder)));
-    EXPECT_THAT(m_program.takingWindows(), IsEmpty());
-    EXPECT_THAT(m_program.crossWindows(), SizeIs(1));
+    EXPECT_THAT(m_program.windowsOf<TakingWindow>(), IsEmpty());
+    EXPECT_THAT(m_program.windowsOf<CrossWindow>(), SizeIs(1));
     EXPECT_THAT(m_recorder.alerts, IsEmpty());
 }
 
@@ -105,11 +105,11 @@ TEST_F(SharedFileTest, KnowsAFolderThatHasNoFileYet) {
     ASSERT_TRUE(window);
     EXPECT_EQ(m_program.openTaking(folder + '/'), window);
     emit window->crossRequested(window->document().path()); // never saved, nothing to save
-    ASSERT_THAT(m_program.crossWindows(), SizeIs(1));
-    EXPECT_THAT(m_program.crossWindows().front()->document().cross().timetrials, SizeIs(1));
-    EXPECT_THAT(m_program.takingWindows(), IsEmpty());
+    ASSERT_THAT(m_program.windowsOf<CrossWindow>(), SizeIs(1));
+    EXPECT_THAT(m_program.windowsOf<CrossWindow>().front()->document().cross().timetrials, SizeIs(1));
+    EXPECT_THAT(m_program.windowsOf<TakingWindow>(), IsEmpty());
     EXPECT_THAT(m_recorder.alerts, IsEmpty());
-    m_program.crossWindows().front()->document().undoStack().setClean();
+    m_program.windowsOf<CrossWindow>().front()->document().undoStack().setClean();
 }
 
 TEST_F(SharedFileTest, AsksForWhatIsStillBeingTypedBeforeTheOtherToolOpens) {
@@ -121,7 +121,7 @@ TEST_F(SharedFileTest, AsksForWhatIsStillBeingTypedBeforeTheOtherToolOpens) {
     ASSERT_TRUE(taking);
     EXPECT_THAT(m_questions, SizeIs(1));
     EXPECT_EQ(taking->document().cross().crossinfo.cat, "C1M");
-    EXPECT_THAT(m_program.crossWindows(), IsEmpty());
+    EXPECT_THAT(m_program.windowsOf<CrossWindow>(), IsEmpty());
     m_answer = false;
     taking->document().editInfo("title", [](infodata031& info) { info.title = "Given up"; });
     cross = m_program.openCross(text(file()));
@@ -138,8 +138,8 @@ TEST_F(SharedFileTest, LeavesTheFileToAWindowThatStaysOpen) {
     ASSERT_NO_FATAL_FAILURE(type(*cross, "courseGates", "x"));
     m_answer = false;
     EXPECT_FALSE(m_program.openTaking(text(file())));
-    EXPECT_THAT(m_program.crossWindows(), SizeIs(1));
-    EXPECT_THAT(m_program.takingWindows(), IsEmpty());
+    EXPECT_THAT(m_program.windowsOf<CrossWindow>(), SizeIs(1));
+    EXPECT_THAT(m_program.windowsOf<TakingWindow>(), IsEmpty());
     EXPECT_TRUE(cross->isVisible());
 }
 
@@ -150,8 +150,8 @@ TEST_F(SharedFileTest, OpensTheOldToolAgainWhereTheNewOneCannotBeOpened) {
     writeFileSafely(file(), "no split file");
     m_recorder.act = [&] { writeFileSafely(file(), content); };
     EXPECT_FALSE(m_program.openCross(text(file())));
-    EXPECT_THAT(m_program.takingWindows(), SizeIs(1));
-    EXPECT_THAT(m_program.crossWindows(), IsEmpty());
+    EXPECT_THAT(m_program.windowsOf<TakingWindow>(), SizeIs(1));
+    EXPECT_THAT(m_program.windowsOf<CrossWindow>(), IsEmpty());
     EXPECT_THAT(m_recorder.alerts, SizeIs(1));
 }
 
@@ -171,19 +171,19 @@ TEST_F(SharedFileTest, GoesOnWhileItsOnlyWindowGivesWayToAnother) {
         QTimer::singleShot(Later, [] { QApplication::exit(OnPurpose); });
     });
     EXPECT_EQ(QApplication::exec(), OnPurpose);
-    EXPECT_THAT(m_program.takingWindows(), SizeIs(1));
+    EXPECT_THAT(m_program.windowsOf<TakingWindow>(), SizeIs(1));
 }
 
 TEST_F(SharedFileTest, FindsTheRunOfATimeWhereSplitTakingHasItNow) {
     ASSERT_NO_FATAL_FAILURE(save());
     m_program.open(text(file()));
-    ASSERT_THAT(m_program.raceWindows(), SizeIs(1));
+    ASSERT_THAT(m_program.windowsOf<desktop::RaceWindow>(), SizeIs(1));
     TakingWindow* const taking = m_program.openTaking(text(file()));
     ASSERT_TRUE(taking);
     desktop::TakingDocument& document = taking->document();
     const auto show = [&](int run) {
         taking->selectRun(0);
-        emit m_program.raceWindows().front()->momentRequested(text(file()), run, 1);
+        emit m_program.windowsOf<desktop::RaceWindow>().front()->momentRequested(text(file()), run, 1);
         return document.run(taking->currentRun()).names.front();
     };
     EXPECT_EQ(show(3), "Dora");

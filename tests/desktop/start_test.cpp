@@ -22,7 +22,7 @@ namespace {
 namespace fs = std::filesystem;
 using desktop::Autosave;
 using desktop::Desktop;
-using desktop::EditorWindow;
+using desktop::ToolWindow;
 using desktop::Workspace;
 using ::testing::IsEmpty;
 using ::testing::SizeIs;
@@ -51,12 +51,12 @@ protected:
 struct Case {
     const char* name;
     const char* example;
-    std::function<bool(const EditorWindow*)> isItsTool;
+    std::function<bool(const ToolWindow*)> isItsTool;
 };
 
 template <class Window>
 Case tool(const char* name, const char* example) {
-    return {name, example, [](const EditorWindow* window) {
+    return {name, example, [](const ToolWindow* window) {
                 return qobject_cast<const Window*>(window) != nullptr;
             }};
 }
@@ -75,13 +75,13 @@ TEST_F(StartTest, OpensEachFileInItsToolWhateverItIsCalledAndAgainAtTheNextStart
         {
             Desktop program(m_workspace, autosave());
             program.open(renamed);
-            ASSERT_THAT(program.editorWindows(), SizeIs(1));
-            EXPECT_TRUE(each.isItsTool(program.editorWindows().front()));
+            ASSERT_THAT(program.windows(), SizeIs(1));
+            EXPECT_TRUE(each.isItsTool(program.windows().front()));
         }
         Desktop next(m_workspace, autosave());
         EXPECT_TRUE(next.restoreSession());
-        ASSERT_THAT(next.editorWindows(), SizeIs(1));
-        EXPECT_TRUE(each.isItsTool(next.editorWindows().front()));
+        ASSERT_THAT(next.windows(), SizeIs(1));
+        EXPECT_TRUE(each.isItsTool(next.windows().front()));
     }
     EXPECT_THAT(m_recorder.alerts, IsEmpty());
 }
@@ -89,8 +89,8 @@ TEST_F(StartTest, OpensEachFileInItsToolWhateverItIsCalledAndAgainAtTheNextStart
 TEST_F(StartTest, OpensASplitFileWithoutRunsAsItsKayakCross) {
     Desktop program(m_workspace, autosave());
     program.open(copied("races/harbour_cross.kvx"));
-    EXPECT_THAT(program.crossWindows(), SizeIs(1));
-    EXPECT_THAT(program.raceWindows(), IsEmpty());
+    EXPECT_THAT(program.windowsOf<desktop::CrossWindow>(), SizeIs(1));
+    EXPECT_THAT(program.windowsOf<desktop::RaceWindow>(), IsEmpty());
     EXPECT_THAT(m_recorder.alerts, IsEmpty());
 }
 
@@ -100,13 +100,13 @@ TEST_F(StartTest, OpensRecordingsBesideEachOtherAndAgainAtTheNextStart) {
     {
         Desktop program(m_workspace, autosave());
         program.openAll(files);
-        ASSERT_TRUE(program.motionWindow());
-        EXPECT_TRUE(QTest::qWaitFor([&] { return program.motionWindow()->paths().size() == 2; }));
+        ASSERT_TRUE(program.windowsOf<desktop::MotionWindow>().value(0));
+        EXPECT_TRUE(QTest::qWaitFor([&] { return program.windowsOf<desktop::MotionWindow>().value(0)->paths().size() == 2; }));
     }
     Desktop next(m_workspace, autosave());
     EXPECT_TRUE(next.restoreSession());
-    ASSERT_TRUE(next.motionWindow());
-    EXPECT_TRUE(QTest::qWaitFor([&] { return next.motionWindow()->paths() == files; }));
+    ASSERT_TRUE(next.windowsOf<desktop::MotionWindow>().value(0));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return next.windowsOf<desktop::MotionWindow>().value(0)->paths() == files; }));
     EXPECT_THAT(m_recorder.alerts, IsEmpty());
 }
 
@@ -119,7 +119,7 @@ TEST_F(StartTest, LoadsThePlanningThatThePreferencesName) {
             PreferenceUrl{QUrl::fromLocalFile(file).toString().toStdString()});
         Desktop program(m_workspace, autosave());
         program.loadPlanningAtStart();
-        return program.editorWindows().size();
+        return program.windows().size();
     };
     EXPECT_EQ(windowsWith(false, path), 0);
     EXPECT_EQ(windowsWith(true, path), 1);
@@ -134,8 +134,8 @@ TEST_F(StartTest, OffersAnOnlinePlanningAtStartOnlyFromASafeAddress) {
     m_workspace.remember("onlinePlanningAddress", {"http://127.0.0.1:1/plans", "", "Team"});
     Desktop program(m_workspace, autosave());
     program.loadPlanningAtStart();
-    ASSERT_THAT(program.editorWindows(), SizeIs(1));
-    QSignalSpy loaded(qobject_cast<desktop::PlanningWindow*>(program.editorWindows().front()),
+    ASSERT_THAT(program.windows(), SizeIs(1));
+    QSignalSpy loaded(qobject_cast<desktop::PlanningWindow*>(program.windows().front()),
                       &desktop::PlanningWindow::onlineLoaded);
     ASSERT_TRUE(loaded.wait());
     EXPECT_FALSE(loaded.front().front().toBool());

@@ -165,9 +165,9 @@ TEST_F(TakingRulesTest, ShowsInTheAnalyzerWhatIsNotSavedYet) {
     rename("Nova");
     rename("Zora");
     EXPECT_EQ(contentOf(folder() / "films.kvx"), saved) << "nothing is saved";
-    ASSERT_THAT(program.raceWindows(), SizeIs(1)) << "one analyzer for one race";
-    ASSERT_THAT(program.raceWindows()[0]->views(), SizeIs(1));
-    EXPECT_EQ(program.raceWindows()[0]->document().wholeSet().alldata[0].name, "Zora");
+    ASSERT_THAT(program.windowsOf<desktop::RaceWindow>(), SizeIs(1)) << "one analyzer for one race";
+    ASSERT_THAT(program.windowsOf<desktop::RaceWindow>()[0]->views(), SizeIs(1));
+    EXPECT_EQ(program.windowsOf<desktop::RaceWindow>()[0]->document().wholeSet().alldata[0].name, "Zora");
     taking->document().undoStack().setClean();
 }
 

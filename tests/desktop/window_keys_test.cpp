@@ -4,7 +4,7 @@
 #include "desktop/desktop.h"
 #include "desktop/motion/motion_window.h"
 #include "desktop/race/race_window.h"
-#include "desktop/shell/editor_window.h"
+#include "desktop/shell/tool_window.h"
 #include "desktop/shell/key_list.h"
 #include "desktop/taking/taking_window.h"
 

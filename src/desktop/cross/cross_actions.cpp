@@ -6,7 +6,6 @@
 #include "desktop/cross/results/results_page.h"
 #include "desktop/cross/trials/trial_page.h"
 #include "desktop/film/play_menu.h"
-#include "desktop/shell/help_menu.h"
 #include "desktop/shell/typing.h"
 #include "desktop/shell/workspace.h"
 
@@ -35,7 +34,7 @@ CrossActions::CrossActions(CrossWindow& window, Workspace& workspace)
     makeHeatMenu();
     makeViewMenu();
     new PlayMenu(window, window.deck(), window.sound(), workspace); // the window owns it
-    addHelpMenu(window, workspace, "cross", [this] { return athletes(); });
+    window.finishMenus([this] { return athletes(); });
     connect(&window, &CrossWindow::pageChanged, this, &CrossActions::showWhatCanBeDone);
 }
 
@@ -55,19 +54,13 @@ CrossActions::Act CrossActions::savedThen(std::function<void(const QString& path
 }
 
 void CrossActions::makeFileMenu() {
-    QMenu* const menu = m_window.menuBar()->addMenu(tr("&File"));
-    add(*menu, tr("&Open a split file…"), {QKeySequence::Open}, [this] {
-        const QStringList files = QFileDialog::getOpenFileNames(
-            &m_window, tr("Open a split file"), m_window.document().folder(),
-            tr("Split files (*.kvx);;All files (*)"));
-        if (!files.isEmpty())
-            emit m_window.filesRequested(files);
-    });
+    QMenu* const menu = m_window.makeFileMenu(
+        {tr("&Open a split file…"), [this] { chooseFiles(); }, tr("&Save data"), false});
     add(*menu, tr("Open a &folder of films…"), {}, [this] {
         const QString folder = QFileDialog::getExistingDirectory(
             &m_window, tr("Open a folder of films"), m_window.document().folder());
         if (!folder.isEmpty())
-            emit m_window.filesRequested({folder});
+            emit m_window.openRequested({folder});
     });
     add(*menu, tr("&Import films of time trials…"), {Qt::CTRL | Qt::Key_I},
         [this] { m_window.importFilms(); });
@@ -75,33 +68,24 @@ void CrossActions::makeFileMenu() {
         [this] { m_window.chooseFilm(); });
     add(*menu, tr("&Where are the films now?…"), {}, [this] { m_window.findFilms(); });
     menu->addSeparator();
-    add(*menu, tr("&Save data"), {QKeySequence::Save}, [this] { (void)m_window.save(); });
     add(*menu, tr("Split &taking of this race"), {Qt::CTRL | Qt::SHIFT | Qt::Key_R},
         savedThen([this](const QString& path) { emit m_window.takingRequested(path); }));
     add(*menu, tr("Show in the race &analyzer"), {Qt::CTRL | Qt::Key_R}, [this] {
         if (m_window.commit())
             emit m_window.analysisRequested();
     });
-    menu->addSeparator();
-    add(*menu, tr("&Home"), {Qt::CTRL | Qt::Key_H}, [this] { emit m_window.homeRequested(); });
-    add(*menu, tr("Se&ttings…"), {Qt::CTRL | Qt::Key_Comma},
-        [this] { emit m_window.settingsRequested(); });
-    add(*menu, tr("C&lose"), {QKeySequence::Close}, [this] { m_window.close(); });
+}
+
+void CrossActions::chooseFiles() {
+    const QStringList files = QFileDialog::getOpenFileNames(
+        &m_window, tr("Open a split file"), m_window.document().folder(),
+        tr("Split files (*.kvx);;All files (*)"));
+    if (!files.isEmpty())
+        emit m_window.openRequested(files);
 }
 
 void CrossActions::makeEditMenu() {
-    QMenu* const menu = m_window.menuBar()->addMenu(tr("&Edit"));
-    QUndoStack& stack = m_window.document().undoStack();
-    QAction* const undo = stack.createUndoAction(&m_window, tr("&Undo"));
-    undo->setShortcut(QKeySequence::Undo);
-    QAction* const redo = stack.createRedoAction(&m_window, tr("&Redo"));
-    redo->setShortcut(Qt::CTRL | Qt::SHIFT | Qt::Key_Z);
-    undo->disconnect(&stack); // what waits for its frame is taken first
-    redo->disconnect(&stack);
-    connect(undo, &QAction::triggered, &m_window, &CrossWindow::undo);
-    connect(redo, &QAction::triggered, &m_window, &CrossWindow::redo);
-    menu->addActions({undo, redo});
-    menu->addSeparator();
+    QMenu* const menu = m_window.makeEditMenu();
     add(*menu, tr("&Course of the cross race"), {Qt::CTRL | Qt::Key_G},
         [this] { m_window.course().toggle(); });
     add(*menu, tr("&Previous trial or heat"), {Qt::Key_Up}, [this] {

@@ -26,6 +26,7 @@ private:
     using Act = std::function<void()>;
 
     void makeFileMenu();
+    void chooseFiles();
     void makeEditMenu();
     void makeMarkMenu();
     void makeTrialMenu();

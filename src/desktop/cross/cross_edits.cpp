@@ -98,17 +98,6 @@ void CrossWindow::findFilms() {
         refuse(tr("Not found: %1.").arg(missing.join(", ")));
 }
 
-/// What waits for its frame is the last step.
-void CrossWindow::undo() {
-    m_deck->finishPresses();
-    m_document.undoStack().undo();
-}
-
-void CrossWindow::redo() {
-    m_deck->finishPresses();
-    m_document.undoStack().redo();
-}
-
 void CrossWindow::goToMark(std::size_t mark) {
     const auto marks = page().marks();
     if (mark >= marks.size())
@@ -142,7 +131,7 @@ void CrossWindow::stepMark(int step) {
 }
 
 QStringList CrossWindow::copied(const QStringList& files) {
-    return copiedIntoFolder(m_document.folder(), files, m_workspace, this);
+    return copiedIntoFolder(m_document.folder(), files, workspace(), this);
 }
 
 void CrossWindow::importFilms() {
@@ -161,12 +150,6 @@ void CrossWindow::chooseFilm() {
         m_chooseFiles(tr("Choose the film of the trial or heat"), videoFilter()).mid(0, 1);
     if (const QStringList names = copied(chosen); !names.isEmpty())
         page().setFilm(names.front());
-}
-
-bool CrossWindow::save() {
-    if (!commit())
-        return false; // what is wrong with the course is shown
-    return m_document.save(this);
 }
 
 } // namespace kavela::desktop

@@ -47,7 +47,7 @@ QLabel* quietLabel(const char* name) {
 } // namespace
 
 CrossWindow::CrossWindow(Workspace& workspace, Autosave autosave)
-    : m_workspace(workspace),
+    : ToolWindow(workspace, &m_document, {"cross", tr("kayak cross"), "kvx"}),
       m_document(workspace, std::move(autosave)),
       m_deck(new FilmDeck(FilmMemory::of(workspace), this)),
       m_sound(new FilmSound(*m_deck, this)),
@@ -57,8 +57,6 @@ CrossWindow::CrossWindow(Workspace& workspace, Autosave autosave)
       m_chooseFolder([this](const QString& title) {
           return QFileDialog::getExistingDirectory(this, title, m_document.folder());
       }) {
-    setAttribute(Qt::WA_DeleteOnClose);
-    setAcceptDrops(true);
     auto* whole = new QSplitter;
     whole->setContentsMargins(theme::LargeSpacing, theme::Spacing, theme::LargeSpacing,
                               theme::Spacing);
@@ -72,8 +70,6 @@ CrossWindow::CrossWindow(Workspace& workspace, Autosave autosave)
     m_actions = new CrossActions(*this, workspace);
     connectParts();
     showPageInFront();
-    resize(1280, 800);
-    rememberPlace(*this, workspace, "cross");
 }
 
 CrossWindow::~CrossWindow() {
@@ -83,7 +79,7 @@ CrossWindow::~CrossWindow() {
 }
 
 QWidget* CrossWindow::makePages() {
-    const CrossDesk desk{m_document, *m_deck, m_workspace};
+    const CrossDesk desk{m_document, *m_deck, workspace()};
     m_course = new CourseStrip(m_document);
     m_trials = new TrialPage(desk);
     m_heats = new HeatPage(desk);
@@ -228,8 +224,6 @@ void CrossWindow::showPageInFront() {
 }
 
 void CrossWindow::showDocument() {
-    setWindowTitle(m_document.title() + "[*] – " + tr("kayak cross") + " – Kavela");
-    setWindowModified(m_document.isDirty());
     m_course->refresh();
     page().refresh();
     showFilm();
@@ -256,7 +250,7 @@ void CrossWindow::showFilm() {
         const auto left = m_places.find(film);
         if (isThere && left != m_places.end())
             m_deck->seek(left->second);
-        else if (isThere && !marks.empty() && m_workspace.preferences().boolean("startinCMTime"))
+        else if (isThere && !marks.empty() && workspace().preferences().boolean("startinCMTime"))
             m_deck->seek(marks.front().stamp);
     }
     if (isThere)
@@ -322,30 +316,16 @@ void CrossWindow::showHealth() {
     m_health->setText(notes.join('\n'));
 }
 
-bool CrossWindow::commit() {
+bool CrossWindow::takePending() {
     m_deck->finishPresses();
     page().commit();
     return m_course->commit();
 }
 
-void CrossWindow::closeEvent(QCloseEvent* event) {
-    const bool isTaken =
-        commit() || m_workspace.ask({"", tr("What is typed for the course makes no sense and is "
-                                            "lost when the window closes.")
-                                             .toStdString()},
-                                    tr("Close all the same"), this);
-    event->setAccepted(isTaken && m_document.mayClose(this));
-}
-
-void CrossWindow::dragEnterEvent(QDragEnterEvent* event) {
-    acceptFiles(*event);
-}
-
-/// Films become trials, or the film of the heat in front.
-void CrossWindow::dropEvent(QDropEvent* event) {
+void CrossWindow::takeFiles(const QStringList& files) {
     QStringList films;
     QStringList others;
-    for (const QString& file : droppedFiles(*event))
+    for (const QString& file : files)
         (isVideoFile(QFileInfo(file).fileName().toStdString()) ? films : others).append(file);
     if (const QStringList names = copied(films); !names.isEmpty()) {
         if (&page() == static_cast<CrossPage*>(m_trials))
@@ -354,7 +334,7 @@ void CrossWindow::dropEvent(QDropEvent* event) {
             page().setFilm(names.front());
     }
     if (!others.isEmpty())
-        emit filesRequested(others);
+        emit openRequested(others);
 }
 
 } // namespace kavela::desktop

@@ -1,9 +1,8 @@
 #pragma once
 
 #include "desktop/cross/cross_page.h"
+#include "desktop/shell/tool_window.h"
 #include "desktop/taking/taking_document.h"
-
-#include <QMainWindow>
 
 #include <functional>
 #include <map>
@@ -25,7 +24,7 @@ class TrialPage;
 
 /// The kayak cross of a split file: time trials, heats and results to the left, the film of what is
 /// selected there with its marks to the right.
-class CrossWindow : public QMainWindow {
+class CrossWindow : public ToolWindow {
     Q_OBJECT
 
 public:
@@ -37,7 +36,7 @@ public:
 
     /// Opens a split file, or a folder of films: one without a split file begins a new race with a
     /// time trial for each film. False, after a message, when that failed.
-    [[nodiscard]] bool open(const QString& path);
+    [[nodiscard]] bool open(const QString& path) override;
 
     [[nodiscard]] TakingDocument& document() { return m_document; }
     [[nodiscard]] FilmDeck& deck() const { return *m_deck; }
@@ -64,11 +63,6 @@ public:
     void chooseFilm();
     /// Asks in which folder the films are now, and finds them there by their names.
     void findFilms();
-    void undo();
-    void redo();
-    bool save();
-    /// Takes what is being typed; false when it makes no sense, which is shown.
-    bool commit();
 
     /// Where files come from in place of the platform's dialogs, as in tests.
     using ChooseFiles = std::function<QStringList(const QString& title, const QString& filter)>;
@@ -78,17 +72,14 @@ public:
     void setChooseFolder(ChooseFolder choose) { m_chooseFolder = std::move(choose); }
 
 signals:
-    void homeRequested();
-    void settingsRequested();
     void pageChanged();
     void analysisRequested(); ///< of the document as it is now, saved or not
     void takingRequested(const QString& path);
-    void filesRequested(const QStringList& paths);
 
 protected:
-    void closeEvent(QCloseEvent* event) override;
-    void dragEnterEvent(QDragEnterEvent* event) override;
-    void dropEvent(QDropEvent* event) override;
+    /// Films become trials, or the film of the heat in front.
+    void takeFiles(const QStringList& paths) override;
+    [[nodiscard]] bool takePending() override;
 
 private:
     [[nodiscard]] QWidget* makePages();
@@ -108,7 +99,6 @@ private:
     void rememberFilmPlace();
     [[nodiscard]] QStringList copied(const QStringList& files);
 
-    Workspace& m_workspace;
     TakingDocument m_document;
     FilmDeck* m_deck;
     FilmSound* m_sound;

@@ -3,7 +3,6 @@
 #include "desktop/motion/motion_charts.h"
 #include "desktop/motion/motion_window.h"
 #include "desktop/motion/recording_list.h"
-#include "desktop/shell/help_menu.h"
 #include "desktop/shell/workspace.h"
 
 #include <QCoreApplication>
@@ -32,7 +31,7 @@ MotionActions::MotionActions(MotionWindow& window, Workspace& workspace)
     makeTimeMenu();
     makeChartMenu(*bar);
     window.addToolBar(bar);
-    addHelpMenu(window, workspace, "motion", [this] {
+    window.finishMenus([this] {
         Commands commands;
         const auto& all = m_window.recordings().all();
         for (std::size_t i = 0; i < all.size(); ++i)
@@ -58,22 +57,13 @@ QAction* MotionActions::add(QMenu& menu, const QString& text, const QKeySequence
 }
 
 void MotionActions::makeFileMenu() {
-    QMenu* menu = m_window.menuBar()->addMenu(tr("&File"));
     MotionWindow* const window = &m_window;
-    menu->addAction(tr("&Open recordings…"), QKeySequence::Open, window,
-                    &MotionWindow::chooseFiles);
-    menu->addAction(tr("&Home"), QKeySequence(Qt::CTRL | Qt::Key_H), window,
-                    &MotionWindow::homeRequested);
-    menu->addSeparator();
+    QMenu* menu =
+        window->makeFileMenu({tr("&Open recordings…"), [window] { window->chooseFiles(); }});
     add(
         *menu, tr("Save the &chart…"), QKeySequence(Qt::CTRL | Qt::Key_E),
         [window] { window->saveChart(window->charts().activeChart()); },
         [window] { return window->charts().activeChart() != nullptr; });
-    menu->addSeparator();
-    menu->addAction(tr("Se&ttings…"), QKeySequence(Qt::CTRL | Qt::Key_Comma), window,
-                    &MotionWindow::settingsRequested);
-    menu->addAction(tr("C&lose"), QKeySequence::Close, window, &QWidget::close);
-    menu->addAction(tr("&Quit"), QKeySequence::Quit, window, [] { QCoreApplication::quit(); });
 }
 
 void MotionActions::makeRecordingMenu() {

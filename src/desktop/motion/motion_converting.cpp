@@ -86,7 +86,7 @@ std::optional<std::filesystem::path> MotionWindow::askTarget(const MotionRecordi
         try {
             target = conversionTarget(source, name.toStdString());
         } catch (const std::invalid_argument& error) {
-            m_workspace.showAlert({conversion_messages::AskForName, error.what()}, this);
+            workspace().showAlert({conversion_messages::AskForName, error.what()}, this);
         }
     }
     return target;
@@ -106,7 +106,7 @@ void MotionWindow::showConverted(const Conversion& conversion) {
         m_openConverted->show();
         emit convertedTo(m_lastConverted);
     } else {
-        m_workspace.showAlert({conversion.message(), conversion.detail}, this);
+        workspace().showAlert({conversion.message(), conversion.detail}, this);
     }
     convertNext();
 }
@@ -126,8 +126,8 @@ void MotionWindow::saveChart(SensorChart* chart) {
         chart->save(path.toStdString());
         tell(tr("Saved %1").arg(QFileInfo(path).fileName()));
     } catch (const FileError& error) {
-        m_workspace.log()("Failed to create file");
-        m_workspace.showAlert({"Failed to create file", error.what()}, this);
+        workspace().log()("Failed to create file");
+        workspace().showAlert({"Failed to create file", error.what()}, this);
     }
 }
 

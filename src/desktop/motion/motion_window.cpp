@@ -26,16 +26,13 @@
 namespace kavela::desktop {
 
 MotionWindow::MotionWindow(Workspace& workspace)
-    : m_workspace(workspace), m_recordings(workspace.log()) {
-    setAttribute(Qt::WA_DeleteOnClose);
-    setAcceptDrops(true);
+    : ToolWindow(workspace, nullptr, {"motion", tr("Recordings"), "kvb"}),
+      m_recordings(workspace.log()) {
     makeParts();
     m_actions = new MotionActions(*this, workspace);
     connectParts();
     showChoice();
     showTitle();
-    resize(1280, 800);
-    rememberPlace(*this, workspace, "motion");
 }
 
 MotionWindow::~MotionWindow() {
@@ -56,7 +53,7 @@ void MotionWindow::makeParts() {
     splitter->addWidget(m_pages);
     splitter->setStretchFactor(1, 1);
     shareSizes(*splitter, {350, 930});
-    rememberSizes(*splitter, m_workspace, "motion");
+    rememberSizes(*splitter, workspace(), "motion");
     setCentralWidget(splitter);
     m_progress = new QProgressBar;
     m_progress->setMaximumWidth(180);
@@ -129,19 +126,19 @@ void MotionWindow::connectParts() {
     connect(
         &m_recordings, &MotionRecordings::refused, this,
         [this](const QString& path, const QString& reason) {
-            m_workspace.forgetRecentFile(path);
-            m_workspace.showAlert({conversion_messages::NotConverted, reason.toStdString()}, this);
+            workspace().forgetRecentFile(path);
+            workspace().showAlert({conversion_messages::NotConverted, reason.toStdString()}, this);
         });
     connect(
         &m_recordings, &MotionRecordings::refusedAsOlder, this,
         [this](const QString& path) {
-            if (const auto converted = convertOlderRecording(path, m_workspace, this))
+            if (const auto converted = convertOlderRecording(path, workspace(), this))
                 m_recordings.read({*converted});
         },
         // A question is no place to wait in for the recordings that are read meanwhile.
         Qt::QueuedConnection);
     connect(&m_recordings, &MotionRecordings::added, this, [this](std::size_t index) {
-        m_workspace.addRecentFile(
+        workspace().addRecentFile(
             QString::fromStdString(m_recordings.all()[index]->data.url.string()));
         m_list->choose(index);
     });
@@ -250,12 +247,13 @@ void MotionWindow::tell(const QString& text) {
     m_openConverted->hide();
 }
 
-void MotionWindow::dragEnterEvent(QDragEnterEvent* event) {
-    acceptFiles(*event);
+void MotionWindow::takeFiles(const QStringList& paths) {
+    open(paths);
 }
 
-void MotionWindow::dropEvent(QDropEvent* event) {
-    open(droppedFiles(*event));
+bool MotionWindow::open(const QString& path) {
+    open(QStringList(path));
+    return true;
 }
 
 } // namespace kavela::desktop

@@ -2,8 +2,7 @@
 
 #include "boatmotion/conversion.h"
 #include "desktop/motion/motion_recordings.h"
-
-#include <QMainWindow>
+#include "desktop/shell/tool_window.h"
 
 #include <functional>
 
@@ -24,7 +23,7 @@ class Workspace;
 
 /// The raw-data analyser: raw recordings laid over each other, and their conversion to processed
 /// sessions.
-class MotionWindow : public QMainWindow {
+class MotionWindow : public ToolWindow {
     Q_OBJECT
 
 public:
@@ -34,8 +33,10 @@ public:
     /// Reads recordings beside the interface and shows each when it is there; what cannot be read
     /// is told in an alert. Files of other kinds are handed on with openRequested().
     void open(const QStringList& paths);
+    /// The same for one; true, since it is told later what is wrong with it.
+    [[nodiscard]] bool open(const QString& path) override;
     /// The files of the recordings that are shown.
-    [[nodiscard]] QStringList paths() const;
+    [[nodiscard]] QStringList paths() const override;
 
     [[nodiscard]] MotionRecordings& recordings() { return m_recordings; }
     [[nodiscard]] MotionCharts& charts() const { return *m_charts; }
@@ -72,18 +73,13 @@ public:
     void setAskName(AskName ask) { m_askName = std::move(ask); }
 
 signals:
-    void homeRequested();
-    void settingsRequested();
-    /// Files that belong to other tools, or a converted session, are to be opened.
-    void openRequested(const QStringList& paths);
     /// A processed session was written.
     void convertedTo(const QString& path);
     /// Recordings were added or removed.
     void recordingsChanged();
 
 protected:
-    void dragEnterEvent(QDragEnterEvent* event) override;
-    void dropEvent(QDropEvent* event) override;
+    void takeFiles(const QStringList& paths) override;
 
 private:
     void makeParts();
@@ -101,7 +97,6 @@ private:
     void showConverted(const Conversion& conversion);
     void tell(const QString& text);
 
-    Workspace& m_workspace;
     MotionRecordings m_recordings;
     AskName m_askName;
     std::deque<MotionRecordings::Recording> m_toConvert;

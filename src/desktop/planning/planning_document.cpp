@@ -2,7 +2,6 @@
 
 #include "common/json_document.h"
 #include "common/json_encode.h"
-#include "common/kept_file.h"
 #include "desktop/shell/workspace.h"
 #include "planning/messages.h"
 #include "planning/planning_file.h"
@@ -16,7 +15,7 @@ bool PlanningDocument::open(const QString& path, QWidget* over) {
         reportIncompatible(found, workspace().log(), alerts);
         return false;
     }
-    m_isOlder = !found.isCurrent();
+    setOlderLayout(found.isCurrent() ? std::string() : PlanningExtension);
     m_withoutPlace = variabilityWithoutPlace(found);
     start(std::move(found.document), path, over);
     return true;
@@ -47,7 +46,7 @@ bool PlanningDocument::startFromText(const std::string& text, const QString& pat
 }
 
 void PlanningDocument::startNew(const QString& path, QWidget* over) {
-    m_isOlder = false;
+    setOlderLayout({});
     m_withoutPlace = 0;
     start({}, path, over);
 }
@@ -74,28 +73,8 @@ void PlanningDocument::editSeason(const PlannedSeason& place, const QString& wha
                     [&](athletesplanning_v6& athlete) { change(athlete.year[place.season]); });
 }
 
-/// The file of an older version is kept beside the new one; where that fails, nothing is written.
-bool PlanningDocument::save(QWidget* over) {
-    if (!m_isOlder)
-        return EditedValue::save(over);
-    if (!mayOverwrite(over))
-        return false;
-    if (keepPreviousFile(path().toStdString(), PlanningExtension, planning_messages::NotSaved,
-                         workspace().log())
-            .empty()) {
-        workspace().showAlert({planning_messages::NotSaved,
-                               tr("The file of the older version could not be kept beside the new "
-                                  "one, so that nothing was written.")
-                                   .toStdString()},
-                              over);
-        return false;
-    }
-    m_isOlder = !saveAs(path(), over);
-    return !m_isOlder;
-}
-
-std::string PlanningDocument::content() const {
-    return encode(value());
+PlanningDocument::Content PlanningDocument::contentNow() const {
+    return [plan = shared()] { return encode(*plan); };
 }
 
 bool PlanningDocument::recover(const std::string& content) {

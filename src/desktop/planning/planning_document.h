@@ -1,11 +1,17 @@
 #pragma once
 
-#include "desktop/shell/edited_file.h"
+#include "desktop/shell/document.h"
 #include "planning/planning_records.h"
 
 #include <optional>
 
 namespace kavela::desktop {
+
+template <>
+struct LargeParts<planningdatac_v6> {
+    static constexpr auto lists = std::tuple([](auto& plan) -> auto& { return plan.athletes; });
+    static constexpr auto wholes = std::tuple();
+};
 
 /// Which season of which athlete, by their places in the file.
 struct PlannedSeason {
@@ -16,12 +22,12 @@ struct PlannedSeason {
 };
 
 /// A planning file that is being edited. Saving asks before it replaces the file.
-class PlanningDocument : public EditedValue<planningdatac_v6> {
+class PlanningDocument : public Document<planningdatac_v6> {
     Q_OBJECT
 
 public:
-    using EditedValue::EditedValue;
-    ~PlanningDocument() override { keepWork(); }
+    using Document::Document;
+    ~PlanningDocument() override { keepPending(); }
 
     /// Opens a file of any version; one of an older version is converted in memory, and saving it
     /// first keeps the file as it was. False, after an alert, when no version decodes; the document
@@ -51,16 +57,13 @@ public:
     /// How many variability measurements of an older version found no place in this one.
     [[nodiscard]] std::size_t withoutPlace() const { return m_withoutPlace; }
 
-    [[nodiscard]] bool save(QWidget* over) override;
-
 protected:
-    [[nodiscard]] std::string content() const override;
+    [[nodiscard]] Content contentNow() const override;
     [[nodiscard]] bool recover(const std::string& content) override;
     [[nodiscard]] std::string failure() const override;
     [[nodiscard]] bool mayReplace(bool isChangedOnDisk, QWidget* over) const override;
 
 private:
-    bool m_isOlder = false; ///< the file on the disk is of an older version
     std::size_t m_withoutPlace = 0;
 };
 

@@ -60,9 +60,8 @@ void PlanningWindow::tellOnlineFault(const QString& reason) {
 }
 
 void PlanningWindow::saveOnline(const OnlineAddress& address, const QString& entry) {
-    if (!takeTyping(*this))
+    if (!commit())
         return;
-    commit();
     OnlineSaving::Files files;
     try {
         const auto beside = accessBeside(m_document->path());

@@ -47,7 +47,7 @@ PlanningWindow::PlanningWindow(Workspace& workspace, Autosave autosave)
                      std::make_unique<PlanningDocument>(workspace, std::move(autosave))) {}
 
 PlanningWindow::PlanningWindow(Workspace& workspace, std::unique_ptr<PlanningDocument> document)
-    : EditorWindow(workspace, *document, "planning", tr("Planning"), "planning"),
+    : ToolWindow(workspace, document.get(), {"planning", tr("Planning"), "planning"}),
       m_document(std::move(document)),
       m_states(workspace) {
     makeParts();
@@ -258,8 +258,9 @@ void PlanningWindow::takeFiles(const QStringList& paths) {
         emit openRequested(others);
 }
 
-void PlanningWindow::commit() {
+bool PlanningWindow::takePending() {
     m_plan->commit();
+    return true;
 }
 
 } // namespace kavela::desktop

@@ -3,7 +3,7 @@
 #include "desktop/planning/online/online_states.h"
 #include "desktop/planning/online/online_store.h"
 #include "desktop/planning/planning_document.h"
-#include "desktop/shell/editor_window.h"
+#include "desktop/shell/tool_window.h"
 
 class QTabWidget;
 
@@ -19,7 +19,7 @@ class RankingPanel;
 
 /// The planning of a group: every athlete's seasons with weeks, sessions and tests, goals, body and
 /// heart, gym, rankings and races, and the coach's favourite interval sessions.
-class PlanningWindow : public EditorWindow {
+class PlanningWindow : public ToolWindow {
     Q_OBJECT
 
 public:
@@ -29,7 +29,7 @@ public:
     /// False, after an alert, when the file cannot be opened; what is shown then stays.
     [[nodiscard]] bool open(const QString& path) override;
     /// A new planning; the path is where saving will propose to put it.
-    void startNew(const QString& path);
+    void startNew(const QString& path) override;
 
     [[nodiscard]] PlanningDocument& document() const { return *m_document; }
     [[nodiscard]] AthleteList& athletes() const { return *m_athletes; }
@@ -72,7 +72,7 @@ signals:
 
 protected:
     void takeFiles(const QStringList& paths) override;
-    void commit() override;
+    [[nodiscard]] bool takePending() override;
 
 private:
     PlanningWindow(Workspace& workspace, std::unique_ptr<PlanningDocument> document);

@@ -3,7 +3,6 @@
 #include "desktop/charts/chart_panel.h"
 #include "desktop/race/race_view.h"
 #include "desktop/race/race_window.h"
-#include "desktop/shell/help_menu.h"
 #include "desktop/shell/workspace.h"
 
 #include <QActionGroup>
@@ -21,7 +20,7 @@ RaceActions::RaceActions(RaceWindow& window, Workspace& workspace)
     makeCompareMenu();
     makeChartMenu();
     makeWindowMenu();
-    addHelpMenu(window, workspace, "race", [this] { return athletes(); });
+    window.finishMenus([this] { return athletes(); });
     connect(&m_workspace, &Workspace::preferenceChanged, this, &RaceActions::refresh);
 }
 
@@ -50,14 +49,11 @@ QAction* RaceActions::addSwitch(QMenu& menu, const QString& text, const QKeySequ
 }
 
 void RaceActions::makeFileMenu() {
-    QMenu* menu = m_window.menuBar()->addMenu(tr("&File"));
-    menu->addAction(tr("&Open…"), QKeySequence::Open, &m_window, [this] { chooseFiles(); });
+    QMenu* menu = m_window.makeFileMenu();
     add(*menu, tr("Open it &again"), QKeySequence(Qt::Key_F5),
         [](RaceView& view) { view.reload(); });
     menu->addAction(tr("Ti&me it on video"), QKeySequence(Qt::CTRL | Qt::Key_T), &m_window,
                     [this] { emit m_window.takingRequested(m_window.document().path()); });
-    menu->addAction(tr("&Home"), QKeySequence(Qt::CTRL | Qt::Key_H), &m_window,
-                    &RaceWindow::homeRequested);
     menu->addSeparator();
     add(*menu, tr("&Report: preview, PDF, print…"), QKeySequence::Print,
         [](RaceView& view) { view.previewReports(); });
@@ -65,19 +61,6 @@ void RaceActions::makeFileMenu() {
         [](RaceView& view) { view.saveCsv(); });
     add(*menu, tr("Cop&y the selected runs"), QKeySequence::Copy,
         [](RaceView& view) { view.copySelection(); });
-    menu->addSeparator();
-    menu->addAction(tr("Se&ttings…"), QKeySequence(Qt::CTRL | Qt::Key_Comma), &m_window,
-                    &RaceWindow::settingsRequested);
-    menu->addAction(tr("C&lose"), QKeySequence::Close, &m_window, &RaceWindow::closeView);
-    menu->addAction(tr("&Quit"), QKeySequence::Quit, &m_window, [] { QCoreApplication::quit(); });
-}
-
-void RaceActions::chooseFiles() {
-    const QString folder = QFileInfo(m_window.document().path()).path();
-    const QStringList files = QFileDialog::getOpenFileNames(
-        &m_window, tr("Open"), folder, tr("Split files (*.kvx);;All files (*)"));
-    if (!files.isEmpty())
-        emit m_window.filesRequested(files);
 }
 
 void RaceActions::makeContentMenu(QMenu& menu) {

@@ -42,7 +42,6 @@ private:
                        std::function<void(RaceView&, bool)> set);
     void addPreference(QMenu& menu, const QString& text, const QKeySequence& keys, const char* key);
     void addColourMode(QMenu& menu);
-    void chooseFiles();
     [[nodiscard]] Commands athletes() const;
 
     RaceWindow& m_window;

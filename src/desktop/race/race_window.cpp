@@ -21,9 +21,9 @@ constexpr int WidestTab = 260; // pixels: a file's name may be wider than the wi
 } // namespace
 
 RaceWindow::RaceWindow(Workspace& workspace)
-    : m_workspace(workspace), m_tabs(new QTabBar), m_splitter(new QSplitter) {
-    setAttribute(Qt::WA_DeleteOnClose);
-    setAcceptDrops(true);
+    : ToolWindow(workspace, nullptr, {"race", tr("Split files"), "kvx"}),
+      m_tabs(new QTabBar),
+      m_splitter(new QSplitter) {
     m_tabs->setDocumentMode(true);
     m_tabs->setExpanding(false);
     m_tabs->setTabsClosable(true);
@@ -44,8 +44,6 @@ RaceWindow::RaceWindow(Workspace& workspace)
     m_actions = new RaceActions(*this, workspace);
     connect(qApp, &QApplication::focusChanged, this,
             [this](const QWidget*, const QWidget* now) { followFocus(now); });
-    resize(1280, 800);
-    rememberPlace(*this, workspace, "race");
 }
 
 RaceWindow::~RaceWindow() {
@@ -58,7 +56,7 @@ RaceWindow::~RaceWindow() {
 bool RaceWindow::open(const QString& path) {
     if (showViewOf(path))
         return true;
-    auto* view = new RaceView(m_workspace);
+    auto* view = new RaceView(workspace());
     if (!view->open(path)) {
         delete view;
         return false;
@@ -68,9 +66,9 @@ bool RaceWindow::open(const QString& path) {
 }
 
 bool RaceWindow::showViewOf(const QString& path) {
-    const QString wanted = QFileInfo(path).absoluteFilePath();
+    const QString wanted = canonicalPath(path);
     for (std::size_t i = 0; i < m_views.size(); ++i)
-        if (m_views[i]->document().path() == wanted) {
+        if (canonicalPath(m_views[i]->document().path()) == wanted) {
             showView(static_cast<int>(i));
             return true;
         }
@@ -82,7 +80,7 @@ void RaceWindow::showRace(splittakerdata031 race, const QString& path, const QSt
         view().showRace(std::move(race), path, note);
         return;
     }
-    auto* const made = new RaceView(m_workspace);
+    auto* const made = new RaceView(workspace());
     made->showRace(std::move(race), path, note);
     addView(made);
 }
@@ -194,14 +192,6 @@ QStringList RaceWindow::paths() const {
     for (const RaceView* view : m_views)
         paths.append(view->document().path());
     return paths;
-}
-
-void RaceWindow::dragEnterEvent(QDragEnterEvent* event) {
-    acceptFiles(*event);
-}
-
-void RaceWindow::dropEvent(QDropEvent* event) {
-    emit filesRequested(droppedFiles(*event));
 }
 
 } // namespace kavela::desktop

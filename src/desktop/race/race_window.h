@@ -1,8 +1,7 @@
 #pragma once
 
+#include "desktop/shell/tool_window.h"
 #include "splitdata/document.h"
-
-#include <QMainWindow>
 
 #include <vector>
 
@@ -19,7 +18,7 @@ class SplitTableModel;
 class Workspace;
 
 /// The race analyzer: one or several races, as tabs or side by side.
-class RaceWindow : public QMainWindow {
+class RaceWindow : public ToolWindow {
     Q_OBJECT
 
 public:
@@ -28,7 +27,7 @@ public:
 
     /// Opens a split file in a tab of its own and shows it; a file that is open already is shown.
     /// False, after an alert, when it cannot be opened.
-    [[nodiscard]] bool open(const QString& path);
+    [[nodiscard]] bool open(const QString& path) override;
     /// Shows a race as it is being edited elsewhere, in the tab of its file or in one of its own.
     void showRace(splittakerdata031 race, const QString& path, const QString& note);
 
@@ -38,7 +37,7 @@ public:
     [[nodiscard]] const RaceDocument& document() const;
     [[nodiscard]] const SplitTableModel& model() const;
     [[nodiscard]] FrozenTable& table() const;
-    [[nodiscard]] QStringList paths() const;
+    [[nodiscard]] QStringList paths() const override;
 
     void showView(int index);
     void showNextView(int step);
@@ -48,10 +47,6 @@ public:
     void closeView();
 
 signals:
-    void homeRequested();
-    void settingsRequested();
-    /// Files dropped on the window, or chosen in it, to be opened here where they belong here.
-    void filesRequested(const QStringList& paths);
     void viewsChanged();
     /// The race in front is to be timed, or timed on.
     void takingRequested(const QString& path);
@@ -59,8 +54,7 @@ signals:
     void momentRequested(const QString& path, int run, std::size_t split);
 
 protected:
-    void dragEnterEvent(QDragEnterEvent* event) override;
-    void dropEvent(QDropEvent* event) override;
+    void closeFront() override { closeView(); }
 
 private:
     void addView(RaceView* view);
@@ -68,7 +62,6 @@ private:
     void showViews();
     void followFocus(const QWidget* focused);
 
-    Workspace& m_workspace;
     std::vector<RaceView*> m_views;
     int m_current = -1;
     bool m_isSideBySide = false;

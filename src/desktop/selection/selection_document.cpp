@@ -61,10 +61,12 @@ void SelectionDocument::setWhatIf(bool isOn) {
     emit changed();
 }
 
-std::string SelectionDocument::content() const {
-    selectionracesStruct_v3 document = value();
-    recomputeSelection(document, m_bonus);
-    return encode(document);
+SelectionDocument::Content SelectionDocument::contentNow() const {
+    return [selection = shared(), bonus = m_bonus] {
+        selectionracesStruct_v3 document = *selection;
+        recomputeSelection(document, bonus);
+        return encode(document);
+    };
 }
 
 bool SelectionDocument::recover(const std::string& content) {

@@ -1,22 +1,28 @@
 #pragma once
 
-#include "desktop/shell/edited_file.h"
+#include "desktop/shell/document.h"
 #include "results/selection_edit.h"
 #include "results/selection_ranking.h"
 #include "results/selection_records.h"
 
 namespace kavela::desktop {
 
+template <>
+struct LargeParts<selectionracesStruct_v3> {
+    static constexpr auto lists = std::tuple([](auto& races) -> auto& { return races.categories; });
+    static constexpr auto wholes = std::tuple();
+};
+
 /// A selection file that is being edited: percentages and scores always follow the results. The
 /// athletes stay in the order of the file while it is edited, so that the place of one is good for
 /// several edits; its content has them in the order of the score. In what-if mode edits go into a
 /// copy that is thrown away afterwards.
-class SelectionDocument : public EditedValue<selectionracesStruct_v3> {
+class SelectionDocument : public Document<selectionracesStruct_v3> {
     Q_OBJECT
 
 public:
-    using EditedValue::EditedValue;
-    ~SelectionDocument() override { keepWork(); }
+    using Document::Document;
+    ~SelectionDocument() override { keepPending(); }
 
     /// Opens a file of any layout; one of an older layout is rewritten, with its previous content
     /// kept. False, after an alert, when it cannot be opened.
@@ -41,7 +47,7 @@ public:
     void setWhatIf(bool isOn);
 
 protected:
-    [[nodiscard]] std::string content() const override;
+    [[nodiscard]] Content contentNow() const override;
     [[nodiscard]] bool recover(const std::string& content) override;
     [[nodiscard]] std::string failure() const override;
     void settle(selectionracesStruct_v3& value) override;

@@ -14,6 +14,7 @@
 #include <QComboBox>
 #include <QDialogButtonBox>
 #include <QHBoxLayout>
+#include <QDate>
 #include <QHeaderView>
 #include <QInputDialog>
 #include <QLabel>
@@ -38,7 +39,7 @@ QString qtText(const std::string& text) {
 } // namespace
 
 SelectionWindow::SelectionWindow(Workspace& workspace, Autosave autosave)
-    : EditorWindow(workspace, m_document, "selection", tr("Selection races"), "kvsr"),
+    : ToolWindow(workspace, &m_document, {"selection", tr("Selection races"), "kvsr"}),
       m_document(workspace, std::move(autosave)),
       m_model(m_document) {
     m_table = new EditOrder<QTableView>;
@@ -142,6 +143,10 @@ QWidget* SelectionWindow::makeBar() {
     for (QWidget* widget : std::initializer_list<QWidget*>{m_bonus, m_times, m_whatIf})
         row->addWidget(widget);
     return box;
+}
+
+void SelectionWindow::startNew(const QString& path) {
+    startNew(path, QDate::currentDate().year());
 }
 
 bool SelectionWindow::open(const QString& path) {
@@ -337,7 +342,7 @@ void SelectionWindow::takeFiles(const QStringList& paths) {
         if (const auto race = askForRace(tr("Results of which race?")))
             attachFiles(*race, splitFiles);
     if (!others.isEmpty())
-        EditorWindow::takeFiles(others);
+        ToolWindow::takeFiles(others);
 }
 
 } // namespace kavela::desktop

@@ -2,7 +2,7 @@
 
 #include "desktop/selection/ranking_model.h"
 #include "desktop/selection/selection_document.h"
-#include "desktop/shell/editor_window.h"
+#include "desktop/shell/tool_window.h"
 #include "results/selection_import.h"
 
 #include <QTimer>
@@ -19,7 +19,7 @@ class WhyPanel;
 
 /// Selection races: per category the ranking, live, with the reasons for it; races, athletes and
 /// results entered, imported or taken from split files; and a mode to try what would have been.
-class SelectionWindow : public EditorWindow {
+class SelectionWindow : public ToolWindow {
     Q_OBJECT
 
 public:
@@ -28,6 +28,8 @@ public:
 
     [[nodiscard]] bool open(const QString& path) override;
     void startNew(const QString& path, std::int64_t year);
+    /// Of the season that is on.
+    void startNew(const QString& path) override;
 
     [[nodiscard]] SelectionDocument& document() { return m_document; }
     [[nodiscard]] RankingModel& model() { return m_model; }

@@ -14,8 +14,8 @@ void SessionDocument::show(EditedSession session, const QString& path, QWidget* 
     start(std::move(session), path, over);
 }
 
-std::string SessionDocument::content() const {
-    return encode(value().session);
+SessionDocument::Content SessionDocument::contentNow() const {
+    return [edited = shared()] { return encode(edited->session); };
 }
 
 /// A recording that is open beside stays as it was read.

@@ -1,24 +1,33 @@
 #pragma once
 
 #include "boatmotion/session_editing.h"
-#include "desktop/shell/edited_file.h"
+#include "desktop/shell/document.h"
 
 namespace kavela::desktop {
 
+template <>
+struct LargeParts<EditedSession> {
+    static constexpr auto lists = std::tuple();
+    static constexpr auto wholes =
+        std::tuple([](auto& edited) -> auto& { return edited.session.strokesData; },
+                   [](auto& edited) -> auto& { return edited.session.heart; },
+                   [](auto& edited) -> auto& { return edited.session.gps; });
+};
+
 /// A session that is being worked on: a recording that was converted, or a processed session that
 /// was read. Its file is the processed session; the recording is saved apart.
-class SessionDocument : public EditedValue<EditedSession> {
+class SessionDocument : public Document<EditedSession> {
     Q_OBJECT
 
 public:
-    using EditedValue::EditedValue;
-    ~SessionDocument() override { keepWork(); }
+    using Document::Document;
+    ~SessionDocument() override { keepPending(); }
 
     /// The document is this session from now on, under a path that may not exist yet.
     void show(EditedSession session, const QString& path, QWidget* over);
 
 protected:
-    [[nodiscard]] std::string content() const override;
+    [[nodiscard]] Content contentNow() const override;
     [[nodiscard]] bool recover(const std::string& content) override;
 };
 

@@ -165,7 +165,7 @@ void SessionWindow::saveSegments() {
         return;
     }
     m_view->tables().setCurrentIndex(SessionTables::SegmentPage);
-    saveSession();
+    save();
 }
 
 } // namespace kavela::desktop

@@ -190,22 +190,13 @@ std::optional<bool> SessionWindow::askForPowerMeterData() {
 }
 
 /// Power-meter data that was left out is still here and in no file: it is work not saved.
-bool SessionWindow::tellWritten(bool isSaved) {
-    if (!isSaved)
-        return false;
+void SessionWindow::wasSaved() {
     tellSaved(m_document->path());
-    if (!m_document->value().powerMeter.empty()) {
-        m_document->undoStack().resetClean();
-        statusBar()->showMessage(tr("Saved without the power meter's data, which are still here."),
-                                 MessageMilliseconds);
-    }
-    return true;
-}
-
-bool SessionWindow::saveSession() {
-    if (!QFileInfo::exists(m_document->path()))
-        return saveSessionAs();
-    return mayWrite() && tellWritten(m_document->save(this));
+    if (m_document->value().powerMeter.empty())
+        return;
+    m_document->undoStack().resetClean();
+    statusBar()->showMessage(tr("Saved without the power meter's data, which are still here."),
+                             MessageMilliseconds);
 }
 
 QString SessionWindow::askWhereTo(const QString& title, const QString& filter,
@@ -219,15 +210,11 @@ QString SessionWindow::askWhereTo(const QString& title, const QString& filter,
     return dialog.selectedFiles().value(0);
 }
 
-bool SessionWindow::saveSessionAs() {
-    const QString path =
-        askWhereTo(tr("Save the session"), tr("Sessions (*.bms);;Sessions (*.sbm)"), "bms",
-                   m_document->path());
-    return !path.isEmpty() && saveSessionTo(path);
-}
-
 bool SessionWindow::saveSessionTo(const QString& path) {
-    return mayWrite() && tellWritten(m_document->saveAs(path, this));
+    if (!mayWrite() || !m_document->saveAs(path, this))
+        return false;
+    wasSaved();
+    return true;
 }
 
 void SessionWindow::tellSaved(const QString& path) {

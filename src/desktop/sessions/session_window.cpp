@@ -21,12 +21,11 @@ SessionWindow::SessionWindow(Workspace& workspace, Autosave autosave)
     : SessionWindow(workspace, std::make_unique<SessionDocument>(workspace, std::move(autosave))) {}
 
 SessionWindow::SessionWindow(Workspace& workspace, std::unique_ptr<SessionDocument> document)
-    : EditorWindow(workspace, *document, "session", tr("Session"), "bms"),
+    : ToolWindow(workspace, document.get(), {"session", tr("Session"), "bms", tr("Sessions (*.bms);;Sessions (*.sbm)")}),
       m_document(std::move(document)),
       m_replay(new Replay(this)) {
     makeParts();
     QMenu* const file = makeFileMenu();
-    replaceSaving(*file);
     makeSessionMenus(*this, *file, *makeEditMenu());
     finishMenus([] { return Commands(); });
     connect(m_document.get(), &SessionDocument::changed, this, &SessionWindow::showSession);
@@ -54,20 +53,6 @@ void SessionWindow::makeParts() {
     connect(m_view, &SessionView::keepRequested, this, &SessionWindow::keepSelection);
     connect(m_view, &SessionView::removeRequested, this, &SessionWindow::removeSelection);
     connect(m_view, &SessionView::informationRequested, this, &SessionWindow::editInformation);
-}
-
-/// Saving has its own questions here, and two extensions to choose from.
-void SessionWindow::replaceSaving(QMenu& file) {
-    const auto replace = [this](QAction* action, auto act) {
-        disconnect(action, &QAction::triggered, this, nullptr);
-        connect(action, &QAction::triggered, this, act);
-    };
-    for (QAction* const action : file.actions()) {
-        if (action->shortcut() == QKeySequence(QKeySequence::Save))
-            replace(action, [this] { saveSession(); });
-        else if (action->shortcut() == QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S))
-            replace(action, [this] { saveSessionAs(); });
-    }
 }
 
 bool SessionWindow::open(const QString& wanted) {
@@ -104,27 +89,15 @@ void SessionWindow::showSession() {
     m_pages->setCurrentIndex(hasSession() ? 1 : 0);
 }
 
-bool SessionWindow::mayLeave() {
-    if (!m_document->isDirty())
-        return true;
-    const auto choice = workspace().askToSave(m_document->fileName(), this);
-    if (choice == Workspace::Leaving::Stay ||
-        (choice == Workspace::Leaving::Save && !saveSession()))
-        return false;
-    if (choice == Workspace::Leaving::Discard)
-        m_document->discard();
-    return true;
-}
-
 void SessionWindow::closeEvent(QCloseEvent* event) {
-    if (m_isBusy || !mayLeave())
+    if (m_isBusy)
         event->ignore();
     else
-        event->accept();
+        ToolWindow::closeEvent(event);
 }
 
 void SessionWindow::changeEvent(QEvent* event) {
-    EditorWindow::changeEvent(event);
+    ToolWindow::changeEvent(event);
     if (event->type() == QEvent::WindowStateChange && m_view)
         m_view->setFullScreen(isFullScreen());
 }
@@ -135,7 +108,7 @@ void SessionWindow::placeOverlay() {
 }
 
 void SessionWindow::resizeEvent(QResizeEvent* event) {
-    EditorWindow::resizeEvent(event);
+    ToolWindow::resizeEvent(event);
     placeOverlay();
 }
 
@@ -154,7 +127,7 @@ void SessionWindow::dragLeaveEvent(QDragLeaveEvent* /*event*/) {
 
 void SessionWindow::dropEvent(QDropEvent* event) {
     m_overlay->hide();
-    EditorWindow::dropEvent(event);
+    ToolWindow::dropEvent(event);
 }
 
 /// The kind of a file decides, not the side it fell on.

@@ -3,7 +3,7 @@
 #include "desktop/imports/import_files.h"
 #include "desktop/sessions/session_document.h"
 #include "desktop/sessions/session_tables.h"
-#include "desktop/shell/editor_window.h"
+#include "desktop/shell/tool_window.h"
 
 class QStackedWidget;
 
@@ -15,7 +15,7 @@ class SessionView;
 
 /// Makes sessions out of recordings and shows them: import of raw recordings and processed
 /// sessions, cuts, segments, power-meter data, and the figures of it all.
-class SessionWindow : public EditorWindow {
+class SessionWindow : public ToolWindow {
     Q_OBJECT
 
 public:
@@ -26,7 +26,7 @@ public:
     /// after an alert, when it cannot be opened; what was open then stays.
     [[nodiscard]] bool open(const QString& wanted) override;
     /// An empty window, for files to be dropped on; work that was kept for this path is offered.
-    void startNew(const QString& path);
+    void startNew(const QString& path) override;
 
     [[nodiscard]] SessionDocument& document() const { return *m_document; }
     [[nodiscard]] SessionView& view() const { return *m_view; }
@@ -53,10 +53,8 @@ public:
     using AskPowerMeter = std::function<std::optional<bool>(const QString& question)>;
     /// Answers that in place of a message box, as in tests.
     void setAskPowerMeter(AskPowerMeter ask) { m_askPowerMeter = std::move(ask); }
-    /// Saves the session after what has to be asked or told before. False when it was not saved.
-    bool saveSession();
-    bool saveSessionAs();
-    /// The same without asking for a name.
+    /// Saves the session under a name, after what has to be asked or told before. False when it was
+    /// not saved.
     bool saveSessionTo(const QString& path);
     /// Writes what is left of the recording, with the information of the session.
     void askAndSaveRecording();
@@ -95,11 +93,12 @@ protected:
     void dragLeaveEvent(QDragLeaveEvent* event) override;
     void dropEvent(QDropEvent* event) override;
     void takeFiles(const QStringList& paths) override;
+    [[nodiscard]] bool mayWrite() override;
+    void wasSaved() override;
 
 private:
     SessionWindow(Workspace& workspace, std::unique_ptr<SessionDocument> document);
     void makeParts();
-    void replaceSaving(QMenu& file);
     void showSession();
     void placeOverlay();
     [[nodiscard]] bool read(QString& path, EditedSession& session);
@@ -122,10 +121,7 @@ private:
     void joinTrack(bmrawdata_v5 recording, WatchTrack track, const QString& what);
     [[nodiscard]] std::optional<double> askForOffset(const bmrawdata_v5& recording,
                                                      const WatchTrack& track);
-    [[nodiscard]] bool mayLeave();
-    [[nodiscard]] bool mayWrite();
     [[nodiscard]] std::optional<bool> askForPowerMeterData();
-    bool tellWritten(bool isSaved);
     [[nodiscard]] bool hasSession() const;
     [[nodiscard]] std::optional<std::size_t> markAtCursor() const;
     [[nodiscard]] bool hasMarkAt(double moment) const;

@@ -60,8 +60,8 @@ void TestSessionFile::show(varoTestAlldata session, const QString& path, QWidget
     start(std::move(session), path, over);
 }
 
-std::string TestSessionFile::content() const {
-    return encode(value());
+TestSessionFile::Content TestSessionFile::contentNow() const {
+    return [session = shared()] { return encode(*session); };
 }
 
 bool TestSessionFile::recover(const std::string& /*content*/) {
@@ -73,7 +73,7 @@ TestSessionWindow::TestSessionWindow(Workspace& workspace, Autosave autosave)
                         std::make_unique<TestSessionFile>(workspace, std::move(autosave))) {}
 
 TestSessionWindow::TestSessionWindow(Workspace& workspace, std::unique_ptr<TestSessionFile> file)
-    : EditorWindow(workspace, *file, "testsession", tr("Test session"), "*"),
+    : ToolWindow(workspace, file.get(), {"testsession", tr("Test session"), "*"}),
       m_session(std::move(file)) {
     makeParts();
     makeMenus();

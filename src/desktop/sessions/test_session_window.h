@@ -1,8 +1,8 @@
 #pragma once
 
 #include "boatmotion/sessions.h"
-#include "desktop/shell/edited_file.h"
-#include "desktop/shell/editor_window.h"
+#include "desktop/shell/document.h"
+#include "desktop/shell/tool_window.h"
 
 class QComboBox;
 class QLabel;
@@ -15,23 +15,23 @@ class GridModel;
 class SeriesChart;
 
 /// An on-water test session that is looked at: nothing in it changes.
-class TestSessionFile : public EditedValue<varoTestAlldata> {
+class TestSessionFile : public Document<varoTestAlldata> {
     Q_OBJECT
 
 public:
-    using EditedValue::EditedValue;
-    ~TestSessionFile() override { keepWork(); }
+    using Document::Document;
+    ~TestSessionFile() override { keepPending(); }
 
     void show(varoTestAlldata session, const QString& path, QWidget* over);
 
 protected:
-    [[nodiscard]] std::string content() const override;
+    [[nodiscard]] Content contentNow() const override;
     [[nodiscard]] bool recover(const std::string& content) override;
 };
 
 /// Shows the attempts of a test session: the stroke data of the chosen one by kind, its sprint data
 /// and the heart rate, as a chart and as a table.
-class TestSessionWindow : public EditorWindow {
+class TestSessionWindow : public ToolWindow {
     Q_OBJECT
 
 public:

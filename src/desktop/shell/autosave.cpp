@@ -2,17 +2,24 @@
 
 #include "common/error.h"
 #include "common/safe_file.h"
+#include "desktop/shell/disk_worker.h"
 
 #include <QCryptographicHash>
 #include <QDateTime>
 #include <QDir>
 #include <QFile>
 
+#include <array>
+#include <exception>
+#include <utility>
+
 namespace kavela::desktop {
 
 namespace {
 
 constexpr qsizetype MostPutAside = 20;
+
+constexpr std::array Parts{".work", ".path", ".tool"};
 
 std::optional<std::string> contentOf(const QString& path) {
     QFile file(path);
@@ -21,49 +28,79 @@ std::optional<std::string> contentOf(const QString& path) {
     return file.readAll().toStdString();
 }
 
+std::string reasonOf(const std::exception_ptr& fault) {
+    try {
+        std::rethrow_exception(fault);
+    } catch (const std::exception& error) {
+        return error.what();
+    }
+}
+
+/// The last few that were put aside stay.
+void moveAside(const QString& slot, const QString& aside) {
+    QDir().mkpath(aside);
+    const QString stamp = QDateTime::currentDateTimeUtc().toString("yyyyMMdd-hhmmsszzz");
+    for (const char* const part : Parts)
+        QFile::rename(slot + part, aside + '/' + stamp + part);
+    const QStringList kept = QDir(aside).entryList({"*.work"}, QDir::Files, QDir::Name);
+    for (qsizetype i = 0; i < kept.size() - MostPutAside; ++i)
+        for (const char* const part : Parts)
+            QFile::remove(aside + '/' + kept[i].chopped(5) + part);
+}
+
 } // namespace
 
-/// The content stands in SLOT.work, the document's path in SLOT.path.
+/// The content stands in SLOT.work, the document's path in SLOT.path, its tool in SLOT.tool.
 QString Autosave::slot(const QString& path) const {
     const QByteArray hash = QCryptographicHash::hash(path.toUtf8(), QCryptographicHash::Sha1);
     return m_folder + '/' + QString::fromLatin1(hash.toHex().left(16));
 }
 
-void Autosave::keep(const QString& path, const std::string& content) const {
-    if (!QDir().mkpath(m_folder))
-        throw FileError(m_folder.toStdString(), "the folder cannot be made");
-    writeFileSafely((slot(path) + ".path").toStdString(), path.toStdString());
-    writeFileSafely((slot(path) + ".work").toStdString(), content);
+void Autosave::keep(const QString& path, const QString& tool, Content content, QObject* context,
+                    Failed failed) const {
+    const auto write = [folder = m_folder, slot = slot(path), path, tool,
+                        content = std::move(content)] {
+        if (!QDir().mkpath(folder))
+            throw FileError(folder.toStdString(), "the folder cannot be made");
+        const std::string text = content();
+        writeFileSafely((slot + ".path").toStdString(), path.toStdString());
+        writeFileSafely((slot + ".tool").toStdString(), tool.toStdString());
+        writeFileSafely((slot + ".work").toStdString(), text);
+    };
+    disk::run(context, write, [failed = std::move(failed)](std::exception_ptr fault) {
+        if (fault)
+            failed(reasonOf(fault));
+    });
 }
 
 void Autosave::forget(const QString& path) const {
-    QFile::remove(slot(path) + ".work");
-    QFile::remove(slot(path) + ".path");
+    disk::run([slot = slot(path)] {
+        for (const char* const part : Parts)
+            QFile::remove(slot + part);
+    });
 }
 
 void Autosave::putAside(const QString& path) const {
-    const QString aside = m_folder + "/given up";
-    QDir().mkpath(aside);
-    const QString stamp = QDateTime::currentDateTimeUtc().toString("yyyyMMdd-hhmmsszzz");
-    QFile::rename(slot(path) + ".work", aside + '/' + stamp + ".work");
-    QFile::rename(slot(path) + ".path", aside + '/' + stamp + ".path");
-    const QStringList kept = QDir(aside).entryList(QDir::Files, QDir::Name);
-    for (qsizetype i = 0; i < kept.size() - 2 * MostPutAside; ++i)
-        QFile::remove(aside + '/' + kept[i]);
+    disk::run([folder = m_folder, slot = slot(path)] { moveAside(slot, folder + "/given up"); });
 }
 
 std::optional<std::string> Autosave::find(const QString& path) const {
+    disk::waitForAll();
     return contentOf(slot(path) + ".work");
 }
 
 std::vector<Autosave::Found> Autosave::all() const {
+    disk::waitForAll();
     std::vector<Found> found;
     for (const QString& name : QDir(m_folder).entryList({"*.work"}, QDir::Files, QDir::Time)) {
         const QString stem = m_folder + '/' + name.chopped(5);
         const auto path = contentOf(stem + ".path");
         auto content = contentOf(stem + ".work");
+        const auto tool = contentOf(stem + ".tool");
         if (path && content)
-            found.push_back({QString::fromStdString(*path), std::move(*content)});
+            found.push_back({QString::fromStdString(*path),
+                             QString::fromStdString(tool.value_or(std::string())),
+                             std::move(*content)});
     }
     return found;
 }

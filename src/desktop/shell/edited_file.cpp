@@ -1,25 +1,67 @@
 #include "desktop/shell/edited_file.h"
 
 #include "common/error.h"
+#include "common/kept_file.h"
 #include "common/safe_file.h"
+#include "desktop/shell/disk_worker.h"
+#include "desktop/shell/file_names.h"
 #include "desktop/shell/workspace.h"
 #include "splittaking/messages.h"
 
 #include <QFileInfo>
+#include <QPointer>
+#include <QWidget>
+
+#include <utility>
+#include <vector>
 
 namespace kavela::desktop {
 
 namespace {
 
+using FileTime = std::optional<std::filesystem::file_time_type>;
+
 constexpr int KeepAfterMilliseconds = 1000;
 
-std::optional<std::filesystem::file_time_type> lastWritten(const QString& path) {
+FileTime lastWritten(const std::filesystem::path& path) {
     std::error_code error;
-    const auto time = std::filesystem::last_write_time(path.toStdString(), error);
+    const auto time = std::filesystem::last_write_time(path, error);
     return error ? std::nullopt : std::optional(time);
 }
 
+std::string reasonOf(const std::exception_ptr& fault) {
+    try {
+        std::rethrow_exception(fault);
+    } catch (const FileError& error) {
+        return error.reason();
+    } catch (const std::exception& error) {
+        return error.what();
+    }
+}
+
+/// Runs a part of writing; what it throws is told later, on the interface thread.
+std::exception_ptr faultOf(const std::function<void()>& part) {
+    try {
+        part();
+        return nullptr;
+    } catch (...) {
+        return std::current_exception();
+    }
+}
+
 } // namespace
+
+struct EditedFile::Writing {
+    QString path;
+    unsigned edits = 0; ///< of the document as it is written
+    QPointer<QWidget> over;
+    Saved saved;
+    FileTime written;
+    std::exception_ptr fault;
+    std::exception_ptr besideFault;
+    bool isFinished = false;
+    std::vector<std::function<void()>> next; ///< asked for meanwhile
+};
 
 EditedFile::EditedFile(Workspace& workspace, Autosave autosave, QObject* parent)
     : QObject(parent), m_workspace(workspace), m_autosave(std::move(autosave)) {
@@ -31,15 +73,25 @@ EditedFile::EditedFile(Workspace& workspace, Autosave autosave, QObject* parent)
 
 EditedFile::~EditedFile() {
     m_undo.disconnect(); // it tells of its end, when the rest is gone already
+    m_workspace.openFiles().release(*this);
 }
 
 QString EditedFile::fileName() const {
     return QFileInfo(m_path).completeBaseName();
 }
 
+bool EditedFile::isNamed() const {
+    return m_isNamed || QFileInfo::exists(m_path);
+}
+
 void EditedFile::begin(const QString& path, QWidget* over) {
+    if (m_writing)
+        (void)waitFor(m_writing);
     m_keep.stop();
     m_path = QFileInfo(path).absoluteFilePath();
+    m_isNamed = false;
+    m_workspace.openFiles().hold(*this, m_path);
+    m_readTime = lastWritten(m_path.toStdString());
     watch();
     m_undo.clear();
     if (m_readTime)
@@ -50,13 +102,15 @@ void EditedFile::begin(const QString& path, QWidget* over) {
 void EditedFile::watch() {
     if (!m_watcher.files().isEmpty())
         m_watcher.removePaths(m_watcher.files());
-    m_readTime = lastWritten(m_path);
     if (m_readTime)
         m_watcher.addPath(m_path);
 }
 
+/// What is being written here is no news.
 void EditedFile::noticeDisk() {
-    const auto now = lastWritten(m_path);
+    if (m_writing)
+        return;
+    const auto now = lastWritten(m_path.toStdString());
     // A file that was replaced by renaming is watched no longer.
     if (now && m_watcher.files().isEmpty())
         m_watcher.addPath(m_path);
@@ -75,8 +129,20 @@ void EditedFile::offerRecovery(QWidget* over) {
         m_autosave.putAside(m_path);
 }
 
+void EditedFile::noteEdit() {
+    ++m_edits;
+    keepSoon();
+}
+
+/// Within a second, also of the first of many edits.
 void EditedFile::keepSoon() {
-    m_keep.start();
+    if (!m_keep.isActive())
+        m_keep.start();
+}
+
+void EditedFile::keepPending() {
+    if (m_keep.isActive())
+        keepWork();
 }
 
 void EditedFile::keepWork() {
@@ -87,15 +153,13 @@ void EditedFile::keepWork() {
         m_autosave.forget(m_path);
         return;
     }
-    try {
-        m_autosave.keep(m_path, content());
-    } catch (const std::exception& error) {
-        m_workspace.log()(std::string("The work could not be kept: ") + error.what());
-    }
+    m_autosave.keep(m_path, m_tool, keptContentNow(), this, [this](const std::string& reason) {
+        m_workspace.log()("The work could not be kept: " + reason);
+    });
 }
 
 bool EditedFile::mayOverwrite(QWidget* over) const {
-    const auto now = lastWritten(m_path);
+    const auto now = lastWritten(m_path.toStdString());
     return !now || mayReplace(now != m_readTime, over);
 }
 
@@ -116,37 +180,151 @@ void EditedFile::tellUnreadable(const QString& path, const std::string& reason,
         {tr("“%1” cannot be opened").arg(QFileInfo(path).fileName()).toStdString(), reason}, over);
 }
 
-bool EditedFile::write(const QString& path, QWidget* over) {
-    std::string reason;
-    try {
-        writeFileSafely(path.toStdString(), content());
-        return true;
-    } catch (const FileError& error) {
-        reason = error.reason();
-    } catch (const EncodeError& error) {
-        reason = error.what();
-    }
+void EditedFile::tellNotWritten(const std::string& reason, QWidget* over) const {
     m_workspace.log()(failure());
     m_workspace.log()(reason);
     m_workspace.showAlert({failure(), reason}, over);
+}
+
+bool EditedFile::written(const std::function<void()>& write, QWidget* over) const {
+    const std::exception_ptr fault = faultOf(write);
+    if (fault)
+        tellNotWritten(reasonOf(fault), over);
+    return !fault;
+}
+
+/// A file that another window edits would be taken from under it.
+bool EditedFile::mayWriteTo(const QString& path, QWidget* over) {
+    if (!mayWrite(over))
+        return false;
+    if (canonicalPath(path) == canonicalPath(m_path))
+        return mayOverwrite(over) && keepOlderLayout(path, over);
+    const EditedFile* const holder = m_workspace.openFiles().holderOf(path);
+    if (!holder || holder == this)
+        return true;
+    tellNotWritten(tr("“%1” is open in another window. Close it there first, or take another name.")
+                       .arg(QFileInfo(path).fileName())
+                       .toStdString(),
+                   over);
     return false;
 }
 
+/// Where it cannot be kept, nothing is written.
+bool EditedFile::keepOlderLayout(const QString& path, QWidget* over) {
+    if (m_olderLayout.empty() || !QFileInfo::exists(path))
+        return true;
+    if (!keepPreviousFile(path.toStdString(), m_olderLayout, failure(), m_workspace.log()).empty())
+        return true;
+    m_workspace.showAlert({failure(), tr("The file of the older version could not be kept beside "
+                                         "the new one, so that nothing was written.")
+                                          .toStdString()},
+                          over);
+    return false;
+}
+
+std::shared_ptr<EditedFile::Writing> EditedFile::write(const QString& path, QWidget* over,
+                                                       Saved saved) {
+    auto writing = std::make_shared<Writing>();
+    writing->path = path;
+    writing->edits = m_edits;
+    writing->over = over;
+    writing->saved = std::move(saved);
+    m_writing = writing;
+    const auto task = [writing, content = contentNow(), beside = besideNow()] {
+        const std::filesystem::path file = writing->path.toStdString();
+        writing->fault = faultOf([&] { writeFileSafely(file, content()); });
+        writing->written = lastWritten(file);
+        if (!writing->fault && beside)
+            writing->besideFault = faultOf([&] { beside(file); });
+    };
+    disk::run(this, task, [this, writing](const std::exception_ptr&) { (void)finish(*writing); });
+    emit savingChanged();
+    return writing;
+}
+
+/// True when the file was written. Who waited for it was here first.
+bool EditedFile::finish(Writing& writing) {
+    const bool isSaved = !writing.fault;
+    if (writing.isFinished)
+        return isSaved;
+    writing.isFinished = true;
+    m_writing.reset();
+    if (isSaved)
+        noteWritten(writing);
+    emit savingChanged();
+    for (const std::exception_ptr& fault : {writing.fault, writing.besideFault})
+        if (fault)
+            tellNotWritten(reasonOf(fault), writing.over);
+    if (writing.saved)
+        writing.saved(isSaved);
+    for (const auto& next : std::exchange(writing.next, {}))
+        next();
+    return isSaved;
+}
+
+bool EditedFile::waitFor(const std::shared_ptr<Writing>& writing) {
+    const std::shared_ptr<Writing> held = writing;
+    disk::waitForAll();
+    return finish(*held);
+}
+
+void EditedFile::noteWritten(const Writing& writing) {
+    m_autosave.forget(m_path);
+    m_path = QFileInfo(writing.path).absoluteFilePath();
+    m_isNamed = true;
+    m_olderLayout.clear();
+    m_workspace.openFiles().hold(*this, m_path);
+    m_readTime = writing.written;
+    watch();
+    if (m_edits == writing.edits)
+        m_undo.setClean();
+    keepWork(); // forgets it, but for what was edited since or has no place in the file
+    m_workspace.addRecentFile(m_path);
+    emit saved();
+}
+
+void EditedFile::saveBeside(QWidget* over, Saved saved) {
+    saveAsBeside(m_path, over, std::move(saved));
+}
+
+void EditedFile::saveAsBeside(const QString& path, QWidget* over, Saved saved) {
+    if (m_writing) {
+        m_writing->next.push_back([this, path, window = QPointer(over), saved = std::move(saved)] {
+            saveAsBeside(path, window, saved);
+        });
+        return;
+    }
+    if (mayWriteTo(path, over))
+        (void)write(path, over, std::move(saved));
+    else if (saved)
+        saved(false);
+}
+
 bool EditedFile::save(QWidget* over) {
-    return mayOverwrite(over) && saveAs(m_path, over);
+    return saveAs(m_path, over);
 }
 
 bool EditedFile::saveAs(const QString& path, QWidget* over) {
-    if (!write(path, over))
-        return false;
-    m_autosave.forget(m_path);
-    m_path = QFileInfo(path).absoluteFilePath();
-    watch();
-    m_undo.setClean();
-    m_keep.stop();
-    m_workspace.addRecentFile(m_path);
-    emit saved();
-    return true;
+    if (m_writing)
+        (void)waitFor(m_writing);
+    return mayWriteTo(path, over) && waitFor(write(path, over, {}));
+}
+
+bool EditedFile::mayLeave(QWidget* over, const std::function<bool()>& save) {
+    if (m_writing)
+        (void)waitFor(m_writing);
+    if (m_undo.isClean())
+        return mayLeaveMore(over);
+    switch (m_workspace.askToSave(title(), over)) {
+    case Workspace::Leaving::Save:
+        return save() && mayLeaveMore(over);
+    case Workspace::Leaving::Discard:
+        discard();
+        return true;
+    case Workspace::Leaving::Stay:
+        break;
+    }
+    return false;
 }
 
 void EditedFile::discard() {

@@ -7,6 +7,7 @@
 #include <QTimer>
 #include <QUndoStack>
 
+#include <exception>
 #include <filesystem>
 #include <functional>
 #include <memory>
@@ -20,7 +21,8 @@ namespace kavela::desktop {
 class Workspace;
 
 /// A file that is being edited. Every edit can be undone, is kept apart from the file within a
-/// second, and reaches the file only when it is saved.
+/// second, and reaches the file only when it is saved. Both are written beside the interface, which
+/// never waits for a disk but where work is left.
 class EditedFile : public QObject {
     Q_OBJECT
 
@@ -30,14 +32,35 @@ public:
 
     [[nodiscard]] const QString& path() const { return m_path; }
     [[nodiscard]] QString fileName() const;
-    [[nodiscard]] bool isDirty() const { return !m_undo.isClean(); }
+    /// What the coach calls it where unsaved work is asked for.
+    [[nodiscard]] virtual QString title() const { return fileName(); }
+    [[nodiscard]] bool isDirty() const { return !m_undo.isClean() || holdsMore(); }
     [[nodiscard]] QUndoStack& undoStack() { return m_undo; }
 
-    /// Writes the file; asks before it replaces what another program wrote meanwhile. False, after
-    /// a message, when it was not written; the work then stays as it is.
-    [[nodiscard]] virtual bool save(QWidget* over);
-    /// The same under another name, which the document has from then on.
+    /// With which tool it is edited: kept beside unsaved work, which is recovered there.
+    void setTool(const QString& tool) { m_tool = tool; }
+    /// The path was chosen by the coach: saving need not ask for one, though no file is there yet.
+    void setNamed() { m_isNamed = true; }
+    [[nodiscard]] bool isNamed() const;
+
+    /// Hears how saving ended, on the interface thread.
+    using Saved = std::function<void(bool isSaved)>;
+
+    /// Writes the file; asks before it replaces what another program wrote meanwhile, and tells
+    /// when it cannot be written: the work then stays as it is, unsaved. The window goes on
+    /// meanwhile; what is edited after the call is not in the file.
+    void saveBeside(QWidget* over, Saved saved = {});
+    /// The same, for whom the answer is needed now. False when it was not written.
+    [[nodiscard]] bool save(QWidget* over);
+    /// The same under another name, which the document has from then on. Refused where another
+    /// window edits that file.
     [[nodiscard]] bool saveAs(const QString& path, QWidget* over);
+    void saveAsBeside(const QString& path, QWidget* over, Saved saved = {});
+    [[nodiscard]] bool isSaving() const { return m_writing != nullptr; }
+
+    /// Whether the document may give way to another one, or to none: asks what becomes of unsaved
+    /// work, and does it. `save` is how the window saves, which may have to ask for a name.
+    [[nodiscard]] bool mayLeave(QWidget* over, const std::function<bool()>& save);
     /// Gives up what was not saved; it stays aside for a change of mind.
     void discard();
     /// Keeps the work now, as before the program ends.
@@ -46,33 +69,68 @@ public:
 signals:
     void changed();
     void saved();
+    /// Writing began or ended.
+    void savingChanged();
     /// Another program wrote the file, or took it away, since it was read or saved here.
     void changedElsewhere();
 
 protected:
-    /// The document as its file holds it. Throws EncodeError.
-    [[nodiscard]] virtual std::string content() const = 0;
+    /// Makes the document as its file holds it. It runs on another thread and maybe when the
+    /// document is gone: it holds the value itself. May throw EncodeError.
+    using Content = Autosave::Content;
+    [[nodiscard]] virtual Content contentNow() const = 0;
+    /// The same as it is kept apart, where that is more than the file has a place for.
+    [[nodiscard]] virtual Content keptContentNow() const { return contentNow(); }
+    /// Writes what belongs beside the file, such as lists, once the file itself is there. It runs
+    /// as Content does; empty for nothing.
+    using Beside = std::function<void(const std::filesystem::path& file)>;
+    [[nodiscard]] virtual Beside besideNow() const { return {}; }
     /// Starts from recovered work instead of what the file holds; false when it is none.
     [[nodiscard]] virtual bool recover(const std::string& content) = 0;
+    /// Whether there is work for which the file has no place.
+    [[nodiscard]] virtual bool holdsMore() const { return false; }
+    /// Asks about that before it is left; it stays in the automatic save.
+    [[nodiscard]] virtual bool mayLeaveMore(QWidget* /*over*/) { return true; }
+    /// Whether there is anything to write; tells when there is not.
+    [[nodiscard]] virtual bool mayWrite(QWidget* /*over*/) { return true; }
     /// What to tell when the file cannot be written.
     [[nodiscard]] virtual std::string failure() const { return "Failed to create file"; }
 
     /// Asks before a file that exists is replaced, where that needs a question; by default only
     /// when another program changed it since it was read.
     [[nodiscard]] virtual bool mayReplace(bool isChangedOnDisk, QWidget* over) const;
-    [[nodiscard]] bool mayOverwrite(QWidget* over) const;
+
+    /// The file was read in an older layout: before it is replaced, whichever way it is saved, it
+    /// is kept beside the new one under a name with this extension. Without one it is current.
+    void setOlderLayout(std::string extension) { m_olderLayout = std::move(extension); }
 
     /// Tells that a file could not be opened, and why.
     void tellUnreadable(const QString& path, const std::string& reason, QWidget* over) const;
+    void tellNotWritten(const std::string& reason, QWidget* over) const;
+    /// Writes something at once; false, after a message, when that failed.
+    [[nodiscard]] bool written(const std::function<void()>& write, QWidget* over) const;
 
     /// A document is open under a path that may not exist yet. Unsaved work is offered.
     void begin(const QString& path, QWidget* over);
-    void keepSoon();
+    /// The document is another one than before.
+    void noteEdit();
+    /// Keeps what the next second would have kept, before the document goes.
+    void keepPending();
     [[nodiscard]] Workspace& workspace() const { return m_workspace; }
 
 private:
-    [[nodiscard]] bool write(const QString& path, QWidget* over);
+    /// A file that is being written.
+    struct Writing;
+
+    [[nodiscard]] std::shared_ptr<Writing> write(const QString& path, QWidget* over, Saved saved);
+    [[nodiscard]] bool mayWriteTo(const QString& path, QWidget* over);
+    [[nodiscard]] bool keepOlderLayout(const QString& path, QWidget* over);
+    [[nodiscard]] bool mayOverwrite(QWidget* over) const;
+    bool finish(Writing& writing);
+    [[nodiscard]] bool waitFor(const std::shared_ptr<Writing>& writing);
+    void noteWritten(const Writing& writing);
     void offerRecovery(QWidget* over);
+    void keepSoon();
     void watch();
     void noticeDisk();
 
@@ -82,68 +140,12 @@ private:
     QTimer m_keep;
     QFileSystemWatcher m_watcher;
     QString m_path;
+    QString m_tool;
+    bool m_isNamed = false;
+    unsigned m_edits = 0; ///< tells one state of the document from the next
+    std::string m_olderLayout;
     std::optional<std::filesystem::file_time_type> m_readTime;
-};
-
-/// An edited file that holds one value. Steps of the undo stack share it as long as it is the same.
-/// A document that derives from it calls keepWork() in its destructor: only it can still write.
-template <class Value>
-class EditedValue : public EditedFile {
-public:
-    using EditedFile::EditedFile;
-
-    [[nodiscard]] const Value& value() const { return *m_value; }
-
-    /// One step of the undo stack; `what` names it there.
-    void edit(const QString& what, const std::function<void(Value&)>& change) {
-        auto after = std::make_shared<Value>(*m_value);
-        change(*after);
-        settle(*after);
-        undoStack().push(new Step(*this, what, m_value, std::move(after)));
-        keepSoon();
-    }
-
-protected:
-    /// Brings what follows from the rest up to date, after every edit.
-    virtual void settle(Value& /*value*/) {}
-
-    void start(Value value, const QString& path, QWidget* over) {
-        startFrom(std::move(value));
-        begin(path, over);
-        emit changed();
-    }
-
-    /// No step of the undo stack leads behind this value.
-    void startFrom(Value value) {
-        settle(value);
-        m_value = std::make_shared<Value>(std::move(value));
-    }
-
-private:
-    class Step : public QUndoCommand {
-    public:
-        Step(EditedValue& document, const QString& what, std::shared_ptr<const Value> before,
-             std::shared_ptr<const Value> after)
-            : QUndoCommand(what),
-              m_document(document),
-              m_before(std::move(before)),
-              m_after(std::move(after)) {}
-        void undo() override { m_document.show(m_before); }
-        void redo() override { m_document.show(m_after); }
-
-    private:
-        EditedValue& m_document;
-        std::shared_ptr<const Value> m_before;
-        std::shared_ptr<const Value> m_after;
-    };
-
-    void show(std::shared_ptr<const Value> value) {
-        m_value = std::move(value);
-        keepSoon();
-        emit changed();
-    }
-
-    std::shared_ptr<const Value> m_value = std::make_shared<Value>();
+    std::shared_ptr<Writing> m_writing;
 };
 
 } // namespace kavela::desktop

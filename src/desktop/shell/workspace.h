@@ -4,6 +4,7 @@
 #include "common/alerts.h"
 #include "common/log.h"
 #include "common/reference_date.h"
+#include "desktop/shell/open_files.h"
 
 #include <QObject>
 #include <QStringList>
@@ -40,6 +41,9 @@ public:
     /// open files. Empty where nothing was remembered.
     [[nodiscard]] QStringList remembered(const QString& key) const;
     void remember(const QString& key, const QStringList& values);
+
+    /// The files that are being edited.
+    [[nodiscard]] OpenFiles& openFiles() { return m_openFiles; }
 
     /// Alerts go to this instead of message boxes, as in tests.
     void setAlerts(Alerts* alerts) { m_alerts = alerts; }
@@ -78,6 +82,7 @@ private:
     Preferences m_preferences;
     DiagnosticLog m_log;
     Clock m_clock;
+    OpenFiles m_openFiles;
     Alerts* m_alerts = nullptr;
     Answer m_answer;
     Choice m_choice;

@@ -2,7 +2,6 @@
 
 #include "desktop/film/film_deck.h"
 #include "desktop/film/play_menu.h"
-#include "desktop/shell/help_menu.h"
 #include "desktop/shell/typing.h"
 #include "desktop/shell/workspace.h"
 #include "desktop/taking/notes/note_actions.h"
@@ -33,7 +32,7 @@ TakingActions::TakingActions(TakingWindow& window, Workspace& workspace)
     addNoteMenu(window, window.notes());
     new PlayMenu(window, window.deck(), window.sound(), workspace); // the window owns it
     makeCameraMenu();
-    addHelpMenu(window, workspace, "taking", [this] { return athletes(); });
+    window.finishMenus([this] { return athletes(); });
 }
 
 QAction* TakingActions::add(QMenu& menu, const QString& text, const QList<QKeySequence>& shortcuts,
@@ -45,8 +44,8 @@ QAction* TakingActions::add(QMenu& menu, const QString& text, const QList<QKeySe
 }
 
 void TakingActions::makeFileMenu() {
-    QMenu* menu = m_window.menuBar()->addMenu(tr("&File"));
-    add(*menu, tr("&Open a folder of videos…"), {QKeySequence::Open}, [this] { chooseFolder(); });
+    QMenu* menu = m_window.makeFileMenu({tr("&Open a folder of videos…"), [this] { chooseFolder(); },
+                                         tr("&Save data"), false});
     add(*menu, tr("Import &video…"), {keys(Qt::CTRL | Qt::Key_I)},
         [this] { m_window.importVideos(); });
     add(*menu, tr("Import split &file…"), {}, [this] { m_window.importSplitFile(); });
@@ -56,50 +55,31 @@ void TakingActions::makeFileMenu() {
     m_ofRun.push_back(add(*menu, tr("Run s&heet: preview, PDF, print…"), {QKeySequence::Print},
                           [this] { previewRunSheet(m_window, m_workspace); }));
     menu->addSeparator();
-    add(*menu, tr("&Save data"), {QKeySequence::Save}, [this] { m_window.save(); });
     add(*menu, tr("&Export data…"), {keys(Qt::CTRL | Qt::Key_E)},
         [this] { m_window.exportData(); });
     add(*menu, tr("Show in the race &analyzer"), {keys(Qt::CTRL | Qt::Key_R)}, [this] {
-        m_window.commit(); // what is typed is shown too; nothing is saved
-        emit m_window.analysisRequested();
+        if (m_window.commit()) // what is typed is shown too; nothing is saved
+            emit m_window.analysisRequested();
     });
     add(*menu, tr("Kayak &cross of this race"), {keys(Qt::CTRL | Qt::SHIFT | Qt::Key_R)}, [this] {
         if (savedIfDirty())
             emit m_window.crossRequested(m_window.document().path());
     });
-    menu->addSeparator();
-    add(*menu, tr("&Home"), {keys(Qt::CTRL | Qt::Key_H)},
-        [this] { emit m_window.homeRequested(); });
-    add(*menu, tr("Se&ttings…"), {keys(Qt::CTRL | Qt::Key_Comma)},
-        [this] { emit m_window.settingsRequested(); });
-    add(*menu, tr("C&lose"), {QKeySequence::Close}, [this] { m_window.close(); });
 }
 
 bool TakingActions::savedIfDirty() {
-    m_window.commit();
-    return !m_window.document().isDirty() || m_window.save();
+    return m_window.commit() && (!m_window.document().isDirty() || m_window.save());
 }
 
 void TakingActions::chooseFolder() {
     const QString folder = QFileDialog::getExistingDirectory(
         &m_window, tr("Open a folder of videos"), m_window.document().folder());
     if (!folder.isEmpty())
-        emit m_window.filesRequested({folder});
+        emit m_window.openRequested({folder});
 }
 
 void TakingActions::makeEditMenu() {
-    QMenu* menu = m_window.menuBar()->addMenu(tr("&Edit"));
-    QUndoStack& stack = m_window.document().undoStack();
-    QAction* undo = stack.createUndoAction(&m_window, tr("&Undo"));
-    undo->setShortcut(QKeySequence::Undo);
-    QAction* redo = stack.createRedoAction(&m_window, tr("&Redo"));
-    redo->setShortcut(keys(Qt::CTRL | Qt::SHIFT | Qt::Key_Z));
-    undo->disconnect(&stack); // what is being typed is taken first
-    redo->disconnect(&stack);
-    connect(undo, &QAction::triggered, &m_window, &TakingWindow::undo);
-    connect(redo, &QAction::triggered, &m_window, &TakingWindow::redo);
-    menu->addActions({undo, redo});
-    menu->addSeparator();
+    QMenu* menu = m_window.makeEditMenu();
     add(*menu, tr("Race and &course…"), {keys(Qt::CTRL | Qt::Key_G)},
         [this] { m_window.setUpCourse(); });
     add(*menu, tr("Names of the &films…"), {}, [this] { m_window.readFilmNames(); });

@@ -1,20 +1,14 @@
 #pragma once
 
-#include "desktop/shell/autosave.h"
+#include "desktop/shell/document.h"
+#include "desktop/taking/taking_lists.h"
 #include "desktop/taking/taking_state.h"
 #include "splittaking/marking.h"
 #include "splittaking/results_import.h"
 #include "splittaking/results_match.h"
 
-#include <QObject>
-#include <QTimer>
-#include <QUndoStack>
-
-#include <filesystem>
 #include <functional>
 #include <optional>
-
-class QWidget;
 
 namespace kavela {
 struct RecognisedSplitFile;
@@ -22,17 +16,13 @@ struct RecognisedSplitFile;
 
 namespace kavela::desktop {
 
-class Workspace;
-
-/// The split file that is being taken: its course, its runs, their marks and penalties. Every
-/// change can be undone, is kept apart from the file within a second, and reaches the file only
-/// when it is saved.
-class TakingDocument : public QObject {
+/// The split file that is being taken: its course, its runs, their marks and penalties.
+class TakingDocument : public Document<TakingState> {
     Q_OBJECT
 
 public:
     TakingDocument(Workspace& workspace, Autosave autosave, QObject* parent = nullptr);
-    ~TakingDocument() override;
+    ~TakingDocument() override { keepPending(); }
 
     /// Opens a folder of films: its split file where it has one, otherwise a new document with a
     /// run for each film. Unsaved work of an earlier session is offered. False, after a message,
@@ -44,10 +34,9 @@ public:
     using ChooseCopy = std::function<QString(const QString& proposed)>;
     void setChooseCopy(ChooseCopy choose) { m_chooseCopy = std::move(choose); }
 
-    [[nodiscard]] const TakingState& state() const { return m_state; }
-    [[nodiscard]] const infodata031& info() const { return *m_state.info; }
-    [[nodiscard]] const crossdata030& cross() const { return *m_state.cross; }
-    [[nodiscard]] int runCount() const { return static_cast<int>(m_state.runs.size()); }
+    [[nodiscard]] const infodata031& info() const { return *value().info; }
+    [[nodiscard]] const crossdata030& cross() const { return *value().cross; }
+    [[nodiscard]] int runCount() const { return static_cast<int>(value().runs.size()); }
     [[nodiscard]] const athletedata031& run(int index) const;
     [[nodiscard]] RunIdentity identityOf(int index) const;
     /// Where that run stands now; -1 when it is gone.
@@ -67,15 +56,11 @@ public:
     /// found.
     [[nodiscard]] QStringList findFilms(const QString& folder);
 
-    [[nodiscard]] const QString& folder() const { return m_folder; }
-    [[nodiscard]] const QString& path() const { return m_path; }
-    [[nodiscard]] QString title() const;
-    /// Whether there is work that the file does not hold: also start marks without a split, for
-    /// which it has no place.
-    [[nodiscard]] bool isDirty() const;
-    /// The document as it would be saved now.
-    [[nodiscard]] splittakerdata031 content() const { return finished(false); }
-    [[nodiscard]] QUndoStack& undoStack() { return m_undo; }
+    /// Where the film files are.
+    [[nodiscard]] QString folder() const;
+    [[nodiscard]] QString title() const override;
+    /// The document as it would be saved now, with the perfect time and the expected times.
+    [[nodiscard]] splittakerdata031 finished() const;
 
     // Every edit is one step of the undo stack; `what` names it there.
     void editRun(int index, const QString& what,
@@ -106,56 +91,33 @@ public:
     /// Recomputes the perfect time with its line in the log, as when a real time was entered.
     void logPerfectTime() const;
 
-    [[nodiscard]] bool save(QWidget* over);
     /// Writes the split file, and table and report where they are wanted, somewhere else.
-    [[nodiscard]] bool exportTo(const QString& file, bool alsoCsv, bool alsoPdf, QWidget* over);
+    [[nodiscard]] bool exportTo(const QString& file, const BesideFile& lists, QWidget* over);
 
-    /// Gives up what was not saved; it stays aside for a change of mind.
-    void discard();
-    /// Asks what becomes of unsaved work, and does it; false when the document is to stay open.
-    [[nodiscard]] bool mayClose(QWidget* over);
-
-signals:
-    /// Other runs, another course, or anything about them.
-    void changed();
-    void saved();
+protected:
+    [[nodiscard]] Content contentNow() const override;
+    /// With the start marks of runs without a split.
+    [[nodiscard]] Content keptContentNow() const override;
+    [[nodiscard]] Beside besideNow() const override;
+    [[nodiscard]] bool recover(const std::string& content) override;
+    [[nodiscard]] bool holdsMore() const override;
+    [[nodiscard]] bool mayLeaveMore(QWidget* over) override;
+    [[nodiscard]] bool mayWrite(QWidget* over) override;
+    void follow() override;
 
 private:
-    friend class TakingStep;
-
-    [[nodiscard]] std::optional<splittakerdata031> readCurrent(const QString& file, QWidget* over);
     [[nodiscard]] bool openCopy(const RecognisedSplitFile& older, const QString& file,
                                 QWidget* over);
-    void begin(TakingState state, const QString& path);
-    void offerAutosave(QWidget* over);
-    [[nodiscard]] splittakerdata031 newDocument() const;
-    [[nodiscard]] std::vector<athletedata031> runsOf(const QStringList& films) const;
-    void push(const QString& what, TakingState after);
-    void show(const TakingState& state);
-    void keepWork();
+    [[nodiscard]] splittakerdata031 newDocument(const QString& folder) const;
+    [[nodiscard]] std::vector<athletedata031> runsOf(const QStringList& films,
+                                                     std::int64_t gates) const;
+    void put(const QString& what, TakingState after);
     [[nodiscard]] bool holdsNothing() const;
-    void noteWritten();
-    [[nodiscard]] bool mayLeaveStarts(QWidget* over);
-    [[nodiscard]] splittakerdata031 finished(bool isLogged) const;
-    [[nodiscard]] bool writeSplitFile(const splittakerdata031& document,
-                                      const std::filesystem::path& file, QWidget* over) const;
-    [[nodiscard]] bool writeBeside(splittakerdata031 document, const std::filesystem::path& file,
-                                   bool csv, bool pdf, QWidget* over) const;
-    [[nodiscard]] bool written(const std::function<void()>& write, QWidget* over) const;
-    [[nodiscard]] bool mayOverwrite(QWidget* over) const;
-    void tellNotWritten(const std::string& reason, QWidget* over) const;
 
-    Workspace& m_workspace;
-    Autosave m_autosave;
-    QUndoStack m_undo;
-    QTimer m_keep;
-    TakingState m_state;
     std::vector<double> m_expected;
     double m_perfect = 0;
-    QString m_folder;
-    QString m_path;
-    std::optional<std::filesystem::file_time_type> m_readTime; ///< of the file; none before it is
     ChooseCopy m_chooseCopy;
+    std::optional<BesideFile> m_lists; ///< to be written now, in place of what the settings want
 };
 
 } // namespace kavela::desktop

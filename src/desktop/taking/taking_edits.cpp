@@ -97,7 +97,7 @@ void TakingWindow::mark() {
 void TakingWindow::markSplit(Stamps stamps) {
     RunMarks marks = m_document.marks(m_run);
     if (marks == RunMarks() && hasTimes(m_document.run(m_run)) &&
-        !m_workspace.ask({"", tr("The times of this run were taken without marks on the video. "
+        !workspace().ask({"", tr("The times of this run were taken without marks on the video. "
                                  "Marking it anew replaces them.")
                                   .toStdString()},
                          tr("Mark anew"), this))
@@ -124,7 +124,7 @@ void TakingWindow::markSplit(Stamps stamps) {
 /// The order of the marks is told where the coach looks; what must be decided first, in a box.
 void TakingWindow::refuseMark(const Alert& why) {
     if (!why.title.empty()) {
-        m_workspace.showAlert(why, this);
+        workspace().showAlert(why, this);
         return;
     }
     refuse(QString::fromStdString(why.text));
@@ -332,7 +332,7 @@ void TakingWindow::stepGate(int step) {
 }
 
 void TakingWindow::setUpCourse() {
-    CourseDialog dialog(m_document.info(), m_workspace, this);
+    CourseDialog dialog(m_document.info(), workspace(), this);
     if (dialog.exec() == QDialog::Accepted)
         m_document.editInfo(tr("course"), [&](infodata031& info) { info = dialog.info(); });
 }
@@ -356,14 +356,16 @@ void TakingWindow::readFilmNames() {
 }
 
 void TakingWindow::importSplitFile() {
-    commit();
+    if (!commit())
+        return;
     for (const QString& file :
          m_chooseFiles(tr("Import split file"), tr("Split files (*.kvx);;All files (*)")))
         m_document.importSplitFile(file, this);
 }
 
 void TakingWindow::importResults() {
-    commit();
+    if (!commit())
+        return;
     for (const QString& file :
          m_chooseFiles(tr("Import official results"), tr("Lists (*.csv *.txt);;All files (*)")))
         try {
@@ -385,52 +387,40 @@ void TakingWindow::importResults(const QString& name, const ResultsList& list) {
         tell(why);
         return;
     }
-    const splittakerdata031 race = timesOf(m_document.state());
+    const splittakerdata031 race = timesOf(m_document.value());
     ResultsDialog dialog(race.athletes, list, name, this);
     if (dialog.exec() == QDialog::Accepted)
         m_document.takeResults(list, dialog.taken());
 }
 
 void TakingWindow::removeRun() {
-    commit();
+    if (!commit())
+        return;
     m_document.removeRun(m_run);
 }
 
 void TakingWindow::moveRun(int step) {
-    commit();
+    if (!commit())
+        return;
     m_document.moveRun(m_run, m_run + step);
 }
 
-/// What is being typed is the last step.
-void TakingWindow::undo() {
-    commit();
-    m_document.undoStack().undo();
-}
-
-void TakingWindow::redo() {
-    commit();
-    m_document.undoStack().redo();
-}
-
 void TakingWindow::reset() {
-    commit();
+    if (!commit())
+        return;
     m_document.reset(this);
 }
 
-bool TakingWindow::save() {
-    commit();
-    return takeTyping(*this) && m_document.save(this);
-}
-
 void TakingWindow::exportData() {
-    commit();
+    if (!commit())
+        return;
     if (m_document.runCount() == 0) {
         tell(messages::NothingToExport);
         return;
     }
-    ExportDialog dialog(m_workspace, m_document.path(), this);
+    ExportDialog dialog(workspace(), m_document.path(), this);
     if (dialog.exec() == QDialog::Accepted)
-        (void)m_document.exportTo(dialog.path(), dialog.alsoCsv(), dialog.alsoPdf(), this);
+        (void)m_document.exportTo(dialog.path(), {dialog.alsoCsv(), dialog.alsoPdf()}, this);
 }
 
 void TakingWindow::findRun() {
@@ -442,19 +432,19 @@ void TakingWindow::findRun() {
 void TakingWindow::collectTraining() {
     const QString athlete = m_name->text().trimmed();
     if (!isAthleteName(athlete.toStdString()) ||
-        !m_workspace.ask({"", messages::AskToCollect}, tr("Create"), this))
+        !workspace().ask({"", messages::AskToCollect}, tr("Create"), this))
         return;
     const TrainingPlan plan{athlete.toStdString(),
-                            m_workspace.preferences().integer("predeterminatedsplits"),
-                            m_workspace.clock()()};
+                            workspace().preferences().integer("predeterminatedsplits"),
+                            workspace().clock()()};
     const QString target = m_document.folder() + '/' + TrainingFileName;
     if (QFile::exists(target) &&
-        !m_workspace.ask({"", messages::AskToOverwrite}, tr("Overwrite"), this))
+        !workspace().ask({"", messages::AskToOverwrite}, tr("Overwrite"), this))
         return;
     try {
         const TrainingCollection training =
             kavela::collectTraining(m_document.folder().toStdString(), plan);
-        if (saveSplitFile(training.document, target.toStdString(), m_workspace.log()))
+        if (saveSplitFile(training.document, target.toStdString(), workspace().log()))
             tell(messages::Saved);
         else
             tell("Failed to create file");

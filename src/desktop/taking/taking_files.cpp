@@ -7,14 +7,6 @@
 
 namespace kavela::desktop {
 
-namespace fs = std::filesystem;
-
-std::optional<fs::file_time_type> lastWritten(const fs::path& file) {
-    std::error_code error;
-    const auto time = fs::last_write_time(file, error);
-    return error ? std::nullopt : std::optional(time);
-}
-
 QString splitFileIn(const QString& folder) {
     QStringList files = QDir(folder).entryList({"*.kvx"}, QDir::Files, QDir::Time);
     if (files.size() > 1)

@@ -42,7 +42,7 @@ std::optional<CMTime> TakingWindow::placeToShow(int run) const {
         return left->second;
     const RunMarks marks = m_document.marks(run);
     const Stamps* const start = stampsOf(marks, 0);
-    const bool isWanted = m_workspace.preferences().boolean("startinCMTime");
+    const bool isWanted = workspace().preferences().boolean("startinCMTime");
     return start && isWanted ? std::optional(start->front()) : std::nullopt;
 }
 
@@ -107,7 +107,8 @@ void TakingWindow::findFilms() {
     const QString folder = m_chooseFolder(tr("Where are the films now?"));
     if (folder.isEmpty())
         return;
-    commit();
+    if (!commit())
+        return;
     const QStringList missing = m_document.findFilms(folder);
     const qsizetype films = m_document.filmNames().size();
     if (m_run >= 0 && filmsOf(m_run) != m_filmsShown)
@@ -163,14 +164,15 @@ void TakingWindow::showHealth() {
 }
 
 QStringList TakingWindow::copied(const QStringList& files) {
-    return copiedIntoFolder(m_document.folder(), files, m_workspace, this);
+    return copiedIntoFolder(m_document.folder(), files, workspace(), this);
 }
 
 void TakingWindow::importVideos() {
     const QStringList files = m_chooseFiles(tr("Import video"), videoFilter());
     if (files.isEmpty())
         return;
-    commit();
+    if (!commit())
+        return;
     (void)m_document.addFilms(copied(files));
 }
 

@@ -28,7 +28,7 @@ RecordingDialog& TakingWindow::recording() {
          .isAttached = [this] { return m_run >= 0 && hasRecording(m_document.run(m_run)); },
          .isMeant =
              [this](const Alert& question) {
-                 return m_workspace.ask(question, tr("Attach it all the same"), m_recording);
+                 return workspace().ask(question, tr("Attach it all the same"), m_recording);
              }},
         this);
     connect(m_recording, &RecordingDialog::chooseRequested, this, [this] {
@@ -39,11 +39,11 @@ RecordingDialog& TakingWindow::recording() {
     });
     connect(m_recording, &RecordingDialog::failed, this,
             [this](const QString& title, const QString& reason) {
-                m_workspace.log()(title.toStdString() + ": " + reason.toStdString());
-                m_workspace.showAlert({title.toStdString(), reason.toStdString()}, m_recording);
+                workspace().log()(title.toStdString() + ": " + reason.toStdString());
+                workspace().showAlert({title.toStdString(), reason.toStdString()}, m_recording);
             });
     connect(m_recording, &RecordingDialog::refusedAsOlder, this, [this](const QString& path) {
-        if (const auto converted = convertOlderRecording(path, m_workspace, m_recording))
+        if (const auto converted = convertOlderRecording(path, workspace(), m_recording))
             m_recording->load(*converted);
     });
     connect(&m_document, &TakingDocument::changed, m_recording, &RecordingDialog::showRun);

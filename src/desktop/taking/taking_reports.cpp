@@ -13,7 +13,7 @@ namespace {
 
 /// The runs with their times, and the one that the sheet is of with everything it has.
 splittakerdata031 sheetDocument(const TakingDocument& document, std::size_t run) {
-    splittakerdata031 race = timesOf(document.state());
+    splittakerdata031 race = timesOf(document.value());
     race.athletes.at(run) = document.run(static_cast<int>(run));
     return race;
 }

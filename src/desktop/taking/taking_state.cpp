@@ -1,5 +1,7 @@
 #include "desktop/taking/taking_state.h"
 
+#include "splittaking/perfect_time.h"
+
 namespace kavela::desktop {
 
 TakingState stateOf(splittakerdata031 document) {
@@ -32,6 +34,14 @@ splittakerdata031 timesOf(const TakingState& state) {
         light.sectioninfo = run->sectioninfo;
         document.athletes.push_back(std::move(light));
     }
+    return document;
+}
+
+splittakerdata031 finishedDocument(const TakingState& state, ReferenceDate now,
+                                   const DiagnosticLog& log) {
+    splittakerdata031 document = documentOf(state);
+    recomputeExpected(document, log);
+    document.info.lastSavedDate = now;
     return document;
 }
 

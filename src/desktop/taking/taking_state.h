@@ -1,5 +1,7 @@
 #pragma once
 
+#include "common/log.h"
+#include "common/reference_date.h"
 #include "splitdata/document.h"
 #include "splittaking/marking.h"
 
@@ -32,5 +34,9 @@ struct TakingState {
 /// The whole document; without the recordings of sensors where only times are asked for.
 [[nodiscard]] splittakerdata031 documentOf(const TakingState& state);
 [[nodiscard]] splittakerdata031 timesOf(const TakingState& state);
+/// The document as it is written at a moment: with the perfect time and the expected times of its
+/// runs, whose computation is logged.
+[[nodiscard]] splittakerdata031 finishedDocument(const TakingState& state, ReferenceDate now,
+                                                 const DiagnosticLog& log);
 
 } // namespace kavela::desktop

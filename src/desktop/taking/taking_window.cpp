@@ -56,7 +56,7 @@ QString rateText(double rate) {
 } // namespace
 
 TakingWindow::TakingWindow(Workspace& workspace, Autosave autosave)
-    : m_workspace(workspace),
+    : ToolWindow(workspace, &m_document, {"taking", tr("split taking"), "kvx"}),
       m_document(workspace, std::move(autosave)),
       m_runs(m_document),
       m_race(workspace),
@@ -69,8 +69,6 @@ TakingWindow::TakingWindow(Workspace& workspace, Autosave autosave)
       m_chooseFolder([this](const QString& title) {
           return QFileDialog::getExistingDirectory(this, title, m_document.folder());
       }) {
-    setAttribute(Qt::WA_DeleteOnClose);
-    setAcceptDrops(true);
     auto* upper = new QSplitter;
     upper->addWidget(makeRuns());
     upper->addWidget(makeStage());
@@ -90,8 +88,6 @@ TakingWindow::TakingWindow(Workspace& workspace, Autosave autosave)
     m_actions = new TakingActions(*this, workspace);
     connectParts();
     connectNotes();
-    resize(1280, 800);
-    rememberPlace(*this, workspace, "taking");
 }
 
 TakingWindow::~TakingWindow() {
@@ -145,7 +141,7 @@ QWidget* TakingWindow::makeStage() {
     m_gates = new GateStrip;
     m_clips = new ClipPlayer(*m_deck, this);
     m_form = new RunForm(m_document);
-    m_notes = new NotesPanel({m_document, *m_deck, m_workspace, *m_gates, *m_clips, m_run, {}},
+    m_notes = new NotesPanel({m_document, *m_deck, workspace(), *m_gates, *m_clips, m_run, {}},
                              *m_line, *m_form);
     auto* row = new QHBoxLayout;
     row->addWidget(m_health, 1);
@@ -178,12 +174,10 @@ void TakingWindow::connectParts() {
         *this, [this] { m_list->isVisible() ? m_runTable->setFocus() : m_line->setFocus(); });
     connect(keys, &FieldKeys::typingChanged, m_typing, &QLabel::setVisible);
     connect(&m_document, &TakingDocument::changed, this, &TakingWindow::showDocument);
-    connect(&m_document.undoStack(), &QUndoStack::cleanChanged, this,
-            [this] { setWindowModified(m_document.isDirty()); });
     connect(m_runTable->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
             [this](const QModelIndex& current) { selectRun(current.row()); });
     connect(m_runTable, &QTableView::clicked, this, [this] {
-        if (m_workspace.preferences().boolean("playonclick"))
+        if (workspace().preferences().boolean("playonclick"))
             m_deck->play(1);
     });
     connect(m_name, &QLineEdit::returnPressed, this, &TakingWindow::collectTraining);
@@ -239,12 +233,10 @@ void TakingWindow::makeFilmLarger() {
 }
 
 void TakingWindow::tell(const std::string& message) {
-    m_workspace.showAlert({"", message}, this);
+    workspace().showAlert({"", message}, this);
 }
 
 void TakingWindow::showDocument() {
-    setWindowTitle(m_document.title() + "[*] – " + tr("split taking") + " – Kavela");
-    setWindowModified(m_document.isDirty());
     followRun();
     if (m_run >= 0 && filmsOf(m_run) != m_filmsShown)
         showFilms();
@@ -256,15 +248,16 @@ void TakingWindow::showDocument() {
     m_gates->setCourse(static_cast<int>(m_document.info().gates), m_document.info().upGates);
     m_gates->setPenalties(penalties);
     showMarks();
-    m_race.show(timesOf(m_document.state()), m_document.path());
+    m_race.show(timesOf(m_document.value()), m_document.path());
     m_actions->refresh();
 }
 
 /// Presses that wait for their frame belong to what is in front now.
-void TakingWindow::commit() {
+bool TakingWindow::takePending() {
     m_deck->finishPresses();
     m_form->commit();
     m_notes->commit();
+    return true;
 }
 
 /// The run in front may stand elsewhere in the list after an edit, or be gone.
@@ -286,8 +279,7 @@ void TakingWindow::followRun() {
 void TakingWindow::selectRun(int run) {
     if (run == m_run || run >= m_document.runCount())
         return;
-    commit();
-    if (showRefusedEntry(*m_form)) {
+    if (!commit()) {
         m_runTable->selectRow(m_run);
         return;
     }
@@ -383,7 +375,7 @@ void TakingWindow::showState() {
     m_state->setText(motion);
     const bool hasEnded = !m_deck->isPlaying() && m_deck->cameras() > 0 && m_deck->end() > 0 &&
                           m_deck->position() >= m_deck->end() && m_deck->rate() > 0;
-    if (hasEnded && m_wasPlaying && m_workspace.preferences().boolean("autoplaynext") &&
+    if (hasEnded && m_wasPlaying && workspace().preferences().boolean("autoplaynext") &&
         m_run + 1 < m_document.runCount()) {
         m_places.erase(m_document.identityOf(m_run + 1)); // from its beginning
         selectRun(m_run + 1);
@@ -402,17 +394,7 @@ void TakingWindow::playTableCell(const QModelIndex& index) {
         goToMark(static_cast<std::size_t>(section) + 1);
 }
 
-void TakingWindow::closeEvent(QCloseEvent* event) {
-    commit();
-    event->setAccepted(takeTyping(*this) && m_document.mayClose(this));
-}
-
-void TakingWindow::dragEnterEvent(QDragEnterEvent* event) {
-    acceptFiles(*event);
-}
-
-void TakingWindow::dropEvent(QDropEvent* event) {
-    const QStringList files = droppedFiles(*event);
+void TakingWindow::takeFiles(const QStringList& files) {
     QStringList films;
     QStringList others;
     for (const QString& file : files)
@@ -420,11 +402,12 @@ void TakingWindow::dropEvent(QDropEvent* event) {
             openRecording(file);
         else
             (isVideoFile(QFileInfo(file).fileName().toStdString()) ? films : others).append(file);
-    commit();
+    if (!commit())
+        return;
     if (!films.isEmpty())
         (void)m_document.addFilms(copied(films));
     if (!others.isEmpty())
-        emit filesRequested(others);
+        emit openRequested(others);
 }
 
 } // namespace kavela::desktop

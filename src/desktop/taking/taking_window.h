@@ -2,11 +2,10 @@
 
 #include "desktop/race/race_document.h"
 #include "desktop/race/split_table_model.h"
+#include "desktop/shell/tool_window.h"
 #include "desktop/taking/run_table_model.h"
 #include "desktop/taking/taking_document.h"
 #include "splittaking/penalties.h"
-
-#include <QMainWindow>
 
 #include <functional>
 #include <map>
@@ -33,7 +32,7 @@ class TakingActions;
 
 /// Split taking: the runs to the left, the film of the selected one with its marks and gates in the
 /// middle, what is known of it to the right, and every run of the race in the coloured table below.
-class TakingWindow : public QMainWindow {
+class TakingWindow : public ToolWindow {
     Q_OBJECT
 
 public:
@@ -42,7 +41,7 @@ public:
 
     /// Opens a folder of films, or a split file in its folder; false, after a message, when that
     /// failed.
-    [[nodiscard]] bool open(const QString& path);
+    [[nodiscard]] bool open(const QString& path) override;
 
     [[nodiscard]] TakingDocument& document() { return m_document; }
     [[nodiscard]] FilmDeck& deck() const { return *m_deck; }
@@ -51,9 +50,6 @@ public:
     [[nodiscard]] const GateStrip& gates() const { return *m_gates; }
     [[nodiscard]] NotesPanel& notes() const { return *m_notes; }
     [[nodiscard]] std::optional<std::size_t> selectedMark() const { return m_selected; }
-
-    /// Takes what is being typed, and ends a recording of the team radio.
-    void commit();
 
     // What the keys do.
     void selectRun(int run); ///< a number beyond the runs changes nothing
@@ -83,10 +79,7 @@ public:
     void collectTraining();
     void removeRun();
     void moveRun(int step);
-    void undo();
-    void redo();
     void reset();
-    bool save();
     void exportData();
     void findRun();
     /// Makes the film larger: without the table, then alone, then with all beside it again.
@@ -103,16 +96,14 @@ public:
     void setChooseFolder(ChooseFolder choose) { m_chooseFolder = std::move(choose); }
 
 signals:
-    void homeRequested();
-    void settingsRequested();
     void analysisRequested(); ///< of the document as it is now, saved or not
     void crossRequested(const QString& path);
-    void filesRequested(const QStringList& paths);
 
 protected:
-    void closeEvent(QCloseEvent* event) override;
-    void dragEnterEvent(QDragEnterEvent* event) override;
-    void dropEvent(QDropEvent* event) override;
+    /// Films become runs, a recording belongs to the run in front.
+    void takeFiles(const QStringList& paths) override;
+    /// Ends a recording of the team radio too.
+    [[nodiscard]] bool takePending() override;
 
 private:
     [[nodiscard]] QWidget* makeRuns();
@@ -150,7 +141,6 @@ private:
     [[nodiscard]] const Stamps* stampsOf(const RunMarks& marks, std::size_t mark) const;
     [[nodiscard]] QStringList copied(const QStringList& files);
 
-    Workspace& m_workspace;
     TakingDocument m_document;
     RunTableModel m_runs;
     RaceDocument m_race; ///< of the table below

@@ -59,8 +59,8 @@ void TeamDocument::recomputeAllAverages() {
     });
 }
 
-std::string TeamDocument::content() const {
-    return encode(value());
+TeamDocument::Content TeamDocument::contentNow() const {
+    return [team = shared()] { return encode(*team); };
 }
 
 bool TeamDocument::recover(const std::string& content) {

@@ -1,18 +1,24 @@
 #pragma once
 
-#include "desktop/shell/edited_file.h"
+#include "desktop/shell/document.h"
 #include "results/team_records.h"
 
 namespace kavela::desktop {
 
+template <>
+struct LargeParts<myTeamToSaveStruct> {
+    static constexpr auto lists = std::tuple([](auto& team) -> auto& { return team.realMyTeam; });
+    static constexpr auto wholes = std::tuple();
+};
+
 /// A team file that is being edited. The averages of an athlete follow the results of every edit;
 /// those of athletes who were not edited stay as the file has them.
-class TeamDocument : public EditedValue<myTeamToSaveStruct> {
+class TeamDocument : public Document<myTeamToSaveStruct> {
     Q_OBJECT
 
 public:
-    using EditedValue::EditedValue;
-    ~TeamDocument() override { keepWork(); }
+    using Document::Document;
+    ~TeamDocument() override { keepPending(); }
 
     /// False, after an alert that says what is wrong where, when it cannot be opened; the document
     /// then stays as it is.
@@ -34,7 +40,7 @@ public:
     void recomputeAllAverages();
 
 protected:
-    [[nodiscard]] std::string content() const override;
+    [[nodiscard]] Content contentNow() const override;
     [[nodiscard]] bool recover(const std::string& content) override;
 };
 

@@ -27,7 +27,7 @@ TeamWindow::TeamWindow(Workspace& workspace, Autosave autosave)
     : TeamWindow(workspace, std::make_unique<TeamDocument>(workspace, std::move(autosave))) {}
 
 TeamWindow::TeamWindow(Workspace& workspace, std::unique_ptr<TeamDocument> document)
-    : EditorWindow(workspace, *document, "team", tr("Team"), "kvteam"),
+    : ToolWindow(workspace, document.get(), {"team", tr("Team"), "kvteam"}),
       m_document(std::move(document)) {
     makeParts();
     connectParts();

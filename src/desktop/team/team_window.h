@@ -1,6 +1,6 @@
 #pragma once
 
-#include "desktop/shell/editor_window.h"
+#include "desktop/shell/tool_window.h"
 #include "desktop/team/team_document.h"
 
 #include <memory>
@@ -15,7 +15,7 @@ class TakeOverDialog;
 
 /// The team: every athlete's results season by season, typed in or taken over from split files and
 /// official lists, with summary, categorization and charts, all live.
-class TeamWindow : public EditorWindow {
+class TeamWindow : public ToolWindow {
     Q_OBJECT
 
 public:
@@ -25,7 +25,7 @@ public:
     /// False, after an alert, when the file cannot be opened.
     [[nodiscard]] bool open(const QString& path) override;
     /// A new team; the path is a folder, or a file that saving will propose.
-    void startNew(const QString& path);
+    void startNew(const QString& path) override;
 
     [[nodiscard]] TeamDocument& document() const { return *m_document; }
     [[nodiscard]] AthletePanel& athletes() const { return *m_athletes; }

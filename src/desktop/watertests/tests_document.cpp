@@ -119,15 +119,17 @@ void TestsDocument::editEight(TestId id, const QString& what,
     });
 }
 
-std::string TestsDocument::content() const {
-    onWaterTests tests;
-    for (const auto& entry : value()) {
-        if (entry->run())
-            tests.tests.push_back(*entry->run());
-        else
-            tests.eights.push_back(*entry->eight());
-    }
-    return encode(tests);
+EditedFile::Content TestsDocument::contentNow() const {
+    return [list = shared()] {
+        onWaterTests tests;
+        for (const auto& entry : *list) {
+            if (entry->run())
+                tests.tests.push_back(*entry->run());
+            else
+                tests.eights.push_back(*entry->eight());
+        }
+        return encode(tests);
+    };
 }
 
 bool TestsDocument::recover(const std::string& content) {

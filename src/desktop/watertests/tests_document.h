@@ -1,6 +1,6 @@
 #pragma once
 
-#include "desktop/shell/edited_file.h"
+#include "desktop/shell/document.h"
 #include "desktop/watertests/listed_test.h"
 
 #include <span>
@@ -9,12 +9,12 @@ namespace kavela::desktop {
 
 /// A file of on-water tests that is being edited. An eight test is scored again after every edit of
 /// it.
-class TestsDocument : public EditedValue<TestList> {
+class TestsDocument : public Document<TestList> {
     Q_OBJECT
 
 public:
-    using EditedValue::EditedValue;
-    ~TestsDocument() override { keepWork(); }
+    using Document::Document;
+    ~TestsDocument() override { keepPending(); }
 
     /// False, after an alert that says what is wrong where, when it cannot be opened; the document
     /// then stays as it is.
@@ -39,7 +39,7 @@ public:
                    const std::function<void(onWaterEight&)>& change);
 
 protected:
-    [[nodiscard]] std::string content() const override;
+    [[nodiscard]] EditedFile::Content contentNow() const override;
     [[nodiscard]] bool recover(const std::string& content) override;
 
 private:

@@ -54,7 +54,8 @@ void TestsWindow::takeFiles(const QStringList& paths) {
 }
 
 void TestsWindow::takeIn(const QStringList& paths) {
-    commit();
+    if (!commit())
+        return;
     for (const QString& path : paths) {
         if (hasSuffix(path, "kvb"))
             takeInRecording(path);

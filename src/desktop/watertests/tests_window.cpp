@@ -44,7 +44,7 @@ TestsWindow::TestsWindow(Workspace& workspace, Autosave autosave)
     : TestsWindow(workspace, std::make_unique<TestsDocument>(workspace, std::move(autosave))) {}
 
 TestsWindow::TestsWindow(Workspace& workspace, std::unique_ptr<TestsDocument> document)
-    : EditorWindow(workspace, *document, "watertests", tr("Tests"), "kvtest"),
+    : ToolWindow(workspace, document.get(), {"watertests", tr("Tests"), "kvtest"}),
       m_document(std::move(document)) {
     makeParts();
     connectParts();
@@ -180,7 +180,8 @@ void TestsWindow::addAndChoose(const QString& what, std::vector<TestsDocument::C
 }
 
 void TestsWindow::addTest(TestKind kind) {
-    commit();
+    if (!commit())
+        return;
     const auto current = m_list->current();
     const ListedTest* const before = current ? m_document->find(*current) : nullptr;
     const std::string location = before ? before->location().toStdString() : std::string();
@@ -206,7 +207,8 @@ void TestsWindow::addTest(TestKind kind) {
 }
 
 void TestsWindow::duplicateTest() {
-    commit();
+    if (!commit())
+        return;
     const auto current = m_list->current();
     if (const ListedTest* const test = current ? m_document->find(*current) : nullptr)
         addAndChoose(tr("copy of a test"), {test->test});
@@ -221,7 +223,8 @@ void TestsWindow::removeCurrent() {
 }
 
 void TestsWindow::moveBy(int rows) {
-    commit();
+    if (!commit())
+        return;
     m_list->move(rows);
 }
 
@@ -239,7 +242,8 @@ void TestsWindow::exportTable(const QString& path) const {
 }
 
 void TestsWindow::askAndExport() {
-    commit();
+    if (!commit())
+        return;
     QFileDialog dialog(this, tr("Export the table of tests"), ownFolder(),
                        tr("Semicolon-separated text (*.csv);;All files (*)"));
     dialog.setAcceptMode(QFileDialog::AcceptSave);
@@ -255,8 +259,9 @@ void TestsWindow::askAndExport() {
     }
 }
 
-void TestsWindow::commit() {
+bool TestsWindow::takePending() {
     m_values->commit();
+    return true;
 }
 
 } // namespace kavela::desktop

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "desktop/shell/editor_window.h"
+#include "desktop/shell/tool_window.h"
 #include "desktop/watertests/tests_document.h"
 
 #include <memory>
@@ -17,7 +17,7 @@ class ValuesPanel;
 
 /// On-water tests: lap tests, sprints and eight tests, typed in or taken in from split files and
 /// recordings, their charts laid over each other, and the table of their results.
-class TestsWindow : public EditorWindow {
+class TestsWindow : public ToolWindow {
     Q_OBJECT
 
 public:
@@ -27,7 +27,7 @@ public:
     /// False, after an alert, when the file cannot be opened.
     [[nodiscard]] bool open(const QString& path) override;
     /// A new file; the path is a folder, or a file that saving will propose.
-    void startNew(const QString& path);
+    void startNew(const QString& path) override;
 
     enum Page { ChartPage, ValuePage, TablePage };
     void showPage(Page page);
@@ -56,7 +56,7 @@ public:
 
 protected:
     void takeFiles(const QStringList& paths) override;
-    void commit() override;
+    [[nodiscard]] bool takePending() override;
 
 private:
     TestsWindow(Workspace& workspace, std::unique_ptr<TestsDocument> document);

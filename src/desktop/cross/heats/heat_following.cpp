@@ -33,7 +33,7 @@ bool isSameHeat(const rounddata030& one, const rounddata030& other) {
 
 /// Other contents may have fewer heats, gates, boats and marks.
 void HeatPage::checkState() {
-    const auto seen = std::exchange(m_seen, m_desk.document.state().cross);
+    const auto seen = std::exchange(m_seen, m_desk.document.value().cross);
     if (seen && seen != m_seen && !m_isEditing)
         follow(*seen);
     const std::size_t heats = m_desk.cross().eliphase.size();

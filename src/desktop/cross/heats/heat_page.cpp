@@ -93,7 +93,7 @@ void HeatPage::change(const QString& what, const std::function<void(crossdata030
     try {
         const QScopedValueRollback<bool> isEditing(m_isEditing, true);
         edit(what, change);
-        m_seen = m_desk.document.state().cross;
+        m_seen = m_desk.document.value().cross;
         emit told({}); // what was told before is over
     } catch (const std::invalid_argument& refused) {
         emit told(QString::fromUtf8(refused.what()));

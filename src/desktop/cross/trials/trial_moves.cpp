@@ -43,7 +43,7 @@ bool isSameMoment(const TrialMark& one, const TrialMark& other) {
 /// Looks for the trial in front in another content of the document; true when it is gone, so that
 /// another one comes to the front as if it had been chosen.
 bool TrialPage::followTrial() {
-    const auto seen = std::exchange(m_seen, m_desk.document.state().cross);
+    const auto seen = std::exchange(m_seen, m_desk.document.value().cross);
     if (!seen || seen == m_seen || !m_trial)
         return false;
     const auto& was = seen->timetrials;

@@ -75,7 +75,7 @@ std::optional<Alert> TagPage::refusal() const {
 
 QStringList TagPage::names() const {
     std::vector<athletedata031> runs; // their tags only: recordings of sensors are large
-    for (const TakenRun& run : m_desk.document.state().runs)
+    for (const TakenRun& run : m_desk.document.value().runs)
         runs.emplace_back().customData = run.record->customData;
     QStringList texts;
     for (const std::string& text :

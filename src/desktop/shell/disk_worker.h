@@ -1,0 +1,23 @@
+#pragma once
+
+#include <exception>
+#include <functional>
+
+class QObject;
+
+/// The one thread that writes for every window, so that none waits for a disk. Tasks run in the
+/// order in which they were given: what is forgotten after it was kept stays forgotten.
+namespace kavela::desktop::disk {
+
+/// What a task throws is lost: it has to tell by itself.
+void run(std::function<void()> task);
+
+/// `done` is called on the interface thread, as long as `context` is there, with what the task
+/// threw, or null.
+void run(QObject* context, std::function<void()> task,
+         std::function<void(std::exception_ptr fault)> done);
+
+/// Returns once every task given so far has run. What they have to tell may still be on its way.
+void waitForAll();
+
+} // namespace kavela::desktop::disk

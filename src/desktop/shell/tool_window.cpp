@@ -1,0 +1,222 @@
+#include "desktop/shell/tool_window.h"
+
+#include "desktop/shell/dropped_files.h"
+#include "desktop/shell/edited_file.h"
+#include "desktop/shell/help_menu.h"
+#include "desktop/shell/theme.h"
+#include "desktop/shell/typing.h"
+#include "desktop/shell/window_place.h"
+#include "desktop/shell/workspace.h"
+
+#include <QCloseEvent>
+#include <QCoreApplication>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QLabel>
+#include <QMenuBar>
+#include <QToolBar>
+
+#include <utility>
+
+namespace kavela::desktop {
+
+ToolWindow::ToolWindow(Workspace& workspace, EditedFile* file, Name name)
+    : m_workspace(workspace), m_file(file), m_name(std::move(name)) {
+    setAttribute(Qt::WA_DeleteOnClose);
+    setAcceptDrops(true);
+    resize(1280, 800);
+    if (m_name.filter.isEmpty())
+        m_name.filter = tr("%1 files (*.%2)").arg(m_name.title, m_name.suffix);
+}
+
+QStringList ToolWindow::paths() const {
+    return m_file && !m_file->path().isEmpty() ? QStringList(m_file->path()) : QStringList();
+}
+
+void ToolWindow::showTitle() {
+    const QString tool = m_file->isSaving() ? tr("%1, saving…").arg(m_name.title) : m_name.title;
+    setWindowTitle(m_file->title() + "[*] – " + tool + " – Kavela");
+    setWindowFilePath(m_file->path());
+    setWindowModified(m_file->isDirty());
+}
+
+QMenu* ToolWindow::makeFileMenu(FileCommands commands) {
+    m_fileMenu = menuBar()->addMenu(tr("&File"));
+    if (!commands.open)
+        commands.open = [this] { chooseAndOpen(); };
+    m_fileMenu->addAction(commands.openText.isEmpty() ? tr("&Open…") : commands.openText,
+                          QKeySequence::Open, this, std::move(commands.open));
+    if (!m_file)
+        return m_fileMenu;
+    m_fileMenu->addAction(commands.saveText.isEmpty() ? tr("&Save") : commands.saveText,
+                          QKeySequence::Save, this, &ToolWindow::saveBeside);
+    if (commands.canSaveAs)
+        m_fileMenu->addAction(tr("Save &as…"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S),
+                              this, [this] { saveAs(); });
+    m_fileMenu->addSeparator();
+    return m_fileMenu;
+}
+
+void ToolWindow::chooseAndOpen() {
+    const QStringList files = QFileDialog::getOpenFileNames(
+        this, tr("Open"), QFileInfo(paths().value(0)).path(),
+        tr("%1 files (*.%2)").arg(m_name.title, m_name.suffix) + ";;" + tr("All files (*)"));
+    if (!files.isEmpty())
+        emit openRequested(files);
+}
+
+/// What is being typed is the last step.
+void ToolWindow::undo() {
+    if (commit())
+        m_file->undoStack().undo();
+}
+
+void ToolWindow::redo() {
+    if (commit())
+        m_file->undoStack().redo();
+}
+
+QMenu* ToolWindow::makeEditMenu() {
+    QMenu* menu = menuBar()->addMenu(tr("&Edit"));
+    QUndoStack& stack = m_file->undoStack();
+    QAction* const undo = stack.createUndoAction(this, tr("&Undo"));
+    undo->setShortcut(QKeySequence::Undo);
+    QAction* const redo = stack.createRedoAction(this, tr("&Redo"));
+    redo->setShortcut(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z));
+    undo->disconnect(&stack);
+    redo->disconnect(&stack);
+    connect(undo, &QAction::triggered, this, &ToolWindow::undo);
+    connect(redo, &QAction::triggered, this, &ToolWindow::redo);
+    menu->addActions({undo, redo});
+    menu->addSeparator();
+    return menu;
+}
+
+/// A bar above the window's parts, shown when there is something to say about the file.
+void ToolWindow::makeNote() {
+    m_noteText = new QLabel;
+    m_noteText->setTextFormat(Qt::PlainText);
+    m_noteText->setMargin(theme::SmallSpacing);
+    m_noteText->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred); // as wide as it is
+    m_note = new QToolBar;
+    m_note->setObjectName("fileNote");
+    m_note->setMovable(false);
+    m_note->toggleViewAction()->setVisible(false);
+    m_note->addWidget(m_noteText);
+    m_note->addAction(tr("Open it again"), this, &ToolWindow::openAgain);
+    m_note->addAction(tr("Keep what is here"), m_note, &QWidget::hide);
+    addToolBar(m_note);
+    m_note->hide();
+    connect(m_file, &EditedFile::changedElsewhere, this, &ToolWindow::noteChange);
+    connect(m_file, &EditedFile::saved, m_note, &QWidget::hide);
+}
+
+void ToolWindow::noteChange() {
+    const QString name = QFileInfo(m_file->path()).fileName();
+    const bool isThere = QFileInfo::exists(m_file->path());
+    m_noteText->setText(
+        isThere ? tr("⚠ Another program changed “%1”. What is shown here is from before.").arg(name)
+                : tr("⚠ “%1” is no longer in its folder. Saving puts it there again.").arg(name));
+    m_noteText->setToolTip(m_noteText->text());
+    m_note->actions().at(1)->setVisible(isThere);
+    m_note->show();
+}
+
+void ToolWindow::openAgain() {
+    const bool isWanted =
+        !m_file->isDirty() ||
+        m_workspace.ask({"", tr("Opening “%1” again gives up what was not saved here.")
+                                 .arg(m_file->fileName())
+                                 .toStdString()},
+                        tr("Open it again"), this);
+    if (!isWanted)
+        return;
+    const bool wasDirty = m_file->isDirty();
+    if (wasDirty)
+        m_file->discard(); // or opening would offer it
+    if (open(m_file->path()))
+        m_note->hide();
+    else if (wasDirty)
+        m_file->undoStack().resetClean(); // it is still here, and unsaved
+}
+
+void ToolWindow::finishMenus(std::function<Commands()> more) {
+    if (m_file) {
+        m_file->setTool(m_name.kind);
+        makeNote();
+        connect(m_file, &EditedFile::changed, this, &ToolWindow::showTitle);
+        connect(m_file, &EditedFile::saved, this, &ToolWindow::showTitle);
+        connect(m_file, &EditedFile::savingChanged, this, &ToolWindow::showTitle);
+        connect(&m_file->undoStack(), &QUndoStack::cleanChanged, this, &ToolWindow::showTitle);
+    }
+    m_fileMenu->addSeparator();
+    m_fileMenu->addAction(tr("&Home"), QKeySequence(Qt::CTRL | Qt::Key_H), this,
+                          &ToolWindow::homeRequested);
+    m_fileMenu->addAction(tr("Se&ttings…"), QKeySequence(Qt::CTRL | Qt::Key_Comma), this,
+                          &ToolWindow::settingsRequested);
+    m_fileMenu->addAction(tr("C&lose"), QKeySequence::Close, this, [this] { closeFront(); });
+    m_fileMenu->addAction(tr("&Quit"), QKeySequence::Quit, this, [] { QCoreApplication::quit(); });
+    addHelpMenu(*this, m_workspace, m_name.kind, std::move(more));
+    rememberPlace(*this, m_workspace, m_name.kind);
+}
+
+bool ToolWindow::commit() {
+    const bool isTaken = takePending();
+    return takeTyping(*this) && isTaken;
+}
+
+bool ToolWindow::noteSaved(bool isSaved) {
+    if (isSaved)
+        wasSaved();
+    return isSaved;
+}
+
+bool ToolWindow::save() {
+    if (m_file && !m_file->isNamed())
+        return saveAs();
+    return m_file && commit() && mayWrite() && noteSaved(m_file->save(this));
+}
+
+bool ToolWindow::saveAs() {
+    if (!m_file || !commit() || !mayWrite())
+        return false;
+    const QString path = chooseName();
+    return !path.isEmpty() && noteSaved(m_file->saveAs(path, this));
+}
+
+void ToolWindow::saveBeside() {
+    if (!m_file->isNamed())
+        saveAs();
+    else if (commit() && mayWrite())
+        m_file->saveBeside(this, [this](bool isSaved) { noteSaved(isSaved); });
+}
+
+QString ToolWindow::chooseName() {
+    QFileDialog dialog(this, tr("Save"), QFileInfo(m_file->path()).path(), m_name.filter);
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setDefaultSuffix(m_name.suffix);
+    dialog.selectFile(QFileInfo(m_file->path()).fileName());
+    return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
+}
+
+bool ToolWindow::mayLeave() {
+    return commit() && (!m_file || m_file->mayLeave(this, [this] { return save(); }));
+}
+
+void ToolWindow::closeEvent(QCloseEvent* event) {
+    event->setAccepted(mayLeave());
+}
+
+void ToolWindow::dragEnterEvent(QDragEnterEvent* event) {
+    acceptFiles(*event);
+}
+
+void ToolWindow::dropEvent(QDropEvent* event) {
+    takeFiles(droppedFiles(*event));
+}
+
+void ToolWindow::takeFiles(const QStringList& paths) {
+    emit openRequested(paths);
+}
+
+} // namespace kavela::desktop

@@ -1,0 +1,117 @@
+#pragma once
+
+#include "desktop/shell/command_palette.h"
+
+#include <QMainWindow>
+
+#include <functional>
+
+class QLabel;
+class QMenu;
+class QToolBar;
+
+namespace kavela::desktop {
+
+class EditedFile;
+class Workspace;
+
+/// What every window of a tool does alike: its title with the mark of unsaved work, the menus File,
+/// Edit and Help, files dropped on it, its place, what is typed and taken over, and the question
+/// before it closes.
+class ToolWindow : public QMainWindow {
+    Q_OBJECT
+
+public:
+    /// How the tool and its files are called.
+    struct Name {
+        QString kind;   ///< by which places, keys and kept work are remembered, as "team"
+        QString title;  ///< of the tool
+        QString suffix; ///< of its files, without the point
+        QString filter = {}; ///< of the dialog that saves; of title and suffix when empty
+    };
+
+    /// The file may be a member of the window that derives from this one: it is not touched before
+    /// finishMenus(). A window that only reads has none.
+    ToolWindow(Workspace& workspace, EditedFile* file, Name name);
+
+    /// Null in a window that only reads.
+    [[nodiscard]] EditedFile* file() const { return m_file; }
+    [[nodiscard]] const QString& kind() const { return m_name.kind; }
+    /// The files that it shows.
+    [[nodiscard]] virtual QStringList paths() const;
+    /// Opens a file, in place of what is shown or beside it. False, after an alert, when it cannot
+    /// be opened; what is shown then stays.
+    [[nodiscard]] virtual bool open(const QString& path) = 0;
+    /// Begins a document that has no file yet; the path is where it is to be saved.
+    virtual void startNew(const QString& /*path*/) {}
+
+    /// Takes over what is typed in every field and open cell of the window. False, with the cursor
+    /// in the field, where one holds what cannot be taken: what was to be done is not done then.
+    bool commit();
+    /// Saves what is shown, typing included; asks for a name where the document has none on the
+    /// disk yet. False when it was not written.
+    bool save();
+    bool saveAs();
+    /// Saves as a key does: the window goes on meanwhile.
+    void saveBeside();
+    void undo();
+    void redo();
+
+    /// How the commands of the File menu are called where a tool has its own words or ways.
+    struct FileCommands {
+        QString openText = {};
+        std::function<void()> open = {}; ///< files of the tool are chosen by default
+        QString saveText = {};
+        bool canSaveAs = true;
+    };
+    /// The menus in front; then the tool's own; then finishMenus(), which ends the first one with
+    /// what every window has, and adds the help. `more` is what the tool adds to the search.
+    QMenu* makeFileMenu(FileCommands commands);
+    QMenu* makeFileMenu() { return makeFileMenu(FileCommands()); }
+    QMenu* makeEditMenu();
+    void finishMenus(std::function<Commands()> more);
+
+signals:
+    void homeRequested();
+    void settingsRequested();
+    void openRequested(const QStringList& paths);
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
+    /// Files were dropped; opened by default.
+    virtual void takeFiles(const QStringList& paths);
+    /// Takes over what the window's parts hold besides the field with the cursor, such as presses
+    /// that wait for their frame; false where that cannot be, which is shown.
+    [[nodiscard]] virtual bool takePending() { return true; }
+    /// What has to be asked or told before the file is written; false when it is not to be.
+    [[nodiscard]] virtual bool mayWrite() { return true; }
+    /// The file was written by this window.
+    virtual void wasSaved() {}
+    /// What Close in the File menu closes.
+    virtual void closeFront() { close(); }
+
+    /// Whether the document may give way to another one, or to none: what is typed is taken, and
+    /// unsaved work is asked for.
+    [[nodiscard]] bool mayLeave();
+    [[nodiscard]] Workspace& workspace() const { return m_workspace; }
+
+private:
+    [[nodiscard]] QString chooseName();
+    bool noteSaved(bool isSaved);
+    void chooseAndOpen();
+    void showTitle();
+    void makeNote();
+    void noteChange();
+    void openAgain();
+
+    Workspace& m_workspace;
+    EditedFile* m_file;
+    Name m_name;
+    QMenu* m_fileMenu = nullptr;
+    QToolBar* m_note = nullptr;
+    QLabel* m_noteText = nullptr;
+};
+
+} // namespace kavela::desktop

@@ -1,0 +1,101 @@
+#include "desktop/tools.h"
+
+#include "desktop/cross/cross_window.h"
+#include "desktop/motion/motion_window.h"
+#include "desktop/planning/planning_window.h"
+#include "desktop/race/race_window.h"
+#include "desktop/selection/selection_window.h"
+#include "desktop/sessions/session_window.h"
+#include "desktop/sessions/test_session_window.h"
+#include "desktop/taking/taking_window.h"
+#include "desktop/team/team_window.h"
+#include "desktop/watertests/tests_window.h"
+#include "planning/messages.h"
+
+#include <QCoreApplication>
+#include <QDate>
+
+#include <algorithm>
+
+namespace kavela::desktop {
+
+namespace {
+
+using Choice = ToolKind::Choice;
+
+QString tr(const char* text) {
+    return QCoreApplication::translate("Desktop", text);
+}
+
+template <class Window>
+ToolWindow* makeEditor(Workspace& workspace, const Autosave& autosave) {
+    return new Window(workspace, autosave);
+}
+
+template <class Window>
+ToolWindow* makeReader(Workspace& workspace, const Autosave& /*autosave*/) {
+    return new Window(workspace);
+}
+
+std::vector<ToolKind> makeTools() {
+    const QString selection = tr("Selection %1").arg(QDate::currentDate().year());
+    return {
+        {"race", OpensAs::Race, tr("Race analyzer"),
+         tr("Every split of a race side by side, coloured by rank."), "race", Choice::Files,
+         {tr("Open races"), tr("Split files"), "kvx", {}}, makeReader<RaceWindow>},
+        {"taking", OpensAs::FolderOfFilms, tr("Split taking"),
+         tr("Time every run from its video, exact to the frame."), "taking", Choice::Folder,
+         {tr("Open a folder of videos"), tr("Split files"), "kvx", {}}, makeEditor<TakingWindow>},
+        {"cross", OpensAs::Cross, tr("Kayak cross"),
+         tr("Time trials, heats and attacks of a cross race, from video."), "cross", Choice::Files,
+         {tr("Open a kayak cross"), tr("Split files"), "kvx", {}}, makeEditor<CrossWindow>},
+        {"team", OpensAs::Team, tr("Team"),
+         tr("Results of every athlete, season by season, and their category."), "team",
+         Choice::Document, {tr("Team results"), tr("Teams"), "kvteam", tr("Team")},
+         makeEditor<TeamWindow>},
+        {"selection", OpensAs::Selection, tr("Selection races"),
+         tr("Who is selected, by which results, and why."), "selection", Choice::Document,
+         {tr("Selection races"), tr("Selection races"), "kvsr", selection},
+         makeEditor<SelectionWindow>},
+        {"planning", OpensAs::Planning, tr("Planning"),
+         tr("Seasons, weeks and sessions, heart, gym and goals of a group."), "planning",
+         Choice::Document,
+         {planning_messages::ImportTitle, tr("Plannings"), "planning", tr("Planning")},
+         makeEditor<PlanningWindow>},
+        {"watertests", OpensAs::Tests, tr("Tests"),
+         tr("Lap, sprint and eight tests on the water, compared."), "watertests", Choice::Document,
+         {tr("Tests"), tr("Tests"), "kvtest", tr("Tests")}, makeEditor<TestsWindow>},
+        {"motion", OpensAs::Recording, tr("Boat motion"),
+         tr("Recordings of phone and watch over each other, and converted."), "motion",
+         Choice::Files, {tr("Open recordings"), tr("Recordings"), "kvb", {}},
+         makeReader<MotionWindow>},
+        {"session", OpensAs::Session, tr("Sessions"),
+         tr("Strokes, turns and segments of a recording, on a map and replayed."), "sessions",
+         Choice::Document, {tr("Sessions"), tr("Sessions"), "bms", tr("Session")},
+         makeEditor<SessionWindow>},
+        {"testsession", OpensAs::TestSession, tr("Test session"), {}, "sessions", Choice::Files,
+         {}, makeEditor<TestSessionWindow>},
+    };
+}
+
+const ToolKind* toolWhere(const std::function<bool(const ToolKind&)>& isIt) {
+    const auto found = std::ranges::find_if(toolKinds(), isIt);
+    return found == toolKinds().end() ? nullptr : &*found;
+}
+
+} // namespace
+
+const std::vector<ToolKind>& toolKinds() {
+    static const std::vector<ToolKind> Tools = makeTools();
+    return Tools;
+}
+
+const ToolKind* toolOfKind(const QString& kind) {
+    return toolWhere([&](const ToolKind& tool) { return tool.kind == kind; });
+}
+
+const ToolKind* toolFor(OpensAs opens) {
+    return toolWhere([&](const ToolKind& tool) { return tool.opens == opens; });
+}
+
+} // namespace kavela::desktop

@@ -1,0 +1,260 @@
+#include "desktop/shell/document.h"
+
+#include "common/recorders.h"
+#include "common/temp_folder.h"
+#include "common/text_file.h"
+#include "desktop/desktop.h"
+#include "desktop/shell/disk_worker.h"
+#include "desktop/team/team_window.h"
+#include "desktop/tools.h"
+
+#include <gmock/gmock.h>
+
+#include <QSemaphore>
+#include <QTest>
+
+#include <filesystem>
+
+/// What every document does: it is written beside the window, kept, and undone in steps that share.
+namespace kavela::test {
+
+namespace {
+
+/// An entry that counts how many of it there are.
+struct Entry {
+    static inline int alive = 0;
+
+    explicit Entry(int value = 0) : number(value) { ++alive; }
+    Entry(const Entry& other) : number(other.number) { ++alive; }
+    Entry(Entry&& other) noexcept : number(other.number) { ++alive; }
+    Entry& operator=(const Entry&) = default;
+    Entry& operator=(Entry&&) noexcept = default;
+    ~Entry() { --alive; }
+
+    friend bool operator==(const Entry& a, const Entry& b) { return a.number == b.number; }
+
+    int number;
+};
+
+struct Counted {
+    std::vector<Entry> entries;
+};
+
+} // namespace
+} // namespace kavela::test
+
+namespace kavela::desktop {
+
+template <>
+struct LargeParts<test::Counted> {
+    static constexpr auto lists = std::tuple([](auto& value) -> auto& { return value.entries; });
+    static constexpr auto wholes = std::tuple();
+};
+
+} // namespace kavela::desktop
+
+namespace kavela::test {
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::HasSubstr;
+using ::testing::IsEmpty;
+using ::testing::SizeIs;
+
+namespace fs = std::filesystem;
+
+QString qtText(const fs::path& path) {
+    return QString::fromStdString(path.string());
+}
+
+/// A document of numbers, a line each.
+class Numbers : public desktop::Document<Counted> {
+public:
+    using Document::Document;
+    ~Numbers() override { keepPending(); }
+
+    void startAt(const QString& path) { start({}, path, nullptr); }
+    void add(int number) {
+        edit("number", [&](Counted& value) { value.entries.emplace_back(number); });
+    }
+    [[nodiscard]] std::vector<int> numbers() const {
+        std::vector<int> numbers;
+        for (const Entry& entry : value().entries)
+            numbers.push_back(entry.number);
+        return numbers;
+    }
+
+protected:
+    [[nodiscard]] Content contentNow() const override {
+        return [numbers = numbers()] {
+            std::string text;
+            for (const int number : numbers)
+                text += std::to_string(number) + '\n';
+            return text;
+        };
+    }
+    [[nodiscard]] bool recover(const std::string& /*content*/) override { return false; }
+};
+
+/// Holds up whatever is to be written, as a slow disk does.
+class SlowDisk {
+public:
+    SlowDisk() {
+        desktop::disk::run([gate = m_gate] { gate->acquire(); });
+    }
+    SlowDisk(const SlowDisk&) = delete;
+    SlowDisk& operator=(const SlowDisk&) = delete;
+    ~SlowDisk() { m_gate->release(); }
+
+private:
+    std::shared_ptr<QSemaphore> m_gate = std::make_shared<QSemaphore>();
+};
+
+class DocumentTest : public ::testing::Test {
+protected:
+    DocumentTest() {
+        m_workspace.setAlerts(&m_recorder);
+        m_workspace.setAnswer([this](const Alert& question) {
+            m_questions.push_back(question.text);
+            return true;
+        });
+    }
+    ~DocumentTest() override { desktop::disk::waitForAll(); }
+
+    [[nodiscard]] fs::path file(const char* name) const { return m_folder.path() / name; }
+    [[nodiscard]] desktop::Autosave autosave() const {
+        return desktop::Autosave(qtText(file("kept")));
+    }
+
+    TempFolder m_folder;
+    Recorder m_recorder;
+    std::vector<std::string> m_questions;
+    desktop::Workspace m_workspace{Preferences(m_folder.path() / "preferences.ini"),
+                                   m_recorder.log(), [] { return ReferenceDate{8e8}; }};
+};
+
+TEST_F(DocumentTest, SavesBesideTheWindowWhatItWasWhenItWasAsked) {
+    Numbers document(m_workspace, autosave());
+    document.startAt(qtText(file("a.txt")));
+    document.add(1);
+    std::vector<bool> answers;
+    {
+        const SlowDisk slow;
+        document.saveBeside(nullptr, [&](bool isSaved) { answers.push_back(isSaved); });
+        EXPECT_TRUE(document.isSaving());
+        EXPECT_THAT(answers, IsEmpty()) << "the window goes on";
+        document.add(2);
+    }
+    QTRY_COMPARE(answers.size(), 1UL);
+    EXPECT_THAT(answers, ElementsAre(true));
+    EXPECT_EQ(readTextFile(file("a.txt")), "1\n");
+    EXPECT_TRUE(document.isDirty()) << "the second number is in no file";
+    {
+        const SlowDisk slow; // pressed twice: the second press writes what came between
+        document.saveBeside(nullptr);
+        document.add(3);
+        document.saveBeside(nullptr);
+    }
+    QTRY_VERIFY(!document.isDirty());
+    EXPECT_EQ(readTextFile(file("a.txt")), "1\n2\n3\n");
+    document.undoStack().undo();
+    EXPECT_TRUE(document.isDirty());
+}
+
+TEST_F(DocumentTest, StaysUnsavedWhereWritingFails) {
+    Numbers document(m_workspace, autosave());
+    document.startAt(qtText(file("gone") / "a.txt"));
+    document.add(1);
+    bool isSaved = true;
+    document.saveBeside(nullptr, [&](bool answer) { isSaved = answer; });
+    QTRY_VERIFY(!isSaved);
+    EXPECT_TRUE(document.isDirty());
+    EXPECT_THAT(m_recorder.alerts, SizeIs(1));
+    fs::create_directory(file("gone"));
+    EXPECT_TRUE(document.save(nullptr));
+    EXPECT_FALSE(document.isDirty());
+}
+
+/// Who never pauses is not kept waiting for a pause.
+TEST_F(DocumentTest, KeepsTheFirstOfManyEditsWithinASecondOfIt) {
+    Numbers document(m_workspace, autosave());
+    document.startAt(qtText(file("a.txt")));
+    int number = 0;
+    QTimer edits;
+    QObject::connect(&edits, &QTimer::timeout, &edits, [&] { document.add(++number); });
+    edits.start(200);
+    const auto isKept = [&] { return autosave().find(document.path()).has_value(); };
+    EXPECT_TRUE(QTest::qWaitFor(isKept, 3000)) << "after " << number << " edits";
+    edits.stop();
+}
+
+TEST_F(DocumentTest, RefusesToWriteOverAFileOfAnotherWindow) {
+    Numbers theirs(m_workspace, autosave());
+    theirs.startAt(qtText(file("theirs.txt")));
+    theirs.add(1);
+    ASSERT_TRUE(theirs.save(nullptr));
+    fs::create_symlink(file("theirs.txt"), file("link.txt"));
+    Numbers mine(m_workspace, autosave());
+    mine.startAt(qtText(file("mine.txt")));
+    mine.add(2);
+    for (const char* name : {"theirs.txt", "link.txt"})
+        EXPECT_FALSE(mine.saveAs(qtText(file(name)), nullptr)) << name;
+    EXPECT_THAT(m_recorder.alerts, SizeIs(2));
+    EXPECT_EQ(readTextFile(file("theirs.txt")), "1\n");
+    EXPECT_TRUE(mine.isDirty());
+}
+
+TEST_F(DocumentTest, StepsOfUndoHoldOnlyWhatTheyChanged) {
+    constexpr int Size = 200;
+    constexpr int Edits = 50;
+    Numbers document(m_workspace, autosave());
+    document.startAt(qtText(file("a.txt")));
+    document.edit("many", [](Counted& value) {
+        for (int i = 0; i < Size; ++i)
+            value.entries.emplace_back(i);
+    });
+    for (int i = 0; i < Edits; ++i)
+        document.edit("one", [&](Counted& value) { value.entries[7].number = Size + i; });
+    EXPECT_LE(Entry::alive, 2 * Size + Edits + 1) << "the value, its parts, and one for each step";
+    for (int i = 0; i < Edits; ++i)
+        document.undoStack().undo();
+    EXPECT_EQ(document.numbers().at(7), 7);
+    EXPECT_THAT(document.numbers(), SizeIs(Size));
+    document.undoStack().redo();
+    EXPECT_EQ(document.numbers().at(7), Size);
+}
+
+/// A document that never had a file is recovered in its tool, which its path cannot tell.
+TEST_F(DocumentTest, IsRecoveredAsWhatItWasThoughItWasNeverSaved) {
+    const QString path = qtText(file("New team"));
+    {
+        auto program = std::make_unique<desktop::Desktop>(m_workspace, autosave());
+        desktop::TeamWindow window(m_workspace, autosave());
+        window.setAttribute(Qt::WA_DeleteOnClose, false);
+        window.startNew(path);
+        window.document().edit("athlete", [](myTeamToSaveStruct& team) {
+            team.realMyTeam.emplace_back().name = "Nova";
+        });
+        window.document().keepWork();
+    } // ends without a word
+    desktop::Desktop program(m_workspace, autosave());
+    program.offerRecovery();
+    ASSERT_THAT(program.windowsOf<desktop::TeamWindow>(), SizeIs(1));
+    desktop::TeamWindow& window = *program.windowsOf<desktop::TeamWindow>().front();
+    ASSERT_THAT(window.document().athletes(), SizeIs(1));
+    EXPECT_EQ(window.document().athletes().front().name, "Nova");
+    EXPECT_TRUE(window.document().isDirty());
+    EXPECT_THAT(m_recorder.alerts, IsEmpty());
+}
+
+/// One line in the table is all that a tool needs to be found everywhere.
+TEST_F(DocumentTest, EveryToolOfTheTableMakesAWindowOfItsKind) {
+    for (const desktop::ToolKind& tool : desktop::toolKinds()) {
+        const std::unique_ptr<desktop::ToolWindow> window(tool.make(m_workspace, autosave()));
+        EXPECT_EQ(window->kind(), tool.kind);
+        EXPECT_EQ(desktop::toolFor(tool.opens), &tool);
+    }
+}
+
+} // namespace
+} // namespace kavela::test
