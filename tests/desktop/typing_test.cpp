@@ -246,6 +246,11 @@ TEST_F(CellsTest, TakeTheCommaUnderTheThumbAndShowIt) {
     press("1:23.5");
     press(Qt::Key_Return);
     EXPECT_EQ(timeOf(1), 83.5);
+    m_table->setCurrentIndex(cell(1));
+    press("x");
+    press(Qt::Key_Return);
+    EXPECT_THAT(refusalIn(m_window), HasSubstr("such as 92,34"));
+    press(Qt::Key_Escape);
     EXPECT_THAT(m_recorder.alerts, IsEmpty());
 }
 

@@ -32,8 +32,8 @@ Number within(const NumberRange& range, std::optional<Number> number, const QStr
 } // namespace
 
 void refuseTyped(const QString& expected, const QString& text) {
-    throw RefusedEntry(text.isEmpty() ? expected + '.'
-                                      : tr("%1; “%2” is none.").arg(expected, text));
+    const QString said = shownNumbers(expected);
+    throw RefusedEntry(text.isEmpty() ? said + '.' : tr("%1; “%2” is none.").arg(said, text));
 }
 
 double typedReal(const QString& text, const NumberRange& range) {

@@ -35,7 +35,7 @@ struct NumberRange {
 [[nodiscard]] std::int64_t typedWholeOrNone(const QString& text, const NumberRange& range);
 [[nodiscard]] double typedSecondsOrNone(const QString& text, const NumberRange& range);
 
-/// Refuses a text: "`expected`; “text” is none."
+/// Refuses a text: "`expected`; “text” is none.", with examples as the system writes numbers.
 [[noreturn]] void refuseTyped(const QString& expected, const QString& text);
 
 } // namespace kavela::desktop
