@@ -1,6 +1,6 @@
 #include "desktop/selection/runs_to_enter.h"
 
-#include "common/number_text.h"
+#include "desktop/shell/shown_number.h"
 #include "results/athlete_keys.h"
 #include "results/name_likeness.h"
 
@@ -22,7 +22,7 @@ QString qtText(const std::string& text) {
 }
 
 QString resultText(double time, std::int64_t penalty) {
-    const QString seconds = qtText(hundredthsText(time));
+    const QString seconds = shownHundredths(time);
     return penalty > 0 ? QString("%1 (%2)").arg(seconds).arg(penalty) : seconds;
 }
 
@@ -190,10 +190,10 @@ QString RunsToEnter::runRemark(std::size_t run, const Outcome& outcome) const {
     const auto& kept = outcome.entered.keptExpected;
     if (std::ranges::find(kept, place) != kept.end())
         remark += tr("; xTime %1 stays")
-                      .arg(qtText(hundredthsText(outcome.after.categories[athlete->category]
-                                                     .athletes[athlete->athlete]
-                                                     .racedata[m_race]
-                                                     .xTime)));
+                      .arg(shownHundredths(outcome.after.categories[athlete->category]
+                                               .athletes[athlete->athlete]
+                                               .racedata[m_race]
+                                               .xTime));
     return remark;
 }
 
