@@ -4,6 +4,7 @@
 #include "common/recorders.h"
 #include "common/safe_file.h"
 #include "common/temp_folder.h"
+#include "desktop/shell/file_stamp.h"
 #include "desktop/shell/workspace.h"
 #include "results/selection_file.h"
 
@@ -14,7 +15,6 @@
 #include <QTest>
 #include <QToolBar>
 
-#include <chrono>
 #include <filesystem>
 
 /// A file that another program writes while a window edits it.
@@ -44,14 +44,14 @@ protected:
     [[nodiscard]] bool isTold() const { return m_note->isVisible(); }
     void openAgain() { m_note->actions().at(1)->trigger(); }
 
-    /// As another program would: the file is replaced as a whole, and later. Two writes in one tick
-    /// of the file system's clock have the same time and cannot be told apart.
+    /// As another program would: the file is replaced as a whole, here within the tick of the
+    /// disk's clock in which it was written before.
     void writeElsewhere(const char* race) {
         selectionracesStruct_v3 document = m_window.document().value();
         document.races.at(0).location = race;
         const auto before = std::filesystem::last_write_time(file());
         writeFileSafely(file(), encode(document));
-        std::filesystem::last_write_time(file(), before + std::chrono::seconds(1));
+        std::filesystem::last_write_time(file(), before);
     }
     [[nodiscard]] std::string race() { return m_window.document().value().races.at(0).location; }
 
@@ -65,6 +65,25 @@ protected:
                                                        (m_folder.path() / "kept").string()))};
     QToolBar* m_note = m_window.findChild<QToolBar*>("fileNote");
 };
+
+TEST(FileStamp, TellsAnyOtherStateOfAFileWithinATickOfTheClock) {
+    const TempFolder folder;
+    const auto file = folder.add("race.kvx", "one");
+    const QString path = QString::fromStdString(file.string());
+    const desktop::FileStamp read(path);
+    EXPECT_TRUE(read.isThere());
+    EXPECT_EQ(desktop::FileStamp(path), read);
+    const auto time = std::filesystem::last_write_time(file);
+    writeFileSafely(file, "two");
+    std::filesystem::last_write_time(file, time);
+    const desktop::FileStamp replaced(path);
+    EXPECT_NE(replaced, read);
+    std::filesystem::resize_file(file, 2);
+    std::filesystem::last_write_time(file, time);
+    EXPECT_NE(desktop::FileStamp(path), replaced);
+    std::filesystem::remove(file);
+    EXPECT_EQ(desktop::FileStamp(path), desktop::FileStamp());
+}
 
 TEST_F(ChangedElsewhereTest, IsToldAtOnceAndOpenedAgain) {
     EXPECT_FALSE(isTold());

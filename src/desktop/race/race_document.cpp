@@ -18,11 +18,6 @@ QString qtText(const std::string& text) {
     return QString::fromStdString(text);
 }
 
-fs::file_time_type lastWritten(const QString& path) {
-    std::error_code ignored;
-    return fs::last_write_time(path.toStdString(), ignored);
-}
-
 QString upgradeNote(const OpenedRace& race) {
     if (race.foundAs == &documentVersions().front())
         return {};
@@ -222,13 +217,14 @@ void RaceDocument::watch() {
     if (!m_watcher.files().isEmpty())
         m_watcher.removePaths(m_watcher.files());
     m_watcher.addPath(m_path);
-    m_readTime = lastWritten(m_path);
+    m_known = FileStamp(m_path);
 }
 
 void RaceDocument::noticeDisk() {
-    const bool isSame = QFileInfo::exists(m_path) && lastWritten(m_path) == m_readTime;
+    const FileStamp now(m_path);
+    const bool isSame = now.isThere() && now == m_known;
     // A file replaced by renaming is watched no longer.
-    if (QFileInfo::exists(m_path) && m_watcher.files().isEmpty())
+    if (now.isThere() && m_watcher.files().isEmpty())
         m_watcher.addPath(m_path);
     if (!isSame)
         emit changedOnDisk();

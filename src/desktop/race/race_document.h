@@ -5,6 +5,7 @@
 #include "analysis/race_set.h"
 #include "analysis/split_table.h"
 #include "analysis/table_figures.h"
+#include "desktop/shell/file_stamp.h"
 
 #include <QFileSystemWatcher>
 #include <QObject>
@@ -120,7 +121,7 @@ private:
     QFileSystemWatcher m_watcher;
     QString m_path;
     QString m_upgradeNote;
-    std::filesystem::file_time_type m_readTime;
+    FileStamp m_known; ///< the file as it was read
     infodata031 m_info;
     RunFilter m_filter;
     bool m_isAccumulated = false;

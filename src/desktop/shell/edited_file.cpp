@@ -19,15 +19,7 @@ namespace kavela::desktop {
 
 namespace {
 
-using FileTime = std::optional<std::filesystem::file_time_type>;
-
 constexpr int KeepAfterMilliseconds = 1000;
-
-FileTime lastWritten(const std::filesystem::path& path) {
-    std::error_code error;
-    const auto time = std::filesystem::last_write_time(path, error);
-    return error ? std::nullopt : std::optional(time);
-}
 
 std::string reasonOf(const std::exception_ptr& fault) {
     try {
@@ -56,7 +48,7 @@ struct EditedFile::Writing {
     unsigned edits = 0; ///< of the document as it is written
     QPointer<QWidget> over;
     Saved saved;
-    FileTime written;
+    FileStamp written;
     std::exception_ptr fault;
     std::exception_ptr besideFault;
     bool isFinished = false;
@@ -91,10 +83,10 @@ void EditedFile::begin(const QString& path, QWidget* over) {
     m_path = QFileInfo(path).absoluteFilePath();
     m_isNamed = false;
     m_workspace.openFiles().hold(*this, m_path);
-    m_readTime = lastWritten(m_path.toStdString());
+    m_known = FileStamp(m_path);
     watch();
     m_undo.clear();
-    if (m_readTime)
+    if (m_known.isThere())
         m_workspace.addRecentFile(m_path);
     offerRecovery(over);
 }
@@ -102,7 +94,7 @@ void EditedFile::begin(const QString& path, QWidget* over) {
 void EditedFile::watch() {
     if (!m_watcher.files().isEmpty())
         m_watcher.removePaths(m_watcher.files());
-    if (m_readTime)
+    if (m_known.isThere())
         m_watcher.addPath(m_path);
 }
 
@@ -110,11 +102,11 @@ void EditedFile::watch() {
 void EditedFile::noticeDisk() {
     if (m_writing)
         return;
-    const auto now = lastWritten(m_path.toStdString());
+    const FileStamp now(m_path);
     // A file that was replaced by renaming is watched no longer.
-    if (now && m_watcher.files().isEmpty())
+    if (now.isThere() && m_watcher.files().isEmpty())
         m_watcher.addPath(m_path);
-    if (now != m_readTime)
+    if (now != m_known)
         emit changedElsewhere();
 }
 
@@ -159,14 +151,14 @@ void EditedFile::keepWork() {
 }
 
 bool EditedFile::mayOverwrite(QWidget* over) const {
-    const auto now = lastWritten(m_path.toStdString());
-    return !now || mayReplace(now != m_readTime, over);
+    const FileStamp now(m_path);
+    return !now.isThere() || mayReplace(now != m_known, over);
 }
 
 bool EditedFile::mayReplace(bool isChangedOnDisk, QWidget* over) const {
     if (!isChangedOnDisk)
         return true;
-    return m_workspace.ask(
+    return m_workspace.askBeforeLoss(
         {"", tr("The file was changed by another program since it was opened. Saving replaces "
                 "what that program wrote.")
                  .toStdString()},
@@ -233,7 +225,7 @@ std::shared_ptr<EditedFile::Writing> EditedFile::write(const QString& path, QWid
     const auto task = [writing, content = contentNow(), beside = besideNow()] {
         const std::filesystem::path file = writing->path.toStdString();
         writing->fault = faultOf([&] { writeFileSafely(file, content()); });
-        writing->written = lastWritten(file);
+        writing->written = FileStamp(writing->path);
         if (!writing->fault && beside)
             writing->besideFault = faultOf([&] { beside(file); });
     };
@@ -274,7 +266,7 @@ void EditedFile::noteWritten(const Writing& writing) {
     m_isNamed = true;
     m_olderLayout.clear();
     m_workspace.openFiles().hold(*this, m_path);
-    m_readTime = writing.written;
+    m_known = writing.written;
     watch();
     if (m_edits == writing.edits)
         m_undo.setClean();

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "desktop/shell/autosave.h"
+#include "desktop/shell/file_stamp.h"
 
 #include <QFileSystemWatcher>
 #include <QObject>
@@ -11,7 +12,6 @@
 #include <filesystem>
 #include <functional>
 #include <memory>
-#include <optional>
 #include <string>
 
 class QWidget;
@@ -144,7 +144,7 @@ private:
     bool m_isNamed = false;
     unsigned m_edits = 0; ///< tells one state of the document from the next
     std::string m_olderLayout;
-    std::optional<std::filesystem::file_time_type> m_readTime;
+    FileStamp m_known; ///< the file as it was read or saved here
     std::shared_ptr<Writing> m_writing;
 };
 
