@@ -74,7 +74,7 @@ TEST(FileStamp, TellsAnyOtherStateOfAFileWithinATickOfTheClock) {
     EXPECT_TRUE(read.isThere());
     EXPECT_EQ(desktop::FileStamp(path), read);
     const auto time = std::filesystem::last_write_time(file);
-    writeFileSafely(file, "two");
+    writeFileSafely(file, "other");
     std::filesystem::last_write_time(file, time);
     const desktop::FileStamp replaced(path);
     EXPECT_NE(replaced, read);

@@ -277,6 +277,17 @@ TEST_F(CrossWindowTest, KeepsAStartWithoutSplitsThroughOtherTrialsAndUndo) {
     EXPECT_THAT(m_window->trials().marks(), SizeIs(1));
 }
 
+TEST_F(CrossWindowTest, FindsAStartWithoutSplitsAgainAfterACrash) {
+    ASSERT_NO_FATAL_FAILURE(openWithFilm(twoTrials()));
+    press(Qt::Key_M);
+    QTRY_VERIFY(autosave().find(path()));
+    const std::unique_ptr<CrossWindow> crashed = std::move(m_window); // it never ends
+    ASSERT_NO_FATAL_FAILURE(reopen());
+    EXPECT_THAT(m_questions, SizeIs(1));
+    EXPECT_EQ(text("trialFront"), "M marks split 1");
+    EXPECT_TRUE(m_window->isWindowModified());
+}
+
 TEST_F(CrossWindowTest, ListsAndEditsATrialWhoseFilmIsMissingAndKeepsCodesItDoesNotKnow) {
     splittakerdata031 race = twoTrials();
     ttdata030& bea = race.crossracedata.timetrials[1];

@@ -22,10 +22,33 @@ struct KeptStarts {
 };
 BOOST_DESCRIBE_STRUCT(KeptStarts, (), (starts))
 
+/// That of a time trial, counted from 0.
+struct KeptTrialStart {
+    std::int64_t trial;
+    CMTime stamp;
+};
+BOOST_DESCRIBE_STRUCT(KeptTrialStart, (), (trial, stamp))
+
+struct KeptTrialStarts {
+    std::vector<KeptTrialStart> trialStarts;
+};
+BOOST_DESCRIBE_STRUCT(KeptTrialStarts, (), (trialStarts))
+
 struct KeptTaking : splittakerdata031 {
     std::vector<KeptStart> starts;
+    std::vector<KeptTrialStart> trialStarts;
 };
-BOOST_DESCRIBE_STRUCT(KeptTaking, (splittakerdata031), (starts))
+BOOST_DESCRIBE_STRUCT(KeptTaking, (splittakerdata031), (starts, trialStarts))
+
+/// What was kept beside the split file; nothing where an earlier release kept none.
+template <class Kept>
+Kept keptBeside(const JsonDocument& kept) {
+    try {
+        return decode<Kept>(kept);
+    } catch (const DecodeError&) {
+        return {};
+    }
+}
 
 bool hasStartAlone(const TakenRun& run) {
     return run.start && !run.start->empty() && marksOf(run.record->sectioninfo).marks.empty();
@@ -34,27 +57,27 @@ bool hasStartAlone(const TakenRun& run) {
 } // namespace
 
 std::string keptWork(const TakingState& state) {
-    KeptTaking kept{documentOf(state), {}};
+    KeptTaking kept{documentOf(state), {}, {}};
     for (std::size_t run = 0; run < state.runs.size(); ++run)
         if (hasStartAlone(state.runs[run]))
             kept.starts.push_back({static_cast<std::int64_t>(run), *state.runs[run].start});
+    for (const auto& [trial, stamp] : state.trialStarts)
+        kept.trialStarts.push_back({static_cast<std::int64_t>(trial), stamp});
     return encode(kept);
 }
 
 void takeStarts(TakingState& state, const JsonDocument& kept) {
-    std::vector<KeptStart> starts;
-    try {
-        starts = decode<KeptStarts>(kept).starts;
-    } catch (const DecodeError&) {
-        return; // kept without any, by an earlier release
-    }
-    for (KeptStart& start : starts)
+    for (KeptStart& start : keptBeside<KeptStarts>(kept).starts)
         if (start.run >= 0 && std::cmp_less(start.run, state.runs.size()) && !start.stamps.empty())
             state.runs[static_cast<std::size_t>(start.run)].start = std::move(start.stamps);
+    for (const KeptTrialStart& start : keptBeside<KeptTrialStarts>(kept).trialStarts)
+        if (start.trial >= 0 && std::cmp_less(start.trial, state.cross->timetrials.size()))
+            state.trialStarts[static_cast<std::size_t>(start.trial)] = start.stamp;
 }
 
 int startsWithoutSplit(const TakingState& state) {
-    return static_cast<int>(std::ranges::count_if(state.runs, hasStartAlone));
+    return static_cast<int>(std::ranges::count_if(state.runs, hasStartAlone)) +
+           static_cast<int>(state.trialStarts.size());
 }
 
 } // namespace kavela::desktop

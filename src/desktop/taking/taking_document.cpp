@@ -230,10 +230,16 @@ void TakingDocument::editRun(int index, const QString& what,
 
 void TakingDocument::editCross(const QString& what,
                                const std::function<void(crossdata030&)>& change) {
+    editCross(what, trialStarts(), change);
+}
+
+void TakingDocument::editCross(const QString& what, TrialStarts starts,
+                               const std::function<void(crossdata030&)>& change) {
     auto edited = std::make_shared<crossdata030>(cross());
     change(*edited);
     TakingState after = value();
     after.cross = std::move(edited);
+    after.trialStarts = std::move(starts);
     put(what, std::move(after));
 }
 

@@ -36,6 +36,7 @@ public:
 
     [[nodiscard]] const infodata031& info() const { return *value().info; }
     [[nodiscard]] const crossdata030& cross() const { return *value().cross; }
+    [[nodiscard]] const TrialStarts& trialStarts() const { return value().trialStarts; }
     [[nodiscard]] int runCount() const { return static_cast<int>(value().runs.size()); }
     [[nodiscard]] const athletedata031& run(int index) const;
     [[nodiscard]] RunIdentity identityOf(int index) const;
@@ -69,6 +70,9 @@ public:
     void editRuns(const QString& what, const std::function<void(athletedata031&)>& change);
     void editInfo(const QString& what, const std::function<void(infodata031&)>& change);
     void editCross(const QString& what, const std::function<void(crossdata030&)>& change);
+    /// The same, with other start marks of the time trials.
+    void editCross(const QString& what, TrialStarts starts,
+                   const std::function<void(crossdata030&)>& change);
     void setMarks(int index, const QString& what, const RunMarks& marks);
     void addRun(const QString& what, athletedata031 run);
     void removeRun(int index);

@@ -1,10 +1,12 @@
 #pragma once
 
+#include "common/cm_time.h"
 #include "common/log.h"
 #include "common/reference_date.h"
 #include "splitdata/document.h"
 #include "splittaking/marking.h"
 
+#include <map>
 #include <memory>
 #include <optional>
 #include <vector>
@@ -21,12 +23,17 @@ struct TakenRun {
     RunIdentity identity = std::make_shared<const char>();
 };
 
+/// The start marks of time trials that have no split yet, by the trial's place in the file. A file
+/// tells the start of a trial only by its time up to the last split.
+using TrialStarts = std::map<std::size_t, CMTime>;
+
 /// A split file in the making, at one moment. Copies share what they have in common, so that every
 /// step of the undo stack may hold one.
 struct TakingState {
     std::shared_ptr<const infodata031> info = std::make_shared<infodata031>();
     std::vector<TakenRun> runs;
     std::shared_ptr<const crossdata030> cross = std::make_shared<crossdata030>();
+    TrialStarts trialStarts;
 };
 
 [[nodiscard]] TakingState stateOf(splittakerdata031 document);

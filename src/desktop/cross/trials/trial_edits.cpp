@@ -19,6 +19,19 @@
 /// What the page of the time trials changes. Every change is one step that can be undone.
 namespace kavela::desktop {
 
+namespace {
+
+/// The starts when a trial is gone and those behind it move up.
+TrialStarts startsWithout(const TrialStarts& starts, std::size_t trial) {
+    TrialStarts left;
+    for (const auto& [place, start] : starts)
+        if (place != trial)
+            left.emplace(place > trial ? place - 1 : place, start);
+    return left;
+}
+
+} // namespace
+
 void TrialPage::commit() {
     auto* const field = qobject_cast<QLineEdit*>(focusWidget());
     if (field && field->hasFocus())
@@ -84,11 +97,10 @@ void TrialPage::removeTrial() {
     if (!record())
         return;
     const std::size_t trial = *m_trial;
-    const QString what = tr("time trial removed");
     m_selected.reset();
-    m_starts.set(m_desk.document.undoStack(), what, m_starts.without(trial), [&] {
-        edit(what, [&](crossdata030& cross) { kavela::removeTrial(cross, trial); });
-    });
+    m_desk.document.editCross(tr("time trial removed"),
+                              startsWithout(m_desk.document.trialStarts(), trial),
+                              [&](crossdata030& cross) { kavela::removeTrial(cross, trial); });
     emit filmChanged();
     emit marksChanged();
 }
@@ -98,15 +110,19 @@ void TrialPage::setRunMarks(const QString& what, const RunMarks& marks) {
     const bool hasSplit =
         std::ranges::any_of(marks.marks, [](const Stamps& stamps) { return !stamps.empty(); });
     const bool hasStart = marks.start && !marks.start->empty();
-    const auto starts = m_starts.with(
-        *m_trial, hasStart && !hasSplit ? std::optional(marks.start->front()) : std::nullopt);
+    TrialStarts starts = m_desk.document.trialStarts();
+    starts.erase(*m_trial);
+    if (hasStart && !hasSplit)
+        starts.emplace(*m_trial, marks.start->front());
     const bool isInTrial = marks.marks != record()->splittimes || hasSplit;
-    m_starts.set(m_desk.document.undoStack(), what, starts, isInTrial ? [&] {
-        edit(what, [&](crossdata030& cross) {
-            applyMarks(marks, cross.timetrials.at(*m_trial));
-            rankTrials(cross);
-        });
-    } : std::function<void()>());
+    if (!isInTrial && starts == m_desk.document.trialStarts())
+        return;
+    m_desk.document.editCross(what, std::move(starts), [&](crossdata030& cross) {
+        if (!isInTrial)
+            return;
+        applyMarks(marks, cross.timetrials.at(*m_trial));
+        rankTrials(cross);
+    });
 }
 
 void TrialPage::mark(const CMTime& moment) {

@@ -44,10 +44,6 @@ QString markName(const TrialMark& mark, bool isSelected) {
 
 TrialPage::TrialPage(const CrossDesk& desk)
     : CrossPage(desk),
-      m_starts([this] {
-          refresh();
-          emit marksChanged();
-      }),
       m_list(new TrialList),
       m_boats(new QComboBox),
       m_bar(new QTabBar),
@@ -108,7 +104,6 @@ QWidget* TrialPage::makeModes() {
     m_running->setObjectName("trialRunning");
     m_running->setFont(theme::titleFont(*this));
     m_splits->setObjectName("trialSplits");
-    m_splits->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     m_splits->setToolTip(tr("A click shows the frame of a split"));
     m_stack->addWidget(m_splits);
     m_stack->addWidget(m_gates);
@@ -179,8 +174,9 @@ RunMarks TrialPage::runMarks() const {
     RunMarks marks = marksOf(*record());
     if (std::ranges::all_of(marks.marks, &Stamps::empty))
         marks.marks.clear(); // an older file has one empty split for none
-    if (const auto start = m_starts.of(*m_trial); start && !marks.start)
-        marks.start = Stamps{*start};
+    const TrialStarts& starts = m_desk.document.trialStarts();
+    if (const auto start = starts.find(*m_trial); start != starts.end() && !marks.start)
+        marks.start = Stamps{start->second};
     return marks;
 }
 
@@ -229,7 +225,6 @@ void TrialPage::refresh() {
     const auto& trials = m_desk.cross().timetrials;
     if (m_path != m_desk.document.path()) {
         m_path = m_desk.document.path();
-        m_starts.clear();
         m_trial.reset();
     }
     const bool isOther = followTrial();

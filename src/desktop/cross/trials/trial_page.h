@@ -1,7 +1,6 @@
 #pragma once
 
 #include "desktop/cross/cross_page.h"
-#include "desktop/cross/trials/start_marks.h"
 #include "desktop/cross/trials/trial_marks.h"
 
 #include <memory>
@@ -113,8 +112,7 @@ private:
     [[nodiscard]] std::optional<std::string> refusalToMove(const TrialMark& mark,
                                                            const CMTime& moment) const;
 
-    StartMarks m_starts;
-    QString m_path; ///< of the document that the starts belong to
+    QString m_path; ///< of the document that is shown
     std::optional<std::size_t> m_trial;
     TrialMode m_mode = TrialMode::Splits;
     std::optional<std::int64_t> m_gate;
