@@ -83,6 +83,9 @@ QVariant RunTableModel::data(const QModelIndex& index, int role) const {
 }
 
 QVariant RunTableModel::headerData(int section, Qt::Orientation orientation, int role) const {
+    if (orientation == Qt::Horizontal && role == Qt::TextAlignmentRole)
+        return QVariant((section < TakenColumn ? Qt::AlignLeft : Qt::AlignRight) |
+                        Qt::AlignVCenter);
     if (orientation == Qt::Vertical || role != Qt::DisplayRole)
         return {};
     static const QStringList titles{tr("Name"), tr("Cat"), tr("Phase"), tr("Total")};

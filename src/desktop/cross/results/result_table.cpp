@@ -21,6 +21,12 @@ void fitHeight(QTableWidget& table) {
                          2 * table.frameWidth());
 }
 
+void alignTitles(QTableWidget& table, int firstNumber) {
+    for (int column = 0; column < table.columnCount(); ++column)
+        table.horizontalHeaderItem(column)->setTextAlignment(
+            (column < firstNumber ? Qt::AlignLeft : Qt::AlignRight) | Qt::AlignVCenter);
+}
+
 } // namespace
 
 QTableWidget* resultTable(const QString& name, const QStringList& titles, int firstNumber) {
@@ -34,9 +40,7 @@ QTableWidget* resultTable(const QString& name, const QStringList& titles, int fi
     table->setWordWrap(false);
     table->horizontalHeader()->setStretchLastSection(false);
     table->horizontalHeader()->setSectionResizeMode(0, QHeaderView::Stretch);
-    for (int column = 0; column < table->columnCount(); ++column)
-        table->horizontalHeaderItem(column)->setTextAlignment(
-            (column < firstNumber ? Qt::AlignLeft : Qt::AlignRight) | Qt::AlignVCenter);
+    alignTitles(*table, firstNumber);
     return table;
 }
 
@@ -45,6 +49,7 @@ void fillResults(QTableWidget& table, const std::vector<ResultRow>& rows, int fi
     for (const ResultRow& row : rows)
         texts.push_back(row.texts);
     fillTable(table, texts);
+    alignTitles(table, firstNumber); // also over what goes with numbers
     for (int row = 0; row < table.rowCount(); ++row) {
         const ResultRow& shown = rows[static_cast<std::size_t>(row)];
         for (int column = 0; column < table.columnCount(); ++column) {

@@ -51,7 +51,6 @@ GateForm::GateForm(QWidget* parent)
     m_direction->setObjectName("gateDirection");
     m_style->setObjectName("gateStyle");
     m_table->setObjectName("gates");
-    m_table->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     m_table->setToolTip(tr("A click brings a gate in front"));
     auto* turn = new QHBoxLayout;
     turn->addWidget(m_direction, 1);

@@ -19,7 +19,6 @@ RollForm::RollForm(QWidget* parent)
     m_direction->setObjectName("rollDirection");
     m_style->setObjectName("rollStyle");
     m_table->setObjectName("roll");
-    m_table->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     m_table->setSelectionMode(QAbstractItemView::NoSelection);
     auto* roll = new QHBoxLayout;
     roll->addWidget(m_direction, 1);

@@ -70,7 +70,6 @@ QTableWidget* TrialList::makeTable() {
     table->horizontalHeader()->setSectionResizeMode(FilmColumn, QHeaderView::Fixed);
     table->horizontalHeader()->setStretchLastSection(false);
     table->horizontalHeader()->resizeSection(FilmColumn, 140);
-    table->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     return table;
 }
 

@@ -40,6 +40,8 @@ TotalsTable::TotalsTable(QWidget* parent) : EditOrder(parent), m_cells(new CellD
     verticalHeader()->hide();
     verticalHeader()->setDefaultSectionSize(fontMetrics().height() + theme::SmallSpacing);
     horizontalHeader()->setHighlightSections(false);
+    horizontalHeader()->setDefaultAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    horizontalHeaderItem(CategoryColumn)->setTextAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
     horizontalHeader()->setSectionResizeMode(CategoryColumn, QHeaderView::Stretch);
     setShowGrid(false);
