@@ -73,10 +73,10 @@ void TrackOffsetDialog::layOut() {
     form->addRow(m_overlap);
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Cancel);
     m_join = buttons->addButton(tr("Join it"), QDialogButtonBox::AcceptRole);
-    m_join->setDefault(true);
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     form->addRow(buttons);
+    m_join->setDefault(true); // once it is part of the dialog: a button asks that for it
     setMinimumWidth(460);
 }
 

@@ -74,13 +74,15 @@ ResultsDialog::ResultsDialog(const std::vector<athletedata031>& runs, const Resu
         column->addWidget(box);
     }
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Cancel);
-    buttons->addButton(tr("Import"), QDialogButtonBox::AcceptRole)->setDefault(true);
+    auto* import = buttons->addButton(tr("Import"), QDialogButtonBox::AcceptRole);
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     column->addWidget(buttons);
+    import->setDefault(true); // once it is part of the dialog: a button asks that for it
     for (int row = 0; row < m_table->rowCount(); ++row)
         fillRow(row);
     m_table->resizeColumnsToContents();
+    m_table->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     m_table->horizontalHeader()->setStretchLastSection(true);
     connect(m_table, &QTableWidget::itemChanged, this, &ResultsDialog::showCount);
     showCount();
