@@ -276,10 +276,9 @@ RaceWindow* Desktop::makeRaceWindow() {
 }
 
 RaceWindow* Desktop::windowOfRace(const QString& path) const {
-    const QString wanted = canonicalPath(path);
     for (RaceWindow* const window : windowsOf<RaceWindow>())
         for (const QString& shown : window->paths())
-            if (canonicalPath(shown) == wanted)
+            if (isSameFile(shown, path))
                 return window;
     return nullptr;
 }
@@ -358,9 +357,8 @@ QList<ToolWindow*> Desktop::windows() const {
 }
 
 bool Desktop::raiseEditorOf(const QString& path) {
-    const QString wanted = canonicalPath(path);
     for (ToolWindow* const window : windows())
-        if (window->file() && canonicalPath(window->file()->path()) == wanted) {
+        if (window->file() && isSameFile(window->file()->path(), path)) {
             bringToFront(*window);
             return true;
         }

@@ -33,7 +33,7 @@ QString splitFileOf(const QString& path) {
 /// What opens a document that may never have been saved: a new one stands for its folder.
 QString openable(const QString& path) {
     const QString folder = QFileInfo(path).absolutePath();
-    const bool isNew = !QFileInfo::exists(path) && splitFileOf(folder) == canonicalPath(path);
+    const bool isNew = !QFileInfo::exists(path) && isSameFile(splitFileOf(folder), path);
     return isNew ? folder : path;
 }
 
@@ -42,7 +42,7 @@ template <class Window>
 Window* windowOf(const QList<Window*>& windows, const QString& path) {
     const QString file = splitFileOf(path);
     for (Window* const window : windows)
-        if (canonicalPath(window->document().path()) == file)
+        if (isSameFile(window->document().path(), file))
             return window;
     return nullptr;
 }
@@ -152,9 +152,7 @@ TakingWindow* Desktop::showTaking(const QString& path) {
 void Desktop::showInAnalyzer(const TakingDocument& document) {
     RaceWindow* const shown = windowOfRace(document.path());
     RaceWindow* const window = shown ? shown : makeRaceWindow();
-    const auto isIt = [&](const QString& path) {
-        return canonicalPath(path) == canonicalPath(document.path());
-    };
+    const auto isIt = [&](const QString& path) { return isSameFile(path, document.path()); };
     const QStringList paths = window->paths();
     const auto known = std::ranges::find_if(paths, isIt);
     window->showRace(document.finished(), known == paths.end() ? document.path() : *known,

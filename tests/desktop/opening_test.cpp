@@ -5,6 +5,7 @@
 #include "desktop/imports/csv_mapping_dialog.h"
 #include "desktop/race/race_window.h"
 #include "desktop/sessions/session_window.h"
+#include "desktop/shell/file_names.h"
 #include "desktop/start_options.h"
 #include "desktop/taking/taking_window.h"
 #include "splitdata/loader.h"
@@ -150,6 +151,29 @@ TEST_F(OpeningTest, OpensAFilmWithItsFolderAndItsRunInFront) {
                 ElementsAre("Bea Dahl.mov"));
 }
 
+TEST_F(OpeningTest, EditsAFileInOneWindowWhateverPathLeadsToIt) {
+    const fs::path team = m_folder.path() / "team.kvteam";
+    fs::copy_file(fs::path(KAVELA_EXAMPLES) / "team/kavela_team.kvteam", team);
+    fs::create_symlink(team, m_folder.path() / "link.kvteam");
+    m_program.open(text(team));
+    m_program.open(text(m_folder.path() / "link.kvteam"));
+    EXPECT_THAT(m_program.windows(), SizeIs(1));
+    EXPECT_THAT(m_recorder.alerts, IsEmpty());
+}
+
+/// As on a disk that does not tell cases apart; a second name elsewhere is another file, which a
+/// save parts from the first.
+TEST_F(OpeningTest, KnowsAFileInOtherLetterCase) {
+    const fs::path race = m_folder.add("Races/cup.kvx", "x");
+    for (const char* other : {"races/cup.kvx", "copy/cup.kvx"}) {
+        fs::create_directory((m_folder.path() / other).parent_path());
+        fs::create_hard_link(race, m_folder.path() / other);
+    }
+    EXPECT_TRUE(desktop::isSameFile(text(race), text(m_folder.path() / "races/cup.kvx")));
+    EXPECT_FALSE(desktop::isSameFile(text(race), text(m_folder.path() / "copy/cup.kvx")));
+    EXPECT_FALSE(desktop::isSameFile(text(race), text(m_folder.path() / "Races/CUP.kvx")));
+}
+
 TEST_F(OpeningTest, ShowsARaceThatIsOpenInsteadOfASecondWindowOfIt) {
     const fs::path race = m_folder.path() / "cup.kvx";
     fs::copy_file(fs::path(KAVELA_EXAMPLES) / "races/riverside_cup.kvx", race);
@@ -160,6 +184,8 @@ TEST_F(OpeningTest, ShowsARaceThatIsOpenInsteadOfASecondWindowOfIt) {
     m_program.open(text(race));
     m_program.open(text(m_folder.path() / "link.kvx"));
     EXPECT_THAT(m_program.windowsOf<desktop::RaceWindow>(), SizeIs(2));
+    ASSERT_TRUE(m_program.windowsOf<desktop::RaceWindow>().front()->open(text(m_folder.path() / "link.kvx")));
+    EXPECT_THAT(m_program.windowsOf<desktop::RaceWindow>().front()->views(), SizeIs(1));
 
     desktop::TakingWindow* const taking = m_program.openTaking(text(race));
     ASSERT_TRUE(taking);

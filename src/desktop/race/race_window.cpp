@@ -66,9 +66,8 @@ bool RaceWindow::open(const QString& path) {
 }
 
 bool RaceWindow::showViewOf(const QString& path) {
-    const QString wanted = canonicalPath(path);
     for (std::size_t i = 0; i < m_views.size(); ++i)
-        if (canonicalPath(m_views[i]->document().path()) == wanted) {
+        if (isSameFile(m_views[i]->document().path(), path)) {
             showView(static_cast<int>(i));
             return true;
         }

@@ -4,6 +4,8 @@
 #include <QFileInfo>
 
 #include <algorithm>
+#include <filesystem>
+#include <system_error>
 
 namespace kavela::desktop {
 
@@ -26,6 +28,16 @@ QString canonicalPath(const QString& file) {
     return info.exists()
                ? info.canonicalFilePath()
                : QFileInfo(info.absolutePath()).canonicalFilePath() + '/' + info.fileName();
+}
+
+bool isSameFile(const QString& one, const QString& other) {
+    const QString left = canonicalPath(one);
+    const QString right = canonicalPath(other);
+    if (left == right)
+        return true;
+    std::error_code notThere;
+    return left.compare(right, Qt::CaseInsensitive) == 0 &&
+           std::filesystem::equivalent(left.toStdString(), right.toStdString(), notThere);
 }
 
 QStringList namesToldApart(const QStringList& paths) {

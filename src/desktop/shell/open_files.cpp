@@ -15,9 +15,8 @@ void OpenFiles::release(const EditedFile& document) {
 }
 
 const EditedFile* OpenFiles::holderOf(const QString& path) const {
-    const QString wanted = canonicalPath(path);
     const auto found = std::ranges::find_if(
-        m_paths, [&](const auto& held) { return held.second == wanted; });
+        m_paths, [&](const auto& held) { return isSameFile(held.second, path); });
     return found == m_paths.end() ? nullptr : found->first;
 }
 
