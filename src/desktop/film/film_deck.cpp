@@ -383,6 +383,10 @@ void FilmDeck::step(FrameNumber frames) {
         return;
     pause(); // steps count from the frame that is seen
     waitFor([this] { return m_players[0]->target() || !fault(0).isEmpty(); }, LongestWaitForStep);
+    if (!m_players[0]->target() && fault(0).isEmpty()) {
+        emit refused(tr("The film has not been read so far yet: no frame to step from."));
+        return;
+    }
     jumpWithGroup([frames](CameraGroup& group) { group.step(frames, now()); });
 }
 

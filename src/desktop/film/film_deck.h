@@ -102,6 +102,7 @@ signals:
     void indexChanged(std::size_t camera);
     void stateChanged(); ///< playing, rate
     void failed(std::size_t camera, const QString& message);
+    void refused(const QString& why); ///< a key did nothing
 
 private:
     /// Where a view was last sent, until that frame stands on the screen.

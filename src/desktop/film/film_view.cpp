@@ -47,6 +47,8 @@ FilmView::FilmView(FilmDeck& deck, std::size_t camera, QWidget* parent)
         if (failed == m_camera && (!m_button || m_button->isHidden()))
             setMessage(why); // a question says more
     });
+    if (m_camera == 0)
+        connect(&m_deck, &FilmDeck::refused, this, &FilmView::refuse);
 }
 
 void FilmView::showFrame() {
