@@ -20,6 +20,7 @@
 #include <QDialog>
 #include <QDialogButtonBox>
 #include <QFormLayout>
+#include <QLabel>
 #include <QLineEdit>
 #include <QScrollArea>
 #include <QScrollBar>
@@ -165,6 +166,21 @@ TEST_F(ScreenFitTest, HoldsTheSettingsAndTheDialogOfKeys) {
         QApplication::processEvents();
         EXPECT_TRUE(SmallScreen.contains(placeOf(*dialog))) << placeOf(*dialog).height();
     }
+}
+
+TEST_F(ScreenFitTest, ListsKeysThatDifferByANumberOnOneLine) {
+    desktop::TakingWindow window(m_workspace, desktop::Autosave(QString::fromStdString(
+                                                  (m_folder.path() / "kept").string())));
+    window.setAttribute(Qt::WA_DeleteOnClose, false);
+    ASSERT_TRUE(window.open(example("races/spring_opener.kvx")));
+    const desktop::KeyOverlay overlay(window, &window);
+    QStringList texts;
+    for (const QLabel* const label : overlay.findChildren<QLabel*>())
+        texts.append(label->text());
+    EXPECT_TRUE(texts.contains("1 … 9")) << texts.join(", ").toStdString();
+    EXPECT_TRUE(texts.contains("To split 1 … 9"));
+    EXPECT_FALSE(texts.contains("To split 2"));
+    EXPECT_TRUE(texts.contains("Ctrl+2")) << "each page has a name of its own";
 }
 
 TEST_F(ScreenFitTest, ScrollsTheOverviewOfKeysAndClosesItWithAnyOtherKey) {

@@ -14,6 +14,8 @@
 #include <QStyle>
 
 #include <memory>
+#include <optional>
+#include <utility>
 
 namespace kavela::desktop {
 
@@ -26,16 +28,79 @@ QString plainTitle(QString text) {
     return text;
 }
 
+/// A key and what it does.
+struct Line {
+    QString key;
+    QString title;
+};
+
+/// Lines under a title.
+struct Group {
+    QString title;
+    QList<Line> lines;
+};
+
+/// A text and the number at its end; none where it ends with none.
+std::pair<QString, std::optional<int>> numbered(const QString& text) {
+    qsizetype end = text.size();
+    while (end > 0 && text[end - 1].isDigit())
+        --end;
+    if (end == text.size())
+        return {text, std::nullopt};
+    return {text.first(end), text.sliced(end).toInt()};
+}
+
+/// Whether a text is another one with the number at its end counted on.
+bool isCountedOn(const QString& text, const QString& from, qsizetype steps) {
+    const auto [stem, number] = numbered(from);
+    return number &&
+           numbered(text) == std::pair(stem, std::optional(*number + static_cast<int>(steps)));
+}
+
+/// Keys that differ in nothing but a number are one line: "1 … 9", "To split 1 … 9".
+QList<Line> gathered(const QList<Line>& lines) {
+    constexpr qsizetype Fewest = 3;
+    QList<Line> gathered;
+    for (qsizetype i = 0; i < lines.size();) {
+        qsizetype end = i + 1;
+        while (end < lines.size() && isCountedOn(lines[end].key, lines[i].key, end - i) &&
+               isCountedOn(lines[end].title, lines[i].title, end - i))
+            ++end;
+        if (end - i < Fewest)
+            end = i + 1;
+        Line line = lines[i];
+        if (end - i > 1) {
+            line.key += QStringLiteral(" … ") + lines[end - 1].key;
+            line.title += QStringLiteral(" … %1").arg(*numbered(lines[end - 1].title).second);
+        }
+        gathered.append(line);
+        i = end;
+    }
+    return gathered;
+}
+
+QList<Group> groupsOf(const QMainWindow& window) {
+    QList<Group> groups;
+    for (const KeyGroup& group : keyGroups(window)) {
+        QList<Line> lines;
+        for (const ListedKey& listed : group.keys)
+            lines.append({listed.action->shortcut().toString(QKeySequence::NativeText),
+                          plainTitle(listed.action->text())});
+        groups.append({group.title, gathered(lines)});
+    }
+    return groups;
+}
+
 /// The groups of each column, in their order, in as low columns as so many of them allow.
-QList<QList<KeyGroup>> packed(const QList<KeyGroup>& groups, qsizetype columns) {
+QList<QList<Group>> packed(const QList<Group>& groups, qsizetype columns) {
     constexpr qsizetype TitleLines = 2; // with the gap above it
     for (qsizetype height = 1;; ++height) {
-        QList<QList<KeyGroup>> tried;
+        QList<QList<Group>> tried;
         qsizetype used = height;
-        for (const KeyGroup& group : groups) {
-            const qsizetype lines = group.keys.size() + TitleLines;
+        for (const Group& group : groups) {
+            const qsizetype lines = group.lines.size() + TitleLines;
             if (tried.isEmpty() || used + lines > height) {
-                tried.append(QList<KeyGroup>());
+                tried.append(QList<Group>());
                 used = 0;
             }
             tried.back().append(group);
@@ -46,7 +111,7 @@ QList<QList<KeyGroup>> packed(const QList<KeyGroup>& groups, qsizetype columns) 
     }
 }
 
-QWidget* boxOf(const KeyGroup& group, const QWidget& like) {
+QWidget* boxOf(const Group& group, const QWidget& like) {
     auto* box = new QWidget;
     auto* grid = new QGridLayout(box);
     grid->setContentsMargins(0, 0, 0, 0);
@@ -56,29 +121,29 @@ QWidget* boxOf(const KeyGroup& group, const QWidget& like) {
     title->setFont(theme::titleFont(like));
     grid->addWidget(title, 0, 0, 1, 2);
     int row = 1;
-    for (const ListedKey& listed : group.keys) {
-        auto* key = new QLabel(listed.action->shortcut().toString(QKeySequence::NativeText));
+    for (const Line& line : group.lines) {
+        auto* key = new QLabel(line.key);
         QFont bold = key->font();
         bold.setBold(true);
         key->setFont(bold);
         grid->addWidget(key, row, 0, Qt::AlignRight);
-        grid->addWidget(new QLabel(plainTitle(listed.action->text())), row++, 1);
+        grid->addWidget(new QLabel(line.title), row++, 1);
     }
     grid->setColumnStretch(1, 1);
     return box;
 }
 
 /// As many columns as fit beside each other on the screen.
-QWidget* columnsOf(const QList<KeyGroup>& groups, const QWidget& like, int width) {
+QWidget* columnsOf(const QList<Group>& groups, const QWidget& like, int width) {
     for (qsizetype count = groups.size();; --count) {
         auto whole = std::make_unique<QWidget>();
         auto* row = new QHBoxLayout(whole.get());
         row->setContentsMargins(0, 0, 0, 0);
         row->setSpacing(theme::PageMargin);
-        for (const QList<KeyGroup>& column : packed(groups, count)) {
+        for (const QList<Group>& column : packed(groups, count)) {
             auto* stack = new QVBoxLayout;
             stack->setSpacing(theme::LargeSpacing);
-            for (const KeyGroup& group : column)
+            for (const Group& group : column)
                 stack->addWidget(boxOf(group, like));
             stack->addStretch(1);
             row->addLayout(stack);
@@ -95,7 +160,7 @@ KeyOverlay::KeyOverlay(const QMainWindow& window, QWidget* parent)
     setWindowTitle(tr("All keys"));
     const QSize free = freeArea(window).size();
     const int margins = 2 * theme::PageMargin + 2 * theme::Spacing;
-    QWidget* const keys = columnsOf(keyGroups(window), *this, free.width() - margins);
+    QWidget* const keys = columnsOf(groupsOf(window), *this, free.width() - margins);
     keys->layout()->setContentsMargins(theme::PageMargin, theme::PageMargin, theme::PageMargin,
                                        theme::PageMargin);
     m_area->setFrameShape(QFrame::NoFrame);
