@@ -278,6 +278,33 @@ TEST_F(PlanningGoals, IntervalSessionsAreTypedMovedAndCopied) {
     undoAll();
 }
 
+/// Twice the session of the plan.
+TEST_F(PlanningGoals, AnIntervalSessionStaysInFrontWhileItsFormHoldsWhatIsRefused) {
+    IntervalsPanel panel(m_document);
+    show(panel);
+    panel.duplicate();
+    auto* const reps = panel.form().findChild<QLineEdit*>("reps");
+    reps->setFocus();
+    reps->selectAll();
+    QTest::keyClicks(reps, "many");
+    const auto click = [&](int row) {
+        panel.table().setFocus();
+        QTest::mouseClick(panel.table().viewport(), Qt::LeftButton, {},
+                          panel.table().visualItemRect(panel.table().item(row, 0)).center());
+        QApplication::processEvents();
+    };
+    click(0);
+    EXPECT_THAT(refusalIn(panel), HasSubstr("many"));
+    EXPECT_EQ(panel.current(), 1U);
+    EXPECT_EQ(reps->text(), "many");
+    EXPECT_EQ(QApplication::focusWidget(), reps);
+    panel.add();
+    EXPECT_THAT(m_document.value().favintses, SizeIs(2));
+    QTest::keyClick(reps, Qt::Key_Escape);
+    click(0);
+    EXPECT_EQ(panel.current(), 0U);
+}
+
 TEST_F(PlanningGoals, AbsurdIntervalSessionsAreToldAndNotTimed) {
     IntervalsPanel panel(m_document);
     std::string refusal;

@@ -21,6 +21,7 @@
 
 #include <gmock/gmock.h>
 
+#include <QAction>
 #include <QApplication>
 #include <QComboBox>
 #include <QDoubleSpinBox>
@@ -149,6 +150,46 @@ TEST_F(PlanningWindowTest, OpensAtTheWeekOfToday) {
     ASSERT_TRUE(window);
     EXPECT_EQ(window->plan().block().current, ThisWeek);
     EXPECT_EQ(window->plan().strip().weekCount(), WeeksOfSeason);
+}
+
+TEST_F(PlanningWindowTest, StaysAtAWeekWhoseFormHoldsWhatIsRefused) {
+    planningdatac_v6 two = smallPlan();
+    two.athletes.push_back(two.athletes.front());
+    write(two);
+    const auto window = openWindow();
+    ASSERT_TRUE(window);
+    auto* const dates = window->findChild<QLineEdit*>("waterdates");
+    dates->setFocus();
+    QTest::keyClicks(dates, "soon");
+    window->plan().stepWeek(1);
+    QApplication::processEvents();
+    EXPECT_EQ(dates->text(), "soon");
+    EXPECT_EQ(window->plan().block().current, ThisWeek);
+    QListWidget& athletes = window->athletes().list();
+    athletes.setFocus();
+    athletes.setCurrentRow(1);
+    QApplication::processEvents();
+    EXPECT_EQ(dates->text(), "soon");
+    EXPECT_EQ(athletes.currentRow(), 0);
+    EXPECT_EQ(window->athletes().athlete(), 0U);
+    QTest::keyClick(dates, Qt::Key_Escape);
+    athletes.setCurrentRow(1);
+    EXPECT_EQ(window->athletes().athlete(), 1U);
+    window->plan().stepWeek(1);
+    EXPECT_EQ(window->plan().block().current, ThisWeek + 1);
+}
+
+TEST_F(PlanningWindowTest, TellsWhereSessionsAreFromTheOtherTabs) {
+    const auto window = openWindow();
+    ASSERT_TRUE(window);
+    auto* const where = window->findChild<QAction*>("showPlan");
+    ASSERT_TRUE(where);
+    EXPECT_FALSE(where->isVisible());
+    window->tabs().setCurrentIndex(2);
+    EXPECT_TRUE(where->isVisible() && where->isEnabled());
+    where->trigger();
+    EXPECT_EQ(window->tabs().currentIndex(), 0);
+    EXPECT_FALSE(where->isVisible());
 }
 
 TEST_F(PlanningWindowTest, AddsASessionByKeysIntoTheChosenCell) {

@@ -138,7 +138,7 @@ void AthleteList::showCard() {
 }
 
 void AthleteList::chooseAthlete(std::size_t athlete) {
-    if (athlete >= m_document.athletes().size() || athlete == m_athlete)
+    if (athlete >= m_document.athletes().size() || athlete == m_athlete || !mayLeave())
         return;
     // The same year of the next athlete, where there is one.
     const yearsplannings_v6* const before = season() ? m_document.seasonAt(*season()) : nullptr;
@@ -156,11 +156,26 @@ void AthleteList::chooseAthlete(std::size_t athlete) {
 }
 
 void AthleteList::chooseSeason(std::size_t season) {
-    if (season == m_season)
+    if (season == m_season || !mayLeave())
         return;
     m_season = season;
     fillSeasons();
     emit seasonChosen();
+}
+
+bool AthleteList::mayLeave() {
+    if (!m_mayLeave || m_mayLeave())
+        return true;
+    // Later: the list that was clicked is not done yet with choosing the other row.
+    QMetaObject::invokeMethod(
+        this,
+        [this] {
+            const QSignalBlocker quietList(m_list);
+            m_list->setCurrentRow(m_athlete ? static_cast<int>(*m_athlete) : -1);
+            fillSeasons();
+        },
+        Qt::QueuedConnection);
+    return false;
 }
 
 void AthleteList::filter() {

@@ -4,7 +4,9 @@
 
 #include <QWidget>
 
+#include <functional>
 #include <limits>
+#include <optional>
 
 class QComboBox;
 class QLabel;
@@ -25,6 +27,8 @@ public:
     [[nodiscard]] std::optional<PlannedSeason> season() const;
     void chooseAthlete(std::size_t athlete);
     void chooseSeason(std::size_t season);
+    /// Asked before another athlete or season comes to the front: false keeps the one that is.
+    void setMayLeave(std::function<bool()> mayLeave) { m_mayLeave = std::move(mayLeave); }
 
     [[nodiscard]] QLineEdit& search() const { return *m_search; }
     [[nodiscard]] QListWidget& list() const { return *m_list; }
@@ -37,6 +41,7 @@ private:
     void fillSeasons();
     void showCard();
     void filter();
+    [[nodiscard]] bool mayLeave();
 
     PlanningDocument& m_document;
     QLineEdit* m_search;
@@ -44,6 +49,7 @@ private:
     QComboBox* m_seasons;
     QLabel* m_photo;
     QLabel* m_contact;
+    std::function<bool()> m_mayLeave;
     std::optional<std::size_t> m_athlete;
     std::size_t m_season = std::numeric_limits<std::size_t>::max(); ///< the latest, to begin with
 };

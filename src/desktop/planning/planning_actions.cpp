@@ -48,6 +48,10 @@ void makeAthleteMenu(PlanningWindow& window) {
 
 void makeSessionMenu(PlanningWindow& window) {
     QMenu& menu = *window.menuBar()->addMenu(tr("&Session"));
+    QAction* const where = menu.addAction(tr("Sessions are in the plan: show &it"), &window,
+                                          [&window] { window.tabs().setCurrentIndex(0); });
+    where->setObjectName("showPlan");
+    where->setVisible(false);
     add(menu, window, tr("&New session…"), QKeySequence(Qt::Key_Insert),
         [](PlanView& plan) { plan.addSession(); });
     add(menu, window, tr("&Edit the session…"), QKeySequence(Qt::Key_F2),
@@ -64,9 +68,10 @@ void makeSessionMenu(PlanningWindow& window) {
     add(menu, window, tr("Move to the week be&hind"), QKeySequence(Qt::ALT | Qt::Key_PageDown),
         [](PlanView& plan) { plan.moveSessionBy(1); });
     // The tables of the other tabs have these keys for themselves: Insert, F2, copying.
-    QObject::connect(&window.tabs(), &QTabWidget::currentChanged, &menu, [&menu](int tab) {
+    QObject::connect(&window.tabs(), &QTabWidget::currentChanged, &menu, [&menu, where](int tab) {
         for (QAction* const action : menu.actions())
-            action->setEnabled(tab == 0);
+            action->setEnabled(tab == 0 || action == where);
+        where->setVisible(tab != 0);
     });
 }
 

@@ -11,6 +11,7 @@
 #include "desktop/planning/planned_athlete_dialog.h"
 #include "desktop/planning/planning_actions.h"
 #include "desktop/planning/ranking/ranking_panel.h"
+#include "desktop/shell/refused_entry.h"
 #include "desktop/shell/scroll_page.h"
 #include "desktop/shell/theme.h"
 #include "desktop/shell/window_place.h"
@@ -25,6 +26,7 @@
 #include <QListWidget>
 #include <QSplitter>
 #include <QStatusBar>
+#include <QTabBar>
 #include <QTabWidget>
 
 #include <algorithm>
@@ -71,6 +73,7 @@ void PlanningWindow::makeParts() {
         m_plan->setToday(*today);
     m_tabs = new QTabWidget;
     m_tabs->setDocumentMode(true);
+    m_tabs->tabBar()->setDrawBase(false); // white on dark
     m_goals = new GoalsPanel(*m_document);
     m_body = new BodyPanel(*m_document, workspace().clock());
     m_gym = new GymPanel(*m_document, workspace().log(), workspace().clock());
@@ -99,6 +102,7 @@ void PlanningWindow::makeParts() {
 
 void PlanningWindow::connectParts() {
     connect(m_athletes, &AthleteList::seasonChosen, this, &PlanningWindow::showSeason);
+    m_athletes->setMayLeave([this] { return !showRefusedEntry(*m_plan); });
     connect(m_plan, &PlanView::told, this,
             [this](const QString& text) { statusBar()->showMessage(text, ToldMilliseconds); });
     for (const SeasonPanel* const panel : m_tabs->findChildren<SeasonPanel*>())

@@ -4,6 +4,7 @@
 #include "desktop/planning/intervals/interval_texts.h"
 #include "desktop/planning/intervals/timer_dialog.h"
 #include "desktop/planning/ranking/plain_table.h"
+#include "desktop/shell/refused_entry.h"
 #include "desktop/shell/theme.h"
 #include "planning/interval_timer.h"
 
@@ -72,7 +73,7 @@ void IntervalsPanel::makeTable() {
         m_table->horizontalHeaderItem(column)->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
     connect(m_table, &QTableWidget::currentCellChanged, this, [this] {
         if (!m_isFilling)
-            showCurrent();
+            followTable();
     });
     connect(m_table, &QTableWidget::cellDoubleClicked, this, &IntervalsPanel::startTimer);
 }
@@ -188,8 +189,21 @@ void IntervalsPanel::refresh() {
     showCurrent();
 }
 
+/// A session whose form holds what cannot be taken stays in front.
+void IntervalsPanel::followTable() {
+    if (!m_shown || !showRefusedEntry(*m_form)) {
+        showCurrent();
+        return;
+    }
+    // Later: the table is not done yet with choosing the other row.
+    if (current() != m_shown)
+        QMetaObject::invokeMethod(
+            this, [this] { choose(m_shown.value_or(0)); }, Qt::QueuedConnection);
+}
+
 void IntervalsPanel::showCurrent() {
     const auto at = current();
+    m_shown = at;
     m_form->show(at ? &sessions()[*at] : nullptr);
     for (QPushButton* const button : m_forOne)
         button->setEnabled(at.has_value());
@@ -207,12 +221,14 @@ void IntervalsPanel::insert(std::size_t at, const QString& what, favInvervalSess
 }
 
 void IntervalsPanel::add() {
+    if (showRefusedEntry(*m_form))
+        return;
     insert(sessions().size(), tr("new interval session"), newSession());
 }
 
 void IntervalsPanel::duplicate() {
     const auto at = current();
-    if (!at)
+    if (!at || showRefusedEntry(*m_form))
         return;
     favInvervalSessions_v2 copy = sessions()[*at];
     copy.title = tr("%1, copy").arg(QString::fromStdString(copy.title)).toStdString();
@@ -221,7 +237,7 @@ void IntervalsPanel::duplicate() {
 
 void IntervalsPanel::move(bool isUp) {
     const auto at = current();
-    if (!at || (isUp ? *at == 0 : *at + 1 >= sessions().size()))
+    if (!at || (isUp ? *at == 0 : *at + 1 >= sessions().size()) || showRefusedEntry(*m_form))
         return;
     const std::size_t to = isUp ? *at - 1 : *at + 1;
     m_document.edit(tr("order of the interval sessions"), [&](planningdatac_v6& plan) {
@@ -239,7 +255,7 @@ void IntervalsPanel::removeCurrent() {
 
 void IntervalsPanel::startTimer() {
     const auto at = current();
-    if (!at)
+    if (!at || showRefusedEntry(*m_form))
         return;
     const favInvervalSessions_v2& session = sessions()[*at];
     const auto plan = IntervalPlan::of(session);

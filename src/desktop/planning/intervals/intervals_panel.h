@@ -46,6 +46,7 @@ private:
     void insert(std::size_t at, const QString& what, favInvervalSessions_v2 session);
     void invalidate();
     void refresh();
+    void followTable();
     void showCurrent();
 
     PlanningDocument& m_document;
@@ -54,6 +55,7 @@ private:
     IntervalForm* m_form;
     QPushButton* m_timer = nullptr;
     std::vector<QPushButton*> m_forOne; ///< buttons that need a chosen session
+    std::optional<std::size_t> m_shown; ///< the session in the form
     bool m_isStale = true;
     bool m_isFilling = false;
 };

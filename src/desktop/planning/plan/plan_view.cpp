@@ -3,6 +3,7 @@
 #include "desktop/planning/plan/totals_table.h"
 #include "desktop/planning/plan/week_form.h"
 #include "desktop/planning/plan/year_strip.h"
+#include "desktop/shell/refused_entry.h"
 #include "desktop/shell/theme.h"
 #include "planning/calendar_day.h"
 #include "planning/weeks.h"
@@ -211,6 +212,10 @@ void PlanView::showTotals() {
 
 void PlanView::chooseBlock(const WeekBlock& block) {
     m_form->commit();
+    if (showRefusedEntry(*m_form)) {
+        m_strip->setBlock(m_block);
+        return;
+    }
     const yearsplannings_v6* const shown = season();
     if (!shown || std::max(block.anchor, block.current) >= shown->micros.size())
         return;
