@@ -27,6 +27,7 @@
 #include <QMenu>
 #include <QPushButton>
 #include <QSplitter>
+#include <QTabBar>
 #include <QTabWidget>
 #include <QVBoxLayout>
 
@@ -133,6 +134,7 @@ QWidget* RaceView::makeSide() {
     m_motion = new MotionPanel(m_document);
     m_side = new QTabWidget;
     m_side->setDocumentMode(true);
+    m_side->tabBar()->setDrawBase(false); // white on dark
     m_side->addTab(m_run, tr("&Run"));
     m_side->addTab(m_ideal, tr("I&deal run"));
     m_side->addTab(m_potential, tr("Pote&ntial"));
@@ -382,7 +384,7 @@ void RaceView::requestMoment(const QModelIndex& index) {
 
 void RaceView::noticeChange() {
     if (QFileInfo::exists(m_document.path()))
-        showNote(tr("The file was changed by another program."), true);
+        showNote(tr("The file on the disk is newer than what you see."), true);
     else
         showNote(tr("The file is not on the disk any more. What you see is what it held."), false);
 }

@@ -25,6 +25,7 @@ RaceWindow::RaceWindow(Workspace& workspace)
       m_tabs(new QTabBar),
       m_splitter(new QSplitter) {
     m_tabs->setDocumentMode(true);
+    m_tabs->setDrawBase(false); // white on dark
     m_tabs->setExpanding(false);
     m_tabs->setTabsClosable(true);
     m_tabs->setAccessibleName(tr("Races"));

@@ -110,6 +110,7 @@ QWidget* SelectionWindow::makeBar() {
     m_categories = new QTabBar;
     m_categories->setObjectName("categories");
     m_categories->setDocumentMode(true);
+    m_categories->setDrawBase(false); // white on dark
     m_categories->setExpanding(false);
     m_categories->setAccessibleName(tr("Categories"));
     m_bonus = new QComboBox;

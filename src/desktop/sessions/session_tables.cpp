@@ -10,6 +10,7 @@
 #include <QLabel>
 #include <QScopedValueRollback>
 #include <QSignalBlocker>
+#include <QTabBar>
 #include <QTableView>
 #include <QVBoxLayout>
 
@@ -37,6 +38,7 @@ SessionTables::SessionTables(QWidget* parent)
       m_meters(new GridModel(this)),
       m_balance(new BalanceView) {
     setDocumentMode(true);
+    tabBar()->setDrawBase(false); // white on dark
     addTab(addTable("strokes", m_strokes), tr("Strokes"));
     addTab(addTable("turns", m_turns), tr("Turns"));
     addTab(addTable("segments", m_segments), tr("Segments"));

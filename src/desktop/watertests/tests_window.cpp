@@ -20,6 +20,7 @@
 #include <QHeaderView>
 #include <QMenu>
 #include <QSplitter>
+#include <QTabBar>
 #include <QTabWidget>
 #include <QTableView>
 
@@ -68,6 +69,7 @@ void TestsWindow::makeParts() {
     m_values = new ValuesPanel(*m_document);
     m_pages = new QTabWidget;
     m_pages->setDocumentMode(true);
+    m_pages->tabBar()->setDrawBase(false); // white on dark
     m_pages->addTab(m_charts, tr("Charts"));
     m_pages->addTab(m_values, tr("Values"));
     m_pages->addTab(makeTablePage(), tr("Table"));
