@@ -23,7 +23,7 @@ namespace {
 constexpr auto EditKeys = QAbstractItemView::DoubleClicked | QAbstractItemView::EditKeyPressed |
                           QAbstractItemView::AnyKeyPressed;
 
-constexpr int PhaseWidth = 91;
+constexpr int PhaseWidth = 98;
 
 QLabel* quietLabel() {
     auto* label = new QLabel;
@@ -90,7 +90,7 @@ void ResultsView::makeTree() {
     m_tree->setDropIndicatorShown(true);
     m_tree->setAlternatingRowColors(true);
     m_tree->header()->setStretchLastSection(true);
-    const QList<int> widths{88, 118, 42, 44, 54};
+    const QList<int> widths{84, 100, 42, 44, 54};
     for (int column = 0; column < SeasonModel::Columns; ++column)
         m_tree->header()->resizeSection(column, widths.value(column, PhaseWidth));
     m_hint = quietLabel();
