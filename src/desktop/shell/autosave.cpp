@@ -3,6 +3,7 @@
 #include "common/error.h"
 #include "common/safe_file.h"
 #include "desktop/shell/disk_worker.h"
+#include "desktop/shell/file_names.h"
 
 #include <QCryptographicHash>
 #include <QDateTime>
@@ -50,9 +51,11 @@ void moveAside(const QString& slot, const QString& aside) {
 
 } // namespace
 
-/// The content stands in SLOT.work, the document's path in SLOT.path, its tool in SLOT.tool.
+/// The content stands in SLOT.work, the document's path in SLOT.path, its tool in SLOT.tool. Work
+/// that was done through a link is found under the file's own path too.
 QString Autosave::slot(const QString& path) const {
-    const QByteArray hash = QCryptographicHash::hash(path.toUtf8(), QCryptographicHash::Sha1);
+    const QByteArray hash =
+        QCryptographicHash::hash(canonicalPath(path).toUtf8(), QCryptographicHash::Sha1);
     return m_folder + '/' + QString::fromLatin1(hash.toHex().left(16));
 }
 

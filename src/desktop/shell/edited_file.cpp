@@ -115,7 +115,8 @@ void EditedFile::offerRecovery(QWidget* over) {
     if (!work)
         return;
     m_workspace.log()(messages::AutosaveFound);
-    if (m_workspace.ask({"", messages::AskToLoadAutosave}, tr("Load"), over) && recover(*work))
+    const std::string name = QFileInfo(m_path).fileName().toStdString();
+    if (m_workspace.ask({name, messages::AskToLoadAutosave}, tr("Load"), over) && recover(*work))
         m_undo.resetClean(); // dirty, and no undo makes it clean: its copy stays until it is saved
     else
         m_autosave.putAside(m_path);
