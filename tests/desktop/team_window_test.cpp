@@ -3,13 +3,12 @@
 #include "common/json_encode.h"
 #include "common/recorders.h"
 #include "common/temp_folder.h"
+#include "desktop/charts/series_chart.h"
 #include "desktop/people/found_lines_view.h"
 #include "desktop/refusals.h"
 #include "desktop/shell/workspace.h"
 #include "desktop/team/athlete_panel.h"
 #include "desktop/team/charts/chart_tabs.h"
-#include "desktop/team/charts/progression_chart.h"
-#include "desktop/team/charts/season_chart.h"
 #include "desktop/team/results_view.h"
 #include "desktop/team/takeover/take_over_dialog.h"
 #include "desktop/team/typed_values.h"
@@ -390,7 +389,7 @@ TEST_F(TeamWindowTest, TakesResultsOverFromASplitFileAfterShowingThem) {
     EXPECT_EQ(taken.phases[0].pos, 2);
     EXPECT_THAT(taken.phases[0].pers, ElementsAre(::testing::DoubleEq((44.0 / 40 - 1) * 100), 0));
     EXPECT_EQ(results(*window).seasons[0].aves.at(0).phase, "Heats 1");
-    EXPECT_TRUE(window->charts().seasonChart().hasData());
+    EXPECT_EQ(window->charts().seasonChart().emptyMessage(), "");
     EXPECT_THAT(window->charts().progressionChart().csv().toStdString(),
                 HasSubstr("WC3;Praha;Result;2"));
     press(*window, Qt::CTRL | Qt::Key_Z);
@@ -537,10 +536,10 @@ TEST_F(TeamWindowTest, SavesChartsAsPicturesAndData) {
     for (const auto& [name, start] :
          {std::pair("chart.png", "\x89PNG"), std::pair("chart.svg", "<?xml"),
           std::pair("chart.csv", "Event;Location;Phase;Position\n")}) {
-        desktop::saveTeamChart(chart, m_folder.path() / name);
+        chart.save(m_folder.path() / name);
         EXPECT_THAT(contentOf(m_folder.path() / name), ::testing::StartsWith(start));
     }
-    EXPECT_THROW(desktop::saveTeamChart(chart, m_folder.path() / "chart.doc"), FileError);
+    EXPECT_THROW(chart.save(m_folder.path() / "chart.doc"), FileError);
     EXPECT_THAT(m_folder.names(), Not(Contains("chart.doc")));
 }
 

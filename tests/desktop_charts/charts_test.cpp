@@ -1,6 +1,8 @@
+#include "desktop/charts/chart_plot.h"
 #include "desktop/charts/gap_chart.h"
 #include "desktop/charts/gate_chart.h"
 #include "desktop/charts/section_chart.h"
+#include "desktop/charts/series_labels.h"
 #include "desktop/charts/totals_chart.h"
 #include "desktop/shell/theme.h"
 

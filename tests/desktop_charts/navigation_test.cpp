@@ -1,5 +1,7 @@
+#include "desktop/charts/chart_plot.h"
 #include "desktop/charts/gap_chart.h"
 #include "desktop/charts/read_out.h"
+#include "desktop/charts/series_labels.h"
 
 #include "desktop_charts/chart_races.h"
 

@@ -2,6 +2,7 @@
 
 #include "common/error.h"
 #include "desktop/charts/chart.h"
+#include "desktop/charts/chart_plot.h"
 
 #include "desktop_charts/chart_races.h"
 

@@ -2,6 +2,8 @@
 
 #include "common/error.h"
 #include "common/temp_folder.h"
+#include "desktop/charts/chart_plot.h"
+#include "desktop/charts/series_labels.h"
 #include "desktop/shell/theme.h"
 
 #include "desktop_charts/chart_races.h"
@@ -11,7 +13,7 @@
 #include <QSignalSpy>
 #include <QWheelEvent>
 
-#include <fstream>
+#include <cmath>
 #include <limits>
 
 namespace kavela::test {
@@ -136,6 +138,64 @@ TEST_F(SeriesChartTest, FindsTheClickedPointByItsPlaceInTheContent) {
     EXPECT_EQ(activated[0], (QList<QVariant>{0, 0}));
     EXPECT_EQ(activated[1], (QList<QVariant>{1, 1}));
     EXPECT_THAT(m_chart.csv().toStdString(), HasSubstr("C;8;\n"));
+}
+
+TEST_F(SeriesChartTest, PutsStackedBarsOnEachOtherBesideTheOthers) {
+    ChartContent content;
+    content.across = ChartContent::Across::Category;
+    content.categories = {"A", "B"};
+    content.series = {{"Water", {{0, 3}, {1, 5}}, Form::StackedBars},
+                      {"Gym", {{0, 2}, {1, 4}}, Form::StackedBars, 1},
+                      {"Planned", {{0, 4}, {1, 4}}, Form::Bars, 2}};
+    m_chart.show(content);
+    m_chart.plot().replot();
+    EXPECT_GE(m_chart.plot().yAxis->range().upper, 9) << "the sum has room";
+    QSignalSpy activated(&m_chart, &SeriesChart::pointActivated);
+    for (const QPointF at : {pixel(0.8, 4), pixel(0.8, 7), pixel(1.2, 2), pixel(1.2, 6)})
+        QTest::mouseClick(&m_chart.plot(), Qt::LeftButton, {}, at.toPoint());
+    ASSERT_EQ(activated.size(), 3) << "above the planned there is none";
+    EXPECT_EQ(activated[0], (QList<QVariant>{0, 1}));
+    EXPECT_EQ(activated[1], (QList<QVariant>{1, 1}));
+    EXPECT_EQ(activated[2], (QList<QVariant>{2, 1}));
+}
+
+TEST_F(SeriesChartTest, HidesWhatSharesALabelTogetherAndTellsRowsOfItsOwn) {
+    ChartContent content;
+    content.across = ChartContent::Across::Category;
+    content.categories = {"WC1\nTacen", "WC2\nPraha"};
+    content.series = {{"Heats", {{0, 2.5}, {1, 3}}},
+                      {"Final", {{1, 1}}, Form::LineAndPoints, 1},
+                      {"Heats: penalty (s)", {{0, 2}, {1, 0}}, Form::Bars, 0, true}};
+    content.series[2].labelOf = 0;
+    content.rightHeights = 3;
+    content.rowTitles = QStringList{"Race", "Phase", "Result"};
+    content.rows = {{0, 0, {"WC1", "Heats", "2.5+2"}}, {1, 1, {"WC2", "Final", "1"}}};
+    m_chart.show(content);
+    EXPECT_EQ(m_chart.labels().labels().size(), 2U);
+    EXPECT_EQ(m_chart.plot().yAxis2->range(), QCPRange(0, 6)) << "bars in the lower third";
+    EXPECT_THAT(m_chart.readOutAt(0).toStdString(), HasSubstr("WC1 Tacen"));
+    EXPECT_EQ(m_chart.csv(), "Race;Phase;Result\nWC1;Heats;2.5+2\nWC2;Final;1\n");
+    m_chart.toggleSeries(0);
+    EXPECT_EQ(m_chart.plot().plottableCount(), 1) << "the final alone";
+    EXPECT_EQ(m_chart.csv(), "Race;Phase;Result\nWC2;Final;1\n");
+    m_chart.isolateSeries(0);
+    EXPECT_EQ(m_chart.plot().plottableCount(), 2);
+}
+
+TEST_F(SeriesChartTest, CountsPlacesFromTheTop) {
+    ChartContent content;
+    content.across = ChartContent::Across::Category;
+    content.categories = {"A", "B"};
+    content.yReversed = content.yWhole = true;
+    content.series = {{"Position", {{0, 1}, {1, 30}}}};
+    m_chart.show(content);
+    m_chart.plot().replot();
+    EXPECT_LT(pixel(0, 1).y(), pixel(0, 30).y());
+    for (const double tick : m_chart.plot().yAxis->tickVector())
+        if (m_chart.plot().yAxis->range().contains(tick)) {
+            EXPECT_EQ(tick, std::round(tick));
+            EXPECT_GE(tick, 1) << "nobody is at place 0";
+        }
 }
 
 TEST_F(SeriesChartTest, SavesWhatItShowsAndRefusesOtherKinds) {

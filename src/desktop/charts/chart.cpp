@@ -1,5 +1,7 @@
 #include "desktop/charts/chart.h"
 
+#include "desktop/charts/chart_colours.h"
+
 #include <algorithm>
 
 namespace kavela::desktop {
@@ -15,7 +17,7 @@ void Chart::setRace(const ChartRace& race) {
     m_slots.clear();
     m_selectedCount = 0;
     showAgain([](int id) { return id >= 0; });
-    canvas().fit();
+    fit();
     invalidate();
 }
 

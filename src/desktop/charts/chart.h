@@ -3,11 +3,13 @@
 #include "analysis/course_gaps.h"
 #include "desktop/charts/chart_frame.h"
 #include "desktop/charts/chart_race.h"
+#include "desktop/charts/series_label.h"
 
 #include <map>
 #include <vector>
 
 class QAction;
+class QCPPainter;
 
 namespace kavela::desktop {
 
@@ -20,6 +22,7 @@ public:
 
     [[nodiscard]] virtual QString name() const = 0;    ///< short, for a tab
     [[nodiscard]] virtual QString purpose() const = 0; ///< one line
+    [[nodiscard]] QString fileName() const override { return purpose(); }
 
     /// The runs are another set: nothing is selected any more.
     void setRace(const ChartRace& race);

@@ -1,7 +1,5 @@
 #pragma once
 
-#include <qcustomplot.h>
-
 #include <QColor>
 #include <QPalette>
 
@@ -26,11 +24,6 @@ struct SeriesStyle {
 inline constexpr std::size_t MostSeries = 21;
 
 [[nodiscard]] SeriesStyle seriesStyle(std::size_t slot, const QPalette& palette);
-
-/// The marker of a series, so many pixels wide.
-[[nodiscard]] QCPScatterStyle markerOf(const SeriesStyle& style, double size, bool isFull = true);
-/// The dot of a run that nobody selected.
-[[nodiscard]] QCPScatterStyle backgroundDot(const QPalette& palette, double size);
 
 [[nodiscard]] QColor touchColour(const QPalette& palette);
 [[nodiscard]] QColor missedColour(const QPalette& palette);

@@ -35,4 +35,23 @@ QString csvNumber(std::optional<double> value) {
     return QString::fromStdString(plainText(std::isfinite(rounded) ? rounded : *value));
 }
 
+QString tabSeparated(const QString& csv) {
+    QString text;
+    bool isQuoted = false;
+    for (qsizetype i = 0; i < csv.size(); ++i) {
+        const QChar each = csv[i];
+        if (each == '"' && isQuoted && i + 1 < csv.size() && csv[i + 1] == '"')
+            text += csv[++i];
+        else if (each == '"')
+            isQuoted = !isQuoted;
+        else if (each == ';' && !isQuoted)
+            text += '\t';
+        else if (isQuoted && each.isSpace())
+            text += ' ';
+        else
+            text += each == '\t' ? QChar(' ') : each;
+    }
+    return text;
+}
+
 } // namespace kavela::desktop

@@ -14,4 +14,8 @@ namespace kavela::desktop {
 /// A number as plain decimal text without the rounding noise of a difference; empty for none.
 [[nodiscard]] QString csvNumber(std::optional<double> value);
 
+/// The same text with tabs between its fields, as spreadsheets paste it. A field has neither quotes
+/// nor tabs and line breaks of its own any more.
+[[nodiscard]] QString tabSeparated(const QString& csv);
+
 } // namespace kavela::desktop

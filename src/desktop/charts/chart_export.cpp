@@ -2,13 +2,16 @@
 
 #include "common/error.h"
 #include "common/safe_file.h"
-#include "desktop/charts/chart_frame.h"
+#include "desktop/charts/chart_csv.h"
+#include "desktop/charts/interactive_chart.h"
 
+#include <QApplication>
 #include <QBuffer>
+#include <QClipboard>
 #include <QFileDialog>
+#include <QImage>
+#include <QMimeData>
 #include <QSvgGenerator>
-
-#include <algorithm>
 
 namespace kavela::desktop {
 
@@ -16,48 +19,57 @@ namespace {
 
 constexpr double PixelDensity = 2; ///< sharp on paper and on dense screens
 
-/// A chart in a narrow corner of the window makes no useful picture.
-QSize pictureSize(const ChartPlot& plot) {
-    return plot.size().expandedTo({960, 540});
+QString tr(const char* text) {
+    return QCoreApplication::translate("ChartExport", text);
 }
 
-QByteArray pngOf(ChartPlot& plot) {
-    const QSize size = pictureSize(plot);
+QImage imageOf(SavedChart& chart) {
+    const QSize size = chart.pictureSize();
+    QImage image(size * PixelDensity, QImage::Format_RGB32);
+    image.setDevicePixelRatio(PixelDensity);
+    chart.paintPicture(image, size);
+    return image;
+}
+
+QByteArray pngOf(SavedChart& chart) {
     QByteArray bytes;
     QBuffer buffer(&bytes);
     buffer.open(QIODevice::WriteOnly);
-    plot.toPixmap(size.width(), size.height(), PixelDensity).save(&buffer, "PNG");
+    imageOf(chart).save(&buffer, "PNG");
     return bytes;
 }
 
-QByteArray svgOf(ChartPlot& plot) {
-    const QSize size = pictureSize(plot);
+QByteArray svgOf(SavedChart& chart) {
+    const QSize size = chart.pictureSize();
     QByteArray bytes;
     QBuffer buffer(&bytes);
     QSvgGenerator generator;
     generator.setOutputDevice(&buffer);
     generator.setSize(size);
     generator.setViewBox(QRect(QPoint(), size));
-    generator.setTitle(plot.title());
-    generator.setDescription(plot.subtitle());
-    QCPPainter painter;
-    painter.begin(&generator);
-    painter.setModes(QCPPainter::pmVectorized | QCPPainter::pmNoCaching);
-    plot.toPainter(&painter, size.width(), size.height());
-    painter.end();
+    generator.setTitle(chart.pictureTitle());
+    generator.setDescription(chart.pictureCaption());
+    chart.paintPicture(generator, size);
     return bytes;
+}
+
+/// A title as a name that every system takes.
+QString asFileName(QString title) {
+    for (const char reserved : R"(/\:*?"<>|)")
+        if (reserved != '\0')
+            title.replace(QLatin1Char(reserved), QLatin1Char('-'));
+    return title.simplified();
 }
 
 } // namespace
 
-void saveChart(ChartFrame& chart, const std::filesystem::path& path) {
+void saveChart(SavedChart& chart, const std::filesystem::path& path) {
     const QString extension = QString::fromStdString(path.extension().string()).toLower();
-    chart.plot().replot(); // what has not been on the screen yet has no layout
     QByteArray bytes;
     if (extension == ".png")
-        bytes = pngOf(chart.plot());
+        bytes = pngOf(chart);
     else if (extension == ".svg")
-        bytes = svgOf(chart.plot());
+        bytes = svgOf(chart);
     else if (extension == ".csv")
         bytes = chart.csv().toUtf8();
     else
@@ -65,15 +77,28 @@ void saveChart(ChartFrame& chart, const std::filesystem::path& path) {
     writeFileSafely(path, {bytes.constData(), static_cast<std::size_t>(bytes.size())});
 }
 
-QString askChartPath(const QString& name, QWidget* over) {
-    const QString png = ChartFrame::tr("Picture (*.png)");
-    const QString svg = ChartFrame::tr("Drawing (*.svg)");
-    const QString csv = ChartFrame::tr("Table (*.csv)");
-    QFileDialog dialog(over, ChartFrame::tr("Save chart"));
+void copyPicture(SavedChart& chart) {
+    auto* const data = new QMimeData;
+    data->setImageData(imageOf(chart));
+    data->setData(QStringLiteral("image/svg+xml"), svgOf(chart));
+    QApplication::clipboard()->setMimeData(data);
+}
+
+void copyValues(SavedChart& chart) {
+    QApplication::clipboard()->setText(tabSeparated(chart.csv()));
+}
+
+QString askChartPath(const QString& name, const QString& kind, const QString& folder,
+                     QWidget* over) {
+    const QString png = tr("Picture (*.png)");
+    const QString svg = tr("Drawing (*.svg)");
+    const QString csv = tr("Table (*.csv)");
+    QFileDialog dialog(over, tr("Save chart"), folder);
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setNameFilters({png, svg, csv});
-    dialog.setDefaultSuffix("png");
-    dialog.selectFile(name + QStringLiteral(".png"));
+    dialog.selectNameFilter(kind == "svg" ? svg : kind == "csv" ? csv : png);
+    dialog.setDefaultSuffix(kind);
+    dialog.selectFile(asFileName(name) + QLatin1Char('.') + kind);
     QObject::connect(&dialog, &QFileDialog::filterSelected, &dialog, [&](const QString& filter) {
         dialog.setDefaultSuffix(filter == svg ? "svg" : filter == csv ? "csv" : "png");
     });

@@ -1,11 +1,17 @@
 #include "desktop/charts/chart_frame.h"
 
+#include "desktop/charts/chart_export.h"
+#include "desktop/charts/chart_plot.h"
+#include "desktop/charts/plot_interaction.h"
 #include "desktop/charts/read_out.h"
+#include "desktop/charts/series_labels.h"
 #include "desktop/shell/theme.h"
 
-#include <QKeyEvent>
 #include <QLabel>
+#include <QPaintEngine>
 #include <QStackedLayout>
+
+#include <algorithm>
 
 namespace kavela::desktop {
 
@@ -26,7 +32,8 @@ ChartFrame::ChartFrame(QWidget* parent)
       m_labels(new SeriesLabels(*m_plot)),
       m_message(new QLabel(this)),
       m_stack(new QStackedLayout(this)),
-      m_readOut(new ReadOut(m_plot)) {
+      m_readOut(new ReadOut(m_plot)),
+      m_interaction(std::make_unique<PlotInteraction>(*m_plot, *this)) {
     m_message->setAlignment(Qt::AlignCenter);
     m_message->setWordWrap(true);
     m_message->setMargin(theme::PageMargin);
@@ -37,30 +44,11 @@ ChartFrame::ChartFrame(QWidget* parent)
     m_stack->addWidget(m_plot);
     setFocusProxy(m_plot);
     setMinimumSize(240, 120);
-    connectPlot();
+    connect(m_plot, &ChartPlot::themeChanged, this, &ChartFrame::invalidate);
 }
 
-void ChartFrame::connectPlot() {
-    connect(m_plot, &ChartPlot::themeChanged, this, &ChartFrame::invalidate);
-    connect(m_plot, &ChartPlot::hovered, this, [this](QPointF at) { hoverAt(at); });
-    connect(m_plot, &ChartPlot::hoverEnded, this, [this] { leaveCursor(); });
-    connect(m_plot, &ChartPlot::clicked, this, [this](QPointF at) {
-        if (const auto id = m_labels->idAt(at))
-            toggleSeries(*id);
-        else
-            clickAt(at);
-    });
-    connect(m_plot, &ChartPlot::doubleClicked, this, [this](QPointF at) {
-        const auto id = m_labels->idAt(at);
-        if (!id) {
-            m_plot->fit();
-            return;
-        }
-        toggleSeries(*id); // takes back what the first click of the two did
-        isolateSeries(*id);
-    });
-    connect(m_plot, &ChartPlot::keyPressed, this, [this](QKeyEvent* event) { handleKey(*event); });
-}
+// Before the plot, whose last events would reach a chart that is gone.
+ChartFrame::~ChartFrame() = default;
 
 void ChartFrame::invalidate() {
     m_isStale = true;
@@ -115,40 +103,103 @@ void ChartFrame::isolateSeries(int id) {
     invalidate();
 }
 
-void ChartFrame::moveCursor(int) {}
+void ChartFrame::showAllSeries() {
+    m_hidden.clear();
+    invalidate();
+}
+
+void ChartFrame::save(const std::filesystem::path& path) {
+    saveChart(*this, path);
+}
+
+void ChartFrame::fit() {
+    m_plot->fit();
+}
+
+bool ChartFrame::hasContent() const {
+    return m_message->text().isEmpty();
+}
+
+QString ChartFrame::pictureTitle() const {
+    return m_plot->title();
+}
+
+QString ChartFrame::pictureCaption() const {
+    return m_plot->subtitle();
+}
+
+QSize ChartFrame::pictureSize() const {
+    return m_plot->size().expandedTo({960, 540});
+}
+
+void ChartFrame::paintPicture(QPaintDevice& device, const QSize& size) {
+    plot().replot(); // what has not been on the screen yet has no layout
+    QCPPainter painter;
+    painter.begin(&device);
+    const bool isDrawing = painter.paintEngine()->type() == QPaintEngine::SVG;
+    painter.setModes(isDrawing ? QCPPainter::pmVectorized | QCPPainter::pmNoCaching
+                               : QCPPainter::pmNonCosmetic | QCPPainter::pmNoCaching);
+    m_plot->toPainter(&painter, size.width(), size.height());
+}
+
+QRectF ChartFrame::plotArea() const {
+    return m_plot->axisRect()->rect();
+}
+
+ChartSides ChartFrame::sidesAt(const QPointF& position) const {
+    return m_plot->sidesAt(position);
+}
+
+void ChartFrame::zoom(double factor, const QPointF& at, ChartSides sides) {
+    m_plot->zoom(factor, at, sides);
+}
+
+void ChartFrame::pan(const QPointF& by, ChartSides sides) {
+    m_plot->pan(by, sides);
+}
+
+QRectF ChartFrame::selectionOf(const QPointF& from, const QPointF& to) const {
+    return m_plot->selectionOf(from, to);
+}
+
+void ChartFrame::select(const QRectF& area) {
+    m_plot->zoomInto(area);
+}
+
+/// The plot is drawn first: its coordinates are those of the view that the stop was brought into.
+void ChartFrame::moveCursor(int steps) {
+    const std::vector<QPointF> places = stops();
+    if (places.empty())
+        return;
+    const auto last = static_cast<std::ptrdiff_t>(places.size()) - 1;
+    const std::ptrdiff_t next =
+        m_stop ? static_cast<std::ptrdiff_t>(*m_stop) + steps : (steps > 0 ? 0 : last);
+    const auto stop = static_cast<std::size_t>(std::clamp<std::ptrdiff_t>(next, 0, last));
+    m_plot->bringIntoView(places[stop].x());
+    hoverAt(m_plot->toPixel(places[stop].x(), places[stop].y()));
+    m_stop = stop;
+}
 
 void ChartFrame::leaveCursor() {
+    m_stop.reset();
     m_readOut->hide();
 }
 
-void ChartFrame::handleKey(QKeyEvent& event) {
-    const std::optional<int> focused = m_labels->focusedId();
-    switch (event.key()) {
-    case Qt::Key_Left:
-    case Qt::Key_Right:
-        moveCursor(event.key() == Qt::Key_Left ? -1 : 1);
-        break;
-    case Qt::Key_Up:
-    case Qt::Key_Down:
-        m_labels->moveFocus(event.key() == Qt::Key_Up ? -1 : 1);
-        m_plot->replot(QCustomPlot::rpQueuedReplot);
-        break;
-    case Qt::Key_Space:
-        if (focused)
-            toggleSeries(*focused);
-        break;
-    case Qt::Key_Return:
-    case Qt::Key_Enter:
-        if (focused)
-            isolateSeries(*focused);
-        break;
-    case Qt::Key_Escape:
-        leaveCursor();
-        break;
-    default:
-        return;
-    }
-    event.accept();
+std::optional<QPointF> ChartFrame::cursorPlace() const {
+    return std::nullopt;
+}
+
+std::optional<int> ChartFrame::nameAt(const QPointF& position) const {
+    return m_labels->idAt(position);
+}
+
+std::optional<int> ChartFrame::focusedName() const {
+    return m_labels->focusedId();
+}
+
+void ChartFrame::moveNameFocus(int steps) {
+    m_labels->moveFocus(steps);
+    m_plot->replot(QCustomPlot::rpQueuedReplot);
 }
 
 void ChartFrame::showEvent(QShowEvent* event) {

@@ -1,9 +1,8 @@
 #include "desktop/charts/chart_panel.h"
 
-#include "common/error.h"
-#include "desktop/charts/chart_export.h"
 #include "desktop/charts/gap_chart.h"
 #include "desktop/charts/gate_chart.h"
+#include "desktop/charts/plot_interaction.h"
 #include "desktop/charts/section_chart.h"
 #include "desktop/charts/totals_chart.h"
 #include "desktop/shell/theme.h"
@@ -75,6 +74,8 @@ void ChartPanel::addChart(Chart* chart) {
     m_stack->addWidget(chart);
     m_bar->addActions(chart->options());
     connect(chart, &Chart::runActivated, this, &ChartPanel::runActivated);
+    connect(&chart->interaction(), &PlotInteraction::saved, this, &ChartPanel::chartSaved);
+    connect(&chart->interaction(), &PlotInteraction::savingFailed, this, &ChartPanel::savingFailed);
 }
 
 void ChartPanel::makeActions() {
@@ -93,7 +94,7 @@ void ChartPanel::goToChart(int index) {
 }
 
 void ChartPanel::fit() {
-    currentChart().plot().fit();
+    currentChart().fit();
 }
 
 Chart& ChartPanel::currentChart() const {
@@ -239,19 +240,12 @@ void ChartPanel::chooseReference(int index) {
 }
 
 void ChartPanel::saveChart(const QString& path) {
-    desktop::saveChart(currentChart(), path.toStdU16String());
+    currentChart().save(path.toStdU16String());
     emit chartSaved(path);
 }
 
 void ChartPanel::askAndSave() {
-    const QString path = askChartPath(currentChart().purpose(), this);
-    if (path.isEmpty())
-        return;
-    try {
-        saveChart(path);
-    } catch (const FileError& error) {
-        emit savingFailed(path, QString::fromStdString(error.reason()));
-    }
+    currentChart().interaction().askAndSave();
 }
 
 } // namespace kavela::desktop

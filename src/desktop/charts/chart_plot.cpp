@@ -3,20 +3,15 @@
 #include "desktop/charts/chart_colours.h"
 #include "desktop/shell/theme.h"
 
-#include <QApplication>
-#include <QKeyEvent>
-
 #include <algorithm>
-#include <cmath>
+#include <vector>
 
 namespace kavela::desktop {
 
 namespace {
 
-constexpr double WheelStep = 0.85; ///< of the range, for one notch
-constexpr double KeyStep = 0.7;
 constexpr double NarrowestView = 0.005; ///< of the limits
-constexpr int NarrowDrag = 16;          ///< pixels
+constexpr double NarrowDrag = 16;       ///< pixels
 
 void styleAxis(QCPAxis& axis, const QWidget& widget) {
     const QPalette palette = widget.palette();
@@ -56,11 +51,7 @@ void PlotCaption::draw(QCPPainter* painter) {
 }
 
 ChartPlot::ChartPlot(QWidget* parent)
-    : QCustomPlot(parent),
-      m_band(QRubberBand::Rectangle, this),
-      m_title(new PlotCaption(*this)),
-      m_subtitle(new PlotCaption(*this)) {
-    setFocusPolicy(Qt::StrongFocus);
+    : QCustomPlot(parent), m_title(new PlotCaption(*this)), m_subtitle(new PlotCaption(*this)) {
     setNoAntialiasingOnDrag(false);
     plotLayout()->insertRow(0);
     plotLayout()->insertRow(0);
@@ -158,19 +149,19 @@ void ChartPlot::keepInside(QCPAxis& axis, const QCPRange& limits) {
         axis.setRange(inside);
 }
 
-int ChartPlot::axesAt(const QPointF& position) const {
+ChartSides ChartPlot::sidesAt(const QPointF& position) const {
     const QRectF rect = axisRect()->rect();
     const bool isInColumn = position.x() >= rect.left() && position.x() <= rect.right();
     const bool isInRow = position.y() >= rect.top() && position.y() <= rect.bottom();
     if (isInColumn && isInRow)
-        return All;
+        return AllSides;
     if (isInColumn && position.y() > rect.bottom())
-        return Across;
+        return ChartSide::Across;
     if (isInRow && position.x() < rect.left())
-        return Left;
+        return ChartSide::Left;
     if (isInRow && position.x() > rect.right() && position.x() <= rect.right() + rightAxisWidth())
-        return Right;
-    return NoSide;
+        return ChartSide::Right;
+    return {};
 }
 
 void ChartPlot::noteView() {
@@ -179,19 +170,58 @@ void ChartPlot::noteView() {
     replot(rpQueuedReplot);
 }
 
-void ChartPlot::zoom(double factor, const QPointF& at, int sides) {
-    if (sides == NoSide)
-        return;
-    if (sides & Across)
-        xAxis->scaleRange(factor, xAxis->pixelToCoord(at.x()));
-    if (sides & Left)
-        yAxis->scaleRange(factor, yAxis->pixelToCoord(at.y()));
-    if (sides & Right)
-        yAxis2->scaleRange(factor, yAxis2->pixelToCoord(at.y()));
+/// The numbers of a zoomed axis may be longer and push the plot aside: the place is put right for
+/// the plot where it then stands.
+void ChartPlot::zoom(double factor, const QPointF& at, ChartSides sides) {
+    struct Held {
+        QCPAxis* axis;
+        double pixel;
+        double coordinate;
+    };
+    std::vector<Held> held;
+    const auto scale = [&](QCPAxis* axis, double pixel) {
+        held.push_back({axis, pixel, axis->pixelToCoord(pixel)});
+        axis->scaleRange(factor, held.back().coordinate);
+    };
+    if (sides & ChartSide::Across)
+        scale(xAxis, at.x());
+    if (sides & ChartSide::Left)
+        scale(yAxis, at.y());
+    if (sides & ChartSide::Right)
+        scale(yAxis2, at.y());
+    updateLayout();
+    for (const Held& each : held)
+        each.axis->moveRange(each.coordinate - each.axis->pixelToCoord(each.pixel));
     noteView();
 }
 
-void ChartPlot::zoomInto(const QRect& area) {
+void ChartPlot::pan(const QPointF& by, ChartSides sides) {
+    const auto move = [](QCPAxis& axis, double pixels) {
+        axis.moveRange(axis.pixelToCoord(0) - axis.pixelToCoord(pixels));
+    };
+    if (sides & ChartSide::Across)
+        move(*xAxis, by.x());
+    if (sides & ChartSide::Left)
+        move(*yAxis, by.y());
+    if (sides & ChartSide::Right)
+        move(*yAxis2, by.y());
+    noteView();
+}
+
+QRectF ChartPlot::selectionOf(const QPointF& from, const QPointF& to) const {
+    const QRectF plot = axisRect()->rect();
+    QRectF area = QRectF(from, to).normalized();
+    if (area.height() < NarrowDrag) {
+        area.setTop(plot.top());
+        area.setBottom(plot.bottom());
+    } else if (area.width() < NarrowDrag) {
+        area.setLeft(plot.left());
+        area.setRight(plot.right());
+    }
+    return area & plot;
+}
+
+void ChartPlot::zoomInto(const QRectF& area) {
     const auto between = [](QCPAxis& axis, double a, double b) {
         QCPRange range(axis.pixelToCoord(a), axis.pixelToCoord(b));
         range.normalize();
@@ -203,122 +233,19 @@ void ChartPlot::zoomInto(const QRect& area) {
     noteView();
 }
 
-void ChartPlot::pan(const QPointF& to) {
-    const auto move = [](QCPAxis& axis, double from, double pixel) {
-        axis.moveRange(axis.pixelToCoord(from) - axis.pixelToCoord(pixel));
-    };
-    move(*xAxis, m_panFrom->x(), to.x());
-    move(*yAxis, m_panFrom->y(), to.y());
-    move(*yAxis2, m_panFrom->y(), to.y());
-    m_panFrom = to;
+void ChartPlot::bringIntoView(double x) {
+    const QCPRange range = xAxis->range();
+    if (range.contains(x))
+        return;
+    const double margin = range.size() / 20;
+    xAxis->moveRange(x < range.lower ? x - margin - range.lower : x + margin - range.upper);
     noteView();
-}
-
-QRect ChartPlot::dragArea(const QPoint& to) const {
-    const QRect plot = axisRect()->rect();
-    QRect area = QRect(*m_press, to).normalized();
-    if (area.height() < NarrowDrag) {
-        area.setTop(plot.top());
-        area.setBottom(plot.bottom());
-    } else if (area.width() < NarrowDrag) {
-        area.setLeft(plot.left());
-        area.setRight(plot.right());
-    }
-    return area & plot;
-}
-
-void ChartPlot::mousePressEvent(QMouseEvent* event) {
-    if (event->button() == Qt::LeftButton)
-        m_press = event->pos();
-    else if (event->button() == Qt::MiddleButton) {
-        m_panFrom = event->position();
-        setCursor(Qt::ClosedHandCursor);
-    }
-}
-
-void ChartPlot::mouseMoveEvent(QMouseEvent* event) {
-    if (m_panFrom) {
-        pan(event->position());
-        return;
-    }
-    if (!m_press) {
-        emit hovered(event->position());
-        return;
-    }
-    const bool isDrag =
-        (event->pos() - *m_press).manhattanLength() >= QApplication::startDragDistance();
-    if (isDrag && axisRect()->rect().contains(*m_press)) {
-        emit hoverEnded();
-        m_band.setGeometry(dragArea(event->pos()));
-        m_band.show();
-    }
-}
-
-void ChartPlot::mouseReleaseEvent(QMouseEvent* event) {
-    if (event->button() == Qt::MiddleButton && m_panFrom) {
-        m_panFrom.reset();
-        unsetCursor();
-    }
-    if (event->button() != Qt::LeftButton || !m_press)
-        return;
-    const QRect area = dragArea(event->pos());
-    m_press.reset();
-    if (!m_band.isVisible()) {
-        emit clicked(event->position());
-        return;
-    }
-    m_band.hide();
-    zoomInto(area);
-}
-
-void ChartPlot::mouseDoubleClickEvent(QMouseEvent* event) {
-    if (event->button() == Qt::LeftButton)
-        emit doubleClicked(event->position());
-}
-
-void ChartPlot::wheelEvent(QWheelEvent* event) {
-    const int axes = axesAt(event->position());
-    const double notches = event->angleDelta().y() / 120.0;
-    zoom(std::pow(WheelStep, notches), event->position(), axes);
-    event->setAccepted(axes != NoSide);
-}
-
-void ChartPlot::keyPressEvent(QKeyEvent* event) {
-    const QPointF centre = axisRect()->rect().center();
-    switch (event->key()) {
-    case Qt::Key_Plus:
-    case Qt::Key_Equal:
-        zoom(KeyStep, centre, All);
-        return;
-    case Qt::Key_Minus:
-        zoom(1 / KeyStep, centre, All);
-        return;
-    case Qt::Key_0:
-        fit();
-        return;
-    case Qt::Key_Escape:
-        if (m_band.isVisible()) {
-            m_band.hide();
-            m_press.reset();
-            return;
-        }
-        break;
-    default:
-        break;
-    }
-    event->ignore();
-    emit keyPressed(event);
 }
 
 void ChartPlot::changeEvent(QEvent* event) {
     QCustomPlot::changeEvent(event);
     if (event->type() == QEvent::PaletteChange || event->type() == QEvent::FontChange)
         emit themeChanged();
-}
-
-void ChartPlot::leaveEvent(QEvent* event) {
-    QCustomPlot::leaveEvent(event);
-    emit hoverEnded();
 }
 
 } // namespace kavela::desktop

@@ -1,8 +1,8 @@
 #pragma once
 
-#include <qcustomplot.h>
+#include "desktop/charts/interactive_chart.h"
 
-#include <QRubberBand>
+#include <qcustomplot.h>
 
 #include <functional>
 #include <optional>
@@ -36,10 +36,7 @@ private:
     void draw(QCPPainter* painter) override;
 };
 
-/// The plot of a chart with the mouse and keys that all charts share: the wheel zooms at the
-/// cursor, over an axis that axis alone; a left drag zooms into a range, along one axis when it is
-/// a narrow one; a middle drag pans; "+", "-" and "0" zoom and fit. Nobody gets lost outside the
-/// data.
+/// The plot of a chart and the part of it that is seen. Nobody gets lost outside the data.
 class ChartPlot : public QCustomPlot {
     Q_OBJECT
 
@@ -56,6 +53,16 @@ public:
     void fit();
     [[nodiscard]] bool isZoomed() const { return m_isZoomed; }
 
+    // As InteractiveChart has them.
+    [[nodiscard]] ChartSides sidesAt(const QPointF& position) const;
+    void zoom(double factor, const QPointF& at, ChartSides sides);
+    void pan(const QPointF& by, ChartSides sides);
+    /// Between two corners; along one axis alone where the drag was a narrow one.
+    [[nodiscard]] QRectF selectionOf(const QPointF& from, const QPointF& to) const;
+    void zoomInto(const QRectF& area);
+    /// Moves the view along the chart until it has a place in it.
+    void bringIntoView(double x);
+
     void setCaptions(const QString& title, const QString& subtitle);
     [[nodiscard]] QString title() const { return m_title->text(); }
     [[nodiscard]] QString subtitle() const { return m_subtitle->text(); }
@@ -67,23 +74,10 @@ public:
     [[nodiscard]] QPointF toPixel(double x, double y) const;
 
 signals:
-    void hovered(QPointF position);
-    void hoverEnded();
-    void clicked(QPointF position);
-    void doubleClicked(QPointF position);
     /// The palette or the font is another one, after those of the widgets around.
     void themeChanged();
-    /// A key that the plot has no use for; ignore the event to pass it on.
-    void keyPressed(QKeyEvent* event);
 
 protected:
-    void mousePressEvent(QMouseEvent* event) override;
-    void mouseMoveEvent(QMouseEvent* event) override;
-    void mouseReleaseEvent(QMouseEvent* event) override;
-    void mouseDoubleClickEvent(QMouseEvent* event) override;
-    void wheelEvent(QWheelEvent* event) override;
-    void keyPressEvent(QKeyEvent* event) override;
-    void leaveEvent(QEvent* event) override;
     void changeEvent(QEvent* event) override;
 
 private:
@@ -92,23 +86,13 @@ private:
         QCPRange y;
         std::optional<QCPRange> right;
     };
-    enum Side { NoSide = 0, Across = 1, Left = 2, Right = 4, All = Across | Left | Right };
 
     void applyLimits(const Limits& limits);
     void noteView();
     void keepInside(QCPAxis& axis, const QCPRange& limits);
-    void zoom(double factor, const QPointF& at, int sides);
-    void zoomInto(const QRect& area);
-    void pan(const QPointF& to);
-    /// The axes that the wheel turns at a place; combined sides.
-    [[nodiscard]] int axesAt(const QPointF& position) const;
-    [[nodiscard]] QRect dragArea(const QPoint& to) const;
 
     Limits m_limits{{0, 1}, {0, 1}, {}};
     bool m_isZoomed = false;
-    std::optional<QPoint> m_press;    ///< where the left button went down
-    std::optional<QPointF> m_panFrom; ///< where the middle button last was
-    QRubberBand m_band;
     PlotCaption* m_title;
     PlotCaption* m_subtitle;
 };

@@ -1,7 +1,10 @@
 #include "desktop/charts/gap_chart.h"
 
 #include "desktop/charts/chart_csv.h"
+#include "desktop/charts/chart_markers.h"
+#include "desktop/charts/chart_plot.h"
 #include "desktop/charts/read_out.h"
+#include "desktop/charts/series_labels.h"
 #include "desktop/shell/shown_number.h"
 #include "desktop/shell/theme.h"
 
@@ -173,8 +176,15 @@ void GapChart::moveCursor(int steps) {
     if (sections == 0)
         return;
     const int split = std::clamp(static_cast<int>(m_cursor) + steps, 1, sections);
+    canvas().bringIntoView(split);
     const QPointF place = canvas().toPixel(split, canvas().yAxis->range().lower);
     showCursor(static_cast<std::size_t>(split), place);
+}
+
+std::optional<QPointF> GapChart::cursorPlace() const {
+    const QPointF place(canvas().xAxis->coordToPixel(static_cast<double>(m_cursor)),
+                        plotArea().center().y());
+    return m_cursor > 0 && plotArea().contains(place) ? std::optional(place) : std::nullopt;
 }
 
 void GapChart::leaveCursor() {

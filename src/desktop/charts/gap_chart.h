@@ -34,6 +34,7 @@ private:
     void clickAt(const QPointF& position) override;
     void moveCursor(int steps) override;
     void leaveCursor() override;
+    [[nodiscard]] std::optional<QPointF> cursorPlace() const override;
 
     void addLine(const Line& line);
     void showLabels();

@@ -1,7 +1,10 @@
 #include "desktop/charts/gate_chart.h"
 
 #include "desktop/charts/chart_csv.h"
+#include "desktop/charts/chart_markers.h"
+#include "desktop/charts/chart_plot.h"
 #include "desktop/charts/read_out.h"
+#include "desktop/charts/series_labels.h"
 #include "desktop/shell/theme.h"
 
 #include <algorithm>
@@ -233,6 +236,13 @@ void GateChart::hoverAt(const QPointF& position) {
         leaveCursor();
     else
         readOut().showAt(position, readOutOf(static_cast<std::size_t>(gate)));
+}
+
+std::vector<QPointF> GateChart::stops() const {
+    std::vector<QPointF> stops;
+    for (std::size_t gate = 1; gate <= m_course.gates.size(); ++gate)
+        stops.emplace_back(static_cast<double>(gate), canvas().yAxis->range().center());
+    return stops;
 }
 
 void GateChart::clickAt(const QPointF& position) {

@@ -39,6 +39,7 @@ private:
     [[nodiscard]] QString csvText() const override;
     void hoverAt(const QPointF& position) override;
     void clickAt(const QPointF& position) override;
+    [[nodiscard]] std::vector<QPointF> stops() const override;
 
     void addBars();
     void collectMarks();

@@ -1,7 +1,10 @@
 #include "desktop/charts/section_chart.h"
 
 #include "desktop/charts/chart_csv.h"
+#include "desktop/charts/chart_markers.h"
+#include "desktop/charts/chart_plot.h"
 #include "desktop/charts/read_out.h"
+#include "desktop/charts/series_labels.h"
 #include "desktop/shell/shown_number.h"
 #include "desktop/shell/theme.h"
 
@@ -93,7 +96,7 @@ void SectionChart::setForm(Form form) {
 void SectionChart::setScale(Scale scale) {
     m_scale = scale;
     m_options[scale == Scale::BehindBest ? 3 : 4]->setChecked(true);
-    canvas().fit();
+    fit();
     invalidate();
 }
 
@@ -293,6 +296,14 @@ void SectionChart::hoverAt(const QPointF& position) {
         readOut().showAt(position, readOutOf(static_cast<std::size_t>(x)));
     else
         leaveCursor();
+}
+
+std::vector<QPointF> SectionChart::stops() const {
+    const QCPRange heights = canvas().yAxis->range();
+    std::vector<QPointF> stops;
+    for (std::size_t i = 0; i < m_sections.size(); ++i) // below the dots: the section is meant
+        stops.emplace_back(static_cast<double>(i) + 0.5, heights.upper - heights.size() / 50);
+    return stops;
 }
 
 void SectionChart::clickAt(const QPointF& position) {

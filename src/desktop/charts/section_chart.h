@@ -42,6 +42,7 @@ private:
     [[nodiscard]] QString csvText() const override;
     void hoverAt(const QPointF& position) override;
     void clickAt(const QPointF& position) override;
+    [[nodiscard]] std::vector<QPointF> stops() const override;
 
     void makeOptions();
     void addBoxes();

@@ -1,12 +1,13 @@
 #include "desktop/charts/sensor_chart.h"
 
 #include "desktop/charts/chart_colours.h"
+#include "desktop/charts/chart_export.h"
+#include "desktop/charts/plot_interaction.h"
 #include "desktop/charts/sensor_drawing.h"
 #include "desktop/shell/shown_number.h"
 #include "desktop/shell/theme.h"
 
-#include <QApplication>
-#include <QMouseEvent>
+#include <QMetaMethod>
 #include <QPainter>
 
 #include <algorithm>
@@ -16,19 +17,15 @@ namespace kavela::desktop {
 
 namespace {
 
-constexpr double WheelStep = 0.8; ///< of the view, for one notch
-constexpr double KeyStep = 0.5;
-constexpr double MoveStep = 0.1;        ///< of the view, for an arrow key with Ctrl
 constexpr double LeastView = 0.05;      ///< seconds
-constexpr double LeastSelection = 4;    ///< pixels
 constexpr double CursorStep = 1 / 50.0; ///< seconds, or a pixel where that is more
 
 } // namespace
 
 SensorChart::SensorChart(QWidget* parent)
-    : QWidget(parent), m_drawing(std::make_unique<SensorDrawing>()) {
-    setMouseTracking(true);
-    setFocusPolicy(Qt::StrongFocus);
+    : QWidget(parent),
+      m_interaction(std::make_unique<PlotInteraction>(*this, *this)),
+      m_drawing(std::make_unique<SensorDrawing>()) {
     setAttribute(Qt::WA_OpaquePaintEvent);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
 }
@@ -43,6 +40,8 @@ void SensorChart::setTitle(const QString& title) {
 
 void SensorChart::setSeries(std::vector<SensorSeries> series) {
     m_series = std::move(series);
+    if (m_focused && static_cast<std::size_t>(*m_focused) >= m_series.size())
+        m_focused.reset();
     m_drawing->setSeries(m_series);
     if (!(m_to > m_from))
         fit();
@@ -145,16 +144,22 @@ void SensorChart::hideSeries(const QString& name, bool isHidden) {
     invalidate();
 }
 
-void SensorChart::toggleName(const QString& name) {
+void SensorChart::toggleSeries(int id) {
+    const QString name = m_series[static_cast<std::size_t>(id)].name;
     hideSeries(name, !m_hidden.contains(name));
 }
 
-void SensorChart::isolateName(const QString& name) {
+void SensorChart::isolateSeries(int id) {
     std::set<QString> others;
     for (const SensorSeries& series : m_series)
-        if (series.name != name)
+        if (series.name != m_series[static_cast<std::size_t>(id)].name)
             others.insert(series.name);
     m_hidden = m_hidden == others ? std::set<QString>() : others;
+    invalidate();
+}
+
+void SensorChart::showAllSeries() {
+    m_hidden.clear();
     invalidate();
 }
 
@@ -170,10 +175,6 @@ double SensorChart::timeAt(double pixel) const {
 
 QString SensorChart::timeText(double time) const {
     return m_timeText ? m_timeText(time) : momentText(time);
-}
-
-void SensorChart::moveCursorTo(double time) {
-    showCursorAt(time);
 }
 
 void SensorChart::showCursorAt(double time) {
@@ -196,75 +197,51 @@ void SensorChart::hideCursor() {
     emit hoverEnded();
 }
 
-void SensorChart::moveBy(double share, bool movesView) {
-    const double width = m_to - m_from;
-    if (movesView) {
-        showInside(m_from + share * MoveStep * width, m_to + share * MoveStep * width);
-        return;
-    }
-    const double pixel = timeAt(1) - timeAt(0);
-    moveCursorTo(
-        std::clamp(m_cursor.value_or((m_from + m_to) / 2) + share * std::max(pixel, CursorStep),
-                   m_from, m_to));
+QRectF SensorChart::plotArea() const {
+    prepare();
+    return m_drawing->scale().plot;
 }
 
-void SensorChart::mousePressEvent(QMouseEvent* event) {
-    m_press = m_last = event->position();
-    if (event->button() == Qt::MiddleButton) {
-        m_drag = Drag::Pan;
-        setCursor(Qt::ClosedHandCursor);
-    } else if (event->button() == Qt::LeftButton) {
-        m_drag = event->modifiers().testFlag(Qt::ShiftModifier) ? Drag::Shift : Drag::Press;
+ChartSides SensorChart::sidesAt(const QPointF& position) const {
+    return position.x() < plotArea().left() ? ChartSide::Left : ChartSide::Across;
+}
+
+/// The values follow what is seen: in the plot and by the keys the time alone is zoomed.
+void SensorChart::zoom(double factor, const QPointF& at, ChartSides sides) {
+    if (sides & ChartSide::Across)
+        zoomAt(factor, timeAt(at.x()));
+    else
+        zoomValuesAt(factor, at.y());
+}
+
+void SensorChart::pan(const QPointF& by, ChartSides sides) {
+    if (sides & ChartSide::Across) {
+        const double seconds = timeAt(by.x()) - timeAt(0);
+        showInside(m_from - seconds, m_to - seconds);
+    }
+    if (sides & ChartSide::Left && m_values) {
+        const auto [low, high] = *m_values;
+        const double values = by.y() / plotArea().height() * (high - low);
+        m_values = {low + values, high + values};
+        invalidate();
     }
 }
 
-void SensorChart::mouseMoveEvent(QMouseEvent* event) {
-    const double before = timeAt(m_last.x());
-    const double now = timeAt(event->position().x());
-    m_last = event->position();
-    switch (m_drag) {
-    case Drag::Pan:
-        showInside(m_from - (now - before), m_to - (now - before));
-        return;
-    case Drag::Shift:
-        emit shiftDragged(now - before);
-        return;
-    case Drag::Press:
-        if (std::abs(m_last.x() - m_press.x()) >= QApplication::startDragDistance())
-            m_drag = Drag::Select;
-        break;
-    case Drag::Select:
-        break;
-    case Drag::None:
-        if (m_drawing->scale().plot.contains(m_last))
-            moveCursorTo(now);
-        else
-            hideCursor();
-        return;
-    }
-    update();
+QRectF SensorChart::selectionOf(const QPointF& from, const QPointF& to) const {
+    const QRectF plot = plotArea();
+    const auto inside = [&](double x) { return std::clamp(x, plot.left(), plot.right()); };
+    const double left = inside(std::min(from.x(), to.x()));
+    return {left, plot.top(), inside(std::max(from.x(), to.x())) - left, plot.height()};
 }
 
-void SensorChart::mouseReleaseEvent(QMouseEvent* event) {
-    endDrag(event->position());
+QString SensorChart::selectionText(const QRectF& area) const {
+    const double seconds = area.width() / plotArea().width() * (m_to - m_from);
+    return tr("%1 s").arg(shownNumber(seconds, 2));
 }
 
-void SensorChart::endDrag(const QPointF& at) {
-    const Drag drag = std::exchange(m_drag, Drag::None);
-    unsetCursor();
-    update();
-    if (drag == Drag::Shift)
-        emit shiftDragEnded();
-    if (drag == Drag::Press) {
-        if (const auto name = m_drawing->nameAt(at))
-            toggleName(*name);
-        else if (m_drawing->scale().plot.contains(at))
-            emit clickedAt(timeAt(at.x()));
-    }
-    if (drag != Drag::Select || std::abs(at.x() - m_press.x()) < LeastSelection)
-        return;
-    const double from = std::max(m_from, timeAt(std::min(at.x(), m_press.x())));
-    const double to = std::min(m_to, timeAt(std::max(at.x(), m_press.x())));
+void SensorChart::select(const QRectF& area) {
+    const double from = std::max(m_from, timeAt(area.left()));
+    const double to = std::min(m_to, timeAt(area.right()));
     if (!(to > from))
         return;
     emit rangeSelected(from, to);
@@ -272,71 +249,74 @@ void SensorChart::endDrag(const QPointF& at) {
         showInside(from, to);
 }
 
-void SensorChart::mouseDoubleClickEvent(QMouseEvent* event) {
-    if (event->button() != Qt::LeftButton)
-        return;
-    if (const auto name = m_drawing->nameAt(event->position())) {
-        toggleName(*name); // takes back what the first click of the two did
-        isolateName(*name);
-        return;
-    }
-    fit();
-}
-
-void SensorChart::wheelEvent(QWheelEvent* event) {
-    const int turned = event->angleDelta().y();
-    if (turned == 0 || m_series.empty() || event->modifiers().testFlag(Qt::ControlModifier)) {
-        event->ignore(); // whatever is around may scroll
-        return;
-    }
-    const double factor = std::pow(WheelStep, turned / 120.0);
-    prepare();
-    if (event->position().x() < m_drawing->scale().plot.left())
-        zoomValuesAt(factor, event->position().y());
+void SensorChart::hoverAt(const QPointF& position) {
+    if (plotArea().contains(position))
+        showCursorAt(timeAt(position.x()));
     else
-        zoomAt(factor, timeAt(event->position().x()));
-    event->accept();
+        hideCursor();
 }
 
-void SensorChart::keyPressEvent(QKeyEvent* event) {
-    const bool movesView = event->modifiers().testFlag(Qt::ControlModifier);
-    switch (event->key()) {
-    case Qt::Key_Plus:
-    case Qt::Key_Equal:
-        zoom(KeyStep);
-        break;
-    case Qt::Key_Minus:
-        zoom(1 / KeyStep);
-        break;
-    case Qt::Key_0:
-        fit();
-        break;
-    case Qt::Key_Left:
-    case Qt::Key_Right: {
-        const double side = event->key() == Qt::Key_Left ? -1 : 1;
-        moveBy(event->modifiers().testFlag(Qt::ShiftModifier) ? 10 * side : side, movesView);
-        break;
-    }
-    case Qt::Key_Escape:
-        if (m_drag != Drag::Select) {
-            QWidget::keyPressEvent(event);
-            return;
-        }
-        m_drag = Drag::None;
-        update();
-        break;
-    default:
-        QWidget::keyPressEvent(event);
-    }
+void SensorChart::clickAt(const QPointF& position) {
+    if (plotArea().contains(position))
+        emit clickedAt(timeAt(position.x()));
 }
 
-void SensorChart::leaveEvent(QEvent* event) {
-    QWidget::leaveEvent(event);
+void SensorChart::moveCursor(int steps) {
+    const double pixel = timeAt(1) - timeAt(0);
+    const auto [first, last] = limits();
+    const double time =
+        std::clamp(m_cursor.value_or((m_from + m_to) / 2) + steps * std::max(pixel, CursorStep),
+                   std::min(first, last), std::max(first, last));
+    if (time < m_from || time > m_to) {
+        const double by = time < m_from ? time - m_from : time - m_to;
+        showInside(m_from + by, m_to + by);
+    }
+    showCursorAt(time);
+}
+
+void SensorChart::leaveCursor() {
     hideCursor();
 }
 
-void SensorChart::contextMenuEvent(QContextMenuEvent* event) {
-    emit menuRequested(event->globalPos());
+std::optional<QPointF> SensorChart::cursorPlace() const {
+    if (!m_cursor || *m_cursor < m_from || *m_cursor > m_to)
+        return std::nullopt;
+    return QPointF(pixelAt(*m_cursor), plotArea().center().y());
+}
+
+std::optional<int> SensorChart::nameAt(const QPointF& position) const {
+    prepare();
+    return m_drawing->nameAt(position);
+}
+
+std::optional<int> SensorChart::focusedName() const {
+    return m_focused;
+}
+
+/// A single series has no name beside the title.
+void SensorChart::moveNameFocus(int steps) {
+    const int last = static_cast<int>(m_series.size()) - 1;
+    if (last < 1)
+        return;
+    m_focused = m_focused ? std::clamp(*m_focused + steps, 0, last) : steps > 0 ? 0 : last;
+    invalidate();
+}
+
+bool SensorChart::takesDrag(Qt::KeyboardModifiers keys) const {
+    return keys.testFlag(Qt::ShiftModifier) &&
+           isSignalConnected(QMetaMethod::fromSignal(&SensorChart::shiftDragged));
+}
+
+void SensorChart::dragSeries(const QPointF& from, const QPointF& to) {
+    emit shiftDragged(timeAt(to.x()) - timeAt(from.x()));
+}
+
+void SensorChart::endSeriesDrag() {
+    emit shiftDragEnded();
+}
+
+void SensorChart::save(const std::filesystem::path& path) {
+    saveChart(*this, path);
 }
 
 void SensorChart::resizeEvent(QResizeEvent* event) {
@@ -360,6 +340,7 @@ SensorScene SensorChart::scene() const {
             .emptyText = m_emptyText,
             .marks = m_marks,
             .hidden = m_hidden,
+            .focused = hasFocus() ? m_focused : std::nullopt,
             .from = m_from,
             .to = m_to,
             .values = m_values,
@@ -390,8 +371,6 @@ void SensorChart::paintEvent(QPaintEvent*) {
     painter.drawPixmap(0, 0, m_picture);
     if (m_cursor)
         paintCursor(painter);
-    if (m_drag == Drag::Select)
-        paintSelection(painter);
     if (hasFocus()) {
         painter.setBrush(Qt::NoBrush); // that of the cursor's dots would fill the frame
         painter.setPen(QPen(palette().color(QPalette::Highlight), 1));
@@ -413,22 +392,6 @@ void SensorChart::paintCursor(QPainter& painter) const {
     painter.fillRect(box, palette().color(QPalette::WindowText));
     painter.setPen(palette().color(QPalette::Window));
     painter.drawText(box, Qt::AlignCenter, text);
-}
-
-void SensorChart::paintSelection(QPainter& painter) const {
-    const QRectF& plot = m_drawing->scale().plot;
-    const double left = std::clamp(std::min(m_press.x(), m_last.x()), plot.left(), plot.right());
-    const double right = std::clamp(std::max(m_press.x(), m_last.x()), plot.left(), plot.right());
-    QColor colour = palette().color(QPalette::Highlight);
-    painter.setPen(QPen(colour, 1));
-    colour.setAlphaF(0.2F);
-    painter.setBrush(colour);
-    painter.drawRect(QRectF(left, plot.top(), right - left, plot.height()));
-    painter.setPen(palette().color(QPalette::WindowText));
-    const double seconds = (right - left) / plot.width() * (m_to - m_from);
-    painter.setFont(theme::captionFont(*this));
-    painter.drawText(QPointF(left + theme::SmallSpacing, plot.bottom() - theme::SmallSpacing),
-                     tr("%1 s").arg(shownNumber(seconds, 2)));
 }
 
 } // namespace kavela::desktop

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "desktop/charts/interactive_chart.h"
 #include "desktop/charts/sensor_series.h"
 
 #include <QPixmap>
@@ -14,20 +15,19 @@ class QPainter;
 
 namespace kavela::desktop {
 
+class PlotInteraction;
 class SensorDrawing;
 struct SensorScene;
 
 /// A chart of long rows of samples against time. A repaint costs what the chart is wide, not what
 /// the rows are long.
 ///
-/// The wheel zooms at the cursor, over the value axis that axis alone; a left drag selects a range
-/// and zooms into it; a middle drag pans; a drag with Shift asks to move the series in time; double
-/// click fits. "+", "-", "0" and the arrow keys do the same. A click on a name hides its series, a
-/// double click shows it alone. The value axis follows what is seen until it is zoomed.
+/// It moves as every chart does, see PlotInteraction; a drag with Shift asks to move the series in
+/// time. The value axis follows what is seen until it is zoomed.
 ///
 /// Charts of a window share view and cursor by viewChanged → setView, hoveredAt → showCursorAt and
 /// hoverEnded → hideCursor; each tells a change once, so that they may be connected in a ring.
-class SensorChart : public QWidget {
+class SensorChart : public QWidget, public InteractiveChart {
     Q_OBJECT
 
 public:
@@ -51,7 +51,7 @@ public:
     /// What fits: the extent of the series unless it is set, as for charts with a common axis.
     void setLimits(double from, double to);
     [[nodiscard]] std::pair<double, double> limits() const;
-    void fit();
+    void fit() override;
     /// Zooms around the middle of the view, or around the cursor where there is one; a factor below
     /// 1 shows less.
     void zoom(double factor);
@@ -74,7 +74,42 @@ public:
     /// The visible range of the visible series: a picture as ".png" or ".svg", the samples as
     /// ".csv" with a line for each moment. Throws FileError, also for any other extension.
     void save(const std::filesystem::path& path);
-    [[nodiscard]] QString csv() const;
+    [[nodiscard]] QString csv() override;
+    [[nodiscard]] PlotInteraction& interaction() const { return *m_interaction; }
+
+    [[nodiscard]] bool hasContent() const override { return !m_series.empty(); }
+    [[nodiscard]] QString pictureTitle() const override { return m_title; }
+    /// The title without its unit.
+    [[nodiscard]] QString fileName() const override { return m_title.section(" (", 0, 0); }
+    [[nodiscard]] QSize pictureSize() const override { return size().expandedTo({960, 320}); }
+    void paintPicture(QPaintDevice& device, const QSize& size) override;
+
+    [[nodiscard]] QRectF plotArea() const override;
+    [[nodiscard]] ChartSides sidesAt(const QPointF& position) const override;
+    void zoom(double factor, const QPointF& at, ChartSides sides) override;
+    void pan(const QPointF& by, ChartSides sides) override;
+    [[nodiscard]] QRectF selectionOf(const QPointF& from, const QPointF& to) const override;
+    [[nodiscard]] QString selectionText(const QRectF& area) const override;
+    void select(const QRectF& area) override;
+
+    void hoverAt(const QPointF& position) override;
+    void clickAt(const QPointF& position) override;
+    void moveCursor(int steps) override;
+    void leaveCursor() override;
+    [[nodiscard]] std::optional<QPointF> cursorPlace() const override;
+
+    // The ids are places among the series.
+    [[nodiscard]] std::optional<int> nameAt(const QPointF& position) const override;
+    void toggleSeries(int id) override;
+    void isolateSeries(int id) override;
+    void showAllSeries() override;
+    [[nodiscard]] bool hidesSeries() const override { return !m_hidden.empty(); }
+    [[nodiscard]] std::optional<int> focusedName() const override;
+    void moveNameFocus(int steps) override;
+
+    [[nodiscard]] bool takesDrag(Qt::KeyboardModifiers keys) const override;
+    void dragSeries(const QPointF& from, const QPointF& to) override;
+    void endSeriesDrag() override;
 
     [[nodiscard]] QSize sizeHint() const override { return {640, 160}; }
     [[nodiscard]] QSize minimumSizeHint() const override { return {240, 72}; }
@@ -94,38 +129,20 @@ signals:
     /// A drag with Shift has moved on by so many seconds.
     void shiftDragged(double seconds);
     void shiftDragEnded();
-    /// A menu of the chart's own is wanted, at a place of the screen.
-    void menuRequested(const QPoint& at);
 
 protected:
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void changeEvent(QEvent* event) override;
-    void mousePressEvent(QMouseEvent* event) override;
-    void mouseMoveEvent(QMouseEvent* event) override;
-    void mouseReleaseEvent(QMouseEvent* event) override;
-    void mouseDoubleClickEvent(QMouseEvent* event) override;
-    void wheelEvent(QWheelEvent* event) override;
-    void keyPressEvent(QKeyEvent* event) override;
-    void leaveEvent(QEvent* event) override;
-    void contextMenuEvent(QContextMenuEvent* event) override;
 
 private:
-    enum class Drag { None, Press, Select, Pan, Shift };
-
     void invalidate();
     void prepare() const;
     [[nodiscard]] SensorScene scene() const;
     void zoomAt(double factor, double time);
     void zoomValuesAt(double factor, double pixel);
     void showInside(double from, double to);
-    void moveCursorTo(double time);
-    void moveBy(double share, bool movesView);
-    void endDrag(const QPointF& at);
-    void toggleName(const QString& name);
-    void isolateName(const QString& name);
     void paintCursor(QPainter& painter) const;
-    void paintSelection(QPainter& painter) const;
     [[nodiscard]] QString timeText(double time) const;
 
     QString m_title;
@@ -141,11 +158,10 @@ private:
     bool m_dragZooms = true;
     bool m_hasTimeAxis = true;
 
-    Drag m_drag = Drag::None;
-    QPointF m_press;
-    QPointF m_last; ///< where the drag has come to
     std::optional<double> m_cursor;
+    std::optional<int> m_focused; ///< the name that the keys act on
 
+    std::unique_ptr<PlotInteraction> m_interaction;
     std::unique_ptr<SensorDrawing> m_drawing;
     QPixmap m_picture; ///< without cursor and selection
     bool m_isStale = true;

@@ -146,10 +146,10 @@ void SensorDrawing::layOutLabels(const SensorScene& scene, double width) {
     }
 }
 
-std::optional<QString> SensorDrawing::nameAt(const QPointF& at) const {
+std::optional<int> SensorDrawing::nameAt(const QPointF& at) const {
     for (const Label& label : m_labels)
         if (label.rect.contains(at) && !label.text.isEmpty())
-            return m_series[label.series].series.name;
+            return static_cast<int>(label.series);
     return std::nullopt;
 }
 
@@ -330,6 +330,7 @@ void SensorDrawing::paintLabels(QPainter& painter, const SensorScene& scene) con
                                 : m_palette.color(QPalette::WindowText));
         QFont font = m_font;
         font.setStrikeOut(isHidden);
+        font.setUnderline(scene.focused == static_cast<int>(label.series));
         painter.setFont(font);
         painter.drawText(label.rect.adjusted(Swatch + theme::SmallSpacing, 0, 0, 0),
                          Qt::AlignLeft | Qt::AlignVCenter, label.text);

@@ -19,6 +19,7 @@ struct SensorScene {
     QString emptyText;
     const std::vector<SensorMark>& marks;
     const std::set<QString>& hidden;
+    std::optional<int> focused{}; ///< the series whose name the keys act on
     double from = 0;
     double to = 0;
     std::optional<std::pair<double, double>> values; ///< of the value axis; else as the data asks
@@ -40,7 +41,8 @@ public:
     void paintCursor(QPainter& painter, const SensorScene& scene, double time) const;
 
     [[nodiscard]] const SensorScale& scale() const { return m_scale; }
-    [[nodiscard]] std::optional<QString> nameAt(const QPointF& at) const;
+    /// The series whose name stands there.
+    [[nodiscard]] std::optional<int> nameAt(const QPointF& at) const;
 
 private:
     struct Label {

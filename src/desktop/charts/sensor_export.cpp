@@ -1,14 +1,9 @@
-#include "common/error.h"
-#include "common/safe_file.h"
 #include "desktop/charts/chart_colours.h"
 #include "desktop/charts/chart_csv.h"
 #include "desktop/charts/sensor_chart.h"
 #include "desktop/charts/sensor_drawing.h"
 
-#include <QBuffer>
-#include <QImage>
 #include <QPainter>
-#include <QSvgGenerator>
 
 #include <limits>
 
@@ -16,13 +11,7 @@ namespace kavela::desktop {
 
 namespace {
 
-constexpr double PixelDensity = 2; ///< sharp on paper and on dense screens
 constexpr double Never = std::numeric_limits<double>::infinity();
-
-/// A chart in a narrow strip of the window makes no useful picture.
-QSize pictureSize(const QWidget& chart) {
-    return chart.size().expandedTo({960, 320});
-}
 
 /// The way through the visible samples of one series.
 struct Walk {
@@ -47,7 +36,7 @@ QString header(const std::vector<Walk>& walks) {
 
 } // namespace
 
-QString SensorChart::csv() const {
+QString SensorChart::csv() {
     std::vector<Walk> walks;
     for (const DrawnSeries& drawn : m_drawing->series())
         if (!m_hidden.contains(drawn.series.name)) {
@@ -72,40 +61,15 @@ QString SensorChart::csv() const {
     }
 }
 
-void SensorChart::save(const std::filesystem::path& path) {
-    const QString extension = QString::fromStdString(path.extension().string()).toLower();
-    const QSize size = pictureSize(*this);
+void SensorChart::paintPicture(QPaintDevice& device, const QSize& size) {
     SensorScene shown = scene();
     shown.hasTimeAxis = true;
-    QByteArray bytes;
-    QBuffer buffer(&bytes);
-    buffer.open(QIODevice::WriteOnly);
+    shown.focused.reset();
     SensorDrawing drawing = *m_drawing;
     drawing.layOut(shown, size, *this);
-    if (extension == ".png") {
-        QImage image(size * PixelDensity, QImage::Format_RGB32);
-        image.setDevicePixelRatio(PixelDensity);
-        image.fill(chartGround(palette()));
-        QPainter painter(&image);
-        drawing.paint(painter, shown, PixelDensity);
-        painter.end();
-        image.save(&buffer, "PNG");
-    } else if (extension == ".svg") {
-        QSvgGenerator generator;
-        generator.setOutputDevice(&buffer);
-        generator.setSize(size);
-        generator.setViewBox(QRect(QPoint(), size));
-        generator.setTitle(m_title);
-        QPainter painter(&generator);
-        painter.fillRect(QRect(QPoint(), size), chartGround(palette()));
-        drawing.paint(painter, shown, 1);
-        painter.end();
-    } else if (extension == ".csv") {
-        bytes = csv().toUtf8();
-    } else {
-        throw FileError(path, "A chart is saved as .png, .svg or .csv");
-    }
-    writeFileSafely(path, {bytes.constData(), static_cast<std::size_t>(bytes.size())});
+    QPainter painter(&device);
+    painter.fillRect(QRect(QPoint(), size), chartGround(palette()));
+    drawing.paint(painter, shown, device.devicePixelRatioF());
 }
 
 } // namespace kavela::desktop

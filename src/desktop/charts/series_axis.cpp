@@ -4,8 +4,9 @@
 #include "common/reference_date.h"
 #include "desktop/shell/theme.h"
 
+#include <qcustomplot.h>
+
 #include <QDateTime>
-#include <QTimeZone>
 
 #include <cmath>
 
@@ -86,13 +87,26 @@ private:
 
     QString getTickLabel(double tick, const QLocale&, QChar, int) override {
         const double room = pixels() * static_cast<double>(step()) - theme::Spacing;
-        return QFontMetrics(m_plot.xAxis->tickLabelFont())
-            .elidedText(m_names.value(static_cast<qsizetype>(tick)), Qt::ElideRight,
-                        static_cast<int>(room));
+        const QFontMetrics metrics(m_plot.xAxis->tickLabelFont());
+        QStringList lines = m_names.value(static_cast<qsizetype>(tick)).split('\n');
+        for (QString& line : lines)
+            line = metrics.elidedText(line, Qt::ElideRight, static_cast<int>(room));
+        return lines.join('\n');
     }
 
     QStringList m_names;
     QCustomPlot& m_plot;
+};
+
+/// Ticks at whole numbers.
+class WholeTicker : public QCPAxisTicker {
+private:
+    double getTickStep(const QCPRange& range) override {
+        const double step = QCPAxisTicker::getTickStep(range);
+        return step < 1 ? 1 : step == std::floor(step) ? step : 2 * step;
+    }
+
+    int getSubTickCount(double) override { return 0; }
 };
 
 } // namespace
@@ -108,7 +122,7 @@ bool isDrawable(double y) {
 
 QString placeText(const ChartContent& content, double x) {
     if (content.across == ChartContent::Across::Category)
-        return content.categories.value(static_cast<qsizetype>(std::round(x)));
+        return content.categories.value(static_cast<qsizetype>(std::round(x))).replace('\n', ' ');
     if (content.across == ChartContent::Across::Number || !isDrawable(content.across, x))
         return valueText(x);
     const QDateTime moment = momentOf(x);
@@ -129,6 +143,8 @@ QString valueText(double value) {
     return QString::fromStdString(plainText(rounded == 0 ? 0 : rounded));
 }
 
+namespace {
+
 void showAcross(QCustomPlot& plot, const ChartContent& content) {
     plot.xAxis->setLabel(content.xTitle);
     switch (content.across) {
@@ -143,6 +159,19 @@ void showAcross(QCustomPlot& plot, const ChartContent& content) {
         plot.xAxis->grid()->setPen(Qt::NoPen);
         break;
     }
+}
+
+} // namespace
+
+void showAxes(QCustomPlot& plot, const ChartContent& content) {
+    showAcross(plot, content);
+    plot.yAxis->setLabel(content.yTitle);
+    plot.yAxis->setRangeReversed(content.yReversed);
+    if (content.yWhole)
+        plot.yAxis->setTicker(QSharedPointer<WholeTicker>::create());
+    else
+        plot.yAxis->setTicker(QSharedPointer<QCPAxisTicker>::create());
+    plot.yAxis2->setLabel(content.rightTitle);
 }
 
 } // namespace kavela::desktop

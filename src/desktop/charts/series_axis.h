@@ -2,7 +2,7 @@
 
 #include "desktop/charts/chart_content.h"
 
-#include <qcustomplot.h>
+class QCustomPlot;
 
 /// What stands along the x axis of a SeriesChart.
 namespace kavela::desktop {
@@ -17,7 +17,7 @@ namespace kavela::desktop {
 /// A value with as many digits as anybody reads: "72.4", "1034.5".
 [[nodiscard]] QString valueText(double value);
 
-/// Puts numbers, dates or categories along the x axis of a plot.
-void showAcross(QCustomPlot& plot, const ChartContent& content);
+/// Puts numbers, dates or categories along the x axis of a plot, and values up the other two.
+void showAxes(QCustomPlot& plot, const ChartContent& content);
 
 } // namespace kavela::desktop

@@ -1,15 +1,10 @@
 #include "desktop/charts/series_chart.h"
 
-#include "common/error.h"
-#include "desktop/charts/chart_export.h"
+#include "desktop/charts/chart_plot.h"
 #include "desktop/charts/read_out.h"
 #include "desktop/charts/series_axis.h"
 #include "desktop/charts/series_drawing.h"
 #include "desktop/shell/theme.h"
-
-#include <QContextMenuEvent>
-#include <QMenu>
-#include <QMessageBox>
 
 #include <algorithm>
 #include <cmath>
@@ -46,7 +41,7 @@ void SeriesChart::show(ChartContent content) {
                         content.categories == m_content.categories;
     if (!isSame) {
         showAgain([](int) { return true; });
-        canvas().fit();
+        fit();
     }
     leaveCursor(); // before what it stands at is gone
     m_content = std::move(content);
@@ -62,9 +57,7 @@ QString SeriesChart::emptyReason() const {
 void SeriesChart::fill() {
     m_drawing = std::make_unique<SeriesDrawing>(m_content, [this](int id) { return isShown(id); });
     canvas().setCaptions(m_content.title, m_content.subtitle);
-    showAcross(canvas(), m_content);
-    canvas().yAxis->setLabel(m_content.yTitle);
-    canvas().yAxis2->setLabel(m_content.rightTitle);
+    showAxes(canvas(), m_content);
     m_drawing->draw(canvas());
     seriesLabels().setLabels(m_drawing->labels(palette()));
     m_drawing->setLimits(canvas());
@@ -73,10 +66,6 @@ void SeriesChart::fill() {
 
 QString SeriesChart::csvText() const {
     return m_drawing->csv(canvas().xAxis->range());
-}
-
-void SeriesChart::save(const std::filesystem::path& path) {
-    saveChart(*this, path);
 }
 
 QString SeriesChart::readOutAt(double x) {
@@ -122,8 +111,16 @@ void SeriesChart::moveCursor(int steps) {
     const auto last = static_cast<std::ptrdiff_t>(places.size()) - 1;
     const double place = places[static_cast<std::size_t>(
         std::clamp<std::ptrdiff_t>(here - places.begin() + step, 0, last))];
+    canvas().bringIntoView(place);
     moveCursorTo(place, {canvas().xAxis->coordToPixel(place),
                          static_cast<double>(canvas().axisRect()->rect().bottom())});
+}
+
+std::optional<QPointF> SeriesChart::cursorPlace() const {
+    if (std::isnan(m_cursor))
+        return std::nullopt;
+    const QPointF place(canvas().xAxis->coordToPixel(m_cursor), plotArea().center().y());
+    return plotArea().contains(place) ? std::optional(place) : std::nullopt;
 }
 
 void SeriesChart::leaveCursor() {
@@ -149,32 +146,6 @@ void SeriesChart::clickAt(const QPointF& position) {
         return;
     if (const auto point = m_drawing->pointAt(canvas(), position))
         emit pointActivated(point->series, point->index);
-}
-
-void SeriesChart::contextMenuEvent(QContextMenuEvent* event) {
-    if (!emptyMessage().isEmpty())
-        return;
-    QMenu menu;
-    menu.addAction(tr("Fit"), this, [this] { canvas().fit(); });
-    menu.addAction(tr("Show all series"), this, [this] {
-        showAgain([](int) { return true; });
-        invalidate();
-    });
-    menu.addSeparator();
-    menu.addAction(tr("Save as picture or CSV\u2026"), this, [this] { askAndSave(); });
-    menu.exec(event->globalPos());
-}
-
-void SeriesChart::askAndSave() {
-    const QString path = askChartPath(m_content.title, this);
-    if (path.isEmpty())
-        return;
-    try {
-        save(path.toStdU16String());
-    } catch (const FileError& error) {
-        QMessageBox::warning(this, tr("The chart was not saved"),
-                             QString::fromStdString(error.what()));
-    }
 }
 
 } // namespace kavela::desktop

@@ -3,9 +3,10 @@
 #include "desktop/charts/chart_content.h"
 #include "desktop/charts/chart_frame.h"
 
-#include <filesystem>
 #include <limits>
 #include <memory>
+
+class QCPPainter;
 
 namespace kavela::desktop {
 
@@ -26,10 +27,6 @@ public:
     void show(ChartContent content);
     [[nodiscard]] const ChartContent& content() const { return m_content; }
 
-    /// Saves as its extension asks: a picture as ".png" or ".svg", the visible range of the visible
-    /// series as ".csv". Throws FileError, also for any other extension.
-    void save(const std::filesystem::path& path);
-
     /// What the read-out says at the points nearest to a place along the chart.
     [[nodiscard]] QString readOutAt(double x);
 
@@ -44,9 +41,6 @@ signals:
     void hoveredAt(double x);
     void hoverEnded();
 
-protected:
-    void contextMenuEvent(QContextMenuEvent* event) override;
-
 private:
     [[nodiscard]] QString emptyReason() const override;
     void fill() override;
@@ -55,10 +49,10 @@ private:
     void clickAt(const QPointF& position) override;
     void moveCursor(int steps) override;
     void leaveCursor() override;
+    [[nodiscard]] std::optional<QPointF> cursorPlace() const override;
 
     void moveCursorTo(double x, const QPointF& at);
     void paintCursor(QCPPainter& painter) const;
-    void askAndSave();
 
     ChartContent m_content;
     std::unique_ptr<SeriesDrawing> m_drawing;

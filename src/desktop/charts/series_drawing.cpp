@@ -1,11 +1,13 @@
 #include "desktop/charts/series_drawing.h"
 
 #include "desktop/charts/chart_colours.h"
+#include "desktop/charts/chart_markers.h"
 #include "desktop/charts/series_axis.h"
 
 #include <algorithm>
 #include <cmath>
 #include <limits>
+#include <map>
 
 namespace kavela::desktop {
 
@@ -15,6 +17,8 @@ using Form = ChartSeries::Form;
 
 constexpr double NoValue = std::numeric_limits<double>::quiet_NaN();
 constexpr double LineWidth = 2;
+constexpr double StrongWidth = 4;
+constexpr float FaintOpacity = 0.45F;
 constexpr double BarShare = 0.72; ///< of the room from one group of bars to the next
 constexpr double Headroom = 0.08; ///< of the height
 constexpr double SideRoom = 0.02; ///< of the width
@@ -58,8 +62,10 @@ bool hasPoints(const ChartContent& content) {
 SeriesDrawing::SeriesDrawing(const ChartContent& content,
                              const std::function<bool(int id)>& isShown)
     : m_content(content) {
-    for (std::size_t id = 0; id < content.series.size() + content.bands.size(); ++id)
-        m_shown.push_back(isShown(static_cast<int>(id)));
+    for (std::size_t i = 0; i < content.series.size(); ++i)
+        m_shown.push_back(isShown(static_cast<int>(content.series[i].labelOf.value_or(i))));
+    for (std::size_t i = 0; i < content.bands.size(); ++i)
+        m_shown.push_back(isShown(static_cast<int>(content.series.size() + i)));
     for (std::size_t i = 0; i < content.series.size(); ++i)
         if (m_shown[i])
             m_lines.push_back(lineOf(i));
@@ -133,15 +139,15 @@ void SeriesDrawing::drawLine(ChartPlot& plot, const Line& line) const {
     const QColor colour = shown.isQuiet ? backgroundRuns(plot.palette()) : style.colour;
     QCPGraph* const graph = plot.addGraph(plot.xAxis, shown.onRight ? plot.yAxis2 : plot.yAxis);
     graph->setName(shown.name);
-    graph->setPen(
-        QPen(colour, shown.isQuiet ? 1 : LineWidth, style.line, Qt::RoundCap, Qt::RoundJoin));
+    const double width = shown.isQuiet ? 1 : shown.isStrong ? StrongWidth : LineWidth;
+    graph->setPen(QPen(colour, width, style.line, Qt::RoundCap, Qt::RoundJoin));
     const auto count = static_cast<std::size_t>(std::ranges::count_if(line.points, isDrawn));
     const bool hasMarkers = shown.form == Form::Points || count == 1 ||
                             (shown.form == Form::LineAndPoints && count <= MostMarkers);
     if (hasMarkers && shown.isQuiet)
         graph->setScatterStyle(backgroundDot(plot.palette(), markerSize(count)));
     else if (hasMarkers)
-        graph->setScatterStyle(markerOf(style, markerSize(count)));
+        graph->setScatterStyle(markerOf(style, markerSize(count) * (shown.isStrong ? 1.4 : 1)));
     if (shown.form == Form::Points)
         graph->setLineStyle(QCPGraph::lsNone);
     else if (shown.form == Form::Steps)
@@ -151,12 +157,18 @@ void SeriesDrawing::drawLine(ChartPlot& plot, const Line& line) const {
 }
 
 bool SeriesDrawing::isBars(const Line& line) const {
-    return series(line).form == Form::Bars;
+    return series(line).form == Form::Bars || isStacked(line);
+}
+
+bool SeriesDrawing::isStacked(const Line& line) const {
+    return series(line).form == Form::StackedBars;
 }
 
 std::size_t SeriesDrawing::barCount() const {
-    return static_cast<std::size_t>(
-        std::ranges::count_if(m_lines, [this](const Line& line) { return isBars(line); }));
+    const auto isBeside = [this](const Line& line) { return isBars(line) && !isStacked(line); };
+    const bool hasStack =
+        std::ranges::any_of(m_lines, [this](const Line& line) { return isStacked(line); });
+    return static_cast<std::size_t>(std::ranges::count_if(m_lines, isBeside)) + (hasStack ? 1 : 0);
 }
 
 /// The least distance between bars, which all of them share.
@@ -185,6 +197,7 @@ void SeriesDrawing::drawBars(ChartPlot& plot) const {
     group->setSpacingType(QCPBarsGroup::stAbsolute);
     group->setSpacing(1);
     const double width = barUnit() * BarShare / static_cast<double>(count);
+    QCPBars* below = nullptr;
     for (const Line& line : m_lines) {
         if (!isBars(line))
             continue;
@@ -193,9 +206,17 @@ void SeriesDrawing::drawBars(ChartPlot& plot) const {
         auto* const bars = new QCPBars(plot.xAxis, shown.onRight ? plot.yAxis2 : plot.yAxis);
         bars->setName(shown.name);
         bars->setPen(Qt::NoPen);
-        bars->setBrush(shown.isQuiet ? backgroundRuns(plot.palette()) : style.colour);
+        QColor colour = shown.isQuiet ? backgroundRuns(plot.palette()) : style.colour;
+        if (shown.isFaint)
+            colour.setAlphaF(FaintOpacity);
+        bars->setBrush(colour);
         bars->setWidth(width);
         bars->setBarsGroup(group);
+        if (isStacked(line)) {
+            if (below)
+                bars->moveAbove(below);
+            below = bars;
+        }
         for (const QPointF& point : line.points)
             bars->addData(point.x(), point.y());
     }
@@ -222,8 +243,21 @@ SeriesDrawing::Extent SeriesDrawing::across() const {
     return {extent.least - room, extent.most + room};
 }
 
-SeriesDrawing::Extent SeriesDrawing::height(bool onRight) const {
+/// The sums, above 0 and below it, of the bars that stand on each other.
+SeriesDrawing::Extent SeriesDrawing::stackHeight(bool onRight) const {
+    std::map<std::pair<double, bool>, double> heights;
+    for (const Line& line : m_lines)
+        if (isStacked(line) && series(line).onRight == onRight)
+            for (const QPointF& point : line.points)
+                heights[{point.x(), point.y() < 0}] += point.y();
     Extent extent;
+    for (const auto& [place, height] : heights)
+        extent.add(height);
+    return extent;
+}
+
+SeriesDrawing::Extent SeriesDrawing::height(bool onRight) const {
+    Extent extent = stackHeight(onRight);
     for (const Line& line : m_lines) {
         if (series(line).onRight != onRight)
             continue;
@@ -242,9 +276,12 @@ SeriesDrawing::Extent SeriesDrawing::height(bool onRight) const {
         extent.add(0);
     if (extent.isEmpty())
         return {0, 1};
+    if (onRight && m_content.rightHeights > 1)
+        return {0, std::max(extent.most, 1.0) * m_content.rightHeights};
     const double span = extent.most - extent.least;
-    const double room =
-        span > 0 ? span * Headroom : std::max(std::abs(extent.most) * Headroom, 0.5);
+    double room = span > 0 ? span * Headroom : std::max(std::abs(extent.most) * Headroom, 0.5);
+    if (m_content.yWhole && !onRight)
+        room = std::clamp(room, 0.25, 0.5); // no tick where nobody can stand, such as place 0
     const bool standsOnZero = extent.least == 0;
     const bool hangsFromZero = extent.most == 0 && extent.least < 0;
     return {standsOnZero ? 0 : extent.least - room, hangsFromZero ? 0 : extent.most + room};
@@ -268,7 +305,7 @@ SeriesLabel SeriesDrawing::labelOf(std::size_t place, const QPalette& palette) c
     label.style = seriesStyle(shown.slot, palette);
     label.onRight = shown.onRight;
     label.isHidden = !m_shown[place];
-    label.isBar = shown.form == Form::Bars;
+    label.isBar = shown.form == Form::Bars || shown.form == Form::StackedBars;
     const std::vector<QPointF> points = lineOf(place).points;
     const auto last = std::find_if(points.rbegin(), points.rend(), isDrawn);
     if (last != points.rend()) {
@@ -281,7 +318,7 @@ SeriesLabel SeriesDrawing::labelOf(std::size_t place, const QPalette& palette) c
 std::vector<SeriesLabel> SeriesDrawing::labels(const QPalette& palette) const {
     std::vector<SeriesLabel> labels;
     for (std::size_t i = 0; i < m_content.series.size(); ++i)
-        if (!m_content.series[i].isQuiet)
+        if (!m_content.series[i].isQuiet && !m_content.series[i].labelOf)
             labels.push_back(labelOf(i, palette));
     for (std::size_t i = 0; i < m_content.bands.size(); ++i) {
         const std::size_t id = m_content.series.size() + i;

@@ -50,8 +50,12 @@ private:
     void drawLine(ChartPlot& plot, const Line& line) const;
     void drawBars(ChartPlot& plot) const;
     [[nodiscard]] double barUnit() const;
+    /// Bars that stand beside each other at one place; stacked ones are one.
     [[nodiscard]] std::size_t barCount() const;
+    [[nodiscard]] bool isStacked(const Line& line) const;
+    [[nodiscard]] Extent stackHeight(bool onRight) const;
     [[nodiscard]] bool isBars(const Line& line) const;
+    [[nodiscard]] QString csvOfRows(const QCPRange& range) const;
     [[nodiscard]] Extent across() const;
     [[nodiscard]] Extent height(bool onRight) const;
     [[nodiscard]] std::optional<Point> barAt(ChartPlot& plot, const QPointF& position) const;

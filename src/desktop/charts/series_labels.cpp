@@ -1,5 +1,6 @@
 #include "desktop/charts/series_labels.h"
 
+#include "desktop/charts/chart_markers.h"
 #include "desktop/shell/theme.h"
 
 #include <algorithm>

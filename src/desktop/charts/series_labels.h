@@ -1,24 +1,11 @@
 #pragma once
 
-#include "desktop/charts/chart_colours.h"
 #include "desktop/charts/chart_plot.h"
+#include "desktop/charts/series_label.h"
 
-#include <optional>
 #include <vector>
 
 namespace kavela::desktop {
-
-/// One series as it stands beside the plot.
-struct SeriesLabel {
-    int id = 0; ///< what the chart knows the series by
-    QString name;
-    QString value;
-    SeriesStyle style;
-    std::optional<QPointF> end; ///< where the series ends, in the plot's coordinates
-    bool onRight = false;       ///< the end is measured on the right-hand axis
-    bool isHidden = false;
-    bool isBar = false; ///< drawn as a filled field instead of a marker
-};
 
 /// Moves labels apart that would cover each other, each as little from its wanted place as the
 /// others and the edges allow. Centres in pixels, ascending.

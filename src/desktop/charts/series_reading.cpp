@@ -133,7 +133,17 @@ std::optional<SeriesDrawing::Point> SeriesDrawing::barAt(ChartPlot& plot,
     return std::nullopt;
 }
 
+QString SeriesDrawing::csvOfRows(const QCPRange& range) const {
+    QString text = csvLine(m_content.rowTitles);
+    for (const ChartRow& row : m_content.rows)
+        if ((row.series >= m_content.series.size() || m_shown[row.series]) && range.contains(row.x))
+            text += csvLine(row.fields);
+    return text;
+}
+
 QString SeriesDrawing::csv(const QCPRange& range) const {
+    if (!m_content.rowTitles.isEmpty())
+        return csvOfRows(range);
     QStringList header{placeHeader(m_content)};
     for (const Line& line : m_lines)
         header << series(line).name;

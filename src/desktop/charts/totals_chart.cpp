@@ -1,7 +1,10 @@
 #include "desktop/charts/totals_chart.h"
 
 #include "desktop/charts/chart_csv.h"
+#include "desktop/charts/chart_markers.h"
+#include "desktop/charts/chart_plot.h"
 #include "desktop/charts/read_out.h"
+#include "desktop/charts/series_labels.h"
 #include "desktop/shell/shown_number.h"
 #include "desktop/shell/theme.h"
 
@@ -185,6 +188,16 @@ void TotalsChart::hoverAt(const QPointF& position) {
         readOut().showAt(position, readOutOf(dot->run));
     else
         leaveCursor();
+}
+
+/// From the first of the ranking to the last.
+std::vector<QPointF> TotalsChart::stops() const {
+    std::vector<QPointF> stops;
+    for (const RankedRun& ranked : m_ranking) {
+        const auto dot = std::ranges::find(m_dots, ranked.run, &Dot::run);
+        stops.emplace_back(static_cast<double>(dot->column), dot->time);
+    }
+    return stops;
 }
 
 void TotalsChart::clickAt(const QPointF& position) {

@@ -62,7 +62,7 @@ void MotionActions::makeFileMenu() {
         window->makeFileMenu({tr("&Open recordings…"), [window] { window->chooseFiles(); }});
     add(
         *menu, tr("Save the &chart…"), QKeySequence(Qt::CTRL | Qt::Key_E),
-        [window] { window->saveChart(window->charts().activeChart()); },
+        [window] { window->charts().askAndSave(); },
         [window] { return window->charts().activeChart() != nullptr; });
 }
 

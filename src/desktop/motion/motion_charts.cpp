@@ -1,10 +1,10 @@
 #include "desktop/motion/motion_charts.h"
 
+#include "desktop/charts/plot_interaction.h"
 #include "desktop/charts/sensor_chart.h"
 #include "desktop/motion/motion_recordings.h"
 #include "desktop/shell/theme.h"
 
-#include <QMenu>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -62,13 +62,9 @@ void MotionCharts::connectChart(SensorChart& chart) {
     connect(&chart, &SensorChart::clickedAt, this, [this](double time) { setPin(time); });
     connect(&chart, &SensorChart::shiftDragged, this, &MotionCharts::shiftDragged);
     connect(&chart, &SensorChart::shiftDragEnded, this, &MotionCharts::shiftDragEnded);
-    connect(&chart, &SensorChart::menuRequested, this, [this, &chart](const QPoint& at) {
-        QMenu menu;
-        menu.addAction(tr("Save this chart…"), this,
-                       [this, &chart] { emit saveRequested(&chart); });
-        menu.addAction(tr("Show everything"), this, &MotionCharts::fit);
-        menu.exec(at);
-    });
+    connect(&chart.interaction(), &PlotInteraction::saved, this, &MotionCharts::saved);
+    connect(&chart.interaction(), &PlotInteraction::savingFailed, this,
+            &MotionCharts::savingFailed);
 }
 
 bool MotionCharts::isWanted(CurveKind kind) const {
@@ -163,6 +159,11 @@ void MotionCharts::setView(double from, double to) {
 void MotionCharts::fit() {
     if (SensorChart* chart = activeChart())
         chart->fit();
+}
+
+void MotionCharts::askAndSave() {
+    if (SensorChart* chart = activeChart())
+        chart->interaction().askAndSave();
 }
 
 void MotionCharts::zoom(double factor) {

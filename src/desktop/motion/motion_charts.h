@@ -42,6 +42,8 @@ public:
     void setView(double from, double to);
     void fit();
     void zoom(double factor);
+    /// Asks where to save the active chart.
+    void askAndSave();
     [[nodiscard]] std::optional<double> cursor() const { return m_cursor; }
     void setCursor(std::optional<double> time);
     /// The moment that was clicked, to which others are aligned.
@@ -56,7 +58,8 @@ signals:
     void shownChanged();
     void shiftDragged(double seconds);
     void shiftDragEnded();
-    void saveRequested(kavela::desktop::SensorChart* chart);
+    void saved(const QString& path);
+    void savingFailed(const QString& path, const QString& reason);
 
 private:
     static std::size_t place(CurveKind kind) { return static_cast<std::size_t>(kind); }

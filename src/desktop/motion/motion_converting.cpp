@@ -1,6 +1,4 @@
 #include "common/error.h"
-#include "desktop/charts/chart_export.h"
-#include "desktop/charts/sensor_chart.h"
 #include "desktop/motion/motion_charts.h"
 #include "desktop/motion/motion_window.h"
 #include "desktop/motion/recording_list.h"
@@ -15,7 +13,7 @@
 
 #include <algorithm>
 
-/// What the analyser window writes: processed sessions and pictures of charts.
+/// What the analyser window writes: processed sessions.
 namespace kavela::desktop {
 
 namespace {
@@ -114,21 +112,6 @@ void MotionWindow::showConverted(const Conversion& conversion) {
 void MotionWindow::openConverted() {
     if (hasConverted())
         emit openRequested({m_lastConverted});
-}
-
-void MotionWindow::saveChart(SensorChart* chart) {
-    if (!chart)
-        return;
-    const QString path = askChartPath(chart->title().section(" (", 0, 0), this);
-    if (path.isEmpty())
-        return;
-    try {
-        chart->save(path.toStdString());
-        tell(tr("Saved %1").arg(QFileInfo(path).fileName()));
-    } catch (const FileError& error) {
-        workspace().log()("Failed to create file");
-        workspace().showAlert({"Failed to create file", error.what()}, this);
-    }
 }
 
 } // namespace kavela::desktop

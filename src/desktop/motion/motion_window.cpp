@@ -167,7 +167,13 @@ void MotionWindow::connectParts() {
             m_recordings.dragShift(*index, m_recordings.all()[*index]->shift + seconds);
     });
     connect(m_charts, &MotionCharts::shiftDragEnded, this, [this] { m_recordings.endDrag(); });
-    connect(m_charts, &MotionCharts::saveRequested, this, &MotionWindow::saveChart);
+    connect(m_charts, &MotionCharts::saved, this,
+            [this](const QString& path) { tell(tr("Saved %1").arg(QFileInfo(path).fileName())); });
+    connect(m_charts, &MotionCharts::savingFailed, this,
+            [this](const QString&, const QString& reason) {
+                m_workspace.log()("Failed to create file");
+                m_workspace.showAlert({"Failed to create file", reason.toStdString()}, this);
+            });
     connect(m_convert, &QPushButton::clicked, this, &MotionWindow::convertCurrent);
     connect(m_convertAll, &QPushButton::clicked, this, &MotionWindow::convertTicked);
     connect(m_openConverted, &QPushButton::clicked, this, &MotionWindow::openConverted);

@@ -18,7 +18,6 @@ class MotionActions;
 class MotionCharts;
 class RecordingList;
 class RecordingPanel;
-class SensorChart;
 class Workspace;
 
 /// The raw-data analyser: raw recordings laid over each other, and their conversion to processed
@@ -65,8 +64,6 @@ public:
     void shiftCurrent(double seconds);
     /// The cursor to the next stroke of the chosen recording, or the one before.
     void goToStroke(int step);
-
-    void saveChart(kavela::desktop::SensorChart* chart);
 
     /// Asks for the name of a further file in place of a dialog, as in tests; empty for none.
     using AskName = std::function<QString(const QString& prompt, const QString& proposed)>;

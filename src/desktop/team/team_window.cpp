@@ -71,6 +71,7 @@ void TeamWindow::connectParts() {
     connect(m_athletes, &AthletePanel::categoryChosen, this, &TeamWindow::showAthlete);
     connect(m_results, &ResultsView::placeChanged, this, &TeamWindow::showFigures);
     connect(m_charts, &ChartTabs::saveRequested, this, &TeamWindow::saveChart);
+    connect(m_charts, &ChartTabs::savingFailed, this, &TeamWindow::tellChartNotSaved);
     connect(m_charts, &ChartTabs::raceClicked, this,
             [this](const SeasonPlace& race) { m_results->choose(race); });
 }
@@ -101,6 +102,8 @@ void TeamWindow::showFigures() {
                                            : nullptr;
     m_summary->show(record, m_results->category());
     m_charts->setVisible(m_results->seasons().results() != nullptr);
+    if (!m_document->path().isEmpty())
+        m_charts->setFolder(QFileInfo(m_document->path()).path());
     m_charts->show(record ? QString::fromStdString(record->name) : QString(),
                    m_results->seasons().results(), m_results->place());
 }
@@ -221,12 +224,12 @@ void TeamWindow::previewCategorization() {
 }
 
 void TeamWindow::saveChart() {
-    try {
-        m_charts->saveCurrent(QFileInfo(m_document->path()).path());
-    } catch (const FileError& error) {
-        workspace().log()(error.what());
-        workspace().showAlert({"Failed to create file", error.reason()}, this);
-    }
+    m_charts->saveCurrent();
+}
+
+void TeamWindow::tellChartNotSaved(const QString& path, const QString& reason) {
+    workspace().log()((path + ": " + reason).toStdString());
+    workspace().showAlert({"Failed to create file", reason.toStdString()}, this);
 }
 
 } // namespace kavela::desktop

@@ -59,6 +59,7 @@ private:
     void showAthlete();
     void showFigures();
     void tell(const std::string& text);
+    void tellChartNotSaved(const QString& path, const QString& reason);
     void takeOverList(const QString& path);
     void takeOverSplitFile(const QString& path);
     void apply(TakeOverDialog& dialog);

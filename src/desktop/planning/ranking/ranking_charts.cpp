@@ -46,6 +46,7 @@ struct DayPenalties {
 ChartContent positionChart(const icfdataplanning_v1& ranking) {
     const std::vector<RankingEntry> entries = rankingEntries(ranking);
     ChartContent content = byRelease(entries, tr("Position"));
+    content.yReversed = content.yWhole = true;
     ChartSeries series{tr("Position"), {}, ChartSeries::Form::LineAndPoints, 0};
     for (std::size_t i = 0; i < entries.size(); ++i)
         if (entries[i].position.value_or(0) > 0)

@@ -5,7 +5,7 @@
 
 namespace kavela::desktop {
 
-/// The athlete's position by release of the ranking list, for an axis that begins at the top.
+/// The athlete's position by release of the ranking list, the first on top.
 [[nodiscard]] ChartContent positionChart(const icfdataplanning_v1& ranking);
 [[nodiscard]] ChartContent pointsChart(const icfdataplanning_v1& ranking);
 /// Touches and missed gates per run, day by day.

@@ -15,8 +15,6 @@
 #include <QPushButton>
 #include <QTableWidget>
 
-#include <cmath>
-
 namespace kavela::desktop {
 
 namespace {
@@ -31,15 +29,6 @@ QStringList textsOf(const RankingEntry& entry) {
             entry.points.value_or(0) != 0 ? shownNumber(*entry.points) : QString(),
             numberShown(entry.position.value_or(0))};
 }
-
-/// Positions are whole numbers, and so are the ticks of their axis.
-class WholeTicker : public QCPAxisTicker {
-protected:
-    double getTickStep(const QCPRange& range) override {
-        const double step = QCPAxisTicker::getTickStep(range);
-        return step < 1 ? 1 : step == std::floor(step) ? step : 2 * step;
-    }
-};
 
 std::int64_t typedRelease(const QString& text) {
     return typedWhole(
@@ -58,9 +47,6 @@ RankingSection::RankingSection(QWidget* parent)
       m_positions(new SeriesChart),
       m_points(new SeriesChart) {
     makeTable();
-    // The first of the list is on top.
-    m_positions->plot().yAxis->setRangeReversed(true);
-    m_positions->plot().yAxis->setTicker(QSharedPointer<WholeTicker>::create());
     auto* const title = new QLabel(tr("Ranking list"));
     title->setFont(theme::titleFont(*this));
     m_add->setObjectName("addRelease");

@@ -1,12 +1,12 @@
 #include "desktop/team/charts/chart_tabs.h"
 
+#include "desktop/charts/plot_interaction.h"
+#include "desktop/charts/series_chart.h"
 #include "desktop/shell/theme.h"
 #include "desktop/team/charts/progression_chart.h"
 #include "desktop/team/charts/season_chart.h"
 
 #include <QCheckBox>
-#include <QDir>
-#include <QFileDialog>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QPushButton>
@@ -15,7 +15,7 @@
 namespace kavela::desktop {
 
 ChartTabs::ChartTabs(QWidget* parent)
-    : QTabWidget(parent), m_season(new SeasonChart), m_progression(new ProgressionChart) {
+    : QTabWidget(parent), m_season(new SeriesChart), m_progression(new SeriesChart) {
     auto* averages = new QTableView;
     averages->setObjectName("averages");
     averages->setModel(&m_averages);
@@ -28,8 +28,24 @@ ChartTabs::ChartTabs(QWidget* parent)
     addTab(m_progression, tr("Race progression"));
     addTab(averages, tr("Averages"));
     setCornerWidget(makeCorner());
-    connect(m_season, &TeamChart::raceClicked, this, &ChartTabs::raceClicked);
-    connect(m_progression, &TeamChart::raceClicked, this, &ChartTabs::raceClicked);
+    connectCharts();
+}
+
+/// A click on a point leads to its race.
+void ChartTabs::connectCharts() {
+    connect(m_season, &SeriesChart::pointActivated, this, [this](int series, int index) {
+        const auto& points = m_season->content().series[static_cast<std::size_t>(series)].points;
+        const double place = points[static_cast<std::size_t>(index)].x();
+        const SeasonPlace race = m_seasonRaces[static_cast<std::size_t>(place)];
+        emit raceClicked(race); // which may fill the list anew
+    });
+    connect(m_progression, &SeriesChart::pointActivated, this, [this](int series, int) {
+        const SeasonPlace race = m_progressed[static_cast<std::size_t>(series)];
+        emit raceClicked(race);
+    });
+    for (const SeriesChart* chart : {m_season, m_progression})
+        connect(&chart->interaction(), &PlotInteraction::savingFailed, this,
+                &ChartTabs::savingFailed);
 }
 
 QWidget* ChartTabs::makeCorner() {
@@ -65,33 +81,40 @@ void ChartTabs::show(const QString& athlete, const mtCatsStruct* results,
 void ChartTabs::showCharts() {
     const mtSeasonStruct* const season = m_place ? &m_results->seasons[m_place->season] : nullptr;
     m_averages.show(season, m_results ? &*m_results : nullptr);
+    m_seasonRaces.clear();
+    m_progressed.clear();
     if (!season) {
-        m_season->show({}, {});
-        m_progression->showNothing({});
+        ChartContent none;
+        none.emptyText = tr("The results of an athlete stand here as charts.");
+        m_season->show(none);
+        m_progression->show(none);
         return;
     }
     const bool isAll = m_allSeasons->isChecked();
     const QString who = m_athlete + ", " + QString::fromStdString(m_results->cat);
     const QString year = QString::number(season->year);
-    m_season->show(tr("%1, %2").arg(who, isAll ? tr("all seasons") : year),
-                   racesInTime(*m_results, isAll ? std::nullopt : std::optional(m_place->season)));
-    m_progression->show(tr("%1, %2").arg(who, year), *season, m_place->season, m_place->race);
+    const std::vector<SeasonRace> races =
+        racesInTime(*m_results, isAll ? std::nullopt : std::optional(m_place->season));
+    for (const SeasonRace& race : races)
+        m_seasonRaces.push_back({race.season, race.race});
+    for (const std::size_t race : progressedRaces(*season))
+        m_progressed.push_back({m_place->season, race});
+    m_season->show(seasonContent(tr("%1, %2").arg(who, isAll ? tr("all seasons") : year), races));
+    m_progression->show(progressionContent(tr("%1, %2").arg(who, year), *season, m_place->race));
 }
 
-TeamChart* ChartTabs::current() const {
-    return qobject_cast<TeamChart*>(currentWidget());
+SeriesChart* ChartTabs::current() const {
+    return qobject_cast<SeriesChart*>(currentWidget());
 }
 
-void ChartTabs::saveCurrent(const QString& folder) {
-    TeamChart* const chart = current();
-    if (!chart || !chart->hasData())
-        return;
-    const QString name = chart->chart()->title().remove('/') + ".png";
-    const QString path =
-        QFileDialog::getSaveFileName(this, tr("Save the chart"), QDir(folder).filePath(name),
-                                     tr("Pictures (*.png);;Vector pictures (*.svg);;Data (*.csv)"));
-    if (!path.isEmpty())
-        saveTeamChart(*chart, path.toStdString());
+void ChartTabs::setFolder(const QString& folder) {
+    for (const SeriesChart* chart : {m_season, m_progression})
+        chart->interaction().setFolder(folder);
+}
+
+void ChartTabs::saveCurrent() {
+    if (SeriesChart* const chart = current(); chart && chart->emptyMessage().isEmpty())
+        chart->interaction().askAndSave();
 }
 
 } // namespace kavela::desktop

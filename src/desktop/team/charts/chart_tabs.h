@@ -9,9 +9,7 @@ class QCheckBox;
 
 namespace kavela::desktop {
 
-class ProgressionChart;
-class SeasonChart;
-class TeamChart;
+class SeriesChart;
 
 /// The charts of an athlete, and the averages per phase.
 class ChartTabs : public QTabWidget {
@@ -24,23 +22,29 @@ public:
     void show(const QString& athlete, const mtCatsStruct* results,
               std::optional<SeasonPlace> place);
 
-    [[nodiscard]] SeasonChart& seasonChart() const { return *m_season; }
-    [[nodiscard]] ProgressionChart& progressionChart() const { return *m_progression; }
+    [[nodiscard]] SeriesChart& seasonChart() const { return *m_season; }
+    [[nodiscard]] SeriesChart& progressionChart() const { return *m_progression; }
     /// The chart in front; null where there is none.
-    [[nodiscard]] TeamChart* current() const;
-    /// Saves the chart in front under a name that is asked for; throws FileError.
-    void saveCurrent(const QString& folder);
+    [[nodiscard]] SeriesChart* current() const;
+    /// Where charts are saved unless the user goes elsewhere.
+    void setFolder(const QString& folder);
+    /// Saves the chart in front under a name that is asked for.
+    void saveCurrent();
 
 signals:
     void raceClicked(const kavela::desktop::SeasonPlace& race);
     void saveRequested();
+    void savingFailed(const QString& path, const QString& reason);
 
 private:
+    void connectCharts();
     void showCharts();
     [[nodiscard]] QWidget* makeCorner();
 
-    SeasonChart* m_season;
-    ProgressionChart* m_progression;
+    SeriesChart* m_season;
+    SeriesChart* m_progression;
+    std::vector<SeasonPlace> m_seasonRaces; ///< by their place along the chart
+    std::vector<SeasonPlace> m_progressed;  ///< by their series
     AveragesModel m_averages;
     QCheckBox* m_allSeasons = nullptr;
     QString m_athlete;

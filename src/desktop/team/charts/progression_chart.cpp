@@ -1,21 +1,14 @@
 #include "desktop/team/charts/progression_chart.h"
 
-#include "desktop/charts/chart_csv.h"
-
-#include <QCursor>
-#include <QToolTip>
-#include <QtCharts/QCategoryAxis>
-#include <QtCharts/QLineSeries>
-#include <QtCharts/QValueAxis>
-
-#include <algorithm>
+#include <QCoreApplication>
 
 namespace kavela::desktop {
 
 namespace {
 
-constexpr double Margin = 0.35; ///< in phases, beside the first and the last
-constexpr std::int64_t FewPositions = 5;
+QString tr(const char* text) {
+    return QCoreApplication::translate("ProgressionChart", text);
+}
 
 QStringList phaseTitles() {
     QStringList titles;
@@ -25,82 +18,47 @@ QStringList phaseTitles() {
     return titles;
 }
 
-QString nameOf(const fullracess& race) {
-    return QString::fromStdString(race.event) + ' ' + QString::fromStdString(race.locationplace);
+void addRace(ChartContent& content, const fullracess& race, std::size_t slot, bool isChosen) {
+    const QString event = QString::fromStdString(race.event);
+    const QString location = QString::fromStdString(race.locationplace);
+    ChartSeries line;
+    line.name = event + ' ' + location;
+    line.slot = slot;
+    line.isStrong = isChosen;
+    for (const fullracesPhases& phase : race.phases) {
+        const QString title = QString::fromStdString(phase.phase);
+        const auto x = static_cast<double>(content.categories.indexOf(title));
+        line.points.emplace_back(x, static_cast<double>(phase.pos));
+        content.rows.push_back(
+            {content.series.size(), x, {event, location, title, QString::number(phase.pos)}});
+    }
+    content.series.push_back(std::move(line));
 }
 
 } // namespace
 
-void ProgressionChart::show(const QString& title, const mtSeasonStruct& season, std::size_t place,
-                            std::optional<std::size_t> chosen) {
-    clear(tr("Positions of the phases stand here once they are entered."));
-    QString csv = csvLine({"Event", "Location", "Phase", "Position"});
-    std::int64_t last = FewPositions;
-    for (std::size_t i = 0; i < season.races.size(); ++i) {
-        const fullracess race = progressionOf(season.races[i]);
-        if (race.phases.empty())
-            continue;
-        addRace(race, {place, i}, i, chosen == i);
-        for (const fullracesPhases& phase : race.phases) {
-            last = std::max(last, phase.pos);
-            csv += csvLine({QString::fromStdString(race.event),
-                            QString::fromStdString(race.locationplace),
-                            QString::fromStdString(phase.phase), QString::number(phase.pos)});
-        }
-    }
-    if (!hasData())
-        return;
-    setTitle(title);
-    setCsv(csv);
-    addAxes(last);
-    finish();
+std::vector<std::size_t> progressedRaces(const mtSeasonStruct& season) {
+    std::vector<std::size_t> places;
+    for (std::size_t i = 0; i < season.races.size(); ++i)
+        if (!progressionOf(season.races[i]).phases.empty())
+            places.push_back(i);
+    return places;
 }
 
-void ProgressionChart::addRace(const fullracess& race, const SeasonPlace& place, std::size_t slot,
-                               bool isChosen) {
-    const QStringList titles = phaseTitles();
-    auto* line = new QLineSeries;
-    line->setName(nameOf(race));
-    setStyle(*line, slot, isChosen);
-    for (const fullracesPhases& phase : race.phases)
-        line->append(static_cast<double>(titles.indexOf(QString::fromStdString(phase.phase))),
-                     static_cast<double>(phase.pos));
-    chart()->addSeries(line);
-    connect(line, &QLineSeries::hovered, this, [=, this](const QPointF& point, bool isOver) {
-        if (isOver)
-            QToolTip::showText(QCursor::pos(),
-                               tr("%1\n%2: position %3")
-                                   .arg(line->name(), titles.value(qRound(point.x())),
-                                        QString::number(qRound(point.y()))),
-                               this);
-        else
-            QToolTip::hideText();
-    });
-    connect(line, &QLineSeries::clicked, this, [=, this] { emit raceClicked(place); });
-}
-
-void ProgressionChart::addAxes(std::int64_t last) {
-    const QStringList titles = phaseTitles();
-    auto* below = new QCategoryAxis;
-    below->setLabelsPosition(QCategoryAxis::AxisLabelsPositionOnValue);
-    for (qsizetype i = 0; i < titles.size(); ++i)
-        below->append(titles[i], static_cast<double>(i));
-    below->setRange(-Margin, static_cast<double>(titles.size()) - 1 + Margin);
-    auto* positions = new QValueAxis;
-    positions->setTitleText(tr("position"));
-    positions->setLabelFormat("%.0f");
-    positions->setReverse(true);
-    const std::int64_t step = std::max<std::int64_t>(1, (last + FewPositions - 1) / FewPositions);
-    positions->setRange(0, static_cast<double>(last) + 1);
-    positions->setTickType(QValueAxis::TicksDynamic);
-    positions->setTickAnchor(1);
-    positions->setTickInterval(static_cast<double>(step));
-    chart()->addAxis(below, Qt::AlignBottom);
-    chart()->addAxis(positions, Qt::AlignLeft);
-    for (QAbstractSeries* series : chart()->series()) {
-        series->attachAxis(below);
-        series->attachAxis(positions);
-    }
+ChartContent progressionContent(const QString& title, const mtSeasonStruct& season,
+                                std::optional<std::size_t> chosen) {
+    ChartContent content;
+    content.title = title;
+    content.subtitle = tr("Position after each phase; the chosen race is drawn heavier");
+    content.across = ChartContent::Across::Category;
+    content.categories = phaseTitles();
+    content.yTitle = tr("position");
+    content.yReversed = content.yWhole = true;
+    content.emptyText = tr("Positions of the phases stand here once they are entered.");
+    content.rowTitles = QStringList{"Event", "Location", "Phase", "Position"};
+    for (const std::size_t place : progressedRaces(season))
+        addRace(content, progressionOf(season.races[place]), place, chosen == place);
+    return content;
 }
 
 } // namespace kavela::desktop

@@ -1,33 +1,20 @@
 #include "desktop/team/charts/season_chart.h"
 
-#include "desktop/charts/chart_colours.h"
 #include "desktop/charts/chart_csv.h"
-#include "desktop/shell/shown_number.h"
+#include "results/team_records.h"
 
-#include <QCursor>
-#include <QToolTip>
-#include <QtCharts/QBarCategoryAxis>
-#include <QtCharts/QBarLegendMarker>
-#include <QtCharts/QBarSeries>
-#include <QtCharts/QBarSet>
-#include <QtCharts/QLegend>
-#include <QtCharts/QLegendMarker>
-#include <QtCharts/QLineSeries>
-#include <QtCharts/QValueAxis>
+#include <QCoreApplication>
 
 #include <algorithm>
-#include <cmath>
 
 namespace kavela::desktop {
 
 namespace {
 
-constexpr std::size_t MostLevelLabels = 8;
 constexpr double PenaltyShare = 3; ///< the bars take this part of the height at most
 
-QString raceLabel(const SeasonRace& race) {
-    return QString::fromStdString(race.event) + ' ' + QString::fromStdString(race.location) + ' ' +
-           QString::number(race.year);
+QString tr(const char* text) {
+    return QCoreApplication::translate("SeasonChart", text);
 }
 
 const SeasonRun* runOf(const SeasonRace& race, const char* phase) {
@@ -35,171 +22,97 @@ const SeasonRun* runOf(const SeasonRace& race, const char* phase) {
     return run == race.runs.end() ? nullptr : &*run;
 }
 
-/// Labels of an axis, which have to differ from each other.
-QStringList axisLabels(const std::vector<SeasonRace>& races) {
-    const bool isOneYear = races.front().year == races.back().year;
-    QStringList labels;
+/// Event and place under each other, and the year where the races are of several.
+QStringList namesOf(const std::vector<SeasonRace>& races) {
+    QStringList names;
     for (const SeasonRace& race : races) {
-        QString label = QString::fromStdString(race.event).toHtmlEscaped() + "<br>" +
-                        QString::fromStdString(race.location).toHtmlEscaped();
-        if (!isOneYear)
-            label += "<br>" + QString::number(race.year);
-        while (labels.contains(label))
-            label += ' ';
-        labels.append(label);
+        names.append(QString::fromStdString(race.event) + '\n' +
+                     QString::fromStdString(race.location));
+        if (races.front().year != races.back().year)
+            names.back() += '\n' + QString::number(race.year);
     }
-    return labels;
+    return names;
 }
 
-QString csvOf(const std::vector<SeasonRace>& races) {
-    QString text =
-        csvLine({"Year", "Event", "Location", "Phase", "Percent behind", "Penalty", "Position"});
-    for (const SeasonRace& race : races)
-        for (const SeasonRun& run : race.runs)
-            text += csvLine({QString::number(race.year), QString::fromStdString(race.event),
-                             QString::fromStdString(race.location),
-                             QString::fromStdString(run.phase), csvNumber(run.behind),
-                             QString::number(run.penalty), QString::number(run.pos)});
-    return text;
+ChartSeries percentLine(const std::vector<SeasonRace>& races, std::size_t phase) {
+    ChartSeries line;
+    line.name = team::Phases[phase];
+    line.slot = phase;
+    for (std::size_t i = 0; i < races.size(); ++i)
+        if (const SeasonRun* const run = runOf(races[i], team::Phases[phase]); run && run->behind)
+            line.points.emplace_back(static_cast<double>(i), *run->behind);
+    return line;
 }
 
-double largestOf(const std::vector<SeasonRace>& races, const auto& value) {
-    double largest = 0;
-    for (const SeasonRace& race : races)
-        for (const SeasonRun& run : race.runs)
-            largest = std::max(largest, value(run));
-    return largest;
+ChartSeries penaltyBars(const std::vector<SeasonRace>& races, std::size_t phase) {
+    ChartSeries bars;
+    bars.name = team::Phases[phase];
+    bars.form = ChartSeries::Form::Bars;
+    bars.slot = phase;
+    bars.isFaint = true;
+    for (std::size_t i = 0; i < races.size(); ++i)
+        if (const SeasonRun* const run = runOf(races[i], team::Phases[phase]))
+            bars.points.emplace_back(static_cast<double>(i), static_cast<double>(run->penalty));
+    return bars;
+}
+
+/// A phase stands in the legend once: its line and its bars have the same colour.
+void addSeries(ChartContent& content, const std::vector<SeasonRace>& races) {
+    std::vector<ChartSeries> allBars;
+    for (std::size_t phase = 0; phase < std::size(team::Phases); ++phase) {
+        ChartSeries line = percentLine(races, phase);
+        ChartSeries bars = penaltyBars(races, phase);
+        if (!line.points.empty()) {
+            bars.labelOf = content.series.size();
+            bars.name = tr("%1: penalty (s)").arg(bars.name);
+            content.series.push_back(std::move(line));
+        }
+        if (!bars.points.empty())
+            allBars.push_back(std::move(bars));
+    }
+    const bool hasLines = !content.series.empty();
+    for (ChartSeries& bars : allBars) {
+        bars.onRight = hasLines;
+        content.series.push_back(std::move(bars));
+    }
+    content.yTitle = hasLines ? tr("% behind") : tr("penalty (s)");
+    content.rightTitle = hasLines ? tr("penalty (s)") : QString();
+    content.rightHeights = PenaltyShare;
+    content.subtitle = hasLines ? tr("Percent behind the fastest as lines, penalty seconds as bars")
+                                : tr("Penalties only; percent behind comes with split files");
+}
+
+void addRows(ChartContent& content, const std::vector<SeasonRace>& races) {
+    content.rowTitles =
+        QStringList{"Year", "Event", "Location", "Phase", "Percent behind", "Penalty", "Position"};
+    for (std::size_t i = 0; i < races.size(); ++i)
+        for (const SeasonRun& run : races[i].runs) {
+            const QString phase = QString::fromStdString(run.phase);
+            // The line of the phase, or its bars where it has none.
+            const auto shown = std::ranges::find_if(
+                content.series, [&](const ChartSeries& series) { return series.name == phase; });
+            content.rows.push_back(
+                {static_cast<std::size_t>(shown - content.series.begin()),
+                 static_cast<double>(i),
+                 {QString::number(races[i].year), QString::fromStdString(races[i].event),
+                  QString::fromStdString(races[i].location), phase, csvNumber(run.behind),
+                  QString::number(run.penalty), QString::number(run.pos)}});
+        }
 }
 
 } // namespace
 
-void SeasonChart::show(const QString& title, const std::vector<SeasonRace>& races) {
-    const bool hasPercentages = std::ranges::any_of(races, [](const SeasonRace& race) {
-        return std::ranges::any_of(race.runs,
-                                   [](const SeasonRun& run) { return run.behind.has_value(); });
-    });
-    const bool hasRuns =
-        std::ranges::any_of(races, [](const SeasonRace& race) { return !race.runs.empty(); });
-    clear(tr("Percent behind the fastest stands here once runs are taken over from split files."));
-    if (!hasRuns)
-        return;
-    if (hasPercentages)
-        setTitle(title);
-    else
-        setTitle(tr("%1: penalties only; percent behind comes with split files").arg(title));
-    setCsv(csvOf(races));
-    addPenalties(races);
-    addLines(races);
-    addAxes(races);
-    finish();
-    hideDoubleMarkers();
-}
-
-/// A phase stands in the legend once: the colours of its line and its bars are the same.
-void SeasonChart::hideDoubleMarkers() {
-    QStringList lines;
-    for (const QAbstractSeries* series : chart()->series())
-        lines.append(series->name());
-    for (QLegendMarker* marker : chart()->legend()->markers())
-        if (auto* const bars = qobject_cast<QBarLegendMarker*>(marker))
-            marker->setVisible(!lines.contains(bars->barset()->label()));
-}
-
-void SeasonChart::addLines(const std::vector<SeasonRace>& races) {
-    for (std::size_t slot = 0; slot < std::size(team::Phases); ++slot) {
-        auto* line = new QLineSeries;
-        line->setName(team::Phases[slot]);
-        setStyle(*line, slot);
-        for (std::size_t i = 0; i < races.size(); ++i)
-            if (const SeasonRun* const run = runOf(races[i], team::Phases[slot]);
-                run && run->behind)
-                line->append(static_cast<double>(i), *run->behind);
-        if (line->count() == 0) {
-            delete line;
-            continue;
-        }
-        chart()->addSeries(line);
-        tellOnHover(*line, races);
-    }
-}
-
-void SeasonChart::tellOnHover(QLineSeries& line, const std::vector<SeasonRace>& races) {
-    const auto raceAt = [races](const QPointF& point) -> const SeasonRace& {
-        const auto last = static_cast<double>(races.size()) - 1;
-        return races[static_cast<std::size_t>(std::clamp(std::round(point.x()), 0.0, last))];
-    };
-    const std::string phase = line.name().toStdString();
-    connect(&line, &QLineSeries::hovered, this, [=, this](const QPointF& point, bool isOver) {
-        const SeasonRace& race = raceAt(point);
-        const SeasonRun* const run = runOf(race, phase.c_str());
-        if (!isOver || !run || !run->behind)
-            return QToolTip::hideText();
-        QToolTip::showText(QCursor::pos(),
-                           tr("%1, %2\n%3 % behind, penalty %4 s")
-                               .arg(raceLabel(race), QString::fromStdString(phase),
-                                    shownHundredths(*run->behind), QString::number(run->penalty)),
-                           this);
-    });
-    connect(&line, &QLineSeries::clicked, this, [=, this](const QPointF& point) {
-        emit raceClicked({raceAt(point).season, raceAt(point).race});
-    });
-}
-
-void SeasonChart::addPenalties(const std::vector<SeasonRace>& races) {
-    auto* bars = new QBarSeries;
-    for (std::size_t slot = 0; slot < std::size(team::Phases); ++slot) {
-        auto* set = new QBarSet(team::Phases[slot]);
-        QColor colour = seriesStyle(slot, palette()).colour;
-        colour.setAlphaF(0.45F);
-        set->setColor(colour);
-        set->setBorderColor(Qt::transparent);
-        bool isRaced = false;
-        for (const SeasonRace& race : races) {
-            const SeasonRun* const run = runOf(race, team::Phases[slot]);
-            isRaced = isRaced || run;
-            set->append(run ? static_cast<double>(run->penalty) : 0);
-        }
-        if (isRaced)
-            bars->append(set);
-        else
-            delete set;
-    }
-    bars->setBarWidth(0.6);
-    chart()->addSeries(bars);
-    connect(bars, &QBarSeries::clicked, this, [this, races](int index, QBarSet*) {
-        const SeasonRace& race = races[static_cast<std::size_t>(index)];
-        emit raceClicked({race.season, race.race});
-    });
-}
-
-void SeasonChart::addAxes(const std::vector<SeasonRace>& races) {
-    auto* below = new QBarCategoryAxis;
-    below->append(axisLabels(races));
-    below->setLabelsAngle(races.size() > MostLevelLabels ? -90 : 0);
-    below->setGridLineVisible(false);
-    auto* percent = new QValueAxis;
-    percent->setTitleText(tr("% behind"));
-    percent->setLabelFormat("%.0f");
-    percent->setRange(0, std::max(1.0, 1.1 * largestOf(races, [](const SeasonRun& run) {
-                                           return run.behind.value_or(0);
-                                       })));
-    percent->applyNiceNumbers();
-    auto* seconds = new QValueAxis;
-    seconds->setTitleText(tr("penalty (s)"));
-    seconds->setLabelFormat("%.0f");
-    seconds->setRange(0, std::max(4.0, PenaltyShare * largestOf(races, [](const SeasonRun& run) {
-                                           return static_cast<double>(run.penalty);
-                                       })));
-    seconds->applyNiceNumbers();
-    seconds->setGridLineVisible(false);
-    chart()->addAxis(below, Qt::AlignBottom);
-    chart()->addAxis(percent, Qt::AlignLeft);
-    chart()->addAxis(seconds, Qt::AlignRight);
-    for (QAbstractSeries* series : chart()->series()) {
-        const bool isBars = qobject_cast<QBarSeries*>(series) != nullptr;
-        series->attachAxis(below);
-        series->attachAxis(isBars ? seconds : percent);
-    }
+ChartContent seasonContent(const QString& title, const std::vector<SeasonRace>& races) {
+    ChartContent content;
+    content.title = title;
+    content.across = ChartContent::Across::Category;
+    content.categories = namesOf(races);
+    content.yFromZero = true;
+    content.emptyText =
+        tr("Percent behind the fastest stands here once runs are taken over from split files.");
+    addSeries(content, races);
+    addRows(content, races);
+    return content;
 }
 
 } // namespace kavela::desktop
