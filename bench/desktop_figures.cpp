@@ -124,7 +124,7 @@ void measureRace(std::size_t runs) {
     }
     Desktop program(workspace);
     program.open(path);
-    FrozenTable& table = program.raceWindows().front()->table();
+    FrozenTable& table = program.windowsOf<RaceWindow>().front()->table();
     double scroll = 0;
     QScrollBar& bar = *table.verticalScrollBar();
     for (int at = 0; at <= bar.maximum(); at += std::max(1, bar.maximum() / 200))

@@ -57,7 +57,7 @@ int main(int argc, char** argv) {
         program.openAll(options.files);
     program.offerRecovery();
     program.loadPlanningAtStart();
-    if (!program.hasWindows() && (!options.files.isEmpty() || !program.restoreSession()))
+    if (program.windows().isEmpty() && (!options.files.isEmpty() || !program.restoreSession()))
         program.showHome();
     return QApplication::exec();
 }

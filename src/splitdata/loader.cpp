@@ -1,6 +1,7 @@
 #include "splitdata/loader.h"
 
 #include "common/display_text.h"
+#include "common/json_decode.h"
 #include "common/json_encode.h"
 #include "common/safe_file.h"
 

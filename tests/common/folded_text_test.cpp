@@ -1,5 +1,7 @@
 #include "common/folded_text.h"
 
+#include "common/utf8.h"
+
 #include <gmock/gmock.h>
 
 #include <algorithm>

@@ -171,8 +171,8 @@ void MotionWindow::connectParts() {
             [this](const QString& path) { tell(tr("Saved %1").arg(QFileInfo(path).fileName())); });
     connect(m_charts, &MotionCharts::savingFailed, this,
             [this](const QString&, const QString& reason) {
-                m_workspace.log()("Failed to create file");
-                m_workspace.showAlert({"Failed to create file", reason.toStdString()}, this);
+                workspace().log()("Failed to create file");
+                workspace().showAlert({"Failed to create file", reason.toStdString()}, this);
             });
     connect(m_convert, &QPushButton::clicked, this, &MotionWindow::convertCurrent);
     connect(m_convertAll, &QPushButton::clicked, this, &MotionWindow::convertTicked);
