@@ -151,7 +151,7 @@ TEST_F(MotionWindowTest, ABrokenFileLeavesTheListAsItWas) {
     EXPECT_THAT(m_folder.names(), testing::Not(Contains("older_v5.kvb"))) << "it was not wanted";
 
     isWanted = true;
-    m_window.open({old});
+    m_window.open(QStringList{old});
     ASSERT_TRUE(QTest::qWaitFor([&] { return recordings().all().size() == 2; }));
     EXPECT_EQ(recordings().all()[1]->data.name, "older_v5.kvb");
     EXPECT_EQ(contentOf(m_folder.path() / "older.kvb"), older) << "it stays as it was";

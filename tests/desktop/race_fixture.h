@@ -33,7 +33,8 @@ protected:
 
     RaceWindow* open(const fs::path& file) {
         m_desktop.open(QString::fromStdString(file.string()));
-        return m_desktop.raceWindows().isEmpty() ? nullptr : m_desktop.raceWindows().back();
+        return m_desktop.windowsOf<RaceWindow>().isEmpty() ? nullptr
+                                                           : m_desktop.windowsOf<RaceWindow>().back();
     }
 
     fs::path copyOf(const fs::path& file) {

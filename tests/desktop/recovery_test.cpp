@@ -47,7 +47,7 @@ Tool listTool(const char* name, const char* example, List list) {
                 auto value = dynamic_cast<Window&>(window).document().value();
                 return list(value).empty();
             },
-            [](QMainWindow& window) { return dynamic_cast<Window&>(window).file().save(&window); }};
+            [](QMainWindow& window) { return dynamic_cast<Window&>(window).file()->save(&window); }};
 }
 
 constexpr const char* Typed = "typed before the end";

@@ -4,6 +4,7 @@
 #include "common/temp_folder.h"
 #include "desktop/cross/cross_window.h"
 #include "desktop/desktop.h"
+#include "desktop/tools.h"
 #include "desktop/motion/motion_window.h"
 #include "desktop/planning/planning_window.h"
 #include "desktop/race/race_window.h"
@@ -113,7 +114,7 @@ TEST_F(ScreenFitTest, HoldsEveryWindowWithRoomForItsContentAndWithoutScrollingTh
           "recordings/upstream_drill.kvb"})
         program.open(example(file));
     (void)program.openTaking(example("races/spring_opener.kvx"));
-    (void)program.openSession(example("recordings/sprint_with_watch.kvb"));
+    (void)program.openIn(*desktop::toolOfKind("session"), example("recordings/sprint_with_watch.kvb"));
     QApplication::processEvents();
     int windows = 0;
     for (QWidget* const window : QApplication::topLevelWidgets()) {

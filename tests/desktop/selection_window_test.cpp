@@ -213,7 +213,7 @@ TEST_F(SelectionWindowTest, SaysAtEveryStepWhatComesNext) {
 
 TEST_F(SelectionWindowTest, AsksNoSecondTimeForTheNameOfANewFile) {
     const auto window = filledWindow();
-    window->setNamed();
+    window->document().setNamed();
     EXPECT_TRUE(window->save());
     EXPECT_TRUE(fs::exists(file()));
 }

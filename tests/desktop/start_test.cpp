@@ -2,8 +2,10 @@
 
 #include "common/recorders.h"
 #include "common/temp_folder.h"
+#include "desktop/cross/cross_window.h"
 #include "desktop/motion/motion_window.h"
 #include "desktop/planning/planning_window.h"
+#include "desktop/race/race_window.h"
 #include "desktop/selection/selection_window.h"
 #include "desktop/shell/edited_file.h"
 #include "desktop/team/team_window.h"

@@ -354,13 +354,13 @@ TEST_F(TakingWindowTest, ExportsTableAndReportBesideTheFile) {
     ASSERT_TRUE(saveSplitFile(evening().race, splitFile(), m_recorder.log()));
     const auto window = openWindow(splitFile());
     const fs::path target = m_folder.path() / "out.kvx";
-    EXPECT_TRUE(window->document().exportTo(QString::fromStdString(target.string()), true, true,
+    EXPECT_TRUE(window->document().exportTo(QString::fromStdString(target.string()), {true, true},
                                             window.get()));
     EXPECT_THAT(m_questions, IsEmpty());
     EXPECT_THAT(contentOf(m_folder.path() / "out.csv"), ::testing::StartsWith("Name;Phase;S1;P1;"));
     EXPECT_THAT(contentOf(m_folder.path() / "out.pdf"), ::testing::StartsWith("%PDF-"));
     m_answer = false;
-    EXPECT_FALSE(window->document().exportTo(QString::fromStdString(target.string()), false, false,
+    EXPECT_FALSE(window->document().exportTo(QString::fromStdString(target.string()), {false, false},
                                              window.get()));
     EXPECT_THAT(m_questions, ElementsAre(messages::AskToOverwrite));
 }

@@ -2,6 +2,7 @@
 #include "common/temp_folder.h"
 #include "desktop/cross/cross_window.h"
 #include "desktop/desktop.h"
+#include "desktop/tools.h"
 #include "desktop/motion/motion_window.h"
 #include "desktop/race/race_window.h"
 #include "desktop/shell/tool_window.h"
@@ -52,7 +53,7 @@ protected:
             if (std::string_view(wanted.name) == "taking")
                 (void)m_program.openTaking(path);
             else if (std::string_view(wanted.name) == "session")
-                (void)m_program.openSession(path);
+                (void)m_program.openIn(*desktop::toolOfKind("session"), path);
             else
                 m_program.open(path);
         }
