@@ -54,8 +54,8 @@ public:
     void openRecordings(const QStringList& paths);
     /// Opens the planning that the preferences name, where they ask for one.
     void loadPlanningAtStart();
-    /// Opens what an earlier session left unsaved, each after asking, in the tool that it was edited
-    /// with, whether it was ever saved or not.
+    /// Opens what an earlier session left unsaved, each after asking, in the tool that it was
+    /// edited with, whether it was ever saved or not.
     void offerRecovery();
 
     /// The windows that are open, in the order of their opening.

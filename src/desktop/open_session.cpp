@@ -14,8 +14,10 @@ namespace {
 /// Of each file the kind of its tool, a space and its path.
 constexpr const char* SessionKey = "openWindows";
 /// Where earlier releases kept them, and the tool that opened those.
-constexpr std::array<std::pair<const char*, const char*>, 4> OlderKeys{
-    {{"openFiles", "race"}, {"openTakings", "taking"}, {"openCrosses", "cross"}, {"openEditors", ""}}};
+constexpr std::array<std::pair<const char*, const char*>, 4> OlderKeys{{{"openFiles", "race"},
+                                                                        {"openTakings", "taking"},
+                                                                        {"openCrosses", "cross"},
+                                                                        {"openEditors", ""}}};
 
 } // namespace
 

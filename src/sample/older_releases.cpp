@@ -93,8 +93,8 @@ std::vector<OldFile> filesOfOldReleases() {
          olderText<splittakerdata014>(formerRace("Mill Days", oldMill(), "C1M", 2019y / 5 / 18))},
         {"0.11",
          olderText<splittakerdata011>(formerRace("River Open", riverside(), "K1M", 2018y / 7 / 7))},
-        {"0.2",
-         olderText<splittakerdataOLD>(formerRace("Mill Days 2015", oldMill(), "K1M", 2015y / 5 / 23))},
+        {"0.2", olderText<splittakerdataOLD>(
+                    formerRace("Mill Days 2015", oldMill(), "K1M", 2015y / 5 / 23))},
     };
 }
 

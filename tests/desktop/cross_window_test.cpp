@@ -221,12 +221,12 @@ TEST_F(CrossWindowTest, MarksATrialByKeysUndoesItAndKeepsItInTheFile) {
         press(Qt::CTRL | Qt::Key_Z);
     EXPECT_THAT(m_window->trials().marks(), IsEmpty());
     EXPECT_EQ(trial().time, 0);
-    EXPECT_FALSE(m_window->isWindowModified());
+    EXPECT_TRUE(QTest::qWaitFor([this] { return !m_window->isWindowModified(); }));
     for (int step = 0; step < 12; ++step)
         press(Qt::CTRL | Qt::SHIFT | Qt::Key_Z);
     EXPECT_TRUE(m_window->isWindowModified());
     press(Qt::CTRL | Qt::Key_S);
-    EXPECT_FALSE(m_window->isWindowModified());
+    EXPECT_TRUE(QTest::qWaitFor([this] { return !m_window->isWindowModified(); }));
     reopen();
     isMarked();
 }
@@ -406,10 +406,12 @@ TEST_F(CrossWindowTest, EditsAFileInOneWindowAtATimeAndOpensItAtTheNextStart) {
     ASSERT_TRUE(window);
     EXPECT_EQ(program.openCross(path()), window);
     emit window->takingRequested(path());
-    EXPECT_TRUE(QTest::qWaitFor([&] { return program.windowsOf<CrossWindow>().isEmpty(); }, Patience));
+    EXPECT_TRUE(
+        QTest::qWaitFor([&] { return program.windowsOf<CrossWindow>().isEmpty(); }, Patience));
     ASSERT_THAT(program.windowsOf<desktop::TakingWindow>(), SizeIs(1));
     emit program.windowsOf<desktop::TakingWindow>().front()->crossRequested(path());
-    EXPECT_TRUE(QTest::qWaitFor([&] { return program.windowsOf<desktop::TakingWindow>().isEmpty(); }, Patience));
+    EXPECT_TRUE(QTest::qWaitFor(
+        [&] { return program.windowsOf<desktop::TakingWindow>().isEmpty(); }, Patience));
     ASSERT_THAT(program.windowsOf<CrossWindow>(), SizeIs(1));
     desktop::Desktop next(m_workspace, autosave());
     EXPECT_TRUE(next.restoreSession());

@@ -318,19 +318,5 @@ TEST_F(MarkingTest, AsksWhereMovedFilmsAreAndRemembersIt) {
     ASSERT_TRUE(settles(0)) << "nobody is asked again";
 }
 
-/// A pipe that nobody fills is a film whose disk does not answer.
-TEST_F(MarkingTest, SaysThatAStepIsNotTakenBeforeTheFilmHasBeenRead) {
-    const fs::path film = m_folder.path() / "slow.mp4";
-    ASSERT_EQ(::mkfifo(film.c_str(), 0600), 0);
-    const int pipe = ::open(film.c_str(), O_RDWR);
-    ASSERT_GE(pipe, 0);
-    FilmDeck deck(desktop::FilmMemory::of(m_workspace));
-    FilmView view(deck, 0);
-    deck.open({QString::fromStdString(film.string())});
-    deck.step(1);
-    EXPECT_THAT(view.flashed().toStdString(), HasSubstr("has not been read so far"));
-    ::close(pipe); // ends the film, so that its thread can end
-}
-
 } // namespace
 } // namespace kavela::test

@@ -164,6 +164,7 @@ TEST_F(OpeningTest, EditsAFileInOneWindowWhateverPathLeadsToIt) {
 /// As on a disk that does not tell cases apart; a second name elsewhere is another file, which a
 /// save parts from the first.
 TEST_F(OpeningTest, KnowsAFileInOtherLetterCase) {
+    fs::create_directory(m_folder.path() / "Races");
     const fs::path race = m_folder.add("Races/cup.kvx", "x");
     for (const char* other : {"races/cup.kvx", "copy/cup.kvx"}) {
         fs::create_directory((m_folder.path() / other).parent_path());
@@ -184,7 +185,8 @@ TEST_F(OpeningTest, ShowsARaceThatIsOpenInsteadOfASecondWindowOfIt) {
     m_program.open(text(race));
     m_program.open(text(m_folder.path() / "link.kvx"));
     EXPECT_THAT(m_program.windowsOf<desktop::RaceWindow>(), SizeIs(2));
-    ASSERT_TRUE(m_program.windowsOf<desktop::RaceWindow>().front()->open(text(m_folder.path() / "link.kvx")));
+    ASSERT_TRUE(m_program.windowsOf<desktop::RaceWindow>().front()->open(
+        text(m_folder.path() / "link.kvx")));
     EXPECT_THAT(m_program.windowsOf<desktop::RaceWindow>().front()->views(), SizeIs(1));
 
     desktop::TakingWindow* const taking = m_program.openTaking(text(race));

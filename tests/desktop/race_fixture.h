@@ -33,8 +33,9 @@ protected:
 
     RaceWindow* open(const fs::path& file) {
         m_desktop.open(QString::fromStdString(file.string()));
-        return m_desktop.windowsOf<RaceWindow>().isEmpty() ? nullptr
-                                                           : m_desktop.windowsOf<RaceWindow>().back();
+        return m_desktop.windowsOf<RaceWindow>().isEmpty()
+                   ? nullptr
+                   : m_desktop.windowsOf<RaceWindow>().back();
     }
 
     fs::path copyOf(const fs::path& file) {

@@ -38,16 +38,17 @@ struct Tool {
 /// A tool on a list: the coach removes all that it holds.
 template <class Window, class List>
 Tool listTool(const char* name, const char* example, List list) {
-    return {name, example,
-            [list](QMainWindow& window) {
-                dynamic_cast<Window&>(window).document().edit(
-                    "removal", [&](auto& value) { list(value).clear(); });
-            },
-            [list](QMainWindow& window) {
-                auto value = dynamic_cast<Window&>(window).document().value();
-                return list(value).empty();
-            },
-            [](QMainWindow& window) { return dynamic_cast<Window&>(window).file()->save(&window); }};
+    return {
+        name, example,
+        [list](QMainWindow& window) {
+            dynamic_cast<Window&>(window).document().edit(
+                "removal", [&](auto& value) { list(value).clear(); });
+        },
+        [list](QMainWindow& window) {
+            auto value = dynamic_cast<Window&>(window).document().value();
+            return list(value).empty();
+        },
+        [](QMainWindow& window) { return dynamic_cast<Window&>(window).file()->save(&window); }};
 }
 
 constexpr const char* Typed = "typed before the end";
@@ -106,9 +107,7 @@ protected:
         m_questions.clear();
     }
 
-    [[nodiscard]] QMainWindow* window() const {
-        return m_program->windows().value(0);
-    }
+    [[nodiscard]] QMainWindow* window() const { return m_program->windows().value(0); }
 
     void open(const QString& path) {
         if (path.endsWith("opener.kvx"))

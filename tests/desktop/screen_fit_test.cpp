@@ -4,16 +4,16 @@
 #include "common/temp_folder.h"
 #include "desktop/cross/cross_window.h"
 #include "desktop/desktop.h"
-#include "desktop/tools.h"
 #include "desktop/motion/motion_window.h"
 #include "desktop/planning/planning_window.h"
 #include "desktop/race/race_window.h"
 #include "desktop/sessions/session_charts.h"
-#include "desktop/shell/tool_window.h"
 #include "desktop/shell/key_bindings.h"
 #include "desktop/shell/key_overlay.h"
 #include "desktop/shell/settings_window.h"
+#include "desktop/shell/tool_window.h"
 #include "desktop/taking/taking_window.h"
+#include "desktop/tools.h"
 
 #include <gmock/gmock.h>
 
@@ -114,7 +114,8 @@ TEST_F(ScreenFitTest, HoldsEveryWindowWithRoomForItsContentAndWithoutScrollingTh
           "recordings/upstream_drill.kvb"})
         program.open(example(file));
     (void)program.openTaking(example("races/spring_opener.kvx"));
-    (void)program.openIn(*desktop::toolOfKind("session"), example("recordings/sprint_with_watch.kvb"));
+    (void)program.openIn(*desktop::toolOfKind("session"),
+                         example("recordings/sprint_with_watch.kvb"));
     QApplication::processEvents();
     int windows = 0;
     for (QWidget* const window : QApplication::topLevelWidgets()) {

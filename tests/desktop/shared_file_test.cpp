@@ -106,7 +106,8 @@ TEST_F(SharedFileTest, KnowsAFolderThatHasNoFileYet) {
     EXPECT_EQ(m_program.openTaking(folder + '/'), window);
     emit window->crossRequested(window->document().path()); // never saved, nothing to save
     ASSERT_THAT(m_program.windowsOf<CrossWindow>(), SizeIs(1));
-    EXPECT_THAT(m_program.windowsOf<CrossWindow>().front()->document().cross().timetrials, SizeIs(1));
+    EXPECT_THAT(m_program.windowsOf<CrossWindow>().front()->document().cross().timetrials,
+                SizeIs(1));
     EXPECT_THAT(m_program.windowsOf<TakingWindow>(), IsEmpty());
     EXPECT_THAT(m_recorder.alerts, IsEmpty());
     m_program.windowsOf<CrossWindow>().front()->document().undoStack().setClean();
@@ -183,7 +184,8 @@ TEST_F(SharedFileTest, FindsTheRunOfATimeWhereSplitTakingHasItNow) {
     desktop::TakingDocument& document = taking->document();
     const auto show = [&](int run) {
         taking->selectRun(0);
-        emit m_program.windowsOf<desktop::RaceWindow>().front()->momentRequested(text(file()), run, 1);
+        emit m_program.windowsOf<desktop::RaceWindow>().front()->momentRequested(text(file()), run,
+                                                                                 1);
         return document.run(taking->currentRun()).names.front();
     };
     EXPECT_EQ(show(3), "Dora");

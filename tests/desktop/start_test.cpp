@@ -103,12 +103,15 @@ TEST_F(StartTest, OpensRecordingsBesideEachOtherAndAgainAtTheNextStart) {
         Desktop program(m_workspace, autosave());
         program.openAll(files);
         ASSERT_TRUE(program.windowsOf<desktop::MotionWindow>().value(0));
-        EXPECT_TRUE(QTest::qWaitFor([&] { return program.windowsOf<desktop::MotionWindow>().value(0)->paths().size() == 2; }));
+        EXPECT_TRUE(QTest::qWaitFor([&] {
+            return program.windowsOf<desktop::MotionWindow>().value(0)->paths().size() == 2;
+        }));
     }
     Desktop next(m_workspace, autosave());
     EXPECT_TRUE(next.restoreSession());
     ASSERT_TRUE(next.windowsOf<desktop::MotionWindow>().value(0));
-    EXPECT_TRUE(QTest::qWaitFor([&] { return next.windowsOf<desktop::MotionWindow>().value(0)->paths() == files; }));
+    EXPECT_TRUE(QTest::qWaitFor(
+        [&] { return next.windowsOf<desktop::MotionWindow>().value(0)->paths() == files; }));
     EXPECT_THAT(m_recorder.alerts, IsEmpty());
 }
 

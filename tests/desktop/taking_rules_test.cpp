@@ -167,7 +167,8 @@ TEST_F(TakingRulesTest, ShowsInTheAnalyzerWhatIsNotSavedYet) {
     EXPECT_EQ(contentOf(folder() / "films.kvx"), saved) << "nothing is saved";
     ASSERT_THAT(program.windowsOf<desktop::RaceWindow>(), SizeIs(1)) << "one analyzer for one race";
     ASSERT_THAT(program.windowsOf<desktop::RaceWindow>()[0]->views(), SizeIs(1));
-    EXPECT_EQ(program.windowsOf<desktop::RaceWindow>()[0]->document().wholeSet().alldata[0].name, "Zora");
+    EXPECT_EQ(program.windowsOf<desktop::RaceWindow>()[0]->document().wholeSet().alldata[0].name,
+              "Zora");
     taking->document().undoStack().setClean();
 }
 

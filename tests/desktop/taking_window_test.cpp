@@ -191,6 +191,7 @@ TEST_F(TakingWindowTest, TimesAnEveningByKeysAloneToTheFrame) {
         press(*window, Qt::Key_Down);
     }
     press(*window, Qt::CTRL | Qt::Key_S);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !window->document().isSaving(); }));
     EXPECT_THAT(m_recorder.alerts, IsEmpty());
     const auto saved = readSplitFile(splitFile(), m_recorder.log(), m_recorder, systemNow);
     ASSERT_TRUE(saved);
@@ -272,6 +273,7 @@ TEST_F(TakingWindowTest, OffersTheWorkOfASessionThatWasCutOff) {
     EXPECT_NE(edited(false), "Left!") << "the coach said no";
     const auto window = openWindow(splitFile());
     press(*window, Qt::CTRL | Qt::Key_S);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !window->document().isSaving(); }));
     m_questions.clear();
     (void)openWindow(splitFile());
     EXPECT_THAT(m_questions, IsEmpty()) << "saved work is not offered";
@@ -306,6 +308,7 @@ TEST_F(TakingWindowTest, RefusesAnOlderFileAndAsksBeforeDeletingEverything) {
     EXPECT_EQ(window->document().runCount(), 0);
     EXPECT_THAT(m_questions, ::testing::Each(::testing::StartsWith(messages::AskToDeleteAll)));
     press(*window, Qt::CTRL | Qt::Key_S);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !window->document().isSaving(); }));
     EXPECT_THAT(m_recorder.alerts, Contains(messages::NothingToSave));
     press(*window, Qt::CTRL | Qt::Key_Z);
     EXPECT_EQ(window->document().runCount(), 2);
@@ -360,8 +363,8 @@ TEST_F(TakingWindowTest, ExportsTableAndReportBesideTheFile) {
     EXPECT_THAT(contentOf(m_folder.path() / "out.csv"), ::testing::StartsWith("Name;Phase;S1;P1;"));
     EXPECT_THAT(contentOf(m_folder.path() / "out.pdf"), ::testing::StartsWith("%PDF-"));
     m_answer = false;
-    EXPECT_FALSE(window->document().exportTo(QString::fromStdString(target.string()), {false, false},
-                                             window.get()));
+    EXPECT_FALSE(window->document().exportTo(QString::fromStdString(target.string()),
+                                             {false, false}, window.get()));
     EXPECT_THAT(m_questions, ElementsAre(messages::AskToOverwrite));
 }
 

@@ -194,6 +194,7 @@ TEST_F(TeamWindowTest, EditsByKeysAloneAndTakesEveryStepBack) {
     EXPECT_EQ(final.pen, 2);
     EXPECT_THAT(results(*window).aves, SizeIs(1)) << "averages follow";
     press(*window, Qt::CTRL | Qt::Key_S);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !window->document().isSaving(); }));
     EXPECT_EQ(encode(readTeamFile(file())), encode(window->document().value()));
     while (window->document().undoStack().canUndo())
         press(*window, Qt::CTRL | Qt::Key_Z);

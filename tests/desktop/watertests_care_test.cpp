@@ -235,6 +235,7 @@ TEST_F(TestsCareTest, HandsStayInTheCellThroughSavingAndSwitching) {
     const TestId first = *m_window->list().current();
     beginCell("sections", 0, 0, '7');
     press(Qt::CTRL | Qt::Key_S);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !m_window->document().isSaving(); }));
     EXPECT_THAT(readTestsFile(m_folder.path() / "tests.kvtest").tests.at(0).test.splits,
                 ElementsAre(7));
     EXPECT_EQ(QApplication::focusWidget(), &part<EntryTable>("sections"));

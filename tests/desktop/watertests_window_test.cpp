@@ -143,6 +143,7 @@ TEST_F(TestsWindowTest, ATestTypedByKeysIsInTheFileAndEveryStepCanBeTakenBack) {
     EXPECT_THAT(window->findChild<QLabel*>("description")->text().toStdString(),
                 StartsWith("The test consist in doing 6 laps around two gated separated by 12.5 "));
     press(*window, Qt::CTRL | Qt::Key_S);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !window->document().isSaving(); }));
     const onWaterTests saved = readTestsFile(m_folder.path() / "tests.kvtest");
     ASSERT_THAT(saved.tests, SizeIs(1));
     const testStruct& test = saved.tests[0].test;

@@ -2,12 +2,12 @@
 #include "common/temp_folder.h"
 #include "desktop/cross/cross_window.h"
 #include "desktop/desktop.h"
-#include "desktop/tools.h"
 #include "desktop/motion/motion_window.h"
 #include "desktop/race/race_window.h"
-#include "desktop/shell/tool_window.h"
 #include "desktop/shell/key_list.h"
+#include "desktop/shell/tool_window.h"
 #include "desktop/taking/taking_window.h"
+#include "desktop/tools.h"
 
 #include <gmock/gmock.h>
 

@@ -210,6 +210,7 @@ TEST_P(Interaction, WheelKeepsWhatIsUnderTheCursor) {
         EXPECT_LT(width(), before);
         EXPECT_NEAR(m_subject->pixelOf(x), place.x(), 0.5) << x;
         m_subject->chart().fit();
+        QCoreApplication::processEvents(); // who turns the wheel again sees all of it drawn
     }
     turnWheel(at(60), {0, 600});
     const double narrow = width();

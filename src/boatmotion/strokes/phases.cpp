@@ -9,9 +9,9 @@ namespace kavela::strokes {
 
 namespace {
 
-constexpr double ShareOfPeak = 0.15; // of the force at catch and exit
-constexpr double LowestBase = -0.10; // of the peak
-constexpr std::size_t PhaseReach = 45;    // 0.9 s, on either side of the peak at most
+constexpr double ShareOfPeak = 0.15;   // of the force at catch and exit
+constexpr double LowestBase = -0.10;   // of the peak
+constexpr std::size_t PhaseReach = 45; // 0.9 s, on either side of the peak at most
 
 /// The stretch around a stroke that is its own.
 struct Surroundings {

@@ -178,6 +178,7 @@ void ChartPlot::zoom(double factor, const QPointF& at, ChartSides sides) {
         double pixel;
         double coordinate;
     };
+    constexpr int Passes = 2; // putting it right may change the numbers once more
     std::vector<Held> held;
     const auto scale = [&](QCPAxis* axis, double pixel) {
         held.push_back({axis, pixel, axis->pixelToCoord(pixel)});
@@ -189,9 +190,11 @@ void ChartPlot::zoom(double factor, const QPointF& at, ChartSides sides) {
         scale(yAxis, at.y());
     if (sides & ChartSide::Right)
         scale(yAxis2, at.y());
-    updateLayout();
-    for (const Held& each : held)
-        each.axis->moveRange(each.coordinate - each.axis->pixelToCoord(each.pixel));
+    for (int pass = 0; pass < Passes; ++pass) {
+        replot(); // only then the margins follow the numbers
+        for (const Held& each : held)
+            each.axis->moveRange(each.coordinate - each.axis->pixelToCoord(each.pixel));
+    }
     noteView();
 }
 

@@ -12,9 +12,9 @@
 
 #include <QApplication>
 #include <QComboBox>
+#include <QDate>
 #include <QDialogButtonBox>
 #include <QHBoxLayout>
-#include <QDate>
 #include <QHeaderView>
 #include <QInputDialog>
 #include <QLabel>

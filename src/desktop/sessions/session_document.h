@@ -8,10 +8,10 @@ namespace kavela::desktop {
 template <>
 struct LargeParts<EditedSession> {
     static constexpr auto lists = std::tuple();
-    static constexpr auto wholes =
-        std::tuple([](auto& edited) -> auto& { return edited.session.strokesData; },
-                   [](auto& edited) -> auto& { return edited.session.heart; },
-                   [](auto& edited) -> auto& { return edited.session.gps; });
+    static constexpr auto wholes = std::tuple(
+        [](auto& edited) -> auto& { return edited.session.strokesData; },
+        [](auto& edited) -> auto& { return edited.session.heart; },
+        [](auto& edited) -> auto& { return edited.session.gps; });
 };
 
 /// A session that is being worked on: a recording that was converted, or a processed session that

@@ -21,7 +21,8 @@ SessionWindow::SessionWindow(Workspace& workspace, Autosave autosave)
     : SessionWindow(workspace, std::make_unique<SessionDocument>(workspace, std::move(autosave))) {}
 
 SessionWindow::SessionWindow(Workspace& workspace, std::unique_ptr<SessionDocument> document)
-    : ToolWindow(workspace, document.get(), {"session", tr("Session"), "bms", tr("Sessions (*.bms);;Sessions (*.sbm)")}),
+    : ToolWindow(workspace, document.get(),
+                 {"session", tr("Session"), "bms", tr("Sessions (*.bms);;Sessions (*.sbm)")}),
       m_document(std::move(document)),
       m_replay(new Replay(this)) {
     makeParts();

@@ -112,6 +112,8 @@ protected:
 
     /// A document is open under a path that may not exist yet. Unsaved work is offered.
     void begin(const QString& path, QWidget* over);
+    /// What another program wrote may be replaced: the coach was asked.
+    void acceptDisk() { m_known = FileStamp(m_path); }
     /// The document is another one than before.
     void noteEdit();
     /// Keeps what the next second would have kept, before the document goes.

@@ -64,7 +64,8 @@ private:
     using Indices = std::make_index_sequence<std::tuple_size_v<std::remove_cvref_t<Tuple>>>;
 
     template <class Part>
-    static std::shared_ptr<const Part> shared(Part part, const std::shared_ptr<const Part>* before) {
+    static std::shared_ptr<const Part> shared(Part part,
+                                              const std::shared_ptr<const Part>* before) {
         return before && *before && isSame(**before, part)
                    ? *before
                    : std::make_shared<const Part>(std::move(part));

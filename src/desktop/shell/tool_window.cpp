@@ -51,8 +51,8 @@ QMenu* ToolWindow::makeFileMenu(FileCommands commands) {
     m_fileMenu->addAction(commands.saveText.isEmpty() ? tr("&Save") : commands.saveText,
                           QKeySequence::Save, this, &ToolWindow::saveBeside);
     if (commands.canSaveAs)
-        m_fileMenu->addAction(tr("Save &as…"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S),
-                              this, [this] { saveAs(); });
+        m_fileMenu->addAction(tr("Save &as…"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S), this,
+                              [this] { saveAs(); });
     m_fileMenu->addSeparator();
     return m_fileMenu;
 }

@@ -24,9 +24,9 @@ class ToolWindow : public QMainWindow {
 public:
     /// How the tool and its files are called.
     struct Name {
-        QString kind;   ///< by which places, keys and kept work are remembered, as "team"
-        QString title;  ///< of the tool
-        QString suffix; ///< of its files, without the point
+        QString kind;        ///< by which places, keys and kept work are remembered, as "team"
+        QString title;       ///< of the tool
+        QString suffix;      ///< of its files, without the point
         QString filter = {}; ///< of the dialog that saves; of title and suffix when empty
     };
 

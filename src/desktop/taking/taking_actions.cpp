@@ -44,8 +44,8 @@ QAction* TakingActions::add(QMenu& menu, const QString& text, const QList<QKeySe
 }
 
 void TakingActions::makeFileMenu() {
-    QMenu* menu = m_window.makeFileMenu({tr("&Open a folder of videos…"), [this] { chooseFolder(); },
-                                         tr("&Save data"), false});
+    QMenu* menu = m_window.makeFileMenu(
+        {tr("&Open a folder of videos…"), [this] { chooseFolder(); }, tr("&Save data"), false});
     add(*menu, tr("Import &video…"), {keys(Qt::CTRL | Qt::Key_I)},
         [this] { m_window.importVideos(); });
     add(*menu, tr("Import split &file…"), {}, [this] { m_window.importSplitFile(); });

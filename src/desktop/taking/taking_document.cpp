@@ -63,6 +63,7 @@ bool TakingDocument::openFolder(const QString& folder, QWidget* over) {
     document.athletes = runsOf(filmsIn(absolute), document.info.gates);
     start(stateOf(std::move(document)), absolute + '/' + QFileInfo(absolute).fileName() + ".kvx",
           over);
+    setNamed(); // after its folder
     return true;
 }
 
@@ -92,7 +93,8 @@ bool TakingDocument::openCopy(const RecognisedSplitFile& older, const QString& f
     const QString copy =
         m_chooseCopy(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation) + '/' +
                      QFileInfo(file).completeBaseName() + ".kvx");
-    if (copy.isEmpty() || !written([&] { writeFileSafely(copy.toStdString(), encode(older.document)); }, over) ||
+    if (copy.isEmpty() ||
+        !written([&] { writeFileSafely(copy.toStdString(), encode(older.document)); }, over) ||
         !openFile(copy, over))
         return false;
     (void)findFilms(QFileInfo(file).absolutePath()); // where they stay
@@ -452,6 +454,7 @@ bool TakingDocument::exportTo(const QString& file, const BesideFile& lists, QWid
         return false;
     if (canonicalPath(file) == canonicalPath(path())) {
         const QScopedValueRollback wanted(m_lists, std::optional(lists));
+        acceptDisk();
         return save(over);
     }
     return written(
