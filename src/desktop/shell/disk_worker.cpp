@@ -11,10 +11,16 @@ namespace kavela::desktop::disk {
 
 namespace {
 
-/// A pool of one thread keeps the order.
+/// A pool of one thread keeps the order. It has ended its work before the program's objects go, to
+/// which it tells the outcome.
 QThreadPool& worker() {
     static QThreadPool pool;
-    pool.setMaxThreadCount(1);
+    static const bool IsWaitedFor = [] {
+        pool.setMaxThreadCount(1);
+        qAddPostRoutine(waitForAll);
+        return true;
+    }();
+    (void)IsWaitedFor;
     return pool;
 }
 
