@@ -333,6 +333,7 @@ TEST_F(SessionCareTest, CancellingTheQuestionAboutThePowerMeterSavesNothing) {
             QTest::keyClick(box, Qt::Key_Escape);
         });
         press(*window, Qt::CTRL | Qt::Key_S);
+        EXPECT_TRUE(QTest::qWaitFor([&] { return !window->document().isSaving(); }));
     };
     answer("Escape");
     EXPECT_TRUE(window->isWindowModified());
