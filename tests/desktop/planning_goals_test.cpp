@@ -12,6 +12,7 @@
 #include "desktop/planning/ranking/ranking_section.h"
 #include "desktop/planning/ranking/statistics_dialog.h"
 #include "desktop/refusals.h"
+#include "desktop/shell/tables/column_table.h"
 #include "desktop/shell/workspace.h"
 #include "desktop/team/typed_values.h"
 #include "planning/planning_file.h"
@@ -26,7 +27,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QTableWidget>
+#include <QTableView>
 #include <QTest>
 #include <QTimer>
 #include <QTreeWidget>
@@ -112,6 +113,10 @@ protected:
         QApplication::processEvents();
     }
 
+    static QString cell(const QTableView& table, int row, int column) {
+        return table.model()->index(row, column).data().toString();
+    }
+
     static void typeInto(IntervalForm& form, const char* name, const QString& text) {
         auto* const field = form.findChild<QLineEdit*>(name);
         ASSERT_TRUE(field) << name;
@@ -176,17 +181,16 @@ TEST_F(PlanningGoals, AStatusIsChosenAndAForeignWordStaysToChoose) {
 TEST_F(PlanningGoals, RankingListsOfUnequalLengthAreShownAndEdited) {
     RankingPanel panel(m_document, m_workspace);
     show(panel);
-    QTableWidget& table = panel.ranking().table();
-    ASSERT_EQ(table.rowCount(), 2);
-    EXPECT_EQ(table.item(1, 1)->text(), "");
-    table.setCurrentCell(1, 2);
-    table.editItem(table.item(1, 2));
+    ColumnTable& table = panel.ranking().table();
+    ASSERT_EQ(table.model()->rowCount(), 2);
+    EXPECT_EQ(cell(table, 1, 1), "");
+    table.edit(1, 2);
     type("eighth");
     EXPECT_THAT(refusalIn(panel), HasSubstr("eighth"));
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
-    EXPECT_EQ(table.item(1, 2)->text(), "");
+    EXPECT_EQ(cell(table, 1, 2), "");
     EXPECT_EQ(steps(), 0);
-    table.item(0, 2)->setText("8");
+    table.model()->setData(table.model()->index(0, 2), "8");
     EXPECT_THAT(season().icfdata.pos, ElementsAre(8));
     EXPECT_THAT(season().icfdata.points, ElementsAre(80));
     panel.ranking().addRelease();
@@ -195,8 +199,8 @@ TEST_F(PlanningGoals, RankingListsOfUnequalLengthAreShownAndEdited) {
     EXPECT_THAT(season().icfdata.points, ElementsAre(80, 0, 91.5));
     panel.ranking().removeCurrent();
     EXPECT_THAT(season().icfdata.release, ElementsAre(1, 2));
-    EXPECT_EQ(panel.races().table().rowCount(), 2);
-    EXPECT_EQ(panel.races().table().item(1, 5)->text(), "–") << "the times end before";
+    EXPECT_EQ(panel.races().table().model()->rowCount(), 2);
+    EXPECT_EQ(cell(panel.races().table(), 1, 5), "–") << "the times end before";
     EXPECT_THAT(panel.findChild<QLabel*>("penaltySummary")->text().toStdString(),
                 HasSubstr("<b>3</b> runs"));
     undoAll();
@@ -214,11 +218,11 @@ TEST_F(PlanningGoals, StatisticsAreTakenFromSplitFilesAfterAYes) {
         QTimer::singleShot(0, [&, agrees] {
             auto* const dialog = qobject_cast<StatisticsDialog*>(QApplication::activeModalWidget());
             ASSERT_TRUE(dialog);
-            EXPECT_GT(dialog->findChild<QTableWidget*>("runs")->rowCount(), 0);
+            EXPECT_GT(dialog->findChild<QTableView*>("runs")->model()->rowCount(), 0);
             QStringList leftOut;
-            auto* const table = dialog->findChild<QTableWidget*>("leftOut");
-            for (int row = 0; row < table->rowCount(); ++row)
-                leftOut << table->item(row, 0)->text() + ' ' + table->item(row, 1)->text();
+            auto* const table = dialog->findChild<QTableView*>("leftOut");
+            for (int row = 0; row < table->model()->rowCount(); ++row)
+                leftOut << cell(*table, row, 0) + ' ' + cell(*table, row, 1);
             EXPECT_THAT(leftOut.join('\n').toStdString(), HasSubstr("release_0.11.kvx is of 20"));
             dialog->findChild<QPushButton*>("replace")->isEnabled() && agrees ? dialog->accept()
                                                                               : dialog->reject();
@@ -231,7 +235,7 @@ TEST_F(PlanningGoals, StatisticsAreTakenFromSplitFilesAfterAYes) {
     EXPECT_EQ(steps(), 1);
     const racedataplanning_v3& races = season().statisticsdata.racedata;
     EXPECT_GT(races.date.size(), 2U);
-    EXPECT_EQ(panel.races().table().rowCount(), static_cast<int>(races.date.size()));
+    EXPECT_EQ(panel.races().table().model()->rowCount(), static_cast<int>(races.date.size()));
     EXPECT_EQ(bytesOf(folder / "release_0.11.kvx"), older) << "only read";
     EXPECT_THAT(m_recorder.alerts, IsEmpty());
     undoAll();
@@ -253,11 +257,11 @@ TEST_F(PlanningGoals, NothingIsReplacedWhereNothingWasFound) {
 TEST_F(PlanningGoals, IntervalSessionsAreTypedMovedAndCopied) {
     IntervalsPanel panel(m_document);
     show(panel);
-    EXPECT_EQ(panel.table().item(0, 2)->text(), "8:30");
-    EXPECT_EQ(panel.table().item(0, 3)->text(), "1:30");
+    EXPECT_EQ(cell(panel.table(), 0, 2), "8:30");
+    EXPECT_EQ(cell(panel.table(), 0, 3), "1:30");
     typeInto(panel.form(), "worktime", "1:30");
     EXPECT_EQ(m_document.value().favintses[0].worktime, 90);
-    EXPECT_EQ(panel.table().item(0, 3)->text(), "9:00");
+    EXPECT_EQ(cell(panel.table(), 0, 3), "9:00");
     typeInto(panel.form(), "reps", "many");
     EXPECT_THAT(refusalIn(panel), HasSubstr("many"));
     EXPECT_EQ(panel.form().findChild<QLineEdit*>("reps")->text(), "many");
@@ -290,7 +294,7 @@ TEST_F(PlanningGoals, AnIntervalSessionStaysInFrontWhileItsFormHoldsWhatIsRefuse
     const auto click = [&](int row) {
         panel.table().setFocus();
         QTest::mouseClick(panel.table().viewport(), Qt::LeftButton, {},
-                          panel.table().visualItemRect(panel.table().item(row, 0)).center());
+                          panel.table().visualRect(panel.table().cellAt(row, 0)).center());
         QApplication::processEvents();
     };
     click(0);
@@ -316,7 +320,7 @@ TEST_F(PlanningGoals, AbsurdIntervalSessionsAreToldAndNotTimed) {
         plan.favintses[0].sets = INT64_MAX;
         plan.favintses[0].workrest = -1e308;
     });
-    EXPECT_EQ(panel.table().item(0, 2)->text(), "–");
+    EXPECT_EQ(cell(panel.table(), 0, 2), "–");
     EXPECT_FALSE(panel.findChild<QPushButton*>("timer")->isEnabled());
     panel.startTimer();
     EXPECT_NE(refusal, "");

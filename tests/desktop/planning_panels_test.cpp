@@ -6,11 +6,11 @@
 #include "common/safe_file.h"
 #include "common/temp_folder.h"
 #include "desktop/charts/series_chart.h"
-#include "desktop/planning/body/measure_table.h"
 #include "desktop/planning/body/variability_dialog.h"
 #include "desktop/planning/gym/exercise_table.h"
 #include "desktop/planning/gym/gym_rows.h"
 #include "desktop/refusals.h"
+#include "desktop/shell/tables/column_table.h"
 #include "desktop/shell/workspace.h"
 
 #include <gmock/gmock.h>
@@ -21,7 +21,6 @@
 #include <QLineEdit>
 #include <QSignalSpy>
 #include <QTableView>
-#include <QTableWidget>
 #include <QTest>
 #include <QTimer>
 
@@ -134,7 +133,7 @@ TEST_F(PlanningPanels, WhatIsTypedLandsInTheRecordAndIsTakenBack) {
     open(smallPlan());
     BodyPanel panel(m_document, m_workspace.clock());
     show(panel);
-    QTableView& view = panel.table(BodyPanel::Body).view();
+    QTableView& view = panel.table(BodyPanel::Body);
     ASSERT_EQ(cell(view, 0, 0), "2026-03-03") << "the latest first";
     type(view, 0, 1, "71,85");
     type(view, 1, 0, "2026-03-05");
@@ -142,7 +141,7 @@ TEST_F(PlanningPanels, WhatIsTypedLandsInTheRecordAndIsTakenBack) {
     EXPECT_EQ(season().healthdata[0].date, referenceDate(2026y / 3 / 5, 25200))
         << "the time of day stays";
     EXPECT_EQ(cell(view, 0, 0), "2026-03-05") << "the row goes where its date belongs";
-    EXPECT_EQ(panel.table(BodyPanel::Body).current(), 0U) << "and stays the current one";
+    EXPECT_EQ(panel.table(BodyPanel::Body).currentPlace(), 0) << "and stays the current one";
     for (const auto& [column, wrong] : std::vector<std::pair<int, const char*>>{
              {0, "2026-02-30"}, {0, ""}, {1, "-3"}, {1, "inf"}, {1, "72kg"}, {2, "101"}}) {
         type(view, 0, column, wrong);
@@ -168,7 +167,7 @@ TEST_F(PlanningPanels, OddValuesOfAFileAreMarkedAndStay) {
     open(plan);
     BodyPanel panel(m_document, m_workspace.clock());
     show(panel);
-    const QTableView& view = panel.table(BodyPanel::Body).view();
+    const QTableView& view = panel.table(BodyPanel::Body);
     for (const auto& [row, column] :
          std::vector<std::pair<int, int>>{{0, 0}, {0, 1}, {0, 2}, {2, 0}}) {
         EXPECT_TRUE(cell(view, row, column).startsWith("⚠")) << row << ' ' << column;
@@ -178,7 +177,7 @@ TEST_F(PlanningPanels, OddValuesOfAFileAreMarkedAndStay) {
     EXPECT_EQ(panel.chart(BodyPanel::Body).csv(), "Date;Weight;Body fat\n2026-03-09;71;9\n");
     panel.showSection(BodyPanel::Resting);
     EXPECT_FALSE(panel.chart(BodyPanel::Resting).emptyMessage().isEmpty());
-    type(panel.table(BodyPanel::Resting).view(), 0, 0, "2026-03-08");
+    type(panel.table(BodyPanel::Resting), 0, 0, "2026-03-08");
     EXPECT_EQ(season().heartdata.resting[0].date.seconds, Today.seconds - Day);
     undoAll();
     EXPECT_EQ(encode(m_document.value()), encode(plan));
@@ -222,10 +221,10 @@ TEST_F(PlanningPanels, AListIsShownBeforeItIsTakenIn) {
             ASSERT_TRUE(dialog);
             EXPECT_THAT(dialog->findChild<QLabel*>("count")->text().toStdString(),
                         HasSubstr("2 measurements are new. 1 other is"));
-            const auto* const lines = dialog->findChild<QTableWidget*>("lines");
-            ASSERT_EQ(lines->rowCount(), 2);
-            EXPECT_EQ(lines->item(0, 0)->text(), "4");
-            EXPECT_THAT(lines->item(1, 1)->text().toStdString(), HasSubstr("\"-2\""));
+            const auto* const lines = dialog->findChild<QTableView*>("lines");
+            ASSERT_EQ(lines->model()->rowCount(), 2);
+            EXPECT_EQ(cell(*lines, 0, 0), "4");
+            EXPECT_THAT(cell(*lines, 1, 1).toStdString(), HasSubstr("\"-2\""));
             isTaken ? dialog->accept() : dialog->reject();
         });
         panel.importVariability(QString::fromStdString(path.string()));
@@ -253,20 +252,20 @@ TEST_F(PlanningPanels, TheEstimateIsOfferedAndGivesWayToTheCoach) {
     GymPanel panel(m_document, m_recorder.log(), m_workspace.clock());
     show(panel);
     panel.chooseSession(0);
-    QTableView& view = panel.exercises().view();
+    QTableView& view = panel.exercises().table();
     const auto maximum = [&](std::size_t row) { return season().gymdata[0].maxweight[row]; };
     m_recorder.lines.clear();
-    type(view, 0, ExerciseModel::WeightColumn, "110");
+    type(view, 0, ExerciseTable::WeightColumn, "110");
     EXPECT_EQ(maximum(0), 138.48) << "it was the estimate of the values before";
     EXPECT_EQ(m_document.undoStack().count(), 1);
     EXPECT_THAT(m_recorder.lines,
                 ElementsAre(HasSubstr("First estimation: 146.66"), HasSubstr("Epley"),
                             HasSubstr("Brzycki"), HasSubstr("McGlothin"),
                             HasSubstr("Lombardi estimation: 138.4")));
-    type(view, 0, ExerciseModel::MaximumColumn, "150");
-    type(view, 0, ExerciseModel::RepetitionsColumn, "37");
+    type(view, 0, ExerciseTable::MaximumColumn, "150");
+    type(view, 0, ExerciseTable::RepetitionsColumn, "37");
     EXPECT_EQ(maximum(0), 150) << "what the coach typed stays";
-    EXPECT_EQ(cell(view, 0, ExerciseModel::EstimateColumn).toStdString(), "← 157.84");
+    EXPECT_EQ(cell(view, 0, ExerciseTable::EstimateColumn).toStdString(), "← 157.84");
     EXPECT_THAT(panel.exercises().findChild<QLabel*>("estimates")->text().toStdString(),
                 HasSubstr("table – · Epley 245.67 · Brzycki – · "));
     press(Qt::CTRL | Qt::Key_Return);
@@ -281,17 +280,17 @@ TEST_F(PlanningPanels, MissingEntriesBecomeEntriesOnlyWhereTyped) {
     GymPanel panel(m_document, m_recorder.log(), m_workspace.clock());
     show(panel);
     panel.chooseSession(1);
-    QTableView& view = panel.exercises().view();
+    QTableView& view = panel.exercises().table();
     ASSERT_EQ(view.model()->rowCount(), 3);
-    EXPECT_EQ(cell(view, 2, ExerciseModel::WeightColumn), "⚠ ");
-    type(view, 1, ExerciseModel::WeightColumn, "75");
-    type(view, 0, ExerciseModel::RepetitionsColumn, "5");
+    EXPECT_EQ(cell(view, 2, ExerciseTable::WeightColumn), "⚠ ");
+    type(view, 1, ExerciseTable::WeightColumn, "75");
+    type(view, 0, ExerciseTable::RepetitionsColumn, "5");
     planningdatac_v6 expected = smallPlan();
     gymdataplanning_v1& uneven = expected.athletes[0].year[0].gymdata[1];
     uneven.weight[1] = 75;
     uneven.rep = {5};
     EXPECT_EQ(encode(m_document.value()), encode(expected)) << "a typed maximum stays, too";
-    type(view, 2, ExerciseModel::MaximumColumn, "90");
+    type(view, 2, ExerciseTable::MaximumColumn, "90");
     EXPECT_THAT(season().gymdata[1].maxweight, ElementsAre(140, 0, 90));
 }
 
@@ -306,22 +305,22 @@ TEST_F(PlanningPanels, SessionsComeMoveAndGo) {
     EXPECT_EQ(season().gymdata[2].exercise, squats().exercise);
     EXPECT_EQ(panel.exercises().findChild<QLabel*>("totals")->text(),
               "2 exercises · 7 sets · tonnage 4200 kg");
-    type(panel.sessions().view(), 0, 0, "2026-01-05");
+    type(panel.sessions(), 0, 0, "2026-01-05");
     EXPECT_EQ(panel.session(), 2U) << "it stays chosen at its new place";
-    EXPECT_EQ(cell(panel.sessions().view(), 2, 0), "2026-01-05");
-    panel.sessions().view().setFocus();
+    EXPECT_EQ(cell(panel.sessions(), 2, 0), "2026-01-05");
+    panel.sessions().setFocus();
     press(Qt::Key_Insert);
     typeHere("Deadlift");
     EXPECT_THAT(season().gymdata.back().exercise, ElementsAre("Deadlift"));
     EXPECT_THAT(season().gymdata.back().maxweight, SizeIs(1));
-    panel.sessions().view().setFocus();
+    panel.sessions().setFocus();
     press(Qt::Key_Delete);
     EXPECT_THAT(season().gymdata, SizeIs(3));
     panel.chooseExercise("SQUAT");
     EXPECT_EQ(panel.chart().csv(), "Date;Maximum;Weight\n2025-11-03;;90\n2026-01-05;125.89;100\n"
                                    "2026-03-02;125.89;100\n2026-03-04;140;120\n");
     panel.showSeason(std::nullopt);
-    EXPECT_EQ(panel.exercises().view().model()->rowCount(), 0);
+    EXPECT_EQ(panel.exercises().table().model()->rowCount(), 0);
     undoAll();
     EXPECT_EQ(encode(m_document.value()), encode(smallPlan()));
 }

@@ -7,13 +7,13 @@
 #include "common/text_file.h"
 #include "desktop/planning/athlete_list.h"
 #include "desktop/planning/body/body_panel.h"
-#include "desktop/planning/body/measure_table.h"
 #include "desktop/planning/plan/plan_view.h"
 #include "desktop/planning/plan/session_dialog.h"
 #include "desktop/planning/plan/totals_table.h"
 #include "desktop/planning/plan/week_form.h"
 #include "desktop/planning/plan/year_strip.h"
 #include "desktop/shell/command_palette.h"
+#include "desktop/shell/tables/column_table.h"
 #include "desktop/shell/workspace.h"
 #include "planning/calendar_day.h"
 #include "planning/planning_file.h"
@@ -305,7 +305,7 @@ TEST_F(PlanningWindowTest, WhatIsTypedInACellIsInTheFileWhenTheWindowSavesAndClo
     for (int tab = 0; tab < window->tabs().count(); ++tab)
         if (window->tabs().widget(tab)->isAncestorOf(&window->body()))
             window->tabs().setCurrentIndex(tab);
-    QTableView& table = window->body().table(desktop::BodyPanel::Body).view();
+    QTableView& table = window->body().table(desktop::BodyPanel::Body);
     const auto type = [&](const char* text) {
         table.setFocus();
         table.setCurrentIndex(table.model()->index(0, 1));

@@ -335,8 +335,8 @@ TEST_F(RaceCareTest, CopiesNumbersWithTheSignOfTheSystem) {
               "Name\tPhase\tCat\tPlace\tStart\tStart penalty\tPool\tPool penalty\tFinish\t"
               "Finish penalty\tTotal\tSprint\tReal");
     EXPECT_EQ(lines[1], "Bea\tHeats\tC1W\t\t2,00\t2\t\t0\t\t0\t\t\t") << "untimed cells are empty";
-    const QString csv = desktop::tableAsText(window->model(), {0}, {0, FirstTime, FirstTime + 3},
-                                             desktop::fileTable());
+    const QString csv = desktop::splitTableAsText(
+        window->model(), {0}, {0, FirstTime, FirstTime + 3}, desktop::fileTable());
     EXPECT_EQ(csv, "Name;Start;Start penalty;Total\nAnn;10.00;0;60.00\n");
     press(*window, Qt::CTRL | Qt::Key_2);
     window->table().selectRow(0);

@@ -6,6 +6,7 @@
 #include "desktop/charts/series_chart.h"
 #include "desktop/people/found_lines_view.h"
 #include "desktop/refusals.h"
+#include "desktop/shell/tables/column_table.h"
 #include "desktop/shell/workspace.h"
 #include "desktop/team/athlete_panel.h"
 #include "desktop/team/charts/chart_tabs.h"

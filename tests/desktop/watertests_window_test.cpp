@@ -25,7 +25,6 @@
 #include <QLineEdit>
 #include <QSpinBox>
 #include <QTableView>
-#include <QTableWidget>
 #include <QTest>
 #include <QTimer>
 
@@ -245,7 +244,7 @@ TEST_F(TestsWindowTest, TakesARunInAsAnEightTestWithItsMarks) {
     ASSERT_TRUE(window);
     whenAsked<desktop::TakeRunDialog>([](auto& dialog) {
         dialog.template findChild<QComboBox*>("kind")->setCurrentIndex(2);
-        dialog.template findChild<QTableWidget*>("runs")->selectRow(1); // the one with sensors
+        dialog.template findChild<QTableView*>("runs")->selectRow(1); // the one with sensors
     });
     window->takeIn({path("laps.kvx")});
     ASSERT_THAT(window->document().value(), SizeIs(1));

@@ -1,17 +1,21 @@
 #pragma once
 
 #include "boatmotion/strokes/motion_analysis.h"
+#include "desktop/shell/forms/record_form.h"
 
 #include <QWidget>
 
-class QComboBox;
 class QLabel;
 
 namespace kavela::desktop {
 
-class NumberBox;
-
 struct MotionRecording;
+
+/// What can be set for one recording.
+struct RecordingSetting {
+    double shift = 0; ///< seconds
+    MotionProfile profile;
+};
 
 /// What can be set for one recording: its place in time, and what the analysis cannot know.
 class RecordingPanel : public QWidget {
@@ -29,15 +33,13 @@ signals:
     void profileEntered(const kavela::MotionProfile& profile);
 
 private:
-    void enterProfile();
+    void addFields();
+    void edit(const std::function<void(RecordingSetting&)>& change);
 
-    MotionProfile m_profile;
-    NumberBox* m_shift;
-    NumberBox* m_mass;
-    NumberBox* m_drag;
-    QComboBox* m_boat;
-    QComboBox* m_mount;
+    RecordingSetting m_setting;
+    RecordForm<RecordingSetting> m_form;
     QLabel* m_notes;
+    const MotionRecording* m_shown = nullptr; ///< only to be told from another one
 };
 
 } // namespace kavela::desktop

@@ -13,6 +13,7 @@
 #include "desktop/planning/ranking/ranking_panel.h"
 #include "desktop/shell/refused_entry.h"
 #include "desktop/shell/scroll_page.h"
+#include "desktop/shell/tables/column_table.h"
 #include "desktop/shell/theme.h"
 #include "desktop/shell/window_place.h"
 #include "desktop/shell/workspace.h"

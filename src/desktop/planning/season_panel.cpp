@@ -11,6 +11,7 @@ void SeasonPanel::showSeason(std::optional<PlannedSeason> place) {
     if (place == m_place)
         return;
     m_place = place;
+    m_isOther = true;
     invalidate();
 }
 
@@ -35,8 +36,10 @@ void SeasonPanel::showEvent(QShowEvent* event) {
 
 void SeasonPanel::invalidate() {
     m_isStale = !isVisible();
-    if (!m_isStale)
-        refresh();
+    if (m_isStale)
+        return;
+    refresh();
+    m_isOther = false;
 }
 
 } // namespace kavela::desktop

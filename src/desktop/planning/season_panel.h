@@ -30,6 +30,8 @@ protected:
     /// Null when there is none.
     [[nodiscard]] const athletesplanning_v6* athlete() const;
     [[nodiscard]] const yearsplannings_v6* season() const;
+    /// Whether refresh() shows another season than before.
+    [[nodiscard]] bool isOtherSeason() const { return m_isOther; }
     /// One step of the undo stack; nothing where there is no season.
     void edit(const QString& what, const std::function<void(yearsplannings_v6&)>& change);
 
@@ -41,6 +43,7 @@ private:
     PlanningDocument& m_document;
     std::optional<PlannedSeason> m_place;
     bool m_isStale = true;
+    bool m_isOther = true;
 };
 
 } // namespace kavela::desktop

@@ -4,7 +4,6 @@
 #include "common/safe_file.h"
 #include "desktop/charts/chart_panel.h"
 #include "desktop/race/best_panels.h"
-#include "desktop/race/column_layout.h"
 #include "desktop/race/frozen_table.h"
 #include "desktop/race/kept_selection.h"
 #include "desktop/race/motion_panel.h"
@@ -13,6 +12,7 @@
 #include "desktop/race/run_chooser.h"
 #include "desktop/race/run_panel.h"
 #include "desktop/race/table_export.h"
+#include "desktop/shell/tables/column_layout.h"
 #include "desktop/shell/theme.h"
 #include "desktop/shell/window_place.h"
 #include "desktop/shell/workspace.h"
@@ -229,7 +229,7 @@ QString RaceView::courseNote() const {
 }
 
 void RaceView::showTable() {
-    applyColumnLayout(*m_table, m_workspace.remembered(ColumnsKey));
+    layOutColumns(m_workspace.remembered(ColumnsKey));
     m_charts->setPenaltiesIncluded(m_document.settings().penaltiesIncluded);
     if (m_shownVersion != m_document.shownVersion())
         showRuns();
@@ -334,8 +334,8 @@ QList<int> RaceView::allRows() const {
 void RaceView::copySelection() {
     QList<int> rows(m_selection->rows().begin(), m_selection->rows().end());
     std::sort(rows.begin(), rows.end());
-    QApplication::clipboard()->setText(tableAsText(m_model, rows.isEmpty() ? allRows() : rows,
-                                                   shownColumns(*m_table), clipboardTable()));
+    QApplication::clipboard()->setText(splitTableAsText(m_model, rows.isEmpty() ? allRows() : rows,
+                                                        shownColumns(*m_table), clipboardTable()));
 }
 
 void RaceView::saveCsv() {
@@ -346,9 +346,9 @@ void RaceView::saveCsv() {
     if (path.isEmpty())
         return;
     try {
-        writeFileSafely(
-            path.toStdString(),
-            tableAsText(m_model, allRows(), shownColumns(*m_table), fileTable()).toStdString());
+        writeFileSafely(path.toStdString(),
+                        splitTableAsText(m_model, allRows(), shownColumns(*m_table), fileTable())
+                            .toStdString());
     } catch (const FileError& error) {
         m_workspace.log()("Failed to create file");
         m_workspace.showAlert({"Failed to create file", error.reason()}, this);
@@ -415,7 +415,13 @@ void RaceView::rememberColumns() {
 
 void RaceView::resetColumns() {
     m_workspace.remember(ColumnsKey, {});
-    applyColumnLayout(*m_table, {});
+    layOutColumns({});
+}
+
+/// The leading columns stay in view, so they keep their places.
+void RaceView::layOutColumns(const QStringList& layout) {
+    applyColumnLayout(*m_table, layout, SplitTableModel::LeadingColumns);
+    m_table->arrange();
 }
 
 } // namespace kavela::desktop

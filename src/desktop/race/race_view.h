@@ -96,6 +96,7 @@ private:
     void showNote(const QString& note, bool offersReload);
     void rememberColumns();
     void resetColumns();
+    void layOutColumns(const QStringList& layout);
 
     Workspace& m_workspace;
     RaceDocument m_document;

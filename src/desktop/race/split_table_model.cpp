@@ -2,6 +2,7 @@
 
 #include "desktop/race/cell_colours.h"
 #include "desktop/shell/shown_number.h"
+#include "desktop/shell/tables/column_layout.h"
 #include "desktop/shell/theme.h"
 #include "splitdata/run_timing.h"
 
@@ -389,12 +390,26 @@ QString SplitTableModel::headerTip(std::size_t cell) const {
     return lines.join('\n');
 }
 
+/// Sections go by their number, since their titles differ from course to course.
+QString SplitTableModel::columnName(int column) const {
+    static const QStringList leading{"name", "phase", "category", "place"};
+    static const QStringList closing{"total", "sprint", "real"};
+    if (column < LeadingColumns)
+        return leading[column];
+    const auto fromEnd = columnCount() - column;
+    if (fromEnd <= closing.size())
+        return closing[closing.size() - fromEnd];
+    return QString::number(column - LeadingColumns + 1);
+}
+
 QVariant SplitTableModel::headerData(int section, Qt::Orientation orientation, int role) const {
     if (orientation == Qt::Vertical)
         return role == Qt::DisplayRole ? QVariant(section + 1) : QVariant();
     if (role == Qt::TextAlignmentRole)
         return QVariant((section < PlaceColumn ? Qt::AlignLeft : Qt::AlignRight) |
                         Qt::AlignVCenter);
+    if (role == ColumnNameRole)
+        return columnName(section);
     if (role == PenaltyRole)
         return section >= LeadingColumns &&
                showsPenalties(static_cast<std::size_t>(section - LeadingColumns));

@@ -65,6 +65,7 @@ private:
     void listKeys();
     void repaint();
     [[nodiscard]] int comparisons() const;
+    [[nodiscard]] QString columnName(int column) const;
     [[nodiscard]] QString headerTip(std::size_t cell) const;
     [[nodiscard]] QVariant comparisonData(const ComparisonRow& row, int column, int role) const;
     [[nodiscard]] QString comparisonText(const ComparisonRow& row, int column) const;

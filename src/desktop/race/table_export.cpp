@@ -1,9 +1,7 @@
 #include "desktop/race/table_export.h"
 
 #include "desktop/race/split_table_model.h"
-#include "desktop/race/table_text.h"
-
-#include <QLocale>
+#include "desktop/shell/tables/table_text.h"
 
 namespace kavela::desktop {
 
@@ -41,20 +39,12 @@ QStringList rowFields(const SplitTableModel& model, int row, const QList<int>& c
 
 } // namespace
 
-QString tableAsText(const SplitTableModel& model, const QList<int>& rows, const QList<int>& columns,
-                    const TextTable& style) {
+QString splitTableAsText(const SplitTableModel& model, const QList<int>& rows,
+                         const QList<int>& columns, const TextTable& style) {
     QString text = separatedLine(headerFields(model, columns), style.separator);
     for (const int row : rows)
         text += separatedLine(rowFields(model, row, columns, style.decimalSign), style.separator);
     return text;
-}
-
-TextTable clipboardTable() {
-    return {'\t', QLocale().decimalPoint()};
-}
-
-TextTable fileTable() {
-    return {';', QStringLiteral(".")};
 }
 
 } // namespace kavela::desktop

@@ -1,7 +1,7 @@
 #include "desktop/selection/selection_window.h"
 
-#include "desktop/race/table_text.h"
 #include "desktop/selection/athlete_dialog.h"
+#include "desktop/shell/tables/table_text.h"
 #include "desktop/shell/workspace.h"
 #include "results/messages.h"
 #include "results/team_records.h"
@@ -203,7 +203,7 @@ void SelectionWindow::copyTable() {
     std::iota(rows.begin(), rows.end(), 0);
     QList<int> columns(m_model.columnCount());
     std::iota(columns.begin(), columns.end(), 0);
-    QApplication::clipboard()->setText(tabSeparated(m_model, rows, columns));
+    QApplication::clipboard()->setText(tableAsText(m_model, rows, columns, clipboardTable()));
 }
 
 } // namespace kavela::desktop

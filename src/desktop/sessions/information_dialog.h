@@ -2,29 +2,26 @@
 
 #include "boatmotion/sessions.h"
 #include "desktop/shell/entry_dialog.h"
-
-#include <array>
-
-class QLineEdit;
+#include "desktop/shell/forms/record_form.h"
 
 namespace kavela::desktop {
 
-class NumberBox;
-
-/// Athlete, place, kind and equipment of a session.
+/// Athlete, place, kind and equipment of a session. What nobody touched stays as it was: a number
+/// with all its decimals, a text with its spaces.
 class InformationDialog : public EntryDialog {
     Q_OBJECT
 
 public:
     explicit InformationDialog(const infosessionSmart_v3& info, QWidget* parent = nullptr);
 
-    [[nodiscard]] infosessionSmart_v3 information() const;
+    void accept() override;
+    [[nodiscard]] const infosessionSmart_v3& information() const { return m_info; }
 
 private:
+    void addFields();
+
     infosessionSmart_v3 m_info;
-    std::array<QLineEdit*, 3> m_texts{};
-    std::array<NumberBox*, 5> m_numbers{};
-    std::array<double, 5> m_shown{}; ///< as the boxes rounded them
+    RecordForm<infosessionSmart_v3> m_form;
 };
 
 } // namespace kavela::desktop

@@ -5,6 +5,7 @@
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QKeyEvent>
+#include <QLineEdit>
 #include <QMetaProperty>
 #include <QToolTip>
 
@@ -43,7 +44,9 @@ CellDelegate::CellDelegate(QAbstractItemView& view) : QStyledItemDelegate(&view)
 /// Also called when another value of the row changed, which must not cost what was typed.
 void CellDelegate::setEditorData(QWidget* editor, const QModelIndex& index) const {
     m_editor = editor;
-    if (!m_isHandingOver && !isRefused(*editor))
+    const auto* const line = qobject_cast<const QLineEdit*>(editor);
+    const bool isTyped = line && line->isModified();
+    if (!m_isHandingOver && !isTyped && !isRefused(*editor))
         QStyledItemDelegate::setEditorData(editor, index);
 }
 

@@ -3,6 +3,7 @@
 #include "desktop/shell/dropped_files.h"
 #include "desktop/shell/edited_file.h"
 #include "desktop/shell/help_menu.h"
+#include "desktop/shell/tables/column_table.h"
 #include "desktop/shell/theme.h"
 #include "desktop/shell/typing.h"
 #include "desktop/shell/window_place.h"
@@ -158,6 +159,7 @@ void ToolWindow::finishMenus(std::function<Commands()> more) {
     m_fileMenu->addAction(tr("&Quit"), QKeySequence::Quit, this, [] { QCoreApplication::quit(); });
     addHelpMenu(*this, m_workspace, m_name.kind, std::move(more));
     rememberPlace(*this, m_workspace, m_name.kind);
+    rememberColumns(*this, m_workspace, m_name.kind);
 }
 
 bool ToolWindow::commit() {

@@ -1,20 +1,17 @@
 #pragma once
 
+#include "desktop/shell/forms/record_form.h"
 #include "splitdata/records.h"
 
 #include <QWidget>
 
 #include <functional>
-#include <vector>
 
-class QFormLayout;
 class QLabel;
-class QLineEdit;
 
 namespace kavela::desktop {
 
 class TakingDocument;
-class Workspace;
 
 /// What is known of the selected run beside its splits, to be looked at and corrected: crew,
 /// category, phase, hand, the real time with its penalties, the sprint; and what follows from its
@@ -33,27 +30,13 @@ public:
     void commit();
 
 private:
-    /// How a field shows a run, and how it takes over what was typed; it throws RefusedEntry.
-    struct Field {
-        QLineEdit* edit;
-        std::function<QString(const athletedata031&)> show;
-        std::function<void(const QString&)> take;
-    };
-
-    void addField(QFormLayout& form, const QString& title, const char* name,
-                  std::function<QString(const athletedata031&)> show,
-                  std::function<void(const QString&)> take);
-    void addTexts(QFormLayout& form);
-    void addTimes(QFormLayout& form);
-    void takeField(const Field& field);
-    void takeSeconds(const QString& text, double sectiondata030::*member, const QString& what);
-    void takePenalty(const QString& text);
+    void addFields();
     void edit(const QString& what, const std::function<void(athletedata031&)>& change);
-    void refresh();
+    void refresh(bool isOther);
 
     TakingDocument& m_document;
     int m_run = -1;
-    std::vector<Field> m_fields;
+    RecordForm<athletedata031> m_form;
     QLabel* m_figures;
 };
 

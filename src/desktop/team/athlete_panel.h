@@ -1,18 +1,31 @@
 #pragma once
 
-#include "desktop/team/athlete_model.h"
+#include "desktop/shell/tables/column_model.h"
 
+#include <QStringList>
 #include <QWidget>
+
+#include <optional>
+#include <string>
 
 class QComboBox;
 class QLineEdit;
-class QTableView;
 
 namespace kavela::desktop {
 
-class AthleteFilter;
+class ColumnTable;
+class TeamDocument;
 
-/// The athletes of a team: searched by name, filtered by category, sorted by any column.
+/// One athlete of a team, as the list shows it.
+struct AthleteRow {
+    QString name;
+    std::int64_t birthYear = 0;
+    QStringList categories;
+    bool isRetired = false;
+};
+
+/// The athletes of a team: searched by name, filtered by category, sorted by any column. Names and
+/// birth years are edited in place, retirement is a tick.
 class AthletePanel : public QWidget {
     Q_OBJECT
 
@@ -27,25 +40,29 @@ public:
     [[nodiscard]] std::string category() const;
     void setCategory(const QString& category);
 
-    [[nodiscard]] QTableView& table() const { return *m_table; }
+    [[nodiscard]] ColumnTable& table() const { return *m_table; }
     [[nodiscard]] QLineEdit& search() const { return *m_search; }
-    [[nodiscard]] AthleteModel& model() { return m_model; }
 
 signals:
     void athleteChosen();
     void categoryChosen();
 
 private:
+    [[nodiscard]] std::vector<Column<AthleteRow>> columns();
     void makeTable();
+    void showTeam();
     void filter();
-    void keepOneChosen();
 
     TeamDocument& m_document;
-    AthleteModel m_model;
-    AthleteFilter* m_shown;
+    ColumnModel<AthleteRow> m_model;
     QLineEdit* m_search;
     QComboBox* m_category;
-    QTableView* m_table;
+    ColumnTable* m_table;
 };
+
+/// The name as the team writes it. Throws RefusedEntry for an empty one and for one that another
+/// athlete has; `athlete` is whose name it shall be, none for a new one.
+[[nodiscard]] std::string checkedName(const TeamDocument& document, const QString& typed,
+                                      std::optional<std::size_t> athlete);
 
 } // namespace kavela::desktop

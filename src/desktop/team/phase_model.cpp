@@ -1,6 +1,7 @@
 #include "desktop/team/phase_model.h"
 
 #include "desktop/shell/shown_number.h"
+#include "desktop/shell/typed_number.h"
 #include "desktop/team/team_document.h"
 #include "desktop/team/team_edits.h"
 #include "desktop/team/typed_values.h"
@@ -11,10 +12,6 @@ namespace kavela::desktop {
 
 namespace {
 
-QString hundredths(double seconds) {
-    return shownHundredths(seconds);
-}
-
 /// Phases of a race are mostly held on one day, or on the next.
 mtPhaseStruct& newRun(mtRaceStruct& race, const std::string& phase) {
     const ReferenceDate day = race.phases.empty() ? ReferenceDate() : race.phases.back().date;
@@ -23,18 +20,48 @@ mtPhaseStruct& newRun(mtRaceStruct& race, const std::string& phase) {
     return run;
 }
 
+/// A number that is only there with `isThere`.
+Cell numberCell(const QString& text, double number, bool isThere) {
+    return isThere ? Cell{.text = text, .number = number} : Cell();
+}
+
+Cell secondsCell(double seconds, bool isThere) {
+    return numberCell(shownHundredths(seconds), seconds, isThere);
+}
+
+Cell countCell(std::int64_t count, bool isThere) {
+    return numberCell(QString::number(count), static_cast<double>(count), isThere);
+}
+
+Cell percentCell(const PhaseRow& row) {
+    const auto percent = row.place ? percentBehindOf(row.run) : std::nullopt;
+    return percent ? numberCell(shownHundredths(*percent) + " %", *percent, true) : Cell();
+}
+
+Cell dateCell(const PhaseRow& row) {
+    return {.text = dayShown(row.run.date), .sortValue = row.run.date.seconds};
+}
+
+/// A column of what a run has, which is nothing where the phase was not raced.
+Column<PhaseRow> runColumn(const QString& title, Cell (*show)(const mtPhaseStruct&)) {
+    return {.title = title, .kind = ColumnKind::Number, .show = [show](const PhaseRow& row) {
+                return show(row.run);
+            }};
+}
+
 } // namespace
 
 PhaseModel::PhaseModel(TeamDocument& document, const SeasonModel& seasons, QObject* parent)
-    : QAbstractTableModel(parent), m_document(document), m_seasons(seasons) {
-    connect(&m_document, &TeamDocument::changed, this, &PhaseModel::reload);
+    : QObject(parent),
+      m_document(document),
+      m_seasons(seasons),
+      m_rows(columns(), RowsKnownBy::Number) {
+    connect(&m_document, &TeamDocument::changed, this, [this] { m_rows.show(phases()); });
 }
 
 void PhaseModel::show(std::optional<SeasonPlace> race) {
-    beginResetModel();
     m_race = race && race->race ? race : std::nullopt;
-    m_rows = rows();
-    endResetModel();
+    m_rows.show(phases(), true);
 }
 
 const mtRaceStruct* PhaseModel::race() const {
@@ -45,112 +72,70 @@ const mtRaceStruct* PhaseModel::race() const {
     return *m_race->race < races.size() ? &races[*m_race->race] : nullptr;
 }
 
-std::vector<PhaseModel::Row> PhaseModel::rows() const {
+std::vector<PhaseRow> PhaseModel::phases() const {
     const mtRaceStruct* const shown = race();
-    std::vector<Row> rows;
+    std::vector<PhaseRow> rows;
     if (!shown)
         return rows;
     for (const char* phase : team::Phases)
-        rows.push_back({phase, std::nullopt});
-    for (std::size_t run = 0; run < shown->phases.size(); ++run) {
-        const std::string& phase = shown->phases[run].phase;
-        const auto row = std::ranges::find(rows, phase, &Row::phase);
-        if (row != rows.end() && !row->run)
-            row->run = run;
+        rows.push_back({phase, std::nullopt, {}});
+    for (std::size_t place = 0; place < shown->phases.size(); ++place) {
+        const mtPhaseStruct& run = shown->phases[place];
+        const auto row = std::ranges::find(rows, run.phase, &PhaseRow::phase);
+        if (row != rows.end() && !row->place)
+            *row = {run.phase, place, run};
         else
-            rows.push_back({phase, run});
+            rows.push_back({run.phase, place, run});
     }
     return rows;
 }
 
-/// A model that is reset closes the editor in a cell, so it is only where rows came or went.
-void PhaseModel::reload() {
-    std::vector<Row> now = rows();
-    if (now.size() == m_rows.size()) {
-        m_rows = std::move(now);
-        if (!m_rows.empty())
-            emit dataChanged(index(0, 0), index(rowCount() - 1, Columns - 1));
-        return;
-    }
-    beginResetModel();
-    m_rows = std::move(now);
-    endResetModel();
-}
-
-const mtPhaseStruct* PhaseModel::runOf(int row) const {
-    const mtRaceStruct* const shown = race();
-    const auto& run = m_rows[static_cast<std::size_t>(row)].run;
-    return shown && run && *run < shown->phases.size() ? &shown->phases[*run] : nullptr;
-}
-
-int PhaseModel::rowCount(const QModelIndex& parent) const {
-    return parent.isValid() ? 0 : static_cast<int>(m_rows.size());
-}
-
-int PhaseModel::columnCount(const QModelIndex& parent) const {
-    return parent.isValid() ? 0 : Columns;
-}
-
-QString PhaseModel::text(int row, int column) const {
-    if (column == PhaseColumn)
-        return QString::fromStdString(m_rows[static_cast<std::size_t>(row)].phase);
-    const mtPhaseStruct* const run = runOf(row);
-    if (!run)
-        return {};
-    switch (column) {
-    case TimeColumn:
-        return run->time == 0 ? QString() : hundredths(run->time);
-    case PenaltyColumn:
-        return run->time == 0 && run->pen == 0 ? QString() : QString::number(run->pen);
-    case TotalColumn:
-        return run->time == 0 ? QString() : hundredths(run->time + static_cast<double>(run->pen));
-    case PositionColumn:
-        return numberShown(run->pos);
-    case DateColumn:
-        return dayShown(run->date);
-    case SplitsColumn:
-        return numberShown(static_cast<std::int64_t>(run->splits.size()));
-    default:
-        break;
-    }
-    const auto percentage = percentBehindOf(*run);
-    return percentage ? hundredths(*percentage) + " %" : QString();
-}
-
-QVariant PhaseModel::data(const QModelIndex& index, int role) const {
-    if (role == Qt::DisplayRole || role == Qt::EditRole)
-        return text(index.row(), index.column());
-    if (role == Qt::TextAlignmentRole && index.column() != PhaseColumn)
-        return QVariant(Qt::AlignRight | Qt::AlignVCenter);
-    if (role == Qt::ToolTipRole && index.column() == PercentColumn)
-        return tr("Known where the run was taken over from a split file");
-    return {};
-}
-
-QVariant PhaseModel::headerData(int section, Qt::Orientation orientation, int role) const {
-    if (orientation != Qt::Horizontal)
-        return {};
-    if (role == Qt::TextAlignmentRole)
-        return QVariant((section == PhaseColumn ? Qt::AlignLeft : Qt::AlignRight) |
-                        Qt::AlignVCenter);
-    if (role != Qt::DisplayRole)
-        return {};
-    return QStringList{tr("Phase"),    tr("Time"), tr("Penalty"), tr("Total"),
-                       tr("Position"), tr("Date"), tr("Behind"),  tr("Splits")}
-        .value(section);
-}
-
-Qt::ItemFlags PhaseModel::flags(const QModelIndex& index) const {
-    const Qt::ItemFlags flags = QAbstractTableModel::flags(index);
-    switch (index.column()) {
-    case TimeColumn:
-    case PenaltyColumn:
-    case PositionColumn:
-    case DateColumn:
-        return flags | Qt::ItemIsEditable;
-    default:
-        return flags;
-    }
+std::vector<Column<PhaseRow>> PhaseModel::columns() {
+    const auto typed = [this](Column<PhaseRow> column, const QString& what, auto read,
+                              auto mtPhaseStruct::*member) {
+        column.take = [this, what, read, member](std::size_t, const PhaseRow& row,
+                                                 const QString& text) {
+            const auto value = read(text);
+            editRun(what, row, [&](mtPhaseStruct& run) { run.*member = value; });
+        };
+        return column;
+    };
+    using Run = mtPhaseStruct;
+    return {{.title = tr("Phase"),
+             .show = [](const PhaseRow& row) { return Cell{QString::fromStdString(row.phase)}; }},
+            typed(runColumn(tr("Time"),
+                            [](const Run& run) { return secondsCell(run.time, run.time != 0); }),
+                  tr("time"), typedTime, &Run::time),
+            typed(runColumn(tr("Penalty"),
+                            [](const Run& run) {
+                                return countCell(run.pen, run.time != 0 || run.pen != 0);
+                            }),
+                  tr("penalty"), typedPenalty, &Run::pen),
+            runColumn(tr("Total"),
+                      [](const Run& run) {
+                          return secondsCell(run.time + static_cast<double>(run.pen),
+                                             run.time != 0);
+                      }),
+            typed(runColumn(tr("Position"),
+                            [](const Run& run) { return countCell(run.pos, run.pos != 0); }),
+                  tr("position"), typedPosition, &Run::pos),
+            {.title = tr("Date"),
+             .kind = ColumnKind::Number,
+             .show = dateCell,
+             .take =
+                 [this](std::size_t, const PhaseRow& row, const QString& text) {
+                     const ReferenceDate date = typedDay(text, row.run.date);
+                     if (!row.place)
+                         throw RefusedEntry(tr("Enter a time or a position first."));
+                     editRun(tr("date"), row, [date](Run& run) { run.date = date; });
+                 }},
+            {.title = tr("Behind"),
+             .tip = tr("Known where the run was taken over from a split file"),
+             .kind = ColumnKind::Number,
+             .show = percentCell},
+            runColumn(tr("Splits"), [](const Run& run) {
+                return countCell(static_cast<std::int64_t>(run.splits.size()), !run.splits.empty());
+            })};
 }
 
 void PhaseModel::edit(const QString& what, const std::function<void(mtRaceStruct&)>& change) {
@@ -160,48 +145,17 @@ void PhaseModel::edit(const QString& what, const std::function<void(mtRaceStruct
         [&](mtCatsStruct& category) { change(category.seasons[place.season].races[*place.race]); });
 }
 
-bool PhaseModel::setData(const QModelIndex& index, const QVariant& value, int role) {
-    if (role != Qt::EditRole || !race() || text(index.row(), index.column()) == value.toString())
-        return false;
-    try {
-        setCell(m_rows[static_cast<std::size_t>(index.row())], index.column(), value.toString());
-        return true;
-    } catch (const RefusedEntry& refusal) {
-        emit refused(refusal.reason());
-        return false;
-    }
-}
-
-void PhaseModel::setCell(Row row, int column, const QString& typed) {
-    const auto changeRun = [&](const QString& what, const auto& change) {
-        edit(what, [&](mtRaceStruct& race) {
-            change(row.run ? race.phases[*row.run] : newRun(race, row.phase));
-            dropEmptyPhases(race);
-        });
-    };
-    const mtPhaseStruct* const run = row.run ? &race()->phases[*row.run] : nullptr;
-    if (column == TimeColumn) {
-        const double time = typedTime(typed);
-        changeRun(tr("time"), [time](mtPhaseStruct& entry) { entry.time = time; });
-    } else if (column == PenaltyColumn) {
-        const std::int64_t penalty = typedPenalty(typed);
-        changeRun(tr("penalty"), [penalty](mtPhaseStruct& entry) { entry.pen = penalty; });
-    } else if (column == PositionColumn) {
-        const std::int64_t position = typedPosition(typed);
-        changeRun(tr("position"), [position](mtPhaseStruct& entry) { entry.pos = position; });
-    } else {
-        const ReferenceDate date = typedDay(typed, run ? run->date : ReferenceDate());
-        if (!run)
-            throw RefusedEntry(tr("Enter a time or a position first."));
-        changeRun(tr("date"), [date](mtPhaseStruct& entry) { entry.date = date; });
-    }
+void PhaseModel::editRun(const QString& what, const PhaseRow& row, const RunEdit& change) {
+    edit(what, [&](mtRaceStruct& race) {
+        change(row.place ? race.phases[*row.place] : newRun(race, row.phase));
+        dropEmptyPhases(race);
+    });
 }
 
 void PhaseModel::removeRun(int row) {
-    const auto run = m_rows.at(static_cast<std::size_t>(row)).run;
-    if (run)
+    if (const auto place = m_rows.row(row).place)
         edit(tr("removal of a run"), [&](mtRaceStruct& race) {
-            race.phases.erase(race.phases.begin() + static_cast<std::ptrdiff_t>(*run));
+            race.phases.erase(race.phases.begin() + static_cast<std::ptrdiff_t>(*place));
         });
 }
 

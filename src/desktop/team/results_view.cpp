@@ -1,6 +1,6 @@
 #include "desktop/team/results_view.h"
 
-#include "desktop/shell/edit_order.h"
+#include "desktop/shell/tables/column_table.h"
 #include "desktop/shell/theme.h"
 #include "desktop/team/event_delegate.h"
 #include "desktop/team/season_tree.h"
@@ -11,7 +11,6 @@
 #include <QLabel>
 #include <QSplitter>
 #include <QTabBar>
-#include <QTableView>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -110,16 +109,12 @@ void ResultsView::makeRuns() {
     m_race = new QLabel;
     m_race->setObjectName("race");
     m_race->setTextFormat(Qt::PlainText);
-    m_runs = new EditOrder<QTableView>;
-    m_runs->setObjectName("runs");
-    m_runs->setModel(&m_phases);
-    connect(&m_phases, &PhaseModel::refused, new CellDelegate(*m_runs), &CellDelegate::refuse);
-    m_runs->setEditTriggers(EditKeys);
+    m_runs = new ColumnTable(m_phases.rows(), "runs");
+    m_runs->setSelectionBehavior(QAbstractItemView::SelectItems);
     m_runs->setSelectionMode(QAbstractItemView::SingleSelection);
-    m_runs->verticalHeader()->hide();
-    m_runs->verticalHeader()->setDefaultSectionSize(fontMetrics().height() + theme::Spacing);
-    m_runs->horizontalHeader()->setHighlightSections(false);
-    m_runs->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
+    m_runs->setShowGrid(true);
+    m_runs->setAlternatingRowColors(false);
+    m_runs->stretchAll();
     const int rows = static_cast<int>(std::size(team::Phases)) + 1;
     m_runs->setFixedHeight(rows * (fontMetrics().height() + theme::Spacing) + theme::Spacing);
 }
@@ -317,8 +312,8 @@ void ResultsView::move(int way) {
 
 void ResultsView::removeCurrent() {
     if (m_runs->hasFocus()) {
-        if (const QModelIndex run = m_runs->currentIndex(); run.isValid())
-            m_phases.removeRun(run.row());
+        if (const int run = m_runs->currentPlace(); run >= 0)
+            m_phases.removeRun(run);
         return;
     }
     if (!m_seasons.results() || !m_place)

@@ -8,10 +8,11 @@
 
 class QLabel;
 class QTabBar;
-class QTableView;
 class QTreeView;
 
 namespace kavela::desktop {
+
+class ColumnTable;
 
 /// The results of one athlete: a tab for each category, its seasons and races as one table, and the
 /// runs of the race chosen below. What is edited is edited in the cells.
@@ -45,7 +46,7 @@ public:
     void editCurrent();
 
     [[nodiscard]] QTreeView& tree() const { return *m_tree; }
-    [[nodiscard]] QTableView& runs() const { return *m_runs; }
+    [[nodiscard]] ColumnTable& runs() const { return *m_runs; }
 
 signals:
     /// Another athlete, category, season or race is shown.
@@ -72,7 +73,7 @@ private:
     QTabBar* m_categories = nullptr;
     QTreeView* m_tree = nullptr;
     QLabel* m_race = nullptr;
-    QTableView* m_runs = nullptr;
+    ColumnTable* m_runs = nullptr;
     std::optional<SeasonPlace> m_place; ///< kept over the model's resets
     QSet<QString> m_closed;             ///< years of seasons that are shut
     bool m_isFilling = false;

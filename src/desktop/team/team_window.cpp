@@ -2,6 +2,7 @@
 
 #include "common/error.h"
 #include "desktop/preview/report_preview.h"
+#include "desktop/shell/tables/column_table.h"
 #include "desktop/shell/theme.h"
 #include "desktop/shell/window_place.h"
 #include "desktop/shell/workspace.h"
@@ -187,7 +188,7 @@ void TeamWindow::removeCurrent() {
 }
 
 void TeamWindow::editCurrent() {
-    QTableView& athletes = m_athletes->table();
+    ColumnTable& athletes = m_athletes->table();
     if (athletes.hasFocus())
         athletes.edit(athletes.currentIndex());
     else

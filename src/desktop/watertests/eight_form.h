@@ -1,5 +1,6 @@
 #pragma once
 
+#include "desktop/shell/forms/record_form.h"
 #include "desktop/watertests/entry_table.h"
 #include "planning/water_test_file.h"
 
@@ -8,9 +9,14 @@
 #include <functional>
 
 class QLabel;
-class QLineEdit;
 
 namespace kavela::desktop {
+
+/// One split of an eight test, in seconds.
+struct EightSplit {
+    double time = 0;
+    double inVideo = 0;
+};
 
 /// An eight test to be typed: category, phase, five splits; and what it has of video and motion.
 class EightForm : public QWidget {
@@ -19,22 +25,18 @@ class EightForm : public QWidget {
 public:
     explicit EightForm(QWidget* parent = nullptr);
 
-    void show(const onWaterEight& eight);
+    void show(const onWaterEight& eight, bool isOther);
 
 signals:
     /// `what` names the step of the undo stack.
     void edited(const QString& what, const std::function<void(onWaterEight&)>& change);
 
 private:
-    void enterSplit(int row, double seconds);
+    [[nodiscard]] std::vector<Column<EightSplit>> splitColumns();
+    void enterSplit(std::size_t row, double seconds);
 
-    /// A text of the run that is typed; `what` names it.
-    void connectText(QLineEdit& field, std::string datafor8::*member, const QString& what);
-
-    datafor8 m_shown; ///< without its motion
-    QLineEdit* m_category;
-    QLineEdit* m_phase;
-    EntryModel m_splits;
+    RecordForm<onWaterEight> m_form;
+    ColumnModel<EightSplit> m_splits;
     EntryTable* m_table;
     QLabel* m_score;
     QLabel* m_sources;

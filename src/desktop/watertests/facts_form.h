@@ -1,13 +1,9 @@
 #pragma once
 
+#include "desktop/shell/forms/record_form.h"
 #include "desktop/watertests/listed_test.h"
 
-#include <QWidget>
-
-class QComboBox;
-class QDateEdit;
 class QLabel;
-class QLineEdit;
 
 namespace kavela::desktop {
 
@@ -16,30 +12,17 @@ class FactsForm : public QWidget {
     Q_OBJECT
 
 public:
-    explicit FactsForm(QWidget* parent = nullptr);
+    /// `edit` makes a change of a test a step of undo.
+    explicit FactsForm(RecordForm<ListedTest>::Edit edit, QWidget* parent = nullptr);
 
     /// `athletes` are proposed while a name is typed.
-    void show(const ListedTest& test, const QStringList& athletes);
+    void show(const ListedTest& test, const QStringList& athletes, bool isOther);
     /// Begins to type the name.
     void focusAthlete();
 
-signals:
-    void athleteEntered(const QString& name);
-    /// The day, its time of day that of the test before.
-    void dateEntered(ReferenceDate date);
-    void locationEntered(const QString& location);
-
 private:
-    void enterAthlete();
-    void enterLocation();
-
     QLabel* m_kind;
-    QComboBox* m_athlete;
-    QDateEdit* m_date;
-    QLineEdit* m_location;
-    QString m_shownAthlete;
-    QString m_shownLocation;
-    ReferenceDate m_shownDate;
+    RecordForm<ListedTest> m_form;
 };
 
 } // namespace kavela::desktop

@@ -1,16 +1,14 @@
 #include "desktop/watertests/section_form.h"
 
-#include "desktop/shell/number_box.h"
 #include "desktop/shell/shown_number.h"
 #include "desktop/shell/theme.h"
+#include "desktop/shell/typed_number.h"
 #include "desktop/watertests/eight_texts.h"
 #include "planning/test_texts.h"
 
 #include <QGridLayout>
-#include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
-#include <QSignalBlocker>
 
 #include <algorithm>
 #include <utility>
@@ -18,50 +16,6 @@
 namespace kavela::desktop {
 
 namespace {
-
-enum SectionColumn {
-    TimeColumn,
-    StraightColumn,
-    RotationColumn,
-    SpeedColumn,
-    RateColumn,
-    EfficiencyColumn
-};
-
-std::vector<EntryColumn> sectionColumns() {
-    const auto tr = [](const char* text) { return SectionForm::tr(text); };
-    return {
-        {tr("Time\n(s)"), tr(test_help::LapTime), 3600},
-        {tr("Straight\n(s)"), tr(test_help::StraightTime), 3600},
-        {tr("Rotation\n(s)"), tr(test_help::RotationTime), 0, true},
-        {tr("Speed\n(m/s)"), tr("Follows from distance and time until it is typed"), 20},
-        {tr("Stroke rate\n(1/min)"), QString(), 300},
-        {tr("Efficiency\n(m/stroke)"), tr("Follows from speed and stroke rate until typed"), 20}};
-}
-
-std::vector<EntryColumn> turnColumns() {
-    const auto tr = [](const char* text) { return SectionForm::tr(text); };
-    const QString help = tr(test_help::RotationPeak);
-    return {{tr("Left\n(rad/s)"), help, 50},
-            {tr("Left\n(s)"), tr(test_series::LeftRotationDuration), 600},
-            {tr("Right\n(rad/s)"), help, 50},
-            {tr("Right\n(s)"), tr(test_series::RightRotationDuration), 600}};
-}
-
-double SectionEntry::*sectionMember(int column) {
-    switch (column) {
-    case TimeColumn:
-        return &SectionEntry::time;
-    case StraightColumn:
-        return &SectionEntry::straightTime;
-    case SpeedColumn:
-        return &SectionEntry::speed;
-    case RateColumn:
-        return &SectionEntry::strokeRate;
-    default:
-        return &SectionEntry::strokeEfficiency;
-    }
-}
 
 QLabel* quietLabel(const char* name) {
     auto* label = new QLabel;
@@ -76,59 +30,91 @@ QLabel* quietLabel(const char* name) {
 
 SectionForm::SectionForm(QWidget* parent)
     : QWidget(parent),
-      m_setUp(new QWidget),
-      m_laps(new WholeBox),
-      m_distance(new NumberBox),
-      m_turnLimit(new NumberBox),
+      m_setUp([this](const QString& what, const auto& change) { emit edited(what, change); },
+              FieldForm::Arrangement::Beside),
       m_description(quietLabel("description")),
-      m_sections(sectionColumns()),
-      m_turns(turnColumns()),
-      m_sectionTable(new EntryTable(m_sections)),
-      m_turnTable(new EntryTable(m_turns)),
+      m_sections(sectionColumns(), RowsKnownBy::Number),
+      m_turns(turnColumns(), RowsKnownBy::Number),
+      m_sectionTable(new EntryTable(m_sections, "sections")),
+      m_turnTable(new EntryTable(m_turns, "turns")),
       m_turnTitle(new QLabel(tr("Turns"))),
       m_total(new QLabel) {
+    m_total->setObjectName("total");
     makeSetUp();
-    makeTables();
+    m_turns.setRowTitles([](int turn) { return tr("Turn %1").arg(turn + 1); });
+    m_sections.setRowTitles([this](int section) {
+        return (m_isSprint ? tr("Stretch %1") : tr("Lap %1")).arg(section + 1);
+    });
+    for (EntryTable* const table : {m_sectionTable, m_turnTable})
+        table->verticalHeader()->show();
     layOut();
-    connectParts();
 }
 
 void SectionForm::makeSetUp() {
-    m_laps->setObjectName("laps");
-    m_laps->setRange(1, 100);
-    m_laps->setKeyboardTracking(false);
-    m_distance->setObjectName("distance");
-    m_distance->setRange(1, 1000);
-    m_distance->setSingleStep(0.5);
-    m_distance->setDecimals(1);
-    m_distance->setSuffix(tr(" m"));
-    m_distance->setKeyboardTracking(false);
-    m_turnLimit->setObjectName("turnLimit");
-    m_turnLimit->setRange(0.05, 10);
-    m_turnLimit->setSingleStep(0.05);
-    m_turnLimit->setSuffix(tr(" rad/s"));
-    m_turnLimit->setKeyboardTracking(false);
-    m_turnLimit->setToolTip(tr("A faster rotation of the boat is a turn, a slower one straight "
-                               "paddling"));
-    auto* row = new QHBoxLayout(m_setUp);
-    row->setContentsMargins(0, 0, 0, 0);
-    row->setSpacing(theme::Spacing);
-    for (const auto& [title, field] : {std::pair<QString, QWidget*>{tr("La&ps"), m_laps},
-                                       {tr("Distance between the &gates"), m_distance},
-                                       {tr("Turn li&mit"), m_turnLimit}}) {
-        auto* label = new QLabel(title);
-        label->setBuddy(field);
-        row->addWidget(label);
-        row->addWidget(field);
-        row->addSpacing(theme::LargeSpacing);
-    }
-    row->addStretch(1);
+    m_setUp.whole({.name = "laps", .label = tr("La&ps"), .what = tr("number of laps")},
+                  {.least = 1, .most = 100},
+                  Access{[](const onWaterTest& test) {
+                             return static_cast<std::int64_t>(plannedSections(test));
+                         },
+                         [](onWaterTest& test, std::int64_t laps) { test.laps = laps; }});
+    m_setUp.number(
+        {.name = "distance", .label = tr("Distance between the &gates"), .what = tr("distance")},
+        {.least = 1, .most = 1000, .decimals = 1, .step = 0.5, .unit = tr("m")},
+        Access{[](const onWaterTest& test) { return test.distance; },
+               [](onWaterTest& test, double metres) { setDistance(test, metres); }});
+    m_setUp.number({.name = "turnLimit",
+                    .label = tr("Turn li&mit"),
+                    .tip = tr("A faster rotation of the boat is a turn, a slower one straight "
+                              "paddling")},
+                   {.least = 0.05, .most = 10, .decimals = 2, .step = 0.05, .unit = tr("rad/s")},
+                   &onWaterTest::turnLimit);
+    m_setUp.addRow({}, new QWidget); // takes the rest of the line
 }
 
-void SectionForm::makeTables() {
-    m_sectionTable->setObjectName("sections");
-    m_turnTable->setObjectName("turns");
-    m_total->setObjectName("total");
+std::vector<Column<SectionEntry>> SectionForm::sectionColumns() {
+    const auto column = [this](const EntryFacts& facts, double SectionEntry::*member) {
+        return entryColumn<SectionEntry>(
+            facts, [member](const SectionEntry& row) { return row.*member; },
+            [this, member](std::size_t row, double value) { enterSection(row, member, value); });
+    };
+    const auto ofStrokes = [this](Column<SectionEntry> shown) {
+        shown.show = [this, show = shown.show](const SectionEntry& row) {
+            Cell cell = show(row);
+            cell.isLocked = m_isRecorded;
+            if (m_isRecorded)
+                cell.tip = tr("Told by the strokes that were recorded");
+            return cell;
+        };
+        return shown;
+    };
+    return {column({tr("Time\n(s)"), tr(test_help::LapTime), 3600}, &SectionEntry::time),
+            column({tr("Straight\n(s)"), tr(test_help::StraightTime), 3600},
+                   &SectionEntry::straightTime),
+            entryColumn<SectionEntry>({tr("Rotation\n(s)"), tr(test_help::RotationTime)},
+                                      [](const SectionEntry& row) {
+                                          return row.straightTime > 0 ? row.time - row.straightTime
+                                                                      : 0;
+                                      }),
+            column({tr("Speed\n(m/s)"), tr("Follows from distance and time until it is typed"), 20},
+                   &SectionEntry::speed),
+            ofStrokes(column({tr("Stroke rate\n(1/min)"), {}, 300}, &SectionEntry::strokeRate)),
+            ofStrokes(column({tr("Efficiency\n(m/stroke)"),
+                              tr("Follows from speed and stroke rate until typed"), 20},
+                             &SectionEntry::strokeEfficiency))};
+}
+
+std::vector<Column<TurnEntry>> SectionForm::turnColumns() {
+    const auto column = [this](const QString& title, const char* tip, double most,
+                               double TurnEntry::*member) {
+        return entryColumn<TurnEntry>(
+            {title, tr(tip), most}, [member](const TurnEntry& row) { return row.*member; },
+            [this, member](std::size_t row, double value) { enterTurn(row, member, value); });
+    };
+    return {
+        column(tr("Left\n(rad/s)"), test_help::RotationPeak, 50, &TurnEntry::leftPeak),
+        column(tr("Left\n(s)"), test_series::LeftRotationDuration, 600, &TurnEntry::leftTime),
+        column(tr("Right\n(rad/s)"), test_help::RotationPeak, 50, &TurnEntry::rightPeak),
+        column(tr("Right\n(s)"), test_series::RightRotationDuration, 600, &TurnEntry::rightTime)};
 }
 
 void SectionForm::layOut() {
@@ -138,7 +124,7 @@ void SectionForm::layOut() {
     auto* grid = new QGridLayout(this);
     grid->setContentsMargins(0, 0, 0, 0);
     grid->setSpacing(theme::Spacing);
-    grid->addWidget(m_setUp, 0, 0, 1, 2);
+    grid->addWidget(&m_setUp, 0, 0, 1, 2);
     grid->addWidget(m_description, 1, 0, 1, 2);
     grid->addWidget(sectionTitle, 2, 0);
     grid->addWidget(m_turnTitle, 2, 1);
@@ -150,91 +136,53 @@ void SectionForm::layOut() {
     grid->setColumnStretch(1, 2);
 }
 
-void SectionForm::connectParts() {
-    connect(m_laps, &WholeBox::valueChanged, this, [this](int laps) {
-        emit edited(tr("number of laps"), [laps](onWaterTest& test) { test.laps = laps; });
-    });
-    connect(m_distance, &NumberBox::valueChanged, this, [this](double metres) {
-        emit edited(tr("distance"), [metres](onWaterTest& test) { setDistance(test, metres); });
-    });
-    connect(m_turnLimit, &NumberBox::valueChanged, this, [this](double limit) {
-        emit edited(tr("turn limit"), [limit](onWaterTest& test) { test.turnLimit = limit; });
-    });
-    connect(&m_sections, &EntryModel::entered, this, &SectionForm::enterSection);
-    connect(&m_turns, &EntryModel::entered, this, &SectionForm::enterTurn);
-}
-
-void SectionForm::enterSection(int row, int column, double value) {
-    std::vector<SectionEntry> sections = m_shown;
-    SectionEntry& section = sections[static_cast<std::size_t>(row)];
-    section.*sectionMember(column) = value;
-    if (section.time > 0 && section.straightTime > section.time) {
-        m_sectionTable->refuse(tr("The time in straight line is part of the time of its section: "
-                                  "it cannot be longer."));
-        return;
-    }
+void SectionForm::enterSection(std::size_t row, double SectionEntry::*member, double value) {
+    std::vector<SectionEntry> sections = m_sections.rows();
+    SectionEntry& section = sections[row];
+    section.*member = value;
+    if (section.time > 0 && section.straightTime > section.time)
+        throw RefusedEntry(tr("The time in straight line is part of the time of its section: it "
+                              "cannot be longer."));
     emit edited(tr("section %1").arg(row + 1),
                 [sections](onWaterTest& test) { enterSections(test, sections); });
 }
 
-void SectionForm::enterTurn(int row, int column, double value) {
-    constexpr double TurnEntry::*Members[] = {&TurnEntry::leftPeak, &TurnEntry::leftTime,
-                                              &TurnEntry::rightPeak, &TurnEntry::rightTime};
+void SectionForm::enterTurn(std::size_t row, double TurnEntry::*member, double value) {
     emit edited(tr("turn %1").arg(row + 1), [=](onWaterTest& test) {
         std::vector<TurnEntry> turns = turnEntries(test.test);
-        turns.resize(std::max(turns.size(), static_cast<std::size_t>(row) + 1));
-        turns[static_cast<std::size_t>(row)].*Members[column] = value;
+        turns.resize(std::max(turns.size(), row + 1));
+        turns[row].*member = value;
         enterTurns(test.test, turns);
     });
 }
 
-void SectionForm::show(const onWaterTest& test) {
-    const bool isSprint = test.kind == water_test::Sprint;
-    const QSignalBlocker quiet[] = {QSignalBlocker(m_laps), QSignalBlocker(m_distance),
-                                    QSignalBlocker(m_turnLimit)};
-    m_laps->showValue(static_cast<int>(plannedSections(test)));
-    m_distance->showValue(test.distance);
-    m_turnLimit->showValue(test.turnLimit);
-    m_setUp->setVisible(!isSprint);
-    m_turnTitle->setVisible(!isSprint);
-    m_turnTable->setVisible(!isSprint);
+void SectionForm::show(const onWaterTest& test, bool isOther) {
+    m_isSprint = test.kind == water_test::Sprint;
+    m_isRecorded = hasRecordedStrokes(test.test);
+    m_setUp.show(&test, isOther);
+    m_setUp.setVisible(!m_isSprint);
+    m_turnTitle->setVisible(!m_isSprint);
+    m_turnTable->setVisible(!m_isSprint);
     m_description->setText(QString::fromStdString(
-        isSprint ? SprintTestDescription : lapTestDescription(test.laps, test.distance)));
-    showSections(test);
-    EntryModel::Rows turns;
-    for (const TurnEntry& turn : turnEntries(test.test))
-        turns.push_back({turn.leftPeak, turn.leftTime, turn.rightPeak, turn.rightTime});
+        m_isSprint ? SprintTestDescription : lapTestDescription(test.laps, test.distance)));
+    m_sections.show(sectionEntries(test), isOther);
+    std::vector<TurnEntry> turns = turnEntries(test.test);
     turns.resize(std::max(turns.size() + 1, plannedSections(test)));
-    const QStringList titles = numbered(tr("Turn %1"), turns.size());
-    m_turns.show(std::move(turns), titles);
+    m_turns.show(std::move(turns), isOther);
+    showTotal(test);
     m_sectionTable->updateGeometry();
     m_turnTable->updateGeometry();
 }
 
-void SectionForm::showSections(const onWaterTest& test) {
-    m_shown = sectionEntries(test);
-    EntryModel::Rows rows;
-    for (const SectionEntry& section : m_shown)
-        rows.push_back({section.time, section.straightTime,
-                        section.straightTime > 0 ? section.time - section.straightTime : 0,
-                        section.speed, section.strokeRate, section.strokeEfficiency});
-    const bool isRecorded = hasRecordedStrokes(test.test);
-    const QString told = tr("Told by the strokes that were recorded");
-    m_sections.setReadOnly(RateColumn, isRecorded, isRecorded ? told : QString());
-    m_sections.setReadOnly(EfficiencyColumn, isRecorded,
-                           isRecorded ? told
-                                      : tr("Follows from speed and stroke rate until typed"));
-    const QStringList titles =
-        numbered(test.kind == water_test::Sprint ? tr("Stretch %1") : tr("Lap %1"), rows.size());
-    m_sections.show(std::move(rows), titles);
+void SectionForm::showTotal(const onWaterTest& test) {
     const auto timed = std::ranges::count_if(
-        m_shown, [](const SectionEntry& section) { return section.time > 0; });
+        m_sections.rows(), [](const SectionEntry& section) { return section.time > 0; });
     const bool isWhole = std::cmp_greater_equal(timed, plannedSections(test));
     QString total =
         isWhole || timed == 0
             ? tr("Total: %1 s").arg(hundredthsOrDash(test.test.totalTime))
             : tr("Total: – · %1 of %2 sections are timed").arg(timed).arg(plannedSections(test));
-    if (isRecorded)
+    if (m_isRecorded)
         total += tr(" · %1 strokes recorded").arg(test.test.strokeDate.size());
     m_total->setText(total);
 }

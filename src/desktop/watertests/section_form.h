@@ -1,5 +1,6 @@
 #pragma once
 
+#include "desktop/shell/forms/record_form.h"
 #include "desktop/watertests/entry_table.h"
 #include "planning/test_entry.h"
 
@@ -11,9 +12,6 @@ class QLabel;
 
 namespace kavela::desktop {
 
-class NumberBox;
-class WholeBox;
-
 /// A lap test or a sprint as it was set up, its sections and its turns, to be typed.
 class SectionForm : public QWidget {
     Q_OBJECT
@@ -21,7 +19,7 @@ class SectionForm : public QWidget {
 public:
     explicit SectionForm(QWidget* parent = nullptr);
 
-    void show(const onWaterTest& test);
+    void show(const onWaterTest& test, bool isOther);
     [[nodiscard]] EntryTable& sections() const { return *m_sectionTable; }
 
 signals:
@@ -30,25 +28,23 @@ signals:
 
 private:
     void makeSetUp();
-    void makeTables();
+    [[nodiscard]] std::vector<Column<SectionEntry>> sectionColumns();
+    [[nodiscard]] std::vector<Column<TurnEntry>> turnColumns();
     void layOut();
-    void connectParts();
-    void enterSection(int row, int column, double value);
-    void enterTurn(int row, int column, double value);
-    void showSections(const onWaterTest& test);
+    void enterSection(std::size_t row, double SectionEntry::*member, double value);
+    void enterTurn(std::size_t row, double TurnEntry::*member, double value);
+    void showTotal(const onWaterTest& test);
 
-    QWidget* m_setUp;
-    WholeBox* m_laps;
-    NumberBox* m_distance;
-    NumberBox* m_turnLimit;
+    RecordForm<onWaterTest> m_setUp;
     QLabel* m_description;
-    EntryModel m_sections;
-    EntryModel m_turns;
+    ColumnModel<SectionEntry> m_sections;
+    ColumnModel<TurnEntry> m_turns;
     EntryTable* m_sectionTable;
     EntryTable* m_turnTable;
     QLabel* m_turnTitle;
     QLabel* m_total;
-    std::vector<SectionEntry> m_shown;
+    bool m_isSprint = false;
+    bool m_isRecorded = false; ///< the strokes of the test
 };
 
 } // namespace kavela::desktop

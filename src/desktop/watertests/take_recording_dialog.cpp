@@ -11,6 +11,7 @@
 #include <QDialogButtonBox>
 #include <QFormLayout>
 #include <QHBoxLayout>
+#include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -46,12 +47,8 @@ TakeRecordingDialog::TakeRecordingDialog(bmrawdata_v5 session, const std::string
       m_laps(new WholeBox),
       m_distance(numberBox(1, 1000, 0.5, tr(" m"))),
       m_turnLimit(numberBox(0.05, 10, 0.05, tr(" rad/s"))),
-      m_marks(
-          new EntryModel({{tr("Ends at\n(s)"), tr("Seconds from the beginning of the recording"),
-                           100000, false, true},
-                          {tr("Time\n(s)"), tr("Length of the section"), 0, true}},
-                         this)),
-      m_table(new EntryTable(*m_marks)),
+      m_marks(markColumns(), RowsKnownBy::Number),
+      m_table(new EntryTable(m_marks, "marks")),
       m_chart(new SeriesChart),
       m_found(new QLabel),
       m_fault(new QLabel) {
@@ -80,7 +77,7 @@ void TakeRecordingDialog::makeFields(const std::string& athlete) {
     m_laps->setKeyboardTracking(false);
     m_distance->setValue(usual.distance);
     m_turnLimit->setValue(usual.turnLimit);
-    m_table->setObjectName("marks");
+    m_table->verticalHeader()->show();
     m_table->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     m_distance->setDecimals(1);
     m_chart->setMinimumSize(520, 260);
@@ -127,8 +124,12 @@ void TakeRecordingDialog::connectParts() {
     connect(m_kind, &QComboBox::currentIndexChanged, this, &TakeRecordingDialog::suggest);
     connect(m_laps, &WholeBox::valueChanged, this, &TakeRecordingDialog::suggest);
     connect(m_turnLimit, &NumberBox::valueChanged, this, &TakeRecordingDialog::analyse);
-    connect(m_marks, &EntryModel::entered, this,
-            [this](int row, int /*column*/, double seconds) { enterMark(row, seconds); });
+    m_marks.setRowTitles([this](int row) {
+        const QString title = kind() == TestKind::Lap      ? tr("Lap %1")
+                              : kind() == TestKind::Sprint ? tr("Stretch %1")
+                                                           : tr("Eight %1");
+        return row == 0 ? tr("Start") : title.arg(row);
+    });
 }
 
 void TakeRecordingDialog::analyse() {
@@ -172,22 +173,25 @@ void TakeRecordingDialog::suggest() {
     showMarks();
 }
 
-void TakeRecordingDialog::enterMark(int row, double seconds) {
-    m_moments[static_cast<std::size_t>(row)] = begin() + seconds;
-    showMarks();
+std::vector<Column<SectionMark>> TakeRecordingDialog::markColumns() {
+    return {
+        entryColumn<SectionMark>(
+            {tr("Ends at\n(s)"), tr("Seconds from the beginning of the recording"), 100000, true},
+            [](const SectionMark& mark) { return mark.end; },
+            [this](std::size_t row, double seconds) {
+                m_moments[row] = begin() + seconds;
+                showMarks();
+            }),
+        entryColumn<SectionMark>({tr("Time\n(s)"), tr("Length of the section")},
+                                 [](const SectionMark& mark) { return mark.time; })};
 }
 
 /// Marks that do not ascend are told, and cannot be taken in.
 void TakeRecordingDialog::showMarks() {
-    EntryModel::Rows rows;
+    std::vector<SectionMark> rows;
     for (std::size_t i = 0; i < m_moments.size(); ++i)
         rows.push_back({m_moments[i] - begin(), i == 0 ? 0 : m_moments[i] - m_moments[i - 1]});
-    QStringList titles = numbered(kind() == TestKind::Lap      ? tr("Lap %1")
-                                  : kind() == TestKind::Sprint ? tr("Stretch %1")
-                                                               : tr("Eight %1"),
-                                  rows.empty() ? 0 : rows.size() - 1);
-    titles.prepend(tr("Start"));
-    m_marks->show(std::move(rows), titles);
+    m_marks.show(std::move(rows));
     const bool isAscending =
         std::ranges::adjacent_find(m_moments, std::greater_equal()) == m_moments.end();
     m_fault->setText(m_moments.size() < 2 ? tr("No such test was found in the recording.")

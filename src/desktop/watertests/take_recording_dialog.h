@@ -2,6 +2,7 @@
 
 #include "boatmotion/strokes/motion_analysis.h"
 #include "desktop/shell/entry_dialog.h"
+#include "desktop/shell/tables/column_model.h"
 #include "desktop/watertests/tests_document.h"
 
 #include <vector>
@@ -15,9 +16,14 @@ namespace kavela::desktop {
 
 class NumberBox;
 class WholeBox;
-class EntryModel;
 class EntryTable;
 class SeriesChart;
+
+/// Where a section of a test ends in a recording, and how long it is, in seconds.
+struct SectionMark {
+    double end = 0;
+    double time = 0;
+};
 
 /// Which part of a recording is which test: its marks are proposed from the strokes and turns, and
 /// can be changed.
@@ -42,7 +48,7 @@ private:
     void showMarks();
     [[nodiscard]] QString missingText() const;
     void showCurve();
-    void enterMark(int row, double seconds);
+    [[nodiscard]] std::vector<Column<SectionMark>> markColumns();
     [[nodiscard]] TestKind kind() const;
     [[nodiscard]] double begin() const;
 
@@ -56,7 +62,7 @@ private:
     WholeBox* m_laps;
     NumberBox* m_distance;
     NumberBox* m_turnLimit;
-    EntryModel* m_marks;
+    ColumnModel<SectionMark> m_marks;
     EntryTable* m_table;
     SeriesChart* m_chart;
     QLabel* m_found;

@@ -1,6 +1,7 @@
 #include "desktop/watertests/take_run_dialog.h"
 
 #include "desktop/shell/shown_number.h"
+#include "desktop/shell/tables/column_table.h"
 #include "desktop/shell/theme.h"
 #include "planning/eight_test.h"
 #include "planning/test_from_run.h"
@@ -9,10 +10,8 @@
 #include <QComboBox>
 #include <QDialogButtonBox>
 #include <QFormLayout>
-#include <QHeaderView>
 #include <QLabel>
 #include <QPushButton>
-#include <QTableWidget>
 
 #include <algorithm>
 #include <numeric>
@@ -32,12 +31,37 @@ QString sectionText(const std::vector<double>& times) {
                                       : TakeRunDialog::tr("%1 of %2").arg(timed).arg(times.size());
 }
 
-QStringList cellsOf(const athletedata031& run) {
+double totalOf(const athletedata031& run) {
     const std::vector<double>& times = run.sectioninfo.times;
-    const double total = std::accumulate(times.begin(), times.end(), 0.0);
-    return {qtText(crewText(run.names)), qtText(run.cat),
-            qtText(run.phase),           sectionText(times),
-            shownHundredths(total),      run.bm.empty() ? QString() : TakeRunDialog::tr("yes")};
+    return std::accumulate(times.begin(), times.end(), 0.0);
+}
+
+using Run = const athletedata031*;
+
+Column<Run> textColumn(const QString& title, QString (*text)(const athletedata031&)) {
+    return {.title = title, .show = [text](Run run) { return Cell{text(*run)}; }};
+}
+
+std::vector<Column<Run>> runColumns() {
+    return {
+        textColumn(TakeRunDialog::tr("Athlete"),
+                   [](const athletedata031& run) { return qtText(crewText(run.names)); }),
+        textColumn(TakeRunDialog::tr("Category"),
+                   [](const athletedata031& run) { return qtText(run.cat); }),
+        textColumn(TakeRunDialog::tr("Phase"),
+                   [](const athletedata031& run) { return qtText(run.phase); }),
+        textColumn(TakeRunDialog::tr("Sections"),
+                   [](const athletedata031& run) { return sectionText(run.sectioninfo.times); }),
+        {.title = TakeRunDialog::tr("Total"),
+         .unit = TakeRunDialog::tr("s"),
+         .kind = ColumnKind::Number,
+         .show =
+             [](Run run) {
+                 return Cell{.text = shownHundredths(totalOf(*run)), .number = totalOf(*run)};
+             }},
+        textColumn(TakeRunDialog::tr("Motion"), [](const athletedata031& run) {
+            return run.bm.empty() ? QString() : TakeRunDialog::tr("yes");
+        })};
 }
 
 } // namespace
@@ -47,7 +71,8 @@ TakeRunDialog::TakeRunDialog(splittakerdata031 file, std::filesystem::path folde
       m_file(std::move(file)),
       m_folder(std::move(folder)),
       m_kind(new QComboBox),
-      m_runs(new QTableWidget),
+      m_model(runColumns()),
+      m_runs(new ColumnTable(m_model, "runs")),
       m_hint(new QLabel) {
     setWindowTitle(tr("Take in tests from “%1”").arg(qtText(m_file.info.title)));
     m_kind->setObjectName("kind");
@@ -56,7 +81,11 @@ TakeRunDialog::TakeRunDialog(splittakerdata031 file, std::filesystem::path folde
     m_kind->setCurrentIndex(m_file.info.totalsplits == EightSplits ? 2 : 0);
     m_hint->setWordWrap(true);
     m_hint->setForegroundRole(QPalette::PlaceholderText);
-    fillRuns();
+    std::vector<Run> runs;
+    for (const athletedata031& run : m_file.athletes)
+        runs.push_back(&run);
+    m_model.show(std::move(runs));
+    m_runs->stretch({0});
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Cancel);
     m_take = buttons->addButton(tr("Take in"), QDialogButtonBox::AcceptRole);
     auto* form = new QFormLayout(this);
@@ -66,36 +95,14 @@ TakeRunDialog::TakeRunDialog(splittakerdata031 file, std::filesystem::path folde
     form->addRow(m_hint);
     form->addRow(buttons);
     connect(m_kind, &QComboBox::currentIndexChanged, this, &TakeRunDialog::showChoice);
-    connect(m_runs, &QTableWidget::itemSelectionChanged, this, &TakeRunDialog::showChoice);
-    connect(m_runs, &QTableWidget::itemDoubleClicked, this, &QDialog::accept);
+    connect(m_runs->selectionModel(), &QItemSelectionModel::selectionChanged, this,
+            &TakeRunDialog::showChoice);
+    connect(m_runs, &QTableView::doubleClicked, this, &QDialog::accept);
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     resize(720, 460);
     m_runs->selectRow(0);
     showChoice();
-}
-
-void TakeRunDialog::fillRuns() {
-    const QStringList titles{tr("Athlete"),  tr("Category"),  tr("Phase"),
-                             tr("Sections"), tr("Total (s)"), tr("Motion")};
-    m_runs->setObjectName("runs");
-    m_runs->setColumnCount(static_cast<int>(titles.size()));
-    m_runs->setHorizontalHeaderLabels(titles);
-    m_runs->setRowCount(static_cast<int>(m_file.athletes.size()));
-    for (int row = 0; row < m_runs->rowCount(); ++row) {
-        const QStringList cells = cellsOf(m_file.athletes[static_cast<std::size_t>(row)]);
-        for (int column = 0; column < cells.size(); ++column)
-            m_runs->setItem(row, column, new QTableWidgetItem(cells[column]));
-    }
-    m_runs->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    m_runs->setSelectionBehavior(QAbstractItemView::SelectRows);
-    m_runs->setShowGrid(false);
-    m_runs->verticalHeader()->hide();
-    m_runs->verticalHeader()->setDefaultSectionSize(fontMetrics().height() + theme::Spacing);
-    m_runs->horizontalHeader()->setHighlightSections(false);
-    m_runs->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    m_runs->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
-    m_runs->horizontalHeader()->setSectionResizeMode(0, QHeaderView::Stretch);
 }
 
 TestKind TakeRunDialog::kind() const {
@@ -122,8 +129,8 @@ void TakeRunDialog::showChoice() {
 
 std::vector<TestsDocument::Content> TakeRunDialog::tests() const {
     std::vector<TestsDocument::Content> tests;
-    for (const QModelIndex& index : m_runs->selectionModel()->selectedRows()) {
-        const athletedata031& run = m_file.athletes[static_cast<std::size_t>(index.row())];
+    for (const int place : m_runs->selectedPlaces()) {
+        const athletedata031& run = *m_model.row(place);
         if (kind() == TestKind::Eight)
             tests.emplace_back(eightFromRun(m_file.info, run, m_folder));
         else

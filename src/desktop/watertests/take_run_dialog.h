@@ -1,5 +1,6 @@
 #pragma once
 
+#include "desktop/shell/tables/column_model.h"
 #include "desktop/watertests/tests_document.h"
 #include "splitdata/document.h"
 
@@ -10,9 +11,10 @@
 class QComboBox;
 class QLabel;
 class QPushButton;
-class QTableWidget;
 
 namespace kavela::desktop {
+
+class ColumnTable;
 
 /// Which runs of a split file are tests, and of what kind.
 class TakeRunDialog : public QDialog {
@@ -26,14 +28,14 @@ public:
     [[nodiscard]] std::vector<TestsDocument::Content> tests() const;
 
 private:
-    void fillRuns();
     void showChoice();
     [[nodiscard]] TestKind kind() const;
 
     splittakerdata031 m_file;
     std::filesystem::path m_folder;
     QComboBox* m_kind;
-    QTableWidget* m_runs;
+    ColumnModel<const athletedata031*> m_model;
+    ColumnTable* m_runs;
     QLabel* m_hint;
     QPushButton* m_take;
 };

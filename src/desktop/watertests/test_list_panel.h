@@ -1,19 +1,22 @@
 #pragma once
 
-#include "desktop/watertests/test_list_model.h"
+#include "desktop/shell/tables/column_model.h"
+#include "desktop/watertests/listed_test.h"
 
 #include <QWidget>
 
 #include <optional>
+#include <set>
 
 class QComboBox;
-class QTableView;
 
 namespace kavela::desktop {
 
-class TestFilter;
+class ColumnTable;
+class TestsDocument;
 
-/// The list of the tests, of everybody or of one athlete, of every kind or of one.
+/// The list of the tests, of everybody or of one athlete, of every kind or of one, with a tick at
+/// those that are laid over each other.
 class TestListPanel : public QWidget {
     Q_OBJECT
 
@@ -34,7 +37,7 @@ public:
     /// Moves the choice by rows, within the list.
     void move(int rows);
 
-    [[nodiscard]] QTableView& table() const { return *m_table; }
+    [[nodiscard]] ColumnTable& table() const { return *m_table; }
     [[nodiscard]] QComboBox& athleteFilter() const { return *m_athlete; }
 
 signals:
@@ -44,20 +47,22 @@ signals:
     void listChanged();
 
 private:
+    using Test = TestList::value_type;
+
+    [[nodiscard]] std::vector<Column<Test, TestId>> columns();
     void makeTable();
     void fillAthletes();
     void filter();
-    void keepOneChosen();
-    [[nodiscard]] TestId idAt(const QModelIndex& index) const;
+    void setTicked(const std::vector<TestId>& tests, bool isTicked);
+    [[nodiscard]] std::vector<TestId> idsOf(const std::vector<int>& places) const;
 
     TestsDocument& m_document;
-    TestListModel m_model;
-    TestFilter* m_shown;
+    ColumnModel<Test, TestId> m_model;
     QComboBox* m_athlete;
     QComboBox* m_kind;
-    QTableView* m_table;
-    std::optional<TestId> m_chosen;
-    int m_place = 0; ///< the row to choose where the chosen test is gone
+    ColumnTable* m_table;
+    std::set<TestId> m_ticked;
+    std::optional<TestId> m_kept; ///< stays listed though it may no longer fit
 };
 
 } // namespace kavela::desktop

@@ -1,5 +1,6 @@
 #include "desktop/watertests/tests_actions.h"
 
+#include "desktop/shell/tables/column_table.h"
 #include "desktop/watertests/chart_view.h"
 #include "desktop/watertests/test_list_panel.h"
 #include "desktop/watertests/tests_window.h"
@@ -7,7 +8,6 @@
 #include <QComboBox>
 #include <QMenu>
 #include <QMenuBar>
-#include <QTableView>
 
 namespace kavela::desktop {
 

@@ -91,14 +91,15 @@ void TestsDocument::remove(std::span<const TestId> tests) {
     });
 }
 
-template <class Test>
-void TestsDocument::editAs(TestId id, const QString& what,
-                           const std::function<void(Test&)>& change) {
+void TestsDocument::editTest(TestId id, const QString& what,
+                             const std::function<void(ListedTest&)>& change) {
     const ListedTest* const before = find(id);
-    if (!before || !std::holds_alternative<Test>(before->test))
+    if (!before)
         return;
     auto after = std::make_shared<ListedTest>(*before);
-    change(std::get<Test>(after->test));
+    change(*after);
+    if (auto* const eight = std::get_if<onWaterEight>(&after->test))
+        scoreEightTest(eight->run);
     edit(what, [&](TestList& list) {
         for (auto& entry : list)
             if (entry->id == id)
@@ -106,17 +107,22 @@ void TestsDocument::editAs(TestId id, const QString& what,
     });
 }
 
+template <class Test>
+void TestsDocument::editAs(TestId id, const QString& what,
+                           const std::function<void(Test&)>& change) {
+    const ListedTest* const test = find(id);
+    if (test && std::holds_alternative<Test>(test->test))
+        editTest(id, what, [&](ListedTest& edited) { change(std::get<Test>(edited.test)); });
+}
+
 void TestsDocument::editRun(TestId id, const QString& what,
                             const std::function<void(onWaterTest&)>& change) {
-    editAs<onWaterTest>(id, what, change);
+    editAs(id, what, change);
 }
 
 void TestsDocument::editEight(TestId id, const QString& what,
                               const std::function<void(onWaterEight&)>& change) {
-    editAs<onWaterEight>(id, what, [&](onWaterEight& eight) {
-        change(eight);
-        scoreEightTest(eight.run);
-    });
+    editAs(id, what, change);
 }
 
 EditedFile::Content TestsDocument::contentNow() const {

@@ -34,6 +34,7 @@ public:
     std::vector<TestId> add(const QString& what, std::vector<Content> tests);
     void remove(std::span<const TestId> tests);
     /// One step of the undo stack each; nothing when the test is of another kind or not there.
+    void editTest(TestId id, const QString& what, const std::function<void(ListedTest&)>& change);
     void editRun(TestId id, const QString& what, const std::function<void(onWaterTest&)>& change);
     void editEight(TestId id, const QString& what,
                    const std::function<void(onWaterEight&)>& change);

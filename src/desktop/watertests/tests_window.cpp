@@ -2,13 +2,15 @@
 
 #include "common/error.h"
 #include "common/safe_file.h"
-#include "desktop/race/table_text.h"
+#include "desktop/shell/tables/column_table.h"
+#include "desktop/shell/tables/table_text.h"
 #include "desktop/shell/theme.h"
+#include "desktop/shell/typing.h"
 #include "desktop/shell/window_place.h"
 #include "desktop/shell/workspace.h"
 #include "desktop/watertests/chart_view.h"
 #include "desktop/watertests/entry_table.h"
-#include "desktop/watertests/result_table_model.h"
+#include "desktop/watertests/result_columns.h"
 #include "desktop/watertests/test_list_panel.h"
 #include "desktop/watertests/tests_actions.h"
 #include "desktop/watertests/values_panel.h"
@@ -22,7 +24,6 @@
 #include <QSplitter>
 #include <QTabBar>
 #include <QTabWidget>
-#include <QTableView>
 
 #include <algorithm>
 #include <cmath>
@@ -85,24 +86,21 @@ void TestsWindow::makeParts() {
 }
 
 QWidget* TestsWindow::makeTablePage() {
-    m_table = new ResultTableModel(this);
-    m_tableView = new QTableView;
-    m_tableView->setObjectName("table");
-    m_tableView->setModel(m_table);
-    m_tableView->setSelectionBehavior(QAbstractItemView::SelectRows);
-    m_tableView->setWordWrap(false);
-    m_tableView->verticalHeader()->setDefaultSectionSize(fontMetrics().height() + theme::Spacing);
-    m_tableView->horizontalHeader()->setHighlightSections(false);
-    m_tableView->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
-    return m_tableView;
+    m_results = std::make_unique<ColumnModel<TestResultRow, TestId>>(
+        resultColumns(), [](const TestResultRow& row) { return row.test->id; });
+    m_results->setRowTitles(
+        [this](int place) { return kindText(m_results->row(place).test->kind()); });
+    m_table = new ColumnTable(*m_results, "table");
+    m_table->setShowGrid(true);
+    return m_table;
 }
 
 void TestsWindow::connectParts() {
     connect(m_list, &TestListPanel::chosen, this, &TestsWindow::showTests);
     connect(m_list, &TestListPanel::listChanged, this, &TestsWindow::showTable);
     connect(m_document.get(), &TestsDocument::changed, this, &TestsWindow::showTests);
-    connect(m_tableView, &QTableView::doubleClicked, this, [this](const QModelIndex& index) {
-        m_list->choose(m_list->listed()[static_cast<std::size_t>(index.row())]);
+    connect(m_table, &QTableView::doubleClicked, this, [this](const QModelIndex& index) {
+        m_list->choose(m_results->key(m_table->placeAt(index)));
         showPage(ChartPage);
     });
 }
@@ -157,7 +155,7 @@ void TestsWindow::showTable() {
         for (const auto& test : m_document->value())
             if (test->id == id)
                 listed.push_back(test);
-    m_table->show(listed);
+    m_results->show(resultRows(listed));
 }
 
 void TestsWindow::tell(const QString& title, const QString& text) {
@@ -232,15 +230,16 @@ void TestsWindow::moveBy(int rows) {
 
 /// Every test that the list shows, in its order.
 void TestsWindow::copyTable() {
-    QList<int> rows(m_table->rowCount());
+    const QAbstractItemModel& shown = *m_table->model();
+    QList<int> rows(shown.rowCount());
     std::iota(rows.begin(), rows.end(), 0);
-    QList<int> columns(m_table->columnCount());
+    QList<int> columns(shown.columnCount());
     std::iota(columns.begin(), columns.end(), 0);
-    QApplication::clipboard()->setText(tabSeparated(*m_table, rows, columns));
+    QApplication::clipboard()->setText(tableAsText(shown, rows, columns, clipboardTable()));
 }
 
 void TestsWindow::exportTable(const QString& path) const {
-    writeFileSafely(path.toStdString(), m_table->csv());
+    writeFileSafely(path.toStdString(), resultCsv(m_results->rows()));
 }
 
 void TestsWindow::askAndExport() {
@@ -259,11 +258,6 @@ void TestsWindow::askAndExport() {
         workspace().log()(error.what());
         workspace().showAlert({"Failed to create file", error.reason()}, this);
     }
-}
-
-bool TestsWindow::takePending() {
-    m_values->commit();
-    return true;
 }
 
 } // namespace kavela::desktop

@@ -1,17 +1,17 @@
 #pragma once
 
 #include "desktop/shell/tool_window.h"
+#include "desktop/watertests/result_columns.h"
 #include "desktop/watertests/tests_document.h"
 
 #include <memory>
 
-class QTableView;
 class QTabWidget;
 
 namespace kavela::desktop {
 
 class ChartView;
-class ResultTableModel;
+class ColumnTable;
 class TestListPanel;
 class ValuesPanel;
 
@@ -56,7 +56,6 @@ public:
 
 protected:
     void takeFiles(const QStringList& paths) override;
-    [[nodiscard]] bool takePending() override;
 
 private:
     TestsWindow(Workspace& workspace, std::unique_ptr<TestsDocument> document);
@@ -77,8 +76,8 @@ private:
     QTabWidget* m_pages = nullptr;
     ChartView* m_charts = nullptr;
     ValuesPanel* m_values = nullptr;
-    ResultTableModel* m_table = nullptr;
-    QTableView* m_tableView = nullptr;
+    std::unique_ptr<ColumnModel<TestResultRow, TestId>> m_results;
+    ColumnTable* m_table = nullptr;
 };
 
 } // namespace kavela::desktop

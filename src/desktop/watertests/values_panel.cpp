@@ -1,17 +1,15 @@
 #include "desktop/watertests/values_panel.h"
 
 #include "desktop/shell/theme.h"
+#include "desktop/shell/typing.h"
 #include "desktop/watertests/eight_form.h"
 #include "desktop/watertests/entry_table.h"
 #include "desktop/watertests/facts_form.h"
 #include "desktop/watertests/section_form.h"
 #include "desktop/watertests/tests_document.h"
-#include "planning/test_entry.h"
 #include "planning/test_oddities.h"
 
-#include <QApplication>
 #include <QLabel>
-#include <QPointer>
 #include <QScrollArea>
 #include <QStackedWidget>
 #include <QVBoxLayout>
@@ -33,7 +31,10 @@ QString oddityText(const ListedTest& test) {
 ValuesPanel::ValuesPanel(TestsDocument& document, QWidget* parent)
     : QWidget(parent),
       m_document(document),
-      m_facts(new FactsForm),
+      m_facts(new FactsForm([this](const QString& what, const auto& change) {
+          if (m_id)
+              m_document.editTest(*m_id, what, change);
+      })),
       m_oddities(new QLabel),
       m_sections(new SectionForm),
       m_eight(new EightForm),
@@ -63,8 +64,7 @@ ValuesPanel::ValuesPanel(TestsDocument& document, QWidget* parent)
     column->setContentsMargins(0, 0, 0, 0);
     column->addWidget(scroll, 1);
     column->addWidget(m_nothing, 1);
-    connectFacts();
-    connect(&m_document, &TestsDocument::changed, this, &ValuesPanel::reload);
+    connect(&m_document, &TestsDocument::changed, this, [this] { showTest(false); });
     connect(m_sections, &SectionForm::edited, this,
             [this](const QString& what, const auto& change) {
                 if (m_id)
@@ -74,77 +74,31 @@ ValuesPanel::ValuesPanel(TestsDocument& document, QWidget* parent)
         if (m_id)
             m_document.editEight(*m_id, what, change);
     });
-    reload();
-}
-
-void ValuesPanel::connectFacts() {
-    connect(m_facts, &FactsForm::athleteEntered, this, [this](const QString& name) {
-        const std::string text = name.toStdString();
-        editFacts(
-            tr("athlete"), [=](onWaterTest& test) { test.test.athlete = text; },
-            [=](onWaterEight& eight) { eight.run.athlete = text; });
-    });
-    connect(m_facts, &FactsForm::dateEntered, this, [this](ReferenceDate date) {
-        editFacts(
-            tr("date"), [=](onWaterTest& test) { moveTo(test.test, date); },
-            [=](onWaterEight& eight) { moveTo(eight, date); });
-    });
-    connect(m_facts, &FactsForm::locationEntered, this, [this](const QString& location) {
-        const std::string text = location.toStdString();
-        editFacts(
-            tr("location"), [=](onWaterTest& test) { test.test.location = text; },
-            [=](onWaterEight& eight) { eight.location = text; });
-    });
-}
-
-void ValuesPanel::editFacts(const QString& what, const std::function<void(onWaterTest&)>& changeRun,
-                            const std::function<void(onWaterEight&)>& changeEight) {
-    const ListedTest* const test = m_id ? m_document.find(*m_id) : nullptr;
-    if (!test)
-        return;
-    if (test->run())
-        m_document.editRun(*m_id, what, changeRun);
-    else
-        m_document.editEight(*m_id, what, changeEight);
-}
-
-/// Fields take what was typed when they lose the focus; the focus comes back to a field, or to the
-/// table of a cell.
-void ValuesPanel::commit() {
-    const QPointer<QWidget> field = QApplication::focusWidget();
-    if (!field || !isAncestorOf(field))
-        return;
-    QPointer<QWidget> back = field;
-    for (QWidget* part = field; part != this; part = part->parentWidget())
-        if (qobject_cast<EntryTable*>(part))
-            back = part;
-    field->clearFocus();
-    if (back && back->isVisible())
-        back->setFocus();
+    showTest(true);
 }
 
 void ValuesPanel::show(std::optional<TestId> test) {
     if (test == m_id)
         return;
-    commit();
+    (void)takeTyping(*this);
     m_id = test;
-    reload();
+    showTest(true);
 }
 
-void ValuesPanel::reload() {
+void ValuesPanel::showTest(bool isOther) {
     const ListedTest* const test = m_id ? m_document.find(*m_id) : nullptr;
     m_scroll->setVisible(test != nullptr);
     m_nothing->setVisible(test == nullptr);
     if (!test)
         return;
-    m_facts->show(*test, m_document.athletes());
+    m_facts->show(*test, m_document.athletes(), isOther);
     const QString oddities = oddityText(*test);
     m_oddities->setText(oddities);
     m_oddities->setVisible(!oddities.isEmpty());
     if (test->run())
-        m_sections->show(*test->run());
+        m_sections->show(*test->run(), isOther);
     else
-        m_eight->show(*test->eight());
+        m_eight->show(*test->eight(), isOther);
     m_forms->setCurrentWidget(test->run() ? static_cast<QWidget*>(m_sections) : m_eight);
 }
 

@@ -26,16 +26,10 @@ public:
 
     /// Shows another test; what was being typed into the one before is taken first.
     void show(std::optional<TestId> test);
-    /// Takes what is being typed.
-    void commit();
     void focusAthlete();
 
 private:
-    void connectFacts();
-    void reload();
-    /// Edits what lap test, sprint and eight test have in common.
-    void editFacts(const QString& what, const std::function<void(onWaterTest&)>& changeRun,
-                   const std::function<void(onWaterEight&)>& changeEight);
+    void showTest(bool isOther);
 
     TestsDocument& m_document;
     std::optional<TestId> m_id;

@@ -1,7 +1,7 @@
 #include "desktop/cross/results/result_table.h"
 
 #include "desktop/cross/heats/boat_looks.h"
-#include "desktop/race/table_text.h"
+#include "desktop/shell/tables/table_text.h"
 #include "desktop/taking/notes/note_page.h"
 
 #include <QHeaderView>
@@ -77,7 +77,7 @@ QString copiedText(const QTableWidget& table, bool onlySelected) {
     }
     QList<int> columns(table.columnCount());
     std::iota(columns.begin(), columns.end(), 0);
-    return tabSeparated(*table.model(), rows, columns);
+    return tableAsText(*table.model(), rows, columns, clipboardTable());
 }
 
 } // namespace kavela::desktop

@@ -4,12 +4,15 @@
 #include "common/text_file.h"
 #include "desktop/charts/series_chart.h"
 #include "desktop/planning/body/measure_charts.h"
-#include "desktop/planning/body/measure_table.h"
+#include "desktop/planning/body/measures.h"
 #include "desktop/planning/body/variability_dialog.h"
 #include "desktop/shell/dropped_files.h"
+#include "desktop/shell/tables/column_table.h"
+#include "desktop/shell/tables/table_panel.h"
 #include "desktop/shell/theme.h"
 #include "planning/calendar_day.h"
 
+#include <QAction>
 #include <QComboBox>
 #include <QDragEnterEvent>
 #include <QDropEvent>
@@ -30,6 +33,15 @@ namespace kavela::desktop {
 namespace {
 
 constexpr int DefaultIndex = 2; ///< rMSSD, which trainers mostly follow
+constexpr int DateColumn = 0;   ///< the values follow
+
+/// The indices of variability in the order of their columns.
+std::vector<Measure<variabilitydataplanning_v2>> variabilityIndices() {
+    using Record = variabilitydataplanning_v2;
+    return {{&Record::AVNN, "AVNN", "ms", 3000},   {&Record::SDNN, "SDNN", "ms", 1000},
+            {&Record::rMSSD, "rMSSD", "ms", 1000}, {&Record::pNN50, "pNN50", "%", 100},
+            {&Record::LF, "LF", "ms²", 1e6},       {&Record::HF, "HF", "ms²", 1e6}};
+}
 
 bool isList(const QString& path) {
     return QStringList{"csv", "txt", "tsv"}.contains(QFileInfo(path).suffix().toLower());
@@ -39,14 +51,22 @@ bool isList(const QString& path) {
 
 BodyPanel::BodyPanel(PlanningDocument& document, Clock clock, QWidget* parent)
     : SeasonPanel(document, parent), m_clock(std::move(clock)), m_tabs(new QTabWidget) {
-    m_parts[Body].measures = bodyMeasures();
-    m_parts[Resting].measures = restingMeasures();
-    m_parts[Variability].measures = variabilityMeasures();
+    using Weight = healthdataplanning_v1;
+    using Rate = restingdataplanning_v1;
     m_tabs->setDocumentMode(true);
     m_tabs->tabBar()->setDrawBase(false);
-    addPart(Body, tr("Body"), tr("body data"), tr("Add weight"));
-    addPart(Resting, tr("Resting heart rate"), tr("heart rate"), tr("Add heart rate"));
-    addPart(Variability, tr("Heart-rate variability"), tr("variability"), tr("Add measurement"));
+    addPart<Weight>(
+        Body, {"body", tr("Body"), tr("body data"), tr("Add weight")},
+        [](auto& season) -> auto& { return season.healthdata; },
+        {{&Weight::weight, tr("Weight"), "kg", 300}, {&Weight::fatper, tr("Body fat"), "%", 100}});
+    addPart<Rate>(Resting,
+                  {"resting", tr("Resting heart rate"), tr("heart rate"), tr("Add heart rate")},
+                  [](auto& season) -> auto& { return season.heartdata.resting; },
+                  {{&Rate::rhr, tr("Resting heart rate"), "bpm", 250}});
+    addPart<variabilitydataplanning_v2>(
+        Variability,
+        {"variability", tr("Heart-rate variability"), tr("variability"), tr("Add measurement")},
+        [](auto& season) -> auto& { return season.heartdata.variability; }, variabilityIndices());
     makeImport();
     auto* const column = new QVBoxLayout(this);
     column->setContentsMargins(0, theme::Spacing, 0, 0);
@@ -54,11 +74,55 @@ BodyPanel::BodyPanel(PlanningDocument& document, Clock clock, QWidget* parent)
     setAcceptDrops(true);
 }
 
-void BodyPanel::addPart(Section section, const QString& title, const QString& what,
-                        const QString& addText) {
+template <class Record, class List>
+void BodyPanel::addPart(Section section, const PartTexts& texts, List list,
+                        const std::vector<Measure<Record>>& measures) {
+    const auto set = [this, list](const QString& what, std::size_t place, const auto& change) {
+        edit(what, [&](yearsplannings_v6& season) {
+            if (place < list(season).size())
+                change(list(season)[place]);
+        });
+    };
+    typename ColumnModel<Record>::Columns columns{
+        dateColumn<Record>([set](std::size_t place, ReferenceDate date) {
+            set(tr("date"), place, [date](Record& record) { record.date = date; });
+        })};
+    for (const Measure<Record>& measure : measures)
+        columns.push_back(
+            measureColumn(measure, [set, texts, measure](std::size_t place, double value) {
+                set(texts.what, place, [&](Record& record) { record.*measure.member = value; });
+            }));
+    auto* const model = new ColumnModel<Record>(std::move(columns), {}, this);
     Part& part = m_parts[section];
-    part.what = what;
-    part.table = new MeasureTable(part.measures->columns(), addText);
+    part.show = [this, list, model] {
+        model->show(season() ? list(*season()) : std::vector<Record>(), isOtherSeason());
+    };
+    part.dateAt = [model](int place) { return model->row(place).date; };
+    layOut(section, texts, new ColumnTable(*model, texts.name));
+    QAction& add = part.table->setAdd(texts.add, [this, section, list, texts] {
+        std::size_t place = 0;
+        edit(tr("new %1").arg(texts.what), [&](yearsplannings_v6& season) {
+            place = insertByDate(list(season), Record{.date = today()});
+        });
+        m_parts[section].table->edit(static_cast<int>(place), 1);
+    });
+    QAction& remove =
+        part.table->setRemove(tr("Remove"), [this, list, texts](const std::vector<int>& places) {
+            edit(tr("removal of %1").arg(texts.what),
+                 [&](yearsplannings_v6& season) { removePlaces(list(season), places); });
+        });
+    part.panel->addButton(buttonFor(add, texts.add, "add"));
+    part.panel->addButton(buttonFor(remove, tr("Remove"), "remove"));
+    part.add = &add;
+}
+
+void BodyPanel::layOut(Section section, const PartTexts& texts, ColumnTable* table) {
+    Part& part = m_parts[section];
+    part.table = table;
+    table->sortBy(DateColumn, Qt::DescendingOrder); // the latest first
+    table->keepOneChosen();
+    table->stretchAll();
+    part.panel = new TablePanel(table);
     part.chart = new SeriesChart;
     part.words = new QLabel;
     part.words->setObjectName("standing");
@@ -73,45 +137,26 @@ void BodyPanel::addPart(Section section, const QString& title, const QString& wh
     column->addWidget(part.chart, 1);
     auto* const halves = new QSplitter;
     halves->setContentsMargins(0, theme::Spacing, 0, 0);
-    halves->addWidget(part.table);
+    halves->addWidget(part.panel);
     halves->addWidget(beside);
     halves->setStretchFactor(1, 1);
     halves->setChildrenCollapsible(false);
     halves->setSizes(section == Variability ? QList{590, 460} : QList{330, 720});
-    m_tabs->addTab(halves, title);
-    connectPart(section);
+    m_tabs->addTab(halves, texts.title);
+    connect(part.chart, &SeriesChart::pointActivated, this,
+            [this, section](int series, int index) { choosePoint(section, series, index); });
 }
 
-void BodyPanel::connectPart(Section section) {
+/// The measurement of a day.
+void BodyPanel::choosePoint(Section section, int series, int index) {
     const Part& part = m_parts[section];
-    connect(part.table, &MeasureTable::addAsked, this,
-            [this, section] { addMeasurement(section); });
-    connect(part.table, &MeasureTable::removalAsked, this,
-            [this, &part](const std::vector<std::size_t>& places) {
-                edit(tr("removal of %1").arg(part.what),
-                     [&](yearsplannings_v6& season) { part.measures->remove(season, places); });
-            });
-    MeasureModel* const model = &part.table->model();
-    connect(model, &MeasureModel::dateTyped, this,
-            [this, &part](std::size_t place, ReferenceDate date) {
-                edit(tr("date"), [&](yearsplannings_v6& season) {
-                    part.measures->setDate(season, place, date);
-                });
-            });
-    connect(model, &MeasureModel::valueTyped, this,
-            [this, &part](std::size_t place, std::size_t column, double value) {
-                edit(part.what, [&](yearsplannings_v6& season) {
-                    part.measures->setValue(season, place, column, value);
-                });
-            });
-    connect(part.chart, &SeriesChart::pointActivated, this, [this, section](int series, int index) {
-        const auto& points = m_parts[section].chart->content().series;
-        const double x =
-            points[static_cast<std::size_t>(series)].points[static_cast<std::size_t>(index)].x();
-        for (const MeasureRow& row : m_parts[section].measures->rows(*this->season()))
-            if (dayOfMoment(row.date) == dayOfMoment({x}))
-                m_parts[section].table->choose(row.place);
-    });
+    const double x = part.chart->content()
+                         .series[static_cast<std::size_t>(series)]
+                         .points[static_cast<std::size_t>(index)]
+                         .x();
+    for (const int place : part.table->shownPlaces())
+        if (dayOfMoment(part.dateAt(place)) == dayOfMoment({x}))
+            part.table->choose(place, DateColumn);
 }
 
 void BodyPanel::makeImport() {
@@ -121,12 +166,12 @@ void BodyPanel::makeImport() {
     import->setToolTip(tr("A list with a header: Date and one or more of AVNN, SDNN, rMSSD, pNN50, "
                           "LF, HF. It can also be dropped here."));
     connect(import, &QPushButton::clicked, this, &BodyPanel::askForImport);
-    part.table->addButton(import);
+    part.panel->addButton(import);
     m_index = new QComboBox;
     m_index->setObjectName("index");
     m_index->setAccessibleName(tr("Index of the chart"));
-    for (const MeasureColumn& column : part.measures->columns())
-        m_index->addItem(column.title);
+    for (const auto& index : variabilityIndices())
+        m_index->addItem(index.title);
     m_index->setCurrentIndex(DefaultIndex);
     auto* const row = new QHBoxLayout;
     row->setSpacing(theme::Spacing);
@@ -170,8 +215,9 @@ QString BodyPanel::emptyText(Section section) const {
 void BodyPanel::refresh() {
     for (const Section section : {Body, Resting, Variability}) {
         Part& part = m_parts[section];
-        part.table->setEmptyText(emptyText(section), season() != nullptr);
-        part.table->show(season() ? part.measures->rows(*season()) : std::vector<MeasureRow>());
+        part.table->setEmptyText(emptyText(section));
+        part.add->setEnabled(season() != nullptr);
+        part.show();
     }
     showCharts(season() ? *season() : yearsplannings_v6());
 }
@@ -193,9 +239,9 @@ void BodyPanel::showCharts(const yearsplannings_v6& shown) {
     show(Resting, std::move(heart), standingText(resting, tr("bpm")));
 
     const auto index = static_cast<std::size_t>(std::max(m_index->currentIndex(), 0));
-    const MeasureColumn column = m_parts[Variability].measures->columns()[index];
+    const auto column = variabilityIndices()[index];
     const std::vector<TrendDay> trend =
-        heartTrend(variabilitySeries(shown.heartdata.variability, variabilityIndices()[index]));
+        heartTrend(variabilitySeries(shown.heartdata.variability, column.member));
     ChartContent variability = trendChart(trend, column.title, column.unit);
     variability.emptyText = tr("No %1 of this season. Add measurements, import a list or choose "
                                "another index.")
@@ -203,16 +249,9 @@ void BodyPanel::showCharts(const yearsplannings_v6& shown) {
     show(Variability, std::move(variability), standingText(trend, column.unit));
 }
 
-void BodyPanel::addMeasurement(Section section) {
-    if (!season())
-        return;
-    const auto today = dayOfMoment(m_clock());
-    const ReferenceDate date = today ? midnightOf(*today) : ReferenceDate();
-    Part& part = m_parts[section];
-    std::size_t place = 0;
-    edit(tr("new %1").arg(part.what),
-         [&](yearsplannings_v6& season) { place = part.measures->add(season, date); });
-    part.table->edit(place);
+ReferenceDate BodyPanel::today() const {
+    const auto day = dayOfMoment(m_clock());
+    return day ? midnightOf(*day) : ReferenceDate();
 }
 
 void BodyPanel::askForImport() {

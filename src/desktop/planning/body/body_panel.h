@@ -1,18 +1,21 @@
 #pragma once
 
-#include "desktop/planning/body/measures.h"
+#include "desktop/planning/body/measure_columns.h"
 #include "desktop/planning/season_panel.h"
 
-#include <memory>
+#include <functional>
+#include <vector>
 
+class QAction;
 class QComboBox;
 class QLabel;
 class QTabWidget;
 
 namespace kavela::desktop {
 
-class MeasureTable;
+class ColumnTable;
 class SeriesChart;
+class TablePanel;
 
 /// Body, resting heart rate and heart-rate variability of a season: tables to type into beside
 /// their charts.
@@ -26,7 +29,7 @@ public:
     enum Section { Body, Resting, Variability };
     void showSection(Section section);
     [[nodiscard]] QTabWidget& sections() const { return *m_tabs; }
-    [[nodiscard]] MeasureTable& table(Section section) const { return *m_parts[section].table; }
+    [[nodiscard]] ColumnTable& table(Section section) const { return *m_parts[section].table; }
     [[nodiscard]] SeriesChart& chart(Section section) const { return *m_parts[section].chart; }
     /// Chooses the index of variability that the chart shows, by its column.
     void chooseIndex(int index);
@@ -44,18 +47,29 @@ protected:
 
 private:
     struct Part {
-        std::unique_ptr<Measures> measures;
-        MeasureTable* table = nullptr;
+        std::function<void()> show;
+        std::function<ReferenceDate(int place)> dateAt;
+        ColumnTable* table = nullptr;
+        TablePanel* panel = nullptr;
+        QAction* add = nullptr;
         SeriesChart* chart = nullptr;
         QLabel* words = nullptr;
+    };
+    struct PartTexts {
+        const char* name; ///< of the table
+        QString title;
         QString what; ///< a measurement, as a step of the undo stack
+        QString add;
     };
 
-    void addPart(Section section, const QString& title, const QString& what,
-                 const QString& addText);
-    void connectPart(Section section);
+    /// `list` gives the list of measurements of a season.
+    template <class Record, class List>
+    void addPart(Section section, const PartTexts& texts, List list,
+                 const std::vector<Measure<Record>>& measures);
+    void layOut(Section section, const PartTexts& texts, ColumnTable* table);
+    void choosePoint(Section section, int series, int index);
     void makeImport();
-    void addMeasurement(Section section);
+    [[nodiscard]] ReferenceDate today() const;
     void showCharts(const yearsplannings_v6& shown);
     [[nodiscard]] QString emptyText(Section section) const;
 

@@ -18,6 +18,21 @@ QString tr(const char* text) {
     return QCoreApplication::translate("TypedMeasures", text);
 }
 
+QString oddityOf(ReferenceDate date) {
+    return dayOfMoment(date) ? QString()
+                             : tr("This moment is in no calendar: %1 seconds from 2001-01-01. It "
+                                  "stays as it is until another date is typed.")
+                                   .arg(QString::fromStdString(shortestText(date.seconds)));
+}
+
+QString oddityOf(double value, double most) {
+    if (value >= 0 && value <= most)
+        return {};
+    return (value < 0 ? tr("A value below 0 cannot be measured.")
+                      : tr("More than %1 was hardly measured.").arg(measureEdited(most))) +
+           ' ' + tr("It stays as it is until another one is typed.");
+}
+
 } // namespace
 
 ReferenceDate typedDate(const QString& text, ReferenceDate before) {
@@ -45,23 +60,21 @@ QString measureEdited(double value) {
     return value == 0 ? QString() : shownNumber(value);
 }
 
-QString oddityOf(ReferenceDate date) {
-    return dayOfMoment(date) ? QString()
-                             : tr("This moment is in no calendar: %1 seconds from 2001-01-01. It "
-                                  "stays as it is until another date is typed.")
-                                   .arg(QString::fromStdString(shortestText(date.seconds)));
+Cell dateCell(ReferenceDate date) {
+    const QString text = QString::fromStdString(dayText(date));
+    return marked({.text = text, .sortValue = date.seconds, .typed = text}, oddityOf(date));
 }
 
-QString oddityOf(double value, double most) {
-    if (value >= 0 && value <= most)
-        return {};
-    return (value < 0 ? tr("A value below 0 cannot be measured.")
-                      : tr("More than %1 was hardly measured.").arg(measureEdited(most))) +
-           ' ' + tr("It stays as it is until another one is typed.");
+Cell measureCell(double value, double most) {
+    return marked({.text = measureShown(value), .number = value, .typed = measureEdited(value)},
+                  oddityOf(value, most));
 }
 
-QString marked(const QString& text) {
-    return QStringLiteral("⚠ ") + text;
+Cell marked(Cell cell, const QString& oddity) {
+    if (!oddity.isEmpty())
+        cell.text.prepend(QStringLiteral("⚠ "));
+    cell.tip = oddity;
+    return cell;
 }
 
 } // namespace kavela::desktop

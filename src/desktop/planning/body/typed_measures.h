@@ -1,6 +1,7 @@
 #pragma once
 
-#include "common/reference_date.h"
+#include "desktop/shell/tables/row_model.h"
+#include "planning/planning_records.h"
 
 #include <QString>
 
@@ -22,10 +23,10 @@ namespace kavela::desktop {
 /// The same with every digit, as it is edited.
 [[nodiscard]] QString measureEdited(double value);
 
-/// What is odd about a date or a value from a file; empty for nothing.
-[[nodiscard]] QString oddityOf(ReferenceDate date);
-[[nodiscard]] QString oddityOf(double value, double most);
-/// A text with the warning glyph in front of it.
-[[nodiscard]] QString marked(const QString& text);
+/// The cells of a date and of a value. What is odd in a file is marked, says why, and stays.
+[[nodiscard]] Cell dateCell(ReferenceDate date);
+[[nodiscard]] Cell measureCell(double value, double most);
+/// The same cell, marked as odd for a reason; unchanged for none.
+[[nodiscard]] Cell marked(Cell cell, const QString& oddity);
 
 } // namespace kavela::desktop

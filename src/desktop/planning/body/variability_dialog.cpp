@@ -1,12 +1,12 @@
 #include "desktop/planning/body/variability_dialog.h"
 
+#include "desktop/shell/tables/column_model.h"
+#include "desktop/shell/tables/column_table.h"
 #include "desktop/shell/theme.h"
 
 #include <QDialogButtonBox>
-#include <QHeaderView>
 #include <QLabel>
 #include <QPushButton>
-#include <QTableWidget>
 #include <QVBoxLayout>
 
 namespace kavela::desktop {
@@ -74,28 +74,22 @@ VariabilityDialog::VariabilityDialog(const QString& fileName, const VariabilityL
     resize(list.skipped.empty() ? QSize(420, 160) : QSize(620, 380));
 }
 
-QTableWidget* VariabilityDialog::makeSkippedLines(const std::vector<SkippedMeasurement>& skipped) {
-    auto* const lines = new QTableWidget(static_cast<int>(skipped.size()), 2);
-    lines->setObjectName("lines");
-    lines->setHorizontalHeaderLabels({tr("Line"), tr("Reason")});
-    lines->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    lines->setSelectionBehavior(QAbstractItemView::SelectRows);
-    lines->setShowGrid(false);
-    lines->setTabKeyNavigation(false);
-    lines->verticalHeader()->hide();
-    lines->verticalHeader()->setDefaultSectionSize(lines->fontMetrics().height() + theme::Spacing);
-    lines->setColumnWidth(0, 8 * theme::Spacing);
-    QHeaderView* const header = lines->horizontalHeader();
-    header->setHighlightSections(false);
-    header->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    header->setStretchLastSection(true);
-    for (int row = 0; row < lines->rowCount(); ++row) {
-        const SkippedMeasurement& line = skipped[static_cast<std::size_t>(row)];
-        const QString reason = QString::fromStdString(line.reason);
-        lines->setItem(row, 0, new QTableWidgetItem(QString::number(line.line)));
-        lines->setItem(row, 1, new QTableWidgetItem(reason));
-        lines->item(row, 1)->setToolTip(reason);
-    }
+QWidget* VariabilityDialog::makeSkippedLines(const std::vector<SkippedMeasurement>& skipped) {
+    using Line = SkippedMeasurement;
+    auto* const model = new ColumnModel<Line>(
+        {numberColumn<Line>(
+             tr("Line"), [](const Line& line) { return static_cast<double>(line.line); },
+             [](double number) { return QString::number(number); }),
+         {.title = tr("Reason"),
+          .show =
+              [](const Line& line) {
+                  const QString reason = QString::fromStdString(line.reason);
+                  return Cell{.text = reason, .tip = reason};
+              }}},
+        {}, this);
+    model->show(skipped);
+    auto* const lines = new ColumnTable(*model, "lines");
+    lines->stretch({1});
     return lines;
 }
 

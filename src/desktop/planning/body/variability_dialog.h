@@ -4,9 +4,6 @@
 
 #include <QDialog>
 
-class QPushButton;
-class QTableWidget;
-
 namespace kavela::desktop {
 
 /// What a list of variability measurements would bring, before anything is taken in: how many are
@@ -20,8 +17,7 @@ public:
                       QWidget* parent);
 
 private:
-    [[nodiscard]] static QTableWidget*
-    makeSkippedLines(const std::vector<SkippedMeasurement>& skipped);
+    [[nodiscard]] QWidget* makeSkippedLines(const std::vector<SkippedMeasurement>& skipped);
 };
 
 } // namespace kavela::desktop

@@ -1,27 +1,27 @@
 #include "desktop/planning/gym/exercise_table.h"
 
-#include "common/number_text.h"
 #include "desktop/planning/body/typed_measures.h"
-#include "desktop/planning/gym/exercise_delegate.h"
-#include "desktop/shell/edit_order.h"
+#include "desktop/shell/tables/column_table.h"
+#include "desktop/shell/tables/table_panel.h"
 #include "desktop/shell/theme.h"
 #include "planning/gym_maximum.h"
 
 #include <QAction>
-#include <QHeaderView>
 #include <QLabel>
 #include <QPushButton>
-#include <QStackedWidget>
-#include <QTableView>
 #include <QVBoxLayout>
 
-#include <algorithm>
 #include <cmath>
 #include <utility>
 
 namespace kavela::desktop {
 
 namespace {
+
+constexpr double MostSets = 999;
+constexpr double MostRepetitions = 9999;
+constexpr double MostWeight = 1000;  ///< kilograms
+constexpr double MostMaximum = 3000; ///< what the estimate can make of them
 
 QLabel* makeLabel(const char* name) {
     auto* const label = new QLabel;
@@ -37,99 +37,142 @@ QString estimateText(double kilograms) {
                                                       : QStringLiteral("–");
 }
 
+/// The estimate that can be taken for a row: it is there, and the maximum is another.
+std::optional<double> offered(const GymRow& row) {
+    const auto estimate = gymEstimate(row);
+    return estimate && *estimate != 0 && estimate != row.maxweight ? estimate : std::nullopt;
+}
+
+Cell missing() {
+    return marked({}, ExerciseTable::tr("The file has no entry here. Typing makes one."));
+}
+
+Cell estimateCell(const GymRow& row) {
+    const auto estimate = offered(row);
+    if (!estimate)
+        return {};
+    return {.text = QStringLiteral("← ") + measureShown(*estimate),
+            .number = estimate,
+            .tip = ExerciseTable::tr("The estimate from repetitions and weight. A click or "
+                                     "Ctrl+Enter takes it as the maximum.")};
+}
+
+/// A column of numbers; `set` sets the entry of a session at a place.
+template <class Value>
+Column<GymRow> liftColumn(const QString& title, const QString& unit,
+                          std::optional<Value> GymRow::*member, double most,
+                          std::function<void(std::size_t, const GymRow&, Value)> set) {
+    return {.title = title,
+            .unit = unit,
+            .kind = ColumnKind::Number,
+            .show =
+                [member, most](const GymRow& row) {
+                    return row.*member ? measureCell(static_cast<double>(*(row.*member)), most)
+                                       : missing();
+                },
+            .take =
+                [most, set](const std::size_t& at, const GymRow& row, const QString& typed) {
+                    if constexpr (std::is_same_v<Value, double>)
+                        set(at, row, typedMeasure(typed, most));
+                    else
+                        set(at, row, typedCount(typed, static_cast<std::int64_t>(most)));
+                }};
+}
+
 } // namespace
 
 ExerciseTable::ExerciseTable(const DiagnosticLog& log, QWidget* parent)
     : QWidget(parent),
-      m_model(log),
-      m_view(new EditOrder<QTableView>),
-      m_delegate(new ExerciseDelegate(*m_view)),
-      m_empty(new QLabel),
-      m_stack(new QStackedWidget),
-      m_add(new QPushButton(tr("Add exercise"))),
-      m_remove(new QPushButton(tr("Remove"))),
-      m_take(new QPushButton(tr("Take estimate"))),
+      m_log(log),
+      m_model(columns()),
+      m_table(new ColumnTable(m_model, "exercises")),
       m_estimates(makeLabel("estimates")),
       m_totals(makeLabel("totals")) {
-    m_empty->setAlignment(Qt::AlignCenter);
-    m_empty->setWordWrap(true);
-    m_empty->setMargin(theme::LargeSpacing);
-    m_empty->setForegroundRole(QPalette::PlaceholderText);
     m_totals->setForegroundRole(QPalette::PlaceholderText);
-    makeView();
-    m_stack->addWidget(m_view);
-    m_stack->addWidget(m_empty);
     auto* const column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(theme::Spacing);
-    makeButtons();
-    column->addWidget(m_stack, 1);
+    column->addWidget(makeTable(), 1);
     column->addWidget(m_estimates);
     column->addWidget(m_totals);
-    connect(&m_model, &ExerciseModel::edited, this, &ExerciseTable::edited);
 }
 
-void ExerciseTable::makeView() {
-    m_view->setObjectName("exercises");
-    m_view->setModel(&m_model);
-    connect(&m_model, &ExerciseModel::refused, m_delegate, &CellDelegate::refuse);
-    m_view->setSelectionMode(QAbstractItemView::SingleSelection);
-    m_view->setShowGrid(false);
-    m_view->setAlternatingRowColors(true);
-    m_view->setWordWrap(false);
-    m_view->setEditTriggers(QAbstractItemView::DoubleClicked | QAbstractItemView::EditKeyPressed |
-                            QAbstractItemView::AnyKeyPressed);
-    m_view->verticalHeader()->hide();
-    m_view->verticalHeader()->setDefaultSectionSize(fontMetrics().height() + theme::Spacing);
-    QHeaderView* const header = m_view->horizontalHeader();
-    header->setHighlightSections(false);
-    for (int column = 0; column < ExerciseModel::Columns; ++column) {
-        const QString title =
-            m_model.headerData(column, Qt::Horizontal, Qt::DisplayRole).toString();
-        header->resizeSection(column, fontMetrics().horizontalAdvance(title) + 3 * theme::Spacing);
-    }
-    header->setSectionResizeMode(ExerciseModel::ExerciseColumn, QHeaderView::Stretch);
-    connect(m_view->selectionModel(), &QItemSelectionModel::currentChanged, this,
-            &ExerciseTable::showRow);
-    connect(m_view, &QTableView::clicked, this, [this](const QModelIndex& index) {
-        if (index.column() == ExerciseModel::EstimateColumn)
+std::vector<Column<GymRow>> ExerciseTable::columns() {
+    using Session = gymdataplanning_v1;
+    return {
+        {.title = tr("Exercise"),
+         .show =
+             [](const GymRow& row) {
+                 return row.exercise ? Cell{QString::fromStdString(*row.exercise)} : missing();
+             },
+         .take =
+             [this](const std::size_t& at, const GymRow&, const QString& typed) {
+                 emit edited(tr("exercise"), [&](Session& session) {
+                     setGymEntry(session.exercise, at, typed.toStdString());
+                 });
+             },
+         .proposals = [this](const GymRow&) { return m_names; }},
+        liftColumn<std::int64_t>(tr("Sets"), {}, &GymRow::sets, MostSets,
+                                 [this](std::size_t at, const GymRow&, std::int64_t sets) {
+                                     emit edited(tr("sets"), [&](Session& session) {
+                                         setGymEntry(session.sets, at, sets);
+                                     });
+                                 }),
+        liftColumn<std::int64_t>(
+            tr("Repetitions"), {}, &GymRow::rep, MostRepetitions,
+            [this](std::size_t at, const GymRow& before, std::int64_t repetitions) {
+                emit edited(tr("repetitions"),
+                            [&](Session& session) { setRepetitions(session, at, repetitions); });
+                logEstimates(repetitions, before.weight);
+            }),
+        liftColumn<double>(tr("Weight"), tr("kg"), &GymRow::weight, MostWeight,
+                           [this](std::size_t at, const GymRow& before, double weight) {
+                               emit edited(tr("weight"), [&](Session& session) {
+                                   setWeight(session, at, weight);
+                               });
+                               logEstimates(before.rep, weight);
+                           }),
+        liftColumn<double>(tr("Maximum"), tr("kg"), &GymRow::maxweight, MostMaximum,
+                           [this](std::size_t at, const GymRow&, double maximum) {
+                               emit edited(tr("maximum"), [&](Session& session) {
+                                   setGymEntry(session.maxweight, at, maximum);
+                               });
+                           }),
+        {.title = tr("Estimate"), .show = estimateCell},
+    };
+}
+
+QWidget* ExerciseTable::makeTable() {
+    m_table->setSelectionMode(QAbstractItemView::SingleSelection);
+    m_table->setSelectionBehavior(QAbstractItemView::SelectItems);
+    m_table->stretch({ExerciseColumn});
+    m_table->keepOneChosen();
+    m_add = &m_table->setAdd(tr("Add exercise"), [this] { addExercise(); });
+    QAction& remove = m_table->setRemove(tr("Remove exercise"),
+                                         [this](const std::vector<int>&) { removeExercise(); });
+    m_take = &m_table->addCommand(tr("Take estimate"), Qt::CTRL | Qt::Key_Return,
+                                  [this] { takeEstimate(); });
+    auto* const panel = new TablePanel(m_table);
+    panel->addButton(buttonFor(*m_add, tr("Add exercise"), "add"));
+    panel->addButton(buttonFor(remove, tr("Remove"), "remove"));
+    panel->addButton(buttonFor(*m_take, tr("Take estimate"), "take"));
+    connect(m_table, &ColumnTable::chosen, this, &ExerciseTable::showRow);
+    connect(m_table, &QTableView::clicked, this, [this](const QModelIndex& index) {
+        if (index.column() == EstimateColumn)
             takeEstimate();
     });
-}
-
-void ExerciseTable::makeButtons() {
-    auto* const row = new QHBoxLayout;
-    row->setSpacing(theme::Spacing);
-    const auto add = [&](QPushButton& button, const QKeySequence& key, const auto& act) {
-        button.setToolTip(key.toString(QKeySequence::NativeText));
-        connect(&button, &QPushButton::clicked, this, act);
-        auto* const action = new QAction(button.text(), this);
-        action->setShortcut(key);
-        action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
-        connect(action, &QAction::triggered, &button, &QPushButton::click);
-        addAction(action);
-        row->addWidget(&button);
-    };
-    m_add->setObjectName("add");
-    m_take->setObjectName("take");
-    add(*m_add, Qt::Key_Insert, [this] { addExercise(); });
-    add(*m_remove, Qt::Key_Delete, [this] { removeExercise(); });
-    add(*m_take, Qt::CTRL | Qt::Key_Return, [this] { takeEstimate(); });
-    row->addStretch();
-    static_cast<QVBoxLayout*>(layout())->addLayout(row);
+    return panel;
 }
 
 void ExerciseTable::show(const gymdataplanning_v1* session, const QStringList& names,
-                         const QString& emptyText) {
+                         const QString& emptyText, bool isOther) {
     m_hasSession = session != nullptr;
-    m_delegate->setNames(names);
-    const QModelIndex before = m_view->currentIndex();
-    m_model.show(session);
-    if (!m_view->currentIndex().isValid() && m_model.rowCount() > 0)
-        m_view->setCurrentIndex(m_model.index(std::clamp(before.row(), 0, m_model.rowCount() - 1),
-                                              std::max(before.column(), 0)));
-    m_empty->setText(emptyText);
-    m_stack->setCurrentWidget(m_model.rowCount() > 0 ? static_cast<QWidget*>(m_view) : m_empty);
+    m_names = names;
+    std::vector<GymRow> rows;
+    for (std::size_t row = 0; session && row < gymRowCount(*session); ++row)
+        rows.push_back(gymRow(*session, row));
+    m_table->setEmptyText(emptyText);
+    m_model.show(std::move(rows), isOther);
     m_totals->setText(session ? totalsText(*session) : QString());
     m_totals->setVisible(m_model.rowCount() > 0);
     showRow();
@@ -144,12 +187,15 @@ QString ExerciseTable::totalsText(const gymdataplanning_v1& session) const {
              totals.tonnage == 0 ? "0" : measureShown(totals.tonnage));
 }
 
+const GymRow* ExerciseTable::currentRow() const {
+    const int place = m_table->currentPlace();
+    return place < 0 ? nullptr : &m_model.row(place);
+}
+
 void ExerciseTable::showRow() {
-    const QModelIndex index = m_view->currentIndex();
-    const GymRow* const row = index.isValid() ? &m_model.row(index.row()) : nullptr;
+    const GymRow* const row = currentRow();
     m_add->setEnabled(m_hasSession);
-    m_remove->setEnabled(row);
-    m_take->setEnabled(row && m_model.offered(index.row()));
+    m_take->setEnabled(row && offered(*row));
     showEstimates(row);
     const QString name = row && row->exercise ? QString::fromStdString(*row->exercise) : QString();
     if (name != std::exchange(m_chosen, name))
@@ -174,28 +220,30 @@ void ExerciseTable::addExercise() {
     if (!m_hasSession)
         return;
     emit edited(tr("new exercise"), [](gymdataplanning_v1& session) { addGymRow(session); });
-    const QModelIndex name = m_model.index(m_model.rowCount() - 1, ExerciseModel::ExerciseColumn);
-    m_view->setFocus();
-    m_view->setCurrentIndex(name);
-    m_view->edit(name);
+    m_table->edit(m_model.rowCount() - 1, ExerciseColumn);
 }
 
 void ExerciseTable::removeExercise() {
-    const QModelIndex index = m_view->currentIndex();
-    if (index.isValid())
+    if (currentRow())
         emit edited(tr("removal of an exercise"),
-                    [row = static_cast<std::size_t>(index.row())](gymdataplanning_v1& session) {
-                        removeGymRow(session, row);
-                    });
+                    [row = static_cast<std::size_t>(m_table->currentPlace())](
+                        gymdataplanning_v1& session) { removeGymRow(session, row); });
 }
 
 void ExerciseTable::takeEstimate() {
-    const QModelIndex index = m_view->currentIndex();
-    const auto estimate = index.isValid() ? m_model.offered(index.row()) : std::nullopt;
+    const GymRow* const row = currentRow();
+    const auto estimate = row ? offered(*row) : std::nullopt;
     if (estimate)
         emit edited(tr("estimated maximum"), [&](gymdataplanning_v1& session) {
-            setGymEntry(session.maxweight, static_cast<std::size_t>(index.row()), *estimate);
+            setGymEntry(session.maxweight, static_cast<std::size_t>(m_table->currentPlace()),
+                        *estimate);
         });
+}
+
+void ExerciseTable::logEstimates(std::optional<std::int64_t> repetitions,
+                                 std::optional<double> weight) const {
+    if (repetitions && weight)
+        (void)gymEstimates(*repetitions, *weight, m_log);
 }
 
 } // namespace kavela::desktop

@@ -2,20 +2,24 @@
 
 #include "common/folded_text.h"
 #include "desktop/charts/series_chart.h"
-#include "desktop/planning/body/measure_table.h"
+#include "desktop/planning/body/measure_columns.h"
+#include "desktop/planning/body/measures.h"
 #include "desktop/planning/gym/exercise_table.h"
 #include "desktop/planning/gym/gym_rows.h"
+#include "desktop/shell/tables/column_table.h"
+#include "desktop/shell/tables/table_panel.h"
 #include "desktop/shell/theme.h"
 #include "planning/calendar_day.h"
 
+#include <QAction>
 #include <QComboBox>
 #include <QLabel>
 #include <QPushButton>
 #include <QSplitter>
-#include <QTableView>
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <limits>
 
 namespace kavela::desktop {
 
@@ -25,9 +29,15 @@ std::string foldedName(const QString& name) {
     return folded(name.toStdString());
 }
 
-MeasureRow sessionRow(const gymdataplanning_v1& session, std::size_t place) {
-    const GymTotals totals = gymTotals(session);
-    return {place, session.date, {static_cast<double>(totals.exercises), totals.tonnage}};
+/// A column of what the exercises of a session come to.
+Column<gymdataplanning_v1> totalColumn(const QString& title, const QString& unit,
+                                       double (*total)(const GymTotals&)) {
+    return {.title = title,
+            .unit = unit,
+            .kind = ColumnKind::Number,
+            .show = [total](const gymdataplanning_v1& session) {
+                return measureCell(total(gymTotals(session)), std::numeric_limits<double>::max());
+            }};
 }
 
 } // namespace
@@ -54,21 +64,25 @@ GymPanel::GymPanel(PlanningDocument& document, const DiagnosticLog& log, Clock c
                    QWidget* parent)
     : SeasonPanel(document, parent),
       m_clock(std::move(clock)),
-      m_sessions(new MeasureTable(
-          {{tr("Exercises"), {}, 1e6, false}, {tr("Tonnage"), tr("kg"), 1e9, false}},
-          tr("Add session"))),
+      m_model({dateColumn<gymdataplanning_v1>(
+                   [this](std::size_t place, ReferenceDate date) { moveSession(place, date); }),
+               totalColumn(
+                   tr("Exercises"), {},
+                   [](const GymTotals& totals) { return static_cast<double>(totals.exercises); }),
+               totalColumn(tr("Tonnage"), tr("kg"),
+                           [](const GymTotals& totals) { return totals.tonnage; })}),
+      m_sessions(new ColumnTable(m_model, "sessions")),
       m_exercises(new ExerciseTable(log)),
       m_names(new QComboBox),
       m_chart(new SeriesChart) {
     m_names->setObjectName("exercise");
     m_names->setAccessibleName(tr("Exercise of the chart"));
     m_names->setSizeAdjustPolicy(QComboBox::AdjustToContents);
-    makeParts();
-    makeSessions();
+    makeParts(makeSessions());
     connectExercises();
 }
 
-void GymPanel::makeParts() {
+void GymPanel::makeParts(QWidget* sessions) {
     auto* const history = new QWidget;
     auto* const column = new QVBoxLayout(history);
     column->setContentsMargins(0, theme::Spacing, 0, 0);
@@ -87,7 +101,7 @@ void GymPanel::makeParts() {
     right->addWidget(history);
     right->setChildrenCollapsible(false);
     auto* const whole = new QSplitter;
-    whole->addWidget(m_sessions);
+    whole->addWidget(sessions);
     whole->addWidget(right);
     whole->setStretchFactor(1, 1);
     whole->setSizes({330, 710});
@@ -98,27 +112,32 @@ void GymPanel::makeParts() {
     row->addWidget(whole);
 }
 
-void GymPanel::makeSessions() {
-    m_sessions->view().setObjectName("sessions");
-    auto* const duplicate = new QPushButton(tr("Duplicate"));
-    duplicate->setObjectName("duplicate");
-    duplicate->setToolTip(tr("The same exercises once more, today"));
-    m_sessions->addButton(duplicate);
-    connect(duplicate, &QPushButton::clicked, this, &GymPanel::duplicateSession);
-    connect(m_sessions, &MeasureTable::addAsked, this, [this] { addSession(); });
-    connect(m_sessions, &MeasureTable::removalAsked, this,
-            [this](const std::vector<std::size_t>& places) {
-                edit(tr("removal of gym sessions"),
-                     [&](yearsplannings_v6& season) { removePlaces(season.gymdata, places); });
-            });
-    connect(m_sessions, &MeasureTable::currentChanged, this, &GymPanel::showExercises);
-    connect(&m_sessions->model(), &MeasureModel::dateTyped, this,
-            [this](std::size_t place, ReferenceDate date) {
-                edit(tr("date"), [&](yearsplannings_v6& season) {
-                    if (place < season.gymdata.size())
-                        season.gymdata[place].date = date;
-                });
-            });
+QWidget* GymPanel::makeSessions() {
+    m_sessions->sortBy(0, Qt::DescendingOrder); // the latest first
+    m_sessions->keepOneChosen();
+    m_sessions->stretchAll();
+    m_add = &m_sessions->setAdd(tr("Add session"), [this] { addSession(); });
+    QAction& remove = m_sessions->setRemove(tr("Remove"), [this](const std::vector<int>& places) {
+        edit(tr("removal of gym sessions"),
+             [&](yearsplannings_v6& season) { removePlaces(season.gymdata, places); });
+    });
+    m_duplicate = new QPushButton(tr("Duplicate"));
+    m_duplicate->setObjectName("duplicate");
+    m_duplicate->setToolTip(tr("The same exercises once more, today"));
+    connect(m_duplicate, &QPushButton::clicked, this, &GymPanel::duplicateSession);
+    auto* const panel = new TablePanel(m_sessions);
+    panel->addButton(buttonFor(*m_add, tr("Add session"), "add"));
+    panel->addButton(buttonFor(remove, tr("Remove"), "remove"));
+    panel->addButton(m_duplicate);
+    connect(m_sessions, &ColumnTable::chosen, this, [this] { showExercises(true); });
+    return panel;
+}
+
+void GymPanel::moveSession(std::size_t place, ReferenceDate date) {
+    edit(tr("date"), [&](yearsplannings_v6& season) {
+        if (place < season.gymdata.size())
+            season.gymdata[place].date = date;
+    });
 }
 
 void GymPanel::connectExercises() {
@@ -150,26 +169,27 @@ void GymPanel::addSession(gymdataplanning_v1 session, const QString& what) {
     edit(what, [&](yearsplannings_v6& season) {
         place = insertByDate(season.gymdata, std::move(session));
     });
-    m_sessions->choose(place);
+    chooseSession(place);
 }
 
 void GymPanel::chooseSession(std::size_t place) {
-    m_sessions->choose(place);
+    m_sessions->choose(static_cast<int>(place));
 }
 
 std::optional<std::size_t> GymPanel::session() const {
-    return m_sessions->current();
+    const int place = m_sessions->currentPlace();
+    return place < 0 ? std::nullopt : std::optional(static_cast<std::size_t>(place));
 }
 
 const gymdataplanning_v1* GymPanel::shownSession() const {
-    const auto place = m_sessions->current();
+    const auto place = session();
     return season() && place && *place < season()->gymdata.size() ? &season()->gymdata[*place]
                                                                   : nullptr;
 }
 
 void GymPanel::editSession(const QString& what,
                            const std::function<void(gymdataplanning_v1&)>& change) {
-    const auto place = m_sessions->current();
+    const auto place = session();
     if (shownSession())
         edit(what, [&](yearsplannings_v6& season) { change(season.gymdata[*place]); });
 }
@@ -185,25 +205,23 @@ QString GymPanel::sessionsEmptyText() const {
 void GymPanel::refresh() {
     showNames();
     showSessions();
-    showExercises();
+    showExercises(false);
     showHistory();
 }
 
 void GymPanel::showSessions() {
-    std::vector<MeasureRow> rows;
-    if (season())
-        for (std::size_t place = 0; place < season()->gymdata.size(); ++place)
-            rows.push_back(sessionRow(season()->gymdata[place], place));
-    m_sessions->setEmptyText(sessionsEmptyText(), season() != nullptr);
-    m_sessions->show(std::move(rows));
-    m_sessions->findChild<QPushButton*>("duplicate")->setEnabled(shownSession());
+    m_sessions->setEmptyText(sessionsEmptyText());
+    m_add->setEnabled(season() != nullptr);
+    m_model.show(season() ? season()->gymdata : std::vector<gymdataplanning_v1>(), isOtherSeason());
+    m_duplicate->setEnabled(shownSession());
 }
 
-void GymPanel::showExercises() {
+void GymPanel::showExercises(bool isOther) {
     const gymdataplanning_v1* const shown = shownSession();
     m_exercises->show(shown, usedNames(),
                       shown ? tr("No exercise yet.\nPress Insert to add one.")
-                            : tr("Choose or add a session to see its exercises."));
+                            : tr("Choose or add a session to see its exercises."),
+                      isOther);
 }
 
 /// Exercises of the whole group: athletes of one coach mostly lift the same.

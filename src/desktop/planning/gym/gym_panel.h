@@ -3,13 +3,16 @@
 #include "common/log.h"
 #include "desktop/charts/chart_content.h"
 #include "desktop/planning/season_panel.h"
+#include "desktop/shell/tables/column_model.h"
 
+class QAction;
 class QComboBox;
+class QPushButton;
 
 namespace kavela::desktop {
 
+class ColumnTable;
 class ExerciseTable;
-class MeasureTable;
 class SeriesChart;
 
 /// The gym sessions of a season: the sessions by date, the exercises of the chosen one with their
@@ -31,7 +34,7 @@ public:
     /// Shows the history of an exercise.
     void chooseExercise(const QString& name);
 
-    [[nodiscard]] MeasureTable& sessions() const { return *m_sessions; }
+    [[nodiscard]] ColumnTable& sessions() const { return *m_sessions; }
     [[nodiscard]] ExerciseTable& exercises() const { return *m_exercises; }
     [[nodiscard]] SeriesChart& chart() const { return *m_chart; }
 
@@ -39,13 +42,14 @@ protected:
     void refresh() override;
 
 private:
-    void makeSessions();
-    void makeParts();
+    [[nodiscard]] QWidget* makeSessions();
+    void makeParts(QWidget* sessions);
+    void moveSession(std::size_t place, ReferenceDate date);
     void connectExercises();
     void addSession(gymdataplanning_v1 session, const QString& what);
     void editSession(const QString& what, const std::function<void(gymdataplanning_v1&)>& change);
     void showSessions();
-    void showExercises();
+    void showExercises(bool isOther);
     void showNames();
     void showHistory();
     [[nodiscard]] const gymdataplanning_v1* shownSession() const;
@@ -54,7 +58,10 @@ private:
     [[nodiscard]] ReferenceDate today() const;
 
     Clock m_clock;
-    MeasureTable* m_sessions;
+    ColumnModel<gymdataplanning_v1> m_model;
+    ColumnTable* m_sessions;
+    QAction* m_add = nullptr;
+    QPushButton* m_duplicate = nullptr;
     ExerciseTable* m_exercises;
     QComboBox* m_names;
     SeriesChart* m_chart;

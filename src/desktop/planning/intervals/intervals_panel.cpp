@@ -3,26 +3,50 @@
 #include "desktop/planning/intervals/interval_form.h"
 #include "desktop/planning/intervals/interval_texts.h"
 #include "desktop/planning/intervals/timer_dialog.h"
-#include "desktop/planning/ranking/plain_table.h"
 #include "desktop/shell/refused_entry.h"
+#include "desktop/shell/tables/column_table.h"
+#include "desktop/shell/tables/table_panel.h"
 #include "desktop/shell/theme.h"
 #include "planning/interval_timer.h"
 
 #include <QAction>
-#include <QHeaderView>
-#include <QLabel>
 #include <QPushButton>
 #include <QSplitter>
-#include <QTableWidget>
 #include <QVBoxLayout>
 
-#include <algorithm>
+#include <utility>
 
 namespace kavela::desktop {
 
 namespace {
 
-enum Column { TitleColumn, MakeUpColumn, TotalColumn, WorkColumn };
+using Session = favInvervalSessions_v2;
+
+constexpr int TitleColumn = 0;
+
+/// A column of what a session takes in all; a dash where that cannot be reckoned.
+Column<Session> timeColumn(const QString& title, double (*seconds)(const IntervalPlan&)) {
+    return {.title = title, .kind = ColumnKind::Number, .show = [seconds](const Session& session) {
+                const auto plan = IntervalPlan::of(session);
+                if (!plan)
+                    return Cell{QStringLiteral("–")};
+                const double time = seconds(*plan);
+                return Cell{.text = durationText(time), .sortValue = time};
+            }};
+}
+
+std::vector<Column<Session>> sessionColumns() {
+    return {
+        {.title = IntervalsPanel::tr("Session"),
+         .show =
+             [](const Session& session) { return Cell{QString::fromStdString(session.title)}; }},
+        {.title = IntervalsPanel::tr("Make-up"),
+         .show = [](const Session& session) { return Cell{makeUpText(session)}; }},
+        timeColumn(IntervalsPanel::tr("Total"),
+                   [](const IntervalPlan& plan) -> double { return plan.sessionTime(); }),
+        timeColumn(IntervalsPanel::tr("Work"),
+                   [](const IntervalPlan& plan) -> double { return plan.workTime(); })};
+}
 
 favInvervalSessions_v2 newSession() {
     favInvervalSessions_v2 session;
@@ -39,9 +63,13 @@ favInvervalSessions_v2 newSession() {
 IntervalsPanel::IntervalsPanel(PlanningDocument& document, QWidget* parent)
     : QWidget(parent),
       m_document(document),
-      m_table(plainTable({tr("Session"), tr("Make-up"), tr("Total"), tr("Work")})),
-      m_empty(new QLabel(tr("No favourite sessions yet. “Add” begins the first."))),
-      m_form(new IntervalForm) {
+      m_model(sessionColumns()),
+      m_table(new ColumnTable(m_model, "intervals")),
+      m_form(new IntervalForm([this](const QString&, const auto& change) {
+          if (const auto at = current())
+              m_document.edit(tr("interval session"),
+                              [&](planningdatac_v6& plan) { change(plan.favintses[*at]); });
+      })) {
     makeTable();
     auto* const splitter = new QSplitter;
     splitter->setChildrenCollapsible(false);
@@ -52,59 +80,37 @@ IntervalsPanel::IntervalsPanel(PlanningDocument& document, QWidget* parent)
     auto* const whole = new QVBoxLayout(this);
     whole->setContentsMargins(theme::Spacing, theme::Spacing, theme::Spacing, theme::Spacing);
     whole->addWidget(splitter);
-    makeKeys();
     connect(&document, &PlanningDocument::changed, this, &IntervalsPanel::invalidate);
-    connect(m_form, &IntervalForm::changed, this, [this](const IntervalForm::Change& change) {
-        if (const auto at = current())
-            m_document.edit(tr("interval session"),
-                            [&](planningdatac_v6& plan) { change(plan.favintses[*at]); });
-    });
-    showCurrent();
+    showCurrent(true);
 }
 
 void IntervalsPanel::makeTable() {
-    m_table->setObjectName("intervals");
     m_table->setSelectionMode(QAbstractItemView::SingleSelection);
-    QHeaderView* const header = m_table->horizontalHeader();
-    header->setStretchLastSection(false);
-    header->setSectionResizeMode(QHeaderView::ResizeToContents);
-    header->setSectionResizeMode(TitleColumn, QHeaderView::Stretch);
-    for (const int column : {TotalColumn, WorkColumn})
-        m_table->horizontalHeaderItem(column)->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    connect(m_table, &QTableWidget::currentCellChanged, this, [this] {
-        if (!m_isFilling)
-            followTable();
-    });
-    connect(m_table, &QTableWidget::cellDoubleClicked, this, &IntervalsPanel::startTimer);
+    m_table->setEmptyText(tr("No favourite sessions yet. “Add” begins the first."));
+    m_table->stretch({TitleColumn});
+    m_table->keepOneChosen();
+    connect(m_table, &ColumnTable::chosen, this, &IntervalsPanel::followTable);
+    connect(m_table, &QTableView::doubleClicked, this, &IntervalsPanel::startTimer);
 }
 
 QWidget* IntervalsPanel::makeList() {
-    auto* const buttons = new QHBoxLayout;
-    buttons->setSpacing(theme::Spacing);
-    const auto button = [&](const char* name, const QString& text, const QString& tip,
-                            const std::function<void()>& act) {
-        auto* const made = new QPushButton(text);
-        made->setObjectName(name);
-        made->setToolTip(tip);
-        connect(made, &QPushButton::clicked, this, act);
-        buttons->addWidget(made);
-        return made;
+    auto* const list = new TablePanel(m_table);
+    const auto command = [&](const char* name, const QString& text, const QString& what,
+                             const QKeySequence& keys, const std::function<void()>& act) {
+        QAction& action = m_table->addCommand(what, keys, act);
+        list->addButton(buttonFor(action, text, name));
+        m_forOne.push_back(&action);
     };
-    button("add", tr("Add"), tr("Insert"), [this] { add(); });
-    m_forOne = {button("duplicate", tr("Duplicate"), tr("Ctrl+D"), [this] { duplicate(); }),
-                button("up", tr("Up"), tr("Alt+Up"), [this] { move(true); }),
-                button("down", tr("Down"), tr("Alt+Down"), [this] { move(false); }),
-                button("remove", tr("Remove"), tr("Delete"), [this] { removeCurrent(); })};
-    buttons->addStretch(1);
-    m_empty->setAlignment(Qt::AlignCenter);
-    m_empty->setForegroundRole(QPalette::PlaceholderText);
-    auto* const list = new QWidget;
-    auto* const column = new QVBoxLayout(list);
-    column->setContentsMargins(0, 0, theme::Spacing, 0);
-    column->setSpacing(theme::Spacing);
-    column->addLayout(buttons);
-    column->addWidget(m_table, 1);
-    column->addWidget(m_empty, 1);
+    QAction& added = m_table->setAdd(tr("Add a session"), [this] { add(); });
+    list->addButton(buttonFor(added, tr("Add"), "add"));
+    command("duplicate", tr("Duplicate"), tr("Another one like it"), Qt::CTRL | Qt::Key_D,
+            [this] { duplicate(); });
+    command("up", tr("Up"), tr("Up"), Qt::ALT | Qt::Key_Up, [this] { move(true); });
+    command("down", tr("Down"), tr("Down"), Qt::ALT | Qt::Key_Down, [this] { move(false); });
+    QAction& removed = m_table->setRemove(tr("Remove the session"),
+                                          [this](const std::vector<int>&) { removeCurrent(); });
+    list->addButton(buttonFor(removed, tr("Remove"), "remove"));
+    list->setContentsMargins(0, 0, theme::Spacing, 0);
     return list;
 }
 
@@ -114,7 +120,6 @@ QWidget* IntervalsPanel::makeDetails() {
     m_timer->setToolTip(tr("A clock for the bank, readable from afar. Double click on a session "
                            "opens it too."));
     connect(m_timer, &QPushButton::clicked, this, &IntervalsPanel::startTimer);
-    m_forOne.push_back(m_timer);
     auto* const details = new QWidget;
     auto* const column = new QVBoxLayout(details);
     column->setContentsMargins(theme::Spacing, 0, 0, 0);
@@ -124,35 +129,19 @@ QWidget* IntervalsPanel::makeDetails() {
     return details;
 }
 
-void IntervalsPanel::makeKeys() {
-    const auto key = [this](const QString& text, const QKeySequence& keys,
-                            const std::function<void()>& act) {
-        auto* const action = new QAction(text, m_table);
-        action->setShortcut(keys);
-        action->setShortcutContext(Qt::WidgetShortcut);
-        connect(action, &QAction::triggered, this, act);
-        m_table->addAction(action);
-    };
-    key(tr("Add a session"), Qt::Key_Insert, [this] { add(); });
-    key(tr("Remove the session"), Qt::Key_Delete, [this] { removeCurrent(); });
-    key(tr("Another one like it"), Qt::CTRL | Qt::Key_D, [this] { duplicate(); });
-    key(tr("Up"), Qt::ALT | Qt::Key_Up, [this] { move(true); });
-    key(tr("Down"), Qt::ALT | Qt::Key_Down, [this] { move(false); });
-}
-
 const std::vector<favInvervalSessions_v2>& IntervalsPanel::sessions() const {
     return m_document.value().favintses;
 }
 
 std::optional<std::size_t> IntervalsPanel::current() const {
-    const int row = m_table->currentRow();
-    if (row < 0 || static_cast<std::size_t>(row) >= sessions().size())
+    const int place = m_table->currentPlace();
+    if (place < 0 || static_cast<std::size_t>(place) >= sessions().size())
         return std::nullopt;
-    return static_cast<std::size_t>(row);
+    return static_cast<std::size_t>(place);
 }
 
 void IntervalsPanel::choose(std::size_t session) {
-    m_table->setCurrentCell(static_cast<int>(session), TitleColumn);
+    m_table->choose(static_cast<int>(session), TitleColumn);
 }
 
 void IntervalsPanel::showEvent(QShowEvent* event) {
@@ -168,47 +157,30 @@ void IntervalsPanel::invalidate() {
 }
 
 void IntervalsPanel::refresh() {
-    m_isFilling = true;
-    const int before = m_table->currentRow();
-    m_table->setRowCount(static_cast<int>(sessions().size()));
-    for (int row = 0; row < m_table->rowCount(); ++row) {
-        const favInvervalSessions_v2& session = sessions()[static_cast<std::size_t>(row)];
-        const auto plan = IntervalPlan::of(session);
-        setText(*m_table, row, TitleColumn, QString::fromStdString(session.title));
-        setText(*m_table, row, MakeUpColumn, makeUpText(session));
-        setNumber(*m_table, row, TotalColumn,
-                  plan ? durationText(plan->sessionTime()) : QString("–"));
-        setNumber(*m_table, row, WorkColumn, plan ? durationText(plan->workTime()) : QString("–"));
-    }
-    const int row = std::clamp(before, 0, std::max(m_table->rowCount() - 1, 0));
-    if (m_table->rowCount() > 0 && row != m_table->currentRow())
-        m_table->setCurrentCell(row, TitleColumn);
-    m_isFilling = false;
-    m_table->setVisible(!sessions().empty());
-    m_empty->setVisible(sessions().empty());
-    showCurrent();
+    m_model.show(sessions());
+    showCurrent(false);
 }
 
 /// A session whose form holds what cannot be taken stays in front.
 void IntervalsPanel::followTable() {
+    if (m_shown && current() == m_shown)
+        return; // it was brought back to the front
     if (!m_shown || !showRefusedEntry(*m_form)) {
-        showCurrent();
+        showCurrent(true);
         return;
     }
     // Later: the table is not done yet with choosing the other row.
-    if (current() != m_shown)
-        QMetaObject::invokeMethod(
-            this, [this] { choose(m_shown.value_or(0)); }, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(
+        this, [this] { choose(m_shown.value_or(0)); }, Qt::QueuedConnection);
 }
 
-void IntervalsPanel::showCurrent() {
+void IntervalsPanel::showCurrent(bool isOther) {
     const auto at = current();
     m_shown = at;
-    m_form->show(at ? &sessions()[*at] : nullptr);
-    for (QPushButton* const button : m_forOne)
-        button->setEnabled(at.has_value());
-    if (at)
-        m_timer->setEnabled(whyNotTimed(sessions()[*at]).empty());
+    m_form->show(at ? &sessions()[*at] : nullptr, isOther);
+    for (QAction* const action : m_forOne)
+        action->setEnabled(at.has_value());
+    m_timer->setEnabled(at && whyNotTimed(sessions()[*at]).empty());
 }
 
 void IntervalsPanel::insert(std::size_t at, const QString& what, favInvervalSessions_v2 session) {

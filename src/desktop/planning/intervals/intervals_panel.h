@@ -1,15 +1,16 @@
 #pragma once
 
 #include "desktop/planning/planning_document.h"
+#include "desktop/shell/tables/column_model.h"
 
 #include <QWidget>
 
-class QLabel;
+class QAction;
 class QPushButton;
-class QTableWidget;
 
 namespace kavela::desktop {
 
+class ColumnTable;
 class IntervalForm;
 
 /// The coach's favourite interval sessions: a list, a form for the one that is chosen, and a timer.
@@ -19,7 +20,7 @@ class IntervalsPanel : public QWidget {
 public:
     explicit IntervalsPanel(PlanningDocument& document, QWidget* parent = nullptr);
 
-    [[nodiscard]] QTableWidget& table() const { return *m_table; }
+    [[nodiscard]] ColumnTable& table() const { return *m_table; }
     [[nodiscard]] IntervalForm& form() const { return *m_form; }
     [[nodiscard]] std::optional<std::size_t> current() const;
     void choose(std::size_t session);
@@ -41,23 +42,21 @@ private:
     void makeTable();
     [[nodiscard]] QWidget* makeList();
     [[nodiscard]] QWidget* makeDetails();
-    void makeKeys();
     [[nodiscard]] const std::vector<favInvervalSessions_v2>& sessions() const;
     void insert(std::size_t at, const QString& what, favInvervalSessions_v2 session);
     void invalidate();
     void refresh();
     void followTable();
-    void showCurrent();
+    void showCurrent(bool isOther);
 
     PlanningDocument& m_document;
-    QTableWidget* m_table;
-    QLabel* m_empty;
+    ColumnModel<favInvervalSessions_v2> m_model;
+    ColumnTable* m_table;
     IntervalForm* m_form;
     QPushButton* m_timer = nullptr;
-    std::vector<QPushButton*> m_forOne; ///< buttons that need a chosen session
+    std::vector<QAction*> m_forOne; ///< those that need a chosen session
     std::optional<std::size_t> m_shown; ///< the session in the form
     bool m_isStale = true;
-    bool m_isFilling = false;
 };
 
 } // namespace kavela::desktop

@@ -1,47 +1,69 @@
 #include "desktop/planning/ranking/races_section.h"
 
 #include "desktop/charts/series_chart.h"
-#include "desktop/planning/ranking/plain_table.h"
 #include "desktop/planning/ranking/ranking_charts.h"
 #include "desktop/shell/shown_number.h"
+#include "desktop/shell/tables/column_table.h"
 #include "desktop/shell/theme.h"
 #include "desktop/team/typed_values.h"
-#include "planning/season_results.h"
 #include "planning/season_statistics.h"
 
 #include <QHBoxLayout>
-#include <QHeaderView>
 #include <QLabel>
 #include <QMenu>
 #include <QPushButton>
-#include <QTableWidget>
 
 namespace kavela::desktop {
 
 namespace {
 
-enum Column {
-    DateColumn,
-    EventColumn,
-    PhaseColumn,
-    PlaceColumn,
-    PositionColumn,
-    TimeColumn,
-    PenaltyColumn,
-    BehindColumn,
-    GatesColumn,
-    Columns
-};
-
+constexpr int EventColumn = 1;
+constexpr int PlaceColumn = 3;
 constexpr int LeastTableHeight = 130;
 
 QString hundredths(double number) {
     return shownHundredths(number);
 }
 
-template <class T>
-QString numberText(const std::optional<T>& number) {
-    return number ? QString::number(*number) : QString("–");
+QString wholeText(double number) {
+    return QString::number(static_cast<std::int64_t>(number));
+}
+
+Cell dateCell(const SeasonRace& race) {
+    if (!race.date)
+        return {.text = QStringLiteral("–")};
+    return {.text = dayShown(*race.date), .sortValue = race.date->seconds};
+}
+
+Column<SeasonRace> plainColumn(const QString& title, std::string SeasonRace::*text) {
+    return textColumn<SeasonRace>(
+        title, [text](const SeasonRace& race) { return QString::fromStdString(race.*text); });
+}
+
+template <class Number>
+Column<SeasonRace> countColumn(const QString& title, Number SeasonRace::*number,
+                               std::function<QString(double)> shown) {
+    return numberColumn<SeasonRace>(
+        title,
+        [number](const SeasonRace& race) {
+            return race.*number ? std::optional(static_cast<double>(*(race.*number)))
+                                : std::nullopt;
+        },
+        std::move(shown));
+}
+
+std::vector<Column<SeasonRace>> raceColumns() {
+    const auto tr = [](const char* text) { return RacesSection::tr(text); };
+    return {{.title = tr("Date"), .show = dateCell},
+            plainColumn(tr("Event"), &SeasonRace::event),
+            plainColumn(tr("Phase"), &SeasonRace::phase),
+            plainColumn(tr("Place"), &SeasonRace::location),
+            countColumn(tr("Position"), &SeasonRace::position, wholeText),
+            countColumn(tr("Time"), &SeasonRace::time, hundredths),
+            countColumn(tr("Penalty"), &SeasonRace::penalty, wholeText),
+            countColumn(tr("Behind best"), &SeasonRace::percentBehind,
+                        [](double percent) { return hundredths(percent) + " %"; }),
+            countColumn(tr("Gates"), &SeasonRace::gates, wholeText)};
 }
 
 QString summaryText(const PenaltySummary& summary) {
@@ -61,20 +83,14 @@ QString summaryText(const PenaltySummary& summary) {
 
 RacesSection::RacesSection(QWidget* parent)
     : QWidget(parent),
-      m_table(plainTable({tr("Date"), tr("Event"), tr("Phase"), tr("Place"), tr("Position"),
-                          tr("Time"), tr("Penalty"), tr("Behind best"), tr("Gates")})),
+      m_model(raceColumns()),
+      m_table(new ColumnTable(m_model, "races")),
       m_summary(new QLabel),
       m_take(new QPushButton(tr("Take from split files…"))),
       m_penalties(new SeriesChart),
       m_percents(new SeriesChart) {
-    m_table->setObjectName("races");
     m_table->setMinimumHeight(LeastTableHeight);
-    m_table->horizontalHeader()->setStretchLastSection(false);
-    m_table->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
-    m_table->horizontalHeader()->setSectionResizeMode(EventColumn, QHeaderView::Stretch);
-    m_table->horizontalHeader()->setSectionResizeMode(PlaceColumn, QHeaderView::Stretch);
-    for (int column = PositionColumn; column < Columns; ++column)
-        m_table->horizontalHeaderItem(column)->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    m_table->stretch({EventColumn, PlaceColumn});
     m_summary->setObjectName("penaltySummary");
     m_summary->setTextFormat(Qt::RichText);
     auto* const charts = new QHBoxLayout;
@@ -113,27 +129,9 @@ void RacesSection::show(const statisticsplanning_v3* statistics) {
     const statisticsplanning_v3& shown = statistics ? *statistics : none;
     m_take->setEnabled(statistics != nullptr);
     m_summary->setText(statistics ? summaryText(penaltySummary(shown.pendata)) : QString());
-    fill(shown.racedata);
+    m_model.show(seasonRaces(shown.racedata));
     m_penalties->show(penaltyChart(shown.pendata));
     m_percents->show(percentChart(shown.racedata));
-}
-
-void RacesSection::fill(const racedataplanning_v3& races) {
-    const std::vector<SeasonRace> rows = seasonRaces(races);
-    m_table->setRowCount(static_cast<int>(rows.size()));
-    for (int row = 0; row < m_table->rowCount(); ++row) {
-        const SeasonRace& race = rows[static_cast<std::size_t>(row)];
-        setText(*m_table, row, DateColumn, race.date ? dayShown(*race.date) : QString("–"));
-        setText(*m_table, row, EventColumn, QString::fromStdString(race.event));
-        setText(*m_table, row, PhaseColumn, QString::fromStdString(race.phase));
-        setText(*m_table, row, PlaceColumn, QString::fromStdString(race.location));
-        setNumber(*m_table, row, PositionColumn, numberText(race.position));
-        setNumber(*m_table, row, TimeColumn, race.time ? hundredths(*race.time) : QString("–"));
-        setNumber(*m_table, row, PenaltyColumn, numberText(race.penalty));
-        setNumber(*m_table, row, BehindColumn,
-                  race.percentBehind ? hundredths(*race.percentBehind) + " %" : QString("–"));
-        setNumber(*m_table, row, GatesColumn, numberText(race.gates));
-    }
 }
 
 } // namespace kavela::desktop

@@ -1,15 +1,17 @@
 #pragma once
 
+#include "desktop/shell/tables/column_model.h"
 #include "planning/planning_records.h"
+#include "planning/season_results.h"
 
 #include <QWidget>
 
 class QLabel;
 class QPushButton;
-class QTableWidget;
 
 namespace kavela::desktop {
 
+class ColumnTable;
 class SeriesChart;
 
 /// The races of a season, what its penalties come to, and how both went over time.
@@ -22,7 +24,7 @@ public:
     /// Shows the statistics of a season; nothing can be taken for a null one.
     void show(const statisticsplanning_v3* statistics);
 
-    [[nodiscard]] QTableWidget& table() const { return *m_table; }
+    [[nodiscard]] ColumnTable& table() const { return *m_table; }
 
 signals:
     void filesAsked();
@@ -30,9 +32,9 @@ signals:
 
 private:
     [[nodiscard]] QWidget* makeHead();
-    void fill(const racedataplanning_v3& races);
 
-    QTableWidget* m_table;
+    ColumnModel<SeasonRace> m_model;
+    ColumnTable* m_table;
     QLabel* m_summary;
     QPushButton* m_take;
     SeriesChart* m_penalties;

@@ -1,33 +1,33 @@
 #include "desktop/planning/ranking/ranking_section.h"
 
 #include "desktop/charts/series_chart.h"
-#include "desktop/planning/ranking/plain_table.h"
 #include "desktop/planning/ranking/ranking_charts.h"
-#include "desktop/shell/cell_delegate.h"
 #include "desktop/shell/shown_number.h"
+#include "desktop/shell/tables/column_table.h"
 #include "desktop/shell/theme.h"
 #include "desktop/team/typed_values.h"
 
 #include <QAction>
 #include <QHBoxLayout>
-#include <QHeaderView>
 #include <QLabel>
 #include <QPushButton>
-#include <QTableWidget>
 
 namespace kavela::desktop {
 
 namespace {
 
-enum Column { ReleaseColumn, PointsColumn, PositionColumn };
+constexpr int PointsColumn = 1;
 
 constexpr int TableWidth = 300;
 constexpr double MostRelease = 999999999;
 
-QStringList textsOf(const RankingEntry& entry) {
-    return {entry.release ? QString::number(*entry.release) : QString(),
-            entry.points.value_or(0) != 0 ? shownNumber(*entry.points) : QString(),
-            numberShown(entry.position.value_or(0))};
+/// Empty for what was not entered, which 0 stands for too where it is no value.
+template <class Number>
+Cell numberCell(const std::optional<Number>& number, bool hasZero) {
+    if (!number || (*number == 0 && !hasZero))
+        return {};
+    const auto value = static_cast<double>(*number);
+    return {.text = shownNumber(value), .number = value};
 }
 
 std::int64_t typedRelease(const QString& text) {
@@ -40,25 +40,24 @@ std::int64_t typedRelease(const QString& text) {
 
 RankingSection::RankingSection(QWidget* parent)
     : QWidget(parent),
-      m_table(plainTable({tr("Release"), tr("Points"), tr("Position")})),
-      m_cells(new CellDelegate(*m_table)),
-      m_add(new QPushButton(tr("Add release"))),
-      m_remove(new QPushButton(tr("Remove"))),
+      m_model(columns(), RowsKnownBy::Number),
+      m_table(new ColumnTable(m_model, "releases")),
+      m_add(m_table->setAdd(tr("Add a release"), [this] { addRelease(); })),
       m_positions(new SeriesChart),
       m_points(new SeriesChart) {
-    makeTable();
+    QAction& remove = m_table->setRemove(tr("Remove the release"),
+                                         [this](const std::vector<int>&) { removeCurrent(); });
+    m_table->setSelectionMode(QAbstractItemView::SingleSelection);
+    m_table->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    m_table->stretchAll();
     auto* const title = new QLabel(tr("Ranking list"));
     title->setFont(theme::titleFont(*this));
-    m_add->setObjectName("addRelease");
-    m_add->setToolTip(tr("Insert"));
-    m_remove->setObjectName("removeRelease");
-    m_remove->setToolTip(tr("Delete"));
     auto* const buttons = new QHBoxLayout;
     buttons->setSpacing(theme::Spacing);
     buttons->addWidget(title);
     buttons->addStretch(1);
-    buttons->addWidget(m_add);
-    buttons->addWidget(m_remove);
+    buttons->addWidget(buttonFor(m_add, tr("Add release"), "addRelease"));
+    buttons->addWidget(buttonFor(remove, tr("Remove"), "removeRelease"));
     auto* const left = new QWidget;
     left->setFixedWidth(TableWidth);
     auto* const column = new QVBoxLayout(left);
@@ -72,95 +71,52 @@ RankingSection::RankingSection(QWidget* parent)
     row->addWidget(left);
     row->addWidget(m_positions, 1);
     row->addWidget(m_points, 1);
-    connect(m_add, &QPushButton::clicked, this, &RankingSection::addRelease);
-    connect(m_remove, &QPushButton::clicked, this, &RankingSection::removeCurrent);
 }
 
-void RankingSection::makeTable() {
-    m_table->setObjectName("releases");
-    m_table->setSelectionMode(QAbstractItemView::SingleSelection);
-    m_table->setEditTriggers(QAbstractItemView::DoubleClicked | QAbstractItemView::EditKeyPressed |
-                             QAbstractItemView::AnyKeyPressed);
-    m_table->horizontalHeader()->setStretchLastSection(false);
-    m_table->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
-    m_table->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    m_table->horizontalHeader()->setDefaultAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    connect(m_table, &QTableWidget::itemChanged, this, [this](const QTableWidgetItem* item) {
-        if (!m_isFilling)
-            take(item->row(), item->column(), item->text());
-    });
-    const auto key = [this](const QString& text, Qt::Key keys, void (RankingSection::*act)()) {
-        auto* const action = new QAction(text, m_table);
-        action->setShortcut(keys);
-        action->setShortcutContext(Qt::WidgetShortcut);
-        connect(action, &QAction::triggered, this, act);
-        m_table->addAction(action);
+std::vector<Column<RankingEntry>> RankingSection::columns() {
+    const auto column = [this](const QString& title, auto RankingEntry::*member, bool hasZero,
+                               auto read) {
+        return Column<RankingEntry>{
+            .title = title,
+            .kind = ColumnKind::Number,
+            .show = [member, hasZero](
+                        const RankingEntry& entry) { return numberCell(entry.*member, hasZero); },
+            .take =
+                [this, member, read](std::size_t row, const RankingEntry&, const QString& typed) {
+                    RankingEntry entry;
+                    entry.*member = read(typed);
+                    emit entered(row, entry);
+                }};
     };
-    key(tr("Add a release"), Qt::Key_Insert, &RankingSection::addRelease);
-    key(tr("Remove the release"), Qt::Key_Delete, &RankingSection::removeCurrent);
+    return {column(tr("Release"), &RankingEntry::release, true, typedRelease),
+            column(tr("Points"), &RankingEntry::points, false, typedPoints),
+            column(tr("Position"), &RankingEntry::position, false, typedPosition)};
 }
 
 void RankingSection::show(const icfdataplanning_v1* ranking) {
     const icfdataplanning_v1 none;
     const icfdataplanning_v1& shown = ranking ? *ranking : none;
-    m_entries = rankingEntries(shown);
-    m_add->setEnabled(ranking != nullptr);
-    m_remove->setEnabled(!m_entries.empty());
-    m_isFilling = true;
-    m_table->setRowCount(static_cast<int>(m_entries.size()));
-    for (int row = 0; row < m_table->rowCount(); ++row) {
-        const QStringList texts = textsOf(m_entries[static_cast<std::size_t>(row)]);
-        for (int column = ReleaseColumn; column <= PositionColumn; ++column)
-            setNumber(*m_table, row, column, texts[column]);
-    }
-    m_isFilling = false;
+    m_add.setEnabled(ranking != nullptr);
+    m_model.show(rankingEntries(shown));
     m_positions->show(positionChart(shown));
     m_points->show(pointsChart(shown));
 }
 
-RankingEntry RankingSection::typedEntry(int column, const QString& typed) const {
-    RankingEntry entry;
-    if (column == ReleaseColumn)
-        entry.release = typedRelease(typed);
-    else if (column == PointsColumn)
-        entry.points = typedPoints(typed);
-    else
-        entry.position = typedPosition(typed);
-    return entry;
-}
-
-void RankingSection::take(int row, int column, const QString& typed) {
-    const auto place = static_cast<std::size_t>(row);
-    if (place >= m_entries.size() || textsOf(m_entries[place])[column] == typed)
-        return;
-    try {
-        emit entered(place, typedEntry(column, typed));
-    } catch (const RefusedEntry& refusal) {
-        m_cells->refuse(refusal.reason());
-        m_isFilling = true;
-        setNumber(*m_table, row, column, textsOf(m_entries[place])[column]);
-        m_isFilling = false;
-    }
-}
-
 void RankingSection::addRelease() {
-    if (!m_add->isEnabled())
+    if (!m_add.isEnabled())
         return;
     std::int64_t release = 0;
     constexpr std::int64_t Most = 999999999;
-    for (const RankingEntry& entry : m_entries)
+    for (const RankingEntry& entry : m_model.rows())
         release = std::max(release, std::min(entry.release.value_or(0), Most - 1));
-    const std::size_t row = m_entries.size();
+    const std::size_t row = m_model.rows().size();
     emit entered(row, {release + 1, 0, 0});
-    m_table->setFocus();
-    m_table->setCurrentCell(static_cast<int>(row), PointsColumn);
-    if (QTableWidgetItem* const item = m_table->currentItem())
-        m_table->editItem(item);
+    m_table->edit(static_cast<int>(row), PointsColumn);
 }
 
 void RankingSection::removeCurrent() {
-    if (m_table->currentRow() >= 0)
-        emit removed(static_cast<std::size_t>(m_table->currentRow()));
+    if (m_table->currentPlace() >= 0)
+        emit removed(static_cast<std::size_t>(m_table->currentPlace()));
 }
 
 } // namespace kavela::desktop

@@ -1,15 +1,15 @@
 #pragma once
 
+#include "desktop/shell/tables/column_model.h"
 #include "planning/season_results.h"
 
 #include <QWidget>
 
-class QPushButton;
-class QTableWidget;
+class QAction;
 
 namespace kavela::desktop {
 
-class CellDelegate;
+class ColumnTable;
 class SeriesChart;
 
 /// The releases of the ranking list: a table to type in, and charts of position and points.
@@ -22,7 +22,7 @@ public:
     /// Shows the list of a season; nothing to edit for a null one.
     void show(const icfdataplanning_v1* ranking);
 
-    [[nodiscard]] QTableWidget& table() const { return *m_table; }
+    [[nodiscard]] ColumnTable& table() const { return *m_table; }
     /// A release behind the last one, with its points open for typing.
     void addRelease();
     void removeCurrent();
@@ -33,18 +33,13 @@ signals:
     void removed(std::size_t row);
 
 private:
-    void makeTable();
-    void take(int row, int column, const QString& typed);
-    [[nodiscard]] RankingEntry typedEntry(int column, const QString& typed) const;
+    [[nodiscard]] std::vector<Column<RankingEntry>> columns();
 
-    QTableWidget* m_table;
-    CellDelegate* m_cells;
-    QPushButton* m_add;
-    QPushButton* m_remove;
+    ColumnModel<RankingEntry> m_model;
+    ColumnTable* m_table;
+    QAction& m_add;
     SeriesChart* m_positions;
     SeriesChart* m_points;
-    std::vector<RankingEntry> m_entries;
-    bool m_isFilling = false;
 };
 
 } // namespace kavela::desktop

@@ -1,17 +1,19 @@
 #include "desktop/planning/ranking/statistics_dialog.h"
 
-#include "desktop/planning/ranking/plain_table.h"
+#include "desktop/shell/tables/column_model.h"
+#include "desktop/shell/tables/column_table.h"
 #include "desktop/shell/theme.h"
 #include "desktop/team/typed_values.h"
 #include "planning/season_results.h"
 #include "splitdata/run_timing.h"
 
 #include <QDialogButtonBox>
-#include <QHeaderView>
 #include <QLabel>
 #include <QPushButton>
-#include <QTableWidget>
 #include <QVBoxLayout>
+
+#include <memory>
+#include <numeric>
 
 namespace kavela::desktop {
 
@@ -26,42 +28,56 @@ QString countText(const statisticsplanning_v3& statistics) {
     return StatisticsDialog::tr("%1 in races, %2 in all").arg(races).arg(runs);
 }
 
-QTableWidget* runTable(const penaltydataplanning_v1& runs) {
-    auto* const table = plainTable({StatisticsDialog::tr("Date"), StatisticsDialog::tr("Session"),
-                                    StatisticsDialog::tr("Event"), StatisticsDialog::tr("Phase"),
-                                    StatisticsDialog::tr("Place"), StatisticsDialog::tr("Touches"),
-                                    StatisticsDialog::tr("Missed gates")});
-    table->setObjectName("runs");
-    const int rows = static_cast<int>(runs.date.size());
-    table->setRowCount(rows);
-    for (int row = 0; row < rows; ++row) {
-        const auto i = static_cast<std::size_t>(row);
-        int column = 0;
-        setText(*table, row, column++, dayShown(runs.date[i]));
-        for (const auto* list : {&runs.session, &runs.event, &runs.phase, &runs.location})
-            setText(*table, row, column++, QString::fromStdString(entryOrZero(*list, i)));
-        for (const auto* list : {&runs.touches, &runs.fifties})
-            setNumber(*table, row, column++, QString::number(entryOrZero(*list, i)));
-    }
-    QHeaderView* const header = table->horizontalHeader();
-    header->setStretchLastSection(false);
-    header->setSectionResizeMode(QHeaderView::ResizeToContents);
-    header->setSectionResizeMode(EventColumn, QHeaderView::Stretch);
-    header->setSectionResizeMode(PlaceColumn, QHeaderView::Stretch);
+/// A table that lives as long as the dialog; its rows are shown once.
+template <class Row>
+ColumnTable* tableOf(std::vector<Column<Row>> columns, std::vector<Row> rows, const char* name,
+                     QWidget* dialog) {
+    auto* const model = new ColumnModel<Row>(std::move(columns), {}, dialog);
+    model->show(std::move(rows));
+    return new ColumnTable(*model, name, dialog);
+}
+
+ColumnTable* runTable(const penaltydataplanning_v1& found, QWidget* dialog) {
+    const auto runs = std::make_shared<penaltydataplanning_v1>(found);
+    const auto text = [runs](const QString& title,
+                             std::vector<std::string> penaltydataplanning_v1::*list) {
+        return textColumn<std::size_t>(title, [runs, list](std::size_t run) {
+            return QString::fromStdString(entryOrZero((*runs).*list, run));
+        });
+    };
+    const auto count = [runs](const QString& title,
+                              std::vector<std::int64_t> penaltydataplanning_v1::*list) {
+        return numberColumn<std::size_t>(
+            title,
+            [runs, list](std::size_t run) {
+                return static_cast<double>(entryOrZero((*runs).*list, run));
+            },
+            [](double number) { return QString::number(number); });
+    };
+    const auto tr = [](const char* title) { return StatisticsDialog::tr(title); };
+    using Runs = penaltydataplanning_v1;
+    std::vector<std::size_t> rows(runs->date.size());
+    std::iota(rows.begin(), rows.end(), std::size_t{0});
+    auto* const table = tableOf<std::size_t>(
+        {textColumn<std::size_t>(tr("Date"),
+                                 [runs](std::size_t run) { return dayShown(runs->date[run]); }),
+         text(tr("Session"), &Runs::session), text(tr("Event"), &Runs::event),
+         text(tr("Phase"), &Runs::phase), text(tr("Place"), &Runs::location),
+         count(tr("Touches"), &Runs::touches), count(tr("Missed gates"), &Runs::fifties)},
+        std::move(rows), "runs", dialog);
+    table->stretch({EventColumn, PlaceColumn});
     return table;
 }
 
-QTableWidget* leftOutTable(const std::vector<SplitStatistics::LeftOut>& leftOut) {
+ColumnTable* leftOutTable(const std::vector<SplitStatistics::LeftOut>& leftOut, QWidget* dialog) {
+    using File = SplitStatistics::LeftOut;
     auto* const table =
-        plainTable({StatisticsDialog::tr("Left out"), StatisticsDialog::tr("Because it")});
-    table->setObjectName("leftOut");
-    table->setRowCount(static_cast<int>(leftOut.size()));
-    for (int row = 0; row < table->rowCount(); ++row) {
-        const auto& file = leftOut[static_cast<std::size_t>(row)];
-        setText(*table, row, 0, file.file);
-        setText(*table, row, 1, file.reason);
-    }
-    table->resizeColumnsToContents();
+        tableOf<File>({textColumn<File>(StatisticsDialog::tr("Left out"),
+                                        [](const File& file) { return file.file; }),
+                       textColumn<File>(StatisticsDialog::tr("Because it"),
+                                        [](const File& file) { return file.reason; })},
+                      leftOut, "leftOut", dialog);
+    table->stretch({1});
     return table;
 }
 
@@ -96,9 +112,9 @@ StatisticsDialog::StatisticsDialog(const statisticsplanning_v3& before,
     column->setSpacing(theme::Spacing);
     column->addWidget(summary);
     if (isAny)
-        column->addWidget(runTable(found.pendata), 2);
+        column->addWidget(runTable(found.pendata, this), 2);
     if (!leftOut.empty())
-        column->addWidget(leftOutTable(leftOut), 1);
+        column->addWidget(leftOutTable(leftOut, this), 1);
     column->addWidget(buttons);
     resize(760, 520);
     if (isAny)

@@ -1,0 +1,50 @@
+#include "desktop/shell/forms/field_texts.h"
+
+#include "desktop/shell/shown_number.h"
+
+#include <QDate>
+
+#include <cmath>
+
+namespace kavela::desktop {
+
+namespace {
+
+constexpr double SecondsOfDay = 86400;
+const QDate FirstDay(2001, 1, 1);
+
+} // namespace
+
+QString shownText(const std::string& text) {
+    return QString::fromStdString(text);
+}
+
+std::string typedText(const QVariant& typed) {
+    return typed.toString().simplified().toStdString();
+}
+
+QVariant shownDay(ReferenceDate date) {
+    const QDate day = QDate::fromString(QString::fromStdString(dayText(date)), "yyyy-MM-dd");
+    return date == ReferenceDate() || !day.isValid() ? QVariant() : QVariant(day);
+}
+
+ReferenceDate typedDayAfter(const QVariant& typed, ReferenceDate before) {
+    const QDate day = typed.toDate();
+    if (!day.isValid())
+        return {};
+    const bool isInCalendar = shownDay(before).isValid();
+    const double timeOfDay =
+        isInCalendar ? before.seconds - std::floor(before.seconds / SecondsOfDay) * SecondsOfDay
+                     : 0;
+    return {static_cast<double>(FirstDay.daysTo(day)) * SecondsOfDay + timeOfDay};
+}
+
+QString secondsOrNothing(double seconds) {
+    return seconds == 0 ? QString() : shownNumber(seconds);
+}
+
+QString wholeOrNothing(std::int64_t number) {
+    return number == 0 ? QString() : QString::number(number);
+}
+
+} // namespace kavela::desktop
