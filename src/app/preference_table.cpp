@@ -1,6 +1,8 @@
-#include "app/preferences.h"
+#include "app/preference_table.h"
 
+#include <algorithm>
 #include <array>
+#include <stdexcept>
 
 namespace kavela {
 
@@ -61,6 +63,13 @@ const auto& table() {
 
 std::span<const PreferenceEntry> preferenceTable() {
     return table();
+}
+
+const PreferenceEntry& preferenceEntry(std::string_view key) {
+    const auto entry = std::ranges::find(table(), key, &PreferenceEntry::key);
+    if (entry == table().end())
+        throw std::logic_error("no preference is called " + std::string(key));
+    return *entry;
 }
 
 } // namespace kavela

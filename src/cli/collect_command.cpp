@@ -1,8 +1,8 @@
 #include "cli/commands.h"
 
-#include "app/preferences.h"
 #include "cli/console.h"
 #include "cli/split_file_edit.h"
+#include "cli/user_preferences.h"
 #include "common/error.h"
 #include "splittaking/messages.h"
 #include "splittaking/training_collection.h"
@@ -28,8 +28,8 @@ bool isCollected(TrainingCollection& collection, const fs::path& target) {
     return isSaved(collection.document, target.string());
 }
 
-int collect(const CollectCall& call) {
-    const TrainingPlan plan{call.athlete, Preferences().integer("predeterminatedsplits"),
+int collect(const CollectCall& call, const UserPreferences& preferences) {
+    const TrainingPlan plan{call.athlete, preferences.integer("predeterminatedsplits"),
                             systemNow()};
     TrainingCollection collection;
     try {
@@ -65,7 +65,7 @@ std::string complaintAbout(const std::string& athlete) {
 
 } // namespace
 
-void addCollect(Command program, int& status) {
+void addCollect(Command program, int& status, const Painting* painting) {
     const auto call = std::make_shared<CollectCall>();
     Command command = program.command(
         "collect", "Makes a training file of the videos that carry an athlete's name");
@@ -75,7 +75,7 @@ void addCollect(Command program, int& status) {
         .check(complaintAbout);
     command.flag("--replace", call->replace, "Replace a training file that is there already");
     command.footer("The file is written to the folder as treining.kvx.");
-    command.onRun([call, &status] { status = collect(*call); });
+    command.onRun([=, &status] { status = collect(*call, UserPreferences(painting)); });
 }
 
 } // namespace kavela::cli

@@ -3,22 +3,24 @@
 #include "cli/call.h"
 
 /// The subcommands of `kavela`. Each adds itself to the call's parser; when the call names it, it
-/// does its work and leaves the exit status.
+/// does its work and leaves the exit status. `painting` is null in a program that has none.
 namespace kavela::cli {
+
+class Painting;
 
 void addInfo(Command program, int& status);
 void addUpgrade(Command program, int& status);
-void addShow(Command program, int& status);
+void addShow(Command program, int& status, const Painting* painting);
 void addPerfect(Command program, int& status);
-void addExport(Command program, int& status);
+void addExport(Command program, int& status, const Painting* painting);
 void addImportResults(Command program, int& status);
-void addCollect(Command program, int& status);
-void addTeam(Command program, int& status);
-void addSelection(Command program, int& status);
+void addCollect(Command program, int& status, const Painting* painting);
+void addTeam(Command program, int& status, const Painting* painting);
+void addSelection(Command program, int& status, const Painting* painting);
 void addPlanning(Command program, int& status);
 void addGym(Command program, int& status);
 void addConvert(Command program, int& status);
 void addStrokes(Command program, int& status);
-void addDemo(Command program, int& status);
+void addDemo(Command program, int& status, const Painting* painting);
 
 } // namespace kavela::cli

@@ -1,11 +1,8 @@
 #include "cli/commands.h"
 
-#include "app/preferences.h"
 #include "cli/console.h"
-#include "cli/offscreen_application.h"
+#include "cli/user_preferences.h"
 #include "common/safe_file.h"
-#include "report/pdf_file.h"
-#include "report/race_report.h"
 #include "splitdata/loader.h"
 #include "splittaking/table_export.h"
 
@@ -25,8 +22,7 @@ struct ExportCall {
 };
 
 /// The table's settings, as the user left them.
-TableSettings preferredSettings() {
-    const Preferences preferences;
+TableSettings preferredSettings(const UserPreferences& preferences) {
     TableSettings settings;
     settings.penaltiesIncluded = preferences.boolean("penaltiesIncluded");
     settings.penaltiesVisible = preferences.boolean("penaltiesVisible");
@@ -34,14 +30,9 @@ TableSettings preferredSettings() {
     return settings;
 }
 
-/// Paints the report into a file.
-void writeReport(splittakerdata031 document, const ExportCall& call) {
-    const OffscreenApplication application;
-    report::ReportHeading heading = report::reportHeading(document.info);
-    const RaceSet set = makeRaceSet(std::move(document), call.file);
-    const report::RaceReport report(std::move(heading), set, preferredSettings(),
-                                    report::ReportContent::Race);
-    report::writePdf(report, call.pdf);
+void writeReport(splittakerdata031 document, const ExportCall& call, const Painting& painting) {
+    painting.writeRaceReport(std::move(document), call.file,
+                             preferredSettings(UserPreferences(&painting)), call.pdf);
 }
 
 /// Writes one of the files; false, and the reason in the log, when that failed.
@@ -70,7 +61,8 @@ std::string complaint(const ExportCall& call) {
     return {};
 }
 
-int exportRace(const ExportCall& call) {
+int exportRace(const ExportCall& call, const Painting* painting) {
+    const Painting* const painter = neededIf(!call.pdf.empty(), painting);
     if (const std::string text = complaint(call); !text.empty()) {
         logLine(text);
         return WrongCall;
@@ -85,14 +77,15 @@ int exportRace(const ExportCall& call) {
     if (!call.csv.empty())
         isDone =
             isWritten(call.csv, [&] { writeFileSafely(call.csv, splitTableCsv(file.document)); });
-    if (!call.pdf.empty())
-        isDone &= isWritten(call.pdf, [&] { writeReport(std::move(file.document), call); });
+    if (painter)
+        isDone &=
+            isWritten(call.pdf, [&] { writeReport(std::move(file.document), call, *painter); });
     return isDone ? Done : NotDone;
 }
 
 } // namespace
 
-void addExport(Command program, int& status) {
+void addExport(Command program, int& status, const Painting* painting) {
     const auto call = std::make_shared<ExportCall>();
     Command command =
         program.command("export", "Writes the split table for a spreadsheet, or a report");
@@ -101,7 +94,7 @@ void addExport(Command program, int& status) {
     command.option("--pdf", call->pdf, "File to write: the race report, on A4 pages");
     command.footer("At least one of the two is written. A file of an older release is read without "
                    "being rewritten.");
-    command.onRun([call, &status] { status = exportRace(*call); });
+    command.onRun([=, &status] { status = exportRace(*call, painting); });
 }
 
 } // namespace kavela::cli

@@ -1,7 +1,7 @@
 #include "cli/commands.h"
 
 #include "cli/console.h"
-#include "cli/report_files.h"
+#include "cli/painting.h"
 #include "cli/selection_json.h"
 #include "cli/selection_text.h"
 #include "cli/split_file_edit.h"
@@ -9,8 +9,6 @@
 #include "common/folded_text.h"
 #include "common/number_text.h"
 #include "common/text_file.h"
-#include "report/selection_report.h"
-#include "report/selection_times_report.h"
 #include "results/list_lines.h"
 #include "results/messages.h"
 #include "results/selection_attach.h"
@@ -76,15 +74,8 @@ void warnOfZeros(const selectionracesStruct_v3& document) {
     }
 }
 
-bool areBothWritten(const selectionracesStruct_v3& document, const SelectionCall& call) {
-    return areReportsWritten(
-        {{report::SelectionFileName, [&] { return report::selectionReport(document, call.bonus); }},
-         {report::selectionTimesFileName(document),
-          [&] { return report::selectionTimesReport(document, call.bonus); }}},
-        call.pdf);
-}
-
-int rank(const SelectionCall& call) {
+int rank(const SelectionCall& call, const Painting* painting) {
+    const Painting* const painter = neededIf(!call.pdf.empty(), painting);
     auto file = openedSelection(call.file);
     if (!file || (call.write && !isWritable(*file, call.file)))
         return NotDone;
@@ -95,7 +86,7 @@ int rank(const SelectionCall& call) {
         logLine("No athlete has a bonus of kind " + std::to_string(*call.bonus) + '.');
     if (call.write && !saveSelectionFile(document, call.file, logLine))
         return NotDone;
-    if (!call.pdf.empty() && !areBothWritten(document, call))
+    if (painter && !painter->isSelectionWritten(document, call.bonus, call.pdf))
         return NotDone;
     const std::string output =
         call.json ? selectionJson(document, call.bonus) : selectionText(document, call.bonus);
@@ -266,7 +257,8 @@ Complaint wholeNumber() {
     };
 }
 
-void addRank(Command selection, const std::shared_ptr<SelectionCall>& call, int& status) {
+void addRank(Command selection, const std::shared_ptr<SelectionCall>& call, int& status,
+             const Painting* painting) {
     Command command = selection.command("rank", "The ranking of each category");
     command.option("FILE", call->file, "Selection file (.kvsr) of any layout").required();
     command.option("--bonus", call->bonus, "Kind of bonus that counts, from 0")
@@ -276,7 +268,7 @@ void addRank(Command selection, const std::shared_ptr<SelectionCall>& call, int&
     command.flag("--write", call->write, "Store percentages and scores in the file");
     command.footer("Percentages in brackets do not count: the worst race, with a bonus the second "
                    "worst too. Without --write the file is only read.");
-    command.onRun([call, &status] { status = rank(*call); });
+    command.onRun([=, &status] { status = rank(*call, painting); });
 }
 
 void addImportAthletes(Command selection, const std::shared_ptr<SelectionCall>& call, int& status) {
@@ -309,11 +301,11 @@ void addAttach(Command selection, const std::shared_ptr<SelectionCall>& call, in
 
 } // namespace
 
-void addSelection(Command program, int& status) {
+void addSelection(Command program, int& status, const Painting* painting) {
     const auto call = std::make_shared<SelectionCall>();
     Command selection = program.command("selection", "Selection races and their ranking");
     selection.needsCommand();
-    addRank(selection, call, status);
+    addRank(selection, call, status, painting);
     addImportAthletes(selection, call, status);
     addAttach(selection, call, status);
 }

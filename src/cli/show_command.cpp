@@ -1,10 +1,10 @@
 #include "cli/commands.h"
 
 #include "analysis/split_table.h"
-#include "app/preferences.h"
 #include "cli/console.h"
 #include "cli/show_json.h"
 #include "cli/show_text.h"
+#include "cli/user_preferences.h"
 #include "splitdata/loader.h"
 
 #include <memory>
@@ -25,8 +25,7 @@ struct ShowCall {
     bool json = false;
 };
 
-TableSettings settingsOf(const ShowCall& call) {
-    const Preferences preferences;
+TableSettings settingsOf(const ShowCall& call, const UserPreferences& preferences) {
     const auto decided = [&](int flag, std::string_view key) {
         return flag == 0 ? preferences.boolean(key) : flag > 0;
     };
@@ -62,7 +61,8 @@ void filter(RaceSet& set, std::string analyzerdata::*field, const std::string& w
                 present + ".");
 }
 
-int show(const ShowCall& call) {
+int show(const ShowCall& call, const Painting* painting) {
+    const TableSettings settings = settingsOf(call, UserPreferences(painting));
     RecognisedSplitFile file = recogniseSplitFile(call.file, logLine, systemNow);
     if (!file.version) {
         ConsoleAlerts alerts;
@@ -74,7 +74,6 @@ int show(const ShowCall& call) {
     filter(set, &analyzerdata::category, call.category, "category");
     filter(set, &analyzerdata::phase, call.phase, "phase");
 
-    const TableSettings settings = settingsOf(call);
     const SplitTable table = makeSplitTable(set, settings);
     const std::string output =
         call.json ? tableJson(table) : tableText(heading, table, settings, standardOutput());
@@ -83,7 +82,7 @@ int show(const ShowCall& call) {
 
 } // namespace
 
-void addShow(Command program, int& status) {
+void addShow(Command program, int& status, const Painting* painting) {
     const auto call = std::make_shared<ShowCall>();
     Command command = program.command("show", "Prints the coloured split table of a race");
     command.option("FILE", call->file, "Split file (.kvx) of any release").required();
@@ -97,7 +96,7 @@ void addShow(Command program, int& status) {
     command.option("--phase", call->phase, "Only runs of this phase");
     command.flag("--json", call->json, "Print one JSON document");
     command.footer("A file of an older release is read without being rewritten.");
-    command.onRun([call, &status] { status = show(*call); });
+    command.onRun([=, &status] { status = show(*call, painting); });
 }
 
 } // namespace kavela::cli

@@ -1,10 +1,9 @@
 #include "cli/commands.h"
 
 #include "cli/console.h"
-#include "cli/report_files.h"
+#include "cli/painting.h"
 #include "common/display_text.h"
 #include "common/json_encode.h"
-#include "report/team_report.h"
 #include "results/athlete_summary.h"
 #include "results/categorization.h"
 #include "results/team_file.h"
@@ -100,15 +99,13 @@ std::string categorizationText(const std::vector<Categorization>& all, const Tea
     return text;
 }
 
-int categorize(const TeamCall& call) {
+int categorize(const TeamCall& call, const Painting* painting) {
+    const Painting* const painter = neededIf(!call.pdf.empty(), painting);
     const auto team = openedTeam(call.file);
     if (!team)
         return NotDone;
     const std::vector<Categorization> all = categorizeTeam(*team, call.category);
-    if (!call.pdf.empty() &&
-        !areReportsWritten({{report::CategorizationFileName,
-                             [&] { return report::categorizationReport(call.category, all); }}},
-                           call.pdf))
+    if (painter && !painter->isCategorizationWritten(call.category, all, call.pdf))
         return NotDone;
     return print(call.json ? encode(all) + '\n' : categorizationText(all, call)) ? Done : NotDone;
 }
@@ -126,7 +123,7 @@ Command addCall(Command team, const char* name, const char* help, TeamCall& call
 
 } // namespace
 
-void addTeam(Command program, int& status) {
+void addTeam(Command program, int& status, const Painting* painting) {
     const auto call = std::make_shared<TeamCall>();
     Command team = program.command("team", "What the athletes of a team reached");
     team.needsCommand();
@@ -138,7 +135,7 @@ void addTeam(Command program, int& status) {
     Command categorization =
         addCall(team, "categorize", "Puts athletes into levels by their first two seasons", *call);
     categorization.option("--pdf", call->pdf, "Folder to write \"2025 Categorization.pdf\" into");
-    categorization.onRun([call, &status] { status = categorize(*call); });
+    categorization.onRun([=, &status] { status = categorize(*call, painting); });
 }
 
 } // namespace cli

@@ -1,9 +1,9 @@
-#include "app/start_up.h"
 #include "desktop/desktop.h"
 #include "desktop/shell/diagnostic_log.h"
 #include "desktop/shell/scheme.h"
 #include "desktop/shell/screen_fit.h"
 #include "desktop/start_options.h"
+#include "preferences/start_up.h"
 
 #include <QApplication>
 #include <QStandardPaths>

@@ -1,7 +1,7 @@
 #include "desktop/shell/workspace.h"
 
-#include "app/start_up.h"
 #include "desktop/shell/alert_boxes.h"
+#include "preferences/start_up.h"
 
 #include <QMessageBox>
 #include <QPushButton>

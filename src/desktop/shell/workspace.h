@@ -1,10 +1,10 @@
 #pragma once
 
-#include "app/preferences.h"
 #include "common/alerts.h"
 #include "common/log.h"
 #include "common/reference_date.h"
 #include "desktop/shell/open_files.h"
+#include "preferences/preferences.h"
 
 #include <QObject>
 #include <QStringList>

@@ -1,4 +1,4 @@
-#include "app/start_up.h"
+#include "preferences/start_up.h"
 
 #include "common/json_decode.h"
 

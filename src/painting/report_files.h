@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-namespace kavela::cli {
+namespace kavela::painting {
 
 /// A report to be written under a name of its own.
 struct ReportFile {
@@ -21,4 +21,4 @@ struct ReportFile {
 [[nodiscard]] bool areReportsWritten(const std::vector<ReportFile>& reports,
                                      const std::filesystem::path& folder);
 
-} // namespace kavela::cli
+} // namespace kavela::painting

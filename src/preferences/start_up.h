@@ -1,7 +1,7 @@
 #pragma once
 
-#include "app/preferences.h"
 #include "common/log.h"
+#include "preferences/preferences.h"
 
 #include <filesystem>
 #include <string>

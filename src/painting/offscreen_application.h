@@ -5,7 +5,7 @@
 #include <array>
 #include <string>
 
-namespace kavela::cli {
+namespace kavela::painting {
 
 /// The application object that fonts ask for. It stays off the screen: a server has none, and one
 /// that cannot be reached would end the program.
@@ -21,4 +21,4 @@ private:
     QGuiApplication m_application;
 };
 
-} // namespace kavela::cli
+} // namespace kavela::painting

@@ -1,11 +1,11 @@
-#include "cli/report_files.h"
+#include "painting/report_files.h"
 
 #include "cli/console.h"
-#include "cli/offscreen_application.h"
 #include "common/error.h"
+#include "painting/offscreen_application.h"
 #include "report/pdf_file.h"
 
-namespace kavela::cli {
+namespace kavela::painting {
 
 bool areReportsWritten(const std::vector<ReportFile>& reports,
                        const std::filesystem::path& folder) {
@@ -15,13 +15,13 @@ bool areReportsWritten(const std::vector<ReportFile>& reports,
         try {
             writePdf(*file.make(), folder / file.name);
         } catch (const FileError& error) {
-            logLine("Failed to create file");
-            logLine("The file " + pathText(error.path()) +
-                    " could not be written: " + error.reason());
+            cli::logLine("Failed to create file");
+            cli::logLine("The file " + cli::pathText(error.path()) +
+                         " could not be written: " + error.reason());
             areWritten = false;
         }
     }
     return areWritten;
 }
 
-} // namespace kavela::cli
+} // namespace kavela::painting

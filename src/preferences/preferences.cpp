@@ -1,10 +1,8 @@
-#include "app/preferences.h"
+#include "preferences/preferences.h"
 
 #include <QSettings>
 #include <QStringList>
 #include <QUrl>
-
-#include <stdexcept>
 
 namespace kavela {
 
@@ -12,13 +10,6 @@ namespace {
 
 QString qtText(std::string_view text) {
     return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
-
-const PreferenceEntry& entryFor(std::string_view key) {
-    for (const PreferenceEntry& entry : preferenceTable())
-        if (entry.key == key)
-            return entry;
-    throw std::logic_error("no preference is called " + std::string(key));
 }
 
 bool isText(const QVariant& stored) {
@@ -121,7 +112,7 @@ bool Preferences::contains(std::string_view key) const {
 }
 
 PreferenceValue Preferences::value(std::string_view key) const {
-    const PreferenceEntry& entry = entryFor(key);
+    const PreferenceEntry& entry = preferenceEntry(key);
     if (!contains(key))
         return entry.defaultValue;
     return readAs(entry.kind(), m_store->settings.value(qtText(key))).value_or(entry.defaultValue);

@@ -1,6 +1,6 @@
-#include "cli/offscreen_application.h"
+#include "painting/offscreen_application.h"
 
-namespace kavela::cli {
+namespace kavela::painting {
 
 namespace {
 
@@ -12,4 +12,4 @@ void ignoreMessage(QtMsgType, const QMessageLogContext&, const QString&) {}
 OffscreenApplication::OffscreenApplication()
     : m_application((qInstallMessageHandler(ignoreMessage), m_count), m_pointers.data()) {}
 
-} // namespace kavela::cli
+} // namespace kavela::painting

@@ -1,4 +1,4 @@
-#include "app/start_up.h"
+#include "preferences/start_up.h"
 
 #include "common/recorders.h"
 #include "common/temp_folder.h"

@@ -1,15 +1,15 @@
-#include "cli/demo_films.h"
+#include "painting/season_film_files.h"
 
 #include "cli/console.h"
-#include "cli/offscreen_application.h"
 #include "cli/progress_bar.h"
 #include "common/error.h"
 #include "common/parallel.h"
 #include "common/safe_file.h"
 #include "films/film_writer.h"
 #include "films/season_films.h"
+#include "painting/offscreen_application.h"
 
-namespace kavela::cli {
+namespace kavela::painting {
 
 namespace {
 
@@ -31,7 +31,7 @@ void makeAt(const fs::path& target, const films::FilmScene& scene) {
 }
 
 void makeFilms(const std::vector<films::PlannedFilm>& plans, const fs::path& folder) {
-    ProgressBar progress(plans.size());
+    cli::ProgressBar progress(plans.size());
     parallelFor(plans.size(), [&](std::size_t i) {
         makeAt(folder / plans[i].name, *plans[i].scene);
         progress.step();
@@ -40,23 +40,17 @@ void makeFilms(const std::vector<films::PlannedFilm>& plans, const fs::path& fol
 
 } // namespace
 
-int writeFilms(const fs::path& folder) {
+int writeSeasonFilms(const fs::path& folder) {
     try {
         const std::vector<films::PlannedFilm> plans = missingFilms(folder);
         makeFilms(plans, folder);
-        const std::string count = counted(static_cast<std::int64_t>(plans.size()), "film", "films");
-        return print("Made " + count + ".\n") ? Done : NotDone;
+        const std::string count =
+            cli::counted(static_cast<std::int64_t>(plans.size()), "film", "films");
+        return cli::print("Made " + count + ".\n") ? cli::Done : cli::NotDone;
     } catch (const films::FilmError& error) {
-        logLine(error.what());
-        return NotDone;
+        cli::logLine(error.what());
+        return cli::NotDone;
     }
 }
 
-std::string filmsHelp() {
-    return "The films show the final of races/riverside_cup.kvx and all runs of "
-           "races/harbour_night.kvx and training/form_test.kvx from above and stand beside these "
-           "files: 63 films, 85 MB in all, made in about a minute. A film that is there already "
-           "stays as it is, so that a call that was stopped can be repeated.";
-}
-
-} // namespace kavela::cli
+} // namespace kavela::painting

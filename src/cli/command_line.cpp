@@ -1,0 +1,71 @@
+#include "cli/command_line.h"
+
+#include "cli/call.h"
+#include "cli/commands.h"
+#include "cli/console.h"
+#include "cli/other_program.h"
+#include "cli/painting.h"
+#include "cli/start_desktop.h"
+
+#include <exception>
+#include <new>
+#include <string>
+#include <vector>
+
+namespace kavela::cli {
+
+namespace {
+
+/// Parses the call and runs the subcommand it names.
+int run(int argc, char** argv, const char* version, const Painting* painting) {
+    Call call("kavela", "Kavela: splits, results and recordings of canoe slalom.", version);
+    Command program = call.program();
+    program.footer(
+        "Without a command, the desktop program starts and opens the files in their tools.");
+    std::vector<std::string> files;
+    program.option("FILE", files, "Files to open in the desktop program");
+    int status = Done;
+    addInfo(program, status);
+    addUpgrade(program, status);
+    addShow(program, status, painting);
+    addPerfect(program, status);
+    addExport(program, status, painting);
+    addImportResults(program, status);
+    addCollect(program, status, painting);
+    addTeam(program, status, painting);
+    addSelection(program, status, painting);
+    addPlanning(program, status);
+    addGym(program, status);
+    addConvert(program, status);
+    addStrokes(program, status);
+    addDemo(program, status, painting);
+    if (const auto ended = call.run(argc, argv))
+        return *ended;
+    return call.namesCommand() ? status : startDesktop(files);
+}
+
+int handOn(int argc, char** argv) {
+    constexpr OtherProgram PaintingProgram{"kavela-paint", "KAVELA_PAINT"};
+    const std::string program = become(PaintingProgram, {argv + 1, argv + argc});
+    logLine(
+        "This call needs the program that paints and makes films, which could not be started: " +
+        program);
+    return NotDone;
+}
+
+} // namespace
+
+int runCommandLine(int argc, char** argv, const char* version, const Painting* painting) {
+    try {
+        return run(argc, argv, version, painting);
+    } catch (const NeedsPainting&) {
+        return handOn(argc, argv);
+    } catch (const std::bad_alloc&) {
+        logLine("There is not enough memory for this file.");
+    } catch (const std::exception& error) {
+        logLine(error.what());
+    }
+    return NotDone;
+}
+
+} // namespace kavela::cli

@@ -1,0 +1,68 @@
+#pragma once
+
+#include "analysis/split_table.h"
+#include "app/preference_table.h"
+#include "results/categorization.h"
+#include "results/selection_records.h"
+#include "splitdata/document.h"
+
+#include <cstddef>
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace kavela::cli {
+
+/// What commands do with libraries that take longer to load than a table takes to print: those that
+/// paint, make films and keep preferences. `kavela` does without them; a command that needs this
+/// asks for it with `neededIf` before it prints or writes anything, and `kavela-paint` takes over.
+class Painting {
+public:
+    virtual ~Painting() = default;
+
+    /// The value of a preference as the platform's store has it.
+    [[nodiscard]] virtual PreferenceValue preference(std::string_view key) const = 0;
+
+    /// Paints the report of a race into a file. `splitFile` is where the document stands. Throws
+    /// FileError when the report cannot be written.
+    virtual void writeRaceReport(splittakerdata031 document, const std::filesystem::path& splitFile,
+                                 const TableSettings& settings,
+                                 const std::filesystem::path& target) const = 0;
+
+    /// Paints the report of a categorization into a folder; false, after a message, when it cannot
+    /// be written.
+    [[nodiscard]] virtual bool
+    isCategorizationWritten(const std::string& category,
+                            const std::vector<Categorization>& athletes,
+                            const std::filesystem::path& folder) const = 0;
+
+    /// Paints both reports of a selection into a folder; false, after a message, when one of them
+    /// cannot be written.
+    [[nodiscard]] virtual bool isSelectionWritten(const selectionracesStruct_v3& document,
+                                                  std::optional<std::size_t> bonus,
+                                                  const std::filesystem::path& folder) const = 0;
+
+    /// Makes the films of the sample season beside their split files, with a progress bar; a film
+    /// that is there already stays. Returns the exit status; throws FileError when a film cannot be
+    /// written.
+    [[nodiscard]] virtual int writeSeasonFilms(const std::filesystem::path& folder) const = 0;
+};
+
+/// Thrown by a command of a program without painting: the call is for `kavela-paint`.
+struct NeedsPainting {};
+
+/// The painting of this program. Throws NeedsPainting where it has none.
+inline const Painting& needed(const Painting* painting) {
+    if (!painting)
+        throw NeedsPainting();
+    return *painting;
+}
+
+/// The painting that a call asks for; null where it asks for none.
+inline const Painting* neededIf(bool isAskedFor, const Painting* painting) {
+    return isAskedFor ? &needed(painting) : nullptr;
+}
+
+} // namespace kavela::cli

@@ -1,0 +1,52 @@
+#include "painting/own_painting.h"
+
+#include "painting/offscreen_application.h"
+#include "painting/report_files.h"
+#include "painting/season_film_files.h"
+#include "preferences/preferences.h"
+#include "report/pdf_file.h"
+#include "report/race_report.h"
+#include "report/selection_report.h"
+#include "report/selection_times_report.h"
+#include "report/team_report.h"
+
+namespace kavela::painting {
+
+namespace fs = std::filesystem;
+
+PreferenceValue OwnPainting::preference(std::string_view key) const {
+    return Preferences().value(key);
+}
+
+void OwnPainting::writeRaceReport(splittakerdata031 document, const fs::path& splitFile,
+                                  const TableSettings& settings, const fs::path& target) const {
+    const OffscreenApplication application;
+    const report::ReportHeading heading = report::reportHeading(document.info);
+    const RaceSet set = makeRaceSet(std::move(document), splitFile);
+    report::writePdf(report::RaceReport(heading, set, settings, report::ReportContent::Race),
+                     target);
+}
+
+bool OwnPainting::isCategorizationWritten(const std::string& category,
+                                          const std::vector<Categorization>& athletes,
+                                          const fs::path& folder) const {
+    return areReportsWritten({{report::CategorizationFileName,
+                               [&] { return report::categorizationReport(category, athletes); }}},
+                             folder);
+}
+
+bool OwnPainting::isSelectionWritten(const selectionracesStruct_v3& document,
+                                     std::optional<std::size_t> bonus,
+                                     const fs::path& folder) const {
+    return areReportsWritten(
+        {{report::SelectionFileName, [&] { return report::selectionReport(document, bonus); }},
+         {report::selectionTimesFileName(document),
+          [&] { return report::selectionTimesReport(document, bonus); }}},
+        folder);
+}
+
+int OwnPainting::writeSeasonFilms(const fs::path& folder) const {
+    return painting::writeSeasonFilms(folder);
+}
+
+} // namespace kavela::painting

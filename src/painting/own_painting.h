@@ -1,0 +1,23 @@
+#pragma once
+
+#include "cli/painting.h"
+
+namespace kavela::painting {
+
+/// The painting of a program that is linked with everything.
+class OwnPainting : public cli::Painting {
+public:
+    [[nodiscard]] PreferenceValue preference(std::string_view key) const override;
+    void writeRaceReport(splittakerdata031 document, const std::filesystem::path& splitFile,
+                         const TableSettings& settings,
+                         const std::filesystem::path& target) const override;
+    [[nodiscard]] bool isCategorizationWritten(const std::string& category,
+                                               const std::vector<Categorization>& athletes,
+                                               const std::filesystem::path& folder) const override;
+    [[nodiscard]] bool isSelectionWritten(const selectionracesStruct_v3& document,
+                                          std::optional<std::size_t> bonus,
+                                          const std::filesystem::path& folder) const override;
+    [[nodiscard]] int writeSeasonFilms(const std::filesystem::path& folder) const override;
+};
+
+} // namespace kavela::painting
