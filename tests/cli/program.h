@@ -21,15 +21,18 @@ struct Ending {
 /// The built program, called in a folder of its own, with preferences of its own.
 class Program {
 public:
+    explicit Program(std::string program = KAVELA_PROGRAM) : m_program(std::move(program)) {}
+
     [[nodiscard]] const TempFolder& folder() const { return m_work; }
 
-    /// Calls it with the work folder as the current one.
-    Ending call(const std::vector<std::string>& arguments) const {
+    /// Calls it with the work folder as the current one and a file as its input.
+    Ending call(const std::vector<std::string>& arguments,
+                const std::string& input = "/dev/null") const {
         const std::string output = (m_home.path() / "output").string();
         const std::string errors = (m_home.path() / "errors").string();
         const pid_t child = ::fork();
         if (child == 0)
-            become(arguments, output, errors);
+            become(arguments, input, output, errors);
         int status = 0;
         ::waitpid(child, &status, 0);
         return {WIFEXITED(status) ? WEXITSTATUS(status) : -1, contentOf(output), contentOf(errors)};
@@ -57,23 +60,24 @@ public:
     }
 
 private:
-    [[noreturn]] void become(std::vector<std::string> arguments, const std::string& output,
-                             const std::string& errors) const {
+    [[noreturn]] void become(std::vector<std::string> arguments, const std::string& input,
+                             const std::string& output, const std::string& errors) const {
         ::setenv("HOME", m_home.path().c_str(), 1);
         ::setenv("XDG_CONFIG_HOME", (m_home.path() / "config").c_str(), 1);
-        arguments.insert(arguments.begin(), KAVELA_PROGRAM);
+        arguments.insert(arguments.begin(), m_program);
         std::vector<char*> pointers;
         for (std::string& argument : arguments)
             pointers.push_back(argument.data());
         pointers.push_back(nullptr);
         const bool isReady =
-            ::chdir(m_work.path().c_str()) == 0 && std::freopen("/dev/null", "r", stdin) &&
+            ::chdir(m_work.path().c_str()) == 0 && std::freopen(input.c_str(), "r", stdin) &&
             std::freopen(output.c_str(), "w", stdout) && std::freopen(errors.c_str(), "w", stderr);
         if (isReady)
-            ::execv(KAVELA_PROGRAM, pointers.data());
+            ::execv(m_program.c_str(), pointers.data());
         ::_exit(127);
     }
 
+    std::string m_program;
     TempFolder m_work;
     TempFolder m_home;
 };
