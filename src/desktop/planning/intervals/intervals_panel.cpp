@@ -125,7 +125,8 @@ QWidget* IntervalsPanel::makeDetails() {
     column->setContentsMargins(theme::Spacing, 0, 0, 0);
     column->setSpacing(theme::LargeSpacing);
     column->addWidget(m_timer, 0, Qt::AlignLeft);
-    column->addWidget(m_form, 1);
+    column->addWidget(m_form);
+    column->addStretch(1);
     return details;
 }
 

@@ -22,6 +22,7 @@
 #include <QPainter>
 #include <QPushButton>
 #include <QScopedValueRollback>
+#include <QStyleOptionHeader>
 
 #include <algorithm>
 #include <numeric>
@@ -36,6 +37,29 @@ QList<int> allOf(int count) {
     std::iota(all.begin(), all.end(), 0);
     return all;
 }
+
+/// Room for the arrow is kept in the title that has it alone: tables are narrow, and titles many.
+class SortHeader : public QHeaderView {
+public:
+    explicit SortHeader(QWidget* parent) : QHeaderView(Qt::Horizontal, parent) {
+        connect(this, &QHeaderView::sortIndicatorChanged, this, [this] { resizeSections(); });
+    }
+
+protected:
+    QSize sectionSizeFromContents(int section) const override {
+        const QSize size = QHeaderView::sectionSizeFromContents(section);
+        if (section == sortIndicatorSection() || !isSortIndicatorShown())
+            return size;
+        QStyleOptionHeader plain;
+        initStyleOption(&plain);
+        const QSize withoutArrow =
+            style()->sizeFromContents(QStyle::CT_HeaderSection, &plain, {}, this);
+        plain.sortIndicator = QStyleOptionHeader::SortDown;
+        const QSize withArrow =
+            style()->sizeFromContents(QStyle::CT_HeaderSection, &plain, {}, this);
+        return {size.width() - withArrow.width() + withoutArrow.width(), size.height()};
+    }
+};
 
 } // namespace
 
@@ -70,7 +94,9 @@ ColumnTable::ColumnTable(RowModel& rows, const char* name, QWidget* parent)
 }
 
 void ColumnTable::makeHeader() {
-    QHeaderView* const header = horizontalHeader();
+    auto* const header = new SortHeader(this);
+    setHorizontalHeader(header);
+    header->setSectionsClickable(true);
     header->setHighlightSections(false);
     header->setSortIndicator(-1, Qt::AscendingOrder);
     header->setSortIndicatorClearable(true); // a third click: the order of the file
