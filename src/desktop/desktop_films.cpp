@@ -3,7 +3,7 @@
 #include "desktop/race/race_view.h"
 #include "desktop/race/race_window.h"
 #include "desktop/shell/file_names.h"
-#include "desktop/taking/taking_files.h"
+#include "desktop/splitfile/taking_files.h"
 #include "desktop/taking/taking_window.h"
 #include "splitdata/run_timing.h"
 

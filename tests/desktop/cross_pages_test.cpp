@@ -7,7 +7,7 @@
 #include "desktop/cross/results/results_page.h"
 #include "desktop/film/film_deck.h"
 #include "desktop/shell/workspace.h"
-#include "desktop/taking/taking_document.h"
+#include "desktop/splitfile/taking_document.h"
 #include "sample/races.h"
 #include "splitdata/loader.h"
 

@@ -1,6 +1,6 @@
 #include "desktop/notes_fixture.h"
 
-#include "desktop/taking/notes/code_combo.h"
+#include "desktop/splitfile/code_combo.h"
 #include "desktop/taking/notes/tag_page.h"
 
 #include <QCheckBox>

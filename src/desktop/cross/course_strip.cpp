@@ -2,7 +2,7 @@
 
 #include "desktop/shell/fault_label.h"
 #include "desktop/shell/theme.h"
-#include "desktop/taking/taking_document.h"
+#include "desktop/splitfile/taking_document.h"
 #include "splittaking/course_setup.h"
 
 #include <QFormLayout>

@@ -3,7 +3,7 @@
 #include "desktop/cross/trials/trial_page.h"
 #include "desktop/film/film_deck.h"
 #include "desktop/shell/workspace.h"
-#include "desktop/taking/folder_films.h"
+#include "desktop/splitfile/folder_films.h"
 #include "splittaking/marking.h"
 
 #include <QScopedValueRollback>

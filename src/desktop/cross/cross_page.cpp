@@ -1,7 +1,7 @@
 #include "desktop/cross/cross_page.h"
 
 #include "desktop/film/film_deck.h"
-#include "desktop/taking/taking_document.h"
+#include "desktop/splitfile/taking_document.h"
 
 #include <utility>
 

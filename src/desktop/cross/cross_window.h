@@ -2,7 +2,7 @@
 
 #include "desktop/cross/cross_page.h"
 #include "desktop/shell/tool_window.h"
-#include "desktop/taking/taking_document.h"
+#include "desktop/splitfile/taking_document.h"
 
 #include <functional>
 #include <map>

@@ -1,6 +1,6 @@
 #include "desktop/taking/expected_place.h"
 
-#include "desktop/taking/taking_document.h"
+#include "desktop/splitfile/taking_document.h"
 #include "splittaking/expected_split.h"
 
 #include <QObject>

@@ -3,7 +3,7 @@
 #include "desktop/shell/shown_number.h"
 #include "desktop/shell/theme.h"
 #include "desktop/shell/typed_number.h"
-#include "desktop/taking/taking_document.h"
+#include "desktop/splitfile/taking_document.h"
 #include "splitdata/run_timing.h"
 #include "splittaking/course_setup.h"
 #include "splittaking/messages.h"

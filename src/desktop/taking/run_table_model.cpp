@@ -1,7 +1,7 @@
 #include "desktop/taking/run_table_model.h"
 
 #include "desktop/shell/shown_number.h"
-#include "desktop/taking/taking_document.h"
+#include "desktop/splitfile/taking_document.h"
 #include "splitdata/run_timing.h"
 #include "splittaking/video_names.h"
 

@@ -1,7 +1,7 @@
 #include "desktop/film/film_deck.h"
+#include "desktop/film/film_grid.h"
 #include "desktop/motion/older_recordings.h"
 #include "desktop/shell/workspace.h"
-#include "desktop/taking/film_grid.h"
 #include "desktop/taking/recording/recording_dialog.h"
 #include "desktop/taking/taking_window.h"
 

@@ -1,6 +1,7 @@
 #include "desktop/taking/taking_window.h"
 
 #include "desktop/film/film_deck.h"
+#include "desktop/film/film_grid.h"
 #include "desktop/film/film_memory.h"
 #include "desktop/film/film_sound.h"
 #include "desktop/film/film_view.h"
@@ -14,7 +15,6 @@
 #include "desktop/shell/typing.h"
 #include "desktop/shell/window_place.h"
 #include "desktop/shell/workspace.h"
-#include "desktop/taking/film_grid.h"
 #include "desktop/taking/gate_strip.h"
 #include "desktop/taking/notes/clip_player.h"
 #include "desktop/taking/notes/lane_strip.h"

@@ -3,8 +3,8 @@
 #include "desktop/race/race_document.h"
 #include "desktop/race/split_table_model.h"
 #include "desktop/shell/tool_window.h"
+#include "desktop/splitfile/taking_document.h"
 #include "desktop/taking/run_table_model.h"
-#include "desktop/taking/taking_document.h"
 #include "splittaking/penalties.h"
 
 #include <functional>

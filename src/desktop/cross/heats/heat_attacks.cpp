@@ -1,7 +1,7 @@
 #include "desktop/cross/heats/attack_form.h"
 #include "desktop/cross/heats/heat_page.h"
-#include "desktop/taking/notes/note_page.h"
-#include "desktop/taking/taking_document.h"
+#include "desktop/splitfile/taking_document.h"
+#include "desktop/splitfile/text_table.h"
 #include "splittaking/annotations/cross_heats.h"
 #include "splittaking/annotations/remembered_texts.h"
 

@@ -1,6 +1,6 @@
 #include "desktop/cross/heats/heat_page.h"
 #include "desktop/cross/place_after.h"
-#include "desktop/taking/taking_document.h"
+#include "desktop/splitfile/taking_document.h"
 #include "splittaking/annotations/cross_heats.h"
 
 #include <algorithm>

@@ -3,7 +3,7 @@
 #include "desktop/cross/heats/order_board.h"
 #include "desktop/cross/heats/place_grid.h"
 #include "desktop/film/film_deck.h"
-#include "desktop/taking/taking_document.h"
+#include "desktop/splitfile/taking_document.h"
 #include "splittaking/annotations/cross_heats.h"
 
 #include <QLabel>

@@ -4,8 +4,8 @@
 #include "desktop/cross/heats/heat_dialog.h"
 #include "desktop/film/film_deck.h"
 #include "desktop/shell/theme.h"
-#include "desktop/taking/notes/note_page.h"
-#include "desktop/taking/taking_document.h"
+#include "desktop/splitfile/taking_document.h"
+#include "desktop/splitfile/text_table.h"
 #include "splittaking/annotations/cross_heats.h"
 
 #include <QEvent>

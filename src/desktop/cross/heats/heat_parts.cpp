@@ -3,7 +3,7 @@
 #include "desktop/cross/heats/order_board.h"
 #include "desktop/cross/heats/place_grid.h"
 #include "desktop/shell/theme.h"
-#include "desktop/taking/notes/note_page.h"
+#include "desktop/splitfile/text_table.h"
 
 #include <QHeaderView>
 #include <QLabel>

@@ -2,7 +2,7 @@
 
 #include "desktop/cross/heats/boat_looks.h"
 #include "desktop/shell/tables/table_text.h"
-#include "desktop/taking/notes/note_page.h"
+#include "desktop/splitfile/text_table.h"
 
 #include <QHeaderView>
 #include <QTableWidget>

@@ -1,8 +1,8 @@
 #include "desktop/cross/trials/gate_form.h"
 
 #include "desktop/shell/theme.h"
-#include "desktop/taking/notes/code_combo.h"
-#include "desktop/taking/notes/note_page.h"
+#include "desktop/splitfile/code_combo.h"
+#include "desktop/splitfile/text_table.h"
 
 #include <QCheckBox>
 #include <QFormLayout>

@@ -2,8 +2,8 @@
 
 #include "desktop/charts/chart_colours.h"
 #include "desktop/shell/theme.h"
-#include "desktop/taking/notes/note_page.h"
-#include "desktop/taking/taking_document.h"
+#include "desktop/splitfile/taking_document.h"
+#include "desktop/splitfile/text_table.h"
 
 #include <QFileInfo>
 #include <QHBoxLayout>

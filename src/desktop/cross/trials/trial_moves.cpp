@@ -2,7 +2,7 @@
 #include "desktop/cross/trials/gate_form.h"
 #include "desktop/cross/trials/trial_page.h"
 #include "desktop/film/film_deck.h"
-#include "desktop/taking/taking_document.h"
+#include "desktop/splitfile/taking_document.h"
 
 #include <algorithm>
 #include <utility>

@@ -4,8 +4,9 @@
 #include "desktop/cross/trials/roll_form.h"
 #include "desktop/cross/trials/trial_list.h"
 #include "desktop/shell/theme.h"
-#include "desktop/taking/notes/note_page.h"
-#include "desktop/taking/taking_document.h"
+#include "desktop/splitfile/gate_mark_text.h"
+#include "desktop/splitfile/taking_document.h"
+#include "desktop/splitfile/text_table.h"
 
 #include <QComboBox>
 #include <QHBoxLayout>

@@ -2,6 +2,7 @@
 
 #include "desktop/shell/shown_number.h"
 #include "desktop/shell/theme.h"
+#include "desktop/splitfile/text_table.h"
 #include "splittaking/annotations/refusals.h"
 #include "splittaking/annotations/strokes.h"
 

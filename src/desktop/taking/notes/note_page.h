@@ -9,8 +9,6 @@
 
 #include <functional>
 
-class QTableWidget;
-
 namespace kavela::desktop {
 
 class ClipPlayer;
@@ -119,19 +117,7 @@ protected:
 /// The crew and the phase of a run, as runs are told apart.
 [[nodiscard]] QString runName(const athletedata031& run);
 
-/// What a mark of an upstream gate is called within a sentence.
-[[nodiscard]] QString gateMarkText(GateMark which);
-
 /// The titles of the course's sections, "S1" and so on for those without one.
 [[nodiscard]] QStringList sectionNames(const infodata031& info);
-
-/// A table of texts without row numbers, its last column taking what is left.
-[[nodiscard]] QTableWidget* textTable(const QStringList& titles);
-
-/// Fills a table row by row, leaving the row that was current so.
-void fillTable(QTableWidget& table, const std::vector<QStringList>& rows);
-
-/// Seconds to the hundredth; a dash for 0, which was not timed.
-[[nodiscard]] QString timeOrDash(double seconds);
 
 } // namespace kavela::desktop

@@ -1,5 +1,6 @@
 #include "desktop/film/film_deck.h"
 #include "desktop/shell/workspace.h"
+#include "desktop/splitfile/taking_document.h"
 #include "desktop/taking/notes/camera_page.h"
 #include "desktop/taking/notes/clip_player.h"
 #include "desktop/taking/notes/comment_page.h"
@@ -8,7 +9,6 @@
 #include "desktop/taking/notes/notes_panel.h"
 #include "desktop/taking/notes/stroke_page.h"
 #include "desktop/taking/notes/tag_page.h"
-#include "desktop/taking/taking_document.h"
 #include "splittaking/annotations/refusals.h"
 #include "splittaking/messages.h"
 

@@ -3,6 +3,7 @@
 #include "desktop/film/film_deck.h"
 #include "desktop/shell/theme.h"
 #include "desktop/shell/workspace.h"
+#include "desktop/splitfile/taking_document.h"
 #include "desktop/taking/gate_strip.h"
 #include "desktop/taking/notes/camera_page.h"
 #include "desktop/taking/notes/clip_player.h"
@@ -16,7 +17,6 @@
 #include "desktop/taking/notes/stroke_page.h"
 #include "desktop/taking/notes/tag_page.h"
 #include "desktop/taking/notes/upstream_page.h"
-#include "desktop/taking/taking_document.h"
 #include "splittaking/messages.h"
 
 #include <QLabel>

@@ -1,9 +1,10 @@
 #include "desktop/taking/notes/penalty_page.h"
 
 #include "desktop/shell/theme.h"
+#include "desktop/splitfile/code_combo.h"
+#include "desktop/splitfile/taking_document.h"
+#include "desktop/splitfile/text_table.h"
 #include "desktop/taking/gate_strip.h"
-#include "desktop/taking/notes/code_combo.h"
-#include "desktop/taking/taking_document.h"
 #include "splitdata/run_timing.h"
 #include "splittaking/annotations/refusals.h"
 

@@ -4,7 +4,8 @@
 #include "desktop/shell/shown_number.h"
 #include "desktop/shell/theme.h"
 #include "desktop/shell/typed_number.h"
-#include "desktop/taking/taking_document.h"
+#include "desktop/splitfile/taking_document.h"
+#include "desktop/splitfile/text_table.h"
 #include "splitdata/run_timing.h"
 #include "splittaking/annotations/upstream_gates.h"
 

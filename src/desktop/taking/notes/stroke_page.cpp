@@ -2,8 +2,9 @@
 
 #include "desktop/shell/shown_number.h"
 #include "desktop/shell/theme.h"
-#include "desktop/taking/notes/code_combo.h"
-#include "desktop/taking/taking_document.h"
+#include "desktop/splitfile/code_combo.h"
+#include "desktop/splitfile/taking_document.h"
+#include "desktop/splitfile/text_table.h"
 #include "splitdata/run_timing.h"
 #include "splittaking/annotations/refusals.h"
 

@@ -1,9 +1,11 @@
 #include "desktop/taking/notes/upstream_page.h"
 
 #include "desktop/shell/theme.h"
+#include "desktop/splitfile/code_combo.h"
+#include "desktop/splitfile/gate_mark_text.h"
+#include "desktop/splitfile/taking_document.h"
+#include "desktop/splitfile/text_table.h"
 #include "desktop/taking/gate_strip.h"
-#include "desktop/taking/notes/code_combo.h"
-#include "desktop/taking/taking_document.h"
 #include "splittaking/annotations/refusals.h"
 #include "splittaking/annotations/upstream_gates.h"
 

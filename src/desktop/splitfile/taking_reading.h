@@ -1,6 +1,6 @@
 #pragma once
 
-#include "desktop/taking/taking_state.h"
+#include "desktop/splitfile/taking_state.h"
 
 #include <optional>
 #include <string>

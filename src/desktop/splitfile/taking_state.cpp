@@ -1,4 +1,4 @@
-#include "desktop/taking/taking_state.h"
+#include "desktop/splitfile/taking_state.h"
 
 #include "splittaking/perfect_time.h"
 

@@ -1,4 +1,4 @@
-#include "desktop/taking/kept_work.h"
+#include "desktop/splitfile/kept_work.h"
 
 #include "common/json_decode.h"
 #include "common/json_encode.h"

@@ -1,4 +1,4 @@
-#include "desktop/taking/taking_lists.h"
+#include "desktop/splitfile/taking_lists.h"
 
 #include "analysis/race_set.h"
 #include "common/safe_file.h"

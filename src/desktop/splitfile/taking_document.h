@@ -1,8 +1,8 @@
 #pragma once
 
 #include "desktop/shell/document.h"
-#include "desktop/taking/taking_lists.h"
-#include "desktop/taking/taking_state.h"
+#include "desktop/splitfile/taking_lists.h"
+#include "desktop/splitfile/taking_state.h"
 #include "splittaking/marking.h"
 #include "splittaking/results_import.h"
 #include "splittaking/results_match.h"

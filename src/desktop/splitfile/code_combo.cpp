@@ -1,4 +1,4 @@
-#include "desktop/taking/notes/code_combo.h"
+#include "desktop/splitfile/code_combo.h"
 
 #include <QSignalBlocker>
 

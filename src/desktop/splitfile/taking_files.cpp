@@ -1,4 +1,4 @@
-#include "desktop/taking/taking_files.h"
+#include "desktop/splitfile/taking_files.h"
 
 #include "splittaking/training_collection.h"
 #include "splittaking/video_names.h"

@@ -1,4 +1,4 @@
-#include "desktop/taking/film_grid.h"
+#include "desktop/film/film_grid.h"
 
 #include "desktop/shell/theme.h"
 

@@ -1,4 +1,4 @@
-#include "desktop/cross/tick_strip.h"
+#include "desktop/film/tick_strip.h"
 
 #include "desktop/shell/theme.h"
 

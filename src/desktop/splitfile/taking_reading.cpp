@@ -1,8 +1,8 @@
-#include "desktop/taking/taking_reading.h"
+#include "desktop/splitfile/taking_reading.h"
 
 #include "common/json_decode.h"
 #include "desktop/shell/workspace.h"
-#include "desktop/taking/kept_work.h"
+#include "desktop/splitfile/kept_work.h"
 #include "splitdata/loader.h"
 #include "splittaking/messages.h"
 

@@ -1,4 +1,4 @@
-#include "desktop/taking/folder_films.h"
+#include "desktop/splitfile/folder_films.h"
 
 #include "desktop/shell/file_copy.h"
 #include "desktop/shell/workspace.h"

@@ -1,7 +1,7 @@
-#include "desktop/taking/film_places.h"
+#include "desktop/splitfile/film_places.h"
 
 #include "desktop/shell/workspace.h"
-#include "desktop/taking/taking_state.h"
+#include "desktop/splitfile/taking_state.h"
 
 #include <QCryptographicHash>
 #include <QDirIterator>
