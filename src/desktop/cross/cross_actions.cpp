@@ -5,6 +5,8 @@
 #include "desktop/cross/heats/heat_page.h"
 #include "desktop/cross/results/results_page.h"
 #include "desktop/cross/trials/trial_page.h"
+#include "desktop/film/film_stage.h"
+#include "desktop/film/mark_actions.h"
 #include "desktop/film/play_menu.h"
 #include "desktop/shell/typing.h"
 #include "desktop/shell/workspace.h"
@@ -33,7 +35,7 @@ CrossActions::CrossActions(CrossWindow& window, Workspace& workspace)
     makeTrialMenu();
     makeHeatMenu();
     makeViewMenu();
-    new PlayMenu(window, window.deck(), window.sound(), workspace); // the window owns it
+    new PlayMenu(window, window.deck(), window.stage().sound(), workspace); // the window owns it
     window.finishMenus([this] { return athletes(); });
     connect(&window, &CrossWindow::pageChanged, this, &CrossActions::showWhatCanBeDone);
 }
@@ -103,29 +105,14 @@ void CrossActions::makeEditMenu() {
 
 void CrossActions::makeMarkMenu() {
     QMenu* const menu = m_window.menuBar()->addMenu(tr("&Mark"));
-    add(*menu, tr("&Mark the frame shown"), {Qt::Key_M, Qt::Key_Return, Qt::Key_Enter}, [this] {
-        if (!endTyping())
-            m_window.mark();
-    });
-    add(*menu, tr("Move the selected mark &here"), {Qt::SHIFT | Qt::Key_M},
-        [this] { m_window.moveMarkHere(); });
-    add(*menu, tr("Mark one frame &earlier"), {Qt::ALT | Qt::Key_Left},
-        [this] { m_window.nudgeMark(-1); });
-    add(*menu, tr("Mark one frame &later"), {Qt::ALT | Qt::Key_Right},
-        [this] { m_window.nudgeMark(1); });
-    add(*menu, tr("&Remove the selected mark"), {Qt::Key_Delete},
-        [this] { m_window.page().removeMark(); });
-    menu->addSeparator();
-    add(*menu, tr("&Previous mark"), {Qt::CTRL | Qt::Key_Left}, [this] { m_window.stepMark(-1); });
-    add(*menu, tr("&Next mark"), {Qt::CTRL | Qt::Key_Right}, [this] { m_window.stepMark(1); });
-    add(*menu, tr("To the first mark"), {Qt::CTRL | Qt::Key_Home},
-        [this] { m_window.goToMark(0); });
-    add(*menu, tr("Next &gate"), {Qt::Key_N}, [this] { m_window.page().stepGate(1); });
-    add(*menu, tr("Previous g&ate"), {Qt::Key_P}, [this] { m_window.page().stepGate(-1); });
+    FilmStage& stage = m_window.stage();
+    addMarkActions(*menu, stage, tr("&Mark the frame shown"));
+    add(*menu, tr("To the first mark"), {Qt::CTRL | Qt::Key_Home}, [&stage] { stage.goToMark(0); });
+    addGateActions(*menu, stage, tr("Next &gate"), tr("Previous g&ate"));
     menu->addSeparator();
     for (int number = 1; number <= 9; ++number)
         add(*menu, tr("Split, gate or boat &%1").arg(number), {numberKey(number)},
-            [this, number] { m_window.page().pressNumber(number); });
+            [&stage, number] { stage.pressNumber(number); });
 }
 
 void CrossActions::makeTrialMenu() {

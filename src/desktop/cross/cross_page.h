@@ -1,6 +1,6 @@
 #pragma once
 
-#include "desktop/film/time_line.h"
+#include "desktop/film/film_mode.h"
 #include "splitdata/cross_records.h"
 
 #include <QWidget>
@@ -28,8 +28,9 @@ struct CrossDesk {
 };
 
 /// A page of the cross window: what it lists, the film of what is selected there, the marks on that
-/// film, and what the keys do to them. Every edit is one step that can be undone.
-class CrossPage : public QWidget {
+/// film, and what the keys do to them. The page in front is the mode of the stage. Every edit is
+/// one step that can be undone.
+class CrossPage : public QWidget, public FilmMode {
     Q_OBJECT
 
 public:
@@ -46,9 +47,8 @@ public:
     [[nodiscard]] virtual QString film() const { return {}; }
     /// The marks on that film; numbered from 0 in their order here. Those without a label stand as
     /// ticks below the time line.
-    [[nodiscard]] virtual std::vector<LineMark> marks() const { return {}; }
-    /// The mark that keys act on, by its number.
-    [[nodiscard]] virtual std::optional<std::size_t> selectedMark() const { return std::nullopt; }
+    [[nodiscard]] std::vector<LineMark> marks() const override { return {}; }
+    [[nodiscard]] bool hasSelection() const override { return selectedMark().has_value(); }
     virtual void selectMark(std::size_t) {}
     /// The one that was marked last, where that is plain although it is not selected.
     [[nodiscard]] virtual std::optional<std::size_t> lastMark() const { return std::nullopt; }
@@ -61,9 +61,19 @@ public:
     virtual void mark(const CMTime&) {}     ///< M, Enter: marks the frame shown
     virtual void moveMark(const CMTime&) {} ///< moves the selected mark
     virtual void removeMark() {}
-    virtual void stepRow(int) {}     ///< up, down: the row before, the next one
-    virtual void stepGate(int) {}    ///< P, N: the gate before, the next one
-    virtual void pressNumber(int) {} ///< 1 to 9
+    virtual void stepRow(int) {} ///< up, down: the row before, the next one
+    void pressNumber(int) override {}
+
+    void markHere() override;
+    void moveMarkHere() override;
+    /// The selected mark, otherwise the last.
+    void nudgeMark(int frames) override;
+    void deleteMark() override { removeMark(); }
+    bool stepMark(int step) override;
+    void goToMark(std::size_t number) override;
+    void dropMark(std::size_t number, double seconds) override;
+    /// A key acts: what the page tells meanwhile is why it did not.
+    [[nodiscard]] bool isPressed() const { return m_isPressed; }
 
 signals:
     void filmChanged();                ///< another film, or none
@@ -78,6 +88,12 @@ protected:
     void whenMeant(std::function<void(const CMTime&)> act);
 
     CrossDesk m_desk;
+
+private:
+    void press(void (CrossPage::*act)(const CMTime&));
+    void refuse(const QString& why) { emit refused(why); }
+
+    bool m_isPressed = false;
 };
 
 } // namespace kavela::desktop

@@ -6,23 +6,16 @@
 #include "desktop/cross/results/results_page.h"
 #include "desktop/cross/trials/trial_page.h"
 #include "desktop/film/film_deck.h"
-#include "desktop/film/film_memory.h"
-#include "desktop/film/film_sound.h"
-#include "desktop/film/film_view.h"
-#include "desktop/film/tick_strip.h"
-#include "desktop/film/time_line.h"
+#include "desktop/film/film_stage.h"
 #include "desktop/shell/dropped_files.h"
-#include "desktop/shell/field_keys.h"
 #include "desktop/shell/scroll_page.h"
 #include "desktop/shell/theme.h"
 #include "desktop/shell/window_place.h"
 #include "desktop/shell/workspace.h"
 #include "splittaking/annotations/cross_trials.h"
 #include "splittaking/video_names.h"
-#include "video/health.h"
 
 #include <QCloseEvent>
-#include <QFileDialog>
 #include <QFileInfo>
 #include <QLabel>
 #include <QSplitter>
@@ -32,37 +25,19 @@
 
 namespace kavela::desktop {
 
-namespace {
-
-/// A label of one or more lines that explains.
-QLabel* quietLabel(const char* name) {
-    auto* label = new QLabel;
-    label->setObjectName(name);
-    label->setTextFormat(Qt::PlainText);
-    label->setForegroundRole(QPalette::PlaceholderText);
-    label->setWordWrap(true);
-    return label;
-}
-
-} // namespace
-
 CrossWindow::CrossWindow(Workspace& workspace, Autosave autosave)
     : ToolWindow(workspace, &m_document, {"cross", tr("kayak cross"), "kvx"}),
       m_document(workspace, std::move(autosave)),
-      m_deck(new FilmDeck(FilmMemory::of(workspace), this)),
-      m_sound(new FilmSound(*m_deck, this)),
-      m_chooseFiles([this](const QString& title, const QString& filter) {
-          return QFileDialog::getOpenFileNames(this, title, m_document.folder(), filter);
-      }),
-      m_chooseFolder([this](const QString& title) {
-          return QFileDialog::getExistingDirectory(this, title, m_document.folder());
-      }) {
+      m_files(m_document, workspace, *this),
+      m_stage(new FilmStage(workspace,
+                            {.state = "crossState", .health = "crossHealth", .isQuiet = true})) {
     auto* whole = new QSplitter;
     whole->setContentsMargins(theme::LargeSpacing, theme::Spacing, theme::LargeSpacing,
                               theme::Spacing);
     whole->setChildrenCollapsible(false);
     whole->addWidget(makePages());
-    whole->addWidget(makeStage());
+    m_stage->layout()->setContentsMargins(theme::Spacing, 0, 0, 0);
+    whole->addWidget(m_stage);
     whole->setStretchFactor(1, 1);
     shareSizes(*whole, {500, 750});
     rememberSizes(*whole, workspace, "crossParts");
@@ -74,12 +49,16 @@ CrossWindow::CrossWindow(Workspace& workspace, Autosave autosave)
 
 CrossWindow::~CrossWindow() {
     m_tabs->disconnect(this); // its pages go one by one
-    m_deck->disconnect(this);
+    m_stage->silence();
     m_document.disconnect(this);
 }
 
+FilmDeck& CrossWindow::deck() const {
+    return m_stage->deck();
+}
+
 QWidget* CrossWindow::makePages() {
-    const CrossDesk desk{m_document, *m_deck, workspace()};
+    const CrossDesk desk{m_document, deck(), workspace()};
     m_course = new CourseStrip(m_document);
     m_trials = new TrialPage(desk);
     m_heats = new HeatPage(desk);
@@ -112,56 +91,27 @@ void CrossWindow::addPage(CrossPage& page, const QString& title) {
     page.layout()->setContentsMargins(0, theme::Spacing, 0, 0);
     const auto ifInFront = [this, &page](auto act) {
         return [this, &page, act] {
-            if (&this->page() == &page)
+            if (isInFront(page))
                 act();
         };
     };
     connect(&page, &CrossPage::filmChanged, this, ifInFront([this] { showFilm(); }));
     connect(&page, &CrossPage::marksChanged, this, ifInFront([this] { showMarks(); }));
-    connect(&page, &CrossPage::flashed, this, [this](const QString& text) { m_view->flash(text); });
+    connect(&page, &CrossPage::flashed, m_stage, &FilmStage::flash);
     connect(&page, &CrossPage::refused, this, &CrossWindow::refuse);
-    connect(&page, &CrossPage::told, this, [this](const QString& text) {
-        m_isPressed && !text.isEmpty() ? refuse(text) : tell(text);
+    connect(&page, &CrossPage::told, this, [this, &page](const QString& text) {
+        page.isPressed() && !text.isEmpty() ? refuse(text) : tell(text);
     });
 }
 
-QWidget* CrossWindow::makeStage() {
-    m_view = new FilmView(*m_deck, 0);
-    m_state = new QLabel;
-    m_state->setObjectName("crossState");
-    m_health = quietLabel("crossHealth");
-    m_line = new TimeLine(*m_deck);
-    m_ticks = new TickStrip(*m_line);
-    auto* row = new QHBoxLayout;
-    row->addWidget(m_health, 1);
-    row->addWidget(m_state, 0, Qt::AlignRight | Qt::AlignTop);
-    m_stage = new QWidget;
-    auto* column = new QVBoxLayout(m_stage);
-    column->setContentsMargins(theme::Spacing, 0, 0, 0);
-    column->setSpacing(theme::SmallSpacing);
-    column->addWidget(m_view, 1);
-    column->addLayout(row);
-    column->addWidget(m_line);
-    column->addWidget(m_ticks);
-    return m_stage;
-}
-
 void CrossWindow::connectParts() {
-    new FieldKeys(*this, [this] { page().setFocus(); }); // the window owns it
+    m_stage->keepKeys(*this, [this] { page().setFocus(); });
     connect(&m_document, &TakingDocument::changed, this, &CrossWindow::showDocument);
     connect(&m_document.undoStack(), &QUndoStack::cleanChanged, this,
             [this] { setWindowModified(m_document.isDirty()); });
     connect(m_tabs, &QTabWidget::currentChanged, this, &CrossWindow::showPageInFront);
-    connect(m_deck, &FilmDeck::frameShown, this, [this] { page().showFrame(); });
-    connect(m_deck, &FilmDeck::stateChanged, this, &CrossWindow::showState);
-    connect(m_deck, &FilmDeck::indexChanged, this, &CrossWindow::showHealth);
-    connect(m_view, &FilmView::answered, this, &CrossWindow::findFilms);
-    connect(m_line, &TimeLine::markClicked, this, &CrossWindow::goToMark);
-    connect(m_line, &TimeLine::markDropped, this, &CrossWindow::dropMark);
-    connect(m_ticks, &TickStrip::markClicked, this, &CrossWindow::goToMark);
-    const auto follow = [ticks = m_ticks] { ticks->update(); };
-    connect(m_deck, &FilmDeck::indexChanged, m_ticks, follow);
-    connect(m_deck, &FilmDeck::stateChanged, m_ticks, follow);
+    connect(&deck(), &FilmDeck::frameShown, this, [this] { page().showFrame(); });
+    connect(m_stage, &FilmStage::searchWanted, this, &CrossWindow::findFilms);
     connect(m_trials, &TrialPage::filmWanted, this, &CrossWindow::chooseFilm);
     connect(m_heats, &HeatPage::filmWanted, this, &CrossWindow::chooseFilm);
     connect(m_trials, &TrialPage::heatsMade, this, [this] { showPage(Page::Heats); });
@@ -210,12 +160,13 @@ void CrossWindow::showPage(Page page) {
 }
 
 void CrossWindow::showPageInFront() {
-    m_deck->finishPresses();
+    deck().finishPresses();
     if (m_front && m_front != &page())
         m_front->commit();
     m_front = &page();
+    m_stage->setModes({m_front});
     tell({});
-    m_stage->setVisible(&page() != static_cast<CrossPage*>(m_results));
+    m_stage->setVisible(!isInFront(*m_results));
     page().refresh();
     showFilm();
     showMarks();
@@ -241,83 +192,40 @@ void CrossWindow::showFilm() {
     const QString film = m_document.pathOf(name.toStdString());
     const bool isThere = QFileInfo(film).isFile();
     const QStringList films = isThere ? QStringList(film) : QStringList();
-    if (films != m_deck->films()) {
-        m_health->clear();
-        m_view->setMessage({});
-        rememberFilmPlace();
-        m_deck->open(films);
+    if (films != deck().films()) {
+        m_stage->rememberPlace();
+        m_stage->showFilms({.films = films, .key = film});
         const auto marks = page().marks();
-        const auto left = m_places.find(film);
-        if (isThere && left != m_places.end())
-            m_deck->seek(left->second);
-        else if (isThere && !marks.empty() && workspace().preferences().boolean("startinCMTime"))
-            m_deck->seek(marks.front().stamp);
+        const bool isWanted = !marks.empty() && workspace().preferences().boolean("startinCMTime");
+        m_stage->goToPlace(isWanted ? std::optional(marks.front().stamp) : std::nullopt);
     }
     if (isThere)
         return;
-    const bool isNothing = &page() == static_cast<CrossPage*>(m_trials) && !m_trials->trial();
-    if (isNothing)
-        m_view->setMessage(tr("Import films with Ctrl+I, or drop them here: each becomes a time "
-                              "trial."));
+    if (isInFront(*m_trials) && !m_trials->trial())
+        m_stage->setMessage(tr("Import films with Ctrl+I, or drop them here: each becomes a time "
+                               "trial."));
     else if (name.isEmpty())
-        m_view->setMessage(tr("No film yet. Ctrl+Shift+I chooses the film of what is selected; "
-                              "films can be dropped here too."));
+        m_stage->setMessage(tr("No film yet. Ctrl+Shift+I chooses the film of what is selected; "
+                               "films can be dropped here too."));
     else
-        m_view->setQuestion(tr("%1 is not in the folder of the split file. Ctrl+Shift+I chooses "
-                               "another film.")
-                                .arg(name),
-                            tr("Where are the films now?…"));
-}
-
-void CrossWindow::rememberFilmPlace() {
-    const auto meant = m_deck->meant();
-    if (!meant.empty())
-        m_places.insert_or_assign(m_deck->films().front(), meant.front());
+        m_stage->askForFilm(0, tr("%1 is not in the folder of the split file. Ctrl+Shift+I chooses "
+                                  "another film.")
+                                   .arg(name));
 }
 
 /// Whoever looks at the film hears and sees that a key did nothing.
 void CrossWindow::refuse(const QString& why) {
     tell(why);
-    m_view->refuse(why);
+    m_stage->refuse(why);
 }
 
 void CrossWindow::showMarks() {
-    std::vector<LineMark> named = page().marks();
-    std::vector<LineMark> unnamed;
-    const auto selected = page().selectedMark();
-    std::erase_if(named, [&](const LineMark& mark) {
-        if (mark.label.isEmpty())
-            unnamed.push_back(mark);
-        return mark.label.isEmpty();
-    });
-    const auto place = std::ranges::find(named, selected, &LineMark::number) - named.begin();
-    m_line->setMarks(named);
-    m_line->setSelected(std::cmp_less(place, named.size())
-                            ? std::optional(static_cast<std::size_t>(place))
-                            : std::nullopt);
-    m_ticks->setVisible(!unnamed.empty() && m_deck->cameras() > 0);
-    m_ticks->setMarks(std::move(unnamed), selected);
+    m_stage->showMarks();
     page().showFrame();
 }
 
-void CrossWindow::showState() {
-    const QString rate = QStringLiteral("×") + QString::number(m_deck->rate());
-    m_state->setText(m_deck->cameras() == 0 ? QString()
-                     : m_deck->isPlaying()  ? tr("Playing %1").arg(rate)
-                                            : tr("Paused, %1").arg(rate));
-}
-
-void CrossWindow::showHealth() {
-    QStringList notes;
-    const auto index = m_deck->index(0);
-    if (index && index->isComplete())
-        for (const HealthNote& note : checkHealth(*index))
-            notes.append(QString::fromStdString(note.text));
-    m_health->setText(notes.join('\n'));
-}
-
 bool CrossWindow::takePending() {
-    m_deck->finishPresses();
+    deck().finishPresses();
     page().commit();
     return m_course->commit();
 }
@@ -327,14 +235,41 @@ void CrossWindow::takeFiles(const QStringList& files) {
     QStringList others;
     for (const QString& file : files)
         (isVideoFile(QFileInfo(file).fileName().toStdString()) ? films : others).append(file);
-    if (const QStringList names = copied(films); !names.isEmpty()) {
-        if (&page() == static_cast<CrossPage*>(m_trials))
+    if (const QStringList names = m_files.copied(films); !names.isEmpty()) {
+        if (isInFront(*m_trials))
             m_trials->addFilms(names);
         else
             page().setFilm(names.front());
     }
     if (!others.isEmpty())
         emit openRequested(others);
+}
+
+void CrossWindow::findFilms() {
+    const auto missing = m_files.search([] { return true; });
+    if (!missing)
+        return;
+    showDocument();
+    if (!missing->isEmpty())
+        refuse(tr("Not found: %1.").arg(missing->join(", ")));
+}
+
+void CrossWindow::importFilms() {
+    const QStringList names =
+        m_files.copied(m_files.chooseFilms(tr("Import films of time trials")));
+    if (names.isEmpty())
+        return;
+    showPage(Page::Trials);
+    m_trials->addFilms(names);
+}
+
+void CrossWindow::chooseFilm() {
+    if (isInFront(*m_trials) && !m_trials->trial())
+        return;
+    const QStringList chosen =
+        m_files.chooseFilms(tr("Choose the film of the trial or heat")).mid(0, 1);
+    if (const QStringList names = m_files.copied(chosen); !names.isEmpty())
+        page().setFilm(names.front());
 }
 
 } // namespace kavela::desktop

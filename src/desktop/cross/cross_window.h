@@ -2,10 +2,8 @@
 
 #include "desktop/cross/cross_page.h"
 #include "desktop/shell/tool_window.h"
+#include "desktop/splitfile/film_files.h"
 #include "desktop/splitfile/taking_document.h"
-
-#include <functional>
-#include <map>
 
 class QLabel;
 class QTabWidget;
@@ -15,11 +13,9 @@ namespace kavela::desktop {
 class CourseStrip;
 class CrossActions;
 class FilmDeck;
-class FilmSound;
-class FilmView;
+class FilmStage;
 class HeatPage;
 class ResultsPage;
-class TickStrip;
 class TrialPage;
 
 /// The kayak cross of a split file: time trials, heats and results to the left, the film of what is
@@ -39,8 +35,9 @@ public:
     [[nodiscard]] bool open(const QString& path) override;
 
     [[nodiscard]] TakingDocument& document() { return m_document; }
-    [[nodiscard]] FilmDeck& deck() const { return *m_deck; }
-    [[nodiscard]] FilmSound& sound() const { return *m_sound; }
+    /// The film, and the keys of marking, which are the page's in front.
+    [[nodiscard]] FilmStage& stage() const { return *m_stage; }
+    [[nodiscard]] FilmDeck& deck() const;
     [[nodiscard]] CourseStrip& course() const { return *m_course; }
     [[nodiscard]] TrialPage& trials() const { return *m_trials; }
     [[nodiscard]] HeatPage& heats() const { return *m_heats; }
@@ -49,14 +46,6 @@ public:
     [[nodiscard]] CrossPage& page() const;
     void showPage(Page page);
 
-    // What the keys do, beside what they hand on to the page in front.
-    void mark();
-    void moveMarkHere();
-    void nudgeMark(int frames);
-    /// Moves a mark to the frame at a number of seconds of the film.
-    void dropMark(std::size_t mark, double seconds);
-    void goToMark(std::size_t mark); ///< in the order of the page's marks
-    void stepMark(int step);
     /// Adds a trial for each chosen film; they are copied into the folder of the split file.
     void importFilms();
     /// Chooses the film of the selected trial or heat.
@@ -65,11 +54,12 @@ public:
     void findFilms();
 
     /// Where files come from in place of the platform's dialogs, as in tests.
-    using ChooseFiles = std::function<QStringList(const QString& title, const QString& filter)>;
-    void setChooseFiles(ChooseFiles choose) { m_chooseFiles = std::move(choose); }
-    /// The same for a folder; empty for none.
-    using ChooseFolder = std::function<QString(const QString& title)>;
-    void setChooseFolder(ChooseFolder choose) { m_chooseFolder = std::move(choose); }
+    void setChooseFiles(FilmFiles::ChooseFiles choose) {
+        m_files.setChooseFiles(std::move(choose));
+    }
+    void setChooseFolder(FilmFiles::ChooseFolder choose) {
+        m_files.setChooseFolder(std::move(choose));
+    }
 
 signals:
     void pageChanged();
@@ -84,29 +74,20 @@ protected:
 private:
     [[nodiscard]] QWidget* makePages();
     void addPage(CrossPage& page, const QString& title);
-    [[nodiscard]] QWidget* makeStage();
     void connectParts();
     void takeFolder();
     void showDocument();
     void showPageInFront();
     void showFilm();
     void showMarks();
-    void showState();
-    void showHealth();
     void tell(const QString& text);
     void refuse(const QString& why);
-    void press(const std::function<void(CrossPage&, const CMTime&)>& act);
-    void rememberFilmPlace();
-    [[nodiscard]] QStringList copied(const QStringList& files);
+    [[nodiscard]] bool isInFront(const CrossPage& page) const { return &this->page() == &page; }
 
     TakingDocument m_document;
-    FilmDeck* m_deck;
-    FilmSound* m_sound;
+    FilmFiles m_files;
+    FilmStage* m_stage;
     CrossActions* m_actions = nullptr;
-    ChooseFiles m_chooseFiles;
-    ChooseFolder m_chooseFolder;
-    std::map<QString, CMTime> m_places; ///< where a film was left
-    bool m_isPressed = false; ///< a key acts: what a page tells meanwhile is why it did not
 
     QTabWidget* m_tabs = nullptr;
     CourseStrip* m_course = nullptr;
@@ -115,12 +96,6 @@ private:
     ResultsPage* m_results = nullptr;
     CrossPage* m_front = nullptr; ///< that was shown last
     QLabel* m_told = nullptr;
-    QWidget* m_stage = nullptr;
-    FilmView* m_view = nullptr;
-    QLabel* m_state = nullptr;
-    QLabel* m_health = nullptr;
-    TimeLine* m_line = nullptr;
-    TickStrip* m_ticks = nullptr;
 };
 
 } // namespace kavela::desktop

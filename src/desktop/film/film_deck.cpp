@@ -252,6 +252,16 @@ void FilmDeck::whenKnown(const FrameRequest& frame, PressQueue::Act act,
         m_presses.add({frame}, std::move(act), std::move(refuse));
 }
 
+void FilmDeck::whenSettled(const FrameRequest& frame, const Settled& act,
+                           PressQueue::Refuse refuse) {
+    if (cameras() == 0 || !fault(0).isEmpty())
+        act(std::nullopt);
+    else
+        whenKnown(
+            frame, [act](const std::vector<CMTime>& stamps) { act(stamps.front()); },
+            std::move(refuse));
+}
+
 void FilmDeck::finishPresses() {
     const auto isDone = [this] {
         m_presses.run();

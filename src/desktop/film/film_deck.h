@@ -10,6 +10,7 @@
 #include <QTimer>
 
 #include <algorithm>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <vector>
@@ -63,6 +64,10 @@ public:
     void whenMeant(PressQueue::Act act, PressQueue::Refuse refuse);
     /// The same for the frame of the first film due at a number of seconds, or with a stamp.
     void whenKnown(const FrameRequest& frame, PressQueue::Act act, PressQueue::Refuse refuse);
+    /// The same, with the stamp of that frame; without one, and at once, where no film is open that
+    /// could tell it.
+    using Settled = std::function<void(const std::optional<CMTime>& stamp)>;
+    void whenSettled(const FrameRequest& frame, const Settled& act, PressQueue::Refuse refuse);
     /// Lets the presses that wait act before something else is done, such as saving. Waits a little
     /// for films that are being read; what is not known then is refused.
     void finishPresses();

@@ -169,10 +169,10 @@ void HeatPage::takeOrder(const CMTime& moment) {
         emit flashed(tr("Gate %1:  %2").arg(at).arg(cues.join("  ")));
 }
 
-void HeatPage::stepGate(int step) {
+bool HeatPage::stepGate(int step) {
     const auto& gates = course().gates;
     if (!current() || gates.empty())
-        return;
+        return true;
     commit();
     const auto last = static_cast<std::ptrdiff_t>(gates.size()) - 1;
     m_gate = static_cast<std::size_t>(
@@ -180,6 +180,7 @@ void HeatPage::stepGate(int step) {
     m_draft.reset();
     const auto record = orderAt(*current(), *gate());
     select(record ? std::optional(HeatMark{true, *record, 0}) : std::nullopt);
+    return true;
 }
 
 void HeatPage::chooseColumn(std::size_t column) {

@@ -43,7 +43,7 @@ public:
     void moveMark(const CMTime& moment) override;
     void removeMark() override;
     void stepRow(int step) override;
-    void stepGate(int step) override;
+    bool stepGate(int step) override;
     /// Names the boat of that number on the start list as the next one at the gate; a second press
     /// takes it back. Right after addAttack() the attacker, then the defenders.
     void pressNumber(int number) override;

@@ -186,14 +186,15 @@ void TrialPage::stepRow(int step) {
         selectTrial(static_cast<std::size_t>(trial));
 }
 
-void TrialPage::stepGate(int step) {
+bool TrialPage::stepGate(int step) {
     const auto& gates = m_desk.cross().crossinfo.gates;
     if (gates.empty() || m_mode != TrialMode::Upstreams)
-        return;
+        return true;
     const auto front = m_gate ? std::ranges::find(gates, *m_gate) : gates.end();
     const std::ptrdiff_t place = front == gates.end() ? 0 : front - gates.begin() + step;
     if (place >= 0 && place < std::ssize(gates))
         setGate(gates[static_cast<std::size_t>(place)]);
+    return true;
 }
 
 void TrialPage::pressNumber(int number) {

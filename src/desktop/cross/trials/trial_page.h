@@ -46,7 +46,7 @@ public:
     void removeMark() override;
     void stepRow(int step) override;
     /// In the mode of the upstream gates.
-    void stepGate(int step) override;
+    bool stepGate(int step) override;
     /// Goes to the split, the gate or the part of the roll of that number.
     void pressNumber(int number) override;
 
