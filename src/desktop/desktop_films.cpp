@@ -1,5 +1,6 @@
 #include "desktop/cross/cross_window.h"
 #include "desktop/desktop.h"
+#include "desktop/film/film_stage.h"
 #include "desktop/race/race_view.h"
 #include "desktop/race/race_window.h"
 #include "desktop/shell/file_names.h"
@@ -223,7 +224,7 @@ void Desktop::showMoment(const QString& path, int run, std::size_t split) {
         }
     }
     window->selectRun(run);
-    window->goToMark(split);
+    window->stage().goToMark(split);
 }
 
 } // namespace kavela::desktop

@@ -7,6 +7,7 @@
 #include "desktop/cross/trials/trial_page.h"
 #include "desktop/desktop.h"
 #include "desktop/film/film_deck.h"
+#include "desktop/film/film_stage.h"
 #include "desktop/shell/workspace.h"
 #include "desktop/taking/taking_window.h"
 #include "films/season_films.h"
@@ -251,7 +252,7 @@ TEST_F(CrossWindowTest, MovesAndRemovesTheMarkThatIsSelectedOnTheTimeLine) {
     press(Qt::Key_Delete);
     EXPECT_THAT(trial().splittimes, SizeIs(1));
     EXPECT_NEAR(trial().time, 0.04, 1e-9);
-    m_window->dropMark(1, 1.005); // between two frames
+    m_window->stage().dropMark(1, 1.005); // between two frames
     EXPECT_NEAR(trial().splittimes[0].front().seconds(), 1, 1e-9);
 }
 
@@ -304,7 +305,7 @@ TEST_F(CrossWindowTest, ListsAndEditsATrialWhoseFilmIsMissingAndKeepsCodesItDoes
     press(Qt::Key_4);
     EXPECT_EQ(part<QComboBox>("gateStyle").currentText(), "77");
     choose("gateDirection", 1);
-    m_window->goToMark(2);
+    m_window->stage().goToMark(2);
     press(Qt::ALT | Qt::Key_Left);
     EXPECT_NEAR(trial(1).upstreams[0].cmtimes[0].seconds(), 1.99, 1e-6);
     EXPECT_EQ(trial(1).upstreams[0].direction, 1);

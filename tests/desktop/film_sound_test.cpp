@@ -4,6 +4,7 @@
 #include "common/sound_films.h"
 #include "common/temp_folder.h"
 #include "desktop/film/film_deck.h"
+#include "desktop/film/film_stage.h"
 #include "desktop/shell/workspace.h"
 #include "desktop/taking/taking_window.h"
 
@@ -225,7 +226,7 @@ TEST(SoundAction, IsSwitchedByAKeyAndRemembered) {
         QApplication::setActiveWindow(&window);
         if (isPressed)
             QTest::keyClick(&window, Qt::Key_S);
-        return window.sound().isMuted();
+        return window.stage().sound().isMuted();
     };
     EXPECT_FALSE(isMutedAfterKey(false));
     EXPECT_TRUE(isMutedAfterKey(true));

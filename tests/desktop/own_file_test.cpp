@@ -33,7 +33,7 @@ protected:
             if (auto* const dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget()))
                 QTest::keyClick(dialog, Qt::Key_Return);
         });
-        m_window->importResults();
+        m_window->exchange().importResults();
     }
 
     std::vector<std::string> m_asked;

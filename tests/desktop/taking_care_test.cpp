@@ -1,5 +1,7 @@
 #include "common/json_encode.h"
+#include "desktop/film/film_stage.h"
 #include "desktop/notes_fixture.h"
+#include "desktop/taking/split_mode.h"
 #include "splittaking/annotations/time_losses.h"
 
 #include <QDoubleSpinBox>
@@ -32,10 +34,10 @@ TEST_F(TakingCareTest, LeavesASelectedMarkThatUndoTookAway) {
     const Stamps first{{100, 50, 1, 0}};
     const Stamps second{{200, 50, 1, 0}};
     m_window->document().setMarks(0, "marks", {.start = first, .marks = {second}});
-    m_window->goToMark(1);
-    ASSERT_EQ(m_window->selectedMark(), 1U);
+    m_window->stage().goToMark(1);
+    ASSERT_EQ(m_window->splits().selectedMark(), 1U);
     undo(1);
-    EXPECT_FALSE(m_window->selectedMark());
+    EXPECT_FALSE(m_window->splits().selectedMark());
     for (const auto key :
          {QKeyCombination(Qt::Key_Delete), Qt::SHIFT | Qt::Key_M, Qt::ALT | Qt::Key_Right})
         press(key);
@@ -124,7 +126,7 @@ TEST_F(TakingCareTest, RemovesThePenaltyAndNotTheSplitThatWasSelectedBefore) {
     ASSERT_NO_FATAL_FAILURE(open(race, false));
     const auto splits = run().sectioninfo.cmtimes;
     press(Qt::CTRL | Qt::Key_2);
-    m_window->goToMark(1);
+    m_window->stage().goToMark(1);
     auto& table = part<QTableWidget>("penalties");
     emit table.cellClicked(0, 0);
     press(Qt::Key_Delete);

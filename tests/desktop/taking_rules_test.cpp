@@ -1,8 +1,10 @@
 #include "desktop/desktop.h"
+#include "desktop/film/film_stage.h"
 #include "desktop/film/time_line.h"
 #include "desktop/notes_fixture.h"
 #include "desktop/race/race_view.h"
 #include "desktop/race/race_window.h"
+#include "desktop/taking/split_mode.h"
 #include "splittaking/annotations/time_losses.h"
 
 #include <QDialogButtonBox>
@@ -88,14 +90,14 @@ TEST_F(TakingRulesTest, TakesNoSplitBeforeTheMarkThatComesFirst) {
     EXPECT_THAT(times(), seconds({10, 10}));
     ASSERT_NO_FATAL_FAILURE(markAt(19));
     EXPECT_THAT(times(), seconds({9, 1, 10})) << "a split that was missed";
-    EXPECT_EQ(m_window->selectedMark(), 1U);
+    EXPECT_EQ(m_window->splits().selectedMark(), 1U);
     EXPECT_THAT(told(), HasSubstr("put in between"));
     press(Qt::CTRL | Qt::Key_Z);
-    m_window->goToMark(2);
+    m_window->stage().goToMark(2);
     ASSERT_NO_FATAL_FAILURE(goTo(15));
     press(Qt::SHIFT | Qt::Key_M);
     EXPECT_THAT(told(), HasSubstr("before split 1 at 20.00"));
-    m_window->dropMark(1, 31);
+    m_window->stage().dropMark(1, 31);
     EXPECT_THAT(told(), HasSubstr("after split 2 at 30.00"));
     EXPECT_THAT(times(), seconds({10, 10}));
     undo(3);
@@ -267,7 +269,7 @@ TEST_F(TakingRulesTest, ShowsWhatAListHasForWhomBeforeItIsTaken) {
                 if (box->buttonRole(button) == role)
                     button->click();
         });
-        m_window->importResults();
+        m_window->exchange().importResults();
         return told;
     };
     EXPECT_THAT(importAnd(QDialogButtonBox::RejectRole).toStdString(),

@@ -1,10 +1,14 @@
 #include "desktop/taking/taking_actions.h"
 
 #include "desktop/film/film_deck.h"
+#include "desktop/film/film_stage.h"
+#include "desktop/film/mark_actions.h"
 #include "desktop/film/play_menu.h"
 #include "desktop/shell/typing.h"
 #include "desktop/shell/workspace.h"
 #include "desktop/taking/notes/note_actions.h"
+#include "desktop/taking/run_films.h"
+#include "desktop/taking/split_mode.h"
 #include "desktop/taking/taking_reports.h"
 #include "desktop/taking/taking_window.h"
 #include "splitdata/run_timing.h"
@@ -30,7 +34,7 @@ TakingActions::TakingActions(TakingWindow& window, Workspace& workspace)
     makeMarkMenu();
     makePenaltyMenu();
     addNoteMenu(window, window.notes());
-    new PlayMenu(window, window.deck(), window.sound(), workspace); // the window owns it
+    new PlayMenu(window, window.deck(), window.stage().sound(), workspace); // the window owns it
     makeCameraMenu();
     window.finishMenus([this] { return athletes(); });
 }
@@ -47,16 +51,17 @@ void TakingActions::makeFileMenu() {
     QMenu* menu = m_window.makeFileMenu(
         {tr("&Open a folder of videos…"), [this] { chooseFolder(); }, tr("&Save data"), false});
     add(*menu, tr("Import &video…"), {keys(Qt::CTRL | Qt::Key_I)},
-        [this] { m_window.importVideos(); });
-    add(*menu, tr("Import split &file…"), {}, [this] { m_window.importSplitFile(); });
-    add(*menu, tr("Import official &results…"), {}, [this] { m_window.importResults(); });
+        [this] { m_window.films().importFilms(); });
+    add(*menu, tr("Import split &file…"), {}, [this] { m_window.exchange().importSplitFile(); });
+    add(*menu, tr("Import official &results…"), {},
+        [this] { m_window.exchange().importResults(); });
     m_ofRun.push_back(add(*menu, tr("&Recording of the run…"), {keys(Qt::CTRL | Qt::Key_B)},
                           [this] { m_window.openRecording(); }));
     m_ofRun.push_back(add(*menu, tr("Run s&heet: preview, PDF, print…"), {QKeySequence::Print},
                           [this] { previewRunSheet(m_window, m_workspace); }));
     menu->addSeparator();
     add(*menu, tr("&Export data…"), {keys(Qt::CTRL | Qt::Key_E)},
-        [this] { m_window.exportData(); });
+        [this] { m_window.exchange().exportData(); });
     add(*menu, tr("Show in the race &analyzer"), {keys(Qt::CTRL | Qt::Key_R)}, [this] {
         if (m_window.commit()) // what is typed is shown too; nothing is saved
             emit m_window.analysisRequested();
@@ -81,8 +86,8 @@ void TakingActions::chooseFolder() {
 void TakingActions::makeEditMenu() {
     QMenu* menu = m_window.makeEditMenu();
     add(*menu, tr("Race and &course…"), {keys(Qt::CTRL | Qt::Key_G)},
-        [this] { m_window.setUpCourse(); });
-    add(*menu, tr("Names of the &films…"), {}, [this] { m_window.readFilmNames(); });
+        [this] { m_window.exchange().setUpCourse(); });
+    add(*menu, tr("Names of the &films…"), {}, [this] { m_window.exchange().readFilmNames(); });
     add(*menu, tr("&Previous run"), {keys(Qt::Key_Up)}, [this] {
         if (!stepNumber(1))
             m_window.stepRun(-1);
@@ -104,31 +109,15 @@ void TakingActions::makeEditMenu() {
 
 void TakingActions::makeMarkMenu() {
     QMenu* menu = m_window.menuBar()->addMenu(tr("&Mark"));
-    m_ofRun.push_back(add(*menu, tr("&Mark the split"),
-                          {keys(Qt::Key_M), keys(Qt::Key_Return), keys(Qt::Key_Enter)}, [this] {
-                              if (!endTyping())
-                                  m_window.mark();
-                          }));
-    add(*menu, tr("Move the selected mark &here"), {keys(Qt::SHIFT | Qt::Key_M)},
-        [this] { m_window.moveMarkHere(); });
-    add(*menu, tr("Mark one frame &earlier"), {keys(Qt::ALT | Qt::Key_Left)},
-        [this] { m_window.nudgeMark(-1); });
-    add(*menu, tr("Mark one frame &later"), {keys(Qt::ALT | Qt::Key_Right)},
-        [this] { m_window.nudgeMark(1); });
-    add(*menu, tr("&Remove the selected mark"), {keys(Qt::Key_Delete)},
-        [this] { m_window.deleteMark(); });
-    menu->addSeparator();
-    add(*menu, tr("&Previous mark"), {keys(Qt::CTRL | Qt::Key_Left)},
-        [this] { m_window.stepMark(-1); });
-    add(*menu, tr("&Next mark"), {keys(Qt::CTRL | Qt::Key_Right)},
-        [this] { m_window.stepMark(1); });
+    FilmStage& stage = m_window.stage();
+    m_ofRun.push_back(addMarkActions(*menu, stage, tr("&Mark the split")));
     m_ofRun.push_back(add(*menu, tr("To where the next split is e&xpected"), {keys(Qt::Key_E)},
-                          [this] { m_window.goToExpected(); }));
+                          [this] { m_window.splits().goToExpected(); }));
     add(*menu, tr("To the start mark"), {keys(Qt::CTRL | Qt::Key_Home)},
-        [this] { m_window.goToMark(0); });
+        [&stage] { stage.goToMark(0); });
     for (int split = 1; split <= 9; ++split)
         add(*menu, tr("To split &%1").arg(split), {keys(static_cast<Qt::Key>(Qt::Key_0 + split))},
-            [this, split] { m_window.goToMark(static_cast<std::size_t>(split)); });
+            [&stage, split] { stage.pressNumber(split); });
 }
 
 void TakingActions::makePenaltyMenu() {
@@ -139,17 +128,16 @@ void TakingActions::makePenaltyMenu() {
         [this] { m_window.setPenalty(GatePenalty::MissedGate); });
     add(*menu, tr("&Clean"), {keys(Qt::Key_0)}, [this] { m_window.setPenalty(GatePenalty::None); });
     menu->addSeparator();
-    add(*menu, tr("&Next gate"), {keys(Qt::Key_N)}, [this] { m_window.stepGate(1); });
-    add(*menu, tr("&Previous gate"), {keys(Qt::Key_P)}, [this] { m_window.stepGate(-1); });
+    addGateActions(*menu, m_window.stage(), tr("&Next gate"), tr("&Previous gate"));
 }
 
 void TakingActions::makeCameraMenu() {
     QMenu* menu = m_window.menuBar()->addMenu(tr("&Cameras"));
     FilmDeck& deck = m_window.deck();
+    m_ofRun.push_back(add(*menu, tr("&Add another camera of this run…"), {},
+                          [this] { m_window.films().addCamera(); }));
     m_ofRun.push_back(
-        add(*menu, tr("&Add another camera of this run…"), {}, [this] { m_window.addCamera(); }));
-    m_ofRun.push_back(
-        add(*menu, tr("&Where are the films now?…"), {}, [this] { m_window.findFilms(); }));
+        add(*menu, tr("&Where are the films now?…"), {}, [this] { m_window.films().find(); }));
     add(*menu, tr("Last camera one frame back"),
         {keys(Qt::ALT | Qt::Key_PageUp), keys(Qt::CTRL | Qt::ALT | Qt::Key_Left)}, [&deck] {
             if (deck.views() > 1)

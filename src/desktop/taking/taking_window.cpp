@@ -1,77 +1,58 @@
 #include "desktop/taking/taking_window.h"
 
-#include "desktop/film/film_deck.h"
 #include "desktop/film/film_grid.h"
-#include "desktop/film/film_memory.h"
-#include "desktop/film/film_sound.h"
-#include "desktop/film/film_view.h"
+#include "desktop/film/film_stage.h"
 #include "desktop/film/time_line.h"
 #include "desktop/race/frozen_table.h"
 #include "desktop/shell/dropped_files.h"
-#include "desktop/shell/field_keys.h"
 #include "desktop/shell/refused_entry.h"
-#include "desktop/shell/shown_number.h"
 #include "desktop/shell/theme.h"
-#include "desktop/shell/typing.h"
 #include "desktop/shell/window_place.h"
 #include "desktop/shell/workspace.h"
 #include "desktop/taking/gate_strip.h"
 #include "desktop/taking/notes/clip_player.h"
 #include "desktop/taking/notes/lane_strip.h"
 #include "desktop/taking/notes/notes_panel.h"
-#include "desktop/taking/recording/recording_dialog.h"
+#include "desktop/taking/recording/recording_of_run.h"
+#include "desktop/taking/run_films.h"
 #include "desktop/taking/run_form.h"
 #include "desktop/taking/split_bar.h"
+#include "desktop/taking/split_mode.h"
+#include "desktop/taking/splits_shown.h"
 #include "desktop/taking/taking_actions.h"
-#include "splitdata/run_timing.h"
-#include "splittaking/messages.h"
+#include "splittaking/annotations/penalty_details.h"
 #include "splittaking/video_names.h"
-#include "video/health.h"
 
-#include <QApplication>
 #include <QCloseEvent>
-#include <QFileDialog>
 #include <QFileInfo>
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
+#include <QScreen>
 #include <QSignalBlocker>
 #include <QSplitter>
 #include <QTabBar>
 #include <QTableView>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace kavela::desktop {
-
-namespace {
-
-QString qtText(const std::string& text) {
-    return QString::fromStdString(text);
-}
-
-QString rateText(double rate) {
-    return QStringLiteral("×") + QString::number(rate);
-}
-
-} // namespace
 
 TakingWindow::TakingWindow(Workspace& workspace, Autosave autosave)
     : ToolWindow(workspace, &m_document, {"taking", tr("split taking"), "kvx"}),
       m_document(workspace, std::move(autosave)),
+      m_files(m_document, workspace, *this),
+      m_exchange(m_document, m_files, workspace, *this, [this] { return commit(); }),
       m_runs(m_document),
       m_race(workspace),
       m_tableModel(m_race),
-      m_deck(new FilmDeck(FilmMemory::of(workspace), this)),
-      m_sound(new FilmSound(*m_deck, this)),
-      m_chooseFiles([this](const QString& title, const QString& filter) {
-          return QFileDialog::getOpenFileNames(this, title, m_document.folder(), filter);
-      }),
-      m_chooseFolder([this](const QString& title) {
-          return QFileDialog::getExistingDirectory(this, title, m_document.folder());
-      }) {
+      m_stage(new FilmStage(workspace, {.typing = "typing"})) {
+    makeStage();
+    makeModes();
     auto* upper = new QSplitter;
     upper->addWidget(makeRuns());
-    upper->addWidget(makeStage());
+    upper->addWidget(m_stage);
     upper->addWidget(m_notes);
     upper->setStretchFactor(1, 1);
     shareSizes(*upper, {290, 670, 280});
@@ -91,8 +72,12 @@ TakingWindow::TakingWindow(Workspace& workspace, Autosave autosave)
 }
 
 TakingWindow::~TakingWindow() {
-    m_deck->disconnect(this);
+    m_stage->silence();
     m_document.disconnect(this);
+}
+
+FilmDeck& TakingWindow::deck() const {
+    return m_stage->deck();
 }
 
 QWidget* TakingWindow::makeRuns() {
@@ -125,40 +110,28 @@ QWidget* TakingWindow::makeRuns() {
     return m_list;
 }
 
-QWidget* TakingWindow::makeStage() {
-    m_films = new FilmGrid;
-    m_state = new QLabel;
-    m_state->setObjectName("state");
-    m_health = new QLabel;
-    m_health->setTextFormat(Qt::PlainText);
-    m_health->setWordWrap(true);
-    m_health->setObjectName("health");
-    m_typing = new QLabel(tr("Typing: Esc gives the keys back to the film"));
-    m_typing->setObjectName("typing");
-    m_typing->hide();
-    m_line = new TimeLine(*m_deck);
-    m_splits = new SplitBar;
+void TakingWindow::makeStage() {
+    m_times = new SplitBar;
     m_gates = new GateStrip;
-    m_clips = new ClipPlayer(*m_deck, this);
+    m_clips = new ClipPlayer(deck(), this);
     m_form = new RunForm(m_document);
-    m_notes = new NotesPanel({m_document, *m_deck, workspace(), *m_gates, *m_clips, m_run, {}},
-                             *m_line, *m_form);
-    auto* row = new QHBoxLayout;
-    row->addWidget(m_health, 1);
-    row->addWidget(m_typing, 0, Qt::AlignRight | Qt::AlignTop);
-    row->addWidget(m_state, 0, Qt::AlignRight | Qt::AlignTop);
-    auto* box = new QWidget;
-    auto* column = new QVBoxLayout(box);
-    column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(theme::SmallSpacing);
-    column->addWidget(&m_notes->bar());
-    column->addWidget(m_films, 1);
-    column->addLayout(row);
-    column->addWidget(m_line);
-    column->addWidget(&m_notes->lanes());
-    column->addWidget(m_splits);
-    column->addWidget(m_gates);
-    return box;
+    m_notes = new NotesPanel({m_document, deck(), workspace(), *m_gates, *m_clips, m_run, {}},
+                             m_stage->line(), *m_form);
+    m_stage->addAbove(m_notes->bar());
+    m_stage->addBelow(m_notes->lanes());
+    m_stage->addBelow(*m_times);
+    m_stage->addBelow(*m_gates);
+}
+
+/// The splits are the first of the modes: what the others leave is theirs.
+void TakingWindow::makeModes() {
+    m_splits = new SplitMode(m_document, *m_stage, *m_gates, workspace());
+    m_shown = new SplitsShown(m_document, *m_stage, *m_splits, *m_times);
+    m_films = new RunFilms(
+        {m_document, *m_stage, *m_notes, m_files, workspace(), [this] { return commit(); }});
+    std::vector<FilmMode*> modes = m_notes->modes();
+    modes.insert(modes.begin(), m_splits);
+    m_stage->setModes(std::move(modes));
 }
 
 QWidget* TakingWindow::makeTable() {
@@ -170,23 +143,22 @@ QWidget* TakingWindow::makeTable() {
 }
 
 void TakingWindow::connectParts() {
-    auto* const keys = new FieldKeys(
-        *this, [this] { m_list->isVisible() ? m_runTable->setFocus() : m_line->setFocus(); });
-    connect(keys, &FieldKeys::typingChanged, m_typing, &QLabel::setVisible);
+    m_stage->keepKeys(*this, [this] {
+        m_list->isVisible() ? m_runTable->setFocus() : m_stage->line().setFocus();
+    });
     connect(&m_document, &TakingDocument::changed, this, &TakingWindow::showDocument);
     connect(m_runTable->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
             [this](const QModelIndex& current) { selectRun(current.row()); });
     connect(m_runTable, &QTableView::clicked, this, [this] {
         if (workspace().preferences().boolean("playonclick"))
-            m_deck->play(1);
+            deck().play(1);
     });
-    connect(m_name, &QLineEdit::returnPressed, this, &TakingWindow::collectTraining);
-    connect(m_deck, &FilmDeck::frameShown, this, &TakingWindow::showRunning);
-    connect(m_deck, &FilmDeck::stateChanged, this, &TakingWindow::showState);
-    connect(m_deck, &FilmDeck::indexChanged, this, &TakingWindow::showHealth);
-    connect(m_line, &TimeLine::markClicked, this, &TakingWindow::goToMark);
-    connect(m_line, &TimeLine::markDropped, this, &TakingWindow::dropMark);
-    connect(m_splits, &SplitBar::splitClicked, this, &TakingWindow::goToMark);
+    connect(m_name, &QLineEdit::returnPressed, this,
+            [this] { m_exchange.collectTraining(m_name->text().trimmed()); });
+    connect(m_stage, &FilmStage::ended, this, &TakingWindow::goOn);
+    connect(m_splits, &SplitMode::chosen, m_notes, &NotesPanel::clearSelection);
+    connect(m_splits, &SplitMode::told, m_notes, &NotesPanel::tell);
+    connect(m_films, &RunFilms::shown, m_shown, &SplitsShown::showExpected);
     connect(m_gates, &GateStrip::gateClicked, m_gates, &GateStrip::setCurrent);
     for (QTableView* table : {static_cast<QTableView*>(m_table), m_table->frozenView()})
         connect(table, &QTableView::clicked, this, &TakingWindow::playTableCell);
@@ -194,19 +166,16 @@ void TakingWindow::connectParts() {
 
 /// One mark is selected at a time: a split or a note.
 void TakingWindow::connectNotes() {
-    const auto leaveSplits = [this] {
-        m_selected.reset();
-        showMarks();
-    };
-    connect(m_notes, &NotesPanel::modeChanged, this, leaveSplits);
-    connect(m_notes, &NotesPanel::noteSelected, this, leaveSplits);
-    connect(m_notes, &NotesPanel::splitChosen, this, &TakingWindow::goToMark);
-    connect(m_notes, &NotesPanel::attachWanted, this, &TakingWindow::attachFixedCamera);
-    connect(m_notes, &NotesPanel::besideChanged, this, &TakingWindow::showBeside);
+    connect(m_notes, &NotesPanel::modeChanged, this, [this] {
+        FilmMode* const page = m_notes->page();
+        m_stage->setFront(page ? *page : *m_splits);
+        m_splits->leave();
+    });
+    connect(m_notes, &NotesPanel::noteSelected, m_splits, &SplitMode::leave);
+    connect(m_notes, &NotesPanel::splitChosen, m_stage, &FilmStage::goToMark);
     connect(m_notes, &NotesPanel::runRequested, this, &TakingWindow::selectRun);
-    connect(m_notes, &NotesPanel::refused, this, &TakingWindow::refuse);
-    connect(m_notes, &NotesPanel::flashed, this,
-            [this](const QString& text) { m_views.front()->flash(text); });
+    connect(m_notes, &NotesPanel::refused, m_stage, &FilmStage::refuse);
+    connect(m_notes, &NotesPanel::flashed, m_stage, &FilmStage::flash);
 }
 
 bool TakingWindow::open(const QString& path) {
@@ -215,7 +184,7 @@ bool TakingWindow::open(const QString& path) {
     if (!isOpen)
         return false;
     if (m_run < 0)
-        showFilms(); // says how films come here
+        m_films->show(); // says how films come here
     m_runTable->setFocus();
     return true;
 }
@@ -227,34 +196,31 @@ void TakingWindow::makeFilmLarger() {
     m_list->setVisible(m_larger < 2);
     m_notes->setVisible(m_larger < 2);
     if (m_larger == 2)
-        m_line->setFocus(); // what was hidden may have had it, and keys belong to the window
+        m_stage->line()
+            .setFocus(); // what was hidden may have had it, and keys belong to the window
     else
         m_runTable->setFocus();
 }
 
-void TakingWindow::tell(const std::string& message) {
-    workspace().showAlert({"", message}, this);
-}
-
 void TakingWindow::showDocument() {
     followRun();
-    if (m_run >= 0 && filmsOf(m_run) != m_filmsShown)
-        showFilms();
-    if (m_selected && (m_run < 0 || !stampsOf(m_document.marks(m_run), *m_selected)))
-        m_selected.reset();
-    std::vector<std::int64_t> penalties;
-    if (m_run >= 0)
-        penalties = m_document.run(m_run).sectioninfo.pens;
+    m_films->follow();
+    m_splits->follow();
     m_gates->setCourse(static_cast<int>(m_document.info().gates), m_document.info().upGates);
-    m_gates->setPenalties(penalties);
-    showMarks();
+    showGates();
+    m_shown->show();
     m_race.show(timesOf(m_document.value()), m_document.path());
     m_actions->refresh();
 }
 
+void TakingWindow::showGates() {
+    m_gates->setPenalties(m_run < 0 ? std::vector<std::int64_t>()
+                                    : m_document.run(m_run).sectioninfo.pens);
+}
+
 /// Presses that wait for their frame belong to what is in front now.
 bool TakingWindow::takePending() {
-    m_deck->finishPresses();
+    deck().finishPresses();
     m_form->commit();
     m_notes->commit();
     return true;
@@ -271,6 +237,8 @@ void TakingWindow::followRun() {
         return;
     }
     m_run = place;
+    m_splits->runMoved(place);
+    m_films->runMoved(place);
     m_form->runMoved(place);
     m_notes->runMoved(place);
     m_runTable->selectRow(place);
@@ -287,10 +255,10 @@ void TakingWindow::selectRun(int run) {
 }
 
 void TakingWindow::showRun(int run) {
-    rememberFilmPlace();
+    m_films->startRun(run);
     m_run = run;
     m_identity = run < 0 ? nullptr : m_document.identityOf(run);
-    m_selected.reset();
+    m_splits->showRun(run);
     m_form->showRun(run);
     if (run >= 0 && m_runTable->currentIndex().row() != run)
         m_runTable->selectRow(run);
@@ -298,90 +266,59 @@ void TakingWindow::showRun(int run) {
         const QSignalBlocker blocked(m_notes); // the film beside is opened with the run's own
         m_notes->showRun(run);
     }
-    showFilms();
+    m_films->show();
     m_gates->setCurrent(1);
     if (run >= 0)
-        m_gates->setPenalties(m_document.run(run).sectioninfo.pens);
-    showMarks();
+        showGates();
+    m_shown->show();
     if (m_recording)
         m_recording->startRun();
 }
 
-const Stamps* TakingWindow::stampsOf(const RunMarks& marks, std::size_t mark) const {
-    if (mark == 0)
-        return marks.start && !marks.start->empty() ? &*marks.start : nullptr;
-    return mark <= marks.marks.size() && !marks.marks[mark - 1].empty() ? &marks.marks[mark - 1]
-                                                                        : nullptr;
-}
-
-void TakingWindow::showMarks() {
-    const RunMarks marks = m_run < 0 ? RunMarks() : m_document.marks(m_run);
-    const std::vector<double> times = splitTimes(marks);
-    std::vector<LineMark> line;
-    std::optional<std::size_t> selected;
-    for (std::size_t mark = 0; mark <= marks.marks.size(); ++mark) {
-        const Stamps* const stamps = stampsOf(marks, mark);
-        if (!stamps)
-            continue;
-        if (m_selected == mark)
-            selected = line.size();
-        line.push_back({stamps->front(), mark == 0 ? tr("Start") : QString::number(mark), mark});
-    }
-    m_line->setMarks(std::move(line));
-    m_line->setSelected(selected);
-    std::vector<SplitBar::Section> sections;
-    const infodata031& info = m_document.info();
-    for (std::size_t i = 0; std::cmp_less(i, std::min<std::int64_t>(info.totalsplits, 100)); ++i) {
-        const QString title = qtText(entryOrZero(info.splitTitles, i));
-        const bool isTaken = i < times.size() && stampsOf(marks, i + 1);
-        sections.push_back({title.isEmpty() ? 'S' + QString::number(i + 1) : title,
-                            isTaken ? shownHundredths(times[i]) : QString()});
-    }
-    m_splits->setSections(std::move(sections));
-    m_splits->setSelected(m_selected && *m_selected > 0 ? m_selected : std::nullopt);
-    showRunning();
-    showExpected();
-}
-
-void TakingWindow::showRunning() {
-    const RunMarks marks = m_run < 0 ? RunMarks() : m_document.marks(m_run);
-    const std::size_t next = marks.marks.size() + 1;
-    const FilmPicture* const shown = m_deck->shown(0);
-    const auto last = lastMark();
-    const bool isRunning =
-        shown && last && std::cmp_less_equal(next, m_document.info().totalsplits);
-    if (!isRunning) {
-        m_splits->setRunning(std::nullopt, {});
+/// The film has come to its end: the next run's plays from its beginning, where that is wanted.
+void TakingWindow::goOn() {
+    if (!workspace().preferences().boolean("autoplaynext") || m_run + 1 >= m_document.runCount())
         return;
-    }
-    const double since = shown->frame.stamp.seconds() - stampsOf(marks, *last)->front().seconds();
-    m_splits->setRunning(next, since < 0 ? QString() : shownHundredths(since));
+    m_stage->forgetPlace(m_document.identityOf(m_run + 1));
+    selectRun(m_run + 1);
+    deck().play(1);
 }
 
-std::optional<std::size_t> TakingWindow::lastMark() const {
-    if (m_run < 0)
-        return std::nullopt;
-    const RunMarks marks = m_document.marks(m_run);
-    for (std::size_t mark = marks.marks.size() + 1; mark-- > 0;)
-        if (stampsOf(marks, mark))
-            return mark;
-    return std::nullopt;
+void TakingWindow::stepRun(int step) {
+    const int run = m_run + step;
+    if (run >= 0 && run < m_document.runCount())
+        selectRun(run);
 }
 
-void TakingWindow::showState() {
-    const QString motion = m_deck->cameras() == 0 ? QString()
-                           : m_deck->isPlaying()  ? tr("Playing %1").arg(rateText(m_deck->rate()))
-                                                  : tr("Paused, %1").arg(rateText(m_deck->rate()));
-    m_state->setText(motion);
-    const bool hasEnded = !m_deck->isPlaying() && m_deck->cameras() > 0 && m_deck->end() > 0 &&
-                          m_deck->position() >= m_deck->end() && m_deck->rate() > 0;
-    if (hasEnded && m_wasPlaying && workspace().preferences().boolean("autoplaynext") &&
-        m_run + 1 < m_document.runCount()) {
-        m_places.erase(m_document.identityOf(m_run + 1)); // from its beginning
-        selectRun(m_run + 1);
-        m_deck->play(1);
-    }
-    m_wasPlaying = m_deck->isPlaying();
+void TakingWindow::removeRun() {
+    if (commit())
+        m_document.removeRun(m_run);
+}
+
+void TakingWindow::moveRun(int step) {
+    if (commit())
+        m_document.moveRun(m_run, m_run + step);
+}
+
+void TakingWindow::reset() {
+    if (commit())
+        m_document.reset(this);
+}
+
+void TakingWindow::findRun() {
+    m_name->setFocus();
+    m_name->selectAll();
+}
+
+void TakingWindow::setPenalty(GatePenalty penalty) {
+    const auto gates = m_document.info().gates;
+    if (m_run < 0 || gates <= 0)
+        return;
+    const int gate = m_gates->current();
+    m_document.editRun(m_run, tr("penalty at gate %1").arg(gate), [&](athletedata031& run) {
+        setPenaltyAndDetails(run, gate, static_cast<std::int64_t>(penalty), gates);
+    });
+    m_stage->stepGate(1);
 }
 
 void TakingWindow::playTableCell(const QModelIndex& index) {
@@ -391,7 +328,7 @@ void TakingWindow::playTableCell(const QModelIndex& index) {
     selectRun(static_cast<int>(m_race.shownSet().alldata[*shown].athleteInt));
     const int section = index.column() - SplitTableModel::LeadingColumns;
     if (section >= 0 && section < m_document.info().totalsplits)
-        goToMark(static_cast<std::size_t>(section) + 1);
+        m_stage->goToMark(static_cast<std::size_t>(section) + 1);
 }
 
 void TakingWindow::takeFiles(const QStringList& files) {
@@ -405,9 +342,29 @@ void TakingWindow::takeFiles(const QStringList& files) {
     if (!commit())
         return;
     if (!films.isEmpty())
-        (void)m_document.addFilms(copied(films));
+        (void)m_document.addFilms(m_files.copied(films));
     if (!others.isEmpty())
         emit openRequested(others);
+}
+
+RecordingDialog& TakingWindow::recording() {
+    if (!m_recording)
+        m_recording = new RecordingOfRun(
+            {m_document, deck(), m_files, workspace(), [this] { return m_run; }}, this);
+    return *m_recording;
+}
+
+void TakingWindow::openRecording(const QString& path) {
+    if (!recording().isVisible()) {
+        // The dialog asks for moments of the film, which therefore has to be seen.
+        const FilmGrid& grid = m_stage->grid();
+        const QRect film(grid.mapToGlobal(QPoint()), grid.size());
+        recording().placeBeside(film, screen()->availableGeometry());
+    }
+    recording().show();
+    recording().raise();
+    if (!path.isEmpty())
+        recording().load(path);
 }
 
 } // namespace kavela::desktop

@@ -3,12 +3,11 @@
 #include "desktop/race/race_document.h"
 #include "desktop/race/split_table_model.h"
 #include "desktop/shell/tool_window.h"
+#include "desktop/splitfile/film_files.h"
 #include "desktop/splitfile/taking_document.h"
+#include "desktop/taking/race_exchange.h"
 #include "desktop/taking/run_table_model.h"
 #include "splittaking/penalties.h"
-
-#include <functional>
-#include <map>
 
 class QLabel;
 class QLineEdit;
@@ -18,16 +17,16 @@ namespace kavela::desktop {
 
 class ClipPlayer;
 class FilmDeck;
-class FilmGrid;
-class FilmSound;
-class FilmView;
+class FilmStage;
 class FrozenTable;
 class GateStrip;
 class NotesPanel;
 class RecordingDialog;
+class RunFilms;
 class RunForm;
 class SplitBar;
-class TimeLine;
+class SplitMode;
+class SplitsShown;
 class TakingActions;
 
 /// Split taking: the runs to the left, the film of the selected one with its marks and gates in the
@@ -44,44 +43,25 @@ public:
     [[nodiscard]] bool open(const QString& path) override;
 
     [[nodiscard]] TakingDocument& document() { return m_document; }
-    [[nodiscard]] FilmDeck& deck() const { return *m_deck; }
-    [[nodiscard]] FilmSound& sound() const { return *m_sound; }
-    [[nodiscard]] int currentRun() const { return m_run; }
-    [[nodiscard]] const GateStrip& gates() const { return *m_gates; }
+    /// The films, and the keys of marking, which are those of the mode in front.
+    [[nodiscard]] FilmStage& stage() const { return *m_stage; }
+    [[nodiscard]] FilmDeck& deck() const;
+    /// The marks on the time line, whose mode is the first.
+    [[nodiscard]] SplitMode& splits() const { return *m_splits; }
     [[nodiscard]] NotesPanel& notes() const { return *m_notes; }
-    [[nodiscard]] std::optional<std::size_t> selectedMark() const { return m_selected; }
+    [[nodiscard]] RunFilms& films() const { return *m_films; }
+    [[nodiscard]] RaceExchange& exchange() { return m_exchange; }
+    [[nodiscard]] const GateStrip& gates() const { return *m_gates; }
+    [[nodiscard]] int currentRun() const { return m_run; }
 
-    // What the keys do.
+    // What the keys do, beside those of the stage.
     void selectRun(int run); ///< a number beyond the runs changes nothing
     void stepRun(int step);
-    void mark();
-    void moveMarkHere();
-    void nudgeMark(int frames);
-    void deleteMark();
-    /// Moves a mark to the frame at so many seconds of the film, on all cameras by the same time.
-    void dropMark(std::size_t mark, double seconds);
-    void goToMark(std::size_t mark); ///< 0 is the start, 1 the first split
-    /// To where the next split is to be expected; tells why when nothing says where that is.
-    void goToExpected();
-    void stepMark(int step);
-    void setPenalty(GatePenalty penalty);
-    void stepGate(int step);
-    void setUpCourse();
-    /// Asks how the films are named, and reads the runs from their names again.
-    void readFilmNames();
-    void importVideos();
-    void addCamera();
-    void attachFixedCamera();
-    /// Asks in which folder the films are now, and finds them there by their names.
-    void findFilms();
-    void importSplitFile();
-    void importResults();
-    void collectTraining();
     void removeRun();
     void moveRun(int step);
-    void reset();
-    void exportData();
     void findRun();
+    void reset();
+    void setPenalty(GatePenalty penalty); ///< at the gate in front, which the next one follows
     /// Makes the film larger: without the table, then alone, then with all beside it again.
     void makeFilmLarger();
     /// Shows the recording of the run beside the film, to be aligned and attached.
@@ -89,11 +69,12 @@ public:
     [[nodiscard]] RecordingDialog& recording();
 
     /// Where files come from in place of the platform's dialogs, as in tests.
-    using ChooseFiles = std::function<QStringList(const QString& title, const QString& filter)>;
-    void setChooseFiles(ChooseFiles choose) { m_chooseFiles = std::move(choose); }
-    /// The same for a folder; empty for none.
-    using ChooseFolder = std::function<QString(const QString& title)>;
-    void setChooseFolder(ChooseFolder choose) { m_chooseFolder = std::move(choose); }
+    void setChooseFiles(FilmFiles::ChooseFiles choose) {
+        m_files.setChooseFiles(std::move(choose));
+    }
+    void setChooseFolder(FilmFiles::ChooseFolder choose) {
+        m_files.setChooseFolder(std::move(choose));
+    }
 
 signals:
     void analysisRequested(); ///< of the document as it is now, saved or not
@@ -107,72 +88,41 @@ protected:
 
 private:
     [[nodiscard]] QWidget* makeRuns();
-    [[nodiscard]] QWidget* makeStage();
+    void makeStage();
+    void makeModes();
     [[nodiscard]] QWidget* makeTable();
     void connectParts();
     void connectNotes();
     void showRun(int run);
     void followRun();
     void showDocument();
-    void showFilms();
-    void showBeside();
-    void askForFilms(const QStringList& films);
-    [[nodiscard]] std::optional<CMTime> placeToShow(int run) const;
-    void rememberFilmPlace();
-    void showMarks();
-    void showExpected();
-    void showRunning();
-    void showState();
-    void showHealth();
-    void select(std::optional<std::size_t> mark);
-    void importResults(const QString& name, const ResultsList& list);
-    void refuseMark(const Alert& why);
-    void moveTo(std::size_t mark, Stamps stamps);
-    void tell(const std::string& message);
-    void refuse(const QString& why);
-    void refuseWithoutFilm();
-    void markSplit(Stamps stamps);
-    void moveMarkTo(Stamps stamps);
-    void nudge(std::size_t mark, int frames);
-    void dropMarkAt(std::size_t mark, const CMTime& moment);
+    void showGates();
+    void goOn();
     void playTableCell(const QModelIndex& index);
-    [[nodiscard]] QStringList filmsOf(int run) const;
-    [[nodiscard]] std::optional<std::size_t> lastMark() const;
-    [[nodiscard]] const Stamps* stampsOf(const RunMarks& marks, std::size_t mark) const;
-    [[nodiscard]] QStringList copied(const QStringList& files);
 
     TakingDocument m_document;
+    FilmFiles m_files;
+    RaceExchange m_exchange;
     RunTableModel m_runs;
     RaceDocument m_race; ///< of the table below
     SplitTableModel m_tableModel;
-    FilmDeck* m_deck;
-    FilmSound* m_sound;
+    FilmStage* m_stage;
     TakingActions* m_actions = nullptr;
-    ChooseFiles m_chooseFiles;
-    ChooseFolder m_chooseFolder;
-    QStringList m_filmsShown;               ///< of the run in front, found or not
-    std::map<RunIdentity, CMTime> m_places; ///< where the film of a run was left
     int m_run = -1;
-    RunIdentity m_identity;                ///< of the run in front
-    std::optional<std::size_t> m_selected; ///< mark: 0 is the start, 1 the first split
-    bool m_hasAlignedCameras = false;
-    bool m_wasPlaying = false;
+    RunIdentity m_identity; ///< of the run in front
+    int m_larger = 0;       ///< 0 to 2: how much has made room for the film
 
-    QTableView* m_runTable = nullptr;
-    QLineEdit* m_name = nullptr;
-    FilmGrid* m_films = nullptr;
     QWidget* m_list = nullptr; ///< the runs to the left
-    int m_larger = 0;          ///< 0 to 2: how much has made room for the film
-    std::vector<FilmView*> m_views;
-    QLabel* m_state = nullptr;
-    QLabel* m_health = nullptr;
-    QLabel* m_typing = nullptr; ///< how the keys come back from a field to the film
-    TimeLine* m_line = nullptr;
-    SplitBar* m_splits = nullptr;
+    QLineEdit* m_name = nullptr;
+    QTableView* m_runTable = nullptr;
+    SplitBar* m_times = nullptr;
     GateStrip* m_gates = nullptr;
     RunForm* m_form = nullptr;
     ClipPlayer* m_clips = nullptr;
     NotesPanel* m_notes = nullptr;
+    SplitMode* m_splits = nullptr;
+    SplitsShown* m_shown = nullptr;
+    RunFilms* m_films = nullptr;
     FrozenTable* m_table = nullptr;
     RecordingDialog* m_recording = nullptr; ///< made when it is first wanted
 };

@@ -8,6 +8,7 @@
 class QComboBox;
 class QLabel;
 class QPushButton;
+class QTableWidget;
 
 namespace kavela::desktop {
 

@@ -3,6 +3,7 @@
 #include "desktop/taking/notes/note_page.h"
 
 class QCheckBox;
+class QTableWidget;
 
 namespace kavela::desktop {
 
@@ -19,6 +20,8 @@ public:
 
     void commit() override;
     void refresh() override;
+    /// Comments have no moment: the keys stay those of the splits.
+    [[nodiscard]] bool takesMarks() const override { return false; }
     void mark(const Stamps&) override {}
     /// Begins or ends a recording of the team radio.
     void recordRadio();

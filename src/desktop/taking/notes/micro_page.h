@@ -2,6 +2,8 @@
 
 #include "desktop/taking/notes/note_page.h"
 
+class QTableWidget;
+
 namespace kavela::desktop {
 
 /// Micro splits: marks between the splits, timed from the start of the run.

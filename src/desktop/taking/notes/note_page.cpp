@@ -3,6 +3,7 @@
 #include "desktop/film/film_deck.h"
 #include "desktop/shell/typing.h"
 #include "desktop/splitfile/taking_document.h"
+#include "desktop/taking/notes/note_marks.h"
 #include "splitdata/run_timing.h"
 #include "splittaking/course_setup.h"
 
@@ -36,6 +37,25 @@ QString titleOf(NoteMode mode) {
     return NotePage::tr("Cameras");
 }
 
+std::optional<NoteMode> modeOf(MarkKind kind) {
+    switch (kind) {
+    case MarkKind::MicroSplit:
+        return NoteMode::MicroSplits;
+    case MarkKind::Upstream:
+        return NoteMode::Upstreams;
+    case MarkKind::Stroke:
+        return NoteMode::Strokes;
+    case MarkKind::TimeLoss:
+        return NoteMode::TimeLosses;
+    case MarkKind::Tag:
+        return NoteMode::Tags;
+    case MarkKind::Start:
+    case MarkKind::Split:
+        break;
+    }
+    return std::nullopt;
+}
+
 const athletedata031* NoteDesk::record() const {
     return run >= 0 && run < document.runCount() ? &document.run(run) : nullptr;
 }
@@ -47,6 +67,34 @@ std::optional<CMTime> NoteDesk::moment() const {
 
 void NotePage::commit() {
     endTypingIn(*this);
+}
+
+bool NotePage::hasSelection() const {
+    const auto& selected = m_desk.marks->selected();
+    return selected && selected->kind == kind();
+}
+
+void NotePage::markHere() {
+    emit pressed([this](const Stamps& stamps) { mark(stamps); });
+}
+
+void NotePage::moveMarkHere() {
+    m_desk.marks->moveMarkHere();
+}
+
+void NotePage::nudgeMark(int frames) {
+    m_desk.marks->nudgeMark(frames);
+}
+
+void NotePage::deleteMark() {
+    m_desk.marks->deleteMark();
+}
+
+bool NotePage::stepMark(int step) {
+    const auto own = kind();
+    if (own)
+        m_desk.marks->stepMark(*own, step);
+    return own.has_value();
 }
 
 bool NotePage::refuses(const std::optional<std::string>& why) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "common/alerts.h"
+#include "desktop/film/film_mode.h"
 #include "splittaking/annotations/gate_marks.h"
 #include "splittaking/annotations/lanes.h"
 #include "splittaking/marking.h"
@@ -14,6 +15,7 @@ namespace kavela::desktop {
 class ClipPlayer;
 class FilmDeck;
 class GateStrip;
+class NoteMarks;
 class TakingDocument;
 class Workspace;
 
@@ -35,6 +37,9 @@ inline constexpr int NoteModes = 10;
 
 [[nodiscard]] QString titleOf(NoteMode mode);
 
+/// The mode that takes the marks of a kind; none for start and splits.
+[[nodiscard]] std::optional<NoteMode> modeOf(MarkKind kind);
+
 /// What the pages of all modes work on.
 struct NoteDesk {
     TakingDocument& document;
@@ -46,6 +51,7 @@ struct NoteDesk {
     std::optional<std::size_t> fixedCamera; ///< whose film is shown beside the run's
     /// Where the fixed camera's film stands for the key that acts now; nothing without one.
     std::optional<CMTime> fixedMoment = {};
+    NoteMarks* marks = nullptr; ///< of all modes
 
     /// The run in front; null without one.
     [[nodiscard]] const athletedata031* record() const;
@@ -57,8 +63,9 @@ struct NoteDesk {
 using FrameAct = std::function<void(const Stamps&)>;
 
 /// The page of one mode: what it shows of the run in front, and what its keys do. Every edit is one
-/// step that can be undone.
-class NotePage : public QWidget {
+/// step that can be undone. What the splits have too, such as the marks on the time line, it leaves
+/// to them.
+class NotePage : public QWidget, public FilmMode {
     Q_OBJECT
 
 public:
@@ -88,8 +95,14 @@ public:
     virtual void unchoose() {}
     /// What the removing key does when no mark is selected; false where nothing is in hand.
     [[nodiscard]] virtual bool removeCurrent() { return false; }
-    /// The next gate or the one before among those of the mode; false leaves it to the gate strip.
-    virtual bool stepGate(int) { return false; }
+
+    [[nodiscard]] bool hasSelection() const override;
+    void markHere() override;
+    void moveMarkHere() override;
+    void nudgeMark(int frames) override;
+    void deleteMark() override;
+    /// Among the marks of the mode, where it has a kind of its own.
+    bool stepMark(int step) override;
 
 signals:
     /// A mark was taken at a moment, in the record of the run in front or beside it.
@@ -104,7 +117,6 @@ signals:
     void runRequested(int run);
     /// A button was pressed that acts with the frames that are meant by it.
     void pressed(const FrameAct& act);
-    void markWanted(); ///< the marking key was pressed in a field of the page
 
 protected:
     /// Whether a note is refused, which is told then.

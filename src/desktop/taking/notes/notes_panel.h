@@ -6,6 +6,8 @@
 #include <QWidget>
 
 #include <array>
+#include <functional>
+#include <vector>
 
 class QLabel;
 class QStackedWidget;
@@ -18,13 +20,14 @@ class CommentPage;
 class LaneStrip;
 class LossPage;
 class MarkList;
+class NoteMarks;
 class StrokePage;
 class TagPage;
 class TimeLine;
 
 /// The modes of split taking: a bar to choose one from, its page beside the film, the list of all
-/// marks of the run and their lanes under the time line. Splits keep their own keys and page; in
-/// the other modes the same keys act on the marks of the mode.
+/// marks of the run and their lanes under the time line. The splits, whose page it is given, are
+/// the first of them.
 class NotesPanel : public QWidget {
     Q_OBJECT
 
@@ -50,26 +53,19 @@ public:
     /// Says something below the page; nothing takes it away.
     void tell(const QString& text);
 
-    /// Whether the marking key is the mode's, and not that of the splits.
-    [[nodiscard]] bool takesMarks() const;
-    /// Whether the keys of the selected mark are, as long as no split is selected.
-    [[nodiscard]] bool takesEdits() const { return takesMarks() || m_selected; }
+    /// The modes beside the splits, in their order.
+    [[nodiscard]] std::vector<FilmMode*> modes() const;
+    /// The one in front; null for the splits.
+    [[nodiscard]] NotePage* page() const;
     /// The mark that keys act on; none while a split is selected.
-    [[nodiscard]] const std::optional<LaneMark>& selected() const { return m_selected; }
+    [[nodiscard]] const std::optional<LaneMark>& selected() const;
     void clearSelection();
 
-    // What the keys do in a mode that marks.
-    void mark();
+    // What the keys of single modes do.
     /// Does what a key does in its mode; in another one it tells where it works.
     void actIn(NoteMode mode, const std::function<void()>& act);
     void markStroke(HandCode hand);
     void swapHand();
-    void moveMarkHere();
-    void nudgeMark(int frames);
-    void deleteMark();
-    /// False where the mode has no marks of its own to go to.
-    [[nodiscard]] bool stepMark(int step);
-    [[nodiscard]] bool stepGate(int step);
     void playTag();
     void goToOtherRun();
     void recordRadio();
@@ -96,24 +92,11 @@ signals:
 private:
     void addPages(QWidget& splits);
     void addPage(NotePage* page);
-    [[nodiscard]] NotePage* page() const;
+    void connectMarks();
     void refresh();
     void showFrame();
-    void showList();
-    void keepSelection();
-    void showSelection();
-    void press(const FrameAct& act);
-    void actPressed(const FrameAct& act, const Stamps& stamps);
     void refuse(const QString& why);
     void hear(const QString& told);
-    void select(const LaneMark& mark);
-    void selectAt(MarkKind kind, const CMTime& moment);
-    void goTo(const MarkHandle& handle);
-    void seek(const LaneMark& mark);
-    [[nodiscard]] std::optional<std::size_t> shownCamera(const FilmOfRun& film) const;
-    void moveSelected(const CMTime& moment);
-    void nudgeSelected(int frames);
-    void dropMark(const MarkHandle& handle, double seconds);
 
     NoteDesk m_desk;
     NoteMode m_mode = NoteMode::Splits;
@@ -122,15 +105,13 @@ private:
     QLabel* m_told;
     MarkList* m_list;
     LaneStrip* m_lanes;
+    NoteMarks* m_marks;
     std::array<NotePage*, NoteModes> m_pages{}; ///< by mode; none for the splits
     StrokePage* m_strokes = nullptr;
     TagPage* m_tags = nullptr;
     LossPage* m_losses = nullptr;
     CommentPage* m_comments = nullptr;
     CameraPage* m_cameras = nullptr;
-    bool m_isPressed = false; ///< a key acts: what a page tells meanwhile is why it did not
-    AnnotationLanes m_marks;
-    std::optional<LaneMark> m_selected;
 };
 
 } // namespace kavela::desktop

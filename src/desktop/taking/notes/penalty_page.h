@@ -5,6 +5,7 @@
 
 class QLabel;
 class QPushButton;
+class QTableWidget;
 
 namespace kavela::desktop {
 

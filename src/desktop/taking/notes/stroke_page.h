@@ -4,6 +4,7 @@
 #include "splittaking/annotations/strokes.h"
 
 class QLabel;
+class QTableWidget;
 
 namespace kavela::desktop {
 

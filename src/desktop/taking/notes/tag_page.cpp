@@ -105,7 +105,7 @@ void TagPage::takeName() {
     if (name().isEmpty())
         return;
     if (m_isTaken) {
-        emit markWanted();
+        markHere();
         return;
     }
     m_isTaken = true;

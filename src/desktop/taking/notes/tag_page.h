@@ -4,6 +4,7 @@
 
 class QCheckBox;
 class QComboBox;
+class QTableWidget;
 
 namespace kavela::desktop {
 

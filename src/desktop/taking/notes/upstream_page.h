@@ -5,6 +5,7 @@
 
 class QCheckBox;
 class QLabel;
+class QTableWidget;
 
 namespace kavela::desktop {
 

@@ -1,0 +1,136 @@
+#include "desktop/taking/race_exchange.h"
+
+#include "common/alerts.h"
+#include "common/error.h"
+#include "common/text_file.h"
+#include "desktop/shell/workspace.h"
+#include "desktop/splitfile/film_files.h"
+#include "desktop/splitfile/taking_document.h"
+#include "desktop/taking/course_dialog.h"
+#include "desktop/taking/export_dialog.h"
+#include "desktop/taking/results_dialog.h"
+#include "splitdata/loader.h"
+#include "splittaking/messages.h"
+#include "splittaking/training_collection.h"
+#include "splittaking/video_names.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QInputDialog>
+#include <QLineEdit>
+
+#include <utility>
+
+namespace kavela::desktop {
+
+RaceExchange::RaceExchange(TakingDocument& document, const FilmFiles& files, Workspace& workspace,
+                           QWidget& window, std::function<bool()> commit)
+    : m_document(document),
+      m_files(files),
+      m_workspace(workspace),
+      m_window(window),
+      m_commit(std::move(commit)) {}
+
+void RaceExchange::tell(const std::string& message) {
+    m_workspace.showAlert({"", message}, &m_window);
+}
+
+void RaceExchange::setUpCourse() {
+    CourseDialog dialog(m_document.info(), m_workspace, &m_window);
+    if (dialog.exec() == QDialog::Accepted)
+        m_document.editInfo(tr("course"), [&](infodata031& info) { info = dialog.info(); });
+}
+
+void RaceExchange::readFilmNames() {
+    QString pattern = m_document.filmPattern();
+    for (bool isAgreed = false; !isAgreed;) {
+        pattern = QInputDialog::getText(
+            &m_window, tr("Names of the films"),
+            tr("How the films are named, such as \"{any} {name} {category} {phase}\".\n{name}, "
+               "{category}, {phase}, {bib}, {number} and {any} stand for what differs."),
+            QLineEdit::Normal, pattern, &isAgreed);
+        if (!isAgreed)
+            return;
+        if (const auto fault = faultOfVideoPattern(pattern.toStdString())) {
+            tell(*fault);
+            isAgreed = false;
+        }
+    }
+    m_document.readFilmNames(pattern);
+}
+
+void RaceExchange::importSplitFile() {
+    if (!m_commit())
+        return;
+    for (const QString& file :
+         m_files.choose(tr("Import split file"), tr("Split files (*.kvx);;All files (*)")))
+        m_document.importSplitFile(file, &m_window);
+}
+
+void RaceExchange::importResults() {
+    if (!m_commit())
+        return;
+    for (const QString& file :
+         m_files.choose(tr("Import official results"), tr("Lists (*.csv *.txt);;All files (*)")))
+        try {
+            importResults(QFileInfo(file).fileName(),
+                          parseResults(readTextFile(file.toStdString())));
+        } catch (const FileError& error) {
+            tell(error.reason());
+        } catch (const DecodeError& error) {
+            tell(error.what());
+        }
+}
+
+/// Nothing is taken before the coach has seen what there is for whom.
+void RaceExchange::importResults(const QString& name, const ResultsList& list) {
+    if (list.results.empty()) {
+        std::string why = tr("There are no results in %1.").arg(name).toStdString();
+        for (const SkippedLine& line : list.skipped)
+            why += "\nLine " + std::to_string(line.line) + ": " + line.reason;
+        tell(why);
+        return;
+    }
+    const splittakerdata031 race = timesOf(m_document.value());
+    ResultsDialog dialog(race.athletes, list, name, &m_window);
+    if (dialog.exec() == QDialog::Accepted)
+        m_document.takeResults(list, dialog.taken());
+}
+
+void RaceExchange::exportData() {
+    if (!m_commit())
+        return;
+    if (m_document.runCount() == 0) {
+        tell(messages::NothingToExport);
+        return;
+    }
+    ExportDialog dialog(m_workspace, m_document.path(), &m_window);
+    if (dialog.exec() == QDialog::Accepted)
+        (void)m_document.exportTo(dialog.path(), {dialog.alsoCsv(), dialog.alsoPdf()}, &m_window);
+}
+
+/// The films of the folder that carry the name become a file of their own.
+void RaceExchange::collectTraining(const QString& athlete) {
+    if (!isAthleteName(athlete.toStdString()) ||
+        !m_workspace.ask({"", messages::AskToCollect}, tr("Create"), &m_window))
+        return;
+    const TrainingPlan plan{athlete.toStdString(),
+                            m_workspace.preferences().integer("predeterminatedsplits"),
+                            m_workspace.clock()()};
+    const QString target = m_document.folder() + '/' + TrainingFileName;
+    if (QFile::exists(target) &&
+        !m_workspace.ask({"", messages::AskToOverwrite}, tr("Overwrite"), &m_window))
+        return;
+    try {
+        const TrainingCollection training =
+            kavela::collectTraining(m_document.folder().toStdString(), plan);
+        if (saveSplitFile(training.document, target.toStdString(), m_workspace.log()))
+            tell(messages::Saved);
+        else
+            tell("Failed to create file");
+    } catch (const FileError& error) {
+        tell(error.what());
+    }
+}
+
+} // namespace kavela::desktop
