@@ -175,17 +175,16 @@ void FilmStage::whenKnown(const FrameRequest& frame, const FilmDeck::Settled& ac
     m_deck->whenSettled(frame, act, [this](const QString& why) { refuse(why); });
 }
 
-/// How the film goes, and that it has come to its end.
+bool FilmStage::isAtEnd() const {
+    return !m_deck->isPlaying() && m_deck->cameras() > 0 && m_deck->end() > 0 &&
+           m_deck->position() >= m_deck->end() && m_deck->rate() > 0;
+}
+
 void FilmStage::showState() {
     const QString rate = QStringLiteral("×") + QString::number(m_deck->rate());
-    const bool isPlaying = m_deck->isPlaying();
     m_state->setText(m_deck->cameras() == 0 ? QString()
-                     : isPlaying            ? tr("Playing %1").arg(rate)
+                     : m_deck->isPlaying()  ? tr("Playing %1").arg(rate)
                                             : tr("Paused, %1").arg(rate));
-    const bool isAtEnd = !isPlaying && m_deck->cameras() > 0 && m_deck->end() > 0 &&
-                         m_deck->position() >= m_deck->end() && m_deck->rate() > 0;
-    if (std::exchange(m_wasPlaying, isPlaying) && isAtEnd)
-        emit ended();
 }
 
 void FilmStage::showHealth() {

@@ -76,6 +76,8 @@ public:
     void forgetPlace(const FilmKey& key) { m_places.erase(key); }
     /// To where the films were left; otherwise to a moment, where there is one.
     void goToPlace(const std::optional<CMTime>& otherwise);
+    /// Whether the films rest at their end, after they were played forward.
+    [[nodiscard]] bool isAtEnd() const;
     /// Said in place of the first picture.
     void setMessage(const QString& message);
     /// Said in place of a film that is not there, with a button that emits searchWanted().
@@ -112,7 +114,6 @@ public:
 
 signals:
     void searchWanted(); ///< the coach wants to say where the films are
-    void ended();        ///< the film played to its end
 
 private:
     void makeLabels(const Parts& parts);
@@ -132,7 +133,6 @@ private:
     std::map<FilmKey, CMTime> m_places; ///< where films were left
     std::vector<FilmMode*> m_modes;
     FilmMode* m_front = nullptr;
-    bool m_wasPlaying = false;
 
     FilmGrid* m_grid;
     std::vector<FilmView*> m_views; ///< never empty

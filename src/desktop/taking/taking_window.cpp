@@ -36,6 +36,7 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <utility>
 
 namespace kavela::desktop {
 
@@ -155,7 +156,8 @@ void TakingWindow::connectParts() {
     });
     connect(m_name, &QLineEdit::returnPressed, this,
             [this] { m_exchange.collectTraining(m_name->text().trimmed()); });
-    connect(m_stage, &FilmStage::ended, this, &TakingWindow::goOn);
+    // After the clips, which may have gone on from the end of the film.
+    connect(&deck(), &FilmDeck::stateChanged, this, &TakingWindow::goOn);
     connect(m_splits, &SplitMode::chosen, m_notes, &NotesPanel::clearSelection);
     connect(m_splits, &SplitMode::told, m_notes, &NotesPanel::tell);
     connect(m_films, &RunFilms::shown, m_shown, &SplitsShown::showExpected);
@@ -195,9 +197,8 @@ void TakingWindow::makeFilmLarger() {
     m_table->setVisible(m_larger == 0);
     m_list->setVisible(m_larger < 2);
     m_notes->setVisible(m_larger < 2);
-    if (m_larger == 2)
-        m_stage->line()
-            .setFocus(); // what was hidden may have had it, and keys belong to the window
+    if (m_larger == 2) // what was hidden may have had it, and keys belong to the window
+        m_stage->line().setFocus();
     else
         m_runTable->setFocus();
 }
@@ -275,9 +276,11 @@ void TakingWindow::showRun(int run) {
         m_recording->startRun();
 }
 
-/// The film has come to its end: the next run's plays from its beginning, where that is wanted.
+/// Where the film has played to its end the next run's plays from its beginning, if that is wanted.
 void TakingWindow::goOn() {
-    if (!workspace().preferences().boolean("autoplaynext") || m_run + 1 >= m_document.runCount())
+    const bool wasPlaying = std::exchange(m_wasPlaying, deck().isPlaying());
+    if (!wasPlaying || !m_stage->isAtEnd() || m_run + 1 >= m_document.runCount() ||
+        !workspace().preferences().boolean("autoplaynext"))
         return;
     m_stage->forgetPlace(m_document.identityOf(m_run + 1));
     selectRun(m_run + 1);

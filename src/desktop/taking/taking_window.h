@@ -110,7 +110,8 @@ private:
     TakingActions* m_actions = nullptr;
     int m_run = -1;
     RunIdentity m_identity; ///< of the run in front
-    int m_larger = 0;       ///< 0 to 2: how much has made room for the film
+    bool m_wasPlaying = false;
+    int m_larger = 0; ///< 0 to 2: how much has made room for the film
 
     QWidget* m_list = nullptr; ///< the runs to the left
     QLineEdit* m_name = nullptr;
