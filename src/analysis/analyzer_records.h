@@ -1,6 +1,7 @@
 #pragma once
 
 #include "boatmotion/sessions.h"
+#include "common/shared_list.h"
 #include "splitdata/records.h"
 
 #include <cstdint>
@@ -51,10 +52,10 @@ struct analyzerdata {
     std::vector<customData020> customData;
     std::vector<std::filesystem::path> fixcameras;
     smartAlldata_v4 sbm;
-    std::vector<boatmotionrawdata_v5> bm;
-    std::vector<heartmotiondata> heart;
-    std::vector<watchmotiondata_v5> watch;
-    std::vector<gpsrawdata> gps;
+    SharedList<boatmotionrawdata_v5> bm;
+    SharedList<heartmotiondata> heart;
+    SharedList<watchmotiondata_v5> watch;
+    SharedList<gpsrawdata> gps;
     std::vector<timeloss031> timeloss;
     std::vector<upstreamdata025> upstreams;
     std::vector<microsplitsdata025> microsplits;

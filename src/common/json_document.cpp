@@ -8,7 +8,10 @@
 
 #include <algorithm>
 #include <charconv>
+#include <map>
+#include <mutex>
 #include <new>
+#include <optional>
 #include <string>
 
 namespace kavela {
@@ -107,6 +110,51 @@ simdjson::error_code parse(simdjson::dom::parser& parser, const simdjson::padded
     return parser.parse(text.data(), text.size(), false).get(root);
 }
 
+/// What tells a file from what it was before.
+struct FileState {
+    std::filesystem::file_time_type written;
+    std::uintmax_t bytes = 0;
+
+    bool operator==(const FileState&) const = default;
+};
+
+std::optional<FileState> stateOf(const std::filesystem::path& path) {
+    std::error_code error;
+    const FileState state{std::filesystem::last_write_time(path, error),
+                          std::filesystem::file_size(path, error)};
+    return error ? std::nullopt : std::optional(state);
+}
+
+/// The parsed files that somebody still holds, as they were before they were read.
+template <class Tree>
+class HeldFiles {
+public:
+    std::shared_ptr<Tree> find(const std::filesystem::path& path,
+                               const std::optional<FileState>& state) {
+        const std::lock_guard lock(m_guard);
+        const auto file = m_files.find(path);
+        return state && file != m_files.end() && file->second.state == *state
+                   ? file->second.tree.lock()
+                   : nullptr;
+    }
+
+    void add(const std::filesystem::path& path, const std::optional<FileState>& state,
+             const std::shared_ptr<Tree>& tree) {
+        const std::lock_guard lock(m_guard);
+        std::erase_if(m_files, [](const auto& file) { return file.second.tree.expired(); });
+        if (state)
+            m_files.insert_or_assign(path, File{*state, tree});
+    }
+
+private:
+    struct File {
+        FileState state;
+        std::weak_ptr<Tree> tree;
+    };
+    std::mutex m_guard;
+    std::map<std::filesystem::path, File> m_files;
+};
+
 } // namespace
 
 struct JsonDocument::Tree {
@@ -122,7 +170,7 @@ struct JsonDocument::Tree {
     simdjson::dom::element root;
 };
 
-JsonDocument::JsonDocument(std::unique_ptr<Tree> tree) : m_tree(std::move(tree)) {}
+JsonDocument::JsonDocument(std::shared_ptr<const Tree> tree) : m_tree(std::move(tree)) {}
 
 JsonDocument::JsonDocument(JsonDocument&&) noexcept = default;
 JsonDocument& JsonDocument::operator=(JsonDocument&&) noexcept = default;
@@ -133,7 +181,13 @@ simdjson::dom::element JsonDocument::root() const {
 }
 
 JsonDocument JsonDocument::fromFile(const std::filesystem::path& path) {
-    return JsonDocument(std::make_unique<Tree>(readObjectText(path)));
+    static HeldFiles<const Tree> held;
+    const std::optional<FileState> state = stateOf(path);
+    if (auto tree = held.find(path, state))
+        return JsonDocument(std::move(tree));
+    auto tree = std::make_shared<const Tree>(readObjectText(path));
+    held.add(path, state, tree);
+    return JsonDocument(std::move(tree));
 }
 
 JsonDocument JsonDocument::fromText(std::string_view text) {
@@ -142,7 +196,7 @@ JsonDocument JsonDocument::fromText(std::string_view text) {
         throw std::bad_alloc();
     preferLargePages(padded.data(), padded.size());
     std::copy(text.begin(), text.end(), padded.data());
-    return JsonDocument(std::make_unique<Tree>(padded));
+    return JsonDocument(std::make_shared<const Tree>(padded));
 }
 
 } // namespace kavela

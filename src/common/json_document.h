@@ -16,7 +16,8 @@ namespace kavela {
 /// A parsed JSON document. It is parsed once; every record type is then tried on the same tree.
 class JsonDocument {
 public:
-    /// Reads and parses a file. Throws FileError, or DecodeError when it is no JSON.
+    /// Reads and parses a file. One that somebody still holds as it stands on the disk is not read
+    /// again. Throws FileError, or DecodeError when it is no JSON.
     [[nodiscard]] static JsonDocument fromFile(const std::filesystem::path& path);
     /// Parses a text in memory. Throws DecodeError when it is no JSON.
     [[nodiscard]] static JsonDocument fromText(std::string_view text);
@@ -31,9 +32,9 @@ public:
 private:
     struct Tree;
 
-    explicit JsonDocument(std::unique_ptr<Tree> tree);
+    explicit JsonDocument(std::shared_ptr<const Tree> tree);
 
-    std::unique_ptr<Tree> m_tree;
+    std::shared_ptr<const Tree> m_tree;
 };
 
 } // namespace kavela

@@ -177,12 +177,14 @@ QStringList Desktop::racesIn(const QString& folder) {
     return races;
 }
 
-QStringList Desktop::racesAmong(const QStringList& paths) {
+QStringList Desktop::racesAmong(const QStringList& paths, HeldDocuments& held) {
     QStringList races;
     QStringList recordings;
     QStringList imports;
     for (const QString& path : paths) {
-        switch (const OpensAs kind = opensAs(path)) {
+        Opening opening = opensAs(path);
+        held.hold(path, std::move(opening.document));
+        switch (opening.as) {
         case OpensAs::Race:
             races.append(path);
             break;
@@ -197,7 +199,7 @@ QStringList Desktop::racesAmong(const QStringList& paths) {
             imports.append(path);
             break;
         default:
-            openByContent(path, kind);
+            openByContent(path, opening.as);
         }
     }
     if (!recordings.isEmpty())
@@ -252,7 +254,8 @@ bool Desktop::openIn(const ToolKind& tool, const QString& path) {
 }
 
 void Desktop::openAll(const QStringList& paths, RaceWindow* into) {
-    if (const QStringList races = racesAmong(paths); !races.isEmpty())
+    HeldDocuments held;
+    if (const QStringList races = racesAmong(paths, held); !races.isEmpty())
         openRaces(races, into);
 }
 

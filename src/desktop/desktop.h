@@ -14,6 +14,7 @@
 namespace kavela::desktop {
 
 class CrossWindow;
+class HeldDocuments;
 class MotionWindow;
 class HomeWindow;
 class RaceWindow;
@@ -101,7 +102,7 @@ private:
     void openImports(const QStringList& paths);
     void showInAnalyzer(const TakingDocument& document);
     /// The races among files and folders; what is not one is told.
-    [[nodiscard]] QStringList racesAmong(const QStringList& paths);
+    [[nodiscard]] QStringList racesAmong(const QStringList& paths, HeldDocuments& held);
     void rememberSession();
     [[nodiscard]] QWidget* front() const;
 

@@ -1,6 +1,8 @@
 #include "desktop/opened_as.h"
 
+#include "app/document_kind.h"
 #include "app/file_facts.h"
+#include "common/error.h"
 #include "common/text_file.h"
 #include "desktop/imports/import_files.h"
 #include "desktop/sessions/session_window.h"
@@ -15,16 +17,12 @@
 #include <algorithm>
 #include <map>
 #include <stdexcept>
+#include <string_view>
+#include <utility>
 
 namespace kavela::desktop {
 
 namespace {
-
-/// A split file of this release without runs for the other tools.
-bool holdsOnlyCross(const FileFacts& facts) {
-    return facts.current && facts.counts.at("runs") == 0 &&
-           facts.counts.at("crossTimeTrials") + facts.counts.at("crossHeats") > 0;
-}
 
 /// A folder to be timed has films and no split file yet.
 OpensAs folderOpensAs(const QDir& folder) {
@@ -57,32 +55,63 @@ bool beginsAsDocument(const QString& path) {
     return file.open(QIODevice::ReadOnly) && file.read(Beginning).trimmed().startsWith('{');
 }
 
-OpensAs documentOpensAs(const QString& path) {
-    static const std::map<std::string, OpensAs> Kinds{
+/// One of an older release is brought to this one by the tool for races.
+OpensAs splitFileOpensAs(const DocumentKind& document, const QString& path) {
+    const bool isForCross =
+        document.hasCross && !document.hasRuns && factsOf(path.toStdString()).current;
+    return isForCross ? OpensAs::Cross : OpensAs::Race;
+}
+
+std::optional<OpensAs> documentOpensAs(const DocumentKind& document, const QString& path) {
+    static const std::map<std::string_view, OpensAs> Kinds{
         {"selection races", OpensAs::Selection}, {"team", OpensAs::Team},
         {"planning", OpensAs::Planning},         {"test results", OpensAs::Tests},
         {"raw session", OpensAs::Recording},     {"smart session", OpensAs::Session},
         {"test session", OpensAs::TestSession}};
-    const FileFacts facts = factsOf(path.toStdString());
-    if (facts.kind == "split file")
-        return holdsOnlyCross(facts) ? OpensAs::Cross : OpensAs::Race;
-    if (const auto kind = Kinds.find(facts.kind); kind != Kinds.end())
-        return kind->second;
-    if (path.endsWith(PlanningExtension)) // one that does not decode is told there
+    if (document.kind == "split file")
+        return splitFileOpensAs(document, path);
+    const auto kind = Kinds.find(document.kind);
+    return kind == Kinds.end() ? std::nullopt : std::optional(kind->second);
+}
+
+/// One that no tool knows, or that cannot be read, is told by the tool that its name belongs to.
+OpensAs unknownOpensAs(const QString& path) {
+    if (path.endsWith(PlanningExtension))
         return OpensAs::Planning;
-    return facts.error ? OpensAs::Race : OpensAs::NotReady;
+    return factsOf(path.toStdString()).error ? OpensAs::Race : OpensAs::NotReady;
+}
+
+Opening documentOpensAs(const QString& path) {
+    try {
+        JsonDocument document = JsonDocument::fromFile(path.toStdString());
+        if (const auto as = documentOpensAs(documentKind(document), path))
+            return {*as, std::move(document)};
+    } catch (const FileError&) {
+        return {unknownOpensAs(path)};
+    } catch (const DecodeError&) {
+        return {unknownOpensAs(path)};
+    }
+    return {unknownOpensAs(path)};
 }
 
 } // namespace
 
-OpensAs opensAs(const QString& path) {
+void HeldDocuments::hold(const QString& path, std::optional<JsonDocument> document) {
+    constexpr qint64 MostBytes = 200 << 20;
+    m_bytes += QFileInfo(path).size();
+    if (document && m_bytes <= MostBytes)
+        m_documents.push_back(std::move(*document));
+}
+
+Opening opensAs(const QString& path) {
     const QFileInfo info(path);
     if (info.isDir())
-        return folderOpensAs(QDir(path));
+        return {folderOpensAs(QDir(path))};
     if (isVideoFile(info.fileName().toStdString()))
-        return OpensAs::Film;
-    return isImportable(path) && !beginsAsDocument(path) ? importOpensAs(path)
-                                                         : documentOpensAs(path);
+        return {OpensAs::Film};
+    if (isImportable(path) && !beginsAsDocument(path))
+        return {importOpensAs(path)};
+    return documentOpensAs(path);
 }
 
 } // namespace kavela::desktop

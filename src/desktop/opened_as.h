@@ -1,6 +1,11 @@
 #pragma once
 
+#include "common/json_document.h"
+
 #include <QString>
+
+#include <optional>
+#include <vector>
 
 namespace kavela::desktop {
 
@@ -24,7 +29,24 @@ enum class OpensAs {
     NotReady
 };
 
+/// What was found out about a file. As long as its document is held, nobody reads the file again.
+struct Opening {
+    OpensAs as = OpensAs::NotReady;
+    std::optional<JsonDocument> document = {};
+};
+
+/// What was parsed to see what files are, until their windows have read them: not more of it than a
+/// small machine bears.
+class HeldDocuments {
+public:
+    void hold(const QString& path, std::optional<JsonDocument> document);
+
+private:
+    std::vector<JsonDocument> m_documents;
+    qint64 m_bytes = 0;
+};
+
 /// Decides by what a file holds; its name only helps where content cannot tell.
-[[nodiscard]] OpensAs opensAs(const QString& path);
+[[nodiscard]] Opening opensAs(const QString& path);
 
 } // namespace kavela::desktop

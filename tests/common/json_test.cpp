@@ -1,10 +1,14 @@
 #include "common/json_decode.h"
 #include "common/json_encode.h"
+#include "common/temp_folder.h"
 
 #include <gmock/gmock.h>
 
 #include <bit>
+#include <chrono>
 #include <cmath>
+#include <filesystem>
+#include <fstream>
 #include <random>
 
 namespace kavela::test {
@@ -156,6 +160,32 @@ TEST(JsonReader, TakesEveryNumberThatADoubleCanHold) {
                    "99999999999999999999,\"flag\":true,\"text\":\"" + digits + "\""));
     EXPECT_EQ(record.text, "\" 99999999999999999999 \\");
     EXPECT_EQ(record.number, 1e20);
+}
+
+/// What a file is and what it holds come from one reading, as long as nobody writes it meanwhile.
+TEST(JsonDocumentFile, IsReadOnceWhileItIsHeldAndUnchanged) {
+    const TempFolder folder;
+    const auto path = folder.add("list.json", R"({"number": 1})");
+    const auto written = std::filesystem::last_write_time(path);
+    const auto numberNow = [&] {
+        return std::int64_t(JsonDocument::fromFile(path).root()["number"]);
+    };
+    const auto overwrite = [&](const char* text, std::chrono::seconds later) {
+        std::ofstream(path) << text;
+        std::filesystem::last_write_time(path, written + later);
+    };
+    {
+        const JsonDocument held = JsonDocument::fromFile(path);
+        overwrite(R"({"number": 2})", std::chrono::seconds(0));
+        EXPECT_EQ(numberNow(), 1) << "not read again";
+        overwrite(R"({"number": 3})", std::chrono::seconds(1));
+        EXPECT_EQ(numberNow(), 3) << "written meanwhile";
+        EXPECT_EQ(std::int64_t(held.root()["number"]), 1);
+    }
+    overwrite(R"({"number": 4})", std::chrono::seconds(1));
+    EXPECT_EQ(numberNow(), 4) << "nobody holds it any more";
+    std::filesystem::remove(path);
+    EXPECT_THROW((void)numberNow(), FileError);
 }
 
 TEST(JsonWriter, WritesTheShortestNumberThatReadsBackTheSame) {

@@ -1,3 +1,5 @@
+#include "app/document_kind.h"
+#include "app/file_facts.h"
 #include "common/recorders.h"
 #include "common/safe_file.h"
 #include "common/temp_folder.h"
@@ -43,6 +45,28 @@ TEST(StartOptions, AreFilesAndAFaultForWhatIsNeither) {
     EXPECT_TRUE(startOptions({"--", "--odd.kvx"}).fault.isEmpty());
     EXPECT_THAT(startOptions({"--hlep", "a.kvx"}).fault.toStdString(), HasSubstr("--hlep"));
     EXPECT_FALSE(desktop::answerWithoutWindow({"--", "--help"}, "1"));
+}
+
+/// Members alone tell what decoding tells, of every file of the sample season and of older
+/// releases.
+TEST(DocumentKind, IsToldByTheNamesOfMembers) {
+    int documents = 0;
+    for (const auto& entry : fs::recursive_directory_iterator(KAVELA_EXAMPLES)) {
+        const FileFacts facts = factsOf(entry.path());
+        if (facts.error || facts.kind == "planning access")
+            continue;
+        ++documents;
+        const DocumentKind kind = documentKind(JsonDocument::fromFile(entry.path()));
+        EXPECT_EQ(kind.kind, facts.kind) << entry.path();
+        if (facts.kind == "split file") {
+            EXPECT_EQ(kind.hasRuns, facts.counts.at("runs") > 0) << entry.path();
+            EXPECT_EQ(kind.hasCross,
+                      facts.counts.at("crossTimeTrials") + facts.counts.at("crossHeats") > 0)
+                << entry.path();
+        }
+    }
+    EXPECT_GT(documents, 15);
+    EXPECT_EQ(documentKind(JsonDocument::fromText(R"({"info": {}})")).kind, "unknown");
 }
 
 /// As from a terminal without a screen: no window can be opened there.

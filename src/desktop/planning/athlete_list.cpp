@@ -26,9 +26,8 @@ QString categoriesOf(const athletesplanning_v6& athlete) {
     return categories.join(", ");
 }
 
-QPixmap photoOf(const athletesplanning_v6& athlete) {
+QPixmap photoOf(const std::vector<unsigned char>& bytes) {
     QPixmap photo;
-    const auto& bytes = athlete.photo.bytes;
     photo.loadFromData(reinterpret_cast<const uchar*>(bytes.data()),
                        static_cast<uint>(bytes.size()));
     return photo.isNull()
@@ -62,6 +61,7 @@ AthleteList::AthleteList(PlanningDocument& document, QWidget* parent)
     column->addWidget(m_search);
     column->addWidget(m_list, 1);
     column->addWidget(m_photo);
+    m_photo->hide();
     column->addWidget(m_contact);
     auto* title = new QLabel(tr("Season"));
     title->setBuddy(m_seasons);
@@ -126,15 +126,23 @@ void AthleteList::fillSeasons() {
 void AthleteList::showCard() {
     const athletesplanning_v6* const athlete =
         m_athlete ? m_document.athleteAt(*m_athlete) : nullptr;
-    const QPixmap photo = athlete ? photoOf(*athlete) : QPixmap();
-    m_photo->setPixmap(photo);
-    m_photo->setVisible(!photo.isNull());
+    showPhoto(athlete ? athlete->photo.bytes : std::vector<unsigned char>());
     QStringList contact;
     if (athlete)
         contact << QString::fromStdString(athlete->email) << QString::fromStdString(athlete->phone);
     contact.removeAll(QString());
     m_contact->setText(contact.join('\n'));
     m_contact->setVisible(!contact.isEmpty());
+}
+
+/// Every edit comes by here, and few change the picture, which takes long to read.
+void AthleteList::showPhoto(const std::vector<unsigned char>& bytes) {
+    if (bytes == m_photoBytes)
+        return;
+    m_photoBytes = bytes;
+    const QPixmap photo = photoOf(bytes);
+    m_photo->setPixmap(photo);
+    m_photo->setVisible(!photo.isNull());
 }
 
 void AthleteList::chooseAthlete(std::size_t athlete) {

@@ -7,6 +7,7 @@
 #include <functional>
 #include <limits>
 #include <optional>
+#include <vector>
 
 class QComboBox;
 class QLabel;
@@ -40,6 +41,7 @@ private:
     void fill();
     void fillSeasons();
     void showCard();
+    void showPhoto(const std::vector<unsigned char>& bytes);
     void filter();
     [[nodiscard]] bool mayLeave();
 
@@ -48,6 +50,7 @@ private:
     QListWidget* m_list;
     QComboBox* m_seasons;
     QLabel* m_photo;
+    std::vector<unsigned char> m_photoBytes; ///< what the picture was made of
     QLabel* m_contact;
     std::function<bool()> m_mayLeave;
     std::optional<std::size_t> m_athlete;

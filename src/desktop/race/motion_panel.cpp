@@ -35,10 +35,10 @@ athletedata031 recordOf(const analyzerdata& run) {
     athletedata031 record;
     record.cat = run.category;
     record.sectioninfo.times = run.sectioninfo.times;
-    record.bm = run.bm;
-    record.hr = run.heart;
-    record.gps = run.gps;
-    record.watchmotion = run.watch;
+    record.bm = run.bm.list();
+    record.hr = run.heart.list();
+    record.gps = run.gps.list();
+    record.watchmotion = run.watch.list();
     return record;
 }
 

@@ -1,0 +1,18 @@
+#pragma once
+
+#include "common/json_document.h"
+
+#include <string_view>
+
+namespace kavela {
+
+/// What a document is, as the names of its members tell without decoding it.
+struct DocumentKind {
+    std::string_view kind = "unknown"; ///< in the words of FileFacts
+    bool hasRuns = false;              ///< a split file with runs
+    bool hasCross = false;             ///< a split file with time trials or heats of a cross race
+};
+
+[[nodiscard]] DocumentKind documentKind(const JsonDocument& json);
+
+} // namespace kavela
