@@ -89,6 +89,9 @@ QWidget* TakingWindow::makeRuns() {
                           "videos with that name"));
     m_name->setClearButtonEnabled(true);
     m_runTable = new QTableView;
+    // A letter is a key of the film that was missed, not another name.
+    m_runTable->setEditTriggers(QAbstractItemView::DoubleClicked |
+                                QAbstractItemView::EditKeyPressed);
     m_runTable->setObjectName("runs");
     m_runTable->setModel(&m_runs);
     m_runTable->setSelectionBehavior(QAbstractItemView::SelectRows);
