@@ -11,6 +11,7 @@
 #include "desktop/race/race_window.h"
 #include "desktop/sessions/session_window.h"
 #include "desktop/shell/disk_worker.h"
+#include "desktop/shell/earlier_work_dialog.h"
 #include "desktop/shell/edited_file.h"
 #include "desktop/shell/file_names.h"
 #include "desktop/shell/home_window.h"
@@ -262,6 +263,7 @@ void Desktop::openAll(const QStringList& paths, RaceWindow* into) {
 void Desktop::connectTool(ToolWindow& window) {
     connect(&window, &ToolWindow::homeRequested, this, &Desktop::showHome);
     connect(&window, &ToolWindow::settingsRequested, this, &Desktop::openSettings);
+    connect(&window, &ToolWindow::earlierWorkRequested, this, &Desktop::showEarlierWork);
     if (window.file())
         connect(window.file(), &EditedFile::saved, this, &Desktop::rememberSession);
     // Later: while it is being destroyed, it still counts as a window of its kind.
@@ -384,14 +386,38 @@ void Desktop::show(ToolWindow* window) {
     rememberSession();
 }
 
+/// After a crash, what was open beside the unsaved work comes back too.
 void Desktop::offerRecovery() {
+    if (m_autosave.all().empty())
+        return;
+    if (windows().isEmpty())
+        (void)restoreSession();
     for (const Autosave::Found& found : m_autosave.all())
-        recover(found);
+        recover(found.label);
+}
+
+void Desktop::showEarlierWork() {
+    EarlierWorkDialog dialog(m_autosave.earlier(), front());
+    if (dialog.exec() == QDialog::Accepted && dialog.chosen())
+        bringBack(*dialog.chosen());
+}
+
+/// Into the window that edits the document, where one does.
+void Desktop::bringBack(const Autosave::Found& earlier) {
+    for (ToolWindow* const window : windows())
+        if (window->file() && isSameFile(window->file()->path(), earlier.label.path)) {
+            bringToFront(*window);
+            (void)window->file()->takeBack(earlier.content, window,
+                                           [window] { return window->save(); });
+            return;
+        }
+    m_autosave.bringBack(earlier);
+    recover(earlier.label);
 }
 
 /// Work of an earlier release does not say with which tool it was edited; that of a folder that is
 /// gone stays kept.
-void Desktop::recover(const Autosave::Found& found) {
+void Desktop::recover(const Autosave::Label& found) {
     const QFileInfo file(found.path);
     const bool isSplitFile = file.suffix() == "kvx";
     const ToolKind* tool = toolOfKind(found.tool);

@@ -83,7 +83,9 @@ private:
     void connectTool(ToolWindow& window);
     /// Brings the window to the front that edits a file; false when none does.
     [[nodiscard]] bool raiseEditorOf(const QString& path);
-    void recover(const Autosave::Found& found);
+    void recover(const Autosave::Label& found);
+    void showEarlierWork();
+    void bringBack(const Autosave::Found& earlier);
     /// A new window for the split file or folder, which none edits; null, after a message, when it
     /// cannot be opened.
     TakingWindow* showTaking(const QString& path);

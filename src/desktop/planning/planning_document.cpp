@@ -95,13 +95,15 @@ std::string PlanningDocument::failure() const {
     return planning_messages::NotSaved;
 }
 
-bool PlanningDocument::mayReplace(bool isChangedOnDisk, QWidget* over) const {
-    QString text = tr("The planning “%1” will be replaced.").arg(fileName());
-    if (isChangedOnDisk)
-        text += ' ' + tr("Another program has changed it since it was opened; what that program "
-                         "wrote will be lost.");
+bool PlanningDocument::mayReplace(QWidget* over) const {
+    const QString text = tr("The planning “%1” will be replaced.").arg(fileName());
     return workspace().ask({planning_messages::Careful, text.toStdString()},
                            planning_messages::SaveAnyway, over);
+}
+
+QString PlanningDocument::summary() const {
+    const std::size_t count = value().athletes.size();
+    return count == 1 ? tr("1 athlete") : tr("%1 athletes").arg(count);
 }
 
 } // namespace kavela::desktop

@@ -58,10 +58,11 @@ public:
     [[nodiscard]] std::size_t withoutPlace() const { return m_withoutPlace; }
 
 protected:
+    [[nodiscard]] QString summary() const override;
     [[nodiscard]] Content contentNow() const override;
     [[nodiscard]] bool recover(const std::string& content) override;
     [[nodiscard]] std::string failure() const override;
-    [[nodiscard]] bool mayReplace(bool isChangedOnDisk, QWidget* over) const override;
+    [[nodiscard]] bool mayReplace(QWidget* over) const override;
 
 private:
     std::size_t m_withoutPlace = 0;

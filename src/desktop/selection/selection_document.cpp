@@ -90,4 +90,9 @@ void SelectionDocument::settle(selectionracesStruct_v3& value) {
     computeScores(value, m_bonus);
 }
 
+QString SelectionDocument::summary() const {
+    const std::size_t count = value().races.size();
+    return count == 1 ? tr("1 race") : tr("%1 races").arg(count);
+}
+
 } // namespace kavela::desktop

@@ -47,6 +47,7 @@ public:
     void setWhatIf(bool isOn);
 
 protected:
+    [[nodiscard]] QString summary() const override;
     [[nodiscard]] Content contentNow() const override;
     [[nodiscard]] bool recover(const std::string& content) override;
     [[nodiscard]] std::string failure() const override;

@@ -9,9 +9,15 @@
 #include <QDateTime>
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 
+#include <algorithm>
 #include <array>
+#include <atomic>
 #include <exception>
+#include <functional>
+#include <iterator>
+#include <memory>
 #include <utility>
 
 namespace kavela::desktop {
@@ -20,7 +26,9 @@ namespace {
 
 constexpr qsizetype MostPutAside = 20;
 
-constexpr std::array Parts{".work", ".path", ".tool"};
+constexpr std::array Parts{".work", ".path", ".tool", ".note"};
+constexpr const char* GivenUp = "/given up";
+constexpr const char* Postponed = "/later";
 
 std::optional<std::string> contentOf(const QString& path) {
     QFile file(path);
@@ -37,6 +45,41 @@ std::string reasonOf(const std::exception_ptr& fault) {
     }
 }
 
+void move(const QString& from, const QString& to) {
+    QDir().mkpath(QFileInfo(to).path());
+    for (const char* const part : Parts) {
+        QFile::remove(to + part);
+        QFile::rename(from + part, to + part);
+    }
+}
+
+void write(const QString& slot, const Autosave::Label& label, const Autosave::Content& content) {
+    const QString folder = QFileInfo(slot).path();
+    if (!QDir().mkpath(folder))
+        throw FileError(folder.toStdString(), "the folder cannot be made");
+    const std::string text = content();
+    writeFileSafely((slot + ".path").toStdString(), label.path.toStdString());
+    writeFileSafely((slot + ".tool").toStdString(), label.tool.toStdString());
+    writeFileSafely((slot + ".note").toStdString(), label.note.toStdString());
+    writeFileSafely((slot + ".work").toStdString(), text);
+}
+
+QString textOf(const QString& path) {
+    return QString::fromStdString(contentOf(path).value_or(std::string()));
+}
+
+std::optional<Autosave::Found> foundAt(const QString& place, bool isGivenUp) {
+    auto content = contentOf(place + ".work");
+    if (!content)
+        return std::nullopt;
+    return Autosave::Found{
+        {textOf(place + ".path"), textOf(place + ".tool"), textOf(place + ".note")},
+        QFileInfo(place + ".work").lastModified(),
+        std::move(*content),
+        place,
+        isGivenUp};
+}
+
 /// The last few that were put aside stay.
 void moveAside(const QString& slot, const QString& aside) {
     QDir().mkpath(aside);
@@ -51,29 +94,34 @@ void moveAside(const QString& slot, const QString& aside) {
 
 } // namespace
 
-/// The content stands in SLOT.work, the document's path in SLOT.path, its tool in SLOT.tool. Work
-/// that was done through a link is found under the file's own path too.
+/// The content stands in SLOT.work, its label beside it in files of their own. Work that was done
+/// through a link is found under the file's own path too.
 QString Autosave::slot(const QString& path) const {
     const QByteArray hash =
         QCryptographicHash::hash(canonicalPath(path).toUtf8(), QCryptographicHash::Sha1);
     return m_folder + '/' + QString::fromLatin1(hash.toHex().left(16));
 }
 
-void Autosave::keep(const QString& path, const QString& tool, Content content, QObject* context,
-                    Failed failed) const {
-    const auto write = [folder = m_folder, slot = slot(path), path, tool,
-                        content = std::move(content)] {
-        if (!QDir().mkpath(folder))
-            throw FileError(folder.toStdString(), "the folder cannot be made");
-        const std::string text = content();
-        writeFileSafely((slot + ".path").toStdString(), path.toStdString());
-        writeFileSafely((slot + ".tool").toStdString(), tool.toStdString());
-        writeFileSafely((slot + ".work").toStdString(), text);
-    };
-    disk::run(context, write, [failed = std::move(failed)](std::exception_ptr fault) {
-        if (fault)
-            failed(reasonOf(fault));
+void Autosave::keep(const Label& label, Content content, QObject* context, Failed failed) const {
+    disk::run(
+        context,
+        [slot = slot(label.path), label, content = std::move(content)] {
+            write(slot, label, content);
+        },
+        [failed = std::move(failed)](std::exception_ptr fault) {
+            if (fault)
+                failed(reasonOf(fault));
+        });
+}
+
+bool Autosave::isKept(const Label& label, Content content) const {
+    const auto isKept = std::make_shared<std::atomic<bool>>(false);
+    disk::run([slot = slot(label.path), label, content = std::move(content), isKept] {
+        write(slot, label, content);
+        *isKept = true;
     });
+    disk::waitForAll();
+    return *isKept;
 }
 
 void Autosave::forget(const QString& path) const {
@@ -84,28 +132,51 @@ void Autosave::forget(const QString& path) const {
 }
 
 void Autosave::putAside(const QString& path) const {
-    disk::run([folder = m_folder, slot = slot(path)] { moveAside(slot, folder + "/given up"); });
+    disk::run([folder = m_folder, slot = slot(path)] { moveAside(slot, folder + GivenUp); });
 }
 
-std::optional<std::string> Autosave::find(const QString& path) const {
+void Autosave::postpone(const QString& path) const {
+    disk::run([folder = m_folder, slot = slot(path)] {
+        move(slot, folder + Postponed + '/' + QFileInfo(slot).fileName());
+    });
+}
+
+std::optional<Autosave::Found> Autosave::find(const QString& path) const {
     disk::waitForAll();
-    return contentOf(slot(path) + ".work");
+    const QString place = slot(path);
+    const QString later = m_folder + Postponed + '/' + QFileInfo(place).fileName();
+    if (!QFile::exists(place + ".work") && QFile::exists(later + ".work"))
+        move(later, place);
+    return foundAt(place, false);
+}
+
+std::vector<Autosave::Found> Autosave::foundIn(const QString& folder, bool isGivenUp) const {
+    disk::waitForAll();
+    std::vector<Found> found;
+    for (const QString& name : QDir(folder).entryList({"*.work"}, QDir::Files, QDir::Time))
+        if (auto work = foundAt(folder + '/' + name.chopped(5), isGivenUp);
+            work && !work->label.path.isEmpty())
+            found.push_back(std::move(*work));
+    return found;
 }
 
 std::vector<Autosave::Found> Autosave::all() const {
-    disk::waitForAll();
-    std::vector<Found> found;
-    for (const QString& name : QDir(m_folder).entryList({"*.work"}, QDir::Files, QDir::Time)) {
-        const QString stem = m_folder + '/' + name.chopped(5);
-        const auto path = contentOf(stem + ".path");
-        auto content = contentOf(stem + ".work");
-        const auto tool = contentOf(stem + ".tool");
-        if (path && content)
-            found.push_back({QString::fromStdString(*path),
-                             QString::fromStdString(tool.value_or(std::string())),
-                             std::move(*content)});
-    }
+    return foundIn(m_folder, false);
+}
+
+std::vector<Autosave::Found> Autosave::earlier() const {
+    std::vector<Found> found = foundIn(m_folder + Postponed, false);
+    std::ranges::move(foundIn(m_folder + GivenUp, true), std::back_inserter(found));
+    std::ranges::stable_sort(found, std::ranges::greater(), &Found::when);
     return found;
+}
+
+void Autosave::bringBack(const Found& earlier) const {
+    disk::run([folder = m_folder, slot = slot(earlier.label.path), place = earlier.place] {
+        if (QFile::exists(slot + ".work"))
+            moveAside(slot, folder + GivenUp);
+        move(place, slot);
+    });
 }
 
 } // namespace kavela::desktop

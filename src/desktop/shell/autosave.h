@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QDateTime>
 #include <QString>
 
 #include <functional>
@@ -21,29 +22,48 @@ public:
     /// Tells on the interface thread why work could not be kept.
     using Failed = std::function<void(const std::string& reason)>;
 
+    /// What stands beside kept work.
+    struct Label {
+        QString path;      ///< of the document
+        QString tool;      ///< that it was edited with; empty when an earlier release kept it
+        QString note = {}; ///< how much it is
+    };
+
     /// Work found from an earlier session.
     struct Found {
-        QString path; ///< of the document
-        QString tool; ///< that it was edited with; empty when an earlier release kept it
+        Label label;
+        QDateTime when;
         std::string content;
+        QString place;          ///< where it stands, in this folder
+        bool isGivenUp = false; ///< it was not wanted
     };
 
     /// `folder` is made when the first work is kept.
     explicit Autosave(QString folder) : m_folder(std::move(folder)) {}
 
-    /// Keeps the present content of a document that is edited with a tool. `failed` is called as
-    /// long as `context` is there.
-    void keep(const QString& path, const QString& tool, Content content, QObject* context,
-              Failed failed) const;
+    /// Keeps the present content of a document. `failed` is called as long as `context` is there.
+    void keep(const Label& label, Content content, QObject* context, Failed failed) const;
+    /// The same, for whom the answer is needed now: whether it is kept.
+    [[nodiscard]] bool isKept(const Label& label, Content content) const;
     /// The work is saved: nothing is left to recover.
     void forget(const QString& path) const;
     /// The coach does not want it: it is put aside, where the last few stay for a change of mind.
     void putAside(const QString& path) const;
 
-    [[nodiscard]] std::optional<std::string> find(const QString& path) const;
+    /// The coach does not want it now: it is offered again when the document is opened again.
+    void postpone(const QString& path) const;
+
+    /// Also what was postponed.
+    [[nodiscard]] std::optional<Found> find(const QString& path) const;
+    /// Neither what was postponed nor what was put aside.
     [[nodiscard]] std::vector<Found> all() const;
+    /// What was postponed or put aside, the latest first.
+    [[nodiscard]] std::vector<Found> earlier() const;
+    /// Earlier work is the unsaved work of its document again; what that had is put aside.
+    void bringBack(const Found& earlier) const;
 
 private:
+    [[nodiscard]] std::vector<Found> foundIn(const QString& folder, bool isGivenUp) const;
     [[nodiscard]] QString slot(const QString& path) const;
 
     QString m_folder;

@@ -8,8 +8,11 @@
 #include "desktop/shell/workspace.h"
 #include "splittaking/messages.h"
 
+#include <QDateTime>
+#include <QFile>
 #include <QFileInfo>
 #include <QPointer>
+#include <QTemporaryDir>
 #include <QWidget>
 
 #include <utility>
@@ -39,6 +42,16 @@ std::exception_ptr faultOf(const std::function<void()>& part) {
     } catch (...) {
         return std::current_exception();
     }
+}
+
+QString shownMoment(const QDateTime& moment) {
+    const QDate today = QDate::currentDate();
+    const QString time = moment.toString("HH:mm");
+    if (moment.date() == today)
+        return EditedFile::tr("today %1").arg(time);
+    if (moment.date() == today.addDays(-1))
+        return EditedFile::tr("yesterday %1").arg(time);
+    return moment.toString("yyyy-MM-dd HH:mm");
 }
 
 } // namespace
@@ -86,6 +99,7 @@ void EditedFile::begin(const QString& path, QWidget* over) {
     m_known = FileStamp(m_path);
     watch();
     m_undo.clear();
+    m_editsThen = m_edits;
     if (m_known.isThere())
         m_workspace.addRecentFile(m_path);
     offerRecovery(over);
@@ -115,11 +129,39 @@ void EditedFile::offerRecovery(QWidget* over) {
     if (!work)
         return;
     m_workspace.log()(messages::AutosaveFound);
-    const std::string name = QFileInfo(m_path).fileName().toStdString();
-    if (m_workspace.ask({name, messages::AskToLoadAutosave}, tr("Load"), over) && recover(*work))
+    QStringList facts{QFileInfo(m_path).fileName(), work->label.note, shownMoment(work->when)};
+    facts.removeAll(QString());
+    enum Way { Load, Later, Discard };
+    const int way = m_workspace.chooseWay(
+        {facts.join(", ").toStdString(), messages::AskToLoadAutosave},
+        {.texts = {tr("Load"), tr("Later"), tr("Discard")}, .onEnter = Load, .onEscape = Later},
+        over);
+    if (way == Later)
+        m_autosave.postpone(m_path);
+    else if (way == Load && recover(work->content))
         m_undo.resetClean(); // dirty, and no undo makes it clean: its copy stays until it is saved
     else
         m_autosave.putAside(m_path);
+}
+
+bool EditedFile::takeBack(const std::string& content, QWidget* over,
+                          const std::function<bool()>& save) {
+    if (!mayLeave(over, save) || !recover(content))
+        return false;
+    m_undo.clear();
+    m_undo.resetClean();
+    noteEdit();
+    emit changed();
+    return true;
+}
+
+Autosave::Label EditedFile::label() const {
+    const unsigned changes = m_edits - m_editsThen;
+    QStringList note{summary(), changes == 0   ? QString()
+                                : changes == 1 ? tr("1 change")
+                                               : tr("%1 changes").arg(changes)};
+    note.removeAll(QString());
+    return {m_path, m_tool, note.join(", ")};
 }
 
 void EditedFile::noteEdit() {
@@ -146,24 +188,9 @@ void EditedFile::keepWork() {
         m_autosave.forget(m_path);
         return;
     }
-    m_autosave.keep(m_path, m_tool, keptContentNow(), this, [this](const std::string& reason) {
+    m_autosave.keep(label(), keptContentNow(), this, [this](const std::string& reason) {
         m_workspace.log()("The work could not be kept: " + reason);
     });
-}
-
-bool EditedFile::mayOverwrite(QWidget* over) const {
-    const FileStamp now(m_path);
-    return !now.isThere() || mayReplace(now != m_known, over);
-}
-
-bool EditedFile::mayReplace(bool isChangedOnDisk, QWidget* over) const {
-    if (!isChangedOnDisk)
-        return true;
-    return m_workspace.askBeforeLoss(
-        {"", tr("The file was changed by another program since it was opened. Saving replaces "
-                "what that program wrote.")
-                 .toStdString()},
-        tr("Save all the same"), over);
 }
 
 void EditedFile::tellUnreadable(const QString& path, const std::string& reason,
@@ -186,20 +213,96 @@ bool EditedFile::written(const std::function<void()>& write, QWidget* over) cons
     return !fault;
 }
 
-/// A file that another window edits would be taken from under it.
-bool EditedFile::mayWriteTo(const QString& path, QWidget* over) {
+/// Where to write, which may be another place than was asked for; empty for nowhere.
+QString EditedFile::pathToWrite(const QString& path, QWidget* over) {
     if (!mayWrite(over))
-        return false;
-    if (canonicalPath(path) == canonicalPath(m_path))
-        return mayOverwrite(over) && keepOlderLayout(path, over);
+        return {};
+    return canonicalPath(path) == canonicalPath(m_path) ? ownPathToWrite(over)
+                                                        : otherPathToWrite(path, over);
+}
+
+QString EditedFile::ownPathToWrite(QWidget* over) {
+    const FileStamp now(m_path);
+    if (!now.isThere())
+        return m_path;
+    if (now != m_known) {
+        enum Way { Replace, Look, SaveAs };
+        const int way = m_workspace.chooseWay(
+            {fileName().toStdString(),
+             tr("The file was changed by another program since it was opened. Saving replaces "
+                "what that program wrote.")
+                 .toStdString()},
+            {.texts = {tr("Replace it"), tr("Look at the other"), tr("Save as…")},
+             .onEnter = Look,
+             .onEscape = Look},
+            over);
+        if (way == SaveAs)
+            return askForPath(over);
+        if (way == Look)
+            showOther();
+        if (way != Replace)
+            return {};
+    } else if (!mayReplace(over)) {
+        return {};
+    }
+    return keepOlderLayout(m_path, over) ? m_path : QString();
+}
+
+/// A file that another window edits would be taken from under it.
+QString EditedFile::otherPathToWrite(const QString& path, QWidget* over) {
     const EditedFile* const holder = m_workspace.openFiles().holderOf(path);
     if (!holder || holder == this)
-        return true;
+        return path;
     tellNotWritten(tr("“%1” is open in another window. Close it there first, or take another name.")
                        .arg(QFileInfo(path).fileName())
                        .toStdString(),
                    over);
-    return false;
+    return {};
+}
+
+QString EditedFile::askForPath(QWidget* over) {
+    const QString path = m_askPath ? m_askPath() : QString();
+    if (path.isEmpty())
+        return {};
+    return canonicalPath(path) == canonicalPath(m_path) ? ownPathToWrite(over)
+                                                        : otherPathToWrite(path, over);
+}
+
+/// As a copy, which no window edits.
+void EditedFile::showOther() {
+    QTemporaryDir folder;
+    const QFileInfo file(m_path);
+    const QString copy =
+        folder.filePath(tr("%1 (the other).%2").arg(file.completeBaseName(), file.suffix()));
+    if (!folder.isValid() || !QFile::copy(m_path, copy))
+        return;
+    folder.setAutoRemove(false); // its window reads it when it likes
+    emit m_workspace.openRequested(copy);
+}
+
+/// Where to write instead, after the reason was told; empty for nowhere. The work stays in the
+/// window, and is kept apart where that can be.
+QString EditedFile::askAfterFailure(const Writing& writing) {
+    const std::string reason = reasonOf(writing.fault);
+    m_workspace.log()(failure());
+    m_workspace.log()(reason);
+    const QString comfort =
+        m_autosave.isKept(label(), keptContentNow())
+            ? tr("Your work is kept apart, and offered when the file is opened again.")
+            : tr("Your work is in this window alone: it could not be kept apart either.");
+    const QString text =
+        QStringLiteral("%1: %2.\n\n%3")
+            .arg(QFileInfo(writing.path).fileName(), QString::fromStdString(reason), comfort);
+    enum Way { TryAgain, SaveAs, Later };
+    const int way = m_workspace.chooseWay({failure(), text.toStdString()},
+                                          {.texts = {tr("Try again"), tr("Save as…"), tr("Later")},
+                                           .onEnter = TryAgain,
+                                           .onEscape = Later,
+                                           .isNews = true},
+                                          writing.over);
+    if (way == SaveAs)
+        return askForPath(writing.over);
+    return way == TryAgain ? writing.path : QString();
 }
 
 /// Where it cannot be kept, nothing is written.
@@ -230,14 +333,15 @@ std::shared_ptr<EditedFile::Writing> EditedFile::write(const QString& path, QWid
         if (!writing->fault && beside)
             writing->besideFault = faultOf([&] { beside(file); });
     };
-    disk::run(this, task, [this, writing](const std::exception_ptr&) { (void)finish(*writing); });
+    disk::run(this, task,
+              [this, writing](const std::exception_ptr&) { (void)finish(*writing, false); });
     emit savingChanged();
     return writing;
 }
 
-/// True when the file was written. Who waited for it was here first.
-bool EditedFile::finish(Writing& writing) {
-    const bool isSaved = !writing.fault;
+/// True when the file was written, maybe elsewhere. Who waited for it was here first.
+bool EditedFile::finish(Writing& writing, bool isWaitedFor) {
+    bool isSaved = !writing.fault;
     if (writing.isFinished)
         return isSaved;
     writing.isFinished = true;
@@ -245,11 +349,17 @@ bool EditedFile::finish(Writing& writing) {
     if (isSaved)
         noteWritten(writing);
     emit savingChanged();
-    for (const std::exception_ptr& fault : {writing.fault, writing.besideFault})
-        if (fault)
-            tellNotWritten(reasonOf(fault), writing.over);
-    if (writing.saved)
-        writing.saved(isSaved);
+    const QPointer<QWidget> over = writing.over;
+    const QString again = isSaved ? QString() : askAfterFailure(writing);
+    if (writing.besideFault)
+        tellNotWritten(reasonOf(writing.besideFault), over);
+    if (!again.isEmpty() && !isWaitedFor) {
+        saveAsBeside(again, over, std::move(writing.saved));
+    } else {
+        isSaved = isSaved || (!again.isEmpty() && saveAs(again, over));
+        if (writing.saved)
+            writing.saved(isSaved);
+    }
     for (const auto& next : std::exchange(writing.next, {}))
         next();
     return isSaved;
@@ -258,7 +368,7 @@ bool EditedFile::finish(Writing& writing) {
 bool EditedFile::waitFor(const std::shared_ptr<Writing>& writing) {
     const std::shared_ptr<Writing> held = writing;
     disk::waitForAll();
-    return finish(*held);
+    return finish(*held, true);
 }
 
 void EditedFile::noteWritten(const Writing& writing) {
@@ -269,6 +379,7 @@ void EditedFile::noteWritten(const Writing& writing) {
     m_workspace.openFiles().hold(*this, m_path);
     m_known = writing.written;
     watch();
+    m_editsThen = writing.edits;
     if (m_edits == writing.edits)
         m_undo.setClean();
     keepWork(); // forgets it, but for what was edited since or has no place in the file
@@ -287,8 +398,8 @@ void EditedFile::saveAsBeside(const QString& path, QWidget* over, Saved saved) {
         });
         return;
     }
-    if (mayWriteTo(path, over))
-        (void)write(path, over, std::move(saved));
+    if (const QString target = pathToWrite(path, over); !target.isEmpty())
+        (void)write(target, over, std::move(saved));
     else if (saved)
         saved(false);
 }
@@ -300,7 +411,8 @@ bool EditedFile::save(QWidget* over) {
 bool EditedFile::saveAs(const QString& path, QWidget* over) {
     if (m_writing)
         (void)waitFor(m_writing);
-    return mayWriteTo(path, over) && waitFor(write(path, over, {}));
+    const QString target = pathToWrite(path, over);
+    return !target.isEmpty() && waitFor(write(target, over, {}));
 }
 
 bool EditedFile::mayLeave(QWidget* over, const std::function<bool()>& save) {

@@ -39,6 +39,9 @@ public:
 
     /// With which tool it is edited: kept beside unsaved work, which is recovered there.
     void setTool(const QString& tool) { m_tool = tool; }
+    /// Asks for another name to save under; empty for none.
+    using AskPath = std::function<QString()>;
+    void setAskPath(AskPath ask) { m_askPath = std::move(ask); }
     /// The path was chosen by the coach: saving need not ask for one, though no file is there yet.
     void setNamed() { m_isNamed = true; }
     [[nodiscard]] bool isNamed() const;
@@ -65,6 +68,9 @@ public:
     void discard();
     /// Keeps the work now, as before the program ends.
     void keepWork();
+    /// Goes on from earlier work; what is here and not saved is asked for. False when it stayed.
+    [[nodiscard]] bool takeBack(const std::string& content, QWidget* over,
+                                const std::function<bool()>& save);
 
 signals:
     void changed();
@@ -93,12 +99,14 @@ protected:
     [[nodiscard]] virtual bool mayLeaveMore(QWidget* /*over*/) { return true; }
     /// Whether there is anything to write; tells when there is not.
     [[nodiscard]] virtual bool mayWrite(QWidget* /*over*/) { return true; }
+    /// How much the document holds, as "12 runs".
+    [[nodiscard]] virtual QString summary() const { return {}; }
     /// What to tell when the file cannot be written.
     [[nodiscard]] virtual std::string failure() const { return "Failed to create file"; }
 
-    /// Asks before a file that exists is replaced, where that needs a question; by default only
-    /// when another program changed it since it was read.
-    [[nodiscard]] virtual bool mayReplace(bool isChangedOnDisk, QWidget* over) const;
+    /// Asks before a file that exists is replaced, where that needs a question. What another
+    /// program changed was asked for already.
+    [[nodiscard]] virtual bool mayReplace(QWidget* /*over*/) const { return true; }
 
     /// The file was read in an older layout: before it is replaced, whichever way it is saved, it
     /// is kept beside the new one under a name with this extension. Without one it is current.
@@ -125,13 +133,18 @@ private:
     struct Writing;
 
     [[nodiscard]] std::shared_ptr<Writing> write(const QString& path, QWidget* over, Saved saved);
-    [[nodiscard]] bool mayWriteTo(const QString& path, QWidget* over);
+    [[nodiscard]] QString pathToWrite(const QString& path, QWidget* over);
+    [[nodiscard]] QString ownPathToWrite(QWidget* over);
+    [[nodiscard]] QString otherPathToWrite(const QString& path, QWidget* over);
+    [[nodiscard]] QString askForPath(QWidget* over);
+    [[nodiscard]] QString askAfterFailure(const Writing& writing);
+    void showOther();
     [[nodiscard]] bool keepOlderLayout(const QString& path, QWidget* over);
-    [[nodiscard]] bool mayOverwrite(QWidget* over) const;
-    bool finish(Writing& writing);
+    bool finish(Writing& writing, bool isWaitedFor);
     [[nodiscard]] bool waitFor(const std::shared_ptr<Writing>& writing);
     void noteWritten(const Writing& writing);
     void offerRecovery(QWidget* over);
+    [[nodiscard]] Autosave::Label label() const;
     void keepSoon();
     void watch();
     void noticeDisk();
@@ -144,7 +157,9 @@ private:
     QString m_path;
     QString m_tool;
     bool m_isNamed = false;
-    unsigned m_edits = 0; ///< tells one state of the document from the next
+    AskPath m_askPath;
+    unsigned m_edits = 0;     ///< tells one state of the document from the next
+    unsigned m_editsThen = 0; ///< as it was read or saved last
     std::string m_olderLayout;
     FileStamp m_known; ///< the file as it was read or saved here
     std::shared_ptr<Writing> m_writing;

@@ -144,6 +144,7 @@ void ToolWindow::openAgain() {
 void ToolWindow::finishMenus(std::function<Commands()> more) {
     if (m_file) {
         m_file->setTool(m_name.kind);
+        m_file->setAskPath([this] { return chooseName(); });
         makeNote();
         connect(m_file, &EditedFile::changed, this, &ToolWindow::showTitle);
         connect(m_file, &EditedFile::saved, this, &ToolWindow::showTitle);
@@ -151,6 +152,7 @@ void ToolWindow::finishMenus(std::function<Commands()> more) {
         connect(&m_file->undoStack(), &QUndoStack::cleanChanged, this, &ToolWindow::showTitle);
     }
     m_fileMenu->addSeparator();
+    m_fileMenu->addAction(tr("Bring &back earlier work…"), this, &ToolWindow::earlierWorkRequested);
     m_fileMenu->addAction(tr("&Home"), QKeySequence(Qt::CTRL | Qt::Key_H), this,
                           &ToolWindow::homeRequested);
     m_fileMenu->addAction(tr("Se&ttings…"), QKeySequence(Qt::CTRL | Qt::Key_Comma), this,

@@ -74,6 +74,7 @@ public:
 signals:
     void homeRequested();
     void settingsRequested();
+    void earlierWorkRequested(); ///< what was kept of earlier documents is to be shown
     void openRequested(const QStringList& paths);
 
 protected:

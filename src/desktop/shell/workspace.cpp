@@ -111,6 +111,32 @@ int Workspace::choose(const Alert& question, const QStringList& choices, QWidget
     return static_cast<int>(buttons.indexOf(box.clickedButton()));
 }
 
+int Workspace::chooseWay(const Alert& question, const Ways& ways, QWidget* over) const {
+    if (m_choice)
+        return m_choice(question, ways.texts);
+    if (m_answer && !ways.isNews)
+        return m_answer(question) ? 0 : ways.onEscape;
+    if (m_alerts) {
+        m_alerts->show(question);
+        return ways.onEscape;
+    }
+    QMessageBox box(ways.isNews ? QMessageBox::Warning : QMessageBox::Question,
+                    QString::fromStdString(question.title), QString::fromStdString(question.title),
+                    QMessageBox::NoButton, over);
+    box.setInformativeText(QString::fromStdString(question.text));
+    box.setTextFormat(Qt::PlainText);
+    QList<QPushButton*> buttons;
+    for (const QString& text : ways.texts)
+        buttons.append(box.addButton(text, QMessageBox::ActionRole));
+    box.setDefaultButton(buttons[ways.onEnter]);
+    box.setEscapeButton(buttons[ways.onEscape]);
+    box.exec();
+    for (int way = 0; way < buttons.size(); ++way)
+        if (box.clickedButton() == buttons[way])
+            return way;
+    return ways.onEscape;
+}
+
 Workspace::Leaving Workspace::askToSave(const QString& document, QWidget* over) const {
     const QString question = tr("Save the changes to %1?").arg(document);
     if (m_answer)

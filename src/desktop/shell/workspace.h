@@ -64,6 +64,16 @@ public:
     [[nodiscard]] int choose(const Alert& question, const QStringList& choices,
                              QWidget* over) const;
 
+    /// Ways to go on: what Enter and Escape take, by their places.
+    struct Ways {
+        QStringList texts;
+        int onEnter = 0;
+        int onEscape = 0;
+        bool isNews = false; ///< it is told that something failed, and not asked for consent
+    };
+    /// Asks how to go on; one of the ways is always gone.
+    [[nodiscard]] int chooseWay(const Alert& question, const Ways& ways, QWidget* over) const;
+
     /// The same before much is lost: Enter is a no too.
     [[nodiscard]] bool askBeforeLoss(const Alert& question, const QString& yes,
                                      QWidget* over) const;

@@ -1,6 +1,7 @@
 #include "desktop/splitfile/taking_document.h"
 
 #include "common/json_encode.h"
+#include "common/record_equality.h"
 #include "common/safe_file.h"
 #include "desktop/shell/file_names.h"
 #include "desktop/shell/workspace.h"
@@ -103,9 +104,16 @@ bool TakingDocument::openCopy(const RecognisedSplitFile& older, const QString& f
 
 bool TakingDocument::recover(const std::string& content) {
     auto state = recoveredState(content, path(), workspace());
-    if (state)
-        startFrom(std::move(*state));
-    return state.has_value();
+    if (!state)
+        return false;
+    const auto isUntouched = [](const TakenRun& a, const TakenRun& b) {
+        return isSame(*a.record, *b.record);
+    };
+    const auto changed = std::ranges::mismatch(state->runs, value().runs, isUntouched).in1;
+    if (changed != state->runs.end())
+        m_workedOn = static_cast<int>(changed - state->runs.begin());
+    startFrom(std::move(*state));
+    return true;
 }
 
 splittakerdata031 TakingDocument::newDocument(const QString& folder) const {
@@ -463,6 +471,11 @@ bool TakingDocument::exportTo(const QString& file, const BesideFile& lists, QWid
             writeBeside(finished(), file.toStdString(), lists);
         },
         over);
+}
+
+QString TakingDocument::summary() const {
+    const std::size_t count = static_cast<std::size_t>(runCount());
+    return count == 1 ? tr("1 run") : tr("%1 runs").arg(count);
 }
 
 } // namespace kavela::desktop

@@ -39,6 +39,8 @@ public:
     [[nodiscard]] const TrialStarts& trialStarts() const { return value().trialStarts; }
     [[nodiscard]] int runCount() const { return static_cast<int>(value().runs.size()); }
     [[nodiscard]] const athletedata031& run(int index) const;
+    /// The first run that recovered work changed; none where nothing was recovered.
+    [[nodiscard]] std::optional<int> workedOn() const { return m_workedOn; }
     [[nodiscard]] RunIdentity identityOf(int index) const;
     /// Where that run stands now; -1 when it is gone.
     [[nodiscard]] int placeOf(const RunIdentity& identity) const;
@@ -99,6 +101,7 @@ public:
     [[nodiscard]] bool exportTo(const QString& file, const BesideFile& lists, QWidget* over);
 
 protected:
+    [[nodiscard]] QString summary() const override;
     [[nodiscard]] Content contentNow() const override;
     /// With the start marks of runs without a split.
     [[nodiscard]] Content keptContentNow() const override;
@@ -121,6 +124,7 @@ private:
     std::vector<double> m_expected;
     double m_perfect = 0;
     ChooseCopy m_chooseCopy;
+    std::optional<int> m_workedOn;
     std::optional<BesideFile> m_lists; ///< to be written now, in place of what the settings want
 };
 

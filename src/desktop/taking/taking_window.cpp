@@ -190,6 +190,8 @@ bool TakingWindow::open(const QString& path) {
         return false;
     if (m_run < 0)
         m_films->show(); // says how films come here
+    if (const auto run = m_document.workedOn())
+        selectRun(*run);
     m_runTable->setFocus();
     return true;
 }

@@ -76,4 +76,9 @@ bool TeamDocument::recover(const std::string& content) {
     }
 }
 
+QString TeamDocument::summary() const {
+    const std::size_t count = value().realMyTeam.size();
+    return count == 1 ? tr("1 athlete") : tr("%1 athletes").arg(count);
+}
+
 } // namespace kavela::desktop

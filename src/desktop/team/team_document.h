@@ -40,6 +40,7 @@ public:
     void recomputeAllAverages();
 
 protected:
+    [[nodiscard]] QString summary() const override;
     [[nodiscard]] Content contentNow() const override;
     [[nodiscard]] bool recover(const std::string& content) override;
 };

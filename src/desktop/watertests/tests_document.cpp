@@ -151,4 +151,9 @@ bool TestsDocument::recover(const std::string& content) {
     }
 }
 
+QString TestsDocument::summary() const {
+    const std::size_t count = value().size();
+    return count == 1 ? tr("1 test") : tr("%1 tests").arg(count);
+}
+
 } // namespace kavela::desktop

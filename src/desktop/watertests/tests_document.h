@@ -40,6 +40,7 @@ public:
                    const std::function<void(onWaterEight&)>& change);
 
 protected:
+    [[nodiscard]] QString summary() const override;
     [[nodiscard]] EditedFile::Content contentNow() const override;
     [[nodiscard]] bool recover(const std::string& content) override;
 
