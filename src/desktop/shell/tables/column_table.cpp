@@ -37,6 +37,14 @@ QList<int> allOf(int count) {
     return all;
 }
 
+/// All columns as the model has them.
+QStringList firstLayout(const QAbstractItemModel& model) {
+    QStringList names;
+    for (int column = 0; column < model.columnCount(); ++column)
+        names.append(model.headerData(column, Qt::Horizontal, ColumnNameRole).toString());
+    return names;
+}
+
 } // namespace
 
 ColumnTable::ColumnTable(RowModel& rows, const char* name, QWidget* parent)
@@ -60,6 +68,7 @@ ColumnTable::ColumnTable(RowModel& rows, const char* name, QWidget* parent)
     makeHeader();
     connect(&rows, &RowModel::refused, this, &ColumnTable::refuse);
     connect(&rows, &RowModel::followed, this, &ColumnTable::followRows);
+    connect(&rows, &RowModel::columnsChanged, this, &ColumnTable::followColumns);
     connect(m_shown, &QAbstractItemModel::modelAboutToBeReset, this, [this] {
         m_row = currentIndex().row();
         m_column = currentIndex().column();
@@ -90,6 +99,18 @@ void ColumnTable::setEmptyText(const QString& text) {
 
 void ColumnTable::sortBy(int column, Qt::SortOrder order) {
     sortByColumn(column, order);
+}
+
+void ColumnTable::keepOrder() {
+    setSortingEnabled(false);
+    horizontalHeader()->setSectionsClickable(false); // nor is a column chosen
+}
+
+void ColumnTable::setOnlyShown() {
+    keepOrder();
+    setSelectionMode(NoSelection);
+    setFocusPolicy(Qt::NoFocus);
+    setAlternatingRowColors(false);
 }
 
 void ColumnTable::setFilter(std::function<bool(int place)> isShown) {
@@ -273,10 +294,10 @@ bool ColumnTable::event(QEvent* event) {
 void ColumnTable::keyPressEvent(QKeyEvent* event) {
     if (state() == EditingState) // what the open cell has no use for
         return EditOrder::keyPressEvent(event);
-    if (event->matches(QKeySequence::Copy))
-        return copy();
     if (QAction* const action = actionOf(*event))
         return action->trigger();
+    if (event->matches(QKeySequence::Copy))
+        return copy();
     if (event->key() == Qt::Key_Space)
         return tickCurrent();
     EditOrder::keyPressEvent(event);
@@ -349,6 +370,15 @@ void ColumnTable::remember(Workspace& workspace, const QString& key) {
     if (const QStringList layout = workspace.remembered(key); !layout.isEmpty())
         applyColumnLayout(*this, layout);
     m_key = key;
+}
+
+/// Columns that came stand where they were left.
+void ColumnTable::followColumns() {
+    if (!m_workspace || m_key.isEmpty())
+        return;
+    m_firstLayout = firstLayout(m_rows);
+    const QStringList layout = m_workspace->remembered(m_key);
+    applyColumnLayout(*this, layout.isEmpty() ? m_firstLayout : layout);
 }
 
 void ColumnTable::rememberColumns() {
