@@ -378,6 +378,7 @@ void ColumnTable::followColumns() {
         return;
     m_firstLayout = firstLayout(m_rows);
     const QStringList layout = m_workspace->remembered(m_key);
+    const QScopedValueRollback moved(m_key, QString()); // not by the coach: nothing to remember
     applyColumnLayout(*this, layout.isEmpty() ? m_firstLayout : layout);
 }
 
@@ -444,7 +445,8 @@ QPushButton* buttonFor(QAction& action, const QString& text, const char* name) {
 
 void rememberColumns(const QWidget& window, Workspace& workspace, const QString& kind) {
     for (ColumnTable* const table : window.findChildren<ColumnTable*>())
-        table->remember(workspace, kind + "/columns/" + table->objectName());
+        if (!table->objectName().isEmpty()) // which several may be
+            table->remember(workspace, kind + "/columns/" + table->objectName());
 }
 
 } // namespace kavela::desktop

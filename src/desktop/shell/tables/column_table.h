@@ -131,7 +131,7 @@ private:
 /// A button that does what an action does, says its key, and leaves the focus where it is.
 [[nodiscard]] QPushButton* buttonFor(QAction& action, const QString& text, const char* name);
 
-/// Remembers the columns of every table in a window of this kind.
+/// Remembers the columns of every table with a name in a window of this kind.
 void rememberColumns(const QWidget& window, Workspace& workspace, const QString& kind);
 
 } // namespace kavela::desktop
