@@ -358,5 +358,26 @@ TEST(ColumnTable, ColumnsStayHiddenAndMoved) {
         << "Tab passes over what is hidden";
 }
 
+TEST(ColumnTable, OtherColumnsLeaveTheRowAndStandWhereTheyWereLeft) {
+    const TempFolder folder;
+    Recorder recorder;
+    Workspace workspace(Preferences(folder.path() / "preferences.ini"), recorder.log(), systemNow);
+    NumberedPaddles paddles;
+    paddles.table.remember(workspace, "test/columns");
+    const auto few = paddles.columns();
+    auto many = few;
+    many.push_back(few[PaddleTable<int>::Length]); // of the same title
+    paddles.model.setColumns(many);
+    paddles.choose(1, 0);
+    paddles.table.horizontalHeader()->moveSection(3, 0);
+    paddles.model.setColumns(few);
+    EXPECT_EQ(paddles.table.model()->columnCount(), 3);
+    EXPECT_EQ(paddles.table.currentPlace(), 1);
+    paddles.model.setColumns(many);
+    EXPECT_EQ(paddles.table.horizontalHeader()->visualIndex(3), 0);
+    EXPECT_EQ(paddles.table.horizontalHeader()->visualIndex(PaddleTable<int>::Length), 2);
+    EXPECT_EQ(paddles.table.currentPlace(), 1);
+}
+
 } // namespace
 } // namespace kavela::test

@@ -9,7 +9,6 @@
 #include "desktop/planning/body/body_panel.h"
 #include "desktop/planning/plan/plan_view.h"
 #include "desktop/planning/plan/session_dialog.h"
-#include "desktop/planning/plan/totals_table.h"
 #include "desktop/planning/plan/week_form.h"
 #include "desktop/planning/plan/year_strip.h"
 #include "desktop/shell/command_palette.h"
@@ -273,14 +272,18 @@ TEST_F(PlanningWindowTest, WritesCyclesIntoAllChosenWeeksButEventsIntoOne) {
 
 TEST_F(PlanningWindowTest, ComparesTotalsWithThePlanAndTakesAPlan) {
     auto window = openWindow();
-    const desktop::TotalsTable& totals = window->plan().totals();
-    EXPECT_EQ(totals.item(0, desktop::TotalsTable::QuantityColumn)->text(), "80");
-    EXPECT_THAT(totals.item(0, desktop::TotalsTable::DoneColumn)->text().toStdString(),
+    auto& totals = window->plan().totals();
+    const auto cell = [&](desktop::TotalsColumn column) {
+        return totals.index(0, static_cast<int>(column));
+    };
+    const QModelIndex planned = cell(desktop::TotalsColumn::PlannedQuantity);
+    EXPECT_EQ(cell(desktop::TotalsColumn::Quantity).data().toString(), "80");
+    EXPECT_THAT(cell(desktop::TotalsColumn::Done).data().toString().toStdString(),
                 HasSubstr("133 %"));
-    totals.item(0, desktop::TotalsTable::PlannedQuantityColumn)->setText("-4");
-    EXPECT_EQ(totals.item(0, desktop::TotalsTable::PlannedQuantityColumn)->text(), "60");
+    EXPECT_FALSE(totals.setData(planned, "-4", Qt::EditRole));
+    EXPECT_EQ(planned.data().toString(), "60");
     EXPECT_EQ(weekAt(*window, ThisWeek).totalq.at(0), 60);
-    totals.item(0, desktop::TotalsTable::PlannedQuantityColumn)->setText("80,5");
+    EXPECT_TRUE(totals.setData(planned, "80,5", Qt::EditRole));
     EXPECT_EQ(weekAt(*window, ThisWeek).totalq.at(0), 80.5);
 }
 

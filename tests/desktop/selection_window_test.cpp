@@ -5,6 +5,7 @@
 #include "common/temp_folder.h"
 #include "desktop/selection/athlete_dialog.h"
 #include "desktop/selection/take_over_dialog.h"
+#include "desktop/shell/tables/column_table.h"
 #include "desktop/shell/workspace.h"
 #include "results/messages.h"
 #include "results/selection_file.h"
@@ -141,7 +142,7 @@ TEST_F(SelectionWindowTest, TriesWhatWouldHaveBeenAndKeepsNothingOfIt) {
     window->model().orderAnew();
     EXPECT_EQ(names(*window).front(), "CEDAR Cyd");
     EXPECT_EQ(text(*window, 0, RankingModel::RankColumn), "1 (was 3)");
-    window->table().setCurrentIndex(window->model().index(0, Time));
+    window->table().choose(0, Time);
     EXPECT_THAT(window->findChild<QLabel*>("real")->text().toStdString(),
                 HasSubstr("was 3, now 1"));
     EXPECT_EQ(window->model().index(0, Time).data(Qt::ToolTipRole).toString(),
@@ -159,7 +160,7 @@ TEST_F(SelectionWindowTest, KeepsTheCursorInTheRowThatIsTypedInto) {
     QApplication::setActiveWindow(window.get());
     auto& table = window->table();
     table.setFocus();
-    table.setCurrentIndex(window->model().index(2, Time));
+    table.choose(2, Time);
     const auto keys = [&](const char* text) {
         for (; *text; ++text)
             QTest::keyClick(QApplication::focusWidget(), *text);

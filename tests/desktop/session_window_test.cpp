@@ -13,6 +13,7 @@
 #include "desktop/sessions/session_view.h"
 #include "desktop/sessions/test_session_window.h"
 #include "desktop/sessions/track_offset_dialog.h"
+#include "desktop/shell/tables/column_table.h"
 
 #include <QApplication>
 #include <QComboBox>

@@ -1,6 +1,7 @@
 #include "desktop/selection/selection_window.h"
 #include "desktop/shell/number_box.h"
 #include "desktop/shell/refused_entry.h"
+#include "desktop/shell/tables/column_table.h"
 #include "desktop/shell/wheel_guard.h"
 
 #include "common/recorders.h"
@@ -211,7 +212,7 @@ protected:
         return QString::fromStdString((m_folder.path() / "selection.kvsr").string());
     }
     [[nodiscard]] QModelIndex cell(int row) {
-        return m_window.model().index(row, RankingModel::LeadingColumns);
+        return m_window.table().cellAt(row, RankingModel::LeadingColumns);
     }
     [[nodiscard]] double timeOf(std::size_t athlete) {
         return m_window.document().value().categories[0].athletes[athlete].racedata[0].resultTime;

@@ -4,11 +4,10 @@
 #include "analysis/ideal_run.h"
 #include "desktop/race/race_document.h"
 #include "desktop/shell/shown_number.h"
+#include "desktop/shell/tables/column_table.h"
 #include "desktop/shell/theme.h"
 
-#include <QHeaderView>
 #include <QLabel>
-#include <QTableWidget>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -16,8 +15,6 @@
 namespace kavela::desktop {
 
 namespace {
-
-constexpr int RunRole = Qt::UserRole;
 
 QString qtText(const std::string& text) {
     return QString::fromStdString(text);
@@ -31,36 +28,21 @@ QString aheadOf(const std::optional<double>& seconds) {
     return seconds ? '+' + shownHundredths(*seconds) : "–";
 }
 
-QTableWidget* listTable(const QStringList& headers, int stretched) {
-    auto* table = new QTableWidget(0, static_cast<int>(headers.size()));
-    table->setHorizontalHeaderLabels(headers);
-    table->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    table->setSelectionBehavior(QAbstractItemView::SelectRows);
+ColumnTable* listTable(RowModel& rows, int stretched) {
+    auto* table = new ColumnTable(rows, "");
     table->setSelectionMode(QAbstractItemView::SingleSelection);
-    table->setShowGrid(false);
-    table->setTabKeyNavigation(false);
-    table->verticalHeader()->setDefaultSectionSize(table->fontMetrics().height() + theme::Spacing);
-    table->verticalHeader()->hide();
-    table->horizontalHeader()->setHighlightSections(false);
-    table->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
-    table->horizontalHeader()->setSectionResizeMode(stretched, QHeaderView::Stretch);
+    table->setAlternatingRowColors(false);
+    table->stretch({stretched});
     return table;
 }
 
-/// Adds a row; the texts but that of `leftColumns` stand to the right, as numbers do.
-void addRow(QTableWidget& table, const QStringList& texts, const QList<int>& leftColumns,
-            std::optional<std::size_t> run) {
-    const int row = table.rowCount();
-    table.insertRow(row);
-    for (int column = 0; column < texts.size(); ++column) {
-        auto* item = new QTableWidgetItem(texts[column]);
-        if (!leftColumns.contains(column))
-            item->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
-        item->setToolTip(texts[column]);
-        if (run)
-            item->setData(RunRole, QVariant::fromValue(*run));
-        table.setItem(row, column, item);
-    }
+Cell textCell(const QString& text) {
+    return {.text = text, .tip = text};
+}
+
+/// A time of 0 is none.
+Cell timeCell(const std::optional<double>& seconds, const QString& text) {
+    return {.text = text, .number = text == "–" ? std::nullopt : seconds, .tip = text};
 }
 
 QString sectionTitle(const RaceSet& set, std::size_t section) {
@@ -75,17 +57,31 @@ IdealPanel::IdealPanel(RaceDocument& document, QWidget* parent)
     : QWidget(parent),
       m_document(document),
       m_summary(new QLabel),
-      m_sections(listTable({tr("Section"), tr("Best"), tr("By")}, 2)) {
+      m_bests(columns()),
+      m_sections(listTable(m_bests, 2)) {
     m_summary->setWordWrap(true);
     m_summary->setTextFormat(Qt::PlainText);
     auto* column = new QVBoxLayout(this);
     column->setSpacing(theme::Spacing);
     column->addWidget(m_summary);
     column->addWidget(m_sections, 1);
-    connect(m_sections, &QTableWidget::itemActivated, this, [this](const QTableWidgetItem* item) {
-        if (const QVariant run = item->data(RunRole); run.isValid())
-            emit runActivated(run.value<std::size_t>());
+    connect(m_sections, &ColumnTable::activated, this, [this](const QModelIndex& cell) {
+        if (const auto run = m_bests.row(m_sections->placeAt(cell)).run)
+            emit runActivated(*run);
     });
+}
+
+std::vector<Column<IdealPanel::Best>> IdealPanel::columns() {
+    std::vector<Column<Best>> columns;
+    columns.push_back(
+        {.title = tr("Section"), .show = [](const Best& best) { return textCell(best.section); }});
+    columns.push_back(
+        {.title = tr("Best"), .kind = ColumnKind::Number, .show = [](const Best& best) {
+             return timeCell(best.time, timeOrDash(best.time));
+         }});
+    columns.push_back(
+        {.title = tr("By"), .show = [](const Best& best) { return textCell(best.by); }});
+    return columns;
 }
 
 void IdealPanel::refresh() {
@@ -100,20 +96,20 @@ void IdealPanel::refresh() {
                             aheadOf(fastest.sectioninfo.totaltime - *ideal.total));
     }
     m_summary->setText(summary + tr("\nPenalties are left out."));
-    m_sections->setRowCount(0);
+    std::vector<Best> bests;
     for (std::size_t i = 0; i < ideal.sections.size(); ++i) {
         const IdealSection& best = ideal.sections[i];
-        addRow(*m_sections,
-               {sectionTitle(set, i), timeOrDash(best.time),
-                best.run ? qtText(set.alldata[*best.run].name) : QString()},
-               {0, 2}, best.run);
+        bests.push_back({sectionTitle(set, i), best.time,
+                         best.run ? qtText(set.alldata[*best.run].name) : QString(), best.run});
     }
+    m_bests.show(std::move(bests), true);
 }
 
 PotentialPanel::PotentialPanel(RaceDocument& document, QWidget* parent)
     : QWidget(parent),
       m_document(document),
-      m_athletes(listTable({tr("Athlete"), tr("Potential"), tr("Best run"), tr("Left")}, 0)) {
+      m_potentials(columns()),
+      m_athletes(listTable(m_potentials, 0)) {
     auto* text = new QLabel(tr("The best of every own section put together, without penalties. "
                                "What is left is how far the best run is from it."));
     text->setWordWrap(true);
@@ -122,10 +118,27 @@ PotentialPanel::PotentialPanel(RaceDocument& document, QWidget* parent)
     column->setSpacing(theme::Spacing);
     column->addWidget(text);
     column->addWidget(m_athletes, 1);
-    connect(m_athletes, &QTableWidget::itemActivated, this, [this](const QTableWidgetItem* item) {
-        if (const QVariant run = item->data(RunRole); run.isValid())
-            emit runActivated(run.value<std::size_t>());
+    connect(m_athletes, &ColumnTable::activated, this, [this](const QModelIndex& cell) {
+        const AthletePotential& athlete = m_potentials.row(m_athletes->placeAt(cell));
+        emit runActivated(athlete.bestRun ? *athlete.bestRun : athlete.runs.front());
     });
+}
+
+std::vector<Column<AthletePotential>> PotentialPanel::columns() {
+    using Athlete = const AthletePotential&;
+    std::vector<Column<AthletePotential>> columns;
+    columns.push_back({.title = tr("Athlete"),
+                       .show = [](Athlete athlete) { return textCell(qtText(athlete.name)); }});
+    const auto add = [&](const QString& title, std::function<Cell(Athlete)> show) {
+        columns.push_back({.title = title, .kind = ColumnKind::Number, .show = std::move(show)});
+    };
+    add(tr("Potential"),
+        [](Athlete athlete) { return timeCell(athlete.potential, timeOrDash(athlete.potential)); });
+    add(tr("Best run"),
+        [](Athlete athlete) { return timeCell(athlete.bestTotal, timeOrDash(athlete.bestTotal)); });
+    add(tr("Left"),
+        [](Athlete athlete) { return timeCell(athlete.difference, aheadOf(athlete.difference)); });
+    return columns;
 }
 
 void PotentialPanel::refresh() {
@@ -133,12 +146,7 @@ void PotentialPanel::refresh() {
     std::ranges::stable_sort(athletes, [](const auto& a, const auto& b) {
         return a.potential && (!b.potential || *a.potential < *b.potential);
     });
-    m_athletes->setRowCount(0);
-    for (const AthletePotential& athlete : athletes)
-        addRow(*m_athletes,
-               {qtText(athlete.name), timeOrDash(athlete.potential), timeOrDash(athlete.bestTotal),
-                aheadOf(athlete.difference)},
-               {0}, athlete.bestRun ? athlete.bestRun : std::optional(athlete.runs.front()));
+    m_potentials.show(std::move(athletes), true);
 }
 
 } // namespace kavela::desktop

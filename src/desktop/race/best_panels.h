@@ -1,12 +1,15 @@
 #pragma once
 
+#include "analysis/athlete_potential.h"
+#include "desktop/shell/tables/column_model.h"
+
 #include <QWidget>
 
 class QLabel;
-class QTableWidget;
 
 namespace kavela::desktop {
 
+class ColumnTable;
 class RaceDocument;
 
 /// The ideal run: the best of every section, who paddled it, and how far the fastest run is from
@@ -23,9 +26,20 @@ signals:
     void runActivated(std::size_t run);
 
 private:
+    /// The best of a section.
+    struct Best {
+        QString section;
+        std::optional<double> time;
+        QString by;
+        std::optional<std::size_t> run;
+    };
+
+    [[nodiscard]] static std::vector<Column<Best>> columns();
+
     RaceDocument& m_document;
     QLabel* m_summary;
-    QTableWidget* m_sections;
+    ColumnModel<Best> m_bests;
+    ColumnTable* m_sections;
 };
 
 /// What each athlete could do with the best of every own section in one run, the best first.
@@ -41,8 +55,11 @@ signals:
     void runActivated(std::size_t run);
 
 private:
+    [[nodiscard]] static std::vector<Column<AthletePotential>> columns();
+
     RaceDocument& m_document;
-    QTableWidget* m_athletes;
+    ColumnModel<AthletePotential> m_potentials;
+    ColumnTable* m_athletes;
 };
 
 } // namespace kavela::desktop

@@ -4,12 +4,11 @@
 #include "analysis/standing.h"
 #include "desktop/race/race_document.h"
 #include "desktop/shell/shown_number.h"
+#include "desktop/shell/tables/column_table.h"
 #include "desktop/shell/theme.h"
 #include "splitdata/run_timing.h"
 
-#include <QHeaderView>
 #include <QLabel>
-#include <QTableWidget>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -63,21 +62,6 @@ QString potentialText(const RaceSet& set, const analyzerdata& record) {
     return {};
 }
 
-enum SectionColumn { TitleColumn, TimeColumn, PenaltyColumn, RankColumn, GapColumn, Columns };
-
-QTableWidget* makeSections() {
-    auto* table = new QTableWidget(0, Columns);
-    table->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    table->setSelectionMode(QAbstractItemView::NoSelection);
-    table->setFocusPolicy(Qt::NoFocus);
-    table->setShowGrid(false);
-    table->verticalHeader()->setDefaultSectionSize(table->fontMetrics().height() + theme::Spacing);
-    table->verticalHeader()->hide();
-    table->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
-    table->horizontalHeader()->setSectionResizeMode(TitleColumn, QHeaderView::Stretch);
-    return table;
-}
-
 QLabel* wrapped(const QFont& font) {
     auto* label = new QLabel;
     label->setFont(font);
@@ -95,8 +79,11 @@ RunPanel::RunPanel(RaceDocument& document, QWidget* parent)
       m_name(wrapped(theme::titleFont(*this))),
       m_facts(wrapped(font())),
       m_gates(wrapped(font())),
-      m_sections(makeSections()),
+      m_rows(columns(tr("To best"))),
+      m_sections(new ColumnTable(m_rows, "")),
       m_empty(wrapped(theme::captionFont(*this))) {
+    m_sections->setOnlyShown();
+    m_sections->stretch({0});
     m_empty->setText(tr("Select a run to see its sections. Select two to compare them."));
     m_empty->setForegroundRole(QPalette::PlaceholderText);
     auto* column = new QVBoxLayout(this);
@@ -156,26 +143,47 @@ void RunPanel::fillSections(std::size_t run, const std::optional<RunAgainst>& ag
     const SplitTable& table = m_document.table();
     const TableReference reference =
         against ? TableReference{ReferenceKind::Values, 0, {}, against->values} : TableReference{};
-    m_sections->setHorizontalHeaderLabels(
-        {tr("Section"), tr("Time"), tr("Pen"), tr("Place"), against ? tr("Gap") : tr("To best")});
-    m_sections->setRowCount(static_cast<int>(table.columns.size()));
     const std::vector<std::int64_t>& pens = table.rows[run].run->sectioninfo.pens;
+    std::vector<Section> rows;
     for (std::size_t i = 0; i < table.columns.size(); ++i) {
-        const auto rank = m_document.figures().rank(run, i);
-        const bool isSection = i + 3 < table.columns.size();
-        const QStringList texts{
-            qtText(table.columns[i].title), timeOrDash(table.rows[run].cells[i].value),
-            isSection && entryOrZero(pens, i) != 0 ? QString::number(entryOrZero(pens, i))
-                                                   : QString(),
-            rank ? QString::number(*rank) : "–",
-            signedOrDash(m_document.figures().gap(run, i, reference))};
-        for (int column = 0; column < Columns; ++column) {
-            auto* item = new QTableWidgetItem(texts[column]);
-            if (column != TitleColumn)
-                item->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
-            m_sections->setItem(static_cast<int>(i), column, item);
-        }
+        Section row;
+        row.title = qtText(table.columns[i].title);
+        row.time = table.rows[run].cells[i].value;
+        row.penalty = i + 3 < table.columns.size() ? entryOrZero(pens, i) : 0;
+        if (const auto rank = m_document.figures().rank(run, i))
+            row.rank = static_cast<std::int64_t>(*rank);
+        row.gap = m_document.figures().gap(run, i, reference);
+        rows.push_back(std::move(row));
     }
+    m_rows.setColumns(columns(against ? tr("Gap") : tr("To best")));
+    m_rows.show(std::move(rows), true);
+}
+
+/// `gap` is the title of the last one.
+std::vector<Column<RunPanel::Section>> RunPanel::columns(const QString& gap) {
+    std::vector<Column<Section>> columns;
+    columns.push_back(
+        textColumn<Section>(tr("Section"), [](const Section& row) { return row.title; }));
+    const auto add = [&](const QString& title, std::function<Cell(const Section&)> show) {
+        columns.push_back({.title = title, .kind = ColumnKind::Number, .show = std::move(show)});
+    };
+    add(tr("Time"), [](const Section& row) {
+        Cell cell{.text = timeOrDash(row.time)};
+        if (row.time != 0)
+            cell.number = row.time;
+        return cell;
+    });
+    add(tr("Pen"), [](const Section& row) {
+        return row.penalty == 0 ? Cell()
+                                : Cell{.text = QString::number(row.penalty),
+                                       .number = static_cast<double>(row.penalty)};
+    });
+    add(tr("Place"), [](const Section& row) {
+        return Cell{.text = row.rank ? QString::number(*row.rank) : QStringLiteral("–")};
+    });
+    add(gap,
+        [](const Section& row) { return Cell{.text = signedOrDash(row.gap), .number = row.gap}; });
+    return columns;
 }
 
 } // namespace kavela::desktop

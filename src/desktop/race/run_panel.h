@@ -1,15 +1,17 @@
 #pragma once
 
+#include "desktop/shell/tables/column_model.h"
+
 #include <QWidget>
 
 #include <optional>
 #include <vector>
 
 class QLabel;
-class QTableWidget;
 
 namespace kavela::desktop {
 
+class ColumnTable;
 class RaceDocument;
 
 /// What a run is held against.
@@ -31,6 +33,16 @@ public:
     void showRun(std::optional<std::size_t> run, const std::optional<RunAgainst>& against);
 
 private:
+    /// A section, or what the run comes to.
+    struct Section {
+        QString title;
+        double time = 0;
+        std::int64_t penalty = 0;
+        std::optional<std::int64_t> rank;
+        std::optional<double> gap;
+    };
+
+    [[nodiscard]] static std::vector<Column<Section>> columns(const QString& gap);
     void fillHeading(std::size_t run, const std::optional<RunAgainst>& against);
     void fillSections(std::size_t run, const std::optional<RunAgainst>& against);
 
@@ -38,7 +50,8 @@ private:
     QLabel* m_name;
     QLabel* m_facts;
     QLabel* m_gates;
-    QTableWidget* m_sections;
+    ColumnModel<Section> m_rows;
+    ColumnTable* m_sections;
     QLabel* m_empty;
 };
 

@@ -2,10 +2,8 @@
 
 #include "desktop/selection/selection_document.h"
 #include "desktop/shell/shown_number.h"
+#include "desktop/shell/typed_number.h"
 #include "desktop/team/typed_values.h"
-
-#include <QColor>
-#include <QFont>
 
 #include <algorithm>
 #include <utility>
@@ -14,91 +12,164 @@ namespace kavela::desktop {
 
 namespace {
 
-const QColor Warning(0xE0, 0x7B, 0x00);
-
 QString qtText(const std::string& text) {
     return QString::fromStdString(text);
 }
 
-QString hundredths(double value) {
-    return shownHundredths(value);
+/// A name or a club may be longer than its column.
+Cell withTip(const QString& text) {
+    return {.text = text, .tip = text};
+}
+
+Cell numberCell(double number, const QString& text) {
+    return {.text = text, .number = number, .tip = text};
 }
 
 QString resultText(const saRaceStruct& result) {
-    return result.pen > 0 ? QString("%1 (%2)").arg(hundredths(result.resultTime)).arg(result.pen)
-                          : hundredths(result.resultTime);
+    const QString time = shownHundredths(result.resultTime);
+    return result.pen > 0 ? QString("%1 (%2)").arg(time).arg(result.pen) : time;
 }
 
-QString preselectionText(const std::vector<bool>& flags) {
+/// What a place would be, and what it is.
+Cell rankCell(const RankedAthlete& row) {
+    const std::int64_t rank = row.standing.rank;
+    Cell cell = withTip(!row.real || row.real->rank == rank
+                            ? QString::number(rank)
+                            : RankingModel::tr("%1 (was %2)").arg(rank).arg(row.real->rank));
+    cell.sortValue = static_cast<double>(rank);
+    cell.look = Cell::Look::Bold;
+    return cell;
+}
+
+Cell scoreCell(const RankedAthlete& row) {
+    const double score = row.standing.score.score;
+    Cell cell = numberCell(score, shownHundredths(score));
+    if (row.real && row.real->score.score != score)
+        cell.tip = RankingModel::tr("was %1, now %2")
+                       .arg(shownHundredths(row.real->score.score), cell.text);
+    cell.look = Cell::Look::Bold;
+    return cell;
+}
+
+Cell bonusCell(const RankedAthlete& row) {
+    const auto& bonus = row.standing.score.bonus;
+    return bonus ? numberCell(bonus->percentage, shownHundredths(bonus->percentage)) : Cell();
+}
+
+Cell yearCell(const RankedAthlete& row) {
+    const std::int64_t year = row.record.year;
+    return year == 0 ? Cell() : numberCell(static_cast<double>(year), QString::number(year));
+}
+
+Cell preselectionCell(const RankedAthlete& row) {
+    const std::vector<bool>& flags = row.record.preselected;
     QStringList groups;
-    for (std::size_t group = 0; group < flags.size(); ++group)
-        if (flags[group])
-            groups.append(flags.size() == 1 ? "✓" : QString::number(group + 1));
-    return groups.join(' ');
+    std::optional<double> first;
+    for (std::size_t group = 0; group < flags.size(); ++group) {
+        if (!flags[group])
+            continue;
+        groups.append(flags.size() == 1 ? "✓" : QString::number(group + 1));
+        first = first.value_or(static_cast<double>(group));
+    }
+    Cell cell = withTip(groups.join(' '));
+    cell.sortValue = first;
+    return cell;
+}
+
+const saRaceStruct* resultIn(const RankedAthlete& row, std::size_t race) {
+    return race < row.record.racedata.size() ? &row.record.racedata[race] : nullptr;
+}
+
+/// Whether a result is one that was only tried.
+bool isAssumed(const saRaceStruct& shown, const saRaceStruct& real) {
+    return shown.resultTime != real.resultTime || shown.pen != real.pen ||
+           shown.xTime != real.xTime;
+}
+
+QString raceTip(const saRaceStruct* result, ResultFate fate) {
+    if (result && isZero(*result))
+        return RankingModel::tr(
+            "A time of 0 counts as the formula says and puts the athlete far in front. "
+            "Edit > Make times of 0 missing results.");
+    switch (fate) {
+    case ResultFate::Worst:
+        return RankingModel::tr("Dropped: the worst result");
+    case ResultFate::SecondWorst:
+        return RankingModel::tr("Dropped too: a bonus stands among the results");
+    case ResultFate::Counted:
+        break;
+    }
+    return RankingModel::tr("Counted");
 }
 
 } // namespace
 
 RankingModel::RankingModel(SelectionDocument& document, QObject* parent)
-    : QAbstractTableModel(parent), m_document(document), m_real(document) {
+    : ColumnModel(
+          {}, [](const RankedAthlete& row) { return row.id; }, parent),
+      m_document(document),
+      m_real(document) {
+    setColumns(columns());
     connect(&m_document, &SelectionDocument::changed, this, &RankingModel::reload);
 }
 
 void RankingModel::setCategory(std::size_t category) {
+    m_isOtherCategory = category != m_category;
     m_category = category;
     m_isKeepingOrder = false;
     reload();
 }
 
 void RankingModel::orderAnew() {
-    if (!m_isKeepingOrder)
-        return;
-    m_isKeepingOrder = false;
-    reload();
+    if (std::exchange(m_isKeepingOrder, false))
+        reload();
 }
 
-RankingModel::Shape RankingModel::shape() const {
-    const srCategoryStruct_v3* const category = categoryShown();
-    return {m_category, category ? category->athletes.size() : 0, races()};
-}
-
-/// A model that is reset forgets the current cell, so it is only where rows or columns came or
-/// went.
 void RankingModel::reload() {
-    std::vector<Standing> ranking;
-    if (const srCategoryStruct_v3* const category = categoryShown())
-        ranking = standings(*category, races(), m_document.bonus(), m_document.times());
     m_real.update(m_category);
-    if (shape() == m_shape) {
-        setOrder(std::move(ranking));
-        return;
-    }
-    beginResetModel();
-    m_shape = shape();
-    m_standings = std::move(ranking);
-    m_isKeepingOrder = false;
-    endResetModel();
+    const bool isOther = std::exchange(m_isOtherCategory, false);
+    if (isOther)
+        m_known.clear();
+    std::vector<RankedAthlete> rows = ranked();
+    if (rows.size() != this->rows().size())
+        m_isKeepingOrder = false;
+    if (m_isKeepingOrder)
+        std::ranges::sort(rows, {},
+                          [this](const RankedAthlete& row) { return placeOfKey(row.id); });
+    QStringList locations;
+    for (const sRaceStruct& race : m_document.shown().races)
+        locations.append(qtText(race.location));
+    if (locations != std::exchange(m_locations, locations))
+        setColumns(columns());
+    show(std::move(rows), isOther);
 }
 
-/// The rows in the order of a ranking of the same athletes, or in the order they have.
-void RankingModel::setOrder(std::vector<Standing> ranking) {
-    if (m_isKeepingOrder) {
-        for (Standing& standing : m_standings)
-            standing = *std::ranges::find(ranking, standing.athlete, &Standing::athlete);
-        if (rowCount() > 0)
-            emit dataChanged(index(0, 0), index(rowCount() - 1, columnCount() - 1));
-        emit headerDataChanged(Qt::Horizontal, 0, columnCount() - 1);
-        return;
+std::vector<RankedAthlete> RankingModel::ranked() {
+    std::vector<RankedAthlete> rows;
+    const srCategoryStruct_v3* const category = categoryShown();
+    if (!category)
+        return rows;
+    followAthletes(*category);
+    for (const Standing& standing : standings(*category, m_document.shown().races.size(),
+                                              m_document.bonus(), m_document.times())) {
+        const srAthleteStruct_v3& record = category->athletes[standing.athlete];
+        rows.push_back(
+            {m_known[standing.athlete].id, record, standing, m_real.standingOf(record.name)});
     }
-    emit layoutAboutToBeChanged();
-    const QModelIndexList before = persistentIndexList();
-    QModelIndexList after;
-    const std::vector<Standing> old = std::exchange(m_standings, std::move(ranking));
-    for (const QModelIndex& kept : before)
-        after.append(
-            index(rowOfAthlete(old[static_cast<std::size_t>(kept.row())].athlete), kept.column()));
-    changePersistentIndexList(before, after);
-    emit layoutChanged();
+    return rows;
+}
+
+/// Where none came or went, each is the same, whatever he is called now; else by the name.
+void RankingModel::followAthletes(const srCategoryStruct_v3& category) {
+    std::vector<Known> before = std::exchange(m_known, {});
+    const bool isEdited = before.size() == category.athletes.size();
+    for (const srAthleteStruct_v3& athlete : category.athletes) {
+        const auto same = isEdited ? before.begin() + std::ssize(m_known)
+                                   : std::ranges::find(before, athlete.name, &Known::name);
+        m_known.push_back({athlete.name, same == before.end() ? m_nextId++ : same->id});
+        if (!isEdited && same != before.end())
+            before.erase(same);
+    }
 }
 
 const srCategoryStruct_v3* RankingModel::categoryShown() const {
@@ -106,272 +177,151 @@ const srCategoryStruct_v3* RankingModel::categoryShown() const {
     return m_category < categories.size() ? &categories[m_category] : nullptr;
 }
 
-std::size_t RankingModel::races() const {
-    return m_document.shown().races.size();
+int RankingModel::placeOfAthlete(std::size_t athlete) const {
+    const auto found = std::ranges::find(
+        rows(), athlete, [](const RankedAthlete& row) { return row.standing.athlete; });
+    return found == rows().end() ? -1 : static_cast<int>(found - rows().begin());
 }
 
-std::size_t RankingModel::athleteOfRow(int row) const {
-    return m_standings.at(static_cast<std::size_t>(row)).athlete;
+bool RankingModel::isExpected() const {
+    return m_document.times() == SelectionTimes::Expected;
 }
 
-int RankingModel::rowOfAthlete(std::size_t athlete) const {
-    const auto found = std::ranges::find(m_standings, athlete, &Standing::athlete);
-    return found == m_standings.end() ? -1 : static_cast<int>(found - m_standings.begin());
+RankingModel::Columns RankingModel::columns() {
+    constexpr ColumnKind Number = ColumnKind::Number;
+    const auto name = [](const RankedAthlete& row) { return withTip(qtText(row.record.name)); };
+    const auto club = [](const RankedAthlete& row) { return withTip(qtText(row.record.club)); };
+    Columns columns;
+    columns.push_back({.title = tr("#"), .kind = Number, .show = rankCell});
+    columns.push_back(corrected({.title = tr("SURNAME Name"), .show = name},
+                                [](srAthleteStruct_v3& athlete, const QString& typed) {
+                                    athlete.name = typed.toStdString();
+                                }));
+    columns.push_back({.title = tr("Score"), .kind = Number, .show = scoreCell});
+    columns.push_back({.title = tr("Bonus"), .kind = Number, .show = bonusCell});
+    columns.push_back(corrected({.title = tr("Year"), .kind = Number, .show = yearCell},
+                                [](srAthleteStruct_v3& athlete, const QString& typed) {
+                                    athlete.year = typedBirthYear(typed);
+                                }));
+    columns.push_back(corrected({.title = tr("Club"), .show = club},
+                                [](srAthleteStruct_v3& athlete, const QString& typed) {
+                                    athlete.club = typed.toStdString();
+                                }));
+    columns.push_back({.title = tr("Pre"), .kind = Number, .show = preselectionCell});
+    for (qsizetype race = 0; race < m_locations.size(); ++race)
+        addRaceColumns(columns, static_cast<std::size_t>(race), m_locations[race]);
+    return columns;
 }
 
-const Standing& RankingModel::standingOfRow(int row) const {
-    return m_standings.at(static_cast<std::size_t>(row));
+RankingModel::AthleteColumn
+RankingModel::corrected(AthleteColumn column,
+                        std::function<void(srAthleteStruct_v3&, const QString&)> correct) {
+    column.take = [this, correct = std::move(correct)](std::size_t, const RankedAthlete& row,
+                                                       const QString& typed) {
+        srAthleteStruct_v3 athlete = row.record;
+        correct(athlete, typed);
+        edit(tr("correction"), [&](selectionracesStruct_v3& document) {
+            document.categories[m_category].athletes[row.standing.athlete] = athlete;
+        });
+    };
+    return column;
 }
 
-std::optional<Standing> RankingModel::realStandingOfRow(int row) const {
-    return m_real.standingOf(athleteAt(row).name);
+/// The columns of a race may be there before its results are.
+void RankingModel::addRaceColumns(Columns& columns, std::size_t race, const QString& location) {
+    using Take = void (RankingModel::*)(const ResultPlace&, saRaceStruct, const QString&);
+    const auto add = [&](const QString& title, std::function<Cell(const saRaceStruct&)> cell,
+                         Take taken) {
+        AthleteColumn column{.title = title, .kind = ColumnKind::Number};
+        column.show = [this, race, cell = std::move(cell)](const RankedAthlete& row) {
+            const saRaceStruct* const result = resultIn(row, race);
+            return inRace(row, race, result ? cell(*result) : Cell());
+        };
+        if (taken)
+            column.take = [this, race, taken](std::size_t, const RankedAthlete& row,
+                                              const QString& typed) {
+                const saRaceStruct* const result = resultIn(row, race);
+                (this->*taken)({m_category, row.standing.athlete, race},
+                               result ? *result : missingResult(), typed);
+            };
+        columns.push_back(std::move(column));
+    };
+    add(
+        location, [this](const saRaceStruct& result) { return timeCell(result); },
+        &RankingModel::takeTime);
+    add(
+        tr("Pen"),
+        [](const saRaceStruct& result) {
+            return isMissing(result)
+                       ? Cell()
+                       : numberCell(static_cast<double>(result.pen), QString::number(result.pen));
+        },
+        &RankingModel::takePenalty);
+    add(
+        tr("%"), [this](const saRaceStruct& result) { return percentCell(result); }, nullptr);
 }
 
-/// Whether a result is one that was only tried.
-bool RankingModel::isAssumed(int row, std::size_t race) const {
-    const saRaceStruct* const real = m_real.resultOf(athleteAt(row).name, race);
-    const auto& results = athleteAt(row).racedata;
-    if (!real || race >= results.size())
-        return false;
-    const saRaceStruct& shown = results[race];
-    return shown.resultTime != real->resultTime || shown.pen != real->pen ||
-           shown.xTime != real->xTime;
+Cell RankingModel::timeCell(const saRaceStruct& result) const {
+    const double time = isExpected() ? result.xTime : result.resultTime;
+    if (isMissing(result) || time == MissingTime)
+        return {.text = QStringLiteral("–"), .typed = QString()};
+    return {.text = shownHundredths(time), .number = time, .typed = shownNumber(time)};
 }
 
-const srAthleteStruct_v3& RankingModel::athleteAt(int row) const {
-    return categoryShown()->athletes[athleteOfRow(row)];
+Cell RankingModel::percentCell(const saRaceStruct& result) const {
+    const double percent = isExpected() ? result.resultxPer : result.resultPer;
+    return isMissing(result) || percent == MissingPercentage
+               ? Cell()
+               : numberCell(percent, shownHundredths(percent));
 }
 
-std::optional<std::size_t> RankingModel::raceOfColumn(int column) const {
-    const int place = column - LeadingColumns;
-    const auto race = static_cast<std::size_t>(place / RaceColumns);
-    return place < 0 || race >= races() ? std::nullopt : std::optional(race);
-}
-
-int RankingModel::rowCount(const QModelIndex& parent) const {
-    return parent.isValid() ? 0 : static_cast<int>(m_standings.size());
-}
-
-int RankingModel::columnCount(const QModelIndex& parent) const {
-    return parent.isValid() ? 0 : LeadingColumns + RaceColumns * static_cast<int>(races());
-}
-
-/// What a place would be, and what it is.
-QString RankingModel::rankText(int row) const {
-    const std::int64_t rank = standingOfRow(row).rank;
-    const auto real = realStandingOfRow(row);
-    if (!real || real->rank == rank)
-        return QString::number(rank);
-    return tr("%1 (was %2)").arg(rank).arg(real->rank);
-}
-
-QString RankingModel::leadingText(int row, int column) const {
-    const srAthleteStruct_v3& athlete = athleteAt(row);
-    switch (column) {
-    case RankColumn:
-        return rankText(row);
-    case NameColumn:
-        return qtText(athlete.name);
-    case ScoreColumn:
-        return hundredths(standingOfRow(row).score.score);
-    case BonusColumn: {
-        const auto& bonus = standingOfRow(row).score.bonus;
-        return bonus ? hundredths(bonus->percentage) : QString();
+/// What became of a result shows in each of its cells.
+Cell RankingModel::inRace(const RankedAthlete& row, std::size_t race, Cell cell) const {
+    const std::vector<ScorePart>& parts = row.standing.score.races;
+    if (race >= parts.size())
+        return cell;
+    const saRaceStruct* const result = resultIn(row, race);
+    const saRaceStruct* const real = m_real.resultOf(row.record.name, race);
+    cell.isStruck = parts[race].fate != ResultFate::Counted;
+    cell.tip = raceTip(result, parts[race].fate);
+    if (result && real && isAssumed(*result, *real)) {
+        cell.look = Cell::Look::Italic;
+        cell.tip = tr("Tried only. Really: %1")
+                       .arg(isMissing(*real) ? tr("no result") : resultText(*real));
     }
-    case YearColumn:
-        return athlete.year == 0 ? QString() : QString::number(athlete.year);
-    case ClubColumn:
-        return qtText(athlete.club);
-    default:
-        return preselectionText(athlete.preselected);
-    }
+    if (result && isZero(*result))
+        cell.look = Cell::Look::Warning;
+    return cell;
 }
 
-QString RankingModel::raceText(int row, std::size_t race, int part, int role) const {
-    const srAthleteStruct_v3& athlete = athleteAt(row);
-    if (race >= athlete.racedata.size())
-        return {};
-    const saRaceStruct& result = athlete.racedata[race];
-    if (isMissing(result))
-        return part == TimeColumn && role == Qt::DisplayRole ? "–" : QString();
-    const bool isExpected = m_document.times() == SelectionTimes::Expected;
-    switch (part) {
-    case TimeColumn: {
-        const double time = isExpected ? result.xTime : result.resultTime;
-        if (time == MissingTime)
-            return role == Qt::DisplayRole ? "–" : QString();
-        return role == Qt::DisplayRole ? hundredths(time) : shownNumber(time);
-    }
-    case PenaltyColumn:
-        return QString::number(result.pen);
-    default: {
-        const double percent = isExpected ? result.resultxPer : result.resultPer;
-        return percent == MissingPercentage ? QString() : hundredths(percent);
-    }
-    }
+/// What is typed changes the places at once, the order of the rows when the row is left.
+void RankingModel::edit(const QString& what,
+                        const std::function<void(selectionracesStruct_v3&)>& change) {
+    m_isKeepingOrder = true;
+    m_document.change(what, change);
 }
 
-QVariant RankingModel::raceToolTip(int row, std::size_t race) const {
-    const srAthleteStruct_v3& athlete = athleteAt(row);
-    if (race < athlete.racedata.size() && isZero(athlete.racedata[race]))
-        return tr("A time of 0 counts as the formula says and puts the athlete far in front. "
-                  "Edit > Make times of 0 missing results.");
-    switch (standingOfRow(row).score.races[race].fate) {
-    case ResultFate::Worst:
-        return tr("Dropped: the worst result");
-    case ResultFate::SecondWorst:
-        return tr("Dropped too: a bonus stands among the results");
-    default:
-        return tr("Counted");
-    }
-}
-
-QVariant RankingModel::toolTip(const QModelIndex& index) const {
-    const int row = index.row();
-    const auto race = raceOfColumn(index.column());
-    if (race && isAssumed(row, *race)) {
-        const saRaceStruct& real = *m_real.resultOf(athleteAt(row).name, *race);
-        return tr("Tried only. Really: %1")
-            .arg(isMissing(real) ? tr("no result") : resultText(real));
-    }
-    if (race)
-        return raceToolTip(row, *race);
-    const auto real = realStandingOfRow(row);
-    const double score = standingOfRow(row).score.score;
-    if (index.column() == ScoreColumn && real && real->score.score != score)
-        return tr("was %1, now %2").arg(hundredths(real->score.score), hundredths(score));
-    // A name or a club may be longer than its column.
-    return index.data();
-}
-
-QVariant RankingModel::font(const QModelIndex& index) const {
-    QFont font;
-    const auto race = raceOfColumn(index.column());
-    font.setBold(index.column() == ScoreColumn || index.column() == RankColumn);
-    if (race) {
-        font.setItalic(isAssumed(index.row(), *race));
-        font.setStrikeOut(standingOfRow(index.row()).score.races[*race].fate !=
-                          ResultFate::Counted);
-    }
-    return font;
-}
-
-QVariant RankingModel::data(const QModelIndex& index, int role) const {
-    if (!index.isValid())
-        return {};
-    const int row = index.row();
-    const auto race = raceOfColumn(index.column());
-    switch (role) {
-    case Qt::DisplayRole:
-    case Qt::EditRole:
-        return race ? raceText(row, *race, (index.column() - LeadingColumns) % RaceColumns, role)
-                    : leadingText(row, index.column());
-    case Qt::TextAlignmentRole: {
-        const bool isText = index.column() == NameColumn || index.column() == ClubColumn;
-        return QVariant((isText ? Qt::AlignLeft : Qt::AlignRight) | Qt::AlignVCenter);
-    }
-    case Qt::ToolTipRole:
-        return toolTip(index);
-    case Qt::FontRole:
-        return font(index);
-    case Qt::ForegroundRole:
-        if (race && *race < athleteAt(row).racedata.size() &&
-            isZero(athleteAt(row).racedata[*race]))
-            return Warning;
-        return {};
-    default:
-        return {};
-    }
-}
-
-QVariant RankingModel::headerData(int section, Qt::Orientation orientation, int role) const {
-    if (orientation == Qt::Vertical || (role != Qt::DisplayRole && role != Qt::ToolTipRole))
-        return {};
-    static const QStringList leading{tr("#"),    tr("SURNAME Name"), tr("Score"), tr("Bonus"),
-                                     tr("Year"), tr("Club"),         tr("Pre")};
-    if (section < LeadingColumns)
-        return leading[section];
-    const auto race = raceOfColumn(section);
-    const QString location = qtText(m_document.shown().races[*race].location);
-    switch ((section - LeadingColumns) % RaceColumns) {
-    case TimeColumn:
-        return location;
-    case PenaltyColumn:
-        return tr("Pen");
-    default:
-        return tr("%");
-    }
-}
-
-Qt::ItemFlags RankingModel::flags(const QModelIndex& index) const {
-    const Qt::ItemFlags flags = QAbstractTableModel::flags(index);
-    const bool isPart = raceOfColumn(index.column()).has_value() &&
-                        (index.column() - LeadingColumns) % RaceColumns != PercentColumn;
-    const bool isText = index.column() == NameColumn || index.column() == YearColumn ||
-                        index.column() == ClubColumn;
-    return isPart || isText ? flags | Qt::ItemIsEditable : flags;
-}
-
-bool RankingModel::setData(const QModelIndex& index, const QVariant& value, int role) {
-    const QString text = value.toString().trimmed();
-    if (role != Qt::EditRole || text == data(index, Qt::EditRole).toString())
-        return false;
-    // Should the edit be refused, nothing was out of order.
-    const bool wasKeeping = std::exchange(m_isKeepingOrder, true);
-    try {
-        if (const auto race = raceOfColumn(index.column()))
-            setResultPart(index.row(), *race, (index.column() - LeadingColumns) % RaceColumns,
-                          text);
-        else
-            setLeading(index.row(), index.column(), text);
-        return true;
-    } catch (const RefusedEntry& refusal) {
-        m_isKeepingOrder = wasKeeping;
-        emit refused(refusal.reason());
-        return false;
-    }
-}
-
-void RankingModel::setLeading(int row, int column, const QString& text) {
-    const std::int64_t year = column == YearColumn ? typedBirthYear(text) : 0;
-    const std::size_t athlete = athleteOfRow(row);
-    m_document.change(tr("correction"), [&](selectionracesStruct_v3& document) {
-        srAthleteStruct_v3& record = document.categories[m_category].athletes[athlete];
-        if (column == YearColumn)
-            record.year = year;
-        else
-            (column == NameColumn ? record.name : record.club) = text.toStdString();
-    });
-}
-
-void RankingModel::setResultPart(int row, std::size_t race, int part, const QString& text) {
-    const ResultPlace place{m_category, athleteOfRow(row), race};
-    const srAthleteStruct_v3& athlete = athleteAt(row);
-    saRaceStruct result = race < athlete.racedata.size() ? athlete.racedata[race] : missingResult();
-    if (part == TimeColumn) {
-        setTime(place, result, text);
-        return;
-    }
+void RankingModel::takePenalty(const ResultPlace& place, saRaceStruct result,
+                               const QString& typed) {
     if (isMissing(result))
         throw RefusedEntry(tr("Enter the time first: the penalty belongs to it."));
-    result.pen = typedPenalty(text);
-    m_document.change(tr("penalty"), [&](selectionracesStruct_v3& document) {
+    result.pen = typedPenalty(typed);
+    edit(tr("penalty"), [&](selectionracesStruct_v3& document) {
         setResult(document, place, result.resultTime, result.pen, result.xTime);
     });
 }
 
 /// An emptied time makes the result a missing one; an emptied expected time leaves the result
 /// itself alone.
-void RankingModel::setTime(const ResultPlace& place, saRaceStruct result, const QString& text) {
-    const bool isExpected = m_document.times() == SelectionTimes::Expected;
-    if (text.isEmpty() && !isExpected) {
-        m_document.change(tr("result removed"),
-                          [&](selectionracesStruct_v3& document) { clearResult(document, place); });
+void RankingModel::takeTime(const ResultPlace& place, saRaceStruct result, const QString& typed) {
+    if (typed.isEmpty() && !isExpected()) {
+        edit(tr("result removed"),
+             [&](selectionracesStruct_v3& document) { clearResult(document, place); });
         return;
     }
-    double& time = isExpected ? result.xTime : result.resultTime;
-    time = text.isEmpty() ? MissingTime : typedTime(text);
-    m_document.change(tr("result"), [&](selectionracesStruct_v3& document) {
+    double& time = isExpected() ? result.xTime : result.resultTime;
+    time = typed.isEmpty() ? MissingTime : typedTime(typed);
+    edit(tr("result"), [&](selectionracesStruct_v3& document) {
         setResult(document, place, result.resultTime, result.pen, result.xTime);
     });
 }

@@ -1,10 +1,9 @@
 #pragma once
 
 #include "desktop/selection/real_ranking.h"
+#include "desktop/shell/tables/column_model.h"
 #include "results/selection_edit.h"
 #include "results/selection_ranking.h"
-
-#include <QAbstractTableModel>
 
 #include <optional>
 #include <string>
@@ -14,13 +13,19 @@ namespace kavela::desktop {
 
 class SelectionDocument;
 
+/// An athlete with his place.
+struct RankedAthlete {
+    std::size_t id = 0; ///< the same as long as the athlete is there
+    srAthleteStruct_v3 record;
+    Standing standing;
+    std::optional<Standing> real; ///< in what-if mode, how he really stands
+};
+
 /// The ranking of one category: place, who, score and bonus, the results of every race. Results,
 /// names, clubs and birth years are edited in place. What is typed changes places and scores at
 /// once, but the rows keep their order until the row is left: values that belong together are typed
 /// one after the other. In what-if mode places say what they really are.
-class RankingModel : public QAbstractTableModel {
-    Q_OBJECT
-
+class RankingModel : public ColumnModel<RankedAthlete> {
 public:
     enum LeadingColumn {
         RankColumn,
@@ -38,62 +43,46 @@ public:
 
     void setCategory(std::size_t category);
     [[nodiscard]] std::size_t category() const { return m_category; }
-    /// The athlete of a row, by the index in the category; and the row of an athlete.
-    [[nodiscard]] std::size_t athleteOfRow(int row) const;
-    [[nodiscard]] int rowOfAthlete(std::size_t athlete) const;
-    [[nodiscard]] const Standing& standingOfRow(int row) const;
-    /// In what-if mode, how the athlete of a row really stands; none for one who is not there.
-    [[nodiscard]] std::optional<Standing> realStandingOfRow(int row) const;
-    /// Puts the rows into the order of the ranking, after a row was left. Indexes that are kept
-    /// follow their athletes.
+    /// The row of an athlete by the index in the category; -1 for none.
+    [[nodiscard]] int placeOfAthlete(std::size_t athlete) const;
+    /// Puts the rows into the order of the ranking, after a row was left.
     void orderAnew();
-    /// The race that a column belongs to; none for other columns.
-    [[nodiscard]] std::optional<std::size_t> raceOfColumn(int column) const;
-
-    [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
-    [[nodiscard]] int columnCount(const QModelIndex& parent = {}) const override;
-    [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
-    [[nodiscard]] QVariant headerData(int section, Qt::Orientation orientation,
-                                      int role) const override;
-    [[nodiscard]] Qt::ItemFlags flags(const QModelIndex& index) const override;
-    bool setData(const QModelIndex& index, const QVariant& value, int role) override;
-
-signals:
-    /// What was typed cannot be taken.
-    void refused(const QString& reason);
 
 private:
-    /// As long as this stays the same, so do rows and columns.
-    struct Shape {
-        std::size_t category = 0;
-        std::size_t athletes = 0;
-        std::size_t races = 0;
+    using AthleteColumn = Column<RankedAthlete>;
 
-        friend bool operator==(const Shape&, const Shape&) = default;
+    /// Who is in the category shown, by index.
+    struct Known {
+        std::string name;
+        std::size_t id = 0;
     };
 
     void reload();
-    [[nodiscard]] Shape shape() const;
-    void setOrder(std::vector<Standing> ranking);
-    [[nodiscard]] bool isAssumed(int row, std::size_t race) const;
-    [[nodiscard]] QString rankText(int row) const;
-    [[nodiscard]] QVariant toolTip(const QModelIndex& index) const;
-    [[nodiscard]] QVariant font(const QModelIndex& index) const;
-    void setTime(const ResultPlace& place, saRaceStruct result, const QString& text);
+    [[nodiscard]] std::vector<RankedAthlete> ranked();
+    void followAthletes(const srCategoryStruct_v3& category);
     [[nodiscard]] const srCategoryStruct_v3* categoryShown() const;
-    [[nodiscard]] const srAthleteStruct_v3& athleteAt(int row) const;
-    [[nodiscard]] std::size_t races() const;
-    [[nodiscard]] QString leadingText(int row, int column) const;
-    [[nodiscard]] QString raceText(int row, std::size_t race, int part, int role) const;
-    [[nodiscard]] QVariant raceToolTip(int row, std::size_t race) const;
-    void setLeading(int row, int column, const QString& text);
-    void setResultPart(int row, std::size_t race, int part, const QString& text);
+
+    [[nodiscard]] Columns columns();
+    [[nodiscard]] AthleteColumn
+    corrected(AthleteColumn column,
+              std::function<void(srAthleteStruct_v3&, const QString&)> correct);
+    void addRaceColumns(Columns& columns, std::size_t race, const QString& location);
+    [[nodiscard]] Cell timeCell(const saRaceStruct& result) const;
+    [[nodiscard]] Cell percentCell(const saRaceStruct& result) const;
+    [[nodiscard]] Cell inRace(const RankedAthlete& row, std::size_t race, Cell cell) const;
+    [[nodiscard]] bool isExpected() const;
+
+    void edit(const QString& what, const std::function<void(selectionracesStruct_v3&)>& change);
+    void takeTime(const ResultPlace& place, saRaceStruct result, const QString& typed);
+    void takePenalty(const ResultPlace& place, saRaceStruct result, const QString& typed);
 
     SelectionDocument& m_document;
     std::size_t m_category = 0;
-    std::vector<Standing> m_standings;
     RealRanking m_real;
-    Shape m_shape;
+    std::vector<Known> m_known;
+    std::size_t m_nextId = 0;
+    QStringList m_locations; ///< of the races that there are columns for
+    bool m_isOtherCategory = false;
     bool m_isKeepingOrder = false;
 };
 

@@ -1,6 +1,8 @@
 #include "desktop/selection/selection_window.h"
 
 #include "desktop/selection/athlete_dialog.h"
+#include "desktop/shell/tables/column_layout.h"
+#include "desktop/shell/tables/column_table.h"
 #include "desktop/shell/tables/table_text.h"
 #include "desktop/shell/workspace.h"
 #include "results/messages.h"
@@ -13,7 +15,6 @@
 #include <QInputDialog>
 #include <QMenuBar>
 #include <QPushButton>
-#include <QTableView>
 
 #include <numeric>
 
@@ -122,11 +123,11 @@ void SelectionWindow::askForAthlete() {
 }
 
 void SelectionWindow::editAthlete() {
-    const QModelIndex current = m_table->currentIndex();
-    if (!current.isValid())
+    const int place = m_table->currentPlace();
+    if (place < 0)
         return;
     const std::size_t category = m_model.category();
-    const std::size_t index = m_model.athleteOfRow(current.row());
+    const std::size_t index = m_model.row(place).standing.athlete;
     const srAthleteStruct_v3& before = m_document.shown().categories[category].athletes[index];
     AthleteDialog dialog(
         {before.name, before.year, before.club, before.preselected, before.bonuses},
@@ -145,11 +146,11 @@ void SelectionWindow::editAthlete() {
 }
 
 void SelectionWindow::removeAthlete() {
-    const QModelIndex current = m_table->currentIndex();
-    if (!current.isValid())
+    const int place = m_table->currentPlace();
+    if (place < 0)
         return;
     const std::size_t category = m_model.category();
-    const auto index = static_cast<std::ptrdiff_t>(m_model.athleteOfRow(current.row()));
+    const auto index = static_cast<std::ptrdiff_t>(m_model.row(place).standing.athlete);
     m_document.change(tr("athlete removed"), [&](selectionracesStruct_v3& document) {
         auto& athletes = document.categories[category].athletes;
         athletes.erase(athletes.begin() + index);
@@ -199,11 +200,11 @@ void SelectionWindow::makeZerosMissing() {
 
 void SelectionWindow::copyTable() {
     m_model.orderAnew();
-    QList<int> rows(m_model.rowCount());
+    const QAbstractItemModel& shown = *m_table->model();
+    QList<int> rows(shown.rowCount());
     std::iota(rows.begin(), rows.end(), 0);
-    QList<int> columns(m_model.columnCount());
-    std::iota(columns.begin(), columns.end(), 0);
-    QApplication::clipboard()->setText(tableAsText(m_model, rows, columns, clipboardTable()));
+    QApplication::clipboard()->setText(
+        tableAsText(shown, rows, shownColumns(*m_table), clipboardTable()));
 }
 
 } // namespace kavela::desktop

@@ -2,8 +2,7 @@
 
 #include "desktop/selection/athlete_dialog.h"
 #include "desktop/selection/why_panel.h"
-#include "desktop/shell/cell_delegate.h"
-#include "desktop/shell/edit_order.h"
+#include "desktop/shell/tables/column_table.h"
 #include "desktop/shell/theme.h"
 #include "desktop/shell/window_place.h"
 #include "desktop/shell/workspace.h"
@@ -15,7 +14,6 @@
 #include <QDate>
 #include <QDialogButtonBox>
 #include <QHBoxLayout>
-#include <QHeaderView>
 #include <QInputDialog>
 #include <QLabel>
 #include <QMenu>
@@ -24,7 +22,6 @@
 #include <QPushButton>
 #include <QSplitter>
 #include <QTabBar>
-#include <QTableView>
 
 #include <algorithm>
 
@@ -42,17 +39,9 @@ SelectionWindow::SelectionWindow(Workspace& workspace, Autosave autosave)
     : ToolWindow(workspace, &m_document, {"selection", tr("Selection races"), "kvsr"}),
       m_document(workspace, std::move(autosave)),
       m_model(m_document) {
-    m_table = new EditOrder<QTableView>;
-    m_table->setObjectName("ranking");
-    m_table->setModel(&m_model);
+    m_table = new ColumnTable(m_model, "ranking");
     m_table->setSelectionBehavior(QAbstractItemView::SelectItems);
-    m_table->setShowGrid(false);
-    m_table->setAlternatingRowColors(true);
-    m_table->setWordWrap(false);
-    m_table->verticalHeader()->hide();
-    m_table->verticalHeader()->setDefaultSectionSize(fontMetrics().height() + theme::Spacing);
-    m_table->horizontalHeader()->setHighlightSections(false);
-    m_table->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    m_table->addCommand(tr("Copy the table"), QKeySequence::Copy, [this] { copyTable(); });
     m_why = new WhyPanel(m_document, m_model);
     auto* split = new QSplitter;
     split->addWidget(m_table);
@@ -70,19 +59,10 @@ SelectionWindow::SelectionWindow(Workspace& workspace, Autosave autosave)
     setCentralWidget(page);
     makeMenus();
     connect(&m_document, &SelectionDocument::changed, this, &SelectionWindow::showDocument);
-    connect(&m_model, &RankingModel::refused, new CellDelegate(*m_table), &CellDelegate::refuse);
-    connect(m_table->selectionModel(), &QItemSelectionModel::currentChanged, this,
-            &SelectionWindow::showWhy);
+    connect(m_table, &ColumnTable::chosen, this, &SelectionWindow::showWhy);
+    connect(m_table, &ColumnTable::shownChanged, this, &SelectionWindow::showWhy);
     connect(m_table->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
             &SelectionWindow::leaveRow);
-    connect(&m_model, &QAbstractItemModel::modelAboutToBeReset, this, [this] {
-        const QModelIndex current = m_table->currentIndex();
-        m_currentName = current.siblingAtColumn(RankingModel::NameColumn).data().toString();
-        m_currentColumn = current.column();
-    });
-    connect(&m_model, &QAbstractItemModel::modelReset, this, &SelectionWindow::keepCurrent);
-    connect(&m_model, &QAbstractItemModel::layoutChanged, this, &SelectionWindow::showWhy);
-    connect(&m_model, &QAbstractItemModel::dataChanged, this, &SelectionWindow::showWhy);
     m_leaveRow.setSingleShot(true);
     connect(&m_leaveRow, &QTimer::timeout, this, [this] {
         if (!m_table->indexWidget(m_table->currentIndex()))
@@ -95,6 +75,7 @@ SelectionWindow::~SelectionWindow() {
     hide(); // an open cell would else hand its text to what is gone already
     qApp->disconnect(this);
     m_table->selectionModel()->disconnect(this);
+    m_table->disconnect(this);
     m_document.disconnect(this);
     m_model.disconnect(this);
 }
@@ -159,15 +140,6 @@ bool SelectionWindow::open(const QString& path) {
 
 void SelectionWindow::startNew(const QString& path, std::int64_t year) {
     m_document.startNew(path, year, this);
-}
-
-/// After rows or columns came or went the cursor stands at the same athlete.
-void SelectionWindow::keepCurrent() {
-    for (int row = 0; row < m_model.rowCount(); ++row)
-        if (m_model.index(row, RankingModel::NameColumn).data().toString() == m_currentName)
-            m_table->setCurrentIndex(
-                m_model.index(row, std::min(m_currentColumn, m_model.columnCount() - 1)));
-    showWhy();
 }
 
 /// Rows are ordered when one was left by a key at once; after a click not before it may have become
@@ -274,7 +246,7 @@ void SelectionWindow::fillBonuses() {
 }
 
 void SelectionWindow::showWhy() {
-    m_why->showRow(m_table->currentIndex().isValid() ? m_table->currentIndex().row() : -1);
+    m_why->showRow(m_table->currentPlace());
 }
 
 void SelectionWindow::showCategory(std::size_t category) {
@@ -324,9 +296,8 @@ void SelectionWindow::addAthlete(const NewAthlete& athlete) {
     });
     const auto added =
         static_cast<int>(m_document.shown().categories[category].athletes.size()) - 1;
-    m_table->setCurrentIndex(
-        m_model.index(m_model.rowOfAthlete(static_cast<std::size_t>(added)),
-                      RankingModel::LeadingColumns + int{RankingModel::TimeColumn}));
+    m_table->choose(m_model.placeOfAthlete(static_cast<std::size_t>(added)),
+                    RankingModel::LeadingColumns + int{RankingModel::TimeColumn});
 }
 
 /// A list dropped on the table brings athletes, split files bring results, selections are opened.

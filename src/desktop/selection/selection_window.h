@@ -11,10 +11,10 @@ class QComboBox;
 class QLabel;
 class QPushButton;
 class QTabBar;
-class QTableView;
 
 namespace kavela::desktop {
 
+class ColumnTable;
 class WhyPanel;
 
 /// Selection races: per category the ranking, live, with the reasons for it; races, athletes and
@@ -33,7 +33,7 @@ public:
 
     [[nodiscard]] SelectionDocument& document() { return m_document; }
     [[nodiscard]] RankingModel& model() { return m_model; }
-    [[nodiscard]] QTableView& table() const { return *m_table; }
+    [[nodiscard]] ColumnTable& table() const { return *m_table; }
 
     void showCategory(std::size_t category);
     void addRace(const QString& location);
@@ -63,7 +63,6 @@ private:
     void tellImported(const ListImport& import, bool isLatin1);
     void lookAndEnter(const QString& path, std::size_t race, FoundRuns found);
     [[nodiscard]] bool askForCategory();
-    void keepCurrent();
     void leaveRow();
     void watchFocus();
     [[nodiscard]] std::optional<std::size_t> askForRace(const QString& title);
@@ -87,11 +86,9 @@ private:
     QPushButton* m_whatIf = nullptr;
     QLabel* m_title = nullptr;
     QLabel* m_hint = nullptr;
-    QTableView* m_table = nullptr;
+    ColumnTable* m_table = nullptr;
     WhyPanel* m_why = nullptr;
     QTimer m_leaveRow;
-    QString m_currentName; ///< of the athlete in the current row, over the model's resets
-    int m_currentColumn = 0;
 };
 
 } // namespace kavela::desktop

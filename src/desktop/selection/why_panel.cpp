@@ -3,12 +3,11 @@
 #include "desktop/selection/ranking_model.h"
 #include "desktop/selection/selection_document.h"
 #include "desktop/shell/shown_number.h"
+#include "desktop/shell/tables/column_table.h"
 #include "desktop/shell/theme.h"
 #include "results/selection_whatif.h"
 
-#include <QHeaderView>
 #include <QLabel>
-#include <QTableWidget>
 #include <QVBoxLayout>
 
 namespace kavela::desktop {
@@ -50,20 +49,14 @@ WhyPanel::WhyPanel(const SelectionDocument& document, const RankingModel& model,
       m_model(model),
       m_name(plainLabel()),
       m_real(plainLabel()),
-      m_parts(new QTableWidget(0, 3)),
+      m_scores(columns()),
+      m_parts(new ColumnTable(m_scores, "")),
       m_sum(plainLabel()),
       m_wayUp(plainLabel()) {
     m_name->setFont(theme::titleFont(*this));
     m_real->setObjectName("real");
-    m_parts->setHorizontalHeaderLabels({tr("Result"), tr("Percent"), tr("Score")});
-    m_parts->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    m_parts->setSelectionMode(QAbstractItemView::NoSelection);
-    m_parts->setFocusPolicy(Qt::NoFocus);
-    m_parts->setShowGrid(false);
-    m_parts->verticalHeader()->hide();
-    m_parts->verticalHeader()->setDefaultSectionSize(fontMetrics().height() + theme::Spacing);
-    m_parts->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
-    m_parts->horizontalHeader()->setSectionResizeMode(0, QHeaderView::Stretch);
+    m_parts->setOnlyShown();
+    m_parts->stretch({0});
     m_wayUp->setForegroundRole(QPalette::PlaceholderText);
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(theme::LargeSpacing, 0, 0, 0);
@@ -77,21 +70,26 @@ WhyPanel::WhyPanel(const SelectionDocument& document, const RankingModel& model,
     showRow(-1);
 }
 
-void WhyPanel::addLine(const QString& what, const QString& percent, const QString& fate,
-                       bool isCounted) {
-    const int row = m_parts->rowCount();
-    m_parts->insertRow(row);
-    const QStringList texts{what, percent, fate};
-    for (int column = 0; column < texts.size(); ++column) {
-        auto* item = new QTableWidgetItem(texts[column]);
-        item->setToolTip(texts[column]); // the name of a race may be cut
-        QFont font = item->font();
-        font.setStrikeOut(!isCounted && column == 1);
-        item->setFont(font);
-        if (column == 1)
-            item->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
-        m_parts->setItem(row, column, item);
-    }
+/// The name of a race may be cut.
+std::vector<Column<WhyPanel::Part>> WhyPanel::columns() {
+    const auto percent = [](const Part& part) {
+        const double value = part.score.percentage;
+        const bool isNone = value == MissingPercentage;
+        const QString text = isNone ? tr("no result") : hundredths(value);
+        return Cell{.text = text,
+                    .number = isNone ? std::nullopt : std::optional(value),
+                    .tip = text,
+                    .isStruck = part.score.fate != ResultFate::Counted};
+    };
+    const auto what = [](const Part& part) { return Cell{.text = part.what, .tip = part.what}; };
+    const auto fate = [](const Part& part) {
+        return Cell{.text = fateText(part.score.fate), .tip = fateText(part.score.fate)};
+    };
+    std::vector<Column<Part>> columns;
+    columns.push_back({.title = tr("Result"), .show = what});
+    columns.push_back({.title = tr("Percent"), .kind = ColumnKind::Number, .show = percent});
+    columns.push_back({.title = tr("Score"), .show = fate});
+    return columns;
 }
 
 void WhyPanel::showRow(int row) {
@@ -100,28 +98,21 @@ void WhyPanel::showRow(int row) {
     m_sum->setVisible(isShown);
     m_wayUp->setVisible(isShown);
     m_real->setVisible(false);
-    m_parts->setRowCount(0);
     if (!isShown) {
         m_name->setText(tr("Select an athlete to see where the score comes from."));
         return;
     }
-    const Standing& standing = m_model.standingOfRow(row);
-    m_name->setText(tr("%1. %2")
-                        .arg(standing.rank)
-                        .arg(m_model.index(row, RankingModel::NameColumn).data().toString()));
+    const RankedAthlete& athlete = m_model.row(row);
+    const Standing& standing = athlete.standing;
+    m_name->setText(tr("%1. %2").arg(standing.rank).arg(qtText(athlete.record.name)));
     showReal(row);
     const auto& races = m_document.shown().races;
-    for (std::size_t race = 0; race < standing.score.races.size(); ++race) {
-        const ScorePart& part = standing.score.races[race];
-        const bool isNone = part.percentage == MissingPercentage;
-        addLine(qtText(races[race].location),
-                isNone ? tr("no result") : hundredths(part.percentage), fateText(part.fate),
-                part.fate == ResultFate::Counted);
-    }
+    std::vector<Part> parts;
+    for (std::size_t race = 0; race < standing.score.races.size(); ++race)
+        parts.push_back({qtText(races[race].location), standing.score.races[race]});
     if (standing.score.bonus)
-        addLine(tr("Bonus"), hundredths(standing.score.bonus->percentage),
-                fateText(standing.score.bonus->fate),
-                standing.score.bonus->fate == ResultFate::Counted);
+        parts.push_back({tr("Bonus"), *standing.score.bonus});
+    m_scores.show(std::move(parts), true);
     m_sum->setText(tr("Score: %1 / 3 = %2")
                        .arg(hundredths(standing.score.sum), hundredths(standing.score.score)));
     showWayUp(row);
@@ -129,10 +120,10 @@ void WhyPanel::showRow(int row) {
 
 /// What trying changed: place and score as they are, beside what they would be.
 void WhyPanel::showReal(int row) {
-    const auto real = m_model.realStandingOfRow(row);
+    const std::optional<Standing>& real = m_model.row(row).real;
     if (!real)
         return;
-    const Standing& now = m_model.standingOfRow(row);
+    const Standing& now = m_model.row(row).standing;
     m_real->setText(tr("Place: was %1, now %2. Score: was %3, now %4.")
                         .arg(real->rank)
                         .arg(now.rank)
@@ -142,7 +133,7 @@ void WhyPanel::showReal(int row) {
 
 /// Only the official times make the score, so only they tell what was missing.
 void WhyPanel::showWayUp(int row) {
-    const Standing& standing = m_model.standingOfRow(row);
+    const Standing& standing = m_model.row(row).standing;
     QStringList lines;
     if (standing.rank > 1 && m_document.times() == SelectionTimes::Official)
         for (std::size_t race = 0; race < m_document.shown().races.size(); ++race) {

@@ -1,12 +1,15 @@
 #pragma once
 
+#include "desktop/shell/tables/column_model.h"
+#include "results/selection_ranking.h"
+
 #include <QWidget>
 
 class QLabel;
-class QTableWidget;
 
 namespace kavela::desktop {
 
+class ColumnTable;
 class RankingModel;
 class SelectionDocument;
 
@@ -24,7 +27,13 @@ public:
     void showRow(int row);
 
 private:
-    void addLine(const QString& what, const QString& percent, const QString& fate, bool isCounted);
+    /// What of a result went into the score.
+    struct Part {
+        QString what;
+        ScorePart score;
+    };
+
+    [[nodiscard]] static std::vector<Column<Part>> columns();
     void showReal(int row);
     void showWayUp(int row);
 
@@ -32,7 +41,8 @@ private:
     const RankingModel& m_model;
     QLabel* m_name;
     QLabel* m_real;
-    QTableWidget* m_parts;
+    ColumnModel<Part> m_scores;
+    ColumnTable* m_parts;
     QLabel* m_sum;
     QLabel* m_wayUp;
 };

@@ -2,57 +2,61 @@
 
 #include "desktop/sessions/session_texts.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace kavela::desktop {
 
-void GridModel::show(SessionGrid grid) {
-    beginResetModel();
-    m_grid = std::move(grid);
-    endResetModel();
+namespace {
+
+QString titleOf(const SessionColumn& column) {
+    const QString title = QString::fromStdString(column.title);
+    return column.unit.empty() ? title : title + "\n(" + QString::fromStdString(column.unit) + ')';
 }
 
-int GridModel::rowAt(double moment) const {
+/// Rows from before may have fewer cells.
+Column<SessionGrid::Row, double> columnOf(const SessionGrid& grid, std::size_t place) {
+    const auto isText = [place](const SessionGrid::Row& row) {
+        return std::holds_alternative<std::string>(row.cells[place]);
+    };
+    Column<SessionGrid::Row, double> column{.title = titleOf(grid.columns[place])};
+    column.kind = std::ranges::any_of(grid.rows, isText) ? ColumnKind::Text : ColumnKind::Number;
+    column.show = [place, decimals = grid.columns[place].decimals](const SessionGrid::Row& row) {
+        if (place >= row.cells.size())
+            return Cell();
+        const double* const number = std::get_if<double>(&row.cells[place]);
+        return Cell{.text = cellText(row.cells[place], decimals),
+                    .number = number ? std::optional(*number) : std::nullopt};
+    };
+    return column;
+}
+
+} // namespace
+
+GridModel::GridModel(QObject* parent)
+    : ColumnModel(
+          {}, [](const SessionGrid::Row& row) { return row.moment; }, parent) {}
+
+void GridModel::show(SessionGrid grid) {
+    Columns columns;
+    for (std::size_t place = 0; place < grid.columns.size(); ++place)
+        columns.push_back(columnOf(grid, place));
+    m_grid = std::move(grid);
+    setColumns(std::move(columns));
+    ColumnModel::show(m_grid.rows);
+}
+
+int GridModel::placeAtMoment(double moment) const {
     int found = -1;
     double latest = -HUGE_VAL;
-    for (int row = 0; row < rowCount(); ++row) {
-        const double begin = m_grid.rows[static_cast<std::size_t>(row)].moment;
+    for (std::size_t place = 0; place < m_grid.rows.size(); ++place) {
+        const double begin = m_grid.rows[place].moment;
         if (begin > moment || begin < latest)
             continue;
         latest = begin;
-        found = row;
+        found = static_cast<int>(place);
     }
     return found;
-}
-
-int GridModel::rowCount(const QModelIndex& parent) const {
-    return parent.isValid() ? 0 : static_cast<int>(m_grid.rows.size());
-}
-
-int GridModel::columnCount(const QModelIndex& parent) const {
-    return parent.isValid() ? 0 : static_cast<int>(m_grid.columns.size());
-}
-
-QVariant GridModel::data(const QModelIndex& index, int role) const {
-    if (!index.isValid())
-        return {};
-    const auto column = static_cast<std::size_t>(index.column());
-    const Cell& cell = m_grid.rows[static_cast<std::size_t>(index.row())].cells[column];
-    if (role == Qt::DisplayRole)
-        return cellText(cell, m_grid.columns[column].decimals);
-    if (role == Qt::TextAlignmentRole)
-        return QVariant(
-            Qt::AlignVCenter |
-            (std::holds_alternative<std::string>(cell) ? Qt::AlignHCenter : Qt::AlignRight));
-    return {};
-}
-
-QVariant GridModel::headerData(int section, Qt::Orientation orientation, int role) const {
-    if (orientation != Qt::Horizontal || role != Qt::DisplayRole)
-        return QAbstractTableModel::headerData(section, orientation, role);
-    const SessionColumn& column = m_grid.columns[static_cast<std::size_t>(section)];
-    const QString title = QString::fromStdString(column.title);
-    return column.unit.empty() ? title : title + "\n(" + QString::fromStdString(column.unit) + ')';
 }
 
 } // namespace kavela::desktop

@@ -2,14 +2,14 @@
 
 #include "desktop/charts/sensor_series.h"
 #include "desktop/shell/number_box.h"
+#include "desktop/shell/tables/column_model.h"
+#include "desktop/shell/tables/column_table.h"
 #include "desktop/shell/theme.h"
 
 #include <QDialogButtonBox>
 #include <QFormLayout>
-#include <QHeaderView>
 #include <QLabel>
 #include <QPushButton>
-#include <QTableWidget>
 
 #include <algorithm>
 
@@ -19,22 +19,21 @@ namespace {
 
 constexpr double FarthestSeconds = 100000;
 
-QTableWidget* refusedTable(const std::vector<RefusedLine>& refused) {
-    auto* table = new QTableWidget(static_cast<int>(refused.size()), 2);
-    table->setObjectName("refused");
-    table->setHorizontalHeaderLabels(
-        {PowerMeterDialog::tr("Line"), PowerMeterDialog::tr("Why it is refused")});
-    table->horizontalHeader()->setStretchLastSection(true);
-    table->verticalHeader()->hide();
-    table->verticalHeader()->setDefaultSectionSize(table->fontMetrics().height() +
-                                                   theme::SmallSpacing);
-    table->setColumnWidth(0, 60);
-    table->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    for (int row = 0; row < table->rowCount(); ++row) {
-        const RefusedLine& line = refused[static_cast<std::size_t>(row)];
-        table->setItem(row, 0, new QTableWidgetItem(QString::number(line.line)));
-        table->setItem(row, 1, new QTableWidgetItem(QString::fromStdString(line.reason)));
-    }
+/// The model lives as long as its table.
+ColumnTable* refusedTable(const std::vector<RefusedLine>& refused) {
+    const auto number = [](const RefusedLine& line) {
+        return Cell{.text = QString::number(line.line), .number = static_cast<double>(line.line)};
+    };
+    std::vector<Column<RefusedLine>> columns;
+    columns.push_back({.title = PowerMeterDialog::tr("Line"), .show = number});
+    columns.push_back(textColumn<RefusedLine>(
+        PowerMeterDialog::tr("Why it is refused"),
+        [](const RefusedLine& line) { return QString::fromStdString(line.reason); }));
+    auto* const model = new ColumnModel<RefusedLine>(std::move(columns));
+    model->show(refused, true);
+    auto* const table = new ColumnTable(*model, "refused");
+    model->setParent(table);
+    table->stretch({1});
     return table;
 }
 

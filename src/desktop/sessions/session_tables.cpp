@@ -3,16 +3,16 @@
 #include "desktop/sessions/balance_view.h"
 #include "desktop/sessions/grid_model.h"
 #include "desktop/shell/number_box.h"
+#include "desktop/shell/tables/column_table.h"
 #include "desktop/shell/theme.h"
 
 #include <QHBoxLayout>
-#include <QHeaderView>
 #include <QLabel>
 #include <QScopedValueRollback>
-#include <QSignalBlocker>
 #include <QTabBar>
-#include <QTableView>
 #include <QVBoxLayout>
+
+#include <algorithm>
 
 namespace kavela::desktop {
 
@@ -20,13 +20,6 @@ namespace {
 
 constexpr int UsualStep = 50;     // m
 constexpr int LongestStep = 5000; // m
-
-/// Keys that are held, as in Shift and an arrow, select nothing more here.
-void follow(QTableView& table, const QModelIndex& index) {
-    table.selectionModel()->setCurrentIndex(index, QItemSelectionModel::ClearAndSelect |
-                                                       QItemSelectionModel::Rows);
-    table.scrollTo(index);
-}
 
 } // namespace
 
@@ -46,16 +39,8 @@ SessionTables::SessionTables(QWidget* parent)
     addTab(m_balance, tr("Left and right"));
 }
 
-QTableView* SessionTables::addTable(const char* name, GridModel* model) {
-    auto* view = new QTableView;
-    view->setObjectName(name);
-    view->setModel(model);
-    view->setSelectionBehavior(QAbstractItemView::SelectRows);
-    view->setWordWrap(false);
-    view->verticalHeader()->hide();
-    view->verticalHeader()->setDefaultSectionSize(fontMetrics().height() + theme::SmallSpacing);
-    view->horizontalHeader()->setHighlightSections(false);
-    view->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
+ColumnTable* SessionTables::addTable(const char* name, GridModel* model) {
+    auto* view = new ColumnTable(*model, name);
     connect(view, &QTableView::clicked, this,
             [this, view](const QModelIndex& index) { choose(*view, index); });
     connect(view->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
@@ -68,10 +53,10 @@ QTableView* SessionTables::addTable(const char* name, GridModel* model) {
 }
 
 /// The row stays as it was chosen: another one may have the same moment, or one beside it.
-void SessionTables::choose(const QTableView& table, const QModelIndex& index) {
-    const auto& model = static_cast<const GridModel&>(*table.model());
+void SessionTables::choose(const ColumnTable& table, const QModelIndex& index) {
+    const auto page = static_cast<Page>(std::ranges::find(m_views, &table) - m_views.begin());
     const QScopedValueRollback choosing(m_choosing, &table);
-    emit momentChosen(model.grid().rows[static_cast<std::size_t>(index.row())].moment);
+    emit momentChosen(modelOf(page)->key(table.placeAt(index)));
 }
 
 QWidget* SessionTables::makeMetersPage() {
@@ -101,7 +86,7 @@ QWidget* SessionTables::makeMetersPage() {
 }
 
 void SessionTables::show(const EditedSession& session, const SessionFigures& figures) {
-    m_isFollowing = true;
+    const QScopedValueRollback following(m_isFollowing, true);
     m_session = session;
     m_figures = figures;
     m_strokes->show(strokeGrid(session, figures));
@@ -109,12 +94,12 @@ void SessionTables::show(const EditedSession& session, const SessionFigures& fig
     m_segments->show(segmentGrid(figures));
     m_balance->show(figures.sides, session.isBowKnown);
     showMeters();
-    m_isFollowing = false;
     setTabText(StrokePage, tr("Strokes (%1)").arg(figures.strokes.size()));
     setTabText(TurnPage, tr("Turns (%1)").arg(figures.turns.size()));
 }
 
 void SessionTables::showMeters() {
+    const QScopedValueRollback following(m_isFollowing, true);
     m_metersBegin->setText(m_session.marks.size() >= 2 ? tr("from the first mark")
                                                        : tr("from the start"));
     m_meters->show(metersGrid(metersOf(m_session, m_figures, m_step->value())));
@@ -125,44 +110,46 @@ std::vector<std::size_t> SessionTables::selectedEntries() const {
     const SessionGrid* const grid = gridOf(static_cast<Page>(currentIndex()));
     if (!grid)
         return entries;
-    const QTableView* const table = view(static_cast<Page>(currentIndex()));
-    for (const QModelIndex& index : table->selectionModel()->selectedRows())
-        if (const auto entry = grid->rows[static_cast<std::size_t>(index.row())].entry)
+    for (const int place : view(static_cast<Page>(currentIndex()))->selectedPlaces())
+        if (const auto entry = grid->rows[static_cast<std::size_t>(place)].entry)
             entries.push_back(*entry);
     return entries;
 }
 
-const SessionGrid* SessionTables::gridOf(Page page) const {
+GridModel* SessionTables::modelOf(Page page) const {
     switch (page) {
     case StrokePage:
-        return &m_strokes->grid();
+        return m_strokes;
     case TurnPage:
-        return &m_turns->grid();
+        return m_turns;
     case SegmentPage:
-        return &m_segments->grid();
+        return m_segments;
     case MetersPage:
-        return &m_meters->grid();
+        return m_meters;
     case BalancePage:
-        return nullptr;
+        break;
     }
     return nullptr;
 }
 
-QTableView* SessionTables::view(Page page) const {
+const SessionGrid* SessionTables::gridOf(Page page) const {
+    const GridModel* const model = modelOf(page);
+    return model ? &model->grid() : nullptr;
+}
+
+ColumnTable* SessionTables::view(Page page) const {
     return page == BalancePage ? nullptr : m_views[page];
 }
 
 void SessionTables::showCursorAt(double moment) {
-    m_isFollowing = true;
+    const QScopedValueRollback following(m_isFollowing, true);
     for (const Page page : {StrokePage, TurnPage, SegmentPage, MetersPage}) {
-        QTableView* const table = view(page);
-        const auto* const model = static_cast<const GridModel*>(table->model());
+        ColumnTable* const table = view(page);
         const auto stroke = page == StrokePage ? strokeAt(m_figures, moment) : std::nullopt;
-        const int row = stroke ? static_cast<int>(*stroke) : model->rowAt(moment);
-        if (table != m_choosing && row >= 0 && table->currentIndex().row() != row)
-            follow(*table, model->index(row, 0));
+        const int place = stroke ? static_cast<int>(*stroke) : modelOf(page)->placeAtMoment(moment);
+        if (table != m_choosing && place >= 0 && table->currentPlace() != place)
+            table->choose(place, 0);
     }
-    m_isFollowing = false;
 }
 
 } // namespace kavela::desktop

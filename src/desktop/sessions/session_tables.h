@@ -5,12 +5,12 @@
 #include <QTabWidget>
 
 class QLabel;
-class QTableView;
 
 namespace kavela::desktop {
 
 class WholeBox;
 class BalanceView;
+class ColumnTable;
 class GridModel;
 
 /// The tables of a session: strokes, turns, segments, values per distance mark, left and right. A
@@ -30,7 +30,7 @@ public:
     [[nodiscard]] std::vector<std::size_t> selectedEntries() const;
     /// The table of a page; null for the balance.
     [[nodiscard]] const SessionGrid* gridOf(Page page) const;
-    [[nodiscard]] QTableView* view(Page page) const;
+    [[nodiscard]] ColumnTable* view(Page page) const;
 
 public slots:
     void showCursorAt(double moment);
@@ -39,8 +39,9 @@ signals:
     void momentChosen(double moment);
 
 private:
-    QTableView* addTable(const char* name, GridModel* model);
-    void choose(const QTableView& table, const QModelIndex& index);
+    ColumnTable* addTable(const char* name, GridModel* model);
+    void choose(const ColumnTable& table, const QModelIndex& index);
+    [[nodiscard]] GridModel* modelOf(Page page) const;
     QWidget* makeMetersPage();
     void showMeters();
 
@@ -48,14 +49,14 @@ private:
     GridModel* m_turns;
     GridModel* m_segments;
     GridModel* m_meters;
-    std::vector<QTableView*> m_views; ///< by page
+    std::vector<ColumnTable*> m_views; ///< by page
     WholeBox* m_step = nullptr;
     QLabel* m_metersBegin = nullptr; ///< where the distance is counted from
     BalanceView* m_balance;
     EditedSession m_session;
     SessionFigures m_figures;
-    const QTableView* m_choosing = nullptr; ///< a row of it is being chosen
-    bool m_isFollowing = false;             ///< the cursor moves the rows, not the other way round
+    const ColumnTable* m_choosing = nullptr; ///< a row of it is being chosen
+    bool m_isFollowing = false;              ///< the cursor moves the rows, not the other way round
 };
 
 } // namespace kavela::desktop

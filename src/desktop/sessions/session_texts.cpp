@@ -32,7 +32,7 @@ QString sideText(std::int64_t hand) {
     return hand == RightHand ? tr("right") : tr("side unknown");
 }
 
-QString cellText(const Cell& cell, int decimals) {
+QString cellText(const kavela::Cell& cell, int decimals) {
     if (const std::string* const text = std::get_if<std::string>(&cell))
         return QString::fromStdString(*text);
     const double* const number = std::get_if<double>(&cell);

@@ -16,7 +16,7 @@ inline constexpr char16_t Dash = u'–';
 [[nodiscard]] QString sideText(std::int64_t hand);
 
 /// A cell of a table as the screen shows it.
-[[nodiscard]] QString cellText(const Cell& cell, int decimals);
+[[nodiscard]] QString cellText(const kavela::Cell& cell, int decimals);
 
 /// "Ann Lee · Home water · 2026-05-08 · Training": what is known of a session, on one line.
 [[nodiscard]] QString sessionTitle(const infosessionSmart_v3& info);

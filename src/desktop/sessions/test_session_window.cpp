@@ -6,6 +6,7 @@
 #include "common/safe_file.h"
 #include "desktop/charts/series_chart.h"
 #include "desktop/sessions/grid_model.h"
+#include "desktop/shell/tables/column_table.h"
 #include "desktop/shell/theme.h"
 #include "desktop/shell/window_place.h"
 #include "desktop/shell/workspace.h"
@@ -14,13 +15,11 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QHBoxLayout>
-#include <QHeaderView>
 #include <QLabel>
 #include <QListWidget>
 #include <QMenu>
 #include <QSignalBlocker>
 #include <QSplitter>
-#include <QTableView>
 #include <QVBoxLayout>
 
 namespace kavela::desktop {
@@ -95,13 +94,7 @@ void TestSessionWindow::makeParts() {
     m_kinds->setObjectName("kinds");
     m_chart = new SeriesChart;
     m_model = new GridModel(this);
-    m_view = new QTableView;
-    m_view->setModel(m_model);
-    m_view->setSelectionBehavior(QAbstractItemView::SelectRows);
-    m_view->verticalHeader()->hide();
-    m_view->verticalHeader()->setDefaultSectionSize(fontMetrics().height() + theme::SmallSpacing);
-    m_view->horizontalHeader()->setHighlightSections(false);
-    m_view->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    m_view = new ColumnTable(*m_model, "");
     auto* kinds = new QHBoxLayout;
     auto* label = new QLabel(tr("Values"));
     label->setBuddy(m_kinds);
@@ -131,16 +124,14 @@ void TestSessionWindow::makeParts() {
     setCentralWidget(central);
     connect(m_attempts, &QListWidget::currentRowChanged, this, &TestSessionWindow::showKinds);
     connect(m_kinds, &QComboBox::currentIndexChanged, this, &TestSessionWindow::showData);
-    connect(m_view->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
-            [this](const QModelIndex& index) {
-                if (index.isValid())
-                    m_chart->showCursorAt(
-                        m_model->grid().rows[static_cast<std::size_t>(index.row())].moment);
-            });
+    connect(m_view, &ColumnTable::chosen, this, [this] {
+        if (const int place = m_view->currentPlace(); place >= 0)
+            m_chart->showCursorAt(m_model->key(place));
+    });
     connect(m_chart, &SeriesChart::pointActivated, this, [this](int series, int index) {
         const double time =
             m_chart->content().series[static_cast<std::size_t>(series)].points[index].x();
-        m_view->selectRow(m_model->rowAt(time));
+        m_view->choose(m_model->placeAtMoment(time));
     });
 }
 

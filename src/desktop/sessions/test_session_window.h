@@ -7,10 +7,10 @@
 class QComboBox;
 class QLabel;
 class QListWidget;
-class QTableView;
 
 namespace kavela::desktop {
 
+class ColumnTable;
 class GridModel;
 class SeriesChart;
 
@@ -61,7 +61,7 @@ private:
     QComboBox* m_kinds = nullptr; ///< every kind, all of them, and the sprint data
     SeriesChart* m_chart = nullptr;
     GridModel* m_model = nullptr;
-    QTableView* m_view = nullptr;
+    ColumnTable* m_view = nullptr;
 };
 
 } // namespace kavela::desktop

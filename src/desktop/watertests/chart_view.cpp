@@ -1,6 +1,7 @@
 #include "desktop/watertests/chart_view.h"
 
 #include "desktop/shell/shown_number.h"
+#include "desktop/shell/tables/column_table.h"
 #include "desktop/shell/theme.h"
 #include "desktop/watertests/chart_card.h"
 #include "desktop/watertests/eight_texts.h"
@@ -11,7 +12,6 @@
 #include <QLabel>
 #include <QScrollArea>
 #include <QTabBar>
-#include <QTableWidget>
 
 #include <algorithm>
 #include <limits>
@@ -37,6 +37,29 @@ QString headingOf(const TestList& tests) {
                           : kindText(first.kind()));
 }
 
+/// The run of an eight, split by split.
+std::vector<Column<ShownTest>> scoreColumns() {
+    std::vector<Column<ShownTest>> columns;
+    columns.push_back(textColumn<ShownTest>(ChartView::tr("Test"),
+                                            [](const ShownTest& shown) { return shown.name; }));
+    const auto add = [&](const QString& title, std::function<QString(const datafor8&)> text) {
+        columns.push_back({.title = title,
+                           .kind = ColumnKind::Number,
+                           .show = [text = std::move(text)](const ShownTest& shown) {
+                               return Cell{.text = text(shown.test->eight()->run)};
+                           }});
+    };
+    for (std::size_t split = 0; split < 5; ++split)
+        add(ChartView::tr("Split %1 (s)").arg(split + 1), [split](const datafor8& run) {
+            const auto splits = splitsOf(run);
+            return split < splits.size() ? hundredthsOrDash(splits[split]) : QString();
+        });
+    add(ChartView::tr("Total (s)"), [](const datafor8& run) { return totalText(run); });
+    add(ChartView::tr("Standard deviation (s)"),
+        [](const datafor8& run) { return deviationText(run); });
+    return columns;
+}
+
 } // namespace
 
 ChartView::ChartView(QWidget* parent)
@@ -44,7 +67,8 @@ ChartView::ChartView(QWidget* parent)
       m_groups(new QTabBar),
       m_heading(new QLabel),
       m_note(new QLabel),
-      m_scores(new QTableWidget),
+      m_runs(scoreColumns()),
+      m_scores(new ColumnTable(m_runs, "scores")),
       m_scroll(new QScrollArea) {
     m_groups->setObjectName("groups");
     m_groups->setExpanding(false);
@@ -57,12 +81,8 @@ ChartView::ChartView(QWidget* parent)
     m_note->setObjectName("note");
     m_note->setWordWrap(true);
     m_note->setForegroundRole(QPalette::PlaceholderText);
-    m_scores->setObjectName("scores");
-    m_scores->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    m_scores->setSelectionMode(QAbstractItemView::NoSelection);
-    m_scores->setFocusPolicy(Qt::NoFocus);
-    m_scores->verticalHeader()->hide();
-    m_scores->horizontalHeader()->setHighlightSections(false);
+    m_scores->setOnlyShown();
+    m_scores->stretch({0});
     m_scores->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     layOut();
     connect(m_groups, &QTabBar::currentChanged, this, [this] {
@@ -161,33 +181,10 @@ void ChartView::fill() {
 }
 
 void ChartView::showScores() {
-    QStringList titles{tr("Test")};
-    for (int split = 1; split <= 5; ++split)
-        titles.append(tr("Split %1 (s)").arg(split));
-    titles << tr("Total (s)") << tr("Standard deviation (s)");
-    m_scores->setColumnCount(static_cast<int>(titles.size()));
-    m_scores->setHorizontalHeaderLabels(titles);
-    m_scores->setRowCount(static_cast<int>(m_tests.size()));
-    int row = 0;
-    for (const ShownTest& shown : m_tests) {
-        const datafor8& run = shown.test->eight()->run;
-        QStringList cells{shown.name};
-        for (const double split : splitsOf(run))
-            cells.append(hundredthsOrDash(split));
-        cells << totalText(run) << deviationText(run);
-        for (int column = 0; column < cells.size(); ++column) {
-            auto* item = new QTableWidgetItem(cells[column]);
-            if (column > 0)
-                item->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
-            m_scores->setItem(row, column, item);
-        }
-        ++row;
-    }
-    m_scores->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
-    m_scores->horizontalHeader()->setSectionResizeMode(0, QHeaderView::Stretch);
-    m_scores->verticalHeader()->setDefaultSectionSize(fontMetrics().height() + theme::Spacing);
+    m_runs.show(m_tests);
+    const int rows = std::min(m_runs.rowCount(), 8);
     m_scores->setFixedHeight(m_scores->horizontalHeader()->sizeHint().height() +
-                             std::min(row, 8) * m_scores->verticalHeader()->defaultSectionSize() +
+                             rows * m_scores->verticalHeader()->defaultSectionSize() +
                              2 * m_scores->frameWidth());
 }
 

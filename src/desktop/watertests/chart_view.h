@@ -1,5 +1,6 @@
 #pragma once
 
+#include "desktop/shell/tables/column_model.h"
 #include "desktop/watertests/test_charts.h"
 
 #include <QWidget>
@@ -8,11 +9,11 @@ class QGridLayout;
 class QLabel;
 class QScrollArea;
 class QTabBar;
-class QTableWidget;
 
 namespace kavela::desktop {
 
 class ChartCard;
+class ColumnTable;
 
 /// The charts of the chosen test, with the ticked tests of its kind laid over it.
 class ChartView : public QWidget {
@@ -40,7 +41,8 @@ private:
     QTabBar* m_groups;
     QLabel* m_heading;
     QLabel* m_note;
-    QTableWidget* m_scores;
+    ColumnModel<ShownTest> m_runs;
+    ColumnTable* m_scores;
     QScrollArea* m_scroll;
     QGridLayout* m_grid;
     std::vector<ChartCard*> m_cards;

@@ -1,14 +1,15 @@
 #include "desktop/planning/plan/plan_view.h"
 
-#include "desktop/planning/plan/totals_table.h"
 #include "desktop/planning/plan/week_form.h"
 #include "desktop/planning/plan/year_strip.h"
 #include "desktop/shell/refused_entry.h"
+#include "desktop/shell/tables/column_table.h"
 #include "desktop/shell/theme.h"
 #include "planning/calendar_day.h"
 #include "planning/weeks.h"
 
 #include <QComboBox>
+#include <QHeaderView>
 #include <QLabel>
 #include <QScrollArea>
 #include <QSplitter>
@@ -42,7 +43,7 @@ PlanView::PlanView(PlanningDocument& document, QWidget* parent)
       m_strip(new YearStrip),
       m_grid(new WeekGrid),
       m_form(new WeekForm),
-      m_totals(new TotalsTable),
+      m_totals(totalsColumns(typedTotals())),
       m_scope(new QComboBox),
       m_empty(new QLabel) {
     makeParts();
@@ -93,6 +94,9 @@ QWidget* PlanView::makeTotals() {
     m_scope->setObjectName("scope");
     m_scope->addItems({tr("Totals of the week"), tr("Totals of the chosen weeks"),
                        tr("Totals of the mesocycle"), tr("Totals of the season")});
+    auto* table = new ColumnTable(m_totals, "");
+    table->verticalHeader()->setDefaultSectionSize(fontMetrics().height() + theme::SmallSpacing);
+    table->stretch({static_cast<int>(TotalsColumn::Category)});
     auto* part = new QWidget;
     auto* column = new QVBoxLayout(part);
     column->setContentsMargins(0, 0, 0, 0);
@@ -101,7 +105,7 @@ QWidget* PlanView::makeTotals() {
     head->addWidget(m_scope);
     head->addStretch(1);
     column->addLayout(head);
-    column->addWidget(m_totals, 1);
+    column->addWidget(table, 1);
     return part;
 }
 
@@ -121,20 +125,22 @@ void PlanView::connectParts() {
                 });
             });
     connect(m_scope, &QComboBox::currentIndexChanged, this, &PlanView::showTotals);
-    connect(m_totals, &TotalsTable::sessionsTyped, this,
+}
+
+TypedTotals PlanView::typedTotals() {
+    return {[this] { return m_scope->currentIndex() == OfWeek; },
             [this](std::size_t category, std::int64_t sessions) {
                 editWeek(tr("planned sessions"), [=](microsplanning_v5& week) {
                     week.total.resize(std::max(week.total.size(), category + 1));
                     week.total[category] = sessions;
                 });
-            });
-    connect(m_totals, &TotalsTable::quantityTyped, this,
+            },
             [this](std::size_t category, double quantity) {
                 editWeek(tr("planned quantity"), [=](microsplanning_v5& week) {
                     week.totalq.resize(std::max(week.totalq.size(), category + 1));
                     week.totalq[category] = quantity;
                 });
-            });
+            }};
 }
 
 void PlanView::setToday(sys_days today) {
@@ -207,7 +213,7 @@ std::vector<microsplanning_v5> PlanView::scopeOfTotals() const {
 
 void PlanView::showTotals() {
     if (week())
-        m_totals->setTotals(totalsOf(scopeOfTotals()), m_scope->currentIndex() == OfWeek);
+        m_totals.show(totalsOf(scopeOfTotals()));
 }
 
 void PlanView::chooseBlock(const WeekBlock& block) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "desktop/planning/plan/totals_columns.h"
 #include "desktop/planning/plan/week_block.h"
 #include "desktop/planning/plan/week_grid.h"
 #include "desktop/planning/season_panel.h"
@@ -10,7 +11,6 @@ class QStackedLayout;
 
 namespace kavela::desktop {
 
-class TotalsTable;
 class WeekForm;
 class YearStrip;
 
@@ -28,7 +28,7 @@ public:
     [[nodiscard]] YearStrip& strip() const { return *m_strip; }
     [[nodiscard]] WeekGrid& grid() const { return *m_grid; }
     [[nodiscard]] WeekForm& form() const { return *m_form; }
-    [[nodiscard]] TotalsTable& totals() const { return *m_totals; }
+    [[nodiscard]] ColumnModel<CategoryTotal>& totals() { return m_totals; }
     [[nodiscard]] const WeekBlock& block() const { return m_block; }
     /// The week in front; null when there is none.
     [[nodiscard]] const microsplanning_v5* week() const;
@@ -71,6 +71,7 @@ protected:
 private:
     void makeParts();
     void connectParts();
+    [[nodiscard]] TypedTotals typedTotals();
     [[nodiscard]] QWidget* makeTotals();
     void showWeek();
     void showTotals();
@@ -87,7 +88,7 @@ private:
     QWidget* m_stripArea = nullptr; ///< in which it scrolls
     WeekGrid* m_grid;
     WeekForm* m_form;
-    TotalsTable* m_totals;
+    ColumnModel<CategoryTotal> m_totals;
     QComboBox* m_scope;
     QLabel* m_empty;
     QStackedLayout* m_stack = nullptr;

@@ -56,6 +56,11 @@ public:
         follow(std::move(movedTo), static_cast<int>(m_rows.size()));
     }
 
+    /// Other columns, which must know what to show of the rows from before, too.
+    void setColumns(Columns columns) {
+        changeHeads(headsOf(columns), [&] { m_columns = std::move(columns); });
+    }
+
     [[nodiscard]] const std::vector<Row>& rows() const { return m_rows; }
     [[nodiscard]] const Row& row(int place) const {
         return m_rows.at(static_cast<std::size_t>(place));

@@ -61,6 +61,14 @@ protected:
     }
 };
 
+/// All columns as the model has them.
+QStringList firstLayout(const QAbstractItemModel& model) {
+    QStringList names;
+    for (int column = 0; column < model.columnCount(); ++column)
+        names.append(model.headerData(column, Qt::Horizontal, ColumnNameRole).toString());
+    return names;
+}
+
 } // namespace
 
 ColumnTable::ColumnTable(RowModel& rows, const char* name, QWidget* parent)
@@ -84,6 +92,7 @@ ColumnTable::ColumnTable(RowModel& rows, const char* name, QWidget* parent)
     makeHeader();
     connect(&rows, &RowModel::refused, this, &ColumnTable::refuse);
     connect(&rows, &RowModel::followed, this, &ColumnTable::followRows);
+    connect(&rows, &RowModel::columnsChanged, this, &ColumnTable::followColumns);
     connect(m_shown, &QAbstractItemModel::modelAboutToBeReset, this, [this] {
         m_row = currentIndex().row();
         m_column = currentIndex().column();
@@ -116,6 +125,18 @@ void ColumnTable::setEmptyText(const QString& text) {
 
 void ColumnTable::sortBy(int column, Qt::SortOrder order) {
     sortByColumn(column, order);
+}
+
+void ColumnTable::keepOrder() {
+    setSortingEnabled(false);
+    horizontalHeader()->setSectionsClickable(false); // nor is a column chosen
+}
+
+void ColumnTable::setOnlyShown() {
+    keepOrder();
+    setSelectionMode(NoSelection);
+    setFocusPolicy(Qt::NoFocus);
+    setAlternatingRowColors(false);
 }
 
 void ColumnTable::setFilter(std::function<bool(int place)> isShown) {
@@ -299,10 +320,10 @@ bool ColumnTable::event(QEvent* event) {
 void ColumnTable::keyPressEvent(QKeyEvent* event) {
     if (state() == EditingState) // what the open cell has no use for
         return EditOrder::keyPressEvent(event);
-    if (event->matches(QKeySequence::Copy))
-        return copy();
     if (QAction* const action = actionOf(*event))
         return action->trigger();
+    if (event->matches(QKeySequence::Copy))
+        return copy();
     if (event->key() == Qt::Key_Space)
         return tickCurrent();
     EditOrder::keyPressEvent(event);
@@ -377,6 +398,16 @@ void ColumnTable::remember(Workspace& workspace, const QString& key) {
     m_key = key;
 }
 
+/// Columns that came stand where they were left.
+void ColumnTable::followColumns() {
+    if (!m_workspace || m_key.isEmpty())
+        return;
+    m_firstLayout = firstLayout(m_rows);
+    const QStringList layout = m_workspace->remembered(m_key);
+    const QScopedValueRollback moved(m_key, QString()); // not by the coach: nothing to remember
+    applyColumnLayout(*this, layout.isEmpty() ? m_firstLayout : layout);
+}
+
 void ColumnTable::rememberColumns() {
     if (m_workspace && !m_key.isEmpty())
         m_workspace->remember(m_key, columnLayout(*this));
@@ -440,7 +471,8 @@ QPushButton* buttonFor(QAction& action, const QString& text, const char* name) {
 
 void rememberColumns(const QWidget& window, Workspace& workspace, const QString& kind) {
     for (ColumnTable* const table : window.findChildren<ColumnTable*>())
-        table->remember(workspace, kind + "/columns/" + table->objectName());
+        if (!table->objectName().isEmpty()) // which several may be
+            table->remember(workspace, kind + "/columns/" + table->objectName());
 }
 
 } // namespace kavela::desktop

@@ -40,6 +40,10 @@ public:
     void stretchAll();
     /// As long as there is a row, one is the current one.
     void keepOneChosen();
+    /// The order of the rows says something: no click sorts them.
+    void keepOrder();
+    /// The table is only looked at: no row is chosen, and the keyboard passes it by.
+    void setOnlyShown();
     /// Enter in a cell goes on to the next row.
     void setGoesDown(bool goesDown) { m_goesDown = goesDown; }
 
@@ -97,6 +101,7 @@ protected:
 private:
     void makeHeader();
     void followRows();
+    void followColumns();
     void chooseOne();
     void enable();
     void showColumnMenu(const QPoint& at);
@@ -126,7 +131,7 @@ private:
 /// A button that does what an action does, says its key, and leaves the focus where it is.
 [[nodiscard]] QPushButton* buttonFor(QAction& action, const QString& text, const char* name);
 
-/// Remembers the columns of every table in a window of this kind.
+/// Remembers the columns of every table with a name in a window of this kind.
 void rememberColumns(const QWidget& window, Workspace& workspace, const QString& kind);
 
 } // namespace kavela::desktop

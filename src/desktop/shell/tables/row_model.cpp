@@ -1,9 +1,11 @@
 #include "desktop/shell/tables/row_model.h"
 
+#include "desktop/shell/tables/column_layout.h"
 #include "desktop/shell/theme.h"
 #include "desktop/shell/typed_number.h"
 
 #include <QApplication>
+#include <QColor>
 #include <QFont>
 #include <QScopedValueRollback>
 
@@ -13,6 +15,8 @@
 namespace kavela::desktop {
 
 namespace {
+
+const QColor Warning(0xE0, 0x7B, 0x00);
 
 QVariant alignment(ColumnKind kind) {
     return QVariant((kind == ColumnKind::Number ? Qt::AlignRight : Qt::AlignLeft) |
@@ -161,6 +165,28 @@ void RowModel::noteChanges() {
         emit dataChanged(index(0, 0), index(rowCount() - 1, columnCount() - 1));
 }
 
+void RowModel::changeHeads(std::vector<ColumnHead> heads, const std::function<void()>& take) {
+    const int before = columnCount();
+    const int now = static_cast<int>(heads.size());
+    if (now > before)
+        beginInsertColumns({}, before, now - 1);
+    else if (now < before)
+        beginRemoveColumns({}, now, before - 1);
+    const bool isOther = heads != m_heads;
+    m_heads = std::move(heads);
+    take();
+    if (now > before)
+        endInsertColumns();
+    else if (now < before)
+        endRemoveColumns();
+    noteChanges();
+    if (!isOther)
+        return;
+    if (now > 0)
+        emit headerDataChanged(Qt::Horizontal, 0, now - 1);
+    emit columnsChanged();
+}
+
 void RowModel::refresh() {
     noteChanges();
     if (m_rowTitles && rowCount() > 0)
@@ -181,12 +207,15 @@ Cell RowModel::cellAt(const QModelIndex& index) const {
 }
 
 QVariant RowModel::look(const Cell& cell, int role) const {
+    if (role == Qt::ForegroundRole && cell.look == Cell::Look::Warning)
+        return Warning;
     if (role == Qt::ForegroundRole)
         return cell.look == Cell::Look::Quiet ? QVariant(theme::quietText(QApplication::palette()))
                                               : QVariant();
-    if (cell.look != Cell::Look::Bold && cell.look != Cell::Look::Italic)
+    if (cell.look != Cell::Look::Bold && cell.look != Cell::Look::Italic && !cell.isStruck)
         return {};
     QFont font;
+    font.setStrikeOut(cell.isStruck);
     font.setBold(cell.look == Cell::Look::Bold);
     font.setItalic(cell.look == Cell::Look::Italic);
     return font;
@@ -235,9 +264,22 @@ QVariant RowModel::headerData(int section, Qt::Orientation orientation, int role
         return head.tip.isEmpty() ? QVariant() : QVariant(head.tip);
     case Qt::TextAlignmentRole:
         return alignment(head.kind);
+    case ColumnNameRole:
+        return columnName(section);
     default:
         return {};
     }
+}
+
+/// Columns of one title, as the penalties of several races, are told apart by a number.
+QString RowModel::columnName(int section) const {
+    const QString title = headerData(section, Qt::Horizontal, Qt::DisplayRole).toString();
+    int number = 1;
+    for (int before = 0; before < section; ++before)
+        if (headerData(before, Qt::Horizontal, Qt::DisplayRole).toString() == title)
+            ++number;
+    const QString name = QString(title).replace('\n', ' ');
+    return number == 1 ? name : QStringLiteral("%1 %2").arg(name).arg(number);
 }
 
 Qt::ItemFlags RowModel::flags(const QModelIndex& index) const {

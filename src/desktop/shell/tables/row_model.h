@@ -10,7 +10,7 @@ namespace kavela::desktop {
 
 /// What stands in one cell of a table.
 struct Cell {
-    enum class Look { Plain, Quiet, Bold, Italic };
+    enum class Look { Plain, Quiet, Bold, Italic, Warning };
 
     QString text = {};                    ///< as it is read
     std::optional<double> number = {};    ///< what is sorted by and copied, where it is one
@@ -19,6 +19,7 @@ struct Cell {
     QString tip = {};                     ///< why it looks as it does; else that of the column
     std::optional<bool> isTicked = {};    ///< has a box to tick
     Look look = Look::Plain;
+    bool isStruck = false; ///< does not count
     bool isLocked = false; ///< cannot be typed in or ticked, though its column can
 };
 
@@ -33,6 +34,8 @@ struct ColumnHead {
     ColumnKind kind = ColumnKind::Text;
     bool isTyped = false;
     bool isTicked = false;
+
+    friend bool operator==(const ColumnHead&, const ColumnHead&) = default;
 };
 
 /// A table as views see it. Rows are shown anew without a reset: the selection, the cell of the
@@ -75,6 +78,8 @@ signals:
     void refused(const QString& reason);
     /// All rows are where they belong.
     void followed();
+    /// There are other columns.
+    void columnsChanged();
 
 protected:
     explicit RowModel(std::vector<ColumnHead> heads, QObject* parent);
@@ -89,6 +94,9 @@ protected:
     void follow(std::vector<int> movedTo, int count);
     /// The rows have nothing to do with those from before; between the calls of a reset.
     void startWith(int count);
+    /// The columns are others now, which `take` keeps; a cell that is chosen stays where it is as
+    /// long as there are as many.
+    void changeHeads(std::vector<ColumnHead> heads, const std::function<void()>& take);
 
 private:
     void takeOut();
@@ -96,6 +104,7 @@ private:
     void bringIn(int count);
     [[nodiscard]] Cell cellAt(const QModelIndex& index) const;
     [[nodiscard]] QVariant look(const Cell& cell, int role) const;
+    [[nodiscard]] QString columnName(int section) const;
     void noteChanges();
 
     std::vector<ColumnHead> m_heads;

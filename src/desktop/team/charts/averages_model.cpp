@@ -8,12 +8,11 @@ namespace kavela::desktop {
 
 namespace {
 
-enum Column { ScopeColumn, PhaseColumn, WholeColumn, FirstShareColumn };
-constexpr int Shares = 5;
-constexpr int FirstSplitColumn = FirstShareColumn + Shares;
-
-QString percent(double value) {
-    return shownNumber(value, 1) + " %";
+/// Nothing where the phase has no such value.
+Cell percentCell(const std::vector<double>& values, std::size_t place, std::size_t count) {
+    if (place >= count)
+        return {};
+    return {.text = shownNumber(values[place], 1) + " %", .number = values[place]};
 }
 
 /// Percentages by split have that of the whole run behind them, where it is known.
@@ -25,71 +24,67 @@ std::size_t splitsOf(const mtAverageDataStruct& average) {
     return average.per.size() - (hasWhole(average) ? 1 : 0);
 }
 
+Cell wholeCell(const PhaseAverages& row) {
+    const auto& values = row.average.per;
+    return hasWhole(row.average) ? percentCell(values, values.size() - 1, values.size()) : Cell();
+}
+
+using AverageColumn = Column<PhaseAverages>;
+
+AverageColumn shareColumn(const QString& title, std::size_t share) {
+    return {.title = title,
+            .tip = AveragesModel::tr("Share of the runs with so many penalty seconds"),
+            .kind = ColumnKind::Number,
+            .show = [share](const PhaseAverages& row) {
+                return percentCell(row.average.pendis, share, row.average.pendis.size());
+            }};
+}
+
+AverageColumn splitColumn(std::size_t split) {
+    return {.title = AveragesModel::tr("S%1").arg(split + 1),
+            .kind = ColumnKind::Number,
+            .show = [split](const PhaseAverages& row) {
+                return percentCell(row.average.per, split, splitsOf(row.average));
+            }};
+}
+
+std::vector<AverageColumn> columnsFor(std::size_t splits) {
+    std::vector<AverageColumn> columns;
+    columns.push_back(textColumn<PhaseAverages>(
+        AveragesModel::tr("Season"), [](const PhaseAverages& row) { return row.scope; }));
+    columns.push_back(
+        textColumn<PhaseAverages>(AveragesModel::tr("Phase"), [](const PhaseAverages& row) {
+            return QString::fromStdString(row.average.phase);
+        }));
+    columns.push_back(
+        {.title = AveragesModel::tr("Behind"), .kind = ColumnKind::Number, .show = wholeCell});
+    std::size_t share = 0;
+    for (const QString& title :
+         {AveragesModel::tr("Clean"), AveragesModel::tr("2 s"), AveragesModel::tr("4 s"),
+          AveragesModel::tr("6 to 48 s"), AveragesModel::tr("50 s and more")})
+        columns.push_back(shareColumn(title, share++));
+    for (std::size_t split = 0; split < splits; ++split)
+        columns.push_back(splitColumn(split));
+    return columns;
+}
+
 } // namespace
 
+AveragesModel::AveragesModel(QObject* parent) : ColumnModel(columnsFor(0), KeyOf(), parent) {}
+
 void AveragesModel::show(const mtSeasonStruct* season, const mtCatsStruct* category) {
-    beginResetModel();
-    m_rows.clear();
-    m_splits = 0;
+    std::vector<PhaseAverages> rows;
     if (season)
         for (const mtAverageDataStruct& average : season->aves)
-            m_rows.push_back({QString::number(season->year), average});
+            rows.push_back({QString::number(season->year), average});
     if (category)
         for (const mtAverageDataStruct& average : category->aves)
-            m_rows.push_back({tr("All seasons"), average});
-    for (const Row& row : m_rows)
-        m_splits = std::max(m_splits, splitsOf(row.average));
-    endResetModel();
-}
-
-int AveragesModel::rowCount(const QModelIndex& parent) const {
-    return parent.isValid() ? 0 : static_cast<int>(m_rows.size());
-}
-
-int AveragesModel::columnCount(const QModelIndex& parent) const {
-    return parent.isValid() ? 0 : FirstSplitColumn + static_cast<int>(m_splits);
-}
-
-QString AveragesModel::text(const Row& row, int column) const {
-    const mtAverageDataStruct& average = row.average;
-    if (column == ScopeColumn)
-        return row.scope;
-    if (column == PhaseColumn)
-        return QString::fromStdString(average.phase);
-    if (column == WholeColumn)
-        return hasWhole(average) ? percent(average.per.back()) : QString();
-    if (column < FirstSplitColumn) {
-        const auto share = static_cast<std::size_t>(column - FirstShareColumn);
-        return share < average.pendis.size() ? percent(average.pendis[share]) : QString();
-    }
-    const auto split = static_cast<std::size_t>(column - FirstSplitColumn);
-    return split < splitsOf(average) ? percent(average.per[split]) : QString();
-}
-
-QVariant AveragesModel::data(const QModelIndex& index, int role) const {
-    const Row& row = m_rows[static_cast<std::size_t>(index.row())];
-    if (role == Qt::DisplayRole)
-        return text(row, index.column());
-    if (role == Qt::TextAlignmentRole && index.column() >= WholeColumn)
-        return QVariant(Qt::AlignRight | Qt::AlignVCenter);
-    return {};
-}
-
-QVariant AveragesModel::headerData(int section, Qt::Orientation orientation, int role) const {
-    if (orientation != Qt::Horizontal)
-        return {};
-    if (role == Qt::TextAlignmentRole)
-        return QVariant((section >= WholeColumn ? Qt::AlignRight : Qt::AlignLeft) |
-                        Qt::AlignVCenter);
-    if (role == Qt::ToolTipRole && section >= FirstShareColumn && section < FirstSplitColumn)
-        return tr("Share of the runs with so many penalty seconds");
-    if (role != Qt::DisplayRole)
-        return {};
-    if (section >= FirstSplitColumn)
-        return tr("S%1").arg(section - FirstSplitColumn + 1);
-    return QStringList{tr("Season"), tr("Phase"), tr("Behind"),    tr("Clean"),
-                       tr("2 s"),    tr("4 s"),   tr("6 to 48 s"), tr("50 s and more")}
-        .value(section);
+            rows.push_back({tr("All seasons"), average});
+    std::size_t splits = 0;
+    for (const PhaseAverages& row : rows)
+        splits = std::max(splits, splitsOf(row.average));
+    setColumns(columnsFor(splits));
+    ColumnModel::show(std::move(rows));
 }
 
 } // namespace kavela::desktop

@@ -2,28 +2,20 @@
 
 #include "desktop/charts/plot_interaction.h"
 #include "desktop/charts/series_chart.h"
+#include "desktop/shell/tables/column_table.h"
 #include "desktop/shell/theme.h"
 #include "desktop/team/charts/progression_chart.h"
 #include "desktop/team/charts/season_chart.h"
 
 #include <QCheckBox>
 #include <QHBoxLayout>
-#include <QHeaderView>
 #include <QPushButton>
-#include <QTableView>
 
 namespace kavela::desktop {
 
 ChartTabs::ChartTabs(QWidget* parent)
     : QTabWidget(parent), m_season(new SeriesChart), m_progression(new SeriesChart) {
-    auto* averages = new QTableView;
-    averages->setObjectName("averages");
-    averages->setModel(&m_averages);
-    averages->setShowGrid(false);
-    averages->verticalHeader()->hide();
-    averages->verticalHeader()->setDefaultSectionSize(fontMetrics().height() + theme::Spacing);
-    averages->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
-    averages->setTabKeyNavigation(false);
+    auto* averages = new ColumnTable(m_averages, "averages");
     addTab(m_season, tr("Season"));
     addTab(m_progression, tr("Race progression"));
     addTab(averages, tr("Averages"));
