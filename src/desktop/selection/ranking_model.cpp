@@ -1,6 +1,7 @@
 #include "desktop/selection/ranking_model.h"
 
 #include "desktop/selection/selection_document.h"
+#include "desktop/shell/qt_text.h"
 #include "desktop/shell/shown_number.h"
 #include "desktop/team/typed_values.h"
 
@@ -16,17 +17,10 @@ namespace {
 
 const QColor Warning(0xE0, 0x7B, 0x00);
 
-QString qtText(const std::string& text) {
-    return QString::fromStdString(text);
-}
-
-QString hundredths(double value) {
-    return shownHundredths(value);
-}
-
 QString resultText(const saRaceStruct& result) {
-    return result.pen > 0 ? QString("%1 (%2)").arg(hundredths(result.resultTime)).arg(result.pen)
-                          : hundredths(result.resultTime);
+    return result.pen > 0
+               ? QString("%1 (%2)").arg(shownHundredths(result.resultTime)).arg(result.pen)
+               : shownHundredths(result.resultTime);
 }
 
 QString preselectionText(const std::vector<bool>& flags) {
@@ -173,10 +167,10 @@ QString RankingModel::leadingText(int row, int column) const {
     case NameColumn:
         return qtText(athlete.name);
     case ScoreColumn:
-        return hundredths(standingOfRow(row).score.score);
+        return shownHundredths(standingOfRow(row).score.score);
     case BonusColumn: {
         const auto& bonus = standingOfRow(row).score.bonus;
-        return bonus ? hundredths(bonus->percentage) : QString();
+        return bonus ? shownHundredths(bonus->percentage) : QString();
     }
     case YearColumn:
         return athlete.year == 0 ? QString() : QString::number(athlete.year);
@@ -200,13 +194,13 @@ QString RankingModel::raceText(int row, std::size_t race, int part, int role) co
         const double time = isExpected ? result.xTime : result.resultTime;
         if (time == MissingTime)
             return role == Qt::DisplayRole ? "–" : QString();
-        return role == Qt::DisplayRole ? hundredths(time) : shownNumber(time);
+        return role == Qt::DisplayRole ? shownHundredths(time) : shownNumber(time);
     }
     case PenaltyColumn:
         return QString::number(result.pen);
     default: {
         const double percent = isExpected ? result.resultxPer : result.resultPer;
-        return percent == MissingPercentage ? QString() : hundredths(percent);
+        return percent == MissingPercentage ? QString() : shownHundredths(percent);
     }
     }
 }
@@ -239,7 +233,7 @@ QVariant RankingModel::toolTip(const QModelIndex& index) const {
     const auto real = realStandingOfRow(row);
     const double score = standingOfRow(row).score.score;
     if (index.column() == ScoreColumn && real && real->score.score != score)
-        return tr("was %1, now %2").arg(hundredths(real->score.score), hundredths(score));
+        return tr("was %1, now %2").arg(shownHundredths(real->score.score), shownHundredths(score));
     // A name or a club may be longer than its column.
     return index.data();
 }

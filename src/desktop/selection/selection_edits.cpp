@@ -1,6 +1,7 @@
 #include "desktop/selection/selection_window.h"
 
 #include "desktop/selection/athlete_dialog.h"
+#include "desktop/shell/qt_text.h"
 #include "desktop/shell/tables/table_text.h"
 #include "desktop/shell/workspace.h"
 #include "results/messages.h"
@@ -19,14 +20,6 @@
 
 /// What the menus of the selection do to its document.
 namespace kavela::desktop {
-
-namespace {
-
-QString qtText(const std::string& text) {
-    return QString::fromStdString(text);
-}
-
-} // namespace
 
 void SelectionWindow::makeMenus() {
     makeReportMenu(*makeFileMenu());

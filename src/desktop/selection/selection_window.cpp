@@ -4,6 +4,7 @@
 #include "desktop/selection/why_panel.h"
 #include "desktop/shell/cell_delegate.h"
 #include "desktop/shell/edit_order.h"
+#include "desktop/shell/qt_text.h"
 #include "desktop/shell/theme.h"
 #include "desktop/shell/window_place.h"
 #include "desktop/shell/workspace.h"
@@ -29,14 +30,6 @@
 #include <algorithm>
 
 namespace kavela::desktop {
-
-namespace {
-
-QString qtText(const std::string& text) {
-    return QString::fromStdString(text);
-}
-
-} // namespace
 
 SelectionWindow::SelectionWindow(Workspace& workspace, Autosave autosave)
     : ToolWindow(workspace, &m_document, {"selection", tr("Selection races"), "kvsr"}),

@@ -29,7 +29,7 @@ std::optional<std::string> contentOf(const QString& path) {
     return file.readAll().toStdString();
 }
 
-std::string reasonOf(const std::exception_ptr& fault) {
+std::string messageOf(const std::exception_ptr& fault) {
     try {
         std::rethrow_exception(fault);
     } catch (const std::exception& error) {
@@ -72,7 +72,7 @@ void Autosave::keep(const QString& path, const QString& tool, Content content, Q
     };
     disk::run(context, write, [failed = std::move(failed)](std::exception_ptr fault) {
         if (fault)
-            failed(reasonOf(fault));
+            failed(messageOf(fault));
     });
 }
 

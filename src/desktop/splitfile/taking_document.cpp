@@ -3,6 +3,7 @@
 #include "common/json_encode.h"
 #include "common/safe_file.h"
 #include "desktop/shell/file_names.h"
+#include "desktop/shell/qt_text.h"
 #include "desktop/shell/workspace.h"
 #include "desktop/splitfile/film_places.h"
 #include "desktop/splitfile/kept_work.h"
@@ -40,10 +41,6 @@ void takeFilmName(athletedata031& run, const std::string& pattern) {
     run.names = std::move(facts.names);
     run.phase = std::move(facts.phase);
     run.cat = std::move(facts.category);
-}
-
-QString qtText(const std::string& text) {
-    return QString::fromStdString(text);
 }
 
 } // namespace
