@@ -16,6 +16,7 @@
 #include "desktop/shell/file_names.h"
 #include "desktop/shell/home_window.h"
 #include "desktop/shell/settings_window.h"
+#include "desktop/shell/window_place.h"
 #include "desktop/taking/taking_window.h"
 #include "desktop/tools.h"
 #include "sample/season.h"
@@ -72,11 +73,6 @@ void writeSampleSeason(const fs::path& folder) {
             throw FileError(target.parent_path(), error.message());
         writeFileSafely(target, file.content);
     }
-}
-
-void bringToFront(QWidget& window) {
-    window.raise();
-    window.activateWindow();
 }
 
 } // namespace

@@ -19,9 +19,9 @@ namespace {
 
 constexpr double PixelDensity = 2; ///< sharp on paper and on dense screens
 
-QString tr(const char* text) {
-    return QCoreApplication::translate("ChartExport", text);
-}
+struct ChartExport {
+    Q_DECLARE_TR_FUNCTIONS(ChartExport)
+};
 
 QImage imageOf(SavedChart& chart) {
     const QSize size = chart.pictureSize();
@@ -90,10 +90,10 @@ void copyValues(SavedChart& chart) {
 
 QString askChartPath(const QString& name, const QString& kind, const QString& folder,
                      QWidget* over) {
-    const QString png = tr("Picture (*.png)");
-    const QString svg = tr("Drawing (*.svg)");
-    const QString csv = tr("Table (*.csv)");
-    QFileDialog dialog(over, tr("Save chart"), folder);
+    const QString png = ChartExport::tr("Picture (*.png)");
+    const QString svg = ChartExport::tr("Drawing (*.svg)");
+    const QString csv = ChartExport::tr("Table (*.csv)");
+    QFileDialog dialog(over, ChartExport::tr("Save chart"), folder);
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setNameFilters({png, svg, csv});
     dialog.selectNameFilter(kind == "svg" ? svg : kind == "csv" ? csv : png);

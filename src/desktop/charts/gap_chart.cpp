@@ -15,10 +15,10 @@ namespace kavela::desktop {
 
 namespace {
 
-constexpr double LeastSpan = 0.5; ///< seconds: a race decided by less is no mountain range
-constexpr double Headroom = 0.06; ///< of the span
-constexpr double Margin = 0.06;   ///< of a section: room for the markers at both ends
-constexpr double LineWidth = 2.2;
+constexpr double LeastGapSpan = 0.5; ///< seconds: a race decided by less is no mountain range
+constexpr double GapHeadroom = 0.06; ///< of the span
+constexpr double Margin = 0.06;      ///< of a section: room for the markers at both ends
+constexpr double GapLineWidth = 2.2;
 constexpr double MarkerSize = 6;
 
 QString gapText(double seconds) {
@@ -105,7 +105,7 @@ void GapChart::addLine(const Line& line) {
     const SeriesStyle& style = line.selected.style;
     QCPGraph* graph = canvas().addGraph();
     graph->setName(race().label(line.selected.run));
-    graph->setPen(QPen(style.colour, LineWidth, style.line, Qt::RoundCap, Qt::RoundJoin));
+    graph->setPen(QPen(style.colour, GapLineWidth, style.line, Qt::RoundCap, Qt::RoundJoin));
     graph->setScatterStyle(markerOf(style, MarkerSize));
     graph->addData(0, 0);
     for (std::size_t i = 0; i < line.gaps.size(); ++i)
@@ -132,10 +132,10 @@ void GapChart::setLimits() {
             fastest = std::min(fastest, gap.accumulated);
             slowest = std::max(slowest, gap.accumulated);
         }
-    const double span = std::max(slowest - fastest, LeastSpan);
+    const double span = std::max(slowest - fastest, LeastGapSpan);
     const double sections = static_cast<double>(timedSections(race().set()));
     canvas().setLimits({-Margin, sections + Margin},
-                       {fastest - span * Headroom, fastest + span * (1 + Headroom)});
+                       {fastest - span * GapHeadroom, fastest + span * (1 + GapHeadroom)});
 }
 
 QString GapChart::readOutOf(std::size_t split) const {

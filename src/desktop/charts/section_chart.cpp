@@ -21,15 +21,11 @@ namespace {
 
 constexpr double BoxWidth = 0.46; ///< of a section
 constexpr double StripWidth = 0.5;
-constexpr double Headroom = 0.06;
-constexpr double LeastSpan = 0.5; ///< seconds
-constexpr double DotSize = 5;
-constexpr double SelectedSize = 9;
-constexpr double Reach = 8; ///< pixels from the cursor to a dot
-
-QString timeText(double seconds) {
-    return shownHundredths(seconds);
-}
+constexpr double SectionHeadroom = 0.06;
+constexpr double LeastSectionSpan = 0.5; ///< seconds
+constexpr double SectionDotSize = 5;
+constexpr double SelectedSectionDotSize = 9;
+constexpr double SectionDotReach = 8; ///< pixels from the cursor to a dot
 
 /// Where the n-th dot of a strip stands between -0.5 and 0.5: the van der Corput sequence, which
 /// keeps neighbours apart and always looks the same.
@@ -159,7 +155,7 @@ void SectionChart::addBoxes() {
             if (isOutlier(section, value.time) && !isSelected(value.run))
                 outliers.push_back({{middle(i), height(i, value.time)}, i, value.run});
     }
-    addDots(outliers, {QCPScatterStyle::ssCircle, QPen(line), QBrush(Qt::NoBrush), DotSize});
+    addDots(outliers, {QCPScatterStyle::ssCircle, QPen(line), QBrush(Qt::NoBrush), SectionDotSize});
 }
 
 void SectionChart::addStrips() {
@@ -171,7 +167,7 @@ void SectionChart::addStrips() {
                 dots.push_back(
                     {{middle(i) + StripWidth * scatter(n), height(i, value.time)}, i, value.run});
         }
-    addDots(dots, backgroundDot(palette(), DotSize));
+    addDots(dots, backgroundDot(palette(), SectionDotSize));
     addMedians();
 }
 
@@ -216,7 +212,7 @@ void SectionChart::addSelectedRuns() {
         labels.push_back(label);
         if (label.isHidden)
             continue;
-        addDots(dots, markerOf(selected.style, SelectedSize));
+        addDots(dots, markerOf(selected.style, SelectedSectionDotSize));
         QCPGraph& graph = *canvas().graph();
         graph.setName(label.name);
         graph.setLineStyle(QCPGraph::lsLine);
@@ -236,14 +232,14 @@ void SectionChart::setLimits() {
         fastest = std::min(fastest, height(i, m_sections[i].minimum));
         slowest = std::max(slowest, height(i, m_sections[i].maximum));
     }
-    const double span = std::max(slowest - fastest, LeastSpan);
+    const double span = std::max(slowest - fastest, LeastSectionSpan);
     canvas().setLimits({0, static_cast<double>(m_sections.size())},
-                       {fastest - span * Headroom, fastest + span * (1 + Headroom)});
+                       {fastest - span * SectionHeadroom, fastest + span * (1 + SectionHeadroom)});
 }
 
 const SectionChart::Dot* SectionChart::dotAt(const QPointF& position) const {
     const Dot* nearest = nullptr;
-    double least = Reach;
+    double least = SectionDotReach;
     // The selected runs lie on top, and stand last in the list.
     for (const Dot& dot : m_dots) {
         const QPointF place = canvas().toPixel(dot.place.x(), dot.place.y());
@@ -262,10 +258,10 @@ QString SectionChart::readOutOf(std::size_t section) const {
     if (s.values.empty())
         return readOutText(title, {readOutRow({tr("Not timed")})});
     const auto row = [](const QString& name, double time) {
-        return readOutRow({name, timeText(time)});
+        return readOutRow({name, shownHundredths(time)});
     };
     return readOutText(
-        title, {readOutRow({race().label(s.values.front().run), timeText(s.minimum)}),
+        title, {readOutRow({race().label(s.values.front().run), shownHundredths(s.minimum)}),
                 row(tr("Quarter of the runs under"), s.lowerQuartile), row(tr("Median"), s.median),
                 row(tr("Quarter of the runs over"), s.upperQuartile), row(tr("Slowest"), s.maximum),
                 readOutRow({tr("Runs"), QString::number(s.values.size())})});
@@ -278,8 +274,8 @@ QString SectionChart::readOutOf(std::size_t section, std::size_t run) const {
         s.values, [&](const SectionValue& value) { return value.time < time; });
     return readOutText(
         race().label(run),
-        {readOutRow({race().sectionTitle(section), timeText(time)}),
-         readOutRow({tr("Behind the best"), timeText(time - s.minimum)}),
+        {readOutRow({race().sectionTitle(section), shownHundredths(time)}),
+         readOutRow({tr("Behind the best"), shownHundredths(time - s.minimum)}),
          readOutRow({tr("Place"), tr("%1 of %2").arg(faster + 1).arg(s.values.size())})});
 }
 

@@ -22,7 +22,7 @@ constexpr double ValueRoom = 24;        ///< pixels between two values
 constexpr double LeastMarkDistance = 5; ///< pixels; closer lines would be a wall
 constexpr double Swatch = 10;
 constexpr float BandOpacity = 0.65F;
-constexpr double Headroom = 0.06; ///< of the values, above and below
+constexpr double SensorHeadroom = 0.06; ///< of the values, above and below
 
 QFont heavy(QFont font) {
     font.setWeight(QFont::DemiBold);
@@ -93,7 +93,7 @@ std::pair<double, double> SensorDrawing::valueRange(const SensorScene& scene) co
             extent.add(drawn.extent(scene.from, scene.to));
     if (extent.isEmpty())
         return {0, 1};
-    double room = (extent.high - extent.low) * Headroom;
+    double room = (extent.high - extent.low) * SensorHeadroom;
     if (!(room > 1e-9 * std::max(1.0, std::abs(extent.high))))
         room = std::max(1.0, std::abs(extent.high) * 0.1); // a flat line stands in the middle
     return {extent.low - room, extent.high + room};

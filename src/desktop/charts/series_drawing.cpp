@@ -16,13 +16,13 @@ namespace {
 using Form = ChartSeries::Form;
 
 constexpr double NoValue = std::numeric_limits<double>::quiet_NaN();
-constexpr double LineWidth = 2;
+constexpr double SeriesLineWidth = 2;
 constexpr double StrongWidth = 4;
 constexpr float FaintOpacity = 0.45F;
-constexpr double BarShare = 0.72; ///< of the room from one group of bars to the next
-constexpr double Headroom = 0.08; ///< of the height
-constexpr double SideRoom = 0.02; ///< of the width
-constexpr double SecondsOfDay = 86400;
+constexpr double BarShare = 0.72;       ///< of the room from one group of bars to the next
+constexpr double SeriesHeadroom = 0.08; ///< of the height
+constexpr double SideRoom = 0.02;       ///< of the width
+constexpr double RoomOfDate = 86400;
 constexpr std::size_t MostMarkers = 400; ///< more would hide their line
 constexpr std::size_t FewMarkers = 80;
 
@@ -139,7 +139,7 @@ void SeriesDrawing::drawLine(ChartPlot& plot, const Line& line) const {
     const QColor colour = shown.isQuiet ? backgroundRuns(plot.palette()) : style.colour;
     QCPGraph* const graph = plot.addGraph(plot.xAxis, shown.onRight ? plot.yAxis2 : plot.yAxis);
     graph->setName(shown.name);
-    const double width = shown.isQuiet ? 1 : shown.isStrong ? StrongWidth : LineWidth;
+    const double width = shown.isQuiet ? 1 : shown.isStrong ? StrongWidth : SeriesLineWidth;
     graph->setPen(QPen(colour, width, style.line, Qt::RoundCap, Qt::RoundJoin));
     const auto count = static_cast<std::size_t>(std::ranges::count_if(line.points, isDrawn));
     const bool hasMarkers = shown.form == Form::Points || count == 1 ||
@@ -185,7 +185,7 @@ double SeriesDrawing::barUnit() const {
         if (places[i] > places[i - 1])
             least = std::min(least, places[i] - places[i - 1]);
     if (m_content.across == ChartContent::Across::Category || std::isinf(least))
-        return isDate ? SecondsOfDay : 1;
+        return isDate ? RoomOfDate : 1;
     return least;
 }
 
@@ -239,7 +239,7 @@ SeriesDrawing::Extent SeriesDrawing::across() const {
         return {0, 1};
     const bool isDate = m_content.across == ChartContent::Across::Date;
     const double span = extent.most - extent.least;
-    const double room = span > 0 ? span * SideRoom : isDate ? SecondsOfDay : 1;
+    const double room = span > 0 ? span * SideRoom : isDate ? RoomOfDate : 1;
     return {extent.least - room, extent.most + room};
 }
 
@@ -279,7 +279,8 @@ SeriesDrawing::Extent SeriesDrawing::height(bool onRight) const {
     if (onRight && m_content.rightHeights > 1)
         return {0, std::max(extent.most, 1.0) * m_content.rightHeights};
     const double span = extent.most - extent.least;
-    double room = span > 0 ? span * Headroom : std::max(std::abs(extent.most) * Headroom, 0.5);
+    double room =
+        span > 0 ? span * SeriesHeadroom : std::max(std::abs(extent.most) * SeriesHeadroom, 0.5);
     if (m_content.yWhole && !onRight)
         room = std::clamp(room, 0.25, 0.5); // no tick where nobody can stand, such as place 0
     const bool standsOnZero = extent.least == 0;

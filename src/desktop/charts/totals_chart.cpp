@@ -16,17 +16,13 @@ namespace kavela::desktop {
 
 namespace {
 
-constexpr double DotSize = 7;
-constexpr double SelectedSize = 10;
+constexpr double TotalDotSize = 7;
+constexpr double SelectedTotalDotSize = 10;
 constexpr double ShortestName = 40;
 constexpr double NameDistance = 14; ///< pixels to the right of the dot
-constexpr double Reach = 9;         ///< pixels from the cursor to a dot
-constexpr double Headroom = 0.06;
-constexpr double LeastSpan = 1; ///< seconds
-
-QString timeText(double seconds) {
-    return shownHundredths(seconds);
-}
+constexpr double TotalDotReach = 9; ///< pixels from the cursor to a dot
+constexpr double TotalsHeadroom = 0.06;
+constexpr double LeastTotalsSpan = 1; ///< seconds
 
 } // namespace
 
@@ -85,7 +81,7 @@ void TotalsChart::fill() {
 void TotalsChart::addDots() {
     QCPGraph* others = canvas().addGraph();
     others->setLineStyle(QCPGraph::lsNone);
-    others->setScatterStyle(backgroundDot(palette(), DotSize));
+    others->setScatterStyle(backgroundDot(palette(), TotalDotSize));
     const std::vector<SelectedRun> selected = selectedRuns();
     for (const Dot& dot : m_dots) {
         const auto x = static_cast<double>(dot.column);
@@ -97,17 +93,18 @@ void TotalsChart::addDots() {
         QCPGraph* graph = canvas().addGraph();
         graph->setName(race().label(dot.run));
         graph->setLineStyle(QCPGraph::lsNone);
-        graph->setScatterStyle(markerOf(found->style, SelectedSize));
+        graph->setScatterStyle(markerOf(found->style, SelectedTotalDotSize));
         graph->addData(x, dot.time);
     }
 }
 
 void TotalsChart::setLimits() {
     const auto [fastest, slowest] = std::ranges::minmax(m_dots, {}, &Dot::time);
-    const double span = std::max(slowest.time - fastest.time, LeastSpan);
+    const double span = std::max(slowest.time - fastest.time, LeastTotalsSpan);
     // Names stand to the right of their dots.
-    canvas().setLimits({-0.4, static_cast<double>(m_penalties.size()) - 0.1},
-                       {fastest.time - span * Headroom, fastest.time + span * (1 + Headroom)});
+    canvas().setLimits(
+        {-0.4, static_cast<double>(m_penalties.size()) - 0.1},
+        {fastest.time - span * TotalsHeadroom, fastest.time + span * (1 + TotalsHeadroom)});
 }
 
 QPointF TotalsChart::placeOf(const Dot& dot) const {
@@ -116,7 +113,7 @@ QPointF TotalsChart::placeOf(const Dot& dot) const {
 
 const TotalsChart::Dot* TotalsChart::dotAt(const QPointF& position) const {
     const Dot* nearest = nullptr;
-    double least = Reach;
+    double least = TotalDotReach;
     for (const Dot& dot : m_dots) {
         const double distance = QLineF(placeOf(dot), position).length();
         if (distance <= least) {
@@ -156,7 +153,8 @@ void TotalsChart::paintNamesOf(QCPPainter& painter, std::size_t column) const {
     const double line = metrics.height();
     heights = spreadLabels(std::move(heights), line, plot.top(), plot.bottom());
     const double pitch = plot.width() / canvas().xAxis->range().size();
-    const int width = static_cast<int>(std::max(pitch - NameDistance - SelectedSize, ShortestName));
+    const int width =
+        static_cast<int>(std::max(pitch - NameDistance - SelectedTotalDotSize, ShortestName));
     for (std::size_t i = 0; i < dots.size(); ++i) {
         const QPointF dot = placeOf(*dots[i]);
         if (!plot.contains(dot))
@@ -177,9 +175,9 @@ QString TotalsChart::readOutOf(std::size_t run) const {
     const sectionmaindata& timing = race().run(run).sectioninfo;
     return readOutText(
         race().label(run),
-        {readOutRow({tr("Time"), timeText(timing.totaltime)}),
+        {readOutRow({tr("Time"), shownHundredths(timing.totaltime)}),
          readOutRow({tr("Penalties"), QString::number(timing.totalpen)}),
-         readOutRow({tr("Result"), timeText(ranked->total)}),
+         readOutRow({tr("Result"), shownHundredths(ranked->total)}),
          readOutRow({tr("Place"), tr("%1 of %2").arg(ranked->rank).arg(m_ranking.size())})});
 }
 

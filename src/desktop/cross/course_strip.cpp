@@ -1,6 +1,7 @@
 #include "desktop/cross/course_strip.h"
 
 #include "desktop/shell/fault_label.h"
+#include "desktop/shell/qt_text.h"
 #include "desktop/shell/theme.h"
 #include "desktop/splitfile/taking_document.h"
 #include "splittaking/course_setup.h"
@@ -18,17 +19,6 @@ namespace kavela::desktop {
 namespace {
 
 constexpr std::string_view Separators = " ,;\t";
-
-QString qtText(const std::string& text) {
-    return QString::fromStdString(text);
-}
-
-QString gatesText(const std::vector<std::int64_t>& gates) {
-    QStringList texts;
-    for (const std::int64_t gate : gates)
-        texts.append(QString::number(gate));
-    return texts.join(", ");
-}
 
 bool isSame(const crossinfodata030& a, const crossinfodata030& b) {
     return a.phase == b.phase && a.cat == b.cat && a.gates == b.gates &&
@@ -127,7 +117,7 @@ void CourseStrip::refresh() {
         m_shown = info;
         m_phase->setText(qtText(info.phase));
         m_category->setText(qtText(info.cat));
-        m_gates->setText(gatesText(info.gates));
+        m_gates->setText(joined(info.gates));
         m_roll->setText(info.rollaftergate > 0 ? QString::number(info.rollaftergate) : QString());
         m_fault->tell({});
     }

@@ -9,8 +9,8 @@ namespace kavela::desktop {
 
 namespace {
 
-constexpr int Height = 12;
-constexpr int Reach = 6; // pixels beside a mark that still hit it
+constexpr int StripHeight = 12;
+constexpr int TickReach = 6; // pixels beside a mark that still hit it
 
 } // namespace
 
@@ -21,7 +21,7 @@ TickStrip::TickStrip(const TimeLine& line, QWidget* parent) : QWidget(parent), m
 }
 
 QSize TickStrip::sizeHint() const {
-    return {400, Height};
+    return {400, StripHeight};
 }
 
 void TickStrip::setMarks(std::vector<LineMark> marks, std::optional<std::size_t> selected) {
@@ -41,13 +41,13 @@ void TickStrip::paintEvent(QPaintEvent*) {
         const bool isSelected = mark.number == m_selected;
         const int half = isSelected ? 3 : 1;
         painter.setBrush(isSelected ? theme::Accent : theme::quietText(palette()));
-        painter.drawRect(placeOf(mark) - half, 1, 2 * half, Height - 2);
+        painter.drawRect(placeOf(mark) - half, 1, 2 * half, StripHeight - 2);
     }
 }
 
 void TickStrip::mousePressEvent(QMouseEvent* event) {
     const LineMark* nearest = nullptr;
-    int least = Reach + 1;
+    int least = TickReach + 1;
     for (const LineMark& mark : m_marks) {
         const int distance = std::abs(placeOf(mark) - event->pos().x());
         if (distance < least) {

@@ -17,11 +17,11 @@ namespace kavela::desktop {
 
 namespace {
 
-constexpr int Height = 44;
+constexpr int LineHeight = 44;
 constexpr int RailHeight = 6;
 constexpr int FlagHeight = 18;
-constexpr int Side = 12; // room left and right, so that a mark at an end is whole
-constexpr int Reach = 6; // pixels beside a mark that still hit it
+constexpr int Side = 12;     // room left and right, so that a mark at an end is whole
+constexpr int MarkReach = 6; // pixels beside a mark that still hit it
 constexpr QSize ThumbnailSize{240, 135};
 constexpr std::size_t HoverCacheBytes = 64U << 20U;
 constexpr double RoomBesideMarks = 0.04; // of the time between them, where there is no film
@@ -53,7 +53,7 @@ TimeLine::~TimeLine() {
 }
 
 QSize TimeLine::sizeHint() const {
-    return {400, Height};
+    return {400, LineHeight};
 }
 
 void TimeLine::setMarks(std::vector<LineMark> marks) {
@@ -100,7 +100,7 @@ std::optional<std::size_t> TimeLine::markAt(QPoint place) const {
     if (place.y() > FlagHeight)
         return std::nullopt;
     for (std::size_t i = 0; i < m_marks.size(); ++i)
-        if (std::abs(placeOf(m_marks[i].stamp.seconds()) - place.x()) <= Reach)
+        if (std::abs(placeOf(m_marks[i].stamp.seconds()) - place.x()) <= MarkReach)
             return i;
     return std::nullopt;
 }
@@ -108,7 +108,7 @@ std::optional<std::size_t> TimeLine::markAt(QPoint place) const {
 void TimeLine::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    const int top = FlagHeight + (Height - FlagHeight - RailHeight) / 2;
+    const int top = FlagHeight + (LineHeight - FlagHeight - RailHeight) / 2;
     const QRect rail(Side, top, width() - 2 * Side, RailHeight);
     painter.setPen(Qt::NoPen);
     painter.setBrush(theme::hairline(palette()));
@@ -125,7 +125,7 @@ void TimeLine::paintEvent(QPaintEvent*) {
     paintExpected(painter);
     paintMarks(painter);
     painter.setPen(QPen(palette().color(QPalette::WindowText), 2));
-    painter.drawLine(place, FlagHeight, place, Height - theme::SmallSpacing);
+    painter.drawLine(place, FlagHeight, place, LineHeight - theme::SmallSpacing);
 }
 
 /// Fainter than any mark: nothing was taken there yet.
@@ -134,7 +134,7 @@ void TimeLine::paintExpected(QPainter& painter) const {
         return;
     const int place = placeOf(*m_expected);
     painter.setPen(QPen(theme::quietText(palette()), 1, Qt::DashLine));
-    painter.drawLine(place, FlagHeight - 2, place, Height - theme::Spacing);
+    painter.drawLine(place, FlagHeight - 2, place, LineHeight - theme::Spacing);
     painter.setFont(theme::captionFont(*this));
     painter.drawText(QRect(place - FlagHeight, 0, 2 * FlagHeight, FlagHeight - 2), Qt::AlignCenter,
                      m_expectedLabel);
@@ -149,7 +149,7 @@ void TimeLine::paintMarks(QPainter& painter) const {
         const int width = painter.fontMetrics().horizontalAdvance(m_marks[i].label) + 8;
         const QRect flag(place - width / 2, 0, width, FlagHeight - 2);
         painter.setPen(QPen(colour, isSelected ? 2 : 1));
-        painter.drawLine(place, FlagHeight - 2, place, Height - theme::Spacing);
+        painter.drawLine(place, FlagHeight - 2, place, LineHeight - theme::Spacing);
         painter.setBrush(isSelected ? colour : palette().color(QPalette::Base));
         painter.drawRoundedRect(flag, 3, 3);
         painter.setPen(isSelected ? QColor(Qt::white) : colour);

@@ -14,8 +14,6 @@ namespace kavela::desktop {
 
 namespace {
 
-constexpr double Degrees = 180 / std::numbers::pi;
-
 const Stroke* strokeAt(const MotionAnalysis& analysis, double stamp, std::size_t& index) {
     const auto after = std::ranges::upper_bound(analysis.strokes, stamp, {}, &Stroke::catchTime);
     if (after == analysis.strokes.begin())
@@ -61,7 +59,7 @@ QString turnText(const MotionAnalysis& analysis, double stamp) {
         return QStringLiteral("–");
     return CursorTable::tr("%1 %2°, %3 s")
         .arg(turn->angle > 0 ? CursorTable::tr("left") : CursorTable::tr("right"))
-        .arg(qRound(std::abs(turn->angle) * Degrees))
+        .arg(qRound(std::abs(turn->angle) * DegreesPerRadian))
         .arg(shownNumber(turn->values.rotationTime, 1));
 }
 

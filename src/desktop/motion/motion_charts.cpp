@@ -3,6 +3,7 @@
 #include "desktop/charts/plot_interaction.h"
 #include "desktop/charts/sensor_chart.h"
 #include "desktop/motion/motion_recordings.h"
+#include "desktop/shell/shown_number.h"
 #include "desktop/shell/theme.h"
 
 #include <QVBoxLayout>
@@ -14,7 +15,6 @@ namespace kavela::desktop {
 
 namespace {
 
-constexpr double Degrees = 180 / std::numbers::pi;
 constexpr int LeastHeight = 104; ///< of a chart, in pixels
 constexpr std::size_t PinSlot = 5;
 
@@ -213,7 +213,7 @@ std::vector<SensorMark> MotionCharts::marks() const {
         marks.push_back({turn.start + offset, turn.end + offset,
                          QStringLiteral("%1 %2°")
                              .arg(turn.angle > 0 ? QChar(0x21B0) : QChar(0x21B1))
-                             .arg(qRound(std::abs(turn.angle) * Degrees)),
+                             .arg(qRound(std::abs(turn.angle) * DegreesPerRadian)),
                          recording.slot});
     for (const Stroke& stroke : recording.analysis->strokes)
         marks.push_back({stroke.catchTime + offset, stroke.catchTime + offset,

@@ -1,5 +1,6 @@
 #include "boatmotion/strokes/clocks.h"
 #include "desktop/motion/motion_recording.h"
+#include "desktop/shell/shown_number.h"
 
 #include <algorithm>
 #include <cmath>
@@ -11,8 +12,7 @@ namespace kavela::desktop {
 namespace {
 
 using Row = std::vector<double>;
-constexpr double Gravity = 9.80665;                ///< m/s² in a g
-constexpr double Degrees = 180 / std::numbers::pi; ///< in a radian
+constexpr double Gravity = 9.80665; ///< m/s² in a g
 
 std::shared_ptr<const Row> shared(Row row) {
     return std::make_shared<const Row>(std::move(row));
@@ -95,9 +95,12 @@ private:
                  [](const Sample& s) { return s.acceleration.y * Gravity; });
         addOther(CurveKind::AccelerationZ,
                  [](const Sample& s) { return s.acceleration.z * Gravity; });
-        addOther(CurveKind::RotationX, [](const Sample& s) { return s.rotationRate.x * Degrees; });
-        addOther(CurveKind::RotationY, [](const Sample& s) { return s.rotationRate.y * Degrees; });
-        addOther(CurveKind::RotationZ, [](const Sample& s) { return s.rotationRate.z * Degrees; });
+        addOther(CurveKind::RotationX,
+                 [](const Sample& s) { return s.rotationRate.x * DegreesPerRadian; });
+        addOther(CurveKind::RotationY,
+                 [](const Sample& s) { return s.rotationRate.y * DegreesPerRadian; });
+        addOther(CurveKind::RotationZ,
+                 [](const Sample& s) { return s.rotationRate.z * DegreesPerRadian; });
     }
 
     /// The watch has a clock of its own; where the analysis could not relate both, its samples are
@@ -158,9 +161,9 @@ private:
             at(kind) = curve(shared50, std::move(scaled));
         };
         add(CurveKind::Forward, series.forward, 1);
-        add(CurveKind::Turning, series.yawRate, Degrees);
-        add(CurveKind::Roll, series.roll, Degrees);
-        add(CurveKind::Pitch, series.pitch, Degrees);
+        add(CurveKind::Turning, series.yawRate, DegreesPerRadian);
+        add(CurveKind::Roll, series.roll, DegreesPerRadian);
+        add(CurveKind::Pitch, series.pitch, DegreesPerRadian);
         if (analysis.hasSpeed)
             add(CurveKind::HullSpeed, series.speed, 1);
         else

@@ -14,9 +14,9 @@ namespace kavela::desktop {
 
 namespace {
 
-QString tr(const char* text) {
-    return QCoreApplication::translate("OlderRecordings", text);
-}
+struct OlderRecordings {
+    Q_DECLARE_TR_FUNCTIONS(OlderRecordings)
+};
 
 QString convertedBeside(const QString& path, QWidget* over) {
     std::filesystem::path converted;
@@ -34,13 +34,14 @@ std::optional<QString> convertOlderRecording(const QString& path, const Workspac
         QFileInfo(QString::fromStdString(upgradedSessionPath(path.toStdString()).string()))
             .fileName();
     const QString question =
-        tr("“%1” is a recording of version 4. It can be converted to the current version: “%2” is "
-           "written beside it, the recording itself stays as it is.")
+        OlderRecordings::tr(
+            "“%1” is a recording of version 4. It can be converted to the current version: “%2” is "
+            "written beside it, the recording itself stays as it is.")
             .arg(name, target);
     workspace.log()(conversion_messages::NotConverted);
     workspace.log()(path.toStdString() + ": this is a recording of version 4");
     if (!workspace.ask({conversion_messages::NotConverted, question.toStdString()},
-                       tr("Convert and open"), over))
+                       OlderRecordings::tr("Convert and open"), over))
         return std::nullopt;
     std::string reason;
     try {

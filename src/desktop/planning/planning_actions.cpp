@@ -14,10 +14,6 @@ namespace kavela::desktop {
 
 namespace {
 
-QString tr(const char* text) {
-    return PlanningWindow::tr(text);
-}
-
 /// Adds an action that works on the plan, which comes to the front with it.
 void add(QMenu& menu, PlanningWindow& window, const QString& text, const QKeySequence& key,
          const std::function<void(PlanView&)>& act) {
@@ -35,38 +31,42 @@ void showPage(QTabWidget& tabs, const QWidget& page) {
 }
 
 void makeAthleteMenu(PlanningWindow& window) {
-    QMenu* menu = window.menuBar()->addMenu(tr("&Athlete"));
-    menu->addAction(tr("&New athlete…"), QKeySequence::New, &window,
+    QMenu* menu = window.menuBar()->addMenu(PlanningWindow::tr("&Athlete"));
+    menu->addAction(PlanningWindow::tr("&New athlete…"), QKeySequence::New, &window,
                     [&window] { window.askForAthlete(); });
-    menu->addAction(tr("&Edit the athlete…"), &window, [&window] { window.editAthlete(); });
-    menu->addAction(tr("&Remove the athlete"), &window, [&window] { window.removeAthlete(); });
+    menu->addAction(PlanningWindow::tr("&Edit the athlete…"), &window,
+                    [&window] { window.editAthlete(); });
+    menu->addAction(PlanningWindow::tr("&Remove the athlete"), &window,
+                    [&window] { window.removeAthlete(); });
     menu->addSeparator();
-    menu->addAction(tr("New &season"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_N), &window,
+    menu->addAction(PlanningWindow::tr("New &season"),
+                    QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_N), &window,
                     [&window] { window.addSeason(); });
-    menu->addAction(tr("Remove the s&eason"), &window, [&window] { window.removeSeason(); });
+    menu->addAction(PlanningWindow::tr("Remove the s&eason"), &window,
+                    [&window] { window.removeSeason(); });
 }
 
 void makeSessionMenu(PlanningWindow& window) {
-    QMenu& menu = *window.menuBar()->addMenu(tr("&Session"));
-    QAction* const where = menu.addAction(tr("Sessions are in the plan: show &it"), &window,
-                                          [&window] { window.tabs().setCurrentIndex(0); });
+    QMenu& menu = *window.menuBar()->addMenu(PlanningWindow::tr("&Session"));
+    QAction* const where = menu.addAction(PlanningWindow::tr("Sessions are in the plan: show &it"),
+                                          &window, [&window] { window.tabs().setCurrentIndex(0); });
     where->setObjectName("showPlan");
     where->setVisible(false);
-    add(menu, window, tr("&New session…"), QKeySequence(Qt::Key_Insert),
+    add(menu, window, PlanningWindow::tr("&New session…"), QKeySequence(Qt::Key_Insert),
         [](PlanView& plan) { plan.addSession(); });
-    add(menu, window, tr("&Edit the session…"), QKeySequence(Qt::Key_F2),
+    add(menu, window, PlanningWindow::tr("&Edit the session…"), QKeySequence(Qt::Key_F2),
         [](PlanView& plan) { plan.editSession(); });
-    add(menu, window, tr("&Remove the session"), QKeySequence(Qt::CTRL | Qt::Key_Backspace),
-        [](PlanView& plan) { plan.removeSession(); });
+    add(menu, window, PlanningWindow::tr("&Remove the session"),
+        QKeySequence(Qt::CTRL | Qt::Key_Backspace), [](PlanView& plan) { plan.removeSession(); });
     menu.addSeparator();
-    add(menu, window, tr("&Copy the session"), QKeySequence::Copy,
+    add(menu, window, PlanningWindow::tr("&Copy the session"), QKeySequence::Copy,
         [](PlanView& plan) { plan.copySession(); });
-    add(menu, window, tr("&Paste the session"), QKeySequence::Paste,
+    add(menu, window, PlanningWindow::tr("&Paste the session"), QKeySequence::Paste,
         [](PlanView& plan) { plan.pasteSession(); });
-    add(menu, window, tr("Move to the week &before"), QKeySequence(Qt::ALT | Qt::Key_PageUp),
-        [](PlanView& plan) { plan.moveSessionBy(-1); });
-    add(menu, window, tr("Move to the week be&hind"), QKeySequence(Qt::ALT | Qt::Key_PageDown),
-        [](PlanView& plan) { plan.moveSessionBy(1); });
+    add(menu, window, PlanningWindow::tr("Move to the week &before"),
+        QKeySequence(Qt::ALT | Qt::Key_PageUp), [](PlanView& plan) { plan.moveSessionBy(-1); });
+    add(menu, window, PlanningWindow::tr("Move to the week be&hind"),
+        QKeySequence(Qt::ALT | Qt::Key_PageDown), [](PlanView& plan) { plan.moveSessionBy(1); });
     // The tables of the other tabs have these keys for themselves: Insert, F2, copying.
     QObject::connect(&window.tabs(), &QTabWidget::currentChanged, &menu, [&menu, where](int tab) {
         for (QAction* const action : menu.actions())
@@ -76,38 +76,40 @@ void makeSessionMenu(PlanningWindow& window) {
 }
 
 void makeWeekMenu(PlanningWindow& window) {
-    QMenu& menu = *window.menuBar()->addMenu(tr("&Week"));
-    add(menu, window, tr("&Previous week"), QKeySequence(Qt::Key_PageUp),
+    QMenu& menu = *window.menuBar()->addMenu(PlanningWindow::tr("&Week"));
+    add(menu, window, PlanningWindow::tr("&Previous week"), QKeySequence(Qt::Key_PageUp),
         [](PlanView& plan) { plan.stepWeek(-1); });
-    add(menu, window, tr("&Next week"), QKeySequence(Qt::Key_PageDown),
+    add(menu, window, PlanningWindow::tr("&Next week"), QKeySequence(Qt::Key_PageDown),
         [](PlanView& plan) { plan.stepWeek(1); });
-    add(menu, window, tr("&This week"), QKeySequence(Qt::CTRL | Qt::Key_T),
+    add(menu, window, PlanningWindow::tr("&This week"), QKeySequence(Qt::CTRL | Qt::Key_T),
         [](PlanView& plan) { plan.goToToday(); });
     menu.addSeparator();
-    add(menu, window, tr("&Copy the week"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_C),
-        [](PlanView& plan) { plan.copyWeek(); });
-    add(menu, window, tr("Paste the &week"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_V),
-        [](PlanView& plan) { plan.pasteWeek(); });
-    add(menu, window, tr("&Repeat the chosen weeks…"), QKeySequence(Qt::CTRL | Qt::Key_R),
-        [](PlanView& plan) { plan.askToRepeat(); });
-    add(menu, window, tr("&Empty the chosen weeks"), {}, [](PlanView& plan) { plan.clearWeek(); });
-    add(menu, window, tr("P&lan what is in the sessions"), QKeySequence(Qt::CTRL | Qt::Key_L),
-        [](PlanView& plan) { plan.planAsInSessions(); });
+    add(menu, window, PlanningWindow::tr("&Copy the week"),
+        QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_C), [](PlanView& plan) { plan.copyWeek(); });
+    add(menu, window, PlanningWindow::tr("Paste the &week"),
+        QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_V), [](PlanView& plan) { plan.pasteWeek(); });
+    add(menu, window, PlanningWindow::tr("&Repeat the chosen weeks…"),
+        QKeySequence(Qt::CTRL | Qt::Key_R), [](PlanView& plan) { plan.askToRepeat(); });
+    add(menu, window, PlanningWindow::tr("&Empty the chosen weeks"), {},
+        [](PlanView& plan) { plan.clearWeek(); });
+    add(menu, window, PlanningWindow::tr("P&lan what is in the sessions"),
+        QKeySequence(Qt::CTRL | Qt::Key_L), [](PlanView& plan) { plan.planAsInSessions(); });
     menu.addSeparator();
-    add(menu, window, tr("&Add a week at the end"), {}, [](PlanView& plan) { plan.addWeek(); });
-    add(menu, window, tr("Re&move the last week"), {},
+    add(menu, window, PlanningWindow::tr("&Add a week at the end"), {},
+        [](PlanView& plan) { plan.addWeek(); });
+    add(menu, window, PlanningWindow::tr("Re&move the last week"), {},
         [](PlanView& plan) { plan.removeLastWeek(); });
 }
 
 void makeViewMenu(PlanningWindow& window) {
-    QMenu* menu = window.menuBar()->addMenu(tr("&View"));
+    QMenu* menu = window.menuBar()->addMenu(PlanningWindow::tr("&View"));
     QTabWidget& tabs = window.tabs();
     for (int tab = 0; tab < tabs.count(); ++tab)
         menu->addAction(tabs.tabText(tab),
                         QKeySequence(Qt::CTRL | static_cast<Qt::Key>(Qt::Key_1 + tab)), &window,
                         [&tabs, tab] { tabs.setCurrentIndex(tab); });
     menu->addSeparator();
-    menu->addAction(tr("&Find an athlete"), QKeySequence::Find, &window, [&window] {
+    menu->addAction(PlanningWindow::tr("&Find an athlete"), QKeySequence::Find, &window, [&window] {
         window.athletes().search().setFocus();
         window.athletes().search().selectAll();
     });
@@ -116,19 +118,21 @@ void makeViewMenu(PlanningWindow& window) {
 } // namespace
 
 void makePlanningMenus(PlanningWindow& window, QMenu& file) {
-    file.addAction(tr("&Reports: preview, PDF, print…"), QKeySequence::Print, &window,
-                   [&window] { window.previewReports(); });
-    file.addAction(tr("Week as a &calendar file…"), QKeySequence(Qt::CTRL | Qt::Key_E), &window,
+    file.addAction(PlanningWindow::tr("&Reports: preview, PDF, print…"), QKeySequence::Print,
+                   &window, [&window] { window.previewReports(); });
+    file.addAction(PlanningWindow::tr("Week as a &calendar file…"),
+                   QKeySequence(Qt::CTRL | Qt::Key_E), &window,
                    [&window] { window.askForCalendar(); });
-    file.addAction(tr("Import heart-rate &variability…"), &window, [&window] {
+    file.addAction(PlanningWindow::tr("Import heart-rate &variability…"), &window, [&window] {
         showPage(window.tabs(), window.body());
         window.body().showSection(BodyPanel::Variability);
         window.body().askForImport();
     });
     file.addSeparator();
-    file.addAction(tr("Open an o&nline planning…"), &window,
+    file.addAction(PlanningWindow::tr("Open an o&nline planning…"), &window,
                    [&window] { window.askToLoadOnline(); });
-    file.addAction(tr("Sa&ve online…"), &window, [&window] { window.askToSaveOnline(); });
+    file.addAction(PlanningWindow::tr("Sa&ve online…"), &window,
+                   [&window] { window.askToSaveOnline(); });
     makeAthleteMenu(window);
     makeSessionMenu(window);
     makeWeekMenu(window);
@@ -139,7 +143,8 @@ Commands planningCommands(PlanningWindow& window) {
     Commands commands;
     const auto& athletes = window.document().athletes();
     for (std::size_t i = 0; i < athletes.size(); ++i)
-        commands.push_back({QString::fromStdString(athletes[i].name), tr("Athletes"), QString(),
+        commands.push_back({QString::fromStdString(athletes[i].name),
+                            PlanningWindow::tr("Athletes"), QString(),
                             [&window, i] { window.athletes().chooseAthlete(i); }});
     return commands;
 }

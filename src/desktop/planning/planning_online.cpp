@@ -20,8 +20,7 @@ namespace kavela::desktop {
 
 namespace {
 
-constexpr int ToldMilliseconds = 8000;
-constexpr const char* EntriesKey = "planningOnline";
+constexpr int SavedMilliseconds = 8000;
 
 QByteArray bytesOf(const std::string& text) {
     return QByteArray::fromStdString(text);
@@ -81,7 +80,7 @@ void PlanningWindow::saveOnline(const OnlineAddress& address, const QString& ent
     connect(saving, &OnlineSaving::saved, this, [this, place, entry](const OnlineState& state) {
         m_states.set(place, state);
         m_states.keepWith(m_document->path());
-        statusBar()->showMessage(tr("“%1” is saved online.").arg(entry), ToldMilliseconds);
+        statusBar()->showMessage(tr("“%1” is saved online.").arg(entry), SavedMilliseconds);
         emit onlineSaved(true);
     });
     connect(saving, &OnlineSaving::failed, this, [this](const QString& reason) {
@@ -137,10 +136,10 @@ void PlanningWindow::saveOnlineUnderAnotherName(const OnlineAddress& address,
         emit onlineSaved(false);
         return;
     }
-    std::vector<std::string> entries = workspace().preferences().array(EntriesKey);
+    std::vector<std::string> entries = workspace().preferences().array(SharedPlanningsKey);
     if (std::ranges::find(entries, name.toStdString()) == entries.end()) {
         entries.push_back(name.toStdString());
-        workspace().setPreference(EntriesKey, entries);
+        workspace().setPreference(SharedPlanningsKey, entries);
     }
     saveOnline(address, name);
 }

@@ -3,6 +3,7 @@
 #include "analysis/athlete_potential.h"
 #include "analysis/ideal_run.h"
 #include "desktop/race/race_document.h"
+#include "desktop/shell/qt_text.h"
 #include "desktop/shell/shown_number.h"
 #include "desktop/shell/tables/column_table.h"
 #include "desktop/shell/theme.h"
@@ -15,10 +16,6 @@
 namespace kavela::desktop {
 
 namespace {
-
-QString qtText(const std::string& text) {
-    return QString::fromStdString(text);
-}
 
 QString timeOrDash(const std::optional<double>& seconds) {
     return seconds && *seconds != 0 ? shownHundredths(*seconds) : "–";

@@ -54,7 +54,7 @@ SensorSeries seriesOf(const QString& name, const QString& unit, const List& list
     return {name, unit, std::move(times), std::move(values), slot};
 }
 
-QLabel* wrapped(const QFont& font) {
+QLabel* wrappedLabel(const QFont& font) {
     auto* label = new QLabel;
     label->setFont(font);
     label->setWordWrap(true);
@@ -62,7 +62,7 @@ QLabel* wrapped(const QFont& font) {
     return label;
 }
 
-QTableWidget* makeSections() {
+QTableWidget* makeMotionTable() {
     auto* table = new QTableWidget(0, ColumnCount);
     table->setObjectName("motion");
     table->setHorizontalHeaderLabels({MotionPanel::tr("Section"), MotionPanel::tr("Strokes"),
@@ -84,9 +84,9 @@ QTableWidget* makeSections() {
 MotionPanel::MotionPanel(RaceDocument& document, QWidget* parent)
     : QWidget(parent),
       m_document(document),
-      m_name(wrapped(theme::titleFont(*this))),
-      m_note(wrapped(theme::captionFont(*this))),
-      m_sections(makeSections()),
+      m_name(wrappedLabel(theme::titleFont(*this))),
+      m_note(wrappedLabel(theme::captionFont(*this))),
+      m_sections(makeMotionTable()),
       m_speed(new SensorChart),
       m_rate(new SensorChart),
       m_heart(new SensorChart) {

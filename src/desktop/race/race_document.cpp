@@ -2,6 +2,7 @@
 
 #include "analysis/followed_runs.h"
 #include "analysis/open_race.h"
+#include "desktop/shell/qt_text.h"
 #include "desktop/shell/workspace.h"
 
 #include <QFileInfo>
@@ -13,10 +14,6 @@ namespace kavela::desktop {
 namespace fs = std::filesystem;
 
 namespace {
-
-QString qtText(const std::string& text) {
-    return QString::fromStdString(text);
-}
 
 QString upgradeNote(const OpenedRace& race) {
     if (race.foundAs == &documentVersions().front())

@@ -1,6 +1,7 @@
 #include "desktop/race/race_header.h"
 
 #include "desktop/race/race_document.h"
+#include "desktop/shell/qt_text.h"
 #include "desktop/shell/theme.h"
 
 #include <QComboBox>
@@ -15,10 +16,6 @@
 namespace kavela::desktop {
 
 namespace {
-
-QString qtText(const std::string& text) {
-    return QString::fromStdString(text);
-}
 
 /// Refills a filter with the values that the runs have, the choice of all in front.
 void fill(QComboBox& box, const QString& all, const RaceSet& set, std::string analyzerdata::*field,

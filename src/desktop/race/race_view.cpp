@@ -12,6 +12,7 @@
 #include "desktop/race/run_chooser.h"
 #include "desktop/race/run_panel.h"
 #include "desktop/race/table_export.h"
+#include "desktop/shell/qt_text.h"
 #include "desktop/shell/tables/column_layout.h"
 #include "desktop/shell/theme.h"
 #include "desktop/shell/window_place.h"
@@ -40,11 +41,7 @@ namespace {
 
 constexpr const char* ColumnsKey = "raceColumns";
 
-QString qtText(const std::string& text) {
-    return QString::fromStdString(text);
-}
-
-QLabel* quietLabel() {
+QLabel* noteLabel() {
     auto* label = new QLabel;
     label->setTextFormat(Qt::PlainText);
     label->setForegroundRole(QPalette::PlaceholderText);
@@ -143,7 +140,7 @@ QWidget* RaceView::makeSide() {
 }
 
 QWidget* RaceView::makeNoteBar() {
-    m_note = quietLabel();
+    m_note = noteLabel();
     m_note->setObjectName("note");
     m_note->setWordWrap(true);
     m_reload = new QPushButton(tr("Open it again"));

@@ -1,5 +1,6 @@
 #include "desktop/race/run_chooser.h"
 
+#include "desktop/shell/qt_text.h"
 #include "desktop/shell/shown_number.h"
 #include "desktop/shell/theme.h"
 #include "desktop/shell/workspace.h"
@@ -21,12 +22,8 @@ namespace kavela::desktop {
 
 namespace {
 
-constexpr int RunRole = Qt::UserRole;
+constexpr int ChoiceRole = Qt::UserRole;
 constexpr int PathRole = Qt::UserRole;
-
-QString qtText(const std::string& text) {
-    return QString::fromStdString(text);
-}
 
 QString lineOf(const analyzerdata& run) {
     QStringList parts{qtText(run.name), qtText(run.category), qtText(run.phase)};
@@ -252,7 +249,7 @@ void RunChooser::filter() {
         if (!line.contains(m_name->text().trimmed(), Qt::CaseInsensitive))
             continue;
         auto* item = new QListWidgetItem(line, m_runs);
-        item->setData(RunRole, QVariant::fromValue(i));
+        item->setData(ChoiceRole, QVariant::fromValue(i));
         item->setToolTip(line);
     }
     m_runs->setCurrentRow(0);
@@ -264,7 +261,7 @@ void RunChooser::updateButtons() {
 }
 
 const analyzerdata& RunChooser::run() const {
-    const auto index = m_runs->currentItem()->data(RunRole).value<std::size_t>();
+    const auto index = m_runs->currentItem()->data(ChoiceRole).value<std::size_t>();
     return m_race->set.alldata[index];
 }
 

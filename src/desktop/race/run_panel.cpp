@@ -3,6 +3,7 @@
 #include "analysis/athlete_potential.h"
 #include "analysis/standing.h"
 #include "desktop/race/race_document.h"
+#include "desktop/shell/qt_text.h"
 #include "desktop/shell/shown_number.h"
 #include "desktop/shell/tables/column_table.h"
 #include "desktop/shell/theme.h"
@@ -16,10 +17,6 @@
 namespace kavela::desktop {
 
 namespace {
-
-QString qtText(const std::string& text) {
-    return QString::fromStdString(text);
-}
 
 QString timeOrDash(double seconds) {
     return seconds == 0 ? "–" : shownHundredths(seconds);

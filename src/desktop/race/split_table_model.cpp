@@ -1,6 +1,7 @@
 #include "desktop/race/split_table_model.h"
 
 #include "desktop/race/cell_colours.h"
+#include "desktop/shell/qt_text.h"
 #include "desktop/shell/shown_number.h"
 #include "desktop/shell/tables/column_layout.h"
 #include "desktop/shell/theme.h"
@@ -14,14 +15,6 @@
 #include <numeric>
 
 namespace kavela::desktop {
-
-namespace {
-
-QString qtText(const std::string& text) {
-    return QString::fromStdString(text);
-}
-
-} // namespace
 
 SplitTableModel::SplitTableModel(RaceDocument& document, QObject* parent)
     : QAbstractTableModel(parent), m_document(document) {

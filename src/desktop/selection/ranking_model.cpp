@@ -1,6 +1,7 @@
 #include "desktop/selection/ranking_model.h"
 
 #include "desktop/selection/selection_document.h"
+#include "desktop/shell/qt_text.h"
 #include "desktop/shell/shown_number.h"
 #include "desktop/shell/typed_number.h"
 #include "desktop/team/typed_values.h"
@@ -11,10 +12,6 @@
 namespace kavela::desktop {
 
 namespace {
-
-QString qtText(const std::string& text) {
-    return QString::fromStdString(text);
-}
 
 /// A name or a club may be longer than its column.
 Cell withTip(const QString& text) {

@@ -1,5 +1,6 @@
 #include "desktop/selection/runs_to_enter.h"
 
+#include "desktop/shell/qt_text.h"
 #include "desktop/shell/shown_number.h"
 #include "results/athlete_keys.h"
 #include "results/name_likeness.h"
@@ -15,10 +16,6 @@ namespace {
 
 QString tr(const char* text) {
     return QCoreApplication::translate("RunsToEnter", text);
-}
-
-QString qtText(const std::string& text) {
-    return QString::fromStdString(text);
 }
 
 QString resultText(double time, std::int64_t penalty) {

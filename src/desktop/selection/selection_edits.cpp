@@ -1,6 +1,7 @@
 #include "desktop/selection/selection_window.h"
 
 #include "desktop/selection/athlete_dialog.h"
+#include "desktop/shell/qt_text.h"
 #include "desktop/shell/tables/column_layout.h"
 #include "desktop/shell/tables/column_table.h"
 #include "desktop/shell/tables/table_text.h"
@@ -20,14 +21,6 @@
 
 /// What the menus of the selection do to its document.
 namespace kavela::desktop {
-
-namespace {
-
-QString qtText(const std::string& text) {
-    return QString::fromStdString(text);
-}
-
-} // namespace
 
 void SelectionWindow::makeMenus() {
     makeReportMenu(*makeFileMenu());

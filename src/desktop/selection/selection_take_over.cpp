@@ -2,6 +2,7 @@
 #include "common/text_file.h"
 #include "desktop/selection/selection_window.h"
 #include "desktop/selection/take_over_dialog.h"
+#include "desktop/shell/qt_text.h"
 #include "desktop/shell/workspace.h"
 #include "results/messages.h"
 #include "results/selection_attach.h"
@@ -13,14 +14,6 @@
 
 /// What files bring into a selection: athletes, and results that are looked at first.
 namespace kavela::desktop {
-
-namespace {
-
-QString qtText(const std::string& text) {
-    return QString::fromStdString(text);
-}
-
-} // namespace
 
 void SelectionWindow::importAthletesFrom(const QString& path) {
     try {

@@ -2,6 +2,7 @@
 
 #include "desktop/selection/athlete_dialog.h"
 #include "desktop/selection/why_panel.h"
+#include "desktop/shell/qt_text.h"
 #include "desktop/shell/tables/column_table.h"
 #include "desktop/shell/theme.h"
 #include "desktop/shell/window_place.h"
@@ -26,14 +27,6 @@
 #include <algorithm>
 
 namespace kavela::desktop {
-
-namespace {
-
-QString qtText(const std::string& text) {
-    return QString::fromStdString(text);
-}
-
-} // namespace
 
 SelectionWindow::SelectionWindow(Workspace& workspace, Autosave autosave)
     : ToolWindow(workspace, &m_document, {"selection", tr("Selection races"), "kvsr"}),

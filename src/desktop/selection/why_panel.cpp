@@ -2,6 +2,7 @@
 
 #include "desktop/selection/ranking_model.h"
 #include "desktop/selection/selection_document.h"
+#include "desktop/shell/qt_text.h"
 #include "desktop/shell/shown_number.h"
 #include "desktop/shell/tables/column_table.h"
 #include "desktop/shell/theme.h"
@@ -13,10 +14,6 @@
 namespace kavela::desktop {
 
 namespace {
-
-QString qtText(const std::string& text) {
-    return QString::fromStdString(text);
-}
 
 QString hundredths(double value) {
     return shownHundredths(value);

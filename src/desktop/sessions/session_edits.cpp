@@ -15,7 +15,7 @@ namespace kavela::desktop {
 
 namespace {
 
-constexpr int MessageMilliseconds = 6000;
+constexpr int EditToldMilliseconds = 6000;
 constexpr double SamePlace = 1e-6; // s: what is closer is the same moment
 
 } // namespace
@@ -67,7 +67,7 @@ void SessionWindow::setMarksTo(const QString& what, std::vector<double> marks) {
     const std::size_t count = m_document->value().marks.size();
     statusBar()->showMessage(count < 2 ? tr("%1 marks: two make a segment").arg(count)
                                        : tr("%1 segments").arg(count - 1),
-                             MessageMilliseconds);
+                             EditToldMilliseconds);
 }
 
 void SessionWindow::mark() {
@@ -117,14 +117,14 @@ void SessionWindow::moveMark(double seconds) {
     std::vector<double> marks = m_document->value().marks;
     const double moved = std::clamp(marks[*place] + seconds, m_replay->from(), m_replay->to());
     if (hasMarkAt(moved)) {
-        statusBar()->showMessage(tr("There is a mark already"), MessageMilliseconds);
+        statusBar()->showMessage(tr("There is a mark already"), EditToldMilliseconds);
         return;
     }
     marks[*place] = moved;
     setMarksTo(tr("move of a mark"), std::move(marks));
     m_replay->setMoment(moved);
     statusBar()->showMessage(tr("Mark at %1").arg(momentText(moved - m_replay->from(), 1)),
-                             MessageMilliseconds);
+                             EditToldMilliseconds);
 }
 
 void SessionWindow::moveMarkHere() {

@@ -23,7 +23,7 @@ namespace kavela::desktop {
 
 namespace {
 
-constexpr int MessageMilliseconds = 10000;
+constexpr int FileToldMilliseconds = 10000;
 
 bool isRecording(const QString& path) {
     return QFileInfo(path).suffix().compare("kvb", Qt::CaseInsensitive) == 0;
@@ -196,7 +196,7 @@ void SessionWindow::wasSaved() {
         return;
     m_document->undoStack().resetClean();
     statusBar()->showMessage(tr("Saved without the power meter's data, which are still here."),
-                             MessageMilliseconds);
+                             FileToldMilliseconds);
 }
 
 QString SessionWindow::askWhereTo(const QString& title, const QString& filter,
@@ -221,7 +221,7 @@ void SessionWindow::tellSaved(const QString& path) {
     workspace().log()(conversion_messages::Saved);
     statusBar()->showMessage(QString(conversion_messages::Saved) + ' ' +
                                  QDir::toNativeSeparators(path),
-                             MessageMilliseconds);
+                             FileToldMilliseconds);
 }
 
 void SessionWindow::askAndSaveRecording() {

@@ -1,21 +1,20 @@
 #include "desktop/sessions/session_series.h"
 
+#include "desktop/shell/shown_number.h"
+
 #include <QCoreApplication>
 
 #include <algorithm>
 #include <cmath>
 #include <functional>
-#include <numbers>
 
 namespace kavela::desktop {
 
 namespace {
 
-constexpr double DegreesPerRadian = 180 / std::numbers::pi;
-
-QString tr(const char* text) {
-    return QCoreApplication::translate("SessionSeries", text);
-}
+struct SessionSeries {
+    Q_DECLARE_TR_FUNCTIONS(SessionSeries)
+};
 
 /// Collects a curve.
 class Curve {
@@ -70,14 +69,14 @@ SensorSeries member(const EditedSession& session, const SessionFigures& figures,
 }
 
 std::vector<SensorSeries> powers(const EditedSession& session, const SessionFigures& figures) {
-    std::vector<SensorSeries> series{
-        member(session, figures, tr("Power"), tr("W"), 3, &StrokeFigures::power)};
+    std::vector<SensorSeries> series{member(session, figures, SessionSeries::tr("Power"),
+                                            SessionSeries::tr("W"), 3, &StrokeFigures::power)};
     if (session.powerMeter.empty())
         return series;
     Curve meter(figures.moments.from);
     for (const powermeterData& sample : session.powerMeter)
         meter.add(sample.dateDouble, sample.power);
-    series.push_back(meter.series(tr("Power meter"), tr("W"), 5));
+    series.push_back(meter.series(SessionSeries::tr("Power meter"), SessionSeries::tr("W"), 5));
     return series;
 }
 
@@ -93,24 +92,24 @@ ValueOfStroke withBow(const EditedSession& session, double smartStraight_v3::*va
 }
 
 std::vector<SensorSeries> phases(const EditedSession& session, const SessionFigures& figures) {
-    return {strokeCurve(session, figures, tr("Water phase"), tr("s"), 0,
-                        withBow(session, &smartStraight_v3::waterPhase)),
-            strokeCurve(session, figures, tr("Aerial phase"), tr("s"), 1,
-                        withBow(session, &smartStraight_v3::aerealPhase))};
+    return {strokeCurve(session, figures, SessionSeries::tr("Water phase"), SessionSeries::tr("s"),
+                        0, withBow(session, &smartStraight_v3::waterPhase)),
+            strokeCurve(session, figures, SessionSeries::tr("Aerial phase"), SessionSeries::tr("s"),
+                        1, withBow(session, &smartStraight_v3::aerealPhase))};
 }
 
 SensorSeries speed(const SessionFigures& figures) {
     Curve curve(figures.moments.from);
     for (const TrackPlace& point : figures.track)
         curve.add(point.time, point.speed > 0 ? std::optional(point.speed) : std::nullopt);
-    return curve.series(tr("Speed"), tr("m/s"), 2);
+    return curve.series(SessionSeries::tr("Speed"), SessionSeries::tr("m/s"), 2);
 }
 
 SensorSeries heart(const SessionFigures& figures) {
     Curve curve(figures.moments.from);
     for (const auto& [moment, rate] : figures.heart)
         curve.add(moment, rate);
-    return curve.series(tr("Heart rate"), tr("1/min"), 5);
+    return curve.series(SessionSeries::tr("Heart rate"), SessionSeries::tr("1/min"), 5);
 }
 
 SensorSeries pitch(const EditedSession& session, const SessionFigures& figures) {
@@ -119,7 +118,7 @@ SensorSeries pitch(const EditedSession& session, const SessionFigures& figures) 
         if (session.isBowKnown)
             curve.add(turn.time,
                       session.session.strokesData[turn.entry].rotation.avePitch * DegreesPerRadian);
-    return curve.series(tr("Pitch in turns"), tr("°"), 4);
+    return curve.series(SessionSeries::tr("Pitch in turns"), SessionSeries::tr("°"), 4);
 }
 
 } // namespace
@@ -128,12 +127,15 @@ std::vector<SensorSeries> seriesFor(SessionMeasure measure, const EditedSession&
                                     const SessionFigures& figures) {
     switch (measure) {
     case SessionMeasure::StrokeRate:
-        return {strokeCurve(session, figures, tr("Stroke rate"), tr("1/min"), 0,
+        return {strokeCurve(session, figures, SessionSeries::tr("Stroke rate"),
+                            SessionSeries::tr("1/min"), 0,
                             [](const StrokeFigures& stroke, const auto&) { return stroke.rate; })};
     case SessionMeasure::Force:
-        return {member(session, figures, tr("Force"), tr("N"), 1, &StrokeFigures::force)};
+        return {member(session, figures, SessionSeries::tr("Force"), SessionSeries::tr("N"), 1,
+                       &StrokeFigures::force)};
     case SessionMeasure::Impulse:
-        return {member(session, figures, tr("Impulse"), tr("N·s"), 4, &StrokeFigures::impulse)};
+        return {member(session, figures, SessionSeries::tr("Impulse"), SessionSeries::tr("N·s"), 4,
+                       &StrokeFigures::impulse)};
     case SessionMeasure::Power:
         return powers(session, figures);
     case SessionMeasure::Speed:
@@ -143,7 +145,8 @@ std::vector<SensorSeries> seriesFor(SessionMeasure measure, const EditedSession&
     case SessionMeasure::Phases:
         return phases(session, figures);
     case SessionMeasure::Roll:
-        return {strokeCurve(session, figures, tr("Roll of the stroke"), tr("°"), 3,
+        return {strokeCurve(session, figures, SessionSeries::tr("Roll of the stroke"),
+                            SessionSeries::tr("°"), 3,
                             withBow(session, &smartStraight_v3::roll, DegreesPerRadian))};
     case SessionMeasure::Pitch:
         return {pitch(session, figures)};

@@ -10,9 +10,9 @@ namespace kavela::desktop {
 
 namespace {
 
-QString tr(const char* text) {
-    return QCoreApplication::translate("SessionTexts", text);
-}
+struct SessionTexts {
+    Q_DECLARE_TR_FUNCTIONS(SessionTexts)
+};
 
 } // namespace
 
@@ -28,8 +28,8 @@ QString valueText(std::optional<double> value, int decimals) {
 
 QString sideText(std::int64_t hand) {
     if (hand == LeftHand)
-        return tr("left");
-    return hand == RightHand ? tr("right") : tr("side unknown");
+        return SessionTexts::tr("left");
+    return hand == RightHand ? SessionTexts::tr("right") : SessionTexts::tr("side unknown");
 }
 
 QString cellText(const kavela::Cell& cell, int decimals) {
@@ -52,13 +52,16 @@ QStringList remarksOn(const EditedSession& edited) {
     for (const std::string& note : edited.notes)
         remarks.append(QString::fromStdString(note));
     if (!edited.isBowKnown && edited.notes.empty())
-        remarks.append(tr("Side unknown: when the session was made, it was not known which side of "
-                          "the phone points to the bow."));
+        remarks.append(SessionTexts::tr(
+            "Side unknown: when the session was made, it was not known which side of "
+            "the phone points to the bow."));
     if (edited.isClockGuessed && !edited.session.gps.empty())
-        remarks.append(tr("The file does not tell how the clocks of strokes and fixes go together: "
-                          "they were fitted by the turns and may be some seconds apart."));
+        remarks.append(SessionTexts::tr(
+            "The file does not tell how the clocks of strokes and fixes go together: "
+            "they were fitted by the turns and may be some seconds apart."));
     if (!edited.powerMeter.empty())
-        remarks.append(tr("Power-meter data is not in the strokes yet; you are asked on saving."));
+        remarks.append(SessionTexts::tr(
+            "Power-meter data is not in the strokes yet; you are asked on saving."));
     return remarks;
 }
 

@@ -37,7 +37,7 @@ std::optional<std::string> contentOf(const QString& path) {
     return file.readAll().toStdString();
 }
 
-std::string reasonOf(const std::exception_ptr& fault) {
+std::string messageOf(const std::exception_ptr& fault) {
     try {
         std::rethrow_exception(fault);
     } catch (const std::exception& error) {
@@ -64,7 +64,7 @@ void write(const QString& slot, const Autosave::Label& label, const Autosave::Co
     writeFileSafely((slot + ".work").toStdString(), text);
 }
 
-QString textOf(const QString& path) {
+QString lineOf(const QString& path) {
     return QString::fromStdString(contentOf(path).value_or(std::string()));
 }
 
@@ -73,7 +73,7 @@ std::optional<Autosave::Found> foundAt(const QString& place, bool isGivenUp) {
     if (!content)
         return std::nullopt;
     return Autosave::Found{
-        {textOf(place + ".path"), textOf(place + ".tool"), textOf(place + ".note")},
+        {lineOf(place + ".path"), lineOf(place + ".tool"), lineOf(place + ".note")},
         QFileInfo(place + ".work").lastModified(),
         std::move(*content),
         place,
@@ -110,7 +110,7 @@ void Autosave::keep(const Label& label, Content content, QObject* context, Faile
         },
         [failed = std::move(failed)](std::exception_ptr fault) {
             if (fault)
-                failed(reasonOf(fault));
+                failed(messageOf(fault));
         });
 }
 

@@ -1,5 +1,6 @@
 #include "desktop/shell/command_palette.h"
 
+#include "desktop/shell/key_list.h"
 #include "desktop/shell/theme.h"
 
 #include <QAction>
@@ -21,15 +22,8 @@ namespace {
 
 /// More than these are not read; a further letter is typed sooner.
 constexpr std::size_t MostShown = 100;
-constexpr int Width = 560;
-constexpr int Height = 420;
-
-QString plainTitle(QString text) {
-    text.remove('&');
-    if (text.endsWith(u'…'))
-        text.chop(1);
-    return text;
-}
+constexpr int PaletteWidth = 560;
+constexpr int PaletteHeight = 420;
 
 void collect(const QList<QAction*>& actions, const QString& group, Commands& commands) {
     for (QAction* action : actions) {
@@ -145,10 +139,10 @@ CommandPalette::CommandPalette(Commands commands, QWidget* parent)
     column->addWidget(m_list, 1);
     connect(m_query, &QLineEdit::textChanged, this, &CommandPalette::show);
     connect(m_list, &QListWidget::itemClicked, this, &CommandPalette::runCurrent);
-    resize(Width, Height);
+    resize(PaletteWidth, PaletteHeight);
     if (parent) {
         const QRect over = parent->window()->frameGeometry();
-        move(over.center().x() - Width / 2, over.top() + over.height() / 8);
+        move(over.center().x() - PaletteWidth / 2, over.top() + over.height() / 8);
     }
     show(QString());
 }

@@ -24,6 +24,8 @@ QThreadPool& worker() {
     return pool;
 }
 
+} // namespace
+
 std::exception_ptr faultOf(const std::function<void()>& task) {
     try {
         task();
@@ -32,8 +34,6 @@ std::exception_ptr faultOf(const std::function<void()>& task) {
         return std::current_exception();
     }
 }
-
-} // namespace
 
 void run(std::function<void()> task) {
     worker().start([task = std::move(task)] { (void)faultOf(task); });

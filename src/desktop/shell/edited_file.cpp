@@ -34,16 +34,6 @@ std::string reasonOf(const std::exception_ptr& fault) {
     }
 }
 
-/// Runs a part of writing; what it throws is told later, on the interface thread.
-std::exception_ptr faultOf(const std::function<void()>& part) {
-    try {
-        part();
-        return nullptr;
-    } catch (...) {
-        return std::current_exception();
-    }
-}
-
 QString shownMoment(const QDateTime& moment) {
     const QDate today = QDate::currentDate();
     const QString time = moment.toString("HH:mm");
@@ -207,7 +197,7 @@ void EditedFile::tellNotWritten(const std::string& reason, QWidget* over) const 
 }
 
 bool EditedFile::written(const std::function<void()>& write, QWidget* over) const {
-    const std::exception_ptr fault = faultOf(write);
+    const std::exception_ptr fault = disk::faultOf(write);
     if (fault)
         tellNotWritten(reasonOf(fault), over);
     return !fault;
@@ -328,10 +318,10 @@ std::shared_ptr<EditedFile::Writing> EditedFile::write(const QString& path, QWid
     m_writing = writing;
     const auto task = [writing, content = contentNow(), beside = besideNow()] {
         const std::filesystem::path file = writing->path.toStdString();
-        writing->fault = faultOf([&] { writeFileSafely(file, content()); });
+        writing->fault = disk::faultOf([&] { writeFileSafely(file, content()); });
         writing->written = FileStamp(writing->path);
         if (!writing->fault && beside)
-            writing->besideFault = faultOf([&] { beside(file); });
+            writing->besideFault = disk::faultOf([&] { beside(file); });
     };
     disk::run(this, task,
               [this, writing](const std::exception_ptr&) { (void)finish(*writing, false); });

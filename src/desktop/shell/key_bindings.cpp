@@ -20,7 +20,7 @@ namespace kavela::desktop {
 
 namespace {
 
-QString plainTitle(QString text) {
+QString bindingTitle(QString text) {
     return text.remove('&').remove(u'…');
 }
 
@@ -30,7 +30,7 @@ void collect(const QMenu& menu, const QString& path, std::vector<KeyBinding>& bi
             collect(*action->menu(), path, bindings);
         else if (!action->isSeparator() && !action->text().isEmpty())
             bindings.push_back(
-                {action, path + '/' + plainTitle(action->text()), action->shortcuts()});
+                {action, path + '/' + bindingTitle(action->text()), action->shortcuts()});
     }
 }
 
@@ -74,7 +74,7 @@ std::vector<KeyBinding> applyKeyBindings(QMainWindow& window, const Workspace& w
     std::vector<KeyBinding> bindings;
     for (const QAction* menu : window.menuBar()->actions())
         if (menu->menu())
-            collect(*menu->menu(), plainTitle(menu->text()), bindings);
+            collect(*menu->menu(), bindingTitle(menu->text()), bindings);
     for (const QString& line : workspace.remembered("keys/" + kind)) {
         const QString name = line.section('\t', 0, 0);
         const auto found = std::ranges::find(bindings, name, &KeyBinding::name);

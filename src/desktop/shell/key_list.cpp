@@ -25,6 +25,13 @@ void collect(const QList<QAction*>& actions, QWidget* part, KeyGroup& group,
 
 } // namespace
 
+QString plainTitle(QString text) {
+    text.remove('&');
+    if (text.endsWith(u'…'))
+        text.chop(1);
+    return text;
+}
+
 QList<KeyGroup> keyGroups(const QMainWindow& window) {
     QList<KeyGroup> groups;
     QSet<const QAction*> seen;

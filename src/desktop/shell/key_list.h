@@ -20,6 +20,8 @@ struct KeyGroup {
     QList<ListedKey> keys;
 };
 
+/// The text of an action without its marks: "Open" of "&Open…".
+[[nodiscard]] QString plainTitle(QString text);
 /// All keys of a window: those of its menus, menu by menu, then those of its visible parts.
 [[nodiscard]] QList<KeyGroup> keyGroups(const QMainWindow& window);
 

@@ -21,13 +21,6 @@ namespace kavela::desktop {
 
 namespace {
 
-QString plainTitle(QString text) {
-    text.remove('&');
-    if (text.endsWith(u'…'))
-        text.chop(1);
-    return text;
-}
-
 /// A key and what it does.
 struct Line {
     QString key;

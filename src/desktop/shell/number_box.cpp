@@ -53,10 +53,6 @@ bool refuses(Box& box, const QString& text, const Read& read) {
     }
 }
 
-bool isEnter(const QKeyEvent& event) {
-    return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
-}
-
 template <class Box, class Value>
 void showUnlessTyped(Box& box, const QLineEdit& edit, Value value) {
     const bool isTyped = box.hasFocus() && edit.isModified();
@@ -67,6 +63,10 @@ void showUnlessTyped(Box& box, const QLineEdit& edit, Value value) {
 }
 
 } // namespace
+
+bool isEnter(const QKeyEvent& key) {
+    return key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter;
+}
 
 /// A number that is half typed is none yet.
 NumberBox::NumberBox(QWidget* parent) : QDoubleSpinBox(parent) {

@@ -5,6 +5,9 @@
 
 namespace kavela::desktop {
 
+/// Whether a key is one of the two that take what was typed.
+[[nodiscard]] bool isEnter(const QKeyEvent& key);
+
 /// A number with steps. It is typed with a decimal point or comma, whatever the system writes, and
 /// shown with the sign of the system. What is no number of its range stays in the box, which says
 /// why; the value is then the one from before.

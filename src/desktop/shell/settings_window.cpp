@@ -1,6 +1,7 @@
 #include "desktop/shell/settings_window.h"
 
 #include "desktop/shell/number_box.h"
+#include "desktop/shell/qt_text.h"
 #include "desktop/shell/scheme.h"
 #include "desktop/shell/theme.h"
 #include "desktop/shell/workspace.h"
@@ -54,10 +55,6 @@ const PreferenceEntry& entryOf(std::string_view key) {
     const auto table = preferenceTable();
     return *std::find_if(table.begin(), table.end(),
                          [&](const PreferenceEntry& entry) { return entry.key == key; });
-}
-
-QString qtText(std::string_view text) {
-    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
 }
 
 /// Nothing to choose, and worth knowing where memory is short.

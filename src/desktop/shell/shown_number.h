@@ -2,6 +2,7 @@
 
 #include <QString>
 
+#include <numbers>
 #include <string>
 
 /// Numbers as the windows show them: with the decimal sign of the system, which is a comma or
@@ -20,5 +21,8 @@ namespace kavela::desktop {
 [[nodiscard]] QString shownHundredths(double seconds);
 /// The same with a dash where there is none, which is what 0 stands for.
 [[nodiscard]] QString hundredthsOrDash(double seconds);
+
+/// Angles are recorded in radians and shown in degrees.
+inline constexpr double DegreesPerRadian = 180 / std::numbers::pi;
 
 } // namespace kavela::desktop

@@ -7,9 +7,9 @@
 namespace kavela::desktop {
 
 namespace {
-constexpr int Width = 300;
+constexpr int TileWidth = 300;
 constexpr int LeastWidth = 236; ///< three beside each other on a small screen
-constexpr int Height = 104;
+constexpr int TileHeight = 104;
 constexpr int IconSize = 40;
 constexpr int Radius = 8;
 } // namespace
@@ -22,16 +22,16 @@ Tile::Tile(const Tool& tool, QWidget* parent) : QAbstractButton(parent), m_purpo
     setCursor(Qt::PointingHandCursor);
     setFocusPolicy(Qt::StrongFocus);
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
-    setMaximumWidth(Width);
+    setMaximumWidth(TileWidth);
     connect(this, &QAbstractButton::clicked, this, tool.open);
 }
 
 QSize Tile::sizeHint() const {
-    return {Width, Height};
+    return {TileWidth, TileHeight};
 }
 
 QSize Tile::minimumSizeHint() const {
-    return {LeastWidth, Height};
+    return {LeastWidth, TileHeight};
 }
 
 void Tile::paintEvent(QPaintEvent*) {

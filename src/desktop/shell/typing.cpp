@@ -37,7 +37,7 @@ QWidget* placeOf(QWidget& field) {
     return table && table->viewport() == above ? table : &field;
 }
 
-bool isCell(QLineEdit& line) {
+bool isCellEditor(QLineEdit& line) {
     return placeOf(line) != &line;
 }
 
@@ -62,7 +62,7 @@ bool endTyping() {
     auto* const field = qobject_cast<QLineEdit*>(focus);
     if (number) {
         takeNumber(*number);
-    } else if (field && isCell(*field)) {
+    } else if (field && isCellEditor(*field)) {
         focus->clearFocus(); // the table takes it
     } else if (field) {
         takeLine(*field);

@@ -4,6 +4,7 @@
 #include "common/record_equality.h"
 #include "common/safe_file.h"
 #include "desktop/shell/file_names.h"
+#include "desktop/shell/qt_text.h"
 #include "desktop/shell/workspace.h"
 #include "desktop/splitfile/film_places.h"
 #include "desktop/splitfile/kept_work.h"
@@ -41,10 +42,6 @@ void takeFilmName(athletedata031& run, const std::string& pattern) {
     run.names = std::move(facts.names);
     run.phase = std::move(facts.phase);
     run.cat = std::move(facts.category);
-}
-
-QString qtText(const std::string& text) {
-    return QString::fromStdString(text);
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 #include "desktop/taking/course_dialog.h"
 
 #include "desktop/shell/number_box.h"
+#include "desktop/shell/qt_text.h"
 #include "desktop/shell/theme.h"
 #include "desktop/shell/workspace.h"
 #include "splittaking/course_setup.h"
@@ -24,10 +25,6 @@ namespace {
 enum SectionColumn { TitleColumn, GatesColumn };
 
 constexpr qint64 ReferenceEpoch = 978307200; // 2001-01-01 in seconds since 1970
-
-QString qtText(const std::string& text) {
-    return QString::fromStdString(text);
-}
 
 QString numbersText(const std::vector<std::int64_t>& numbers) {
     QStringList texts;

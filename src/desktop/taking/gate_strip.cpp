@@ -13,8 +13,8 @@ namespace kavela::desktop {
 
 namespace {
 
-constexpr int Height = 44;
-constexpr int HeightOfSeveral = 30; ///< of each row, where the gates stand in several
+constexpr int GateHeight = 44;
+constexpr int GateRowHeight = 30; ///< of each row, where the gates stand in several
 constexpr qreal WidestGate = 48;
 constexpr int NarrowestGate = 26; ///< that its number, and the arrow before it, fit
 constexpr QColor Upstream{0xC9, 0x2A, 0x2A};
@@ -30,7 +30,7 @@ GateStrip::GateStrip(QWidget* parent) : QWidget(parent), m_rows(WidestGate, Narr
 }
 
 QSize GateStrip::sizeHint() const {
-    return {400, m_rows.count() == 1 ? Height : m_rows.count() * HeightOfSeveral};
+    return {400, m_rows.count() == 1 ? GateHeight : m_rows.count() * GateRowHeight};
 }
 
 QSize GateStrip::minimumSizeHint() const {

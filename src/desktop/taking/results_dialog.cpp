@@ -1,5 +1,6 @@
 #include "desktop/taking/results_dialog.h"
 
+#include "desktop/shell/qt_text.h"
 #include "desktop/shell/shown_number.h"
 #include "desktop/shell/theme.h"
 #include "splitdata/run_timing.h"
@@ -19,11 +20,7 @@ namespace kavela::desktop {
 
 namespace {
 
-enum Column { RunColumn, PhaseColumn, NowColumn, LineColumn, Columns };
-
-QString qtText(const std::string& text) {
-    return QString::fromStdString(text);
-}
+enum ResultColumn { RunColumn, PhaseColumn, NowColumn, LineColumn, Columns };
 
 QString timeText(double seconds, std::int64_t penalty) {
     return seconds == 0 && penalty == 0

@@ -1,5 +1,6 @@
 #include "desktop/taking/run_form.h"
 
+#include "desktop/shell/qt_text.h"
 #include "desktop/shell/shown_number.h"
 #include "desktop/shell/theme.h"
 #include "desktop/shell/typed_number.h"
@@ -16,10 +17,6 @@
 namespace kavela::desktop {
 
 namespace {
-
-QString qtText(const std::string& text) {
-    return QString::fromStdString(text);
-}
 
 constexpr double LongestTime = 86400;
 constexpr double MostPenalty = 999;

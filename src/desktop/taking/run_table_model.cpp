@@ -1,19 +1,12 @@
 #include "desktop/taking/run_table_model.h"
 
+#include "desktop/shell/qt_text.h"
 #include "desktop/shell/shown_number.h"
 #include "desktop/splitfile/taking_document.h"
 #include "splitdata/run_timing.h"
 #include "splittaking/video_names.h"
 
 namespace kavela::desktop {
-
-namespace {
-
-QString qtText(const std::string& text) {
-    return QString::fromStdString(text);
-}
-
-} // namespace
 
 RunTableModel::RunTableModel(TakingDocument& document, QObject* parent)
     : QAbstractTableModel(parent), m_document(document), m_rows(document.runCount()) {

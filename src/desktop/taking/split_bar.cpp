@@ -10,8 +10,8 @@
 namespace kavela::desktop {
 
 namespace {
-constexpr int Height = 48;
-constexpr int HeightOfSeveral = 34; ///< of each row, where the sections stand in several
+constexpr int SectionHeight = 48;
+constexpr int SectionRowHeight = 34; ///< of each row, where the sections stand in several
 constexpr qreal WidestSection = 110;
 constexpr int NarrowestSection = 44; ///< that a time fits
 } // namespace
@@ -22,7 +22,7 @@ SplitBar::SplitBar(QWidget* parent) : QWidget(parent), m_rows(WidestSection, Nar
 }
 
 QSize SplitBar::sizeHint() const {
-    return {400, m_rows.count() == 1 ? Height : m_rows.count() * HeightOfSeveral};
+    return {400, m_rows.count() == 1 ? SectionHeight : m_rows.count() * SectionRowHeight};
 }
 
 QSize SplitBar::minimumSizeHint() const {

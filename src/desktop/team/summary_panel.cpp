@@ -16,7 +16,7 @@ namespace kavela::desktop {
 namespace {
 
 template <class Lines>
-QString joined(const Lines& lines) {
+QString lineByLine(const Lines& lines) {
     QStringList texts;
     for (const std::string& line : lines)
         texts.append(QString::fromStdString(line));
@@ -102,7 +102,7 @@ void SummaryPanel::show(const myTeamStruct* athlete, const std::string& category
         return;
     m_who->setText(QString::fromStdString(category) +
                    (athlete->birthYear > 0 ? tr(", born %1").arg(athlete->birthYear) : QString()));
-    m_summary->setText(joined(summaryLines(athleteSummary(*athlete, category))));
+    m_summary->setText(lineByLine(summaryLines(athleteSummary(*athlete, category))));
     if (const std::int64_t races = racesWithoutPosition(*results); races > 0)
         m_unplaced->setText(races == 1
                                 ? tr("One race has no final position. It counts as a medal here, "
@@ -112,7 +112,7 @@ void SummaryPanel::show(const myTeamStruct* athlete, const std::string& category
                                       .arg(races));
     if (const auto categorization = categorize(*athlete, category)) {
         m_label->setText(QString::fromStdString(categorization->label).trimmed());
-        m_counts->setText(joined(categorization->lines));
+        m_counts->setText(lineByLine(categorization->lines));
         m_seasons->setText(tr("Counted: %1").arg(countedYears(*results)));
     } else {
         m_counts->setText(obstacle(*athlete, *results));

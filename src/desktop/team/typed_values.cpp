@@ -18,9 +18,9 @@ constexpr std::int64_t FirstYear = 1900;
 constexpr std::int64_t LastYear = 2100;
 constexpr double SecondsOfDay = 86400;
 
-QString tr(const char* text) {
-    return QCoreApplication::translate("TypedValues", text);
-}
+struct TypedValues {
+    Q_DECLARE_TR_FUNCTIONS(TypedValues)
+};
 
 QDate dateIn(const QString& typed) {
     for (const char* format : {"yyyy-M-d", "d.M.yyyy"})
@@ -32,26 +32,30 @@ QDate dateIn(const QString& typed) {
 } // namespace
 
 double typedTime(const QString& text) {
-    return typedSecondsOrNone(text,
-                              {0, std::nextafter(LongestTime, 0),
-                               tr("A time is a number of seconds such as 92.34, or 1:32.34")});
+    return typedSecondsOrNone(
+        text, {0, std::nextafter(LongestTime, 0),
+               TypedValues::tr("A time is a number of seconds such as 92.34, or 1:32.34")});
 }
 
 std::int64_t typedPenalty(const QString& text) {
     return typedWholeOrNone(
-        text, {0, MostPenalty, tr("A penalty is a whole number of seconds, 0 to 999")});
+        text,
+        {0, MostPenalty, TypedValues::tr("A penalty is a whole number of seconds, 0 to 999")});
 }
 
 std::int64_t typedPosition(const QString& text) {
-    return typedWholeOrNone(text, {0, MostPosition, tr("A position is a whole number, 1 to 9999")});
+    return typedWholeOrNone(
+        text, {0, MostPosition, TypedValues::tr("A position is a whole number, 1 to 9999")});
 }
 
 double typedPoints(const QString& text) {
-    return typedRealOrNone(text, {0, MostPoints, tr("Ranking points are a number such as 612.5")});
+    return typedRealOrNone(
+        text, {0, MostPoints, TypedValues::tr("Ranking points are a number such as 612.5")});
 }
 
 std::int64_t typedYear(const QString& text) {
-    return typedWhole(text, {FirstYear, LastYear, tr("A year is a number from 1900 to 2100")});
+    return typedWhole(
+        text, {FirstYear, LastYear, TypedValues::tr("A year is a number from 1900 to 2100")});
 }
 
 std::int64_t typedBirthYear(const QString& text) {
@@ -64,7 +68,7 @@ ReferenceDate typedDay(const QString& text, ReferenceDate before) {
         return {};
     const QDate date = dateIn(typed);
     if (!date.isValid() || date.year() < FirstYear || date.year() > LastYear)
-        refuseTyped(tr("A date is a day of the calendar such as 2025-06-14"), typed);
+        refuseTyped(TypedValues::tr("A date is a day of the calendar such as 2025-06-14"), typed);
     const double timeOfDay =
         before.seconds - std::floor(before.seconds / SecondsOfDay) * SecondsOfDay;
     const QDate first(2001, 1, 1);

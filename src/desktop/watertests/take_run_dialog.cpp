@@ -1,5 +1,6 @@
 #include "desktop/watertests/take_run_dialog.h"
 
+#include "desktop/shell/qt_text.h"
 #include "desktop/shell/shown_number.h"
 #include "desktop/shell/tables/column_table.h"
 #include "desktop/shell/theme.h"
@@ -19,10 +20,6 @@
 namespace kavela::desktop {
 
 namespace {
-
-QString qtText(const std::string& text) {
-    return QString::fromStdString(text);
-}
 
 /// "5", or "3 of 5" when some sections were not timed.
 QString sectionText(const std::vector<double>& times) {

@@ -1,5 +1,6 @@
 #include "desktop/watertests/test_charts.h"
 
+#include "desktop/shell/shown_number.h"
 #include "planning/test_entry.h"
 #include "planning/test_sections.h"
 
@@ -8,21 +9,19 @@
 #include <algorithm>
 #include <cmath>
 #include <functional>
-#include <numbers>
 
 namespace kavela::desktop {
 
 namespace {
 
 constexpr double Unknown = std::numeric_limits<double>::quiet_NaN();
-constexpr double DegreesPerRadian = 180 / std::numbers::pi;
 constexpr SummaryLabels OtherLabels{"Average:", "Average variation:", "Total variation:"};
 constexpr SummaryLabels AverageLabels{"Average:", nullptr, nullptr};
 constexpr SummaryLabels PowerLabels{"Average:", "Average increase:", "Total increase:"};
 
-QString tr(const char* text) {
-    return QCoreApplication::translate("TestCharts", text);
-}
+struct TestCharts {
+    Q_DECLARE_TR_FUNCTIONS(TestCharts)
+};
 
 double known(std::optional<double> value) {
     return value && std::isfinite(*value) && *value != 0 ? *value : Unknown;
@@ -45,18 +44,18 @@ ChartSummary summaryFor(const ShownTest& shown, const std::vector<double>& value
 
 TestChart emptyChart(const ChartKind& kind, const QString& across, const QString& emptyText) {
     TestChart chart;
-    chart.content.title = tr(kind.title);
-    chart.content.yTitle = tr(kind.axis);
+    chart.content.title = TestCharts::tr(kind.title);
+    chart.content.yTitle = TestCharts::tr(kind.axis);
     chart.content.xTitle = across;
     chart.content.emptyText = emptyText;
-    chart.help = tr(kind.help);
+    chart.help = TestCharts::tr(kind.help);
     return chart;
 }
 
 /// A chart of a value by number, such as by lap.
 TestChart chartByNumber(const ChartKind& kind, const std::vector<ShownTest>& tests,
                         const QString& across, const ValuesOf& valuesOf) {
-    TestChart chart = emptyChart(kind, across, tr("Not recorded, and not entered"));
+    TestChart chart = emptyChart(kind, across, TestCharts::tr("Not recorded, and not entered"));
     chart.content.across = ChartContent::Across::Category;
     std::size_t most = 0;
     for (const ShownTest& shown : tests) {
@@ -121,7 +120,8 @@ std::vector<TestChart> sectionCharts(const std::vector<ShownTest>& tests) {
     std::vector<TestChart> charts;
     for (const SectionKind& section : sectionKinds(isLap))
         charts.push_back(
-            chartByNumber(section.kind, tests, isLap ? tr("Lap") : tr("Stretch of the sprint"),
+            chartByNumber(section.kind, tests,
+                          isLap ? TestCharts::tr("Lap") : TestCharts::tr("Stretch of the sprint"),
                           [&](const ListedTest& test) {
                               std::vector<double> values;
                               for (const TestSection& told : testSections(test.run()->test))
@@ -156,9 +156,10 @@ std::vector<TestChart> turnCharts(const std::vector<ShownTest>& tests) {
          &testStruct::rightRotationsTime}};
     std::vector<TestChart> charts;
     for (const SeriesKind& turn : kinds)
-        charts.push_back(chartByNumber(turn.kind, tests, tr("Turn"), [&](const ListedTest& test) {
-            return scaled(test.run()->test.*turn.series, 1);
-        }));
+        charts.push_back(
+            chartByNumber(turn.kind, tests, TestCharts::tr("Turn"), [&](const ListedTest& test) {
+                return scaled(test.run()->test.*turn.series, 1);
+            }));
     return charts;
 }
 
@@ -175,8 +176,8 @@ std::vector<double> secondsOf(const testStruct& test, const std::vector<Referenc
 TestChart chartOverTime(const ChartKind& kind, const std::vector<ShownTest>& tests,
                         const ValuesOf& valuesOf,
                         const std::function<std::vector<double>(const ListedTest&)>& momentsOf) {
-    TestChart chart =
-        emptyChart(kind, tr("Time from the start (s)"), tr("Only a recording tells this"));
+    TestChart chart = emptyChart(kind, TestCharts::tr("Time from the start (s)"),
+                                 TestCharts::tr("Only a recording tells this"));
     for (const ShownTest& shown : tests) {
         const std::vector<double> values = valuesOf(*shown.test);
         const std::vector<double> moments = momentsOf(*shown.test);
@@ -278,11 +279,11 @@ std::vector<TestChart> eightCharts(const std::vector<ShownTest>& tests) {
     std::vector<TestChart> charts;
     charts.push_back(chartByNumber(
         {test_series::RightRotationPeak, test_axis::RightRotationPeak, test_help::RotationPeak},
-        tests, tr("Turn"),
+        tests, TestCharts::tr("Turn"),
         [&](const ListedTest& test) { return scaled(run(test).zrotsubmaxR, 1); }));
     charts.push_back(chartByNumber(
         {test_series::LeftRotationPeak, test_axis::LeftRotationPeak, test_help::RotationPeak},
-        tests, tr("Turn"),
+        tests, TestCharts::tr("Turn"),
         [&](const ListedTest& test) { return scaled(run(test).zrotsubmaxL, 1); }));
     TestChart rotation = chartOverTime(
         {"Rotation about the vertical axis", "Rotation (rad/s)",
@@ -296,11 +297,11 @@ std::vector<TestChart> eightCharts(const std::vector<ShownTest>& tests) {
         });
     rotation.summaries.clear();
     charts.push_back(std::move(rotation));
-    charts.push_back(
-        chartByNumber({"Splits", test_axis::Time}, tests, tr("Split"), [&](const ListedTest& test) {
-            const auto splits = splitsOf(run(test));
-            return scaled({splits.begin(), splits.end()}, 1);
-        }));
+    charts.push_back(chartByNumber({"Splits", test_axis::Time}, tests, TestCharts::tr("Split"),
+                                   [&](const ListedTest& test) {
+                                       const auto splits = splitsOf(run(test));
+                                       return scaled({splits.begin(), splits.end()}, 1);
+                                   }));
     return charts;
 }
 

@@ -33,7 +33,7 @@ QComboBox* textCombo(const char* name) {
     return combo;
 }
 
-QPushButton* button(const char* name, const QString& text, const QString& tip) {
+QPushButton* formButton(const char* name, const QString& text, const QString& tip) {
     auto* made = new QPushButton(text);
     made->setObjectName(name);
     made->setToolTip(tip);
@@ -74,7 +74,7 @@ AttackForm::AttackForm(QWidget* parent)
       m_comment(new QLineEdit),
       m_start(new QLabel),
       m_end(new QLabel),
-      m_noEnd(button("attackNoEnd", tr("No end"), tr("Takes the end of the attack out"))) {
+      m_noEnd(formButton("attackNoEnd", tr("No end"), tr("Takes the end of the attack out"))) {
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(theme::SmallSpacing);
@@ -138,9 +138,10 @@ void AttackForm::makeWords(QHBoxLayout& row) {
 }
 
 void AttackForm::makeMoments(QHBoxLayout& row) {
-    auto* start = button("attackStart", tr("Start here"), tr("The attack starts at this frame"));
-    auto* end = button("attackEnd", tr("End here"), tr("The attack ends at this frame"));
-    auto* removal = button("attackRemoval", tr("Remove"), tr("Removes the attack"));
+    auto* start =
+        formButton("attackStart", tr("Start here"), tr("The attack starts at this frame"));
+    auto* end = formButton("attackEnd", tr("End here"), tr("The attack ends at this frame"));
+    auto* removal = formButton("attackRemoval", tr("Remove"), tr("Removes the attack"));
     m_start->setObjectName("attackStartTime");
     m_end->setObjectName("attackEndTime");
     row.addWidget(m_start);

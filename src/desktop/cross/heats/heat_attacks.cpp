@@ -1,5 +1,6 @@
 #include "desktop/cross/heats/attack_form.h"
 #include "desktop/cross/heats/heat_page.h"
+#include "desktop/shell/qt_text.h"
 #include "desktop/splitfile/taking_document.h"
 #include "desktop/splitfile/text_table.h"
 #include "splittaking/annotations/cross_heats.h"
@@ -16,13 +17,6 @@ namespace kavela::desktop {
 namespace {
 
 using Names = std::vector<std::string>;
-
-QString joined(const Names& names) {
-    QStringList texts;
-    for (const std::string& name : names)
-        texts.append(QString::fromStdString(name));
-    return texts.join(", ");
-}
 
 QStringList rowOf(const actiondata030& attack) {
     const auto moment = [&](std::size_t entry) {

@@ -3,6 +3,7 @@
 #include "desktop/cross/heats/attack_form.h"
 #include "desktop/cross/heats/heat_dialog.h"
 #include "desktop/film/film_deck.h"
+#include "desktop/shell/qt_text.h"
 #include "desktop/shell/theme.h"
 #include "desktop/splitfile/taking_document.h"
 #include "desktop/splitfile/text_table.h"
@@ -24,13 +25,6 @@ namespace kavela::desktop {
 namespace {
 
 using Names = std::vector<std::string>;
-
-QString joined(const Names& names) {
-    QStringList texts;
-    for (const std::string& name : names)
-        texts.append(QString::fromStdString(name));
-    return texts.join(", ");
-}
 
 QString filmText(const TakingDocument& document, const std::string& name) {
     const QString film = QString::fromStdString(name);

@@ -2,6 +2,7 @@
 
 #include "desktop/charts/chart_colours.h"
 #include "desktop/cross/heats/boat_looks.h"
+#include "desktop/shell/qt_text.h"
 #include "desktop/shell/theme.h"
 
 #include <QApplication>
@@ -52,16 +53,9 @@ QString outcomeText(const HeatPlace& place, const HeatResult& heat, const RoundR
     return place.finish == 1U ? ResultsPage::tr("★ wins") : QString();
 }
 
-QString gatesText(const std::vector<std::int64_t>& gates) {
-    QStringList texts;
-    for (const std::int64_t gate : gates)
-        texts.append(QString::number(gate));
-    return texts.join(", ");
-}
-
 /// What is missing in a heat; empty when nothing is.
 QString missingText(const HeatResult& heat) {
-    const QString gates = gatesText(heat.gatesWithoutOrder);
+    const QString gates = joined(heat.gatesWithoutOrder);
     if (!heat.isFinished)
         return gates.isEmpty()
                    ? ResultsPage::tr("⚠ Not finished: no order was taken.")

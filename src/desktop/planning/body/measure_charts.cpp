@@ -14,9 +14,9 @@ namespace {
 
 constexpr double NoValue = std::numeric_limits<double>::quiet_NaN();
 
-QString tr(const char* text) {
-    return QCoreApplication::translate("MeasureCharts", text);
-}
+struct MeasureCharts {
+    Q_DECLARE_TR_FUNCTIONS(MeasureCharts)
+};
 
 ChartSeries measured(const QString& name, std::size_t slot) {
     ChartSeries series;
@@ -39,11 +39,11 @@ QString withUnit(double value, const QString& unit) {
 QString standingWords(AgainstUsual standing) {
     switch (standing) {
     case AgainstUsual::Below:
-        return tr("below what is usual");
+        return MeasureCharts::tr("below what is usual");
     case AgainstUsual::Within:
-        return tr("within what is usual");
+        return MeasureCharts::tr("within what is usual");
     case AgainstUsual::Above:
-        return tr("above what is usual");
+        return MeasureCharts::tr("above what is usual");
     case AgainstUsual::Unknown:
         break;
     }
@@ -54,11 +54,11 @@ QString standingWords(AgainstUsual standing) {
 
 ChartContent bodyChart(const yearsplannings_v6& season) {
     ChartContent content;
-    content.title = tr("Weight and body fat");
+    content.title = MeasureCharts::tr("Weight and body fat");
     content.across = ChartContent::Across::Date;
-    content.rightTitle = tr("Body fat (%)");
-    ChartSeries weight = measured(tr("Weight"), 0);
-    ChartSeries fat = measured(tr("Body fat"), 1);
+    content.rightTitle = MeasureCharts::tr("Body fat (%)");
+    ChartSeries weight = measured(MeasureCharts::tr("Weight"), 0);
+    ChartSeries fat = measured(MeasureCharts::tr("Body fat"), 1);
     for (const healthdataplanning_v1& entry : season.healthdata) {
         if (!dayOfMoment(entry.date))
             continue;
@@ -66,11 +66,13 @@ ChartContent bodyChart(const yearsplannings_v6& season) {
         addMeasured(fat, entry.date, entry.fatper);
     }
     fat.onRight = !weight.points.empty();
-    content.yTitle = fat.onRight ? tr("Weight (kg)") : tr("Body fat (%)");
+    content.yTitle =
+        fat.onRight ? MeasureCharts::tr("Weight (kg)") : MeasureCharts::tr("Body fat (%)");
     for (ChartSeries& series : {std::ref(weight), std::ref(fat)})
         if (!series.points.empty())
             content.series.push_back(std::move(series));
-    content.emptyText = tr("Add a weight or body fat to see how it goes through the season.");
+    content.emptyText =
+        MeasureCharts::tr("Add a weight or body fat to see how it goes through the season.");
     return content;
 }
 
@@ -78,14 +80,15 @@ ChartContent trendChart(const std::vector<TrendDay>& trend, const QString& title
                         const QString& unit) {
     ChartContent content;
     content.title = title;
-    content.subtitle = tr("Usual: mean ± one standard deviation of the four weeks before");
+    content.subtitle =
+        MeasureCharts::tr("Usual: mean ± one standard deviation of the four weeks before");
     content.across = ChartContent::Across::Date;
     content.yTitle = unit;
-    ChartSeries daily = measured(tr("Each day"), 0);
+    ChartSeries daily = measured(MeasureCharts::tr("Each day"), 0);
     daily.form = ChartSeries::Form::Points;
-    ChartSeries mean = measured(tr("Seven-day mean"), 1);
+    ChartSeries mean = measured(MeasureCharts::tr("Seven-day mean"), 1);
     mean.form = ChartSeries::Form::Line;
-    ChartBand usual{tr("Usual"), {}, {}, {}, 2};
+    ChartBand usual{MeasureCharts::tr("Usual"), {}, {}, {}, 2};
     for (const TrendDay& day : trend) {
         const double x = day.date.seconds;
         daily.points.emplace_back(x, day.value);
@@ -104,12 +107,13 @@ QString standingText(const std::vector<TrendDay>& trend, const QString& unit) {
         return {};
     const TrendDay& last = trend.back();
     const QString week =
-        tr("Week to %1: mean %2")
+        MeasureCharts::tr("Week to %1: mean %2")
             .arg(QString::fromStdString(dayText(last.date)), withUnit(last.weekMean, unit));
     if (!last.usual)
-        return tr("%1. What is usual is known after seven measured days of the 28 before.")
+        return MeasureCharts::tr(
+                   "%1. What is usual is known after seven measured days of the 28 before.")
             .arg(week);
-    return tr("%1, %2 (%3 to %4).")
+    return MeasureCharts::tr("%1, %2 (%3 to %4).")
         .arg(week, standingWords(last.standing), valueText(last.usual->low),
              withUnit(last.usual->high, unit));
 }

@@ -14,37 +14,40 @@ namespace {
 
 constexpr double LongestPlain = 1e12; ///< longer numbers are written as powers
 
-QString tr(const char* text) {
-    return QCoreApplication::translate("TypedMeasures", text);
-}
+struct TypedMeasures {
+    Q_DECLARE_TR_FUNCTIONS(TypedMeasures)
+};
 
 QString oddityOf(ReferenceDate date) {
-    return dayOfMoment(date) ? QString()
-                             : tr("This moment is in no calendar: %1 seconds from 2001-01-01. It "
-                                  "stays as it is until another date is typed.")
-                                   .arg(QString::fromStdString(shortestText(date.seconds)));
+    return dayOfMoment(date)
+               ? QString()
+               : TypedMeasures::tr("This moment is in no calendar: %1 seconds from 2001-01-01. It "
+                                   "stays as it is until another date is typed.")
+                     .arg(QString::fromStdString(shortestText(date.seconds)));
 }
 
 QString oddityOf(double value, double most) {
     if (value >= 0 && value <= most)
         return {};
-    return (value < 0 ? tr("A value below 0 cannot be measured.")
-                      : tr("More than %1 was hardly measured.").arg(measureEdited(most))) +
-           ' ' + tr("It stays as it is until another one is typed.");
+    return (value < 0
+                ? TypedMeasures::tr("A value below 0 cannot be measured.")
+                : TypedMeasures::tr("More than %1 was hardly measured.").arg(measureEdited(most))) +
+           ' ' + TypedMeasures::tr("It stays as it is until another one is typed.");
 }
 
 } // namespace
 
 ReferenceDate typedDate(const QString& text, ReferenceDate before) {
     if (text.trimmed().isEmpty())
-        throw RefusedEntry(tr("A measurement needs a day of the calendar such as 2026-03-09."));
+        throw RefusedEntry(
+            TypedMeasures::tr("A measurement needs a day of the calendar such as 2026-03-09."));
     // The time of day of a moment in no calendar is none.
     return typedDay(text, dayOfMoment(before) ? before : ReferenceDate());
 }
 
 double typedMeasure(const QString& text, double most) {
     return typedRealOrNone(text, {0, most,
-                                  tr("Expected is a number from 0 to %1, such as %2")
+                                  TypedMeasures::tr("Expected is a number from 0 to %1, such as %2")
                                       .arg(shownNumber(most), shownNumber(72.4))});
 }
 

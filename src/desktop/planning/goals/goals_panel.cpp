@@ -2,6 +2,7 @@
 
 #include "desktop/planning/goals/goal_delegate.h"
 #include "desktop/shell/edit_order.h"
+#include "desktop/shell/qt_text.h"
 #include "desktop/shell/theme.h"
 
 #include <QAction>
@@ -20,10 +21,6 @@ namespace {
 using Kind = GoalPlace::Kind;
 
 constexpr int StatusWidth = 300;
-
-QString qtText(const std::string& text) {
-    return QString::fromStdString(text);
-}
 
 std::vector<std::size_t> shapeOf(const yearsplannings_v6& season) {
     std::vector<std::size_t> shape;

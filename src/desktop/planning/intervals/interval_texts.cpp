@@ -17,9 +17,9 @@ constexpr double LongestShown = 1e6; ///< seconds; a longer one only comes from 
 constexpr double MostCount = 9999;
 constexpr double MostAmount = 1e6;
 
-QString tr(const char* text) {
-    return QCoreApplication::translate("IntervalTexts", text);
-}
+struct IntervalTexts {
+    Q_DECLARE_TR_FUNCTIONS(IntervalTexts)
+};
 
 } // namespace
 
@@ -39,17 +39,19 @@ QString durationText(double seconds) {
 
 double typedDuration(const QString& text) {
     return typedSecondsOrNone(
-        text, {0, LongestDuration, tr("A duration is written as seconds or as 1:30, up to a day")});
+        text, {0, LongestDuration,
+               IntervalTexts::tr("A duration is written as seconds or as 1:30, up to a day")});
 }
 
 std::int64_t typedCount(const QString& text) {
     return typedWholeOrNone(
-        text, {0, MostCount, tr("Sets and repetitions are whole numbers from 0 to 9999")});
+        text,
+        {0, MostCount, IntervalTexts::tr("Sets and repetitions are whole numbers from 0 to 9999")});
 }
 
 double typedAmount(const QString& text) {
-    return typedRealOrNone(text,
-                           {0, MostAmount, tr("Volume and intensity are numbers such as 4.5")});
+    return typedRealOrNone(
+        text, {0, MostAmount, IntervalTexts::tr("Volume and intensity are numbers such as 4.5")});
 }
 
 QString makeUpText(const favInvervalSessions_v2& session) {
@@ -60,7 +62,7 @@ QString makeUpText(const favInvervalSessions_v2& session) {
         text += QString("%1 × ").arg(session.reps);
     text += durationText(session.worktime);
     if (session.workrest > 0)
-        text += tr(", rest %1").arg(durationText(session.workrest));
+        text += IntervalTexts::tr(", rest %1").arg(durationText(session.workrest));
     return text;
 }
 
@@ -68,7 +70,7 @@ QString durationSummary(const favInvervalSessions_v2& session) {
     const auto plan = IntervalPlan::of(session);
     if (!plan)
         return QString::fromStdString(whyNotTimed(session));
-    return tr("%1 in all, %2 of it work; repetitions: %3")
+    return IntervalTexts::tr("%1 in all, %2 of it work; repetitions: %3")
         .arg(durationText(plan->sessionTime()), durationText(plan->workTime()))
         .arg(plan->sets() * plan->repetitions());
 }

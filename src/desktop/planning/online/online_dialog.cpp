@@ -15,7 +15,6 @@ namespace kavela::desktop {
 namespace {
 
 constexpr const char* AddressKey = "onlinePlanningAddress";
-constexpr const char* EntriesKey = "planningOnline";
 
 } // namespace
 
@@ -27,7 +26,7 @@ OnlineAddress rememberedAddress(const Workspace& workspace) {
 QString rememberedEntry(const Workspace& workspace) {
     if (const QString entry = workspace.remembered(AddressKey).value(2); !entry.isEmpty())
         return entry;
-    const std::vector<std::string> entries = workspace.preferences().array(EntriesKey);
+    const std::vector<std::string> entries = workspace.preferences().array(SharedPlanningsKey);
     return entries.empty() ? QString() : QString::fromStdString(entries.front());
 }
 
@@ -40,7 +39,7 @@ OnlineDialog::OnlineDialog(Workspace& workspace, const QString& purpose, QWidget
       m_password(new QLineEdit),
       m_fault(new FaultLabel) {
     setWindowTitle(purpose);
-    for (const std::string& entry : workspace.preferences().array(EntriesKey))
+    for (const std::string& entry : workspace.preferences().array(SharedPlanningsKey))
         m_entry->addItem(QString::fromStdString(entry));
     m_entry->setCurrentText(rememberedEntry(workspace));
     const OnlineAddress address = rememberedAddress(workspace);

@@ -15,11 +15,11 @@ namespace kavela::desktop {
 
 namespace {
 
-QString tr(const char* text) {
-    return QCoreApplication::translate("Planning", text);
-}
+struct WeekTexts {
+    Q_DECLARE_TR_FUNCTIONS(WeekTexts)
+};
 
-QString numberText(double number) {
+QString amountText(double number) {
     return shownNumbers(QString::number(number, 'g', 6));
 }
 
@@ -46,18 +46,20 @@ QString testLetters(const microsplanning_v5& week) {
 }
 
 QString weekTip(const microsplanning_v5& week) {
-    QString text =
-        tr("Week %1, from %2").arg(week.number).arg(QString::fromStdString(startText(week)));
-    text += '\n' + tr("Load %1 %").arg(numberText(week.percentaje));
-    addLine(text, tr("Macrocycle"), week.macrocycle);
-    addLine(text, tr("Mesocycle"), week.mesocycle);
-    addLine(text, tr("Event"), week.event);
-    addLine(text, tr("Place"), week.place);
-    addLine(text, tr("On-water test"), week.watertest);
-    addLine(text, tr("Endurance test"), week.endurancetest);
-    addLine(text, tr("Blood test"), week.bloodtest);
-    addLine(text, tr("Injured"), week.injurypart);
-    text += '\n' + tr("%n session(s)").replace("%n", QString::number(week.sessions.size()));
+    QString text = WeekTexts::tr("Week %1, from %2")
+                       .arg(week.number)
+                       .arg(QString::fromStdString(startText(week)));
+    text += '\n' + WeekTexts::tr("Load %1 %").arg(amountText(week.percentaje));
+    addLine(text, WeekTexts::tr("Macrocycle"), week.macrocycle);
+    addLine(text, WeekTexts::tr("Mesocycle"), week.mesocycle);
+    addLine(text, WeekTexts::tr("Event"), week.event);
+    addLine(text, WeekTexts::tr("Place"), week.place);
+    addLine(text, WeekTexts::tr("On-water test"), week.watertest);
+    addLine(text, WeekTexts::tr("Endurance test"), week.endurancetest);
+    addLine(text, WeekTexts::tr("Blood test"), week.bloodtest);
+    addLine(text, WeekTexts::tr("Injured"), week.injurypart);
+    text +=
+        '\n' + WeekTexts::tr("%n session(s)").replace("%n", QString::number(week.sessions.size()));
     if (const QString faults = weekFaults(week); !faults.isEmpty())
         text += '\n' + faults;
     return text;
@@ -66,15 +68,15 @@ QString weekTip(const microsplanning_v5& week) {
 QString weekFaults(const microsplanning_v5& week) {
     QStringList faults;
     if (!dayOfMidnight(week.monday))
-        faults.append(tr("The week's date is in no calendar."));
+        faults.append(WeekTexts::tr("The week's date is in no calendar."));
     else if (!mondayOf(week))
-        faults.append(tr("The week does not start on a Monday."));
+        faults.append(WeekTexts::tr("The week does not start on a Monday."));
     if (week.percentaje < 0)
-        faults.append(tr("The load is negative."));
+        faults.append(WeekTexts::tr("The load is negative."));
     if (week.total.size() != week.totalq.size())
-        faults.append(tr("The two lists of planned totals are of different lengths."));
+        faults.append(WeekTexts::tr("The two lists of planned totals are of different lengths."));
     if (const std::size_t count = sessionsByDay(week).elsewhere.size())
-        faults.append(tr("%1 of its sessions are on no day of the week.").arg(count));
+        faults.append(WeekTexts::tr("%1 of its sessions are on no day of the week.").arg(count));
     return faults.join('\n');
 }
 
@@ -105,22 +107,22 @@ QString valuesTextOf(const sessioninmicro_v5& session) {
     QStringList texts;
     for (const std::size_t i : order)
         texts.append(QString::fromStdString(trainingCategory(i)) + ' ' +
-                     numberText(session.data[i]));
+                     amountText(session.data[i]));
     return texts.join(", ");
 }
 
 QString sessionFaults(const sessioninmicro_v5& session) {
     QStringList faults;
     if (!dayOf(session))
-        faults.append(tr("The session's date is in no calendar."));
+        faults.append(WeekTexts::tr("The session's date is in no calendar."));
     if (!session.trainingtimeInt.empty() && !timeOf(session))
-        faults.append(tr("The time of day is none."));
+        faults.append(WeekTexts::tr("The time of day is none."));
     if (!session.trainingtimezones.empty() &&
         !QTimeZone(QByteArray::fromStdString(session.trainingtimezones)).isValid())
-        faults.append(tr("The time zone “%1” is unknown.")
+        faults.append(WeekTexts::tr("The time zone “%1” is unknown.")
                           .arg(QString::fromStdString(session.trainingtimezones)));
     if (std::ranges::any_of(session.data, [](double value) { return value < 0; }))
-        faults.append(tr("A value is negative."));
+        faults.append(WeekTexts::tr("A value is negative."));
     return faults.join('\n');
 }
 

@@ -24,7 +24,7 @@ enum RowIndex { MonthRow, MacroRow, MesoRow, LoadRow, NumberRow, EventRow, TestR
 /// In heights of a line of small text.
 constexpr std::array RowHeights{1.3, 1.4, 1.4, 4.6, 1.3, 1.3, 1.2};
 constexpr double LowLoad = 2.2; ///< height of the loads where the window is low
-constexpr double TitleWidth = 86;
+constexpr double StripTitleWidth = 86;
 constexpr double NarrowestWeek = 7;
 constexpr double FullLoad = 100;
 
@@ -104,7 +104,7 @@ QSize YearStrip::sizeHint() const {
 }
 
 QSize YearStrip::minimumSizeHint() const {
-    return {static_cast<int>(TitleWidth + NarrowestWeek * static_cast<double>(m_weeks.size())),
+    return {static_cast<int>(StripTitleWidth + NarrowestWeek * static_cast<double>(m_weeks.size())),
             sizeHint().height()};
 }
 
@@ -114,16 +114,16 @@ QRectF YearStrip::columnOf(std::size_t week) const {
 
 QRectF YearStrip::cell(std::size_t first, std::size_t last, const Row& row) const {
     const double each =
-        (width() - TitleWidth) / static_cast<double>(std::max<std::size_t>(m_weeks.size(), 1));
-    const double left = TitleWidth + each * static_cast<double>(first);
+        (width() - StripTitleWidth) / static_cast<double>(std::max<std::size_t>(m_weeks.size(), 1));
+    const double left = StripTitleWidth + each * static_cast<double>(first);
     return {left, row.top, each * static_cast<double>(last - first + 1), row.height};
 }
 
 std::optional<std::size_t> YearStrip::weekAt(double x) const {
-    if (m_weeks.empty() || x < TitleWidth || x >= width())
+    if (m_weeks.empty() || x < StripTitleWidth || x >= width())
         return std::nullopt;
-    const double each = (width() - TitleWidth) / static_cast<double>(m_weeks.size());
-    return std::min(static_cast<std::size_t>((x - TitleWidth) / each), m_weeks.size() - 1);
+    const double each = (width() - StripTitleWidth) / static_cast<double>(m_weeks.size());
+    return std::min(static_cast<std::size_t>((x - StripTitleWidth) / each), m_weeks.size() - 1);
 }
 
 void YearStrip::choose(std::size_t week, bool extend) {
@@ -159,7 +159,7 @@ void YearStrip::paintTitles(QPainter& painter) const {
     painter.setPen(theme::quietText(palette()));
     for (std::size_t i = 0; i < titles.size(); ++i) {
         const Row at = row(static_cast<int>(i));
-        painter.drawText(QRectF(0, at.top, TitleWidth - theme::Spacing, at.height),
+        painter.drawText(QRectF(0, at.top, StripTitleWidth - theme::Spacing, at.height),
                          Qt::AlignLeft | Qt::AlignVCenter, titles[i]);
     }
 }
@@ -223,10 +223,10 @@ void YearStrip::paintLoads(QPainter& painter) const {
     for (const double line : {FullLoad / 2, FullLoad}) {
         const double y = bottom - heightOf(line);
         painter.setPen(theme::hairline(palette()));
-        painter.drawLine(QPointF(TitleWidth, y), QPointF(width(), y));
+        painter.drawLine(QPointF(StripTitleWidth, y), QPointF(width(), y));
         painter.setPen(theme::quietText(palette()));
-        painter.drawText(QRectF(0, y - 8, TitleWidth - 4, 16), Qt::AlignRight | Qt::AlignVCenter,
-                         QString::number(line) + " %");
+        painter.drawText(QRectF(0, y - 8, StripTitleWidth - 4, 16),
+                         Qt::AlignRight | Qt::AlignVCenter, QString::number(line) + " %");
     }
     for (std::size_t i = 0; i < m_weeks.size(); ++i) {
         const QRectF place = cell(i, i, at);

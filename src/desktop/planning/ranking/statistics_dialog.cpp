@@ -19,8 +19,8 @@ namespace kavela::desktop {
 
 namespace {
 
-constexpr int EventColumn = 2;
-constexpr int PlaceColumn = 4;
+constexpr int RaceEventColumn = 2;
+constexpr int RacePlaceColumn = 4;
 
 QString countText(const statisticsplanning_v3& statistics) {
     const std::size_t races = seasonRaces(statistics.racedata).size();
@@ -65,7 +65,7 @@ ColumnTable* runTable(const penaltydataplanning_v1& found, QWidget* dialog) {
          text(tr("Phase"), &Runs::phase), text(tr("Place"), &Runs::location),
          count(tr("Touches"), &Runs::touches), count(tr("Missed gates"), &Runs::fifties)},
         std::move(rows), "runs", dialog);
-    table->stretch({EventColumn, PlaceColumn});
+    table->stretch({RaceEventColumn, RacePlaceColumn});
     return table;
 }
 

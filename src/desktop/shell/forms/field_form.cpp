@@ -39,10 +39,6 @@ void setUp(Box& box, const NumberFacts& number) {
     box.setSpecialValueText(number.none);
 }
 
-bool isEnter(const QKeyEvent& key) {
-    return key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter;
-}
-
 } // namespace
 
 FieldForm::FieldForm(Arrangement arrangement, QWidget* parent) : QWidget(parent) {

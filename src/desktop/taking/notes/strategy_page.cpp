@@ -21,9 +21,9 @@ namespace kavela::desktop {
 
 namespace {
 
-enum Column { Chosen, Way, Seconds, Gap };
+enum WayColumn { Chosen, Way, Seconds, Gap };
 
-constexpr double LongestTime = 3600;
+constexpr double LongestWay = 3600;
 
 QPushButton* button(const QString& text, const char* name) {
     auto* made = new QPushButton(text);
@@ -293,7 +293,7 @@ void StrategyPage::takeCell(int row, int column) {
 
 void StrategyPage::takeSeconds(std::size_t option, const QString& text) {
     try {
-        const NumberRange range{0, LongestTime,
+        const NumberRange range{0, LongestWay,
                                 tr("A time is a number of seconds such as 4.35, or 1:04.35")};
         const bool isEmptied = text.trimmed().isEmpty(); // to be timed anew
         const double typed = isEmptied ? 0 : typedSeconds(text, range);

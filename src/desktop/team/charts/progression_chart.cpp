@@ -6,9 +6,9 @@ namespace kavela::desktop {
 
 namespace {
 
-QString tr(const char* text) {
-    return QCoreApplication::translate("ProgressionChart", text);
-}
+struct ProgressionChart {
+    Q_DECLARE_TR_FUNCTIONS(ProgressionChart)
+};
 
 QStringList phaseTitles() {
     QStringList titles;
@@ -49,12 +49,14 @@ ChartContent progressionContent(const QString& title, const mtSeasonStruct& seas
                                 std::optional<std::size_t> chosen) {
     ChartContent content;
     content.title = title;
-    content.subtitle = tr("Position after each phase; the chosen race is drawn heavier");
+    content.subtitle =
+        ProgressionChart::tr("Position after each phase; the chosen race is drawn heavier");
     content.across = ChartContent::Across::Category;
     content.categories = phaseTitles();
-    content.yTitle = tr("position");
+    content.yTitle = ProgressionChart::tr("position");
     content.yReversed = content.yWhole = true;
-    content.emptyText = tr("Positions of the phases stand here once they are entered.");
+    content.emptyText =
+        ProgressionChart::tr("Positions of the phases stand here once they are entered.");
     content.rowTitles = QStringList{"Event", "Location", "Phase", "Position"};
     for (const std::size_t place : progressedRaces(season))
         addRace(content, progressionOf(season.races[place]), place, chosen == place);

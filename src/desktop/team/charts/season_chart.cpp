@@ -13,9 +13,9 @@ namespace {
 
 constexpr double PenaltyShare = 3; ///< the bars take this part of the height at most
 
-QString tr(const char* text) {
-    return QCoreApplication::translate("SeasonChart", text);
-}
+struct SeasonChart {
+    Q_DECLARE_TR_FUNCTIONS(SeasonChart)
+};
 
 const SeasonRun* runOf(const SeasonRace& race, const char* phase) {
     const auto run = std::ranges::find(race.runs, phase, &SeasonRun::phase);
@@ -64,7 +64,7 @@ void addSeries(ChartContent& content, const std::vector<SeasonRace>& races) {
         ChartSeries bars = penaltyBars(races, phase);
         if (!line.points.empty()) {
             bars.labelOf = content.series.size();
-            bars.name = tr("%1: penalty (s)").arg(bars.name);
+            bars.name = SeasonChart::tr("%1: penalty (s)").arg(bars.name);
             content.series.push_back(std::move(line));
         }
         if (!bars.points.empty())
@@ -75,11 +75,12 @@ void addSeries(ChartContent& content, const std::vector<SeasonRace>& races) {
         bars.onRight = hasLines;
         content.series.push_back(std::move(bars));
     }
-    content.yTitle = hasLines ? tr("% behind") : tr("penalty (s)");
-    content.rightTitle = hasLines ? tr("penalty (s)") : QString();
+    content.yTitle = hasLines ? SeasonChart::tr("% behind") : SeasonChart::tr("penalty (s)");
+    content.rightTitle = hasLines ? SeasonChart::tr("penalty (s)") : QString();
     content.rightHeights = PenaltyShare;
-    content.subtitle = hasLines ? tr("Percent behind the fastest as lines, penalty seconds as bars")
-                                : tr("Penalties only; percent behind comes with split files");
+    content.subtitle =
+        hasLines ? SeasonChart::tr("Percent behind the fastest as lines, penalty seconds as bars")
+                 : SeasonChart::tr("Penalties only; percent behind comes with split files");
 }
 
 void addRows(ChartContent& content, const std::vector<SeasonRace>& races) {
@@ -108,8 +109,8 @@ ChartContent seasonContent(const QString& title, const std::vector<SeasonRace>& 
     content.across = ChartContent::Across::Category;
     content.categories = namesOf(races);
     content.yFromZero = true;
-    content.emptyText =
-        tr("Percent behind the fastest stands here once runs are taken over from split files.");
+    content.emptyText = SeasonChart::tr(
+        "Percent behind the fastest stands here once runs are taken over from split files.");
     addSeries(content, races);
     addRows(content, races);
     return content;

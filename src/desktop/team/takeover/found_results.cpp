@@ -86,7 +86,7 @@ void fillPositions(const Field& field) {
                 });
 }
 
-std::ptrdiff_t orderOf(const std::string& phase) {
+std::ptrdiff_t phaseOrder(const std::string& phase) {
     return std::ranges::find(team::Phases, phase) - std::begin(team::Phases);
 }
 
@@ -101,7 +101,7 @@ std::vector<FoundResult> finalPositions(const std::vector<TakenRun>& runs) {
             hasFinal[result.category] = true;
         const FoundResult*& best = last[{result.category, result.crew}];
         if (result.run->pos > 0 && (result.fault.empty() || result.fault == NotFinished) &&
-            (!best || orderOf(result.run->phase) > orderOf(best->run->phase)))
+            (!best || phaseOrder(result.run->phase) > phaseOrder(best->run->phase)))
             best = &result;
     }
     std::vector<FoundResult> positions;
@@ -111,7 +111,7 @@ std::vector<FoundResult> finalPositions(const std::vector<TakenRun>& runs) {
                                  boat.first,
                                  std::nullopt,
                                  result->run->pos,
-                                 orderOf(result->run->phase) >= orderOf("Semifinal"),
+                                 phaseOrder(result->run->phase) >= phaseOrder("Semifinal"),
                                  {}});
     return positions;
 }

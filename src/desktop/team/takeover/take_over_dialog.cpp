@@ -2,6 +2,7 @@
 
 #include "desktop/people/found_lines_view.h"
 #include "desktop/shell/number_box.h"
+#include "desktop/shell/qt_text.h"
 #include "desktop/shell/theme.h"
 #include "desktop/team/typed_values.h"
 
@@ -19,10 +20,6 @@
 namespace kavela::desktop {
 
 namespace {
-
-QString qtText(const std::string& text) {
-    return QString::fromStdString(text);
-}
 
 QDate dateOf(ReferenceDate date) {
     return QDate::fromString(qtText(dayText(date)), "yyyy-MM-dd");
