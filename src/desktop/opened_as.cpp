@@ -58,7 +58,7 @@ bool beginsAsDocument(const QString& path) {
 /// One of an older release is brought to this one by the tool for races.
 OpensAs splitFileOpensAs(const DocumentKind& document, const QString& path) {
     const bool isForCross =
-        document.hasCross && !document.hasRuns && factsOf(path.toStdString()).current;
+        document.hasCross && !document.hasRuns && kavela::factsOf(path.toStdString()).current;
     return isForCross ? OpensAs::Cross : OpensAs::Race;
 }
 
@@ -78,7 +78,7 @@ std::optional<OpensAs> documentOpensAs(const DocumentKind& document, const QStri
 OpensAs unknownOpensAs(const QString& path) {
     if (path.endsWith(PlanningExtension))
         return OpensAs::Planning;
-    return factsOf(path.toStdString()).error ? OpensAs::Race : OpensAs::NotReady;
+    return kavela::factsOf(path.toStdString()).error ? OpensAs::Race : OpensAs::NotReady;
 }
 
 Opening documentOpensAs(const QString& path) {

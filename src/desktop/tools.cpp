@@ -131,8 +131,8 @@ const ToolKind* toolWhere(const std::function<bool(const ToolKind&)>& isIt) {
 } // namespace
 
 const std::vector<ToolKind>& toolKinds() {
-    static const std::vector<ToolKind> Tools = makeTools();
-    return Tools;
+    static const std::vector<ToolKind> Kinds = makeTools();
+    return Kinds;
 }
 
 const ToolKind* toolOfKind(const QString& kind) {

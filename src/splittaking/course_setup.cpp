@@ -46,10 +46,10 @@ std::string orderFault(std::int64_t gate, std::int64_t expected, std::size_t sec
 
 } // namespace
 
-Sections defaultSections(std::int64_t gates, std::int64_t splits) {
+CourseSections defaultSections(std::int64_t gates, std::int64_t splits) {
     gates = std::clamp<std::int64_t>(gates, 0, MostGates);
     splits = std::clamp<std::int64_t>(splits, 0, MostSplits);
-    Sections sections(static_cast<std::size_t>(splits));
+    CourseSections sections(static_cast<std::size_t>(splits));
     std::int64_t gate = 0;
     for (std::int64_t k = 0; k < splits; ++k) {
         const std::int64_t last = gate + gates / splits + (k < gates % splits ? 1 : 0);
@@ -59,7 +59,7 @@ Sections defaultSections(std::int64_t gates, std::int64_t splits) {
     return sections;
 }
 
-std::vector<std::string> sectionTitles(const Sections& sections) {
+std::vector<std::string> sectionTitles(const CourseSections& sections) {
     std::vector<std::string> titles;
     for (const auto& gates : sections) {
         if (gates.empty())
@@ -96,7 +96,7 @@ GateList parseGateList(std::string_view text, std::int64_t gates) {
 }
 
 std::optional<std::string> faultOfSections(const infodata031& course) {
-    const Sections& sections = course.definedsections;
+    const CourseSections& sections = course.definedsections;
     if (sections.empty())
         return std::nullopt;
     std::int64_t expected = 1;

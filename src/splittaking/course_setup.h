@@ -17,15 +17,15 @@ inline constexpr std::int64_t MostGates = 999;
 /// The same for splits.
 inline constexpr std::int64_t MostSplits = 999;
 
-using Sections = std::vector<std::vector<std::int64_t>>;
+using CourseSections = std::vector<std::vector<std::int64_t>>;
 
 /// The gates of a course shared among its splits in order, as evenly as possible, the first
 /// sections taking what is left over. With more splits than gates the last sections have none.
 /// Numbers beyond MostGates and MostSplits, or below 0, are brought to the limit.
-[[nodiscard]] Sections defaultSections(std::int64_t gates, std::int64_t splits);
+[[nodiscard]] CourseSections defaultSections(std::int64_t gates, std::int64_t splits);
 
 /// Titles of sections by their gates: "1-3", "4"; "S5" for a fifth section without gates.
-[[nodiscard]] std::vector<std::string> sectionTitles(const Sections& sections);
+[[nodiscard]] std::vector<std::string> sectionTitles(const CourseSections& sections);
 
 /// The number in the gates field, blanks around it aside; nothing when it is no whole number from 0
 /// to MostGates, which messages::GatesNoNumber then says.

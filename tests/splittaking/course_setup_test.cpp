@@ -19,7 +19,7 @@ TEST(CourseSetup, SharesTheGatesEvenly) {
          {Row{18, 7, {"1-3", "4-6", "7-9", "10-12", "13-14", "15-16", "17-18"}},
           Row{6, 3, {"1-2", "3-4", "5-6"}}, Row{3, 3, {"1", "2", "3"}},
           Row{2, 4, {"1", "2", "S3", "S4"}}, Row{0, 1, {"S1"}}, Row{5, 0, {}}, Row{-5, -3, {}}}) {
-        const Sections sections = defaultSections(row.gates, row.splits);
+        const CourseSections sections = defaultSections(row.gates, row.splits);
         EXPECT_EQ(sectionTitles(sections), row.titles);
         infodata031 course;
         course.gates = row.splits > 0 ? row.gates : 0;
@@ -55,7 +55,7 @@ TEST(CourseSetup, ReadsListsOfGates) {
 
 TEST(CourseSetup, SaysWhatIsWrongWithSections) {
     struct Row {
-        Sections sections;
+        CourseSections sections;
         const char* fault;
     };
     for (const Row& row :

@@ -20,7 +20,7 @@ namespace {
 constexpr std::size_t MostRuns = 4; ///< whose curves can be told apart at this size
 constexpr std::size_t MarkSlot = 6;
 
-enum Column { TitleColumn, StrokesColumn, RateColumn, SpeedColumn, HeartColumn, ColumnCount };
+enum MotionColumn { PartColumn, StrokesColumn, RateColumn, SpeedColumn, HeartColumn, ColumnCount };
 
 constexpr QChar PartMark = u'*'; ///< behind what is told of a part of a section alone
 const QString Unknown = QStringLiteral("–");
@@ -75,7 +75,7 @@ QTableWidget* makeMotionTable() {
     table->verticalHeader()->setDefaultSectionSize(table->fontMetrics().height() + theme::Spacing);
     table->verticalHeader()->hide();
     table->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
-    table->horizontalHeader()->setSectionResizeMode(TitleColumn, QHeaderView::Stretch);
+    table->horizontalHeader()->setSectionResizeMode(PartColumn, QHeaderView::Stretch);
     return table;
 }
 
@@ -176,7 +176,7 @@ void MotionPanel::addRow(int row, const QString& title, const SectionMotion& sec
                             numberOrDash(section.meanSpeed, 2), numberOrDash(section.heartRate)};
     for (int column = 0; column < ColumnCount; ++column) {
         auto* item = new QTableWidgetItem(texts[column]);
-        if (column != TitleColumn)
+        if (column != PartColumn)
             item->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
         m_sections->setItem(row, column, item);
     }

@@ -41,8 +41,8 @@ IntervalForm::IntervalForm(Edit edit, QWidget* parent)
     text({.name = "title", .label = tr("&Title")}, &Session::title);
     text({.name = "target", .label = tr("T&arget")}, &Session::target, offeredCategories());
     text({.name = "rhythm", .label = tr("Rh&ythm")}, &Session::rhythm);
-    line(number("sets", tr("S&ets")), &Session::sets, shownCount, typedCount);
-    line(number("reps", tr("Re&petitions")), &Session::reps, shownCount, typedCount);
+    line(number("sets", tr("S&ets")), &Session::sets, shownCount, typedRepeats);
+    line(number("reps", tr("Re&petitions")), &Session::reps, shownCount, typedRepeats);
     line(number("worktime", tr("&Work"), minutes), &Session::worktime, durationText, typedDuration);
     line(number("workrest", tr("&Rest between repetitions"), minutes), &Session::workrest,
          durationText, typedDuration);

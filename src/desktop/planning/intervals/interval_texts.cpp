@@ -43,7 +43,7 @@ double typedDuration(const QString& text) {
                IntervalTexts::tr("A duration is written as seconds or as 1:30, up to a day")});
 }
 
-std::int64_t typedCount(const QString& text) {
+std::int64_t typedRepeats(const QString& text) {
     return typedWholeOrNone(
         text,
         {0, MostCount, IntervalTexts::tr("Sets and repetitions are whole numbers from 0 to 9999")});

@@ -14,7 +14,7 @@ namespace kavela::desktop {
 /// Seconds up to a day: "90", "1:30", "1:00:00", "0:12.5". An empty text is 0. Throws RefusedEntry.
 [[nodiscard]] double typedDuration(const QString& text);
 /// How often, 0 to 9999; an empty text is 0. Throws RefusedEntry.
-[[nodiscard]] std::int64_t typedCount(const QString& text);
+[[nodiscard]] std::int64_t typedRepeats(const QString& text);
 /// A volume or intensity: a number from 0. Throws RefusedEntry.
 [[nodiscard]] double typedAmount(const QString& text);
 

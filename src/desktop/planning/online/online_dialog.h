@@ -13,6 +13,9 @@ class FaultLabel;
 
 class Workspace;
 
+/// The preference that holds the names of the shared plannings.
+inline constexpr const char* SharedPlanningsKey = "planningOnline";
+
 /// Which shared planning, and where. Address and user are remembered, the password is not.
 class OnlineDialog : public QDialog {
     Q_OBJECT
