@@ -3,6 +3,7 @@
 #include "desktop/film/film_stage.h"
 #include "desktop/race/race_view.h"
 #include "desktop/race/race_window.h"
+#include "desktop/shell/bring_to_front.h"
 #include "desktop/shell/file_names.h"
 #include "desktop/splitfile/taking_files.h"
 #include "desktop/taking/taking_window.h"
@@ -46,11 +47,6 @@ Window* windowOf(const QList<Window*>& windows, const QString& path) {
         if (isSameFile(window->document().path(), file))
             return window;
     return nullptr;
-}
-
-void bringToFront(QWidget& window) {
-    window.raise();
-    window.activateWindow();
 }
 
 /// Closes a window as the coach would, who decides about unsaved work then. One that stays open
