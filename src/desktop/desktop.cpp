@@ -10,6 +10,7 @@
 #include "desktop/planning/planning_window.h"
 #include "desktop/race/race_window.h"
 #include "desktop/sessions/session_window.h"
+#include "desktop/shell/bring_to_front.h"
 #include "desktop/shell/disk_worker.h"
 #include "desktop/shell/earlier_work_dialog.h"
 #include "desktop/shell/edited_file.h"
@@ -27,6 +28,7 @@
 #include <QFileInfo>
 #include <QStandardPaths>
 #include <QUrl>
+#include <QWindow>
 
 #include <algorithm>
 
@@ -84,6 +86,7 @@ Desktop::Desktop(Workspace& workspace, std::optional<Autosave> autosave)
     qApp->installEventFilter(&m_wheelGuard);
     QApplication::setWindowIcon(icon("kavela"));
     connect(&m_workspace, &Workspace::openRequested, this, &Desktop::open);
+    connect(qApp, &QGuiApplication::focusWindowChanged, this, &Desktop::noteFront);
 }
 
 /// What is still being written is written to its end.
@@ -113,6 +116,35 @@ void Desktop::showHome() {
     }
     m_home->show();
     bringToFront(*m_home);
+}
+
+/// What is open in an editor comes to the front there: the file itself may be behind its changes.
+void Desktop::comeForward(const QStringList& files) {
+    const QList<ToolWindow*> before = windows();
+    QStringList others;
+    for (const QString& path : files)
+        if (!raiseEditorOf(path))
+            others.append(path);
+    if (!others.isEmpty())
+        openAll(others);
+    for (ToolWindow* const window : windows())
+        if (!before.contains(window))
+            bringToFront(*window);
+    const bool isHome = m_home && m_home->isVisible();
+    if (windows().isEmpty() && (files.isEmpty() || !isHome))
+        showHome();
+    else if (files.isEmpty())
+        bringToFront(m_lastFront && m_lastFront->isVisible() ? *m_lastFront : *windows().last());
+}
+
+/// While the coach is in another program, no window of this one is active.
+void Desktop::noteFront(const QWindow* window) {
+    QList<QWidget*> candidates{m_home};
+    for (ToolWindow* const open : windows())
+        candidates.append(open);
+    for (QWidget* const candidate : candidates)
+        if (window && candidate && candidate->windowHandle() == window)
+            m_lastFront = candidate;
 }
 
 QWidget* Desktop::front() const {
@@ -441,6 +473,7 @@ void Desktop::openImports(const QStringList& paths) {
         window->startNew(first.absolutePath() + '/' + first.completeBaseName() + ".bms");
         show(window);
     }
+    bringToFront(*window);
     window->takeInAll(paths);
 }
 

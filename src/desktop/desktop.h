@@ -11,6 +11,8 @@
 
 #include <optional>
 
+class QWindow;
+
 namespace kavela::desktop {
 
 class CrossWindow;
@@ -36,6 +38,9 @@ public:
     void open(const QString& path) { openAll({path}); }
     /// The same for several: their races come into one window, which is `into` where it is given.
     void openAll(const QStringList& paths, RaceWindow* into = nullptr);
+    /// Answers a further start of the program: its files come to the front in the windows that have
+    /// them, or are opened; without any the window that was last in front comes back, or home.
+    void comeForward(const QStringList& files);
     /// Opens what was open when the program was left. False when nothing was, or nothing is there.
     [[nodiscard]] bool restoreSession();
     void openSettings();
@@ -106,11 +111,13 @@ private:
     /// The races among files and folders; what is not one is told.
     [[nodiscard]] QStringList racesAmong(const QStringList& paths, HeldDocuments& held);
     void rememberSession();
+    void noteFront(const QWindow* window);
     [[nodiscard]] QWidget* front() const;
 
     Workspace& m_workspace;
     WheelGuard m_wheelGuard;
     QPointer<HomeWindow> m_home;
+    QPointer<QWidget> m_lastFront; ///< of the windows, the one that the coach was in last
     QList<QPointer<ToolWindow>> m_windows;
     QSet<QString> m_opening; ///< canonical: files that a window is reading right now
     Autosave m_autosave;

@@ -3,6 +3,7 @@
 #include "desktop/film/film_stage.h"
 #include "desktop/race/race_view.h"
 #include "desktop/race/race_window.h"
+#include "desktop/shell/bring_to_front.h"
 #include "desktop/shell/file_names.h"
 #include "desktop/shell/window_place.h"
 #include "desktop/splitfile/taking_files.h"

@@ -1,4 +1,5 @@
 #include "desktop/desktop.h"
+#include "desktop/one_program.h"
 #include "desktop/shell/diagnostic_log.h"
 #include "desktop/shell/scheme.h"
 #include "desktop/shell/screen_fit.h"
@@ -6,6 +7,7 @@
 #include "preferences/start_up.h"
 
 #include <QApplication>
+#include <QDir>
 #include <QStandardPaths>
 #include <QStyleFactory>
 
@@ -17,6 +19,8 @@ using namespace kavela::desktop;
 namespace {
 
 constexpr int BadUse = 2;
+/// By which the desktop lets the window of this start come forward.
+constexpr const char* ActivationToken = "XDG_ACTIVATION_TOKEN";
 
 std::filesystem::path logFile() {
     const QString folder = QStandardPaths::writableLocation(QStandardPaths::AppLocalDataLocation);
@@ -30,6 +34,42 @@ QStringList argumentsOf(int argc, char** argv) {
     return arguments;
 }
 
+/// As seen from the folder that the program was started in.
+QStringList absolute(const QStringList& files) {
+    QStringList paths;
+    for (const QString& file : files)
+        paths.append(QDir::current().absoluteFilePath(file));
+    return paths;
+}
+
+/// Starts as the one program of the user, as a further one, or only hands the call over.
+OneProgram::Start begin(OneProgram& one, const OneProgram::Call& call, bool isNew) {
+    const OneProgram::Start start = isNew ? one.startBeside() : one.start(call);
+    if (start == OneProgram::Start::Beside && !isNew)
+        std::fputs("The Kavela that is running does not answer. Another one starts beside it.\n",
+                   stderr);
+    if (start == OneProgram::Start::Unknown)
+        std::fprintf(stderr, "Other starts of Kavela cannot find this one: no socket at “%s”.\n",
+                     qUtf8Printable(one.place()));
+    return start;
+}
+
+/// What is on the screen when the program has started. The work and the windows of a program that
+/// runs are its own: one beside it has only what it was called with.
+void showAtStart(Desktop& program, const QStringList& files, bool isBeside) {
+    if (!files.isEmpty())
+        program.openAll(files);
+    if (!isBeside) {
+        program.offerRecovery();
+        program.loadPlanningAtStart();
+    }
+    if (!program.windows().isEmpty())
+        return;
+    const bool isRestored = !isBeside && files.isEmpty() && program.restoreSession();
+    if (!isRestored)
+        program.showHome();
+}
+
 } // namespace
 
 int main(int argc, char** argv) {
@@ -37,6 +77,7 @@ int main(int argc, char** argv) {
         std::fputs(qUtf8Printable(*answer), stdout);
         return std::fflush(stdout) == 0 ? EXIT_SUCCESS : EXIT_FAILURE;
     }
+    const QByteArray activation = qgetenv(ActivationToken); // the toolkit may take it
     QApplication application(argc, argv);
     QApplication::setApplicationName("Kavela");
     QApplication::setOrganizationName("Kavela");
@@ -46,6 +87,11 @@ int main(int argc, char** argv) {
         std::fprintf(stderr, "%s\n", qUtf8Printable(options.fault));
         return BadUse;
     }
+    const QStringList files = absolute(options.files);
+    OneProgram one(meetingPlace());
+    const OneProgram::Start start = begin(one, {files, activation}, options.isNew);
+    if (start == OneProgram::Start::HandedOver)
+        return EXIT_SUCCESS;
     QApplication::setStyle(QStyleFactory::create("Fusion"));
     const ScreenFit screenFit(nullptr);
 
@@ -53,11 +99,11 @@ int main(int argc, char** argv) {
     workspace.startUp(userLibraryFolder());
     applyScheme(workspace);
     Desktop program(workspace);
-    if (!options.files.isEmpty())
-        program.openAll(options.files);
-    program.offerRecovery();
-    program.loadPlanningAtStart();
-    if (program.windows().isEmpty() && (!options.files.isEmpty() || !program.restoreSession()))
-        program.showHome();
+    showAtStart(program, files, start == OneProgram::Start::Beside);
+    one.serve([&program](const OneProgram::Call& call) {
+        if (!call.activation.isEmpty())
+            qputenv(ActivationToken, call.activation);
+        program.comeForward(call.files);
+    });
     return QApplication::exec();
 }

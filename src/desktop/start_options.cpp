@@ -4,6 +4,8 @@ namespace kavela::desktop {
 
 namespace {
 
+constexpr const char* NewProgram = "--new";
+
 constexpr const char* Usage =
     "Usage: kavela-desktop [OPTIONS] [FILE or FOLDER…]\n"
     "\n"
@@ -11,8 +13,12 @@ constexpr const char* Usage =
     "tests, recordings and sessions. A folder of films opens for split taking. Without any,\n"
     "what was open when the program was left is opened again.\n"
     "\n"
+    "Where the program runs already, it opens the files and comes to the front, and this call\n"
+    "ends at once.\n"
+    "\n"
     "Options:\n"
     "  -h, --help     print this and leave\n"
+    "      --new      start another program all the same, without what the first one has open\n"
     "  -v, --version  print the version and leave\n"
     "  --             what follows is a file, whatever its name begins with\n"
     "\n"
@@ -34,7 +40,9 @@ QStringList optionsAmong(const QStringList& arguments) {
 
 StartOptions startOptions(const QStringList& arguments) {
     StartOptions options;
-    if (const QStringList unknown = optionsAmong(arguments); !unknown.isEmpty())
+    QStringList unknown = optionsAmong(arguments);
+    options.isNew = unknown.removeAll(NewProgram) > 0;
+    if (!unknown.isEmpty())
         options.fault =
             QString("There is no option %1. Try kavela-desktop --help.").arg(unknown.constFirst());
     const qsizetype end = arguments.indexOf("--");

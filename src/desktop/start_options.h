@@ -9,8 +9,9 @@ namespace kavela::desktop {
 
 /// What the program was started with.
 struct StartOptions {
-    QStringList files; ///< files and folders to open
-    QString fault;     ///< an option that does not exist; empty for none
+    QStringList files;  ///< files and folders to open
+    bool isNew = false; ///< another program, also where one runs
+    QString fault;      ///< an option that does not exist; empty for none
 };
 
 /// Reads the arguments behind the program's name; those of the toolkit are taken out before.
