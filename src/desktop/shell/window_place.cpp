@@ -78,11 +78,6 @@ QByteArray kept(const Workspace& workspace, const QString& key) {
 
 } // namespace
 
-void bringToFront(QWidget& window) {
-    window.raise();
-    window.activateWindow();
-}
-
 void rememberPlace(QWidget& window, Workspace& workspace, const QString& kind) {
     const QString key = "place/" + kind;
     window.restoreGeometry(kept(workspace, key));

@@ -14,9 +14,6 @@ class Workspace;
 /// window must not outlive the workspace.
 void rememberPlace(QWidget& window, Workspace& workspace, const QString& kind);
 
-/// Puts a window over the others and gives it the keys.
-void bringToFront(QWidget& window);
-
 /// Gives the parts of a splitter sizes; where it is smaller than all of them together, each gives
 /// way by its share. Beyond that, and once the coach moved a handle, its stretch factors decide.
 void shareSizes(QSplitter& splitter, const QList<int>& sizes);
