@@ -9,7 +9,7 @@ namespace kavela::desktop {
 namespace {
 
 /// Nothing where the phase has no such value.
-Cell percentCell(const std::vector<double>& values, std::size_t place, std::size_t count) {
+Cell shareCell(const std::vector<double>& values, std::size_t place, std::size_t count) {
     if (place >= count)
         return {};
     return {.text = shownNumber(values[place], 1) + " %", .number = values[place]};
@@ -26,7 +26,7 @@ std::size_t splitsOf(const mtAverageDataStruct& average) {
 
 Cell wholeCell(const PhaseAverages& row) {
     const auto& values = row.average.per;
-    return hasWhole(row.average) ? percentCell(values, values.size() - 1, values.size()) : Cell();
+    return hasWhole(row.average) ? shareCell(values, values.size() - 1, values.size()) : Cell();
 }
 
 using AverageColumn = Column<PhaseAverages>;
@@ -36,7 +36,7 @@ AverageColumn shareColumn(const QString& title, std::size_t share) {
             .tip = AveragesModel::tr("Share of the runs with so many penalty seconds"),
             .kind = ColumnKind::Number,
             .show = [share](const PhaseAverages& row) {
-                return percentCell(row.average.pendis, share, row.average.pendis.size());
+                return shareCell(row.average.pendis, share, row.average.pendis.size());
             }};
 }
 
@@ -44,7 +44,7 @@ AverageColumn splitColumn(std::size_t split) {
     return {.title = AveragesModel::tr("S%1").arg(split + 1),
             .kind = ColumnKind::Number,
             .show = [split](const PhaseAverages& row) {
-                return percentCell(row.average.per, split, splitsOf(row.average));
+                return shareCell(row.average.per, split, splitsOf(row.average));
             }};
 }
 
