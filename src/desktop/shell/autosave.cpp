@@ -131,6 +131,15 @@ void Autosave::forget(const QString& path) const {
     });
 }
 
+void Autosave::settle(const QString& path) const {
+    forget(path);
+    disk::run([folder = m_folder, slot = slot(path)] {
+        const QString later = folder + Postponed + '/' + QFileInfo(slot).fileName();
+        if (QFile::exists(later + ".work"))
+            moveAside(later, folder + GivenUp);
+    });
+}
+
 void Autosave::putAside(const QString& path) const {
     disk::run([folder = m_folder, slot = slot(path)] { moveAside(slot, folder + GivenUp); });
 }

@@ -47,6 +47,8 @@ public:
     [[nodiscard]] bool isKept(const Label& label, Content content) const;
     /// The work is saved: nothing is left to recover.
     void forget(const QString& path) const;
+    /// The document was saved: what was postponed before is put aside too.
+    void settle(const QString& path) const;
     /// The coach does not want it: it is put aside, where the last few stay for a change of mind.
     void putAside(const QString& path) const;
 

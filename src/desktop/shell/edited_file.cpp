@@ -362,7 +362,7 @@ bool EditedFile::waitFor(const std::shared_ptr<Writing>& writing) {
 }
 
 void EditedFile::noteWritten(const Writing& writing) {
-    m_autosave.forget(m_path);
+    m_autosave.settle(m_path);
     m_path = QFileInfo(writing.path).absoluteFilePath();
     m_isNamed = true;
     m_olderLayout.clear();
