@@ -1,6 +1,6 @@
 #include "desktop/opened_as.h"
 
-#include "app/document_kind.h"
+#include "app/content_kind.h"
 #include "app/file_facts.h"
 #include "common/error.h"
 #include "common/text_file.h"
@@ -56,13 +56,13 @@ bool beginsAsDocument(const QString& path) {
 }
 
 /// One of an older release is brought to this one by the tool for races.
-OpensAs splitFileOpensAs(const DocumentKind& document, const QString& path) {
+OpensAs splitFileOpensAs(const ContentKind& document, const QString& path) {
     const bool isForCross =
         document.hasCross && !document.hasRuns && kavela::factsOf(path.toStdString()).current;
     return isForCross ? OpensAs::Cross : OpensAs::Race;
 }
 
-std::optional<OpensAs> documentOpensAs(const DocumentKind& document, const QString& path) {
+std::optional<OpensAs> documentOpensAs(const ContentKind& document, const QString& path) {
     static const std::map<std::string_view, OpensAs> Kinds{
         {"selection races", OpensAs::Selection}, {"team", OpensAs::Team},
         {"planning", OpensAs::Planning},         {"test results", OpensAs::Tests},
@@ -84,7 +84,7 @@ OpensAs unknownOpensAs(const QString& path) {
 Opening documentOpensAs(const QString& path) {
     try {
         JsonDocument document = JsonDocument::fromFile(path.toStdString());
-        if (const auto as = documentOpensAs(documentKind(document), path))
+        if (const auto as = documentOpensAs(contentKind(document), path))
             return {*as, std::move(document)};
     } catch (const FileError&) {
         return {unknownOpensAs(path)};

@@ -1,4 +1,4 @@
-#include "app/document_kind.h"
+#include "app/content_kind.h"
 #include "app/file_facts.h"
 #include "common/recorders.h"
 #include "common/safe_file.h"
@@ -49,14 +49,14 @@ TEST(StartOptions, AreFilesAndAFaultForWhatIsNeither) {
 
 /// Members alone tell what decoding tells, of every file of the sample season and of older
 /// releases.
-TEST(DocumentKind, IsToldByTheNamesOfMembers) {
+TEST(ContentKind, IsToldByTheNamesOfMembers) {
     int documents = 0;
     for (const auto& entry : fs::recursive_directory_iterator(KAVELA_EXAMPLES)) {
         const FileFacts facts = factsOf(entry.path());
         if (facts.error || facts.kind == "planning access")
             continue;
         ++documents;
-        const DocumentKind kind = documentKind(JsonDocument::fromFile(entry.path()));
+        const ContentKind kind = contentKind(JsonDocument::fromFile(entry.path()));
         EXPECT_EQ(kind.kind, facts.kind) << entry.path();
         if (facts.kind == "split file") {
             EXPECT_EQ(kind.hasRuns, facts.counts.at("runs") > 0) << entry.path();
@@ -66,7 +66,7 @@ TEST(DocumentKind, IsToldByTheNamesOfMembers) {
         }
     }
     EXPECT_GT(documents, 15);
-    EXPECT_EQ(documentKind(JsonDocument::fromText(R"({"info": {}})")).kind, "unknown");
+    EXPECT_EQ(contentKind(JsonDocument::fromText(R"({"info": {}})")).kind, "unknown");
 }
 
 /// As from a terminal without a screen: no window can be opened there.

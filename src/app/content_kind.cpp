@@ -1,4 +1,4 @@
-#include "app/document_kind.h"
+#include "app/content_kind.h"
 
 #include <simdjson.h>
 
@@ -34,10 +34,10 @@ bool holdsAny(const Element& parent, std::string_view list) {
 
 } // namespace
 
-DocumentKind documentKind(const JsonDocument& json) {
+ContentKind contentKind(const JsonDocument& json) {
     const Element root = json.root();
     const auto has = [&](const char* member) { return root[member].error() == simdjson::SUCCESS; };
-    DocumentKind found;
+    ContentKind found;
     const auto kind = std::ranges::find_if(
         Kinds, [&](const KindOfMembers& known) { return std::ranges::all_of(known.members, has); });
     if (kind == Kinds.end())
