@@ -54,7 +54,7 @@ private:
     ColumnTable* m_table;
     IntervalForm* m_form;
     QPushButton* m_timer = nullptr;
-    std::vector<QAction*> m_forOne; ///< those that need a chosen session
+    std::vector<QAction*> m_forOne;     ///< those that need a chosen session
     std::optional<std::size_t> m_shown; ///< the session in the form
     bool m_isStale = true;
 };

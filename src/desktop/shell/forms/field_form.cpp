@@ -33,12 +33,6 @@ bool isTypedIn(const QAbstractSpinBox& box) {
     return box.hasFocus() && line && line->isModified();
 }
 
-template <class Box>
-void setUp(Box& box, const NumberFacts& number) {
-    box.setSuffix(number.unit.isEmpty() ? QString() : ' ' + number.unit);
-    box.setSpecialValueText(number.none);
-}
-
 } // namespace
 
 FieldForm::FieldForm(Arrangement arrangement, QWidget* parent) : QWidget(parent) {
@@ -138,13 +132,15 @@ std::size_t FieldForm::addLongText(const FieldFacts& facts, int lines) {
     return add(facts, std::move(field));
 }
 
-std::size_t FieldForm::addWhole(const FieldFacts& facts, const NumberFacts& number) {
-    auto* const box = new WholeBox;
-    box->setRange(static_cast<int>(number.least), static_cast<int>(number.most));
-    box->setSingleStep(static_cast<int>(number.step));
-    setUp(*box, number);
+template <class Box>
+std::size_t FieldForm::addBox(const FieldFacts& facts, const NumberFacts& number, Box* box) {
+    using Value = decltype(box->value());
+    box->setRange(static_cast<Value>(number.least), static_cast<Value>(number.most));
+    box->setSingleStep(static_cast<Value>(number.step));
+    box->setSuffix(number.unit.isEmpty() ? QString() : ' ' + number.unit);
+    box->setSpecialValueText(number.none);
     Field field{box};
-    field.show = [box](const QVariant& value) { box->setValue(value.toInt()); };
+    field.show = [box](const QVariant& value) { box->setValue(value.value<Value>()); };
     field.read = [box] { return box->value(); };
     field.isTyped = [box] { return isTypedIn(*box); };
     field.finish = [box] {
@@ -152,28 +148,19 @@ std::size_t FieldForm::addWhole(const FieldFacts& facts, const NumberFacts& numb
         return !isRefused(*box);
     };
     const std::size_t at = add(facts, std::move(field));
-    connect(box, &WholeBox::valueChanged, this, [this, at] { takeField(at); });
+    connect(box, &Box::valueChanged, this, [this, at] { takeField(at); });
     return at;
+}
+
+std::size_t FieldForm::addWhole(const FieldFacts& facts, const NumberFacts& number) {
+    return addBox(facts, number, new WholeBox);
 }
 
 std::size_t FieldForm::addNumber(const FieldFacts& facts, const NumberFacts& number) {
     auto* const box = new NumberBox;
     box->setDecimals(number.decimals);
-    box->setRange(number.least, number.most);
-    box->setSingleStep(number.step);
     box->setIsTime(number.isTime);
-    setUp(*box, number);
-    Field field{box};
-    field.show = [box](const QVariant& value) { box->setValue(value.toDouble()); };
-    field.read = [box] { return box->value(); };
-    field.isTyped = [box] { return isTypedIn(*box); };
-    field.finish = [box] {
-        box->takeTyped();
-        return !isRefused(*box);
-    };
-    const std::size_t at = add(facts, std::move(field));
-    connect(box, &NumberBox::valueChanged, this, [this, at] { takeField(at); });
-    return at;
+    return addBox(facts, number, box);
 }
 
 /// The first day of all stands for none.

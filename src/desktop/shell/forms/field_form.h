@@ -99,6 +99,8 @@ private:
     };
 
     std::size_t add(const FieldFacts& facts, Field field);
+    template <class Box>
+    std::size_t addBox(const FieldFacts& facts, const NumberFacts& number, Box* box);
     void place(const FieldFacts& facts, QWidget& widget);
     void takeField(std::size_t place);
     void showField(Field& field);
