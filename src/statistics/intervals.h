@@ -33,7 +33,8 @@ struct RatioOf {
 };
 
 /// percent = 100·ΣL/ΣB, SE² = n/(n−1)·Σ(L − qB)²/(ΣB)², t with n − 1 degrees of freedom. Both lists
-/// are of the same length.
+/// are of the same length; throws std::invalid_argument where they are not. Where ΣB is 0 there is
+/// no interval either.
 [[nodiscard]] RatioOf ratioOf(std::span<const double> parts, std::span<const double> wholes);
 
 /// How often something happened among a number of chances.
@@ -47,11 +48,12 @@ struct RateOf {
 };
 
 /// By Wilson's score interval, which keeps its level for small numbers and at 0 (Brown, Cai,
-/// DasGupta, 2001). Nothing for no chances at all.
+/// DasGupta, 2001). Nothing for no chances at all. Throws std::invalid_argument for a count above
+/// the number of chances.
 [[nodiscard]] std::optional<RateOf> rateOf(std::size_t count, std::size_t of);
 
 /// The exact interval of a Poisson mean per unit, from a count over `units` of them (Garwood,
-/// 1936). `units` is above 0.
+/// 1936). Throws std::invalid_argument where `units` is not above 0.
 [[nodiscard]] Interval poissonInterval(std::size_t count, double units);
 
 } // namespace kavela

@@ -31,10 +31,13 @@ struct ShrunkRate {
 };
 
 /// m = (Σx + ½)/(N + 1), N = Σn, v = m(1 − m), S = Σn(x/n − m)², γ = (S − v(k − 1)) / (v(N − Σn²/N
-/// − (k − 1))) kept in [1/2001, ½], M = (1 − γ)/γ; 20 below three rows. Rows without a chance count
-/// for nothing.
+/// − (k − 1))) kept in [1/2001, ½], M = (1 − γ)/γ; 20 below three rows and where no row has a
+/// second chance, which tells nothing of a spread. Rows without a chance count for nothing. Throws
+/// std::invalid_argument for a count above the number of chances.
 [[nodiscard]] CommonRate commonRate(std::span<const CountOf> rows);
 
+/// A row without a chance is the common rate itself. Throws std::invalid_argument for a count above
+/// the number of chances, and for a common rate that is not one.
 [[nodiscard]] ShrunkRate shrunkRate(const CountOf& row, const CommonRate& common);
 
 } // namespace kavela
