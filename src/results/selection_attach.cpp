@@ -1,6 +1,6 @@
 #include "results/selection_attach.h"
 
-#include "results/athlete_keys.h"
+#include "splitdata/athlete_keys.h"
 #include "splitdata/run_timing.h"
 
 #include <cmath>

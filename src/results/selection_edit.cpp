@@ -1,7 +1,7 @@
 #include "results/selection_edit.h"
 
-#include "results/athlete_keys.h"
 #include "results/list_lines.h"
+#include "splitdata/athlete_keys.h"
 
 #include <algorithm>
 

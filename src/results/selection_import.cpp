@@ -1,8 +1,8 @@
 #include "results/selection_import.h"
 
-#include "results/athlete_keys.h"
 #include "results/selection_edit.h"
 #include "results/team_records.h"
+#include "splitdata/athlete_keys.h"
 
 #include <algorithm>
 #include <cmath>

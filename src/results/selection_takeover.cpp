@@ -1,6 +1,6 @@
 #include "results/selection_takeover.h"
 
-#include "results/athlete_keys.h"
+#include "splitdata/athlete_keys.h"
 
 #include <algorithm>
 #include <map>

@@ -1,6 +1,6 @@
 #include "results/team_seasons.h"
 
-#include "results/athlete_keys.h"
+#include "splitdata/athlete_keys.h"
 
 #include <algorithm>
 

@@ -4,12 +4,12 @@
 #include "common/json_encode.h"
 #include "common/number_text.h"
 #include "common/record_convert.h"
-#include "results/athlete_keys.h"
 #include "results/history/selection_history.h"
 #include "results/selection_attach.h"
 #include "sample/athletes.h"
 #include "sample/dice.h"
 #include "sample/races.h"
+#include "splitdata/athlete_keys.h"
 
 #include <algorithm>
 #include <array>

@@ -2,8 +2,8 @@
 
 #include "desktop/shell/qt_text.h"
 #include "desktop/shell/shown_number.h"
-#include "results/athlete_keys.h"
 #include "results/name_likeness.h"
+#include "splitdata/athlete_keys.h"
 
 #include <QCoreApplication>
 

@@ -5,7 +5,7 @@
 #include "desktop/shell/theme.h"
 #include "desktop/team/team_document.h"
 #include "desktop/team/typed_values.h"
-#include "results/athlete_keys.h"
+#include "splitdata/athlete_keys.h"
 
 #include <QComboBox>
 #include <QLineEdit>

@@ -2,7 +2,7 @@
 
 #include "desktop/shell/theme.h"
 #include "desktop/team/typed_values.h"
-#include "results/athlete_keys.h"
+#include "splitdata/athlete_keys.h"
 
 #include <QCheckBox>
 #include <QDialogButtonBox>

@@ -13,38 +13,12 @@ namespace {
 
 using Codes = std::vector<std::int64_t>;
 
-constexpr std::array<Codes pendata030::*, PenaltyFields> Lists{
-    &pendata030::gate,      &pendata030::gatekind, &pendata030::penkind,
-    &pendata030::polekind,  &pendata030::penway,   &pendata030::moment,
-    &pendata030::direction, &pendata030::style,    &pendata030::eye};
-
-Codes& listOf(pendata030& record, PenaltyField field) {
-    return record.*Lists[static_cast<std::size_t>(field)];
-}
-
-std::size_t entriesIn(const pendata030& record) {
-    std::size_t count = 0;
-    for (const auto list : Lists)
-        count = std::max(count, (record.*list).size());
-    return count;
-}
-
 pendata030& penaltyRecordOf(athletedata031& run, PenaltyHandle handle) {
     pendata030& record =
         entryOf(run.sectioninfo.pendetails, handle.record, "the record of penalties");
     if (handle.entry >= entriesIn(record))
         throw std::out_of_range("penalty " + std::to_string(handle.entry + 1) + " does not exist");
     return record;
-}
-
-PenaltyEntry readPenalty(const pendata030& record, PenaltyHandle handle) {
-    PenaltyEntry entry{handle, {}};
-    for (std::size_t k = 0; k < Lists.size(); ++k) {
-        const Codes& list = record.*Lists[k];
-        if (handle.entry < list.size())
-            entry.codes[k] = list[handle.entry];
-    }
-    return entry;
 }
 
 GatePenalty penaltyOf(std::int64_t seconds) {
@@ -96,8 +70,8 @@ void takeSecondsFromDetails(athletedata031& run, std::optional<std::int64_t> gat
 
 void eraseDetail(athletedata031& run, PenaltyHandle handle) {
     pendata030& record = penaltyRecordOf(run, handle);
-    for (const auto list : Lists)
-        eraseEntry(record.*list, handle.entry);
+    for (std::size_t field = 0; field < PenaltyFields; ++field)
+        eraseEntry(listOf(record, static_cast<PenaltyField>(field)), handle.entry);
     if (entriesIn(record) == 0)
         eraseEntry(run.sectioninfo.pendetails, handle.record);
 }
@@ -138,25 +112,6 @@ void changeKindsAt(athletedata031& run, std::int64_t gate, std::int64_t seconds)
 
 } // namespace
 
-std::optional<LabelList> labelListOf(PenaltyField field) {
-    constexpr std::array Labels{LabelList::PenaltyGateKind, LabelList::PenaltyKind,
-                                LabelList::PenaltyPole,     LabelList::PenaltyWay,
-                                LabelList::PenaltyMoment,   LabelList::PenaltyDirection,
-                                LabelList::PenaltyStyle,    LabelList::PenaltyEye};
-    if (field == PenaltyField::Gate)
-        return std::nullopt;
-    return Labels[static_cast<std::size_t>(field) - 1];
-}
-
-std::vector<PenaltyEntry> penaltyEntries(const athletedata031& run) {
-    std::vector<PenaltyEntry> entries;
-    const auto& records = run.sectioninfo.pendetails;
-    for (std::size_t r = 0; r < records.size(); ++r)
-        for (std::size_t k = 0; k < entriesIn(records[r]); ++k)
-            entries.push_back(readPenalty(records[r], {r, k}));
-    return entries;
-}
-
 PenaltyHandle addPenalty(athletedata031& run, const PenaltyDetail& detail, std::int64_t gates) {
     askForGate(detail.gate, gates);
     auto& records = run.sectioninfo.pendetails;
@@ -168,7 +123,7 @@ PenaltyHandle addPenalty(athletedata031& run, const PenaltyDetail& detail, std::
         detail.gate,   detail.gatekind,  detail.penkind, detail.polekind, detail.penway,
         detail.moment, detail.direction, detail.style,   detail.eye};
     for (std::size_t k = 0; k < values.size(); ++k)
-        setPadded(record.*Lists[k], handle.entry, values[k]);
+        setPadded(listOf(record, static_cast<PenaltyField>(k)), handle.entry, values[k]);
     takeSecondsFromDetails(run, detail.gate, gates);
     return handle;
 }
@@ -176,7 +131,7 @@ PenaltyHandle addPenalty(athletedata031& run, const PenaltyDetail& detail, std::
 void changePenalty(athletedata031& run, PenaltyHandle handle, PenaltyField field,
                    std::int64_t value, std::int64_t gates) {
     pendata030& record = penaltyRecordOf(run, handle);
-    const std::optional<std::int64_t> gateBefore = readPenalty(record, handle)[PenaltyField::Gate];
+    const std::optional<std::int64_t> gateBefore = penaltyEntry(record, handle)[PenaltyField::Gate];
     if (field == PenaltyField::Gate)
         askForGate(value, gates);
     setPadded(listOf(record, field), handle.entry, value);
@@ -188,7 +143,7 @@ void changePenalty(athletedata031& run, PenaltyHandle handle, PenaltyField field
 
 void removePenalty(athletedata031& run, PenaltyHandle handle, std::int64_t gates) {
     const std::optional<std::int64_t> gate =
-        readPenalty(penaltyRecordOf(run, handle), handle)[PenaltyField::Gate];
+        penaltyEntry(penaltyRecordOf(run, handle), handle)[PenaltyField::Gate];
     eraseDetail(run, handle);
     takeSecondsFromDetails(run, gate, gates);
 }

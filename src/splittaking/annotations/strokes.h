@@ -1,6 +1,7 @@
 #pragma once
 
 #include "splitdata/annotation_labels.h"
+#include "splitdata/section_strokes.h"
 #include "splittaking/annotations/film_marks.h"
 
 #include <span>
@@ -42,21 +43,5 @@ void swapHand(athletedata031& run, std::size_t place);
                                                  const CMTime& moment);
 
 inline constexpr double GlideSeconds = 3;
-
-/// The strokes of one section of a run.
-struct SectionStrokes {
-    std::size_t left = 0;
-    std::size_t right = 0;
-    std::size_t other = 0;           ///< with a hand that is neither
-    double seconds = 0;              ///< from the first of them to the last
-    std::optional<double> perMinute; ///< between them; nothing with fewer than two
-
-    [[nodiscard]] std::size_t total() const { return left + right + other; }
-};
-
-/// By split of the run. Strokes are often marked in a part of a section only: the rate is that of
-/// the stretch that has marks. A stroke at the moment of a mark belongs to the section that begins
-/// there; strokes before the start and after the last mark belong to none.
-[[nodiscard]] std::vector<SectionStrokes> strokesBySection(const athletedata031& run);
 
 } // namespace kavela

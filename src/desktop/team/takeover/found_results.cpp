@@ -2,6 +2,7 @@
 
 #include "analysis/percent_behind.h"
 #include "desktop/team/takeover/team_labels.h"
+#include "splitdata/athlete_keys.h"
 #include "splitdata/run_timing.h"
 
 #include <algorithm>

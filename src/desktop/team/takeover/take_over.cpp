@@ -1,10 +1,10 @@
 #include "desktop/team/takeover/take_over.h"
 
 #include "desktop/team/team_edits.h"
-#include "results/athlete_keys.h"
 #include "results/name_likeness.h"
 #include "results/phase_averages.h"
 #include "results/team_seasons.h"
+#include "splitdata/athlete_keys.h"
 
 #include <algorithm>
 #include <iterator>

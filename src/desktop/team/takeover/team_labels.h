@@ -5,10 +5,9 @@
 
 namespace kavela::desktop {
 
-/// The team's label of a category, an event or a phase that a file writes in its own way; empty
-/// when there is none such.
+/// The team's label of a category or an event that a file writes in its own way; empty when
+/// there is none such.
 [[nodiscard]] std::string teamCategory(std::string_view written);
 [[nodiscard]] std::string teamEvent(std::string_view written);
-[[nodiscard]] std::string teamPhase(std::string_view written);
 
 } // namespace kavela::desktop

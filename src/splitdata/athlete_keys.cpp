@@ -1,9 +1,11 @@
-#include "results/athlete_keys.h"
+#include "splitdata/athlete_keys.h"
 
 #include "common/folded_text.h"
 #include "common/utf8.h"
 
 #include <algorithm>
+#include <array>
+#include <utility>
 #include <vector>
 
 namespace kavela {
@@ -48,6 +50,8 @@ void addPeople(std::string_view crew, std::vector<std::string>& keys) {
     }
 }
 
+using WrittenPhase = std::pair<std::string_view, const char*>;
+
 std::string joined(std::vector<std::string> keys) {
     std::sort(keys.begin(), keys.end());
     std::string text;
@@ -71,12 +75,32 @@ std::string crewKey(std::span<const std::string> names) {
     return joined(std::move(keys));
 }
 
-std::string categoryKey(std::string_view label) {
+std::string bareKey(std::string_view text) {
     constexpr std::string_view Marks = " -_./";
-    std::string key = folded(label);
+    std::string key = folded(text);
     std::erase_if(key, [&](char c) { return Marks.find(c) != std::string_view::npos; });
+    return key;
+}
+
+std::string categoryKey(std::string_view label) {
+    std::string key = bareKey(label);
     std::sort(key.begin(), key.end());
     return key;
+}
+
+std::string teamPhase(std::string_view written) {
+    static constexpr std::array Words{
+        WrittenPhase{"heat", "Heats 1"},         WrittenPhase{"heats", "Heats 1"},
+        WrittenPhase{"heat1", "Heats 1"},        WrittenPhase{"heats1", "Heats 1"},
+        WrittenPhase{"run1", "Heats 1"},         WrittenPhase{"1strun", "Heats 1"},
+        WrittenPhase{"heat2", "Heats 2"},        WrittenPhase{"heats2", "Heats 2"},
+        WrittenPhase{"run2", "Heats 2"},         WrittenPhase{"2ndrun", "Heats 2"},
+        WrittenPhase{"semi", "Semifinal"},       WrittenPhase{"semifinal", "Semifinal"},
+        WrittenPhase{"semifinals", "Semifinal"}, WrittenPhase{"final", "Final"},
+        WrittenPhase{"finals", "Final"}};
+    const std::string key = bareKey(written);
+    const auto found = std::ranges::find(Words, key, &WrittenPhase::first);
+    return found == Words.end() ? std::string() : found->second;
 }
 
 std::string inCapitals(std::string_view text) {
