@@ -14,8 +14,10 @@ IdealSection bestOfSection(const RaceSet& set, std::span<const std::size_t> runs
                            std::size_t section) {
     IdealSection best;
     for (const std::size_t run : runs) {
-        const double time = entryOrZero(set.alldata[run].sectioninfo.times, section);
-        if (isTaken(time) && (!best.run || time < best.time))
+        const sectionmaindata& timing = set.alldata[run].sectioninfo;
+        if (sectionStanding(timing, section) != TimeStanding::Counts)
+            continue;
+        if (const double time = timing.times[section]; !best.run || time < best.time)
             best = {time, run};
     }
     return best;

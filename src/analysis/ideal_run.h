@@ -7,7 +7,7 @@
 #include <vector>
 
 /// The run that nobody paddled: the best of every section put together. A time that was not taken
-/// is never a best; penalties are left out.
+/// is never a best, nor is one that covers an untimed section before; penalties are left out.
 namespace kavela {
 
 /// The best of one section.

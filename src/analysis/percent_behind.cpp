@@ -49,14 +49,14 @@ void fillSection(std::vector<analyzerdata>& runs, std::size_t section) {
     const auto figureOf = [&](std::vector<double>& figures) -> double& {
         return section < figures.size() ? figures[section] : none;
     };
-    fillColumn(
-        runs, [&](const sectionmaindata& s) { return counted(entryOrZero(s.times, section)); },
-        [&](sectionmaindata& s) -> double& { return figureOf(s.pertimes); });
+    const auto time = [&](const sectionmaindata& s) {
+        return counted(entryOrZero(s.times, section), sectionStanding(s, section));
+    };
+    fillColumn(runs, time, [&](sectionmaindata& s) -> double& { return figureOf(s.pertimes); });
     fillColumn(
         runs,
         [&](const sectionmaindata& s) {
-            return withPenalty(counted(entryOrZero(s.times, section)),
-                               entryOrZero(s.pens, section));
+            return withPenalty(time(s), entryOrZero(s.pens, section));
         },
         [&](sectionmaindata& s) -> double& { return figureOf(s.pertimesandpen); });
     fillColumn(

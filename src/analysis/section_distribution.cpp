@@ -1,6 +1,7 @@
 #include "analysis/section_distribution.h"
 
 #include "analysis/course_gaps.h"
+#include "analysis/standing.h"
 #include "common/percentile.h"
 
 #include <algorithm>
@@ -14,10 +15,11 @@ constexpr double WhiskerReach = 1.5; ///< quartile distances
 
 std::vector<SectionValue> timedValues(const RaceSet& set, std::size_t section,
                                       bool penaltiesIncluded) {
+    constexpr auto Merged = TimeStanding::Merged;
     std::vector<SectionValue> values;
     for (std::size_t run = 0; run < set.alldata.size(); ++run)
         if (const double time = comparedTime(set.alldata[run], section, penaltiesIncluded);
-            time != 0)
+            time != 0 && sectionStanding(set.alldata[run].sectioninfo, section) != Merged)
             values.push_back({run, time});
     std::ranges::stable_sort(values, {}, &SectionValue::time);
     return values;

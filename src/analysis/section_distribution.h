@@ -4,7 +4,8 @@
 
 #include <vector>
 
-/// How the times of the runs spread in each section. A time of 0 was not taken and never counts.
+/// How the times of the runs spread in each section. A time of 0 was not taken and never counts,
+/// nor does one that covers an untimed section before its own.
 namespace kavela {
 
 /// The time of one run in a section.

@@ -63,7 +63,7 @@ private:
     [[nodiscard]] TableCell sectionCell(const sectionmaindata& section, std::size_t i) const {
         const std::int64_t penalty = entryOrZero(section.pens, i);
         double value = entryOrZero(section.times, i);
-        TimeStanding standing = timeStanding(value);
+        TimeStanding standing = sectionStanding(section, i);
         if (m_settings.kind == ValueKind::Accumulated) {
             value = accumulated(section, i);
             standing = accumulatedStanding(section, i);

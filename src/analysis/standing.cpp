@@ -1,6 +1,7 @@
 #include "analysis/standing.h"
 
 #include "splitdata/run_timing.h"
+#include "splitdata/run_totals.h"
 
 #include <algorithm>
 #include <cmath>
@@ -28,6 +29,13 @@ TimeStanding timeStanding(double seconds) {
     if (seconds == 0)
         return TimeStanding::NotTimed;
     return isTaken(seconds) ? TimeStanding::Counts : TimeStanding::NotPositive;
+}
+
+TimeStanding sectionStanding(const sectionmaindata& timing, std::size_t section) {
+    const TimeStanding own = timeStanding(entryOrZero(timing.times, section));
+    const bool isMerged = section > 0 && !isTaken(entryOrZero(timing.times, section - 1)) &&
+                          !isBetweenItsMarks(timing.times, timing.cmtimes, section);
+    return own == TimeStanding::Counts && isMerged ? TimeStanding::Merged : own;
 }
 
 TimeStanding accumulatedStanding(const sectionmaindata& timing, std::size_t section) {
@@ -61,6 +69,8 @@ std::string_view reasonOf(TimeStanding standing) {
         return "No time was taken here.";
     case TimeStanding::NotPositive:
         return "A time must be above 0. Check the marks of this run.";
+    case TimeStanding::Merged:
+        return "The section before was not timed, so this time covers both.";
     case TimeStanding::AfterUntimed:
         return "A section up to here was not timed, so this is not the time from the start.";
     case TimeStanding::NotFinished:

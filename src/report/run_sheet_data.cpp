@@ -72,8 +72,10 @@ void addSplits(RunSheetData& data, const RaceSet& set, const analyzerdata& run) 
         split.title = sectionTitle(set, k);
         split.time = timing.times[k];
         split.penalty = entryOrZero(timing.pens, k);
-        rank(split, set, run,
-             [k](const analyzerdata& of) { return entryOrZero(of.sectioninfo.times, k); });
+        rank(split, set, run, [k](const analyzerdata& of) {
+            const bool counts = sectionStanding(of.sectioninfo, k) == TimeStanding::Counts;
+            return counts ? of.sectioninfo.times[k] : 0;
+        });
         data.splits.push_back(std::move(split));
     }
     data.leftOutSplits = timing.times.size() - data.splits.size();

@@ -18,8 +18,9 @@ athletedata031 named(std::vector<std::string> names, std::vector<double> times,
     return run;
 }
 
-std::vector<AthletePotential> potentialsOf(std::vector<athletedata031> runs) {
-    return athletePotentials(makeRaceSet(raceOf(2, std::move(runs)), "a.kvx"));
+std::vector<AthletePotential> potentialsOf(std::vector<athletedata031> runs,
+                                           std::int64_t sections = 2) {
+    return athletePotentials(makeRaceSet(raceOf(sections, std::move(runs)), "a.kvx"));
 }
 
 } // namespace
@@ -40,16 +41,19 @@ TEST(AthletePotential, PutsTheOwnBestSectionsTogether) {
 }
 
 TEST(AthletePotential, ClaimsNothingThatWasNotTimed) {
-    const auto athletes = potentialsOf({named({"Ann"}, {10, 0}), named({"Ann"}, {0, 20}),
-                                        named({"Bea"}, {10, 0}), named({"Cy"}, {})});
-    ASSERT_EQ(athletes.size(), 3U);
-    EXPECT_EQ(athletes[0].potential, 30) << "every section once, though no run was full";
+    const auto athletes = potentialsOf({named({"Ann"}, {10, 20, 0}), named({"Ann"}, {0, 31, 15}),
+                                        named({"Bea"}, {10, 0}), named({"Cy"}, {}),
+                                        named({"Di"}, {10, 0, 15}), named({"Di"}, {0, 30, 15})},
+                                       3);
+    ASSERT_EQ(athletes.size(), 4U);
+    EXPECT_EQ(athletes[0].potential, 45) << "every section once, though no run was full";
     for (const AthletePotential& athlete : athletes) {
         EXPECT_EQ(athlete.bestRun, std::nullopt) << athlete.name;
         EXPECT_EQ(athlete.difference, std::nullopt) << athlete.name;
     }
     EXPECT_EQ(athletes[1].potential, std::nullopt);
     EXPECT_EQ(athletes[2].potential, std::nullopt);
+    EXPECT_EQ(athletes[3].potential, std::nullopt) << "the second section never by itself";
 }
 
 TEST(AthletePotential, TellsCrewsApart) {

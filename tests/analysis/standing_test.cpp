@@ -51,6 +51,7 @@ std::vector<std::size_t> bests(const SplitTable& table, std::size_t column) {
 constexpr auto Counts = TimeStanding::Counts;
 constexpr auto NotTimed = TimeStanding::NotTimed;
 constexpr auto NotPositive = TimeStanding::NotPositive;
+constexpr auto Merged = TimeStanding::Merged;
 constexpr auto AfterUntimed = TimeStanding::AfterUntimed;
 constexpr auto NotFinished = TimeStanding::NotFinished;
 
@@ -60,6 +61,7 @@ TEST(TimeStanding, IsOfTimesThatWereTaken) {
     const RaceSet set = oddRace();
     const SplitTable sections = tableOf(set, ValueKind::Sections, true, "Race");
     EXPECT_THAT(standings(sections, 0), ElementsAre(Counts, NotTimed, Counts, Counts, NotTimed));
+    EXPECT_THAT(standings(sections, 1), ElementsAre(Counts, NotTimed, Counts, Counts, Merged));
     EXPECT_THAT(standings(sections, 2),
                 ElementsAre(Counts, NotTimed, NotTimed, NotPositive, Counts));
     EXPECT_THAT(standings(sections, 3),
@@ -114,6 +116,22 @@ TEST(TimeStanding, TakesNoPlaceAndIsNoReference) {
     EXPECT_THAT(figures.gap(0, 2, {ReferenceKind::Median}), Optional(0.0));
     const auto stopped = comparisonRow(set, set.alldata[2], {ValueKind::Accumulated});
     EXPECT_THAT(stopped.values, ElementsAre(9, 60, 0, 0, 0, 0)) << "nor from another race";
+}
+
+TEST(TimeStanding, HoldsNothingAgainstATimeOfTwoSections) {
+    const RaceSet set = makeRaceSet(
+        raceOf(3, {runOf({10, 20, 30}), runOf({0, 19, 31}), runOf({11, 22, 32})}), "a.kvx");
+    const SplitTable table = tableOf(set, ValueKind::Sections, false, "Race");
+    EXPECT_THAT(bests(table, 1), ElementsAre(0U));
+    EXPECT_TRUE(table.rows[1].cells[1].isGreyed());
+    EXPECT_THAT(TableFigures(table).gap(2, 1, {ReferenceKind::Median}), Optional(1.0));
+    EXPECT_THAT(TableFigures(table).rank(1, 2), Optional(2)) << "the next section stands alone";
+    EXPECT_EQ(set.alldata[0].sectioninfo.pertimes[1], 0) << "the best there is";
+    EXPECT_EQ(set.alldata[1].sectioninfo.pertimes[1], 0) << "held against nothing";
+    EXPECT_NEAR(set.alldata[2].sectioninfo.pertimesandpen[1], 10, 1e-9);
+    EXPECT_THAT(referenceTimes(set, {CourseReferenceKind::Median}, false),
+                ElementsAre(10.5, 21, 31));
+    EXPECT_THAT(referenceTimes(set, {CourseReferenceKind::Ideal}, false), ElementsAre(10, 20, 30));
 }
 
 TEST(TimeStanding, KeepsTimesOfLessThanNothingOutOfEveryBest) {
