@@ -46,6 +46,8 @@ public:
     [[nodiscard]] std::span<const TextId> optionsOf(const WayRow& way) const;
 
     [[nodiscard]] std::string_view text(TextId id) const { return m_texts[id]; }
+    /// Texts are numbered from 0 to one below this.
+    [[nodiscard]] std::size_t textCount() const { return m_texts.size(); }
     [[nodiscard]] std::filesystem::path pathOf(const RunRow& run) const;
     /// The lines of a text that holds one on each.
     [[nodiscard]] std::vector<std::string> lines(TextId id) const;

@@ -1,5 +1,6 @@
 #include "facts/query_columns.h"
 
+#include "facts/query_rows.h"
 #include "splitdata/run_totals.h"
 
 #include <algorithm>
@@ -92,7 +93,11 @@ double wayOfPenalty(const RowCursor& row) {
 }
 
 double sectionOf(const RowCursor& row) {
-    return row.section > 0 ? static_cast<double>(row.section) : NotKnown;
+    std::size_t section = row.section;
+    if (section == 0 && (row.gate || row.penalty))
+        section = sectionOfGate(*row.facts, *row.file,
+                                row.gate ? row.gate->gate : row.penalty->gate);
+    return section > 0 ? static_cast<double>(section) : NotKnown;
 }
 
 double strokesOf(const RowCursor& row) {
