@@ -10,7 +10,7 @@
 #include "splitdata/section_strokes.h"
 
 #include <algorithm>
-#include <cmath>
+#include <utility>
 
 namespace kavela {
 
@@ -51,12 +51,6 @@ double sumOfSections(std::span<const double> times, std::int64_t sections) {
     return sum;
 }
 
-/// Lists write 999.9 or 999.99 s for a run without a result.
-bool isNoResult(double seconds) {
-    constexpr double LeastOfNone = 999;
-    return std::isfinite(seconds) && seconds >= LeastOfNone;
-}
-
 std::int32_t codeOf(const PenaltyEntry& entry, PenaltyField field) {
     const auto& code = entry[field];
     return code ? narrowed<std::int32_t>(*code) : PenaltyRow::NoCode;
@@ -94,7 +88,7 @@ void takeTiming(const infodata031& info, const athletedata031& run, RunRow& row)
     row.xTime = timing.xTime;
     row.xPer = timing.xPer;
     row.sectionSum = sumOfSections(timing.times, info.totalsplits);
-    row.isRefused = isNoResult(timing.realtime);
+    row.isRefused = isRefused(info, run);
     if (const auto start = startOf(run))
         row.start = start->seconds();
     if (const auto total = totalOf(info, run)) {
@@ -102,7 +96,7 @@ void takeTiming(const infodata031& info, const athletedata031& run, RunRow& row)
         row.isOfficial = total->official;
         row.paddling = total->paddling;
         row.penalty = total->penalty;
-        row.total = total->paddling + static_cast<double>(total->penalty);
+        row.total = total->total();
     }
 }
 
