@@ -103,6 +103,7 @@ struct GateRow {
     std::int32_t gate = 0;
     std::int16_t direction = 0;
     std::int16_t style = 0;
+    double at = NotKnown; ///< seconds of the first film at the entrance
 };
 
 /// One penalty in detail. NoCode stands where the file's list does not reach so far.

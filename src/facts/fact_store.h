@@ -46,11 +46,24 @@ public:
     [[nodiscard]] std::span<const TextId> optionsOf(const WayRow& way) const;
 
     [[nodiscard]] std::string_view text(TextId id) const { return m_texts[id]; }
+    /// Texts are numbered from 0 to one below this.
+    [[nodiscard]] std::size_t textCount() const { return m_texts.size(); }
     [[nodiscard]] std::filesystem::path pathOf(const RunRow& run) const;
     /// The lines of a text that holds one on each.
     [[nodiscard]] std::vector<std::string> lines(TextId id) const;
 
 private:
+    void addRun(const splittakerdata031& document, const athletedata031& run);
+    void addSections(const infodata031& info, const athletedata031& run, RunRow& row);
+    void addNotes(const athletedata031& run, RunRow& row);
+    void addPenalties(const athletedata031& run, RunRow& row);
+    void addTags(const athletedata031& run, RunRow& row);
+    void addWays(const athletedata031& run, RunRow& row);
+    [[nodiscard]] TextId idOfLines(std::span<const std::string> lines);
+    [[nodiscard]] RowRange keep(std::span<const std::int64_t> numbers);
+    [[nodiscard]] RowRange keep(std::span<const double> numbers);
+    [[nodiscard]] RowRange keep(std::span<const std::string> texts);
+
     std::vector<FileRow> m_files;
     std::vector<CourseRow> m_courses;
     std::vector<RunRow> m_runs;
@@ -65,7 +78,8 @@ private:
     std::vector<TextId> m_textLists;
     Texts m_texts;
 
-    friend class FactWriting; ///< the cache on the disk
+    friend class FactTransfer; ///< copies single files from store to store
+    friend class FactTables;   ///< the cache on the disk
 };
 
 } // namespace kavela

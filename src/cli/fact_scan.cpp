@@ -1,0 +1,31 @@
+#include "cli/fact_scan.h"
+
+#include "cli/console.h"
+#include "cli/progress_bar.h"
+
+#include <optional>
+
+namespace kavela::cli {
+
+FolderScan scanNamed(const std::vector<std::string>& paths) {
+    std::optional<ProgressBar> bar;
+    std::size_t total = 0;
+    ScanOptions options;
+    options.cacheFolder = userCacheFolder();
+    options.progress = [&](std::size_t done, std::size_t count) {
+        // Each folder of the call is a work of its own.
+        if (done == 1 || count != total) {
+            bar.emplace(count);
+            total = count;
+        }
+        bar->step();
+    };
+    const std::vector<std::filesystem::path> named(paths.begin(), paths.end());
+    FolderScan scan = scanPaths(named, options);
+    bar.reset();
+    for (const ScanFault& fault : scan.failed)
+        logLine(pathText(fault.path) + ": " + fault.reason);
+    return scan;
+}
+
+} // namespace kavela::cli

@@ -1,0 +1,14 @@
+#pragma once
+
+#include "facts/folder_scan.h"
+
+#include <string>
+#include <vector>
+
+namespace kavela::cli {
+
+/// Reads the split files that a call names, with a bar on a terminal, and tells on standard error
+/// what could not be read.
+[[nodiscard]] FolderScan scanNamed(const std::vector<std::string>& paths);
+
+} // namespace kavela::cli

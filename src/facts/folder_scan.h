@@ -1,0 +1,35 @@
+#pragma once
+
+#include "facts/folder_walk.h"
+
+#include <cstddef>
+#include <functional>
+#include <span>
+#include <stop_token>
+
+/// Reads the split files of any release below some folders into one store, on all cores. They are
+/// never rewritten. What a cache knows is not read again, unless a file's size or the moment of its
+/// last change differ, or that moment was so near to the last scan that a second change may not
+/// show. A file that was moved is known by its size and content.
+namespace kavela {
+
+struct ScanOptions {
+    std::filesystem::path cacheFolder; ///< where caches are kept; empty to keep none
+    /// Told from any thread, one call at a time: how many files have been read of how many.
+    std::function<void(std::size_t done, std::size_t total)> progress;
+    std::stop_token stop; ///< ends the scan early; what was read by then is kept
+};
+
+struct FolderScan {
+    FactStore facts;       ///< files in the order of the call, those of a folder by their paths
+    std::size_t read = 0;  ///< files that were read now, the others being known
+    std::vector<ScanFault> failed;
+    bool isCancelled = false;
+};
+
+/// Reads what the paths mean, folders with all below them. A file that several of them lead to
+/// counts once. A file that is named itself is read whatever its name.
+[[nodiscard]] FolderScan scanPaths(std::span<const std::filesystem::path> paths,
+                                   const ScanOptions& options = {});
+
+} // namespace kavela
