@@ -91,6 +91,10 @@ std::string_view kindText(StretchKind kind) {
     return StretchKinds[static_cast<std::size_t>(kind)];
 }
 
+std::string sectionsText(std::size_t first, std::size_t last) {
+    return first == last ? fmt::format("S{}", last) : fmt::format("S{}-{}", first, last);
+}
+
 std::vector<Stretch> stretchesOf(const LossPair& pair) {
     std::vector<Stretch> stretches;
     std::size_t first = 1;

@@ -5,6 +5,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <optional>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -39,6 +40,9 @@ struct Stretch {
         return first <= section && section <= last;
     }
 };
+
+/// What a stretch is called: "S5", "S3-4".
+[[nodiscard]] std::string sectionsText(std::size_t first, std::size_t last);
 
 /// The stretches of a pair from the start to the last mark that both have, without their gates.
 [[nodiscard]] std::vector<Stretch> stretchesOf(const LossPair& pair);

@@ -5,8 +5,6 @@
 #include "performance/loss_rules.h"
 #include "statistics/shown_parts.h"
 
-#include <fmt/format.h>
-
 #include <algorithm>
 #include <cmath>
 #include <numeric>
@@ -47,11 +45,6 @@ void tellTotal(const LossPair& pair, const LossSide& side, bool isOfficial, Why&
     part.result(ruleOf(LossRule::VideoTotal), total.total, hundredthsText(total.total));
 }
 
-std::string stretchName(const Stretch& stretch) {
-    return stretch.first == stretch.last ? fmt::format("S{}", stretch.last)
-                                         : fmt::format("S{}-{}", stretch.first, stretch.last);
-}
-
 /// A sum of hundredths; those of a damaged file stop at the limit instead of overflowing.
 std::int64_t hundredthsOf(double seconds) {
     constexpr double Most = 9e15;
@@ -90,7 +83,7 @@ double paddlingOf(const LossPair& pair, std::span<const Stretch> stretches, Why*
     for (const Stretch& stretch : stretches) {
         sum += stretch.loss;
         if (why)
-            why->input(stretchName(stretch), stretch.loss,
+            why->input(sectionsText(stretch.first, stretch.last), stretch.loss,
                        lossPlace(pair.facts, *pair.own.run, stretch.last));
     }
     if (why)
