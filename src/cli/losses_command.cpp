@@ -7,8 +7,8 @@
 #include "cli/losses_text.h"
 #include "cli/why_text.h"
 #include "performance/loss_reasons.h"
-#include "results/athlete_keys.h"
 #include "results/name_likeness.h"
+#include "splitdata/athlete_keys.h"
 
 #include <algorithm>
 #include <memory>

@@ -2,6 +2,7 @@
 
 #include "analysis/cell_text.h"
 #include "performance/loss_rules.h"
+#include "splitdata/run_totals.h"
 
 #include <algorithm>
 #include <array>

@@ -3,8 +3,8 @@
 #include "analysis/cell_text.h"
 #include "performance/loss_rules.h"
 #include "performance/loss_sides.h"
-#include "results/athlete_keys.h"
 #include "splitdata/annotation_labels.h"
+#include "splitdata/athlete_keys.h"
 
 #include <algorithm>
 #include <array>

@@ -3,6 +3,7 @@
 #include "common/number_text.h"
 #include "common/percentile.h"
 #include "performance/loss_rules.h"
+#include "splitdata/run_totals.h"
 
 #include <algorithm>
 #include <cmath>
@@ -12,8 +13,6 @@
 namespace kavela {
 
 namespace {
-
-constexpr double NoResult = 999; ///< from here on a time stands for none
 
 /// The times of the course's sections; what a run has beyond them is no part of it.
 std::vector<double> lossSectionTimes(const FactStore& facts, const RunRow& run) {
@@ -80,10 +79,6 @@ std::optional<LossTotal> madeTotal(const std::vector<double>& times) {
 }
 
 } // namespace
-
-bool isTakenTime(double seconds) {
-    return std::isfinite(seconds) && seconds > 0 && seconds < NoResult;
-}
 
 LossSide paddledSide(const FactStore& facts, std::size_t run, std::string name) {
     const RunRow& row = facts.runs()[run];

@@ -14,10 +14,6 @@
 /// nobody paddled.
 namespace kavela {
 
-/// Whether a time was taken: finite and between 0 and 999. 0 was not timed, 999.9 and 999.99 stand
-/// for no result, below 0 is a fault.
-[[nodiscard]] bool isTakenTime(double seconds);
-
 /// A total with the penalties in it.
 struct LossTotal {
     double total = 0;

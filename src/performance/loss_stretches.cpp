@@ -3,6 +3,7 @@
 #include "analysis/cell_text.h"
 #include "common/number_text.h"
 #include "performance/loss_rules.h"
+#include "splitdata/run_totals.h"
 
 #include <fmt/format.h>
 

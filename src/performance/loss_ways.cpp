@@ -3,6 +3,7 @@
 #include "analysis/cell_text.h"
 #include "performance/loss_rules.h"
 #include "performance/loss_sides.h"
+#include "splitdata/run_totals.h"
 
 #include <algorithm>
 

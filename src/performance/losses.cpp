@@ -4,6 +4,7 @@
 #include "common/number_text.h"
 #include "performance/loss_notes.h"
 #include "performance/loss_rules.h"
+#include "splitdata/run_totals.h"
 
 #include <fmt/format.h>
 
