@@ -222,7 +222,7 @@ std::string fileHeading(const FactStore& facts) {
 std::string wayCostsText(const FactStore& facts, std::span<const WayCost> ways) {
     std::string text;
     for (const WayCost& way : ways)
-        if (way.cost)
+        if (way.cost && *way.cost > 0)
             text +=
                 fmt::format("  {:>6}  {}, {}\n", signedHundredths(*way.cost), shownText(way.title),
                             shownText(facts.text(facts.runs()[way.run].crew)));

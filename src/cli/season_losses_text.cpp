@@ -20,13 +20,13 @@ struct SeasonLossColumn {
     int width;
 };
 
-constexpr std::array SeasonLossColumns{SeasonLossColumn{"Runs", 5},  SeasonLossColumn{"Lost", 9},
-                                       SeasonLossColumn{"%", 7},     SeasonLossColumn{"90 %", 16},
-                                       SeasonLossColumn{"A run", 8}, SeasonLossColumn{"Of gap", 8}};
-constexpr int SeasonFieldWidth = 11;
+constexpr std::array SeasonLossColumns{SeasonLossColumn{"Runs", 5},  SeasonLossColumn{"Lost", 8},
+                                       SeasonLossColumn{"%", 6},     SeasonLossColumn{"90 %", 15},
+                                       SeasonLossColumn{"A run", 7}, SeasonLossColumn{"Of gap", 7}};
+constexpr int SeasonFieldWidth = 10;
 constexpr int SeasonKeyWidth =
     22; ///< the whole is as wide as the narrowest terminal, verdict apart
-constexpr int SeasonKeyWidthIfNarrow = 12;
+constexpr int SeasonKeyWidthIfNarrow = 11; ///< a line then fits into 80 columns
 constexpr int WideEnough = 100;
 
 std::string rangeText(const std::optional<Interval>& interval) {

@@ -93,7 +93,7 @@ private:
     void addGate(const RunLosses& losses, const GateLoss& gate, std::size_t first,
                  std::size_t last) {
         const LossClip clip{losses.run, losses.referenceRun, first, last, gate.gate, gate.loss};
-        add({"upstream", "all", "all upstream gates", gate.loss, gate.reference, clip});
+        add({"upstream", "all", "all gates", gate.loss, gate.reference, clip});
         const auto addLabel = [&](std::string_view field, LabelList list, std::int16_t code) {
             const auto labels = labelsOf(list);
             const bool isKnown = code >= 0 && static_cast<std::size_t>(code) < labels.size();
