@@ -23,6 +23,7 @@ void addConvert(Command program, int& status);
 void addStrokes(Command program, int& status);
 void addFind(Command program, int& status);
 void addFacts(Command program, int& status);
+void addLosses(Command program, int& status);
 void addDemo(Command program, int& status, const Painting* painting);
 
 } // namespace kavela::cli

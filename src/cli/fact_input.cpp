@@ -1,0 +1,64 @@
+#include "cli/fact_input.h"
+
+#include "cli/console.h"
+#include "cli/progress_bar.h"
+#include "cli/split_file_edit.h"
+#include "common/safe_file.h"
+#include "facts/folder_scan.h"
+
+#include <algorithm>
+#include <system_error>
+
+namespace kavela::cli {
+
+namespace fs = std::filesystem;
+
+FactInput factsFrom(const std::vector<std::string>& paths) {
+    std::optional<ProgressBar> bar;
+    ScanOptions options;
+    options.progress = [&bar](std::size_t, std::size_t total) {
+        if (!bar)
+            bar.emplace(total);
+        bar->step();
+    };
+    const std::vector<fs::path> wanted(paths.begin(), paths.end());
+    FolderScan scan = scanPaths(wanted, options);
+    FactInput input;
+    input.read = scan.facts.files().size();
+    input.files = input.read + scan.failed.size();
+    input.facts = std::move(scan.facts);
+    for (const ScanFault& fault : scan.failed)
+        input.failed.push_back({fault.path, pathText(fault.path) + ": " + fault.reason});
+    return input;
+}
+
+std::optional<FactStore> factsOfFile(const std::string& path) {
+    const std::optional<RecognisedSplitFile> file = openedSplitFile(path);
+    if (!file)
+        return std::nullopt;
+    std::optional<FactStore> facts(std::in_place);
+    facts->add(file->document, path);
+    return facts;
+}
+
+bool wouldReplaceSource(const FactStore& facts, const std::string& target) {
+    return !target.empty() && std::ranges::any_of(facts.files(), [&](const FileRow& file) {
+        std::error_code ignored;
+        return fs::equivalent(fs::path(facts.text(file.path)), target, ignored);
+    });
+}
+
+bool isTableWritten(const std::string& target, const std::string& table) {
+    if (target.empty())
+        return true;
+    try {
+        writeFileSafely(target, table);
+        return true;
+    } catch (const FileError& error) {
+        logLine("Failed to create file");
+        logLine("The file " + pathText(target) + " could not be written: " + error.reason());
+        return false;
+    }
+}
+
+} // namespace kavela::cli

@@ -1,0 +1,162 @@
+#include "performance/loss_stretches.h"
+
+#include "analysis/cell_text.h"
+#include "common/number_text.h"
+#include "performance/loss_rules.h"
+#include "splitdata/run_totals.h"
+
+#include <fmt/format.h>
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <string>
+
+namespace kavela {
+
+namespace {
+
+constexpr std::array<std::string_view, 4> StretchKinds{"upstream", "downstream", "mixed",
+                                                       "unknown"};
+
+bool hasUpstreamGate(const LossPair& pair, std::size_t section) {
+    const auto upGates = pair.facts.upGatesOf(pair.file);
+    const auto gates = pair.facts.definedSection(pair.file, section - 1);
+    return std::ranges::find_first_of(gates, upGates) != gates.end();
+}
+
+StretchKind kindOfStretch(const LossPair& pair, std::size_t first, std::size_t last) {
+    if (!knowsGatesOfSections(pair.facts, pair.file))
+        return StretchKind::Unknown;
+    if (first != last)
+        return StretchKind::Mixed;
+    return hasUpstreamGate(pair, first) ? StretchKind::Upstream : StretchKind::Downstream;
+}
+
+/// Strokes marked in some sections; nothing for a run in which none are marked at all, and for one
+/// that nobody paddled.
+std::optional<std::int64_t> strokesOf(const FactStore& facts, const LossSide& side,
+                                      std::size_t first, std::size_t last) {
+    if (!side.run)
+        return std::nullopt;
+    std::int64_t all = 0;
+    std::int64_t inside = 0;
+    const auto sections = facts.sectionsOf(facts.runs()[*side.run]);
+    for (std::size_t k = 1; k <= sections.size(); ++k) {
+        const SectionRow& row = sections[k - 1];
+        const std::int64_t strokes = row.left + row.right + row.other;
+        all += strokes;
+        inside += first <= k && k <= last ? strokes : 0;
+    }
+    return all > 0 ? std::optional(inside) : std::nullopt;
+}
+
+std::int64_t penaltyOf(const LossPair& pair, std::size_t first, std::size_t last) {
+    std::int64_t seconds = 0;
+    const auto sections = pair.facts.sectionsOf(pair.facts.runs()[*pair.own.run]);
+    for (std::size_t k = first; k <= std::min(last, sections.size()); ++k)
+        seconds += sections[k - 1].pen;
+    return seconds;
+}
+
+Stretch stretchBetween(const LossPair& pair, std::size_t first, std::size_t last) {
+    Stretch stretch;
+    stretch.first = first;
+    stretch.last = last;
+    stretch.kind = kindOfStretch(pair, first, last);
+    stretch.third = static_cast<int>((3 * last + pair.file.sections - 1) / pair.file.sections);
+    stretch.time = stretchTime(pair, pair.own, first, last);
+    stretch.reference = stretchTime(pair, pair.reference, first, last);
+    stretch.loss = stretchLoss(pair, first, last);
+    stretch.percent = stretchPercent(pair, first, last);
+    stretch.pen = penaltyOf(pair, first, last);
+    stretch.strokes = strokesOf(pair.facts, pair.own, first, last);
+    stretch.referenceStrokes = strokesOf(pair.facts, pair.reference, first, last);
+    return stretch;
+}
+
+/// Tells where a side's time of one section comes from.
+void tellSection(const LossPair& pair, const LossSide& side, std::size_t section, Why& why) {
+    const double time = side.times[section - 1];
+    if (side.run) {
+        why.input(side.name, time, lossPlace(pair.facts, *side.run, section));
+        return;
+    }
+    why.input(side.name, time);
+    (void)madeSection(pair.facts, side.pool, side.isMedian, section, why.part());
+}
+
+} // namespace
+
+std::string_view kindText(StretchKind kind) {
+    return StretchKinds[static_cast<std::size_t>(kind)];
+}
+
+std::string sectionsText(std::size_t first, std::size_t last) {
+    return first == last ? fmt::format("S{}", last) : fmt::format("S{}-{}", first, last);
+}
+
+std::vector<Stretch> stretchesOf(const LossPair& pair) {
+    std::vector<Stretch> stretches;
+    std::size_t first = 1;
+    const std::size_t sections = std::min(pair.own.times.size(), pair.reference.times.size());
+    for (std::size_t last = 1; last <= sections; ++last) {
+        if (!isTakenTime(pair.own.times[last - 1]) || !isTakenTime(pair.reference.times[last - 1]))
+            continue;
+        stretches.push_back(stretchBetween(pair, first, last));
+        first = last + 1;
+    }
+    return stretches;
+}
+
+double stretchTime(const LossPair& pair, const LossSide& side, std::size_t first, std::size_t last,
+                   Why* why) {
+    double sum = 0;
+    Why* const part = why && first != last ? why->part() : why;
+    for (std::size_t section = first; section <= last; ++section) {
+        if (!isTakenTime(side.times[section - 1]))
+            continue;
+        sum += side.times[section - 1];
+        if (part)
+            tellSection(pair, side, section, *part);
+    }
+    if (part && part != why) {
+        part->result(ruleOf(LossRule::MergedTime), sum, hundredthsText(sum));
+        why->input(side.name, sum);
+    }
+    return sum;
+}
+
+double stretchLoss(const LossPair& pair, std::size_t first, std::size_t last, Why* why) {
+    const double own = stretchTime(pair, pair.own, first, last, why);
+    const double loss = own - stretchTime(pair, pair.reference, first, last, why);
+    if (why)
+        why->result(ruleOf(LossRule::Loss), loss, signedHundredths(loss));
+    return loss;
+}
+
+double stretchPercent(const LossPair& pair, std::size_t first, std::size_t last, Why* why) {
+    const double reference = stretchTime(pair, pair.reference, first, last);
+    const double percent = 100 * stretchLoss(pair, first, last, why) / reference;
+    if (why)
+        why->result(ruleOf(LossRule::LossPercent), percent, fmt::format("{:+.1f} %", percent));
+    return percent;
+}
+
+double lossBetween(const LossPair& pair, const Stretch& stretch, Why* why) {
+    const double loss = stretchLoss(pair, stretch.first, stretch.last, why ? why->part() : nullptr);
+    double between = loss;
+    if (why)
+        why->input("loss", loss, lossPlace(pair.facts, *pair.own.run, stretch.last));
+    for (const GateLoss& gate : stretch.gates) {
+        const double lost = gateLoss(pair, gate.gate, why ? why->part() : nullptr);
+        between -= lost;
+        if (why)
+            why->input("gate " + std::to_string(gate.gate), lost);
+    }
+    if (why)
+        why->result(ruleOf(LossRule::Between), between, signedHundredths(between));
+    return between;
+}
+
+} // namespace kavela
