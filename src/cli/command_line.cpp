@@ -38,6 +38,7 @@ int run(int argc, char** argv, const char* version, const Painting* painting) {
     addGym(program, status);
     addConvert(program, status);
     addStrokes(program, status);
+    addPenalties(program, status);
     addDemo(program, status, painting);
     if (const auto ended = call.run(argc, argv))
         return *ended;

@@ -21,6 +21,7 @@ void addPlanning(Command program, int& status);
 void addGym(Command program, int& status);
 void addConvert(Command program, int& status);
 void addStrokes(Command program, int& status);
+void addPenalties(Command program, int& status);
 void addDemo(Command program, int& status, const Painting* painting);
 
 } // namespace kavela::cli
