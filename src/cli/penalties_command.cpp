@@ -5,20 +5,15 @@
 #include "cli/penalties_json.h"
 #include "cli/penalties_text.h"
 #include "cli/why_text.h"
-#include "common/error.h"
-#include "common/safe_file.h"
 #include "performance/penalty_reasons.h"
-#include "results/athlete_keys.h"
+#include "splitdata/athlete_keys.h"
 
-#include <algorithm>
 #include <memory>
 #include <set>
 
 namespace kavela::cli {
 
 namespace {
-
-namespace fs = std::filesystem;
 
 struct PenaltiesCall {
     std::vector<std::string> paths;
@@ -48,20 +43,6 @@ bool hasCategory(const FactStore& facts, const std::string& category) {
     return false;
 }
 
-/// Writes the table; false, and the reason in the log, when that failed.
-bool writeRates(const PenaltyRates& rates, const std::string& path) {
-    if (path.empty())
-        return true;
-    try {
-        writeFileSafely(path, penaltiesCsv(rates));
-        return true;
-    } catch (const FileError& error) {
-        logLine("Failed to create file");
-        logLine("The file " + path + " could not be written: " + error.reason());
-        return false;
-    }
-}
-
 int explain(const FactStore& facts, const PenaltiesCall& call) {
     const auto reason = explainPenalty(facts, call.why, call.choice());
     if (reason)
@@ -74,28 +55,20 @@ int tellPenalties(const FactStore& facts, const PenaltiesCall& call) {
     const PenaltyChoice choice = call.choice();
     const PenaltyFindings findings{
         .rates = penaltyRates(facts, rateByOf(call.by).value_or(RateBy::Gate), choice),
-        .details = penaltyDetails(facts, choice),
+        .details = detailShares(facts, choice),
         .costs = penaltyCosts(facts, choice),
         .tradeOff = tradeOff(facts, choice)};
-    const bool isWritten = writeRates(findings.rates, call.csv);
+    const bool isWritten = isTableWritten(call.csv, penaltiesCsv(findings.rates));
     const bool isPrinted = print(call.json ? penaltiesJson(facts, findings)
                                            : penaltiesText(facts, findings, standardOutput()));
     return isWritten && isPrinted ? Done : NotDone;
-}
-
-/// Whether the table would be written over a file that is read.
-bool wouldReplaceInput(const FactStore& facts, const std::string& csv) {
-    return !csv.empty() && std::ranges::any_of(facts.files(), [&](const FileRow& file) {
-        std::error_code ignored;
-        return fs::equivalent(fs::path(facts.text(file.path)), csv, ignored);
-    });
 }
 
 int penalties(const PenaltiesCall& call) {
     const FactInput input = factsFrom(call.paths);
     for (const FailedFile& failed : input.failed)
         logLine(failed.reason);
-    if (wouldReplaceInput(input.facts, call.csv)) {
+    if (wouldReplaceSource(input.facts, call.csv)) {
         logLine("The table cannot be written over a file that it is made from.");
         return WrongCall;
     }

@@ -124,7 +124,7 @@ RateRowJson rateRowJson(const RateRow& row) {
             {shrunk.rate, shrunk.interval.low, shrunk.interval.high, shrunk.above}};
 }
 
-DetailsJson detailsJson(const PenaltyDetails& details) {
+DetailsJson detailSharesJson(const DetailShares& details) {
     DetailsJson json{whole(details.noted), {}};
     for (const DetailRow& row : details.rows)
         json.rows.push_back({std::string(row.field), row.code, whole(row.share.count),
@@ -186,7 +186,7 @@ std::string penaltiesJson(const FactStore& facts, const PenaltyFindings& finding
     json.prior = {rates.common.mean, rates.common.strength};
     for (const RateRow& row : rates.rows)
         json.rows.push_back(rateRowJson(row));
-    json.details = detailsJson(findings.details);
+    json.details = detailSharesJson(findings.details);
     for (const PenaltyCost& cost : findings.costs)
         json.costs.push_back(costJson(facts, cost));
     json.tradeoff = tradeOffJson(findings.tradeOff);

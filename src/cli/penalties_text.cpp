@@ -226,7 +226,7 @@ private:
 
     void addDetails() {
         constexpr int FieldWidth = 11;
-        const PenaltyDetails& details = m_findings.details;
+        const DetailShares& details = m_findings.details;
         if (details.noted == 0)
             return;
         addTitle(

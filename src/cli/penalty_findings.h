@@ -1,7 +1,7 @@
 #pragma once
 
+#include "performance/detail_shares.h"
 #include "performance/penalty_cost.h"
-#include "performance/penalty_details.h"
 #include "performance/penalty_rates.h"
 #include "performance/trade_off.h"
 
@@ -12,7 +12,7 @@ namespace kavela::cli {
 /// Everything that `penalties` says.
 struct PenaltyFindings {
     PenaltyRates rates;
-    PenaltyDetails details;
+    DetailShares details;
     std::vector<PenaltyCost> costs;
     TradeOff tradeOff;
 };

@@ -2,7 +2,7 @@
 
 #include "common/number_text.h"
 #include "performance/penalty_rules.h"
-#include "results/athlete_keys.h"
+#include "splitdata/athlete_keys.h"
 
 #include <fmt/format.h>
 

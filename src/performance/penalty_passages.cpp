@@ -1,7 +1,7 @@
 #include "performance/penalty_passages.h"
 
 #include "performance/penalty_rules.h"
-#include "results/athlete_keys.h"
+#include "splitdata/athlete_keys.h"
 
 #include <algorithm>
 #include <cmath>

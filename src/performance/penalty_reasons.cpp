@@ -1,11 +1,11 @@
 #include "performance/penalty_reasons.h"
 
 #include "common/delimited_text.h"
+#include "performance/detail_shares.h"
 #include "performance/penalty_cost.h"
-#include "performance/penalty_details.h"
 #include "performance/penalty_rates.h"
 #include "performance/trade_off.h"
-#include "results/athlete_keys.h"
+#include "splitdata/athlete_keys.h"
 
 #include <algorithm>
 #include <array>

@@ -3,7 +3,7 @@
 #include "common/percentile.h"
 #include "facts/groups.h"
 #include "performance/penalty_rules.h"
-#include "results/athlete_keys.h"
+#include "splitdata/athlete_keys.h"
 
 #include <fmt/format.h>
 

@@ -40,13 +40,12 @@ struct DetailRow {
 /// The text of a row's code, "not noted" where there is none.
 [[nodiscard]] std::string detailText(const DetailRow& row);
 
-struct PenaltyDetails {
+struct DetailShares {
     std::size_t noted = 0;       ///< penalties in detail
     std::vector<DetailRow> rows; ///< by field, the commonest first, those not noted last
 };
 
-[[nodiscard]] PenaltyDetails penaltyDetails(const FactStore& facts,
-                                            const PenaltyChoice& choice = {});
+[[nodiscard]] DetailShares detailShares(const FactStore& facts, const PenaltyChoice& choice = {});
 
 /// The share of one code of a field; nothing where no penalty was noted so.
 [[nodiscard]] std::optional<DetailRow>

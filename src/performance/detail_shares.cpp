@@ -1,7 +1,7 @@
-#include "performance/penalty_details.h"
+#include "performance/detail_shares.h"
 
 #include "performance/penalty_rules.h"
-#include "results/athlete_keys.h"
+#include "splitdata/athlete_keys.h"
 
 #include <algorithm>
 #include <map>
@@ -107,9 +107,9 @@ std::string detailText(const DetailRow& row) {
                                                    : std::string("not noted");
 }
 
-PenaltyDetails penaltyDetails(const FactStore& facts, const PenaltyChoice& choice) {
+DetailShares detailShares(const FactStore& facts, const PenaltyChoice& choice) {
     const NotedPenalties all = notedPenalties(facts, choice);
-    PenaltyDetails details{all.noted.size(), {}};
+    DetailShares details{all.noted.size(), {}};
     for (const DetailField& field : DetailFields) {
         const auto rows = rowsOf(all, field);
         details.rows.insert(details.rows.end(), rows.begin(), rows.end());
