@@ -2,26 +2,21 @@
 
 #include "performance/penalty_rules.h"
 #include "splitdata/athlete_keys.h"
+#include "splitdata/run_totals.h"
 
 #include <algorithm>
-#include <cmath>
 #include <utility>
 
 namespace kavela {
 
 namespace {
 
-bool hasSectionTime(double time) {
-    constexpr double NoResult = 999;
-    return std::isfinite(time) && time > 0 && time < NoResult;
-}
-
 /// How many sections an unfinished run came through: up to the last that was timed.
 std::size_t sectionsReached(const FactStore& facts, const RunRow& run) {
     const auto sections = facts.sectionsOf(run);
     std::size_t reached = 0;
     for (std::size_t i = 0; i < sections.size(); ++i)
-        if (hasSectionTime(sections[i].time))
+        if (isTakenTime(sections[i].time))
             reached = i + 1;
     return std::min(reached, facts.definedSections(facts.fileOf(run)));
 }

@@ -105,12 +105,14 @@ double explained(const FactStore& facts, const std::string& id) {
 } // namespace
 
 TEST(PenaltyPassages, EndWhereAnUnfinishedRunWasLastTimedOrPenalized) {
-    athletedata031 refused = paddled({40, 41}, {0, 0, 0, 0});
-    refused.sectioninfo.realtime = 999.9;
-    const FactStore facts =
-        factsOf(race({paddled({40, 41}, {0, 0, 0, 0}), paddled({40, 0}, {0, 0, 0, 0}),
-                      paddled({40, 0}, {0, 0, 0, 2}), paddled({0, 41}, {0, 0, 0, 0}),
-                      paddled({0, 0}, {0, 0, 0, 0}), refused}));
+    splittakerdata031 document =
+        race({paddled({40, 41}, {0, 0, 0, 0}), paddled({40, 0}, {0, 0, 0, 0}),
+              paddled({40, 0}, {0, 0, 0, 2}), paddled({0, 41}, {0, 0, 0, 0}),
+              paddled({0, 0}, {0, 0, 0, 0}), paddled({40, 41}, {0, 0, 0, 0}, "Cy Lock")});
+    allresultsdata030 line;
+    line.name = "LOCK Cy DSQ";
+    document.info.resultsCSVdata = {line};
+    const FactStore facts = factsOf(document);
     EXPECT_THAT(gatesPassed(facts, 0), ElementsAre(1, 2, 3, 4));
     EXPECT_THAT(gatesPassed(facts, 1), ElementsAre(1, 2));
     EXPECT_THAT(gatesPassed(facts, 2), ElementsAre(1, 2, 4));
