@@ -157,7 +157,7 @@ TradeOffJson tradeOffJson(const TradeOff& tradeOff) {
 }
 
 /// A text as one field of the list.
-std::string csvField(const std::string& text) {
+std::string keyField(const std::string& text) {
     if (text.find_first_of(";\"\n\r") == std::string::npos)
         return text;
     std::string field = "\"";
@@ -199,7 +199,7 @@ std::string penaltiesCsv(const PenaltyRates& rates) {
                         "Ranked rate;Low;High;Above\n";
     for (const RateRow& row : rates.rows) {
         const ShrunkRate& shrunk = row.shrunk;
-        table += csvField(row.key) + ';' + std::to_string(row.touches ? row.touches->of : 0) +
+        table += keyField(row.key) + ';' + std::to_string(row.touches ? row.touches->of : 0) +
                  csvRate(row.touches) + csvRate(row.missed) + ';' + plainText(shrunk.rate) + ';' +
                  plainText(shrunk.interval.low) + ';' + plainText(shrunk.interval.high) + ';' +
                  plainText(shrunk.above) + '\n';

@@ -138,7 +138,7 @@ private:
         if (rows.empty())
             return;
         const int label = labelWidth();
-        addTitle(fitted("", label) + rightAligned("Touches", 12) + rightAligned("Rate", 7) +
+        addTitle(fitted("", label) + rightAligned("Touches", 12) + rightAligned("Rate %", 7) +
                  rightAligned("90 %", 11) + rightAligned("Ranked", 8) + rightAligned("90 %", 10) +
                  rightAligned("Missed", 8));
         const std::size_t count = shown(rows.size(), MostRatesShown);
