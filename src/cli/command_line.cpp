@@ -41,6 +41,7 @@ int run(int argc, char** argv, const char* version, const Painting* painting) {
     addFind(program, status);
     addFacts(program, status);
     addLosses(program, status);
+    addPenalties(program, status);
     addDemo(program, status, painting);
     if (const auto ended = call.run(argc, argv))
         return *ended;

@@ -24,6 +24,7 @@ void addStrokes(Command program, int& status);
 void addFind(Command program, int& status);
 void addFacts(Command program, int& status);
 void addLosses(Command program, int& status);
+void addPenalties(Command program, int& status);
 void addDemo(Command program, int& status, const Painting* painting);
 
 } // namespace kavela::cli
