@@ -21,9 +21,9 @@ namespace kavela::desktop {
 
 namespace {
 
-constexpr int LeastHeight = 84; ///< pixels
+constexpr int LeastAttacksHeight = 84; ///< pixels
 
-enum AttackColumn { AttackerColumn = 2, DefendersColumn = 3, OutcomeColumn = 4, CommentColumn = 7 };
+enum AttackColumn { AttackerColumn = 2, DefendersColumn = 3, PassedColumn = 4, CommentColumn = 7 };
 
 QStringList rowOf(const actiondata030& attack) {
     const auto moment = [&](std::size_t entry) {
@@ -93,7 +93,7 @@ void HeatAttacks::makeTable() {
         m_table->horizontalHeader()->setSectionResizeMode(column, QHeaderView::Stretch);
     m_table->setWordWrap(false);
     m_table->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    m_table->setMinimumHeight(LeastHeight);
+    m_table->setMinimumHeight(LeastAttacksHeight);
     m_table->setIconSize(BadgeSize);
     m_table->setToolTip(tr("A click shows the frame of an attack"));
     connect(m_table, &QTableWidget::currentCellChanged, this, [this](int place) {
@@ -224,7 +224,7 @@ void HeatAttacks::dress(int row) {
     QTableWidgetItem& defenders = *m_table->item(row, DefendersColumn);
     m_table->item(row, AttackerColumn)->setIcon(badgeOf(look(shown.attacker), *this));
     defenders.setIcon(hasOneDefender ? badgeOf(look(shown.defenders.front()), *this) : QIcon());
-    m_table->item(row, OutcomeColumn)
+    m_table->item(row, PassedColumn)
         ->setForeground(changeColour(shown.success ? 1 : 0, m_desk.palette()));
     for (int column = 0; column < m_table->columnCount(); ++column)
         m_table->item(row, column)->setToolTip(m_table->item(row, column)->text());

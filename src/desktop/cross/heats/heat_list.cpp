@@ -18,7 +18,7 @@ namespace kavela::desktop {
 
 namespace {
 
-constexpr int LeastHeight = 84; ///< pixels
+constexpr int LeastListHeight = 84; ///< pixels
 
 QString filmText(const TakingDocument& document, const std::string& name) {
     const QString film = qtText(name);
@@ -65,7 +65,7 @@ HeatList::HeatList(QWidget* parent)
     m_table->setSelectionMode(QAbstractItemView::SingleSelection);
     m_table->stretch({1, 2});
     m_table->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    m_table->setMinimumHeight(LeastHeight);
+    m_table->setMinimumHeight(LeastListHeight);
     auto* add = heatButton("addHeat", tr("Add a heat…"), tr("Adds a heat of up to four boats"));
     auto* rename =
         heatButton("renameBoats", tr("Names…"), tr("Other names for the boats of the heat"));

@@ -29,14 +29,14 @@ std::vector<GateRow> rowsOf(const ttdata030& trial, const std::vector<std::int64
     return rows;
 }
 
-QString turnText(const GateRow& row) {
+QString gateTurnText(const GateRow& row) {
     if (!row.isKnown)
         return {};
     return qtText(labelOf(LabelList::UpstreamDirection, row.gate.direction) + ", " +
                   labelOf(LabelList::UpstreamStyle, row.gate.style));
 }
 
-Column<GateRow> timeColumn(const QString& title, double GateTimes::*time) {
+Column<GateRow> gateTimeColumn(const QString& title, double GateTimes::*time) {
     return {.title = title, .kind = ColumnKind::Number, .show = [time](const GateRow& row) {
                 return Cell{timeOrDash(timesOf(row.gate.cmtimes).*time)};
             }};
@@ -46,10 +46,10 @@ std::vector<Column<GateRow>> gateColumns() {
     return {{.title = GateForm::tr("Gate"),
              .kind = ColumnKind::Number,
              .show = [](const GateRow& row) { return Cell{QString::number(row.gate.gateNum)}; }},
-            timeColumn(GateForm::tr("In"), &GateTimes::entrance),
-            timeColumn(GateForm::tr("Out"), &GateTimes::exit),
-            timeColumn(GateForm::tr("Total"), &GateTimes::total),
-            textColumn<GateRow>(GateForm::tr("Turn"), turnText)};
+            gateTimeColumn(GateForm::tr("In"), &GateTimes::entrance),
+            gateTimeColumn(GateForm::tr("Out"), &GateTimes::exit),
+            gateTimeColumn(GateForm::tr("Total"), &GateTimes::total),
+            textColumn<GateRow>(GateForm::tr("Turn"), gateTurnText)};
 }
 
 } // namespace

@@ -48,16 +48,16 @@ QString markName(const TrialMark& mark, bool isSelected) {
     return isRoll ? TrialPage::tr("Roll") : TrialPage::tr("Gate %1").arg(mark.gate);
 }
 
-Column<SplitRow> splitColumn(const QString& title, QString SplitRow::*text) {
+Column<SplitRow> trialSplitColumn(const QString& title, QString SplitRow::*text) {
     return {.title = title, .kind = ColumnKind::Number, .show = [text](const SplitRow& row) {
                 return Cell{row.*text};
             }};
 }
 
-std::vector<Column<SplitRow>> splitColumns() {
-    return {splitColumn(TrialPage::tr("Split"), &SplitRow::number),
-            splitColumn(TrialPage::tr("Time"), &SplitRow::time),
-            splitColumn(TrialPage::tr("From the start"), &SplitRow::fromStart)};
+std::vector<Column<SplitRow>> trialSplitColumns() {
+    return {trialSplitColumn(TrialPage::tr("Split"), &SplitRow::number),
+            trialSplitColumn(TrialPage::tr("Time"), &SplitRow::time),
+            trialSplitColumn(TrialPage::tr("From the start"), &SplitRow::fromStart)};
 }
 
 /// The starts when a trial is gone and those behind it move up.
@@ -75,7 +75,7 @@ TrialPage::TrialPage(const CrossDesk& desk)
     : CrossPage(desk),
       m_front(desk),
       m_marking(m_front, *this),
-      m_splitRows(splitColumns(), RowsKnownBy::Number),
+      m_splitRows(trialSplitColumns(), RowsKnownBy::Number),
       m_list(new TrialList),
       m_boats(new QComboBox),
       m_bar(new QTabBar),
