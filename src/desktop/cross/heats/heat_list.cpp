@@ -4,6 +4,7 @@
 #include "desktop/shell/qt_text.h"
 #include "desktop/shell/tables/column_table.h"
 #include "desktop/shell/theme.h"
+#include "desktop/splitfile/film_table.h"
 #include "desktop/splitfile/taking_document.h"
 #include "splittaking/annotations/cross_heats.h"
 
@@ -59,10 +60,7 @@ std::vector<Column<HeatRow>> heatColumns() {
 HeatList::HeatList(QWidget* parent)
     : QWidget(parent),
       m_rows(heatColumns(), RowsKnownBy::Number),
-      m_table(new ColumnTable(m_rows, "heats")) {
-    m_table->keepOrder();
-    m_table->setAlternatingRowColors(false);
-    m_table->setSelectionMode(QAbstractItemView::SingleSelection);
+      m_table(filmTable(m_rows, "heats")) {
     m_table->stretch({1, 2});
     m_table->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     m_table->setMinimumHeight(LeastListHeight);

@@ -4,6 +4,7 @@
 #include "desktop/shell/tables/column_table.h"
 #include "desktop/shell/theme.h"
 #include "desktop/splitfile/code_combo.h"
+#include "desktop/splitfile/film_table.h"
 #include "desktop/splitfile/text_table.h"
 
 #include <QCheckBox>
@@ -60,15 +61,12 @@ GateForm::GateForm(QWidget* parent)
       m_direction(new CodeCombo(LabelList::UpstreamDirection)),
       m_style(new CodeCombo(LabelList::UpstreamStyle)),
       m_rows(gateColumns(), RowsKnownBy::Number),
-      m_table(new ColumnTable(m_rows, "gates")) {
+      m_table(filmTable(m_rows, "gates")) {
     m_middle->setObjectName("gateMiddle");
     m_middle->setChecked(true);
     m_direction->setObjectName("gateDirection");
     m_style->setObjectName("gateStyle");
     m_table->setToolTip(tr("A click brings a gate in front"));
-    m_table->setSelectionMode(QAbstractItemView::SingleSelection);
-    m_table->setAlternatingRowColors(false);
-    m_table->keepOrder();
     m_table->stretch({m_rows.columnCount() - 1});
     auto* turn = new QHBoxLayout;
     turn->addWidget(m_direction, 1);

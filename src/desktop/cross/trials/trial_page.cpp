@@ -8,6 +8,7 @@
 #include "desktop/shell/tables/column_table.h"
 #include "desktop/shell/theme.h"
 #include "desktop/shell/workspace.h"
+#include "desktop/splitfile/film_table.h"
 #include "desktop/splitfile/gate_mark_text.h"
 #include "desktop/splitfile/taking_document.h"
 #include "desktop/splitfile/text_table.h"
@@ -82,7 +83,7 @@ TrialPage::TrialPage(const CrossDesk& desk)
       m_next(new QLabel),
       m_running(new QLabel),
       m_stack(new QStackedWidget),
-      m_splits(new ColumnTable(m_splitRows, "trialSplits")),
+      m_splits(filmTable(m_splitRows, "trialSplits")),
       m_gates(new GateForm),
       m_roll(new RollForm) {
     auto* upper = new QWidget;
@@ -135,9 +136,6 @@ QWidget* TrialPage::makeModes() {
     m_next->setWordWrap(true);
     m_running->setObjectName("trialRunning");
     m_running->setFont(theme::titleFont(*this));
-    m_splits->setSelectionMode(QAbstractItemView::SingleSelection);
-    m_splits->setAlternatingRowColors(false);
-    m_splits->keepOrder();
     m_splits->setToolTip(tr("A click shows the frame of a split"));
     m_stack->addWidget(m_splits);
     m_stack->addWidget(m_gates);
