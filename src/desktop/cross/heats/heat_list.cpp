@@ -60,10 +60,22 @@ std::vector<Column<HeatRow>> heatColumns() {
 HeatList::HeatList(QWidget* parent)
     : QWidget(parent),
       m_rows(heatColumns(), RowsKnownBy::Number),
-      m_table(filmTable(m_rows, "heats")) {
+      m_table(filmTable(m_rows, "heats")),
+      m_buttons(new QWidget) {
     m_table->stretch({1, 2});
     m_table->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     m_table->setMinimumHeight(LeastListHeight);
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->addWidget(m_table);
+    makeButtons();
+    connect(m_table, &ColumnTable::chosen, this, [this] {
+        if (const int place = m_table->currentPlace(); place >= 0)
+            emit chosen(static_cast<std::size_t>(place));
+    });
+}
+
+void HeatList::makeButtons() {
     auto* add = heatButton("addHeat", tr("Add a heat…"), tr("Adds a heat of up to four boats"));
     auto* rename =
         heatButton("renameBoats", tr("Names…"), tr("Other names for the boats of the heat"));
@@ -71,23 +83,16 @@ HeatList::HeatList(QWidget* parent)
     auto* remove =
         heatButton("removeHeat", tr("Remove"), tr("Removes the heat with all its marks"));
     m_ofHeat = {rename, film, remove};
-    auto* row = new QHBoxLayout;
+    auto* row = new QHBoxLayout(m_buttons);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(theme::SmallSpacing);
     for (QPushButton* const each : {add, rename, film, remove})
         row->addWidget(each);
     row->addStretch();
-    auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(theme::SmallSpacing);
-    column->addWidget(m_table, 1);
-    column->addLayout(row);
     connect(add, &QPushButton::clicked, this, &HeatList::additionWanted);
     connect(rename, &QPushButton::clicked, this, &HeatList::namesWanted);
     connect(film, &QPushButton::clicked, this, &HeatList::filmWanted);
     connect(remove, &QPushButton::clicked, this, &HeatList::removalWanted);
-    connect(m_table, &ColumnTable::chosen, this, [this] {
-        if (const int place = m_table->currentPlace(); place >= 0)
-            emit chosen(static_cast<std::size_t>(place));
-    });
 }
 
 void HeatList::setHeats(const TakingDocument& document, std::optional<std::size_t> front) {

@@ -28,6 +28,8 @@ class HeatList : public QWidget {
 public:
     explicit HeatList(QWidget* parent = nullptr);
 
+    /// What is done with the heats, to stand below the list; the layout that takes it owns it.
+    [[nodiscard]] QWidget* buttons() const { return m_buttons; }
     /// Films that the document does not find are shown as missing.
     void setHeats(const TakingDocument& document, std::optional<std::size_t> front);
 
@@ -39,8 +41,11 @@ signals:
     void removalWanted();
 
 private:
+    void makeButtons();
+
     ColumnModel<HeatRow> m_rows;
     ColumnTable* m_table;
+    QWidget* m_buttons;
     std::vector<QPushButton*> m_ofHeat; ///< that need a heat
 };
 

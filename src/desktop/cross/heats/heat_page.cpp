@@ -78,6 +78,7 @@ HeatPage::HeatPage(const CrossDesk& desk)
 
 void HeatPage::makeParts(QVBoxLayout& column) {
     column.addWidget(m_list, 1);
+    column.addWidget(m_list->buttons());
     column.addWidget(m_empty, 1);
     column.addWidget(m_body, 3);
     auto* body = new QVBoxLayout(m_body);
