@@ -13,7 +13,6 @@
 #include "desktop/splitfile/taking_reading.h"
 #include "splitdata/loader.h"
 #include "splitdata/run_timing.h"
-#include "splittaking/course_setup.h"
 #include "splittaking/messages.h"
 #include "splittaking/penalties.h"
 #include "splittaking/perfect_time.h"

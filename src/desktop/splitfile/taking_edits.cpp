@@ -2,7 +2,6 @@
 
 #include "splitdata/run_timing.h"
 #include "splittaking/annotations/film_marks.h"
-#include "splittaking/course_setup.h"
 #include "splittaking/penalties.h"
 
 #include <utility>
