@@ -8,12 +8,11 @@
 #include "desktop/shell/workspace.h"
 #include "desktop/splitfile/film_places.h"
 #include "desktop/splitfile/kept_work.h"
+#include "desktop/splitfile/taking_edits.h"
 #include "desktop/splitfile/taking_files.h"
 #include "desktop/splitfile/taking_reading.h"
 #include "splitdata/loader.h"
 #include "splitdata/run_timing.h"
-#include "splittaking/annotations/film_marks.h"
-#include "splittaking/course_setup.h"
 #include "splittaking/messages.h"
 #include "splittaking/penalties.h"
 #include "splittaking/perfect_time.h"
@@ -228,11 +227,7 @@ void TakingDocument::follow() {
 
 void TakingDocument::editRun(int index, const QString& what,
                              const std::function<void(athletedata031&)>& change) {
-    auto edited = std::make_shared<athletedata031>(run(index));
-    change(*edited);
-    TakingState after = value();
-    after.runs[static_cast<std::size_t>(index)].record = std::move(edited);
-    put(what, std::move(after));
+    put(what, withRun(value(), static_cast<std::size_t>(index), change));
 }
 
 void TakingDocument::editCross(const QString& what,
@@ -242,62 +237,25 @@ void TakingDocument::editCross(const QString& what,
 
 void TakingDocument::editCross(const QString& what, TrialStarts starts,
                                const std::function<void(crossdata030&)>& change) {
-    auto edited = std::make_shared<crossdata030>(cross());
-    change(*edited);
-    TakingState after = value();
-    after.cross = std::move(edited);
-    after.trialStarts = std::move(starts);
-    put(what, std::move(after));
+    put(what, withCross(value(), std::move(starts), change));
 }
 
 void TakingDocument::editRuns(const QString& what,
                               const std::function<void(athletedata031&)>& change) {
-    TakingState after = value();
-    for (TakenRun& each : after.runs) {
-        auto edited = std::make_shared<athletedata031>(*each.record);
-        change(*edited);
-        each.record = std::move(edited);
-    }
-    put(what, std::move(after));
+    put(what, withEveryRun(value(), change));
 }
 
 void TakingDocument::editInfo(const QString& what,
                               const std::function<void(infodata031&)>& change) {
-    auto edited = std::make_shared<infodata031>(info());
-    change(*edited);
-    TakingState after = value();
-    const bool isOtherCourse =
-        edited->gates != info().gates || edited->totalsplits != info().totalsplits;
-    after.info = std::move(edited);
-    if (isOtherCourse)
-        for (TakenRun& run : after.runs) {
-            auto fitted = std::make_shared<athletedata031>(*run.record);
-            (void)fitPenalties(*fitted, after.info->gates);
-            if (const RunMarks marks = marksOf(fitted->sectioninfo); marks != RunMarks())
-                applyMarks(marks, *fitted, after.info->totalsplits);
-            run.record = std::move(fitted);
-        }
-    put(what, std::move(after));
+    put(what, withInfo(value(), change));
 }
 
 void TakingDocument::setMarks(int index, const QString& what, const RunMarks& marks) {
-    auto edited = std::make_shared<athletedata031>(run(index));
-    const auto start = startOf(*edited);
-    applyMarks(marks, *edited, info().totalsplits);
-    if (startOf(*edited) != start)
-        retimeNotes(*edited);
-    TakingState after = value();
-    TakenRun& marked = after.runs[static_cast<std::size_t>(index)];
-    marked.record = std::move(edited);
-    marked.start = marks.start;
-    put(what, std::move(after));
+    put(what, withMarks(value(), static_cast<std::size_t>(index), marks));
 }
 
 void TakingDocument::addRun(const QString& what, athletedata031 run) {
-    (void)fitPenalties(run, info().gates);
-    TakingState after = value();
-    after.runs.push_back({std::make_shared<athletedata031>(std::move(run)), std::nullopt});
-    put(what, std::move(after));
+    put(what, withMoreRuns(value(), {std::move(run)}));
 }
 
 void TakingDocument::removeRun(int index) {
@@ -331,10 +289,7 @@ int TakingDocument::addFilms(const QStringList& names) {
     }
     if (fresh.isEmpty())
         return 0;
-    TakingState after = value();
-    for (athletedata031& run : runsOf(fresh, info().gates))
-        after.runs.push_back({std::make_shared<athletedata031>(std::move(run)), std::nullopt});
-    put(tr("videos imported"), std::move(after));
+    put(tr("videos imported"), withMoreRuns(value(), runsOf(fresh, info().gates)));
     return static_cast<int>(fresh.size());
 }
 
@@ -361,18 +316,7 @@ void TakingDocument::importSplitFile(const QString& file, QWidget* over) {
 void TakingDocument::takeResults(const ResultsList& list, const std::vector<ResultOfRun>& runs) {
     if (list.results.empty())
         return;
-    auto edited = std::make_shared<infodata031>(info());
-    edited->resultsCSVdata.insert(edited->resultsCSVdata.end(), list.results.begin(),
-                                  list.results.end());
-    TakingState after = value();
-    after.info = std::move(edited);
-    for (const ResultOfRun& each : runs) {
-        TakenRun& taken = after.runs.at(each.run);
-        auto record = std::make_shared<athletedata031>(*taken.record);
-        takeResult(*record, list.results.at(each.line.value()));
-        taken.record = std::move(record);
-    }
-    put(tr("official results imported"), std::move(after));
+    put(tr("official results imported"), withResults(value(), list, runs));
     logPerfectTime();
 }
 

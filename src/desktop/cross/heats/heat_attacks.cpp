@@ -1,22 +1,29 @@
+#include "desktop/cross/heats/heat_attacks.h"
+
 #include "desktop/cross/heats/attack_form.h"
-#include "desktop/cross/heats/heat_page.h"
+#include "desktop/cross/heats/heat_buttons.h"
 #include "desktop/shell/qt_text.h"
-#include "desktop/splitfile/taking_document.h"
+#include "desktop/shell/theme.h"
 #include "desktop/splitfile/text_table.h"
 #include "splittaking/annotations/cross_heats.h"
 #include "splittaking/annotations/remembered_texts.h"
 
+#include <QHeaderView>
+#include <QLabel>
 #include <QSignalBlocker>
 #include <QTableWidget>
+#include <QVBoxLayout>
 
 #include <algorithm>
+#include <stdexcept>
 
-/// Attacks and defences of the heat in front.
 namespace kavela::desktop {
 
 namespace {
 
-using Names = std::vector<std::string>;
+constexpr int LeastAttacksHeight = 84; ///< pixels
+
+enum AttackColumn { AttackerColumn = 2, DefendersColumn = 3, PassedColumn = 4, CommentColumn = 7 };
 
 QStringList rowOf(const actiondata030& attack) {
     const auto moment = [&](std::size_t entry) {
@@ -24,12 +31,12 @@ QStringList rowOf(const actiondata030& attack) {
     };
     return {moment(0),
             moment(1),
-            QString::fromStdString(attack.attacker),
+            qtText(attack.attacker),
             joined(attack.defenders),
-            attack.success ? HeatPage::tr("✓ passed") : HeatPage::tr("✗ held"),
-            QString::fromStdString(attack.side),
-            QString::fromStdString(attack.place),
-            QString::fromStdString(attack.comments)};
+            attack.success ? HeatAttacks::tr("✓ passed") : HeatAttacks::tr("✗ held"),
+            qtText(attack.side),
+            qtText(attack.place),
+            qtText(attack.comments)};
 }
 
 /// The attack in its new form, where its first moment belongs. One that names strangers from a file
@@ -50,167 +57,202 @@ std::size_t replaceAttack(rounddata030& heat, std::size_t place, const actiondat
 
 } // namespace
 
-const actiondata030* HeatPage::attack() const {
-    if (!current() || !m_selected || m_selected->isOrder ||
-        m_selected->record >= current()->actions.size())
-        return nullptr;
-    return &current()->actions[m_selected->record];
+HeatAttacks::HeatAttacks(HeatDesk& desk, QWidget* parent)
+    : QWidget(parent),
+      m_desk(desk),
+      m_table(textTable({tr("Start"), tr("End"), tr("Attacker"), tr("On"), tr("Outcome"),
+                         tr("Side"), tr("Place"), tr("Comment")})),
+      m_form(new AttackForm) {
+    auto* title = new QLabel(tr("Attacks"));
+    QFont font = title->font();
+    font.setBold(true);
+    title->setFont(font);
+    auto* adding =
+        heatButton("addAttack", tr("Attack at this frame"),
+                   tr("An attack starts here: then press the number of the attacker and those "
+                      "of the defenders"));
+    auto* row = new QHBoxLayout;
+    row->addWidget(title, 1);
+    row->addWidget(adding);
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(theme::SmallSpacing);
+    column->addLayout(row);
+    column->addWidget(m_table, 1);
+    column->addWidget(m_form);
+    connect(adding, &QPushButton::clicked, this, &HeatAttacks::additionWanted);
+    makeTable();
+    connectForm();
+}
+
+/// The names and the comment share the room that the others leave; long texts are told by tips.
+void HeatAttacks::makeTable() {
+    m_table->setObjectName("attacks");
+    m_table->horizontalHeader()->setStretchLastSection(false);
+    for (const int column : {AttackerColumn, DefendersColumn, CommentColumn})
+        m_table->horizontalHeader()->setSectionResizeMode(column, QHeaderView::Stretch);
+    m_table->setWordWrap(false);
+    m_table->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    m_table->setMinimumHeight(LeastAttacksHeight);
+    m_table->setIconSize(BadgeSize);
+    m_table->setToolTip(tr("A click shows the frame of an attack"));
+    connect(m_table, &QTableWidget::currentCellChanged, this, [this](int place) {
+        if (place >= 0)
+            m_desk.select(HeatMark{false, static_cast<std::size_t>(place), 0});
+    });
+    connect(m_table, &QTableWidget::cellClicked, this, [this](int place) {
+        m_desk.goTo({false, static_cast<std::size_t>(place), 0});
+    });
+}
+
+void HeatAttacks::connectForm() {
+    connect(m_form, &AttackForm::edited, this,
+            [this](const QString& what, const std::function<void(actiondata030&)>& edit) {
+                change(what, edit);
+            });
+    connect(m_form, &AttackForm::startWanted, this, &HeatAttacks::startWanted);
+    connect(m_form, &AttackForm::endWanted, this, &HeatAttacks::endWanted);
+    connect(m_form, &AttackForm::endCleared, this, [this] { removeMoment(1); });
+    connect(m_form, &AttackForm::removalWanted, this, &HeatAttacks::remove);
 }
 
 /// `entry` is the moment that is selected afterwards.
-void HeatPage::changeAttack(const QString& what, const std::function<void(actiondata030&)>& change,
-                            std::size_t entry) {
-    if (!attack())
+void HeatAttacks::change(const QString& what, const std::function<void(actiondata030&)>& change,
+                         std::size_t entry) {
+    if (!m_desk.attack())
         return;
-    editHeat(what, [&](rounddata030& heat) {
-        actiondata030 changed = heat.actions.at(m_selected->record);
+    m_desk.editHeat(what, [&](rounddata030& heat, HeatFront& front) {
+        const std::size_t place = front.selected->record;
+        actiondata030 changed = heat.actions.at(place);
         change(changed);
-        m_selected = HeatMark{false, replaceAttack(heat, m_selected->record, changed), entry};
+        front.selected = HeatMark{false, replaceAttack(heat, place, changed), entry};
     });
-    showAttacks(); // also what was refused is shown as it is
+    refresh(); // also what was refused is shown as it is
 }
 
 /// Between the second boat and the first: the likeliest attack.
-void HeatPage::addAttack() {
-    if (!current())
-        emit refused(tr("Add a heat first."));
-    else if (current()->athletes.empty())
-        emit refused(tr("This heat has no boats yet."));
-    else if (m_desk.hasFilm())
-        whenMeant([this](const CMTime& moment) { addAttack(moment); });
-    else
-        addAttack(std::nullopt); // who saw the race without a film knows who attacked whom
-}
-
-void HeatPage::addAttack(const std::optional<CMTime>& moment) {
-    if (!current() || current()->athletes.empty())
-        return;
-    commit();
-    const Names likely = offeredOrder();
-    const Names& order = likely.empty() ? current()->athletes : likely;
+void HeatAttacks::add(const std::optional<CMTime>& moment) {
+    const HeatDesk::Names likely = m_desk.offeredOrder();
+    const HeatDesk::Names& order = likely.empty() ? m_desk.heat()->athletes : likely;
     actiondata030 made;
     if (moment)
         made.time = {*moment};
     made.attacker = order[std::min<std::size_t>(1, order.size() - 1)];
     if (order.size() > 1)
         made.defenders = {order.front()};
-    if (gate())
-        made.place = tr("Gate %1").arg(*gate()).toStdString();
-    editHeat(tr("attack"), [&](rounddata030& heat) {
-        m_selected = HeatMark{false, kavela::addAction(heat, made), 0};
-        m_draft.reset();
-        m_naming = Naming::Attacker;
+    if (const auto gate = m_desk.gate())
+        made.place = tr("Gate %1").arg(*gate).toStdString();
+    m_desk.editHeat(tr("attack"), [&](rounddata030& heat, HeatFront& front) {
+        front.selected = HeatMark{false, kavela::addAction(heat, made), 0};
+        front.draft.reset();
+        front.naming = HeatFront::Naming::Attacker;
     });
-    emit flashed(tr("Attack: number of the attacker, then of the defenders"));
+    emit m_desk.flashed(tr("Attack: number of the attacker, then of the defenders"));
     if (!moment)
-        emit told(tr("An attack without a moment, since there is no film: press the number of the "
-                     "attacker, then those of the defenders."));
+        emit m_desk.told(tr("An attack without a moment, since there is no film: press the number "
+                            "of the attacker, then those of the defenders."));
 }
 
-/// The attacker first, then defenders, a second press taking one back.
-void HeatPage::nameForAttack(const std::string& name) {
-    if (!attack()) {
-        m_naming = Naming::Nothing;
+void HeatAttacks::name(const std::string& boat) {
+    if (!m_desk.attack()) {
+        m_desk.setNaming(HeatFront::Naming::Nothing);
         return;
     }
-    const bool isAttacker = m_naming == Naming::Attacker;
-    changeAttack(isAttacker ? tr("attacker") : tr("defenders"), [&](actiondata030& changed) {
+    const bool isAttacker = m_desk.front().naming == HeatFront::Naming::Attacker;
+    change(isAttacker ? tr("attacker") : tr("defenders"), [&](actiondata030& changed) {
         if (isAttacker) {
-            changed.attacker = name;
+            changed.attacker = boat;
             changed.defenders.clear();
-        } else if (std::erase(changed.defenders, name) == 0) {
-            changed.defenders.push_back(name);
+        } else if (std::erase(changed.defenders, boat) == 0) {
+            changed.defenders.push_back(boat);
         }
     });
-    m_naming = Naming::Defenders;
+    m_desk.setNaming(HeatFront::Naming::Defenders);
 }
 
-void HeatPage::setAttackMoment(std::size_t entry, const CMTime& moment) {
-    changeAttack(
+void HeatAttacks::setMoment(std::size_t entry, const CMTime& moment) {
+    change(
         tr("moment of an attack"),
         [&](actiondata030& changed) { setPadded(changed.time, entry, moment); }, entry);
 }
 
-void HeatPage::endAttack() {
-    if (!attack())
-        emit refused(tr("Select the attack that ends here."));
+void HeatAttacks::removeMoment(std::size_t entry) {
+    if (entry == 0)
+        remove();
     else
-        whenMeant([this](const CMTime& moment) { endAttack(moment); });
+        change(tr("end of an attack removed"),
+               [&](actiondata030& changed) { eraseEntry(changed.time, entry); });
 }
 
-void HeatPage::endAttack(const CMTime& moment) {
-    if (attack())
-        setAttackMoment(1, moment);
-    else
-        emit told(tr("Select the attack that ends here."));
-}
-
-void HeatPage::removeAttackMoment(std::size_t entry) {
-    changeAttack(tr("end of an attack removed"),
-                 [&](actiondata030& changed) { eraseEntry(changed.time, entry); });
-}
-
-void HeatPage::removeAttack() {
-    if (!attack())
+void HeatAttacks::remove() {
+    if (!m_desk.attack())
         return;
-    const std::size_t removed = m_selected->record;
-    m_selected.reset();
-    m_naming = Naming::Nothing;
-    editHeat(tr("attack removed"),
-             [&](rounddata030& heat) { kavela::removeAction(heat, removed); });
+    m_desk.editHeat(tr("attack removed"), [&](rounddata030& heat, HeatFront& front) {
+        kavela::removeAction(heat, front.selected->record);
+        front.selected.reset();
+        front.naming = HeatFront::Naming::Nothing;
+    });
 }
 
-void HeatPage::showAttacks() {
+void HeatAttacks::commit() {
+    m_form->commit();
+}
+
+void HeatAttacks::refresh() {
     std::vector<QStringList> rows;
-    if (current())
-        for (const actiondata030& each : current()->actions)
+    if (m_desk.heat())
+        for (const actiondata030& each : m_desk.heat()->actions)
             rows.push_back(rowOf(each));
-    fillTable(*m_attacks, rows);
-    const QSignalBlocker blocked(m_attacks);
-    for (int row = 0; row < m_attacks->rowCount(); ++row)
-        dressAttack(row);
-    m_attacks->setCurrentCell(attack() ? static_cast<int>(m_selected->record) : -1, 0);
+    fillTable(*m_table, rows);
+    const QSignalBlocker blocked(m_table);
+    for (int row = 0; row < m_table->rowCount(); ++row)
+        dress(row);
+    m_table->setCurrentCell(
+        m_desk.attack() ? static_cast<int>(m_desk.front().selected->record) : -1, 0);
     offerTexts();
-    m_form->show(attack(), m_looks);
+    m_form->show(m_desk.attack(), m_desk.looks());
 }
 
 /// Badges for the boats, a colour for the outcome, and the whole names as tips.
-void HeatPage::dressAttack(int row) {
-    const actiondata030& shown = current()->actions.at(static_cast<std::size_t>(row));
-    const auto badge = [&](const std::string& name) {
-        return badgeOf(lookOf(m_looks, name, palette()), *this);
+void HeatAttacks::dress(int row) {
+    const actiondata030& shown = m_desk.heat()->actions.at(static_cast<std::size_t>(row));
+    const auto looks = m_desk.looks();
+    const auto look = [&](const std::string& name) {
+        return lookOf(looks, name, m_desk.palette());
     };
     const bool hasOneDefender = shown.defenders.size() == 1;
-    m_attacks->item(row, 2)->setIcon(badge(shown.attacker));
-    m_attacks->item(row, 3)->setIcon(hasOneDefender ? badge(shown.defenders.front()) : QIcon());
-    m_attacks->item(row, 4)->setForeground(changeColour(shown.success ? 1 : 0, palette()));
-    for (int column = 0; column < m_attacks->columnCount(); ++column)
-        m_attacks->item(row, column)->setToolTip(m_attacks->item(row, column)->text());
+    QTableWidgetItem& defenders = *m_table->item(row, DefendersColumn);
+    m_table->item(row, AttackerColumn)->setIcon(badgeOf(look(shown.attacker), *this));
+    defenders.setIcon(hasOneDefender ? badgeOf(look(shown.defenders.front()), *this) : QIcon());
+    m_table->item(row, PassedColumn)
+        ->setForeground(changeColour(shown.success ? 1 : 0, m_desk.palette()));
+    for (int column = 0; column < m_table->columnCount(); ++column)
+        m_table->item(row, column)->setToolTip(m_table->item(row, column)->text());
     if (hasOneDefender)
         return;
     QStringList cues;
     for (const std::string& name : shown.defenders)
-        cues.append(lookOf(m_looks, name, palette()).cue);
-    m_attacks->item(row, 3)->setText(cues.join(", "));
+        cues.append(look(name).cue);
+    defenders.setText(cues.join(", "));
 }
 
 /// What the heats of this file used, then the words of the sport.
-void HeatPage::offerTexts() {
-    Names sides;
-    Names places;
-    for (const rounddata030& heat : m_desk.cross().eliphase)
+void HeatAttacks::offerTexts() {
+    HeatDesk::Names sides;
+    HeatDesk::Names places;
+    for (const rounddata030& heat : m_desk.desk().cross().eliphase)
         for (const actiondata030& each : heat.actions) {
             sides.push_back(each.side);
             places.push_back(each.place);
         }
-    Names offered{tr("Start ramp").toStdString()};
-    for (const std::int64_t at : course().gates)
+    HeatDesk::Names offered{tr("Start ramp").toStdString()};
+    for (const std::int64_t at : m_desk.course().gates)
         offered.push_back(tr("Gate %1").arg(at).toStdString());
     for (const QString& place :
          {tr("Roll"), tr("Eddy"), tr("Drop"), tr("Wave"), tr("Flat water"), tr("Finish")})
         offered.push_back(place.toStdString());
-    const Names usualSides{tr("Left").toStdString(), tr("Right").toStdString(),
-                           tr("Inside").toStdString(), tr("Outside").toStdString()};
+    const HeatDesk::Names usualSides{tr("Left").toStdString(), tr("Right").toStdString(),
+                                     tr("Inside").toStdString(), tr("Outside").toStdString()};
     m_form->offer(withRemembered(withRemembered({}, sides), usualSides),
                   withRemembered(withRemembered({}, places), offered));
 }

@@ -1,298 +1,263 @@
+#include "desktop/cross/heats/heat_orders.h"
+
 #include "desktop/cross/heats/attack_form.h"
-#include "desktop/cross/heats/heat_page.h"
+#include "desktop/cross/heats/heat_buttons.h"
 #include "desktop/cross/heats/order_board.h"
 #include "desktop/cross/heats/place_grid.h"
-#include "desktop/film/film_deck.h"
-#include "desktop/splitfile/taking_document.h"
+#include "desktop/shell/qt_text.h"
+#include "desktop/shell/theme.h"
 #include "splittaking/annotations/cross_heats.h"
 
 #include <QLabel>
 #include <QLineEdit>
-#include <QPushButton>
 #include <QScrollArea>
 #include <QScrollBar>
+#include <QVBoxLayout>
 
 #include <algorithm>
+#include <stdexcept>
 
-/// The order of the boats at the gate in front.
 namespace kavela::desktop {
 
-namespace {
-
-using Names = std::vector<std::string>;
-
-OrderBoard::Row rowOf(const std::string& name, const std::vector<BoatLook>& looks,
-                      const QPalette& palette) {
-    return {lookOf(looks, name, palette), 0};
+HeatOrders::HeatOrders(HeatDesk& desk, QWidget* parent)
+    : QWidget(parent),
+      m_desk(desk),
+      m_title(new QLabel),
+      m_board(new OrderBoard),
+      m_grid(new PlaceGrid),
+      m_gridArea(new QScrollArea),
+      m_take(heatButton("takeOrder", tr("Take at this frame"),
+                        tr("Takes the order shown at the frame shown"))),
+      m_keep(heatButton("keepOrder", {}, {})),
+      m_reset(heatButton("resetOrder", tr("Start over"), tr("Back to the order as it was"))),
+      m_comment(new QLineEdit) {
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(theme::SmallSpacing);
+    makeOrders(*column);
+    makeButtons(*column);
 }
 
-} // namespace
-
-std::optional<std::int64_t> HeatPage::gate() const {
-    const auto& gates = course().gates;
-    return m_gate < gates.size() ? std::optional(gates[m_gate]) : std::nullopt;
+/// The order in front on the left, all orders beside it, place by place in one line.
+void HeatOrders::makeOrders(QVBoxLayout& column) {
+    m_title->setObjectName("orderTitle");
+    m_title->setTextFormat(Qt::PlainText);
+    m_title->setFixedHeight(PlaceGrid::HeaderHeight);
+    QFont font = m_title->font();
+    font.setBold(true);
+    m_title->setFont(font);
+    auto* left = new QVBoxLayout;
+    left->setSpacing(0);
+    left->addWidget(m_title);
+    left->addWidget(m_board);
+    left->addStretch();
+    m_gridArea->setWidget(m_grid);
+    m_gridArea->setWidgetResizable(true);
+    m_gridArea->setFrameShape(QFrame::NoFrame);
+    m_gridArea->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    m_gridArea->setFocusPolicy(Qt::NoFocus);
+    m_gridArea->setMinimumWidth(PlaceGrid::UsualWidth); // whatever the course: windows keep theirs
+    auto* row = new QHBoxLayout;
+    row->addLayout(left, 1);
+    row->addWidget(m_gridArea, 1);
+    column.addLayout(row);
+    connect(m_board, &OrderBoard::edited, this,
+            [this](const HeatDesk::Names& order) { draft(order, HeatFront::Naming::Nothing); });
+    connect(m_grid, &PlaceGrid::columnClicked, this, [this](std::size_t place) {
+        if (place >= m_grid->columns().size())
+            return;
+        const ShownOrder order = m_grid->columns()[place]; // the grid is made anew meanwhile
+        emit columnChosen(order);
+    });
 }
 
-/// The selected order when it has no gate of its own on the course.
-std::optional<std::size_t> HeatPage::strayOrder() const {
-    if (!m_selected || !m_selected->isOrder || !current())
-        return std::nullopt;
-    const std::int64_t at = current()->generals.at(m_selected->record).gate;
-    const bool isOnCourse = std::ranges::count(course().gates, at) > 0;
-    if (isOnCourse && orderAt(*current(), at) == m_selected->record)
-        return std::nullopt;
-    return m_selected->record;
-}
-
-std::optional<std::size_t> HeatPage::orderInFront() const {
-    if (const auto stray = strayOrder())
-        return stray;
-    return current() && gate() ? orderAt(*current(), *gate()) : std::nullopt;
-}
-
-/// The likely order without what does not fit the heat.
-Names HeatPage::offeredOrder() const {
-    Names offered;
-    if (!current() || !gate())
-        return offered;
-    for (const std::string& name : likelyOrder(*current(), course(), *gate()))
-        if (std::ranges::count(current()->athletes, name) > 0 &&
-            std::ranges::count(offered, name) == 0)
-            offered.push_back(name);
-    return offered;
-}
-
-Names HeatPage::shownOrder() const {
-    if (m_draft)
-        return *m_draft;
-    const auto record = orderInFront();
-    return record ? current()->generals[*record].order : offeredOrder();
+void HeatOrders::makeButtons(QVBoxLayout& column) {
+    auto* row = new QHBoxLayout;
+    m_comment->setObjectName("orderComment");
+    m_comment->setPlaceholderText(tr("Comment on this order"));
+    for (QPushButton* const each : {m_take, m_keep, m_reset})
+        row->addWidget(each);
+    row->addWidget(m_comment, 1);
+    column.addLayout(row);
+    connect(m_take, &QPushButton::clicked, this, &HeatOrders::takingWanted);
+    connect(m_keep, &QPushButton::clicked, this, [this] {
+        const auto record = m_desk.orderInFront();
+        take(record ? m_desk.heat()->generals[*record].time : CMTime{});
+    });
+    connect(m_reset, &QPushButton::clicked, this,
+            [this] { draft(std::nullopt, HeatFront::Naming::Nothing); });
+    connect(m_comment, &QLineEdit::editingFinished, this, &HeatOrders::takeComment);
+    connect(m_comment, &QLineEdit::returnPressed, m_comment, &QWidget::clearFocus);
 }
 
 /// The heat as it would be with the order that is not taken yet.
-rounddata030 HeatPage::preview() const {
-    rounddata030 heat = *current();
-    if (!gate() || strayOrder() || (!m_draft && orderInFront()))
+rounddata030 HeatOrders::preview() const {
+    rounddata030 heat = *m_desk.heat();
+    const auto gate = m_desk.gate();
+    if (!gate || m_desk.strayOrder() || (!m_desk.front().draft && m_desk.orderInFront()))
         return heat;
     try {
-        setOrder(heat, course(), *gate(), shownOrder(), {});
+        setOrder(heat, m_desk.course(), *gate, m_desk.shownOrder(), {});
     } catch (const std::invalid_argument&) {
-        return *current(); // with a name that is not of the heat, which taking it would refuse
+        return *m_desk.heat(); // with a name that is not of the heat, which taking it would refuse
     }
     return heat;
 }
 
-void HeatPage::draft(Names order, Naming naming) {
-    m_naming = naming;
-    m_draft = std::move(order);
-    showOrders();
-}
-
 /// Why no order can be taken now; empty when one can.
-QString HeatPage::orderFault() const {
-    if (!current())
+QString HeatOrders::fault() const {
+    if (!m_desk.heat())
         return tr("Add a heat first.");
-    if (!gate())
+    if (!m_desk.gate())
         return tr("The cross course has no gates yet.");
-    if (strayOrder())
+    if (m_desk.strayOrder())
         return tr("This order does not count for the course. Choose a gate of the course first.");
-    if (shownOrder().empty())
+    if (m_desk.shownOrder().empty())
         return tr("No boat is named yet.");
     return {};
 }
 
-void HeatPage::pressNumber(int number) {
-    m_desk.deck.finishPresses(); // an attack may be about to begin, whose boats are named
-    if (!current())
-        return;
-    const auto boat = static_cast<std::size_t>(number - 1);
-    if (number < 1 || boat >= current()->athletes.size()) {
-        emit told(tr("This heat has %1 boats.").arg(current()->athletes.size()));
+void HeatOrders::draft(std::optional<HeatDesk::Names> order, HeatFront::Naming naming) {
+    m_desk.draft(std::move(order), naming);
+    refresh();
+}
+
+void HeatOrders::name(const std::string& boat) {
+    if (!m_desk.gate() || m_desk.strayOrder()) {
+        emit m_desk.told(fault());
         return;
     }
-    const std::string name = current()->athletes[boat];
-    if (m_naming == Naming::Attacker || m_naming == Naming::Defenders)
-        nameForAttack(name);
+    const HeatFront& front = m_desk.front();
+    HeatDesk::Names order =
+        front.naming == HeatFront::Naming::Order && front.draft ? *front.draft : HeatDesk::Names();
+    if (std::erase(order, boat) == 0)
+        order.push_back(boat);
+    if (order.empty())
+        draft(std::nullopt, HeatFront::Naming::Nothing);
     else
-        nameForOrder(name);
-}
-
-/// The first press starts an order of its own: what was offered or taken makes way.
-void HeatPage::nameForOrder(const std::string& name) {
-    if (!gate() || strayOrder()) {
-        emit told(orderFault());
-        return;
-    }
-    Names order = m_naming == Naming::Order && m_draft ? *m_draft : Names();
-    if (std::erase(order, name) == 0)
-        order.push_back(name);
-    if (order.empty()) {
-        m_draft.reset();
-        m_naming = Naming::Nothing;
-        showOrders();
-    } else {
-        draft(order, Naming::Order);
-    }
-}
-
-void HeatPage::mark(const CMTime& moment) {
-    takeOrder(moment);
+        draft(std::move(order), HeatFront::Naming::Order);
 }
 
 /// What is taken is selected, so that it can be moved; the gate after it comes to the front when
 /// this one had no order before.
-void HeatPage::takeOrder(const CMTime& moment) {
-    if (const QString fault = orderFault(); !fault.isEmpty()) {
-        emit told(fault);
+void HeatOrders::take(const CMTime& moment) {
+    if (const QString why = fault(); !why.isEmpty()) {
+        emit m_desk.told(why);
         return;
     }
-    const std::int64_t at = *gate();
-    const Names order = shownOrder();
-    const auto before = orderInFront();
+    const std::int64_t at = *m_desk.gate();
+    const HeatDesk::Names order = m_desk.shownOrder();
+    const auto before = m_desk.orderInFront();
+    const auto looks = m_desk.looks();
     QStringList cues;
-    for (const std::string& name : order)
-        cues.append(lookOf(m_looks, name, palette()).cue);
+    for (const std::string& boat : order)
+        cues.append(lookOf(looks, boat, m_desk.palette()).cue);
     bool isTakenNow = false;
-    editHeat(tr("order at gate %1").arg(at), [&](rounddata030& heat) {
+    m_desk.editHeat(tr("order at gate %1").arg(at), [&](rounddata030& heat, HeatFront& front) {
         if (before && heat.generals[*before].order == order)
             moveOrder(heat, *before, moment);
         else
-            setOrder(heat, course(), at, order, moment);
+            setOrder(heat, m_desk.course(), at, order, moment);
         isTakenNow = true;
-        m_draft.reset();
-        m_naming = Naming::Nothing;
-        m_selected = HeatMark{true, *orderAt(heat, at), 0};
-        if (!before && m_gate + 1 < course().gates.size())
-            ++m_gate;
+        front.dropDraft();
+        front.selected = HeatMark{true, *orderAt(heat, at), 0};
+        if (!before && front.gate + 1 < m_desk.course().gates.size())
+            ++front.gate;
     });
     if (isTakenNow)
-        emit flashed(tr("Gate %1:  %2").arg(at).arg(cues.join("  ")));
+        emit m_desk.flashed(tr("Gate %1:  %2").arg(at).arg(cues.join("  ")));
 }
 
-bool HeatPage::stepGate(int step) {
-    const auto& gates = course().gates;
-    if (!current() || gates.empty())
-        return true;
-    commit();
-    const auto last = static_cast<std::ptrdiff_t>(gates.size()) - 1;
-    m_gate = static_cast<std::size_t>(
-        std::clamp<std::ptrdiff_t>(static_cast<std::ptrdiff_t>(m_gate) + step, 0, last));
-    m_draft.reset();
-    const auto record = orderAt(*current(), *gate());
-    select(record ? std::optional(HeatMark{true, *record, 0}) : std::nullopt);
-    return true;
-}
-
-void HeatPage::chooseColumn(std::size_t column) {
-    if (column >= m_grid->columns().size())
-        return;
-    const ShownOrder chosen = m_grid->columns()[column];
-    commit();
-    const auto& gates = course().gates;
-    const auto found = std::ranges::find(gates, chosen.gate);
-    const bool isTakenThere = current() && chosen.record &&
-                              *chosen.record < current()->generals.size() &&
-                              current()->generals[*chosen.record].gate == chosen.gate;
-    if (isTakenThere && (m_draft == std::nullopt || found == gates.end() ||
-                         static_cast<std::size_t>(found - gates.begin()) != m_gate)) {
-        goTo({true, *chosen.record, 0});
-    } else if (found != gates.end()) {
-        stepGate(static_cast<int>(found - gates.begin()) - static_cast<int>(m_gate));
-    }
-}
-
-void HeatPage::takeOrderComment() {
-    const auto record = orderInFront();
+void HeatOrders::takeComment() {
+    const auto record = m_desk.orderInFront();
     const std::string text = m_comment->text().trimmed().toStdString();
     m_comment->setModified(false);
-    if (record && current()->generals[*record].comments != text)
-        editHeat(tr("comment on an order"),
-                 [&](rounddata030& heat) { heat.generals.at(*record).comments = text; });
+    if (record && m_desk.heat()->generals[*record].comments != text)
+        m_desk.editHeat(tr("comment on an order"), [&](rounddata030& heat, HeatFront&) {
+            heat.generals.at(*record).comments = text;
+        });
 }
 
-void HeatPage::commit() {
+void HeatOrders::commit() {
     if (m_comment->hasFocus() && m_comment->isModified())
-        takeOrderComment();
-    m_form->commit();
+        takeComment();
 }
 
-void HeatPage::showOrders() {
-    m_looks = current() ? boatLooks(current()->athletes, palette()) : std::vector<BoatLook>();
-    if (!current())
+void HeatOrders::refresh() {
+    if (!m_desk.heat())
         return;
     const rounddata030 shown = preview();
-    std::vector<ShownOrder> columns = shownOrders(*current(), course());
-    if (m_draft)
-        columns = shownOrders(shown, course());
-    const auto stray = strayOrder();
+    std::vector<ShownOrder> columns =
+        shownOrders(m_desk.front().draft ? shown : *m_desk.heat(), m_desk.course());
+    const auto stray = m_desk.strayOrder();
     const auto front = std::ranges::find_if(columns, [&](const ShownOrder& column) {
         return stray ? column.record == stray
-                     : column.isOnCourse && !column.isReplaced && column.gate == gate();
+                     : column.isOnCourse && !column.isReplaced && column.gate == m_desk.gate();
     });
     const auto place = static_cast<std::size_t>(front - columns.begin());
     const bool isFound = front != columns.end();
-    m_grid->show(std::move(columns), m_looks, isFound ? std::optional(place) : std::nullopt);
+    m_grid->show(std::move(columns), m_desk.looks(), isFound ? std::optional(place) : std::nullopt);
     fitGrid();
     if (isFound)
         m_gridArea->ensureVisible(m_grid->placeOf(place, 0).center().toPoint().x(), 0);
     showBoard(shown);
-    showOrderButtons();
+    showFrame();
 }
 
 /// Courses of the usual length stand whole beside the order in front, longer ones scroll.
-void HeatPage::fitGrid() {
+void HeatOrders::fitGrid() {
     const QSize size = m_grid->minimumSizeHint();
     const bool isLong = size.width() > PlaceGrid::UsualWidth;
     m_gridArea->setFixedHeight(
         size.height() + (isLong ? m_gridArea->horizontalScrollBar()->sizeHint().height() : 0));
 }
 
-void HeatPage::showBoard(const rounddata030& preview) {
+void HeatOrders::showBoard(const rounddata030& preview) {
     OrderBoard::Order board;
-    const Names names = shownOrder();
-    const auto stray = strayOrder();
+    const HeatDesk::Names names = m_desk.shownOrder();
+    const auto stray = m_desk.strayOrder();
+    const auto looks = m_desk.looks();
     std::vector<ShownBoat> changes;
-    for (const ShownOrder& order : shownOrders(preview, course()))
-        if (!stray && order.isOnCourse && !order.isReplaced && order.gate == gate())
+    for (const ShownOrder& order : shownOrders(preview, m_desk.course()))
+        if (!stray && order.isOnCourse && !order.isReplaced && order.gate == m_desk.gate())
             changes = order.boats;
     for (std::size_t row = 0; row < names.size(); ++row) {
-        board.seen.push_back(rowOf(names[row], m_looks, palette()));
+        board.seen.push_back({lookOf(looks, names[row], m_desk.palette()), 0});
         if (row < changes.size() && changes[row].name == names[row])
             board.seen.back().change = changes[row].change;
     }
-    for (const BoatLook& look : m_looks)
+    for (const BoatLook& look : looks)
         if (std::ranges::count(names, look.name) == 0)
             board.unseen.push_back({look, 0});
-    const auto record = orderInFront();
-    board.isOffered = !record && !m_draft;
-    board.isFixed = stray || !gate();
+    board.isOffered = !m_desk.orderInFront() && !m_desk.front().draft;
+    board.isFixed = stray || !m_desk.gate();
     m_board->show(std::move(board));
 }
 
 /// Whatever is left of the title tells how far the order is.
-void HeatPage::showOrderButtons() {
-    if (!current())
+void HeatOrders::showFrame() {
+    if (!m_desk.heat())
         return;
-    const auto record = orderInFront();
-    const bool hasFrame = m_desk.hasFilm();
-    const std::int64_t at = strayOrder() ? current()->generals[*record].gate : gate().value_or(0);
-    const QString state = m_draft ? tr("not taken yet")
-                          : record
-                              ? tr("taken at %1").arg(momentText(current()->generals[*record].time))
-                              : tr("offered");
-    m_title->setText(gate() || record ? tr("Gate %1 · %2").arg(at).arg(state)
-                                      : tr("The cross course has no gates yet"));
-    m_take->setEnabled(hasFrame && orderFault().isEmpty());
+    const auto& orders = m_desk.heat()->generals;
+    const auto record = m_desk.orderInFront();
+    const bool hasFrame = m_desk.desk().hasFilm();
+    const bool isDraft = m_desk.front().draft.has_value();
+    const std::int64_t at = m_desk.strayOrder() ? orders[*record].gate : m_desk.gate().value_or(0);
+    const QString state = isDraft  ? tr("not taken yet")
+                          : record ? tr("taken at %1").arg(momentText(orders[*record].time))
+                                   : tr("offered");
+    m_title->setText(m_desk.gate() || record ? tr("Gate %1 · %2").arg(at).arg(state)
+                                             : tr("The cross course has no gates yet"));
+    m_take->setEnabled(hasFrame && fault().isEmpty());
     m_keep->setText(record ? tr("Keep its moment") : tr("Take without a moment"));
     m_keep->setToolTip(record ? tr("Corrects the order and leaves its moment as it is")
                               : tr("Takes the order shown where there is no film"));
-    m_keep->setVisible(record ? m_draft.has_value() : !hasFrame);
-    m_keep->setEnabled(orderFault().isEmpty());
-    m_reset->setVisible(m_draft.has_value());
+    m_keep->setVisible(record ? isDraft : !hasFrame);
+    m_keep->setEnabled(fault().isEmpty());
+    m_reset->setVisible(isDraft);
     m_comment->setEnabled(record.has_value());
     if (!m_comment->hasFocus() || !m_comment->isModified())
-        m_comment->setText(record ? QString::fromStdString(current()->generals[*record].comments)
-                                  : QString());
+        m_comment->setText(record ? qtText(orders[*record].comments) : QString());
 }
 
 } // namespace kavela::desktop

@@ -1,50 +1,35 @@
 #include "desktop/cross/heats/heat_page.h"
 
-#include "desktop/cross/heats/attack_form.h"
+#include "desktop/cross/heats/heat_attacks.h"
 #include "desktop/cross/heats/heat_dialog.h"
+#include "desktop/cross/heats/heat_list.h"
+#include "desktop/cross/heats/heat_orders.h"
 #include "desktop/film/film_deck.h"
 #include "desktop/shell/qt_text.h"
 #include "desktop/shell/theme.h"
 #include "desktop/splitfile/taking_document.h"
-#include "desktop/splitfile/text_table.h"
 #include "splittaking/annotations/cross_heats.h"
 
 #include <QEvent>
-#include <QFileInfo>
 #include <QLabel>
-#include <QPushButton>
-#include <QScopedValueRollback>
-#include <QSignalBlocker>
-#include <QTableWidget>
+#include <QVBoxLayout>
 
 #include <algorithm>
+#include <utility>
 
-/// The list of heats, the heat and the mark in front, and what the keys do.
 namespace kavela::desktop {
 
 namespace {
 
-using Names = std::vector<std::string>;
+using Names = HeatDesk::Names;
 
-QString filmText(const TakingDocument& document, const std::string& name) {
-    const QString film = QString::fromStdString(name);
-    if (film.isEmpty())
-        return HeatPage::tr("none");
-    return QFileInfo(document.pathOf(name)).isFile() ? film
-                                                     : HeatPage::tr("⚠ missing: %1").arg(film);
-}
-
-QString takenText(const rounddata030& heat, const crossinfodata030& course) {
-    const auto taken = std::ranges::count_if(
-        course.gates, [&](std::int64_t gate) { return orderAt(heat, gate).has_value(); });
-    return HeatPage::tr("%1 of %2 gates").arg(taken).arg(course.gates.size());
-}
-
-/// What does not fit its column is told by its tip.
-void tipTexts(QTableWidget& table) {
-    for (int row = 0; row < table.rowCount(); ++row)
-        for (int column = 0; column < table.columnCount(); ++column)
-            table.item(row, column)->setToolTip(table.item(row, column)->text());
+QLabel* quietLabel(const char* name) {
+    auto* label = new QLabel;
+    label->setObjectName(name);
+    label->setTextFormat(Qt::PlainText);
+    label->setWordWrap(true);
+    label->setForegroundRole(QPalette::PlaceholderText);
+    return label;
 }
 
 /// Everybody who paddles in the trials and heats of a file.
@@ -73,75 +58,81 @@ void renameAll(rounddata030& heat, const Names& names) {
 
 } // namespace
 
-const rounddata030* HeatPage::current() const {
-    const auto& heats = m_desk.cross().eliphase;
-    return m_heat && *m_heat < heats.size() ? &heats[*m_heat] : nullptr;
+HeatPage::HeatPage(const CrossDesk& desk)
+    : CrossPage(desk),
+      m_front(desk, *this),
+      m_list(new HeatList),
+      m_empty(quietLabel("noHeats")),
+      m_body(new QWidget),
+      m_faults(quietLabel("heatFaults")),
+      m_orders(new HeatOrders(m_front)),
+      m_attacks(new HeatAttacks(m_front)) {
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(theme::Spacing, theme::Spacing, theme::Spacing, theme::Spacing);
+    column->setSpacing(theme::SmallSpacing);
+    makeParts(*column);
+    connectParts();
+    setMinimumWidth(m_body->minimumSizeHint().width()); // also as long as there is no heat
+    refresh();
 }
 
-const crossinfodata030& HeatPage::course() const {
-    return m_desk.cross().crossinfo;
+void HeatPage::makeParts(QVBoxLayout& column) {
+    column.addWidget(m_list, 1);
+    column.addWidget(m_list->buttons());
+    column.addWidget(m_empty, 1);
+    column.addWidget(m_body, 3);
+    auto* body = new QVBoxLayout(m_body);
+    body->setContentsMargins(0, 0, 0, 0);
+    body->setSpacing(theme::SmallSpacing);
+    body->addWidget(m_faults);
+    body->addWidget(m_orders);
+    body->addWidget(m_attacks, 1);
+    m_empty->setAlignment(Qt::AlignTop);
+    m_empty->setText(tr("No heats yet. Add a heat with its boats and choose its film; then go to "
+                        "each gate and press the numbers of the boats as they pass."));
 }
 
-/// What the edit refuses is told, and nothing changes.
-void HeatPage::change(const QString& what, const std::function<void(crossdata030&)>& change) {
-    try {
-        const QScopedValueRollback<bool> isEditing(m_isEditing, true);
-        edit(what, change);
-        m_seen = m_desk.document.value().cross;
-        emit told({}); // what was told before is over
-    } catch (const std::invalid_argument& refused) {
-        emit told(QString::fromUtf8(refused.what()));
-    }
-}
-
-void HeatPage::editHeat(const QString& what, const std::function<void(rounddata030&)>& act) {
-    if (current())
-        change(what, [&](crossdata030& cross) { act(cross.eliphase.at(*m_heat)); });
-}
-
-/// Brings the first gate without an order to the front.
-void HeatPage::openHeat(std::optional<std::size_t> heat) {
-    m_heat = heat;
-    m_selected.reset();
-    m_draft.reset();
-    m_naming = Naming::Nothing;
-    m_gate = 0;
-    if (!current())
-        return;
-    const auto& gates = course().gates;
-    const auto open = std::ranges::find_if(
-        gates, [&](std::int64_t gate) { return !orderAt(*current(), gate).has_value(); });
-    m_gate = open == gates.end() ? 0 : static_cast<std::size_t>(open - gates.begin());
+void HeatPage::connectParts() {
+    connect(m_list, &HeatList::chosen, this, &HeatPage::selectHeat);
+    connect(m_list, &HeatList::additionWanted, this, &HeatPage::addHeat);
+    connect(m_list, &HeatList::namesWanted, this, &HeatPage::renameBoats);
+    connect(m_list, &HeatList::filmWanted, this, &HeatPage::filmWanted);
+    connect(m_list, &HeatList::removalWanted, this, &HeatPage::removeHeat);
+    connect(m_orders, &HeatOrders::takingWanted, this,
+            [this] { whenMeant([this](const CMTime& moment) { mark(moment); }); });
+    connect(m_orders, &HeatOrders::columnChosen, this, &HeatPage::goToColumn);
+    connect(m_attacks, &HeatAttacks::additionWanted, this, [this] { addAttack(); });
+    connect(m_attacks, &HeatAttacks::startWanted, this, [this] {
+        whenMeant([this](const CMTime& moment) { m_attacks->setMoment(0, moment); });
+    });
+    connect(m_attacks, &HeatAttacks::endWanted, this, [this] { endAttack(); });
+    connect(&m_front, &HeatDesk::told, this, &HeatPage::told);
+    connect(&m_front, &HeatDesk::flashed, this, &HeatPage::flashed);
+    connect(&m_front, &HeatDesk::selected, this, [this] {
+        m_orders->refresh();
+        m_attacks->refresh();
+        emit marksChanged();
+    });
 }
 
 void HeatPage::refresh() {
-    checkState();
+    m_front.follow();
     showHeats();
-    showOrders();
-    showAttacks();
+    m_orders->refresh();
+    m_attacks->refresh();
     tellFilm();
     emit marksChanged();
 }
 
 void HeatPage::showHeats() {
-    const auto& heats = m_desk.cross().eliphase;
-    std::vector<QStringList> rows;
-    for (std::size_t heat = 0; heat < heats.size(); ++heat)
-        rows.push_back({QString::number(heat + 1), joined(heats[heat].athletes),
-                        filmText(m_desk.document, heats[heat].videoname),
-                        takenText(heats[heat], course())});
-    fillTable(*m_heats, rows);
-    const QSignalBlocker blocked(m_heats);
-    tipTexts(*m_heats);
-    m_heats->setCurrentCell(m_heat ? static_cast<int>(*m_heat) : -1, 0);
-    for (QPushButton* const each : m_heatButtons)
-        each->setEnabled(current());
-    m_empty->setVisible(!current());
-    m_body->setVisible(current());
+    const rounddata030* const front = m_front.heat();
+    m_list->setHeats(m_desk.document, front ? heat() : std::nullopt);
+    m_empty->setVisible(!front);
+    m_body->setVisible(front);
     QStringList faults;
-    if (current())
-        for (const std::string& fault : faultsOf(*current(), course()))
-            faults.append(QStringLiteral("⚠ ") + QString::fromStdString(fault));
+    if (front)
+        for (const std::string& fault : faultsOf(*front, m_front.course()))
+            faults.append(QStringLiteral("⚠ ") + qtText(fault));
     m_faults->setText(faults.join('\n'));
     m_faults->setVisible(!faults.isEmpty());
 }
@@ -160,135 +151,137 @@ void HeatPage::changeEvent(QEvent* event) {
 }
 
 void HeatPage::showFrame() {
-    showOrderButtons();
+    m_orders->showFrame();
+}
+
+void HeatPage::commit() {
+    m_orders->commit();
+    m_attacks->commit();
 }
 
 QString HeatPage::film() const {
-    return current() ? QString::fromStdString(current()->videoname) : QString();
-}
-
-/// Marks without a moment are none.
-std::vector<HeatPage::HeatMark> HeatPage::heatMarks() const {
-    std::vector<HeatMark> marks;
-    const auto add = [&](const HeatMark& mark) {
-        if (momentOf(mark))
-            marks.push_back(mark);
-    };
-    for (std::size_t order = 0; current() && order < current()->generals.size(); ++order)
-        add({true, order, 0});
-    for (std::size_t attack = 0; current() && attack < current()->actions.size(); ++attack)
-        for (std::size_t entry = 0; entry < current()->actions[attack].time.size(); ++entry)
-            add({false, attack, entry});
-    return marks;
-}
-
-bool HeatPage::exists(const HeatMark& mark) const {
-    if (!current())
-        return false;
-    if (mark.isOrder)
-        return mark.record < current()->generals.size();
-    return mark.record < current()->actions.size() &&
-           (mark.entry == 0 || mark.entry < current()->actions[mark.record].time.size());
-}
-
-std::optional<CMTime> HeatPage::momentOf(const HeatMark& mark) const {
-    if (!exists(mark))
-        return std::nullopt;
-    CMTime moment;
-    if (mark.isOrder)
-        moment = current()->generals[mark.record].time;
-    else if (mark.entry < current()->actions[mark.record].time.size())
-        moment = current()->actions[mark.record].time[mark.entry];
-    return isTaken(moment) ? std::optional(moment) : std::nullopt;
+    return m_front.heat() ? qtText(m_front.heat()->videoname) : QString();
 }
 
 std::vector<LineMark> HeatPage::marks() const {
     std::vector<LineMark> marks;
-    for (const HeatMark& mark : heatMarks()) {
+    for (const HeatMark& mark : m_front.marks()) {
         const QString attack = tr("A%1").arg(mark.record + 1);
-        const QString label = mark.isOrder ? QString::number(current()->generals[mark.record].gate)
+        const QString label = mark.isOrder
+                                  ? QString::number(m_front.heat()->generals[mark.record].gate)
                               : mark.entry == 0 ? attack
                                                 : attack + QStringLiteral("›");
-        marks.push_back({*momentOf(mark), label, marks.size()});
+        marks.push_back({*m_front.momentOf(mark), label, marks.size()});
     }
     return marks;
 }
 
 std::optional<std::size_t> HeatPage::selectedMark() const {
-    const auto marks = heatMarks();
-    const auto found = m_selected ? std::ranges::find(marks, *m_selected) : marks.end();
+    const auto marks = m_front.marks();
+    const auto& selected = m_front.front().selected;
+    const auto found = selected ? std::ranges::find(marks, *selected) : marks.end();
     if (found == marks.end())
         return std::nullopt;
     return static_cast<std::size_t>(found - marks.begin());
 }
 
 void HeatPage::selectMark(std::size_t mark) {
-    const auto marks = heatMarks();
+    const auto marks = m_front.marks();
     if (mark < marks.size())
-        select(marks[mark]);
+        m_front.select(marks[mark]);
 }
 
-/// An order brings its gate to the front.
-void HeatPage::select(const std::optional<HeatMark>& mark) {
-    m_selected = mark;
-    m_naming = Naming::Nothing;
-    if (mark && mark->isOrder) {
-        m_draft.reset();
-        const auto& gates = course().gates;
-        const auto found = std::ranges::find(gates, current()->generals[mark->record].gate);
-        if (found != gates.end() && gate() != *found)
-            m_gate = static_cast<std::size_t>(found - gates.begin());
-    }
-    showOrders();
-    showAttacks();
-    emit marksChanged();
-}
-
-void HeatPage::goTo(const HeatMark& mark) {
-    if (!exists(mark))
-        return;
-    select(mark);
-    if (const auto moment = momentOf(mark))
-        m_desk.deck.seek(*moment);
+void HeatPage::mark(const CMTime& moment) {
+    m_orders->take(moment);
 }
 
 void HeatPage::moveMark(const CMTime& moment) {
-    if (!m_selected || !current()) {
+    const auto selected = m_front.front().selected;
+    if (!selected || !m_front.heat()) {
         emit told(tr("No mark is selected. Ctrl and the arrows go from mark to mark."));
         return;
     }
-    const HeatMark mark = *m_selected;
-    if (mark.isOrder)
-        editHeat(tr("order moved"),
-                 [&](rounddata030& heat) { moveOrder(heat, mark.record, moment); });
-    else
-        setAttackMoment(mark.entry, moment);
+    if (!selected->isOrder) {
+        m_attacks->setMoment(selected->entry, moment);
+        return;
+    }
+    m_front.editHeat(tr("order moved"), [&](rounddata030& heat, HeatFront&) {
+        moveOrder(heat, selected->record, moment);
+    });
 }
 
 void HeatPage::removeMark() {
-    if (!m_selected || !current())
+    const auto selected = m_front.front().selected;
+    if (!selected || !m_front.heat())
         return;
-    if (!m_selected->isOrder) {
-        m_selected->entry == 0 ? removeAttack() : removeAttackMoment(m_selected->entry);
+    if (!selected->isOrder) {
+        m_attacks->removeMoment(selected->entry);
         return;
     }
-    const std::size_t record = m_selected->record;
-    m_selected.reset();
-    editHeat(tr("order removed"), [&](rounddata030& heat) { removeOrder(heat, record); });
+    m_front.editHeat(tr("order removed"), [&](rounddata030& heat, HeatFront& front) {
+        removeOrder(heat, selected->record);
+        front.selected.reset();
+    });
 }
 
 void HeatPage::stepRow(int step) {
-    const auto heat = static_cast<std::ptrdiff_t>(m_heat.value_or(0)) + step;
-    if (m_heat && heat >= 0)
-        selectHeat(static_cast<std::size_t>(heat));
+    const auto row = static_cast<std::ptrdiff_t>(heat().value_or(0)) + step;
+    if (heat() && row >= 0)
+        selectHeat(static_cast<std::size_t>(row));
+}
+
+bool HeatPage::stepGate(int step) {
+    const auto& gates = m_front.course().gates;
+    if (!m_front.heat() || gates.empty())
+        return true;
+    commit();
+    const auto last = static_cast<std::ptrdiff_t>(gates.size()) - 1;
+    const auto place = static_cast<std::ptrdiff_t>(m_front.front().gate) + step;
+    m_front.setGate(static_cast<std::size_t>(std::clamp<std::ptrdiff_t>(place, 0, last)));
+    m_front.draft(std::nullopt, HeatFront::Naming::Nothing);
+    const auto record = orderAt(*m_front.heat(), *gate());
+    m_front.select(record ? std::optional(HeatMark{true, *record, 0}) : std::nullopt);
+    return true;
+}
+
+/// The order that was taken there, or its gate where none was or another one is not taken yet.
+void HeatPage::goToColumn(const ShownOrder& order) {
+    commit();
+    const auto place = m_front.placeOnCourse(order.gate);
+    const rounddata030* const heat = m_front.heat();
+    const bool isTakenThere = heat && order.record && *order.record < heat->generals.size() &&
+                              heat->generals[*order.record].gate == order.gate;
+    const bool isDraft = m_front.front().draft && place == m_front.front().gate;
+    if (isTakenThere && !isDraft)
+        m_front.goTo({true, *order.record, 0});
+    else if (place)
+        stepGate(static_cast<int>(*place) - static_cast<int>(m_front.front().gate));
+}
+
+void HeatPage::pressNumber(int number) {
+    m_desk.deck.finishPresses(); // an attack may be about to begin, whose boats are named
+    const rounddata030* const front = m_front.heat();
+    if (!front)
+        return;
+    const auto boat = static_cast<std::size_t>(number - 1);
+    if (number < 1 || boat >= front->athletes.size()) {
+        emit told(tr("This heat has %1 boats.").arg(front->athletes.size()));
+        return;
+    }
+    const std::string name = front->athletes[boat];
+    const HeatFront::Naming naming = m_front.front().naming;
+    if (naming == HeatFront::Naming::Attacker || naming == HeatFront::Naming::Defenders)
+        m_attacks->name(name);
+    else
+        m_orders->name(name);
 }
 
 void HeatPage::selectHeat(std::size_t heat) {
-    if (heat >= m_desk.cross().eliphase.size() || heat == m_heat)
+    if (heat >= m_desk.cross().eliphase.size() || heat == this->heat())
         return;
     m_desk.deck.finishPresses(); // they belong to the heat in front
     commit();
-    openHeat(heat);
+    m_front.open(heat);
     refresh();
 }
 
@@ -296,32 +289,66 @@ void HeatPage::addHeat() {
     HeatDialog dialog({}, everybody(m_desk.cross()), true, this);
     if (dialog.exec() != QDialog::Accepted)
         return;
-    change(tr("heat"),
-           [&](crossdata030& cross) { openHeat(kavela::addHeat(cross, {}, dialog.names())); });
+    m_front.edit(tr("heat"), [&](crossdata030& cross, HeatFront& front) {
+        front = openedHeat(cross, kavela::addHeat(cross, {}, dialog.names()));
+    });
 }
 
 /// The heat that comes to the front is another one: nothing of this one stays selected.
 void HeatPage::removeHeat() {
-    if (!current())
+    if (!m_front.heat())
         return;
-    const std::size_t removed = *m_heat;
+    const std::size_t removed = *heat();
     edit(tr("heat removed"), [&](crossdata030& cross) { kavela::removeHeat(cross, removed); });
     emit told({});
 }
 
 void HeatPage::renameBoats() {
-    if (!current())
+    if (!m_front.heat())
         return;
-    HeatDialog dialog(current()->athletes, everybody(m_desk.cross()), false, this);
-    if (dialog.exec() == QDialog::Accepted && dialog.names() != current()->athletes)
-        editHeat(tr("names of boats"),
-                 [&](rounddata030& heat) { renameAll(heat, dialog.names()); });
+    HeatDialog dialog(m_front.heat()->athletes, everybody(m_desk.cross()), false, this);
+    if (dialog.exec() == QDialog::Accepted && dialog.names() != m_front.heat()->athletes)
+        m_front.editHeat(tr("names of boats"),
+                         [&](rounddata030& heat, HeatFront&) { renameAll(heat, dialog.names()); });
 }
 
 void HeatPage::setFilm(const QString& name) {
-    if (current() && name != film())
-        editHeat(tr("film of a heat"),
-                 [&](rounddata030& heat) { heat.videoname = name.toStdString(); });
+    if (m_front.heat() && name != film())
+        m_front.editHeat(tr("film of a heat"), [&](rounddata030& heat, HeatFront&) {
+            heat.videoname = name.toStdString();
+        });
+}
+
+void HeatPage::addAttack() {
+    if (!m_front.heat())
+        emit refused(tr("Add a heat first."));
+    else if (m_front.heat()->athletes.empty())
+        emit refused(tr("This heat has no boats yet."));
+    else if (m_desk.hasFilm())
+        whenMeant([this](const CMTime& moment) { addAttack(moment); });
+    else
+        addAttack(std::nullopt); // who saw the race without a film knows who attacked whom
+}
+
+void HeatPage::addAttack(const std::optional<CMTime>& moment) {
+    if (!m_front.heat() || m_front.heat()->athletes.empty())
+        return;
+    commit();
+    m_attacks->add(moment);
+}
+
+void HeatPage::endAttack() {
+    if (!m_front.attack())
+        emit refused(tr("Select the attack that ends here."));
+    else
+        whenMeant([this](const CMTime& moment) { endAttack(moment); });
+}
+
+void HeatPage::endAttack(const CMTime& moment) {
+    if (m_front.attack())
+        m_attacks->setMoment(1, moment);
+    else
+        emit told(tr("Select the attack that ends here."));
 }
 
 } // namespace kavela::desktop

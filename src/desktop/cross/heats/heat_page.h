@@ -1,22 +1,17 @@
 #pragma once
 
 #include "desktop/cross/cross_page.h"
-#include "desktop/cross/heats/boat_looks.h"
-
-#include <memory>
+#include "desktop/cross/heats/heat_desk.h"
 
 class QLabel;
-class QLineEdit;
-class QPushButton;
-class QScrollArea;
-class QTableWidget;
 class QVBoxLayout;
 
 namespace kavela::desktop {
 
-class AttackForm;
-class OrderBoard;
-class PlaceGrid;
+class HeatAttacks;
+class HeatList;
+class HeatOrders;
+struct ShownOrder;
 
 /// The elimination heats on film: the order of the boats at each gate, attacks and defences.
 /// Numbers name the boats in the order in which they pass the gate in front, and the marking key
@@ -49,10 +44,10 @@ public:
     void pressNumber(int number) override;
 
     /// The heat in front, by its place in the file; nothing without one.
-    [[nodiscard]] std::optional<std::size_t> heat() const { return m_heat; }
+    [[nodiscard]] std::optional<std::size_t> heat() const { return m_front.front().heat; }
     void selectHeat(std::size_t heat);
     /// The gate in front; nothing while the cross course has none.
-    [[nodiscard]] std::optional<std::int64_t> gate() const;
+    [[nodiscard]] std::optional<std::int64_t> gate() const { return m_front.gate(); }
 
     /// Adds a heat of the boats that the coach chooses.
     void addHeat();
@@ -76,93 +71,21 @@ protected:
     void changeEvent(QEvent* event) override;
 
 private:
-    /// A moment of the heat: the order or the attack, and of an attack its start or its end.
-    struct HeatMark {
-        bool isOrder = true;
-        std::size_t record = 0;
-        std::size_t entry = 0;
-
-        friend bool operator==(const HeatMark&, const HeatMark&) = default;
-    };
-    /// What a number names.
-    enum class Naming { Nothing, Order, Attacker, Defenders };
-    using Names = std::vector<std::string>;
-
-    void makeHeats(QVBoxLayout& column);
-    void makeOrders(QVBoxLayout& column);
-    void makeOrderButtons(QVBoxLayout& column);
-    void makeAttacks(QVBoxLayout& column);
-
-    [[nodiscard]] const rounddata030* current() const;
-    [[nodiscard]] const crossinfodata030& course() const;
-    void editHeat(const QString& what, const std::function<void(rounddata030&)>& change);
-    void change(const QString& what, const std::function<void(crossdata030&)>& change);
-    void checkState();
-    void follow(const crossdata030& before);
-    void followGate(const std::vector<std::int64_t>& before);
-    void followMark(const rounddata030& before);
-    void openHeat(std::optional<std::size_t> heat);
+    void makeParts(QVBoxLayout& column);
+    void connectParts();
     void showHeats();
     void tellFilm();
+    void goToColumn(const ShownOrder& order);
 
-    [[nodiscard]] std::vector<HeatMark> heatMarks() const;
-    [[nodiscard]] std::optional<CMTime> momentOf(const HeatMark& mark) const;
-    [[nodiscard]] bool exists(const HeatMark& mark) const;
-    void select(const std::optional<HeatMark>& mark);
-    void goTo(const HeatMark& mark);
-
-    void chooseColumn(std::size_t column);
-    [[nodiscard]] std::optional<std::size_t> strayOrder() const;
-    [[nodiscard]] std::optional<std::size_t> orderInFront() const;
-    [[nodiscard]] Names offeredOrder() const;
-    [[nodiscard]] Names shownOrder() const;
-    [[nodiscard]] rounddata030 preview() const;
-    [[nodiscard]] QString orderFault() const;
-    void draft(Names order, Naming naming);
-    void nameForOrder(const std::string& name);
-    void takeOrder(const CMTime& moment);
-    void takeOrderComment();
-    void showOrders();
-    void showBoard(const rounddata030& preview);
-    void fitGrid();
-    void showOrderButtons();
-
-    [[nodiscard]] const actiondata030* attack() const;
-    void changeAttack(const QString& what, const std::function<void(actiondata030&)>& change,
-                      std::size_t entry = 0);
-    void nameForAttack(const std::string& name);
-    void setAttackMoment(std::size_t entry, const CMTime& moment);
-    void removeAttackMoment(std::size_t entry);
-    void removeAttack();
-    void showAttacks();
-    void dressAttack(int row);
-    void offerTexts();
-
-    std::optional<std::size_t> m_heat;
-    std::size_t m_gate = 0; ///< place on the course
-    std::optional<HeatMark> m_selected;
-    std::optional<Names> m_draft; ///< of the gate in front, not taken yet
-    Naming m_naming = Naming::Nothing;
+    HeatDesk m_front;
     QString m_film;
-    std::vector<BoatLook> m_looks;
-    std::shared_ptr<const crossdata030> m_seen; ///< the content that is shown
-    bool m_isEditing = false;                   ///< the page itself changes the content now
 
-    QTableWidget* m_heats;
-    std::vector<QPushButton*> m_heatButtons; ///< that need a heat
+    HeatList* m_list;
     QLabel* m_empty;
-    QLabel* m_faults;
     QWidget* m_body;
-    QLabel* m_title;
-    OrderBoard* m_board;
-    PlaceGrid* m_grid;
-    QScrollArea* m_gridArea;
-    QPushButton* m_take;
-    QPushButton* m_keep;
-    QPushButton* m_reset;
-    QLineEdit* m_comment;
-    QTableWidget* m_attacks;
-    AttackForm* m_form;
+    QLabel* m_faults;
+    HeatOrders* m_orders;
+    HeatAttacks* m_attacks;
 };
 
 } // namespace kavela::desktop

@@ -1,15 +1,22 @@
 #pragma once
 
 #include "desktop/cross/trials/trial_marks.h"
+#include "desktop/shell/tables/column_model.h"
 
 #include <QWidget>
 
 class QCheckBox;
-class QTableWidget;
 
 namespace kavela::desktop {
 
 class CodeCombo;
+class ColumnTable;
+
+/// An upstream gate of the course, and what a trial has of it.
+struct GateRow {
+    ttupstream030 gate;
+    bool isKnown = false; ///< the trial has an entry for it
+};
 
 /// The upstream gates of a time trial: their times, and direction and style of the gate in front.
 /// Changes nothing itself.
@@ -22,14 +29,12 @@ public:
     /// The gates of the course with what the trial has of them; null for no trial.
     void setTrial(const ttdata030* trial, const std::vector<std::int64_t>& gates);
     void setFront(std::optional<std::int64_t> gate);
-    /// Whether the pole line is to be marked too.
-    [[nodiscard]] bool wantsMiddle() const;
 
 signals:
     void gateChosen(std::int64_t gate);
     void directionChosen(std::int64_t code);
     void styleChosen(std::int64_t code);
-    void middleToggled();
+    void middleToggled(bool wantsMiddle); ///< the pole line is to be marked, too
 
 private:
     void showCodes();
@@ -37,9 +42,8 @@ private:
     QCheckBox* m_middle;
     CodeCombo* m_direction;
     CodeCombo* m_style;
-    QTableWidget* m_table;
-    std::vector<ttupstream030> m_upstreams; ///< of the trial, one for each row of the table
-    std::vector<bool> m_hasEntry;           ///< by row: the trial knows the gate
+    ColumnModel<GateRow> m_rows;
+    ColumnTable* m_table;
 };
 
 } // namespace kavela::desktop

@@ -1,25 +1,37 @@
 #include "desktop/cross/trials/roll_form.h"
 
+#include "desktop/shell/tables/column_table.h"
 #include "desktop/shell/theme.h"
 #include "desktop/splitfile/code_combo.h"
 #include "desktop/splitfile/text_table.h"
 #include "splittaking/annotations/gate_marks.h"
 
 #include <QFormLayout>
-#include <QHeaderView>
-#include <QTableWidget>
 
 namespace kavela::desktop {
+
+namespace {
+
+using RollRow = std::pair<QString, QString>;
+
+std::vector<Column<RollRow>> rollColumns() {
+    return {textColumn<RollRow>(RollForm::tr("Part of the roll"), &RollRow::first),
+            {.title = RollForm::tr("Time"),
+             .kind = ColumnKind::Number,
+             .show = [](const RollRow& row) { return Cell{row.second}; }}};
+}
+
+} // namespace
 
 RollForm::RollForm(QWidget* parent)
     : QWidget(parent),
       m_direction(new CodeCombo(LabelList::RollDirection)),
       m_style(new CodeCombo(LabelList::RollStyle)),
-      m_table(textTable({tr("Part of the roll"), tr("Time")})) {
+      m_rows(rollColumns(), RowsKnownBy::Number) {
     m_direction->setObjectName("rollDirection");
     m_style->setObjectName("rollStyle");
-    m_table->setObjectName("roll");
-    m_table->setSelectionMode(QAbstractItemView::NoSelection);
+    auto* table = new ColumnTable(m_rows, "roll");
+    table->setOnlyShown();
     auto* roll = new QHBoxLayout;
     roll->addWidget(m_direction, 1);
     roll->addWidget(m_style, 2);
@@ -27,7 +39,7 @@ RollForm::RollForm(QWidget* parent)
     form->setContentsMargins(0, 0, 0, 0);
     form->setVerticalSpacing(theme::Spacing);
     form->addRow(tr("Roll"), roll);
-    form->addRow(m_table);
+    form->addRow(table);
     connect(m_direction, &CodeCombo::codeChosen, this, &RollForm::directionChosen);
     connect(m_style, &CodeCombo::codeChosen, this, &RollForm::styleChosen);
 }
@@ -44,9 +56,9 @@ void RollForm::setRoll(const ttroll030* roll) {
     }
     const GateTimes times =
         timesOf(roll ? std::span<const CMTime>(roll->cmtimes) : std::span<const CMTime>());
-    fillTable(*m_table, {{tr("Going over"), timeOrDash(times.entrance)},
-                         {tr("Coming up"), timeOrDash(times.exit)},
-                         {tr("Total"), timeOrDash(times.total)}});
+    m_rows.show({{tr("Going over"), timeOrDash(times.entrance)},
+                 {tr("Coming up"), timeOrDash(times.exit)},
+                 {tr("Total"), timeOrDash(times.total)}});
 }
 
 } // namespace kavela::desktop

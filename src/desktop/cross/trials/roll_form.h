@@ -1,10 +1,9 @@
 #pragma once
 
+#include "desktop/shell/tables/column_model.h"
 #include "splitdata/cross_records.h"
 
 #include <QWidget>
-
-class QTableWidget;
 
 namespace kavela::desktop {
 
@@ -27,7 +26,7 @@ signals:
 private:
     CodeCombo* m_direction;
     CodeCombo* m_style;
-    QTableWidget* m_table;
+    ColumnModel<std::pair<QString, QString>> m_rows; ///< parts of the roll and their times
 };
 
 } // namespace kavela::desktop

@@ -1,10 +1,12 @@
 #include "desktop/taking/notes/camera_page.h"
 
 #include "desktop/film/film_deck.h"
+#include "desktop/shell/qt_text.h"
 #include "desktop/shell/shown_number.h"
+#include "desktop/shell/tables/column_table.h"
 #include "desktop/shell/theme.h"
+#include "desktop/splitfile/film_table.h"
 #include "desktop/splitfile/taking_document.h"
-#include "desktop/splitfile/text_table.h"
 #include "splitdata/run_timing.h"
 #include "splittaking/annotations/refusals.h"
 #include "video/recording_date.h"
@@ -14,7 +16,6 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QSignalBlocker>
-#include <QTableWidget>
 
 #include <algorithm>
 #include <cmath>
@@ -33,9 +34,24 @@ CMTime stampOfSeconds(double seconds) {
     return {std::llround(seconds * Microseconds), Microseconds, ValidStamp, 0};
 }
 
+std::vector<Column<SyncRow>> syncColumns() {
+    const auto lag = [](double seconds) { return shownNumber(seconds, 3); };
+    return {numberColumn<SyncRow>(
+                CameraPage::tr("Time"), [](const SyncRow& row) { return row.seconds; },
+                shownHundredths),
+            textColumn<SyncRow>(CameraPage::tr("Tag"),
+                                [](const SyncRow& row) { return qtText(row.mark.name); }),
+            numberColumn<SyncRow>(
+                CameraPage::tr("Lag"), [](const SyncRow& row) { return row.mark.lag; }, lag),
+            numberColumn<SyncRow>(
+                CameraPage::tr("Off by"), [](const SyncRow& row) { return row.mark.deviation; },
+                signedSeconds)};
+}
+
 } // namespace
 
-CameraPage::CameraPage(NoteDesk& desk) : NotePage(desk) {
+CameraPage::CameraPage(NoteDesk& desk)
+    : NotePage(desk), m_marks(syncColumns(), RowsKnownBy::Number) {
     makeParts();
     auto* attach = new QPushButton(tr("Attach a film…"));
     attach->setObjectName("cameraAttach");
@@ -56,9 +72,10 @@ CameraPage::CameraPage(NoteDesk& desk) : NotePage(desk) {
     connect(m_all, &QPushButton::clicked, this, &CameraPage::attachToAll);
     connect(m_cameras, &QComboBox::activated, this,
             [this](int place) { choose(m_cameras->itemData(place).toString()); });
-    connect(m_table, &QTableWidget::cellClicked, this, [this](int row) {
+    connect(m_table, &ColumnTable::clicked, this, [this](const QModelIndex& cell) {
+        const CMTime own = m_marks.row(m_table->placeAt(cell)).mark.own;
         emit rowChosen();
-        m_desk.deck.seek(m_marks.at(static_cast<std::size_t>(row)).own);
+        m_desk.deck.seek(own);
     });
 }
 
@@ -79,8 +96,7 @@ void CameraPage::makeParts() {
     m_step = new QLabel;
     m_step->setObjectName("cameraStep");
     m_step->setWordWrap(true);
-    m_table = textTable({tr("Time"), tr("Tag"), tr("Lag"), tr("Off by")});
-    m_table->setObjectName("cameraMarks");
+    m_table = filmTable(m_marks, "cameraMarks");
     m_table->setMinimumHeight(110);
 }
 
@@ -124,14 +140,11 @@ void CameraPage::showCameras() {
 
 void CameraPage::showMarks() {
     const athletedata031* const run = m_desk.record();
-    m_marks = run && m_desk.fixedCamera ? syncMarksOf(*run, *m_desk.fixedCamera)
-                                        : std::vector<SyncMark>();
-    std::vector<QStringList> rows;
-    for (const SyncMark& each : m_marks)
-        rows.push_back({shownHundredths(runSecondsAt(*run, each.own)),
-                        QString::fromStdString(each.name), shownNumber(each.lag, 3),
-                        signedSeconds(each.deviation)});
-    fillTable(*m_table, rows);
+    std::vector<SyncRow> rows;
+    if (run && m_desk.fixedCamera)
+        for (const SyncMark& each : syncMarksOf(*run, *m_desk.fixedCamera))
+            rows.push_back({each, runSecondsAt(*run, each.own)});
+    m_marks.show(std::move(rows));
     if (!m_desk.fixedCamera) {
         m_next->setText(run && run->fixcameras.empty()
                             ? tr("Attach the film of a camera that stood at the course.")
@@ -203,10 +216,10 @@ void CameraPage::mark(const Stamps& stamps) {
 }
 
 bool CameraPage::removeCurrent() {
-    const int row = m_table->currentRow();
-    if (!m_desk.fixedCamera || row < 0 || std::cmp_greater_equal(row, m_marks.size()))
+    const int place = m_table->currentPlace();
+    if (!m_desk.fixedCamera || place < 0)
         return false;
-    const TagHandle tag = m_marks[static_cast<std::size_t>(row)].tag;
+    const TagHandle tag = m_marks.row(place).mark.tag;
     edit(tr("moment removed"), [&](athletedata031& run) { removeSync(run, tag); });
     bringIntoStep();
     return true;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "desktop/shell/tables/column_model.h"
 #include "desktop/taking/notes/note_page.h"
 #include "splittaking/annotations/camera_sync.h"
 
@@ -8,9 +9,16 @@
 class QComboBox;
 class QLabel;
 class QPushButton;
-class QTableWidget;
 
 namespace kavela::desktop {
+
+class ColumnTable;
+
+/// A moment that was found on both films.
+struct SyncRow {
+    SyncMark mark;
+    double seconds = 0; ///< of the run
+};
 
 /// The fixed cameras of a run: their films are attached, shown beside the run's own, and brought
 /// into step by moments that were marked on both.
@@ -52,14 +60,14 @@ private:
 
     QString m_film; ///< shown beside every run that has it; empty for none
     bool m_hasChosen = false;
-    std::vector<SyncMark> m_marks;
+    ColumnModel<SyncRow> m_marks;
     mutable std::map<QString, std::optional<ReferenceDate>> m_began; ///< by film
     QComboBox* m_cameras = nullptr;
     QPushButton* m_detach = nullptr;
     QPushButton* m_all = nullptr;
     QLabel* m_next = nullptr;
     QLabel* m_step = nullptr;
-    QTableWidget* m_table = nullptr;
+    ColumnTable* m_table = nullptr;
 };
 
 } // namespace kavela::desktop

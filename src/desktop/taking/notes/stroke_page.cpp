@@ -1,16 +1,16 @@
 #include "desktop/taking/notes/stroke_page.h"
 
 #include "desktop/shell/shown_number.h"
+#include "desktop/shell/tables/column_table.h"
 #include "desktop/shell/theme.h"
 #include "desktop/splitfile/code_combo.h"
+#include "desktop/splitfile/film_table.h"
 #include "desktop/splitfile/taking_document.h"
-#include "desktop/splitfile/text_table.h"
 #include "splitdata/run_timing.h"
 #include "splittaking/annotations/refusals.h"
 
 #include <QFormLayout>
 #include <QLabel>
-#include <QTableWidget>
 
 namespace kavela::desktop {
 
@@ -30,16 +30,32 @@ HandCode otherHand(const athletedata031& run, const CMTime& moment) {
     return next;
 }
 
+Column<StrokeRow> strokeColumn(const QString& title, std::size_t SectionStrokes::*count) {
+    return {.title = title, .kind = ColumnKind::Number, .show = [count](const StrokeRow& row) {
+                return Cell{.text = QString::number(row.strokes.*count),
+                            .number = static_cast<double>(row.strokes.*count)};
+            }};
+}
+
+std::vector<Column<StrokeRow>> strokeColumns() {
+    return {textColumn<StrokeRow>(StrokePage::tr("Section"), &StrokeRow::section),
+            strokeColumn(StrokePage::tr("Left"), &SectionStrokes::left),
+            strokeColumn(StrokePage::tr("Right"), &SectionStrokes::right),
+            numberColumn<StrokeRow>(
+                StrokePage::tr("Strokes/min"),
+                [](const StrokeRow& row) { return row.strokes.perMinute; },
+                [](double rate) { return shownNumber(rate, 1); })};
+}
+
 } // namespace
 
 StrokePage::StrokePage(NoteDesk& desk)
     : NotePage(desk),
       m_rate(new QLabel),
       m_style(new CodeCombo(LabelList::StrokeStyle)),
-      m_sections(textTable({tr("Section"), tr("Left"), tr("Right"), tr("Strokes/min")})) {
+      m_sections(strokeColumns(), RowsKnownBy::Number) {
     m_rate->setObjectName("strokeRate");
     m_style->setObjectName("strokeStyle");
-    m_sections->setObjectName("strokeSections");
     auto* hint = new QLabel(tr("A marks a stroke on the left, D on the right, M with the other "
                                "hand than before."));
     hint->setWordWrap(true);
@@ -49,12 +65,12 @@ StrokePage::StrokePage(NoteDesk& desk)
     form->addRow(hint);
     form->addRow(tr("Rate now"), m_rate);
     form->addRow(tr("Style"), m_style);
-    form->addRow(m_sections);
+    form->addRow(filmTable(m_sections, "strokeSections"));
     connect(m_style, &CodeCombo::codeChosen, this, &StrokePage::changeStyle);
 }
 
 void StrokePage::refresh() {
-    std::vector<QStringList> rows;
+    std::vector<StrokeRow> rows;
     const athletedata031* const run = m_desk.record();
     if (!run || (m_chosen && *m_chosen >= run->strokes.size()))
         m_chosen.reset();
@@ -63,12 +79,10 @@ void StrokePage::refresh() {
         const auto sections = strokesBySection(*run);
         for (std::size_t i = 0; i < sections.size(); ++i) {
             const auto title = QString::fromStdString(entryOrZero(titles, i));
-            rows.push_back({title.isEmpty() ? 'S' + QString::number(i + 1) : title,
-                            QString::number(sections[i].left), QString::number(sections[i].right),
-                            rateText(sections[i].perMinute)});
+            rows.push_back({title.isEmpty() ? 'S' + QString::number(i + 1) : title, sections[i]});
         }
     }
-    fillTable(*m_sections, rows);
+    m_sections.show(std::move(rows));
     showFrame();
 }
 

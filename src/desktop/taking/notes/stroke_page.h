@@ -1,14 +1,20 @@
 #pragma once
 
+#include "desktop/shell/tables/column_model.h"
 #include "desktop/taking/notes/note_page.h"
 #include "splittaking/annotations/strokes.h"
 
 class QLabel;
-class QTableWidget;
 
 namespace kavela::desktop {
 
 class CodeCombo;
+
+/// The strokes of a section.
+struct StrokeRow {
+    QString section;
+    SectionStrokes strokes;
+};
 
 /// Strokes with their hand and style, the rate at the frame shown, and the strokes of each section.
 class StrokePage : public NotePage {
@@ -33,7 +39,7 @@ private:
 
     QLabel* m_rate;
     CodeCombo* m_style;
-    QTableWidget* m_sections;
+    ColumnModel<StrokeRow> m_sections;
     std::optional<std::size_t> m_chosen; ///< stroke
 };
 

@@ -1,11 +1,13 @@
 #include "desktop/taking/notes/tag_page.h"
 
 #include "desktop/film/film_deck.h"
+#include "desktop/shell/qt_text.h"
 #include "desktop/shell/shown_number.h"
+#include "desktop/shell/tables/column_table.h"
 #include "desktop/shell/theme.h"
 #include "desktop/shell/workspace.h"
+#include "desktop/splitfile/film_table.h"
 #include "desktop/splitfile/taking_document.h"
-#include "desktop/splitfile/text_table.h"
 #include "desktop/taking/notes/clip_player.h"
 #include "splittaking/annotations/custom_tags.h"
 #include "splittaking/annotations/refusals.h"
@@ -19,7 +21,6 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QSignalBlocker>
-#include <QTableWidget>
 
 #include <algorithm>
 
@@ -31,20 +32,29 @@ constexpr const char* SavedKey = "savedtags";
 constexpr const char* IndexKey = "comtagIndex";
 constexpr const char* JustPartKey = "tagmodeplaysjustpart";
 
+std::vector<Column<TagRow>> tagColumns() {
+    return {
+        numberColumn<TagRow>(
+            TagPage::tr("Time"), [](const TagRow& row) { return row.seconds; }, shownHundredths),
+        textColumn<TagRow>(TagPage::tr("Tag"),
+                           [](const TagRow& row) { return qtText(row.mark.text); })};
+}
+
 } // namespace
 
 TagPage::TagPage(NoteDesk& desk)
     : NotePage(desk),
       m_name(new QComboBox),
       m_justPart(new QCheckBox(tr("Play just the tagged part"))),
-      m_table(textTable({tr("Time"), tr("Tag")})) {
+      m_tags(tagColumns(), RowsKnownBy::Number),
+      m_table(filmTable(m_tags, "tags")) {
     m_name->setObjectName("tagName");
     m_name->setEditable(true);
     m_name->setInsertPolicy(QComboBox::NoInsert);
     m_name->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     m_name->setMinimumContentsLength(8); // a long name must not make the page wider
     m_justPart->setObjectName("tagJustPart");
-    m_table->setObjectName("tags");
+    m_table->stretch({1});
     auto* rename = new QPushButton(tr("Rename the tag"));
     rename->setObjectName("tagRename");
     rename->setToolTip(tr("Gives the selected tag the name above"));
@@ -63,9 +73,9 @@ TagPage::TagPage(NoteDesk& desk)
     connect(m_name, &QComboBox::activated, this, [this] { remember(name()); });
     connect(m_name->lineEdit(), &QLineEdit::textEdited, this, [this] { m_isTaken = false; });
     connect(m_name->lineEdit(), &QLineEdit::returnPressed, this, &TagPage::takeName);
-    connect(m_table, &QTableWidget::cellClicked, this, [this](int row) {
-        const LaneMark tag = m_tags.at(static_cast<std::size_t>(row));
-        emit picked(tag.handle);
+    connect(m_table, &ColumnTable::clicked, this, [this](const QModelIndex& cell) {
+        const MarkHandle tag = m_tags.row(m_table->placeAt(cell)).mark.handle;
+        emit picked(tag);
         playPart();
     });
 }
@@ -127,16 +137,12 @@ void TagPage::showNames() {
 
 void TagPage::showTable() {
     const athletedata031* const run = m_desk.record();
-    m_tags.clear();
+    std::vector<TagRow> rows;
     if (run)
-        for (LaneMark& mark : annotationLanes(*run, m_desk.document.info()).marks)
+        for (const LaneMark& mark : annotationLanes(*run, m_desk.document.info()).marks)
             if (mark.kind == MarkKind::Tag && mark.film.kind == FilmKind::Own)
-                m_tags.push_back(std::move(mark));
-    std::vector<QStringList> rows;
-    for (const LaneMark& tag : m_tags)
-        rows.push_back(
-            {shownHundredths(runSecondsAt(*run, tag.time)), QString::fromStdString(tag.text)});
-    fillTable(*m_table, rows);
+                rows.push_back({mark, runSecondsAt(*run, mark.time)});
+    m_tags.show(std::move(rows));
 }
 
 void TagPage::refresh() {
@@ -191,9 +197,9 @@ void TagPage::playPart() {
         return;
     }
     double end = m_chosen->seconds + PartSeconds;
-    for (const LaneMark& tag : m_tags)
-        if (tag.film == m_chosen->film && tag.seconds > m_chosen->seconds)
-            end = std::min(end, tag.seconds);
+    for (const TagRow& row : m_tags.rows())
+        if (row.mark.film == m_chosen->film && row.mark.seconds > m_chosen->seconds)
+            end = std::min(end, row.mark.seconds);
     m_desk.clips.play({{m_chosen->seconds, end}});
 }
 

@@ -1,12 +1,20 @@
 #pragma once
 
+#include "desktop/shell/tables/column_model.h"
 #include "desktop/taking/notes/note_page.h"
 
 class QCheckBox;
 class QComboBox;
-class QTableWidget;
 
 namespace kavela::desktop {
+
+class ColumnTable;
+
+/// A tag on the run's own film.
+struct TagRow {
+    LaneMark mark;
+    double seconds = 0; ///< of the run
+};
 
 /// The coach's own tags. Names are those of the file, the ones saved for reuse, or typed anew; the
 /// one chosen last is remembered.
@@ -39,8 +47,8 @@ private:
 
     QComboBox* m_name;
     QCheckBox* m_justPart;
-    QTableWidget* m_table;
-    std::vector<LaneMark> m_tags; ///< as in the table
+    ColumnModel<TagRow> m_tags;
+    ColumnTable* m_table;
     std::optional<LaneMark> m_chosen;
     bool m_isTaken = false; ///< the name that stands there was taken by Enter
 };
