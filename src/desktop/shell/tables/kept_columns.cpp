@@ -24,6 +24,10 @@ QStringList firstLayout(const QAbstractItemModel& model) {
 
 KeptColumns::KeptColumns(QTableView& table) : QObject(&table), m_table(table) {}
 
+Workspace* KeptColumns::workspace() const {
+    return m_workspace;
+}
+
 void KeptColumns::remember(Workspace& workspace, const QString& key) {
     m_workspace = &workspace;
     m_firstLayout = columnLayout(m_table);

@@ -27,7 +27,7 @@ public:
     /// The choice of what is shown.
     void fill(QMenu& menu);
     /// Null before remember().
-    [[nodiscard]] Workspace* workspace() const { return m_workspace; }
+    [[nodiscard]] Workspace* workspace() const;
 
 public slots:
     /// The coach has moved or hidden one.
