@@ -106,11 +106,12 @@ TEST_F(MotionWindowTest, LaysRecordingsOverEachOtherAndReadsThemAtTheCursor) {
     EXPECT_EQ(charts.chart(CurveKind::Roll)->view(), std::pair(5.0, 10.0));
     charts.chart(CurveKind::Forward)->showCursorAt(6);
     EXPECT_EQ(charts.chart(CurveKind::Roll)->cursor(), 6);
-    EXPECT_EQ(m_window.values().item(0, 0)->text(), "0:06.00");
+    const QAbstractItemModel& values = *m_window.values().model();
+    EXPECT_EQ(values.index(0, 0).data(), "0:06.00");
     charts.chart(CurveKind::Forward)->showCursorAt(12);
-    const int stroke = m_window.values().rowCount() - 4;
+    const int stroke = values.rowCount() - 4;
     const auto at = [&](int row, int column) {
-        return m_window.values().item(row, column)->text().toStdString();
+        return values.index(row, column).data().toString().toStdString();
     };
     EXPECT_THAT(at(stroke, 1), testing::StartsWith("side unknown, "));
     EXPECT_EQ(at(stroke + 1, 1), "–") << "nor its force";
@@ -123,7 +124,7 @@ TEST_F(MotionWindowTest, LaysRecordingsOverEachOtherAndReadsThemAtTheCursor) {
 
     recordings().setTicked(0, false);
     EXPECT_THAT(charts.chart(CurveKind::Forward)->series(), SizeIs(1));
-    EXPECT_EQ(m_window.values().columnCount(), 1);
+    EXPECT_EQ(values.columnCount(), 1);
 }
 
 TEST_F(MotionWindowTest, ABrokenFileLeavesTheListAsItWas) {

@@ -5,6 +5,7 @@
 #include "desktop/charts/sensor_chart.h"
 #include "desktop/race/motion_panel.h"
 #include "desktop/race/race_view.h"
+#include "desktop/shell/tables/column_table.h"
 #include "desktop/shell/workspace.h"
 #include "sample/recordings.h"
 #include "sample/training.h"
@@ -17,7 +18,6 @@
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QTabWidget>
-#include <QTableWidget>
 #include <QTest>
 
 namespace kavela::test {
@@ -214,15 +214,16 @@ TEST(MotionPanel, TellsStrokesSpeedAndHeartAlongTheSections) {
     view.side().setCurrentWidget(&view.motion());
     QApplication::processEvents();
     view.motion().showRuns({0, 1});
-    const QTableWidget& table = view.motion().table();
+    const desktop::ColumnTable& shown = view.motion().table();
+    const QAbstractItemModel& table = *shown.model();
     const RunMotion motion = runMotion(sample::gateLaps().athletes[0], sample::gateLaps().info);
     ASSERT_GT(table.rowCount(), 2);
     EXPECT_EQ(table.rowCount(), static_cast<int>(motion.sections.size()) + 1);
-    const int strokes = table.item(table.rowCount() - 1, 1)->text().toInt();
+    const int strokes = table.index(table.rowCount() - 1, 1).data().toInt();
     EXPECT_NEAR(strokes, motion.seconds * 80 / 60, 5);
     EXPECT_THAT(view.motion().speedChart().series(), SizeIs(2));
     view.motion().showRuns({2}); // a lap without a recording
-    EXPECT_FALSE(table.isVisible());
+    EXPECT_FALSE(shown.isVisible());
     EXPECT_THAT(recorder.alerts, IsEmpty());
 
     // The recorder was started in the second section and lost some seconds of the last one.
@@ -241,7 +242,7 @@ TEST(MotionPanel, TellsStrokesSpeedAndHeartAlongTheSections) {
     view.motion().forget();
     view.motion().showRuns({0});
     const auto strokesOf = [&](std::size_t row) {
-        return table.item(static_cast<int>(row), 1)->text().toStdString();
+        return table.index(static_cast<int>(row), 1).data().toString().toStdString();
     };
     EXPECT_EQ(strokesOf(0), "–") << "not 0: nobody looked";
     EXPECT_THAT(strokesOf(1), ::testing::MatchesRegex("[0-9]+\\*"));

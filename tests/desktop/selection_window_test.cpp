@@ -3,6 +3,7 @@
 #include "common/json_encode.h"
 #include "common/recorders.h"
 #include "common/temp_folder.h"
+#include "desktop/people/found_lines_view.h"
 #include "desktop/selection/athlete_dialog.h"
 #include "desktop/selection/take_over_dialog.h"
 #include "desktop/shell/tables/column_table.h"
@@ -262,8 +263,11 @@ TEST_F(SelectionWindowTest, ShowsWhatAFileWouldChangeAndWhoseRunsAreByHand) {
                 const auto choice = std::ranges::find(choices, whose) - choices.begin();
                 lines.setData(lines.index(line, lines.whoseColumn()), int(choice), Qt::EditRole);
             };
+            dialog->view().choose(3, lines.whoseColumn());
             choose(3, Belonging::toPerson(1));
             ASSERT_EQ(lines.rowCount(), 4) << "one has a run now";
+            EXPECT_EQ(dialog->view().currentPlace(), 2) << "the cursor stays with its line";
+            EXPECT_THAT(dialog->view().copiedText().toStdString(), HasSubstr("\t91.00\t88.00\t"));
             EXPECT_EQ(cell(2, lines.wasColumn()), "91.00");
             EXPECT_EQ(cell(2, lines.nowColumn()), "88.00");
             EXPECT_THAT(cell(2, lines.remarkColumn()), HasSubstr("place 1, was 2"));

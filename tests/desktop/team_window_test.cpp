@@ -442,7 +442,7 @@ TEST_F(TeamWindowTest, GivesCrewsToAthletesByHandAndAddsThem) {
         auto& view = dialog.view();
         const auto choose = [&](int row, int down) {
             view.setFocus();
-            view.setCurrentIndex(dialog.lines().index(row, dialog.lines().whoseColumn()));
+            view.choose(row, dialog.lines().whoseColumn());
             QTest::keyClick(&view, Qt::Key_F2);
             const auto combos = view.findChildren<QComboBox*>("whose");
             ASSERT_FALSE(combos.isEmpty());

@@ -5,14 +5,18 @@
 #include "desktop/shell/shown_number.h"
 #include "desktop/shell/theme.h"
 
+#include <QEvent>
 #include <QHeaderView>
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace kavela::desktop {
 
 namespace {
+
+const QString Nothing = QStringLiteral("–");
 
 const Stroke* strokeAt(const MotionAnalysis& analysis, double stamp, std::size_t& index) {
     const auto after = std::ranges::upper_bound(analysis.strokes, stamp, {}, &Stroke::catchTime);
@@ -35,49 +39,88 @@ QString sideText(std::int64_t hand) {
     return hand == RightHand ? CursorTable::tr("right") : CursorTable::tr("side unknown");
 }
 
-QString strokeText(const MotionAnalysis& analysis, double stamp, int row) {
-    std::size_t index = 0;
-    const Stroke* const stroke = strokeAt(analysis, stamp, index);
-    if (!stroke)
-        return QStringLiteral("–");
-    switch (row) {
-    case 0:
-        return CursorTable::tr("%1, %2").arg(sideText(stroke->values.hand),
-                                             QString::number(qRound(analysis.strokeRates[index])));
-    case 1:
-        return analysis.hasForce() ? QString::number(qRound(stroke->values.force))
-                                   : QStringLiteral("–");
-    default:
-        return analysis.hasForce() ? QString::number(qRound(stroke->values.power))
-                                   : QStringLiteral("–");
-    }
+using Text = std::function<QString(const MotionRecording& recording, double time)>;
+
+/// What the stroke at a moment says; nothing between strokes.
+template <class Says>
+Text ofStroke(Says says) {
+    return [says](const MotionRecording& recording, double time) {
+        std::size_t index = 0;
+        const MotionAnalysis* const analysis = recording.analysis.get();
+        const Stroke* const stroke =
+            analysis ? strokeAt(*analysis, time + recording.facts.first, index) : nullptr;
+        return stroke ? says(*analysis, *stroke, index) : Nothing;
+    };
 }
 
-QString turnText(const MotionAnalysis& analysis, double stamp) {
-    const Turn* const turn = turnAt(analysis, stamp);
+QString sideAndRate(const MotionAnalysis& analysis, const Stroke& stroke, std::size_t index) {
+    return CursorTable::tr("%1, %2").arg(sideText(stroke.values.hand),
+                                         QString::number(qRound(analysis.strokeRates[index])));
+}
+
+/// A value that needs the force.
+Text ofForce(double smartStraight_v3::*value) {
+    return ofStroke([value](const MotionAnalysis& analysis, const Stroke& stroke, std::size_t) {
+        return analysis.hasForce() ? QString::number(qRound(stroke.values.*value)) : Nothing;
+    });
+}
+
+QString turnText(const MotionRecording& recording, double time) {
+    const Turn* const turn =
+        recording.analysis ? turnAt(*recording.analysis, time + recording.facts.first) : nullptr;
     if (!turn)
-        return QStringLiteral("–");
+        return Nothing;
     return CursorTable::tr("%1 %2°, %3 s")
         .arg(turn->angle > 0 ? CursorTable::tr("left") : CursorTable::tr("right"))
         .arg(qRound(std::abs(turn->angle) * DegreesPerRadian))
         .arg(shownNumber(turn->values.rotationTime, 1));
 }
 
-constexpr int StrokeRows = 3;
-constexpr int EventRows = StrokeRows + 1;
+QString curveText(const Curve& curve, double time) {
+    if (curve.isEmpty())
+        return Nothing;
+    const auto value =
+        valueAt({.name = {}, .unit = {}, .times = curve.times, .values = curve.values}, time);
+    return value ? sensorText(*value) : Nothing;
+}
+
+std::vector<CursorRow> rowsOf(const std::vector<CurveKind>& kinds) {
+    std::vector<CursorRow> rows;
+    rows.push_back({CursorTable::tr("Time"),
+                    [](const MotionRecording&, double time) { return momentText(time); }});
+    for (const CurveKind kind : kinds)
+        rows.push_back({QStringLiteral("%1 (%2)").arg(shortTitleOf(kind), unitOf(kind)),
+                        [kind](const MotionRecording& recording, double time) {
+                            return curveText(recording.curve(kind), time);
+                        }});
+    rows.push_back({CursorTable::tr("Stroke, rate"), ofStroke(sideAndRate)});
+    rows.push_back({CursorTable::tr("Force (N)"), ofForce(&smartStraight_v3::force)});
+    rows.push_back({CursorTable::tr("Power (W)"), ofForce(&smartStraight_v3::power)});
+    rows.push_back({CursorTable::tr("Turn"), turnText});
+    return rows;
+}
 
 } // namespace
 
-CursorTable::CursorTable(QWidget* parent) : QTableWidget(parent) {
+CursorTable::CursorTable(QWidget* parent)
+    : CursorTable(new Values({}, [](const CursorRow& row) { return row.title; }), parent) {}
+
+CursorTable::CursorTable(Values* values, QWidget* parent)
+    : ColumnTable(*values, "", parent), m_values(values) {
+    values->setParent(this);
+    values->setRowTitles([values](int place) {
+        return place < 0 ? QString() : values->row(place).title; // one is just leaving
+    });
     setAccessibleName(tr("Values at the cursor"));
-    setEditTriggers(NoEditTriggers);
+    setSelectionBehavior(SelectItems);
     setSelectionMode(ContiguousSelection);
-    setShowGrid(false);
-    setAlternatingRowColors(true);
+    setSortingEnabled(false);
+    QHeaderView* const titles = horizontalHeader();
+    titles->setSectionsMovable(false);
+    titles->setSectionResizeMode(QHeaderView::Stretch);
+    titles->setTextElideMode(Qt::ElideMiddle); // names differ at their ends
+    verticalHeader()->show();
     verticalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
-    horizontalHeader()->setTextElideMode(Qt::ElideMiddle); // names differ at their ends
-    horizontalHeader()->setHighlightSections(false);
     verticalHeader()->setHighlightSections(false);
     setFont(theme::captionFont(*this));
     const int height = fontMetrics().height() + theme::SmallSpacing;
@@ -85,72 +128,39 @@ CursorTable::CursorTable(QWidget* parent) : QTableWidget(parent) {
     verticalHeader()->setDefaultSectionSize(height);
 }
 
+/// A column that was hidden would else hide another recording.
 void CursorTable::setContent(std::vector<std::shared_ptr<MotionRecording>> recordings,
-                             std::vector<CurveKind> kinds) {
-    m_recordings = std::move(recordings);
-    m_kinds = std::move(kinds);
-    layOut();
-    showAt(m_time);
+                             const std::vector<CurveKind>& kinds) {
+    const bool isOther = std::exchange(m_recordings, std::move(recordings)) != m_recordings;
+    showColumns();
+    for (int column = 0; isOther && column < m_values->columnCount(); ++column)
+        showColumn(column);
+    m_values->show(m_recordings.empty() ? std::vector<CursorRow>() : rowsOf(kinds));
 }
 
-void CursorTable::layOut() {
-    setColumnCount(static_cast<int>(m_recordings.size()));
-    setRowCount(m_recordings.empty() ? 0 : static_cast<int>(m_kinds.size()) + EventRows + 1);
-    QStringList rows{tr("Time")};
-    for (const CurveKind kind : m_kinds)
-        rows << QStringLiteral("%1 (%2)").arg(shortTitleOf(kind), unitOf(kind));
-    rows << tr("Stroke, rate") << tr("Force (N)") << tr("Power (W)") << tr("Turn");
-    setVerticalHeaderLabels(rows);
-    for (int column = 0; column < columnCount(); ++column) {
-        const MotionRecording& recording = *m_recordings[static_cast<std::size_t>(column)];
-        auto* head = new QTableWidgetItem(recording.label);
-        head->setForeground(seriesStyle(recording.slot, palette()).colour);
-        head->setToolTip(recording.label);
-        setHorizontalHeaderItem(column, head);
-        for (int row = 0; row < rowCount(); ++row) {
-            auto* cell = new QTableWidgetItem;
-            cell->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
-            setItem(row, column, cell);
-        }
-    }
-}
-
-QString CursorTable::textAt(int row, const MotionRecording& recording, double time) const {
-    const double own = time - recording.shift;
-    if (row == 0)
-        return momentText(own);
-    const auto kind = static_cast<std::size_t>(row) - 1;
-    if (kind < m_kinds.size()) {
-        const Curve& curve = recording.curve(m_kinds[kind]);
-        if (curve.isEmpty())
-            return QStringLiteral("–");
-        const auto value =
-            valueAt({.name = {}, .unit = {}, .times = curve.times, .values = curve.values}, own);
-        return value ? sensorText(*value) : QStringLiteral("–");
-    }
-    if (!recording.analysis)
-        return QStringLiteral("–");
-    const int event = row - 1 - static_cast<int>(m_kinds.size());
-    const double stamp = own + recording.facts.first;
-    return event < StrokeRows ? strokeText(*recording.analysis, stamp, event)
-                              : turnText(*recording.analysis, stamp);
+void CursorTable::showColumns() {
+    Values::Columns columns;
+    for (const auto& recording : m_recordings)
+        columns.push_back({.title = recording->label,
+                           .tip = recording->label,
+                           .colour = seriesStyle(recording->slot, palette()).colour,
+                           .kind = ColumnKind::Number,
+                           .show = [this, recording](const CursorRow& row) {
+                               return Cell{m_time ? row.text(*recording, *m_time - recording->shift)
+                                                  : QString()};
+                           }});
+    m_values->setColumns(std::move(columns));
 }
 
 void CursorTable::showAt(std::optional<double> time) {
     m_time = time;
-    for (int column = 0; column < columnCount(); ++column)
-        for (int row = 0; row < rowCount(); ++row)
-            item(row, column)
-                ->setText(time ? textAt(row, *m_recordings[static_cast<std::size_t>(column)], *time)
-                               : QString());
+    m_values->refresh();
 }
 
 void CursorTable::changeEvent(QEvent* event) {
-    QTableWidget::changeEvent(event);
-    if (event->type() == QEvent::PaletteChange) {
-        layOut();
-        showAt(m_time);
-    }
+    ColumnTable::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange)
+        showColumns();
 }
 
 } // namespace kavela::desktop

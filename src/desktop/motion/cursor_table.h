@@ -1,14 +1,26 @@
 #pragma once
 
 #include "desktop/motion/motion_recording.h"
+#include "desktop/shell/tables/column_model.h"
+#include "desktop/shell/tables/column_table.h"
 
-#include <QTableWidget>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <vector>
 
 namespace kavela::desktop {
 
+/// One line of what recordings say at a moment.
+struct CursorRow {
+    QString title;
+    /// Of a recording, at a moment of its own axis.
+    std::function<QString(const MotionRecording& recording, double time)> text;
+};
+
 /// What the ticked recordings say at the cursor: a row for each curve and for the stroke or turn
 /// there, a column for each recording.
-class CursorTable : public QTableWidget {
+class CursorTable : public ColumnTable {
     Q_OBJECT
 
 public:
@@ -16,7 +28,7 @@ public:
 
     /// Which recordings and curves are shown; the values follow with showAt().
     void setContent(std::vector<std::shared_ptr<MotionRecording>> recordings,
-                    std::vector<CurveKind> kinds);
+                    const std::vector<CurveKind>& kinds);
     /// A moment of the common axis, or nothing when the cursor is nowhere.
     void showAt(std::optional<double> time);
 
@@ -24,11 +36,13 @@ protected:
     void changeEvent(QEvent* event) override;
 
 private:
-    void layOut();
-    [[nodiscard]] QString textAt(int row, const MotionRecording& recording, double time) const;
+    using Values = ColumnModel<CursorRow, QString>;
 
+    CursorTable(Values* values, QWidget* parent);
+    void showColumns();
+
+    Values* m_values;
     std::vector<std::shared_ptr<MotionRecording>> m_recordings;
-    std::vector<CurveKind> m_kinds;
     std::optional<double> m_time;
 };
 

@@ -82,16 +82,16 @@ void MotionActions::makeRecordingMenu() {
     menu->addSeparator();
     add(
         *menu, tr("&Previous recording"), QKeySequence(Qt::Key_PageUp),
-        [window] { window->moveChoice(-1); }, hasAny);
+        [window] { window->list().moveChoice(-1); }, hasAny);
     add(
         *menu, tr("&Next recording"), QKeySequence(Qt::Key_PageDown),
-        [window] { window->moveChoice(1); }, hasAny);
+        [window] { window->list().moveChoice(1); }, hasAny);
     add(
-        *menu, tr("&Show or hide"), QKeySequence(Qt::Key_T), [window] { window->tickCurrent(); },
-        hasAny);
+        *menu, tr("&Show or hide"), QKeySequence(Qt::Key_T),
+        [window] { window->list().tickCurrent(); }, hasAny);
     add(
         *menu, tr("Show this one a&lone"), QKeySequence(Qt::SHIFT | Qt::Key_T),
-        [window] { window->showCurrentAlone(); }, hasAny);
+        [window] { window->list().showCurrentAlone(); }, hasAny);
     add(
         *menu, tr("&Remove from the list"), QKeySequence::Delete,
         [window] { window->removeCurrent(); }, hasAny);

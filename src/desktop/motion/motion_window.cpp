@@ -27,8 +27,10 @@ namespace kavela::desktop {
 
 MotionWindow::MotionWindow(Workspace& workspace)
     : ToolWindow(workspace, nullptr, {"motion", tr("Recordings"), "kvb"}),
-      m_recordings(workspace.log()) {
+      m_recordings(workspace.log()),
+      m_conversions(new MotionConversions(m_recordings, workspace, *this)) {
     makeParts();
+    m_alignment = new MotionAlignment(m_recordings, *m_list, *m_charts, this);
     m_actions = new MotionActions(*this, workspace);
     connectParts();
     showChoice();
@@ -37,6 +39,7 @@ MotionWindow::MotionWindow(Workspace& workspace)
 
 MotionWindow::~MotionWindow() {
     m_recordings.disconnect(this);
+    m_conversions->disconnect(this);
     m_list->disconnect(this);
     m_charts->disconnect(this);
 }
@@ -150,7 +153,9 @@ void MotionWindow::connectParts() {
     connect(&m_recordings, &MotionRecordings::analysisChanged, this, &MotionWindow::showChoice);
     connect(&m_recordings, &MotionRecordings::shiftsChanged, this, &MotionWindow::showChoice);
     connect(&m_recordings, &MotionRecordings::ticksChanged, this, &MotionWindow::showChoice);
-    connect(&m_recordings, &MotionRecordings::converted, this, &MotionWindow::showConverted);
+    connect(m_conversions, &MotionConversions::began, this, &MotionWindow::showConverting);
+    connect(m_conversions, &MotionConversions::ended, this, &MotionWindow::showConverted);
+    connect(m_alignment, &MotionAlignment::told, this, &MotionWindow::tell);
     connect(m_list, &RecordingList::chosen, this, &MotionWindow::showChoice);
     connect(m_panel, &RecordingPanel::shiftEntered, this, [this](double seconds) {
         if (const auto index = m_list->current())
@@ -229,11 +234,15 @@ void MotionWindow::showChoice() {
     showValues();
 }
 
-void MotionWindow::showValues() {
+std::vector<MotionRecordings::Recording> MotionWindow::ticked() const {
     std::vector<MotionRecordings::Recording> ticked;
     std::ranges::copy_if(m_recordings.all(), std::back_inserter(ticked),
                          [](const auto& recording) { return recording->data.shows; });
-    m_values->setContent(std::move(ticked), m_charts->shownKinds());
+    return ticked;
+}
+
+void MotionWindow::showValues() {
+    m_values->setContent(ticked(), m_charts->shownKinds());
     if (m_actions)
         m_actions->refresh();
 }
@@ -246,6 +255,39 @@ void MotionWindow::showTitle() {
     if (all.size() > 1)
         name = tr("%1 and %2 more").arg(name).arg(all.size() - 1);
     setWindowTitle(name + QStringLiteral(" – Kavela"));
+}
+
+void MotionWindow::removeCurrent() {
+    m_list->removeCurrent();
+}
+
+void MotionWindow::convertCurrent() {
+    if (const auto index = m_list->current())
+        m_conversions->add({m_recordings.all()[*index]});
+}
+
+void MotionWindow::convertTicked() {
+    m_conversions->add(ticked());
+}
+
+void MotionWindow::showConverting() {
+    tell(conversion_messages::Converting);
+    m_progress->setRange(0, 0);
+    m_progress->show();
+}
+
+void MotionWindow::showConverted(const QString& text, const QString& path) {
+    m_progress->hide();
+    tell(text);
+    if (path.isEmpty())
+        return;
+    m_openConverted->show();
+    emit convertedTo(path);
+}
+
+void MotionWindow::openConverted() {
+    if (hasConverted())
+        emit openRequested({m_conversions->last()});
 }
 
 void MotionWindow::tell(const QString& text) {

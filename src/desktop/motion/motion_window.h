@@ -1,10 +1,9 @@
 #pragma once
 
-#include "boatmotion/conversion.h"
+#include "desktop/motion/motion_alignment.h"
+#include "desktop/motion/motion_conversions.h"
 #include "desktop/motion/motion_recordings.h"
 #include "desktop/shell/tool_window.h"
-
-#include <functional>
 
 class QLabel;
 class QProgressBar;
@@ -46,28 +45,22 @@ public:
 
     void chooseFiles();
     void removeCurrent();
-    void tickCurrent();
-    void showCurrentAlone();
-    void moveChoice(int step);
 
     void convertCurrent();
     /// One after the other.
     void convertTicked();
     void openConverted();
-    [[nodiscard]] bool hasConverted() const { return !m_lastConverted.isEmpty(); }
+    [[nodiscard]] bool hasConverted() const { return !m_conversions->last().isEmpty(); }
 
-    void alignStarts();
-    /// Puts every recording where its date says, beside the first ticked one.
-    void alignByClock();
-    /// Moves the chosen recording so that its moment at the cursor comes to the clicked one.
-    void alignHere();
-    void shiftCurrent(double seconds);
-    /// The cursor to the next stroke of the chosen recording, or the one before.
-    void goToStroke(int step);
+    // See MotionAlignment.
+    void alignStarts() { m_alignment->alignStarts(); }
+    void alignByClock() { m_alignment->alignByClock(); }
+    void alignHere() { m_alignment->alignHere(); }
+    void shiftCurrent(double seconds) { m_alignment->shiftCurrent(seconds); }
+    void goToStroke(int step) { m_alignment->goToStroke(step); }
 
-    /// Asks for the name of a further file in place of a dialog, as in tests; empty for none.
-    using AskName = std::function<QString(const QString& prompt, const QString& proposed)>;
-    void setAskName(AskName ask) { m_askName = std::move(ask); }
+    /// See MotionConversions.
+    void setAskName(MotionConversions::AskName ask) { m_conversions->setAskName(std::move(ask)); }
 
 signals:
     /// A processed session was written.
@@ -83,22 +76,16 @@ private:
     [[nodiscard]] QWidget* makeSide();
     [[nodiscard]] QWidget* makeEmptyPage();
     void connectParts();
+    [[nodiscard]] std::vector<MotionRecordings::Recording> ticked() const;
     void showChoice();
     void showValues();
     void showTitle();
     void showReading(const QString& name, int number, int count);
-    void convertNext();
-    /// Where a recording goes; nothing when the coach wants none.
-    [[nodiscard]] std::optional<std::filesystem::path> askTarget(const MotionRecording& recording);
-    [[nodiscard]] QString askName(const QString& prompt, const QString& proposed);
-    void showConverted(const Conversion& conversion);
+    void showConverting();
+    void showConverted(const QString& text, const QString& path);
     void tell(const QString& text);
 
     MotionRecordings m_recordings;
-    AskName m_askName;
-    std::deque<MotionRecordings::Recording> m_toConvert;
-    bool m_isConverting = false;
-    QString m_lastConverted;
 
     QStackedWidget* m_pages;
     QWidget* m_side;
@@ -111,6 +98,8 @@ private:
     QPushButton* m_openConverted;
     QPushButton* m_convert;
     QPushButton* m_convertAll;
+    MotionConversions* m_conversions;
+    MotionAlignment* m_alignment = nullptr;
     MotionActions* m_actions = nullptr;
 };
 

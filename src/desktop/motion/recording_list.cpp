@@ -163,6 +163,27 @@ void RecordingList::choose(std::size_t index) {
     setCurrentRow(static_cast<int>(index));
 }
 
+void RecordingList::moveChoice(int step) {
+    if (count() > 0)
+        setCurrentRow(std::clamp(currentRow() + step, 0, count() - 1));
+}
+
+void RecordingList::removeCurrent() {
+    if (const auto index = current())
+        m_recordings.remove(*index);
+}
+
+void RecordingList::tickCurrent() {
+    if (const auto index = current())
+        m_recordings.setTicked(*index, !m_recordings.all()[*index]->data.shows);
+}
+
+void RecordingList::showCurrentAlone() {
+    const auto index = current();
+    for (std::size_t i = 0; index && i < m_recordings.all().size(); ++i)
+        m_recordings.setTicked(i, i == *index);
+}
+
 void RecordingList::fill() {
     const int before = currentRow();
     {

@@ -30,6 +30,11 @@ public:
     /// The recording that the menus and fields act on.
     [[nodiscard]] std::optional<std::size_t> current() const;
     void choose(std::size_t index);
+    void moveChoice(int step);
+
+    void removeCurrent();
+    void tickCurrent();
+    void showCurrentAlone();
 
 signals:
     void chosen();

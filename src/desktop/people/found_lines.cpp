@@ -1,42 +1,90 @@
 #include "desktop/people/found_lines.h"
 
-#include "desktop/shell/theme.h"
 #include "results/name_likeness.h"
 
-#include <QApplication>
-#include <QFont>
+#include <map>
+#include <utility>
 
 namespace kavela::desktop {
 
+namespace {
+
+/// A text may be longer than its column. What stays out is quiet.
+Cell cellOf(const FoundLine& line, const QString& text) {
+    return {
+        .text = text, .tip = text, .look = line.isTaken() ? Cell::Look::Plain : Cell::Look::Quiet};
+}
+
+Cell nameCell(const FoundLine& line) {
+    Cell cell = cellOf(line, line.name);
+    cell.isTicked = line.tick;
+    return cell;
+}
+
+Cell nowCell(const FoundLine& line) {
+    Cell cell = cellOf(line, line.now);
+    if (line.isTaken())
+        cell.look = Cell::Look::Bold;
+    return cell;
+}
+
+} // namespace
+
 FoundLines::FoundLines(FoundTitles titles, std::vector<KnownPerson> people, QObject* parent)
-    : QAbstractTableModel(parent), m_titles(std::move(titles)), m_people(std::move(people)) {
+    : ColumnModel({}, &FoundLine::key, parent),
+      m_titles(std::move(titles)),
+      m_people(std::move(people)) {
     for (const KnownPerson& person : m_people)
         m_names.push_back(person.name);
+    setColumns(columns());
 }
 
-/// A model that is reset closes the editor in a cell, so it is only where lines came or went.
+FoundLines::Columns FoundLines::columns() {
+    Columns columns;
+    columns.push_back({.title = tr("In the file"),
+                       .show = nameCell,
+                       .tick = [this](const QString& key, const FoundLine&, bool isTaken) {
+                           emit ticked(placeOfKey(key), isTaken);
+                       }});
+    for (qsizetype fact = 0; fact < m_titles.facts.size(); ++fact)
+        columns.push_back({.title = m_titles.facts[fact], .show = [fact](const FoundLine& line) {
+                               return cellOf(line, line.facts.value(fact));
+                           }});
+    columns.push_back({.title = m_titles.whose,
+                       .show =
+                           [this](const FoundLine& line) {
+                               Cell cell = cellOf(line, whoseText(line));
+                               cell.isLocked = !line.isChosenByHand;
+                               return cell;
+                           },
+                       .take = [this](const QString& key, const FoundLine&,
+                                      const QString& typed) { choose(placeOfKey(key), typed); }});
+    columns.push_back(
+        {.title = tr("Was"), .show = [](const FoundLine& line) { return cellOf(line, line.was); }});
+    columns.push_back({.title = tr("Will be"), .show = nowCell});
+    columns.push_back({.title = QString(),
+                       .show = [](const FoundLine& line) { return cellOf(line, line.remark); }});
+    return columns;
+}
+
+/// Whose a line is tells lines apart only where that stays. Those that say the same are counted.
 void FoundLines::setLines(std::vector<FoundLine> lines) {
-    if (lines.size() == m_lines.size()) {
-        m_lines = std::move(lines);
-        if (!m_lines.empty())
-            emit dataChanged(index(0, 0), index(rowCount() - 1, columnCount() - 1));
-        return;
+    std::map<QString, int> met;
+    for (FoundLine& line : lines) {
+        line.key = line.name + '\n' + line.facts.join('\n') + '\n';
+        if (!line.isChosenByHand)
+            line.key += whoseText(line);
+        line.key += '\n' + QString::number(met[line.key]++);
     }
-    beginResetModel();
-    m_lines = std::move(lines);
-    endResetModel();
+    show(std::move(lines));
 }
 
-const FoundLine& FoundLines::line(int row) const {
-    return m_lines.at(static_cast<std::size_t>(row));
-}
-
-std::vector<Belonging> FoundLines::choicesFor(int row) const {
+std::vector<Belonging> FoundLines::choicesFor(int line) const {
     std::vector<Belonging> choices{{}};
     if (!m_titles.add.isEmpty())
         choices.push_back(Belonging::toNewPerson());
-    for (const std::size_t person : byLikeness(line(row).name.toStdString(), m_names))
-        if (!m_mayBe || m_mayBe(row, person))
+    for (const std::size_t person : byLikeness(row(line).name.toStdString(), m_names))
+        if (!m_mayBe || m_mayBe(line, person))
             choices.push_back(Belonging::toPerson(person));
     return choices;
 }
@@ -47,101 +95,36 @@ QString FoundLines::personText(std::size_t person) const {
     return known.detail.isEmpty() ? name : name + " (" + known.detail + ')';
 }
 
-QString FoundLines::choiceText(int row, const Belonging& whose) const {
+QString FoundLines::choiceText(int line, const Belonging& whose) const {
     switch (whose.to) {
     case Belonging::To::Person:
         return personText(whose.person);
     case Belonging::To::NewPerson:
-        return m_titles.add.arg(line(row).name);
+        return m_titles.add.arg(row(line).name);
     case Belonging::To::Nobody:
         break;
     }
     return m_titles.leaveOut;
 }
 
-int FoundLines::rowCount(const QModelIndex& parent) const {
-    return parent.isValid() ? 0 : static_cast<int>(m_lines.size());
-}
-
-int FoundLines::columnCount(const QModelIndex& parent) const {
-    return parent.isValid() ? 0 : remarkColumn() + 1;
-}
-
-QString FoundLines::text(int row, int column) const {
-    const FoundLine& shown = line(row);
-    if (column == nameColumn())
-        return shown.name;
-    if (column < whoseColumn())
-        return shown.facts.value(column - 1);
-    if (column == wasColumn())
-        return shown.was;
-    if (column == nowColumn())
-        return shown.now;
-    if (column == remarkColumn())
-        return shown.remark;
-    if (shown.whose.to == Belonging::To::Nobody)
-        return m_titles.nobody;
-    return shown.whose.to == Belonging::To::NewPerson ? tr("new: %1").arg(shown.name)
-                                                      : personText(shown.whose.person);
-}
-
-QVariant FoundLines::data(const QModelIndex& index, int role) const {
-    const int row = index.row();
-    switch (role) {
-    case Qt::DisplayRole:
-    case Qt::ToolTipRole:
-        return text(row, index.column());
-    case Qt::CheckStateRole:
-        if (index.column() != nameColumn() || !line(row).tick)
-            return {};
-        return isTaken(row) ? Qt::Checked : Qt::Unchecked;
-    case Qt::ForegroundRole:
-        return isTaken(row) ? QVariant() : QVariant(theme::quietText(QApplication::palette()));
-    case Qt::FontRole: {
-        QFont font;
-        font.setBold(true);
-        const bool isNews = index.column() == nowColumn() && isTaken(row);
-        return isNews ? QVariant(font) : QVariant();
+QString FoundLines::whoseText(const FoundLine& line) const {
+    switch (line.whose.to) {
+    case Belonging::To::Person:
+        return personText(line.whose.person);
+    case Belonging::To::NewPerson:
+        return tr("new: %1").arg(line.name);
+    case Belonging::To::Nobody:
+        break;
     }
-    default:
-        return {};
-    }
+    return m_titles.nobody;
 }
 
-QVariant FoundLines::headerData(int section, Qt::Orientation orientation, int role) const {
-    if (orientation != Qt::Horizontal || role != Qt::DisplayRole)
-        return {};
-    if (section == nameColumn())
-        return tr("In the file");
-    if (section < whoseColumn())
-        return m_titles.facts.value(section - 1);
-    return QStringList{m_titles.whose, tr("Was"), tr("Will be"), QString()}.value(section -
-                                                                                  whoseColumn());
-}
-
-Qt::ItemFlags FoundLines::flags(const QModelIndex& index) const {
-    Qt::ItemFlags flags = Qt::ItemIsEnabled | Qt::ItemIsSelectable;
-    if (index.column() == nameColumn() && line(index.row()).tick)
-        flags |= Qt::ItemIsUserCheckable;
-    if (index.column() == whoseColumn() && line(index.row()).isChosenByHand)
-        flags |= Qt::ItemIsEditable;
-    return flags;
-}
-
-bool FoundLines::setData(const QModelIndex& index, const QVariant& value, int role) {
-    const int row = index.row();
-    if (role == Qt::CheckStateRole && line(row).tick) {
-        emit ticked(row, value.toInt() == Qt::Checked);
-        return true;
-    }
-    if (role != Qt::EditRole || index.column() != whoseColumn())
-        return false;
-    const std::vector<Belonging> choices = choicesFor(row);
-    const auto choice = static_cast<std::size_t>(value.toInt());
-    if (choice >= choices.size() || choices[choice] == line(row).whose)
-        return false;
-    emit chosen(row, choices[choice]);
-    return true;
+void FoundLines::choose(int line, const QString& typed) {
+    const std::vector<Belonging> choices = choicesFor(line);
+    bool isNumber = false;
+    const std::size_t choice = typed.toUInt(&isNumber);
+    if (isNumber && choice < choices.size() && choices[choice] != row(line).whose)
+        emit chosen(line, choices[choice]);
 }
 
 } // namespace kavela::desktop

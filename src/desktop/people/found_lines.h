@@ -1,8 +1,8 @@
 #pragma once
 
 #include "desktop/people/belonging.h"
+#include "desktop/shell/tables/column_model.h"
 
-#include <QAbstractTableModel>
 #include <QStringList>
 
 #include <functional>
@@ -28,6 +28,9 @@ struct FoundLine {
     QString was{};               ///< what would be replaced; empty where there is nothing
     QString now{};               ///< what would stand there; empty where nothing changes
     QString remark{};            ///< why it stays out, or what to know before it is taken over
+    QString key{};               ///< tells it from the others; FoundLines gives it
+
+    [[nodiscard]] bool isTaken() const { return tick.value_or(false); }
 };
 
 /// What the columns and the choices are called.
@@ -40,8 +43,9 @@ struct FoundTitles {
 };
 
 /// The lines of a file before anything of it is taken over: what was found, whose it is, what it
-/// would replace. The owner of the model answers what is ticked and chosen with new lines.
-class FoundLines : public QAbstractTableModel {
+/// would replace. The owner of the model answers what is ticked and chosen with new lines. Whose a
+/// line is, is typed as the number of a choice.
+class FoundLines : public ColumnModel<FoundLine, QString> {
     Q_OBJECT
 
 public:
@@ -51,8 +55,8 @@ public:
     FoundLines(FoundTitles titles, std::vector<KnownPerson> people, QObject* parent = nullptr);
 
     void setMayBe(MayBe mayBe) { m_mayBe = std::move(mayBe); }
+    /// A line that says the same as before is the same one, whosever it is now.
     void setLines(std::vector<FoundLine> lines);
-    [[nodiscard]] const std::vector<FoundLine>& lines() const { return m_lines; }
 
     [[nodiscard]] static constexpr int nameColumn() { return 0; }
     [[nodiscard]] int whoseColumn() const { return 1 + static_cast<int>(m_titles.facts.size()); }
@@ -64,31 +68,20 @@ public:
     [[nodiscard]] std::vector<Belonging> choicesFor(int line) const;
     [[nodiscard]] QString choiceText(int line, const Belonging& whose) const;
 
-    [[nodiscard]] QString personText(std::size_t person) const;
-
-    [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
-    [[nodiscard]] int columnCount(const QModelIndex& parent = {}) const override;
-    [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
-    [[nodiscard]] QVariant headerData(int section, Qt::Orientation orientation,
-                                      int role) const override;
-    [[nodiscard]] Qt::ItemFlags flags(const QModelIndex& index) const override;
-    /// A tick, or with the edit role the number of a choice.
-    bool setData(const QModelIndex& index, const QVariant& value, int role) override;
-
 signals:
     void ticked(int line, bool isTaken);
     void chosen(int line, const kavela::desktop::Belonging& whose);
 
 private:
-    [[nodiscard]] const FoundLine& line(int row) const;
-    [[nodiscard]] QString text(int row, int column) const;
-    [[nodiscard]] bool isTaken(int row) const { return line(row).tick.value_or(false); }
+    [[nodiscard]] Columns columns();
+    void choose(int line, const QString& typed);
+    [[nodiscard]] QString whoseText(const FoundLine& line) const;
+    [[nodiscard]] QString personText(std::size_t person) const;
 
     FoundTitles m_titles;
     std::vector<KnownPerson> m_people;
     std::vector<std::string> m_names; ///< of the people
     MayBe m_mayBe;
-    std::vector<FoundLine> m_lines;
 };
 
 } // namespace kavela::desktop

@@ -18,26 +18,14 @@ constexpr int WidestColumn = 220;
 } // namespace
 
 FoundLinesView::FoundLinesView(FoundLines& lines, QWidget* parent)
-    : EditOrder(parent), m_lines(lines) {
-    setObjectName("lines");
-    setModel(&lines);
-    setItemDelegateForColumn(lines.whoseColumn(), new PersonDelegate(this));
-    setEditTriggers(DoubleClicked | EditKeyPressed | AnyKeyPressed);
-    setSelectionBehavior(SelectRows);
+    : ColumnTable(lines, "lines", parent), m_lines(lines) {
+    setItemDelegateForColumn(lines.whoseColumn(), new PersonDelegate(lines, *this));
     setSelectionMode(SingleSelection);
-    setShowGrid(false);
-    setWordWrap(false);
-    verticalHeader()->hide();
-    verticalHeader()->setDefaultSectionSize(fontMetrics().height() + theme::Spacing);
-    horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    horizontalHeader()->setHighlightSections(false);
+    setAlternatingRowColors(false);
+    keepOrder();
+    horizontalHeader()->setSectionResizeMode(QHeaderView::Interactive);
     horizontalHeader()->setStretchLastSection(true);
     connect(this, &QTableView::clicked, this, &FoundLinesView::openChoice);
-    connect(&lines, &QAbstractItemModel::modelAboutToBeReset, this, [this] {
-        m_current = currentIndex().siblingAtColumn(FoundLines::nameColumn()).data().toString();
-        m_column = currentIndex().column();
-    });
-    connect(&lines, &QAbstractItemModel::modelReset, this, &FoundLinesView::keepCurrent);
 }
 
 void FoundLinesView::fitColumns() {
@@ -50,14 +38,12 @@ void FoundLinesView::fitColumns() {
         setColumnWidth(column, std::max(columnWidth(column), result));
 }
 
+/// Where there is nothing to tick, Space opens the choice as other keys do.
 void FoundLinesView::keyPressEvent(QKeyEvent* event) {
     const QModelIndex tick = currentIndex().siblingAtColumn(FoundLines::nameColumn());
-    if (event->key() == Qt::Key_Space && tick.flags().testFlag(Qt::ItemIsUserCheckable)) {
-        const bool isTaken = tick.data(Qt::CheckStateRole).toInt() == Qt::Checked;
-        m_lines.setData(tick, isTaken ? Qt::Unchecked : Qt::Checked, Qt::CheckStateRole);
-        return;
-    }
-    EditOrder::keyPressEvent(event);
+    if (event->key() == Qt::Key_Space && !tick.flags().testFlag(Qt::ItemIsUserCheckable))
+        return EditOrder::keyPressEvent(event);
+    ColumnTable::keyPressEvent(event);
 }
 
 /// A click opens the list of people at once: one click to open, one to choose.
@@ -67,14 +53,6 @@ void FoundLinesView::openChoice(const QModelIndex& index) {
     edit(index);
     if (auto* const combo = qobject_cast<QComboBox*>(indexWidget(index)))
         combo->showPopup();
-}
-
-void FoundLinesView::keepCurrent() {
-    const auto& lines = m_lines.lines();
-    const auto same = std::ranges::find(lines, m_current, &FoundLine::name);
-    const int row = same == lines.end() ? 0 : static_cast<int>(same - lines.begin());
-    if (const QModelIndex index = m_lines.index(row, m_column); index.isValid())
-        setCurrentIndex(index);
 }
 
 } // namespace kavela::desktop

@@ -1,6 +1,7 @@
 #include "desktop/people/person_delegate.h"
 
 #include "desktop/people/found_lines.h"
+#include "desktop/shell/tables/column_table.h"
 #include "desktop/shell/theme.h"
 
 #include <QApplication>
@@ -15,10 +16,6 @@ namespace kavela::desktop {
 namespace {
 
 constexpr int ArrowWidth = theme::LargeSpacing;
-
-const FoundLines* linesOf(const QModelIndex& index) {
-    return qobject_cast<const FoundLines*>(index.model());
-}
 
 /// Arrows and letters only look through the choices; Enter, leaving the cell, or a choice from the
 /// open list means one.
@@ -41,6 +38,9 @@ private:
 
 } // namespace
 
+PersonDelegate::PersonDelegate(const FoundLines& lines, ColumnTable& table)
+    : QStyledItemDelegate(&table), m_lines(lines), m_table(table) {}
+
 /// An arrow tells which cells hold a choice.
 void PersonDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
                            const QModelIndex& index) const {
@@ -60,13 +60,11 @@ QSize PersonDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelI
 
 QWidget* PersonDelegate::createEditor(QWidget* parent, const QStyleOptionViewItem& /*option*/,
                                       const QModelIndex& index) const {
-    const FoundLines* const lines = linesOf(index);
-    if (!lines)
-        return nullptr;
+    const int line = m_table.placeAt(index);
     auto* const combo = new PeopleCombo(parent);
     combo->setObjectName("whose");
-    for (const Belonging& whose : lines->choicesFor(index.row()))
-        combo->addItem(lines->choiceText(index.row(), whose));
+    for (const Belonging& whose : m_lines.choicesFor(line))
+        combo->addItem(m_lines.choiceText(line, whose));
     connect(combo, &QComboBox::activated, this, [this, combo] {
         if (combo->isBrowsing())
             return;
@@ -78,9 +76,9 @@ QWidget* PersonDelegate::createEditor(QWidget* parent, const QStyleOptionViewIte
 }
 
 void PersonDelegate::setEditorData(QWidget* editor, const QModelIndex& index) const {
-    const auto choices = linesOf(index)->choicesFor(index.row());
-    const auto& whose = linesOf(index)->lines().at(static_cast<std::size_t>(index.row())).whose;
-    const auto found = std::ranges::find(choices, whose);
+    const int line = m_table.placeAt(index);
+    const auto choices = m_lines.choicesFor(line);
+    const auto found = std::ranges::find(choices, m_lines.row(line).whose);
     if (auto* const combo = qobject_cast<QComboBox*>(editor); combo && found != choices.end())
         combo->setCurrentIndex(static_cast<int>(found - choices.begin()));
 }

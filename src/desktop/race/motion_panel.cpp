@@ -3,11 +3,10 @@
 #include "desktop/charts/sensor_chart.h"
 #include "desktop/race/race_document.h"
 #include "desktop/shell/shown_number.h"
+#include "desktop/shell/tables/column_table.h"
 #include "desktop/shell/theme.h"
 
-#include <QHeaderView>
 #include <QLabel>
-#include <QTableWidget>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -19,8 +18,6 @@ namespace {
 
 constexpr std::size_t MostRuns = 4; ///< whose curves can be told apart at this size
 constexpr std::size_t MarkSlot = 6;
-
-enum MotionColumn { PartColumn, StrokesColumn, RateColumn, SpeedColumn, HeartColumn, ColumnCount };
 
 constexpr QChar PartMark = u'*'; ///< behind what is told of a part of a section alone
 const QString Unknown = QStringLiteral("–");
@@ -62,21 +59,51 @@ QLabel* wrappedLabel(const QFont& font) {
     return label;
 }
 
-QTableWidget* makeMotionTable() {
-    auto* table = new QTableWidget(0, ColumnCount);
-    table->setObjectName("motion");
-    table->setHorizontalHeaderLabels({MotionPanel::tr("Section"), MotionPanel::tr("Strokes"),
-                                      MotionPanel::tr("1/min"), MotionPanel::tr("m/s"),
-                                      MotionPanel::tr("Heart")});
-    table->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    table->setSelectionMode(QAbstractItemView::NoSelection);
-    table->setFocusPolicy(Qt::NoFocus);
-    table->setShowGrid(false);
-    table->verticalHeader()->setDefaultSectionSize(table->fontMetrics().height() + theme::Spacing);
-    table->verticalHeader()->hide();
-    table->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
-    table->horizontalHeader()->setSectionResizeMode(PartColumn, QHeaderView::Stretch);
-    return table;
+bool isPart(const NamedSection& section) {
+    return section.motion.cover == MotionCover::Part;
+}
+
+QString coverText(const NamedSection& section) {
+    const SectionMotion& motion = section.motion;
+    if (isPart(section))
+        return MotionPanel::tr("%1 s of %2 s are recorded.")
+            .arg(QString::number(motion.covered, 'f', 1),
+                 QString::number(motion.end - motion.start, 'f', 1));
+    return motion.strokes ? QString() : MotionPanel::tr("Nothing of it is recorded.");
+}
+
+/// What is counted along a section says whether all of it was.
+template <class Number>
+Cell countedCell(const NamedSection& section, const std::optional<Number>& number) {
+    QString text = numberOrDash(number);
+    if (isPart(section) && text != Unknown)
+        text += PartMark;
+    return {.text = text, .tip = coverText(section)};
+}
+
+Cell speedCell(const NamedSection& section) {
+    const SectionMotion& motion = section.motion;
+    return {.text = numberOrDash(motion.meanSpeed, 2),
+            .tip = MotionPanel::tr("greatest %1 m/s, %2 m")
+                       .arg(numberOrDash(motion.maxSpeed, 2), numberOrDash(motion.distance))};
+}
+
+ColumnModel<NamedSection>::Columns motionColumns() {
+    constexpr ColumnKind Number = ColumnKind::Number;
+    const auto strokes = [](const NamedSection& section) {
+        return countedCell(section, section.motion.strokes);
+    };
+    const auto rate = [](const NamedSection& section) {
+        return countedCell(section, section.motion.strokeRate);
+    };
+    const auto heart = [](const NamedSection& section) {
+        return Cell{.text = numberOrDash(section.motion.heartRate)};
+    };
+    return {textColumn<NamedSection>(MotionPanel::tr("Section"), &NamedSection::title),
+            {.title = MotionPanel::tr("Strokes"), .kind = Number, .show = strokes},
+            {.title = MotionPanel::tr("1/min"), .kind = Number, .show = rate},
+            {.title = MotionPanel::tr("m/s"), .kind = Number, .show = speedCell},
+            {.title = MotionPanel::tr("Heart"), .kind = Number, .show = heart}};
 }
 
 } // namespace
@@ -86,15 +113,18 @@ MotionPanel::MotionPanel(RaceDocument& document, QWidget* parent)
       m_document(document),
       m_name(wrappedLabel(theme::titleFont(*this))),
       m_note(wrappedLabel(theme::captionFont(*this))),
-      m_sections(makeMotionTable()),
+      m_sections(motionColumns(), RowsKnownBy::Number),
+      m_table(new ColumnTable(m_sections, "motion")),
       m_speed(new SensorChart),
       m_rate(new SensorChart),
       m_heart(new SensorChart) {
+    m_table->setOnlyShown();
+    m_table->stretch({0});
     auto* column = new QVBoxLayout(this);
     column->setSpacing(theme::Spacing);
     column->addWidget(m_name);
     column->addWidget(m_note);
-    column->addWidget(m_sections, 2);
+    column->addWidget(m_table, 2);
     const std::array charts{m_speed, m_rate, m_heart};
     const std::array titles{tr("Speed"), tr("Stroke rate"), tr("Heart rate")};
     for (std::size_t i = 0; i < charts.size(); ++i) {
@@ -150,8 +180,7 @@ void MotionPanel::refresh() {
             recorded.push_back(run);
     }
     const bool isShown = !recorded.empty();
-    for (QWidget* part :
-         std::initializer_list<QWidget*>{m_name, m_sections, m_speed, m_rate, m_heart})
+    for (QWidget* part : std::initializer_list<QWidget*>{m_name, m_table, m_speed, m_rate, m_heart})
         part->setVisible(isShown);
     m_note->setForegroundRole(isShown ? QPalette::WindowText : QPalette::PlaceholderText);
     if (!isShown) {
@@ -164,32 +193,6 @@ void MotionPanel::refresh() {
     }
     fillTable(recorded.front());
     fillCharts(recorded);
-}
-
-void MotionPanel::addRow(int row, const QString& title, const SectionMotion& section) {
-    const bool isPart = section.cover == MotionCover::Part;
-    const auto counted = [isPart](const QString& number) {
-        return isPart && number != Unknown ? number + PartMark : number;
-    };
-    const QStringList texts{title, counted(numberOrDash(section.strokes)),
-                            counted(numberOrDash(section.strokeRate)),
-                            numberOrDash(section.meanSpeed, 2), numberOrDash(section.heartRate)};
-    for (int column = 0; column < ColumnCount; ++column) {
-        auto* item = new QTableWidgetItem(texts[column]);
-        if (column != PartColumn)
-            item->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
-        m_sections->setItem(row, column, item);
-    }
-    const QString cover = isPart ? tr("%1 s of %2 s are recorded.")
-                                       .arg(QString::number(section.covered, 'f', 1),
-                                            QString::number(section.end - section.start, 'f', 1))
-                          : section.strokes ? QString()
-                                            : tr("Nothing of it is recorded.");
-    for (const int column : {StrokesColumn, RateColumn})
-        m_sections->item(row, column)->setToolTip(cover);
-    m_sections->item(row, SpeedColumn)
-        ->setToolTip(tr("greatest %1 m/s, %2 m")
-                         .arg(numberOrDash(section.maxSpeed, 2), numberOrDash(section.distance)));
 }
 
 void MotionPanel::fillTable(std::size_t run) {
@@ -206,13 +209,11 @@ void MotionPanel::fillTable(std::size_t run) {
     notes.removeAll(QString());
     m_note->setText(notes.join('\n'));
     m_note->setVisible(!notes.isEmpty());
-    m_sections->setRowCount(static_cast<int>(motion.sections.size()) + 1);
-    int row = 0;
-    for (const SectionMotion& section : motion.sections) {
-        addRow(row, sectionTitle(static_cast<std::size_t>(row)), section);
-        ++row;
-    }
-    addRow(row, tr("Run"), motion.whole);
+    std::vector<NamedSection> sections;
+    for (const SectionMotion& section : motion.sections)
+        sections.push_back({sectionTitle(sections.size()), section});
+    sections.push_back({tr("Run"), motion.whole});
+    m_sections.show(std::move(sections));
 }
 
 void MotionPanel::fillCharts(const std::vector<std::size_t>& runs) {

@@ -1,18 +1,25 @@
 #pragma once
 
 #include "analysis/run_motion.h"
+#include "desktop/shell/tables/column_model.h"
 
 #include <QWidget>
 
 #include <map>
 
 class QLabel;
-class QTableWidget;
 
 namespace kavela::desktop {
 
+class ColumnTable;
 class RaceDocument;
 class SensorChart;
+
+/// A section of a run, or the whole run.
+struct NamedSection {
+    QString title;
+    SectionMotion motion;
+};
 
 /// What the recordings attached to the selected runs tell, along the sections: strokes, stroke
 /// rate, speed and heart rate of the first of them in a table, of all of them as curves over the
@@ -28,7 +35,7 @@ public:
     /// The runs are other ones.
     void forget();
 
-    [[nodiscard]] const QTableWidget& table() const { return *m_sections; }
+    [[nodiscard]] const ColumnTable& table() const { return *m_table; }
     [[nodiscard]] const SensorChart& speedChart() const { return *m_speed; }
 
 protected:
@@ -38,7 +45,6 @@ private:
     void refresh();
     void fillTable(std::size_t run);
     void fillCharts(const std::vector<std::size_t>& runs);
-    void addRow(int row, const QString& title, const SectionMotion& section);
     [[nodiscard]] const RunMotion& motionOf(std::size_t run);
     [[nodiscard]] QString sectionTitle(std::size_t section) const;
 
@@ -47,7 +53,8 @@ private:
     std::map<std::size_t, RunMotion> m_motions;
     QLabel* m_name;
     QLabel* m_note;
-    QTableWidget* m_sections;
+    ColumnModel<NamedSection> m_sections;
+    ColumnTable* m_table;
     SensorChart* m_speed;
     SensorChart* m_rate;
     SensorChart* m_heart;

@@ -1,96 +1,77 @@
-#include "desktop/selection/selection_window.h"
+#include "desktop/selection/selection_edits.h"
 
 #include "desktop/selection/athlete_dialog.h"
+#include "desktop/selection/selection_document.h"
 #include "desktop/shell/qt_text.h"
-#include "desktop/shell/tables/column_layout.h"
-#include "desktop/shell/tables/column_table.h"
-#include "desktop/shell/tables/table_text.h"
 #include "desktop/shell/workspace.h"
 #include "results/messages.h"
+#include "results/selection_edit.h"
 #include "results/team_records.h"
 
-#include <QApplication>
-#include <QClipboard>
-#include <QFileDialog>
-#include <QFileInfo>
 #include <QInputDialog>
-#include <QMenuBar>
-#include <QPushButton>
 
-#include <numeric>
-
-/// What the menus of the selection do to its document.
 namespace kavela::desktop {
 
-void SelectionWindow::makeMenus() {
-    makeReportMenu(*makeFileMenu());
-    QMenu* edit = makeEditMenu();
-    edit->addAction(tr("Make times of 0 &missing results"), this,
-                    &SelectionWindow::makeZerosMissing);
-    edit->addAction(tr("&Copy the table"), QKeySequence::Copy, this, &SelectionWindow::copyTable);
-    edit->addAction(tr("&What if"), QKeySequence(Qt::Key_W), this, [this] { m_whatIf->toggle(); });
-    makeRaceMenu();
-    makeAthleteMenu();
-    finishMenus([this] {
-        Commands commands;
-        const auto& categories = m_document.shown().categories;
-        for (std::size_t category = 0; category < categories.size(); ++category)
-            for (const srAthleteStruct_v3& athlete : categories[category].athletes)
-                commands.push_back(
-                    {qtText(athlete.name), qtText(categories[category].cat), {}, [this, category] {
-                         showCategory(category);
-                     }});
-        return commands;
+SelectionEdits::SelectionEdits(SelectionDocument& document, Workspace& workspace, QWidget& window)
+    : m_document(document), m_workspace(workspace), m_window(window) {}
+
+void SelectionEdits::refuse(const QString& reason) {
+    m_workspace.showAlert({"", reason.toStdString()}, &m_window);
+}
+
+bool SelectionEdits::hasRace() {
+    if (!m_document.shown().races.empty())
+        return true;
+    m_workspace.showAlert({messages::Careful, messages::AddARaceFirst}, &m_window);
+    return false;
+}
+
+void SelectionEdits::askForNewRace() {
+    const QString location = QInputDialog::getText(&m_window, tr("Race"), tr("Race location"));
+    if (!location.trimmed().isEmpty())
+        addRace(location.trimmed());
+}
+
+void SelectionEdits::addRace(const QString& location) {
+    m_document.change(tr("race added"), [&](selectionracesStruct_v3& document) {
+        kavela::addRace(document, location.toStdString());
     });
 }
 
-void SelectionWindow::makeRaceMenu() {
-    QMenu* menu = menuBar()->addMenu(tr("&Races"));
-    menu->addAction(tr("&Add a race…"), QKeySequence(Qt::CTRL | Qt::Key_R), this, [this] {
-        const QString location = QInputDialog::getText(this, tr("Race"), tr("Race location"));
-        if (!location.trimmed().isEmpty())
-            addRace(location.trimmed());
-    });
-    menu->addAction(tr("&Rename a race…"), this, &SelectionWindow::renameRace);
-    menu->addAction(tr("Remo&ve a race…"), this, &SelectionWindow::removeRace);
-    menu->addSeparator();
-    menu->addAction(tr("Results from &split files…"), QKeySequence(Qt::CTRL | Qt::Key_I), this,
-                    &SelectionWindow::askForSplitFiles);
-    menu->addAction(tr("Results from a &list (position, total, penalty)…"), this,
-                    [this] { askForResults(ResultLayout::ComaMode, messages::ComaModeHelp); });
-    menu->addAction(tr("Results from a list with &categories and clubs…"), this,
-                    [this] { askForResults(ResultLayout::Tacen, messages::TacenHelp); });
+std::optional<std::size_t> SelectionEdits::askForRace(const QString& title) {
+    if (!hasRace())
+        return std::nullopt;
+    QStringList names;
+    for (const sRaceStruct& race : m_document.shown().races)
+        names.append(tr("%1. %2").arg(names.size() + 1).arg(qtText(race.location)));
+    bool isChosen = false;
+    const QString name =
+        QInputDialog::getItem(&m_window, title, tr("Race"), names, 0, false, &isChosen);
+    return isChosen ? std::optional(static_cast<std::size_t>(names.indexOf(name))) : std::nullopt;
 }
 
-void SelectionWindow::makeAthleteMenu() {
-    QMenu* menu = menuBar()->addMenu(tr("&Athletes"));
-    menu->addAction(tr("Add a &category…"), QKeySequence(Qt::CTRL | Qt::Key_G), this,
-                    [this] { (void)askForCategory(); });
-    menu->addAction(tr("&Add an athlete…"), QKeySequence(Qt::CTRL | Qt::Key_N), this,
-                    &SelectionWindow::askForAthlete);
-    menu->addAction(tr("&Edit the athlete…"), QKeySequence(Qt::CTRL | Qt::Key_Return), this,
-                    &SelectionWindow::editAthlete);
-    menu->addAction(tr("&Remove the athlete"), QKeySequence(Qt::CTRL | Qt::Key_Delete), this,
-                    &SelectionWindow::removeAthlete);
-    menu->addSeparator();
-    menu->addAction(tr("&Import athletes…"), this, [this] {
-        const QString path = QFileDialog::getOpenFileName(this, tr("Import athletes"),
-                                                          QFileInfo(m_document.path()).path(),
-                                                          tr("Lists (*.csv *.txt);;All files (*)"));
-        if (!path.isEmpty())
-            importAthletesFrom(path);
-    });
-    menu->addAction(tr("&How a list has to look"), this, [this] {
-        workspace().showAlert({messages::ImportHelpTitle, messages::ImportHelp}, this);
-    });
-    for (int category = 1; category <= 9; ++category)
-        addAction(tr("Category %1").arg(category),
-                  QKeySequence(Qt::ALT | static_cast<Qt::Key>(Qt::Key_0 + category)), this,
-                  [this, category] { showCategory(static_cast<std::size_t>(category - 1)); });
+void SelectionEdits::renameRace() {
+    const auto race = askForRace(tr("Rename which race?"));
+    if (!race)
+        return;
+    const QString location =
+        QInputDialog::getText(&m_window, tr("Race"), tr("Race location"), QLineEdit::Normal,
+                              qtText(m_document.shown().races[*race].location));
+    if (!location.trimmed().isEmpty())
+        m_document.change(tr("race renamed"), [&](selectionracesStruct_v3& document) {
+            document.races[*race].location = location.trimmed().toStdString();
+        });
 }
 
-/// The categories of the sport are offered; a selection may have others. False when none was added.
-bool SelectionWindow::askForCategory() {
+void SelectionEdits::removeRace() {
+    const auto race = askForRace(tr("Remove which race?"));
+    if (race)
+        m_document.change(tr("race removed"), [&](selectionracesStruct_v3& document) {
+            kavela::removeRace(document, *race);
+        });
+}
+
+bool SelectionEdits::askForCategory() {
     QStringList known;
     for (const char* category : team::Categories)
         known.append(category);
@@ -98,38 +79,55 @@ bool SelectionWindow::askForCategory() {
         known.removeAll(qtText(category.cat));
     bool isGiven = false;
     const QString label = QInputDialog::getItem(
-        this, tr("Category"), tr("Category of the athletes"), known, 0, true, &isGiven);
+        &m_window, tr("Category"), tr("Category of the athletes"), known, 0, true, &isGiven);
     if (!isGiven || label.trimmed().isEmpty())
         return false;
     addCategory(label.trimmed());
     return true;
 }
 
-/// An athlete needs a race and a category: what is missing is asked for first.
-void SelectionWindow::askForAthlete() {
+void SelectionEdits::addCategory(const QString& label) {
+    std::size_t index = 0;
+    m_document.change(tr("category added"), [&](selectionracesStruct_v3& document) {
+        index = categoryIndex(document, label.toStdString());
+    });
+    emit categoryAdded(index);
+}
+
+void SelectionEdits::askForAthlete(std::size_t category) {
     if (!hasRace() || (m_document.shown().categories.empty() && !askForCategory()))
         return;
     AthleteDialog dialog({}, preselectionGroups(m_document.shown()), bonusKinds(m_document.shown()),
-                         this);
+                         &m_window);
     if (dialog.exec() == QDialog::Accepted && !dialog.athlete().name.empty())
-        addAthlete(dialog.athlete());
+        addAthlete(category, dialog.athlete());
 }
 
-void SelectionWindow::editAthlete() {
-    const int place = m_table->currentPlace();
-    if (place < 0)
+void SelectionEdits::addAthlete(std::size_t category, const NewAthlete& athlete) {
+    if (!hasRace())
         return;
-    const std::size_t category = m_model.category();
-    const std::size_t index = m_model.row(place).standing.athlete;
-    const srAthleteStruct_v3& before = m_document.shown().categories[category].athletes[index];
+    const auto& categories = m_document.shown().categories;
+    if (categories.empty())
+        return refuse(tr("Add a category first."));
+    if (hasAthlete(categories[category], athlete.name))
+        return refuse(tr("%1 is in this category already.").arg(qtText(athlete.name)));
+    m_document.change(tr("athlete added"), [&](selectionracesStruct_v3& document) {
+        (void)kavela::addAthlete(document, category, athlete);
+    });
+    emit athleteAdded(m_document.shown().categories[category].athletes.size() - 1);
+}
+
+void SelectionEdits::editAthlete(const AthletePlace& place) {
+    const srAthleteStruct_v3& before =
+        m_document.shown().categories[place.category].athletes[place.athlete];
     AthleteDialog dialog(
         {before.name, before.year, before.club, before.preselected, before.bonuses},
-        preselectionGroups(m_document.shown()), bonusKinds(m_document.shown()), this);
+        preselectionGroups(m_document.shown()), bonusKinds(m_document.shown()), &m_window);
     if (dialog.exec() != QDialog::Accepted)
         return;
     const NewAthlete after = dialog.athlete();
     m_document.change(tr("athlete"), [&](selectionracesStruct_v3& document) {
-        srAthleteStruct_v3& athlete = document.categories[category].athletes[index];
+        srAthleteStruct_v3& athlete = document.categories[place.category].athletes[place.athlete];
         athlete.name = after.name;
         athlete.year = after.birthYear;
         athlete.club = after.club;
@@ -138,66 +136,20 @@ void SelectionWindow::editAthlete() {
     });
 }
 
-void SelectionWindow::removeAthlete() {
-    const int place = m_table->currentPlace();
-    if (place < 0)
-        return;
-    const std::size_t category = m_model.category();
-    const auto index = static_cast<std::ptrdiff_t>(m_model.row(place).standing.athlete);
+void SelectionEdits::removeAthlete(const AthletePlace& place) {
     m_document.change(tr("athlete removed"), [&](selectionracesStruct_v3& document) {
-        auto& athletes = document.categories[category].athletes;
-        athletes.erase(athletes.begin() + index);
+        auto& athletes = document.categories[place.category].athletes;
+        athletes.erase(athletes.begin() + static_cast<std::ptrdiff_t>(place.athlete));
     });
 }
 
-std::optional<std::size_t> SelectionWindow::askForRace(const QString& title) {
-    if (!hasRace())
-        return std::nullopt;
-    QStringList names;
-    for (const sRaceStruct& race : m_document.shown().races)
-        names.append(tr("%1. %2").arg(names.size() + 1).arg(qtText(race.location)));
-    bool isChosen = false;
-    const QString name = QInputDialog::getItem(this, title, tr("Race"), names, 0, false, &isChosen);
-    return isChosen ? std::optional(static_cast<std::size_t>(names.indexOf(name))) : std::nullopt;
-}
-
-void SelectionWindow::renameRace() {
-    const auto race = askForRace(tr("Rename which race?"));
-    if (!race)
-        return;
-    const QString location =
-        QInputDialog::getText(this, tr("Race"), tr("Race location"), QLineEdit::Normal,
-                              qtText(m_document.shown().races[*race].location));
-    if (!location.trimmed().isEmpty())
-        m_document.change(tr("race renamed"), [&](selectionracesStruct_v3& document) {
-            document.races[*race].location = location.trimmed().toStdString();
-        });
-}
-
-void SelectionWindow::removeRace() {
-    const auto race = askForRace(tr("Remove which race?"));
-    if (race)
-        m_document.change(tr("race removed"), [&](selectionracesStruct_v3& document) {
-            kavela::removeRace(document, *race);
-        });
-}
-
-void SelectionWindow::makeZerosMissing() {
+void SelectionEdits::makeZerosMissing() {
     const auto zeros = zeroResults(m_document.shown());
     if (!zeros.empty())
         m_document.change(tr("times of 0"), [&](selectionracesStruct_v3& document) {
             for (const ResultPlace& place : zeros)
                 clearResult(document, place);
         });
-}
-
-void SelectionWindow::copyTable() {
-    m_model.orderAnew();
-    const QAbstractItemModel& shown = *m_table->model();
-    QList<int> rows(shown.rowCount());
-    std::iota(rows.begin(), rows.end(), 0);
-    QApplication::clipboard()->setText(
-        tableAsText(shown, rows, shownColumns(*m_table), clipboardTable()));
 }
 
 } // namespace kavela::desktop

@@ -1,9 +1,11 @@
 #include "desktop/selection/selection_window.h"
 
-#include "desktop/selection/athlete_dialog.h"
+#include "desktop/selection/selection_reports.h"
 #include "desktop/selection/why_panel.h"
 #include "desktop/shell/qt_text.h"
+#include "desktop/shell/tables/column_layout.h"
 #include "desktop/shell/tables/column_table.h"
+#include "desktop/shell/tables/table_text.h"
 #include "desktop/shell/theme.h"
 #include "desktop/shell/window_place.h"
 #include "desktop/shell/workspace.h"
@@ -11,27 +13,28 @@
 #include "results/selection_file.h"
 
 #include <QApplication>
+#include <QClipboard>
 #include <QComboBox>
 #include <QDate>
-#include <QDialogButtonBox>
 #include <QHBoxLayout>
-#include <QInputDialog>
 #include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
-#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QSplitter>
 #include <QTabBar>
 
 #include <algorithm>
+#include <numeric>
 
 namespace kavela::desktop {
 
 SelectionWindow::SelectionWindow(Workspace& workspace, Autosave autosave)
     : ToolWindow(workspace, &m_document, {"selection", tr("Selection races"), "kvsr"}),
       m_document(workspace, std::move(autosave)),
-      m_model(m_document) {
+      m_model(m_document),
+      m_edits(m_document, workspace, *this),
+      m_takeOver(m_document, m_model, m_edits, workspace, *this) {
     m_table = new ColumnTable(m_model, "ranking");
     m_table->setSelectionBehavior(QAbstractItemView::SelectItems);
     m_table->addCommand(tr("Copy the table"), QKeySequence::Copy, [this] { copyTable(); });
@@ -52,6 +55,8 @@ SelectionWindow::SelectionWindow(Workspace& workspace, Autosave autosave)
     setCentralWidget(page);
     makeMenus();
     connect(&m_document, &SelectionDocument::changed, this, &SelectionWindow::showDocument);
+    connect(&m_edits, &SelectionEdits::categoryAdded, this, &SelectionWindow::showCategory);
+    connect(&m_edits, &SelectionEdits::athleteAdded, this, &SelectionWindow::chooseAthlete);
     connect(m_table, &ColumnTable::chosen, this, &SelectionWindow::showWhy);
     connect(m_table, &ColumnTable::shownChanged, this, &SelectionWindow::showWhy);
     connect(m_table->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
@@ -71,6 +76,75 @@ SelectionWindow::~SelectionWindow() {
     m_table->disconnect(this);
     m_document.disconnect(this);
     m_model.disconnect(this);
+}
+
+void SelectionWindow::makeMenus() {
+    makeFileMenu()->addAction(tr("&Reports: preview, PDF, print…"), QKeySequence::Print, this,
+                              [this] { previewSelection(m_document, workspace(), *this); });
+    QMenu* edit = makeEditMenu();
+    edit->addAction(tr("Make times of 0 &missing results"), &m_edits,
+                    &SelectionEdits::makeZerosMissing);
+    edit->addAction(tr("&Copy the table"), QKeySequence::Copy, this, &SelectionWindow::copyTable);
+    edit->addAction(tr("&What if"), QKeySequence(Qt::Key_W), this, [this] { m_whatIf->toggle(); });
+    makeRaceMenu();
+    makeAthleteMenu();
+    finishMenus([this] {
+        Commands commands;
+        const auto& categories = m_document.shown().categories;
+        for (std::size_t category = 0; category < categories.size(); ++category)
+            for (const srAthleteStruct_v3& athlete : categories[category].athletes)
+                commands.push_back(
+                    {qtText(athlete.name), qtText(categories[category].cat), {}, [this, category] {
+                         showCategory(category);
+                     }});
+        return commands;
+    });
+}
+
+void SelectionWindow::makeRaceMenu() {
+    QMenu* menu = menuBar()->addMenu(tr("&Races"));
+    menu->addAction(tr("&Add a race…"), QKeySequence(Qt::CTRL | Qt::Key_R), &m_edits,
+                    &SelectionEdits::askForNewRace);
+    menu->addAction(tr("&Rename a race…"), &m_edits, &SelectionEdits::renameRace);
+    menu->addAction(tr("Remo&ve a race…"), &m_edits, &SelectionEdits::removeRace);
+    menu->addSeparator();
+    menu->addAction(tr("Results from &split files…"), QKeySequence(Qt::CTRL | Qt::Key_I), this,
+                    [this] { m_takeOver.askForSplitFiles(); });
+    const auto addList = [&](const QString& text, ResultLayout layout, const char* help) {
+        menu->addAction(text, this,
+                        [this, layout, help] { m_takeOver.askForResults(layout, help); });
+    };
+    addList(tr("Results from a &list (position, total, penalty)…"), ResultLayout::ComaMode,
+            messages::ComaModeHelp);
+    addList(tr("Results from a list with &categories and clubs…"), ResultLayout::Tacen,
+            messages::TacenHelp);
+}
+
+void SelectionWindow::makeAthleteMenu() {
+    QMenu* menu = menuBar()->addMenu(tr("&Athletes"));
+    menu->addAction(tr("Add a &category…"), QKeySequence(Qt::CTRL | Qt::Key_G), &m_edits,
+                    &SelectionEdits::askForCategory);
+    menu->addAction(tr("&Add an athlete…"), QKeySequence(Qt::CTRL | Qt::Key_N), this,
+                    [this] { m_edits.askForAthlete(m_model.category()); });
+    menu->addAction(tr("&Edit the athlete…"), QKeySequence(Qt::CTRL | Qt::Key_Return), this,
+                    [this] {
+                        if (const auto athlete = currentAthlete())
+                            m_edits.editAthlete(*athlete);
+                    });
+    menu->addAction(tr("&Remove the athlete"), QKeySequence(Qt::CTRL | Qt::Key_Delete), this,
+                    [this] {
+                        if (const auto athlete = currentAthlete())
+                            m_edits.removeAthlete(*athlete);
+                    });
+    menu->addSeparator();
+    menu->addAction(tr("&Import athletes…"), this, [this] { m_takeOver.askForAthletes(); });
+    menu->addAction(tr("&How a list has to look"), this, [this] {
+        workspace().showAlert({messages::ImportHelpTitle, messages::ImportHelp}, this);
+    });
+    for (int category = 1; category <= 9; ++category)
+        addAction(tr("Category %1").arg(category),
+                  QKeySequence(Qt::ALT | static_cast<Qt::Key>(Qt::Key_0 + category)), this,
+                  [this, category] { showCategory(static_cast<std::size_t>(category - 1)); });
 }
 
 QWidget* SelectionWindow::makeBar() {
@@ -155,30 +229,6 @@ void SelectionWindow::watchFocus() {
     });
 }
 
-void SelectionWindow::tell(const std::string& text) {
-    workspace().showAlert({"", text}, this);
-}
-
-/// Many lines are scrolled through: none hides behind a number.
-void SelectionWindow::tellLines(const QStringList& lines) {
-    constexpr qsizetype MostInABox = 12;
-    if (lines.size() <= MostInABox) {
-        tell(lines.join('\n').toStdString());
-        return;
-    }
-    QDialog dialog(this);
-    dialog.setWindowTitle(tr("Import"));
-    auto* text = new QPlainTextEdit(lines.join('\n'));
-    text->setReadOnly(true);
-    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Close);
-    connect(buttons, &QDialogButtonBox::rejected, &dialog, &QDialog::reject);
-    auto* column = new QVBoxLayout(&dialog);
-    column->addWidget(text);
-    column->addWidget(buttons);
-    dialog.resize(640, 420);
-    dialog.exec();
-}
-
 void SelectionWindow::showDocument() {
     const selectionracesStruct_v3& document = m_document.shown();
     m_title->setText(tr("Selection %1").arg(document.year));
@@ -251,46 +301,26 @@ void SelectionWindow::setWhatIf(bool isOn) {
     m_table->setFocus();
 }
 
-bool SelectionWindow::hasRace() {
-    if (!m_document.shown().races.empty())
-        return true;
-    workspace().showAlert({messages::Careful, messages::AddARaceFirst}, this);
-    return false;
-}
-
-void SelectionWindow::addRace(const QString& location) {
-    m_document.change(tr("race added"), [&](selectionracesStruct_v3& document) {
-        kavela::addRace(document, location.toStdString());
-    });
-}
-
-void SelectionWindow::addCategory(const QString& label) {
-    std::size_t index = 0;
-    m_document.change(tr("category added"), [&](selectionracesStruct_v3& document) {
-        index = categoryIndex(document, label.toStdString());
-    });
-    showCategory(index);
-}
-
-void SelectionWindow::addAthlete(const NewAthlete& athlete) {
-    if (!hasRace())
-        return;
-    if (m_document.shown().categories.empty()) {
-        tell(tr("Add a category first.").toStdString());
-        return;
-    }
-    const std::size_t category = m_model.category();
-    if (hasAthlete(m_document.shown().categories[category], athlete.name)) {
-        tell(tr("%1 is in this category already.").arg(qtText(athlete.name)).toStdString());
-        return;
-    }
-    m_document.change(tr("athlete added"), [&](selectionracesStruct_v3& document) {
-        (void)kavela::addAthlete(document, category, athlete);
-    });
-    const auto added =
-        static_cast<int>(m_document.shown().categories[category].athletes.size()) - 1;
-    m_table->choose(m_model.placeOfAthlete(static_cast<std::size_t>(added)),
+/// An athlete that was just added: the results are typed next.
+void SelectionWindow::chooseAthlete(std::size_t athlete) {
+    m_table->choose(m_model.placeOfAthlete(athlete),
                     RankingModel::LeadingColumns + int{RankingModel::TimeColumn});
+}
+
+std::optional<AthletePlace> SelectionWindow::currentAthlete() const {
+    const int place = m_table->currentPlace();
+    if (place < 0)
+        return std::nullopt;
+    return AthletePlace{m_model.category(), m_model.row(place).standing.athlete};
+}
+
+void SelectionWindow::copyTable() {
+    m_model.orderAnew();
+    const QAbstractItemModel& shown = *m_table->model();
+    QList<int> rows(shown.rowCount());
+    std::iota(rows.begin(), rows.end(), 0);
+    QApplication::clipboard()->setText(
+        tableAsText(shown, rows, shownColumns(*m_table), clipboardTable()));
 }
 
 /// A list dropped on the table brings athletes, split files bring results, selections are opened.
@@ -299,13 +329,12 @@ void SelectionWindow::takeFiles(const QStringList& paths) {
     QStringList others;
     for (const QString& path : paths) {
         if (path.endsWith(".csv", Qt::CaseInsensitive))
-            importAthletesFrom(path);
+            m_takeOver.importAthletesFrom(path);
         else
             (path.endsWith(".kvx", Qt::CaseInsensitive) ? splitFiles : others).append(path);
     }
     if (!splitFiles.isEmpty())
-        if (const auto race = askForRace(tr("Results of which race?")))
-            attachFiles(*race, splitFiles);
+        m_takeOver.attachFiles(splitFiles);
     if (!others.isEmpty())
         ToolWindow::takeFiles(others);
 }

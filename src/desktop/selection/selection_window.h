@@ -2,8 +2,9 @@
 
 #include "desktop/selection/ranking_model.h"
 #include "desktop/selection/selection_document.h"
+#include "desktop/selection/selection_edits.h"
+#include "desktop/selection/selection_take_over.h"
 #include "desktop/shell/tool_window.h"
-#include "results/selection_import.h"
 
 #include <QTimer>
 
@@ -36,12 +37,13 @@ public:
     [[nodiscard]] ColumnTable& table() const { return *m_table; }
 
     void showCategory(std::size_t category);
-    void addRace(const QString& location);
-    void addCategory(const QString& label);
-    void addAthlete(const NewAthlete& athlete);
-    void importAthletesFrom(const QString& path);
-    void importResultsFrom(const QString& path, std::size_t race, ResultLayout layout);
-    void attachFiles(std::size_t race, const QStringList& paths);
+    void addRace(const QString& location) { m_edits.addRace(location); }
+    void addCategory(const QString& label) { m_edits.addCategory(label); }
+    void addAthlete(const NewAthlete& athlete) { m_edits.addAthlete(m_model.category(), athlete); }
+    void importAthletesFrom(const QString& path) { m_takeOver.importAthletesFrom(path); }
+    void attachFiles(std::size_t race, const QStringList& paths) {
+        m_takeOver.attachFiles(race, paths);
+    }
     void setWhatIf(bool isOn);
 
 protected:
@@ -52,34 +54,20 @@ private:
     void makeMenus();
     void makeRaceMenu();
     void makeAthleteMenu();
-    void makeReportMenu(QMenu& menu);
     void showDocument();
     void fillCategories();
     void fillBonuses();
     void showWhy();
-    void tell(const std::string& text);
-    void tellLines(const QStringList& lines);
-    void tellUnread(const QString& path, const std::string& reason);
-    void tellImported(const ListImport& import, bool isLatin1);
-    void lookAndEnter(const QString& path, std::size_t race, FoundRuns found);
-    [[nodiscard]] bool askForCategory();
     void leaveRow();
     void watchFocus();
-    [[nodiscard]] std::optional<std::size_t> askForRace(const QString& title);
-    [[nodiscard]] bool hasRace();
-    void askForAthlete();
-    void editAthlete();
-    void removeAthlete();
-    void renameRace();
-    void removeRace();
-    void askForResults(ResultLayout layout, const char* help);
-    void askForSplitFiles();
-    void makeZerosMissing();
+    void chooseAthlete(std::size_t athlete);
+    [[nodiscard]] std::optional<AthletePlace> currentAthlete() const;
     void copyTable();
-    void preview();
 
     SelectionDocument m_document;
     RankingModel m_model;
+    SelectionEdits m_edits;
+    SelectionTakeOver m_takeOver;
     QTabBar* m_categories = nullptr;
     QComboBox* m_bonus = nullptr;
     QComboBox* m_times = nullptr;

@@ -15,6 +15,7 @@ struct Column {
     QString title;
     QString unit = {}; ///< stands in brackets behind the title
     QString tip = {};
+    QColor colour = {}; ///< of the title, where it has one
     ColumnKind kind = ColumnKind::Text;
     std::function<Cell(const Row&)> show = nullptr;
     /// Takes what was typed, without the blanks around it; only asked where it differs. Throws
@@ -98,7 +99,7 @@ private:
     static std::vector<ColumnHead> headsOf(const Columns& columns) {
         std::vector<ColumnHead> heads;
         for (const Column<Row, Key>& column : columns)
-            heads.push_back({column.title, column.unit, column.tip, column.kind,
+            heads.push_back({column.title, column.unit, column.tip, column.colour, column.kind,
                              column.take != nullptr, column.tick != nullptr});
         return heads;
     }

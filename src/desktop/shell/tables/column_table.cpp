@@ -6,6 +6,7 @@
 #include "desktop/shell/choose_alone.h"
 #include "desktop/shell/tables/column_delegate.h"
 #include "desktop/shell/tables/column_layout.h"
+#include "desktop/shell/tables/kept_columns.h"
 #include "desktop/shell/tables/sorted_rows.h"
 #include "desktop/shell/tables/table_text.h"
 #include "desktop/shell/theme.h"
@@ -61,21 +62,14 @@ protected:
     }
 };
 
-/// All columns as the model has them.
-QStringList firstLayout(const QAbstractItemModel& model) {
-    QStringList names;
-    for (int column = 0; column < model.columnCount(); ++column)
-        names.append(model.headerData(column, Qt::Horizontal, ColumnNameRole).toString());
-    return names;
-}
-
 } // namespace
 
 ColumnTable::ColumnTable(RowModel& rows, const char* name, QWidget* parent)
     : EditOrder(parent),
       m_rows(rows),
       m_shown(new SortedRows(rows, this)),
-      m_cells(new ColumnDelegate(*this)) {
+      m_cells(new ColumnDelegate(*this)),
+      m_columns(new KeptColumns(*this)) {
     setObjectName(name);
     setModel(m_shown);
     const auto& heads = rows.heads();
@@ -92,7 +86,7 @@ ColumnTable::ColumnTable(RowModel& rows, const char* name, QWidget* parent)
     makeHeader();
     connect(&rows, &RowModel::refused, this, &ColumnTable::refuse);
     connect(&rows, &RowModel::followed, this, &ColumnTable::followRows);
-    connect(&rows, &RowModel::columnsChanged, this, &ColumnTable::followColumns);
+    connect(&rows, &RowModel::columnsChanged, m_columns, &KeptColumns::follow);
     connect(m_shown, &QAbstractItemModel::modelAboutToBeReset, this, [this] {
         m_row = currentIndex().row();
         m_column = currentIndex().column();
@@ -113,8 +107,12 @@ void ColumnTable::makeHeader() {
     header->setSectionsMovable(true);
     header->setSectionResizeMode(QHeaderView::ResizeToContents);
     header->setContextMenuPolicy(Qt::CustomContextMenu);
-    connect(header, &QHeaderView::sectionMoved, this, &ColumnTable::rememberColumns);
-    connect(header, &QWidget::customContextMenuRequested, this, &ColumnTable::showColumnMenu);
+    connect(header, &QHeaderView::sectionMoved, m_columns, &KeptColumns::keep);
+    connect(header, &QWidget::customContextMenuRequested, this, [this, header](const QPoint& at) {
+        QMenu menu(this);
+        m_columns->fill(menu);
+        menu.exec(header->mapToGlobal(at));
+    });
 }
 
 void ColumnTable::setEmptyText(const QString& text) {
@@ -359,58 +357,12 @@ void ColumnTable::contextMenuEvent(QContextMenuEvent* event) {
     QAction* const copying = menu.addAction(tr("&Copy"), this, &ColumnTable::copy);
     copying->setShortcut(QKeySequence::Copy);
     menu.addAction(tr("&Save as CSV…"), this, &ColumnTable::saveCsv);
-    fillColumnMenu(*menu.addMenu(tr("C&olumns")));
+    m_columns->fill(*menu.addMenu(tr("C&olumns")));
     menu.exec(event->globalPos());
 }
 
-void ColumnTable::showColumnMenu(const QPoint& at) {
-    QMenu menu(this);
-    fillColumnMenu(menu);
-    menu.exec(horizontalHeader()->mapToGlobal(at));
-}
-
-/// The last column that is shown cannot be hidden.
-void ColumnTable::fillColumnMenu(QMenu& menu) {
-    const QList<int> shown = shownColumns(*this);
-    for (int column = 0; column < m_shown->columnCount(); ++column) {
-        const QString title = m_shown->headerData(column, Qt::Horizontal).toString();
-        QAction* const action = menu.addAction(QString(title).replace('\n', ' '));
-        action->setCheckable(true);
-        action->setChecked(shown.contains(column));
-        action->setEnabled(shown != QList{column});
-        connect(action, &QAction::toggled, this, [this, column](bool isShown) {
-            setColumnHidden(column, !isShown);
-            rememberColumns();
-        });
-    }
-    menu.addSeparator();
-    menu.addAction(tr("&All columns in their order"), this, [this] {
-        applyColumnLayout(*this, m_firstLayout);
-        rememberColumns();
-    });
-}
-
 void ColumnTable::remember(Workspace& workspace, const QString& key) {
-    m_workspace = &workspace;
-    m_firstLayout = columnLayout(*this);
-    if (const QStringList layout = workspace.remembered(key); !layout.isEmpty())
-        applyColumnLayout(*this, layout);
-    m_key = key;
-}
-
-/// Columns that came stand where they were left.
-void ColumnTable::followColumns() {
-    if (!m_workspace || m_key.isEmpty())
-        return;
-    m_firstLayout = firstLayout(m_rows);
-    const QStringList layout = m_workspace->remembered(m_key);
-    const QScopedValueRollback moved(m_key, QString()); // not by the coach: nothing to remember
-    applyColumnLayout(*this, layout.isEmpty() ? m_firstLayout : layout);
-}
-
-void ColumnTable::rememberColumns() {
-    if (m_workspace && !m_key.isEmpty())
-        m_workspace->remember(m_key, columnLayout(*this));
+    m_columns->remember(workspace, key);
 }
 
 QString ColumnTable::copiedText() const {
@@ -450,8 +402,8 @@ void ColumnTable::saveCsv() {
         writeFileSafely(path.toStdU16String(), csv().toStdString());
     } catch (const FileError& error) {
         const Alert alert{"Failed to create file", error.reason()};
-        if (m_workspace)
-            m_workspace->showAlert(alert, this);
+        if (Workspace* const workspace = m_columns->workspace())
+            workspace->showAlert(alert, this);
         else
             AlertBoxes(this).show(alert);
     }

@@ -3,18 +3,16 @@
 #include "desktop/shell/edit_order.h"
 #include "desktop/shell/tables/row_model.h"
 
-#include <QPointer>
-
 #include <functional>
 #include <initializer_list>
 
 class QAction;
-class QMenu;
 class QPushButton;
 
 namespace kavela::desktop {
 
 class ColumnDelegate;
+class KeptColumns;
 class SortedRows;
 class Workspace;
 
@@ -101,24 +99,18 @@ protected:
 private:
     void makeHeader();
     void followRows();
-    void followColumns();
     void chooseOne();
     void enable();
-    void showColumnMenu(const QPoint& at);
-    void fillColumnMenu(QMenu& menu);
-    void rememberColumns();
     void tickCurrent();
     [[nodiscard]] QAction* actionOf(const QKeyEvent& key) const;
 
     RowModel& m_rows;
     SortedRows* m_shown;
     ColumnDelegate* m_cells;
+    KeptColumns* m_columns;
     QString m_emptyText;
     QAction* m_add = nullptr;
     QAction* m_remove = nullptr;
-    QPointer<Workspace> m_workspace;
-    QString m_key; ///< where the columns are remembered
-    QStringList m_firstLayout;
     bool m_keepsOneChosen = false;
     bool m_goesDown = false;
     bool m_isFollowing = false;  ///< it finds a row to be the current one

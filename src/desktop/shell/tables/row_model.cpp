@@ -5,7 +5,7 @@
 #include "desktop/shell/typed_number.h"
 
 #include <QApplication>
-#include <QColor>
+#include <QBrush>
 #include <QFont>
 #include <QScopedValueRollback>
 
@@ -264,6 +264,8 @@ QVariant RowModel::headerData(int section, Qt::Orientation orientation, int role
         return head.tip.isEmpty() ? QVariant() : QVariant(head.tip);
     case Qt::TextAlignmentRole:
         return alignment(head.kind);
+    case Qt::ForegroundRole:
+        return head.colour.isValid() ? QVariant(QBrush(head.colour)) : QVariant();
     case ColumnNameRole:
         return columnName(section);
     default:

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QAbstractTableModel>
+#include <QColor>
 
 #include <functional>
 #include <optional>
@@ -31,6 +32,7 @@ struct ColumnHead {
     QString title;
     QString unit = {}; ///< stands in brackets behind the title
     QString tip = {};
+    QColor colour = {}; ///< of the title, where it has one
     ColumnKind kind = ColumnKind::Text;
     bool isTyped = false;
     bool isTicked = false;
