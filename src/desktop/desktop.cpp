@@ -9,6 +9,7 @@
 #include "desktop/planning/online/planning_start.h"
 #include "desktop/planning/planning_window.h"
 #include "desktop/race/race_window.h"
+#include "desktop/sessions/session_imports.h"
 #include "desktop/sessions/session_window.h"
 #include "desktop/shell/bring_to_front.h"
 #include "desktop/shell/disk_worker.h"
@@ -474,7 +475,7 @@ void Desktop::openImports(const QStringList& paths) {
         show(window);
     }
     bringToFront(*window);
-    window->takeInAll(paths);
+    window->imports().takeInAll(paths);
 }
 
 void Desktop::openRecordings(const QStringList& paths) {

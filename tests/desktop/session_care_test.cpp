@@ -9,6 +9,9 @@
 #include "desktop/sessions/grid_model.h"
 #include "desktop/sessions/information_dialog.h"
 #include "desktop/sessions/power_meter_dialog.h"
+#include "desktop/sessions/session_edits.h"
+#include "desktop/sessions/session_exports.h"
+#include "desktop/sessions/session_imports.h"
 #include "desktop/sessions/session_texts.h"
 #include "desktop/sessions/session_view.h"
 #include "desktop/sessions/test_session_window.h"
@@ -105,7 +108,7 @@ TEST_F(SessionCareTest, AnOddClockIsToldOrShownAndNothingIsHalfLoaded) {
         showEverything(*window);
         markAt(*window, {1, 2});
         EXPECT_TRUE(window->saveSessionTo(this->path("odd.bms")));
-        EXPECT_TRUE(window->saveRecording(this->path("odd_again.kvb")));
+        EXPECT_TRUE(window->exports().saveRecording(this->path("odd_again.kvb")));
     }
 }
 
@@ -133,7 +136,7 @@ TEST_F(SessionCareTest, OddProcessedSessionsAreShown) {
         showEverything(*window);
         window->view().select(MomentRange{window->replay().from(), window->replay().to()});
         (void)window->grab();
-        window->removeSelection(); // too little is left, or something is
+        window->edits().removeSelection(); // too little is left, or something is
         markAt(*window, {0, 3});
         while (window->document().undoStack().canUndo())
             press(*window, Qt::CTRL | Qt::Key_Z);
@@ -233,7 +236,7 @@ TEST_F(SessionCareTest, InformationThatNobodyChangedIsNoEdit) {
     const auto window = openDrill();
     ASSERT_TRUE(window->saveSessionTo(path("a.bms")));
     whenAsked<desktop::InformationDialog>([](auto& dialog) { dialog.accept(); });
-    window->editInformation();
+    window->edits().editInformation();
     EXPECT_FALSE(window->isWindowModified());
     whenAsked<desktop::InformationDialog>([](auto& dialog) {
         auto* const weight = dialog.template findChild<QDoubleSpinBox*>("weight");
@@ -243,7 +246,7 @@ TEST_F(SessionCareTest, InformationThatNobodyChangedIsNoEdit) {
         QTest::keyClick(weight, Qt::Key_Return);
         EXPECT_EQ(dialog.result(), QDialog::Accepted);
     });
-    window->editInformation();
+    window->edits().editInformation();
     EXPECT_EQ(window->document().value().session.info.weight, 61.5);
     press(*window, Qt::CTRL | Qt::Key_Z);
     EXPECT_FALSE(window->isWindowModified());
@@ -268,7 +271,7 @@ TEST_F(SessionCareTest, StrokesThatWereSelectedAreNotSelectedAfterUndo) {
     press(strokes, Qt::Key_Delete);
     EXPECT_THAT(window->view().figures().strokes, IsEmpty());
     press(strokes, Qt::Key_Delete);
-    window->goToStroke(1);
+    window->view().goToStroke(1);
     showEverything(*window);
     press(*window, Qt::CTRL | Qt::Key_Z);
     EXPECT_EQ(sessionOf(*window), before);
@@ -303,13 +306,14 @@ TEST_F(SessionCareTest, ASaveThatFailsKeepsWhatWasAskedAndDone) {
         QTest::keyClicks(begin, "3.5");
         QTest::keyClick(begin, Qt::Key_Return);
     });
-    ASSERT_TRUE(window->importPowerMeter(add("meter.csv", "Time;Power\n0;200\n1;210\n2;205\n")));
+    ASSERT_TRUE(
+        window->imports().importPowerMeter(add("meter.csv", "Time;Power\n0;200\n1;210\n2;205\n")));
     EXPECT_EQ(window->document().value().powerMeter.front().dateDouble,
               window->replay().from() + 3.5);
     EXPECT_FALSE(window->saveSessionTo(path("missing/x.bms")));
     EXPECT_TRUE(window->isWindowModified());
     EXPECT_EQ(window->document().path(), path("drill_postv5.bms"));
-    EXPECT_FALSE(window->saveRecording(path("missing/x.kvb")));
+    EXPECT_FALSE(window->exports().saveRecording(path("missing/x.kvb")));
     ASSERT_TRUE(window->saveSessionTo(path("a.bms")));
     EXPECT_THAT(m_questions, SizeIs(1)) << "asked once";
     EXPECT_EQ(encode(readSmartSession(m_folder.path() / "a.bms")), sessionOf(*window));
@@ -321,7 +325,8 @@ TEST_F(SessionCareTest, CancellingTheQuestionAboutThePowerMeterSavesNothing) {
     ASSERT_TRUE(window->saveSessionTo(path("a.bms")));
     const std::string before = contentOf(m_folder.path() / "a.bms");
     whenAsked<desktop::PowerMeterDialog>([](auto& dialog) { dialog.accept(); });
-    ASSERT_TRUE(window->importPowerMeter(add("meter.csv", "Time;Power\n0;200\n1;210\n2;205\n")));
+    ASSERT_TRUE(
+        window->imports().importPowerMeter(add("meter.csv", "Time;Power\n0;200\n1;210\n2;205\n")));
     window->setAskPowerMeter(nullptr);
     const auto answer = [&](const char* button) {
         QTimer::singleShot(0, [button] {
@@ -406,7 +411,7 @@ TEST_F(SessionCareTest, GaugesTellWhatTheChartsTell) {
     const auto strokes = window->view().figures().strokes;
     const double begin = window->replay().from();
     window->view().select(MomentRange{begin + 16, begin + 22});
-    window->removeSelection();
+    window->edits().removeSelection();
     compare("with a stretch taken out");
     window->replay().setMoment(begin + 19);
     for (const char* const name : {"strokeRateGauge", "forceGauge", "speedGauge"})
@@ -472,7 +477,7 @@ TEST_F(SessionCareTest, SidesAreUnknownUntilTheCoachNamesTheMount) {
             .toStdString();
     };
     const auto* const balance = window->findChild<desktop::BalanceView*>();
-    window->goToStroke(1);
+    window->view().goToStroke(1);
     EXPECT_THAT(hands(), ElementsAre("–"));
     EXPECT_THAT(rate(), ::testing::EndsWith(", side unknown"));
     EXPECT_THAT(balance->accessibleDescription().toStdString(), HasSubstr("Side unknown"));
