@@ -6,6 +6,7 @@
 #include "desktop/motion/motion_window.h"
 #include "desktop/open_session.h"
 #include "desktop/planning/online/online_dialog.h"
+#include "desktop/planning/online/online_planning.h"
 #include "desktop/planning/online/planning_start.h"
 #include "desktop/planning/planning_window.h"
 #include "desktop/race/race_window.h"
@@ -403,7 +404,8 @@ bool Desktop::raiseEditorOf(const QString& path) {
 void Desktop::show(ToolWindow* window) {
     connectTool(*window);
     if (auto* const planning = qobject_cast<PlanningWindow*>(window))
-        connect(planning, &PlanningWindow::copyRequested, this, &Desktop::showPlanningCopy);
+        connect(&planning->online(), &OnlinePlanning::copyRequested, this,
+                &Desktop::showPlanningCopy);
     const bool isConnected = qobject_cast<RaceWindow*>(window) ||
                              qobject_cast<TakingWindow*>(window) ||
                              qobject_cast<CrossWindow*>(window);
@@ -497,7 +499,7 @@ void Desktop::loadPlanningAtStart() {
         auto* window = new PlanningWindow(m_workspace, m_autosave);
         window->startNew(placeForCopy(rememberedEntry(m_workspace)));
         show(window);
-        loadRememberedPlanning(*window, m_workspace);
+        loadRememberedPlanning(window->online(), m_workspace);
         return;
     }
     const auto url = preferences.url("autoloadPlanningURL");
@@ -508,7 +510,7 @@ void Desktop::loadPlanningAtStart() {
 
 void Desktop::showPlanningCopy(const QByteArray& content, const QString& name) {
     auto* window = new PlanningWindow(m_workspace, m_autosave);
-    if (window->showCopy(content, placeForCopy(tr("%1 (on the server)").arg(name)))) {
+    if (window->online().showCopy(content, placeForCopy(tr("%1 (on the server)").arg(name)))) {
         show(window);
         return;
     }

@@ -11,6 +11,7 @@
 #include "desktop/planning/plan/session_dialog.h"
 #include "desktop/planning/plan/week_form.h"
 #include "desktop/planning/plan/year_strip.h"
+#include "desktop/planning/planning_handouts.h"
 #include "desktop/shell/command_palette.h"
 #include "desktop/shell/tables/column_table.h"
 #include "desktop/shell/workspace.h"
@@ -360,7 +361,7 @@ TEST_F(PlanningWindowTest, ShowsOddWeeksAndLeavesThemAlone) {
 TEST_F(PlanningWindowTest, WritesAWeekAsCalendarFile) {
     auto window = openWindow();
     const fs::path calendar = m_folder.path() / "week.ics";
-    window->writeCalendar(QString::fromStdString(calendar.string()));
+    window->handouts().writeCalendar(QString::fromStdString(calendar.string()));
     const std::string text = readTextFile(calendar);
     EXPECT_THAT(text, HasSubstr("SUMMARY:Gates"));
     EXPECT_THAT(text, HasSubstr("DTSTART:20260310T093000"));
