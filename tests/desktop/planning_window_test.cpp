@@ -426,12 +426,15 @@ TEST_F(PlanningWindowTest, ReadsThePictureOfAnAthleteOnlyWhenItIsAnother) {
     const auto edit = [&](const std::function<void(athletesplanning_v6&)>& change) {
         window->document().editAthlete(0, "athlete", change);
     };
+    const auto* const bytes = window->document().athletes().front().photo.bytes.data();
     const QPixmap first = shown();
     ASSERT_FALSE(first.isNull());
     for (int i = 0; i < 3; ++i) {
         edit([i](athletesplanning_v6& athlete) { athlete.phone = std::to_string(i); });
         EXPECT_EQ(shown().cacheKey(), first.cacheKey()) << "read again";
     }
+    EXPECT_EQ(window->document().athletes().front().photo.bytes.data(), bytes)
+        << "the steps of undo have it together";
     edit([&](athletesplanning_v6& athlete) { athlete.photo = picture(Qt::blue); });
     EXPECT_EQ(shown().toImage().pixel(1, 1), qRgb(0, 0, 255));
     edit([](athletesplanning_v6& athlete) { athlete.photo = {}; });
