@@ -159,7 +159,11 @@ void SessionImports::moveTrack() {
     if (!offset)
         return;
     moved.offset = *offset;
-    joinTrack(std::move(recording), std::move(moved), tr("move of a watch's track"));
+    try {
+        joinTrack(std::move(recording), std::move(moved), tr("move of a watch's track"));
+    } catch (const MotionError& error) {
+        tell(conversion_messages::NotConverted, QString::fromUtf8(error.what()));
+    }
 }
 
 std::optional<double> SessionImports::askForOffset(const bmrawdata_v5& recording,
