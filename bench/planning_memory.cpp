@@ -1,6 +1,7 @@
 #include "common/alerts.h"
 #include "desktop/planning/athlete_list.h"
 #include "desktop/planning/planning_window.h"
+#include "desktop/shell/autosave.h"
 #include "desktop/shell/workspace.h"
 #include "planning/planning_file.h"
 #include "planning/weeks.h"
@@ -12,6 +13,7 @@
 #include <QProcess>
 #include <QTemporaryDir>
 #include <QTimer>
+#include <QUndoStack>
 
 #include <algorithm>
 #include <chrono>
@@ -20,6 +22,8 @@
 #include <random>
 #include <sstream>
 #include <string>
+#include <string_view>
+#include <vector>
 
 /// The most memory that the planning of a group with a picture of every athlete takes while a coach
 /// works on it, undoes all of it and does it again.

@@ -400,7 +400,7 @@ TEST_F(RaceCareTest, TheRunsThatAFilterKeepsShareTheirRecordings) {
     desktop::RaceDocument document(m_workspace);
     document.show(std::move(race), QString::fromStdString((m_folder.path() / "a.kvx").string()));
     for (int letters = 1; letters < 4; ++letters) {
-        document.setFilter({.name = QString::fromStdString(name).left(letters)});
+        document.setFilter({{}, {}, QString::fromStdString(name).left(letters)});
         const std::vector<analyzerdata>& kept = document.shownSet().alldata;
         ASSERT_FALSE(kept.empty());
         for (const analyzerdata& run : kept) {
