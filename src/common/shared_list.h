@@ -3,6 +3,7 @@
 #include <concepts>
 #include <cstddef>
 #include <initializer_list>
+#include <iterator>
 #include <memory>
 #include <utility>
 #include <vector>
@@ -18,6 +19,8 @@ public:
     SharedList(std::vector<T> list)
         : m_list(std::make_shared<const std::vector<T>>(std::move(list))) {}
     SharedList(std::initializer_list<T> list) : SharedList(std::vector<T>(list)) {}
+    template <std::input_iterator Place>
+    SharedList(Place first, Place last) : SharedList(std::vector<T>(first, last)) {}
 
     [[nodiscard]] const std::vector<T>& list() const { return m_list ? *m_list : Nothing; }
     [[nodiscard]] bool empty() const { return list().empty(); }
