@@ -2,6 +2,8 @@
 
 #include <array>
 #include <cstdint>
+#include <utility>
+#include <vector>
 
 namespace kavela {
 
@@ -24,7 +26,7 @@ constexpr auto Digits = makeDigits();
 } // namespace
 
 void appendBase64(std::string& text, const Blob& blob) {
-    const auto& bytes = blob.bytes;
+    const std::vector<unsigned char>& bytes = blob.bytes.list();
     text.reserve(text.size() + (bytes.size() + 2) / 3 * 4);
     for (std::size_t i = 0; i < bytes.size(); i += 3) {
         const std::size_t left = bytes.size() - i;
@@ -45,8 +47,8 @@ std::optional<Blob> blobFromBase64(std::string_view text) {
     std::size_t padding = 0;
     while (padding < 2 && padding < text.size() && text[text.size() - 1 - padding] == '=')
         ++padding;
-    Blob blob;
-    blob.bytes.reserve(text.size() / 4 * 3);
+    std::vector<unsigned char> bytes;
+    bytes.reserve(text.size() / 4 * 3);
     std::uint32_t bits = 0;
     for (std::size_t i = 0; i < text.size(); ++i) {
         const bool padded = i >= text.size() - padding;
@@ -56,10 +58,10 @@ std::optional<Blob> blobFromBase64(std::string_view text) {
         bits = bits << 6 | digit;
         if (i % 4 == 3)
             for (int shift = 16; shift >= 0; shift -= 8)
-                blob.bytes.push_back(static_cast<unsigned char>(bits >> shift & 0xff));
+                bytes.push_back(static_cast<unsigned char>(bits >> shift & 0xff));
     }
-    blob.bytes.resize(blob.bytes.size() - padding);
-    return blob;
+    bytes.resize(bytes.size() - padding);
+    return Blob{std::move(bytes)};
 }
 
 } // namespace kavela

@@ -1,15 +1,17 @@
 #pragma once
 
+#include "common/shared_list.h"
+
 #include <optional>
 #include <string>
 #include <string_view>
-#include <vector>
 
 namespace kavela {
 
-/// Bytes carried in a document as base64 text (standard alphabet, with padding).
+/// Bytes carried in a document as base64 text (standard alphabet, with padding). Copies share them:
+/// each step of the undo stack has an athlete with the same picture.
 struct Blob {
-    std::vector<unsigned char> bytes;
+    SharedList<unsigned char> bytes;
 
     friend bool operator==(const Blob&, const Blob&) = default;
 };

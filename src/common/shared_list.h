@@ -1,6 +1,9 @@
 #pragma once
 
+#include <concepts>
 #include <cstddef>
+#include <initializer_list>
+#include <iterator>
 #include <memory>
 #include <utility>
 #include <vector>
@@ -8,23 +11,33 @@
 namespace kavela {
 
 /// A list that is not changed any more and that all its copies share: a recording of a run is many
-/// times the rest of it.
+/// times the rest of it, and so is a picture.
 template <class T>
 class SharedList {
 public:
-    SharedList() : m_list(std::make_shared<const std::vector<T>>()) {}
+    SharedList() = default;
     SharedList(std::vector<T> list)
         : m_list(std::make_shared<const std::vector<T>>(std::move(list))) {}
+    SharedList(std::initializer_list<T> list) : SharedList(std::vector<T>(list)) {}
+    template <std::input_iterator Place>
+    SharedList(Place first, Place last) : SharedList(std::vector<T>(first, last)) {}
 
-    [[nodiscard]] const std::vector<T>& list() const { return *m_list; }
-    [[nodiscard]] bool empty() const { return m_list->empty(); }
-    [[nodiscard]] std::size_t size() const { return m_list->size(); }
-    [[nodiscard]] const T* data() const { return m_list->data(); }
-    [[nodiscard]] auto begin() const { return m_list->begin(); }
-    [[nodiscard]] auto end() const { return m_list->end(); }
+    [[nodiscard]] const std::vector<T>& list() const { return m_list ? *m_list : Nothing; }
+    [[nodiscard]] bool empty() const { return list().empty(); }
+    [[nodiscard]] std::size_t size() const { return list().size(); }
+    [[nodiscard]] const T* data() const { return list().data(); }
+    [[nodiscard]] auto begin() const { return list().begin(); }
+    [[nodiscard]] auto end() const { return list().end(); }
+
+    friend bool operator==(const SharedList& a,
+                           const SharedList& b) requires std::equality_comparable<T> {
+        return a.m_list == b.m_list || a.list() == b.list();
+    }
 
 private:
-    std::shared_ptr<const std::vector<T>> m_list; ///< never null
+    inline static const std::vector<T> Nothing;
+
+    std::shared_ptr<const std::vector<T>> m_list; ///< null for an empty one, and where it was moved
 };
 
 } // namespace kavela

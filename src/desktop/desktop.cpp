@@ -1,18 +1,17 @@
 #include "desktop/desktop.h"
 
 #include "common/error.h"
-#include "common/safe_file.h"
 #include "desktop/cross/cross_window.h"
 #include "desktop/motion/motion_window.h"
-#include "desktop/open_session.h"
 #include "desktop/planning/online/online_dialog.h"
+#include "desktop/planning/online/online_planning.h"
 #include "desktop/planning/online/planning_start.h"
 #include "desktop/planning/planning_window.h"
 #include "desktop/race/race_window.h"
+#include "desktop/sessions/session_imports.h"
 #include "desktop/sessions/session_window.h"
 #include "desktop/shell/bring_to_front.h"
 #include "desktop/shell/disk_worker.h"
-#include "desktop/shell/earlier_work_dialog.h"
 #include "desktop/shell/edited_file.h"
 #include "desktop/shell/file_names.h"
 #include "desktop/shell/home_window.h"
@@ -63,25 +62,12 @@ QString autosaveFolder() {
     return QStandardPaths::writableLocation(QStandardPaths::AppLocalDataLocation) + "/autosave";
 }
 
-/// Writes what of the sample season is not there yet.
-void writeSampleSeason(const fs::path& folder) {
-    for (const SampleFile& file : sampleSeason()) {
-        const fs::path target = folder / file.name;
-        if (fs::exists(target))
-            continue;
-        std::error_code error;
-        fs::create_directories(target.parent_path(), error);
-        if (error)
-            throw FileError(target.parent_path(), error.message());
-        writeFileSafely(target, file.content);
-    }
-}
-
 } // namespace
 
 Desktop::Desktop(Workspace& workspace, std::optional<Autosave> autosave)
     : m_workspace(workspace),
-      m_autosave(autosave ? std::move(*autosave) : Autosave(autosaveFolder())) {
+      m_autosave(autosave ? std::move(*autosave) : Autosave(autosaveFolder())),
+      m_earlierWork(*this, m_workspace, m_autosave) {
     loadIcons();
     qApp->installEventFilter(&m_wheelGuard);
     QApplication::setWindowIcon(icon("kavela"));
@@ -130,8 +116,7 @@ void Desktop::comeForward(const QStringList& files) {
     for (ToolWindow* const window : windows())
         if (!before.contains(window))
             bringToFront(*window);
-    const bool isHome = m_home && m_home->isVisible();
-    if (windows().isEmpty() && (files.isEmpty() || !isHome))
+    if (windows().isEmpty() && (files.isEmpty() || !isHomeShown()))
         showHome();
     else if (files.isEmpty())
         bringToFront(m_lastFront && m_lastFront->isVisible() ? *m_lastFront : *windows().last());
@@ -145,6 +130,10 @@ void Desktop::noteFront(const QWindow* window) {
     for (QWidget* const candidate : candidates)
         if (window && candidate && candidate->windowHandle() == window)
             m_lastFront = candidate;
+}
+
+bool Desktop::isHomeShown() const {
+    return m_home && m_home->isVisible();
 }
 
 QWidget* Desktop::front() const {
@@ -189,6 +178,12 @@ void Desktop::chooseDocument(const ToolKind& tool) {
     ToolWindow* const window = make(tool);
     window->startNew(dialog.choice().path);
     window->file()->setNamed();
+    show(window);
+}
+
+void Desktop::openNew(const ToolKind& tool, const QString& path) {
+    ToolWindow* const window = make(tool);
+    window->startNew(path);
     show(window);
 }
 
@@ -291,7 +286,8 @@ void Desktop::openAll(const QStringList& paths, RaceWindow* into) {
 void Desktop::connectTool(ToolWindow& window) {
     connect(&window, &ToolWindow::homeRequested, this, &Desktop::showHome);
     connect(&window, &ToolWindow::settingsRequested, this, &Desktop::openSettings);
-    connect(&window, &ToolWindow::earlierWorkRequested, this, &Desktop::showEarlierWork);
+    connect(&window, &ToolWindow::earlierWorkRequested, this,
+            [this] { m_earlierWork.chooseToBringBack(front()); });
     if (window.file())
         connect(window.file(), &EditedFile::saved, this, &Desktop::rememberSession);
     // Later: while it is being destroyed, it still counts as a window of its kind.
@@ -349,37 +345,6 @@ void Desktop::openRaces(const QStringList& races, RaceWindow* into) {
         show(window);
 }
 
-/// The last window's closing leaves the program: what it showed is what the next start shows.
-void Desktop::rememberSession() {
-    QList<OpenFile> files;
-    for (const ToolWindow* const window : windows())
-        for (const QString& path : window->paths())
-            files.append({window->kind(), path});
-    const bool isHome = m_home && m_home->isVisible();
-    if (!files.isEmpty() || isHome)
-        desktop::rememberSession(m_workspace, files);
-}
-
-/// All are read first: what is opened is remembered at once in their place.
-bool Desktop::restoreSession() {
-    QStringList races;
-    QStringList others;
-    for (const OpenFile& file : rememberedSession(m_workspace))
-        if (file.kind == "race")
-            races.append(file.path);
-        else if (file.kind == "taking")
-            (void)openTaking(file.path);
-        else if (file.kind == "cross")
-            (void)openCross(file.path);
-        else
-            others.append(file.path);
-    if (!races.isEmpty())
-        openRaces(races, nullptr);
-    if (!others.isEmpty())
-        openAll(others);
-    return !windows().isEmpty();
-}
-
 /// One that was closed is there until the event loop gets to it, but is open no more.
 QList<ToolWindow*> Desktop::windows() const {
     QList<ToolWindow*> open;
@@ -402,7 +367,8 @@ bool Desktop::raiseEditorOf(const QString& path) {
 void Desktop::show(ToolWindow* window) {
     connectTool(*window);
     if (auto* const planning = qobject_cast<PlanningWindow*>(window))
-        connect(planning, &PlanningWindow::copyRequested, this, &Desktop::showPlanningCopy);
+        connect(&planning->online(), &OnlinePlanning::copyRequested, this,
+                &Desktop::showPlanningCopy);
     const bool isConnected = qobject_cast<RaceWindow*>(window) ||
                              qobject_cast<TakingWindow*>(window) ||
                              qobject_cast<CrossWindow*>(window);
@@ -412,55 +378,6 @@ void Desktop::show(ToolWindow* window) {
     m_windows.append(window);
     window->show();
     rememberSession();
-}
-
-/// After a crash, what was open beside the unsaved work comes back too.
-void Desktop::offerRecovery() {
-    if (m_autosave.all().empty())
-        return;
-    if (windows().isEmpty())
-        (void)restoreSession();
-    for (const Autosave::Found& found : m_autosave.all())
-        recover(found.label);
-}
-
-void Desktop::showEarlierWork() {
-    EarlierWorkDialog dialog(m_autosave.earlier(), front());
-    if (dialog.exec() == QDialog::Accepted && dialog.chosen())
-        bringBack(*dialog.chosen());
-}
-
-/// Into the window that edits the document, where one does.
-void Desktop::bringBack(const Autosave::Found& earlier) {
-    for (ToolWindow* const window : windows())
-        if (window->file() && isSameFile(window->file()->path(), earlier.label.path)) {
-            bringToFront(*window);
-            (void)window->file()->takeBack(earlier.content, window,
-                                           [window] { return window->save(); });
-            return;
-        }
-    m_autosave.bringBack(earlier);
-    recover(earlier.label);
-}
-
-/// Work of an earlier release does not say with which tool it was edited; that of a folder that is
-/// gone stays kept.
-void Desktop::recover(const Autosave::Label& found) {
-    const QFileInfo file(found.path);
-    const bool isSplitFile = file.suffix() == "kvx";
-    const ToolKind* tool = toolOfKind(found.tool);
-    if (!tool && isSplitFile)
-        tool = toolFor(OpensAs::FolderOfFilms);
-    if (isSplitFile) {
-        if (file.exists() || file.dir().exists())
-            (void)openIn(*tool, file.exists() ? found.path : file.path());
-    } else if (file.exists() || !tool) {
-        openAll({found.path});
-    } else if (!raiseEditorOf(found.path)) {
-        ToolWindow* const window = make(*tool);
-        window->startNew(found.path);
-        show(window);
-    }
 }
 
 void Desktop::openImports(const QStringList& paths) {
@@ -474,7 +391,7 @@ void Desktop::openImports(const QStringList& paths) {
         show(window);
     }
     bringToFront(*window);
-    window->takeInAll(paths);
+    window->imports().takeInAll(paths);
 }
 
 void Desktop::openRecordings(const QStringList& paths) {
@@ -496,7 +413,7 @@ void Desktop::loadPlanningAtStart() {
         auto* window = new PlanningWindow(m_workspace, m_autosave);
         window->startNew(placeForCopy(rememberedEntry(m_workspace)));
         show(window);
-        loadRememberedPlanning(*window, m_workspace);
+        loadRememberedPlanning(window->online(), m_workspace);
         return;
     }
     const auto url = preferences.url("autoloadPlanningURL");
@@ -507,7 +424,7 @@ void Desktop::loadPlanningAtStart() {
 
 void Desktop::showPlanningCopy(const QByteArray& content, const QString& name) {
     auto* window = new PlanningWindow(m_workspace, m_autosave);
-    if (window->showCopy(content, placeForCopy(tr("%1 (on the server)").arg(name)))) {
+    if (window->online().showCopy(content, placeForCopy(tr("%1 (on the server)").arg(name)))) {
         show(window);
         return;
     }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "desktop/earlier_work.h"
 #include "desktop/opened_as.h"
 #include "desktop/shell/autosave.h"
 #include "desktop/shell/tool_window.h"
@@ -42,7 +43,9 @@ public:
     /// them, or are opened; without any the window that was last in front comes back, or home.
     void comeForward(const QStringList& files);
     /// Opens what was open when the program was left. False when nothing was, or nothing is there.
-    [[nodiscard]] bool restoreSession();
+    [[nodiscard]] bool restoreSession() { return m_earlierWork.restoreWindows(); }
+    /// Opens what an earlier session left unsaved, each after asking.
+    void offerRecovery() { m_earlierWork.offerUnsaved(); }
     void openSettings();
     void openSampleSeason();
     /// Opens a folder of films, or a split file beside its films, for split taking; null, after a
@@ -56,14 +59,19 @@ public:
     /// Opens a file in a tool, or raises the window that has it; false, after an alert, when it
     /// cannot be opened there.
     bool openIn(const ToolKind& tool, const QString& path);
+    /// Begins a document that has no file yet, in a window of its own.
+    void openNew(const ToolKind& tool, const QString& path);
+    /// Brings the window to the front that edits a file; false when none does.
+    [[nodiscard]] bool raiseEditorOf(const QString& path);
+    /// Opens races together, in a window of their own where none is given; those that a window
+    /// shows already come to the front there.
+    void openRaces(const QStringList& paths, RaceWindow* into = nullptr);
     /// Opens raw recordings beside each other, in the window that has some where there is one.
     void openRecordings(const QStringList& paths);
     /// Opens the planning that the preferences name, where they ask for one.
     void loadPlanningAtStart();
-    /// Opens what an earlier session left unsaved, each after asking, in the tool that it was
-    /// edited with, whether it was ever saved or not.
-    void offerRecovery();
 
+    [[nodiscard]] bool isHomeShown() const;
     /// The windows that are open, in the order of their opening.
     [[nodiscard]] QList<ToolWindow*> windows() const;
     /// Those of a tool.
@@ -86,18 +94,12 @@ private:
     /// Shows a window, and follows what it asks for.
     void show(ToolWindow* window);
     void connectTool(ToolWindow& window);
-    /// Brings the window to the front that edits a file; false when none does.
-    [[nodiscard]] bool raiseEditorOf(const QString& path);
-    void recover(const Autosave::Label& found);
-    void showEarlierWork();
-    void bringBack(const Autosave::Found& earlier);
     /// A new window for the split file or folder, which none edits; null, after a message, when it
     /// cannot be opened.
     TakingWindow* showTaking(const QString& path);
     CrossWindow* showCross(const QString& path);
     void openFilm(const QString& path);
     void showMoment(const QString& path, int run, std::size_t split);
-    void openRaces(const QStringList& paths, RaceWindow* into);
     [[nodiscard]] RaceWindow* makeRaceWindow();
     /// The window that shows a race; null when none does.
     [[nodiscard]] RaceWindow* windowOfRace(const QString& path) const;
@@ -110,7 +112,7 @@ private:
     void showInAnalyzer(const TakingDocument& document);
     /// The races among files and folders; what is not one is told.
     [[nodiscard]] QStringList racesAmong(const QStringList& paths, HeldDocuments& held);
-    void rememberSession();
+    void rememberSession() { m_earlierWork.rememberWindows(); }
     void noteFront(const QWindow* window);
     [[nodiscard]] QWidget* front() const;
 
@@ -121,6 +123,7 @@ private:
     QList<QPointer<ToolWindow>> m_windows;
     QSet<QString> m_opening; ///< canonical: files that a window is reading right now
     Autosave m_autosave;
+    EarlierWork m_earlierWork;
 };
 
 } // namespace kavela::desktop

@@ -5,7 +5,7 @@
 #include "common/error.h"
 #include "common/text_file.h"
 #include "desktop/imports/import_files.h"
-#include "desktop/sessions/session_window.h"
+#include "desktop/sessions/session_imports.h"
 #include "planning/planning_file.h"
 #include "splittaking/results_import.h"
 #include "splittaking/video_names.h"

@@ -131,7 +131,7 @@ splittakerdata031 holdRace(const RacePlan& plan) {
         for (const std::string& category : plan.categories)
             holdPhase(plan, phase, starters[category], race);
     const std::string list = officialList(race.info.resultsCSVdata);
-    race.info.officialresults.bytes.assign(list.begin(), list.end());
+    race.info.officialresults.bytes = std::vector<unsigned char>(list.begin(), list.end());
     return race;
 }
 

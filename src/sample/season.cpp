@@ -1,6 +1,8 @@
 #include "sample/season.h"
 
+#include "common/error.h"
 #include "common/json_encode.h"
+#include "common/safe_file.h"
 #include "sample/cross.h"
 #include "sample/older_releases.h"
 #include "sample/planning.h"
@@ -12,6 +14,7 @@
 #include "sample/tracks.h"
 #include "sample/training.h"
 
+#include <system_error>
 #include <utility>
 
 namespace kavela {
@@ -70,6 +73,19 @@ std::vector<SampleFile> sampleSeason() {
         files.push_back(
             {"older/release_" + std::string(file.release) + ".kvx", std::move(file.text)});
     return files;
+}
+
+void writeSampleSeason(const std::filesystem::path& folder) {
+    for (const SampleFile& file : sampleSeason()) {
+        const std::filesystem::path target = folder / file.name;
+        if (std::filesystem::exists(target))
+            continue;
+        std::error_code error;
+        std::filesystem::create_directories(target.parent_path(), error);
+        if (error)
+            throw FileError(target.parent_path(), error.message());
+        writeFileSafely(target, file.content);
+    }
 }
 
 } // namespace kavela

@@ -16,4 +16,8 @@ struct SampleFile {
 /// releases, all of invented people on invented courses. The same bytes at every call.
 [[nodiscard]] std::vector<SampleFile> sampleSeason();
 
+/// Writes what of it a folder does not hold yet, and leaves what is there as it is. Throws
+/// FileError.
+void writeSampleSeason(const std::filesystem::path& folder);
+
 } // namespace kavela

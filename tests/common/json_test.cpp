@@ -223,9 +223,9 @@ TEST(JsonWriter, WritesBytesAsBase64AndEmptyListsOut) {
     EXPECT_EQ(encode(std::vector<Blob>{{{}}, {{1}}, {{1, 2}}, {{0xfb, 0xff, 0}}}),
               R"(["","AQ==","AQI=","+/8A"])");
     Everything record = decodeText<Everything>(sampleWith("AQID", ""));
-    EXPECT_THAT(record.blob.bytes, testing::IsEmpty());
+    EXPECT_THAT(record.blob.bytes.list(), testing::IsEmpty());
     record = decodeText<Everything>(sampleWith("AQID", "+/8AAAECAA=="));
-    EXPECT_THAT(record.blob.bytes, testing::ElementsAre(0xfb, 0xff, 0, 0, 1, 2, 0));
+    EXPECT_THAT(record.blob.bytes.list(), testing::ElementsAre(0xfb, 0xff, 0, 0, 1, 2, 0));
     EXPECT_THAT(encode(Everything{}), testing::EndsWith("\"marks\":[]}"));
 }
 

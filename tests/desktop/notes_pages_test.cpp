@@ -245,7 +245,7 @@ TEST_F(NotesTest, KeepsTheTeamRadioInTheSplitFile) {
     ASSERT_EQ(list.count(), 2);
     list.setCurrentRow(1);
     part<QPushButton>("radioEarlier").click();
-    EXPECT_THAT(run().sectioninfo.teamradio[0].bytes, SizeIs(3));
+    EXPECT_THAT(run().sectioninfo.teamradio[0].bytes.list(), SizeIs(3));
     part<QPushButton>("radioRemove").click();
     EXPECT_THAT(run().sectioninfo.teamradio, SizeIs(1));
     m_window->selectRun(1);

@@ -3,6 +3,7 @@
 #include "common/json_encode.h"
 #include "common/recorders.h"
 #include "common/temp_folder.h"
+#include "desktop/planning/online/online_planning.h"
 #include "desktop/shell/workspace.h"
 #include "planning/messages.h"
 #include "planning/planning_access.h"
@@ -30,6 +31,7 @@ namespace {
 namespace fs = std::filesystem;
 using desktop::Autosave;
 using desktop::OnlineAddress;
+using desktop::OnlinePlanning;
 using desktop::PlanningWindow;
 using desktop::Workspace;
 using ::testing::Contains;
@@ -138,8 +140,8 @@ protected:
 
     /// Saves and waits for the end of it; whether the planning was put there.
     bool save(const char* entry = "Team") {
-        QSignalSpy saved(&m_window, &PlanningWindow::onlineSaved);
-        m_window.saveOnline(m_server.address(), entry);
+        QSignalSpy saved(&m_window.online(), &OnlinePlanning::saved);
+        m_window.online().save(m_server.address(), entry);
         return (saved.count() > 0 || saved.wait()) && saved.front().front().toBool();
     }
 
@@ -163,15 +165,15 @@ protected:
 };
 
 TEST_F(PlanningOnlineTest, PutsPlanningAndAccessAndFetchesThePlanning) {
-    m_window.saveOnline(m_server.address(), "Team");
+    m_window.online().save(m_server.address(), "Team");
     ASSERT_TRUE(QTest::qWaitFor([&] { return m_server.files.size() == 2; }));
     const QByteArray stored = m_server.files.at("/plans/Team.planning");
     EXPECT_EQ(stored.toStdString(), encode(m_window.document().value()));
     EXPECT_TRUE(m_server.files.contains("/plans/Team.planinf"));
 
     m_window.startNew(QString::fromStdString((m_folder.path() / "other.planning").string()));
-    QSignalSpy loaded(&m_window, &PlanningWindow::onlineLoaded);
-    m_window.loadOnline(m_server.address(), "Team");
+    QSignalSpy loaded(&m_window.online(), &OnlinePlanning::loaded);
+    m_window.online().load(m_server.address(), "Team");
     ASSERT_TRUE(loaded.wait());
     EXPECT_TRUE(loaded.front().front().toBool());
     EXPECT_EQ(stored.toStdString(), encode(m_window.document().value()));
@@ -179,7 +181,7 @@ TEST_F(PlanningOnlineTest, PutsPlanningAndAccessAndFetchesThePlanning) {
 }
 
 TEST_F(PlanningOnlineTest, TellsAFailedSaveWithoutThePassword) {
-    m_window.saveOnline(m_server.address("wrong"), "Team");
+    m_window.online().save(m_server.address("wrong"), "Team");
     ASSERT_TRUE(QTest::qWaitFor([&] { return !m_recorder.lines.empty(); }));
     EXPECT_THAT(m_server.files, IsEmpty());
     EXPECT_THAT(m_recorder.alerts, SizeIs(1));
@@ -191,8 +193,8 @@ TEST_F(PlanningOnlineTest, KeepsWhatIsShownWhenTheServerHasNoPlanning) {
     const std::string before = encode(m_window.document().value());
     m_server.files["/plans/Team.planning"] = "{}";
     for (const char* entry : {"Team", "Club"}) {
-        QSignalSpy loaded(&m_window, &PlanningWindow::onlineLoaded);
-        m_window.loadOnline(m_server.address(), entry);
+        QSignalSpy loaded(&m_window.online(), &OnlinePlanning::loaded);
+        m_window.online().load(m_server.address(), entry);
         ASSERT_TRUE(loaded.wait());
         EXPECT_FALSE(loaded.front().front().toBool()) << entry;
     }
@@ -249,7 +251,7 @@ TEST_F(PlanningOnlineTest, ShowsTheOtherWorkOrSavesBesideIt) {
     other.coach = "somebody else";
     const QByteArray theirs = QByteArray::fromStdString(encode(other));
     stored() = theirs;
-    QSignalSpy copy(&m_window, &PlanningWindow::copyRequested);
+    QSignalSpy copy(&m_window.online(), &OnlinePlanning::copyRequested);
     m_choice = 0;
     EXPECT_FALSE(save());
     ASSERT_EQ(copy.count(), 1);
@@ -296,8 +298,8 @@ TEST_F(PlanningOnlineTest, UnsavedWorkDoesNotGiveWayWithoutAQuestion) {
     rename("Unsaved");
     int asked = 0;
     m_workspace.setAnswer([&](const Alert&) { return ++asked == 0; });
-    QSignalSpy loaded(&m_window, &PlanningWindow::onlineLoaded);
-    m_window.loadOnline(m_server.address(), "Team");
+    QSignalSpy loaded(&m_window.online(), &OnlinePlanning::loaded);
+    m_window.online().load(m_server.address(), "Team");
     ASSERT_TRUE(loaded.wait());
     EXPECT_EQ(asked, 1);
     EXPECT_EQ(shown(), stored().toStdString()) << "given up, as answered";
@@ -329,7 +331,7 @@ TEST_F(PlanningOnlineTest, NamesTheIssuerOfACertificateThatIsNotTrusted) {
     UntrustedServer server;
     const OnlineAddress address{
         QUrl(QString("https://127.0.0.1:%1/plans").arg(server.serverPort())), "coach", "rapid"};
-    m_window.saveOnline(address, "Team");
+    m_window.online().save(address, "Team");
     ASSERT_TRUE(QTest::qWaitFor([&] { return !m_recorder.lines.empty(); }));
     EXPECT_THAT(m_recorder.lines.back(), HasSubstr("not trusted"));
     EXPECT_THAT(m_recorder.lines.back(), HasSubstr("“Kayak Club Test Authority”"));

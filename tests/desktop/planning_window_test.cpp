@@ -11,6 +11,7 @@
 #include "desktop/planning/plan/session_dialog.h"
 #include "desktop/planning/plan/week_form.h"
 #include "desktop/planning/plan/year_strip.h"
+#include "desktop/planning/planning_handouts.h"
 #include "desktop/shell/command_palette.h"
 #include "desktop/shell/tables/column_table.h"
 #include "desktop/shell/workspace.h"
@@ -22,9 +23,12 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QBuffer>
 #include <QComboBox>
 #include <QDoubleSpinBox>
 #include <QFileDialog>
+#include <QImage>
+#include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPlainTextEdit>
@@ -360,7 +364,7 @@ TEST_F(PlanningWindowTest, ShowsOddWeeksAndLeavesThemAlone) {
 TEST_F(PlanningWindowTest, WritesAWeekAsCalendarFile) {
     auto window = openWindow();
     const fs::path calendar = m_folder.path() / "week.ics";
-    window->writeCalendar(QString::fromStdString(calendar.string()));
+    window->handouts().writeCalendar(QString::fromStdString(calendar.string()));
     const std::string text = readTextFile(calendar);
     EXPECT_THAT(text, HasSubstr("SUMMARY:Gates"));
     EXPECT_THAT(text, HasSubstr("DTSTART:20260310T093000"));
@@ -394,6 +398,47 @@ TEST_F(PlanningWindowTest, SearchingFindsTheImportOfVariability) {
     found.front()->run();
     EXPECT_TRUE(isAsked) << "for the list";
     EXPECT_TRUE(window->body().isVisible()) << "where it will stand";
+}
+
+/// A picture of some megabytes takes long to read, and every edit shows the athlete afresh.
+TEST_F(PlanningWindowTest, ReadsThePictureOfAnAthleteOnlyWhenItIsAnother) {
+    const auto picture = [](QColor colour) {
+        QImage image(90, 120, QImage::Format_RGB32);
+        image.fill(colour);
+        QByteArray bytes;
+        QBuffer buffer(&bytes);
+        buffer.open(QIODevice::WriteOnly);
+        EXPECT_TRUE(image.save(&buffer, "PNG"));
+        return Blob{std::vector<unsigned char>(bytes.begin(), bytes.end())};
+    };
+    planningdatac_v6 plan = smallPlan();
+    plan.athletes.front().photo = picture(Qt::red);
+    write(plan);
+    const auto window = openWindow();
+    ASSERT_TRUE(window);
+    const auto shown = [&] {
+        (void)window->grab();
+        for (const QLabel* const label : window->athletes().findChildren<QLabel*>())
+            if (!label->pixmap().isNull())
+                return label->pixmap();
+        return QPixmap();
+    };
+    const auto edit = [&](const std::function<void(athletesplanning_v6&)>& change) {
+        window->document().editAthlete(0, "athlete", change);
+    };
+    const auto* const bytes = window->document().athletes().front().photo.bytes.data();
+    const QPixmap first = shown();
+    ASSERT_FALSE(first.isNull());
+    for (int i = 0; i < 3; ++i) {
+        edit([i](athletesplanning_v6& athlete) { athlete.phone = std::to_string(i); });
+        EXPECT_EQ(shown().cacheKey(), first.cacheKey()) << "read again";
+    }
+    EXPECT_EQ(window->document().athletes().front().photo.bytes.data(), bytes)
+        << "the steps of undo have it together";
+    edit([&](athletesplanning_v6& athlete) { athlete.photo = picture(Qt::blue); });
+    EXPECT_EQ(shown().toImage().pixel(1, 1), qRgb(0, 0, 255));
+    edit([](athletesplanning_v6& athlete) { athlete.photo = {}; });
+    EXPECT_TRUE(shown().isNull());
 }
 
 } // namespace

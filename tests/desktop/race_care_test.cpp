@@ -386,5 +386,35 @@ TEST_F(RaceCareTest, MakesTheTableOrTheChartFillTheWindow) {
     EXPECT_TRUE(view.table().isVisible()) << "the filter belongs to the table";
 }
 
+/// Every letter that is typed into the filter makes another set of runs: a recording is many times
+/// the rest of a run.
+TEST_F(RaceCareTest, TheRunsThatAFilterKeepsShareTheirRecordings) {
+    splittakerdata031 race = sample::holdRace(sample::springOpener());
+    for (athletedata031& run : race.athletes) {
+        run.bm.resize(3);
+        run.hr.resize(3);
+        run.gps.resize(3);
+        run.watchmotion.resize(3);
+    }
+    const std::string name = race.athletes.back().names.front();
+    desktop::RaceDocument document(m_workspace);
+    document.show(std::move(race), QString::fromStdString((m_folder.path() / "a.kvx").string()));
+    for (int letters = 1; letters < 4; ++letters) {
+        document.setFilter({{}, {}, QString::fromStdString(name).left(letters)});
+        const std::vector<analyzerdata>& kept = document.shownSet().alldata;
+        ASSERT_FALSE(kept.empty());
+        for (const analyzerdata& run : kept) {
+            const analyzerdata& whole =
+                document.wholeSet().alldata.at(static_cast<std::size_t>(run.athleteInt));
+            ASSERT_EQ(run.bm.size(), 3U);
+            EXPECT_EQ(run.bm.data(), whole.bm.data());
+            EXPECT_EQ(run.heart.data(), whole.heart.data());
+            EXPECT_EQ(run.gps.data(), whole.gps.data());
+            EXPECT_EQ(run.watch.data(), whole.watch.data());
+        }
+    }
+    EXPECT_LT(document.shownSet().alldata.size(), document.wholeSet().alldata.size());
+}
+
 } // namespace
 } // namespace kavela::test

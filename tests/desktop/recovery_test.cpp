@@ -25,6 +25,7 @@ using desktop::Autosave;
 using desktop::Desktop;
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
+using ::testing::SizeIs;
 
 /// A tool with a document in it: what a coach changes there, and whether it is there.
 struct Tool {
@@ -90,9 +91,9 @@ std::vector<Tool> tools() {
          }}};
 }
 
-class RecoveryTest : public ::testing::TestWithParam<Tool> {
+class CrashTest : public ::testing::Test {
 protected:
-    RecoveryTest() {
+    CrashTest() {
         m_workspace.setAlerts(&m_recorder);
         m_workspace.setAnswer([this](const Alert& question) {
             m_questions.push_back(question.text);
@@ -108,6 +109,12 @@ protected:
     }
 
     [[nodiscard]] QMainWindow* window() const { return m_program->windows().value(0); }
+
+    [[nodiscard]] QString copied(const char* example) const {
+        const fs::path from = fs::path(KAVELA_EXAMPLES) / example;
+        fs::copy_file(from, m_folder.path() / from.filename());
+        return QString::fromStdString((m_folder.path() / from.filename()).string());
+    }
 
     void open(const QString& path) {
         if (path.endsWith("opener.kvx"))
@@ -131,15 +138,15 @@ protected:
     std::unique_ptr<Desktop> m_program;
 };
 
+class RecoveryTest : public CrashTest, public ::testing::WithParamInterface<Tool> {};
+
 /// Work that was recovered is where the document begins: no undo leads behind it, and until it is
 /// saved its copy stays.
 TEST_P(RecoveryTest, IsNotLostByUndoNorByAnotherEnd) {
     const Tool& tool = GetParam();
-    const fs::path example = fs::path(KAVELA_EXAMPLES) / tool.example;
-    const fs::path file = m_folder.path() / example.filename();
-    fs::copy_file(example, file);
+    const QString path = copied(tool.example);
     start();
-    open(QString::fromStdString(file.string()));
+    open(path);
     ASSERT_TRUE(window());
     tool.edit(*window());
     ASSERT_TRUE(tool.isEdited(*window()));
@@ -174,14 +181,11 @@ TEST_P(RecoveryTest, IsNotLostByUndoNorByAnotherEnd) {
 /// program, which here goes on and neither saves nor closes anything.
 TEST_P(RecoveryTest, FindsEveryChangeSoonAfterItWasMade) {
     const Tool& tool = GetParam();
-    const fs::path example = fs::path(KAVELA_EXAMPLES) / tool.example;
-    const fs::path file = m_folder.path() / example.filename();
-    fs::copy_file(example, file);
+    const QString path = copied(tool.example);
     start();
-    open(QString::fromStdString(file.string()));
+    open(path);
     ASSERT_TRUE(window());
     const Autosave kept(QString::fromStdString((m_folder.path() / "kept").string()));
-    const QString path = QString::fromStdString(file.string());
     tool.edit(*window());
     QTRY_VERIFY(kept.find(path));
 
@@ -191,6 +195,30 @@ TEST_P(RecoveryTest, FindsEveryChangeSoonAfterItWasMade) {
     ASSERT_TRUE(window());
     EXPECT_TRUE(tool.isEdited(*window()));
     m_program.reset();
+}
+
+/// A coach goes on where the work was cut off, with everything that was open beside it.
+TEST_F(CrashTest, BringsBackTheRunThatWasWorkedOnAndTheOtherWindows) {
+    constexpr int WorkedOn = 5;
+    const QString race = copied("races/spring_opener.kvx");
+    const QString team = copied("team/kavela_team.kvteam");
+    start();
+    desktop::TakingWindow* const before = m_program->openTaking(race);
+    ASSERT_TRUE(before);
+    m_program->open(team);
+    before->document().editRun(WorkedOn, "hand", [](athletedata031& run) { run.hand = Typed; });
+
+    start();
+    m_program->offerRecovery();
+    EXPECT_THAT(m_questions, ElementsAre(messages::AskToLoadAutosave)) << "of the race alone";
+    ASSERT_THAT(m_program->windowsOf<desktop::TakingWindow>(), SizeIs(1));
+    desktop::TakingWindow& after = *m_program->windowsOf<desktop::TakingWindow>().front();
+    EXPECT_EQ(after.document().run(WorkedOn).hand, Typed);
+    EXPECT_EQ(after.currentRun(), WorkedOn);
+    ASSERT_THAT(m_program->windowsOf<desktop::TeamWindow>(), SizeIs(1));
+    EXPECT_EQ(m_program->windowsOf<desktop::TeamWindow>().front()->paths(), QStringList(team));
+    EXPECT_THAT(m_program->windows(), SizeIs(2));
+    EXPECT_THAT(m_recorder.alerts, IsEmpty());
 }
 
 INSTANTIATE_TEST_SUITE_P(Tools, RecoveryTest, ::testing::ValuesIn(tools()), [](const auto& tool) {

@@ -4,6 +4,8 @@
 #include "common/recorders.h"
 #include "common/temp_folder.h"
 #include "desktop/sessions/replay.h"
+#include "desktop/sessions/session_tables.h"
+#include "desktop/sessions/session_view.h"
 #include "desktop/sessions/session_window.h"
 #include "desktop/shell/workspace.h"
 #include "sample/recordings.h"
@@ -69,6 +71,20 @@ protected:
             window.replay().setMoment(window.replay().from() + second);
             press(window, Qt::Key_M);
         }
+    }
+
+    /// Every table, with the cursor at both ends.
+    static void showEverything(desktop::SessionWindow& window) {
+        for (int page = 0; page < window.view().tables().count(); ++page) {
+            window.view().tables().setCurrentIndex(page);
+            for (const double moment : {window.replay().from(), window.replay().to()})
+                window.replay().setMoment(moment);
+            (void)window.grab();
+        }
+    }
+
+    static std::string sessionOf(const desktop::SessionWindow& window) {
+        return encode(window.document().value().session);
     }
 
     TempFolder m_folder;

@@ -10,6 +10,9 @@
 #include "desktop/sessions/grid_model.h"
 #include "desktop/sessions/information_dialog.h"
 #include "desktop/sessions/power_meter_dialog.h"
+#include "desktop/sessions/session_edits.h"
+#include "desktop/sessions/session_exports.h"
+#include "desktop/sessions/session_imports.h"
 #include "desktop/sessions/session_view.h"
 #include "desktop/sessions/test_session_window.h"
 #include "desktop/sessions/track_offset_dialog.h"
@@ -154,13 +157,13 @@ TEST_F(SessionWindowTest, ACutIsSavedAsARecordingAndCanBeTakenBack) {
     emit window->view().charts().chart(SessionMeasure::Speed).rangeSelected(10, 30);
     EXPECT_THAT(window->findChild<QLabel*>("selection")->text().toStdString(),
                 HasSubstr("0:10.0 – 0:30.0: 20.0 s"));
-    window->keepSelection();
+    window->edits().keepSelection();
     whenAsked<desktop::InformationDialog>([](auto& dialog) {
         dialog.template findChild<QLineEdit*>("athlete")->setText("LEE Ann");
         dialog.template findChild<QDoubleSpinBox*>("weight")->setValue(60);
     });
-    window->editInformation();
-    ASSERT_TRUE(window->saveRecording(path("cut.kvb")));
+    window->edits().editInformation();
+    ASSERT_TRUE(window->exports().saveRecording(path("cut.kvb")));
     const bmrawdata_v5 cut = readRawSession(m_folder.path() / "cut.kvb");
     EXPECT_EQ(cut.athleteinfo.name, "LEE Ann");
     EXPECT_EQ(cut.athleteinfo.weight, 60);
@@ -200,7 +203,7 @@ TEST_F(SessionWindowTest, PowerMeterDataGoesIntoTheStrokesAfterAYes) {
         EXPECT_EQ(dialog.template findChild<QLabel*>("count")->text(),
                   "Samples: 60. Lines refused: 1.");
     });
-    ASSERT_TRUE(window->importPowerMeter(add("meter.csv", list)));
+    ASSERT_TRUE(window->imports().importPowerMeter(add("meter.csv", list)));
     m_isYes = false;
     ASSERT_TRUE(window->saveSessionTo(path("without.sbm")));
     EXPECT_THAT(m_questions,
@@ -228,7 +231,7 @@ TEST_F(SessionWindowTest, WhatIsNotKnownIsADash) {
     recording.heart.clear();
     const auto window = makeWindow();
     ASSERT_TRUE(window->open(add("bare.kvb", encode(recording))));
-    window->goToStroke(1);
+    window->view().goToStroke(1);
     EXPECT_THAT(gauge(*window, "strokeRateGauge"), HasSubstr("1/min"));
     for (const char* const name :
          {"speedGauge", "forceGauge", "impulseGauge", "powerGauge", "heartGauge"})
@@ -236,7 +239,7 @@ TEST_F(SessionWindowTest, WhatIsNotKnownIsADash) {
     const QAbstractItemModel& strokes =
         *window->view().tables().view(SessionTables::StrokePage)->model();
     EXPECT_EQ(strokes.index(0, 5).data().toString(), "–") << "force";
-    window->exportTable(SessionTables::StrokePage, path("strokes.csv"));
+    window->exports().exportTable(SessionTables::StrokePage, path("strokes.csv"));
     EXPECT_THAT(contentOf(m_folder.path() / "strokes.csv"), Not(HasSubstr("–")));
     EXPECT_TRUE(window->view().charts().chart(SessionMeasure::Force).series().empty());
     (void)window->grab();
@@ -318,7 +321,7 @@ TEST_F(SessionWindowTest, AListOfALoggerBecomesARecordingAndATrackJoinsIt) {
     const auto window = makeWindow();
     const std::string examples = std::string(KAVELA_EXAMPLES) + "/recordings/";
     const QString track = QString::fromStdString(examples + "watch.gpx");
-    window->importFrom({track});
+    window->imports().importFrom({track});
     EXPECT_THAT(m_recorder.alerts, SizeIs(1)) << "there is nothing that it could join yet";
     QTimer::singleShot(200, [] {
         auto* const dialog =
@@ -329,11 +332,11 @@ TEST_F(SessionWindowTest, AListOfALoggerBecomesARecordingAndATrackJoinsIt) {
         ASSERT_TRUE(QTest::qWaitFor([&] { return import->isEnabled(); }));
         import->click();
     });
-    window->importFrom({QString::fromStdString(examples + "phone_logger.csv")});
+    window->imports().importFrom({QString::fromStdString(examples + "phone_logger.csv")});
     ASSERT_TRUE(window->document().value().recording);
     EXPECT_FALSE(window->document().value().session.strokesData.empty());
     const std::size_t before = window->document().value().session.heart.size();
-    window->importFrom({track});
+    window->imports().importFrom({track});
     const std::size_t readings = window->document().value().session.heart.size();
     EXPECT_GT(readings, before);
     press(*window, Qt::CTRL | Qt::Key_Z);
@@ -353,7 +356,7 @@ TEST_F(SessionWindowTest, AListOfALoggerBecomesARecordingAndATrackJoinsIt) {
         EXPECT_FALSE(overlap->text().contains("before the recording"));
     });
     m_recorder.alerts.clear();
-    window->importFrom({add("late.gpx", late)});
+    window->imports().importFrom({add("late.gpx", late)});
     const auto heart = [&] { return window->document().value().session.heart; };
     ASSERT_THAT(heart(), Not(IsEmpty()));
     EXPECT_THAT(m_recorder.alerts, ElementsAre(HasSubstr("heart rates were taken over")));
@@ -362,12 +365,12 @@ TEST_F(SessionWindowTest, AListOfALoggerBecomesARecordingAndATrackJoinsIt) {
         auto* const begin = dialog.template findChild<QDateTimeEdit*>("begin");
         begin->setDateTime(begin->dateTime().addSecs(2));
     });
-    window->moveTrack();
+    window->imports().moveTrack();
     EXPECT_NEAR(heart().front().date.seconds, first + 2, 1.5) << "moved, and not joined twice";
     EXPECT_LE(heart().size(), readings);
     press(*window, Qt::CTRL | Qt::Key_Z);
     EXPECT_EQ(heart().front().date.seconds, first);
-    EXPECT_TRUE(window->saveRecording(path("logger.kvb")));
+    EXPECT_TRUE(window->exports().saveRecording(path("logger.kvb")));
     EXPECT_FALSE(readRawSession(m_folder.path() / "logger.kvb").boatmotion.empty());
 }
 

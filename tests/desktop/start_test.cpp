@@ -4,6 +4,7 @@
 #include "common/temp_folder.h"
 #include "desktop/cross/cross_window.h"
 #include "desktop/motion/motion_window.h"
+#include "desktop/planning/online/online_planning.h"
 #include "desktop/planning/planning_window.h"
 #include "desktop/race/race_window.h"
 #include "desktop/selection/selection_window.h"
@@ -140,8 +141,8 @@ TEST_F(StartTest, OffersAnOnlinePlanningAtStartOnlyFromASafeAddress) {
     Desktop program(m_workspace, autosave());
     program.loadPlanningAtStart();
     ASSERT_THAT(program.windows(), SizeIs(1));
-    QSignalSpy loaded(qobject_cast<desktop::PlanningWindow*>(program.windows().front()),
-                      &desktop::PlanningWindow::onlineLoaded);
+    QSignalSpy loaded(&program.windowsOf<desktop::PlanningWindow>().constFirst()->online(),
+                      &desktop::OnlinePlanning::loaded);
     ASSERT_TRUE(loaded.wait());
     EXPECT_FALSE(loaded.front().front().toBool());
     EXPECT_THAT(m_recorder.alerts, SizeIs(1));

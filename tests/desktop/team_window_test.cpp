@@ -1,33 +1,18 @@
-#include "desktop/team/team_window.h"
+#include "desktop/team_fixture.h"
 
-#include "common/json_encode.h"
-#include "common/recorders.h"
-#include "common/temp_folder.h"
 #include "desktop/charts/series_chart.h"
-#include "desktop/people/found_lines_view.h"
 #include "desktop/refusals.h"
-#include "desktop/shell/tables/column_table.h"
-#include "desktop/shell/workspace.h"
-#include "desktop/team/athlete_panel.h"
 #include "desktop/team/charts/chart_tabs.h"
 #include "desktop/team/results_view.h"
-#include "desktop/team/takeover/take_over_dialog.h"
 #include "desktop/team/typed_values.h"
 #include "results/phase_averages.h"
-#include "results/team_file.h"
-#include "splitdata/document.h"
 #include "splittaking/messages.h"
 
-#include <gmock/gmock.h>
-
-#include <QApplication>
-#include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMimeData>
 #include <QTabBar>
 #include <QTableView>
-#include <QTest>
 #include <QTimer>
 #include <QTreeView>
 
@@ -35,12 +20,9 @@ namespace kavela::test {
 namespace {
 
 namespace fs = std::filesystem;
-using desktop::Autosave;
 using desktop::SeasonModel;
 using desktop::SeasonPlace;
-using desktop::TakeOverDialog;
 using desktop::TeamWindow;
-using desktop::Workspace;
 using ::testing::Contains;
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
@@ -48,78 +30,8 @@ using ::testing::IsEmpty;
 using ::testing::Not;
 using ::testing::SizeIs;
 
-mtRaceStruct race(const char* event, const char* location, std::int64_t finalPos) {
-    mtRaceStruct made;
-    made.event = event;
-    made.location = location;
-    made.finalPos = finalPos;
-    return made;
-}
-
-mtSeasonStruct season(std::int64_t year, std::vector<mtRaceStruct> races) {
-    mtSeasonStruct made;
-    made.year = year;
-    made.races = std::move(races);
-    return made;
-}
-
-/// An athlete whose third season makes the difference, and a second one.
-myTeamToSaveStruct smallTeam() {
-    myTeamToSaveStruct team;
-    myTeamStruct ann{"ŠTERN Ann Marie", 1998, {}, false};
-    ann.cats.push_back(
-        {"WK1",
-         {season(2025, {race("WC1", "Tacen", 5), race("ICF", "Solkan", 9)}),
-          season(2024, {race("WC2", "Praha", 12)}), season(2023, {race("EUROS", "Ljubljana", 2)})},
-         {}});
-    team.realMyTeam.push_back(ann);
-    team.realMyTeam.push_back({"OAKES Tom", 2001, {{"MC1", {}, {}}}, false});
-    return team;
-}
-
-class TeamWindowTest : public ::testing::Test {
+class TeamWindowTest : public TeamFixture {
 protected:
-    TeamWindowTest() {
-        m_workspace.setAlerts(&m_recorder);
-        m_workspace.setAnswer([this](const Alert& question) {
-            m_questions.push_back(question.text);
-            return true;
-        });
-        saveTeamFile(smallTeam(), file());
-    }
-
-    fs::path file() const { return m_folder.path() / "team.kvteam"; }
-
-    std::unique_ptr<TeamWindow> makeWindow() {
-        auto window = std::make_unique<TeamWindow>(
-            m_workspace, Autosave(QString::fromStdString((m_folder.path() / "autosave").string())));
-        window->setAttribute(Qt::WA_DeleteOnClose, false);
-        return window;
-    }
-
-    static void show(TeamWindow& window) {
-        window.show();
-        QApplication::setActiveWindow(&window);
-        QApplication::processEvents();
-    }
-
-    std::unique_ptr<TeamWindow> openWindow() {
-        auto window = makeWindow();
-        if (!window->open(QString::fromStdString(file().string())))
-            return nullptr;
-        show(*window);
-        window->athletes().choose(0);
-        return window;
-    }
-
-    static void press(TeamWindow& window, QKeyCombination keys) {
-        if (QApplication::activeWindow() != &window)
-            QApplication::setActiveWindow(&window); // no window manager does
-        QWidget* const focus = window.focusWidget() ? window.focusWidget() : &window;
-        QTest::keyClick(focus, keys.key(), keys.keyboardModifiers());
-        QApplication::processEvents();
-    }
-
     /// Opens the current cell of a view, types and leaves it with Enter.
     static void type(TeamWindow& window, QAbstractItemView& view, const QString& text) {
         view.setFocus();
@@ -137,20 +49,6 @@ protected:
         return window.findChild<QLabel*>(name)->text();
     }
 
-    /// Looks at the dialog that comes next, and closes it.
-    static void whenAsked(std::function<void(TakeOverDialog&)> act) {
-        QTimer::singleShot(0, [act = std::move(act)] {
-            auto* const dialog = qobject_cast<TakeOverDialog*>(QApplication::activeModalWidget());
-            ASSERT_TRUE(dialog);
-            act(*dialog);
-            dialog->accept();
-        });
-    }
-
-    static QString text(TakeOverDialog& dialog, int line, int column) {
-        return dialog.lines().index(line, column).data().toString();
-    }
-
     /// Types into the view that has the focus, wherever the keys go.
     static void keys(TeamWindow& window, const char* text) {
         for (; *text; ++text) {
@@ -158,16 +56,6 @@ protected:
             QTest::keyClick(QApplication::focusWidget(), *text);
         }
     }
-
-    const mtCatsStruct& results(const TeamWindow& window) const {
-        return window.document().athletes()[0].cats[0];
-    }
-
-    TempFolder m_folder;
-    Recorder m_recorder;
-    std::vector<std::string> m_questions;
-    Workspace m_workspace{Preferences(m_folder.path() / "preferences.ini"), m_recorder.log(),
-                          [] { return ReferenceDate{7.7e8}; }}; // in May 2025
 };
 
 TEST_F(TeamWindowTest, EditsByKeysAloneAndTakesEveryStepBack) {
@@ -338,135 +226,6 @@ TEST(TypedValues, AreReadAsCoachesWriteThem) {
     EXPECT_THROW((void)typedTime("1:60"), RefusedEntry);
     EXPECT_THROW((void)typedTime("3600"), RefusedEntry);
     EXPECT_THROW((void)typedBirthYear("98"), RefusedEntry);
-}
-
-athletedata031 run(const char* name, const char* phase, std::vector<double> times) {
-    athletedata031 made;
-    made.names = {name};
-    made.cat = "K1W";
-    made.phase = phase;
-    made.sectioninfo.times = times;
-    made.sectioninfo.totaltime = times[0] + times[1];
-    made.sectioninfo.isfullrun = times[1] > 0;
-    return made;
-}
-
-/// A race with the names in another order, and no positions.
-splittakerdata031 splitFile() {
-    splittakerdata031 file;
-    file.info.event = "World Cup 3";
-    file.info.place = "Praha";
-    file.info.date = referenceDate(std::chrono::year(2025) / 6 / 14);
-    file.info.totalsplits = 2;
-    file.athletes = {run("Zoe Fast", "Heats", {40, 50}), run("Ann Marie Stern", "Heats", {44, 50}),
-                     run("Zoe Fast", "Final", {40, 48}), run("Ann Marie Stern", "Final", {41, 48})};
-    file.athletes[1].sectioninfo.realtime = 94.03;
-    file.athletes[1].sectioninfo.realpen = 2;
-    return file;
-}
-
-TEST_F(TeamWindowTest, TakesResultsOverFromASplitFileAfterShowingThem) {
-    const auto window = openWindow();
-    ASSERT_TRUE(window);
-    const fs::path path = m_folder.add("race.kvx", encode(splitFile()));
-    whenAsked([&](TakeOverDialog& dialog) {
-        EXPECT_EQ(encode(window->document().value()), encode(smallTeam())) << "nothing yet";
-        EXPECT_EQ(dialog.tickedCount(), 3U); // two runs and the final position
-        EXPECT_EQ(text(dialog, 0, dialog.lines().whoseColumn()), "ŠTERN Ann Marie");
-        EXPECT_EQ(text(dialog, 3, 0), "Zoe Fast");
-        EXPECT_EQ(text(dialog, 3, dialog.lines().whoseColumn()), "not in the team");
-        dialog.view().selectRow(1);
-        QTest::keyClick(&dialog.view(), Qt::Key_Space); // not the run of the final
-        EXPECT_EQ(dialog.tickedCount(), 2U);
-    });
-    window->takeOverFrom({QString::fromStdString(path.string())});
-    const mtRaceStruct taken = results(*window).seasons[0].races.at(2);
-    EXPECT_EQ(taken.event, "WC3");
-    EXPECT_EQ(taken.location, "Praha");
-    EXPECT_EQ(taken.finalPos, 2);
-    ASSERT_THAT(taken.phases, SizeIs(1));
-    EXPECT_EQ(taken.phases[0].phase, "Heats 1");
-    EXPECT_EQ(taken.phases[0].time, 94.03);
-    EXPECT_EQ(taken.phases[0].pen, 2);
-    EXPECT_EQ(taken.phases[0].pos, 2);
-    EXPECT_THAT(taken.phases[0].pers, ElementsAre(::testing::DoubleEq((44.0 / 40 - 1) * 100), 0));
-    EXPECT_EQ(results(*window).seasons[0].aves.at(0).phase, "Heats 1");
-    EXPECT_EQ(window->charts().seasonChart().emptyMessage(), "");
-    EXPECT_THAT(window->charts().progressionChart().csv().toStdString(),
-                HasSubstr("WC3;Praha;Result;2"));
-    press(*window, Qt::CTRL | Qt::Key_Z);
-    EXPECT_EQ(encode(window->document().value()), encode(smallTeam()));
-}
-
-TEST_F(TeamWindowTest, AListReplacesTheResultButKeepsTheSplits) {
-    myTeamToSaveStruct team = smallTeam();
-    mtPhaseStruct final;
-    final.phase = "Final";
-    final.time = 100;
-    final.splits = {50, 50};
-    final.pers = {1, 2};
-    team.realMyTeam[0].cats[0].seasons[0].races[0].phases.push_back(final);
-    saveTeamFile(team, file());
-    const auto window = openWindow();
-    ASSERT_TRUE(window);
-    const fs::path list = m_folder.add("final.csv", "pos;bib;name;nationality;time;pen\n"
-                                                    "4;7;Ann Marie STERN;SLO;99.5;2\n"
-                                                    "5;8;Tom Oakes;SLO;101;0\n");
-    whenAsked([](TakeOverDialog& dialog) {
-        dialog.findChild<QComboBox*>("event")->setCurrentText("WC1");
-        dialog.findChild<QLineEdit*>("location")->setText("TACEN");
-        EXPECT_EQ(text(dialog, 0, dialog.lines().wasColumn()), "100.00");
-        EXPECT_EQ(text(dialog, 0, dialog.lines().nowColumn()), "4. 99.50 (2)");
-        EXPECT_EQ(dialog.tickedCount(), 2U) << "none of the athlete of another boat";
-    });
-    window->takeOverFrom({QString::fromStdString(list.string())});
-    ASSERT_THAT(results(*window).seasons[0].races, SizeIs(2)) << "the race is the one there";
-    const mtRaceStruct& taken = results(*window).seasons[0].races[0];
-    EXPECT_EQ(taken.finalPos, 4);
-    EXPECT_EQ(taken.phases.at(0).time, 99.5);
-    EXPECT_THAT(taken.phases.at(0).splits, ElementsAre(50, 50));
-}
-
-TEST_F(TeamWindowTest, GivesCrewsToAthletesByHandAndAddsThem) {
-    const auto window = openWindow();
-    ASSERT_TRUE(window);
-    splittakerdata031 file = splitFile();
-    for (athletedata031& run : file.athletes)
-        if (run.names[0].starts_with("Ann"))
-            run.names[0] = "A. Stern";
-    const fs::path path = m_folder.add("race.kvx", encode(file));
-    whenAsked([&](TakeOverDialog& dialog) {
-        EXPECT_EQ(dialog.tickedCount(), 0U);
-        ASSERT_EQ(text(dialog, 0, 0), "A. Stern") << "whose name is like one of the team";
-        EXPECT_EQ(text(dialog, 0, dialog.lines().remarkColumn()), "perhaps ŠTERN Ann Marie?");
-        auto& view = dialog.view();
-        const auto choose = [&](int row, int down) {
-            view.setFocus();
-            view.choose(row, dialog.lines().whoseColumn());
-            QTest::keyClick(&view, Qt::Key_F2);
-            const auto combos = view.findChildren<QComboBox*>("whose");
-            ASSERT_FALSE(combos.isEmpty());
-            QComboBox* const combo = combos.last(); // the one before may still be on its way out
-            for (int i = 0; i < down; ++i)          // leave out, add, then the likest
-                QTest::keyClick(combo, Qt::Key_Down);
-            QTest::keyClick(combo, Qt::Key_Return);
-            QApplication::processEvents();
-        };
-        choose(0, 2);
-        EXPECT_EQ(text(dialog, 0, dialog.lines().whoseColumn()), "ŠTERN Ann Marie");
-        EXPECT_EQ(dialog.tickedCount(), 3U) << "both runs and the final position";
-        ASSERT_EQ(text(dialog, 3, 0), "Zoe Fast");
-        choose(3, 1);
-        EXPECT_EQ(dialog.tickedCount(), 6U);
-        EXPECT_EQ(text(dialog, 3, dialog.lines().whoseColumn()), "new: Zoe Fast");
-    });
-    window->takeOverFrom({QString::fromStdString(path.string())});
-    EXPECT_EQ(results(*window).seasons[0].races.at(2).finalPos, 2);
-    ASSERT_THAT(window->document().athletes(), SizeIs(3));
-    const myTeamStruct& added = window->document().athletes()[2];
-    EXPECT_EQ(added.name, "Zoe Fast");
-    EXPECT_EQ(added.cats.at(0).cat, "WK1");
-    EXPECT_EQ(added.cats[0].seasons.at(0).races.at(0).finalPos, 1);
 }
 
 TEST_F(TeamWindowTest, RefusesBadFilesAndLosesNothing) {

@@ -3,7 +3,9 @@
 #include "common/folded_text.h"
 #include "desktop/shell/theme.h"
 
+#include <QBuffer>
 #include <QComboBox>
+#include <QImageReader>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
@@ -26,13 +28,19 @@ QString categoriesOf(const athletesplanning_v6& athlete) {
     return categories.join(", ");
 }
 
-QPixmap photoOf(const std::vector<unsigned char>& bytes) {
-    QPixmap photo;
-    photo.loadFromData(reinterpret_cast<const uchar*>(bytes.data()),
-                       static_cast<uint>(bytes.size()));
+/// Read in the size that is shown: the whole picture of a camera takes fifty megabytes.
+QPixmap photoOf(const Blob& picture) {
+    QByteArray bytes = QByteArray::fromRawData(reinterpret_cast<const char*>(picture.bytes.data()),
+                                               static_cast<qsizetype>(picture.bytes.size()));
+    QBuffer buffer(&bytes);
+    QImageReader reader(&buffer);
+    if (const QSize whole = reader.size(); whole.isValid())
+        reader.setScaledSize(whole.scaled(PhotoSide, PhotoSide, Qt::KeepAspectRatio));
+    const QImage photo = reader.read();
     return photo.isNull()
-               ? photo
-               : photo.scaled(PhotoSide, PhotoSide, Qt::KeepAspectRatio, Qt::SmoothTransformation);
+               ? QPixmap()
+               : QPixmap::fromImage(photo.scaled(PhotoSide, PhotoSide, Qt::KeepAspectRatio,
+                                                 Qt::SmoothTransformation));
 }
 
 } // namespace
@@ -126,7 +134,7 @@ void AthleteList::fillSeasons() {
 void AthleteList::showCard() {
     const athletesplanning_v6* const athlete =
         m_athlete ? m_document.athleteAt(*m_athlete) : nullptr;
-    showPhoto(athlete ? athlete->photo.bytes : std::vector<unsigned char>());
+    showPhoto(athlete ? athlete->photo : Blob());
     QStringList contact;
     if (athlete)
         contact << QString::fromStdString(athlete->email) << QString::fromStdString(athlete->phone);
@@ -136,11 +144,11 @@ void AthleteList::showCard() {
 }
 
 /// Every edit comes by here, and few change the picture, which takes long to read.
-void AthleteList::showPhoto(const std::vector<unsigned char>& bytes) {
-    if (bytes == m_photoBytes)
+void AthleteList::showPhoto(const Blob& picture) {
+    if (picture == m_shownPicture)
         return;
-    m_photoBytes = bytes;
-    const QPixmap photo = photoOf(bytes);
+    m_shownPicture = picture;
+    const QPixmap photo = photoOf(picture);
     m_photo->setPixmap(photo);
     m_photo->setVisible(!photo.isNull());
 }

@@ -41,7 +41,7 @@ private:
     void fill();
     void fillSeasons();
     void showCard();
-    void showPhoto(const std::vector<unsigned char>& bytes);
+    void showPhoto(const Blob& picture);
     void filter();
     [[nodiscard]] bool mayLeave();
 
@@ -50,7 +50,7 @@ private:
     QListWidget* m_list;
     QComboBox* m_seasons;
     QLabel* m_photo;
-    std::vector<unsigned char> m_photoBytes; ///< what the picture was made of
+    Blob m_shownPicture; ///< what the picture was made of
     QLabel* m_contact;
     std::function<bool()> m_mayLeave;
     std::optional<std::size_t> m_athlete;

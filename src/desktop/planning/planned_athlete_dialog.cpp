@@ -95,7 +95,7 @@ bool PlannedAthleteDialog::takePicture(const QString& path) {
         return false;
     }
     m_fault->tell({});
-    m_athlete.photo.bytes.assign(bytes.begin(), bytes.end());
+    m_athlete.photo.bytes = std::vector<unsigned char>(bytes.begin(), bytes.end());
     showPicture();
     return true;
 }

@@ -2,7 +2,9 @@
 
 #include "desktop/planning/athlete_list.h"
 #include "desktop/planning/body/body_panel.h"
+#include "desktop/planning/online/online_planning.h"
 #include "desktop/planning/plan/plan_view.h"
+#include "desktop/planning/planning_handouts.h"
 #include "desktop/planning/planning_window.h"
 
 #include <QLineEdit>
@@ -119,10 +121,10 @@ void makeViewMenu(PlanningWindow& window) {
 
 void makePlanningMenus(PlanningWindow& window, QMenu& file) {
     file.addAction(PlanningWindow::tr("&Reports: preview, PDF, print…"), QKeySequence::Print,
-                   &window, [&window] { window.previewReports(); });
+                   &window, [&window] { window.handouts().previewReports(); });
     file.addAction(PlanningWindow::tr("Week as a &calendar file…"),
                    QKeySequence(Qt::CTRL | Qt::Key_E), &window,
-                   [&window] { window.askForCalendar(); });
+                   [&window] { window.handouts().askForCalendar(); });
     file.addAction(PlanningWindow::tr("Import heart-rate &variability…"), &window, [&window] {
         showPage(window.tabs(), window.body());
         window.body().showSection(BodyPanel::Variability);
@@ -130,9 +132,9 @@ void makePlanningMenus(PlanningWindow& window, QMenu& file) {
     });
     file.addSeparator();
     file.addAction(PlanningWindow::tr("Open an o&nline planning…"), &window,
-                   [&window] { window.askToLoadOnline(); });
+                   [&window] { window.online().askToLoad(); });
     file.addAction(PlanningWindow::tr("Sa&ve online…"), &window,
-                   [&window] { window.askToSaveOnline(); });
+                   [&window] { window.online().askToSave(); });
     makeAthleteMenu(window);
     makeSessionMenu(window);
     makeWeekMenu(window);

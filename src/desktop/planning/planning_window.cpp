@@ -1,15 +1,15 @@
 #include "desktop/planning/planning_window.h"
 
-#include "common/error.h"
-#include "common/safe_file.h"
 #include "desktop/planning/athlete_list.h"
 #include "desktop/planning/body/body_panel.h"
 #include "desktop/planning/goals/goals_panel.h"
 #include "desktop/planning/gym/gym_panel.h"
 #include "desktop/planning/intervals/intervals_panel.h"
+#include "desktop/planning/online/online_planning.h"
 #include "desktop/planning/plan/plan_view.h"
 #include "desktop/planning/planned_athlete_dialog.h"
 #include "desktop/planning/planning_actions.h"
+#include "desktop/planning/planning_handouts.h"
 #include "desktop/planning/ranking/ranking_panel.h"
 #include "desktop/shell/refused_entry.h"
 #include "desktop/shell/scroll_page.h"
@@ -18,11 +18,9 @@
 #include "desktop/shell/window_place.h"
 #include "desktop/shell/workspace.h"
 #include "planning/calendar_day.h"
-#include "planning/calendar_text.h"
 #include "planning/messages.h"
 #include "planning/weeks.h"
 
-#include <QFileDialog>
 #include <QFileInfo>
 #include <QListWidget>
 #include <QSplitter>
@@ -51,8 +49,7 @@ PlanningWindow::PlanningWindow(Workspace& workspace, Autosave autosave)
 
 PlanningWindow::PlanningWindow(Workspace& workspace, std::unique_ptr<PlanningDocument> document)
     : ToolWindow(workspace, document.get(), {"planning", tr("Planning"), "planning"}),
-      m_document(std::move(document)),
-      m_states(workspace) {
+      m_document(std::move(document)) {
     makeParts();
     connectParts();
     QMenu* const fileMenu = makeFileMenu();
@@ -99,6 +96,10 @@ void PlanningWindow::makeParts() {
     whole->setChildrenCollapsible(false);
     rememberSizes(*whole, workspace(), "planningParts");
     setCentralWidget(whole);
+    m_online = std::make_unique<OnlinePlanning>(*m_document, workspace(), *this,
+                                                [this] { return mayLeave(); });
+    m_handouts =
+        std::make_unique<PlanningHandouts>(*m_document, *m_athletes, *m_plan, workspace(), *this);
 }
 
 void PlanningWindow::connectParts() {
@@ -108,8 +109,6 @@ void PlanningWindow::connectParts() {
             [this](const QString& text) { statusBar()->showMessage(text, ToldMilliseconds); });
     for (const SeasonPanel* const panel : m_tabs->findChildren<SeasonPanel*>())
         connect(panel, &SeasonPanel::refused, this, &PlanningWindow::tell, Qt::QueuedConnection);
-    connect(m_document.get(), &EditedFile::saved, this,
-            [this] { m_states.keepWith(m_document->path()); });
     connect(m_intervals, &IntervalsPanel::refused, this, &PlanningWindow::tell,
             Qt::QueuedConnection);
 }
@@ -121,7 +120,7 @@ bool PlanningWindow::open(const QString& path) {
         return false;
     }
     statusBar()->clearMessage();
-    m_states.begin(m_document->path());
+    m_online->begin(m_document->path());
     if (const std::size_t count = m_document->withoutPlace())
         tell(tr("%1 measurements of heart-rate variability of this older file hold only a highest "
                 "and a lowest value, for which the present version has no place: their dates are "
@@ -134,7 +133,7 @@ bool PlanningWindow::open(const QString& path) {
 
 void PlanningWindow::startNew(const QString& path) {
     m_document->startNew(path, this);
-    m_states.begin({});
+    m_online->begin({});
     m_athletes->list().setFocus();
 }
 
@@ -209,41 +208,6 @@ void PlanningWindow::removeSeason() {
                                     athlete.year.erase(athlete.year.begin() +
                                                        static_cast<std::ptrdiff_t>(season->season));
                                 });
-}
-
-void PlanningWindow::writeCalendar(const QString& path) {
-    const auto athlete = m_athletes->athlete();
-    const microsplanning_v5* const week = m_plan->week();
-    if (athlete && week)
-        writeFileSafely(path.toStdString(),
-                        weekCalendar(m_document->athletes()[*athlete], *week,
-                                     m_document->value().favintses, workspace().clock()()));
-}
-
-void PlanningWindow::askForCalendar() {
-    const microsplanning_v5* const week = m_plan->week();
-    if (!week) {
-        tell(tr("There is no week to write."));
-        return;
-    }
-    const QString name =
-        tr("Week %1 %2.ics")
-            .arg(QString::number(week->number),
-                 QString::fromStdString(m_document->athletes()[*m_athletes->athlete()].name)
-                     .remove('/'));
-    const QString path = QFileDialog::getSaveFileName(
-        this, tr("Week as a calendar file"), QFileInfo(m_document->path()).path() + '/' + name,
-        tr("Calendar files (*.ics)"));
-    if (path.isEmpty())
-        return;
-    try {
-        writeCalendar(path);
-        statusBar()->showMessage(tr("%1 is written.").arg(QFileInfo(path).fileName()),
-                                 ToldMilliseconds);
-    } catch (const FileError& error) {
-        workspace().log()(planning_messages::NotSaved);
-        workspace().showAlert({planning_messages::NotSaved, error.what()}, this);
-    }
 }
 
 /// Split files go into the statistics, lists into the variability; the rest is opened.

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "desktop/planning/online/online_states.h"
-#include "desktop/planning/online/online_store.h"
 #include "desktop/planning/planning_document.h"
 #include "desktop/shell/tool_window.h"
+
+#include <memory>
 
 class QTabWidget;
 
@@ -14,6 +14,8 @@ class BodyPanel;
 class GoalsPanel;
 class GymPanel;
 class IntervalsPanel;
+class OnlinePlanning;
+class PlanningHandouts;
 class PlanView;
 class RankingPanel;
 
@@ -38,6 +40,8 @@ public:
     [[nodiscard]] BodyPanel& body() const { return *m_body; }
     [[nodiscard]] GymPanel& gym() const { return *m_gym; }
     [[nodiscard]] RankingPanel& ranking() const { return *m_ranking; }
+    [[nodiscard]] OnlinePlanning& online() const { return *m_online; }
+    [[nodiscard]] PlanningHandouts& handouts() const { return *m_handouts; }
 
     void addAthlete(const athletesplanning_v6& athlete);
     void askForAthlete();
@@ -46,29 +50,6 @@ public:
     /// A season of 52 empty weeks behind the latest one of the athlete.
     void addSeason();
     void removeSeason();
-
-    void previewReports();
-    /// The week in front as an iCalendar file; throws FileError.
-    void writeCalendar(const QString& path);
-    void askForCalendar();
-
-    /// A planning that was read elsewhere, to be looked at; the name is where saving will propose
-    /// to put it. False when it is none.
-    [[nodiscard]] bool showCopy(const QByteArray& content, const QString& path);
-
-    /// Puts the planning and its access record into the store under the entry's name. Asks before
-    /// it replaces what somebody else put there.
-    void saveOnline(const OnlineAddress& address, const QString& entry);
-    void askToSaveOnline();
-    /// Opens a planning of the store as an unsaved document; what is shown stays when that fails.
-    void loadOnline(const OnlineAddress& address, const QString& entry);
-    void askToLoadOnline();
-
-signals:
-    void onlineLoaded(bool isOpen);
-    void onlineSaved(bool isSaved);
-    /// What lies on the server is to be looked at in a window of its own.
-    void copyRequested(const QByteArray& content, const QString& name);
 
 protected:
     void takeFiles(const QStringList& paths) override;
@@ -80,14 +61,8 @@ private:
     void connectParts();
     void showSeason();
     void tell(const QString& text);
-    void tellOnlineFault(const QString& reason);
-    void chooseForChanged(OnlineSaving& saving, const OnlineAddress& address, const QString& entry,
-                          const QByteArray& there);
-    void saveOnlineUnderAnotherName(const OnlineAddress& address, const QString& entry);
 
     std::unique_ptr<PlanningDocument> m_document;
-    OnlineStore m_store;
-    OnlineStates m_states;
     AthleteList* m_athletes = nullptr;
     QTabWidget* m_tabs = nullptr;
     PlanView* m_plan = nullptr;
@@ -96,6 +71,8 @@ private:
     GymPanel* m_gym = nullptr;
     RankingPanel* m_ranking = nullptr;
     IntervalsPanel* m_intervals = nullptr;
+    std::unique_ptr<OnlinePlanning> m_online; ///< its answers find the document still there
+    std::unique_ptr<PlanningHandouts> m_handouts;
 };
 
 } // namespace kavela::desktop

@@ -3,6 +3,10 @@
 #include "desktop/motion/mount_names.h"
 #include "desktop/sessions/course_map.h"
 #include "desktop/sessions/replay.h"
+#include "desktop/sessions/session_edits.h"
+#include "desktop/sessions/session_exports.h"
+#include "desktop/sessions/session_imports.h"
+#include "desktop/sessions/session_marks.h"
 #include "desktop/sessions/session_view.h"
 #include "desktop/sessions/session_window.h"
 
@@ -46,24 +50,26 @@ void fillFileMenu(SessionWindow& window, QMenu& menu) {
         [&window] { window.askForRecording(); });
     add(menu, window, tr("Import .s&bm file"), Qt::CTRL | Qt::SHIFT | Qt::Key_I,
         [&window] { window.askForSession(); });
-    add(menu, window, tr("Import from a &watch or logger…"), [&window] { window.askForImports(); });
+    add(menu, window, tr("Import from a &watch or logger…"),
+        [&window] { window.imports().askForImports(); });
     enableWhile(menu,
                 add(menu, window, tr("Move the trac&k of the watch in time…"),
-                    [&window] { window.moveTrack(); }),
-                [&window] { return window.hasTrack(); });
-    add(menu, window, tr("Import &power-meter data…"), [&window] { window.askForPowerMeter(); });
+                    [&window] { window.imports().moveTrack(); }),
+                [&window] { return window.imports().hasTrack(); });
+    add(menu, window, tr("Import &power-meter data…"),
+        [&window] { window.imports().askForPowerMeter(); });
     QAction* const raw = add(menu, window, tr("Save the edited .&kvb file"),
                              [&window] { window.askAndSaveRecording(); });
     enableWhile(menu, raw, [&window] { return window.document().value().recording != nullptr; });
     menu.addSeparator();
     add(menu, window, tr("&Export the strokes…"), Qt::CTRL | Qt::Key_E,
-        [&window] { window.askAndExport(SessionTables::StrokePage); });
+        [&window] { window.exports().askAndExport(SessionTables::StrokePage); });
     add(menu, window, tr("Export the &turns…"), Qt::CTRL | Qt::SHIFT | Qt::Key_E,
-        [&window] { window.askAndExport(SessionTables::TurnPage); });
+        [&window] { window.exports().askAndExport(SessionTables::TurnPage); });
     add(menu, window, tr("Export the se&gments…"),
-        [&window] { window.askAndExport(SessionTables::SegmentPage); });
+        [&window] { window.exports().askAndExport(SessionTables::SegmentPage); });
     add(menu, window, tr("Export the values per &distance…"),
-        [&window] { window.askAndExport(SessionTables::MetersPage); });
+        [&window] { window.exports().askAndExport(SessionTables::MetersPage); });
 }
 
 /// Which side of the phone points to the bow. Also offered where it is not known.
@@ -78,7 +84,7 @@ void addMounts(SessionWindow& window, QMenu& menu) {
             action->setChecked(window.document().value().mount == mount);
         });
         QObject::connect(action, &QAction::triggered, &window,
-                         [&window, mount] { window.nameMount(mount); });
+                         [&window, mount] { window.edits().nameMount(mount); });
     }
     enableWhile(menu, mounts->menuAction(),
                 [&window] { return window.document().value().recording != nullptr; });
@@ -87,20 +93,21 @@ void addMounts(SessionWindow& window, QMenu& menu) {
 
 void fillEditMenu(SessionWindow& window, QMenu& menu) {
     add(menu, window, tr("Session &information…"), Qt::CTRL | Qt::Key_D,
-        [&window] { window.editInformation(); });
+        [&window] { window.edits().editInformation(); });
     QAction* const again = add(menu, window, tr("&Analyse the recording again"), Qt::Key_F5,
-                               [&window] { window.analyseAgain(); });
+                               [&window] { window.edits().analyseAgain(); });
     enableWhile(menu, again, [&window] { return window.document().value().recording != nullptr; });
     addMounts(window, menu);
     menu.addSeparator();
     const auto isSelected = [&window] { return window.view().selection().has_value(); };
     enableWhile(menu,
                 add(menu, window, tr("&Keep the selected stretch"), Qt::CTRL | Qt::Key_T,
-                    [&window] { window.keepSelection(); }),
+                    [&window] { window.edits().keepSelection(); }),
                 isSelected);
     enableWhile(menu,
                 add(menu, window, tr("Remove the selected &stretch"),
-                    Qt::CTRL | Qt::SHIFT | Qt::Key_T, [&window] { window.removeSelection(); }),
+                    Qt::CTRL | Qt::SHIFT | Qt::Key_T,
+                    [&window] { window.edits().removeSelection(); }),
                 isSelected);
     add(menu, window, tr("Re&move the selected strokes, turns or mark"), Qt::Key_Delete,
         [&window] { window.removeCurrent(); });
@@ -110,21 +117,21 @@ void fillEditMenu(SessionWindow& window, QMenu& menu) {
 
 void makeSegmentsMenu(SessionWindow& window) {
     QMenu& menu = *window.menuBar()->addMenu(tr("&Segments"));
-    add(menu, window, tr("&Mark here"), Qt::Key_M, [&window] { window.mark(); });
+    add(menu, window, tr("&Mark here"), Qt::Key_M, [&window] { window.marks().mark(); });
     add(menu, window, tr("Mo&ve the nearest mark here"), Qt::SHIFT | Qt::Key_M,
-        [&window] { window.moveMarkHere(); });
+        [&window] { window.marks().moveNearestHere(); });
     add(menu, window, tr("Nearest mark &earlier"), Qt::ALT | Qt::Key_Left,
-        [&window] { window.moveMark(-MarkStep); });
+        [&window] { window.marks().moveNearest(-MarkStep); });
     add(menu, window, tr("Nearest mark &later"), Qt::ALT | Qt::Key_Right,
-        [&window] { window.moveMark(MarkStep); });
+        [&window] { window.marks().moveNearest(MarkStep); });
     add(menu, window, tr("&Remove the nearest mark"), Qt::SHIFT | Qt::Key_Delete,
-        [&window] { window.removeMark(); });
-    add(menu, window, tr("Remove &all marks"), [&window] { window.removeMarks(); });
+        [&window] { window.marks().removeNearest(); });
+    add(menu, window, tr("Remove &all marks"), [&window] { window.marks().removeAll(); });
     menu.addSeparator();
     add(menu, window, tr("&Previous mark"), Qt::CTRL | Qt::Key_Left,
-        [&window] { window.goToMark(-1); });
+        [&window] { window.marks().goTo(-1); });
     add(menu, window, tr("&Next mark"), Qt::CTRL | Qt::Key_Right,
-        [&window] { window.goToMark(1); });
+        [&window] { window.marks().goTo(1); });
     menu.addSeparator();
     add(menu, window, tr("&Save the segments"), Qt::CTRL | Qt::Key_M,
         [&window] { window.saveSegments(); });
@@ -143,8 +150,10 @@ void makeReplayMenu(SessionWindow& window) {
     add(menu, window, tr("&Faster"), Qt::Key_BracketRight, [replay] { replay->changeSpeed(1); });
     add(menu, window, tr("&Real time"), Qt::Key_Backspace, [replay] { replay->setSpeed(1); });
     menu.addSeparator();
-    add(menu, window, tr("P&revious stroke"), Qt::Key_Left, [&window] { window.goToStroke(-1); });
-    add(menu, window, tr("&Next stroke"), Qt::Key_Right, [&window] { window.goToStroke(1); });
+    add(menu, window, tr("P&revious stroke"), Qt::Key_Left,
+        [&window] { window.view().goToStroke(-1); });
+    add(menu, window, tr("&Next stroke"), Qt::Key_Right,
+        [&window] { window.view().goToStroke(1); });
     jump("One second back", Qt::SHIFT | Qt::Key_Left, -1);
     jump("One second forward", Qt::SHIFT | Qt::Key_Right, 1);
     jump("Ten seconds back", Qt::Key_PageUp, -10);

@@ -14,6 +14,12 @@ void SessionDocument::show(EditedSession session, const QString& path, QWidget* 
     start(std::move(session), path, over);
 }
 
+bool SessionDocument::hasSession() const {
+    const smartAlldata_v4& session = value().session;
+    return value().recording || !session.strokesData.empty() || !session.gps.empty() ||
+           !session.info.name.empty();
+}
+
 SessionDocument::Content SessionDocument::contentNow() const {
     return [edited = shared()] { return encode(edited->session); };
 }

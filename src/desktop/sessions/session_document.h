@@ -25,6 +25,8 @@ public:
 
     /// The document is this session from now on, under a path that may not exist yet.
     void show(EditedSession session, const QString& path, QWidget* over);
+    /// Whether there is anything in it yet.
+    [[nodiscard]] bool hasSession() const;
 
 protected:
     [[nodiscard]] Content contentNow() const override;

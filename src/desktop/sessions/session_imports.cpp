@@ -1,33 +1,25 @@
-#include "desktop/sessions/replay.h"
-#include "desktop/sessions/session_view.h"
-#include "desktop/sessions/session_window.h"
-#include "desktop/sessions/track_offset_dialog.h"
-#include "desktop/sessions/work_beside.h"
+#include "desktop/sessions/session_imports.h"
 
 #include "boatmotion/conversion.h"
 #include "boatmotion/imports/join_recording.h"
 #include "boatmotion/power_meter.h"
+#include "common/error.h"
 #include "common/text_file.h"
-#include "desktop/imports/import_files.h"
+#include "desktop/sessions/power_meter_dialog.h"
+#include "desktop/sessions/session_conversion.h"
+#include "desktop/sessions/session_document.h"
+#include "desktop/sessions/session_edits.h"
+#include "desktop/sessions/track_offset_dialog.h"
 #include "desktop/shell/workspace.h"
 
+#include <QFileDialog>
 #include <QFileInfo>
-#include <QScopedValueRollback>
 
 #include <algorithm>
 
-/// What other devices recorded: lists of phone loggers become recordings, tracks of watches join
-/// the recording that is open.
 namespace kavela::desktop {
 
 namespace {
-
-EditedSession analysed(bmrawdata_v5 recording, std::optional<Mount> mount, QWidget* over) {
-    EditedSession session;
-    doBeside(over, conversion_messages::Converting,
-             [&] { session = analysedSession(std::move(recording), mount); });
-    return session;
-}
 
 constexpr const char* MappingsKey = "imports/lists";
 
@@ -47,7 +39,7 @@ void keepMappings(const CsvMappings& known, Workspace& workspace) {
 }
 
 QString joinedText(const JoinedTrack& joined) {
-    QStringList lines{SessionWindow::tr("%1 positions and %2 heart rates were taken over.")
+    QStringList lines{SessionImports::tr("%1 positions and %2 heart rates were taken over.")
                           .arg(joined.fixes)
                           .arg(joined.heart)};
     for (const std::string& note : joined.notes)
@@ -66,26 +58,36 @@ bool isPowerMeterList(const QString& path) {
     }
 }
 
-void SessionWindow::askForImports() {
-    WorkspaceAlerts alerts(workspace(), this);
-    CsvMappings known = knownMappings(workspace());
+SessionImports::SessionImports(SessionDocument& document, SessionEdits& edits,
+                               SessionConversion& conversion, Workspace& workspace, QWidget& over,
+                               Place place)
+    : m_document(document),
+      m_edits(edits),
+      m_conversion(conversion),
+      m_workspace(workspace),
+      m_over(over),
+      m_place(std::move(place)) {}
+
+void SessionImports::askForImports() {
+    WorkspaceAlerts alerts(m_workspace, &m_over);
+    CsvMappings known = knownMappings(m_workspace);
     auto files =
-        kavela::desktop::askForImports(QFileInfo(m_document->path()).path(), alerts, this, known);
-    keepMappings(known, workspace());
+        kavela::desktop::askForImports(QFileInfo(m_document.path()).path(), alerts, &m_over, known);
+    keepMappings(known, m_workspace);
     for (ImportedFile& file : files)
         takeIn(std::move(file));
 }
 
-void SessionWindow::importFrom(const QStringList& paths) {
-    WorkspaceAlerts alerts(workspace(), this);
-    CsvMappings known = knownMappings(workspace());
-    auto files = importFiles(paths, alerts, this, known);
-    keepMappings(known, workspace());
+void SessionImports::importFrom(const QStringList& paths) {
+    WorkspaceAlerts alerts(m_workspace, &m_over);
+    CsvMappings known = knownMappings(m_workspace);
+    auto files = importFiles(paths, alerts, &m_over, known);
+    keepMappings(known, m_workspace);
     for (ImportedFile& file : files)
         takeIn(std::move(file));
 }
 
-void SessionWindow::takeInAll(const QStringList& paths) {
+void SessionImports::takeInAll(const QStringList& paths) {
     static const QStringList Tracks{"gpx", "tcx", "fit"};
     QStringList ordered = paths;
     std::ranges::stable_partition(ordered, [](const QString& path) {
@@ -99,12 +101,12 @@ void SessionWindow::takeInAll(const QStringList& paths) {
     }
 }
 
-void SessionWindow::takeIn(ImportedFile file) {
-    if (m_isBusy)
+void SessionImports::takeIn(ImportedFile file) {
+    if (m_conversion.isBusy())
         return;
     try {
         if (auto* const recording = std::get_if<bmrawdata_v5>(&file.content))
-            showImported(std::move(*recording), file.path);
+            showRecording(std::move(*recording), file.path);
         else
             join(std::move(std::get<ImportedTrack>(file.content)));
     } catch (const MotionError& error) {
@@ -113,26 +115,22 @@ void SessionWindow::takeIn(ImportedFile file) {
     }
 }
 
-/// A list of samples is a recording that has no file yet: "Save the edited .kvb file" makes one.
-void SessionWindow::showImported(bmrawdata_v5 recording, const QString& path) {
-    if (!mayLeave())
+/// It has no file yet: "Save the edited .kvb file" makes one.
+void SessionImports::showRecording(bmrawdata_v5 recording, const QString& path) {
+    if (!m_place.mayLeave())
         return;
-    const QScopedValueRollback busy(m_isBusy, true);
-    EditedSession session = analysed(std::move(recording), std::nullopt, this);
-    m_watchTrack.reset();
-    m_recordingPath = QFileInfo(path).path() + '/' + QFileInfo(path).completeBaseName() + ".kvb";
-    m_view->select(std::nullopt);
-    m_document->show(std::move(session), proposedPath(m_recordingPath), this);
-    m_replay->setMoment(m_replay->from());
+    EditedSession session = m_conversion.analysed(std::move(recording), std::nullopt);
+    const QFileInfo list(path);
+    m_place.show(std::move(session), list.path() + '/' + list.completeBaseName() + ".kvb");
 }
 
-void SessionWindow::join(ImportedTrack track) {
-    if (!m_document->value().recording) {
+void SessionImports::join(ImportedTrack track) {
+    if (!m_document.value().recording) {
         tell({}, tr("Import the recording of the boat first: a track gives it positions and heart "
                     "rates."));
         return;
     }
-    bmrawdata_v5 recording = recordingOf(m_document->value());
+    bmrawdata_v5 recording = recordingOf(m_document.value());
     WatchTrack joined{.track = std::move(track),
                       .givesFixes = recording.gps.empty(),
                       .givesHeart = recording.heart.empty()};
@@ -148,11 +146,11 @@ void SessionWindow::join(ImportedTrack track) {
     joinTrack(std::move(recording), std::move(joined), tr("track of a watch"));
 }
 
-void SessionWindow::moveTrack() {
-    if (m_isBusy || !m_document->value().recording || !m_watchTrack)
+void SessionImports::moveTrack() {
+    if (m_conversion.isBusy() || !m_document.value().recording || !m_track)
         return;
-    WatchTrack moved = *m_watchTrack;
-    bmrawdata_v5 recording = recordingOf(m_document->value());
+    WatchTrack moved = *m_track;
+    bmrawdata_v5 recording = recordingOf(m_document.value());
     if (moved.givesFixes)
         recording.gps.clear();
     if (moved.givesHeart)
@@ -161,28 +159,62 @@ void SessionWindow::moveTrack() {
     if (!offset)
         return;
     moved.offset = *offset;
-    joinTrack(std::move(recording), std::move(moved), tr("move of a watch's track"));
+    try {
+        joinTrack(std::move(recording), std::move(moved), tr("move of a watch's track"));
+    } catch (const MotionError& error) {
+        tell(conversion_messages::NotConverted, QString::fromUtf8(error.what()));
+    }
 }
 
-std::optional<double> SessionWindow::askForOffset(const bmrawdata_v5& recording,
-                                                  const WatchTrack& track) {
-    TrackOffsetDialog dialog(recording, track.track, track.offset, this);
+std::optional<double> SessionImports::askForOffset(const bmrawdata_v5& recording,
+                                                   const WatchTrack& track) {
+    TrackOffsetDialog dialog(recording, track.track, track.offset, &m_over);
     return dialog.exec() == QDialog::Accepted ? std::optional(dialog.offset()) : std::nullopt;
 }
 
-void SessionWindow::joinTrack(bmrawdata_v5 recording, WatchTrack track, const QString& what) {
+void SessionImports::joinTrack(bmrawdata_v5 recording, WatchTrack track, const QString& what) {
     const JoinedTrack joined = joinRecording(recording, track.track, track.offset);
     if (joined.fixes > 0 || joined.heart > 0) {
-        const QScopedValueRollback busy(m_isBusy, true);
-        EditedSession again = analysed(std::move(recording), m_document->value().mount, this);
-        m_document->edit(what, [&](EditedSession& session) {
-            again.powerMeter = std::move(session.powerMeter);
-            setMarks(again, std::move(session.marks));
-            session = std::move(again);
-        });
-        m_watchTrack = std::move(track);
+        m_edits.takeAnalysed(what,
+                             m_conversion.analysed(std::move(recording), m_document.value().mount));
+        m_track = std::move(track);
     }
     tell({}, joinedText(joined));
+}
+
+void SessionImports::askForPowerMeter() {
+    const QString path = QFileDialog::getOpenFileName(
+        &m_over, tr("Import power-meter data"), QFileInfo(m_document.path()).path(),
+        tr("Lists (*.csv *.txt)") + ";;" + tr("All files (*)"));
+    if (!path.isEmpty())
+        importPowerMeter(path);
+}
+
+bool SessionImports::importPowerMeter(const QString& path) {
+    const QString title = tr("“%1” cannot be read").arg(QFileInfo(path).fileName());
+    if (!m_document.hasSession()) {
+        tell(title, tr("Import a recording or a session first: power-meter data belongs to its "
+                       "strokes."));
+        return false;
+    }
+    try {
+        const PowerMeterList list = parsePowerMeter(readTextFile(path.toStdString()));
+        PowerMeterDialog dialog(QFileInfo(path).fileName(), list, m_document.value(), &m_over);
+        if (dialog.exec() != QDialog::Accepted || dialog.samples().empty())
+            return false;
+        m_document.edit(tr("import of power-meter data"),
+                        [&](EditedSession& session) { session.powerMeter = dialog.samples(); });
+        return true;
+    } catch (const FileError& error) {
+        tell(title, QString::fromStdString(error.reason()));
+    } catch (const DecodeError& error) {
+        tell(title, QString::fromStdString(error.what()));
+    }
+    return false;
+}
+
+void SessionImports::tell(const QString& title, const QString& text) const {
+    m_workspace.showAlert({title.toStdString(), text.toStdString()}, &m_over);
 }
 
 } // namespace kavela::desktop

@@ -314,6 +314,20 @@ void SessionView::zoomToSelection() {
         m_charts->showStretch(*m_selection);
 }
 
+void SessionView::goToStroke(int steps) {
+    constexpr double SameStroke = 1e-6; // s: what is closer is the same moment
+    const std::vector<StrokeFigures>& strokes = figures().strokes;
+    const double here = m_replay.moment();
+    const auto next =
+        std::ranges::upper_bound(strokes, here + SameStroke, {}, &StrokeFigures::time);
+    const auto before =
+        std::ranges::lower_bound(strokes, here - SameStroke, {}, &StrokeFigures::time);
+    if (steps > 0 && next != strokes.end())
+        m_replay.setMoment(next->time);
+    else if (steps < 0 && before != strokes.begin())
+        m_replay.setMoment(std::prev(before)->time);
+}
+
 void SessionView::setFullScreen(bool isFull) {
     if (isFull == m_isFullScreen)
         return;

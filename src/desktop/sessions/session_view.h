@@ -39,6 +39,8 @@ public:
     [[nodiscard]] std::optional<MomentRange> selection() const { return m_selection; }
     void select(std::optional<MomentRange> range);
     void zoomToSelection();
+    /// Moves the replay to a stroke before (negative) or behind its moment.
+    void goToStroke(int steps);
 
     /// Gauges and map for reading from afar, with the charts that the preferences name.
     void setFullScreen(bool isFull);

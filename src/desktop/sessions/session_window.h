@@ -1,9 +1,11 @@
 #pragma once
 
-#include "desktop/imports/import_files.h"
 #include "desktop/sessions/session_document.h"
-#include "desktop/sessions/session_tables.h"
 #include "desktop/shell/tool_window.h"
+
+#include <functional>
+#include <memory>
+#include <optional>
 
 class QStackedWidget;
 
@@ -11,10 +13,15 @@ namespace kavela::desktop {
 
 class DropAreas;
 class Replay;
+class SessionConversion;
+class SessionEdits;
+class SessionExports;
+class SessionImports;
+class SessionMarks;
 class SessionView;
 
-/// Makes sessions out of recordings and shows them: import of raw recordings and processed
-/// sessions, cuts, segments, power-meter data, and the figures of it all.
+/// Makes sessions out of recordings and shows them: opens and saves them, and puts the parts
+/// together that edit, mark, import and export what is shown.
 class SessionWindow : public ToolWindow {
     Q_OBJECT
 
@@ -32,22 +39,13 @@ public:
     [[nodiscard]] SessionView& view() const { return *m_view; }
     [[nodiscard]] Replay& replay() const { return *m_replay; }
 
+    [[nodiscard]] SessionEdits& edits() const { return *m_edits; }
+    [[nodiscard]] SessionMarks& marks() const { return *m_marks; }
+    [[nodiscard]] SessionImports& imports() const { return *m_imports; }
+    [[nodiscard]] SessionExports& exports() const { return *m_exports; }
+
     void askForRecording();
     void askForSession();
-    void askForPowerMeter();
-    /// Shows what a list of a power meter holds and brings it in. False when it is not to be read
-    /// or not wanted.
-    bool importPowerMeter(const QString& path);
-
-    /// Takes in what watches and phone loggers recorded: a list of samples is opened as a
-    /// recording, a track joins the recording that is open.
-    void askForImports();
-    void importFrom(const QStringList& paths);
-    /// Moves the track that was joined last in time: the clock of the watch was wrong.
-    void moveTrack();
-    [[nodiscard]] bool hasTrack() const { return m_watchTrack.has_value(); }
-    /// The same, and lists of power meters; recordings come first, so that tracks find one to join.
-    void takeInAll(const QStringList& paths);
 
     /// Whether power-meter data goes into the session that is saved; nothing to save nothing.
     using AskPowerMeter = std::function<std::optional<bool>(const QString& question)>;
@@ -56,34 +54,13 @@ public:
     /// Saves the session under a name, after what has to be asked or told before. False when it was
     /// not saved.
     bool saveSessionTo(const QString& path);
-    /// Writes what is left of the recording, with the information of the session.
+    /// Writes what is left of the recording that is open to a file that is asked for.
     void askAndSaveRecording();
-    bool saveRecording(const QString& path);
-    void askAndExport(SessionTables::Page page);
-    /// Throws FileError.
-    void exportTable(SessionTables::Page page, const QString& path) const;
-
-    void editInformation();
-    void analyseAgain();
-    /// Says which side of the phone points to the bow, or leaves it to the positions, and looks for
-    /// the strokes again.
-    void nameMount(std::optional<Mount> mount);
-    void keepSelection();
-    void removeSelection();
-    /// Takes out the strokes or turns that are selected in the table in front; the mark at the
-    /// cursor where none is.
-    void removeCurrent();
-
-    /// Marks the moment of the cursor.
-    void mark();
-    void removeMark();
-    void removeMarks();
-    void moveMark(double seconds);
-    void moveMarkHere();
-    void goToMark(int steps);
-    void goToStroke(int steps);
     /// Saves the session with its segments; told when there are too few marks.
     void saveSegments();
+    /// Takes out the strokes or turns that are selected in the table in front; the nearest mark
+    /// where none is.
+    void removeCurrent();
 
 protected:
     void closeEvent(QCloseEvent* event) override;
@@ -99,52 +76,28 @@ protected:
 private:
     SessionWindow(Workspace& workspace, std::unique_ptr<SessionDocument> document);
     void makeParts();
+    void connectParts();
     void showSession();
     void placeOverlay();
-    [[nodiscard]] bool read(QString& path, EditedSession& session);
-    [[nodiscard]] bool readConverted(QString& path, EditedSession& session);
-    void takeIn(ImportedFile file);
-    void showImported(bmrawdata_v5 recording, const QString& path);
-    /// The track of a watch that was joined to the recording, and what it gave to it.
-    struct WatchTrack {
-        ImportedTrack track;
-        bool givesFixes = false;
-        bool givesHeart = false;
-        double offset = 0; ///< s by which its clock was behind
-
-        [[nodiscard]] bool isWanted() const {
-            return (givesFixes && !track.gps.empty()) || (givesHeart && !track.heart.empty());
-        }
-    };
-    void join(ImportedTrack track);
-    void analyseWith(const QString& what, std::optional<Mount> mount);
-    void joinTrack(bmrawdata_v5 recording, WatchTrack track, const QString& what);
-    [[nodiscard]] std::optional<double> askForOffset(const bmrawdata_v5& recording,
-                                                     const WatchTrack& track);
+    /// The window shows this session from now on; `recording` is where its recording came from.
+    void begin(EditedSession session, const QString& recording, const QString& path);
     [[nodiscard]] std::optional<bool> askForPowerMeterData();
-    [[nodiscard]] bool hasSession() const;
-    [[nodiscard]] std::optional<std::size_t> markAtCursor() const;
-    [[nodiscard]] bool hasMarkAt(double moment) const;
-    void setMarksTo(const QString& what, std::vector<double> marks);
-    void cutTo(const QString& what, std::optional<EditedSession> cut);
     void tell(const QString& title, const QString& text);
     void tellSaved(const QString& path);
     [[nodiscard]] QString askForFile(const QString& title, const QString& filter);
-    [[nodiscard]] QString askWhereTo(const QString& title, const QString& filter,
-                                     const QString& suffix, const QString& proposal);
 
     std::unique_ptr<SessionDocument> m_document;
     Replay* m_replay;
     SessionView* m_view = nullptr;
     QStackedWidget* m_pages = nullptr;
     DropAreas* m_overlay = nullptr;
+    SessionMarks* m_marks = nullptr;
+    std::unique_ptr<SessionConversion> m_conversion;
+    std::unique_ptr<SessionEdits> m_edits;
+    std::unique_ptr<SessionImports> m_imports;
+    std::unique_ptr<SessionExports> m_exports;
     QString m_recordingPath; ///< of the recording that was imported
-    std::optional<WatchTrack> m_watchTrack;
     AskPowerMeter m_askPowerMeter;
-    bool m_isBusy = false; ///< a file is being read
 };
-
-/// Whether a file is a list of a power meter, by what it holds.
-[[nodiscard]] bool isPowerMeterList(const QString& path);
 
 } // namespace kavela::desktop

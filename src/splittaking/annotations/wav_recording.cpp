@@ -2,6 +2,8 @@
 
 #include <concepts>
 #include <string_view>
+#include <utility>
+#include <vector>
 
 namespace kavela {
 
@@ -15,23 +17,23 @@ constexpr std::uint16_t OneChannel = 1;
 constexpr std::uint16_t SampleBytes = 2;
 constexpr std::uint16_t SampleBits = 16;
 
-void append(Blob& file, std::string_view name) {
+void append(std::vector<unsigned char>& file, std::string_view name) {
     for (const char letter : name)
-        file.bytes.push_back(static_cast<unsigned char>(letter));
+        file.push_back(static_cast<unsigned char>(letter));
 }
 
 template <std::unsigned_integral Number>
-void append(Blob& file, Number number) {
+void append(std::vector<unsigned char>& file, Number number) {
     for (std::size_t byte = 0; byte < sizeof number; ++byte)
-        file.bytes.push_back(static_cast<unsigned char>(number >> (8 * byte)));
+        file.push_back(static_cast<unsigned char>(number >> (8 * byte)));
 }
 
 } // namespace
 
 Blob wavRecording(std::span<const std::int16_t> samples, std::uint32_t rate) {
     const auto dataBytes = static_cast<std::uint32_t>(samples.size_bytes());
-    Blob file;
-    file.bytes.reserve(HeaderBytes + dataBytes);
+    std::vector<unsigned char> file;
+    file.reserve(HeaderBytes + dataBytes);
     append(file, "RIFF");
     append(file, HeaderBytes - BytesBeforeSize + dataBytes);
     append(file, "WAVEfmt ");
@@ -46,7 +48,7 @@ Blob wavRecording(std::span<const std::int16_t> samples, std::uint32_t rate) {
     append(file, dataBytes);
     for (const std::int16_t sample : samples)
         append(file, static_cast<std::uint16_t>(sample));
-    return file;
+    return Blob{std::move(file)};
 }
 
 } // namespace kavela

@@ -1,7 +1,7 @@
 #include "desktop/planning/online/planning_start.h"
 
 #include "desktop/planning/online/online_dialog.h"
-#include "desktop/planning/planning_window.h"
+#include "desktop/planning/online/online_planning.h"
 
 #include <QStandardPaths>
 
@@ -12,13 +12,13 @@ QString placeForCopy(const QString& name) {
            ".planning";
 }
 
-void loadRememberedPlanning(PlanningWindow& window, Workspace& workspace) {
+void loadRememberedPlanning(OnlinePlanning& planning, Workspace& workspace) {
     const QString entry = rememberedEntry(workspace);
     if (const OnlineAddress address = rememberedAddress(workspace);
         address.user.isEmpty() && address.fault().isEmpty())
-        window.loadOnline(address, entry);
+        planning.load(address, entry);
     else
-        window.askToLoadOnline();
+        planning.askToLoad();
 }
 
 } // namespace kavela::desktop

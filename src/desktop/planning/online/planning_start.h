@@ -6,7 +6,7 @@ class QByteArray;
 
 namespace kavela::desktop {
 
-class PlanningWindow;
+class OnlinePlanning;
 class Workspace;
 
 /// Where a planning that comes from the server is proposed to be saved.
@@ -14,6 +14,6 @@ class Workspace;
 
 /// Loads the planning that was loaded last from the server into a new window. The store asks for a
 /// password, which is kept nowhere, so that the coach is asked for it.
-void loadRememberedPlanning(PlanningWindow& window, Workspace& workspace);
+void loadRememberedPlanning(OnlinePlanning& planning, Workspace& workspace);
 
 } // namespace kavela::desktop

@@ -1,8 +1,10 @@
+#include "desktop/planning/online/online_planning.h"
+
 #include "common/json_encode.h"
 #include "common/safe_file.h"
 #include "desktop/planning/online/online_dialog.h"
-#include "desktop/planning/planning_window.h"
-#include "desktop/shell/typing.h"
+#include "desktop/planning/planning_document.h"
+#include "desktop/shell/tool_window.h"
 #include "desktop/shell/workspace.h"
 #include "planning/messages.h"
 #include "planning/planning_access.h"
@@ -53,49 +55,61 @@ bool isName(const QString& text) {
 
 } // namespace
 
-void PlanningWindow::tellOnlineFault(const QString& reason) {
-    workspace().log()("The planning was not saved online: " + reason.toStdString());
-    workspace().showAlert({planning_messages::OnlineSaveFailed, reason.toStdString()}, this);
+OnlinePlanning::OnlinePlanning(PlanningDocument& document, Workspace& workspace, ToolWindow& window,
+                               MayLeave mayLeave)
+    : m_document(document),
+      m_workspace(workspace),
+      m_window(window),
+      m_mayLeave(std::move(mayLeave)),
+      m_states(workspace) {
+    connect(&m_document, &EditedFile::saved, this,
+            [this] { m_states.keepWith(m_document.path()); });
 }
 
-void PlanningWindow::saveOnline(const OnlineAddress& address, const QString& entry) {
-    if (!commit())
+void OnlinePlanning::tellFault(const QString& reason) {
+    m_workspace.log()("The planning was not saved online: " + reason.toStdString());
+    m_workspace.showAlert({planning_messages::OnlineSaveFailed, reason.toStdString()}, &m_window);
+}
+
+void OnlinePlanning::save(const OnlineAddress& address, const QString& entry) {
+    if (!m_window.commit())
         return;
     OnlineSaving::Files files;
     try {
-        const auto beside = accessBeside(m_document->path());
+        const auto beside = accessBeside(m_document.path());
         files = {
-            {entry + ".planning", bytesOf(encode(m_document->value()))},
-            {entry + PlanningAccessExtension, beside ? *beside : newAccess(workspace().clock()())},
+            {entry + ".planning", bytesOf(encode(m_document.value()))},
+            {entry + PlanningAccessExtension, beside ? *beside : newAccess(m_workspace.clock()())},
             !beside};
     } catch (const EncodeError& error) {
-        workspace().log()(error.what());
-        tell(planning_messages::OnlineSaveFailed);
+        m_workspace.log()(error.what());
+        m_workspace.showAlert({"", planning_messages::OnlineSaveFailed}, &m_window);
         return;
     }
     const QUrl place = placeOf(address, entry);
     auto* const saving =
         new OnlineSaving(m_store, address, std::move(files), m_states.at(place), this);
-    statusBar()->showMessage(tr("Saving the planning online…"));
+    m_window.statusBar()->showMessage(tr("Saving the planning online…"));
     connect(saving, &OnlineSaving::saved, this, [this, place, entry](const OnlineState& state) {
         m_states.set(place, state);
-        m_states.keepWith(m_document->path());
-        statusBar()->showMessage(tr("“%1” is saved online.").arg(entry), SavedMilliseconds);
-        emit onlineSaved(true);
+        m_states.keepWith(m_document.path());
+        m_window.statusBar()->showMessage(tr("“%1” is saved online.").arg(entry),
+                                          SavedMilliseconds);
+        emit saved(true);
     });
     connect(saving, &OnlineSaving::failed, this, [this](const QString& reason) {
-        statusBar()->clearMessage();
-        tellOnlineFault(reason);
-        emit onlineSaved(false);
+        m_window.statusBar()->clearMessage();
+        tellFault(reason);
+        emit saved(false);
     });
     connect(saving, &OnlineSaving::changed, this, [=, this](const QByteArray& there) {
-        statusBar()->clearMessage();
+        m_window.statusBar()->clearMessage();
         chooseForChanged(*saving, address, entry, there);
     });
     saving->start();
 }
 
-void PlanningWindow::chooseForChanged(OnlineSaving& saving, const OnlineAddress& address,
+void OnlinePlanning::chooseForChanged(OnlineSaving& saving, const OnlineAddress& address,
                                       const QString& entry, const QByteArray& there) {
     const bool wasSeen = !m_states.at(placeOf(address, entry)).digest.isEmpty();
     const QString text =
@@ -103,13 +117,13 @@ void PlanningWindow::chooseForChanged(OnlineSaving& saving, const OnlineAddress&
                      "saved there. Saving would lose that change.")
                 : tr("There is a planning “%1” on the server that this one does not come from. "
                      "Saving would replace it.");
-    const int chosen = workspace().choose(
+    const int chosen = m_workspace.choose(
         {tr("Somebody else's work lies on the server").toStdString(),
          text.arg(entry).toStdString()},
-        {tr("Look at it"), tr("Save under another name…"), tr("Replace it")}, this);
+        {tr("Look at it"), tr("Save under another name…"), tr("Replace it")}, &m_window);
     enum { Look, Rename, Replace };
     if (chosen == Replace) {
-        statusBar()->showMessage(tr("Saving the planning online…"));
+        m_window.statusBar()->showMessage(tr("Saving the planning online…"));
         saving.replace();
         return;
     }
@@ -117,41 +131,40 @@ void PlanningWindow::chooseForChanged(OnlineSaving& saving, const OnlineAddress&
     if (chosen == Look)
         emit copyRequested(there, entry);
     else if (chosen == Rename)
-        saveOnlineUnderAnotherName(address, entry);
+        saveUnderAnotherName(address, entry);
     if (chosen != Rename)
-        emit onlineSaved(false);
+        emit saved(false);
 }
 
 /// The name joins those of the shared plannings, so that it can be opened again.
-void PlanningWindow::saveOnlineUnderAnotherName(const OnlineAddress& address,
-                                                const QString& entry) {
+void OnlinePlanning::saveUnderAnotherName(const OnlineAddress& address, const QString& entry) {
     bool isGiven = false;
     const QString name =
-        QInputDialog::getText(this, tr("Save the planning online"), tr("Name on the server"),
+        QInputDialog::getText(&m_window, tr("Save the planning online"), tr("Name on the server"),
                               QLineEdit::Normal, tr("%1 (mine)").arg(entry), &isGiven)
             .trimmed();
     if (!isGiven || !isName(name)) {
         if (isGiven)
-            tellOnlineFault(tr("“%1” cannot be the name of a file.").arg(name));
-        emit onlineSaved(false);
+            tellFault(tr("“%1” cannot be the name of a file.").arg(name));
+        emit saved(false);
         return;
     }
-    std::vector<std::string> entries = workspace().preferences().array(SharedPlanningsKey);
+    std::vector<std::string> entries = m_workspace.preferences().array(SharedPlanningsKey);
     if (std::ranges::find(entries, name.toStdString()) == entries.end()) {
         entries.push_back(name.toStdString());
-        workspace().setPreference(SharedPlanningsKey, entries);
+        m_workspace.setPreference(SharedPlanningsKey, entries);
     }
-    saveOnline(address, name);
+    save(address, name);
 }
 
-void PlanningWindow::askToSaveOnline() {
-    OnlineDialog dialog(workspace(), tr("Save the planning online"), this);
+void OnlinePlanning::askToSave() {
+    OnlineDialog dialog(m_workspace, tr("Save the planning online"), &m_window);
     if (dialog.exec() == QDialog::Accepted)
-        saveOnline(dialog.address(), dialog.entry());
+        save(dialog.address(), dialog.entry());
 }
 
-bool PlanningWindow::showCopy(const QByteArray& content, const QString& path) {
-    if (!m_document->startFromText(content.toStdString(), path, this))
+bool OnlinePlanning::showCopy(const QByteArray& content, const QString& path) {
+    if (!m_document.startFromText(content.toStdString(), path, &m_window))
         return false;
     m_states.begin({});
     return true;
@@ -159,34 +172,34 @@ bool PlanningWindow::showCopy(const QByteArray& content, const QString& path) {
 
 /// What comes is shown as an unsaved document: nothing on this computer is replaced by it without
 /// the question that saving asks, nor does unsaved work give way to it without one.
-void PlanningWindow::loadOnline(const OnlineAddress& address, const QString& entry) {
-    statusBar()->showMessage(planning_messages::ImportingOnline);
+void OnlinePlanning::load(const OnlineAddress& address, const QString& entry) {
+    m_window.statusBar()->showMessage(planning_messages::ImportingOnline);
     m_store.get(address, entry + ".planning", [=, this](const OnlineAnswer& answer) {
-        statusBar()->clearMessage();
+        m_window.statusBar()->clearMessage();
         const QString folder = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
         QString fault = answer.isThere ? answer.reason : tr("The server has no such file.");
-        if (fault.isEmpty() && !m_document->isPlanning(answer.content.toStdString()))
+        if (fault.isEmpty() && !m_document.isPlanning(answer.content.toStdString()))
             fault = tr("What the server has is no planning.");
-        if (fault.isEmpty() && mayLeave() &&
+        if (fault.isEmpty() && m_mayLeave() &&
             showCopy(answer.content, folder + '/' + entry + ".planning")) {
             m_states.set(placeOf(address, entry), OnlineState::of(answer.mark, answer.content));
-            emit onlineLoaded(true);
+            emit loaded(true);
             return;
         }
-        emit onlineLoaded(false);
+        emit loaded(false);
         if (fault.isEmpty())
             return; // the work in front stays
-        workspace().log()("The online planning was not opened: " + fault.toStdString());
-        workspace().showAlert(
+        m_workspace.log()("The online planning was not opened: " + fault.toStdString());
+        m_workspace.showAlert(
             {tr("The online planning could not be opened.").toStdString(), fault.toStdString()},
-            this);
+            &m_window);
     });
 }
 
-void PlanningWindow::askToLoadOnline() {
-    OnlineDialog dialog(workspace(), tr("Open an online planning"), this);
+void OnlinePlanning::askToLoad() {
+    OnlineDialog dialog(m_workspace, tr("Open an online planning"), &m_window);
     if (dialog.exec() == QDialog::Accepted)
-        loadOnline(dialog.address(), dialog.entry());
+        load(dialog.address(), dialog.entry());
 }
 
 } // namespace kavela::desktop

@@ -1,0 +1,93 @@
+#include "desktop/earlier_work.h"
+
+#include "desktop/desktop.h"
+#include "desktop/open_session.h"
+#include "desktop/shell/bring_to_front.h"
+#include "desktop/shell/earlier_work_dialog.h"
+#include "desktop/shell/edited_file.h"
+#include "desktop/shell/file_names.h"
+#include "desktop/shell/tool_window.h"
+#include "desktop/tools.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+namespace kavela::desktop {
+
+/// The last window's closing leaves the program: what it showed is what the next start shows.
+void EarlierWork::rememberWindows() const {
+    QList<OpenFile> files;
+    for (const ToolWindow* const window : m_program.windows())
+        for (const QString& path : window->paths())
+            files.append({window->kind(), path});
+    if (!files.isEmpty() || m_program.isHomeShown())
+        rememberSession(m_workspace, files);
+}
+
+/// All are read first: what is opened is remembered at once in their place.
+bool EarlierWork::restoreWindows() const {
+    QStringList races;
+    QStringList others;
+    for (const OpenFile& file : rememberedSession(m_workspace))
+        if (file.kind == "race")
+            races.append(file.path);
+        else if (file.kind == "taking")
+            (void)m_program.openTaking(file.path);
+        else if (file.kind == "cross")
+            (void)m_program.openCross(file.path);
+        else
+            others.append(file.path);
+    if (!races.isEmpty())
+        m_program.openRaces(races);
+    if (!others.isEmpty())
+        m_program.openAll(others);
+    return !m_program.windows().isEmpty();
+}
+
+void EarlierWork::offerUnsaved() const {
+    if (m_autosave.all().empty())
+        return;
+    if (m_program.windows().isEmpty())
+        (void)restoreWindows();
+    for (const Autosave::Found& found : m_autosave.all())
+        recover(found.label);
+}
+
+void EarlierWork::chooseToBringBack(QWidget* over) const {
+    EarlierWorkDialog dialog(m_autosave.earlier(), over);
+    if (dialog.exec() == QDialog::Accepted && dialog.chosen())
+        bringBack(*dialog.chosen());
+}
+
+/// Into the window that edits the document, where one does.
+void EarlierWork::bringBack(const Autosave::Found& earlier) const {
+    for (ToolWindow* const window : m_program.windows())
+        if (window->file() && isSameFile(window->file()->path(), earlier.label.path)) {
+            bringToFront(*window);
+            (void)window->file()->takeBack(earlier.content, window,
+                                           [window] { return window->save(); });
+            return;
+        }
+    m_autosave.bringBack(earlier);
+    recover(earlier.label);
+}
+
+/// Work of an earlier release does not say with which tool it was edited; that of a folder that is
+/// gone stays kept.
+void EarlierWork::recover(const Autosave::Label& found) const {
+    const QFileInfo file(found.path);
+    const bool isSplitFile = file.suffix() == "kvx";
+    const ToolKind* tool = toolOfKind(found.tool);
+    if (!tool && isSplitFile)
+        tool = toolFor(OpensAs::FolderOfFilms);
+    if (isSplitFile) {
+        if (file.exists() || file.dir().exists())
+            (void)m_program.openIn(*tool, file.exists() ? found.path : file.path());
+    } else if (file.exists() || !tool) {
+        m_program.openAll({found.path});
+    } else if (!m_program.raiseEditorOf(found.path)) {
+        m_program.openNew(*tool, found.path);
+    }
+}
+
+} // namespace kavela::desktop

@@ -1,0 +1,87 @@
+#include "desktop/sessions/session_exports.h"
+
+#include "boatmotion/conversion.h"
+#include "boatmotion/session_files.h"
+#include "common/error.h"
+#include "common/safe_file.h"
+#include "desktop/sessions/session_document.h"
+#include "desktop/shell/workspace.h"
+
+#include <QDir>
+#include <QFileDialog>
+#include <QFileInfo>
+
+namespace kavela::desktop {
+
+SessionExports::SessionExports(const SessionDocument& document, const SessionTables& tables,
+                               const Workspace& workspace, QWidget& over, Saved saved)
+    : m_document(document),
+      m_tables(tables),
+      m_workspace(workspace),
+      m_over(over),
+      m_saved(std::move(saved)) {}
+
+QString SessionExports::askWhereTo(const QString& title, const QString& filter,
+                                   const QString& suffix, const QString& proposal) const {
+    QFileDialog dialog(&m_over, title, QFileInfo(proposal).path(), filter);
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setDefaultSuffix(suffix);
+    dialog.selectFile(QFileInfo(proposal).fileName());
+    if (dialog.exec() != QDialog::Accepted)
+        return {};
+    return dialog.selectedFiles().value(0);
+}
+
+void SessionExports::askAndSaveRecording(const QString& source) {
+    if (!m_document.value().recording)
+        return;
+    const QFileInfo file(source);
+    const QString path =
+        askWhereTo(tr("Save the edited .kvb file"), tr("Recordings (*.kvb)"), "kvb",
+                   file.dir().filePath(file.completeBaseName() + "_edited.kvb"));
+    if (!path.isEmpty())
+        saveRecording(path);
+}
+
+bool SessionExports::saveRecording(const QString& path) {
+    std::string reason;
+    try {
+        saveRawSession(recordingOf(m_document.value()), path.toStdString());
+        m_saved(path);
+        return true;
+    } catch (const FileError& error) {
+        reason = error.reason();
+    } catch (const EncodeError& error) {
+        reason = error.what();
+    }
+    m_workspace.log()(conversion_messages::NotSaved);
+    m_workspace.log()(reason);
+    m_workspace.showAlert({conversion_messages::NotSaved, reason}, &m_over);
+    return false;
+}
+
+void SessionExports::exportTable(SessionTables::Page page, const QString& path) const {
+    if (const SessionGrid* const grid = m_tables.gridOf(page))
+        writeFileSafely(path.toStdString(), csvOf(*grid));
+}
+
+void SessionExports::askAndExport(SessionTables::Page page) {
+    const QFileInfo file(m_document.path());
+    const QString ending = page == SessionTables::StrokePage    ? "_strokes.csv"
+                           : page == SessionTables::TurnPage    ? "_turns.csv"
+                           : page == SessionTables::SegmentPage ? "_segments.csv"
+                                                                : "_distance.csv";
+    const QString path = askWhereTo(tr("Export the table"), tr("Semicolon-separated text (*.csv)"),
+                                    "csv", file.dir().filePath(file.completeBaseName() + ending));
+    if (path.isEmpty())
+        return;
+    try {
+        exportTable(page, path);
+        m_saved(path);
+    } catch (const FileError& error) {
+        m_workspace.log()(error.what());
+        m_workspace.showAlert({conversion_messages::NotSaved, error.reason()}, &m_over);
+    }
+}
+
+} // namespace kavela::desktop

@@ -1,0 +1,48 @@
+#pragma once
+
+#include "desktop/sessions/session_tables.h"
+
+#include <QCoreApplication>
+
+#include <functional>
+
+class QWidget;
+
+namespace kavela::desktop {
+
+class SessionDocument;
+class Workspace;
+
+/// The files that are made of a session beside its own: what is left of its recording, and its
+/// tables. Whoever owns it says that one was written.
+class SessionExports {
+    Q_DECLARE_TR_FUNCTIONS(SessionExports)
+
+public:
+    using Saved = std::function<void(const QString& path)>;
+
+    SessionExports(const SessionDocument& document, const SessionTables& tables,
+                   const Workspace& workspace, QWidget& over, Saved saved);
+
+    /// Writes what is left of the recording, with the information of the session; `source` is where
+    /// it was imported from.
+    void askAndSaveRecording(const QString& source);
+    /// False, after an alert, when it was not written.
+    bool saveRecording(const QString& path);
+
+    void askAndExport(SessionTables::Page page);
+    /// Throws FileError.
+    void exportTable(SessionTables::Page page, const QString& path) const;
+
+private:
+    [[nodiscard]] QString askWhereTo(const QString& title, const QString& filter,
+                                     const QString& suffix, const QString& proposal) const;
+
+    const SessionDocument& m_document;
+    const SessionTables& m_tables;
+    const Workspace& m_workspace;
+    QWidget& m_over;
+    Saved m_saved;
+};
+
+} // namespace kavela::desktop
