@@ -17,8 +17,8 @@ void run(std::function<void()> task);
 
 /// `done` is called on the interface thread, as long as `context` is there, with what the task
 /// threw, or null.
-void run(QObject* context, std::function<void()> task,
-         std::function<void(std::exception_ptr fault)> done);
+void run(QObject& context, std::function<void()> task,
+         std::function<void(const std::exception_ptr& fault)> done);
 
 /// Returns once every task given so far has run. What they have to tell may still be on its way.
 void waitForAll();

@@ -323,7 +323,7 @@ std::shared_ptr<EditedFile::Writing> EditedFile::write(const QString& path, QWid
         if (!writing->fault && beside)
             writing->besideFault = disk::faultOf([&] { beside(file); });
     };
-    disk::run(this, task,
+    disk::run(*this, task,
               [this, writing](const std::exception_ptr&) { (void)finish(*writing, false); });
     emit savingChanged();
     return writing;
@@ -405,21 +405,36 @@ bool EditedFile::saveAs(const QString& path, QWidget* over) {
     return !target.isEmpty() && waitFor(write(target, over, {}));
 }
 
-bool EditedFile::mayLeave(QWidget* over, const std::function<bool()>& save) {
-    if (m_writing)
-        (void)waitFor(m_writing);
+void EditedFile::whenWritten(std::function<void()> then) {
+    if (!m_writing) {
+        then();
+        return;
+    }
+    // Where it was written again after a failure, that is waited for too.
+    m_writing->next.push_back(
+        [this, then = std::move(then)]() mutable { whenWritten(std::move(then)); });
+}
+
+EditedFile::Leave EditedFile::askToLeave(QWidget* over) {
     if (m_undo.isClean())
-        return mayLeaveMore(over);
+        return mayLeaveMore(over) ? Leave::Now : Leave::Not;
     switch (m_workspace.askToSave(title(), over)) {
     case Workspace::Leaving::Save:
-        return save() && mayLeaveMore(over);
+        return Leave::AfterSaving;
     case Workspace::Leaving::Discard:
         discard();
-        return true;
+        return Leave::Now;
     case Workspace::Leaving::Stay:
         break;
     }
-    return false;
+    return Leave::Not;
+}
+
+bool EditedFile::mayLeave(QWidget* over, const std::function<bool()>& save) {
+    if (m_writing)
+        (void)waitFor(m_writing);
+    const Leave leave = askToLeave(over);
+    return leave == Leave::Now || (leave == Leave::AfterSaving && save() && mayLeaveSaved(over));
 }
 
 void EditedFile::discard() {
