@@ -24,6 +24,7 @@
 
 #include <QApplication>
 #include <QDir>
+#include <QEventLoopLocker>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QStandardPaths>
@@ -31,6 +32,7 @@
 #include <QWindow>
 
 #include <algorithm>
+#include <memory>
 
 /// The icons stand in a static library, which has to be asked for them. Outside any namespace, as
 /// the macro wants it.
@@ -81,7 +83,8 @@ void writeSampleSeason(const fs::path& folder) {
 
 Desktop::Desktop(Workspace& workspace, std::optional<Autosave> autosave)
     : m_workspace(workspace),
-      m_autosave(autosave ? std::move(*autosave) : Autosave(autosaveFolder())) {
+      m_autosave(autosave ? std::move(*autosave) : Autosave(autosaveFolder())),
+      m_quitting([this] { return windows(); }, [this] { rememberSession(); }) {
     loadIcons();
     qApp->installEventFilter(&m_wheelGuard);
     QApplication::setWindowIcon(icon("kavela"));
@@ -131,9 +134,9 @@ void Desktop::comeForward(const QStringList& files) {
         if (!before.contains(window))
             bringToFront(*window);
     const bool isHome = m_home && m_home->isVisible();
-    if (windows().isEmpty() && (files.isEmpty() || !isHome))
+    if (!hasWindows() && (files.isEmpty() || !isHome))
         showHome();
-    else if (files.isEmpty())
+    else if (files.isEmpty() && !windows().isEmpty())
         bringToFront(m_lastFront && m_lastFront->isVisible() ? *m_lastFront : *windows().last());
 }
 
@@ -269,17 +272,41 @@ bool Desktop::openIn(const ToolKind& tool, const QString& path) {
     const QString file = canonicalPath(path);
     if (m_opening.contains(file) || raiseEditorOf(path))
         return true;
-    m_opening.insert(file);
+    m_opening.insert(file, {tool.kind, path});
     ToolWindow* const window = make(tool);
-    const bool isOpen = window->open(path);
-    m_opening.remove(file);
+    m_windows.append(window);
+    const auto isOpen = std::make_shared<std::optional<bool>>();
+    const auto isLater = std::make_shared<bool>(false);
+    window->openBeside(path, [this, window, path, isOpen, isLater,
+                              running = std::make_shared<QEventLoopLocker>()](bool answer) {
+        *isOpen = answer;
+        endOpening(window, path, answer);
+        if (*isLater)
+            noteOpened(window, answer);
+    });
+    *isLater = true;
+    return isOpen->value_or(true);
+}
+
+void Desktop::endOpening(ToolWindow* window, const QString& path, bool isOpen) {
+    m_opening.remove(canonicalPath(path));
     if (isOpen) {
         show(window);
-        return true;
+        return;
     }
-    delete window;
+    window->deleteLater(); // it is telling this
     m_workspace.forgetRecentFile(path);
-    return false;
+}
+
+/// Who asked for the window has gone on: it comes to the front by itself. A program without any
+/// window could not even be left.
+void Desktop::noteOpened(ToolWindow* window, bool isOpen) {
+    if (isOpen)
+        bringToFront(*window);
+    else if (hasWindows() || (m_home && m_home->isVisible()))
+        rememberSession();
+    else
+        showHome();
 }
 
 void Desktop::openAll(const QStringList& paths, RaceWindow* into) {
@@ -351,10 +378,11 @@ void Desktop::openRaces(const QStringList& races, RaceWindow* into) {
 
 /// The last window's closing leaves the program: what it showed is what the next start shows.
 void Desktop::rememberSession() {
-    QList<OpenFile> files;
+    QList<OpenFile> files = m_quitting.closedFiles();
     for (const ToolWindow* const window : windows())
         for (const QString& path : window->paths())
             files.append({window->kind(), path});
+    files.append(m_opening.values());
     const bool isHome = m_home && m_home->isVisible();
     if (!files.isEmpty() || isHome)
         desktop::rememberSession(m_workspace, files);
@@ -377,7 +405,7 @@ bool Desktop::restoreSession() {
         openRaces(races, nullptr);
     if (!others.isEmpty())
         openAll(others);
-    return !windows().isEmpty();
+    return hasWindows();
 }
 
 /// One that was closed is there until the event loop gets to it, but is open no more.
@@ -400,6 +428,8 @@ bool Desktop::raiseEditorOf(const QString& path) {
 
 /// Those that the analyzer and the films are connected with beforehand hear more.
 void Desktop::show(ToolWindow* window) {
+    m_quitting.giveUp();
+    m_quitting.follow(*window);
     connectTool(*window);
     if (auto* const planning = qobject_cast<PlanningWindow*>(window))
         connect(planning, &PlanningWindow::copyRequested, this, &Desktop::showPlanningCopy);
@@ -409,7 +439,8 @@ void Desktop::show(ToolWindow* window) {
     if (!isConnected)
         connect(window, &ToolWindow::openRequested, this,
                 [this](const QStringList& paths) { openAll(paths); });
-    m_windows.append(window);
+    if (!m_windows.contains(window))
+        m_windows.append(window);
     window->show();
     rememberSession();
 }
@@ -418,7 +449,7 @@ void Desktop::show(ToolWindow* window) {
 void Desktop::offerRecovery() {
     if (m_autosave.all().empty())
         return;
-    if (windows().isEmpty())
+    if (!hasWindows())
         (void)restoreSession();
     for (const Autosave::Found& found : m_autosave.all())
         recover(found.label);

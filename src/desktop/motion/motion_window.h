@@ -2,6 +2,7 @@
 
 #include "boatmotion/conversion.h"
 #include "desktop/motion/motion_recordings.h"
+#include "desktop/shell/background_work.h"
 #include "desktop/shell/tool_window.h"
 
 #include <functional>
@@ -98,6 +99,7 @@ private:
     AskName m_askName;
     std::deque<MotionRecordings::Recording> m_toConvert;
     bool m_isConverting = false;
+    BackgroundWork m_upgrading; ///< of recordings of version 4
     QString m_lastConverted;
 
     QStackedWidget* m_pages;

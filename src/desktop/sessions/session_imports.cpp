@@ -2,7 +2,6 @@
 #include "desktop/sessions/session_view.h"
 #include "desktop/sessions/session_window.h"
 #include "desktop/sessions/track_offset_dialog.h"
-#include "desktop/sessions/work_beside.h"
 
 #include "boatmotion/conversion.h"
 #include "boatmotion/imports/join_recording.h"
@@ -12,22 +11,17 @@
 #include "desktop/shell/workspace.h"
 
 #include <QFileInfo>
-#include <QScopedValueRollback>
 
 #include <algorithm>
+#include <memory>
+#include <utility>
+#include <vector>
 
 /// What other devices recorded: lists of phone loggers become recordings, tracks of watches join
 /// the recording that is open.
 namespace kavela::desktop {
 
 namespace {
-
-EditedSession analysed(bmrawdata_v5 recording, std::optional<Mount> mount, QWidget* over) {
-    EditedSession session;
-    doBeside(over, conversion_messages::Converting,
-             [&] { session = analysedSession(std::move(recording), mount); });
-    return session;
-}
 
 constexpr const char* MappingsKey = "imports/lists";
 
@@ -72,8 +66,7 @@ void SessionWindow::askForImports() {
     auto files =
         kavela::desktop::askForImports(QFileInfo(m_document->path()).path(), alerts, this, known);
     keepMappings(known, workspace());
-    for (ImportedFile& file : files)
-        takeIn(std::move(file));
+    takeInEach(std::move(files));
 }
 
 void SessionWindow::importFrom(const QStringList& paths) {
@@ -81,8 +74,14 @@ void SessionWindow::importFrom(const QStringList& paths) {
     CsvMappings known = knownMappings(workspace());
     auto files = importFiles(paths, alerts, this, known);
     keepMappings(known, workspace());
+    takeInEach(std::move(files));
+}
+
+void SessionWindow::takeInEach(std::vector<ImportedFile> files) {
     for (ImportedFile& file : files)
-        takeIn(std::move(file));
+        whenFree([this, held = std::make_shared<ImportedFile>(std::move(file))] {
+            takeIn(std::move(*held));
+        });
 }
 
 void SessionWindow::takeInAll(const QStringList& paths) {
@@ -93,15 +92,13 @@ void SessionWindow::takeInAll(const QStringList& paths) {
     });
     for (const QString& path : ordered) {
         if (isPowerMeterList(path))
-            importPowerMeter(path);
+            whenFree([this, path] { importPowerMeter(path); });
         else
-            importFrom({path});
+            whenFree([this, path] { importFrom({path}); });
     }
 }
 
 void SessionWindow::takeIn(ImportedFile file) {
-    if (m_isBusy)
-        return;
     try {
         if (auto* const recording = std::get_if<bmrawdata_v5>(&file.content))
             showImported(std::move(*recording), file.path);
@@ -117,13 +114,24 @@ void SessionWindow::takeIn(ImportedFile file) {
 void SessionWindow::showImported(bmrawdata_v5 recording, const QString& path) {
     if (!mayLeave())
         return;
-    const QScopedValueRollback busy(m_isBusy, true);
-    EditedSession session = analysed(std::move(recording), std::nullopt, this);
-    m_watchTrack.reset();
-    m_recordingPath = QFileInfo(path).path() + '/' + QFileInfo(path).completeBaseName() + ".kvb";
-    m_view->select(std::nullopt);
-    m_document->show(std::move(session), proposedPath(m_recordingPath), this);
-    m_replay->setMoment(m_replay->from());
+    const QString name = QFileInfo(path).fileName();
+    workOn(
+        conversion_messages::Converting,
+        [recording = std::move(recording)]() mutable {
+            return analysedSession(std::move(recording), std::nullopt);
+        },
+        [this, path](EditedSession session) {
+            m_watchTrack.reset();
+            m_recordingPath =
+                QFileInfo(path).path() + '/' + QFileInfo(path).completeBaseName() + ".kvb";
+            m_view->select(std::nullopt);
+            m_document->show(std::move(session), proposedPath(m_recordingPath), this);
+            m_replay->setMoment(m_replay->from());
+        },
+        [this, name](const std::exception_ptr& fault) {
+            tell(conversion_messages::NotConverted,
+                 name + ": " + QString::fromStdString(messageOf(fault)));
+        });
 }
 
 void SessionWindow::join(ImportedTrack track) {
@@ -149,7 +157,7 @@ void SessionWindow::join(ImportedTrack track) {
 }
 
 void SessionWindow::moveTrack() {
-    if (m_isBusy || !m_document->value().recording || !m_watchTrack)
+    if (isBusy() || !m_document->value().recording || !m_watchTrack)
         return;
     WatchTrack moved = *m_watchTrack;
     bmrawdata_v5 recording = recordingOf(m_document->value());
@@ -172,17 +180,17 @@ std::optional<double> SessionWindow::askForOffset(const bmrawdata_v5& recording,
 
 void SessionWindow::joinTrack(bmrawdata_v5 recording, WatchTrack track, const QString& what) {
     const JoinedTrack joined = joinRecording(recording, track.track, track.offset);
-    if (joined.fixes > 0 || joined.heart > 0) {
-        const QScopedValueRollback busy(m_isBusy, true);
-        EditedSession again = analysed(std::move(recording), m_document->value().mount, this);
-        m_document->edit(what, [&](EditedSession& session) {
-            again.powerMeter = std::move(session.powerMeter);
-            setMarks(again, std::move(session.marks));
-            session = std::move(again);
+    if (joined.fixes == 0 && joined.heart == 0)
+        return tell({}, joinedText(joined));
+    analyse(
+        [recording = std::move(recording), mount = m_document->value().mount]() mutable {
+            return analysedSession(std::move(recording), mount);
+        },
+        [this, what, joined, track = std::move(track)](EditedSession again) {
+            takeAnalysis(what, std::move(again));
+            m_watchTrack = track;
+            tell({}, joinedText(joined));
         });
-        m_watchTrack = std::move(track);
-    }
-    tell({}, joinedText(joined));
 }
 
 } // namespace kavela::desktop

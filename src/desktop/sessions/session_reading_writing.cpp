@@ -2,7 +2,6 @@
 #include "desktop/sessions/power_meter_dialog.h"
 #include "desktop/sessions/session_view.h"
 #include "desktop/sessions/session_window.h"
-#include "desktop/sessions/work_beside.h"
 
 #include "boatmotion/conversion.h"
 #include "boatmotion/session_files.h"
@@ -16,7 +15,6 @@
 #include <QFileInfo>
 #include <QMessageBox>
 #include <QPushButton>
-#include <QScopedValueRollback>
 #include <QStatusBar>
 
 namespace kavela::desktop {
@@ -29,52 +27,71 @@ bool isRecording(const QString& path) {
     return QFileInfo(path).suffix().compare("kvb", Qt::CaseInsensitive) == 0;
 }
 
-/// A converted recording, on a thread of its own.
-EditedSession convert(const QString& path, const DiagnosticLog& log, QWidget* over) {
-    EditedSession session;
-    std::size_t samples = 0;
-    doBeside(over, conversion_messages::Converting, [&] {
-        bmrawdata_v5 recording = readRawSession(path.toStdString());
-        samples = recording.boatmotion.size();
-        session = analysedSession(std::move(recording), std::nullopt);
-    });
-    log(conversion_messages::Count + QFileInfo(path).fileName().toStdString() + ' ' +
-        std::to_string(samples));
-    return session;
+EditedSession readSession(const QString& path) {
+    const std::string file = path.toStdString();
+    return isRecording(path) ? analysedSession(readRawSession(file), std::nullopt)
+                             : editedSession(readSmartSession(file));
+}
+
+std::string reasonOf(const std::exception_ptr& fault) {
+    try {
+        std::rethrow_exception(fault);
+    } catch (const FileError& error) {
+        return error.reason();
+    } catch (const std::exception& error) {
+        return error.what();
+    }
+}
+
+bool isOlderRecording(const std::exception_ptr& fault) {
+    try {
+        std::rethrow_exception(fault);
+    } catch (const OlderRecording&) {
+        return true;
+    } catch (...) {
+        return false;
+    }
 }
 
 } // namespace
 
-/// A recording of version 4 is read from the file that it was converted to, which then is the one
-/// that was opened.
-bool SessionWindow::readConverted(QString& path, EditedSession& session) {
-    const auto converted = convertOlderRecording(path, workspace(), this);
-    if (!converted)
-        return false;
-    path = *converted;
-    return read(path, session);
+/// Nothing of a file is taken over before all of it is there.
+void SessionWindow::read(const QString& path, const Opened& opened) {
+    workOn(
+        isRecording(path) ? QString(conversion_messages::Converting) : tr("Reading…"),
+        [path] { return readSession(path); },
+        [this, path, opened](EditedSession session) {
+            if (session.recording)
+                workspace().log()(conversion_messages::Count +
+                                  QFileInfo(path).fileName().toStdString() + ' ' +
+                                  std::to_string(session.recording->boatmotion.size()));
+            showRead(std::move(session), path);
+            opened(true);
+        },
+        [this, path, opened](const std::exception_ptr& fault) {
+            if (isOlderRecording(fault))
+                readConverted(path, opened);
+            else
+                tellNotRead(path, fault, opened);
+        });
 }
 
-/// Nothing of a file is taken over before all of it is there.
-bool SessionWindow::read(QString& path, EditedSession& session) {
-    const QScopedValueRollback busy(m_isBusy, true);
-    std::string reason;
-    try {
-        if (isRecording(path))
-            session = convert(path, workspace().log(), this);
-        else
-            doBeside(this, tr("Reading…"),
-                     [&] { session = editedSession(readSmartSession(path.toStdString())); });
-        return true;
-    } catch (const OlderRecording&) {
-        return readConverted(path, session);
-    } catch (const FileError& error) {
-        reason = error.reason();
-    } catch (const DecodeError& error) {
-        reason = error.what();
-    } catch (const MotionError& error) {
-        reason = error.what();
-    }
+/// A recording of version 4 is read from the file that it was converted to, which then is the one
+/// that was opened.
+void SessionWindow::readConverted(const QString& path, const Opened& opened) {
+    convertOlderRecording(path, workspace(), this, m_work,
+                          [this, opened](const std::optional<QString>& converted) {
+                              if (converted)
+                                  read(*converted, opened);
+                              else
+                                  opened(false);
+                              goOn();
+                          });
+}
+
+void SessionWindow::tellNotRead(const QString& path, const std::exception_ptr& fault,
+                                const Opened& opened) {
+    const std::string reason = reasonOf(fault);
     const QString name = QFileInfo(path).fileName();
     const QString title = isRecording(path) ? QString(conversion_messages::NotConverted)
                                             : tr("“%1” cannot be opened").arg(name);
@@ -82,7 +99,7 @@ bool SessionWindow::read(QString& path, EditedSession& session) {
     workspace().log()(path.toStdString() + ": " + reason);
     tell(title, isRecording(path) ? name + ": " + QString::fromStdString(reason)
                                   : QString::fromStdString(reason));
-    return false;
+    opened(false);
 }
 
 QString SessionWindow::askForFile(const QString& title, const QString& filter) {
@@ -140,17 +157,23 @@ void SessionWindow::nameMount(std::optional<Mount> mount) {
 }
 
 void SessionWindow::analyseWith(const QString& what, std::optional<Mount> mount) {
-    if (m_isBusy || !m_document->value().recording)
+    if (isBusy() || !m_document->value().recording)
         return;
-    EditedSession again;
-    try {
-        const QScopedValueRollback busy(m_isBusy, true);
-        doBeside(this, conversion_messages::Converting,
-                 [&] { again = analysedSession(recordingOf(m_document->value()), mount); });
-    } catch (const MotionError& error) {
-        tell(conversion_messages::NotConverted, QString::fromStdString(error.what()));
-        return;
-    }
+    analyse(
+        [held = m_document->held(), mount] { return analysedSession(recordingOf(*held), mount); },
+        [this, what](EditedSession again) { takeAnalysis(what, std::move(again)); });
+}
+
+void SessionWindow::analyse(std::function<EditedSession()> work,
+                            std::function<void(EditedSession)> done) {
+    workOn(conversion_messages::Converting, std::move(work), std::move(done),
+           [this](const std::exception_ptr& fault) {
+               tell(conversion_messages::NotConverted, QString::fromStdString(messageOf(fault)));
+           });
+}
+
+/// Marks and power-meter data stay.
+void SessionWindow::takeAnalysis(const QString& what, EditedSession again) {
     m_document->edit(what, [&](EditedSession& session) {
         again.powerMeter = std::move(session.powerMeter);
         setMarks(again, std::move(session.marks));

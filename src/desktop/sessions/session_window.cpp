@@ -8,12 +8,13 @@
 #include "desktop/shell/scroll_page.h"
 #include "desktop/shell/workspace.h"
 
-#include <QCloseEvent>
 #include <QDir>
 #include <QFileInfo>
 #include <QMenu>
 #include <QStackedWidget>
 #include <QStatusBar>
+
+#include <utility>
 
 namespace kavela::desktop {
 
@@ -56,11 +57,19 @@ void SessionWindow::makeParts() {
     connect(m_view, &SessionView::informationRequested, this, &SessionWindow::editInformation);
 }
 
-bool SessionWindow::open(const QString& wanted) {
-    QString path = wanted;
-    EditedSession session;
-    if (m_isBusy || !mayLeave() || !read(path, session))
-        return false;
+bool SessionWindow::open(const QString& path) {
+    openBeside(path, [](bool) {});
+    return isBusy();
+}
+
+void SessionWindow::openBeside(const QString& path, const Opened& opened) {
+    if (isBusy() || !mayLeave())
+        opened(false);
+    else
+        read(path, opened);
+}
+
+void SessionWindow::showRead(EditedSession session, const QString& path) {
     const bool isRecording = session.recording != nullptr;
     m_recordingPath = isRecording ? QFileInfo(path).absoluteFilePath() : QString();
     m_watchTrack.reset();
@@ -69,7 +78,35 @@ bool SessionWindow::open(const QString& wanted) {
     if (isRecording)
         workspace().addRecentFile(m_recordingPath);
     m_replay->setMoment(m_replay->from());
-    return true;
+}
+
+void SessionWindow::whenFree(std::function<void()> act) {
+    if (isBusy())
+        m_next.push_back(std::move(act));
+    else
+        act();
+}
+
+void SessionWindow::goOn() {
+    while (!isBusy() && !m_next.empty()) {
+        const auto act = std::move(m_next.front());
+        m_next.pop_front();
+        act();
+    }
+}
+
+void SessionWindow::workOn(const QString& what, std::function<EditedSession()> work,
+                           std::function<void(EditedSession)> done,
+                           std::function<void(const std::exception_ptr&)> failed) {
+    m_work.runOver({this, what}, std::move(work),
+                   [this, done = std::move(done)](EditedSession session) {
+                       done(std::move(session));
+                       goOn();
+                   },
+                   {.failed = [this, failed = std::move(failed)](const std::exception_ptr& fault) {
+                       failed(fault);
+                       goOn();
+                   }});
 }
 
 void SessionWindow::startNew(const QString& path) {
@@ -88,13 +125,6 @@ bool SessionWindow::hasSession() const {
 void SessionWindow::showSession() {
     m_view->show(m_document->value());
     m_pages->setCurrentIndex(hasSession() ? 1 : 0);
-}
-
-void SessionWindow::closeEvent(QCloseEvent* event) {
-    if (m_isBusy)
-        event->ignore();
-    else
-        ToolWindow::closeEvent(event);
 }
 
 void SessionWindow::changeEvent(QEvent* event) {
@@ -133,15 +163,15 @@ void SessionWindow::dropEvent(QDropEvent* event) {
 
 /// The kind of a file decides, not the side it fell on.
 void SessionWindow::takeFiles(const QStringList& paths) {
-    if (m_isBusy)
+    if (isBusy())
         return;
     QStringList others;
     for (const QString& path : paths) {
         const QString suffix = QFileInfo(path).suffix().toLower();
         if (isPowerMeterList(path))
-            importPowerMeter(path);
+            whenFree([this, path] { importPowerMeter(path); });
         else if (isImportable(path))
-            importFrom({path});
+            whenFree([this, path] { importFrom({path}); });
         else if (QStringList{"kvb", "sbm", "bms"}.contains(suffix) && paths.size() == 1)
             (void)open(path); // told there
         else

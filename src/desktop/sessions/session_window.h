@@ -3,7 +3,12 @@
 #include "desktop/imports/import_files.h"
 #include "desktop/sessions/session_document.h"
 #include "desktop/sessions/session_tables.h"
+#include "desktop/shell/background_work.h"
 #include "desktop/shell/tool_window.h"
+
+#include <deque>
+#include <exception>
+#include <functional>
 
 class QStackedWidget;
 
@@ -22,9 +27,14 @@ public:
     SessionWindow(Workspace& workspace, Autosave autosave);
     ~SessionWindow() override;
 
-    /// Opens a recording (.kvb), which is converted, or a processed session (.sbm, .bms). False,
-    /// after an alert, when it cannot be opened; what was open then stays.
-    [[nodiscard]] bool open(const QString& wanted) override;
+    /// Begins to open a recording (.kvb), which is converted, or a processed session (.sbm, .bms):
+    /// it is read beside the window, which is locked meanwhile. False when the window is at work
+    /// or keeps what it has.
+    [[nodiscard]] bool open(const QString& path) override;
+    /// The same; false is told, after an alert, when it cannot be opened. What was open then stays.
+    void openBeside(const QString& path, const Opened& opened) override;
+    /// A file is being read or analysed.
+    [[nodiscard]] bool isBusy() const { return m_work.isRunning(); }
     /// An empty window, for files to be dropped on; work that was kept for this path is offered.
     void startNew(const QString& path) override;
 
@@ -86,7 +96,6 @@ public:
     void saveSegments();
 
 protected:
-    void closeEvent(QCloseEvent* event) override;
     void changeEvent(QEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void dragEnterEvent(QDragEnterEvent* event) override;
@@ -101,9 +110,21 @@ private:
     void makeParts();
     void showSession();
     void placeOverlay();
-    [[nodiscard]] bool read(QString& path, EditedSession& session);
-    [[nodiscard]] bool readConverted(QString& path, EditedSession& session);
+    void read(const QString& path, const Opened& opened);
+    void showRead(EditedSession session, const QString& path);
+    void tellNotRead(const QString& path, const std::exception_ptr& fault, const Opened& opened);
+    void readConverted(const QString& path, const Opened& opened);
+    /// Now, or once the work of the window is done; in this order.
+    void whenFree(std::function<void()> act);
+    void goOn();
+    /// Works on a session beside the window, which is locked meanwhile, and takes the result.
+    void workOn(const QString& what, std::function<EditedSession()> work,
+                std::function<void(EditedSession)> done,
+                std::function<void(const std::exception_ptr&)> failed);
+    void analyse(std::function<EditedSession()> work, std::function<void(EditedSession)> done);
     void takeIn(ImportedFile file);
+    void takeInEach(std::vector<ImportedFile> files);
+    void takeAnalysis(const QString& what, EditedSession again);
     void showImported(bmrawdata_v5 recording, const QString& path);
     /// The track of a watch that was joined to the recording, and what it gave to it.
     struct WatchTrack {
@@ -141,7 +162,8 @@ private:
     QString m_recordingPath; ///< of the recording that was imported
     std::optional<WatchTrack> m_watchTrack;
     AskPowerMeter m_askPowerMeter;
-    bool m_isBusy = false; ///< a file is being read
+    std::deque<std::function<void()>> m_next; ///< to be done when the window is free
+    BackgroundWork m_work;
 };
 
 /// Whether a file is a list of a power meter, by what it holds.

@@ -1,7 +1,5 @@
 #include "desktop/shell/background_work.h"
 
-#include "desktop/shell/disk_worker.h"
-
 #include <QFutureWatcher>
 #include <QMetaObject>
 #include <QProgressBar>
@@ -132,7 +130,7 @@ private:
 /// In the pool: the task goes before its end is told, with what it holds.
 void work(WorkTask& task, QPromise<void>& promise, Shared& shared) {
     if (!shared.stop.stop_requested())
-        shared.fault = disk::faultOf([&] { task(WorkSteps(promise, shared.stop.get_token())); });
+        shared.fault = faultOf([&] { task(WorkSteps(promise, shared.stop.get_token())); });
     task = nullptr;
     promise.finish();
 }
@@ -154,6 +152,15 @@ void WorkSteps::tellProgress(std::int64_t done, std::int64_t all) const {
     if (all > 0)
         m_promise.setProgressValue(
             static_cast<int>(std::clamp<std::int64_t>(done, 0, all) * Whole / all));
+}
+
+std::exception_ptr faultOf(const std::function<void()>& task) {
+    try {
+        task();
+        return nullptr;
+    } catch (...) {
+        return std::current_exception();
+    }
 }
 
 std::string messageOf(const std::exception_ptr& fault) {

@@ -39,6 +39,8 @@ private:
     std::stop_token m_stop;
 };
 
+/// What a task throws, or null: so that another thread can tell it.
+[[nodiscard]] std::exception_ptr faultOf(const std::function<void()>& task);
 /// What was thrown, in words.
 [[nodiscard]] std::string messageOf(const std::exception_ptr& fault);
 

@@ -26,15 +26,6 @@ QThreadPool& worker() {
 
 } // namespace
 
-std::exception_ptr faultOf(const std::function<void()>& task) {
-    try {
-        task();
-        return nullptr;
-    } catch (...) {
-        return std::current_exception();
-    }
-}
-
 void run(std::function<void()> task) {
     worker().start([task = std::move(task)] { (void)faultOf(task); });
 }

@@ -9,9 +9,6 @@ class QObject;
 /// order in which they were given: what is forgotten after it was kept stays forgotten.
 namespace kavela::desktop::disk {
 
-/// What a task throws, or null: so that another thread can tell it.
-[[nodiscard]] std::exception_ptr faultOf(const std::function<void()>& task);
-
 /// What a task throws is lost: it has to tell by itself.
 void run(std::function<void()> task);
 

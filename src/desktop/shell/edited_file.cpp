@@ -3,6 +3,7 @@
 #include "common/error.h"
 #include "common/kept_file.h"
 #include "common/safe_file.h"
+#include "desktop/shell/background_work.h"
 #include "desktop/shell/disk_worker.h"
 #include "desktop/shell/file_names.h"
 #include "desktop/shell/workspace.h"
@@ -197,7 +198,7 @@ void EditedFile::tellNotWritten(const std::string& reason, QWidget* over) const 
 }
 
 bool EditedFile::written(const std::function<void()>& write, QWidget* over) const {
-    const std::exception_ptr fault = disk::faultOf(write);
+    const std::exception_ptr fault = faultOf(write);
     if (fault)
         tellNotWritten(reasonOf(fault), over);
     return !fault;
@@ -318,10 +319,10 @@ std::shared_ptr<EditedFile::Writing> EditedFile::write(const QString& path, QWid
     m_writing = writing;
     const auto task = [writing, content = contentNow(), beside = besideNow()] {
         const std::filesystem::path file = writing->path.toStdString();
-        writing->fault = disk::faultOf([&] { writeFileSafely(file, content()); });
+        writing->fault = faultOf([&] { writeFileSafely(file, content()); });
         writing->written = FileStamp(writing->path);
         if (!writing->fault && beside)
-            writing->besideFault = disk::faultOf([&] { beside(file); });
+            writing->besideFault = faultOf([&] { beside(file); });
     };
     disk::run(*this, task,
               [this, writing](const std::exception_ptr&) { (void)finish(*writing, false); });

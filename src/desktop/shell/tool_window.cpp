@@ -136,10 +136,12 @@ void ToolWindow::openAgain() {
     const bool wasDirty = m_file->isDirty();
     if (wasDirty)
         m_file->discard(); // or opening would offer it
-    if (open(m_file->path()))
-        m_note->hide();
-    else if (wasDirty)
-        m_file->undoStack().resetClean(); // it is still here, and unsaved
+    openBeside(m_file->path(), [this, wasDirty](bool isOpen) {
+        if (isOpen)
+            m_note->hide();
+        else if (wasDirty)
+            m_file->undoStack().resetClean(); // it is still here, and unsaved
+    });
 }
 
 void ToolWindow::finishMenus(std::function<Commands()> more) {

@@ -42,6 +42,10 @@ public:
     /// Opens a file, in place of what is shown or beside it. False, after an alert, when it cannot
     /// be opened; what is shown then stays.
     [[nodiscard]] virtual bool open(const QString& path) = 0;
+    /// Hears whether it is open, maybe at once.
+    using Opened = std::function<void(bool isOpen)>;
+    /// The same for whom reading a file may go on beside the window.
+    virtual void openBeside(const QString& path, const Opened& opened) { opened(open(path)); }
     /// Begins a document that has no file yet; the path is where it is to be saved.
     virtual void startNew(const QString& /*path*/) {}
 
