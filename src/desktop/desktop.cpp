@@ -277,9 +277,10 @@ bool Desktop::openIn(const ToolKind& tool, const QString& path) {
     m_windows.append(window);
     const auto isOpen = std::make_shared<std::optional<bool>>();
     const auto isLater = std::make_shared<bool>(false);
-    window->openBeside(path, [this, window, path, isOpen, isLater,
+    window->openBeside(path, [this, window, path, file, isOpen, isLater,
                               running = std::make_shared<QEventLoopLocker>()](bool answer) {
         *isOpen = answer;
+        m_opening.remove(file);
         endOpening(window, path, answer);
         if (*isLater)
             noteOpened(window, answer);
@@ -289,7 +290,6 @@ bool Desktop::openIn(const ToolKind& tool, const QString& path) {
 }
 
 void Desktop::endOpening(ToolWindow* window, const QString& path, bool isOpen) {
-    m_opening.remove(canonicalPath(path));
     if (isOpen) {
         show(window);
         return;
