@@ -10,12 +10,15 @@
 #include <gmock/gmock.h>
 
 #include <QApplication>
+#include <QPointer>
 #include <QSemaphore>
 #include <QTest>
 #include <QTimer>
 #include <QToolBar>
 
 #include <filesystem>
+#include <memory>
+#include <utility>
 
 /// Windows that close, and programs that are left, with unsaved work.
 
@@ -24,7 +27,6 @@ namespace {
 
 namespace fs = std::filesystem;
 using desktop::TeamWindow;
-using ::testing::IsEmpty;
 using ::testing::SizeIs;
 
 /// Holds up whatever is to be written, as a slow disk does.
@@ -73,8 +75,6 @@ protected:
 
     /// A window with an athlete that is in no file yet.
     QPointer<TeamWindow> open(const char* name) {
-        m_folder.add(name, "{}");
-        fs::remove(m_folder.path() / name);
         const QPointer<TeamWindow> window =
             new TeamWindow(m_workspace, desktop::Autosave(path("kept")));
         window->startNew(path(name));
@@ -132,14 +132,13 @@ TEST_F(ClosingTest, AsksAgainForWhatWasEditedWhileItWasWritten) {
 }
 
 TEST_F(ClosingTest, KeepsTheWindowAndTheWorkWhereItCannotBeWritten) {
-    const QPointer<TeamWindow> window = open("a.kvteam");
-    fs::create_directory(m_folder.path() / "a.kvteam"); // no file can be there
-    int way = 2;                                        // later
+    const QPointer<TeamWindow> window = open("gone/a.kvteam");
+    int way = 2; // later
     QStringList ways;
     m_workspace.setChoice([&](const Alert&, const QStringList& choices) {
         ways = choices;
         if (way == 0)
-            fs::remove(m_folder.path() / "a.kvteam");
+            fs::create_directory(m_folder.path() / "gone");
         return std::exchange(way, 2);
     });
     window->close();
@@ -153,7 +152,7 @@ TEST_F(ClosingTest, KeepsTheWindowAndTheWorkWhereItCannotBeWritten) {
     way = 0;
     window->close();
     QTRY_VERIFY(!window);
-    EXPECT_TRUE(fs::is_regular_file(m_folder.path() / "a.kvteam"));
+    EXPECT_TRUE(fs::is_regular_file(m_folder.path() / "gone" / "a.kvteam"));
 }
 
 TEST_F(ClosingTest, LeavingTheProgramWaitsForEachWindowAndRemembersAll) {
@@ -190,22 +189,25 @@ TEST_F(ClosingTest, LeavingTheProgramWaitsForEachWindowAndRemembersAll) {
 TEST_F(ClosingTest, AProgramWhoseWorkCannotBeWrittenIsNotLeft) {
     NoQuit ends;
     desktop::Desktop program(m_workspace, desktop::Autosave(path("kept")));
-    const QPointer<TeamWindow> made = open("a.kvteam");
+    fs::create_directory(m_folder.path() / "gone");
+    const QPointer<TeamWindow> made = open("gone/a.kvteam");
     ASSERT_TRUE(made->save());
     made->close();
     QTRY_VERIFY(!made);
-    program.open(path("a.kvteam"));
+    program.open(path("gone/a.kvteam"));
     ASSERT_THAT(program.windows(), SizeIs(1));
     TeamWindow& window = *program.windowsOf<TeamWindow>().front();
     edit(window, "Zora");
-    m_workspace.setChoice([](const Alert&, const QStringList& choices) {
-        return static_cast<int>(choices.size()) - 1; // the most careful: later, or what stays
+    int refusals = 0;
+    m_workspace.setChoice([&](const Alert&, const QStringList& choices) {
+        ++refusals;
+        return static_cast<int>(choices.size()) - 1; // later
     });
-    fs::remove(m_folder.path() / "a.kvteam");
-    fs::create_directory(m_folder.path() / "a.kvteam");
+    fs::remove_all(m_folder.path() / "gone");
     QEvent event(QEvent::Quit);
     QCoreApplication::sendEvent(qApp, &event);
     QTRY_VERIFY(!window.isClosing());
+    EXPECT_EQ(refusals, 1);
     EXPECT_THAT(program.windows(), SizeIs(1));
     EXPECT_TRUE(window.isWindowModified());
     EXPECT_EQ(ends.count, 0);
