@@ -15,6 +15,7 @@ int main(int count, char** words) {
     addSeason();
     addSplitTable();
     addShowCommand();
+    addLosses();
     addVideo();
     addMotionAnalysis();
     ValueReporter reporter;

@@ -10,6 +10,7 @@ void addMemory();
 void addSeason();
 void addSplitTable();
 void addShowCommand();
+void addLosses();
 void addVideo();
 void addMotionAnalysis();
 
