@@ -17,6 +17,7 @@ int main(int count, char** words) {
     addShowCommand();
     addVideo();
     addMotionAnalysis();
+    addFacts();
     ValueReporter reporter;
     benchmark::RunSpecifiedBenchmarks(&reporter);
     return printRatios(reporter.values()) > 0 ? 1 : 0;

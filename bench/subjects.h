@@ -12,5 +12,6 @@ void addSplitTable();
 void addShowCommand();
 void addVideo();
 void addMotionAnalysis();
+void addFacts();
 
 } // namespace kavela::bench

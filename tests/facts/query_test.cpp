@@ -109,8 +109,9 @@ TEST_P(WrongQueries, AreToldWithTheirPlace) {
     } catch (const QueryError& error) {
         EXPECT_EQ(error.place(), GetParam().place) << GetParam().query;
         EXPECT_THAT(error.what(), HasSubstr(GetParam().text));
-        if (*GetParam().nearest)
+        if (*GetParam().nearest) {
             EXPECT_THAT(error.nearest(), Contains(GetParam().nearest));
+        }
     }
 }
 
