@@ -170,8 +170,7 @@ private:
                 run("INSERT INTO gates VALUES(" + id + ',' + std::to_string(gate.direction) + ',' +
                     std::to_string(gate.time) + ')');
             for (const SectionRow& section : facts().sectionsOf(row))
-                run("INSERT INTO sections VALUES(" + id + ',' + std::to_string(section.time) +
-                    ')');
+                run("INSERT INTO sections VALUES(" + id + ',' + std::to_string(section.time) + ')');
         }
     }
 

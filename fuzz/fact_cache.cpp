@@ -1,5 +1,5 @@
-#include "facts/content_hash.h"
 #include "facts/fact_cache.h"
+#include "facts/content_hash.h"
 #include "facts/fact_transfer.h"
 #include "harness.h"
 

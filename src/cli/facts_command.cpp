@@ -66,8 +66,7 @@ void addRow(FactTable& table, const Fields&... fields) {
 }
 
 const FactColumn FileKey{"file", "key", "", "number of the file, from 0: joins all tables"};
-const FactColumn RunKey{"run", "key", "",
-                        "number of the run in its file, from 0: joins with file"};
+const FactColumn RunKey{"run", "key", "", "number of the run in its file, from 0: joins with file"};
 
 /// The columns of a table of what belongs to a run.
 std::vector<FactColumn> ofRun(std::vector<FactColumn> columns) {
@@ -87,8 +86,8 @@ public:
             for (const RunRow& run : m_facts.runsOf(m_facts.files()[i]))
                 addRun(run);
         }
-        return {m_files, m_courses, m_runs,   m_sections, m_gates,
-                m_penalties, m_losses, m_ways, m_tags};
+        return {m_files,     m_courses, m_runs, m_sections, m_gates,
+                m_penalties, m_losses,  m_ways, m_tags};
     }
 
 private:
@@ -179,8 +178,9 @@ private:
                             {"phase", "text", "", "phase"},
                             {"hand", "text", "", "side on which the athlete paddles"},
                             {"pos", "whole", "", "official position; 0 for none"},
-                            {"total", "number", "s", "with penalties; empty for a run that is not "
-                                                     "whole"},
+                            {"total", "number", "s",
+                             "with penalties; empty for a run that is not "
+                             "whole"},
                             {"paddling", "number", "s", "the same without penalties"},
                             {"penalty", "whole", "s", "the seconds between them"},
                             {"realtime", "number", "s", "official time as written"},
@@ -294,11 +294,9 @@ int writeTables(const std::vector<FactTable>& tables, const fs::path& folder) {
             writeFileSafely(pathOf(table, folder), table.titles() + table.rows);
         return Done;
     } catch (const FileError& error) {
-        logLine("The file " + pathText(error.path()) +
-                " could not be written: " + error.reason());
+        logLine("The file " + pathText(error.path()) + " could not be written: " + error.reason());
     } catch (const fs::filesystem_error& error) {
-        logLine("The folder " + pathText(folder) +
-                " could not be made: " + error.code().message());
+        logLine("The folder " + pathText(folder) + " could not be made: " + error.code().message());
     }
     return NotDone;
 }
@@ -317,8 +315,7 @@ int writeFacts(const FactsCall& call) {
     const auto count = [](std::size_t rows) { return static_cast<std::int64_t>(rows); };
     const std::string report = counted(count(tables.size()), "table", "tables") + " of " +
                                counted(count(scan.facts.files().size()), "file", "files") +
-                               " with " +
-                               counted(count(scan.facts.runs().size()), "run", "runs") +
+                               " with " + counted(count(scan.facts.runs().size()), "run", "runs") +
                                " written to " + pathText(call.folder) + '\n';
     return print(report) && scan.failed.empty() ? Done : NotDone;
 }

@@ -25,8 +25,7 @@ protected:
 
     /// Lets a file look as if it had been written long ago.
     static void settle(const fs::path& path, int minutes = 60) {
-        fs::last_write_time(path,
-                            fs::file_time_type::clock::now() - std::chrono::minutes(minutes));
+        fs::last_write_time(path, fs::file_time_type::clock::now() - std::chrono::minutes(minutes));
     }
 
     [[nodiscard]] FolderScan scan() const {

@@ -115,22 +115,21 @@ TEST_P(WrongQueries, AreToldWithTheirPlace) {
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    All, WrongQueries,
-    testing::Values(Wrong{"gates leff", 6, "means nothing", "left"},
-                    Wrong{"gatse", 0, "means nothing", "gates"},
-                    Wrong{"runs entrance<2", 5, "but of gates", ""},
-                    Wrong{"runs athlete Bell Anna", 18, "in quotes", ""},
-                    Wrong{"runs place", 10, "needs a value", ""},
-                    Wrong{"runs place<Troja", 10, "by = and !=", ""},
-                    Wrong{"gates time<fast", 11, "no number", ""},
-                    Wrong{"penalties kind tuch", 15, "is no kind", "touch"},
-                    Wrong{"runs date 2026-13", 10, "no day", ""},
-                    Wrong{"runs title \"Cup", 11, "not closed", ""},
-                    Wrong{"runs by total", 8, "of its own", ""},
-                    Wrong{"runs sort mean", 10, "means nothing", ""},
-                    Wrong{"runs first 0", 11, "no number of rows", ""},
-                    Wrong{"runs cat by athlete", 9, "needs a value", ""}));
+INSTANTIATE_TEST_SUITE_P(All, WrongQueries,
+                         testing::Values(Wrong{"gates leff", 6, "means nothing", "left"},
+                                         Wrong{"gatse", 0, "means nothing", "gates"},
+                                         Wrong{"runs entrance<2", 5, "but of gates", ""},
+                                         Wrong{"runs athlete Bell Anna", 18, "in quotes", ""},
+                                         Wrong{"runs place", 10, "needs a value", ""},
+                                         Wrong{"runs place<Troja", 10, "by = and !=", ""},
+                                         Wrong{"gates time<fast", 11, "no number", ""},
+                                         Wrong{"penalties kind tuch", 15, "is no kind", "touch"},
+                                         Wrong{"runs date 2026-13", 10, "no day", ""},
+                                         Wrong{"runs title \"Cup", 11, "not closed", ""},
+                                         Wrong{"runs by total", 8, "of its own", ""},
+                                         Wrong{"runs sort mean", 10, "means nothing", ""},
+                                         Wrong{"runs first 0", 11, "no number of rows", ""},
+                                         Wrong{"runs cat by athlete", 9, "needs a value", ""}));
 
 TEST(QueryText, IsWrittenInOneWayThatReadsBack) {
     for (const auto* const text :
