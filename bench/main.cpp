@@ -18,6 +18,7 @@ int main(int count, char** words) {
     addLosses();
     addVideo();
     addMotionAnalysis();
+    addFacts();
     ValueReporter reporter;
     benchmark::RunSpecifiedBenchmarks(&reporter);
     return printRatios(reporter.values()) > 0 ? 1 : 0;

@@ -13,5 +13,6 @@ void addShowCommand();
 void addLosses();
 void addVideo();
 void addMotionAnalysis();
+void addFacts();
 
 } // namespace kavela::bench

@@ -170,8 +170,10 @@ std::string findText(const QueryAnswer& answer, const Terminal& terminal) {
         text += lineOf(columns, widths, texts);
     }
     const bool isGrouped = !answer.query().by.empty();
-    return text + counted(static_cast<std::int64_t>(answer.size()), isGrouped ? "group" : "row",
-                          isGrouped ? "groups" : "rows") + '\n';
+    return text +
+           counted(static_cast<std::int64_t>(answer.size()), isGrouped ? "group" : "row",
+                   isGrouped ? "groups" : "rows") +
+           '\n';
 }
 
 std::string findCsv(const QueryAnswer& answer) {
@@ -199,8 +201,7 @@ std::string findCsv(const QueryAnswer& answer) {
     return text;
 }
 
-std::string findJson(const QueryAnswer& answer, const std::string& query,
-                     const FolderScan& scan) {
+std::string findJson(const QueryAnswer& answer, const std::string& query, const FolderScan& scan) {
     std::string text = "{\"query\":" + encode(validUtf8(query)) +
                        ",\"scanned\":" + scannedJson(scan) + ",\"columns\":[";
     for (std::size_t i = 0; i < answer.columns().size(); ++i)

@@ -21,8 +21,8 @@ struct ScanOptions {
 };
 
 struct FolderScan {
-    FactStore facts;       ///< files in the order of the call, those of a folder by their paths
-    std::size_t read = 0;  ///< files that were read now, the others being known
+    FactStore facts;      ///< files in the order of the call, those of a folder by their paths
+    std::size_t read = 0; ///< files that were read now, the others being known
     std::vector<ScanFault> failed;
     bool isCancelled = false;
 };

@@ -32,8 +32,7 @@ std::vector<Group> grouped(const FactStore& facts, const Phase& phaseOf) {
     return groups;
 }
 
-void rankGroup(const FactStore& facts, const Group& group,
-               std::vector<std::optional<int>>& ranks) {
+void rankGroup(const FactStore& facts, const Group& group, std::vector<std::optional<int>>& ranks) {
     std::vector<double> totals;
     for (const std::size_t run : group)
         if (facts.runs()[run].isComplete)

@@ -309,8 +309,7 @@ private:
             const auto column = std::ranges::find(query().by, order.column) - query().by.begin();
             sortBy(keysOfGroups(static_cast<std::size_t>(column)), order.isDown);
         } else {
-            sortBy(order.column->isText() ? placesOfTexts(*order.column)
-                                          : numbersOf(*order.column),
+            sortBy(order.column->isText() ? placesOfTexts(*order.column) : numbersOf(*order.column),
                    order.isDown);
         }
     }
