@@ -18,6 +18,19 @@
 
 namespace kavela {
 
+/// What makes a group of rows: by column the text's key or the number's bits.
+using GroupKey = std::array<std::uint64_t, MostGroupColumns>;
+
+/// Of a class with a name of its own, which a batch of sources allows no nameless members.
+struct HashOfGroup {
+    std::size_t operator()(const GroupKey& key) const {
+        std::uint64_t hash = 0;
+        for (const std::uint64_t part : key)
+            hash = (hash ^ part) * 0x9E3779B97F4A7C15U;
+        return static_cast<std::size_t>(hash ^ (hash >> 32U));
+    }
+};
+
 namespace {
 
 FoundValue valueOf(const QueryColumn& column, const RowCursor& row) {
@@ -29,24 +42,12 @@ FoundValue valueOf(const QueryColumn& column, const RowCursor& row) {
     return value;
 }
 
-/// What makes a group of rows: by column the text's key or the number's bits.
-using GroupKey = std::array<std::uint64_t, MostGroupColumns>;
-
 std::uint64_t keyPart(const QueryColumn& column, const RowCursor& row) {
     if (column.isText())
         return column.key ? column.key(row) : column.text(row);
     const double number = column.number(row);
     return std::bit_cast<std::uint64_t>(std::isnan(number) ? NotKnown : number + 0.0);
 }
-
-struct HashOfGroup {
-    std::size_t operator()(const GroupKey& key) const {
-        std::uint64_t hash = 0;
-        for (const std::uint64_t part : key)
-            hash = (hash ^ part) * 0x9E3779B97F4A7C15U;
-        return static_cast<std::size_t>(hash ^ (hash >> 32U));
-    }
-};
 
 double medianOf(std::vector<double>& values) {
     const auto middle = values.begin() + static_cast<std::ptrdiff_t>(values.size() / 2);
