@@ -36,7 +36,7 @@ void tellGateTime(const LossPair& pair, const LossSide& side, const LossGate& ga
         (void)madeGateTime(pair.facts, side.pool, side.isMedian, gate.gate, part.row, why.part());
         return;
     }
-    Place place = lossPlace(pair.facts, *side.run, sectionOfGate(pair.facts, pair.file, gate.gate));
+    Place place = lossPlace(pair.facts, *side.run, lossSectionOf(pair.facts, pair.file, gate.gate));
     place.gate = static_cast<std::size_t>(gate.gate);
     why.input(side.name, gate.*part.time, std::move(place));
 }
@@ -67,7 +67,7 @@ bool knowsGatesOfSections(const FactStore& facts, const FileRow& file) {
     return file.sections > 0 && facts.definedSections(file) == file.sections;
 }
 
-std::optional<std::size_t> sectionOfGate(const FactStore& facts, const FileRow& file,
+std::optional<std::size_t> lossSectionOf(const FactStore& facts, const FileRow& file,
                                          std::int64_t gate) {
     if (!knowsGatesOfSections(facts, file))
         return std::nullopt;

@@ -25,7 +25,7 @@ struct GateLoss {
 [[nodiscard]] bool knowsGatesOfSections(const FactStore& facts, const FileRow& file);
 
 /// The section, from 1, in which a gate hangs; nothing when none has it.
-[[nodiscard]] std::optional<std::size_t> sectionOfGate(const FactStore& facts, const FileRow& file,
+[[nodiscard]] std::optional<std::size_t> lossSectionOf(const FactStore& facts, const FileRow& file,
                                                        std::int64_t gate);
 
 /// The upstream gates that both have a time of, by number.

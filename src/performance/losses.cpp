@@ -44,7 +44,7 @@ void tellShownPart(Why& why, LossRule rule, double value, std::int64_t hundredth
 /// Puts the gates into their stretches; those of no stretch stand elsewhere.
 void placeGates(const LossPair& pair, RunLosses& losses) {
     for (GateLoss& gate : gateLossesOf(pair)) {
-        const auto section = sectionOfGate(pair.facts, pair.file, gate.gate);
+        const auto section = lossSectionOf(pair.facts, pair.file, gate.gate);
         const auto stretch = std::ranges::find_if(losses.stretches, [&](const Stretch& candidate) {
             return section && candidate.holds(*section);
         });
