@@ -5,7 +5,7 @@
 #include "cli/losses_csv.h"
 #include "cli/losses_json.h"
 #include "cli/losses_text.h"
-#include "cli/why_text.h"
+#include "common/why_text.h"
 #include "performance/loss_reasons.h"
 #include "results/name_likeness.h"
 #include "splitdata/athlete_keys.h"

@@ -4,7 +4,7 @@
 #include "cli/fact_input.h"
 #include "cli/penalties_json.h"
 #include "cli/penalties_text.h"
-#include "cli/why_text.h"
+#include "common/why_text.h"
 #include "performance/penalty_reasons.h"
 #include "splitdata/athlete_keys.h"
 
