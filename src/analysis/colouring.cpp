@@ -117,9 +117,13 @@ Band ColumnScale::bandOf(double value, Why* why) const {
 }
 
 void ColumnScale::tell(double value, Band band, Why& why) const {
+    const bool isTenth = band >= Band::Band1 && band <= Band::Band10;
     const auto shown = [&](AnalysisRule rule) {
-        why.result(ruleOf(rule), value, std::string(bandName(band)));
+        const double number =
+            isTenth ? static_cast<double>(band) - static_cast<double>(Band::Fastest) : value;
+        why.result(ruleOf(rule), number, std::string(bandName(band)));
     };
+    why.input("time", value);
     why.input("values of the column", static_cast<double>(m_values));
     if (band == Band::Clear) {
         shown(AnalysisRule::BandClear);

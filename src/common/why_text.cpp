@@ -28,8 +28,7 @@ public:
                  rightAligned(inputText(input), valueWidth(reason)) +
                  (input.place ? "  " + placeText(*input.place) : std::string()));
         if (reason.rule)
-            field("rule", width,
-                  fmt::format("{};  {}", reason.rule->formula, roundingText(reason)));
+            field("rule", width, ruleText(reason));
         if (reason.rule && !reason.rule->source.empty())
             field("source", width, std::string(reason.rule->source));
         if (reason.uncertainty)
@@ -42,6 +41,12 @@ public:
     [[nodiscard]] std::string take() { return std::move(m_text); }
 
 private:
+    static std::string ruleText(const Reason& reason) {
+        const std::string rounding = roundingText(reason);
+        const std::string formula(reason.rule->formula);
+        return rounding.empty() ? formula : formula + ";  " + rounding;
+    }
+
     void addParts(const Reason& reason) {
         for (const Reason& part : reason.parts) {
             WhyLines lines(m_margin + "    ");
@@ -96,6 +101,8 @@ std::string placeText(const Place& place) {
 }
 
 std::string roundingText(const Reason& reason) {
+    if (reason.shown.find_first_of("0123456789") == std::string::npos)
+        return {};
     return fmt::format("shown {} of {}", printable(reason.shown), shortestText(reason.value));
 }
 

@@ -14,7 +14,8 @@ namespace kavela {
 /// Where an input stands: "race.kvx · run 50 · split 5 · 48.82 s".
 [[nodiscard]] std::string placeText(const Place& place);
 
-/// The full number behind the shown one: "shown +1.02 of 1.0200000000000014".
+/// The full number behind the shown one: "shown +1.02 of 1.0200000000000014"; empty where what is
+/// shown is a word.
 [[nodiscard]] std::string roundingText(const Reason& reason);
 
 /// The range that the number lies in and where that comes from; empty where none is known.
