@@ -47,10 +47,12 @@ double TableFigures::best(std::size_t column, Why* why) const {
     if (m_sorted[column].empty())
         return 0;
     const double least = m_sorted[column].front();
-    const auto row = static_cast<std::size_t>(std::ranges::find(m_values[column], least) -
-                                              m_values[column].begin());
-    if (why && m_runs[row])
-        tellRun("best: " + m_runs[row]->name, row, column, why);
+    if (why) {
+        const auto row = static_cast<std::size_t>(std::ranges::find(m_values[column], least) -
+                                                  m_values[column].begin());
+        if (m_runs[row])
+            tellRun("best: " + m_runs[row]->name, row, column, why);
+    }
     return least;
 }
 
@@ -122,7 +124,7 @@ double TableFigures::referenceValue(std::size_t column, const TableReference& re
     case ReferenceKind::Run:
         if (reference.row >= m_values[column].size())
             return 0;
-        if (m_runs[reference.row])
+        if (why && m_runs[reference.row])
             tellRun("reference: " + m_runs[reference.row]->name, reference.row, column, why);
         return value(reference.row, column);
     case ReferenceKind::Values: {

@@ -92,8 +92,9 @@ bool isBefore(double a, double b) {
 void dropSmallestAndLargest(std::vector<Ratio>& ascending, Why* why) {
     const auto tell = [&](const Ratio& ratio, const char* what) {
         if (why)
-            why->note(nameOf(ratio) + ", " + hundredthsText(ratio.value) + ", is left out: the " +
-                      what + ".");
+            why->note(nameOf(ratio) + ", " +
+                      (std::isfinite(ratio.value) ? hundredthsText(ratio.value) : "no ratio") +
+                      ", is left out: the " + what + ".");
     };
     const bool hasLargest = ascending.size() >= 2;
     if (!ascending.empty()) {

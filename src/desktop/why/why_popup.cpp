@@ -42,8 +42,9 @@ QPoint placeBeside(const QRect& number, const QSize& size, const QRect& free) {
 }
 
 /// The part with the focus answers, or the nearest one around it.
-void askInFocus(const QWidget& window) {
-    for (QWidget* part = window.focusWidget(); part; part = part->parentWidget())
+void askInFocus(const QMainWindow& window) {
+    QWidget* const focus = window.focusWidget() ? window.focusWidget() : window.centralWidget();
+    for (QWidget* part = focus; part; part = part->parentWidget())
         if (auto* const keys = part->findChild<WhyKeys*>(QString(), Qt::FindDirectChildrenOnly)) {
             keys->askByKey();
             return;
