@@ -80,7 +80,7 @@ TEST(Why, LeavesOutPartsThatToldNothing) {
 TEST(WhyText, ShowsNumbersAsWhatTheyAre) {
     Why why;
     why.input("races", 4);
-    why.input("own", 96, Place{.file = "day/race.kvx", .run = 5, .split = 3});
+    why.input("own", 96, Place{"day/race.kvx", 5, 3, {}, {}, {}});
     why.result(TestedHalf, 1.0200000000000014, "+1.02");
     const std::string text = whyText(why.reason());
     EXPECT_THAT(text, HasSubstr("shown +1.02 of 1.0200000000000014"));
