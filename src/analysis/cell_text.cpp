@@ -1,5 +1,6 @@
 #include "analysis/cell_text.h"
 
+#include "analysis/analysis_rules.h"
 #include "common/number_text.h"
 
 #include <cmath>
@@ -78,20 +79,21 @@ std::string comparisonNumber(const ComparisonRow& row, const TableFigures& figur
 }
 
 std::string cellText(const SplitTable& table, const TableFigures& figures, std::size_t row,
-                     std::size_t column, CellContent content, const TableReference& reference) {
+                     std::size_t column, CellContent content, const TableReference& reference,
+                     Why* why) {
     switch (content) {
     case CellContent::Time:
         return table.rows[row].cells[column].text;
     case CellContent::Gap:
-        return gapText(figures.gap(row, column, reference));
+        return gapText(figures.gap(row, column, reference, why));
     case CellContent::Rank: {
-        const std::optional<int> rank = figures.rank(row, column);
+        const std::optional<int> rank = figures.rank(row, column, why);
         return rank ? std::to_string(*rank) : None;
     }
     case CellContent::PercentBehind:
-        return percentText(figures.percentBehind(row, column));
+        return percentText(figures.percentBehind(row, column, why));
     case CellContent::Percentile: {
-        const std::optional<double> percentile = figures.percentile(row, column);
+        const std::optional<double> percentile = figures.percentile(row, column, why);
         return percentile ? std::to_string(std::lround(*percentile)) : None;
     }
     }
@@ -99,16 +101,20 @@ std::string cellText(const SplitTable& table, const TableFigures& figures, std::
 }
 
 std::string comparisonText(const ComparisonRow& row, const TableFigures& figures,
-                           std::size_t column, CellContent content,
-                           const TableReference& reference) {
+                           std::size_t column, CellContent content, const TableReference& reference,
+                           Why* why) {
     const double value = row.values[column];
+    if (why && value != 0)
+        why->input(row.name.empty() ? "ideal run" : row.name, value);
     switch (content) {
     case CellContent::Time:
+        if (why && value != 0)
+            why->result(ruleOf(AnalysisRule::OtherTime), value, hundredthsText(value));
         return value == 0 ? None : hundredthsText(value);
     case CellContent::Gap:
-        return gapText(figures.gapOf(value, column, reference));
+        return gapText(figures.gapOf(value, column, reference, why));
     case CellContent::PercentBehind:
-        return percentText(figures.percentBehindOf(value, column));
+        return percentText(figures.percentBehindOf(value, column, why));
     case CellContent::Rank:
     case CellContent::Percentile:
         break;

@@ -24,15 +24,15 @@ enum class CellContent {
                                      const TableReference& reference);
 
 /// The text of a run's cell; a dash for a figure that there is none of. The figures are those of
-/// the table.
+/// the table. Figures are told; a time is what splitCell() tells.
 [[nodiscard]] std::string cellText(const SplitTable& table, const TableFigures& figures,
                                    std::size_t row, std::size_t column, CellContent content,
-                                   const TableReference& reference);
+                                   const TableReference& reference, Why* why = nullptr);
 
 /// The text of a cell in a row beside the runs, which takes neither place nor percentile.
 [[nodiscard]] std::string comparisonText(const ComparisonRow& row, const TableFigures& figures,
                                          std::size_t column, CellContent content,
-                                         const TableReference& reference);
+                                         const TableReference& reference, Why* why = nullptr);
 
 /// The same as a number.
 [[nodiscard]] std::string comparisonNumber(const ComparisonRow& row, const TableFigures& figures,

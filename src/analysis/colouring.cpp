@@ -1,5 +1,6 @@
 #include "analysis/colouring.h"
 
+#include "analysis/analysis_rules.h"
 #include "common/percentile.h"
 
 #include <algorithm>
@@ -100,6 +101,7 @@ ColumnScale::ColumnScale(Column column, int number, std::int64_t sections) {
     m_isMarked = number == TotalColumn && hasZero && sections >= TotalColumn;
     removeZeros(column);
     m_isEmpty = column.empty();
+    m_values = column.size();
     if (m_isEmpty)
         return;
     std::sort(column.begin(), column.end());
@@ -107,7 +109,41 @@ ColumnScale::ColumnScale(Column column, int number, std::int64_t sections) {
         m_percentiles[i] = percentile(column, Fractions[i]);
 }
 
-Band ColumnScale::bandOf(double value) const {
+Band ColumnScale::bandOf(double value, Why* why) const {
+    const Band band = find(value);
+    if (why)
+        tell(value, band, *why);
+    return band;
+}
+
+void ColumnScale::tell(double value, Band band, Why& why) const {
+    const bool isTenth = band >= Band::Band1 && band <= Band::Band10;
+    const auto shown = [&](AnalysisRule rule) {
+        const double number =
+            isTenth ? static_cast<double>(band) - static_cast<double>(Band::Fastest) : value;
+        why.result(ruleOf(rule), number, std::string(bandName(band)));
+    };
+    why.input("time", value);
+    why.input("values of the column", static_cast<double>(m_values));
+    if (band == Band::Clear) {
+        shown(AnalysisRule::BandClear);
+    } else if (band == Band::Marked) {
+        shown(AnalysisRule::BandMarked);
+    } else if (band == Band::Fastest || band == Band::Slowest) {
+        why.input("least", m_percentiles.front());
+        why.input("most", m_percentiles.back());
+        shown(band == Band::Fastest ? AnalysisRule::BandFastest : AnalysisRule::Band);
+    } else {
+        const std::size_t tenth =
+            static_cast<std::size_t>(band) - static_cast<std::size_t>(Band::Band1);
+        const auto name = [](std::size_t at) { return std::to_string(10 * at) + " % of them"; };
+        why.input(name(tenth), m_percentiles[tenth]);
+        why.input(name(tenth + 1), m_percentiles[tenth + 1]);
+        shown(AnalysisRule::Band);
+    }
+}
+
+Band ColumnScale::find(double value) const {
     if (value == 0 || m_isEmpty)
         return Band::Clear;
     if (m_isMarked)
@@ -128,8 +164,8 @@ TableScales::TableScales(const RaceSet& set, ValueKind kind, bool penaltiesInclu
         m_scales.emplace_back(comparedColumn(columns, number, set), number, set.totalsplits);
 }
 
-Band TableScales::bandOf(int column, double value) const {
-    return m_scales[static_cast<std::size_t>(column - 1)].bandOf(value);
+Band TableScales::bandOf(int column, double value, Why* why) const {
+    return m_scales[static_cast<std::size_t>(column - 1)].bandOf(value, why);
 }
 
 } // namespace kavela

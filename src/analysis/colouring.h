@@ -1,6 +1,7 @@
 #pragma once
 
 #include "analysis/comparison_columns.h"
+#include "common/why.h"
 
 #include <array>
 #include <optional>
@@ -66,12 +67,17 @@ public:
     /// `number` is the column's number, counted from 1; `sections` the course's number of sections.
     ColumnScale(Column column, int number, std::int64_t sections);
 
-    /// The band of a value of this column; clear for 0 and in an empty column.
-    [[nodiscard]] Band bandOf(double value) const;
+    /// The band of a value of this column; clear for 0 and in an empty column. Told with the tenths
+    /// around it and how many values the column has.
+    [[nodiscard]] Band bandOf(double value, Why* why = nullptr) const;
 
 private:
     static constexpr std::size_t Tenths = 10;
+    [[nodiscard]] Band find(double value) const;
+    void tell(double value, Band band, Why& why) const;
+
     std::array<double, Tenths + 1> m_percentiles{}; ///< P0, P10 … P100
+    std::size_t m_values = 0;
     bool m_isEmpty = true;
     bool m_isMarked = false;
 };
@@ -82,7 +88,7 @@ class TableScales {
 public:
     TableScales(const RaceSet& set, ValueKind kind, bool penaltiesIncluded);
 
-    [[nodiscard]] Band bandOf(int column, double value) const;
+    [[nodiscard]] Band bandOf(int column, double value, Why* why = nullptr) const;
 
 private:
     std::vector<ColumnScale> m_scales; ///< of columns 1 to 13

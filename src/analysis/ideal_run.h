@@ -1,6 +1,7 @@
 #pragma once
 
 #include "analysis/race_set.h"
+#include "common/why.h"
 
 #include <optional>
 #include <span>
@@ -23,10 +24,19 @@ struct IdealRun {
         fastest; ///< the whole run of the least total time, without penalties
 };
 
+/// Which number of an ideal run is asked for: its total, the best of a section counted from 1, or
+/// the bests up to there.
+struct IdealQuestion {
+    std::optional<std::size_t> section = std::nullopt;
+    bool isAccumulated = false;
+};
+
 /// The ideal run of some runs of the set, given by their indices.
-[[nodiscard]] IdealRun idealRun(const RaceSet& set, std::span<const std::size_t> runs);
+[[nodiscard]] IdealRun idealRun(const RaceSet& set, std::span<const std::size_t> runs,
+                                const IdealQuestion& question = {}, Why* why = nullptr);
 
 /// The ideal run of the whole set.
-[[nodiscard]] IdealRun idealRun(const RaceSet& set);
+[[nodiscard]] IdealRun idealRun(const RaceSet& set, const IdealQuestion& question = {},
+                                Why* why = nullptr);
 
 } // namespace kavela

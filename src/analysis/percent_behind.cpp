@@ -1,6 +1,8 @@
 #include "analysis/percent_behind.h"
 
+#include "analysis/analysis_rules.h"
 #include "analysis/standing.h"
+#include "common/number_text.h"
 #include "splitdata/run_timing.h"
 
 #include <algorithm>
@@ -88,10 +90,13 @@ void fillTotals(std::vector<analyzerdata>& runs, std::int64_t sections) {
 
 } // namespace
 
-double percentBehind(double time, double best) {
+double percentBehind(double time, double best, Why* why) {
     if (time == 0 || best == 0)
         return 0;
-    return (time / best - 1) * 100;
+    const double percent = (time / best - 1) * 100;
+    if (why)
+        why->result(ruleOf(AnalysisRule::PercentBehind), percent, hundredthsText(percent) + " %");
+    return percent;
 }
 
 void fillPercentFigures(RaceSet& set) {

@@ -1,5 +1,7 @@
 #include "analysis/split_table.h"
 
+#include "analysis/analysis_rules.h"
+#include "analysis/run_place.h"
 #include "common/number_text.h"
 #include "splitdata/run_timing.h"
 
@@ -33,15 +35,27 @@ public:
         : m_settings(settings), m_sections(sections), m_course(course) {}
 
     [[nodiscard]] std::vector<TableCell> of(const analyzerdata& run) const {
-        const sectionmaindata& section = run.sectioninfo;
+        constexpr std::size_t Closing = 3; // total, sprint, real
         std::vector<TableCell> cells;
-        cells.reserve(m_sections + 3);
-        for (std::size_t i = 0; i < m_sections; ++i)
-            cells.push_back(sectionCell(section, i));
-        cells.push_back(cell(TotalColumn, total(section), totalStanding(section, m_course)));
-        cells.push_back(cell(SprintColumn, section.sprinttime, timeStanding(section.sprinttime)));
-        cells.push_back(cell(RealColumn, section.realtime, timeStanding(section.realtime)));
+        cells.reserve(m_sections + Closing);
+        for (std::size_t column = 0; column < m_sections + Closing; ++column)
+            cells.push_back(at(run, column, nullptr));
         return cells;
+    }
+
+    /// The cell of a run in a column of the table.
+    [[nodiscard]] TableCell at(const analyzerdata& run, std::size_t column, Why* why) const {
+        const sectionmaindata& section = run.sectioninfo;
+        if (column < m_sections)
+            return sectionCell(run, column, why);
+        if (column == m_sections)
+            return totalCell(run, why);
+        const bool isSprint = column == m_sections + 1;
+        const double time = isSprint ? section.sprinttime : section.realtime;
+        if (why)
+            why->input(isSprint ? "sprint" : "real", time, runPlace(run));
+        return told(cell(isSprint ? SprintColumn : RealColumn, time, timeStanding(time)),
+                    isSprint ? AnalysisRule::SprintTime : AnalysisRule::RealTime, why);
     }
 
 private:
@@ -60,22 +74,53 @@ private:
         return made;
     }
 
-    [[nodiscard]] TableCell sectionCell(const sectionmaindata& section, std::size_t i) const {
+    /// The cell itself, told as the number that it is.
+    static TableCell told(TableCell made, AnalysisRule rule, Why* why) {
+        if (why) {
+            why->result(ruleOf(rule), made.value, made.text);
+            if (const std::string_view reason = reasonOf(made.standing); !reason.empty())
+                why->note(std::string(reason));
+        }
+        return made;
+    }
+
+    [[nodiscard]] TableCell sectionCell(const analyzerdata& run, std::size_t i, Why* why) const {
+        const sectionmaindata& section = run.sectioninfo;
         const std::int64_t penalty = entryOrZero(section.pens, i);
-        double value = entryOrZero(section.times, i);
-        TimeStanding standing = sectionStanding(section, i);
-        if (m_settings.kind == ValueKind::Accumulated) {
-            value = accumulated(section, i);
-            standing = accumulatedStanding(section, i);
-        } else if (includesPenalties()) {
+        const bool isAccumulated = m_settings.kind == ValueKind::Accumulated;
+        double value = isAccumulated ? accumulated(section, i) : entryOrZero(section.times, i);
+        AnalysisRule rule =
+            isAccumulated ? AnalysisRule::AccumulatedTime : AnalysisRule::SectionTime;
+        tellTimes(run, isAccumulated ? 0 : i, i + 1, why);
+        if (includesPenalties()) {
             value += static_cast<double>(penalty);
+            rule = AnalysisRule::SectionWithPen;
+            if (why)
+                why->input("penalties", static_cast<double>(penalty), runPlace(run, i + 1));
         }
         const bool compared = i < SectionColumns;
         TableCell made =
-            cell(compared ? std::optional(static_cast<int>(i) + 1) : std::nullopt, value, standing);
+            cell(compared ? std::optional(static_cast<int>(i) + 1) : std::nullopt, value,
+                 isAccumulated ? accumulatedStanding(section, i) : sectionStanding(section, i));
         if (m_settings.penaltiesVisible && compared)
             made.text += " (" + std::to_string(penalty) + ")";
-        return made;
+        return told(std::move(made), rule, why);
+    }
+
+    [[nodiscard]] TableCell totalCell(const analyzerdata& run, Why* why) const {
+        const sectionmaindata& section = run.sectioninfo;
+        tellTimes(run, 0, section.times.size(), why);
+        if (why && includesPenalties())
+            why->input("penalties", static_cast<double>(section.totalpen), runPlace(run));
+        return told(cell(TotalColumn, total(section), totalStanding(section, m_course)),
+                    includesPenalties() ? AnalysisRule::TotalWithPen : AnalysisRule::Total, why);
+    }
+
+    /// The times of some sections, as far as the run has them.
+    static void tellTimes(const analyzerdata& run, std::size_t from, std::size_t to, Why* why) {
+        const std::vector<double>& times = run.sectioninfo.times;
+        for (std::size_t i = from; why && i < std::min(to, times.size()); ++i)
+            why->input("section " + std::to_string(i + 1), times[i], runPlace(run, i + 1));
     }
 
     /// The time after a section; one that a stopped run never reached keeps the last time.
@@ -163,6 +208,12 @@ std::string timeText(double seconds, bool isTinted) {
     if (seconds == 0)
         return isTinted ? "-" : "0.00"; // also for a zero with a sign
     return hundredthsText(seconds);
+}
+
+TableCell splitCell(const RaceSet& set, const TableSettings& settings, std::size_t run,
+                    std::size_t column, Why* why) {
+    return CellValues(settings, shownSections(set), set.totalsplits)
+        .at(set.alldata[run], column, why);
 }
 
 SplitTable makeSplitTable(const RaceSet& set, const TableSettings& settings) {

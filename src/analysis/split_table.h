@@ -62,6 +62,11 @@ struct SplitTable {
 /// Builds and colours the table: the sections of the course, total, sprint and real time.
 [[nodiscard]] SplitTable makeSplitTable(const RaceSet& set, const TableSettings& settings);
 
+/// One cell of the table of a race, not yet coloured: the run by its place in the set, the column
+/// by its place in the table.
+[[nodiscard]] TableCell splitCell(const RaceSet& set, const TableSettings& settings,
+                                  std::size_t run, std::size_t column, Why* why = nullptr);
+
 /// The values of a row by column, 0 where they do not count: what others are held against.
 [[nodiscard]] std::vector<double> countedValues(const TableRow& row);
 

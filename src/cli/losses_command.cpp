@@ -5,7 +5,7 @@
 #include "cli/losses_csv.h"
 #include "cli/losses_json.h"
 #include "cli/losses_text.h"
-#include "cli/why_text.h"
+#include "cli/told_reason.h"
 #include "performance/loss_reasons.h"
 #include "results/name_likeness.h"
 #include "splitdata/athlete_keys.h"
@@ -49,13 +49,6 @@ std::string complaintAboutLosses(const LossesCall& call) {
         return "A category narrows an athlete's season: say --athlete too.";
     return call.paths.size() > 1 ? "Several paths make an athlete's season: say --athlete too."
                                  : "";
-}
-
-int tellReason(const std::optional<Reason>& reason, const std::string& id) {
-    if (reason)
-        return print(whyText(*reason)) ? Done : NotDone;
-    logLine("There is no number with the id \"" + pathText(id) + "\" here.");
-    return NotDone;
 }
 
 int tellOutputs(const FactStore& facts, const LossesCall& call, const std::string& table,

@@ -4,7 +4,7 @@
 #include "cli/fact_input.h"
 #include "cli/penalties_json.h"
 #include "cli/penalties_text.h"
-#include "cli/why_text.h"
+#include "cli/told_reason.h"
 #include "performance/penalty_reasons.h"
 #include "splitdata/athlete_keys.h"
 
@@ -43,14 +43,6 @@ bool hasCategory(const FactStore& facts, const std::string& category) {
     return false;
 }
 
-int explain(const FactStore& facts, const PenaltiesCall& call) {
-    const auto reason = explainPenalty(facts, call.why, call.choice());
-    if (reason)
-        return print(whyText(*reason)) ? Done : NotDone;
-    logLine("There is no number \"" + call.why + "\" here.");
-    return NotDone;
-}
-
 int tellPenalties(const FactStore& facts, const PenaltiesCall& call) {
     const PenaltyChoice choice = call.choice();
     const PenaltyFindings findings{
@@ -80,7 +72,9 @@ int penalties(const PenaltiesCall& call) {
     if (!call.category.empty() && !hasCategory(input.facts, call.category))
         return NotDone;
     const int status =
-        call.why.empty() ? tellPenalties(input.facts, call) : explain(input.facts, call);
+        call.why.empty()
+            ? tellPenalties(input.facts, call)
+            : tellReason(explainPenalty(input.facts, call.why, call.choice()), call.why);
     return input.failed.empty() ? status : NotDone;
 }
 

@@ -2,6 +2,7 @@
 
 #include "cli/console.h"
 #include "cli/split_file_edit.h"
+#include "cli/told_reason.h"
 #include "common/display_text.h"
 #include "common/json_encode.h"
 #include "common/number_text.h"
@@ -21,6 +22,7 @@ struct PerfectCall {
     std::string file;
     bool json = false;
     bool write = false;
+    std::string why;
 };
 
 struct RunJson {
@@ -77,6 +79,8 @@ int perfect(const PerfectCall& call) {
     const PerfectTime perfect = recomputeExpected(document, logLine);
     if (call.write && !isSaved(document, call.file))
         return NotDone;
+    if (!call.why.empty())
+        return tellReason(explainExpected(document.athletes, call.file, call.why), call.why);
     const std::string output =
         call.json ? perfectJson(document, perfect) : perfectText(document, perfect);
     return print(output) ? Done : NotDone;
@@ -91,6 +95,8 @@ void addPerfect(Command program, int& status) {
     command.option("FILE", call->file, "Split file (.kvx) of any release").required();
     command.flag("--json", call->json, "Print one JSON document");
     command.flag("--write", call->write, "Store the values in the file");
+    command.option("--why", call->why,
+                   "Tell how a number came about: perfect, or xtime/5 (runs from 0)");
     command.footer("Without --write the file is only read. One of an older release has to be "
                    "upgraded before it is written.");
     command.onRun([call, &status] { status = perfect(*call); });

@@ -1,9 +1,11 @@
 #include "cli/commands.h"
 
+#include "analysis/analysis_reasons.h"
 #include "analysis/split_table.h"
 #include "cli/console.h"
 #include "cli/show_json.h"
 #include "cli/show_text.h"
+#include "cli/told_reason.h"
 #include "cli/user_preferences.h"
 #include "splitdata/loader.h"
 
@@ -23,6 +25,7 @@ struct ShowCall {
     std::string category;
     std::string phase;
     bool json = false;
+    std::string why;
 };
 
 TableSettings settingsOf(const ShowCall& call, const UserPreferences& preferences) {
@@ -74,6 +77,8 @@ int show(const ShowCall& call, const Painting* painting) {
     filter(set, &analyzerdata::category, call.category, "category");
     filter(set, &analyzerdata::phase, call.phase, "phase");
 
+    if (!call.why.empty())
+        return tellReason(explainRace(set, settings, call.why), call.why);
     const SplitTable table = makeSplitTable(set, settings);
     const std::string output =
         call.json ? tableJson(table) : tableText(heading, table, settings, standardOutput());
@@ -95,6 +100,9 @@ void addShow(Command program, int& status, const Painting* painting) {
     command.option("--category", call->category, "Only runs of this category");
     command.option("--phase", call->phase, "Only runs of this phase");
     command.flag("--json", call->json, "Print one JSON document");
+    command.option("--why", call->why,
+                   "Tell how a number came about: cell/5/3, band/5/3, ideal/3, ideal/total (runs "
+                   "from 0, columns and sections from 1)");
     command.footer("A file of an older release is read without being rewritten.");
     command.onRun([=, &status] { status = show(*call, painting); });
 }

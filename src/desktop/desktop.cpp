@@ -315,6 +315,7 @@ void Desktop::connectTool(ToolWindow& window) {
     connect(&window, &ToolWindow::settingsRequested, this, &Desktop::openSettings);
     connect(&window, &ToolWindow::earlierWorkRequested, this,
             [this] { m_earlierWork.chooseToBringBack(front()); });
+    connect(&window, &ToolWindow::placeRequested, this, &Desktop::showPlace);
     if (window.file())
         connect(window.file(), &EditedFile::saved, this, &Desktop::rememberSession);
     // Later: while it is being destroyed, it still counts as a window of its kind.

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "common/why.h"
 #include "desktop/earlier_work.h"
 #include "desktop/opened_as.h"
 #include "desktop/quitting.h"
@@ -118,6 +119,12 @@ private:
     bool givesWay(ToolWindow& window, std::function<void()> then);
     void openFilm(const QString& path);
     void showMoment(const QString& path, int run, std::size_t split);
+    /// Where a number comes from: a split file at the run and frame, any other file as it opens.
+    /// One that is not there any more is told.
+    void showPlace(const Place& place);
+    /// A run of a file in split taking, which may have moved there since the file was saved; null,
+    /// after a message, when it is gone.
+    [[nodiscard]] TakingWindow* showRun(const QString& path, std::size_t run);
     [[nodiscard]] RaceWindow* makeRaceWindow();
     /// The window that shows a race; null when none does.
     [[nodiscard]] RaceWindow* windowOfRace(const QString& path) const;

@@ -223,28 +223,58 @@ CrossWindow* Desktop::showCross(const QString& path) {
     return window;
 }
 
-/// The moment behind a time of the analyzer, in the film it was taken from.
-void Desktop::showMoment(const QString& path, int run, std::size_t split) {
+TakingWindow* Desktop::showRun(const QString& path, std::size_t run) {
     TakingWindow* const window = openTaking(path);
     if (!window)
-        return;
+        return nullptr;
     const RaceSet* const race = shownRace(windowsOf<RaceWindow>(), path);
-    const auto saved = static_cast<std::size_t>(run);
-    if (race && saved < race->alldata.size()) {
-        const analyzerdata& wanted = race->alldata[saved];
-        run = placeOf(wanted, *race, window->document());
-        if (run < 0) {
-            m_workspace.showAlert(
-                {"", tr("The run of %1 is not in split taking any more: it was removed there, or "
-                        "has another crew and film.")
-                         .arg(QString::fromStdString(wanted.name))
-                         .toStdString()},
-                window);
-            return;
-        }
+    int place = static_cast<int>(run);
+    QString gone = tr("Run %1").arg(run);
+    if (race && run < race->alldata.size()) {
+        const analyzerdata& wanted = race->alldata[run];
+        place = placeOf(wanted, *race, window->document());
+        gone = tr("The run of %1").arg(QString::fromStdString(wanted.name));
     }
-    window->selectRun(run);
-    window->stage().goToMark(split);
+    if (place < 0 || place >= window->document().runCount()) {
+        m_workspace.showAlert(
+            {"", tr("%1 is not in split taking any more: it was removed there, or has another crew "
+                    "and film.")
+                     .arg(gone)
+                     .toStdString()},
+            window);
+        return nullptr;
+    }
+    window->selectRun(place);
+    return window;
+}
+
+/// The moment behind a time of the analyzer, in the film it was taken from.
+void Desktop::showMoment(const QString& path, int run, std::size_t split) {
+    if (TakingWindow* const window = showRun(path, static_cast<std::size_t>(run)))
+        window->stage().goToMark(split);
+}
+
+void Desktop::showPlace(const Place& place) {
+    const QFileInfo file(QString::fromStdString(place.file.string()));
+    if (!file.exists()) {
+        m_workspace.showAlert({tr("“%1” is not where it was").arg(file.fileName()).toStdString(),
+                               tr("It was in %1. Open it from where it is now, then ask again.")
+                                   .arg(QDir::toNativeSeparators(file.absolutePath()))
+                                   .toStdString()},
+                              front());
+        return;
+    }
+    if (opensAs(file.filePath()).as != OpensAs::Race) {
+        open(file.filePath());
+        return;
+    }
+    TakingWindow* const window = showRun(file.filePath(), place.run);
+    if (!window)
+        return;
+    if (place.moment)
+        window->deck().seek(*place.moment);
+    if (place.split) // where the mark was moved since, it is what is meant
+        window->stage().goToMark(*place.split);
 }
 
 } // namespace kavela::desktop

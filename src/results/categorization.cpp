@@ -1,9 +1,12 @@
 #include "results/categorization.h"
 
+#include "results/result_rules.h"
 #include "results/team_seasons.h"
 
 #include <algorithm>
+#include <limits>
 #include <span>
+#include <utility>
 
 namespace kavela {
 
@@ -35,14 +38,19 @@ void countRace(const mtSeasonStruct& season, const mtRaceStruct& race, Categoriz
     counted.races.push_back({season.year, race.event, race.location, place});
 }
 
-const char* labelOf(const Categorization& counted) {
+struct Level {
+    const char* label;
+    ResultRule rule;
+};
+
+Level levelOf(const Categorization& counted) {
     if (counted.medals > 2 || counted.championshipMedals >= 1)
-        return "Categorization: Medalist ";
+        return {"Categorization: Medalist ", ResultRule::Medalist};
     if (counted.top6 >= 3)
-        return "Categorization: Medal ready ";
+        return {"Categorization: Medal ready ", ResultRule::MedalReady};
     if (counted.top15 >= 4)
-        return "Categorization: Final ready ";
-    return "Categorization: Senior development ";
+        return {"Categorization: Final ready ", ResultRule::FinalReady};
+    return {"Categorization: Senior development ", ResultRule::SeniorDevelopment};
 }
 
 std::array<std::string, 4> countLines(const Categorization& counted, std::string_view category) {
@@ -56,9 +64,54 @@ std::array<std::string, 4> countLines(const Categorization& counted, std::string
             "International events: " + std::to_string(counted.events)};
 }
 
+std::string raceText(const CategorizedRace& race) {
+    std::string text = std::to_string(race.year);
+    for (const std::string& word : {race.event, race.location})
+        if (!word.empty())
+            text += ", " + word;
+    return text;
+}
+
+struct ToldCount {
+    ResultRule rule;
+    std::int64_t Categorization::*count;
+    std::int64_t lastPlace;
+};
+
+constexpr std::array ToldCounts{
+    ToldCount{ResultRule::Medals, &Categorization::medals, 3},
+    ToldCount{ResultRule::Top6, &Categorization::top6, 6},
+    ToldCount{ResultRule::Top15, &Categorization::top15, 15},
+    ToldCount{ResultRule::Events, &Categorization::events,
+              std::numeric_limits<std::int64_t>::max()},
+};
+
+/// The level, and as its parts the counts with the races that they counted.
+void tellLevel(const Categorization& counted, const Level& level, Why& why) {
+    for (std::size_t i = 0; i < ToldCounts.size(); ++i) {
+        const ToldCount& told = ToldCounts[i];
+        Why& part = *why.part();
+        const auto count = static_cast<double>(counted.*told.count);
+        for (const CategorizedRace& race : counted.races)
+            if (race.finalPos <= told.lastPlace &&
+                (race.finalPos >= 1 || i + 1 == ToldCounts.size()))
+                part.input(raceText(race), static_cast<double>(race.finalPos));
+        part.result(ruleOf(told.rule), count, counted.lines[i]);
+    }
+    why.input("medals", static_cast<double>(counted.medals));
+    why.input("championship medals", static_cast<double>(counted.championshipMedals));
+    why.input("top 6", static_cast<double>(counted.top6));
+    why.input("top 15", static_cast<double>(counted.top15));
+    std::string shown = counted.label;
+    shown.pop_back(); // the blank at its end
+    const auto number = static_cast<double>(level.rule) - static_cast<double>(ResultRule::Medalist);
+    why.result(ruleOf(level.rule), number + 1, std::move(shown));
+}
+
 } // namespace
 
-std::optional<Categorization> categorize(const myTeamStruct& athlete, std::string_view category) {
+std::optional<Categorization> categorize(const myTeamStruct& athlete, std::string_view category,
+                                         Why* why) {
     const mtCatsStruct* const results = categoryOf(athlete, category);
     if (athlete.isretired || !results || results->seasons.size() < CountedSeasons ||
         !hasFinalPosition(countedSeasons(*results)))
@@ -68,8 +121,11 @@ std::optional<Categorization> categorize(const myTeamStruct& athlete, std::strin
     for (const mtSeasonStruct& season : countedSeasons(*results))
         for (const mtRaceStruct& race : season.races)
             countRace(season, race, counted);
-    counted.label = labelOf(counted);
+    const Level level = levelOf(counted);
+    counted.label = level.label;
     counted.lines = countLines(counted, category);
+    if (why)
+        tellLevel(counted, level, *why);
     return counted;
 }
 
@@ -80,6 +136,26 @@ std::vector<Categorization> categorizeTeam(const myTeamToSaveStruct& team,
         if (auto counted = categorize(athlete, category))
             all.push_back(std::move(*counted));
     return all;
+}
+
+std::optional<Reason> explainCategory(const myTeamToSaveStruct& team, std::string_view category,
+                                      std::string_view id) {
+    constexpr std::string_view Word = "category/";
+    constexpr std::array<std::string_view, 4> Counts{"medals", "top6", "top15", "events"};
+    if (!id.starts_with(Word))
+        return std::nullopt;
+    std::string_view name = id.substr(Word.size());
+    const auto* count = std::ranges::find(Counts, name.substr(name.rfind('/') + 1));
+    if (count != Counts.end())
+        name = name.substr(0, name.rfind('/'));
+    const auto athlete = std::ranges::find(team.realMyTeam, name, &myTeamStruct::name);
+    Why why;
+    if (athlete == team.realMyTeam.end() || !categorize(*athlete, category, &why))
+        return std::nullopt;
+    Reason reason = why.reason();
+    if (count != Counts.end())
+        return reason.parts[static_cast<std::size_t>(count - Counts.begin())];
+    return reason;
 }
 
 PositionBand positionBand(std::int64_t finalPos) {

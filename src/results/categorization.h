@@ -1,5 +1,6 @@
 #pragma once
 
+#include "common/why.h"
 #include "results/team_records.h"
 
 #include <array>
@@ -34,12 +35,18 @@ struct Categorization {
 
 /// An athlete's categorization in a category; nothing for one who does not come into question:
 /// retired, fewer than two seasons, or without a final position in the first two.
-[[nodiscard]] std::optional<Categorization> categorize(const myTeamStruct& athlete,
-                                                       std::string_view category);
+[[nodiscard]] std::optional<Categorization>
+categorize(const myTeamStruct& athlete, std::string_view category, Why* why = nullptr);
 
 /// The athletes of a team who come into question, in the order of the team.
 [[nodiscard]] std::vector<Categorization> categorizeTeam(const myTeamToSaveStruct& team,
                                                          std::string_view category);
+
+/// Why an athlete's level is what it is, by the function that finds it: "category/ATHLETE", the
+/// athlete by name, and "category/ATHLETE/medals", "…/top6", "…/top15", "…/events" for one of the
+/// counts, which are also the parts of the whole in this order. Nothing where there is none.
+[[nodiscard]] std::optional<Reason> explainCategory(const myTeamToSaveStruct& team,
+                                                    std::string_view category, std::string_view id);
 
 /// The band of a final position, by which the report colours races.
 enum class PositionBand { Medal, Top6, Top9, Top15, None };

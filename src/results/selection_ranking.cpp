@@ -1,5 +1,9 @@
 #include "results/selection_ranking.h"
 
+#include "common/delimited_text.h"
+#include "common/number_text.h"
+#include "results/result_rules.h"
+
 #include <algorithm>
 #include <cmath>
 #include <numeric>
@@ -32,13 +36,8 @@ double percentageBehind(double total, double best) {
 }
 
 void computePercentages(saRaceStruct& result, double best, double bestExpected) {
-    const bool isMissingRun = result.resultTime == MissingTime;
-    result.resultPer = isMissingRun
-                           ? MissingPercentage
-                           : percentageBehind(withPenalty(result.resultTime, result), best);
-    result.resultxPer = isMissingRun || result.xTime == MissingTime
-                            ? MissingPercentage
-                            : percentageBehind(withPenalty(result.xTime, result), bestExpected);
+    result.resultPer = racePercentage(result, best, SelectionTimes::Official);
+    result.resultxPer = racePercentage(result, bestExpected, SelectionTimes::Expected);
 }
 
 void computeRace(selectionracesStruct_v3& document, std::size_t race) {
@@ -60,6 +59,15 @@ std::optional<double> bonusOf(const srAthleteStruct_v3& athlete, BonusKind kind)
     return athlete.bonuses[*kind];
 }
 
+std::vector<double> percentagesOf(const srAthleteStruct_v3& athlete, std::size_t races,
+                                  SelectionTimes times) {
+    std::vector<double> percentages(races, MissingPercentage);
+    for (std::size_t i = 0; i < std::min(races, athlete.racedata.size()); ++i)
+        percentages[i] = times == SelectionTimes::Official ? athlete.racedata[i].resultPer
+                                                           : athlete.racedata[i].resultxPer;
+    return percentages;
+}
+
 /// The parts of a score from the lowest to the highest, the earlier of equal ones first.
 std::vector<ScorePart*> ascendingParts(Score& score) {
     std::vector<ScorePart*> parts;
@@ -71,7 +79,58 @@ std::vector<ScorePart*> ascendingParts(Score& score) {
     return parts;
 }
 
+const Rule& ruleOf(ResultFate fate) {
+    switch (fate) {
+    case ResultFate::Worst:
+        return ruleOf(ResultRule::DroppedWorst);
+    case ResultFate::SecondWorst:
+        return ruleOf(ResultRule::DroppedForBonus);
+    case ResultFate::Counted:
+        break;
+    }
+    return ruleOf(ResultRule::Counted);
+}
+
+void tellScore(const Score& score, const TellRace& tell, Why& why) {
+    const auto tellPart = [&](const ScorePart& part, const std::string& name, Why& told) {
+        told.result(ruleOf(part.fate), part.percentage, hundredthsText(part.percentage));
+        why.input(name, part.percentage);
+    };
+    for (std::size_t race = 0; race < score.races.size(); ++race) {
+        Why& part = *why.part();
+        const std::string name = tell ? tell(race, part) : "race " + std::to_string(race + 1);
+        tellPart(score.races[race], name, part);
+    }
+    if (score.bonus)
+        tellPart(*score.bonus, "bonus", *why.part());
+    why.part()->result(ruleOf(ResultRule::ScoreSum), score.sum, hundredthsText(score.sum));
+    why.result(ruleOf(ResultRule::Score), score.score, hundredthsText(score.score));
+}
+
+/// The best of a race in a category, as it was computed.
+double computedBest(const sRaceStruct& race, std::size_t category, SelectionTimes times) {
+    const auto& bests = times == SelectionTimes::Official ? race.bestTimes : race.bestxTimes;
+    return category < bests.size() ? bests[category] : BestOfNobody;
+}
+
 } // namespace
+
+double racePercentage(const saRaceStruct& result, double best, SelectionTimes times, Why* why) {
+    const bool isMissingRun =
+        isMissing(result) || (times == SelectionTimes::Expected && result.xTime == MissingTime);
+    const double time = times == SelectionTimes::Official ? result.resultTime : result.xTime;
+    const double percentage =
+        isMissingRun ? MissingPercentage : percentageBehind(withPenalty(time, result), best);
+    if (why && !isMissingRun) {
+        why->input(times == SelectionTimes::Official ? "time" : "expected time", time);
+        why->input("penalties", static_cast<double>(result.pen));
+        why->input("best", best);
+    }
+    if (why)
+        why->result(ruleOf(isMissingRun ? ResultRule::RaceMissing : ResultRule::RacePercent),
+                    percentage, hundredthsText(percentage));
+    return percentage;
+}
 
 saRaceStruct missingResult() {
     saRaceStruct result;
@@ -90,7 +149,8 @@ bool isZero(const saRaceStruct& result) {
     return result.resultTime == 0;
 }
 
-Score scoreOf(std::span<const double> percentages, std::optional<double> bonus) {
+Score scoreOf(std::span<const double> percentages, std::optional<double> bonus,
+              const TellRace& tell, Why* why) {
     Score score;
     for (const double percentage : percentages)
         score.races.push_back({percentage});
@@ -109,16 +169,53 @@ Score scoreOf(std::span<const double> percentages, std::optional<double> bonus) 
     for (const ScorePart* part : parts)
         score.sum += part->percentage;
     score.score = score.sum / Divisor;
+    if (why)
+        tellScore(score, tell, *why);
     return score;
 }
 
 Score scoreOf(const srAthleteStruct_v3& athlete, std::size_t races, BonusKind bonus,
               SelectionTimes times) {
-    std::vector<double> percentages(races, MissingPercentage);
-    for (std::size_t i = 0; i < std::min(races, athlete.racedata.size()); ++i)
-        percentages[i] = times == SelectionTimes::Official ? athlete.racedata[i].resultPer
-                                                           : athlete.racedata[i].resultxPer;
-    return scoreOf(percentages, bonusOf(athlete, bonus));
+    return scoreOf(percentagesOf(athlete, races, times), bonusOf(athlete, bonus));
+}
+
+Score scoreOf(const selectionracesStruct_v3& document, std::size_t category, std::size_t athlete,
+              BonusKind bonus, SelectionTimes times, Why* why) {
+    const srAthleteStruct_v3& record = document.categories[category].athletes[athlete];
+    const auto tell = [&](std::size_t race, Why& part) {
+        const sRaceStruct& head = document.races[race];
+        (void)racePercentage(race < record.racedata.size() ? record.racedata[race]
+                                                           : missingResult(),
+                             computedBest(head, category, times), times, part.part());
+        return head.location;
+    };
+    return scoreOf(percentagesOf(record, document.races.size(), times), bonusOf(record, bonus),
+                   tell, why);
+}
+
+std::optional<Reason> explainScore(const selectionracesStruct_v3& document, std::size_t category,
+                                   BonusKind bonus, SelectionTimes times, std::string_view id) {
+    constexpr std::string_view Word = "score/";
+    if (!id.starts_with(Word) || category >= document.categories.size())
+        return std::nullopt;
+    std::string_view name = id.substr(Word.size());
+    std::optional<std::size_t> race;
+    // A crew of two has a slash in its name as well.
+    std::size_t number = 0;
+    if (const std::size_t slash = name.rfind('/');
+        slash != std::string_view::npos && parseField(name.substr(slash + 1), number)) {
+        race = number;
+        name = name.substr(0, slash);
+    }
+    const auto& athletes = document.categories[category].athletes;
+    const auto athlete = std::ranges::find(athletes, name, &srAthleteStruct_v3::name);
+    if (athlete == athletes.end() || (race && *race >= document.races.size()))
+        return std::nullopt;
+    Why why;
+    (void)scoreOf(document, category, static_cast<std::size_t>(athlete - athletes.begin()), bonus,
+                  times, &why);
+    Reason reason = why.reason();
+    return race ? reason.parts[*race].parts.front() : reason;
 }
 
 void computePercentages(selectionracesStruct_v3& document) {

@@ -1,11 +1,15 @@
 #pragma once
 
+#include "common/why.h"
 #include "results/selection_records.h"
 
 #include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <optional>
 #include <span>
+#include <string>
+#include <string_view>
 #include <vector>
 
 /// The ranking of a selection. In every race an athlete stands so many percent behind the best of
@@ -55,12 +59,35 @@ struct Score {
     double score = 0;               ///< sum / 3
 };
 
-/// The score of an athlete's percentages. Of equal ones the later race is dropped first.
-[[nodiscard]] Score scoreOf(std::span<const double> percentages, std::optional<double> bonus);
+/// Names a race, counted from 0, and tells what its percentage was made of.
+using TellRace = std::function<std::string(std::size_t race, Why& part)>;
+
+/// The score of an athlete's percentages. Of equal ones the later race is dropped first. Told with
+/// one input and one part for each race, the bonus behind them, and the sum as the last part.
+[[nodiscard]] Score scoreOf(std::span<const double> percentages, std::optional<double> bonus,
+                            const TellRace& tell = {}, Why* why = nullptr);
 
 /// The same for an athlete of a document with so many races.
 [[nodiscard]] Score scoreOf(const srAthleteStruct_v3& athlete, std::size_t races, BonusKind bonus,
                             SelectionTimes times = SelectionTimes::Official);
+
+/// The same for an athlete by his places in a document whose percentages are computed; both have to
+/// be there.
+[[nodiscard]] Score scoreOf(const selectionracesStruct_v3& document, std::size_t category,
+                            std::size_t athlete, BonusKind bonus, SelectionTimes times,
+                            Why* why = nullptr);
+
+/// What a result is behind the best of its race and category, by the official or the expected
+/// times: MissingPercentage for a missing one.
+[[nodiscard]] double racePercentage(const saRaceStruct& result, double best, SelectionTimes times,
+                                    Why* why = nullptr);
+
+/// Why the score of an athlete of a category is what it is, by the function that makes it:
+/// "score/ATHLETE", the athlete by name, "score/ATHLETE/RACE" for the percentage of a race, counted
+/// from 0. Nothing where there is none.
+[[nodiscard]] std::optional<Reason> explainScore(const selectionracesStruct_v3& document,
+                                                 std::size_t category, BonusKind bonus,
+                                                 SelectionTimes times, std::string_view id);
 
 /// Gives every race its best times and every athlete the percentages; athletes with fewer results
 /// than races get missing ones. The order of athletes stays.

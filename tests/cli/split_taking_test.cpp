@@ -14,6 +14,7 @@ namespace {
 namespace fs = std::filesystem;
 
 using nlohmann::json;
+using testing::AllOf;
 using testing::HasSubstr;
 using testing::SizeIs;
 
@@ -68,6 +69,13 @@ TEST_F(SplitTakingCalls, ComputeThePerfectTime) {
         "runs":[{"names":["Ann"],"xPer":1,"xTime":104},
                 {"names":["Bea"],"xPer":1.1,"xTime":114.4}]})"));
     EXPECT_THAT(call({"perfect", "race.kvx"}).output, HasSubstr("Perfect time  104.00"));
+    EXPECT_THAT(call({"perfect", "race.kvx", "--why", "xtime/1"}).output,
+                AllOf(HasSubstr("shown 114.40 of 114.4"), HasSubstr("race.kvx · run 1 · split"),
+                      HasSubstr("is left out: the largest")));
+    EXPECT_EQ(call({"perfect", "race.kvx", "--why", "xtime/2"}).status, 1);
+    EXPECT_THAT(call({"show", "race.kvx", "--why", "cell/1/5"}).output,
+                HasSubstr("shown 111.00 of 111"))
+        << "the total";
     EXPECT_EQ(content("race.kvx"), race()) << "only read";
 
     EXPECT_EQ(call({"perfect", "race.kvx", "--write"}).status, 0);

@@ -1,5 +1,7 @@
 #include "common/why.h"
 
+#include "common/why_text.h"
+
 #include <gmock/gmock.h>
 
 namespace kavela::test {
@@ -7,6 +9,7 @@ namespace kavela::test {
 namespace {
 
 using testing::ElementsAre;
+using testing::HasSubstr;
 using testing::Optional;
 
 constexpr Rule TestedSum{"sum", "All of them.", "a + b", ""};
@@ -71,6 +74,20 @@ TEST(Why, LeavesOutPartsThatToldNothing) {
     ASSERT_EQ(reason.parts.size(), 1U);
     EXPECT_EQ(reason.parts[0].rule, nullptr);
     EXPECT_EQ(reason.parts[0].parts.at(0).value, 1.5) << "a part of a part";
+}
+
+/// A word is not rounded, a count has no hundredths, a time of whole seconds in a file has.
+TEST(WhyText, ShowsNumbersAsWhatTheyAre) {
+    Why why;
+    why.input("races", 4);
+    why.input("own", 96, Place{"day/race.kvx", 5, 3, {}, {}, {}});
+    why.result(TestedHalf, 1.0200000000000014, "+1.02");
+    const std::string text = whyText(why.reason());
+    EXPECT_THAT(text, HasSubstr("shown +1.02 of 1.0200000000000014"));
+    EXPECT_THAT(text, HasSubstr(" 4\n"));
+    EXPECT_THAT(text, HasSubstr("96.00  race.kvx · run 5 · split 3\n"));
+    why.result(TestedHalf, 2, "Medalist");
+    EXPECT_EQ(roundingText(why.reason()), "");
 }
 
 } // namespace kavela::test

@@ -1,5 +1,6 @@
 #include "desktop/race/best_panels.h"
 
+#include "analysis/analysis_reasons.h"
 #include "analysis/athlete_potential.h"
 #include "analysis/ideal_run.h"
 #include "desktop/race/race_document.h"
@@ -7,6 +8,7 @@
 #include "desktop/shell/shown_number.h"
 #include "desktop/shell/tables/column_table.h"
 #include "desktop/shell/theme.h"
+#include "desktop/why/why_popup.h"
 
 #include <QLabel>
 #include <QVBoxLayout>
@@ -66,6 +68,13 @@ IdealPanel::IdealPanel(RaceDocument& document, QWidget* parent)
         if (const auto run = m_bests.row(m_sections->placeAt(cell)).run)
             emit runActivated(*run);
     });
+    const auto explain = [this](const std::string& id) {
+        return explainRace(m_document.shownSet(), m_document.settings(), "ideal/" + id);
+    };
+    answerWhy(m_sections, [this, explain](const QModelIndex& cell) {
+        return explain(std::to_string(m_sections->placeAt(cell) + 1));
+    });
+    answerWhy(m_summary, [explain](const QPoint&) { return explain("total"); });
 }
 
 std::vector<Column<IdealPanel::Best>> IdealPanel::columns() {

@@ -17,6 +17,7 @@
 #include "desktop/shell/theme.h"
 #include "desktop/shell/window_place.h"
 #include "desktop/shell/workspace.h"
+#include "desktop/why/why_popup.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -107,6 +108,9 @@ QWidget* RaceView::makeWork() {
         });
     }
     connect(m_table, &QTableView::activated, this, &RaceView::requestMoment);
+    for (QTableView* view :
+         std::initializer_list<QTableView*>{m_table, m_table->frozenView(), m_table->backView()})
+        answerWhy(view, [this](const QModelIndex& index) { return m_model.whyOf(index); });
     m_charts = new ChartPanel;
     connect(m_charts, &ChartPanel::runActivated, this, &RaceView::selectRun);
     connect(m_charts, &ChartPanel::savingFailed, this, [this](const QString&, const QString& why) {

@@ -1,5 +1,6 @@
 #include "desktop/race/split_table_model.h"
 
+#include "analysis/analysis_reasons.h"
 #include "desktop/race/cell_colours.h"
 #include "desktop/shell/qt_text.h"
 #include "desktop/shell/shown_number.h"
@@ -102,6 +103,18 @@ int SplitTableModel::rowOfRun(std::size_t run) const {
 
 const ComparisonRow* SplitTableModel::comparisonOfRow(int row) const {
     return row < comparisons() ? &m_document.comparisons()[static_cast<std::size_t>(row)] : nullptr;
+}
+
+std::optional<Reason> SplitTableModel::whyOf(const QModelIndex& index) const {
+    if (!index.isValid() || index.column() < LeadingColumns)
+        return std::nullopt;
+    const auto column = static_cast<std::size_t>(index.column() - LeadingColumns);
+    const TableSettings settings = m_document.settings();
+    const ShownTable shown{m_document.shownSet(), settings,  m_document.table(),
+                           m_document.figures(),  m_content, m_reference};
+    if (const ComparisonRow* const row = comparisonOfRow(index.row()))
+        return explainComparison(shown, *row, column);
+    return explainCell(shown, *runOfRow(index.row()), column);
 }
 
 void SplitTableModel::setContent(CellContent content) {

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "analysis/cell_text.h"
+#include "common/why.h"
 #include "desktop/race/race_document.h"
 
 namespace kavela::desktop {
@@ -53,6 +54,9 @@ public:
     [[nodiscard]] int rowOfRun(std::size_t run) const;
     /// The comparison row that stands in a row; null for a run.
     [[nodiscard]] const ComparisonRow* comparisonOfRow(int row) const;
+    /// Why a cell of the times shows what it shows; nothing for the other columns, and for a dash
+    /// in a comparison row.
+    [[nodiscard]] std::optional<Reason> whyOf(const QModelIndex& index) const;
     /// The runs in the order of the rows.
     [[nodiscard]] const std::vector<std::size_t>& order() const { return m_order; }
 

@@ -9,6 +9,7 @@
 #include "desktop/shell/theme.h"
 #include "desktop/shell/window_place.h"
 #include "desktop/shell/workspace.h"
+#include "desktop/why/why_popup.h"
 #include "results/messages.h"
 #include "results/selection_file.h"
 
@@ -38,6 +39,7 @@ SelectionWindow::SelectionWindow(Workspace& workspace, Autosave autosave)
     m_table = new ColumnTable(m_model, "ranking");
     m_table->setSelectionBehavior(QAbstractItemView::SelectItems);
     m_table->addCommand(tr("Copy the table"), QKeySequence::Copy, [this] { copyTable(); });
+    answerWhy(m_table, [this](const QModelIndex& cell) { return whyOf(cell); });
     m_why = new WhyPanel(m_document, m_model);
     auto* split = new QSplitter;
     split->addWidget(m_table);
@@ -290,6 +292,29 @@ void SelectionWindow::fillBonuses() {
 
 void SelectionWindow::showWhy() {
     m_why->showRow(m_table->currentPlace());
+}
+
+/// The score for place, score and bonus; for the columns of a race how far behind its best.
+std::optional<Reason> SelectionWindow::whyOf(const QModelIndex& cell) const {
+    using Columns = RankingModel;
+    const int place = m_table->placeAt(cell);
+    if (place < 0)
+        return std::nullopt;
+    Why why;
+    (void)scoreOf(m_document.shown(), m_model.category(), m_model.row(place).standing.athlete,
+                  m_document.bonus(), m_document.times(), &why);
+    Reason score = why.reason();
+    const int column = cell.column();
+    if (column >= Columns::LeadingColumns) {
+        const auto race = static_cast<std::size_t>(column - Columns::LeadingColumns) /
+                          static_cast<std::size_t>(Columns::RaceColumns);
+        return race < m_document.shown().races.size()
+                   ? std::optional(score.parts[race].parts.front())
+                   : std::nullopt;
+    }
+    const bool isScore = column == Columns::RankColumn || column == Columns::ScoreColumn ||
+                         column == Columns::BonusColumn;
+    return isScore ? std::optional(std::move(score)) : std::nullopt;
 }
 
 void SelectionWindow::showCategory(std::size_t category) {

@@ -58,6 +58,7 @@ private:
     void fillCategories();
     void fillBonuses();
     void showWhy();
+    [[nodiscard]] std::optional<Reason> whyOf(const QModelIndex& cell) const;
     void leaveRow();
     void watchFocus();
     void chooseAthlete(std::size_t athlete);

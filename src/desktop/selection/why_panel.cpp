@@ -6,6 +6,7 @@
 #include "desktop/shell/shown_number.h"
 #include "desktop/shell/tables/column_table.h"
 #include "desktop/shell/theme.h"
+#include "results/result_rules.h"
 #include "results/selection_whatif.h"
 
 #include <QLabel>
@@ -36,6 +37,13 @@ QString fateText(ResultFate fate) {
         return WhyPanel::tr("dropped: bonus");
     }
     return {};
+}
+
+ResultFate fateOf(const Reason& part) {
+    if (part.rule == &ruleOf(ResultRule::DroppedWorst))
+        return ResultFate::Worst;
+    return part.rule == &ruleOf(ResultRule::DroppedForBonus) ? ResultFate::SecondWorst
+                                                             : ResultFate::Counted;
 }
 
 } // namespace
@@ -104,14 +112,18 @@ void WhyPanel::showRow(int row) {
     m_name->setText(tr("%1. %2").arg(standing.rank).arg(qtText(athlete.record.name)));
     showReal(row);
     const auto& races = m_document.shown().races;
+    // The same reason as the key shows: an input and a part for each result, the sum behind them.
+    Why why;
+    (void)scoreOf(m_document.shown(), m_model.category(), standing.athlete, m_document.bonus(),
+                  m_document.times(), &why);
+    const Reason reason = why.reason();
     std::vector<Part> parts;
-    for (std::size_t race = 0; race < standing.score.races.size(); ++race)
-        parts.push_back({qtText(races[race].location), standing.score.races[race]});
-    if (standing.score.bonus)
-        parts.push_back({tr("Bonus"), *standing.score.bonus});
+    for (std::size_t i = 0; i < reason.inputs.size(); ++i)
+        parts.push_back({i < races.size() ? qtText(reason.inputs[i].name) : tr("Bonus"),
+                         {reason.parts[i].value, fateOf(reason.parts[i])}});
     m_scores.show(std::move(parts), true);
     m_sum->setText(tr("Score: %1 / 3 = %2")
-                       .arg(hundredths(standing.score.sum), hundredths(standing.score.score)));
+                       .arg(hundredths(reason.parts.back().value), hundredths(reason.value)));
     showWayUp(row);
 }
 

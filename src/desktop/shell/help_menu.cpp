@@ -48,6 +48,11 @@ void addHelpMenu(QMainWindow& window, Workspace& workspace, const QString& kind,
         [&window, &workspace, more = std::move(more)] { openPalette(window, workspace, more); });
     menu->addAction(QObject::tr("&All keys"), QKeySequence(Qt::Key_Question), &window,
                     [&window] { openOverlay(window); });
+    // Seen from when a part of the window is shown that can answer; until then it has no use.
+    QAction* why =
+        menu->addAction(QObject::tr("&Why this number?"), QKeySequence(Qt::SHIFT | Qt::Key_F1));
+    why->setObjectName("whyThisNumber");
+    why->setVisible(false);
     QAction* change = menu->addAction(QObject::tr("&Change keys…"));
     QAction* full = menu->addAction(
         QObject::tr("&Full screen"), QKeySequence(Qt::Key_F11), &window, [&window](bool on) {

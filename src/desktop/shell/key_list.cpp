@@ -16,7 +16,7 @@ void collect(const QList<QAction*>& actions, QWidget* part, KeyGroup& group,
     for (QAction* action : actions) {
         if (action->menu())
             collect(action->menu()->actions(), part, group, seen);
-        if (action->shortcut().isEmpty() || seen.contains(action))
+        if (!action->isVisible() || action->shortcut().isEmpty() || seen.contains(action))
             continue;
         seen.insert(action);
         group.keys.append({action, part});

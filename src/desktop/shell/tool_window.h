@@ -11,6 +11,10 @@ class QLabel;
 class QMenu;
 class QToolBar;
 
+namespace kavela {
+struct Place;
+}
+
 namespace kavela::desktop {
 
 class Workspace;
@@ -89,6 +93,8 @@ signals:
     void closed();
     /// It was asked to close and stays, by the coach's choice or since its work was not written.
     void stayed();
+    /// Where a number comes from is to be shown: its file at that run and frame.
+    void placeRequested(const kavela::Place& place);
 
 protected:
     /// Asks what becomes of unsaved work. Where it is to be saved, the window stays until it is

@@ -215,9 +215,24 @@ void TakingDocument::put(const QString& what, TakingState after) {
     edit(what, [&](TakingState& state) { state = std::move(after); });
 }
 
-void TakingDocument::follow() {
+/// The runs as their perfect and expected times are computed here.
+splittakerdata031 TakingDocument::countedTimes() const {
     splittakerdata031 times = timesOf(value());
     blankNegativeTimes(times.athletes);
+    return times;
+}
+
+std::optional<Reason> TakingDocument::whyPerfect() const {
+    return explainExpected(countedTimes().athletes, path().toStdString(), "perfect");
+}
+
+std::optional<Reason> TakingDocument::whyExpected(int index) const {
+    return explainExpected(countedTimes().athletes, path().toStdString(),
+                           "xtime/" + std::to_string(index));
+}
+
+void TakingDocument::follow() {
+    splittakerdata031 times = countedTimes();
     recomputeExpected(times, [](std::string_view) {});
     m_perfect = times.info.perfectRun;
     m_expected.clear();

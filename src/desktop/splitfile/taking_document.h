@@ -1,5 +1,6 @@
 #pragma once
 
+#include "common/why.h"
 #include "desktop/shell/document.h"
 #include "desktop/splitfile/taking_lists.h"
 #include "desktop/splitfile/taking_state.h"
@@ -48,6 +49,9 @@ public:
     /// Seconds; 0 as long as there is none. Always of the runs as they are now.
     [[nodiscard]] double perfectTime() const { return m_perfect; }
     [[nodiscard]] double expectedTime(int index) const;
+    /// Why they are what they are; nothing for a run that is not there.
+    [[nodiscard]] std::optional<Reason> whyPerfect() const;
+    [[nodiscard]] std::optional<Reason> whyExpected(int index) const;
     /// The film of a run's camera; empty when its name leads out of the folder.
     [[nodiscard]] QString film(int index, std::size_t camera) const;
     [[nodiscard]] QString fixedFilm(int index, std::size_t camera) const;
@@ -118,6 +122,7 @@ private:
     [[nodiscard]] splittakerdata031 newDocument(const QString& folder) const;
     [[nodiscard]] std::vector<athletedata031> runsOf(const QStringList& films,
                                                      std::int64_t gates) const;
+    [[nodiscard]] splittakerdata031 countedTimes() const;
     void put(const QString& what, TakingState after);
     [[nodiscard]] bool holdsNothing() const;
 

@@ -5,6 +5,7 @@
 #include "desktop/shell/theme.h"
 #include "desktop/shell/typed_number.h"
 #include "desktop/splitfile/taking_document.h"
+#include "desktop/why/why_popup.h"
 #include "splitdata/run_timing.h"
 #include "splittaking/course_setup.h"
 #include "splittaking/messages.h"
@@ -13,6 +14,8 @@
 #include <QLabel>
 #include <QLayout>
 #include <QVBoxLayout>
+
+#include <algorithm>
 
 namespace kavela::desktop {
 
@@ -49,6 +52,7 @@ RunForm::RunForm(TakingDocument& document, QWidget* parent)
     column->setContentsMargins(0, 0, 0, 0);
     column->addWidget(&m_form);
     connect(&m_document, &TakingDocument::changed, this, [this] { refresh(false); });
+    answerWhy(this, [this](const QPoint& at) { return whyAt(at); });
     showRun(-1);
 }
 
@@ -95,6 +99,20 @@ void RunForm::showRun(int run) {
 void RunForm::runMoved(int run) {
     m_run = run;
     refresh(false);
+}
+
+/// The last line is the perfect time, the one above it the expected one.
+std::optional<Reason> RunForm::whyAt(const QPoint& at) const {
+    if (at == QPoint(-1, -1))
+        return m_run < 0 ? m_document.whyPerfect() : m_document.whyExpected(m_run);
+    const QRect figures(m_figures->mapTo(this, QPoint(0, 0)), m_figures->size());
+    if (!figures.contains(at))
+        return std::nullopt;
+    const auto lines = static_cast<int>(m_figures->text().count('\n')) + 1;
+    const int fromEnd = (figures.bottom() - at.y()) * lines / std::max(1, figures.height());
+    if (fromEnd == 0)
+        return m_document.whyPerfect();
+    return fromEnd == 1 && m_run >= 0 ? m_document.whyExpected(m_run) : std::nullopt;
 }
 
 void RunForm::refresh(bool isOther) {

@@ -1,11 +1,13 @@
 #pragma once
 
+#include "common/why.h"
 #include "desktop/shell/forms/record_form.h"
 #include "splitdata/records.h"
 
 #include <QWidget>
 
 #include <functional>
+#include <optional>
 
 class QLabel;
 
@@ -33,6 +35,8 @@ private:
     void addFields();
     void edit(const QString& what, const std::function<void(athletedata031&)>& change);
     void refresh(bool isOther);
+    /// Why the figure at a point of the form is what it is, the expected time for the key.
+    [[nodiscard]] std::optional<Reason> whyAt(const QPoint& at) const;
 
     TakingDocument& m_document;
     int m_run = -1;

@@ -20,6 +20,7 @@
 #include "desktop/taking/split_mode.h"
 #include "desktop/taking/splits_shown.h"
 #include "desktop/taking/taking_actions.h"
+#include "desktop/why/why_popup.h"
 #include "splittaking/annotations/penalty_details.h"
 #include "splittaking/video_names.h"
 
@@ -67,6 +68,10 @@ TakingWindow::TakingWindow(Workspace& workspace, Autosave autosave)
     shareSizes(*whole, {560, 200});
     rememberSizes(*whole, workspace, "takingTable");
     setCentralWidget(whole);
+    // Wherever the keyboard is, unless a number of its own is there.
+    answerWhy(whole, [this](const QPoint& at) {
+        return at == QPoint(-1, -1) ? m_document.whyExpected(m_run) : std::nullopt;
+    });
     m_actions = new TakingActions(*this, workspace);
     connectParts();
     connectNotes();
@@ -143,6 +148,8 @@ QWidget* TakingWindow::makeTable() {
     m_table->setObjectName("splitTable");
     m_table->setModel(&m_tableModel);
     m_table->setToolTip(tr("A click on a time shows its frame"));
+    for (QTableView* view : {static_cast<QTableView*>(m_table), m_table->frozenView()})
+        answerWhy(view, [this](const QModelIndex& index) { return m_tableModel.whyOf(index); });
     return m_table;
 }
 

@@ -2,6 +2,7 @@
 
 #include "desktop/shell/theme.h"
 #include "desktop/team/team_edits.h"
+#include "desktop/why/why_popup.h"
 #include "results/athlete_summary.h"
 #include "results/categorization.h"
 #include "results/team_seasons.h"
@@ -90,12 +91,24 @@ SummaryPanel::SummaryPanel(QWidget* parent)
     bold.setBold(true);
     m_label->setFont(bold);
     setMinimumWidth(160);
+    answerWhy(m_label, [this](const QPoint&) { return m_why; });
+    answerWhy(m_counts, [this](const QPoint& at) { return whyCountAt(at); });
+}
+
+/// The counts stand line by line; those of a key are all of them.
+std::optional<Reason> SummaryPanel::whyCountAt(const QPoint& at) const {
+    if (!m_why || at == QPoint(-1, -1))
+        return m_why;
+    const auto counts = static_cast<int>(m_why->parts.size());
+    const int line = std::clamp(at.y() * counts / std::max(1, m_counts->height()), 0, counts - 1);
+    return m_why->parts[static_cast<std::size_t>(line)];
 }
 
 void SummaryPanel::show(const myTeamStruct* athlete, const std::string& category) {
     const mtCatsStruct* const results = athlete ? categoryOf(*athlete, category) : nullptr;
     for (QLabel* text : {m_who, m_summary, m_unplaced, m_label, m_counts, m_seasons})
         text->clear();
+    m_why.reset();
     for (QLabel* title : m_titles)
         title->setVisible(results != nullptr);
     if (!results)
@@ -110,7 +123,9 @@ void SummaryPanel::show(const myTeamStruct* athlete, const std::string& category
                                 : tr("%1 races have no final position. They count as medals here, "
                                      "not in the categorization.")
                                       .arg(races));
-    if (const auto categorization = categorize(*athlete, category)) {
+    Why why;
+    if (const auto categorization = categorize(*athlete, category, &why)) {
+        m_why = why.reason();
         m_label->setText(QString::fromStdString(categorization->label).trimmed());
         m_counts->setText(lineByLine(categorization->lines));
         m_seasons->setText(tr("Counted: %1").arg(countedYears(*results)));

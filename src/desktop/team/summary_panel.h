@@ -1,9 +1,11 @@
 #pragma once
 
+#include "common/why.h"
 #include "results/team_records.h"
 
 #include <QWidget>
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -20,8 +22,13 @@ public:
 
     /// Shows nothing for a null athlete or one who does not race in the category.
     void show(const myTeamStruct* athlete, const std::string& category);
+    /// Why the categorization is what it is; nothing where there is none.
+    [[nodiscard]] const std::optional<Reason>& why() const { return m_why; }
 
 private:
+    [[nodiscard]] std::optional<Reason> whyCountAt(const QPoint& at) const;
+
+    std::optional<Reason> m_why;
     std::vector<QLabel*> m_titles;
     QLabel* m_who;
     QLabel* m_summary;

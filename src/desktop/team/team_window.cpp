@@ -13,6 +13,7 @@
 #include "desktop/team/team_actions.h"
 #include "desktop/team/team_athlete_dialog.h"
 #include "desktop/team/team_edits.h"
+#include "desktop/why/why_popup.h"
 #include "report/team_report.h"
 
 #include <QApplication>
@@ -65,6 +66,10 @@ void TeamWindow::makeParts() {
     shareSizes(*whole, {310, 756, 180});
     rememberSizes(*whole, workspace(), "teamParts");
     setCentralWidget(whole);
+    // From the lists, too: the categorization is that of the athlete who is chosen there.
+    answerWhy(whole, [this](const QPoint& at) {
+        return at == QPoint(-1, -1) ? m_summary->why() : std::nullopt;
+    });
 }
 
 void TeamWindow::connectParts() {

@@ -1,33 +1,18 @@
-#include "cli/why_text.h"
+#include "common/why_text.h"
 
-#include "cli/console.h"
 #include "common/display_text.h"
 #include "common/number_text.h"
 
 #include <fmt/format.h>
 
 #include <algorithm>
+#include <cmath>
 
-namespace kavela::cli {
+namespace kavela {
 
 namespace {
 
 constexpr std::string_view Dot = " · ";
-
-/// Where an input stands: "race.kvx · run 50 · split 5 · 48.82 s".
-std::string placeText(const Place& place) {
-    std::string text = printable(pathText(place.file.filename()));
-    text += fmt::format("{}run {}", Dot, place.run);
-    if (place.split)
-        text += fmt::format("{}split {}", Dot, *place.split);
-    if (place.gate)
-        text += fmt::format("{}gate {}", Dot, *place.gate);
-    if (place.entry)
-        text += fmt::format("{}entry {}", Dot, *place.entry);
-    if (place.moment)
-        text += fmt::format("{}{} s", Dot, hundredthsText(place.moment->seconds()));
-    return text;
-}
 
 /// The lines of a reason, each behind a margin.
 class WhyLines {
@@ -40,19 +25,14 @@ public:
         const int width = nameWidth(reason);
         for (const Input& input : reason.inputs)
             line("  " + fitted(printable(input.name), width) + "  " +
-                 rightAligned(hundredthsText(input.value), valueWidth(reason)) +
+                 rightAligned(inputText(input), valueWidth(reason)) +
                  (input.place ? "  " + placeText(*input.place) : std::string()));
         if (reason.rule)
-            field("rule", width,
-                  fmt::format("{};  shown {} of {}", reason.rule->formula, printable(reason.shown),
-                              shortestText(reason.value)));
+            field("rule", width, ruleText(reason));
         if (reason.rule && !reason.rule->source.empty())
             field("source", width, std::string(reason.rule->source));
         if (reason.uncertainty)
-            field("within", width,
-                  fmt::format("{} to {}  ({})", shortestText(reason.uncertainty->low),
-                              shortestText(reason.uncertainty->high),
-                              printable(reason.uncertaintySource)));
+            field("within", width, uncertaintyText(reason));
         for (const std::string& note : reason.notes)
             field("note", width, printable(note));
         addParts(reason);
@@ -61,6 +41,12 @@ public:
     [[nodiscard]] std::string take() { return std::move(m_text); }
 
 private:
+    static std::string ruleText(const Reason& reason) {
+        const std::string rounding = roundingText(reason);
+        const std::string formula(reason.rule->formula);
+        return rounding.empty() ? formula : formula + ";  " + rounding;
+    }
+
     void addParts(const Reason& reason) {
         for (const Reason& part : reason.parts) {
             WhyLines lines(m_margin + "    ");
@@ -90,7 +76,7 @@ private:
     static int valueWidth(const Reason& reason) {
         std::size_t width = 0;
         for (const Input& input : reason.inputs)
-            width = std::max(width, hundredthsText(input.value).size());
+            width = std::max(width, inputText(input).size());
         return static_cast<int>(width);
     }
 
@@ -100,10 +86,44 @@ private:
 
 } // namespace
 
+std::string placeText(const Place& place) {
+    std::string text = printable(validUtf8(place.file.filename().string()));
+    text += fmt::format("{}run {}", Dot, place.run);
+    if (place.split)
+        text += fmt::format("{}split {}", Dot, *place.split);
+    if (place.gate)
+        text += fmt::format("{}gate {}", Dot, *place.gate);
+    if (place.entry)
+        text += fmt::format("{}entry {}", Dot, *place.entry);
+    if (place.moment)
+        text += fmt::format("{}{} s", Dot, hundredthsText(place.moment->seconds()));
+    return text;
+}
+
+std::string roundingText(const Reason& reason) {
+    if (reason.shown.find_first_of("0123456789") == std::string::npos)
+        return {};
+    return fmt::format("shown {} of {}", printable(reason.shown), shortestText(reason.value));
+}
+
+std::string uncertaintyText(const Reason& reason) {
+    if (!reason.uncertainty)
+        return {};
+    return fmt::format("{} to {}  ({})", shortestText(reason.uncertainty->low),
+                       shortestText(reason.uncertainty->high), printable(reason.uncertaintySource));
+}
+
+std::string inputText(const Input& input) {
+    constexpr double Largest = 1e15; // beyond it every number is whole
+    const bool isCount =
+        !input.place && std::abs(input.value) < Largest && input.value == std::floor(input.value);
+    return isCount ? plainText(input.value) : hundredthsText(input.value);
+}
+
 std::string whyText(const Reason& reason) {
     WhyLines lines("");
     lines.add(reason);
     return lines.take();
 }
 
-} // namespace kavela::cli
+} // namespace kavela
