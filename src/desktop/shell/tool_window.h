@@ -10,6 +10,10 @@ class QLabel;
 class QMenu;
 class QToolBar;
 
+namespace kavela {
+struct Place;
+}
+
 namespace kavela::desktop {
 
 class EditedFile;
@@ -76,6 +80,8 @@ signals:
     void settingsRequested();
     void earlierWorkRequested(); ///< what was kept of earlier documents is to be shown
     void openRequested(const QStringList& paths);
+    /// Where a number comes from is to be shown: its file at that run and frame.
+    void placeRequested(const kavela::Place& place);
 
 protected:
     void closeEvent(QCloseEvent* event) override;
