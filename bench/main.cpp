@@ -15,8 +15,10 @@ int main(int count, char** words) {
     addSeason();
     addSplitTable();
     addShowCommand();
+    addLosses();
     addVideo();
     addMotionAnalysis();
+    addFacts();
     ValueReporter reporter;
     benchmark::RunSpecifiedBenchmarks(&reporter);
     return printRatios(reporter.values()) > 0 ? 1 : 0;

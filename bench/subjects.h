@@ -10,7 +10,9 @@ void addMemory();
 void addSeason();
 void addSplitTable();
 void addShowCommand();
+void addLosses();
 void addVideo();
 void addMotionAnalysis();
+void addFacts();
 
 } // namespace kavela::bench

@@ -23,8 +23,10 @@ constexpr const char* QueryHelp =
     "    runs athlete \"Bell Anna\" place Troja\n"
     "    best sprint by athlete\n"
     "A condition is a column, one of = != < <= > >= (= where there is none) and a value; values of "
-    "several words stand in quotes. Labels such as left or touch, and up and down, may stand alone. "
-    "\"text\" looks at all that is written about a row. \"by COLUMN[, COLUMN]\" gives a row for each "
+    "several words stand in quotes. Labels such as left or touch, and up and down, may stand "
+    "alone. "
+    "\"text\" looks at all that is written about a row. \"by COLUMN[, COLUMN]\" gives a row for "
+    "each "
     "group, \"best COLUMN\" the least value, \"sort COLUMN [down]\" and \"first N\" order and end "
     "the list. A word that means nothing is told with what is near it.\n"
     "Files of every release are read, none is changed. What was read is kept in the user's cache, "
@@ -117,8 +119,7 @@ void addFind(Command program, int& status) {
     const auto call = std::make_shared<FindCall>();
     Command command = program.command("find", "Searches split files: a season in one question");
     command
-        .option("PATH", call->words,
-                "Split files, or folders with them; last the query, in quotes")
+        .option("PATH", call->words, "Split files, or folders with them; last the query, in quotes")
         .required();
     command.flag("--json", call->json, "Print one JSON document");
     command.option("--csv", call->csv, "File to write: semicolon-separated text");

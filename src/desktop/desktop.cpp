@@ -24,6 +24,7 @@
 
 #include <QApplication>
 #include <QDir>
+#include <QEventLoopLocker>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QStandardPaths>
@@ -31,6 +32,7 @@
 #include <QWindow>
 
 #include <algorithm>
+#include <memory>
 
 /// The icons stand in a static library, which has to be asked for them. Outside any namespace, as
 /// the macro wants it.
@@ -68,7 +70,8 @@ QString autosaveFolder() {
 Desktop::Desktop(Workspace& workspace, std::optional<Autosave> autosave)
     : m_workspace(workspace),
       m_autosave(autosave ? std::move(*autosave) : Autosave(autosaveFolder())),
-      m_earlierWork(*this, m_workspace, m_autosave) {
+      m_earlierWork(*this, m_workspace, m_autosave),
+      m_quitting([this] { return windows(); }, [this] { rememberSession(); }) {
     loadIcons();
     qApp->installEventFilter(&m_wheelGuard);
     QApplication::setWindowIcon(icon("kavela"));
@@ -117,9 +120,9 @@ void Desktop::comeForward(const QStringList& files) {
     for (ToolWindow* const window : windows())
         if (!before.contains(window))
             bringToFront(*window);
-    if (windows().isEmpty() && (files.isEmpty() || !isHomeShown()))
+    if (!hasWindows() && (files.isEmpty() || !isHomeShown()))
         showHome();
-    else if (files.isEmpty())
+    else if (files.isEmpty() && !windows().isEmpty())
         bringToFront(m_lastFront && m_lastFront->isVisible() ? *m_lastFront : *windows().last());
 }
 
@@ -273,17 +276,41 @@ bool Desktop::openIn(const ToolKind& tool, const QString& path) {
     const QString file = canonicalPath(path);
     if (m_opening.contains(file) || raiseEditorOf(path))
         return true;
-    m_opening.insert(file);
+    m_opening.insert(file, {tool.kind, path});
     ToolWindow* const window = make(tool);
-    const bool isOpen = window->open(path);
-    m_opening.remove(file);
+    m_windows.append(window);
+    const auto isOpen = std::make_shared<std::optional<bool>>();
+    const auto isLater = std::make_shared<bool>(false);
+    window->openBeside(path, [this, window, path, file, isOpen, isLater,
+                              running = std::make_shared<QEventLoopLocker>()](bool answer) {
+        *isOpen = answer;
+        m_opening.remove(file);
+        endOpening(window, path, answer);
+        if (*isLater)
+            noteOpened(window, answer);
+    });
+    *isLater = true;
+    return isOpen->value_or(true);
+}
+
+void Desktop::endOpening(ToolWindow* window, const QString& path, bool isOpen) {
     if (isOpen) {
         show(window);
-        return true;
+        return;
     }
-    delete window;
+    window->deleteLater(); // it is telling this
     m_workspace.forgetRecentFile(path);
-    return false;
+}
+
+/// Who asked for the window has gone on: it comes to the front by itself. A program without any
+/// window could not even be left.
+void Desktop::noteOpened(ToolWindow* window, bool isOpen) {
+    if (isOpen)
+        bringToFront(*window);
+    else if (hasWindows() || isHomeShown())
+        rememberSession();
+    else
+        showHome();
 }
 
 void Desktop::openAll(const QStringList& paths, RaceWindow* into) {
@@ -354,6 +381,10 @@ void Desktop::openRaces(const QStringList& races, RaceWindow* into) {
         show(window);
 }
 
+QList<OpenFile> Desktop::filesBetweenWindows() const {
+    return m_quitting.closedFiles() + m_opening.values();
+}
+
 /// One that was closed is there until the event loop gets to it, but is open no more.
 QList<ToolWindow*> Desktop::windows() const {
     QList<ToolWindow*> open;
@@ -374,6 +405,8 @@ bool Desktop::raiseEditorOf(const QString& path) {
 
 /// Those that the analyzer and the films are connected with beforehand hear more.
 void Desktop::show(ToolWindow* window) {
+    m_quitting.giveUp();
+    m_quitting.follow(*window);
     connectTool(*window);
     if (auto* const planning = qobject_cast<PlanningWindow*>(window))
         connect(&planning->online(), &OnlinePlanning::copyRequested, this,
@@ -384,7 +417,8 @@ void Desktop::show(ToolWindow* window) {
     if (!isConnected)
         connect(window, &ToolWindow::openRequested, this,
                 [this](const QStringList& paths) { openAll(paths); });
-    m_windows.append(window);
+    if (!m_windows.contains(window))
+        m_windows.append(window);
     window->show();
     rememberSession();
 }

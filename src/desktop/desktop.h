@@ -2,14 +2,16 @@
 
 #include "desktop/earlier_work.h"
 #include "desktop/opened_as.h"
+#include "desktop/quitting.h"
 #include "desktop/shell/autosave.h"
 #include "desktop/shell/tool_window.h"
 #include "desktop/shell/wheel_guard.h"
 #include "desktop/shell/workspace.h"
 
+#include <QMap>
 #include <QPointer>
-#include <QSet>
 
+#include <functional>
 #include <optional>
 
 class QWindow;
@@ -54,10 +56,10 @@ public:
     /// Opens the kayak cross of a split file, or of a folder of films; null, after a message, when
     /// it cannot be opened. A file is edited in one window at a time, for split taking or for its
     /// cross: the other one closes first, when the coach decides about unsaved work. One that stays
-    /// open keeps the file.
+    /// open keeps the file; one that saves first gives way when that is done, and null is returned.
     CrossWindow* openCross(const QString& path);
     /// Opens a file in a tool, or raises the window that has it; false, after an alert, when it
-    /// cannot be opened there.
+    /// cannot be opened there. A file that takes long is read beside the windows, and told of then.
     bool openIn(const ToolKind& tool, const QString& path);
     /// Begins a document that has no file yet, in a window of its own.
     void openNew(const ToolKind& tool, const QString& path);
@@ -74,6 +76,11 @@ public:
     void loadPlanningAtStart();
 
     [[nodiscard]] bool isHomeShown() const;
+    /// Whether a window is open, or a file is being read for one.
+    [[nodiscard]] bool hasWindows() const { return !m_opening.isEmpty() || !windows().isEmpty(); }
+    /// What the session is to remember beside the windows that are open: files that are being read,
+    /// and those of windows that closed while the program is being left.
+    [[nodiscard]] QList<OpenFile> filesBetweenWindows() const;
     /// The windows that are open, in the order of their opening.
     [[nodiscard]] QList<ToolWindow*> windows() const;
     /// Those of a tool.
@@ -93,6 +100,9 @@ private:
     [[nodiscard]] ToolWindow* make(const ToolKind& tool);
     /// A planning of the server in a window of its own.
     void showPlanningCopy(const QByteArray& content, const QString& name);
+    /// A file was read for a window that is shown now, or goes.
+    void endOpening(ToolWindow* window, const QString& path, bool isOpen);
+    void noteOpened(ToolWindow* window, bool isOpen);
     /// Shows a window, and follows what it asks for.
     void show(ToolWindow* window);
     void connectTool(ToolWindow& window);
@@ -100,6 +110,14 @@ private:
     /// cannot be opened.
     TakingWindow* showTaking(const QString& path);
     CrossWindow* showCross(const QString& path);
+    /// The same in place of the window that had it and is closed now; where it cannot be opened,
+    /// that one comes back with `left`.
+    TakingWindow* showTakingInstead(const QString& path, const QString& left);
+    CrossWindow* showCrossInstead(const QString& path, const QString& left);
+    /// Closes a window that gives way, as the coach would, who decides about unsaved work then.
+    /// True when it is closed. Where it saves first, `then` is called once it is; one that stays
+    /// open comes to the front.
+    bool givesWay(ToolWindow& window, std::function<void()> then);
     void openFilm(const QString& path);
     void showMoment(const QString& path, int run, std::size_t split);
     [[nodiscard]] RaceWindow* makeRaceWindow();
@@ -123,9 +141,10 @@ private:
     QPointer<HomeWindow> m_home;
     QPointer<QWidget> m_lastFront; ///< of the windows, the one that the coach was in last
     QList<QPointer<ToolWindow>> m_windows;
-    QSet<QString> m_opening; ///< canonical: files that a window is reading right now
+    QMap<QString, OpenFile> m_opening; ///< that a window is reading right now; by canonical path
     Autosave m_autosave;
     EarlierWork m_earlierWork;
+    Quitting m_quitting;
 };
 
 } // namespace kavela::desktop

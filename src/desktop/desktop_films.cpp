@@ -14,8 +14,11 @@
 #include <QEventLoopLocker>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QMetaObject>
 
 #include <algorithm>
+#include <memory>
+#include <utility>
 
 /// The tools that edit a split file on its films: split taking and kayak cross.
 namespace kavela::desktop {
@@ -48,15 +51,6 @@ Window* windowOf(const QList<Window*>& windows, const QString& path) {
         if (isSameFile(window->document().path(), file))
             return window;
     return nullptr;
-}
-
-/// Closes a window as the coach would, who decides about unsaved work then. One that stays open
-/// comes to the front.
-bool isClosed(QWidget& window) {
-    if (window.close())
-        return true;
-    bringToFront(window);
-    return false;
 }
 
 /// Where a run of the analyzer stands in split taking, which may have changed since it was saved;
@@ -121,12 +115,37 @@ TakingWindow* Desktop::openTaking(const QString& path) {
         return showTaking(path);
     const QEventLoopLocker running; // also between the two windows
     const QString left = cross->document().path();
-    if (!isClosed(*cross))
-        return nullptr;
+    return givesWay(*cross, [this, path, left] { (void)showTakingInstead(path, left); })
+               ? showTakingInstead(path, left)
+               : nullptr;
+}
+
+TakingWindow* Desktop::showTakingInstead(const QString& path, const QString& left) {
     TakingWindow* const window = showTaking(openable(path));
     if (!window && !showCross(openable(left)))
         showHome();
     return window;
+}
+
+bool Desktop::givesWay(ToolWindow& window, std::function<void()> then) {
+    if (window.close())
+        return true;
+    bringToFront(window);
+    if (!window.isClosing())
+        return false;
+    auto* const wait = new QObject(&window);
+    connect(&window, &ToolWindow::stayed, wait, &QObject::deleteLater);
+    connect(&window, &ToolWindow::closed, wait,
+            [this, then = std::move(then), running = std::make_shared<QEventLoopLocker>()] {
+                QMetaObject::invokeMethod(
+                    this,
+                    [this, then, running] {
+                        if (!m_quitting.isLeaving())
+                            then();
+                    },
+                    Qt::QueuedConnection);
+            });
+    return false;
 }
 
 TakingWindow* Desktop::showTaking(const QString& path) {
@@ -174,8 +193,12 @@ CrossWindow* Desktop::openCross(const QString& path) {
         return showCross(path);
     const QEventLoopLocker running; // also between the two windows
     const QString left = taking->document().path();
-    if (!isClosed(*taking))
-        return nullptr;
+    return givesWay(*taking, [this, path, left] { (void)showCrossInstead(path, left); })
+               ? showCrossInstead(path, left)
+               : nullptr;
+}
+
+CrossWindow* Desktop::showCrossInstead(const QString& path, const QString& left) {
     CrossWindow* const window = showCross(openable(path));
     if (!window && !showTaking(openable(left)))
         showHome();

@@ -16,7 +16,7 @@ namespace kavela::desktop {
 
 /// The last window's closing leaves the program: what it showed is what the next start shows.
 void EarlierWork::rememberWindows() const {
-    QList<OpenFile> files;
+    QList<OpenFile> files = m_program.filesBetweenWindows();
     for (const ToolWindow* const window : m_program.windows())
         for (const QString& path : window->paths())
             files.append({window->kind(), path});
@@ -46,13 +46,13 @@ bool EarlierWork::restoreWindows() const {
         m_program.openAll(others);
     if (!searched.isEmpty())
         m_program.openFind(searched);
-    return !m_program.windows().isEmpty();
+    return m_program.hasWindows();
 }
 
 void EarlierWork::offerUnsaved() const {
     if (m_autosave.all().empty())
         return;
-    if (m_program.windows().isEmpty())
+    if (!m_program.hasWindows())
         (void)restoreWindows();
     for (const Autosave::Found& found : m_autosave.all())
         recover(found.label);

@@ -63,7 +63,7 @@ void showAtStart(Desktop& program, const QStringList& files, bool isBeside) {
         program.offerRecovery();
         program.loadPlanningAtStart();
     }
-    if (!program.windows().isEmpty())
+    if (program.hasWindows())
         return;
     const bool isRestored = !isBeside && files.isEmpty() && program.restoreSession();
     if (!isRestored)

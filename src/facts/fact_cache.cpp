@@ -48,8 +48,8 @@ bool readKnown(ByteReader& bytes, KnownFile& file) {
     std::string_view reason;
     std::uint8_t kind = 0;
     const bool isRead = bytes.getText(path) && bytes.get(file.stamp.size) &&
-                        bytes.get(file.stamp.modified) && bytes.get(file.hash) &&
-                        bytes.get(kind) && bytes.getText(reason);
+                        bytes.get(file.stamp.modified) && bytes.get(file.hash) && bytes.get(kind) &&
+                        bytes.getText(reason);
     if (!isRead || kind > static_cast<std::uint8_t>(KnownFile::Kind::Refused))
         return false;
     file.kind = static_cast<KnownFile::Kind>(kind);
@@ -130,8 +130,7 @@ std::optional<FactCache> decodedCache(std::string_view text) {
     FactCache cache;
     std::string_view folder;
     if (head != expected || !bytes.getText(folder) || !bytes.get(cache.scanned) ||
-        !readFiles(bytes, cache.files) || !FactTables::read(bytes, cache.facts) ||
-        !bytes.isAtEnd())
+        !readFiles(bytes, cache.files) || !FactTables::read(bytes, cache.facts) || !bytes.isAtEnd())
         return std::nullopt;
     cache.folder = folder;
     const auto splitFiles =

@@ -41,8 +41,8 @@ struct KnownFile {
 /// All that is known of a folder. The files of `facts` are the split files of `files`, in the same
 /// order.
 struct FactCache {
-    std::string folder;        ///< without links
-    std::int64_t scanned = 0;  ///< when the last scan began, nanoseconds since 1970
+    std::string folder;       ///< without links
+    std::int64_t scanned = 0; ///< when the last scan began, nanoseconds since 1970
     std::vector<KnownFile> files;
     FactStore facts;
 };

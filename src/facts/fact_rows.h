@@ -7,8 +7,8 @@
 #include <vector>
 
 /// What split files say, as flat rows of tables that belong together: a file has runs, a run has
-/// sections, gates, penalties, notes. Films' bytes, recordings and pictures stay in the files. Times
-/// are seconds, penalties whole seconds. A number that is not known is NotKnown.
+/// sections, gates, penalties, notes. Films' bytes, recordings and pictures stay in the files.
+/// Times are seconds, penalties whole seconds. A number that is not known is NotKnown.
 namespace kavela {
 
 /// Stands for a number that a file does not tell; compares as no number at all.
@@ -30,15 +30,15 @@ struct FileRow {
     TextId category = 0;
     TextId water = 0;
     TextId siwicode = 0;
-    TextId tags = 0;     ///< one on each line
+    TextId tags = 0; ///< one on each line
     TextId comments = 0;
-    double date = 0;     ///< ReferenceDate::seconds
+    double date = 0; ///< ReferenceDate::seconds
     std::int32_t gates = 0;
     std::uint32_t sections = 0; ///< `totalsplits`, at most what some run came to or is defined
     RowRange runs;
-    RowRange upGates;    ///< of the table of whole numbers: gate numbers as written
-    RowRange courses;    ///< one for each entry of `definedsections`
-    RowRange interests;  ///< of the table of numbers: `resultsofinterest`
+    RowRange upGates;   ///< of the table of whole numbers: gate numbers as written
+    RowRange courses;   ///< one for each entry of `definedsections`
+    RowRange interests; ///< of the table of numbers: `resultsofinterest`
 };
 
 /// The gates of one defined section, of the table of whole numbers.
@@ -49,20 +49,20 @@ struct CourseRow {
 /// A run.
 struct RunRow {
     std::uint32_t file = 0;
-    std::uint32_t number = 0;  ///< in its file, from 0
-    TextId crew = 0;           ///< as it is shown: "A / B"
-    TextId names = 0;          ///< one on each line
-    TextId crewKey = 0;        ///< the same however the crew is written
-    TextId category = 0;       ///< of the run, or of the race where the run has none; as written
+    std::uint32_t number = 0; ///< in its file, from 0
+    TextId crew = 0;          ///< as it is shown: "A / B"
+    TextId names = 0;         ///< one on each line
+    TextId crewKey = 0;       ///< the same however the crew is written
+    TextId category = 0;      ///< of the run, or of the race where the run has none; as written
     TextId categoryKey = 0;
-    TextId phase = 0;          ///< as written
-    TextId phaseKey = 0;       ///< the team's label of it ("Heats 1"), else as written
+    TextId phase = 0;    ///< as written
+    TextId phaseKey = 0; ///< the team's label of it ("Heats 1"), else as written
     TextId hand = 0;
     std::int32_t pos = 0;
-    double total = NotKnown;   ///< with penalties; by the rule of totalOf
+    double total = NotKnown;    ///< with penalties; by the rule of totalOf
     double paddling = NotKnown; ///< the same without penalties
-    std::int64_t penalty = 0;  ///< the seconds between them; 0 where there is no total
-    double realtime = 0;       ///< as written, also where it was not taken
+    std::int64_t penalty = 0;   ///< the seconds between them; 0 where there is no total
+    double realtime = 0;        ///< as written, also where it was not taken
     std::int64_t realpen = 0;
     double totaltime = 0;
     std::int64_t totalpen = 0;
@@ -70,26 +70,26 @@ struct RunRow {
     double sprint = 0;
     double xTime = 0;
     double xPer = 0;
-    double start = NotKnown;   ///< seconds of the first film at the start mark, where it is known
-    bool isComplete = false;   ///< has a total
-    bool isOfficial = false;   ///< whose total is `realtime` with `realpen`
-    bool isRefused = false;    ///< a list says DNF, DNS or DSQ
+    double start = NotKnown; ///< seconds of the first film at the start mark, where it is known
+    bool isComplete = false; ///< has a total
+    bool isOfficial = false; ///< whose total is `realtime` with `realpen`
+    bool isRefused = false;  ///< a list says DNF, DNS or DSQ
     RowRange sections;
-    RowRange pens;             ///< of the table of whole numbers, as written: by gate or by section
-    RowRange gates;            ///< upstream gates timed
-    RowRange penalties;        ///< penalties in detail
-    RowRange losses;           ///< notes of time lost
-    RowRange ways;             ///< strategies
+    RowRange pens;      ///< of the table of whole numbers, as written: by gate or by section
+    RowRange gates;     ///< upstream gates timed
+    RowRange penalties; ///< penalties in detail
+    RowRange losses;    ///< notes of time lost
+    RowRange ways;      ///< strategies
     RowRange tags;
-    RowRange films;            ///< of the table of texts: bare names
+    RowRange films; ///< of the table of texts: bare names
 };
 
 /// One section of a run, in their order. There are as many as the run has times.
 struct SectionRow {
-    double time = 0;          ///< as written
-    double end = NotKnown;    ///< seconds of the first film at the mark that ends it
-    std::int32_t pen = 0;     ///< seconds of penalty in it
-    std::uint16_t left = 0;   ///< strokes marked in it by hand
+    double time = 0;        ///< as written
+    double end = NotKnown;  ///< seconds of the first film at the mark that ends it
+    std::int32_t pen = 0;   ///< seconds of penalty in it
+    std::uint16_t left = 0; ///< strokes marked in it by hand
     std::uint16_t right = 0;
     std::uint16_t other = 0;
     bool standsAlone = false; ///< both its marks were taken: its time is of this section alone

@@ -27,17 +27,23 @@ bool isTruth(const bool& value) {
 
 template <class Row>
 bool knows(const Row& row, std::size_t texts, std::initializer_list<TextId Row::*> members) {
-    return std::ranges::all_of(members,
-                               [&](TextId Row::*member) { return row.*member < texts; });
+    return std::ranges::all_of(members, [&](TextId Row::*member) { return row.*member < texts; });
 }
 
 } // namespace
 
 std::uint64_t FactTables::layout() {
-    const std::array<std::uint64_t, 11> shape{
-        Meaning,           sizeof(FileRow), sizeof(CourseRow), sizeof(RunRow),
-        sizeof(SectionRow), sizeof(GateRow), sizeof(PenaltyRow), sizeof(LossRow),
-        sizeof(WayRow),    sizeof(TagRow),  sizeof(std::size_t)};
+    const std::array<std::uint64_t, 11> shape{Meaning,
+                                              sizeof(FileRow),
+                                              sizeof(CourseRow),
+                                              sizeof(RunRow),
+                                              sizeof(SectionRow),
+                                              sizeof(GateRow),
+                                              sizeof(PenaltyRow),
+                                              sizeof(LossRow),
+                                              sizeof(WayRow),
+                                              sizeof(TagRow),
+                                              sizeof(std::size_t)};
     return contentHash({reinterpret_cast<const char*>(shape.data()), sizeof shape});
 }
 
@@ -117,9 +123,9 @@ bool FactTables::areRunsSound(const FactStore& facts) {
                isTruth(row.isComplete) && isTruth(row.isOfficial) && isTruth(row.isRefused) &&
                isWithin(row.sections, facts.m_sections) &&
                isWithin(row.pens, facts.m_wholeNumbers) && isWithin(row.gates, facts.m_gates) &&
-               isWithin(row.penalties, facts.m_penalties) &&
-               isWithin(row.losses, facts.m_losses) && isWithin(row.ways, facts.m_ways) &&
-               isWithin(row.tags, facts.m_tags) && isWithin(row.films, facts.m_textLists);
+               isWithin(row.penalties, facts.m_penalties) && isWithin(row.losses, facts.m_losses) &&
+               isWithin(row.ways, facts.m_ways) && isWithin(row.tags, facts.m_tags) &&
+               isWithin(row.films, facts.m_textLists);
     });
 }
 

@@ -52,8 +52,7 @@ public:
             return std::nullopt;
         const KnownFile& known = m_cache.files[found->second];
         const bool isSettled = known.stamp.modified < m_cache.scanned - Unsettled;
-        return known.stamp == file.stamp && isSettled ? std::optional(found->second)
-                                                      : std::nullopt;
+        return known.stamp == file.stamp && isSettled ? std::optional(found->second) : std::nullopt;
     }
 
     /// The entry of a split file with the same content under another name. Throws FileError.
@@ -63,8 +62,9 @@ public:
         if (begin == end || m_byPath.contains(file.path))
             return std::nullopt;
         const std::uint64_t hash = contentHashOf(path);
-        const auto same = std::find_if(
-            begin, end, [&](const auto& entry) { return m_cache.files[entry.second].hash == hash; });
+        const auto same = std::find_if(begin, end, [&](const auto& entry) {
+            return m_cache.files[entry.second].hash == hash;
+        });
         return same == end ? std::nullopt : std::optional(same->second);
     }
 

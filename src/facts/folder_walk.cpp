@@ -29,9 +29,8 @@ constexpr std::array<std::string_view, 8> OtherExtensions{
 
 std::string smallExtension(const fs::path& path) {
     std::string extension = path.extension().string();
-    std::ranges::transform(extension, extension.begin(), [](unsigned char c) {
-        return static_cast<char>(std::tolower(c));
-    });
+    std::ranges::transform(extension, extension.begin(),
+                           [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
     return extension;
 }
 

@@ -20,7 +20,7 @@ struct FoundFile {
     std::string path; ///< below the folder; all of it for a file that was named itself
     FileStamp stamp;
     std::pair<std::uint64_t, std::uint64_t> identity; ///< disk and number: links share it
-    bool isPromised = false; ///< its name says that it is a split file
+    bool isPromised = false;                          ///< its name says that it is a split file
 };
 
 struct FolderWalk {

@@ -18,6 +18,19 @@
 
 namespace kavela {
 
+/// What makes a group of rows: by column the text's key or the number's bits.
+using GroupKey = std::array<std::uint64_t, MostGroupColumns>;
+
+/// Of a class with a name of its own, which a batch of sources allows no nameless members.
+struct HashOfGroup {
+    std::size_t operator()(const GroupKey& key) const {
+        std::uint64_t hash = 0;
+        for (const std::uint64_t part : key)
+            hash = (hash ^ part) * 0x9E3779B97F4A7C15U;
+        return static_cast<std::size_t>(hash ^ (hash >> 32U));
+    }
+};
+
 namespace {
 
 FoundValue valueOf(const QueryColumn& column, const RowCursor& row) {
@@ -29,9 +42,6 @@ FoundValue valueOf(const QueryColumn& column, const RowCursor& row) {
     return value;
 }
 
-/// What makes a group of rows: by column the text's key or the number's bits.
-using RowGroupKey = std::array<std::uint64_t, MostGroupColumns>;
-
 std::uint64_t keyPart(const QueryColumn& column, const RowCursor& row) {
     if (column.isText())
         return column.key ? column.key(row) : column.text(row);
@@ -39,8 +49,8 @@ std::uint64_t keyPart(const QueryColumn& column, const RowCursor& row) {
     return std::bit_cast<std::uint64_t>(std::isnan(number) ? NotKnown : number + 0.0);
 }
 
-RowGroupKey groupKeyOf(const std::vector<const QueryColumn*>& by, const RowCursor& row) {
-    RowGroupKey key{};
+GroupKey groupKeyOf(const std::vector<const QueryColumn*>& by, const RowCursor& row) {
+    GroupKey key{};
     for (std::size_t i = 0; i < by.size(); ++i)
         key[i] = keyPart(*by[i], row);
     return key;
@@ -121,15 +131,6 @@ FoundPlace placeOf(What what, const RowCursor& row) {
 }
 
 } // namespace
-
-struct HashOfGroup {
-    std::size_t operator()(const RowGroupKey& key) const {
-        std::uint64_t hash = 0;
-        for (const std::uint64_t part : key)
-            hash = (hash ^ part) * 0x9E3779B97F4A7C15U;
-        return static_cast<std::size_t>(hash ^ (hash >> 32U));
-    }
-};
 
 /// The work of answering one query.
 class QueryRun {
@@ -255,7 +256,7 @@ private:
     std::size_t groupOf(const RowCursor& row) {
         if (m_groupOfRun)
             return *m_groupOfRun;
-        const RowGroupKey key = groupKeyOf(query().by, row);
+        const GroupKey key = groupKeyOf(query().by, row);
         const bool isOfRun = std::ranges::none_of(query().by, [](const QueryColumn* column) {
             return column->level == ColumnLevel::Row;
         });
@@ -435,10 +436,10 @@ private:
     }
 
     QueryAnswer m_answer;
-    std::unordered_map<RowGroupKey, std::size_t, HashOfGroup> m_places;
+    std::unordered_map<GroupKey, std::size_t, HashOfGroup> m_places;
     std::vector<std::vector<double>> m_values; ///< by group
     std::optional<std::size_t> m_groupOfRun;
-    std::optional<RowGroupKey> m_only;     ///< where the rows of one group are wanted
+    std::optional<GroupKey> m_only;        ///< where the rows of one group are wanted
     std::vector<const QueryColumn*> m_by;  ///< what makes that group
     const QueryColumn* m_needed = nullptr; ///< its rows have a value there
 };

@@ -26,13 +26,13 @@ struct RowCursor {
     const FactStore* facts = nullptr;
     const FileRow* file = nullptr;
     const RunRow* run = nullptr;
-    std::size_t runIndex = 0;        ///< in the store
-    std::optional<int> rank;         ///< of the run, where a query asks for it
-    std::size_t section = 0;         ///< of the row, from 1; 0 for none
+    std::size_t runIndex = 0; ///< in the store
+    std::optional<int> rank;  ///< of the run, where a query asks for it
+    std::size_t section = 0;  ///< of the row, from 1; 0 for none
     const SectionRow* sectionRow = nullptr;
     const GateRow* gate = nullptr;
     const PenaltyRow* penalty = nullptr;
-    std::int64_t seconds = 0;        ///< of a penalty
+    std::int64_t seconds = 0; ///< of a penalty
     const LossRow* loss = nullptr;
     const TagRow* tag = nullptr;
 };

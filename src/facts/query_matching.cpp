@@ -90,11 +90,10 @@ QueryMatcher::QueryMatcher(const FactStore& facts, const Query& query)
         Test test;
         test.condition = &condition;
         const QueryColumn* const column = condition.choices.front().column;
-        // What is written about a run stands for all its rows but those that have words of their own.
+        // What is written about a run stands for all its rows but those that have words of their
+        // own.
         const bool hasOwnTexts = m_what == What::Losses || m_what == What::Tags;
-        test.level = column          ? column->level
-                     : hasOwnTexts ? ColumnLevel::Row
-                                   : ColumnLevel::Run;
+        test.level = column ? column->level : hasOwnTexts ? ColumnLevel::Row : ColumnLevel::Run;
         if (!column || column->isText()) {
             test.words = wordsIn(folded(condition.value));
             test.key = column ? keyOf(*column, condition.value) : std::string();
@@ -105,8 +104,8 @@ QueryMatcher::QueryMatcher(const FactStore& facts, const Query& query)
 }
 
 bool QueryMatcher::matches(const RowCursor& row, ColumnLevel level) {
-    return std::ranges::all_of(
-        m_tests, [&](Test& test) { return test.level != level || isMet(row, test); });
+    return std::ranges::all_of(m_tests,
+                               [&](Test& test) { return test.level != level || isMet(row, test); });
 }
 
 bool QueryMatcher::isMet(const RowCursor& row, Test& test) {
@@ -138,19 +137,18 @@ bool QueryMatcher::isMetBy(std::string_view text, const Test& test) const {
         all += ' ' + otherName(*column, text);
     const std::vector<std::string> words = wordsIn(folded(all));
     const bool isWhole = test.condition->isQuoted;
-    return !test.words.empty() &&
-           std::ranges::all_of(test.words, [&](const std::string& wanted) {
-               return std::ranges::any_of(words, [&](const std::string& word) {
-                   return isWhole ? word == wanted : word.starts_with(wanted);
-               });
-           });
+    return !test.words.empty() && std::ranges::all_of(test.words, [&](const std::string& wanted) {
+        return std::ranges::any_of(words, [&](const std::string& word) {
+            return isWhole ? word == wanted : word.starts_with(wanted);
+        });
+    });
 }
 
 bool QueryMatcher::isAnyTextMet(const RowCursor& row, Test& test) {
     const FileRow& file = *row.file;
-    for (const TextId text : {file.title, file.place, file.session, file.event, file.category,
-                              file.water, file.tags, file.comments, row.run->crew,
-                              row.run->category, row.run->phase, row.run->hand})
+    for (const TextId text :
+         {file.title, file.place, file.session, file.event, file.category, file.water, file.tags,
+          file.comments, row.run->crew, row.run->category, row.run->phase, row.run->hand})
         if (isTextMet(text, test))
             return true;
     const auto isFilmMet = [&](TextId film) { return isTextMet(film, test); };

@@ -38,8 +38,8 @@ bool RunPenalties::isDescribed(std::int32_t gate) const {
 PenaltyRow RunPenalties::bare(std::int32_t gate, std::int64_t seconds) {
     PenaltyRow row;
     row.gate = gate;
-    row.penkind = static_cast<std::int32_t>(seconds < LeastMissedGate ? PenaltyKindCode::Touch
-                                                                      : PenaltyKindCode::MissedGate);
+    row.penkind = static_cast<std::int32_t>(
+        seconds < LeastMissedGate ? PenaltyKindCode::Touch : PenaltyKindCode::MissedGate);
     return row;
 }
 

@@ -68,9 +68,8 @@ void forEachRow(What what, RowCursor& cursor, const Visit& visit) {
         for (const SectionRow& row : facts.sectionsOf(*cursor.run)) {
             cursor.sectionRow = &row;
             cursor.section = ++entry;
-            const bool isWanted = what == What::Sections
-                                      ? isTakenTime(row.time)
-                                      : row.left + row.right + row.other > 0;
+            const bool isWanted = what == What::Sections ? isTakenTime(row.time)
+                                                         : row.left + row.right + row.other > 0;
             if (isWanted)
                 visit(cursor, entry - 1);
         }

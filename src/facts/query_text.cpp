@@ -224,8 +224,7 @@ private:
         if (column.kind == ColumnKind::Day) {
             const auto days = daysOf(value.text);
             if (!days)
-                fail(quotedName(value.text) +
-                         " is no day: write 2026-05-11, or 2026-05, or 2026.",
+                fail(quotedName(value.text) + " is no day: write 2026-05-11, or 2026-05, or 2026.",
                      value);
             choice.from = days->first;
             choice.to = days->second;

@@ -37,12 +37,14 @@
 ///   writing it. "text" looks at all that is written about a row. A quote within quotes is doubled.
 /// - Times are seconds (3.85, 3,85) or minutes and seconds (1:32.45); equal is equal to the
 ///   hundredth. Days are 2026-05-11, 2026-05 or 2026: "date<2026-05" is before May.
-/// - A label is a word of annotation_labels.h, or "up" or "down". It may stand alone, for any column
+/// - A label is a word of annotation_labels.h, or "up" or "down". It may stand alone, for any
+/// column
 ///   of the rows that knows it, or behind a column's name.
-/// - "by" gives one row for each value of its columns, or each pair or triple of them: how many rows
+/// - "by" gives one row for each value of its columns, or each pair or triple of them: how many
+/// rows
 ///   there are, and the least, mean and median of the column that "best" names, else of the rows'
-///   own (total, time, seconds, lost, strokes). With "best" only rows with that value count, and the
-///   groups stand in the order of their least one; else in that of their names or numbers.
+///   own (total, time, seconds, lost, strokes). With "best" only rows with that value count, and
+///   the groups stand in the order of their least one; else in that of their names or numbers.
 /// - "best" without "by" gives the row with the least value; several where they are equal.
 /// - "sort" orders from the least up, or down; rows without a value stand last. "first" ends the
 ///   list.
@@ -60,9 +62,9 @@ struct Choice {
 struct Condition {
     std::vector<Choice> choices; ///< any of them
     Comparison comparison = Comparison::Equal;
-    std::string value;           ///< as it was written
+    std::string value; ///< as it was written
     bool isQuoted = false;
-    bool isBare = false;         ///< a label that stands alone
+    bool isBare = false; ///< a label that stands alone
 };
 
 /// The order of the rows asked for.

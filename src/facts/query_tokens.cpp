@@ -108,7 +108,7 @@ std::vector<std::string> nearestWords(std::string_view word,
         const std::string small = folded(candidate);
         const bool begins = wanted.size() > 1 && small.starts_with(wanted);
         const std::size_t edits = begins ? 1 : editsBetween(wanted, small);
-        if (edits <= std::max<std::size_t>(1, wanted.size() / 3))
+        if (edits <= std::max<std::size_t>(1, (wanted.size() + 1) / 3))
             near.emplace_back(edits, candidate);
     }
     std::ranges::stable_sort(near, {}, &std::pair<std::size_t, std::string>::first);

@@ -43,15 +43,13 @@ void takeDocument(const fs::path& path, const FoundFile& file, FileReading& read
         reading.outcome = FileReading::Outcome::Read;
         return;
     }
-    reading.outcome =
-        file.isPromised ? FileReading::Outcome::Refused : FileReading::Outcome::Other;
+    reading.outcome = file.isPromised ? FileReading::Outcome::Refused : FileReading::Outcome::Other;
     if (!split.failures.empty())
         reading.reason = split.failures.front().fault.message();
 }
 
 void read(const fs::path& path, const FoundFile& file, FileReading& reading) {
-    if (!file.isPromised &&
-        (file.stamp.size > LargestUnpromised || !beginsLikeDocument(path))) {
+    if (!file.isPromised && (file.stamp.size > LargestUnpromised || !beginsLikeDocument(path))) {
         reading.outcome = FileReading::Outcome::Other;
         return;
     }

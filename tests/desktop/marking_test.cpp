@@ -2,6 +2,7 @@
 
 #include "common/recorders.h"
 #include "common/temp_folder.h"
+#include "desktop/closing.h"
 #include "desktop/film/film_deck.h"
 #include "desktop/film/film_memory.h"
 #include "desktop/film/film_view.h"
@@ -223,7 +224,7 @@ TEST_F(MarkingTest, KeepsPressesThatCameBeforeTheFilmWasRead) {
     EXPECT_THAT(marked(2), ElementsAre(0)) << "the press that waited was the last step";
     press({Qt::Key_M, Qt::ALT | Qt::Key_Right, Qt::CTRL | Qt::Key_S});
     EXPECT_THAT(marked(2), ElementsAre(0, 51));
-    m_window->close();
+    EXPECT_TRUE(closes(*m_window));
     const auto saved = recogniseSplitFile(file(), m_recorder.log(), m_workspace.clock()).document;
     ASSERT_THAT(saved.athletes, SizeIs(3));
     EXPECT_NEAR(saved.athletes[1].sectioninfo.times.at(0), 1, 1e-9);

@@ -131,6 +131,7 @@ TEST_F(OpeningTest, TakesAPhonesListAndAWatchsTrackIntoASession) {
     m_program.openAll({example("recordings/watch.gpx"), example("recordings/phone_logger.csv")});
     EXPECT_TRUE(isAsked);
     ASSERT_TRUE(session());
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !session()->isBusy(); }, 30000));
     EXPECT_TRUE(session()->document().value().recording);
     ASSERT_THAT(m_recorder.alerts, ::testing::Not(IsEmpty()));
     EXPECT_THAT(m_recorder.alerts.back(), HasSubstr("positions and"))

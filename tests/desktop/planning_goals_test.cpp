@@ -32,6 +32,8 @@
 #include <QTimer>
 #include <QTreeWidget>
 
+#include <functional>
+
 namespace kavela::test {
 namespace {
 
@@ -42,6 +44,20 @@ using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::SizeIs;
+
+/// Acts on the dialog once what it asks about is read.
+void whenShown(const std::function<void(StatisticsDialog*)>& act) {
+    auto* const look = new QTimer(qApp);
+    QObject::connect(look, &QTimer::timeout, look, [look, act] {
+        auto* const dialog = qobject_cast<StatisticsDialog*>(QApplication::activeModalWidget());
+        if (!dialog)
+            return;
+        look->stop();
+        look->deleteLater();
+        act(dialog);
+    });
+    look->start(5);
+}
 
 QByteArray bytesOf(const fs::path& path) {
     QFile file(QString::fromStdString(path.string()));
@@ -215,9 +231,9 @@ TEST_F(PlanningGoals, StatisticsAreTakenFromSplitFilesAfterAYes) {
     RankingPanel panel(m_document, m_workspace);
     show(panel);
     const auto answer = [&](bool agrees) {
-        QTimer::singleShot(0, [&, agrees] {
-            auto* const dialog = qobject_cast<StatisticsDialog*>(QApplication::activeModalWidget());
-            ASSERT_TRUE(dialog);
+        bool isAsked = false;
+        whenShown([&, agrees](StatisticsDialog* dialog) {
+            isAsked = true;
             EXPECT_GT(dialog->findChild<QTableView*>("runs")->model()->rowCount(), 0);
             QStringList leftOut;
             auto* const table = dialog->findChild<QTableView*>("leftOut");
@@ -228,6 +244,7 @@ TEST_F(PlanningGoals, StatisticsAreTakenFromSplitFilesAfterAYes) {
                                                                               : dialog->reject();
         });
         panel.takeFrom({QString::fromStdString(folder.string())});
+        QTRY_VERIFY(isAsked);
     };
     answer(false);
     EXPECT_EQ(steps(), 0);
@@ -244,13 +261,14 @@ TEST_F(PlanningGoals, StatisticsAreTakenFromSplitFilesAfterAYes) {
 TEST_F(PlanningGoals, NothingIsReplacedWhereNothingWasFound) {
     RankingPanel panel(m_document, m_workspace);
     show(panel);
-    QTimer::singleShot(0, [] {
-        auto* const dialog = qobject_cast<StatisticsDialog*>(QApplication::activeModalWidget());
-        ASSERT_TRUE(dialog);
+    bool isAsked = false;
+    whenShown([&](StatisticsDialog* dialog) {
+        isAsked = true;
         EXPECT_FALSE(dialog->findChild<QPushButton*>("replace")->isEnabled());
         dialog->reject();
     });
     panel.takeFrom({m_document.path()});
+    QTRY_VERIFY(isAsked);
     EXPECT_EQ(steps(), 0);
 }
 

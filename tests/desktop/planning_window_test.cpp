@@ -5,6 +5,7 @@
 #include "common/safe_file.h"
 #include "common/temp_folder.h"
 #include "common/text_file.h"
+#include "desktop/closing.h"
 #include "desktop/planning/athlete_list.h"
 #include "desktop/planning/body/body_panel.h"
 #include "desktop/planning/plan/plan_view.h"
@@ -326,7 +327,7 @@ TEST_F(PlanningWindowTest, WhatIsTypedInACellIsInTheFileWhenTheWindowSavesAndClo
     EXPECT_FALSE(window->close());
     EXPECT_EQ(weight(), 70.2);
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Backspace);
-    EXPECT_TRUE(window->close());
+    EXPECT_TRUE(closes(*window));
     EXPECT_EQ(weight(), 69);
 }
 

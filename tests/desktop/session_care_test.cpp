@@ -1,13 +1,15 @@
 #include "desktop/session_fixture.h"
 
 #include "boatmotion/session_files.h"
+#include "desktop/closing.h"
+#include "desktop/sessions/grid_model.h"
 #include "desktop/sessions/information_dialog.h"
 #include "desktop/sessions/power_meter_dialog.h"
 #include "desktop/sessions/session_edits.h"
 #include "desktop/sessions/session_exports.h"
 #include "desktop/sessions/session_imports.h"
 #include "desktop/sessions/session_view.h"
-#include "desktop/sessions/work_beside.h"
+#include "desktop/shell/background_work.h"
 #include "desktop/shell/tables/column_table.h"
 
 #include <QApplication>
@@ -15,6 +17,7 @@
 #include <QDropEvent>
 #include <QMessageBox>
 #include <QMimeData>
+#include <QSemaphore>
 #include <QSignalSpy>
 #include <QTableView>
 #include <QTest>
@@ -22,7 +25,6 @@
 #include <QUrl>
 
 #include <algorithm>
-#include <future>
 
 namespace kavela::test {
 namespace {
@@ -67,7 +69,7 @@ TEST_F(SessionCareTest, OfStrokesAtOneMomentTheOneThatIsChosenIsRemoved) {
     smartAlldata_v4 session = window->document().value().session;
     for (const std::size_t place : {1U, 2U, 3U})
         session.strokesData[place].timestamp = session.strokesData[0].timestamp + 0.5;
-    ASSERT_TRUE(window->open(add("doubled.bms", encode(session))));
+    ASSERT_TRUE(opens(*window, add("doubled.bms", encode(session))));
     QTableView& strokes = *window->view().tables().view(SessionTables::StrokePage);
     for (const int row : {2, 1, 3}) {
         strokes.setFocus();
@@ -93,23 +95,26 @@ TEST_F(SessionCareTest, AWindowTakesNoKeysWhileWorkIsDoneOnItsContent) {
     const auto window = openDrill();
     markAt(*window, {5, 25});
     const int steps = window->document().undoStack().index();
+    desktop::BackgroundWork beside;
     for (const bool fails : {false, true}) {
-        std::promise<void> isPressed;
-        QTimer::singleShot(0, [&] {
-            for (const auto key : {QKeyCombination(Qt::Key_M), Qt::CTRL | Qt::Key_Z,
-                                   QKeyCombination(Qt::Key_Delete), QKeyCombination(Qt::Key_F5)})
-                press(*window, key);
-            isPressed.set_value();
-        });
-        const auto work = [&] {
-            isPressed.get_future().wait();
-            if (fails)
-                throw MotionError("no motion");
-        };
-        if (fails)
-            EXPECT_THROW(desktop::doBeside(window.get(), "work", work), MotionError);
-        else
-            desktop::doBeside(window.get(), "work", work);
+        const auto gate = std::make_shared<QSemaphore>();
+        QStringList ends;
+        beside.runOver(
+            {window.get(), "work"},
+            [gate, fails] {
+                gate->acquire();
+                if (fails)
+                    throw MotionError("no motion");
+            },
+            [&] { ends << "done"; }, {.failed = [&](const std::exception_ptr& fault) {
+                ends << QString::fromStdString(desktop::messageOf(fault));
+            }});
+        for (const auto key : {QKeyCombination(Qt::Key_M), Qt::CTRL | Qt::Key_Z,
+                               QKeyCombination(Qt::Key_Delete), QKeyCombination(Qt::Key_F5)})
+            press(*window, key);
+        EXPECT_FALSE(window->close());
+        gate->release();
+        QTRY_COMPARE(ends, QStringList(fails ? "no motion" : "done"));
         EXPECT_EQ(window->document().undoStack().index(), steps);
         EXPECT_TRUE(window->isEnabled());
     }
@@ -125,18 +130,14 @@ TEST_F(SessionCareTest, NothingIsEditedBehindTheBackOfAnAnalysis) {
     const std::string before = sessionOf(*window);
     const auto marks = window->document().value().marks;
     const int steps = window->document().undoStack().count();
-    QTimer::singleShot(0, [&] {
-        if (window->isEnabled())
-            return; // the analysis was quicker
-        EXPECT_FALSE(window->close());
-        for (const auto key : {QKeyCombination(Qt::Key_M), Qt::CTRL | Qt::Key_Z,
-                               QKeyCombination(Qt::Key_Delete), QKeyCombination(Qt::Key_F5)})
-            press(*window, key);
-        drop(*window, {meter});
-        drop(*window, {path("drill.kvb")});
-        EXPECT_FALSE(QApplication::activeModalWidget());
-    });
-    press(*window, Qt::Key_F5);
+    window->edits().analyseAgain();
+    EXPECT_FALSE(window->isEnabled());
+    EXPECT_FALSE(window->close());
+    drop(*window, {meter});
+    drop(*window, {path("drill.kvb")});
+    window->edits().analyseAgain();
+    EXPECT_FALSE(QApplication::activeModalWidget());
+    ASSERT_TRUE(rests(*window));
     EXPECT_EQ(window->document().undoStack().count(), steps + 1) << "the analysis alone";
     EXPECT_EQ(sessionOf(*window), before) << "it finds what it found before";
     EXPECT_EQ(window->document().value().marks, marks);
@@ -147,6 +148,7 @@ TEST_F(SessionCareTest, ATableKeepsTheFocusThroughAnAnalysis) {
     QTableView& strokes = *window->view().tables().view(SessionTables::StrokePage);
     strokes.setFocus();
     press(strokes, Qt::Key_F5);
+    ASSERT_TRUE(rests(*window));
     EXPECT_TRUE(strokes.hasFocus());
 }
 
@@ -277,7 +279,7 @@ TEST_F(SessionCareTest, CancellingTheQuestionAboutThePowerMeterSavesNothing) {
         return std::optional(true);
     });
     m_questions.clear();
-    EXPECT_TRUE(window->close());
+    EXPECT_TRUE(closes(*window));
     EXPECT_THAT(m_questions, SizeIs(1)) << "whether to save";
     EXPECT_TRUE(isAsked) << "and with what";
     EXPECT_FALSE(window->isWindowModified());
@@ -288,15 +290,15 @@ TEST_F(SessionCareTest, ARecordingOfVersion4IsConvertedAndOpened) {
     const auto window = openDrill();
     const std::string old = encode(sample::oldPhone());
     m_isYes = false;
-    EXPECT_FALSE(window->open(add("old.kvb", old)));
+    EXPECT_FALSE(opens(*window, add("old.kvb", old)));
     EXPECT_EQ(window->document().path(), path("drill_postv5.bms"));
     ASSERT_THAT(m_questions, SizeIs(1));
     EXPECT_THAT(m_questions[0], HasSubstr("“old_v5.kvb” is written beside it"));
     m_isYes = true;
-    ASSERT_TRUE(window->open(path("old.kvb")));
+    ASSERT_TRUE(opens(*window, path("old.kvb")));
     EXPECT_EQ(window->document().path(), path("old_v5_postv5.bms"));
     EXPECT_EQ(contentOf(m_folder.path() / "old.kvb"), old);
-    ASSERT_TRUE(window->open(path("old.kvb")));
+    ASSERT_TRUE(opens(*window, path("old.kvb")));
     EXPECT_THAT(m_folder.names(), Not(Contains("old_v5_2.kvb"))) << "it is there already";
     EXPECT_THAT(m_recorder.alerts, IsEmpty());
 }
@@ -307,10 +309,10 @@ TEST_F(SessionCareTest, ClosingStaysOpenWhereItCannotSave) {
     markAt(*window, {5});
     EXPECT_FALSE(window->close()) << "one mark makes no segment";
     EXPECT_THAT(m_recorder.alerts, SizeIs(1));
-    EXPECT_FALSE(window->open(path("drill.kvb")));
+    EXPECT_FALSE(opens(*window, path("drill.kvb")));
     EXPECT_THAT(window->document().value().marks, SizeIs(1));
     markAt(*window, {9});
-    EXPECT_TRUE(window->close());
+    EXPECT_TRUE(closes(*window));
     EXPECT_THAT(editedSession(readSmartSession(m_folder.path() / "a.bms")).marks, SizeIs(2));
 }
 
@@ -319,15 +321,19 @@ TEST_F(SessionCareTest, FilesThatAreDroppedAreKnownByTheirKind) {
     ASSERT_TRUE(window->saveSessionTo(path("a.sbm")));
     QSignalSpy others(window.get(), &SessionWindow::openRequested);
     drop(*window, {path("drill.kvb")});
+    ASSERT_TRUE(rests(*window));
     EXPECT_TRUE(window->document().value().recording);
     drop(*window, {path("a.sbm")});
+    ASSERT_TRUE(rests(*window));
     EXPECT_FALSE(window->document().value().recording);
     EXPECT_EQ(window->document().path(), path("a.sbm"));
     drop(*window,
          {add("notes.txt", "no list"), add("binary.csv", "\xff\xfe\x80"), path("nowhere.bms")});
+    ASSERT_TRUE(rests(*window));
     EXPECT_THAT(m_recorder.alerts, Not(IsEmpty()));
     EXPECT_EQ(window->document().path(), path("a.sbm"));
     drop(*window, {path("drill.kvb"), path("a.sbm")});
+    ASSERT_TRUE(rests(*window));
     ASSERT_THAT(others, SizeIs(2));
     EXPECT_EQ(others.takeLast().at(0).toStringList().size(), 2);
     EXPECT_EQ(window->document().path(), path("a.sbm"));

@@ -15,6 +15,8 @@
 #include <QApplication>
 #include <QTest>
 
+#include <optional>
+
 namespace kavela::test {
 
 /// Windows of sessions in a folder of their own.
@@ -51,10 +53,22 @@ protected:
         return window;
     }
 
+    /// Opens a file, and waits for its end; whether it is open.
+    static bool opens(desktop::SessionWindow& window, const QString& file) {
+        std::optional<bool> answer;
+        window.openBeside(file, [&](bool isOpen) { answer = isOpen; });
+        return QTest::qWaitFor([&] { return answer.has_value(); }, Patience) && *answer;
+    }
+
+    /// Waits until nothing is read or analysed any more.
+    static bool rests(const desktop::SessionWindow& window) {
+        return QTest::qWaitFor([&] { return !window.isBusy(); }, Patience);
+    }
+
     /// A window with the drill of the sample season, forty seconds with two turns and more.
     std::unique_ptr<desktop::SessionWindow> openDrill() {
         auto window = makeWindow();
-        EXPECT_TRUE(window->open(add("drill.kvb", encode(sample::upstreamDrill()))));
+        EXPECT_TRUE(opens(*window, add("drill.kvb", encode(sample::upstreamDrill()))));
         return window;
     }
 
@@ -86,6 +100,8 @@ protected:
     static std::string sessionOf(const desktop::SessionWindow& window) {
         return encode(window.document().value().session);
     }
+
+    static constexpr int Patience = 30000; // ms
 
     TempFolder m_folder;
     Recorder m_recorder;

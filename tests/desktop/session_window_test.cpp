@@ -99,7 +99,7 @@ TEST_F(SessionWindowTest, SegmentsAreNumberedAndThereWhenItIsOpenedAgain) {
     EXPECT_NEAR(window->document().value().marks.at(1), begin + 15.1, 1e-9);
     ASSERT_TRUE(window->saveSessionTo(path("a.bms")));
     const auto again = makeWindow();
-    ASSERT_TRUE(again->open(path("a.bms")));
+    ASSERT_TRUE(opens(*again, path("a.bms")));
     EXPECT_THAT(again->document().value().marks, SizeIs(3));
     EXPECT_FALSE(again->isWindowModified());
     const SessionGrid& segments = *again->view().tables().gridOf(SessionTables::SegmentPage);
@@ -129,12 +129,12 @@ TEST_F(SessionWindowTest, WhatCannotBeOpenedIsToldAndWhatWasOpenStays) {
     };
     for (const auto& row : cases) {
         m_recorder.alerts.clear();
-        EXPECT_FALSE(window->open(row.file));
+        EXPECT_FALSE(opens(*window, row.file));
         ASSERT_THAT(m_recorder.alerts, SizeIs(1)) << row.told;
         EXPECT_THAT(m_recorder.alerts[0], HasSubstr(row.told));
         EXPECT_EQ(encode(window->document().value().session), before);
     }
-    EXPECT_TRUE(window->open(add("empty.bms", encode(smartAlldata_v4()))));
+    EXPECT_TRUE(opens(*window, add("empty.bms", encode(smartAlldata_v4()))));
     (void)window->grab();
     smartAlldata_v4 damaged;
     damaged.strokesData.resize(3);
@@ -142,7 +142,7 @@ TEST_F(SessionWindowTest, WhatCannotBeOpenedIsToldAndWhatWasOpenStays) {
     damaged.strokesData[1].stroke = {.strokeRate = 1e-300, .force = 1e308, .hand = 77};
     damaged.gps = {{{1e300}, -1, 91, 0}, {{5}, 1e308, 1, 1}, {{6}, 0, -80, 170}};
     damaged.heart = {{{-1e300}, 1e308}};
-    EXPECT_TRUE(window->open(add("damaged.bms", encode(damaged))));
+    EXPECT_TRUE(opens(*window, add("damaged.bms", encode(damaged))));
     for (int page = 0; page < window->view().tables().count(); ++page) {
         window->view().tables().setCurrentIndex(page);
         window->replay().setMoment(window->replay().to());
@@ -170,7 +170,7 @@ TEST_F(SessionWindowTest, ACutIsSavedAsARecordingAndCanBeTakenBack) {
     EXPECT_EQ(cut.athleteinfo.paddleLength, sample::upstreamDrill().athleteinfo.paddleLength);
     EXPECT_GE(cut.boatmotion.front().timestamp, begin + 10);
     EXPECT_LT(cut.boatmotion.back().timestamp, begin + 30);
-    EXPECT_TRUE(makeWindow()->open(path("cut.kvb")));
+    EXPECT_TRUE(opens(*makeWindow(), path("cut.kvb")));
     press(*window, Qt::CTRL | Qt::Key_Z);
     press(*window, Qt::CTRL | Qt::Key_Z);
     EXPECT_EQ(encode(window->document().value().session), before);
@@ -230,7 +230,7 @@ TEST_F(SessionWindowTest, WhatIsNotKnownIsADash) {
     recording.gps.clear();
     recording.heart.clear();
     const auto window = makeWindow();
-    ASSERT_TRUE(window->open(add("bare.kvb", encode(recording))));
+    ASSERT_TRUE(opens(*window, add("bare.kvb", encode(recording))));
     window->view().goToStroke(1);
     EXPECT_THAT(gauge(*window, "strokeRateGauge"), HasSubstr("1/min"));
     for (const char* const name :
@@ -322,6 +322,7 @@ TEST_F(SessionWindowTest, AListOfALoggerBecomesARecordingAndATrackJoinsIt) {
     const std::string examples = std::string(KAVELA_EXAMPLES) + "/recordings/";
     const QString track = QString::fromStdString(examples + "watch.gpx");
     window->imports().importFrom({track});
+    ASSERT_TRUE(rests(*window));
     EXPECT_THAT(m_recorder.alerts, SizeIs(1)) << "there is nothing that it could join yet";
     QTimer::singleShot(200, [] {
         auto* const dialog =
@@ -333,10 +334,12 @@ TEST_F(SessionWindowTest, AListOfALoggerBecomesARecordingAndATrackJoinsIt) {
         import->click();
     });
     window->imports().importFrom({QString::fromStdString(examples + "phone_logger.csv")});
+    ASSERT_TRUE(rests(*window));
     ASSERT_TRUE(window->document().value().recording);
     EXPECT_FALSE(window->document().value().session.strokesData.empty());
     const std::size_t before = window->document().value().session.heart.size();
     window->imports().importFrom({track});
+    ASSERT_TRUE(rests(*window));
     const std::size_t readings = window->document().value().session.heart.size();
     EXPECT_GT(readings, before);
     press(*window, Qt::CTRL | Qt::Key_Z);
@@ -357,6 +360,7 @@ TEST_F(SessionWindowTest, AListOfALoggerBecomesARecordingAndATrackJoinsIt) {
     });
     m_recorder.alerts.clear();
     window->imports().importFrom({add("late.gpx", late)});
+    ASSERT_TRUE(rests(*window));
     const auto heart = [&] { return window->document().value().session.heart; };
     ASSERT_THAT(heart(), Not(IsEmpty()));
     EXPECT_THAT(m_recorder.alerts, ElementsAre(HasSubstr("heart rates were taken over")));
@@ -366,6 +370,7 @@ TEST_F(SessionWindowTest, AListOfALoggerBecomesARecordingAndATrackJoinsIt) {
         begin->setDateTime(begin->dateTime().addSecs(2));
     });
     window->imports().moveTrack();
+    ASSERT_TRUE(rests(*window));
     EXPECT_NEAR(heart().front().date.seconds, first + 2, 1.5) << "moved, and not joined twice";
     EXPECT_LE(heart().size(), readings);
     press(*window, Qt::CTRL | Qt::Key_Z);

@@ -43,7 +43,7 @@ TEST_F(ShownSessionTest, AnOddClockIsToldOrShownAndNothingIsHalfLoaded) {
         m_recorder.alerts.clear();
         const std::string before = sessionOf(*window);
         const QString path = window->document().path();
-        if (!window->open(add("odd.kvb", encode(recording)))) {
+        if (!opens(*window, add("odd.kvb", encode(recording)))) {
             ASSERT_THAT(m_recorder.alerts, SizeIs(1));
             EXPECT_THAT(m_recorder.alerts[0], HasSubstr("odd.kvb: "));
             EXPECT_EQ(sessionOf(*window), before);
@@ -78,7 +78,7 @@ TEST_F(ShownSessionTest, OddProcessedSessionsAreShown) {
         odd[4].second.strokesData[i].segment = i % 2 == 0 ? -4 : 1LL << 60;
     for (const auto& [what, session] : odd) {
         SCOPED_TRACE(what);
-        ASSERT_TRUE(window->open(add("odd.bms", encode(session))));
+        ASSERT_TRUE(opens(*window, add("odd.bms", encode(session))));
         EXPECT_EQ(sessionOf(*window), encode(session)) << "as it was read";
         showEverything(*window);
         window->view().select(MomentRange{window->replay().from(), window->replay().to()});
@@ -142,7 +142,7 @@ TEST_F(ShownSessionTest, WithoutPositionsTheRoomIsForTheChartsThatTellSomething)
     bmrawdata_v5 session = sample::upstreamDrill();
     session.gps.clear();
     session.heart.clear();
-    ASSERT_TRUE(window->open(add("drill.kvb", encode(session))));
+    ASSERT_TRUE(opens(*window, add("drill.kvb", encode(session))));
     window->resize(1280, 800);
     QApplication::processEvents();
     std::vector<desktop::SessionMeasure> shown;
@@ -162,7 +162,7 @@ TEST_F(ShownSessionTest, WithoutPositionsTheRoomIsForTheChartsThatTellSomething)
     for (const QChar sign : remarks->text())
         EXPECT_TRUE(sign.unicode() < 0x2400 || sign.unicode() >= 0x2500)
             << "no sign for which a font has to be found";
-    ASSERT_TRUE(window->open(add("whole.kvb", encode(sample::upstreamDrill()))));
+    ASSERT_TRUE(opens(*window, add("whole.kvb", encode(sample::upstreamDrill()))));
     EXPECT_FALSE(empty->isVisible());
 }
 
@@ -171,7 +171,7 @@ TEST_F(ShownSessionTest, SidesAreUnknownUntilTheCoachNamesTheMount) {
     const auto window = makeWindow();
     bmrawdata_v5 session = sample::upstreamDrill();
     session.gps.clear();
-    ASSERT_TRUE(window->open(add("drill.kvb", encode(session))));
+    ASSERT_TRUE(opens(*window, add("drill.kvb", encode(session))));
     const auto hands = [&] {
         std::set<std::string> texts;
         const auto& rows = window->view().tables().gridOf(SessionTables::StrokePage)->rows;
@@ -195,6 +195,7 @@ TEST_F(ShownSessionTest, SidesAreUnknownUntilTheCoachNamesTheMount) {
     auto* const name = window->findChild<QToolButton*>("nameMount");
     ASSERT_TRUE(name->isVisible());
     name->menu()->actions().at(1)->trigger();
+    ASSERT_TRUE(rests(*window));
     EXPECT_THAT(hands(), ElementsAre("left", "right"));
     EXPECT_THAT(rate(),
                 ::testing::AnyOf(::testing::EndsWith("left"), ::testing::EndsWith("right")));
@@ -202,6 +203,7 @@ TEST_F(ShownSessionTest, SidesAreUnknownUntilTheCoachNamesTheMount) {
     EXPECT_FALSE(name->isVisible());
     const std::string named = sessionOf(*window);
     press(*window, Qt::Key_F5);
+    ASSERT_TRUE(rests(*window));
     EXPECT_EQ(sessionOf(*window), named) << "the mount stays named";
     press(*window, Qt::CTRL | Qt::Key_Z);
     press(*window, Qt::CTRL | Qt::Key_Z);

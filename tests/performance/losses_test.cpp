@@ -112,8 +112,9 @@ TEST_P(SampleRace, EveryNumberIsExplainedByItself) {
 }
 
 INSTANTIATE_TEST_SUITE_P(References, SampleRace, testing::ValuesIn(References),
-                         [](const auto& info) {
-                             return info.param == "run:2" ? std::string("rival") : info.param;
+                         [](const auto& parameter) {
+                             return parameter.param == "run:2" ? std::string("rival")
+                                                               : parameter.param;
                          });
 
 TEST(Losses, TheShownTextIsTheOneThatAddsUp) {

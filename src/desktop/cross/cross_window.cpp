@@ -235,12 +235,12 @@ void CrossWindow::takeFiles(const QStringList& files) {
     QStringList others;
     for (const QString& file : files)
         (isVideoFile(QFileInfo(file).fileName().toStdString()) ? films : others).append(file);
-    if (const QStringList names = m_files.copied(films); !names.isEmpty()) {
+    m_files.copy(films, [this](const QStringList& names) {
         if (isInFront(*m_trials))
             m_trials->addFilms(names);
         else
             page().setFilm(names.front());
-    }
+    });
     if (!others.isEmpty())
         emit openRequested(others);
 }
@@ -255,12 +255,11 @@ void CrossWindow::findFilms() {
 }
 
 void CrossWindow::importFilms() {
-    const QStringList names =
-        m_files.copied(m_files.chooseFilms(tr("Import films of time trials")));
-    if (names.isEmpty())
-        return;
-    showPage(Page::Trials);
-    m_trials->addFilms(names);
+    m_files.copy(m_files.chooseFilms(tr("Import films of time trials")),
+                 [this](const QStringList& names) {
+                     showPage(Page::Trials);
+                     m_trials->addFilms(names);
+                 });
 }
 
 void CrossWindow::chooseFilm() {
@@ -268,8 +267,7 @@ void CrossWindow::chooseFilm() {
         return;
     const QStringList chosen =
         m_files.chooseFilms(tr("Choose the film of the trial or heat")).mid(0, 1);
-    if (const QStringList names = m_files.copied(chosen); !names.isEmpty())
-        page().setFilm(names.front());
+    m_files.copy(chosen, [this](const QStringList& names) { page().setFilm(names.front()); });
 }
 
 } // namespace kavela::desktop

@@ -49,7 +49,7 @@ struct WatchedFacts::Progress {
 };
 
 WatchedFacts::WatchedFacts(QObject* parent, fs::path cacheFolder)
-    : QObject(parent), m_cacheFolder(std::move(cacheFolder)), m_work(*this) {
+    : QObject(parent), m_cacheFolder(std::move(cacheFolder)) {
     m_settled.setSingleShot(true);
     m_settled.setInterval(Settle);
     m_regular.setInterval(Regularly);
@@ -110,7 +110,12 @@ void WatchedFacts::start(bool isAskedFor) {
     std::ranges::transform(m_paths, std::back_inserter(paths), plainPath);
     const int reading = ++m_reading;
     m_work.run([paths, options] { return std::make_shared<FolderScan>(scanPaths(paths, options)); },
-               [this, reading](const std::shared_ptr<FolderScan>& scan) { take(*scan, reading); });
+               [this, reading](const std::shared_ptr<FolderScan>& scan) { take(*scan, reading); },
+               {.failed = [this, reading](const std::exception_ptr& fault) {
+                   FolderScan nothing;
+                   nothing.failed.push_back({plainPath(m_paths.value(0)), messageOf(fault)});
+                   take(nothing, reading);
+               }});
     m_told.start();
     if (isAskedFor)
         setReading(true);

@@ -6,7 +6,7 @@
 
 namespace kavela::desktop {
 
-QuerySearch::QuerySearch(QObject* parent) : QObject(parent), m_work(*this) {}
+QuerySearch::QuerySearch(QObject* parent) : QObject(parent) {}
 
 template <class Answer>
 void QuerySearch::start(std::shared_ptr<const FactStore> facts, Answer answer) {
@@ -26,7 +26,13 @@ void QuerySearch::start(std::shared_ptr<const FactStore> facts, Answer answer) {
                 return;
             m_answered = number;
             emit found(result);
-        });
+        },
+        {.failed = [this, number](const std::exception_ptr&) { // no memory for so many rows
+            if (number != m_asked)
+                return;
+            m_answered = number;
+            emit found(nullptr);
+        }});
 }
 
 void QuerySearch::ask(std::shared_ptr<const FactStore> facts, Query query) {

@@ -1,10 +1,13 @@
 #pragma once
 
 #include "boatmotion/imports/sensor_csv.h"
+#include "desktop/shell/background_work.h"
 
 #include <QObject>
 
-#include <thread>
+#include <memory>
+#include <optional>
+#include <utility>
 
 namespace kavela::desktop {
 
@@ -15,9 +18,9 @@ class CsvReading : public QObject {
 
 public:
     explicit CsvReading(SensorCsv csv, QObject* parent = nullptr)
-        : QObject(parent), m_csv(std::move(csv)) {}
+        : QObject(parent), m_csv(std::make_shared<const SensorCsv>(std::move(csv))) {}
 
-    [[nodiscard]] const SensorCsv& csv() const { return m_csv; }
+    [[nodiscard]] const SensorCsv& csv() const { return *m_csv; }
 
     void start(const CsvMapping& mapping);
     void stop();
@@ -30,12 +33,9 @@ signals:
     void failed(const QString& reason);
 
 private:
-    void read(const CsvMapping& mapping, const std::stop_token& stop, int number);
-
-    SensorCsv m_csv;
+    std::shared_ptr<const SensorCsv> m_csv; ///< a reading that was given up may be at its last line
     std::optional<CsvImport> m_result;
-    int m_number = 0; ///< of the last start
-    std::jthread m_worker;
+    BackgroundWork m_work;
 };
 
 } // namespace kavela::desktop

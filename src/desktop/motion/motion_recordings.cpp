@@ -78,7 +78,7 @@ private:
 };
 
 MotionRecordings::MotionRecordings(DiagnosticLog log, QObject* parent)
-    : QObject(parent), m_log(std::move(log)), m_work(*this) {}
+    : QObject(parent), m_log(std::move(log)) {}
 
 std::optional<std::size_t> MotionRecordings::indexOf(const MotionRecording* recording) const {
     const auto found = std::ranges::find(m_all, recording, &Recording::get);

@@ -135,8 +135,11 @@ void MotionWindow::connectParts() {
     connect(
         &m_recordings, &MotionRecordings::refusedAsOlder, this,
         [this](const QString& path) {
-            if (const auto converted = convertOlderRecording(path, workspace(), this))
-                m_recordings.read({*converted});
+            convertOlderRecording(path, workspace(), this, m_upgrading,
+                                  [this](const std::optional<QString>& converted) {
+                                      if (converted)
+                                          m_recordings.read({*converted});
+                                  });
         },
         // A question is no place to wait in for the recordings that are read meanwhile.
         Qt::QueuedConnection);

@@ -3,6 +3,7 @@
 #include "desktop/motion/motion_alignment.h"
 #include "desktop/motion/motion_conversions.h"
 #include "desktop/motion/motion_recordings.h"
+#include "desktop/shell/background_work.h"
 #include "desktop/shell/tool_window.h"
 
 class QLabel;
@@ -86,6 +87,7 @@ private:
     void tell(const QString& text);
 
     MotionRecordings m_recordings;
+    BackgroundWork m_upgrading; ///< of recordings of version 4
 
     QStackedWidget* m_pages;
     QWidget* m_side;

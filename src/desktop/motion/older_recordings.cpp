@@ -4,11 +4,15 @@
 #include "boatmotion/older_recording.h"
 #include "boatmotion/session_files.h"
 #include "common/error.h"
-#include "desktop/sessions/work_beside.h"
+#include "desktop/shell/background_work.h"
 #include "desktop/shell/workspace.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>
+#include <QPointer>
+
+#include <string>
+#include <utility>
 
 namespace kavela::desktop {
 
@@ -18,17 +22,20 @@ struct OlderRecordings {
     Q_DECLARE_TR_FUNCTIONS(OlderRecordings)
 };
 
-QString convertedBeside(const QString& path, QWidget* over) {
-    std::filesystem::path converted;
-    doBeside(over, conversion_messages::Converting,
-             [&] { converted = upgradeRecording(path.toStdString()); });
-    return QString::fromStdString(converted.string());
+std::string reasonOf(const std::exception_ptr& fault, const QString& path) {
+    try {
+        std::rethrow_exception(fault);
+    } catch (const FileError& error) {
+        return error.what(); // names the file
+    } catch (const std::exception& error) {
+        return path.toStdString() + ": " + error.what();
+    }
 }
 
 } // namespace
 
-std::optional<QString> convertOlderRecording(const QString& path, const Workspace& workspace,
-                                             QWidget* over) {
+void convertOlderRecording(const QString& path, const Workspace& workspace, QWidget* over,
+                           BackgroundWork& work, Converted converted) {
     const QString name = QFileInfo(path).fileName();
     const QString target =
         QFileInfo(QString::fromStdString(upgradedSessionPath(path.toStdString()).string()))
@@ -42,18 +49,20 @@ std::optional<QString> convertOlderRecording(const QString& path, const Workspac
     workspace.log()(path.toStdString() + ": this is a recording of version 4");
     if (!workspace.ask({conversion_messages::NotConverted, question.toStdString()},
                        OlderRecordings::tr("Convert and open"), over))
-        return std::nullopt;
-    std::string reason;
-    try {
-        return convertedBeside(path, over);
-    } catch (const FileError& error) {
-        reason = error.what();
-    } catch (const DecodeError& error) {
-        reason = path.toStdString() + ": " + error.what();
-    }
-    workspace.log()(reason);
-    workspace.showAlert({conversion_messages::NotConverted, reason}, over);
-    return std::nullopt;
+        return converted(std::nullopt);
+    work.runOver(
+        {over, conversion_messages::Converting},
+        [path = path.toStdString()] { return upgradeRecording(path); },
+        [converted](const std::filesystem::path& to) {
+            converted(QString::fromStdString(to.string()));
+        },
+        {.failed = [path, &workspace, over = QPointer(over),
+                    converted](const std::exception_ptr& fault) {
+            const std::string reason = reasonOf(fault, path);
+            workspace.log()(reason);
+            workspace.showAlert({conversion_messages::NotConverted, reason}, over);
+            converted(std::nullopt);
+        }});
 }
 
 } // namespace kavela::desktop

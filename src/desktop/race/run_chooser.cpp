@@ -76,8 +76,7 @@ RunChooser::RunChooser(Workspace& workspace, const QString& without, QWidget* pa
       m_workspace(workspace),
       m_files(listOf("files")),
       m_name(new QLineEdit),
-      m_runs(listOf("runs")),
-      m_reading(*this) {
+      m_runs(listOf("runs")) {
     setWindowTitle(tr("Compare with a run of another race"));
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
     m_take = buttons->button(QDialogButtonBox::Ok);

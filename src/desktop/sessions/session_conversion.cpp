@@ -4,81 +4,138 @@
 #include "boatmotion/session_files.h"
 #include "common/error.h"
 #include "desktop/motion/older_recordings.h"
-#include "desktop/sessions/work_beside.h"
 #include "desktop/shell/workspace.h"
 
 #include <QFileInfo>
-#include <QScopedValueRollback>
+
+#include <utility>
 
 namespace kavela::desktop {
+
+namespace {
+
+EditedSession readSession(const QString& path) {
+    const std::string file = path.toStdString();
+    return isRecording(path) ? analysedSession(readRawSession(file), std::nullopt)
+                             : editedSession(readSmartSession(file));
+}
+
+std::string reasonOf(const std::exception_ptr& fault) {
+    try {
+        std::rethrow_exception(fault);
+    } catch (const FileError& error) {
+        return error.reason();
+    } catch (const std::exception& error) {
+        return error.what();
+    }
+}
+
+bool isOlderRecording(const std::exception_ptr& fault) {
+    try {
+        std::rethrow_exception(fault);
+    } catch (const OlderRecording&) {
+        return true;
+    } catch (...) {
+        return false;
+    }
+}
+
+} // namespace
 
 bool isRecording(const QString& path) {
     return QFileInfo(path).suffix().compare("kvb", Qt::CaseInsensitive) == 0;
 }
 
-EditedSession SessionConversion::converted(const QString& path) {
-    EditedSession session;
-    std::size_t samples = 0;
-    doBeside(&m_over, conversion_messages::Converting, [&] {
-        bmrawdata_v5 recording = readRawSession(path.toStdString());
-        samples = recording.boatmotion.size();
-        session = analysedSession(std::move(recording), std::nullopt);
-    });
-    m_workspace.log()(conversion_messages::Count + QFileInfo(path).fileName().toStdString() + ' ' +
-                      std::to_string(samples));
-    return session;
+void SessionConversion::whenFree(std::function<void()> act) {
+    if (isBusy())
+        m_next.push_back(std::move(act));
+    else
+        act();
 }
 
-EditedSession SessionConversion::analysed(bmrawdata_v5 recording, std::optional<Mount> mount) {
-    const QScopedValueRollback busy(m_isBusy, true);
-    EditedSession session;
-    doBeside(&m_over, conversion_messages::Converting,
-             [&] { session = analysedSession(std::move(recording), mount); });
-    return session;
+void SessionConversion::goOn() {
+    while (!isBusy() && !m_next.empty()) {
+        const auto act = std::move(m_next.front());
+        m_next.pop_front();
+        act();
+    }
 }
 
-EditedSession SessionConversion::analysedAgain(const EditedSession& session,
-                                               std::optional<Mount> mount) {
-    const QScopedValueRollback busy(m_isBusy, true);
-    EditedSession again;
-    doBeside(&m_over, conversion_messages::Converting,
-             [&] { again = analysedSession(recordingOf(session), mount); });
-    return again;
+void SessionConversion::workOn(const QString& what, std::function<EditedSession()> work, Done done,
+                               Failed failed) {
+    m_work.runOver({&m_over, what}, std::move(work),
+                   [this, done = std::move(done)](EditedSession session) {
+                       done(std::move(session));
+                       goOn();
+                   },
+                   {.failed = [this, failed = std::move(failed)](const std::exception_ptr& fault) {
+                       failed(fault);
+                       goOn();
+                   }});
+}
+
+void SessionConversion::analyse(bmrawdata_v5 recording, std::optional<Mount> mount, Done done,
+                                Failed failed) {
+    workOn(
+        conversion_messages::Converting,
+        [held = std::make_shared<bmrawdata_v5>(std::move(recording)), mount] {
+            return analysedSession(std::move(*held), mount);
+        },
+        std::move(done), std::move(failed));
+}
+
+void SessionConversion::analyseAgain(std::shared_ptr<const EditedSession> session,
+                                     std::optional<Mount> mount, Done done, Failed failed) {
+    workOn(
+        conversion_messages::Converting,
+        [session = std::move(session), mount] {
+            return analysedSession(recordingOf(*session), mount);
+        },
+        std::move(done), std::move(failed));
 }
 
 /// A recording of version 4 is read from the file that it was converted to, which then is the one
 /// that was opened.
-std::optional<EditedSession> SessionConversion::readConverted(QString& path) {
-    const auto converted = convertOlderRecording(path, m_workspace, &m_over);
-    if (!converted)
-        return std::nullopt;
-    path = *converted;
-    return read(path);
+void SessionConversion::readConverted(
+    const QString& path, std::function<void(EditedSession session, QString path)> done,
+    std::function<void()> failed) {
+    convertOlderRecording(path, m_workspace, &m_over, m_work,
+                          [this, done = std::move(done), failed = std::move(failed)](
+                              const std::optional<QString>& converted) {
+                              if (converted)
+                                  read(*converted, done, failed);
+                              else
+                                  failed();
+                              goOn();
+                          });
 }
 
 /// Nothing of a file is taken over before all of it is there.
-std::optional<EditedSession> SessionConversion::read(QString& path) {
-    const QScopedValueRollback busy(m_isBusy, true);
-    try {
-        if (isRecording(path))
-            return converted(path);
-        EditedSession session;
-        doBeside(&m_over, tr("Reading…"),
-                 [&] { session = editedSession(readSmartSession(path.toStdString())); });
-        return session;
-    } catch (const OlderRecording&) {
-        return readConverted(path);
-    } catch (const FileError& error) {
-        tellUnreadable(path, error.reason());
-    } catch (const DecodeError& error) {
-        tellUnreadable(path, error.what());
-    } catch (const MotionError& error) {
-        tellUnreadable(path, error.what());
-    }
-    return std::nullopt;
+void SessionConversion::read(const QString& path,
+                             std::function<void(EditedSession session, QString path)> done,
+                             std::function<void()> failed) {
+    workOn(
+        isRecording(path) ? QString(conversion_messages::Converting) : tr("Reading…"),
+        [path] { return readSession(path); },
+        [this, path, done](EditedSession session) {
+            if (session.recording)
+                m_workspace.log()(conversion_messages::Count +
+                                  QFileInfo(path).fileName().toStdString() + ' ' +
+                                  std::to_string(session.recording->boatmotion.size()));
+            done(std::move(session), path);
+        },
+        [this, path, done, failed](const std::exception_ptr& fault) {
+            if (isOlderRecording(fault)) {
+                readConverted(path, done, failed);
+                return;
+            }
+            tellUnreadable(path, fault);
+            failed();
+        });
 }
 
-void SessionConversion::tellUnreadable(const QString& path, const std::string& reason) const {
+void SessionConversion::tellUnreadable(const QString& path, const std::exception_ptr& fault) const {
+    const std::string reason = reasonOf(fault);
     const std::string name = QFileInfo(path).fileName().toStdString();
     const std::string title =
         isRecording(path)

@@ -1,9 +1,14 @@
 #pragma once
 
 #include "boatmotion/session_editing.h"
+#include "desktop/shell/background_work.h"
 
 #include <QCoreApplication>
 
+#include <deque>
+#include <exception>
+#include <functional>
+#include <memory>
 #include <optional>
 
 class QWidget;
@@ -21,26 +26,36 @@ public:
     SessionConversion(const Workspace& workspace, QWidget& over)
         : m_workspace(workspace), m_over(over) {}
 
-    /// Whether some work is under way: the session must not give way to another one then.
-    [[nodiscard]] bool isBusy() const { return m_isBusy; }
+    using Done = std::function<void(EditedSession session)>;
+    using Failed = std::function<void(const std::exception_ptr& fault)>;
 
-    /// The session of a recording (.kvb) or of a processed file; all of it, or nothing after an
-    /// alert. The path becomes that of the converted file where the recording was of version 4.
-    [[nodiscard]] std::optional<EditedSession> read(QString& path);
-    /// What the analysis finds in a recording. Throws MotionError.
-    [[nodiscard]] EditedSession analysed(bmrawdata_v5 recording, std::optional<Mount> mount);
-    /// The same of what is left of the recording of a session, which stays as it is.
-    [[nodiscard]] EditedSession analysedAgain(const EditedSession& session,
-                                              std::optional<Mount> mount);
+    /// Whether some work is under way: the session must not give way to another one then.
+    [[nodiscard]] bool isBusy() const { return m_work.isRunning(); }
+    /// Does it now, or once the work under way is done; in this order.
+    void whenFree(std::function<void()> act);
+
+    /// Reads a recording (.kvb) or a processed file and gives all of it to `done`, with the path of
+    /// the converted file where the recording was of version 4; `failed` follows an alert.
+    void read(const QString& path, std::function<void(EditedSession session, QString path)> done,
+              std::function<void()> failed);
+    /// What the analysis finds in a recording.
+    void analyse(bmrawdata_v5 recording, std::optional<Mount> mount, Done done, Failed failed);
+    /// The same of what is left of the recording of a session.
+    void analyseAgain(std::shared_ptr<const EditedSession> session, std::optional<Mount> mount,
+                      Done done, Failed failed);
 
 private:
-    [[nodiscard]] EditedSession converted(const QString& path);
-    [[nodiscard]] std::optional<EditedSession> readConverted(QString& path);
-    void tellUnreadable(const QString& path, const std::string& reason) const;
+    void workOn(const QString& what, std::function<EditedSession()> work, Done done, Failed failed);
+    void goOn();
+    void readConverted(const QString& path,
+                       std::function<void(EditedSession session, QString path)> done,
+                       std::function<void()> failed);
+    void tellUnreadable(const QString& path, const std::exception_ptr& fault) const;
 
     const Workspace& m_workspace;
     QWidget& m_over;
-    bool m_isBusy = false;
+    std::deque<std::function<void()>> m_next; ///< to be done when the window is free
+    BackgroundWork m_work;
 };
 
 /// Whether a file is a recording, by its extension.

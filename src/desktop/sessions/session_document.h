@@ -3,6 +3,8 @@
 #include "boatmotion/session_editing.h"
 #include "desktop/shell/document.h"
 
+#include <memory>
+
 namespace kavela::desktop {
 
 template <>
@@ -23,6 +25,8 @@ public:
     using Document::Document;
     ~SessionDocument() override { keepPending(); }
 
+    /// What it holds now, for who works on it beside the window.
+    [[nodiscard]] const std::shared_ptr<const EditedSession>& held() const { return shared(); }
     /// The document is this session from now on, under a path that may not exist yet.
     void show(EditedSession session, const QString& path, QWidget* over);
     /// Whether there is anything in it yet.

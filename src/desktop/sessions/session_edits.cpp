@@ -70,11 +70,12 @@ void SessionEdits::nameMount(std::optional<Mount> mount) {
 void SessionEdits::analyseWith(const QString& what, std::optional<Mount> mount) {
     if (m_conversion.isBusy() || !m_document.value().recording)
         return;
-    try {
-        takeAnalysed(what, m_conversion.analysedAgain(m_document.value(), mount));
-    } catch (const MotionError& error) {
-        tell(conversion_messages::NotConverted, QString::fromStdString(error.what()));
-    }
+    m_conversion.analyseAgain(
+        m_document.held(), mount,
+        [this, what](EditedSession analysed) { takeAnalysed(what, std::move(analysed)); },
+        [this](const std::exception_ptr& fault) {
+            tell(conversion_messages::NotConverted, QString::fromStdString(messageOf(fault)));
+        });
 }
 
 void SessionEdits::takeAnalysed(const QString& what, EditedSession analysed) {

@@ -16,6 +16,9 @@
 #include <QFileInfo>
 
 #include <algorithm>
+#include <memory>
+#include <utility>
+#include <vector>
 
 namespace kavela::desktop {
 
@@ -74,8 +77,7 @@ void SessionImports::askForImports() {
     auto files =
         kavela::desktop::askForImports(QFileInfo(m_document.path()).path(), alerts, &m_over, known);
     keepMappings(known, m_workspace);
-    for (ImportedFile& file : files)
-        takeIn(std::move(file));
+    takeInEach(std::move(files));
 }
 
 void SessionImports::importFrom(const QStringList& paths) {
@@ -83,8 +85,14 @@ void SessionImports::importFrom(const QStringList& paths) {
     CsvMappings known = knownMappings(m_workspace);
     auto files = importFiles(paths, alerts, &m_over, known);
     keepMappings(known, m_workspace);
+    takeInEach(std::move(files));
+}
+
+void SessionImports::takeInEach(std::vector<ImportedFile> files) {
     for (ImportedFile& file : files)
-        takeIn(std::move(file));
+        m_conversion.whenFree([this, held = std::make_shared<ImportedFile>(std::move(file))] {
+            takeIn(std::move(*held));
+        });
 }
 
 void SessionImports::takeInAll(const QStringList& paths) {
@@ -95,15 +103,13 @@ void SessionImports::takeInAll(const QStringList& paths) {
     });
     for (const QString& path : ordered) {
         if (isPowerMeterList(path))
-            importPowerMeter(path);
+            m_conversion.whenFree([this, path] { importPowerMeter(path); });
         else
-            importFrom({path});
+            m_conversion.whenFree([this, path] { importFrom({path}); });
     }
 }
 
 void SessionImports::takeIn(ImportedFile file) {
-    if (m_conversion.isBusy())
-        return;
     try {
         if (auto* const recording = std::get_if<bmrawdata_v5>(&file.content))
             showRecording(std::move(*recording), file.path);
@@ -119,9 +125,16 @@ void SessionImports::takeIn(ImportedFile file) {
 void SessionImports::showRecording(bmrawdata_v5 recording, const QString& path) {
     if (!m_place.mayLeave())
         return;
-    EditedSession session = m_conversion.analysed(std::move(recording), std::nullopt);
     const QFileInfo list(path);
-    m_place.show(std::move(session), list.path() + '/' + list.completeBaseName() + ".kvb");
+    m_conversion.analyse(
+        std::move(recording), std::nullopt,
+        [this, list](EditedSession session) {
+            m_place.show(std::move(session), list.path() + '/' + list.completeBaseName() + ".kvb");
+        },
+        [this, list](const std::exception_ptr& fault) {
+            tell(conversion_messages::NotConverted,
+                 list.fileName() + ": " + QString::fromStdString(messageOf(fault)));
+        });
 }
 
 void SessionImports::join(ImportedTrack track) {
@@ -174,12 +187,20 @@ std::optional<double> SessionImports::askForOffset(const bmrawdata_v5& recording
 
 void SessionImports::joinTrack(bmrawdata_v5 recording, WatchTrack track, const QString& what) {
     const JoinedTrack joined = joinRecording(recording, track.track, track.offset);
-    if (joined.fixes > 0 || joined.heart > 0) {
-        m_edits.takeAnalysed(what,
-                             m_conversion.analysed(std::move(recording), m_document.value().mount));
-        m_track = std::move(track);
+    if (joined.fixes == 0 && joined.heart == 0) {
+        tell({}, joinedText(joined));
+        return;
     }
-    tell({}, joinedText(joined));
+    m_conversion.analyse(
+        std::move(recording), m_document.value().mount,
+        [this, what, joined, track = std::move(track)](EditedSession again) {
+            m_edits.takeAnalysed(what, std::move(again));
+            m_track = track;
+            tell({}, joinedText(joined));
+        },
+        [this](const std::exception_ptr& fault) {
+            tell(conversion_messages::NotConverted, QString::fromStdString(messageOf(fault)));
+        });
 }
 
 void SessionImports::askForPowerMeter() {

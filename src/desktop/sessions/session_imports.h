@@ -7,6 +7,7 @@
 
 #include <functional>
 #include <optional>
+#include <vector>
 
 class QWidget;
 
@@ -64,6 +65,7 @@ private:
         }
     };
 
+    void takeInEach(std::vector<ImportedFile> files);
     void takeIn(ImportedFile file);
     void showRecording(bmrawdata_v5 recording, const QString& path);
     void join(ImportedTrack track);

@@ -17,7 +17,6 @@
 #include "desktop/shell/scroll_page.h"
 #include "desktop/shell/workspace.h"
 
-#include <QCloseEvent>
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
@@ -26,6 +25,8 @@
 #include <QPushButton>
 #include <QStackedWidget>
 #include <QStatusBar>
+
+#include <utility>
 
 namespace kavela::desktop {
 
@@ -102,20 +103,28 @@ void SessionWindow::begin(EditedSession session, const QString& recording, const
     m_replay->setMoment(m_replay->from());
 }
 
-bool SessionWindow::open(const QString& wanted) {
-    if (m_conversion->isBusy() || !mayLeave())
-        return false;
-    QString path = wanted;
-    std::optional<EditedSession> session = m_conversion->read(path);
-    if (!session)
-        return false;
-    if (!session->recording) {
-        begin(std::move(*session), {}, path);
-        return true;
+bool SessionWindow::open(const QString& path) {
+    openBeside(path, [](bool) {});
+    return isBusy();
+}
+
+void SessionWindow::openBeside(const QString& wanted, const Opened& opened) {
+    if (isBusy() || !mayLeave()) {
+        opened(false);
+        return;
     }
-    begin(std::move(*session), QFileInfo(path).absoluteFilePath(), proposedPath(path));
-    workspace().addRecentFile(m_recordingPath);
-    return true;
+    m_conversion->read(
+        wanted,
+        [this, opened](EditedSession session, const QString& path) {
+            if (session.recording) {
+                begin(std::move(session), QFileInfo(path).absoluteFilePath(), proposedPath(path));
+                workspace().addRecentFile(m_recordingPath);
+            } else {
+                begin(std::move(session), {}, path);
+            }
+            opened(true);
+        },
+        [opened] { opened(false); });
 }
 
 void SessionWindow::startNew(const QString& path) {
@@ -125,13 +134,6 @@ void SessionWindow::startNew(const QString& path) {
 void SessionWindow::showSession() {
     m_view->show(m_document->value());
     m_pages->setCurrentIndex(m_document->hasSession() ? 1 : 0);
-}
-
-void SessionWindow::closeEvent(QCloseEvent* event) {
-    if (m_conversion->isBusy())
-        event->ignore();
-    else
-        ToolWindow::closeEvent(event);
 }
 
 void SessionWindow::changeEvent(QEvent* event) {
@@ -170,15 +172,15 @@ void SessionWindow::dropEvent(QDropEvent* event) {
 
 /// The kind of a file decides, not the side it fell on.
 void SessionWindow::takeFiles(const QStringList& paths) {
-    if (m_conversion->isBusy())
+    if (isBusy())
         return;
     QStringList others;
     for (const QString& path : paths) {
         const QString suffix = QFileInfo(path).suffix().toLower();
         if (isPowerMeterList(path))
-            m_imports->importPowerMeter(path);
+            m_conversion->whenFree([this, path] { m_imports->importPowerMeter(path); });
         else if (isImportable(path))
-            m_imports->importFrom({path});
+            m_conversion->whenFree([this, path] { m_imports->importFrom({path}); });
         else if (QStringList{"kvb", "sbm", "bms"}.contains(suffix) && paths.size() == 1)
             (void)open(path); // told there
         else

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "desktop/sessions/session_conversion.h"
 #include "desktop/sessions/session_document.h"
 #include "desktop/shell/tool_window.h"
 
@@ -13,7 +14,6 @@ namespace kavela::desktop {
 
 class DropAreas;
 class Replay;
-class SessionConversion;
 class SessionEdits;
 class SessionExports;
 class SessionImports;
@@ -29,9 +29,14 @@ public:
     SessionWindow(Workspace& workspace, Autosave autosave);
     ~SessionWindow() override;
 
-    /// Opens a recording (.kvb), which is converted, or a processed session (.sbm, .bms). False,
-    /// after an alert, when it cannot be opened; what was open then stays.
-    [[nodiscard]] bool open(const QString& wanted) override;
+    /// Begins to open a recording (.kvb), which is converted, or a processed session (.sbm, .bms):
+    /// it is read beside the window, which is locked meanwhile. False when the window is at work
+    /// or keeps what it has.
+    [[nodiscard]] bool open(const QString& path) override;
+    /// The same; false is told, after an alert, when it cannot be opened. What was open then stays.
+    void openBeside(const QString& path, const Opened& opened) override;
+    /// A file is being read or analysed.
+    [[nodiscard]] bool isBusy() const { return m_conversion->isBusy(); }
     /// An empty window, for files to be dropped on; work that was kept for this path is offered.
     void startNew(const QString& path) override;
 
@@ -63,7 +68,6 @@ public:
     void removeCurrent();
 
 protected:
-    void closeEvent(QCloseEvent* event) override;
     void changeEvent(QEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void dragEnterEvent(QDragEnterEvent* event) override;

@@ -2,6 +2,7 @@
 
 #include "common/error.h"
 #include "common/safe_file.h"
+#include "desktop/shell/background_work.h"
 #include "desktop/shell/disk_worker.h"
 #include "desktop/shell/file_names.h"
 
@@ -35,14 +36,6 @@ std::optional<std::string> contentOf(const QString& path) {
     if (!file.open(QIODevice::ReadOnly))
         return std::nullopt;
     return file.readAll().toStdString();
-}
-
-std::string messageOf(const std::exception_ptr& fault) {
-    try {
-        std::rethrow_exception(fault);
-    } catch (const std::exception& error) {
-        return error.what();
-    }
 }
 
 void move(const QString& from, const QString& to) {
@@ -104,11 +97,11 @@ QString Autosave::slot(const QString& path) const {
 
 void Autosave::keep(const Label& label, Content content, QObject* context, Failed failed) const {
     disk::run(
-        context,
+        *context,
         [slot = slot(label.path), label, content = std::move(content)] {
             write(slot, label, content);
         },
-        [failed = std::move(failed)](std::exception_ptr fault) {
+        [failed = std::move(failed)](const std::exception_ptr& fault) {
             if (fault)
                 failed(messageOf(fault));
         });

@@ -36,7 +36,8 @@ bool endsTyping(const QWidget& editor, const QEvent& event) {
 
 } // namespace
 
-CellDelegate::CellDelegate(QAbstractItemView& view) : QStyledItemDelegate(&view), m_view(view) {
+CellDelegate::CellDelegate(QAbstractItemView& view)
+    : QStyledItemDelegate(&view), m_view(view), m_viewport(view.viewport()) {
     view.setItemDelegate(this);
     view.viewport()->installEventFilter(this);
 }
@@ -78,7 +79,7 @@ void CellDelegate::refuse(const QString& reason) {
 
 /// The text goes to the model before the base class closes the editor over it.
 bool CellDelegate::eventFilter(QObject* object, QEvent* event) {
-    const bool isInTable = object == m_view.viewport();
+    const bool isInTable = object == m_viewport;
     if (isInTable) {
         // A click on another cell would close the editor.
         const bool isHeld = m_editor && isRefused(*m_editor);

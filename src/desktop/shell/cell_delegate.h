@@ -29,6 +29,7 @@ protected:
 
 private:
     QAbstractItemView& m_view;
+    const QObject* m_viewport; ///< known here too: the view is no view any more when it goes
     mutable QPointer<QWidget> m_editor;   ///< the one that was opened last
     mutable bool m_isHandingOver = false; ///< its text is on the way to the model
     mutable bool m_isRefused = false;

@@ -1,8 +1,8 @@
 #include "desktop/shell/disk_worker.h"
 
+#include "desktop/shell/background_work.h"
+
 #include <QCoreApplication>
-#include <QMetaObject>
-#include <QPointer>
 #include <QThreadPool>
 
 #include <utility>
@@ -26,33 +26,15 @@ QThreadPool& worker() {
 
 } // namespace
 
-std::exception_ptr faultOf(const std::function<void()>& task) {
-    try {
-        task();
-        return nullptr;
-    } catch (...) {
-        return std::current_exception();
-    }
-}
-
 void run(std::function<void()> task) {
     worker().start([task = std::move(task)] { (void)faultOf(task); });
 }
 
-/// Whether the context is still there is asked on its own thread, where it cannot go meanwhile.
-void run(QObject* context, std::function<void()> task,
-         std::function<void(std::exception_ptr fault)> done) {
-    worker().start(
-        [task = std::move(task), done = std::move(done), context = QPointer(context)]() mutable {
-            const std::exception_ptr fault = faultOf(task);
-            QMetaObject::invokeMethod(
-                QCoreApplication::instance(),
-                [done = std::move(done), context = std::move(context), fault] {
-                    if (context)
-                        done(fault);
-                },
-                Qt::QueuedConnection);
-        });
+void run(QObject& context, std::function<void()> task,
+         std::function<void(const std::exception_ptr& fault)> done) {
+    runInPool(
+        worker(), context, [task = std::move(task)](const WorkSteps&) { task(); },
+        [done = std::move(done)](const WorkEnd& end) { done(end.fault); });
 }
 
 void waitForAll() {

@@ -9,16 +9,13 @@ class QObject;
 /// order in which they were given: what is forgotten after it was kept stays forgotten.
 namespace kavela::desktop::disk {
 
-/// What a task throws, or null: so that another thread can tell it.
-[[nodiscard]] std::exception_ptr faultOf(const std::function<void()>& task);
-
 /// What a task throws is lost: it has to tell by itself.
 void run(std::function<void()> task);
 
 /// `done` is called on the interface thread, as long as `context` is there, with what the task
 /// threw, or null.
-void run(QObject* context, std::function<void()> task,
-         std::function<void(std::exception_ptr fault)> done);
+void run(QObject& context, std::function<void()> task,
+         std::function<void(const std::exception_ptr& fault)> done);
 
 /// Returns once every task given so far has run. What they have to tell may still be on its way.
 void waitForAll();

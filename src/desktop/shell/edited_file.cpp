@@ -3,6 +3,7 @@
 #include "common/error.h"
 #include "common/kept_file.h"
 #include "common/safe_file.h"
+#include "desktop/shell/background_work.h"
 #include "desktop/shell/disk_worker.h"
 #include "desktop/shell/file_names.h"
 #include "desktop/shell/workspace.h"
@@ -197,7 +198,7 @@ void EditedFile::tellNotWritten(const std::string& reason, QWidget* over) const 
 }
 
 bool EditedFile::written(const std::function<void()>& write, QWidget* over) const {
-    const std::exception_ptr fault = disk::faultOf(write);
+    const std::exception_ptr fault = faultOf(write);
     if (fault)
         tellNotWritten(reasonOf(fault), over);
     return !fault;
@@ -318,12 +319,12 @@ std::shared_ptr<EditedFile::Writing> EditedFile::write(const QString& path, QWid
     m_writing = writing;
     const auto task = [writing, content = contentNow(), beside = besideNow()] {
         const std::filesystem::path file = writing->path.toStdString();
-        writing->fault = disk::faultOf([&] { writeFileSafely(file, content()); });
+        writing->fault = faultOf([&] { writeFileSafely(file, content()); });
         writing->written = FileStamp(writing->path);
         if (!writing->fault && beside)
-            writing->besideFault = disk::faultOf([&] { beside(file); });
+            writing->besideFault = faultOf([&] { beside(file); });
     };
-    disk::run(this, task,
+    disk::run(*this, task,
               [this, writing](const std::exception_ptr&) { (void)finish(*writing, false); });
     emit savingChanged();
     return writing;
@@ -405,21 +406,36 @@ bool EditedFile::saveAs(const QString& path, QWidget* over) {
     return !target.isEmpty() && waitFor(write(target, over, {}));
 }
 
-bool EditedFile::mayLeave(QWidget* over, const std::function<bool()>& save) {
-    if (m_writing)
-        (void)waitFor(m_writing);
+void EditedFile::whenWritten(std::function<void()> then) {
+    if (!m_writing) {
+        then();
+        return;
+    }
+    // Where it was written again after a failure, that is waited for too.
+    m_writing->next.push_back(
+        [this, then = std::move(then)]() mutable { whenWritten(std::move(then)); });
+}
+
+EditedFile::Leave EditedFile::askToLeave(QWidget* over) {
     if (m_undo.isClean())
-        return mayLeaveMore(over);
+        return mayLeaveMore(over) ? Leave::Now : Leave::Not;
     switch (m_workspace.askToSave(title(), over)) {
     case Workspace::Leaving::Save:
-        return save() && mayLeaveMore(over);
+        return Leave::AfterSaving;
     case Workspace::Leaving::Discard:
         discard();
-        return true;
+        return Leave::Now;
     case Workspace::Leaving::Stay:
         break;
     }
-    return false;
+    return Leave::Not;
+}
+
+bool EditedFile::mayLeave(QWidget* over, const std::function<bool()>& save) {
+    if (m_writing)
+        (void)waitFor(m_writing);
+    const Leave leave = askToLeave(over);
+    return leave == Leave::Now || (leave == Leave::AfterSaving && save() && mayLeaveSaved(over));
 }
 
 void EditedFile::discard() {

@@ -60,10 +60,20 @@ public:
     [[nodiscard]] bool saveAs(const QString& path, QWidget* over);
     void saveAsBeside(const QString& path, QWidget* over, Saved saved = {});
     [[nodiscard]] bool isSaving() const { return m_writing != nullptr; }
+    /// Calls once what is being written is written, or could not be.
+    void whenWritten(std::function<void()> then);
+    /// Nothing was edited since it was written or read last.
+    [[nodiscard]] bool isAsWritten() const { return m_edits == m_editsThen; }
 
     /// Whether the document may give way to another one, or to none: asks what becomes of unsaved
     /// work, and does it. `save` is how the window saves, which may have to ask for a name.
     [[nodiscard]] bool mayLeave(QWidget* over, const std::function<bool()>& save);
+    enum class Leave { Now, AfterSaving, Not };
+    /// The same without waiting, while nothing is being written. After saving, the rest is to be
+    /// asked with mayLeaveSaved().
+    [[nodiscard]] Leave askToLeave(QWidget* over);
+    /// What is left to be asked once the work is in the file.
+    [[nodiscard]] bool mayLeaveSaved(QWidget* over) { return mayLeaveMore(over); }
     /// Gives up what was not saved; it stays aside for a change of mind.
     void discard();
     /// Keeps the work now, as before the program ends.

@@ -1,44 +1,37 @@
 #include "desktop/shell/file_copy.h"
 
-#include <QCoreApplication>
+#include "desktop/shell/background_work.h"
+
+#include <QByteArray>
 #include <QFile>
-#include <QFileInfo>
-#include <QProgressDialog>
 
 namespace kavela::desktop {
 
 namespace {
 
-constexpr qint64 Piece = 4 << 20;
+/// Small enough for a stick that writes a few megabytes in a second to be cancelled at once.
+constexpr qint64 Piece = 1 << 20;
 
-/// Copies piece by piece, asking `goesOn` after each.
-template <class GoesOn>
-CopyEnd copyPieces(QFile& source, QFile& target, GoesOn goesOn) {
+CopyEnd copyPieces(QFile& source, QFile& target, const WorkSteps& steps) {
     while (!source.atEnd()) {
+        if (steps.isCancelled())
+            return CopyEnd::Cancelled;
         const QByteArray piece = source.read(Piece);
         if (piece.isEmpty() || target.write(piece) != piece.size())
             return CopyEnd::Failed;
-        if (!goesOn(source.pos()))
-            return CopyEnd::Cancelled;
+        steps.tellProgress(source.pos(), source.size());
     }
     return target.flush() ? CopyEnd::Done : CopyEnd::Failed;
 }
 
 } // namespace
 
-CopyEnd copyFile(const QString& from, const QString& to, QWidget* over) {
+CopyEnd copyFile(const QString& from, const QString& to, const WorkSteps& steps) {
     QFile source(from);
     QFile target(to + ".part");
     if (!source.open(QIODevice::ReadOnly) || !target.open(QIODevice::WriteOnly))
         return CopyEnd::Failed;
-    QProgressDialog progress(QObject::tr("Copying %1").arg(QFileInfo(from).fileName()),
-                             QObject::tr("Cancel"), 0, 1000, over);
-    progress.setWindowModality(Qt::WindowModal);
-    const CopyEnd end = copyPieces(source, target, [&](qint64 done) {
-        progress.setValue(static_cast<int>(done * 1000 / std::max<qint64>(source.size(), 1)));
-        QCoreApplication::processEvents(QEventLoop::AllEvents, 5);
-        return !progress.wasCanceled();
-    });
+    const CopyEnd end = copyPieces(source, target, steps);
     target.close();
     if (end == CopyEnd::Done && target.rename(to))
         return CopyEnd::Done;

@@ -2,14 +2,14 @@
 
 #include <QString>
 
-class QWidget;
-
 namespace kavela::desktop {
+
+class WorkSteps;
 
 enum class CopyEnd { Done, Cancelled, Failed };
 
-/// Copies a large file with a progress bar and a Cancel button. The copy has its name only once it
-/// is whole; an existing file is never replaced.
-[[nodiscard]] CopyEnd copyFile(const QString& from, const QString& to, QWidget* over);
+/// Copies a large file, as a piece of work beside the window. The copy has its name only once it is
+/// whole; an existing file is never replaced.
+[[nodiscard]] CopyEnd copyFile(const QString& from, const QString& to, const WorkSteps& steps);
 
 } // namespace kavela::desktop

@@ -131,6 +131,12 @@ KeyEditor::KeyEditor(std::vector<KeyBinding> bindings, Workspace& workspace, QSt
     resize(560, 560);
 }
 
+/// A field that goes with the cursor in it ends its editing once more.
+KeyEditor::~KeyEditor() {
+    for (QKeySequenceEdit* const edit : m_edits)
+        edit->disconnect(this);
+}
+
 std::optional<std::size_t> KeyEditor::ownerOf(const QKeySequence& key, std::size_t but) const {
     for (std::size_t i = 0; i < m_bindings.size(); ++i)
         if (i != but && !key.isEmpty() && m_bindings[i].action->shortcuts().contains(key))

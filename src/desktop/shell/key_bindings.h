@@ -35,6 +35,7 @@ class KeyEditor : public QDialog {
 public:
     KeyEditor(std::vector<KeyBinding> bindings, Workspace& workspace, QString kind,
               QWidget* parent);
+    ~KeyEditor() override;
 
     /// Gives an action a key, empty for none. A key that another action has is refused: its name is
     /// returned.

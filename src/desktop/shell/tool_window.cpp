@@ -15,6 +15,7 @@
 #include <QFileInfo>
 #include <QLabel>
 #include <QMenuBar>
+#include <QMetaObject>
 #include <QToolBar>
 
 #include <utility>
@@ -50,10 +51,10 @@ QMenu* ToolWindow::makeFileMenu(FileCommands commands) {
     if (!m_file)
         return m_fileMenu;
     m_fileMenu->addAction(commands.saveText.isEmpty() ? tr("&Save") : commands.saveText,
-                          QKeySequence::Save, this, &ToolWindow::saveBeside);
+                          QKeySequence::Save, this, [this] { saveBeside(); });
     if (commands.canSaveAs)
         m_fileMenu->addAction(tr("Save &as…"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S), this,
-                              [this] { saveAs(); });
+                              [this] { saveAsBeside(); });
     m_fileMenu->addSeparator();
     return m_fileMenu;
 }
@@ -135,10 +136,12 @@ void ToolWindow::openAgain() {
     const bool wasDirty = m_file->isDirty();
     if (wasDirty)
         m_file->discard(); // or opening would offer it
-    if (open(m_file->path()))
-        m_note->hide();
-    else if (wasDirty)
-        m_file->undoStack().resetClean(); // it is still here, and unsaved
+    openBeside(m_file->path(), [this, wasDirty](bool isOpen) {
+        if (isOpen)
+            m_note->hide();
+        else if (wasDirty)
+            m_file->undoStack().resetClean(); // it is still here, and unsaved
+    });
 }
 
 void ToolWindow::finishMenus(std::function<Commands()> more) {
@@ -188,11 +191,27 @@ bool ToolWindow::saveAs() {
     return !path.isEmpty() && noteSaved(m_file->saveAs(path, this));
 }
 
-void ToolWindow::saveBeside() {
+void ToolWindow::saveBeside(Saved saved) {
     if (!m_file->isNamed())
-        saveAs();
-    else if (commit() && mayWrite())
-        m_file->saveBeside(this, [this](bool isSaved) { noteSaved(isSaved); });
+        saveAsBeside(std::move(saved));
+    else
+        writeBeside([this] { return m_file->path(); }, std::move(saved));
+}
+
+void ToolWindow::saveAsBeside(Saved saved) {
+    writeBeside([this] { return chooseName(); }, std::move(saved));
+}
+
+void ToolWindow::writeBeside(const std::function<QString()>& where, Saved saved) {
+    const QString path = commit() && mayWrite() ? where() : QString();
+    if (!path.isEmpty())
+        m_file->saveAsBeside(path, this, [this, saved = std::move(saved)](bool isSaved) {
+            noteSaved(isSaved);
+            if (saved)
+                saved(isSaved);
+        });
+    else if (saved)
+        saved(false);
 }
 
 QString ToolWindow::chooseName() {
@@ -204,11 +223,86 @@ QString ToolWindow::chooseName() {
 }
 
 bool ToolWindow::mayLeave() {
-    return commit() && (!m_file || m_file->mayLeave(this, [this] { return save(); }));
+    return !m_isClosing && commit() &&
+           (!m_file || m_file->mayLeave(this, [this] { return save(); }));
 }
 
 void ToolWindow::closeEvent(QCloseEvent* event) {
-    event->setAccepted(mayLeave());
+    event->ignore();
+    if (m_isClosing)
+        return;
+    switch (mayClose()) {
+    case EditedFile::Leave::Now:
+        event->accept();
+        emit closed();
+        break;
+    case EditedFile::Leave::AfterSaving: // told when it is written
+        break;
+    case EditedFile::Leave::Not:
+        emit stayed();
+        break;
+    }
+}
+
+/// A window that is not enabled is one that a piece of work is shown over.
+EditedFile::Leave ToolWindow::mayClose() {
+    const bool isSaved = std::exchange(m_isSavedForIt, false);
+    if (!isEnabled() || !commit())
+        return EditedFile::Leave::Not;
+    if (!m_file)
+        return EditedFile::Leave::Now;
+    if (m_file->isSaving()) { // by a key: what is left after it is asked for
+        showClosing(true);
+        m_file->whenWritten([this] { closeLater(); });
+        return EditedFile::Leave::AfterSaving;
+    }
+    if (isSaved && m_file->isAsWritten())
+        return m_file->mayLeaveSaved(this) ? EditedFile::Leave::Now : EditedFile::Leave::Not;
+    const EditedFile::Leave leave = m_file->askToLeave(this);
+    if (leave == EditedFile::Leave::AfterSaving) {
+        showClosing(true);
+        saveBeside([this](bool isWritten) { closeAfter(isWritten); });
+    }
+    return leave;
+}
+
+/// Maybe from within mayClose(), where nothing was to be written.
+void ToolWindow::closeAfter(bool isSaved) {
+    m_isSavedForIt = isSaved;
+    if (isSaved) {
+        closeLater();
+        return;
+    }
+    showClosing(false);
+    emit stayed();
+}
+
+/// Not from within what tells of the file's end, which goes with the window.
+void ToolWindow::closeLater() {
+    QMetaObject::invokeMethod(
+        this,
+        [this] {
+            showClosing(false);
+            close();
+        },
+        Qt::QueuedConnection);
+}
+
+void ToolWindow::showClosing(bool isClosing) {
+    m_isClosing = isClosing;
+    if (!isClosing && !m_closingNote)
+        return;
+    if (!m_closingNote) {
+        m_closingNote = new QToolBar;
+        m_closingNote->setObjectName("closingNote");
+        m_closingNote->setMovable(false);
+        m_closingNote->toggleViewAction()->setVisible(false);
+        auto* const text = new QLabel(tr("Saving… The window closes when the file is written."));
+        text->setMargin(theme::SmallSpacing);
+        m_closingNote->addWidget(text);
+        addToolBar(m_closingNote);
+    }
+    m_closingNote->setVisible(isClosing);
 }
 
 void ToolWindow::dragEnterEvent(QDragEnterEvent* event) {

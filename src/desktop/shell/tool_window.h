@@ -1,6 +1,7 @@
 #pragma once
 
 #include "desktop/shell/command_palette.h"
+#include "desktop/shell/edited_file.h"
 
 #include <QMainWindow>
 
@@ -16,7 +17,6 @@ struct Place;
 
 namespace kavela::desktop {
 
-class EditedFile;
 class Workspace;
 
 /// What every window of a tool does alike: its title with the mark of unsaved work, the menus File,
@@ -46,6 +46,10 @@ public:
     /// Opens a file, in place of what is shown or beside it. False, after an alert, when it cannot
     /// be opened; what is shown then stays.
     [[nodiscard]] virtual bool open(const QString& path) = 0;
+    /// Hears whether it is open, maybe at once.
+    using Opened = std::function<void(bool isOpen)>;
+    /// The same for whom reading a file may go on beside the window.
+    virtual void openBeside(const QString& path, const Opened& opened) { opened(open(path)); }
     /// Begins a document that has no file yet; the path is where it is to be saved.
     virtual void startNew(const QString& /*path*/) {}
 
@@ -56,8 +60,13 @@ public:
     /// disk yet. False when it was not written.
     bool save();
     bool saveAs();
+    /// Hears how saving ended: at once where nothing was to be written.
+    using Saved = std::function<void(bool isSaved)>;
     /// Saves as a key does: the window goes on meanwhile.
-    void saveBeside();
+    void saveBeside(Saved saved = {});
+    void saveAsBeside(Saved saved = {});
+    /// Whether it was asked to close and stays only until its work is in the file.
+    [[nodiscard]] bool isClosing() const { return m_isClosing; }
     void undo();
     void redo();
 
@@ -82,8 +91,14 @@ signals:
     void openRequested(const QStringList& paths);
     /// Where a number comes from is to be shown: its file at that run and frame.
     void placeRequested(const kavela::Place& place);
+    /// It is about to be gone; its paths are still those of its files.
+    void closed();
+    /// It was asked to close and stays, by the coach's choice or since its work was not written.
+    void stayed();
 
 protected:
+    /// Asks what becomes of unsaved work. Where it is to be saved, the window stays until it is
+    /// written, says so, and closes then; what was edited meanwhile is asked for again.
     void closeEvent(QCloseEvent* event) override;
     void dragEnterEvent(QDragEnterEvent* event) override;
     void dropEvent(QDropEvent* event) override;
@@ -99,12 +114,17 @@ protected:
     /// What Close in the File menu closes.
     virtual void closeFront() { close(); }
 
-    /// Whether the document may give way to another one, or to none: what is typed is taken, and
-    /// unsaved work is asked for.
+    /// Whether the document may give way to another one: what is typed is taken, and unsaved work
+    /// is asked for. No document takes the place of one that the window closes with.
     [[nodiscard]] bool mayLeave();
     [[nodiscard]] Workspace& workspace() const { return m_workspace; }
 
 private:
+    [[nodiscard]] EditedFile::Leave mayClose();
+    void closeAfter(bool isSaved);
+    void closeLater();
+    void showClosing(bool isClosing);
+    void writeBeside(const std::function<QString()>& where, Saved saved);
     [[nodiscard]] QString chooseName();
     bool noteSaved(bool isSaved);
     void chooseAndOpen();
@@ -119,6 +139,9 @@ private:
     QMenu* m_fileMenu = nullptr;
     QToolBar* m_note = nullptr;
     QLabel* m_noteText = nullptr;
+    QToolBar* m_closingNote = nullptr;
+    bool m_isClosing = false;    ///< what is being written is waited for
+    bool m_isSavedForIt = false; ///< it was written, and the window closes now
 };
 
 } // namespace kavela::desktop

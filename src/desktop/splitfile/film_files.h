@@ -3,6 +3,7 @@
 #include <QStringList>
 
 #include <functional>
+#include <memory>
 #include <optional>
 #include <utility>
 
@@ -10,6 +11,7 @@ class QWidget;
 
 namespace kavela::desktop {
 
+class FolderFilms;
 class TakingDocument;
 class Workspace;
 
@@ -21,6 +23,7 @@ public:
     FilmFiles(TakingDocument& document, Workspace& workspace, QWidget& window);
     FilmFiles(const FilmFiles&) = delete;
     FilmFiles& operator=(const FilmFiles&) = delete;
+    ~FilmFiles();
 
     /// Where files come from in place of the platform's dialogs, as in tests.
     using ChooseFiles = std::function<QStringList(const QString& title, const QString& filter)>;
@@ -31,8 +34,10 @@ public:
 
     [[nodiscard]] QStringList choose(const QString& title, const QString& filter) const;
     [[nodiscard]] QStringList chooseFilms(const QString& title) const;
-    /// The names of those that are in the folder of the document then.
-    [[nodiscard]] QStringList copied(const QStringList& films) const;
+    /// Copies films into the folder of the document, and tells the names of those that are there
+    /// then, when at least one is.
+    void copy(const QStringList& films,
+              const std::function<void(const QStringList&)>& copied) const;
 
     /// Asks in which folder the films are now, and finds them there by their names. Returns those
     /// that were not found; nothing when no folder was named, or `mayGoOn` refused.
@@ -40,10 +45,10 @@ public:
 
 private:
     TakingDocument& m_document;
-    Workspace& m_workspace;
     QWidget& m_window;
     ChooseFiles m_chooseFiles;
     ChooseFolder m_chooseFolder;
+    std::unique_ptr<FolderFilms> m_copies;
 };
 
 } // namespace kavela::desktop

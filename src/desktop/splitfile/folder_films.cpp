@@ -6,6 +6,8 @@
 #include <QFileInfo>
 #include <QObject>
 
+#include <utility>
+
 namespace kavela::desktop {
 
 QString videoFilter() {
@@ -13,30 +15,51 @@ QString videoFilter() {
                        "*.mpg);;All files (*)");
 }
 
-QStringList copiedIntoFolder(const QString& folder, const QStringList& files, Workspace& workspace,
-                             QWidget* over) {
+/// What is left to be copied, and what is there.
+struct FolderFilms::Copying {
+    QString folder;
+    QStringList files;
     QStringList names;
-    for (const QString& file : files) {
-        const QFileInfo source(file);
-        const QFileInfo target(folder + '/' + source.fileName());
-        const bool isOther = target.exists() && target.size() != source.size();
-        const CopyEnd end = isOther           ? CopyEnd::Failed
-                            : target.exists() ? CopyEnd::Done
-                                              : copyFile(file, target.filePath(), over);
-        if (end == CopyEnd::Cancelled)
-            return names;
-        if (end == CopyEnd::Done)
-            names.append(source.fileName());
+    Copied copied;
+};
+
+void FolderFilms::copy(const QString& folder, const QStringList& files, const Copied& copied) {
+    copyNext({folder, files, {}, copied});
+}
+
+void FolderFilms::copyNext(Copying copying) {
+    while (!copying.files.isEmpty()) {
+        const QFileInfo source(copying.files.takeFirst());
+        const QFileInfo target(copying.folder + '/' + source.fileName());
+        if (!target.exists())
+            return copyOne(source.filePath(), target.filePath(), std::move(copying));
+        if (target.size() == source.size())
+            copying.names.append(source.fileName());
         else
-            workspace.showAlert(
-                {"", (isOther ? QObject::tr("The folder has another film named %1 already. Give "
-                                            "one of them another name first.")
-                              : QObject::tr("%1 could not be copied into the folder."))
-                         .arg(source.fileName())
-                         .toStdString()},
-                over);
+            tellFailure(QObject::tr("The folder has another film named %1 already. Give one of "
+                                    "them another name first."),
+                        source.fileName());
     }
-    return names;
+    copying.copied(copying.names);
+}
+
+void FolderFilms::copyOne(const QString& from, const QString& to, Copying copying) {
+    const QString name = QFileInfo(from).fileName();
+    m_work.runOver(
+        {&m_over, QObject::tr("Copying %1").arg(name), true},
+        [from, to](const WorkSteps& steps) { return copyFile(from, to, steps); },
+        [this, name, copying](CopyEnd end) mutable {
+            if (end == CopyEnd::Done)
+                copying.names.append(name);
+            else
+                tellFailure(QObject::tr("%1 could not be copied into the folder."), name);
+            copyNext(std::move(copying));
+        },
+        {.cancelled = [copying] { copying.copied(copying.names); }});
+}
+
+void FolderFilms::tellFailure(const QString& text, const QString& name) const {
+    m_workspace.showAlert({"", text.arg(name).toStdString()}, &m_over);
 }
 
 } // namespace kavela::desktop

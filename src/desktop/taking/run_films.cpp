@@ -129,39 +129,43 @@ void RunFilms::find() {
 void RunFilms::importFilms() {
     const QStringList files = m_desk.files.chooseFilms(tr("Import video"));
     if (!files.isEmpty() && m_desk.commit())
-        (void)m_desk.document.addFilms(m_desk.files.copied(files));
+        m_desk.files.copy(
+            files, [this](const QStringList& names) { (void)m_desk.document.addFilms(names); });
 }
 
 void RunFilms::addCamera() {
-    if (m_run < 0)
-        return;
-    const QStringList names =
-        m_desk.files.copied(m_desk.files.chooseFilms(tr("Add another camera of this run")));
-    if (names.isEmpty())
-        return;
-    m_desk.document.editRun(m_run, tr("camera added"), [&](athletedata031& run) {
+    if (m_run >= 0)
+        m_desk.files.copy(
+            m_desk.files.chooseFilms(tr("Add another camera of this run")),
+            [this, run = m_run](const QStringList& names) { addCameras(run, names); });
+}
+
+void RunFilms::addCameras(int place, const QStringList& names) {
+    m_desk.document.editRun(place, tr("camera added"), [&](athletedata031& run) {
         for (const QString& name : names)
             run.videoname.push_back(name.toStdString());
     });
 }
 
 void RunFilms::attachFixedCamera() {
-    if (m_run < 0)
-        return;
-    const QStringList names =
-        m_desk.files.copied(m_desk.files.chooseFilms(tr("Attach the film of a fixed camera")));
+    if (m_run >= 0)
+        m_desk.files.copy(
+            m_desk.files.chooseFilms(tr("Attach the film of a fixed camera")),
+            [this, run = m_run](const QStringList& names) { attachFixedFilms(run, names); });
+}
+
+void RunFilms::attachFixedFilms(int place, const QStringList& names) {
     QStringList added;
-    const auto& attached = m_desk.document.run(m_run).fixcameras;
+    const auto& attached = m_desk.document.run(place).fixcameras;
     for (const QString& name : names)
         if (std::ranges::find(attached, name.toStdString()) == attached.end())
             added.append(name);
     if (!added.isEmpty())
-        m_desk.document.editRun(m_run, tr("fixed camera attached"), [&](athletedata031& run) {
+        m_desk.document.editRun(place, tr("fixed camera attached"), [&](athletedata031& run) {
             for (const QString& name : added)
                 (void)kavela::attachFixedCamera(run, name.toStdString());
         });
-    if (!names.isEmpty())
-        m_desk.notes.showFixedFilm(names.front());
+    m_desk.notes.showFixedFilm(names.front());
 }
 
 } // namespace kavela::desktop

@@ -58,6 +58,8 @@ signals:
 private:
     [[nodiscard]] QStringList films() const;
     [[nodiscard]] std::optional<CMTime> start() const;
+    void addCameras(int place, const QStringList& names);
+    void attachFixedFilms(int place, const QStringList& names);
     void showBeside();
     void askForMissing();
     void align();

@@ -350,7 +350,7 @@ void TakingWindow::takeFiles(const QStringList& files) {
     if (!commit())
         return;
     if (!films.isEmpty())
-        (void)m_document.addFilms(m_files.copied(films));
+        m_files.copy(films, [this](const QStringList& names) { (void)m_document.addFilms(names); });
     if (!others.isEmpty())
         emit openRequested(others);
 }

@@ -13,7 +13,6 @@
 #include <QFileInfo>
 #include <QFrame>
 #include <QMimeData>
-#include <QProgressDialog>
 #include <QScrollArea>
 #include <QUrl>
 #include <QVBoxLayout>
@@ -107,20 +106,23 @@ void RankingPanel::takeFrom(const QStringList& paths) {
         emit refused(tr("There is no split file in it."));
         return;
     }
-    SplitStatistics found(athlete()->name, season()->year, m_workspace.log(), m_workspace.clock());
-    QProgressDialog progress(tr("Reading split files…"), tr("Cancel"), 0,
-                             static_cast<int>(files.size()), this);
-    progress.setWindowModality(Qt::WindowModal);
-    for (qsizetype i = 0; i < files.size(); ++i) {
-        progress.setValue(static_cast<int>(i));
-        if (progress.wasCanceled())
-            return;
-        found.read(files[i]);
-    }
-    progress.setValue(static_cast<int>(files.size()));
+    m_reading.runOver(
+        {this, tr("Reading split files…"), true},
+        [files, athlete = athlete()->name, year = season()->year, clock = m_workspace.clock()](
+            const WorkSteps& steps) { return readStatistics(files, athlete, year, clock, steps); },
+        [this, place = place()](const ReadStatistics& read) {
+            for (const std::string& line : read.log)
+                m_workspace.log()(line);
+            if (season() && place == this->place())
+                takeStatistics(read.statistics);
+        },
+        {.failed = [this](const std::exception_ptr& fault) {
+            emit refused(QString::fromStdString(messageOf(fault)));
+        }});
+}
+
+void RankingPanel::takeStatistics(const SplitStatistics& found) {
     const auto place = this->place();
-    if (!season())
-        return;
     statisticsplanning_v3 statistics = found.statistics();
     StatisticsDialog dialog(season()->statisticsdata, statistics, found.fileCount(),
                             found.leftOut(), this);

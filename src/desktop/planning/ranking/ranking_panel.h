@@ -1,11 +1,13 @@
 #pragma once
 
 #include "desktop/planning/season_panel.h"
+#include "desktop/shell/background_work.h"
 
 namespace kavela::desktop {
 
 class RacesSection;
 class RankingSection;
+class SplitStatistics;
 class Workspace;
 
 /// The athlete's ranking in a season, and the statistics of its races and penalties.
@@ -19,7 +21,8 @@ public:
     [[nodiscard]] RacesSection& races() const { return *m_races; }
 
     /// Makes the season's statistics from split files, and from those in folders, once the coach
-    /// has seen what was found and agrees. Files of another year are told and left out.
+    /// has seen what was found and agrees: they are read beside the window, which is locked
+    /// meanwhile. Files of another year are told and left out.
     void takeFrom(const QStringList& paths);
     void askForFiles();
     void askForFolder();
@@ -31,10 +34,12 @@ protected:
 
 private:
     void connectParts();
+    void takeStatistics(const SplitStatistics& found);
 
     Workspace& m_workspace;
     RankingSection* m_ranking;
     RacesSection* m_races;
+    BackgroundWork m_reading;
 };
 
 } // namespace kavela::desktop

@@ -1,5 +1,6 @@
 #include "desktop/planning/ranking/split_statistics.h"
 
+#include "desktop/shell/background_work.h"
 #include "planning/calendar_day.h"
 #include "planning/season_statistics.h"
 #include "splitdata/loader.h"
@@ -26,18 +27,14 @@ QString yearText(const splittakerdata031& file) {
 
 } // namespace
 
-SplitStatistics::SplitStatistics(std::string athlete, std::int64_t year, DiagnosticLog log,
-                                 Clock clock)
-    : m_athlete(std::move(athlete)),
-      m_year(year),
-      m_log(std::move(log)),
-      m_clock(std::move(clock)) {}
+SplitStatistics::SplitStatistics(std::string athlete, std::int64_t year, Clock clock)
+    : m_athlete(std::move(athlete)), m_year(year), m_clock(std::move(clock)) {}
 
-void SplitStatistics::read(const QString& path) {
+void SplitStatistics::read(const QString& path, const DiagnosticLog& log) {
     const auto leaveOut = [&](const QString& reason) {
         m_leftOut.push_back({QFileInfo(path).fileName(), reason});
     };
-    RecognisedSplitFile file = recogniseSplitFile(path.toStdString(), m_log, m_clock);
+    RecognisedSplitFile file = recogniseSplitFile(path.toStdString(), log, m_clock);
     if (!file.version)
         return leaveOut(tr("is no split file that can be read"));
     if (!isOfYear(file.document, calendarYear(m_year))) {
@@ -55,6 +52,17 @@ std::size_t SplitStatistics::runCountOf(const splittakerdata031& file) const {
 
 statisticsplanning_v3 SplitStatistics::statistics() const {
     return seasonStatistics(m_athlete, m_files);
+}
+
+ReadStatistics readStatistics(const QStringList& files, const std::string& athlete,
+                              std::int64_t year, const Clock& clock, const WorkSteps& steps) {
+    ReadStatistics read{SplitStatistics(athlete, year, clock), {}};
+    const DiagnosticLog log = [&](std::string_view line) { read.log.emplace_back(line); };
+    for (qsizetype i = 0; i < files.size() && !steps.isCancelled(); ++i) {
+        steps.tellProgress(i, files.size());
+        read.statistics.read(files[i], log);
+    }
+    return read;
 }
 
 QStringList splitFilesIn(const QStringList& paths) {

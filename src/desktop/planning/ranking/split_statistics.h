@@ -13,6 +13,8 @@
 
 namespace kavela::desktop {
 
+class WorkSteps;
+
 /// Statistics of an athlete's season from split files, which are only read; those of older releases
 /// are brought to the current one in memory.
 class SplitStatistics {
@@ -25,9 +27,10 @@ public:
         QString reason;
     };
 
-    SplitStatistics(std::string athlete, std::int64_t year, DiagnosticLog log, Clock clock);
+    SplitStatistics(std::string athlete, std::int64_t year, Clock clock);
 
-    void read(const QString& path);
+    /// The log is written at once.
+    void read(const QString& path, const DiagnosticLog& log);
 
     /// What was found so far.
     [[nodiscard]] statisticsplanning_v3 statistics() const;
@@ -39,11 +42,21 @@ private:
 
     std::string m_athlete;
     std::int64_t m_year;
-    DiagnosticLog m_log;
     Clock m_clock;
     std::vector<splittakerdata031> m_files;
     std::vector<LeftOut> m_leftOut;
 };
+
+/// What was read beside the window, with the lines that belong into its log.
+struct ReadStatistics {
+    SplitStatistics statistics;
+    std::vector<std::string> log;
+};
+
+/// Reads the files one after the other until it is cancelled.
+[[nodiscard]] ReadStatistics readStatistics(const QStringList& files, const std::string& athlete,
+                                            std::int64_t year, const Clock& clock,
+                                            const WorkSteps& steps);
 
 /// The files themselves, and the split files within the folders, in order of their names.
 [[nodiscard]] QStringList splitFilesIn(const QStringList& paths);

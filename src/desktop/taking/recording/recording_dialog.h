@@ -98,7 +98,7 @@ private:
     std::optional<ClockFit> m_fit;
     double m_cursor = 0;
     int m_wanted = 0; ///< counts the files that were to be read: only the last one counts
-    BackgroundWork m_work{*this};
+    BackgroundWork m_work;
 
     QLabel* m_title;
     QLabel* m_whose; ///< athlete and day of the recording, and of the run

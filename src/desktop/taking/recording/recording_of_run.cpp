@@ -58,8 +58,11 @@ void RecordingOfRun::tellFailure(const QString& title, const QString& reason) {
 }
 
 void RecordingOfRun::convertOlder(const QString& path) {
-    if (const auto converted = convertOlderRecording(path, m_desk.workspace, this))
-        load(*converted);
+    convertOlderRecording(path, m_desk.workspace, this, m_converting,
+                          [this](const std::optional<QString>& converted) {
+                              if (converted)
+                                  load(*converted);
+                          });
 }
 
 } // namespace kavela::desktop

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "desktop/shell/background_work.h"
 #include "desktop/taking/recording/recording_dialog.h"
 
 #include <functional>
@@ -34,6 +35,7 @@ private:
     void convertOlder(const QString& path);
 
     Desk m_desk;
+    BackgroundWork m_converting;
 };
 
 } // namespace kavela::desktop
