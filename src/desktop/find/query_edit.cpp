@@ -134,7 +134,9 @@ bool QueryEdit::event(QEvent* event) {
 void QueryEdit::keyPressEvent(QKeyEvent* event) {
     const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
     const bool isChosen = isOpen() && m_completer->popup()->currentIndex().isValid();
-    if (isOpen() && ((isEnter && isChosen) || event->key() == Qt::Key_Escape)) {
+    if (isOpen() && event->key() == Qt::Key_Escape)
+        return m_completer->popup()->hide();
+    if (isEnter && isChosen) {
         event->ignore(); // the list takes it
         return;
     }
