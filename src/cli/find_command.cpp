@@ -5,6 +5,7 @@
 #include "cli/find_text.h"
 #include "common/error.h"
 #include "common/safe_file.h"
+#include "facts/found_text.h"
 #include "results/name_likeness.h"
 
 #include <algorithm>

@@ -3,6 +3,7 @@
 #include "common/display_text.h"
 #include "common/json_encode.h"
 #include "common/number_text.h"
+#include "facts/found_text.h"
 
 #include <algorithm>
 #include <array>
@@ -11,43 +12,6 @@
 namespace kavela::cli {
 
 namespace {
-
-/// What tells where a row is to be seen, in the order of its columns.
-constexpr std::array<std::string_view, 5> PlaceTitles{"file", "run", "split", "film", "at"};
-
-struct PlaceTexts {
-    std::string file;
-    std::string run;
-    std::string split;
-    std::string film;
-    std::string at;
-
-    [[nodiscard]] std::array<std::string, 5> all() const { return {file, run, split, film, at}; }
-};
-
-std::string filmOf(const FactStore& facts, const FoundPlace& place) {
-    const auto films = facts.filmsOf(facts.runs()[place.run]);
-    return place.film < films.size() ? validUtf8(facts.text(films[place.film])) : std::string();
-}
-
-PlaceTexts placeTexts(const QueryAnswer& answer, std::size_t row) {
-    const FoundPlace place = answer.place(row);
-    const RunRow& run = answer.facts().runs()[place.run];
-    PlaceTexts texts;
-    texts.file = pathText(answer.facts().pathOf(run));
-    texts.run = std::to_string(run.number);
-    if (place.section)
-        texts.split = std::to_string(*place.section);
-    texts.film = filmOf(answer.facts(), place);
-    if (!std::isnan(place.at))
-        texts.at = plainText(place.at);
-    return texts;
-}
-
-bool isRight(const FoundColumn& column) {
-    return column.isFigure || !column.column || column.column->kind == ColumnKind::Number ||
-           column.column->kind == ColumnKind::Measure;
-}
 
 /// A column of the printed table.
 struct Printed {
@@ -74,7 +38,7 @@ std::string oneLine(std::string text) {
 std::vector<Printed> printedColumns(const QueryAnswer& answer) {
     std::vector<Printed> columns;
     for (const FoundColumn& column : answer.columns())
-        columns.push_back({column.name, isRight(column), {}});
+        columns.push_back({column.name, isNumber(column), {}});
     columns.push_back({"run", true, {}});
     columns.push_back({"at", true, {}});
     columns.push_back({"file", false, {}});
@@ -82,7 +46,7 @@ std::vector<Printed> printedColumns(const QueryAnswer& answer) {
         for (std::size_t i = 0; i < answer.columns().size(); ++i)
             columns[i].texts.push_back(oneLine(answer.text(row, i)));
         const FoundPlace place = answer.place(row);
-        const PlaceTexts texts = placeTexts(answer, row);
+        const FoundPlaceTexts texts = foundPlaceTexts(answer, row);
         columns[columns.size() - 3].texts.push_back(texts.run);
         columns[columns.size() - 2].texts.push_back(
             std::isnan(place.at) ? std::string() : hundredthsText(place.at));
@@ -114,21 +78,16 @@ std::string jsonValue(const QueryAnswer& answer, std::size_t row, std::size_t co
         return encode(validUtf8(answer.facts().text(value.text)));
     if (std::isnan(value.number))
         return "null";
-    return isRight(asked) ? encode(value.number) : encode(answer.text(row, column));
+    return isNumber(asked) ? encode(value.number) : encode(answer.text(row, column));
 }
 
 std::string jsonPlace(const QueryAnswer& answer, std::size_t row) {
-    const PlaceTexts texts = placeTexts(answer, row);
+    const FoundPlaceTexts texts = foundPlaceTexts(answer, row);
     const auto orNull = [](const std::string& number) { return number.empty() ? "null" : number; };
     return "\"file\":" + encode(texts.file) + ",\"run\":" + texts.run +
            ",\"split\":" + orNull(texts.split) +
            ",\"film\":" + (texts.film.empty() ? "null" : encode(texts.film)) +
            ",\"at\":" + orNull(texts.at);
-}
-
-/// A column that a place has too would stand twice in one row.
-bool isOfPlace(const FoundColumn& column) {
-    return std::ranges::count(PlaceTitles, column.name) > 0;
 }
 
 std::string scannedJson(const FolderScan& scan) {
@@ -142,15 +101,6 @@ std::string scannedJson(const FolderScan& scan) {
 }
 
 } // namespace
-
-std::string csvField(const std::string& text) {
-    if (text.find_first_of(";\"\n\r") == std::string::npos)
-        return text;
-    std::string quoted = "\"";
-    for (const char c : text)
-        quoted += c == '"' ? std::string(2, c) : std::string(1, c);
-    return quoted + '"';
-}
 
 std::string findText(const QueryAnswer& answer, const Terminal& terminal) {
     const std::vector<Printed> columns = printedColumns(answer);
@@ -174,31 +124,6 @@ std::string findText(const QueryAnswer& answer, const Terminal& terminal) {
            counted(static_cast<std::int64_t>(answer.size()), isGrouped ? "group" : "row",
                    isGrouped ? "groups" : "rows") +
            '\n';
-}
-
-std::string findCsv(const QueryAnswer& answer) {
-    std::string text;
-    for (const std::string_view title : PlaceTitles)
-        text += (text.empty() ? "" : ";") + std::string(title);
-    for (const FoundColumn& column : answer.columns())
-        if (!isOfPlace(column))
-            text += ';' + column.name;
-    text += '\n';
-    for (std::size_t row = 0; row < answer.size(); ++row) {
-        std::string line;
-        for (const std::string& field : placeTexts(answer, row).all())
-            line += csvField(field) + ';';
-        line.pop_back();
-        for (std::size_t i = 0; i < answer.columns().size(); ++i) {
-            if (isOfPlace(answer.columns()[i]))
-                continue;
-            const FoundValue value = answer.value(row, i);
-            const bool isNumber = isRight(answer.columns()[i]) && !std::isnan(value.number);
-            line += ';' + csvField(isNumber ? plainText(value.number) : answer.text(row, i));
-        }
-        text += line + '\n';
-    }
-    return text;
 }
 
 std::string findJson(const QueryAnswer& answer, const std::string& query, const FolderScan& scan) {

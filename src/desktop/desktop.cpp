@@ -2,6 +2,7 @@
 
 #include "common/error.h"
 #include "desktop/cross/cross_window.h"
+#include "desktop/find/find_window.h"
 #include "desktop/motion/motion_window.h"
 #include "desktop/planning/online/online_dialog.h"
 #include "desktop/planning/online/online_planning.h"
@@ -148,6 +149,10 @@ void Desktop::choose(const ToolKind& tool) {
         chooseDocument(tool);
         return;
     }
+    if (tool.choice == ToolKind::Choice::None) {
+        openFind({});
+        return;
+    }
     const DocumentKind& kind = tool.documents;
     QStringList chosen;
     if (tool.choice == ToolKind::Choice::Folder)
@@ -258,6 +263,10 @@ void Desktop::openByContent(const QString& path, OpensAs kind) {
 bool Desktop::openIn(const ToolKind& tool, const QString& path) {
     if (tool.opens == OpensAs::Race || tool.opens == OpensAs::Recording) {
         tool.opens == OpensAs::Race ? openRaces({path}, nullptr) : openRecordings({path});
+        return true;
+    }
+    if (tool.opens == OpensAs::Find) {
+        openFind({path});
         return true;
     }
     if (tool.opens == OpensAs::FolderOfFilms)
@@ -438,6 +447,17 @@ void Desktop::openRecordings(const QStringList& paths) {
     }
     bringToFront(*window);
     window->open(paths);
+}
+
+void Desktop::openFind(const QStringList& paths) {
+    FindWindow* window = windowsOf<FindWindow>().value(0);
+    if (!window) {
+        window = new FindWindow(m_workspace);
+        connect(window, &FindWindow::pathsChanged, this, &Desktop::rememberSession);
+        show(window);
+    }
+    bringToFront(*window);
+    window->searchAlso(paths);
 }
 
 void Desktop::loadPlanningAtStart() {

@@ -71,6 +71,8 @@ public:
     void openRaces(const QStringList& paths, RaceWindow* into = nullptr);
     /// Opens raw recordings beside each other, in the window that has some where there is one.
     void openRecordings(const QStringList& paths);
+    /// Brings the search to the front; it searches these files and folders too.
+    void openFind(const QStringList& paths);
     /// Opens the planning that the preferences name, where they ask for one.
     void loadPlanningAtStart();
 

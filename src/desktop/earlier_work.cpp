@@ -28,6 +28,7 @@ void EarlierWork::rememberWindows() const {
 bool EarlierWork::restoreWindows() const {
     QStringList races;
     QStringList others;
+    QStringList searched;
     for (const OpenFile& file : rememberedSession(m_workspace))
         if (file.kind == "race")
             races.append(file.path);
@@ -35,12 +36,16 @@ bool EarlierWork::restoreWindows() const {
             (void)m_program.openTaking(file.path);
         else if (file.kind == "cross")
             (void)m_program.openCross(file.path);
+        else if (file.kind == "find")
+            searched.append(file.path);
         else
             others.append(file.path);
     if (!races.isEmpty())
         m_program.openRaces(races);
     if (!others.isEmpty())
         m_program.openAll(others);
+    if (!searched.isEmpty())
+        m_program.openFind(searched);
     return m_program.hasWindows();
 }
 

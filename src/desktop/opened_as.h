@@ -25,6 +25,7 @@ enum class OpensAs {
     TestSession,
     Import,      ///< of a watch or a phone: taken into a session
     PowerList,   ///< of a power meter: taken into the session that is open
+    Find,        ///< the search, which opens no file of its own
     ResultsList, ///< official results: taken into a race
     NotReady
 };

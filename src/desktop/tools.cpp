@@ -1,6 +1,7 @@
 #include "desktop/tools.h"
 
 #include "desktop/cross/cross_window.h"
+#include "desktop/find/find_window.h"
 #include "desktop/motion/motion_window.h"
 #include "desktop/planning/planning_window.h"
 #include "desktop/race/race_window.h"
@@ -112,6 +113,14 @@ std::vector<ToolKind> makeTools() {
          Choice::Document,
          {tr("Sessions"), tr("Sessions"), "bms", tr("Session")},
          makeEditor<SessionWindow>},
+        {"find",
+         OpensAs::Find,
+         tr("Find"),
+         tr("Every gate, penalty and run of all seasons, by one question."),
+         "find",
+         Choice::None,
+         {tr("Search files"), tr("Split files"), "kvx", {}},
+         makeReader<FindWindow>},
         {"testsession",
          OpensAs::TestSession,
          tr("Test session"),

@@ -22,6 +22,7 @@ struct ToolKind {
         Document, ///< one that was open before, another, or a new one
         Files,    ///< several
         Folder,
+        None, ///< the window asks for them
     };
 
     QString kind; ///< that of its windows

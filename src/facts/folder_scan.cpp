@@ -255,6 +255,7 @@ public:
     void addFolder(const fs::path& folder) {
         FolderWalk walk = walkFolder(folder);
         std::ranges::move(walk.faults, std::back_inserter(m_scan.failed));
+        std::ranges::move(walk.folders, std::back_inserter(m_scan.folders));
         std::error_code ignored;
         const std::string real = fs::canonical(folder, ignored).native();
         const fs::path cacheFolder = real.empty() ? fs::path() : m_options.cacheFolder;
@@ -296,6 +297,9 @@ private:
 
     void take(const fs::path& root, FactCache& cache, const std::vector<std::string>& repeated) {
         if (m_scan.facts.files().empty() && repeated.empty()) {
+            for (const KnownFile& file : cache.files)
+                if (file.kind == KnownFile::Kind::SplitFile)
+                    m_scan.hashes.push_back(file.hash);
             m_scan.facts = std::move(cache.facts);
             return;
         }
@@ -304,8 +308,10 @@ private:
         for (const KnownFile& file : cache.files) {
             if (file.kind != KnownFile::Kind::SplitFile)
                 continue;
-            if (!std::ranges::binary_search(repeated, file.path))
+            if (!std::ranges::binary_search(repeated, file.path)) {
                 transfer.add(row, (root / file.path).native());
+                m_scan.hashes.push_back(file.hash);
+            }
             ++row;
         }
     }

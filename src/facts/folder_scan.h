@@ -3,6 +3,7 @@
 #include "facts/folder_walk.h"
 
 #include <cstddef>
+#include <cstdint>
 #include <functional>
 #include <span>
 #include <stop_token>
@@ -21,9 +22,11 @@ struct ScanOptions {
 };
 
 struct FolderScan {
-    FactStore facts;      ///< files in the order of the call, those of a folder by their paths
-    std::size_t read = 0; ///< files that were read now, the others being known
+    FactStore facts; ///< files in the order of the call, those of a folder by their paths
+    std::vector<std::uint64_t> hashes; ///< of the contents of these files
+    std::size_t read = 0;              ///< files that were read now, the others being known
     std::vector<ScanFault> failed;
+    std::vector<std::filesystem::path> folders; ///< that were walked, for whoever watches them
     bool isCancelled = false;
 };
 

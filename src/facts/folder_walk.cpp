@@ -73,6 +73,7 @@ private:
         }
         if (!m_folders.insert({status.st_dev, status.st_ino}).second)
             return; // a link led back here
+        m_found.folders.push_back(folder);
         std::vector<std::string> names = namesIn(*entries, folder);
         // In their own order, so that of several links to a file always the same one counts.
         std::ranges::sort(names);

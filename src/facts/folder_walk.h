@@ -25,6 +25,7 @@ struct FoundFile {
 
 struct FolderWalk {
     std::vector<FoundFile> files;  ///< in the order of their paths
+    std::vector<std::filesystem::path> folders; ///< that were walked, each once
     std::vector<ScanFault> faults; ///< folders that could not be walked
 };
 

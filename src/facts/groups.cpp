@@ -13,17 +13,17 @@ namespace {
 constexpr std::string_view RaceSession = "Race";
 
 /// What runs of one file that compete share: category, and where it counts the phase.
-using GroupKey = std::pair<TextId, TextId>;
+using RivalKey = std::pair<TextId, TextId>;
 
 template <class Phase>
 std::vector<Group> grouped(const FactStore& facts, const Phase& phaseOf) {
     std::vector<Group> groups;
-    std::map<GroupKey, std::size_t> places;
+    std::map<RivalKey, std::size_t> places;
     for (std::size_t i = 0; i < facts.runs().size(); ++i) {
         const RunRow& run = facts.runs()[i];
         if (i > 0 && run.file != facts.runs()[i - 1].file)
             places.clear();
-        const GroupKey key{run.categoryKey, phaseOf(run)};
+        const RivalKey key{run.categoryKey, phaseOf(run)};
         const auto [place, isNew] = places.try_emplace(key, groups.size());
         if (isNew)
             groups.emplace_back();

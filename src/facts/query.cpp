@@ -49,6 +49,13 @@ std::uint64_t keyPart(const QueryColumn& column, const RowCursor& row) {
     return std::bit_cast<std::uint64_t>(std::isnan(number) ? NotKnown : number + 0.0);
 }
 
+GroupKey groupKeyOf(const std::vector<const QueryColumn*>& by, const RowCursor& row) {
+    GroupKey key{};
+    for (std::size_t i = 0; i < by.size(); ++i)
+        key[i] = keyPart(*by[i], row);
+    return key;
+}
+
 double medianOf(std::vector<double>& values) {
     const auto middle = values.begin() + static_cast<std::ptrdiff_t>(values.size() / 2);
     std::nth_element(values.begin(), middle, values.end());
@@ -80,9 +87,30 @@ double beginOfSection(const RowCursor& row, std::size_t section) {
     return sections[section - 2].end;
 }
 
+std::optional<std::size_t> gateOf(const RowCursor& row) {
+    const std::int64_t gate = row.gate ? row.gate->gate : row.penalty ? row.penalty->gate : 0;
+    return gate > 0 ? std::optional(static_cast<std::size_t>(gate)) : std::nullopt;
+}
+
+/// Of a penalty that was described, a loss or a tag: its place in the list of its run.
+std::optional<std::size_t> entryOf(const RowCursor& row) {
+    const auto placeIn = [](const auto rows, const auto* of) -> std::optional<std::size_t> {
+        for (std::size_t i = 0; i < rows.size(); ++i)
+            if (&rows[i] == of)
+                return i;
+        return std::nullopt;
+    };
+    return row.loss      ? placeIn(row.facts->lossesOf(*row.run), row.loss)
+           : row.tag     ? placeIn(row.facts->tagsOf(*row.run), row.tag)
+           : row.penalty ? placeIn(row.facts->penaltiesOf(*row.run), row.penalty)
+                         : std::nullopt;
+}
+
 FoundPlace placeOf(What what, const RowCursor& row) {
     FoundPlace place;
     place.run = row.runIndex;
+    place.gate = gateOf(row);
+    place.entry = entryOf(row);
     std::size_t section = row.section;
     if (row.gate)
         section = sectionOfGate(*row.facts, *row.file, row.gate->gate);
@@ -112,6 +140,26 @@ public:
         m_answer.m_query = std::move(query);
     }
 
+    /// Of one group of another answer, which is told by any of its rows.
+    QueryRun(const QueryAnswer& groups, const FoundRow& member)
+        : QueryRun(groups.facts(), groups.query()) {
+        m_by = query().by;
+        m_needed = query().best;
+        RowCursor cursor = cursorOf(facts(), member.run);
+        if (!groups.m_ranks.empty())
+            cursor.rank = groups.m_ranks[member.run];
+        atRow(query().what, cursor, member.entry,
+              [&](const RowCursor& row) { m_only = groupKeyOf(m_by, row); });
+        Query& rows = m_answer.m_query;
+        rows.by.clear();
+        rows.first.reset();
+        rows.best = nullptr;
+        rows.sort.reset();
+        if (const QueryColumn* const column =
+                groups.query().best ? groups.query().best : measuredColumn(rows.what))
+            rows.sort = SortOrder{column, {}, false};
+    }
+
     QueryAnswer run() {
         if (asksForRanks())
             m_answer.m_ranks = ranksOf(facts(), groupsOf(facts()));
@@ -138,7 +186,8 @@ private:
         const auto isRank = [](const QueryColumn* column) {
             return column && column->name == "rank";
         };
-        return isRank(query().best) || (query().sort && isRank(query().sort->column)) ||
+        return isRank(m_needed) || std::ranges::any_of(m_by, isRank) || isRank(query().best) ||
+               (query().sort && isRank(query().sort->column)) ||
                std::ranges::any_of(query().by, isRank) ||
                std::ranges::any_of(query().conditions, [&](const Condition& condition) {
                    return isRank(condition.choices.front().column);
@@ -165,8 +214,10 @@ private:
         forEachRow(query().what, cursor, [&](const RowCursor& row, std::uint32_t entry) {
             if (!matcher.matches(row, ColumnLevel::Row))
                 return;
-            const double value = query().best ? query().best->number(row) : 0;
-            if (std::isnan(value))
+            const QueryColumn* const needed = query().best ? query().best : m_needed;
+            if (needed && std::isnan(needed->number(row)))
+                return;
+            if (m_only && groupKeyOf(m_by, row) != *m_only)
                 return;
             const FoundRow found{static_cast<std::uint32_t>(row.runIndex), entry, 0};
             if (query().by.empty())
@@ -205,12 +256,10 @@ private:
     std::size_t groupOf(const RowCursor& row) {
         if (m_groupOfRun)
             return *m_groupOfRun;
-        GroupKey key{};
-        bool isOfRun = true;
-        for (std::size_t i = 0; i < query().by.size(); ++i) {
-            key[i] = keyPart(*query().by[i], row);
-            isOfRun = isOfRun && query().by[i]->level != ColumnLevel::Row;
-        }
+        const GroupKey key = groupKeyOf(query().by, row);
+        const bool isOfRun = std::ranges::none_of(query().by, [](const QueryColumn* column) {
+            return column->level == ColumnLevel::Row;
+        });
         const auto [place, isNew] = m_places.try_emplace(key, m_answer.m_groups.size());
         if (isOfRun)
             m_groupOfRun = place->second;
@@ -390,10 +439,17 @@ private:
     std::unordered_map<GroupKey, std::size_t, HashOfGroup> m_places;
     std::vector<std::vector<double>> m_values; ///< by group
     std::optional<std::size_t> m_groupOfRun;
+    std::optional<GroupKey> m_only;        ///< where the rows of one group are wanted
+    std::vector<const QueryColumn*> m_by;  ///< what makes that group
+    const QueryColumn* m_needed = nullptr; ///< its rows have a value there
 };
 
 QueryAnswer answer(const FactStore& facts, Query query) {
     return QueryRun(facts, std::move(query)).run();
+}
+
+QueryAnswer rowsOfGroup(const QueryAnswer& groups, std::size_t group) {
+    return QueryRun(groups, groups.m_rows[group]).run();
 }
 
 FoundValue QueryAnswer::value(std::size_t row, std::size_t column) const {

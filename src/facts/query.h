@@ -21,6 +21,8 @@ struct FoundRow {
 struct FoundPlace {
     std::size_t run = 0;                ///< in the store
     std::optional<std::size_t> section; ///< from 1
+    std::optional<std::size_t> gate;    ///< from 1
+    std::optional<std::size_t> entry;   ///< of the run's penalties, losses or tags, from 0
     std::size_t film = 0;               ///< of the run's films
     double at = NotKnown;               ///< seconds of that film
 };
@@ -65,6 +67,7 @@ public:
 
 private:
     friend class QueryRun;
+    friend QueryAnswer rowsOfGroup(const QueryAnswer& groups, std::size_t group);
 
     const FactStore* m_facts = nullptr;
     Query m_query;
@@ -75,5 +78,9 @@ private:
 };
 
 [[nodiscard]] QueryAnswer answer(const FactStore& facts, Query query);
+
+/// The rows that one of the groups of an answer is made of, the one with the least value first.
+/// The store must be the same still.
+[[nodiscard]] QueryAnswer rowsOfGroup(const QueryAnswer& groups, std::size_t group);
 
 } // namespace kavela
