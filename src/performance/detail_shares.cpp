@@ -108,7 +108,7 @@ std::string detailText(const DetailRow& row) {
 
 DetailShares detailShares(const FactStore& facts, const PenaltyChoice& choice) {
     const NotedPenalties all = notedPenalties(facts, choice);
-    DetailShares details{all.noted.size(), {}};
+    DetailShares details{all.noted.size(), all.noted.size() + all.unnoted, {}};
     for (const DetailField& field : DetailFields) {
         const auto rows = rowsOf(all, field);
         details.rows.insert(details.rows.end(), rows.begin(), rows.end());

@@ -142,15 +142,14 @@ std::string wordsOf(std::span<const PenaltyCost> costs) {
         medals == 0 ? std::string("none of them") : fmt::format("{} of them", medals));
 }
 
-std::string wordsOf(const DetailShares& details, std::size_t penalties) {
+std::string wordsOf(const DetailShares& details) {
+    if (details.penalties == 0)
+        return "There is no penalty.";
+    const std::string all = counted(details.penalties, "penalty", "penalties");
     if (details.noted == 0)
-        return penalties == 0 ? "There is no penalty."
-                              : fmt::format("None of {} was noted in detail.",
-                                            counted(penalties, "penalty", "penalties"));
+        return fmt::format("None of {} was noted in detail.", all);
     const std::string start =
-        fmt::format("Of {} {} noted in detail.",
-                    counted(std::max(penalties, details.noted), "penalty", "penalties"),
-                    counted(details.noted, "was", "were"));
+        fmt::format("Of {} {} noted in detail.", all, counted(details.noted, "was", "were"));
     if (details.noted < LeastValues)
         return start + " Too few to tell.";
     return start + " Shares of what was noted, no rates: nobody notes how gates are passed clean.";

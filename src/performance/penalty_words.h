@@ -27,7 +27,7 @@ namespace kavela {
 [[nodiscard]] std::string wordsOf(std::span<const PenaltyCost> costs);
 
 /// "Of 57 penalties 12 were noted in detail. …"
-[[nodiscard]] std::string wordsOf(const DetailShares& details, std::size_t penalties);
+[[nodiscard]] std::string wordsOf(const DetailShares& details);
 
 /// "The fast touch less: 0.52 a run in the fastest third, 1.90 in the slowest." Thirds whose
 /// intervals meet are not told apart.

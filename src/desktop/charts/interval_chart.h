@@ -7,6 +7,8 @@
 #include <optional>
 #include <vector>
 
+class QCPPainter;
+
 namespace kavela::desktop {
 
 /// A figure with its interval. All in the unit of the axis.
