@@ -91,6 +91,19 @@ PenaltyChoice PenaltyFilter::choice() const {
     return {keyOf(Category), keyOf(Phase), keyOf(Crew)};
 }
 
+std::vector<std::pair<QString, QString>> PenaltyFilter::crews() const {
+    std::vector<std::pair<QString, QString>> crews;
+    const QComboBox& box = *m_boxes[Crew];
+    for (int i = 1; i < box.count(); ++i)
+        crews.emplace_back(box.itemData(i).toString(), box.itemText(i));
+    return crews;
+}
+
+void PenaltyFilter::chooseCrew(const QString& key) {
+    if (const int index = m_boxes[Crew]->findData(key); index > 0)
+        m_boxes[Crew]->setCurrentIndex(index);
+}
+
 /// One change, however many of the boxes said something.
 void PenaltyFilter::clear() {
     const PenaltyChoice before = choice();

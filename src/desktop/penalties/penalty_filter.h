@@ -8,6 +8,8 @@
 #include <array>
 #include <functional>
 #include <map>
+#include <utility>
+#include <vector>
 
 class QComboBox;
 
@@ -25,6 +27,10 @@ public:
     [[nodiscard]] PenaltyChoice choice() const;
     /// All runs again.
     void clear();
+    /// The crews that are offered, each by its key and as it is read.
+    [[nodiscard]] std::vector<std::pair<QString, QString>> crews() const;
+    /// A crew that is not offered changes nothing.
+    void chooseCrew(const QString& key);
 
 signals:
     void changed();
