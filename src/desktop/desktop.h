@@ -68,6 +68,9 @@ public:
     void openRaces(const QStringList& paths, RaceWindow* into = nullptr);
     /// Opens raw recordings beside each other, in the window that has some where there is one.
     void openRecordings(const QStringList& paths);
+    /// Shows the penalties of split files, and of folders with all below them, in one window; the
+    /// window that has just these comes to the front.
+    void openPenalties(const QStringList& paths);
     /// Opens the planning that the preferences name, where they ask for one.
     void loadPlanningAtStart();
 
@@ -88,6 +91,7 @@ private:
     /// Lets the coach choose what a tool is to open or begin.
     void choose(const ToolKind& tool);
     void chooseDocument(const ToolKind& tool);
+    void chooseFilesOrFolder(const ToolKind& tool);
     [[nodiscard]] ToolWindow* make(const ToolKind& tool);
     /// A planning of the server in a window of its own.
     void showPlanningCopy(const QByteArray& content, const QString& name);

@@ -27,6 +27,7 @@ void EarlierWork::rememberWindows() const {
 /// All are read first: what is opened is remembered at once in their place.
 bool EarlierWork::restoreWindows() const {
     QStringList races;
+    QStringList penalties;
     QStringList others;
     for (const OpenFile& file : rememberedSession(m_workspace))
         if (file.kind == "race")
@@ -35,10 +36,13 @@ bool EarlierWork::restoreWindows() const {
             (void)m_program.openTaking(file.path);
         else if (file.kind == "cross")
             (void)m_program.openCross(file.path);
+        else if (file.kind == "penalties")
+            penalties.append(file.path);
         else
             others.append(file.path);
     if (!races.isEmpty())
         m_program.openRaces(races);
+    m_program.openPenalties(penalties);
     if (!others.isEmpty())
         m_program.openAll(others);
     return !m_program.windows().isEmpty();

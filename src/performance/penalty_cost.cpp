@@ -79,7 +79,6 @@ Place placeOf(const FactStore& facts, const PenaltyCost& cost) {
     constexpr std::uint32_t Valid = 1;
     const RunRow& run = facts.runs()[cost.run];
     Place place = placeOf(facts, GatePassage{cost.run, cost.gate, cost.seconds});
-    place.split = cost.section;
     if (!cost.section)
         return place;
     const auto sections = facts.sectionsOf(run);
@@ -90,6 +89,8 @@ Place placeOf(const FactStore& facts, const PenaltyCost& cost) {
         begin = sections[*cost.section - 2].end;
     if (std::isfinite(begin))
         place.moment = CMTime{std::llround(begin * Ticks), Ticks, Valid, 0};
+    else
+        place.split = cost.section;
     return place;
 }
 

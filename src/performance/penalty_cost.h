@@ -47,8 +47,8 @@ private:
     std::vector<double> m_totals;
 };
 
-/// Where a penalty stands: its gate, its section, and on the film the beginning of that section,
-/// where it is known.
+/// Where to look at a penalty: on the film where the section of its gate begins, where that is
+/// known, else by the number of the section.
 [[nodiscard]] Place placeOf(const FactStore& facts, const PenaltyCost& cost);
 
 /// What one penalty of a run with a total cost.

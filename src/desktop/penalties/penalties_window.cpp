@@ -12,6 +12,7 @@
 #include "desktop/penalties/rates_panel.h"
 #include "desktop/penalties/trade_off_panel.h"
 #include "desktop/shell/qt_text.h"
+#include "desktop/shell/tables/column_table.h"
 #include "desktop/shell/theme.h"
 #include "desktop/shell/workspace.h"
 #include "desktop/why/why_popup.h"
@@ -23,10 +24,13 @@
 #include <QLabel>
 #include <QProgressBar>
 #include <QPushButton>
+#include <QSignalBlocker>
 #include <QStackedWidget>
 #include <QStatusBar>
 #include <QTabWidget>
 #include <QVBoxLayout>
+
+#include <algorithm>
 
 namespace kavela::desktop {
 
