@@ -12,7 +12,9 @@
 #include <QLabel>
 #include <QVBoxLayout>
 
+#include <algorithm>
 #include <array>
+#include <cmath>
 
 namespace kavela::desktop {
 
@@ -74,6 +76,9 @@ TradeOffPanel::TradeOffPanel(QWidget* parent)
     answerWhy(m_table, [this](const QModelIndex& cell) {
         return whyOf(m_table->placeAt(cell), cell.column());
     });
+    connect(m_chart, &SeriesChart::hoveredAt, this, [this](double x) { m_cursor = x; });
+    connect(m_chart, &SeriesChart::hoverEnded, this, [this] { m_cursor.reset(); });
+    answerWhy(m_chart->focusProxy(), [this](const QPoint&) { return whyAtCursor(); });
     answerWhy(m_breakEven, [this](const QPoint&) {
         return m_figures ? m_figures->why("breakeven") : std::nullopt;
     });
@@ -85,6 +90,17 @@ void TradeOffPanel::show(const SharedFigures& figures) {
     m_breakEven->setVisible(!m_breakEven->text().isEmpty());
     m_rows.show(figures->tradeOff.rows);
     m_chart->show(tradeOffContent(figures->tradeOff));
+}
+
+/// The touches of the third that is nearest.
+std::optional<Reason> TradeOffPanel::whyAtCursor() const {
+    const std::vector<TradeOffRow>& rows = m_rows.rows();
+    if (!m_cursor || rows.empty())
+        return {};
+    const auto nearest = std::ranges::min_element(
+        rows, {}, [this](const TradeOffRow& row) { return std::abs(row.paddling - *m_cursor); });
+    constexpr int Touches = 2;
+    return whyOf(static_cast<int>(nearest - rows.begin()), Touches);
 }
 
 std::optional<Reason> TradeOffPanel::whyOf(int place, int column) const {

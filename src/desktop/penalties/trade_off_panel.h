@@ -30,7 +30,10 @@ public:
     [[nodiscard]] std::optional<Reason> whyOf(int place, int column) const;
 
 private:
+    [[nodiscard]] std::optional<Reason> whyAtCursor() const;
+
     SharedFigures m_figures;
+    std::optional<double> m_cursor; ///< paddling time at which the chart's cursor stands
     ColumnModel<TradeOffRow, int> m_rows;
     SeriesChart* m_chart;
     QLabel* m_breakEven;
