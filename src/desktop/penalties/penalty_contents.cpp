@@ -13,7 +13,7 @@ namespace kavela::desktop {
 
 namespace {
 
-constexpr double Percent = 100;
+constexpr double Hundredfold = 100;
 
 QString tr(const char* text) {
     return QCoreApplication::translate("PenaltiesWindow", text);
@@ -37,11 +37,11 @@ IntervalChartContent emptyRates() {
 
 IntervalMark markOf(const ShrunkRate& shrunk, const std::optional<RateOf>& touches) {
     IntervalMark mark;
-    mark.value = Percent * shrunk.rate;
-    mark.low = Percent * shrunk.interval.low;
-    mark.high = Percent * shrunk.interval.high;
+    mark.value = Hundredfold * shrunk.rate;
+    mark.low = Hundredfold * shrunk.interval.low;
+    mark.high = Hundredfold * shrunk.interval.high;
     if (touches) {
-        mark.bare = Percent * touches->rate;
+        mark.bare = Hundredfold * touches->rate;
         mark.told << touchedText(*touches);
     }
     return mark;
@@ -109,7 +109,7 @@ IntervalChartContent courseContent(const CourseOfRates& course) {
     content.subtitle = shownWords(wordsOf(course));
     content.xTitle = tr("Gates in order; ◀ upstream");
     content.isCourse = true;
-    content.common = Percent * course.common;
+    content.common = Hundredfold * course.common;
     content.csvTitles = QStringList{tr("Gate"), tr("Upstream"), tr("Section")} + rateTitles();
     for (const GateOnCourse& gate : course.gates)
         content.marks.push_back(markOf(gate));
@@ -126,7 +126,7 @@ IntervalChartContent ratesContent(const PenaltyRates& rates) {
         content.xTitle += tr(" (the highest %1, %2 more in the table)")
                               .arg(chart.marks.size())
                               .arg(chart.leftOut);
-    content.common = Percent * chart.common;
+    content.common = Hundredfold * chart.common;
     content.csvTitles = QStringList(rowTitleOf(rates.by)) + rateTitles();
     for (std::size_t i = 0; i < chart.marks.size(); ++i) {
         const RateRow& row = rates.rows[i];
