@@ -4,6 +4,7 @@
 #include "desktop/cross/cross_window.h"
 #include "desktop/find/find_window.h"
 #include "desktop/motion/motion_window.h"
+#include "desktop/penalties/penalties_window.h"
 #include "desktop/planning/online/online_dialog.h"
 #include "desktop/planning/online/online_planning.h"
 #include "desktop/planning/online/planning_start.h"
@@ -153,6 +154,10 @@ void Desktop::choose(const ToolKind& tool) {
         openFind({});
         return;
     }
+    if (tool.choice == ToolKind::Choice::FilesOrFolder) {
+        chooseFilesOrFolder(tool);
+        return;
+    }
     const DocumentKind& kind = tool.documents;
     QStringList chosen;
     if (tool.choice == ToolKind::Choice::Folder)
@@ -167,6 +172,25 @@ void Desktop::choose(const ToolKind& tool) {
     else
         for (const QString& path : chosen)
             (void)openIn(tool, path);
+}
+
+/// No dialog of files lets folders be chosen beside them.
+void Desktop::chooseFilesOrFolder(const ToolKind& tool) {
+    const DocumentKind& kind = tool.documents;
+    const int choice = m_workspace.choose(
+        {tool.title.toStdString(),
+         tr("Of single split files, or of all in a folder and below it?").toStdString()},
+        {tr("Split files…"), tr("A folder…")}, front());
+    QStringList chosen;
+    if (choice == 0)
+        chosen = QFileDialog::getOpenFileNames(
+            front(), kind.title, QString(),
+            tr("%1 (*.%2);;All files (*)").arg(kind.plural, kind.suffix));
+    else if (choice == 1)
+        chosen = {QFileDialog::getExistingDirectory(front(), kind.title)};
+    chosen.removeAll(QString());
+    if (tool.opens == OpensAs::Penalties)
+        openPenalties(chosen);
 }
 
 /// A document to open, or the name of a new one.
@@ -273,6 +297,10 @@ bool Desktop::openIn(const ToolKind& tool, const QString& path) {
         return openTaking(path) != nullptr;
     if (tool.opens == OpensAs::Cross)
         return openCross(path) != nullptr;
+    if (tool.opens == OpensAs::Penalties) {
+        openPenalties({path});
+        return true;
+    }
     const QString file = canonicalPath(path);
     if (m_opening.contains(file) || raiseEditorOf(path))
         return true;
@@ -337,6 +365,7 @@ RaceWindow* Desktop::makeRaceWindow() {
             [this, window](const QStringList& files) { openAll(files, window); });
     connect(window, &RaceWindow::takingRequested, this, &Desktop::openTaking);
     connect(window, &RaceWindow::momentRequested, this, &Desktop::showMoment);
+    connect(window, &RaceWindow::penaltiesRequested, this, &Desktop::openPenalties);
     connect(window, &RaceWindow::viewsChanged, this, &Desktop::rememberSession);
     return window;
 }
@@ -458,6 +487,20 @@ void Desktop::openFind(const QStringList& paths) {
     }
     bringToFront(*window);
     window->searchAlso(paths);
+}
+
+void Desktop::openPenalties(const QStringList& paths) {
+    if (paths.isEmpty())
+        return;
+    for (PenaltiesWindow* const window : windowsOf<PenaltiesWindow>())
+        if (window->paths() == paths) {
+            bringToFront(*window);
+            return;
+        }
+    auto* window = new PenaltiesWindow(m_workspace);
+    window->setPaths(paths);
+    connect(window, &PenaltiesWindow::pathsChanged, this, &Desktop::rememberSession);
+    show(window);
 }
 
 void Desktop::loadPlanningAtStart() {

@@ -73,6 +73,9 @@ public:
     void openRecordings(const QStringList& paths);
     /// Brings the search to the front; it searches these files and folders too.
     void openFind(const QStringList& paths);
+    /// Shows the penalties of split files, and of folders with all below them, in one window; the
+    /// window that has just these comes to the front.
+    void openPenalties(const QStringList& paths);
     /// Opens the planning that the preferences name, where they ask for one.
     void loadPlanningAtStart();
 
@@ -98,6 +101,7 @@ private:
     /// Lets the coach choose what a tool is to open or begin.
     void choose(const ToolKind& tool);
     void chooseDocument(const ToolKind& tool);
+    void chooseFilesOrFolder(const ToolKind& tool);
     [[nodiscard]] ToolWindow* make(const ToolKind& tool);
     /// A planning of the server in a window of its own.
     void showPlanningCopy(const QByteArray& content, const QString& name);

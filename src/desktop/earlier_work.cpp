@@ -27,6 +27,7 @@ void EarlierWork::rememberWindows() const {
 /// All are read first: what is opened is remembered at once in their place.
 bool EarlierWork::restoreWindows() const {
     QStringList races;
+    QStringList penalties;
     QStringList others;
     QStringList searched;
     for (const OpenFile& file : rememberedSession(m_workspace))
@@ -38,10 +39,13 @@ bool EarlierWork::restoreWindows() const {
             (void)m_program.openCross(file.path);
         else if (file.kind == "find")
             searched.append(file.path);
+        else if (file.kind == "penalties")
+            penalties.append(file.path);
         else
             others.append(file.path);
     if (!races.isEmpty())
         m_program.openRaces(races);
+    m_program.openPenalties(penalties);
     if (!others.isEmpty())
         m_program.openAll(others);
     if (!searched.isEmpty())

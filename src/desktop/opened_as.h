@@ -27,6 +27,7 @@ enum class OpensAs {
     PowerList,   ///< of a power meter: taken into the session that is open
     Find,        ///< the search, which opens no file of its own
     ResultsList, ///< official results: taken into a race
+    Penalties,   ///< split files and folders, where the coach asks for it: none is known by content
     NotReady
 };
 

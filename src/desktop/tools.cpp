@@ -3,6 +3,7 @@
 #include "desktop/cross/cross_window.h"
 #include "desktop/find/find_window.h"
 #include "desktop/motion/motion_window.h"
+#include "desktop/penalties/penalties_window.h"
 #include "desktop/planning/planning_window.h"
 #include "desktop/race/race_window.h"
 #include "desktop/selection/selection_window.h"
@@ -121,6 +122,14 @@ std::vector<ToolKind> makeTools() {
          Choice::None,
          {tr("Search files"), tr("Split files"), "kvx", {}},
          makeReader<FindWindow>},
+        {"penalties",
+         OpensAs::Penalties,
+         tr("Penalties"),
+         tr("Which gates are touched, by whom, and what it cost."),
+         "penalties",
+         Choice::FilesOrFolder,
+         {tr("Open split files"), tr("Split files"), "kvx", {}},
+         makeReader<PenaltiesWindow>},
         {"testsession",
          OpensAs::TestSession,
          tr("Test session"),

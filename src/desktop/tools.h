@@ -23,6 +23,7 @@ struct ToolKind {
         Files,    ///< several
         Folder,
         None, ///< the window asks for them
+        FilesOrFolder, ///< several, or one folder with all below it, in one window
     };
 
     QString kind; ///< that of its windows

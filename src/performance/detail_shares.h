@@ -42,6 +42,7 @@ struct DetailRow {
 
 struct DetailShares {
     std::size_t noted = 0;       ///< penalties in detail
+    std::size_t penalties = 0;   ///< noted in detail or not
     std::vector<DetailRow> rows; ///< by field, the commonest first, those not noted last
 };
 

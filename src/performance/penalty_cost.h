@@ -47,6 +47,10 @@ private:
     std::vector<double> m_totals;
 };
 
+/// Where to look at a penalty: on the film where the section of its gate begins, where that is
+/// known, else by the number of the section.
+[[nodiscard]] Place placeOf(const FactStore& facts, const PenaltyCost& cost);
+
 /// What one penalty of a run with a total cost.
 [[nodiscard]] PenaltyCost penaltyCost(const FactStore& facts, const GroupTotals& totals,
                                       const CourseGates& course, const GatePassage& penalty,

@@ -3,6 +3,7 @@
 #include "desktop/cross/cross_window.h"
 #include "desktop/desktop.h"
 #include "desktop/motion/motion_window.h"
+#include "desktop/penalties/penalties_window.h"
 #include "desktop/race/race_window.h"
 #include "desktop/shell/key_list.h"
 #include "desktop/shell/tables/column_table.h"
@@ -53,6 +54,8 @@ protected:
             const QString path = QString::fromStdString(file.string());
             if (std::string_view(wanted.name) == "taking")
                 (void)m_program.openTaking(path);
+            else if (std::string_view(wanted.name) == "penalties")
+                openPenalties(path);
             else if (std::string_view(wanted.name) == "session")
                 (void)m_program.openIn(*desktop::toolOfKind("session"), path);
             else
@@ -62,6 +65,13 @@ protected:
             if (auto* const main = qobject_cast<QMainWindow*>(window); main && main->isVisible())
                 return main;
         return nullptr;
+    }
+
+    /// What it shows comes a little later.
+    void openPenalties(const QString& path) {
+        m_program.openPenalties({path});
+        for (const auto* const window : m_program.windowsOf<desktop::PenaltiesWindow>())
+            EXPECT_TRUE(QTest::qWaitFor([&] { return !window->isBusy() && window->figures(); }));
     }
 
     /// Where a coach's hands may be: tables, films, charts; nothing that is typed in or pressed.
@@ -154,6 +164,8 @@ INSTANTIATE_TEST_SUITE_P(Windows, WindowKeysTest,
                                            WindowOf{"selection", "selection/spring_selection.kvsr"},
                                            WindowOf{"planning", "planning/season.planning"},
                                            WindowOf{"watertests", "tests/form_tests.kvtest"},
+                                           WindowOf{"penalties", "races/riverside_cup.kvx",
+                                                    "Alt+4"},
                                            WindowOf{"motion", "recordings/upstream_drill.kvb"},
                                            WindowOf{"session", "recordings/upstream_drill.kvb"}),
                          [](const auto& window) { return window.param.name; });

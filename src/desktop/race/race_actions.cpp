@@ -175,6 +175,9 @@ void RaceActions::makeChartMenu() {
         add(*menu, titles[index], QKeySequence(Qt::ALT | static_cast<Qt::Key>(Qt::Key_1 + index)),
             [index](RaceView& view) { view.charts().goToChart(index); });
     menu->addSeparator();
+    menu->addAction(tr("&Penalties"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_P), &m_window,
+                    [this] { emit m_window.penaltiesRequested({m_window.document().path()}); });
+    menu->addSeparator();
     add(*menu, tr("Show the &whole chart"), QKeySequence(Qt::CTRL | Qt::Key_0),
         [](RaceView& view) { view.charts().fit(); });
     add(*menu, tr("&Save the chart…"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_E),

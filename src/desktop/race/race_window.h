@@ -52,6 +52,8 @@ signals:
     void takingRequested(const QString& path);
     /// The frame behind a time is wanted: of a run of the file, of a split counted from 1.
     void momentRequested(const QString& path, int run, std::size_t split);
+    /// The penalties of the race in front are to be shown in a window of their own.
+    void penaltiesRequested(const QStringList& paths);
 
 protected:
     void closeFront() override { closeView(); }

@@ -1,0 +1,89 @@
+#include "desktop/penalties/course_panel.h"
+
+#include "desktop/charts/interval_chart.h"
+#include "desktop/penalties/penalty_contents.h"
+#include "desktop/shell/qt_text.h"
+#include "desktop/shell/theme.h"
+#include "desktop/why/why_popup.h"
+
+#include <QComboBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QSignalBlocker>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+namespace kavela::desktop {
+
+CoursePanel::CoursePanel(QWidget* parent)
+    : QWidget(parent),
+      m_title(new QLabel(tr("C&ourse of"))),
+      m_courses(new QComboBox),
+      m_chart(new IntervalChart) {
+    m_courses->setObjectName("course");
+    m_courses->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+    m_title->setBuddy(m_courses);
+    auto* row = new QHBoxLayout;
+    row->addWidget(m_title);
+    row->addWidget(m_courses);
+    row->addStretch();
+    auto* column = new QVBoxLayout(this);
+    column->setSpacing(theme::Spacing);
+    column->addLayout(row);
+    column->addWidget(m_chart, 1);
+    m_title->hide();
+    m_courses->hide();
+    connect(m_courses, &QComboBox::currentIndexChanged, this, &CoursePanel::showCourse);
+    connect(m_chart, &IntervalChart::markActivated, this, [this](std::size_t mark) {
+        if (const CourseOfRates* const shown = course(); shown && mark < shown->gates.size())
+            emit gateActivated(shown->file, shown->gates[mark].gate);
+    });
+    answerWhy(m_chart->focusProxy(), [this](const QPoint& at) {
+        return whyOf(at.x() < 0 ? m_chart->current() : m_chart->markAt(at));
+    });
+}
+
+/// By its path: the number of a file changes as others come and go.
+void CoursePanel::show(const SharedFigures& figures) {
+    const QString before = m_courses->currentData().toString();
+    m_figures = figures;
+    {
+        const QSignalBlocker quiet(m_courses);
+        m_courses->clear();
+        for (const CourseOfRates& each : figures->courses)
+            m_courses->addItem(qtText(each.label), qtText(figures->facts->text(
+                                                       figures->facts->files()[each.file].path)));
+        m_courses->setCurrentIndex(
+            m_courses->count() == 0 ? -1 : std::max(m_courses->findData(before), 0));
+    }
+    m_title->setVisible(m_courses->count() > 1);
+    m_courses->setVisible(m_courses->count() > 1);
+    showCourse();
+}
+
+void CoursePanel::showNext(int step) {
+    if (const int count = m_courses->count(); count > 0)
+        m_courses->setCurrentIndex((m_courses->currentIndex() + step + count) % count);
+}
+
+const CourseOfRates* CoursePanel::course() const {
+    const int index = m_courses->currentIndex();
+    return m_figures && index >= 0 ? &m_figures->courses.at(static_cast<std::size_t>(index))
+                                   : nullptr;
+}
+
+void CoursePanel::showCourse() {
+    const CourseOfRates* const shown = course();
+    m_chart->show(courseContent(shown ? *shown : CourseOfRates()));
+}
+
+std::optional<Reason> CoursePanel::whyOf(std::optional<std::size_t> mark) const {
+    const CourseOfRates* const shown = course();
+    if (!shown || !mark || *mark >= shown->gates.size())
+        return {};
+    const auto gate = static_cast<std::uint64_t>(shown->gates[*mark].gate);
+    return m_figures->why("rate/gate/" + courseKey(*m_figures->facts, shown->file, gate));
+}
+
+} // namespace kavela::desktop

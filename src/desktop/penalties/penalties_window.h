@@ -1,0 +1,112 @@
+#pragma once
+
+#include "desktop/facts/watched_facts.h"
+#include "desktop/penalties/penalty_figures.h"
+#include "desktop/shell/background_work.h"
+#include "desktop/shell/tool_window.h"
+
+class QLabel;
+class QProgressBar;
+class QPushButton;
+class QStackedWidget;
+class QTabWidget;
+
+namespace kavela::desktop {
+
+class ChartFrame;
+class CostPanel;
+class CoursePanel;
+class DetailsPanel;
+class PenaltyFilter;
+class RatesPanel;
+class TradeOffPanel;
+
+/// Which gates are touched and missed, by whom, what it cost in places, and whether speed pays: of
+/// one race, of several, or of all in a folder. Files are only read, and read again as they change.
+class PenaltiesWindow : public ToolWindow {
+    Q_OBJECT
+
+public:
+    enum Page { Course, Rates, Details, Costs, RiskAndSpeed };
+
+    explicit PenaltiesWindow(Workspace& workspace);
+    ~PenaltiesWindow() override;
+
+    /// Shows these files and folders in place of those from before.
+    void setPaths(const QStringList& paths);
+    /// The same for one; true, since it is told later what cannot be read.
+    [[nodiscard]] bool open(const QString& path) override;
+    [[nodiscard]] QStringList paths() const override;
+
+    void chooseFiles();
+    void chooseFolder();
+    void readAgain() { m_facts.readAgain(); }
+
+    void showPage(Page page);
+    [[nodiscard]] Page page() const;
+    /// The chart in front; null on a page without one.
+    [[nodiscard]] ChartFrame* chart() const;
+    void saveChart();
+
+    [[nodiscard]] PenaltyFilter& filter() const { return *m_filter; }
+    [[nodiscard]] CoursePanel& course() const { return *m_course; }
+    [[nodiscard]] RatesPanel& rates() const { return *m_rates; }
+    [[nodiscard]] DetailsPanel& details() const { return *m_details; }
+    [[nodiscard]] CostPanel& costs() const { return *m_costs; }
+    [[nodiscard]] TradeOffPanel& tradeOff() const { return *m_tradeOff; }
+
+    /// What is shown; null before the first files were read.
+    [[nodiscard]] const SharedFigures& figures() const { return m_figures; }
+    /// Files are being read, or what they say is being computed.
+    [[nodiscard]] bool isBusy() const;
+    /// What is told below: how many runs, and what was left out.
+    [[nodiscard]] QString status() const;
+
+signals:
+    /// Other files and folders are shown.
+    void pathsChanged();
+    /// Other figures are shown.
+    void shown();
+
+protected:
+    /// Split files and folders join those that are shown.
+    void takeFiles(const QStringList& paths) override;
+
+private:
+    void makeParts();
+    [[nodiscard]] QWidget* makeEmptyPage();
+    [[nodiscard]] QWidget* makeContent();
+    void makeStatus();
+    void connectParts();
+    void takeFacts();
+    void compute();
+    void take(const SharedFigures& figures);
+    void showReading();
+    void showProgress(int read, int of);
+    void showStatus();
+    void showFailed();
+    void showTitle();
+
+    WatchedFacts m_facts;
+    SharedFigures m_figures;
+    int m_asked = 0; ///< number of the latest computation
+    bool m_isComputing = false;
+
+    QStackedWidget* m_pages = nullptr;
+    QLabel* m_emptyText = nullptr;
+    PenaltyFilter* m_filter = nullptr;
+    QLabel* m_clean = nullptr;
+    QTabWidget* m_tabs = nullptr;
+    CoursePanel* m_course = nullptr;
+    RatesPanel* m_rates = nullptr;
+    DetailsPanel* m_details = nullptr;
+    CostPanel* m_costs = nullptr;
+    TradeOffPanel* m_tradeOff = nullptr;
+    QProgressBar* m_progress = nullptr;
+    QPushButton* m_cancel = nullptr;
+    QPushButton* m_failed = nullptr;
+    QLabel* m_status = nullptr;
+    BackgroundWork m_work;
+};
+
+} // namespace kavela::desktop
