@@ -2,6 +2,7 @@
 
 #include "common/error.h"
 #include "desktop/cross/cross_window.h"
+#include "desktop/losses/losses_window.h"
 #include "desktop/motion/motion_window.h"
 #include "desktop/planning/online/online_dialog.h"
 #include "desktop/planning/online/online_planning.h"
@@ -145,6 +146,10 @@ void Desktop::choose(const ToolKind& tool) {
         chooseDocument(tool);
         return;
     }
+    if (tool.choice == ToolKind::Choice::FilesOrFolder) {
+        chooseFilesOrFolder(tool);
+        return;
+    }
     const DocumentKind& kind = tool.documents;
     QStringList chosen;
     if (tool.choice == ToolKind::Choice::Folder)
@@ -159,6 +164,25 @@ void Desktop::choose(const ToolKind& tool) {
     else
         for (const QString& path : chosen)
             (void)openIn(tool, path);
+}
+
+/// No dialog of files lets folders be chosen beside them.
+void Desktop::chooseFilesOrFolder(const ToolKind& tool) {
+    const DocumentKind& kind = tool.documents;
+    const int choice = m_workspace.choose(
+        {tool.title.toStdString(),
+         tr("Of single split files, or of all in a folder and below it?").toStdString()},
+        {tr("Split files…"), tr("A folder…")}, front());
+    QStringList chosen;
+    if (choice == 0)
+        chosen = QFileDialog::getOpenFileNames(
+            front(), kind.title, QString(),
+            tr("%1 (*.%2);;All files (*)").arg(kind.plural, kind.suffix));
+    else if (choice == 1)
+        chosen = {QFileDialog::getExistingDirectory(front(), kind.title)};
+    chosen.removeAll(QString());
+    if (tool.opens == OpensAs::Losses)
+        openLosses(chosen);
 }
 
 /// A document to open, or the name of a new one.
@@ -261,6 +285,10 @@ bool Desktop::openIn(const ToolKind& tool, const QString& path) {
         return openTaking(path) != nullptr;
     if (tool.opens == OpensAs::Cross)
         return openCross(path) != nullptr;
+    if (tool.opens == OpensAs::Losses) {
+        openLosses({path});
+        return true;
+    }
     const QString file = canonicalPath(path);
     if (m_opening.contains(file) || raiseEditorOf(path))
         return true;
@@ -403,6 +431,34 @@ void Desktop::openRecordings(const QStringList& paths) {
     }
     bringToFront(*window);
     window->open(paths);
+}
+
+LossesWindow& Desktop::lossesWindow(const QStringList& paths) {
+    for (LossesWindow* const window : windowsOf<LossesWindow>())
+        if (window->paths() == paths) {
+            bringToFront(*window);
+            return *window;
+        }
+    auto* const window = new LossesWindow(m_workspace);
+    connect(window, &LossesWindow::pathsChanged, this, &Desktop::rememberSession);
+    return *window;
+}
+
+void Desktop::openLosses(const QStringList& paths, std::optional<std::size_t> run) {
+    if (paths.isEmpty())
+        return;
+    LossesWindow& window = lossesWindow(paths);
+    if (window.paths() != paths || run)
+        window.setPaths(paths, run);
+    if (!window.isVisible())
+        show(&window);
+}
+
+void Desktop::openSeasonLosses(const QStringList& paths, const QString& athlete) {
+    if (paths.isEmpty())
+        return;
+    openLosses(paths);
+    lossesWindow(paths).showSeasonOf(athlete);
 }
 
 void Desktop::loadPlanningAtStart() {

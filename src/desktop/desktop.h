@@ -20,6 +20,7 @@ class CrossWindow;
 class HeldDocuments;
 class MotionWindow;
 class HomeWindow;
+class LossesWindow;
 class RaceWindow;
 class TakingDocument;
 class TakingWindow;
@@ -68,6 +69,12 @@ public:
     void openRaces(const QStringList& paths, RaceWindow* into = nullptr);
     /// Opens raw recordings beside each other, in the window that has some where there is one.
     void openRecordings(const QStringList& paths);
+    /// Shows where time was lost in split files, and in folders with all below them, in one window;
+    /// the window that has just these comes to the front. `run` is one of the first file, counted
+    /// from 0, to look at.
+    void openLosses(const QStringList& paths, std::optional<std::size_t> run = std::nullopt);
+    /// The same with the season of an athlete.
+    void openSeasonLosses(const QStringList& paths, const QString& athlete);
     /// Opens the planning that the preferences name, where they ask for one.
     void loadPlanningAtStart();
 
@@ -88,6 +95,7 @@ private:
     /// Lets the coach choose what a tool is to open or begin.
     void choose(const ToolKind& tool);
     void chooseDocument(const ToolKind& tool);
+    void chooseFilesOrFolder(const ToolKind& tool);
     [[nodiscard]] ToolWindow* make(const ToolKind& tool);
     /// A planning of the server in a window of its own.
     void showPlanningCopy(const QByteArray& content, const QString& name);
@@ -101,6 +109,8 @@ private:
     void openFilm(const QString& path);
     void showMoment(const QString& path, int run, std::size_t split);
     [[nodiscard]] RaceWindow* makeRaceWindow();
+    /// The window that shows the losses of just these files, else a new one, in front.
+    LossesWindow& lossesWindow(const QStringList& paths);
     /// The window that shows a race; null when none does.
     [[nodiscard]] RaceWindow* windowOfRace(const QString& path) const;
     /// The split files of a folder; told when there are none.

@@ -27,10 +27,13 @@ void EarlierWork::rememberWindows() const {
 /// All are read first: what is opened is remembered at once in their place.
 bool EarlierWork::restoreWindows() const {
     QStringList races;
+    QStringList losses;
     QStringList others;
     for (const OpenFile& file : rememberedSession(m_workspace))
         if (file.kind == "race")
             races.append(file.path);
+        else if (file.kind == "losses")
+            losses.append(file.path);
         else if (file.kind == "taking")
             (void)m_program.openTaking(file.path);
         else if (file.kind == "cross")
@@ -39,6 +42,7 @@ bool EarlierWork::restoreWindows() const {
             others.append(file.path);
     if (!races.isEmpty())
         m_program.openRaces(races);
+    m_program.openLosses(losses);
     if (!others.isEmpty())
         m_program.openAll(others);
     return !m_program.windows().isEmpty();

@@ -25,6 +25,7 @@ enum class OpensAs {
     TestSession,
     Import,      ///< of a watch or a phone: taken into a session
     PowerList,   ///< of a power meter: taken into the session that is open
+    Losses,      ///< split files and folders, where the coach asks for it: none is known by content
     ResultsList, ///< official results: taken into a race
     NotReady
 };

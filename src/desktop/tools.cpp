@@ -1,6 +1,7 @@
 #include "desktop/tools.h"
 
 #include "desktop/cross/cross_window.h"
+#include "desktop/losses/losses_window.h"
 #include "desktop/motion/motion_window.h"
 #include "desktop/planning/planning_window.h"
 #include "desktop/race/race_window.h"
@@ -48,6 +49,14 @@ std::vector<ToolKind> makeTools() {
          Choice::Files,
          {tr("Open races"), tr("Split files"), "kvx", {}},
          makeReader<RaceWindow>},
+        {"losses",
+         OpensAs::Losses,
+         tr("Time losses"),
+         tr("Where each run lost its time, section by section, and a season's pattern."),
+         "losses",
+         Choice::FilesOrFolder,
+         {tr("Open split files"), tr("Split files"), "kvx", {}},
+         makeReader<LossesWindow>},
         {"taking",
          OpensAs::FolderOfFilms,
          tr("Split taking"),

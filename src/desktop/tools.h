@@ -22,6 +22,7 @@ struct ToolKind {
         Document, ///< one that was open before, another, or a new one
         Files,    ///< several
         Folder,
+        FilesOrFolder, ///< several, or one folder with all below it, in one window
     };
 
     QString kind; ///< that of its windows
