@@ -19,6 +19,7 @@
 #include "desktop/shell/settings_window.h"
 #include "desktop/shell/window_place.h"
 #include "desktop/taking/taking_window.h"
+#include "desktop/team/team_window.h"
 #include "desktop/tools.h"
 #include "sample/season.h"
 
@@ -328,6 +329,7 @@ RaceWindow* Desktop::makeRaceWindow() {
             [this, window](const QStringList& files) { openAll(files, window); });
     connect(window, &RaceWindow::takingRequested, this, &Desktop::openTaking);
     connect(window, &RaceWindow::momentRequested, this, &Desktop::showMoment);
+    connect(window, &RaceWindow::lossesRequested, this, &Desktop::openLosses);
     connect(window, &RaceWindow::viewsChanged, this, &Desktop::rememberSession);
     return window;
 }
@@ -397,6 +399,8 @@ void Desktop::show(ToolWindow* window) {
     if (auto* const planning = qobject_cast<PlanningWindow*>(window))
         connect(&planning->online(), &OnlinePlanning::copyRequested, this,
                 &Desktop::showPlanningCopy);
+    if (auto* const team = qobject_cast<TeamWindow*>(window))
+        connect(team, &TeamWindow::lossesRequested, this, &Desktop::askForSeasonLosses);
     const bool isConnected = qobject_cast<RaceWindow*>(window) ||
                              qobject_cast<TakingWindow*>(window) ||
                              qobject_cast<CrossWindow*>(window);
@@ -459,6 +463,19 @@ void Desktop::openSeasonLosses(const QStringList& paths, const QString& athlete)
         return;
     openLosses(paths);
     lossesWindow(paths).showSeasonOf(athlete);
+}
+
+/// A team does not know where its races are: the answer is remembered.
+void Desktop::askForSeasonLosses(const QString& athlete, const QString& teamFile) {
+    constexpr const char* FolderKey = "losses/folder";
+    const QString before = m_workspace.remembered(FolderKey).value(0);
+    const QString folder = QFileDialog::getExistingDirectory(
+        front(), tr("The folder with the races of %1").arg(athlete),
+        QFileInfo::exists(before) ? before : QFileInfo(teamFile).absolutePath());
+    if (folder.isEmpty())
+        return;
+    m_workspace.remember(FolderKey, {folder});
+    openSeasonLosses({folder}, athlete);
 }
 
 void Desktop::loadPlanningAtStart() {

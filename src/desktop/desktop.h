@@ -75,6 +75,8 @@ public:
     void openLosses(const QStringList& paths, std::optional<std::size_t> run = std::nullopt);
     /// The same with the season of an athlete.
     void openSeasonLosses(const QStringList& paths, const QString& athlete);
+    /// Asks in which folder the races of a team's athlete are, and opens the season there.
+    void askForSeasonLosses(const QString& athlete, const QString& teamFile);
     /// Opens the planning that the preferences name, where they ask for one.
     void loadPlanningAtStart();
 

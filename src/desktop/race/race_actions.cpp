@@ -175,6 +175,11 @@ void RaceActions::makeChartMenu() {
         add(*menu, titles[index], QKeySequence(Qt::ALT | static_cast<Qt::Key>(Qt::Key_1 + index)),
             [index](RaceView& view) { view.charts().goToChart(index); });
     menu->addSeparator();
+    add(*menu, tr("Time &losses"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_L),
+        [this](RaceView& view) {
+            emit m_window.lossesRequested({view.document().path()}, view.currentRun());
+        });
+    menu->addSeparator();
     add(*menu, tr("Show the &whole chart"), QKeySequence(Qt::CTRL | Qt::Key_0),
         [](RaceView& view) { view.charts().fit(); });
     add(*menu, tr("&Save the chart…"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_E),
