@@ -68,7 +68,7 @@ struct CumulativeGap {
 [[nodiscard]] CumulativeGap cumulativeGapOf(const RunLosses& losses);
 
 /// The gap at the end of a section, as the chart has it; 0 before the first one.
-[[nodiscard]] double gapAfter(const FactStore& facts, const RunLosses& losses,
-                              std::size_t section, Why* why = nullptr);
+[[nodiscard]] double gapAfter(const FactStore& facts, const RunLosses& losses, std::size_t section,
+                              Why* why = nullptr);
 
 } // namespace kavela

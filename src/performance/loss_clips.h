@@ -23,7 +23,8 @@ struct FilmSpan {
                                                  std::size_t first, std::size_t last);
 
 /// The run to watch beside another one: the reference's own, and of an ideal one that whose time
-/// the section is. Nothing for what nobody paddled: a median, or an ideal one over several sections.
+/// the section is. Nothing for what nobody paddled: a median, or an ideal one over several
+/// sections.
 [[nodiscard]] std::optional<std::size_t> runToWatch(const FactStore& facts,
                                                     const LossRivals& rivals,
                                                     const RunLosses& losses,

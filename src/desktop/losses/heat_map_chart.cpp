@@ -108,8 +108,8 @@ void HeatMapChart::paintCells(QCPPainter& painter) const {
         }
     if (m_section > 0 && m_section <= m_map.sections) {
         painter.setPen(QPen(line, 1, Qt::DashLine));
-        painter.drawRect(rectOf(0, m_section - 1)
-                             .united(rectOf(m_map.runs.size() - 1, m_section - 1)));
+        painter.drawRect(
+            rectOf(0, m_section - 1).united(rectOf(m_map.runs.size() - 1, m_section - 1)));
     }
     if (m_cursor) {
         painter.setPen(QPen(line, 2, Qt::DotLine));

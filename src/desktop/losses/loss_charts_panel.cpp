@@ -150,8 +150,7 @@ void LossChartsPanel::makeAnswers() {
     });
     answerWhy(&m_heatMap->plot(), [this](const QPoint& at) -> std::optional<Reason> {
         const auto place = m_heatMap->placeAt(at);
-        return place ? m_state.why(place->run, LossNumber::Percent, place->section)
-                     : std::nullopt;
+        return place ? m_state.why(place->run, LossNumber::Percent, place->section) : std::nullopt;
     });
     answerWhy(&m_pareto->plot(), [this](const QPoint& at) -> std::optional<Reason> {
         if (at.x() < 0)

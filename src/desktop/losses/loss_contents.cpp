@@ -27,7 +27,8 @@ ChartContent paretoContent(const LossState& state) {
         return content;
     content.emptyText = contentText("No section was slower than the reference's.");
     content.subtitle = paretoSentence(state);
-    ChartSeries lost{.name = contentText("Lost"), .points = {}, .form = ChartSeries::Form::Bars, .slot = 1};
+    ChartSeries lost{
+        .name = contentText("Lost"), .points = {}, .form = ChartSeries::Form::Bars, .slot = 1};
     ChartSeries share{.name = contentText("Together, %"), .points = {}, .slot = 0, .onRight = true};
     for (const ParetoBar& bar : paretoOf(state.losses())) {
         const auto place = static_cast<double>(content.categories.size());

@@ -96,10 +96,9 @@ Column<StretchLine> gateColumn(std::size_t gate, std::size_t gates) {
                 if (gate >= line.stretch.gates.size())
                     return Cell{};
                 const GateLoss& loss = line.stretch.gates[gate];
-                return Cell{.text = rowText("%1:  %2")
-                                        .arg(loss.gate)
-                                        .arg(shownSignedSeconds(loss.loss)),
-                            .number = loss.loss};
+                return Cell{
+                    .text = rowText("%1:  %2").arg(loss.gate).arg(shownSignedSeconds(loss.loss)),
+                    .number = loss.loss};
             }};
 }
 
@@ -122,9 +121,12 @@ QString fieldShown(const std::string& field) {
         const char* field;
         const char* shown;
     };
-    static constexpr std::array Words{Word{"combination", "Combination"}, Word{"detail", "Part"},
-                                      Word{"style", "Style"},             Word{"water", "Water"},
-                                      Word{"reason", "Reason"},           Word{"versus", "Against"}};
+    static constexpr std::array Words{Word{"combination", "Combination"},
+                                      Word{"detail", "Part"},
+                                      Word{"style", "Style"},
+                                      Word{"water", "Water"},
+                                      Word{"reason", "Reason"},
+                                      Word{"versus", "Against"}};
     const auto found = std::ranges::find(Words, field, &Word::field);
     return found == Words.end() ? qtText(field) : rowText(found->shown);
 }
@@ -167,22 +169,24 @@ StretchModel::Columns stretchColumns(std::size_t gates) {
                                                           : rowText("No film is known here")};
                       }),
         words<Line>("Kind", [](const Line& line) { return kindShown(line.stretch.kind); }),
-        numbers<Line>("Lost", [](const Line& line) { return shownCell(line.shown); },
-                      "Own time less the reference's; all of them add up to what is shown on top"),
-        numbers<Line>("Lost, %",
-                      [](const Line& line) {
-                          return Cell{.text = shownPercent(line.stretch.percent)
-                                                  .remove(QStringLiteral(" %")),
-                                      .number = line.stretch.percent};
-                      }),
+        numbers<Line>(
+            "Lost", [](const Line& line) { return shownCell(line.shown); },
+            "Own time less the reference's; all of them add up to what is shown on top"),
+        numbers<Line>(
+            "Lost, %",
+            [](const Line& line) {
+                return Cell{.text = shownPercent(line.stretch.percent).remove(QStringLiteral(" %")),
+                            .number = line.stretch.percent};
+            }),
         numbers<Line>("Time", [](const Line& line) { return timeCell(line.stretch.time); }),
-        numbers<Line>("Reference", [](const Line& line) { return timeCell(line.stretch.reference); }),
+        numbers<Line>("Reference",
+                      [](const Line& line) { return timeCell(line.stretch.reference); }),
     };
     for (std::size_t gate = 0; gate < gates; ++gate)
         columns.push_back(gateColumn(gate, gates));
-    columns.push_back(
-        numbers<Line>("Between", [](const Line& line) { return signedCell(line.stretch.between); },
-                      "Lost outside the upstream gates"));
+    columns.push_back(numbers<Line>(
+        "Between", [](const Line& line) { return signedCell(line.stretch.between); },
+        "Lost outside the upstream gates"));
     columns.push_back(
         numbers<Line>("Strokes", [](const Line& line) { return countCell(line.stretch.strokes); }));
     columns.push_back(numbers<Line>("Reference's strokes", [](const Line& line) {
@@ -233,11 +237,10 @@ RunModel::Columns runColumns(std::function<void(std::size_t run)> makeReference)
             return line.losses.sum ? shownCell(line.losses.shown.*number) : noCell();
         });
     };
-    Column<Line> reference{.title = rowText("Reference"),
-                           .tip = rowText("A tick makes the run what all are held against"),
-                           .show = [](const Line& line) {
-                               return Cell{.isTicked = line.isReference};
-                           }};
+    Column<Line> reference{
+        .title = rowText("Reference"),
+        .tip = rowText("A tick makes the run what all are held against"),
+        .show = [](const Line& line) { return Cell{.isTicked = line.isReference}; }};
     reference.tick = [makeReference](std::size_t, const Line& line, bool isTicked) {
         if (isTicked)
             makeReference(line.losses.run);
@@ -252,9 +255,9 @@ RunModel::Columns runColumns(std::function<void(std::size_t run)> makeReference)
         part("Paddling", &ShownLosses::paddling),
         part("Penalties", &ShownLosses::penalties),
         part("Timing", &ShownLosses::timing),
-        numbers<Line>("On expected time",
-                      [](const Line& line) { return signedCell(line.losses.xTimeDiff); },
-                      "Time without penalties less the expected time"),
+        numbers<Line>(
+            "On expected time", [](const Line& line) { return signedCell(line.losses.xTimeDiff); },
+            "Time without penalties less the expected time"),
     };
 }
 
@@ -282,7 +285,8 @@ std::optional<Reason> whyOf(const LossState& state, const RunLine& line, int col
 std::vector<GateLine> gateLines(const LossState& state) {
     std::vector<GateLine> lines;
     const auto add = [&](const GateLoss& gate, const QString& section) {
-        lines.push_back({gate, section, qtText(labelOf(LabelList::UpstreamDirection, gate.direction)),
+        lines.push_back({gate, section,
+                         qtText(labelOf(LabelList::UpstreamDirection, gate.direction)),
                          qtText(labelOf(LabelList::UpstreamStyle, gate.style))});
     };
     for (const Stretch& stretch : state.losses().stretches)
@@ -304,10 +308,12 @@ GateModel::Columns gateColumns() {
         numbers<Line>("Lost", [](const Line& line) { return signedCell(line.gate.loss); }),
         numbers<Line>("Time", [](const Line& line) { return timeCell(line.gate.time); }),
         numbers<Line>("Reference", [](const Line& line) { return timeCell(line.gate.reference); }),
-        numbers<Line>("Entrance", [](const Line& line) { return signedCell(line.gate.entrance); },
-                      "Lost up to the pole line"),
-        numbers<Line>("Exit", [](const Line& line) { return signedCell(line.gate.exit); },
-                      "Lost from the pole line on"),
+        numbers<Line>(
+            "Entrance", [](const Line& line) { return signedCell(line.gate.entrance); },
+            "Lost up to the pole line"),
+        numbers<Line>(
+            "Exit", [](const Line& line) { return signedCell(line.gate.exit); },
+            "Lost from the pole line on"),
     };
 }
 
@@ -346,10 +352,9 @@ NoteModel::Columns noteColumns() {
                         return line.note.text.empty() ? rowText("not noted")
                                                       : qtText(line.note.text).simplified();
                     }),
-        numbers<Line>("Notes",
-                      [](const Line& line) {
-                          return countCell(static_cast<std::int64_t>(line.note.count));
-                      }),
+        numbers<Line>(
+            "Notes",
+            [](const Line& line) { return countCell(static_cast<std::int64_t>(line.note.count)); }),
         numbers<Line>("Lost", [](const Line& line) { return signedCell(line.note.lost); }),
         numbers<Line>("Gained", [](const Line& line) { return signedCell(line.note.gained); }),
     };
@@ -361,8 +366,8 @@ std::optional<Reason> whyOf(const LossState& state, const NoteLine& line, int co
         return std::nullopt;
     const std::array run{state.run()};
     Why why;
-    (void)lossNotesOf(state.facts(), run,
-                      {line.note.field, line.note.key, column == NoteGainedAt}, &why);
+    (void)lossNotesOf(state.facts(), run, {line.note.field, line.note.key, column == NoteGainedAt},
+                      &why);
     return told(why);
 }
 
@@ -380,8 +385,9 @@ WayModel::Columns wayColumns() {
     using Line = WayLine;
     return {
         words<Line>("Way", [](const Line& line) { return qtText(line.way.title).simplified(); }),
-        numbers<Line>("Cost", [](const Line& line) { return signedCell(line.way.cost); },
-                      "Seconds of the chosen way over the fastest one timed"),
+        numbers<Line>(
+            "Cost", [](const Line& line) { return signedCell(line.way.cost); },
+            "Seconds of the chosen way over the fastest one timed"),
     };
 }
 

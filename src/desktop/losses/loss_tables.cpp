@@ -18,8 +18,7 @@ LossTables::LossTables(LossState& state, QWidget* parent)
       m_state(state),
       m_stretches(stretchColumns(1), [](const StretchLine& line) { return line.stretch.first; }),
       m_runs(runColumns([&state](std::size_t run) {
-                 state.setReference(
-                     {LossReferenceKind::Run, state.facts().runs()[run].number});
+                 state.setReference({LossReferenceKind::Run, state.facts().runs()[run].number});
              }),
              [](const RunLine& line) { return line.losses.run; }),
       m_gates(gateColumns(),
@@ -45,8 +44,7 @@ LossTables::LossTables(LossState& state, QWidget* parent)
         if (const int place = m_stretchTable->currentPlace(); place >= 0)
             emit stretchActivated(static_cast<std::size_t>(place));
     });
-    m_runTable->addCommand(tr("Hold all against this &run"), {},
-                           [this] { makeChosenReference(); });
+    m_runTable->addCommand(tr("Hold all against this &run"), {}, [this] { makeChosenReference(); });
     connectTables();
     makeAnswers();
     showState();
@@ -72,7 +70,8 @@ void LossTables::connectTables() {
             emit stretchActivated(
                 static_cast<std::size_t>(stretch - m_state.losses().stretches.data()));
     });
-    connect(m_runTable, &ColumnTable::activated, this, [this](const QModelIndex&) { goToTable(0); });
+    connect(m_runTable, &ColumnTable::activated, this,
+            [this](const QModelIndex&) { goToTable(0); });
 }
 
 void LossTables::makeAnswers() {
@@ -163,8 +162,8 @@ void LossTables::goToTable(int index) {
 
 void LossTables::makeChosenReference() {
     if (const int place = m_runTable->currentPlace(); place >= 0)
-        m_state.setReference({LossReferenceKind::Run,
-                              m_state.facts().runs()[m_runs.row(place).losses.run].number});
+        m_state.setReference(
+            {LossReferenceKind::Run, m_state.facts().runs()[m_runs.row(place).losses.run].number});
 }
 
 } // namespace kavela::desktop

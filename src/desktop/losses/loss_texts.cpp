@@ -51,8 +51,7 @@ QString shownSignedSeconds(double seconds) {
 QString shownPercent(double percent) {
     const QString text = shownNumber(percent, 1);
     const bool isNothing = std::abs(percent) < 0.05; // "-0.0" is no gain
-    return (isNothing ? shownNumber(0, 1) : percent > 0 ? '+' + text : text) +
-           QStringLiteral(" %");
+    return (isNothing ? shownNumber(0, 1) : percent > 0 ? '+' + text : text) + QStringLiteral(" %");
 }
 
 QString runTitle(const FactStore& facts, std::size_t run) {
@@ -151,10 +150,10 @@ QString waterfallSentence(const LossState& state) {
     if (most == parts.end() || *most <= 0)
         text = tr("No section was slower than the reference's.");
     else
-        text = tr("Most was lost in %1: %2 s of %3.")
-                   .arg(stretchTitle(
-                            losses.stretches[static_cast<std::size_t>(most - parts.begin())]),
-                        amount(*most), shownSigned(losses.shown.gap));
+        text =
+            tr("Most was lost in %1: %2 s of %3.")
+                .arg(stretchTitle(losses.stretches[static_cast<std::size_t>(most - parts.begin())]),
+                     amount(*most), shownSigned(losses.shown.gap));
     if (losses.shown.penalties != 0)
         text += ' ' + tr("Penalties make %1 of it.").arg(shownSigned(losses.shown.penalties));
     return text;
@@ -188,8 +187,7 @@ QString heatSentence(const LossState& state, const LossHeatMap& map) {
     if (!most || *map.percent[*most] <= 0)
         return tr("Nobody was slower than the reference in a section.");
     return tr("The greatest loss is that of %1 in S%2: %3 on %4.")
-        .arg(factText(state.facts(),
-                      state.facts().runs()[map.runs[*most / map.sections]].crew))
+        .arg(factText(state.facts(), state.facts().runs()[map.runs[*most / map.sections]].crew))
         .arg(*most % map.sections + 1)
         .arg(shownPercent(*map.percent[*most]), referenceTitle(state));
 }

@@ -34,8 +34,7 @@ void LossesActions::refresh() {
 
 void LossesActions::makeFileMenu() {
     LossesWindow* const window = &m_window;
-    QMenu* menu =
-        window->makeFileMenu({tr("&Open races…"), [window] { window->chooseFiles(); }});
+    QMenu* menu = window->makeFileMenu({tr("&Open races…"), [window] { window->chooseFiles(); }});
     menu->addAction(tr("Open a &folder of races…"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_O),
                     window, [window] { window->chooseFolder(); });
     menu->addAction(tr("&Read all again"), QKeySequence(Qt::Key_F5), window,
@@ -43,11 +42,10 @@ void LossesActions::makeFileMenu() {
     menu->addSeparator();
     menu->addAction(tr("Save the table as &CSV…"), QKeySequence(Qt::CTRL | Qt::Key_E), window,
                     [window] { window->saveTable(); });
-    menu->addAction(tr("&Save the chart…"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_E), window,
-                    [window] {
-                        window->isSeasonShown() ? window->season().askAndSave()
-                                                : window->charts().askAndSave();
-                    });
+    menu->addAction(
+        tr("&Save the chart…"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_E), window, [window] {
+            window->isSeasonShown() ? window->season().askAndSave() : window->charts().askAndSave();
+        });
 }
 
 void LossesActions::makeRunMenu() {
@@ -119,11 +117,11 @@ void LossesActions::makeViewMenu() {
     menu->addAction(tr("Show the whole &chart"), QKeySequence(Qt::CTRL | Qt::Key_0), window,
                     [window] { window->charts().fit(); });
     LossState& state = window->state();
-    QAction* const scale = menu->addAction(
-        tr("&Blue to orange instead of green to red"), QKeySequence(Qt::Key_B), window,
-        [&state](bool isOn) {
-            state.setScale(isOn ? ColourScale::BlueOrange : ColourScale::GreenRed);
-        });
+    QAction* const scale =
+        menu->addAction(tr("&Blue to orange instead of green to red"), QKeySequence(Qt::Key_B),
+                        window, [&state](bool isOn) {
+                            state.setScale(isOn ? ColourScale::BlueOrange : ColourScale::GreenRed);
+                        });
     scale->setCheckable(true);
     m_refreshers.push_back(
         [scale, &state] { scale->setChecked(state.scale() == ColourScale::BlueOrange); });

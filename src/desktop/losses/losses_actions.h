@@ -1,7 +1,7 @@
 #pragma once
 
-#include "performance/loss_reference.h"
 #include "desktop/shell/command_palette.h"
+#include "performance/loss_reference.h"
 
 #include <QKeySequence>
 #include <QObject>

@@ -213,23 +213,23 @@ void LossesWindow::showTitle() {
     if (all.size() == 1)
         name += QStringLiteral(" – ") + QFileInfo(all.front()).completeBaseName();
     else if (all.size() > 1)
-        name += QStringLiteral(" – ") + tr("%1 and %2 more")
-                                            .arg(QFileInfo(all.front()).completeBaseName())
-                                            .arg(all.size() - 1);
+        name +=
+            QStringLiteral(" – ") +
+            tr("%1 and %2 more").arg(QFileInfo(all.front()).completeBaseName()).arg(all.size() - 1);
     setWindowTitle(name + QStringLiteral(" – Kavela"));
 }
 
 void LossesWindow::chooseFiles() {
-    const QStringList files = QFileDialog::getOpenFileNames(
-        this, tr("Open races"), QFileInfo(paths().value(0)).path(),
-        tr("Split files (*.kvx);;All files (*)"));
+    const QStringList files =
+        QFileDialog::getOpenFileNames(this, tr("Open races"), QFileInfo(paths().value(0)).path(),
+                                      tr("Split files (*.kvx);;All files (*)"));
     if (!files.isEmpty())
         setPaths(files);
 }
 
 void LossesWindow::chooseFolder() {
-    const QString folder = QFileDialog::getExistingDirectory(
-        this, tr("Open a folder of races"), QFileInfo(paths().value(0)).path());
+    const QString folder = QFileDialog::getExistingDirectory(this, tr("Open a folder of races"),
+                                                             QFileInfo(paths().value(0)).path());
     if (!folder.isEmpty())
         setPaths({folder});
 }
@@ -271,10 +271,8 @@ void LossesWindow::playStretch(std::size_t place) {
     const FactStore& facts = m_state.facts();
     const auto own = filmSpanOf(facts, m_state.run(), stretch.first, stretch.last);
     const auto run = runToWatch(facts, m_state.rivals(), m_state.losses(), stretch);
-    const auto other =
-        run ? filmSpanOf(facts, *run, stretch.first, stretch.last) : std::nullopt;
-    play(own, other,
-         stretchTitle(stretch) + QStringLiteral("  ") + runTitle(facts, m_state.run()),
+    const auto other = run ? filmSpanOf(facts, *run, stretch.first, stretch.last) : std::nullopt;
+    play(own, other, stretchTitle(stretch) + QStringLiteral("  ") + runTitle(facts, m_state.run()),
          run ? runTitle(facts, *run) : referenceTitle(m_state));
 }
 

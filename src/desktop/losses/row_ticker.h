@@ -6,7 +6,8 @@
 
 namespace kavela::desktop {
 
-/// The names of rows beside a plot whose row k stands from k to k + 1: as many as there is room for.
+/// The names of rows beside a plot whose row k stands from k to k + 1: as many as there is room
+/// for.
 class RowTicker : public QCPAxisTicker {
 public:
     explicit RowTicker(const QCPAxisRect& rect) : m_rect(rect) {}

@@ -29,8 +29,9 @@ enum SeasonColumn { ByAt, WhatAt, RunsAt, LostAt, PercentAt, IntervalAt, PerRunA
 
 /// "-0.3 to 4.1 %"; below three runs nothing can be said.
 QString rangeText(const std::optional<Interval>& interval, int decimals) {
-    return interval ? SeasonPage::tr("%1 to %2").arg(shownNumber(interval->low, decimals),
-                                                     shownNumber(interval->high, decimals))
+    return interval ? SeasonPage::tr("%1 to %2")
+                          .arg(shownNumber(interval->low, decimals),
+                               shownNumber(interval->high, decimals))
                     : SeasonPage::tr("too few");
 }
 
@@ -134,10 +135,9 @@ SeasonPage::Rows::Columns SeasonPage::rowColumns() {
                 [](const Row& row) {
                     return seasonNumber(QString::number(row.runs), static_cast<double>(row.runs));
                 }),
-        numbers(tr("Lost"), tr("Seconds, of all runs together"),
-                [](const Row& row) {
-                    return seasonNumber(shownSignedSeconds(row.loss), row.loss);
-                }),
+        numbers(
+            tr("Lost"), tr("Seconds, of all runs together"),
+            [](const Row& row) { return seasonNumber(shownSignedSeconds(row.loss), row.loss); }),
         numbers(tr("Lost, %"), tr("Of the reference's time there"),
                 [](const Row& row) {
                     return seasonNumber(shownPercent(row.percent).remove(QStringLiteral(" %")),
@@ -150,19 +150,21 @@ SeasonPage::Rows::Columns SeasonPage::rowColumns() {
                 }),
         numbers(tr("Of the gap, %"), {},
                 [](const Row& row) {
-                    return row.share ? seasonNumber(shownNumber(*row.share * 100, 0),
-                                                    *row.share * 100)
-                                     : Cell{.text = QStringLiteral("–")};
+                    return row.share
+                               ? seasonNumber(shownNumber(*row.share * 100, 0), *row.share * 100)
+                               : Cell{.text = QStringLiteral("–")};
                 }),
         Column<Row>{.title = tr("Verdict"),
                     .tip = tr("What the interval says: losing where all of it is above 0"),
-                    .show = [](const Row& row) {
-                        if (!row.interval)
-                            return Cell{.text = tr("too few"), .look = Cell::Look::Quiet};
-                        return Cell{.text = qtText(verdictText(row.verdict)),
-                                    .look = row.verdict == LossVerdict::Losing ? Cell::Look::Bold
-                                                                               : Cell::Look::Plain};
-                    }},
+                    .show =
+                        [](const Row& row) {
+                            if (!row.interval)
+                                return Cell{.text = tr("too few"), .look = Cell::Look::Quiet};
+                            return Cell{.text = qtText(verdictText(row.verdict)),
+                                        .look = row.verdict == LossVerdict::Losing
+                                                    ? Cell::Look::Bold
+                                                    : Cell::Look::Plain};
+                        }},
     };
 }
 
@@ -171,9 +173,13 @@ SeasonPage::Clips::Columns SeasonPage::clipColumns() {
     return {
         textColumn<Line>(tr("See"), [](const Line& line) { return line.what; }),
         textColumn<Line>(tr("Run"), [](const Line& line) { return line.run; }),
-        Column<Line>{.title = tr("Lost"), .kind = ColumnKind::Number, .show = [](const Line& line) {
-                         return seasonNumber(shownSignedSeconds(line.clip.loss), line.clip.loss);
-                     }},
+        Column<Line>{.title = tr("Lost"),
+                     .kind = ColumnKind::Number,
+                     .show =
+                         [](const Line& line) {
+                             return seasonNumber(shownSignedSeconds(line.clip.loss),
+                                                 line.clip.loss);
+                         }},
     };
 }
 
@@ -254,12 +260,11 @@ void SeasonPage::refresh() {
         return;
     m_isStale = false;
     m_season = seasonLosses(m_state.facts(), query());
-    m_name = m_athlete ? *m_athlete
-             : m_state.hasRun()
-                 ? QStringList({factText(m_state.facts(), m_state.row().crew),
-                                factText(m_state.facts(), m_state.row().category)})
-                       .join(QStringLiteral(", "))
-                 : QString();
+    m_name = m_athlete          ? *m_athlete
+             : m_state.hasRun() ? QStringList({factText(m_state.facts(), m_state.row().crew),
+                                               factText(m_state.facts(), m_state.row().category)})
+                                      .join(QStringLiteral(", "))
+                                : QString();
     m_summary->setText(summaryText());
     m_advice->setText(adviceText());
     showRows();

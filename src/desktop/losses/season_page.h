@@ -68,7 +68,7 @@ private:
     [[nodiscard]] QString adviceText() const;
 
     LossState& m_state;
-    std::optional<QString> m_athlete; ///< another one than the run's
+    std::optional<QString> m_athlete;  ///< another one than the run's
     std::optional<std::string> m_crew; ///< of the run that was shown when that was asked
     QString m_name;
     SeasonLosses m_season;

@@ -119,9 +119,9 @@ void WaterfallChart::setLimits() {
         most = std::max(most, isTotal(bar) ? bar.to : std::max(bar.from, bar.to));
     }
     const double span = std::max(seconds(most - least), LeastWaterfall);
-    canvas().setLimits({-0.6, static_cast<double>(m_bars.size()) - 0.4},
-                       {seconds(least) - span * 2 * WaterfallHeadroom,
-                        seconds(most) + span * WaterfallHeadroom});
+    canvas().setLimits(
+        {-0.6, static_cast<double>(m_bars.size()) - 0.4},
+        {seconds(least) - span * 2 * WaterfallHeadroom, seconds(most) + span * WaterfallHeadroom});
 }
 
 QRectF WaterfallChart::rectOf(std::size_t bar) const {
@@ -178,19 +178,19 @@ void WaterfallChart::paintBar(QCPPainter& painter, std::size_t bar) const {
     painter.setFont(canvas().font());
     const QFontMetricsF metrics(canvas().font());
     const QString value = valueOf(bar);
-    if (const double room = std::abs(canvas().xAxis->coordToPixel(1) -
-                                     canvas().xAxis->coordToPixel(0));
+    if (const double room =
+            std::abs(canvas().xAxis->coordToPixel(1) - canvas().xAxis->coordToPixel(0));
         metrics.horizontalAdvance(value) > room && !isMarked(shown) && !isPointedAt)
         return; // too narrow: the read-out tells it
-    painter.drawText(QRectF(rect.center().x() - 100, rect.top() - metrics.height() - 2, 200,
-                            metrics.height()),
-                     Qt::AlignCenter, value);
+    painter.drawText(
+        QRectF(rect.center().x() - 100, rect.top() - metrics.height() - 2, 200, metrics.height()),
+        Qt::AlignCenter, value);
 }
 
 std::optional<std::size_t> WaterfallChart::barAt(const QPoint& position) const {
     if (position.x() < 0) {
-        const auto marked = std::ranges::find_if(
-            m_bars, [this](const WaterfallBar& bar) { return isMarked(bar); });
+        const auto marked =
+            std::ranges::find_if(m_bars, [this](const WaterfallBar& bar) { return isMarked(bar); });
         return m_cursor || marked == m_bars.end()
                    ? m_cursor
                    : std::optional(static_cast<std::size_t>(marked - m_bars.begin()));
@@ -262,9 +262,9 @@ QString WaterfallChart::csvText() const {
     const QCPRange shown = canvas().xAxis->range();
     for (std::size_t bar = 0; bar < m_bars.size(); ++bar)
         if (shown.contains(static_cast<double>(bar)))
-            text += csvLine({titleOf(bar), csvNumber(seconds(m_bars[bar].to - m_bars[bar].from)),
-                             csvNumber(seconds(m_bars[bar].from)),
-                             csvNumber(seconds(m_bars[bar].to))});
+            text +=
+                csvLine({titleOf(bar), csvNumber(seconds(m_bars[bar].to - m_bars[bar].from)),
+                         csvNumber(seconds(m_bars[bar].from)), csvNumber(seconds(m_bars[bar].to))});
     return text;
 }
 

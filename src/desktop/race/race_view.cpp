@@ -382,8 +382,8 @@ void RaceView::requestMoment(const QModelIndex& index) {
 std::optional<std::size_t> RaceView::currentRun() const {
     const QModelIndex current = m_table->currentIndex();
     const auto shown = current.isValid() ? m_model.runOfRow(current.row()) : std::nullopt;
-    return shown ? std::optional(static_cast<std::size_t>(
-                       m_document.shownSet().alldata[*shown].athleteInt))
+    return shown ? std::optional(
+                       static_cast<std::size_t>(m_document.shownSet().alldata[*shown].athleteInt))
                  : std::nullopt;
 }
 
