@@ -3,6 +3,7 @@
 #include "common/error.h"
 #include "desktop/cross/cross_window.h"
 #include "desktop/find/find_window.h"
+#include "desktop/losses/losses_window.h"
 #include "desktop/motion/motion_window.h"
 #include "desktop/penalties/penalties_window.h"
 #include "desktop/planning/online/online_dialog.h"
@@ -20,6 +21,7 @@
 #include "desktop/shell/settings_window.h"
 #include "desktop/shell/window_place.h"
 #include "desktop/taking/taking_window.h"
+#include "desktop/team/team_window.h"
 #include "desktop/tools.h"
 #include "sample/season.h"
 
@@ -191,6 +193,8 @@ void Desktop::chooseFilesOrFolder(const ToolKind& tool) {
     chosen.removeAll(QString());
     if (tool.opens == OpensAs::Penalties)
         openPenalties(chosen);
+    if (tool.opens == OpensAs::Losses)
+        openLosses(chosen);
 }
 
 /// A document to open, or the name of a new one.
@@ -301,6 +305,10 @@ bool Desktop::openIn(const ToolKind& tool, const QString& path) {
         openPenalties({path});
         return true;
     }
+    if (tool.opens == OpensAs::Losses) {
+        openLosses({path});
+        return true;
+    }
     const QString file = canonicalPath(path);
     if (m_opening.contains(file) || raiseEditorOf(path))
         return true;
@@ -366,6 +374,7 @@ RaceWindow* Desktop::makeRaceWindow() {
     connect(window, &RaceWindow::takingRequested, this, &Desktop::openTaking);
     connect(window, &RaceWindow::momentRequested, this, &Desktop::showMoment);
     connect(window, &RaceWindow::penaltiesRequested, this, &Desktop::openPenalties);
+    connect(window, &RaceWindow::lossesRequested, this, &Desktop::openLosses);
     connect(window, &RaceWindow::viewsChanged, this, &Desktop::rememberSession);
     return window;
 }
@@ -441,6 +450,8 @@ void Desktop::show(ToolWindow* window) {
     if (auto* const planning = qobject_cast<PlanningWindow*>(window))
         connect(&planning->online(), &OnlinePlanning::copyRequested, this,
                 &Desktop::showPlanningCopy);
+    if (auto* const team = qobject_cast<TeamWindow*>(window))
+        connect(team, &TeamWindow::lossesRequested, this, &Desktop::askForSeasonLosses);
     const bool isConnected = qobject_cast<RaceWindow*>(window) ||
                              qobject_cast<TakingWindow*>(window) ||
                              qobject_cast<CrossWindow*>(window);
@@ -483,6 +494,8 @@ void Desktop::openFind(const QStringList& paths) {
     if (!window) {
         window = new FindWindow(m_workspace);
         connect(window, &FindWindow::pathsChanged, this, &Desktop::rememberSession);
+        connect(window, &FindWindow::lossesRequested, this,
+                [this](const QString& path, std::size_t run) { openLosses({path}, run); });
         show(window);
     }
     bringToFront(*window);
@@ -501,6 +514,47 @@ void Desktop::openPenalties(const QStringList& paths) {
     window->setPaths(paths);
     connect(window, &PenaltiesWindow::pathsChanged, this, &Desktop::rememberSession);
     show(window);
+}
+
+LossesWindow& Desktop::lossesWindow(const QStringList& paths) {
+    for (LossesWindow* const window : windowsOf<LossesWindow>())
+        if (window->paths() == paths) {
+            bringToFront(*window);
+            return *window;
+        }
+    auto* const window = new LossesWindow(m_workspace);
+    connect(window, &LossesWindow::pathsChanged, this, &Desktop::rememberSession);
+    return *window;
+}
+
+void Desktop::openLosses(const QStringList& paths, std::optional<std::size_t> run) {
+    if (paths.isEmpty())
+        return;
+    LossesWindow& window = lossesWindow(paths);
+    if (window.paths() != paths || run)
+        window.setPaths(paths, run);
+    if (!window.isVisible())
+        show(&window);
+}
+
+void Desktop::openSeasonLosses(const QStringList& paths, const QString& athlete) {
+    if (paths.isEmpty())
+        return;
+    openLosses(paths);
+    lossesWindow(paths).showSeasonOf(athlete);
+}
+
+/// A team does not know where its races are: the answer is remembered.
+void Desktop::askForSeasonLosses(const QString& athlete, const QString& teamFile) {
+    constexpr const char* FolderKey = "losses/folder";
+    const QString before = m_workspace.remembered(FolderKey).value(0);
+    const QString folder = QFileDialog::getExistingDirectory(
+        front(), tr("The folder with the races of %1").arg(athlete),
+        QFileInfo::exists(before) ? before : QFileInfo(teamFile).absolutePath());
+    if (folder.isEmpty())
+        return;
+    m_workspace.remember(FolderKey, {folder});
+    openSeasonLosses({folder}, athlete);
 }
 
 void Desktop::loadPlanningAtStart() {

@@ -23,6 +23,7 @@ class CrossWindow;
 class HeldDocuments;
 class MotionWindow;
 class HomeWindow;
+class LossesWindow;
 class RaceWindow;
 class TakingDocument;
 class TakingWindow;
@@ -76,6 +77,14 @@ public:
     /// Shows the penalties of split files, and of folders with all below them, in one window; the
     /// window that has just these comes to the front.
     void openPenalties(const QStringList& paths);
+    /// Shows where time was lost in split files, and in folders with all below them, in one window;
+    /// the window that has just these comes to the front. `run` is one of the first file, counted
+    /// from 0, to look at.
+    void openLosses(const QStringList& paths, std::optional<std::size_t> run = std::nullopt);
+    /// The same with the season of an athlete.
+    void openSeasonLosses(const QStringList& paths, const QString& athlete);
+    /// Asks in which folder the races of a team's athlete are, and opens the season there.
+    void askForSeasonLosses(const QString& athlete, const QString& teamFile);
     /// Opens the planning that the preferences name, where they ask for one.
     void loadPlanningAtStart();
 
@@ -132,6 +141,8 @@ private:
     /// after a message, when it is gone.
     [[nodiscard]] TakingWindow* showRun(const QString& path, std::size_t run);
     [[nodiscard]] RaceWindow* makeRaceWindow();
+    /// The window that shows the losses of just these files, else a new one, in front.
+    LossesWindow& lossesWindow(const QStringList& paths);
     /// The window that shows a race; null when none does.
     [[nodiscard]] RaceWindow* windowOfRace(const QString& path) const;
     /// The split files of a folder; told when there are none.

@@ -28,11 +28,14 @@ void EarlierWork::rememberWindows() const {
 bool EarlierWork::restoreWindows() const {
     QStringList races;
     QStringList penalties;
+    QStringList losses;
     QStringList others;
     QStringList searched;
     for (const OpenFile& file : rememberedSession(m_workspace))
         if (file.kind == "race")
             races.append(file.path);
+        else if (file.kind == "losses")
+            losses.append(file.path);
         else if (file.kind == "taking")
             (void)m_program.openTaking(file.path);
         else if (file.kind == "cross")
@@ -46,6 +49,7 @@ bool EarlierWork::restoreWindows() const {
     if (!races.isEmpty())
         m_program.openRaces(races);
     m_program.openPenalties(penalties);
+    m_program.openLosses(losses);
     if (!others.isEmpty())
         m_program.openAll(others);
     if (!searched.isEmpty())

@@ -26,6 +26,7 @@ enum class OpensAs {
     Import,      ///< of a watch or a phone: taken into a session
     PowerList,   ///< of a power meter: taken into the session that is open
     Find,        ///< the search, which opens no file of its own
+    Losses,      ///< split files and folders, where the coach asks for it: none is known by content
     ResultsList, ///< official results: taken into a race
     Penalties,   ///< split files and folders, where the coach asks for it: none is known by content
     NotReady

@@ -2,6 +2,7 @@
 
 #include "desktop/cross/cross_window.h"
 #include "desktop/find/find_window.h"
+#include "desktop/losses/losses_window.h"
 #include "desktop/motion/motion_window.h"
 #include "desktop/penalties/penalties_window.h"
 #include "desktop/planning/planning_window.h"
@@ -50,6 +51,14 @@ std::vector<ToolKind> makeTools() {
          Choice::Files,
          {tr("Open races"), tr("Split files"), "kvx", {}},
          makeReader<RaceWindow>},
+        {"losses",
+         OpensAs::Losses,
+         tr("Time losses"),
+         tr("Where each run lost its time, section by section, and a season's pattern."),
+         "losses",
+         Choice::FilesOrFolder,
+         {tr("Open split files"), tr("Split files"), "kvx", {}},
+         makeReader<LossesWindow>},
         {"taking",
          OpensAs::FolderOfFilms,
          tr("Split taking"),

@@ -1,5 +1,8 @@
 #include "performance/loss_charts.h"
 
+#include "analysis/cell_text.h"
+#include "performance/loss_rules.h"
+
 #include <algorithm>
 #include <cmath>
 
@@ -57,6 +60,19 @@ LossHeatMap heatMapOf(const FactStore& facts, std::span<const RunLosses> runs) {
     return map;
 }
 
+std::vector<Band> heatBandsOf(const LossHeatMap& map) {
+    constexpr double Reference = 100; // percent: the scale takes 0 for a time that is not known
+    Column shares;
+    for (const auto& percent : map.percent)
+        if (percent)
+            shares.push_back(Reference + *percent);
+    const ColumnScale scale(shares, 1, 1);
+    std::vector<Band> bands;
+    for (const auto& percent : map.percent)
+        bands.push_back(percent ? scale.bandOf(Reference + *percent) : Band::Clear);
+    return bands;
+}
+
 CumulativeGap cumulativeGapOf(const RunLosses& losses) {
     CumulativeGap gap;
     gap.points.push_back({});
@@ -65,6 +81,21 @@ CumulativeGap cumulativeGapOf(const RunLosses& losses) {
     if (losses.referenceTotal)
         for (const InterestGap& interest : losses.interests)
             gap.interests.push_back(interest.time - *losses.referenceTotal);
+    return gap;
+}
+
+double gapAfter(const FactStore& facts, const RunLosses& losses, std::size_t section, Why* why) {
+    double gap = 0;
+    for (const Stretch& stretch : losses.stretches) {
+        if (stretch.last > section)
+            break;
+        gap += stretch.loss;
+        if (why)
+            why->input(sectionsText(stretch.first, stretch.last), stretch.loss,
+                       lossPlace(facts, losses.run, stretch.last));
+    }
+    if (why)
+        why->result(ruleOf(LossRule::GapSoFar), gap, signedHundredths(gap));
     return gap;
 }
 

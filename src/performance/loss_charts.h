@@ -1,5 +1,6 @@
 #pragma once
 
+#include "analysis/colouring.h"
 #include "performance/losses.h"
 
 #include <cstddef>
@@ -50,6 +51,10 @@ struct LossHeatMap {
 
 [[nodiscard]] LossHeatMap heatMapOf(const FactStore& facts, std::span<const RunLosses> runs);
 
+/// The tints of its cells, row by row: one scale from percentiles for the whole map, so that the
+/// sections can be held against each other. Clear where nothing is known.
+[[nodiscard]] std::vector<Band> heatBandsOf(const LossHeatMap& map);
+
 /// The gap as it grows along the course.
 struct CumulativeGap {
     struct Point {
@@ -61,5 +66,9 @@ struct CumulativeGap {
 };
 
 [[nodiscard]] CumulativeGap cumulativeGapOf(const RunLosses& losses);
+
+/// The gap at the end of a section, as the chart has it; 0 before the first one.
+[[nodiscard]] double gapAfter(const FactStore& facts, const RunLosses& losses, std::size_t section,
+                              Why* why = nullptr);
 
 } // namespace kavela

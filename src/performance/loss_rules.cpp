@@ -52,8 +52,10 @@ constexpr std::array LossRuleTable{
     Rule{"loss.season.gap", "The mean gap of the whole runs.", "Σgap / n", "interval: Student's t"},
     Rule{"loss.season.penalties", "The mean difference of penalties of the whole runs.",
          "Σ(own − reference) / n", "interval: Student's t"},
+    Rule{"loss.sofar", "What was lost on the water up to a mark: all stretches before it.",
+         "Σ losses to here", ""},
 };
-static_assert(LossRuleTable.size() == static_cast<std::size_t>(LossRule::SeasonPenalties) + 1);
+static_assert(LossRuleTable.size() == static_cast<std::size_t>(LossRule::GapSoFar) + 1);
 
 } // namespace
 

@@ -33,6 +33,7 @@ enum class LossRule {
     SeasonShare,     ///< of a row of the season
     SeasonGap,       ///< mean of the season
     SeasonPenalties, ///< mean of the season
+    GapSoFar,        ///< of the stretches up to a mark
 };
 
 [[nodiscard]] const Rule& ruleOf(LossRule rule);

@@ -177,6 +177,10 @@ void RaceActions::makeChartMenu() {
     menu->addSeparator();
     menu->addAction(tr("&Penalties"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_P), &m_window,
                     [this] { emit m_window.penaltiesRequested({m_window.document().path()}); });
+    add(*menu, tr("Time &losses"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_L),
+        [this](RaceView& view) {
+            emit m_window.lossesRequested({view.document().path()}, view.currentRun());
+        });
     menu->addSeparator();
     add(*menu, tr("Show the &whole chart"), QKeySequence(Qt::CTRL | Qt::Key_0),
         [](RaceView& view) { view.charts().fit(); });

@@ -383,6 +383,14 @@ void RaceView::requestMoment(const QModelIndex& index) {
     emit momentRequested(static_cast<int>(run.athleteInt), static_cast<std::size_t>(section) + 1);
 }
 
+std::optional<std::size_t> RaceView::currentRun() const {
+    const QModelIndex current = m_table->currentIndex();
+    const auto shown = current.isValid() ? m_model.runOfRow(current.row()) : std::nullopt;
+    return shown ? std::optional(
+                       static_cast<std::size_t>(m_document.shownSet().alldata[*shown].athleteInt))
+                 : std::nullopt;
+}
+
 void RaceView::noticeChange() {
     if (QFileInfo::exists(m_document.path()))
         showNote(tr("The file on the disk is newer than what you see."), true);

@@ -64,6 +64,8 @@ public:
     void findName();
     void clearFilter();
     void selectRun(std::size_t run);
+    /// The run of the file in the current row; none in a comparison row and without a row.
+    [[nodiscard]] std::optional<std::size_t> currentRun() const;
     void copySelection();
     void saveCsv();
     /// Shows the reports of the race as they come out of the printer.

@@ -3,6 +3,7 @@
 #include "desktop/shell/tool_window.h"
 #include "splitdata/document.h"
 
+#include <optional>
 #include <vector>
 
 class QSplitter;
@@ -50,6 +51,8 @@ signals:
     void viewsChanged();
     /// The race in front is to be timed, or timed on.
     void takingRequested(const QString& path);
+    /// Where time was lost is to be shown: of a run of the file, or of any.
+    void lossesRequested(const QStringList& paths, std::optional<std::size_t> run);
     /// The frame behind a time is wanted: of a run of the file, of a split counted from 1.
     void momentRequested(const QString& path, int run, std::size_t split);
     /// The penalties of the race in front are to be shown in a window of their own.

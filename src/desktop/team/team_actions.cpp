@@ -50,6 +50,9 @@ void makeTeamMenu(TeamWindow& window) {
     menu->addAction(tr("Move season or race &down"), QKeySequence(Qt::ALT | Qt::Key_Down), &window,
                     [&window] { window.results().move(1); });
     menu->addSeparator();
+    menu->addAction(tr("Where the athlete &loses time…"),
+                    QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_L), &window,
+                    [&window] { window.requestLosses(); });
     menu->addAction(tr("Compute all a&verages again"), &window,
                     [&window] { window.document().recomputeAllAverages(); });
 }

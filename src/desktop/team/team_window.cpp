@@ -125,6 +125,12 @@ void TeamWindow::addAthlete(myTeamStruct athlete) {
     m_athletes->choose(m_document->athletes().size() - 1);
 }
 
+void TeamWindow::requestLosses() {
+    if (const auto athlete = m_athletes->athlete())
+        emit lossesRequested(QString::fromStdString(document().athletes()[*athlete].name),
+                             document().path());
+}
+
 void TeamWindow::askForAthlete() {
     TeamAthleteDialog dialog(
         [this](const QString& name) { return checkedName(*m_document, name, std::nullopt); },

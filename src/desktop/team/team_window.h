@@ -44,10 +44,16 @@ public:
     /// Shows what split files or official lists have, and enters what was ticked.
     void takeOverFrom(const QStringList& paths);
 
+    /// Asks for the season of the chosen athlete's losses.
+    void requestLosses();
     void askForAthlete();
     void askForResults();
     void previewCategorization();
     void saveChart();
+
+signals:
+    /// Where an athlete of the team loses time is to be shown.
+    void lossesRequested(const QString& athlete, const QString& teamFile);
 
 protected:
     void takeFiles(const QStringList& paths) override;

@@ -1,0 +1,218 @@
+#include "desktop/losses/losses_window.h"
+
+#include "common/json_encode.h"
+#include "common/recorders.h"
+#include "common/temp_folder.h"
+#include "desktop/charts/chart_plot.h"
+#include "desktop/desktop.h"
+#include "desktop/film/clip_pair.h"
+#include "desktop/losses/heat_map_chart.h"
+#include "desktop/losses/loss_charts_panel.h"
+#include "desktop/losses/loss_header.h"
+#include "desktop/losses/loss_rows.h"
+#include "desktop/losses/loss_tables.h"
+#include "desktop/losses/run_picker.h"
+#include "desktop/losses/season_page.h"
+#include "desktop/losses/waterfall_chart.h"
+#include "desktop/shell/tables/column_table.h"
+#include "desktop/shell/workspace.h"
+#include "performance/loss_races.h"
+
+#include <gmock/gmock.h>
+
+#include <QComboBox>
+#include <QLineEdit>
+#include <QTest>
+
+#include <numeric>
+
+/// The window of losses: what it shows adds up, and all its parts show the same.
+namespace kavela::test {
+namespace {
+
+namespace fs = std::filesystem;
+using namespace kavela::desktop;
+using ::testing::HasSubstr;
+using ::testing::IsEmpty;
+using ::testing::SizeIs;
+
+splittakerdata031 threeRuns() {
+    return lossRace(3, {lossRun({"Ada Sample"}, {10.004, 20.004, 30.004}),
+                        lossRun({"Bea Sample"}, {11, 20.5, 29.8}),
+                        lossRun({"Ondřej Skalboř"}, {10.4, 22.224, 31.008})});
+}
+
+class LossesWindowTest : public ::testing::Test {
+protected:
+    LossesWindowTest() {
+        m_workspace.setAlerts(&m_recorder);
+        m_window.setAttribute(Qt::WA_DeleteOnClose, false);
+        m_window.show();
+    }
+    ~LossesWindowTest() override { EXPECT_THAT(m_recorder.alerts, IsEmpty()); }
+
+    QString add(const std::string& name, const splittakerdata031& race) {
+        return QString::fromStdString(m_folder.add(name, encode(race)).string());
+    }
+
+    [[nodiscard]] bool open(const QStringList& paths, std::optional<std::size_t> run = {}) {
+        m_window.setPaths(paths, run);
+        return QTest::qWaitFor([this] { return !m_window.facts().isReading(); }) &&
+               QTest::qWaitFor([this] { return m_window.state().hasRun(); });
+    }
+
+    static QString cell(const ColumnTable& table, int place, int column) {
+        return table.cellAt(place, column).data().toString();
+    }
+
+    LossState& state() { return m_window.state(); }
+
+    TempFolder m_folder;
+    Recorder m_recorder;
+    Workspace m_workspace{Preferences(m_folder.path() / "preferences.ini"), m_recorder.log(),
+                          [] { return ReferenceDate{7e8}; }};
+    LossesWindow m_window{m_workspace};
+};
+
+} // namespace
+
+TEST_F(LossesWindowTest, ShowsASumThatAddsUpToTheHundredth) {
+    ASSERT_TRUE(open({add("race.kvx", threeRuns())}, 2));
+    EXPECT_EQ(m_window.header().sentence(), "Ondřej Skalboř, Final  +3.62 on winner");
+    const WaterfallChart& chart = m_window.charts().waterfall();
+    ASSERT_THAT(chart.bars(), SizeIs(5)) << "no penalties, no timing";
+    EXPECT_EQ(chart.valueOf(0), "60.01");
+    EXPECT_EQ(chart.valueOf(4), "63.63");
+    EXPECT_EQ(chart.bars()[3].to, chart.bars()[4].to) << "the last part ends at the total";
+    const ColumnTable& table = m_window.tables().stretches();
+    double sum = 0;
+    for (int place = 0; place < 3; ++place) {
+        EXPECT_EQ(cell(table, place, 2), chart.valueOf(static_cast<std::size_t>(place) + 1));
+        sum += cell(table, place, 2).toDouble();
+    }
+    EXPECT_NEAR(sum, 3.62, 1e-9);
+    EXPECT_THAT(m_window.charts().waterfall().plot().subtitle().toStdString(),
+                HasSubstr("Most was lost in S2: 2.22 s of +3.62."));
+}
+
+TEST_F(LossesWindowTest, LinksTablesChartsAndReference) {
+    ASSERT_TRUE(open({add("race.kvx", threeRuns())}, 2));
+    m_window.tables().stretches().choose(1);
+    EXPECT_EQ(state().section(), 2U);
+    EXPECT_EQ(m_window.charts().waterfall().barAt({-1, -1}), 2U);
+    HeatMapChart& map = m_window.charts().heatMap();
+    EXPECT_EQ(map.placeAt({-1, -1}), (HeatMapChart::Place{2, 2}));
+
+    m_window.tables().runs().choose(1);
+    EXPECT_EQ(state().run(), 1U);
+    EXPECT_EQ(state().section(), 2U) << "the same section of the other run";
+    emit map.cellActivated(2, 3);
+    EXPECT_EQ(state().run(), 2U);
+    EXPECT_EQ(m_window.tables().runs().currentPlace(), 2);
+    EXPECT_EQ(m_window.tables().stretches().currentPlace(), 2);
+
+    map.toggleSeries(1); // a click on the second name
+    EXPECT_EQ(state().losses().referenceRun, 1U);
+    EXPECT_EQ(m_window.header().sentence(), "Ondřej Skalboř, Final  +2.33 on Bea Sample, Final");
+    EXPECT_EQ(m_window.header().references().currentData(), "run:1");
+    const QModelIndex tick = m_window.tables().runs().cellAt(0, 3);
+    m_window.tables().runs().model()->setData(tick, Qt::Checked, Qt::CheckStateRole);
+    EXPECT_EQ(state().losses().referenceRun, 0U);
+}
+
+TEST_F(LossesWindowTest, PaintsTheMapByTheScaleAndSaysTheNumbers) {
+    ASSERT_TRUE(open({add("race.kvx", threeRuns())}));
+    HeatMapChart& map = m_window.charts().heatMap();
+    EXPECT_EQ(map.textOf(0, 0), "0.0") << "the winner";
+    EXPECT_EQ(map.textOf(2, 1), "+11.1");
+    const auto green = map.tintOf(0, 0);
+    ASSERT_TRUE(green);
+    EXPECT_NE(green, map.tintOf(2, 1));
+    state().setScale(ColourScale::BlueOrange);
+    ASSERT_TRUE(map.tintOf(0, 0));
+    EXPECT_NE(map.tintOf(0, 0), green);
+    EXPECT_THAT(map.csv().toStdString(), HasSubstr("Ondřej Skalboř"));
+}
+
+TEST_F(LossesWindowTest, FindsARunByItsLettersWhateverTheirAccents) {
+    ASSERT_TRUE(open({add("race.kvx", threeRuns())}));
+    RunPicker& picker = m_window.header().picker();
+    EXPECT_EQ(picker.found("SKALBOR final"), 2U);
+    EXPECT_FALSE(picker.found("nobody"));
+    picker.setEditText("skalb");
+    emit picker.lineEdit()->editingFinished();
+    EXPECT_EQ(state().run(), 2U);
+    EXPECT_EQ(picker.currentText(), "Ondřej Skalboř, Final · K1M");
+}
+
+TEST_F(LossesWindowTest, EveryNumberOfTheSumTellsWhy) {
+    ASSERT_TRUE(open({add("race.kvx", threeRuns())}, 2));
+    const StretchLine line = stretchLines(state()).at(1);
+    const auto lost = whyOf(state(), line, 2, 1);
+    ASSERT_TRUE(lost);
+    EXPECT_EQ(lost->value, line.stretch.loss);
+    EXPECT_THAT(lost->inputs, SizeIs(2));
+    EXPECT_FALSE(whyOf(state(), line, 1, 1)) << "a word is no number";
+    const auto gap = state().why(LossNumber::Gap);
+    ASSERT_TRUE(gap);
+    EXPECT_EQ(gap->value, state().losses().sum->gap);
+    EXPECT_TRUE(whyOf(state(), runLines(state()).at(1), 6)) << "paddling of another run";
+}
+
+TEST_F(LossesWindowTest, SaysThatThereIsNoFilm) {
+    ASSERT_TRUE(open({add("race.kvx", threeRuns())}, 2));
+    m_window.playChosen();
+    EXPECT_THAT(m_window.status().toStdString(), HasSubstr("Choose a section"));
+    emit m_window.charts().waterfall().stretchActivated(1);
+    EXPECT_EQ(state().section(), 2U);
+    EXPECT_THAT(m_window.status().toStdString(), HasSubstr("No film"));
+    EXPECT_FALSE(m_window.clips().isVisible());
+}
+
+TEST_F(LossesWindowTest, StaysWithTheCrewWhenTheFileChanges) {
+    splittakerdata031 race = threeRuns();
+    const QString path = add("race.kvx", race);
+    ASSERT_TRUE(open({path}, 2));
+    state().setReference({LossReferenceKind::Run, 1});
+    FactStore changed;
+    race.athletes.insert(race.athletes.begin(), lossRun({"New One"}, {12, 22, 32}));
+    changed.add(race, std::string(state().facts().text(state().file().path)));
+    state().setFacts(std::make_shared<const FactStore>(std::move(changed)));
+    EXPECT_EQ(state().run(), 3U);
+    EXPECT_EQ(state().losses().referenceRun, 2U) << "still Bea Sample";
+}
+
+TEST_F(LossesWindowTest, ShowsWhereAnAthleteLosesTimeOverASeason) {
+    QStringList paths;
+    for (int day = 0; day < 4; ++day) {
+        auto race = lossRace(2, {lossRun({"Best One"}, {40, 50}),
+                                 lossRun({"Ada Sample"}, {42 + 0.1 * day, 50.1 - 0.1 * day})});
+        race.info.gates = 2;
+        race.info.upGates = {1};
+        race.info.definedsections = {{1}, {2}};
+        paths << add("race" + std::to_string(day) + ".kvx", race);
+    }
+    ASSERT_TRUE(open(paths));
+    m_window.showSeasonOf("SAMPLE Ada");
+    ASSERT_TRUE(QTest::qWaitFor([this] { return !m_window.season().season().rows.empty(); }));
+    EXPECT_THAT(m_window.season().summary().toStdString(), HasSubstr("4 whole runs in 4 files"));
+    EXPECT_THAT(m_window.season().advice().toStdString(), HasSubstr("upstream"));
+    ASSERT_GT(m_window.season().clips().model()->rowCount(), 0);
+    state().setRun(0); // another crew
+    EXPECT_THAT(m_window.season().summary().toStdString(), HasSubstr("Best One"));
+}
+
+TEST_F(LossesWindowTest, OpensOnceForTheSameFiles) {
+    Desktop program(m_workspace);
+    const QString path = add("race.kvx", threeRuns());
+    program.openLosses({path}, 1);
+    program.openLosses({path}, 2);
+    ASSERT_THAT(program.windowsOf<LossesWindow>(), SizeIs(1));
+    LossesWindow& window = *program.windowsOf<LossesWindow>().front();
+    EXPECT_TRUE(
+        QTest::qWaitFor([&] { return window.state().hasRun() && window.state().run() == 2; }));
+    program.openLosses({});
+    EXPECT_THAT(program.windowsOf<LossesWindow>(), SizeIs(1)) << "nothing was chosen";
+}
+
+} // namespace kavela::test
