@@ -2,15 +2,15 @@
 
 #include <QList>
 #include <QString>
+#include <QTimer>
 #include <QWidget>
 
 #include <array>
 #include <cstddef>
-#include <memory>
 #include <optional>
+#include <vector>
 
 class QAction;
-class QCheckBox;
 class QLabel;
 
 namespace kavela::desktop {
@@ -31,9 +31,8 @@ struct Clip {
 };
 
 /// Plays stretches of two runs side by side, in step from their beginnings, once or again and
-/// again. The shorter one stops at its end, where its time stands. Goes forwards and back by
-/// frames, and slowly. What has no film, or none that can be read, says so in its place; the other
-/// plays.
+/// again. The shorter one stops at its end, where its time stands. What has no film, or none that
+/// can be read, says so in its place; the other plays.
 class ClipPair : public QWidget {
     Q_OBJECT
 
@@ -41,29 +40,30 @@ public:
     explicit ClipPair(Workspace& workspace, QWidget* parent = nullptr);
     ~ClipPair() override;
 
-    /// Opens the films and plays them as soon as both stand at their beginnings.
+    /// Opens the films, and plays them at the speed last used as soon as they stand at their
+    /// beginnings. A clip of nothing at all, as of a reference that nobody paddled, takes no room.
     void play(const Clip& own, const Clip& reference);
     /// Closes the films.
     void clear();
-
     /// Whether there is something to play.
-    [[nodiscard]] bool isEmpty() const { return !m_isOpen; }
+    [[nodiscard]] bool canPlay() const;
+
     [[nodiscard]] bool isLooped() const;
     void setLooped(bool isLooped);
 
-    /// The keys of the pair, for a menu of its window. They act wherever the focus is in the
-    /// window, and are disabled while there is nothing to play.
+    /// What can be done with the clips, for a menu of the window. Their keys are heard in the whole
+    /// window while there is something to play; the arrows go by frames where the focus is here.
     [[nodiscard]] QList<QAction*> playActions() const { return actions(); }
 
-    /// The player. Its time is that of the own film, or of the reference's where that plays alone.
+    /// The player. The longer clip leads.
     [[nodiscard]] FilmDeck& deck() const { return *m_deck; }
-    /// Own first, the reference's second.
-    [[nodiscard]] FilmView& view(std::size_t side) const { return *m_sides.at(side).view; }
-    /// What stands below a picture: whose run, and its time so far or at its end.
+    /// Own first, the reference's second; null where it takes no room.
+    [[nodiscard]] FilmView* view(std::size_t side) const { return m_sides.at(side).view; }
+    /// What stands below a picture: whose run it is, and its time so far or at its end.
     [[nodiscard]] QString told(std::size_t side) const;
 
 signals:
-    /// The longer one has come to its end, or to its beginning backwards.
+    /// The longer clip was played to its end, or back to its beginning.
     void ended();
 
 protected:
@@ -72,32 +72,37 @@ protected:
 private:
     struct Side {
         Clip clip;
-        std::optional<std::size_t> camera; ///< of the deck; none without a film
+        QString fault;                          ///< why there is no film to play
+        std::optional<std::size_t> camera = {}; ///< of the deck, where there is one
+        QWidget* panel = nullptr;
         FilmView* view = nullptr;
         QLabel* time = nullptr;
-        QString fault; ///< why there is no picture
+        bool isAtEnd = false;
     };
 
+    void makeSides();
     void makeActions();
-    void makeLayout();
+    void makeButtons(QWidget& bar);
+    template <class Act>
+    QAction* add(const QString& text, const QString& brief, const QKeySequence& key, Act act);
     void open();
-    void makeView(Side& side, std::size_t emptyCamera);
-    void follow();
+    void openFilms(const std::vector<Side*>& sides);
+    void showSides();
     void fail(std::size_t camera, const QString& message);
-    void playWhenReady();
-    [[nodiscard]] bool isAtBeginning(const Side& side) const;
-    [[nodiscard]] bool isAtEnd() const;
-    void playOrPause();
-    void playAgain();
-    void showTime(const Side& side);
-    void showTimes();
+    void startWhenReady();
+    [[nodiscard]] bool isReady(const Side& side) const;
+    void followState();
+    void showFrame(std::size_t camera);
+    void showTime(Side& side);
+    void seekToStart();
 
     FilmDeck* m_deck;
     FilmGrid* m_grid;
     std::array<Side, 2> m_sides;
     QLabel* m_rate;
-    QCheckBox* m_loop;
-    bool m_isOpen = false;
+    QAction* m_loop = nullptr;
+    double m_speed = 1;        ///< last used, forwards
+    QTimer m_again;            ///< runs while the ends stand, before the clips begin again
     bool m_isStarting = false; ///< plays as soon as both films stand at their beginnings
     bool m_wasPlaying = false;
 };
