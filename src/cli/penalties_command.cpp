@@ -6,7 +6,6 @@
 #include "cli/penalties_text.h"
 #include "cli/why_text.h"
 #include "performance/penalty_reasons.h"
-#include "splitdata/athlete_keys.h"
 
 #include <memory>
 #include <set>
@@ -28,10 +27,10 @@ struct PenaltiesCall {
 
 /// Whether there are runs of the category; says which ones there are when not.
 bool hasCategory(const FactStore& facts, const std::string& category) {
-    const std::string key = categoryKey(category);
+    const ChosenRuns chosen({category});
     std::set<std::string> present;
     for (const RunRow& run : facts.runs()) {
-        if (isChosen(facts, run, key))
+        if (chosen.has(facts, run))
             return true;
         present.insert('"' + std::string(facts.text(run.category)) + '"');
     }

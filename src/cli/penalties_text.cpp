@@ -1,6 +1,7 @@
 #include "cli/penalties_text.h"
 
 #include "common/display_text.h"
+#include "performance/penalty_words.h"
 
 #include <fmt/format.h>
 
@@ -28,17 +29,6 @@ std::int64_t number(std::size_t count) {
 /// "3.6–14.3" for an interval of a rate.
 std::string percentRange(const Interval& interval) {
     return fmt::format("{:.1f}–{:.1f}", 100 * interval.low, 100 * interval.high);
-}
-
-std::string ordinal(int rank) {
-    const int tens = rank % 100 / 10;
-    const int ones = rank % 10;
-    const char* const ending = tens == 1   ? "th"
-                               : ones == 1 ? "st"
-                               : ones == 2 ? "nd"
-                               : ones == 3 ? "rd"
-                                           : "th";
-    return std::to_string(rank) + ending;
 }
 
 std::string withoutBlanksAtEnd(std::string line) {
@@ -206,8 +196,8 @@ private:
                            fitted(printable(where), PlaceWidth) +
                            rightAligned(fmt::format("gate {}", cost.gate), 8) +
                            (cost.isMissedGate() ? " missed" : " touch ") +
-                           fmt::format("  {} of {}, without {}", ordinal(cost.rank), cost.of,
-                                       ordinal(cost.without));
+                           fmt::format("  {} of {}, without {}", ordinalText(cost.rank), cost.of,
+                                       ordinalText(cost.without));
         const std::string file = ' ' + printable(m_files[run.file]);
         if (m_files.size() > 1 &&
             (m_terminal.width == 0 || displayWidth(line) + displayWidth(file) <= m_terminal.width))

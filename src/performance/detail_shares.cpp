@@ -1,7 +1,6 @@
 #include "performance/detail_shares.h"
 
 #include "performance/penalty_rules.h"
-#include "splitdata/athlete_keys.h"
 
 #include <algorithm>
 #include <map>
@@ -38,11 +37,11 @@ std::size_t unnotedOf(const FactStore& facts, const RunRow& run) {
 }
 
 NotedPenalties notedPenalties(const FactStore& facts, const PenaltyChoice& choice) {
-    const std::string key = categoryKey(choice.category);
+    const ChosenRuns chosen(choice);
     NotedPenalties all;
     for (std::size_t i = 0; i < facts.runs().size(); ++i) {
         const RunRow& run = facts.runs()[i];
-        if (!isChosen(facts, run, key))
+        if (!chosen.has(facts, run))
             continue;
         const auto rows = facts.penaltiesOf(run);
         for (std::size_t entry = 0; entry < rows.size(); ++entry)

@@ -2,11 +2,11 @@
 
 #include "common/number_text.h"
 #include "performance/penalty_rules.h"
-#include "splitdata/athlete_keys.h"
 
 #include <fmt/format.h>
 
 #include <algorithm>
+#include <cmath>
 #include <numeric>
 
 namespace kavela {
@@ -59,20 +59,38 @@ int GroupTotals::rankOf(double total, Why* why) const {
 }
 
 std::vector<PenaltyCost> penaltyCosts(const FactStore& facts, const PenaltyChoice& choice) {
-    const std::string key = categoryKey(choice.category);
+    const ChosenRuns chosen(choice);
     std::vector<PenaltyCost> costs;
     for (const Group& group : groupsOf(facts)) {
-        // The runs of a group are of one category, so that it is asked for as a whole or not at
-        // all.
-        if (group.empty() || !isChosen(facts, facts.runs()[group.front()], key))
+        if (group.empty())
             continue;
         const GroupTotals totals(facts, group);
         const CourseGates course(facts, facts.fileOf(facts.runs()[group.front()]));
         for (const std::size_t run : group)
-            addCosts(facts, run, totals, course, costs);
+            if (chosen.has(facts, facts.runs()[run]))
+                addCosts(facts, run, totals, course, costs);
     }
     std::ranges::stable_sort(costs, {}, &PenaltyCost::run);
     return costs;
+}
+
+Place placeOf(const FactStore& facts, const PenaltyCost& cost) {
+    constexpr std::int32_t Ticks = 90000; // divides the frames of every usual film
+    constexpr std::uint32_t Valid = 1;
+    const RunRow& run = facts.runs()[cost.run];
+    Place place = placeOf(facts, GatePassage{cost.run, cost.gate, cost.seconds});
+    place.split = cost.section;
+    if (!cost.section)
+        return place;
+    const auto sections = facts.sectionsOf(run);
+    double begin = NotKnown;
+    if (*cost.section == 1)
+        begin = run.start;
+    else if (*cost.section - 2 < sections.size())
+        begin = sections[*cost.section - 2].end;
+    if (std::isfinite(begin))
+        place.moment = CMTime{std::llround(begin * Ticks), Ticks, Valid, 0};
+    return place;
 }
 
 PenaltyCost penaltyCost(const FactStore& facts, const GroupTotals& totals,

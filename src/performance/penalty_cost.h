@@ -47,6 +47,10 @@ private:
     std::vector<double> m_totals;
 };
 
+/// Where a penalty stands: its gate, its section, and on the film the beginning of that section,
+/// where it is known.
+[[nodiscard]] Place placeOf(const FactStore& facts, const PenaltyCost& cost);
+
 /// What one penalty of a run with a total cost.
 [[nodiscard]] PenaltyCost penaltyCost(const FactStore& facts, const GroupTotals& totals,
                                       const CourseGates& course, const GatePassage& penalty,

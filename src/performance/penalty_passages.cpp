@@ -57,8 +57,17 @@ std::optional<std::size_t> CourseGates::sectionOf(std::int64_t gate) const {
     return found == m_sections.end() ? std::nullopt : std::optional(found->second);
 }
 
-bool isChosen(const FactStore& facts, const RunRow& run, std::string_view categoryKey) {
-    return categoryKey.empty() || facts.text(run.categoryKey) == categoryKey;
+ChosenRuns::ChosenRuns(const PenaltyChoice& choice)
+    : m_categoryKey(categoryKey(choice.category)),
+      m_phaseKey(choice.phaseKey),
+      m_crewKey(choice.crewKey) {}
+
+bool ChosenRuns::has(const FactStore& facts, const RunRow& run) const {
+    const auto isIt = [&](const std::string& wanted, TextId key) {
+        return wanted.empty() || facts.text(key) == wanted;
+    };
+    return isIt(m_categoryKey, run.categoryKey) && isIt(m_phaseKey, run.phaseKey) &&
+           isIt(m_crewKey, run.crewKey);
 }
 
 bool isKnownByGate(const FactStore& facts, const RunRow& run) {
@@ -79,11 +88,11 @@ std::vector<GatePassage> passagesOf(const FactStore& facts, std::size_t run) {
 }
 
 CountedPassages countedPassages(const FactStore& facts, const PenaltyChoice& choice) {
-    const std::string key = categoryKey(choice.category);
+    const ChosenRuns chosen(choice);
     CountedPassages counted;
     for (std::size_t i = 0; i < facts.runs().size(); ++i) {
         const RunRow& run = facts.runs()[i];
-        if (!isChosen(facts, run, key))
+        if (!chosen.has(facts, run))
             continue;
         if (!isKnownByGate(facts, run)) {
             ++counted.leftOut;

@@ -9,7 +9,6 @@
 #include <optional>
 #include <set>
 #include <string>
-#include <string_view>
 #include <vector>
 
 /// Passages of gates: what every rate of penalties is counted among. Touches and missed gates are
@@ -21,7 +20,24 @@ inline constexpr std::int64_t MissedGateSeconds = 50;
 
 /// Whose penalties are asked for.
 struct PenaltyChoice {
-    std::string category; ///< however it is written; empty for all
+    std::string category = {}; ///< however it is written; empty for all
+    std::string phaseKey = {}; ///< as RunRow has it; empty for all
+    std::string crewKey = {};  ///< the same
+
+    friend bool operator==(const PenaltyChoice&, const PenaltyChoice&) = default;
+};
+
+/// Tells the runs that are asked for.
+class ChosenRuns {
+public:
+    explicit ChosenRuns(const PenaltyChoice& choice);
+
+    [[nodiscard]] bool has(const FactStore& facts, const RunRow& run) const;
+
+private:
+    std::string m_categoryKey;
+    std::string m_phaseKey;
+    std::string m_crewKey;
 };
 
 /// A run that came past a gate.
@@ -47,10 +63,6 @@ private:
     std::set<std::int64_t> m_upGates;
     std::map<std::int64_t, std::size_t> m_sections;
 };
-
-/// Whether a run is among those asked for. `categoryKey` is of categoryKey(), empty for all.
-[[nodiscard]] bool isChosen(const FactStore& facts, const RunRow& run,
-                            std::string_view categoryKey);
 
 /// Whether the run has a penalty for every gate of its course. The penalties of other runs are
 /// known by section at most.

@@ -5,7 +5,6 @@
 #include "performance/penalty_cost.h"
 #include "performance/penalty_rates.h"
 #include "performance/trade_off.h"
-#include "splitdata/athlete_keys.h"
 
 #include <algorithm>
 #include <array>
@@ -88,8 +87,8 @@ std::optional<std::size_t> runNamed(const FactStore& facts, std::string_view nam
 }
 
 /// Whether the cost of a run's penalties is known.
-bool isCounted(const FactStore& facts, const RunRow& run, std::string_view categoryKey) {
-    return run.isComplete && isKnownByGate(facts, run) && isChosen(facts, run, categoryKey);
+bool isCounted(const FactStore& facts, const RunRow& run, const PenaltyChoice& choice) {
+    return run.isComplete && isKnownByGate(facts, run) && ChosenRuns(choice).has(facts, run);
 }
 
 /// The group of a run, which has one.
@@ -110,7 +109,7 @@ MaybeReason explainCost(const FactStore& facts, std::string_view rest,
     if (!run || !gate)
         return {};
     const RunRow& row = facts.runs()[*run];
-    if (!isCounted(facts, row, categoryKey(choice.category)))
+    if (!isCounted(facts, row, choice))
         return {};
     const auto passages = passagesOf(facts, *run);
     const auto penalty = std::ranges::find(passages, *gate, &GatePassage::gate);
@@ -129,7 +128,8 @@ MaybeReason explainThird(const FactStore& facts, std::string_view rest,
     const auto third = numberIn<int>(number);
     const auto figure = std::ranges::find(Figures, name);
     const PacedRuns paced = pacedRuns(facts, choice);
-    if (!third || *third < 1 || *third > 3 || figure == Figures.end() || paced.medians.empty())
+    if (!third || *third < 1 || *third > 3 || figure == Figures.end() ||
+        paced.thirds[static_cast<std::size_t>(*third - 1)].empty())
         return {};
     Why why;
     (void)tradeOffRow(facts, paced, *third, static_cast<ThirdFigure>(figure - Figures.begin()),

@@ -3,7 +3,6 @@
 #include "common/percentile.h"
 #include "facts/groups.h"
 #include "performance/penalty_rules.h"
-#include "splitdata/athlete_keys.h"
 
 #include <fmt/format.h>
 
@@ -46,13 +45,16 @@ PacedRun pacedRun(const FactStore& facts, std::size_t run, double paddling, doub
     return paced;
 }
 
-void addGroup(const FactStore& facts, const Group& runs, PacedRuns& paced) {
+/// The thirds are those of the whole group, whichever of its runs are asked for.
+void addGroup(const FactStore& facts, const Group& runs, const ChosenRuns& chosen,
+              PacedRuns& paced) {
     const double paddling = medianOf(facts, runs, &RunRow::paddling);
     const double total = medianOf(facts, runs, &RunRow::total);
     paced.medians.push_back(paddling);
     for (std::size_t i = 0; i < runs.size(); ++i)
-        paced.thirds[paced.thirds.size() * i / runs.size()].push_back(
-            pacedRun(facts, runs[i], paddling, total));
+        if (chosen.has(facts, facts.runs()[runs[i]]))
+            paced.thirds[paced.thirds.size() * i / runs.size()].push_back(
+                pacedRun(facts, runs[i], paddling, total));
 }
 
 template <class Value>
@@ -114,14 +116,14 @@ void tellRow(Why& why, const FactStore& facts, const std::vector<PacedRun>& runs
 } // namespace
 
 PacedRuns pacedRuns(const FactStore& facts, const PenaltyChoice& choice) {
-    const std::string key = categoryKey(choice.category);
+    const ChosenRuns chosen(choice);
     PacedRuns paced;
     for (const Group& group : groupsOf(facts)) {
-        if (group.empty() || !isChosen(facts, facts.runs()[group.front()], key))
-            continue;
         const Group runs = divisibleRuns(facts, group);
-        if (runs.size() >= LeastDivided)
-            addGroup(facts, runs, paced);
+        const bool isAskedFor = std::ranges::any_of(
+            runs, [&](std::size_t run) { return chosen.has(facts, facts.runs()[run]); });
+        if (isAskedFor && runs.size() >= LeastDivided)
+            addGroup(facts, runs, chosen, paced);
     }
     return paced;
 }
@@ -129,8 +131,8 @@ PacedRuns pacedRuns(const FactStore& facts, const PenaltyChoice& choice) {
 TradeOff tradeOff(const FactStore& facts, const PenaltyChoice& choice) {
     const PacedRuns paced = pacedRuns(facts, choice);
     TradeOff result;
-    if (!paced.medians.empty())
-        for (int third = 1; third <= 3; ++third)
+    for (int third = 1; third <= 3; ++third)
+        if (!paced.thirds[static_cast<std::size_t>(third - 1)].empty())
             result.rows.push_back(tradeOffRow(facts, paced, third));
     result.breakEven = breakEvenOf(paced);
     return result;

@@ -30,7 +30,8 @@ struct PacedRuns {
 };
 
 /// Takes the whole runs known by gate of every group that has enough of them; of equal times the
-/// first in the file counts as the faster.
+/// first in the file counts as the faster. The thirds and medians are those of the whole groups,
+/// also where only some of their runs are asked for.
 [[nodiscard]] PacedRuns pacedRuns(const FactStore& facts, const PenaltyChoice& choice = {});
 
 /// A third of the field by paddling time.
@@ -45,7 +46,7 @@ struct TradeOffRow {
 };
 
 struct TradeOff {
-    std::vector<TradeOffRow> rows;   ///< none when no group has enough runs
+    std::vector<TradeOffRow> rows;   ///< without the thirds that no run is asked for of
     std::optional<double> breakEven; ///< touches per run that 1 % of speed pays for
 };
 
