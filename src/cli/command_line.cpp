@@ -40,7 +40,7 @@ int run(int argc, char** argv, const char* version, const Painting* painting) {
     addStrokes(program, status);
     addFind(program, status);
     addFacts(program, status);
-    addLosses(program, status);
+    addLosses(program, status, painting);
     addPenalties(program, status);
     addDemo(program, status, painting);
     if (const auto ended = call.run(argc, argv))

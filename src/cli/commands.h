@@ -23,7 +23,7 @@ void addConvert(Command program, int& status);
 void addStrokes(Command program, int& status);
 void addFind(Command program, int& status);
 void addFacts(Command program, int& status);
-void addLosses(Command program, int& status);
+void addLosses(Command program, int& status, const Painting* painting);
 void addPenalties(Command program, int& status);
 void addDemo(Command program, int& status, const Painting* painting);
 

@@ -6,6 +6,7 @@
 #include "cli/losses_json.h"
 #include "cli/losses_text.h"
 #include "cli/told_reason.h"
+#include "cli/painting.h"
 #include "performance/loss_reasons.h"
 #include "results/name_likeness.h"
 #include "splitdata/athlete_keys.h"
@@ -26,6 +27,7 @@ struct LossesCall {
     bool json = false;
     std::string csv;
     std::string why;
+    std::string pdf;
 };
 
 std::string complaintAboutReference(const std::string& text) {
@@ -45,6 +47,8 @@ std::string complaintAboutLosses(const LossesCall& call) {
                    ? "A run as the reference belongs to one file: run:I and several paths do not "
                      "go together."
                    : "";
+    if (!call.pdf.empty())
+        return "A page is about one athlete: say --athlete too.";
     if (!call.category.empty())
         return "A category narrows an athlete's season: say --athlete too.";
     return call.paths.size() > 1 ? "Several paths make an athlete's season: say --athlete too."
@@ -103,7 +107,7 @@ void logUnknownAthlete(const FactStore& facts, const LossesCall& call) {
     logLine(text + '.');
 }
 
-int tellSeason(const LossesCall& call) {
+int tellSeason(const LossesCall& call, const Painting* painter) {
     const FactInput input = factsFrom(call.paths);
     for (const FailedFile& failed : input.failed)
         logLine(failed.reason);
@@ -121,6 +125,8 @@ int tellSeason(const LossesCall& call) {
     }
     if (!call.why.empty())
         return tellReason(explainSeasonLoss(input.facts, query, call.why), call.why);
+    if (painter && !painter->isAthletePageWritten(input.facts, query, call.pdf))
+        return NotDone;
     const SeasonLosses season = seasonLosses(input.facts, query);
     const std::string athlete(input.facts.text(input.facts.runs()[runs.front()].crew));
     const int status =
@@ -131,17 +137,18 @@ int tellSeason(const LossesCall& call) {
     return input.failed.empty() ? status : std::max<int>(status, NotDone);
 }
 
-int tellLosses(const LossesCall& call) {
+int tellLosses(const LossesCall& call, const Painting* painting) {
     if (const std::string complaint = complaintAboutLosses(call); !complaint.empty()) {
         logLine(complaint);
         return WrongCall;
     }
-    return call.athlete.empty() ? tellFile(call) : tellSeason(call);
+    const Painting* const painter = neededIf(!call.pdf.empty(), painting);
+    return call.athlete.empty() ? tellFile(call) : tellSeason(call, painter);
 }
 
 } // namespace
 
-void addLosses(Command program, int& status) {
+void addLosses(Command program, int& status, const Painting* painting) {
     const auto call = std::make_shared<LossesCall>();
     Command command = program.command("losses", "Tells where runs lose time against one another");
     command
@@ -157,12 +164,14 @@ void addLosses(Command program, int& status) {
     command.option("--category", call->category, "Only the athlete's runs of this category");
     command.flag("--json", call->json, "Print one JSON document");
     command.option("--csv", call->csv, "File to write: semicolon-separated text");
+    command.option("--pdf", call->pdf,
+                   "Folder to write the athlete's page into, named after the athlete");
     command.option("--why", call->why,
                    "Explain one number instead: loss/RUN/winner/5, gap/RUN/ideal, …");
     command.footer("Runs count from 0, sections and gates from 1. A loss lies between two marks "
                    "that both runs have; an ideal run and a median have no penalties. Files are "
                    "only read.");
-    command.onRun([call, &status] { status = tellLosses(*call); });
+    command.onRun([=, &status] { status = tellLosses(*call, painting); });
 }
 
 } // namespace kavela::cli

@@ -2,6 +2,8 @@
 
 #include "analysis/split_table.h"
 #include "app/preference_table.h"
+#include "facts/fact_store.h"
+#include "performance/loss_season.h"
 #include "results/categorization.h"
 #include "results/selection_records.h"
 #include "splitdata/document.h"
@@ -43,6 +45,13 @@ public:
     [[nodiscard]] virtual bool isSelectionWritten(const selectionracesStruct_v3& document,
                                                   std::optional<std::size_t> bonus,
                                                   const std::filesystem::path& folder) const = 0;
+
+    /// Paints the season of an athlete into a folder, as a page named after the athlete. An earlier
+    /// page of the same athlete is replaced, any other file of that name stays. False, after a
+    /// message, when the page cannot be written.
+    [[nodiscard]] virtual bool isAthletePageWritten(const FactStore& facts,
+                                                    const SeasonLossQuery& query,
+                                                    const std::filesystem::path& folder) const = 0;
 
     /// Makes the films of the sample season beside their split files, with a progress bar; a film
     /// that is there already stays. Returns the exit status; throws FileError when a film cannot be

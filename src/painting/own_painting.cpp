@@ -4,6 +4,7 @@
 #include "painting/report_files.h"
 #include "painting/season_film_files.h"
 #include "preferences/preferences.h"
+#include "report/athlete_page.h"
 #include "report/pdf_file.h"
 #include "report/race_report.h"
 #include "report/selection_report.h"
@@ -43,6 +44,16 @@ bool OwnPainting::isSelectionWritten(const selectionracesStruct_v3& document,
          {report::selectionTimesFileName(document),
           [&] { return report::selectionTimesReport(document, bonus); }}},
         folder);
+}
+
+bool OwnPainting::isAthletePageWritten(const FactStore& facts, const SeasonLossQuery& query,
+                                       const fs::path& folder) const {
+    const std::vector<std::size_t> runs = seasonRuns(facts, query);
+    const std::string athlete(runs.empty() ? std::string_view(query.crewKey)
+                                           : facts.text(facts.runs()[runs.front()].crew));
+    return areReportsWritten({{report::athletePageFileName(athlete),
+                               [&] { return report::athletePage(facts, query); }, true}},
+                             folder);
 }
 
 int OwnPainting::writeSeasonFilms(const fs::path& folder) const {

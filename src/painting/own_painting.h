@@ -17,6 +17,8 @@ public:
     [[nodiscard]] bool isSelectionWritten(const selectionracesStruct_v3& document,
                                           std::optional<std::size_t> bonus,
                                           const std::filesystem::path& folder) const override;
+    [[nodiscard]] bool isAthletePageWritten(const FactStore& facts, const SeasonLossQuery& query,
+                                            const std::filesystem::path& folder) const override;
     [[nodiscard]] int writeSeasonFilms(const std::filesystem::path& folder) const override;
 };
 

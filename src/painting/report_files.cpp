@@ -13,7 +13,16 @@ bool areReportsWritten(const std::vector<ReportFile>& reports,
     bool areWritten = true;
     for (const ReportFile& file : reports) {
         try {
-            writePdf(*file.make(), folder / file.name);
+            const std::filesystem::path path = folder / file.name;
+            const auto report = file.make();
+            if (file.keepsOthers && std::filesystem::is_regular_file(path) &&
+                !report::isOwnPdf(path, report->documentTitle())) {
+                cli::logLine("The file " + cli::pathText(path) +
+                             " is there already and holds something else: it was not replaced.");
+                areWritten = false;
+                continue;
+            }
+            writePdf(*report, path);
         } catch (const FileError& error) {
             cli::logLine("Failed to create file");
             cli::logLine("The file " + cli::pathText(error.path()) +

@@ -14,6 +14,9 @@ namespace kavela::painting {
 struct ReportFile {
     std::string name; ///< without folder
     std::function<std::unique_ptr<report::PagedReport>()> make;
+    /// Its name is not of our choice, so a file that stands there is replaced only if it is an
+    /// earlier one of the same report.
+    bool keepsOthers = false;
 };
 
 /// Makes the reports and writes them into a folder that exists; false, after a message, when one

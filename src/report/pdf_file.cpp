@@ -9,6 +9,8 @@
 #include <QPainter>
 #include <QPdfWriter>
 
+#include <fstream>
+#include <iterator>
 #include <stdexcept>
 
 namespace kavela::report {
@@ -17,6 +19,20 @@ namespace {
 
 constexpr int DotsPerInch = 1200; ///< the grain of places in the document
 constexpr qreal PointsPerInch = 72;
+
+const QString Creator = QStringLiteral("Kavela");
+
+/// A text as the writer puts it among what a document says of itself.
+std::string pdfText(const QString& text) {
+    std::string written = "(\xfe\xff";
+    for (const QChar letter : text)
+        for (const auto byte : {letter.unicode() >> 8, letter.unicode() & 0xff}) {
+            if (byte == '(' || byte == ')' || byte == '\\')
+                written += '\\';
+            written += static_cast<char>(byte);
+        }
+    return written + ')';
+}
 
 } // namespace
 
@@ -28,7 +44,7 @@ std::string pdfOf(const PagedReport& report) {
         writer.setResolution(DotsPerInch);
         writer.setPageLayout(report.layout());
         writer.setTitle(report.documentTitle());
-        writer.setCreator(QStringLiteral("Kavela"));
+        writer.setCreator(Creator);
         QPainter painter;
         if (!painter.begin(&writer))
             throw std::runtime_error("The report could not be painted.");
@@ -42,6 +58,15 @@ std::string pdfOf(const PagedReport& report) {
     std::string pdf = buffer.data().toStdString();
     makeTextSearchable(pdf);
     return pdf;
+}
+
+bool isOwnPdf(const std::filesystem::path& path, const QString& title) {
+    std::ifstream file(path, std::ios::binary);
+    const std::string content{std::istreambuf_iterator<char>(file), {}};
+    const auto says = [&](const char* what, const QString& text) {
+        return content.find(what + pdfText(text)) != std::string::npos;
+    };
+    return content.starts_with("%PDF-") && says("/Title ", title) && says("/Creator ", Creator);
 }
 
 void writePdf(const PagedReport& report, const std::filesystem::path& path) {

@@ -2,6 +2,8 @@
 
 #include "report/paged_report.h"
 
+#include <QString>
+
 #include <filesystem>
 #include <string>
 
@@ -9,6 +11,9 @@ namespace kavela::report {
 
 /// A report as the bytes of a PDF document: vectors, embedded fonts, text that can be searched.
 [[nodiscard]] std::string pdfOf(const PagedReport& report);
+
+/// Whether a file is a document of this program with a title, as writePdf() makes it.
+[[nodiscard]] bool isOwnPdf(const std::filesystem::path& path, const QString& title);
 
 /// Writes a report as a PDF document, safely: the file is there whole or not at all. Throws
 /// FileError, also on a computer without any font, where all letters would be boxes.

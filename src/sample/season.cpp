@@ -4,6 +4,7 @@
 #include "common/json_encode.h"
 #include "common/safe_file.h"
 #include "sample/cross.h"
+#include "sample/league.h"
 #include "sample/older_releases.h"
 #include "sample/planning.h"
 #include "sample/races.h"
@@ -32,6 +33,13 @@ void addOpener(std::vector<SampleFile>& files) {
     files.push_back({"races/spring_opener_results.csv", officialList(results)});
 }
 
+void addLeague(std::vector<SampleFile>& files) {
+    std::size_t number = 0;
+    for (const RacePlan& round : leagueRounds())
+        files.push_back(
+            {"league/round_" + std::to_string(++number) + ".kvx", encode(holdRace(round))});
+}
+
 void addPlanning(std::vector<SampleFile>& files) {
     const std::vector<splittakerdata031> runs{holdRace(springOpener()),
                                               holdRace(riversideCup()),
@@ -55,6 +63,7 @@ std::vector<SampleFile> sampleSeason() {
     files.push_back({"races/highland_open.kvx", encode(holdRace(highlandOpen()))});
     files.push_back({"races/harbour_night.kvx", encode(holdRace(harbourNight()))});
     files.push_back({"races/harbour_cross.kvx", encode(crossRace())});
+    addLeague(files);
     files.push_back({"training/gate_laps.kvx", encode(gateLaps())});
     files.push_back({"training/form_test.kvx", encode(formTest())});
     files.push_back({"recordings/upstream_drill.kvb", encode(upstreamDrill())});

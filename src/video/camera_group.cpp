@@ -15,7 +15,10 @@ double CameraOffset::toCommon(double seconds) const {
 }
 
 CameraGroup::CameraGroup(std::vector<std::shared_ptr<VideoPlayer>> players, std::size_t ranging)
-    : m_players(std::move(players)), m_offsets(m_players.size()), m_ranging(ranging) {
+    : m_players(std::move(players)),
+      m_offsets(m_players.size()),
+      m_stretches(m_players.size()),
+      m_ranging(ranging) {
     if (m_players.empty())
         throw std::invalid_argument("a group of no cameras");
 }
@@ -27,9 +30,12 @@ void CameraGroup::updateRange(Moment now) {
         const auto index = m_players[i]->index();
         if (!index || index->frameCount() == 0)
             continue;
-        m_isGrowing = m_isGrowing || !index->isComplete();
-        const double start = m_offsets[i].toCommon(index->secondsOf(0));
-        const double end = m_offsets[i].toCommon(index->secondsOf(index->frameCount() - 1));
+        const Stretch& stretch = m_stretches[i];
+        const double last = index->secondsOf(index->frameCount() - 1);
+        m_isGrowing = m_isGrowing || (!index->isComplete() && last < stretch.to);
+        const double start =
+            m_offsets[i].toCommon(std::clamp(index->secondsOf(0), stretch.from, stretch.to));
+        const double end = m_offsets[i].toCommon(std::clamp(last, stretch.from, stretch.to));
         range = range ? std::pair(std::min(range->first, start), std::max(range->second, end))
                       : std::pair(start, end);
     }
@@ -46,7 +52,8 @@ void CameraGroup::updateRange(Moment now) {
 void CameraGroup::showAll(Moment now) {
     const double position = this->position(now);
     for (std::size_t i = 0; i < m_players.size(); ++i)
-        m_players[i]->requestPosition(m_offsets[i].toOwn(position));
+        m_players[i]->requestPosition(
+            std::clamp(m_offsets[i].toOwn(position), m_stretches[i].from, m_stretches[i].to));
 }
 
 void CameraGroup::tick(Moment now) {
@@ -103,8 +110,10 @@ void CameraGroup::step(FrameNumber frames, Moment now) {
     const auto target = m_players.front()->target();
     if (!index || !target)
         return;
+    const Stretch& stretch = m_stretches.front();
     const FrameNumber number =
-        std::clamp<FrameNumber>(*target + frames, 0, index->frameCount() - 1);
+        std::clamp<FrameNumber>(*target + frames, index->frameAt(stretch.from).value_or(0),
+                                index->frameAt(stretch.to).value_or(0));
     seek(index->secondsOf(number), now);
     m_players.front()->showFrame(number);
 }
@@ -127,6 +136,12 @@ void CameraGroup::setOffset(std::size_t camera, const CameraOffset& offset, Mome
     if (!isMoment(offset.own) || !isMoment(offset.common))
         throw std::invalid_argument("an offset from a stamp that is no moment");
     m_offsets.at(camera) = offset;
+    updateRange(now);
+    showAll(now);
+}
+
+void CameraGroup::setStretch(std::size_t camera, double from, double to, Moment now) {
+    m_stretches.at(camera) = {from, to};
     updateRange(now);
     showAll(now);
 }

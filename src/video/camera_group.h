@@ -65,16 +65,26 @@ public:
     /// Throws std::out_of_range for the first film, whose time is the common one, and for a stamp
     /// that is no moment std::invalid_argument.
     void setOffset(std::size_t camera, const CameraOffset& offset, Moment now);
+    /// Shows only this stretch of a film, in seconds of its own, `from` at most `to`: before and
+    /// behind it its first and last frames stand, and the clock goes no further for this film.
+    void setStretch(std::size_t camera, double from, double to, Moment now);
     /// The frames shown now become one moment, those on their way included. False when not every
     /// film shows one yet.
     bool alignShown(Moment now);
 
 private:
+    /// Seconds of a film, all of it unless somebody said otherwise.
+    struct Stretch {
+        double from = -std::numeric_limits<double>::infinity();
+        double to = std::numeric_limits<double>::infinity();
+    };
+
     void updateRange(Moment now);
     void showAll(Moment now);
 
     std::vector<std::shared_ptr<VideoPlayer>> m_players;
     std::vector<CameraOffset> m_offsets;
+    std::vector<Stretch> m_stretches;
     std::size_t m_ranging;
     PlayClock m_clock;
     bool m_isGrowing = true; ///< the end of the films is not known yet

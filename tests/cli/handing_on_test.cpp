@@ -104,6 +104,7 @@ TEST_F(HandingOn, HappensBeforeAnythingIsPrintedOrWritten) {
          {Call{"export", "old.kvx", "--csv", "out.csv", "--pdf", "out.pdf"},
           Call{"selection", "rank", "missing.kvsr", "--write", "--pdf", "."},
           Call{"team", "categorize", "missing.kvteam", "--category", "MK1", "--pdf", "."},
+          Call{"losses", "old.kvx", "--athlete", "Nobody", "--csv", "out.csv", "--pdf", "."},
           Call{"demo", "season", "--videos"}}) {
         const Ending ending = m_kavela.call(call);
         EXPECT_EQ(ending.status, 7) << call.front();

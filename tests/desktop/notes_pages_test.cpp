@@ -15,7 +15,7 @@
 namespace kavela::test {
 namespace {
 
-using desktop::Clip;
+using desktop::FilmPart;
 using desktop::joinedClips;
 using desktop::RadioBox;
 using desktop::SoundInput;
@@ -322,7 +322,7 @@ TEST_F(NotesTest, PlaysTheClipsOfChosenMarksOneAfterAnother) {
 
 TEST(Clips, AreJoinedWhereTheyMeet) {
     EXPECT_EQ(joinedClips({{5, 7}, {1, 3}, {2, 4}, {4, 4.5}}),
-              (std::vector<Clip>{{1, 4.5}, {5, 7}}));
+              (std::vector<FilmPart>{{1, 4.5}, {5, 7}}));
     EXPECT_THAT(joinedClips({}), IsEmpty());
 }
 

@@ -124,6 +124,11 @@ INSTANTIATE_TEST_SUITE_P(
                          return filesOf({"selection", "rank",
                                          example("selection/spring_selection.kvsr"), "--pdf", "."});
                      }},
+        SampleReport{"athlete",
+                     [] {
+                         return filesOf({"losses", example("league"), "--athlete",
+                                         "Callum Thornwick", "--pdf", "."});
+                     }},
         SampleReport{"week",
                      [] {
                          const athletesplanning_v6& athlete = firstPlanned();

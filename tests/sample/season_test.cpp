@@ -2,11 +2,14 @@
 
 #include "boatmotion/sessions.h"
 #include "common/json_decode.h"
+#include "sample/team.h"
 #include "splitdata/loader.h"
 
 #include <gmock/gmock.h>
 
 #include <algorithm>
+#include <cmath>
+#include <map>
 #include <numeric>
 #include <set>
 
@@ -45,6 +48,19 @@ Recording recordingNamed(std::string_view name) {
         if (file.name == name)
             return decodeText<Recording>(file.content);
     throw std::out_of_range(std::string(name));
+}
+
+/// Whether the team's results have a race, at its place and on its days.
+bool isInTeam(const myTeamToSaveStruct& team, const infodata031& race) {
+    constexpr double TwoDays = 2 * 86400;
+    for (const myTeamStruct& athlete : team.realMyTeam)
+        for (const auto& category : athlete.cats)
+            for (const auto& season : category.seasons)
+                for (const mtRaceStruct& held : season.races)
+                    if (held.location == race.title && !held.phases.empty() &&
+                        std::abs(held.phases.front().date.seconds - race.date.seconds) < TwoDays)
+                        return true;
+    return false;
 }
 
 /// The stamps of a run's marks on one camera must lie as far apart as the times say.
@@ -100,7 +116,42 @@ TEST(Season, IsTheSameAtEveryCallAndStaysSmall) {
         EXPECT_LT(files[i].content.size(), 1'200'000U) << files[i].name;
         total += files[i].content.size();
     }
-    EXPECT_LT(total, 4'200'000U);
+    EXPECT_LT(total, 6'200'000U);
+}
+
+TEST(Season, HasALeagueThatTellsStrengthsFromChance) {
+    const std::set<std::string> all{"C1M", "C1W", "K1M", "K1W"};
+    std::map<std::string, std::size_t> wholeRuns;
+    std::size_t rounds = 0;
+    std::size_t inTeam = 0;
+    const myTeamToSaveStruct team = sample::sampleTeam();
+    for (const Session& session : splitFiles()) {
+        if (!session.name.starts_with("round_"))
+            continue;
+        ++rounds;
+        std::set<std::string> categories;
+        std::size_t upstreams = 0;
+        std::size_t strokes = 0;
+        std::size_t losses = 0;
+        std::size_t penalties = 0;
+        for (const athletedata031& run : session.file.document.athletes) {
+            categories.insert(run.cat);
+            wholeRuns[run.names.front()] += run.sectioninfo.realtime != 0;
+            upstreams += run.upstreams.size();
+            strokes += run.strokes.size();
+            losses += run.timeslosses.size();
+            penalties += run.sectioninfo.pendetails.size();
+        }
+        EXPECT_EQ(categories, all) << session.name;
+        for (const std::size_t noted : {upstreams, strokes, losses, penalties})
+            EXPECT_GT(noted, 8U) << session.name;
+        inTeam += isInTeam(team, session.file.document.info);
+    }
+    EXPECT_GE(rounds, 8U);
+    EXPECT_EQ(inTeam, 1U);
+    EXPECT_GE(std::ranges::count_if(wholeRuns, [](const auto& crew) { return crew.second >= 8; }),
+              16)
+        << "an interval wants many runs of the same crew";
 }
 
 TEST(Season, SplitFilesAreOfTheReleaseThatTheyClaim) {

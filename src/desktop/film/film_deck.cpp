@@ -431,4 +431,9 @@ void FilmDeck::setOffset(std::size_t camera, const CameraOffset& offset) {
     isPlaying() ? withGroup(set) : jumpWithGroup(set);
 }
 
+void FilmDeck::setStretch(std::size_t camera, double from, double to) {
+    const auto set = [&](CameraGroup& group) { group.setStretch(camera, from, to, now()); };
+    isPlaying() ? withGroup(set) : jumpWithGroup(set);
+}
+
 } // namespace kavela::desktop

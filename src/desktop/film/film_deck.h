@@ -101,6 +101,8 @@ public:
     void expect(std::optional<double> seconds);
     void alignCameras();
     void setOffset(std::size_t camera, const CameraOffset& offset);
+    /// Only this stretch of a film is shown and played, in seconds of its own.
+    void setStretch(std::size_t camera, double from, double to);
 
 signals:
     void frameShown(std::size_t camera);

@@ -20,6 +20,7 @@ public:
     [[nodiscard]] std::size_t camera() const { return m_camera; }
     /// Said in place of a picture.
     void setMessage(const QString& message);
+    [[nodiscard]] const QString& message() const { return m_message; }
     /// The same, with a button below it that does something about it.
     void setQuestion(const QString& message, const QString& button);
     /// What this film is, said in its corner; empty where that goes without saying.

@@ -13,10 +13,10 @@ constexpr double FrameSlack = 0.5;
 
 } // namespace
 
-std::vector<Clip> joinedClips(std::vector<Clip> clips) {
-    std::ranges::sort(clips, {}, &Clip::from);
-    std::vector<Clip> joined;
-    for (const Clip& clip : clips) {
+std::vector<FilmPart> joinedClips(std::vector<FilmPart> clips) {
+    std::ranges::sort(clips, {}, &FilmPart::from);
+    std::vector<FilmPart> joined;
+    for (const FilmPart& clip : clips) {
         if (!joined.empty() && clip.from <= joined.back().to)
             joined.back().to = std::max(joined.back().to, clip.to);
         else
@@ -30,7 +30,7 @@ ClipPlayer::ClipPlayer(FilmDeck& deck, QObject* parent) : QObject(parent), m_dec
     connect(&m_deck, &FilmDeck::stateChanged, this, &ClipPlayer::follow);
 }
 
-void ClipPlayer::play(std::vector<Clip> clips) {
+void ClipPlayer::play(std::vector<FilmPart> clips) {
     m_clips = std::move(clips);
     if (!m_clips.empty() && m_deck.cameras() > 0)
         begin(0);
@@ -49,8 +49,8 @@ std::optional<std::size_t> ClipPlayer::current() const {
 void ClipPlayer::begin(std::size_t clip) {
     m_current = clip;
     emit began(clip, m_clips.size());
-    const Clip begun = m_clips[clip]; // seeking tells where the film stands, before it is there
-    const std::vector<Clip> clips = std::exchange(m_clips, {});
+    const FilmPart begun = m_clips[clip]; // seeking tells where the film stands, before it is there
+    const std::vector<FilmPart> clips = std::exchange(m_clips, {});
     m_deck.seek(begun.from);
     m_deck.play(m_deck.rate() > 0 ? m_deck.rate() : 1);
     m_clips = clips;
@@ -59,7 +59,7 @@ void ClipPlayer::begin(std::size_t clip) {
 void ClipPlayer::follow() {
     if (m_clips.empty())
         return;
-    const Clip& clip = m_clips[m_current];
+    const FilmPart& clip = m_clips[m_current];
     const double now = m_deck.position();
     const bool hasLeft = now < clip.from - FrameSlack || now > clip.to + FrameSlack;
     const bool isAtEnd = now >= clip.to || (now >= m_deck.end() && !m_deck.isPlaying());

@@ -10,15 +10,15 @@ namespace kavela::desktop {
 class FilmDeck;
 
 /// A part of a film, in seconds.
-struct Clip {
+struct FilmPart {
     double from = 0;
     double to = 0;
 
-    friend bool operator==(const Clip&, const Clip&) = default;
+    friend bool operator==(const FilmPart&, const FilmPart&) = default;
 };
 
 /// Clips in their order; those that reach into each other become one.
-[[nodiscard]] std::vector<Clip> joinedClips(std::vector<Clip> clips);
+[[nodiscard]] std::vector<FilmPart> joinedClips(std::vector<FilmPart> clips);
 
 /// Plays parts of the film one after another, at the speed chosen, and stops behind the last. A
 /// coach who goes somewhere else meanwhile has left them.
@@ -28,7 +28,7 @@ class ClipPlayer : public QObject {
 public:
     explicit ClipPlayer(FilmDeck& deck, QObject* parent = nullptr);
 
-    void play(std::vector<Clip> clips);
+    void play(std::vector<FilmPart> clips);
     void stop();
     /// The clip that is played, from 0; nothing when none is.
     [[nodiscard]] std::optional<std::size_t> current() const;
@@ -41,7 +41,7 @@ private:
     void follow();
 
     FilmDeck& m_deck;
-    std::vector<Clip> m_clips;
+    std::vector<FilmPart> m_clips;
     std::size_t m_current = 0;
 };
 

@@ -235,7 +235,7 @@ void NoteMarks::dropMark(const MarkHandle& handle, double seconds) {
 /// Marks on other films than the run's own have no place in its clips.
 void NoteMarks::playClips() {
     const double around = m_list.clipSeconds();
-    std::vector<Clip> clips;
+    std::vector<FilmPart> clips;
     for (const MarkHandle& handle : m_list.forClips()) {
         const auto mark = std::ranges::find(m_marks.marks, handle, &LaneMark::handle);
         if (mark == m_marks.marks.end() || mark->film.kind == FilmKind::Versus)
@@ -247,7 +247,7 @@ void NoteMarks::playClips() {
             clips.push_back({std::max(m_desk.deck.start(), *seconds - around),
                              std::min(m_desk.deck.end(), *seconds + around)});
     }
-    std::erase_if(clips, [](const Clip& clip) { return clip.from >= clip.to; });
+    std::erase_if(clips, [](const FilmPart& clip) { return clip.from >= clip.to; });
     if (clips.empty())
         tell(tr("None of these marks lies on the film that is shown."));
     m_desk.clips.play(joinedClips(std::move(clips)));
