@@ -89,8 +89,6 @@ signals:
     void settingsRequested();
     void earlierWorkRequested(); ///< what was kept of earlier documents is to be shown
     void openRequested(const QStringList& paths);
-    /// Where a number comes from is to be shown: its file at that run and frame.
-    void placeRequested(const kavela::Place& place);
     /// It is about to be gone; its paths are still those of its files.
     void closed();
     /// It was asked to close and stays, by the coach's choice or since its work was not written.
