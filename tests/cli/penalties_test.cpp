@@ -40,7 +40,10 @@ std::string raceWithPenalties() {
 
 class PenaltyCalls : public testing::Test {
 protected:
-    PenaltyCalls() { (void)m_kavela.folder().add("season/cup.kvx", raceWithPenalties()); }
+    PenaltyCalls() {
+        std::filesystem::create_directory(m_kavela.folder().path() / "season");
+        (void)m_kavela.folder().add("season/cup.kvx", raceWithPenalties());
+    }
 
     [[nodiscard]] Ending call(const std::vector<std::string>& arguments) const {
         return m_kavela.call(arguments);

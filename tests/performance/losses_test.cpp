@@ -170,13 +170,13 @@ TEST(Losses, OfficialTotalsCountOnlyWhereBothHaveOne) {
     EXPECT_NEAR(official.sum->timing, 0.4, 1e-9);
 }
 
-TEST(Losses, AListWithoutResultStandsEvenBesideATime) {
+TEST(Losses, ATimeThatIsNoResultLeavesThoseOfTheSections) {
     auto race = lossRace(2, {lossRun({"A"}, {40, 40}), lossRun({"B"}, {30, 30})});
     race.athletes[1].sectioninfo.realtime = 999.9;
-    const RunLosses losses = lossesOf(factsOf(race), reference("winner")).back();
-    EXPECT_EQ(losses.referenceRun, 0U);
-    EXPECT_FALSE(losses.sum);
-    EXPECT_EQ(losses.stretches.size(), 2U);
+    const RunLosses losses = lossesOf(factsOf(race), reference("winner")).front();
+    EXPECT_EQ(losses.referenceRun, 1U);
+    ASSERT_TRUE(losses.sum);
+    EXPECT_DOUBLE_EQ(losses.sum->gap, 20);
 }
 
 TEST(Losses, TheFirstOfEqualTotalsIsTheWinner) {

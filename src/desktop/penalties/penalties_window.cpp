@@ -47,7 +47,7 @@ bool isSplitFileOrFolder(const QString& path) {
 } // namespace
 
 PenaltiesWindow::PenaltiesWindow(Workspace& workspace)
-    : ToolWindow(workspace, nullptr, {"penalties", tr("Penalties"), "kvx"}), m_work(*this) {
+    : ToolWindow(workspace, nullptr, {"penalties", tr("Penalties"), "kvx"}) {
     makeParts();
     new PenaltiesActions(*this); // the window owns it
     connectParts();
