@@ -1,5 +1,6 @@
 #include "desktop/closing.h"
 
+#include "common/file_size_limit.h"
 #include "common/recorders.h"
 #include "common/temp_folder.h"
 #include "desktop/desktop.h"
@@ -189,12 +190,11 @@ TEST_F(ClosingTest, LeavingTheProgramWaitsForEachWindowAndRemembersAll) {
 TEST_F(ClosingTest, AProgramWhoseWorkCannotBeWrittenIsNotLeft) {
     NoQuit ends;
     desktop::Desktop program(m_workspace, desktop::Autosave(path("kept")));
-    fs::create_directory(m_folder.path() / "gone");
-    const QPointer<TeamWindow> made = open("gone/a.kvteam");
+    const QPointer<TeamWindow> made = open("a.kvteam");
     ASSERT_TRUE(made->save());
     made->close();
     QTRY_VERIFY(!made);
-    program.open(path("gone/a.kvteam"));
+    program.open(path("a.kvteam"));
     ASSERT_THAT(program.windows(), SizeIs(1));
     TeamWindow& window = *program.windowsOf<TeamWindow>().front();
     edit(window, "Zora");
@@ -203,7 +203,7 @@ TEST_F(ClosingTest, AProgramWhoseWorkCannotBeWrittenIsNotLeft) {
         ++refusals;
         return static_cast<int>(choices.size()) - 1; // later
     });
-    fs::remove_all(m_folder.path() / "gone");
+    const FileSizeLimit full(8);
     QEvent event(QEvent::Quit);
     QCoreApplication::sendEvent(qApp, &event);
     QTRY_VERIFY(!window.isClosing());

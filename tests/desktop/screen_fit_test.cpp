@@ -8,6 +8,7 @@
 #include "desktop/planning/planning_window.h"
 #include "desktop/race/race_window.h"
 #include "desktop/sessions/session_charts.h"
+#include "desktop/sessions/session_window.h"
 #include "desktop/shell/key_bindings.h"
 #include "desktop/shell/key_overlay.h"
 #include "desktop/shell/settings_window.h"
@@ -116,6 +117,7 @@ TEST_F(ScreenFitTest, HoldsEveryWindowWithRoomForItsContentAndWithoutScrollingTh
     (void)program.openTaking(example("races/spring_opener.kvx"));
     (void)program.openIn(*desktop::toolOfKind("session"),
                          example("recordings/sprint_with_watch.kvb"));
+    QTRY_COMPARE(program.windowsOf<desktop::SessionWindow>().size(), 1);
     QApplication::processEvents();
     int windows = 0;
     for (QWidget* const window : QApplication::topLevelWidgets()) {

@@ -11,6 +11,7 @@
 #include <QHeaderView>
 #include <QTabWidget>
 #include <QTableView>
+#include <QTest>
 #include <QTreeView>
 
 #include <cstdlib>
@@ -120,7 +121,7 @@ TEST_P(ShownTablesTest, SayWhatTheyAlwaysSaid) {
                     desktop::Autosave(QString::fromStdString((m_folder.path() / "kept").string())));
     ASSERT_TRUE(program.openIn(*desktop::toolOfKind(GetParam().tool),
                                QString(KAVELA_EXAMPLES) + '/' + GetParam().file));
-    ASSERT_EQ(program.windows().size(), 1U);
+    QTRY_COMPARE(program.windows().size(), 1); // some files are read beside the windows
     const std::string shown = tablesOf(*program.windows().front()).toStdString();
     const std::string path = std::string(KAVELA_TEST_DATA "/shown_tables/") + GetParam().tool +
                              '.' + std::filesystem::path(GetParam().file).stem().string() + ".txt";

@@ -57,7 +57,7 @@ protected:
             else if (std::string_view(wanted.name) == "penalties")
                 openPenalties(path);
             else if (std::string_view(wanted.name) == "session")
-                (void)m_program.openIn(*desktop::toolOfKind("session"), path);
+                openSession(path);
             else
                 m_program.open(path);
         }
@@ -65,6 +65,12 @@ protected:
             if (auto* const main = qobject_cast<QMainWindow*>(window); main && main->isVisible())
                 return main;
         return nullptr;
+    }
+
+    /// The file is read before there is a window.
+    void openSession(const QString& path) {
+        (void)m_program.openIn(*desktop::toolOfKind("session"), path);
+        EXPECT_TRUE(QTest::qWaitFor([&] { return !m_program.windows().isEmpty(); }));
     }
 
     /// What it shows comes a little later.
