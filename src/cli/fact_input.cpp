@@ -1,10 +1,9 @@
 #include "cli/fact_input.h"
 
 #include "cli/console.h"
-#include "cli/progress_bar.h"
+#include "cli/fact_scan.h"
 #include "cli/split_file_edit.h"
 #include "common/safe_file.h"
-#include "facts/folder_scan.h"
 
 #include <algorithm>
 #include <system_error>
@@ -14,15 +13,7 @@ namespace kavela::cli {
 namespace fs = std::filesystem;
 
 FactInput factsFrom(const std::vector<std::string>& paths) {
-    std::optional<ProgressBar> bar;
-    ScanOptions options;
-    options.progress = [&bar](std::size_t, std::size_t total) {
-        if (!bar)
-            bar.emplace(total);
-        bar->step();
-    };
-    const std::vector<fs::path> wanted(paths.begin(), paths.end());
-    FolderScan scan = scanPaths(wanted, options);
+    FolderScan scan = scanWithBar(paths);
     FactInput input;
     input.read = scan.facts.files().size();
     input.files = input.read + scan.failed.size();

@@ -7,7 +7,7 @@
 
 namespace kavela::cli {
 
-FolderScan scanNamed(const std::vector<std::string>& paths) {
+FolderScan scanWithBar(const std::vector<std::string>& paths) {
     std::optional<ProgressBar> bar;
     std::size_t total = 0;
     ScanOptions options;
@@ -21,8 +21,11 @@ FolderScan scanNamed(const std::vector<std::string>& paths) {
         bar->step();
     };
     const std::vector<std::filesystem::path> named(paths.begin(), paths.end());
-    FolderScan scan = scanPaths(named, options);
-    bar.reset();
+    return scanPaths(named, options);
+}
+
+FolderScan scanNamed(const std::vector<std::string>& paths) {
+    FolderScan scan = scanWithBar(paths);
     for (const ScanFault& fault : scan.failed)
         logLine(pathText(fault.path) + ": " + fault.reason);
     return scan;

@@ -7,8 +7,11 @@
 
 namespace kavela::cli {
 
-/// Reads the split files that a call names, with a bar on a terminal, and tells on standard error
-/// what could not be read.
+/// Reads the split files that a call names, with a bar on a terminal. What an earlier call read and
+/// did not change since comes from the cache.
+[[nodiscard]] FolderScan scanWithBar(const std::vector<std::string>& paths);
+
+/// The same, and tells on standard error what could not be read.
 [[nodiscard]] FolderScan scanNamed(const std::vector<std::string>& paths);
 
 } // namespace kavela::cli
