@@ -6,6 +6,7 @@
 #include "common/error.h"
 #include "common/number_text.h"
 #include "common/safe_file.h"
+#include "facts/found_text.h"
 
 #include <algorithm>
 #include <cmath>

@@ -16,8 +16,8 @@ constexpr std::string_view RaceSession = "Race";
 using RivalKey = std::pair<TextId, TextId>;
 
 template <class Phase>
-std::vector<Group> grouped(const FactStore& facts, const Phase& phaseOf) {
-    std::vector<Group> groups;
+std::vector<RivalGroup> grouped(const FactStore& facts, const Phase& phaseOf) {
+    std::vector<RivalGroup> groups;
     std::map<RivalKey, std::size_t> places;
     for (std::size_t i = 0; i < facts.runs().size(); ++i) {
         const RunRow& run = facts.runs()[i];
@@ -32,7 +32,8 @@ std::vector<Group> grouped(const FactStore& facts, const Phase& phaseOf) {
     return groups;
 }
 
-void rankGroup(const FactStore& facts, const Group& group, std::vector<std::optional<int>>& ranks) {
+void rankGroup(const FactStore& facts, const RivalGroup& group,
+               std::vector<std::optional<int>>& ranks) {
     std::vector<double> totals;
     for (const std::size_t run : group)
         if (facts.runs()[run].isComplete)
@@ -48,19 +49,20 @@ void rankGroup(const FactStore& facts, const Group& group, std::vector<std::opti
 
 } // namespace
 
-std::vector<Group> groupsOf(const FactStore& facts) {
+std::vector<RivalGroup> groupsOf(const FactStore& facts) {
     return grouped(facts, [&](const RunRow& run) {
         return facts.text(facts.fileOf(run).session) == RaceSession ? run.phaseKey : TextId{0};
     });
 }
 
-std::vector<Group> categoriesOf(const FactStore& facts) {
+std::vector<RivalGroup> categoriesOf(const FactStore& facts) {
     return grouped(facts, [](const RunRow&) { return TextId{0}; });
 }
 
-std::vector<std::optional<int>> ranksOf(const FactStore& facts, const std::vector<Group>& groups) {
+std::vector<std::optional<int>> ranksOf(const FactStore& facts,
+                                        const std::vector<RivalGroup>& groups) {
     std::vector<std::optional<int>> ranks(facts.runs().size());
-    for (const Group& group : groups)
+    for (const RivalGroup& group : groups)
         rankGroup(facts, group, ranks);
     return ranks;
 }

@@ -19,7 +19,7 @@ constexpr std::array<std::string_view, 6> ReferenceWords{"winner", "fastest", "i
                                                          "median", "own",     "run"};
 
 /// For each run the place of its group; a run in none has the empty group at the end.
-std::vector<std::size_t> placesInGroups(const FactStore& facts, std::vector<Group>& groups) {
+std::vector<std::size_t> placesInGroups(const FactStore& facts, std::vector<RivalGroup>& groups) {
     std::vector<std::size_t> places(facts.runs().size(), groups.size());
     for (std::size_t group = 0; group < groups.size(); ++group)
         for (const std::size_t run : groups[group])

@@ -39,14 +39,16 @@ class LossRivals {
 public:
     explicit LossRivals(const FactStore& facts);
 
-    [[nodiscard]] const Group& groupOf(std::size_t run) const { return m_groups[m_groupOf[run]]; }
-    [[nodiscard]] const Group& categoryOf(std::size_t run) const {
+    [[nodiscard]] const RivalGroup& groupOf(std::size_t run) const {
+        return m_groups[m_groupOf[run]];
+    }
+    [[nodiscard]] const RivalGroup& categoryOf(std::size_t run) const {
         return m_categories[m_categoryOf[run]];
     }
 
 private:
-    std::vector<Group> m_groups;
-    std::vector<Group> m_categories;
+    std::vector<RivalGroup> m_groups;
+    std::vector<RivalGroup> m_categories;
     std::vector<std::size_t> m_groupOf;
     std::vector<std::size_t> m_categoryOf;
 };

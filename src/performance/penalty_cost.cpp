@@ -38,7 +38,7 @@ void tellDoubts(Why& why, const FactStore& facts, const GatePassage& penalty) {
 
 } // namespace
 
-GroupTotals::GroupTotals(const FactStore& facts, const Group& group) {
+GroupTotals::GroupTotals(const FactStore& facts, const RivalGroup& group) {
     for (const std::size_t run : group)
         if (facts.runs()[run].isComplete)
             m_totals.push_back(roundedToHundredths(facts.runs()[run].total));
@@ -61,7 +61,7 @@ int GroupTotals::rankOf(double total, Why* why) const {
 std::vector<PenaltyCost> penaltyCosts(const FactStore& facts, const PenaltyChoice& choice) {
     const ChosenRuns chosen(choice);
     std::vector<PenaltyCost> costs;
-    for (const Group& group : groupsOf(facts)) {
+    for (const RivalGroup& group : groupsOf(facts)) {
         if (group.empty())
             continue;
         const GroupTotals totals(facts, group);

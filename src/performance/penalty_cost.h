@@ -37,7 +37,7 @@ struct PenaltyCost {
 /// Totals of a group to the hundredth, ascending.
 class GroupTotals {
 public:
-    GroupTotals(const FactStore& facts, const Group& group);
+    GroupTotals(const FactStore& facts, const RivalGroup& group);
 
     /// The rank of a total among those of the group.
     [[nodiscard]] int rankOf(double total, Why* why = nullptr) const;

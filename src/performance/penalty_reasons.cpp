@@ -92,8 +92,8 @@ bool isCounted(const FactStore& facts, const RunRow& run, const PenaltyChoice& c
 }
 
 /// The group of a run, which has one.
-Group groupWith(const FactStore& facts, std::size_t run) {
-    for (Group& group : groupsOf(facts))
+RivalGroup groupWith(const FactStore& facts, std::size_t run) {
+    for (RivalGroup& group : groupsOf(facts))
         if (std::ranges::find(group, run) != group.end())
             return std::move(group);
     return {};

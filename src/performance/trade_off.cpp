@@ -13,7 +13,7 @@ namespace kavela {
 
 namespace {
 
-double medianOf(const FactStore& facts, const Group& runs, double RunRow::*time) {
+double medianOf(const FactStore& facts, const RivalGroup& runs, double RunRow::*time) {
     std::vector<double> times;
     for (const std::size_t run : runs)
         times.push_back(facts.runs()[run].*time);
@@ -22,8 +22,8 @@ double medianOf(const FactStore& facts, const Group& runs, double RunRow::*time)
 }
 
 /// The runs of a group that are whole and known by gate, the fastest paddler first.
-Group divisibleRuns(const FactStore& facts, const Group& group) {
-    Group runs;
+RivalGroup divisibleRuns(const FactStore& facts, const RivalGroup& group) {
+    RivalGroup runs;
     for (const std::size_t run : group)
         if (facts.runs()[run].isComplete && isKnownByGate(facts, facts.runs()[run]))
             runs.push_back(run);
@@ -46,7 +46,7 @@ PacedRun pacedRun(const FactStore& facts, std::size_t run, double paddling, doub
 }
 
 /// The thirds are those of the whole group, whichever of its runs are asked for.
-void addGroup(const FactStore& facts, const Group& runs, const ChosenRuns& chosen,
+void addGroup(const FactStore& facts, const RivalGroup& runs, const ChosenRuns& chosen,
               PacedRuns& paced) {
     const double paddling = medianOf(facts, runs, &RunRow::paddling);
     const double total = medianOf(facts, runs, &RunRow::total);
@@ -118,8 +118,8 @@ void tellRow(Why& why, const FactStore& facts, const std::vector<PacedRun>& runs
 PacedRuns pacedRuns(const FactStore& facts, const PenaltyChoice& choice) {
     const ChosenRuns chosen(choice);
     PacedRuns paced;
-    for (const Group& group : groupsOf(facts)) {
-        const Group runs = divisibleRuns(facts, group);
+    for (const RivalGroup& group : groupsOf(facts)) {
+        const RivalGroup runs = divisibleRuns(facts, group);
         const bool isAskedFor = std::ranges::any_of(
             runs, [&](std::size_t run) { return chosen.has(facts, facts.runs()[run]); });
         if (isAskedFor && runs.size() >= LeastDivided)

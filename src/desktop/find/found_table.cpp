@@ -48,8 +48,8 @@ Cell cellOf(const QueryAnswer& answer, std::size_t row, std::size_t at) {
     return cell;
 }
 
-ColumnModel<FoundLine>::Columns columnsFor(const QueryAnswer& answer) {
-    ColumnModel<FoundLine>::Columns columns;
+ColumnModel<AnswerLine>::Columns columnsFor(const QueryAnswer& answer) {
+    ColumnModel<AnswerLine>::Columns columns;
     for (std::size_t at = 0; at < answer.columns().size(); ++at) {
         const FoundColumn& column = answer.columns()[at];
         const bool isRight = isNumber(column);
@@ -58,7 +58,7 @@ ColumnModel<FoundLine>::Columns columnsFor(const QueryAnswer& answer) {
                            .tip = column.column ? qtText(column.column->meaning)
                                                 : FoundTable::tr("rows of the group"),
                            .kind = isRight ? ColumnKind::Number : ColumnKind::Text,
-                           .show = [at](const FoundLine& line) {
+                           .show = [at](const AnswerLine& line) {
                                // A row from before may have had fewer columns.
                                const QueryAnswer& of = line.found->answer;
                                return at < of.columns().size() ? cellOf(of, line.row, at) : Cell{};
@@ -139,7 +139,7 @@ void FoundTable::show(std::shared_ptr<const Found> found, bool isOther) {
     isOther =
         isOther || !isSameQuery(m_found.get(), found.get()) || found->answer.size() > MostFollowed;
     m_found = std::move(found);
-    std::vector<FoundLine> lines;
+    std::vector<AnswerLine> lines;
     const std::size_t count = m_found ? std::min(m_found->answer.size(), MostFoundShown) : 0;
     for (std::size_t row = 0; row < count; ++row)
         lines.push_back({m_found, row});

@@ -22,7 +22,7 @@ struct Found {
 };
 
 /// A row of an answer.
-struct FoundLine {
+struct AnswerLine {
     std::shared_ptr<const Found> found;
     std::size_t row = 0;
 };
@@ -58,7 +58,7 @@ signals:
 
 private:
     std::shared_ptr<const Found> m_found;
-    ColumnModel<FoundLine> m_lines;
+    ColumnModel<AnswerLine> m_lines;
     QLabel* m_title;
     ColumnTable* m_table;
 };

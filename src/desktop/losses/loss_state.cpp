@@ -105,7 +105,7 @@ void LossState::compute() {
     m_ranks.clear();
     if (!m_hasRun)
         return;
-    const Group& group = m_rivals->groupOf(run());
+    const RivalGroup& group = m_rivals->groupOf(run());
     m_ranks = ranksOf(*m_facts, {group});
     m_group = lossesOf(*m_facts, *m_rivals, group, m_reference);
     std::ranges::stable_sort(m_group, {}, [this](const RunLosses& losses) {

@@ -24,10 +24,6 @@ QString raceTitle(const FactStore& facts, const FileRow& file) {
     return tr("a race without a name");
 }
 
-std::int64_t shownOf(const LossState& state, std::size_t stretch) {
-    return state.losses().shown.stretches[stretch];
-}
-
 /// Without its sign.
 QString amount(std::int64_t hundredths) {
     return shownHundredths(static_cast<double>(std::abs(hundredths)) / 100);
