@@ -112,6 +112,8 @@ void WaterfallChart::fill() {
 
 /// The totals begin below the picture: what is between them is what matters.
 void WaterfallChart::setLimits() {
+    if (m_bars.empty())
+        return;
     std::int64_t least = m_bars.front().to;
     std::int64_t most = least;
     for (const WaterfallBar& bar : m_bars) {
