@@ -80,6 +80,7 @@ protected:
     static void type(FindWindow& window, const QString& keys) {
         window.query().setFocus();
         QTest::keyClicks(&window.query(), keys);
+        QApplication::setActiveWindow(&window); // the list of completions took that from it
     }
     /// Types into a field and leaves it.
     static void set(FindWindow& window, const char* field, const QString& value) {
@@ -163,7 +164,7 @@ TEST_F(FindWindowTest, FieldsFollowTheTextAndWriteIt) {
         << "groups are not sorted by a time of single gates";
     set(*window, "athlete", "bell \"anna\"");
     EXPECT_THAT(window->query().text().toStdString(), HasSubstr("athlete bell athlete \"anna\""));
-    EXPECT_EQ(field(*window, "athlete"), "bell \"anna\"");
+    EXPECT_EQ(field(*window, "athlete"), "bell anna") << "the same without the marks";
 
     const QString before = window->query().text();
     set(*window, "direction", "rihgt");

@@ -183,7 +183,8 @@ void ClipPair::clear() {
 /// to have some until both have ended.
 void ClipPair::open() {
     m_again.stop();
-    m_deck->open({}); // before its views go
+    m_isStarting = true; // the speed of a deck without films is nobody's choice
+    m_deck->open({});    // before its views go
     std::vector<Side*> playable;
     for (Side& side : m_sides) {
         side.camera.reset();
