@@ -97,6 +97,9 @@ protected:
         placeFilms(made, folder());
         ASSERT_NO_FATAL_FAILURE(open(made));
         ASSERT_TRUE(settles(0));
+        // Before that a press waits, and is no mark yet when it is looked for at once.
+        ASSERT_TRUE(QTest::qWaitFor(
+            [this] { return deck().index(0) && deck().index(0)->isComplete(); }, Patience));
     }
 
     FilmDeck& deck() const { return m_window->deck(); }

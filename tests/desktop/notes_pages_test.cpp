@@ -156,7 +156,7 @@ TEST_F(NotesTest, PutsAFixedCameraInStepByAMomentOnBothFilms) {
     for (int frame = 0; frame < 25; ++frame)
         press(Qt::CTRL | Qt::ALT | Qt::Key_Right);
     ASSERT_TRUE(
-        QTest::qWaitFor([&] { return bothShown() && deck.stamp(1)->seconds() > 0.45; }, Patience));
+        QTest::qWaitFor([&] { return bothShown() && deck.stamp(1)->seconds() > 0.49; }, Patience));
     const double lag = deck.stamp(1)->seconds() - deck.stamp(0)->seconds();
     press(Qt::Key_M);
     EXPECT_NEAR(lagOf(run(), 0).value_or(0), lag, 1e-9);
