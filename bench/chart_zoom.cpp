@@ -29,8 +29,14 @@ std::vector<SensorSeries> recordings() {
         auto values = std::make_shared<std::vector<double>>();
         for (const double time : *times)
             values->push_back(3 * std::sin(time * 8) + noise(dice));
-        all.push_back({QStringLiteral("Recording %1").arg(slot + 1), "m/s²", times, values, slot,
-                       0.4 * static_cast<double>(slot)});
+        SensorSeries series;
+        series.name = QStringLiteral("Recording %1").arg(slot + 1);
+        series.unit = "m/s²";
+        series.times = times;
+        series.values = std::move(values);
+        series.slot = slot;
+        series.offset = 0.4 * static_cast<double>(slot);
+        all.push_back(std::move(series));
     }
     return all;
 }
