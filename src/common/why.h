@@ -51,7 +51,7 @@ struct Reason {
     std::string shown;     ///< the text on the screen or the paper
     std::vector<Input> inputs;
     std::optional<Interval> uncertainty;
-    std::string uncertaintySource; ///< "half a frame, two marks"
+    std::string uncertaintySource;  ///< "half a frame, two marks"
     std::vector<std::string> notes; ///< what was left out and why
     std::vector<Reason> parts;      ///< numbers that were made on the way
 };

@@ -22,7 +22,7 @@ struct ToolKind {
         Document, ///< one that was open before, another, or a new one
         Files,    ///< several
         Folder,
-        None, ///< the window asks for them
+        None,          ///< the window asks for them
         FilesOrFolder, ///< several, or one folder with all below it, in one window
     };
 

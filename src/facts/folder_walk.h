@@ -24,9 +24,9 @@ struct FoundFile {
 };
 
 struct FolderWalk {
-    std::vector<FoundFile> files;  ///< in the order of their paths
+    std::vector<FoundFile> files;               ///< in the order of their paths
     std::vector<std::filesystem::path> folders; ///< that were walked, each once
-    std::vector<ScanFault> faults; ///< folders that could not be walked
+    std::vector<ScanFault> faults;              ///< folders that could not be walked
 };
 
 /// The files below a folder that may be split files: all but hidden ones and those whose names

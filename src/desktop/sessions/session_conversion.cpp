@@ -96,12 +96,12 @@ void SessionConversion::analyseAgain(std::shared_ptr<const EditedSession> sessio
 
 /// A recording of version 4 is read from the file that it was converted to, which then is the one
 /// that was opened.
-void SessionConversion::readConverted(
-    const QString& path, std::function<void(EditedSession session, QString path)> done,
-    std::function<void()> failed) {
+void SessionConversion::readConverted(const QString& path,
+                                      std::function<void(EditedSession session, QString path)> done,
+                                      std::function<void()> failed) {
     convertOlderRecording(path, m_workspace, &m_over, m_work,
-                          [this, done = std::move(done), failed = std::move(failed)](
-                              const std::optional<QString>& converted) {
+                          [this, done = std::move(done),
+                           failed = std::move(failed)](const std::optional<QString>& converted) {
                               if (converted)
                                   read(*converted, done, failed);
                               else
