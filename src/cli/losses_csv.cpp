@@ -1,6 +1,7 @@
 #include "cli/losses_csv.h"
 
 #include "common/number_text.h"
+#include "facts/found_text.h"
 
 #include <cstdint>
 #include <initializer_list>
@@ -16,15 +17,7 @@ class LossCsvLine {
 public:
     LossCsvLine& add(std::string_view text) {
         separate();
-        const bool needsQuotes = text.find_first_of("\";\r\n") != std::string_view::npos;
-        if (!needsQuotes) {
-            m_text += text;
-            return *this;
-        }
-        m_text += '"';
-        for (const char letter : text)
-            m_text += letter == '"' ? std::string("\"\"") : std::string(1, letter);
-        m_text += '"';
+        m_text += csvField(std::string(text));
         return *this;
     }
     LossCsvLine& add(double value) { return add(std::string_view(plainText(value))); }

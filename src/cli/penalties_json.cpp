@@ -4,6 +4,7 @@
 #include "common/display_text.h"
 #include "common/json_encode.h"
 #include "common/number_text.h"
+#include "facts/found_text.h"
 
 namespace kavela::cli {
 
@@ -156,16 +157,6 @@ TradeOffJson tradeOffJson(const TradeOff& tradeOff) {
     return json;
 }
 
-/// A text as one field of the list.
-std::string keyField(const std::string& text) {
-    if (text.find_first_of(";\"\n\r") == std::string::npos)
-        return text;
-    std::string field = "\"";
-    for (const char c : text)
-        field += c == '"' ? std::string("\"\"") : std::string(1, c);
-    return field + '"';
-}
-
 /// Count, rate and interval; empty fields where nobody came.
 std::string csvRate(const std::optional<RateOf>& rate) {
     if (!rate)
@@ -199,7 +190,7 @@ std::string penaltiesCsv(const PenaltyRates& rates) {
                         "Ranked rate;Low;High;Above\n";
     for (const RateRow& row : rates.rows) {
         const ShrunkRate& shrunk = row.shrunk;
-        table += keyField(row.key) + ';' + std::to_string(row.touches ? row.touches->of : 0) +
+        table += csvField(row.key) + ';' + std::to_string(row.touches ? row.touches->of : 0) +
                  csvRate(row.touches) + csvRate(row.missed) + ';' + plainText(shrunk.rate) + ';' +
                  plainText(shrunk.interval.low) + ';' + plainText(shrunk.interval.high) + ';' +
                  plainText(shrunk.above) + '\n';
