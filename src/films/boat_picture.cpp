@@ -68,6 +68,24 @@ void paintHull(QPainter& painter, const QColor& deck) {
     painter.drawPolygon(Deck);
 }
 
+/// Corners enough for what is a few pixels wide; curves would have to be cut into corners anew for
+/// every picture.
+void fillOval(QPainter& painter, QPointF centre, double halfLength, double halfWidth) {
+    constexpr std::size_t Corners = 16;
+    static const std::array<QPointF, Corners> Unit = [] {
+        std::array<QPointF, Corners> unit;
+        for (std::size_t i = 0; i < Corners; ++i) {
+            const double turn = 2 * std::numbers::pi * static_cast<double>(i) / Corners;
+            unit[i] = {std::cos(turn), std::sin(turn)};
+        }
+        return unit;
+    }();
+    std::array<QPointF, Corners> oval;
+    for (std::size_t i = 0; i < Corners; ++i)
+        oval[i] = centre + QPointF(halfLength * Unit[i].x(), halfWidth * Unit[i].y());
+    painter.drawConvexPolygon(oval.data(), Corners);
+}
+
 /// The blades lie across the boat and swing; `side` is 0 for both, -1 to port, 1 to starboard.
 void paintPaddle(QPainter& painter, double seat, double swing, int side) {
     constexpr double Reach = 20;
@@ -88,14 +106,14 @@ void paintPaddle(QPainter& painter, double seat, double swing, int side) {
 void paintAthlete(QPainter& painter, double seat) {
     painter.setPen(Qt::NoPen);
     painter.setBrush(Skin);
-    painter.drawEllipse(QPointF(seat + 2, -6.5), 2.4, 2.4);
-    painter.drawEllipse(QPointF(seat + 2, 6.5), 2.4, 2.4);
+    fillOval(painter, QPointF(seat + 2, -6.5), 2.4, 2.4);
+    fillOval(painter, QPointF(seat + 2, 6.5), 2.4, 2.4);
     painter.setBrush(Vest);
-    painter.drawEllipse(QPointF(seat - 1, 0), 4, 7);
+    fillOval(painter, QPointF(seat - 1, 0), 4, 7);
     painter.setBrush(Outline);
-    painter.drawEllipse(QPointF(seat, 0), 4.3, 4.3);
+    fillOval(painter, QPointF(seat, 0), 4.3, 4.3);
     painter.setBrush(Helmet);
-    painter.drawEllipse(QPointF(seat, 0), 3.3, 3.3);
+    fillOval(painter, QPointF(seat, 0), 3.3, 3.3);
 }
 
 void paintCrew(QPainter& painter, const BoatLook& look, double stroke) {
