@@ -1,11 +1,11 @@
 #include "desktop/cross/trials/gate_form.h"
 
 #include "desktop/shell/qt_text.h"
+#include "desktop/shell/shown_number.h"
 #include "desktop/shell/tables/column_table.h"
 #include "desktop/shell/theme.h"
 #include "desktop/splitfile/code_combo.h"
 #include "desktop/splitfile/film_table.h"
-#include "desktop/splitfile/text_table.h"
 
 #include <QCheckBox>
 #include <QFormLayout>
@@ -39,7 +39,7 @@ QString gateTurnText(const GateRow& row) {
 
 Column<GateRow> gateTimeColumn(const QString& title, double GateTimes::*time) {
     return {.title = title, .kind = ColumnKind::Number, .show = [time](const GateRow& row) {
-                return Cell{timeOrDash(timesOf(row.gate.cmtimes).*time)};
+                return Cell{hundredthsOrDash(timesOf(row.gate.cmtimes).*time)};
             }};
 }
 

@@ -1,9 +1,9 @@
 #include "desktop/cross/trials/roll_form.h"
 
+#include "desktop/shell/shown_number.h"
 #include "desktop/shell/tables/column_table.h"
 #include "desktop/shell/theme.h"
 #include "desktop/splitfile/code_combo.h"
-#include "desktop/splitfile/text_table.h"
 #include "splittaking/annotations/gate_marks.h"
 
 #include <QFormLayout>
@@ -56,9 +56,9 @@ void RollForm::setRoll(const ttroll030* roll) {
     }
     const GateTimes times =
         timesOf(roll ? std::span<const CMTime>(roll->cmtimes) : std::span<const CMTime>());
-    m_rows.show({{tr("Going over"), timeOrDash(times.entrance)},
-                 {tr("Coming up"), timeOrDash(times.exit)},
-                 {tr("Total"), timeOrDash(times.total)}});
+    m_rows.show({{tr("Going over"), hundredthsOrDash(times.entrance)},
+                 {tr("Coming up"), hundredthsOrDash(times.exit)},
+                 {tr("Total"), hundredthsOrDash(times.total)}});
 }
 
 } // namespace kavela::desktop

@@ -5,13 +5,13 @@
 #include "desktop/cross/trials/trial_list.h"
 #include "desktop/film/film_deck.h"
 #include "desktop/shell/qt_text.h"
+#include "desktop/shell/shown_number.h"
 #include "desktop/shell/tables/column_table.h"
 #include "desktop/shell/theme.h"
 #include "desktop/shell/workspace.h"
 #include "desktop/splitfile/film_table.h"
 #include "desktop/splitfile/gate_mark_text.h"
 #include "desktop/splitfile/taking_document.h"
-#include "desktop/splitfile/text_table.h"
 #include "splitdata/run_timing.h"
 #include "splittaking/annotations/cross_heats.h"
 #include "splittaking/video_names.h"
@@ -227,8 +227,9 @@ void TrialPage::showSplits() {
         const Stamps& stamps = marks.marks[k];
         const bool isTimed = marks.start && !stamps.empty();
         rows.push_back(
-            {QString::number(k + 1), stamps.empty() ? QStringLiteral("–") : timeOrDash(times[k]),
-             timeOrDash(isTimed ? secondsFrom(marks.start->front(), stamps.front()) : 0)});
+            {QString::number(k + 1),
+             stamps.empty() ? QStringLiteral("–") : hundredthsOrDash(times[k]),
+             hundredthsOrDash(isTimed ? secondsFrom(marks.start->front(), stamps.front()) : 0)});
     }
     m_splitRows.show(std::move(rows));
     const auto& selected = m_front.selected();
@@ -253,7 +254,8 @@ void TrialPage::showFrame() {
     if (!from)
         m_running->clear();
     else if (now) // while a frame is on its way, the last one's time stays
-        m_running->setText(tr("%1 s").arg(timeOrDash(std::max(0.0, secondsFrom(*from, *now)))));
+        m_running->setText(
+            tr("%1 s").arg(hundredthsOrDash(std::max(0.0, secondsFrom(*from, *now)))));
 }
 
 void TrialPage::commit() {
@@ -358,13 +360,8 @@ void TrialPage::setFilm(const QString& name) {
 }
 
 void TrialPage::rename(std::size_t trial, const QString& athlete) {
-    const std::string name = athlete.trimmed().toStdString();
-    if (name.empty() || name == m_desk.cross().timetrials.at(trial).athlete) {
-        refresh(); // shows the name that stays
-        return;
-    }
     edit(tr("athlete renamed"),
-         [&](crossdata030& cross) { cross.timetrials[trial].athlete = name; });
+         [&](crossdata030& cross) { cross.timetrials.at(trial).athlete = athlete.toStdString(); });
 }
 
 void TrialPage::startAdding() {
