@@ -23,7 +23,7 @@ namespace kavela::desktop {
 
 namespace {
 
-constexpr int FilmWidth = 140; ///< pixels
+constexpr int FilmColumnWidth = 140; ///< pixels
 constexpr int LeastTrials = 6; ///< that are seen without scrolling
 
 /// 0 stands for none.
@@ -82,13 +82,13 @@ Cell TrialList::filmCell(const TrialRow& row) const {
 
 void TrialList::makeTable() {
     // A letter is a key of the film that was missed, not another name.
-    m_table->setEditTriggers(QAbstractItemView::DoubleClicked | QAbstractItemView::EditKeyPressed);
+    m_table->setEditTriggers(QAbstractItemView::DoubleClicked);
     m_table->setTabKeyNavigation(false); // each row that Tab came by would open its film
     m_table->setTextElideMode(Qt::ElideMiddle);
     m_table->setMinimumHeight(LeastTrials * m_table->verticalHeader()->defaultSectionSize());
     m_table->stretch({AthleteColumn});
     m_table->horizontalHeader()->setSectionResizeMode(FilmColumn, QHeaderView::Fixed);
-    m_table->horizontalHeader()->resizeSection(FilmColumn, FilmWidth);
+    m_table->horizontalHeader()->resizeSection(FilmColumn, FilmColumnWidth);
     m_table->setAdd(tr("Add an athlete"), [this] { startAdding(); });
     m_ofTrial = {
         &m_table->addCommand(tr("Re&name the athlete"), {},
