@@ -4,6 +4,7 @@
 #include "desktop/notes_fixture.h"
 #include "desktop/race/race_view.h"
 #include "desktop/race/race_window.h"
+#include "desktop/shell/tables/column_table.h"
 #include "desktop/taking/split_mode.h"
 #include "splittaking/annotations/time_losses.h"
 
@@ -261,9 +262,18 @@ TEST_F(TakingRulesTest, ShowsWhatAListHasForWhomBeforeItIsTaken) {
             auto* const dialog = QApplication::activeModalWidget();
             ASSERT_TRUE(dialog);
             told = dialog->findChild<QLabel*>("resultsCount")->text();
-            auto& table = *dialog->findChild<QTableWidget*>("resultsOfRuns");
-            static_cast<QComboBox*>(table.cellWidget(1, 3))->setCurrentIndex(2);
-            table.item(1, 0)->setCheckState(Qt::Checked);
+            auto& table = *dialog->findChild<desktop::ColumnTable*>("resultsOfRuns")->model();
+            const auto isTicked = [&] {
+                return table.setData(table.index(1, 0), Qt::Checked, Qt::CheckStateRole);
+            };
+            const auto isChosen = [&](const char* line) {
+                return table.setData(table.index(1, 3), line);
+            };
+            EXPECT_FALSE(isTicked()) << "there is no line to take";
+            EXPECT_FALSE(isChosen("nobody")) << "stands in no line";
+            EXPECT_FALSE(isChosen("0")) << "stands in both";
+            EXPECT_TRUE(isChosen("other n"));
+            EXPECT_TRUE(isTicked());
             auto* const box = dialog->findChild<QDialogButtonBox*>();
             for (QAbstractButton* const button : box->buttons())
                 if (box->buttonRole(button) == role)
