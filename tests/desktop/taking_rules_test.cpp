@@ -7,6 +7,7 @@
 #include "desktop/shell/tables/column_table.h"
 #include "desktop/taking/split_mode.h"
 #include "splittaking/annotations/time_losses.h"
+#include "splittaking/course_setup.h"
 
 #include <QDialogButtonBox>
 #include <QMessageBox>
@@ -292,6 +293,38 @@ TEST_F(TakingRulesTest, ShowsWhatAListHasForWhomBeforeItIsTaken) {
     EXPECT_THAT(m_window->document().info().resultsCSVdata, SizeIs(::testing::Ge(2U)));
     undo(1);
     EXPECT_FALSE(m_window->document().isDirty()) << "one step";
+}
+
+TEST_F(TakingRulesTest, ShowsWhichSectionOfTheCourseIsWrong) {
+    const infodata031 before = timedRace().info;
+    ASSERT_NO_FATAL_FAILURE(open(timedRace(), false));
+    QTimer::singleShot(0, [&] {
+        auto* const dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+        ASSERT_TRUE(dialog);
+        QApplication::setActiveWindow(dialog);
+        dialog->findChild<QPushButton*>("share")->click();
+        auto& table = *dialog->findChild<desktop::ColumnTable*>("sections");
+        const auto type = [&](const QString& gates) {
+            table.edit(1, 1);
+            QTest::keyClicks(QApplication::focusWidget(), gates);
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+            QApplication::processEvents(); // which closes the cell
+        };
+        const QString gates = table.cellAt(1, 1).data().toString();
+        type("999");
+        EXPECT_NE(table.currentPlace(), 1) << "Enter goes on to the next section";
+        dialog->accept();
+        EXPECT_EQ(table.currentPlace(), 1);
+        type(gates);
+        dialog->accept();
+    });
+    m_window->exchange().setUpCourse();
+    ASSERT_THAT(m_recorder.alerts, ::testing::SizeIs(1));
+    EXPECT_THAT(m_recorder.alerts[0], HasSubstr("Section 2: Gate 999 is not on a course"));
+    const infodata031& info = m_window->document().info();
+    EXPECT_EQ(info.definedsections, defaultSections(before.gates, before.totalsplits));
+    EXPECT_EQ(info.date, before.date) << "the fields that nobody typed in";
+    EXPECT_EQ(info.session, before.session);
 }
 
 TEST_F(TakingRulesTest, BeginsTheNextLossOnceOneIsMarked) {
