@@ -91,34 +91,32 @@ ResultsDialog::ResultsDialog(const std::vector<athletedata031>& runs, const Resu
 }
 
 ColumnModel<MatchedRun>::Columns ResultsDialog::columns() {
-    const auto run = [this](const MatchedRun& row) -> const athletedata031& {
-        return m_runs[row.result.run];
+    const auto phase = [this](const MatchedRun& row) {
+        return qtText(m_runs[row.result.run].phase);
     };
-    return {{.title = tr("Run"),
-             .show =
-                 [run](const MatchedRun& row) {
-                     Cell cell{qtText(crewText(run(row).names))};
-                     if (row.result.line)
-                         cell.isTicked = row.isTaken;
-                     return cell;
-                 },
-             .tick =
-                 [this](const std::size_t& place, const MatchedRun& row, bool isTicked) {
-                     change(place, {row.result, isTicked});
-                 }},
-            textColumn<MatchedRun>(tr("Phase"),
-                                   [run](const MatchedRun& row) { return qtText(run(row).phase); }),
-            textColumn<MatchedRun>(tr("Real time now"),
-                                   [run](const MatchedRun& row) {
-                                       const auto& now = run(row).sectioninfo;
-                                       return timeText(now.realtime, now.realpen);
-                                   }),
-            {.title = tr("Line"),
-             .tip = tr("Type a part of the name for another line; an emptied cell stands for none"),
-             .show = [this](const MatchedRun& row) { return lineCell(row); },
-             .take = [this](const std::size_t& place, const MatchedRun&,
-                            const QString& typed) { chooseLine(place, typed); },
-             .proposals = [this](const MatchedRun&) { return m_lines; }}};
+    const auto now = [this](const MatchedRun& row) {
+        const sectiondata030& timing = m_runs[row.result.run].sectioninfo;
+        return timeText(timing.realtime, timing.realpen);
+    };
+    Column<MatchedRun> run{.title = tr("Run"), .show = [this](const MatchedRun& row) {
+                               Cell cell{qtText(crewText(m_runs[row.result.run].names))};
+                               if (row.result.line)
+                                   cell.isTicked = row.isTaken;
+                               return cell;
+                           }};
+    run.tick = [this](const std::size_t& place, const MatchedRun& row, bool isTicked) {
+        change(place, {row.result, isTicked});
+    };
+    Column<MatchedRun> line{
+        .title = tr("Line"),
+        .tip = tr("Type a part of the name for another line; an emptied cell stands for none"),
+        .show = [this](const MatchedRun& row) { return lineCell(row); }};
+    line.take = [this](const std::size_t& place, const MatchedRun&, const QString& typed) {
+        chooseLine(place, typed);
+    };
+    line.proposals = [this](const MatchedRun&) { return m_lines; };
+    return {run, textColumn<MatchedRun>(tr("Phase"), phase),
+            textColumn<MatchedRun>(tr("Real time now"), now), line};
 }
 
 /// A run that has a real time already keeps it, unless the coach ticks it.
@@ -135,16 +133,18 @@ Cell ResultsDialog::lineCell(const MatchedRun& row) const {
 
 /// Lines that read the same have the same to take. A part of a line that no other has will do.
 void ResultsDialog::chooseLine(std::size_t place, const QString& typed) {
-    const QStringList meant =
-        m_lines.contains(typed) ? QStringList(typed) : m_lines.filter(typed, Qt::CaseInsensitive);
-    if (!typed.isEmpty() && meant.isEmpty())
-        throw RefusedEntry(tr("No line of the list has “%1”.").arg(typed));
-    if (!typed.isEmpty() && meant.size() > 1)
-        throw RefusedEntry(
-            tr("%1 lines of the list have “%2”: choose one.").arg(meant.size()).arg(typed));
-    const auto line = static_cast<std::size_t>(m_lines.indexOf(meant.value(0)));
-    const std::size_t run = m_rows.row(static_cast<int>(place)).result.run;
-    change(place, matched({run, typed.isEmpty() ? std::nullopt : std::optional(line)}));
+    ResultOfRun result{m_rows.row(static_cast<int>(place)).result.run, std::nullopt};
+    if (!typed.isEmpty()) {
+        const QStringList meant = m_lines.contains(typed)
+                                      ? QStringList(typed)
+                                      : m_lines.filter(typed, Qt::CaseInsensitive);
+        if (meant.size() != 1)
+            throw RefusedEntry(tr("“%1” stands in %2 lines of the list: it must be in one.")
+                                   .arg(typed)
+                                   .arg(meant.size()));
+        result.line = static_cast<std::size_t>(m_lines.indexOf(meant.front()));
+    }
+    change(place, matched(result));
 }
 
 void ResultsDialog::change(std::size_t place, const MatchedRun& row) {

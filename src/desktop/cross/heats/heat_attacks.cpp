@@ -24,56 +24,54 @@ namespace {
 
 constexpr int LeastAttacksHeight = 84; ///< pixels
 
-/// What does not fit its column is told by its tip.
-Column<AttackRow> attackColumn(const QString& title, std::function<Cell(const AttackRow&)> show) {
-    return {.title = title, .show = [show = std::move(show)](const AttackRow& row) {
-                Cell cell = show(row);
-                if (cell.tip.isEmpty())
-                    cell.tip = cell.text;
-                return cell;
-            }};
-}
-
-Column<AttackRow> attackTextColumn(const QString& title, std::string actiondata030::*text) {
-    return attackColumn(title,
-                        [text](const AttackRow& row) { return Cell{qtText(row.attack.*text)}; });
-}
-
 /// Of its start, which is entry 0, or its end.
 Column<AttackRow> attackMomentColumn(const QString& title, std::size_t entry) {
     return numberColumn<AttackRow>(
         title,
         [entry](const AttackRow& row) {
-            const std::vector<CMTime>& moments = row.attack.time;
-            return entry < moments.size() && isTaken(moments[entry])
-                       ? std::optional(moments[entry].seconds())
-                       : std::nullopt;
+            const auto& moments = row.attack.time;
+            const bool isThere = entry < moments.size() && isTaken(moments[entry]);
+            return isThere ? std::optional(moments[entry].seconds()) : std::nullopt;
         },
         shownHundredths);
 }
 
+Column<AttackRow> attackTextColumn(const QString& title, std::string actiondata030::*text) {
+    return textColumn<AttackRow>(title,
+                                 [text](const AttackRow& row) { return qtText(row.attack.*text); });
+}
+
+/// What does not fit its column is told by its tip, and the names of several defenders by that and
+/// by what is copied.
 ColumnModel<AttackRow>::Columns attackColumns(const HeatDesk& desk) {
     const auto attacker = [](const AttackRow& row) {
         return Cell{.text = qtText(row.attack.attacker), .badge = row.attacker};
     };
-    // The names of several do not fit: they stand in the tip and in what is copied.
     const auto defenders = [](const AttackRow& row) {
-        const QString names = joined(row.attack.defenders);
-        return Cell{.text = row.defenders, .typed = names, .tip = names, .badge = row.defender};
+        return Cell{
+            .text = row.defenders, .typed = joined(row.attack.defenders), .badge = row.defender};
     };
     const auto outcome = [&desk](const AttackRow& row) {
         const bool hasPassed = row.attack.success;
         return Cell{.text = hasPassed ? HeatAttacks::tr("✓ passed") : HeatAttacks::tr("✗ held"),
                     .colour = changeColour(hasPassed ? 1 : 0, desk.palette())};
     };
-    return {attackMomentColumn(HeatAttacks::tr("Start"), 0),
-            attackMomentColumn(HeatAttacks::tr("End"), 1),
-            attackColumn(HeatAttacks::tr("Attacker"), attacker),
-            attackColumn(HeatAttacks::tr("On"), defenders),
-            attackColumn(HeatAttacks::tr("Outcome"), outcome),
-            attackTextColumn(HeatAttacks::tr("Side"), &actiondata030::side),
-            attackTextColumn(HeatAttacks::tr("Place"), &actiondata030::place),
-            attackTextColumn(HeatAttacks::tr("Comment"), &actiondata030::comments)};
+    ColumnModel<AttackRow>::Columns columns{
+        attackMomentColumn(HeatAttacks::tr("Start"), 0),
+        attackMomentColumn(HeatAttacks::tr("End"), 1),
+        {.title = HeatAttacks::tr("Attacker"), .show = attacker},
+        {.title = HeatAttacks::tr("On"), .show = defenders},
+        {.title = HeatAttacks::tr("Outcome"), .show = outcome},
+        attackTextColumn(HeatAttacks::tr("Side"), &actiondata030::side),
+        attackTextColumn(HeatAttacks::tr("Place"), &actiondata030::place),
+        attackTextColumn(HeatAttacks::tr("Comment"), &actiondata030::comments)};
+    for (Column<AttackRow>& column : columns)
+        column.show = [show = column.show](const AttackRow& row) {
+            Cell cell = show(row);
+            cell.tip = cell.typed.value_or(cell.text);
+            return cell;
+        };
+    return columns;
 }
 
 /// The attack in its new form, where its first moment belongs. One that names strangers from a file
@@ -250,20 +248,16 @@ void HeatAttacks::refresh() {
 
 AttackRow HeatAttacks::rowOf(const actiondata030& attack) const {
     const auto looks = m_desk.looks();
-    const auto badge = [&](const std::string& name) {
-        return badgeOf(lookOf(looks, name, m_desk.palette()), *this);
+    const auto look = [&](const std::string& name) {
+        return lookOf(looks, name, m_desk.palette());
     };
-    AttackRow row{attack, badge(attack.attacker), {}, {}};
-    if (attack.defenders.size() == 1) {
-        row.defender = badge(attack.defenders.front());
-        row.defenders = qtText(attack.defenders.front());
-        return row;
-    }
-    QStringList cues;
+    const bool hasOneDefender = attack.defenders.size() == 1;
+    QStringList defenders;
     for (const std::string& name : attack.defenders)
-        cues.append(lookOf(looks, name, m_desk.palette()).cue);
-    row.defenders = cues.join(", ");
-    return row;
+        defenders.append(hasOneDefender ? qtText(name) : look(name).cue);
+    return {attack, badgeOf(look(attack.attacker), *this),
+            hasOneDefender ? badgeOf(look(attack.defenders.front()), *this) : QIcon(),
+            defenders.join(", ")};
 }
 
 /// What the heats of this file used, then the words of the sport.

@@ -83,39 +83,25 @@ QString wholeNumber(double count) {
     return QString::number(count);
 }
 
-/// A column of PlaceRow. Who goes on, or wins, stands on a ground of its own.
-Column<PlaceRow> placeColumn(const QString& title, ColumnKind kind, const QPalette& palette,
-                             std::function<Cell(const PlaceRow&)> show) {
-    const QColor ground = tinted(changeColour(1, palette));
-    return {.title = title, .kind = kind, .show = [=](const PlaceRow& row) {
-                Cell cell = show(row);
-                if (row.isAhead)
-                    cell.ground = ground;
-                return cell;
-            }};
-}
-
 /// A place of a boat, with a dash for none.
-Column<PlaceRow> rankColumn(const QString& title, const QPalette& palette,
-                            std::optional<std::size_t> HeatPlace::*place) {
-    return placeColumn(title, ColumnKind::Number, palette, [place](const PlaceRow& row) {
-        const auto& rank = row.place.*place;
-        return rank ? Cell{.text = QString::number(*rank), .number = static_cast<double>(*rank)}
-                    : Cell{QStringLiteral("–")};
-    });
+Column<PlaceRow> rankColumn(const QString& title, std::optional<std::size_t> HeatPlace::*place) {
+    return numberColumn<PlaceRow>(
+        title, [place](const PlaceRow& row) { return std::optional<double>(row.place.*place); },
+        wholeNumber);
 }
 
 /// Places won (1) or lost (-1).
-Column<PlaceRow> changeColumn(const QString& title, const QPalette& palette, int way,
-                              std::size_t HeatPlace::*places) {
-    return placeColumn(title, ColumnKind::Number, palette, [=](const PlaceRow& row) {
-        const std::size_t count = row.place.*places;
-        return Cell{.text = QString::number(count),
-                    .number = static_cast<double>(count),
-                    .colour = changeColour(count > 0 ? way : 0, palette)};
-    });
+Column<PlaceRow> changeColumn(const QString& title, std::size_t HeatPlace::*places, int way,
+                              const QPalette& palette) {
+    return {.title = title, .kind = ColumnKind::Number, .show = [=](const PlaceRow& row) {
+                const auto count = static_cast<double>(row.place.*places);
+                return Cell{.text = wholeNumber(count),
+                            .number = count,
+                            .colour = changeColour(count > 0 ? way : 0, palette)};
+            }};
 }
 
+/// Who goes on, or wins, stands on a ground of its own.
 ColumnModel<PlaceRow>::Columns placeColumns(const QPalette& palette) {
     const auto boat = [](const PlaceRow& row) {
         return Cell{.text = qtText(row.place.athlete), .badge = row.badge};
@@ -123,12 +109,21 @@ ColumnModel<PlaceRow>::Columns placeColumns(const QPalette& palette) {
     const auto outcome = [palette](const PlaceRow& row) {
         return Cell{.text = row.outcome, .colour = changeColour(row.isAhead ? 1 : 0, palette)};
     };
-    return {placeColumn(ResultsPage::tr("Boat"), ColumnKind::Text, palette, boat),
-            rankColumn(ResultsPage::tr("Place"), palette, &HeatPlace::finish),
-            rankColumn(ResultsPage::tr("Start"), palette, &HeatPlace::start),
-            changeColumn(ResultsPage::tr("Gained"), palette, 1, &HeatPlace::gained),
-            changeColumn(ResultsPage::tr("Lost"), palette, -1, &HeatPlace::lost),
-            placeColumn(ResultsPage::tr("Outcome"), ColumnKind::Text, palette, outcome)};
+    ColumnModel<PlaceRow>::Columns columns{
+        {.title = ResultsPage::tr("Boat"), .show = boat},
+        rankColumn(ResultsPage::tr("Place"), &HeatPlace::finish),
+        rankColumn(ResultsPage::tr("Start"), &HeatPlace::start),
+        changeColumn(ResultsPage::tr("Gained"), &HeatPlace::gained, 1, palette),
+        changeColumn(ResultsPage::tr("Lost"), &HeatPlace::lost, -1, palette),
+        {.title = ResultsPage::tr("Outcome"), .show = outcome}};
+    for (Column<PlaceRow>& column : columns)
+        column.show = [show = column.show,
+                       ground = tinted(changeColour(1, palette))](const PlaceRow& row) {
+            Cell cell = show(row);
+            cell.ground = row.isAhead ? ground : QColor();
+            return cell;
+        };
+    return columns;
 }
 
 template <class Row>
