@@ -315,6 +315,7 @@ TEST_F(CrossWindowTest, ListsAndEditsATrialWhoseFilmIsMissingAndKeepsCodesItDoes
     EXPECT_THAT(trial(1).upstreams[0].cmtimes, IsEmpty());
     press(Qt::Key_Delete);
     EXPECT_THAT(trial(1).upstreams, IsEmpty()) << "without marks, the gate itself";
+    EXPECT_EQ(part<QComboBox>("gateStyle").currentIndex(), -1) << "no style was told";
     EXPECT_EQ(trial(1).roll.style, 55);
 }
 

@@ -15,7 +15,10 @@ public:
     void code(const FieldFacts& facts, LabelList list, Member member) {
         auto* const combo = new CodeCombo(list);
         const std::size_t at = this->addPart(
-            facts, combo, [combo](const QVariant& code) { combo->setCode(code.toLongLong()); },
+            facts, combo,
+            [combo](const QVariant& code) {
+                code.isValid() ? combo->setCode(code.toLongLong()) : combo->clearCode();
+            },
             [combo] { return QVariant(static_cast<qlonglong>(combo->code())); });
         this->template bind<std::int64_t>(
             at, member, [](std::int64_t code) { return static_cast<qlonglong>(code); },

@@ -24,7 +24,7 @@ namespace kavela::desktop {
 namespace {
 
 constexpr int FilmColumnWidth = 140; ///< pixels
-constexpr int LeastTrials = 6; ///< that are seen without scrolling
+constexpr int LeastTrials = 6;       ///< that are seen without scrolling
 
 /// 0 stands for none.
 std::optional<double> unlessZero(double number) {

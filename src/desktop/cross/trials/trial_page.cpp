@@ -182,24 +182,17 @@ void TrialPage::connectForms() {
         if (first != marks.end())
             m_front.goTo(*first);
     });
-    const auto changeGate = [this](std::int64_t ttupstream030::*member) {
-        return [this, member](std::int64_t code) {
-            const auto gate = m_front.gate();
-            m_front.edit(tr("gate %1").arg(gate.value_or(0)), [&](ttdata030& trial) {
-                if (const auto place = gate ? upstreamAt(trial, *gate) : std::nullopt)
-                    trial.upstreams[*place].*member = code;
+    connect(m_gates, &GateForm::edited, this,
+            [this](const std::function<void(ttupstream030&)>& change) {
+                const auto gate = m_front.gate();
+                m_front.edit(tr("gate %1").arg(gate.value_or(0)), [&](ttdata030& trial) {
+                    if (const auto place = gate ? upstreamAt(trial, *gate) : std::nullopt)
+                        change(trial.upstreams[*place]);
+                });
             });
-        };
-    };
-    connect(m_gates, &GateForm::directionChosen, this, changeGate(&ttupstream030::direction));
-    connect(m_gates, &GateForm::styleChosen, this, changeGate(&ttupstream030::style));
-    const auto changeRoll = [this](std::int64_t ttroll030::*member) {
-        return [this, member](std::int64_t code) {
-            m_front.edit(tr("roll"), [&](ttdata030& trial) { trial.roll.*member = code; });
-        };
-    };
-    connect(m_roll, &RollForm::directionChosen, this, changeRoll(&ttroll030::direction));
-    connect(m_roll, &RollForm::styleChosen, this, changeRoll(&ttroll030::style));
+    connect(m_roll, &RollForm::edited, this, [this](const std::function<void(ttroll030&)>& change) {
+        m_front.edit(tr("roll"), [&](ttdata030& trial) { change(trial.roll); });
+    });
 }
 
 void TrialPage::refresh() {
