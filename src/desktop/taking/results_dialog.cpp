@@ -135,13 +135,11 @@ Cell ResultsDialog::lineCell(const MatchedRun& row) const {
 void ResultsDialog::chooseLine(std::size_t place, const QString& typed) {
     ResultOfRun result{m_rows.row(static_cast<int>(place)).result.run, std::nullopt};
     if (!typed.isEmpty()) {
-        const QStringList meant = m_lines.contains(typed)
-                                      ? QStringList(typed)
-                                      : m_lines.filter(typed, Qt::CaseInsensitive);
-        if (meant.size() != 1)
+        QStringList meant = m_lines.contains(typed) ? QStringList(typed)
+                                                    : m_lines.filter(typed, Qt::CaseInsensitive);
+        if (meant.removeDuplicates(); meant.size() != 1)
             throw RefusedEntry(tr("“%1” stands in %2 lines of the list: it must be in one.")
-                                   .arg(typed)
-                                   .arg(meant.size()));
+                                   .arg(typed, QString::number(meant.size())));
         result.line = static_cast<std::size_t>(m_lines.indexOf(meant.front()));
     }
     change(place, matched(result));
