@@ -25,7 +25,7 @@ namespace {
 constexpr const char* VisibleKey = "coachswordvisible";
 constexpr double MostGiveUps = 99;
 
-enum CommentColumn { SplitTitle, SplitWords };
+constexpr int WordsColumn = 1;
 
 /// One beyond the best, as a file may have it, is shown as it is.
 void addScore(RecordForm<athletedata031>& scores, Scorer scorer, const char* name,
@@ -75,7 +75,7 @@ std::vector<Column<CommentRow>> CommentPage::columns() {
 }
 
 void CommentPage::makeTable() {
-    m_table->stretch({SplitWords});
+    m_table->stretch({WordsColumn});
     // A letter is a key of the film that was missed, and no comment.
     m_table->setEditTriggers(QAbstractItemView::DoubleClicked | QAbstractItemView::SelectedClicked |
                              QAbstractItemView::EditKeyPressed);
@@ -159,7 +159,7 @@ void CommentPage::refresh() {
 void CommentPage::goOn() {
     const int next = m_table->currentPlace() + 1;
     if (next < m_comments.rowCount())
-        m_table->edit(next, SplitWords);
+        m_table->edit(next, WordsColumn);
 }
 
 } // namespace kavela::desktop
