@@ -340,6 +340,7 @@ TEST_F(TakingRulesTest, TellsOfTheLastSplitWithoutABoxWhereItWouldBeInTheWay) {
     race.info.totalsplits = std::ssize(race.athletes[0].sectioninfo.cmtimes);
     ASSERT_NO_FATAL_FAILURE(open(race, true));
     const auto splits = run().sectioninfo.cmtimes;
+    ASSERT_NO_FATAL_FAILURE(goTo(splits.front().front().seconds()));
     const auto isTold = [&] {
         press(Qt::Key_M);
         return QTest::qWaitFor(
