@@ -13,6 +13,7 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTableView>
+#include <QTableWidget>
 #include <QTimer>
 
 namespace kavela::test {
@@ -335,7 +336,7 @@ TEST_F(TakingRulesTest, BeginsTheNextLossOnceOneIsMarked) {
     ASSERT_THAT(run().timeslosses, SizeIs(2));
     for (const timeloss031& loss : run().timeslosses)
         EXPECT_NEAR(stretchSeconds(loss, OwnSide).value_or(0), 2, 1e-9);
-    emit part<QTableWidget>("losses").cellClicked(0, 0);
+    click("losses", 0);
     ASSERT_NO_FATAL_FAILURE(goTo(11));
     part<QPushButton>("lossMark1").click();
     EXPECT_THAT(told(), HasSubstr("before the start of the stretch at 12.00"));
@@ -368,13 +369,35 @@ TEST_F(TakingRulesTest, LetsEqualNotesStandOnce) {
     press(Qt::Key_M);
     press(Qt::Key_M);
     EXPECT_THAT(run().microsplits, SizeIs(1));
-    emit part<QTableWidget>("microSplits").cellClicked(0, 0);
+    click("microSplits", 0);
     press(Qt::Key_Delete);
     EXPECT_THAT(run().microsplits, IsEmpty()) << "the row that was clicked";
     press(Qt::CTRL | Qt::Key_4);
     press(Qt::Key_A);
     press(Qt::Key_A);
     EXPECT_THAT(run().strokes, SizeIs(1));
+}
+
+TEST_F(TakingRulesTest, TellsOfTheLastSplitWithoutABoxWhereItWouldBeInTheWay) {
+    splittakerdata031 race = timedRace();
+    race.info.totalsplits = std::ssize(race.athletes[0].sectioninfo.cmtimes);
+    ASSERT_NO_FATAL_FAILURE(open(race, true));
+    const auto splits = run().sectioninfo.cmtimes;
+    ASSERT_NO_FATAL_FAILURE(goTo(splits.front().front().seconds()));
+    const auto isTold = [&] {
+        press(Qt::Key_M);
+        return QTest::qWaitFor(
+            [&] { return told().find(messages::SplitLimitReached) != std::string::npos; },
+            Patience);
+    };
+    press(Qt::CTRL | Qt::Key_8);
+    EXPECT_TRUE(isTold()) << "beside the comments";
+    press(Qt::CTRL | Qt::Key_1);
+    EXPECT_THAT(told(), IsEmpty());
+    m_window->deck().play(1);
+    EXPECT_TRUE(isTold()) << "while the film runs";
+    EXPECT_THAT(m_recorder.alerts, IsEmpty());
+    EXPECT_EQ(run().sectioninfo.cmtimes, splits);
 }
 
 TEST_F(TakingRulesTest, TimesAWayOnceAndRemovesTheGateThatWasClicked) {
@@ -390,7 +413,7 @@ TEST_F(TakingRulesTest, TimesAWayOnceAndRemovesTheGateThatWasClicked) {
     ASSERT_NO_FATAL_FAILURE(markAt(26));
     EXPECT_NEAR(run().strategies.at(0).times.at(0), 11, 1e-9);
     EXPECT_THAT(told(), HasSubstr("Spin is timed: 11.00 s"));
-    part<QTableWidget>("strategyWays").item(0, 2)->setText("");
+    enter("strategyWays", 0, 2, "");
     ASSERT_NO_FATAL_FAILURE(markAt(25));
     ASSERT_NO_FATAL_FAILURE(markAt(26));
     EXPECT_NEAR(run().strategies.at(0).times.at(0), 1, 1e-9);
@@ -403,7 +426,7 @@ TEST_F(TakingRulesTest, TimesAWayOnceAndRemovesTheGateThatWasClicked) {
     press(Qt::CTRL | Qt::Key_3);
     press(Qt::Key_Delete);
     EXPECT_THAT(run().upstreams, SizeIs(1)) << "nothing was selected";
-    emit part<QTableWidget>("upstreams").cellClicked(0, 0);
+    click("upstreams", 0);
     press(Qt::Key_Delete);
     EXPECT_THAT(run().upstreams, IsEmpty());
 }

@@ -20,7 +20,7 @@ namespace kavela::desktop {
 
 namespace {
 
-QString turnText(const UpstreamRow& row) {
+QString upstreamTurn(const UpstreamRow& row) {
     return row.taken ? qtText(labelOf(LabelList::UpstreamDirection, row.taken->direction) + ", " +
                               labelOf(LabelList::UpstreamStyle, row.taken->style))
                      : QString();
@@ -45,7 +45,7 @@ std::vector<Column<UpstreamRow>> upstreamColumns() {
             upstreamTime(UpstreamPage::tr("In"), &upstreamdata025::timeEntrace),
             upstreamTime(UpstreamPage::tr("Out"), &upstreamdata025::timeExit),
             upstreamTime(UpstreamPage::tr("Total"), &upstreamdata025::time),
-            textColumn<UpstreamRow>(UpstreamPage::tr("Turn"), turnText)};
+            textColumn<UpstreamRow>(UpstreamPage::tr("Turn"), upstreamTurn)};
 }
 
 } // namespace
