@@ -4,7 +4,6 @@
 #include "desktop/notes_fixture.h"
 #include "desktop/race/race_view.h"
 #include "desktop/race/race_window.h"
-#include "desktop/shell/tables/column_table.h"
 #include "desktop/taking/split_mode.h"
 #include "splittaking/annotations/time_losses.h"
 #include "splittaking/course_setup.h"
