@@ -6,6 +6,7 @@
 #include "desktop/cross/heats/place_grid.h"
 #include "desktop/cross/results/results_page.h"
 #include "desktop/film/film_deck.h"
+#include "desktop/shell/tables/column_table.h"
 #include "desktop/shell/workspace.h"
 #include "desktop/splitfile/taking_document.h"
 #include "sample/races.h"
@@ -23,7 +24,6 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QSignalSpy>
-#include <QTableWidget>
 #include <QTest>
 #include <QTimer>
 #include <QToolButton>
@@ -31,6 +31,7 @@
 namespace kavela::test {
 namespace {
 
+using desktop::ColumnTable;
 using desktop::CrossDesk;
 using desktop::FilmDeck;
 using desktop::HeatPage;
@@ -135,10 +136,10 @@ protected:
     }
 
     /// The row of a table as text.
-    static std::string row(const QTableWidget& table, int row) {
+    static std::string row(const ColumnTable& table, int row) {
         QStringList texts;
-        for (int column = 0; column < table.columnCount(); ++column)
-            texts.append(table.item(row, column)->text());
+        for (int column = 0; column < table.model()->columnCount(); ++column)
+            texts.append(table.model()->index(row, column).data().toString());
         return texts.join('|').toStdString();
     }
 
@@ -259,13 +260,15 @@ TEST_F(CrossPagesTest, NotesAttacksByKeyAndInTheForm) {
     EXPECT_EQ(heat().actions[0].attacker, Dora);
     EXPECT_THAT(heat().actions[0].defenders, ElementsAre(Bea, Cleo));
     EXPECT_EQ(m_told, "Dora Moss cannot attack and defend at once.");
+    EXPECT_TRUE(part<ColumnTable>("attacks").copiedText().contains("\tBea Rill, Cleo Weir\t"))
+        << "by their names, of which the table has room for the initials";
     m_heats.endAttack(at(22));
     EXPECT_THAT(heat().actions[0].time, ElementsAre(at(20), at(22)));
     click("attackSucceeded");
     click("defender2");
     type(*part<QComboBox>("attackSide").lineEdit(), "Inside line");
     type(part<QLineEdit>("attackComment"), "Hard");
-    EXPECT_EQ(row(part<QTableWidget>("attacks"), 0),
+    EXPECT_EQ(row(part<ColumnTable>("attacks"), 0),
               "20.00|22.00|Dora Moss|Cleo Weir|✓ passed|Inside line|Gate 2|Hard");
     EXPECT_GE(part<QComboBox>("attackSide").findText("Inside line"), 0) << "offered again";
     m_heats.addAttack(at(5));
@@ -276,9 +279,9 @@ TEST_F(CrossPagesTest, NotesAttacksByKeyAndInTheForm) {
     EXPECT_THAT(heat().actions[1].time, ElementsAre(at(20), at(23)));
     m_heats.removeMark();
     EXPECT_THAT(heat().actions[1].time, ElementsAre(at(20))) << "the end only";
-    auto& table = part<QTableWidget>("attacks");
+    auto& table = part<ColumnTable>("attacks");
     QTest::mouseClick(table.viewport(), Qt::LeftButton, {},
-                      table.visualItemRect(table.item(0, 2)).center());
+                      table.visualRect(table.cellAt(0, 2)).center());
     EXPECT_EQ(m_heats.selectedMark(), 0U);
     click("attackRemoval");
     ASSERT_THAT(heat().actions, SizeIs(1));
@@ -408,18 +411,21 @@ TEST_F(CrossPagesTest, ListsTheResultsOfEachRound) {
                                  {{at(2)}, Dora, {Bea, Ada}, false, "Left", "Gate 7", ""}};
     cross.eliphase.push_back({"", {Dora, Bea}, {order(2, {Bea, Dora})}, {}});
     ASSERT_NO_FATAL_FAILURE(open(cross));
-    auto& first = part<QTableWidget>("heat1Places", &m_results);
+    auto& first = part<ColumnTable>("heat1Places", &m_results);
     EXPECT_EQ(row(first, 0), "Dora Moss|1|4|3|0|→ goes on");
     EXPECT_EQ(row(first, 1), "Bea Rill|2|2|1|1|→ goes on");
     EXPECT_EQ(row(first, 3), "Cleo Weir|–|3|0|0|out");
+    const auto ground = [&](int place) { return first.cellAt(place, 0).data(Qt::BackgroundRole); };
+    EXPECT_TRUE(ground(1).isValid()) << "who goes on is seen from afar";
+    EXPECT_FALSE(ground(3).isValid());
     EXPECT_EQ(part<QLabel>("heat1Missing", &m_results).text(),
               "⚠ Not all boats were seen at the last gate.");
-    EXPECT_EQ(row(part<QTableWidget>("heat2Places", &m_results), 0), "Bea Rill|1|1|0|0|")
+    EXPECT_EQ(row(part<ColumnTable>("heat2Places", &m_results), 0), "Bea Rill|1|1|0|0|")
         << "nobody has won yet";
     EXPECT_EQ(part<QLabel>("heat2Missing", &m_results).text(),
               "⚠ Not finished. Gates without an order: 4, 5, 7.");
-    EXPECT_EQ(row(part<QTableWidget>("attackers", &m_results), 2), "Dora Moss|2|1|50 %|0|0|–");
-    EXPECT_EQ(row(part<QTableWidget>("attackPlaces", &m_results), 0), "Gate 7, Left|2|1|50 %");
+    EXPECT_EQ(row(part<ColumnTable>("attackers", &m_results), 2), "Dora Moss|2|1|50 %|0|0|–");
+    EXPECT_EQ(row(part<ColumnTable>("attackPlaces", &m_results), 0), "Gate 7, Left|2|1|50 %");
     QSignalSpy wanted(&m_results, &ResultsPage::heatWanted);
     auto& title = part<QLabel>("heat2", &m_results);
     QTest::mouseClick(&title, Qt::LeftButton, {}, {8, title.height() / 2});
@@ -432,7 +438,7 @@ TEST_F(CrossPagesTest, CopiesResultsForASpreadsheet) {
     cross.eliphase[0].generals = {order(7, {Ada, Bea})};
     ASSERT_NO_FATAL_FAILURE(open(cross));
     QApplication::setActiveWindow(&m_results);
-    auto& table = part<QTableWidget>("heat1Places", &m_results);
+    auto& table = part<ColumnTable>("heat1Places", &m_results);
     table.setFocus();
     table.selectRow(1);
     QTest::keyClick(&table, Qt::Key_C, Qt::ControlModifier);
@@ -440,7 +446,7 @@ TEST_F(CrossPagesTest, CopiesResultsForASpreadsheet) {
               "Boat\tPlace\tStart\tGained\tLost\tOutcome\nBea Rill\t2\t2\t0\t0\t\n");
     table.clearFocus();
     m_results.copy();
-    EXPECT_EQ(QApplication::clipboard()->text().count('\n'), 5);
+    EXPECT_EQ(QApplication::clipboard()->text().count('\n'), 5) << "also what is not selected";
     m_document.editCross("heats removed", [](crossdata030& all) { all.eliphase.clear(); });
     EXPECT_TRUE(part<QLabel>("noResults", &m_results).isVisible());
 }

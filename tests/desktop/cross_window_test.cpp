@@ -8,6 +8,8 @@
 #include "desktop/desktop.h"
 #include "desktop/film/film_deck.h"
 #include "desktop/film/film_stage.h"
+#include "desktop/refusals.h"
+#include "desktop/shell/tables/column_table.h"
 #include "desktop/shell/workspace.h"
 #include "desktop/taking/taking_window.h"
 #include "films/season_films.h"
@@ -21,7 +23,6 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QTableWidget>
 #include <QTest>
 
 namespace kavela::test {
@@ -297,7 +298,7 @@ TEST_F(CrossWindowTest, ListsAndEditsATrialWhoseFilmIsMissingAndKeepsCodesItDoes
     bea.upstreams = {{4, {{60, 30, 1, 0}}, 9, 77}};
     bea.roll.style = 55;
     ASSERT_NO_FATAL_FAILURE(open(race));
-    EXPECT_EQ(part<QTableWidget>("trials").item(1, 3)->text(), "⚠ missing");
+    EXPECT_EQ(part<desktop::ColumnTable>("trials").cellAt(1, 3).data().toString(), "⚠ missing");
     press(Qt::Key_Down);
     EXPECT_THAT(m_window->trials().marks(), SizeIs(3));
     EXPECT_EQ(part<QComboBox>("rollStyle").currentText(), "55");
@@ -314,6 +315,7 @@ TEST_F(CrossWindowTest, ListsAndEditsATrialWhoseFilmIsMissingAndKeepsCodesItDoes
     EXPECT_THAT(trial(1).upstreams[0].cmtimes, IsEmpty());
     press(Qt::Key_Delete);
     EXPECT_THAT(trial(1).upstreams, IsEmpty()) << "without marks, the gate itself";
+    EXPECT_EQ(part<QComboBox>("gateStyle").currentIndex(), -1) << "no style was told";
     EXPECT_EQ(trial(1).roll.style, 55);
 }
 
@@ -381,6 +383,13 @@ TEST_F(CrossWindowTest, AddsRenamesAndRanksTrialsAndBringsFilmsIntoTheFolder) {
     QTest::keyClicks(QApplication::focusWidget(), "Zoe");
     press(Qt::Key_Return);
     EXPECT_EQ(trial(2).athlete, "Zoe");
+    press(Qt::Key_F2);
+    press(Qt::Key_Delete); // what is selected in the cell: the whole name
+    press(Qt::Key_Return);
+    EXPECT_THAT(refusalIn(*m_window), HasSubstr("needs the name of its athlete"));
+    press(Qt::Key_Escape);
+    EXPECT_EQ(trial(2).athlete, "Zoe");
+    ASSERT_THAT(cross().timetrials, SizeIs(3)) << "Delete was meant for the cell";
     const QString outside = QString::fromStdString(m_folder.add("Lea Stein.mov", "x").string());
     m_window->setChooseFiles([&](const QString&, const QString&) { return QStringList(outside); });
     press(Qt::CTRL | Qt::SHIFT | Qt::Key_I);
@@ -391,9 +400,9 @@ TEST_F(CrossWindowTest, AddsRenamesAndRanksTrialsAndBringsFilmsIntoTheFolder) {
     press(Qt::CTRL | Qt::Key_Z);
     press(Qt::CTRL | Qt::Key_I);
     EXPECT_EQ(trial(3).athlete, "Lea Stein");
-    auto& table = part<QTableWidget>("trials");
-    EXPECT_EQ(table.item(1, 0)->text(), "2");
-    EXPECT_EQ(table.item(2, 2)->text(), "–") << "not timed";
+    auto& table = part<desktop::ColumnTable>("trials");
+    EXPECT_EQ(table.cellAt(1, 0).data().toString(), "2");
+    EXPECT_EQ(table.cellAt(2, 2).data().toString(), "–") << "not timed";
     m_window->trials().selectTrial(0);
     m_window->trials().removeTrial();
     EXPECT_EQ(trial(0).pos, 1) << "ranked anew";

@@ -4,6 +4,7 @@
 #include "common/safe_file.h"
 #include "common/temp_folder.h"
 #include "desktop/film/film_deck.h"
+#include "desktop/shell/tables/column_table.h"
 #include "desktop/shell/workspace.h"
 #include "desktop/taking/gate_strip.h"
 #include "desktop/taking/notes/lane_strip.h"
@@ -21,13 +22,13 @@
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
-#include <QTableWidget>
 #include <QTest>
 #include <QTreeWidget>
 
 namespace kavela::test {
 
 namespace fs = std::filesystem;
+using desktop::ColumnTable;
 using desktop::NoteMode;
 using desktop::NotesPanel;
 using desktop::TakingWindow;
@@ -133,6 +134,21 @@ protected:
     template <class T>
     T& part(const char* name) const {
         return *m_window->findChild<T*>(name);
+    }
+
+    ColumnTable& table(const char* name) const { return part<ColumnTable>(name); }
+
+    void click(const char* name, int row) const {
+        emit table(name).clicked(table(name).cellAt(row, 0));
+    }
+
+    QString cell(const char* name, int row, int column) const {
+        return table(name).cellAt(row, column).data().toString();
+    }
+
+    void enter(const char* name, int row, int column, const QVariant& value,
+               int role = Qt::EditRole) const {
+        table(name).model()->setData(table(name).cellAt(row, column), value, role);
     }
 
     const athletedata031& run(int index = 0) const { return m_window->document().run(index); }

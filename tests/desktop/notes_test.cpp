@@ -5,7 +5,6 @@
 
 #include <QCheckBox>
 #include <QListWidget>
-#include <QTableWidget>
 
 namespace kavela::test {
 namespace {
@@ -174,24 +173,30 @@ TEST_F(NotesTest, ComparesAStretchWithTheOtherRunOnBothFilms) {
 TEST_F(NotesTest, TakesCommentsOnTheRunTheyWereTypedFor) {
     ASSERT_NO_FATAL_FAILURE(open(timedRace(), false));
     press(Qt::CTRL | Qt::Key_8);
-    auto& table = part<QTableWidget>("comments");
-    EXPECT_TRUE(table.isVisible());
+    auto& comments = table("comments");
+    EXPECT_TRUE(comments.isVisible());
     const auto type = [&](const char* text) {
-        table.setFocus();
-        table.setCurrentCell(1, 1);
-        table.editItem(table.item(1, 1));
+        comments.edit(1, 1);
         QTest::keyClicks(QApplication::focusWidget(), text);
     };
+    comments.setFocus();
+    comments.choose(0, 1);
+    press(Qt::Key_W);
+    EXPECT_FALSE(comments.findChild<QLineEdit*>()) << "a key of the film that was missed";
     type("Too wide");
     press(Qt::Key_Return);
     EXPECT_EQ(run().sectioninfo.comments.at(1), "Too wide");
+    EXPECT_TRUE(QTest::qWaitFor([&] {
+        return comments.currentPlace() == 2 &&
+               qobject_cast<QLineEdit*>(QApplication::focusWidget());
+    })) << "Enter goes on to the next one";
     type("Late");
     m_window->selectRun(1);
     EXPECT_EQ(run().sectioninfo.comments.at(1), "Late");
     EXPECT_THAT(run(1).sectioninfo.comments, IsEmpty());
-    EXPECT_EQ(table.item(1, 1)->text(), "");
+    EXPECT_EQ(cell("comments", 1, 1), "");
     part<QCheckBox>("commentsVisible").click();
-    EXPECT_FALSE(table.isVisible());
+    EXPECT_FALSE(comments.isVisible());
     EXPECT_FALSE(m_workspace.preferences().boolean("coachswordvisible"));
     undo(2);
     EXPECT_FALSE(m_window->document().isDirty());

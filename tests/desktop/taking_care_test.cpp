@@ -4,6 +4,7 @@
 #include "desktop/taking/split_mode.h"
 #include "splittaking/annotations/time_losses.h"
 
+#include <QAction>
 #include <QDoubleSpinBox>
 #include <QPushButton>
 
@@ -80,10 +81,7 @@ TEST_F(TakingCareTest, PutsARunInFrontAsSoonAsThereIsOne) {
 TEST_F(TakingCareTest, SavesWhatIsStillBeingTyped) {
     ASSERT_NO_FATAL_FAILURE(open(timedRace(), false));
     press(Qt::CTRL | Qt::Key_8);
-    auto& table = part<QTableWidget>("comments");
-    table.setFocus();
-    table.setCurrentCell(0, 1);
-    table.editItem(table.item(0, 1));
+    table("comments").edit(0, 1);
     QTest::keyClicks(QApplication::focusWidget(), "Wide");
     EXPECT_TRUE(m_window->save());
     const auto saved =
@@ -106,15 +104,58 @@ TEST_F(TakingCareTest, SavesWhatIsStillBeingTyped) {
 
 TEST_F(TakingCareTest, KeepsTheWordsOfALossWhenAnotherRunComes) {
     splittakerdata031 race = timedRace();
-    race.athletes[0].timeslosses = {lossAgainst(race.athletes[0], race.athletes[1])};
+    race.athletes[0].timeslosses.assign(2, lossAgainst(race.athletes[0], race.athletes[1]));
     ASSERT_NO_FATAL_FAILURE(open(race, false));
     press(Qt::CTRL | Qt::Key_7);
-    auto& losses = part<QTableWidget>("losses");
-    emit losses.cellClicked(0, 0);
+    click("losses", 0);
     type("lossComment", "Too high");
+    click("losses", 1);
+    EXPECT_EQ(part<QLineEdit>("lossComment").text(), "");
+    type("lossComment", "Late");
     m_window->selectRun(1);
     EXPECT_EQ(run(0).timeslosses[0].comments, "Too high");
+    EXPECT_EQ(run(0).timeslosses[1].comments, "Late");
     EXPECT_THAT(run(1).timeslosses, IsEmpty());
+}
+
+TEST_F(TakingCareTest, ShowsAScoreBeyondTheBestAndLeavesIt) {
+    splittakerdata031 race = timedRace();
+    race.athletes[0].coachsscore = 12;
+    race.athletes[1].coachsscore = 3;
+    ASSERT_NO_FATAL_FAILURE(open(race, false));
+    press(Qt::CTRL | Qt::Key_8);
+    auto& score = part<QDoubleSpinBox>("coachsScore");
+    EXPECT_EQ(score.value(), 12);
+    m_window->selectRun(1);
+    EXPECT_EQ(score.value(), 3);
+    EXPECT_EQ(score.maximum(), 10);
+    m_window->selectRun(0);
+    EXPECT_FALSE(m_window->document().isDirty()) << "looking changes nothing";
+    score.stepBy(-1);
+    EXPECT_EQ(run().coachsscore, 10) << "no more than the best can be given";
+    EXPECT_EQ(score.value(), 10);
+}
+
+TEST_F(TakingCareTest, RemovesTheRowOfTheMenuAndNotTheSplitThatIsSelected) {
+    splittakerdata031 race = timedRace();
+    race.athletes[0].microsplits = {{{100, 50, 1, 0}, 0}, {{200, 50, 1, 0}, 0}};
+    ASSERT_NO_FATAL_FAILURE(open(race, false));
+    const auto splits = run().sectioninfo.cmtimes;
+    press(Qt::CTRL | Qt::Key_5);
+    auto& micros = table("microSplits");
+    m_window->stage().goToMark(1);
+    micros.choose(0);
+    for (QAction* const action : micros.actions())
+        if (action->text() == "Remove")
+            action->trigger();
+    EXPECT_EQ(run().sectioninfo.cmtimes, splits);
+    ASSERT_THAT(run().microsplits, SizeIs(1));
+    EXPECT_EQ(run().microsplits[0].cmtime.seconds(), 4);
+    micros.setFocus();
+    micros.choose(0);
+    m_window->stage().goToMark(1);
+    press(Qt::Key_Delete);
+    EXPECT_THAT(run().microsplits, SizeIs(1)) << "the split was selected last";
 }
 
 TEST_F(TakingCareTest, RemovesThePenaltyAndNotTheSplitThatWasSelectedBefore) {
@@ -127,12 +168,11 @@ TEST_F(TakingCareTest, RemovesThePenaltyAndNotTheSplitThatWasSelectedBefore) {
     const auto splits = run().sectioninfo.cmtimes;
     press(Qt::CTRL | Qt::Key_2);
     m_window->stage().goToMark(1);
-    auto& table = part<QTableWidget>("penalties");
-    emit table.cellClicked(0, 0);
+    click("penalties", 0);
     press(Qt::Key_Delete);
     EXPECT_EQ(run().sectioninfo.cmtimes, splits);
     EXPECT_THAT(run().sectioninfo.pendetails.at(0).gate, ElementsAre(3));
-    emit table.cellClicked(0, 0); // gate 3, at the place that gate 5 had
+    click("penalties", 0); // gate 3, at the place that gate 5 had
     press(Qt::CTRL | Qt::Key_Z);
     press(Qt::Key_Delete);
     EXPECT_EQ(run().sectioninfo.pens.at(4), 2) << "another penalty came to that place";
@@ -156,7 +196,7 @@ TEST_F(TakingCareTest, ReopensWhatEveryModeWrote) {
     press2(Qt::CTRL | Qt::Key_7, Qt::Key_M);
     press(Qt::CTRL | Qt::Key_8);
     part<QDoubleSpinBox>("athletesScore").setValue(6.5);
-    part<QTableWidget>("comments").item(2, 1)->setText("High line");
+    enter("comments", 2, 1, "High line");
     press(Qt::CTRL | Qt::Key_9);
     part<QPushButton>("strategyAdd").click();
     type("strategyNewWay", "Spin");
@@ -187,9 +227,9 @@ TEST_F(TakingCareTest, ReopensWhatEveryModeWrote) {
     EXPECT_EQ(run().sectioninfo.pens.at(0), 2);
     EXPECT_EQ(listed().size(), marks.size());
     notes().setMode(NoteMode::Strategies);
-    EXPECT_EQ(part<QTableWidget>("strategyWays").item(0, 2)->text(), "1.00");
+    EXPECT_EQ(cell("strategyWays", 0, 2), "1.00");
     notes().setMode(NoteMode::Comments);
-    EXPECT_EQ(part<QTableWidget>("comments").item(2, 1)->text(), "High line");
+    EXPECT_EQ(cell("comments", 2, 1), "High line");
 }
 
 /// As other programs may write them.

@@ -6,11 +6,13 @@
 #include "desktop/race/race_window.h"
 #include "desktop/taking/split_mode.h"
 #include "splittaking/annotations/time_losses.h"
+#include "splittaking/course_setup.h"
 
 #include <QDialogButtonBox>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTableView>
+#include <QTableWidget>
 #include <QTimer>
 
 namespace kavela::test {
@@ -261,9 +263,18 @@ TEST_F(TakingRulesTest, ShowsWhatAListHasForWhomBeforeItIsTaken) {
             auto* const dialog = QApplication::activeModalWidget();
             ASSERT_TRUE(dialog);
             told = dialog->findChild<QLabel*>("resultsCount")->text();
-            auto& table = *dialog->findChild<QTableWidget*>("resultsOfRuns");
-            static_cast<QComboBox*>(table.cellWidget(1, 3))->setCurrentIndex(2);
-            table.item(1, 0)->setCheckState(Qt::Checked);
+            auto& table = *dialog->findChild<desktop::ColumnTable*>("resultsOfRuns")->model();
+            const auto isTicked = [&] {
+                return table.setData(table.index(1, 0), Qt::Checked, Qt::CheckStateRole);
+            };
+            const auto isChosen = [&](const char* line) {
+                return table.setData(table.index(1, 3), line);
+            };
+            EXPECT_FALSE(isTicked()) << "there is no line to take";
+            EXPECT_FALSE(isChosen("nobody")) << "stands in no line";
+            EXPECT_FALSE(isChosen("0")) << "stands in both";
+            EXPECT_TRUE(isChosen("other n"));
+            EXPECT_TRUE(isTicked());
             auto* const box = dialog->findChild<QDialogButtonBox*>();
             for (QAbstractButton* const button : box->buttons())
                 if (box->buttonRole(button) == role)
@@ -284,6 +295,38 @@ TEST_F(TakingRulesTest, ShowsWhatAListHasForWhomBeforeItIsTaken) {
     EXPECT_FALSE(m_window->document().isDirty()) << "one step";
 }
 
+TEST_F(TakingRulesTest, ShowsWhichSectionOfTheCourseIsWrong) {
+    const infodata031 before = timedRace().info;
+    ASSERT_NO_FATAL_FAILURE(open(timedRace(), false));
+    QTimer::singleShot(0, [&] {
+        auto* const dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+        ASSERT_TRUE(dialog);
+        QApplication::setActiveWindow(dialog);
+        dialog->findChild<QPushButton*>("share")->click();
+        auto& table = *dialog->findChild<desktop::ColumnTable*>("sections");
+        const auto type = [&](const QString& gates) {
+            table.edit(1, 1);
+            QTest::keyClicks(QApplication::focusWidget(), gates);
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+            QApplication::processEvents(); // which closes the cell
+        };
+        const QString gates = table.cellAt(1, 1).data().toString();
+        type("999");
+        EXPECT_NE(table.currentPlace(), 1) << "Enter goes on to the next section";
+        dialog->accept();
+        EXPECT_EQ(table.currentPlace(), 1);
+        type(gates);
+        dialog->accept();
+    });
+    m_window->exchange().setUpCourse();
+    ASSERT_THAT(m_recorder.alerts, ::testing::SizeIs(1));
+    EXPECT_THAT(m_recorder.alerts[0], HasSubstr("Section 2: Gate 999 is not on a course"));
+    const infodata031& info = m_window->document().info();
+    EXPECT_EQ(info.definedsections, defaultSections(before.gates, before.totalsplits));
+    EXPECT_EQ(info.date, before.date) << "the fields that nobody typed in";
+    EXPECT_EQ(info.session, before.session);
+}
+
 TEST_F(TakingRulesTest, BeginsTheNextLossOnceOneIsMarked) {
     ASSERT_NO_FATAL_FAILURE(open(timedRace(), true));
     press(Qt::CTRL | Qt::Key_7);
@@ -292,7 +335,7 @@ TEST_F(TakingRulesTest, BeginsTheNextLossOnceOneIsMarked) {
     ASSERT_THAT(run().timeslosses, SizeIs(2));
     for (const timeloss031& loss : run().timeslosses)
         EXPECT_NEAR(stretchSeconds(loss, OwnSide).value_or(0), 2, 1e-9);
-    emit part<QTableWidget>("losses").cellClicked(0, 0);
+    click("losses", 0);
     ASSERT_NO_FATAL_FAILURE(goTo(11));
     part<QPushButton>("lossMark1").click();
     EXPECT_THAT(told(), HasSubstr("before the start of the stretch at 12.00"));
@@ -325,13 +368,35 @@ TEST_F(TakingRulesTest, LetsEqualNotesStandOnce) {
     press(Qt::Key_M);
     press(Qt::Key_M);
     EXPECT_THAT(run().microsplits, SizeIs(1));
-    emit part<QTableWidget>("microSplits").cellClicked(0, 0);
+    click("microSplits", 0);
     press(Qt::Key_Delete);
     EXPECT_THAT(run().microsplits, IsEmpty()) << "the row that was clicked";
     press(Qt::CTRL | Qt::Key_4);
     press(Qt::Key_A);
     press(Qt::Key_A);
     EXPECT_THAT(run().strokes, SizeIs(1));
+}
+
+TEST_F(TakingRulesTest, TellsOfTheLastSplitWithoutABoxWhereItWouldBeInTheWay) {
+    splittakerdata031 race = timedRace();
+    race.info.totalsplits = std::ssize(race.athletes[0].sectioninfo.cmtimes);
+    ASSERT_NO_FATAL_FAILURE(open(race, true));
+    const auto splits = run().sectioninfo.cmtimes;
+    ASSERT_NO_FATAL_FAILURE(goTo(splits.front().front().seconds()));
+    const auto isTold = [&] {
+        press(Qt::Key_M);
+        return QTest::qWaitFor(
+            [&] { return told().find(messages::SplitLimitReached) != std::string::npos; },
+            Patience);
+    };
+    press(Qt::CTRL | Qt::Key_8);
+    EXPECT_TRUE(isTold()) << "beside the comments";
+    press(Qt::CTRL | Qt::Key_1);
+    EXPECT_THAT(told(), IsEmpty());
+    m_window->deck().play(1);
+    EXPECT_TRUE(isTold()) << "while the film runs";
+    EXPECT_THAT(m_recorder.alerts, IsEmpty());
+    EXPECT_EQ(run().sectioninfo.cmtimes, splits);
 }
 
 TEST_F(TakingRulesTest, TimesAWayOnceAndRemovesTheGateThatWasClicked) {
@@ -347,7 +412,7 @@ TEST_F(TakingRulesTest, TimesAWayOnceAndRemovesTheGateThatWasClicked) {
     ASSERT_NO_FATAL_FAILURE(markAt(26));
     EXPECT_NEAR(run().strategies.at(0).times.at(0), 11, 1e-9);
     EXPECT_THAT(told(), HasSubstr("Spin is timed: 11.00 s"));
-    part<QTableWidget>("strategyWays").item(0, 2)->setText("");
+    enter("strategyWays", 0, 2, "");
     ASSERT_NO_FATAL_FAILURE(markAt(25));
     ASSERT_NO_FATAL_FAILURE(markAt(26));
     EXPECT_NEAR(run().strategies.at(0).times.at(0), 1, 1e-9);
@@ -360,7 +425,7 @@ TEST_F(TakingRulesTest, TimesAWayOnceAndRemovesTheGateThatWasClicked) {
     press(Qt::CTRL | Qt::Key_3);
     press(Qt::Key_Delete);
     EXPECT_THAT(run().upstreams, SizeIs(1)) << "nothing was selected";
-    emit part<QTableWidget>("upstreams").cellClicked(0, 0);
+    click("upstreams", 0);
     press(Qt::Key_Delete);
     EXPECT_THAT(run().upstreams, IsEmpty());
 }

@@ -98,6 +98,7 @@ public:
     void setModes(std::vector<FilmMode*> modes);
     /// Brings one of them in front.
     void setFront(FilmMode& mode) { m_front = &mode; }
+    [[nodiscard]] const FilmMode& front() const { return *m_front; }
     /// Shows the marks of the first mode, and which one is selected.
     void showMarks();
 

@@ -2,29 +2,24 @@
 
 #include "desktop/shell/number_box.h"
 #include "desktop/shell/qt_text.h"
+#include "desktop/shell/tables/column_table.h"
 #include "desktop/shell/theme.h"
+#include "desktop/shell/typing.h"
 #include "desktop/shell/workspace.h"
 #include "splittaking/course_setup.h"
 #include "splittaking/messages.h"
 
-#include <QComboBox>
-#include <QDateEdit>
 #include <QDialogButtonBox>
 #include <QFormLayout>
-#include <QHeaderView>
+#include <QHBoxLayout>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QTableWidget>
-
-#include <cmath>
 
 namespace kavela::desktop {
 
 namespace {
 
-enum SectionColumn { TitleColumn, GatesColumn };
-
-constexpr qint64 ReferenceEpoch = 978307200; // 2001-01-01 in seconds since 1970
+constexpr int GatesColumn = 1; ///< of the sections
 
 QString numbersText(const std::vector<std::int64_t>& numbers) {
     QStringList texts;
@@ -33,14 +28,19 @@ QString numbersText(const std::vector<std::int64_t>& numbers) {
     return texts.join(' ');
 }
 
-QDateTime momentOf(ReferenceDate date) {
-    return QDateTime::fromSecsSinceEpoch(ReferenceEpoch + std::llround(date.seconds), Qt::UTC);
-}
-
 } // namespace
 
 CourseDialog::CourseDialog(const infodata031& info, Workspace& workspace, QWidget* parent)
-    : EntryDialog(parent), m_workspace(workspace), m_info(info) {
+    : EntryDialog(parent),
+      m_workspace(workspace),
+      m_info(info),
+      m_race(new RecordForm<infodata031>([this](const QString&, const auto& change) {
+          change(m_info);
+          m_race->show(&m_info);
+      })),
+      m_sections({sectionColumn(tr("Title"), &SectionTexts::title),
+                  sectionColumn(tr("Gates"), &SectionTexts::gates)},
+                 RowsKnownBy::Number) {
     setWindowTitle(tr("Race and course"));
     auto* columns = new QHBoxLayout;
     columns->setSpacing(theme::PageMargin);
@@ -57,35 +57,43 @@ CourseDialog::CourseDialog(const infodata031& info, Workspace& workspace, QWidge
     m_gates->selectAll();
 }
 
-void CourseDialog::addText(QFormLayout& form, const QString& title, const char* name,
-                           std::string infodata031::*member) {
-    auto* edit = new QLineEdit(qtText(m_info.*member));
-    edit->setObjectName(name);
-    form.addRow(title, edit);
-    m_texts.emplace_back(edit, member);
+QWidget* CourseDialog::makeRace() {
+    m_race->text({"title", tr("Title")}, &infodata031::title);
+    m_race->text({"event", tr("Event")}, &infodata031::event);
+    m_race->text({"place", tr("Place")}, &infodata031::place);
+    m_race->date({"date", tr("Date")}, &infodata031::date);
+    m_race->editableChoice({"session", tr("Session")}, &infodata031::session);
+    m_race->propose("session", {"Race", "Training", "Test"});
+    m_race->text({"category", tr("Category")}, &infodata031::category);
+    m_race->text({"water", tr("Water")}, &infodata031::watertype);
+    m_race->text({"technique", tr("Technique")}, &infodata031::techniquetype);
+    m_race->text({"comments", tr("Comments")}, &infodata031::comments);
+    m_race->show(&m_info);
+    return m_race;
 }
 
-QWidget* CourseDialog::makeRace() {
-    auto* box = new QWidget;
-    auto* form = new QFormLayout(box);
-    form->setContentsMargins(0, 0, 0, 0);
-    addText(*form, tr("Title"), "title", &infodata031::title);
-    addText(*form, tr("Event"), "event", &infodata031::event);
-    addText(*form, tr("Place"), "place", &infodata031::place);
-    m_date = new QDateEdit(momentOf(m_info.date).date());
-    m_date->setCalendarPopup(true);
-    m_date->setDisplayFormat("yyyy-MM-dd");
-    form->addRow(tr("Date"), m_date);
-    m_session = new QComboBox;
-    m_session->setEditable(true);
-    m_session->addItems({"Race", "Training", "Test"});
-    m_session->setCurrentText(qtText(m_info.session));
-    form->addRow(tr("Session"), m_session);
-    addText(*form, tr("Category"), "category", &infodata031::category);
-    addText(*form, tr("Water"), "water", &infodata031::watertype);
-    addText(*form, tr("Technique"), "technique", &infodata031::techniquetype);
-    addText(*form, tr("Comments"), "comments", &infodata031::comments);
-    return box;
+Column<SectionTexts> CourseDialog::sectionColumn(const QString& title,
+                                                 QString SectionTexts::*text) {
+    return {.title = title,
+            .show = [text](const SectionTexts& section) { return Cell{section.*text}; },
+            .take =
+                [this, text](const std::size_t& place, const SectionTexts&, const QString& typed) {
+                    std::vector<SectionTexts> sections = m_sections.rows();
+                    sections.at(place).*text = typed;
+                    m_sections.show(std::move(sections));
+                }};
+}
+
+/// Its rows are numbered, as messages name them.
+void CourseDialog::makeSections() {
+    m_sections.setRowTitles([](int place) { return QString::number(place + 1); });
+    m_sectionTable = new ColumnTable(m_sections, "sections");
+    m_sectionTable->keepOrder();
+    m_sectionTable->setSelectionBehavior(QAbstractItemView::SelectItems);
+    m_sectionTable->setShowGrid(true);
+    m_sectionTable->setAlternatingRowColors(false);
+    m_sectionTable->setGoesDown(true);
+    m_sectionTable->stretch({GatesColumn});
 }
 
 QWidget* CourseDialog::makeCourse() {
@@ -98,10 +106,7 @@ QWidget* CourseDialog::makeCourse() {
     m_splits->setObjectName("splits");
     m_splits->setRange(1, static_cast<int>(MostSplits));
     m_splits->setValue(static_cast<int>(m_info.totalsplits));
-    m_sections = new QTableWidget(0, 2);
-    m_sections->setObjectName("sections");
-    m_sections->setHorizontalHeaderLabels({tr("Title"), tr("Gates")});
-    m_sections->horizontalHeader()->setSectionResizeMode(GatesColumn, QHeaderView::Stretch);
+    makeSections();
     auto* share = new QPushButton(tr("Share the gates &evenly"));
     share->setObjectName("share");
     share->setAutoDefault(false);
@@ -114,34 +119,27 @@ QWidget* CourseDialog::makeCourse() {
     form->addRow(tr("&Gates"), m_gates);
     form->addRow(tr("&Upstream gates"), m_upGates);
     form->addRow(tr("&Splits"), m_splits);
-    form->addRow(m_sections);
+    form->addRow(m_sectionTable);
     form->addRow(share);
     fillSections();
     return box;
 }
 
 void CourseDialog::fillSections() {
-    const auto rows = static_cast<std::size_t>(m_splits->value());
-    m_sections->setRowCount(static_cast<int>(rows));
-    for (std::size_t i = 0; i < rows; ++i) {
-        const bool hasTitle = i < m_info.splitTitles.size();
-        const bool hasGates = i < m_info.definedsections.size();
-        const int row = static_cast<int>(i);
-        m_sections->setItem(
-            row, TitleColumn,
-            new QTableWidgetItem(hasTitle ? qtText(m_info.splitTitles[i]) : QString()));
-        m_sections->setItem(
-            row, GatesColumn,
-            new QTableWidgetItem(hasGates ? numbersText(m_info.definedsections[i]) : QString()));
+    std::vector<SectionTexts> sections(static_cast<std::size_t>(m_splits->value()));
+    for (std::size_t i = 0; i < sections.size(); ++i) {
+        if (i < m_info.splitTitles.size())
+            sections[i].title = qtText(m_info.splitTitles[i]);
+        if (i < m_info.definedsections.size())
+            sections[i].gates = numbersText(m_info.definedsections[i]);
     }
+    m_sections.show(std::move(sections));
 }
 
 void CourseDialog::resizeSections(int splits) {
-    const int before = m_sections->rowCount();
-    m_sections->setRowCount(splits);
-    for (int row = before; row < splits; ++row)
-        for (const int column : {TitleColumn, GatesColumn})
-            m_sections->setItem(row, column, new QTableWidgetItem);
+    std::vector<SectionTexts> sections = m_sections.rows();
+    sections.resize(static_cast<std::size_t>(splits));
+    m_sections.show(std::move(sections));
 }
 
 void CourseDialog::shareEvenly() {
@@ -176,33 +174,30 @@ bool CourseDialog::takeSections() {
     taken.splitTitles.clear();
     taken.definedsections.clear();
     bool isDefined = false;
-    for (int row = 0; row < m_sections->rowCount(); ++row) {
-        taken.splitTitles.push_back(m_sections->item(row, TitleColumn)->text().toStdString());
-        const GateList gates =
-            parseGateList(m_sections->item(row, GatesColumn)->text().toStdString(), taken.gates);
-        if (!gates.fault.empty())
-            return refuse(tr("Section %1: ").arg(row + 1).toStdString() + gates.fault, m_sections);
+    for (const SectionTexts& section : m_sections.rows()) {
+        taken.splitTitles.push_back(section.title.toStdString());
+        const GateList gates = parseGateList(section.gates.toStdString(), taken.gates);
+        if (!gates.fault.empty()) {
+            const int place = static_cast<int>(taken.definedsections.size());
+            m_sectionTable->choose(place, GatesColumn);
+            return refuse(tr("Section %1: ").arg(place + 1).toStdString() + gates.fault,
+                          m_sectionTable);
+        }
         isDefined = isDefined || !gates.gates.empty();
         taken.definedsections.push_back(gates.gates);
     }
     if (!isDefined)
         taken.definedsections.clear();
     if (const auto fault = faultOfSections(taken))
-        return refuse(*fault, m_sections);
+        return refuse(*fault, m_sectionTable);
     m_info = std::move(taken);
     return true;
 }
 
 void CourseDialog::accept() {
     m_splits->takeTyped(); // it has its value only then, and the sections follow it
-    if (!takeGates() || !takeSections())
-        return;
-    for (const auto& [edit, member] : m_texts)
-        m_info.*member = edit->text().trimmed().toStdString();
-    m_info.session = m_session->currentText().trimmed().toStdString();
-    const qint64 days = momentOf(m_info.date).date().daysTo(m_date->date());
-    m_info.date.seconds += static_cast<double>(days) * 86400;
-    EntryDialog::accept();
+    if (takeTyping(*this) && m_race->commit() && takeGates() && takeSections())
+        EntryDialog::accept();
 }
 
 } // namespace kavela::desktop

@@ -1,18 +1,23 @@
 #pragma once
 
 #include "desktop/shell/entry_dialog.h"
+#include "desktop/shell/forms/record_form.h"
+#include "desktop/shell/tables/column_model.h"
 #include "splitdata/records.h"
 
-class QComboBox;
-class QDateEdit;
-class QFormLayout;
 class QLineEdit;
-class QTableWidget;
 
 namespace kavela::desktop {
 
+class ColumnTable;
 class WholeBox;
 class Workspace;
+
+/// A section of the course as it is typed.
+struct SectionTexts {
+    QString title;
+    QString gates; ///< their numbers
+};
 
 /// The race and its course: gates, upstream gates, the sections between the splits and their
 /// titles.
@@ -31,8 +36,9 @@ public:
 private:
     [[nodiscard]] QWidget* makeRace();
     [[nodiscard]] QWidget* makeCourse();
-    void addText(QFormLayout& form, const QString& title, const char* name,
-                 std::string infodata031::*member);
+    void makeSections();
+    [[nodiscard]] Column<SectionTexts> sectionColumn(const QString& title,
+                                                     QString SectionTexts::*text);
     void fillSections();
     void shareEvenly();
     void resizeSections(int splits);
@@ -42,13 +48,12 @@ private:
 
     Workspace& m_workspace;
     infodata031 m_info;
-    std::vector<std::pair<QLineEdit*, std::string infodata031::*>> m_texts;
-    QDateEdit* m_date = nullptr;
-    QComboBox* m_session = nullptr;
+    RecordForm<infodata031>* m_race;
     QLineEdit* m_gates = nullptr;
     QLineEdit* m_upGates = nullptr;
     WholeBox* m_splits = nullptr;
-    QTableWidget* m_sections = nullptr;
+    ColumnModel<SectionTexts> m_sections;
+    ColumnTable* m_sectionTable = nullptr;
 };
 
 } // namespace kavela::desktop

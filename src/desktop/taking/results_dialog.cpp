@@ -2,16 +2,15 @@
 
 #include "desktop/shell/qt_text.h"
 #include "desktop/shell/shown_number.h"
+#include "desktop/shell/tables/column_table.h"
 #include "desktop/shell/theme.h"
+#include "desktop/shell/typed_number.h"
 #include "splitdata/run_timing.h"
 
-#include <QComboBox>
 #include <QDialogButtonBox>
-#include <QHeaderView>
 #include <QLabel>
 #include <QPlainTextEdit>
 #include <QPushButton>
-#include <QTableWidget>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -20,7 +19,7 @@ namespace kavela::desktop {
 
 namespace {
 
-enum ResultColumn { RunColumn, PhaseColumn, NowColumn, LineColumn, Columns };
+constexpr int LineColumn = 3;
 
 QString timeText(double seconds, std::int64_t penalty) {
     return seconds == 0 && penalty == 0
@@ -30,6 +29,13 @@ QString timeText(double seconds, std::int64_t penalty) {
 
 QString lineText(const allresultsdata030& line) {
     return QStringLiteral("%1 · %2").arg(qtText(line.name), timeText(line.time, line.pen));
+}
+
+QStringList lineTexts(const ResultsList& list) {
+    QStringList texts;
+    for (const allresultsdata030& line : list.results)
+        texts.append(lineText(line));
+    return texts;
 }
 
 /// The lines that were not taken, and those that were though they are odd.
@@ -45,18 +51,22 @@ QString remarks(const ResultsList& list) {
 
 ResultsDialog::ResultsDialog(const std::vector<athletedata031>& runs, const ResultsList& list,
                              const QString& name, QWidget* parent)
-    : QDialog(parent),
+    : EntryDialog(parent),
       m_runs(runs),
       m_list(list),
-      m_matched(matchedResults(runs, list.results)),
-      m_table(new QTableWidget(static_cast<int>(runs.size()), Columns)),
+      m_lines(lineTexts(list)),
+      m_rows(columns(), RowsKnownBy::Number),
+      m_table(new ColumnTable(m_rows, "resultsOfRuns")),
       m_count(new QLabel) {
     setWindowTitle(tr("Official results from %1").arg(name));
-    m_table->setObjectName("resultsOfRuns");
-    m_table->setHorizontalHeaderLabels({tr("Run"), tr("Phase"), tr("Real time now"), tr("Line")});
-    m_table->verticalHeader()->hide();
-    m_table->setSelectionMode(QAbstractItemView::NoSelection);
-    m_table->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    std::vector<MatchedRun> rows;
+    for (const ResultOfRun& result : matchedResults(runs, list.results))
+        rows.push_back(matched(result));
+    m_rows.show(std::move(rows));
+    m_table->setSelectionMode(QAbstractItemView::SingleSelection);
+    m_table->setGoesDown(true);
+    m_table->stretch({LineColumn});
+    m_table->keepOneChosen();
     m_count->setObjectName("resultsCount");
     m_count->setWordWrap(true);
     auto* column = new QVBoxLayout(this);
@@ -72,60 +82,81 @@ ResultsDialog::ResultsDialog(const std::vector<athletedata031>& runs, const Resu
     }
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Cancel);
     auto* import = buttons->addButton(tr("Import"), QDialogButtonBox::AcceptRole);
-    connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
+    connect(buttons, &QDialogButtonBox::accepted, this, &ResultsDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     column->addWidget(buttons);
     import->setDefault(true); // once it is part of the dialog: a button asks that for it
-    for (int row = 0; row < m_table->rowCount(); ++row)
-        fillRow(row);
-    m_table->resizeColumnsToContents();
-    m_table->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    m_table->horizontalHeader()->setStretchLastSection(true);
-    connect(m_table, &QTableWidget::itemChanged, this, &ResultsDialog::showCount);
     showCount();
     resize(760, 480);
 }
 
-/// A run that has a real time already keeps it, unless the coach ticks it.
-void ResultsDialog::fillRow(int row) {
-    const athletedata031& run = m_runs[static_cast<std::size_t>(row)];
-    auto* name = new QTableWidgetItem(qtText(crewText(run.names)));
-    m_table->setItem(row, RunColumn, name);
-    m_table->setItem(row, PhaseColumn, new QTableWidgetItem(qtText(run.phase)));
-    m_table->setItem(
-        row, NowColumn,
-        new QTableWidgetItem(timeText(run.sectioninfo.realtime, run.sectioninfo.realpen)));
-    auto* lines = new QComboBox;
-    lines->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    lines->setMinimumContentsLength(24);
-    lines->addItem(tr("No line"));
-    for (const allresultsdata030& line : m_list.results)
-        lines->addItem(lineText(line));
-    m_table->setCellWidget(row, LineColumn, lines);
-    const auto line = m_matched[static_cast<std::size_t>(row)].line;
-    lines->setCurrentIndex(line ? static_cast<int>(*line) + 1 : 0);
-    chooseLine(row, line);
-    connect(lines, &QComboBox::currentIndexChanged, this, [this, row](int place) {
-        chooseLine(row,
-                   place > 0 ? std::optional(static_cast<std::size_t>(place) - 1) : std::nullopt);
-    });
+ColumnModel<MatchedRun>::Columns ResultsDialog::columns() {
+    const auto phase = [this](const MatchedRun& row) {
+        return qtText(m_runs[row.result.run].phase);
+    };
+    const auto now = [this](const MatchedRun& row) {
+        const sectiondata030& timing = m_runs[row.result.run].sectioninfo;
+        return timeText(timing.realtime, timing.realpen);
+    };
+    Column<MatchedRun> run{.title = tr("Run"), .show = [this](const MatchedRun& row) {
+                               Cell cell{qtText(crewText(m_runs[row.result.run].names))};
+                               if (row.result.line)
+                                   cell.isTicked = row.isTaken;
+                               return cell;
+                           }};
+    run.tick = [this](const std::size_t& place, const MatchedRun& row, bool isTicked) {
+        change(place, {row.result, isTicked});
+    };
+    Column<MatchedRun> line{
+        .title = tr("Line"),
+        .tip = tr("Type a part of the name for another line; an emptied cell stands for none"),
+        .show = [this](const MatchedRun& row) { return lineCell(row); }};
+    line.take = [this](const std::size_t& place, const MatchedRun&, const QString& typed) {
+        chooseLine(place, typed);
+    };
+    line.proposals = [this](const MatchedRun&) { return m_lines; };
+    return {run, textColumn<MatchedRun>(tr("Phase"), phase),
+            textColumn<MatchedRun>(tr("Real time now"), now), line};
 }
 
-void ResultsDialog::chooseLine(int row, std::optional<std::size_t> line) {
-    m_matched[static_cast<std::size_t>(row)].line = line;
-    const athletedata031& run = m_runs[static_cast<std::size_t>(row)];
-    const bool hasNone = run.sectioninfo.realtime == 0 && run.sectioninfo.realpen == 0;
-    QTableWidgetItem& tick = *m_table->item(row, RunColumn);
-    tick.setFlags(line ? Qt::ItemIsEnabled | Qt::ItemIsUserCheckable : Qt::ItemIsEnabled);
-    tick.setCheckState(line && hasNone ? Qt::Checked : Qt::Unchecked);
+/// A run that has a real time already keeps it, unless the coach ticks it.
+MatchedRun ResultsDialog::matched(const ResultOfRun& result) const {
+    const auto& now = m_runs[result.run].sectioninfo;
+    return {result, result.line && now.realtime == 0 && now.realpen == 0};
+}
+
+Cell ResultsDialog::lineCell(const MatchedRun& row) const {
+    if (!row.result.line)
+        return {.text = tr("No line"), .typed = QString(), .look = Cell::Look::Quiet};
+    return {.text = m_lines[static_cast<qsizetype>(*row.result.line)]};
+}
+
+/// Lines that read the same have the same to take. A part of a line that no other has will do.
+void ResultsDialog::chooseLine(std::size_t place, const QString& typed) {
+    ResultOfRun result{m_rows.row(static_cast<int>(place)).result.run, std::nullopt};
+    if (!typed.isEmpty()) {
+        QStringList meant = m_lines.contains(typed) ? QStringList(typed)
+                                                    : m_lines.filter(typed, Qt::CaseInsensitive);
+        if (meant.removeDuplicates(); meant.size() != 1)
+            throw RefusedEntry(tr("“%1” stands in %2 lines of the list: it must be in one.")
+                                   .arg(typed, QString::number(meant.size())));
+        result.line = static_cast<std::size_t>(m_lines.indexOf(meant.front()));
+    }
+    change(place, matched(result));
+}
+
+void ResultsDialog::change(std::size_t place, const MatchedRun& row) {
+    std::vector<MatchedRun> rows = m_rows.rows();
+    rows.at(place) = row;
+    m_rows.show(std::move(rows));
     showCount();
 }
 
 void ResultsDialog::showCount() {
     QStringList without;
-    for (const ResultOfRun& each : m_matched)
-        if (!each.line)
-            without.append(qtText(crewText(m_runs[each.run].names)));
+    for (const MatchedRun& each : m_rows.rows())
+        if (!each.result.line)
+            without.append(qtText(crewText(m_runs[each.result.run].names)));
     without.removeDuplicates();
     QString text = tr("%1 lines come into the file. Real time and penalty are taken for %2 of %3 "
                       "runs: those that are ticked.")
@@ -133,18 +164,17 @@ void ResultsDialog::showCount() {
                        .arg(taken().size())
                        .arg(m_runs.size());
     if (!without.isEmpty())
-        text += '\n' + tr("No line was found for %1.").arg(without.join(", "));
+        text += '\n' + tr("No line was found for %1. A part of the name, typed in the last column, "
+                          "chooses one.")
+                           .arg(without.join(", "));
     m_count->setText(text);
 }
 
 std::vector<ResultOfRun> ResultsDialog::taken() const {
     std::vector<ResultOfRun> ticked;
-    for (int row = 0; row < m_table->rowCount(); ++row) {
-        const QTableWidgetItem* const tick = m_table->item(row, RunColumn);
-        const ResultOfRun& each = m_matched[static_cast<std::size_t>(row)];
-        if (tick && tick->checkState() == Qt::Checked && each.line)
-            ticked.push_back(each);
-    }
+    for (const MatchedRun& each : m_rows.rows())
+        if (each.isTaken)
+            ticked.push_back(each.result);
     return ticked;
 }
 

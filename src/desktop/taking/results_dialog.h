@@ -1,19 +1,26 @@
 #pragma once
 
+#include "desktop/shell/entry_dialog.h"
+#include "desktop/shell/tables/column_model.h"
 #include "splittaking/results_import.h"
 #include "splittaking/results_match.h"
 
-#include <QDialog>
-
 class QLabel;
-class QTableWidget;
 
 namespace kavela::desktop {
+
+class ColumnTable;
+
+/// A run, its line of the list, and whether that is taken.
+struct MatchedRun {
+    ResultOfRun result;
+    bool isTaken = false;
+};
 
 /// What an official list has for the runs of the race, before anything is taken: each run with its
 /// line, which can be chosen by hand where the names differ, and the lines that were skipped or are
 /// odd.
-class ResultsDialog : public QDialog {
+class ResultsDialog : public EntryDialog {
     Q_OBJECT
 
 public:
@@ -26,14 +33,18 @@ public:
     [[nodiscard]] std::vector<ResultOfRun> taken() const;
 
 private:
-    void fillRow(int row);
-    void chooseLine(int row, std::optional<std::size_t> line);
+    [[nodiscard]] ColumnModel<MatchedRun>::Columns columns();
+    [[nodiscard]] MatchedRun matched(const ResultOfRun& result) const;
+    [[nodiscard]] Cell lineCell(const MatchedRun& row) const;
+    void chooseLine(std::size_t place, const QString& typed);
+    void change(std::size_t place, const MatchedRun& row);
     void showCount();
 
     const std::vector<athletedata031>& m_runs;
     const ResultsList& m_list;
-    std::vector<ResultOfRun> m_matched;
-    QTableWidget* m_table;
+    QStringList m_lines; ///< of the list, as they are offered
+    ColumnModel<MatchedRun> m_rows;
+    ColumnTable* m_table;
     QLabel* m_count;
 };
 

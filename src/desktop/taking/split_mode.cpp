@@ -2,6 +2,7 @@
 
 #include "common/alerts.h"
 #include "desktop/film/film_stage.h"
+#include "desktop/shell/qt_text.h"
 #include "desktop/shell/shown_number.h"
 #include "desktop/shell/workspace.h"
 #include "desktop/splitfile/taking_document.h"
@@ -94,14 +95,17 @@ void SplitMode::refuse(const QString& why) {
     m_stage.refuse(why);
 }
 
-/// The order of the marks is told where the coach looks; what must be decided first, in a box.
+/// The order of the marks is told where the coach looks; what must be decided first, in a box. That
+/// would stand in the way of whoever watches a film that runs, or uses the key in another mode.
 void SplitMode::refuseMark(const Alert& why) {
-    if (!why.title.empty()) {
+    const bool isInTheWay = &m_stage.front() != this || m_stage.deck().isPlaying();
+    if (!why.title.empty() && !isInTheWay) {
         m_workspace.showAlert(why, m_stage.window());
         return;
     }
-    refuse(QString::fromStdString(why.text));
-    emit told(QString::fromStdString(why.text));
+    const QString text = qtText(why.title.empty() ? why.text : why.title + ' ' + why.text);
+    refuse(text);
+    emit told(text);
 }
 
 /// A run whose films were moved says where they were looked for.

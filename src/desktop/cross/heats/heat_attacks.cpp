@@ -3,15 +3,16 @@
 #include "desktop/cross/heats/attack_form.h"
 #include "desktop/cross/heats/heat_buttons.h"
 #include "desktop/shell/qt_text.h"
+#include "desktop/shell/shown_number.h"
+#include "desktop/shell/tables/column_table.h"
 #include "desktop/shell/theme.h"
-#include "desktop/splitfile/text_table.h"
+#include "desktop/splitfile/film_table.h"
+#include "splitdata/film_marks.h"
 #include "splittaking/annotations/cross_heats.h"
 #include "splittaking/annotations/remembered_texts.h"
 
-#include <QHeaderView>
 #include <QLabel>
 #include <QSignalBlocker>
-#include <QTableWidget>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -23,20 +24,54 @@ namespace {
 
 constexpr int LeastAttacksHeight = 84; ///< pixels
 
-enum AttackColumn { AttackerColumn = 2, DefendersColumn = 3, PassedColumn = 4, CommentColumn = 7 };
+/// Of its start, which is entry 0, or its end.
+Column<AttackRow> attackMomentColumn(const QString& title, std::size_t entry) {
+    return numberColumn<AttackRow>(
+        title,
+        [entry](const AttackRow& row) {
+            const auto& moments = row.attack.time;
+            const bool isThere = entry < moments.size() && isTaken(moments[entry]);
+            return isThere ? std::optional(moments[entry].seconds()) : std::nullopt;
+        },
+        shownHundredths);
+}
 
-QStringList rowOf(const actiondata030& attack) {
-    const auto moment = [&](std::size_t entry) {
-        return entry < attack.time.size() ? momentText(attack.time[entry]) : QStringLiteral("–");
+Column<AttackRow> attackTextColumn(const QString& title, std::string actiondata030::*text) {
+    return textColumn<AttackRow>(title,
+                                 [text](const AttackRow& row) { return qtText(row.attack.*text); });
+}
+
+/// What does not fit its column is told by its tip, and the names of several defenders by that and
+/// by what is copied.
+ColumnModel<AttackRow>::Columns attackColumns(const HeatDesk& desk) {
+    const auto attacker = [](const AttackRow& row) {
+        return Cell{.text = qtText(row.attack.attacker), .badge = row.attacker};
     };
-    return {moment(0),
-            moment(1),
-            qtText(attack.attacker),
-            joined(attack.defenders),
-            attack.success ? HeatAttacks::tr("✓ passed") : HeatAttacks::tr("✗ held"),
-            qtText(attack.side),
-            qtText(attack.place),
-            qtText(attack.comments)};
+    const auto defenders = [](const AttackRow& row) {
+        return Cell{
+            .text = row.defenders, .typed = joined(row.attack.defenders), .badge = row.defender};
+    };
+    const auto outcome = [&desk](const AttackRow& row) {
+        const bool hasPassed = row.attack.success;
+        return Cell{.text = hasPassed ? HeatAttacks::tr("✓ passed") : HeatAttacks::tr("✗ held"),
+                    .colour = changeColour(hasPassed ? 1 : 0, desk.palette())};
+    };
+    ColumnModel<AttackRow>::Columns columns{
+        attackMomentColumn(HeatAttacks::tr("Start"), 0),
+        attackMomentColumn(HeatAttacks::tr("End"), 1),
+        {.title = HeatAttacks::tr("Attacker"), .show = attacker},
+        {.title = HeatAttacks::tr("On"), .show = defenders},
+        {.title = HeatAttacks::tr("Outcome"), .show = outcome},
+        attackTextColumn(HeatAttacks::tr("Side"), &actiondata030::side),
+        attackTextColumn(HeatAttacks::tr("Place"), &actiondata030::place),
+        attackTextColumn(HeatAttacks::tr("Comment"), &actiondata030::comments)};
+    for (Column<AttackRow>& column : columns)
+        column.show = [show = column.show](const AttackRow& row) {
+            Cell cell = show(row);
+            cell.tip = cell.typed.value_or(cell.text);
+            return cell;
+        };
+    return columns;
 }
 
 /// The attack in its new form, where its first moment belongs. One that names strangers from a file
@@ -60,8 +95,8 @@ std::size_t replaceAttack(rounddata030& heat, std::size_t place, const actiondat
 HeatAttacks::HeatAttacks(HeatDesk& desk, QWidget* parent)
     : QWidget(parent),
       m_desk(desk),
-      m_table(textTable({tr("Start"), tr("End"), tr("Attacker"), tr("On"), tr("Outcome"),
-                         tr("Side"), tr("Place"), tr("Comment")})),
+      m_rows(attackColumns(desk)),
+      m_table(filmTable(m_rows, "attacks")),
       m_form(new AttackForm) {
     auto* title = new QLabel(tr("Attacks"));
     QFont font = title->font();
@@ -87,21 +122,18 @@ HeatAttacks::HeatAttacks(HeatDesk& desk, QWidget* parent)
 
 /// The names and the comment share the room that the others leave; long texts are told by tips.
 void HeatAttacks::makeTable() {
-    m_table->setObjectName("attacks");
-    m_table->horizontalHeader()->setStretchLastSection(false);
-    for (const int column : {AttackerColumn, DefendersColumn, CommentColumn})
-        m_table->horizontalHeader()->setSectionResizeMode(column, QHeaderView::Stretch);
-    m_table->setWordWrap(false);
+    m_table->stretch({2, 3, 7}); // attacker, defenders and comment
     m_table->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     m_table->setMinimumHeight(LeastAttacksHeight);
     m_table->setIconSize(BadgeSize);
     m_table->setToolTip(tr("A click shows the frame of an attack"));
-    connect(m_table, &QTableWidget::currentCellChanged, this, [this](int place) {
-        if (place >= 0)
+    m_table->setAdd(tr("Attack at this frame"), [this] { emit additionWanted(); });
+    connect(m_table, &ColumnTable::chosen, this, [this] {
+        if (const int place = m_table->currentPlace(); place >= 0)
             m_desk.select(HeatMark{false, static_cast<std::size_t>(place), 0});
     });
-    connect(m_table, &QTableWidget::cellClicked, this, [this](int place) {
-        m_desk.goTo({false, static_cast<std::size_t>(place), 0});
+    connect(m_table, &ColumnTable::clicked, this, [this](const QModelIndex& cell) {
+        m_desk.goTo({false, static_cast<std::size_t>(m_table->placeAt(cell)), 0});
     });
 }
 
@@ -199,41 +231,33 @@ void HeatAttacks::commit() {
 }
 
 void HeatAttacks::refresh() {
-    std::vector<QStringList> rows;
+    std::vector<AttackRow> rows;
     if (m_desk.heat())
         for (const actiondata030& each : m_desk.heat()->actions)
             rows.push_back(rowOf(each));
-    fillTable(*m_table, rows);
-    const QSignalBlocker blocked(m_table);
-    for (int row = 0; row < m_table->rowCount(); ++row)
-        dress(row);
-    m_table->setCurrentCell(
-        m_desk.attack() ? static_cast<int>(m_desk.front().selected->record) : -1, 0);
+    const int selected = m_desk.attack() ? static_cast<int>(m_desk.front().selected->record) : -1;
+    {
+        const QSignalBlocker blocked(m_table); // what is selected is told by the page
+        m_rows.show(std::move(rows));
+        if (selected != m_table->currentPlace())
+            m_table->choose(selected, 0);
+    }
     offerTexts();
     m_form->show(m_desk.attack(), m_desk.looks());
 }
 
-/// Badges for the boats, a colour for the outcome, and the whole names as tips.
-void HeatAttacks::dress(int row) {
-    const actiondata030& shown = m_desk.heat()->actions.at(static_cast<std::size_t>(row));
+AttackRow HeatAttacks::rowOf(const actiondata030& attack) const {
     const auto looks = m_desk.looks();
     const auto look = [&](const std::string& name) {
         return lookOf(looks, name, m_desk.palette());
     };
-    const bool hasOneDefender = shown.defenders.size() == 1;
-    QTableWidgetItem& defenders = *m_table->item(row, DefendersColumn);
-    m_table->item(row, AttackerColumn)->setIcon(badgeOf(look(shown.attacker), *this));
-    defenders.setIcon(hasOneDefender ? badgeOf(look(shown.defenders.front()), *this) : QIcon());
-    m_table->item(row, PassedColumn)
-        ->setForeground(changeColour(shown.success ? 1 : 0, m_desk.palette()));
-    for (int column = 0; column < m_table->columnCount(); ++column)
-        m_table->item(row, column)->setToolTip(m_table->item(row, column)->text());
-    if (hasOneDefender)
-        return;
-    QStringList cues;
-    for (const std::string& name : shown.defenders)
-        cues.append(look(name).cue);
-    defenders.setText(cues.join(", "));
+    const bool hasOneDefender = attack.defenders.size() == 1;
+    QStringList defenders;
+    for (const std::string& name : attack.defenders)
+        defenders.append(hasOneDefender ? qtText(name) : look(name).cue);
+    return {attack, badgeOf(look(attack.attacker), *this),
+            hasOneDefender ? badgeOf(look(attack.defenders.front()), *this) : QIcon(),
+            defenders.join(", ")};
 }
 
 /// What the heats of this file used, then the words of the sport.

@@ -1,14 +1,22 @@
 #pragma once
 
 #include "desktop/cross/heats/heat_desk.h"
+#include "desktop/shell/tables/column_model.h"
 
 #include <QWidget>
-
-class QTableWidget;
 
 namespace kavela::desktop {
 
 class AttackForm;
+class ColumnTable;
+
+/// An attack as its list shows it.
+struct AttackRow {
+    actiondata030 attack;
+    QIcon attacker;    ///< badges of the boats
+    QIcon defender;    ///< of the only one
+    QString defenders; ///< the name of the only one, or the initials of several
+};
 
 /// The attacks and defences of the heat in front: their list, the one that is selected in words,
 /// and what adds, names, times and removes them.
@@ -44,11 +52,12 @@ private:
     void change(const QString& what, const std::function<void(actiondata030&)>& change,
                 std::size_t entry = 0);
     void remove();
-    void dress(int row);
+    [[nodiscard]] AttackRow rowOf(const actiondata030& attack) const;
     void offerTexts();
 
     HeatDesk& m_desk;
-    QTableWidget* m_table;
+    ColumnModel<AttackRow> m_rows;
+    ColumnTable* m_table;
     AttackForm* m_form;
 };
 

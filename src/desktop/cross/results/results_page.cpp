@@ -2,18 +2,19 @@
 
 #include "desktop/charts/chart_colours.h"
 #include "desktop/cross/heats/boat_looks.h"
+#include "desktop/cross/results/result_table.h"
 #include "desktop/shell/qt_text.h"
+#include "desktop/shell/tables/column_table.h"
 #include "desktop/shell/theme.h"
+#include "desktop/shell/workspace.h"
 
 #include <QApplication>
 #include <QClipboard>
 #include <QEvent>
 #include <QFrame>
 #include <QGridLayout>
-#include <QKeyEvent>
 #include <QLabel>
 #include <QScrollArea>
-#include <QTableWidget>
 
 #include <algorithm>
 #include <cmath>
@@ -22,8 +23,6 @@ namespace kavela::desktop {
 
 namespace {
 
-constexpr int FirstNumber = 1; ///< column of the tables: the first holds names
-constexpr int OutcomeColumn = 5;
 constexpr int MostBlocks = 3;    ///< heats beside each other
 constexpr int WidestBlock = 560; ///< pixels: numbers stay near their names
 
@@ -31,14 +30,6 @@ QLabel* titleLabel(const QString& text, const QWidget& widget) {
     auto* label = new QLabel(text);
     label->setFont(theme::titleFont(widget));
     return label;
-}
-
-QString placeText(const std::optional<std::size_t>& place) {
-    return place ? QString::number(*place) : QStringLiteral("–");
-}
-
-QString rateText(const std::optional<double>& rate) {
-    return rate ? ResultsPage::tr("%1 %").arg(std::lround(*rate * 100)) : QStringLiteral("–");
 }
 
 /// What a place is worth. Of a heat that is not finished only a later round can tell.
@@ -88,6 +79,101 @@ QColor tinted(QColor colour) {
     return colour;
 }
 
+QString wholeNumber(double count) {
+    return QString::number(count);
+}
+
+/// A place of a boat, with a dash for none.
+Column<PlaceRow> rankColumn(const QString& title, std::optional<std::size_t> HeatPlace::*place) {
+    return numberColumn<PlaceRow>(
+        title, [place](const PlaceRow& row) { return std::optional<double>(row.place.*place); },
+        wholeNumber);
+}
+
+/// Places won (1) or lost (-1).
+Column<PlaceRow> changeColumn(const QString& title, std::size_t HeatPlace::*places, int way,
+                              const QPalette& palette) {
+    return {.title = title, .kind = ColumnKind::Number, .show = [=](const PlaceRow& row) {
+                const auto count = static_cast<double>(row.place.*places);
+                return Cell{.text = wholeNumber(count),
+                            .number = count,
+                            .colour = changeColour(count > 0 ? way : 0, palette)};
+            }};
+}
+
+/// Who goes on, or wins, stands on a ground of its own.
+ColumnModel<PlaceRow>::Columns placeColumns(const QPalette& palette) {
+    const auto boat = [](const PlaceRow& row) {
+        return Cell{.text = qtText(row.place.athlete), .badge = row.badge};
+    };
+    const auto outcome = [palette](const PlaceRow& row) {
+        return Cell{.text = row.outcome, .colour = changeColour(row.isAhead ? 1 : 0, palette)};
+    };
+    ColumnModel<PlaceRow>::Columns columns{
+        {.title = ResultsPage::tr("Boat"), .show = boat},
+        rankColumn(ResultsPage::tr("Place"), &HeatPlace::finish),
+        rankColumn(ResultsPage::tr("Start"), &HeatPlace::start),
+        changeColumn(ResultsPage::tr("Gained"), &HeatPlace::gained, 1, palette),
+        changeColumn(ResultsPage::tr("Lost"), &HeatPlace::lost, -1, palette),
+        {.title = ResultsPage::tr("Outcome"), .show = outcome}};
+    for (Column<PlaceRow>& column : columns)
+        column.show = [show = column.show,
+                       ground = tinted(changeColour(1, palette))](const PlaceRow& row) {
+            Cell cell = show(row);
+            cell.ground = row.isAhead ? ground : QColor();
+            return cell;
+        };
+    return columns;
+}
+
+template <class Row>
+Column<Row> attacksColumn(const QString& title, std::size_t Row::*count) {
+    return numberColumn<Row>(
+        title, [count](const Row& row) { return std::optional(static_cast<double>(row.*count)); },
+        wholeNumber);
+}
+
+/// The rate is from 0 to 1.
+template <class Row>
+Column<Row> successColumn(const QString& title,
+                          std::function<std::optional<double>(const Row&)> rate) {
+    return {.title = title, .kind = ColumnKind::Number, .show = [=](const Row& row) {
+                const std::optional<double> value = rate(row);
+                return value ? Cell{.text = ResultsPage::tr("%1 %").arg(std::lround(*value * 100)),
+                                    .sortValue = *value}
+                             : Cell{QStringLiteral("–")};
+            }};
+}
+
+ColumnModel<AttackRecord>::Columns attackerColumns() {
+    return {
+        textColumn<AttackRecord>(ResultsPage::tr("Athlete"),
+                                 [](const AttackRecord& record) { return qtText(record.athlete); }),
+        attacksColumn(ResultsPage::tr("Attacks"), &AttackRecord::attacks),
+        attacksColumn(ResultsPage::tr("Succeeded"), &AttackRecord::successes),
+        successColumn<AttackRecord>(ResultsPage::tr("Success"), &AttackRecord::attackRate),
+        attacksColumn(ResultsPage::tr("Attacked"), &AttackRecord::defences),
+        attacksColumn(ResultsPage::tr("Held"), &AttackRecord::held),
+        successColumn<AttackRecord>(ResultsPage::tr("Defence"), &AttackRecord::defenceRate)};
+}
+
+QString whereText(const AttackPlace& place) {
+    const std::string both = !place.place.empty() && !place.side.empty() ? ", " : "";
+    const QString where = qtText(place.place + both + place.side);
+    return where.isEmpty() ? ResultsPage::tr("not told") : where;
+}
+
+ColumnModel<AttackPlace>::Columns attackPlaceColumns() {
+    const auto rate = [](const AttackPlace& place) {
+        return std::optional(static_cast<double>(place.successes) /
+                             static_cast<double>(std::max<std::size_t>(place.attacks, 1)));
+    };
+    return {textColumn<AttackPlace>(ResultsPage::tr("Where"), whereText),
+            attacksColumn(ResultsPage::tr("Attacks"), &AttackPlace::attacks),
+            attacksColumn(ResultsPage::tr("Succeeded"), &AttackPlace::successes),
+            successColumn<AttackPlace>(ResultsPage::tr("Success"), rate)};
+}
+
 } // namespace
 
 ResultsPage::ResultsPage(const CrossDesk& desk)
@@ -96,13 +182,10 @@ ResultsPage::ResultsPage(const CrossDesk& desk)
                             "taken on the page of heats."))),
       m_rounds(new QVBoxLayout),
       m_attacks(new QWidget),
-      m_attackers(resultTable("attackers",
-                              {tr("Athlete"), tr("Attacks"), tr("Succeeded"), tr("Success"),
-                               tr("Attacked"), tr("Held"), tr("Defence")},
-                              FirstNumber)),
-      m_places(resultTable("attackPlaces",
-                           {tr("Where"), tr("Attacks"), tr("Succeeded"), tr("Success")},
-                           FirstNumber)) {
+      m_attackerRows(new ColumnModel<AttackRecord>(attackerColumns())),
+      m_placeRows(new ColumnModel<AttackPlace>(attackPlaceColumns())),
+      m_attackers(resultTable(m_attackerRows, "attackers")),
+      m_places(resultTable(m_placeRows, "attackPlaces")) {
     makeLayout();
     refresh();
 }
@@ -142,22 +225,12 @@ void ResultsPage::makeAttacks(QVBoxLayout& column) {
     column.addWidget(m_attacks);
     m_attackers->setMaximumWidth(WidestBlock);
     m_places->setMaximumWidth(WidestBlock);
-    m_attackers->installEventFilter(this);
-    m_places->installEventFilter(this);
 }
 
 void ResultsPage::changeEvent(QEvent* event) {
     CrossPage::changeEvent(event);
     if (event->type() == QEvent::PaletteChange)
         refresh();
-}
-
-bool ResultsPage::eventFilter(QObject* watched, QEvent* event) {
-    if (event->type() != QEvent::KeyPress ||
-        !static_cast<QKeyEvent*>(event)->matches(QKeySequence::Copy))
-        return CrossPage::eventFilter(watched, event);
-    copy();
-    return true;
 }
 
 void ResultsPage::refresh() {
@@ -195,27 +268,15 @@ void ResultsPage::addRound(const RoundResult& round, const QString& title, bool 
     m_rounds->addWidget(block);
 }
 
-/// Who goes on, or wins, stands on a ground of its own.
-std::vector<ResultRow> ResultsPage::rowsOf(const HeatResult& heat, const RoundResult& round,
-                                           bool isDecided) const {
+std::vector<PlaceRow> ResultsPage::rowsOf(const HeatResult& heat, const RoundResult& round,
+                                          bool isDecided) const {
     const auto& athletes = m_desk.cross().eliphase.at(heat.heat).athletes;
     const std::vector<BoatLook> looks = boatLooks(athletes, palette());
-    const QColor good = changeColour(1, palette());
-    const QColor quiet = theme::quietText(palette());
-    std::vector<ResultRow> rows;
+    std::vector<PlaceRow> rows;
     for (const HeatPlace& place : heat.places) {
-        const QString outcome = outcomeText(place, heat, round, isDecided);
         const bool isWinner = round.isFinal && heat.isFinished && place.finish == 1U;
-        ResultRow row{{QString::fromStdString(place.athlete), placeText(place.finish),
-                       placeText(place.start), QString::number(place.gained),
-                       QString::number(place.lost), outcome},
-                      badgeOf(lookOf(looks, place.athlete, palette()), *this),
-                      place.goesOn || isWinner ? tinted(good) : QColor(),
-                      {}};
-        row.colours[3] = place.gained > 0 ? good : quiet;
-        row.colours[4] = place.lost > 0 ? changeColour(-1, palette()) : quiet;
-        row.colours[OutcomeColumn] = place.goesOn || isWinner ? good : quiet;
-        rows.push_back(std::move(row));
+        rows.push_back({place, badgeOf(lookOf(looks, place.athlete, palette()), *this),
+                        outcomeText(place, heat, round, isDecided), place.goesOn || isWinner});
     }
     return rows;
 }
@@ -233,12 +294,10 @@ QWidget* ResultsPage::heatBlock(const HeatResult& heat, const RoundResult& round
     title->setTextInteractionFlags(Qt::LinksAccessibleByMouse | Qt::LinksAccessibleByKeyboard);
     connect(title, &QLabel::linkActivated, this,
             [this, place = heat.heat] { emit heatWanted(place); });
-    QTableWidget* const table =
-        resultTable(QStringLiteral("heat%1Places").arg(heat.heat + 1),
-                    {tr("Boat"), tr("Place"), tr("Start"), tr("Gained"), tr("Lost"), tr("Outcome")},
-                    FirstNumber);
-    fillResults(*table, rowsOf(heat, round, isDecided), FirstNumber);
-    table->installEventFilter(this);
+    auto* const rows = new ColumnModel<PlaceRow>(placeColumns(palette()));
+    rows->show(rowsOf(heat, round, isDecided));
+    ColumnTable* const table = resultTable(rows, QStringLiteral("heat%1Places").arg(heat.heat + 1));
+    table->remember(m_desk.workspace, "cross/columns/heatPlaces"); // the same for all heats
     m_tables.push_back(table);
     column->addWidget(title);
     column->addWidget(table);
@@ -256,47 +315,20 @@ QWidget* ResultsPage::heatBlock(const HeatResult& heat, const RoundResult& round
 
 void ResultsPage::showAttacks() {
     const auto& heats = m_desk.cross().eliphase;
-    std::vector<ResultRow> rows;
-    for (const AttackRecord& record : attackRecords(heats))
-        rows.push_back({{QString::fromStdString(record.athlete), QString::number(record.attacks),
-                         QString::number(record.successes), rateText(record.attackRate()),
-                         QString::number(record.defences), QString::number(record.held),
-                         rateText(record.defenceRate())},
-                        {},
-                        {},
-                        {}});
-    m_attacks->setVisible(!rows.empty());
-    fillResults(*m_attackers, rows, FirstNumber);
-    rows.clear();
-    for (const AttackPlace& place : attackPlaces(heats)) {
-        const QString where = QString::fromStdString(place.place);
-        const QString side = QString::fromStdString(place.side);
-        const bool hasBoth = !where.isEmpty() && !side.isEmpty();
-        const double rate = static_cast<double>(place.successes) /
-                            static_cast<double>(std::max<std::size_t>(place.attacks, 1));
-        rows.push_back(
-            {{where + (hasBoth ? QStringLiteral(", ") : QString()) + side,
-              QString::number(place.attacks), QString::number(place.successes), rateText(rate)},
-             {},
-             {},
-             {}});
-        if (rows.back().texts[0].isEmpty())
-            rows.back().texts[0] = tr("not told");
-    }
-    fillResults(*m_places, rows, FirstNumber);
+    m_attackerRows->show(attackRecords(heats));
+    m_placeRows->show(attackPlaces(heats));
+    m_attacks->setVisible(!m_attackerRows->rows().empty());
     m_tables.push_back(m_attackers);
     m_tables.push_back(m_places);
 }
 
 void ResultsPage::copy() const {
     QStringList texts;
-    for (const QTableWidget* const table : m_tables) {
-        if (table->hasFocus()) {
-            QApplication::clipboard()->setText(copiedText(*table, true));
-            return;
-        }
-        if (table->rowCount() > 0)
-            texts.append(copiedText(*table, false));
+    for (ColumnTable* const table : m_tables) {
+        if (table->hasFocus())
+            return table->copy();
+        if (table->model()->rowCount() > 0)
+            texts.append(wholeTableText(*table));
     }
     QApplication::clipboard()->setText(texts.join('\n'));
 }

@@ -1,14 +1,23 @@
 #pragma once
 
 #include "desktop/cross/cross_page.h"
-#include "desktop/cross/results/result_table.h"
+#include "desktop/shell/tables/column_model.h"
 #include "splittaking/annotations/cross_results.h"
 
 class QLabel;
-class QTableWidget;
 class QVBoxLayout;
 
 namespace kavela::desktop {
+
+class ColumnTable;
+
+/// A boat of a heat, and what its place is worth.
+struct PlaceRow {
+    HeatPlace place;
+    QIcon badge;
+    QString outcome;
+    bool isAhead = false; ///< it goes on or wins
+};
 
 /// What the heats of a cross race come to: the places of each round, who goes on, and what attacks
 /// were worth.
@@ -29,8 +38,6 @@ signals:
 
 protected:
     void changeEvent(QEvent* event) override;
-    /// Copies from the tables with the platform's key.
-    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     void makeLayout();
@@ -40,16 +47,18 @@ private:
     void addRound(const RoundResult& round, const QString& title, bool isDecided);
     [[nodiscard]] QWidget* heatBlock(const HeatResult& heat, const RoundResult& round,
                                      bool isDecided);
-    [[nodiscard]] std::vector<ResultRow> rowsOf(const HeatResult& heat, const RoundResult& round,
-                                                bool isDecided) const;
+    [[nodiscard]] std::vector<PlaceRow> rowsOf(const HeatResult& heat, const RoundResult& round,
+                                               bool isDecided) const;
     void showAttacks();
 
     QLabel* m_empty;
     QVBoxLayout* m_rounds; ///< a widget per round, made anew with each content
     QWidget* m_attacks;
-    QTableWidget* m_attackers;
-    QTableWidget* m_places;
-    std::vector<QTableWidget*> m_tables; ///< in the order in which they are copied
+    ColumnModel<AttackRecord>* m_attackerRows;
+    ColumnModel<AttackPlace>* m_placeRows;
+    ColumnTable* m_attackers;
+    ColumnTable* m_places;
+    std::vector<ColumnTable*> m_tables; ///< in the order in which they are copied
 };
 
 } // namespace kavela::desktop

@@ -1,14 +1,13 @@
 #include "desktop/cross/trials/gate_form.h"
 
 #include "desktop/shell/qt_text.h"
+#include "desktop/shell/shown_number.h"
 #include "desktop/shell/tables/column_table.h"
 #include "desktop/shell/theme.h"
-#include "desktop/splitfile/code_combo.h"
 #include "desktop/splitfile/film_table.h"
-#include "desktop/splitfile/text_table.h"
 
 #include <QCheckBox>
-#include <QFormLayout>
+#include <QVBoxLayout>
 
 #include <algorithm>
 
@@ -39,7 +38,7 @@ QString gateTurnText(const GateRow& row) {
 
 Column<GateRow> gateTimeColumn(const QString& title, double GateTimes::*time) {
     return {.title = title, .kind = ColumnKind::Number, .show = [time](const GateRow& row) {
-                return Cell{timeOrDash(timesOf(row.gate.cmtimes).*time)};
+                return Cell{hundredthsOrDash(timesOf(row.gate.cmtimes).*time)};
             }};
 }
 
@@ -58,28 +57,26 @@ std::vector<Column<GateRow>> gateColumns() {
 GateForm::GateForm(QWidget* parent)
     : QWidget(parent),
       m_middle(new QCheckBox(tr("Mark the pole line too"))),
-      m_direction(new CodeCombo(LabelList::UpstreamDirection)),
-      m_style(new CodeCombo(LabelList::UpstreamStyle)),
+      m_turn(
+          new CodeForm<ttupstream030>([this](const QString&, const auto& act) { emit edited(act); },
+                                      FieldForm::Arrangement::Beside)),
       m_rows(gateColumns(), RowsKnownBy::Number),
       m_table(filmTable(m_rows, "gates")) {
     m_middle->setObjectName("gateMiddle");
     m_middle->setChecked(true);
-    m_direction->setObjectName("gateDirection");
-    m_style->setObjectName("gateStyle");
+    m_turn->code({.name = "gateDirection", .label = tr("Turn"), .stretch = 1},
+                 LabelList::UpstreamDirection, &ttupstream030::direction);
+    m_turn->code({.name = "gateStyle", .label = tr("Style"), .stretch = 2},
+                 LabelList::UpstreamStyle, &ttupstream030::style);
     m_table->setToolTip(tr("A click brings a gate in front"));
     m_table->stretch({m_rows.columnCount() - 1});
-    auto* turn = new QHBoxLayout;
-    turn->addWidget(m_direction, 1);
-    turn->addWidget(m_style, 2);
-    auto* form = new QFormLayout(this);
-    form->setContentsMargins(0, 0, 0, 0);
-    form->setVerticalSpacing(theme::Spacing);
-    form->addRow(m_middle);
-    form->addRow(tr("Turn"), turn);
-    form->addRow(m_table);
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(theme::Spacing);
+    column->addWidget(m_middle);
+    column->addWidget(m_turn);
+    column->addWidget(m_table, 1);
     connect(m_middle, &QCheckBox::toggled, this, &GateForm::middleToggled);
-    connect(m_direction, &CodeCombo::codeChosen, this, &GateForm::directionChosen);
-    connect(m_style, &CodeCombo::codeChosen, this, &GateForm::styleChosen);
     connect(m_table, &ColumnTable::clicked, this, [this](const QModelIndex& cell) {
         emit gateChosen(m_rows.row(m_table->placeAt(cell)).gate.gateNum);
     });
@@ -87,7 +84,7 @@ GateForm::GateForm(QWidget* parent)
 
 void GateForm::setTrial(const ttdata030* trial, const std::vector<std::int64_t>& gates) {
     m_rows.show(rowsOf(trial ? *trial : ttdata030{}, gates));
-    showCodes();
+    showTurn();
 }
 
 void GateForm::setFront(std::optional<std::int64_t> gate) {
@@ -98,22 +95,14 @@ void GateForm::setFront(std::optional<std::int64_t> gate) {
         found == m_rows.rows().end() ? -1 : static_cast<int>(found - m_rows.rows().begin());
     if (place != m_table->currentPlace())
         m_table->choose(place, 0);
-    showCodes();
+    showTurn();
 }
 
 /// A gate has its direction and style with its first mark.
-void GateForm::showCodes() {
+void GateForm::showTurn() {
     const int place = m_table->currentPlace();
     const bool isKnown = place >= 0 && m_rows.row(place).isKnown;
-    m_direction->setEnabled(isKnown);
-    m_style->setEnabled(isKnown);
-    if (!isKnown) {
-        m_direction->clearCode();
-        m_style->clearCode();
-        return;
-    }
-    m_direction->setCode(m_rows.row(place).gate.direction);
-    m_style->setCode(m_rows.row(place).gate.style);
+    m_turn->show(isKnown ? &m_rows.row(place).gate : nullptr);
 }
 
 } // namespace kavela::desktop

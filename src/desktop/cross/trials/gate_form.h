@@ -2,6 +2,7 @@
 
 #include "desktop/cross/trials/trial_marks.h"
 #include "desktop/shell/tables/column_model.h"
+#include "desktop/splitfile/code_form.h"
 
 #include <QWidget>
 
@@ -9,7 +10,6 @@ class QCheckBox;
 
 namespace kavela::desktop {
 
-class CodeCombo;
 class ColumnTable;
 
 /// An upstream gate of the course, and what a trial has of it.
@@ -32,16 +32,14 @@ public:
 
 signals:
     void gateChosen(std::int64_t gate);
-    void directionChosen(std::int64_t code);
-    void styleChosen(std::int64_t code);
+    void edited(const std::function<void(ttupstream030&)>& change); ///< of the gate in front
     void middleToggled(bool wantsMiddle); ///< the pole line is to be marked, too
 
 private:
-    void showCodes();
+    void showTurn();
 
     QCheckBox* m_middle;
-    CodeCombo* m_direction;
-    CodeCombo* m_style;
+    CodeForm<ttupstream030>* m_turn;
     ColumnModel<GateRow> m_rows;
     ColumnTable* m_table;
 };

@@ -1,12 +1,11 @@
 #include "desktop/cross/trials/roll_form.h"
 
+#include "desktop/shell/shown_number.h"
 #include "desktop/shell/tables/column_table.h"
 #include "desktop/shell/theme.h"
-#include "desktop/splitfile/code_combo.h"
-#include "desktop/splitfile/text_table.h"
 #include "splittaking/annotations/gate_marks.h"
 
-#include <QFormLayout>
+#include <QVBoxLayout>
 
 namespace kavela::desktop {
 
@@ -25,40 +24,29 @@ std::vector<Column<RollRow>> rollColumns() {
 
 RollForm::RollForm(QWidget* parent)
     : QWidget(parent),
-      m_direction(new CodeCombo(LabelList::RollDirection)),
-      m_style(new CodeCombo(LabelList::RollStyle)),
+      m_codes(new CodeForm<ttroll030>([this](const QString&, const auto& act) { emit edited(act); },
+                                      FieldForm::Arrangement::Beside)),
       m_rows(rollColumns(), RowsKnownBy::Number) {
-    m_direction->setObjectName("rollDirection");
-    m_style->setObjectName("rollStyle");
+    m_codes->code({.name = "rollDirection", .label = tr("Roll"), .stretch = 1},
+                  LabelList::RollDirection, &ttroll030::direction);
+    m_codes->code({.name = "rollStyle", .label = tr("Style"), .stretch = 2}, LabelList::RollStyle,
+                  &ttroll030::style);
     auto* table = new ColumnTable(m_rows, "roll");
     table->setOnlyShown();
-    auto* roll = new QHBoxLayout;
-    roll->addWidget(m_direction, 1);
-    roll->addWidget(m_style, 2);
-    auto* form = new QFormLayout(this);
-    form->setContentsMargins(0, 0, 0, 0);
-    form->setVerticalSpacing(theme::Spacing);
-    form->addRow(tr("Roll"), roll);
-    form->addRow(table);
-    connect(m_direction, &CodeCombo::codeChosen, this, &RollForm::directionChosen);
-    connect(m_style, &CodeCombo::codeChosen, this, &RollForm::styleChosen);
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(theme::Spacing);
+    column->addWidget(m_codes);
+    column->addWidget(table, 1);
 }
 
 void RollForm::setRoll(const ttroll030* roll) {
-    m_direction->setEnabled(roll);
-    m_style->setEnabled(roll);
-    if (roll) {
-        m_direction->setCode(roll->direction);
-        m_style->setCode(roll->style);
-    } else {
-        m_direction->clearCode();
-        m_style->clearCode();
-    }
+    m_codes->show(roll);
     const GateTimes times =
         timesOf(roll ? std::span<const CMTime>(roll->cmtimes) : std::span<const CMTime>());
-    m_rows.show({{tr("Going over"), timeOrDash(times.entrance)},
-                 {tr("Coming up"), timeOrDash(times.exit)},
-                 {tr("Total"), timeOrDash(times.total)}});
+    m_rows.show({{tr("Going over"), hundredthsOrDash(times.entrance)},
+                 {tr("Coming up"), hundredthsOrDash(times.exit)},
+                 {tr("Total"), hundredthsOrDash(times.total)}});
 }
 
 } // namespace kavela::desktop

@@ -1,13 +1,12 @@
 #pragma once
 
 #include "desktop/shell/tables/column_model.h"
+#include "desktop/splitfile/code_form.h"
 #include "splitdata/cross_records.h"
 
 #include <QWidget>
 
 namespace kavela::desktop {
-
-class CodeCombo;
 
 /// The roll of a time trial: its times, direction and style. Changes nothing itself.
 class RollForm : public QWidget {
@@ -20,12 +19,10 @@ public:
     void setRoll(const ttroll030* roll);
 
 signals:
-    void directionChosen(std::int64_t code);
-    void styleChosen(std::int64_t code);
+    void edited(const std::function<void(ttroll030&)>& change);
 
 private:
-    CodeCombo* m_direction;
-    CodeCombo* m_style;
+    CodeForm<ttroll030>* m_codes;
     ColumnModel<std::pair<QString, QString>> m_rows; ///< parts of the roll and their times
 };
 

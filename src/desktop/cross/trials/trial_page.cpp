@@ -5,13 +5,13 @@
 #include "desktop/cross/trials/trial_list.h"
 #include "desktop/film/film_deck.h"
 #include "desktop/shell/qt_text.h"
+#include "desktop/shell/shown_number.h"
 #include "desktop/shell/tables/column_table.h"
 #include "desktop/shell/theme.h"
 #include "desktop/shell/workspace.h"
 #include "desktop/splitfile/film_table.h"
 #include "desktop/splitfile/gate_mark_text.h"
 #include "desktop/splitfile/taking_document.h"
-#include "desktop/splitfile/text_table.h"
 #include "splitdata/run_timing.h"
 #include "splittaking/annotations/cross_heats.h"
 #include "splittaking/video_names.h"
@@ -182,24 +182,17 @@ void TrialPage::connectForms() {
         if (first != marks.end())
             m_front.goTo(*first);
     });
-    const auto changeGate = [this](std::int64_t ttupstream030::*member) {
-        return [this, member](std::int64_t code) {
-            const auto gate = m_front.gate();
-            m_front.edit(tr("gate %1").arg(gate.value_or(0)), [&](ttdata030& trial) {
-                if (const auto place = gate ? upstreamAt(trial, *gate) : std::nullopt)
-                    trial.upstreams[*place].*member = code;
+    connect(m_gates, &GateForm::edited, this,
+            [this](const std::function<void(ttupstream030&)>& change) {
+                const auto gate = m_front.gate();
+                m_front.edit(tr("gate %1").arg(gate.value_or(0)), [&](ttdata030& trial) {
+                    if (const auto place = gate ? upstreamAt(trial, *gate) : std::nullopt)
+                        change(trial.upstreams[*place]);
+                });
             });
-        };
-    };
-    connect(m_gates, &GateForm::directionChosen, this, changeGate(&ttupstream030::direction));
-    connect(m_gates, &GateForm::styleChosen, this, changeGate(&ttupstream030::style));
-    const auto changeRoll = [this](std::int64_t ttroll030::*member) {
-        return [this, member](std::int64_t code) {
-            m_front.edit(tr("roll"), [&](ttdata030& trial) { trial.roll.*member = code; });
-        };
-    };
-    connect(m_roll, &RollForm::directionChosen, this, changeRoll(&ttroll030::direction));
-    connect(m_roll, &RollForm::styleChosen, this, changeRoll(&ttroll030::style));
+    connect(m_roll, &RollForm::edited, this, [this](const std::function<void(ttroll030&)>& change) {
+        m_front.edit(tr("roll"), [&](ttdata030& trial) { change(trial.roll); });
+    });
 }
 
 void TrialPage::refresh() {
@@ -227,8 +220,9 @@ void TrialPage::showSplits() {
         const Stamps& stamps = marks.marks[k];
         const bool isTimed = marks.start && !stamps.empty();
         rows.push_back(
-            {QString::number(k + 1), stamps.empty() ? QStringLiteral("–") : timeOrDash(times[k]),
-             timeOrDash(isTimed ? secondsFrom(marks.start->front(), stamps.front()) : 0)});
+            {QString::number(k + 1),
+             stamps.empty() ? QStringLiteral("–") : hundredthsOrDash(times[k]),
+             hundredthsOrDash(isTimed ? secondsFrom(marks.start->front(), stamps.front()) : 0)});
     }
     m_splitRows.show(std::move(rows));
     const auto& selected = m_front.selected();
@@ -253,7 +247,8 @@ void TrialPage::showFrame() {
     if (!from)
         m_running->clear();
     else if (now) // while a frame is on its way, the last one's time stays
-        m_running->setText(tr("%1 s").arg(timeOrDash(std::max(0.0, secondsFrom(*from, *now)))));
+        m_running->setText(
+            tr("%1 s").arg(hundredthsOrDash(std::max(0.0, secondsFrom(*from, *now)))));
 }
 
 void TrialPage::commit() {
@@ -358,13 +353,8 @@ void TrialPage::setFilm(const QString& name) {
 }
 
 void TrialPage::rename(std::size_t trial, const QString& athlete) {
-    const std::string name = athlete.trimmed().toStdString();
-    if (name.empty() || name == m_desk.cross().timetrials.at(trial).athlete) {
-        refresh(); // shows the name that stays
-        return;
-    }
     edit(tr("athlete renamed"),
-         [&](crossdata030& cross) { cross.timetrials[trial].athlete = name; });
+         [&](crossdata030& cross) { cross.timetrials.at(trial).athlete = athlete.toStdString(); });
 }
 
 void TrialPage::startAdding() {

@@ -18,6 +18,7 @@
 #include <QScopedValueRollback>
 #include <QSignalBlocker>
 
+#include <algorithm>
 #include <utility>
 
 namespace kavela::desktop {
@@ -137,10 +138,17 @@ std::size_t FieldForm::addBox(const FieldFacts& facts, const NumberFacts& number
     using Value = decltype(box->value());
     box->setRange(static_cast<Value>(number.least), static_cast<Value>(number.most));
     box->setSingleStep(static_cast<Value>(number.step));
+    box->setPrefix(number.before.isEmpty() ? QString() : number.before + ' ');
     box->setSuffix(number.unit.isEmpty() ? QString() : ' ' + number.unit);
     box->setSpecialValueText(number.none);
     Field field{box};
-    field.show = [box](const QVariant& value) { box->setValue(value.value<Value>()); };
+    field.show = [box, number](const QVariant& value) {
+        const auto shown = value.value<Value>();
+        if (number.showsBeyond)
+            box->setRange(std::min(static_cast<Value>(number.least), shown),
+                          std::max(static_cast<Value>(number.most), shown));
+        box->setValue(shown);
+    };
     field.read = [box] { return box->value(); };
     field.isTyped = [box] { return isTypedIn(*box); };
     field.finish = [box] {
@@ -234,6 +242,16 @@ std::size_t FieldForm::addEditableChoice(const FieldFacts& facts) {
     connect(line, &QLineEdit::editingFinished, this, [this, at] { takeField(at); });
     connect(choice, &QComboBox::activated, this, [this, at] { takeField(at); });
     return at;
+}
+
+std::size_t FieldForm::addPart(const FieldFacts& facts, QWidget* part,
+                               std::function<void(const QVariant&)> show,
+                               std::function<QVariant()> read) {
+    Field field{part};
+    field.show = std::move(show);
+    field.read = std::move(read);
+    field.isTyped = [] { return false; };
+    return add(facts, std::move(field));
 }
 
 QWidget* FieldForm::widgetOf(const char* name) const {

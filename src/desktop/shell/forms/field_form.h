@@ -30,9 +30,11 @@ struct NumberFacts {
     double most = 0;
     int decimals = 0;
     double step = 1;
-    QString unit = {};   ///< stands behind the number
-    QString none = {};   ///< what is shown in place of the least number
-    bool isTime = false; ///< 1:22.75 may be typed for 82.75
+    QString unit = {};        ///< stands behind the number
+    QString none = {};        ///< what is shown in place of the least number
+    bool isTime = false;      ///< 1:22.75 may be typed for 82.75
+    QString before = {};      ///< stands in front of the number
+    bool showsBeyond = false; ///< a number of a record beyond least and most is shown as it is
 };
 
 /// The fields of a form and the one rule of what is typed in them: it is taken with Enter, when the
@@ -72,6 +74,12 @@ protected:
     std::size_t addCheck(const FieldFacts& facts);
     std::size_t addChoice(const FieldFacts& facts, const QStringList& texts);
     std::size_t addEditableChoice(const FieldFacts& facts);
+    /// A widget of another kind. `show` gets nothing where there is no record; what is chosen in
+    /// it is taken by takeField().
+    std::size_t addPart(const FieldFacts& facts, QWidget* part,
+                        std::function<void(const QVariant&)> show, std::function<QVariant()> read);
+    /// What stands in a field is to become part of the record.
+    void takeField(std::size_t place);
 
     /// What was typed becomes part of the record, as a step of undo of this name; false where it is
     /// what the record has. Throws RefusedEntry.
@@ -102,7 +110,6 @@ private:
     template <class Box>
     std::size_t addBox(const FieldFacts& facts, const NumberFacts& number, Box* box);
     void place(const FieldFacts& facts, QWidget& widget);
-    void takeField(std::size_t place);
     void showField(Field& field);
     [[nodiscard]] QWidget* widgetOf(const char* name) const;
 

@@ -153,7 +153,9 @@ private:
             std::invoke(member, record) = value;
     }
 
-    /// `parse` gets what was typed, and where it wants it the value from before.
+protected:
+    /// What a new field shows of the record, and what becomes of what is typed there: `parse` gets
+    /// it, and where it wants it the value from before.
     template <class Value, class Member, class Shown, class Parse>
     void bind(std::size_t field, Member member, Shown shown, Parse parse) {
         auto current = std::make_shared<Value>();
@@ -175,6 +177,7 @@ private:
             }};
     }
 
+private:
     std::vector<QVariant> valuesOf(const Record* record) const {
         std::vector<QVariant> values;
         for (const Binding& binding : m_bindings)

@@ -275,6 +275,8 @@ QModelIndex ColumnTable::cellAt(int place, int column) const {
 void ColumnTable::choose(int place, int column) {
     const QModelIndex index =
         cellAt(place, column < 0 ? std::max(currentIndex().column(), 0) : column);
+    if (!index.isValid())
+        return selectionModel()->clear();
     chooseAlone(*this, index);
     scrollTo(index);
 }

@@ -60,7 +60,8 @@ public:
     [[nodiscard]] std::vector<int> selectedPlaces() const;
     /// The rows that are shown, in the order of the screen.
     [[nodiscard]] std::vector<int> shownPlaces() const;
-    /// Makes a row the only one that is chosen; in the column from before without one.
+    /// Makes a row the only one that is chosen; in the column from before without one. None is
+    /// chosen where the row is not shown, as below 0.
     void choose(int place, int column = -1);
     void edit(int place, int column);
     using EditOrder::edit;

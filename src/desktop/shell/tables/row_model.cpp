@@ -207,6 +207,8 @@ Cell RowModel::cellAt(const QModelIndex& index) const {
 }
 
 QVariant RowModel::look(const Cell& cell, int role) const {
+    if (role == Qt::ForegroundRole && cell.colour.isValid())
+        return cell.colour;
     if (role == Qt::ForegroundRole && cell.look == Cell::Look::Warning)
         return Warning;
     if (role == Qt::ForegroundRole)
@@ -243,6 +245,10 @@ QVariant RowModel::data(const QModelIndex& index, int role) const {
     case Qt::ForegroundRole:
     case Qt::FontRole:
         return look(shown, role);
+    case Qt::BackgroundRole:
+        return shown.ground.isValid() ? QVariant(shown.ground) : QVariant();
+    case Qt::DecorationRole:
+        return shown.badge.isNull() ? QVariant() : QVariant(shown.badge);
     case SortRole:
         return sortValue(shown, head);
     case CopyRole:

@@ -2,6 +2,7 @@
 
 #include <QAbstractTableModel>
 #include <QColor>
+#include <QIcon>
 
 #include <functional>
 #include <optional>
@@ -22,6 +23,9 @@ struct Cell {
     Look look = Look::Plain;
     bool isStruck = false; ///< does not count
     bool isLocked = false; ///< cannot be typed in or ticked, though its column can
+    QIcon badge = {};      ///< in front of the text
+    QColor colour = {};    ///< of the text, where it has one of its own
+    QColor ground = {};    ///< behind the text, where it has one of its own
 };
 
 /// Numbers stand at the right.

@@ -1,15 +1,20 @@
 #pragma once
 
+#include "desktop/shell/forms/record_form.h"
+#include "desktop/shell/tables/column_model.h"
 #include "desktop/taking/notes/note_page.h"
 
 class QCheckBox;
-class QTableWidget;
 
 namespace kavela::desktop {
 
-class NumberBox;
-class WholeBox;
 class RadioBox;
+
+/// The comment on a split.
+struct CommentRow {
+    QString split;
+    QString text;
+};
 
 /// The coach's words on each split, the scores of the run, its give-ups and its team radio.
 class CommentPage : public NotePage {
@@ -27,16 +32,18 @@ public:
     void recordRadio();
 
 private:
-    void addScores();
+    [[nodiscard]] std::vector<Column<CommentRow>> columns();
+    void makeTable();
+    void addFields();
     void addRadio();
-    void takeComment(int row, int column);
     void goOn();
 
+    int m_run = -1; ///< that is shown
+    ColumnModel<CommentRow> m_comments;
+    RecordForm<athletedata031> m_form;
+    RecordForm<athletedata031> m_scores; ///< a row of it
     QCheckBox* m_isVisible;
-    QTableWidget* m_table;
-    NumberBox* m_athletesScore;
-    NumberBox* m_coachsScore;
-    WholeBox* m_giveUps;
+    ColumnTable* m_table;
     RadioBox* m_radio;
 };
 

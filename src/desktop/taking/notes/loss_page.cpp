@@ -1,12 +1,12 @@
 #include "desktop/taking/notes/loss_page.h"
 
 #include "desktop/film/film_deck.h"
+#include "desktop/shell/qt_text.h"
 #include "desktop/shell/shown_number.h"
+#include "desktop/shell/tables/column_table.h"
 #include "desktop/shell/theme.h"
 #include "desktop/shell/workspace.h"
-#include "desktop/splitfile/code_combo.h"
 #include "desktop/splitfile/taking_document.h"
-#include "desktop/splitfile/text_table.h"
 #include "splitdata/run_timing.h"
 #include "splittaking/annotations/refusals.h"
 #include "splittaking/annotations/remembered_texts.h"
@@ -19,20 +19,17 @@
 #include <QListWidget>
 #include <QPushButton>
 #include <QSignalBlocker>
-#include <QTableWidget>
 #include <QTimer>
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <utility>
 
 namespace kavela::desktop {
 
 namespace {
 
 constexpr const char* ReasonsKey = "savedTLreasons";
-
-constexpr std::array CodeMembers{&timeloss031::gateCombination, &timeloss031::gateDetails,
-                                 &timeloss031::style, &timeloss031::waterFeature};
 
 bool isOwn(LossMark which) {
     return which == LossMark::OwnStart || which == LossMark::OwnEnd;
@@ -47,10 +44,24 @@ QString signedText(double value) {
     return QString(value > 0 ? "+" : "") + shownHundredths(value);
 }
 
+std::vector<Column<timeloss031>> lossColumns() {
+    return {
+        textColumn<timeloss031>(LossPage::tr("Against"),
+                                [](const timeloss031& loss) { return qtText(loss.versus); }),
+        numberColumn<timeloss031>(LossPage::tr("Seconds"), &timeloss031::timeloss, signedText),
+        numberColumn<timeloss031>(LossPage::tr("Percent"), &timeloss031::timelossper, signedText)};
+}
+
 } // namespace
 
-LossPage::LossPage(NoteDesk& desk) : NotePage(desk) {
+LossPage::LossPage(NoteDesk& desk)
+    : NotePage(desk),
+      m_losses(lossColumns(), RowsKnownBy::Number),
+      m_table(noteTable(m_losses, "losses",
+                        [this](int row) { takeInHand(static_cast<std::size_t>(row)); })),
+      m_words([this](const QString& what, const auto& act) { change(what, act); }) {
     makeParts();
+    makeWords();
     auto* fresh = new QPushButton(tr("New"));
     fresh->setObjectName("lossNew");
     fresh->setToolTip(tr("The next M begins another time loss"));
@@ -72,14 +83,16 @@ LossPage::LossPage(NoteDesk& desk) : NotePage(desk) {
     column->addLayout(form);
     column->addWidget(m_table, 1);
     makeMarks(*column);
-    makeCodes(*column);
+    column->addWidget(&m_words, 1);
     connect(over, &QPushButton::clicked, this,
             [this] { add(static_cast<std::size_t>(m_split->currentIndex() + 1)); });
-    connect(m_table, &QTableWidget::cellClicked, this, [this](int row) {
-        m_loss = static_cast<std::size_t>(row);
-        emit rowChosen();
-        refresh();
-    });
+}
+
+void LossPage::takeInHand(std::size_t loss) {
+    (void)m_words.commit(); // what is typed belongs to the loss before
+    m_loss = loss;
+    emit rowChosen();
+    refresh();
 }
 
 void LossPage::makeParts() {
@@ -89,8 +102,6 @@ void LossPage::makeParts() {
     m_versus->setMinimumContentsLength(8);
     m_split = new QComboBox;
     m_split->setObjectName("lossSplit");
-    m_table = textTable({tr("Against"), tr("Seconds"), tr("Percent")});
-    m_table->setObjectName("losses");
     m_table->setMinimumHeight(70);
     m_table->setMaximumHeight(110);
     m_result = new QLabel;
@@ -102,21 +113,10 @@ void LossPage::makeParts() {
     m_newReason = new QLineEdit;
     m_newReason->setObjectName("lossNewReason");
     m_newReason->setPlaceholderText(tr("Another reason"));
-    m_comment = new QLineEdit;
-    m_comment->setObjectName("lossComment");
-    m_comment->setPlaceholderText(tr("Comment"));
     m_other = new QPushButton(tr("To the other run"));
     m_other->setObjectName("lossOther");
     connect(m_other, &QPushButton::clicked, this, &LossPage::goToOtherRun);
     connect(m_newReason, &QLineEdit::editingFinished, this, &LossPage::addReason);
-    connect(m_comment, &QLineEdit::editingFinished, this, [this] {
-        const bool isTyped = m_comment->isModified();
-        m_comment->setModified(false); // taken, whatever is undone in the field afterwards
-        if (loss() && isTyped)
-            change(tr("comment on a time loss"), [&](timeloss031& changed) {
-                changed.comments = m_comment->text().trimmed().toStdString();
-            });
-    });
     connect(m_reasons, &QListWidget::itemChanged, this, [this](const QListWidgetItem* item) {
         const std::string reason = item->text().toStdString();
         // Later, as the list is filled anew and the item goes.
@@ -149,33 +149,24 @@ void LossPage::makeMarks(QVBoxLayout& column) {
     column.addWidget(m_other);
 }
 
-void LossPage::makeCodes(QVBoxLayout& column) {
-    struct Row {
-        LabelList list;
-        QString title;
-        const char* name;
-    };
-    const std::array rows{
-        Row{LabelList::LossGateCombination, tr("Gates"), "lossGates"},
-        Row{LabelList::LossGateDetails, tr("Part"), "lossPart"},
-        Row{LabelList::LossStyle, tr("Style"), "lossStyle"},
-        Row{LabelList::LossWaterFeature, tr("Water"), "lossWater"},
-    };
-    auto* form = new QFormLayout;
-    form->setVerticalSpacing(theme::SmallSpacing);
-    for (std::size_t i = 0; i < rows.size(); ++i) {
-        m_codes[i] = new CodeCombo(rows[i].list);
-        m_codes[i]->setObjectName(rows[i].name);
-        form->addRow(rows[i].title, m_codes[i]);
-        connect(m_codes[i], &CodeCombo::codeChosen, this, [this, i](std::int64_t code) {
-            change(tr("kind of a time loss"),
-                   [&](timeloss031& changed) { changed.*CodeMembers[i] = code; });
-        });
-    }
-    column.addLayout(form);
-    column.addWidget(m_reasons, 1);
-    column.addWidget(m_newReason);
-    column.addWidget(m_comment);
+void LossPage::makeWords() {
+    const QString kind = tr("kind of a time loss");
+    m_words.code({.name = "lossGates", .label = tr("Gates"), .what = kind},
+                 LabelList::LossGateCombination, &timeloss031::gateCombination);
+    m_words.code({.name = "lossPart", .label = tr("Part"), .what = kind},
+                 LabelList::LossGateDetails, &timeloss031::gateDetails);
+    m_words.code({.name = "lossStyle", .label = tr("Style"), .what = kind}, LabelList::LossStyle,
+                 &timeloss031::style);
+    m_words.code({.name = "lossWater", .label = tr("Water"), .what = kind},
+                 LabelList::LossWaterFeature, &timeloss031::waterFeature);
+    m_words.addRow({}, m_reasons);
+    m_words.addRow({}, m_newReason);
+    m_words.text({.name = "lossComment",
+                  .label = {},
+                  .what = tr("comment on a time loss"),
+                  .placeholder = tr("Comment")},
+                 &timeloss031::comments);
+    m_words.layout()->setSpacing(theme::SmallSpacing);
 }
 
 const timeloss031* LossPage::loss() const {
@@ -205,9 +196,16 @@ bool LossPage::isOnOtherRun() const {
     return m_desk.run != m_owner && m_desk.run >= 0 && otherRun() == m_desk.run;
 }
 
+/// A reason that is typed is no field of the form.
+void LossPage::commit() {
+    (void)m_words.commit();
+    NotePage::commit();
+}
+
 void LossPage::forget() {
     m_owner = -1;
     m_loss.reset();
+    m_told.reset();
 }
 
 void LossPage::refresh() {
@@ -242,13 +240,9 @@ int LossPage::chosenVersus() const {
 }
 
 void LossPage::showLosses() {
-    std::vector<QStringList> rows;
-    if (m_owner >= 0)
-        for (const timeloss031& each : m_desk.document.run(m_owner).timeslosses)
-            rows.push_back({QString::fromStdString(each.versus), signedText(each.timeloss),
-                            signedText(each.timelossper)});
-    fillTable(*m_table, rows);
-    m_table->setCurrentCell(m_loss ? static_cast<int>(*m_loss) : -1, m_loss ? 0 : -1);
+    m_losses.show(m_owner >= 0 ? m_desk.document.run(m_owner).timeslosses
+                               : std::vector<timeloss031>());
+    m_table->choose(m_loss ? static_cast<int>(*m_loss) : -1);
 }
 
 void LossPage::showMarks() {
@@ -279,24 +273,17 @@ void LossPage::showMarks() {
 /// Kinds, reasons and comment: the reasons saved for reuse, and those of the loss.
 void LossPage::showWords() {
     const timeloss031* const inHand = loss();
+    const auto told = inHand ? std::optional(std::pair(m_owner, *m_loss)) : std::nullopt;
+    m_words.show(inHand, std::exchange(m_told, told) != told);
     const timeloss031 shown = inHand ? *inHand : timeloss031{};
-    for (std::size_t i = 0; i < Codes; ++i) {
-        m_codes[i]->setCode(shown.*CodeMembers[i]);
-        m_codes[i]->setEnabled(inHand);
-    }
     const QSignalBlocker blocked(m_reasons);
     m_reasons->clear();
-    m_reasons->setEnabled(inHand);
     for (const std::string& reason :
          withRemembered(shown.reasons, m_desk.workspace.preferences().array(ReasonsKey))) {
         auto* item = new QListWidgetItem(QString::fromStdString(reason), m_reasons);
         const bool isGiven = std::ranges::count(shown.reasons, reason) > 0;
         item->setCheckState(isGiven ? Qt::Checked : Qt::Unchecked);
     }
-    m_newReason->setEnabled(inHand);
-    m_comment->setEnabled(inHand);
-    if (!m_comment->hasFocus() || !m_comment->isModified())
-        m_comment->setText(QString::fromStdString(shown.comments));
 }
 
 /// Split 0 is a loss without marks.

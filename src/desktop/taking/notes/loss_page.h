@@ -1,5 +1,7 @@
 #pragma once
 
+#include "desktop/shell/tables/column_model.h"
+#include "desktop/splitfile/code_form.h"
 #include "desktop/taking/notes/note_page.h"
 #include "splittaking/annotations/time_losses.h"
 
@@ -10,12 +12,9 @@ class QLabel;
 class QLineEdit;
 class QListWidget;
 class QPushButton;
-class QTableWidget;
 class QVBoxLayout;
 
 namespace kavela::desktop {
-
-class CodeCombo;
 
 /// Time lost against another run of the file. A loss stays in hand while its other run is in front,
 /// whose start and end of the stretch are marked there.
@@ -25,6 +24,7 @@ class LossPage : public NotePage {
 public:
     explicit LossPage(NoteDesk& desk);
 
+    void commit() override;
     void forget() override;
     void refresh() override;
     [[nodiscard]] std::optional<MarkKind> kind() const override { return MarkKind::TimeLoss; }
@@ -40,7 +40,8 @@ public:
 private:
     void makeParts();
     void makeMarks(QVBoxLayout& column);
-    void makeCodes(QVBoxLayout& column);
+    void makeWords();
+    void takeInHand(std::size_t loss);
     [[nodiscard]] const timeloss031* loss() const;
     [[nodiscard]] bool isOnOtherRun() const;
     [[nodiscard]] std::optional<int> otherRun() const;
@@ -59,19 +60,19 @@ private:
     void showWords();
 
     static constexpr std::size_t Marks = 4;
-    static constexpr std::size_t Codes = 4;
 
     int m_owner = -1;                  ///< run of the losses listed
     std::optional<std::size_t> m_loss; ///< in hand, of the owner's
     QComboBox* m_versus = nullptr;
     QComboBox* m_split = nullptr;
-    QTableWidget* m_table = nullptr;
+    ColumnModel<timeloss031> m_losses;
+    ColumnTable* m_table = nullptr;
     QLabel* m_result = nullptr;
     std::array<QPushButton*, Marks> m_marks{};
-    std::array<CodeCombo*, Codes> m_codes{};
+    CodeForm<timeloss031> m_words; ///< kinds, reasons and comment of the loss in hand
+    std::optional<std::pair<int, std::size_t>> m_told; ///< the loss whose words stand there
     QListWidget* m_reasons = nullptr;
     QLineEdit* m_newReason = nullptr;
-    QLineEdit* m_comment = nullptr;
     QPushButton* m_other = nullptr;
 };
 

@@ -1,20 +1,40 @@
 #include "desktop/taking/notes/micro_page.h"
 
 #include "desktop/shell/shown_number.h"
+#include "desktop/shell/tables/column_table.h"
 #include "desktop/shell/theme.h"
-#include "desktop/splitfile/text_table.h"
+#include "desktop/taking/notes/note_marks.h"
 #include "splittaking/annotations/refusals.h"
 #include "splittaking/annotations/strokes.h"
 
 #include <QLabel>
-#include <QTableWidget>
 #include <QVBoxLayout>
 
 namespace kavela::desktop {
 
+namespace {
+
+std::vector<Column<MicroRow>> microColumns() {
+    return {numberColumn<MicroRow>(
+                MicroPage::tr("Mark"),
+                [](const MicroRow& row) { return static_cast<double>(row.number); },
+                [](double number) { return shownNumber(number); }),
+            numberColumn<MicroRow>(
+                MicroPage::tr("Time"), [](const MicroRow& row) { return row.seconds; },
+                shownHundredths),
+            numberColumn<MicroRow>(
+                MicroPage::tr("From the one before"),
+                [](const MicroRow& row) { return row.sinceBefore; }, shownHundredths)};
+}
+
+} // namespace
+
 MicroPage::MicroPage(NoteDesk& desk)
-    : NotePage(desk), m_table(textTable({tr("Mark"), tr("Time"), tr("From the one before")})) {
-    m_table->setObjectName("microSplits");
+    : NotePage(desk),
+      m_micros(microColumns(), RowsKnownBy::Number),
+      m_table(noteTable(m_micros, "microSplits", [this](int place) {
+          emit picked({MarkKind::MicroSplit, static_cast<std::size_t>(place)});
+      })) {
     auto* hint = new QLabel(tr("M marks a micro split at the frame shown."));
     hint->setWordWrap(true);
     auto* column = new QVBoxLayout(this);
@@ -22,22 +42,25 @@ MicroPage::MicroPage(NoteDesk& desk)
     column->setSpacing(theme::SmallSpacing);
     column->addWidget(hint);
     column->addWidget(m_table, 1);
-    connect(m_table, &QTableWidget::cellClicked, this, [this](int row) {
-        emit picked({MarkKind::MicroSplit, static_cast<std::size_t>(row)});
-    });
 }
 
 void MicroPage::refresh() {
-    std::vector<QStringList> rows;
+    std::vector<MicroRow> rows;
     if (const athletedata031* const run = m_desk.record()) {
         double before = 0;
         for (const microsplitsdata025& micro : run->microsplits) {
-            rows.push_back({QString::number(rows.size() + 1), shownHundredths(micro.time),
-                            shownHundredths(micro.time - before)});
+            rows.push_back({rows.size() + 1, micro.time, micro.time - before});
             before = micro.time;
         }
     }
-    fillTable(*m_table, rows);
+    m_micros.show(std::move(rows));
+    showChosen();
+}
+
+/// The row of the mark that is selected, wherever it was.
+void MicroPage::showChosen() {
+    m_table->choose(hasSelection() ? static_cast<int>(m_desk.marks->selected()->handle.record)
+                                   : -1);
 }
 
 void MicroPage::mark(const Stamps& stamps) {

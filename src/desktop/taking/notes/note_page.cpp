@@ -1,11 +1,15 @@
 #include "desktop/taking/notes/note_page.h"
 
 #include "desktop/film/film_deck.h"
+#include "desktop/shell/tables/column_table.h"
 #include "desktop/shell/typing.h"
+#include "desktop/splitfile/film_table.h"
 #include "desktop/splitfile/taking_document.h"
 #include "desktop/taking/notes/note_marks.h"
 #include "splitdata/run_timing.h"
 #include "splittaking/course_setup.h"
+
+#include <QAction>
 
 #include <algorithm>
 
@@ -106,6 +110,19 @@ bool NotePage::refuses(const std::optional<std::string>& why) {
 void NotePage::edit(const QString& what, const std::function<void(athletedata031&)>& change) {
     if (m_desk.record())
         m_desk.document.editRun(m_desk.run, what, change);
+}
+
+ColumnTable* NotePage::noteTable(RowModel& rows, const char* name,
+                                 const std::function<void(int)>& take) {
+    ColumnTable* const table = filmTable(rows, name);
+    connect(table, &ColumnTable::clicked, this,
+            [table, take](const QModelIndex& cell) { take(table->placeAt(cell)); });
+    QAction& remove = table->setRemove(tr("Remove"), [this, take](const std::vector<int>& places) {
+        take(places.front());
+        deleteMark();
+    });
+    remove.setShortcut({}); // the key is the window's: a mark may have been selected since
+    return table;
 }
 
 QString runName(const athletedata031& run) {

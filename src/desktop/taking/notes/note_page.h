@@ -13,9 +13,11 @@
 namespace kavela::desktop {
 
 class ClipPlayer;
+class ColumnTable;
 class FilmDeck;
 class GateStrip;
 class NoteMarks;
+class RowModel;
 class TakingDocument;
 class Workspace;
 
@@ -122,6 +124,10 @@ protected:
     /// Whether a note is refused, which is told then.
     bool refuses(const std::optional<std::string>& why);
     void edit(const QString& what, const std::function<void(athletedata031&)>& change);
+    /// The table of what the mode has taken: after a click, which calls `take`, the keys mean that
+    /// row, and its menu removes it as the removing key does.
+    [[nodiscard]] ColumnTable* noteTable(RowModel& rows, const char* name,
+                                         const std::function<void(int place)>& take);
 
     NoteDesk& m_desk;
 };

@@ -1,9 +1,11 @@
 #include "desktop/taking/notes/penalty_page.h"
 
+#include "desktop/shell/qt_text.h"
+#include "desktop/shell/shown_number.h"
+#include "desktop/shell/tables/column_table.h"
 #include "desktop/shell/theme.h"
 #include "desktop/splitfile/code_combo.h"
 #include "desktop/splitfile/taking_document.h"
-#include "desktop/splitfile/text_table.h"
 #include "desktop/taking/gate_strip.h"
 #include "splitdata/run_timing.h"
 #include "splittaking/annotations/refusals.h"
@@ -11,7 +13,6 @@
 #include <QFormLayout>
 #include <QLabel>
 #include <QPushButton>
-#include <QTableWidget>
 
 #include <algorithm>
 
@@ -23,9 +24,23 @@ std::size_t placeOf(PenaltyField field) {
     return static_cast<std::size_t>(field);
 }
 
-QString textOf(const PenaltyEntry& entry, PenaltyField field) {
-    return entry[field] ? QString::fromStdString(labelOf(*labelListOf(field), *entry[field]))
-                        : QString();
+Column<PenaltyEntry> codeColumn(const QString& title, PenaltyField field) {
+    return textColumn<PenaltyEntry>(title, [field](const PenaltyEntry& entry) {
+        return entry[field] ? qtText(labelOf(*labelListOf(field), *entry[field])) : QString();
+    });
+}
+
+std::vector<Column<PenaltyEntry>> penaltyColumns() {
+    return {numberColumn<PenaltyEntry>(
+                PenaltyPage::tr("Gate"),
+                [](const PenaltyEntry& entry) -> std::optional<double> {
+                    const auto gate = entry[PenaltyField::Gate];
+                    return gate ? std::optional(static_cast<double>(*gate)) : std::nullopt;
+                },
+                [](double gate) { return shownNumber(gate); }),
+            codeColumn(PenaltyPage::tr("Penalty"), PenaltyField::Kind),
+            codeColumn(PenaltyPage::tr("Pole"), PenaltyField::Pole),
+            codeColumn(PenaltyPage::tr("With"), PenaltyField::Way)};
 }
 
 } // namespace
@@ -35,7 +50,8 @@ PenaltyPage::PenaltyPage(NoteDesk& desk)
       m_front(new QLabel),
       m_outOfStep(new QLabel),
       m_another(new QPushButton(tr("Another at this gate"))),
-      m_table(textTable({tr("Gate"), tr("Penalty"), tr("Pole"), tr("With")})) {
+      m_entries(penaltyColumns(), RowsKnownBy::Number),
+      m_table(noteTable(m_entries, "penalties", [this](int row) { choose(row); })) {
     m_front->setObjectName("penaltyFront");
     m_front->setFont(theme::titleFont(*this));
     m_front->setWordWrap(true);
@@ -43,10 +59,8 @@ PenaltyPage::PenaltyPage(NoteDesk& desk)
     m_outOfStep->setWordWrap(true);
     m_another->setObjectName("penaltyAnother");
     m_another->setToolTip(tr("Choose what else happened at the gate in front; M adds it"));
-    m_table->setObjectName("penalties");
     connect(m_another, &QPushButton::clicked, this, &PenaltyPage::begin);
     addCodes();
-    connect(m_table, &QTableWidget::cellClicked, this, [this](int row) { choose(row); });
 }
 
 void PenaltyPage::addCodes() {
@@ -89,9 +103,9 @@ void PenaltyPage::forget() {
 
 void PenaltyPage::refresh() {
     const athletedata031* const run = m_desk.record();
-    m_entries = run ? penaltyEntries(*run) : std::vector<PenaltyEntry>();
+    m_entries.show(run ? penaltyEntries(*run) : std::vector<PenaltyEntry>());
     const bool isChosenThere =
-        m_chosen && std::ranges::any_of(m_entries, [&](const auto& entry) {
+        m_chosen && std::ranges::any_of(m_entries.rows(), [&](const auto& entry) {
             return entry.handle == *m_chosen && entry[PenaltyField::Gate] == m_chosenGate;
         });
     const bool isSamePlace = m_gate == m_desk.gates.current() && m_run == m_desk.run;
@@ -99,7 +113,6 @@ void PenaltyPage::refresh() {
     if (!m_isBeginning && (!isChosenThere || !isSamePlace))
         chooseAtGate();
     showChosen();
-    showTable();
     showOutOfStep();
 }
 
@@ -110,7 +123,7 @@ void PenaltyPage::chooseAtGate() {
     m_run = m_desk.run;
     m_chosen.reset();
     m_chosenGate = m_gate;
-    for (const PenaltyEntry& entry : m_entries)
+    for (const PenaltyEntry& entry : m_entries.rows())
         if (entry[PenaltyField::Gate] == m_gate)
             m_chosen = entry.handle;
     if (m_chosen)
@@ -143,30 +156,16 @@ void PenaltyPage::showChosen() {
                          .arg(m_gate)
                          .arg(seconds));
     m_another->setEnabled(m_chosen.has_value());
+    const auto chosen = std::ranges::find(m_entries.rows(), m_chosen, &PenaltyEntry::handle);
+    m_table->choose(m_chosen ? static_cast<int>(chosen - m_entries.rows().begin()) : -1);
     if (!m_chosen)
         return;
-    const auto chosen = std::ranges::find(m_entries, *m_chosen, &PenaltyEntry::handle);
     for (std::size_t field = 0; field < PenaltyFields; ++field) {
         if (m_codes[field] && chosen->codes[field])
             m_codes[field]->setCode(*chosen->codes[field]);
         else if (m_codes[field])
             m_codes[field]->clearCode();
     }
-}
-
-void PenaltyPage::showTable() {
-    std::vector<QStringList> rows;
-    int current = -1;
-    for (const PenaltyEntry& entry : m_entries) {
-        if (entry.handle == m_chosen)
-            current = static_cast<int>(rows.size());
-        const auto gate = entry[PenaltyField::Gate];
-        rows.push_back({gate ? QString::number(*gate) : QStringLiteral("–"),
-                        textOf(entry, PenaltyField::Kind), textOf(entry, PenaltyField::Pole),
-                        textOf(entry, PenaltyField::Way)});
-    }
-    fillTable(*m_table, rows);
-    m_table->setCurrentCell(current, current < 0 ? -1 : 0);
 }
 
 void PenaltyPage::showOutOfStep() {
@@ -180,7 +179,7 @@ void PenaltyPage::showOutOfStep() {
 }
 
 void PenaltyPage::choose(int row) {
-    const PenaltyEntry entry = m_entries.at(static_cast<std::size_t>(row)); // refreshed meanwhile
+    const PenaltyEntry entry = m_entries.row(row); // refreshed meanwhile
     const auto gate = entry[PenaltyField::Gate].value_or(0);
     if (gate >= 1 && gate <= m_desk.document.info().gates)
         m_desk.gates.setCurrent(static_cast<int>(gate));

@@ -1,11 +1,11 @@
 #pragma once
 
+#include "desktop/shell/tables/column_model.h"
 #include "desktop/taking/notes/note_page.h"
 #include "splittaking/annotations/penalty_details.h"
 
 class QLabel;
 class QPushButton;
-class QTableWidget;
 
 namespace kavela::desktop {
 
@@ -29,7 +29,6 @@ private:
     void addCodes();
     void chooseAtGate();
     void showChosen();
-    void showTable();
     void showOutOfStep();
     void choose(int row);
     void begin();
@@ -40,8 +39,8 @@ private:
     QLabel* m_outOfStep;
     QPushButton* m_another;
     std::array<CodeCombo*, PenaltyFields> m_codes{}; ///< by field; none for the gate
-    QTableWidget* m_table;
-    std::vector<PenaltyEntry> m_entries; ///< as in the table
+    ColumnModel<PenaltyEntry> m_entries;
+    ColumnTable* m_table;
     std::optional<PenaltyHandle> m_chosen;
     std::optional<std::int64_t> m_chosenGate; ///< of the one chosen, which another may follow there
     int m_gate = 0;                           ///< that was in front when a penalty was chosen

@@ -1,11 +1,11 @@
 #include "desktop/taking/notes/strategy_page.h"
 
-#include "desktop/shell/cell_delegate.h"
+#include "desktop/shell/qt_text.h"
 #include "desktop/shell/shown_number.h"
+#include "desktop/shell/tables/column_table.h"
 #include "desktop/shell/theme.h"
 #include "desktop/shell/typed_number.h"
 #include "desktop/splitfile/taking_document.h"
-#include "desktop/splitfile/text_table.h"
 #include "splitdata/run_timing.h"
 #include "splittaking/annotations/upstream_gates.h"
 
@@ -15,13 +15,15 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QSignalBlocker>
-#include <QTableWidget>
+
+#include <algorithm>
+#include <utility>
 
 namespace kavela::desktop {
 
 namespace {
 
-enum WayColumn { Chosen, Way, Seconds, Gap };
+constexpr int WayName = 1; ///< its column
 
 constexpr double LongestWay = 3600;
 
@@ -49,8 +51,101 @@ void fillCombo(QComboBox& combo, const QStringList& texts, int current) {
 
 } // namespace
 
-StrategyPage::StrategyPage(NoteDesk& desk) : NotePage(desk) {
+StrategyPage::StrategyPage(NoteDesk& desk)
+    : NotePage(desk),
+      m_ways(columns(), RowsKnownBy::Number),
+      m_table(noteTable(m_ways, "strategyWays", [this](int) { emit rowChosen(); })),
+      m_words([this](const QString& what, const auto& act) { change(what, act); }) {
+    makeTable();
     makeParts();
+    makeLayout();
+}
+
+std::vector<Column<WayRow>> StrategyPage::columns() {
+    const auto seconds = [](const WayRow& row) {
+        const double time = row.way.seconds;
+        return Cell{.text = hundredthsOrDash(time),
+                    .number = time == 0 ? std::nullopt : std::optional(time),
+                    .typed = secondsOrNothing(time)};
+    };
+    const auto gap = [](const WayRow& row) {
+        return row.way.seconds == 0
+                   ? Cell()
+                   : Cell{.text = row.way.isBest ? tr("best") : '+' + shownHundredths(row.gap),
+                          .number = row.gap};
+    };
+    const auto choose = [this](std::size_t way, const WayRow&, bool isTicked) {
+        if (isTicked)
+            change(tr("way of the run"), [&](strategy001& ways) { chooseOption(ways, way); });
+    };
+    const auto rename = [this](std::size_t way, const WayRow&, const QString& typed) {
+        change(tr("way renamed"),
+               [&](strategy001& ways) { renameOption(ways, way, typed.toStdString()); });
+    };
+    const auto retime = [this](std::size_t way, const WayRow&, const QString& typed) {
+        const double entered = typedSecondsOrNone( // emptied to be timed anew
+            typed, {0, LongestWay, tr("A time is a number of seconds such as 4.35, or 1:04.35")});
+        change(tr("time of a way"),
+               [&](strategy001& ways) { setOptionSeconds(ways, way, entered); });
+    };
+    return {
+        Column<WayRow>{.title = tr("Taken"),
+                       .show = [](const WayRow& row) { return Cell{.isTicked = row.way.isChosen}; },
+                       .tick = choose},
+        Column<WayRow>{.title = tr("Way"),
+                       .show = [](const WayRow& row) { return Cell{qtText(row.way.name)}; },
+                       .take = rename},
+        Column<WayRow>{
+            .title = tr("Time"), .kind = ColumnKind::Number, .show = seconds, .take = retime},
+        Column<WayRow>{.title = tr("Gap"), .kind = ColumnKind::Number, .show = gap}};
+}
+
+void StrategyPage::makeTable() {
+    m_table->stretch({WayName});
+    m_table->setFixedHeight(120);
+    // A letter is a key of the film that was missed, and no name.
+    m_table->setEditTriggers(QAbstractItemView::DoubleClicked | QAbstractItemView::EditKeyPressed);
+    m_table->setToolTip(tr("The tick is at the way that the run took. Names and times are edited "
+                           "by a double click."));
+    m_table->setAdd(tr("Add a way"), [this] { m_newOption->setFocus(); });
+    connect(m_table, &ColumnTable::chosen, this, [this] {
+        if (m_begun && option() != m_begun->option)
+            m_begun.reset();
+        showNextMark();
+    });
+}
+
+void StrategyPage::makeParts() {
+    m_title = narrowCombo("strategyTitle");
+    m_title->setEditable(true);
+    m_title->setInsertPolicy(QComboBox::NoInsert);
+    m_title->setToolTip(tr("A section, or a name for the place"));
+    m_comparisons = narrowCombo("strategies");
+    m_next = new QLabel;
+    m_next->setObjectName("strategyNext");
+    m_next->setWordWrap(true);
+    m_newOption = new QLineEdit;
+    m_newOption->setObjectName("strategyNewWay");
+    m_newOption->setPlaceholderText(tr("Another way, such as spin or direct"));
+    m_run = narrowCombo("strategyRun");
+    m_section = narrowCombo("strategySection");
+    m_take = button(tr("Take its time"), "strategyTake");
+    m_cost = new QLabel;
+    m_cost->setObjectName("strategyCost");
+    m_cost->setWordWrap(true);
+    m_words.text({.name = "strategyComment",
+                  .label = {},
+                  .what = tr("comment on ways"),
+                  .placeholder = tr("Comment")},
+                 &strategy001::comments);
+    connect(m_comparisons, &QComboBox::activated, this, [this](int place) {
+        (void)m_words.commit(); // what is typed belongs to the comparison before
+        m_strategy = static_cast<std::size_t>(place);
+        refresh();
+    });
+}
+
+void StrategyPage::makeLayout() {
     auto* add = button(tr("Add"), "strategyAdd");
     auto* addOption = button(tr("Add"), "strategyAddWay");
     for (QPushButton* const narrow : {add, addOption})
@@ -68,69 +163,18 @@ StrategyPage::StrategyPage(NoteDesk& desk) : NotePage(desk) {
     form->addRow(tr("New"), created);
     form->addRow(tr("Compared"), m_comparisons);
     form->addRow(m_next);
-    form->addRow(m_options);
+    form->addRow(m_table);
     form->addRow(newOption);
     form->addRow(m_cost);
     form->addRow(tr("Time from"), m_run);
     form->addRow(tr("Section"), m_section);
     form->addRow(QString(), m_take);
-    form->addRow(m_comment);
+    form->addRow(&m_words);
     connect(add, &QPushButton::clicked, this, &StrategyPage::addComparison);
     connect(m_title->lineEdit(), &QLineEdit::returnPressed, this, &StrategyPage::addComparison);
     connect(addOption, &QPushButton::clicked, this, &StrategyPage::addWay);
     connect(m_newOption, &QLineEdit::editingFinished, this, &StrategyPage::addWay);
     connect(m_take, &QPushButton::clicked, this, &StrategyPage::takeSectionTime);
-}
-
-void StrategyPage::makeParts() {
-    m_title = narrowCombo("strategyTitle");
-    m_title->setEditable(true);
-    m_title->setInsertPolicy(QComboBox::NoInsert);
-    m_title->setToolTip(tr("A section, or a name for the place"));
-    m_comparisons = narrowCombo("strategies");
-    m_next = new QLabel;
-    m_next->setObjectName("strategyNext");
-    m_next->setWordWrap(true);
-    m_options = textTable({QString(), tr("Way"), tr("Time"), tr("Gap")});
-    m_options->setObjectName("strategyWays");
-    m_cells = new CellDelegate(*m_options);
-    m_options->setFixedHeight(120);
-    m_options->setEditTriggers(QAbstractItemView::DoubleClicked |
-                               QAbstractItemView::EditKeyPressed);
-    m_options->setToolTip(tr("The tick is at the way that the run took. Names and times are edited "
-                             "by a double click."));
-    m_newOption = new QLineEdit;
-    m_newOption->setObjectName("strategyNewWay");
-    m_newOption->setPlaceholderText(tr("Another way, such as spin or direct"));
-    m_run = narrowCombo("strategyRun");
-    m_section = narrowCombo("strategySection");
-    m_take = button(tr("Take its time"), "strategyTake");
-    m_cost = new QLabel;
-    m_cost->setObjectName("strategyCost");
-    m_cost->setWordWrap(true);
-    m_comment = new QLineEdit;
-    m_comment->setObjectName("strategyComment");
-    m_comment->setPlaceholderText(tr("Comment"));
-    connect(m_comparisons, &QComboBox::activated, this, [this](int place) {
-        m_strategy = static_cast<std::size_t>(place);
-        m_from.reset();
-        m_options->setCurrentCell(0, Way);
-        refresh();
-    });
-    connect(m_options, &QTableWidget::cellChanged, this, &StrategyPage::takeCell);
-    connect(m_options, &QTableWidget::currentCellChanged, this, [this](int row, int, int before) {
-        if (row != before)
-            m_from.reset();
-        showNextMark();
-    });
-    connect(m_options, &QTableWidget::cellClicked, this, &StrategyPage::rowChosen);
-    connect(m_comment, &QLineEdit::editingFinished, this, [this] {
-        const std::string text = m_comment->text().trimmed().toStdString();
-        const bool isTyped = m_comment->isModified();
-        m_comment->setModified(false); // taken, whatever is undone in the field afterwards
-        if (strategy() && isTyped && text != strategy()->comments)
-            change(tr("comment on ways"), [&](strategy001& changed) { changed.comments = text; });
-    });
 }
 
 std::optional<Alert> StrategyPage::refusal() const {
@@ -143,7 +187,7 @@ const strategy001* StrategyPage::strategy() const {
 }
 
 std::optional<std::size_t> StrategyPage::option() const {
-    const int row = m_options->currentRow();
+    const int row = m_table->currentPlace();
     return strategy() && row >= 0 && std::cmp_less(row, optionsOf(*strategy()).size())
                ? std::optional(static_cast<std::size_t>(row))
                : std::nullopt;
@@ -156,21 +200,29 @@ void StrategyPage::change(const QString& what, const std::function<void(strategy
 
 void StrategyPage::forget() {
     m_owner = -1;
+    m_shown.reset();
+}
+
+void StrategyPage::commit() {
+    (void)m_words.commit();
+    NotePage::commit();
 }
 
 void StrategyPage::refresh() {
-    if (m_owner != m_desk.run) {
-        m_owner = m_desk.run;
+    if (std::exchange(m_owner, m_desk.run) != m_desk.run)
         m_strategy = 0;
-        m_from.reset();
-    }
     const athletedata031* const run = m_desk.record();
     setEnabled(run);
     if (run && !run->strategies.empty())
         m_strategy = std::min(m_strategy, run->strategies.size() - 1);
+    const std::pair inHand(m_owner, m_strategy);
+    const bool isOther = std::exchange(m_shown, inHand) != inHand;
+    if (isOther)
+        m_begun.reset();
     showComparisons();
-    showOptions();
+    showOptions(isOther);
     showChoices();
+    m_words.show(strategy(), isOther);
     showNextMark();
 }
 
@@ -188,30 +240,15 @@ void StrategyPage::showComparisons() {
     m_comparisons->setEnabled(!titles.isEmpty());
 }
 
-void StrategyPage::showOptions() {
+void StrategyPage::showOptions(bool isOther) {
     const auto options = strategy() ? optionsOf(*strategy()) : std::vector<StrategyOption>();
     const auto best = strategy() ? bestOption(*strategy()) : std::nullopt;
-    std::vector<QStringList> rows;
-    for (const StrategyOption& each : options) {
-        const double gap = best ? each.seconds - options[*best].seconds : 0;
-        const QString gapText = each.seconds == 0 ? QString()
-                                : each.isBest     ? tr("best")
-                                                  : '+' + shownHundredths(gap);
-        rows.push_back(
-            {QString(), QString::fromStdString(each.name), timeOrDash(each.seconds), gapText});
-    }
-    fillTable(*m_options, rows);
-    const QSignalBlocker blocked(m_options);
-    for (int row = 0; row < m_options->rowCount(); ++row) {
-        QTableWidgetItem* const tick = m_options->item(row, Chosen);
-        const bool isChosen = options[static_cast<std::size_t>(row)].isChosen;
-        tick->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsUserCheckable);
-        tick->setCheckState(isChosen ? Qt::Checked : Qt::Unchecked);
-        m_options->item(row, Seconds)->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
-        m_options->item(row, Gap)->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable);
-    }
-    if (m_options->currentRow() < 0 && m_options->rowCount() > 0)
-        m_options->setCurrentCell(0, Way);
+    std::vector<WayRow> rows;
+    for (const StrategyOption& each : options)
+        rows.push_back({each, best ? each.seconds - options[*best].seconds : 0});
+    m_ways.show(std::move(rows), isOther);
+    if (m_table->currentPlace() < 0)
+        m_table->choose(0, WayName);
 }
 
 void StrategyPage::showChoices() {
@@ -222,11 +259,6 @@ void StrategyPage::showChoices() {
     fillCombo(*m_section, sectionNames(m_desk.document.info()), m_section->currentIndex());
     m_take->setEnabled(strategy());
     m_newOption->setEnabled(strategy());
-    m_comment->setEnabled(strategy());
-    if (!m_comment->hasFocus() || !m_comment->isModified()) {
-        m_comment->setText(strategy() ? QString::fromStdString(strategy()->comments) : QString());
-        m_comment->setCursorPosition(0);
-    }
     const auto cost = strategy() ? costOfChoice(*strategy()) : std::nullopt;
     m_cost->setText(!cost        ? QString()
                     : *cost == 0 ? tr("The run took the fastest way.")
@@ -241,8 +273,8 @@ void StrategyPage::showNextMark() {
     else if (!inHand)
         m_next->setText(tr("Add the ways of paddling this place."));
     else
-        m_next->setText((m_from ? tr("M marks where %1 ends") : tr("M marks where %1 begins"))
-                            .arg(m_options->item(static_cast<int>(*inHand), Way)->text()));
+        m_next->setText((m_begun ? tr("M marks where %1 ends") : tr("M marks where %1 begins"))
+                            .arg(qtText(optionsOf(*strategy()).at(*inHand).name)));
 }
 
 void StrategyPage::addComparison() {
@@ -253,7 +285,6 @@ void StrategyPage::addComparison() {
         return;
     }
     m_strategy = run->strategies.size();
-    m_from.reset();
     m_section->setCurrentIndex(std::max(0, m_title->findText(m_title->currentText())));
     edit(tr("ways at %1").arg(QString::fromStdString(title)),
          [&](athletedata031& changed) { (void)addStrategy(changed, title, {}); });
@@ -271,38 +302,7 @@ void StrategyPage::addWay() {
 }
 
 void StrategyPage::setInHand(std::size_t option) {
-    m_options->setCurrentCell(static_cast<int>(option), Way);
-    showNextMark();
-}
-
-void StrategyPage::takeCell(int row, int column) {
-    const QTableWidgetItem* const cell = m_options->item(row, column);
-    const auto place = static_cast<std::size_t>(row);
-    if (!cell || !strategy() || place >= optionsOf(*strategy()).size())
-        return;
-    if (column == Chosen) {
-        change(tr("way of the run"), [&](strategy001& changed) { chooseOption(changed, place); });
-    } else if (column == Way) {
-        const std::string name = cell->text().trimmed().toStdString();
-        change(tr("way renamed"),
-               [&](strategy001& changed) { renameOption(changed, place, name); });
-    } else if (column == Seconds) {
-        takeSeconds(place, cell->text());
-    }
-}
-
-void StrategyPage::takeSeconds(std::size_t option, const QString& text) {
-    try {
-        const NumberRange range{0, LongestWay,
-                                tr("A time is a number of seconds such as 4.35, or 1:04.35")};
-        const bool isEmptied = text.trimmed().isEmpty(); // to be timed anew
-        const double typed = isEmptied ? 0 : typedSeconds(text, range);
-        change(tr("time of a way"),
-               [&](strategy001& changed) { setOptionSeconds(changed, option, typed); });
-    } catch (const RefusedEntry& refusal) {
-        m_cells->refuse(refusal.reason());
-        showOptions();
-    }
+    m_table->choose(static_cast<int>(option), WayName);
 }
 
 void StrategyPage::takeSectionTime() {
@@ -330,27 +330,27 @@ void StrategyPage::mark(const Stamps& stamps) {
     }
     const CMTime moment = stamps.front();
     const StrategyOption timed = optionsOf(*strategy()).at(*inHand);
-    if (!m_from && timed.seconds > 0) {
+    if (!m_begun && timed.seconds > 0) {
         emit refused(tr("%1 is timed: %2 s. Empty its time to mark it anew.")
-                         .arg(QString::fromStdString(timed.name), timeOrDash(timed.seconds)));
+                         .arg(qtText(timed.name), hundredthsOrDash(timed.seconds)));
         return;
     }
-    if (!m_from) {
-        m_from = moment;
+    if (!m_begun) {
+        m_begun = {*inHand, moment};
         emit flashed(tr("Start"));
         showNextMark();
         return;
     }
-    if (orderOf(*m_from, moment) != std::strong_ordering::less) {
+    const CMTime from = m_begun->from;
+    if (orderOf(from, moment) != std::strong_ordering::less) {
         emit refused(tr("The end of a way comes after its beginning at %1.")
-                         .arg(timeOrDash(m_from->seconds())));
+                         .arg(hundredthsOrDash(from.seconds())));
         return;
     }
-    const CMTime from = *m_from;
-    m_from.reset();
+    m_begun.reset();
     change(tr("way timed"),
            [&](strategy001& changed) { timeOption(changed, *inHand, from, moment); });
-    emit flashed(m_options->item(static_cast<int>(*inHand), Seconds)->text());
+    emit flashed(hundredthsOrDash(optionsOf(*strategy()).at(*inHand).seconds));
     if (*inHand + 1 < optionsOf(*strategy()).size())
         setInHand(*inHand + 1);
 }
@@ -358,7 +358,7 @@ void StrategyPage::mark(const Stamps& stamps) {
 bool StrategyPage::removeCurrent() {
     if (!strategy())
         return false;
-    m_from.reset();
+    m_begun.reset();
     if (const auto inHand = option()) {
         change(tr("way removed"), [&](strategy001& changed) { removeOption(changed, *inHand); });
         return true;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "desktop/shell/forms/record_form.h"
+#include "desktop/shell/tables/column_model.h"
 #include "desktop/taking/notes/note_page.h"
 #include "splittaking/annotations/strategies.h"
 
@@ -7,11 +9,14 @@ class QComboBox;
 class QLabel;
 class QLineEdit;
 class QPushButton;
-class QTableWidget;
 
 namespace kavela::desktop {
 
-class CellDelegate;
+/// One of the ways that are compared.
+struct WayRow {
+    StrategyOption way;
+    double gap = 0; ///< seconds behind the best one
+};
 
 /// Ways of paddling a section, compared by their times. A way is timed by two marks on the film, by
 /// the section's time in a run of the file, or by hand.
@@ -22,6 +27,7 @@ public:
     explicit StrategyPage(NoteDesk& desk);
 
     [[nodiscard]] std::optional<Alert> refusal() const override;
+    void commit() override;
     void refresh() override;
     void forget() override;
     /// Where the way in hand begins, then where it ends.
@@ -30,35 +36,43 @@ public:
     [[nodiscard]] bool removeCurrent() override;
 
 private:
+    [[nodiscard]] std::vector<Column<WayRow>> columns();
+    void makeTable();
     void makeParts();
+    void makeLayout();
     [[nodiscard]] const strategy001* strategy() const;
     [[nodiscard]] std::optional<std::size_t> option() const;
     void change(const QString& what, const std::function<void(strategy001&)>& act);
     void addComparison();
     void addWay();
-    void takeCell(int row, int column);
-    void takeSeconds(std::size_t option, const QString& text);
     void takeSectionTime();
     void setInHand(std::size_t option);
     void showComparisons();
-    void showOptions();
+    void showOptions(bool isOther);
     void showChoices();
     void showNextMark();
 
-    int m_owner = -1;             ///< run that is shown
-    std::size_t m_strategy = 0;   ///< in hand
-    std::optional<CMTime> m_from; ///< where the way in hand begins, until its end is marked
+    /// Where a way begins, until its end is marked or another one comes to hand.
+    struct Begun {
+        std::size_t option = 0;
+        CMTime from;
+    };
+
+    int m_owner = -1;           ///< run that is shown
+    std::size_t m_strategy = 0; ///< in hand
+    std::optional<Begun> m_begun;
+    ColumnModel<WayRow> m_ways;
+    ColumnTable* m_table;
+    RecordForm<strategy001> m_words;
+    std::optional<std::pair<int, std::size_t>> m_shown; ///< run and comparison
     QComboBox* m_comparisons = nullptr;
     QComboBox* m_title = nullptr;
     QLabel* m_next = nullptr;
-    QTableWidget* m_options = nullptr;
-    CellDelegate* m_cells = nullptr;
     QLineEdit* m_newOption = nullptr;
     QComboBox* m_run = nullptr;
     QComboBox* m_section = nullptr;
     QPushButton* m_take = nullptr;
     QLabel* m_cost = nullptr;
-    QLineEdit* m_comment = nullptr;
 };
 
 } // namespace kavela::desktop

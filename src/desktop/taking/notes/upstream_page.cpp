@@ -1,59 +1,90 @@
 #include "desktop/taking/notes/upstream_page.h"
 
+#include "desktop/shell/qt_text.h"
+#include "desktop/shell/shown_number.h"
+#include "desktop/shell/tables/column_table.h"
 #include "desktop/shell/theme.h"
-#include "desktop/splitfile/code_combo.h"
 #include "desktop/splitfile/gate_mark_text.h"
 #include "desktop/splitfile/taking_document.h"
-#include "desktop/splitfile/text_table.h"
 #include "desktop/taking/gate_strip.h"
 #include "splittaking/annotations/refusals.h"
 #include "splittaking/annotations/upstream_gates.h"
 
 #include <QCheckBox>
-#include <QFormLayout>
 #include <QLabel>
-#include <QTableWidget>
+#include <QVBoxLayout>
 
 #include <algorithm>
 
 namespace kavela::desktop {
+
+namespace {
+
+QString upstreamTurn(const UpstreamRow& row) {
+    return row.taken ? qtText(labelOf(LabelList::UpstreamDirection, row.taken->direction) + ", " +
+                              labelOf(LabelList::UpstreamStyle, row.taken->style))
+                     : QString();
+}
+
+/// 0 was not timed.
+Column<UpstreamRow> upstreamTime(const QString& title, double upstreamdata025::*seconds) {
+    return numberColumn<UpstreamRow>(
+        title,
+        [seconds](const UpstreamRow& row) {
+            return row.taken && (*row.taken).*seconds != 0 ? std::optional((*row.taken).*seconds)
+                                                           : std::nullopt;
+        },
+        shownHundredths);
+}
+
+std::vector<Column<UpstreamRow>> upstreamColumns() {
+    return {numberColumn<UpstreamRow>(
+                UpstreamPage::tr("Gate"),
+                [](const UpstreamRow& row) { return static_cast<double>(row.gate); },
+                [](double gate) { return shownNumber(gate); }),
+            upstreamTime(UpstreamPage::tr("In"), &upstreamdata025::timeEntrace),
+            upstreamTime(UpstreamPage::tr("Out"), &upstreamdata025::timeExit),
+            upstreamTime(UpstreamPage::tr("Total"), &upstreamdata025::time),
+            textColumn<UpstreamRow>(UpstreamPage::tr("Turn"), upstreamTurn)};
+}
+
+} // namespace
 
 UpstreamPage::UpstreamPage(NoteDesk& desk)
     : NotePage(desk),
       m_front(new QLabel),
       m_times(new QLabel),
       m_withMiddle(new QCheckBox(tr("Mark the pole line too"))),
-      m_direction(new CodeCombo(LabelList::UpstreamDirection)),
-      m_style(new CodeCombo(LabelList::UpstreamStyle)),
-      m_table(textTable({tr("Gate"), tr("In"), tr("Out"), tr("Total"), tr("Turn")})) {
+      m_turn([this](const QString&, const auto& act) { change(act); }),
+      m_gates(upstreamColumns(), RowsKnownBy::Number),
+      m_table(noteTable(m_gates, "upstreams", [this](int place) { clickGate(place); })) {
     m_front->setObjectName("upstreamFront");
     m_front->setFont(theme::titleFont(*this));
     m_times->setObjectName("upstreamTimes");
     m_withMiddle->setObjectName("upstreamMiddle");
     m_withMiddle->setChecked(true);
-    m_direction->setObjectName("upstreamDirection");
-    m_style->setObjectName("upstreamStyle");
-    m_table->setObjectName("upstreams");
-    auto* form = new QFormLayout(this);
-    form->setContentsMargins(0, 0, 0, 0);
-    form->setVerticalSpacing(theme::SmallSpacing);
-    form->addRow(m_front);
-    form->addRow(m_times);
-    form->addRow(m_withMiddle);
-    form->addRow(tr("Turn to the"), m_direction);
-    form->addRow(tr("Style"), m_style);
-    form->addRow(m_table);
+    m_turn.code({.name = "upstreamDirection", .label = tr("Turn to the")},
+                LabelList::UpstreamDirection, &upstreamdata025::direction);
+    m_turn.code({.name = "upstreamStyle", .label = tr("Style")}, LabelList::UpstreamStyle,
+                &upstreamdata025::style);
+    m_turn.layout()->setSpacing(theme::SmallSpacing);
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(theme::SmallSpacing);
+    column->addWidget(m_front);
+    column->addWidget(m_times);
+    column->addWidget(m_withMiddle);
+    column->addWidget(&m_turn);
+    column->addWidget(m_table, 1);
     connect(m_withMiddle, &QCheckBox::toggled, this, &UpstreamPage::refresh);
-    connect(m_direction, &CodeCombo::codeChosen, this,
-            [this](std::int64_t code) { changeCode(&upstreamdata025::direction, code); });
-    connect(m_style, &CodeCombo::codeChosen, this,
-            [this](std::int64_t code) { changeCode(&upstreamdata025::style, code); });
-    connect(m_table, &QTableWidget::cellClicked, this, [this](int row) {
-        const int clicked = m_table->item(row, 0)->text().toInt();
-        emit rowChosen();
-        m_desk.gates.setCurrent(clicked);
-        m_clicked = {m_desk.run, clicked};
-    });
+}
+
+/// Its marks are what the keys mean then.
+void UpstreamPage::clickGate(int place) {
+    const auto clicked = m_gates.row(place).gate;
+    emit rowChosen();
+    m_desk.gates.setCurrent(static_cast<int>(clicked));
+    m_clicked = {m_desk.run, clicked};
 }
 
 std::optional<Alert> UpstreamPage::refusal() const {
@@ -150,11 +181,7 @@ bool UpstreamPage::stepGate(int step) {
 }
 
 void UpstreamPage::refresh() {
-    const upstreamdata025* const upstream = entry();
-    m_direction->setCode(upstream ? upstream->direction : 0);
-    m_style->setCode(upstream ? upstream->style : 0);
-    m_direction->setEnabled(upstream);
-    m_style->setEnabled(upstream);
+    m_turn.show(entry());
     if (!gate())
         m_front->setText(tr("Gate %1 is no upstream gate").arg(m_desk.gates.current()));
     else if (const auto which = nextMark())
@@ -166,19 +193,13 @@ void UpstreamPage::refresh() {
 }
 
 void UpstreamPage::showTable() {
-    std::vector<QStringList> rows;
+    std::vector<UpstreamRow> rows;
     const athletedata031* const run = m_desk.record();
     for (const std::int64_t number : upstreamGates(m_desk.document.info())) {
         const auto place = run ? upstreamAt(*run, number) : std::nullopt;
-        const upstreamdata025 gate = place ? run->upstreams[*place] : upstreamdata025{};
-        const QString turn =
-            place ? QString::fromStdString(labelOf(LabelList::UpstreamDirection, gate.direction) +
-                                           ", " + labelOf(LabelList::UpstreamStyle, gate.style))
-                  : QString();
-        rows.push_back({QString::number(number), timeOrDash(gate.timeEntrace),
-                        timeOrDash(gate.timeExit), timeOrDash(gate.time), turn});
+        rows.push_back({number, place ? std::optional(run->upstreams[*place]) : std::nullopt});
     }
-    fillTable(*m_table, rows);
+    m_gates.show(std::move(rows));
 }
 
 /// The time at the gate in front runs along with the film until its exit is marked.
@@ -189,13 +210,13 @@ void UpstreamPage::showFrame() {
     double seconds = upstream ? upstream->time : 0;
     if (from && now && nextMark())
         seconds = std::max(0.0, secondsFrom(*from, *now));
-    m_times->setText(tr("%1 s in the gate").arg(timeOrDash(seconds)));
+    m_times->setText(tr("%1 s in the gate").arg(hundredthsOrDash(seconds)));
 }
 
-void UpstreamPage::changeCode(std::int64_t upstreamdata025::*member, std::int64_t code) {
+void UpstreamPage::change(const std::function<void(upstreamdata025&)>& act) {
     edit(tr("gate %1").arg(m_desk.gates.current()), [&](athletedata031& run) {
         if (const auto place = upstreamAt(run, m_desk.gates.current()))
-            run.upstreams[*place].*member = code;
+            act(run.upstreams[*place]);
     });
 }
 

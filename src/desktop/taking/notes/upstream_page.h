@@ -1,15 +1,20 @@
 #pragma once
 
+#include "desktop/shell/tables/column_model.h"
+#include "desktop/splitfile/code_form.h"
 #include "desktop/taking/notes/note_page.h"
 #include "splittaking/annotations/gate_marks.h"
 
 class QCheckBox;
 class QLabel;
-class QTableWidget;
 
 namespace kavela::desktop {
 
-class CodeCombo;
+/// An upstream gate of the course, with what the run has of it.
+struct UpstreamRow {
+    std::int64_t gate = 0;
+    std::optional<upstreamdata025> taken;
+};
 
 /// The upstream gates of a run: the gate in front is marked at its entrance, its pole line where
 /// that is wanted, and its exit; the next gate follows by itself.
@@ -36,14 +41,15 @@ private:
     [[nodiscard]] std::optional<GateMark> nextMark() const;
     void goOn();
     void showTable();
-    void changeCode(std::int64_t upstreamdata025::*member, std::int64_t code);
+    void clickGate(int place);
+    void change(const std::function<void(upstreamdata025&)>& act);
 
     QLabel* m_front;
     QLabel* m_times;
     QCheckBox* m_withMiddle;
-    CodeCombo* m_direction;
-    CodeCombo* m_style;
-    QTableWidget* m_table;
+    CodeForm<upstreamdata025> m_turn;
+    ColumnModel<UpstreamRow> m_gates;
+    ColumnTable* m_table;
     /// The gate whose row was clicked, and the run: that is what keys mean as long as it is in
     /// front.
     std::optional<std::pair<int, std::int64_t>> m_clicked;
