@@ -66,6 +66,27 @@ TEST_F(TakingCareTest, TakesWhatIsTypedBeforeTheRunsChangePlaces) {
     EXPECT_EQ(m_window->currentRun(), 0);
 }
 
+TEST_F(TakingCareTest, KeepsTheRunInFrontThatWasCorrectedInTheList) {
+    ASSERT_NO_FATAL_FAILURE(open(timedRace(), false));
+    const auto& runs = table("runs");
+    enter("runs", 1, 0, "Nova");
+    EXPECT_EQ(crew(1), "Nova");
+    EXPECT_EQ(m_window->currentRun(), 0);
+    table("runs").choose(1);
+    EXPECT_EQ(m_window->currentRun(), 1);
+    m_window->moveRun(-1);
+    EXPECT_EQ(cell("runs", 0, 0), "Nova");
+    EXPECT_EQ(runs.currentPlace(), 0);
+    undo(1);
+    EXPECT_EQ(runs.currentPlace(), 1);
+    EXPECT_EQ(m_window->currentRun(), 1);
+    m_window->removeRun();
+    EXPECT_EQ(runs.currentPlace(), 0) << "the last one is gone";
+    EXPECT_EQ(m_window->currentRun(), 0);
+    undo(2);
+    EXPECT_FALSE(m_window->document().isDirty());
+}
+
 TEST_F(TakingCareTest, PutsARunInFrontAsSoonAsThereIsOne) {
     ASSERT_NO_FATAL_FAILURE(open(timedRace(), false));
     while (m_window->document().runCount() > 0)

@@ -6,9 +6,11 @@
 #include "desktop/race/frozen_table.h"
 #include "desktop/shell/dropped_files.h"
 #include "desktop/shell/refused_entry.h"
+#include "desktop/shell/tables/column_table.h"
 #include "desktop/shell/theme.h"
 #include "desktop/shell/window_place.h"
 #include "desktop/shell/workspace.h"
+#include "desktop/splitfile/film_table.h"
 #include "desktop/taking/gate_strip.h"
 #include "desktop/taking/notes/clip_player.h"
 #include "desktop/taking/notes/lane_strip.h"
@@ -26,7 +28,6 @@
 
 #include <QCloseEvent>
 #include <QFileInfo>
-#include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
 #include <QScreen>
@@ -46,10 +47,12 @@ TakingWindow::TakingWindow(Workspace& workspace, Autosave autosave)
       m_document(workspace, std::move(autosave)),
       m_files(m_document, workspace, *this),
       m_exchange(m_document, m_files, workspace, *this, [this] { return commit(); }),
-      m_runs(m_document),
+      m_runs(columnsOfRuns(m_document), RowsKnownBy::Number),
       m_race(workspace),
       m_tableModel(m_race),
       m_stage(new FilmStage(workspace, {.typing = "typing"})) {
+    // Before the notes and the form, which ask for the run in front.
+    connect(&m_document, &TakingDocument::changed, this, &TakingWindow::showRuns);
     makeStage();
     makeModes();
     auto* upper = new QSplitter;
@@ -93,22 +96,11 @@ QWidget* TakingWindow::makeRuns() {
     m_name->setToolTip(tr("Enter finds the athlete's next run, or collects a training file of all "
                           "videos with that name"));
     m_name->setClearButtonEnabled(true);
-    m_runTable = new QTableView;
+    m_runTable = filmTable(m_runs, "runs");
+    m_runTable->stretch({0});
     // A letter is a key of the film that was missed, not another name.
     m_runTable->setEditTriggers(QAbstractItemView::DoubleClicked |
                                 QAbstractItemView::EditKeyPressed);
-    m_runTable->setObjectName("runs");
-    m_runTable->setModel(&m_runs);
-    m_runTable->setSelectionBehavior(QAbstractItemView::SelectRows);
-    m_runTable->setSelectionMode(QAbstractItemView::SingleSelection);
-    m_runTable->setShowGrid(false);
-    m_runTable->setWordWrap(false);
-    m_runTable->verticalHeader()->hide();
-    m_runTable->verticalHeader()->setDefaultSectionSize(fontMetrics().height() + theme::Spacing);
-    m_runTable->horizontalHeader()->setHighlightSections(false);
-    m_runTable->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
-    m_runTable->horizontalHeader()->setSectionResizeMode(RunTableModel::NameColumn,
-                                                         QHeaderView::Stretch);
     m_list = new QWidget;
     m_list->setMinimumWidth(220); // that names are read in the list
     auto* column = new QVBoxLayout(m_list);
@@ -158,9 +150,11 @@ void TakingWindow::connectParts() {
         m_list->isVisible() ? m_runTable->setFocus() : m_stage->line().setFocus();
     });
     connect(&m_document, &TakingDocument::changed, this, &TakingWindow::showDocument);
-    connect(m_runTable->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
-            [this](const QModelIndex& current) { selectRun(current.row()); });
-    connect(m_runTable, &QTableView::clicked, this, [this] {
+    connect(m_runTable, &ColumnTable::chosen, this, [this] {
+        if (const int run = m_runTable->currentPlace(); run >= 0)
+            selectRun(run);
+    });
+    connect(m_runTable, &ColumnTable::clicked, this, [this] {
         if (workspace().preferences().boolean("playonclick"))
             deck().play(1);
     });
@@ -215,6 +209,11 @@ void TakingWindow::makeFilmLarger() {
         m_runTable->setFocus();
 }
 
+/// A run is known by its place: followRun() says where the one in front has gone.
+void TakingWindow::showRuns() {
+    m_runs.show(runsInList(m_document));
+}
+
 void TakingWindow::showDocument() {
     followRun();
     m_films->follow();
@@ -254,14 +253,14 @@ void TakingWindow::followRun() {
     m_films->runMoved(place);
     m_form->runMoved(place);
     m_notes->runMoved(place);
-    m_runTable->selectRow(place);
+    m_runTable->choose(place);
 }
 
 void TakingWindow::selectRun(int run) {
     if (run == m_run || run >= m_document.runCount())
         return;
     if (!commit()) {
-        m_runTable->selectRow(m_run);
+        m_runTable->choose(m_run);
         return;
     }
     showRun(run);
@@ -273,8 +272,8 @@ void TakingWindow::showRun(int run) {
     m_identity = run < 0 ? nullptr : m_document.identityOf(run);
     m_splits->showRun(run);
     m_form->showRun(run);
-    if (run >= 0 && m_runTable->currentIndex().row() != run)
-        m_runTable->selectRow(run);
+    if (run >= 0 && m_runTable->currentPlace() != run)
+        m_runTable->choose(run);
     {
         const QSignalBlocker blocked(m_notes); // the film beside is opened with the run's own
         m_notes->showRun(run);

@@ -6,16 +6,16 @@
 #include "desktop/splitfile/film_files.h"
 #include "desktop/splitfile/taking_document.h"
 #include "desktop/taking/race_exchange.h"
-#include "desktop/taking/run_table_model.h"
+#include "desktop/taking/run_list.h"
 #include "splittaking/penalties.h"
 
 class QLabel;
 class QLineEdit;
-class QTableView;
 
 namespace kavela::desktop {
 
 class ClipPlayer;
+class ColumnTable;
 class FilmDeck;
 class FilmStage;
 class FrozenTable;
@@ -95,6 +95,7 @@ private:
     void connectNotes();
     void showRun(int run);
     void followRun();
+    void showRuns();
     void showDocument();
     void showGates();
     void goOn();
@@ -103,7 +104,7 @@ private:
     TakingDocument m_document;
     FilmFiles m_files;
     RaceExchange m_exchange;
-    RunTableModel m_runs;
+    ColumnModel<RunInList> m_runs;
     RaceDocument m_race; ///< of the table below
     SplitTableModel m_tableModel;
     FilmStage* m_stage;
@@ -115,7 +116,7 @@ private:
 
     QWidget* m_list = nullptr; ///< the runs to the left
     QLineEdit* m_name = nullptr;
-    QTableView* m_runTable = nullptr;
+    ColumnTable* m_runTable = nullptr;
     SplitBar* m_times = nullptr;
     GateStrip* m_gates = nullptr;
     RunForm* m_form = nullptr;

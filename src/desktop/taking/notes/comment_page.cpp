@@ -24,7 +24,6 @@ namespace {
 
 constexpr const char* VisibleKey = "coachswordvisible";
 constexpr double MostGiveUps = 99;
-
 constexpr int WordsColumn = 1;
 
 /// One beyond the best, as a file may have it, is shown as it is.
@@ -93,6 +92,7 @@ void CommentPage::addFields() {
     addScore(m_scores, Scorer::Athlete, "athletesScore", tr("athlete"),
              &athletedata031::athletesscore);
     addScore(m_scores, Scorer::Coach, "coachsScore", tr("coach"), &athletedata031::coachsscore);
+    m_scores.layout()->setSpacing(0); // its fields stand apart by themselves
     m_form.addRow(tr("Scores"), &m_scores);
     m_form.whole({.name = "giveUps", .label = tr("Give-ups")}, {.most = MostGiveUps},
                  Access{[](const athletedata031& run) { return run.giveups; },

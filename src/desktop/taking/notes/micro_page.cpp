@@ -15,16 +15,11 @@ namespace kavela::desktop {
 namespace {
 
 std::vector<Column<MicroRow>> microColumns() {
-    return {numberColumn<MicroRow>(
-                MicroPage::tr("Mark"),
-                [](const MicroRow& row) { return static_cast<double>(row.number); },
-                [](double number) { return shownNumber(number); }),
-            numberColumn<MicroRow>(
-                MicroPage::tr("Time"), [](const MicroRow& row) { return row.seconds; },
-                shownHundredths),
-            numberColumn<MicroRow>(
-                MicroPage::tr("From the one before"),
-                [](const MicroRow& row) { return row.sinceBefore; }, shownHundredths)};
+    return {numberColumn<MicroRow>(MicroPage::tr("Mark"), &MicroRow::number,
+                                   [](double number) { return shownNumber(number); }),
+            numberColumn<MicroRow>(MicroPage::tr("Time"), &MicroRow::seconds, shownHundredths),
+            numberColumn<MicroRow>(MicroPage::tr("From the one before"), &MicroRow::sinceBefore,
+                                   shownHundredths)};
 }
 
 } // namespace

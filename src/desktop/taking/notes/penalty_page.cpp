@@ -33,10 +33,7 @@ Column<PenaltyEntry> codeColumn(const QString& title, PenaltyField field) {
 std::vector<Column<PenaltyEntry>> penaltyColumns() {
     return {numberColumn<PenaltyEntry>(
                 PenaltyPage::tr("Gate"),
-                [](const PenaltyEntry& entry) -> std::optional<double> {
-                    const auto gate = entry[PenaltyField::Gate];
-                    return gate ? std::optional(static_cast<double>(*gate)) : std::nullopt;
-                },
+                [](const PenaltyEntry& entry) { return entry[PenaltyField::Gate]; },
                 [](double gate) { return shownNumber(gate); }),
             codeColumn(PenaltyPage::tr("Penalty"), PenaltyField::Kind),
             codeColumn(PenaltyPage::tr("Pole"), PenaltyField::Pole),

@@ -38,10 +38,8 @@ Column<UpstreamRow> upstreamTime(const QString& title, double upstreamdata025::*
 }
 
 std::vector<Column<UpstreamRow>> upstreamColumns() {
-    return {numberColumn<UpstreamRow>(
-                UpstreamPage::tr("Gate"),
-                [](const UpstreamRow& row) { return static_cast<double>(row.gate); },
-                [](double gate) { return shownNumber(gate); }),
+    return {numberColumn<UpstreamRow>(UpstreamPage::tr("Gate"), &UpstreamRow::gate,
+                                      [](double gate) { return shownNumber(gate); }),
             upstreamTime(UpstreamPage::tr("In"), &upstreamdata025::timeEntrace),
             upstreamTime(UpstreamPage::tr("Out"), &upstreamdata025::timeExit),
             upstreamTime(UpstreamPage::tr("Total"), &upstreamdata025::time),
