@@ -4,6 +4,7 @@
 #include "common/recorders.h"
 #include "common/temp_folder.h"
 #include "desktop/charts/chart_plot.h"
+#include "desktop/charts/interval_chart.h"
 #include "desktop/desktop.h"
 #include "desktop/film/clip_pair.h"
 #include "desktop/losses/heat_map_chart.h"
@@ -198,6 +199,16 @@ TEST_F(LossesWindowTest, ShowsWhereAnAthleteLosesTimeOverASeason) {
     EXPECT_THAT(m_window.season().summary().toStdString(), HasSubstr("4 whole runs in 4 files"));
     EXPECT_THAT(m_window.season().advice().toStdString(), HasSubstr("upstream"));
     ASSERT_GT(m_window.season().clips().model()->rowCount(), 0);
+    const auto& rows = m_window.season().season().rows;
+    const auto& marks = m_window.season().chart().content().marks;
+    ASSERT_EQ(marks.size(), rows.size());
+    for (std::size_t i = 0; i < rows.size(); ++i) {
+        ASSERT_TRUE(rows[i].interval && marks[i].hasInterval) << rows[i].text;
+        EXPECT_EQ(marks[i].low, rows[i].interval->low);
+        EXPECT_EQ(marks[i].isBold, rows[i].verdict == LossVerdict::Losing);
+    }
+    emit m_window.season().chart().markActivated(1);
+    EXPECT_EQ(m_window.season().table().currentPlace(), 1);
     state().setRun(1);
     state().setRun(0); // another crew than that of the run before
     EXPECT_THAT(m_window.season().summary().toStdString(), HasSubstr("Best One"));

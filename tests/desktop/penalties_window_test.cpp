@@ -221,6 +221,13 @@ TEST_F(PenaltiesWindowTest, EveryNumberTellsWhy) {
     EXPECT_EQ(m_window.costs().whyOf(0, 9)->value, 1) << "fourth, and third without it";
     EXPECT_GT(explainedIn(m_window.details()), 0);
     EXPECT_EQ(explainedIn(m_window.details()), m_window.details().table().model()->rowCount() * 4);
+    const auto& marks = m_window.details().chart().content().marks;
+    ASSERT_FALSE(marks.empty());
+    m_window.showPage(PenaltiesWindow::Details);
+    emit m_window.details().chart().markActivated(marks.size() - 1);
+    const int place = m_window.details().table().currentPlace();
+    ASSERT_GE(place, static_cast<int>(marks.size()) - 1) << "behind rows of what was not noted";
+    EXPECT_NEAR(m_window.details().whyOf(place, 4)->value * 100, marks.back().value, 1e-9);
     EXPECT_EQ(explainedIn(m_window.tradeOff()), 3 * 5);
     EXPECT_NEAR(m_window.tradeOff().whyOf(0, 2)->value, 2 / 3.0, 1e-9) << "two of three runs";
     for (const RateBy by : {RateBy::Type, RateBy::Crew, RateBy::Hand, RateBy::File}) {
