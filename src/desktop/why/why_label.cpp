@@ -12,7 +12,7 @@ namespace kavela::desktop {
 WhyLabel::WhyLabel(std::function<std::optional<Reason>()> why, QWidget* parent) : QLabel(parent) {
     setTextFormat(Qt::PlainText);
     setFocusPolicy(Qt::TabFocus);
-    setToolTip(QObject::tr("Alt+click or Shift+F1: why"));
+    setToolTip(tr("Alt+click or Shift+F1: why"));
     hide();
     answerWhy(this, [why = std::move(why)](const QPoint&) { return why(); });
 }

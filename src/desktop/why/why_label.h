@@ -12,6 +12,8 @@ namespace kavela::desktop {
 /// A number in words that tells why it is what it is: by Alt+click, and by the key, for which Tab
 /// leads to it.
 class WhyLabel : public QLabel {
+    Q_OBJECT
+
 public:
     explicit WhyLabel(std::function<std::optional<Reason>()> why, QWidget* parent = nullptr);
 
