@@ -6,6 +6,7 @@
 #include "analysis/run_place.h"
 #include "analysis/standing.h"
 #include "common/number_text.h"
+#include "splitdata/frame_step.h"
 #include "splitdata/run_timing.h"
 
 #include <algorithm>
@@ -79,8 +80,10 @@ std::optional<double> videoTotal(const RaceSet& set, const analyzerdata& run, Wh
     const sectionmaindata& section = run.sectioninfo;
     if (section.totaltime == 0)
         return std::nullopt;
+    const double step = why ? frameStep(section.cmtimes, run.upstreams).value_or(0) : 0;
     for (std::size_t i = 0; why && i < section.times.size(); ++i)
-        why->input("section " + std::to_string(i + 1), section.times[i], runPlace(run, i + 1));
+        why->input("section " + std::to_string(i + 1), section.times[i], runPlace(run, i + 1),
+                   section.times[i] == 0 ? 0 : step, HalfFrameTwice);
     tellSeconds(AnalysisRule::Total, section.totaltime, why);
     if (const auto reason = reasonOf(totalStanding(section, set.totalsplits));
         why && !reason.empty())

@@ -3,6 +3,7 @@
 #include "analysis/cell_text.h"
 #include "common/number_text.h"
 #include "performance/loss_rules.h"
+#include "splitdata/frame_step.h"
 #include "splitdata/run_totals.h"
 
 #include <fmt/format.h>
@@ -79,11 +80,32 @@ Stretch stretchBetween(const LossPair& pair, std::size_t first, std::size_t last
 void tellSection(const LossPair& pair, const LossSide& side, std::size_t section, Why& why) {
     const double time = side.times[section - 1];
     if (side.run) {
-        why.input(side.name, time, lossPlace(pair.facts, *side.run, section));
+        why.input(side.name, time, lossPlace(pair.facts, *side.run, section),
+                  markUncertainty(pair.facts, *side.run), HalfFrameTwice);
         return;
     }
     why.input(side.name, time);
     (void)madeSection(pair.facts, side.pool, side.isMedian, section, why.part());
+}
+
+/// Where the films of both tell their frames: four marks, each half a frame beside the moment at
+/// most.
+void tellUncertainty(const LossPair& pair, double loss, Why& why) {
+    if (!pair.own.run || !pair.reference.run)
+        return;
+    const double own = markUncertainty(pair.facts, *pair.own.run);
+    const double reference = markUncertainty(pair.facts, *pair.reference.run);
+    if (own == 0 || reference == 0)
+        return;
+    const auto rounded = [](double seconds) { return std::round(seconds * 1e6) / 1e6; };
+    why.uncertain({rounded(loss - own - reference), rounded(loss + own + reference)},
+                  "half a frame, four marks");
+}
+
+/// Tells the two times and not yet what is made of them.
+double lossOfTimes(const LossPair& pair, std::size_t first, std::size_t last, Why* why) {
+    const double own = stretchTime(pair, pair.own, first, last, why);
+    return own - stretchTime(pair, pair.reference, first, last, why);
 }
 
 } // namespace
@@ -128,16 +150,17 @@ double stretchTime(const LossPair& pair, const LossSide& side, std::size_t first
 }
 
 double stretchLoss(const LossPair& pair, std::size_t first, std::size_t last, Why* why) {
-    const double own = stretchTime(pair, pair.own, first, last, why);
-    const double loss = own - stretchTime(pair, pair.reference, first, last, why);
-    if (why)
+    const double loss = lossOfTimes(pair, first, last, why);
+    if (why) {
         why->result(ruleOf(LossRule::Loss), loss, signedHundredths(loss));
+        tellUncertainty(pair, loss, *why);
+    }
     return loss;
 }
 
 double stretchPercent(const LossPair& pair, std::size_t first, std::size_t last, Why* why) {
     const double reference = stretchTime(pair, pair.reference, first, last);
-    const double percent = 100 * stretchLoss(pair, first, last, why) / reference;
+    const double percent = 100 * lossOfTimes(pair, first, last, why) / reference;
     if (why)
         why->result(ruleOf(LossRule::LossPercent), percent, fmt::format("{:+.1f} %", percent));
     return percent;

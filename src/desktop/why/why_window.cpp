@@ -122,7 +122,11 @@ void WhyWindow::addInput(const Input& input, QTreeWidgetItem& under) {
     auto* item = new QTreeWidgetItem(&under);
     item->setText(WhatColumn, qtText(input.name));
     item->setToolTip(WhatColumn, item->text(WhatColumn));
-    item->setText(ValueColumn, shownNumbers(qtText(inputText(input))));
+    const QString within = shownNumbers(qtText(plusMinusText(input)));
+    item->setText(ValueColumn,
+                  shownNumbers(qtText(inputText(input))) +
+                      (within.isEmpty() ? QString() : ' ' + within.section(" (", 0, 0)));
+    item->setToolTip(ValueColumn, within);
     item->setTextAlignment(ValueColumn, Qt::AlignRight | Qt::AlignVCenter);
     if (!input.place || input.place->file.empty())
         return;
