@@ -40,6 +40,10 @@ void LossesActions::makeFileMenu() {
     menu->addAction(tr("&Read all again"), QKeySequence(Qt::Key_F5), window,
                     [window] { window->facts().readAgain(); });
     menu->addSeparator();
+    QAction* const page =
+        menu->addAction(tr("&Page of an athlete: PDF, preview, print…"), QKeySequence::Print,
+                        window, [window] { window->askForAthletePage(); });
+    m_refreshers.push_back([page, window] { page->setEnabled(window->state().hasRun()); });
     menu->addAction(tr("Save the table as &CSV…"), QKeySequence(Qt::CTRL | Qt::Key_E), window,
                     [window] { window->saveTable(); });
     menu->addAction(

@@ -29,6 +29,8 @@ public:
     void setAthlete(const QString& athlete);
 
     [[nodiscard]] const SeasonLosses& season() const { return m_season; }
+    /// Whose season, against what.
+    [[nodiscard]] SeasonLossQuery query() const;
     [[nodiscard]] ColumnTable& table() const { return *m_table; }
     [[nodiscard]] ColumnTable& clips() const { return *m_clipTable; }
     [[nodiscard]] IntervalChart& chart() const { return *m_chart; }
@@ -62,7 +64,6 @@ private:
     void refresh();
     void showRows();
     void showClips();
-    [[nodiscard]] SeasonLossQuery query() const;
     [[nodiscard]] QString summaryText() const;
     [[nodiscard]] QString adviceText() const;
 
