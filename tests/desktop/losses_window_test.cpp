@@ -7,6 +7,8 @@
 #include "desktop/charts/interval_chart.h"
 #include "desktop/desktop.h"
 #include "desktop/film/clip_pair.h"
+#include "desktop/losses/athlete_page_dialog.h"
+#include "desktop/losses/athlete_pages.h"
 #include "desktop/losses/heat_map_chart.h"
 #include "desktop/losses/loss_charts_panel.h"
 #include "desktop/losses/loss_header.h"
@@ -23,6 +25,7 @@
 
 #include <QComboBox>
 #include <QLineEdit>
+#include <QPushButton>
 #include <QTest>
 
 #include <numeric>
@@ -212,6 +215,38 @@ TEST_F(LossesWindowTest, ShowsWhereAnAthleteLosesTimeOverASeason) {
     state().setRun(1);
     state().setRun(0); // another crew than that of the run before
     EXPECT_THAT(m_window.season().summary().toStdString(), HasSubstr("Best One"));
+}
+
+TEST_F(LossesWindowTest, WritesTheAthletesPageOfOneRaceOrOfAll) {
+    const QString first = add("first.kvx", threeRuns());
+    ASSERT_TRUE(open({first, add("second.kvx", threeRuns())}, 1));
+    const AthletePageDialog dialog(state(), m_window.season().query(), &m_window);
+    auto* const scope = dialog.findChild<QComboBox*>("scope");
+    auto* const crews = dialog.findChild<QComboBox*>("crew");
+    EXPECT_EQ(crews->count(), 3) << "each crew once";
+    ASSERT_TRUE(dialog.choice());
+    EXPECT_EQ(dialog.choice()->crew, "Bea Sample") << "whose run is shown";
+    EXPECT_FALSE(dialog.choice()->file);
+    scope->setCurrentIndex(1);
+    EXPECT_EQ(dialog.choice()->file, 0U);
+    EXPECT_EQ(dialog.choice()->crew, "Bea Sample");
+    crews->setEditText("nobody");
+    EXPECT_FALSE(dialog.choice());
+    crews->setEditText("ada sample · k1m");
+    ASSERT_TRUE(dialog.choice());
+
+    auto* const open = m_window.findChild<QPushButton*>("openPage");
+    const fs::path pdf = m_folder.path() / "page.pdf";
+    m_window.athletePages().write(*dialog.choice(), QString::fromStdString(pdf.string()));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return open->isVisible(); }));
+    EXPECT_TRUE(fs::file_size(pdf) > 1000);
+
+    const auto size = fs::file_size(first.toStdString());
+    m_window.athletePages().write(*dialog.choice(), first);
+    EXPECT_EQ(fs::file_size(first.toStdString()), size) << "never over a race";
+    ASSERT_THAT(m_recorder.alerts, SizeIs(1));
+    EXPECT_THAT(m_recorder.alerts.front(), HasSubstr("written over a race"));
+    m_recorder.alerts.clear();
 }
 
 TEST_F(LossesWindowTest, OpensOnceForTheSameFiles) {

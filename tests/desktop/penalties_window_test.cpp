@@ -13,7 +13,9 @@
 #include "race_fixture.h"
 #include "splitdata/document.h"
 
+#include <QBuffer>
 #include <QComboBox>
+#include <QImage>
 #include <QLabel>
 #include <QPushButton>
 
@@ -236,6 +238,27 @@ TEST_F(PenaltiesWindowTest, EveryNumberTellsWhy) {
         EXPECT_EQ(explainedIn(m_window.rates()), m_window.rates().table().model()->rowCount() * 10)
             << nameOf(by);
     }
+}
+
+TEST_F(PenaltiesWindowTest, DrawsTheCourseOverItsPictureWhereTheFileHoldsOne) {
+    QByteArray png;
+    QBuffer buffer(&png);
+    QImage drawn(40, 20, QImage::Format_RGB32);
+    drawn.fill(Qt::red);
+    ASSERT_TRUE(drawn.save(&buffer, "PNG"));
+    splittakerdata031 race = final();
+    race.info.coursedesign.bytes = std::vector<unsigned char>(png.begin(), png.end());
+    ASSERT_TRUE(open({pathText(add("drawn.kvx", race))}));
+    const IntervalChart& chart = m_window.course().chart();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return chart.content().backdrop.size() == QSize(40, 20); }));
+    const auto* const remark = m_window.findChild<QLabel*>("pictureRemark");
+    EXPECT_FALSE(remark->isVisibleTo(&m_window.course()));
+
+    race.info.coursedesign.bytes = std::vector<unsigned char>{1, 2, 3};
+    ASSERT_TRUE(open({pathText(add("broken.kvx", race))}));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return remark->isVisibleTo(&m_window.course()); }));
+    EXPECT_TRUE(chart.content().backdrop.isNull()) << "that of the file before is gone";
+    EXPECT_THAT(chart.content().marks, SizeIs(4));
 }
 
 TEST_F(PenaltiesWindowTest, FiltersByCategoryAndCrewAndSaysWhatSpeedPays) {

@@ -98,12 +98,12 @@ void CoursePanel::showChart() {
 void CoursePanel::askForPicture() {
     const QString file = course() ? m_courses->currentData().toString() : QString();
     const auto facts = m_figures ? m_figures->facts : nullptr;
-    if (file == m_pictureOf && facts == m_pictureIsOfThen)
+    if (file == m_pictureOf && facts == m_pictureFacts)
         return;
     if (file != m_pictureOf)
         m_picture = {};
     m_pictureOf = file;
-    m_pictureIsOfThen = facts;
+    m_pictureFacts = facts;
     const int asked = ++m_asked;
     if (file.isEmpty())
         return;

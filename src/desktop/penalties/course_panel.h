@@ -50,7 +50,7 @@ private:
     IntervalChart* m_chart;
     CoursePicture m_picture;
     QString m_pictureOf;                                ///< path of its file
-    std::shared_ptr<const FactStore> m_pictureIsOfThen; ///< as that was read then
+    std::shared_ptr<const FactStore> m_pictureFacts; ///< as that was read then
     int m_asked = 0;                                    ///< number of the latest picture
     BackgroundWork m_work;
 };
