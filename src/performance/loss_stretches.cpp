@@ -2,6 +2,7 @@
 
 #include "analysis/cell_text.h"
 #include "common/number_text.h"
+#include "performance/loss_counts.h"
 #include "performance/loss_rules.h"
 #include "splitdata/frame_step.h"
 #include "splitdata/run_totals.h"
@@ -34,30 +35,10 @@ StretchKind kindOfStretch(const LossPair& pair, std::size_t first, std::size_t l
     return hasUpstreamGate(pair, first) ? StretchKind::Upstream : StretchKind::Downstream;
 }
 
-/// Strokes marked in some sections; nothing for a run in which none are marked at all, and for one
-/// that nobody paddled.
-std::optional<std::int64_t> strokesOf(const FactStore& facts, const LossSide& side,
-                                      std::size_t first, std::size_t last) {
-    if (!side.run)
-        return std::nullopt;
-    std::int64_t all = 0;
-    std::int64_t inside = 0;
-    const auto sections = facts.sectionsOf(facts.runs()[*side.run]);
-    for (std::size_t k = 1; k <= sections.size(); ++k) {
-        const SectionRow& row = sections[k - 1];
-        const std::int64_t strokes = row.left + row.right + row.other;
-        all += strokes;
-        inside += first <= k && k <= last ? strokes : 0;
-    }
-    return all > 0 ? std::optional(inside) : std::nullopt;
-}
-
-std::int64_t penaltyOf(const LossPair& pair, std::size_t first, std::size_t last) {
-    std::int64_t seconds = 0;
-    const auto sections = pair.facts.sectionsOf(pair.facts.runs()[*pair.own.run]);
-    for (std::size_t k = first; k <= std::min(last, sections.size()); ++k)
-        seconds += sections[k - 1].pen;
-    return seconds;
+/// Of a side that somebody paddled.
+std::optional<std::int64_t> strokesOf(const LossPair& pair, const LossSide& side, std::size_t first,
+                                      std::size_t last) {
+    return side.run ? stretchStrokes(pair.facts, *side.run, first, last) : std::nullopt;
 }
 
 Stretch stretchBetween(const LossPair& pair, std::size_t first, std::size_t last) {
@@ -70,9 +51,9 @@ Stretch stretchBetween(const LossPair& pair, std::size_t first, std::size_t last
     stretch.reference = stretchTime(pair, pair.reference, first, last);
     stretch.loss = stretchLoss(pair, first, last);
     stretch.percent = stretchPercent(pair, first, last);
-    stretch.pen = penaltyOf(pair, first, last);
-    stretch.strokes = strokesOf(pair.facts, pair.own, first, last);
-    stretch.referenceStrokes = strokesOf(pair.facts, pair.reference, first, last);
+    stretch.pen = stretchPenalties(pair.facts, *pair.own.run, first, last);
+    stretch.strokes = strokesOf(pair, pair.own, first, last);
+    stretch.referenceStrokes = strokesOf(pair, pair.reference, first, last);
     return stretch;
 }
 

@@ -230,7 +230,7 @@ TEST_F(PenaltiesWindowTest, EveryNumberTellsWhy) {
     const int place = m_window.details().table().currentPlace();
     ASSERT_GE(place, static_cast<int>(marks.size()) - 1) << "behind rows of what was not noted";
     EXPECT_NEAR(m_window.details().whyOf(place, 4)->value * 100, marks.back().value, 1e-9);
-    EXPECT_EQ(explainedIn(m_window.tradeOff()), 3 * 5);
+    EXPECT_EQ(explainedIn(m_window.tradeOff()), 3 * 6);
     EXPECT_NEAR(m_window.tradeOff().whyOf(0, 2)->value, 2 / 3.0, 1e-9) << "two of three runs";
     for (const RateBy by : {RateBy::Type, RateBy::Crew, RateBy::Hand, RateBy::File}) {
         m_window.rates().setBy(by);

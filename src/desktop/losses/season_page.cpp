@@ -49,8 +49,11 @@ SeasonLossNumber numberIn(int column) {
     case PercentAt:
     case IntervalAt:
         return SeasonLossNumber::Percent;
+    case RunsAt:
+        return SeasonLossNumber::Runs;
+    case LostAt:
+        return SeasonLossNumber::Loss;
     case PerRunAt:
-    case LostAt: // which is what the runs lost together
         return SeasonLossNumber::PerRun;
     case ShareAt:
         return SeasonLossNumber::Share;

@@ -80,7 +80,9 @@ RunPanel::RunPanel(RaceDocument& document, QWidget* parent)
       m_rows(columns(tr("To best"))),
       m_sections(new ColumnTable(m_rows, "")),
       m_empty(wrapped(theme::captionFont(*this))) {
-    m_sections->setOnlyShown();
+    m_sections->keepOrder();
+    m_sections->setSelectionMode(QAbstractItemView::SingleSelection); // the key asks for a cell
+    m_sections->setAlternatingRowColors(false);
     m_sections->stretch({0});
     m_empty->setText(tr("Select a run to see its sections. Select two to compare them."));
     m_empty->setForegroundRole(QPalette::PlaceholderText);
