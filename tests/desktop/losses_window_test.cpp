@@ -161,6 +161,15 @@ TEST_F(LossesWindowTest, EveryNumberOfTheSumTellsWhy) {
     ASSERT_TRUE(gap);
     EXPECT_EQ(gap->value, state().losses().sum->gap);
     EXPECT_TRUE(whyOf(state(), runLines(state()).at(1), 6)) << "paddling of another run";
+    const RunLine last = runLines(state()).at(2);
+    const auto place = whyOf(state(), last, 0);
+    ASSERT_TRUE(place);
+    EXPECT_EQ(place->value, 3);
+    EXPECT_THAT(place->inputs, SizeIs(3)) << "its total and the two in front";
+    EXPECT_EQ(whyOf(state(), last, 4)->value, *last.total);
+    const auto penalty = whyOf(state(), line, 10, 1);
+    ASSERT_TRUE(penalty);
+    EXPECT_EQ(penalty->inputs.front().place->split, 2U);
 }
 
 TEST_F(LossesWindowTest, SaysThatThereIsNoFilm) {
@@ -215,6 +224,27 @@ TEST_F(LossesWindowTest, ShowsWhereAnAthleteLosesTimeOverASeason) {
     state().setRun(1);
     state().setRun(0); // another crew than that of the run before
     EXPECT_THAT(m_window.season().summary().toStdString(), HasSubstr("Best One"));
+}
+
+TEST_F(LossesWindowTest, TellsWhenTheRunOrItsRivalIsGone) {
+    splittakerdata031 race = threeRuns();
+    const QString path = add("race.kvx", race);
+    ASSERT_TRUE(open({path}, 2));
+    state().setReference({LossReferenceKind::Run, 1});
+    const auto follows = [&](const std::string& words) {
+        m_window.facts().readAgain();
+        return QTest::qWaitFor(
+            [&] { return m_window.status().toStdString().find(words) != std::string::npos; });
+    };
+    race.athletes.erase(race.athletes.begin() + 1);
+    (void)add("race.kvx", race);
+    EXPECT_TRUE(follows("Bea Sample, Final is not in the files any more"));
+    EXPECT_EQ(state().reference().kind, LossReferenceKind::Winner);
+    EXPECT_EQ(m_window.header().sentence(), "Ondřej Skalboř, Final  +3.62 on winner");
+    race.athletes.pop_back();
+    (void)add("race.kvx", race);
+    EXPECT_TRUE(follows("Ondřej Skalboř, Final is not in the files any more"));
+    EXPECT_TRUE(state().hasRun()) << "another one of the race";
 }
 
 TEST_F(LossesWindowTest, WritesTheAthletesPageOfOneRaceOrOfAll) {

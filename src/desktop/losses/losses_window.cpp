@@ -170,6 +170,7 @@ void LossesWindow::tellNotSaved(const QString& reason) {
 
 void LossesWindow::setPaths(const QStringList& paths, std::optional<std::size_t> run) {
     m_wanted = run;
+    m_isOther = true;
     m_facts.setPaths(paths);
     for (const QString& path : paths)
         if (!QFileInfo(path).isDir())
@@ -184,11 +185,27 @@ bool LossesWindow::open(const QString& path) {
     return true;
 }
 
+/// What is no race opens in a window of its own; the races that are shown stay then.
 void LossesWindow::takeFiles(const QStringList& paths) {
-    setPaths(paths);
+    QStringList races;
+    QStringList others;
+    for (const QString& path : paths) {
+        const QFileInfo file(path);
+        const bool isRace =
+            file.isDir() || file.suffix().compare(QStringLiteral("kvx"), Qt::CaseInsensitive) == 0;
+        (isRace ? races : others).append(path);
+    }
+    if (!races.isEmpty())
+        setPaths(races);
+    if (!others.isEmpty())
+        emit openRequested(others);
 }
 
 void LossesWindow::takeFacts() {
+    const QString run = m_state.hasRun() ? runTitle(m_state.facts(), m_state.run()) : QString();
+    const auto& rival = m_state.losses().referenceRun;
+    const bool isRival = m_state.reference().kind == LossReferenceKind::Run && rival;
+    const QString other = isRival ? runTitle(m_state.facts(), *rival) : QString();
     m_state.setFacts(m_facts.facts());
     const auto files = m_state.facts().files();
     if (m_wanted && !files.empty()) {
@@ -198,6 +215,18 @@ void LossesWindow::takeFacts() {
     }
     showReading();
     showTitle();
+    if (!m_isOther)
+        tellGone(run, other);
+    m_isOther = false;
+}
+
+/// Files change under the window: another run than before is shown, or another reference.
+void LossesWindow::tellGone(const QString& run, const QString& rival) {
+    const QString shown = m_state.hasRun() ? runTitle(m_state.facts(), m_state.run()) : QString();
+    if (!run.isEmpty() && !shown.isEmpty() && shown != run)
+        tell(tr("%1 is not in the files any more; another run is shown.").arg(run));
+    else if (!rival.isEmpty() && m_state.reference().kind != LossReferenceKind::Run)
+        tell(tr("%1 is not in the files any more; the winner is the reference now.").arg(rival));
 }
 
 void LossesWindow::showReading() {

@@ -77,6 +77,7 @@ private:
     void makeStatus();
     void connectParts();
     void takeFacts();
+    void tellGone(const QString& run, const QString& rival);
     void showReading();
     void showTitle();
     void playStretch(std::size_t stretch);
@@ -89,6 +90,7 @@ private:
 
     WatchedFacts m_facts;
     LossState m_state;
+    bool m_isOther = false; ///< other files were asked for: what they have not is not missed
     std::optional<std::size_t> m_wanted; ///< run of the first file that is to be shown
     LossHeader* m_header;
     QTabWidget* m_pages;

@@ -91,7 +91,7 @@ SeasonPage::SeasonPage(LossState& state, QWidget* parent)
     connect(m_clipTable, &ColumnTable::activated, this, [this](const QModelIndex& cell) {
         emit clipActivated(m_clips.row(m_clipTable->placeAt(cell)).clip);
     });
-    m_clipTable->addCommand(tr("&Show this run"), {}, [this] {
+    m_clipTable->addCommand(tr("&Show this run"), QKeySequence(Qt::SHIFT | Qt::Key_Return), [this] {
         if (const int place = m_clipTable->currentPlace(); place >= 0)
             emit runActivated(m_clips.row(place).clip.run);
     });

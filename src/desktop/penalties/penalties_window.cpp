@@ -49,7 +49,7 @@ bool isSplitFileOrFolder(const QString& path) {
 PenaltiesWindow::PenaltiesWindow(Workspace& workspace)
     : ToolWindow(workspace, nullptr, {"penalties", tr("Penalties"), "kvx"}) {
     makeParts();
-    new PenaltiesActions(*this); // the window owns it
+    m_actions = new PenaltiesActions(*this);
     connectParts();
     showTitle();
     showStatus();
@@ -237,6 +237,27 @@ void PenaltiesWindow::saveChart() {
         front->interaction().askAndSave();
 }
 
+ColumnTable* PenaltiesWindow::table() const {
+    switch (page()) {
+    case Rates:
+        return &m_rates->table();
+    case Details:
+        return &m_details->table();
+    case Costs:
+        return &m_costs->table();
+    case RiskAndSpeed:
+        return &m_tradeOff->table();
+    case Course:
+        break;
+    }
+    return nullptr;
+}
+
+void PenaltiesWindow::saveTable() {
+    if (ColumnTable* const front = table())
+        front->saveCsv();
+}
+
 bool PenaltiesWindow::isBusy() const {
     return m_facts.isReading() || m_isComputing;
 }
@@ -323,6 +344,7 @@ void PenaltiesWindow::showStatus() {
         parts << (failed == 1 ? tr("1 file could not be read")
                               : tr("%1 files could not be read").arg(failed));
     m_status->setText(parts.join(QStringLiteral(" · ")));
+    m_actions->refresh();
 }
 
 void PenaltiesWindow::showFailed() {
