@@ -140,6 +140,9 @@ TEST(Season, HasALeagueThatTellsStrengthsFromChance) {
             upstreams += run.upstreams.size();
             strokes += run.strokes.size();
             losses += run.timeslosses.size();
+            for (const timeloss031& loss : run.timeslosses)
+                EXPECT_EQ(loss.versus.find(" / ") != std::string::npos, run.names.size() == 2)
+                    << loss.versus << " is one crew, of the same kind of boat";
             penalties += run.sectioninfo.pendetails.size();
         }
         EXPECT_EQ(categories, all) << session.name;
