@@ -118,8 +118,10 @@ std::optional<AthletePageChoice> AthletePageDialog::choice() const {
     if (place < 0 || place >= static_cast<int>(m_entries.size()))
         return std::nullopt;
     const Entry& entry = m_entries[static_cast<std::size_t>(place)];
-    AthletePageChoice choice{
-        {entry.crewKey, entry.categoryKey, m_state.reference()}, std::nullopt, entry.crew};
+    AthletePageChoice choice{{entry.crewKey, entry.categoryKey, m_state.reference()},
+                             std::nullopt,
+                             entry.crew,
+                             m_state.sharedFacts()};
     if (isOneRace())
         choice.file = m_state.row().file;
     else if (m_state.facts().files().size() > 1 &&

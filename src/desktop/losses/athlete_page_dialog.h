@@ -5,6 +5,7 @@
 #include <QDialog>
 #include <QString>
 
+#include <memory>
 #include <optional>
 #include <vector>
 
@@ -21,6 +22,8 @@ struct AthletePageChoice {
     SeasonLossQuery query;
     std::optional<std::size_t> file; ///< of the store, for one race alone; none for all of them
     QString crew;                    ///< as lists write it
+    /// The store that is meant: another one may take its place while a file is asked for.
+    std::shared_ptr<const FactStore> facts;
 };
 
 /// Asks whose page is to be made, and whether of the race that is shown or of all that is open.

@@ -20,8 +20,8 @@ namespace kavela::desktop {
 namespace {
 
 /// Of one race: a store of that file alone, where all that is compared is compared within it.
-std::unique_ptr<report::PagedReport> pageOf(const FactStore& facts,
-                                            const AthletePageChoice& choice) {
+std::unique_ptr<report::PagedReport> pageOf(const AthletePageChoice& choice) {
+    const FactStore& facts = *choice.facts;
     if (!choice.file)
         return report::athletePage(facts, choice.query);
     FactStore race;
@@ -59,16 +59,16 @@ void AthletePages::preview(const AthletePageChoice& choice) {
                                        m_workspace.showAlert(alert, over);
                                    }};
     std::vector<NamedReport> reports{
-        {choice.crew, proposedPath(choice),
-         [facts = m_state.sharedFacts(), choice] { return pageOf(*facts, choice); }}};
+        {choice.crew, proposedPath(choice), [choice] { return pageOf(choice); }}};
     auto* const preview = new ReportPreview(std::move(reports), failures, &m_window);
     preview->setAttribute(Qt::WA_DeleteOnClose);
     preview->show();
 }
 
-/// Beside the race that is shown.
-QString AthletePages::proposedPath(const AthletePageChoice& choice) const {
-    const QString race = qtText(m_state.facts().text(m_state.file().path));
+/// Beside the race that it is of, else the first one.
+QString AthletePages::proposedPath(const AthletePageChoice& choice) {
+    const FactStore& facts = *choice.facts;
+    const QString race = qtText(facts.text(facts.files()[choice.file.value_or(0)].path));
     return QFileInfo(race).path() + '/' +
            qtText(report::athletePageFileName(choice.crew.toStdString()));
 }
@@ -85,21 +85,19 @@ void AthletePages::askAndWrite(const AthletePageChoice& choice) {
         write(choice, dialog.selectedFiles().value(0));
 }
 
-bool AthletePages::isSource(const QString& path) const {
-    const FactStore& facts = m_state.facts();
+bool AthletePages::isSource(const FactStore& facts, const QString& path) {
     return std::ranges::any_of(facts.files(), [&](const FileRow& file) {
         return isSameFile(qtText(facts.text(file.path)), path);
     });
 }
 
 void AthletePages::write(const AthletePageChoice& choice, const QString& path) {
-    if (isSource(path)) {
+    if (isSource(*choice.facts, path)) {
         emit failed(path, tr("The page cannot be written over a race that it is made from."));
         return;
     }
     emit writing(path);
-    m_work.run([facts = m_state.sharedFacts(), choice,
-                file = path.toStdString()] { report::writePdf(*pageOf(*facts, choice), file); },
+    m_work.run([choice, file = path.toStdString()] { report::writePdf(*pageOf(choice), file); },
                [this, path] { emit written(path); },
                {[this, path](const std::exception_ptr& fault) {
                     emit failed(path, qtText(messageOf(fault)));

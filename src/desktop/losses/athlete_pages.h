@@ -32,8 +32,8 @@ signals:
     void failed(const QString& path, const QString& reason);
 
 private:
-    [[nodiscard]] QString proposedPath(const AthletePageChoice& choice) const;
-    [[nodiscard]] bool isSource(const QString& path) const;
+    [[nodiscard]] static QString proposedPath(const AthletePageChoice& choice);
+    [[nodiscard]] static bool isSource(const FactStore& facts, const QString& path);
 
     const LossState& m_state;
     Workspace& m_workspace;

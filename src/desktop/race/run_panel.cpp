@@ -20,7 +20,7 @@ namespace kavela::desktop {
 
 namespace {
 
-constexpr std::size_t ClosingColumns = 3; ///< total, sprint, real
+constexpr std::size_t ClosingFigures = 3; ///< total, sprint, real
 
 QString timeOrDash(double seconds) {
     return seconds == 0 ? "–" : shownHundredths(seconds);
@@ -193,7 +193,7 @@ void RunPanel::fillSections(std::size_t run, const std::optional<RunAgainst>& ag
     const SplitTable& table = m_document.table();
     const RaceSet& set = m_document.shownSet();
     const sectionmaindata& whole = set.alldata[run].sectioninfo;
-    const std::size_t sections = table.columns.size() - ClosingColumns;
+    const std::size_t sections = table.columns.size() - ClosingFigures;
     std::vector<Section> rows;
     for (std::size_t i = 0; i < table.columns.size(); ++i) {
         Section row;
@@ -218,7 +218,7 @@ std::optional<Reason> RunPanel::whyOf(std::size_t section, int column) const {
     if (!m_run || *m_run >= table.rows.size() || section >= table.columns.size() || column < TimeAt)
         return std::nullopt;
     const RaceSet& set = m_document.shownSet();
-    const std::size_t sections = table.columns.size() - ClosingColumns;
+    const std::size_t sections = table.columns.size() - ClosingFigures;
     if (column == PenaltyAt && section >= sections)
         return section == sections + 1
                    ? std::nullopt
