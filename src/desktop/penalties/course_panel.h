@@ -49,9 +49,9 @@ private:
     QLabel* m_remark;
     IntervalChart* m_chart;
     CoursePicture m_picture;
-    QString m_pictureOf;                                ///< path of its file
+    QString m_pictureOf;                             ///< path of its file
     std::shared_ptr<const FactStore> m_pictureFacts; ///< as that was read then
-    int m_asked = 0;                                    ///< number of the latest picture
+    int m_asked = 0;                                 ///< number of the latest picture
     BackgroundWork m_work;
 };
 
