@@ -43,8 +43,15 @@ constexpr std::array AnalysisRuleTable{
     Rule{"ideal.accumulated", "The best of every section up to here, put together.",
          "Σ bests up to here", ""},
     Rule{"ideal.total", "The best of every section, put together.", "Σ bests", ""},
+    Rule{"run.penalties", "The seconds of all its touches and missed gates.", "Σ gates", ""},
+    Rule{"section.penalty", "The seconds of touches and missed gates of the section.",
+         "Σ gates of the section", ""},
+    Rule{"real.penalties", "The official penalty seconds as they were entered for this run.",
+         "real penalty", ""},
+    Rule{"run.expected", "The expected time as split taking stored it with this run.", "expected",
+         ""},
 };
-static_assert(AnalysisRuleTable.size() == static_cast<std::size_t>(AnalysisRule::IdealTotal) + 1);
+static_assert(AnalysisRuleTable.size() == static_cast<std::size_t>(AnalysisRule::ExpectedTime) + 1);
 
 } // namespace
 

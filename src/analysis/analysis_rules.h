@@ -29,6 +29,10 @@ enum class AnalysisRule {
     IdealSection,     ///< the best of a section
     IdealAccumulated, ///< the bests up to a mark
     IdealTotal,       ///< the bests of all sections
+    Penalties,        ///< of all gates of a run
+    SectionPenalty,   ///< of the gates of a section
+    RealPenalties,    ///< as stored
+    ExpectedTime,     ///< as stored
 };
 
 [[nodiscard]] const Rule& ruleOf(AnalysisRule rule);

@@ -3,6 +3,7 @@
 #include "analysis/analysis_rules.h"
 #include "analysis/run_place.h"
 #include "common/number_text.h"
+#include "splitdata/frame_step.h"
 #include "splitdata/run_timing.h"
 
 #include <algorithm>
@@ -118,9 +119,13 @@ private:
 
     /// The times of some sections, as far as the run has them.
     static void tellTimes(const analyzerdata& run, std::size_t from, std::size_t to, Why* why) {
+        if (!why)
+            return;
         const std::vector<double>& times = run.sectioninfo.times;
-        for (std::size_t i = from; why && i < std::min(to, times.size()); ++i)
-            why->input("section " + std::to_string(i + 1), times[i], runPlace(run, i + 1));
+        const double step = frameStep(run.sectioninfo.cmtimes, run.upstreams).value_or(0);
+        for (std::size_t i = from; i < std::min(to, times.size()); ++i)
+            why->input("section " + std::to_string(i + 1), times[i], runPlace(run, i + 1),
+                       times[i] == 0 ? 0 : step, HalfFrameTwice);
     }
 
     /// The time after a section; one that a stopped run never reached keeps the last time.

@@ -23,6 +23,12 @@ void Why::input(std::string name, double value, std::optional<Place> place) {
     m_reason.inputs.push_back({std::move(name), value, std::move(place)});
 }
 
+void Why::input(std::string name, double value, std::optional<Place> place, double plusMinus,
+                std::string_view source) {
+    m_reason.inputs.push_back(
+        {std::move(name), value, std::move(place), plusMinus, std::string(source)});
+}
+
 void Why::uncertain(Interval range, std::string source) {
     m_reason.uncertainty = range;
     m_reason.uncertaintySource = std::move(source);

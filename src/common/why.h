@@ -41,7 +41,9 @@ struct Place {
 struct Input {
     std::string name; ///< what it is to the rule: "own", "winner"
     double value = 0;
-    std::optional<Place> place; ///< none for one that stands in no file, such as a preference
+    std::optional<Place> place;       ///< none for one that stands in no file, such as a preference
+    double plusMinus = 0;             ///< how far off it may be; 0 where nobody knows
+    std::string plusMinusSource = {}; ///< "half a frame, two marks"
 };
 
 /// One number and how it came about.
@@ -63,6 +65,9 @@ public:
     /// The rule by which the number is made, the number, and its text.
     void result(const Rule& rule, double value, std::string shown);
     void input(std::string name, double value, std::optional<Place> place = {});
+    /// The same for a number that may be off by some.
+    void input(std::string name, double value, std::optional<Place> place, double plusMinus,
+               std::string_view source);
     void uncertain(Interval range, std::string source);
     void note(std::string text);
     /// A number made on the way: pass the result on to the function that makes it. Good until the

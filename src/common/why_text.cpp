@@ -26,7 +26,8 @@ public:
         for (const Input& input : reason.inputs)
             line("  " + fitted(printable(input.name), width) + "  " +
                  rightAligned(inputText(input), valueWidth(reason)) +
-                 (input.place ? "  " + placeText(*input.place) : std::string()));
+                 (input.place ? "  " + placeText(*input.place) : std::string()) +
+                 (input.plusMinus > 0 ? "  " + plusMinusText(input) : std::string()));
         if (reason.rule)
             field("rule", width, ruleText(reason));
         if (reason.rule && !reason.rule->source.empty())
@@ -118,6 +119,15 @@ std::string inputText(const Input& input) {
     const bool isCount =
         !input.place && std::abs(input.value) < Largest && input.value == std::floor(input.value);
     return isCount ? plainText(input.value) : hundredthsText(input.value);
+}
+
+std::string plusMinusText(const Input& input) {
+    if (!(input.plusMinus > 0))
+        return {};
+    // Below half a hundredth it is not nothing.
+    const std::string amount = input.plusMinus < 0.005 ? fmt::format("{:.3f}", input.plusMinus)
+                                                       : hundredthsText(input.plusMinus);
+    return fmt::format("± {} ({})", amount, printable(input.plusMinusSource));
 }
 
 std::string whyText(const Reason& reason) {

@@ -23,6 +23,8 @@ namespace kavela {
 
 /// The number of an input as it is shown: to the hundredth, and a whole one that stands in no file,
 /// such as a count, as such.
+/// "± 0.02 (half a frame, two marks)"; empty where it is not known how sure the number is.
+[[nodiscard]] std::string plusMinusText(const Input& input);
 [[nodiscard]] std::string inputText(const Input& input);
 
 } // namespace kavela

@@ -71,6 +71,7 @@ struct RunRow {
     double xTime = 0;
     double xPer = 0;
     double start = NotKnown; ///< seconds of the first film at the start mark, where it is known
+    double frame = NotKnown; ///< seconds from frame to frame of it, where its marks tell
     bool isComplete = false; ///< has a total
     bool isOfficial = false; ///< whose total is `realtime` with `realpen`
     bool isRefused = false;  ///< a list says DNF, DNS or DSQ

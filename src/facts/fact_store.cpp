@@ -4,6 +4,7 @@
 #include "facts/row_ranges.h"
 #include "splitdata/athlete_keys.h"
 #include "splitdata/film_marks.h"
+#include "splitdata/frame_step.h"
 #include "splitdata/penalty_entries.h"
 #include "splitdata/run_timing.h"
 #include "splitdata/run_totals.h"
@@ -91,6 +92,8 @@ void takeTiming(const infodata031& info, const athletedata031& run, RunRow& row)
     row.isRefused = isRefused(info, run);
     if (const auto start = startOf(run))
         row.start = start->seconds();
+    if (const auto step = frameStep(run.sectioninfo.cmtimes, run.upstreams))
+        row.frame = *step;
     if (const auto total = totalOf(info, run)) {
         row.isComplete = true;
         row.isOfficial = total->official;

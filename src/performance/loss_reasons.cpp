@@ -44,6 +44,8 @@ struct SeasonIdWord {
 };
 
 constexpr std::array SeasonIdWords{
+    SeasonIdWord{"seasonruns", SeasonLossNumber::Runs, true},
+    SeasonIdWord{"seasonloss", SeasonLossNumber::Loss, true},
     SeasonIdWord{"seasonpercent", SeasonLossNumber::Percent, true},
     SeasonIdWord{"seasonrun", SeasonLossNumber::PerRun, true},
     SeasonIdWord{"seasonshare", SeasonLossNumber::Share, true},

@@ -14,7 +14,7 @@
 ///     xtimediff/RUN                    interest/RUN/NUMBER
 ///     noted/FIELD/KEY                  gained/FIELD/KEY
 ///     way/RUN/NUMBER
-///     seasonpercent/FIELD/KEY          seasonrun/…, seasonshare/… the same
+///     seasonpercent/FIELD/KEY          seasonrun/…, seasonshare/…, seasonloss/…, seasonruns/…
 ///     seasongap, seasonpenalties
 ///
 /// RUN and NUMBER are counted from 0, sections and gates from 1; RUN is a run of the store, which

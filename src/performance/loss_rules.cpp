@@ -54,8 +54,17 @@ constexpr std::array LossRuleTable{
          "Σ(own − reference) / n", "interval: Student's t"},
     Rule{"loss.sofar", "What was lost on the water up to a mark: all stretches before it.",
          "Σ losses to here", ""},
+    Rule{"loss.run", "The total of the run: the official one where it has one.", "time + penalties",
+         ""},
+    Rule{"loss.place", "One more than have a smaller total in the group, to the hundredth.",
+         "1 + totals below the own", ""},
+    Rule{"loss.strokes", "The strokes that were marked in the stretch.", "Σ strokes", ""},
+    Rule{"loss.section.penalty", "The seconds of penalty at the gates of the stretch.",
+         "Σ penalties", ""},
+    Rule{"loss.season.runs", "The whole runs that have something of it.", "number of runs", ""},
+    Rule{"loss.season.loss", "What was lost here in all runs together.", "Σ losses", ""},
 };
-static_assert(LossRuleTable.size() == static_cast<std::size_t>(LossRule::GapSoFar) + 1);
+static_assert(LossRuleTable.size() == static_cast<std::size_t>(LossRule::SeasonLoss) + 1);
 
 } // namespace
 

@@ -34,6 +34,12 @@ enum class LossRule {
     SeasonGap,       ///< mean of the season
     SeasonPenalties, ///< mean of the season
     GapSoFar,        ///< of the stretches up to a mark
+    RunTotal,        ///< of a run, with penalties
+    Place,           ///< of a run in its group
+    Strokes,         ///< of a stretch
+    SectionPenalty,  ///< of a stretch
+    SeasonRuns,      ///< of a row of the season
+    SeasonLoss,      ///< of a row of the season
 };
 
 [[nodiscard]] const Rule& ruleOf(LossRule rule);

@@ -156,6 +156,22 @@ void tellRuns(const FactStore& facts, const SeasonColumn& column, Why& why) {
     }
 }
 
+void tellRunCount(const FactStore& facts, const SeasonColumn& column, Why* why) {
+    for (std::size_t i = 0; why && i < column.runs.size(); ++i)
+        why->input(std::string(facts.text(facts.runs()[column.runs[i]].phase)), 1,
+                   lossPlace(facts, column.runs[i]));
+    if (why)
+        why->result(ruleOf(LossRule::SeasonRuns), static_cast<double>(column.runs.size()),
+                    std::to_string(column.runs.size()));
+}
+
+void tellLoss(const FactStore& facts, const SeasonColumn& column, double loss, Why* why) {
+    if (!why)
+        return;
+    tellRuns(facts, column, *why);
+    why->result(ruleOf(LossRule::SeasonLoss), loss, signedHundredths(loss));
+}
+
 void addPercent(const FactStore& facts, const SeasonColumn& column, SeasonLossRow& row, Why* why) {
     const RatioOf ratio = ratioOf(column.losses, column.references);
     row.percent = ratio.percent;
@@ -208,6 +224,8 @@ SeasonLossRow rowOf(const FactStore& facts, const SeasonColumn& column, double w
     row.runs = column.runs.size();
     row.loss = totalOfAll(column.losses);
     row.reference = totalOfAll(column.references);
+    tellRunCount(facts, column, asked(SeasonLossNumber::Runs));
+    tellLoss(facts, column, row.loss, asked(SeasonLossNumber::Loss));
     addPercent(facts, column, row, asked(SeasonLossNumber::Percent));
     addPerRun(facts, column, row, asked(SeasonLossNumber::PerRun));
     addShare(facts, column, row, wholeGap, asked(SeasonLossNumber::Share));

@@ -65,7 +65,7 @@ struct SeasonLosses {
 };
 
 /// The numbers of a season.
-enum class SeasonLossNumber { None, Percent, PerRun, Share, Gap, Penalties };
+enum class SeasonLossNumber { None, Runs, Loss, Percent, PerRun, Share, Gap, Penalties };
 
 struct SeasonLossQuestion {
     SeasonLossNumber number = SeasonLossNumber::None;

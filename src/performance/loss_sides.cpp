@@ -3,6 +3,7 @@
 #include "common/number_text.h"
 #include "common/percentile.h"
 #include "performance/loss_rules.h"
+#include "splitdata/frame_step.h"
 #include "splitdata/run_totals.h"
 
 #include <algorithm>
@@ -132,7 +133,7 @@ double madeSection(const FactStore& facts, std::span<const std::size_t> pool, bo
         times.push_back(row.time);
         if (why)
             why->input(std::string(facts.text(facts.runs()[run].crew)), row.time,
-                       lossPlace(facts, run, section));
+                       lossPlace(facts, run, section), markUncertainty(facts, run), HalfFrameTwice);
     }
     return madeOf(std::move(times), isMedian, why);
 }
@@ -159,6 +160,11 @@ const GateRow* firstEntry(const FactStore& facts, const RunRow& run, std::int32_
     const auto rows = facts.gatesOf(run);
     const auto found = std::ranges::find(rows, gate, &GateRow::gate);
     return found == rows.end() ? nullptr : &*found;
+}
+
+double markUncertainty(const FactStore& facts, std::size_t run) {
+    const double frame = facts.runs()[run].frame;
+    return std::isfinite(frame) ? frame : 0;
 }
 
 Place lossPlace(const FactStore& facts, std::size_t run, std::optional<std::size_t> section) {

@@ -71,6 +71,10 @@ struct LossPair {
 [[nodiscard]] const GateRow* firstEntry(const FactStore& facts, const RunRow& run,
                                         std::int32_t gate);
 
+/// How far off a time between two marks of a run may be, in seconds; 0 where its marks do not tell
+/// the frames of its film.
+[[nodiscard]] double markUncertainty(const FactStore& facts, std::size_t run);
+
 /// Where the mark stands that ends a section, counted from 1; without one, the run itself.
 [[nodiscard]] Place lossPlace(const FactStore& facts, std::size_t run,
                               std::optional<std::size_t> section = {});

@@ -2,7 +2,9 @@
 
 #include "analysis/cell_text.h"
 #include "common/number_text.h"
+#include "performance/loss_counts.h"
 #include "performance/loss_rules.h"
+#include "splitdata/frame_step.h"
 #include "splitdata/run_totals.h"
 
 #include <fmt/format.h>
@@ -33,30 +35,10 @@ StretchKind kindOfStretch(const LossPair& pair, std::size_t first, std::size_t l
     return hasUpstreamGate(pair, first) ? StretchKind::Upstream : StretchKind::Downstream;
 }
 
-/// Strokes marked in some sections; nothing for a run in which none are marked at all, and for one
-/// that nobody paddled.
-std::optional<std::int64_t> strokesOf(const FactStore& facts, const LossSide& side,
-                                      std::size_t first, std::size_t last) {
-    if (!side.run)
-        return std::nullopt;
-    std::int64_t all = 0;
-    std::int64_t inside = 0;
-    const auto sections = facts.sectionsOf(facts.runs()[*side.run]);
-    for (std::size_t k = 1; k <= sections.size(); ++k) {
-        const SectionRow& row = sections[k - 1];
-        const std::int64_t strokes = row.left + row.right + row.other;
-        all += strokes;
-        inside += first <= k && k <= last ? strokes : 0;
-    }
-    return all > 0 ? std::optional(inside) : std::nullopt;
-}
-
-std::int64_t penaltyOf(const LossPair& pair, std::size_t first, std::size_t last) {
-    std::int64_t seconds = 0;
-    const auto sections = pair.facts.sectionsOf(pair.facts.runs()[*pair.own.run]);
-    for (std::size_t k = first; k <= std::min(last, sections.size()); ++k)
-        seconds += sections[k - 1].pen;
-    return seconds;
+/// Of a side that somebody paddled.
+std::optional<std::int64_t> strokesOf(const LossPair& pair, const LossSide& side, std::size_t first,
+                                      std::size_t last) {
+    return side.run ? stretchStrokes(pair.facts, *side.run, first, last) : std::nullopt;
 }
 
 Stretch stretchBetween(const LossPair& pair, std::size_t first, std::size_t last) {
@@ -69,9 +51,9 @@ Stretch stretchBetween(const LossPair& pair, std::size_t first, std::size_t last
     stretch.reference = stretchTime(pair, pair.reference, first, last);
     stretch.loss = stretchLoss(pair, first, last);
     stretch.percent = stretchPercent(pair, first, last);
-    stretch.pen = penaltyOf(pair, first, last);
-    stretch.strokes = strokesOf(pair.facts, pair.own, first, last);
-    stretch.referenceStrokes = strokesOf(pair.facts, pair.reference, first, last);
+    stretch.pen = stretchPenalties(pair.facts, *pair.own.run, first, last);
+    stretch.strokes = strokesOf(pair, pair.own, first, last);
+    stretch.referenceStrokes = strokesOf(pair, pair.reference, first, last);
     return stretch;
 }
 
@@ -79,11 +61,32 @@ Stretch stretchBetween(const LossPair& pair, std::size_t first, std::size_t last
 void tellSection(const LossPair& pair, const LossSide& side, std::size_t section, Why& why) {
     const double time = side.times[section - 1];
     if (side.run) {
-        why.input(side.name, time, lossPlace(pair.facts, *side.run, section));
+        why.input(side.name, time, lossPlace(pair.facts, *side.run, section),
+                  markUncertainty(pair.facts, *side.run), HalfFrameTwice);
         return;
     }
     why.input(side.name, time);
     (void)madeSection(pair.facts, side.pool, side.isMedian, section, why.part());
+}
+
+/// Where the films of both tell their frames: four marks, each half a frame beside the moment at
+/// most.
+void tellUncertainty(const LossPair& pair, double loss, Why& why) {
+    if (!pair.own.run || !pair.reference.run)
+        return;
+    const double own = markUncertainty(pair.facts, *pair.own.run);
+    const double reference = markUncertainty(pair.facts, *pair.reference.run);
+    if (own == 0 || reference == 0)
+        return;
+    const auto rounded = [](double seconds) { return std::round(seconds * 1e6) / 1e6; };
+    why.uncertain({rounded(loss - own - reference), rounded(loss + own + reference)},
+                  "half a frame, four marks");
+}
+
+/// Tells the two times and not yet what is made of them.
+double lossOfTimes(const LossPair& pair, std::size_t first, std::size_t last, Why* why) {
+    const double own = stretchTime(pair, pair.own, first, last, why);
+    return own - stretchTime(pair, pair.reference, first, last, why);
 }
 
 } // namespace
@@ -128,16 +131,17 @@ double stretchTime(const LossPair& pair, const LossSide& side, std::size_t first
 }
 
 double stretchLoss(const LossPair& pair, std::size_t first, std::size_t last, Why* why) {
-    const double own = stretchTime(pair, pair.own, first, last, why);
-    const double loss = own - stretchTime(pair, pair.reference, first, last, why);
-    if (why)
+    const double loss = lossOfTimes(pair, first, last, why);
+    if (why) {
         why->result(ruleOf(LossRule::Loss), loss, signedHundredths(loss));
+        tellUncertainty(pair, loss, *why);
+    }
     return loss;
 }
 
 double stretchPercent(const LossPair& pair, std::size_t first, std::size_t last, Why* why) {
     const double reference = stretchTime(pair, pair.reference, first, last);
-    const double percent = 100 * stretchLoss(pair, first, last, why) / reference;
+    const double percent = 100 * lossOfTimes(pair, first, last, why) / reference;
     if (why)
         why->result(ruleOf(LossRule::LossPercent), percent, fmt::format("{:+.1f} %", percent));
     return percent;

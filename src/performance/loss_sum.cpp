@@ -3,6 +3,7 @@
 #include "analysis/cell_text.h"
 #include "common/number_text.h"
 #include "performance/loss_rules.h"
+#include "splitdata/frame_step.h"
 #include "statistics/shown_parts.h"
 
 #include <algorithm>
@@ -40,7 +41,8 @@ void tellTotal(const LossPair& pair, const LossSide& side, bool isOfficial, Why&
     for (std::size_t section = 1; section <= side.times.size(); ++section)
         part.input("section " + std::to_string(section), side.times[section - 1],
                    side.run ? std::optional(lossPlace(pair.facts, *side.run, section))
-                            : std::nullopt);
+                            : std::nullopt,
+                   side.run ? markUncertainty(pair.facts, *side.run) : 0, HalfFrameTwice);
     part.input("penalties", static_cast<double>(total.penalty), placeOfSide(pair, side));
     part.result(ruleOf(LossRule::VideoTotal), total.total, hundredthsText(total.total));
 }

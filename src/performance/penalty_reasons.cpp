@@ -123,7 +123,8 @@ MaybeReason explainCost(const FactStore& facts, std::string_view rest,
 
 MaybeReason explainThird(const FactStore& facts, std::string_view rest,
                          const PenaltyChoice& choice) {
-    constexpr std::array<std::string_view, 4> Figures{"touches", "missed", "paddling", "total"};
+    constexpr std::array<std::string_view, 5> Figures{"touches", "missed", "paddling", "total",
+                                                      "runs"};
     const auto [number, name] = beforeSlash(rest);
     const auto third = numberIn<int>(number);
     const auto figure = std::ranges::find(Figures, name);

@@ -62,6 +62,9 @@ constexpr Rule Total{"penalty-third-total",
                      "Time with penalties in percent of the median of its group, mean of the runs "
                      "of this third.",
                      "mean of 100·total / median total", ""};
+constexpr Rule ThirdRuns{"penalty-third-runs",
+                         "The whole runs of this third of the field by paddling time.",
+                         "number of runs", ""};
 constexpr Rule BreakEven{"penalty-break-even",
                          "Touches that one percent of speed pays for: a hundredth of the time, in "
                          "touches of 2 s.",
@@ -71,9 +74,9 @@ constexpr Rule BreakEven{"penalty-break-even",
 
 std::span<const Rule* const> penaltyRules() {
     using namespace penalty_rules;
-    static constexpr std::array<const Rule*, 13> All{
-        &Single, &Ranked,  &Common, &Above,    &Clean, &Detail,   &Cost,
-        &Rank,   &Touches, &Missed, &Paddling, &Total, &BreakEven};
+    static constexpr std::array<const Rule*, 14> All{
+        &Single, &Ranked,  &Common, &Above,    &Clean, &Detail,    &Cost,
+        &Rank,   &Touches, &Missed, &Paddling, &Total, &ThirdRuns, &BreakEven};
     return All;
 }
 

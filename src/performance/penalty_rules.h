@@ -24,6 +24,7 @@ extern const Rule Touches;   ///< touches per run of a third
 extern const Rule Missed;    ///< missed gates per run of a third
 extern const Rule Paddling;  ///< paddling time of a third
 extern const Rule Total;     ///< the same with penalties
+extern const Rule ThirdRuns; ///< how many are in a third
 extern const Rule BreakEven; ///< touches that 1 % of speed pays for
 
 } // namespace penalty_rules

@@ -83,6 +83,8 @@ double valueOf(const PacedRun& run, ThirdFigure figure) {
         return static_cast<double>(run.missed);
     case ThirdFigure::Paddling:
         return run.paddling;
+    case ThirdFigure::Runs:
+        return 1;
     case ThirdFigure::Total:
         break;
     }
@@ -106,6 +108,10 @@ void tellRow(Why& why, const FactStore& facts, const std::vector<PacedRun>& runs
         break;
     case ThirdFigure::Total:
         why.result(penalty_rules::Total, row.total, fmt::format("{:.1f} %", row.total));
+        break;
+    case ThirdFigure::Runs:
+        why.result(penalty_rules::ThirdRuns, static_cast<double>(row.runs),
+                   std::to_string(row.runs));
         break;
     }
     for (const PacedRun& run : runs)

@@ -53,7 +53,7 @@ struct TradeOff {
 [[nodiscard]] TradeOff tradeOff(const FactStore& facts, const PenaltyChoice& choice = {});
 
 /// Which number of a third is asked for.
-enum class ThirdFigure { Touches, Missed, Paddling, Total };
+enum class ThirdFigure { Touches, Missed, Paddling, Total, Runs };
 
 /// A row from its runs, of which there is at least one.
 [[nodiscard]] TradeOffRow tradeOffRow(const FactStore& facts, const PacedRuns& paced, int third,

@@ -1,6 +1,7 @@
 #include "sample/annotations.h"
 
 #include "common/number_text.h"
+#include "splitdata/run_timing.h"
 
 #include <algorithm>
 #include <array>
@@ -161,7 +162,7 @@ void noteTimeLoss(athletedata031& run, const athletedata031& versus, const Cours
         return;
     const double best = versus.sectioninfo.times[section];
     timeloss031 loss;
-    loss.versus = versus.names.front();
+    loss.versus = crewText(versus.names);
     loss.gateCombination = dice.code(5);
     loss.gateDetails = dice.code(4);
     loss.style = dice.code(3);

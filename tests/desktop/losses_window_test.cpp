@@ -4,8 +4,11 @@
 #include "common/recorders.h"
 #include "common/temp_folder.h"
 #include "desktop/charts/chart_plot.h"
+#include "desktop/charts/interval_chart.h"
 #include "desktop/desktop.h"
 #include "desktop/film/clip_pair.h"
+#include "desktop/losses/athlete_page_dialog.h"
+#include "desktop/losses/athlete_pages.h"
 #include "desktop/losses/heat_map_chart.h"
 #include "desktop/losses/loss_charts_panel.h"
 #include "desktop/losses/loss_header.h"
@@ -22,6 +25,7 @@
 
 #include <QComboBox>
 #include <QLineEdit>
+#include <QPushButton>
 #include <QTest>
 
 #include <numeric>
@@ -157,6 +161,15 @@ TEST_F(LossesWindowTest, EveryNumberOfTheSumTellsWhy) {
     ASSERT_TRUE(gap);
     EXPECT_EQ(gap->value, state().losses().sum->gap);
     EXPECT_TRUE(whyOf(state(), runLines(state()).at(1), 6)) << "paddling of another run";
+    const RunLine last = runLines(state()).at(2);
+    const auto place = whyOf(state(), last, 0);
+    ASSERT_TRUE(place);
+    EXPECT_EQ(place->value, 3);
+    EXPECT_THAT(place->inputs, SizeIs(3)) << "its total and the two in front";
+    EXPECT_EQ(whyOf(state(), last, 4)->value, *last.total);
+    const auto penalty = whyOf(state(), line, 10, 1);
+    ASSERT_TRUE(penalty);
+    EXPECT_EQ(penalty->inputs.front().place->split, 2U);
 }
 
 TEST_F(LossesWindowTest, SaysThatThereIsNoFilm) {
@@ -198,9 +211,72 @@ TEST_F(LossesWindowTest, ShowsWhereAnAthleteLosesTimeOverASeason) {
     EXPECT_THAT(m_window.season().summary().toStdString(), HasSubstr("4 whole runs in 4 files"));
     EXPECT_THAT(m_window.season().advice().toStdString(), HasSubstr("upstream"));
     ASSERT_GT(m_window.season().clips().model()->rowCount(), 0);
+    const auto& rows = m_window.season().season().rows;
+    const auto& marks = m_window.season().chart().content().marks;
+    ASSERT_EQ(marks.size(), rows.size());
+    for (std::size_t i = 0; i < rows.size(); ++i) {
+        ASSERT_TRUE(rows[i].interval && marks[i].hasInterval) << rows[i].text;
+        EXPECT_EQ(marks[i].low, rows[i].interval->low);
+        EXPECT_EQ(marks[i].isBold, rows[i].verdict == LossVerdict::Losing);
+    }
+    emit m_window.season().chart().markActivated(1);
+    EXPECT_EQ(m_window.season().table().currentPlace(), 1);
     state().setRun(1);
     state().setRun(0); // another crew than that of the run before
     EXPECT_THAT(m_window.season().summary().toStdString(), HasSubstr("Best One"));
+}
+
+TEST_F(LossesWindowTest, TellsWhenTheRunOrItsRivalIsGone) {
+    splittakerdata031 race = threeRuns();
+    const QString path = add("race.kvx", race);
+    ASSERT_TRUE(open({path}, 2));
+    state().setReference({LossReferenceKind::Run, 1});
+    const auto follows = [&](const std::string& words) {
+        m_window.facts().readAgain();
+        return QTest::qWaitFor(
+            [&] { return m_window.status().toStdString().find(words) != std::string::npos; });
+    };
+    race.athletes.erase(race.athletes.begin() + 1);
+    (void)add("race.kvx", race);
+    EXPECT_TRUE(follows("Bea Sample, Final is not in the files any more"));
+    EXPECT_EQ(state().reference().kind, LossReferenceKind::Winner);
+    EXPECT_EQ(m_window.header().sentence(), "Ondřej Skalboř, Final  +3.62 on winner");
+    race.athletes.pop_back();
+    (void)add("race.kvx", race);
+    EXPECT_TRUE(follows("Ondřej Skalboř, Final is not in the files any more"));
+    EXPECT_TRUE(state().hasRun()) << "another one of the race";
+}
+
+TEST_F(LossesWindowTest, WritesTheAthletesPageOfOneRaceOrOfAll) {
+    const QString first = add("first.kvx", threeRuns());
+    ASSERT_TRUE(open({first, add("second.kvx", threeRuns())}, 1));
+    const AthletePageDialog dialog(state(), m_window.season().query(), &m_window);
+    auto* const scope = dialog.findChild<QComboBox*>("scope");
+    auto* const crews = dialog.findChild<QComboBox*>("crew");
+    EXPECT_EQ(crews->count(), 3) << "each crew once";
+    ASSERT_TRUE(dialog.choice());
+    EXPECT_EQ(dialog.choice()->crew, "Bea Sample") << "whose run is shown";
+    EXPECT_FALSE(dialog.choice()->file);
+    scope->setCurrentIndex(1);
+    EXPECT_EQ(dialog.choice()->file, 0U);
+    EXPECT_EQ(dialog.choice()->crew, "Bea Sample");
+    crews->setEditText("nobody");
+    EXPECT_FALSE(dialog.choice());
+    crews->setEditText("ada sample · k1m");
+    ASSERT_TRUE(dialog.choice());
+
+    auto* const open = m_window.findChild<QPushButton*>("openPage");
+    const fs::path pdf = m_folder.path() / "page.pdf";
+    m_window.athletePages().write(*dialog.choice(), QString::fromStdString(pdf.string()));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return open->isVisible(); }));
+    EXPECT_TRUE(fs::file_size(pdf) > 1000);
+
+    const auto size = fs::file_size(first.toStdString());
+    m_window.athletePages().write(*dialog.choice(), first);
+    EXPECT_EQ(fs::file_size(first.toStdString()), size) << "never over a race";
+    ASSERT_THAT(m_recorder.alerts, SizeIs(1));
+    EXPECT_THAT(m_recorder.alerts.front(), HasSubstr("written over a race"));
+    m_recorder.alerts.clear();
 }
 
 TEST_F(LossesWindowTest, OpensOnceForTheSameFiles) {

@@ -13,7 +13,9 @@
 #include "race_fixture.h"
 #include "splitdata/document.h"
 
+#include <QBuffer>
 #include <QComboBox>
+#include <QImage>
 #include <QLabel>
 #include <QPushButton>
 
@@ -221,7 +223,14 @@ TEST_F(PenaltiesWindowTest, EveryNumberTellsWhy) {
     EXPECT_EQ(m_window.costs().whyOf(0, 9)->value, 1) << "fourth, and third without it";
     EXPECT_GT(explainedIn(m_window.details()), 0);
     EXPECT_EQ(explainedIn(m_window.details()), m_window.details().table().model()->rowCount() * 4);
-    EXPECT_EQ(explainedIn(m_window.tradeOff()), 3 * 5);
+    const auto& marks = m_window.details().chart().content().marks;
+    ASSERT_FALSE(marks.empty());
+    m_window.showPage(PenaltiesWindow::Details);
+    emit m_window.details().chart().markActivated(marks.size() - 1);
+    const int place = m_window.details().table().currentPlace();
+    ASSERT_GE(place, static_cast<int>(marks.size()) - 1) << "behind rows of what was not noted";
+    EXPECT_NEAR(m_window.details().whyOf(place, 4)->value * 100, marks.back().value, 1e-9);
+    EXPECT_EQ(explainedIn(m_window.tradeOff()), 3 * 6);
     EXPECT_NEAR(m_window.tradeOff().whyOf(0, 2)->value, 2 / 3.0, 1e-9) << "two of three runs";
     for (const RateBy by : {RateBy::Type, RateBy::Crew, RateBy::Hand, RateBy::File}) {
         m_window.rates().setBy(by);
@@ -229,6 +238,27 @@ TEST_F(PenaltiesWindowTest, EveryNumberTellsWhy) {
         EXPECT_EQ(explainedIn(m_window.rates()), m_window.rates().table().model()->rowCount() * 10)
             << nameOf(by);
     }
+}
+
+TEST_F(PenaltiesWindowTest, DrawsTheCourseOverItsPictureWhereTheFileHoldsOne) {
+    QByteArray png;
+    QBuffer buffer(&png);
+    QImage drawn(40, 20, QImage::Format_RGB32);
+    drawn.fill(Qt::red);
+    ASSERT_TRUE(drawn.save(&buffer, "PNG"));
+    splittakerdata031 race = final();
+    race.info.coursedesign.bytes = std::vector<unsigned char>(png.begin(), png.end());
+    ASSERT_TRUE(open({pathText(add("drawn.kvx", race))}));
+    const IntervalChart& chart = m_window.course().chart();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return chart.content().backdrop.size() == QSize(40, 20); }));
+    const auto* const remark = m_window.findChild<QLabel*>("pictureRemark");
+    EXPECT_FALSE(remark->isVisibleTo(&m_window.course()));
+
+    race.info.coursedesign.bytes = std::vector<unsigned char>{1, 2, 3};
+    ASSERT_TRUE(open({pathText(add("broken.kvx", race))}));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return remark->isVisibleTo(&m_window.course()); }));
+    EXPECT_TRUE(chart.content().backdrop.isNull()) << "that of the file before is gone";
+    EXPECT_THAT(chart.content().marks, SizeIs(4));
 }
 
 TEST_F(PenaltiesWindowTest, FiltersByCategoryAndCrewAndSaysWhatSpeedPays) {

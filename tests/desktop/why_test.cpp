@@ -1,5 +1,7 @@
+#include "common/number_text.h"
 #include "desktop/film/film_stage.h"
 #include "desktop/motion/motion_window.h"
+#include "desktop/race/run_panel.h"
 #include "desktop/race_fixture.h"
 #include "desktop/selection/ranking_model.h"
 #include "desktop/selection/selection_window.h"
@@ -7,12 +9,15 @@
 #include "desktop/taking/split_mode.h"
 #include "desktop/taking/taking_window.h"
 #include "desktop/team_fixture.h"
+#include "desktop/why/why_label.h"
 #include "desktop/why/why_window.h"
 
 #include <QClipboard>
 #include <QLabel>
 #include <QPushButton>
 #include <QTreeWidget>
+
+#include <array>
 
 /// A number is asked why, and answers with what the window shows.
 namespace kavela::test {
@@ -188,6 +193,54 @@ TEST_F(WhyTest, SplitTakingExplainsTheExpectedTimeOfTheRun) {
     pressWhy(*window);
     EXPECT_EQ(shownBy(*window),
               QString::number(window->document().expectedTime(7), 'f', 2).toStdString());
+}
+
+TEST_F(WhyTest, TheRunsPanelAnswersForEachOfItsNumbers) {
+    RaceWindow* const window = openAt(2, FirstTime);
+    ASSERT_TRUE(window);
+    auto* const panel = window->findChild<desktop::RunPanel*>();
+    auto* const sections = panel->findChild<ColumnTable*>();
+    QTRY_VERIFY(sections->isVisible());
+    sections->setFocus();
+    for (const int column : {1, 3, 4}) { // time, place, gap
+        sections->choose(0, column);
+        pressWhy(*window);
+        EXPECT_EQ(shownBy(*window), sections->cellAt(0, column).data().toString().toStdString());
+        delete answerOf(*window);
+    }
+    const analyzerdata& run = window->document().shownSet().alldata[*window->model().runOfRow(2)];
+    QStringList asked;
+    for (auto* const label : panel->findChildren<desktop::WhyLabel*>()) {
+        if (!label->isVisible())
+            continue;
+        asked << label->text();
+        label->setFocus();
+        pressWhy(*window);
+        EXPECT_THAT(label->text().toStdString(), HasSubstr(shownBy(*window)));
+        delete answerOf(*window);
+    }
+    EXPECT_THAT(asked.join(' ').toStdString(),
+                HasSubstr(hundredthsText(run.sectioninfo.totaltime)));
+    EXPECT_GE(asked.size(), 4) << "total, penalties and those of the list";
+}
+
+TEST_F(WhyTest, SplitTakingExplainsTotalAndPenalties) {
+    TakingWindow* const window = m_desktop.openTaking(
+        QString::fromStdString(copyOf(Examples / "races" / "riverside_cup.kvx").string()));
+    ASSERT_TRUE(window);
+    window->selectRun(7);
+    const sectiondata030& timing = window->document().run(7).sectioninfo;
+    const std::array expected{hundredthsText(timing.totaltime), std::to_string(timing.totalpen)};
+    const auto labels = window->findChildren<desktop::WhyLabel*>();
+    ASSERT_GE(labels.size(), 2);
+    for (const std::size_t i : {0U, 1U}) {
+        labels[static_cast<qsizetype>(i)]->setFocus();
+        pressWhy(*window);
+        EXPECT_EQ(shownBy(*window), expected[i]);
+        ASSERT_TRUE(answerOf(*window));
+        EXPECT_THAT(answerOf(*window)->text().toStdString(), HasSubstr("run 7"));
+        delete answerOf(*window);
+    }
 }
 
 class TeamWhyTest : public TeamFixture {};

@@ -1,8 +1,12 @@
+#include "facts/found_reasons.h"
+#include "facts/found_text.h"
 #include "facts/groups.h"
 #include "facts/query.h"
 #include "facts/small_season.h"
 
 #include <gmock/gmock.h>
+
+#include <cmath>
 
 namespace kavela::test {
 
@@ -77,6 +81,42 @@ TEST_F(Queries, GroupsHaveTheirFigures) {
                 ElementsAre("1|2|40.00|40.50", "2|4|48.00|49.00"));
     EXPECT_THAT(found("runs by cat, phase sort count down first 1", {"cat", "phase", "count"}),
                 ElementsAre("K1W|Final|2"));
+}
+
+TEST_F(Queries, EveryNumberSaysWhereItStandsAndWhatItIsMadeOf) {
+    const QueryAnswer rows = answer(m_facts, parsedQuery("sections section 2 time<49"));
+    ASSERT_EQ(rows.size(), 1U);
+    std::size_t told = 0;
+    for (std::size_t column = 0; column < rows.columns().size(); ++column) {
+        const auto reason = explainFound(rows, 0, column);
+        EXPECT_EQ(reason.has_value(),
+                  isNumber(rows.columns()[column]) && !std::isnan(rows.value(0, column).number));
+        if (!reason)
+            continue;
+        ++told;
+        EXPECT_EQ(reason->shown, rows.text(0, column));
+        ASSERT_THAT(reason->inputs, testing::SizeIs(1));
+        EXPECT_EQ(reason->inputs[0].place->run, 1U);
+        EXPECT_EQ(reason->inputs[0].place->split, 2U);
+    }
+    EXPECT_GT(told, 1U);
+
+    const QueryAnswer groups = answer(m_facts, parsedQuery("sections by section"));
+    for (std::size_t group = 0; group < groups.size(); ++group)
+        for (std::size_t column = 1; column < groups.columns().size(); ++column) {
+            const auto reason = explainFound(groups, group, column);
+            ASSERT_TRUE(reason) << groups.columns()[column].name;
+            double sum = 0;
+            for (const Input& input : reason->inputs)
+                sum += input.value;
+            const auto count = static_cast<double>(reason->inputs.size());
+            if (groups.columns()[column].name == "count") {
+                EXPECT_EQ(sum, reason->value);
+            } else if (groups.columns()[column].name == "mean") {
+                EXPECT_DOUBLE_EQ(sum / count, reason->value);
+            }
+        }
+    EXPECT_FALSE(explainFound(groups, groups.size(), 0));
 }
 
 TEST_F(Queries, ARowIsSeenOnItsFilm) {

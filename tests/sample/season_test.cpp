@@ -217,6 +217,9 @@ TEST(Season, HoldsEveryKindOfRunAndSession) {
             note(times.back() == 0 && run.sectioninfo.realtime > 0, "film ended early");
             note(!run.bm.empty() && !run.watchmotion.empty(), "sensors");
             note(!run.timeslosses.empty() && !run.strategies.empty(), "analysed");
+            for (const timeloss031& loss : run.timeslosses)
+                EXPECT_EQ(loss.versus.find(" / ") != std::string::npos, run.names.size() == 2)
+                    << loss.versus << " is one crew, of the same kind of boat";
         }
     }
     EXPECT_THAT(kinds, testing::ElementsAre("Kayak Cross", "Race", "Test", "Training"));

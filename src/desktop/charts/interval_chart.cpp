@@ -24,6 +24,7 @@ constexpr double BareWidth = 9;
 constexpr double Headroom = 1.12;  ///< of the height
 constexpr double LongestName = 96; ///< pixels that a name which stands upright may take
 constexpr double NarrowestPatch = 20;
+constexpr double BackdropOpacity = 0.22; ///< the intervals stay what is seen first
 
 SeriesStyle styleOf(const IntervalMark& mark, const QPalette& palette) {
     SeriesStyle style = seriesStyle(ValueSlot, palette);
@@ -45,7 +46,12 @@ IntervalChart::IntervalChart(QWidget* parent) : ChartFrame(parent) {
     canvas().xAxis->setTicks(false);
     canvas().xAxis->grid()->setVisible(false);
     new PaintedLayer(canvas(), "axes", [this](QCPPainter& painter) { paintBelow(painter); });
-    new PaintedLayer(canvas(), "grid", [this](QCPPainter& painter) { paintSections(painter); });
+    new PaintedLayer(canvas(), "background",
+                     [this](QCPPainter& painter) { paintBackdrop(painter); });
+    new PaintedLayer(canvas(), "grid", [this](QCPPainter& painter) {
+        paintSections(painter);
+        paintGroups(painter);
+    });
     new PaintedLayer(canvas(), "main", [this](QCPPainter& painter) { paintMarks(painter); });
 }
 
@@ -89,18 +95,26 @@ void IntervalChart::showLabels() {
         labels.push_back(label);
     };
     add(ValueSeries, m_content.valueName, seriesStyle(ValueSlot, palette()).colour, false);
-    add(BareSeries, m_content.bareName, theme::quietText(palette()), true);
-    add(CommonSeries, m_content.commonName, theme::quietText(palette()), true);
-    labels.back().value = valueText(m_content.common);
+    if (!m_content.bareName.isEmpty())
+        add(BareSeries, m_content.bareName, theme::quietText(palette()), true);
+    if (!m_content.commonName.isEmpty()) {
+        add(CommonSeries, m_content.commonName, theme::quietText(palette()), true);
+        labels.back().value = valueText(m_content.common);
+    }
     seriesLabels().setLabels(std::move(labels));
 }
 
+/// From 0, or from below it where a figure can be less than nothing.
 void IntervalChart::setLimits() {
-    double highest = m_content.common;
-    for (const IntervalMark& mark : m_content.marks)
+    double highest = std::max(m_content.common, 0.0);
+    double lowest = std::min(m_content.common, 0.0);
+    for (const IntervalMark& mark : m_content.marks) {
         highest = std::max({highest, mark.high, mark.bare.value_or(0)});
+        lowest = std::min({lowest, mark.low, mark.bare.value_or(0)});
+    }
     const auto count = static_cast<double>(m_content.marks.size());
-    canvas().setLimits({0.4, count + 0.6}, {0, highest > 0 ? highest * Headroom : 1});
+    const double top = highest > 0 || lowest < 0 ? highest * Headroom : 1;
+    canvas().setLimits({0.4, count + 0.6}, {lowest * Headroom, top});
 }
 
 double IntervalChart::pixelsOfMark() const {
@@ -123,7 +137,7 @@ void IntervalChart::paintMarks(QCPPainter& painter) const {
     painter.save();
     const QRectF plot = canvas().axisRect()->rect();
     painter.setClipRect(plot.adjusted(0, -1, 0, BoldSize));
-    if (isShown(CommonSeries)) {
+    if (isShown(CommonSeries) && !m_content.commonName.isEmpty()) {
         const double y = canvas().yAxis->coordToPixel(m_content.common);
         painter.setPen(QPen(theme::quietText(palette()), 1, Qt::DashLine));
         painter.drawLine(QPointF(plot.left(), y), QPointF(plot.right(), y));
@@ -146,11 +160,13 @@ void IntervalChart::paintMark(QCPPainter& painter, std::size_t index) const {
     if (!isShown(ValueSeries))
         return;
     const SeriesStyle style = styleOf(mark, palette());
-    painter.setPen(QPen(style.colour, mark.isBold ? 3.2 : 1.4));
-    painter.drawLine(QPointF(x, pixel(mark.low)), QPointF(x, pixel(mark.high)));
-    for (const double end : {mark.low, mark.high})
-        painter.drawLine(QPointF(x - CapWidth / 2, pixel(end)),
-                         QPointF(x + CapWidth / 2, pixel(end)));
+    if (mark.hasInterval) {
+        painter.setPen(QPen(style.colour, mark.isBold ? 3.2 : 1.4));
+        painter.drawLine(QPointF(x, pixel(mark.low)), QPointF(x, pixel(mark.high)));
+        for (const double end : {mark.low, mark.high})
+            painter.drawLine(QPointF(x - CapWidth / 2, pixel(end)),
+                             QPointF(x + CapWidth / 2, pixel(end)));
+    }
     const QCPScatterStyle drawn = markerOf(style, mark.isBold ? BoldSize : PlainSize, mark.isBold);
     drawn.applyTo(&painter, QPen());
     drawn.drawShape(&painter, QPointF(x, pixel(mark.value)));
@@ -165,24 +181,67 @@ void IntervalChart::paintMark(QCPPainter& painter, std::size_t index) const {
                      valueText(mark.value));
 }
 
+void IntervalChart::paintBackdrop(QCPPainter& painter) const {
+    if (m_content.backdrop.isNull() || m_content.marks.empty())
+        return;
+    const QRectF plot = canvas().axisRect()->rect();
+    QRectF place(QPointF(),
+                 QSizeF(m_content.backdrop.size()).scaled(plot.size(), Qt::KeepAspectRatio));
+    place.moveCenter(plot.center());
+    painter.save();
+    painter.setOpacity(BackdropOpacity);
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    painter.drawImage(place, m_content.backdrop);
+    painter.restore();
+}
+
 /// A line before the first gate of each section, its number at the top.
 void IntervalChart::paintSections(QCPPainter& painter) const {
     if (!m_content.isCourse)
         return;
-    const QRectF plot = canvas().axisRect()->rect();
     painter.setFont(canvas().xAxis->tickLabelFont());
     for (std::size_t i = 0; i < m_content.marks.size(); ++i) {
         const auto& section = m_content.marks[i].section;
-        if (!section || (i > 0 && m_content.marks[i - 1].section == section))
+        if (section && (i == 0 || m_content.marks[i - 1].section != section))
+            paintSectionStart(painter, i);
+    }
+}
+
+void IntervalChart::paintSectionStart(QCPPainter& painter, std::size_t mark) const {
+    const QRectF plot = canvas().axisRect()->rect();
+    const double x = pixelOf(mark) - pixelsOfMark() / 2;
+    if (x < plot.left() - 1 || x > plot.right())
+        return;
+    painter.setPen(QPen(theme::hairline(palette()), 1, Qt::DashLine));
+    painter.drawLine(QPointF(x, plot.top()), QPointF(x, plot.bottom() + RiverHeight));
+    painter.setPen(theme::quietText(palette()));
+    painter.drawText(QRectF(x + 3, plot.top(), 60, painter.fontMetrics().height()),
+                     Qt::AlignLeft | Qt::AlignVCenter,
+                     QStringLiteral("S%1").arg(*m_content.marks[mark].section));
+}
+
+/// The same before each group, its name cut where the next one begins.
+void IntervalChart::paintGroups(QCPPainter& painter) const {
+    const QRectF plot = canvas().axisRect()->rect();
+    painter.setFont(canvas().xAxis->tickLabelFont());
+    const auto& marks = m_content.marks;
+    for (std::size_t first = 0, end = 0; first < marks.size(); first = end) {
+        for (end = first + 1; end < marks.size() && marks[end].group == marks[first].group;)
+            ++end;
+        if (marks[first].group.isEmpty())
             continue;
-        const double x = pixelOf(i) - pixelsOfMark() / 2;
-        if (x < plot.left() - 1 || x > plot.right())
+        const double half = pixelsOfMark() / 2;
+        const double left = std::max(pixelOf(first) - half, plot.left());
+        const double right = std::min(pixelOf(end - 1) + half, plot.right());
+        if (right <= left)
             continue;
         painter.setPen(QPen(theme::hairline(palette()), 1, Qt::DashLine));
-        painter.drawLine(QPointF(x, plot.top()), QPointF(x, plot.bottom() + RiverHeight));
+        painter.drawLine(QPointF(left, plot.top()), QPointF(left, plot.bottom()));
         painter.setPen(theme::quietText(palette()));
-        painter.drawText(QRectF(x + 3, plot.top(), 60, painter.fontMetrics().height()),
-                         Qt::AlignLeft | Qt::AlignVCenter, QStringLiteral("S%1").arg(*section));
+        const QFontMetrics metrics = painter.fontMetrics();
+        const int room = static_cast<int>(right - left) - theme::SmallSpacing;
+        painter.drawText(QPointF(left + 3, plot.top() + metrics.ascent()),
+                         metrics.elidedText(marks[first].group, Qt::ElideRight, room));
     }
 }
 
@@ -246,10 +305,13 @@ std::optional<std::size_t> IntervalChart::markAt(const QPointF& position) const 
 QString IntervalChart::readOutOf(std::size_t index) const {
     const IntervalMark& mark = m_content.marks.at(index);
     const QColor colour = seriesStyle(ValueSlot, palette()).colour;
+    // A range from a number below 0 to another reads badly with a dash.
+    const QString range = !mark.hasInterval ? tr("too few")
+                          : mark.low < 0
+                              ? tr("%1 to %2").arg(valueText(mark.low), valueText(mark.high))
+                              : valueText(mark.low) + "–" + valueText(mark.high);
     QStringList rows{
-        readOutRow({m_content.valueName, valueText(mark.value) + " (" + valueText(mark.low) + "–" +
-                                             valueText(mark.high) + ")"},
-                   colour)};
+        readOutRow({m_content.valueName, valueText(mark.value) + " (" + range + ")"}, colour)};
     if (mark.bare)
         rows << readOutRow({m_content.bareName, valueText(*mark.bare)});
     for (const QString& line : mark.told)

@@ -2,6 +2,7 @@
 
 #include "desktop/charts/chart_frame.h"
 
+#include <QImage>
 #include <QStringList>
 
 #include <optional>
@@ -18,13 +19,15 @@ struct IntervalMark {
     double value = 0;
     double low = 0;
     double high = 0;
+    bool hasInterval = true;         ///< otherwise too few values for one: only the figure counts
     std::optional<double> bare = {}; ///< the figure before it was drawn towards the common one
     QStringList told = {};           ///< more in the read-out, a line each
     bool isBold = false;             ///< stands out from the others
     bool isUpstream = false;         ///< a gate of a course
     double share = 0;                ///< how strongly a gate is filled, from 0 to 1
     std::optional<std::size_t> section = {}; ///< of a gate, from 1
-    QStringList fields = {};                 ///< of its line in CSV
+    QString group = {};      ///< marks beside each other of one group stand under its name
+    QStringList fields = {}; ///< of its line in CSV
 };
 
 struct IntervalChartContent {
@@ -33,12 +36,13 @@ struct IntervalChartContent {
     QString xTitle;
     QString yTitle;
     QString valueName;  ///< of the figures: "Ranked"
-    QString bareName;   ///< of the bare ones
-    QString commonName; ///< of the line that all have in common
+    QString bareName;   ///< of the bare ones; empty where no mark has one
+    QString commonName; ///< of the line that all have in common; empty for no line
     QString emptyText;  ///< told instead, when there is no mark
     std::vector<IntervalMark> marks;
     double common = 0;
     bool isCourse = false; ///< the marks are gates, in the order in which they are paddled
+    QImage backdrop = {};  ///< faint behind the marks, as large as it fits; null for none
     QStringList csvTitles;
 };
 
@@ -90,7 +94,10 @@ private:
     [[nodiscard]] bool isInView(std::size_t mark) const;
     void paintMarks(QCPPainter& painter) const;
     void paintMark(QCPPainter& painter, std::size_t mark) const;
+    void paintBackdrop(QCPPainter& painter) const;
     void paintSections(QCPPainter& painter) const;
+    void paintSectionStart(QCPPainter& painter, std::size_t mark) const;
+    void paintGroups(QCPPainter& painter) const;
     void paintBelow(QCPPainter& painter) const;
     void paintName(QCPPainter& painter, std::size_t mark) const;
 

@@ -55,7 +55,7 @@ void FindActions::makeFileMenu() {
         *menu, tr("S&top reading"), QKeySequence(Qt::CTRL | Qt::Key_Period),
         [window] { window->facts().cancel(); }, [window] { return window->facts().isReading(); });
     add(
-        *menu, tr("Files that could not be rea&d…"), QKeySequence(),
+        *menu, tr("Files that could not be rea&d…"), QKeySequence(Qt::Key_F7),
         [window] { window->showFailed(); }, [window] { return !window->facts().failed().empty(); });
     menu->addSeparator();
     add(
@@ -76,7 +76,7 @@ void FindActions::makeQueryMenu() {
         *menu, tr("&Keep this query"), QKeySequence(Qt::CTRL | Qt::Key_D),
         [window] { window->keepQuery(); }, [window] { return window->canKeepQuery(); });
     add(
-        *menu, tr("&Give up the kept query"), QKeySequence(),
+        *menu, tr("&Give up the kept query"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_D),
         [window] { window->queries().giveUp(window->queries().chosenKept()); },
         [window] { return !window->queries().chosenKept().isEmpty(); });
 }

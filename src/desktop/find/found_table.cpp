@@ -4,6 +4,8 @@
 #include "desktop/shell/shown_number.h"
 #include "desktop/shell/tables/column_table.h"
 #include "desktop/shell/theme.h"
+#include "desktop/why/why_popup.h"
+#include "facts/found_reasons.h"
 #include "facts/found_text.h"
 
 #include <QLabel>
@@ -124,6 +126,10 @@ FoundTable::FoundTable(const char* name, QWidget* parent)
     m_table->keepOneChosen();
     connect(m_table, &ColumnTable::chosen, this, &FoundTable::chosen);
     connect(m_table, &ColumnTable::activated, this, &FoundTable::activated);
+    answerWhy(m_table, [this](const QModelIndex& cell) {
+        const AnswerLine& line = m_lines.row(m_table->placeAt(cell));
+        return explainFound(line.found->answer, line.row, static_cast<std::size_t>(cell.column()));
+    });
 }
 
 void FoundTable::setTitle(const QString& title) {

@@ -31,6 +31,7 @@ struct AnswerLine {
 inline constexpr std::size_t MostFoundShown = 5'000;
 
 /// The rows of an answer under a line that says what they are; the columns are the query's.
+/// Numbers answer why.
 class FoundTable : public QWidget {
     Q_OBJECT
 

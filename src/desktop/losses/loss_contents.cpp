@@ -1,6 +1,8 @@
 #include "desktop/losses/loss_contents.h"
 
+#include "desktop/charts/chart_csv.h"
 #include "desktop/losses/loss_texts.h"
+#include "desktop/shell/qt_text.h"
 #include "desktop/shell/shown_number.h"
 
 #include <QCoreApplication>
@@ -11,6 +13,30 @@ namespace {
 
 QString contentText(const char* text) {
     return QCoreApplication::translate("Losses", text);
+}
+
+IntervalMark markOfSeasonRow(const SeasonLossRow& row) {
+    IntervalMark mark;
+    mark.label = qtText(row.text);
+    mark.name = qtText(row.field) + QStringLiteral(": ") + mark.label;
+    mark.group = qtText(row.field);
+    mark.value = row.percent;
+    mark.hasInterval = row.interval.has_value();
+    mark.low = row.interval ? row.interval->low : row.percent;
+    mark.high = row.interval ? row.interval->high : row.percent;
+    mark.isBold = row.verdict == LossVerdict::Losing;
+    mark.told << contentText("%1 s a run").arg(shownSignedSeconds(row.perRun))
+              << (row.runs == 1 ? contentText("one run") : contentText("%1 runs").arg(row.runs));
+    if (row.interval)
+        mark.told << qtText(verdictText(row.verdict));
+    mark.fields = {mark.group,
+                   mark.label,
+                   QString::number(row.runs),
+                   csvNumber(row.percent),
+                   csvNumber(row.interval ? std::optional(row.interval->low) : std::nullopt),
+                   csvNumber(row.interval ? std::optional(row.interval->high) : std::nullopt),
+                   csvNumber(row.perRun)};
+    return mark;
 }
 
 } // namespace
@@ -65,6 +91,29 @@ ChartContent growthContent(const LossState& state) {
              .points = {{0, gap.interests[i]}, {last, gap.interests[i]}},
              .form = ChartSeries::Form::Line,
              .slot = i + 1});
+    return content;
+}
+
+IntervalChartContent seasonContent(const SeasonLosses& season, const QString& emptyText) {
+    IntervalChartContent content;
+    content.title = contentText("Lost by what it is lost in");
+    content.yTitle = contentText("Of the reference's time, %");
+    content.valueName = contentText("Lost, 90 %");
+    content.commonName = contentText("No loss");
+    content.emptyText = emptyText;
+    content.csvTitles = {contentText("By"),      contentText("What"), contentText("Runs"),
+                         contentText("Lost, %"), contentText("Low"),  contentText("High"),
+                         contentText("A run, s")};
+    for (const SeasonLossRow& row : season.rows)
+        content.marks.push_back(markOfSeasonRow(row));
+    if (season.train.empty()) {
+        content.subtitle = contentText("No row loses time for sure.");
+        return content;
+    }
+    const SeasonLossRow& most = season.rows[season.train.front()];
+    content.subtitle =
+        contentText("Most for sure: %1 %2, %3 s a run.")
+            .arg(qtText(most.field), qtText(most.text), shownSignedSeconds(most.perRun));
     return content;
 }
 

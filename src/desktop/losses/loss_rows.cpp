@@ -5,6 +5,7 @@
 #include "desktop/shell/qt_text.h"
 #include "desktop/shell/shown_number.h"
 #include "performance/loss_clips.h"
+#include "performance/loss_counts.h"
 #include "performance/loss_reasons.h"
 #include "splitdata/annotation_labels.h"
 
@@ -137,6 +138,21 @@ std::optional<Reason> told(const Why& why) {
     return reason.rule ? std::optional(std::move(reason)) : std::nullopt;
 }
 
+/// The columns behind "Between": strokes, the reference's, penalty.
+std::optional<Reason> whyCounted(const LossState& state, const Stretch& stretch,
+                                 std::size_t column) {
+    enum { OwnStrokes = 1, ReferenceStrokes, OwnPenalty };
+    const auto& reference = state.losses().referenceRun;
+    Why why;
+    if (column == OwnStrokes)
+        (void)stretchStrokes(state.facts(), state.run(), stretch.first, stretch.last, &why);
+    else if (column == ReferenceStrokes && reference)
+        (void)stretchStrokes(state.facts(), *reference, stretch.first, stretch.last, &why);
+    else if (column == OwnPenalty)
+        (void)stretchPenalties(state.facts(), state.run(), stretch.first, stretch.last, &why);
+    return told(why);
+}
+
 } // namespace
 
 std::size_t mostGates(const RunLosses& losses) {
@@ -214,7 +230,9 @@ std::optional<Reason> whyOf(const LossState& state, const StretchLine& line, int
                    ? state.why(LossNumber::Gate,
                                static_cast<std::size_t>(line.stretch.gates[gate].gate))
                    : std::nullopt;
-    return gate == gates ? state.why(LossNumber::Between, section) : std::nullopt;
+    if (gate == gates)
+        return state.why(LossNumber::Between, section);
+    return whyCounted(state, line.stretch, static_cast<std::size_t>(column - FirstGateAt) - gates);
 }
 
 std::vector<RunLine> runLines(const LossState& state) {
@@ -262,9 +280,16 @@ RunModel::Columns runColumns(std::function<void(std::size_t run)> makeReference)
 }
 
 std::optional<Reason> whyOf(const LossState& state, const RunLine& line, int column) {
+    Why why;
+    if (column == PlaceAt)
+        (void)placeInGroup(state.facts(), state.rivals().groupOf(line.losses.run), line.losses.run,
+                           &why);
+    else if (column == TotalAt)
+        (void)lossTotal(state.facts(), line.losses.run, &why);
+    if (column == PlaceAt || column == TotalAt)
+        return told(why);
     const auto number = [&]() -> LossNumber {
         switch (column) {
-        case TotalAt: // one of the two that make the gap
         case GapAt:
             return LossNumber::Gap;
         case PaddlingAt:
@@ -362,12 +387,13 @@ NoteModel::Columns noteColumns() {
 
 /// Of this run alone, while an id means all runs.
 std::optional<Reason> whyOf(const LossState& state, const NoteLine& line, int column) {
-    if (column != NoteLostAt && column != NoteGainedAt)
+    if (column < CountAt)
         return std::nullopt;
+    // A count is told by the notes that it counts.
+    const bool isGained = column == NoteGainedAt || (column == CountAt && line.note.lost == 0);
     const std::array run{state.run()};
     Why why;
-    (void)lossNotesOf(state.facts(), run, {line.note.field, line.note.key, column == NoteGainedAt},
-                      &why);
+    (void)lossNotesOf(state.facts(), run, {line.note.field, line.note.key, isGained}, &why);
     return told(why);
 }
 

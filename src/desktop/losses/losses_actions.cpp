@@ -39,7 +39,17 @@ void LossesActions::makeFileMenu() {
                     window, [window] { window->chooseFolder(); });
     menu->addAction(tr("&Read all again"), QKeySequence(Qt::Key_F5), window,
                     [window] { window->facts().readAgain(); });
+    QAction* const stop =
+        menu->addAction(tr("S&top reading"), QKeySequence(Qt::CTRL | Qt::Key_Period), window,
+                        [window] { window->facts().cancel(); });
+    stop->setEnabled(false);
+    connect(&window->facts(), &WatchedFacts::readingChanged, stop,
+            [stop, window] { stop->setEnabled(window->facts().isReading()); });
     menu->addSeparator();
+    QAction* const page =
+        menu->addAction(tr("&Page of an athlete: PDF, preview, print…"), QKeySequence::Print,
+                        window, [window] { window->askForAthletePage(); });
+    m_refreshers.push_back([page, window] { page->setEnabled(window->state().hasRun()); });
     menu->addAction(tr("Save the table as &CSV…"), QKeySequence(Qt::CTRL | Qt::Key_E), window,
                     [window] { window->saveTable(); });
     menu->addAction(

@@ -1,6 +1,7 @@
 #include "desktop/losses/losses_window.h"
 
 #include "desktop/film/clip_pair.h"
+#include "desktop/losses/athlete_pages.h"
 #include "desktop/losses/loss_charts_panel.h"
 #include "desktop/losses/loss_header.h"
 #include "desktop/losses/loss_tables.h"
@@ -14,6 +15,7 @@
 #include "desktop/shell/workspace.h"
 #include "desktop/splitfile/film_places.h"
 
+#include <QDesktopServices>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QLabel>
@@ -23,6 +25,7 @@
 #include <QStatusBar>
 #include <QTabBar>
 #include <QTabWidget>
+#include <QUrl>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -104,9 +107,15 @@ void LossesWindow::makeStatus() {
     m_status->setTextFormat(Qt::PlainText);
     statusBar()->addWidget(m_progress);
     statusBar()->addWidget(m_stop);
+    m_openPage = new QPushButton(tr("&Open it"));
+    m_openPage->setObjectName("openPage");
+    connect(m_openPage, &QPushButton::clicked, this,
+            [this] { QDesktopServices::openUrl(QUrl::fromLocalFile(m_writtenPage)); });
     statusBar()->addWidget(m_status, 1);
+    statusBar()->addWidget(m_openPage);
     m_progress->hide();
     m_stop->hide();
+    m_openPage->hide();
 }
 
 void LossesWindow::connectParts() {
@@ -138,6 +147,16 @@ void LossesWindow::connectParts() {
         m_state.setRun(run);
         setSeasonShown(false);
     });
+    m_athletePages = new AthletePages(m_state, workspace(), *this);
+    connect(m_athletePages, &AthletePages::writing, this, [this](const QString& path) {
+        tell(tr("Writing %1…").arg(QFileInfo(path).fileName()));
+    });
+    connect(m_athletePages, &AthletePages::written, this, &LossesWindow::offerToOpen);
+    connect(m_athletePages, &AthletePages::failed, this,
+            [this](const QString&, const QString& reason) {
+                tell(tr("The page was not written."));
+                tellNotSaved(reason);
+            });
     connect(m_charts, &LossChartsPanel::savingFailed, this,
             [this](const QString&, const QString& reason) { tellNotSaved(reason); });
     connect(m_season, &SeasonPage::savingFailed, this,
@@ -151,6 +170,7 @@ void LossesWindow::tellNotSaved(const QString& reason) {
 
 void LossesWindow::setPaths(const QStringList& paths, std::optional<std::size_t> run) {
     m_wanted = run;
+    m_isOther = true;
     m_facts.setPaths(paths);
     for (const QString& path : paths)
         if (!QFileInfo(path).isDir())
@@ -165,11 +185,27 @@ bool LossesWindow::open(const QString& path) {
     return true;
 }
 
+/// What is no race opens in a window of its own; the races that are shown stay then.
 void LossesWindow::takeFiles(const QStringList& paths) {
-    setPaths(paths);
+    QStringList races;
+    QStringList others;
+    for (const QString& path : paths) {
+        const QFileInfo file(path);
+        const bool isRace =
+            file.isDir() || file.suffix().compare(QStringLiteral("kvx"), Qt::CaseInsensitive) == 0;
+        (isRace ? races : others).append(path);
+    }
+    if (!races.isEmpty())
+        setPaths(races);
+    if (!others.isEmpty())
+        emit openRequested(others);
 }
 
 void LossesWindow::takeFacts() {
+    const QString run = m_state.hasRun() ? runTitle(m_state.facts(), m_state.run()) : QString();
+    const auto& rival = m_state.losses().referenceRun;
+    const bool isRival = m_state.reference().kind == LossReferenceKind::Run && rival;
+    const QString other = isRival ? runTitle(m_state.facts(), *rival) : QString();
     m_state.setFacts(m_facts.facts());
     const auto files = m_state.facts().files();
     if (m_wanted && !files.empty()) {
@@ -179,6 +215,18 @@ void LossesWindow::takeFacts() {
     }
     showReading();
     showTitle();
+    if (!m_isOther)
+        tellGone(run, other);
+    m_isOther = false;
+}
+
+/// Files change under the window: another run than before is shown, or another reference.
+void LossesWindow::tellGone(const QString& run, const QString& rival) {
+    const QString shown = m_state.hasRun() ? runTitle(m_state.facts(), m_state.run()) : QString();
+    if (!run.isEmpty() && !shown.isEmpty() && shown != run)
+        tell(tr("%1 is not in the files any more; another run is shown.").arg(run));
+    else if (!rival.isEmpty() && m_state.reference().kind != LossReferenceKind::Run)
+        tell(tr("%1 is not in the files any more; the winner is the reference now.").arg(rival));
 }
 
 void LossesWindow::showReading() {
@@ -254,6 +302,17 @@ QString LossesWindow::status() const {
 
 void LossesWindow::tell(const QString& text) {
     m_status->setText(text);
+    m_openPage->hide(); // something else is told of now
+}
+
+void LossesWindow::offerToOpen(const QString& path) {
+    tell(tr("%1 is written.").arg(QFileInfo(path).fileName()));
+    m_writtenPage = path;
+    m_openPage->show();
+}
+
+void LossesWindow::askForAthletePage() {
+    m_athletePages->ask(m_season->query());
 }
 
 void LossesWindow::playChosen() {

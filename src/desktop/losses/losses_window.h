@@ -15,6 +15,7 @@ class QTabWidget;
 
 namespace kavela::desktop {
 
+class AthletePages;
 class ClipPair;
 class LossChartsPanel;
 class LossHeader;
@@ -60,6 +61,9 @@ public:
     /// Another run of the group.
     void goToRun(int step);
     void saveTable();
+    /// Asks whose A4 page is to be looked at or saved.
+    void askForAthletePage();
+    [[nodiscard]] AthletePages& athletePages() const { return *m_athletePages; }
 
 signals:
     void pathsChanged();
@@ -73,6 +77,7 @@ private:
     void makeStatus();
     void connectParts();
     void takeFacts();
+    void tellGone(const QString& run, const QString& rival);
     void showReading();
     void showTitle();
     void playStretch(std::size_t stretch);
@@ -80,10 +85,12 @@ private:
               const QString& where, const QString& otherCaption);
     [[nodiscard]] Clip clipOf(const std::optional<FilmSpan>& span, const QString& caption) const;
     void tell(const QString& text);
+    void offerToOpen(const QString& path);
     void tellNotSaved(const QString& reason);
 
     WatchedFacts m_facts;
     LossState m_state;
+    bool m_isOther = false; ///< other files were asked for: what they have not is not missed
     std::optional<std::size_t> m_wanted; ///< run of the first file that is to be shown
     LossHeader* m_header;
     QTabWidget* m_pages;
@@ -96,6 +103,9 @@ private:
     QLabel* m_status;
     QProgressBar* m_progress;
     QPushButton* m_stop;
+    QPushButton* m_openPage; ///< opens what was written last
+    QString m_writtenPage;
+    AthletePages* m_athletePages;
 };
 
 } // namespace kavela::desktop

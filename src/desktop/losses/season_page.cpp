@@ -1,8 +1,8 @@
 #include "desktop/losses/season_page.h"
 
-#include "desktop/charts/chart_plot.h"
+#include "desktop/charts/interval_chart.h"
 #include "desktop/charts/plot_interaction.h"
-#include "desktop/charts/series_chart.h"
+#include "desktop/losses/loss_contents.h"
 #include "desktop/losses/loss_state.h"
 #include "desktop/losses/loss_texts.h"
 #include "desktop/shell/qt_text.h"
@@ -18,7 +18,6 @@
 #include <QSplitter>
 #include <QVBoxLayout>
 
-#include <cmath>
 #include <set>
 
 namespace kavela::desktop {
@@ -50,8 +49,11 @@ SeasonLossNumber numberIn(int column) {
     case PercentAt:
     case IntervalAt:
         return SeasonLossNumber::Percent;
+    case RunsAt:
+        return SeasonLossNumber::Runs;
+    case LostAt:
+        return SeasonLossNumber::Loss;
     case PerRunAt:
-    case LostAt: // which is what the runs lost together
         return SeasonLossNumber::PerRun;
     case ShareAt:
         return SeasonLossNumber::Share;
@@ -71,7 +73,7 @@ SeasonPage::SeasonPage(LossState& state, QWidget* parent)
       m_advice(new QLabel),
       m_table(new ColumnTable(m_rows, "season")),
       m_clipTable(new ColumnTable(m_clips, "train")),
-      m_chart(new SeriesChart) {
+      m_chart(new IntervalChart) {
     for (QLabel* const label : {m_summary, m_advice}) {
         label->setTextFormat(Qt::PlainText);
         label->setWordWrap(true);
@@ -89,12 +91,14 @@ SeasonPage::SeasonPage(LossState& state, QWidget* parent)
     connect(m_clipTable, &ColumnTable::activated, this, [this](const QModelIndex& cell) {
         emit clipActivated(m_clips.row(m_clipTable->placeAt(cell)).clip);
     });
-    m_clipTable->addCommand(tr("&Show this run"), {}, [this] {
+    m_clipTable->addCommand(tr("&Show this run"), QKeySequence(Qt::SHIFT | Qt::Key_Return), [this] {
         if (const int place = m_clipTable->currentPlace(); place >= 0)
             emit runActivated(m_clips.row(place).clip.run);
     });
-    connect(m_chart, &SeriesChart::pointActivated, this,
-            [this](int, int row) { m_table->choose(row); });
+    connect(m_chart, &IntervalChart::markActivated, this, [this](std::size_t row) {
+        m_table->choose(static_cast<int>(row));
+        m_table->setFocus();
+    });
     connect(&m_chart->interaction(), &PlotInteraction::savingFailed, this,
             &SeasonPage::savingFailed);
 }
@@ -203,15 +207,13 @@ void SeasonPage::makeAnswers() {
         return explainSeasonLoss(m_state.facts(), query(),
                                  seasonLossId({SeasonLossNumber::Gap, {}, {}}));
     });
-    answerWhy(&m_chart->plot(), [this](const QPoint& at) -> std::optional<Reason> {
-        const int row =
-            at.x() < 0 ? m_table->currentPlace()
-                       : static_cast<int>(std::lround(m_chart->plot().xAxis->pixelToCoord(at.x())));
-        if (row < 0 || row >= static_cast<int>(m_rows.rows().size()))
+    answerWhy(m_chart->focusProxy(), [this](const QPoint& at) -> std::optional<Reason> {
+        const auto row = at.x() < 0 ? m_chart->current() : m_chart->markAt(at);
+        if (!row || *row >= m_season.rows.size())
             return std::nullopt;
-        return explainSeasonLoss(
-            m_state.facts(), query(),
-            seasonLossId({SeasonLossNumber::PerRun, m_rows.row(row).field, m_rows.row(row).key}));
+        const SeasonLossRow& shown = m_season.rows[*row];
+        return explainSeasonLoss(m_state.facts(), query(),
+                                 seasonLossId({SeasonLossNumber::Percent, shown.field, shown.key}));
     });
 }
 
@@ -269,7 +271,7 @@ void SeasonPage::refresh() {
     m_advice->setText(adviceText());
     showRows();
     showClips();
-    showChart();
+    m_chart->show(seasonContent(m_season, m_table->emptyText()));
 }
 
 QString SeasonPage::summaryText() const {
@@ -330,30 +332,6 @@ void SeasonPage::showClips() {
         for (const std::size_t row : m_season.train)
             add(m_season.rows[row]);
     m_clips.show(std::move(lines));
-}
-
-void SeasonPage::showChart() {
-    ChartContent content;
-    content.across = ChartContent::Across::Category;
-    content.title = tr("Lost in a run");
-    content.yTitle = tr("Seconds a run");
-    content.emptyText = m_table->emptyText();
-    content.subtitle =
-        m_season.train.empty()
-            ? tr("No row loses time for sure.")
-            : tr("Most for sure: %1, %2 s a run.")
-                  .arg(qtText(m_season.rows[m_season.train.front()].text),
-                       shownSignedSeconds(m_season.rows[m_season.train.front()].perRun));
-    ChartSeries lost{.name = tr("Lost"), .points = {}, .form = ChartSeries::Form::Bars, .slot = 1};
-    for (const SeasonLossRow& row : m_season.rows) {
-        lost.points.emplace_back(static_cast<double>(content.categories.size()), row.perRun);
-        content.categories << (row.text == "all" || row.field == "third"
-                                   ? qtText(row.field) + ' ' + qtText(row.text)
-                                   : qtText(row.text));
-    }
-    if (!lost.points.empty())
-        content.series.push_back(std::move(lost));
-    m_chart->show(std::move(content));
 }
 
 QString SeasonPage::summary() const {

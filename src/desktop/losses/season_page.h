@@ -13,8 +13,8 @@ class QLabel;
 namespace kavela::desktop {
 
 class ColumnTable;
+class IntervalChart;
 class LossState;
-class SeriesChart;
 
 /// Where an athlete loses time over all the runs that are open: by what, with the interval and what
 /// it says, and what is to be trained, with the clips to see it in. It is that of the run's crew,
@@ -29,9 +29,11 @@ public:
     void setAthlete(const QString& athlete);
 
     [[nodiscard]] const SeasonLosses& season() const { return m_season; }
+    /// Whose season, against what.
+    [[nodiscard]] SeasonLossQuery query() const;
     [[nodiscard]] ColumnTable& table() const { return *m_table; }
     [[nodiscard]] ColumnTable& clips() const { return *m_clipTable; }
-    [[nodiscard]] SeriesChart& chart() const { return *m_chart; }
+    [[nodiscard]] IntervalChart& chart() const { return *m_chart; }
     [[nodiscard]] QString summary() const;
     [[nodiscard]] QString advice() const;
     void askAndSave();
@@ -62,8 +64,6 @@ private:
     void refresh();
     void showRows();
     void showClips();
-    void showChart();
-    [[nodiscard]] SeasonLossQuery query() const;
     [[nodiscard]] QString summaryText() const;
     [[nodiscard]] QString adviceText() const;
 
@@ -79,7 +79,7 @@ private:
     QLabel* m_advice;
     ColumnTable* m_table;
     ColumnTable* m_clipTable;
-    SeriesChart* m_chart;
+    IntervalChart* m_chart;
 };
 
 } // namespace kavela::desktop

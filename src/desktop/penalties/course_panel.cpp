@@ -20,6 +20,7 @@ CoursePanel::CoursePanel(QWidget* parent)
     : QWidget(parent),
       m_title(new QLabel(tr("C&ourse of"))),
       m_courses(new QComboBox),
+      m_remark(new QLabel),
       m_chart(new IntervalChart) {
     m_courses->setObjectName("course");
     m_courses->setSizeAdjustPolicy(QComboBox::AdjustToContents);
@@ -27,7 +28,11 @@ CoursePanel::CoursePanel(QWidget* parent)
     auto* row = new QHBoxLayout;
     row->addWidget(m_title);
     row->addWidget(m_courses);
+    row->addWidget(m_remark);
     row->addStretch();
+    m_remark->setObjectName("pictureRemark");
+    m_remark->setForegroundRole(QPalette::PlaceholderText);
+    m_remark->hide();
     auto* column = new QVBoxLayout(this);
     column->setSpacing(theme::Spacing);
     column->addLayout(row);
@@ -74,8 +79,45 @@ const CourseOfRates* CoursePanel::course() const {
 }
 
 void CoursePanel::showCourse() {
+    askForPicture();
+    showChart();
+}
+
+void CoursePanel::showChart() {
     const CourseOfRates* const shown = course();
-    m_chart->show(courseContent(shown ? *shown : CourseOfRates()));
+    IntervalChartContent content = courseContent(shown ? *shown : CourseOfRates());
+    content.backdrop = m_picture.image;
+    m_chart->show(std::move(content));
+    m_remark->setText(m_picture.isBroken
+                          ? tr("The drawing of the course in this file cannot be shown.")
+                          : QString());
+    m_remark->setVisible(m_picture.isBroken);
+}
+
+/// Facts leave pictures out. The one that is there stays while only the question is another.
+void CoursePanel::askForPicture() {
+    const QString file = course() ? m_courses->currentData().toString() : QString();
+    const auto facts = m_figures ? m_figures->facts : nullptr;
+    if (file == m_pictureOf && facts == m_pictureFacts)
+        return;
+    if (file != m_pictureOf)
+        m_picture = {};
+    m_pictureOf = file;
+    m_pictureFacts = facts;
+    const int asked = ++m_asked;
+    if (file.isEmpty())
+        return;
+    m_work.run([path = file.toStdString()] { return coursePictureIn(path); },
+               [this, asked](const CoursePicture& picture) {
+                   if (asked != m_asked)
+                       return;
+                   const bool isSame = picture.image.isNull() && m_picture.image.isNull() &&
+                                       picture.isBroken == m_picture.isBroken;
+                   m_picture = picture;
+                   if (!isSame) // the cursor stays where there is nothing to paint
+                       showChart();
+               },
+               {[](const std::exception_ptr&) {}, {}}); // no picture then
 }
 
 std::optional<Reason> CoursePanel::whyOf(std::optional<std::size_t> mark) const {

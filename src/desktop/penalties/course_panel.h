@@ -1,8 +1,13 @@
 #pragma once
 
+#include "desktop/penalties/course_picture.h"
 #include "desktop/penalties/penalty_figures.h"
+#include "desktop/shell/background_work.h"
 
+#include <QString>
 #include <QWidget>
+
+#include <memory>
 
 class QComboBox;
 class QLabel;
@@ -11,7 +16,8 @@ namespace kavela::desktop {
 
 class IntervalChart;
 
-/// The course of a race with the rate of touches at each of its gates.
+/// The course of a race with the rate of touches at each of its gates, over the drawing of the
+/// course where the file holds one.
 class CoursePanel : public QWidget {
     Q_OBJECT
 
@@ -31,13 +37,22 @@ signals:
 
 private:
     void showCourse();
+    void showChart();
+    /// Reads the drawing beside the window.
+    void askForPicture();
     [[nodiscard]] const CourseOfRates* course() const;
     [[nodiscard]] std::optional<Reason> whyOf(std::optional<std::size_t> mark) const;
 
     SharedFigures m_figures;
     QLabel* m_title;
     QComboBox* m_courses;
+    QLabel* m_remark;
     IntervalChart* m_chart;
+    CoursePicture m_picture;
+    QString m_pictureOf;                             ///< path of its file
+    std::shared_ptr<const FactStore> m_pictureFacts; ///< as that was read then
+    int m_asked = 0;                                 ///< number of the latest picture
+    BackgroundWork m_work;
 };
 
 } // namespace kavela::desktop

@@ -30,6 +30,9 @@ void PenaltiesActions::refresh() {
     const bool hasChart = m_window.chart() != nullptr;
     m_saveChart->setEnabled(hasChart);
     m_wholeChart->setEnabled(hasChart);
+    m_saveTable->setEnabled(m_window.table() != nullptr);
+    m_stop->setEnabled(m_window.isReading());
+    m_showFailed->setEnabled(m_window.hasFailed());
 }
 
 void PenaltiesActions::makeFileMenu() {
@@ -40,7 +43,14 @@ void PenaltiesActions::makeFileMenu() {
                     [window] { window->chooseFolder(); });
     menu->addAction(tr("Read &again"), QKeySequence(Qt::Key_F5), window,
                     [window] { window->readAgain(); });
+    m_stop = menu->addAction(tr("S&top reading"), QKeySequence(Qt::CTRL | Qt::Key_Period), window,
+                             [window] { window->stopReading(); });
+    m_showFailed = menu->addAction(tr("Files that could not be rea&d…"), QKeySequence(Qt::Key_F7),
+                                   window, [window] { window->showFailed(); });
     menu->addSeparator();
+    m_saveTable = menu->addAction(tr("Save the &table as CSV…"),
+                                  QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_E), window,
+                                  [window] { window->saveTable(); });
     m_saveChart = menu->addAction(tr("Save the &chart…"), QKeySequence(Qt::CTRL | Qt::Key_E),
                                   window, [window] { window->saveChart(); });
 }

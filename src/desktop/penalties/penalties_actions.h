@@ -24,6 +24,9 @@ private:
 
     PenaltiesWindow& m_window;
     QAction* m_saveChart = nullptr;
+    QAction* m_saveTable = nullptr;
+    QAction* m_stop = nullptr;
+    QAction* m_showFailed = nullptr;
     QAction* m_wholeChart = nullptr;
 };
 

@@ -49,7 +49,7 @@ bool isSplitFileOrFolder(const QString& path) {
 PenaltiesWindow::PenaltiesWindow(Workspace& workspace)
     : ToolWindow(workspace, nullptr, {"penalties", tr("Penalties"), "kvx"}) {
     makeParts();
-    new PenaltiesActions(*this); // the window owns it
+    m_actions = new PenaltiesActions(*this);
     connectParts();
     showTitle();
     showStatus();
@@ -102,7 +102,7 @@ QWidget* PenaltiesWindow::makeContent() {
     m_clean->setFocusPolicy(Qt::TabFocus); // the keyboard asks it why
     m_course = new CoursePanel;
     m_rates = new RatesPanel(workspace());
-    m_details = new DetailsPanel;
+    m_details = new DetailsPanel(workspace());
     m_costs = new CostPanel;
     m_tradeOff = new TradeOffPanel;
     m_tabs = new QTabWidget;
@@ -153,6 +153,7 @@ void PenaltiesWindow::connectParts() {
     });
     for (ChartFrame* const chart :
          {static_cast<ChartFrame*>(&m_course->chart()), static_cast<ChartFrame*>(&m_rates->chart()),
+          static_cast<ChartFrame*>(&m_details->chart()),
           static_cast<ChartFrame*>(&m_tradeOff->chart())})
         connect(&chart->interaction(), &PlotInteraction::saved, this, [this](const QString& path) {
             m_status->setText(tr("Saved %1").arg(QFileInfo(path).fileName()));
@@ -209,7 +210,7 @@ void PenaltiesWindow::showPage(Page page) {
     if (ChartFrame* const front = chart())
         front->setFocus();
     else
-        (page == Details ? m_details->table() : m_costs->table()).setFocus();
+        m_costs->table().setFocus();
 }
 
 PenaltiesWindow::Page PenaltiesWindow::page() const {
@@ -222,6 +223,8 @@ ChartFrame* PenaltiesWindow::chart() const {
         return &m_course->chart();
     case Rates:
         return &m_rates->chart();
+    case Details:
+        return &m_details->chart();
     case RiskAndSpeed:
         return &m_tradeOff->chart();
     default:
@@ -232,6 +235,27 @@ ChartFrame* PenaltiesWindow::chart() const {
 void PenaltiesWindow::saveChart() {
     if (ChartFrame* const front = chart(); front && front->emptyMessage().isEmpty())
         front->interaction().askAndSave();
+}
+
+ColumnTable* PenaltiesWindow::table() const {
+    switch (page()) {
+    case Rates:
+        return &m_rates->table();
+    case Details:
+        return &m_details->table();
+    case Costs:
+        return &m_costs->table();
+    case RiskAndSpeed:
+        return &m_tradeOff->table();
+    case Course:
+        break;
+    }
+    return nullptr;
+}
+
+void PenaltiesWindow::saveTable() {
+    if (ColumnTable* const front = table())
+        front->saveCsv();
 }
 
 bool PenaltiesWindow::isBusy() const {
@@ -320,6 +344,7 @@ void PenaltiesWindow::showStatus() {
         parts << (failed == 1 ? tr("1 file could not be read")
                               : tr("%1 files could not be read").arg(failed));
     m_status->setText(parts.join(QStringLiteral(" · ")));
+    m_actions->refresh();
 }
 
 void PenaltiesWindow::showFailed() {

@@ -14,9 +14,11 @@ class QTabWidget;
 namespace kavela::desktop {
 
 class ChartFrame;
+class ColumnTable;
 class CostPanel;
 class CoursePanel;
 class DetailsPanel;
+class PenaltiesActions;
 class PenaltyFilter;
 class RatesPanel;
 class TradeOffPanel;
@@ -47,6 +49,14 @@ public:
     /// The chart in front; null on a page without one.
     [[nodiscard]] ChartFrame* chart() const;
     void saveChart();
+    /// The table in front; null on a page without one.
+    [[nodiscard]] ColumnTable* table() const;
+    void saveTable();
+    void stopReading() { m_facts.cancel(); }
+    [[nodiscard]] bool isReading() const { return m_facts.isReading(); }
+    /// Tells which files could not be read, and why.
+    void showFailed();
+    [[nodiscard]] bool hasFailed() const { return !m_facts.failed().empty(); }
 
     [[nodiscard]] PenaltyFilter& filter() const { return *m_filter; }
     [[nodiscard]] CoursePanel& course() const { return *m_course; }
@@ -84,7 +94,6 @@ private:
     void showReading();
     void showProgress(int read, int of);
     void showStatus();
-    void showFailed();
     void showTitle();
 
     WatchedFacts m_facts;
@@ -106,6 +115,7 @@ private:
     QPushButton* m_cancel = nullptr;
     QPushButton* m_failed = nullptr;
     QLabel* m_status = nullptr;
+    PenaltiesActions* m_actions = nullptr;
     BackgroundWork m_work;
 };
 

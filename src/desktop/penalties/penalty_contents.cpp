@@ -82,6 +82,25 @@ IntervalMark markOf(const GateOnCourse& gate) {
     return mark;
 }
 
+IntervalMark markOf(const DetailRow& row) {
+    IntervalMark mark;
+    mark.label = qtText(detailText(row));
+    mark.group = detailFieldText(row.field);
+    mark.name = mark.group + QStringLiteral(": ") + mark.label;
+    mark.value = Hundredfold * row.share.rate;
+    mark.low = Hundredfold * row.share.interval.low;
+    mark.high = Hundredfold * row.share.interval.high;
+    mark.told << tr("%1 of %2").arg(row.share.count).arg(row.share.of);
+    mark.fields = {mark.group,
+                   mark.label,
+                   QString::number(row.share.count),
+                   QString::number(row.share.of),
+                   csvNumber(row.share.rate),
+                   csvNumber(row.share.interval.low),
+                   csvNumber(row.share.interval.high)};
+    return mark;
+}
+
 } // namespace
 
 QString titleOf(RateBy by) {
@@ -138,6 +157,37 @@ IntervalChartContent ratesContent(const PenaltyRates& rates) {
         mark.fields = QStringList(nameOf(row)) + rateFields(row.shrunk, row.touches, row.missed);
         content.marks.push_back(std::move(mark));
     }
+    return content;
+}
+
+QString detailFieldText(std::string_view field) {
+    QString text = qtText(field);
+    if (!text.isEmpty())
+        text[0] = text[0].toUpper();
+    return text;
+}
+
+IntervalChartContent detailsContent(const std::vector<DetailRow>& rows, const QString& emptyText) {
+    IntervalChartContent content;
+    content.title = tr("What was noted of penalties");
+    content.yTitle = tr("Of those noted, %");
+    content.valueName = tr("Share, 90 %");
+    content.emptyText = emptyText;
+    content.csvTitles = {tr("What"),  tr("Noted as"), tr("Penalties"), tr("Of"),
+                         tr("Share"), tr("Low"),      tr("High")};
+    const DetailRow* most = nullptr;
+    for (const DetailRow& row : rows) {
+        if (!row.code)
+            continue;
+        if (!most || row.share.rate > most->share.rate)
+            most = &row;
+        content.marks.push_back(markOf(row));
+    }
+    if (most)
+        content.subtitle = tr("Most of one kind: %1 %2, %3 of %4 noted.")
+                               .arg(detailFieldText(most->field), qtText(detailText(*most)))
+                               .arg(most->share.count)
+                               .arg(most->share.of);
     return content;
 }
 

@@ -19,6 +19,11 @@ inline constexpr std::size_t MostRanked = 24;
 
 [[nodiscard]] IntervalChartContent courseContent(const CourseOfRates& course);
 [[nodiscard]] IntervalChartContent ratesContent(const PenaltyRates& rates);
+/// "Pole": what is noted, as it is written.
+[[nodiscard]] QString detailFieldText(std::string_view field);
+/// The shares of what was noted; a mark for each row that has a code, in their order.
+[[nodiscard]] IntervalChartContent detailsContent(const std::vector<DetailRow>& rows,
+                                                  const QString& emptyText);
 [[nodiscard]] ChartContent tradeOffContent(const TradeOff& tradeOff);
 
 /// "fastest third"

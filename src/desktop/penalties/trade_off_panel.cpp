@@ -21,7 +21,7 @@ namespace kavela::desktop {
 namespace {
 
 /// By column, which figure of a third it shows; empty for none.
-constexpr std::array<const char*, 7> FigureOfColumn{"",       "",         "touches", "touches",
+constexpr std::array<const char*, 7> FigureOfColumn{"",       "runs",     "touches", "touches",
                                                     "missed", "paddling", "total"};
 constexpr int TableHeight = 6; ///< lines
 

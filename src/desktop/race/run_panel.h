@@ -1,5 +1,7 @@
 #pragma once
 
+#include "analysis/run_figures.h"
+#include "analysis/table_figures.h"
 #include "desktop/shell/tables/column_model.h"
 
 #include <QWidget>
@@ -13,6 +15,7 @@ namespace kavela::desktop {
 
 class ColumnTable;
 class RaceDocument;
+class WhyLabel;
 
 /// What a run is held against.
 struct RunAgainst {
@@ -22,7 +25,7 @@ struct RunAgainst {
 
 /// One run in detail: its sections with penalties, gaps and places, its penalties by gate, totals
 /// and expected time. Section by section it is held against
-/// the best of each, or against what was chosen.
+/// the best of each, or against what was chosen. Every number answers why.
 class RunPanel : public QWidget {
     Q_OBJECT
 
@@ -43,12 +46,28 @@ private:
     };
 
     [[nodiscard]] static std::vector<Column<Section>> columns(const QString& gap);
+    /// A line of figures of the run.
+    [[nodiscard]] WhyLabel* figureLabel(RunFigure figure);
+    void makeLayout();
+    void makeAnswers();
+    void fillFigures(std::size_t run);
+    /// Why the number in a cell of the sections is what it is.
+    [[nodiscard]] std::optional<Reason> whyOf(std::size_t section, int column) const;
     void fillHeading(std::size_t run, const std::optional<RunAgainst>& against);
     void fillSections(std::size_t run, const std::optional<RunAgainst>& against);
 
     RaceDocument& m_document;
+    std::optional<std::size_t> m_run;
+    TableReference m_reference;
     QLabel* m_name;
     QLabel* m_facts;
+    WhyLabel* m_total;
+    WhyLabel* m_penalties;
+    WhyLabel* m_real;
+    WhyLabel* m_realPenalties;
+    WhyLabel* m_expected;
+    WhyLabel* m_potential;
+    QLabel* m_standing;
     QLabel* m_gates;
     ColumnModel<Section> m_rows;
     ColumnTable* m_sections;

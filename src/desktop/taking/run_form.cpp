@@ -5,17 +5,15 @@
 #include "desktop/shell/theme.h"
 #include "desktop/shell/typed_number.h"
 #include "desktop/splitfile/taking_document.h"
+#include "desktop/why/why_label.h"
 #include "desktop/why/why_popup.h"
 #include "splitdata/run_timing.h"
 #include "splittaking/course_setup.h"
 #include "splittaking/messages.h"
 #include "splittaking/video_names.h"
 
-#include <QLabel>
-#include <QLayout>
+#include <QHBoxLayout>
 #include <QVBoxLayout>
-
-#include <algorithm>
 
 namespace kavela::desktop {
 
@@ -42,17 +40,21 @@ RunForm::RunForm(TakingDocument& document, QWidget* parent)
     : QWidget(parent),
       m_document(document),
       m_form([this](const QString& what, const auto& change) { edit(what, change); }),
-      m_figures(new QLabel) {
+      m_total(new WhyLabel([this] { return whyMarked(RunFigure::Total); })),
+      m_penalties(new WhyLabel([this] { return whyMarked(RunFigure::Penalties); })),
+      m_expected(new WhyLabel([this] { return whyExpected(); })),
+      m_perfect(new WhyLabel([this] { return m_document.whyPerfect(); })) {
     addFields();
-    m_figures->setTextFormat(Qt::PlainText);
-    m_figures->setWordWrap(true);
-    m_form.addRow({}, m_figures);
+    addFigures();
     m_form.layout()->setSpacing(theme::SmallSpacing);
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
     column->addWidget(&m_form);
     connect(&m_document, &TakingDocument::changed, this, [this] { refresh(false); });
-    answerWhy(this, [this](const QPoint& at) { return whyAt(at); });
+    // Where the cursor is in a field, the key asks for what the form is about.
+    answerWhy(this, [this](const QPoint& at) {
+        return at == QPoint(-1, -1) ? whyExpected() : std::nullopt;
+    });
     showRun(-1);
 }
 
@@ -78,6 +80,21 @@ void RunForm::addFields() {
         typedRunTime);
 }
 
+void RunForm::addFigures() {
+    auto* figures = new QWidget;
+    auto* column = new QVBoxLayout(figures);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
+    auto* total = new QHBoxLayout;
+    total->setSpacing(theme::SmallSpacing);
+    total->addWidget(m_total);
+    total->addWidget(m_penalties, 1);
+    column->addLayout(total);
+    column->addWidget(m_expected);
+    column->addWidget(m_perfect);
+    m_form.addRow({}, figures);
+}
+
 /// A real time makes another perfect time, which has its line in the log.
 void RunForm::edit(const QString& what, const std::function<void(athletedata031&)>& change) {
     const double before = m_document.run(m_run).sectioninfo.realtime;
@@ -101,34 +118,39 @@ void RunForm::runMoved(int run) {
     refresh(false);
 }
 
-/// The last line is the perfect time, the one above it the expected one.
-std::optional<Reason> RunForm::whyAt(const QPoint& at) const {
-    if (at == QPoint(-1, -1))
-        return m_run < 0 ? m_document.whyPerfect() : m_document.whyExpected(m_run);
-    const QRect figures(m_figures->mapTo(this, QPoint(0, 0)), m_figures->size());
-    if (!figures.contains(at))
+/// By what the analyzer shows of the same run.
+std::optional<Reason> RunForm::whyMarked(RunFigure figure) const {
+    if (m_run < 0)
         return std::nullopt;
-    const auto lines = static_cast<int>(m_figures->text().count('\n')) + 1;
-    const int fromEnd = (figures.bottom() - at.y()) * lines / std::max(1, figures.height());
-    if (fromEnd == 0)
-        return m_document.whyPerfect();
-    return fromEnd == 1 && m_run >= 0 ? m_document.whyExpected(m_run) : std::nullopt;
+    splittakerdata031 alone;
+    alone.info = m_document.info();
+    alone.athletes = {m_document.run(m_run)};
+    RaceSet set = makeRaceSet(std::move(alone), m_document.path().toStdString());
+    set.alldata.front().athleteInt = m_run;
+    return explainRunFigure(set, 0, figure);
+}
+
+std::optional<Reason> RunForm::whyExpected() const {
+    return m_run < 0 ? m_document.whyPerfect() : m_document.whyExpected(m_run);
 }
 
 void RunForm::refresh(bool isOther) {
     if (m_run >= m_document.runCount())
         m_run = -1;
     m_form.show(m_run < 0 ? nullptr : &m_document.run(m_run), isOther);
-    QString figures = tr("Perfect time %1 s").arg(hundredthsOrDash(m_document.perfectTime()));
-    if (m_run >= 0) {
-        const sectiondata030& timing = m_document.run(m_run).sectioninfo;
-        figures = tr("Total %1 s, penalties %2 s\nExpected %3 s\n")
-                      .arg(hundredthsOrDash(timing.totaltime))
-                      .arg(timing.totalpen)
-                      .arg(hundredthsOrDash(m_document.expectedTime(m_run))) +
-                  figures;
-    }
-    m_figures->setText(figures);
+    showFigures();
+}
+
+void RunForm::showFigures() {
+    const bool hasRun = m_run >= 0;
+    const auto told = [&](const QString& text, double seconds) {
+        return hasRun ? text.arg(hundredthsOrDash(seconds)) : QString();
+    };
+    const sectiondata030 timing = hasRun ? m_document.run(m_run).sectioninfo : sectiondata030();
+    m_total->tell(told(tr("Total %1 s,"), timing.totaltime));
+    m_penalties->tell(hasRun ? tr("penalties %1 s").arg(timing.totalpen) : QString());
+    m_expected->tell(told(tr("Expected %1 s"), hasRun ? m_document.expectedTime(m_run) : 0));
+    m_perfect->tell(tr("Perfect time %1 s").arg(hundredthsOrDash(m_document.perfectTime())));
 }
 
 } // namespace kavela::desktop

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "analysis/run_figures.h"
 #include "common/why.h"
 #include "desktop/shell/forms/record_form.h"
 #include "splitdata/records.h"
@@ -9,15 +10,14 @@
 #include <functional>
 #include <optional>
 
-class QLabel;
-
 namespace kavela::desktop {
 
 class TakingDocument;
+class WhyLabel;
 
 /// What is known of the selected run beside its splits, to be looked at and corrected: crew,
 /// category, phase, hand, the real time with its penalties, the sprint; and what follows from its
-/// times.
+/// times, each figure with its answer why.
 class RunForm : public QWidget {
     Q_OBJECT
 
@@ -35,13 +35,20 @@ private:
     void addFields();
     void edit(const QString& what, const std::function<void(athletedata031&)>& change);
     void refresh(bool isOther);
-    /// Why the figure at a point of the form is what it is, the expected time for the key.
-    [[nodiscard]] std::optional<Reason> whyAt(const QPoint& at) const;
+    void addFigures();
+    void showFigures();
+    /// Why a figure of the run that follows from its marks is what it is.
+    [[nodiscard]] std::optional<Reason> whyMarked(RunFigure figure) const;
+    /// What the form answers for the key where no figure is asked.
+    [[nodiscard]] std::optional<Reason> whyExpected() const;
 
     TakingDocument& m_document;
     int m_run = -1;
     RecordForm<athletedata031> m_form;
-    QLabel* m_figures;
+    WhyLabel* m_total;
+    WhyLabel* m_penalties;
+    WhyLabel* m_expected;
+    WhyLabel* m_perfect;
 };
 
 } // namespace kavela::desktop

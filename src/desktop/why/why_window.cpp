@@ -89,12 +89,13 @@ void WhyWindow::addTree(QVBoxLayout& column) {
     m_tree->setObjectName("inputs");
     m_tree->setAccessibleName(tr("What went into it"));
     m_tree->setAccessibleDescription(
-        tr("Right opens a number made on the way, Enter shows the place of a value"));
+        tr("Enter opens a number made on the way, and shows the place of a value"));
     m_tree->setColumnCount(TreeColumns);
     m_tree->setHeaderLabels({tr("From"), tr("Value"), tr("Where")});
     m_tree->headerItem()->setTextAlignment(ValueColumn, Qt::AlignRight | Qt::AlignVCenter);
     m_tree->setFrameShape(QFrame::NoFrame);
     m_tree->setUniformRowHeights(true);
+    m_tree->setExpandsOnDoubleClick(false); // activating does it, which Enter can as well
     m_tree->setTextElideMode(Qt::ElideMiddle);
     m_tree->header()->setSectionResizeMode(WhatColumn, QHeaderView::Stretch);
     m_tree->header()->setSectionResizeMode(ValueColumn, QHeaderView::ResizeToContents);
@@ -107,8 +108,12 @@ void WhyWindow::addTree(QVBoxLayout& column) {
     m_tree->setCurrentItem(m_tree->topLevelItem(0));
     m_tree->setVisible(m_tree->topLevelItemCount() > 0);
     column.addWidget(m_tree);
-    connect(m_tree, &QTreeWidget::itemActivated, this,
-            [this](QTreeWidgetItem* item) { activate(*item); });
+    connect(m_tree, &QTreeWidget::itemActivated, this, [this](QTreeWidgetItem* item) {
+        if (item->childCount() > 0)
+            item->setExpanded(!item->isExpanded());
+        else
+            activate(*item);
+    });
     connect(m_tree, &QTreeWidget::itemClicked, this, [this](QTreeWidgetItem* item, int at) {
         if (at == WhereColumn)
             activate(*item);
@@ -122,7 +127,11 @@ void WhyWindow::addInput(const Input& input, QTreeWidgetItem& under) {
     auto* item = new QTreeWidgetItem(&under);
     item->setText(WhatColumn, qtText(input.name));
     item->setToolTip(WhatColumn, item->text(WhatColumn));
-    item->setText(ValueColumn, shownNumbers(qtText(inputText(input))));
+    const QString within = shownNumbers(qtText(plusMinusText(input)));
+    item->setText(ValueColumn,
+                  shownNumbers(qtText(inputText(input))) +
+                      (within.isEmpty() ? QString() : ' ' + within.section(" (", 0, 0)));
+    item->setToolTip(ValueColumn, within);
     item->setTextAlignment(ValueColumn, Qt::AlignRight | Qt::AlignVCenter);
     if (!input.place || input.place->file.empty())
         return;
