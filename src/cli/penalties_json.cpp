@@ -1,10 +1,10 @@
 #include "cli/penalties_json.h"
 
 #include "cli/console.h"
+#include "common/delimited_text.h"
 #include "common/display_text.h"
 #include "common/json_encode.h"
 #include "common/number_text.h"
-#include "facts/found_text.h"
 
 namespace kavela::cli {
 

@@ -358,7 +358,7 @@ void FindWindow::showFound(const std::shared_ptr<const Found>& found) {
 }
 
 QString FindWindow::nothingText() const {
-    const QStringList unknown = unknownNames(m_query, *m_facts.facts());
+    const QStringList unknown = unknownNameSentences(m_query, *m_facts.facts());
     return unknown.isEmpty() ? tr("Nothing was found.")
                              : tr("Nothing was found.") + '\n' + unknown.join('\n');
 }
