@@ -106,10 +106,6 @@ struct PenaltiesJson {
 BOOST_DESCRIBE_STRUCT(PenaltiesJson, (),
                       (by, runs, leftOut, clean, prior, rows, details, costs, tradeoff))
 
-std::int64_t whole(std::size_t count) {
-    return static_cast<std::int64_t>(count);
-}
-
 std::optional<RateJson> rateJson(const std::optional<RateOf>& rate) {
     if (!rate)
         return {};
