@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 #include <utility>
 
 namespace kavela {
@@ -179,7 +180,7 @@ private:
             return sortGroups();
         if (m_sorted)
             sortBy(m_sorted->isText() ? naturalPlaces(facts(), m_texts) : m_numbers,
-                   query().sort->isDown);
+                   query().sort->isDown, query().first.value_or(m_answer.m_rows.size()));
     }
 
     void sortGroups() {
@@ -199,10 +200,11 @@ private:
     }
 
     /// Rows with equal values keep their order; those without one go to the end.
-    void sortBy(const std::vector<double>& values, bool isDown) {
+    void sortBy(const std::vector<double>& values, bool isDown,
+                std::size_t most = std::numeric_limits<std::size_t>::max()) {
         std::vector<FoundRow> rows;
         rows.reserve(values.size());
-        for (const std::uint32_t at : orderOf(values, isDown))
+        for (const std::uint32_t at : orderOf(values, isDown, most))
             rows.push_back(m_answer.m_rows[at]);
         m_answer.m_rows = std::move(rows);
     }

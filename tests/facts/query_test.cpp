@@ -112,7 +112,9 @@ TEST(QueryOrder, IsThatOfTheValuesHoweverManyThereAre) {
     for (const std::size_t count : {std::size_t{500}, std::size_t{20000}}) {
         std::vector<double> values;
         for (std::size_t i = 0; i < count; ++i)
-            values.push_back(i % 17 == 0 ? NotKnown : static_cast<double>(i * 7919 % 401) / 8 - 20);
+            values.push_back(i % 17 == 0 ? NotKnown
+                                         : static_cast<double>(i * 7919 % 401) / 8 - 20 +
+                                               static_cast<double>(i % 3) * 1e-12);
         for (const bool isDown : {false, true}) {
             std::vector<std::uint32_t> expected(count);
             std::iota(expected.begin(), expected.end(), 0U);
@@ -122,6 +124,11 @@ TEST(QueryOrder, IsThatOfTheValuesHoweverManyThereAre) {
                 return isDown ? values[a] > values[b] : values[a] < values[b];
             });
             EXPECT_EQ(orderOf(values, isDown), expected) << count << isDown;
+            auto first = orderOf(values, isDown, 30);
+            ASSERT_GE(first.size(), 30U);
+            first.resize(30);
+            expected.resize(30);
+            EXPECT_EQ(first, expected) << count << isDown;
         }
     }
     EXPECT_THAT(orderOf(std::vector{0.0, -0.0, -1.0}, true), ElementsAre(0, 1, 2));
