@@ -1,15 +1,13 @@
 #include "facts/folder_scan.h"
 #include "facts/query.h"
 
-#include "common/json_encode.h"
-#include "sample_content.h"
+#include "many_seasons.h"
 #include "sample_files.h"
 #include "subjects.h"
 
 #include <benchmark/benchmark.h>
 #include <sqlite3.h>
 
-#include <chrono>
 #include <cmath>
 #include <fstream>
 #include <sstream>
@@ -23,55 +21,30 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr std::size_t Files = 5000;
-constexpr std::size_t RunsPerFile = 60;
 constexpr std::size_t ChangedFiles = 20;
-constexpr unsigned Variants = 50; ///< races that differ; the others differ in place and date
 
-/// Seasons on the disk, of which the first scan has been made.
+std::size_t fileCount = 0; ///< as the call says, before anything is measured
+
+/// Seasons on the disk with a cache of their own.
 class Seasons {
 public:
-    Seasons() {
-        for (unsigned variant = 0; variant < Variants; ++variant)
-            m_races.push_back(race(RunsPerFile, variant));
-        for (std::size_t i = 0; i < Files; ++i)
-            write(i);
-    }
-
     FolderScan scan() const {
         ScanOptions options;
-        options.cacheFolder = m_cache.write("marker", "").parent_path();
-        const std::vector<fs::path> paths{m_folder};
+        options.cacheFolder = m_cache.path();
+        const std::vector<fs::path> paths{m_seasons.folder()};
         return scanPaths(paths, options);
     }
 
     void forget() const {
-        for (const auto& entry : fs::directory_iterator(m_cache.write("marker", "").parent_path()))
+        for (const auto& entry : fs::directory_iterator(m_cache.path()))
             fs::remove(entry.path());
     }
 
-    void change() {
-        for (std::size_t i = 0; i < ChangedFiles; ++i)
-            write(i * (Files / ChangedFiles));
-    }
+    void change() { m_seasons.touch(ChangedFiles); }
 
 private:
-    void write(std::size_t i) {
-        constexpr double SecondsPerDay = 86400;
-        splittakerdata031& document = m_races[i % Variants];
-        document.info.place = "Course " + std::to_string(i % 40);
-        document.info.date.seconds = 600000000 + static_cast<double>(i) * SecondsPerDay / 2;
-        const fs::path path = m_files.write(std::to_string(i) + ".kvx", encode(document));
-        m_folder = path.parent_path();
-        fs::last_write_time(path, fs::file_time_type::clock::now() - std::chrono::hours(1) +
-                                      std::chrono::milliseconds(++m_writes));
-    }
-
-    ScratchFolder m_files;
+    ManySeasons m_seasons{fileCount};
     ScratchFolder m_cache;
-    fs::path m_folder;
-    std::vector<splittakerdata031> m_races;
-    int m_writes = 0;
 };
 
 Seasons& seasons() {
@@ -125,7 +98,38 @@ void readChanged(benchmark::State& state) {
     }
 }
 
-/// The same rows in SQLite, with the indices that the queries can use.
+/// A statement that is run with other values again and again.
+class Insertion {
+public:
+    Insertion(sqlite3* database, const char* text) {
+        if (::sqlite3_prepare_v2(database, text, -1, &m_statement, nullptr) != SQLITE_OK)
+            throw std::runtime_error(::sqlite3_errmsg(database));
+    }
+    Insertion(const Insertion&) = delete;
+    Insertion& operator=(const Insertion&) = delete;
+    ~Insertion() { ::sqlite3_finalize(m_statement); }
+
+    template <class... Values>
+    void run(const Values&... values) {
+        int place = 0;
+        (bind(++place, values), ...);
+        if (::sqlite3_step(m_statement) != SQLITE_DONE)
+            throw std::runtime_error("SQLite does not take a row");
+        ::sqlite3_reset(m_statement);
+    }
+
+private:
+    void bind(int place, std::int64_t value) { ::sqlite3_bind_int64(m_statement, place, value); }
+    void bind(int place, double value) { ::sqlite3_bind_double(m_statement, place, value); }
+    void bind(int place, std::string_view value) {
+        ::sqlite3_bind_text(m_statement, place, value.data(), static_cast<int>(value.size()),
+                            SQLITE_STATIC);
+    }
+
+    sqlite3_stmt* m_statement = nullptr;
+};
+
+/// The rows that the queries ask for in SQLite, with the indices that they can use.
 class Database {
 public:
     Database() {
@@ -156,26 +160,63 @@ public:
 private:
     void fill() const {
         const QueryColumn& year = *columnNamed(What::Runs, "year");
-        for (std::size_t i = 0; i < facts().runs().size(); ++i) {
-            const RunRow& row = facts().runs()[i];
+        Insertion runs(m_database, "INSERT INTO runs VALUES(?,?,?,?,?)");
+        Insertion gates(m_database, "INSERT INTO gates VALUES(?,?,?)");
+        Insertion sections(m_database, "INSERT INTO sections VALUES(?,?)");
+        std::int64_t id = 0;
+        for (const RunRow& row : facts().runs()) {
             RowCursor cursor;
             cursor.facts = &facts();
             cursor.file = &facts().fileOf(row);
-            const std::string id = std::to_string(i);
-            run("INSERT INTO runs VALUES(" + id + ",'" + std::string(facts().text(row.crewKey)) +
-                "','" + std::string(facts().text(row.category)) + "'," +
-                std::to_string(static_cast<int>(year.number(cursor))) + ',' +
-                std::to_string(row.sprint) + ')');
+            runs.run(++id, facts().text(row.crewKey), facts().text(row.category),
+                     static_cast<std::int64_t>(year.number(cursor)), row.sprint);
             for (const GateRow& gate : facts().gatesOf(row))
-                run("INSERT INTO gates VALUES(" + id + ',' + std::to_string(gate.direction) + ',' +
-                    std::to_string(gate.time) + ')');
+                gates.run(id, std::int64_t{gate.direction}, gate.time);
             for (const SectionRow& section : facts().sectionsOf(row))
-                run("INSERT INTO sections VALUES(" + id + ',' + std::to_string(section.time) + ')');
+                sections.run(id, section.time);
         }
     }
 
     sqlite3* m_database = nullptr;
 };
+
+const Database& database() {
+    static const Database made;
+    return made;
+}
+
+/// What a scan and a start from the cache are beside: putting rows that are read already into
+/// tables.
+void fillDatabase(benchmark::State& state) {
+    (void)facts();
+    for ([[maybe_unused]] const auto iteration : state)
+        Database().run("SELECT 1");
+}
+
+/// The rows of all tables; those that the queries do not ask for too.
+std::size_t bytesOf(const FactStore& store) {
+    std::size_t bytes = store.files().size_bytes() + store.runs().size_bytes();
+    for (const RunRow& run : store.runs())
+        bytes += store.sectionsOf(run).size_bytes() + store.gatesOf(run).size_bytes() +
+                 store.penaltiesOf(run).size_bytes() + store.lossesOf(run).size_bytes() +
+                 store.tagsOf(run).size_bytes() + store.pensOf(run).size_bytes() +
+                 store.filmsOf(run).size_bytes();
+    for (std::size_t text = 0; text < store.textCount(); ++text)
+        bytes += sizeof(std::string) + store.text(static_cast<TextId>(text)).size();
+    return bytes;
+}
+
+void storeMemory(benchmark::State& state, bool isDatabase) {
+    constexpr double Megabyte = 1 << 20;
+    (void)facts();
+    for ([[maybe_unused]] const auto iteration : state) {
+        if (isDatabase)
+            (void)database(); // the only one that is there
+        const auto bytes =
+            isDatabase ? static_cast<std::size_t>(::sqlite3_memory_used()) : bytesOf(facts());
+        state.counters["mb"] = static_cast<double>(bytes) / Megabyte;
+    }
+}
 
 void askKavela(benchmark::State& state, const std::string& query) {
     (void)facts();
@@ -184,9 +225,9 @@ void askKavela(benchmark::State& state, const std::string& query) {
 }
 
 void askDatabase(benchmark::State& state, const std::string& query) {
-    static const Database database;
+    (void)database();
     for ([[maybe_unused]] const auto iteration : state)
-        benchmark::DoNotOptimize(database.run(query));
+        benchmark::DoNotOptimize(database().run(query));
 }
 
 void addQuery(const std::string& name, const std::string& ours, const std::string& theirs) {
@@ -196,13 +237,17 @@ void addQuery(const std::string& name, const std::string& ours, const std::strin
 
 } // namespace
 
-void addFacts() {
+void addFacts(std::size_t files) {
+    fileCount = files;
     benchmark::RegisterBenchmark("facts/scan", scanAll)->Iterations(1)->UseRealTime();
     benchmark::RegisterBenchmark("facts/cache", startFromCache)->UseRealTime();
     benchmark::RegisterBenchmark("facts/changed", readChanged)->Iterations(1)->UseRealTime();
-    addQuery("gates", "gates left cat K1M time<4 year 2022",
+    benchmark::RegisterBenchmark("facts/fill/sqlite", fillDatabase)->Iterations(1)->UseRealTime();
+    benchmark::RegisterBenchmark("facts/memory/kavela", storeMemory, false)->Iterations(1);
+    benchmark::RegisterBenchmark("facts/memory/sqlite", storeMemory, true)->Iterations(1);
+    addQuery("gates", "gates left cat K1M time<4 year 2020",
              "SELECT gates.rowid, time FROM runs JOIN gates ON run = id WHERE cat = 'K1M' AND "
-             "year = 2022 AND direction = 0 AND time > 0 AND time < 4");
+             "year = 2020 AND direction = 0 AND time > 0 AND time < 4");
     addQuery("best", "best sprint by athlete",
              "SELECT crew, count(*), min(sprint), avg(sprint) FROM runs WHERE sprint > 0 "
              "GROUP BY crew ORDER BY 3");

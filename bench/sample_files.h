@@ -15,6 +15,8 @@ public:
     ScratchFolder& operator=(const ScratchFolder&) = delete;
     ~ScratchFolder();
 
+    [[nodiscard]] const std::filesystem::path& path() const { return m_path; }
+
     /// Writes a file of that name and says where it is.
     std::filesystem::path write(const std::string& name, const std::string& content) const;
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cstddef>
+
 /// Each function adds the benchmarks of one subject.
 namespace kavela::bench {
 
@@ -13,6 +15,7 @@ void addShowCommand();
 void addLosses();
 void addVideo();
 void addMotionAnalysis();
-void addFacts();
+/// Over so many split files, at least 20.
+void addFacts(std::size_t files);
 
 } // namespace kavela::bench

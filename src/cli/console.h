@@ -3,6 +3,7 @@
 #include "common/alerts.h"
 #include "common/log.h"
 
+#include <cstddef>
 #include <cstdint>
 #include <filesystem>
 #include <string>
@@ -32,6 +33,11 @@ public:
 
 /// A path as text for people and JSON, whatever bytes its name holds.
 [[nodiscard]] std::string pathText(const std::filesystem::path& path);
+
+/// A size as JSON and texts have numbers.
+[[nodiscard]] constexpr std::int64_t whole(std::size_t size) {
+    return static_cast<std::int64_t>(size);
+}
 
 /// "1 run", "60 runs".
 [[nodiscard]] std::string counted(std::int64_t count, std::string_view singular,

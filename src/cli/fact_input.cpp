@@ -1,27 +1,16 @@
 #include "cli/fact_input.h"
 
 #include "cli/console.h"
-#include "cli/fact_scan.h"
 #include "cli/split_file_edit.h"
 #include "common/safe_file.h"
 
 #include <algorithm>
+#include <filesystem>
 #include <system_error>
 
 namespace kavela::cli {
 
 namespace fs = std::filesystem;
-
-FactInput factsFrom(const std::vector<std::string>& paths) {
-    FolderScan scan = scanWithBar(paths);
-    FactInput input;
-    input.read = scan.facts.files().size();
-    input.files = input.read + scan.failed.size();
-    input.facts = std::move(scan.facts);
-    for (const ScanFault& fault : scan.failed)
-        input.failed.push_back({fault.path, pathText(fault.path) + ": " + fault.reason});
-    return input;
-}
 
 std::optional<FactStore> factsOfFile(const std::string& path) {
     const std::optional<RecognisedSplitFile> file = openedSplitFile(path);

@@ -7,6 +7,8 @@
 
 namespace kavela::cli {
 
+namespace {
+
 FolderScan scanWithBar(const std::vector<std::string>& paths) {
     std::optional<ProgressBar> bar;
     std::size_t total = 0;
@@ -24,11 +26,19 @@ FolderScan scanWithBar(const std::vector<std::string>& paths) {
     return scanPaths(named, options);
 }
 
+} // namespace
+
 FolderScan scanNamed(const std::vector<std::string>& paths) {
     FolderScan scan = scanWithBar(paths);
     for (const ScanFault& fault : scan.failed)
         logLine(pathText(fault.path) + ": " + fault.reason);
     return scan;
+}
+
+bool hasFiles(const FolderScan& scan) {
+    if (scan.facts.files().empty() && scan.failed.empty())
+        logLine("There is no split file.");
+    return !scan.facts.files().empty();
 }
 
 } // namespace kavela::cli

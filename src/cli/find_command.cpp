@@ -1,16 +1,14 @@
 #include "cli/commands.h"
 
 #include "cli/console.h"
+#include "cli/fact_input.h"
 #include "cli/fact_scan.h"
 #include "cli/find_text.h"
-#include "common/error.h"
-#include "common/safe_file.h"
+#include "common/display_text.h"
 #include "facts/found_text.h"
-#include "results/name_likeness.h"
+#include "performance/unknown_names.h"
 
-#include <algorithm>
 #include <memory>
-#include <set>
 
 namespace kavela::cli {
 
@@ -40,50 +38,12 @@ struct FindCall {
 
 /// The names that a query asks for and nobody in the files has, with the likest ones.
 void tellUnknownAthletes(const Query& query, const FactStore& facts) {
-    std::set<std::string> all;
-    for (const RunRow& run : facts.runs())
-        for (std::string& name : facts.lines(run.names))
-            all.insert(std::move(name));
-    const std::vector<std::string> names(all.begin(), all.end());
-    for (const Condition& condition : query.conditions) {
-        const QueryColumn* const column = condition.choices.front().column;
-        if (!column || column->name != "athlete" || condition.comparison != Comparison::Equal)
-            continue;
-        Query alone;
-        alone.conditions.push_back(condition);
-        if (answer(facts, alone).size() > 0)
-            continue;
-        constexpr std::size_t MostNames = 3;
-        constexpr double LeastLikeness = 0.3;
-        std::string line = "Nobody is called \"" + condition.value + "\" in these files.";
-        std::size_t told = 0;
-        for (const std::size_t at : byLikeness(condition.value, names))
-            if (told < MostNames && nameLikeness(condition.value, names[at]) >= LeastLikeness)
-                line += (told++ == 0 ? " Like it are: " : ", ") + names[at];
+    for (const UnknownName& unknown : unknownNames(query, facts)) {
+        std::string line = "Nobody is called \"" + printable(unknown.name) + "\" in these files.";
+        for (const std::string& name : unknown.likeIt)
+            line += (&name == unknown.likeIt.data() ? " Like it are: " : ", ") + printable(name);
         logLine(line);
     }
-}
-
-bool isWritten(const QueryAnswer& found, const std::string& path) {
-    if (path.empty())
-        return true;
-    try {
-        writeFileSafely(path, findCsv(found));
-        return true;
-    } catch (const FileError& error) {
-        logLine("Failed to create file");
-        logLine("The file " + path + " could not be written: " + error.reason());
-        return false;
-    }
-}
-
-/// Whether the table would be written over a file that is searched.
-bool isSearched(const FactStore& facts, const std::string& path) {
-    return std::ranges::any_of(facts.files(), [&](const FileRow& file) {
-        std::error_code ignored;
-        return !path.empty() &&
-               std::filesystem::equivalent(std::string(facts.text(file.path)), path, ignored);
-    });
 }
 
 int find(const FindCall& call) {
@@ -100,14 +60,14 @@ int find(const FindCall& call) {
         return WrongCall;
     }
     const FolderScan scan = scanNamed({call.words.begin(), call.words.end() - 1});
-    if (isSearched(scan.facts, call.csv)) {
+    if (wouldReplaceSource(scan.facts, call.csv)) {
         logLine("The table cannot be written over a file that is searched.");
         return WrongCall;
     }
     const QueryAnswer found = answer(scan.facts, query);
     if (found.size() == 0)
         tellUnknownAthletes(query, scan.facts);
-    const bool isKept = isWritten(found, call.csv);
+    const bool isKept = isTableWritten(call.csv, call.csv.empty() ? "" : findCsv(found));
     const bool isPrinted =
         print(call.json ? findJson(found, text, scan) : findText(found, standardOutput()));
     return isKept && isPrinted && scan.failed.empty() ? Done : NotDone;

@@ -2,6 +2,7 @@
 
 #include "cli/console.h"
 #include "cli/fact_input.h"
+#include "cli/fact_scan.h"
 #include "cli/losses_csv.h"
 #include "cli/losses_json.h"
 #include "cli/losses_text.h"
@@ -108,14 +109,9 @@ void logUnknownAthlete(const FactStore& facts, const LossesCall& call) {
 }
 
 int tellSeason(const LossesCall& call, const Painting* painter) {
-    const FactInput input = factsFrom(call.paths);
-    for (const FailedFile& failed : input.failed)
-        logLine(failed.reason);
-    if (input.read == 0) {
-        if (input.failed.empty())
-            logLine("There is no split file.");
+    const FolderScan input = scanNamed(call.paths);
+    if (!hasFiles(input))
         return NotDone;
-    }
     const SeasonLossQuery query{crewKey(call.athlete), categoryKey(call.category),
                                 referenceOf(call)};
     const std::vector<std::size_t> runs = seasonRuns(input.facts, query);

@@ -1,7 +1,7 @@
 #include "cli/losses_csv.h"
 
+#include "common/delimited_text.h"
 #include "common/number_text.h"
-#include "facts/found_text.h"
 
 #include <cstdint>
 #include <initializer_list>
@@ -17,7 +17,7 @@ class LossCsvLine {
 public:
     LossCsvLine& add(std::string_view text) {
         separate();
-        m_text += csvField(std::string(text));
+        m_text += csvField(text);
         return *this;
     }
     LossCsvLine& add(double value) { return add(std::string_view(plainText(value))); }

@@ -151,10 +151,6 @@ struct SeasonLossesJson {
 BOOST_DESCRIBE_STRUCT(SeasonLossesJson, (),
                       (athlete, reference, runs, gap, penalties, rows, annotated))
 
-std::int64_t wholeNumberJson(std::size_t value) {
-    return static_cast<std::int64_t>(value);
-}
-
 std::vector<GateLossJson> gateLossesJson(std::span<const GateLoss> gates) {
     std::vector<GateLossJson> json;
     for (const GateLoss& gate : gates)
@@ -164,8 +160,8 @@ std::vector<GateLossJson> gateLossesJson(std::span<const GateLoss> gates) {
 }
 
 LossStretchJson lossStretchJson(const Stretch& stretch) {
-    return {wholeNumberJson(stretch.first),
-            wholeNumberJson(stretch.last),
+    return {whole(stretch.first),
+            whole(stretch.last),
             std::string(kindText(stretch.kind)),
             stretch.third,
             stretch.time,
@@ -226,15 +222,15 @@ RunLossesJson runLossesJson(const FactStore& facts, const RunLosses& losses) {
 
 LossNotesJson lossNotesJson(const LossNotes& notes) {
     LossNotesJson json;
-    json.unfinished = wholeNumberJson(notes.unfinished);
+    json.unfinished = whole(notes.unfinished);
     for (const LossNoteRow& row : notes.rows)
-        json.rows.push_back({row.field, row.key, wholeNumberJson(row.count), row.lost, row.gained});
+        json.rows.push_back({row.field, row.key, whole(row.count), row.lost, row.gained});
     return json;
 }
 
 LossMeanJson lossMeanJson(const MeanOf& mean) {
     LossMeanJson json;
-    json.n = wholeNumberJson(mean.n);
+    json.n = whole(mean.n);
     if (mean.n > 0)
         json.mean = mean.mean;
     if (mean.interval) {
@@ -247,7 +243,7 @@ LossMeanJson lossMeanJson(const MeanOf& mean) {
 SeasonLossRowJson seasonLossRowJson(const SeasonLossRow& row) {
     SeasonLossRowJson json{row.field,
                            row.key,
-                           wholeNumberJson(row.runs),
+                           whole(row.runs),
                            row.loss,
                            row.reference,
                            row.percent,
@@ -286,7 +282,7 @@ std::string seasonLossesJson(const std::string& athlete, const LossReference& re
     SeasonLossesJson json;
     json.athlete = athlete;
     json.reference = textOf(reference);
-    json.runs = wholeNumberJson(season.runs.size());
+    json.runs = whole(season.runs.size());
     json.gap = lossMeanJson(season.gap);
     json.penalties = lossMeanJson(season.penalties);
     for (const SeasonLossRow& row : season.rows)

@@ -2,6 +2,7 @@
 
 #include "cli/console.h"
 #include "cli/fact_input.h"
+#include "cli/fact_scan.h"
 #include "cli/penalties_json.h"
 #include "cli/penalties_text.h"
 #include "cli/told_reason.h"
@@ -56,18 +57,13 @@ int tellPenalties(const FactStore& facts, const PenaltiesCall& call) {
 }
 
 int penalties(const PenaltiesCall& call) {
-    const FactInput input = factsFrom(call.paths);
-    for (const FailedFile& failed : input.failed)
-        logLine(failed.reason);
+    const FolderScan input = scanNamed(call.paths);
     if (wouldReplaceSource(input.facts, call.csv)) {
         logLine("The table cannot be written over a file that it is made from.");
         return WrongCall;
     }
-    if (input.read == 0) {
-        if (input.failed.empty())
-            logLine("There is no split file.");
+    if (!hasFiles(input))
         return NotDone;
-    }
     if (!call.category.empty() && !hasCategory(input.facts, call.category))
         return NotDone;
     const int status =

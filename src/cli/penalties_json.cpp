@@ -1,10 +1,10 @@
 #include "cli/penalties_json.h"
 
 #include "cli/console.h"
+#include "common/delimited_text.h"
 #include "common/display_text.h"
 #include "common/json_encode.h"
 #include "common/number_text.h"
-#include "facts/found_text.h"
 
 namespace kavela::cli {
 
@@ -105,10 +105,6 @@ struct PenaltiesJson {
 };
 BOOST_DESCRIBE_STRUCT(PenaltiesJson, (),
                       (by, runs, leftOut, clean, prior, rows, details, costs, tradeoff))
-
-std::int64_t whole(std::size_t count) {
-    return static_cast<std::int64_t>(count);
-}
 
 std::optional<RateJson> rateJson(const std::optional<RateOf>& rate) {
     if (!rate)

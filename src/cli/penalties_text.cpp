@@ -22,10 +22,6 @@ constexpr int NarrowestLabel = 14;
 constexpr std::size_t MostRatesShown = 24;
 constexpr std::size_t MostCostsShown = 12;
 
-std::int64_t number(std::size_t count) {
-    return static_cast<std::int64_t>(count);
-}
-
 /// "3.6–14.3" for an interval of a rate.
 std::string percentRange(const Interval& interval) {
     return fmt::format("{:.1f}–{:.1f}", 100 * interval.low, 100 * interval.high);
@@ -99,14 +95,14 @@ private:
     void addHeading() {
         const PenaltyRates& rates = m_findings.rates;
         addStyled(BoldCode, fmt::format("Penalties by {} · {}, {}", nameOf(rates.by),
-                                        counted(number(m_facts.files().size()), "file", "files"),
-                                        counted(number(rates.runs), "run", "runs")));
+                                        counted(whole(m_facts.files().size()), "file", "files"),
+                                        counted(whole(rates.runs), "run", "runs")));
         if (rates.clean)
             addLine(fmt::format("{} of {} whole runs without a penalty: {:.1f} % ({})",
                                 rates.clean->count, rates.clean->of, 100 * rates.clean->rate,
                                 percentRange(rates.clean->interval)));
         if (rates.leftOut > 0)
-            addLine(counted(number(rates.leftOut), "run", "runs") +
+            addLine(counted(whole(rates.leftOut), "run", "runs") +
                     " left out: penalties not known by gate");
     }
 
@@ -181,7 +177,7 @@ private:
             addCost(costs[i]);
         addLeftOut(costs.size() - count);
         if (free > 0)
-            addLine(counted(number(free), "penalty", "penalties") + " cost no place");
+            addLine(counted(whole(free), "penalty", "penalties") + " cost no place");
         if (std::ranges::any_of(costs, &PenaltyCost::isMissedGate))
             addStyled(DimCode, "A missed gate also saved paddling, which is not taken back here.");
     }
@@ -219,8 +215,7 @@ private:
         const DetailShares& details = m_findings.details;
         if (details.noted == 0)
             return;
-        addTitle(
-            fmt::format("Noted of {}", counted(number(details.noted), "penalty", "penalties")));
+        addTitle(fmt::format("Noted of {}", counted(whole(details.noted), "penalty", "penalties")));
         for (const DetailField& field : DetailFields) {
             std::vector<std::string> parts;
             for (const DetailRow& row : details.rows)

@@ -78,6 +78,17 @@ void splitFields(std::string_view line, char separator, std::vector<std::string_
     }
 }
 
+std::string csvField(std::string_view text, char separator) {
+    const bool isPlain =
+        text.find_first_of("\"\n\r") == text.npos && text.find(separator) == text.npos;
+    if (isPlain)
+        return std::string(text);
+    std::string quoted = "\"";
+    for (const char c : text)
+        quoted += c == '"' ? std::string(2, c) : std::string(1, c);
+    return quoted + '"';
+}
+
 std::string withSingleQuotes(std::string_view field) {
     std::string single;
     for (std::size_t i = 0; i < field.size(); ++i) {

@@ -33,6 +33,10 @@ void splitFields(std::string_view line, char separator, std::vector<std::string_
 /// A bare field in which doubled quotes stand for one.
 [[nodiscard]] std::string withSingleQuotes(std::string_view field);
 
+/// A text as a field of a list that is written: in quotes, its own ones doubled, where it holds the
+/// separator, a quote or a line end.
+[[nodiscard]] std::string csvField(std::string_view text, char separator = ';');
+
 /// Goes through the lines of a list that have something on them.
 class DelimitedReader {
 public:

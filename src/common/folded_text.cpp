@@ -120,8 +120,12 @@ std::string folded(std::string_view text) {
 }
 
 bool isNaturallyBefore(std::string_view a, std::string_view b) {
-    const int order = naturalOrder(folded(a), folded(b));
-    return order != 0 ? order < 0 : a < b;
+    return NaturalName(a).isBefore(NaturalName(b));
+}
+
+bool NaturalName::isBefore(const NaturalName& other) const {
+    const int order = naturalOrder(m_folded, other.m_folded);
+    return order != 0 ? order < 0 : m_text < other.m_text;
 }
 
 } // namespace kavela

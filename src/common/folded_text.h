@@ -14,4 +14,17 @@ namespace kavela {
 /// differ in case, accents or leading zeros alone are ordered too, so that a list has one order.
 [[nodiscard]] bool isNaturallyBefore(std::string_view a, std::string_view b);
 
+/// The same of many names, each of which is folded once.
+class NaturalName {
+public:
+    /// The text must outlive it.
+    explicit NaturalName(std::string_view text) : m_text(text), m_folded(folded(text)) {}
+
+    [[nodiscard]] bool isBefore(const NaturalName& other) const;
+
+private:
+    std::string_view m_text;
+    std::string m_folded;
+};
+
 } // namespace kavela

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <concepts>
 #include <cstddef>
 #include <initializer_list>
 #include <iterator>
@@ -9,6 +8,12 @@
 #include <vector>
 
 namespace kavela {
+
+/// What can be compared with its like.
+template <class T>
+concept HasEquality = requires(const T& entry) {
+    entry == entry;
+};
 
 /// A list that is not changed any more and that all its copies share: a recording of a run is many
 /// times the rest of it, and so is a picture.
@@ -29,8 +34,7 @@ public:
     [[nodiscard]] auto begin() const { return list().begin(); }
     [[nodiscard]] auto end() const { return list().end(); }
 
-    friend bool operator==(const SharedList& a,
-                           const SharedList& b) requires std::equality_comparable<T> {
+    friend bool operator==(const SharedList& a, const SharedList& b) requires HasEquality<T> {
         return a.m_list == b.m_list || a.list() == b.list();
     }
 

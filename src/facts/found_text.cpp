@@ -1,5 +1,6 @@
 #include "facts/found_text.h"
 
+#include "common/delimited_text.h"
 #include "common/display_text.h"
 #include "common/number_text.h"
 
@@ -45,15 +46,6 @@ bool isNumber(const FoundColumn& column) {
 
 bool isOfPlace(const FoundColumn& column) {
     return std::ranges::count(FoundPlaceTitles, column.name) > 0;
-}
-
-std::string csvField(const std::string& text) {
-    if (text.find_first_of(";\"\n\r") == std::string::npos)
-        return text;
-    std::string quoted = "\"";
-    for (const char c : text)
-        quoted += c == '"' ? std::string(2, c) : std::string(1, c);
-    return quoted + '"';
 }
 
 std::string findCsv(const QueryAnswer& answer) {

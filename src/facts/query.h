@@ -33,6 +33,9 @@ struct FoundValue {
     TextId text = 0;
 };
 
+/// What a column says of a row.
+[[nodiscard]] FoundValue foundValue(const QueryColumn& column, const RowCursor& row);
+
 /// A column of an answer.
 struct FoundColumn {
     std::string name;

@@ -95,6 +95,37 @@ void forEachRow(What what, RowCursor& cursor, const Visit& visit) {
     }
 }
 
+/// Calls `use(cursor)` at one of the rows of a run, by its entry there.
+template <class Use>
+void atRow(What what, RowCursor cursor, std::uint32_t entry, const Use& use) {
+    const FactStore& facts = *cursor.facts;
+    switch (what) {
+    case What::Runs:
+        break;
+    case What::Sections:
+    case What::Strokes:
+        cursor.sectionRow = &facts.sectionsOf(*cursor.run)[entry];
+        cursor.section = entry + 1;
+        break;
+    case What::Gates:
+        cursor.gate = &facts.gatesOf(*cursor.run)[entry];
+        break;
+    case What::Losses:
+        cursor.loss = &facts.lossesOf(*cursor.run)[entry];
+        break;
+    case What::Tags:
+        cursor.tag = &facts.tagsOf(*cursor.run)[entry];
+        break;
+    case What::Penalties: // some of which stand in no table
+        forEachRow(what, cursor, [&](const RowCursor& row, std::uint32_t at) {
+            if (at == entry)
+                use(row);
+        });
+        return;
+    }
+    use(std::as_const(cursor));
+}
+
 /// The cursor of a run, at none of its rows yet.
 [[nodiscard]] RowCursor cursorOf(const FactStore& facts, std::size_t run);
 

@@ -1,5 +1,6 @@
 #include "planning/test_table.h"
 
+#include "common/delimited_text.h"
 #include "common/number_text.h"
 #include "planning/test_sections.h"
 
@@ -27,22 +28,10 @@ constexpr const char* Groups[] = {"Stroke rate",
                                   "Right Rotation peak",
                                   "Right Rotation duration"};
 
-std::string quoted(const std::string& field) {
-    if (field.find_first_of(";\"\n\r") == std::string::npos)
-        return field;
-    std::string text = "\"";
-    for (const char c : field) {
-        if (c == '"')
-            text += '"';
-        text += c;
-    }
-    return text + '"';
-}
-
 std::string line(const std::vector<std::string>& fields) {
     std::string text;
     for (const std::string& field : fields)
-        text += quoted(field) + ';';
+        text += csvField(field) + ';';
     text.back() = '\n';
     return text;
 }

@@ -1,5 +1,6 @@
 #include "splittaking/table_export.h"
 
+#include "common/delimited_text.h"
 #include "common/error.h"
 #include "common/number_text.h"
 #include "splitdata/run_timing.h"
@@ -13,18 +14,6 @@ namespace {
 /// More than any spreadsheet has columns for; only a damaged file claims so many.
 constexpr std::int64_t MostTableSplits = 8000;
 
-std::string quoted(const std::string& field) {
-    if (field.find_first_of(";\"\n\r") == std::string::npos)
-        return field;
-    std::string text = "\"";
-    for (const char c : field) {
-        if (c == '"')
-            text += '"';
-        text += c;
-    }
-    return text + '"';
-}
-
 std::string header(std::size_t splits) {
     std::string line = "Name;Phase;";
     for (std::size_t k = 1; k <= splits; ++k)
@@ -35,7 +24,7 @@ std::string header(std::size_t splits) {
 std::string line(const infodata031& info, const athletedata031& run, std::size_t splits) {
     const sectiondata030& timing = run.sectioninfo;
     const auto penalties = sectionPenalties(info, timing.pens);
-    std::string text = quoted(crewText(run.names)) + ';' + quoted(run.phase) + ';';
+    std::string text = csvField(crewText(run.names)) + ';' + csvField(run.phase) + ';';
     for (std::size_t k = 0; k < splits; ++k)
         text += plainText(entryOrZero(timing.times, k)) + ';' +
                 std::to_string(entryOrZero(penalties, k)) + ';';

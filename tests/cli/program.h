@@ -55,6 +55,11 @@ public:
         return found;
     }
 
+    /// Where it keeps what it read.
+    [[nodiscard]] std::filesystem::path cache() const {
+        return m_home.path() / ".cache" / "Kavela" / "facts";
+    }
+
     [[nodiscard]] bool hasPreferences() const {
         return std::filesystem::exists(m_home.path() / "config");
     }
@@ -63,6 +68,7 @@ private:
     [[noreturn]] void become(std::vector<std::string> arguments, const std::string& input,
                              const std::string& output, const std::string& errors) const {
         ::setenv("HOME", m_home.path().c_str(), 1);
+        ::unsetenv("XDG_CACHE_HOME");
         ::setenv("XDG_CONFIG_HOME", (m_home.path() / "config").c_str(), 1);
         arguments.insert(arguments.begin(), m_program);
         std::vector<char*> pointers;

@@ -2,6 +2,7 @@
 #include "common/temp_folder.h"
 #include "desktop/imports/csv_mapping_dialog.h"
 #include "desktop/imports/import_files.h"
+#include "desktop/shell/tables/column_table.h"
 
 #include <fmt/format.h>
 #include <gmock/gmock.h>
@@ -11,13 +12,13 @@
 #include <QDateTimeEdit>
 #include <QLabel>
 #include <QPushButton>
-#include <QTableWidget>
 #include <QTest>
 #include <QTimer>
 
 namespace kavela::test {
 namespace {
 
+using desktop::ColumnTable;
 using desktop::CsvMappingDialog;
 using desktop::ImportedFile;
 using testing::ElementsAre;
@@ -48,8 +49,8 @@ protected:
         return dialog.findChild<QLabel*>("result")->text();
     }
     static QComboBox* choiceOver(const QDialog& dialog, int column) {
-        auto* table = dialog.findChild<QTableWidget*>("preview");
-        return qobject_cast<QComboBox*>(table->cellWidget(0, column));
+        const auto* table = dialog.findChild<ColumnTable*>("preview");
+        return qobject_cast<QComboBox*>(table->indexWidget(table->cellAt(0, column)));
     }
     /// Waits until the list was read.
     static void waitForResult(const QDialog& dialog) {
@@ -76,9 +77,9 @@ TEST_F(ImportsTest, TheDialogTellsWhatTheListGives) {
     waitForResult(dialog);
     EXPECT_EQ(resultOf(dialog), "This gives 12,301 samples, 100 per second, 2 min 3 s.");
     EXPECT_TRUE(importButton(dialog)->isEnabled());
-    auto* table = dialog.findChild<QTableWidget*>("preview");
-    EXPECT_EQ(table->rowCount(), 21);
-    EXPECT_EQ(table->item(3, 0)->text(), "0.02");
+    const auto* table = dialog.findChild<ColumnTable*>("preview");
+    EXPECT_EQ(table->model()->rowCount(), 21);
+    EXPECT_EQ(table->cellAt(3, 0).data().toString(), "0.02");
     EXPECT_EQ(choiceOver(dialog, 3)->currentText(), "Acc. z with gravity");
     EXPECT_EQ(dialog.findChild<QComboBox*>("acceleration")->currentText(), "m/s²");
     EXPECT_THAT(dialog.findChild<QLabel*>("details")->text().toStdString(),
@@ -119,6 +120,20 @@ TEST_F(ImportsTest, AListWithoutDatesBeginsWhenTheCoachSays) {
     start->setDateTime(QDateTime::fromString("2026-05-07T10:02:00Z", Qt::ISODate).toLocalTime());
     waitForResult(dialog);
     EXPECT_EQ(dialog.takeImport().session.info.date.seconds, 799840920);
+}
+
+TEST_F(ImportsTest, AListIsImportedAsSoonAsItIsReadAgain) {
+    const QStringList paths{QString::fromStdString(add("run.csv", longList()))};
+    inDialog([](CsvMappingDialog& dialog) {
+        dialog.findChild<QDateTimeEdit*>("start")->setDateTime(
+            QDateTime::fromString("2026-05-07T10:02:00Z", Qt::ISODate).toLocalTime());
+        importButton(dialog)->click();
+        EXPECT_TRUE(dialog.isVisible()) << "the list has another date than what was read";
+    });
+    const std::vector<ImportedFile> files =
+        desktop::importFiles(paths, m_recorder, nullptr, m_known);
+    ASSERT_THAT(files, SizeIs(1));
+    EXPECT_EQ(std::get<bmrawdata_v5>(files[0].content).info.date.seconds, 799840920);
 }
 
 TEST_F(ImportsTest, FilesBecomeTracksAndRecordings) {

@@ -2,11 +2,14 @@
 #include "facts/found_text.h"
 #include "facts/groups.h"
 #include "facts/query.h"
+#include "facts/query_order.h"
 #include "facts/small_season.h"
 
 #include <gmock/gmock.h>
 
+#include <algorithm>
 #include <cmath>
+#include <numeric>
 
 namespace kavela::test {
 
@@ -117,6 +120,56 @@ TEST_F(Queries, EveryNumberSaysWhereItStandsAndWhatItIsMadeOf) {
             }
         }
     EXPECT_FALSE(explainFound(groups, groups.size(), 0));
+}
+
+TEST_F(Queries, HundredsOfGroupsAreToldApart) {
+    constexpr std::size_t Places = 200;
+    for (std::size_t i = 1; i <= Places; ++i)
+        m_facts.add(smallRace("Weir " + std::to_string(i)), "more.kvx");
+    const auto places = found("sections place weir by place, section", {"place", "count"});
+    ASSERT_EQ(places.size(), 2 * Places);
+    EXPECT_EQ(places[2 * 8], "Weir 9|2") << "9 stands before 10";
+    EXPECT_EQ(places[2 * 9], "Weir 10|2");
+    EXPECT_EQ(places.back(), "Weir 200|4");
+}
+
+TEST_F(Queries, RowsAreSortedByWhatTheyTell) {
+    EXPECT_THAT(found("penalties sort athlete down", {"athlete", "gate"}),
+                ElementsAre("Dún Cy / Eck Di|1", "BELL Anna|3"));
+    EXPECT_THAT(found("sections section 2 sort time down", {"time"}),
+                ElementsAre("50.00", "48.00", "", ""))
+        << "what has no time is last either way";
+    EXPECT_THAT(found("penalties best seconds", {"gate"}), ElementsAre("3"));
+    EXPECT_THAT(found("sections best pen sort time", {"athlete", "time"}),
+                ElementsAre("BELL Anna|40.00", "Cole Bea|41.00", "Cole Bea|48.00",
+                            "Dún Cy / Eck Di|", "Anna Bell|"));
+}
+
+/// Many are put in order another way than few.
+TEST(QueryOrder, IsThatOfTheValuesHoweverManyThereAre) {
+    for (const std::size_t count : {std::size_t{500}, std::size_t{20000}}) {
+        std::vector<double> values;
+        for (std::size_t i = 0; i < count; ++i)
+            values.push_back(i % 17 == 0 ? NotKnown
+                                         : static_cast<double>(i * 7919 % 401) / 8 - 20 +
+                                               static_cast<double>(i % 3) * 1e-12);
+        for (const bool isDown : {false, true}) {
+            std::vector<std::uint32_t> expected(count);
+            std::iota(expected.begin(), expected.end(), 0U);
+            std::ranges::stable_sort(expected, [&](std::uint32_t a, std::uint32_t b) {
+                if (std::isnan(values[a]) || std::isnan(values[b]))
+                    return std::isnan(values[b]) && !std::isnan(values[a]);
+                return isDown ? values[a] > values[b] : values[a] < values[b];
+            });
+            EXPECT_EQ(orderOf(values, isDown), expected) << count << isDown;
+            auto first = orderOf(values, isDown, 30);
+            ASSERT_GE(first.size(), 30U);
+            first.resize(30);
+            expected.resize(30);
+            EXPECT_EQ(first, expected) << count << isDown;
+        }
+    }
+    EXPECT_THAT(orderOf(std::vector{0.0, -0.0, -1.0}, true), ElementsAre(0, 1, 2));
 }
 
 TEST_F(Queries, ARowIsSeenOnItsFilm) {

@@ -1,77 +1,22 @@
-#include "performance/detail_shares.h"
 #include "performance/penalty_charts.h"
-#include "performance/penalty_cost.h"
+#include "performance/penalty_races.h"
 #include "performance/penalty_rates.h"
-#include "performance/penalty_reasons.h"
-#include "performance/penalty_rules.h"
-#include "performance/trade_off.h"
-#include "splitdata/loader.h"
 
 #include <gmock/gmock.h>
 
 #include <algorithm>
 #include <chrono>
-#include <set>
 #include <stdexcept>
 #include <tuple>
 
-/// Rates of penalties, what they cost, and what speed pays for. Figures to many digits come from a
-/// model that was written apart from this code.
+/// Passages of gates, and how often they are penalized.
 namespace kavela::test {
 
 namespace {
 
+using namespace penalties;
 using testing::ElementsAre;
 using testing::IsEmpty;
-
-/// Boundaries of beta and Poisson distributions are found by search.
-constexpr double Bound = 1e-6;
-
-athletedata031 paddled(std::vector<double> times, std::vector<std::int64_t> pens,
-                       const char* name = "Ada Brook") {
-    athletedata031 run;
-    run.names = {name};
-    run.phase = "Heats";
-    run.cat = "K1W";
-    run.sectioninfo.times = std::move(times);
-    run.sectioninfo.pens = std::move(pens);
-    for (const std::int64_t pen : run.sectioninfo.pens)
-        run.sectioninfo.totalpen += pen;
-    return run;
-}
-
-/// Four gates in two sections, the third one upstream.
-splittakerdata031 race(std::vector<athletedata031> runs) {
-    splittakerdata031 document;
-    document.info.session = "Race";
-    document.info.gates = 4;
-    document.info.upGates = {3};
-    document.info.definedsections = {{1, 2}, {3, 4}};
-    document.info.totalsplits = 2;
-    document.athletes = std::move(runs);
-    return document;
-}
-
-FactStore factsOf(const splittakerdata031& document) {
-    FactStore facts;
-    facts.add(document, "cup/a.kvx");
-    return facts;
-}
-
-/// The sample's four races.
-FactStore sampleFacts() {
-    const auto folder =
-        std::filesystem::path(KAVELA_TEST_DATA).parent_path().parent_path() / "examples" / "races";
-    FactStore facts;
-    for (const char* name :
-         {"harbour_night.kvx", "highland_open.kvx", "riverside_cup.kvx", "spring_opener.kvx"}) {
-        const auto file = recogniseSplitFile(
-            folder / name, [](std::string_view) {}, [] { return ReferenceDate{}; });
-        EXPECT_NE(file.version, nullptr) << name;
-        facts.add(file.document, name);
-    }
-    return facts;
-}
 
 std::vector<std::string> keysOf(const FactStore& facts, RateBy by) {
     std::vector<std::string> keys;
@@ -92,14 +37,6 @@ std::vector<std::int64_t> gatesPassed(const FactStore& facts, std::size_t run) {
     for (const GatePassage& passage : passagesOf(facts, run))
         gates.push_back(passage.gate);
     return gates;
-}
-
-double explained(const FactStore& facts, const std::string& id) {
-    const auto reason = explainPenalty(facts, id);
-    if (!reason)
-        throw std::out_of_range(id);
-    EXPECT_FALSE(reason->shown.empty()) << id;
-    return reason->value;
 }
 
 } // namespace
@@ -225,216 +162,6 @@ TEST(PenaltyRates, AreGroupedByWhatIsTheSameHoweverItIsWritten) {
     EXPECT_EQ(rowOf(penaltyRates(facts, RateBy::Section), "cup/a.kvx:1").touches->of, 6U);
     EXPECT_THAT(keysOf(facts, RateBy::Crew), ElementsAre("Ada Brook", "Cy Lock"));
     EXPECT_THAT(fileLabels(facts), ElementsAre("cup/a.kvx", "open/a.kvx"));
-}
-
-TEST(PenaltyCosts, CountThePlacesWithoutThePenaltyTiesShared) {
-    athletedata031 tied = paddled({40, 42}, {0, 0, 0, 0});
-    splittakerdata031 document =
-        race({paddled({40, 40}, {0, 0, 0, 0}), paddled({40, 41}, {0, 0, 0, 0}), tied, tied,
-              paddled({40, 40}, {2, 2, 0, 0}), paddled({30, 30}, {0, 0, 0, 50}),
-              paddled({40, 0}, {2, 0, 0, 0}), paddled({40, 40}, {4, 0})});
-    document.athletes[7].phase = "Final"; // by section, and alone
-    const FactStore facts = factsOf(document);
-    const std::vector<PenaltyCost> costs = penaltyCosts(facts);
-    ASSERT_EQ(costs.size(), 3U) << "neither an unfinished run nor one known by section";
-    // Totals: 80, 81, 82, 82, 84, 110. Without one touch the fifth ties with two thirds.
-    EXPECT_EQ(costs[0].run, 4U);
-    EXPECT_EQ(costs[0].gate, 1);
-    EXPECT_EQ(costs[0].section, 1U);
-    EXPECT_EQ(costs[0].rank, 5);
-    EXPECT_EQ(costs[0].without, 3);
-    EXPECT_EQ(costs[0].places(), 2);
-    EXPECT_EQ(costs[0].of, 6U);
-    EXPECT_TRUE(costs[0].isMedal());
-    EXPECT_EQ(costs[2].rank, 6);
-    EXPECT_EQ(costs[2].without, 1) << "60.00 is faster than all";
-    EXPECT_TRUE(costs[2].isMissedGate());
-    EXPECT_THAT(penaltyCosts(facts, {"mk1"}), IsEmpty());
-    EXPECT_EQ(penaltyCosts(facts, {"WK1"}).size(), 3U);
-}
-
-TEST(PenaltyCosts, CompareToTheHundredth) {
-    const FactStore facts = factsOf(
-        race({paddled({40.1, 48.82}, {0, 0, 0, 0}), paddled({40.1, 48.8200000001}, {2, 0, 0, 0})}));
-    const std::vector<PenaltyCost> costs = penaltyCosts(facts);
-    ASSERT_EQ(costs.size(), 1U);
-    EXPECT_EQ(costs[0].rank, 2);
-    EXPECT_EQ(costs[0].without, 1);
-}
-
-TEST(TradeOff, DividesGroupsOfSixAndNoneOfFive) {
-    std::vector<athletedata031> runs;
-    for (const double time : {50.0, 40.0, 44.0, 48.0, 42.0})
-        runs.push_back(paddled({40, time}, {0, 0, 0, 0}));
-    runs[1].sectioninfo.pens = {2, 2, 50, 0};
-    runs[1].sectioninfo.totalpen = 54;
-    EXPECT_THAT(tradeOff(factsOf(race(runs))).rows, IsEmpty());
-    EXPECT_EQ(tradeOff(factsOf(race(runs))).breakEven, std::nullopt);
-
-    runs.push_back(paddled({40, 0}, {0, 0, 0, 0})); // unfinished: still five
-    EXPECT_THAT(tradeOff(factsOf(race(runs))).rows, IsEmpty());
-    runs.push_back(paddled({40, 46}, {0, 0, 0, 0}));
-    const TradeOff divided = tradeOff(factsOf(race(runs)));
-    ASSERT_EQ(divided.rows.size(), 3U);
-    // Paddling 80, 82 | 84, 86 | 88, 90 with the median 85; totals have the median 87.
-    EXPECT_EQ(divided.rows[0].third, 1);
-    EXPECT_EQ(divided.rows[0].runs, 2U);
-    EXPECT_DOUBLE_EQ(divided.rows[0].touchesPerRun, 1);
-    EXPECT_DOUBLE_EQ(divided.rows[0].missedPerRun, 0.5);
-    EXPECT_NEAR(divided.rows[0].paddling, 100 * 81 / 85.0, 1e-9);
-    EXPECT_NEAR(divided.rows[0].total, 100 * (134 + 82) / 2.0 / 87, 1e-9);
-    EXPECT_DOUBLE_EQ(divided.rows[2].touchesPerRun, 0);
-    EXPECT_DOUBLE_EQ(divided.rows[2].interval.low, 0);
-    EXPECT_NEAR(*divided.breakEven, 85 / 200.0, 1e-12);
-
-    const TradeOffChart chart = tradeOffChart(divided);
-    ASSERT_EQ(chart.equalLine.size(), 2U);
-    const auto [left, right] = std::pair(chart.equalLine[0], chart.equalLine[1]);
-    EXPECT_NEAR((left.second - right.second) / (right.first - left.first), *divided.breakEven, 1e-9)
-        << "one percent slower has so many touches fewer";
-}
-
-TEST(DetailShares, AreOfThePenaltiesNotedBesideThoseThatAreNot) {
-    splittakerdata031 document =
-        race({paddled({40, 41}, {2, 2, 0, 0}), paddled({40, 41}, {0, 0, 50, 0})});
-    pendata030 details;
-    details.gate = {1, 3};
-    details.penkind = {0};
-    details.polekind = {1, 1};
-    document.athletes[0].sectioninfo.pendetails = {details};
-    const FactStore facts = factsOf(document);
-    const DetailShares shares = detailShares(facts);
-    EXPECT_EQ(shares.noted, 2U);
-    const auto of = [&](std::string_view field) {
-        std::vector<std::tuple<std::string, std::size_t, std::size_t>> rows;
-        for (const DetailRow& row : shares.rows)
-            if (row.field == field)
-                rows.emplace_back(detailText(row), row.share.count, row.share.of);
-        return rows;
-    };
-    // Four penalties: noted at the first gate of the first run and the third, where it had none,
-    // without any word at its second gate and in the other run.
-    EXPECT_THAT(of("kind"),
-                ElementsAre(std::tuple("Touch", 1U, 1U), std::tuple("not noted", 3U, 4U)));
-    EXPECT_THAT(of("pole"),
-                ElementsAre(std::tuple("Outer pole", 2U, 2U), std::tuple("not noted", 2U, 4U)));
-    EXPECT_THAT(of("eye"), ElementsAre(std::tuple("not noted", 4U, 4U)));
-    EXPECT_EQ(explained(facts, "detail/pole/-"), 0.5);
-    EXPECT_EQ(explained(facts, "detail/pole/1"), 1);
-}
-
-TEST(SamplePenalties, AgreeWithAModelOfTheirOwn) {
-    const FactStore facts = sampleFacts();
-    const PenaltyRates gates = penaltyRates(facts, RateBy::Gate);
-    EXPECT_EQ(gates.runs, 180U);
-    EXPECT_EQ(gates.leftOut, 0U);
-    EXPECT_EQ(gates.clean->count, 92U);
-    EXPECT_EQ(gates.clean->of, 174U);
-    EXPECT_NEAR(gates.common.mean, 0.027526595744680853, 1e-12);
-    EXPECT_NEAR(gates.common.strength, 614.7618759571114, 1e-6);
-    ASSERT_EQ(gates.rows.size(), 86U);
-    const RateRow& worst = gates.rows[0];
-    EXPECT_EQ(worst.key, "spring_opener.kvx:9");
-    EXPECT_EQ(worst.touches->count, 5U);
-    EXPECT_EQ(worst.touches->of, 68U);
-    EXPECT_NEAR(worst.touches->interval.low, 0.03624770590817935, Bound);
-    EXPECT_NEAR(worst.touches->interval.high, 0.14344886148111327, Bound);
-    EXPECT_NEAR(worst.shrunk.rate, 0.032108268505739064, 1e-9);
-    EXPECT_NEAR(worst.shrunk.interval.low, 0.021850417143266278, Bound);
-    EXPECT_NEAR(worst.shrunk.interval.high, 0.043922186899312654, Bound);
-    EXPECT_NEAR(worst.shrunk.above, 0.7403390318199645, 1e-9);
-    EXPECT_TRUE(std::ranges::none_of(gates.rows, &RateRow::standsOut));
-
-    const PenaltyRates types = penaltyRates(facts, RateBy::Type);
-    EXPECT_EQ(types.rows[0].key, "up");
-    EXPECT_EQ(types.rows[0].touches->count, 42U);
-    EXPECT_EQ(types.rows[0].touches->of, 1001U);
-    EXPECT_NEAR(types.rows[0].shrunk.rate, 0.04167534957384292, 1e-9);
-    EXPECT_TRUE(types.rows[0].standsOut()) << "upstream gates, from 0.95 on";
-    const RateRow crew = penaltyRates(facts, RateBy::Crew).rows[0];
-    EXPECT_EQ(crew.key, "Leonie Kehrwasser");
-    EXPECT_NEAR(crew.shrunk.rate, 0.03269687024605851, 1e-9);
-
-    const std::vector<PenaltyCost> costs = penaltyCosts(facts);
-    int places = 0;
-    for (const PenaltyCost& cost : costs)
-        places += cost.places();
-    EXPECT_EQ(costs.size(), 107U);
-    EXPECT_EQ(places, 294);
-    EXPECT_EQ(std::ranges::count_if(costs, &PenaltyCost::isMedal), 21);
-
-    const TradeOff risk = tradeOff(facts);
-    ASSERT_EQ(risk.rows.size(), 3U);
-    EXPECT_EQ(risk.rows[1].runs, 42U);
-    EXPECT_NEAR(risk.rows[0].touchesPerRun, 0.38636363636363635, 1e-12);
-    EXPECT_NEAR(risk.rows[0].interval.low, 0.24618500809718144, Bound);
-    EXPECT_NEAR(risk.rows[0].interval.high, 0.5795279564285312, Bound);
-    EXPECT_NEAR(risk.rows[2].paddling, 102.41856159120778, 1e-9);
-    EXPECT_NEAR(risk.rows[1].total, 103.24830273945501, 1e-9);
-    EXPECT_NEAR(*risk.breakEven, 0.4928775, 1e-12);
-}
-
-TEST(PenaltyReasons, AreTheValuesOfTheTables) {
-    const FactStore facts = sampleFacts();
-    for (const std::string_view name : RateByNames) {
-        const PenaltyRates rates = penaltyRates(facts, *rateByOf(name));
-        const std::string by(name);
-        EXPECT_EQ(explained(facts, "common/" + by), rates.common.mean);
-        for (const RateRow& row : rates.rows) {
-            EXPECT_EQ(explained(facts, "rate/" + by + '/' + row.key), row.shrunk.rate);
-            EXPECT_EQ(explained(facts, "above/" + by + '/' + row.key), row.shrunk.above);
-            EXPECT_EQ(explained(facts, "touches/" + by + '/' + row.key), row.touches->rate);
-            EXPECT_EQ(explained(facts, "missed/" + by + '/' + row.key), row.missed->rate);
-        }
-        EXPECT_EQ(explained(facts, "clean"), rates.clean->rate);
-    }
-    for (const PenaltyCost& cost : penaltyCosts(facts)) {
-        const RunRow& run = facts.runs()[cost.run];
-        const auto reason = explainPenalty(facts, "cost/" + courseKey(facts, run.file, run.number) +
-                                                      '/' + std::to_string(cost.gate));
-        ASSERT_TRUE(reason);
-        EXPECT_EQ(reason->value, cost.places());
-        ASSERT_EQ(reason->parts.size(), 2U);
-        EXPECT_EQ(reason->parts[0].value - reason->parts[1].value, reason->value);
-    }
-    for (const DetailRow& row : detailShares(facts).rows)
-        EXPECT_EQ(explained(facts, "detail/" + std::string(row.field) + '/' +
-                                       (row.code ? std::to_string(*row.code) : "-")),
-                  row.share.rate);
-    const TradeOff risk = tradeOff(facts);
-    for (const TradeOffRow& row : risk.rows) {
-        const std::string third = "third/" + std::to_string(row.third);
-        EXPECT_EQ(explained(facts, third + "/touches"), row.touchesPerRun);
-        EXPECT_EQ(explained(facts, third + "/missed"), row.missedPerRun);
-        EXPECT_EQ(explained(facts, third + "/paddling"), row.paddling);
-        EXPECT_EQ(explained(facts, third + "/total"), row.total);
-    }
-    EXPECT_EQ(explained(facts, "breakeven"), *risk.breakEven);
-}
-
-TEST(PenaltyReasons, NameThePassagesAndRefuseWhatIsNoNumber) {
-    const FactStore facts = factsOf(race({paddled({40, 41}, {0, 2, 0, 0}, "Ada Brook"),
-                                          paddled({40, 42}, {0, 50, 0, 0}, "Cy Lock")}));
-    const auto reason = explainPenalty(facts, "touches/gate/2");
-    ASSERT_TRUE(reason);
-    EXPECT_EQ(reason->shown, "50.0 %");
-    const auto& touch = reason->inputs.back();
-    EXPECT_EQ(touch.name, "Ada Brook");
-    EXPECT_EQ(touch.place->run, 0U);
-    EXPECT_EQ(touch.place->gate, 2U);
-    const auto missed = explainPenalty(facts, "cost/1/2");
-    ASSERT_TRUE(missed);
-    EXPECT_FALSE(missed->notes.empty()) << "a missed gate also saved paddling";
-    for (const char* id :
-         {"", "rate", "rate/", "rate/gate", "rate/gate/5", "rate/bend/1", "cost/0/1", "cost/9/2",
-          "cost/0", "cost/x/y", "detail/pole", "detail/pole/77", "third/1/touches",
-          "third/0/touches", "breakeven", "clean/1"})
-        EXPECT_FALSE(explainPenalty(facts, id)) << id;
-    std::set<std::string_view> ids;
-    for (const Rule* rule : penaltyRules()) {
-        EXPECT_TRUE(ids.insert(rule->id).second) << rule->id;
-        EXPECT_FALSE(rule->sentence.empty() || rule->formula.empty()) << rule->id;
-    }
 }
 
 TEST(PenaltyCharts, DrawEveryGateOfACourseInItsOrder) {

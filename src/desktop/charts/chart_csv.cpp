@@ -1,9 +1,9 @@
 #include "desktop/charts/chart_csv.h"
 
+#include "common/delimited_text.h"
 #include "common/number_text.h"
 
 #include <algorithm>
-#include <array>
 #include <cmath>
 
 namespace kavela::desktop {
@@ -12,19 +12,12 @@ namespace {
 
 constexpr double Precision = 1e6; ///< parts of a second: far below the interval of any film
 
-QString quoted(QString field) {
-    static constexpr std::array Special{';', '"', '\n', '\r'};
-    const bool needsQuotes =
-        std::ranges::any_of(Special, [&](char c) { return field.contains(QLatin1Char(c)); });
-    return needsQuotes ? '"' + field.replace("\"", "\"\"") + '"' : field;
-}
-
 } // namespace
 
 QString csvLine(const QStringList& fields) {
     QStringList safe;
     for (const QString& field : fields)
-        safe << quoted(field);
+        safe << QString::fromStdString(csvField(field.toStdString()));
     return safe.join(';') + '\n';
 }
 

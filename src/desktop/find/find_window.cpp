@@ -1,13 +1,14 @@
 #include "desktop/find/find_window.h"
 
-#include "common/error.h"
-#include "common/safe_file.h"
+#include "desktop/find/empty_search.h"
 #include "desktop/find/failed_files.h"
 #include "desktop/find/find_actions.h"
+#include "desktop/find/found_saving.h"
 #include "desktop/find/kept_queries.h"
 #include "desktop/find/query_edit.h"
 #include "desktop/find/query_fault.h"
 #include "desktop/find/query_form.h"
+#include "desktop/find/reading_progress.h"
 #include "desktop/find/search_places.h"
 #include "desktop/find/unknown_names.h"
 #include "desktop/shell/file_names.h"
@@ -26,7 +27,6 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QMetaMethod>
-#include <QProgressBar>
 #include <QPushButton>
 #include <QSplitter>
 #include <QStackedWidget>
@@ -54,10 +54,7 @@ FindWindow::FindWindow(Workspace& workspace, std::filesystem::path cacheFolder)
     connectParts();
     connectReading();
     setWindowTitle(tr("Find") + QStringLiteral(" – Kavela"));
-    m_form->setValues(
-        [this](What what, const QueryColumn& column) { return valuesOf(what, column); });
-    m_edit->setValues(
-        [this](What what, const QueryColumn& column) { return valuesOf(what, column); });
+    offerValues();
     const bool isNew = m_queries->kept().isEmpty() && m_queries->last().isEmpty();
     m_side->setCurrentIndex(isNew ? 1 : 0);
     searchIn(workspace.remembered(PathsKey)); // a disk that is not there now may come again
@@ -108,23 +105,6 @@ QWidget* FindWindow::makeSide() {
     return side;
 }
 
-QWidget* FindWindow::makeEmptyPage() {
-    auto* const page = new QWidget;
-    auto* const title = new QLabel(tr("Drop a folder of split files (.kvx) here"));
-    title->setFont(theme::titleFont(*this));
-    auto* const text = new QLabel(tr("All races below it are searched. They are only read."));
-    text->setForegroundRole(QPalette::PlaceholderText);
-    auto* const open = new QPushButton(tr("Search a folder…"));
-    connect(open, &QPushButton::clicked, m_places, &SearchPlaces::chooseFolder);
-    auto* const column = new QVBoxLayout(page);
-    column->setSpacing(theme::LargeSpacing);
-    column->addStretch();
-    for (QWidget* const part : std::initializer_list<QWidget*>{title, text, open})
-        column->addWidget(part, 0, Qt::AlignHCenter);
-    column->addStretch();
-    return page;
-}
-
 QWidget* FindWindow::makeMain() {
     m_edit = new QueryEdit;
     m_edit->setPlaceholderText(tr("gates up left cat K1W time<4 – what, then what is asked of it"));
@@ -142,7 +122,9 @@ QWidget* FindWindow::makeMain() {
     tables->addWidget(m_results);
     tables->addWidget(m_members);
     m_pages = new QStackedWidget;
-    m_pages->addWidget(makeEmptyPage());
+    auto* const empty = new EmptySearch;
+    connect(empty, &EmptySearch::folderRequested, m_places, &SearchPlaces::chooseFolder);
+    m_pages->addWidget(empty);
     m_pages->addWidget(tables);
     auto* const main = new QWidget;
     auto* const column = new QVBoxLayout(main);
@@ -155,18 +137,12 @@ QWidget* FindWindow::makeMain() {
 }
 
 void FindWindow::makeStatus() {
-    m_progress = new QProgressBar;
-    m_progress->setMaximumWidth(200);
-    m_progress->hide();
-    m_stop = new QPushButton(tr("Stop reading"));
-    m_stop->setObjectName("stop");
-    m_stop->hide();
+    m_progress = new ReadingProgress(m_facts);
     m_status = new QLabel;
     m_status->setTextFormat(Qt::PlainText);
     m_place = new QLabel;
     m_place->setTextFormat(Qt::PlainText);
     statusBar()->addWidget(m_progress);
-    statusBar()->addWidget(m_stop);
     statusBar()->addWidget(m_status);
     statusBar()->addPermanentWidget(m_place);
 }
@@ -205,14 +181,8 @@ void FindWindow::connectParts() {
 void FindWindow::connectReading() {
     connect(m_places, &SearchPlaces::edited, this, &FindWindow::searchIn);
     connect(m_places, &SearchPlaces::failuresRequested, this, &FindWindow::showFailed);
-    connect(m_stop, &QPushButton::clicked, &m_facts, &WatchedFacts::cancel);
     connect(&m_facts, &WatchedFacts::changed, this, &FindWindow::takeFacts);
     connect(&m_facts, &WatchedFacts::readingChanged, this, &FindWindow::showReading);
-    connect(&m_facts, &WatchedFacts::progressed, this, [this](int read, int of) {
-        m_progress->setRange(0, of);
-        m_progress->setValue(read);
-        m_progress->setFormat(tr("%1 of %2 files").arg(read).arg(of));
-    });
 }
 
 QStringList FindWindow::paths() const {
@@ -253,18 +223,15 @@ void FindWindow::takeFiles(const QStringList& paths) {
 
 void FindWindow::showReading() {
     const bool isReading = m_facts.isReading() && !paths().isEmpty();
-    m_progress->setRange(0, 0);
-    m_progress->setVisible(isReading);
-    m_stop->setVisible(isReading);
+    m_progress->showReading(isReading);
     if (isReading)
         m_results->setEmptyText(tr("The files are being read…"));
     m_actions->refresh();
 }
 
 void FindWindow::takeFacts() {
-    m_values.clear();
-    m_form->setValues(
-        [this](What what, const QueryColumn& column) { return valuesOf(what, column); });
+    m_values.setFacts(m_facts.facts());
+    offerValues();
     tellContent();
     search();
 }
@@ -281,13 +248,12 @@ void FindWindow::tellContent() {
     m_actions->refresh();
 }
 
-/// Kept as long as the facts are the same: the same names are offered at every letter.
-std::vector<std::string> FindWindow::valuesOf(What what, const QueryColumn& column) {
-    const What asked = column.level == ColumnLevel::Row ? what : What::Runs;
-    const auto [values, isNew] = m_values.try_emplace({asked, &column});
-    if (isNew)
-        values->second = valuesIn(*m_facts.facts(), what, column);
-    return values->second;
+void FindWindow::offerValues() {
+    const auto valuesOf = [this](What what, const QueryColumn& column) {
+        return m_values.of(what, column);
+    };
+    m_form->setValues(valuesOf);
+    m_edit->setValues(valuesOf);
 }
 
 void FindWindow::ask(const QString& query) {
@@ -358,7 +324,7 @@ void FindWindow::showFound(const std::shared_ptr<const Found>& found) {
 }
 
 QString FindWindow::nothingText() const {
-    const QStringList unknown = unknownNames(m_query, *m_facts.facts());
+    const QStringList unknown = unknownNameSentences(m_query, *m_facts.facts());
     return unknown.isEmpty() ? tr("Nothing was found.")
                              : tr("Nothing was found.") + '\n' + unknown.join('\n');
 }
@@ -452,26 +418,7 @@ void FindWindow::chooseAndSaveCsv() {
 
 bool FindWindow::saveCsv(const QString& path) {
     const auto& found = m_results->found();
-    if (!found)
-        return false;
-    const bool isSearched = std::ranges::any_of(found->facts->files(), [&](const FileRow& file) {
-        return isSameFile(qtText(found->facts->text(file.path)), path);
-    });
-    if (isSearched) {
-        workspace().showAlert(
-            {"Failed to create file",
-             tr("The table cannot be written over a file that is searched.").toStdString()},
-            this);
-        return false;
-    }
-    try {
-        writeFileSafely(path.toStdString(), findCsv(found->answer));
-        return true;
-    } catch (const FileError& error) {
-        workspace().log()("Failed to create file");
-        workspace().showAlert({"Failed to create file", error.reason()}, this);
-        return false;
-    }
+    return found && isFoundSaved(*found, path, workspace(), this);
 }
 
 void FindWindow::showFailed() {

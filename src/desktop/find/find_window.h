@@ -3,16 +3,14 @@
 #include "common/why.h"
 #include "desktop/facts/watched_facts.h"
 #include "desktop/find/found_table.h"
+#include "desktop/find/offered_values.h"
 #include "desktop/find/query_search.h"
 #include "desktop/shell/tool_window.h"
 
 #include <filesystem>
-#include <map>
 #include <optional>
-#include <utility>
 
 class QLabel;
-class QProgressBar;
 class QPushButton;
 class QStackedWidget;
 class QTabWidget;
@@ -24,6 +22,7 @@ class KeptQueries;
 class QueryEdit;
 class QueryFault;
 class QueryForm;
+class ReadingProgress;
 class SearchPlaces;
 
 /// The search over the split files of a season: a query typed or set in fields, and its rows, each
@@ -90,7 +89,6 @@ protected:
 private:
     void makeParts();
     [[nodiscard]] QWidget* makeSide();
-    [[nodiscard]] QWidget* makeEmptyPage();
     [[nodiscard]] QWidget* makeMain();
     void makeStatus();
     void connectParts();
@@ -105,15 +103,14 @@ private:
     void takeFacts();
     void tellContent();
     [[nodiscard]] QString nothingText() const;
-    [[nodiscard]] std::vector<std::string> valuesOf(What what, const QueryColumn& column);
+    void offerValues();
     [[nodiscard]] const FoundTable& front() const;
 
     WatchedFacts m_facts;
     QuerySearch m_search;
     QuerySearch m_groupSearch;
     Query m_query; ///< the last one that could be read
-    /// What is offered, as long as the facts are the same.
-    std::map<std::pair<What, const QueryColumn*>, std::vector<std::string>> m_values;
+    OfferedValues m_values;
     bool m_isEntered = false; ///< the coach goes on to what is found
     FindActions* m_actions = nullptr;
     QueryEdit* m_edit = nullptr;
@@ -126,8 +123,7 @@ private:
     QPushButton* m_keep = nullptr;
     QTabWidget* m_side = nullptr;
     QStackedWidget* m_pages = nullptr;
-    QProgressBar* m_progress = nullptr;
-    QPushButton* m_stop = nullptr;
+    ReadingProgress* m_progress = nullptr;
     QLabel* m_status = nullptr;
     QLabel* m_place = nullptr;
 };

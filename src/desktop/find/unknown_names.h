@@ -8,6 +8,6 @@ namespace kavela::desktop {
 
 /// A sentence for each athlete that a query asks for and nobody in the files is called, with the
 /// likest names.
-[[nodiscard]] QStringList unknownNames(const Query& query, const FactStore& facts);
+[[nodiscard]] QStringList unknownNameSentences(const Query& query, const FactStore& facts);
 
 } // namespace kavela::desktop

@@ -1,36 +1,29 @@
 #include "desktop/imports/csv_mapping_dialog.h"
 
 #include "boatmotion/imports/csv_memory.h"
+#include "desktop/imports/csv_preview_table.h"
 #include "desktop/imports/csv_reading.h"
 #include "desktop/imports/csv_units_form.h"
+#include "desktop/shell/forms/field_texts.h"
+#include "desktop/shell/qt_text.h"
 #include "desktop/shell/shown_number.h"
 #include "desktop/shell/theme.h"
 
-#include <QAbstractItemView>
-#include <QComboBox>
 #include <QDateTime>
 #include <QDialogButtonBox>
 #include <QFileInfo>
-#include <QFontDatabase>
 #include <QHBoxLayout>
-#include <QHeaderView>
 #include <QLabel>
 #include <QLocale>
 #include <QPushButton>
-#include <QStyle>
-#include <QTableWidget>
 #include <QVBoxLayout>
 
-#include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace kavela::desktop {
 
 namespace {
-
-QString qtText(std::string_view text) {
-    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
 
 QString countText(std::size_t count) {
     return QLocale(QLocale::English).toString(static_cast<qulonglong>(count));
@@ -76,6 +69,12 @@ QString guessedHint() {
                                 "column what it is; a column without a choice is left out.");
 }
 
+/// When a list began that was this long when its file was written last, to the second.
+ReferenceDate beginOf(const SensorCsv& csv, double seconds) {
+    const QFileInfo file(QString::fromStdString(csv.path().string()));
+    return {std::floor(typedMoment(file.lastModified()).seconds - seconds)};
+}
+
 } // namespace
 
 QString importText(const CsvImport& import) {
@@ -96,18 +95,18 @@ CsvMappingDialog::CsvMappingDialog(SensorCsv csv, QWidget* parent,
                                    std::vector<std::string> remembered)
     : QDialog(parent),
       m_reading(new CsvReading(std::move(csv), this)),
-      m_units(new CsvUnitsForm),
-      m_table(new QTableWidget),
+      m_units(new CsvUnitsForm([this](const CsvUnitsForm::Change& change) { edit(change); })),
+      m_table(new CsvPreviewTable),
       m_result(new QLabel),
       m_details(new QLabel),
       m_remembered(std::move(remembered)) {
     const QFileInfo file(QString::fromStdString(m_reading->csv().path().string()));
     setWindowTitle(tr("Import “%1”").arg(file.fileName()));
     layOut();
-    m_units->proposeStart(file.lastModified());
-    connect(m_units, &CsvUnitsForm::changed, this, &CsvMappingDialog::readAgain);
-    connect(m_units, &CsvUnitsForm::separatorChosen, this,
-            [this](char separator) { showMapping(m_reading->csv().guess(separator)); });
+    m_mapping.start = beginOf(m_reading->csv(), 0);
+    connect(m_table, &CsvPreviewTable::columnsChosen, this, [this] {
+        edit([this](CsvMapping& mapping) { mapping.columns = m_table->columns(); });
+    });
     connect(m_reading, &CsvReading::finished, this, &CsvMappingDialog::tellResult);
     connect(m_reading, &CsvReading::failed, this, &CsvMappingDialog::tellFault);
     showBeginning();
@@ -135,8 +134,7 @@ void CsvMappingDialog::guessAgain() {
 }
 
 std::vector<std::string> CsvMappingDialog::remembered() const {
-    const CsvMapping mapping = this->mapping();
-    return withMapping(m_remembered, mapping, m_reading->csv().preview(mapping).titles);
+    return withMapping(m_remembered, m_mapping, m_reading->csv().preview(m_mapping).titles);
 }
 
 CsvMappingDialog::~CsvMappingDialog() = default;
@@ -153,13 +151,6 @@ void CsvMappingDialog::layOut() {
     auto* head = new QHBoxLayout;
     head->addWidget(m_hint, 1);
     head->addWidget(m_guessAgain);
-    m_table->setObjectName("preview");
-    m_table->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    m_table->setSelectionMode(QAbstractItemView::NoSelection);
-    m_table->setFocusPolicy(Qt::NoFocus);
-    m_table->setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
-    m_table->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    m_table->verticalHeader()->hide();
     m_result->setObjectName("result");
     m_result->setFont(theme::titleFont(*this));
     m_result->setWordWrap(true);
@@ -171,6 +162,7 @@ void CsvMappingDialog::layOut() {
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Cancel);
     m_import = buttons->addButton(tr("Import"), QDialogButtonBox::AcceptRole);
     m_import->setObjectName("import");
+    m_import->setEnabled(false);
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     auto* whole = new QVBoxLayout(this);
@@ -183,86 +175,40 @@ void CsvMappingDialog::layOut() {
     whole->addWidget(buttons);
 }
 
-CsvMapping CsvMappingDialog::mapping() const {
-    CsvMapping mapping = m_shown;
-    m_units->apply(mapping);
-    for (std::size_t c = 0; c < m_choices.size(); ++c)
-        mapping.columns[c] = static_cast<CsvQuantity>(m_choices[c]->currentIndex());
-    return mapping;
-}
-
+/// The date of the first sample is the list's, however it is read.
 void CsvMappingDialog::showMapping(const CsvMapping& mapping) {
-    m_shown = mapping;
-    m_units->showMapping(mapping);
-    fillTable();
+    const auto start = m_mapping.start;
+    m_mapping = mapping;
+    m_mapping.start = start;
+    m_units->showMapping(m_mapping);
+    m_table->showPreview(m_reading->csv().preview(m_mapping), m_mapping.columns);
     readAgain();
 }
 
-QComboBox* CsvMappingDialog::columnChoice(CsvQuantity quantity) {
-    auto* choice = new QComboBox;
-    for (std::size_t q = 0; q < CsvQuantities; ++q)
-        choice->addItem(qtText(textOf(static_cast<CsvQuantity>(q))));
-    choice->setCurrentIndex(static_cast<int>(quantity));
-    choice->setMaxVisibleItems(static_cast<int>(CsvQuantities));
-    choice->setFocusPolicy(Qt::StrongFocus);
-    // The column is as wide as what is chosen, the list as wide as what could be.
-    choice->view()->setMinimumWidth(choice->sizeHint().width());
-    choice->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    choice->setMinimumContentsLength(1);
-    connect(choice, &QComboBox::currentIndexChanged, this, [this] {
-        fitColumns();
-        readAgain();
-    });
-    return choice;
+/// Columns that are cut otherwise have other titles, from which all is guessed anew.
+void CsvMappingDialog::edit(const std::function<void(CsvMapping&)>& change) {
+    const CsvMapping before = m_mapping;
+    change(m_mapping);
+    m_isStartSet = m_isStartSet || m_mapping.start != before.start;
+    m_isAccepted = false;
+    if (m_mapping.separator != before.separator)
+        return showMapping(m_reading->csv().guess(m_mapping.separator));
+    m_units->showMapping(m_mapping);
+    readAgain();
 }
 
-void CsvMappingDialog::fillTable() {
-    const CsvPreview preview = m_reading->csv().preview(m_shown);
-    m_choices.clear();
-    m_table->clear();
-    m_table->setColumnCount(static_cast<int>(preview.titles.size()));
-    m_table->setRowCount(static_cast<int>(preview.rows.size()) + 1);
-    const QFont digits = QFontDatabase::systemFont(QFontDatabase::FixedFont);
-    for (int column = 0; column < m_table->columnCount(); ++column) {
-        const auto c = static_cast<std::size_t>(column);
-        m_table->setHorizontalHeaderItem(column, new QTableWidgetItem(qtText(preview.titles[c])));
-        m_choices.push_back(columnChoice(m_shown.columns[c]));
-        m_table->setCellWidget(0, column, m_choices.back());
-        for (int row = 1; row < m_table->rowCount(); ++row) {
-            auto* cell =
-                new QTableWidgetItem(qtText(preview.rows[static_cast<std::size_t>(row) - 1][c]));
-            cell->setFont(digits);
-            m_table->setItem(row, column, cell);
-        }
-    }
-    m_table->verticalHeader()->setDefaultSectionSize(fontMetrics().height() + theme::Spacing);
-    if (!m_choices.empty())
-        m_table->setRowHeight(0, m_choices.front()->sizeHint().height());
-    fitColumns();
-}
-
-void CsvMappingDialog::fitColumns() {
-    m_table->resizeColumnsToContents();
-    const int arrow = style()->pixelMetric(QStyle::PM_ScrollBarExtent) + 3 * theme::Spacing;
-    for (int column = 0; column < m_table->columnCount(); ++column) {
-        const QString chosen = m_choices[static_cast<std::size_t>(column)]->currentText();
-        const int wanted = fontMetrics().horizontalAdvance(chosen) + arrow;
-        m_table->setColumnWidth(column, std::max(m_table->columnWidth(column), wanted));
-    }
-}
-
+/// What was read before can be imported no more, but what is just being read can.
 void CsvMappingDialog::readAgain() {
-    m_import->setEnabled(false);
-    const CsvMapping wanted = mapping();
-    if (const auto fault = faultOf(wanted)) {
+    if (const auto fault = faultOf(m_mapping)) {
         m_reading->stop();
         return tellFault(qtText(*fault));
     }
     m_result->setText(tr("Reading…"));
-    m_reading->start(wanted);
+    m_reading->start(m_mapping);
 }
 
 void CsvMappingDialog::tellFault(const QString& fault) {
+    m_import->setEnabled(false);
     m_result->setText(fault);
     m_details->clear();
     m_details->setToolTip({});
@@ -271,19 +217,18 @@ void CsvMappingDialog::tellFault(const QString& fault) {
 void CsvMappingDialog::proposeStart() {
     const CsvImport& import = *m_reading->result();
     m_units->askForStart(!import.hasDates);
-    if (import.hasDates)
+    if (import.hasDates || m_isStartSet)
         return;
-    const QFileInfo file(QString::fromStdString(m_reading->csv().path().string()));
-    m_units->proposeStart(
-        file.lastModified().addMSecs(-static_cast<qint64>(import.seconds() * 1000)));
+    m_mapping.start = beginOf(m_reading->csv(), import.seconds());
+    m_units->showMapping(m_mapping);
 }
 
 void CsvMappingDialog::tellResult() {
-    const CsvMapping read = mapping();
+    const auto start = m_mapping.start;
     proposeStart();
     const CsvImport& import = *m_reading->result();
     // A list without dates is read once more, when its length has told when it began.
-    if (!import.hasDates && mapping().start != read.start)
+    if (!import.hasDates && m_mapping.start != start)
         return readAgain();
     const QString text = importText(import);
     m_result->setText(text.isEmpty() ? tr("This gives no samples.")
@@ -292,6 +237,16 @@ void CsvMappingDialog::tellResult() {
     m_details->setToolTip(unreadText(import));
     m_import->setEnabled(!text.isEmpty());
     m_import->setDefault(true);
+    if (std::exchange(m_isAccepted, false) && !text.isEmpty())
+        QDialog::accept();
+}
+
+void CsvMappingDialog::accept() {
+    if (!m_units->commit())
+        return;
+    m_isAccepted = !m_reading->result();
+    if (!m_isAccepted)
+        QDialog::accept();
 }
 
 CsvImport CsvMappingDialog::takeImport() {

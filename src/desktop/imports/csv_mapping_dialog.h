@@ -4,13 +4,14 @@
 
 #include <QDialog>
 
-class QComboBox;
+#include <functional>
+
 class QLabel;
 class QPushButton;
-class QTableWidget;
 
 namespace kavela::desktop {
 
+class CsvPreviewTable;
 class CsvReading;
 class CsvUnitsForm;
 
@@ -25,21 +26,22 @@ public:
                               std::vector<std::string> remembered = {});
     ~CsvMappingDialog() override;
 
-    [[nodiscard]] CsvMapping mapping() const;
+    [[nodiscard]] const CsvMapping& mapping() const { return m_mapping; }
     /// How lists are read from then on, with this one read as it is shown.
     [[nodiscard]] std::vector<std::string> remembered() const;
 
     /// What was read, once the dialog was accepted; the dialog has none afterwards.
     [[nodiscard]] CsvImport takeImport();
 
+    /// Takes what is being typed; a list that has to be read again for it is imported when it was.
+    void accept() override;
+
 private:
     void layOut();
     void showBeginning();
     void guessAgain();
     void showMapping(const CsvMapping& mapping);
-    void fillTable();
-    void fitColumns();
-    [[nodiscard]] QComboBox* columnChoice(CsvQuantity quantity);
+    void edit(const std::function<void(CsvMapping&)>& change);
     void readAgain();
     void tellResult();
     void tellFault(const QString& fault);
@@ -47,15 +49,16 @@ private:
 
     CsvReading* m_reading;
     CsvUnitsForm* m_units;
-    QTableWidget* m_table;
+    CsvPreviewTable* m_table;
     QLabel* m_result;
     QLabel* m_details;
     QPushButton* m_import = nullptr;
     QLabel* m_hint = nullptr;
     QPushButton* m_guessAgain = nullptr;
     std::vector<std::string> m_remembered;
-    CsvMapping m_shown; ///< as it was guessed for the present separator
-    std::vector<QComboBox*> m_choices;
+    CsvMapping m_mapping;
+    bool m_isStartSet = false; ///< by the coach
+    bool m_isAccepted = false; ///< as soon as the list was read
 };
 
 /// "12,345 samples, 100 per second, 2 min 3 s", with positions and heart rates where there are any.

@@ -1,14 +1,11 @@
 #pragma once
 
 #include "boatmotion/imports/sensor_csv.h"
+#include "desktop/shell/forms/record_form.h"
 
-#include <QDateTime>
 #include <QWidget>
 
-class QCheckBox;
-class QComboBox;
-class QDateTimeEdit;
-class QFormLayout;
+#include <functional>
 
 namespace kavela::desktop {
 
@@ -17,36 +14,28 @@ class CsvUnitsForm : public QWidget {
     Q_OBJECT
 
 public:
-    explicit CsvUnitsForm(QWidget* parent = nullptr);
+    using Change = std::function<void(CsvMapping&)>;
 
-    /// Shows a mapping; nothing is signalled.
+    /// `edit` makes a change to the mapping and shows it again.
+    explicit CsvUnitsForm(const std::function<void(const Change&)>& edit,
+                          QWidget* parent = nullptr);
+
+    /// The mapping as it is now; what is being typed stays.
     void showMapping(const CsvMapping& mapping);
-    /// Writes what is shown into a mapping.
-    void apply(CsvMapping& mapping) const;
-
+    /// Takes what is being typed; false where it cannot be taken.
+    bool commit();
     /// Whether the date of the first sample is asked for: the times of the list are no dates.
     void askForStart(bool asks);
-    /// Proposes a date, unless the coach has set one.
-    void proposeStart(const QDateTime& start);
-
-signals:
-    void separatorChosen(char separator);
-    void changed();
 
 private:
-    QComboBox* addChoice(QFormLayout& form, const QString& label, const char* name,
-                         const QStringList& choices);
+    void addTexts();
+    void addTurns();
+    void addWays();
 
-    QComboBox* m_separator = nullptr;
-    QCheckBox* m_decimalComma = nullptr;
-    QComboBox* m_time = nullptr;
-    QComboBox* m_acceleration = nullptr;
-    QComboBox* m_rotation = nullptr;
-    QComboBox* m_angle = nullptr;
-    QComboBox* m_speed = nullptr;
-    QComboBox* m_direction = nullptr;
-    QDateTimeEdit* m_start = nullptr;
-    bool m_isStartSet = false; ///< by the coach
+    // They stand beside each other.
+    RecordForm<CsvMapping>* m_texts; ///< how the list is written
+    RecordForm<CsvMapping>* m_turns; ///< units of what the device feels
+    RecordForm<CsvMapping>* m_ways;  ///< units of the way, where z points, the first date
 };
 
 } // namespace kavela::desktop

@@ -171,28 +171,44 @@ std::size_t FieldForm::addNumber(const FieldFacts& facts, const NumberFacts& num
     return addBox(facts, number, box);
 }
 
-/// The first day of all stands for none.
-std::size_t FieldForm::addDate(const FieldFacts& facts) {
-    auto* const edit = new QDateEdit;
-    edit->setDisplayFormat("yyyy-MM-dd");
+/// A date is taken when all of it was typed.
+FieldForm::Field FieldForm::fieldOfDates(QDateTimeEdit* edit, const QString& format) {
+    edit->setDisplayFormat(format);
     edit->setDateRange(QDate(1900, 1, 1), QDate(2100, 12, 31));
-    edit->setSpecialValueText(QStringLiteral("–"));
     edit->setCalendarPopup(true);
     edit->setKeyboardTracking(false);
     Field field{edit};
+    field.isTyped = [edit] { return isTypedIn(*edit); };
+    field.finish = [edit] {
+        edit->interpretText();
+        return true;
+    };
+    return field;
+}
+
+/// The first day of all stands for none.
+std::size_t FieldForm::addDate(const FieldFacts& facts) {
+    auto* const edit = new QDateEdit;
+    Field field = fieldOfDates(edit, "yyyy-MM-dd");
+    edit->setSpecialValueText(QStringLiteral("–"));
     field.show = [edit](const QVariant& value) {
         edit->setDate(value.isValid() ? value.toDate() : edit->minimumDate());
     };
     field.read = [edit] {
         return edit->date() == edit->minimumDate() ? QVariant() : QVariant(edit->date());
     };
-    field.isTyped = [edit] { return isTypedIn(*edit); };
-    field.finish = [edit] {
-        edit->interpretText();
-        return true;
-    };
     const std::size_t at = add(facts, std::move(field));
     connect(edit, &QDateEdit::dateChanged, this, [this, at] { takeField(at); });
+    return at;
+}
+
+std::size_t FieldForm::addMoment(const FieldFacts& facts) {
+    auto* const edit = new QDateTimeEdit;
+    Field field = fieldOfDates(edit, "yyyy-MM-dd HH:mm:ss");
+    field.show = [edit](const QVariant& value) { edit->setDateTime(value.toDateTime()); };
+    field.read = [edit] { return edit->dateTime(); };
+    const std::size_t at = add(facts, std::move(field));
+    connect(edit, &QDateTimeEdit::dateTimeChanged, this, [this, at] { takeField(at); });
     return at;
 }
 
@@ -295,6 +311,12 @@ void FieldForm::setFieldVisible(const char* name, bool isVisible) {
     for (QLabel* const label : findChildren<QLabel*>())
         if (label->buddy() == widget)
             label->setVisible(isVisible);
+}
+
+void FieldForm::setFieldEnabled(const char* name, bool isEnabled, const QString& tip) {
+    QWidget& widget = *widgetOf(name);
+    widget.setEnabled(isEnabled);
+    widget.setToolTip(tip);
 }
 
 void FieldForm::showField(Field& field) {

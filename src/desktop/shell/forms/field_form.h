@@ -8,6 +8,7 @@
 #include <vector>
 
 class QBoxLayout;
+class QDateTimeEdit;
 class QFormLayout;
 class QLabel;
 
@@ -54,6 +55,8 @@ public:
     void editField(const char* name);
     /// Hides or shows a field with its label.
     void setFieldVisible(const char* name, bool isVisible);
+    /// Whether a field can be changed; the tip says why not, or what it is for.
+    void setFieldEnabled(const char* name, bool isEnabled, const QString& tip);
     /// Other proposals for an editable choice.
     void propose(const char* name, const QStringList& texts);
 
@@ -71,6 +74,7 @@ protected:
     std::size_t addWhole(const FieldFacts& facts, const NumberFacts& number);
     std::size_t addNumber(const FieldFacts& facts, const NumberFacts& number);
     std::size_t addDate(const FieldFacts& facts);
+    std::size_t addMoment(const FieldFacts& facts);
     std::size_t addCheck(const FieldFacts& facts);
     std::size_t addChoice(const FieldFacts& facts, const QStringList& texts);
     std::size_t addEditableChoice(const FieldFacts& facts);
@@ -109,6 +113,7 @@ private:
     std::size_t add(const FieldFacts& facts, Field field);
     template <class Box>
     std::size_t addBox(const FieldFacts& facts, const NumberFacts& number, Box* box);
+    [[nodiscard]] static Field fieldOfDates(QDateTimeEdit* edit, const QString& format);
     void place(const FieldFacts& facts, QWidget& widget);
     void showField(Field& field);
     [[nodiscard]] QWidget* widgetOf(const char* name) const;

@@ -2,7 +2,7 @@
 
 #include "desktop/shell/shown_number.h"
 
-#include <QDate>
+#include <QDateTime>
 
 #include <cmath>
 
@@ -11,6 +11,7 @@ namespace kavela::desktop {
 namespace {
 
 constexpr double SecondsOfDay = 86400;
+constexpr double MillisecondsOfSecond = 1000;
 const QDate FirstDay(2001, 1, 1);
 
 } // namespace
@@ -37,6 +38,18 @@ ReferenceDate typedDayAfter(const QVariant& typed, ReferenceDate before) {
         isInCalendar ? before.seconds - std::floor(before.seconds / SecondsOfDay) * SecondsOfDay
                      : 0;
     return {static_cast<double>(FirstDay.daysTo(day)) * SecondsOfDay + timeOfDay};
+}
+
+QVariant shownMoment(ReferenceDate date) {
+    if (!shownDay(date).isValid() && date != ReferenceDate())
+        return {};
+    return QDateTime::fromMSecsSinceEpoch(
+        std::llround((date.seconds + SecondsFrom1970To2001) * MillisecondsOfSecond));
+}
+
+ReferenceDate typedMoment(const QVariant& typed) {
+    const auto since1970 = static_cast<double>(typed.toDateTime().toMSecsSinceEpoch());
+    return {since1970 / MillisecondsOfSecond - SecondsFrom1970To2001};
 }
 
 QString secondsOrNothing(double seconds) {

@@ -19,6 +19,10 @@ namespace kavela::desktop {
 /// Another day at the time of day of `before`.
 [[nodiscard]] ReferenceDate typedDayAfter(const QVariant& typed, ReferenceDate before);
 
+/// A moment as date and time of the computer's place, and back; none for one in no calendar.
+[[nodiscard]] QVariant shownMoment(ReferenceDate date);
+[[nodiscard]] ReferenceDate typedMoment(const QVariant& typed);
+
 /// Seconds with every digit; empty for 0, which is not entered.
 [[nodiscard]] QString secondsOrNothing(double seconds);
 [[nodiscard]] QString wholeOrNothing(std::int64_t number);

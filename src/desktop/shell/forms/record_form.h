@@ -88,6 +88,12 @@ public:
         bind<ReferenceDate>(addDate(facts), member, shownDay, typedDayAfter);
     }
 
+    /// A moment to the second, as the clock of the computer's place shows it.
+    template <class Member>
+    void moment(const FieldFacts& facts, Member member) {
+        bind<ReferenceDate>(addMoment(facts), member, shownMoment, typedMoment);
+    }
+
     template <class Member>
     void check(const FieldFacts& facts, Member member) {
         bind<bool>(

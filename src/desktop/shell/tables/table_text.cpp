@@ -1,5 +1,6 @@
 #include "desktop/shell/tables/table_text.h"
 
+#include "common/delimited_text.h"
 #include "common/number_text.h"
 #include "desktop/shell/tables/row_model.h"
 
@@ -9,13 +10,6 @@
 namespace kavela::desktop {
 
 namespace {
-
-/// A field that holds the separator, a quote or a line break is quoted.
-QString quoted(QString field, QChar separator) {
-    const bool needsQuotes = field.contains(separator) || field.contains('"') ||
-                             field.contains('\n') || field.contains('\r');
-    return needsQuotes ? '"' + field.replace("\"", "\"\"") + '"' : field;
-}
 
 QString fieldOf(const QModelIndex& index, const QString& decimalSign) {
     const QVariant told = index.data(RowModel::CopyRole);
@@ -34,7 +28,7 @@ QString titleOf(const QAbstractItemModel& model, int section, Qt::Orientation or
 
 QString separatedLine(QStringList fields, QChar separator) {
     for (QString& field : fields)
-        field = quoted(field, separator);
+        field = QString::fromStdString(csvField(field.toStdString(), separator.toLatin1()));
     return fields.join(separator) + '\n';
 }
 

@@ -1,0 +1,47 @@
+#include "desktop/find/found_saving.h"
+
+#include "common/error.h"
+#include "common/safe_file.h"
+#include "desktop/find/found_table.h"
+#include "desktop/shell/file_names.h"
+#include "desktop/shell/qt_text.h"
+#include "desktop/shell/workspace.h"
+#include "facts/found_text.h"
+
+#include <QCoreApplication>
+
+#include <algorithm>
+
+namespace kavela::desktop {
+
+namespace {
+
+bool isFileSearched(const Found& found, const QString& path) {
+    return std::ranges::any_of(found.facts->files(), [&](const FileRow& file) {
+        return isSameFile(qtText(found.facts->text(file.path)), path);
+    });
+}
+
+} // namespace
+
+bool isFoundSaved(const Found& found, const QString& path, Workspace& workspace, QWidget* over) {
+    if (isFileSearched(found, path)) {
+        workspace.showAlert(
+            {"Failed to create file",
+             QCoreApplication::translate(
+                 "FindWindow", "The table cannot be written over a file that is searched.")
+                 .toStdString()},
+            over);
+        return false;
+    }
+    try {
+        writeFileSafely(path.toStdString(), findCsv(found.answer));
+        return true;
+    } catch (const FileError& error) {
+        workspace.log()("Failed to create file");
+        workspace.showAlert({"Failed to create file", error.reason()}, over);
+        return false;
+    }
+}
+
+} // namespace kavela::desktop
