@@ -77,8 +77,7 @@ void EarlierWork::bringBack(const Autosave::Found& earlier) const {
     for (ToolWindow* const window : m_program.windows())
         if (window->file() && isSameFile(window->file()->path(), earlier.label.path)) {
             bringToFront(*window);
-            (void)window->file()->takeBack(earlier.content, window,
-                                           [window] { return window->save(); });
+            window->takeBack(earlier.content);
             return;
         }
     m_autosave.bringBack(earlier);

@@ -4,6 +4,7 @@
 #include "common/temp_folder.h"
 #include "common/text_file.h"
 #include "desktop/desktop.h"
+#include "desktop/saving.h"
 #include "desktop/shell/disk_worker.h"
 #include "desktop/team/team_window.h"
 #include "desktop/tools.h"
@@ -185,8 +186,47 @@ TEST_F(DocumentTest, StaysUnsavedWhereWritingFails) {
     EXPECT_TRUE(document.isDirty());
     EXPECT_THAT(m_recorder.alerts, SizeIs(1));
     fs::create_directory(file("gone"));
-    EXPECT_TRUE(document.save(nullptr));
+    EXPECT_TRUE(saved(document));
     EXPECT_FALSE(document.isDirty());
+}
+
+TEST_F(DocumentTest, SavesAgainUnderTheNameThatIsStillBeingWritten) {
+    Numbers document(m_workspace, autosave());
+    document.startAt(qtText(file("a.txt")));
+    document.add(1);
+    {
+        const SlowDisk slow;
+        document.saveAsBeside(qtText(file("b.txt")), nullptr);
+        document.add(2);
+        document.saveBeside(nullptr);
+    }
+    QTRY_VERIFY(!document.isDirty());
+    EXPECT_EQ(readTextFile(file("b.txt")), "1\n2\n");
+    EXPECT_FALSE(fs::exists(file("a.txt")));
+}
+
+TEST_F(DocumentTest, WhatWaitsForAWriteThatFailsHearsOfItAndAsksNoSecondTime) {
+    Numbers document(m_workspace, autosave());
+    document.startAt(qtText(file("gone") / "a.txt"));
+    document.add(1);
+    int asked = 0;
+    m_workspace.setChoice([&](const Alert&, const QStringList&) {
+        ++asked;
+        return 2; // later
+    });
+    std::vector<bool> answers;
+    const auto answer = [&](bool isSaved) { answers.push_back(isSaved); };
+    {
+        const SlowDisk slow;
+        document.saveBeside(nullptr, answer);
+        document.saveBeside(nullptr, answer);
+        document.whenWritten(answer);
+        document.saveAsBeside(qtText(file("b.txt")), nullptr, answer);
+    }
+    QTRY_COMPARE(answers.size(), 4UL);
+    EXPECT_THAT(answers, ElementsAre(false, false, false, true));
+    EXPECT_EQ(asked, 1);
+    EXPECT_EQ(readTextFile(file("b.txt")), "1\n") << "another place is another try";
 }
 
 TEST_F(DocumentTest, LeavesAWayOutWhereItCannotBeSaved) {
@@ -205,7 +245,7 @@ TEST_F(DocumentTest, LeavesAWayOutWhereItCannotBeSaved) {
     });
     document.setAskPath([this] { return qtText(file("elsewhere.txt")); });
     way = 1;
-    EXPECT_TRUE(document.save(nullptr));
+    EXPECT_TRUE(saved(document));
     EXPECT_EQ(readTextFile(file("elsewhere.txt")), "1\n");
     EXPECT_THAT(told, HasSubstr("a.txt: "));
     EXPECT_THAT(told, HasSubstr("kept apart, and offered"));
@@ -214,7 +254,7 @@ TEST_F(DocumentTest, LeavesAWayOutWhereItCannotBeSaved) {
     document.startAt(qtText(file("gone") / "b.txt"));
     document.add(2);
     way = 2;
-    EXPECT_FALSE(document.save(nullptr));
+    EXPECT_FALSE(saved(document));
     EXPECT_TRUE(document.isDirty());
     EXPECT_TRUE(autosave().find(document.path()));
     way = 0;
@@ -228,7 +268,7 @@ TEST_F(DocumentTest, ShowsWhatAnotherProgramWroteBeforeItIsReplaced) {
     Numbers document(m_workspace, autosave());
     document.startAt(qtText(file("a.txt")));
     document.add(1);
-    ASSERT_TRUE(document.save(nullptr));
+    ASSERT_TRUE(saved(document));
     document.add(2);
     std::ofstream(file("a.txt")) << "of another program";
     QStringList opened;
@@ -239,14 +279,14 @@ TEST_F(DocumentTest, ShowsWhatAnotherProgramWroteBeforeItIsReplaced) {
         EXPECT_EQ(choices, (QStringList{"Replace it", "Look at the other", "Save as…"}));
         return way;
     });
-    EXPECT_FALSE(document.save(nullptr));
+    EXPECT_FALSE(saved(document));
     ASSERT_THAT(opened, SizeIs(1));
     EXPECT_NE(opened[0], document.path());
     EXPECT_EQ(readTextFile(opened[0].toStdString()), "of another program");
     EXPECT_TRUE(document.isDirty());
     way = 2;
     document.setAskPath([this] { return qtText(file("mine.txt")); });
-    EXPECT_TRUE(document.save(nullptr));
+    EXPECT_TRUE(saved(document));
     EXPECT_EQ(readTextFile(file("a.txt")), "of another program");
     EXPECT_EQ(readTextFile(file("mine.txt")), "1\n2\n");
 }
@@ -288,10 +328,10 @@ TEST_F(DocumentTest, BringsBackWhatWasPutOffOrGivenUp) {
     EXPECT_EQ(earlier.front().label.note, "2 numbers, 2 changes");
     {
         const auto document = opened(Load);
-        EXPECT_TRUE(document->takeBack(earlier.front().content, nullptr, [] { return false; }));
+        EXPECT_TRUE(document->takeBack(earlier.front().content));
         EXPECT_THAT(document->numbers(), ElementsAre(7, 8)) << "into a window that is open";
         EXPECT_TRUE(document->isDirty());
-        EXPECT_TRUE(document->save(nullptr));
+        EXPECT_TRUE(saved(*document));
     }
     autosave().bringBack(earlier.front());
     EXPECT_THAT(opened(Load)->numbers(), ElementsAre(7, 8));
@@ -315,13 +355,13 @@ TEST_F(DocumentTest, RefusesToWriteOverAFileOfAnotherWindow) {
     Numbers theirs(m_workspace, autosave());
     theirs.startAt(qtText(file("theirs.txt")));
     theirs.add(1);
-    ASSERT_TRUE(theirs.save(nullptr));
+    ASSERT_TRUE(saved(theirs));
     fs::create_symlink(file("theirs.txt"), file("link.txt"));
     Numbers mine(m_workspace, autosave());
     mine.startAt(qtText(file("mine.txt")));
     mine.add(2);
     for (const char* name : {"theirs.txt", "link.txt"})
-        EXPECT_FALSE(mine.saveAs(qtText(file(name)), nullptr)) << name;
+        EXPECT_FALSE(savedAs(mine, qtText(file(name)))) << name;
     EXPECT_THAT(m_recorder.alerts, SizeIs(2));
     EXPECT_EQ(readTextFile(file("theirs.txt")), "1\n");
     EXPECT_TRUE(mine.isDirty());

@@ -6,6 +6,7 @@
 #include "desktop/desktop.h"
 #include "desktop/imports/csv_mapping_dialog.h"
 #include "desktop/race/race_window.h"
+#include "desktop/saving.h"
 #include "desktop/sessions/session_window.h"
 #include "desktop/shell/file_names.h"
 #include "desktop/start_options.h"
@@ -217,7 +218,7 @@ TEST_F(OpeningTest, ShowsARaceThatIsOpenInsteadOfASecondWindowOfIt) {
     desktop::TakingWindow* const taking = m_program.openTaking(text(race));
     ASSERT_TRUE(taking);
     taking->document().editRun(0, "crew", [](athletedata031& run) { run.names = {"Ada Neumann"}; });
-    ASSERT_TRUE(taking->document().save(taking));
+    ASSERT_TRUE(saved(taking->document()));
     emit taking->analysisRequested();
     EXPECT_THAT(m_program.windowsOf<desktop::RaceWindow>(), SizeIs(2));
     const desktop::RaceWindow* const shown = m_program.windowsOf<desktop::RaceWindow>().front();

@@ -4,6 +4,7 @@
 #include "common/recorders.h"
 #include "common/temp_folder.h"
 #include "desktop/people/found_lines_view.h"
+#include "desktop/saving.h"
 #include "desktop/selection/athlete_dialog.h"
 #include "desktop/selection/take_over_dialog.h"
 #include "desktop/shell/tables/column_table.h"
@@ -136,7 +137,7 @@ TEST_F(SelectionWindowTest, RanksLiveAndUndoes) {
 
 TEST_F(SelectionWindowTest, TriesWhatWouldHaveBeenAndKeepsNothingOfIt) {
     const auto window = filledWindow();
-    ASSERT_TRUE(window->document().saveAs(QString::fromStdString(file().string()), nullptr));
+    ASSERT_TRUE(savedAs(window->document(), QString::fromStdString(file().string())));
     window->setWhatIf(true);
     EXPECT_TRUE(type(*window, 2, Time, "70"));
     EXPECT_TRUE(type(*window, 2, Time + RankingModel::RaceColumns, "70"));
@@ -216,7 +217,7 @@ TEST_F(SelectionWindowTest, SaysAtEveryStepWhatComesNext) {
 TEST_F(SelectionWindowTest, AsksNoSecondTimeForTheNameOfANewFile) {
     const auto window = filledWindow();
     window->document().setNamed();
-    EXPECT_TRUE(window->save());
+    EXPECT_TRUE(saved(*window));
     EXPECT_TRUE(fs::exists(file()));
 }
 
@@ -296,7 +297,7 @@ TEST_F(SelectionWindowTest, ShowsWhatAFileWouldChangeAndWhoseRunsAreByHand) {
 TEST_F(SelectionWindowTest, SavesWhatItShowsAndOpensItAgain) {
     {
         const auto window = filledWindow();
-        ASSERT_TRUE(window->document().saveAs(QString::fromStdString(file().string()), nullptr));
+        ASSERT_TRUE(savedAs(window->document(), QString::fromStdString(file().string())));
     }
     const auto window = makeWindow();
     ASSERT_TRUE(window->open(QString::fromStdString(file().string())));
@@ -333,7 +334,7 @@ TEST(AthleteDialog, OffersOneGroupAndBonusMoreThanThereAreAndAddsThemOnlyWhenUse
 TEST_F(SelectionWindowTest, OffersUnsavedWork) {
     {
         const auto window = filledWindow();
-        ASSERT_TRUE(window->document().saveAs(QString::fromStdString(file().string()), nullptr));
+        ASSERT_TRUE(savedAs(window->document(), QString::fromStdString(file().string())));
         EXPECT_TRUE(type(*window, 0, Time, "60"));
     }
     const auto window = makeWindow();

@@ -14,11 +14,9 @@
 
 #include <algorithm>
 #include <array>
-#include <atomic>
 #include <exception>
 #include <functional>
 #include <iterator>
-#include <memory>
 #include <utility>
 
 namespace kavela::desktop {
@@ -95,26 +93,15 @@ QString Autosave::slot(const QString& path) const {
     return m_folder + '/' + QString::fromLatin1(hash.toHex().left(16));
 }
 
-void Autosave::keep(const Label& label, Content content, QObject* context, Failed failed) const {
+void Autosave::keep(const Label& label, Content content, QObject* context, Kept kept) const {
     disk::run(
         *context,
         [slot = slot(label.path), label, content = std::move(content)] {
             write(slot, label, content);
         },
-        [failed = std::move(failed)](const std::exception_ptr& fault) {
-            if (fault)
-                failed(messageOf(fault));
+        [kept = std::move(kept)](const std::exception_ptr& fault) {
+            kept(fault ? messageOf(fault) : std::string());
         });
-}
-
-bool Autosave::isKept(const Label& label, Content content) const {
-    const auto isKept = std::make_shared<std::atomic<bool>>(false);
-    disk::run([slot = slot(label.path), label, content = std::move(content), isKept] {
-        write(slot, label, content);
-        *isKept = true;
-    });
-    disk::waitForAll();
-    return *isKept;
 }
 
 void Autosave::forget(const QString& path) const {

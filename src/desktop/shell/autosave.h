@@ -19,8 +19,8 @@ class Autosave {
 public:
     /// Makes the content of a document on another thread. May throw.
     using Content = std::function<std::string()>;
-    /// Tells on the interface thread why work could not be kept.
-    using Failed = std::function<void(const std::string& reason)>;
+    /// Tells on the interface thread why work could not be kept; an empty reason when it is kept.
+    using Kept = std::function<void(const std::string& fault)>;
 
     /// What stands beside kept work.
     struct Label {
@@ -41,10 +41,8 @@ public:
     /// `folder` is made when the first work is kept.
     explicit Autosave(QString folder) : m_folder(std::move(folder)) {}
 
-    /// Keeps the present content of a document. `failed` is called as long as `context` is there.
-    void keep(const Label& label, Content content, QObject* context, Failed failed) const;
-    /// The same, for whom the answer is needed now: whether it is kept.
-    [[nodiscard]] bool isKept(const Label& label, Content content) const;
+    /// Keeps the present content of a document. `kept` is called as long as `context` is there.
+    void keep(const Label& label, Content content, QObject* context, Kept kept) const;
     /// The work is saved: nothing is left to recover.
     void forget(const QString& path) const;
     /// The document was saved: what was postponed before is put aside too.
