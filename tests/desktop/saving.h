@@ -13,10 +13,10 @@ namespace kavela::test {
 
 /// Begins what tells later whether it was written, and waits until it does.
 inline bool isWritten(const std::function<void(std::function<void(bool)> told)>& begin) {
-    constexpr int Patience = 30000; // ms
+    constexpr int WaitedFor = 30000; // ms
     const auto answer = std::make_shared<std::optional<bool>>();
     begin([answer](bool isSaved) { *answer = isSaved; });
-    return QTest::qWaitFor([&] { return answer->has_value(); }, Patience) && **answer;
+    return QTest::qWaitFor([&] { return answer->has_value(); }, WaitedFor) && **answer;
 }
 
 /// Saves as the coach does, and waits until it is written or refused: whether it is in the file.
