@@ -20,6 +20,7 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QLabel>
+#include <QMenu>
 #include <QTableView>
 #include <QTest>
 #include <QTimer>
@@ -212,6 +213,18 @@ TEST_F(SelectionWindowTest, SaysAtEveryStepWhatComesNext) {
     window->addAthlete({"ALDER Ann", 2004, "Club", {}, {}});
     EXPECT_EQ(hint(), "");
     EXPECT_EQ(window->table().currentIndex().column(), Time) << "the result is typed next";
+}
+
+TEST_F(SelectionWindowTest, TheMenuOfTheTableShowsEachKeyOnce) {
+    const auto window = filledWindow();
+    QMenu menu;
+    window->table().fillMenu(menu);
+    QStringList keys;
+    for (const QAction* const action : menu.actions())
+        if (!action->shortcut().isEmpty())
+            keys.append(action->shortcut().toString());
+    EXPECT_TRUE(keys.contains("Ctrl+C"));
+    EXPECT_EQ(keys.removeDuplicates(), 0);
 }
 
 TEST_F(SelectionWindowTest, AsksNoSecondTimeForTheNameOfANewFile) {
