@@ -123,6 +123,16 @@ void AnalysisWindows::openLosses(const QStringList& paths, std::optional<std::si
         m_program.show(&window);
 }
 
+void AnalysisWindows::showLossesAgain(const QStringList& paths, const QString& view) {
+    if (paths.isEmpty())
+        return;
+    auto* const window = new LossesWindow(m_workspace);
+    QObject::connect(window, &LossesWindow::pathsChanged, &m_program, &Desktop::rememberSession);
+    window->setPaths(paths);
+    window->showAgain(view);
+    m_program.show(window);
+}
+
 void AnalysisWindows::openSeasonLosses(const QStringList& paths, const QString& athlete) {
     if (paths.isEmpty())
         return;

@@ -32,6 +32,8 @@ public:
     void openFind(const QStringList& paths);
     void openPenalties(const QStringList& paths);
     void openLosses(const QStringList& paths, std::optional<std::size_t> run);
+    /// The same of an earlier start, with what it showed then.
+    void showLossesAgain(const QStringList& paths, const QString& view);
     /// The same with the season of an athlete.
     void openSeasonLosses(const QStringList& paths, const QString& athlete);
     /// Asks in which folder the races of a team's athlete are, and opens the season there.

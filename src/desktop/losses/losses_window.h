@@ -39,6 +39,10 @@ public:
     [[nodiscard]] bool open(const QString& path) override;
     [[nodiscard]] QStringList paths() const override { return m_facts.paths(); }
 
+    [[nodiscard]] QString shownView() const override;
+    /// Goes back to what shownView() told, as soon as it is read and if nothing else was chosen.
+    void showAgain(const QString& view);
+
     [[nodiscard]] WatchedFacts& facts() { return m_facts; }
     [[nodiscard]] LossState& state() { return m_state; }
     [[nodiscard]] LossHeader& header() const { return *m_header; }
@@ -85,6 +89,7 @@ private:
     WatchedFacts m_facts;
     LossState m_state;
     std::optional<std::size_t> m_wanted; ///< run of the first file that is to be shown
+    QStringList m_view;                  ///< to be gone back to
     LossHeader* m_header;
     QTabWidget* m_pages;
     QSplitter* m_films;
