@@ -3,9 +3,7 @@
 #include "common/error.h"
 #include "desktop/cross/cross_window.h"
 #include "desktop/motion/motion_window.h"
-#include "desktop/planning/online/online_dialog.h"
 #include "desktop/planning/online/online_planning.h"
-#include "desktop/planning/online/planning_start.h"
 #include "desktop/planning/planning_window.h"
 #include "desktop/race/race_window.h"
 #include "desktop/sessions/session_imports.h"
@@ -15,6 +13,7 @@
 #include "desktop/shell/edited_file.h"
 #include "desktop/shell/file_names.h"
 #include "desktop/shell/home_window.h"
+#include "desktop/shell/screen_fit.h"
 #include "desktop/shell/settings_window.h"
 #include "desktop/taking/taking_window.h"
 #include "desktop/team/team_window.h"
@@ -26,7 +25,6 @@
 #include <QEventLoopLocker>
 #include <QFileInfo>
 #include <QStandardPaths>
-#include <QUrl>
 #include <QWindow>
 
 #include <algorithm>
@@ -59,11 +57,11 @@ QStringList splitFilesIn(const QString& folder) {
     return files.mid(0, MostRacesOfAFolder);
 }
 
+} // namespace
+
 QString autosaveFolder() {
     return QStandardPaths::writableLocation(QStandardPaths::AppLocalDataLocation) + "/autosave";
 }
-
-} // namespace
 
 Desktop::Desktop(Workspace& workspace, std::optional<Autosave> autosave)
     : m_workspace(workspace),
@@ -71,9 +69,12 @@ Desktop::Desktop(Workspace& workspace, std::optional<Autosave> autosave)
       m_earlierWork(*this, m_workspace, m_autosave),
       m_quitting([this] { return windows(); }, [this] { rememberSession(); }),
       m_choice(*this, m_workspace),
+      m_plannings(*this, m_workspace, m_autosave),
       m_analysis(*this, m_workspace),
       m_splitFiles(*this, m_workspace, m_autosave, m_analysis) {
     loadIcons();
+    m_workspace.setProgramCommands(
+        [program = QPointer(this)] { return program ? program->toolCommands() : Commands(); });
     qApp->installEventFilter(&m_wheelGuard);
     QApplication::setWindowIcon(icon("kavela"));
     connect(&m_workspace, &Workspace::openRequested, this, &Desktop::open);
@@ -89,6 +90,15 @@ Desktop::~Desktop() {
         delete window;
     }
     disk::waitForAll();
+}
+
+Commands Desktop::toolCommands() {
+    Commands commands;
+    for (const ToolKind& tool : toolKinds())
+        if (!tool.sentence.isEmpty())
+            commands.push_back(
+                {tool.title, tr("Tools"), QString(), [this, &tool] { m_choice.choose(tool); }});
+    return commands;
 }
 
 void Desktop::showHome() {
@@ -107,6 +117,30 @@ void Desktop::showHome() {
     }
     m_home->show();
     bringToFront(*m_home);
+    showKeptWork();
+}
+
+void Desktop::showKeptWork() {
+    if (!isHomeShown())
+        return;
+    m_earlierWork.listPutOff(*m_home, [this](const std::vector<Autosave::Found>& works) {
+        std::vector<HomeWindow::KeptWork> lines;
+        for (const Autosave::Found& work : works) {
+            const QFileInfo file(work.label.path);
+            QStringList line{file.fileName(), work.label.note,
+                             work.when.toString("yyyy-MM-dd HH:mm")};
+            line.removeAll(QString());
+            lines.push_back({line.join(QStringLiteral("   ")),
+                             QDir::toNativeSeparators(file.absoluteFilePath()),
+                             [this, work] { m_earlierWork.bringBack(work); }});
+        }
+        m_home->showKeptWork(lines);
+    });
+}
+
+void Desktop::rememberSession() {
+    m_earlierWork.rememberWindows();
+    showKeptWork();
 }
 
 /// What is open in an editor comes to the front there: the file itself may be behind its changes.
@@ -326,7 +360,9 @@ void Desktop::show(ToolWindow* window) {
     connectTool(*window);
     if (auto* const planning = qobject_cast<PlanningWindow*>(window))
         connect(&planning->online(), &OnlinePlanning::copyRequested, this,
-                &Desktop::showPlanningCopy);
+                [this](const QByteArray& content, const QString& name) {
+                    m_plannings.showCopy(content, name);
+                });
     if (auto* const team = qobject_cast<TeamWindow*>(window))
         connect(team, &TeamWindow::lossesRequested, this,
                 [this](const QString& athlete, const QString& teamFile) {
@@ -340,8 +376,18 @@ void Desktop::show(ToolWindow* window) {
                 [this](const QStringList& paths) { openAll(paths); });
     if (!m_windows.contains(window))
         m_windows.append(window);
+    if (!window->isVisible())
+        placeBeside(*window, othersLike(*window));
     window->show();
     rememberSession();
+}
+
+QList<QWidget*> Desktop::othersLike(const ToolWindow& window) const {
+    QList<QWidget*> others;
+    for (ToolWindow* const other : windows())
+        if (other != &window && other->kind() == window.kind())
+            others.append(other);
+    return others;
 }
 
 void Desktop::openImports(const QStringList& paths) {
@@ -367,33 +413,6 @@ void Desktop::openRecordings(const QStringList& paths) {
     }
     bringToFront(*window);
     window->open(paths);
-}
-
-void Desktop::loadPlanningAtStart() {
-    const Preferences& preferences = m_workspace.preferences();
-    if (!preferences.boolean("autoloadPlanning"))
-        return;
-    if (preferences.boolean("autoloadPlanningOnline")) {
-        auto* window = new PlanningWindow(m_workspace, m_autosave);
-        window->startNew(placeForCopy(rememberedEntry(m_workspace)));
-        show(window);
-        loadRememberedPlanning(window->online(), m_workspace);
-        return;
-    }
-    const auto url = preferences.url("autoloadPlanningURL");
-    const QString path = url ? QUrl(QString::fromStdString(*url)).toLocalFile() : QString();
-    if (!path.isEmpty())
-        (void)openIn(*toolFor(OpensAs::Planning), path);
-}
-
-void Desktop::showPlanningCopy(const QByteArray& content, const QString& name) {
-    auto* window = new PlanningWindow(m_workspace, m_autosave);
-    if (window->online().showCopy(content, placeForCopy(tr("%1 (on the server)").arg(name)))) {
-        show(window);
-        return;
-    }
-    delete window;
-    m_workspace.showAlert({"", tr("What the server has is no planning.").toStdString()}, front());
 }
 
 void Desktop::showPlace(const Place& place) {

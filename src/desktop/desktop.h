@@ -4,6 +4,7 @@
 #include "desktop/analysis_windows.h"
 #include "desktop/earlier_work.h"
 #include "desktop/opened_as.h"
+#include "desktop/planning_windows.h"
 #include "desktop/quitting.h"
 #include "desktop/shell/autosave.h"
 #include "desktop/shell/tool_window.h"
@@ -29,6 +30,9 @@ class HomeWindow;
 class RaceWindow;
 class TakingWindow;
 struct ToolKind;
+
+/// Where the programs of this user keep unsaved work, beside their log.
+[[nodiscard]] QString autosaveFolder();
 
 /// The desktop program: the home screen, and for each opened file the window of its tool.
 class Desktop : public QObject {
@@ -82,8 +86,12 @@ public:
     void openLosses(const QStringList& paths, std::optional<std::size_t> run = std::nullopt) {
         m_analysis.openLosses(paths, run);
     }
+    /// A window of losses of an earlier start, with what it showed then.
+    void showLossesAgain(const QStringList& paths, const QString& view) {
+        m_analysis.showLossesAgain(paths, view);
+    }
     /// Opens the planning that the preferences name, where they ask for one.
-    void loadPlanningAtStart();
+    void loadPlanningAtStart() { m_plannings.loadAtStart(); }
 
     /// Shows a window that was made, and follows what it asks for.
     void show(ToolWindow* window);
@@ -91,7 +99,8 @@ public:
     void showMoment(const QString& path, int run, std::size_t split) {
         m_splitFiles.showMoment(path, run, split);
     }
-    void rememberSession() { m_earlierWork.rememberWindows(); }
+    /// What is open now is what the next start opens.
+    void rememberSession();
 
     [[nodiscard]] bool isHomeShown() const;
     /// Over which dialogs open.
@@ -116,13 +125,17 @@ public:
     }
 
 private:
+    /// Lists on the home screen what was put off.
+    void showKeptWork();
+    /// Each tool, for the search of every window.
+    [[nodiscard]] Commands toolCommands();
     [[nodiscard]] ToolWindow* make(const ToolKind& tool);
-    /// A planning of the server in a window of its own.
-    void showPlanningCopy(const QByteArray& content, const QString& name);
     /// A file was read for a window that is shown now, or goes.
     void endOpening(ToolWindow* window, const QString& path, bool isOpen);
     void noteOpened(ToolWindow* window, bool isOpen);
     void connectTool(ToolWindow& window);
+    /// The windows of the same tool that are on the screen.
+    [[nodiscard]] QList<QWidget*> othersLike(const ToolWindow& window) const;
     /// Where a number comes from: a split file at the run and frame, any other file as it opens.
     /// One that is not there any more is told.
     void showPlace(const Place& place);
@@ -145,6 +158,7 @@ private:
     EarlierWork m_earlierWork;
     Quitting m_quitting;
     ToolChoice m_choice;
+    PlanningWindows m_plannings;
     AnalysisWindows m_analysis;
     SplitFileWindows m_splitFiles;
 };

@@ -4,10 +4,12 @@
 #include "common/safe_file.h"
 #include "common/temp_folder.h"
 #include "desktop/desktop.h"
+#include "desktop/find/find_window.h"
 #include "desktop/imports/csv_mapping_dialog.h"
 #include "desktop/race/race_window.h"
 #include "desktop/saving.h"
 #include "desktop/sessions/session_window.h"
+#include "desktop/shell/command_palette.h"
 #include "desktop/shell/file_names.h"
 #include "desktop/start_options.h"
 #include "desktop/taking/taking_window.h"
@@ -139,6 +141,14 @@ TEST_F(OpeningTest, TakesAPhonesListAndAWatchsTrackIntoASession) {
         << "the track joins the recording, though it was named first";
     EXPECT_THAT(m_program.windows(), SizeIs(1));
     EXPECT_THAT(m_program.windowsOf<desktop::RaceWindow>(), IsEmpty());
+}
+
+TEST_F(OpeningTest, TheSearchOfAnyWindowOpensATool) {
+    m_program.open(example("races/riverside_cup.kvx"));
+    for (const desktop::Command& command : m_workspace.programCommands())
+        if (command.title == "Find")
+            command.run();
+    EXPECT_THAT(m_program.windowsOf<desktop::FindWindow>(), SizeIs(1));
 }
 
 TEST_F(OpeningTest, SaysWhereATrackOrAListBelongsAndThatAFolderIsEmpty) {

@@ -53,17 +53,22 @@ public:
     /// The coach does not want it now: it is offered again when the document is opened again.
     void postpone(const QString& path) const;
 
-    /// Also what was postponed.
-    [[nodiscard]] std::optional<Found> find(const QString& path) const;
+    /// Also what was postponed, unless that is not asked for.
+    [[nodiscard]] std::optional<Found> find(const QString& path, bool alsoPostponed = true) const;
     /// Neither what was postponed nor what was put aside.
     [[nodiscard]] std::vector<Found> all() const;
     /// What was postponed or put aside, the latest first.
     [[nodiscard]] std::vector<Found> earlier() const;
+    /// Tells the same beside the interface, without waiting, as long as `context` is there.
+    using Listed = std::function<void(const std::vector<Found>& works)>;
+    void listEarlier(QObject& context, Listed listed) const;
+    /// Takes over what is kept in another folder, at once; whose document has work here already, is
+    /// put aside.
+    void takeOver(const QString& folder) const;
     /// Earlier work is the unsaved work of its document again; what that had is put aside.
     void bringBack(const Found& earlier) const;
 
 private:
-    [[nodiscard]] std::vector<Found> foundIn(const QString& folder, bool isGivenUp) const;
     [[nodiscard]] QString slot(const QString& path) const;
 
     QString m_folder;

@@ -107,8 +107,9 @@ void EditedFile::noticeDisk() {
         emit changedElsewhere();
 }
 
+/// What was put off is asked for once in each start of the program.
 void EditedFile::offerRecovery(QWidget* over) {
-    const auto work = m_autosave.find(m_path);
+    const auto work = m_autosave.find(m_path, !m_workspace.isPutOff(m_path));
     if (!work)
         return;
     m_workspace.log()(messages::AutosaveFound);
@@ -119,12 +120,14 @@ void EditedFile::offerRecovery(QWidget* over) {
         {facts.join(", ").toStdString(), messages::AskToLoadAutosave},
         {.texts = {tr("Load"), tr("Later"), tr("Discard")}, .onEnter = Load, .onEscape = Later},
         over);
-    if (way == Later)
+    if (way == Later) {
+        m_workspace.setPutOff(m_path, true);
         m_autosave.postpone(m_path);
-    else if (way == Load && recover(work->content))
+    } else if (way == Load && recover(work->content)) {
         m_undo.resetClean(); // dirty, and no undo makes it clean: its copy stays until it is saved
-    else
+    } else {
         m_autosave.putAside(m_path);
+    }
 }
 
 bool EditedFile::takeBack(const std::string& content) {
@@ -242,10 +245,7 @@ QString EditedFile::otherPathToWrite(const QString& path, QWidget* over) {
 
 QString EditedFile::askForPath(QWidget* over) {
     const QString path = m_askPath ? m_askPath() : QString();
-    if (path.isEmpty())
-        return {};
-    return canonicalPath(path) == canonicalPath(m_path) ? ownPathToWrite(over)
-                                                        : otherPathToWrite(path, over);
+    return path.isEmpty() ? QString() : pathToWrite(path, over);
 }
 
 /// As a copy, which no window edits.

@@ -44,6 +44,8 @@ public:
     [[nodiscard]] const QString& kind() const { return m_name.kind; }
     /// The files that it shows.
     [[nodiscard]] virtual QStringList paths() const;
+    /// What it shows of them, for the next start; empty where that is what it opens with.
+    [[nodiscard]] virtual QString shownView() const { return {}; }
     /// Opens a file, in place of what is shown or beside it. False, after an alert, when it cannot
     /// be opened; what is shown then stays.
     [[nodiscard]] virtual bool open(const QString& path) = 0;
