@@ -24,6 +24,8 @@ int run(int argc, char** argv, const char* version, const Painting* painting) {
         "Without a command, the desktop program starts and opens the files in their tools.");
     std::vector<std::string> files;
     program.option("FILE", files, "Files to open in the desktop program");
+    bool isNew = false;
+    program.flag("--new", isNew, "Start another desktop program, also where one runs");
     int status = Done;
     addInfo(program, status);
     addUpgrade(program, status);
@@ -45,7 +47,7 @@ int run(int argc, char** argv, const char* version, const Painting* painting) {
     addDemo(program, status, painting);
     if (const auto ended = call.run(argc, argv))
         return *ended;
-    return call.namesCommand() ? status : startDesktop(files);
+    return call.namesCommand() ? status : startDesktop(files, isNew);
 }
 
 int handOn(int argc, char** argv) {

@@ -10,7 +10,7 @@ namespace kavela::cli {
 
 namespace fs = std::filesystem;
 
-int startDesktop(std::vector<std::string> files) {
+int startDesktop(const std::vector<std::string>& files, bool isNew) {
     for (const std::string& file : files) {
         std::error_code ignored;
         if (!fs::exists(file, ignored)) {
@@ -20,7 +20,11 @@ int startDesktop(std::vector<std::string> files) {
         }
     }
     constexpr OtherProgram Desktop{"kavela-desktop", "KAVELA_DESKTOP"};
-    const std::string program = become(Desktop, std::move(files));
+    std::vector<std::string> arguments;
+    if (isNew)
+        arguments.emplace_back("--new");
+    arguments.insert(arguments.end(), files.begin(), files.end());
+    const std::string program = become(Desktop, std::move(arguments));
     logLine("The desktop program could not be started: " + program);
     return NotDone;
 }

@@ -2,13 +2,8 @@
 
 #include "common/error.h"
 #include "desktop/cross/cross_window.h"
-#include "desktop/find/find_window.h"
-#include "desktop/losses/losses_window.h"
 #include "desktop/motion/motion_window.h"
-#include "desktop/penalties/penalties_window.h"
-#include "desktop/planning/online/online_dialog.h"
 #include "desktop/planning/online/online_planning.h"
-#include "desktop/planning/online/planning_start.h"
 #include "desktop/planning/planning_window.h"
 #include "desktop/race/race_window.h"
 #include "desktop/sessions/session_imports.h"
@@ -18,8 +13,8 @@
 #include "desktop/shell/edited_file.h"
 #include "desktop/shell/file_names.h"
 #include "desktop/shell/home_window.h"
+#include "desktop/shell/screen_fit.h"
 #include "desktop/shell/settings_window.h"
-#include "desktop/shell/window_place.h"
 #include "desktop/taking/taking_window.h"
 #include "desktop/team/team_window.h"
 #include "desktop/tools.h"
@@ -28,10 +23,8 @@
 #include <QApplication>
 #include <QDir>
 #include <QEventLoopLocker>
-#include <QFileDialog>
 #include <QFileInfo>
 #include <QStandardPaths>
-#include <QUrl>
 #include <QWindow>
 
 #include <algorithm>
@@ -64,18 +57,24 @@ QStringList splitFilesIn(const QString& folder) {
     return files.mid(0, MostRacesOfAFolder);
 }
 
+} // namespace
+
 QString autosaveFolder() {
     return QStandardPaths::writableLocation(QStandardPaths::AppLocalDataLocation) + "/autosave";
 }
-
-} // namespace
 
 Desktop::Desktop(Workspace& workspace, std::optional<Autosave> autosave)
     : m_workspace(workspace),
       m_autosave(autosave ? std::move(*autosave) : Autosave(autosaveFolder())),
       m_earlierWork(*this, m_workspace, m_autosave),
-      m_quitting([this] { return windows(); }, [this] { rememberSession(); }) {
+      m_quitting([this] { return windows(); }, [this] { rememberSession(); }),
+      m_choice(*this, m_workspace),
+      m_plannings(*this, m_workspace, m_autosave),
+      m_analysis(*this, m_workspace),
+      m_splitFiles(*this, m_workspace, m_autosave, m_analysis) {
     loadIcons();
+    m_workspace.setProgramCommands(
+        [program = QPointer(this)] { return program ? program->toolCommands() : Commands(); });
     qApp->installEventFilter(&m_wheelGuard);
     QApplication::setWindowIcon(icon("kavela"));
     connect(&m_workspace, &Workspace::openRequested, this, &Desktop::open);
@@ -93,13 +92,22 @@ Desktop::~Desktop() {
     disk::waitForAll();
 }
 
+Commands Desktop::toolCommands() {
+    Commands commands;
+    for (const ToolKind& tool : toolKinds())
+        if (!tool.sentence.isEmpty())
+            commands.push_back(
+                {tool.title, tr("Tools"), QString(), [this, &tool] { m_choice.choose(tool); }});
+    return commands;
+}
+
 void Desktop::showHome() {
     if (!m_home) {
         Tools tools;
         for (const ToolKind& tool : toolKinds())
             if (!tool.sentence.isEmpty())
-                tools.push_back(
-                    {tool.title, tool.sentence, icon(tool.icon), [this, &tool] { choose(tool); }});
+                tools.push_back({tool.title, tool.sentence, icon(tool.icon),
+                                 [this, &tool] { m_choice.choose(tool); }});
         m_home = new HomeWindow(m_workspace, tools);
         m_home->setAttribute(Qt::WA_DeleteOnClose);
         connect(m_home, &HomeWindow::settingsRequested, this, &Desktop::openSettings);
@@ -109,6 +117,30 @@ void Desktop::showHome() {
     }
     m_home->show();
     bringToFront(*m_home);
+    showKeptWork();
+}
+
+void Desktop::showKeptWork() {
+    if (!isHomeShown())
+        return;
+    m_earlierWork.listPutOff(*m_home, [this](const std::vector<Autosave::Found>& works) {
+        std::vector<HomeWindow::KeptWork> lines;
+        for (const Autosave::Found& work : works) {
+            const QFileInfo file(work.label.path);
+            QStringList line{file.fileName(), work.label.note,
+                             work.when.toString("yyyy-MM-dd HH:mm")};
+            line.removeAll(QString());
+            lines.push_back({line.join(QStringLiteral("   ")),
+                             QDir::toNativeSeparators(file.absoluteFilePath()),
+                             [this, work] { m_earlierWork.bringBack(work); }});
+        }
+        m_home->showKeptWork(lines);
+    });
+}
+
+void Desktop::rememberSession() {
+    m_earlierWork.rememberWindows();
+    showKeptWork();
 }
 
 /// What is open in an editor comes to the front there: the file itself may be behind its changes.
@@ -147,79 +179,11 @@ QWidget* Desktop::front() const {
     return QApplication::activeWindow() ? QApplication::activeWindow() : m_home;
 }
 
-void Desktop::choose(const ToolKind& tool) {
-    if (tool.choice == ToolKind::Choice::Document) {
-        chooseDocument(tool);
-        return;
-    }
-    if (tool.choice == ToolKind::Choice::None) {
-        openFind({});
-        return;
-    }
-    if (tool.choice == ToolKind::Choice::FilesOrFolder) {
-        chooseFilesOrFolder(tool);
-        return;
-    }
-    const DocumentKind& kind = tool.documents;
-    QStringList chosen;
-    if (tool.choice == ToolKind::Choice::Folder)
-        chosen = {QFileDialog::getExistingDirectory(front(), kind.title)};
-    else
-        chosen = QFileDialog::getOpenFileNames(
-            front(), kind.title, QString(),
-            tr("%1 (*.%2);;All files (*)").arg(kind.plural, kind.suffix));
-    chosen.removeAll(QString());
-    if (tool.opens == OpensAs::Race || tool.opens == OpensAs::Recording)
-        openAll(chosen);
-    else
-        for (const QString& path : chosen)
-            (void)openIn(tool, path);
-}
-
-/// No dialog of files lets folders be chosen beside them.
-void Desktop::chooseFilesOrFolder(const ToolKind& tool) {
-    const DocumentKind& kind = tool.documents;
-    const int choice = m_workspace.choose(
-        {tool.title.toStdString(),
-         tr("Of single split files, or of all in a folder and below it?").toStdString()},
-        {tr("Split files…"), tr("A folder…")}, front());
-    QStringList chosen;
-    if (choice == 0)
-        chosen = QFileDialog::getOpenFileNames(
-            front(), kind.title, QString(),
-            tr("%1 (*.%2);;All files (*)").arg(kind.plural, kind.suffix));
-    else if (choice == 1)
-        chosen = {QFileDialog::getExistingDirectory(front(), kind.title)};
-    chosen.removeAll(QString());
-    if (tool.opens == OpensAs::Penalties)
-        openPenalties(chosen);
-    if (tool.opens == OpensAs::Losses)
-        openLosses(chosen);
-}
-
-/// A document to open, or the name of a new one.
-void Desktop::chooseDocument(const ToolKind& tool) {
-    QStringList recent;
-    for (const QString& path : m_workspace.recentFiles())
-        if (QFileInfo(path).suffix().compare(tool.documents.suffix, Qt::CaseInsensitive) == 0 &&
-            QFileInfo::exists(path))
-            recent.append(path);
-    DocumentChoiceDialog dialog(tool.documents, recent, front());
-    if (dialog.exec() != QDialog::Accepted || dialog.choice().path.isEmpty())
-        return;
-    if (!dialog.choice().isNew) {
-        open(dialog.choice().path);
-        return;
-    }
-    ToolWindow* const window = make(tool);
-    window->startNew(dialog.choice().path);
-    window->file()->setNamed();
-    show(window);
-}
-
-void Desktop::openNew(const ToolKind& tool, const QString& path) {
+void Desktop::openNew(const ToolKind& tool, const QString& path, bool isNamed) {
     ToolWindow* const window = make(tool);
     window->startNew(path);
+    if (isNamed)
+        window->file()->setNamed();
     show(window);
 }
 
@@ -274,7 +238,7 @@ void Desktop::openByContent(const QString& path, OpensAs kind) {
     if (const ToolKind* const tool = toolFor(kind)) {
         (void)openIn(*tool, path);
     } else if (kind == OpensAs::Film) {
-        openFilm(path);
+        m_splitFiles.openFilm(path);
     } else if (kind == OpensAs::ResultsList) {
         m_workspace.showAlert(
             {tr("“%1” is a list of official results").arg(QFileInfo(path).fileName()).toStdString(),
@@ -367,59 +331,6 @@ void Desktop::connectTool(ToolWindow& window) {
     connect(&window, &QObject::destroyed, this, &Desktop::rememberSession, Qt::QueuedConnection);
 }
 
-RaceWindow* Desktop::makeRaceWindow() {
-    auto* window = new RaceWindow(m_workspace);
-    connect(window, &RaceWindow::openRequested, this,
-            [this, window](const QStringList& files) { openAll(files, window); });
-    connect(window, &RaceWindow::takingRequested, this, &Desktop::openTaking);
-    connect(window, &RaceWindow::momentRequested, this, &Desktop::showMoment);
-    connect(window, &RaceWindow::penaltiesRequested, this, &Desktop::openPenalties);
-    connect(window, &RaceWindow::lossesRequested, this, &Desktop::openLosses);
-    connect(window, &RaceWindow::viewsChanged, this, &Desktop::rememberSession);
-    return window;
-}
-
-RaceWindow* Desktop::windowOfRace(const QString& path) const {
-    for (RaceWindow* const window : windowsOf<RaceWindow>())
-        for (const QString& shown : window->paths())
-            if (isSameFile(shown, path))
-                return window;
-    return nullptr;
-}
-
-/// A race that a window shows already comes to the front there.
-QStringList Desktop::notShownAmong(const QStringList& races) {
-    QStringList others;
-    for (const QString& path : races) {
-        RaceWindow* const window = windowOfRace(path);
-        if (!window) {
-            others.append(path);
-            continue;
-        }
-        (void)window->open(path); // shows it
-        bringToFront(*window);
-    }
-    return others;
-}
-
-void Desktop::openRaces(const QStringList& races, RaceWindow* into) {
-    const QStringList paths = notShownAmong(races);
-    if (paths.isEmpty())
-        return;
-    RaceWindow* const window = into ? into : makeRaceWindow();
-    for (const QString& path : paths)
-        if (!window->open(path))
-            m_workspace.forgetRecentFile(path);
-    if (window->views().empty()) {
-        delete window;
-        return;
-    }
-    if (into)
-        rememberSession();
-    else
-        show(window);
-}
-
 QList<OpenFile> Desktop::filesBetweenWindows() const {
     return m_quitting.closedFiles() + m_opening.values();
 }
@@ -449,9 +360,14 @@ void Desktop::show(ToolWindow* window) {
     connectTool(*window);
     if (auto* const planning = qobject_cast<PlanningWindow*>(window))
         connect(&planning->online(), &OnlinePlanning::copyRequested, this,
-                &Desktop::showPlanningCopy);
+                [this](const QByteArray& content, const QString& name) {
+                    m_plannings.showCopy(content, name);
+                });
     if (auto* const team = qobject_cast<TeamWindow*>(window))
-        connect(team, &TeamWindow::lossesRequested, this, &Desktop::askForSeasonLosses);
+        connect(team, &TeamWindow::lossesRequested, this,
+                [this](const QString& athlete, const QString& teamFile) {
+                    m_analysis.askForSeasonLosses(athlete, teamFile);
+                });
     const bool isConnected = qobject_cast<RaceWindow*>(window) ||
                              qobject_cast<TakingWindow*>(window) ||
                              qobject_cast<CrossWindow*>(window);
@@ -460,8 +376,18 @@ void Desktop::show(ToolWindow* window) {
                 [this](const QStringList& paths) { openAll(paths); });
     if (!m_windows.contains(window))
         m_windows.append(window);
+    if (!window->isVisible())
+        placeBeside(*window, othersLike(*window));
     window->show();
     rememberSession();
+}
+
+QList<QWidget*> Desktop::othersLike(const ToolWindow& window) const {
+    QList<QWidget*> others;
+    for (ToolWindow* const other : windows())
+        if (other != &window && other->kind() == window.kind())
+            others.append(other);
+    return others;
 }
 
 void Desktop::openImports(const QStringList& paths) {
@@ -489,99 +415,18 @@ void Desktop::openRecordings(const QStringList& paths) {
     window->open(paths);
 }
 
-void Desktop::openFind(const QStringList& paths) {
-    FindWindow* window = windowsOf<FindWindow>().value(0);
-    if (!window) {
-        window = new FindWindow(m_workspace);
-        connect(window, &FindWindow::pathsChanged, this, &Desktop::rememberSession);
-        connect(window, &FindWindow::lossesRequested, this,
-                [this](const QString& path, std::size_t run) { openLosses({path}, run); });
-        show(window);
-    }
-    bringToFront(*window);
-    window->searchAlso(paths);
-}
-
-void Desktop::openPenalties(const QStringList& paths) {
-    if (paths.isEmpty())
-        return;
-    for (PenaltiesWindow* const window : windowsOf<PenaltiesWindow>())
-        if (window->paths() == paths) {
-            bringToFront(*window);
-            return;
-        }
-    auto* window = new PenaltiesWindow(m_workspace);
-    window->setPaths(paths);
-    connect(window, &PenaltiesWindow::pathsChanged, this, &Desktop::rememberSession);
-    show(window);
-}
-
-LossesWindow& Desktop::lossesWindow(const QStringList& paths) {
-    for (LossesWindow* const window : windowsOf<LossesWindow>())
-        if (window->paths() == paths) {
-            bringToFront(*window);
-            return *window;
-        }
-    auto* const window = new LossesWindow(m_workspace);
-    connect(window, &LossesWindow::pathsChanged, this, &Desktop::rememberSession);
-    return *window;
-}
-
-void Desktop::openLosses(const QStringList& paths, std::optional<std::size_t> run) {
-    if (paths.isEmpty())
-        return;
-    LossesWindow& window = lossesWindow(paths);
-    if (window.paths() != paths || run)
-        window.setPaths(paths, run);
-    if (!window.isVisible())
-        show(&window);
-}
-
-void Desktop::openSeasonLosses(const QStringList& paths, const QString& athlete) {
-    if (paths.isEmpty())
-        return;
-    openLosses(paths);
-    lossesWindow(paths).showSeasonOf(athlete);
-}
-
-/// A team does not know where its races are: the answer is remembered.
-void Desktop::askForSeasonLosses(const QString& athlete, const QString& teamFile) {
-    constexpr const char* FolderKey = "losses/folder";
-    const QString before = m_workspace.remembered(FolderKey).value(0);
-    const QString folder = QFileDialog::getExistingDirectory(
-        front(), tr("The folder with the races of %1").arg(athlete),
-        QFileInfo::exists(before) ? before : QFileInfo(teamFile).absolutePath());
-    if (folder.isEmpty())
-        return;
-    m_workspace.remember(FolderKey, {folder});
-    openSeasonLosses({folder}, athlete);
-}
-
-void Desktop::loadPlanningAtStart() {
-    const Preferences& preferences = m_workspace.preferences();
-    if (!preferences.boolean("autoloadPlanning"))
-        return;
-    if (preferences.boolean("autoloadPlanningOnline")) {
-        auto* window = new PlanningWindow(m_workspace, m_autosave);
-        window->startNew(placeForCopy(rememberedEntry(m_workspace)));
-        show(window);
-        loadRememberedPlanning(window->online(), m_workspace);
-        return;
-    }
-    const auto url = preferences.url("autoloadPlanningURL");
-    const QString path = url ? QUrl(QString::fromStdString(*url)).toLocalFile() : QString();
-    if (!path.isEmpty())
-        (void)openIn(*toolFor(OpensAs::Planning), path);
-}
-
-void Desktop::showPlanningCopy(const QByteArray& content, const QString& name) {
-    auto* window = new PlanningWindow(m_workspace, m_autosave);
-    if (window->online().showCopy(content, placeForCopy(tr("%1 (on the server)").arg(name)))) {
-        show(window);
-        return;
-    }
-    delete window;
-    m_workspace.showAlert({"", tr("What the server has is no planning.").toStdString()}, front());
+void Desktop::showPlace(const Place& place) {
+    const QFileInfo file(QString::fromStdString(place.file.string()));
+    if (!file.exists())
+        m_workspace.showAlert({tr("“%1” is not where it was").arg(file.fileName()).toStdString(),
+                               tr("It was in %1. Open it from where it is now, then ask again.")
+                                   .arg(QDir::toNativeSeparators(file.absolutePath()))
+                                   .toStdString()},
+                              front());
+    else if (opensAs(file.filePath()).as == OpensAs::Race)
+        m_splitFiles.showPlace(place);
+    else
+        open(file.filePath());
 }
 
 void Desktop::openSettings() {

@@ -7,19 +7,38 @@
 #include "desktop/shell/edited_file.h"
 #include "desktop/shell/file_names.h"
 #include "desktop/shell/tool_window.h"
+#include "desktop/shell/workspace.h"
 #include "desktop/tools.h"
 
 #include <QDir>
 #include <QFileInfo>
+#include <QMap>
+
+#include <utility>
+#include <vector>
 
 namespace kavela::desktop {
+
+namespace {
+
+/// What a window of losses showed.
+struct LossesThen {
+    QStringList paths;
+    QString view;
+
+    void add(const OpenFile& file) {
+        paths.append(file.path);
+        view = file.view;
+    }
+};
+
+} // namespace
 
 /// The last window's closing leaves the program: what it showed is what the next start shows.
 void EarlierWork::rememberWindows() const {
     QList<OpenFile> files = m_program.filesBetweenWindows();
     for (const ToolWindow* const window : m_program.windows())
-        for (const QString& path : window->paths())
-            files.append({window->kind(), path});
+        files += filesOf(*window, static_cast<int>(files.size()) + 1);
     if (!files.isEmpty() || m_program.isHomeShown())
         rememberSession(m_workspace, files);
 }
@@ -28,14 +47,14 @@ void EarlierWork::rememberWindows() const {
 bool EarlierWork::restoreWindows() const {
     QStringList races;
     QStringList penalties;
-    QStringList losses;
+    QMap<int, LossesThen> losses; ///< by window
     QStringList others;
     QStringList searched;
     for (const OpenFile& file : rememberedSession(m_workspace))
         if (file.kind == "race")
             races.append(file.path);
         else if (file.kind == "losses")
-            losses.append(file.path);
+            losses[file.window].add(file);
         else if (file.kind == "taking")
             (void)m_program.openTaking(file.path);
         else if (file.kind == "cross")
@@ -49,7 +68,8 @@ bool EarlierWork::restoreWindows() const {
     if (!races.isEmpty())
         m_program.openRaces(races);
     m_program.openPenalties(penalties);
-    m_program.openLosses(losses);
+    for (const LossesThen& window : losses)
+        m_program.showLossesAgain(window.paths, window.view);
     if (!others.isEmpty())
         m_program.openAll(others);
     if (!searched.isEmpty())
@@ -72,15 +92,22 @@ void EarlierWork::chooseToBringBack(QWidget* over) const {
         bringBack(*dialog.chosen());
 }
 
-/// Into the window that edits the document, where one does.
+void EarlierWork::listPutOff(QObject& context, Autosave::Listed listed) const {
+    m_autosave.listEarlier(
+        context, [listed = std::move(listed)](std::vector<Autosave::Found> works) {
+            std::erase_if(works, [](const Autosave::Found& work) { return work.isGivenUp; });
+            listed(works);
+        });
+}
+
 void EarlierWork::bringBack(const Autosave::Found& earlier) const {
     for (ToolWindow* const window : m_program.windows())
         if (window->file() && isSameFile(window->file()->path(), earlier.label.path)) {
             bringToFront(*window);
-            (void)window->file()->takeBack(earlier.content, window,
-                                           [window] { return window->save(); });
+            window->takeBack(earlier.content);
             return;
         }
+    m_workspace.setPutOff(earlier.label.path, false);
     m_autosave.bringBack(earlier);
     recover(earlier.label);
 }

@@ -27,8 +27,13 @@ public:
     /// Shows what was kept and not taken up again, for one of it to be brought back.
     void chooseToBringBack(QWidget* over) const;
 
-private:
+    /// What was put off and is in no document again; told beside the interface, as long as
+    /// `context` is there.
+    void listPutOff(QObject& context, Autosave::Listed listed) const;
+    /// Into the window that edits the document, where one does, else into a new one.
     void bringBack(const Autosave::Found& earlier) const;
+
+private:
     void recover(const Autosave::Label& found) const;
 
     Desktop& m_program;

@@ -1,5 +1,6 @@
 #include "desktop/desktop.h"
 #include "desktop/one_program.h"
+#include "desktop/shell/autosave_place.h"
 #include "desktop/shell/diagnostic_log.h"
 #include "desktop/shell/scheme.h"
 #include "desktop/shell/screen_fit.h"
@@ -98,7 +99,10 @@ int main(int argc, char** argv) {
     Workspace workspace(Preferences(), rotatingLog(logFile()), systemNow);
     workspace.startUp(userLibraryFolder());
     applyScheme(workspace);
-    Desktop program(workspace);
+    const AutosavePlace kept(autosaveFolder(), start == OneProgram::Start::Beside
+                                                   ? AutosavePlace::Program::Beside
+                                                   : AutosavePlace::Program::One);
+    Desktop program(workspace, Autosave(kept.folder()));
     showAtStart(program, files, start == OneProgram::Start::Beside);
     one.serve([&program](const OneProgram::Call& call) {
         if (!call.activation.isEmpty())

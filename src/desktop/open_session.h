@@ -5,13 +5,19 @@
 
 namespace kavela::desktop {
 
+class ToolWindow;
 class Workspace;
 
 /// A file that is open, and in which kind of tool; no kind for the one that fits what it holds.
 struct OpenFile {
     QString kind;
     QString path;
+    int window = 0;    ///< those of one window have the same number; 0 for one that is not known
+    QString view = {}; ///< what that window shows of its files, as it tells it itself
 };
+
+/// The files of a window, which is given a number that no other one has.
+[[nodiscard]] QList<OpenFile> filesOf(const ToolWindow& window, int number);
 
 /// What the next start opens.
 void rememberSession(Workspace& workspace, const QList<OpenFile>& files);

@@ -26,8 +26,7 @@ void Quitting::follow(ToolWindow& window) {
 void Quitting::noteClosed(const ToolWindow& window) {
     if (m_state != State::Leaving)
         return;
-    for (const QString& path : window.paths())
-        m_closed.append({window.kind(), path});
+    m_closed += filesOf(window, static_cast<int>(m_closed.size()) + 1);
     // It is open until it has heard the answer.
     QMetaObject::invokeMethod(this, &Quitting::goOnLater, Qt::QueuedConnection);
 }

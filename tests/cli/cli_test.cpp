@@ -350,10 +350,12 @@ TEST_F(CommandLine, BecomesTheDesktopProgramThatTheEnvironmentNames) {
     ::setenv("KAVELA_DESKTOP", "/bin/echo", 1);
     (void)folder().add("race one.kvx", smallRace());
     const Ending opened = call({"race one.kvx"});
+    const Ending another = call({"--new", "race one.kvx"});
     const Ending missing = call({"race two.kvx"});
     ::unsetenv("KAVELA_DESKTOP");
     EXPECT_EQ(opened.status, 0);
     EXPECT_EQ(opened.output, "race one.kvx\n");
+    EXPECT_EQ(another.output, "--new race one.kvx\n");
     EXPECT_EQ(missing.status, 2);
     EXPECT_THAT(missing.errors, HasSubstr("race two.kvx"));
 }

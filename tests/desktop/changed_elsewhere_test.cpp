@@ -4,6 +4,7 @@
 #include "common/recorders.h"
 #include "common/safe_file.h"
 #include "common/temp_folder.h"
+#include "desktop/saving.h"
 #include "desktop/shell/file_stamp.h"
 #include "desktop/shell/workspace.h"
 #include "results/selection_file.h"
@@ -35,7 +36,7 @@ protected:
         m_window.setAttribute(Qt::WA_DeleteOnClose, false);
         m_window.startNew(path(), 2026);
         m_window.addRace("Riverside");
-        EXPECT_TRUE(m_window.document().saveAs(path(), nullptr));
+        EXPECT_TRUE(savedAs(m_window.document(), path()));
         m_window.show();
     }
 
@@ -115,13 +116,13 @@ TEST_F(ChangedElsewhereTest, UnsavedWorkGivesWayOnlyWhenAgreed) {
 
 TEST_F(ChangedElsewhereTest, OwnSavesAreNotTold) {
     m_window.addRace("Second");
-    ASSERT_TRUE(m_window.save());
+    ASSERT_TRUE(saved(m_window));
     writeElsewhere(
         "Harbour"); // so that the watch has something to tell, which comes behind the save
     ASSERT_TRUE(QTest::qWaitFor([this] { return isTold(); }));
     m_answer = true;
     m_window.addRace("Third");
-    ASSERT_TRUE(m_window.save());
+    ASSERT_TRUE(saved(m_window));
     EXPECT_FALSE(isTold());
     QApplication::processEvents();
     EXPECT_FALSE(isTold());

@@ -1,12 +1,15 @@
 #include "desktop/closing.h"
 
 #include "common/file_size_limit.h"
+#include "common/json_encode.h"
 #include "common/recorders.h"
 #include "common/temp_folder.h"
 #include "desktop/desktop.h"
 #include "desktop/open_session.h"
+#include "desktop/saving.h"
 #include "desktop/shell/disk_worker.h"
 #include "desktop/team/team_window.h"
+#include "results/team_file.h"
 
 #include <gmock/gmock.h>
 
@@ -28,6 +31,7 @@ namespace {
 
 namespace fs = std::filesystem;
 using desktop::TeamWindow;
+using ::testing::ElementsAre;
 using ::testing::SizeIs;
 
 /// Holds up whatever is to be written, as a slow disk does.
@@ -90,6 +94,12 @@ protected:
         });
     }
 
+    static std::string teamOf(const char* name) {
+        myTeamToSaveStruct team;
+        team.realMyTeam.emplace_back().name = name;
+        return encode(team);
+    }
+
     TempFolder m_folder;
     Recorder m_recorder;
     std::vector<std::string> m_questions;
@@ -104,7 +114,7 @@ TEST_F(ClosingTest, GoesOnWhileTheDiskIsSlowAndClosesOnceItIsWritten) {
         EXPECT_FALSE(window->close());
         EXPECT_TRUE(window->isClosing());
         EXPECT_TRUE(window->isVisible());
-        EXPECT_TRUE(window->findChild<QToolBar*>("closingNote")->isVisible());
+        EXPECT_TRUE(window->findChild<QToolBar*>("waitingNote")->isVisible());
         bool isAlive = false;
         QTimer::singleShot(0, [&] { isAlive = true; });
         QTRY_VERIFY(isAlive);
@@ -149,18 +159,76 @@ TEST_F(ClosingTest, KeepsTheWindowAndTheWorkWhereItCannotBeWritten) {
     EXPECT_TRUE(window->isVisible());
     EXPECT_TRUE(window->isWindowModified());
     EXPECT_THAT(window->document().athletes(), SizeIs(1));
-    EXPECT_FALSE(window->findChild<QToolBar*>("closingNote")->isVisible());
+    EXPECT_FALSE(window->findChild<QToolBar*>("waitingNote")->isVisible());
     way = 0;
     window->close();
     QTRY_VERIFY(!window);
     EXPECT_TRUE(fs::is_regular_file(m_folder.path() / "gone" / "a.kvteam"));
 }
 
+TEST_F(ClosingTest, EarlierWorkTakesThePlaceOfWhatIsHereOnceThatIsWritten) {
+    const QPointer<TeamWindow> window = open("a.kvteam");
+    const auto names = [&] {
+        std::vector<std::string> found;
+        for (const auto& athlete : window->document().athletes())
+            found.push_back(athlete.name);
+        return found;
+    };
+    {
+        const SlowDisk slow;
+        window->takeBack(teamOf("Earlier"));
+        EXPECT_TRUE(window->findChild<QToolBar*>("waitingNote")->isVisible());
+        edit(*window, "Zora");
+        EXPECT_THAT(names(), ElementsAre("Nova", "Zora")) << "the window goes on";
+    }
+    QTRY_COMPARE(names().size(), 1UL);
+    EXPECT_THAT(names(), ElementsAre("Earlier"));
+    EXPECT_THAT(m_questions, SizeIs(2)) << "once more for what was edited meanwhile";
+    EXPECT_TRUE(window->isWindowModified());
+    EXPECT_FALSE(window->findChild<QToolBar*>("waitingNote")->isVisible());
+    EXPECT_THAT(readTeamFile(m_folder.path() / "a.kvteam").realMyTeam, SizeIs(2));
+    window->file()->discard();
+    window->close();
+    QTRY_VERIFY(!window);
+}
+
+TEST_F(ClosingTest, NothingTakesThePlaceOfWhatCannotBeWritten) {
+    const QPointer<TeamWindow> window = open("gone/a.kvteam");
+    m_workspace.setChoice([](const Alert&, const QStringList&) { return 2; }); // later
+    window->takeBack(teamOf("Earlier"));
+    const auto* const note = window->findChild<QToolBar*>("waitingNote");
+    QTRY_VERIFY(note->isHidden());
+    EXPECT_EQ(window->document().athletes().front().name, "Nova");
+    EXPECT_TRUE(window->isWindowModified());
+    {
+        const SlowDisk slow; // pressed, and closed while it is still being written
+        window->saveBeside();
+        window->close();
+    }
+    QTRY_VERIFY(!window->isClosing());
+    EXPECT_TRUE(window->isVisible()) << "told once why, it stays";
+    window->file()->discard();
+    window->close();
+    QTRY_VERIFY(!window);
+}
+
+TEST_F(ClosingTest, AWindowThatClosesTakesNothingInAnyMore) {
+    const QPointer<TeamWindow> window = open("a.kvteam");
+    {
+        const SlowDisk slow;
+        window->takeBack(teamOf("Earlier"));
+        window->close();
+    }
+    QTRY_VERIFY(!window);
+    EXPECT_EQ(readTeamFile(m_folder.path() / "a.kvteam").realMyTeam.front().name, "Nova");
+    EXPECT_THAT(m_questions, SizeIs(1));
+}
+
 TEST_F(ClosingTest, LeavingTheProgramWaitsForEachWindowAndRemembersAll) {
     NoQuit ends;
     for (const char* const name : {"a.kvteam", "b.kvteam"}) {
         const QPointer<TeamWindow> window = open(name);
-        ASSERT_TRUE(window->save());
+        ASSERT_TRUE(saved(*window));
         window->close();
         QTRY_VERIFY(!window);
     }
@@ -191,7 +259,7 @@ TEST_F(ClosingTest, AProgramWhoseWorkCannotBeWrittenIsNotLeft) {
     NoQuit ends;
     desktop::Desktop program(m_workspace, desktop::Autosave(path("kept")));
     const QPointer<TeamWindow> made = open("a.kvteam");
-    ASSERT_TRUE(made->save());
+    ASSERT_TRUE(saved(*made));
     made->close();
     QTRY_VERIFY(!made);
     program.open(path("a.kvteam"));

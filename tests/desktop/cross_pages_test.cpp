@@ -6,6 +6,7 @@
 #include "desktop/cross/heats/place_grid.h"
 #include "desktop/cross/results/results_page.h"
 #include "desktop/film/film_deck.h"
+#include "desktop/saving.h"
 #include "desktop/shell/tables/column_table.h"
 #include "desktop/shell/workspace.h"
 #include "desktop/splitfile/taking_document.h"
@@ -299,7 +300,7 @@ TEST_F(CrossPagesTest, SavesAndReadsBackWhatWasTaken) {
     m_heats.endAttack(at(13));
     m_heats.setFilm("other.MOV");
     const rounddata030 taken = heat();
-    ASSERT_TRUE(m_document.save(nullptr));
+    ASSERT_TRUE(saved(m_document));
     m_heats.mark(at(40));
     ASSERT_TRUE(m_document.openFile(QString::fromStdString(file().string()), nullptr));
     EXPECT_EQ(heat().videoname, "other.MOV");

@@ -9,6 +9,7 @@
 #include "desktop/film/film_deck.h"
 #include "desktop/film/film_stage.h"
 #include "desktop/refusals.h"
+#include "desktop/saving.h"
 #include "desktop/shell/tables/column_table.h"
 #include "desktop/shell/workspace.h"
 #include "desktop/taking/taking_window.h"
@@ -338,7 +339,7 @@ TEST_F(CrossWindowTest, AsksForTheCourseInPlaceAndRefusesWhatMakesNoSense) {
         type("courseRoll", each.roll);
         type("courseGates", each.gates);
         EXPECT_THAT(text("courseFault"), HasSubstr(each.fault)) << each.gates;
-        EXPECT_FALSE(m_window->save());
+        EXPECT_FALSE(saved(*m_window));
     }
     EXPECT_THAT(cross().crossinfo.gates, ::testing::AnyOf(IsEmpty(), ElementsAre(1, 2)));
     type("courseGates", "4; 1 3");
@@ -437,7 +438,7 @@ TEST_F(CrossWindowTest, BeginsARaceOnAFolderOfFilms) {
     EXPECT_EQ(m_window->document().runCount(), 0);
     ASSERT_THAT(cross().timetrials, SizeIs(2));
     EXPECT_EQ(trial(0).athlete, "Ada Berg");
-    m_window->save();
+    EXPECT_TRUE(saved(*m_window));
     EXPECT_THAT(m_recorder.alerts, ::testing::IsEmpty()) << "a race without any run is saved";
     EXPECT_FALSE(m_window->document().isDirty());
     EXPECT_TRUE(fs::exists(m_window->document().path().toStdString()));

@@ -4,12 +4,17 @@
 #include "common/temp_folder.h"
 #include "common/text_file.h"
 #include "desktop/desktop.h"
+#include "desktop/saving.h"
+#include "desktop/shell/autosave_place.h"
 #include "desktop/shell/disk_worker.h"
+#include "desktop/shell/home_window.h"
 #include "desktop/team/team_window.h"
 #include "desktop/tools.h"
 
 #include <gmock/gmock.h>
 
+#include <QApplication>
+#include <QListWidget>
 #include <QSemaphore>
 #include <QTest>
 
@@ -185,8 +190,47 @@ TEST_F(DocumentTest, StaysUnsavedWhereWritingFails) {
     EXPECT_TRUE(document.isDirty());
     EXPECT_THAT(m_recorder.alerts, SizeIs(1));
     fs::create_directory(file("gone"));
-    EXPECT_TRUE(document.save(nullptr));
+    EXPECT_TRUE(saved(document));
     EXPECT_FALSE(document.isDirty());
+}
+
+TEST_F(DocumentTest, SavesAgainUnderTheNameThatIsStillBeingWritten) {
+    Numbers document(m_workspace, autosave());
+    document.startAt(qtText(file("a.txt")));
+    document.add(1);
+    {
+        const SlowDisk slow;
+        document.saveAsBeside(qtText(file("b.txt")), nullptr);
+        document.add(2);
+        document.saveBeside(nullptr);
+    }
+    QTRY_VERIFY(!document.isDirty());
+    EXPECT_EQ(readTextFile(file("b.txt")), "1\n2\n");
+    EXPECT_FALSE(fs::exists(file("a.txt")));
+}
+
+TEST_F(DocumentTest, WhatWaitsForAWriteThatFailsHearsOfItAndAsksNoSecondTime) {
+    Numbers document(m_workspace, autosave());
+    document.startAt(qtText(file("gone") / "a.txt"));
+    document.add(1);
+    int asked = 0;
+    m_workspace.setChoice([&](const Alert&, const QStringList&) {
+        ++asked;
+        return 2; // later
+    });
+    std::vector<bool> answers;
+    const auto answer = [&](bool isSaved) { answers.push_back(isSaved); };
+    {
+        const SlowDisk slow;
+        document.saveBeside(nullptr, answer);
+        document.saveBeside(nullptr, answer);
+        document.whenWritten(answer);
+        document.saveAsBeside(qtText(file("b.txt")), nullptr, answer);
+    }
+    QTRY_COMPARE(answers.size(), 4UL);
+    EXPECT_THAT(answers, ElementsAre(false, false, false, true));
+    EXPECT_EQ(asked, 1);
+    EXPECT_EQ(readTextFile(file("b.txt")), "1\n") << "another place is another try";
 }
 
 TEST_F(DocumentTest, LeavesAWayOutWhereItCannotBeSaved) {
@@ -205,7 +249,7 @@ TEST_F(DocumentTest, LeavesAWayOutWhereItCannotBeSaved) {
     });
     document.setAskPath([this] { return qtText(file("elsewhere.txt")); });
     way = 1;
-    EXPECT_TRUE(document.save(nullptr));
+    EXPECT_TRUE(saved(document));
     EXPECT_EQ(readTextFile(file("elsewhere.txt")), "1\n");
     EXPECT_THAT(told, HasSubstr("a.txt: "));
     EXPECT_THAT(told, HasSubstr("kept apart, and offered"));
@@ -214,7 +258,7 @@ TEST_F(DocumentTest, LeavesAWayOutWhereItCannotBeSaved) {
     document.startAt(qtText(file("gone") / "b.txt"));
     document.add(2);
     way = 2;
-    EXPECT_FALSE(document.save(nullptr));
+    EXPECT_FALSE(saved(document));
     EXPECT_TRUE(document.isDirty());
     EXPECT_TRUE(autosave().find(document.path()));
     way = 0;
@@ -228,7 +272,7 @@ TEST_F(DocumentTest, ShowsWhatAnotherProgramWroteBeforeItIsReplaced) {
     Numbers document(m_workspace, autosave());
     document.startAt(qtText(file("a.txt")));
     document.add(1);
-    ASSERT_TRUE(document.save(nullptr));
+    ASSERT_TRUE(saved(document));
     document.add(2);
     std::ofstream(file("a.txt")) << "of another program";
     QStringList opened;
@@ -239,14 +283,14 @@ TEST_F(DocumentTest, ShowsWhatAnotherProgramWroteBeforeItIsReplaced) {
         EXPECT_EQ(choices, (QStringList{"Replace it", "Look at the other", "Save as…"}));
         return way;
     });
-    EXPECT_FALSE(document.save(nullptr));
+    EXPECT_FALSE(saved(document));
     ASSERT_THAT(opened, SizeIs(1));
     EXPECT_NE(opened[0], document.path());
     EXPECT_EQ(readTextFile(opened[0].toStdString()), "of another program");
     EXPECT_TRUE(document.isDirty());
     way = 2;
     document.setAskPath([this] { return qtText(file("mine.txt")); });
-    EXPECT_TRUE(document.save(nullptr));
+    EXPECT_TRUE(saved(document));
     EXPECT_EQ(readTextFile(file("a.txt")), "of another program");
     EXPECT_EQ(readTextFile(file("mine.txt")), "1\n2\n");
 }
@@ -278,6 +322,9 @@ TEST_F(DocumentTest, BringsBackWhatWasPutOffOrGivenUp) {
     EXPECT_THAT(title, HasSubstr("a.txt, 2 numbers, 2 changes, today "));
     EXPECT_THAT(autosave().all(), IsEmpty()) << "the next start does not ask by itself";
     ASSERT_THAT(autosave().earlier(), SizeIs(1));
+    EXPECT_THAT(opened(Load)->numbers(), IsEmpty());
+    EXPECT_EQ(title, "") << "asked once in each start";
+    m_workspace.setPutOff(qtText(file("a.txt")), false); // as the next start has it
     EXPECT_THAT(opened(Load)->numbers(), ElementsAre(7, 8)) << "asked again with its document";
     EXPECT_THAT(opened(Discard)->numbers(), IsEmpty()) << "it was never saved";
     (void)opened(Load);
@@ -288,14 +335,78 @@ TEST_F(DocumentTest, BringsBackWhatWasPutOffOrGivenUp) {
     EXPECT_EQ(earlier.front().label.note, "2 numbers, 2 changes");
     {
         const auto document = opened(Load);
-        EXPECT_TRUE(document->takeBack(earlier.front().content, nullptr, [] { return false; }));
+        EXPECT_TRUE(document->takeBack(earlier.front().content));
         EXPECT_THAT(document->numbers(), ElementsAre(7, 8)) << "into a window that is open";
         EXPECT_TRUE(document->isDirty());
-        EXPECT_TRUE(document->save(nullptr));
+        EXPECT_TRUE(saved(*document));
     }
     autosave().bringBack(earlier.front());
     EXPECT_THAT(opened(Load)->numbers(), ElementsAre(7, 8));
     EXPECT_NE(title, "");
+}
+
+TEST_F(DocumentTest, ListsAtHomeWhatWasPutOffAndBringsItBack) {
+    const QString path = qtText(file("New team"));
+    {
+        desktop::TeamWindow window(m_workspace, autosave());
+        window.setAttribute(Qt::WA_DeleteOnClose, false);
+        window.startNew(path);
+        window.document().edit("athlete", [](myTeamToSaveStruct& team) {
+            team.realMyTeam.emplace_back().name = "Nova";
+        });
+        window.document().keepWork();
+    }            // ends without a word
+    int way = 1; // later
+    m_workspace.setChoice([&](const Alert&, const QStringList&) { return way; });
+    desktop::Desktop program(m_workspace, autosave());
+    program.offerRecovery();
+    ASSERT_THAT(program.windowsOf<desktop::TeamWindow>(), SizeIs(1));
+    program.windowsOf<desktop::TeamWindow>().front()->close();
+    program.showHome();
+    QListWidget* list = nullptr;
+    for (QWidget* const window : QApplication::topLevelWidgets())
+        if (qobject_cast<desktop::HomeWindow*>(window) && window->isVisible())
+            list = window->findChild<QListWidget*>("keptWork");
+    ASSERT_TRUE(list);
+    QTRY_COMPARE(list->count(), 1);
+    EXPECT_TRUE(list->isVisible());
+    EXPECT_TRUE(list->item(0)->text().startsWith("New team"));
+    way = 0; // load
+    list->setCurrentRow(0);
+    emit list->itemActivated(list->item(0));
+    ASSERT_THAT(program.windowsOf<desktop::TeamWindow>(), SizeIs(1));
+    const auto* const back = program.windowsOf<desktop::TeamWindow>().front();
+    EXPECT_THAT(back->file()->isDirty(), true);
+    QTRY_VERIFY(!list->isVisible());
+}
+
+TEST_F(DocumentTest, ProgramsBesideEachOtherKeepTheirWorkApart) {
+    using Place = desktop::AutosavePlace;
+    const QString folder = qtText(file("kept"));
+    const QString path = qtText(file("a.txt"));
+    const auto keep = [&](const Place& place, int number) {
+        Numbers document(m_workspace, desktop::Autosave(place.folder()));
+        document.startAt(path);
+        document.add(number);
+        document.keepWork();
+    };
+    const Place one(folder, Place::Program::One);
+    auto beside = std::make_unique<Place>(folder, Place::Program::Beside);
+    const Place third(folder, Place::Program::Beside);
+    keep(one, 1);
+    keep(*beside, 2);
+    keep(third, 3);
+    EXPECT_EQ(desktop::Autosave(one.folder()).find(path)->content, "1\n");
+    EXPECT_EQ(desktop::Autosave(beside->folder()).find(path)->content, "2\n");
+    EXPECT_EQ(desktop::Autosave(third.folder()).find(path)->content, "3\n");
+    const QString left = beside->folder();
+    beside.reset(); // it has ended, and its work was not saved
+    EXPECT_NE(Place(folder, Place::Program::Beside).folder(), left);
+    desktop::Autosave(folder).forget(path);
+    desktop::disk::waitForAll();
+    const Place next(folder, Place::Program::One);
+    EXPECT_EQ(desktop::Autosave(next.folder()).find(path)->content, "2\n");
+    EXPECT_EQ(desktop::Autosave(third.folder()).find(path)->content, "3\n") << "it runs on";
 }
 
 /// Who never pauses is not kept waiting for a pause.
@@ -315,13 +426,13 @@ TEST_F(DocumentTest, RefusesToWriteOverAFileOfAnotherWindow) {
     Numbers theirs(m_workspace, autosave());
     theirs.startAt(qtText(file("theirs.txt")));
     theirs.add(1);
-    ASSERT_TRUE(theirs.save(nullptr));
+    ASSERT_TRUE(saved(theirs));
     fs::create_symlink(file("theirs.txt"), file("link.txt"));
     Numbers mine(m_workspace, autosave());
     mine.startAt(qtText(file("mine.txt")));
     mine.add(2);
     for (const char* name : {"theirs.txt", "link.txt"})
-        EXPECT_FALSE(mine.saveAs(qtText(file(name)), nullptr)) << name;
+        EXPECT_FALSE(savedAs(mine, qtText(file(name)))) << name;
     EXPECT_THAT(m_recorder.alerts, SizeIs(2));
     EXPECT_EQ(readTextFile(file("theirs.txt")), "1\n");
     EXPECT_TRUE(mine.isDirty());

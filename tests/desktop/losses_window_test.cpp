@@ -99,6 +99,43 @@ TEST_F(LossesWindowTest, ShowsASumThatAddsUpToTheHundredth) {
                 HasSubstr("Most was lost in S2: 2.22 s of +3.62."));
 }
 
+TEST_F(LossesWindowTest, ComesBackWithEachWindowsRunAndReference) {
+    const Autosave autosave(QString::fromStdString((m_folder.path() / "kept").string()));
+    const QString first = add("first.kvx", threeRuns());
+    const QString second = add("second.kvx", threeRuns());
+    const auto isRead = [](LossesWindow& window) {
+        return QTest::qWaitFor([&] { return !window.facts().isReading(); }) &&
+               QTest::qWaitFor([&] { return window.state().hasRun(); });
+    };
+    {
+        Desktop program(m_workspace, autosave);
+        program.openLosses({first}, 1);
+        program.openLosses({first, second}, 2);
+        const auto windows = program.windowsOf<LossesWindow>();
+        ASSERT_THAT(windows, SizeIs(2));
+        for (LossesWindow* const window : windows)
+            ASSERT_TRUE(isRead(*window));
+        windows[0]->setSeasonShown(true);
+        windows[1]->state().setReference({LossReferenceKind::Run, 1});
+        windows[1]->state().chooseSection(2);
+        program.rememberSession();
+    }
+    Desktop program(m_workspace, autosave);
+    ASSERT_TRUE(program.restoreSession());
+    const auto windows = program.windowsOf<LossesWindow>();
+    ASSERT_THAT(windows, SizeIs(2));
+    for (LossesWindow* const window : windows)
+        ASSERT_TRUE(isRead(*window));
+    EXPECT_EQ(windows[0]->paths(), QStringList(first));
+    EXPECT_EQ(windows[0]->state().run(), 1U);
+    EXPECT_TRUE(windows[0]->isSeasonShown());
+    EXPECT_EQ(windows[1]->paths(), QStringList({first, second}));
+    EXPECT_EQ(windows[1]->state().run(), 2U);
+    EXPECT_EQ(windows[1]->state().losses().referenceRun, 1U);
+    EXPECT_EQ(windows[1]->state().section(), 2U);
+    EXPECT_FALSE(windows[1]->isSeasonShown());
+}
+
 TEST_F(LossesWindowTest, LinksTablesChartsAndReference) {
     ASSERT_TRUE(open({add("race.kvx", threeRuns())}, 2));
     m_window.tables().stretches().choose(1);

@@ -151,6 +151,20 @@ protected:
     std::unique_ptr<TakingWindow> m_window;
 };
 
+TEST_F(MarkingTest, APictureThatStandsIsSharpInAViewThatWasMadeLarger) {
+    ASSERT_NO_FATAL_FAILURE(openWithFilms(1, 3));
+    const int before = view().image().width();
+    press({Qt::Key_F9, Qt::Key_F9});
+    EXPECT_TRUE(QTest::qWaitFor(
+        [&] {
+            const QSize made = view().image().size();
+            const int wanted = made.scaled(view().size(), Qt::KeepAspectRatio).width();
+            return made.width() > before && wanted <= made.width() + 1;
+        },
+        Patience));
+    EXPECT_EQ(seen(), 0);
+}
+
 TEST_F(MarkingTest, TakesAHundredPressesOfAHundredDuringSeeksAndWhilePlaying) {
     constexpr int Runs = 4;
     ASSERT_NO_FATAL_FAILURE(openWithFilms(Runs, 30));

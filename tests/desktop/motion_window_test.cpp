@@ -80,6 +80,16 @@ protected:
 
 } // namespace
 
+TEST_F(MotionWindowTest, ShowsARecordingOnceByWhicheverPath) {
+    const fs::path file = add("a.kvb");
+    const fs::path link = m_folder.path() / "link.kvb";
+    fs::create_symlink(file, link);
+    ASSERT_TRUE(open({text(file), text(link)}));
+    EXPECT_EQ(recordings().all().size(), 1U);
+    ASSERT_TRUE(open({text(link)}));
+    EXPECT_EQ(recordings().all().size(), 1U);
+}
+
 TEST_F(MotionWindowTest, LaysRecordingsOverEachOtherAndReadsThemAtTheCursor) {
     bmrawdata_v5 odd = session(20);
     odd.gps.clear();

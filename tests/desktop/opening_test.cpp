@@ -4,9 +4,12 @@
 #include "common/safe_file.h"
 #include "common/temp_folder.h"
 #include "desktop/desktop.h"
+#include "desktop/find/find_window.h"
 #include "desktop/imports/csv_mapping_dialog.h"
 #include "desktop/race/race_window.h"
+#include "desktop/saving.h"
 #include "desktop/sessions/session_window.h"
+#include "desktop/shell/command_palette.h"
 #include "desktop/shell/file_names.h"
 #include "desktop/start_options.h"
 #include "desktop/taking/taking_window.h"
@@ -140,6 +143,14 @@ TEST_F(OpeningTest, TakesAPhonesListAndAWatchsTrackIntoASession) {
     EXPECT_THAT(m_program.windowsOf<desktop::RaceWindow>(), IsEmpty());
 }
 
+TEST_F(OpeningTest, TheSearchOfAnyWindowOpensATool) {
+    m_program.open(example("races/riverside_cup.kvx"));
+    for (const desktop::Command& command : m_workspace.programCommands())
+        if (command.title == "Find")
+            command.run();
+    EXPECT_THAT(m_program.windowsOf<desktop::FindWindow>(), SizeIs(1));
+}
+
 TEST_F(OpeningTest, SaysWhereATrackOrAListBelongsAndThatAFolderIsEmpty) {
     m_program.open(example("recordings/watch.gpx"));
     m_program.open(example("races/spring_opener_results.csv"));
@@ -217,7 +228,7 @@ TEST_F(OpeningTest, ShowsARaceThatIsOpenInsteadOfASecondWindowOfIt) {
     desktop::TakingWindow* const taking = m_program.openTaking(text(race));
     ASSERT_TRUE(taking);
     taking->document().editRun(0, "crew", [](athletedata031& run) { run.names = {"Ada Neumann"}; });
-    ASSERT_TRUE(taking->document().save(taking));
+    ASSERT_TRUE(saved(taking->document()));
     emit taking->analysisRequested();
     EXPECT_THAT(m_program.windowsOf<desktop::RaceWindow>(), SizeIs(2));
     const desktop::RaceWindow* const shown = m_program.windowsOf<desktop::RaceWindow>().front();

@@ -1,4 +1,5 @@
 #include "desktop/notes_fixture.h"
+#include "desktop/saving.h"
 
 #include <QDialog>
 #include <QTest>
@@ -44,11 +45,13 @@ TEST_F(OwnFileTest, HoldsTheWorkOnceItWasExportedOntoItself) {
     rename("Nova");
     fs::last_write_time(folder() / "films.kvx",
                         fs::file_time_type::clock::now() - std::chrono::hours(1));
-    ASSERT_TRUE(m_window->document().exportTo(file(), {false, false}, nullptr));
+    ASSERT_TRUE(isWritten([this](auto told) {
+        m_window->document().exportTo(file(), {false, false}, nullptr, std::move(told));
+    }));
     EXPECT_FALSE(m_window->document().isDirty());
     EXPECT_THAT(m_asked, SizeIs(1)) << "whether to write over the file";
     rename("Zora");
-    ASSERT_TRUE(m_window->document().save(nullptr));
+    ASSERT_TRUE(saved(m_window->document()));
     EXPECT_THAT(m_asked, SizeIs(1)) << "no other program changed it";
 }
 

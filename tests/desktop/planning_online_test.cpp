@@ -4,6 +4,7 @@
 #include "common/recorders.h"
 #include "common/temp_folder.h"
 #include "desktop/planning/online/online_planning.h"
+#include "desktop/saving.h"
 #include "desktop/shell/workspace.h"
 #include "planning/messages.h"
 #include "planning/planning_access.h"
@@ -275,7 +276,7 @@ TEST_F(PlanningOnlineTest, ShowsTheOtherWorkOrSavesBesideIt) {
 
 TEST_F(PlanningOnlineTest, GoesOnTomorrowFromTheStateOfToday) {
     const QString path = QString::fromStdString((m_folder.path() / "own.planning").string());
-    ASSERT_TRUE(m_window.document().saveAs(path, nullptr));
+    ASSERT_TRUE(savedAs(m_window.document(), path));
     ASSERT_TRUE(save());
     m_window.startNew(QString::fromStdString((m_folder.path() / "other.planning").string()));
     EXPECT_FALSE(save()) << "another planning does not come from it";

@@ -13,6 +13,7 @@
 #include "desktop/planning/plan/week_form.h"
 #include "desktop/planning/plan/year_strip.h"
 #include "desktop/planning/planning_handouts.h"
+#include "desktop/saving.h"
 #include "desktop/shell/command_palette.h"
 #include "desktop/shell/tables/column_table.h"
 #include "desktop/shell/workspace.h"
@@ -296,10 +297,10 @@ TEST_F(PlanningWindowTest, AsksBeforeItReplacesTheFile) {
     auto window = openWindow();
     window->plan().clearWeek();
     m_answer = false;
-    EXPECT_FALSE(window->save());
+    EXPECT_FALSE(saved(*window));
     EXPECT_EQ(encode(stored()), encode(smallPlan()));
     m_answer = true;
-    EXPECT_TRUE(window->save());
+    EXPECT_TRUE(saved(*window));
     EXPECT_THAT(stored().athletes[0].year[0].micros[ThisWeek].sessions, IsEmpty());
     EXPECT_THAT(m_questions, ElementsAre("Careful!", "Careful!"));
 }
@@ -321,7 +322,7 @@ TEST_F(PlanningWindowTest, WhatIsTypedInACellIsInTheFileWhenTheWindowSavesAndClo
             QTest::keyClick(QApplication::focusWidget(), *key);
     };
     type("70.2");
-    EXPECT_TRUE(window->save());
+    EXPECT_TRUE(saved(*window));
     EXPECT_EQ(weight(), 70.2);
     type("69x");
     EXPECT_FALSE(window->close());
@@ -378,7 +379,7 @@ TEST_F(PlanningWindowTest, KeepsTheFileOfAnOlderVersionWhenItSaves) {
     auto window = openWindow();
     ASSERT_TRUE(window);
     window->addSeason();
-    EXPECT_TRUE(window->save());
+    EXPECT_TRUE(saved(*window));
     EXPECT_EQ(readTextFile(m_folder.path() / "season_old.planning"), before);
     EXPECT_TRUE(recognisePlanningFile(file(), m_quiet).isCurrent());
 }

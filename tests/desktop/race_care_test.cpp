@@ -367,6 +367,41 @@ TEST_F(RaceCareTest, OffersTheRacesOfTheFolder) {
     EXPECT_TRUE(m_recorder.alerts.empty());
 }
 
+TEST_F(RaceCareTest, SaysThatAFilterMatchesNobody) {
+    RaceWindow* const window = show(write(smallRace()));
+    ASSERT_TRUE(window);
+    window->view().document().setFilter({{}, {}, "nobody at all"});
+    for (int chart = 0; chart < 4; ++chart) {
+        window->view().charts().setCurrentChart(chart);
+        EXPECT_THAT(window->view().charts().currentChart().emptyMessage().toStdString(),
+                    ::testing::StartsWith("The filter matches nobody."));
+    }
+}
+
+TEST_F(RaceCareTest, ProposesTheRaceThatIsMostLikeTheOpenOne) {
+    const auto race = [](const char* place, const char* category) {
+        splittakerdata031 made = smallRace();
+        made.info.place = place;
+        for (athletedata031& run : made.athletes)
+            run.cat = category;
+        return made;
+    };
+    splittakerdata031 cross = race("Riverside", "K1W");
+    cross.athletes.clear();
+    write(cross, "a_cross.kvx");
+    write(race("Riverside", "C1M"), "b_category.kvx");
+    write(race("Lake", "K1W"), "c_place.kvx");
+    write(race("riverside", "K1W"), "d_alike.kvx");
+    write(race("Lake", "K1W"), "e_place.kvx");
+    const auto open = write(race("Riverside", "K1W"));
+    const desktop::RunChooser chooser(m_workspace, QString::fromStdString(open.string()), nullptr);
+    const auto* const files = chooser.findChild<QListWidget*>("files");
+    ASSERT_EQ(files->count(), 5);
+    const auto isRead = [&] { return files->item(4)->text().contains("runs"); };
+    ASSERT_TRUE(QTest::qWaitFor(isRead));
+    EXPECT_EQ(files->currentRow(), 3) << files->currentItem()->text().toStdString();
+}
+
 TEST_F(RaceCareTest, MakesTheTableOrTheChartFillTheWindow) {
     RaceWindow* const window = show(Examples / "races" / "riverside_cup.kvx");
     ASSERT_TRUE(window);

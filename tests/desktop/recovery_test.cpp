@@ -3,6 +3,7 @@
 #include "desktop/cross/cross_window.h"
 #include "desktop/desktop.h"
 #include "desktop/planning/planning_window.h"
+#include "desktop/saving.h"
 #include "desktop/selection/selection_window.h"
 #include "desktop/shell/edited_file.h"
 #include "desktop/taking/taking_window.h"
@@ -39,17 +40,16 @@ struct Tool {
 /// A tool on a list: the coach removes all that it holds.
 template <class Window, class List>
 Tool listTool(const char* name, const char* example, List list) {
-    return {
-        name, example,
-        [list](QMainWindow& window) {
-            dynamic_cast<Window&>(window).document().edit(
-                "removal", [&](auto& value) { list(value).clear(); });
-        },
-        [list](QMainWindow& window) {
-            auto value = dynamic_cast<Window&>(window).document().value();
-            return list(value).empty();
-        },
-        [](QMainWindow& window) { return dynamic_cast<Window&>(window).file()->save(&window); }};
+    return {name, example,
+            [list](QMainWindow& window) {
+                dynamic_cast<Window&>(window).document().edit(
+                    "removal", [&](auto& value) { list(value).clear(); });
+            },
+            [list](QMainWindow& window) {
+                auto value = dynamic_cast<Window&>(window).document().value();
+                return list(value).empty();
+            },
+            [](QMainWindow& window) { return saved(*dynamic_cast<Window&>(window).file()); }};
 }
 
 constexpr const char* Typed = "typed before the end";
@@ -76,7 +76,7 @@ std::vector<Tool> tools() {
          [](QMainWindow& window) {
              return dynamic_cast<TakingWindow&>(window).document().run(0).hand == Typed;
          },
-         [](QMainWindow& window) { return dynamic_cast<TakingWindow&>(window).save(); }},
+         [](QMainWindow& window) { return saved(dynamic_cast<TakingWindow&>(window)); }},
         {"kayak cross", "races/harbour_cross.kvx",
          [](QMainWindow& window) {
              dynamic_cast<CrossWindow&>(window).document().editCross(
@@ -85,10 +85,7 @@ std::vector<Tool> tools() {
          [](QMainWindow& window) {
              return dynamic_cast<CrossWindow&>(window).document().cross().crossinfo.phase == Typed;
          },
-         [](QMainWindow& window) {
-             auto& document = dynamic_cast<CrossWindow&>(window).document();
-             return document.save(&window);
-         }}};
+         [](QMainWindow& window) { return saved(dynamic_cast<CrossWindow&>(window).document()); }}};
 }
 
 class CrashTest : public ::testing::Test {

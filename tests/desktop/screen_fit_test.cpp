@@ -47,6 +47,19 @@ TEST(FittedPlace, IsSmallerWhereItMustBeAndInside) {
     EXPECT_EQ(desktop::fitted({-50, -9, 900, 200}, screen), QRect(100, 30, 853, 200));
 }
 
+TEST(FittedPlace, IsAStepBesideThoseThatAreTaken) {
+    const QRect screen(0, 30, 1000, 600);
+    const QRect first(10, 40, 500, 400);
+    const QRect second = desktop::placeBeside(first, {first}, screen);
+    EXPECT_EQ(second, QRect(42, 72, 500, 400));
+    EXPECT_EQ(desktop::placeBeside(first, {first, second}, screen).topLeft(), QPoint(74, 104));
+    const QRect low(10, 220, 500, 400);
+    EXPECT_EQ(desktop::placeBeside(low, {low}, screen), QRect(0, 30, 500, 400))
+        << "from the top again";
+    const QRect above = desktop::placeBeside({0, -28, 1280, 800}, {screen}, screen);
+    EXPECT_EQ(above, screen) << "there is no other place, and none above the screen";
+}
+
 class ScreenFitTest : public ::testing::Test {
 protected:
     ScreenFitTest() { m_workspace.setAlerts(&m_recorder); }

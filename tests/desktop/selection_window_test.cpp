@@ -4,6 +4,7 @@
 #include "common/recorders.h"
 #include "common/temp_folder.h"
 #include "desktop/people/found_lines_view.h"
+#include "desktop/saving.h"
 #include "desktop/selection/athlete_dialog.h"
 #include "desktop/selection/take_over_dialog.h"
 #include "desktop/shell/tables/column_table.h"
@@ -19,6 +20,7 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QLabel>
+#include <QMenu>
 #include <QTableView>
 #include <QTest>
 #include <QTimer>
@@ -136,7 +138,7 @@ TEST_F(SelectionWindowTest, RanksLiveAndUndoes) {
 
 TEST_F(SelectionWindowTest, TriesWhatWouldHaveBeenAndKeepsNothingOfIt) {
     const auto window = filledWindow();
-    ASSERT_TRUE(window->document().saveAs(QString::fromStdString(file().string()), nullptr));
+    ASSERT_TRUE(savedAs(window->document(), QString::fromStdString(file().string())));
     window->setWhatIf(true);
     EXPECT_TRUE(type(*window, 2, Time, "70"));
     EXPECT_TRUE(type(*window, 2, Time + RankingModel::RaceColumns, "70"));
@@ -213,10 +215,22 @@ TEST_F(SelectionWindowTest, SaysAtEveryStepWhatComesNext) {
     EXPECT_EQ(window->table().currentIndex().column(), Time) << "the result is typed next";
 }
 
+TEST_F(SelectionWindowTest, TheMenuOfTheTableShowsEachKeyOnce) {
+    const auto window = filledWindow();
+    QMenu menu;
+    window->table().fillMenu(menu);
+    QStringList keys;
+    for (const QAction* const action : menu.actions())
+        if (!action->shortcut().isEmpty())
+            keys.append(action->shortcut().toString());
+    EXPECT_TRUE(keys.contains("Ctrl+C"));
+    EXPECT_EQ(keys.removeDuplicates(), 0);
+}
+
 TEST_F(SelectionWindowTest, AsksNoSecondTimeForTheNameOfANewFile) {
     const auto window = filledWindow();
     window->document().setNamed();
-    EXPECT_TRUE(window->save());
+    EXPECT_TRUE(saved(*window));
     EXPECT_TRUE(fs::exists(file()));
 }
 
@@ -296,7 +310,7 @@ TEST_F(SelectionWindowTest, ShowsWhatAFileWouldChangeAndWhoseRunsAreByHand) {
 TEST_F(SelectionWindowTest, SavesWhatItShowsAndOpensItAgain) {
     {
         const auto window = filledWindow();
-        ASSERT_TRUE(window->document().saveAs(QString::fromStdString(file().string()), nullptr));
+        ASSERT_TRUE(savedAs(window->document(), QString::fromStdString(file().string())));
     }
     const auto window = makeWindow();
     ASSERT_TRUE(window->open(QString::fromStdString(file().string())));
@@ -333,7 +347,7 @@ TEST(AthleteDialog, OffersOneGroupAndBonusMoreThanThereAreAndAddsThemOnlyWhenUse
 TEST_F(SelectionWindowTest, OffersUnsavedWork) {
     {
         const auto window = filledWindow();
-        ASSERT_TRUE(window->document().saveAs(QString::fromStdString(file().string()), nullptr));
+        ASSERT_TRUE(savedAs(window->document(), QString::fromStdString(file().string())));
         EXPECT_TRUE(type(*window, 0, Time, "60"));
     }
     const auto window = makeWindow();

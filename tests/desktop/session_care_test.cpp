@@ -2,6 +2,7 @@
 
 #include "boatmotion/session_files.h"
 #include "desktop/closing.h"
+#include "desktop/saving.h"
 #include "desktop/sessions/grid_model.h"
 #include "desktop/sessions/information_dialog.h"
 #include "desktop/sessions/power_meter_dialog.h"
@@ -154,7 +155,7 @@ TEST_F(SessionCareTest, ATableKeepsTheFocusThroughAnAnalysis) {
 
 TEST_F(SessionCareTest, InformationThatNobodyChangedIsNoEdit) {
     const auto window = openDrill();
-    ASSERT_TRUE(window->saveSessionTo(path("a.bms")));
+    ASSERT_TRUE(savedAs(*window, path("a.bms")));
     whenAsked<desktop::InformationDialog>([](auto& dialog) { dialog.accept(); });
     window->edits().editInformation();
     EXPECT_FALSE(window->isWindowModified());
@@ -230,11 +231,11 @@ TEST_F(SessionCareTest, ASaveThatFailsKeepsWhatWasAskedAndDone) {
         window->imports().importPowerMeter(add("meter.csv", "Time;Power\n0;200\n1;210\n2;205\n")));
     EXPECT_EQ(window->document().value().powerMeter.front().dateDouble,
               window->replay().from() + 3.5);
-    EXPECT_FALSE(window->saveSessionTo(path("missing/x.bms")));
+    EXPECT_FALSE(savedAs(*window, path("missing/x.bms")));
     EXPECT_TRUE(window->isWindowModified());
     EXPECT_EQ(window->document().path(), path("drill_postv5.bms"));
-    EXPECT_FALSE(window->exports().saveRecording(path("missing/x.kvb")));
-    ASSERT_TRUE(window->saveSessionTo(path("a.bms")));
+    EXPECT_FALSE(savesRecording(*window, path("missing/x.kvb")));
+    ASSERT_TRUE(savedAs(*window, path("a.bms")));
     EXPECT_THAT(m_questions, SizeIs(1)) << "asked once";
     EXPECT_EQ(encode(readSmartSession(m_folder.path() / "a.bms")), sessionOf(*window));
 }
@@ -242,7 +243,7 @@ TEST_F(SessionCareTest, ASaveThatFailsKeepsWhatWasAskedAndDone) {
 /// The question itself, answered by keys.
 TEST_F(SessionCareTest, CancellingTheQuestionAboutThePowerMeterSavesNothing) {
     const auto window = openDrill();
-    ASSERT_TRUE(window->saveSessionTo(path("a.bms")));
+    ASSERT_TRUE(savedAs(*window, path("a.bms")));
     const std::string before = contentOf(m_folder.path() / "a.bms");
     whenAsked<desktop::PowerMeterDialog>([](auto& dialog) { dialog.accept(); });
     ASSERT_TRUE(
@@ -305,7 +306,7 @@ TEST_F(SessionCareTest, ARecordingOfVersion4IsConvertedAndOpened) {
 
 TEST_F(SessionCareTest, ClosingStaysOpenWhereItCannotSave) {
     const auto window = openDrill();
-    ASSERT_TRUE(window->saveSessionTo(path("a.bms")));
+    ASSERT_TRUE(savedAs(*window, path("a.bms")));
     markAt(*window, {5});
     EXPECT_FALSE(window->close()) << "one mark makes no segment";
     EXPECT_THAT(m_recorder.alerts, SizeIs(1));
@@ -316,9 +317,22 @@ TEST_F(SessionCareTest, ClosingStaysOpenWhereItCannotSave) {
     EXPECT_THAT(editedSession(readSmartSession(m_folder.path() / "a.bms")).marks, SizeIs(2));
 }
 
+TEST_F(SessionCareTest, AnotherFileOpensOnceTheWorkIsWrittenAndAThirdAfterIt) {
+    const auto window = openDrill();
+    ASSERT_TRUE(savedAs(*window, path("a.bms")));
+    markAt(*window, {5, 9});
+    drop(*window, {path("drill.kvb")});
+    drop(*window, {path("a.bms")}); // while the marks are still being written
+    ASSERT_TRUE(rests(*window));
+    EXPECT_THAT(editedSession(readSmartSession(m_folder.path() / "a.bms")).marks, SizeIs(2));
+    EXPECT_EQ(window->document().path(), path("a.bms"));
+    EXPECT_THAT(window->document().value().marks, SizeIs(2));
+    EXPECT_THAT(m_questions, SizeIs(1));
+}
+
 TEST_F(SessionCareTest, FilesThatAreDroppedAreKnownByTheirKind) {
     const auto window = openDrill();
-    ASSERT_TRUE(window->saveSessionTo(path("a.sbm")));
+    ASSERT_TRUE(savedAs(*window, path("a.sbm")));
     QSignalSpy others(window.get(), &SessionWindow::openRequested);
     drop(*window, {path("drill.kvb")});
     ASSERT_TRUE(rests(*window));

@@ -3,7 +3,9 @@
 #include "common/json_encode.h"
 #include "common/recorders.h"
 #include "common/temp_folder.h"
+#include "desktop/saving.h"
 #include "desktop/sessions/replay.h"
+#include "desktop/sessions/session_exports.h"
 #include "desktop/sessions/session_tables.h"
 #include "desktop/sessions/session_view.h"
 #include "desktop/sessions/session_window.h"
@@ -58,6 +60,11 @@ protected:
         std::optional<bool> answer;
         window.openBeside(file, [&](bool isOpen) { answer = isOpen; });
         return QTest::qWaitFor([&] { return answer.has_value(); }, Patience) && *answer;
+    }
+
+    /// Writes what is left of the recording: whether it is written.
+    static bool savesRecording(const desktop::SessionWindow& window, const QString& path) {
+        return isWritten([&](auto told) { window.exports().saveRecording(path, std::move(told)); });
     }
 
     /// Waits until nothing is read or analysed any more.

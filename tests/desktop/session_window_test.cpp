@@ -5,6 +5,7 @@
 #include "desktop/charts/sensor_chart.h"
 #include "desktop/charts/series_chart.h"
 #include "desktop/imports/csv_mapping_dialog.h"
+#include "desktop/saving.h"
 #include "desktop/sessions/course_map.h"
 #include "desktop/sessions/gauge.h"
 #include "desktop/sessions/grid_model.h"
@@ -69,12 +70,12 @@ TEST_F(SessionWindowTest, ConvertsARecordingAndSavesItBesideTheSource) {
     const auto window = openDrill();
     EXPECT_THAT(m_recorder.lines, Contains("BM data count for drill.kvb 2000"));
     EXPECT_EQ(window->document().path(), path("drill_postv5.bms"));
-    ASSERT_TRUE(window->saveSessionTo(path("drill.sbm")));
+    ASSERT_TRUE(savedAs(*window, path("drill.sbm")));
     EXPECT_THAT(m_recorder.lines, Contains("Autosaved!"));
     const smartAlldata_v4 saved = readSmartSession(m_folder.path() / "drill.sbm");
     EXPECT_EQ(encode(saved), encode(window->document().value().session));
     EXPECT_FALSE(saved.strokesData.empty());
-    EXPECT_FALSE(window->saveSessionTo(path("missing/x.bms")));
+    EXPECT_FALSE(savedAs(*window, path("missing/x.bms")));
     EXPECT_THAT(m_recorder.lines, Contains("Failed to create file"));
 }
 
@@ -84,11 +85,11 @@ TEST_F(SessionWindowTest, FewerThanTwoMarksMakeNoSegments) {
     EXPECT_THAT(m_recorder.alerts,
                 ElementsAre("If you want to have segments, mark at least two of them."));
     markAt(*window, {10});
-    EXPECT_FALSE(window->saveSessionTo(path("a.bms")));
+    EXPECT_FALSE(savedAs(*window, path("a.bms")));
     EXPECT_THAT(m_recorder.alerts, SizeIs(2));
     EXPECT_THAT(m_folder.names(), Not(Contains("a.bms")));
     press(*window, Qt::CTRL | Qt::Key_Z);
-    EXPECT_TRUE(window->saveSessionTo(path("a.bms"))) << "without a mark no segments are wanted";
+    EXPECT_TRUE(savedAs(*window, path("a.bms"))) << "without a mark no segments are wanted";
 }
 
 TEST_F(SessionWindowTest, SegmentsAreNumberedAndThereWhenItIsOpenedAgain) {
@@ -97,7 +98,7 @@ TEST_F(SessionWindowTest, SegmentsAreNumberedAndThereWhenItIsOpenedAgain) {
     press(*window, Qt::ALT | Qt::Key_Right); // the one at 15 s
     const double begin = window->replay().from();
     EXPECT_NEAR(window->document().value().marks.at(1), begin + 15.1, 1e-9);
-    ASSERT_TRUE(window->saveSessionTo(path("a.bms")));
+    ASSERT_TRUE(savedAs(*window, path("a.bms")));
     const auto again = makeWindow();
     ASSERT_TRUE(opens(*again, path("a.bms")));
     EXPECT_THAT(again->document().value().marks, SizeIs(3));
@@ -163,7 +164,7 @@ TEST_F(SessionWindowTest, ACutIsSavedAsARecordingAndCanBeTakenBack) {
         dialog.template findChild<QDoubleSpinBox*>("weight")->setValue(60);
     });
     window->edits().editInformation();
-    ASSERT_TRUE(window->exports().saveRecording(path("cut.kvb")));
+    ASSERT_TRUE(savesRecording(*window, path("cut.kvb")));
     const bmrawdata_v5 cut = readRawSession(m_folder.path() / "cut.kvb");
     EXPECT_EQ(cut.athleteinfo.name, "LEE Ann");
     EXPECT_EQ(cut.athleteinfo.weight, 60);
@@ -205,12 +206,12 @@ TEST_F(SessionWindowTest, PowerMeterDataGoesIntoTheStrokesAfterAYes) {
     });
     ASSERT_TRUE(window->imports().importPowerMeter(add("meter.csv", list)));
     m_isYes = false;
-    ASSERT_TRUE(window->saveSessionTo(path("without.sbm")));
+    ASSERT_TRUE(savedAs(*window, path("without.sbm")));
     EXPECT_THAT(m_questions,
                 ElementsAre("Would you like to save the powermeter data into sbm file?"));
     m_isYes = true;
-    ASSERT_TRUE(window->saveSessionTo(path("with.sbm")));
-    ASSERT_TRUE(window->saveSessionTo(path("again.sbm")));
+    ASSERT_TRUE(savedAs(*window, path("with.sbm")));
+    ASSERT_TRUE(savedAs(*window, path("again.sbm")));
     EXPECT_THAT(m_questions, SizeIs(2)) << "it is in the session now";
     const double begin = window->replay().from();
     const auto powersOf = [&](const char* name) {
@@ -375,7 +376,7 @@ TEST_F(SessionWindowTest, AListOfALoggerBecomesARecordingAndATrackJoinsIt) {
     EXPECT_LE(heart().size(), readings);
     press(*window, Qt::CTRL | Qt::Key_Z);
     EXPECT_EQ(heart().front().date.seconds, first);
-    EXPECT_TRUE(window->exports().saveRecording(path("logger.kvb")));
+    EXPECT_TRUE(savesRecording(*window, path("logger.kvb")));
     EXPECT_FALSE(readRawSession(m_folder.path() / "logger.kvb").boatmotion.empty());
 }
 

@@ -133,6 +133,24 @@ TEST_F(SharedFileTest, AsksForWhatIsStillBeingTypedBeforeTheOtherToolOpens) {
     EXPECT_THAT(m_recorder.alerts, IsEmpty());
 }
 
+TEST_F(SharedFileTest, GoesToTheMomentThatWasAskedForOnceTheCrossIsSaved) {
+    ASSERT_NO_FATAL_FAILURE(save());
+    m_program.open(text(file()));
+    ASSERT_THAT(m_program.windowsOf<desktop::RaceWindow>(), SizeIs(1));
+    CrossWindow* const cross = m_program.openCross(text(file()));
+    ASSERT_TRUE(cross);
+    ASSERT_NO_FATAL_FAILURE(type(*cross, "courseCategory", "C1M"));
+    for (const int run : {1, 3}) // asked for once more while it is still being written
+        emit m_program.windowsOf<desktop::RaceWindow>().front()->momentRequested(text(file()), run,
+                                                                                 1);
+    EXPECT_THAT(m_program.windowsOf<TakingWindow>(), IsEmpty());
+    QTRY_VERIFY(!m_program.windowsOf<TakingWindow>().isEmpty());
+    TakingWindow* const taking = m_program.windowsOf<TakingWindow>().front();
+    QTRY_COMPARE(taking->currentRun(), 3);
+    EXPECT_THAT(m_program.windowsOf<TakingWindow>(), SizeIs(1));
+    EXPECT_EQ(taking->document().cross().crossinfo.cat, "C1M");
+}
+
 TEST_F(SharedFileTest, LeavesTheFileToAWindowThatStaysOpen) {
     ASSERT_NO_FATAL_FAILURE(save());
     CrossWindow* const cross = m_program.openCross(text(file()));

@@ -4,6 +4,7 @@
 #include "desktop/charts/sensor_chart.h"
 #include "desktop/charts/series_chart.h"
 #include "desktop/odd_recordings.h"
+#include "desktop/saving.h"
 #include "desktop/sessions/balance_view.h"
 #include "desktop/sessions/gauge.h"
 #include "desktop/sessions/grid_model.h"
@@ -54,8 +55,8 @@ TEST_F(ShownSessionTest, AnOddClockIsToldOrShownAndNothingIsHalfLoaded) {
         EXPECT_LE(window->replay().from(), window->replay().to());
         showEverything(*window);
         markAt(*window, {1, 2});
-        EXPECT_TRUE(window->saveSessionTo(this->path("odd.bms")));
-        EXPECT_TRUE(window->exports().saveRecording(this->path("odd_again.kvb")));
+        EXPECT_TRUE(savedAs(*window, this->path("odd.bms")));
+        EXPECT_TRUE(savesRecording(*window, this->path("odd_again.kvb")));
     }
 }
 

@@ -1,6 +1,7 @@
 #include "common/json_encode.h"
 #include "desktop/film/film_stage.h"
 #include "desktop/notes_fixture.h"
+#include "desktop/saving.h"
 #include "desktop/taking/split_mode.h"
 #include "splittaking/annotations/time_losses.h"
 
@@ -104,7 +105,7 @@ TEST_F(TakingCareTest, SavesWhatIsStillBeingTyped) {
     press(Qt::CTRL | Qt::Key_8);
     table("comments").edit(0, 1);
     QTest::keyClicks(QApplication::focusWidget(), "Wide");
-    EXPECT_TRUE(m_window->save());
+    EXPECT_TRUE(saved(*m_window));
     const auto saved =
         recogniseSplitFile(m_window->document().path().toStdString(), m_recorder.log(), systemNow);
     EXPECT_EQ(saved.document.athletes[0].sectioninfo.comments.at(0), "Wide");
@@ -226,7 +227,7 @@ TEST_F(TakingCareTest, ReopensWhatEveryModeWrote) {
     press(Qt::Key_M);
     ASSERT_NO_FATAL_FAILURE(goOnASecond());
     press(Qt::Key_M);
-    ASSERT_TRUE(m_window->save());
+    ASSERT_TRUE(saved(*m_window));
     const auto notesOf = [](athletedata031 record) {
         record.sectioninfo.xTime = record.sectioninfo.xPer = 0; // computed as it is written
         return encode(record);

@@ -4,6 +4,7 @@
 #include "desktop/notes_fixture.h"
 #include "desktop/race/race_view.h"
 #include "desktop/race/race_window.h"
+#include "desktop/saving.h"
 #include "desktop/taking/split_mode.h"
 #include "splittaking/annotations/time_losses.h"
 #include "splittaking/course_setup.h"
@@ -134,7 +135,7 @@ TEST_F(TakingRulesTest, KeepsAStartWithoutASplit) {
     m_window.reset(); // as after a crash
     m_window = opened();
     EXPECT_EQ(m_window->document().marks(0).start, start);
-    ASSERT_TRUE(m_window->save());
+    ASSERT_TRUE(saved(*m_window));
     EXPECT_TRUE(m_window->isWindowModified()) << "the file has no place for it";
     answer = false;
     EXPECT_FALSE(m_window->close());
@@ -144,7 +145,7 @@ TEST_F(TakingRulesTest, KeepsAStartWithoutASplit) {
     m_window = opened();
     EXPECT_EQ(m_window->document().marks(0).start, start) << "kept on this computer";
     m_window->document().setMarks(0, "none", {});
-    ASSERT_TRUE(m_window->save());
+    ASSERT_TRUE(saved(*m_window));
     EXPECT_FALSE(m_window->isWindowModified());
     questions.clear();
     EXPECT_TRUE(m_window->close());

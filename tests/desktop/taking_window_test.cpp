@@ -6,6 +6,7 @@
 #include "desktop/film/film_deck.h"
 #include "desktop/film/film_view.h"
 #include "desktop/refusals.h"
+#include "desktop/saving.h"
 #include "desktop/shell/workspace.h"
 #include "desktop/taking/course_dialog.h"
 #include "desktop/taking/gate_strip.h"
@@ -329,7 +330,7 @@ TEST_F(TakingWindowTest, TakesARealTimeOnlyAsANumberAndRecomputesThen) {
     EXPECT_THAT(refusalIn(*window), HasSubstr(messages::RealTimeNoNumber));
     EXPECT_EQ(window->document().run(0).sectioninfo.realtime, before);
     EXPECT_EQ(field->text(), "91s");
-    EXPECT_FALSE(window->save()) << "over what was not taken";
+    EXPECT_FALSE(saved(*window)) << "over what was not taken";
     EXPECT_EQ(window->document().run(0).sectioninfo.splitnum, 6) << "Enter marked nothing";
     m_recorder.lines.clear();
     type("1:31,5");
@@ -345,10 +346,10 @@ TEST_F(TakingWindowTest, AsksBeforeOverwritingWhatAnotherProgramWrote) {
     fs::last_write_time(splitFile(), fs::last_write_time(splitFile()) + std::chrono::seconds(5));
     const std::string theirs = contentOf(splitFile());
     m_answer = false;
-    EXPECT_FALSE(window->document().save(window.get()));
+    EXPECT_FALSE(saved(window->document()));
     EXPECT_EQ(contentOf(splitFile()), theirs);
     m_answer = true;
-    EXPECT_TRUE(window->document().save(window.get()));
+    EXPECT_TRUE(saved(window->document()));
     EXPECT_NE(contentOf(splitFile()), theirs);
     EXPECT_THAT(m_questions, SizeIs(2));
 }
@@ -357,14 +358,18 @@ TEST_F(TakingWindowTest, ExportsTableAndReportBesideTheFile) {
     ASSERT_TRUE(saveSplitFile(evening().race, splitFile(), m_recorder.log()));
     const auto window = openWindow(splitFile());
     const fs::path target = m_folder.path() / "out.kvx";
-    EXPECT_TRUE(window->document().exportTo(QString::fromStdString(target.string()), {true, true},
-                                            window.get()));
+    const auto isExported = [&](const desktop::BesideFile& lists) {
+        return isWritten([&](auto told) {
+            window->document().exportTo(QString::fromStdString(target.string()), lists,
+                                        window.get(), std::move(told));
+        });
+    };
+    EXPECT_TRUE(isExported({true, true}));
     EXPECT_THAT(m_questions, IsEmpty());
     EXPECT_THAT(contentOf(m_folder.path() / "out.csv"), ::testing::StartsWith("Name;Phase;S1;P1;"));
     EXPECT_THAT(contentOf(m_folder.path() / "out.pdf"), ::testing::StartsWith("%PDF-"));
     m_answer = false;
-    EXPECT_FALSE(window->document().exportTo(QString::fromStdString(target.string()),
-                                             {false, false}, window.get()));
+    EXPECT_FALSE(isExported({false, false}));
     EXPECT_THAT(m_questions, ElementsAre(messages::AskToOverwrite));
 }
 

@@ -1,3 +1,4 @@
+#include "desktop/saving.h"
 #include "desktop/selection/selection_window.h"
 #include "desktop/shell/number_box.h"
 #include "desktop/shell/refused_entry.h"
@@ -200,7 +201,7 @@ protected:
         m_window.addCategory("MK1");
         m_window.addAthlete({"ALDER Ann", 2004, "Club", {}, {}});
         m_window.addAthlete({"BIRK Ben", 2004, "Club", {}, {}});
-        EXPECT_TRUE(m_window.document().saveAs(path(), nullptr));
+        EXPECT_TRUE(savedAs(m_window.document(), path()));
         m_window.show();
         m_window.activateWindow();
         EXPECT_TRUE(QTest::qWaitForWindowActive(&m_window));
@@ -283,7 +284,7 @@ TEST_F(CellsTest, AreNotSavedOverAndEscBringsTheOldValueBack) {
     press(Qt::Key_Return);
     m_table->setCurrentIndex(cell(0));
     press("9:99");
-    EXPECT_FALSE(m_window.save());
+    EXPECT_FALSE(saved(m_window));
     EXPECT_FALSE(m_window.close());
     EXPECT_TRUE(m_window.isVisible());
     EXPECT_THAT(refusalIn(m_window), HasSubstr("“9:99”"));
@@ -292,10 +293,10 @@ TEST_F(CellsTest, AreNotSavedOverAndEscBringsTheOldValueBack) {
     press(Qt::Key_Escape);
     EXPECT_FALSE(editor() && editor()->isVisible());
     EXPECT_EQ(timeOf(0), 95);
-    EXPECT_TRUE(m_window.save());
+    EXPECT_TRUE(saved(m_window));
     m_table->setCurrentIndex(cell(0));
     press("96");
-    EXPECT_TRUE(m_window.save()) << "with what is being typed";
+    EXPECT_TRUE(saved(m_window)) << "with what is being typed";
     EXPECT_EQ(timeOf(0), 96);
     EXPECT_TRUE(m_table->hasFocus());
 }

@@ -4,6 +4,7 @@
 #include "common/recorders.h"
 #include "common/temp_folder.h"
 #include "desktop/refusals.h"
+#include "desktop/saving.h"
 #include "desktop/shell/workspace.h"
 #include "desktop/watertests/entry_table.h"
 #include "desktop/watertests/take_recording_dialog.h"
@@ -273,7 +274,7 @@ TEST_F(TestsCareTest, ACellThatIsTypedWhileItsTestGoesChangesNoOther) {
     press(Qt::Key_Return);
     while (m_window->document().undoStack().canUndo())
         m_window->document().undoStack().undo();
-    ASSERT_TRUE(m_window->document().saveAs(path("again.kvtest"), m_window.get()));
+    ASSERT_TRUE(savedAs(m_window->document(), path("again.kvtest")));
     EXPECT_EQ(encode(readTestsFile(m_folder.path() / "again.kvtest")), before);
 }
 
@@ -292,7 +293,7 @@ TEST_F(TestsCareTest, ACountThatIsTypedIsSavedWithoutEnter) {
     laps.setFocus();
     laps.selectAll();
     press(Qt::Key_8);
-    EXPECT_TRUE(m_window->save());
+    EXPECT_TRUE(saved(*m_window));
     EXPECT_EQ(readTestsFile(m_folder.path() / "tests.kvtest").tests.at(0).laps, 8);
     EXPECT_TRUE(laps.hasFocus());
     laps.selectAll();
@@ -413,12 +414,12 @@ TEST_F(TestsCareTest, ASaveThatFailsLeavesTheWorkAndTheFile) {
     ASSERT_NO_FATAL_FAILURE(open(sample::formTests()));
     const std::string before = contentOf(m_folder.path() / "tests.kvtest");
     m_window->duplicateTest();
-    EXPECT_FALSE(m_window->document().saveAs(path("missing/x.kvtest"), m_window.get()));
+    EXPECT_FALSE(savedAs(m_window->document(), path("missing/x.kvtest")));
     EXPECT_THAT(m_recorder.alerts, Not(IsEmpty()));
     EXPECT_TRUE(m_window->isWindowModified());
     EXPECT_EQ(m_window->document().path(), path("tests.kvtest"));
     EXPECT_EQ(contentOf(m_folder.path() / "tests.kvtest"), before);
-    EXPECT_TRUE(m_window->save());
+    EXPECT_TRUE(saved(*m_window));
     EXPECT_NE(contentOf(m_folder.path() / "tests.kvtest"), before);
 }
 

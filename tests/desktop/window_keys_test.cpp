@@ -2,6 +2,9 @@
 #include "common/temp_folder.h"
 #include "desktop/cross/cross_window.h"
 #include "desktop/desktop.h"
+#include "desktop/find/find_window.h"
+#include "desktop/find/found_table.h"
+#include "desktop/losses/losses_window.h"
 #include "desktop/motion/motion_window.h"
 #include "desktop/penalties/penalties_window.h"
 #include "desktop/race/race_window.h"
@@ -56,6 +59,10 @@ protected:
                 (void)m_program.openTaking(path);
             else if (std::string_view(wanted.name) == "penalties")
                 openPenalties(path);
+            else if (std::string_view(wanted.name) == "losses")
+                openLosses(path);
+            else if (std::string_view(wanted.name) == "find")
+                openFind(path);
             else if (std::string_view(wanted.name) == "session")
                 openSession(path);
             else
@@ -78,6 +85,20 @@ protected:
         m_program.openPenalties({path});
         for (const auto* const window : m_program.windowsOf<desktop::PenaltiesWindow>())
             EXPECT_TRUE(QTest::qWaitFor([&] { return !window->isBusy() && window->figures(); }));
+    }
+
+    void openLosses(const QString& path) {
+        m_program.openLosses({path});
+        for (auto* const window : m_program.windowsOf<desktop::LossesWindow>())
+            EXPECT_TRUE(QTest::qWaitFor([&] { return window->state().hasRun(); }));
+    }
+
+    void openFind(const QString& path) {
+        m_program.openFind({path});
+        for (auto* const window : m_program.windowsOf<desktop::FindWindow>()) {
+            window->ask("runs");
+            EXPECT_TRUE(QTest::qWaitFor([&] { return window->results().found() != nullptr; }));
+        }
     }
 
     /// Where a coach's hands may be: tables, films, charts; nothing that is typed in or pressed.
@@ -172,6 +193,8 @@ INSTANTIATE_TEST_SUITE_P(Windows, WindowKeysTest,
                                            WindowOf{"watertests", "tests/form_tests.kvtest"},
                                            WindowOf{"penalties", "races/riverside_cup.kvx",
                                                     "Alt+4"},
+                                           WindowOf{"losses", "races/riverside_cup.kvx", "Shift+W"},
+                                           WindowOf{"find", "races/riverside_cup.kvx", "Alt+2"},
                                            WindowOf{"motion", "recordings/upstream_drill.kvb"},
                                            WindowOf{"session", "recordings/upstream_drill.kvb"}),
                          [](const auto& window) { return window.param.name; });

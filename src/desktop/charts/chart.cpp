@@ -83,4 +83,9 @@ SeriesLabel Chart::labelOf(const SelectedRun& selected) const {
     return label;
 }
 
+QString Chart::noRunsReason() const {
+    return race().isFiltered() ? tr("The filter matches nobody. Change it to see runs again.")
+                               : tr("Open a race to see its charts.");
+}
+
 } // namespace kavela::desktop

@@ -45,6 +45,8 @@ protected:
     };
 
     [[nodiscard]] const ChartRace& race() const { return m_race; }
+    /// Why there is no run at all.
+    [[nodiscard]] QString noRunsReason() const;
     [[nodiscard]] const CourseReference& reference() const { return m_reference; }
     [[nodiscard]] bool penaltiesIncluded() const { return m_penaltiesIncluded; }
     [[nodiscard]] std::vector<SelectedRun> selectedRuns() const;

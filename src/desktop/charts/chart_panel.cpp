@@ -114,8 +114,8 @@ void ChartPanel::showCurrent() {
     m_referenceAction->setVisible(currentChart().usesReference());
 }
 
-void ChartPanel::setRace(const RaceSet& set) {
-    m_race = set;
+void ChartPanel::setRace(const RaceSet& set, bool isFiltered) {
+    m_race = ChartRace(set, isFiltered);
     m_selection.clear();
     for (Chart* chart : m_charts)
         chart->setRace(m_race);

@@ -28,7 +28,8 @@ public:
 
     /// The runs that the table shows. The selection has to be set again; a chosen reference run
     /// stays the reference, by its times alone where it is not among them.
-    void setRace(const RaceSet& set);
+    /// `isFiltered` when there are runs of the race that are not among these.
+    void setRace(const RaceSet& set, bool isFiltered = false);
     void setSelection(const std::vector<std::size_t>& runs);
     void setPenaltiesIncluded(bool included);
 

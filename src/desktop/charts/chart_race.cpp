@@ -55,8 +55,11 @@ bool hasSeveral(const RaceSet& set, Member member) {
 
 ChartRace::ChartRace() : m_set(std::make_shared<RaceSet>()) {}
 
-ChartRace::ChartRace(const RaceSet& set)
+ChartRace::ChartRace(const RaceSet& set) : ChartRace(set, false) {}
+
+ChartRace::ChartRace(const RaceSet& set, bool isFiltered)
     : m_set(lightCopy(set)),
+      m_isFiltered(isFiltered),
       m_hasPhases(hasSeveral(set, &analyzerdata::phase)),
       m_hasCategories(hasSeveral(set, &analyzerdata::category)) {}
 

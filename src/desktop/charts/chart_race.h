@@ -16,8 +16,11 @@ public:
     ChartRace();
     // The charts take a race set as it is.
     ChartRace(const RaceSet& set); // NOLINT(google-explicit-constructor)
+    /// `isFiltered` when there are runs of the race that are not among these.
+    ChartRace(const RaceSet& set, bool isFiltered);
 
     [[nodiscard]] const RaceSet& set() const { return *m_set; }
+    [[nodiscard]] bool isFiltered() const { return m_isFiltered; }
     [[nodiscard]] std::size_t size() const { return m_set->alldata.size(); }
     [[nodiscard]] const analyzerdata& run(std::size_t index) const { return m_set->alldata[index]; }
 
@@ -33,6 +36,7 @@ public:
 
 private:
     std::shared_ptr<const RaceSet> m_set;
+    bool m_isFiltered = false;
     bool m_hasPhases = false;
     bool m_hasCategories = false;
 };

@@ -38,7 +38,7 @@ GapChart::GapChart(QWidget* parent) : Chart(parent), m_sections(showSections(can
 
 QString GapChart::emptyReason() const {
     if (race().size() == 0)
-        return tr("Open a race to see its charts.");
+        return noRunsReason();
     if (selectedRuns().empty())
         return tr("Select runs in the table to see where time is won and lost.");
     const std::vector<double> times =

@@ -50,7 +50,7 @@ GateChart::GateChart(QWidget* parent) : Chart(parent) {
 
 QString GateChart::emptyReason() const {
     if (race().size() == 0)
-        return tr("Open a race to see its charts.");
+        return noRunsReason();
     if (coursePenalties(race().set()).countedRuns == 0)
         return tr("No run has its penalties by gate. Enter them for each gate to see where they "
                   "happen.");

@@ -98,7 +98,7 @@ void SectionChart::setScale(Scale scale) {
 
 QString SectionChart::emptyReason() const {
     if (race().size() == 0)
-        return tr("Open a race to see its charts.");
+        return noRunsReason();
     if (timedSections(race().set()) == 0)
         return tr("No section has been timed yet.");
     return {};

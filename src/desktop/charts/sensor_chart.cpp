@@ -355,6 +355,8 @@ void SensorChart::prepare() const {
 }
 
 void SensorChart::paintEvent(QPaintEvent*) {
+    if (size().isEmpty())
+        return; // before the first layout, and there is nothing to paint on
     prepare();
     const double ratio = devicePixelRatioF();
     const QSize pixels = (QSizeF(size()) * ratio).toSize();

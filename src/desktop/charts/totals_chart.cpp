@@ -33,7 +33,7 @@ TotalsChart::TotalsChart(QWidget* parent) : Chart(parent) {
 
 QString TotalsChart::emptyReason() const {
     if (race().size() == 0)
-        return tr("Open a race to see its charts.");
+        return noRunsReason();
     if (!bestRun(race().set(), true))
         return tr("No run has a time for the whole course yet.");
     return {};

@@ -50,8 +50,7 @@ QAction* CrossActions::add(QMenu& menu, const QString& text, const QList<QKeySeq
 
 CrossActions::Act CrossActions::savedThen(std::function<void(const QString& path)> request) {
     return [this, request = std::move(request)] {
-        if (!m_window.document().isDirty() || m_window.save())
-            request(m_window.document().path());
+        m_window.whenSaved([this, request] { request(m_window.document().path()); });
     };
 }
 

@@ -22,6 +22,18 @@ constexpr auto LongestWait = std::chrono::seconds(3);
 /// A film that was just opened tells its first frames in less.
 constexpr auto LongestWaitForStep = std::chrono::milliseconds(500);
 
+/// The last size of a view that is being made larger or smaller is the one that counts.
+constexpr int SharpenAfterMilliseconds = 50;
+
+/// Asks for a frame as it was asked for before.
+struct Again {
+    VideoPlayer& player;
+
+    void operator()(FrameNumber number) const { player.showFrame(number); }
+    void operator()(const CMTime& stamp) const { player.requestStamp(stamp); }
+    void operator()(double seconds) const { player.requestPosition(seconds); }
+};
+
 /// Films are read by threads of their own: nothing here has to turn for them.
 template <class IsDone>
 void waitFor(const IsDone& isDone, std::chrono::milliseconds atMost) {
@@ -42,6 +54,9 @@ FilmDeck::FilmDeck(std::shared_ptr<FrameCache> cache, QObject* parent)
     : QObject(parent),
       m_cache(std::move(cache)),
       m_presses([this](const PressQueue::Meant& meant) { return stampsOf(meant); }) {
+    m_sharpen.setSingleShot(true);
+    m_sharpen.setInterval(SharpenAfterMilliseconds);
+    connect(&m_sharpen, &QTimer::timeout, this, &FilmDeck::sharpen);
     m_tick.setTimerType(Qt::PreciseTimer);
     m_tick.setInterval(RefreshMilliseconds);
     connect(&m_tick, &QTimer::timeout, this, [this] {
@@ -306,6 +321,21 @@ void FilmDeck::setBox(std::size_t camera, QSize box) {
     m_boxes[camera] = box;
     if (camera < m_slots.size())
         m_slots[camera]->setBox(box);
+    m_sharpen.start();
+}
+
+/// A picture that stands was made for a smaller view: it is asked for once more, at its size now.
+/// While the film plays, the next one comes by itself.
+void FilmDeck::sharpen() {
+    for (std::size_t camera = 0; camera < views() && camera < m_boxes.size(); ++camera) {
+        const auto& shown = m_shown[camera];
+        const auto asked = m_players[camera]->asked();
+        if (isPlaying() || !shown || shown->image.isNull() || !asked)
+            continue;
+        const QSize now = shown->image.size();
+        if (now.scaled(m_boxes[camera], Qt::KeepAspectRatio).width() > now.width() + 1)
+            std::visit(Again{*m_players[camera]}, *asked);
+    }
 }
 
 template <class Act>

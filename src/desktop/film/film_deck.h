@@ -133,6 +133,7 @@ private:
     void withGroup(Act act);
     template <class Act>
     void jumpWithGroup(Act act, bool isStop = false);
+    void sharpen();
     [[nodiscard]] bool isLate(const Jump& jump, const FilmPicture& picture) const;
 
     std::shared_ptr<FrameCache> m_cache;
@@ -147,6 +148,7 @@ private:
     PressQueue m_presses;
     std::unique_ptr<CameraGroup> m_group;
     QTimer m_tick;
+    QTimer m_sharpen;     ///< after the last of many sizes, as while an edge is dragged
     int m_generation = 0; ///< of the films: events of those that were closed are ignored
 };
 

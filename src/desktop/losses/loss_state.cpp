@@ -1,6 +1,7 @@
 #include "desktop/losses/loss_state.h"
 
 #include "performance/loss_reasons.h"
+#include "performance/loss_reference.h"
 
 #include <algorithm>
 #include <limits>
@@ -78,6 +79,30 @@ void LossState::followReference(const RunKey& rival) {
         m_reference.run = m_facts->runs()[*found].number;
     else
         m_reference = {};
+}
+
+QStringList LossState::kept() const {
+    if (!m_hasRun)
+        return {};
+    const RunKey key = keyOf(run());
+    return {QString::fromStdString(key.path),
+            QString::number(key.number),
+            QString::fromStdString(key.crew),
+            QString::fromStdString(key.phase),
+            QString::fromStdString(textOf(m_reference)),
+            QString::number(m_section)};
+}
+
+bool LossState::goBackTo(const QStringList& kept) {
+    const auto found = find({kept.value(0).toStdString(), kept.value(1).toUInt(),
+                             kept.value(2).toStdString(), kept.value(3).toStdString()});
+    if (!found)
+        return false;
+    setRun(*found);
+    if (const auto reference = lossReferenceOf(kept.value(4).toStdString()))
+        setReference(*reference);
+    chooseSection(kept.value(5).toUInt());
+    return true;
 }
 
 void LossState::setRun(std::size_t run) {

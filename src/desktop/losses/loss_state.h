@@ -6,6 +6,7 @@
 #include "performance/losses.h"
 
 #include <QObject>
+#include <QStringList>
 
 #include <memory>
 #include <optional>
@@ -25,6 +26,11 @@ public:
     /// The files as they are now. The run stays the one of the same file and crew; where it is
     /// gone, and at first, it is the first whole one.
     void setFacts(std::shared_ptr<const FactStore> facts);
+    /// By what the run, the reference and the section are found again at another time; empty
+    /// without a run.
+    [[nodiscard]] QStringList kept() const;
+    /// Goes back to what kept() told. False where the run is not there.
+    bool goBackTo(const QStringList& kept);
     /// By its place in the store. A rival as the reference belongs to one file: in another one it
     /// is the winner.
     void setRun(std::size_t run);

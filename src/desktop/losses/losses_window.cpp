@@ -171,6 +171,7 @@ void LossesWindow::tellNotSaved(const QString& reason) {
 void LossesWindow::setPaths(const QStringList& paths, std::optional<std::size_t> run) {
     m_wanted = run;
     m_isOther = true;
+    m_view.clear();
     m_facts.setPaths(paths);
     for (const QString& path : paths)
         if (!QFileInfo(path).isDir())
@@ -178,6 +179,18 @@ void LossesWindow::setPaths(const QStringList& paths, std::optional<std::size_t>
     showTitle();
     showReading();
     emit pathsChanged();
+}
+
+/// A line that says whether it is the season, then those of the state.
+QString LossesWindow::shownView() const {
+    if (!m_view.isEmpty())
+        return m_view.join('\n'); // it is not read yet
+    return (QStringList(isSeasonShown() ? "season" : "run") + m_state.kept()).join('\n');
+}
+
+void LossesWindow::showAgain(const QString& view) {
+    m_view = view.split('\n');
+    setSeasonShown(m_view.value(0) == "season");
 }
 
 bool LossesWindow::open(const QString& path) {
@@ -212,6 +225,11 @@ void LossesWindow::takeFacts() {
         if (*m_wanted < files.front().runs.count)
             m_state.setRun(files.front().runs.first + *m_wanted);
         m_wanted.reset();
+    }
+    if (!m_view.isEmpty() && !m_facts.isReading()) {
+        (void)m_state.goBackTo(m_view.mid(1)); // what is gone is not waited for
+        m_view.clear();
+        m_isOther = true; // gone back to, not taken from under the coach
     }
     showReading();
     showTitle();

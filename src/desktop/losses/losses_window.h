@@ -40,6 +40,10 @@ public:
     [[nodiscard]] bool open(const QString& path) override;
     [[nodiscard]] QStringList paths() const override { return m_facts.paths(); }
 
+    [[nodiscard]] QString shownView() const override;
+    /// Goes back to what shownView() told, as soon as it is read and if nothing else was chosen.
+    void showAgain(const QString& view);
+
     [[nodiscard]] WatchedFacts& facts() { return m_facts; }
     [[nodiscard]] LossState& state() { return m_state; }
     [[nodiscard]] LossHeader& header() const { return *m_header; }
@@ -92,6 +96,7 @@ private:
     LossState m_state;
     bool m_isOther = false; ///< other files were asked for: what they have not is not missed
     std::optional<std::size_t> m_wanted; ///< run of the first file that is to be shown
+    QStringList m_view;                  ///< to be gone back to
     LossHeader* m_header;
     QTabWidget* m_pages;
     QSplitter* m_films;

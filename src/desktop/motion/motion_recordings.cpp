@@ -3,6 +3,7 @@
 #include "boatmotion/session_files.h"
 #include "common/error.h"
 #include "desktop/motion/recording_conversion.h"
+#include "desktop/shell/file_names.h"
 
 #include <QFileInfo>
 
@@ -88,15 +89,16 @@ std::optional<std::size_t> MotionRecordings::indexOf(const MotionRecording* reco
 }
 
 bool MotionRecordings::isLoaded(const QString& path) const {
-    const std::filesystem::path wanted = QFileInfo(path).absoluteFilePath().toStdString();
-    return std::ranges::any_of(
-        m_all, [&](const Recording& recording) { return recording->data.url == wanted; });
+    return std::ranges::any_of(m_all, [&](const Recording& recording) {
+        return isSameFile(QString::fromStdString(recording->data.url.string()), path);
+    });
 }
 
 void MotionRecordings::read(const QStringList& paths) {
     for (const QString& given : paths) {
         const QString path = QFileInfo(given).absoluteFilePath();
-        if (isLoaded(path) || std::ranges::find(m_waiting, path) != m_waiting.end())
+        const auto isIt = [&](const QString& waiting) { return isSameFile(waiting, path); };
+        if (isLoaded(path) || std::ranges::any_of(m_waiting, isIt))
             continue;
         m_waiting.push_back(path);
         ++m_readCount;

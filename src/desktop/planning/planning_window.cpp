@@ -97,7 +97,7 @@ void PlanningWindow::makeParts() {
     rememberSizes(*whole, workspace(), "planningParts");
     setCentralWidget(whole);
     m_online = std::make_unique<OnlinePlanning>(*m_document, workspace(), *this,
-                                                [this] { return mayLeave(); });
+                                                [this](Left left) { whenLeft(std::move(left)); });
     m_handouts =
         std::make_unique<PlanningHandouts>(*m_document, *m_athletes, *m_plan, workspace(), *this);
 }

@@ -244,7 +244,8 @@ void RaceView::showTable() {
 /// coach has zoomed a chart.
 void RaceView::showRuns() {
     m_shownVersion = m_document.shownVersion();
-    m_charts->setRace(m_document.shownSet());
+    const RaceSet& shown = m_document.shownSet();
+    m_charts->setRace(shown, shown.alldata.size() < m_document.wholeSet().alldata.size());
     m_ideal->refresh();
     m_potential->refresh();
     m_motion->forget();

@@ -6,6 +6,7 @@
 #include "desktop/shell/workspace.h"
 #include "splitdata/loader.h"
 
+#include <QApplication>
 #include <QDialogButtonBox>
 #include <QDir>
 #include <QFileDialog>
@@ -37,7 +38,9 @@ OtherRace otherRace(RecognisedSplitFile read, const QString& path) {
     const std::string& name = info.title.empty() ? info.event : info.title;
     QString title = name.empty() ? QFileInfo(path).completeBaseName() : qtText(name);
     const ReferenceDate date = info.date;
-    return {std::move(title), date, makeRaceSet(std::move(read.document), path.toStdString())};
+    RaceTraits traits = traitsOf(read.document);
+    return {std::move(title), date, std::move(traits),
+            makeRaceSet(std::move(read.document), path.toStdString())};
 }
 
 /// The title, then day, number of runs and file: two races may be called the same.
@@ -93,6 +96,8 @@ RunChooser::RunChooser(Workspace& workspace, const QString& without, QWidget* pa
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     resize(800, 440);
     updateButtons();
+    m_own = without;
+    m_unread.append(without); // first: the others are held against it
     offerRaces(without);
     readNext();
 }
@@ -183,9 +188,28 @@ void RunChooser::readNext() {
             return {};
         },
         [this, path](const std::shared_ptr<OtherRace>& race) {
-            takeFacts(path, race ? std::optional(std::move(*race)) : std::nullopt);
+            std::optional<OtherRace> read;
+            if (race)
+                read = std::move(*race);
+            if (path == m_own)
+                takeOwn(read);
+            else
+                takeFacts(path, std::move(read));
             readNext();
         });
+}
+
+void RunChooser::takeOwn(const std::optional<OtherRace>& own) {
+    if (own)
+        m_traits = own->traits;
+}
+
+/// Nothing changes any more under the hands of who is at its runs already.
+bool RunChooser::isBetter(const OtherRace& race) const {
+    if (!m_race)
+        return true;
+    return !m_isChosen && !m_name->hasFocus() && !m_runs->hasFocus() &&
+           likeness(m_traits, race.traits) > likeness(m_traits, m_race->traits);
 }
 
 void RunChooser::takeFacts(const QString& path, std::optional<OtherRace> race) {
@@ -196,7 +220,7 @@ void RunChooser::takeFacts(const QString& path, std::optional<OtherRace> race) {
         return;
     }
     item->setText(factsOf(*race, path));
-    if (m_race)
+    if (!isBetter(*race))
         return;
     m_shown = path;
     takeRace(std::move(*race));
@@ -205,6 +229,10 @@ void RunChooser::takeFacts(const QString& path, std::optional<OtherRace> race) {
 
 void RunChooser::chooseRace(const QListWidgetItem* item) {
     if (item == nullptr || item->data(PathRole).toString() == m_shown)
+        return;
+    // The list chooses its first line by itself when it gets the focus.
+    const bool isByItself = !m_race && QApplication::mouseButtons() == Qt::NoButton;
+    if (isByItself && m_reading.isRunning())
         return;
     if (showRace(item->data(PathRole).toString()))
         return;
@@ -230,6 +258,7 @@ bool RunChooser::showRace(const QString& path) {
     if (!race)
         return false;
     m_shown = path;
+    m_isChosen = true;
     takeRace(std::move(*race));
     return true;
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "analysis/race_likeness.h"
 #include "analysis/race_set.h"
 #include "common/reference_date.h"
 #include "desktop/shell/background_work.h"
@@ -21,6 +22,7 @@ class Workspace;
 struct OtherRace {
     QString title;
     ReferenceDate date;
+    RaceTraits traits;
     RaceSet set;
 };
 
@@ -31,7 +33,8 @@ struct OtherRace {
 
 /// Finds one run of another race: the race first, of those in the folder of the open one, those
 /// recently opened, or of any file; then the run by a few letters. What the races are called, their
-/// day and number of runs are read beside the dialog, which is there at once.
+/// day and number of runs are read beside the dialog, which is there at once. The race that is most
+/// like the open one is proposed, until another one is chosen.
 class RunChooser : public QDialog {
     Q_OBJECT
 
@@ -52,8 +55,11 @@ private:
     void offerRaces(const QString& without);
     QListWidgetItem* offer(const QString& path);
     void readNext();
+    void takeOwn(const std::optional<OtherRace>& own);
     void takeFacts(const QString& path, std::optional<OtherRace> race);
     void takeRace(OtherRace race);
+    /// Whether it is to be shown in place of what is proposed so far.
+    [[nodiscard]] bool isBetter(const OtherRace& race) const;
     [[nodiscard]] QListWidgetItem* itemOf(const QString& path) const;
     void chooseRace(const QListWidgetItem* item);
     void chooseFile();
@@ -65,7 +71,10 @@ private:
     QLineEdit* m_name;
     QListWidget* m_runs;
     QWidget* m_take = nullptr;
-    QString m_shown; ///< path of the race whose runs are shown
+    QString m_own;           ///< path of the open race
+    QString m_shown;         ///< path of the race whose runs are shown
+    RaceTraits m_traits;     ///< of the open race
+    bool m_isChosen = false; ///< what is shown is not only proposed
     std::optional<OtherRace> m_race;
     QStringList m_unread;
     BackgroundWork m_reading; // last: what it brings needs all the rest

@@ -34,6 +34,8 @@ double roundLength(double longest) {
 
 /// A long session has thousands of fixes; a replay moves the cursor alone.
 void CourseMap::paintEvent(QPaintEvent* /*event*/) {
+    if (size().isEmpty())
+        return; // before the first layout, and there is nothing to paint on
     if (m_isStale) {
         m_picture = QPixmap(size() * devicePixelRatioF());
         m_picture.setDevicePixelRatio(devicePixelRatioF());

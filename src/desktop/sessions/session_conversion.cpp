@@ -7,6 +7,7 @@
 #include "desktop/shell/workspace.h"
 
 #include <QFileInfo>
+#include <QWidget>
 
 #include <utility>
 
@@ -18,16 +19,6 @@ EditedSession readSession(const QString& path) {
     const std::string file = path.toStdString();
     return isRecording(path) ? analysedSession(readRawSession(file), std::nullopt)
                              : editedSession(readSmartSession(file));
-}
-
-std::string reasonOf(const std::exception_ptr& fault) {
-    try {
-        std::rethrow_exception(fault);
-    } catch (const FileError& error) {
-        return error.reason();
-    } catch (const std::exception& error) {
-        return error.what();
-    }
 }
 
 bool isOlderRecording(const std::exception_ptr& fault) {
@@ -51,6 +42,12 @@ void SessionConversion::whenFree(std::function<void()> act) {
         m_next.push_back(std::move(act));
     else
         act();
+}
+
+void SessionConversion::release(const std::function<void()>& next) {
+    m_isHeld = false;
+    next();
+    goOn();
 }
 
 void SessionConversion::goOn() {
@@ -135,7 +132,7 @@ void SessionConversion::read(const QString& path,
 }
 
 void SessionConversion::tellUnreadable(const QString& path, const std::exception_ptr& fault) const {
-    const std::string reason = reasonOf(fault);
+    const std::string reason = causeOf(fault);
     const std::string name = QFileInfo(path).fileName().toStdString();
     const std::string title =
         isRecording(path)

@@ -30,9 +30,13 @@ public:
     using Failed = std::function<void(const std::exception_ptr& fault)>;
 
     /// Whether some work is under way: the session must not give way to another one then.
-    [[nodiscard]] bool isBusy() const { return m_work.isRunning(); }
+    [[nodiscard]] bool isBusy() const { return m_isHeld || m_work.isRunning(); }
     /// Does it now, or once the work under way is done; in this order.
     void whenFree(std::function<void()> act);
+    /// What is to be done when it is free waits, until it is released: the session is about to give
+    /// way. `next` is done before what waits, which goes on waiting where that begins some work.
+    void hold() { m_isHeld = true; }
+    void release(const std::function<void()>& next);
 
     /// Reads a recording (.kvb) or a processed file and gives all of it to `done`, with the path of
     /// the converted file where the recording was of version 4; `failed` follows an alert.
@@ -55,6 +59,7 @@ private:
     const Workspace& m_workspace;
     QWidget& m_over;
     std::deque<std::function<void()>> m_next; ///< to be done when the window is free
+    bool m_isHeld = false;
     BackgroundWork m_work;
 };
 

@@ -5,11 +5,15 @@
 #include "common/error.h"
 #include "common/safe_file.h"
 #include "desktop/sessions/session_document.h"
+#include "desktop/shell/background_work.h"
+#include "desktop/shell/disk_worker.h"
 #include "desktop/shell/workspace.h"
 
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
+
+#include <utility>
 
 namespace kavela::desktop {
 
@@ -19,7 +23,8 @@ SessionExports::SessionExports(const SessionDocument& document, const SessionTab
       m_tables(tables),
       m_workspace(workspace),
       m_over(over),
-      m_saved(std::move(saved)) {}
+      m_saved(std::move(saved)),
+      m_listener(std::make_unique<QObject>()) {}
 
 QString SessionExports::askWhereTo(const QString& title, const QString& filter,
                                    const QString& suffix, const QString& proposal) const {
@@ -43,21 +48,28 @@ void SessionExports::askAndSaveRecording(const QString& source) {
         saveRecording(path);
 }
 
-bool SessionExports::saveRecording(const QString& path) {
-    std::string reason;
-    try {
-        saveRawSession(recordingOf(m_document.value()), path.toStdString());
+void SessionExports::saveRecording(const QString& path, Written written) {
+    disk::run(
+        *m_listener,
+        [session = m_document.held(), file = path.toStdString()] {
+            saveRawSession(recordingOf(*session), file);
+        },
+        [this, path, written = std::move(written)](const std::exception_ptr& fault) {
+            noteRecording(path, fault);
+            if (written)
+                written(!fault);
+        });
+}
+
+void SessionExports::noteRecording(const QString& path, const std::exception_ptr& fault) const {
+    if (!fault) {
         m_saved(path);
-        return true;
-    } catch (const FileError& error) {
-        reason = error.reason();
-    } catch (const EncodeError& error) {
-        reason = error.what();
+        return;
     }
+    const std::string reason = causeOf(fault);
     m_workspace.log()(conversion_messages::NotSaved);
     m_workspace.log()(reason);
     m_workspace.showAlert({conversion_messages::NotSaved, reason}, &m_over);
-    return false;
 }
 
 void SessionExports::exportTable(SessionTables::Page page, const QString& path) const {

@@ -3,8 +3,11 @@
 #include "desktop/sessions/session_tables.h"
 
 #include <QCoreApplication>
+#include <QObject>
 
+#include <exception>
 #include <functional>
+#include <memory>
 
 class QWidget;
 
@@ -27,14 +30,17 @@ public:
     /// Writes what is left of the recording, with the information of the session; `source` is where
     /// it was imported from.
     void askAndSaveRecording(const QString& source);
-    /// False, after an alert, when it was not written.
-    bool saveRecording(const QString& path);
+    /// Hears whether it was written; told when it was not.
+    using Written = std::function<void(bool isWritten)>;
+    /// The recording is encoded and written while the window goes on.
+    void saveRecording(const QString& path, Written written = {});
 
     void askAndExport(SessionTables::Page page);
     /// Throws FileError.
     void exportTable(SessionTables::Page page, const QString& path) const;
 
 private:
+    void noteRecording(const QString& path, const std::exception_ptr& fault) const;
     [[nodiscard]] QString askWhereTo(const QString& title, const QString& filter,
                                      const QString& suffix, const QString& proposal) const;
 
@@ -43,6 +49,7 @@ private:
     const Workspace& m_workspace;
     QWidget& m_over;
     Saved m_saved;
+    std::unique_ptr<QObject> m_listener; ///< hears of what is written as long as this is here
 };
 
 } // namespace kavela::desktop

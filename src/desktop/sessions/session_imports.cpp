@@ -123,8 +123,17 @@ void SessionImports::takeIn(ImportedFile file) {
 
 /// It has no file yet: "Save the edited .kvb file" makes one.
 void SessionImports::showRecording(bmrawdata_v5 recording, const QString& path) {
-    if (!m_place.mayLeave())
-        return;
+    const auto held = std::make_shared<bmrawdata_v5>(std::move(recording));
+    m_conversion.hold(); // a track that comes with it is to join it, and not what is left for it
+    m_place.whenLeft([this, held, path](bool mayGo) {
+        m_conversion.release([&] {
+            if (mayGo)
+                analyse(std::move(*held), path);
+        });
+    });
+}
+
+void SessionImports::analyse(bmrawdata_v5 recording, const QString& path) {
     const QFileInfo list(path);
     m_conversion.analyse(
         std::move(recording), std::nullopt,

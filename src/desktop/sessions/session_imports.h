@@ -26,7 +26,8 @@ class SessionImports {
 public:
     /// A list of samples becomes a session of its own, in the place of the one that is shown.
     struct Place {
-        std::function<bool()> mayLeave; ///< whether what is shown may give way
+        /// Tells whether what is shown may give way, maybe once it is saved.
+        std::function<void(std::function<void(bool mayGo)> left)> whenLeft;
         /// Shows the session of a recording that is to be saved under the path.
         std::function<void(EditedSession session, const QString& recording)> show;
     };
@@ -68,6 +69,7 @@ private:
     void takeInEach(std::vector<ImportedFile> files);
     void takeIn(ImportedFile file);
     void showRecording(bmrawdata_v5 recording, const QString& path);
+    void analyse(bmrawdata_v5 recording, const QString& path);
     void join(ImportedTrack track);
     void joinTrack(bmrawdata_v5 recording, WatchTrack track, const QString& what);
     [[nodiscard]] std::optional<double> askForOffset(const bmrawdata_v5& recording,

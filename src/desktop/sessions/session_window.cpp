@@ -18,6 +18,7 @@
 #include "desktop/shell/workspace.h"
 
 #include <QDir>
+#include <QDragEnterEvent>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QMenu>
@@ -74,7 +75,7 @@ void SessionWindow::makeParts() {
         std::make_unique<SessionEdits>(*m_document, *m_view, *m_conversion, workspace(), *this);
     m_imports = std::make_unique<SessionImports>(
         *m_document, *m_edits, *m_conversion, workspace(), *this,
-        SessionImports::Place{[this] { return mayLeave(); },
+        SessionImports::Place{[this](Left left) { whenLeft(std::move(left)); },
                               [this](EditedSession session, const QString& recording) {
                                   begin(std::move(session), recording, proposedPath(recording));
                               }});
@@ -109,10 +110,22 @@ bool SessionWindow::open(const QString& path) {
 }
 
 void SessionWindow::openBeside(const QString& wanted, const Opened& opened) {
-    if (isBusy() || !mayLeave()) {
+    if (isBusy()) {
         opened(false);
         return;
     }
+    m_conversion->hold();
+    whenLeft([this, wanted, opened](bool mayGo) {
+        m_conversion->release([&] {
+            if (mayGo)
+                read(wanted, opened);
+            else
+                opened(false);
+        });
+    });
+}
+
+void SessionWindow::read(const QString& wanted, const Opened& opened) {
     m_conversion->read(
         wanted,
         [this, opened](EditedSession session, const QString& path) {
@@ -172,8 +185,6 @@ void SessionWindow::dropEvent(QDropEvent* event) {
 
 /// The kind of a file decides, not the side it fell on.
 void SessionWindow::takeFiles(const QStringList& paths) {
-    if (isBusy())
-        return;
     QStringList others;
     for (const QString& path : paths) {
         const QString suffix = QFileInfo(path).suffix().toLower();
@@ -182,7 +193,7 @@ void SessionWindow::takeFiles(const QStringList& paths) {
         else if (isImportable(path))
             m_conversion->whenFree([this, path] { m_imports->importFrom({path}); });
         else if (QStringList{"kvb", "sbm", "bms"}.contains(suffix) && paths.size() == 1)
-            (void)open(path); // told there
+            m_conversion->whenFree([this, path] { (void)open(path); }); // told there
         else
             others.append(path);
     }
@@ -252,13 +263,6 @@ void SessionWindow::wasSaved() {
                              FileToldMilliseconds);
 }
 
-bool SessionWindow::saveSessionTo(const QString& path) {
-    if (!mayWrite() || !m_document->saveAs(path, this))
-        return false;
-    wasSaved();
-    return true;
-}
-
 void SessionWindow::tellSaved(const QString& path) {
     workspace().log()(conversion_messages::Saved);
     statusBar()->showMessage(QString(conversion_messages::Saved) + ' ' +
@@ -272,7 +276,7 @@ void SessionWindow::saveSegments() {
         return;
     }
     m_view->tables().setCurrentIndex(SessionTables::SegmentPage);
-    save();
+    saveBeside();
 }
 
 void SessionWindow::removeCurrent() {

@@ -31,11 +31,11 @@ public:
 
     /// Begins to open a recording (.kvb), which is converted, or a processed session (.sbm, .bms):
     /// it is read beside the window, which is locked meanwhile. False when the window is at work
-    /// or keeps what it has.
+    /// or keeps what it has; true also where what it has is saved first.
     [[nodiscard]] bool open(const QString& path) override;
     /// The same; false is told, after an alert, when it cannot be opened. What was open then stays.
     void openBeside(const QString& path, const Opened& opened) override;
-    /// A file is being read or analysed.
+    /// A file is being read or analysed, or is to be once what is shown is saved.
     [[nodiscard]] bool isBusy() const { return m_conversion->isBusy(); }
     /// An empty window, for files to be dropped on; work that was kept for this path is offered.
     void startNew(const QString& path) override;
@@ -56,9 +56,6 @@ public:
     using AskPowerMeter = std::function<std::optional<bool>(const QString& question)>;
     /// Answers that in place of a message box, as in tests.
     void setAskPowerMeter(AskPowerMeter ask) { m_askPowerMeter = std::move(ask); }
-    /// Saves the session under a name, after what has to be asked or told before. False when it was
-    /// not saved.
-    bool saveSessionTo(const QString& path);
     /// Writes what is left of the recording that is open to a file that is asked for.
     void askAndSaveRecording();
     /// Saves the session with its segments; told when there are too few marks.
@@ -82,6 +79,7 @@ private:
     void makeParts();
     void connectParts();
     void showSession();
+    void read(const QString& wanted, const Opened& opened);
     void placeOverlay();
     /// The window shows this session from now on; `recording` is where its recording came from.
     void begin(EditedSession session, const QString& recording, const QString& path);

@@ -14,7 +14,6 @@
 
 #include <algorithm>
 #include <array>
-#include <atomic>
 #include <exception>
 #include <functional>
 #include <iterator>
@@ -85,6 +84,22 @@ void moveAside(const QString& slot, const QString& aside) {
             QFile::remove(aside + '/' + kept[i].chopped(5) + part);
 }
 
+std::vector<Autosave::Found> foundIn(const QString& folder, bool isGivenUp) {
+    std::vector<Autosave::Found> found;
+    for (const QString& name : QDir(folder).entryList({"*.work"}, QDir::Files, QDir::Time))
+        if (auto work = foundAt(folder + '/' + name.chopped(5), isGivenUp);
+            work && !work->label.path.isEmpty())
+            found.push_back(std::move(*work));
+    return found;
+}
+
+std::vector<Autosave::Found> earlierIn(const QString& folder) {
+    std::vector<Autosave::Found> found = foundIn(folder + Postponed, false);
+    std::ranges::move(foundIn(folder + GivenUp, true), std::back_inserter(found));
+    std::ranges::stable_sort(found, std::ranges::greater(), &Autosave::Found::when);
+    return found;
+}
+
 } // namespace
 
 /// The content stands in SLOT.work, its label beside it in files of their own. Work that was done
@@ -95,26 +110,15 @@ QString Autosave::slot(const QString& path) const {
     return m_folder + '/' + QString::fromLatin1(hash.toHex().left(16));
 }
 
-void Autosave::keep(const Label& label, Content content, QObject* context, Failed failed) const {
+void Autosave::keep(const Label& label, Content content, QObject* context, Kept kept) const {
     disk::run(
         *context,
         [slot = slot(label.path), label, content = std::move(content)] {
             write(slot, label, content);
         },
-        [failed = std::move(failed)](const std::exception_ptr& fault) {
-            if (fault)
-                failed(messageOf(fault));
+        [kept = std::move(kept)](const std::exception_ptr& fault) {
+            kept(fault ? messageOf(fault) : std::string());
         });
-}
-
-bool Autosave::isKept(const Label& label, Content content) const {
-    const auto isKept = std::make_shared<std::atomic<bool>>(false);
-    disk::run([slot = slot(label.path), label, content = std::move(content), isKept] {
-        write(slot, label, content);
-        *isKept = true;
-    });
-    disk::waitForAll();
-    return *isKept;
 }
 
 void Autosave::forget(const QString& path) const {
@@ -143,34 +147,43 @@ void Autosave::postpone(const QString& path) const {
     });
 }
 
-std::optional<Autosave::Found> Autosave::find(const QString& path) const {
+std::optional<Autosave::Found> Autosave::find(const QString& path, bool alsoPostponed) const {
     disk::waitForAll();
     const QString place = slot(path);
     const QString later = m_folder + Postponed + '/' + QFileInfo(place).fileName();
-    if (!QFile::exists(place + ".work") && QFile::exists(later + ".work"))
+    if (alsoPostponed && !QFile::exists(place + ".work") && QFile::exists(later + ".work"))
         move(later, place);
     return foundAt(place, false);
 }
 
-std::vector<Autosave::Found> Autosave::foundIn(const QString& folder, bool isGivenUp) const {
-    disk::waitForAll();
-    std::vector<Found> found;
-    for (const QString& name : QDir(folder).entryList({"*.work"}, QDir::Files, QDir::Time))
-        if (auto work = foundAt(folder + '/' + name.chopped(5), isGivenUp);
-            work && !work->label.path.isEmpty())
-            found.push_back(std::move(*work));
-    return found;
-}
-
 std::vector<Autosave::Found> Autosave::all() const {
+    disk::waitForAll();
     return foundIn(m_folder, false);
 }
 
 std::vector<Autosave::Found> Autosave::earlier() const {
-    std::vector<Found> found = foundIn(m_folder + Postponed, false);
-    std::ranges::move(foundIn(m_folder + GivenUp, true), std::back_inserter(found));
-    std::ranges::stable_sort(found, std::ranges::greater(), &Found::when);
-    return found;
+    disk::waitForAll();
+    return earlierIn(m_folder);
+}
+
+void Autosave::listEarlier(QObject& context, Listed listed) const {
+    const auto found = std::make_shared<std::vector<Found>>();
+    disk::run(
+        context, [folder = m_folder, found] { *found = earlierIn(folder); },
+        [found, listed = std::move(listed)](const std::exception_ptr&) { listed(*found); });
+}
+
+void Autosave::takeOver(const QString& folder) const {
+    for (const char* const part : {"", Postponed, GivenUp})
+        for (const QString& name : QDir(folder + part).entryList({"*.work"}, QDir::Files)) {
+            const QString slot = '/' + name.chopped(5);
+            if (QFile::exists(m_folder + part + slot + ".work"))
+                moveAside(folder + part + slot, m_folder + GivenUp);
+            else
+                move(folder + part + slot, m_folder + part + slot);
+        }
+    for (const char* const part : {Postponed, GivenUp})
+        QDir().rmdir(folder + part);
 }
 
 void Autosave::bringBack(const Found& earlier) const {

@@ -19,8 +19,8 @@ class Autosave {
 public:
     /// Makes the content of a document on another thread. May throw.
     using Content = std::function<std::string()>;
-    /// Tells on the interface thread why work could not be kept.
-    using Failed = std::function<void(const std::string& reason)>;
+    /// Tells on the interface thread why work could not be kept; an empty reason when it is kept.
+    using Kept = std::function<void(const std::string& fault)>;
 
     /// What stands beside kept work.
     struct Label {
@@ -41,10 +41,8 @@ public:
     /// `folder` is made when the first work is kept.
     explicit Autosave(QString folder) : m_folder(std::move(folder)) {}
 
-    /// Keeps the present content of a document. `failed` is called as long as `context` is there.
-    void keep(const Label& label, Content content, QObject* context, Failed failed) const;
-    /// The same, for whom the answer is needed now: whether it is kept.
-    [[nodiscard]] bool isKept(const Label& label, Content content) const;
+    /// Keeps the present content of a document. `kept` is called as long as `context` is there.
+    void keep(const Label& label, Content content, QObject* context, Kept kept) const;
     /// The work is saved: nothing is left to recover.
     void forget(const QString& path) const;
     /// The document was saved: what was postponed before is put aside too.
@@ -55,17 +53,22 @@ public:
     /// The coach does not want it now: it is offered again when the document is opened again.
     void postpone(const QString& path) const;
 
-    /// Also what was postponed.
-    [[nodiscard]] std::optional<Found> find(const QString& path) const;
+    /// Also what was postponed, unless that is not asked for.
+    [[nodiscard]] std::optional<Found> find(const QString& path, bool alsoPostponed = true) const;
     /// Neither what was postponed nor what was put aside.
     [[nodiscard]] std::vector<Found> all() const;
     /// What was postponed or put aside, the latest first.
     [[nodiscard]] std::vector<Found> earlier() const;
+    /// Tells the same beside the interface, without waiting, as long as `context` is there.
+    using Listed = std::function<void(const std::vector<Found>& works)>;
+    void listEarlier(QObject& context, Listed listed) const;
+    /// Takes over what is kept in another folder, at once; whose document has work here already, is
+    /// put aside.
+    void takeOver(const QString& folder) const;
     /// Earlier work is the unsaved work of its document again; what that had is put aside.
     void bringBack(const Found& earlier) const;
 
 private:
-    [[nodiscard]] std::vector<Found> foundIn(const QString& folder, bool isGivenUp) const;
     [[nodiscard]] QString slot(const QString& path) const;
 
     QString m_folder;

@@ -1,5 +1,7 @@
 #include "desktop/shell/background_work.h"
 
+#include "common/error.h"
+
 #include <QFutureWatcher>
 #include <QMetaObject>
 #include <QProgressBar>
@@ -166,6 +168,16 @@ std::exception_ptr faultOf(const std::function<void()>& task) {
 std::string messageOf(const std::exception_ptr& fault) {
     try {
         std::rethrow_exception(fault);
+    } catch (const std::exception& error) {
+        return error.what();
+    }
+}
+
+std::string causeOf(const std::exception_ptr& fault) {
+    try {
+        std::rethrow_exception(fault);
+    } catch (const FileError& error) {
+        return error.reason();
     } catch (const std::exception& error) {
         return error.what();
     }

@@ -44,6 +44,9 @@ private:
 /// What was thrown, in words.
 [[nodiscard]] std::string messageOf(const std::exception_ptr& fault);
 
+/// The same without the path of a file that the fault is about.
+[[nodiscard]] std::string causeOf(const std::exception_ptr& fault);
+
 /// How a piece of work ended: with what it threw, or null. What a piece that was cancelled brought
 /// or threw counts no more.
 struct WorkEnd {

@@ -16,6 +16,8 @@
 #include <QTemporaryDir>
 #include <QWidget>
 
+#include <algorithm>
+#include <iterator>
 #include <utility>
 #include <vector>
 
@@ -24,16 +26,6 @@ namespace kavela::desktop {
 namespace {
 
 constexpr int KeepAfterMilliseconds = 1000;
-
-std::string reasonOf(const std::exception_ptr& fault) {
-    try {
-        std::rethrow_exception(fault);
-    } catch (const FileError& error) {
-        return error.reason();
-    } catch (const std::exception& error) {
-        return error.what();
-    }
-}
 
 QString shownMoment(const QDateTime& moment) {
     const QDate today = QDate::currentDate();
@@ -55,8 +47,8 @@ struct EditedFile::Writing {
     FileStamp written;
     std::exception_ptr fault;
     std::exception_ptr besideFault;
-    bool isFinished = false;
-    std::vector<std::function<void()>> next; ///< asked for meanwhile
+    bool isLeft = false;     ///< the document is another one by now
+    std::vector<Saved> next; ///< asked for meanwhile
 };
 
 EditedFile::EditedFile(Workspace& workspace, Autosave autosave, QObject* parent)
@@ -81,8 +73,8 @@ bool EditedFile::isNamed() const {
 }
 
 void EditedFile::begin(const QString& path, QWidget* over) {
-    if (m_writing)
-        (void)waitFor(m_writing);
+    if (m_writing) // is still written, though it is no news of this document
+        std::exchange(m_writing, nullptr)->isLeft = true;
     m_keep.stop();
     m_path = QFileInfo(path).absoluteFilePath();
     m_isNamed = false;
@@ -115,8 +107,9 @@ void EditedFile::noticeDisk() {
         emit changedElsewhere();
 }
 
+/// What was put off is asked for once in each start of the program.
 void EditedFile::offerRecovery(QWidget* over) {
-    const auto work = m_autosave.find(m_path);
+    const auto work = m_autosave.find(m_path, !m_workspace.isPutOff(m_path));
     if (!work)
         return;
     m_workspace.log()(messages::AutosaveFound);
@@ -127,17 +120,18 @@ void EditedFile::offerRecovery(QWidget* over) {
         {facts.join(", ").toStdString(), messages::AskToLoadAutosave},
         {.texts = {tr("Load"), tr("Later"), tr("Discard")}, .onEnter = Load, .onEscape = Later},
         over);
-    if (way == Later)
+    if (way == Later) {
+        m_workspace.setPutOff(m_path, true);
         m_autosave.postpone(m_path);
-    else if (way == Load && recover(work->content))
+    } else if (way == Load && recover(work->content)) {
         m_undo.resetClean(); // dirty, and no undo makes it clean: its copy stays until it is saved
-    else
+    } else {
         m_autosave.putAside(m_path);
+    }
 }
 
-bool EditedFile::takeBack(const std::string& content, QWidget* over,
-                          const std::function<bool()>& save) {
-    if (!mayLeave(over, save) || !recover(content))
+bool EditedFile::takeBack(const std::string& content) {
+    if (!recover(content))
         return false;
     m_undo.clear();
     m_undo.resetClean();
@@ -179,8 +173,9 @@ void EditedFile::keepWork() {
         m_autosave.forget(m_path);
         return;
     }
-    m_autosave.keep(label(), keptContentNow(), this, [this](const std::string& reason) {
-        m_workspace.log()("The work could not be kept: " + reason);
+    m_autosave.keep(label(), keptContentNow(), this, [this](const std::string& fault) {
+        if (!fault.empty())
+            m_workspace.log()("The work could not be kept: " + fault);
     });
 }
 
@@ -197,11 +192,8 @@ void EditedFile::tellNotWritten(const std::string& reason, QWidget* over) const 
     m_workspace.showAlert({failure(), reason}, over);
 }
 
-bool EditedFile::written(const std::function<void()>& write, QWidget* over) const {
-    const std::exception_ptr fault = faultOf(write);
-    if (fault)
-        tellNotWritten(reasonOf(fault), over);
-    return !fault;
+void EditedFile::tellNotWritten(const std::exception_ptr& fault, QWidget* over) const {
+    tellNotWritten(causeOf(fault), over);
 }
 
 /// Where to write, which may be another place than was asked for; empty for nowhere.
@@ -253,10 +245,7 @@ QString EditedFile::otherPathToWrite(const QString& path, QWidget* over) {
 
 QString EditedFile::askForPath(QWidget* over) {
     const QString path = m_askPath ? m_askPath() : QString();
-    if (path.isEmpty())
-        return {};
-    return canonicalPath(path) == canonicalPath(m_path) ? ownPathToWrite(over)
-                                                        : otherPathToWrite(path, over);
+    return path.isEmpty() ? QString() : pathToWrite(path, over);
 }
 
 /// As a copy, which no window edits.
@@ -273,14 +262,13 @@ void EditedFile::showOther() {
 
 /// Where to write instead, after the reason was told; empty for nowhere. The work stays in the
 /// window, and is kept apart where that can be.
-QString EditedFile::askAfterFailure(const Writing& writing) {
-    const std::string reason = reasonOf(writing.fault);
+QString EditedFile::askAfterFailure(const Writing& writing, bool isKept) {
+    const std::string reason = causeOf(writing.fault);
     m_workspace.log()(failure());
     m_workspace.log()(reason);
     const QString comfort =
-        m_autosave.isKept(label(), keptContentNow())
-            ? tr("Your work is kept apart, and offered when the file is opened again.")
-            : tr("Your work is in this window alone: it could not be kept apart either.");
+        isKept ? tr("Your work is kept apart, and offered when the file is opened again.")
+               : tr("Your work is in this window alone: it could not be kept apart either.");
     const QString text =
         QStringLiteral("%1: %2.\n\n%3")
             .arg(QFileInfo(writing.path).fileName(), QString::fromStdString(reason), comfort);
@@ -309,8 +297,7 @@ bool EditedFile::keepOlderLayout(const QString& path, QWidget* over) {
     return false;
 }
 
-std::shared_ptr<EditedFile::Writing> EditedFile::write(const QString& path, QWidget* over,
-                                                       Saved saved) {
+void EditedFile::write(const QString& path, QWidget* over, Saved saved) {
     auto writing = std::make_shared<Writing>();
     writing->path = path;
     writing->edits = m_edits;
@@ -324,42 +311,62 @@ std::shared_ptr<EditedFile::Writing> EditedFile::write(const QString& path, QWid
         if (!writing->fault && beside)
             writing->besideFault = faultOf([&] { beside(file); });
     };
-    disk::run(*this, task,
-              [this, writing](const std::exception_ptr&) { (void)finish(*writing, false); });
+    disk::run(*this, task, [this, writing](const std::exception_ptr&) { finish(writing); });
     emit savingChanged();
-    return writing;
 }
 
-/// True when the file was written, maybe elsewhere. Who waited for it was here first.
-bool EditedFile::finish(Writing& writing, bool isWaitedFor) {
-    bool isSaved = !writing.fault;
-    if (writing.isFinished)
-        return isSaved;
-    writing.isFinished = true;
+/// What could not be written is kept apart before the coach is asked, who is told whether it is.
+void EditedFile::finish(const std::shared_ptr<Writing>& writing) {
+    if (writing->isLeft)
+        finishLeft(*writing);
+    else if (writing->fault)
+        m_autosave.keep(label(), keptContentNow(), this, [this, writing](const std::string& fault) {
+            if (writing->isLeft)
+                finishLeft(*writing);
+            else
+                goOnAfterFailure(*writing, fault.empty());
+        });
+    else
+        goOnAfterWriting(*writing);
+}
+
+/// Nobody waits for it but who asked for it.
+void EditedFile::finishLeft(Writing& writing) const {
+    if (writing.fault)
+        tellNotWritten(writing.fault, writing.over);
+    if (writing.saved)
+        writing.saved(!writing.fault);
+    for (const Saved& next : writing.next)
+        next(false);
+}
+
+void EditedFile::goOnAfterWriting(Writing& writing) {
     m_writing.reset();
-    if (isSaved)
-        noteWritten(writing);
+    noteWritten(writing);
     emit savingChanged();
-    const QPointer<QWidget> over = writing.over;
-    const QString again = isSaved ? QString() : askAfterFailure(writing);
     if (writing.besideFault)
-        tellNotWritten(reasonOf(writing.besideFault), over);
-    if (!again.isEmpty() && !isWaitedFor) {
-        saveAsBeside(again, over, std::move(writing.saved));
-    } else {
-        isSaved = isSaved || (!again.isEmpty() && saveAs(again, over));
-        if (writing.saved)
-            writing.saved(isSaved);
-    }
-    for (const auto& next : std::exchange(writing.next, {}))
-        next();
-    return isSaved;
+        tellNotWritten(writing.besideFault, writing.over);
+    if (writing.saved)
+        writing.saved(true);
+    for (const Saved& next : std::exchange(writing.next, {}))
+        next(true);
 }
 
-bool EditedFile::waitFor(const std::shared_ptr<Writing>& writing) {
-    const std::shared_ptr<Writing> held = writing;
-    disk::waitForAll();
-    return finish(*held, true);
+/// Who waits goes on waiting where it is written again.
+void EditedFile::goOnAfterFailure(Writing& writing, bool isKept) {
+    m_writing.reset();
+    emit savingChanged();
+    const QString again = askAfterFailure(writing, isKept);
+    if (!again.isEmpty())
+        saveAsBeside(again, writing.over, std::move(writing.saved));
+    else if (writing.saved)
+        writing.saved(false);
+    std::vector<Saved> next = std::exchange(writing.next, {});
+    if (m_writing)
+        std::ranges::move(next, std::back_inserter(m_writing->next));
+    else
+        for (const Saved& waiting : next)
+            waiting(false);
 }
 
 void EditedFile::noteWritten(const Writing& writing) {
@@ -378,42 +385,44 @@ void EditedFile::noteWritten(const Writing& writing) {
     emit saved();
 }
 
+/// What is being written may give the document another path: it is asked for afterwards.
 void EditedFile::saveBeside(QWidget* over, Saved saved) {
-    saveAsBeside(m_path, over, std::move(saved));
-}
-
-void EditedFile::saveAsBeside(const QString& path, QWidget* over, Saved saved) {
-    if (m_writing) {
-        m_writing->next.push_back([this, path, window = QPointer(over), saved = std::move(saved)] {
-            saveAsBeside(path, window, saved);
-        });
+    if (!m_writing) {
+        saveAsBeside(m_path, over, std::move(saved));
         return;
     }
-    if (const QString target = pathToWrite(path, over); !target.isEmpty())
-        (void)write(target, over, std::move(saved));
+    m_writing->next.push_back(
+        [this, window = QPointer(over), saved = std::move(saved)](bool isWritten) {
+            if (isWritten)
+                saveBeside(window, saved);
+            else if (saved)
+                saved(false); // the coach has just been told
+        });
+}
+
+/// Another place may be better than the one that could not be written.
+void EditedFile::saveAsBeside(const QString& path, QWidget* over, Saved saved) {
+    if (m_writing)
+        m_writing->next.push_back([this, path, window = QPointer(over), saved = std::move(saved)](
+                                      bool /*isWritten*/) { saveAsBeside(path, window, saved); });
+    else if (const QString target = pathToWrite(path, over); !target.isEmpty())
+        write(target, over, std::move(saved));
     else if (saved)
         saved(false);
 }
 
-bool EditedFile::save(QWidget* over) {
-    return saveAs(m_path, over);
-}
-
-bool EditedFile::saveAs(const QString& path, QWidget* over) {
-    if (m_writing)
-        (void)waitFor(m_writing);
-    const QString target = pathToWrite(path, over);
-    return !target.isEmpty() && waitFor(write(target, over, {}));
-}
-
-void EditedFile::whenWritten(std::function<void()> then) {
+void EditedFile::whenWritten(Saved then) {
     if (!m_writing) {
-        then();
+        then(true);
         return;
     }
-    // Where it was written again after a failure, that is waited for too.
-    m_writing->next.push_back(
-        [this, then = std::move(then)]() mutable { whenWritten(std::move(then)); });
+    // What was asked for before may have begun to be written by then.
+    m_writing->next.push_back([this, then = std::move(then)](bool isWritten) {
+        if (isWritten)
+            whenWritten(then);
+        else
+            then(false);
+    });
 }
 
 EditedFile::Leave EditedFile::askToLeave(QWidget* over) {
@@ -429,13 +438,6 @@ EditedFile::Leave EditedFile::askToLeave(QWidget* over) {
         break;
     }
     return Leave::Not;
-}
-
-bool EditedFile::mayLeave(QWidget* over, const std::function<bool()>& save) {
-    if (m_writing)
-        (void)waitFor(m_writing);
-    const Leave leave = askToLeave(over);
-    return leave == Leave::Now || (leave == Leave::AfterSaving && save() && mayLeaveSaved(over));
 }
 
 void EditedFile::discard() {

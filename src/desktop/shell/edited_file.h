@@ -22,7 +22,7 @@ class Workspace;
 
 /// A file that is being edited. Every edit can be undone, is kept apart from the file within a
 /// second, and reaches the file only when it is saved. Both are written beside the interface, which
-/// never waits for a disk but where work is left.
+/// goes on meanwhile.
 class EditedFile : public QObject {
     Q_OBJECT
 
@@ -51,26 +51,23 @@ public:
 
     /// Writes the file; asks before it replaces what another program wrote meanwhile, and tells
     /// when it cannot be written: the work then stays as it is, unsaved. The window goes on
-    /// meanwhile; what is edited after the call is not in the file.
+    /// meanwhile; what is edited after the call is not in the file. While something is being
+    /// written, it is written again afterwards, as it is then.
     void saveBeside(QWidget* over, Saved saved = {});
-    /// The same, for whom the answer is needed now. False when it was not written.
-    [[nodiscard]] bool save(QWidget* over);
     /// The same under another name, which the document has from then on. Refused where another
     /// window edits that file.
-    [[nodiscard]] bool saveAs(const QString& path, QWidget* over);
     void saveAsBeside(const QString& path, QWidget* over, Saved saved = {});
     [[nodiscard]] bool isSaving() const { return m_writing != nullptr; }
-    /// Calls once what is being written is written, or could not be.
-    void whenWritten(std::function<void()> then);
+    /// Calls once nothing is being written any more, at once where nothing is; false when it could
+    /// not be written.
+    void whenWritten(Saved then);
     /// Nothing was edited since it was written or read last.
     [[nodiscard]] bool isAsWritten() const { return m_edits == m_editsThen; }
 
-    /// Whether the document may give way to another one, or to none: asks what becomes of unsaved
-    /// work, and does it. `save` is how the window saves, which may have to ask for a name.
-    [[nodiscard]] bool mayLeave(QWidget* over, const std::function<bool()>& save);
     enum class Leave { Now, AfterSaving, Not };
-    /// The same without waiting, while nothing is being written. After saving, the rest is to be
-    /// asked with mayLeaveSaved().
+    /// Whether the document may give way to another one, or to none, while nothing is being
+    /// written: asks what becomes of unsaved work. Who is to save it does that, and asks for the
+    /// rest with mayLeaveSaved().
     [[nodiscard]] Leave askToLeave(QWidget* over);
     /// What is left to be asked once the work is in the file.
     [[nodiscard]] bool mayLeaveSaved(QWidget* over) { return mayLeaveMore(over); }
@@ -78,9 +75,9 @@ public:
     void discard();
     /// Keeps the work now, as before the program ends.
     void keepWork();
-    /// Goes on from earlier work; what is here and not saved is asked for. False when it stayed.
-    [[nodiscard]] bool takeBack(const std::string& content, QWidget* over,
-                                const std::function<bool()>& save);
+    /// Goes on from earlier work in place of what is here, which may be left. False when it is
+    /// none.
+    [[nodiscard]] bool takeBack(const std::string& content);
 
 signals:
     void changed();
@@ -125,8 +122,7 @@ protected:
     /// Tells that a file could not be opened, and why.
     void tellUnreadable(const QString& path, const std::string& reason, QWidget* over) const;
     void tellNotWritten(const std::string& reason, QWidget* over) const;
-    /// Writes something at once; false, after a message, when that failed.
-    [[nodiscard]] bool written(const std::function<void()>& write, QWidget* over) const;
+    void tellNotWritten(const std::exception_ptr& fault, QWidget* over) const;
 
     /// A document is open under a path that may not exist yet. Unsaved work is offered.
     void begin(const QString& path, QWidget* over);
@@ -142,16 +138,18 @@ private:
     /// A file that is being written.
     struct Writing;
 
-    [[nodiscard]] std::shared_ptr<Writing> write(const QString& path, QWidget* over, Saved saved);
+    void write(const QString& path, QWidget* over, Saved saved);
     [[nodiscard]] QString pathToWrite(const QString& path, QWidget* over);
     [[nodiscard]] QString ownPathToWrite(QWidget* over);
     [[nodiscard]] QString otherPathToWrite(const QString& path, QWidget* over);
     [[nodiscard]] QString askForPath(QWidget* over);
-    [[nodiscard]] QString askAfterFailure(const Writing& writing);
+    [[nodiscard]] QString askAfterFailure(const Writing& writing, bool isKept);
     void showOther();
     [[nodiscard]] bool keepOlderLayout(const QString& path, QWidget* over);
-    bool finish(Writing& writing, bool isWaitedFor);
-    [[nodiscard]] bool waitFor(const std::shared_ptr<Writing>& writing);
+    void finish(const std::shared_ptr<Writing>& writing);
+    void finishLeft(Writing& writing) const;
+    void goOnAfterWriting(Writing& writing);
+    void goOnAfterFailure(Writing& writing, bool isKept);
     void noteWritten(const Writing& writing);
     void offerRecovery(QWidget* over);
     [[nodiscard]] Autosave::Label label() const;

@@ -26,6 +26,8 @@ void openPalette(QMainWindow& window, Workspace& workspace, const std::function<
     Commands commands = menuCommands(window);
     for (Command& command : more())
         commands.push_back(std::move(command));
+    for (Command& command : workspace.programCommands())
+        commands.push_back(std::move(command));
     addRecentFiles(workspace, commands);
     auto* palette = new CommandPalette(std::move(commands), &window);
     palette->setAttribute(Qt::WA_DeleteOnClose);

@@ -20,6 +20,8 @@
 #include <QScrollArea>
 #include <QVBoxLayout>
 
+#include <cstddef>
+
 namespace kavela::desktop {
 
 namespace {
@@ -48,6 +50,7 @@ HomeWindow::HomeWindow(Workspace& workspace, const Tools& tools) : m_workspace(w
     column->addWidget(header());
     column->addWidget(tiles(tools));
     column->addSpacing(theme::Spacing);
+    column->addWidget(keptWork());
     column->addWidget(recentFiles(), 1);
     auto* area = new QScrollArea;
     area->setWidgetResizable(true);
@@ -57,8 +60,6 @@ HomeWindow::HomeWindow(Workspace& workspace, const Tools& tools) : m_workspace(w
     setCentralWidget(area);
     resize(1000, 680);
     rememberPlace(*this, workspace, "home");
-    for (const Tool& tool : tools)
-        m_more.push_back({tool.title, tr("Tools"), QString(), tool.open});
 
     connect(&m_workspace, &Workspace::recentFilesChanged, this, &HomeWindow::showRecentFiles);
     showRecentFiles();
@@ -72,7 +73,7 @@ void HomeWindow::makeMenus() {
     file->addAction(tr("Se&ttings…"), QKeySequence(Qt::CTRL | Qt::Key_Comma), this,
                     &HomeWindow::settingsRequested);
     file->addAction(tr("&Quit"), QKeySequence::Quit, this, [] { QCoreApplication::quit(); });
-    addHelpMenu(*this, m_workspace, "home", [this] { return m_more; });
+    addHelpMenu(*this, m_workspace, "home", [] { return Commands(); });
 }
 
 QWidget* HomeWindow::header() {
@@ -132,6 +133,35 @@ QWidget* HomeWindow::recentFiles() {
     column->addWidget(m_recent, 1);
     column->addStretch(0);
     return box;
+}
+
+/// Seen as long as there is any.
+QWidget* HomeWindow::keptWork() {
+    m_keptBox = new QWidget;
+    auto* const column = new QVBoxLayout(m_keptBox);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->addWidget(label(tr("Work kept"), theme::titleFont(*this)));
+    m_kept = new QListWidget;
+    m_kept->setObjectName("keptWork");
+    m_kept->setMaximumHeight(LeastRecentHeight);
+    connect(m_kept, &QListWidget::itemActivated, this, [this] {
+        const auto row = static_cast<std::size_t>(m_kept->currentRow());
+        if (row >= m_works.size())
+            return;
+        const auto bringBack = m_works[row].bringBack; // the list may be another one meanwhile
+        bringBack();
+    });
+    column->addWidget(m_kept);
+    m_keptBox->hide();
+    return m_keptBox;
+}
+
+void HomeWindow::showKeptWork(const std::vector<KeptWork>& works) {
+    m_works = works;
+    m_kept->clear();
+    for (const KeptWork& work : works)
+        (new QListWidgetItem(work.line, m_kept))->setToolTip(work.place);
+    m_keptBox->setVisible(!works.empty());
 }
 
 void HomeWindow::showRecentFiles() {

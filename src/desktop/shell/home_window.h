@@ -5,6 +5,9 @@
 
 #include <QMainWindow>
 
+#include <functional>
+#include <vector>
+
 class QLabel;
 class QListWidget;
 class QVBoxLayout;
@@ -21,6 +24,14 @@ class HomeWindow : public QMainWindow {
 public:
     HomeWindow(Workspace& workspace, const Tools& tools);
 
+    /// Work that is kept and in no document: a line for each, which brings it back.
+    struct KeptWork {
+        QString line;
+        QString place; ///< of its document
+        std::function<void()> bringBack;
+    };
+    void showKeptWork(const std::vector<KeptWork>& works);
+
 signals:
     void settingsRequested();
     void sampleRequested();
@@ -36,13 +47,16 @@ private:
     [[nodiscard]] QWidget* header();
     [[nodiscard]] QWidget* tiles(const Tools& tools);
     [[nodiscard]] QWidget* recentFiles();
+    [[nodiscard]] QWidget* keptWork();
     void showRecentFiles();
     void chooseFile();
 
     Workspace& m_workspace;
-    Commands m_more; ///< the tools, for the search
     QListWidget* m_recent = nullptr;
     QLabel* m_noRecent = nullptr;
+    QWidget* m_keptBox = nullptr;
+    QListWidget* m_kept = nullptr;
+    std::vector<KeptWork> m_works; ///< in the order of the list
 };
 
 } // namespace kavela::desktop

@@ -117,6 +117,34 @@ QRect fitted(const QRect& wanted, const QRect& area) {
     return inside;
 }
 
+QRect placeBeside(const QRect& wanted, const QList<QRect>& taken, const QRect& area) {
+    constexpr int Step = 32; // a title bar
+    QRect place = fitted(wanted, area);
+    const auto isTaken = [&](const QRect& at) {
+        return std::ranges::any_of(taken, [&](const QRect& other) {
+            return (other.topLeft() - at.topLeft()).manhattanLength() < Step / 2;
+        });
+    };
+    for (qsizetype tries = 0; tries <= taken.size() && isTaken(place); ++tries) {
+        const QRect next = place.translated(Step, Step);
+        place = area.contains(next) ? next : QRect(area.topLeft(), place.size());
+    }
+    return place;
+}
+
+void placeBeside(QWidget& window, const QList<QWidget*>& others) {
+    if (others.isEmpty() || window.isMaximized() || window.isFullScreen())
+        return;
+    QList<QRect> taken;
+    for (const QWidget* const other : others)
+        taken.append(other->geometry());
+    const QRect wanted = window.testAttribute(Qt::WA_Moved)
+                             ? window.geometry()
+                             : QRect(taken.constLast().topLeft(), window.size());
+    const QRect area = freeArea(window).marginsRemoved(frameOf(window));
+    window.setGeometry(placeBeside(wanted, taken, area));
+}
+
 QRect freeArea(const QWidget& window) {
     const QScreen* screen = QGuiApplication::screenAt(window.geometry().center());
     if (!screen || !window.testAttribute(Qt::WA_Moved))

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QList>
 #include <QObject>
 #include <QRect>
 
@@ -14,6 +15,13 @@ namespace kavela::desktop {
 
 /// What a window may cover of its screen: all but the bars of the desktop.
 [[nodiscard]] QRect freeArea(const QWidget& window);
+
+/// A place beside those that are taken: a step below and to the right of one that it would cover,
+/// from the top left again where that leaves the area, and always inside it.
+[[nodiscard]] QRect placeBeside(const QRect& wanted, const QList<QRect>& taken, const QRect& area);
+/// Gives a window that is not shown yet such a place on its screen, with its title bar. One that
+/// fills the screen stays as it is.
+void placeBeside(QWidget& window, const QList<QWidget*>& others);
 
 /// Keeps every window and dialog of the program on its screen, whatever size it asks for or was
 /// remembered with. Where what it holds cannot be made small enough, it scrolls.

@@ -124,7 +124,15 @@ void ToolWindow::noteChange() {
     m_note->show();
 }
 
+/// What is being written here comes first, and may be all that is to be done.
 void ToolWindow::openAgain() {
+    m_file->whenWritten([this](bool /*isWritten*/) {
+        if (!m_note->isHidden())
+            giveUpAndOpenAgain();
+    });
+}
+
+void ToolWindow::giveUpAndOpenAgain() {
     const bool isWanted =
         !m_file->isDirty() ||
         m_workspace.ask({"", tr("Opening “%1” again gives up what was not saved here.")
@@ -172,46 +180,65 @@ bool ToolWindow::commit() {
     return takeTyping(*this) && isTaken;
 }
 
-bool ToolWindow::noteSaved(bool isSaved) {
-    if (isSaved)
-        wasSaved();
-    return isSaved;
-}
-
-bool ToolWindow::save() {
-    if (m_file && !m_file->isNamed())
-        return saveAs();
-    return m_file && commit() && mayWrite() && noteSaved(m_file->save(this));
-}
-
-bool ToolWindow::saveAs() {
-    if (!m_file || !commit() || !mayWrite())
-        return false;
-    const QString path = chooseName();
-    return !path.isEmpty() && noteSaved(m_file->saveAs(path, this));
-}
-
+/// A document whose first name is being written needs no other one.
 void ToolWindow::saveBeside(Saved saved) {
-    if (!m_file->isNamed())
+    if (!m_file->isNamed() && !m_file->isSaving()) {
         saveAsBeside(std::move(saved));
-    else
-        writeBeside([this] { return m_file->path(); }, std::move(saved));
+        return;
+    }
+    writeBeside([this](Saved written) { m_file->saveBeside(this, std::move(written)); },
+                std::move(saved));
 }
 
 void ToolWindow::saveAsBeside(Saved saved) {
-    writeBeside([this] { return chooseName(); }, std::move(saved));
+    writeBeside(
+        [this](Saved written) {
+            if (const QString path = chooseName(); !path.isEmpty())
+                m_file->saveAsBeside(path, this, std::move(written));
+            else
+                written(false);
+        },
+        std::move(saved));
 }
 
-void ToolWindow::writeBeside(const std::function<QString()>& where, Saved saved) {
-    const QString path = commit() && mayWrite() ? where() : QString();
-    if (!path.isEmpty())
-        m_file->saveAsBeside(path, this, [this, saved = std::move(saved)](bool isSaved) {
-            noteSaved(isSaved);
-            if (saved)
-                saved(isSaved);
-        });
-    else if (saved)
-        saved(false);
+void ToolWindow::saveToBeside(const QString& path, Saved saved) {
+    writeBeside(
+        [this, path](Saved written) { m_file->saveAsBeside(path, this, std::move(written)); },
+        std::move(saved));
+}
+
+void ToolWindow::writeBeside(const std::function<void(Saved)>& write, Saved saved) {
+    const auto ended = [this, saved = std::move(saved)](bool isSaved) {
+        if (isSaved)
+            wasSaved();
+        if (saved)
+            saved(isSaved);
+    };
+    if (commit() && mayWrite())
+        write(ended);
+    else
+        ended(false);
+}
+
+/// Not from within what tells of the end of saving: the window may close in it.
+void ToolWindow::whenSaved(std::function<void()> then) {
+    if (!commit())
+        return;
+    if (!m_file->isDirty()) {
+        then();
+        return;
+    }
+    saveBeside([this, then = std::move(then)](bool isSaved) {
+        if (isSaved)
+            QMetaObject::invokeMethod(this, then, Qt::QueuedConnection);
+    });
+}
+
+void ToolWindow::takeBack(const std::string& content) {
+    whenLeft([this, content](bool mayGo) {
+        if (mayGo)
+            (void)m_file->takeBack(content);
+    });
 }
 
 QString ToolWindow::chooseName() {
@@ -222,9 +249,55 @@ QString ToolWindow::chooseName() {
     return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
 }
 
-bool ToolWindow::mayLeave() {
-    return !m_isClosing && commit() &&
-           (!m_file || m_file->mayLeave(this, [this] { return save(); }));
+/// What is being written, by a key or for it, is waited for: then it is asked again, for what was
+/// edited meanwhile. `isSavedForIt` says that the coach has answered, and that it was written.
+EditedFile::Leave ToolWindow::askToLeave(bool isSavedForIt, Waited waited) {
+    if (!commit())
+        return EditedFile::Leave::Not;
+    if (!m_file)
+        return EditedFile::Leave::Now;
+    // Not from within what tells of the file's end, which may go with the window.
+    const auto later = [this, waited = std::move(waited)](Wait wait) {
+        QMetaObject::invokeMethod(
+            this, [waited, wait] { waited(wait); }, Qt::QueuedConnection);
+    };
+    if (m_file->isSaving()) {
+        m_file->whenWritten(
+            [later](bool isWritten) { later(isWritten ? Wait::Written : Wait::Failed); });
+        return EditedFile::Leave::AfterSaving;
+    }
+    if (isSavedForIt && m_file->isAsWritten())
+        return m_file->mayLeaveSaved(this) ? EditedFile::Leave::Now : EditedFile::Leave::Not;
+    const EditedFile::Leave leave = m_file->askToLeave(this);
+    if (leave == EditedFile::Leave::AfterSaving)
+        saveBeside([later](bool isWritten) { later(isWritten ? Wait::SavedForIt : Wait::Failed); });
+    return leave;
+}
+
+void ToolWindow::whenLeft(Left left) {
+    leave(std::move(left), false);
+}
+
+/// No document takes the place of one that the window closes with.
+void ToolWindow::leave(Left left, bool isSavedForIt) {
+    if (m_isClosing) {
+        left(false);
+        return;
+    }
+    const EditedFile::Leave answer = askToLeave(isSavedForIt, [this, left](Wait wait) {
+        --m_leaving;
+        showWaiting();
+        if (wait == Wait::Failed)
+            left(false);
+        else
+            leave(left, wait == Wait::SavedForIt);
+    });
+    if (answer != EditedFile::Leave::AfterSaving) {
+        left(answer == EditedFile::Leave::Now);
+        return;
+    }
+    ++m_leaving;
+    showWaiting();
 }
 
 void ToolWindow::closeEvent(QCloseEvent* event) {
@@ -237,6 +310,8 @@ void ToolWindow::closeEvent(QCloseEvent* event) {
         emit closed();
         break;
     case EditedFile::Leave::AfterSaving: // told when it is written
+        m_isClosing = true;
+        showWaiting();
         break;
     case EditedFile::Leave::Not:
         emit stayed();
@@ -246,63 +321,45 @@ void ToolWindow::closeEvent(QCloseEvent* event) {
 
 /// A window that is not enabled is one that a piece of work is shown over.
 EditedFile::Leave ToolWindow::mayClose() {
-    const bool isSaved = std::exchange(m_isSavedForIt, false);
-    if (!isEnabled() || !commit())
+    const bool isSavedForIt = std::exchange(m_isSavedForIt, false);
+    if (!isEnabled())
         return EditedFile::Leave::Not;
-    if (!m_file)
-        return EditedFile::Leave::Now;
-    if (m_file->isSaving()) { // by a key: what is left after it is asked for
-        showClosing(true);
-        m_file->whenWritten([this] { closeLater(); });
-        return EditedFile::Leave::AfterSaving;
-    }
-    if (isSaved && m_file->isAsWritten())
-        return m_file->mayLeaveSaved(this) ? EditedFile::Leave::Now : EditedFile::Leave::Not;
-    const EditedFile::Leave leave = m_file->askToLeave(this);
-    if (leave == EditedFile::Leave::AfterSaving) {
-        showClosing(true);
-        saveBeside([this](bool isWritten) { closeAfter(isWritten); });
-    }
-    return leave;
+    return askToLeave(isSavedForIt, [this](Wait wait) { closeAfter(wait); });
 }
 
-/// Maybe from within mayClose(), where nothing was to be written.
-void ToolWindow::closeAfter(bool isSaved) {
-    m_isSavedForIt = isSaved;
-    if (isSaved) {
-        closeLater();
+void ToolWindow::closeAfter(Wait wait) {
+    m_isClosing = false;
+    showWaiting();
+    m_isSavedForIt = wait == Wait::SavedForIt;
+    if (wait == Wait::Failed)
+        emit stayed();
+    else
+        close();
+}
+
+/// What follows when the file is written is said above the window's parts.
+void ToolWindow::showWaiting() {
+    const bool isWaiting = m_isClosing || m_leaving > 0;
+    if (isWaiting && !m_waitingNote)
+        makeWaitingNote();
+    if (!m_waitingNote)
         return;
-    }
-    showClosing(false);
-    emit stayed();
+    if (isWaiting)
+        m_waitingText->setText(
+            m_isClosing ? tr("Saving… The window closes when the file is written.")
+                        : tr("Saving… What is to be opened follows when the file is written."));
+    m_waitingNote->setVisible(isWaiting);
 }
 
-/// Not from within what tells of the file's end, which goes with the window.
-void ToolWindow::closeLater() {
-    QMetaObject::invokeMethod(
-        this,
-        [this] {
-            showClosing(false);
-            close();
-        },
-        Qt::QueuedConnection);
-}
-
-void ToolWindow::showClosing(bool isClosing) {
-    m_isClosing = isClosing;
-    if (!isClosing && !m_closingNote)
-        return;
-    if (!m_closingNote) {
-        m_closingNote = new QToolBar;
-        m_closingNote->setObjectName("closingNote");
-        m_closingNote->setMovable(false);
-        m_closingNote->toggleViewAction()->setVisible(false);
-        auto* const text = new QLabel(tr("Saving… The window closes when the file is written."));
-        text->setMargin(theme::SmallSpacing);
-        m_closingNote->addWidget(text);
-        addToolBar(m_closingNote);
-    }
-    m_closingNote->setVisible(isClosing);
+void ToolWindow::makeWaitingNote() {
+    m_waitingText = new QLabel;
+    m_waitingText->setMargin(theme::SmallSpacing);
+    m_waitingNote = new QToolBar;
+    m_waitingNote->setObjectName("waitingNote");
+    m_waitingNote->setMovable(false);
+    m_waitingNote->toggleViewAction()->setVisible(false);
+    m_waitingNote->addWidget(m_waitingText);
+    addToolBar(m_waitingNote);
 }
 
 void ToolWindow::dragEnterEvent(QDragEnterEvent* event) {

@@ -6,6 +6,7 @@
 #include <QMainWindow>
 
 #include <functional>
+#include <string>
 
 class QLabel;
 class QMenu;
@@ -43,6 +44,8 @@ public:
     [[nodiscard]] const QString& kind() const { return m_name.kind; }
     /// The files that it shows.
     [[nodiscard]] virtual QStringList paths() const;
+    /// What it shows of them, for the next start; empty where that is what it opens with.
+    [[nodiscard]] virtual QString shownView() const { return {}; }
     /// Opens a file, in place of what is shown or beside it. False, after an alert, when it cannot
     /// be opened; what is shown then stays.
     [[nodiscard]] virtual bool open(const QString& path) = 0;
@@ -56,15 +59,19 @@ public:
     /// Takes over what is typed in every field and open cell of the window. False, with the cursor
     /// in the field, where one holds what cannot be taken: what was to be done is not done then.
     bool commit();
-    /// Saves what is shown, typing included; asks for a name where the document has none on the
-    /// disk yet. False when it was not written.
-    bool save();
-    bool saveAs();
     /// Hears how saving ended: at once where nothing was to be written.
     using Saved = std::function<void(bool isSaved)>;
-    /// Saves as a key does: the window goes on meanwhile.
+    /// Saves what is shown, typing included, while the window goes on; asks for a name where the
+    /// document has none on the disk yet.
     void saveBeside(Saved saved = {});
     void saveAsBeside(Saved saved = {});
+    /// The same under a name that was asked for already.
+    void saveToBeside(const QString& path, Saved saved = {});
+    /// Calls once what is here is in the file: at once where it is, else after saving. Nothing is
+    /// called where it could not be saved, which is told.
+    void whenSaved(std::function<void()> then);
+    /// Goes on from earlier work, once what is here may be left.
+    void takeBack(const std::string& content);
     /// Whether it was asked to close and stays only until its work is in the file.
     [[nodiscard]] bool isClosing() const { return m_isClosing; }
     void undo();
@@ -114,24 +121,32 @@ protected:
     /// What Close in the File menu closes.
     virtual void closeFront() { close(); }
 
-    /// Whether the document may give way to another one: what is typed is taken, and unsaved work
-    /// is asked for. No document takes the place of one that the window closes with.
-    [[nodiscard]] bool mayLeave();
+    /// Hears whether the document may give way to another one: at once, or once its work is in the
+    /// file. Nothing is being written then.
+    using Left = std::function<void(bool mayGo)>;
+    /// Takes over what is typed and asks for unsaved work; the window goes on while it is written.
+    void whenLeft(Left left);
     [[nodiscard]] Workspace& workspace() const { return m_workspace; }
 
 private:
+    /// How waiting for a file ended: it was written for what waits, or for another reason.
+    enum class Wait { SavedForIt, Written, Failed };
+    using Waited = std::function<void(Wait wait)>;
+
+    [[nodiscard]] EditedFile::Leave askToLeave(bool isSavedForIt, Waited waited);
+    void leave(Left left, bool isSavedForIt);
     [[nodiscard]] EditedFile::Leave mayClose();
-    void closeAfter(bool isSaved);
-    void closeLater();
-    void showClosing(bool isClosing);
-    void writeBeside(const std::function<QString()>& where, Saved saved);
+    void closeAfter(Wait wait);
+    void showWaiting();
+    void makeWaitingNote();
+    void writeBeside(const std::function<void(Saved)>& write, Saved saved);
     [[nodiscard]] QString chooseName();
-    bool noteSaved(bool isSaved);
     void chooseAndOpen();
     void showTitle();
     void makeNote();
     void noteChange();
     void openAgain();
+    void giveUpAndOpenAgain();
 
     Workspace& m_workspace;
     EditedFile* m_file;
@@ -139,7 +154,9 @@ private:
     QMenu* m_fileMenu = nullptr;
     QToolBar* m_note = nullptr;
     QLabel* m_noteText = nullptr;
-    QToolBar* m_closingNote = nullptr;
+    QToolBar* m_waitingNote = nullptr;
+    QLabel* m_waitingText = nullptr;
+    int m_leaving = 0;           ///< how much waits to take the place of what is being written
     bool m_isClosing = false;    ///< what is being written is waited for
     bool m_isSavedForIt = false; ///< it was written, and the window closes now
 };

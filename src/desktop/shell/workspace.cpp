@@ -1,6 +1,8 @@
 #include "desktop/shell/workspace.h"
 
 #include "desktop/shell/alert_boxes.h"
+#include "desktop/shell/command_palette.h"
+#include "desktop/shell/file_names.h"
 #include "preferences/start_up.h"
 
 #include <QMessageBox>
@@ -39,6 +41,21 @@ void Workspace::remember(const QString& key, const QStringList& values) {
     for (const QString& value : values)
         list.push_back(value.toStdString());
     m_preferences.set(key.toStdString(), list);
+}
+
+std::vector<Command> Workspace::programCommands() const {
+    return m_programCommands ? m_programCommands() : std::vector<Command>();
+}
+
+bool Workspace::isPutOff(const QString& path) const {
+    return m_putOff.contains(canonicalPath(path));
+}
+
+void Workspace::setPutOff(const QString& path, bool isPutOff) {
+    if (isPutOff)
+        m_putOff.insert(canonicalPath(path));
+    else
+        m_putOff.remove(canonicalPath(path));
 }
 
 QStringList Workspace::recentFiles() const {

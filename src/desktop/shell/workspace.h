@@ -7,14 +7,19 @@
 #include "preferences/preferences.h"
 
 #include <QObject>
+#include <QSet>
 #include <QStringList>
 
 #include <filesystem>
 #include <functional>
+#include <utility>
+#include <vector>
 
 class QWidget;
 
 namespace kavela::desktop {
+
+struct Command;
 
 /// What the windows share: preferences and their changes, the log, recent files, alerts.
 class Workspace : public QObject {
@@ -41,6 +46,16 @@ public:
     /// open files. Empty where nothing was remembered.
     [[nodiscard]] QStringList remembered(const QString& key) const;
     void remember(const QString& key, const QStringList& values);
+
+    /// What every window's search offers beside its own: the tools of the program.
+    using ProgramCommands = std::function<std::vector<Command>()>;
+    void setProgramCommands(ProgramCommands commands) { m_programCommands = std::move(commands); }
+    [[nodiscard]] std::vector<Command> programCommands() const;
+
+    /// Whether the work kept for a document was put off since the program started: it is not asked
+    /// for again before the next start.
+    [[nodiscard]] bool isPutOff(const QString& path) const;
+    void setPutOff(const QString& path, bool isPutOff);
 
     /// The files that are being edited.
     [[nodiscard]] OpenFiles& openFiles() { return m_openFiles; }
@@ -93,6 +108,8 @@ private:
     DiagnosticLog m_log;
     Clock m_clock;
     OpenFiles m_openFiles;
+    QSet<QString> m_putOff; ///< canonical paths
+    ProgramCommands m_programCommands;
     Alerts* m_alerts = nullptr;
     Answer m_answer;
     Choice m_choice;

@@ -3,6 +3,8 @@
 #include "common/json_encode.h"
 #include "common/record_equality.h"
 #include "common/safe_file.h"
+#include "desktop/shell/background_work.h"
+#include "desktop/shell/disk_worker.h"
 #include "desktop/shell/file_names.h"
 #include "desktop/shell/qt_text.h"
 #include "desktop/shell/workspace.h"
@@ -22,7 +24,7 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
-#include <QScopedValueRollback>
+#include <QPointer>
 #include <QStandardPaths>
 
 #include <algorithm>
@@ -90,12 +92,19 @@ bool TakingDocument::openCopy(const RecognisedSplitFile& older, const QString& f
     const QString copy =
         m_chooseCopy(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation) + '/' +
                      QFileInfo(file).completeBaseName() + ".kvx");
-    if (copy.isEmpty() ||
-        !written([&] { writeFileSafely(copy.toStdString(), encode(older.document)); }, over) ||
-        !openFile(copy, over))
+    if (copy.isEmpty() || !writeOlder(older, copy, over) || !openFile(copy, over))
         return false;
     (void)findFilms(QFileInfo(file).absolutePath()); // where they stay
     return true;
+}
+
+bool TakingDocument::writeOlder(const RecognisedSplitFile& older, const QString& copy,
+                                QWidget* over) const {
+    const std::exception_ptr fault =
+        faultOf([&] { writeFileSafely(copy.toStdString(), encode(older.document)); });
+    if (fault)
+        tellNotWritten(fault, over);
+    return !fault;
 }
 
 bool TakingDocument::recover(const std::string& content) {
@@ -388,8 +397,11 @@ TakingDocument::Content TakingDocument::keptContentNow() const {
 
 TakingDocument::Beside TakingDocument::besideNow() const {
     const Preferences& preferences = workspace().preferences();
-    const BesideFile lists = m_lists.value_or(
-        BesideFile{preferences.boolean("savetoCSV"), preferences.boolean("savetoPDF")});
+    return besideWith(m_lists.value_or(
+        BesideFile{preferences.boolean("savetoCSV"), preferences.boolean("savetoPDF")}));
+}
+
+TakingDocument::Beside TakingDocument::besideWith(const BesideFile& lists) const {
     return [state = shared(), now = workspace().clock()(), lists](const fs::path& file) {
         writeBeside(finishedDocument(*state, now, [](std::string_view) {}), file, lists);
     };
@@ -408,25 +420,48 @@ bool TakingDocument::mayWrite(QWidget* over) {
 }
 
 /// Who exports onto the document's own file saves it.
-bool TakingDocument::exportTo(const QString& file, const BesideFile& lists, QWidget* over) {
-    if (holdsNothing()) {
+void TakingDocument::exportTo(const QString& file, const BesideFile& lists, QWidget* over,
+                              Saved saved) {
+    const bool isAgreed = splitFileIn(QFileInfo(file).path()).isEmpty() || holdsNothing() ||
+                          workspace().ask({"", messages::AskToOverwrite}, tr("Overwrite"), over);
+    if (holdsNothing())
         workspace().showAlert({"", messages::NothingToExport}, over);
-        return false;
+    if (holdsNothing() || !isAgreed) {
+        if (saved)
+            saved(false);
+    } else if (canonicalPath(file) == canonicalPath(path())) {
+        saveWith(lists, over, std::move(saved));
+    } else {
+        writeCopy(file, lists, over, std::move(saved));
     }
-    if (!splitFileIn(QFileInfo(file).path()).isEmpty() &&
-        !workspace().ask({"", messages::AskToOverwrite}, tr("Overwrite"), over))
-        return false;
-    if (canonicalPath(file) == canonicalPath(path())) {
-        const QScopedValueRollback wanted(m_lists, std::optional(lists));
-        acceptDisk();
-        return save(over);
-    }
-    return written(
-        [&] {
-            writeFileSafely(file.toStdString(), contentNow()());
-            writeBeside(finished(), file.toStdString(), lists);
-        },
-        over);
+}
+
+/// Where it is written again after a failure, it is with these lists too.
+void TakingDocument::saveWith(const BesideFile& lists, QWidget* over, Saved saved) {
+    m_lists = lists;
+    acceptDisk();
+    saveBeside(over, [this, saved = std::move(saved)](bool isSaved) {
+        m_lists.reset();
+        if (saved)
+            saved(isSaved);
+    });
+}
+
+void TakingDocument::writeCopy(const QString& file, const BesideFile& lists, QWidget* over,
+                               Saved saved) {
+    const auto write = [file = fs::path(file.toStdString()), content = contentNow(),
+                        beside = besideWith(lists)] {
+        writeFileSafely(file, content());
+        beside(file);
+    };
+    disk::run(
+        *this, write,
+        [this, window = QPointer(over), saved = std::move(saved)](const std::exception_ptr& fault) {
+            if (fault)
+                tellNotWritten(fault, window);
+            if (saved)
+                saved(!fault);
+        });
 }
 
 QString TakingDocument::summary() const {

@@ -101,8 +101,9 @@ public:
     /// Recomputes the perfect time with its line in the log, as when a real time was entered.
     void logPerfectTime() const;
 
-    /// Writes the split file, and table and report where they are wanted, somewhere else.
-    [[nodiscard]] bool exportTo(const QString& file, const BesideFile& lists, QWidget* over);
+    /// Writes the split file, and table and report where they are wanted, somewhere else, while the
+    /// window goes on; what is edited after the call is not in it.
+    void exportTo(const QString& file, const BesideFile& lists, QWidget* over, Saved saved = {});
 
 protected:
     [[nodiscard]] QString summary() const override;
@@ -119,12 +120,17 @@ protected:
 private:
     [[nodiscard]] bool openCopy(const RecognisedSplitFile& older, const QString& file,
                                 QWidget* over);
+    [[nodiscard]] bool writeOlder(const RecognisedSplitFile& older, const QString& copy,
+                                  QWidget* over) const;
     [[nodiscard]] splittakerdata031 newDocument(const QString& folder) const;
     [[nodiscard]] std::vector<athletedata031> runsOf(const QStringList& films,
                                                      std::int64_t gates) const;
     [[nodiscard]] splittakerdata031 countedTimes() const;
     void put(const QString& what, TakingState after);
     [[nodiscard]] bool holdsNothing() const;
+    [[nodiscard]] Beside besideWith(const BesideFile& lists) const;
+    void saveWith(const BesideFile& lists, QWidget* over, Saved saved);
+    void writeCopy(const QString& file, const BesideFile& lists, QWidget* over, Saved saved);
 
     std::vector<double> m_expected;
     double m_perfect = 0;

@@ -106,7 +106,7 @@ void RaceExchange::exportData() {
     }
     ExportDialog dialog(m_workspace, m_document.path(), &m_window);
     if (dialog.exec() == QDialog::Accepted)
-        (void)m_document.exportTo(dialog.path(), {dialog.alsoCsv(), dialog.alsoPdf()}, &m_window);
+        m_document.exportTo(dialog.path(), {dialog.alsoCsv(), dialog.alsoPdf()}, &m_window);
 }
 
 /// The films of the folder that carry the name become a file of their own.

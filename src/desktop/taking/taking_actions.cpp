@@ -67,13 +67,8 @@ void TakingActions::makeFileMenu() {
             emit m_window.analysisRequested();
     });
     add(*menu, tr("Kayak &cross of this race"), {keys(Qt::CTRL | Qt::SHIFT | Qt::Key_R)}, [this] {
-        if (savedIfDirty())
-            emit m_window.crossRequested(m_window.document().path());
+        m_window.whenSaved([this] { emit m_window.crossRequested(m_window.document().path()); });
     });
-}
-
-bool TakingActions::savedIfDirty() {
-    return m_window.commit() && (!m_window.document().isDirty() || m_window.save());
 }
 
 void TakingActions::chooseFolder() {

@@ -36,7 +36,6 @@ private:
     QAction* add(QMenu& menu, const QString& text, const QList<QKeySequence>& keys, Act act);
     [[nodiscard]] Commands athletes() const;
     void chooseFolder();
-    [[nodiscard]] bool savedIfDirty();
 
     TakingWindow& m_window;
     Workspace& m_workspace;

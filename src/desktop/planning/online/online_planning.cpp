@@ -56,11 +56,11 @@ bool isName(const QString& text) {
 } // namespace
 
 OnlinePlanning::OnlinePlanning(PlanningDocument& document, Workspace& workspace, ToolWindow& window,
-                               MayLeave mayLeave)
+                               WhenLeft whenLeft)
     : m_document(document),
       m_workspace(workspace),
       m_window(window),
-      m_mayLeave(std::move(mayLeave)),
+      m_whenLeft(std::move(whenLeft)),
       m_states(workspace) {
     connect(&m_document, &EditedFile::saved, this,
             [this] { m_states.keepWith(m_document.path()); });
@@ -176,24 +176,37 @@ void OnlinePlanning::load(const OnlineAddress& address, const QString& entry) {
     m_window.statusBar()->showMessage(planning_messages::ImportingOnline);
     m_store.get(address, entry + ".planning", [=, this](const OnlineAnswer& answer) {
         m_window.statusBar()->clearMessage();
-        const QString folder = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
         QString fault = answer.isThere ? answer.reason : tr("The server has no such file.");
         if (fault.isEmpty() && !m_document.isPlanning(answer.content.toStdString()))
             fault = tr("What the server has is no planning.");
-        if (fault.isEmpty() && m_mayLeave() &&
-            showCopy(answer.content, folder + '/' + entry + ".planning")) {
-            m_states.set(placeOf(address, entry), OnlineState::of(answer.mark, answer.content));
-            emit loaded(true);
+        if (!fault.isEmpty()) {
+            tellNotOpened(fault);
             return;
         }
-        emit loaded(false);
-        if (fault.isEmpty())
-            return; // the work in front stays
-        m_workspace.log()("The online planning was not opened: " + fault.toStdString());
-        m_workspace.showAlert(
-            {tr("The online planning could not be opened.").toStdString(), fault.toStdString()},
-            &m_window);
+        m_whenLeft([=, this](bool mayGo) {
+            if (mayGo)
+                showLoaded(answer, placeOf(address, entry), entry);
+            else
+                emit loaded(false); // the work in front stays
+        });
     });
+}
+
+void OnlinePlanning::showLoaded(const OnlineAnswer& answer, const QUrl& place,
+                                const QString& entry) {
+    const QString folder = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    const bool isShown = showCopy(answer.content, folder + '/' + entry + ".planning");
+    if (isShown)
+        m_states.set(place, OnlineState::of(answer.mark, answer.content));
+    emit loaded(isShown);
+}
+
+void OnlinePlanning::tellNotOpened(const QString& reason) {
+    emit loaded(false);
+    m_workspace.log()("The online planning was not opened: " + reason.toStdString());
+    m_workspace.showAlert(
+        {tr("The online planning could not be opened.").toStdString(), reason.toStdString()},
+        &m_window);
 }
 
 void OnlinePlanning::askToLoad() {

@@ -17,11 +17,11 @@ class OnlinePlanning : public QObject {
     Q_OBJECT
 
 public:
-    /// Whether what is shown may give way to another planning.
-    using MayLeave = std::function<bool()>;
+    /// Tells whether what is shown may give way to another planning, maybe once it is saved.
+    using WhenLeft = std::function<void(std::function<void(bool mayGo)> left)>;
 
     OnlinePlanning(PlanningDocument& document, Workspace& workspace, ToolWindow& window,
-                   MayLeave mayLeave);
+                   WhenLeft whenLeft);
 
     /// Puts the planning and its access record into the store under the entry's name. Asks before
     /// it replaces what somebody else put there.
@@ -46,6 +46,8 @@ signals:
 
 private:
     void tellFault(const QString& reason);
+    void tellNotOpened(const QString& reason);
+    void showLoaded(const OnlineAnswer& answer, const QUrl& place, const QString& entry);
     void chooseForChanged(OnlineSaving& saving, const OnlineAddress& address, const QString& entry,
                           const QByteArray& there);
     void saveUnderAnotherName(const OnlineAddress& address, const QString& entry);
@@ -53,7 +55,7 @@ private:
     PlanningDocument& m_document;
     Workspace& m_workspace;
     ToolWindow& m_window;
-    MayLeave m_mayLeave;
+    WhenLeft m_whenLeft;
     OnlineStore m_store;
     OnlineStates m_states;
 };

@@ -354,13 +354,24 @@ void ColumnTable::paintEvent(QPaintEvent* event) {
 
 void ColumnTable::contextMenuEvent(QContextMenuEvent* event) {
     QMenu menu(this);
+    fillMenu(menu);
+    menu.exec(event->globalPos());
+}
+
+/// A command of the table may have the key for copying: what is selected has none then.
+void ColumnTable::fillMenu(QMenu& menu) {
     menu.addActions(actions());
     menu.addSeparator();
     QAction* const copying = menu.addAction(tr("&Copy"), this, &ColumnTable::copy);
-    copying->setShortcut(QKeySequence::Copy);
+    const auto copies = [](const QAction* action) {
+        return action->shortcut() == QKeySequence(QKeySequence::Copy);
+    };
+    if (std::ranges::none_of(actions(), copies))
+        copying->setShortcut(QKeySequence::Copy);
+    else
+        copying->setText(tr("&Copy what is selected"));
     menu.addAction(tr("&Save as CSV…"), this, &ColumnTable::saveCsv);
     m_columns->fill(*menu.addMenu(tr("C&olumns")));
-    menu.exec(event->globalPos());
 }
 
 void ColumnTable::remember(Workspace& workspace, const QString& key) {

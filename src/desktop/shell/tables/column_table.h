@@ -53,6 +53,8 @@ public:
                        std::function<void(const std::vector<int>& places)> remove);
     /// Another action for the menu, with its shortcut while the table has the focus.
     QAction& addCommand(const QString& text, const QKeySequence& keys, std::function<void()> act);
+    /// What a click with the right button offers.
+    void fillMenu(QMenu& menu);
 
     /// The current row; -1 for none.
     [[nodiscard]] int currentPlace() const;

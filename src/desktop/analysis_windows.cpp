@@ -1,0 +1,183 @@
+#include "desktop/analysis_windows.h"
+
+#include "desktop/desktop.h"
+#include "desktop/find/find_window.h"
+#include "desktop/losses/losses_window.h"
+#include "desktop/penalties/penalties_window.h"
+#include "desktop/race/race_view.h"
+#include "desktop/race/race_window.h"
+#include "desktop/shell/bring_to_front.h"
+#include "desktop/shell/file_names.h"
+#include "desktop/shell/workspace.h"
+#include "desktop/splitfile/taking_document.h"
+
+#include <QFileDialog>
+#include <QFileInfo>
+
+#include <algorithm>
+
+namespace kavela::desktop {
+
+AnalysisWindows::AnalysisWindows(Desktop& program, Workspace& workspace)
+    : m_program(program), m_workspace(workspace) {}
+
+RaceWindow* AnalysisWindows::makeRaceWindow() {
+    auto* window = new RaceWindow(m_workspace);
+    QObject::connect(
+        window, &RaceWindow::openRequested, &m_program,
+        [this, window](const QStringList& files) { m_program.openAll(files, window); });
+    QObject::connect(window, &RaceWindow::takingRequested, &m_program, &Desktop::openTaking);
+    QObject::connect(window, &RaceWindow::momentRequested, &m_program, &Desktop::showMoment);
+    QObject::connect(window, &RaceWindow::penaltiesRequested, &m_program, &Desktop::openPenalties);
+    QObject::connect(window, &RaceWindow::lossesRequested, &m_program, &Desktop::openLosses);
+    QObject::connect(window, &RaceWindow::viewsChanged, &m_program, &Desktop::rememberSession);
+    return window;
+}
+
+RaceWindow* AnalysisWindows::windowOfRace(const QString& path) const {
+    for (RaceWindow* const window : m_program.windowsOf<RaceWindow>())
+        for (const QString& shown : window->paths())
+            if (isSameFile(shown, path))
+                return window;
+    return nullptr;
+}
+
+/// A race that a window shows already comes to the front there.
+QStringList AnalysisWindows::notShownAmong(const QStringList& races) {
+    QStringList others;
+    for (const QString& path : races) {
+        RaceWindow* const window = windowOfRace(path);
+        if (!window) {
+            others.append(path);
+            continue;
+        }
+        (void)window->open(path); // shows it
+        bringToFront(*window);
+    }
+    return others;
+}
+
+void AnalysisWindows::openRaces(const QStringList& races, RaceWindow* into) {
+    const QStringList paths = notShownAmong(races);
+    if (paths.isEmpty())
+        return;
+    RaceWindow* const window = into ? into : makeRaceWindow();
+    for (const QString& path : paths)
+        if (!window->open(path))
+            m_workspace.forgetRecentFile(path);
+    if (window->views().empty()) {
+        delete window;
+        return;
+    }
+    if (into)
+        m_program.rememberSession();
+    else
+        m_program.show(window);
+}
+
+void AnalysisWindows::openFind(const QStringList& paths) {
+    FindWindow* window = m_program.windowsOf<FindWindow>().value(0);
+    if (!window) {
+        window = new FindWindow(m_workspace);
+        QObject::connect(window, &FindWindow::pathsChanged, &m_program, &Desktop::rememberSession);
+        QObject::connect(window, &FindWindow::lossesRequested, &m_program,
+                         [this](const QString& path, std::size_t run) { openLosses({path}, run); });
+        m_program.show(window);
+    }
+    bringToFront(*window);
+    window->searchAlso(paths);
+}
+
+void AnalysisWindows::openPenalties(const QStringList& paths) {
+    if (paths.isEmpty())
+        return;
+    for (PenaltiesWindow* const window : m_program.windowsOf<PenaltiesWindow>())
+        if (window->paths() == paths) {
+            bringToFront(*window);
+            return;
+        }
+    auto* window = new PenaltiesWindow(m_workspace);
+    window->setPaths(paths);
+    QObject::connect(window, &PenaltiesWindow::pathsChanged, &m_program, &Desktop::rememberSession);
+    m_program.show(window);
+}
+
+LossesWindow& AnalysisWindows::lossesWindow(const QStringList& paths) {
+    for (LossesWindow* const window : m_program.windowsOf<LossesWindow>())
+        if (window->paths() == paths) {
+            bringToFront(*window);
+            return *window;
+        }
+    auto* const window = new LossesWindow(m_workspace);
+    QObject::connect(window, &LossesWindow::pathsChanged, &m_program, &Desktop::rememberSession);
+    return *window;
+}
+
+void AnalysisWindows::openLosses(const QStringList& paths, std::optional<std::size_t> run) {
+    if (paths.isEmpty())
+        return;
+    LossesWindow& window = lossesWindow(paths);
+    if (window.paths() != paths || run)
+        window.setPaths(paths, run);
+    if (!window.isVisible())
+        m_program.show(&window);
+}
+
+void AnalysisWindows::showLossesAgain(const QStringList& paths, const QString& view) {
+    if (paths.isEmpty())
+        return;
+    auto* const window = new LossesWindow(m_workspace);
+    QObject::connect(window, &LossesWindow::pathsChanged, &m_program, &Desktop::rememberSession);
+    window->setPaths(paths);
+    window->showAgain(view);
+    m_program.show(window);
+}
+
+void AnalysisWindows::openSeasonLosses(const QStringList& paths, const QString& athlete) {
+    if (paths.isEmpty())
+        return;
+    openLosses(paths, std::nullopt);
+    lossesWindow(paths).showSeasonOf(athlete);
+}
+
+/// A team does not know where its races are: the answer is remembered.
+void AnalysisWindows::askForSeasonLosses(const QString& athlete, const QString& teamFile) {
+    constexpr const char* FolderKey = "losses/folder";
+    const QString before = m_workspace.remembered(FolderKey).value(0);
+    const QString folder = QFileDialog::getExistingDirectory(
+        m_program.front(), Desktop::tr("The folder with the races of %1").arg(athlete),
+        QFileInfo::exists(before) ? before : QFileInfo(teamFile).absolutePath());
+    if (folder.isEmpty())
+        return;
+    m_workspace.remember(FolderKey, {folder});
+    openSeasonLosses({folder}, athlete);
+}
+
+/// In the window that shows its file already.
+void AnalysisWindows::showEdited(const TakingDocument& document) {
+    RaceWindow* const shown = windowOfRace(document.path());
+    RaceWindow* const window = shown ? shown : makeRaceWindow();
+    const auto isIt = [&](const QString& path) { return isSameFile(path, document.path()); };
+    const QStringList paths = window->paths();
+    const auto known = std::ranges::find_if(paths, isIt);
+    window->showRace(document.finished(), known == paths.end() ? document.path() : *known,
+                     document.isDirty()
+                         ? Desktop::tr("As it is in split taking now. The file does not hold all "
+                                       "of it yet.")
+                         : QString());
+    if (shown)
+        m_program.rememberSession();
+    else
+        m_program.show(window);
+    bringToFront(*window);
+}
+
+const RaceSet* AnalysisWindows::shownRace(const QString& path) const {
+    for (const RaceWindow* const window : m_program.windowsOf<RaceWindow>())
+        for (const RaceView* const view : window->views())
+            if (view->document().path() == path)
+                return &view->document().wholeSet();
+    return nullptr;
+}
+
+} // namespace kavela::desktop
