@@ -100,8 +100,8 @@ std::optional<Benchmark> benchmarkOf(const SeasonData& data, const FactStore& fa
 }
 
 std::size_t wouldHaveReached(const Benchmark& benchmark, double percent) {
-    return static_cast<std::size_t>(std::ranges::count_if(
-        benchmark.values, [&](double value) { return percent <= value; }));
+    return static_cast<std::size_t>(
+        std::ranges::count_if(benchmark.values, [&](double value) { return percent <= value; }));
 }
 
 const Benchmark* benchmarkAt(std::span<const Benchmark> all, std::string_view phase,

@@ -39,8 +39,7 @@ std::optional<double> changeIn(const RaceResult& race, RacePair pair) {
         phaseOf(race, pair == RacePair::SemifinalToFinal ? "Semifinal" : "Heats 1");
     if (!earlier && pair == RacePair::HeatsToFinal)
         earlier = phaseOf(race, "Heats 2");
-    const PhaseResult* const later =
-        phaseOf(race, pair == RacePair::Heats ? "Heats 2" : "Final");
+    const PhaseResult* const later = phaseOf(race, pair == RacePair::Heats ? "Heats 2" : "Final");
     if (!earlier || !later)
         return std::nullopt;
     const auto before = comparedOf(*earlier, pair);
@@ -135,8 +134,7 @@ std::optional<RateOf> raceRate(const SeasonMember& member, RaceRate rate, Why* w
                                   rate == RaceRate::Medals ? "final position not known"
                                                            : "no phase entered"));
         why->uncertain(found->interval, "90 %, Wilson");
-        why->result(ruleOf(ruleOfRate(rate)), found->rate,
-                    fmt::format("{} of {}", reached, of));
+        why->result(ruleOf(ruleOfRate(rate)), found->rate, fmt::format("{} of {}", reached, of));
     }
     return found;
 }

@@ -35,16 +35,12 @@ Season seasonOf(SeasonData data, std::span<const std::size_t> field) {
     season.spread = seasonSpread(data);
     for (std::size_t i = 0; i < data.members.size(); ++i) {
         const SeasonMember& member = data.members[i];
-        season.athletes.push_back({i, raceRate(member, RaceRate::Medals),
-                                   raceRate(member, RaceRate::Finals),
-                                   raceRate(member, RaceRate::Semifinals),
-                                   boatSpread(data, season.spread, member.boat),
-                                   seasonTrend(member, TrendOf::Winner),
-                                   seasonTrend(member, TrendOf::Splits),
-                                   pairChange(member, RacePair::Heats),
-                                   pairChange(member, RacePair::SemifinalToFinal),
-                                   pairChange(member, RacePair::HeatsToFinal),
-                                   headToHeads(data, member.boat)});
+        season.athletes.push_back(
+            {i, raceRate(member, RaceRate::Medals), raceRate(member, RaceRate::Finals),
+             raceRate(member, RaceRate::Semifinals), boatSpread(data, season.spread, member.boat),
+             seasonTrend(member, TrendOf::Winner), seasonTrend(member, TrendOf::Splits),
+             pairChange(member, RacePair::Heats), pairChange(member, RacePair::SemifinalToFinal),
+             pairChange(member, RacePair::HeatsToFinal), headToHeads(data, member.boat)});
     }
     season.benchmarks = benchmarks(data);
     season.places = seasonPlaces(data, season.spread, field);
@@ -66,13 +62,13 @@ std::optional<double> medianPercent(const SeasonMember& member, std::string_view
 std::vector<std::string> SeasonFigures::lines() const {
     std::vector<std::string> lines;
     if (percent)
-        lines.push_back(fmt::format("{:.1f} % behind the winner, {} (median of {})", *percent,
-                                    phase, runs));
+        lines.push_back(
+            fmt::format("{:.1f} % behind the winner, {} (median of {})", *percent, phase, runs));
     if (spread)
         lines.push_back(fmt::format("within {:.1f} % from run to run", *spread));
     if (trend.perYear)
-        lines.push_back(fmt::format("trend {:+.1f} % a year: {}", *trend.perYear,
-                                    verdictText(trend.verdict)));
+        lines.push_back(
+            fmt::format("trend {:+.1f} % a year: {}", *trend.perYear, verdictText(trend.verdict)));
     if (medals)
         lines.push_back(rateLine("medals", *medals));
     if (finals)
@@ -102,8 +98,7 @@ SeasonFigures seasonFigures(const SeasonData& data, const SeasonSpread& spread,
 
 SeasonFigures seasonFigures(const myTeamToSaveStruct& team, std::string_view athlete,
                             std::string_view category) {
-    const SeasonData data =
-        seasonData(team, FactStore(), {.category = std::string(category)});
+    const SeasonData data = seasonData(team, FactStore(), {.category = std::string(category)});
     const auto member = data.memberNamed(athlete);
     if (!member)
         return {};

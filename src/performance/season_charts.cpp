@@ -57,9 +57,8 @@ ProgressionChart progressionChart(const Season& season, std::size_t athlete) {
             if (phase.percent)
                 chart.points.push_back({race, i, phase.date, *phase.percent, phase.isMissed});
         }
-    std::ranges::stable_sort(chart.points, {}, [](const ProgressionPoint& point) {
-        return point.date.seconds;
-    });
+    std::ranges::stable_sort(chart.points, {},
+                             [](const ProgressionPoint& point) { return point.date.seconds; });
     if (const Benchmark* const medal = benchmarkAt(season.benchmarks, LastPhase, MedalRank))
         chart.medalLine = medal->median;
     chart.sentence = chart.points.empty()
@@ -124,9 +123,8 @@ SeasonIntervalChart headToHeadChart(const Season& season, std::size_t athlete, s
             continue;
         const std::string& versus = season.data.boats[head.versus].name;
         chart.rows.push_back({versus, seasonHeadId("won", name, versus), 100 * head.rate(),
-                              Interval{100 * head.interval.low, 100 * head.interval.high},
-                              head.met, head.interval.low > Half / 100 ||
-                                            head.interval.high < Half / 100});
+                              Interval{100 * head.interval.low, 100 * head.interval.high}, head.met,
+                              head.interval.low > Half / 100 || head.interval.high < Half / 100});
     }
     chart.sentence = own.heads.empty()
                          ? fmt::format("{} met nobody in these races.", name)
@@ -149,9 +147,9 @@ BenchmarkChart benchmarkChart(const Season& season, std::string_view phase,
         chart.sentence =
             fmt::format("No split file of this class has three whole runs of a {}.", phase);
     else if (chart.own)
-        chart.sentence = fmt::format("{:.1f} % would have been among the first three in {} of {}.",
-                                     *chart.own, wouldHaveReached(*medal, *chart.own),
-                                     medal->values.size());
+        chart.sentence =
+            fmt::format("{:.1f} % would have been among the first three in {} of {}.", *chart.own,
+                        wouldHaveReached(*medal, *chart.own), medal->values.size());
     else
         chart.sentence = fmt::format("The third was {:.1f} % behind in the median of {}.",
                                      medal->median, counted(medal->values.size(), "race", "races"));
@@ -169,9 +167,9 @@ PlacesChart placesChart(const Season& season) {
     if (best == chart.rows.end())
         chart.sentence = "Nobody of the team has runs enough to expect a place of.";
     else
-        chart.sentence = fmt::format("{} may expect place {:.1f} of {}, a medal by {:.0f} %.",
-                                     best->name, best->expected, chart.rows.size(),
-                                     100 * best->medal);
+        chart.sentence =
+            fmt::format("{} may expect place {:.1f} of {}, a medal by {:.0f} %.", best->name,
+                        best->expected, chart.rows.size(), 100 * best->medal);
     return chart;
 }
 

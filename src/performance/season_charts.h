@@ -25,7 +25,7 @@ struct ProgressionPoint {
 
 struct ProgressionChart {
     std::vector<ProgressionPoint> points; ///< by day
-    std::optional<double> medalLine; ///< what the third of a final was behind, in the median
+    std::optional<double> medalLine;      ///< what the third of a final was behind, in the median
     std::string sentence;
 };
 

@@ -181,9 +181,8 @@ private:
 
     /// The split file's group of the team's phase; of several the one with the athlete in it, else
     /// the first.
-    [[nodiscard]] std::optional<std::size_t> groupFor(const RaceResult& race,
-                                                      const PhaseResult& phase,
-                                                      std::size_t boat) const {
+    [[nodiscard]] std::optional<std::size_t>
+    groupFor(const RaceResult& race, const PhaseResult& phase, std::size_t boat) const {
         const auto found = m_groupsByName.find(phase.phase + '\n' + bareKey(race.location));
         if (found == m_groupsByName.end())
             return std::nullopt;

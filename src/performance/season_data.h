@@ -98,7 +98,7 @@ struct SeasonMember {
 };
 
 struct SeasonData {
-    std::string category; ///< the team's label where it has one, else as asked for
+    std::string category;          ///< the team's label where it has one, else as asked for
     std::vector<SeasonBoat> boats; ///< the team's first, in its order
     std::vector<RacePhase> phases;
     std::vector<SeasonRun> runs; ///< those of split files first
@@ -118,9 +118,8 @@ struct SeasonData {
                                     const SeasonChoice& choice);
 
 /// 100(T/W − 1) with penalties; nothing where the total or the winner is not known.
-[[nodiscard]] std::optional<double> percentBehindWinner(const FactStore& facts,
-                                                        const PhaseResult& result,
-                                                        Why* why = nullptr);
+[[nodiscard]] std::optional<double>
+percentBehindWinner(const FactStore& facts, const PhaseResult& result, Why* why = nullptr);
 
 /// How far a whole run was behind the fastest times of its splits together, in percent and without
 /// penalties; nothing where a split or its percentage is missing.

@@ -61,8 +61,7 @@ void keepPart(const SeasonSpread& spread, std::vector<std::size_t>& boats,
     });
 }
 
-std::vector<std::size_t> namedField(const SeasonSpread& spread,
-                                    std::span<const std::size_t> field,
+std::vector<std::size_t> namedField(const SeasonSpread& spread, std::span<const std::size_t> field,
                                     std::vector<std::size_t>& leftOut) {
     std::vector<std::size_t> boats;
     for (const std::size_t boat : field) {
@@ -101,8 +100,7 @@ ExpectedPlace oddsOf(const SeasonData& data, const SeasonSpread& spread, std::si
     place.mean = effect.effect;
     place.sd =
         spread.fit.spreads[boat].shrunk * std::sqrt(1 + 1 / static_cast<double>(effect.runs));
-    place.fail =
-        chanceOfMissedGate(missed.missed, missed.runs, allMissed(data), data.runs.size());
+    place.fail = chanceOfMissedGate(missed.missed, missed.runs, allMissed(data), data.runs.size());
     return place;
 }
 

@@ -9,8 +9,7 @@ namespace {
 
 /// In the order of SeasonRule.
 constexpr std::array SeasonRuleTable{
-    Rule{"season.percent",
-         "How far behind the winner of the phase and class, penalties included.",
+    Rule{"season.percent", "How far behind the winner of the phase and class, penalties included.",
          "100 · (T / W − 1)", "of the class winner, not of the men's kayaks: Wells, thesis, 2018"},
     Rule{"season.splits",
          "How far behind the fastest times of all splits together, without penalties.",

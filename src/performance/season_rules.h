@@ -20,8 +20,8 @@ enum class SeasonRule {
     Semifinals,
     PairDifference,
     TypicalError,
-    Won,      ///< head to head
-    HeadGap,  ///< head to head
+    Won,     ///< head to head
+    HeadGap, ///< head to head
     Benchmark,
     MissedGate,
     ExpectedPlace,

@@ -23,8 +23,8 @@ struct SeasonTrend {
     static constexpr std::size_t LeastRuns = 4;
     static constexpr double LeastDays = 60;
 
-    std::size_t runs = 0;           ///< without missed gates, with a percentage
-    std::optional<double> perYear;  ///< per 365.25 days; none for too few runs or days
+    std::size_t runs = 0;          ///< without missed gates, with a percentage
+    std::optional<double> perYear; ///< per 365.25 days; none for too few runs or days
     std::optional<Interval> interval;
     TrendVerdict verdict = TrendVerdict::Unclear;
 };
