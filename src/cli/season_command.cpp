@@ -110,8 +110,9 @@ int tellSeasonOutputs(const Season& season, const FactStore& facts, const Season
         logLine("The table cannot be written over a file that it is made from.");
         return WrongCall;
     }
-    const bool isWritten = isTableWritten(call.csv, call.csv.empty() ? "" : seasonCsv(season));
-    return print(call.json ? seasonJson(season) : seasonText(season, standardOutput())) && isWritten
+    const bool isWritten = isTableWritten(call.csv, call.csv.empty() ? "" : teamSeasonCsv(season));
+    return print(call.json ? teamSeasonJson(season) : teamSeasonText(season, standardOutput())) &&
+                   isWritten
                ? Done
                : NotDone;
 }

@@ -27,7 +27,7 @@ std::string phaseLine(const SeasonMember& member, const RaceResult& race,
 
 } // namespace
 
-std::string seasonCsv(const Season& season) {
+std::string teamSeasonCsv(const Season& season) {
     std::string text = "Athlete;Year;Event;Location;Phase;Date;Position;Total s;Winner s;Winner;"
                        "Source;Percent;Percent behind splits;Missed gate;Final position\n";
     for (const SeasonMember& member : season.data.members)

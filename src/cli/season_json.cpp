@@ -134,14 +134,14 @@ struct ExpectedPlaceJson {
 BOOST_DESCRIBE_STRUCT(ExpectedPlaceJson, (),
                       (athlete, runs, mean, sd, fail, places, expected, medal))
 
-struct SeasonJson {
+struct TeamSeasonJson {
     std::string category;
     SeasonSpreadJson spread;
     std::vector<SeasonAthleteJson> athletes;
     std::vector<BenchmarkJson> benchmarks;
     std::vector<ExpectedPlaceJson> simulation;
 };
-BOOST_DESCRIBE_STRUCT(SeasonJson, (), (category, spread, athletes, benchmarks, simulation))
+BOOST_DESCRIBE_STRUCT(TeamSeasonJson, (), (category, spread, athletes, benchmarks, simulation))
 
 std::int64_t seasonCount(std::size_t count) {
     return static_cast<std::int64_t>(count);
@@ -235,8 +235,8 @@ SeasonAthleteJson athleteJson(const Season& season, const SeasonAthlete& athlete
 
 } // namespace
 
-std::string seasonJson(const Season& season) {
-    SeasonJson json;
+std::string teamSeasonJson(const Season& season) {
+    TeamSeasonJson json;
     json.category = validUtf8(season.data.category);
     json.spread = spreadJson(season.spread);
     for (const SeasonAthlete& athlete : season.athletes)

@@ -7,6 +7,6 @@
 namespace kavela::cli {
 
 /// The season as one JSON document. Intervals and figures that are not known are null.
-[[nodiscard]] std::string seasonJson(const Season& season);
+[[nodiscard]] std::string teamSeasonJson(const Season& season);
 
 } // namespace kavela::cli

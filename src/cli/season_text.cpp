@@ -78,52 +78,59 @@ private:
             addLine("Too few runs to tell how much they vary by chance.");
             return;
         }
-        addLine(fmt::format("A run varies by {:.1f} %{}, from {}; {:.2f} % is worth gaining.",
-                            *spread.cv, commonRange(),
+        addLine(fmt::format("Runs vary by {:.1f} %{}, from {}; {:.2f} % is worth gaining.",
+                            *spread.cv, seasonRange(spread.interval),
                             counted(static_cast<std::int64_t>(spread.runs), "run", "runs"),
                             *spread.worthwhile));
     }
 
     [[nodiscard]] std::string commonRange() const {
         const auto& interval = m_season.spread.interval;
-        return interval ? fmt::format(" ({:.1f}–{:.1f})", interval->low, interval->high)
+        return interval ? fmt::format(": {:.1f}–{:.1f}", interval->low, interval->high)
                         : std::string();
     }
 
     void addAthlete(std::size_t index) {
         const SeasonMember& member = m_season.data.members[m_season.athletes[index].member];
-        const ProgressionChart chart = progressionChart(m_season, index);
+        const ProgressionChart chart = usualProgression(m_season, index);
         const std::vector<std::string> lines = progressionLines(member, chart);
         const std::vector<std::string> facts = factsOf(m_season.athletes[index]);
         addLine("");
         if (lines.empty()) {
             for (const std::string& fact : facts)
                 addLine(fact);
-            addLine(dim("The winners of these races are not known."));
+            addLine(dim("Neither winners nor fastest splits of these races are known."));
             return;
         }
         if (m_terminal.width > 0 && m_terminal.width < SideBySideFrom)
-            addBelow(lines, facts);
+            addBelow(chart, lines, facts);
         else
-            addBeside(lines, facts);
+            addBeside(chart, lines, facts);
         if (chart.medalLine)
             addLine(dim("      ┄ third of the final, median"));
     }
 
-    [[nodiscard]] static std::string chartHead() { return "% behind ● heats ▲ semi ■ final"; }
+    [[nodiscard]] static std::string chartHead(const ProgressionChart& chart) {
+        return std::string(chart.of == TrendOf::Winner ? "% behind " : "% on splits ") +
+               "● heats ▲ semi ■ final";
+    }
 
-    void addBelow(const std::vector<std::string>& lines, const std::vector<std::string>& facts) {
+    void addBelow(const ProgressionChart& chart, const std::vector<std::string>& lines,
+                  const std::vector<std::string>& facts) {
         addLine(facts.front());
-        addLine(dim(chartHead()));
+        addLine(dim(chartHead(chart)));
         for (const std::string& line : lines)
             addLine(line);
         for (std::size_t i = 1; i < facts.size(); ++i)
             addLine(facts[i]);
     }
 
-    void addBeside(const std::vector<std::string>& lines, const std::vector<std::string>& facts) {
+    void addBeside(const ProgressionChart& chart, const std::vector<std::string>& lines,
+                   const std::vector<std::string>& facts) {
         for (std::size_t i = 0; i < std::max(lines.size() + 1, facts.size()); ++i) {
-            const std::string left = i == 0 ? chartHead() : i <= lines.size() ? lines[i - 1] : "";
+            const std::string left = i == 0              ? chartHead(chart)
+                                     : i <= lines.size() ? lines[i - 1]
+                                                         : "";
             const std::string cell = fitted(left, SeasonChartWidth);
             addLine((i == 0 ? dim(cell) : cell) + (i < facts.size() ? facts[i] : ""));
         }
@@ -144,17 +151,18 @@ private:
         addPair(facts, "heats→final", athlete.heatsToFinal);
         for (std::size_t i = 0; i < std::min(athlete.heads.size(), MostRivals); ++i)
             facts.push_back(headFact(athlete.heads[i]));
-        if (const auto percent = medianPercent(member, "Final"))
-            if (const std::string sentence = medalSentence(m_season.benchmarks, *percent);
-                !sentence.empty())
-                facts.push_back("median: " + sentence);
+        const auto percent = medianPercent(member, "Final");
+        const std::string sentence =
+            percent ? medalSentence(m_season.benchmarks, *percent) : std::string();
+        if (!sentence.empty())
+            facts.push_back("median: " + sentence);
         return facts;
     }
 
     [[nodiscard]] std::string spreadText(const BoatSpread& spread) const {
         std::string text = "too few";
         if (spread.shrunk && spread.runs >= LeastValues)
-            text = fmt::format("{:.1f} % (all {:.1f}:{})", *spread.shrunk, *m_season.spread.cv,
+            text = fmt::format("{:.1f} % (all {:.1f}{})", *spread.shrunk, *m_season.spread.cv,
                                commonRange());
         if (spread.missed > 0)
             text += fmt::format(", {} missed", spread.missed);
@@ -188,42 +196,49 @@ private:
     }
 
     [[nodiscard]] std::string headFact(const HeadToHead& head) const {
-        constexpr int RivalWidth = 17;
+        constexpr int RivalWidth = 18;
         return fitted("on " + printable(m_season.data.boats[head.versus].name), RivalWidth) +
                fmt::format(" {} of {} ({:.0f}–{:.0f} %), {:+.1f} %", shortestText(head.won),
                            head.met, 100 * head.interval.low, 100 * head.interval.high,
                            head.gap.mean);
     }
 
+    /// The first rank is nothing behind itself.
     void addBenchmarks() {
-        constexpr int PhaseWidth = 12;
-        constexpr int BenchmarkColumn = 9;
+        constexpr int PhaseWidth = 14;
+        constexpr int RankWidth = 11;
         if (m_season.benchmarks.empty())
             return;
-        std::string head = fitted("What it took", PhaseWidth + 2);
+        std::string head = fitted("What it took", PhaseWidth);
         for (const std::size_t rank : BenchmarkRanks)
-            head += rightAligned(fmt::format("rank {}", rank), BenchmarkColumn);
+            if (rank > 1)
+                head += rightAligned(fmt::format("rank {}", rank), RankWidth);
         addLine("");
         addLine(bold(head));
-        std::set<std::string> told;
         for (const Benchmark& benchmark : m_season.benchmarks) {
-            if (!told.insert(benchmark.phase).second)
+            if (benchmark.rank != 1)
                 continue;
-            std::string line = fitted(printable(benchmark.phase), PhaseWidth + 2);
-            std::string range = fitted("", PhaseWidth + 2);
+            std::string line = fitted(printable(benchmark.phase), PhaseWidth);
+            std::string range = fitted(
+                "  " + counted(static_cast<std::int64_t>(benchmark.values.size()), "race", "races"),
+                PhaseWidth);
             for (const std::size_t rank : BenchmarkRanks) {
+                if (rank == 1)
+                    continue;
                 const Benchmark* const at = benchmarkAt(m_season.benchmarks, benchmark.phase, rank);
-                line +=
-                    rightAligned(at ? fmt::format("{:.1f} %", at->median) : "–", BenchmarkColumn);
-                range += rightAligned(
-                    at ? fmt::format("{:.1f}–{:.1f}", at->lowerQuartile, at->upperQuartile) : "",
-                    BenchmarkColumn);
+                line += rightAligned(at ? fmt::format("{:.1f} %", at->median) : "–", RankWidth);
+                range += rightAligned(quartilesText(at), RankWidth);
             }
-            addLine(line + rightAligned(counted(static_cast<std::int64_t>(benchmark.values.size()),
-                                                "race", "races"),
-                                        BenchmarkColumn + 1));
+            addLine(line);
             addLine(dim(range));
         }
+    }
+
+    /// One race has no quartiles worth telling.
+    static std::string quartilesText(const Benchmark* benchmark) {
+        if (!benchmark || benchmark->values.size() < LeastValues)
+            return {};
+        return fmt::format("{:.1f}–{:.1f}", benchmark->lowerQuartile, benchmark->upperQuartile);
     }
 
     void addPlaces() {
@@ -270,7 +285,7 @@ private:
 
 } // namespace
 
-std::string seasonText(const Season& season, const Terminal& terminal) {
+std::string teamSeasonText(const Season& season, const Terminal& terminal) {
     return SeasonSheet(season, terminal).text();
 }
 

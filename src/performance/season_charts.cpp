@@ -18,17 +18,19 @@ const SeasonMember& memberOf(const Season& season, const SeasonAthlete& athlete)
     return season.data.members[athlete.member];
 }
 
-std::string trendSentence(const std::string& name, const SeasonTrend& trend) {
+std::string trendSentence(const std::string& name, std::string_view whom,
+                          const SeasonTrend& trend) {
     if (!trend.perYear)
-        return fmt::format("{}: too few runs behind known winners to tell a trend.", name);
-    if (!trend.interval)
-        return fmt::format("{}: {:+.1f} % a year, {}.", name, *trend.perYear,
-                           verdictText(trend.verdict));
-    return fmt::format("{}: {:+.1f} % a year ({:+.1f} to {:+.1f}), {}.", name, *trend.perYear,
-                       trend.interval->low, trend.interval->high, verdictText(trend.verdict));
+        return fmt::format("{}: too few runs to tell a trend behind {}.", name, whom);
+    const std::string range =
+        trend.interval
+            ? fmt::format(" ({:+.1f} to {:+.1f})", trend.interval->low, trend.interval->high)
+            : std::string();
+    return fmt::format("{}: {:+.1f} % a year behind {}{}, {}.", name, *trend.perYear, whom, range,
+                       verdictText(trend.verdict));
 }
 
-std::string counted(std::size_t count, std::string_view one, std::string_view many) {
+std::string seasonCounted(std::size_t count, std::string_view one, std::string_view many) {
     return fmt::format("{} {}", count, count == 1 ? one : many);
 }
 
@@ -48,23 +50,37 @@ std::string_view phaseMark(std::string_view phase) {
     return phase == LastPhase ? "■" : "·";
 }
 
-ProgressionChart progressionChart(const Season& season, std::size_t athlete) {
+ProgressionChart progressionChart(const Season& season, std::size_t athlete, TrendOf of) {
     const SeasonMember& member = memberOf(season, season.athletes.at(athlete));
     ProgressionChart chart;
+    chart.of = of;
     for (std::size_t race = 0; race < member.races.size(); ++race)
         for (std::size_t i = 0; i < member.races[race].phases.size(); ++i) {
             const PhaseResult& phase = member.races[race].phases[i];
-            if (phase.percent)
-                chart.points.push_back({race, i, phase.date, *phase.percent, phase.isMissed});
+            if (const auto percent = of == TrendOf::Winner ? phase.percent : phase.behindSplits)
+                chart.points.push_back({race, i, phase.date, *percent, phase.isMissed});
         }
     std::ranges::stable_sort(chart.points, {},
                              [](const ProgressionPoint& point) { return point.date.seconds; });
-    if (const Benchmark* const medal = benchmarkAt(season.benchmarks, LastPhase, MedalRank))
+    const Benchmark* const medal = benchmarkAt(season.benchmarks, LastPhase, MedalRank);
+    if (medal && of == TrendOf::Winner)
         chart.medalLine = medal->median;
-    chart.sentence = chart.points.empty()
-                         ? fmt::format("No winner of {}'s races is known.", member.name)
-                         : trendSentence(member.name, season.athletes[athlete].toWinner);
+    const SeasonAthlete& figures = season.athletes[athlete];
+    if (chart.points.empty())
+        chart.sentence =
+            fmt::format("{} of {}'s races is known.",
+                        of == TrendOf::Winner ? "No winner" : "No fastest split", member.name);
+    else if (of == TrendOf::Winner)
+        chart.sentence = trendSentence(member.name, "the winners", figures.toWinner);
+    else
+        chart.sentence = trendSentence(member.name, "the fastest splits", figures.toSplits);
     return chart;
+}
+
+ProgressionChart usualProgression(const Season& season, std::size_t athlete) {
+    const SeasonAthlete& figures = season.athletes.at(athlete);
+    const bool isOfSplits = !figures.toWinner.perYear && figures.toSplits.perYear;
+    return progressionChart(season, athlete, isOfSplits ? TrendOf::Splits : TrendOf::Winner);
 }
 
 SeasonIntervalChart spreadChart(const Season& season) {
@@ -105,7 +121,7 @@ SeasonIntervalChart trendChart(const Season& season) {
         slower += trend.verdict == TrendVerdict::Slower ? 1 : 0;
     }
     chart.sentence = fmt::format("{} of {} grew faster beyond doubt, {} slower.", faster,
-                                 counted(chart.rows.size(), "athlete", "athletes"), slower);
+                                 seasonCounted(chart.rows.size(), "athlete", "athletes"), slower);
     return chart;
 }
 
@@ -129,7 +145,7 @@ SeasonIntervalChart headToHeadChart(const Season& season, std::size_t athlete, s
     chart.sentence = own.heads.empty()
                          ? fmt::format("{} met nobody in these races.", name)
                          : fmt::format("{} is ahead beyond doubt of {} of {}.", name, ahead,
-                                       counted(own.heads.size(), "rival", "rivals"));
+                                       seasonCounted(own.heads.size(), "rival", "rivals"));
     return chart;
 }
 
@@ -151,8 +167,9 @@ BenchmarkChart benchmarkChart(const Season& season, std::string_view phase,
             fmt::format("{:.1f} % would have been among the first three in {} of {}.", *chart.own,
                         wouldHaveReached(*medal, *chart.own), medal->values.size());
     else
-        chart.sentence = fmt::format("The third was {:.1f} % behind in the median of {}.",
-                                     medal->median, counted(medal->values.size(), "race", "races"));
+        chart.sentence =
+            fmt::format("The third was {:.1f} % behind in the median of {}.", medal->median,
+                        seasonCounted(medal->values.size(), "race", "races"));
     return chart;
 }
 
@@ -179,7 +196,7 @@ std::string medalSentence(std::span<const Benchmark> all, double percent) {
         return {};
     return fmt::format("{:.1f} % would have been a medal in {} of {}", percent,
                        wouldHaveReached(*medal, percent),
-                       counted(medal->values.size(), "final", "finals"));
+                       seasonCounted(medal->values.size(), "final", "finals"));
 }
 
 } // namespace kavela

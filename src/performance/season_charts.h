@@ -17,19 +17,26 @@ struct ProgressionPoint {
     std::size_t race = 0;  ///< of the member's races
     std::size_t phase = 0; ///< of the race's phases
     ReferenceDate date;
-    double percent = 0; ///< behind the winner
+    double percent = 0; ///< behind the winner, or the fastest splits
     bool isMissed = false;
 
     friend bool operator==(const ProgressionPoint&, const ProgressionPoint&) = default;
 };
 
 struct ProgressionChart {
+    TrendOf of = TrendOf::Winner;
     std::vector<ProgressionPoint> points; ///< by day
     std::optional<double> medalLine;      ///< what the third of a final was behind, in the median
     std::string sentence;
 };
 
-[[nodiscard]] ProgressionChart progressionChart(const Season& season, std::size_t athlete);
+/// The two are never in one chart: the splits leave the penalties out and have no one winner.
+[[nodiscard]] ProgressionChart progressionChart(const Season& season, std::size_t athlete,
+                                                TrendOf of = TrendOf::Winner);
+
+/// Behind the winners; behind the fastest splits where that tells a trend and the winners, of whom
+/// too few are known, do not.
+[[nodiscard]] ProgressionChart usualProgression(const Season& season, std::size_t athlete);
 
 /// "●", "▲", "■": heats, semifinal, final; "·" for any other phase.
 [[nodiscard]] std::string_view phaseMark(std::string_view phase);

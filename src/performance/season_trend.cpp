@@ -13,7 +13,7 @@ namespace kavela {
 
 namespace {
 
-constexpr double SecondsOfDay = 86400;
+constexpr double TrendDaySeconds = 86400;
 constexpr double DaysOfYear = 365.25;
 
 struct TrendPoint {
@@ -28,7 +28,8 @@ std::vector<TrendPoint> trendPoints(const SeasonMember& member, TrendOf of, Why*
             const auto percent = of == TrendOf::Winner ? phase.percent : phase.behindSplits;
             if (!percent || phase.isMissed || !std::isfinite(phase.date.seconds))
                 continue;
-            points.push_back({phase.date.seconds / SecondsOfDay, 100 * std::log1p(*percent / 100)});
+            points.push_back(
+                {phase.date.seconds / TrendDaySeconds, 100 * std::log1p(*percent / 100)});
             if (why)
                 why->input(fmt::format("{} {} {}, percent", dayText(phase.date), race.location,
                                        phase.phase),
