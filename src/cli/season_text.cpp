@@ -112,7 +112,7 @@ private:
 
     [[nodiscard]] static std::string chartHead(const ProgressionChart& chart) {
         return std::string(chart.of == TrendOf::Winner ? "% behind " : "% on splits ") +
-               "● heats ▲ semi ■ final";
+               "● heat ▲ semi ■ final";
     }
 
     void addBelow(const ProgressionChart& chart, const std::vector<std::string>& lines,

@@ -128,6 +128,7 @@ std::optional<RateOf> raceRate(const SeasonMember& member, RaceRate rate, Why* w
     }
     const auto found = rateOf(reached, of);
     if (why && found) {
+        why->input("counted", static_cast<double>(of));
         const std::size_t leftOut = member.races.size() - of;
         if (leftOut > 0)
             why->note(fmt::format("{} left out: {}", leftOut,
