@@ -154,7 +154,7 @@ BenchmarkChart benchmarkChart(const Season& season, std::string_view phase,
     BenchmarkChart chart;
     chart.phase = phase;
     for (const Benchmark& benchmark : season.benchmarks)
-        if (benchmark.phase == phase)
+        if (benchmark.phase == phase && benchmark.rank > 1)
             chart.boxes.push_back(boxOf(benchmark));
     if (athlete)
         chart.own = medianPercent(memberOf(season, season.athletes.at(*athlete)), phase);

@@ -78,7 +78,7 @@ struct BenchmarkChart {
         double most = 0;
     };
     std::string phase;
-    std::vector<Box> boxes;
+    std::vector<Box> boxes;    ///< the winners, who are behind nobody, left out
     std::optional<double> own; ///< the athlete's median percentage in the phase
     std::string sentence;
 };

@@ -17,7 +17,7 @@ namespace {
 
 constexpr qreal SeasonGap = 11 * Point;
 constexpr TextStyle SeasonLineStyle{8, false, Ink};
-constexpr std::size_t MostRivalsOnPage = 14;
+constexpr std::size_t MostRivalsOnPage = 9;
 
 QString signedPercent(double percent) {
     return QString::asprintf("%+.1f", percent);

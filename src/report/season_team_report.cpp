@@ -25,7 +25,11 @@ QString rateText(const std::optional<RateOf>& rate) {
 /// The report as it is being filled.
 class SeasonTeamSheet {
 public:
-    explicit SeasonTeamSheet(const Season& season) : m_season(season) {
+    explicit SeasonTeamSheet(const Season& season)
+        : m_season(season),
+          m_isOfSplits(std::ranges::none_of(season.athletes, [](const SeasonAthlete& athlete) {
+              return athlete.toWinner.perYear.has_value();
+          })) {
         m_heading.title = QStringLiteral("Season ") + reportText(season.data.category);
         m_heading.line =
             QStringLiteral("%1 athletes · intervals are 90 %").arg(season.athletes.size());
@@ -51,7 +55,7 @@ private:
     }
 
     [[nodiscard]] IntervalRow athleteRow(const SeasonAthlete& athlete) const {
-        const SeasonTrend& trend = athlete.toWinner;
+        const SeasonTrend& trend = m_isOfSplits ? athlete.toSplits : athlete.toWinner;
         const bool isSpreadKnown = athlete.spread.shrunk && athlete.spread.runs >= LeastValues;
         IntervalRow row;
         row.texts = {reportText(m_season.data.members[athlete.member].name),
@@ -70,13 +74,15 @@ private:
 
     void putAthletes(std::size_t first) {
         IntervalTable table;
-        table.columns = {{QStringLiteral("Athlete"), 130, Qt::AlignLeft},
-                         {QStringLiteral("Medals"), 42},
-                         {QStringLiteral("Finals"), 42},
-                         {QStringLiteral("Chance, %"), 40},
-                         {QStringLiteral("% a year"), 36},
-                         {},
-                         {QStringLiteral("Trend"), 36, Qt::AlignLeft}};
+        table.columns = {
+            {QStringLiteral("Athlete"), 130, Qt::AlignLeft},
+            {QStringLiteral("Medals"), 42},
+            {QStringLiteral("Finals"), 42},
+            {QStringLiteral("Chance, %"), 40},
+            {QStringLiteral("% a year"), 36},
+            {},
+            {m_isOfSplits ? QStringLiteral("On the splits") : QStringLiteral("On the winner"), 48,
+             Qt::AlignLeft}};
         table.drawn = 5;
         table.unit = QStringLiteral(" %");
         const std::size_t end = std::min(first + MostAthletesOfTable, m_season.athletes.size());
@@ -116,6 +122,7 @@ private:
     }
 
     const Season& m_season;
+    bool m_isOfSplits = false; ///< where no trend behind the winners is known
     ReportHeading m_heading;
     Typeface m_typeface;
     PageBuilder m_pages{QPageLayout::Portrait};
