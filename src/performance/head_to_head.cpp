@@ -7,19 +7,29 @@
 
 #include <algorithm>
 #include <cmath>
-#include <map>
+#include <utility>
 
 namespace kavela {
 
 namespace {
 
-/// The best run of a boat in each phase, by phase.
-using BestRuns = std::map<std::size_t, const SeasonRun*>;
+/// The runs of a boat that count: the best of each phase, by phase.
+using BestRuns = std::vector<const SeasonRun*>;
 
-void keepBetter(BestRuns& best, const SeasonRun& run) {
-    const SeasonRun*& kept = best[run.phase];
-    if (!kept || run.total < kept->total)
-        kept = &run;
+void keepBest(BestRuns& runs) {
+    std::ranges::stable_sort(
+        runs, {}, [](const SeasonRun* run) { return std::pair(run->phase, run->total); });
+    const auto rest = std::ranges::unique(runs, {}, &SeasonRun::phase);
+    runs.erase(rest.begin(), rest.end());
+}
+
+BestRuns bestRunsOf(const SeasonData& data, std::size_t boat) {
+    BestRuns runs;
+    for (const SeasonRun& run : data.runs)
+        if (run.boat == boat)
+            runs.push_back(&run);
+    keepBest(runs);
+    return runs;
 }
 
 double wonIn(double own, double other) {
@@ -38,13 +48,17 @@ std::optional<HeadToHead> compared(const BestRuns& own, const BestRuns& others, 
     HeadToHead head;
     head.versus = versus;
     std::vector<double> gaps;
-    for (const auto& [phase, run] : others) {
-        const auto met = own.find(phase);
-        if (met == own.end())
-            continue;
-        head.won += wonIn(met->second->total, run->total);
-        gaps.push_back(100 * std::log(met->second->total / run->total));
-        tell(*met->second, *run);
+    for (auto mine = own.begin(), theirs = others.begin();
+         mine != own.end() && theirs != others.end();) {
+        const SeasonRun& run = **mine;
+        const SeasonRun& rival = **theirs;
+        if (run.phase == rival.phase) {
+            head.won += wonIn(run.total, rival.total);
+            gaps.push_back(100 * std::log(run.total / rival.total));
+            tell(run, rival);
+        }
+        mine += run.phase <= rival.phase ? 1 : 0;
+        theirs += rival.phase <= run.phase ? 1 : 0;
     }
     head.met = gaps.size();
     if (head.met == 0)
@@ -57,14 +71,15 @@ std::optional<HeadToHead> compared(const BestRuns& own, const BestRuns& others, 
 } // namespace
 
 std::vector<HeadToHead> headToHeads(const SeasonData& data, std::size_t boat) {
-    BestRuns own;
-    for (const SeasonRun& run : data.runs)
-        if (run.boat == boat)
-            keepBetter(own, run);
+    const BestRuns own = bestRunsOf(data, boat);
+    std::vector<bool> isMet(data.phases.size());
+    for (const SeasonRun* run : own)
+        isMet[run->phase] = true;
     std::vector<BestRuns> others(data.boats.size());
     for (const SeasonRun& run : data.runs)
-        if (run.boat != boat && own.contains(run.phase))
-            keepBetter(others[run.boat], run);
+        if (run.boat != boat && isMet[run.phase])
+            others[run.boat].push_back(&run);
+    std::ranges::for_each(others, keepBest);
     std::vector<HeadToHead> heads;
     for (std::size_t i = 0; i < others.size(); ++i)
         if (const auto head = compared(own, others[i], i, [](const auto&, const auto&) {}))
@@ -79,14 +94,10 @@ std::vector<HeadToHead> headToHeads(const SeasonData& data, std::size_t boat) {
 std::optional<HeadToHead> headToHead(const SeasonData& data, const FactStore& facts,
                                      std::size_t boat, std::size_t versus, HeadFigure figure,
                                      Why* why) {
-    BestRuns own;
-    BestRuns others;
-    for (const SeasonRun& run : data.runs) {
-        if (run.boat == boat)
-            keepBetter(own, run);
-        else if (run.boat == versus)
-            keepBetter(others, run);
-    }
+    if (boat == versus)
+        return std::nullopt;
+    const BestRuns own = bestRunsOf(data, boat);
+    const BestRuns others = bestRunsOf(data, versus);
     const auto tell = [&](const SeasonRun& mine, const SeasonRun& theirs) {
         if (!why)
             return;

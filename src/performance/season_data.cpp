@@ -56,8 +56,18 @@ std::optional<double> totalOfPhase(const mtPhaseStruct& phase) {
 /// Names a phase of a race as the team tells it.
 using TeamPhaseKey = std::tuple<std::int64_t, std::string, std::string, std::string>;
 
-TeamPhaseKey keyOf(const RaceResult& race, const PhaseResult& phase) {
-    return {race.year, bareKey(race.event), bareKey(race.location), phase.phase};
+/// The words of a race that find it again however they are written, made once for all its phases.
+struct RaceWords {
+    std::string event;
+    std::string location;
+};
+
+RaceWords wordsOf(const RaceResult& race) {
+    return {bareKey(race.event), bareKey(race.location)};
+}
+
+TeamPhaseKey keyOf(const RaceResult& race, const RaceWords& words, const PhaseResult& phase) {
+    return {race.year, words.event, words.location, phase.phase};
 }
 
 /// Fills the data, the split files first.
@@ -73,13 +83,17 @@ public:
         for (const RivalGroup& group : groupsOf(m_facts))
             addGroup(group);
         for (SeasonMember& member : m_data.members)
-            for (RaceResult& race : member.races)
+            for (RaceResult& race : member.races) {
+                const RaceWords words = wordsOf(race);
                 for (PhaseResult& phase : race.phases)
-                    place(member, race, phase);
+                    place(member, race, words, phase);
+            }
         for (SeasonMember& member : m_data.members)
-            for (RaceResult& race : member.races)
+            for (RaceResult& race : member.races) {
+                const RaceWords words = wordsOf(race);
                 for (PhaseResult& phase : race.phases)
-                    compare(race, phase);
+                    compare(keyOf(race, words, phase), phase);
+            }
         return std::move(m_data);
     }
 
@@ -182,8 +196,8 @@ private:
     /// The split file's group of the team's phase; of several the one with the athlete in it, else
     /// the first.
     [[nodiscard]] std::optional<std::size_t>
-    groupFor(const RaceResult& race, const PhaseResult& phase, std::size_t boat) const {
-        const auto found = m_groupsByName.find(phase.phase + '\n' + bareKey(race.location));
+    groupFor(const std::string& location, const PhaseResult& phase, std::size_t boat) const {
+        const auto found = m_groupsByName.find(phase.phase + '\n' + location);
         if (found == m_groupsByName.end())
             return std::nullopt;
         std::optional<std::size_t> first;
@@ -200,8 +214,9 @@ private:
     }
 
     /// Tells where the team's phase belongs, and adds its run where no split file has it.
-    void place(const SeasonMember& member, const RaceResult& race, PhaseResult& phase) {
-        const auto group = groupFor(race, phase, member.boat);
+    void place(const SeasonMember& member, const RaceResult& race, const RaceWords& words,
+               PhaseResult& phase) {
+        const auto group = groupFor(words.location, phase, member.boat);
         if (group && m_groups[*group].best) {
             const std::size_t run = *m_groups[*group].best;
             phase.winner = m_facts.runs()[run].total;
@@ -209,7 +224,7 @@ private:
             phase.winnerName = m_facts.text(m_facts.runs()[run].crew);
             phase.source = WinnerSource::File;
         }
-        const TeamPhaseKey key = keyOf(race, phase);
+        const TeamPhaseKey key = keyOf(race, words, phase);
         if (phase.total && phase.pos == 1)
             m_teamWinners.try_emplace(key, std::pair(*phase.total, member.name));
         if (!phase.total || (group && m_groups[*group].boats.contains(member.boat)))
@@ -229,8 +244,8 @@ private:
     }
 
     /// Everybody's runs are known by now.
-    void compare(const RaceResult& race, PhaseResult& phase) const {
-        const auto winner = m_teamWinners.find(keyOf(race, phase));
+    void compare(const TeamPhaseKey& key, PhaseResult& phase) const {
+        const auto winner = m_teamWinners.find(key);
         if (!phase.winner && winner != m_teamWinners.end()) {
             phase.winner = winner->second.first;
             phase.winnerName = winner->second.second;
