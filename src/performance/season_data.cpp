@@ -182,7 +182,8 @@ private:
 
     void addFileRun(std::size_t run, std::size_t phase) {
         const RunRow& row = m_facts.runs()[run];
-        if (!row.isComplete)
+        // A damaged file may hold a penalty below 0 that is more than the time.
+        if (!row.isComplete || !(row.total > 0) || !std::isfinite(row.total))
             return;
         const std::size_t boat =
             boatOf(std::string(m_facts.text(row.crewKey)), m_facts.text(row.crew));

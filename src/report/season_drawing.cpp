@@ -25,7 +25,9 @@ constexpr qreal PlaceNumberWidth = 34 * Point;
 /// Percent from 0 at the bottom of a place.
 class PercentScale {
 public:
-    PercentScale(const QRectF& plot, double most) : m_plot(plot) {
+    PercentScale(const QRectF& plot, double highest) : m_plot(plot) {
+        constexpr double HighestDrawn = 1000; // beyond that a time is a fault of the file
+        const double most = std::isfinite(highest) ? std::min(highest, HighestDrawn) : HighestDrawn;
         constexpr std::array<double, 3> Round{1, 2, 5};
         constexpr double Steps = 4;
         for (double power = 0.1; m_step <= 0; power *= 10)
