@@ -44,6 +44,7 @@ int run(int argc, char** argv, const char* version, const Painting* painting) {
     addFacts(program, status);
     addLosses(program, status, painting);
     addPenalties(program, status);
+    addSeason(program, status, painting);
     addDemo(program, status, painting);
     if (const auto ended = call.run(argc, argv))
         return *ended;

@@ -4,6 +4,7 @@
 #include "app/preference_table.h"
 #include "facts/fact_store.h"
 #include "performance/loss_season.h"
+#include "performance/season.h"
 #include "results/categorization.h"
 #include "results/selection_records.h"
 #include "splitdata/document.h"
@@ -52,6 +53,12 @@ public:
     [[nodiscard]] virtual bool isAthletePageWritten(const FactStore& facts,
                                                     const SeasonLossQuery& query,
                                                     const std::filesystem::path& folder) const = 0;
+
+    /// Paints a season into a folder: a report of the team, named after the category, and a page
+    /// for each athlete. As with an athlete's page only earlier ones of the same are replaced.
+    /// False, after a message, when one cannot be written.
+    [[nodiscard]] virtual bool areSeasonPagesWritten(const Season& season,
+                                                     const std::filesystem::path& folder) const = 0;
 
     /// Makes the films of the sample season beside their split files, with a progress bar; a film
     /// that is there already stays. Returns the exit status; throws FileError when a film cannot be

@@ -2,13 +2,12 @@
 
 #include "cli/console.h"
 #include "cli/painting.h"
+#include "cli/team_input.h"
 #include "common/display_text.h"
 #include "common/json_encode.h"
 #include "results/athlete_summary.h"
 #include "results/categorization.h"
-#include "results/team_file.h"
 #include "results/team_seasons.h"
-#include "splitdata/loader.h"
 
 #include <memory>
 #include <optional>
@@ -32,21 +31,6 @@ struct TeamCall {
     bool json = false;
 };
 
-/// The team of a file; nothing, after a message, when it cannot be read.
-std::optional<myTeamToSaveStruct> openedTeam(const std::string& path) {
-    std::string reason;
-    try {
-        return readTeamFile(path);
-    } catch (const DecodeError& error) {
-        reason = error.what();
-    } catch (const FileError& error) {
-        reason = error.reason();
-    }
-    logLine("The file could not be read: " + reason);
-    ConsoleAlerts().show({"", IncompatibleFileText});
-    return std::nullopt;
-}
-
 std::string categoriesOf(const myTeamStruct& athlete) {
     std::string text;
     for (const mtCatsStruct& category : athlete.cats)
@@ -63,7 +47,7 @@ std::string summaryText(const myTeamStruct& athlete, const TeamCall& call,
 }
 
 int summarize(const TeamCall& call) {
-    const auto team = openedTeam(call.file);
+    const auto team = teamOfFile(call.file);
     if (!team)
         return NotDone;
     const myTeamStruct* const athlete = athleteNamed(*team, call.athlete);
@@ -101,7 +85,7 @@ std::string categorizationText(const std::vector<Categorization>& all, const Tea
 
 int categorize(const TeamCall& call, const Painting* painting) {
     const Painting* const painter = neededIf(!call.pdf.empty(), painting);
-    const auto team = openedTeam(call.file);
+    const auto team = teamOfFile(call.file);
     if (!team)
         return NotDone;
     const std::vector<Categorization> all = categorizeTeam(*team, call.category);

@@ -7,6 +7,8 @@
 #include "report/athlete_page.h"
 #include "report/pdf_file.h"
 #include "report/race_report.h"
+#include "report/season_page.h"
+#include "report/season_team_report.h"
 #include "report/selection_report.h"
 #include "report/selection_times_report.h"
 #include "report/team_report.h"
@@ -54,6 +56,15 @@ bool OwnPainting::isAthletePageWritten(const FactStore& facts, const SeasonLossQ
     return areReportsWritten({{report::athletePageFileName(athlete),
                                [&] { return report::athletePage(facts, query); }, true}},
                              folder);
+}
+
+bool OwnPainting::areSeasonPagesWritten(const Season& season, const fs::path& folder) const {
+    std::vector<ReportFile> files{{report::seasonTeamFileName(season),
+                                   [&] { return report::seasonTeamReport(season); }, true}};
+    for (std::size_t i = 0; i < season.athletes.size(); ++i)
+        files.push_back({report::seasonPageFileName(season, i),
+                         [&season, i] { return report::seasonPage(season, i); }, true});
+    return areReportsWritten(files, folder);
 }
 
 int OwnPainting::writeSeasonFilms(const fs::path& folder) const {

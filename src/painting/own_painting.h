@@ -19,6 +19,8 @@ public:
                                           const std::filesystem::path& folder) const override;
     [[nodiscard]] bool isAthletePageWritten(const FactStore& facts, const SeasonLossQuery& query,
                                             const std::filesystem::path& folder) const override;
+    [[nodiscard]] bool areSeasonPagesWritten(const Season& season,
+                                             const std::filesystem::path& folder) const override;
     [[nodiscard]] int writeSeasonFilms(const std::filesystem::path& folder) const override;
 };
 

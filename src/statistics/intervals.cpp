@@ -67,20 +67,56 @@ RatioOf ratioOf(std::span<const double> parts, std::span<const double> wholes) {
     return ratio;
 }
 
+SlopeOf slopeOf(std::span<const double> x, std::span<const double> y) {
+    if (x.size() != y.size())
+        throw std::invalid_argument("a point needs both its numbers");
+    SlopeOf slope{x.size(), 0, std::nullopt};
+    if (x.empty())
+        return slope;
+    const double xMean = sumOf(x) / static_cast<double>(x.size());
+    const double yMean = sumOf(y) / static_cast<double>(y.size());
+    double xx = 0;
+    double xy = 0;
+    for (std::size_t i = 0; i < x.size(); ++i) {
+        xx += (x[i] - xMean) * (x[i] - xMean);
+        xy += (x[i] - xMean) * (y[i] - yMean);
+    }
+    if (!(xx > 0))
+        return slope;
+    slope.slope = xy / xx;
+    if (x.size() < LeastValues)
+        return slope;
+    double squares = 0;
+    for (std::size_t i = 0; i < x.size(); ++i) {
+        const double rest = y[i] - yMean - slope.slope * (x[i] - xMean);
+        squares += rest * rest;
+    }
+    const std::size_t degrees = x.size() - 2;
+    slope.interval =
+        byStudentT(slope.slope, std::sqrt(squares / static_cast<double>(degrees) / xx), degrees);
+    return slope;
+}
+
 std::optional<RateOf> rateOf(std::size_t count, std::size_t of) {
     if (count > of)
         throw std::invalid_argument("something happened more often than it could");
     if (of == 0)
         return std::nullopt;
-    const double z = boost::math::quantile(complement(boost::math::normal(), Tail));
+    const auto x = static_cast<double>(count);
+    return RateOf{count, of, x / static_cast<double>(of), rateInterval(x, of)};
+}
+
+Interval rateInterval(double count, std::size_t of) {
     const auto n = static_cast<double>(of);
-    const double rate = static_cast<double>(count) / n;
+    if (of == 0 || !(count >= 0 && count <= n))
+        throw std::invalid_argument("something happened more often than it could");
+    const double z = boost::math::quantile(complement(boost::math::normal(), Tail));
+    const double rate = count / n;
     const double scale = 1 + z * z / n;
     const double middle = (rate + z * z / (2 * n)) / scale;
     const double reach = z / scale * std::sqrt(rate * (1 - rate) / n + z * z / (4 * n * n));
     // At both ends one bound is the rate itself, which rounding would miss by a hair.
-    return RateOf{
-        count, of, rate, {count == 0 ? 0 : middle - reach, count == of ? 1 : middle + reach}};
+    return {count > 0 ? middle - reach : 0, count < n ? middle + reach : 1};
 }
 
 Interval poissonInterval(std::size_t count, double units) {

@@ -37,6 +37,17 @@ struct RatioOf {
 /// no interval either.
 [[nodiscard]] RatioOf ratioOf(std::span<const double> parts, std::span<const double> wholes);
 
+/// The slope of the least squares line through points, in y's unit per x's.
+struct SlopeOf {
+    std::size_t n = 0;
+    double slope = 0;                 ///< 0 where all x are the same
+    std::optional<Interval> interval; ///< by t with n − 2 degrees; none below LeastValues
+};
+
+/// Both lists are of the same length; throws std::invalid_argument where they are not. Where all x
+/// are the same there is no interval.
+[[nodiscard]] SlopeOf slopeOf(std::span<const double> x, std::span<const double> y);
+
 /// How often something happened among a number of chances.
 struct RateOf {
     std::size_t count = 0;
@@ -51,6 +62,10 @@ struct RateOf {
 /// DasGupta, 2001). Nothing for no chances at all. Throws std::invalid_argument for a count above
 /// the number of chances.
 [[nodiscard]] std::optional<RateOf> rateOf(std::size_t count, std::size_t of);
+
+/// The same interval for a count that need not be whole, as where ties count half. Throws
+/// std::invalid_argument for no chances and for a count below 0 or above their number.
+[[nodiscard]] Interval rateInterval(double count, std::size_t of);
 
 /// The exact interval of a Poisson mean per unit, from a count over `units` of them (Garwood,
 /// 1936). Throws std::invalid_argument where `units` is not above 0.

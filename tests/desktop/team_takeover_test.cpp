@@ -3,6 +3,7 @@
 #include "desktop/charts/series_chart.h"
 #include "desktop/people/found_lines_view.h"
 #include "desktop/team/charts/chart_tabs.h"
+#include "desktop/team/takeover/take_over.h"
 #include "desktop/team/takeover/take_over_dialog.h"
 #include "splitdata/document.h"
 
@@ -95,6 +96,17 @@ TEST_F(TeamTakeoverTest, TakesResultsOverFromASplitFileAfterShowingThem) {
                 HasSubstr("WC3;Praha;Result;2"));
     press(*window, Qt::CTRL | Qt::Key_Z);
     EXPECT_EQ(encode(window->document().value()), encode(smallTeam()));
+}
+
+TEST(TeamTakeover, TakesNoPlaceholderForATime) {
+    splittakerdata031 file = splitFile();
+    file.athletes[1].sectioninfo.realtime = 999.9;
+    file.athletes[2] = run("Zoe Fast", "Final", {999.9, 48});
+    const desktop::FoundRace race = desktop::foundInSplitFile(file);
+    EXPECT_EQ(race.results[1].run->time, 94) << "that of the video";
+    EXPECT_EQ(race.results[1].fault, "");
+    EXPECT_EQ(race.results[2].fault, "the run was not finished");
+    EXPECT_EQ(race.results[3].run->pos, 1);
 }
 
 TEST_F(TeamTakeoverTest, AListReplacesTheResultButKeepsTheSplits) {

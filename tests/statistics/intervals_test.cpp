@@ -81,4 +81,20 @@ TEST(Intervals, OfACountAreExact) {
         EXPECT_THROW((void)poissonInterval(1, units), std::invalid_argument);
 }
 
+TEST(Intervals, OfARateTakeHalves) {
+    expectClose(rateInterval(2.5, 4), 0.2629420426175107, 0.8861883010818132, "ties count half");
+    EXPECT_EQ(rateInterval(2, 3), rateOf(2, 3)->interval);
+    EXPECT_THROW((void)rateInterval(0, 0), std::invalid_argument);
+    EXPECT_THROW((void)rateInterval(2.5, 2), std::invalid_argument);
+}
+
+TEST(Intervals, OfASlopeNeedThreeDifferentPlaces) {
+    const SlopeOf slope = slopeOf(std::vector{0.0, 1.0, 2.0, 3.0}, std::vector{1.0, 3.0, 5.0, 7.0});
+    EXPECT_NEAR(slope.slope, 2, Close);
+    expectClose(slope.interval.value(), 2, 2, "all on the line");
+    EXPECT_EQ(slopeOf(std::vector{1.0, 2.0}, std::vector{1.0, 2.0}).interval, std::nullopt);
+    EXPECT_EQ(slopeOf(std::vector(4, 1.0), std::vector{1.0, 2.0, 3.0, 4.0}).slope, 0);
+    EXPECT_THROW((void)slopeOf(std::vector{1.0}, {}), std::invalid_argument);
+}
+
 } // namespace kavela::test

@@ -4,6 +4,7 @@
 #include "desktop/team/takeover/team_labels.h"
 #include "splitdata/athlete_keys.h"
 #include "splitdata/run_timing.h"
+#include "splitdata/run_totals.h"
 
 #include <algorithm>
 #include <map>
@@ -43,8 +44,10 @@ TakenRun takenRun(const athletedata031& run, const infodata031& info) {
     phase.phase = teamPhase(run.phase);
     phase.pos = run.pos;
     phase.date = info.date;
-    phase.time = timing.realtime != 0 ? timing.realtime : timing.totaltime;
-    phase.pen = timing.realtime != 0 ? timing.realpen : timing.totalpen;
+    // Lists write 999.9 where there is no result.
+    const bool isOfficial = isTakenTime(timing.realtime);
+    phase.time = isOfficial ? timing.realtime : timing.totaltime;
+    phase.pen = isOfficial ? timing.realpen : timing.totalpen;
     phase.splits = timing.times;
     if (result.category.empty()) {
         result.category = category;
@@ -52,7 +55,8 @@ TakenRun takenRun(const athletedata031& run, const infodata031& info) {
     } else if (phase.phase.empty()) {
         phase.phase = run.phase;
         result.fault = "no phase of the team is called \"" + run.phase + "\"";
-    } else if (phase.time == 0 || (timing.realtime == 0 && !taken.isWhole)) {
+    } else if (!isTakenTime(phase.time) || (!isOfficial && !taken.isWhole) ||
+               isRefused(info, run)) {
         result.fault = NotFinished;
     }
     return taken;
@@ -65,7 +69,7 @@ void fillPercentages(const Field& field) {
         const std::vector<double>& times = taken->result.run->splits;
         best.resize(std::max(best.size(), times.size()));
         for (std::size_t i = 0; i < times.size(); ++i)
-            if (times[i] > 0 && (best[i] == 0 || times[i] < best[i]))
+            if (isTakenTime(times[i]) && (best[i] == 0 || times[i] < best[i]))
                 best[i] = times[i];
     }
     for (TakenRun* taken : field) {
@@ -150,12 +154,12 @@ FoundRace foundInList(const ResultsList& list, const ListFacts& facts) {
         mtPhaseStruct& run = found.run.emplace();
         run.phase = facts.phase;
         run.pos = line.pos;
-        run.time = line.time;
+        run.time = isTakenTime(line.time) ? line.time : 0;
         run.pen = line.pen;
         run.date = facts.date;
         if (line.time < 0 || line.pen < 0)
             found.fault = "a time or a penalty is below 0";
-        else if (line.time == 0 && line.pos <= 0)
+        else if (run.time == 0 && line.pos <= 0)
             found.fault = NotFinished;
         race.results.push_back(found);
         if (facts.isFinalClassification && line.pos > 0)
