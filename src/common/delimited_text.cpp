@@ -87,6 +87,15 @@ std::string withSingleQuotes(std::string_view field) {
     return single;
 }
 
+std::string csvField(const std::string& text) {
+    if (text.find_first_of(";\"\n\r") == std::string::npos)
+        return text;
+    std::string quoted = "\"";
+    for (const char c : text)
+        quoted += c == '"' ? std::string(2, c) : std::string(1, c);
+    return quoted + '"';
+}
+
 bool DelimitedReader::next() {
     while (!m_text.empty()) {
         const std::string_view line = takeLine(m_text);

@@ -33,6 +33,9 @@ void splitFields(std::string_view line, char separator, std::vector<std::string_
 /// A bare field in which doubled quotes stand for one.
 [[nodiscard]] std::string withSingleQuotes(std::string_view field);
 
+/// A field of a list with semicolons, in quotes where it needs them.
+[[nodiscard]] std::string csvField(const std::string& text);
+
 /// Goes through the lines of a list that have something on them.
 class DelimitedReader {
 public:

@@ -47,15 +47,6 @@ bool isOfPlace(const FoundColumn& column) {
     return std::ranges::count(FoundPlaceTitles, column.name) > 0;
 }
 
-std::string csvField(const std::string& text) {
-    if (text.find_first_of(";\"\n\r") == std::string::npos)
-        return text;
-    std::string quoted = "\"";
-    for (const char c : text)
-        quoted += c == '"' ? std::string(2, c) : std::string(1, c);
-    return quoted + '"';
-}
-
 std::string findCsv(const QueryAnswer& answer) {
     std::string text;
     for (const std::string_view title : FoundPlaceTitles)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "common/delimited_text.h"
 #include "common/why.h"
 #include "facts/query.h"
 
@@ -35,9 +36,6 @@ struct FoundPlaceTexts {
 /// The answer for spreadsheets: each row with the place where it is to be seen, semicolons, a line
 /// of titles, numbers with all their digits.
 [[nodiscard]] std::string findCsv(const QueryAnswer& answer);
-
-/// A field of a list with semicolons, in quotes where it needs them.
-[[nodiscard]] std::string csvField(const std::string& text);
 
 /// The file, run and frame to be opened for a row. The moment is left out where it is not known or
 /// lies in another film than the run's first.

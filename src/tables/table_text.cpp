@@ -1,0 +1,28 @@
+#include "tables/table_text.h"
+
+#include "common/delimited_text.h"
+#include "common/number_text.h"
+
+namespace kavela {
+
+std::string plainCellText(const TableColumn& column, std::size_t row) {
+    const TableCell& cell = column.cells[row];
+    if (!cell.number)
+        return cell.text;
+    return column.kind == ColumnKind::Date ? dayNumberText(*cell.number) : plainText(*cell.number);
+}
+
+std::string tableCsv(const Table& table) {
+    std::string text;
+    for (std::size_t i = 0; i < table.columns.size(); ++i)
+        text += (i > 0 ? ";" : "") + csvField(table.columns[i].name);
+    text += '\n';
+    for (std::size_t row = 0; row < table.rows(); ++row) {
+        for (std::size_t i = 0; i < table.columns.size(); ++i)
+            text += (i > 0 ? ";" : "") + csvField(plainCellText(table.columns[i], row));
+        text += '\n';
+    }
+    return text;
+}
+
+} // namespace kavela
