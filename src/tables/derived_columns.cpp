@@ -199,7 +199,7 @@ private:
         case Derivation::Rank:
             return static_cast<double>(1 + betterThan(all, *number));
         case Derivation::Gap:
-            return m_derived.isHighestBest ? best - *number : *number - best;
+            return *number - best;
         case Derivation::Percent:
             if (best == 0)
                 return std::nullopt;

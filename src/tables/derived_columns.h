@@ -12,7 +12,7 @@ namespace kavela {
 enum class Derivation {
     Total,      ///< sum; an empty cell of whole numbers, a clean run's penalty, adds nothing
     Rank,       ///< 1 + rows with a better number, times to the hundredth; equal ones share
-    Gap,        ///< the number less the best
+    Gap,        ///< how far the number is behind the best
     Percent,    ///< 100 · (number / best − 1)
     Percentile, ///< of the other rows' numbers, how many percent are better: 0 for the best
     Difference, ///< the first column less the second

@@ -38,9 +38,8 @@ std::vector<ListGrid> readLists(std::string bytes) {
     } else {
         lists = readSheets(bytes);
     }
-    std::erase_if(lists, [](const ListGrid& list) {
-        return list.lines.empty() && list.refused.empty();
-    });
+    std::erase_if(lists,
+                  [](const ListGrid& list) { return list.lines.empty() && list.refused.empty(); });
     if (lists.empty())
         throw TableError("There is nothing in it.");
     return lists;
