@@ -190,13 +190,16 @@ private:
     }
 
     void tellNoResult(std::size_t i, const OfficialLine& line) {
-        const double ours = m_filmed[i] ? m_filmed[i]->paddling : 0;
-        const double real = m_document.athletes[m_runs[i]].sectioninfo.realtime;
-        if (line.status.empty() || (ours == 0 && !isTakenTime(real)))
+        const athletedata031& run = m_document.athletes[m_runs[i]];
+        const double real = run.sectioninfo.realtime;
+        const double ours = m_filmed[i] ? m_filmed[i]->paddling : real;
+        if (line.status.empty() || !isTakenTime(ours))
             return;
+        const bool isOpen = isTakenTime(real) || !isRefused(m_document.info, run);
+        const std::string proposal = isOpen ? ". Take " + line.status + " over?" : ".";
         add(OfficialDifferenceKind::NoResult, i,
-            "the list says " + line.status + ", ours is " + hundredthsText(ours > 0 ? ours : real) +
-                ". Take " + line.status + " over?");
+            "the list says " + line.status + ", ours is " + hundredthsText(ours) + proposal)
+            .isOpen = isOpen;
     }
 
     void tellSwap(std::size_t i, std::size_t other) {
