@@ -38,6 +38,6 @@ struct ListGrid {
 /// More than this no list of results has; what lies beyond is refused, never silently dropped.
 inline constexpr std::size_t MostGridLines = 200'000;
 inline constexpr std::size_t MostGridColumns = 256;
-inline constexpr std::size_t MostGridCells = 4'000'000;
+inline constexpr std::size_t MostGridCells = 1'000'000;
 
 } // namespace kavela

@@ -48,6 +48,8 @@ std::vector<ListGrid> readLists(std::string bytes) {
 ListGrid chosenList(std::vector<ListGrid> lists, std::string_view name) {
     if (lists.size() == 1 && name.empty())
         return std::move(lists.front());
+    if (lists.size() == 1 && lists.front().isText())
+        throw TableError("A text has no sheet \"" + std::string(name) + "\".");
     const std::string wanted = folded(name);
     std::string names;
     for (ListGrid& list : lists) {

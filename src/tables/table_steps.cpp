@@ -100,6 +100,11 @@ struct StepWriter {
     }
 };
 
+/// Whether the list has to be read anew for a step.
+bool isAboutReading(const TableStep& step) {
+    return std::holds_alternative<TitlesStep>(step) || std::holds_alternative<KindStep>(step);
+}
+
 /// What steps say about how the list is read; the last word on a column counts.
 TableReading readingOf(const ListGrid& source, std::span<const TableStep> steps) {
     TableReading reading;
@@ -141,7 +146,13 @@ TableSteps TableSteps::with(TableStep step) const {
     more.m_steps.resize(m_taken);
     more.m_steps.push_back(std::move(step));
     ++more.m_taken;
-    more.makeTable();
+    if (isAboutReading(more.m_steps.back())) {
+        more.makeTable();
+        return more;
+    }
+    Table table = *m_table;
+    std::visit(StepTaker{table}, more.m_steps.back());
+    more.m_table = std::make_shared<const Table>(std::move(table));
     return more;
 }
 
