@@ -13,13 +13,13 @@ namespace {
 using namespace kavela;
 
 void checkTable(const ListGrid& grid) {
-    const Table table = tableOf(grid);
+    const ListTable table = tableOf(grid);
     std::int64_t before = 0;
     for (const std::int64_t line : table.lines)
         fuzz::require(line > std::exchange(before, line));
-    for (const TableColumn& column : table.columns) {
+    for (const GridColumn& column : table.columns) {
         fuzz::require(!column.name.empty() && column.cells.size() == table.rows());
-        for (const TableCell& cell : column.cells)
+        for (const GridCell& cell : column.cells)
             fuzz::require(!cell.number || std::isfinite(*cell.number));
     }
     for (const RefusedCell& cell : table.refused)

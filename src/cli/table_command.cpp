@@ -70,7 +70,7 @@ std::optional<ListGrid> listOfCall(const TableCall& call) {
     return listOfRace(race->document.info, call.file, call.sheet);
 }
 
-Table tableOfCall(const TableCall& call, ListGrid list) {
+ListTable tableOfCall(const TableCall& call, ListGrid list) {
     TableSteps steps(std::move(list));
     for (const std::string& text : call.derive)
         steps = steps.with(parsedDerivedColumn(text));
@@ -80,7 +80,7 @@ Table tableOfCall(const TableCall& call, ListGrid list) {
 }
 
 /// The unsure rows, which only a coach can tell.
-void tellUnsure(const Table& table, std::span<const KnownAthlete> athletes,
+void tellUnsure(const ListTable& table, std::span<const KnownAthlete> athletes,
                 std::span<const JoinedRow> joined) {
     for (const JoinedRow& row : joined) {
         if (row.certainty != JoinCertainty::Unsure)
@@ -95,7 +95,7 @@ void tellUnsure(const Table& table, std::span<const KnownAthlete> athletes,
 }
 
 int tellTable(const TableCall& call, ListGrid list) {
-    const Table table = tableOfCall(call, std::move(list));
+    const ListTable table = tableOfCall(call, std::move(list));
     for (const std::string& note : table.notes)
         logLine(note);
     std::vector<KnownAthlete> athletes;

@@ -44,9 +44,9 @@ std::string joinedText(const TablePrint& print, const JoinedRow& joined) {
 
 std::vector<PrintedTableColumn> printedTable(const TablePrint& print) {
     std::vector<PrintedTableColumn> columns;
-    for (const TableColumn& column : print.table.columns) {
+    for (const GridColumn& column : print.table.columns) {
         PrintedTableColumn printed{tableLineOf(column.name), isReckoned(column.kind), 0, {}};
-        for (const TableCell& cell : column.cells)
+        for (const GridCell& cell : column.cells)
             printed.texts.push_back(tableLineOf(cell.text));
         addPrinted(columns, std::move(printed));
     }
@@ -81,26 +81,26 @@ std::string refusedText(const RefusedCell& cell) {
     return text + ": " + tableLineOf(cell.reason) + '\n';
 }
 
-std::string jsonCell(const TableColumn& column, std::size_t row) {
-    const TableCell& cell = column.cells[row];
-    if (column.kind == ColumnKind::Date)
+std::string jsonCell(const GridColumn& column, std::size_t row) {
+    const GridCell& cell = column.cells[row];
+    if (column.kind == ListColumnKind::Date)
         return cell.number ? encode(plainCellText(column, row)) : "null";
     if (cell.number)
         return encode(*cell.number);
-    const bool isWord = cell.isStatus || column.kind == ColumnKind::Text;
+    const bool isWord = cell.isStatus || column.kind == ListColumnKind::Text;
     return isWord && !cell.text.empty() ? encode(validUtf8(cell.text)) : "null";
 }
 
-std::string jsonColumns(const Table& table) {
+std::string jsonColumns(const ListTable& table) {
     std::string text;
-    for (const TableColumn& column : table.columns)
+    for (const GridColumn& column : table.columns)
         text += (text.empty() ? "{\"name\":" : ",{\"name\":") + encode(validUtf8(column.name)) +
                 ",\"kind\":\"" + std::string(kindName(column.kind)) +
                 "\",\"derived\":" + (column.isDerived ? "true}" : "false}");
     return text;
 }
 
-std::string jsonRows(const Table& table) {
+std::string jsonRows(const ListTable& table) {
     std::string text;
     for (std::size_t row = 0; row < table.rows(); ++row) {
         text += row > 0 ? ",[" : "[";
@@ -111,7 +111,7 @@ std::string jsonRows(const Table& table) {
     return text;
 }
 
-std::string jsonRefused(const Table& table) {
+std::string jsonRefused(const ListTable& table) {
     std::string text;
     for (const RefusedCell& cell : table.refused)
         text += (text.empty() ? "{\"line\":" : ",{\"line\":") + std::to_string(cell.line) +

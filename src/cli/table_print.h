@@ -11,7 +11,7 @@ namespace kavela::cli {
 
 /// A table with whom its rows are about.
 struct TablePrint {
-    const Table& table;
+    const ListTable& table;
     std::span<const KnownAthlete> athletes;
     std::span<const JoinedRow> joined; ///< empty where nobody asked
 };

@@ -37,7 +37,7 @@ std::string takeStatus(std::string& text) {
 /// Finds what the columns of a table tell of a line.
 class OfficialColumns {
 public:
-    explicit OfficialColumns(const Table& table)
+    explicit OfficialColumns(const ListTable& table)
         : m_table(table),
           m_bib(columnOfRole(table, ColumnRole::Bib)),
           m_category(columnOfRole(table, ColumnRole::Category)),
@@ -66,7 +66,7 @@ public:
     }
 
 private:
-    [[nodiscard]] const TableCell& cell(std::size_t column, std::size_t row) const {
+    [[nodiscard]] const GridCell& cell(std::size_t column, std::size_t row) const {
         return m_table.columns[column].cells[row];
     }
 
@@ -92,7 +92,7 @@ private:
         return isTakenTime(seconds) ? std::optional(seconds) : std::nullopt;
     }
 
-    const Table& m_table;
+    const ListTable& m_table;
     std::optional<std::size_t> m_bib;
     std::optional<std::size_t> m_category;
     std::optional<std::size_t> m_time;
@@ -121,7 +121,7 @@ std::vector<OfficialLine> officialLines(const std::vector<allresultsdata030>& li
     return made;
 }
 
-std::vector<OfficialLine> officialLines(const Table& table) {
+std::vector<OfficialLine> officialLines(const ListTable& table) {
     const OfficialColumns columns(table);
     std::vector<OfficialLine> made;
     for (std::size_t row = 0; row < table.rows(); ++row)

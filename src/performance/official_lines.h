@@ -27,6 +27,6 @@ struct OfficialLine {
 
 /// The lines of a table by the titles of its columns. The time is the total less the penalties
 /// where it has no column. Throws TableError where names, or times, have no column.
-[[nodiscard]] std::vector<OfficialLine> officialLines(const Table& table);
+[[nodiscard]] std::vector<OfficialLine> officialLines(const ListTable& table);
 
 } // namespace kavela

@@ -52,7 +52,7 @@ std::vector<ListGrid> raceTableLists(const infodata031& info, const std::string&
     throw TableError("The split file holds no list \"" + name + "\".");
 }
 
-void keepWithRace(infodata031& info, const Table& table) {
+void keepWithRace(infodata031& info, const ListTable& table) {
     const std::string text = tableCsv(table);
     info.officialresultsAnalysis.bytes = std::vector<unsigned char>(text.begin(), text.end());
 }

@@ -21,6 +21,6 @@ namespace kavela {
 
 /// Keeps a table with the race: as text in its `officialresultsAnalysis`, in place of what was
 /// there. Reading it back gives the same columns and numbers.
-void keepWithRace(infodata031& info, const Table& table);
+void keepWithRace(infodata031& info, const ListTable& table);
 
 } // namespace kavela

@@ -4,7 +4,7 @@
 
 namespace kavela {
 
-std::vector<Band> tableBands(const TableColumn& column) {
+std::vector<Band> tableBands(const GridColumn& column) {
     requireNumbers(column);
     Column numbers;
     for (std::size_t row = 0; row < column.cells.size(); ++row)

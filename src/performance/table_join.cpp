@@ -71,7 +71,7 @@ private:
     std::map<std::string, JoinedRow> m_alike;
 };
 
-std::string textOfRole(const Table& table, ColumnRole role, std::size_t row) {
+std::string textOfRole(const ListTable& table, ColumnRole role, std::size_t row) {
     const auto column = columnOfRole(table, role);
     return column ? table.columns[*column].cells[row].text : std::string();
 }
@@ -88,7 +88,7 @@ std::vector<KnownAthlete> knownAthletes(const myTeamToSaveStruct& team) {
     return known;
 }
 
-std::optional<std::string> crewOfRow(const Table& table, std::size_t row) {
+std::optional<std::string> crewOfRow(const ListTable& table, std::size_t row) {
     const bool isWhole = columnOfRole(table, ColumnRole::Name).has_value();
     const bool hasSurname = columnOfRole(table, ColumnRole::Surname).has_value();
     if (!isWhole && !hasSurname)
@@ -103,7 +103,7 @@ std::optional<std::string> crewOfRow(const Table& table, std::size_t row) {
     return given.empty() ? surname : surname + ' ' + given;
 }
 
-std::vector<JoinedRow> joinedRows(const Table& table, std::span<const KnownAthlete> athletes) {
+std::vector<JoinedRow> joinedRows(const ListTable& table, std::span<const KnownAthlete> athletes) {
     AthleteIndex index(athletes);
     std::vector<JoinedRow> joined;
     for (std::size_t row = 0; row < table.rows(); ++row) {

@@ -34,11 +34,11 @@ struct JoinedRow {
 
 /// The crew of a row as its list writes it, surname and given name put together where they stand
 /// apart; nothing where the table has no column for it.
-[[nodiscard]] std::optional<std::string> crewOfRow(const Table& table, std::size_t row);
+[[nodiscard]] std::optional<std::string> crewOfRow(const ListTable& table, std::size_t row);
 
 /// For each row who it is about, by crew and, where table and athlete tell it, by category. Throws
 /// TableError for a table without a column of names.
-[[nodiscard]] std::vector<JoinedRow> joinedRows(const Table& table,
+[[nodiscard]] std::vector<JoinedRow> joinedRows(const ListTable& table,
                                                 std::span<const KnownAthlete> athletes);
 
 } // namespace kavela

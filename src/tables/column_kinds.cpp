@@ -91,19 +91,19 @@ std::optional<double> dateIn(std::string_view text) {
     return static_cast<double>(sys_days(day).time_since_epoch().count());
 }
 
-std::string_view lackOf(ColumnKind kind) {
+std::string_view lackOf(ListColumnKind kind) {
     switch (kind) {
-    case ColumnKind::Whole:
+    case ListColumnKind::Whole:
         return "no whole number";
-    case ColumnKind::Decimal:
+    case ListColumnKind::Decimal:
         return "no number";
-    case ColumnKind::Time:
+    case ListColumnKind::Time:
         return "no time such as 92.45, 1:32.45 or 92.45 (2)";
-    case ColumnKind::Status:
+    case ListColumnKind::Status:
         return "none of DNS, DNF, DSQ and the like";
-    case ColumnKind::Date:
+    case ListColumnKind::Date:
         return "no day such as 2026-05-03 or 3.5.2026";
-    case ColumnKind::Text:
+    case ListColumnKind::Text:
         break;
     }
     return "";
@@ -111,19 +111,19 @@ std::string_view lackOf(ColumnKind kind) {
 
 } // namespace
 
-std::string_view kindName(ColumnKind kind) {
+std::string_view kindName(ListColumnKind kind) {
     return KindNames.at(static_cast<std::size_t>(kind));
 }
 
-std::optional<ColumnKind> columnKindNamed(std::string_view name) {
+std::optional<ListColumnKind> columnKindNamed(std::string_view name) {
     const auto found = std::ranges::find(KindNames, name);
     return found == KindNames.end()
                ? std::nullopt
-               : std::optional(static_cast<ColumnKind>(found - KindNames.begin()));
+               : std::optional(static_cast<ListColumnKind>(found - KindNames.begin()));
 }
 
-bool isReckoned(ColumnKind kind) {
-    return kind <= ColumnKind::Time;
+bool isReckoned(ListColumnKind kind) {
+    return kind <= ListColumnKind::Time;
 }
 
 bool isNoValue(std::string_view text) {
@@ -138,21 +138,21 @@ bool isStatusWord(std::string_view text) {
     return text.size() <= Longest && std::ranges::find(Words, folded(text)) != Words.end();
 }
 
-CellValue valueAs(ColumnKind kind, std::string_view text) {
+CellValue valueAs(ListColumnKind kind, std::string_view text) {
     CellValue value;
-    if (kind == ColumnKind::Text || isNoValue(text))
+    if (kind == ListColumnKind::Text || isNoValue(text))
         return value;
     if (isStatusWord(text)) {
         value.isStatus = true;
         return value;
     }
-    if (kind == ColumnKind::Whole)
+    if (kind == ListColumnKind::Whole)
         value.number = wholeIn(text);
-    else if (kind == ColumnKind::Decimal)
+    else if (kind == ListColumnKind::Decimal)
         value.number = typedReal(text);
-    else if (kind == ColumnKind::Time)
+    else if (kind == ListColumnKind::Time)
         value = timeIn(text);
-    else if (kind == ColumnKind::Date)
+    else if (kind == ListColumnKind::Date)
         value.number = dateIn(text);
     if (!value.number || !std::isfinite(*value.number)) {
         value = {};
@@ -161,7 +161,7 @@ CellValue valueAs(ColumnKind kind, std::string_view text) {
     return value;
 }
 
-ColumnKind guessedKind(std::span<const std::string> texts) {
+ListColumnKind guessedKind(std::span<const std::string> texts) {
     std::array<std::size_t, KindNames.size()> taken{};
     std::size_t cells = 0;
     std::size_t words = 0;
@@ -173,16 +173,16 @@ ColumnKind guessedKind(std::span<const std::string> texts) {
             continue;
         }
         ++cells;
-        for (const ColumnKind kind :
-             {ColumnKind::Whole, ColumnKind::Decimal, ColumnKind::Time, ColumnKind::Date})
+        for (const ListColumnKind kind : {ListColumnKind::Whole, ListColumnKind::Decimal,
+                                          ListColumnKind::Time, ListColumnKind::Date})
             if (valueAs(kind, text).number)
                 ++taken.at(static_cast<std::size_t>(kind));
     }
     if (cells == 0)
-        return words > 0 ? ColumnKind::Status : ColumnKind::Text;
+        return words > 0 ? ListColumnKind::Status : ListColumnKind::Text;
     const auto most = std::ranges::max_element(taken); // the first, which is the narrowest
     const bool isEnough = *most * 3 >= cells * 2;
-    return isEnough ? static_cast<ColumnKind>(most - taken.begin()) : ColumnKind::Text;
+    return isEnough ? static_cast<ListColumnKind>(most - taken.begin()) : ListColumnKind::Text;
 }
 
 std::string dayNumberText(double days) {

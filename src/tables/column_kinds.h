@@ -10,7 +10,7 @@
 namespace kavela {
 
 /// From the narrowest on: each number is a time too, and everything is a text.
-enum class ColumnKind {
+enum class ListColumnKind {
     Whole,   ///< "12", "12."
     Decimal, ///< "92.45", "92,45"
     Time,    ///< seconds: "92.45", "1:32.45", with penalty "92.45 (2)" or "92.45 +2"
@@ -20,11 +20,11 @@ enum class ColumnKind {
 };
 
 /// "whole", "decimal", "time", "status", "date" or "text".
-[[nodiscard]] std::string_view kindName(ColumnKind kind);
-[[nodiscard]] std::optional<ColumnKind> columnKindNamed(std::string_view name);
+[[nodiscard]] std::string_view kindName(ListColumnKind kind);
+[[nodiscard]] std::optional<ListColumnKind> columnKindNamed(std::string_view name);
 
 /// Whether a kind has numbers to reckon with. Days are ordered, but not reckoned with.
-[[nodiscard]] bool isReckoned(ColumnKind kind);
+[[nodiscard]] bool isReckoned(ListColumnKind kind);
 
 /// What a cell holds, read as one of a kind.
 struct CellValue {
@@ -41,12 +41,12 @@ struct CellValue {
 [[nodiscard]] bool isStatusWord(std::string_view text);
 
 /// A cell's text as one of a column of a kind. Cells that stand for nothing have no number.
-[[nodiscard]] CellValue valueAs(ColumnKind kind, std::string_view text);
+[[nodiscard]] CellValue valueAs(ListColumnKind kind, std::string_view text);
 
 /// The kind that takes most of the cells, the narrowest of several; text where none takes two
 /// thirds of them. Cells that stand for nothing do not count, words such as DNF only where there is
 /// nothing else.
-[[nodiscard]] ColumnKind guessedKind(std::span<const std::string> texts);
+[[nodiscard]] ListColumnKind guessedKind(std::span<const std::string> texts);
 
 /// "2026-05-03" for a number of days since 1970-01-01.
 [[nodiscard]] std::string dayNumberText(double days);

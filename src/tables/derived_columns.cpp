@@ -61,7 +61,7 @@ std::string unquotedName(std::string_view text) {
 /// A derived column of one table, cell by cell.
 class DerivedCells {
 public:
-    DerivedCells(const Table& table, const DerivedColumn& derived)
+    DerivedCells(const ListTable& table, const DerivedColumn& derived)
         : m_table(table), m_derived(derived) {
         for (const std::string& name : derived.columns)
             m_columns.push_back(columnPlace(table, name));
@@ -77,8 +77,8 @@ public:
             std::ranges::sort(numbers);
     }
 
-    [[nodiscard]] TableColumn column() const {
-        TableColumn made;
+    [[nodiscard]] GridColumn column() const {
+        GridColumn made;
         made.name = uniqueColumnName(m_table, std::string(derivationName(m_derived.what)));
         made.isDerived = true;
         made.kind = kind();
@@ -89,7 +89,7 @@ public:
     }
 
 private:
-    [[nodiscard]] const TableColumn& first() const { return m_table.columns[m_columns.front()]; }
+    [[nodiscard]] const GridColumn& first() const { return m_table.columns[m_columns.front()]; }
 
     void takeUsualColumns() {
         if (m_derived.what == Derivation::Difference)
@@ -98,7 +98,7 @@ private:
             m_columns = {resultColumn(m_table)};
             return;
         }
-        const auto isTime = [](const TableColumn& column) {
+        const auto isTime = [](const GridColumn& column) {
             return isReckoned(column.kind) && column.holdsTimes &&
                    roleOf(column.name) != ColumnRole::Total;
         };
@@ -138,30 +138,30 @@ private:
         return m_derived.isHighestBest ? -*number : *number;
     }
 
-    [[nodiscard]] ColumnKind kind() const {
+    [[nodiscard]] ListColumnKind kind() const {
         if (m_derived.what == Derivation::Rank)
-            return ColumnKind::Whole;
+            return ListColumnKind::Whole;
         if (m_derived.what == Derivation::Percent || m_derived.what == Derivation::Percentile)
-            return ColumnKind::Decimal;
-        ColumnKind widest = ColumnKind::Whole;
+            return ListColumnKind::Decimal;
+        ListColumnKind widest = ListColumnKind::Whole;
         for (const std::size_t column : m_columns)
             widest = std::max(widest, m_table.columns[column].kind);
         // A gap may be below 0, where the highest is the best, and so may a difference.
-        return widest == ColumnKind::Time && m_derived.what != Derivation::Total
-                   ? ColumnKind::Decimal
+        return widest == ListColumnKind::Time && m_derived.what != Derivation::Total
+                   ? ListColumnKind::Decimal
                    : widest;
     }
 
-    [[nodiscard]] TableCell cell(std::size_t row, ColumnKind kind) const {
-        TableCell made;
+    [[nodiscard]] GridCell cell(std::size_t row, ListColumnKind kind) const {
+        GridCell made;
         made.number = isCompared() ? comparison(row) : sum(row);
         if (made.number) {
-            made.text = kind == ColumnKind::Whole ? shortestText(*made.number)
-                                                  : hundredthsText(*made.number);
+            made.text = kind == ListColumnKind::Whole ? shortestText(*made.number)
+                                                      : hundredthsText(*made.number);
             return made;
         }
         for (const std::size_t column : m_columns) {
-            const TableCell& source = m_table.columns[column].cells[row];
+            const GridCell& source = m_table.columns[column].cells[row];
             if (source.isStatus) {
                 made.isStatus = true;
                 made.text = source.text;
@@ -176,10 +176,10 @@ private:
         const double sign = m_derived.what == Derivation::Difference ? -1 : 1;
         double sum = 0;
         for (std::size_t i = 0; i < m_columns.size(); ++i) {
-            const TableColumn& column = m_table.columns[m_columns[i]];
-            const TableCell& source = column.cells[row];
+            const GridColumn& column = m_table.columns[m_columns[i]];
+            const GridCell& source = column.cells[row];
             const bool isClean = m_derived.what == Derivation::Total && i > 0 &&
-                                 !column.holdsTimes && column.kind == ColumnKind::Whole &&
+                                 !column.holdsTimes && column.kind == ListColumnKind::Whole &&
                                  isNoValue(source.text);
             const auto number = isClean ? std::optional(0.0) : column.counted(row);
             if (!number)
@@ -221,7 +221,7 @@ private:
         return static_cast<std::size_t>(end - all.begin());
     }
 
-    const Table& m_table;
+    const ListTable& m_table;
     const DerivedColumn& m_derived;
     std::vector<std::size_t> m_columns;
     std::optional<std::size_t> m_by;
@@ -292,8 +292,8 @@ std::string textOf(const DerivedColumn& derived) {
     return text;
 }
 
-Table withDerived(Table table, const DerivedColumn& derived) {
-    TableColumn column = DerivedCells(table, derived).column();
+ListTable withDerived(ListTable table, const DerivedColumn& derived) {
+    GridColumn column = DerivedCells(table, derived).column();
     table.columns.push_back(std::move(column));
     return table;
 }

@@ -42,7 +42,7 @@ struct DerivedColumn {
 /// The table with the column behind the others, named after what it is. A row has no number where
 /// one that goes into it is missing or no time of a run; a word such as DNF is carried over. Throws
 /// TableError for columns that are missing or have no numbers.
-[[nodiscard]] Table withDerived(Table table, const DerivedColumn& derived);
+[[nodiscard]] ListTable withDerived(ListTable table, const DerivedColumn& derived);
 
 /// Parts of a text between commas that stand outside quotes, quotes taken off, blanks around cut.
 [[nodiscard]] std::vector<std::string> commaParts(std::string_view text);

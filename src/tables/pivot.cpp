@@ -28,7 +28,7 @@ struct PivotKeys {
     std::vector<std::size_t> ofRow;
 };
 
-PivotKeys pivotKeys(const Table& table, const TableColumn& column) {
+PivotKeys pivotKeys(const ListTable& table, const GridColumn& column) {
     std::vector<std::size_t> rows(table.rows());
     std::iota(rows.begin(), rows.end(), std::size_t{0});
     std::ranges::stable_sort(
@@ -63,38 +63,38 @@ double pivotFigure(PivotFunction function, std::vector<double>& numbers) {
     return numbers.back();
 }
 
-ColumnKind pivotKind(PivotFunction function, ColumnKind kind) {
+ListColumnKind pivotKind(PivotFunction function, ListColumnKind kind) {
     if (function == PivotFunction::Count)
-        return ColumnKind::Whole;
+        return ListColumnKind::Whole;
     const bool isParted = function == PivotFunction::Mean || function == PivotFunction::Median;
-    return isParted && kind == ColumnKind::Whole ? ColumnKind::Decimal : kind;
+    return isParted && kind == ListColumnKind::Whole ? ListColumnKind::Decimal : kind;
 }
 
-TableCell pivotCell(ColumnKind kind, PivotFunction function, std::vector<double>& numbers) {
-    TableCell cell;
+GridCell pivotCell(ListColumnKind kind, PivotFunction function, std::vector<double>& numbers) {
+    GridCell cell;
     if (numbers.empty())
         return cell;
     cell.number = pivotFigure(function, numbers);
     cell.text =
-        kind == ColumnKind::Whole ? shortestText(*cell.number) : hundredthsText(*cell.number);
+        kind == ListColumnKind::Whole ? shortestText(*cell.number) : hundredthsText(*cell.number);
     return cell;
 }
 
 /// The numbers that a figure is of.
-std::optional<double> pivotNumber(const TableColumn& column, std::size_t row,
+std::optional<double> pivotNumber(const GridColumn& column, std::size_t row,
                                   PivotFunction function) {
     if (function != PivotFunction::Count)
         return column.counted(row);
     return isNoValue(column.cells[row].text) ? std::nullopt : std::optional(1.0);
 }
 
-Table pivotRows(const Table& table, const TableColumn& rowColumn, const PivotKeys& keys) {
-    Table made;
+ListTable pivotRows(const ListTable& table, const GridColumn& rowColumn, const PivotKeys& keys) {
+    ListTable made;
     made.separator = table.separator;
     made.refused = table.refused;
     made.notes = table.notes;
     made.lines.assign(keys.texts.size(), 0);
-    TableColumn first;
+    GridColumn first;
     first.name = rowColumn.name;
     first.kind = rowColumn.kind;
     first.holdsTimes = rowColumn.holdsTimes;
@@ -125,9 +125,9 @@ Pivot parsedPivot(std::string_view text) {
             static_cast<PivotFunction>(function - PivotNames.begin())};
 }
 
-Table pivoted(const Table& table, const Pivot& pivot) {
-    const TableColumn& rowColumn = table.columns[columnPlace(table, pivot.row)];
-    const TableColumn& valueColumn = table.columns[columnPlace(table, pivot.value)];
+ListTable pivoted(const ListTable& table, const Pivot& pivot) {
+    const GridColumn& rowColumn = table.columns[columnPlace(table, pivot.row)];
+    const GridColumn& valueColumn = table.columns[columnPlace(table, pivot.value)];
     if (pivot.function != PivotFunction::Count)
         requireNumbers(valueColumn);
     const PivotKeys rows = pivotKeys(table, rowColumn);
@@ -146,9 +146,9 @@ Table pivoted(const Table& table, const Pivot& pivot) {
     for (std::size_t row = 0; row < table.rows(); ++row)
         if (const auto number = pivotNumber(valueColumn, row, pivot.function))
             numbers[rows.ofRow[row] * columns.texts.size() + columns.ofRow[row]].push_back(*number);
-    Table made = pivotRows(table, rowColumn, rows);
+    ListTable made = pivotRows(table, rowColumn, rows);
     for (std::size_t c = 0; c < columns.texts.size(); ++c) {
-        TableColumn column;
+        GridColumn column;
         column.name =
             uniqueColumnName(made, columns.texts[c].empty() ? "(none)" : columns.texts[c]);
         column.kind = pivotKind(pivot.function, valueColumn.kind);

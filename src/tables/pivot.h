@@ -29,6 +29,6 @@ struct Pivot {
 /// A row for each value of one column, a column for each of another, ascending, and in their cells
 /// a figure of the third column's numbers; nothing where there are none. `Count` counts cells that
 /// say something, DNF included. Columns but the first are derived. Throws TableError.
-[[nodiscard]] Table pivoted(const Table& table, const Pivot& pivot);
+[[nodiscard]] ListTable pivoted(const ListTable& table, const Pivot& pivot);
 
 } // namespace kavela

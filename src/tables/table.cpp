@@ -7,15 +7,15 @@
 
 namespace kavela {
 
-std::optional<double> TableColumn::counted(std::size_t row) const {
-    const TableCell& cell = cells[row];
+std::optional<double> GridColumn::counted(std::size_t row) const {
+    const GridCell& cell = cells[row];
     if (!isReckoned(kind) || !cell.number || (holdsTimes && !isRunTime(*cell.number)))
         return std::nullopt;
     return cell.number;
 }
 
-std::size_t columnPlace(const Table& table, std::string_view name) {
-    const auto exact = std::ranges::find(table.columns, name, &TableColumn::name);
+std::size_t columnPlace(const ListTable& table, std::string_view name) {
+    const auto exact = std::ranges::find(table.columns, name, &GridColumn::name);
     if (exact != table.columns.end())
         return static_cast<std::size_t>(exact - table.columns.begin());
     const std::string key = titleKey(name);
@@ -28,52 +28,54 @@ std::size_t columnPlace(const Table& table, std::string_view name) {
     if (fault == std::errc() && rest == end && number >= 1 && number <= table.columns.size())
         return number - 1;
     std::string names;
-    for (const TableColumn& column : table.columns)
+    for (const GridColumn& column : table.columns)
         names += (names.empty() ? "\"" : ", \"") + column.name + '"';
     throw TableError("There is no column \"" + std::string(name) + "\"; there is " +
                      (names.empty() ? "none" : names) + '.');
 }
 
-std::optional<std::size_t> columnOfRole(const Table& table, ColumnRole role) {
+std::optional<std::size_t> columnOfRole(const ListTable& table, ColumnRole role) {
     for (std::size_t i = 0; i < table.columns.size(); ++i)
         if (roleOf(table.columns[i].name) == role)
             return i;
     return std::nullopt;
 }
 
-std::size_t resultColumn(const Table& table) {
+std::size_t resultColumn(const ListTable& table) {
     const auto first = [&](auto isWanted) -> std::optional<std::size_t> {
         const auto found = std::ranges::find_if(table.columns, isWanted);
         if (found == table.columns.end())
             return std::nullopt;
         return static_cast<std::size_t>(found - table.columns.begin());
     };
-    const auto isTotal = [](const TableColumn& column) {
+    const auto isTotal = [](const GridColumn& column) {
         return isReckoned(column.kind) && roleOf(column.name) == ColumnRole::Total;
     };
-    const auto hasTimes = [](const TableColumn& column) {
+    const auto hasTimes = [](const GridColumn& column) {
         return isReckoned(column.kind) && column.holdsTimes;
     };
     if (const auto total = first(isTotal))
         return *total;
     if (const auto times = first(hasTimes))
         return *times;
-    const auto isDecimal = [](const auto& column) { return column.kind == ColumnKind::Decimal; };
+    const auto isDecimal = [](const auto& column) {
+        return column.kind == ListColumnKind::Decimal;
+    };
     if (const auto decimal = first(isDecimal))
         return *decimal;
     throw TableError("No column holds times; name the one to reckon with.");
 }
 
-void requireNumbers(const TableColumn& column) {
+void requireNumbers(const GridColumn& column) {
     if (!isReckoned(column.kind))
         throw TableError("The column \"" + column.name +
                          "\" has no numbers to reckon with: it is " +
                          std::string(kindName(column.kind)) + '.');
 }
 
-std::string uniqueColumnName(const Table& table, std::string name) {
+std::string uniqueColumnName(const ListTable& table, std::string name) {
     const auto isTaken = [&](const std::string& asked) {
-        return std::ranges::find(table.columns, asked, &TableColumn::name) != table.columns.end();
+        return std::ranges::find(table.columns, asked, &GridColumn::name) != table.columns.end();
     };
     std::string unique = name;
     for (int i = 2; isTaken(unique); ++i)
@@ -81,14 +83,14 @@ std::string uniqueColumnName(const Table& table, std::string name) {
     return unique;
 }
 
-Table withRows(const Table& table, const std::vector<std::size_t>& rows) {
-    Table chosen = table;
+ListTable withRows(const ListTable& table, const std::vector<std::size_t>& rows) {
+    ListTable chosen = table;
     chosen.groups.clear();
     chosen.lines.clear();
     for (const std::size_t row : rows)
         chosen.lines.push_back(table.lines[row]);
     for (std::size_t i = 0; i < chosen.columns.size(); ++i) {
-        std::vector<TableCell> cells;
+        std::vector<GridCell> cells;
         cells.reserve(rows.size());
         for (const std::size_t row : rows)
             cells.push_back(table.columns[i].cells[row]);

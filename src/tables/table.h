@@ -14,20 +14,20 @@
 /// A list whose columns have names and kinds.
 namespace kavela {
 
-struct TableCell {
+struct GridCell {
     std::string text;             ///< as it is shown; of the source as it was written
     std::optional<double> number; ///< see CellValue; none where there is nothing to reckon with
     bool isStatus = false;        ///< DNS, DNF, DSQ beside numbers
 
-    friend bool operator==(const TableCell&, const TableCell&) = default;
+    friend bool operator==(const GridCell&, const GridCell&) = default;
 };
 
-struct TableColumn {
+struct GridColumn {
     std::string name; ///< unique within its table
-    ColumnKind kind = ColumnKind::Text;
+    ListColumnKind kind = ListColumnKind::Text;
     bool isDerived = false;  ///< not of the source
     bool holdsTimes = false; ///< numbers that are no time of a run count nowhere
-    std::vector<TableCell> cells;
+    std::vector<GridCell> cells;
 
     /// The number of a row where it counts: a time of a run where the column holds such.
     [[nodiscard]] std::optional<double> counted(std::size_t row) const;
@@ -43,9 +43,9 @@ struct RowGroup {
 };
 
 /// All columns have a cell for each row.
-struct Table {
+struct ListTable {
     std::string separator; ///< of the source; empty for a spreadsheet or where there was none
-    std::vector<TableColumn> columns;
+    std::vector<GridColumn> columns;
     std::vector<std::int64_t> lines;  ///< by row, in the source; 0 for rows that stand in none
     std::vector<RefusedCell> refused; ///< ascending by line and column
     std::vector<std::string> notes;
@@ -57,22 +57,22 @@ struct Table {
 
 /// The place of a column by its name, else by its name without regard to case, accents and marks,
 /// else by its number from 1. Throws TableError that names the columns there are.
-[[nodiscard]] std::size_t columnPlace(const Table& table, std::string_view name);
+[[nodiscard]] std::size_t columnPlace(const ListTable& table, std::string_view name);
 
 /// The first column of a role; nothing where there is none.
-[[nodiscard]] std::optional<std::size_t> columnOfRole(const Table& table, ColumnRole role);
+[[nodiscard]] std::optional<std::size_t> columnOfRole(const ListTable& table, ColumnRole role);
 
 /// The column that ranks the rows: a total, else the first times, else the first decimals. Throws
 /// TableError when there is none.
-[[nodiscard]] std::size_t resultColumn(const Table& table);
+[[nodiscard]] std::size_t resultColumn(const ListTable& table);
 
 /// Throws TableError for a column without numbers to reckon with.
-void requireNumbers(const TableColumn& column);
+void requireNumbers(const GridColumn& column);
 
 /// The name, or with a number behind it where there is such a column already.
-[[nodiscard]] std::string uniqueColumnName(const Table& table, std::string name);
+[[nodiscard]] std::string uniqueColumnName(const ListTable& table, std::string name);
 
 /// The table with only these rows in this order; groups are dropped.
-[[nodiscard]] Table withRows(const Table& table, const std::vector<std::size_t>& rows);
+[[nodiscard]] ListTable withRows(const ListTable& table, const std::vector<std::size_t>& rows);
 
 } // namespace kavela

@@ -11,15 +11,15 @@ namespace kavela {
 namespace {
 
 /// Numbers first, then words beside them, then nothing.
-int orderClass(const TableColumn& column, const TableCell& cell) {
+int orderClass(const GridColumn& column, const GridCell& cell) {
     if (cell.number)
         return 0;
     if (isNoValue(cell.text))
         return 3;
-    return cell.isStatus || column.kind == ColumnKind::Text ? 1 : 2;
+    return cell.isStatus || column.kind == ListColumnKind::Text ? 1 : 2;
 }
 
-std::vector<std::size_t> inPresentOrder(const Table& table) {
+std::vector<std::size_t> inPresentOrder(const ListTable& table) {
     std::vector<std::size_t> rows(table.rows());
     std::iota(rows.begin(), rows.end(), std::size_t{0});
     return rows;
@@ -27,9 +27,9 @@ std::vector<std::size_t> inPresentOrder(const Table& table) {
 
 } // namespace
 
-bool isCellBefore(const TableColumn& column, std::size_t a, std::size_t b) {
-    const TableCell& first = column.cells[a];
-    const TableCell& second = column.cells[b];
+bool isCellBefore(const GridColumn& column, std::size_t a, std::size_t b) {
+    const GridCell& first = column.cells[a];
+    const GridCell& second = column.cells[b];
     const int classOfFirst = orderClass(column, first);
     const int classOfSecond = orderClass(column, second);
     if (classOfFirst != classOfSecond)
@@ -39,8 +39,8 @@ bool isCellBefore(const TableColumn& column, std::size_t a, std::size_t b) {
     return isNaturallyBefore(first.text, second.text);
 }
 
-Table sortedBy(const Table& table, std::string_view name, bool isDescending) {
-    const TableColumn& column = table.columns[columnPlace(table, name)];
+ListTable sortedBy(const ListTable& table, std::string_view name, bool isDescending) {
+    const GridColumn& column = table.columns[columnPlace(table, name)];
     std::vector<std::size_t> rows = inPresentOrder(table);
     const auto isBefore = [&](std::size_t a, std::size_t b) {
         const bool isSameClass =
@@ -56,19 +56,19 @@ Table sortedBy(const Table& table, std::string_view name, bool isDescending) {
         sortPart(0, rows.size());
     for (const RowGroup& group : table.groups)
         sortPart(group.first, group.count);
-    Table sorted = withRows(table, rows);
+    ListTable sorted = withRows(table, rows);
     sorted.groups = table.groups;
     return sorted;
 }
 
-Table groupedBy(const Table& table, std::string_view name) {
+ListTable groupedBy(const ListTable& table, std::string_view name) {
     const std::size_t place = columnPlace(table, name);
     std::vector<std::size_t> rows = inPresentOrder(table);
     std::stable_sort(rows.begin(), rows.end(), [&](std::size_t a, std::size_t b) {
         return isCellBefore(table.columns[place], a, b);
     });
-    Table grouped = withRows(table, rows);
-    const TableColumn& column = grouped.columns[place];
+    ListTable grouped = withRows(table, rows);
+    const GridColumn& column = grouped.columns[place];
     for (std::size_t row = 0; row < grouped.rows(); ++row) {
         const bool isSame = row > 0 && !isCellBefore(column, row - 1, row);
         if (!isSame)

@@ -10,14 +10,15 @@ namespace kavela {
 
 /// Whether one row's cell stands before another's: numbers ascending, then words such as DNF, then
 /// nothing. Texts as people order them.
-[[nodiscard]] bool isCellBefore(const TableColumn& column, std::size_t a, std::size_t b);
+[[nodiscard]] bool isCellBefore(const GridColumn& column, std::size_t a, std::size_t b);
 
 /// Ordered by a column, descending on wish (what has no number stays at the end); rows that are
 /// equal keep their order, groups their rows. Throws TableError for a missing column.
-[[nodiscard]] Table sortedBy(const Table& table, std::string_view column, bool isDescending);
+[[nodiscard]] ListTable sortedBy(const ListTable& table, std::string_view column,
+                                 bool isDescending);
 
 /// Rows of one value of a column put together, the values in the order of the column. Throws
 /// TableError for a missing column.
-[[nodiscard]] Table groupedBy(const Table& table, std::string_view column);
+[[nodiscard]] ListTable groupedBy(const ListTable& table, std::string_view column);
 
 } // namespace kavela

@@ -47,7 +47,7 @@ public:
     TableMaker(const ListGrid& grid, const TableReading& reading)
         : m_grid(grid), m_reading(reading) {}
 
-    [[nodiscard]] Table make() {
+    [[nodiscard]] ListTable make() {
         m_table.separator = m_grid.separator;
         m_table.notes = m_grid.notes;
         m_table.refused = m_grid.refused;
@@ -110,8 +110,8 @@ private:
         bool hasNumber = false;
         for (std::size_t column = 0; column < lineAt(m_first).fields.size(); ++column) {
             const std::string& text = lineAt(m_first).fields[column];
-            const ColumnKind kind = guessedKind(textsBelow(m_first + 1, column));
-            if (kind == ColumnKind::Text || isNoValue(text))
+            const ListColumnKind kind = guessedKind(textsBelow(m_first + 1, column));
+            if (kind == ListColumnKind::Text || isNoValue(text))
                 continue;
             const CellValue value = valueAs(kind, text);
             if (isYear(value) || (!value.number && !value.isStatus))
@@ -160,19 +160,19 @@ private:
                                                                    : std::string());
             if (title.empty() && std::ranges::all_of(texts, &std::string::empty))
                 continue;
-            TableColumn made;
+            GridColumn made;
             made.name = uniqueColumnName(
                 m_table, title.empty() ? "Column " + std::to_string(column + 1) : title);
             addColumn(std::move(made), column, std::move(texts));
         }
     }
 
-    void addColumn(TableColumn made, std::size_t column, std::vector<std::string> texts) {
+    void addColumn(GridColumn made, std::size_t column, std::vector<std::string> texts) {
         const auto chosen = m_reading.kinds.find(made.name);
         made.kind = chosen == m_reading.kinds.end() ? guessedKind(texts) : chosen->second;
         made.holdsTimes =
-            made.kind == ColumnKind::Time || (isReckoned(made.kind) && saysTimes(made.name));
-        TableColumn penalty;
+            made.kind == ListColumnKind::Time || (isReckoned(made.kind) && saysTimes(made.name));
+        GridColumn penalty;
         bool hasPenalty = false;
         for (std::size_t row = 0; row < texts.size(); ++row) {
             CellValue value = valueAs(made.kind, texts[row]);
@@ -180,7 +180,7 @@ private:
                 refuseCell(lineAt(m_rows[row]), column,
                            value.reason + ": the column is " + std::string(kindName(made.kind)));
             hasPenalty = hasPenalty || value.penalty;
-            TableCell& behind = penalty.cells.emplace_back();
+            GridCell& behind = penalty.cells.emplace_back();
             if (value.penalty) {
                 behind.number = static_cast<double>(*value.penalty);
                 behind.text = std::to_string(*value.penalty);
@@ -192,14 +192,14 @@ private:
         if (!hasPenalty)
             return;
         penalty.name = uniqueColumnName(m_table, name + " penalty");
-        penalty.kind = ColumnKind::Whole;
+        penalty.kind = ListColumnKind::Whole;
         penalty.isDerived = true;
         m_table.columns.push_back(std::move(penalty));
     }
 
     const ListGrid& m_grid;
     const TableReading& m_reading;
-    Table m_table;
+    ListTable m_table;
     std::size_t m_first = 0;
     std::size_t m_width = 0;
     std::vector<std::string> m_titles;
@@ -208,7 +208,7 @@ private:
 
 } // namespace
 
-Table tableOf(const ListGrid& grid, const TableReading& reading) {
+ListTable tableOf(const ListGrid& grid, const TableReading& reading) {
     return TableMaker(grid, reading).make();
 }
 

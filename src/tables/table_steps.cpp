@@ -13,7 +13,7 @@ namespace {
 
 /// Carries one step out. What tells how the list is read was done before.
 struct StepTaker {
-    Table& table;
+    ListTable& table;
 
     void operator()(const TitlesStep&) const {}
     void operator()(const KindStep& step) const { (void)columnPlace(table, step.column); }
@@ -25,7 +25,7 @@ struct StepTaker {
     }
 
     void operator()(const FilterStep& step) const {
-        const TableColumn& column = table.columns[columnPlace(table, step.column)];
+        const GridColumn& column = table.columns[columnPlace(table, step.column)];
         const std::string wanted = folded(step.text);
         std::vector<std::size_t> rows;
         for (std::size_t row = 0; row < table.rows(); ++row) {
@@ -61,7 +61,7 @@ struct StepTaker {
     }
 
     void operator()(const TintStep& step) const {
-        const TableColumn& column = table.columns[columnPlace(table, step.column)];
+        const GridColumn& column = table.columns[columnPlace(table, step.column)];
         requireNumbers(column);
         std::erase(table.coloured, column.name);
         if (step.isTinted)
@@ -115,7 +115,7 @@ TableReading readingOf(const ListGrid& source, std::span<const TableStep> steps)
         steps, [](const TableStep& step) { return std::holds_alternative<KindStep>(step); });
     if (!hasKinds)
         return reading;
-    const Table plain = tableOf(source, reading);
+    const ListTable plain = tableOf(source, reading);
     for (const TableStep& step : steps)
         if (const auto* const kind = std::get_if<KindStep>(&step))
             reading.kinds[plain.columns[columnPlace(plain, kind->column)].name] = kind->kind;
@@ -135,10 +135,10 @@ TableSteps::TableSteps(ListGrid source)
 
 void TableSteps::makeTable() {
     const auto steps = std::span(m_steps).first(m_taken);
-    Table table = tableOf(*m_source, readingOf(*m_source, steps));
+    ListTable table = tableOf(*m_source, readingOf(*m_source, steps));
     for (const TableStep& step : steps)
         std::visit(StepTaker{table}, step);
-    m_table = std::make_shared<const Table>(std::move(table));
+    m_table = std::make_shared<const ListTable>(std::move(table));
 }
 
 TableSteps TableSteps::with(TableStep step) const {
@@ -150,9 +150,9 @@ TableSteps TableSteps::with(TableStep step) const {
         more.makeTable();
         return more;
     }
-    Table table = *m_table;
+    ListTable table = *m_table;
     std::visit(StepTaker{table}, more.m_steps.back());
-    more.m_table = std::make_shared<const Table>(std::move(table));
+    more.m_table = std::make_shared<const ListTable>(std::move(table));
     return more;
 }
 

@@ -21,7 +21,7 @@ struct TitlesStep {
 /// Another kind for a column of the list than the guessed one.
 struct KindStep {
     std::string column;
-    ColumnKind kind = ColumnKind::Text;
+    ListColumnKind kind = ListColumnKind::Text;
     friend bool operator==(const KindStep&, const KindStep&) = default;
 };
 /// Leaves a column out.
@@ -67,7 +67,7 @@ public:
 
     [[nodiscard]] const ListGrid& source() const { return *m_source; }
     /// The table after the steps that are not taken back.
-    [[nodiscard]] const Table& table() const { return *m_table; }
+    [[nodiscard]] const ListTable& table() const { return *m_table; }
 
     /// With one more step; those that were taken back are forgotten. Throws TableError for a step
     /// that cannot be taken, or with which a later one no longer can.
@@ -87,7 +87,7 @@ private:
     void makeTable();
 
     std::shared_ptr<const ListGrid> m_source;
-    std::shared_ptr<const Table> m_table;
+    std::shared_ptr<const ListTable> m_table;
     std::vector<TableStep> m_steps;
     std::size_t m_taken = 0;
 };

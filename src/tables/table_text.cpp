@@ -5,14 +5,15 @@
 
 namespace kavela {
 
-std::string plainCellText(const TableColumn& column, std::size_t row) {
-    const TableCell& cell = column.cells[row];
+std::string plainCellText(const GridColumn& column, std::size_t row) {
+    const GridCell& cell = column.cells[row];
     if (!cell.number)
         return cell.text;
-    return column.kind == ColumnKind::Date ? dayNumberText(*cell.number) : plainText(*cell.number);
+    return column.kind == ListColumnKind::Date ? dayNumberText(*cell.number)
+                                               : plainText(*cell.number);
 }
 
-std::string tableCsv(const Table& table) {
+std::string tableCsv(const ListTable& table) {
     std::string text;
     for (std::size_t i = 0; i < table.columns.size(); ++i)
         text += (i > 0 ? ";" : "") + csvField(table.columns[i].name);

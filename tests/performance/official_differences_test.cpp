@@ -122,11 +122,11 @@ TEST(OfficialLines, ReadStatusAndTotals) {
 TEST(RaceTables, AreKeptWithTheRace) {
     infodata031 info;
     info.resultsCSVdata = {{1, 4, "Anna; Bell", "CZE", 90.25, 2, 92.25}};
-    const Table table = tableOf(raceTableLists(info, "resultsCSVdata").at(0));
+    const ListTable table = tableOf(raceTableLists(info, "resultsCSVdata").at(0));
     EXPECT_EQ(table.columns[2].cells[0].text, "Anna; Bell");
     keepWithRace(info, table);
     EXPECT_THAT(raceTableNames(info), ElementsAre("resultsCSVdata", "officialresultsAnalysis"));
-    const Table kept = tableOf(raceTableLists(info, "officialresultsAnalysis").at(0));
+    const ListTable kept = tableOf(raceTableLists(info, "officialresultsAnalysis").at(0));
     ASSERT_THAT(kept.columns, SizeIs(table.columns.size()));
     for (std::size_t i = 0; i < kept.columns.size(); ++i) {
         EXPECT_EQ(kept.columns[i].name, table.columns[i].name);

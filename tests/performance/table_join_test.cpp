@@ -35,7 +35,7 @@ const std::vector<KnownAthlete> Team{{"BELL Anna", {"WK1", "WC1"}},
 } // namespace
 
 TEST_P(JoinedNames, AreCertainByCrewAndCategory) {
-    const Table table =
+    const ListTable table =
         tableOf(readList(std::string("Name;Class\n") + GetParam().line + "\nX Y;K1M\n"));
     const std::vector<JoinedRow> joined = joinedRows(table, Team);
     EXPECT_EQ(joined.at(0).certainty, GetParam().certainty);
@@ -60,7 +60,7 @@ TEST(JoinedRows, NeedAColumnOfNames) {
 }
 
 TEST(TableBands, TintTheWinnersGapAsTheFastest) {
-    const Table table = tableOf(readList("Name;Gap;Time\na;0;90\nb;1;DNF\nc;2;92\nd;9;999.99"));
+    const ListTable table = tableOf(readList("Name;Gap;Time\na;0;90\nb;1;DNF\nc;2;92\nd;9;999.99"));
     EXPECT_EQ(tableBands(table.columns[1]).front(), Band::Fastest);
     EXPECT_EQ(tableBands(table.columns[1]).back(), Band::Band10);
     EXPECT_THAT(tableBands(table.columns[2]),

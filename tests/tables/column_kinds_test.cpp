@@ -15,7 +15,7 @@ using testing::SizeIs;
 struct KindRow {
     const char* name;
     std::vector<std::string> cells;
-    ColumnKind kind;
+    ListColumnKind kind;
 };
 
 class GuessedKinds : public testing::TestWithParam<KindRow> {};
@@ -25,7 +25,7 @@ std::string nameOfKinds(const testing::TestParamInfo<KindRow>& tested) {
 }
 
 struct CellRow {
-    ColumnKind kind;
+    ListColumnKind kind;
     const char* text;
     std::optional<double> number;
     bool isRefused = false;
@@ -39,40 +39,44 @@ TEST_P(GuessedKinds, AreTheNarrowestThatTakeMost) {
 
 INSTANTIATE_TEST_SUITE_P(
     Kinds, GuessedKinds,
-    testing::Values(KindRow{"Whole", {"1", "2", "-", ""}, ColumnKind::Whole},
-                    KindRow{"Ordinal", {"1.", "2.", "10."}, ColumnKind::Whole},
-                    KindRow{"PointAndComma", {"92.45", "92,5", "7"}, ColumnKind::Decimal},
-                    KindRow{"TimesOverAMinute", {"59.20", "58.10", "1:02.45"}, ColumnKind::Time},
-                    KindRow{"TimesWithPenalty", {"92.45 (2)", "93.10"}, ColumnKind::Time},
-                    KindRow{"TimesBesideStatus", {"92.45", "DNF", "dns"}, ColumnKind::Decimal},
-                    KindRow{"Status", {"DNF", "DSQ-R", ""}, ColumnKind::Status},
-                    KindRow{"Days", {"2026-05-03", "3. 5. 2026", "3/5/2026"}, ColumnKind::Date},
-                    KindRow{"OneFault", {"1", "2", "abc"}, ColumnKind::Whole},
-                    KindRow{"TooManyFaults", {"1", "x", "abc"}, ColumnKind::Text},
-                    KindRow{"Nothing", {"", "-"}, ColumnKind::Text}),
+    testing::Values(KindRow{"Whole", {"1", "2", "-", ""}, ListColumnKind::Whole},
+                    KindRow{"Ordinal", {"1.", "2.", "10."}, ListColumnKind::Whole},
+                    KindRow{"PointAndComma", {"92.45", "92,5", "7"}, ListColumnKind::Decimal},
+                    KindRow{
+                        "TimesOverAMinute", {"59.20", "58.10", "1:02.45"}, ListColumnKind::Time},
+                    KindRow{"TimesWithPenalty", {"92.45 (2)", "93.10"}, ListColumnKind::Time},
+                    KindRow{"TimesBesideStatus", {"92.45", "DNF", "dns"}, ListColumnKind::Decimal},
+                    KindRow{"Status", {"DNF", "DSQ-R", ""}, ListColumnKind::Status},
+                    KindRow{"Days", {"2026-05-03", "3. 5. 2026", "3/5/2026"}, ListColumnKind::Date},
+                    KindRow{"OneFault", {"1", "2", "abc"}, ListColumnKind::Whole},
+                    KindRow{"TooManyFaults", {"1", "x", "abc"}, ListColumnKind::Text},
+                    KindRow{"Nothing", {"", "-"}, ListColumnKind::Text}),
     nameOfKinds);
 
 TEST(ColumnKinds, ReadCells) {
-    for (const CellRow& row :
-         {CellRow{ColumnKind::Time, "1:32,45", 92.45}, CellRow{ColumnKind::Time, "92.45 +2", 92.45},
-          CellRow{ColumnKind::Time, "92.45 (x)", {}, true},
-          CellRow{ColumnKind::Time, "1:75.00", {}, true}, CellRow{ColumnKind::Time, "DNF", {}},
-          CellRow{ColumnKind::Whole, "12.5", {}, true}, CellRow{ColumnKind::Decimal, "–", {}},
-          CellRow{ColumnKind::Decimal, "1e5", {}, true},
-          CellRow{ColumnKind::Date, "2000-01-02", 10958.0},
-          CellRow{ColumnKind::Date, "30.2.2026", {}, true},
-          CellRow{ColumnKind::Date, "3.5.26", {}, true}, CellRow{ColumnKind::Text, "x", {}}}) {
+    for (const CellRow& row : {CellRow{ListColumnKind::Time, "1:32,45", 92.45},
+                               CellRow{ListColumnKind::Time, "92.45 +2", 92.45},
+                               CellRow{ListColumnKind::Time, "92.45 (x)", {}, true},
+                               CellRow{ListColumnKind::Time, "1:75.00", {}, true},
+                               CellRow{ListColumnKind::Time, "DNF", {}},
+                               CellRow{ListColumnKind::Whole, "12.5", {}, true},
+                               CellRow{ListColumnKind::Decimal, "–", {}},
+                               CellRow{ListColumnKind::Decimal, "1e5", {}, true},
+                               CellRow{ListColumnKind::Date, "2000-01-02", 10958.0},
+                               CellRow{ListColumnKind::Date, "30.2.2026", {}, true},
+                               CellRow{ListColumnKind::Date, "3.5.26", {}, true},
+                               CellRow{ListColumnKind::Text, "x", {}}}) {
         const CellValue value = valueAs(row.kind, row.text);
         EXPECT_EQ(value.number, row.number) << row.text;
         EXPECT_EQ(!value.reason.empty(), row.isRefused) << row.text;
     }
-    EXPECT_EQ(valueAs(ColumnKind::Time, "1:32.45 (50)").penalty, 50);
+    EXPECT_EQ(valueAs(ListColumnKind::Time, "1:32.45 (50)").penalty, 50);
     EXPECT_EQ(dayNumberText(10958), "2000-01-02");
 }
 
 TEST(TableReading, TellsWhatWasNotTaken) {
-    const Table table = tableIn("World Cup\n\nPos;Name;Time\n1;Jan;92.45\n2;Eva;9x.1\n3;Iva\n"
-                                "Pos;Name;Time\n4;Ota;93.1;more\n5;Ida;94.0\n");
+    const ListTable table = tableIn("World Cup\n\nPos;Name;Time\n1;Jan;92.45\n2;Eva;9x.1\n3;Iva\n"
+                                    "Pos;Name;Time\n4;Ota;93.1;more\n5;Ida;94.0\n");
     EXPECT_THAT(textsOf(table, "Name"), ElementsAre("Jan", "Eva", "Iva", "Ota", "Ida"));
     EXPECT_THAT(table.lines, ElementsAre(4, 5, 6, 8, 9));
     ASSERT_THAT(table.refused, SizeIs(5));
@@ -94,7 +98,8 @@ TEST(TableReading, FindsOutWhetherTheFirstLineIsTitles) {
 }
 
 TEST(TableReading, PartsTimesFromTheirPenalties) {
-    const Table table = tableIn("Name;Run 1;Run 1\nJan;92.45 (2);90.1\nEva;1:33.10;x\nIda;DNF;89");
+    const ListTable table =
+        tableIn("Name;Run 1;Run 1\nJan;92.45 (2);90.1\nEva;1:33.10;x\nIda;DNF;89");
     ASSERT_THAT(table.columns, SizeIs(4));
     EXPECT_EQ(table.columns[2].name, "Run 1 penalty");
     EXPECT_TRUE(table.columns[2].isDerived);

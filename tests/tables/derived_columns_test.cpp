@@ -27,7 +27,7 @@ const char* const Results = "Name;Cat;Time;Pen\n"
                             "Leo;K1M;0;50\n"
                             "Max;K1M;95;50\n";
 
-Table derived(const std::string& text, const Table& table = tableIn(Results)) {
+ListTable derived(const std::string& text, const ListTable& table = tableIn(Results)) {
     return withDerived(table, parsedDerivedColumn(text));
 }
 
@@ -47,7 +47,7 @@ std::string faultOf(const std::string& text) {
 } // namespace
 
 TEST(DerivedColumns, AddTimesAndPenaltiesOfRuns) {
-    const Table table = derived("total");
+    const ListTable table = derived("total");
     EXPECT_THAT(numbersOf(table, "total"), ElementsAre(near(92.004), near(100), near(92.001),
                                                        near(110), None, None, None, near(145)));
     EXPECT_EQ(textsOf(table, "total")[4], "DNF");
@@ -71,7 +71,7 @@ TEST(DerivedColumns, CompareWithTheBest) {
 }
 
 TEST(DerivedColumns, RankFromTheHighestOnWish) {
-    const Table table = tableIn("Name;Points\na;10\nb;30\nc;30\nd;20");
+    const ListTable table = tableIn("Name;Points\na;10\nb;30\nc;30\nd;20");
     EXPECT_THAT(numbersOf(derived("rank:Points down", table), "rank"), ElementsAre(4, 1, 1, 3));
     EXPECT_THAT(numbersOf(derived("gap:Points down", table), "gap"), ElementsAre(20, 0, 0, 10));
 }
@@ -96,22 +96,24 @@ TEST(DerivedColumns, SayWhatIsWrong) {
 }
 
 TEST(Pivots, PutRowsTogether) {
-    const Table list = tableIn("Nation;Cat;Time\nCZE;K1M;92\nSLO;K1W;110\nCZE;K1M;90\nCZE;K1W;105\n"
-                               "SLO;K1W;999.99\nSLO;K1M;DNF");
-    const Table means = pivoted(list, parsedPivot("Nation,Cat,Time,mean"));
+    const ListTable list =
+        tableIn("Nation;Cat;Time\nCZE;K1M;92\nSLO;K1W;110\nCZE;K1M;90\nCZE;K1W;105\n"
+                "SLO;K1W;999.99\nSLO;K1M;DNF");
+    const ListTable means = pivoted(list, parsedPivot("Nation,Cat,Time,mean"));
     EXPECT_THAT(textsOf(means, "Nation"), ElementsAre("CZE", "SLO"));
     EXPECT_THAT(numbersOf(means, "K1M"), ElementsAre(91, None));
     EXPECT_THAT(numbersOf(means, "K1W"), ElementsAre(105, 110));
-    const Table counts = pivoted(list, parsedPivot("Nation,,Time,count"));
+    const ListTable counts = pivoted(list, parsedPivot("Nation,,Time,count"));
     EXPECT_THAT(numbersOf(counts, "count Time"), ElementsAre(3, 3));
-    EXPECT_EQ(counts.columns[1].kind, ColumnKind::Whole);
+    EXPECT_EQ(counts.columns[1].kind, ListColumnKind::Whole);
     struct FigureRow {
         const char* function;
         double cze;
     };
     for (const FigureRow& row : {FigureRow{"sum", 287}, FigureRow{"median", 92},
                                  FigureRow{"least", 90}, FigureRow{"most", 105}}) {
-        const Table table = pivoted(list, parsedPivot(std::string("Nation,,Time,") + row.function));
+        const ListTable table =
+            pivoted(list, parsedPivot(std::string("Nation,,Time,") + row.function));
         EXPECT_EQ(table.columns[1].cells[0].number, row.cze) << row.function;
     }
     EXPECT_THROW((void)parsedPivot("Nation,Cat,Time"), TableError);

@@ -47,15 +47,15 @@ TEST(TableSteps, SortWithinGroups) {
 }
 
 TEST(TableSteps, ReadColumnsAsTheyAreTold) {
-    const TableSteps told = listSteps().with(KindStep{"time", ColumnKind::Date});
-    EXPECT_EQ(told.table().columns[2].kind, ColumnKind::Date);
+    const TableSteps told = listSteps().with(KindStep{"time", ListColumnKind::Date});
+    EXPECT_EQ(told.table().columns[2].kind, ListColumnKind::Date);
     EXPECT_THAT(told.table().refused, SizeIs(2));
     EXPECT_THAT(listSteps().with(TitlesStep{false}).table().lines, ElementsAre(1, 2, 3, 4, 5));
 }
 
 TEST(TableSteps, RefuseWhatCannotBeDone) {
     const TableSteps gap = listSteps().with(parsedDerivedColumn("gap:Time"));
-    EXPECT_THROW((void)gap.with(KindStep{"Time", ColumnKind::Text}), TableError);
+    EXPECT_THROW((void)gap.with(KindStep{"Time", ListColumnKind::Text}), TableError);
     EXPECT_THROW((void)gap.with(SortStep{"Bib"}), TableError);
     EXPECT_THROW((void)gap.with(TintStep{"Name"}), TableError);
     EXPECT_THAT(gap.with(TintStep{"gap"}).table().coloured, ElementsAre("gap"));
@@ -63,8 +63,8 @@ TEST(TableSteps, RefuseWhatCannotBeDone) {
 }
 
 TEST(TableText, ReadsBackTheSame) {
-    const Table table = tableIn("Name;Run 1;Day\n\"a;\"\"b\"\"\";1:32.45 (2);3.5.2026\n"
-                                "c;DNF;4.5.2026\nd;89,1 (0);5.5.2026\n");
+    const ListTable table = tableIn("Name;Run 1;Day\n\"a;\"\"b\"\"\";1:32.45 (2);3.5.2026\n"
+                                    "c;DNF;4.5.2026\nd;89,1 (0);5.5.2026\n");
     const std::string text = tableCsv(table);
     EXPECT_EQ(text, "Name;Run 1;Run 1 penalty;Day\n\"a;\"\"b\"\"\";92.45;2;2026-05-03\n"
                     "c;DNF;;2026-05-04\nd;89.1;0;2026-05-05\n");
