@@ -45,6 +45,7 @@ int run(int argc, char** argv, const char* version, const Painting* painting) {
     addLosses(program, status, painting);
     addPenalties(program, status);
     addSeason(program, status, painting);
+    addTable(program, status);
     addDemo(program, status, painting);
     if (const auto ended = call.run(argc, argv))
         return *ended;

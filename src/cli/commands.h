@@ -26,6 +26,7 @@ void addFacts(Command program, int& status);
 void addLosses(Command program, int& status, const Painting* painting);
 void addPenalties(Command program, int& status);
 void addSeason(Command program, int& status, const Painting* painting);
+void addTable(Command program, int& status);
 void addDemo(Command program, int& status, const Painting* painting);
 
 } // namespace kavela::cli

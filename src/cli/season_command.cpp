@@ -2,6 +2,7 @@
 
 #include "cli/console.h"
 #include "cli/fact_input.h"
+#include "cli/fact_scan.h"
 #include "cli/painting.h"
 #include "cli/season_csv.h"
 #include "cli/season_json.h"
@@ -122,9 +123,7 @@ int tellTeamSeason(const SeasonCall& call, const Painting* painting) {
     const auto team = teamOfFile(call.team);
     if (!team)
         return NotDone;
-    const FactInput input = call.paths.empty() ? FactInput() : factsFrom(call.paths);
-    for (const FailedFile& failed : input.failed)
-        logLine(failed.reason);
+    const FolderScan input = call.paths.empty() ? FolderScan() : scanNamed(call.paths);
     SeasonData data = seasonData(*team, input.facts, choiceOf(call));
     if (data.members.empty()) {
         logUnknownCategory(*team, call.category);

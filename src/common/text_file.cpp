@@ -10,6 +10,8 @@
 #include <algorithm>
 #include <array>
 #include <cerrno>
+#include <optional>
+#include <string_view>
 
 namespace kavela {
 
@@ -81,6 +83,54 @@ std::string fromLatin1(std::string_view bytes) {
     return text;
 }
 
+enum class ByteOrder { LowFirst, HighFirst };
+
+/// The order of the bytes of a text in UTF-16: as its mark says, or in a text without one where the
+/// zeros stand beside its plain letters. Nothing for other texts.
+std::optional<ByteOrder> byteOrderOf(std::string_view bytes) {
+    if (bytes.size() < 2 || bytes.size() % 2 != 0)
+        return std::nullopt;
+    if (bytes.starts_with("\xFF\xFE"))
+        return ByteOrder::LowFirst;
+    if (bytes.starts_with("\xFE\xFF"))
+        return ByteOrder::HighFirst;
+    std::array<std::size_t, 2> zeros{};
+    const std::string_view beginning = bytes.substr(0, 256);
+    for (std::size_t i = 0; i < beginning.size(); ++i)
+        zeros.at(i % 2) += beginning[i] == 0 ? 1U : 0U;
+    const std::size_t most = beginning.size() / 4;
+    if (zeros[1] > most && zeros[0] == 0)
+        return ByteOrder::LowFirst;
+    if (zeros[0] > most && zeros[1] == 0)
+        return ByteOrder::HighFirst;
+    return std::nullopt;
+}
+
+std::string fromUtf16(std::string_view bytes, ByteOrder order) {
+    constexpr char32_t HighBegin = 0xD800;
+    constexpr char32_t LowBegin = 0xDC00;
+    constexpr char32_t End = 0xE000;
+    const auto unitAt = [&](std::size_t at) {
+        const auto first = static_cast<unsigned char>(bytes[at]);
+        const auto second = static_cast<unsigned char>(bytes[at + 1]);
+        return static_cast<char32_t>(order == ByteOrder::LowFirst ? first | second << 8U
+                                                                  : second | first << 8U);
+    };
+    std::string text;
+    for (std::size_t at = 0; at + 1 < bytes.size(); at += 2) {
+        const char32_t unit = unitAt(at);
+        const char32_t next = at + 3 < bytes.size() ? unitAt(at + 2) : 0;
+        const bool isHalf = unit >= HighBegin && unit < End;
+        const bool isPair = isHalf && unit < LowBegin && next >= LowBegin && next < End;
+        if (isPair)
+            appendUtf8(text, 0x10000 + ((unit - HighBegin) << 10U) + (next - LowBegin));
+        else
+            appendUtf8(text, isHalf ? ReplacementCharacter : unit);
+        at += isPair ? 2 : 0;
+    }
+    return text;
+}
+
 } // namespace
 
 std::string readTextFile(const std::filesystem::path& path) {
@@ -91,12 +141,21 @@ std::string readTextFile(const std::filesystem::path& path) {
 }
 
 ListText readListText(const std::filesystem::path& path) {
-    std::string bytes = bytesOf(path);
+    return listTextOf(bytesOf(path));
+}
+
+ListText listTextOf(std::string bytes) {
+    if (const auto order = byteOrderOf(bytes))
+        bytes = fromUtf16(bytes, *order);
     if (!isText(bytes))
         throw DecodeError({{}, "the file is no text; save the list as text (CSV) first"});
     if (isUtf8(bytes))
         return {withoutMark(std::move(bytes)), false};
     return {fromLatin1(bytes), true};
+}
+
+std::string readListBytes(const std::filesystem::path& path) {
+    return bytesOf(path);
 }
 
 } // namespace kavela

@@ -18,7 +18,15 @@ struct ListText {
 };
 
 /// The same for lists of people, which older spreadsheets write in Latin-1 (read with what Windows
-/// puts into its unused places, such as Š and Ž). Throws DecodeError for what is no text at all.
+/// puts into its unused places, such as Š and Ž) and some programs in UTF-16. Throws DecodeError
+/// for what is no text at all.
 [[nodiscard]] ListText readListText(const std::filesystem::path& path);
+
+/// The same for a list that is in memory. Throws DecodeError for what is no text at all.
+[[nodiscard]] ListText listTextOf(std::string bytes);
+
+/// The bytes of a file that may be a list of any kind, text or not. Throws FileError as
+/// readTextFile does.
+[[nodiscard]] std::string readListBytes(const std::filesystem::path& path);
 
 } // namespace kavela

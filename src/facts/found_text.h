@@ -1,5 +1,6 @@
 #pragma once
 
+#include "common/delimited_text.h"
 #include "common/why.h"
 #include "facts/query.h"
 

@@ -1,0 +1,26 @@
+#pragma once
+
+#include "splitdata/records.h"
+#include "tables/list_grid.h"
+#include "tables/table.h"
+
+#include <string>
+#include <vector>
+
+/// The lists that a split file carries.
+namespace kavela {
+
+/// The names of those that are there: of its members "resultsCSVdata", "officialresults" and
+/// "officialresultsAnalysis", in this order.
+[[nodiscard]] std::vector<std::string> raceTableNames(const infodata031& info);
+
+/// The lists of one of them: several where a spreadsheet with several sheets is attached. Throws
+/// TableError for a document that holds no list, such as a PDF, and for a name that is not there.
+[[nodiscard]] std::vector<ListGrid> raceTableLists(const infodata031& info,
+                                                   const std::string& name);
+
+/// Keeps a table with the race: as text in its `officialresultsAnalysis`, in place of what was
+/// there. Reading it back gives the same columns and numbers.
+void keepWithRace(infodata031& info, const ListTable& table);
+
+} // namespace kavela

@@ -1,0 +1,44 @@
+#pragma once
+
+#include "results/team_records.h"
+#include "tables/table.h"
+
+#include <cstddef>
+#include <optional>
+#include <span>
+#include <string>
+#include <vector>
+
+/// Whose the rows of a table are.
+namespace kavela {
+
+/// Somebody we know.
+struct KnownAthlete {
+    std::string name;                    ///< of the crew
+    std::vector<std::string> categories; ///< that the crew races in; empty when not known
+};
+
+[[nodiscard]] std::vector<KnownAthlete> knownAthletes(const myTeamToSaveStruct& team);
+
+enum class JoinCertainty {
+    Certain, ///< the crew and the category agree, with one athlete only
+    Unsure,  ///< to be asked: the name is alike, the category another, or two have the name
+    None,
+};
+
+struct JoinedRow {
+    std::size_t row = 0;
+    JoinCertainty certainty = JoinCertainty::None;
+    std::vector<std::size_t> athletes; ///< who may be meant, the likest first; none where None
+};
+
+/// The crew of a row as its list writes it, surname and given name put together where they stand
+/// apart; nothing where the table has no column for it.
+[[nodiscard]] std::optional<std::string> crewOfRow(const ListTable& table, std::size_t row);
+
+/// For each row who it is about, by crew and, where table and athlete tell it, by category. Throws
+/// TableError for a table without a column of names.
+[[nodiscard]] std::vector<JoinedRow> joinedRows(const ListTable& table,
+                                                std::span<const KnownAthlete> athletes);
+
+} // namespace kavela
