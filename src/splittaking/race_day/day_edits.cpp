@@ -110,6 +110,13 @@ RaceDay withShift(RaceDay day, const DayMatching& matching, std::int64_t start, 
     return day;
 }
 
+RaceDay withoutStart(RaceDay day, std::int64_t start) {
+    std::erase_if(day.starts, [&](const DayStart& each) { return each.id == start; });
+    for (DayFilm& film : day.films)
+        std::erase(film.starts, start);
+    return day;
+}
+
 RaceDay withOffset(RaceDay day, double seconds) {
     day.hasclockoffset = true;
     day.clockoffset = seconds;

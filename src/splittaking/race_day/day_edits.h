@@ -27,6 +27,9 @@ namespace kavela {
 [[nodiscard]] RaceDay withShift(RaceDay day, const DayMatching& matching, std::int64_t start,
                                 int step);
 
+/// Without a boat of the list, which is on no film then either.
+[[nodiscard]] RaceDay withoutStart(RaceDay day, std::int64_t start);
+
 /// The offset of the camera's clock is as said.
 [[nodiscard]] RaceDay withOffset(RaceDay day, double seconds);
 

@@ -13,9 +13,9 @@ namespace kavela {
 /// Where it comes from when a recording began.
 enum class RecordingTime { Camera, File };
 
-/// A film that is whole, as it was seen in the watched folder.
+/// A film that is whole.
 struct SeenFilm {
-    std::string from;   ///< its path in the watched folder
+    std::string from;   ///< the name that it came with
     double began = 0;   ///< seconds since the local midnight of the day; below 0 the day before
     double seconds = 0; ///< how long it is; 0 where that is not known
     RecordingTime source = RecordingTime::Camera;

@@ -66,13 +66,19 @@ std::string filmNameOf(const DayStart& start, std::size_t number, std::string_vi
     return fit.empty() ? fit : fit + extensionOf(presentName);
 }
 
+std::string numberedFilmName(const std::string& name, int number) {
+    if (number <= 1)
+        return name;
+    const std::string extension = extensionOf(name);
+    return name.substr(0, name.size() - extension.size()) + " (" + std::to_string(number) + ")" +
+           extension;
+}
+
 std::string freeFilmName(const std::filesystem::path& folder, const std::string& name,
                          const std::string& presentName) {
-    const std::string extension = extensionOf(name);
-    const std::string stem = name.substr(0, name.size() - extension.size());
     std::string candidate = name;
     for (int number = 2; candidate != presentName && isTaken(folder / candidate); ++number)
-        candidate = stem + " (" + std::to_string(number) + ")" + extension;
+        candidate = numberedFilmName(name, number);
     return candidate;
 }
 

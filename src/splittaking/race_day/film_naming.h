@@ -15,6 +15,9 @@ namespace kavela {
 [[nodiscard]] std::string filmNameOf(const DayStart& start, std::size_t number,
                                      std::string_view pattern, std::string_view presentName);
 
+/// A name with a number as systems put it behind the names of copies: "a (2).MP4"; without for 1.
+[[nodiscard]] std::string numberedFilmName(const std::string& name, int number);
+
 /// The name itself where it is free in a folder, else with the first number that is, as in
 /// "Ann Lee Heats (2).MP4". The present name counts as free; empty for none.
 [[nodiscard]] std::string freeFilmName(const std::filesystem::path& folder, const std::string& name,

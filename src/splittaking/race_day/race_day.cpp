@@ -71,6 +71,11 @@ const DayFilm* findFilmOf(const RaceDay& day, std::int64_t start) {
     return found == day.films.end() ? nullptr : &*found;
 }
 
+std::string presentName(const RaceDay& day, const std::string& from) {
+    const DayFilm* const film = findFilmFrom(day, from);
+    return film && !film->film.empty() ? film->film : from;
+}
+
 std::filesystem::path raceDayPath(const std::filesystem::path& splitFile) {
     return std::filesystem::path(splitFile).replace_extension(".kvday");
 }

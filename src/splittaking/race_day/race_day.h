@@ -34,8 +34,8 @@ BOOST_DESCRIBE_STRUCT(DayStart, (), (id, bib, name, cat, phase, starttime, out))
 /// A film of which something is settled: it was opened, named, shifted or given to a start by hand.
 struct DayFilm {
     std::int64_t id = 0; ///< the same through all edits; above 0
-    std::string from;    ///< its path in the watched folder, which it is known by
-    std::string film;    ///< its bare name in the folder of the race; empty before it is there
+    std::string from;    ///< the bare name that it came with, which it is known by
+    std::string film;    ///< the name that it was given in the folder of the race; empty for none
     std::vector<std::int64_t> starts; ///< in the order of its boats; empty for a film of no boat
     bool agreed = false;              ///< by the coach, who had it named after its boat
 };
@@ -56,10 +56,13 @@ BOOST_DESCRIBE_STRUCT(RaceDay, (),
 /// The start of an id, or the film of one; null for none.
 [[nodiscard]] const DayStart* findStart(const RaceDay& day, std::int64_t id);
 [[nodiscard]] const DayFilm* findFilm(const RaceDay& day, std::int64_t id);
-/// The film that is known by a path in the watched folder; null where nothing of it is settled.
+/// The film that came with a name; null where nothing of it is settled.
 [[nodiscard]] const DayFilm* findFilmFrom(const RaceDay& day, const std::string& from);
 /// The film that shows a start; null where none is settled.
 [[nodiscard]] const DayFilm* findFilmOf(const RaceDay& day, std::int64_t start);
+
+/// The name of a film in the folder of the race, by the name that it came with.
+[[nodiscard]] std::string presentName(const RaceDay& day, const std::string& from);
 
 /// The file of the day that belongs to a split file: "NAME.kvday" beside it.
 [[nodiscard]] std::filesystem::path raceDayPath(const std::filesystem::path& splitFile);

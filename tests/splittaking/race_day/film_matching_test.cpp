@@ -110,8 +110,9 @@ TEST(FilmMatching, ProposesALongFilmForTheNextBoatToo) {
         films[1].seconds = 170;
         const DayMatching matching = matchFilms(day, films);
         EXPECT_EQ(told(day, matching), areTimed ? "A0 B90 C90 D270" : "A0 B90 C270");
-        if (areTimed)
+        if (areTimed) {
             EXPECT_LT(matching.matches[2].confidence, LikelyConfidence);
+        }
     }
 }
 

@@ -1,5 +1,6 @@
 #include "splittaking/race_day/day_edits.h"
 #include "splittaking/race_day/film_naming.h"
+#include "splittaking/race_day/film_sources.h"
 #include "splittaking/race_day/growing_films.h"
 #include "splittaking/race_day/start_list.h"
 
@@ -176,6 +177,27 @@ TEST(FilmNaming, NeverTakesANameThatIsTaken) {
     EXPECT_EQ(freeFilmName(folder.path(), "a.MP4"), "a (3).MP4");
     EXPECT_EQ(freeFilmName(folder.path(), "a.MP4", "a (2).MP4"), "a (2).MP4") << "its own";
     EXPECT_EQ(freeFilmName(folder.path(), "b.MP4"), "b.MP4");
+}
+
+TEST(DaySources, KnowAFilmWhereverItIsAndWhateverItIsCalled) {
+    RaceDay day;
+    filmFrom(day, "b.MP4").film = "Ann Heats.MP4";
+    const std::vector<FilmFile> here{{"Ann Heats.MP4", 20}, {"a.MP4", 10}, {"c.MP4", 5, false}};
+    const std::vector<FilmFile> card{{"101/a.MP4", 11},
+                                     {"100/a.MP4", 10},
+                                     {"100/b.MP4", 20},
+                                     {"100/c.MP4", 30},
+                                     {"100/d.MP4", 1, false}};
+    std::vector<std::string> told;
+    for (const DaySource& source : daySources(day, here, card))
+        told.push_back((source.isHere ? "here " : "card ") + source.from + ' ' +
+                       (source.isHere ? here : card)[source.file].path);
+    EXPECT_THAT(told, ElementsAre("here b.MP4 Ann Heats.MP4", "here a.MP4 a.MP4",
+                                  "card a (2).MP4 101/a.MP4"));
+    told.clear();
+    for (const DaySource& source : daySources(day, here, {})) // the card was pulled out
+        told.push_back(source.from);
+    EXPECT_THAT(told, ElementsAre("b.MP4", "a.MP4"));
 }
 
 TEST(GrowingFilms, AreWholeOnceTheyRestAndCanBeRead) {
