@@ -73,10 +73,15 @@ RaceDay withShift(RaceDay day, const DayMatching& matching, std::int64_t start, 
     std::vector<std::int64_t> slots; // that films can go to, the start's own first
     std::vector<std::string> films;  // each once, in their order
     bool isBehind = false;
-    for (const DayStart& each : day.starts) {
+    for (const DayStart& each : std::vector(day.starts)) {
         isBehind = isBehind || each.id == start;
-        if (!isBehind)
+        if (!isBehind) {
+            // What is in front was seen to be right, and must not follow those behind.
+            const auto match = std::ranges::find(matching.matches, each.id, &DayMatch::start);
+            if (match != matching.matches.end())
+                day = withKept(std::move(day), matching, match->from);
             continue;
+        }
         if (isSlot(each))
             slots.push_back(each.id);
         for (const DayMatch& match : matching.matches)

@@ -23,7 +23,8 @@ namespace kavela {
 [[nodiscard]] RaceDay withKept(RaceDay day, const DayMatching& matching, const std::string& from);
 
 /// Moves the films of a start and of all behind it one boat down the list (`step` 1) or up (-1).
-/// Boats that did not start are passed over. A film that has no boat to go to shows none then.
+/// Boats that did not start are passed over. A film that has no boat to go to shows none then. The
+/// films in front of the start are kept as they are.
 [[nodiscard]] RaceDay withShift(RaceDay day, const DayMatching& matching, std::int64_t start,
                                 int step);
 

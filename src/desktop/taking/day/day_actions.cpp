@@ -1,0 +1,69 @@
+#include "desktop/taking/day/day_actions.h"
+
+#include "desktop/taking/day/day_desk.h"
+#include "desktop/taking/day/day_panel.h"
+
+#include <QAction>
+#include <QMainWindow>
+#include <QMenuBar>
+
+#include <functional>
+
+namespace kavela::desktop {
+
+namespace {
+
+struct DayEntry {
+    QString text;
+    QKeyCombination key = QKeyCombination(Qt::Key_unknown); ///< unknown for none
+    std::function<void()> act;
+};
+
+void addEntries(QMenu& menu, QObject& context, const std::vector<DayEntry>& entries) {
+    for (const DayEntry& entry : entries) {
+        QAction* const action = menu.addAction(entry.text);
+        if (entry.key.key() != Qt::Key_unknown)
+            action->setShortcut(QKeySequence(entry.key));
+        QObject::connect(action, &QAction::triggered, &context, entry.act);
+    }
+}
+
+QString tr(const char* text) {
+    return DayDesk::tr(text);
+}
+
+} // namespace
+
+void addDayMenu(QMainWindow& window, DayDesk& desk, DayPanel& panel, QAction& show) {
+    QMenu& menu = *window.menuBar()->addMenu(tr("&Day"));
+    menu.addAction(&show);
+    const QKeyCombination none(Qt::Key_unknown);
+    addEntries(menu, desk,
+               {{tr("Start &list…"), none, [&panel] { emit panel.listWanted(); }},
+                {tr("Films &from…"), none, [&panel] { emit panel.folderWanted(); }},
+                {tr("Reckon with the camera's &clock"), none, [&desk] { desk.takeOffset(); }},
+                {tr("&Remove the boat from the list"), none, [&desk] { desk.removeFront(); }}});
+    menu.addSeparator();
+    addEntries(
+        menu, desk,
+        {{tr("To the next film that is not &timed yet"), Qt::Key_U, [&desk] { desk.goToNext(); }},
+         {tr("&Open the film of the start in front"), Qt::Key_O, [&desk] { desk.openFront(); }},
+         {tr("&Previous start"), Qt::CTRL | Qt::Key_Up, [&desk] { desk.stepFront(-1); }},
+         {tr("&Next start"), Qt::CTRL | Qt::Key_Down, [&desk] { desk.stepFront(1); }}});
+    menu.addSeparator();
+    addEntries(
+        menu, desk,
+        {{tr("&Agree: the film is named after its boat"), Qt::Key_G, [&desk] { desk.agree(); }},
+         {tr("Agree to all that are &sure"), Qt::SHIFT | Qt::Key_G,
+          [&desk] { desk.agreeToAllSure(); }},
+         {tr("Films from here on: one start &earlier"), Qt::ALT | Qt::Key_Up,
+          [&desk] { desk.shift(-1); }},
+         {tr("Films from here on: one start late&r"), Qt::ALT | Qt::Key_Down,
+          [&desk] { desk.shift(1); }},
+         {tr("Did not start, or did after all"), Qt::SHIFT | Qt::Key_S,
+          [&desk] { desk.setOut(DidNotStart); }},
+         {tr("Did not finish, or did after all"), Qt::SHIFT | Qt::Key_F,
+          [&desk] { desk.setOut(DidNotFinish); }}});
+}
+
+} // namespace kavela::desktop

@@ -1,0 +1,44 @@
+#pragma once
+
+#include "desktop/splitfile/film_files.h"
+#include "splittaking/race_day/start_list.h"
+
+#include <QDialog>
+
+class QLabel;
+class QLineEdit;
+class QPlainTextEdit;
+class QPushButton;
+
+namespace kavela::desktop {
+
+class Workspace;
+
+/// A start list is pasted, or taken from a file, and shown with what of it can be taken before it
+/// is.
+class StartListDialog : public QDialog {
+    Q_OBJECT
+
+public:
+    StartListDialog(const FilmFiles& files, const Workspace& workspace, const QString& phase,
+                    QWidget* parent);
+
+    [[nodiscard]] const StartList& list() const { return m_list; }
+    [[nodiscard]] QString phase() const;
+
+private:
+    void makeLayout();
+    void readFile();
+    void readText();
+
+    const FilmFiles& m_files;
+    const Workspace& m_workspace;
+    StartList m_list;
+    QLineEdit* m_phase;
+    QPlainTextEdit* m_text;
+    QLabel* m_count;
+    QPlainTextEdit* m_refused;
+    QPushButton* m_take = nullptr;
+};
+
+} // namespace kavela::desktop
