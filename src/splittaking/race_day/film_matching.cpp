@@ -209,21 +209,34 @@ private:
         return offsets.empty() ? std::nullopt : std::optional(median(offsets, 0));
     }
 
+    [[nodiscard]] double tolerance() const { return std::max(interval() / 2, LeastTolerance); }
+
+    /// How many films would find a start. A single film that was given to an odd boat must not lead
+    /// the others astray.
+    [[nodiscard]] std::ptrdiff_t filmsMeeting(double offset) const {
+        const double most = tolerance();
+        return std::ranges::count_if(m_free, [&](const SeenFilm* film) {
+            for (std::size_t place = 0; place < m_day.starts.size(); ++place)
+                if (isFree(place) &&
+                    std::abs(film->began - offset - m_day.starts[place].starttime) <= most)
+                    return true;
+            return false;
+        });
+    }
+
     void takeByTime() {
         if (m_free.empty())
             return;
-        double offset = 0;
-        bool isOtherClock = false;
-        if (const auto settled = settledOffset()) {
+        const auto settled = settledOffset();
+        double offset =
+            m_day.hasclockoffset ? m_day.clockoffset + fineOffset() : bestOffset(m_free);
+        const bool follows = settled && filmsMeeting(*settled) >= filmsMeeting(offset);
+        if (follows)
             offset = *settled;
-        } else if (m_day.hasclockoffset) {
-            offset = m_day.clockoffset + fineOffset();
-        } else {
-            offset = bestOffset(m_free);
-            isOtherClock = std::abs(offset) > MostFromPlace;
-            if (isOtherClock)
-                m_result.offeredOffset = offset;
-        }
+        const bool isOtherClock =
+            !follows && !m_day.hasclockoffset && std::abs(offset) > MostFromPlace;
+        if (isOtherClock)
+            m_result.offeredOffset = offset;
         align(offset, isOtherClock);
         m_offset = offset;
     }
@@ -250,7 +263,7 @@ private:
         for (std::size_t place = 0; place < m_day.starts.size(); ++place)
             if (isFree(place))
                 places.push_back(place);
-        const double tolerance = std::max(interval() / 2, LeastTolerance);
+        const double tolerance = this->tolerance();
         const std::size_t films = m_free.size();
         const std::size_t width = places.size() + 1;
         const auto away = [&](std::size_t film, std::size_t place) {

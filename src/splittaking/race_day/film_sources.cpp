@@ -42,10 +42,15 @@ std::vector<DaySource> daySources(const RaceDay& day, std::span<const FilmFile> 
         for (int number = 1;; ++number) {
             const std::string from = numberedFilmName(bareName(card[file].path), number);
             const auto [found, isNew] = known.try_emplace(from, &card[file]);
-            if (isNew)
+            const FilmFile& there = *found->second;
+            // One that still grows here is this one being copied, by whomever.
+            const bool isOnItsWay = !isNew && !there.isWhole && !there.isBroken;
+            if (isNew || isOnItsWay) {
                 sources.push_back({from, file, false});
-            // One that still grows here may become this one.
-            if (isNew || !found->second->isWhole || found->second->bytes == card[file].bytes)
+                found->second = &card[file];
+                break;
+            }
+            if (there.isWhole && there.bytes == card[file].bytes)
                 break;
         }
     }

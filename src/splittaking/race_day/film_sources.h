@@ -14,6 +14,7 @@ struct FilmFile {
     std::string path; ///< in that folder; bare names in the folder of the race
     std::uintmax_t bytes = 0;
     bool isWhole = true;
+    bool isBroken = false; ///< it rests and cannot be read: no film will come of it
 };
 
 /// A film of the day and where it is.

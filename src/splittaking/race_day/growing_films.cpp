@@ -9,11 +9,11 @@ std::vector<std::string> GrowingFilms::look(const std::map<std::string, Found>& 
     std::erase_if(m_known, [&](const auto& known) { return !films.contains(known.first); });
     std::vector<std::string> rested;
     for (const auto& [name, found] : films) {
-        const auto [known, isNew] = m_known.try_emplace(name, Known{found, now, false});
+        const auto [known, isNew] = m_known.try_emplace(name, Known{found, now, false, false});
         if (isNew)
             continue;
         if (known->second.found != found)
-            known->second = {found, now, false};
+            known->second = {found, now, false, false};
         else if (!known->second.isWhole && found.bytes > 0 && now - known->second.since >= m_rest)
             rested.push_back(name);
     }
@@ -25,6 +25,7 @@ void GrowingFilms::noteRead(const std::string& film, bool couldBeRead) {
     if (known == m_known.end())
         return;
     known->second.isWhole = couldBeRead;
+    known->second.isBroken = !couldBeRead;
     known->second.since = m_now;
 }
 
@@ -38,6 +39,11 @@ void GrowingFilms::rename(const std::string& film, const std::string& now) {
 bool GrowingFilms::isWhole(const std::string& film) const {
     const auto known = m_known.find(film);
     return known != m_known.end() && known->second.isWhole;
+}
+
+bool GrowingFilms::isBroken(const std::string& film) const {
+    const auto known = m_known.find(film);
+    return known != m_known.end() && known->second.isBroken;
 }
 
 std::vector<std::string> GrowingFilms::growing() const {

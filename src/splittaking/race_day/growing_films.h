@@ -34,6 +34,8 @@ public:
     void rename(const std::string& film, const std::string& now);
 
     [[nodiscard]] bool isWhole(const std::string& film) const;
+    /// Whether it came to rest and could not be read, and did not change since.
+    [[nodiscard]] bool isBroken(const std::string& film) const;
     /// Films that are there and not whole.
     [[nodiscard]] std::vector<std::string> growing() const;
 
@@ -42,6 +44,7 @@ private:
         Found found;
         double since = 0; ///< when it was seen so first, or could not be read last
         bool isWhole = false;
+        bool isBroken = false;
     };
 
     double m_rest;

@@ -183,6 +183,11 @@ TEST(FilmShift, ComesBackByTheOtherKeyAndForgetsWhatWasAgreed) {
     EXPECT_EQ(matched(moved, films), "A0 B90 C180");
 }
 
+TEST(FilmMatching, IsNotLedAstrayByASingleFilmOfAnOddBoat) {
+    const RaceDay day = withFilm(dayOf("ABC", true), "0", {3});
+    EXPECT_EQ(matched(day, filmsAt({0, 90})), "B90 C0");
+}
+
 TEST(FilmOfAStart, IsOnOneFilmAtATime) {
     RaceDay day = dayOf("ABC", false);
     day = withFilm(std::move(day), "x", {1, 2});

@@ -182,18 +182,20 @@ TEST(FilmNaming, NeverTakesANameThatIsTaken) {
 TEST(DaySources, KnowAFilmWhereverItIsAndWhateverItIsCalled) {
     RaceDay day;
     filmFrom(day, "b.MP4").film = "Ann Heats.MP4";
-    const std::vector<FilmFile> here{{"Ann Heats.MP4", 20}, {"a.MP4", 10}, {"c.MP4", 5, false}};
-    const std::vector<FilmFile> card{{"101/a.MP4", 11},
-                                     {"100/a.MP4", 10},
-                                     {"100/b.MP4", 20},
-                                     {"100/c.MP4", 30},
-                                     {"100/d.MP4", 1, false}};
+    const std::vector<FilmFile> here{{"Ann Heats.MP4", 20, true, false},
+                                     {"a.MP4", 10, true, false},
+                                     {"c.MP4", 5, false, false},
+                                     {"e.MP4", 5, false, true}};
+    const std::vector<FilmFile> card{{"101/a.MP4", 11, true, false}, {"100/a.MP4", 10, true, false},
+                                     {"100/b.MP4", 20, true, false}, {"100/c.MP4", 30, true, false},
+                                     {"100/d.MP4", 1, false, false}, {"100/e.MP4", 5, true, false}};
     std::vector<std::string> told;
     for (const DaySource& source : daySources(day, here, card))
         told.push_back((source.isHere ? "here " : "card ") + source.from + ' ' +
                        (source.isHere ? here : card)[source.file].path);
-    EXPECT_THAT(told, ElementsAre("here b.MP4 Ann Heats.MP4", "here a.MP4 a.MP4",
-                                  "card a (2).MP4 101/a.MP4"));
+    EXPECT_THAT(told,
+                ElementsAre("here b.MP4 Ann Heats.MP4", "here a.MP4 a.MP4", "card c.MP4 100/c.MP4",
+                            "card e (2).MP4 100/e.MP4", "card a (2).MP4 101/a.MP4"));
     told.clear();
     for (const DaySource& source : daySources(day, here, {})) // the card was pulled out
         told.push_back(source.from);

@@ -151,8 +151,8 @@ double DayDesk::nowOfDay() const {
 void DayDesk::showGlance() {
     m_glance->setVisible(!m_lines.empty());
     QString text = qtText(glanceText(m_lines, nowOfDay()));
-    if (const auto next = nextUntimed(m_lines, m_front))
-        text += tr(" · U: %1").arg(startText(m_lines[*next].start));
+    if (const auto start = next())
+        text += tr(" · U: %1").arg(startText(line(*start)->start));
     if (text != m_glance->text())
         m_glance->setText(text);
 }
@@ -221,11 +221,20 @@ bool DayDesk::refusesWithoutFront() {
     return m_lines.empty();
 }
 
+/// The start in front itself, where its film waits and is not the one that is seen.
+std::optional<std::int64_t> DayDesk::next() const {
+    const DayLine* const here = line(m_front);
+    if (here && here->state == StartState::Filmed && runOfStart(m_front) != m_parts.run())
+        return m_front;
+    const auto behind = nextUntimed(m_lines, m_front);
+    return behind ? std::optional(m_lines[*behind].start.id) : std::nullopt;
+}
+
 void DayDesk::goToNext() {
     if (refusesWithoutFront() || !m_parts.commit())
         return;
-    if (const auto next = nextUntimed(m_lines, m_front))
-        open(m_lines[*next].start.id);
+    if (const auto start = next())
+        open(*start);
     else
         m_parts.stage.refuse(tr("No film waits to be timed."));
 }

@@ -97,6 +97,7 @@ private:
     [[nodiscard]] std::vector<std::int64_t> boatsOn(const std::string& from) const;
     [[nodiscard]] std::optional<int> runOfStart(std::int64_t start) const;
     [[nodiscard]] std::set<std::int64_t> timed() const;
+    [[nodiscard]] std::optional<std::int64_t> next() const;
     void follow();
     void bringFilms();
     void showGlance();

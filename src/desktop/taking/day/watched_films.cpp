@@ -76,7 +76,7 @@ void WatchedFilms::Folder::look(double now, const WorkSteps& steps) {
     }
     files.clear();
     for (const auto& [name, size] : sizes)
-        files.push_back({name, size.bytes, tracker.isWhole(name)});
+        files.push_back({name, size.bytes, tracker.isWhole(name), tracker.isBroken(name)});
     std::erase_if(recordings, [&](const auto& each) { return !tracker.isWhole(each.first); });
 }
 
@@ -159,7 +159,7 @@ void WatchedFilms::take(Folder here, Folder card) {
         return a.isThere == b.isThere &&
                std::ranges::equal(a.files, b.files, [](const FilmFile& one, const FilmFile& two) {
                    return one.path == two.path && one.bytes == two.bytes &&
-                          one.isWhole == two.isWhole;
+                          one.isWhole == two.isWhole && one.isBroken == two.isBroken;
                });
     };
     const bool isSame = same(here, m_here) && same(card, m_card);
