@@ -15,7 +15,6 @@
 
 #include <gmock/gmock.h>
 
-#include <QAction>
 #include <QApplication>
 #include <QDateTime>
 #include <QFile>
@@ -321,7 +320,7 @@ TEST_F(RaceDayTest, GivesASingleFilmToABoatInTheTable) {
     addFilm(folder() / "b.mp4", 90);
     ASSERT_NO_FATAL_FAILURE(openRace(2, ThreeBoats));
     ASSERT_TRUE(isFilmed(2));
-    m_window->dayShown().setChecked(true);
+    m_window->showDay(true);
     auto& table = m_window->dayPanel().table();
     constexpr int FilmColumn = 6;
     const auto type = [&](int place, const char* film) {

@@ -161,10 +161,7 @@ void TakingWindow::makeDay() {
     m_dayShown = new QAction(tr("Race &day, or the table of the race"), this);
     m_dayShown->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_D));
     m_dayShown->setCheckable(true);
-    connect(m_dayShown, &QAction::toggled, this, [this](bool isShown) {
-        m_below->setCurrentIndex(isShown ? 1 : 0);
-        m_below->setVisible(true); // also where the film was made larger
-    });
+    connect(m_dayShown, &QAction::triggered, this, &TakingWindow::showDay);
     connect(m_dayPanel, &DayPanel::listWanted, this, &TakingWindow::takeStartList);
     connect(m_dayPanel, &DayPanel::folderWanted, this, &TakingWindow::chooseDayFolder);
 }
@@ -176,7 +173,13 @@ void TakingWindow::takeStartList() {
     if (dialog.exec() != QDialog::Accepted || !commit())
         return;
     m_day->takeStarts(dialog.list(), dialog.phase());
-    m_dayShown->setChecked(true);
+    showDay(true);
+}
+
+void TakingWindow::showDay(bool isShown) {
+    m_dayShown->setChecked(isShown);
+    m_below->setCurrentIndex(isShown ? 1 : 0);
+    m_below->setVisible(true); // also where the film was made larger
 }
 
 void TakingWindow::chooseDayFolder() {

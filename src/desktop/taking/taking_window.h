@@ -57,7 +57,9 @@ public:
     [[nodiscard]] RaceExchange& exchange() { return m_exchange; }
     [[nodiscard]] DayDesk& day() const { return *m_day; }
     [[nodiscard]] DayPanel& dayPanel() const { return *m_dayPanel; }
-    /// Shows the race day in place of the coloured table, or the table again; checked for the day.
+    /// Shows the race day in place of the coloured table, or the table again.
+    void showDay(bool isShown);
+    /// Its action, checked while the day is shown.
     [[nodiscard]] QAction& dayShown() const { return *m_dayShown; }
     [[nodiscard]] const GateStrip& gates() const { return *m_gates; }
     [[nodiscard]] int currentRun() const { return m_run; }

@@ -1,6 +1,8 @@
 #include "splittaking/race_day/film_matching.h"
 
 #include "common/folded_text.h"
+#include "splitdata/run_timing.h"
+#include "splittaking/video_names.h"
 
 #include <algorithm>
 #include <cmath>
@@ -63,8 +65,10 @@ public:
 
     DayMatching make() {
         takeSettled();
-        leaveOtherDays();
-        takeNamed();
+        sortOutOtherDays();
+        takeNamed(m_free);
+        takeNamed(m_others);
+        offerOtherDay();
         if (m_areTimed)
             takeByTime();
         else
@@ -85,7 +89,7 @@ private:
 
     void match(std::size_t place, const SeenFilm& film, double confidence, std::string why) {
         const std::int64_t start = m_day.starts[place].id;
-        if (film.source == RecordingTime::File)
+        if (film.source == RecordingTime::File && confidence != NamedConfidence)
             confidence *= FileTimeFactor;
         m_taken.insert(start);
         m_result.matches.push_back(
@@ -108,23 +112,32 @@ private:
 
     /// A card holds the films of a season. Those of another day are left alone until the coach says
     /// that the date of the camera is wrong.
-    void leaveOtherDays() {
-        std::vector<const SeenFilm*> others;
+    void sortOutOtherDays() {
         for (const SeenFilm* const film : m_films) {
             if (findFilmFrom(m_day, film->from))
                 continue;
-            const double began = film->began - agreedOffset();
-            (began < -Day / 2 || began > Day * 3 / 2 ? others : m_free).push_back(film);
+            (isOfOtherDay(*film) ? m_others : m_free).push_back(film);
         }
-        m_result.ofOtherDays = others.size();
-        if (!m_free.empty() || others.empty() || m_day.hasclockoffset || !m_day.films.empty())
-            return;
-        m_result.offeredOffset =
-            m_areTimed ? bestOffset(others) : std::floor(others.back()->began / Day) * Day;
     }
 
-    void takeNamed() {
-        std::erase_if(m_free, [&](const SeenFilm* film) {
+    [[nodiscard]] bool isOfOtherDay(const SeenFilm& film) const {
+        const double began = film.began - agreedOffset();
+        return began < -Day / 2 || began > Day * 3 / 2;
+    }
+
+    /// Where there are no others, the date of the camera may be wrong.
+    void offerOtherDay() {
+        m_result.ofOtherDays = m_others.size();
+        if (!m_free.empty() || m_others.empty() || m_day.hasclockoffset || !m_day.films.empty() ||
+            !m_result.matches.empty())
+            return;
+        m_result.offeredOffset =
+            m_areTimed ? bestOffset(m_others) : std::floor(m_others.back()->began / Day) * Day;
+    }
+
+    /// A name counts whatever the date: the file may have been copied since.
+    void takeNamed(std::vector<const SeenFilm*>& films) {
+        std::erase_if(films, [&](const SeenFilm* film) {
             const auto place = placeNamedBy(*film);
             if (place)
                 match(*place, *film, NamedConfidence, "by its name");
@@ -140,7 +153,7 @@ private:
             const DayStart& start = m_day.starts[place];
             const bool isPhase =
                 film.phase.empty() || start.phase.empty() || start.phase == film.phase;
-            if (!isFree(place) || !isPhase || folded(start.name) != crew)
+            if (!isFree(place) || !isPhase || folded(crewText(crewIn(start.name))) != crew)
                 continue;
             if (found)
                 return std::nullopt;
@@ -202,7 +215,8 @@ private:
         std::vector<double> offsets;
         for (auto film = m_films.rbegin(); film != m_films.rend(); ++film) {
             const DayFilm* const settled = findFilmFrom(m_day, (*film)->from);
-            if (settled && !settled->starts.empty() && offsets.size() < MostSettled)
+            if (settled && !settled->starts.empty() && !isOfOtherDay(**film) &&
+                offsets.size() < MostSettled)
                 offsets.push_back((*film)->began -
                                   findStart(m_day, settled->starts.front())->starttime);
         }
@@ -326,7 +340,7 @@ private:
         constexpr std::size_t FewestGaps = 3;
         std::vector<double> moments;
         for (const SeenFilm* const film : m_films)
-            if (isOfABoat(*film))
+            if (isOfABoat(*film) && !isOfOtherDay(*film))
                 moments.push_back(film->began);
         const std::vector<double> gaps = gapsOf(std::move(moments));
         const double usual = median(gaps, 0);
@@ -358,13 +372,15 @@ private:
         std::optional<std::size_t> last;
         double lastBegan = 0;
         for (const SeenFilm* const film : m_films) {
+            if (isOfOtherDay(*film))
+                continue;
             if (const auto settled = placeMatched(*film)) {
                 last = *settled;
                 lastBegan = film->began;
                 continue;
             }
             if (std::ranges::find(m_free, film) == m_free.end())
-                continue; // of no boat, or of another day
+                continue; // of no boat
             std::size_t place = last ? *last + rhythm.steps(film->began - lastBegan) : 0;
             while (place < m_day.starts.size() && !isFree(place))
                 ++place;
@@ -402,8 +418,9 @@ private:
     }
 
     const RaceDay& m_day;
-    std::vector<const SeenFilm*> m_films; ///< as they were recorded
-    std::vector<const SeenFilm*> m_free;  ///< of the day, in that order, without a start
+    std::vector<const SeenFilm*> m_films;  ///< as they were recorded
+    std::vector<const SeenFilm*> m_free;   ///< of the day, in that order, without a start
+    std::vector<const SeenFilm*> m_others; ///< likewise, of other days
     std::map<std::int64_t, std::size_t> m_placeOf;
     std::set<std::int64_t> m_taken;
     bool m_areTimed = false;
