@@ -7,7 +7,7 @@ namespace kavela {
 
 namespace {
 
-StartState stateOf(const DayStart& start, bool isTimed, bool isFilmed) {
+StartState stateOfStart(const DayStart& start, bool isTimed, bool isFilmed) {
     if (isTimed)
         return StartState::Timed;
     if (start.out == DidNotStart)
@@ -52,7 +52,7 @@ std::vector<DayLine> dayLines(const RaceDay& day, const DayMatching& matching,
     for (const DayStart& start : day.starts) {
         const auto match = std::ranges::find(matching.matches, start.id, &DayMatch::start);
         const bool isFilmed = match != matching.matches.end();
-        lines.push_back({start, stateOf(start, timed.contains(start.id), isFilmed),
+        lines.push_back({start, stateOfStart(start, timed.contains(start.id), isFilmed),
                          isFilmed ? std::optional(*match) : std::nullopt});
     }
     return lines;

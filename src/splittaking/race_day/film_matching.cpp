@@ -16,7 +16,7 @@ namespace kavela {
 namespace {
 
 constexpr double HalfHour = 1800;
-constexpr double Day = 24 * 2 * HalfHour;
+constexpr double SecondsOfDay = 24 * 2 * HalfHour;
 /// A camera further down the course begins later than the boat starts, one that waits begins
 /// earlier; beyond this its clock is another one.
 constexpr double MostFromPlace = 45;
@@ -30,7 +30,7 @@ constexpr double SecondBoatConfidence = 0.35;
 /// A time of the file system is when it was copied, now and then.
 constexpr double FileTimeFactor = 0.8;
 
-double median(std::vector<double> values, double otherwise) {
+double middleOf(std::vector<double> values, double otherwise) {
     if (values.empty())
         return otherwise;
     const auto middle = values.begin() + static_cast<std::ptrdiff_t>(values.size() / 2);
@@ -122,7 +122,7 @@ private:
 
     [[nodiscard]] bool isOfOtherDay(const SeenFilm& film) const {
         const double began = film.began - agreedOffset();
-        return began < -Day / 2 || began > Day * 3 / 2;
+        return began < -SecondsOfDay / 2 || began > SecondsOfDay * 3 / 2;
     }
 
     /// Where there are no others, the date of the camera may be wrong.
@@ -132,7 +132,8 @@ private:
             !m_result.matches.empty())
             return;
         m_result.offeredOffset =
-            m_areTimed ? bestOffset(m_others) : std::floor(m_others.back()->began / Day) * Day;
+            m_areTimed ? bestOffset(m_others)
+                       : std::floor(m_others.back()->began / SecondsOfDay) * SecondsOfDay;
     }
 
     /// A name counts whatever the date: the file may have been copied since.
@@ -168,19 +169,19 @@ private:
         std::vector<double> moments;
         for (const DayStart& start : m_day.starts)
             moments.push_back(start.starttime);
-        return median(gapsOf(std::move(moments)), UsualInterval);
+        return middleOf(gapsOf(std::move(moments)), UsualInterval);
     }
 
     /// How unlikely a clock is wrong by so much: least where it is right, then by whole half hours,
     /// as in another time zone.
     static double strangeness(double offset) {
         if (std::abs(offset) <= MostFromPlace)
-            return std::abs(offset) / Day;
+            return std::abs(offset) / SecondsOfDay;
         const double beside = std::abs(std::remainder(offset, HalfHour));
         constexpr double OfZone = 0.3;
         constexpr double OfNothing = 0.6;
-        return (beside <= 2 * MostFromPlace ? OfZone : OfNothing) + beside / Day +
-               std::abs(offset) / (Day * Day);
+        return (beside <= 2 * MostFromPlace ? OfZone : OfNothing) + beside / SecondsOfDay +
+               std::abs(offset) / (SecondsOfDay * SecondsOfDay);
     }
 
     /// The offset at which most films meet a start; of equal ones the least strange.
@@ -220,7 +221,7 @@ private:
                 offsets.push_back((*film)->began -
                                   findStart(m_day, settled->starts.front())->starttime);
         }
-        return offsets.empty() ? std::nullopt : std::optional(median(offsets, 0));
+        return offsets.empty() ? std::nullopt : std::optional(middleOf(offsets, 0));
     }
 
     [[nodiscard]] double tolerance() const { return std::max(interval() / 2, LeastTolerance); }
@@ -267,7 +268,7 @@ private:
             if (std::abs(nearest) <= MostFromPlace)
                 beside.push_back(nearest);
         }
-        return median(std::move(beside), 0);
+        return middleOf(std::move(beside), 0);
     }
 
     /// The films and starts that lie nearest to each other, none out of order: the way of least
@@ -343,7 +344,7 @@ private:
             if (isOfABoat(*film) && !isOfOtherDay(*film))
                 moments.push_back(film->began);
         const std::vector<double> gaps = gapsOf(std::move(moments));
-        const double usual = median(gaps, 0);
+        const double usual = middleOf(gaps, 0);
         const auto isMultiple = [&](double gap) {
             const double times = std::max(1.0, std::round(gap / usual));
             return std::abs(gap / usual - times) <= MostBeside;
@@ -402,7 +403,7 @@ private:
         std::vector<double> lengths;
         for (const SeenFilm* const film : m_films)
             lengths.push_back(film->seconds);
-        const double usual = median(std::move(lengths), 0);
+        const double usual = middleOf(std::move(lengths), 0);
         if (usual <= 0)
             return;
         for (const SeenFilm* const film : m_films) {

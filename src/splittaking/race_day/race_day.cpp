@@ -17,7 +17,7 @@ constexpr std::int64_t NewestDayVersion = 1;
     throw DecodeError({std::move(path), std::move(why)});
 }
 
-std::string placeIn(const char* list, std::size_t place) {
+std::string placeInDay(const char* list, std::size_t place) {
     return list + ('[' + std::to_string(place) + ']');
 }
 
@@ -29,22 +29,22 @@ void checkDay(const RaceDay& day) {
     for (std::size_t i = 0; i < day.starts.size(); ++i) {
         const DayStart& start = day.starts[i];
         if (start.id <= 0 || !starts.insert(start.id).second)
-            refuseDay(placeIn("starts", i), "the id is not above 0, or another start has it");
+            refuseDay(placeInDay("starts", i), "the id is not above 0, or another start has it");
         if (!start.out.empty() && start.out != DidNotStart && start.out != DidNotFinish)
-            refuseDay(placeIn("starts", i), "out is \"" + start.out + "\" and not DNS or DNF");
+            refuseDay(placeInDay("starts", i), "out is \"" + start.out + "\" and not DNS or DNF");
     }
     std::set<std::int64_t> films;
     for (std::size_t i = 0; i < day.films.size(); ++i) {
         if (day.films[i].id <= 0 || !films.insert(day.films[i].id).second)
-            refuseDay(placeIn("films", i), "the id is not above 0, or another film has it");
+            refuseDay(placeInDay("films", i), "the id is not above 0, or another film has it");
         for (const std::int64_t start : day.films[i].starts)
             if (!starts.contains(start))
-                refuseDay(placeIn("films", i), "there is no start " + std::to_string(start));
+                refuseDay(placeInDay("films", i), "there is no start " + std::to_string(start));
     }
 }
 
 template <class List>
-auto* entryOf(const List& list, std::int64_t id) {
+auto* entryOfDay(const List& list, std::int64_t id) {
     const auto found = std::ranges::find(list, id, &List::value_type::id);
     return found == list.end() ? nullptr : &*found;
 }
@@ -52,11 +52,11 @@ auto* entryOf(const List& list, std::int64_t id) {
 } // namespace
 
 const DayStart* findStart(const RaceDay& day, std::int64_t id) {
-    return entryOf(day.starts, id);
+    return entryOfDay(day.starts, id);
 }
 
 const DayFilm* findFilm(const RaceDay& day, std::int64_t id) {
-    return entryOf(day.films, id);
+    return entryOfDay(day.films, id);
 }
 
 const DayFilm* findFilmFrom(const RaceDay& day, const std::string& from) {

@@ -54,14 +54,14 @@ constexpr std::array TitleWords = std::to_array<TitleWord>({{"bib", ListColumn::
                                                             {"start order", ListColumn::Order},
                                                             {"startorder", ListColumn::Order}});
 
-using Layout = std::map<ListColumn, std::size_t>;
+using ListLayout = std::map<ListColumn, std::size_t>;
 
-const Layout PlainLayout = {
+const ListLayout PlainLayout = {
     {ListColumn::Bib, 0}, {ListColumn::Name, 1}, {ListColumn::Category, 2}, {ListColumn::Start, 3}};
 
 /// Where the columns stand by their titles; nothing for a line that is no line of titles.
-std::optional<Layout> layoutOf(const std::vector<std::string_view>& fields) {
-    Layout layout;
+std::optional<ListLayout> layoutOf(const std::vector<std::string_view>& fields) {
+    ListLayout layout;
     for (std::size_t place = 0; place < fields.size(); ++place) {
         const std::string title = folded(fields[place]);
         const auto known = std::ranges::find(TitleWords, title, &TitleWord::title);
@@ -179,7 +179,7 @@ private:
 
     enum class Kind { Time, Order, Line };
 
-    Layout m_layout = PlainLayout;
+    ListLayout m_layout = PlainLayout;
     const DelimitedReader* m_line = nullptr;
     std::string m_reason;
     std::optional<Kind> m_kind;

@@ -41,15 +41,15 @@ std::vector<SeenFilm> filmsAt(const std::vector<double>& moments, double seconds
 }
 
 /// "A0 C180": who is on which film.
-std::string told(const RaceDay& day, const DayMatching& matching) {
+std::string toldMatches(const RaceDay& day, const DayMatching& matching) {
     std::string text;
     for (const DayMatch& match : matching.matches)
         text += (text.empty() ? "" : " ") + findStart(day, match.start)->name + match.from;
     return text;
 }
 
-std::string matched(const RaceDay& day, const std::vector<SeenFilm>& films) {
-    return told(day, matchFilms(day, films));
+std::string matchedFilms(const RaceDay& day, const std::vector<SeenFilm>& films) {
+    return toldMatches(day, matchFilms(day, films));
 }
 
 struct MatchRow {
@@ -64,8 +64,8 @@ class FilmMatchingTest : public testing::TestWithParam<MatchRow> {};
 
 TEST_P(FilmMatchingTest, FindsTheBoatOfEachFilm) {
     const MatchRow& row = GetParam();
-    EXPECT_EQ(matched(dayOf(row.starts, true), filmsAt(row.films)), row.byTime);
-    EXPECT_EQ(matched(dayOf(row.starts, false), filmsAt(row.films)), row.byOrder);
+    EXPECT_EQ(matchedFilms(dayOf(row.starts, true), filmsAt(row.films)), row.byTime);
+    EXPECT_EQ(matchedFilms(dayOf(row.starts, false), filmsAt(row.films)), row.byOrder);
 }
 
 const std::vector<MatchRow> MatchRows = {
@@ -92,13 +92,13 @@ TEST(FilmMatching, TellsAndOffersAClockThatIsOffByAnHour) {
     const DayMatching before = matchFilms(day, films);
     ASSERT_TRUE(before.offeredOffset);
     EXPECT_NEAR(*before.offeredOffset, 3600, 10);
-    EXPECT_EQ(told(day, before), "A3603 B3692 D3874 E3962");
+    EXPECT_EQ(toldMatches(day, before), "A3603 B3692 D3874 E3962");
     for (const DayMatch& match : before.matches)
         EXPECT_LT(match.confidence, LikelyConfidence) << "nobody has agreed to that";
     day = withOffset(std::move(day), *before.offeredOffset);
     const DayMatching after = matchFilms(day, films);
     EXPECT_FALSE(after.offeredOffset);
-    EXPECT_EQ(told(day, after), told(day, before));
+    EXPECT_EQ(toldMatches(day, after), toldMatches(day, before));
     for (const DayMatch& match : after.matches)
         EXPECT_GE(match.confidence, SureConfidence);
 }
@@ -109,7 +109,7 @@ TEST(FilmMatching, ProposesALongFilmForTheNextBoatToo) {
         auto films = filmsAt({0, 90, 270}, 60);
         films[1].seconds = 170;
         const DayMatching matching = matchFilms(day, films);
-        EXPECT_EQ(told(day, matching), areTimed ? "A0 B90 C90 D270" : "A0 B90 C270");
+        EXPECT_EQ(toldMatches(day, matching), areTimed ? "A0 B90 C90 D270" : "A0 B90 C270");
         if (areTimed) {
             EXPECT_LT(matching.matches[2].confidence, LikelyConfidence);
         }
@@ -120,7 +120,7 @@ TEST(FilmMatching, LeavesFilmsOfOtherDaysAloneUntilTheDateIsAgreedTo) {
     constexpr double Week = 7 * 86400;
     RaceDay day = dayOf("AB", true);
     const auto both = filmsAt({0, 90 - Week});
-    EXPECT_EQ(matched(day, both), "A0");
+    EXPECT_EQ(matchedFilms(day, both), "A0");
     EXPECT_EQ(matchFilms(day, both).ofOtherDays, 1U);
     const auto early = filmsAt({-Week, 90 - Week});
     const DayMatching matching = matchFilms(day, early);
@@ -134,9 +134,9 @@ TEST(FilmMatching, BelievesTheNameOfAFilmMoreThanItsTime) {
     const RaceDay day = dayOf("ABC", true);
     auto films = filmsAt({0, 90});
     films[1].crew = "c";
-    EXPECT_EQ(matched(day, films), "A0 C90");
+    EXPECT_EQ(matchedFilms(day, films), "A0 C90");
     films[1].began -= 7 * 86400; // copied since
-    EXPECT_EQ(matched(day, films), "A0 C90");
+    EXPECT_EQ(matchedFilms(day, films), "A0 C90");
 }
 
 TEST(FilmMatching, TrustsATimeOfTheFileLess) {
@@ -167,9 +167,9 @@ TEST(FilmShift, MovesTheFilmsFromAStartOn) {
             if (areTimed && row.starts == std::string_view("ABCDE"))
                 day = dayOf(row.starts, true);
             day = withShift(day, matchFilms(day, films), row.from, row.step);
-            EXPECT_EQ(matched(day, films), row.after) << row.name << areTimed;
+            EXPECT_EQ(matchedFilms(day, films), row.after) << row.name << areTimed;
             films = filmsAt({0, 90, 180, 270});
-            EXPECT_EQ(matched(day, films), row.later) << row.name << areTimed;
+            EXPECT_EQ(matchedFilms(day, films), row.later) << row.name << areTimed;
         }
     }
 }
@@ -182,12 +182,12 @@ TEST(FilmShift, ComesBackByTheOtherKeyAndForgetsWhatWasAgreed) {
     RaceDay moved = withShift(day, matchFilms(day, films), 2, 1);
     EXPECT_FALSE(findFilmFrom(moved, "90")->agreed) << "its name is another boat's now";
     moved = withShift(moved, matchFilms(moved, films), 2, -1);
-    EXPECT_EQ(matched(moved, films), "A0 B90 C180");
+    EXPECT_EQ(matchedFilms(moved, films), "A0 B90 C180");
 }
 
 TEST(FilmMatching, IsNotLedAstrayByASingleFilmOfAnOddBoat) {
     const RaceDay day = withFilm(dayOf("ABC", true), "0", {3});
-    EXPECT_EQ(matched(day, filmsAt({0, 90})), "B90 C0");
+    EXPECT_EQ(matchedFilms(day, filmsAt({0, 90})), "B90 C0");
 }
 
 TEST(FilmOfAStart, IsOnOneFilmAtATime) {

@@ -19,7 +19,7 @@ using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::SizeIs;
 
-std::string told(const std::vector<DayStart>& starts) {
+std::string toldStarts(const std::vector<DayStart>& starts) {
     std::string text;
     for (const DayStart& start : starts)
         text += std::to_string(start.bib) + ' ' + start.name + ' ' + start.cat + ' ' +
@@ -47,7 +47,7 @@ TEST(StartList, ReadsWhatOrganisersWriteAndCoachesPaste) {
               "12 Lee, Ann  -\n"
               "0 Bo \"B\" Kim  -\n"}}) {
         const StartList list = parseStartList(row.text);
-        EXPECT_EQ(told(list.starts), row.starts) << row.name;
+        EXPECT_EQ(toldStarts(list.starts), row.starts) << row.name;
         EXPECT_THAT(list.refused, IsEmpty()) << row.name;
     }
 }
@@ -57,7 +57,7 @@ TEST(StartList, TellsTheLineAndTheReasonOfWhatItCannotTake) {
                                           "x,Bo,K1W,10:01\n-3,Bo,K1W,10:01\n1,Cy,K1W,10:02\n\n"
                                           "4,,K1W,10:03\n5,Di,K1W,25:00\n6,Ed,K1W\n"
                                           "7,Flo,K1W,5\n5,Di,K1W,10:04\n");
-    EXPECT_EQ(told(list.starts), "1 Ann K1W 10:00:00\n5 Di K1W 10:04:00\n");
+    EXPECT_EQ(toldStarts(list.starts), "1 Ann K1W 10:00:00\n5 Di K1W 10:04:00\n");
     EXPECT_THAT(
         list.refused,
         ElementsAre(RefusedLine{3, "the bib \"x\" is no number above 0"},
@@ -75,8 +75,8 @@ TEST(StartList, CorrectsTheBoatsOfItsPhaseAndLeavesTheOthers) {
     day = withFilm(std::move(day), "a.mp4", {2});
     day = withStarts(std::move(day), parseStartList("2,Bo Kim,K1W,9:59\n3,Cy,K1W,10:02"), "Heats");
     day = withStarts(std::move(day), parseStartList("1,Ann,K1W,14:00"), "Final");
-    EXPECT_EQ(told(day.starts), "2 Bo Kim K1W 09:59:00\n1 Ann K1W 10:00:00\n"
-                                "3 Cy K1W 10:02:00\n1 Ann K1W 14:00:00\n");
+    EXPECT_EQ(toldStarts(day.starts), "2 Bo Kim K1W 09:59:00\n1 Ann K1W 10:00:00\n"
+                                      "3 Cy K1W 10:02:00\n1 Ann K1W 14:00:00\n");
     EXPECT_EQ(day.starts[0].id, 2) << "it keeps its film";
     EXPECT_EQ(day.starts[3].phase, "Final");
 }

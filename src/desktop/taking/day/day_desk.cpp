@@ -23,7 +23,7 @@ namespace {
 
 constexpr int GlanceMilliseconds = 1000;
 
-QDateTime momentOf(ReferenceDate date) {
+QDateTime localMoment(ReferenceDate date) {
     return QDateTime::fromMSecsSinceEpoch(
         static_cast<qint64>((date.seconds + SecondsFrom1970To2001) * 1000));
 }
@@ -144,7 +144,8 @@ void DayDesk::bringFilms() {
 
 double DayDesk::nowOfDay() const {
     const QDate date = QDate::fromString(qtText(m_parts.document.day().date), Qt::ISODate);
-    return static_cast<double>(date.startOfDay().msecsTo(momentOf(m_parts.workspace.clock()()))) /
+    return static_cast<double>(
+               date.startOfDay().msecsTo(localMoment(m_parts.workspace.clock()()))) /
            1000;
 }
 
@@ -191,7 +192,7 @@ void DayDesk::takeStarts(const StartList& list, const QString& phase) {
     RaceDay day = withStarts(m_parts.document.day(), list, phase.toStdString());
     if (day.date.empty())
         day.date =
-            momentOf(m_parts.document.info().date).date().toString(Qt::ISODate).toStdString();
+            localMoment(m_parts.document.info().date).date().toString(Qt::ISODate).toStdString();
     edit(tr("start list"), std::move(day));
 }
 

@@ -138,6 +138,7 @@ void DayFilms::copyNext() {
             m_watched.cardFolder() + '/' + qtText(m_watched.card()[film->file].path);
         m_work.run([path, target](const WorkSteps& steps) { return copyFilm(path, target, steps); },
                    [this, from](bool isDone) { noteCopied(from, isDone); });
+        emit copyingChanged();
     }
 }
 
@@ -145,6 +146,7 @@ void DayFilms::copyNext() {
 /// card still has its film.
 void DayFilms::noteCopied(const std::string& from, bool isDone) {
     m_copied.clear();
+    emit copyingChanged();
     if (!isDone) {
         m_refused.insert(from);
         emit failed(tr("%1 could not be copied from the card. Is the card out, or the disk full?")

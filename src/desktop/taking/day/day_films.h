@@ -42,6 +42,8 @@ public:
 signals:
     /// Other films are there.
     void changed();
+    /// Another film is being copied, or none.
+    void copyingChanged();
     void failed(const QString& why);
 
 private:

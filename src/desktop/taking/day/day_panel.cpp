@@ -18,7 +18,9 @@ namespace kavela::desktop {
 
 namespace {
 
-enum DayColumn { StartColumn, BibColumn, NameColumn, CatColumn, PhaseColumn, FilmColumn = 6 };
+/// Those that share the room.
+constexpr int DayNameColumn = 2;
+constexpr int DayFilmColumn = 6;
 
 /// In words, that nobody has to tell colours apart.
 QString sureness(const DayMatch& match) {
@@ -72,7 +74,7 @@ DayPanel::DayPanel(DayDesk& desk, QWidget* parent)
     m_table->keepOrder();
     constexpr int LeastHeight = 40; // a small screen needs its room for the film
     m_table->setMinimumHeight(LeastHeight);
-    m_table->stretch({NameColumn, FilmColumn});
+    m_table->stretch({DayNameColumn, DayFilmColumn});
     makeLayout();
     connect(&m_desk, &DayDesk::changed, this, &DayPanel::showDay);
     connect(&m_desk, &DayDesk::frontChanged, this, &DayPanel::showFront);
@@ -80,6 +82,7 @@ DayPanel::DayPanel(DayDesk& desk, QWidget* parent)
         if (const int place = m_table->currentPlace(); place >= 0 && !m_isShowing)
             m_desk.setFront(m_model.key(place));
     });
+    connect(&m_desk.films(), &DayFilms::copyingChanged, this, &DayPanel::showNote);
     showNote();
 }
 

@@ -21,19 +21,19 @@ void renameFilm(TakingState& state, const std::string& before, const std::string
 }
 
 /// Whether a text of a run may be replaced: nobody typed it.
-bool isGiven(const std::string& text, const std::string& before) {
+bool isFromList(const std::string& text, const std::string& before) {
     return text.empty() || text == before;
 }
 
 void nameRun(TakenRun& run, const DayStart& before, const DayStart& after) {
     auto named = std::make_shared<athletedata031>(*run.record);
     const std::string crew = crewText(named->names);
-    if (!isGiven(crew, crewText(crewIn(before.name))))
+    if (!isFromList(crew, crewText(crewIn(before.name))))
         return;
     named->names = crewIn(after.name);
-    if (isGiven(named->cat, before.cat))
+    if (isFromList(named->cat, before.cat))
         named->cat = after.cat;
-    if (isGiven(named->phase, before.phase))
+    if (isFromList(named->phase, before.phase))
         named->phase = after.phase;
     run.record = std::move(named);
 }
