@@ -152,8 +152,8 @@ private:
         const std::string crew = folded(film.crew);
         for (std::size_t place = 0; place < m_day.starts.size() && !crew.empty(); ++place) {
             const DayStart& start = m_day.starts[place];
-            const bool isPhase =
-                film.phase.empty() || start.phase.empty() || start.phase == film.phase;
+            const bool isPhase = film.phase.empty() || start.phase.empty() ||
+                                 folded(start.phase) == folded(film.phase);
             if (!isFree(place) || !isPhase || folded(crewText(crewIn(start.name))) != crew)
                 continue;
             if (found)

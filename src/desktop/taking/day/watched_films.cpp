@@ -110,7 +110,6 @@ void WatchedFilms::watch(const QString& here, const QString& card) {
     m_here = {.folder = here, .tracker = GrowingFilms(m_pace.restSeconds)};
     m_card = {.folder = card, .depth = DepthOfCards, .tracker = GrowingFilms(m_pace.restSeconds)};
     here.isEmpty() ? m_regular.stop() : m_regular.start();
-    watchFolders();
     emit changed();
     if (!here.isEmpty())
         look();
@@ -118,9 +117,9 @@ void WatchedFilms::watch(const QString& here, const QString& card) {
 
 void WatchedFilms::watchFolders() {
     QStringList wanted;
-    for (const QString& folder : {m_here.folder, m_card.folder})
-        if (!folder.isEmpty() && QFileInfo(folder).isDir())
-            wanted.append(folder);
+    for (const Folder* const folder : {&m_here, &m_card})
+        if (folder->isThere)
+            wanted.append(folder->folder);
     const QStringList watched = m_watcher.directories();
     for (const QString& folder : watched)
         if (!wanted.contains(folder))
@@ -135,7 +134,6 @@ void WatchedFilms::look() {
         return;
     m_isLooking = true;
     m_renamed.clear();
-    watchFolders();
     using Folders = std::pair<Folder, Folder>;
     m_work.run(
         [folders = Folders(m_here, m_card), now = steadySeconds()](const WorkSteps& steps) mutable {
@@ -167,6 +165,7 @@ void WatchedFilms::take(Folder here, Folder card) {
     m_card = std::move(card);
     for (const auto& [film, now] : std::exchange(m_renamed, {}))
         rename(QString::fromStdString(film), QString::fromStdString(now));
+    watchFolders();
     if (!isSame)
         emit changed();
 }
