@@ -7,6 +7,7 @@
 #include "common/error.h"
 #include "common/json_encode.h"
 #include "common/temp_folder.h"
+#include "sample/races.h"
 #include "splittaking/video_names.h"
 
 #include <gmock/gmock.h>
@@ -68,6 +69,16 @@ TEST(StartList, TellsTheLineAndTheReasonOfWhatItCannotTake) {
                                    "nor a number in an order"},
                     RefusedLine{9, "there is no start time, which the others have"},
                     RefusedLine{10, "there is no start time, which the others have"}));
+}
+
+TEST(StartList, OfTheSampleIsTakenWhole) {
+    const auto race = sample::holdRace(sample::harbourNight());
+    const StartList list = parseStartList(sample::startList(race, 72000));
+    EXPECT_THAT(list.refused, IsEmpty());
+    ASSERT_THAT(list.starts, SizeIs(race.info.resultsCSVdata.size()));
+    EXPECT_EQ(list.starts.front().cat, "C1M");
+    EXPECT_EQ(list.starts.back().starttime,
+              72000 + 60.0 * static_cast<double>(list.starts.size() - 1));
 }
 
 TEST(StartList, CorrectsTheBoatsOfItsPhaseAndLeavesTheOthers) {

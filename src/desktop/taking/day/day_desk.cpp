@@ -143,10 +143,7 @@ void DayDesk::bringFilms() {
 }
 
 double DayDesk::nowOfDay() const {
-    const QDate date = QDate::fromString(qtText(m_parts.document.day().date), Qt::ISODate);
-    return static_cast<double>(
-               date.startOfDay().msecsTo(localMoment(m_parts.workspace.clock()()))) /
-           1000;
+    return wallSeconds(m_parts.workspace.clock()(), m_parts.document.day().date);
 }
 
 void DayDesk::showGlance() {
@@ -168,7 +165,7 @@ void DayDesk::setFront(std::int64_t start) {
 
 void DayDesk::stepFront(int step) {
     const auto at = place(m_front);
-    if (!at || refusesWithoutFront())
+    if (refusesWithoutFront() || !at)
         return;
     const auto to = static_cast<std::ptrdiff_t>(*at) + step;
     if (to < 0 || to >= std::ssize(m_lines))

@@ -32,6 +32,16 @@ bool copyFilm(const QString& from, const QString& to, const WorkSteps& steps) {
 
 } // namespace
 
+double wallSeconds(ReferenceDate moment, const std::string& date) {
+    constexpr double SecondsPerDay = 86400;
+    constexpr double Milliseconds = 1000;
+    const QDateTime local = QDateTime::fromMSecsSinceEpoch(
+        static_cast<qint64>((moment.seconds + SecondsFrom1970To2001) * Milliseconds));
+    const QDate day = QDate::fromString(qtText(date), Qt::ISODate);
+    return static_cast<double>(day.daysTo(local.date())) * SecondsPerDay +
+           local.time().msecsSinceStartOfDay() / Milliseconds;
+}
+
 DayFilms::DayFilms(TakingDocument& document, QObject* parent)
     : QObject(parent), m_document(document), m_watched(this) {
     connect(&m_document, &TakingDocument::changed, this, &DayFilms::followDocument);
@@ -83,13 +93,10 @@ SeenFilm DayFilms::seenFilm(const DaySource& source) const {
     const RecordedFilm& recorded = m_watched.recording(file, source.isHere);
     const double began = recorded.byCamera ? recorded.byCamera->seconds
                                            : recorded.written.seconds - recorded.seconds;
-    const QDateTime midnight = QDate::fromString(qtText(m_day->date), Qt::ISODate).startOfDay();
-    const double midnightSeconds =
-        static_cast<double>(midnight.toMSecsSinceEpoch()) / 1000 - SecondsFrom1970To2001;
     const FilmFacts facts =
         filmFacts(presentName(*m_day, source.from), m_document.filmPattern().toStdString());
     return {.from = source.from,
-            .began = began - midnightSeconds,
+            .began = wallSeconds(ReferenceDate{began}, m_day->date),
             .seconds = recorded.seconds,
             .source = recorded.byCamera ? RecordingTime::Camera : RecordingTime::File,
             .crew = crewText(facts.names),

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "common/reference_date.h"
 #include "desktop/shell/background_work.h"
 #include "desktop/taking/day/watched_films.h"
 #include "splittaking/race_day/film_matching.h"
@@ -14,6 +15,10 @@
 namespace kavela::desktop {
 
 class TakingDocument;
+
+/// What a local clock shows at a moment, in seconds since the midnight of a day ("2026-05-16"): so
+/// lists have it, also on the day when the clocks change.
+[[nodiscard]] double wallSeconds(ReferenceDate moment, const std::string& date);
 
 /// The films of a race day on the disk: which there are, those of the card copied into the folder
 /// of the race, and their names. Nothing is ever written over.
