@@ -92,7 +92,7 @@ protected:
         race.info.date = ReferenceDate{RaceMoment};
         ASSERT_TRUE(saveSplitFile(race, file(), m_recorder.log()));
         ASSERT_NO_FATAL_FAILURE(open());
-        desk().takeStarts(parseStartList(starts), "Heats");
+        desk().takeStarts(parseStartList(starts), "Heats", desk().date());
     }
 
     DayDesk& desk() const { return m_window->day(); }

@@ -169,10 +169,11 @@ void TakingWindow::makeDay() {
 void TakingWindow::takeStartList() {
     const auto& starts = m_document.day().starts;
     StartListDialog dialog(m_files, workspace(),
-                           starts.empty() ? QString() : qtText(starts.back().phase), this);
+                           starts.empty() ? QString() : qtText(starts.back().phase), m_day->date(),
+                           this);
     if (dialog.exec() != QDialog::Accepted || !commit())
         return;
-    m_day->takeStarts(dialog.list(), dialog.phase());
+    m_day->takeStarts(dialog.list(), dialog.phase(), dialog.day());
     showDay(true);
 }
 

@@ -185,11 +185,14 @@ void DayDesk::edit(const QString& what, RaceDay day) {
     m_parts.document.edit(what, [&](TakingState& state) { setDay(state, std::move(day)); });
 }
 
-void DayDesk::takeStarts(const StartList& list, const QString& phase) {
+QDate DayDesk::date() const {
+    const QDate date = QDate::fromString(qtText(m_parts.document.day().date), Qt::ISODate);
+    return date.isValid() ? date : localMoment(m_parts.document.info().date).date();
+}
+
+void DayDesk::takeStarts(const StartList& list, const QString& phase, const QDate& date) {
     RaceDay day = withStarts(m_parts.document.day(), list, phase.toStdString());
-    if (day.date.empty())
-        day.date =
-            localMoment(m_parts.document.info().date).date().toString(Qt::ISODate).toStdString();
+    day.date = date.toString(Qt::ISODate).toStdString();
     edit(tr("start list"), std::move(day));
 }
 

@@ -4,6 +4,7 @@
 #include "splittaking/race_day/day_lines.h"
 #include "splittaking/race_day/start_list.h"
 
+#include <QDate>
 #include <QObject>
 #include <QTimer>
 
@@ -59,8 +60,10 @@ public:
     /// Another run is in front: so is its start.
     void followRun();
 
-    /// Takes the starts of a list into a phase.
-    void takeStarts(const StartList& list, const QString& phase);
+    /// The day of the starts; that of the race before there are some.
+    [[nodiscard]] QDate date() const;
+    /// Takes the starts of a list into a phase. All starts are on one day.
+    void takeStarts(const StartList& list, const QString& phase, const QDate& date);
     /// Films appear there; the folder of the race for an empty text.
     void watchFolder(const QString& folder);
     /// Changes a line of the list, such as a name that is written wrongly.

@@ -6,6 +6,7 @@
 #include "desktop/shell/theme.h"
 #include "desktop/shell/workspace.h"
 
+#include <QDateEdit>
 #include <QDialogButtonBox>
 #include <QFormLayout>
 #include <QLabel>
@@ -17,16 +18,19 @@
 namespace kavela::desktop {
 
 StartListDialog::StartListDialog(const FilmFiles& files, const Workspace& workspace,
-                                 const QString& phase, QWidget* parent)
+                                 const QString& phase, const QDate& day, QWidget* parent)
     : QDialog(parent),
       m_files(files),
       m_workspace(workspace),
       m_phase(new QLineEdit(phase)),
+      m_day(new QDateEdit(day)),
       m_text(new QPlainTextEdit),
       m_count(new QLabel),
       m_refused(new QPlainTextEdit) {
     setWindowTitle(tr("Start list"));
     m_phase->setObjectName("startPhase");
+    m_day->setObjectName("startDay");
+    m_day->setCalendarPopup(true);
     m_text->setObjectName("startList");
     m_text->setPlaceholderText(tr("12,Ann Lee,K1W,10:01:30"));
     m_text->setTabChangesFocus(true);
@@ -44,6 +48,7 @@ StartListDialog::StartListDialog(const FilmFiles& files, const Workspace& worksp
 
 void StartListDialog::makeLayout() {
     auto* const form = new QFormLayout;
+    form->addRow(tr("Day"), m_day);
     form->addRow(tr("Phase"), m_phase);
     auto* const buttons = new QDialogButtonBox(QDialogButtonBox::Cancel);
     m_take = buttons->addButton(tr("Take over"), QDialogButtonBox::AcceptRole);
@@ -94,6 +99,10 @@ void StartListDialog::readText() {
 
 QString StartListDialog::phase() const {
     return m_phase->text().trimmed();
+}
+
+QDate StartListDialog::day() const {
+    return m_day->date();
 }
 
 } // namespace kavela::desktop

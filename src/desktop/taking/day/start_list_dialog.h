@@ -3,8 +3,10 @@
 #include "desktop/splitfile/film_files.h"
 #include "splittaking/race_day/start_list.h"
 
+#include <QDate>
 #include <QDialog>
 
+class QDateEdit;
 class QLabel;
 class QLineEdit;
 class QPlainTextEdit;
@@ -20,11 +22,13 @@ class StartListDialog : public QDialog {
     Q_OBJECT
 
 public:
+    /// `phase` and `day` are proposed.
     StartListDialog(const FilmFiles& files, const Workspace& workspace, const QString& phase,
-                    QWidget* parent);
+                    const QDate& day, QWidget* parent);
 
     [[nodiscard]] const StartList& list() const { return m_list; }
     [[nodiscard]] QString phase() const;
+    [[nodiscard]] QDate day() const;
 
 private:
     void makeLayout();
@@ -35,6 +39,7 @@ private:
     const Workspace& m_workspace;
     StartList m_list;
     QLineEdit* m_phase;
+    QDateEdit* m_day;
     QPlainTextEdit* m_text;
     QLabel* m_count;
     QPlainTextEdit* m_refused;
