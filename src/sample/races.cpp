@@ -144,6 +144,32 @@ std::string officialList(std::span<const allresultsdata030> results) {
     return list;
 }
 
+std::string startList(const splittakerdata031& race, int firstStart) {
+    constexpr int Minute = 60;
+    std::vector<allresultsdata030> boats = race.info.resultsCSVdata;
+    std::ranges::sort(boats, {}, &allresultsdata030::bib);
+    std::string list = "bib,name,category,start time\n";
+    int start = firstStart;
+    for (const allresultsdata030& boat : boats) {
+        const auto run = std::ranges::find_if(race.athletes, [&](const athletedata031& each) {
+            std::string crew;
+            for (const std::string& name : each.names)
+                crew += (crew.empty() ? "" : " - ") + name;
+            return crew == boat.name;
+        });
+        const int minutes = start / Minute;
+        const auto digits = [](int number) {
+            return (number < 10 ? "0" : "") + std::to_string(number);
+        };
+        list += std::to_string(boat.bib) + ',' + boat.name + ',' +
+                (run == race.athletes.end() ? std::string() : run->cat) + ',' +
+                digits(minutes / Minute) + ':' + digits(minutes % Minute) + ':' +
+                digits(start % Minute) + '\n';
+        start += Minute;
+    }
+    return list;
+}
+
 RacePlan springOpener() {
     return {.title = "Spring Opener",
             .event = "National Cup",

@@ -34,6 +34,10 @@ struct RacePlan {
 /// An official list as organisers publish it: semicolon-separated, with a header line.
 [[nodiscard]] std::string officialList(std::span<const allresultsdata030> results);
 
+/// The start list of the phase that the official list is of: by bibs, a boat each minute from a
+/// time of day on, which is in seconds since midnight. Comma-separated, with titles.
+[[nodiscard]] std::string startList(const splittakerdata031& race, int firstStart);
+
 /// The races of the season.
 [[nodiscard]] RacePlan springOpener();
 [[nodiscard]] RacePlan riversideCup();

@@ -61,7 +61,10 @@ std::vector<SampleFile> sampleSeason() {
     std::vector<SampleFile> files{{"races/riverside_cup.kvx", encode(holdRace(riversideCup()))}};
     addOpener(files);
     files.push_back({"races/highland_open.kvx", encode(holdRace(highlandOpen()))});
-    files.push_back({"races/harbour_night.kvx", encode(holdRace(harbourNight()))});
+    const splittakerdata031 night = holdRace(harbourNight());
+    constexpr int EightInTheEvening = 20 * 3600;
+    files.push_back({"races/harbour_night.kvx", encode(night)});
+    files.push_back({"races/harbour_night_start_list.csv", startList(night, EightInTheEvening)});
     files.push_back({"races/harbour_cross.kvx", encode(crossRace())});
     addLeague(files);
     files.push_back({"training/gate_laps.kvx", encode(gateLaps())});

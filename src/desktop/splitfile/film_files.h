@@ -34,6 +34,8 @@ public:
 
     [[nodiscard]] QStringList choose(const QString& title, const QString& filter) const;
     [[nodiscard]] QStringList chooseFilms(const QString& title) const;
+    /// Empty for none.
+    [[nodiscard]] QString chooseFolder(const QString& title) const { return m_chooseFolder(title); }
     /// Copies films into the folder of the document, and tells the names of those that are there
     /// then, when at least one is.
     void copy(const QStringList& films,

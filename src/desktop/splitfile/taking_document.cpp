@@ -49,10 +49,13 @@ void takeFilmName(athletedata031& run, const std::string& pattern) {
 
 TakingDocument::TakingDocument(Workspace& workspace, Autosave autosave, QObject* parent)
     : Document(workspace, std::move(autosave), parent),
+      m_days(workspace),
       m_chooseCopy([this](const QString& proposed) {
           return QFileDialog::getSaveFileName(nullptr, tr("Save a copy as"), proposed,
                                               tr("Split files (*.kvx)"));
-      }) {}
+      }) {
+    connect(&m_days, &DayKeeping::notKept, this, &TakingDocument::dayNotKept);
+}
 
 bool TakingDocument::openFolder(const QString& folder, QWidget* over) {
     const QString absolute = QDir(folder).absolutePath();
@@ -60,8 +63,10 @@ bool TakingDocument::openFolder(const QString& folder, QWidget* over) {
         return openFile(file, over);
     splittakerdata031 document = newDocument(absolute);
     document.athletes = runsOf(filmsIn(absolute), document.info.gates);
-    start(stateOf(std::move(document)), absolute + '/' + QFileInfo(absolute).fileName() + ".kvx",
-          over);
+    const QString file = absolute + '/' + QFileInfo(absolute).fileName() + ".kvx";
+    TakingState state = stateOf(std::move(document));
+    state.day = m_days.read(file, over);
+    start(std::move(state), file, over);
     setNamed(); // after its folder
     return true;
 }
@@ -71,7 +76,9 @@ bool TakingDocument::openFile(const QString& file, QWidget* over) {
         recogniseSplitFile(file.toStdString(), workspace().log(), workspace().clock());
     if (!read.isCurrent())
         return openCopy(read, file, over);
-    start(stateOf(std::move(read.document)), file, over);
+    TakingState state = stateOf(std::move(read.document));
+    state.day = m_days.read(file, over);
+    start(std::move(state), file, over);
     return true;
 }
 
@@ -117,6 +124,7 @@ bool TakingDocument::recover(const std::string& content) {
     const auto changed = std::ranges::mismatch(state->runs, value().runs, isUntouched).in1;
     if (changed != state->runs.end())
         m_workedOn = static_cast<int>(changed - state->runs.begin());
+    state->day = value().day; // which was kept apart from this
     startFrom(std::move(*state));
     return true;
 }
@@ -247,6 +255,7 @@ void TakingDocument::follow() {
     m_expected.clear();
     for (const athletedata031& run : times.athletes)
         m_expected.push_back(run.sectioninfo.xTime);
+    m_days.keep(value().day, path());
 }
 
 void TakingDocument::editRun(int index, const QString& what,
@@ -330,10 +339,12 @@ void TakingDocument::importSplitFile(const QString& file, QWidget* over) {
                               over);
         return;
     }
-    if (after.runs.empty())
+    if (after.runs.empty()) {
+        imported.day = after.day;
         after = std::move(imported);
-    else
+    } else {
         after.runs.insert(after.runs.end(), imported.runs.begin(), imported.runs.end());
+    }
     put(tr("split file imported"), std::move(after));
 }
 
@@ -352,7 +363,9 @@ void TakingDocument::reset(QWidget* over) {
              messages::AskToDeleteAll + std::string("\n\n") + what.toStdString()},
             tr(messages::ResetButton), over))
         return;
-    put(tr("reset"), stateOf(newDocument(folder())));
+    TakingState emptied = stateOf(newDocument(folder()));
+    emptied.day = value().day; // the start list is no data of a run
+    put(tr("reset"), std::move(emptied));
     logPerfectTime();
 }
 
@@ -407,10 +420,11 @@ TakingDocument::Beside TakingDocument::besideWith(const BesideFile& lists) const
     };
 }
 
-/// A split file may hold runs, a cross race, or both.
+/// A split file may hold runs, a cross race, or both; before the first run of a race its start list
+/// stands beside it.
 bool TakingDocument::holdsNothing() const {
-    return value().runs.empty() && cross().timetrials.empty() && cross().eliphase.empty() &&
-           cross().crossinfo.gates.empty();
+    return value().runs.empty() && day().starts.empty() && cross().timetrials.empty() &&
+           cross().eliphase.empty() && cross().crossinfo.gates.empty();
 }
 
 bool TakingDocument::mayWrite(QWidget* over) {

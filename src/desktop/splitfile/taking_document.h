@@ -2,6 +2,7 @@
 
 #include "common/why.h"
 #include "desktop/shell/document.h"
+#include "desktop/splitfile/day_keeping.h"
 #include "desktop/splitfile/taking_lists.h"
 #include "desktop/splitfile/taking_state.h"
 #include "splittaking/marking.h"
@@ -38,6 +39,8 @@ public:
     [[nodiscard]] const infodata031& info() const { return *value().info; }
     [[nodiscard]] const crossdata030& cross() const { return *value().cross; }
     [[nodiscard]] const TrialStarts& trialStarts() const { return value().trialStarts; }
+    /// Kept at every change in a file of its own, whether the split file is saved or not.
+    [[nodiscard]] const RaceDay& day() const { return *value().day; }
     [[nodiscard]] int runCount() const { return static_cast<int>(value().runs.size()); }
     [[nodiscard]] const athletedata031& run(int index) const;
     /// The first run that recovered work changed; none where nothing was recovered.
@@ -105,6 +108,10 @@ public:
     /// window goes on; what is edited after the call is not in it.
     void exportTo(const QString& file, const BesideFile& lists, QWidget* over, Saved saved = {});
 
+signals:
+    /// The race day could not be written; the next change tries again.
+    void dayNotKept(const QString& why);
+
 protected:
     [[nodiscard]] QString summary() const override;
     [[nodiscard]] Content contentNow() const override;
@@ -132,6 +139,7 @@ private:
     void saveWith(const BesideFile& lists, QWidget* over, Saved saved);
     void writeCopy(const QString& file, const BesideFile& lists, QWidget* over, Saved saved);
 
+    DayKeeping m_days;
     std::vector<double> m_expected;
     double m_perfect = 0;
     ChooseCopy m_chooseCopy;

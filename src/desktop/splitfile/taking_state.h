@@ -5,6 +5,7 @@
 #include "common/reference_date.h"
 #include "splitdata/document.h"
 #include "splittaking/marking.h"
+#include "splittaking/race_day/race_day.h"
 
 #include <map>
 #include <memory>
@@ -34,6 +35,8 @@ struct TakingState {
     std::vector<TakenRun> runs;
     std::shared_ptr<const crossdata030> cross = std::make_shared<crossdata030>();
     TrialStarts trialStarts;
+    /// Has a file of its own beside the split file. Never null.
+    std::shared_ptr<const RaceDay> day = std::make_shared<RaceDay>();
 };
 
 [[nodiscard]] TakingState stateOf(splittakerdata031 document);

@@ -6,6 +6,7 @@
 #include "desktop/film/play_menu.h"
 #include "desktop/shell/typing.h"
 #include "desktop/shell/workspace.h"
+#include "desktop/taking/day/day_actions.h"
 #include "desktop/taking/notes/note_actions.h"
 #include "desktop/taking/run_films.h"
 #include "desktop/taking/split_mode.h"
@@ -34,6 +35,7 @@ TakingActions::TakingActions(TakingWindow& window, Workspace& workspace)
     makeMarkMenu();
     makePenaltyMenu();
     addNoteMenu(window, window.notes());
+    addDayMenu(window, window.day(), window.dayPanel(), window.dayShown());
     new PlayMenu(window, window.deck(), window.stage().sound(), workspace); // the window owns it
     makeCameraMenu();
     window.finishMenus([this] { return athletes(); });

@@ -5,12 +5,16 @@
 #include "desktop/film/time_line.h"
 #include "desktop/race/frozen_table.h"
 #include "desktop/shell/dropped_files.h"
+#include "desktop/shell/qt_text.h"
 #include "desktop/shell/refused_entry.h"
 #include "desktop/shell/tables/column_table.h"
 #include "desktop/shell/theme.h"
 #include "desktop/shell/window_place.h"
 #include "desktop/shell/workspace.h"
 #include "desktop/splitfile/film_table.h"
+#include "desktop/taking/day/day_desk.h"
+#include "desktop/taking/day/day_panel.h"
+#include "desktop/taking/day/start_list_dialog.h"
 #include "desktop/taking/gate_strip.h"
 #include "desktop/taking/notes/clip_player.h"
 #include "desktop/taking/notes/lane_strip.h"
@@ -26,6 +30,7 @@
 #include "splittaking/annotations/penalty_details.h"
 #include "splittaking/video_names.h"
 
+#include <QAction>
 #include <QCloseEvent>
 #include <QFileInfo>
 #include <QLabel>
@@ -33,6 +38,7 @@
 #include <QScreen>
 #include <QSignalBlocker>
 #include <QSplitter>
+#include <QStackedWidget>
 #include <QTabBar>
 #include <QTableView>
 #include <QVBoxLayout>
@@ -55,6 +61,7 @@ TakingWindow::TakingWindow(Workspace& workspace, Autosave autosave)
     connect(&m_document, &TakingDocument::changed, this, &TakingWindow::showRuns);
     makeStage();
     makeModes();
+    makeDay();
     auto* upper = new QSplitter;
     upper->addWidget(makeRuns());
     upper->addWidget(m_stage);
@@ -66,7 +73,10 @@ TakingWindow::TakingWindow(Workspace& workspace, Autosave autosave)
     whole->setContentsMargins(theme::LargeSpacing, theme::Spacing, theme::LargeSpacing,
                               theme::Spacing);
     whole->addWidget(upper);
-    whole->addWidget(makeTable());
+    m_below = new QStackedWidget;
+    m_below->addWidget(makeTable());
+    m_below->addWidget(m_dayPanel);
+    whole->addWidget(m_below);
     whole->setStretchFactor(0, 1);
     shareSizes(*whole, {560, 200});
     rememberSizes(*whole, workspace, "takingTable");
@@ -135,6 +145,43 @@ void TakingWindow::makeModes() {
     m_stage->setModes(std::move(modes));
 }
 
+void TakingWindow::makeDay() {
+    m_day = new DayDesk({m_document, *m_stage, workspace(), [this] { return commit(); },
+                         [this] { return m_run; }, [this](int run) { selectRun(run); }});
+    m_stage->addBelow(m_day->glance());
+    m_dayPanel = new DayPanel(*m_day);
+    m_dayShown = new QAction(tr("Race &day, or the table of the race"), this);
+    m_dayShown->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_D));
+    m_dayShown->setCheckable(true);
+    connect(m_dayShown, &QAction::triggered, this, &TakingWindow::showDay);
+    connect(m_dayPanel, &DayPanel::listWanted, this, &TakingWindow::takeStartList);
+    connect(m_dayPanel, &DayPanel::folderWanted, this, &TakingWindow::chooseDayFolder);
+}
+
+void TakingWindow::takeStartList() {
+    const auto& starts = m_document.day().starts;
+    StartListDialog dialog(m_files, workspace(),
+                           starts.empty() ? QString() : qtText(starts.back().phase), m_day->date(),
+                           this);
+    if (dialog.exec() != QDialog::Accepted || !commit())
+        return;
+    m_day->takeStarts(dialog.list(), dialog.phase(), dialog.day());
+    showDay(true);
+}
+
+void TakingWindow::showDay(bool isShown) {
+    m_dayShown->setChecked(isShown);
+    m_below->setCurrentIndex(isShown ? 1 : 0);
+    m_below->setVisible(true); // also where the film was made larger
+}
+
+void TakingWindow::chooseDayFolder() {
+    const QString folder = m_files.chooseFolder(tr("In which folder do the films appear?"));
+    if (!folder.isEmpty() && commit())
+        m_day->watchFolder(QFileInfo(folder) == QFileInfo(m_document.folder()) ? QString()
+                                                                               : folder);
+}
+
 QWidget* TakingWindow::makeTable() {
     m_table = new FrozenTable(SplitTableModel::LeadingColumns);
     m_table->setObjectName("splitTable");
@@ -200,7 +247,7 @@ bool TakingWindow::open(const QString& path) {
 void TakingWindow::makeFilmLarger() {
     constexpr int Stages = 3;
     m_larger = (m_larger + 1) % Stages;
-    m_table->setVisible(m_larger == 0);
+    m_below->setVisible(m_larger == 0);
     m_list->setVisible(m_larger < 2);
     m_notes->setVisible(m_larger < 2);
     if (m_larger == 2) // what was hidden may have had it, and keys belong to the window
@@ -283,6 +330,7 @@ void TakingWindow::showRun(int run) {
     if (run >= 0)
         showGates();
     m_shown->show();
+    m_day->followRun();
     if (m_recording)
         m_recording->startRun();
 }

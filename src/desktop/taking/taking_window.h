@@ -9,13 +9,17 @@
 #include "desktop/taking/run_list.h"
 #include "splittaking/penalties.h"
 
+class QAction;
 class QLabel;
 class QLineEdit;
+class QStackedWidget;
 
 namespace kavela::desktop {
 
 class ClipPlayer;
 class ColumnTable;
+class DayDesk;
+class DayPanel;
 class FilmDeck;
 class FilmStage;
 class FrozenTable;
@@ -51,6 +55,12 @@ public:
     [[nodiscard]] NotesPanel& notes() const { return *m_notes; }
     [[nodiscard]] RunFilms& films() const { return *m_films; }
     [[nodiscard]] RaceExchange& exchange() { return m_exchange; }
+    [[nodiscard]] DayDesk& day() const { return *m_day; }
+    [[nodiscard]] DayPanel& dayPanel() const { return *m_dayPanel; }
+    /// Shows the race day in place of the coloured table, or the table again.
+    void showDay(bool isShown);
+    /// Its action, checked while the day is shown.
+    [[nodiscard]] QAction& dayShown() const { return *m_dayShown; }
     [[nodiscard]] const GateStrip& gates() const { return *m_gates; }
     [[nodiscard]] int currentRun() const { return m_run; }
 
@@ -91,6 +101,9 @@ private:
     void makeStage();
     void makeModes();
     [[nodiscard]] QWidget* makeTable();
+    void makeDay();
+    void takeStartList();
+    void chooseDayFolder();
     void connectParts();
     void connectNotes();
     void showRun(int run);
@@ -126,6 +139,10 @@ private:
     SplitsShown* m_shown = nullptr;
     RunFilms* m_films = nullptr;
     FrozenTable* m_table = nullptr;
+    DayDesk* m_day = nullptr;
+    DayPanel* m_dayPanel = nullptr;
+    QAction* m_dayShown = nullptr;
+    QStackedWidget* m_below = nullptr;      ///< the coloured table, and the race day
     RecordingDialog* m_recording = nullptr; ///< made when it is first wanted
 };
 
