@@ -73,7 +73,8 @@ QString IntervalChart::emptyReason() const {
 
 void IntervalChart::fill() {
     canvas().setCaptions(m_content.title, m_content.subtitle);
-    canvas().xAxis->setLabel(m_content.xTitle);
+    // An axis without a title keeps no room for the names, which are painted beside it.
+    canvas().xAxis->setLabel(m_content.xTitle.isEmpty() ? QStringLiteral(" ") : m_content.xTitle);
     const double room = m_content.isCourse ? RiverHeight : LongestName;
     canvas().xAxis->setLabelPadding(static_cast<int>(room) + theme::SmallSpacing);
     canvas().yAxis->setLabel(m_content.yTitle);
@@ -178,7 +179,7 @@ void IntervalChart::paintMark(QCPPainter& painter, std::size_t index) const {
     painter.setPen(palette().color(QPalette::Text));
     const double height = QFontMetrics(font).height();
     painter.drawText(QRectF(x - 40, pixel(mark.high) - height - 1, 80, height), Qt::AlignCenter,
-                     valueText(mark.value));
+                     valueText(std::round(mark.value * 10) / 10)); // as fine as it is known
 }
 
 void IntervalChart::paintBackdrop(QCPPainter& painter) const {

@@ -18,7 +18,8 @@ namespace {
 
 // Pixels.
 constexpr int WidestName = 170;
-constexpr int LeastText = 7;
+/// A row that is lower cannot be read: the cursor tells what stands in it.
+constexpr int LeastText = 11;
 
 } // namespace
 
