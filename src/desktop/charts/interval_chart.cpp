@@ -75,12 +75,32 @@ void IntervalChart::fill() {
     canvas().setCaptions(m_content.title, m_content.subtitle);
     // An axis without a title keeps no room for the names, which are painted beside it.
     canvas().xAxis->setLabel(m_content.xTitle.isEmpty() ? QStringLiteral(" ") : m_content.xTitle);
-    const double room = m_content.isCourse ? RiverHeight : LongestName;
+    const double room = m_content.isCourse ? RiverHeight : roomOfNames();
     canvas().xAxis->setLabelPadding(static_cast<int>(room) + theme::SmallSpacing);
     canvas().yAxis->setLabel(m_content.yTitle);
     showLabels();
     setLimits();
     canvas().replot(QCustomPlot::rpQueuedReplot);
+}
+
+/// The height of the longest name when names stand upright.
+double IntervalChart::roomOfNames() const {
+    const QFontMetrics metrics(canvas().xAxis->tickLabelFont());
+    int longest = metrics.height();
+    for (const IntervalMark& mark : m_content.marks)
+        longest = std::max(longest, metrics.horizontalAdvance(mark.label));
+    return std::min<double>(longest + theme::SmallSpacing, LongestName);
+}
+
+/// All names lie or all stand upright: a mixture looks like two kinds of marks.
+bool IntervalChart::hasRoomForNames() const {
+    QFont font = canvas().xAxis->tickLabelFont();
+    font.setBold(true);
+    const QFontMetrics metrics(font);
+    const double room = pixelsOfMark() - theme::SmallSpacing;
+    return std::ranges::all_of(m_content.marks, [&](const IntervalMark& mark) {
+        return metrics.horizontalAdvance(mark.label) <= room;
+    });
 }
 
 void IntervalChart::showLabels() {
@@ -250,9 +270,10 @@ void IntervalChart::paintBelow(QCPPainter& painter) const {
     const QRectF plot = canvas().axisRect()->rect();
     painter.setFont(canvas().xAxis->tickLabelFont());
     if (!m_content.isCourse) {
+        const bool isLying = hasRoomForNames();
         for (std::size_t i = 0; i < m_content.marks.size(); ++i)
             if (isInView(i))
-                paintName(painter, i);
+                paintName(painter, i, isLying);
         return;
     }
     const QRectF river(plot.left(), plot.bottom() + 2, plot.width(), RiverHeight);
@@ -269,8 +290,7 @@ void IntervalChart::paintBelow(QCPPainter& painter) const {
     }
 }
 
-/// Upright where it has no room to lie.
-void IntervalChart::paintName(QCPPainter& painter, std::size_t index) const {
+void IntervalChart::paintName(QCPPainter& painter, std::size_t index, bool isLying) const {
     const IntervalMark& mark = m_content.marks[index];
     QFont font = canvas().xAxis->tickLabelFont();
     font.setBold(mark.isBold);
@@ -279,7 +299,7 @@ void IntervalChart::paintName(QCPPainter& painter, std::size_t index) const {
     const QFontMetrics metrics(font);
     const double room = pixelsOfMark() - theme::SmallSpacing;
     const double top = canvas().axisRect()->rect().bottom() + theme::SmallSpacing;
-    if (metrics.horizontalAdvance(mark.label) <= room) {
+    if (isLying) {
         painter.drawText(QRectF(pixelOf(index) - room / 2, top, room, metrics.height()),
                          Qt::AlignCenter, mark.label);
         return;

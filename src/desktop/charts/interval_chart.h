@@ -99,7 +99,9 @@ private:
     void paintSectionStart(QCPPainter& painter, std::size_t mark) const;
     void paintGroups(QCPPainter& painter) const;
     void paintBelow(QCPPainter& painter) const;
-    void paintName(QCPPainter& painter, std::size_t mark) const;
+    void paintName(QCPPainter& painter, std::size_t mark, bool isLying) const;
+    [[nodiscard]] double roomOfNames() const;
+    [[nodiscard]] bool hasRoomForNames() const;
 
     IntervalChartContent m_content;
     std::optional<std::size_t> m_current;
