@@ -4,7 +4,6 @@
 
 #include <algorithm>
 #include <array>
-#include <cmath>
 
 namespace kavela {
 
@@ -12,30 +11,32 @@ namespace {
 
 constexpr int Opaque = 255;
 
-/// Shares of blue, green, red and opacity in one plane, for colours of high definition from 16 to
-/// 235 and around 128.
+/// Shares of blue, green, red and opacity in one plane in parts of 65536, for colours of high
+/// definition from 16 to 235 and around 128.
 struct PlaneShares {
-    double blue = 0;
-    double green = 0;
-    double red = 0;
-    double zero = 0; ///< what black is
+    int blue = 0;
+    int green = 0;
+    int red = 0;
+    int opacity = 0; ///< so much is black, for all of it
 };
 
-constexpr PlaneShares BrightnessShares{0.06200, 0.61423, 0.18259, 16};
-constexpr PlaneShares BlueShares{0.43922, -0.33857, -0.10064, 128};
-constexpr PlaneShares RedShares{-0.04027, -0.39894, 0.43922, 128};
+constexpr int WholeShare = 65536;
+constexpr PlaneShares BrightnessShares{4063, 40254, 11966, 16 * WholeShare / Opaque};
+constexpr PlaneShares BlueShares{28785, -22189, -6596, 128 * WholeShare / Opaque};
+constexpr PlaneShares RedShares{-2639, -26146, 28785, 128 * WholeShare / Opaque};
 
 /// Blue, green, red, opacity: the mean of `step` by `step` pixels.
-std::array<double, 4> meanOf(const std::uint8_t* pixels, std::ptrdiff_t bytesPerLine, int x, int y,
-                             int step) {
-    std::array<double, 4> sum{};
-    for (int row = 0; row < step; ++row)
+std::array<int, 4> meanOf(const std::uint8_t* pixels, std::ptrdiff_t bytesPerLine, int x, int y,
+                          int step) {
+    std::array<int, 4> sum{};
+    for (int row = 0; row < step; ++row) {
+        const std::uint8_t* pixel = pixels + (y + row) * bytesPerLine + std::ptrdiff_t{x} * 4;
         for (int column = 0; column < step; ++column)
-            for (std::size_t i = 0; i < sum.size(); ++i)
-                sum[i] += pixels[(y + row) * bytesPerLine + (x + column) * 4 +
-                                 static_cast<std::ptrdiff_t>(i)];
-    for (double& value : sum)
-        value /= step * step;
+            for (int& value : sum)
+                value += *pixel++;
+    }
+    for (int& value : sum)
+        value = (value + step * step / 2) / (step * step);
     return sum;
 }
 
@@ -45,14 +46,18 @@ Plane planeOf(VideoSize size, const std::uint8_t* pixels, std::ptrdiff_t bytesPe
     Plane plane;
     plane.width = size.width / step;
     plane.height = size.height / step;
+    const auto count =
+        static_cast<std::size_t>(plane.width) * static_cast<std::size_t>(plane.height);
+    plane.shades.reserve(count);
+    plane.rest.reserve(count);
     for (int y = 0; y < plane.height; ++y)
         for (int x = 0; x < plane.width; ++x) {
             const auto mean = meanOf(pixels, bytesPerLine, x * step, y * step, step);
-            const double shade = mean[0] * shares.blue + mean[1] * shares.green +
-                                 mean[2] * shares.red + shares.zero * mean[3] / Opaque;
+            const int shade = mean[0] * shares.blue + mean[1] * shares.green +
+                              mean[2] * shares.red + mean[3] * shares.opacity + WholeShare / 2;
             plane.shades.push_back(
-                static_cast<std::uint8_t>(std::clamp<long>(std::lround(shade), 0, Opaque)));
-            plane.rest.push_back(static_cast<std::uint8_t>(Opaque - std::lround(mean[3])));
+                static_cast<std::uint8_t>(std::clamp(shade / WholeShare, 0, Opaque)));
+            plane.rest.push_back(static_cast<std::uint8_t>(Opaque - mean[3]));
         }
     return plane;
 }

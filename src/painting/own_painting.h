@@ -20,6 +20,8 @@ public:
     [[nodiscard]] bool isAthletePageWritten(const FactStore& facts, const SeasonLossQuery& query,
                                             const std::filesystem::path& folder) const override;
     [[nodiscard]] int writeSeasonFilms(const std::filesystem::path& folder) const override;
+    [[nodiscard]] int composeFilm(const std::filesystem::path& job,
+                                  const std::filesystem::path& output) const override;
 };
 
 } // namespace kavela::painting
