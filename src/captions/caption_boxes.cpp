@@ -190,7 +190,9 @@ QImage captionBoxImage(const CaptionBox& box) {
         painter.fillRect(margin / 2, margin, bar / 2, image.height() - 2 * margin,
                          colourOfFilm(box.film));
     painter.setFont(font);
-    painter.setPen(look.text);
+    // Where both films fill one place, the colour tells whose time it is.
+    const bool isTime = isClock || box.kind == CaptionKind::Split;
+    painter.setPen(isTime ? colourOfFilm(box.film) : look.text);
     painter.drawText(QRect(margin + bar, 0, textWidth + margin / 2, image.height()),
                      static_cast<int>(Qt::AlignVCenter) |
                          static_cast<int>(isClock ? Qt::AlignRight : Qt::AlignLeft),

@@ -21,14 +21,14 @@ struct composepoint001 {
 BOOST_DESCRIBE_STRUCT(composepoint001, (), (x, y))
 
 struct composefilm001 {
-    std::string splitFile;
+    std::string splitFile = {};
     std::int64_t run = 0;
     std::int64_t camera = 1;
-    std::string film;
-    std::string names;
-    std::string category;
+    std::string film = {};
+    std::string names = {};
+    std::string category = {};
     double startsAt = 0;
-    std::vector<composepoint001> points;
+    std::vector<composepoint001> points = {};
 };
 BOOST_DESCRIBE_STRUCT(composefilm001, (),
                       (splitFile, run, camera, film, names, category, startsAt, points))

@@ -46,6 +46,16 @@ TEST_F(ComposeJob, TakesRunsFromTheirSplitFile) {
     EXPECT_EQ(outputOf(jobOfTwoRuns(), path), m_folder.path() / "job.mp4");
 }
 
+TEST_F(ComposeJob, OfTheSampleSeasonComparesTwoWholeRuns) {
+    for (const SampleFile& file : sampleSeason())
+        static_cast<void>(m_folder.add(file.name.filename().string(), file.content));
+    const auto job = readComposeJob(m_folder.path() / "compare_final.json");
+    const Composition composition = compositionOf(job, m_folder.path());
+    for (const ComposedFilm& film : composition.films)
+        EXPECT_EQ(film.run.marks.size(), film.run.times.size()) << film.run.names;
+    EXPECT_NE(composition.films[0].run.names, composition.films[1].run.names);
+}
+
 TEST_F(ComposeJob, SaysWhatIsWrongAndWhere) {
     struct Wrong {
         const char* place;
