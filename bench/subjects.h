@@ -14,5 +14,6 @@ void addLosses();
 void addVideo();
 void addMotionAnalysis();
 void addFacts();
+void addCompose();
 
 } // namespace kavela::bench
