@@ -69,11 +69,11 @@ struct Reach {
 
 /// When the films pass a split; none of them does where it is infinite.
 Reach reachOf(const Composition& composition, const TimeMap& map,
-              const std::function<std::optional<std::size_t>(const FilmMarks&)>& markOf) {
+              const std::function<std::optional<std::size_t>(const FilmMarks&)>& whichMark) {
     Reach reach;
     for (std::size_t film = 0; film < composition.films.size(); ++film) {
         const FilmMarks& marks = composition.films[film].run.marks;
-        const auto mark = markOf(marks);
+        const auto mark = whichMark(marks);
         if (mark && *mark < marks.size() && marks[*mark])
             reach.widen(map.commonAt(film, *marks[*mark]));
     }
