@@ -44,6 +44,7 @@ int main(int count, char** words) {
     addVideo();
     addMotionAnalysis();
     addFacts(files);
+    addCompose();
     ValueReporter reporter;
     benchmark::RunSpecifiedBenchmarks(&reporter);
     return printRatios(reporter.values()) > 0 ? 1 : 0;

@@ -17,5 +17,6 @@ void addVideo();
 void addMotionAnalysis();
 /// Over so many split files, at least 20.
 void addFacts(std::size_t files);
+void addCompose();
 
 } // namespace kavela::bench

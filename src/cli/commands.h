@@ -27,6 +27,7 @@ void addLosses(Command program, int& status, const Painting* painting);
 void addPenalties(Command program, int& status);
 void addSeason(Command program, int& status, const Painting* painting);
 void addTable(Command program, int& status);
+void addCompose(Command program, int& status, const Painting* painting);
 void addDemo(Command program, int& status, const Painting* painting);
 
 } // namespace kavela::cli

@@ -64,6 +64,12 @@ public:
     /// that is there already stays. Returns the exit status; throws FileError when a film cannot be
     /// written.
     [[nodiscard]] virtual int writeSeasonFilms(const std::filesystem::path& folder) const = 0;
+
+    /// Composes the film that a job file asks for, with a line that tells how far it is; into
+    /// `output` where that is not empty, otherwise where the job says. Returns the exit status,
+    /// after a message where that is not 0.
+    [[nodiscard]] virtual int composeFilm(const std::filesystem::path& job,
+                                          const std::filesystem::path& output) const = 0;
 };
 
 /// Thrown by a command of a program without painting: the call is for `kavela-paint`.

@@ -29,7 +29,8 @@ seasonFilms(const std::function<bool(const std::filesystem::path&)>& isWanted);
 sessionFilms(const splittakerdata031& session, const std::filesystem::path& folder,
              const std::function<bool(const std::filesystem::path&)>& isWanted);
 
-/// Makes a film: the bytes of its file. Takes some seconds. Throws FilmError.
+/// Makes a film, 50 frames a second with a key frame every 50: the bytes of its file. Takes some
+/// seconds. Throws FilmError.
 [[nodiscard]] std::string makeFilm(const FilmScene& scene);
 
 } // namespace kavela::films

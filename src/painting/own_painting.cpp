@@ -1,5 +1,6 @@
 #include "painting/own_painting.h"
 
+#include "painting/composed_film_file.h"
 #include "painting/offscreen_application.h"
 #include "painting/report_files.h"
 #include "painting/season_film_files.h"
@@ -69,6 +70,10 @@ bool OwnPainting::areSeasonPagesWritten(const Season& season, const fs::path& fo
 
 int OwnPainting::writeSeasonFilms(const fs::path& folder) const {
     return painting::writeSeasonFilms(folder);
+}
+
+int OwnPainting::composeFilm(const fs::path& job, const fs::path& output) const {
+    return painting::composeFilm(job, output);
 }
 
 } // namespace kavela::painting

@@ -5,9 +5,9 @@
 #include "common/error.h"
 #include "common/parallel.h"
 #include "common/safe_file.h"
-#include "films/film_writer.h"
 #include "films/season_films.h"
 #include "painting/offscreen_application.h"
+#include "video/writing/film_sink.h"
 
 namespace kavela::painting {
 
@@ -47,7 +47,7 @@ int writeSeasonFilms(const fs::path& folder) {
         const std::string count =
             cli::counted(static_cast<std::int64_t>(plans.size()), "film", "films");
         return cli::print("Made " + count + ".\n") ? cli::Done : cli::NotDone;
-    } catch (const films::FilmError& error) {
+    } catch (const FilmError& error) {
         cli::logLine(error.what());
         return cli::NotDone;
     }

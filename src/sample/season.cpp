@@ -3,6 +3,7 @@
 #include "common/error.h"
 #include "common/json_encode.h"
 #include "common/safe_file.h"
+#include "sample/comparison.h"
 #include "sample/cross.h"
 #include "sample/league.h"
 #include "sample/older_releases.h"
@@ -65,6 +66,7 @@ std::vector<SampleFile> sampleSeason() {
     constexpr int EightInTheEvening = 20 * 3600;
     files.push_back({"races/harbour_night.kvx", encode(night)});
     files.push_back({"races/harbour_night_start_list.csv", startList(night, EightInTheEvening)});
+    files.push_back({"races/compare_final.json", comparisonOfFinal()});
     files.push_back({"races/harbour_cross.kvx", encode(crossRace())});
     addLeague(files);
     files.push_back({"training/gate_laps.kvx", encode(gateLaps())});

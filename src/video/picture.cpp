@@ -1,16 +1,12 @@
 #include "video/picture.h"
 
 #include "video/av_handles.h"
+#include "video/frame_colours.h"
 #include "video/video_facts.h"
 
 #include <algorithm>
 #include <array>
-#include <string_view>
 #include <tuple>
-
-extern "C" {
-#include <libavutil/pixdesc.h>
-}
 
 namespace kavela {
 
@@ -19,10 +15,6 @@ namespace {
 constexpr std::ptrdiff_t BytesPerPixel = 4;
 /// The converter writes whole vectors, past the end of a row that is no multiple of them.
 constexpr std::ptrdiff_t LineAlignment = 64;
-
-/// From this size on films are in the colours of high definition unless they say otherwise.
-constexpr int HighDefinitionHeight = 720;
-constexpr int HighDefinitionWidth = 1280;
 
 struct Pixels {
     VideoSize size;
@@ -40,34 +32,6 @@ struct Pixels {
         return reinterpret_cast<std::uint32_t*>(data.get() + y * bytesPerLine);
     }
 };
-
-int matrixOf(const AVFrame& frame) {
-    switch (frame.colorspace) {
-    case AVCOL_SPC_BT709:
-        return SWS_CS_ITU709;
-    case AVCOL_SPC_BT470BG:
-    case AVCOL_SPC_SMPTE170M:
-        return SWS_CS_ITU601;
-    case AVCOL_SPC_SMPTE240M:
-        return SWS_CS_SMPTE240M;
-    case AVCOL_SPC_FCC:
-        return SWS_CS_FCC;
-    case AVCOL_SPC_BT2020_NCL:
-    case AVCOL_SPC_BT2020_CL:
-        return SWS_CS_BT2020;
-    default:
-        return frame.height >= HighDefinitionHeight || frame.width >= HighDefinitionWidth
-                   ? SWS_CS_ITU709
-                   : SWS_CS_ITU601;
-    }
-}
-
-/// Some formats of old have the full range in their name, beside what the frame says.
-bool hasFullRange(const AVFrame& frame) {
-    const char* const name = av_get_pix_fmt_name(static_cast<AVPixelFormat>(frame.format));
-    return frame.color_range == AVCOL_RANGE_JPEG ||
-           (name != nullptr && std::string_view(name).starts_with("yuvj"));
-}
 
 /// Turns tile by tile: a tile's lines and columns both stay in the processor's cache.
 Pixels turned(const Pixels& from, int rotation) {
@@ -120,7 +84,7 @@ PictureMaker::~PictureMaker() = default;
 
 bool PictureMaker::prepare(const AVFrame& frame, VideoSize size) {
     const Scaler::Kind kind(frame.width, frame.height, frame.format, size.width, size.height,
-                            matrixOf(frame), hasFullRange(frame));
+                            colourMatrixOf(frame), hasFullRange(frame));
     if (m_scaler->context && m_scaler->kind == kind)
         return true;
     m_scaler->kind = kind;
@@ -131,7 +95,7 @@ bool PictureMaker::prepare(const AVFrame& frame, VideoSize size) {
         return false;
     constexpr int Neutral = 1 << 16;
     // Refused for what is in red, green and blue already, and not needed there.
-    sws_setColorspaceDetails(m_scaler->context.get(), sws_getCoefficients(matrixOf(frame)),
+    sws_setColorspaceDetails(m_scaler->context.get(), sws_getCoefficients(colourMatrixOf(frame)),
                              hasFullRange(frame) ? 1 : 0, sws_getCoefficients(SWS_CS_DEFAULT), 1, 0,
                              Neutral, Neutral);
     return true;

@@ -4,6 +4,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <cstdlib>
 #include <fstream>
 #include <iterator>
 
@@ -131,6 +132,51 @@ TEST_P(FaultTest, AnalyzerAlwaysKeepsTheOldContentUnderOneOfTheNames) {
     }
     EXPECT_TRUE(holdsNewRace(race()));
     EXPECT_THAT(otherNames(), ::testing::ElementsAre("race_old.kvb"));
+}
+
+/// A short film, and a job that composes it with itself.
+void addComparison(const fs::path& folder, const fs::path& output) {
+    const std::string film = (folder / "film.mp4").string();
+    const std::string call = "ffmpeg -v error -y -f lavfi -i testsrc2=size=320x180:rate=25 -t 0.4 "
+                             "-c:v libx264 -preset ultrafast -pix_fmt yuv420p '" +
+                             film + "'";
+    ASSERT_EQ(std::system(call.c_str()), 0);
+    const std::string entry = R"({"splitFile":"","run":0,"camera":1,"film":"film.mp4","names":"",)"
+                              R"("category":"","startsAt":0,"points":[]})";
+    std::ofstream(folder / "job.json")
+        << R"({"films":[)" << entry << ',' << entry
+        << R"(],"layout":"side by side","wipe":0.5,"synchronise":"start","split":0,)"
+        << R"("range":{"kind":"free","fromSplit":0,"toSplit":0,"from":0,"to":0.4},"speed":1,)"
+        << R"("captions":{"names":true,"clock":true,"splits":true,"section":true,)"
+        << R"("penalties":true,"gap":true},"sound":0,"output":{"file":")" << output.string()
+        << R"(","width":640,"height":180,"small":false}})";
+}
+
+TEST_P(FaultTest, ComposingLeavesAWholeFilmOrNothing) {
+    addComparison(m_folder, work() / "out.mp4");
+    const std::vector<std::string> call{KAVELA_PROGRAM, "compose", m_folder / "job.json"};
+    fs::create_directory(work());
+    const Ending unhurt = openWithFault(call, 0);
+    ASSERT_EQ(unhurt.status, 0) << unhurt.errors;
+    const std::string whole = contentOf(work() / "out.mp4");
+    ASSERT_FALSE(whole.empty());
+    for (int at = 1;; ++at) {
+        fs::remove_all(work());
+        fs::create_directory(work());
+        const Ending ending = openWithFault(call, at);
+        SCOPED_TRACE("operation " + std::to_string(at) + ": " + ending.errors);
+        if (!ending.faultStruck)
+            break;
+        const bool isThere = fs::exists(work() / "out.mp4");
+        if (isThere) {
+            EXPECT_TRUE(contentOf(work() / "out.mp4") == whole);
+        }
+        if (!ending.wasKilled) {
+            EXPECT_EQ(std::distance(fs::directory_iterator(work()), {}), isThere ? 1 : 0);
+            EXPECT_EQ(ending.status, isThere ? 0 : 1);
+        }
+        ASSERT_LT(at, MostOperations);
+    }
 }
 
 // 5 is an input/output error, 13 no permission, 28 a full disk, 30 a disk that can only be read.

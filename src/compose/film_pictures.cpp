@@ -1,0 +1,102 @@
+#include "compose/film_pictures.h"
+
+#include "video/video_error.h"
+
+#include <algorithm>
+
+namespace kavela {
+
+namespace {
+
+constexpr int QuarterOfTurn = 90;
+
+struct BytePlane {
+    std::uint8_t* data = nullptr;
+    std::ptrdiff_t line = 0;
+    int width = 0;
+    int height = 0;
+
+    [[nodiscard]] std::uint8_t& at(int x, int y) const { return data[y * line + x]; }
+};
+
+BytePlane bytePlane(const AVFrame& frame, int number) {
+    const int part = number == 0 ? 1 : 2;
+    return {frame.data[number], frame.linesize[number], frame.width / part, frame.height / part};
+}
+
+/// Tile by tile: a tile's lines and columns both stay in the processor's cache.
+void turnPlane(const BytePlane& from, const BytePlane& to, int rotation) {
+    constexpr int Tile = 32;
+    const auto source = [&](int x, int y) {
+        if (rotation == QuarterOfTurn)
+            return from.at(y, from.height - 1 - x);
+        if (rotation == 2 * QuarterOfTurn)
+            return from.at(from.width - 1 - x, from.height - 1 - y);
+        return from.at(from.width - 1 - y, x);
+    };
+    for (int top = 0; top < to.height; top += Tile)
+        for (int left = 0; left < to.width; left += Tile)
+            for (int y = top; y < std::min(top + Tile, to.height); ++y)
+                for (int x = left; x < std::min(left + Tile, to.width); ++x)
+                    to.at(x, y) = source(x, y);
+}
+
+} // namespace
+
+AvOwner<AVFrame> turnedPlanes(const AVFrame& planes, int rotation) {
+    const bool isSideways = rotation % (2 * QuarterOfTurn) != 0;
+    AvOwner<AVFrame> turned = newPlanes(isSideways ? VideoSize{planes.height, planes.width}
+                                                   : VideoSize{planes.width, planes.height});
+    for (int number = 0; number < 3; ++number)
+        turnPlane(bytePlane(planes, number), bytePlane(*turned, number), rotation);
+    return turned;
+}
+
+FilmPictures::FilmPictures(std::shared_ptr<const VideoIndex> index,
+                           std::shared_ptr<FrameCache> cache, VideoSize size)
+    : m_index(std::move(index)),
+      m_cache(std::move(cache)),
+      m_source(std::make_unique<FrameSource>(m_index, m_cache)),
+      m_size(size) {}
+
+PlanesPtr FilmPictures::at(FrameNumber number, const Interrupt& interrupt) {
+    if (number == m_number || !m_source)
+        return m_picture;
+    FrameSource::Result result;
+    try {
+        result = m_source->frame(number, interrupt);
+    } catch (const VideoError& error) {
+        m_source.reset(); // what came so far stays
+        noteFault(number, error.reason());
+        return m_picture;
+    }
+    if (result.outcome == FrameSource::Outcome::Interrupted)
+        return nullptr;
+    m_number = number;
+    if (result.outcome == FrameSource::Outcome::Damaged)
+        noteFault(number, "it cannot be decoded");
+    else if (PlanesPtr picture = made(*result.frame.samples))
+        m_picture = std::move(picture);
+    else
+        noteFault(number, "its pictures are in a format of no use");
+    return m_picture;
+}
+
+void FilmPictures::noteFault(FrameNumber number, const std::string& reason) {
+    if (!m_fault)
+        m_fault = {number, reason};
+}
+
+PlanesPtr FilmPictures::made(const AVFrame& samples) {
+    const int rotation = m_index->facts().rotation;
+    const bool isSideways = rotation % (2 * QuarterOfTurn) != 0;
+    AvOwner<AVFrame> planes =
+        newPlanes(isSideways ? VideoSize{m_size.height, m_size.width} : m_size);
+    if (!m_scaler.scale(samples, *planes))
+        return nullptr;
+    if (rotation != 0)
+        planes = turnedPlanes(*planes, rotation);
+    return {planes.release(), AvDeleter()};
+}
+
+} // namespace kavela
