@@ -1,5 +1,6 @@
 #include "performance/race_tables.h"
 
+#include "common/json_encode.h"
 #include "common/number_text.h"
 #include "common/safe_file.h"
 #include "splitdata/document.h"

@@ -3,6 +3,7 @@
 #include "tables/list_grid.h"
 
 #include <QString>
+#include <QStringList>
 
 #include <string>
 #include <vector>
