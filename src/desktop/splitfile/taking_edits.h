@@ -1,6 +1,7 @@
 #pragma once
 
 #include "desktop/splitfile/taking_state.h"
+#include "performance/official_differences.h"
 #include "splittaking/results_import.h"
 #include "splittaking/results_match.h"
 
@@ -34,5 +35,9 @@ namespace kavela::desktop {
 /// one of them. Throws std::out_of_range for a run or line that is not there.
 [[nodiscard]] TakingState withResults(const TakingState& before, const ResultsList& list,
                                       const std::vector<ResultOfRun>& runs);
+
+/// One difference to official results taken over; the same state where that cannot be.
+[[nodiscard]] TakingState withOfficial(const TakingState& before,
+                                       const OfficialDifference& difference);
 
 } // namespace kavela::desktop

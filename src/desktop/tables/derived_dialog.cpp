@@ -82,6 +82,8 @@ Derivation DerivedDialog::what() const {
 void DerivedDialog::showFields() {
     const bool isTotal = what() == Derivation::Total;
     const bool isDifference = what() == Derivation::Difference;
+    if (isDifference && m_of->currentIndex() == 0 && m_of->count() > 1)
+        m_of->setCurrentIndex(1); // both columns of a difference have a name
     m_form->setRowVisible(m_parts, isTotal);
     m_form->setRowVisible(m_of, !isTotal);
     m_form->setRowVisible(m_less, isDifference);
@@ -90,7 +92,8 @@ void DerivedDialog::showFields() {
 }
 
 DerivedColumn DerivedDialog::derived() const {
-    DerivedColumn derived{.what = what()};
+    DerivedColumn derived;
+    derived.what = what();
     if (what() == Derivation::Total) {
         for (int part = 0; part < m_parts->count(); ++part)
             if (m_parts->item(part)->checkState() == Qt::Checked)

@@ -37,10 +37,7 @@ class ListedColumn {
 public:
     ListedColumn(SharedTable table, std::size_t place, std::shared_ptr<const RefusedTexts> refused,
                  ColourScale scale)
-        : m_table(std::move(table)),
-          m_refused(std::move(refused)),
-          m_place(place),
-          m_scale(scale) {
+        : m_table(std::move(table)), m_refused(std::move(refused)), m_place(place), m_scale(scale) {
         const GridColumn& column = m_table->columns[place];
         if (std::ranges::find(m_table->coloured, column.name) != m_table->coloured.end())
             m_bands = tableBands(column);
@@ -99,8 +96,8 @@ private:
 Column<ListedRow> athleteColumn(const TableDocument& document) {
     return {.title = translatedTitle("Athlete"),
             .tip = translatedTitle("Who of the team it is; a question mark: only you can tell"),
-            .show = [rows = document.joined(), athletes = *document.athletes()](
-                        const ListedRow& listed) -> Cell {
+            .show = [rows = document.joined(),
+                     athletes = *document.athletes()](const ListedRow& listed) -> Cell {
                 if (listed.group || listed.row >= rows.size())
                     return {};
                 const JoinedRow& joined = rows[listed.row];
@@ -116,9 +113,8 @@ Column<ListedRow> athleteColumn(const TableDocument& document) {
 } // namespace
 
 QString kindTitle(ListColumnKind kind) {
-    static constexpr std::array<const char*, 6> Titles{"Whole numbers", "Decimal numbers",
-                                                       "Times",         "DNF and the like",
-                                                       "Days",          "Text"};
+    static constexpr std::array<const char*, 6> Titles{
+        "Whole numbers", "Decimal numbers", "Times", "DNF and the like", "Days", "Text"};
     return translatedTitle(Titles.at(static_cast<std::size_t>(kind)));
 }
 
@@ -154,9 +150,9 @@ ListColumns listColumns(const TableDocument& document, ColourScale scale) {
 
 ColumnModel<RefusedCell>::Columns refusedColumns() {
     const auto number = [](std::int64_t value) {
-        return value > 0 ? Cell{.text = QString::number(value),
-                                .number = static_cast<double>(value)}
-                         : Cell{.text = QStringLiteral("–")};
+        return value > 0
+                   ? Cell{.text = QString::number(value), .number = static_cast<double>(value)}
+                   : Cell{.text = QStringLiteral("–")};
     };
     return {{.title = translatedTitle("Line"),
              .kind = ColumnKind::Number,

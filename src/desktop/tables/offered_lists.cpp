@@ -34,7 +34,8 @@ void addRaceTable(OfferedLists& offered, const infodata031& info, const std::str
         for (ListGrid& grid : raceTableLists(info, name)) {
             const bool isSheet = !grid.isText();
             const std::string own = isSheet ? name + '/' + grid.name : name;
-            const QString shown = isSheet ? title + QStringLiteral(": ") + qtText(grid.name) : title;
+            const QString shown =
+                isSheet ? title + QStringLiteral(": ") + qtText(grid.name) : title;
             offered.lists.push_back({own, shown, std::move(grid)});
         }
     } catch (const TableError& error) {
@@ -43,8 +44,8 @@ void addRaceTable(OfferedLists& offered, const infodata031& info, const std::str
 }
 
 OfferedLists listsOfRace(const QString& path) {
-    const RecognisedSplitFile read =
-        recogniseSplitFile(path.toStdString(), [](std::string_view) {}, systemNow);
+    const RecognisedSplitFile read = recogniseSplitFile(
+        path.toStdString(), [](std::string_view) {}, systemNow);
     if (!read.version)
         throw TableError(incompatibleText(path.toStdString(), read.failures));
     OfferedLists offered;

@@ -45,8 +45,8 @@ PivotDialog::PivotDialog(const ListTable& table, std::size_t column, QWidget* pa
             box->addItem(name, name);
     }
     // In the order of the functions.
-    m_function->addItems({tr("How many"), tr("Sum"), tr("Mean"), tr("Median"), tr("Least"),
-                          tr("Most")});
+    m_function->addItems(
+        {tr("How many"), tr("Sum"), tr("Mean"), tr("Median"), tr("Least"), tr("Most")});
     m_function->setCurrentIndex(static_cast<int>(PivotFunction::Mean));
     m_row->setCurrentIndex(static_cast<int>(column));
     m_value->setCurrentIndex(likelyValue(table));

@@ -31,28 +31,28 @@ std::vector<QString> rowLabels(const ListTable& table) {
 }
 
 /// As the table shows it, so that both say the same to the digit.
-QString valueText(const GridColumn& column, std::size_t row) {
+QString tableValueText(const GridColumn& column, std::size_t row) {
     const QString text = qtText(column.cells[row].text);
     return column.isDerived ? shownNumbers(text) : text;
 }
 
-QString sentenceOf(const GridColumn& column, const std::vector<QString>& labels,
-                   std::vector<std::size_t> counted) {
+QString columnSentence(const GridColumn& column, const std::vector<QString>& labels,
+                       std::vector<std::size_t> counted) {
     const auto byNumber = [&](std::size_t a, std::size_t b) {
         return *column.counted(a) < *column.counted(b);
     };
     const auto [least, most] = std::ranges::minmax_element(counted, byNumber);
     const std::size_t left = labels.size() - counted.size();
-    QString text = translatedChart("The least is %1 (%2), the most %3 (%4), of %5 rows")
-                       .arg(valueText(column, *least), labels[*least], valueText(column, *most),
-                            labels[*most])
-                       .arg(counted.size());
+    QString text =
+        translatedChart("The least is %1 (%2), the most %3 (%4), of %5 rows")
+            .arg(tableValueText(column, *least), labels[*least], tableValueText(column, *most),
+                 labels[*most], QString::number(counted.size()));
     if (left > 0)
         text += translatedChart("; %1 without a number are left out").arg(left);
     return text + '.';
 }
 
-ChartSeries seriesOf(const GridColumn& column, const RowGroup& rows, std::size_t slot) {
+ChartSeries groupSeries(const GridColumn& column, const RowGroup& rows, std::size_t slot) {
     ChartSeries series;
     series.name = rows.key.empty() ? qtText(column.name) : qtText(rows.key);
     series.slot = slot;
@@ -69,8 +69,9 @@ ChartSeries seriesOf(const GridColumn& column, const RowGroup& rows, std::size_t
 
 ChartContent columnContent(const ListTable& table, std::size_t place) {
     ChartContent content;
-    content.emptyText = translatedChart("Choose a column of numbers or times: a click on one of its "
-                                        "cells, then C.");
+    content.emptyText =
+        translatedChart("Choose a column of numbers or times: a click on one of its "
+                        "cells, then C.");
     if (place >= table.columns.size() || !isReckoned(table.columns[place].kind))
         return content;
     const GridColumn& column = table.columns[place];
@@ -85,7 +86,7 @@ ChartContent columnContent(const ListTable& table, std::size_t place) {
     if (groups.empty())
         groups.push_back({{}, 0, table.rows()});
     for (std::size_t group = 0; group < groups.size(); ++group) {
-        content.series.push_back(seriesOf(column, groups[group], group));
+        content.series.push_back(groupSeries(column, groups[group], group));
         for (const QPointF& point : content.series.back().points) {
             const auto row = static_cast<std::size_t>(point.x());
             counted.push_back(row);
@@ -96,7 +97,7 @@ ChartContent columnContent(const ListTable& table, std::size_t place) {
     content.yWhole = column.kind == ListColumnKind::Whole;
     content.emptyText = translatedChart("No row has a number in this column.");
     if (!counted.empty())
-        content.subtitle = sentenceOf(column, labels, std::move(counted));
+        content.subtitle = columnSentence(column, labels, std::move(counted));
     return content;
 }
 

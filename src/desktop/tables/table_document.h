@@ -24,7 +24,7 @@ struct ListOrigin {
 
 /// What was made of a list, at one moment. Copies share what they have in common.
 struct TableState {
-    std::optional<TableSteps> steps; ///< none before a list was opened
+    std::optional<TableSteps> steps;                           ///< none before a list was opened
     std::shared_ptr<const std::vector<KnownAthlete>> athletes; ///< null: joined with nobody
     /// By line of the list who is meant, by place among the athletes; none for nobody.
     std::map<std::int64_t, std::optional<std::size_t>> answers;
