@@ -345,10 +345,11 @@ void TakingDocument::takeResults(const ResultsList& list, const std::vector<Resu
 }
 
 bool TakingDocument::takeOfficial(const OfficialDifference& difference) {
-    TakingState after = withOfficial(value(), difference);
-    if (after.info == value().info) // which is another one wherever something was taken
+    std::optional<TakingState> after = withOfficial(value(), difference);
+    if (!after)
         return false;
-    put(tr("official result of %1").arg(QString::fromStdString(difference.crew)), std::move(after));
+    put(tr("official result of %1").arg(QString::fromStdString(difference.crew)),
+        std::move(*after));
     logPerfectTime();
     return true;
 }

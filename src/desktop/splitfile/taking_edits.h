@@ -6,6 +6,7 @@
 #include "splittaking/results_match.h"
 
 #include <functional>
+#include <optional>
 
 /// What edits make of a split file in the making. Each leaves the state that it is given alone and
 /// shares with it what stays.
@@ -36,8 +37,8 @@ namespace kavela::desktop {
 [[nodiscard]] TakingState withResults(const TakingState& before, const ResultsList& list,
                                       const std::vector<ResultOfRun>& runs);
 
-/// One difference to official results taken over; the same state where that cannot be.
-[[nodiscard]] TakingState withOfficial(const TakingState& before,
-                                       const OfficialDifference& difference);
+/// One difference to official results taken over; nothing where that cannot be.
+[[nodiscard]] std::optional<TakingState> withOfficial(const TakingState& before,
+                                                      const OfficialDifference& difference);
 
 } // namespace kavela::desktop

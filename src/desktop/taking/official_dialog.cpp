@@ -25,6 +25,7 @@
 
 #include <algorithm>
 #include <array>
+#include <functional>
 #include <utility>
 
 namespace kavela::desktop {
@@ -40,25 +41,35 @@ QString kindWord(OfficialDifferenceKind kind) {
     return OfficialDialog::tr(Words.at(static_cast<std::size_t>(kind)));
 }
 
-ColumnModel<OfficialDifference>::Columns differenceColumns() {
-    const auto look = [](const OfficialDifference& difference) {
-        return difference.isOpen ? Cell::Look::Plain : Cell::Look::Quiet;
+/// What only tells, and cannot be taken over, is quiet.
+Column<OfficialDifference>
+differenceColumn(const QString& title, std::function<QString(const OfficialDifference&)> text) {
+    Column<OfficialDifference> column;
+    column.title = title;
+    column.show = [text = std::move(text)](const OfficialDifference& difference) {
+        Cell cell;
+        cell.text = text(difference);
+        cell.tip = cell.text;
+        cell.look = difference.isOpen ? Cell::Look::Plain : Cell::Look::Quiet;
+        return cell;
     };
-    return {
-        {.title = OfficialDialog::tr("Crew"),
-         .show =
-             [look](const OfficialDifference& difference) {
-                 return Cell{.text = qtText(difference.crew), .look = look(difference)};
-             }},
-        {.title = OfficialDialog::tr("What differs"),
-         .show =
-             [look](const OfficialDifference& difference) {
-                 return Cell{.text = kindWord(difference.kind), .look = look(difference)};
-             }},
-        {.title = OfficialDialog::tr("How"), .show = [look](const OfficialDifference& difference) {
-             const QString text = shownNumbers(qtText(difference.text));
-             return Cell{.text = text, .tip = text, .look = look(difference)};
-         }}};
+    return column;
+}
+
+ColumnModel<OfficialDifference>::Columns differenceColumns() {
+    ColumnModel<OfficialDifference>::Columns columns;
+    columns.push_back(
+        differenceColumn(OfficialDialog::tr("Crew"), [](const OfficialDifference& difference) {
+            return qtText(difference.crew);
+        }));
+    columns.push_back(differenceColumn(
+        OfficialDialog::tr("What differs"),
+        [](const OfficialDifference& difference) { return kindWord(difference.kind); }));
+    columns.push_back(
+        differenceColumn(OfficialDialog::tr("How"), [](const OfficialDifference& difference) {
+            return shownNumbers(qtText(difference.text));
+        }));
+    return columns;
 }
 
 /// The values that the runs have, each once, in the order of the runs.
