@@ -36,6 +36,8 @@ void TablesActions::makeFileMenu() {
         window->makeFileMenu({tr("&Open a list…"), [window] { window->chooseFiles(); }});
     menu->addAction(tr("Open what was &copied"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_V),
                     window, [window] { window->openClipboard(); });
+    add(*menu, tr("A&nother list of this file…"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_O),
+        [window] { window->chooseOtherList(); });
     menu->addSeparator();
     add(*menu, tr("&Keep with the race…"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_K),
         [window] { window->keepWithRace(); });

@@ -387,6 +387,19 @@ void TablesWindow::chooseFiles() {
         emit listsRequested(files);
 }
 
+void TablesWindow::chooseOtherList() {
+    const QString path = m_document.origin().path;
+    if (path.isEmpty())
+        return;
+    const bool isUntouched = m_document.steps().empty() && !m_document.isJoined();
+    if (isUntouched ||
+        workspace().askBeforeLoss(
+            {tr("Begin anew?").toStdString(),
+             tr("What you made of this list is given up; the file stays.").toStdString()},
+            tr("Begin anew"), this))
+        openList(path, {});
+}
+
 void TablesWindow::takeFiles(const QStringList& files) {
     QStringList lists;
     QStringList others;

@@ -78,6 +78,8 @@ public:
     void setScale(ColourScale scale);
     [[nodiscard]] ColourScale scale() const { return m_scale; }
     void chooseFiles();
+    /// Asks for another list of the same file, in place of this one and what was made of it.
+    void chooseOtherList();
 
     /// Where files come from and go to in place of the platform's dialogs, as in tests: one for a
     /// title, empty for none.
