@@ -191,23 +191,23 @@ TEST_P(WindowKeysTest, HearsEveryKeyOfTheOverviewWhereverTheFocusIs) {
     EXPECT_TRUE(!key || m_heard.contains(key)) << key;
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Windows, WindowKeysTest,
-    ::testing::Values(WindowOf{"home", nullptr},
-                      WindowOf{"race", "races/riverside_cup.kvx", "Alt+1"},
-                      WindowOf{"taking", "races/spring_opener.kvx"},
-                      WindowOf{"cross", "races/harbour_cross.kvx"},
-                      WindowOf{"team", "team/kavela_team.kvteam"},
-                      WindowOf{"selection", "selection/spring_selection.kvsr"},
-                      WindowOf{"planning", "planning/season.planning"},
-                      WindowOf{"watertests", "tests/form_tests.kvtest"},
-                      WindowOf{"penalties", "races/riverside_cup.kvx", "Alt+4"},
-                      WindowOf{"losses", "races/riverside_cup.kvx", "Shift+W"},
-                      WindowOf{"find", "races/riverside_cup.kvx", "Alt+2"},
-                      WindowOf{"tables", "races/spring_opener_results.csv", "Shift+S"},
-                      WindowOf{"motion", "recordings/upstream_drill.kvb"},
-                      WindowOf{"session", "recordings/upstream_drill.kvb"}),
-    [](const auto& window) { return window.param.name; });
+INSTANTIATE_TEST_SUITE_P(Windows, WindowKeysTest,
+                         ::testing::Values(WindowOf{"home", nullptr},
+                                           WindowOf{"race", "races/riverside_cup.kvx", "Alt+1"},
+                                           WindowOf{"taking", "races/spring_opener.kvx"},
+                                           WindowOf{"cross", "races/harbour_cross.kvx"},
+                                           WindowOf{"team", "team/kavela_team.kvteam"},
+                                           WindowOf{"selection", "selection/spring_selection.kvsr"},
+                                           WindowOf{"planning", "planning/season.planning"},
+                                           WindowOf{"watertests", "tests/form_tests.kvtest"},
+                                           WindowOf{"penalties", "races/riverside_cup.kvx",
+                                                    "Alt+4"},
+                                           WindowOf{"losses", "races/riverside_cup.kvx", "Shift+W"},
+                                           WindowOf{"find", "races/riverside_cup.kvx", "Alt+2"},
+                                           WindowOf{"tables", "races/spring_opener_results.csv"},
+                                           WindowOf{"motion", "recordings/upstream_drill.kvb"},
+                                           WindowOf{"session", "recordings/upstream_drill.kvb"}),
+                         [](const auto& window) { return window.param.name; });
 
 } // namespace
 } // namespace kavela::test
