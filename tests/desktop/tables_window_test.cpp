@@ -157,8 +157,7 @@ TEST_F(TablesWindowTest, SortsByAClickAndBackwardsByTheNext) {
     EXPECT_EQ(column(window, NameOfList).front(), "Kos Iva");
     EXPECT_EQ(header->sortIndicatorOrder(), Qt::DescendingOrder);
     emit header->sectionClicked(ClassOfList);
-    EXPECT_EQ(column(window, NameOfList).front(), "Novak Petr")
-        << "what is equal keeps its order";
+    EXPECT_EQ(column(window, NameOfList).front(), "Novak Petr") << "what is equal keeps its order";
 }
 
 TEST_F(TablesWindowTest, TintsAndDrawsTheNumbersOfTheTable) {

@@ -7,12 +7,11 @@
 #include "desktop/shell/qt_text.h"
 #include "desktop/shell/tables/column_table.h"
 #include "desktop/shell/theme.h"
-#include "desktop/shell/window_place.h"
 #include "desktop/shell/workspace.h"
 #include "desktop/tables/derived_dialog.h"
+#include "desktop/tables/list_panel.h"
 #include "desktop/tables/pivot_dialog.h"
 #include "desktop/tables/race_keeping.h"
-#include "desktop/tables/table_chart.h"
 #include "desktop/tables/tables_actions.h"
 #include "results/team_file.h"
 #include "tables/table_error.h"
@@ -22,15 +21,12 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QGuiApplication>
-#include <QHeaderView>
 #include <QInputDialog>
 #include <QLabel>
 #include <QMenu>
 #include <QPushButton>
-#include <QSplitter>
 #include <QStackedWidget>
 #include <QStatusBar>
-#include <QTabWidget>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -40,39 +36,15 @@ namespace kavela::desktop {
 
 namespace {
 
-constexpr const char* TintScaleKey = "tables/blueOrange";
-constexpr int ReasonColumn = 3;
-
 bool isListFile(const QString& path) {
     static const QStringList Suffixes{"csv", "tsv", "txt", "xlsx", "ods", "kvx"};
     return Suffixes.contains(QFileInfo(path).suffix().toLower());
-}
-
-/// The column that ranks the rows is the one to draw first; empty where there is none.
-std::string firstCharted(const ListTable& table) {
-    try {
-        return table.columns[resultColumn(table)].name;
-    } catch (const TableError&) {
-        return {};
-    }
-}
-
-/// By which column a table is sorted at last.
-std::optional<SortStep> lastSorting(const std::vector<TableStep>& steps) {
-    for (auto step = steps.rbegin(); step != steps.rend(); ++step)
-        if (const auto* const sorting = std::get_if<SortStep>(&*step))
-            return *sorting;
-    return std::nullopt;
 }
 
 } // namespace
 
 TablesWindow::TablesWindow(Workspace& workspace)
     : ToolWindow(workspace, nullptr, {"tables", tr("Tables"), "csv"}),
-      m_rows(ListColumns()),
-      m_refused(refusedColumns()),
-      m_scale(workspace.remembered(TintScaleKey).isEmpty() ? ColourScale::GreenRed
-                                                           : ColourScale::BlueOrange),
       m_keeping(new RaceKeeping(workspace, *this, this)) {
     makeParts();
     m_actions = new TablesActions(*this);
@@ -83,14 +55,14 @@ TablesWindow::TablesWindow(Workspace& workspace)
 TablesWindow::~TablesWindow() {
     // The parts report to the window while they are taken apart.
     m_document.disconnect(this);
-    m_table->disconnect(this);
-    m_tabs->disconnect(this);
+    m_panel->disconnect(this);
 }
 
 void TablesWindow::makeParts() {
     m_pages = new QStackedWidget;
     m_pages->addWidget(makeStartPage());
-    m_pages->addWidget(makeContent());
+    m_panel = new ListPanel(m_document, workspace());
+    m_pages->addWidget(m_panel);
     setCentralWidget(m_pages);
     m_status = new QLabel;
     m_status->setObjectName("status");
@@ -122,82 +94,27 @@ QWidget* TablesWindow::makeStartPage() {
     return page;
 }
 
-/// Columns are left out, sorted and grouped by steps alone, which can be taken back; they have no
-/// places of their own that could go wrong when others come and go.
-QWidget* TablesWindow::makeContent() {
-    m_notes = new QLabel;
-    m_notes->setObjectName("notes");
-    m_notes->setWordWrap(true);
-    m_notes->setContentsMargins(theme::Spacing, theme::SmallSpacing, theme::Spacing, 0);
-    m_table = new ColumnTable(m_rows, "");
-    m_table->setAccessibleName(tr("List"));
-    m_table->setEmptyText(tr("No row is left. Ctrl+Z takes the last step back."));
-    m_table->keepOrder();
-    m_table->keepOneChosen();
-    m_table->setContextMenuPolicy(Qt::CustomContextMenu);
-    QHeaderView* const header = m_table->horizontalHeader();
-    header->setSectionsClickable(true);
-    header->setSectionsMovable(false);
-    header->setSortIndicatorShown(true);
-    header->disconnect(SIGNAL(customContextMenuRequested(QPoint)));
-    m_chart = new SeriesChart;
-    m_refusedTable = new ColumnTable(m_refused, "refused");
-    m_refusedTable->setEmptyText(tr("Every cell was taken."));
-    m_refusedTable->stretch({ReasonColumn});
-    m_tabs = new QTabWidget;
-    m_tabs->setDocumentMode(true);
-    m_tabs->addTab(m_chart, tr("Chart"));
-    m_tabs->addTab(m_refusedTable, tr("Refused"));
-    auto* const splitter = new QSplitter(Qt::Vertical);
-    splitter->setChildrenCollapsible(false);
-    splitter->addWidget(m_table);
-    splitter->addWidget(m_tabs);
-    shareSizes(*splitter, {430, 260});
-    rememberSizes(*splitter, workspace(), "tables/parts");
-    auto* const page = new QWidget;
-    auto* const column = new QVBoxLayout(page);
-    column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(theme::SmallSpacing);
-    column->addWidget(m_notes);
-    column->addWidget(splitter, 1);
-    return page;
-}
-
 void TablesWindow::connectParts() {
-    QHeaderView* const header = m_table->horizontalHeader();
     connect(&m_document, &TableDocument::changed, this, &TablesWindow::showTable);
-    connect(m_table->selectionModel(), &QItemSelectionModel::currentChanged, m_actions,
-            &TablesActions::refresh);
-    connect(header, &QHeaderView::sectionClicked, this, [this](int column) {
-        const auto before = lastSorting(m_document.steps());
-        m_table->choose(m_table->currentPlace(), column);
-        const auto at = currentColumn();
-        if (!at)
-            return;
-        const bool isAgain = before && before->column == m_document.table()->columns[*at].name;
-        sort(isAgain && !before->isDescending);
-    });
-    connect(header, &QWidget::customContextMenuRequested, this, &TablesWindow::showHeaderMenu);
-    connect(m_table, &QWidget::customContextMenuRequested, this, [this](const QPoint& at) {
-        QMenu menu(this);
-        menu.addAction(tr("&Copy"), m_table, &ColumnTable::copy);
-        menu.addSeparator();
-        menu.addActions(m_actions->columnMenu()->actions());
-        menu.exec(m_table->viewport()->mapToGlobal(at));
-    });
-    connect(m_chart, &SeriesChart::pointActivated, this, [this](int series, int index) {
-        const auto& points = m_chart->content().series.at(static_cast<std::size_t>(series)).points;
-        const auto row = static_cast<std::size_t>(points.at(static_cast<std::size_t>(index)).x());
-        for (std::size_t place = 0; place < m_rows.rows().size(); ++place)
-            if (!m_rows.rows()[place].group && m_rows.rows()[place].row == row)
-                m_table->choose(static_cast<int>(place));
-    });
-    connect(&m_chart->interaction(), &PlotInteraction::saved, this, [this](const QString& path) {
+    connect(m_panel, &ListPanel::currentChanged, m_actions, &TablesActions::refresh);
+    connect(m_panel, &ListPanel::sortRequested, this, &TablesWindow::sort);
+    connect(m_panel, &ListPanel::menuRequested, this, &TablesWindow::showMenu);
+    connect(&chart().interaction(), &PlotInteraction::saved, this, [this](const QString& path) {
         m_status->setText(tr("Saved %1").arg(QFileInfo(path).fileName()));
     });
     connect(m_keeping, &RaceKeeping::kept, this, [this](const QString& race) {
         m_status->setText(tr("Kept with %1").arg(QFileInfo(race).fileName()));
     });
+}
+
+void TablesWindow::showMenu(const QPoint& atGlobal, bool isOnTitle) {
+    QMenu menu(this);
+    if (!isOnTitle) {
+        menu.addAction(tr("&Copy"), &table(), &ColumnTable::copy);
+        menu.addSeparator();
+    }
+    menu.addActions(m_actions->columnMenu()->actions());
+    menu.exec(atGlobal);
 }
 
 bool TablesWindow::open(const QString& path) {
@@ -262,7 +179,6 @@ void TablesWindow::start(OfferedList list, const QString& path) {
                       list.title};
     title.removeAll(QString());
     try {
-        m_charted.clear();
         m_document.start(std::move(list.grid), {path, list.name, title.join(QStringLiteral(", "))});
     } catch (const TableError& error) {
         tell(title.front(), error.what());
@@ -270,7 +186,7 @@ void TablesWindow::start(OfferedList list, const QString& path) {
     }
     if (!path.isEmpty() && !isRaceFile(path))
         workspace().addRecentFile(path);
-    m_table->setFocus();
+    table().setFocus();
     emit pathsChanged();
 }
 
@@ -304,20 +220,12 @@ void TablesWindow::take(const TableStep& step) {
         return;
     }
     if (std::holds_alternative<DerivedColumn>(step)) // it came at the right end
-        m_table->choose(m_table->currentPlace(),
-                        static_cast<int>(m_document.table()->columns.size()) - 1);
+        m_panel->chooseColumn(static_cast<int>(m_document.table()->columns.size()) - 1);
 }
 
 void TablesWindow::takeAtColumn(const std::function<TableStep(const std::string& column)>& step) {
     if (const auto column = currentColumn())
         take(step(m_document.table()->columns[*column].name));
-}
-
-std::optional<std::size_t> TablesWindow::currentColumn() const {
-    const int column = m_table->currentIndex().column();
-    if (column < 0 || static_cast<std::size_t>(column) >= m_document.table()->columns.size())
-        return std::nullopt;
-    return static_cast<std::size_t>(column);
 }
 
 void TablesWindow::sort(bool isDescending) {
@@ -352,9 +260,8 @@ void TablesWindow::chooseFilter() {
     if (!column)
         return;
     const GridColumn& filtered = m_document.table()->columns[*column];
-    const int place = m_table->currentPlace();
-    const QString before =
-        place < 0 ? QString() : qtText(filtered.cells[m_rows.row(place).row].text);
+    const auto row = m_panel->currentRow();
+    const QString before = row ? qtText(filtered.cells[*row].text) : QString();
     bool isAgreed = false;
     const QString text = QInputDialog::getText(
         this, tr("Keep rows"),
@@ -489,84 +396,25 @@ void TablesWindow::saveCsv() {
         }});
 }
 
-void TablesWindow::showChart() {
-    const auto column = currentColumn();
-    if (!column)
-        return;
-    m_charted = m_document.table()->columns[*column].name;
-    m_tabs->setCurrentIndex(Chart);
-    showChartOf(*column);
-}
-
-void TablesWindow::showChartOf(std::size_t column) {
-    m_chart->show(columnContent(*m_document.table(), column));
-}
-
 void TablesWindow::saveChart() {
-    m_tabs->setCurrentIndex(Chart);
-    if (m_chart->emptyMessage().isEmpty())
-        m_chart->interaction().askAndSave();
+    m_panel->showPage(ListPanel::Chart);
+    if (chart().emptyMessage().isEmpty())
+        chart().interaction().askAndSave();
 }
 
 void TablesWindow::showRefused() {
-    m_tabs->setCurrentIndex(Refused);
-    m_refusedTable->setFocus();
+    m_panel->showPage(ListPanel::Refused);
+    refused().setFocus();
 }
 
-void TablesWindow::setScale(ColourScale scale) {
-    m_scale = scale;
-    workspace().remember(TintScaleKey,
-                         scale == ColourScale::BlueOrange ? QStringList("1") : QStringList());
-    showTable();
-}
-
-/// The cursor stays with the line of the list that it was in, as far as that is still shown.
 void TablesWindow::showTable() {
-    const std::shared_ptr<const ListTable>& table = m_document.table();
-    const int column = std::max(m_table->currentIndex().column(), 0);
-    const int place = m_table->currentPlace();
-    const qint64 line = m_shownLines.value(place); // 0 for none
-    std::vector<ListedRow> rows = listedRows(*table);
-    QList<qint64> lines;
-    for (const ListedRow& row : rows)
-        lines.append(row.group ? 0 : table->lines[row.row]);
-    m_shownLines = lines;
-    m_rows.setColumns(listColumns(m_document, m_scale));
-    m_rows.show(std::move(rows), true);
-    const qsizetype kept = line > 0 ? lines.indexOf(line) : -1;
-    if (!lines.isEmpty())
-        m_table->choose(static_cast<int>(kept >= 0 ? kept : 0),
-                        std::min(column, m_rows.columnCount() - 1));
-    showSorting();
-    m_refused.show(table->refused, true);
-    m_tabs->setTabText(Refused, table->refused.empty()
-                                    ? tr("Refused")
-                                    : tr("Refused (%1)").arg(table->refused.size()));
-    if (m_charted.empty())
-        m_charted = firstCharted(*table);
-    const auto charted = std::ranges::find(table->columns, m_charted, &GridColumn::name);
-    showChartOf(static_cast<std::size_t>(charted - table->columns.begin()));
+    m_panel->show(m_left);
     showStatus();
-}
-
-void TablesWindow::showSorting() {
-    const auto sorting = lastSorting(m_document.steps());
-    const auto& columns = m_document.table()->columns;
-    const auto sorted =
-        sorting ? std::ranges::find(columns, sorting->column, &GridColumn::name) : columns.end();
-    const int place = sorted == columns.end() ? -1 : static_cast<int>(sorted - columns.begin());
-    m_table->horizontalHeader()->setSortIndicator(
-        place, sorting && sorting->isDescending ? Qt::DescendingOrder : Qt::AscendingOrder);
 }
 
 void TablesWindow::showStatus() {
     const ListTable& table = *m_document.table();
     m_pages->setCurrentIndex(m_document.hasList() ? 1 : 0);
-    QStringList notes = m_left;
-    for (const std::string& note : table.notes)
-        notes.append(qtText(note));
-    m_notes->setText(notes.join('\n'));
-    m_notes->setVisible(!notes.isEmpty());
     QStringList parts;
     if (m_document.hasList())
         parts << (table.rows() == 1 ? tr("1 row") : tr("%1 rows").arg(table.rows()))
@@ -581,13 +429,6 @@ void TablesWindow::showStatus() {
         (m_document.hasList() ? m_document.origin().title + QStringLiteral(" – ") : QString()) +
         tr("Tables") + QStringLiteral(" – Kavela"));
     m_actions->refresh();
-}
-
-void TablesWindow::showHeaderMenu(const QPoint& at) {
-    const int column = m_table->horizontalHeader()->logicalIndexAt(at);
-    m_table->choose(m_table->currentPlace(), column);
-    if (currentColumn())
-        m_actions->columnMenu()->exec(m_table->horizontalHeader()->mapToGlobal(at));
 }
 
 } // namespace kavela::desktop

@@ -2,11 +2,10 @@
 
 #include "desktop/shell/background_work.h"
 #include "desktop/shell/tool_window.h"
-#include "desktop/tables/list_columns.h"
+#include "desktop/tables/list_panel.h"
 #include "desktop/tables/offered_lists.h"
 #include "desktop/tables/table_document.h"
 
-#include <QList>
 #include <QStringList>
 
 #include <functional>
@@ -15,7 +14,6 @@
 
 class QLabel;
 class QStackedWidget;
-class QTabWidget;
 
 namespace kavela::desktop {
 
@@ -30,8 +28,6 @@ class TablesWindow : public ToolWindow {
     Q_OBJECT
 
 public:
-    enum Page { Chart, Refused };
-
     explicit TablesWindow(Workspace& workspace);
     ~TablesWindow() override;
 
@@ -50,16 +46,18 @@ public:
     [[nodiscard]] bool isReading() const { return m_work.isRunning(); }
 
     [[nodiscard]] TableDocument& document() { return m_document; }
-    [[nodiscard]] ColumnTable& table() const { return *m_table; }
-    [[nodiscard]] SeriesChart& chart() const { return *m_chart; }
-    [[nodiscard]] ColumnTable& refused() const { return *m_refusedTable; }
+    [[nodiscard]] ColumnTable& table() const { return m_panel->table(); }
+    [[nodiscard]] SeriesChart& chart() const { return m_panel->chart(); }
+    [[nodiscard]] ColumnTable& refused() const { return m_panel->refused(); }
     [[nodiscard]] QString status() const;
 
     // What the menus do; each step can be undone, and what cannot be taken is told.
     void take(const TableStep& step);
     void takeAtColumn(const std::function<TableStep(const std::string& column)>& step);
-    /// The column of the list with the cursor; none in that of the athletes or without a list.
-    [[nodiscard]] std::optional<std::size_t> currentColumn() const;
+    /// See ListPanel.
+    [[nodiscard]] std::optional<std::size_t> currentColumn() const {
+        return m_panel->currentColumn();
+    }
     void sort(bool isDescending);
     /// A derived column of the one with the cursor, where that has numbers, else of what ranks.
     void derive(Derivation what);
@@ -72,11 +70,11 @@ public:
     void askWhoIsMeant();
     void keepWithRace();
     void saveCsv();
-    void showChart();
+    void showChart() { m_panel->drawCurrent(); }
     void saveChart();
     void showRefused();
-    void setScale(ColourScale scale);
-    [[nodiscard]] ColourScale scale() const { return m_scale; }
+    void setScale(ColourScale scale) { m_panel->setScale(scale); }
+    [[nodiscard]] ColourScale scale() const { return m_panel->scale(); }
     void chooseFiles();
     /// Asks for another list of the same file, in place of this one and what was made of it.
     void chooseOtherList();
@@ -99,35 +97,23 @@ protected:
 private:
     void makeParts();
     [[nodiscard]] QWidget* makeStartPage();
-    [[nodiscard]] QWidget* makeContent();
     void connectParts();
     void choose(OfferedLists offered, const QString& path, const std::string& wanted);
     void start(OfferedList list, const QString& path);
     void tell(const QString& title, const std::string& reason);
     void showTable();
-    void showSorting();
-    void showChartOf(std::size_t column);
     void showStatus();
-    void showHeaderMenu(const QPoint& at);
+    void showMenu(const QPoint& atGlobal, bool isOnTitle);
     [[nodiscard]] QString chosenFile(const QString& title, const QString& filter);
     [[nodiscard]] QString chosenTarget(const QString& title);
 
     TableDocument m_document;
-    ColumnModel<ListedRow> m_rows;
-    ColumnModel<RefusedCell> m_refused;
-    QList<qint64> m_shownLines; ///< by row that is shown, of the list; 0 for none
-    ColourScale m_scale;
     QString m_reading;  ///< path of what is being read
     QStringList m_left; ///< what the file carries besides and is no list
     ChooseFile m_chooseFile;
-    std::string m_charted; ///< name of the column that is drawn
 
     QStackedWidget* m_pages = nullptr;
-    QLabel* m_notes = nullptr;
-    ColumnTable* m_table = nullptr;
-    QTabWidget* m_tabs = nullptr;
-    SeriesChart* m_chart = nullptr;
-    ColumnTable* m_refusedTable = nullptr;
+    ListPanel* m_panel = nullptr;
     QLabel* m_status = nullptr;
     TablesActions* m_actions = nullptr;
     RaceKeeping* m_keeping = nullptr;
