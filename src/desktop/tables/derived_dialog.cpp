@@ -14,7 +14,7 @@ namespace kavela::desktop {
 namespace {
 
 /// The name of the column that is chosen; empty for the first line, which stands for none.
-std::string chosenName(const QComboBox& box) {
+std::string pickedColumn(const QComboBox& box) {
     return box.currentData().toString().toStdString();
 }
 
@@ -100,13 +100,13 @@ DerivedColumn DerivedDialog::derived() const {
                 derived.columns.push_back(m_parts->item(part)->text().toStdString());
         return derived;
     }
-    if (const std::string of = chosenName(*m_of); !of.empty())
+    if (const std::string of = pickedColumn(*m_of); !of.empty())
         derived.columns.push_back(of);
     if (what() == Derivation::Difference) {
-        derived.columns.push_back(chosenName(*m_less));
+        derived.columns.push_back(pickedColumn(*m_less));
         return derived;
     }
-    derived.by = chosenName(*m_by);
+    derived.by = pickedColumn(*m_by);
     derived.isHighestBest = m_isHighestBest->isChecked();
     return derived;
 }
