@@ -10,6 +10,7 @@
 #include "desktop/shell/file_names.h"
 #include "desktop/shell/workspace.h"
 #include "desktop/splitfile/taking_document.h"
+#include "desktop/tables/tables_window.h"
 
 #include <QFileDialog>
 #include <QFileInfo>
@@ -30,6 +31,10 @@ RaceWindow* AnalysisWindows::makeRaceWindow() {
     QObject::connect(window, &RaceWindow::momentRequested, &m_program, &Desktop::showMoment);
     QObject::connect(window, &RaceWindow::penaltiesRequested, &m_program, &Desktop::openPenalties);
     QObject::connect(window, &RaceWindow::lossesRequested, &m_program, &Desktop::openLosses);
+    QObject::connect(window, &RaceWindow::tablesRequested, &m_program,
+                     [this](const QString& path) { openTables({path}, {}); });
+    QObject::connect(window, &RaceWindow::officialDifferencesRequested, &m_program,
+                     &Desktop::openOfficialDifferences);
     QObject::connect(window, &RaceWindow::viewsChanged, &m_program, &Desktop::rememberSession);
     return window;
 }
@@ -100,6 +105,40 @@ void AnalysisWindows::openPenalties(const QStringList& paths) {
     window->setPaths(paths);
     QObject::connect(window, &PenaltiesWindow::pathsChanged, &m_program, &Desktop::rememberSession);
     m_program.show(window);
+}
+
+TablesWindow& AnalysisWindows::emptyTablesWindow() {
+    for (TablesWindow* const window : m_program.windowsOf<TablesWindow>())
+        if (window->isEmpty()) {
+            bringToFront(*window);
+            return *window;
+        }
+    auto* const window = new TablesWindow(m_workspace);
+    QObject::connect(window, &TablesWindow::pathsChanged, &m_program, &Desktop::rememberSession);
+    QObject::connect(window, &TablesWindow::listsRequested, &m_program,
+                     [this](const QStringList& paths) { openTables(paths, {}); });
+    QObject::connect(window, &TablesWindow::clipboardRequested, &m_program,
+                     [this] { emptyTablesWindow().openClipboard(); });
+    m_program.show(window);
+    return *window;
+}
+
+void AnalysisWindows::openTable(const QString& path, const QString& list) {
+    for (TablesWindow* const window : m_program.windowsOf<TablesWindow>())
+        if (const QString shown = window->paths().value(0);
+            !shown.isEmpty() && isSameFile(shown, path) &&
+            (list.isEmpty() || window->shownView() == list)) {
+            bringToFront(*window);
+            return;
+        }
+    emptyTablesWindow().openList(path, list.toStdString());
+}
+
+void AnalysisWindows::openTables(const QStringList& paths, const QString& list) {
+    if (paths.isEmpty())
+        (void)emptyTablesWindow();
+    for (const QString& path : paths)
+        openTable(path, list);
 }
 
 LossesWindow& AnalysisWindows::lossesWindow(const QStringList& paths) {

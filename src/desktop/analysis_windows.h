@@ -14,6 +14,7 @@ namespace kavela::desktop {
 class Desktop;
 class LossesWindow;
 class RaceWindow;
+class TablesWindow;
 class TakingDocument;
 class Workspace;
 
@@ -32,6 +33,9 @@ public:
     void openFind(const QStringList& paths);
     void openPenalties(const QStringList& paths);
     void openLosses(const QStringList& paths, std::optional<std::size_t> run);
+    /// Each list in a window of its own, the window that shows it already in front; an empty
+    /// window without any. `list` is which of the lists of a file is meant, empty for any.
+    void openTables(const QStringList& paths, const QString& list);
     /// The same of an earlier start, with what it showed then.
     void showLossesAgain(const QStringList& paths, const QString& view);
     /// The same with the season of an athlete.
@@ -44,6 +48,9 @@ private:
     /// The window that shows a race; null when none does.
     [[nodiscard]] RaceWindow* windowOfRace(const QString& path) const;
     [[nodiscard]] QStringList notShownAmong(const QStringList& races);
+    /// A window that shows no list yet, in front.
+    TablesWindow& emptyTablesWindow();
+    void openTable(const QString& path, const QString& list);
     /// The window that shows the losses of just these files, else a new one, in front.
     LossesWindow& lossesWindow(const QStringList& paths);
 

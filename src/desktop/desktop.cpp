@@ -239,13 +239,6 @@ void Desktop::openByContent(const QString& path, OpensAs kind) {
         (void)openIn(*tool, path);
     } else if (kind == OpensAs::Film) {
         m_splitFiles.openFilm(path);
-    } else if (kind == OpensAs::ResultsList) {
-        m_workspace.showAlert(
-            {tr("“%1” is a list of official results").arg(QFileInfo(path).fileName()).toStdString(),
-             tr("It is taken into a race: open the race in split taking, then File > Import "
-                "official results.")
-                 .toStdString()},
-            front());
     } else {
         m_workspace.showAlert(
             {"", "This feature is not ready yet.\n\nIt will come with a future update."}, front());
@@ -271,6 +264,10 @@ bool Desktop::openIn(const ToolKind& tool, const QString& path) {
     }
     if (tool.opens == OpensAs::Losses) {
         openLosses({path});
+        return true;
+    }
+    if (tool.opens == OpensAs::ResultsList) {
+        openTables({path});
         return true;
     }
     const QString file = canonicalPath(path);

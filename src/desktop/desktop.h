@@ -80,6 +80,15 @@ public:
     /// Shows the penalties of split files, and of folders with all below them, in one window; the
     /// window that has just these comes to the front.
     void openPenalties(const QStringList& paths) { m_analysis.openPenalties(paths); }
+    /// Opens each list of results, also that of a race, in a window of its own; without any an
+    /// empty window that offers ways to open one. `list` is which of the lists of a file is meant.
+    void openTables(const QStringList& paths, const QString& list = {}) {
+        m_analysis.openTables(paths, list);
+    }
+    /// Shows in split taking where a race and official results differ.
+    void openOfficialDifferences(const QString& path) {
+        m_splitFiles.openOfficialDifferences(path);
+    }
     /// Shows where time was lost in split files, and in folders with all below them, in one window;
     /// the window that has just these comes to the front. `run` is one of the first file, counted
     /// from 0, to look at.

@@ -47,6 +47,7 @@ void EarlierWork::rememberWindows() const {
 bool EarlierWork::restoreWindows() const {
     QStringList races;
     QStringList penalties;
+    QList<OpenFile> tables;
     QMap<int, LossesThen> losses; ///< by window
     QStringList others;
     QStringList searched;
@@ -63,11 +64,15 @@ bool EarlierWork::restoreWindows() const {
             searched.append(file.path);
         else if (file.kind == "penalties")
             penalties.append(file.path);
+        else if (file.kind == "tables")
+            tables.append(file);
         else
             others.append(file.path);
     if (!races.isEmpty())
         m_program.openRaces(races);
     m_program.openPenalties(penalties);
+    for (const OpenFile& table : tables)
+        m_program.openTables({table.path}, table.view);
     for (const LossesThen& window : losses)
         m_program.showLossesAgain(window.paths, window.view);
     if (!others.isEmpty())

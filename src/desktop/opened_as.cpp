@@ -9,6 +9,7 @@
 #include "planning/planning_file.h"
 #include "splittaking/results_import.h"
 #include "splittaking/video_names.h"
+#include "tables/sheet_reader.h"
 
 #include <QDir>
 #include <QFile>
@@ -53,6 +54,15 @@ bool beginsAsDocument(const QString& path) {
     QFile file(path);
     constexpr qint64 Beginning = 64;
     return file.open(QIODevice::ReadOnly) && file.read(Beginning).trimmed().startsWith('{');
+}
+
+bool isSpreadsheet(const QString& path) {
+    QFile file(path);
+    constexpr qint64 Beginning = 64;
+    if (!file.open(QIODevice::ReadOnly))
+        return false;
+    const ListFormat format = listFormatOf(file.read(Beginning).toStdString());
+    return format == ListFormat::Spreadsheet || format == ListFormat::OldSpreadsheet;
 }
 
 /// One of an older release is brought to this one by the tool for races.
@@ -111,6 +121,8 @@ Opening opensAs(const QString& path) {
         return {OpensAs::Film};
     if (isImportable(path) && !beginsAsDocument(path))
         return {importOpensAs(path)};
+    if (info.isFile() && isSpreadsheet(path))
+        return {OpensAs::ResultsList};
     return documentOpensAs(path);
 }
 

@@ -27,7 +27,7 @@ enum class OpensAs {
     PowerList,   ///< of a power meter: taken into the session that is open
     Find,        ///< the search, which opens no file of its own
     Losses,      ///< split files and folders, where the coach asks for it: none is known by content
-    ResultsList, ///< official results: taken into a race
+    ResultsList, ///< any list of results, as text or a spreadsheet
     Penalties,   ///< split files and folders, where the coach asks for it: none is known by content
     NotReady
 };

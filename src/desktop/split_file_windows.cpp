@@ -8,6 +8,7 @@
 #include "desktop/shell/file_names.h"
 #include "desktop/shell/workspace.h"
 #include "desktop/splitfile/taking_files.h"
+#include "desktop/taking/official_dialog.h"
 #include "desktop/taking/taking_window.h"
 #include "splitdata/run_timing.h"
 
@@ -243,6 +244,11 @@ bool SplitFileWindows::selectRun(TakingWindow& window, const QString& path, std:
 void SplitFileWindows::showMoment(const QString& path, int run, std::size_t split) {
     showRun(path, static_cast<std::size_t>(run),
             [split](TakingWindow& window) { window.stage().goToMark(split); });
+}
+
+void SplitFileWindows::openOfficialDifferences(const QString& path) {
+    (void)openTaking(
+        path, [this](TakingWindow& window) { showOfficialDifferences(window, m_workspace); });
 }
 
 void SplitFileWindows::showPlace(const Place& place) {

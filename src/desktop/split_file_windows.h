@@ -36,6 +36,8 @@ public:
     void openFilm(const QString& path);
     /// The moment behind a time of the analyzer, in the film it was taken from.
     void showMoment(const QString& path, int run, std::size_t split);
+    /// Where the race and official results differ, over its split taking.
+    void openOfficialDifferences(const QString& path);
     /// Where a number of a split file comes from: its run and frame.
     void showPlace(const Place& place);
 

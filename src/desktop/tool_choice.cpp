@@ -16,7 +16,10 @@ void ToolChoice::choose(const ToolKind& tool) const {
         return;
     }
     if (tool.choice == ToolKind::Choice::None) {
-        m_program.openFind({});
+        if (tool.opens == OpensAs::ResultsList)
+            m_program.openTables({});
+        else
+            m_program.openFind({});
         return;
     }
     if (tool.choice == ToolKind::Choice::FilesOrFolder) {

@@ -10,6 +10,7 @@
 #include "desktop/selection/selection_window.h"
 #include "desktop/sessions/session_window.h"
 #include "desktop/sessions/test_session_window.h"
+#include "desktop/tables/tables_window.h"
 #include "desktop/taking/taking_window.h"
 #include "desktop/team/team_window.h"
 #include "desktop/watertests/tests_window.h"
@@ -139,6 +140,14 @@ std::vector<ToolKind> makeTools() {
          Choice::FilesOrFolder,
          {tr("Open split files"), tr("Split files"), "kvx", {}},
          makeReader<PenaltiesWindow>},
+        {"tables",
+         OpensAs::ResultsList,
+         tr("Tables"),
+         tr("Any list of results, sorted, tinted, reckoned with, and whose it is."),
+         "tables",
+         Choice::None,
+         {tr("Open lists"), tr("Lists"), "csv", {}},
+         makeReader<TablesWindow>},
         {"testsession",
          OpensAs::TestSession,
          tr("Test session"),

@@ -1,6 +1,10 @@
 #include "performance/race_tables.h"
 
+#include "common/json_encode.h"
 #include "common/number_text.h"
+#include "common/safe_file.h"
+#include "splitdata/document.h"
+#include "splitdata/loader.h"
 #include "tables/list_source.h"
 #include "tables/table_error.h"
 #include "tables/table_text.h"
@@ -55,6 +59,28 @@ std::vector<ListGrid> raceTableLists(const infodata031& info, const std::string&
 void keepWithRace(infodata031& info, const ListTable& table) {
     const std::string text = tableCsv(table);
     info.officialresultsAnalysis.bytes = std::vector<unsigned char>(text.begin(), text.end());
+}
+
+bool keepInSplitFile(const std::filesystem::path& file, const ListTable& table, KeptBefore before,
+                     ReferenceDate now) {
+    RecognisedSplitFile read = recogniseSplitFile(
+        file, [](std::string_view) {}, [now] { return now; });
+    if (!read.version)
+        throw TableError(incompatibleText(file, read.failures));
+    if (!read.isCurrent())
+        throw TableError("The file is of an older version, " + std::string(read.version->label) +
+                         ". Open it in the race analyzer first, which brings it to this one.");
+    infodata031& info = read.document.info;
+    if (before == KeptBefore::Stays && !info.officialresultsAnalysis.bytes.empty())
+        return false;
+    keepWithRace(info, table);
+    info.lastSavedDate = now;
+    try {
+        writeFileSafely(file, encode(read.document));
+    } catch (const EncodeError& error) {
+        throw TableError(error.what());
+    }
+    return true;
 }
 
 } // namespace kavela

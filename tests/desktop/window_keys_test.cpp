@@ -11,6 +11,7 @@
 #include "desktop/shell/key_list.h"
 #include "desktop/shell/tables/column_table.h"
 #include "desktop/shell/tool_window.h"
+#include "desktop/tables/tables_window.h"
 #include "desktop/taking/taking_window.h"
 #include "desktop/tools.h"
 
@@ -63,6 +64,8 @@ protected:
                 openLosses(path);
             else if (std::string_view(wanted.name) == "find")
                 openFind(path);
+            else if (std::string_view(wanted.name) == "tables")
+                openTable(path);
             else if (std::string_view(wanted.name) == "session")
                 openSession(path);
             else
@@ -91,6 +94,12 @@ protected:
         m_program.openLosses({path});
         for (auto* const window : m_program.windowsOf<desktop::LossesWindow>())
             EXPECT_TRUE(QTest::qWaitFor([&] { return window->state().hasRun(); }));
+    }
+
+    void openTable(const QString& path) {
+        m_program.openTables({path});
+        for (auto* const window : m_program.windowsOf<desktop::TablesWindow>())
+            EXPECT_TRUE(QTest::qWaitFor([&] { return window->document().hasList(); }));
     }
 
     void openFind(const QString& path) {
@@ -195,6 +204,7 @@ INSTANTIATE_TEST_SUITE_P(Windows, WindowKeysTest,
                                                     "Alt+4"},
                                            WindowOf{"losses", "races/riverside_cup.kvx", "Shift+W"},
                                            WindowOf{"find", "races/riverside_cup.kvx", "Alt+2"},
+                                           WindowOf{"tables", "races/spring_opener_results.csv"},
                                            WindowOf{"motion", "recordings/upstream_drill.kvb"},
                                            WindowOf{"session", "recordings/upstream_drill.kvb"}),
                          [](const auto& window) { return window.param.name; });

@@ -161,6 +161,12 @@ void RaceActions::makeCompareMenu() {
         [](RaceView& view, bool on) { view.document().setIdealShown(on); });
     add(*menu, tr("A &run of another race…"), QKeySequence(Qt::Key_C),
         [](RaceView& view) { view.compareWithOtherRace(); });
+    menu->addAction(
+        tr("With &official results…"), QKeySequence(Qt::CTRL | Qt::Key_U), &m_window,
+        [this] { emit m_window.officialDifferencesRequested(m_window.document().path()); });
+    menu->addAction(tr("The results list as a &table"),
+                    QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_T), &m_window,
+                    [this] { emit m_window.tablesRequested(m_window.document().path()); });
     add(*menu, tr("&Clear the comparison"), QKeySequence(Qt::SHIFT | Qt::Key_C),
         [](RaceView& view) { view.document().clearComparisons(); });
 }

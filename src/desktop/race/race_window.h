@@ -55,6 +55,10 @@ signals:
     void lossesRequested(const QStringList& paths, std::optional<std::size_t> run);
     /// The frame behind a time is wanted: of a run of the file, of a split counted from 1.
     void momentRequested(const QString& path, int run, std::size_t split);
+    /// The lists of results that the race in front carries are to be shown as tables.
+    void tablesRequested(const QString& path);
+    /// Where the race in front and official results differ is to be shown.
+    void officialDifferencesRequested(const QString& path);
     /// The penalties of the race in front are to be shown in a window of their own.
     void penaltiesRequested(const QStringList& paths);
 

@@ -355,6 +355,16 @@ void TakingDocument::takeResults(const ResultsList& list, const std::vector<Resu
     logPerfectTime();
 }
 
+bool TakingDocument::takeOfficial(const OfficialDifference& difference) {
+    std::optional<TakingState> after = withOfficial(value(), difference);
+    if (!after)
+        return false;
+    put(tr("official result of %1").arg(QString::fromStdString(difference.crew)),
+        std::move(*after));
+    logPerfectTime();
+    return true;
+}
+
 void TakingDocument::reset(QWidget* over) {
     const QString runs = runCount() == 1 ? tr("1 run") : tr("%1 runs").arg(runCount());
     const QString what = tr("%1 with %2 is emptied. Ctrl+Z brings it back.").arg(title(), runs);

@@ -13,6 +13,7 @@
 #include <optional>
 
 namespace kavela {
+struct OfficialDifference;
 struct RecognisedSplitFile;
 }
 
@@ -101,6 +102,9 @@ public:
     void takeResults(const ResultsList& list, const std::vector<ResultOfRun>& runs);
     /// Deletes all data once the coach has confirmed it.
     void reset(QWidget* over);
+    /// Takes one difference to official results over, in one step; false, and no step, where it is
+    /// none of this race any more.
+    bool takeOfficial(const OfficialDifference& difference);
     /// Recomputes the perfect time with its line in the log, as when a real time was entered.
     void logPerfectTime() const;
 

@@ -92,4 +92,25 @@ TakingState withResults(const TakingState& before, const ResultsList& list,
     return after;
 }
 
+/// The runs that it is about are whole, so that nothing of them is lost; the others only tell who
+/// they are.
+std::optional<TakingState> withOfficial(const TakingState& before,
+                                        const OfficialDifference& difference) {
+    splittakerdata031 race = timesOf(before);
+    std::vector<std::size_t> changed;
+    for (const auto& run : {difference.run, difference.other})
+        if (run && *run < before.runs.size()) {
+            changed.push_back(*run);
+            race.athletes[*run] = *before.runs[*run].record;
+        }
+    if (!takeOver(race, difference))
+        return std::nullopt;
+    TakingState after = before;
+    if (race.info.resultsCSVdata.size() != before.info->resultsCSVdata.size())
+        after.info = std::make_shared<infodata031>(std::move(race.info));
+    for (const std::size_t run : changed)
+        after.runs[run].record = std::make_shared<athletedata031>(std::move(race.athletes[run]));
+    return after;
+}
+
 } // namespace kavela::desktop

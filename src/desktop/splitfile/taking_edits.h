@@ -1,10 +1,12 @@
 #pragma once
 
 #include "desktop/splitfile/taking_state.h"
+#include "performance/official_differences.h"
 #include "splittaking/results_import.h"
 #include "splittaking/results_match.h"
 
 #include <functional>
+#include <optional>
 
 /// What edits make of a split file in the making. Each leaves the state that it is given alone and
 /// shares with it what stays.
@@ -34,5 +36,9 @@ namespace kavela::desktop {
 /// one of them. Throws std::out_of_range for a run or line that is not there.
 [[nodiscard]] TakingState withResults(const TakingState& before, const ResultsList& list,
                                       const std::vector<ResultOfRun>& runs);
+
+/// One difference to official results taken over; nothing where that cannot be.
+[[nodiscard]] std::optional<TakingState> withOfficial(const TakingState& before,
+                                                      const OfficialDifference& difference);
 
 } // namespace kavela::desktop

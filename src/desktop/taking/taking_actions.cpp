@@ -8,6 +8,7 @@
 #include "desktop/shell/workspace.h"
 #include "desktop/taking/day/day_actions.h"
 #include "desktop/taking/notes/note_actions.h"
+#include "desktop/taking/official_dialog.h"
 #include "desktop/taking/run_films.h"
 #include "desktop/taking/split_mode.h"
 #include "desktop/taking/taking_reports.h"
@@ -57,6 +58,8 @@ void TakingActions::makeFileMenu() {
     add(*menu, tr("Import split &file…"), {}, [this] { m_window.exchange().importSplitFile(); });
     add(*menu, tr("Import official &results…"), {},
         [this] { m_window.exchange().importResults(); });
+    add(*menu, tr("Compare &with official results…"), {keys(Qt::CTRL | Qt::Key_U)},
+        [this] { showOfficialDifferences(m_window, m_workspace); });
     m_ofRun.push_back(add(*menu, tr("&Recording of the run…"), {keys(Qt::CTRL | Qt::Key_B)},
                           [this] { m_window.openRecording(); }));
     m_ofRun.push_back(add(*menu, tr("Run s&heet: preview, PDF, print…"), {QKeySequence::Print},

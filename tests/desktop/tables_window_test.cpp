@@ -1,0 +1,318 @@
+#include "desktop/tables/tables_window.h"
+
+#include "common/json_encode.h"
+#include "common/recorders.h"
+#include "common/safe_file.h"
+#include "common/temp_folder.h"
+#include "common/text_file.h"
+#include "desktop/charts/series_chart.h"
+#include "desktop/desktop.h"
+#include "desktop/shell/tables/column_table.h"
+#include "desktop/shell/workspace.h"
+#include "desktop/taking/official_dialog.h"
+#include "desktop/taking/taking_window.h"
+#include "performance/race_tables.h"
+#include "results/team_file.h"
+#include "splitdata/document.h"
+#include "splitdata/loader.h"
+#include "tables/table_text.h"
+
+#include <gmock/gmock.h>
+
+#include <QApplication>
+#include <QClipboard>
+#include <QHeaderView>
+#include <QTest>
+
+/// Any list as a table, and official results beside the films, as a coach uses them.
+namespace kavela::test {
+namespace {
+
+namespace fs = std::filesystem;
+using namespace kavela::desktop;
+using ::testing::ElementsAre;
+using ::testing::HasSubstr;
+using ::testing::IsEmpty;
+using ::testing::SizeIs;
+
+constexpr const char* FinalList = "Pos;Name;Class;Time;Pen\n"
+                                  "1;Bell Anna;K1W;95.50;0\n"
+                                  "2;Novak Petr;K1M;92.10;2\n"
+                                  "3;Lis Eva;K1W;fast;0\n"
+                                  "4;Hora Jan;K1M;DNF;0\n"
+                                  "5;Kos Iva;K1W;99.25;4\n"
+                                  "6;Mach Ota;K1M;90.75;0\n";
+constexpr int NameOfList = 1;
+constexpr int ClassOfList = 2;
+constexpr int TimeOfList = 3;
+
+athletedata031 runOnFilm(const std::string& name, double second, std::int64_t penalty = 0) {
+    athletedata031 run;
+    run.names = {name};
+    run.cat = "K1W";
+    run.phase = "Final";
+    run.sectioninfo.times = {40, second};
+    run.sectioninfo.totalpen = penalty;
+    return run;
+}
+
+splittakerdata031 raceOnFilm() {
+    splittakerdata031 race;
+    race.info.session = "Race";
+    race.info.totalsplits = 2;
+    race.athletes = {runOnFilm("Anna Bell", 50), runOnFilm("Eva Kos", 51, 2)};
+    race.info.resultsCSVdata = {{1, 4, "Anna Bell", "CZE", 90, 2, 92},
+                                {2, 5, "Eva Kos", "CZE", 91, 2, 93}};
+    return race;
+}
+
+class TablesWindowTest : public ::testing::Test {
+protected:
+    TablesWindowTest() { m_workspace.setAlerts(&m_recorder); }
+
+    QString add(const char* name, const std::string& content) {
+        return QString::fromStdString(m_folder.add(name, content).string());
+    }
+
+    TablesWindow& last() { return *m_program.windowsOf<TablesWindow>().back(); }
+
+    static void await(TablesWindow& window) {
+        EXPECT_TRUE(QTest::qWaitFor([&] { return !window.isReading(); }, 20000));
+    }
+
+    TablesWindow& openTable(const QString& path, const QString& list = {}) {
+        m_program.openTables({path}, list);
+        await(last());
+        return last();
+    }
+
+    TablesWindow& openFinal() { return openTable(add("final.csv", FinalList)); }
+
+    /// The texts of a column from the top down.
+    static QStringList column(const TablesWindow& window, int number) {
+        const QAbstractItemModel& model = *window.table().model();
+        QStringList texts;
+        for (int row = 0; row < model.rowCount(); ++row)
+            texts.append(model.index(row, number).data().toString());
+        return texts;
+    }
+
+    TempFolder m_folder;
+    Recorder m_recorder;
+    Workspace m_workspace{Preferences(m_folder.path() / "preferences.ini"), m_recorder.log(),
+                          [] { return ReferenceDate{7e8}; }};
+    Desktop m_program{m_workspace,
+                      Autosave(QString::fromStdString((m_folder.path() / "kept").string()))};
+};
+
+TEST_F(TablesWindowTest, TakesEveryStepBackAndLeavesTheListAlone) {
+    TablesWindow& window = openFinal();
+    const QStringList names = column(window, NameOfList);
+    ASSERT_THAT(names, SizeIs(6));
+    window.table().choose(0, TimeOfList);
+    window.sort(false);
+    EXPECT_EQ(column(window, NameOfList).mid(0, 3),
+              QStringList({"Mach Ota", "Novak Petr", "Bell Anna"}));
+    window.derive(Derivation::Gap);
+    EXPECT_EQ(column(window, 5).value(2).replace(',', '.'), "4.75");
+    window.take(GroupStep{"Class"});
+    EXPECT_EQ(column(window, 0).filter("("), QStringList({"K1M (3)", "K1W (3)"}));
+    window.take(FilterStep{"Class", "K1W", true});
+    EXPECT_THAT(column(window, 0), SizeIs(4)) << "a title and three rows";
+    window.take(Pivot{"Class", "", "Time", PivotFunction::Least});
+    EXPECT_EQ(column(window, 0), QStringList("K1W"));
+    EXPECT_EQ(window.document().undoStack().count(), 5);
+    while (window.document().undoStack().canUndo())
+        window.document().undoStack().undo();
+    EXPECT_EQ(column(window, NameOfList), names);
+    EXPECT_EQ(window.table().model()->columnCount(), 5);
+    EXPECT_EQ(readTextFile(m_folder.path() / "final.csv"), FinalList);
+    window.take(RemoveStep{"No such column"});
+    EXPECT_THAT(m_recorder.alerts, SizeIs(1));
+    EXPECT_FALSE(window.document().undoStack().canUndo()) << "what cannot be taken is no step";
+}
+
+TEST_F(TablesWindowTest, TellsWhatWasRefusedWithLineColumnAndReason) {
+    TablesWindow& window = openFinal();
+    const QAbstractItemModel& refused = *window.refused().model();
+    ASSERT_EQ(refused.rowCount(), 1);
+    EXPECT_EQ(refused.index(0, 0).data().toString(), "4");
+    EXPECT_EQ(refused.index(0, 1).data().toString(), "4");
+    EXPECT_EQ(refused.index(0, 2).data().toString(), "fast");
+    EXPECT_THAT(window.status().toStdString(), HasSubstr("1 refused"));
+    window.table().choose(0, TimeOfList);
+    window.takeAtColumn([](const std::string& name) {
+        return KindStep{name, ListColumnKind::Text};
+    });
+    EXPECT_EQ(refused.rowCount(), 0) << "as text it is taken";
+    EXPECT_EQ(column(window, TimeOfList).value(2), "fast");
+}
+
+TEST_F(TablesWindowTest, SortsByAClickAndBackwardsByTheNext) {
+    TablesWindow& window = openFinal();
+    QHeaderView* const header = window.table().horizontalHeader();
+    emit header->sectionClicked(TimeOfList);
+    EXPECT_EQ(column(window, NameOfList).front(), "Mach Ota");
+    emit header->sectionClicked(TimeOfList);
+    EXPECT_EQ(column(window, NameOfList).front(), "Kos Iva");
+    EXPECT_EQ(header->sortIndicatorOrder(), Qt::DescendingOrder);
+    emit header->sectionClicked(ClassOfList);
+    EXPECT_EQ(column(window, NameOfList).front(), "Novak Petr") << "what is equal keeps its order";
+}
+
+TEST_F(TablesWindowTest, TintsAndDrawsTheNumbersOfTheTable) {
+    TablesWindow& window = openFinal();
+    window.take(TintStep{"Time", true});
+    const auto ground = [&](int row) {
+        return window.table().model()->index(row, TimeOfList).data(Qt::BackgroundRole);
+    };
+    EXPECT_TRUE(ground(5).isValid());
+    EXPECT_FALSE(ground(3).isValid()) << "DNF is no time";
+    const QVariant before = ground(5);
+    window.setScale(ColourScale::BlueOrange);
+    EXPECT_NE(ground(5), before);
+    window.table().choose(0, TimeOfList);
+    window.showChart();
+    const ChartContent& content = window.chart().content();
+    ASSERT_THAT(content.series, SizeIs(1));
+    EXPECT_THAT(content.series[0].points, SizeIs(4));
+    EXPECT_THAT(content.subtitle.toStdString(), HasSubstr("90.75 (Mach Ota)"));
+    EXPECT_THAT(content.subtitle.toStdString(), HasSubstr("2 without a number"));
+    emit window.chart().pointActivated(0, 2);
+    EXPECT_EQ(window.table().currentPlace(), 4);
+    window.take(GroupStep{"Class"});
+    EXPECT_THAT(window.chart().content().series, SizeIs(2));
+}
+
+TEST_F(TablesWindowTest, AsksWhoIsMeantAndCanForgetTheAnswer) {
+    myTeamToSaveStruct team;
+    for (const char* name : {"BELL Anna", "NOVÁK Petr", "Novák Petr"})
+        team.realMyTeam.emplace_back().name = name;
+    const fs::path file = m_folder.path() / "team.kvteam";
+    saveTeamFile(team, file);
+    TablesWindow& window = openFinal();
+    m_workspace.setChoice([](const Alert& question, const QStringList& choices) {
+        EXPECT_THAT(question.title, HasSubstr("Novak Petr"));
+        EXPECT_THAT(choices, SizeIs(3));
+        return 2;
+    });
+    window.joinTeam(QString::fromStdString(file.string()));
+    await(window);
+    EXPECT_EQ(column(window, 5), QStringList({"BELL Anna", "Novák Petr", "", "", "", ""}));
+    window.document().undoStack().undo();
+    EXPECT_THAT(column(window, 5).value(1).toStdString(), HasSubstr("?"));
+    EXPECT_THAT(window.document().unsureRows(), ElementsAre(1));
+    window.document().undoStack().undo();
+    EXPECT_EQ(window.table().model()->columnCount(), 5);
+}
+
+TEST_F(TablesWindowTest, KeepsTheTableWithARaceThatNobodyEdits) {
+    const QString race = add("race.kvx", encode(raceOnFilm()));
+    TablesWindow& window = openFinal();
+    window.setChooseFile([race](const QString&) { return race; });
+    const auto kept = [&] {
+        return recogniseSplitFile(race.toStdString(), m_recorder.log(), systemNow).document;
+    };
+    bool isAgreed = false;
+    int asked = 0;
+    m_workspace.setAnswer([&](const Alert&) {
+        ++asked;
+        return isAgreed;
+    });
+    window.keepWithRace();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return window.status().contains("Kept"); }));
+    const splittakerdata031 first = kept();
+    EXPECT_EQ(first.athletes.size(), 2U);
+    EXPECT_EQ(tableOf(raceTableLists(first.info, "officialresultsAnalysis").at(0)).rows(), 6U);
+
+    window.take(FilterStep{"Class", "K1W", true});
+    window.keepWithRace();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return asked == 1; }));
+    EXPECT_EQ(kept().info.officialresultsAnalysis.bytes, first.info.officialresultsAnalysis.bytes);
+    isAgreed = true;
+    window.keepWithRace();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return window.status().contains("Kept"); }));
+    EXPECT_EQ(tableOf(raceTableLists(kept().info, "officialresultsAnalysis").at(0)).rows(), 3U);
+
+    ASSERT_TRUE(m_program.openTaking(race));
+    m_recorder.alerts.clear();
+    window.document().undoStack().undo();
+    window.keepWithRace();
+    ASSERT_THAT(m_recorder.alerts, SizeIs(1)) << "told at once, nothing is written";
+    EXPECT_THAT(m_recorder.alerts.front(), HasSubstr("close it there"));
+    EXPECT_EQ(asked, 2);
+}
+
+TEST_F(TablesWindowTest, NeverSavesOverItsList) {
+    TablesWindow& window = openFinal();
+    const QString list = window.paths().value(0);
+    window.setChooseFile([list](const QString&) { return list; });
+    window.saveCsv();
+    EXPECT_THAT(m_recorder.alerts, SizeIs(1));
+    EXPECT_EQ(readTextFile(list.toStdString()), FinalList);
+    const fs::path other = m_folder.path() / "other.csv";
+    window.setChooseFile(
+        [other](const QString&) { return QString::fromStdString(other.string()); });
+    window.take(FilterStep{"Class", "K1M", true});
+    window.saveCsv();
+    await(window);
+    EXPECT_EQ(readTextFile(other), tableCsv(*window.document().table()));
+}
+
+TEST_F(TablesWindowTest, AsksWhichOfTheListsOfARaceAndRemembersIt) {
+    splittakerdata031 race = raceOnFilm();
+    keepWithRace(race.info, tableOf(raceTableLists(race.info, "resultsCSVdata").at(0)));
+    const QString path = add("race.kvx", encode(race));
+    int asked = 0;
+    m_workspace.setChoice([&](const Alert&, const QStringList& choices) {
+        ++asked;
+        EXPECT_THAT(choices, SizeIs(2));
+        return 1;
+    });
+    EXPECT_EQ(openTable(path).shownView(), "officialresultsAnalysis");
+    EXPECT_EQ(openTable(path, "resultsCSVdata").shownView(), "resultsCSVdata");
+    EXPECT_EQ(asked, 1) << "a window of an earlier start knows its list";
+    EXPECT_THAT(m_program.windowsOf<TablesWindow>(), SizeIs(2));
+    EXPECT_EQ(column(last(), 2), QStringList({"Anna Bell", "Eva Kos"}));
+}
+
+TEST_F(TablesWindowTest, OpensWhatWasCopiedAndTellsWhatIsNoList) {
+    m_program.openTables({add("report.xlsx", "%PDF-1.4 no list")});
+    await(last());
+    EXPECT_THAT(m_recorder.alerts, SizeIs(1));
+    EXPECT_TRUE(last().isEmpty());
+    QApplication::clipboard()->setText("Name\tTime\nAnna\t92.5\nEva\t93.5\n");
+    last().openClipboard();
+    EXPECT_EQ(column(last(), 0), QStringList({"Anna", "Eva"}));
+    last().openClipboard();
+    EXPECT_THAT(m_program.windowsOf<TablesWindow>(), SizeIs(2)) << "what is shown stays";
+    m_program.open(add("official.csv", "1;4;BELL Anna;CZE;90.25;2\n2;5;KOS Eva;CZE;91.5;0\n"));
+    EXPECT_THAT(m_program.windowsOf<TablesWindow>(), SizeIs(3)) << "known by what it holds";
+    await(last());
+    EXPECT_TRUE(last().document().hasList());
+}
+
+TEST_F(TablesWindowTest, TakesOfficialResultsOverLineByLine) {
+    m_program.openOfficialDifferences(add("race.kvx", encode(raceOnFilm())));
+    ASSERT_THAT(m_program.windowsOf<TakingWindow>(), SizeIs(1));
+    TakingWindow& window = *m_program.windowsOf<TakingWindow>().front();
+    OfficialDialog& dialog = showOfficialDifferences(window, m_workspace);
+    EXPECT_THAT(window.findChildren<OfficialDialog*>(), SizeIs(1)) << "one for a window";
+    ASSERT_THAT(dialog.differences(), SizeIs(1)) << "a touch that was not noted";
+    EXPECT_EQ(dialog.differences().front().kind, OfficialDifferenceKind::MissingPenalty);
+    dialog.openList(add("other.csv", "Name;Time;Pen\nBell Anna;90;0\nKos Eva;95;2\n"));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !dialog.isReading(); }));
+    ASSERT_THAT(dialog.differences(), SizeIs(1));
+    EXPECT_EQ(dialog.differences().front().kind, OfficialDifferenceKind::TimeOff);
+    dialog.takeOverCurrent();
+    EXPECT_EQ(window.document().run(1).sectioninfo.realtime, 95);
+    EXPECT_EQ(window.document().run(1).sectioninfo.times, std::vector<double>({40, 51}));
+    EXPECT_THAT(dialog.differences(), IsEmpty());
+    EXPECT_EQ(window.document().undoStack().count(), 1);
+    window.undo();
+    EXPECT_EQ(window.document().run(1).sectioninfo.realtime, 0);
+    EXPECT_THAT(dialog.differences(), SizeIs(1)) << "it follows what is taken back";
+}
+
+} // namespace
+} // namespace kavela::test
