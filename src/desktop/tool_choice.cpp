@@ -16,7 +16,7 @@ void ToolChoice::choose(const ToolKind& tool) const {
         return;
     }
     if (tool.choice == ToolKind::Choice::None) {
-        m_program.openFind({});
+        tool.opens == OpensAs::Season ? m_program.openSeason({}) : m_program.openFind({});
         return;
     }
     if (tool.choice == ToolKind::Choice::FilesOrFolder) {
