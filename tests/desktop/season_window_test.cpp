@@ -292,7 +292,7 @@ TEST_F(TeamFixture, TellsTheFewFiguresOfASeasonAndOpensItAtTheAthlete) {
     EXPECT_THAT(label->text().toStdString(), HasSubstr("medals 1 of 4 ("));
     QSignalSpy requested(window.get(), &TeamWindow::seasonRequested);
     press(*window, Qt::Key_F6);
-    ASSERT_THAT(requested, SizeIs(1));
+    ASSERT_EQ(requested.count(), 1);
     EXPECT_EQ(requested[0][0].toString(), QStringLiteral("ŠTERN Ann Marie"));
     EXPECT_EQ(requested[0][1].toString(), "WK1");
     EXPECT_EQ(requested[0][2].toString(), qtPathOf(file()));

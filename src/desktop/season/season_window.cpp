@@ -520,11 +520,11 @@ void SeasonWindow::showStatus() {
                         files == 0 && !m_facts.isReading());
     QStringList parts;
     if (m_season) {
-        const SeasonData& data = m_season->season.data;
+        const std::vector<std::string>& twins = m_season->season.data.twins;
         parts << (m_season->season.spread.runs == 1
                       ? tr("1 run compared")
                       : tr("%1 runs compared").arg(m_season->season.spread.runs));
-        for (const std::string& twin : data.twins)
+        for (const std::string& twin : twins)
             parts << tr("several athletes are called %1: their runs cannot be told apart")
                          .arg(qtText(twin));
         if (!m_season->unknown.empty())
