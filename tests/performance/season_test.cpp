@@ -331,7 +331,9 @@ TEST_F(SeasonOfThree, AthletesAreHeldAgainstOneAnotherBesideTheirExplanations) {
     ASSERT_EQ(compared.lines.size(), 2U);
     const double mill = 100 * (90.5 / 90 - 1);
     EXPECT_NEAR(compared.lines[0].percent.value(), mill / 2, Close) << "she won abroad";
-    EXPECT_THAT(compared.lines[0].years, ElementsAre(YearMedian{2025, mill / 2, 2}));
+    ASSERT_EQ(compared.lines[0].years.size(), 1U);
+    EXPECT_EQ(compared.lines[0].years[0].runs, 2U);
+    EXPECT_NEAR(compared.lines[0].years[0].percent, mill / 2, Close);
     EXPECT_THAT(compared.sentence, HasSubstr("(Final): BELL Anna, 0.3 % (median of 2)"));
     for (const char* const id : {"median/Anna Bell/Final", "median/Anna Bell/Final/2025"})
         EXPECT_NEAR(explainSeason(season, m_facts, id).value().value, mill / 2, Close) << id;

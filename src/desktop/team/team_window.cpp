@@ -127,9 +127,13 @@ void TeamWindow::showSeason() {
                 : SeasonAsked();
     if (asked == m_asked)
         return; // only another race was chosen
+    const bool isSameAthlete =
+        asked.athlete == m_asked.athlete && asked.category == m_asked.category;
     m_asked = asked;
+    if (!isSameAthlete)
+        m_summary->showSeason({}); // nobody's figures stand under another name
     if (!isKnown)
-        return m_summary->showSeason({});
+        return;
     m_work.run([asked] { return athleteSeason(*asked.team, asked.athlete, asked.category); },
                [this, asked](const AthleteSeason& season) {
                    if (asked == m_asked)
