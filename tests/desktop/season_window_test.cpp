@@ -226,7 +226,7 @@ TEST_F(SeasonWindowTest, FollowsTheTeamOnTheDiskAndKeepsWhoIsShown) {
     ASSERT_TRUE(QTest::qWaitFor([&] { return m_window.season()->season.athletes.size() == 3U; }));
     EXPECT_EQ(m_window.header().athleteName(), "COLE Berta");
 
-    m_folder.add("team.kvteam", "no team");
+    (void)m_folder.add("team.kvteam", "no team");
     ASSERT_TRUE(QTest::qWaitFor(
         [&] { return m_window.status().contains("the team could not be read again"); }));
     EXPECT_THAT(m_window.season()->season.athletes, SizeIs(3)) << "what was read stays";
