@@ -6,6 +6,7 @@
 #include "desktop/penalties/penalties_window.h"
 #include "desktop/race/race_view.h"
 #include "desktop/race/race_window.h"
+#include "desktop/season/season_window.h"
 #include "desktop/shell/bring_to_front.h"
 #include "desktop/shell/file_names.h"
 #include "desktop/shell/workspace.h"
@@ -190,6 +191,52 @@ void AnalysisWindows::askForSeasonLosses(const QString& athlete, const QString& 
         return;
     m_workspace.remember(FolderKey, {folder});
     openSeasonLosses({folder}, athlete);
+}
+
+SeasonWindow* AnalysisWindows::makeSeasonWindow() {
+    auto* const window = new SeasonWindow(m_workspace);
+    QObject::connect(window, &SeasonWindow::pathsChanged, &m_program, &Desktop::rememberSession);
+    return window;
+}
+
+void AnalysisWindows::openSeason(const QStringList& paths) {
+    for (SeasonWindow* const window : m_program.windowsOf<SeasonWindow>())
+        if (paths.isEmpty() || window->paths().value(0) == paths.value(0)) {
+            for (const QString& path : paths)
+                (void)window->open(path);
+            bringToFront(*window);
+            return;
+        }
+    SeasonWindow* const window = makeSeasonWindow();
+    paths.isEmpty() ? window->openRemembered() : window->setPaths(paths);
+    m_program.show(window);
+}
+
+void AnalysisWindows::openSeasonOf(const QString& athlete, const QString& category,
+                                   const QString& teamFile) {
+    if (teamFile.isEmpty())
+        return;
+    SeasonWindow* window = nullptr;
+    for (SeasonWindow* const open : m_program.windowsOf<SeasonWindow>())
+        if (isSameFile(open->paths().value(0), teamFile))
+            window = open;
+    if (!window) {
+        window = makeSeasonWindow();
+        window->setPaths(QStringList(teamFile) +
+                         SeasonWindow::rememberedRaces(m_workspace, teamFile));
+        m_program.show(window);
+    }
+    window->showAthlete(athlete, category);
+    bringToFront(*window);
+}
+
+void AnalysisWindows::showSeasonAgain(const QStringList& paths, const QString& view) {
+    if (paths.isEmpty())
+        return;
+    SeasonWindow* const window = makeSeasonWindow();
+    window->setPaths(paths);
+    window->showAgain(view);
+    m_program.show(window);
 }
 
 /// In the window that shows its file already.

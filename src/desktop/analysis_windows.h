@@ -14,6 +14,7 @@ namespace kavela::desktop {
 class Desktop;
 class LossesWindow;
 class RaceWindow;
+class SeasonWindow;
 class TablesWindow;
 class TakingDocument;
 class Workspace;
@@ -42,8 +43,15 @@ public:
     void openSeasonLosses(const QStringList& paths, const QString& athlete);
     /// Asks in which folder the races of a team's athlete are, and opens the season there.
     void askForSeasonLosses(const QString& athlete, const QString& teamFile);
+    /// A team's season with its races, or without paths the one that was shown last.
+    void openSeason(const QStringList& paths);
+    /// The season of a team's athlete, with the races that the team was shown with last.
+    void openSeasonOf(const QString& athlete, const QString& category, const QString& teamFile);
+    /// A season of an earlier start, with what it showed then.
+    void showSeasonAgain(const QStringList& paths, const QString& view);
 
 private:
+    [[nodiscard]] SeasonWindow* makeSeasonWindow();
     [[nodiscard]] RaceWindow* makeRaceWindow();
     /// The window that shows a race; null when none does.
     [[nodiscard]] RaceWindow* windowOfRace(const QString& path) const;

@@ -270,6 +270,10 @@ bool Desktop::openIn(const ToolKind& tool, const QString& path) {
         openTables({path});
         return true;
     }
+    if (tool.opens == OpensAs::Season) {
+        openSeason({path});
+        return true;
+    }
     const QString file = canonicalPath(path);
     if (m_opening.contains(file) || raiseEditorOf(path))
         return true;
@@ -364,6 +368,11 @@ void Desktop::show(ToolWindow* window) {
         connect(team, &TeamWindow::lossesRequested, this,
                 [this](const QString& athlete, const QString& teamFile) {
                     m_analysis.askForSeasonLosses(athlete, teamFile);
+                });
+    if (auto* const team = qobject_cast<TeamWindow*>(window))
+        connect(team, &TeamWindow::seasonRequested, this,
+                [this](const QString& athlete, const QString& category, const QString& teamFile) {
+                    m_analysis.openSeasonOf(athlete, category, teamFile);
                 });
     const bool isConnected = qobject_cast<RaceWindow*>(window) ||
                              qobject_cast<TakingWindow*>(window) ||

@@ -89,6 +89,13 @@ public:
     void openOfficialDifferences(const QString& path) {
         m_splitFiles.openOfficialDifferences(path);
     }
+    /// Shows how a team's athletes stand over the seasons, in the window that has the team where
+    /// there is one; without a path the team that was shown last.
+    void openSeason(const QStringList& paths) { m_analysis.openSeason(paths); }
+    /// A window of a season of an earlier start, with what it showed then.
+    void showSeasonAgain(const QStringList& paths, const QString& view) {
+        m_analysis.showSeasonAgain(paths, view);
+    }
     /// Shows where time was lost in split files, and in folders with all below them, in one window;
     /// the window that has just these comes to the front. `run` is one of the first file, counted
     /// from 0, to look at.

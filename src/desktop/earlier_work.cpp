@@ -21,7 +21,7 @@ namespace kavela::desktop {
 
 namespace {
 
-/// What a window of losses showed.
+/// What a window of losses, or of a season, showed.
 struct LossesThen {
     QStringList paths;
     QString view;
@@ -49,6 +49,7 @@ bool EarlierWork::restoreWindows() const {
     QStringList penalties;
     QList<OpenFile> tables;
     QMap<int, LossesThen> losses; ///< by window
+    QMap<int, LossesThen> seasons;
     QStringList others;
     QStringList searched;
     for (const OpenFile& file : rememberedSession(m_workspace))
@@ -56,6 +57,8 @@ bool EarlierWork::restoreWindows() const {
             races.append(file.path);
         else if (file.kind == "losses")
             losses[file.window].add(file);
+        else if (file.kind == "season")
+            seasons[file.window].add(file);
         else if (file.kind == "taking")
             (void)m_program.openTaking(file.path);
         else if (file.kind == "cross")
@@ -75,6 +78,8 @@ bool EarlierWork::restoreWindows() const {
         m_program.openTables({table.path}, table.view);
     for (const LossesThen& window : losses)
         m_program.showLossesAgain(window.paths, window.view);
+    for (const LossesThen& window : seasons)
+        m_program.showSeasonAgain(window.paths, window.view);
     if (!others.isEmpty())
         m_program.openAll(others);
     if (!searched.isEmpty())

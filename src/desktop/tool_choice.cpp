@@ -18,6 +18,8 @@ void ToolChoice::choose(const ToolKind& tool) const {
     if (tool.choice == ToolKind::Choice::None) {
         if (tool.opens == OpensAs::ResultsList)
             m_program.openTables({});
+        else if (tool.opens == OpensAs::Season)
+            m_program.openSeason({});
         else
             m_program.openFind({});
         return;

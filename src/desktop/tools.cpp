@@ -7,6 +7,7 @@
 #include "desktop/penalties/penalties_window.h"
 #include "desktop/planning/planning_window.h"
 #include "desktop/race/race_window.h"
+#include "desktop/season/season_window.h"
 #include "desktop/selection/selection_window.h"
 #include "desktop/sessions/session_window.h"
 #include "desktop/sessions/test_session_window.h"
@@ -148,6 +149,14 @@ std::vector<ToolKind> makeTools() {
          Choice::None,
          {tr("Open lists"), tr("Lists"), "csv", {}},
          makeReader<TablesWindow>},
+        {"season",
+         OpensAs::Season,
+         tr("Season"),
+         tr("How a team's athletes stand: trend, rivals, medals, what it takes."),
+         "season",
+         Choice::None,
+         {tr("Open a team"), tr("Teams"), "kvteam", {}},
+         makeReader<SeasonWindow>},
         {"testsession",
          OpensAs::TestSession,
          tr("Test session"),

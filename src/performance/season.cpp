@@ -1,5 +1,8 @@
 #include "performance/season.h"
 
+#include "performance/season_reasons.h"
+#include "performance/season_rules.h"
+
 #include <fmt/format.h>
 
 #include <algorithm>
@@ -13,14 +16,37 @@ namespace {
 constexpr std::array<std::string_view, 4> PhasesFromLast{"Final", "Semifinal", "Heats 1",
                                                          "Heats 2"};
 
+struct PercentOfRace {
+    const RaceResult* race = nullptr;
+    double percent = 0;
+};
+
 /// Percentages of a phase in the order of the races, without missed gates.
-std::vector<double> percentsIn(const SeasonMember& member, std::string_view phase) {
-    std::vector<double> percents;
+std::vector<PercentOfRace> percentsIn(const SeasonMember& member, std::string_view phase) {
+    std::vector<PercentOfRace> percents;
     for (const RaceResult& race : member.races)
         for (const PhaseResult& result : race.phases)
             if (result.phase == phase && result.percent && !result.isMissed)
-                percents.push_back(*result.percent);
+                percents.push_back({&race, *result.percent});
     return percents;
+}
+
+std::optional<double> medianOfRaces(const std::vector<PercentOfRace>& races, Why* why) {
+    if (races.empty())
+        return std::nullopt;
+    std::vector<double> percents;
+    for (const PercentOfRace& race : races) {
+        percents.push_back(race.percent);
+        if (why)
+            why->input(
+                fmt::format("{} {} {}", race.race->year, race.race->event, race.race->location),
+                race.percent);
+    }
+    std::ranges::sort(percents);
+    const double median = quantileOf(percents, 0.5);
+    if (why)
+        why->result(ruleOf(SeasonRule::MedianPercent), median, fmt::format("{:.1f} %", median));
+    return median;
 }
 
 std::string rateLine(std::string_view what, const RateOf& rate) {
@@ -49,14 +75,18 @@ Season seasonOf(SeasonData data, std::span<const std::size_t> field) {
 }
 
 std::optional<double> medianPercent(const SeasonMember& member, std::string_view phase,
-                                    std::size_t last) {
-    std::vector<double> percents = percentsIn(member, phase);
-    if (percents.empty())
-        return std::nullopt;
-    if (last > 0 && percents.size() > last)
-        percents.erase(percents.begin(), percents.end() - static_cast<std::ptrdiff_t>(last));
-    std::ranges::sort(percents);
-    return quantileOf(percents, 0.5);
+                                    std::size_t last, Why* why) {
+    std::vector<PercentOfRace> races = percentsIn(member, phase);
+    if (last > 0 && races.size() > last)
+        races.erase(races.begin(), races.end() - static_cast<std::ptrdiff_t>(last));
+    return medianOfRaces(races, why);
+}
+
+std::optional<double> medianPercentOfYear(const SeasonMember& member, std::string_view phase,
+                                          std::int64_t year, Why* why) {
+    std::vector<PercentOfRace> races = percentsIn(member, phase);
+    std::erase_if(races, [=](const PercentOfRace& race) { return race.race->year != year; });
+    return medianOfRaces(races, why);
 }
 
 std::vector<std::string> SeasonFigures::lines() const {
@@ -76,6 +106,23 @@ std::vector<std::string> SeasonFigures::lines() const {
     if (lines.empty())
         lines.emplace_back("Too few results to tell anything of a season");
     return lines;
+}
+
+std::vector<std::string> SeasonFigures::ids(std::string_view athlete) const {
+    std::vector<std::string> ids;
+    if (percent)
+        ids.push_back(medianId(athlete, phase));
+    if (spread)
+        ids.push_back(seasonId("shrunk", athlete));
+    if (trend.perYear)
+        ids.push_back(seasonId("trend", athlete));
+    if (medals)
+        ids.push_back(seasonId("medal", athlete));
+    if (finals)
+        ids.push_back(seasonId("final", athlete));
+    if (ids.empty())
+        ids.emplace_back();
+    return ids;
 }
 
 SeasonFigures seasonFigures(const SeasonData& data, const SeasonSpread& spread,

@@ -8,6 +8,7 @@
 #include "performance/spread.h"
 
 #include <cstddef>
+#include <cstdint>
 #include <optional>
 #include <span>
 #include <string>
@@ -48,7 +49,12 @@ struct Season {
 /// The median percentage behind the winner in a phase, without missed gates; nothing where none is
 /// known. Of the last so many where `last` is above 0.
 [[nodiscard]] std::optional<double> medianPercent(const SeasonMember& member,
-                                                  std::string_view phase, std::size_t last = 0);
+                                                  std::string_view phase, std::size_t last = 0,
+                                                  Why* why = nullptr);
+/// The same of one year.
+[[nodiscard]] std::optional<double> medianPercentOfYear(const SeasonMember& member,
+                                                        std::string_view phase, std::int64_t year,
+                                                        Why* why = nullptr);
 
 /// The few figures that matter of an athlete, for where there is room for a line or four.
 struct SeasonFigures {
@@ -63,6 +69,8 @@ struct SeasonFigures {
     /// "2.1 % behind the winner in finals (median of 8)" and so on; a line for each that is known,
     /// or one that says that nothing is.
     [[nodiscard]] std::vector<std::string> lines() const;
+    /// The ids of their explanations, line by line; empty for the line that nothing is known.
+    [[nodiscard]] std::vector<std::string> ids(std::string_view athlete) const;
 };
 
 [[nodiscard]] SeasonFigures seasonFigures(const SeasonData& data, const SeasonSpread& spread,

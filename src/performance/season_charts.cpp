@@ -106,7 +106,7 @@ SeasonIntervalChart spreadChart(const Season& season) {
     return chart;
 }
 
-SeasonIntervalChart trendChart(const Season& season) {
+SeasonIntervalChart trendChart(const Season& season, TrendOf of) {
     SeasonIntervalChart chart;
     chart.unit = "% a year";
     chart.line = 0;
@@ -114,9 +114,10 @@ SeasonIntervalChart trendChart(const Season& season) {
     std::size_t slower = 0;
     for (const SeasonAthlete& athlete : season.athletes) {
         const std::string& name = memberOf(season, athlete).name;
-        const SeasonTrend& trend = athlete.toWinner;
-        chart.rows.push_back({name, seasonId("trend", name), trend.perYear, trend.interval,
-                              trend.runs, trend.verdict != TrendVerdict::Unclear});
+        const SeasonTrend& trend = of == TrendOf::Winner ? athlete.toWinner : athlete.toSplits;
+        const std::string id = seasonId(of == TrendOf::Winner ? "trend" : "splitstrend", name);
+        chart.rows.push_back({name, id, trend.perYear, trend.interval, trend.runs,
+                              trend.verdict != TrendVerdict::Unclear});
         faster += trend.verdict == TrendVerdict::Faster ? 1 : 0;
         slower += trend.verdict == TrendVerdict::Slower ? 1 : 0;
     }

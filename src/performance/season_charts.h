@@ -60,8 +60,8 @@ struct SeasonIntervalChart {
 
 /// The shrunk spread of every athlete of the team, against the common one.
 [[nodiscard]] SeasonIntervalChart spreadChart(const Season& season);
-/// The trend behind the winners of every athlete, against no change.
-[[nodiscard]] SeasonIntervalChart trendChart(const Season& season);
+/// The trend of every athlete, against no change.
+[[nodiscard]] SeasonIntervalChart trendChart(const Season& season, TrendOf of = TrendOf::Winner);
 /// How often an athlete was ahead of each rival in percent, against half; the first `most` rows.
 [[nodiscard]] SeasonIntervalChart headToHeadChart(const Season& season, std::size_t athlete,
                                                   std::size_t most);

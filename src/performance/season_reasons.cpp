@@ -69,6 +69,8 @@ public:
         const std::vector<std::string_view> words = wordsOfId(id);
         if (words.size() == 1)
             tellAll(words[0]);
+        else if (words[0] == "median")
+            tellMedian(words);
         else if (words.size() == 2)
             tellAthlete(words[0], words[1]);
         else if (words.size() == 3)
@@ -133,6 +135,17 @@ private:
                              words[0] == "won" ? HeadFigure::Won : HeadFigure::Gap, &m_why);
     }
 
+    void tellMedian(const std::vector<std::string_view>& words) {
+        const auto member = m_data.memberNamed(words[1]);
+        std::int64_t year = 0;
+        if (!member || words.size() < 3 || words.size() > 4)
+            return;
+        if (words.size() == 3)
+            (void)medianPercent(m_data.members[*member], words[2], 0, &m_why);
+        else if (parseField(words[3], year))
+            (void)medianPercentOfYear(m_data.members[*member], words[2], year, &m_why);
+    }
+
     void tellPhase(const std::vector<std::string_view>& words) {
         const auto member = m_data.memberNamed(words[1]);
         std::int64_t year = 0;
@@ -175,6 +188,10 @@ std::string seasonPhaseId(std::string_view figure, const SeasonMember& member,
 std::string seasonHeadId(std::string_view figure, std::string_view athlete,
                          std::string_view versus) {
     return seasonId(figure, athlete) + '/' + std::string(versus);
+}
+
+std::string medianId(std::string_view athlete, std::string_view phase) {
+    return seasonId("median", athlete) + '/' + std::string(phase);
 }
 
 std::string benchmarkId(std::string_view phase, std::size_t rank) {

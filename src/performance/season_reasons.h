@@ -18,6 +18,7 @@
 ///                                     where a season has several races of one event
 ///     won/ATHLETE/VERSUS              headgap/… the same
 ///     benchmark/PHASE/RANK
+///     median/ATHLETE/PHASE            /YEAR behind it for one year alone
 ///
 /// Athletes are named as the team or the split files write them, or otherwise the same.
 namespace kavela {
@@ -30,6 +31,8 @@ namespace kavela {
 /// Of "won" and "headgap".
 [[nodiscard]] std::string seasonHeadId(std::string_view figure, std::string_view athlete,
                                        std::string_view versus);
+/// Of "median", of all years.
+[[nodiscard]] std::string medianId(std::string_view athlete, std::string_view phase);
 [[nodiscard]] std::string benchmarkId(std::string_view phase, std::size_t rank);
 
 /// How a figure came about; nothing when the id is none or the figure is not known. `facts` are

@@ -52,8 +52,11 @@ constexpr std::array SeasonRuleTable{
          "Σ place · chance,  result normal: effect, spread · √(1 + 1/n)", ""},
     Rule{"season.podium", "The chance of one of the first three places among this field.",
          "chances of the places 1 to 3", ""},
+    Rule{"season.median",
+         "How far behind the winners of a phase, the same number of races before and behind it.",
+         "median of 100 · (T / W − 1), without missed gates", ""},
 };
-static_assert(SeasonRuleTable.size() == static_cast<std::size_t>(SeasonRule::MedalChance) + 1);
+static_assert(SeasonRuleTable.size() == static_cast<std::size_t>(SeasonRule::MedianPercent) + 1);
 
 } // namespace
 

@@ -26,6 +26,7 @@ enum class SeasonRule {
     MissedGate,
     ExpectedPlace,
     MedalChance,
+    MedianPercent, ///< behind the winners, of several races
 };
 
 [[nodiscard]] const Rule& ruleOf(SeasonRule rule);

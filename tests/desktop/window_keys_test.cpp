@@ -8,6 +8,7 @@
 #include "desktop/motion/motion_window.h"
 #include "desktop/penalties/penalties_window.h"
 #include "desktop/race/race_window.h"
+#include "desktop/season/season_window.h"
 #include "desktop/shell/key_list.h"
 #include "desktop/shell/tables/column_table.h"
 #include "desktop/shell/tool_window.h"
@@ -62,6 +63,8 @@ protected:
                 openPenalties(path);
             else if (std::string_view(wanted.name) == "losses")
                 openLosses(path);
+            else if (std::string_view(wanted.name) == "season")
+                openSeason(path);
             else if (std::string_view(wanted.name) == "find")
                 openFind(path);
             else if (std::string_view(wanted.name) == "tables")
@@ -100,6 +103,12 @@ protected:
         m_program.openTables({path});
         for (auto* const window : m_program.windowsOf<desktop::TablesWindow>())
             EXPECT_TRUE(QTest::qWaitFor([&] { return window->document().hasList(); }));
+    }
+
+    void openSeason(const QString& path) {
+        m_program.openSeason({path});
+        for (const auto* const window : m_program.windowsOf<desktop::SeasonWindow>())
+            EXPECT_TRUE(QTest::qWaitFor([&] { return !window->isBusy() && window->season(); }));
     }
 
     void openFind(const QString& path) {
@@ -203,6 +212,7 @@ INSTANTIATE_TEST_SUITE_P(Windows, WindowKeysTest,
                                            WindowOf{"penalties", "races/riverside_cup.kvx",
                                                     "Alt+4"},
                                            WindowOf{"losses", "races/riverside_cup.kvx", "Shift+W"},
+                                           WindowOf{"season", "team/kavela_team.kvteam", "Alt+9"},
                                            WindowOf{"find", "races/riverside_cup.kvx", "Alt+2"},
                                            WindowOf{"tables", "races/spring_opener_results.csv"},
                                            WindowOf{"motion", "recordings/upstream_drill.kvb"},

@@ -1,6 +1,7 @@
 #include "performance/season.h"
 
 #include "performance/season_charts.h"
+#include "performance/season_compared.h"
 #include "performance/season_reasons.h"
 
 #include <gmock/gmock.h>
@@ -8,6 +9,7 @@
 #include <chrono>
 #include <cmath>
 #include <numeric>
+#include <stdexcept>
 
 /// How athletes stand over seasons. The figures were reckoned by a program of its own.
 namespace kavela::test {
@@ -323,9 +325,39 @@ TEST_F(SeasonOfThree, ChartsSayWhatTheyDraw) {
     EXPECT_EQ(headToHeadChart(season, 0, 1).rows.size(), 1U);
 }
 
+TEST_F(SeasonOfThree, AthletesAreHeldAgainstOneAnotherBesideTheirExplanations) {
+    const Season season = seasonOf(data());
+    const ComparisonChart compared = comparisonChart(season, "Final");
+    ASSERT_EQ(compared.lines.size(), 2U);
+    const double mill = 100 * (90.5 / 90 - 1);
+    EXPECT_NEAR(compared.lines[0].percent.value(), mill / 2, Close) << "she won abroad";
+    ASSERT_EQ(compared.lines[0].years.size(), 1U);
+    EXPECT_EQ(compared.lines[0].years[0].runs, 2U);
+    EXPECT_NEAR(compared.lines[0].years[0].percent, mill / 2, Close);
+    EXPECT_THAT(compared.sentence, HasSubstr("(Final): BELL Anna, 0.3 % (median of 2)"));
+    for (const char* const id : {"median/Anna Bell/Final", "median/Anna Bell/Final/2025"})
+        EXPECT_NEAR(explainSeason(season, m_facts, id).value().value, mill / 2, Close) << id;
+    EXPECT_FALSE(explainSeason(season, m_facts, "median/Anna Bell/Final/2024"));
+    EXPECT_FALSE(explainSeason(season, m_facts, "median/Anna Bell"));
+    const SeasonIntervalChart medals = raceRateChart(season, RaceRate::Medals);
+    EXPECT_EQ(medals.rows[0].value, 100.0);
+    EXPECT_THAT(medals.sentence, HasSubstr("BELL Anna, 2 of 2 ("));
+    EXPECT_THAT(pairChart(season, RacePair::Heats).sentence, HasSubstr("Too few"));
+}
+
+TEST(PlaceRanges, LeaveOneInTwentyOutAtEitherEnd) {
+    const std::vector<double> even(20, 0.05);
+    EXPECT_EQ(placeRange(even).low, 2) << "the first alone has just 5 %";
+    EXPECT_EQ(placeRange(std::vector<double>{0.97, 0.02, 0.01}), (Interval{1, 1}));
+    EXPECT_EQ(placeRange(std::vector<double>{0.04, 0.9, 0.06}), (Interval{2, 3}));
+    EXPECT_THROW((void)placeRange({}), std::invalid_argument);
+}
+
 TEST_F(SeasonOfThree, FewFiguresOfATeamAloneAreItsWords) {
     const auto lines = seasonFigures(m_team, "Anna Bell", "WK1").lines();
     ASSERT_EQ(lines.size(), 3U);
+    EXPECT_THAT(seasonFigures(m_team, "Anna Bell", "WK1").ids("BELL Anna"),
+                ElementsAre("median/BELL Anna/Final", "medal/BELL Anna", "final/BELL Anna"));
     EXPECT_EQ(lines[0], "0.0 % behind the winner, Final (median of 1)");
     EXPECT_THAT(lines[1], HasSubstr("medals 2 of 2 ("));
     EXPECT_THAT(lines[2], HasSubstr("finals 2 of 2 ("));

@@ -24,6 +24,7 @@ constexpr double BareWidth = 9;
 constexpr double Headroom = 1.12;  ///< of the height
 constexpr double LongestName = 96; ///< pixels that a name which stands upright may take
 constexpr double NarrowestPatch = 20;
+constexpr float ChosenOpacity = 0.18F;
 constexpr double BackdropOpacity = 0.22; ///< the intervals stay what is seen first
 
 SeriesStyle styleOf(const IntervalMark& mark, const QPalette& palette) {
@@ -49,6 +50,7 @@ IntervalChart::IntervalChart(QWidget* parent) : ChartFrame(parent) {
     new PaintedLayer(canvas(), "background",
                      [this](QCPPainter& painter) { paintBackdrop(painter); });
     new PaintedLayer(canvas(), "grid", [this](QCPPainter& painter) {
+        paintChosen(painter);
         paintSections(painter);
         paintGroups(painter);
     });
@@ -61,10 +63,19 @@ void IntervalChart::show(IntervalChartContent content) {
         fit();
     }
     leaveCursor();
+    m_chosen.reset(); // it was a place among the marks from before
     m_content = std::move(content);
     setAccessibleName(m_content.title);
     setAccessibleDescription(m_content.subtitle);
     invalidate();
+}
+
+void IntervalChart::showChosen(std::optional<std::size_t> mark) {
+    const auto chosen = mark && *mark < m_content.marks.size() ? mark : std::nullopt;
+    if (m_chosen == chosen)
+        return;
+    m_chosen = chosen;
+    canvas().replot(QCustomPlot::rpQueuedReplot);
 }
 
 QString IntervalChart::emptyReason() const {
@@ -152,6 +163,17 @@ bool IntervalChart::isInView(std::size_t mark) const {
 
 QPointF IntervalChart::placeOf(std::size_t mark) const {
     return canvas().toPixel(static_cast<double>(mark + 1), m_content.marks.at(mark).value);
+}
+
+void IntervalChart::paintChosen(QCPPainter& painter) const {
+    if (!m_chosen || !isInView(*m_chosen))
+        return;
+    const QRectF plot = canvas().axisRect()->rect();
+    const double room = pixelsOfMark();
+    const QRectF column(pixelOf(*m_chosen) - room / 2, plot.top(), room, plot.height());
+    QColor ground = palette().color(QPalette::Highlight);
+    ground.setAlphaF(ChosenOpacity);
+    painter.fillRect(column.intersected(plot), ground);
 }
 
 void IntervalChart::paintMarks(QCPPainter& painter) const {

@@ -69,6 +69,9 @@ public:
     [[nodiscard]] std::optional<std::size_t> markAt(const QPointF& position) const;
     /// The mark at which the cursor stands.
     [[nodiscard]] std::optional<std::size_t> current() const { return m_current; }
+    /// Marks the figure that is chosen elsewhere, as in a table; none where there is none.
+    void showChosen(std::optional<std::size_t> mark);
+    [[nodiscard]] std::optional<std::size_t> chosen() const { return m_chosen; }
     /// Where the figure of a mark stands in the widget.
     [[nodiscard]] QPointF placeOf(std::size_t mark) const;
     /// What the read-out says of a mark.
@@ -93,6 +96,7 @@ private:
     [[nodiscard]] double pixelOf(std::size_t mark) const;
     [[nodiscard]] bool isInView(std::size_t mark) const;
     void paintMarks(QCPPainter& painter) const;
+    void paintChosen(QCPPainter& painter) const;
     void paintMark(QCPPainter& painter, std::size_t mark) const;
     void paintBackdrop(QCPPainter& painter) const;
     void paintSections(QCPPainter& painter) const;
@@ -105,6 +109,7 @@ private:
 
     IntervalChartContent m_content;
     std::optional<std::size_t> m_current;
+    std::optional<std::size_t> m_chosen;
 };
 
 } // namespace kavela::desktop

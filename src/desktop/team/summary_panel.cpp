@@ -62,6 +62,8 @@ QString countedYears(const mtCatsStruct& category) {
 
 SummaryPanel::SummaryPanel(QWidget* parent)
     : QWidget(parent),
+      m_seasonTitle(new QLabel(tr("Over the seasons"))),
+      m_season(label("season", false)),
       m_who(label("who", true)),
       m_summary(label("summary", false)),
       m_unplaced(label("unplaced", true)),
@@ -86,12 +88,20 @@ SummaryPanel::SummaryPanel(QWidget* parent)
     column->addWidget(m_label);
     column->addWidget(m_counts);
     column->addWidget(m_seasons);
+    column->addSpacing(theme::LargeSpacing);
+    m_seasonTitle->setFont(theme::titleFont(*this));
+    column->addWidget(m_seasonTitle);
+    column->addWidget(m_season);
+    m_seasonTitle->hide();
+    m_season->hide();
     column->addStretch(1);
     QFont bold = font();
     bold.setBold(true);
     m_label->setFont(bold);
     setMinimumWidth(160);
     answerWhy(m_label, [this](const QPoint&) { return m_why; });
+    m_season->setFocusPolicy(Qt::TabFocus); // the keyboard asks it why
+    answerWhy(m_season, [this](const QPoint& at) { return whySeasonAt(at); });
     answerWhy(m_counts, [this](const QPoint& at) { return whyCountAt(at); });
 }
 
@@ -102,6 +112,23 @@ std::optional<Reason> SummaryPanel::whyCountAt(const QPoint& at) const {
     const auto counts = static_cast<int>(m_why->parts.size());
     const int line = std::clamp(at.y() * counts / std::max(1, m_counts->height()), 0, counts - 1);
     return m_why->parts[static_cast<std::size_t>(line)];
+}
+
+/// Lines that are broken are a line more on the screen: near enough to find the number.
+std::optional<Reason> SummaryPanel::whySeasonAt(const QPoint& at) const {
+    const auto lines = static_cast<int>(m_athleteSeason.lines.size());
+    if (lines == 0)
+        return std::nullopt;
+    const int line =
+        at.y() < 0 ? 0 : std::clamp(at.y() * lines / std::max(1, m_season->height()), 0, lines - 1);
+    return m_athleteSeason.why(static_cast<std::size_t>(line));
+}
+
+void SummaryPanel::showSeason(const AthleteSeason& season) {
+    m_athleteSeason = season;
+    m_season->setText(season.lines.join('\n'));
+    m_seasonTitle->setVisible(!season.lines.isEmpty());
+    m_season->setVisible(!season.lines.isEmpty());
 }
 
 void SummaryPanel::show(const myTeamStruct* athlete, const std::string& category) {

@@ -53,6 +53,8 @@ void makeTeamMenu(TeamWindow& window) {
     menu->addAction(tr("Where the athlete &loses time…"),
                     QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_L), &window,
                     [&window] { window.requestLosses(); });
+    menu->addAction(tr("S&eason of the athlete"), QKeySequence(Qt::Key_F6), &window,
+                    [&window] { window.requestSeason(); });
     menu->addAction(tr("Compute all a&verages again"), &window,
                     [&window] { window.document().recomputeAllAverages(); });
 }

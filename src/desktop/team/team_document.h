@@ -28,6 +28,8 @@ public:
     /// The same under a name that is free in a folder.
     void createNew(const QString& folder, QWidget* over);
 
+    /// The team as it is now, for work beside the window; it never changes.
+    [[nodiscard]] const std::shared_ptr<const myTeamToSaveStruct>& team() const { return shared(); }
     [[nodiscard]] const std::vector<myTeamStruct>& athletes() const { return value().realMyTeam; }
 
     /// Edits who an athlete is.

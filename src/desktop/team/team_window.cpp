@@ -7,6 +7,7 @@
 #include "desktop/shell/window_place.h"
 #include "desktop/shell/workspace.h"
 #include "desktop/team/athlete_panel.h"
+#include "desktop/team/athlete_season.h"
 #include "desktop/team/charts/chart_tabs.h"
 #include "desktop/team/results_view.h"
 #include "desktop/team/summary_panel.h"
@@ -107,11 +108,41 @@ void TeamWindow::showFigures() {
                                            ? &m_document->athletes()[*athlete]
                                            : nullptr;
     m_summary->show(record, m_results->category());
+    showSeason();
     m_charts->setVisible(m_results->seasons().results() != nullptr);
     if (!m_document->path().isEmpty())
         m_charts->setFolder(QFileInfo(m_document->path()).path());
     m_charts->show(record ? QString::fromStdString(record->name) : QString(),
                    m_results->seasons().results(), m_results->place());
+}
+
+/// The figures are those of all athletes together, which takes a moment.
+void TeamWindow::showSeason() {
+    const auto athlete = m_results->athlete();
+    const bool isKnown =
+        athlete && *athlete < m_document->athletes().size() && m_results->seasons().results();
+    const SeasonAsked asked =
+        isKnown ? SeasonAsked{m_document->team(), m_document->athletes()[*athlete].name,
+                              m_results->category()}
+                : SeasonAsked();
+    if (asked == m_asked)
+        return; // only another race was chosen
+    const bool isSameAthlete =
+        asked.athlete == m_asked.athlete && asked.category == m_asked.category;
+    m_asked = asked;
+    if (!isSameAthlete)
+        m_summary->showSeason({}); // nobody's figures stand under another name
+    if (!isKnown)
+        return;
+    m_work.run([asked] { return athleteSeason(*asked.team, asked.athlete, asked.category); },
+               [this, asked](const AthleteSeason& season) {
+                   if (asked == m_asked)
+                       m_summary->showSeason(season);
+               },
+               {.failed = [this](const std::exception_ptr& fault) {
+                   workspace().log()(messageOf(fault));
+                   m_summary->showSeason({});
+               }});
 }
 
 void TeamWindow::tell(const std::string& text) {
@@ -129,6 +160,17 @@ void TeamWindow::requestLosses() {
     if (const auto athlete = m_athletes->athlete())
         emit lossesRequested(QString::fromStdString(document().athletes()[*athlete].name),
                              document().path());
+}
+
+/// The window of seasons reads the file.
+void TeamWindow::requestSeason() {
+    const auto athlete = m_athletes->athlete();
+    if (!athlete)
+        return;
+    whenSaved([this, name = QString::fromStdString(document().athletes()[*athlete].name),
+               category = QString::fromStdString(m_results->category())] {
+        emit seasonRequested(name, category, document().path());
+    });
 }
 
 void TeamWindow::askForAthlete() {

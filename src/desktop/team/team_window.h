@@ -1,9 +1,11 @@
 #pragma once
 
+#include "desktop/shell/background_work.h"
 #include "desktop/shell/tool_window.h"
 #include "desktop/team/team_document.h"
 
 #include <memory>
+#include <string>
 
 namespace kavela::desktop {
 
@@ -46,6 +48,10 @@ public:
 
     /// Asks for the season of the chosen athlete's losses.
     void requestLosses();
+    /// Asks for the chosen athlete's season, once what is typed is in the file.
+    void requestSeason();
+    /// What of a season's figures is known from the team alone is being computed.
+    [[nodiscard]] bool isComputingSeason() const { return m_work.isRunning(); }
     void askForAthlete();
     void askForResults();
     void previewCategorization();
@@ -54,6 +60,8 @@ public:
 signals:
     /// Where an athlete of the team loses time is to be shown.
     void lossesRequested(const QString& athlete, const QString& teamFile);
+    /// How an athlete stands over the seasons is to be shown.
+    void seasonRequested(const QString& athlete, const QString& category, const QString& teamFile);
 
 protected:
     void takeFiles(const QStringList& paths) override;
@@ -64,17 +72,29 @@ private:
     void connectParts();
     void showAthlete();
     void showFigures();
+    void showSeason();
     void tell(const std::string& text);
     void tellChartNotSaved(const QString& path, const QString& reason);
     void takeOverList(const QString& path);
     void takeOverSplitFile(const QString& path);
     void apply(TakeOverDialog& dialog);
 
+    /// Whose season, from which team.
+    struct SeasonAsked {
+        std::shared_ptr<const myTeamToSaveStruct> team;
+        std::string athlete;
+        std::string category;
+
+        friend bool operator==(const SeasonAsked&, const SeasonAsked&) = default;
+    };
+
     std::unique_ptr<TeamDocument> m_document;
     AthletePanel* m_athletes = nullptr;
     ResultsView* m_results = nullptr;
     SummaryPanel* m_summary = nullptr;
     ChartTabs* m_charts = nullptr;
+    SeasonAsked m_asked; ///< whose figures are shown, or being computed
+    BackgroundWork m_work;
 };
 
 } // namespace kavela::desktop
