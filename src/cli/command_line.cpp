@@ -42,6 +42,7 @@ int run(int argc, char** argv, const char* version, const Painting* painting) {
     addFacts(program, status);
     addLosses(program, status, painting);
     addPenalties(program, status);
+    addFetch(program, status, painting);
     addDemo(program, status, painting);
     if (const auto ended = call.run(argc, argv))
         return *ended;

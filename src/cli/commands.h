@@ -25,6 +25,7 @@ void addFind(Command program, int& status);
 void addFacts(Command program, int& status);
 void addLosses(Command program, int& status, const Painting* painting);
 void addPenalties(Command program, int& status);
+void addFetch(Command program, int& status, const Painting* painting);
 void addDemo(Command program, int& status, const Painting* painting);
 
 } // namespace kavela::cli

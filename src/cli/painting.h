@@ -17,6 +17,14 @@
 
 namespace kavela::cli {
 
+/// What is fetched by a call, and how.
+struct FilmFetchCall {
+    std::string source;     ///< the file that tells where from
+    std::string user;       ///< empty where the server asks for none
+    bool showsOnly = false; ///< nothing is to be fetched
+    bool isAgreed = false;  ///< nobody is asked
+};
+
 /// What commands do with libraries that take longer to load than a table takes to print: those that
 /// paint, make films and keep preferences. `kavela` does without them; a command that needs this
 /// asks for it with `neededIf` before it prints or writes anything, and `kavela-paint` takes over.
@@ -57,6 +65,10 @@ public:
     /// that is there already stays. Returns the exit status; throws FileError when a film cannot be
     /// written.
     [[nodiscard]] virtual int writeSeasonFilms(const std::filesystem::path& folder) const = 0;
+
+    /// Prints what would be fetched from a source, and fetches it where that is wanted. Returns the
+    /// exit status.
+    [[nodiscard]] virtual int fetchFilms(const FilmFetchCall& call) const = 0;
 };
 
 /// Thrown by a command of a program without painting: the call is for `kavela-paint`.

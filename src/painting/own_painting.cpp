@@ -1,5 +1,6 @@
 #include "painting/own_painting.h"
 
+#include "painting/film_fetch.h"
 #include "painting/offscreen_application.h"
 #include "painting/report_files.h"
 #include "painting/season_film_files.h"
@@ -58,6 +59,10 @@ bool OwnPainting::isAthletePageWritten(const FactStore& facts, const SeasonLossQ
 
 int OwnPainting::writeSeasonFilms(const fs::path& folder) const {
     return painting::writeSeasonFilms(folder);
+}
+
+int OwnPainting::fetchFilms(const cli::FilmFetchCall& call) const {
+    return painting::fetchFilms(call);
 }
 
 } // namespace kavela::painting

@@ -20,6 +20,7 @@ public:
     [[nodiscard]] bool isAthletePageWritten(const FactStore& facts, const SeasonLossQuery& query,
                                             const std::filesystem::path& folder) const override;
     [[nodiscard]] int writeSeasonFilms(const std::filesystem::path& folder) const override;
+    [[nodiscard]] int fetchFilms(const cli::FilmFetchCall& call) const override;
 };
 
 } // namespace kavela::painting
