@@ -2,6 +2,7 @@
 
 #include "common/error.h"
 #include "desktop/cross/cross_window.h"
+#include "desktop/fetch/fetch_window.h"
 #include "desktop/find/find_window.h"
 #include "desktop/losses/losses_window.h"
 #include "desktop/motion/motion_window.h"
@@ -153,7 +154,7 @@ void Desktop::choose(const ToolKind& tool) {
         return;
     }
     if (tool.choice == ToolKind::Choice::None) {
-        openFind({});
+        tool.opens == OpensAs::Fetch ? openFetch() : openFind({});
         return;
     }
     if (tool.choice == ToolKind::Choice::FilesOrFolder) {
@@ -500,6 +501,15 @@ void Desktop::openFind(const QStringList& paths) {
     }
     bringToFront(*window);
     window->searchAlso(paths);
+}
+
+void Desktop::openFetch() {
+    FetchWindow* window = windowsOf<FetchWindow>().value(0);
+    if (!window) {
+        window = new FetchWindow(m_workspace);
+        show(window);
+    }
+    bringToFront(*window);
 }
 
 void Desktop::openPenalties(const QStringList& paths) {

@@ -29,6 +29,7 @@ enum class OpensAs {
     Losses,      ///< split files and folders, where the coach asks for it: none is known by content
     ResultsList, ///< official results: taken into a race
     Penalties,   ///< split files and folders, where the coach asks for it: none is known by content
+    Fetch,       ///< films that are fetched, which opens sources and lists of its own
     NotReady
 };
 
