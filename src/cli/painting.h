@@ -18,6 +18,14 @@
 
 namespace kavela::cli {
 
+/// What is fetched by a call, and how.
+struct FilmFetchCall {
+    std::string source;     ///< the file that tells where from
+    std::string user;       ///< empty where the server asks for none
+    bool showsOnly = false; ///< nothing is to be fetched
+    bool isAgreed = false;  ///< nobody is asked
+};
+
 /// What commands do with libraries that take longer to load than a table takes to print: those that
 /// paint, make films and keep preferences. `kavela` does without them; a command that needs this
 /// asks for it with `neededIf` before it prints or writes anything, and `kavela-paint` takes over.
@@ -70,6 +78,10 @@ public:
     /// after a message where that is not 0.
     [[nodiscard]] virtual int composeFilm(const std::filesystem::path& job,
                                           const std::filesystem::path& output) const = 0;
+
+    /// Prints what would be fetched from a source, and fetches it where that is wanted. Returns the
+    /// exit status.
+    [[nodiscard]] virtual int fetchFilms(const FilmFetchCall& call) const = 0;
 };
 
 /// Thrown by a command of a program without painting: the call is for `kavela-paint`.

@@ -2,6 +2,7 @@
 
 #include "common/error.h"
 #include "desktop/cross/cross_window.h"
+#include "desktop/fetch/fetch_window.h"
 #include "desktop/motion/motion_window.h"
 #include "desktop/planning/online/online_planning.h"
 #include "desktop/planning/planning_window.h"
@@ -419,6 +420,15 @@ void Desktop::openRecordings(const QStringList& paths) {
     }
     bringToFront(*window);
     window->open(paths);
+}
+
+void Desktop::openFetch() {
+    FetchWindow* window = windowsOf<FetchWindow>().value(0);
+    if (!window) {
+        window = new FetchWindow(m_workspace);
+        show(window);
+    }
+    bringToFront(*window);
 }
 
 void Desktop::showPlace(const Place& place) {

@@ -77,6 +77,8 @@ public:
     void openRecordings(const QStringList& paths);
     /// Brings the search to the front; it searches these files and folders too.
     void openFind(const QStringList& paths) { m_analysis.openFind(paths); }
+    /// Brings the window that fetches films to the front.
+    void openFetch();
     /// Shows the penalties of split files, and of folders with all below them, in one window; the
     /// window that has just these comes to the front.
     void openPenalties(const QStringList& paths) { m_analysis.openPenalties(paths); }

@@ -30,6 +30,7 @@ enum class OpensAs {
     ResultsList, ///< any list of results, as text or a spreadsheet
     Penalties,   ///< split files and folders, where the coach asks for it: none is known by content
     Season,      ///< a team with its races, where the coach asks for it
+    Fetch,       ///< films that are fetched, which opens sources and lists of its own
     NotReady
 };
 

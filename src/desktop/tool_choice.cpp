@@ -20,6 +20,8 @@ void ToolChoice::choose(const ToolKind& tool) const {
             m_program.openTables({});
         else if (tool.opens == OpensAs::Season)
             m_program.openSeason({});
+        else if (tool.opens == OpensAs::Fetch)
+            m_program.openFetch();
         else
             m_program.openFind({});
         return;

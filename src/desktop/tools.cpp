@@ -1,6 +1,7 @@
 #include "desktop/tools.h"
 
 #include "desktop/cross/cross_window.h"
+#include "desktop/fetch/fetch_window.h"
 #include "desktop/find/find_window.h"
 #include "desktop/losses/losses_window.h"
 #include "desktop/motion/motion_window.h"
@@ -157,6 +158,14 @@ std::vector<ToolKind> makeTools() {
          Choice::None,
          {tr("Open a team"), tr("Teams"), "kvteam", {}},
          makeReader<SeasonWindow>},
+        {"fetch",
+         OpensAs::Fetch,
+         tr("Fetch films"),
+         tr("The films of a race from a server, by the bibs of a start list."),
+         "fetch",
+         Choice::None,
+         {tr("Open a source of films"), tr("Sources of films"), "json", {}},
+         makeReader<FetchWindow>},
         {"testsession",
          OpensAs::TestSession,
          tr("Test session"),

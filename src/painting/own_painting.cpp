@@ -1,6 +1,7 @@
 #include "painting/own_painting.h"
 
 #include "painting/composed_film_file.h"
+#include "painting/film_fetch.h"
 #include "painting/offscreen_application.h"
 #include "painting/report_files.h"
 #include "painting/season_film_files.h"
@@ -74,6 +75,10 @@ int OwnPainting::writeSeasonFilms(const fs::path& folder) const {
 
 int OwnPainting::composeFilm(const fs::path& job, const fs::path& output) const {
     return painting::composeFilm(job, output);
+}
+
+int OwnPainting::fetchFilms(const cli::FilmFetchCall& call) const {
+    return painting::fetchFilms(call);
 }
 
 } // namespace kavela::painting

@@ -24,6 +24,7 @@ public:
     [[nodiscard]] int writeSeasonFilms(const std::filesystem::path& folder) const override;
     [[nodiscard]] int composeFilm(const std::filesystem::path& job,
                                   const std::filesystem::path& output) const override;
+    [[nodiscard]] int fetchFilms(const cli::FilmFetchCall& call) const override;
 };
 
 } // namespace kavela::painting
