@@ -3,6 +3,7 @@
 #include "common/error.h"
 #include "desktop/cross/cross_window.h"
 #include "desktop/find/find_window.h"
+#include "desktop/folder/films_window.h"
 #include "desktop/losses/losses_window.h"
 #include "desktop/motion/motion_window.h"
 #include "desktop/penalties/penalties_window.h"
@@ -297,6 +298,10 @@ bool Desktop::openIn(const ToolKind& tool, const QString& path) {
         openFind({path});
         return true;
     }
+    if (tool.opens == OpensAs::Films) {
+        openFilms(path);
+        return true;
+    }
     if (tool.opens == OpensAs::FolderOfFilms)
         return openTaking(path) != nullptr;
     if (tool.opens == OpensAs::Cross)
@@ -500,6 +505,23 @@ void Desktop::openFind(const QStringList& paths) {
     }
     bringToFront(*window);
     window->searchAlso(paths);
+}
+
+void Desktop::openFilms(const QString& path) {
+    const QString folder =
+        QFileInfo(path).isDir() ? path : QFileInfo(path).absolutePath(); // of a film
+    for (FilmsWindow* const window : windowsOf<FilmsWindow>())
+        if (isSameFile(window->shelf().folder(), folder)) {
+            (void)window->open(path); // shows the film
+            bringToFront(*window);
+            return;
+        }
+    auto* const window = new FilmsWindow(m_workspace);
+    connect(window, &FilmsWindow::pathsChanged, this, &Desktop::rememberSession);
+    if (window->open(path))
+        show(window);
+    else
+        delete window;
 }
 
 void Desktop::openPenalties(const QStringList& paths) {

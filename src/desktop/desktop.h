@@ -74,6 +74,9 @@ public:
     void openRecordings(const QStringList& paths);
     /// Brings the search to the front; it searches these files and folders too.
     void openFind(const QStringList& paths);
+    /// Shows the films of a folder, or of a film's folder with that film in front; the window that
+    /// has the folder comes to the front.
+    void openFilms(const QString& path);
     /// Shows the penalties of split files, and of folders with all below them, in one window; the
     /// window that has just these comes to the front.
     void openPenalties(const QStringList& paths);

@@ -46,6 +46,16 @@ FilmBrowser::FilmBrowser(FilmShelf& shelf, ThumbnailStore& looks, QWidget* paren
     showFilms();
 }
 
+/// The pages report to this while they are taken apart.
+FilmBrowser::~FilmBrowser() {
+    m_filter->disconnect(this);
+    m_pages->disconnect(this);
+    m_list->disconnect(this);
+    m_list->selectionModel()->disconnect(this);
+    m_tiles->disconnect(this);
+    m_tagList->disconnect(this);
+}
+
 void FilmBrowser::makePages(ThumbnailStore& looks) {
     m_list = new ColumnTable(m_films, "filmList");
     m_list->keepOneChosen();

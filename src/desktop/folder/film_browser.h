@@ -26,6 +26,7 @@ public:
     enum Page { List, Tiles, Tags };
 
     FilmBrowser(FilmShelf& shelf, ThumbnailStore& looks, QWidget* parent = nullptr);
+    ~FilmBrowser() override;
 
     [[nodiscard]] Page page() const;
     void setPage(Page page);

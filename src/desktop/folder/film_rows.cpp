@@ -27,16 +27,23 @@ QString crewOf(const ListedFilm& film) {
     return joined(film.names);
 }
 
-Column<FilmRow, QString> filmTextColumn(const QString& title,
-                                        std::function<QString(const FilmRow&)> told) {
+Column<FilmRow, QString> filmColumn(const QString& title,
+                                    std::function<Cell(const FilmRow&)> show) {
     Column<FilmRow, QString> column;
     column.title = title;
-    column.show = [told = std::move(told)](const FilmRow& row) { return Cell{told(row)}; };
+    column.show = std::move(show);
+    return column;
+}
+
+Column<TagRow, QString> tagColumn(const QString& title, std::function<Cell(const TagRow&)> show) {
+    Column<TagRow, QString> column;
+    column.title = title;
+    column.show = std::move(show);
     return column;
 }
 
 Cell filmNameCell(const FilmRow& row) {
-    Cell cell{.text = fileNameOf(row.film)};
+    Cell cell{fileNameOf(row.film)};
     if (!row.fault.isEmpty()) {
         cell.look = Cell::Look::Warning;
         cell.tip = row.fault;
@@ -45,9 +52,44 @@ Cell filmNameCell(const FilmRow& row) {
 }
 
 Cell watchedCell(const FilmRow& row) {
-    return {.text = row.isWatched ? QStringLiteral("●") : QString(),
-            .sortValue = row.isWatched ? 1.0 : 0.0,
-            .tip = row.isWatched ? filmsText("Watched: 80 % of it was shown") : QString()};
+    Cell cell;
+    cell.sortValue = row.isWatched ? 1.0 : 0.0;
+    if (row.isWatched) {
+        cell.text = QStringLiteral("●");
+        cell.tip = filmsText("Watched: 80 % of it was shown");
+    }
+    return cell;
+}
+
+Cell bibCell(const FilmRow& row) {
+    Cell cell;
+    if (row.film.bib) {
+        cell.text = QString::number(*row.film.bib);
+        cell.number = *row.film.bib;
+    }
+    return cell;
+}
+
+Cell lengthCell(const FilmRow& row) {
+    Cell cell;
+    if (row.seconds)
+        cell.text = lengthText(*row.seconds);
+    cell.number = row.seconds;
+    return cell;
+}
+
+Cell tagNameCell(const TagRow& row) {
+    Cell cell{qtText(row.tag.name)};
+    if (row.tag.isOfSplitFile)
+        cell.tip = filmsText("Of the split file: split taking edits it");
+    return cell;
+}
+
+Cell momentCell(const TagRow& row) {
+    const double seconds = row.tag.moment.seconds();
+    Cell cell{lengthText(std::max(seconds, 0.0))};
+    cell.number = seconds;
+    return cell;
 }
 
 } // namespace
@@ -77,55 +119,40 @@ QString detailsOf(const FilmRow& row) {
 }
 
 ColumnModel<FilmRow, QString>::Columns filmColumns() {
-    using FilmColumn = Column<FilmRow, QString>;
-    FilmColumn bib{.title = filmsText("Bib"),
-                   .kind = ColumnKind::Number,
-                   .show = [](const FilmRow& row) {
-                       return row.film.bib ? Cell{.text = QString::number(*row.film.bib),
-                                                  .number = *row.film.bib}
-                                           : Cell{};
-                   }};
-    FilmColumn length{.title = filmsText("Length"),
-                      .tip = filmsText("Minutes and seconds"),
-                      .kind = ColumnKind::Number,
-                      .show = [](const FilmRow& row) {
-                          return row.seconds
-                                     ? Cell{.text = lengthText(*row.seconds), .number = row.seconds}
-                                     : Cell{};
-                      }};
-    return {{.title = QStringLiteral("●"), .tip = filmsText("Watched"), .show = watchedCell},
-            {.title = filmsText("Film"), .show = filmNameCell},
-            filmTextColumn(filmsText("Name"),
-                           [](const FilmRow& row) { return crewOf(row.film); }),
+    const auto text = [](const ListedFilm& film, std::string ListedFilm::* member) {
+        return qtText(film.*member);
+    };
+    auto watched = filmColumn(QStringLiteral("●"), watchedCell);
+    watched.tip = filmsText("Watched");
+    auto bib = filmColumn(filmsText("Bib"), bibCell);
+    bib.kind = ColumnKind::Number;
+    auto length = filmColumn(filmsText("Length"), lengthCell);
+    length.tip = filmsText("Minutes and seconds");
+    length.kind = ColumnKind::Number;
+    return {std::move(watched),
+            filmColumn(filmsText("Film"), filmNameCell),
+            filmColumn(filmsText("Name"), [](const FilmRow& row) { return Cell{crewOf(row.film)}; }),
             std::move(bib),
-            filmTextColumn(filmsText("Category"),
-                           [](const FilmRow& row) { return qtText(row.film.category); }),
-            filmTextColumn(filmsText("Phase"),
-                           [](const FilmRow& row) { return qtText(row.film.phase); }),
+            filmColumn(filmsText("Category"),
+                       [text](const FilmRow& row) {
+                           return Cell{text(row.film, &ListedFilm::category)};
+                       }),
+            filmColumn(filmsText("Phase"),
+                       [text](const FilmRow& row) {
+                           return Cell{text(row.film, &ListedFilm::phase)};
+                       }),
             std::move(length)};
 }
 
 ColumnModel<TagRow, QString>::Columns tagColumns() {
-    using TagColumn = Column<TagRow, QString>;
-    return {{.title = filmsText("Tag"),
-             .show =
-                 [](const TagRow& row) {
-                     return Cell{.text = qtText(row.tag.name),
-                                 .tip = row.tag.isOfSplitFile
-                                            ? filmsText("Of the split file: split taking edits it")
-                                            : QString()};
-                 }},
-            {.title = filmsText("Name"),
-             .show = [](const TagRow& row) { return Cell{.text = row.crew}; }},
-            {.title = filmsText("Film"),
-             .show = [](const TagRow& row) { return Cell{.text = fileNameOf(row.film)}; }},
-            {.title = filmsText("At"),
-             .tip = filmsText("Moment of the film, minutes and seconds"),
-             .kind = ColumnKind::Number,
-             .show = [](const TagRow& row) {
-                 const double seconds = row.tag.moment.seconds();
-                 return Cell{.text = lengthText(std::max(seconds, 0.0)), .number = seconds};
-             }}};
+    auto at = tagColumn(filmsText("At"), momentCell);
+    at.tip = filmsText("Moment of the film, minutes and seconds");
+    at.kind = ColumnKind::Number;
+    return {tagColumn(filmsText("Tag"), tagNameCell),
+            tagColumn(filmsText("Name"), [](const TagRow& row) { return Cell{row.crew}; }),
+            tagColumn(filmsText("Film"),
+                      [](const TagRow& row) { return Cell{fileNameOf(row.film)}; }),
+            std::move(at)};
 }
 
 QString tagKey(const TagRow& row) {
