@@ -82,12 +82,12 @@ private:
 
 /// Which packets of a film make a stretch, by their stamps in ticks of the video.
 struct CutPlan {
-    PacketRecord key;              ///< the first one
-    std::int64_t first = 0;        ///< the first frame that is seen
-    std::int64_t last = 0;         ///< the last one
-    std::int64_t end = 0;          ///< when that one ends
-    PacketRecord lastPacket;       ///< in the order of the file
-    std::size_t packets = 0;       ///< from the first to the last one
+    PacketRecord key;        ///< the first one
+    std::int64_t first = 0;  ///< the first frame that is seen
+    std::int64_t last = 0;   ///< the last one
+    std::int64_t end = 0;    ///< when that one ends
+    PacketRecord lastPacket; ///< in the order of the file
+    std::size_t packets = 0; ///< from the first to the last one
 };
 
 CutPlan planOf(const VideoIndex& index, const FilmStretch& stretch) {

@@ -48,8 +48,7 @@ void goToThird(Demuxer& demuxer) {
     if (!length)
         return;
     const std::int64_t start = demuxer.stream().start_time;
-    const std::int64_t third =
-        (start == AV_NOPTS_VALUE ? 0 : start) + *length / ThumbnailPart;
+    const std::int64_t third = (start == AV_NOPTS_VALUE ? 0 : start) + *length / ThumbnailPart;
     if (!demuxer.seek(nearestKey(demuxer, third)))
         demuxer.rewind();
 }

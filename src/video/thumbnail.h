@@ -10,8 +10,9 @@ namespace kavela {
 
 /// A small picture of a film, and how long it is.
 struct Thumbnail {
-    Picture picture;               ///< without pixels once reading was stopped
-    std::optional<double> seconds; ///< the film's length as its head tells; nothing where it does not
+    Picture picture; ///< without pixels once reading was stopped
+    std::optional<double>
+        seconds; ///< the film's length as its head tells; nothing where it does not
 };
 
 /// The key frame nearest to a third of a film, as large as fits into the box: the boat is in sight

@@ -95,7 +95,8 @@ protected:
         m_window->setAttribute(Qt::WA_DeleteOnClose, false);
         m_window->show();
         EXPECT_TRUE(m_window->open(QString::fromStdString(films().string())));
-        EXPECT_TRUE(QTest::qWaitFor([this] { return !m_window->shelf().isReading(); }, FilmPatience));
+        EXPECT_TRUE(
+            QTest::qWaitFor([this] { return !m_window->shelf().isReading(); }, FilmPatience));
         return *m_window;
     }
     [[nodiscard]] int numberShown() const {
@@ -104,9 +105,7 @@ protected:
     }
     [[nodiscard]] bool comesTo(const QString& film, int number) const {
         return QTest::qWaitFor(
-            [&] {
-                return m_window->stage().films().value(0) == film && numberShown() == number;
-            },
+            [&] { return m_window->stage().films().value(0) == film && numberShown() == number; },
             FilmPatience);
     }
     [[nodiscard]] bool comesToRest() const {
@@ -138,7 +137,10 @@ TEST_F(FilmsWindowTest, FiltersListTilesAndCountAlike) {
     window.browser().filterLine().setText("k1w 12 semi");
     EXPECT_THAT(shown(), ElementsAre("12 Ann Lee K1W Semifinal.mp4"));
     EXPECT_EQ(window.browser().tiles().count(), 1);
-    EXPECT_EQ(window.browser().tiles().textOf(shown().isEmpty() ? QString() : pathOf("12 Ann Lee K1W Semifinal.mp4")).title,
+    EXPECT_EQ(window.browser()
+                  .tiles()
+                  .textOf(shown().isEmpty() ? QString() : pathOf("12 Ann Lee K1W Semifinal.mp4"))
+                  .title,
               "Ann Lee");
     window.browser().filterLine().clear();
     EXPECT_EQ(window.browser().tiles().count(), 3);
@@ -166,12 +168,12 @@ TEST_F(FilmsWindowTest, PlaysOneAfterTheOtherAndNotesThemAsWatched) {
     ASSERT_TRUE(comesTo(pathOf("a.mp4"), 0));
     EXPECT_FALSE(window.stage().deck().isPlaying()) << "choosing does not play";
     window.playing().playChosen();
-    ASSERT_TRUE(QTest::qWaitFor(
-        [&] { return window.stage().films().value(0) == pathOf("b.mp4"); }, FilmPatience));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return window.stage().films().value(0) == pathOf("b.mp4"); },
+                                FilmPatience));
     EXPECT_TRUE(window.shelf().isWatched(pathOf("a.mp4")));
     EXPECT_FALSE(window.shelf().isWatched(pathOf("b.mp4")));
-    ASSERT_TRUE(QTest::qWaitFor([&] { return window.shelf().isWatched(pathOf("b.mp4")); },
-                                FilmPatience));
+    ASSERT_TRUE(
+        QTest::qWaitFor([&] { return window.shelf().isWatched(pathOf("b.mp4")); }, FilmPatience));
     EXPECT_THAT(m_workspace.preferences().array("watchedfiles"),
                 ElementsAre(pathOf("a.mp4").toStdString(), pathOf("b.mp4").toStdString()));
 }
@@ -241,8 +243,7 @@ TEST_F(FilmsWindowTest, TagsByAKeyAndPlaysWhatIsAroundATag) {
     window.browser().setPage(FilmBrowser::Tags);
     window.browser().tags().choose(0);
     window.playing().playChosen();
-    ASSERT_TRUE(
-        QTest::qWaitFor([&] { return window.stage().deck().isPlaying(); }, FilmPatience));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return window.stage().deck().isPlaying(); }, FilmPatience));
     EXPECT_GE(window.stage().deck().position(), 7 - 0.1);
     ASSERT_TRUE(comesToRest());
     EXPECT_NEAR(window.stage().deck().end(), 13, 0.05) << "three seconds behind it";
@@ -319,8 +320,8 @@ TEST_F(FilmsWindowTest, CutsBetweenTheEndsThatWereSetInEitherOrder) {
     EXPECT_FALSE(window.cutting().canCut(FilmCutting::Way::Exact)) << "nothing encodes here";
     const QString target = window.cutting().proposedTarget(FilmCutting::Way::Copy);
     window.cutting().cut(FilmCutting::Way::Copy, target);
-    ASSERT_TRUE(QTest::qWaitFor([&] { return window.shelf().film(target) != nullptr; },
-                                FilmPatience));
+    ASSERT_TRUE(
+        QTest::qWaitFor([&] { return window.shelf().film(target) != nullptr; }, FilmPatience));
     window.browser().choose(target);
     EXPECT_TRUE(comesTo(target, 20)) << "its first frame is the one that was wanted";
 }

@@ -41,7 +41,8 @@ TEST_F(CopyCutTest, BeginsWithExactlyTheWantedFrame) {
         int first;
         int last;
     };
-    // At a key frame, before and behind one, far behind one, with frames reordered and a rate that varies.
+    // At a key frame, before and behind one, far behind one, with frames reordered and a rate that
+    // varies.
     for (const Case& cut : {Case{"short_groups.mp4", 12, 30}, Case{"short_groups.mp4", 35, 60},
                             Case{"h264_50.mp4", 90, 149}, Case{"open_h264.mkv", 40, 80},
                             Case{"rotated.mp4", 20, 60}, Case{"edit_list.mp4", 30, 70}}) {
@@ -55,7 +56,8 @@ TEST_F(CopyCutTest, BeginsWithExactlyTheWantedFrame) {
         for (std::size_t i = 0; i < wanted - 4; ++i)
             ASSERT_EQ(numbers[i], before[static_cast<std::size_t>(cut.first) + i])
                 << cut.clip << " at " << i;
-        EXPECT_EQ(readVideoIndex(m_target)->facts().rotation, readVideoIndex(film)->facts().rotation);
+        EXPECT_EQ(readVideoIndex(m_target)->facts().rotation,
+                  readVideoIndex(film)->facts().rotation);
         fs::remove(m_target);
     }
 }

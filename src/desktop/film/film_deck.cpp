@@ -116,11 +116,10 @@ void FilmDeck::addCamera(const QString& film) {
 std::unique_ptr<OpenedFilm> FilmDeck::opened(const QString& film) {
     return std::make_unique<OpenedFilm>(
         film, m_cache, *this,
-        OpenedFilm::Listener{
-            .picture = [this](std::size_t camera) { takePicture(camera); },
-            .index = [this](std::size_t camera) { takeIndex(camera); },
-            .fault = [this](std::size_t camera,
-                            const QString& message) { fail(camera, message); }});
+        OpenedFilm::Listener{.picture = [this](std::size_t camera) { takePicture(camera); },
+                             .index = [this](std::size_t camera) { takeIndex(camera); },
+                             .fault = [this](std::size_t camera,
+                                             const QString& message) { fail(camera, message); }});
 }
 
 void FilmDeck::openAhead(const QString& film, const FrameRequest& first) {

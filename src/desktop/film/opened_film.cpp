@@ -48,8 +48,10 @@ OpenedFilm::OpenedFilm(const QString& film, std::shared_ptr<FrameCache> cache, Q
     };
     events.onError = [&context, camera = m_camera,
                       tell = listener.fault](const std::string& message) {
-        tellShown(context, camera, [tell, text = QString::fromStdString(message)](
-                                       std::size_t shown) { tell(shown, text); });
+        tellShown(context, camera,
+                  [tell, text = QString::fromStdString(message)](std::size_t shown) {
+                      tell(shown, text);
+                  });
     };
     m_player =
         std::make_shared<ThreadedPlayer>(film.toStdString(), std::move(cache), std::move(events));

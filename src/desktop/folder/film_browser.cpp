@@ -138,8 +138,7 @@ void FilmBrowser::showFilms() {
     for (const ListedFilm& film : m_shelf.films()) {
         rows.push_back(rowOf(film));
         for (std::size_t number = 0; number < film.tags.size(); ++number)
-            tags.push_back(
-                {rows.back().path, joined(film.names), film, film.tags[number], number});
+            tags.push_back({rows.back().path, joined(film.names), film, film.tags[number], number});
     }
     m_films.show(std::move(rows));
     m_tagRows.show(std::move(tags));

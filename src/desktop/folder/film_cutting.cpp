@@ -48,8 +48,8 @@ void FilmCutting::askAndCut(Way way) {
         return;
     // No file is ever replaced: the dialog does not have to ask.
     const QString target = QFileDialog::getSaveFileName(
-        &m_window, tr("Cut into a new film"), proposedTarget(way),
-        tr("Films (*.mp4 *.mov *.m4v)"), nullptr, QFileDialog::DontConfirmOverwrite);
+        &m_window, tr("Cut into a new film"), proposedTarget(way), tr("Films (*.mp4 *.mov *.m4v)"),
+        nullptr, QFileDialog::DontConfirmOverwrite);
     if (!target.isEmpty())
         cut(way, target);
 }

@@ -188,15 +188,17 @@ void FilmPlaying::followState() {
     if (!hasStopped || deck.rate() < 0 || deck.position() < deck.end())
         return;
     // Other films are opened once the deck is done with these.
-    QMetaObject::invokeMethod(this, [this, films = deck.films()] {
-        if (films == m_desk.stage.deck().films() && !m_desk.stage.deck().isPlaying())
-            end();
-    }, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(
+        this,
+        [this, films = deck.films()] {
+            if (films == m_desk.stage.deck().films() && !m_desk.stage.deck().isPlaying())
+                end();
+        },
+        Qt::QueuedConnection);
 }
 
 void FilmPlaying::end() {
-    if (m_desk.workspace.preferences().boolean("autoplaynext") &&
-        m_desk.stage.films().size() == 1)
+    if (m_desk.workspace.preferences().boolean("autoplaynext") && m_desk.stage.films().size() == 1)
         step(1, true);
 }
 

@@ -20,7 +20,8 @@ class TagMode;
 class Workspace;
 
 /// Puts what is chosen in the browser on the stage and plays it, as the preferences say: from the
-/// first mark, by a click, one after the other, of a tag the part around it. Notes what was watched.
+/// first mark, by a click, one after the other, of a tag the part around it. Notes what was
+/// watched.
 class FilmPlaying : public QObject {
     Q_OBJECT
 
@@ -69,8 +70,8 @@ private:
     bool m_isPart = false;               ///< only what is around a tag is played
     bool m_isStarting = false;
     bool m_wasPlaying = false;
-    bool m_isLaid = true;    ///< the films are beside each other at their first marks
-    bool m_isAhead = true;   ///< the next film was opened
+    bool m_isLaid = true;           ///< the films are beside each other at their first marks
+    bool m_isAhead = true;          ///< the next film was opened
     std::vector<ShownPart> m_parts; ///< by camera
 };
 

@@ -119,7 +119,7 @@ QString detailsOf(const FilmRow& row) {
 }
 
 ColumnModel<FilmRow, QString>::Columns filmColumns() {
-    const auto text = [](const ListedFilm& film, std::string ListedFilm::* member) {
+    const auto text = [](const ListedFilm& film, std::string ListedFilm::*member) {
         return qtText(film.*member);
     };
     auto watched = filmColumn(QStringLiteral("●"), watchedCell);
@@ -129,30 +129,28 @@ ColumnModel<FilmRow, QString>::Columns filmColumns() {
     auto length = filmColumn(filmsText("Length"), lengthCell);
     length.tip = filmsText("Minutes and seconds");
     length.kind = ColumnKind::Number;
-    return {std::move(watched),
-            filmColumn(filmsText("Film"), filmNameCell),
-            filmColumn(filmsText("Name"), [](const FilmRow& row) { return Cell{crewOf(row.film)}; }),
-            std::move(bib),
-            filmColumn(filmsText("Category"),
-                       [text](const FilmRow& row) {
-                           return Cell{text(row.film, &ListedFilm::category)};
-                       }),
-            filmColumn(filmsText("Phase"),
-                       [text](const FilmRow& row) {
-                           return Cell{text(row.film, &ListedFilm::phase)};
-                       }),
-            std::move(length)};
+    return {
+        std::move(watched),
+        filmColumn(filmsText("Film"), filmNameCell),
+        filmColumn(filmsText("Name"), [](const FilmRow& row) { return Cell{crewOf(row.film)}; }),
+        std::move(bib),
+        filmColumn(
+            filmsText("Category"),
+            [text](const FilmRow& row) { return Cell{text(row.film, &ListedFilm::category)}; }),
+        filmColumn(filmsText("Phase"),
+                   [text](const FilmRow& row) { return Cell{text(row.film, &ListedFilm::phase)}; }),
+        std::move(length)};
 }
 
 ColumnModel<TagRow, QString>::Columns tagColumns() {
     auto at = tagColumn(filmsText("At"), momentCell);
     at.tip = filmsText("Moment of the film, minutes and seconds");
     at.kind = ColumnKind::Number;
-    return {tagColumn(filmsText("Tag"), tagNameCell),
-            tagColumn(filmsText("Name"), [](const TagRow& row) { return Cell{row.crew}; }),
-            tagColumn(filmsText("Film"),
-                      [](const TagRow& row) { return Cell{fileNameOf(row.film)}; }),
-            std::move(at)};
+    return {
+        tagColumn(filmsText("Tag"), tagNameCell),
+        tagColumn(filmsText("Name"), [](const TagRow& row) { return Cell{row.crew}; }),
+        tagColumn(filmsText("Film"), [](const TagRow& row) { return Cell{fileNameOf(row.film)}; }),
+        std::move(at)};
 }
 
 QString tagKey(const TagRow& row) {

@@ -36,8 +36,7 @@ QString toldFault(const std::exception_ptr& fault) {
 
 } // namespace
 
-FilmShelf::FilmShelf(Workspace& workspace, QWidget& over)
-    : m_workspace(workspace), m_over(&over) {
+FilmShelf::FilmShelf(Workspace& workspace, QWidget& over) : m_workspace(workspace), m_over(&over) {
     connect(&workspace, &Workspace::preferenceChanged, this, [this](const QString& key) {
         if (key == WatchedKey)
             takeWatched();
@@ -78,19 +77,17 @@ void FilmShelf::read() {
     m_reading.cancel();
     m_isReading = true;
     emit readingChanged();
-    m_reading.run(
-        [folder = pathOfFolder(m_folder), pattern = pattern().toStdString()] {
-            return listFilms(folder, pattern);
-        },
-        [this](FilmFolder films) {
-            // What was known stays until it is read again: nothing flickers.
-            if (m_films.films.empty()) {
-                m_films = std::move(films);
-                emit changed();
-            }
-            readMore();
-        },
-        tellingFault());
+    m_reading.run([folder = pathOfFolder(m_folder),
+                   pattern = pattern().toStdString()] { return listFilms(folder, pattern); },
+                  [this](FilmFolder films) {
+                      // What was known stays until it is read again: nothing flickers.
+                      if (m_films.films.empty()) {
+                          m_films = std::move(films);
+                          emit changed();
+                      }
+                      readMore();
+                  },
+                  tellingFault());
 }
 
 void FilmShelf::readMore() {
@@ -116,8 +113,8 @@ void FilmShelf::endReading() {
 }
 
 ListedFilm* FilmShelf::listed(const QString& path) {
-    const auto found = std::ranges::find(m_films.films, fs::path(path.toStdString()),
-                                         &ListedFilm::path);
+    const auto found =
+        std::ranges::find(m_films.films, fs::path(path.toStdString()), &ListedFilm::path);
     return found == m_films.films.end() ? nullptr : &*found;
 }
 
@@ -277,9 +274,8 @@ void FilmShelf::addTag(const QString& path, const FilmTag& tag) {
     ListedFilm* const film = listed(path);
     if (!film)
         return;
-    const auto place = std::ranges::find_if(film->tags, [&](const FilmTag& other) {
-        return orderOf(other.moment, tag.moment) > 0;
-    });
+    const auto place = std::ranges::find_if(
+        film->tags, [&](const FilmTag& other) { return orderOf(other.moment, tag.moment) > 0; });
     film->tags.insert(place, tag);
     emit changed();
     writeTags([film = film->path, tag] { addFilmTag(film, {tag.name, tag.moment}); });
@@ -296,9 +292,7 @@ void FilmShelf::removeTag(const QString& path, const FilmTag& tag) {
     }
     film->tags.erase(found);
     emit changed();
-    writeTags([film = film->path, tag] {
-        (void)removeFilmTag(film, {tag.name, tag.moment});
-    });
+    writeTags([film = film->path, tag] { (void)removeFilmTag(film, {tag.name, tag.moment}); });
 }
 
 /// What is shown goes back to what is in the files where they cannot be written.

@@ -111,8 +111,7 @@ void FilmsActions::makeFilmsMenu(Workspace& workspace) {
     menu->addSeparator();
     const QStringList pages{tr("&List"), tr("&Tiles"), tr("T&ags")};
     for (int page = 0; page < pages.size(); ++page)
-        add(*menu, pages[page],
-            QKeySequence(Qt::ALT | static_cast<Qt::Key>(Qt::Key_1 + page)),
+        add(*menu, pages[page], QKeySequence(Qt::ALT | static_cast<Qt::Key>(Qt::Key_1 + page)),
             [window, page] { window->browser().setPage(static_cast<FilmBrowser::Page>(page)); });
     menu->addSeparator();
     add(*menu, tr("Mark as &watched"), Qt::Key_W, [window] { window->markWatched(true); });

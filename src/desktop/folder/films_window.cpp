@@ -60,10 +60,9 @@ FilmsWindow::~FilmsWindow() {
 
 void FilmsWindow::makeParts() {
     m_browser = new FilmBrowser(m_shelf, m_looks);
-    m_stage = new FilmStage(workspace(), {.state = "filmsState",
-                                          .health = "filmsHealth",
-                                          .typing = "filmsTyping",
-                                          .isQuiet = true});
+    m_stage = new FilmStage(
+        workspace(),
+        {.state = "filmsState", .health = "filmsHealth", .typing = "filmsTyping", .isQuiet = true});
     m_tags = new TagMode(workspace(), m_shelf, *m_stage);
     m_stage->setModes({m_tags});
     m_stage->addBelow(*makeTagBar());
@@ -140,10 +139,8 @@ QStringList FilmsWindow::paths() const {
 bool FilmsWindow::open(const QString& path) {
     const QFileInfo info(path);
     if (!info.exists()) {
-        workspace().showAlert({"", tr("“%1” is not there.")
-                                       .arg(QDir::toNativeSeparators(path))
-                                       .toStdString()},
-                              this);
+        workspace().showAlert(
+            {"", tr("“%1” is not there.").arg(QDir::toNativeSeparators(path)).toStdString()}, this);
         return false;
     }
     m_wanted = info.isDir() ? QString() : info.absoluteFilePath();
@@ -227,9 +224,9 @@ void FilmsWindow::askAndRename() {
     if (films.empty())
         return;
     std::vector<std::string> taken;
-    for (const QString& name : QDir(m_shelf.folder())
-                                   .entryList(QDir::AllEntries | QDir::Hidden | QDir::System |
-                                              QDir::NoDotAndDotDot))
+    for (const QString& name :
+         QDir(m_shelf.folder())
+             .entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot))
         taken.push_back(name.toStdString());
     RenameFilmsDialog dialog(std::move(films), std::move(taken), m_shelf.pattern(), this);
     if (dialog.exec() != QDialog::Accepted)

@@ -35,8 +35,8 @@ public:
     /// Folders opened before, the latest first.
     [[nodiscard]] QStringList recentFolders() const;
 
-    /// Shows what becomes of the chosen films, or of all that are shown where one or none is chosen,
-    /// and renames them.
+    /// Shows what becomes of the chosen films, or of all that are shown where one or none is
+    /// chosen, and renames them.
     void askAndRename();
     void markWatched(bool isWatched);
     /// Typing goes to the filter.

@@ -54,9 +54,10 @@ RenameFilmsDialog::RenameFilmsDialog(std::vector<ListedFilm> films, std::vector<
     m_note->setWordWrap(true);
     m_preview->keepOrder();
     m_preview->stretchAll();
-    auto* const words = new QLabel(tr("How the films are to be called: {name}, {category}, {phase}, "
-                                      "{bib} and {number} stand for what is known of each. Split "
-                                      "files of the folder follow."));
+    auto* const words =
+        new QLabel(tr("How the films are to be called: {name}, {category}, {phase}, "
+                      "{bib} and {number} stand for what is known of each. Split "
+                      "files of the folder follow."));
     words->setWordWrap(true);
     auto* const buttons = new QDialogButtonBox(QDialogButtonBox::Cancel);
     m_rename = buttons->addButton(tr("Rename"), QDialogButtonBox::AcceptRole);
@@ -88,10 +89,8 @@ void RenameFilmsDialog::plan() {
     }
     m_planned.show(planNames(m_films, wanted, m_taken));
     const auto others = std::ranges::count_if(m_planned.rows(), &PlannedName::isOther);
-    const auto stuck =
-        std::ranges::count_if(m_planned.rows(), [](const PlannedName& name) {
-            return !name.fault.empty();
-        });
+    const auto stuck = std::ranges::count_if(
+        m_planned.rows(), [](const PlannedName& name) { return !name.fault.empty(); });
     QString note = tr("%1 of %2 films get another name.").arg(others).arg(m_films.size());
     if (stuck > 0)
         note += ' ' + tr("%1 lack what the pattern asks for.").arg(stuck);

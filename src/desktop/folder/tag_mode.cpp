@@ -78,9 +78,8 @@ std::vector<LineMark> TagMode::marks() const {
         marks.push_back({*m_first, QStringLiteral("["), CutFirstNumber});
     if (m_last)
         marks.push_back({*m_last, QStringLiteral("]"), CutLastNumber});
-    std::ranges::stable_sort(marks, [](const LineMark& a, const LineMark& b) {
-        return orderOf(a.stamp, b.stamp) < 0;
-    });
+    std::ranges::stable_sort(
+        marks, [](const LineMark& a, const LineMark& b) { return orderOf(a.stamp, b.stamp) < 0; });
     return marks;
 }
 
@@ -180,8 +179,7 @@ void TagMode::goToMark(std::size_t number) {
 }
 
 void TagMode::dropMark(std::size_t number, double seconds) {
-    m_stage.whenKnown(seconds, [this, film = m_film,
-                                number](const std::optional<CMTime>& stamp) {
+    m_stage.whenKnown(seconds, [this, film = m_film, number](const std::optional<CMTime>& stamp) {
         if (!stamp || film != m_film)
             return refresh();
         if (number == CutFirstNumber || number == CutLastNumber) {
@@ -195,7 +193,7 @@ void TagMode::dropMark(std::size_t number, double seconds) {
     });
 }
 
-void TagMode::setCutEnd(std::optional<CMTime> TagMode::* end) {
+void TagMode::setCutEnd(std::optional<CMTime> TagMode::*end) {
     if (m_film.isEmpty())
         return m_stage.refuse(tr("There is no film to cut."));
     m_stage.whenMeant([this, end, film = m_film](const PressQueue::Stamps& stamps) {

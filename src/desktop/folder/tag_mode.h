@@ -66,7 +66,7 @@ private:
     [[nodiscard]] std::optional<FilmTag> selectedTag() const;
     void setTag(const QString& name);
     void moveTag(const FilmTag& tag, const CMTime& moment);
-    void setCutEnd(std::optional<CMTime> TagMode::* end);
+    void setCutEnd(std::optional<CMTime> TagMode::*end);
 
     Workspace& m_workspace;
     FilmShelf& m_shelf;

@@ -89,10 +89,10 @@ FilmLook lookAt(const QString& film, const QString& folder, const std::stop_toke
             film.toStdString(), {ThumbnailStore::Box.width(), ThumbnailStore::Box.height()}, stop);
         look.seconds = made.seconds;
         if (made.picture.pixels)
-            look.picture = QImage(made.picture.pixels.get(), made.picture.width,
-                                  made.picture.height, made.picture.bytesPerLine,
-                                  QImage::Format_RGB32)
-                               .copy();
+            look.picture =
+                QImage(made.picture.pixels.get(), made.picture.width, made.picture.height,
+                       made.picture.bytesPerLine, QImage::Format_RGB32)
+                    .copy();
     } catch (const FileError& error) {
         look.fault = QString::fromStdString(error.reason());
     }
@@ -142,8 +142,7 @@ void ThumbnailStore::startNext() {
                 if (generation != m_generation)
                     return;
                 m_running.remove(film);
-                m_looks.insert(
-                    film, {{}, {}, qtText(messageOf(fault))});
+                m_looks.insert(film, {{}, {}, qtText(messageOf(fault))});
                 startNext();
                 emit looked(film);
             }});

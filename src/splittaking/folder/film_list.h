@@ -16,8 +16,8 @@ namespace kavela {
 /// A moment of a film that the coach gave a name.
 struct FilmTag {
     std::string name;
-    CMTime moment;               ///< of this film
-    bool isOfSplitFile = false;  ///< otherwise it was set on the film itself
+    CMTime moment;              ///< of this film
+    bool isOfSplitFile = false; ///< otherwise it was set on the film itself
 
     friend bool operator==(const FilmTag&, const FilmTag&) = default;
 };
@@ -31,11 +31,11 @@ struct ListedFilm {
     std::string phase;
     std::optional<int> bib;
     std::optional<int> number;
-    std::filesystem::path splitFile;    ///< beside it, that has it; empty for none
-    std::optional<CMTime> firstMark;    ///< where its run starts on it
-    std::vector<FilmTag> tags;          ///< in the order of the film
+    std::filesystem::path splitFile; ///< beside it, that has it; empty for none
+    std::optional<CMTime> firstMark; ///< where its run starts on it
+    std::vector<FilmTag> tags;       ///< in the order of the film
     std::uintmax_t bytes = 0;
-    std::int64_t written = 0;           ///< ticks of the disk's clock, to tell contents apart
+    std::int64_t written = 0; ///< ticks of the disk's clock, to tell contents apart
 };
 
 struct FilmFolder {
@@ -53,7 +53,6 @@ struct FilmFolder {
 void addKnownOfFilms(FilmFolder& folder, const std::stop_token& stop = {});
 
 /// Every split file of a folder, in the order of their names.
-[[nodiscard]] std::vector<std::filesystem::path>
-splitFilesOf(const std::filesystem::path& folder);
+[[nodiscard]] std::vector<std::filesystem::path> splitFilesOf(const std::filesystem::path& folder);
 
 } // namespace kavela

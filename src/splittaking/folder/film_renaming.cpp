@@ -150,8 +150,8 @@ void removeNote(const fs::path& folder) {
 }
 
 bool isBareName(const std::string& name) {
-    return !name.empty() && name != "." && name != ".." &&
-           name.find('/') == std::string::npos && name.find('\0') == std::string::npos;
+    return !name.empty() && name != "." && name != ".." && name.find('/') == std::string::npos &&
+           name.find('\0') == std::string::npos;
 }
 
 /// Names that come from a note may say anything.
@@ -165,7 +165,8 @@ void requireBareNames(const fs::path& folder, const FilmRenames& names) {
 void requirePossible(const fs::path& folder, const FilmRenames& names) {
     requireBareNames(folder, names);
     if (isTaken(noteOf(folder)))
-        throw FileError(folder, "an earlier renaming was cut off; it has to be completed or undone");
+        throw FileError(folder,
+                        "an earlier renaming was cut off; it has to be completed or undone");
     std::set<std::string> targets;
     for (const auto& [from, to] : names) {
         if (!isTaken(folder / from))

@@ -28,8 +28,8 @@ using FilmRenames = std::vector<filmrename001>;
 [[nodiscard]] FilmRenames reversed(const FilmRenames& names);
 
 /// The split files of a folder that have one of the films.
-[[nodiscard]] std::vector<std::filesystem::path>
-splitFilesWith(const std::filesystem::path& folder, const FilmRenames& names);
+[[nodiscard]] std::vector<std::filesystem::path> splitFilesWith(const std::filesystem::path& folder,
+                                                                const FilmRenames& names);
 
 /// Renames all of them, or none: what was done before a fault is undone. Throws FileError with what
 /// stood in the way: a name that is taken, a split file of an older release that has one of the
@@ -38,8 +38,7 @@ void renameFilms(const std::filesystem::path& folder, const FilmRenames& names);
 
 /// What was being renamed when the work was cut off; nothing where none was. Throws FileError and
 /// DecodeError for a note that cannot be read.
-[[nodiscard]] std::optional<FilmRenames>
-interruptedRenaming(const std::filesystem::path& folder);
+[[nodiscard]] std::optional<FilmRenames> interruptedRenaming(const std::filesystem::path& folder);
 
 /// Does what is left of it, or takes back what was done, and removes the note. May be called again
 /// after a fault, which is a FileError.

@@ -71,13 +71,12 @@ TEST(WatchedFilms, ForgetTheFirstOnes) {
 }
 
 TEST(FilmNaming, NeverGivesANameTwiceOrOneThatIsTaken) {
-    const std::vector<ListedFilm> films{semifinalOf("a.MOV", {"Ann Lee", "Bea/Fox"}),
-                                        semifinalOf("b.MOV", {"Ann Lee", "Bea/Fox"}),
-                                        semifinalOf("c.mp4", {"Cleo"}),
-                                        semifinalOf("Dora Semifinal.mp4", {"Dora"}),
-                                        semifinalOf("e.mp4", {})};
-    const std::vector<std::string> taken{"a.MOV",  "b.MOV", "c.mp4", "Dora Semifinal.mp4",
-                                         "e.mp4", "CLEO semifinal.MP4"};
+    const std::vector<ListedFilm> films{
+        semifinalOf("a.MOV", {"Ann Lee", "Bea/Fox"}), semifinalOf("b.MOV", {"Ann Lee", "Bea/Fox"}),
+        semifinalOf("c.mp4", {"Cleo"}), semifinalOf("Dora Semifinal.mp4", {"Dora"}),
+        semifinalOf("e.mp4", {})};
+    const std::vector<std::string> taken{
+        "a.MOV", "b.MOV", "c.mp4", "Dora Semifinal.mp4", "e.mp4", "CLEO semifinal.MP4"};
     const auto planned = planNames(films, "{name} { Phase }", taken);
     EXPECT_EQ(planned[0].to, "Ann Lee + Bea-Fox Semifinal.MOV");
     EXPECT_EQ(planned[1].to, "Ann Lee + Bea-Fox Semifinal 2.MOV");
