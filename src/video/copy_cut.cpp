@@ -362,6 +362,22 @@ private:
     bool m_isDone = false;
 };
 
+/// Null once it is stopped, also where that ends in a fault of reading.
+std::shared_ptr<const VideoIndex>
+indexForCut(const fs::path& film, const std::stop_token& stop,
+            const std::function<void(double fraction)>& onProgress) {
+    try {
+        return readVideoIndex(film, stop, [&](const IndexProgress& progress) {
+            if (onProgress)
+                onProgress(progress.fraction * IndexShare);
+        });
+    } catch (const VideoError&) {
+        if (stop.stop_requested())
+            return nullptr;
+        throw;
+    }
+}
+
 } // namespace
 
 bool canCopyInto(const fs::path& target) {
@@ -378,10 +394,7 @@ bool copyStretch(const fs::path& film, const FilmStretch& stretch, const fs::pat
     if (!canCopyInto(target))
         throw FileError(target, "only .mp4, .mov and .m4v can hide what stands before a cut");
     UnfinishedCut unfinished(target);
-    const auto index = readVideoIndex(film, stop, [&](const IndexProgress& progress) {
-        if (onProgress)
-            onProgress(progress.fraction * IndexShare);
-    });
+    const auto index = indexForCut(film, stop, onProgress);
     if (!index)
         return false;
     StretchCopy copy(film, planOf(*index, stretch), target, unfinished.path(), stop);

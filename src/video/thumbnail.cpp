@@ -43,13 +43,23 @@ std::int64_t nearestKey(const Demuxer& demuxer, std::int64_t wanted) {
                                                                    : after->timestamp;
 }
 
+/// Frames are listed by when they are decoded and sought by when they are shown: the stamp of a key
+/// frame itself can lead to the group before.
+std::int64_t reordering(const AVStream& stream) {
+    constexpr int Frames = 4;
+    const AVRational rate = stream.avg_frame_rate;
+    return rate.num > 0 && rate.den > 0
+               ? av_rescale_q(Frames, {rate.den, rate.num}, stream.time_base)
+               : 0;
+}
+
 void goToThird(Demuxer& demuxer) {
     const auto length = ticksLong(demuxer);
     if (!length)
         return;
     const std::int64_t start = demuxer.stream().start_time;
     const std::int64_t third = (start == AV_NOPTS_VALUE ? 0 : start) + *length / ThumbnailPart;
-    if (!demuxer.seek(nearestKey(demuxer, third)))
+    if (!demuxer.seek(nearestKey(demuxer, third) + reordering(demuxer.stream())))
         demuxer.rewind();
 }
 
