@@ -101,7 +101,11 @@ protected:
         run.videoname = {"a.mp4", "b.mp4"};
         run.sectioninfo.times = {10.0};
         run.sectioninfo.cmtimes = {{CMTime{500, 50, 1, 0}, CMTime{700, 50, 1, 0}}};
-        run.customData = {{.videoInt = 1, .tags = {"Roll"}, .cmTimes = {CMTime{50, 50, 1, 0}}}};
+        customData020 roll;
+        roll.videoInt = 1;
+        roll.tags = {"Roll"};
+        roll.cmTimes = {CMTime{50, 50, 1, 0}};
+        run.customData = {roll};
         run.fixcameras = {"c.mp4"};
         splittakerdata031 race;
         race.athletes = {run};
