@@ -3,6 +3,7 @@
 #include "common/error.h"
 #include "desktop/cross/cross_window.h"
 #include "desktop/fetch/fetch_window.h"
+#include "desktop/folder/films_window.h"
 #include "desktop/motion/motion_window.h"
 #include "desktop/planning/online/online_planning.h"
 #include "desktop/planning/planning_window.h"
@@ -255,6 +256,10 @@ bool Desktop::openIn(const ToolKind& tool, const QString& path) {
         openFind({path});
         return true;
     }
+    if (tool.opens == OpensAs::Films) {
+        openFilms(path);
+        return true;
+    }
     if (tool.opens == OpensAs::FolderOfFilms)
         return openTaking(path) != nullptr;
     if (tool.opens == OpensAs::Cross)
@@ -429,6 +434,23 @@ void Desktop::openFetch() {
         show(window);
     }
     bringToFront(*window);
+}
+
+void Desktop::openFilms(const QString& path) {
+    const QString folder =
+        QFileInfo(path).isDir() ? path : QFileInfo(path).absolutePath(); // of a film
+    for (FilmsWindow* const window : windowsOf<FilmsWindow>())
+        if (isSameFile(window->shelf().folder(), folder)) {
+            (void)window->open(path); // shows the film
+            bringToFront(*window);
+            return;
+        }
+    auto* const window = new FilmsWindow(m_workspace);
+    connect(window, &FilmsWindow::pathsChanged, this, &Desktop::rememberSession);
+    if (window->open(path))
+        show(window);
+    else
+        delete window;
 }
 
 void Desktop::showPlace(const Place& place) {

@@ -63,6 +63,8 @@ bool EarlierWork::restoreWindows() const {
             (void)m_program.openTaking(file.path);
         else if (file.kind == "cross")
             (void)m_program.openCross(file.path);
+        else if (file.kind == "films")
+            m_program.openFilms(file.path);
         else if (file.kind == "find")
             searched.append(file.path);
         else if (file.kind == "penalties")

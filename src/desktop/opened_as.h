@@ -28,6 +28,7 @@ enum class OpensAs {
     Find,        ///< the search, which opens no file of its own
     Losses,      ///< split files and folders, where the coach asks for it: none is known by content
     ResultsList, ///< any list of results, as text or a spreadsheet
+    Films,       ///< a folder, where the coach asks for it: by content it is to be timed
     Penalties,   ///< split files and folders, where the coach asks for it: none is known by content
     Season,      ///< a team with its races, where the coach asks for it
     Fetch,       ///< films that are fetched, which opens sources and lists of its own

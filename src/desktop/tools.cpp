@@ -3,6 +3,7 @@
 #include "desktop/cross/cross_window.h"
 #include "desktop/fetch/fetch_window.h"
 #include "desktop/find/find_window.h"
+#include "desktop/folder/films_window.h"
 #include "desktop/losses/losses_window.h"
 #include "desktop/motion/motion_window.h"
 #include "desktop/penalties/penalties_window.h"
@@ -70,6 +71,14 @@ std::vector<ToolKind> makeTools() {
          Choice::Folder,
          {tr("Open a folder of videos"), tr("Split files"), "kvx", {}},
          makeEditor<TakingWindow>},
+        {"films",
+         OpensAs::Films,
+         tr("Films"),
+         tr("A folder of films played, compared in step, tagged, renamed and cut."),
+         "films",
+         Choice::Folder,
+         {tr("Open a folder of films"), tr("Films"), "mp4", {}},
+         makeReader<FilmsWindow>},
         {"cross",
          OpensAs::Cross,
          tr("Kayak cross"),

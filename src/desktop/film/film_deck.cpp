@@ -1,8 +1,9 @@
 #include "desktop/film/film_deck.h"
 
+#include "desktop/film/opened_film.h"
 #include "splittaking/annotations/film_marks.h"
 #include "splittaking/marking.h"
-#include "video/threaded_player.h"
+#include "video/player.h"
 
 #include <chrono>
 #include <thread>
@@ -48,6 +49,14 @@ bool isWithin(const VideoIndex& film, const CMTime& stamp) {
            orderOf(stamp, film.stampOf(film.frameCount() - 1)) <= 0;
 }
 
+/// Asks a player for the frame that is wanted first.
+struct ShowFirst {
+    VideoPlayer& player;
+    void operator()(FrameNumber number) const { player.showFrame(number); }
+    void operator()(const CMTime& stamp) const { player.requestStamp(stamp); }
+    void operator()(double seconds) const { player.requestPosition(seconds); }
+};
+
 } // namespace
 
 FilmDeck::FilmDeck(std::shared_ptr<FrameCache> cache, QObject* parent)
@@ -83,7 +92,8 @@ void FilmDeck::open(const QStringList& films, const QStringList& beside) {
     ++m_generation;
     m_tick.stop();
     m_group.reset();
-    m_players.clear(); // ends their threads
+    m_players.clear();
+    m_opened.clear(); // ends their threads
     m_slots.clear();
     m_shown.clear();
     m_jumps.clear();
@@ -92,6 +102,7 @@ void FilmDeck::open(const QStringList& films, const QStringList& beside) {
     m_beside = films.isEmpty() ? QStringList() : beside;
     for (const QString& film : m_films + m_beside)
         addCamera(film);
+    m_ahead.reset(); // what comes next is another film now
     if (!m_players.empty()) {
         m_group = std::make_unique<CameraGroup>(m_players, cameras());
         jumpWithGroup([](CameraGroup& group) {
@@ -105,53 +116,45 @@ void FilmDeck::open(const QStringList& films, const QStringList& beside) {
 
 void FilmDeck::addCamera(const QString& film) {
     const std::size_t camera = m_slots.size();
-    const int generation = m_generation;
-    auto slot = std::make_shared<CameraSlot>([this, camera, generation] {
-        QMetaObject::invokeMethod(
-            this, [this, camera, generation] { takePicture(camera, generation); },
-            Qt::QueuedConnection);
-    });
-    m_slots.push_back(slot);
+    const bool isAhead = camera == 0 && m_ahead && m_ahead->film() == film;
+    m_opened.push_back(isAhead ? std::move(m_ahead) : opened(film));
+    m_slots.push_back(m_opened.back()->slot());
+    m_players.push_back(m_opened.back()->player());
     if (camera < m_boxes.size())
-        slot->setBox(m_boxes[camera]);
+        m_slots.back()->setBox(m_boxes[camera]);
     m_shown.emplace_back();
     m_jumps.emplace_back();
     m_faults.emplace_back();
-    m_players.push_back(
-        std::make_shared<ThreadedPlayer>(film.toStdString(), m_cache, eventsOf(camera, slot)));
+    m_opened.back()->showAs(camera);
 }
 
-PlayerEvents FilmDeck::eventsOf(std::size_t camera, const std::shared_ptr<CameraSlot>& slot) {
+std::unique_ptr<OpenedFilm> FilmDeck::opened(const QString& film) {
+    return std::make_unique<OpenedFilm>(
+        film, m_cache, *this,
+        OpenedFilm::Listener{.picture = [this](std::size_t camera) { takePicture(camera); },
+                             .index = [this](std::size_t camera) { takeIndex(camera); },
+                             .fault = [this](std::size_t camera,
+                                             const QString& message) { fail(camera, message); }});
+}
+
+void FilmDeck::openAhead(const QString& film, const FrameRequest& first) {
+    if (film.isEmpty() || m_films.value(0) == film)
+        return m_ahead.reset();
+    if (m_ahead && m_ahead->film() == film)
+        return;
+    m_ahead = opened(film);
+    if (!m_boxes.empty())
+        m_ahead->slot()->setBox(m_boxes.front());
+    std::visit(ShowFirst{*m_ahead->player()}, first);
+}
+
+void FilmDeck::takeIndex(std::size_t camera) {
     const int generation = m_generation;
-    const auto post = [this, generation](auto act) {
-        QMetaObject::invokeMethod(
-            this,
-            [this, generation, act] {
-                if (generation == m_generation)
-                    act();
-            },
-            Qt::QueuedConnection);
-    };
-    PlayerEvents events;
-    // Events never come two at once, so that the picture maker is used by one of them at a time.
-    events.onFrame = [slot](const ShownFrame& shown) { slot->put(shown); };
-    events.onIndex = [this, camera, slot, post, generation](const auto& index, double) {
-        if (!index)
-            return;
-        slot->setFacts(index->facts());
-        post([this, camera, generation] {
-            m_group->tick(now()); // the clock learns how long the films are
-            m_faults[camera].clear();
-            m_presses.run();
-            if (generation != m_generation)
-                return;
-            emit indexChanged(camera);
-        });
-    };
-    events.onError = [this, camera, post](const std::string& message) {
-        post([this, camera, text = QString::fromStdString(message)] { fail(camera, text); });
-    };
-    return events;
+    m_group->tick(now()); // the clock learns how long the films are
+    m_faults[camera].clear();
+    m_presses.run();
+    if (generation == m_generation)
+        emit indexChanged(camera);
 }
 
 /// A film that cannot be read is not played, which would try to read it on and on.
@@ -172,9 +175,7 @@ QString FilmDeck::fault(std::size_t camera) const {
     return camera < m_faults.size() ? m_faults[camera] : QString();
 }
 
-void FilmDeck::takePicture(std::size_t camera, int generation) {
-    if (generation != m_generation)
-        return;
+void FilmDeck::takePicture(std::size_t camera) {
     auto picture = m_slots[camera]->take();
     auto& jump = m_jumps[camera];
     if (!picture || (jump && isLate(*jump, *picture)))

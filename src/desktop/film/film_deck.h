@@ -17,6 +17,8 @@
 
 namespace kavela::desktop {
 
+class OpenedFilm;
+
 /// The films of one run, played in step: the cameras, their clock, and what a coach does with them.
 /// Everything returns at once; frames come when they are decoded.
 ///
@@ -33,6 +35,10 @@ public:
     /// Films beside them, such as a fixed camera's of a whole race, only follow: nothing is marked
     /// on them by the way, and they do not make the run longer.
     void open(const QStringList& films, const QStringList& beside = {});
+    /// Opens a film beside those that are shown, as far as its frame `first`: it is there at once
+    /// when it is the first one of the next open(), whatever is opened instead closes it. Empty for
+    /// none.
+    void openAhead(const QString& film, const FrameRequest& first = FrameNumber{0});
     [[nodiscard]] const QStringList& films() const { return m_films; }
     [[nodiscard]] const QStringList& filmsBeside() const { return m_beside; }
     /// Those of the run. Films beside them have the numbers behind theirs, wherever a camera is
@@ -120,10 +126,10 @@ private:
     };
 
     [[nodiscard]] static CameraGroup::Moment now();
-    [[nodiscard]] PlayerEvents eventsOf(std::size_t camera,
-                                        const std::shared_ptr<CameraSlot>& slot);
+    [[nodiscard]] std::unique_ptr<OpenedFilm> opened(const QString& film);
     void addCamera(const QString& film);
-    void takePicture(std::size_t camera, int generation);
+    void takePicture(std::size_t camera);
+    void takeIndex(std::size_t camera);
     void fail(std::size_t camera, const QString& message);
     [[nodiscard]] PressQueue::Meant meantNow() const;
     [[nodiscard]] FrameRequest meantBy(std::size_t camera) const;
@@ -140,6 +146,8 @@ private:
     QStringList m_films;
     QStringList m_beside;
     std::vector<QSize> m_boxes; ///< of the views, also of those that have no film now
+    std::vector<std::unique_ptr<OpenedFilm>> m_opened;
+    std::unique_ptr<OpenedFilm> m_ahead; ///< of the next open()
     std::vector<std::shared_ptr<CameraSlot>> m_slots;
     std::vector<std::shared_ptr<VideoPlayer>> m_players;
     std::vector<std::optional<FilmPicture>> m_shown;

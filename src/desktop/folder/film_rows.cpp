@@ -1,0 +1,160 @@
+#include "desktop/folder/film_rows.h"
+
+#include "desktop/shell/qt_text.h"
+#include "desktop/shell/shown_number.h"
+
+#include <QCoreApplication>
+#include <QStringList>
+
+#include <algorithm>
+#include <cmath>
+#include <functional>
+#include <utility>
+
+namespace kavela::desktop {
+
+namespace {
+
+QString filmsText(const char* text) {
+    return QCoreApplication::translate("Films", text);
+}
+
+QString fileNameOf(const ListedFilm& film) {
+    return qtText(film.path.filename().string());
+}
+
+QString crewOf(const ListedFilm& film) {
+    return joined(film.names);
+}
+
+Column<FilmRow, QString> filmColumn(const QString& title,
+                                    std::function<Cell(const FilmRow&)> show) {
+    Column<FilmRow, QString> column;
+    column.title = title;
+    column.show = std::move(show);
+    return column;
+}
+
+Column<TagRow, QString> tagColumn(const QString& title, std::function<Cell(const TagRow&)> show) {
+    Column<TagRow, QString> column;
+    column.title = title;
+    column.show = std::move(show);
+    return column;
+}
+
+Cell filmNameCell(const FilmRow& row) {
+    Cell cell{fileNameOf(row.film)};
+    if (!row.fault.isEmpty()) {
+        cell.look = Cell::Look::Warning;
+        cell.tip = row.fault;
+    }
+    return cell;
+}
+
+Cell watchedCell(const FilmRow& row) {
+    Cell cell;
+    cell.sortValue = row.isWatched ? 1.0 : 0.0;
+    if (row.isWatched) {
+        cell.text = QStringLiteral("●");
+        cell.tip = filmsText("Watched: 80 % of it was shown");
+    }
+    return cell;
+}
+
+Cell bibCell(const FilmRow& row) {
+    Cell cell;
+    if (row.film.bib) {
+        cell.text = QString::number(*row.film.bib);
+        cell.number = *row.film.bib;
+    }
+    return cell;
+}
+
+Cell lengthCell(const FilmRow& row) {
+    Cell cell;
+    if (row.seconds)
+        cell.text = lengthText(*row.seconds);
+    cell.number = row.seconds;
+    return cell;
+}
+
+Cell tagNameCell(const TagRow& row) {
+    Cell cell{qtText(row.tag.name)};
+    if (row.tag.isOfSplitFile)
+        cell.tip = filmsText("Of the split file: split taking edits it");
+    return cell;
+}
+
+Cell momentCell(const TagRow& row) {
+    const double seconds = row.tag.moment.seconds();
+    Cell cell{lengthText(std::max(seconds, 0.0))};
+    cell.number = seconds;
+    return cell;
+}
+
+} // namespace
+
+QString lengthText(double seconds) {
+    const auto tenths = std::llround(seconds * 10);
+    return shownNumbers(QStringLiteral("%1:%2.%3")
+                            .arg(tenths / 600)
+                            .arg(tenths / 10 % 60, 2, 10, QLatin1Char('0'))
+                            .arg(tenths % 10));
+}
+
+QString titleOf(const ListedFilm& film) {
+    return film.names.empty() ? qtText(film.path.stem().string()) : crewOf(film);
+}
+
+QString detailsOf(const FilmRow& row) {
+    QStringList details;
+    if (row.film.bib)
+        details.append(QString::number(*row.film.bib));
+    for (const std::string& text : {row.film.category, row.film.phase})
+        if (!text.empty())
+            details.append(qtText(text));
+    if (row.seconds)
+        details.append(lengthText(*row.seconds));
+    return details.join(QStringLiteral(" · "));
+}
+
+ColumnModel<FilmRow, QString>::Columns filmColumns() {
+    const auto text = [](const ListedFilm& film, std::string ListedFilm::*member) {
+        return qtText(film.*member);
+    };
+    auto watched = filmColumn(QStringLiteral("●"), watchedCell);
+    watched.tip = filmsText("Watched");
+    auto bib = filmColumn(filmsText("Bib"), bibCell);
+    bib.kind = ColumnKind::Number;
+    auto length = filmColumn(filmsText("Length"), lengthCell);
+    length.tip = filmsText("Minutes and seconds");
+    length.kind = ColumnKind::Number;
+    return {
+        std::move(watched),
+        filmColumn(filmsText("Film"), filmNameCell),
+        filmColumn(filmsText("Name"), [](const FilmRow& row) { return Cell{crewOf(row.film)}; }),
+        std::move(bib),
+        filmColumn(
+            filmsText("Category"),
+            [text](const FilmRow& row) { return Cell{text(row.film, &ListedFilm::category)}; }),
+        filmColumn(filmsText("Phase"),
+                   [text](const FilmRow& row) { return Cell{text(row.film, &ListedFilm::phase)}; }),
+        std::move(length)};
+}
+
+ColumnModel<TagRow, QString>::Columns tagColumns() {
+    auto at = tagColumn(filmsText("At"), momentCell);
+    at.tip = filmsText("Moment of the film, minutes and seconds");
+    at.kind = ColumnKind::Number;
+    return {
+        tagColumn(filmsText("Tag"), tagNameCell),
+        tagColumn(filmsText("Name"), [](const TagRow& row) { return Cell{row.crew}; }),
+        tagColumn(filmsText("Film"), [](const TagRow& row) { return Cell{fileNameOf(row.film)}; }),
+        std::move(at)};
+}
+
+QString tagKey(const TagRow& row) {
+    return row.path + '\n' + QString::number(row.number) + '\n' + qtText(row.tag.name);
+}
+
+} // namespace kavela::desktop

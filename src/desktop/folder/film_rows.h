@@ -1,0 +1,44 @@
+#pragma once
+
+#include "desktop/shell/tables/column_model.h"
+#include "splittaking/folder/film_list.h"
+
+#include <QString>
+
+#include <optional>
+#include <vector>
+
+/// What the lists of the films of a folder show.
+namespace kavela::desktop {
+
+struct FilmRow {
+    ListedFilm film;
+    QString path;
+    bool isWatched = false;
+    std::optional<double> seconds = {}; ///< how long it is, once it was looked at
+    QString fault = {};                 ///< why it cannot be shown
+};
+
+/// A tag of one of the films.
+struct TagRow {
+    QString path;
+    QString crew;
+    ListedFilm film; ///< that it is on
+    FilmTag tag;
+    std::size_t number = 0; ///< among the tags of the film
+};
+
+/// Rows are known by the path of their film.
+[[nodiscard]] ColumnModel<FilmRow, QString>::Columns filmColumns();
+/// Rows are known by tagKey().
+[[nodiscard]] ColumnModel<TagRow, QString>::Columns tagColumns();
+[[nodiscard]] QString tagKey(const TagRow& row);
+
+/// "Ann Lee", or the film's own name where no crew is known.
+[[nodiscard]] QString titleOf(const ListedFilm& film);
+/// "12 · K1W · Semifinal · 1:32.4", as far as it is known.
+[[nodiscard]] QString detailsOf(const FilmRow& row);
+/// "1:32.4"
+[[nodiscard]] QString lengthText(double seconds);
+
+} // namespace kavela::desktop
