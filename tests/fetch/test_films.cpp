@@ -1,9 +1,10 @@
 #include "fetch/test_films.h"
 
 #include "common/temp_folder.h"
-#include "films/film_writer.h"
 #include "video/av_handles.h"
+#include "video/writing/film_writer.h"
 
+#include <algorithm>
 #include <cstdlib>
 #include <stdexcept>
 
@@ -18,16 +19,29 @@ constexpr int Timescale = 600;
 } // namespace
 
 QByteArray testFilm(int number) {
-    films::FilmWriter writer(Width, Height, Timescale);
+    FilmFormat format;
+    format.container = "mov";
+    format.size = {Width, Height};
+    format.timescale = Timescale;
+    format.preset = "ultrafast";
+    format.isPlain = true;
+    format.threads = 1;
+    MemorySink bytes;
+    FilmWriter writer(format, bytes);
     for (int frame = 0; frame < TestFrames; ++frame) {
-        films::YuvPicture picture(Width, Height);
-        for (int x = 0; x < Width; x += 2) {
-            const int bright = 16 + (x * 3 + frame * 7 + number * 50) % 200;
-            picture.fill({x, 0, 2, Height}, {static_cast<std::uint8_t>(bright), 128, 128});
-        }
-        writer.add(picture);
+        AVFrame& picture = writer.picture();
+        for (int y = 0; y < Height; ++y)
+            for (int x = 0; x < Width; ++x)
+                picture.data[0][y * picture.linesize[0] + x] =
+                    static_cast<std::uint8_t>(16 + (x / 2 * 6 + frame * 7 + number * 50) % 200);
+        for (const int plane : {1, 2})
+            for (int y = 0; y < Height / 2; ++y)
+                std::fill_n(picture.data[plane] + y * picture.linesize[plane], Width / 2,
+                            std::uint8_t{128});
+        writer.add(frame);
     }
-    return QByteArray::fromStdString(writer.finish());
+    writer.finish();
+    return QByteArray::fromStdString(bytes.take());
 }
 
 std::map<QByteArray, QByteArray> testPieces() {
