@@ -26,7 +26,7 @@ namespace kavela::desktop {
 
 namespace {
 
-constexpr int TilesInRow = 3;
+constexpr int TilesInRow = 4;
 constexpr int LeastRecentHeight = 96; ///< some lines, also where the page scrolls
 
 QLabel* label(const QString& text, const QFont& font) {
@@ -58,7 +58,7 @@ HomeWindow::HomeWindow(Workspace& workspace, const Tools& tools) : m_workspace(w
     area->setFocusPolicy(Qt::NoFocus);
     area->setWidget(page);
     setCentralWidget(area);
-    resize(1000, 680);
+    resize(1140, 720);
     rememberPlace(*this, workspace, "home");
 
     connect(&m_workspace, &Workspace::recentFilesChanged, this, &HomeWindow::showRecentFiles);

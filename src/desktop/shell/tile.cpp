@@ -7,9 +7,9 @@
 namespace kavela::desktop {
 
 namespace {
-constexpr int TileWidth = 300;
-constexpr int LeastWidth = 236; ///< three beside each other on a small screen
-constexpr int TileHeight = 104;
+constexpr int TileWidth = 280;
+constexpr int LeastWidth = 222; ///< four beside each other on a small screen
+constexpr int TileHeight = 98;
 constexpr int IconSize = 40;
 constexpr int Radius = 8;
 } // namespace
