@@ -86,7 +86,6 @@ QWidget* SeasonWindow::makeEmptyPage() {
     m_emptyText->setObjectName("emptyText");
     m_emptyText->setWordWrap(true);
     m_emptyText->setAlignment(Qt::AlignCenter);
-    m_emptyText->setMaximumWidth(width() * 2 / 3);
     m_emptyText->setForegroundRole(QPalette::PlaceholderText);
     auto* const team = new QPushButton(tr("Open a team…"));
     auto* const folder = new QPushButton(tr("Add a folder of races…"));
@@ -95,9 +94,10 @@ QWidget* SeasonWindow::makeEmptyPage() {
     auto* const column = new QVBoxLayout(page);
     column->setSpacing(theme::LargeSpacing);
     column->addStretch();
-    for (QWidget* const part : {static_cast<QWidget*>(title), static_cast<QWidget*>(m_emptyText),
-                                static_cast<QWidget*>(team), static_cast<QWidget*>(folder)})
-        column->addWidget(part, 0, Qt::AlignHCenter);
+    column->addWidget(title, 0, Qt::AlignHCenter);
+    column->addWidget(m_emptyText); // over the whole width: beside others its lines would be cut
+    for (QPushButton* const button : {team, folder})
+        column->addWidget(button, 0, Qt::AlignHCenter);
     column->addStretch();
     return page;
 }
