@@ -134,7 +134,7 @@ FilmRow FilmBrowser::rowOf(const ListedFilm& film) const {
 
 void FilmBrowser::showFilms() {
     std::vector<FilmRow> rows;
-    std::vector<TagRow> tags;
+    std::vector<FilmTagRow> tags;
     for (const ListedFilm& film : m_shelf.films()) {
         rows.push_back(rowOf(film));
         for (std::size_t number = 0; number < film.tags.size(); ++number)
@@ -160,7 +160,7 @@ void FilmBrowser::filter() {
     const FilmFilter typed(m_filter->text().toStdString());
     m_list->setFilter([this, typed](int place) { return typed.passes(m_films.row(place).film); });
     m_tagList->setFilter([this, typed](int place) {
-        const TagRow& row = m_tagRows.row(place);
+        const FilmTagRow& row = m_tagRows.row(place);
         return typed.passes(row.film, row.tag.name);
     });
     showTiles();
@@ -187,7 +187,7 @@ ColumnTable* FilmBrowser::front() const {
     return page() == List ? m_list : page() == Tags ? m_tagList : nullptr;
 }
 
-std::optional<TagRow> FilmBrowser::currentTag() const {
+std::optional<FilmTagRow> FilmBrowser::currentTag() const {
     const int place = page() == Tags ? m_tagList->currentPlace() : -1;
     return place < 0 ? std::nullopt : std::optional(m_tagRows.row(place));
 }

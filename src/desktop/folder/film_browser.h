@@ -37,7 +37,7 @@ public:
     /// All that are chosen there, the one with the cursor first.
     [[nodiscard]] QStringList chosenFilms() const;
     /// The tag with the cursor; nothing on the other pages.
-    [[nodiscard]] std::optional<TagRow> currentTag() const;
+    [[nodiscard]] std::optional<FilmTagRow> currentTag() const;
     /// Those that pass the filter, as they are sorted in the list.
     [[nodiscard]] QStringList shownFilms() const;
     void choose(const QString& film);
@@ -69,7 +69,7 @@ private:
     FilmShelf& m_shelf;
     ThumbnailStore& m_looks;
     ColumnModel<FilmRow, QString> m_films;
-    ColumnModel<TagRow, QString> m_tagRows;
+    ColumnModel<FilmTagRow, QString> m_tagRows;
     QLineEdit* m_filter;
     QLabel* m_count;
     QTabWidget* m_pages;

@@ -93,7 +93,7 @@ void FilmPlaying::showFilms(const QStringList& films) {
     stage.goToPlace(startsAtMark() ? firstMark(film) : std::nullopt);
 }
 
-void FilmPlaying::showTag(const TagRow& tag) {
+void FilmPlaying::showTag(const FilmTagRow& tag) {
     showFilms({tag.path});
     FilmDeck& deck = m_desk.stage.deck();
     if (deck.cameras() == 0)

@@ -52,7 +52,7 @@ public:
 
 private:
     void showFilms(const QStringList& films);
-    void showTag(const TagRow& tag);
+    void showTag(const FilmTagRow& tag);
     void layBeside();
     void takeFrame(std::size_t camera);
     void noteWatched(std::size_t camera);

@@ -35,8 +35,9 @@ Column<FilmRow, QString> filmColumn(const QString& title,
     return column;
 }
 
-Column<TagRow, QString> tagColumn(const QString& title, std::function<Cell(const TagRow&)> show) {
-    Column<TagRow, QString> column;
+Column<FilmTagRow, QString> tagColumn(const QString& title,
+                                      std::function<Cell(const FilmTagRow&)> show) {
+    Column<FilmTagRow, QString> column;
     column.title = title;
     column.show = std::move(show);
     return column;
@@ -78,14 +79,14 @@ Cell lengthCell(const FilmRow& row) {
     return cell;
 }
 
-Cell tagNameCell(const TagRow& row) {
+Cell tagNameCell(const FilmTagRow& row) {
     Cell cell{qtText(row.tag.name)};
     if (row.tag.isOfSplitFile)
         cell.tip = filmsText("Of the split file: split taking edits it");
     return cell;
 }
 
-Cell momentCell(const TagRow& row) {
+Cell momentCell(const FilmTagRow& row) {
     const double seconds = row.tag.moment.seconds();
     Cell cell{lengthText(std::max(seconds, 0.0))};
     cell.number = seconds;
@@ -142,18 +143,18 @@ ColumnModel<FilmRow, QString>::Columns filmColumns() {
         std::move(length)};
 }
 
-ColumnModel<TagRow, QString>::Columns tagColumns() {
+ColumnModel<FilmTagRow, QString>::Columns tagColumns() {
     auto at = tagColumn(filmsText("At"), momentCell);
     at.tip = filmsText("Moment of the film, minutes and seconds");
     at.kind = ColumnKind::Number;
-    return {
-        tagColumn(filmsText("Tag"), tagNameCell),
-        tagColumn(filmsText("Name"), [](const TagRow& row) { return Cell{row.crew}; }),
-        tagColumn(filmsText("Film"), [](const TagRow& row) { return Cell{fileNameOf(row.film)}; }),
-        std::move(at)};
+    return {tagColumn(filmsText("Tag"), tagNameCell),
+            tagColumn(filmsText("Name"), [](const FilmTagRow& row) { return Cell{row.crew}; }),
+            tagColumn(filmsText("Film"),
+                      [](const FilmTagRow& row) { return Cell{fileNameOf(row.film)}; }),
+            std::move(at)};
 }
 
-QString tagKey(const TagRow& row) {
+QString tagKey(const FilmTagRow& row) {
     return row.path + '\n' + QString::number(row.number) + '\n' + qtText(row.tag.name);
 }
 

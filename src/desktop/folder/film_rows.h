@@ -20,7 +20,7 @@ struct FilmRow {
 };
 
 /// A tag of one of the films.
-struct TagRow {
+struct FilmTagRow {
     QString path;
     QString crew;
     ListedFilm film; ///< that it is on
@@ -31,8 +31,8 @@ struct TagRow {
 /// Rows are known by the path of their film.
 [[nodiscard]] ColumnModel<FilmRow, QString>::Columns filmColumns();
 /// Rows are known by tagKey().
-[[nodiscard]] ColumnModel<TagRow, QString>::Columns tagColumns();
-[[nodiscard]] QString tagKey(const TagRow& row);
+[[nodiscard]] ColumnModel<FilmTagRow, QString>::Columns tagColumns();
+[[nodiscard]] QString tagKey(const FilmTagRow& row);
 
 /// "Ann Lee", or the film's own name where no crew is known.
 [[nodiscard]] QString titleOf(const ListedFilm& film);
