@@ -12,6 +12,7 @@
 #include "desktop/shell/command_palette.h"
 #include "desktop/shell/file_names.h"
 #include "desktop/start_options.h"
+#include "desktop/tables/tables_window.h"
 #include "desktop/taking/taking_window.h"
 #include "splitdata/loader.h"
 
@@ -151,14 +152,14 @@ TEST_F(OpeningTest, TheSearchOfAnyWindowOpensATool) {
     EXPECT_THAT(m_program.windowsOf<desktop::FindWindow>(), SizeIs(1));
 }
 
-TEST_F(OpeningTest, SaysWhereATrackOrAListBelongsAndThatAFolderIsEmpty) {
+TEST_F(OpeningTest, SaysWhereATrackBelongsAndThatAFolderIsEmpty) {
     m_program.open(example("recordings/watch.gpx"));
     m_program.open(example("races/spring_opener_results.csv"));
     fs::create_directory(m_folder.path() / "empty");
     m_program.open(text(m_folder.path() / "empty"));
-    EXPECT_THAT(m_recorder.alerts,
-                ElementsAre(HasSubstr("Import the recording of the boat first"),
-                            HasSubstr("Import official results"), HasSubstr("no film")));
+    EXPECT_THAT(m_recorder.alerts, ElementsAre(HasSubstr("Import the recording of the boat first"),
+                                               HasSubstr("no film")));
+    EXPECT_THAT(m_program.windowsOf<desktop::TablesWindow>(), SizeIs(1)) << "shows the list";
     EXPECT_THAT(m_program.windowsOf<desktop::RaceWindow>(), IsEmpty());
 }
 
