@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <cctype>
 #include <cmath>
+#include <cstddef>
 #include <numeric>
 #include <string>
 #include <string_view>
@@ -29,8 +30,9 @@ std::optional<std::string> withoutRefusal(std::string text) {
     bool isFound = false;
     for (const std::string_view word : {"DNS", "DNF", "DSQ"})
         for (auto at = text.begin(); at != text.end();) {
-            const auto [begin, end] =
-                std::ranges::search(at, text.end(), word.begin(), word.end(), isSameLetter);
+            const auto begin = std::search(at, text.end(), word.begin(), word.end(), isSameLetter);
+            const auto end =
+                begin == text.end() ? begin : begin + static_cast<std::ptrdiff_t>(word.size());
             at = end;
             const bool isWord = begin != end &&
                                 (begin == text.begin() || !isPartOfWord(begin[-1])) &&
