@@ -15,7 +15,7 @@
 namespace kavela {
 struct OfficialDifference;
 struct RecognisedSplitFile;
-}
+} // namespace kavela
 
 namespace kavela::desktop {
 
