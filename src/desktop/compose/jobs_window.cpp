@@ -21,29 +21,34 @@ namespace kavela::desktop {
 
 namespace {
 
-using RenderRows = ColumnModel<RenderJob, std::uint64_t>;
-
 QString renderText(const char* text) {
     return QCoreApplication::translate("JobsWindow", text);
 }
 
-RenderRows::Columns renderColumns() {
-    return {{.title = renderText("Film"),
-             .show =
-                 [](const RenderJob& job) {
-                     return Cell{.text = QFileInfo(job.target).fileName(), .tip = job.target};
-                 }},
-            {.title = renderText("State"),
-             .show =
-                 [](const RenderJob& job) {
-                     const bool isBad = job.state == RenderJob::State::Failed;
-                     return Cell{.text = renderStateText(job),
-                                 .sortValue = job.done,
-                                 .look = isBad ? Cell::Look::Warning : Cell::Look::Plain};
-                 }},
-            {.title = renderText("To know"), .show = [](const RenderJob& job) {
-                 return Cell{.text = job.told, .tip = job.told};
-             }}};
+std::vector<Column<RenderJob>> renderColumns() {
+    Column<RenderJob> film = textColumn<RenderJob>(renderText("Film"), nullptr);
+    film.show = [](const RenderJob& job) {
+        Cell cell;
+        cell.text = QFileInfo(job.target).fileName();
+        cell.tip = job.target;
+        return cell;
+    };
+    Column<RenderJob> state = textColumn<RenderJob>(renderText("State"), nullptr);
+    state.show = [](const RenderJob& job) {
+        Cell cell;
+        cell.text = renderStateText(job);
+        if (job.state == RenderJob::State::Failed)
+            cell.look = Cell::Look::Warning;
+        return cell;
+    };
+    Column<RenderJob> told = textColumn<RenderJob>(renderText("To know"), nullptr);
+    told.show = [](const RenderJob& job) {
+        Cell cell;
+        cell.text = job.told;
+        cell.tip = job.told;
+        return cell;
+    };
+    return {film, state, told};
 }
 
 } // namespace

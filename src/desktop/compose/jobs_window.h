@@ -6,6 +6,7 @@
 #include <QWidget>
 
 #include <cstdint>
+#include <vector>
 
 class QPushButton;
 
@@ -38,7 +39,7 @@ private:
 
     Workspace& m_workspace;
     RenderQueue& m_queue;
-    ColumnModel<RenderJob, std::uint64_t> m_rows;
+    ColumnModel<RenderJob> m_rows;
     ColumnTable* m_table;
     QPushButton* m_stop;
     QPushButton* m_folder;
