@@ -1,6 +1,7 @@
 #include "desktop/desktop.h"
 
 #include "common/error.h"
+#include "desktop/compose/compare_window.h"
 #include "desktop/cross/cross_window.h"
 #include "desktop/motion/motion_window.h"
 #include "desktop/planning/online/online_planning.h"
@@ -322,6 +323,7 @@ void Desktop::connectTool(ToolWindow& window) {
     connect(&window, &ToolWindow::earlierWorkRequested, this,
             [this] { m_earlierWork.chooseToBringBack(front()); });
     connect(&window, &ToolWindow::placeRequested, this, &Desktop::showPlace);
+    connect(&window, &ToolWindow::compareRequested, this, &Desktop::openCompare);
     if (window.file())
         connect(window.file(), &EditedFile::saved, this, &Desktop::rememberSession);
     // Later: while it is being destroyed, it still counts as a window of its kind.
@@ -410,6 +412,13 @@ void Desktop::openRecordings(const QStringList& paths) {
     }
     bringToFront(*window);
     window->open(paths);
+}
+
+void Desktop::openCompare(const CompareRequest& request) {
+    auto* const window = new CompareWindow(m_workspace, m_autosave);
+    window->startWith(request);
+    show(window);
+    bringToFront(*window);
 }
 
 void Desktop::showPlace(const Place& place) {

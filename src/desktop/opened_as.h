@@ -29,6 +29,7 @@ enum class OpensAs {
     Losses,      ///< split files and folders, where the coach asks for it: none is known by content
     ResultsList, ///< any list of results, as text or a spreadsheet
     Penalties,   ///< split files and folders, where the coach asks for it: none is known by content
+    Comparison, ///< of films
     NotReady
 };
 

@@ -31,6 +31,7 @@ private:
     void makeMarkMenu();
     void makeTrialMenu();
     void makeHeatMenu();
+    void compareFilms();
     void makeViewMenu();
     QAction* add(QMenu& menu, const QString& text, const QList<QKeySequence>& keys, Act act);
     /// Saves, then hands the file on to another tool.
