@@ -11,9 +11,8 @@ namespace {
 
 std::optional<std::size_t> splitAt(double common, const std::vector<SplitMoment>& splits) {
     constexpr double Same = 1e-6; // seconds: it went through a widget
-    const auto found = std::ranges::find_if(splits, [&](const SplitMoment& moment) {
-        return std::abs(moment.common - common) < Same;
-    });
+    const auto found = std::ranges::find_if(
+        splits, [&](const SplitMoment& moment) { return std::abs(moment.common - common) < Same; });
     return found == splits.end() ? std::nullopt : std::optional(found->split);
 }
 

@@ -27,8 +27,8 @@ CompareCandidate runCandidate(const splittakerdata031& race, const QString& path
     found.splitFile = path;
     found.run = static_cast<std::int64_t>(run) + 1;
     found.camera = static_cast<std::int64_t>(camera) + 1;
-    found.film = QFileInfo(path).absolutePath() + '/' +
-                 QString::fromStdString(athlete.videoname[camera]);
+    found.film =
+        QFileInfo(path).absolutePath() + '/' + QString::fromStdString(athlete.videoname[camera]);
     found.names = QString::fromStdString(captioned.names);
     found.category = QString::fromStdString(athlete.cat);
     found.phase = QString::fromStdString(athlete.phase);
@@ -44,12 +44,10 @@ void readRuns(const QString& path, FoundCandidates& found) {
     const RecognisedSplitFile file = recogniseSplitFile(
         path.toStdString(), [](std::string_view) {}, [] { return ReferenceDate{}; });
     if (!file.version) {
-        found.faults.push_back(
-            QStringLiteral("%1: %2").arg(
-                QFileInfo(path).fileName(),
-                QString::fromStdString(file.failures.empty()
-                                           ? std::string("it could not be read")
-                                           : file.failures.front().fault.message())));
+        found.faults.push_back(QStringLiteral("%1: %2").arg(
+            QFileInfo(path).fileName(),
+            QString::fromStdString(file.failures.empty() ? std::string("it could not be read")
+                                                         : file.failures.front().fault.message())));
         return;
     }
     const std::size_t before = found.candidates.size();
@@ -106,8 +104,8 @@ FoundCandidates readCandidates(const QStringList& paths, const std::stop_token& 
 void placeCandidates(const Workspace& workspace, std::vector<CompareCandidate>& candidates) {
     for (CompareCandidate& candidate : candidates)
         if (!candidate.splitFile.isEmpty())
-            candidate.film = placeOfFilm(workspace, candidate.splitFile,
-                                         QFileInfo(candidate.film).fileName());
+            candidate.film =
+                placeOfFilm(workspace, candidate.splitFile, QFileInfo(candidate.film).fileName());
 }
 
 composefilm001 filmOfCandidate(const CompareCandidate& candidate) {

@@ -91,8 +91,8 @@ std::vector<Column<CompareFilmsPanel::FilmRow>> CompareFilmsPanel::filmColumns()
                 to(job.films[place]);
         });
     };
-    Column<FilmRow> names = textColumn<FilmRow>(
-        tr("Name in the film"), [](const FilmRow& row) { return row.names; });
+    Column<FilmRow> names =
+        textColumn<FilmRow>(tr("Name in the film"), [](const FilmRow& row) { return row.names; });
     names.take = [change](const std::size_t& place, const FilmRow&, const QString& typed) {
         change(place, tr("name in the film"),
                [&](composefilm001& film) { film.names = typed.toStdString(); });
@@ -117,12 +117,13 @@ std::vector<Column<CompareFilmsPanel::FilmRow>> CompareFilmsPanel::filmColumns()
         return cell;
     };
     start.take = [change](const std::size_t& place, const FilmRow&, const QString& typed) {
-        const double seconds = typedSeconds(typed, {0, 86400, tr("The start is a second of the film, 0 to 86400")});
+        const double seconds =
+            typedSeconds(typed, {0, 86400, tr("The start is a second of the film, 0 to 86400")});
         change(place, tr("start of a film"),
                [&](composefilm001& film) { film.startsAt = seconds; });
     };
-    return {textColumn<FilmRow>(
-                tr("No."), [](const FilmRow& row) { return QString::number(row.place + 1); }),
+    return {textColumn<FilmRow>(tr("No."),
+                                [](const FilmRow& row) { return QString::number(row.place + 1); }),
             names, category, start,
             textColumn<FilmRow>(tr("Film"), [](const FilmRow& row) { return row.file; })};
 }
@@ -184,8 +185,7 @@ QWidget* CompareFilmsPanel::makeFilms() {
 
 void CompareFilmsPanel::addCandidates(const std::vector<CompareCandidate>& found) {
     for (const CompareCandidate& candidate : found) {
-        const auto known =
-            std::ranges::find(m_known, candidate.key(), &CompareCandidate::key);
+        const auto known = std::ranges::find(m_known, candidate.key(), &CompareCandidate::key);
         if (known == m_known.end())
             m_known.push_back(candidate);
         else
@@ -200,9 +200,8 @@ void CompareFilmsPanel::showJob(const composejob001& job) {
 }
 
 const CompareCandidate* CompareFilmsPanel::candidateOf(const composefilm001& film) const {
-    const auto found = std::ranges::find_if(m_known, [&](const CompareCandidate& candidate) {
-        return isCandidate(film, candidate);
-    });
+    const auto found = std::ranges::find_if(
+        m_known, [&](const CompareCandidate& candidate) { return isCandidate(film, candidate); });
     return found == m_known.end() ? nullptr : &*found;
 }
 
@@ -212,11 +211,10 @@ void CompareFilmsPanel::showRows() {
         const auto film = std::ranges::find_if(m_job.films, [&](const composefilm001& entry) {
             return isCandidate(entry, m_known[number]);
         });
-        rows.push_back({number,
-                        film == m_job.films.end()
-                            ? 0
-                            : static_cast<int>(film - m_job.films.begin()) + 1,
-                        m_known[number]});
+        rows.push_back(
+            {number,
+             film == m_job.films.end() ? 0 : static_cast<int>(film - m_job.films.begin()) + 1,
+             m_known[number]});
     }
     m_candidates.show(std::move(rows));
     std::vector<FilmRow> films;
@@ -262,8 +260,8 @@ void CompareFilmsPanel::toggle(std::size_t candidate) {
     }
     m_edit(tr("choice of a film"), [&](composejob001& job) {
         job.films.push_back(filmOfCandidate(chosen));
-        if (job.films.size() > 2 && (job.layout == wordOf(LayoutKind::Ghost) ||
-                                     job.layout == wordOf(LayoutKind::Wipe)))
+        if (job.films.size() > 2 &&
+            (job.layout == wordOf(LayoutKind::Ghost) || job.layout == wordOf(LayoutKind::Wipe)))
             job.layout = wordOf(LayoutKind::SideBySide);
         settleRange(job, m_known);
     });

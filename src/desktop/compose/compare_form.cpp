@@ -29,7 +29,7 @@ NumberFacts splitNumber() {
     return {.least = 0, .most = MostSplits, .none = formText("the start")};
 }
 
-NumberFacts moment() {
+NumberFacts freeMoment() {
     return {.least = -LongestMoment,
             .most = LongestMoment,
             .decimals = 2,
@@ -78,14 +78,18 @@ void CompareForm::addTimes() {
                       if (kind == wordOf(RangeKind::Free) && !(job.range.to > job.range.from))
                           job.range.to = job.range.from + 10;
                   }});
-    whole({.name = "fromSplit", .label = formText("From split")}, splitNumber(),
-          [](auto& job) -> auto& { return job.range.fromSplit; });
-    whole({.name = "toSplit", .label = formText("To split")}, {.least = 1, .most = MostSplits},
-          [](auto& job) -> auto& { return job.range.toSplit; });
-    number({.name = "from", .label = formText("From")}, moment(),
-           [](auto& job) -> auto& { return job.range.from; });
-    number({.name = "to", .label = formText("To")}, moment(),
-           [](auto& job) -> auto& { return job.range.to; });
+    whole(
+        {.name = "fromSplit", .label = formText("From split")}, splitNumber(),
+        [](auto& job) -> auto& { return job.range.fromSplit; });
+    whole(
+        {.name = "toSplit", .label = formText("To split")}, {.least = 1, .most = MostSplits},
+        [](auto& job) -> auto& { return job.range.toSplit; });
+    number(
+        {.name = "from", .label = formText("From")}, freeMoment(),
+        [](auto& job) -> auto& { return job.range.from; });
+    number(
+        {.name = "to", .label = formText("To")}, freeMoment(),
+        [](auto& job) -> auto& { return job.range.to; });
     choice({.name = "speed",
             .label = formText("Spee&d"),
             .tip = formText("Slow motion has no sound.")},
@@ -99,18 +103,24 @@ void CompareForm::addTimes() {
 
 void CompareForm::addCaptions() {
     addSection(formText("To be read in it"));
-    check({.name = "names", .label = formText("&Names")},
-          [](auto& job) -> auto& { return job.captions.names; });
-    check({.name = "clock", .label = formText("&Clock")},
-          [](auto& job) -> auto& { return job.captions.clock; });
-    check({.name = "splits", .label = formText("Split times and gaps")},
-          [](auto& job) -> auto& { return job.captions.splits; });
-    check({.name = "section", .label = formText("Section")},
-          [](auto& job) -> auto& { return job.captions.section; });
-    check({.name = "penalties", .label = formText("Penalties")},
-          [](auto& job) -> auto& { return job.captions.penalties; });
-    check({.name = "gap", .label = formText("Chart of the gap")},
-          [](auto& job) -> auto& { return job.captions.gap; });
+    check(
+        {.name = "names", .label = formText("&Names")},
+        [](auto& job) -> auto& { return job.captions.names; });
+    check(
+        {.name = "clock", .label = formText("&Clock")},
+        [](auto& job) -> auto& { return job.captions.clock; });
+    check(
+        {.name = "splits", .label = formText("Split times and gaps")},
+        [](auto& job) -> auto& { return job.captions.splits; });
+    check(
+        {.name = "section", .label = formText("Section")},
+        [](auto& job) -> auto& { return job.captions.section; });
+    check(
+        {.name = "penalties", .label = formText("Penalties")},
+        [](auto& job) -> auto& { return job.captions.penalties; });
+    check(
+        {.name = "gap", .label = formText("Chart of the gap")},
+        [](auto& job) -> auto& { return job.captions.gap; });
 }
 
 void CompareForm::addOutput() {
@@ -130,10 +140,11 @@ void CompareForm::addOutput() {
                       job.output.width = size.first;
                       job.output.height = size.second;
                   }});
-    check({.name = "small",
-           .label = formText("For sending"),
-           .tip = formText("At most 1280 × 720 and coarser: a small file.")},
-          [](auto& job) -> auto& { return job.output.small; });
+    check(
+        {.name = "small",
+         .label = formText("For sending"),
+         .tip = formText("At most 1280 × 720 and coarser: a small file.")},
+        [](auto& job) -> auto& { return job.output.small; });
     whole({.name = "sound",
            .label = formText("S&ound of film"),
            .tip = formText("None in slow motion, nor while that film waits or is stretched.")},

@@ -26,15 +26,15 @@ class PreviewWorker;
 
 /// What a comparison is, once its split files and films were read.
 struct PreparedComparison {
-    double length = 0;              ///< seconds of the composed film
-    double speed = 1;               ///< seconds of common time in one of them
-    double frameSeconds = 0.02;     ///< of the composed film
-    CommonRange shown;              ///< in common time
-    CommonRange choice;             ///< that a part can be chosen from
+    double length = 0;          ///< seconds of the composed film
+    double speed = 1;           ///< seconds of common time in one of them
+    double frameSeconds = 0.02; ///< of the composed film
+    CommonRange shown;          ///< in common time
+    CommonRange choice;         ///< that a part can be chosen from
     std::vector<SplitMoment> splits;
-    std::vector<FilmPlace> places;  ///< in the picture
-    QSize size;                     ///< of the picture
-    QStringList faults;             ///< of films that cannot be shown, a sentence each
+    std::vector<FilmPlace> places; ///< in the picture
+    QSize size;                    ///< of the picture
+    QStringList faults;            ///< of films that cannot be shown, a sentence each
 };
 
 /// Shows a comparison as its film will be, made by what makes the film, on a thread of its own. For

@@ -24,7 +24,8 @@ public:
     /// Stands in place of the picture; empty for none.
     void setMessage(const QString& message);
     [[nodiscard]] const QString& message() const { return m_message; }
-    /// Crosses with numbers, in the order of the clicks, by points of the whole picture from 0 to 1.
+    /// Crosses with numbers, in the order of the clicks, by points of the whole picture from 0
+    /// to 1.
     void setCrosses(std::vector<QPointF> crosses);
 
     [[nodiscard]] QSize sizeHint() const override { return {640, 360}; }

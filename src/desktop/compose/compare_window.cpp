@@ -211,8 +211,7 @@ bool CompareWindow::open(const QString& path) {
         return false;
     QStringList files;
     for (const composefilm001& film : m_document->value().films)
-        files.append(
-            QString::fromStdString(film.splitFile.empty() ? film.film : film.splitFile));
+        files.append(QString::fromStdString(film.splitFile.empty() ? film.film : film.splitFile));
     files.removeDuplicates();
     addFiles(files);
     return true;
@@ -271,18 +270,18 @@ QString CompareWindow::told() const {
 void CompareWindow::addFiles(const QStringList& paths) {
     if (paths.isEmpty())
         return;
-    m_work.run(
-        [paths](const WorkSteps& steps) { return readCandidates(paths, steps.stopToken()); },
-        [this](FoundCandidates found) {
-            placeCandidates(workspace(), found.candidates);
-            m_films->addCandidates(found.candidates);
-            if (!found.faults.empty())
-                tell(QStringList(found.faults.begin(), found.faults.end()).join(QStringLiteral(". ")));
-            m_soon.start();
-        },
-        {.failed = [this](const std::exception_ptr& fault) {
-            tell(QString::fromStdString(messageOf(fault)));
-        }});
+    m_work.run([paths](const WorkSteps& steps) { return readCandidates(paths, steps.stopToken()); },
+               [this](FoundCandidates found) {
+                   placeCandidates(workspace(), found.candidates);
+                   m_films->addCandidates(found.candidates);
+                   if (!found.faults.empty())
+                       tell(QStringList(found.faults.begin(), found.faults.end())
+                                .join(QStringLiteral(". ")));
+                   m_soon.start();
+               },
+               {.failed = [this](const std::exception_ptr& fault) {
+                   tell(QString::fromStdString(messageOf(fault)));
+               }});
 }
 
 void CompareWindow::takeFiles(const QStringList& paths) {
@@ -341,13 +340,18 @@ void CompareWindow::showPrepared() {
         showPosition();
         return;
     }
-    CommonRange part = prepared->shown;
-    if (m_document->value().range.kind != wordOf(RangeKind::Free))
-        part.to -= TailSeconds; // the end can then be seen where its split is
-    m_line->setTimes(prepared->choice, part, prepared->splits, splitTitles());
+    m_line->setTimes(prepared->choice, chosenPart(), prepared->splits, splitTitles());
     if (!m_isAligning)
         tell(prepared->faults.join(QStringLiteral(". ")));
     showPosition();
+}
+
+/// Without the moments behind the last split, so that the end stands where the split is.
+CommonRange CompareWindow::chosenPart() const {
+    CommonRange part = m_player->prepared()->shown;
+    if (m_document->value().range.kind != wordOf(RangeKind::Free))
+        part.to -= TailSeconds;
+    return part;
 }
 
 void CompareWindow::showPosition() {
@@ -359,8 +363,9 @@ void CompareWindow::showPosition() {
         return;
     }
     m_line->setPosition(prepared->shown.from + m_player->position() * prepared->speed);
-    m_time->setText(tr("%1 of %2 s").arg(shownHundredths(m_player->position()),
-                                         shownHundredths(prepared->length)));
+    m_time->setText(
+        tr("%1 of %2 s")
+            .arg(shownHundredths(m_player->position()), shownHundredths(prepared->length)));
 }
 
 void CompareWindow::showFault(const QString& where, const QString& what) {
@@ -400,8 +405,7 @@ void CompareWindow::setRange(double from, double to) {
 void CompareWindow::beginHere() {
     if (const auto& prepared = m_player->prepared();
         prepared && m_player->position() < prepared->length)
-        setRange(prepared->shown.from + m_player->position() * prepared->speed,
-                 prepared->shown.to);
+        setRange(prepared->shown.from + m_player->position() * prepared->speed, chosenPart().to);
 }
 
 void CompareWindow::endHere() {
@@ -502,10 +506,9 @@ void CompareWindow::showRenders() {
     m_renders->setVisible(open > 0);
     for (const RenderJob& job : queue.jobs())
         if (job.state == RenderJob::State::Running)
-            m_renders->setText(open > 1 ? tr("Composing: %1, %2 more")
-                                              .arg(renderStateText(job))
-                                              .arg(open - 1)
-                                        : tr("Composing: %1").arg(renderStateText(job)));
+            m_renders->setText(
+                open > 1 ? tr("Composing: %1, %2 more").arg(renderStateText(job)).arg(open - 1)
+                         : tr("Composing: %1").arg(renderStateText(job)));
 }
 
 void CompareWindow::closeEvent(QCloseEvent* event) {

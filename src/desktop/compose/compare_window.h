@@ -1,5 +1,6 @@
 #pragma once
 
+#include "compose/composition.h"
 #include "desktop/compose/compare_candidates.h"
 #include "desktop/compose/compare_document.h"
 #include "desktop/compose/compare_request.h"
@@ -93,6 +94,7 @@ private:
     void showRenders();
     void takePoint(const QPointF& point);
     void setRange(double from, double to);
+    [[nodiscard]] CommonRange chosenPart() const; ///< of what is prepared
     void tell(const QString& text);
     [[nodiscard]] QStringList splitTitles() const;
     [[nodiscard]] QString ownFolder() const;
@@ -109,7 +111,7 @@ private:
     QToolButton* m_play = nullptr;
     QToolButton* m_renders = nullptr; ///< how far the films of this window are
     ComparePlayer* m_player = nullptr;
-    QTimer m_soon; ///< several edits and sizes in a row make one preview
+    QTimer m_soon;                     ///< several edits and sizes in a row make one preview
     std::vector<std::uint64_t> m_jobs; ///< of this window
     bool m_isAligning = false;
     std::array<std::vector<composepoint001>, 2> m_points; ///< clicked so far, of both films

@@ -168,9 +168,8 @@ PreparedComparison PreviewWorker::describe(const Composition& composition,
         if (index)
             rates.push_back(index->facts().nominalRate);
         else
-            prepared.faults.append(
-                QString::fromStdString(composition.films[film].path.filename().string() + ": " +
-                                       films[film].fault));
+            prepared.faults.append(QString::fromStdString(
+                composition.films[film].path.filename().string() + ": " + films[film].fault));
         lengths.push_back(index ? index->secondsOf(index->frameCount() - 1) : 0);
     }
     prepared.frameSeconds = 1 / composedRate(rates).perSecond();
@@ -192,8 +191,8 @@ void PreviewWorker::showNext(const std::stop_token& stop) {
     m_at = std::clamp(wanted, 0.0, length);
     std::shared_ptr<const Picture> picture;
     try {
-        picture = m_preview->previewAt(
-            m_at, [&] { return stop.stop_requested() || m_hasWish.load(); });
+        picture =
+            m_preview->previewAt(m_at, [&] { return stop.stop_requested() || m_hasWish.load(); });
     } catch (const std::exception& error) {
         m_preview.reset();
         tellFault(m_number, {}, error.what());

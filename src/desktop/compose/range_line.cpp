@@ -16,8 +16,8 @@ namespace {
 constexpr int LineHeight = 46;
 constexpr int BarTop = 18;
 constexpr int BarHeight = 14;
-constexpr int SideRoom = 10;   // pixels left and right of the line
-constexpr int GripReach = 7;   // pixels
+constexpr int SideRoom = 10;      // pixels left and right of the line
+constexpr int GripReach = 7;      // pixels
 constexpr double LeastPart = 0.1; // seconds
 
 } // namespace
@@ -61,13 +61,13 @@ int RangeLine::placeOf(double common) const {
     const double length = m_choice.to - m_choice.from;
     if (length <= 0)
         return SideRoom;
-    return SideRoom +
-           static_cast<int>(std::lround((common - m_choice.from) / length *
-                                        std::max(width() - 2 * SideRoom, 1)));
+    return SideRoom + static_cast<int>(std::lround((common - m_choice.from) / length *
+                                                   std::max(width() - 2 * SideRoom, 1)));
 }
 
 double RangeLine::commonAt(int place) const {
-    const double share = static_cast<double>(place - SideRoom) / std::max(width() - 2 * SideRoom, 1);
+    const double share =
+        static_cast<double>(place - SideRoom) / std::max(width() - 2 * SideRoom, 1);
     return m_choice.from + std::clamp(share, 0.0, 1.0) * (m_choice.to - m_choice.from);
 }
 

@@ -127,25 +127,24 @@ void RenderQueue::run(RenderJob& job) {
                        });
     };
     const std::uint64_t id = job.id;
-    m_work.run(
-        task,
-        [this, id](const std::optional<ComposedFilmFile>& film) {
-            if (!film) {
-                end(id, RenderJob::State::Stopped, {});
-                return;
-            }
-            QStringList notes;
-            for (const std::string& note : film->notes)
-                notes.append(QString::fromStdString(note));
-            end(id, RenderJob::State::Done, notes.join(' '),
-                QString::fromStdString(film->path.string()));
-        },
-        {.failed =
-             [this, id](const std::exception_ptr& fault) {
-                 m_workspace.log()(messageOf(fault));
-                 end(id, RenderJob::State::Failed, QString::fromStdString(messageOf(fault)));
-             },
-         .cancelled = [this, id] { end(id, RenderJob::State::Stopped, {}); }});
+    m_work.run(task,
+               [this, id](const std::optional<ComposedFilmFile>& film) {
+                   if (!film) {
+                       end(id, RenderJob::State::Stopped, {});
+                       return;
+                   }
+                   QStringList notes;
+                   for (const std::string& note : film->notes)
+                       notes.append(QString::fromStdString(note));
+                   end(id, RenderJob::State::Done, notes.join(' '),
+                       QString::fromStdString(film->path.string()));
+               },
+               {.failed =
+                    [this, id](const std::exception_ptr& fault) {
+                        m_workspace.log()(messageOf(fault));
+                        end(id, RenderJob::State::Failed, QString::fromStdString(messageOf(fault)));
+                    },
+                .cancelled = [this, id] { end(id, RenderJob::State::Stopped, {}); }});
 }
 
 /// Reading the films is a small part of all; from the first frame on, frames are counted.

@@ -31,7 +31,7 @@ QKeySequence numberKey(int number, Qt::KeyboardModifiers modifiers = {}) {
 } // namespace
 
 CrossActions::CrossActions(CrossWindow& window, Workspace& workspace)
-    : QObject(&window), m_window(window) {
+    : QObject(&window), m_window(window), m_workspace(workspace) {
     makeFileMenu();
     makeEditMenu();
     makeMarkMenu();

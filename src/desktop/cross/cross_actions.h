@@ -40,6 +40,7 @@ private:
     [[nodiscard]] Commands athletes() const;
 
     CrossWindow& m_window;
+    Workspace& m_workspace;
     std::vector<QAction*> m_ofTrials; ///< that need the page of the time trials
     std::vector<QAction*> m_ofHeats;
     std::vector<QAction*> m_ofResults;
