@@ -203,6 +203,7 @@ void CompareWindow::connectPlayer() {
 }
 
 void CompareWindow::edit(const QString& what, const std::function<void(composejob001&)>& change) {
+    m_isCutToFour = false; // it was read, and the choice goes on from there
     m_document->edit(what, change);
 }
 
@@ -246,6 +247,7 @@ void CompareWindow::startWith(const CompareRequest& request) {
         job.films.push_back(filmOfCandidate(candidate));
     }
     constexpr std::size_t Most = 4;
+    const bool isTooMany = job.films.size() > Most;
     job.films.resize(std::min(job.films.size(), Most));
     if (request.splits) {
         job.synchronise = wordOf(Synchronise::Split);
@@ -261,6 +263,7 @@ void CompareWindow::startWith(const CompareRequest& request) {
     m_document->createNew(QFileInfo(first).absolutePath(), std::move(job), this);
     files.removeDuplicates();
     addFiles(files);
+    m_isCutToFour = isTooMany;
 }
 
 QString CompareWindow::told() const {
@@ -341,8 +344,11 @@ void CompareWindow::showPrepared() {
         return;
     }
     m_line->setTimes(prepared->choice, chosenPart(), prepared->splits, splitTitles());
+    QStringList faults = prepared->faults;
+    if (m_isCutToFour)
+        faults.prepend(tr("Four films are the most: these are the first four"));
     if (!m_isAligning)
-        tell(prepared->faults.join(QStringLiteral(". ")));
+        tell(faults.join(QStringLiteral(". ")));
     showPosition();
 }
 

@@ -10,9 +10,9 @@
 #include "desktop/film/mark_actions.h"
 #include "desktop/film/play_menu.h"
 #include "desktop/shell/typing.h"
+#include "desktop/shell/workspace.h"
 #include "desktop/splitfile/film_places.h"
 #include "splitdata/film_marks.h"
-#include "desktop/shell/workspace.h"
 
 #include <QAction>
 #include <QFileDialog>
@@ -175,8 +175,7 @@ void CrossActions::compareFilms() {
         names.append(QString::fromStdString(name));
     film.names = names.join(QStringLiteral(", "));
     for (const generaldata030& order : round.generals)
-        if (isTaken(order.time) &&
-            (film.startsAt == 0 || order.time.seconds() < film.startsAt))
+        if (isTaken(order.time) && (film.startsAt == 0 || order.time.seconds() < film.startsAt))
             film.startsAt = order.time.seconds();
     emit m_window.compareRequested({.runs = {}, .films = {film}});
 }
