@@ -41,7 +41,7 @@ void PreviewWorker::seek(double seconds) {
     const std::scoped_lock lock(m_guard);
     m_seek = seconds;
     m_playedFrom = seconds;
-    m_playedSince = Clock::now();
+    m_playedSince = SteadyClock::now();
     m_wake.notify_all();
 }
 
@@ -49,7 +49,7 @@ void PreviewWorker::setPlaying(bool isPlaying, double from) {
     const std::scoped_lock lock(m_guard);
     m_isPlaying = isPlaying;
     m_playedFrom = from;
-    m_playedSince = Clock::now();
+    m_playedSince = SteadyClock::now();
     m_wake.notify_all();
 }
 
@@ -74,7 +74,7 @@ bool PreviewWorker::waitForWork(const std::stop_token& stop) {
     if (m_isPlaying && m_preview && !hasNew()) {
         const std::chrono::duration<double> ahead(m_at + m_frameSeconds - m_playedFrom);
         m_wake.wait_until(lock, stop,
-                          m_playedSince + std::chrono::duration_cast<Clock::duration>(ahead),
+                          m_playedSince + std::chrono::duration_cast<SteadyClock::duration>(ahead),
                           [&] { return hasNew() || !m_isPlaying; });
     } else {
         m_wake.wait(lock, stop, [&] { return hasNew() || (m_isPlaying && m_preview); });
@@ -121,7 +121,7 @@ void PreviewWorker::prepare(const Wish& wish, const std::stop_token& stop) {
     m_seek = m_at;
     if (m_isPlaying) {
         m_playedFrom = m_at;
-        m_playedSince = Clock::now();
+        m_playedSince = SteadyClock::now();
     }
     m_news = {.number = wish.number, .prepared = std::move(prepared), .position = m_at};
     if (!std::exchange(m_isTold, true))
@@ -181,7 +181,7 @@ double PreviewWorker::nextPosition() {
     const std::scoped_lock lock(m_guard);
     if (const auto asked = std::exchange(m_seek, std::nullopt))
         return *asked;
-    const std::chrono::duration<double> played = Clock::now() - m_playedSince;
+    const std::chrono::duration<double> played = SteadyClock::now() - m_playedSince;
     return m_isPlaying ? m_playedFrom + played.count() : m_at;
 }
 

@@ -47,7 +47,7 @@ public:
     [[nodiscard]] News takeNews();
 
 private:
-    using Clock = std::chrono::steady_clock;
+    using SteadyClock = std::chrono::steady_clock;
 
     void work(const std::stop_token& stop);
     [[nodiscard]] bool waitForWork(const std::stop_token& stop);
@@ -79,7 +79,7 @@ private:
     std::optional<double> m_seek;
     bool m_isPlaying = false;
     double m_playedFrom = 0;
-    Clock::time_point m_playedSince;
+    SteadyClock::time_point m_playedSince;
     News m_news;
     bool m_isTold = false; ///< an event for the news is on its way
 
