@@ -25,7 +25,8 @@ constexpr std::array Kinds{KindOfMembers{"split file", {"info", "athletes"}},
                            KindOfMembers{"selection races", {"rules", "categories"}},
                            KindOfMembers{"team", {"realMyTeam", "realMyTeam"}},
                            KindOfMembers{"planning", {"coach", "athletes"}},
-                           KindOfMembers{"test results", {"tests", "eights"}}};
+                           KindOfMembers{"test results", {"tests", "eights"}},
+                           KindOfMembers{"comparison", {"films", "synchronise"}}};
 
 bool holdsAny(const Element& parent, std::string_view list) {
     simdjson::dom::array entries;

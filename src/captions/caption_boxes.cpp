@@ -29,7 +29,7 @@ struct BoxLook {
 
 BoxLook lookOf(CaptionKind kind) {
     switch (kind) {
-    case CaptionKind::Clock:
+    case CaptionKind::RunClock:
         return {.scale = 1.2, .isBold = true};
     case CaptionKind::Split:
         return {.isBold = true};
@@ -177,7 +177,7 @@ QImage captionBoxImage(const CaptionBox& box) {
     const QString text =
         metrics.elidedText(QString::fromStdString(box.text).simplified(), Qt::ElideRight,
                            std::max(box.widest - 2 * margin - bar, 1));
-    const bool isClock = box.kind == CaptionKind::Clock;
+    const bool isClock = box.kind == CaptionKind::RunClock;
     const int textWidth = isClock ? clockWidth(metrics, text) : metrics.horizontalAdvance(text);
     QImage image =
         emptyImage(evenUp(textWidth + 2 * margin + bar), evenUp(metrics.height() + margin));

@@ -103,7 +103,7 @@ void FilmCaptions::addFilm(const CaptionScene& scene, const Caption& caption, Co
     const int row = height + margin / 2;
     const auto put = [&](int x, int y) { placed.push_back({overlay, evenDown(x), evenDown(y)}); };
     switch (caption.kind) {
-    case CaptionKind::Clock:
+    case CaptionKind::RunClock:
     case CaptionKind::Split:
         put(right, corners.right);
         corners.right += row;

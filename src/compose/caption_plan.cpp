@@ -106,7 +106,7 @@ void CaptionPlan::addRun(std::vector<Caption>& captions, std::size_t film, doubl
         add(CaptionKind::Names,
             run.names + (run.names.empty() || run.category.empty() ? "" : "  ·  ") + run.category);
     if (m_choice.clock)
-        add(CaptionKind::Clock, clockText(film, common));
+        add(CaptionKind::RunClock, clockText(film, common));
     if (m_choice.splits)
         for (const Passing& passing : m_passings[film])
             if (passing.split > 0 && passing.common <= common + PassingSlack &&

@@ -32,7 +32,7 @@ struct CaptionChoice {
 
 enum class CaptionKind {
     Names,
-    Clock,
+    RunClock,
     Split,
     Penalty,
     Waits,

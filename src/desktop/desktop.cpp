@@ -1,6 +1,7 @@
 #include "desktop/desktop.h"
 
 #include "common/error.h"
+#include "desktop/compose/compare_window.h"
 #include "desktop/cross/cross_window.h"
 #include "desktop/fetch/fetch_window.h"
 #include "desktop/folder/films_window.h"
@@ -332,6 +333,7 @@ void Desktop::connectTool(ToolWindow& window) {
     connect(&window, &ToolWindow::earlierWorkRequested, this,
             [this] { m_earlierWork.chooseToBringBack(front()); });
     connect(&window, &ToolWindow::placeRequested, this, &Desktop::showPlace);
+    connect(&window, &ToolWindow::compareRequested, this, &Desktop::openCompare);
     if (window.file())
         connect(window.file(), &EditedFile::saved, this, &Desktop::rememberSession);
     // Later: while it is being destroyed, it still counts as a window of its kind.
@@ -451,6 +453,13 @@ void Desktop::openFilms(const QString& path) {
         show(window);
     else
         delete window;
+}
+
+void Desktop::openCompare(const CompareRequest& request) {
+    auto* const window = new CompareWindow(m_workspace, m_autosave);
+    window->startWith(request);
+    show(window);
+    bringToFront(*window);
 }
 
 void Desktop::showPlace(const Place& place) {

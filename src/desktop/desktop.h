@@ -24,6 +24,7 @@ class QWindow;
 namespace kavela::desktop {
 
 class CrossWindow;
+struct CompareRequest;
 class HeldDocuments;
 class MotionWindow;
 class HomeWindow;
@@ -111,6 +112,8 @@ public:
     void showLossesAgain(const QStringList& paths, const QString& view) {
         m_analysis.showLossesAgain(paths, view);
     }
+    /// Compares films in a window of its own.
+    void openCompare(const CompareRequest& request);
     /// Opens the planning that the preferences name, where they ask for one.
     void loadPlanningAtStart() { m_plannings.loadAtStart(); }
 

@@ -1,5 +1,6 @@
 #include "desktop/tools.h"
 
+#include "desktop/compose/compare_window.h"
 #include "desktop/cross/cross_window.h"
 #include "desktop/fetch/fetch_window.h"
 #include "desktop/find/find_window.h"
@@ -87,6 +88,14 @@ std::vector<ToolKind> makeTools() {
          Choice::Files,
          {tr("Open a kayak cross"), tr("Split files"), "kvx", {}},
          makeEditor<CrossWindow>},
+        {"compare",
+         OpensAs::Comparison,
+         tr("Compare films"),
+         tr("Two to four runs in one picture, together at a split, as a film to take home."),
+         "compare",
+         Choice::Document,
+         {tr("Comparisons of films"), tr("Comparisons"), "json", tr("Comparison")},
+         makeEditor<CompareWindow>},
         {"team",
          OpensAs::Team,
          tr("Team"),

@@ -31,11 +31,11 @@ protected:
 
 TEST_F(Captions, TheClockRunsFromTheStartAndStopsAtTheFinish) {
     const CaptionPlan captions = plan();
-    EXPECT_EQ(textOf(captions, CaptionKind::Clock, 0, -1), "0.00");
-    EXPECT_EQ(textOf(captions, CaptionKind::Clock, 0, 1.25), "1.25");
-    EXPECT_EQ(textOf(captions, CaptionKind::Clock, 0, 9), "5.00");
-    EXPECT_EQ(textOf(captions, CaptionKind::Clock, 1, 6.5), "6.50");
-    EXPECT_EQ(textOf(captions, CaptionKind::Clock, 1, 9), "7.00");
+    EXPECT_EQ(textOf(captions, CaptionKind::RunClock, 0, -1), "0.00");
+    EXPECT_EQ(textOf(captions, CaptionKind::RunClock, 0, 1.25), "1.25");
+    EXPECT_EQ(textOf(captions, CaptionKind::RunClock, 0, 9), "5.00");
+    EXPECT_EQ(textOf(captions, CaptionKind::RunClock, 1, 6.5), "6.50");
+    EXPECT_EQ(textOf(captions, CaptionKind::RunClock, 1, 9), "7.00");
 }
 
 TEST_F(Captions, ASplitTimeAndItsGapStayForTwoSeconds) {

@@ -1,5 +1,6 @@
 #include "desktop/cross/cross_actions.h"
 
+#include "desktop/compose/compare_request.h"
 #include "desktop/cross/course_strip.h"
 #include "desktop/cross/cross_window.h"
 #include "desktop/cross/heats/heat_page.h"
@@ -10,6 +11,8 @@
 #include "desktop/film/play_menu.h"
 #include "desktop/shell/typing.h"
 #include "desktop/shell/workspace.h"
+#include "desktop/splitfile/film_places.h"
+#include "splitdata/film_marks.h"
 
 #include <QAction>
 #include <QFileDialog>
@@ -28,7 +31,7 @@ QKeySequence numberKey(int number, Qt::KeyboardModifiers modifiers = {}) {
 } // namespace
 
 CrossActions::CrossActions(CrossWindow& window, Workspace& workspace)
-    : QObject(&window), m_window(window) {
+    : QObject(&window), m_window(window), m_workspace(workspace) {
     makeFileMenu();
     makeEditMenu();
     makeMarkMenu();
@@ -151,8 +154,30 @@ void CrossActions::makeHeatMenu() {
     m_ofHeats = {
         add(*menu, tr("A&ttack, beginning here"), {Qt::Key_A}, [&heats] { heats.addAttack(); }),
         add(*menu, tr("&End of the attack"), {Qt::Key_E}, [&heats] { heats.endAttack(); }),
+        add(*menu, tr("Compare &films of the heat…"), {Qt::CTRL | Qt::SHIFT | Qt::Key_F},
+            [this] { compareFilms(); }),
         add(*menu, tr("&Names of the boats…"), {}, [&heats] { heats.renameBoats(); }),
         add(*menu, tr("&Remove the heat"), {}, [&heats] { heats.removeHeat(); })};
+}
+
+/// Of one heat there is one film: another one is chosen beside it there.
+void CrossActions::compareFilms() {
+    const auto heat = m_window.heats().heat();
+    const auto& heats = m_window.document().cross().eliphase;
+    if (!heat || *heat >= heats.size() || heats[*heat].videoname.empty())
+        return;
+    const rounddata030& round = heats[*heat];
+    CompareRequest::Film film;
+    film.path = placeOfFilm(m_workspace, m_window.document().path(),
+                            QString::fromStdString(round.videoname));
+    QStringList names;
+    for (const std::string& name : round.athletes)
+        names.append(QString::fromStdString(name));
+    film.names = names.join(QStringLiteral(", "));
+    for (const generaldata030& order : round.generals)
+        if (isTaken(order.time) && (film.startsAt == 0 || order.time.seconds() < film.startsAt))
+            film.startsAt = order.time.seconds();
+    emit m_window.compareRequested({.runs = {}, .films = {film}});
 }
 
 void CrossActions::makeViewMenu() {

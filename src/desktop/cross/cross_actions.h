@@ -31,6 +31,7 @@ private:
     void makeMarkMenu();
     void makeTrialMenu();
     void makeHeatMenu();
+    void compareFilms();
     void makeViewMenu();
     QAction* add(QMenu& menu, const QString& text, const QList<QKeySequence>& keys, Act act);
     /// Saves, then hands the file on to another tool.
@@ -39,6 +40,7 @@ private:
     [[nodiscard]] Commands athletes() const;
 
     CrossWindow& m_window;
+    Workspace& m_workspace;
     std::vector<QAction*> m_ofTrials; ///< that need the page of the time trials
     std::vector<QAction*> m_ofHeats;
     std::vector<QAction*> m_ofResults;

@@ -142,6 +142,8 @@ void LossesActions::makeFilmMenu() {
     QMenu* menu = window->menuBar()->addMenu(tr("Fil&ms"));
     menu->addAction(tr("&Play the section of both runs"), QKeySequence(Qt::Key_P), window,
                     [window] { window->playChosen(); });
+    menu->addAction(tr("&Film this loss…"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_F), window,
+                    [window] { window->filmLoss(); });
     menu->addActions(window->clips().playActions());
     menu->addAction(tr("&Hide the films"), QKeySequence(Qt::SHIFT | Qt::Key_P), window,
                     [window] { window->hideClips(); });

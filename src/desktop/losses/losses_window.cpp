@@ -1,5 +1,6 @@
 #include "desktop/losses/losses_window.h"
 
+#include "desktop/compose/compare_request.h"
 #include "desktop/film/clip_pair.h"
 #include "desktop/losses/athlete_pages.h"
 #include "desktop/losses/loss_charts_panel.h"
@@ -380,6 +381,28 @@ Clip LossesWindow::clipOf(const std::optional<FilmSpan>& span, const QString& ca
     return {placeOfFilm(workspace(), QString::fromStdString(facts.pathOf(row).string()),
                         QString::fromUtf8(film.data(), static_cast<qsizetype>(film.size()))),
             span->from, span->to, caption};
+}
+
+void LossesWindow::filmLoss() {
+    const Stretch* const stretch = m_state.hasRun() ? m_state.stretch() : nullptr;
+    const FactStore& facts = m_state.facts();
+    const auto other =
+        stretch ? runToWatch(facts, m_state.rivals(), m_state.losses(), *stretch) : std::nullopt;
+    if (!stretch || !other) {
+        tell(stretch ? tr("There is no run to film beside it.") : tr("Choose a section first."));
+        return;
+    }
+    CompareRequest request;
+    for (const std::size_t run : {m_state.run(), *other}) {
+        if (!filmSpanOf(facts, run, stretch->first, stretch->last)) {
+            tell(tr("No film shows %1 here.").arg(runTitle(facts, run)));
+            return;
+        }
+        const RunRow& row = facts.runs()[run];
+        request.runs.push_back({QString::fromStdString(facts.pathOf(row).string()), row.number});
+    }
+    request.splits = std::pair(stretch->first - 1, stretch->last);
+    emit compareRequested(request);
 }
 
 void LossesWindow::hideClips() {

@@ -62,6 +62,8 @@ public:
     /// Plays the chosen section of both.
     void playChosen();
     void hideClips();
+    /// Compares the films of both runs over the chosen section.
+    void filmLoss();
     /// Another run of the group.
     void goToRun(int step);
     void saveTable();

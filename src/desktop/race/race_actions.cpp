@@ -1,6 +1,7 @@
 #include "desktop/race/race_actions.h"
 
 #include "desktop/charts/chart_panel.h"
+#include "desktop/compose/compare_request.h"
 #include "desktop/race/race_view.h"
 #include "desktop/race/race_window.h"
 #include "desktop/shell/workspace.h"
@@ -161,6 +162,8 @@ void RaceActions::makeCompareMenu() {
         [](RaceView& view, bool on) { view.document().setIdealShown(on); });
     add(*menu, tr("A &run of another race…"), QKeySequence(Qt::Key_C),
         [](RaceView& view) { view.compareWithOtherRace(); });
+    add(*menu, tr("&Films of the selected runs…"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_F),
+        [this](RaceView& view) { compareFilms(view); });
     menu->addAction(
         tr("With &official results…"), QKeySequence(Qt::CTRL | Qt::Key_U), &m_window,
         [this] { emit m_window.officialDifferencesRequested(m_window.document().path()); });
@@ -169,6 +172,13 @@ void RaceActions::makeCompareMenu() {
                     [this] { emit m_window.tablesRequested(m_window.document().path()); });
     add(*menu, tr("&Clear the comparison"), QKeySequence(Qt::SHIFT | Qt::Key_C),
         [](RaceView& view) { view.document().clearComparisons(); });
+}
+
+void RaceActions::compareFilms(const RaceView& view) {
+    CompareRequest request;
+    for (const std::size_t run : view.selectedRuns())
+        request.runs.push_back({view.document().path(), run});
+    emit m_window.compareRequested(request);
 }
 
 /// Of the window and not of the charts: their keys are meant from the table too, and where races

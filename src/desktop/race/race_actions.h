@@ -33,6 +33,7 @@ private:
     void makeContentMenu(QMenu& menu);
     void makeReferenceMenu(QMenu& menu);
     void makeCompareMenu();
+    void compareFilms(const RaceView& view);
     void makeChartMenu();
     void makeWindowMenu();
     QAction* add(QMenu& menu, const QString& text, const QKeySequence& keys, ViewAction act);

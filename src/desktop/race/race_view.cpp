@@ -392,6 +392,15 @@ std::optional<std::size_t> RaceView::currentRun() const {
                  : std::nullopt;
 }
 
+std::vector<std::size_t> RaceView::selectedRuns() const {
+    std::vector<std::size_t> runs;
+    for (const int row : m_selection->rows())
+        if (const auto shown = m_model.runOfRow(row))
+            runs.push_back(
+                static_cast<std::size_t>(m_document.shownSet().alldata[*shown].athleteInt));
+    return runs;
+}
+
 void RaceView::noticeChange() {
     if (QFileInfo::exists(m_document.path()))
         showNote(tr("The file on the disk is newer than what you see."), true);

@@ -66,6 +66,8 @@ public:
     void selectRun(std::size_t run);
     /// The run of the file in the current row; none in a comparison row and without a row.
     [[nodiscard]] std::optional<std::size_t> currentRun() const;
+    /// The selected runs of the file, in the order in which they were selected.
+    [[nodiscard]] std::vector<std::size_t> selectedRuns() const;
     void copySelection();
     void saveCsv();
     /// Shows the reports of the race as they come out of the printer.

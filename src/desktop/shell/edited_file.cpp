@@ -304,7 +304,7 @@ void EditedFile::write(const QString& path, QWidget* over, Saved saved) {
     writing->over = over;
     writing->saved = std::move(saved);
     m_writing = writing;
-    const auto task = [writing, content = contentNow(), beside = besideNow()] {
+    const auto task = [writing, content = contentFor(path), beside = besideNow()] {
         const std::filesystem::path file = writing->path.toStdString();
         writing->fault = faultOf([&] { writeFileSafely(file, content()); });
         writing->written = FileStamp(writing->path);

@@ -92,6 +92,8 @@ protected:
     /// document is gone: it holds the value itself. May throw EncodeError.
     using Content = Autosave::Content;
     [[nodiscard]] virtual Content contentNow() const = 0;
+    /// The same as it is written to a path, from which it may name other files.
+    [[nodiscard]] virtual Content contentFor(const QString& /*path*/) const { return contentNow(); }
     /// The same as it is kept apart, where that is more than the file has a place for.
     [[nodiscard]] virtual Content keptContentNow() const { return contentNow(); }
     /// Writes what belongs beside the file, such as lists, once the file itself is there. It runs

@@ -19,6 +19,7 @@ struct Place;
 namespace kavela::desktop {
 
 class Workspace;
+struct CompareRequest;
 
 /// What every window of a tool does alike: its title with the mark of unsaved work, the menus File,
 /// Edit and Help, files dropped on it, its place, what is typed and taken over, and the question
@@ -102,6 +103,8 @@ signals:
     void stayed();
     /// Where a number comes from is to be shown: its file at that run and frame.
     void placeRequested(const kavela::Place& place);
+    /// Films that it shows are to be compared.
+    void compareRequested(const kavela::desktop::CompareRequest& request);
 
 protected:
     /// Asks what becomes of unsaved work. Where it is to be saved, the window stays until it is

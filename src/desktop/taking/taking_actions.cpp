@@ -1,5 +1,6 @@
 #include "desktop/taking/taking_actions.h"
 
+#include "desktop/compose/compare_request.h"
 #include "desktop/film/film_deck.h"
 #include "desktop/film/film_stage.h"
 #include "desktop/film/mark_actions.h"
@@ -71,6 +72,15 @@ void TakingActions::makeFileMenu() {
         if (m_window.commit()) // what is typed is shown too; nothing is saved
             emit m_window.analysisRequested();
     });
+    m_ofRun.push_back(add(*menu, tr("Compare fil&ms of the run…"),
+                          {keys(Qt::CTRL | Qt::SHIFT | Qt::Key_F)}, [this] {
+                              m_window.whenSaved([this] {
+                                  emit m_window.compareRequested(
+                                      {.runs = {{m_window.document().path(),
+                                                 static_cast<std::size_t>(m_window.currentRun())}},
+                                       .films = {}});
+                              });
+                          }));
     add(*menu, tr("Kayak &cross of this race"), {keys(Qt::CTRL | Qt::SHIFT | Qt::Key_R)}, [this] {
         m_window.whenSaved([this] { emit m_window.crossRequested(m_window.document().path()); });
     });

@@ -1,0 +1,68 @@
+#include "desktop/compose/compare_document.h"
+
+#include "common/error.h"
+#include "common/json_decode.h"
+#include "common/json_encode.h"
+#include "compose/job_paths.h"
+#include "desktop/shell/workspace.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+namespace kavela::desktop {
+
+bool CompareDocument::open(const QString& path, QWidget* over) {
+    const QString file = QFileInfo(path).absoluteFilePath();
+    std::string reason;
+    try {
+        const std::filesystem::path place = file.toStdString();
+        start(withFullNames(readComposeJob(place), place.parent_path()), path, over);
+        return true;
+    } catch (const FileError& error) {
+        reason = error.reason();
+    } catch (const DecodeError& error) {
+        reason = tr("It is no comparison of films, or a damaged one: %1")
+                     .arg(QString::fromStdString(error.what()))
+                     .toStdString();
+    }
+    tellUnreadable(path, reason, over);
+    return false;
+}
+
+void CompareDocument::startNew(const QString& path, composejob001 job, QWidget* over) {
+    start(std::move(job), path, over);
+}
+
+void CompareDocument::createNew(const QString& folder, composejob001 job, QWidget* over) {
+    QString path = QDir(folder).filePath("Comparison.json");
+    for (int number = 2; QFileInfo::exists(path); ++number)
+        path = QDir(folder).filePath(QString("Comparison %1.json").arg(number));
+    startNew(path, std::move(job), over);
+}
+
+EditedFile::Content CompareDocument::contentNow() const {
+    return [job = shared()] { return encode(*job); };
+}
+
+EditedFile::Content CompareDocument::contentFor(const QString& path) const {
+    return [job = shared(), folder = QFileInfo(path).absolutePath().toStdString()] {
+        return encode(withNamesFrom(*job, folder));
+    };
+}
+
+bool CompareDocument::recover(const std::string& content) {
+    try {
+        startFrom(decodeText<composejob001>(content));
+        return true;
+    } catch (const DecodeError& error) {
+        workspace().log()(error.what());
+        return false;
+    }
+}
+
+QString CompareDocument::summary() const {
+    const std::size_t count = value().films.size();
+    return count == 1 ? tr("1 film") : tr("%1 films").arg(count);
+}
+
+} // namespace kavela::desktop
