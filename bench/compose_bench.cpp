@@ -5,7 +5,7 @@
 #include "compose/composer.h"
 #include "compose/preview.h"
 #include "sample_files.h"
-#include "video/writing/thumbnail.h"
+#include "video/thumbnail.h"
 
 #include <benchmark/benchmark.h>
 
@@ -137,18 +137,16 @@ void addThumbnails() {
         "compose/thumbnails",
         [](benchmark::State& state) {
             static const ScratchFolder folder;
-            const ScratchFolder cache;
             const auto first = folder.write("film 0.mp4", "");
             static_cast<void>(outputOf(makingOf("4", first)));
             for (int i = 1; i < ThumbnailFilms; ++i)
                 std::filesystem::copy_file(
                     first, first.parent_path() / ("film " + std::to_string(i) + ".mp4"),
                     std::filesystem::copy_options::overwrite_existing);
-            const auto kept = cache.write("mark", "").parent_path();
             for ([[maybe_unused]] const auto iteration : state)
                 for (int i = 0; i < ThumbnailFilms; ++i)
-                    benchmark::DoNotOptimize(thumbnailOf(
-                        first.parent_path() / ("film " + std::to_string(i) + ".mp4"), kept));
+                    benchmark::DoNotOptimize(readThumbnail(
+                        first.parent_path() / ("film " + std::to_string(i) + ".mp4"), {320, 320}));
         })
         ->Iterations(1)
         ->Repetitions(1)

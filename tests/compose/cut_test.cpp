@@ -3,12 +3,9 @@
 #include "common/temp_folder.h"
 #include "video/clips.h"
 #include "video/frame_source.h"
-#include "video/writing/thumbnail.h"
 
 #include <gmock/gmock.h>
 
-#include <chrono>
-#include <fstream>
 
 /// Both ends of a piece, by the numbers in its frames.
 namespace kavela {
@@ -77,22 +74,6 @@ TEST(StoppedCut, LeavesNothing) {
                              }));
         EXPECT_THAT(folder.names(), ::testing::IsEmpty());
     }
-}
-
-TEST(Thumbnail, IsMadeOnceAndAgainWhenTheFilmChanged) {
-    const test::TempFolder folder;
-    const auto film = folder.path() / "film.mp4";
-    const auto cache = folder.path() / "cache";
-    std::filesystem::copy_file(clip("short_groups.mp4"), film);
-    const std::string made = thumbnailOf(film, cache);
-    EXPECT_THAT(made, ::testing::StartsWith("\xff\xd8\xff"));
-    const auto kept = std::filesystem::directory_iterator(cache)->path();
-    std::ofstream(kept, std::ios::binary) << "kept";
-    EXPECT_EQ(thumbnailOf(film, cache), "kept");
-    std::filesystem::last_write_time(film, std::filesystem::file_time_type::clock::now() -
-                                               std::chrono::hours(1));
-    EXPECT_EQ(thumbnailOf(film, cache), made);
-    EXPECT_EQ(thumbnailOf(film, folder.add("a file", "")), made) << "a cache of no use";
 }
 
 } // namespace
