@@ -32,6 +32,9 @@ FolderScan scanNamed(const std::vector<std::string>& paths) {
     FolderScan scan = scanWithBar(paths);
     for (const ScanFault& fault : scan.failed)
         logLine(pathText(fault.path) + ": " + fault.reason);
+    for (const ScanCopy& copy : scan.copies)
+        logLine(pathText(copy.path) + ": is a copy of " + pathText(copy.of) +
+                " and does not count.");
     return scan;
 }
 

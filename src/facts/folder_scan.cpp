@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <chrono>
 #include <iterator>
+#include <map>
 #include <mutex>
 #include <optional>
 #include <set>
@@ -296,29 +297,39 @@ private:
     }
 
     void take(const fs::path& root, FactCache& cache, const std::vector<std::string>& repeated) {
-        if (m_scan.facts.files().empty() && repeated.empty()) {
-            for (const KnownFile& file : cache.files)
-                if (file.kind == KnownFile::Kind::SplitFile)
-                    m_scan.hashes.push_back(file.hash);
-            m_scan.facts = std::move(cache.facts);
-            return;
-        }
-        FactTransfer transfer(cache.facts, m_scan.facts);
+        std::vector<std::pair<std::size_t, fs::path>> rows; ///< of the facts that count
         std::size_t row = 0;
         for (const KnownFile& file : cache.files) {
             if (file.kind != KnownFile::Kind::SplitFile)
                 continue;
-            if (!std::ranges::binary_search(repeated, file.path)) {
-                transfer.add(row, (root / file.path).native());
+            fs::path path = root / file.path;
+            if (!std::ranges::binary_search(repeated, file.path) && isNew(file, path)) {
+                rows.emplace_back(row, std::move(path));
                 m_scan.hashes.push_back(file.hash);
             }
             ++row;
         }
+        if (m_scan.facts.files().empty() && rows.size() == row) {
+            m_scan.facts = std::move(cache.facts);
+            return;
+        }
+        FactTransfer transfer(cache.facts, m_scan.facts);
+        for (const auto& [kept, path] : rows)
+            transfer.add(kept, path.native());
+    }
+
+    /// False for a copy of a file that was met before.
+    [[nodiscard]] bool isNew(const KnownFile& file, const fs::path& path) {
+        const auto [first, isNew] = m_contents.try_emplace({file.hash, file.stamp.size}, path);
+        if (!isNew)
+            m_scan.copies.push_back({path, first->second});
+        return isNew;
     }
 
     const ScanOptions& m_options;
     FolderScan m_scan;
     std::set<std::pair<std::uint64_t, std::uint64_t>> m_met;
+    std::map<std::pair<std::uint64_t, std::uint64_t>, fs::path> m_contents;
 };
 
 } // namespace

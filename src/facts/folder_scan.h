@@ -21,17 +21,24 @@ struct ScanOptions {
     std::stop_token stop; ///< ends the scan early; what was read by then is kept
 };
 
+/// A split file of exactly the content of another.
+struct ScanCopy {
+    std::filesystem::path path;
+    std::filesystem::path of; ///< the one that counts
+};
+
 struct FolderScan {
     FactStore facts; ///< files in the order of the call, those of a folder by their paths
     std::vector<std::uint64_t> hashes; ///< of the contents of these files
     std::size_t read = 0;              ///< files that were read now, the others being known
     std::vector<ScanFault> failed;
+    std::vector<ScanCopy> copies; ///< that do not count
     std::vector<std::filesystem::path> folders; ///< that were walked, for whoever watches them
     bool isCancelled = false;
 };
 
 /// Reads what the paths mean, folders with all below them. A file that several of them lead to
-/// counts once. A file that is named itself is read whatever its name.
+/// counts once, and so does one of which copies lie elsewhere: a backup is no second race. A file that is named itself is read whatever its name.
 [[nodiscard]] FolderScan scanPaths(std::span<const std::filesystem::path> paths,
                                    const ScanOptions& options = {});
 

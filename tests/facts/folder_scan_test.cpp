@@ -101,6 +101,24 @@ TEST_F(Scans, LinksLeadToEachFileOnce) {
     EXPECT_THAT(found.failed, IsEmpty());
 }
 
+TEST_F(Scans, ACopyIsNoSecondRaceUntilItIsChanged) {
+    write("2026/a.kvx", "Adam");
+    write("2026/b.kvx", "Brno");
+    write("backup/a.kvx", "Adam");
+    for (int times = 0; times < 2; ++times) { // read, then known
+        const FolderScan found = scan();
+        EXPECT_THAT(placesOf(found), ElementsAre("Adam", "Brno"));
+        ASSERT_EQ(found.copies.size(), 1U);
+        EXPECT_EQ(found.copies[0].path, m_season.path() / "backup/a.kvx");
+        EXPECT_EQ(found.copies[0].of, m_season.path() / "2026/a.kvx");
+        EXPECT_EQ(found.hashes.size(), 2U);
+    }
+    const std::vector<fs::path> apart{m_season.path() / "2026", m_season.path() / "backup"};
+    EXPECT_THAT(placesOf(scanPaths(apart)), ElementsAre("Adam", "Brno"));
+    write("backup/a.kvx", "Aosta");
+    EXPECT_THAT(placesOf(scan()), ElementsAre("Adam", "Brno", "Aosta"));
+}
+
 TEST_F(Scans, ADamagedCacheCountsAsNone) {
     write("a.kvx", "Adam");
     (void)scan();
