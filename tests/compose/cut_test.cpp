@@ -3,9 +3,13 @@
 #include "common/temp_folder.h"
 #include "video/clips.h"
 #include "video/frame_source.h"
+#include "video/writing/unfinished_file.h"
 
 #include <gmock/gmock.h>
 
+#include <unistd.h>
+
+#include <chrono>
 
 /// Both ends of a piece, by the numbers in its frames.
 namespace kavela {
@@ -74,6 +78,24 @@ TEST(StoppedCut, LeavesNothing) {
                              }));
         EXPECT_THAT(folder.names(), ::testing::IsEmpty());
     }
+}
+
+TEST(UnfinishedFile, ClearsUpAfterAProgramThatWasKilled) {
+    const test::TempFolder folder;
+    const auto leave = [&](const std::string& name, int minutes) {
+        std::filesystem::last_write_time(folder.add(name, "half"),
+                                         std::filesystem::file_time_type::clock::now() -
+                                             std::chrono::minutes(minutes));
+    };
+    leave(".a.mp4.999999999-0.tmp", 60);
+    leave(".a.mp4.999999998-0.tmp", 1); // perhaps of another machine
+    leave(".a.mp4." + std::to_string(::getpid()) + "-7.tmp", 60);
+    leave(".a.mp4.mp4.999999999-0.tmp", 60);
+    UnfinishedFile(folder.path() / "a.mp4").finish();
+    EXPECT_THAT(folder.names(),
+                ::testing::UnorderedElementsAre("a.mp4", ".a.mp4.999999998-0.tmp",
+                                                ".a.mp4." + std::to_string(::getpid()) + "-7.tmp",
+                                                ".a.mp4.mp4.999999999-0.tmp"));
 }
 
 } // namespace

@@ -21,6 +21,7 @@ CompareView::CompareView(QWidget* parent) : QWidget(parent) {
     setMinimumSize(320, 180);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     setAttribute(Qt::WA_OpaquePaintEvent);
+    setFocusPolicy(Qt::StrongFocus); // a click leaves the search, so that Space plays
     setAccessibleName(tr("Preview of the composed film"));
 }
 

@@ -215,6 +215,7 @@ bool CompareWindow::open(const QString& path) {
         files.append(QString::fromStdString(film.splitFile.empty() ? film.film : film.splitFile));
     files.removeDuplicates();
     addFiles(files);
+    m_view->setFocus();
     return true;
 }
 
@@ -264,6 +265,7 @@ void CompareWindow::startWith(const CompareRequest& request) {
     files.removeDuplicates();
     addFiles(files);
     m_isCutToFour = isTooMany;
+    m_view->setFocus();
 }
 
 QString CompareWindow::told() const {

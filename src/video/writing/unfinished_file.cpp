@@ -3,9 +3,14 @@
 #include "common/safe_file.h"
 
 #include <fcntl.h>
+#include <signal.h>
+#include <unistd.h>
 
 #include <cerrno>
+#include <chrono>
 #include <cstdio>
+#include <cstdlib>
+#include <system_error>
 
 namespace kavela {
 
@@ -18,6 +23,33 @@ std::filesystem::path hiddenName(const std::filesystem::path& target, int attemp
     return target.parent_path() /
            ('.' + target.filename().string().substr(0, LongestStem) + '.' +
             std::to_string(::getpid()) + '-' + std::to_string(attempt) + ".tmp");
+}
+
+bool isRunning(const std::string& process) {
+    return ::kill(static_cast<pid_t>(std::atol(process.c_str())), 0) == 0 || errno != ESRCH;
+}
+
+/// What a program that was killed left of the same film. On a shared folder the process may be one
+/// of another machine: a film that is still being written is never as old.
+void removeLeftOver(const std::filesystem::path& target) {
+    constexpr std::chrono::minutes Old{30};
+    namespace fs = std::filesystem;
+    const std::string start = hiddenName(target, 0).filename().string();
+    const std::string stem = start.substr(0, start.rfind('.', start.size() - 5) + 1);
+    std::error_code fault;
+    const fs::path folder = target.parent_path();
+    for (fs::directory_iterator entry(folder.empty() ? fs::path(".") : folder, fault), end;
+         !fault && entry != end; entry.increment(fault)) {
+        const std::string name = entry->path().filename().string();
+        const std::size_t dash = name.find('-', stem.size());
+        if (!name.starts_with(stem) || !name.ends_with(".tmp") || dash == std::string::npos)
+            continue;
+        std::error_code gone;
+        const auto written = entry->last_write_time(gone);
+        if (!gone && fs::file_time_type::clock::now() - written > Old &&
+            !isRunning(name.substr(stem.size(), dash - stem.size())))
+            fs::remove(entry->path(), gone);
+    }
 }
 
 /// The name lasts through a power cut only when the folder is on the disk too. By then the file is
@@ -36,6 +68,7 @@ void flushFolderOf(const std::filesystem::path& file) {
 
 UnfinishedFile::UnfinishedFile(std::filesystem::path target, std::stop_token stop)
     : m_target(std::move(target)), m_stop(std::move(stop)) {
+    removeLeftOver(m_target);
     constexpr int Attempts = 100;
     for (int attempt = 0; !m_file; ++attempt) {
         m_hidden = hiddenName(m_target, attempt);

@@ -13,7 +13,8 @@ namespace kavela {
 /// removed again unless it is finished.
 class UnfinishedFile final : public FilmSink {
 public:
-    /// Throws FileError where the folder cannot be written to. Once `stop` is requested, writing
+    /// Removes what a killed program left of the same film half an hour ago or earlier. Throws
+    /// FileError where the folder cannot be written to. Once `stop` is requested, writing
     /// throws FilmStopped.
     explicit UnfinishedFile(std::filesystem::path target, std::stop_token stop = {});
     ~UnfinishedFile() override;
