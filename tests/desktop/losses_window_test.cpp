@@ -286,7 +286,9 @@ TEST_F(LossesWindowTest, TellsWhenTheRunOrItsRivalIsGone) {
 
 TEST_F(LossesWindowTest, WritesTheAthletesPageOfOneRaceOrOfAll) {
     const QString first = add("first.kvx", threeRuns());
-    ASSERT_TRUE(open({first, add("second.kvx", threeRuns())}, 1));
+    splittakerdata031 second = threeRuns();
+    second.info.comments = "The day after.";
+    ASSERT_TRUE(open({first, add("second.kvx", second)}, 1));
     const AthletePageDialog dialog(state(), m_window.season().query(), &m_window);
     auto* const scope = dialog.findChild<QComboBox*>("scope");
     auto* const crews = dialog.findChild<QComboBox*>("crew");

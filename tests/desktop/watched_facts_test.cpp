@@ -61,14 +61,14 @@ TEST_F(WatchedFactsTest, WhatChangesOnTheDiskIsReadAgainByItself) {
 
     put("old/c.kvx", sample("highland_open.kvx"));
     EXPECT_TRUE(QTest::qWaitFor([&] { return names(facts).size() == 3; })) << "one came";
-    put("a.kvx", sample("spring_opener.kvx"));
+    put("a.kvx", sample("harbour_night.kvx"));
     EXPECT_TRUE(QTest::qWaitFor([&] {
         const auto now = facts.facts();
-        return now->text(now->files()[0].title) == now->text(now->files()[1].title);
+        return now->text(now->files()[0].title) == "Nuit du Vieux-Port";
     })) << "one was replaced";
     fs::remove(races() / "old/b.kvx");
     EXPECT_TRUE(QTest::qWaitFor([&] { return names(facts).size() == 2; })) << "one went";
-    put("2027/heats/d.kvx", sample("highland_open.kvx"));
+    put("2027/heats/d.kvx", sample("riverside_cup.kvx"));
     EXPECT_TRUE(QTest::qWaitFor([&] { return names(facts).size() == 3; })) << "in a new folder";
     put("a.kvx", "no race");
     EXPECT_TRUE(QTest::qWaitFor([&] { return !facts.failed().empty(); }));
@@ -98,7 +98,8 @@ TEST_F(WatchedFactsTest, AFileNamedItselfIsFollowedWhereItIsWrittenInPlaceAndWhe
 
 TEST_F(WatchedFactsTest, AReadingCanBeCancelledReplacedAndLeft) {
     for (int i = 0; i < 40; ++i)
-        put(std::to_string(i) + ".kvx", sample("riverside_cup.kvx"));
+        put(std::to_string(i) + ".kvx",
+            sample("riverside_cup.kvx") + std::string(static_cast<std::size_t>(i), '\n'));
     put("other/z.kvx", sample("spring_opener.kvx"));
     WatchedFacts facts(nullptr, {});
     QSignalSpy changes(&facts, &WatchedFacts::changed);
