@@ -107,10 +107,12 @@ Commands Desktop::toolCommands() {
 void Desktop::showHome() {
     if (!m_home) {
         Tools tools;
-        for (const ToolKind& tool : toolKinds())
-            if (!tool.sentence.isEmpty())
-                tools.push_back({tool.title, tool.sentence, icon(tool.icon),
-                                 [this, &tool] { m_choice.choose(tool); }});
+        for (const HomeGroup& group : homeGroups()) {
+            tools.push_back({group.title, {}});
+            for (const ToolKind* const tool : group.tools)
+                tools.back().tools.push_back({tool->title, tool->sentence, icon(tool->icon),
+                                              [this, tool] { m_choice.choose(*tool); }});
+        }
         m_home = new HomeWindow(m_workspace, tools);
         m_home->setAttribute(Qt::WA_DeleteOnClose);
         connect(m_home, &HomeWindow::settingsRequested, this, &Desktop::openSettings);

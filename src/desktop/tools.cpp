@@ -22,8 +22,10 @@
 
 #include <QCoreApplication>
 #include <QDate>
+#include <QStringList>
 
 #include <algorithm>
+#include <utility>
 
 namespace kavela::desktop {
 
@@ -200,7 +202,34 @@ const ToolKind* toolWhere(const std::function<bool(const ToolKind&)>& isIt) {
     return found == toolKinds().end() ? nullptr : &*found;
 }
 
+struct HomeColumn {
+    const char* title;
+    QStringList kinds; ///< from the top
+};
+
+const std::vector<HomeColumn>& homeColumns() {
+    static const std::vector<HomeColumn> Columns{
+        {QT_TRANSLATE_NOOP("Desktop", "A race"), {"race", "losses", "penalties", "tables", "find"}},
+        {QT_TRANSLATE_NOOP("Desktop", "Films"), {"taking", "cross", "films", "compare", "fetch"}},
+        {QT_TRANSLATE_NOOP("Desktop", "The season"), {"season", "team", "selection"}},
+        {QT_TRANSLATE_NOOP("Desktop", "Training"), {"planning", "watertests", "motion", "session"}},
+    };
+    return Columns;
+}
+
 } // namespace
+
+std::vector<HomeGroup> homeGroups() {
+    std::vector<HomeGroup> groups;
+    for (const HomeColumn& column : homeColumns()) {
+        HomeGroup group{tr(column.title), {}};
+        for (const QString& kind : column.kinds)
+            if (const ToolKind* const tool = toolOfKind(kind))
+                group.tools.push_back(tool);
+        groups.push_back(std::move(group));
+    }
+    return groups;
+}
 
 const std::vector<ToolKind>& toolKinds() {
     static const std::vector<ToolKind> Kinds = makeTools();

@@ -37,7 +37,14 @@ struct ToolKind {
     std::function<ToolWindow*(Workspace&, const Autosave&)> make;
 };
 
-/// In the order of the home screen.
+/// Tools that stand together on the home screen.
+struct HomeGroup {
+    QString title;
+    std::vector<const ToolKind*> tools;
+};
+/// All that have a sentence, each once.
+[[nodiscard]] std::vector<HomeGroup> homeGroups();
+
 [[nodiscard]] const std::vector<ToolKind>& toolKinds();
 
 /// Null for none.

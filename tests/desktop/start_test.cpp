@@ -10,6 +10,7 @@
 #include "desktop/selection/selection_window.h"
 #include "desktop/shell/edited_file.h"
 #include "desktop/team/team_window.h"
+#include "desktop/tools.h"
 #include "desktop/watertests/tests_window.h"
 
 #include <gmock/gmock.h>
@@ -18,6 +19,8 @@
 #include <QSignalSpy>
 #include <QTest>
 #include <QUrl>
+
+#include <set>
 
 namespace kavela::test {
 namespace {
@@ -62,6 +65,18 @@ Case tool(const char* name, const char* example) {
     return {name, example, [](const ToolWindow* window) {
                 return qobject_cast<const Window*>(window) != nullptr;
             }};
+}
+
+TEST_F(StartTest, EveryToolStandsOnTheHomeScreenOnce) {
+    std::multiset<QString> shown;
+    for (const desktop::HomeGroup& group : desktop::homeGroups())
+        for (const desktop::ToolKind* const tool : group.tools)
+            shown.insert(tool->kind);
+    std::multiset<QString> made;
+    for (const desktop::ToolKind& tool : desktop::toolKinds())
+        if (!tool.sentence.isEmpty())
+            made.insert(tool.kind);
+    EXPECT_EQ(shown, made);
 }
 
 TEST_F(StartTest, OpensEachFileInItsToolWhateverItIsCalledAndAgainAtTheNextStart) {

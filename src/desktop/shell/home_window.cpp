@@ -26,7 +26,6 @@ namespace kavela::desktop {
 
 namespace {
 
-constexpr int TilesInRow = 4;
 constexpr int LeastRecentHeight = 96; ///< some lines, also where the page scrolls
 
 QLabel* label(const QString& text, const QFont& font) {
@@ -48,9 +47,8 @@ HomeWindow::HomeWindow(Workspace& workspace, const Tools& tools) : m_workspace(w
                                theme::PageMargin);
     column->setSpacing(theme::LargeSpacing);
     column->addWidget(header());
-    column->addWidget(tiles(tools));
-    column->addSpacing(theme::Spacing);
     column->addWidget(keptWork());
+    column->addWidget(tiles(tools));
     column->addWidget(recentFiles(), 1);
     auto* area = new QScrollArea;
     area->setWidgetResizable(true);
@@ -99,17 +97,24 @@ QWidget* HomeWindow::header() {
     return box;
 }
 
+/// A column for each group.
 QWidget* HomeWindow::tiles(const Tools& tools) {
     auto* box = new QWidget;
     auto* grid = new QGridLayout(box);
     grid->setContentsMargins(0, 0, 0, 0);
-    grid->setSpacing(theme::LargeSpacing);
-    int place = 0;
-    for (const Tool& tool : tools) {
-        grid->addWidget(new Tile(tool), place / TilesInRow, place % TilesInRow);
-        ++place;
+    grid->setHorizontalSpacing(theme::LargeSpacing);
+    grid->setVerticalSpacing(theme::Spacing);
+    int column = 0;
+    for (const ToolGroup& group : tools) {
+        auto* const heading = label(group.title, theme::titleFont(*this));
+        heading->setForegroundRole(QPalette::PlaceholderText);
+        grid->addWidget(heading, 0, column);
+        int row = 1;
+        for (const Tool& tool : group.tools)
+            grid->addWidget(new Tile(tool), row++, column);
+        ++column;
     }
-    grid->setColumnStretch(TilesInRow, 1);
+    grid->setColumnStretch(column, 1);
     return box;
 }
 

@@ -3,15 +3,39 @@
 #include "desktop/shell/theme.h"
 
 #include <QPainter>
+#include <QTextLayout>
+
+#include <algorithm>
 
 namespace kavela::desktop {
 
 namespace {
+
 constexpr int TileWidth = 280;
-constexpr int LeastWidth = 222; ///< four beside each other on a small screen
-constexpr int TileHeight = 98;
-constexpr int IconSize = 40;
+constexpr int LeastWidth = 200; ///< four beside each other on a small screen
+constexpr int IconSize = 36;
 constexpr int Radius = 8;
+constexpr int Margin = 10;
+constexpr int PurposeLines = 2;
+
+/// The text in lines of that width, the last of them shortened where more would follow.
+QStringList linesOf(const QString& text, const QFont& font, int width) {
+    QTextLayout layout(text, font);
+    QStringList lines;
+    layout.beginLayout();
+    for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
+        line.setLineWidth(width);
+        if (lines.size() + 1 == PurposeLines) {
+            lines.append(
+                QFontMetrics(font).elidedText(text.mid(line.textStart()), Qt::ElideRight, width));
+            break;
+        }
+        lines.append(text.mid(line.textStart(), line.textLength()));
+    }
+    layout.endLayout();
+    return lines;
+}
+
 } // namespace
 
 Tile::Tile(const Tool& tool, QWidget* parent) : QAbstractButton(parent), m_purpose(tool.purpose) {
@@ -27,11 +51,14 @@ Tile::Tile(const Tool& tool, QWidget* parent) : QAbstractButton(parent), m_purpo
 }
 
 QSize Tile::sizeHint() const {
-    return {TileWidth, TileHeight};
+    const int title = QFontMetrics(theme::titleFont(*this)).height();
+    const int line = QFontMetrics(theme::captionFont(*this)).height();
+    const int words = title + theme::SmallSpacing + PurposeLines * line;
+    return {TileWidth, std::max(words, IconSize) + 2 * Margin};
 }
 
 QSize Tile::minimumSizeHint() const {
-    return {LeastWidth, TileHeight};
+    return {LeastWidth, sizeHint().height()};
 }
 
 void Tile::paintEvent(QPaintEvent*) {
@@ -45,18 +72,19 @@ void Tile::paintEvent(QPaintEvent*) {
                               : theme::surface(palette()));
     painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), Radius, Radius);
 
-    const QRect inner = rect().adjusted(theme::LargeSpacing, theme::LargeSpacing,
-                                        -theme::LargeSpacing, -theme::LargeSpacing);
+    const QRect inner = rect().adjusted(Margin, Margin, -Margin, -Margin);
     icon().paint(&painter, QRect(inner.topLeft(), QSize(IconSize, IconSize)));
-    const QRect words = inner.adjusted(IconSize + theme::LargeSpacing, 0, 0, 0);
+    QRect words = inner.adjusted(IconSize + Margin + theme::SmallSpacing, 0, 0, 0);
     painter.setFont(theme::titleFont(*this));
     painter.setPen(palette().color(QPalette::WindowText));
     QRect titleBox;
     painter.drawText(words, Qt::AlignLeft | Qt::AlignTop | Qt::TextSingleLine, text(), &titleBox);
-    painter.setFont(theme::captionFont(*this));
+    words.setTop(titleBox.bottom() + theme::SmallSpacing);
+    const QFont small = theme::captionFont(*this);
+    painter.setFont(small);
     painter.setPen(theme::quietText(palette()));
-    painter.drawText(words.adjusted(0, titleBox.height() + theme::SmallSpacing, 0, 0),
-                     Qt::AlignLeft | Qt::AlignTop | Qt::TextWordWrap, m_purpose);
+    painter.drawText(words, Qt::AlignLeft | Qt::AlignTop,
+                     linesOf(m_purpose, small, words.width()).join('\n'));
 }
 
 void Tile::enterEvent(QEnterEvent* event) {

@@ -16,6 +16,12 @@ struct Tool {
     std::function<void()> open;
 };
 
-using Tools = std::vector<Tool>;
+/// What belongs together, under one heading.
+struct ToolGroup {
+    QString title;
+    std::vector<Tool> tools;
+};
+
+using Tools = std::vector<ToolGroup>;
 
 } // namespace kavela::desktop
