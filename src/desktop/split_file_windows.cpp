@@ -86,9 +86,11 @@ SplitFileWindows::SplitFileWindows(Desktop& program, Workspace& workspace, const
                                    AnalysisWindows& analysis)
     : m_program(program), m_workspace(workspace), m_autosave(autosave), m_analysis(analysis) {}
 
-/// A film alone stands for the run that it shows, among the films of its folder.
+/// A film alone stands for the run that it shows: in the split file that has it, else among the
+/// films of its folder.
 void SplitFileWindows::openFilm(const QString& path) {
-    (void)openTaking(QFileInfo(path).absolutePath(), [path](TakingWindow& window) {
+    const QString file = splitFileWith(path);
+    (void)openTaking(file.isEmpty() ? QFileInfo(path).absolutePath() : file, [path](TakingWindow& window) {
         const std::string film = QFileInfo(path).fileName().toStdString();
         const TakingDocument& document = window.document();
         for (int run = 0; run < document.runCount(); ++run)

@@ -19,12 +19,14 @@
 #include <gmock/gmock.h>
 
 #include <QApplication>
+#include <QFileInfo>
 #include <QProcess>
 #include <QPushButton>
 #include <QTest>
 #include <QTimer>
 
 #include <algorithm>
+#include <chrono>
 
 /// What is named on the command line, dropped or chosen at home.
 namespace kavela::test {
@@ -186,6 +188,19 @@ TEST_F(OpeningTest, OpensAFilmWithItsFolderAndItsRunInFront) {
     ASSERT_EQ(window->document().runCount(), 2);
     EXPECT_THAT(window->document().run(window->currentRun()).videoname,
                 ElementsAre("Bea Dahl.mov"));
+}
+
+TEST_F(OpeningTest, OpensAFilmInTheSplitFileOfSeveralThatHasItsRun) {
+    for (const char* race : {"harbour_night.kvx", "riverside_cup.kvx", "spring_opener.kvx"})
+        fs::copy_file(fs::path(KAVELA_EXAMPLES) / "races" / race, m_folder.path() / race);
+    const auto old = fs::file_time_type::clock::now() - std::chrono::hours(24);
+    fs::last_write_time(m_folder.path() / "harbour_night.kvx", old);
+    const char* const film = "harbour Dario Gorgazzi Heats.MOV";
+    m_program.open(text(m_folder.add(film, "no film yet")));
+    ASSERT_THAT(m_program.windowsOf<desktop::TakingWindow>(), SizeIs(1));
+    desktop::TakingWindow* const window = m_program.windowsOf<desktop::TakingWindow>().front();
+    EXPECT_EQ(QFileInfo(window->document().path()).fileName(), "harbour_night.kvx");
+    EXPECT_THAT(window->document().run(window->currentRun()).videoname, ::testing::Contains(film));
 }
 
 TEST_F(OpeningTest, EditsAFileInOneWindowWhateverPathLeadsToIt) {

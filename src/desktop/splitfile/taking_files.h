@@ -9,6 +9,10 @@ namespace kavela::desktop {
 /// other. Empty for none.
 [[nodiscard]] QString splitFileIn(const QString& folder);
 
+/// The split file beside a film that has a run of it, the latest of several. Empty for none. Up to
+/// two dozen files are read; none is rewritten.
+[[nodiscard]] QString splitFileWith(const QString& film);
+
 /// The names of the films of a folder, in their order.
 [[nodiscard]] QStringList filmsIn(const QString& folder);
 
