@@ -2,6 +2,7 @@
 
 #include "app/content_kind.h"
 #include "app/file_facts.h"
+#include "boatmotion/imports/sensor_csv.h"
 #include "common/error.h"
 #include "common/text_file.h"
 #include "desktop/imports/import_files.h"
@@ -18,8 +19,10 @@
 #include <algorithm>
 #include <map>
 #include <stdexcept>
+#include <string>
 #include <string_view>
 #include <utility>
+#include <vector>
 
 namespace kavela::desktop {
 
@@ -34,6 +37,12 @@ OpensAs folderOpensAs(const QDir& folder) {
                : OpensAs::FolderOfRaces;
 }
 
+bool beginsWith(const QString& path, char first) {
+    QFile file(path);
+    constexpr qint64 Beginning = 64;
+    return file.open(QIODevice::ReadOnly) && file.read(Beginning).trimmed().startsWith(first);
+}
+
 bool isResultsList(const QString& path) {
     try {
         return !parseResults(readTextFile(path.toStdString())).results.empty();
@@ -42,18 +51,33 @@ bool isResultsList(const QString& path) {
     }
 }
 
+/// A start list, a ranking, whatever has titles of which none is a reading of a sensor. Without
+/// titles only the coach can tell what the numbers are.
+bool isOtherList(const QString& path) {
+    if (!QStringList{"csv", "tsv", "txt"}.contains(QFileInfo(path).suffix().toLower()) ||
+        beginsWith(path, '<')) // a track, whatever its name
+        return false;
+    try {
+        const SensorCsv list(path.toStdString());
+        const CsvMapping mapping = list.guess();
+        const std::vector<std::string> titles = list.preview(mapping).titles;
+        const auto isReading = [](CsvQuantity quantity) {
+            return quantity != CsvQuantity::None && quantity != CsvQuantity::Time;
+        };
+        return std::ranges::any_of(titles, [](const auto& title) { return !title.empty(); }) &&
+               std::ranges::none_of(mapping.columns, isReading);
+    } catch (const DecodeError&) {
+        return true;
+    } catch (const FileError&) {
+        return false; // the import will tell
+    }
+}
+
 /// Lists and tracks are no documents of ours, and would only be refused as such.
 OpensAs importOpensAs(const QString& path) {
     if (isPowerMeterList(path))
         return OpensAs::PowerList;
-    return isResultsList(path) ? OpensAs::ResultsList : OpensAs::Import;
-}
-
-/// Documents begin with a brace, lists and tracks do not, whatever their names end with.
-bool beginsAsDocument(const QString& path) {
-    QFile file(path);
-    constexpr qint64 Beginning = 64;
-    return file.open(QIODevice::ReadOnly) && file.read(Beginning).trimmed().startsWith('{');
+    return isResultsList(path) || isOtherList(path) ? OpensAs::ResultsList : OpensAs::Import;
 }
 
 bool isSpreadsheet(const QString& path) {
@@ -119,7 +143,8 @@ Opening opensAs(const QString& path) {
         return {folderOpensAs(QDir(path))};
     if (isVideoFile(info.fileName().toStdString()))
         return {OpensAs::Film};
-    if (isImportable(path) && !beginsAsDocument(path))
+    // Documents begin with a brace, lists and tracks do not, whatever their names end with.
+    if (isImportable(path) && !beginsWith(path, '{'))
         return {importOpensAs(path)};
     if (info.isFile() && isSpreadsheet(path))
         return {OpensAs::ResultsList};

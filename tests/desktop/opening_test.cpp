@@ -157,11 +157,12 @@ TEST_F(OpeningTest, TheSearchOfAnyWindowOpensATool) {
 TEST_F(OpeningTest, SaysWhereATrackBelongsAndThatAFolderIsEmpty) {
     m_program.open(example("recordings/watch.gpx"));
     m_program.open(example("races/spring_opener_results.csv"));
+    m_program.open(example("races/harbour_night_start_list.csv"));
     fs::create_directory(m_folder.path() / "empty");
     m_program.open(text(m_folder.path() / "empty"));
     EXPECT_THAT(m_recorder.alerts, ElementsAre(HasSubstr("Import the recording of the boat first"),
                                                HasSubstr("no film")));
-    EXPECT_THAT(m_program.windowsOf<desktop::TablesWindow>(), SizeIs(1)) << "shows the list";
+    EXPECT_THAT(m_program.windowsOf<desktop::TablesWindow>(), SizeIs(2)) << "shows the lists";
     EXPECT_THAT(m_program.windowsOf<desktop::RaceWindow>(), IsEmpty());
 }
 
