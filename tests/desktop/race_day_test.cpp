@@ -277,6 +277,28 @@ TEST_F(RaceDayTest, KeepsTheDayWithoutSavingTheRace) {
     m_window->document().discard();
 }
 
+TEST_F(RaceDayTest, KnowsRunsThatWereTimedBeforeThereWasAList) {
+    splittakerdata031 race;
+    race.info.totalsplits = 1;
+    race.info.date = ReferenceDate{RaceMoment};
+    for (const char* crew : {"Ann Lee", "Bea Roe"}) {
+        athletedata031 run;
+        run.names = {crew};
+        run.phase = "Heats";
+        run.sectioninfo.isfullrun = *crew == 'A';
+        race.athletes.push_back(run);
+    }
+    ASSERT_TRUE(saveSplitFile(race, file(), m_recorder.log()));
+    ASSERT_NO_FATAL_FAILURE(open());
+    const StartList list = parseStartList("1,Ann Lee,K1W,10:00\n2,Bea Roe,K1W,10:01\n");
+    desk().takeStarts(list, "Heats", desk().date());
+    ASSERT_EQ(lines().size(), 2U);
+    EXPECT_EQ(lines()[0].state, StartState::Timed);
+    EXPECT_EQ(lines()[1].state, StartState::Waiting);
+    desk().takeStarts(list, "Final", desk().date());
+    EXPECT_EQ(std::ranges::count(lines(), StartState::Timed, &DayLine::state), 1) << "another run";
+}
+
 TEST_F(RaceDayTest, LeavesAFilmAloneThatIsStillWritten) {
     const std::string whole = contentOf(numberedFilm());
     (void)m_folder.add("race/a.mp4", whole.substr(0, whole.size() / 2));

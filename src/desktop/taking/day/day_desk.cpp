@@ -7,14 +7,18 @@
 #include "desktop/splitfile/taking_document.h"
 #include "desktop/splitfile/taking_edits.h"
 #include "desktop/taking/day/day_runs.h"
+#include "splitdata/run_timing.h"
 #include "splittaking/race_day/day_edits.h"
 #include "splittaking/race_day/film_naming.h"
+#include "splittaking/video_names.h"
 
 #include <QDate>
 #include <QDateTime>
 #include <QLabel>
 
 #include <algorithm>
+#include <set>
+#include <string>
 #include <utility>
 
 namespace kavela::desktop {
@@ -110,6 +114,17 @@ std::set<std::int64_t> DayDesk::timed() const {
         if (const auto run = runOfStart(match.start);
             run && m_parts.document.run(*run).sectioninfo.isfullrun)
             timed.insert(match.start);
+    // Runs that were timed before there was a list have no start of it.
+    const TakingDocument& document = m_parts.document;
+    std::set<std::pair<std::string, std::string>> crews;
+    for (int run = 0; run < document.runCount(); ++run)
+        if (const athletedata031& record = document.run(run); record.sectioninfo.isfullrun)
+            crews.insert({crewText(record.names), record.phase});
+    for (const DayStart& start : document.day().starts)
+        if (std::ranges::find(m_matching.matches, start.id, &DayMatch::start) ==
+                m_matching.matches.end() &&
+            crews.contains({crewText(crewIn(start.name)), start.phase}))
+            timed.insert(start.id);
     return timed;
 }
 
