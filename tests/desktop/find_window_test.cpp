@@ -3,7 +3,7 @@
 #include "common/recorders.h"
 #include "common/temp_folder.h"
 #include "desktop/desktop.h"
-#include "desktop/find/failed_files.h"
+#include "desktop/facts/failed_files.h"
 #include "desktop/find/kept_queries.h"
 #include "desktop/find/query_edit.h"
 #include "desktop/find/query_fault.h"

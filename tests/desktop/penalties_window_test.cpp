@@ -3,6 +3,7 @@
 #include "common/json_encode.h"
 #include "desktop/charts/interval_chart.h"
 #include "desktop/charts/series_chart.h"
+#include "desktop/facts/failed_files.h"
 #include "desktop/penalties/cost_panel.h"
 #include "desktop/penalties/course_panel.h"
 #include "desktop/penalties/details_panel.h"
@@ -18,6 +19,7 @@
 #include <QImage>
 #include <QLabel>
 #include <QPushButton>
+#include <QTableView>
 
 #include <cmath>
 
@@ -27,7 +29,6 @@ namespace {
 
 using namespace kavela::desktop;
 using ::testing::AllOf;
-using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
 using ::testing::SizeIs;
@@ -295,7 +296,11 @@ TEST_F(PenaltiesWindowTest, ReadsAFolderAndTellsWhatItCouldNotRead) {
     EXPECT_THAT(m_window.status().toStdString(),
                 AllOf(StartsWith("2 files · 48 runs"), HasSubstr("1 file could not be read")));
     m_window.findChild<QPushButton*>("failed")->click();
-    EXPECT_THAT(std::exchange(m_recorder.alerts, {}), ElementsAre(HasSubstr("broken.kvx")));
+    const auto* const list = m_window.findChild<desktop::FailedFiles*>();
+    ASSERT_TRUE(list);
+    const auto* const rows = list->findChild<QTableView*>()->model();
+    ASSERT_EQ(rows->rowCount(), 1);
+    EXPECT_EQ(rows->index(0, 0).data().toString(), "broken.kvx");
 
     auto* const courses = m_window.findChild<QComboBox*>("course");
     ASSERT_EQ(courses->count(), 2);

@@ -135,6 +135,7 @@ void WatchedFacts::take(FolderScan& scan, int reading) {
     else
         isUnsure = watch(scan) || isUnsure;
     m_failed = std::move(scan.failed);
+    m_copies = std::move(scan.copies);
     m_hashes = std::move(scan.hashes);
     if (isTold)
         m_facts = std::make_shared<const FactStore>(std::move(scan.facts));
@@ -149,7 +150,8 @@ bool WatchedFacts::isChanged(const FolderScan& scan) const {
     const auto same = [](const ScanFault& a, const ScanFault& b) {
         return a.path == b.path && a.reason == b.reason;
     };
-    return scan.hashes != m_hashes || pathsOf(scan.facts) != pathsOf(*m_facts) ||
+    return scan.hashes != m_hashes || scan.copies.size() != m_copies.size() ||
+           pathsOf(scan.facts) != pathsOf(*m_facts) ||
            !std::ranges::equal(scan.failed, m_failed, same);
 }
 

@@ -37,6 +37,8 @@ public:
     [[nodiscard]] std::shared_ptr<const FactStore> facts() const { return m_facts; }
     /// What could not be read, and why.
     [[nodiscard]] const std::vector<ScanFault>& failed() const { return m_failed; }
+    /// Files that do not count, since another one has the same content.
+    [[nodiscard]] const std::vector<ScanCopy>& copies() const { return m_copies; }
     [[nodiscard]] bool isReading() const { return m_isReading; }
     /// The last reading was cancelled: the facts are those of the files that it came to.
     [[nodiscard]] bool isIncomplete() const { return m_isIncomplete; }
@@ -72,6 +74,7 @@ private:
     std::shared_ptr<const FactStore> m_facts = std::make_shared<const FactStore>();
     std::vector<std::uint64_t> m_hashes; ///< of the contents of its files
     std::vector<ScanFault> m_failed;
+    std::vector<ScanCopy> m_copies;
     QFileSystemWatcher m_watcher;
     QTimer m_settled; ///< after a change has been noticed
     QTimer m_regular; ///< where not everything can be watched

@@ -3,6 +3,7 @@
 #include "desktop/charts/interval_chart.h"
 #include "desktop/charts/plot_interaction.h"
 #include "desktop/charts/series_chart.h"
+#include "desktop/facts/facts_status.h"
 #include "desktop/penalties/cost_panel.h"
 #include "desktop/penalties/course_panel.h"
 #include "desktop/penalties/details_panel.h"
@@ -22,7 +23,6 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QLabel>
-#include <QProgressBar>
 #include <QPushButton>
 #include <QSignalBlocker>
 #include <QStackedWidget>
@@ -35,9 +35,6 @@
 namespace kavela::desktop {
 
 namespace {
-
-constexpr int ProgressWidth = 180;
-constexpr std::size_t MostFaultsTold = 20;
 
 bool isSplitFileOrFolder(const QString& path) {
     const QFileInfo file(path);
@@ -67,7 +64,8 @@ void PenaltiesWindow::makeParts() {
     m_pages->addWidget(makeEmptyPage());
     m_pages->addWidget(makeContent());
     setCentralWidget(m_pages);
-    makeStatus();
+    m_status = new FactsStatus(m_facts);
+    statusBar()->addWidget(m_status);
 }
 
 QWidget* PenaltiesWindow::makeEmptyPage() {
@@ -122,28 +120,9 @@ QWidget* PenaltiesWindow::makeContent() {
     return page;
 }
 
-void PenaltiesWindow::makeStatus() {
-    m_progress = new QProgressBar;
-    m_progress->setMaximumWidth(ProgressWidth);
-    m_progress->hide();
-    m_cancel = new QPushButton(tr("Cancel"));
-    m_cancel->hide();
-    m_status = new QLabel;
-    m_status->setObjectName("status");
-    m_failed = new QPushButton(tr("Which ones?"));
-    m_failed->setObjectName("failed");
-    m_failed->hide();
-    for (QWidget* part : {static_cast<QWidget*>(m_progress), static_cast<QWidget*>(m_cancel),
-                          static_cast<QWidget*>(m_status), static_cast<QWidget*>(m_failed)})
-        statusBar()->addWidget(part);
-}
-
 void PenaltiesWindow::connectParts() {
     connect(&m_facts, &WatchedFacts::changed, this, &PenaltiesWindow::takeFacts);
-    connect(&m_facts, &WatchedFacts::readingChanged, this, &PenaltiesWindow::showReading);
-    connect(&m_facts, &WatchedFacts::progressed, this, &PenaltiesWindow::showProgress);
-    connect(m_cancel, &QPushButton::clicked, &m_facts, &WatchedFacts::cancel);
-    connect(m_failed, &QPushButton::clicked, this, &PenaltiesWindow::showFailed);
+    connect(&m_facts, &WatchedFacts::readingChanged, this, &PenaltiesWindow::showStatus);
     connect(m_filter, &PenaltyFilter::changed, this, &PenaltiesWindow::compute);
     connect(m_rates, &RatesPanel::byChanged, this, &PenaltiesWindow::compute);
     connect(m_costs, &CostPanel::placeRequested, this, &PenaltiesWindow::placeRequested);
@@ -156,7 +135,7 @@ void PenaltiesWindow::connectParts() {
           static_cast<ChartFrame*>(&m_details->chart()),
           static_cast<ChartFrame*>(&m_tradeOff->chart())})
         connect(&chart->interaction(), &PlotInteraction::saved, this, [this](const QString& path) {
-            m_status->setText(tr("Saved %1").arg(QFileInfo(path).fileName()));
+            m_status->tell(tr("Saved %1").arg(QFileInfo(path).fileName()));
         });
     answerWhy(m_clean,
               [this](const QPoint&) { return m_figures ? m_figures->why("clean") : std::nullopt; });
@@ -302,22 +281,8 @@ void PenaltiesWindow::take(const SharedFigures& figures) {
     emit shown();
 }
 
-void PenaltiesWindow::showReading() {
-    m_progress->setVisible(m_facts.isReading());
-    m_cancel->setVisible(m_facts.isReading());
-    m_progress->setRange(0, 0);
-    showStatus();
-}
-
-void PenaltiesWindow::showProgress(int read, int of) {
-    m_progress->setRange(0, of);
-    m_progress->setValue(read);
-}
-
 void PenaltiesWindow::showStatus() {
     const std::size_t files = m_figures ? m_figures->facts->files().size() : 0;
-    const std::size_t failed = m_facts.failed().size();
-    m_failed->setVisible(failed > 0);
     m_pages->setCurrentIndex(files > 0 ? 1 : 0);
     if (paths().isEmpty())
         m_emptyText->setText(
@@ -325,7 +290,7 @@ void PenaltiesWindow::showStatus() {
                "one race, of several, or of a whole season. Files are only read."));
     else if (m_facts.isReading())
         m_emptyText->setText(tr("Reading…"));
-    else if (failed > 0)
+    else if (!m_facts.failed().empty())
         m_emptyText->setText(qtText(m_facts.failed().front().path.string()) + ": " +
                              qtText(m_facts.failed().front().reason));
     else
@@ -338,23 +303,12 @@ void PenaltiesWindow::showStatus() {
         if (rates.leftOut > 0)
             parts << shownWords(leftOutText(rates.leftOut));
     }
-    if (m_facts.isIncomplete())
-        parts << tr("Reading was cancelled: not all files are here.");
-    if (failed > 0)
-        parts << (failed == 1 ? tr("1 file could not be read")
-                              : tr("%1 files could not be read").arg(failed));
-    m_status->setText(parts.join(QStringLiteral(" · ")));
+    m_status->show(parts);
     m_actions->refresh();
 }
 
 void PenaltiesWindow::showFailed() {
-    std::string text;
-    const std::vector<ScanFault>& failed = m_facts.failed();
-    for (std::size_t i = 0; i < std::min(failed.size(), MostFaultsTold); ++i)
-        text += failed[i].path.string() + ": " + failed[i].reason + '\n';
-    if (failed.size() > MostFaultsTold)
-        text += tr("and %1 more").arg(failed.size() - MostFaultsTold).toStdString();
-    workspace().showAlert({tr("These files could not be read").toStdString(), text}, this);
+    m_status->showFailed();
 }
 
 void PenaltiesWindow::showTitle() {

@@ -6,8 +6,6 @@
 #include "desktop/shell/tool_window.h"
 
 class QLabel;
-class QProgressBar;
-class QPushButton;
 class QStackedWidget;
 class QTabWidget;
 
@@ -18,6 +16,7 @@ class ColumnTable;
 class CostPanel;
 class CoursePanel;
 class DetailsPanel;
+class FactsStatus;
 class PenaltiesActions;
 class PenaltyFilter;
 class RatesPanel;
@@ -86,13 +85,10 @@ private:
     void makeParts();
     [[nodiscard]] QWidget* makeEmptyPage();
     [[nodiscard]] QWidget* makeContent();
-    void makeStatus();
     void connectParts();
     void takeFacts();
     void compute();
     void take(const SharedFigures& figures);
-    void showReading();
-    void showProgress(int read, int of);
     void showStatus();
     void showTitle();
 
@@ -111,10 +107,7 @@ private:
     DetailsPanel* m_details = nullptr;
     CostPanel* m_costs = nullptr;
     TradeOffPanel* m_tradeOff = nullptr;
-    QProgressBar* m_progress = nullptr;
-    QPushButton* m_cancel = nullptr;
-    QPushButton* m_failed = nullptr;
-    QLabel* m_status = nullptr;
+    FactsStatus* m_status = nullptr;
     PenaltiesActions* m_actions = nullptr;
     BackgroundWork m_work;
 };

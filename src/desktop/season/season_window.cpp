@@ -3,6 +3,7 @@
 #include "desktop/charts/interval_chart.h"
 #include "desktop/charts/plot_interaction.h"
 #include "desktop/charts/series_chart.h"
+#include "desktop/facts/facts_status.h"
 #include "desktop/season/comparison_panel.h"
 #include "desktop/season/figures_panel.h"
 #include "desktop/season/progression_panel.h"
@@ -19,7 +20,6 @@
 #include <QFileInfo>
 #include <QInputDialog>
 #include <QLabel>
-#include <QProgressBar>
 #include <QPushButton>
 #include <QSignalBlocker>
 #include <QStackedWidget>
@@ -34,7 +34,6 @@ namespace kavela::desktop {
 namespace {
 
 constexpr const char* SeasonPathsKey = "season/paths";
-constexpr std::size_t MostSeasonFaultsTold = 20;
 
 bool isTeamFile(const QString& path) {
     return QFileInfo(path).suffix().compare(QStringLiteral("kvteam"), Qt::CaseInsensitive) == 0;
@@ -75,7 +74,8 @@ void SeasonWindow::makeParts() {
     m_pages->addWidget(makeEmptyPage());
     m_pages->addWidget(makeContent());
     setCentralWidget(m_pages);
-    makeStatus();
+    m_status = new FactsStatus(m_facts);
+    statusBar()->addWidget(m_status);
 }
 
 QWidget* SeasonWindow::makeEmptyPage() {
@@ -139,30 +139,10 @@ void SeasonWindow::addFigures(Page page, const char* name, const QString& title,
     connect(panel, &FiguresPanel::choiceChanged, this, [this, page] { showFigures(page); });
 }
 
-void SeasonWindow::makeStatus() {
-    m_progress = new QProgressBar;
-    m_progress->setMaximumWidth(180);
-    m_progress->setRange(0, 0);
-    m_progress->hide();
-    m_status = new QLabel;
-    m_status->setObjectName("status");
-    m_failed = new QPushButton(tr("Which ones?"));
-    m_failed->setObjectName("failed");
-    m_failed->hide();
-    for (QWidget* const part : {static_cast<QWidget*>(m_progress), static_cast<QWidget*>(m_status),
-                                static_cast<QWidget*>(m_failed)})
-        statusBar()->addWidget(part);
-}
-
 void SeasonWindow::connectParts() {
     connect(&m_team, &WatchedTeam::changed, this, &SeasonWindow::takeTeam);
     connect(&m_facts, &WatchedFacts::changed, this, &SeasonWindow::compute);
     connect(&m_facts, &WatchedFacts::readingChanged, this, &SeasonWindow::showStatus);
-    connect(&m_facts, &WatchedFacts::progressed, this, [this](int read, int of) {
-        m_progress->setRange(0, of);
-        m_progress->setValue(read);
-    });
-    connect(m_failed, &QPushButton::clicked, this, &SeasonWindow::showFailed);
     connect(m_header, &SeasonHeader::changed, this, &SeasonWindow::compute);
     connect(m_header, &SeasonHeader::athleteChanged, this, &SeasonWindow::showPages);
     connect(m_header, &SeasonHeader::racesRequested, this, &SeasonWindow::chooseFolder);
@@ -500,9 +480,6 @@ QString SeasonWindow::status() const {
 
 void SeasonWindow::showStatus() {
     const std::size_t files = m_facts.facts()->files().size();
-    const std::size_t failed = m_facts.failed().size();
-    m_progress->setVisible(m_facts.isReading());
-    m_failed->setVisible(failed > 0);
     m_pages->setCurrentIndex(m_season && !m_season->season.athletes.empty() ? 1 : 0);
     if (!m_team.fault().isEmpty())
         m_emptyText->setText(tr("%1 could not be read: %2").arg(m_team.path(), m_team.fault()));
@@ -534,23 +511,12 @@ void SeasonWindow::showStatus() {
     }
     if (m_season && !m_team.fault().isEmpty())
         parts << tr("the team could not be read again: %1").arg(m_team.fault());
-    if (m_facts.isIncomplete())
-        parts << tr("reading was cancelled: not all files are here");
-    if (failed > 0)
-        parts << (failed == 1 ? tr("1 file could not be read")
-                              : tr("%1 files could not be read").arg(failed));
-    tell(parts.join(QStringLiteral(" · ")));
+    m_status->show(parts);
     m_actions->refresh();
 }
 
 void SeasonWindow::showFailed() {
-    std::string text;
-    const std::vector<ScanFault>& failed = m_facts.failed();
-    for (std::size_t i = 0; i < std::min(failed.size(), MostSeasonFaultsTold); ++i)
-        text += failed[i].path.string() + ": " + failed[i].reason + '\n';
-    if (failed.size() > MostSeasonFaultsTold)
-        text += tr("and %1 more").arg(failed.size() - MostSeasonFaultsTold).toStdString();
-    workspace().showAlert({tr("These files could not be read").toStdString(), text}, this);
+    m_status->showFailed();
 }
 
 void SeasonWindow::showTitle() {
@@ -560,7 +526,7 @@ void SeasonWindow::showTitle() {
 }
 
 void SeasonWindow::tell(const QString& text) {
-    m_status->setText(text);
+    m_status->tell(text);
 }
 
 void SeasonWindow::tellNotSaved(const QString& reason) {

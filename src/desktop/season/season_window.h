@@ -13,8 +13,6 @@
 #include <vector>
 
 class QLabel;
-class QProgressBar;
-class QPushButton;
 class QStackedWidget;
 class QTabWidget;
 
@@ -23,6 +21,7 @@ namespace kavela::desktop {
 class ChartFrame;
 class ColumnTable;
 class ComparisonPanel;
+class FactsStatus;
 class FiguresPanel;
 class ProgressionPanel;
 class SeasonActions;
@@ -112,7 +111,6 @@ private:
     [[nodiscard]] QWidget* makeContent();
     void addFigures(Page page, const char* name, const QString& title, const QString& label,
                     const QStringList& choices);
-    void makeStatus();
     void connectParts();
     void takeTeam();
     void compute();
@@ -140,9 +138,7 @@ private:
     ProgressionPanel* m_progression = nullptr;
     std::array<FiguresPanel*, Benchmarks - FirstOfFigures + 1> m_figures{};
     ComparisonPanel* m_compared = nullptr;
-    QProgressBar* m_progress = nullptr;
-    QPushButton* m_failed = nullptr;
-    QLabel* m_status = nullptr;
+    FactsStatus* m_status = nullptr;
     SeasonReports* m_reports = nullptr;
     SeasonActions* m_actions = nullptr;
     BackgroundWork m_work;

@@ -1,4 +1,4 @@
-#include "desktop/find/failed_files.h"
+#include "desktop/facts/failed_files.h"
 
 #include "common/display_text.h"
 #include "desktop/shell/qt_text.h"

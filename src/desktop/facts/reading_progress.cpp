@@ -1,4 +1,4 @@
-#include "desktop/find/reading_progress.h"
+#include "desktop/facts/reading_progress.h"
 
 #include "desktop/facts/watched_facts.h"
 #include "desktop/shell/theme.h"
