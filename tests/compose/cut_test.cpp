@@ -58,7 +58,7 @@ INSTANTIATE_TEST_SUITE_P(
     ::testing::Values(CutCase{"h264_50.mp4"}, CutCase{"h264_50.mp4", CutKind::Exact},
                       CutCase{"short_groups.mp4"}, CutCase{"open_h264.mkv"},
                       CutCase{"variable.mp4"}, CutCase{"variable.mp4", CutKind::Exact},
-                      CutCase{"open_hevc.mp4", CutKind::Exact},
+                      CutCase{"rotated.mp4"}, CutCase{"open_hevc.mp4", CutKind::Exact},
                       CutCase{"stream.ts", CutKind::Exact}),
     [](const auto& tested) {
         std::string name = tested.param.clip;

@@ -309,17 +309,17 @@ TEST_F(FilmsWindowTest, CutsBetweenTheEndsThatWereSetInEitherOrder) {
     addFilm("a.mp4");
     FilmsWindow& window = open();
     ASSERT_TRUE(comesTo(pathOf("a.mp4"), 0));
-    EXPECT_FALSE(window.cutting().canCut(FilmCutting::Way::Copy));
+    EXPECT_FALSE(window.cutting().canCut());
     window.stage().deck().seek(1.2);
     ASSERT_TRUE(comesTo(pathOf("a.mp4"), 60));
     window.tags().setCutFirst();
     window.stage().deck().seek(0.4);
     ASSERT_TRUE(comesTo(pathOf("a.mp4"), 20));
     window.tags().setCutLast();
-    ASSERT_TRUE(window.cutting().canCut(FilmCutting::Way::Copy));
+    ASSERT_TRUE(window.cutting().canCut());
     QStringList targets;
     for (const auto way : {FilmCutting::Way::Copy, FilmCutting::Way::Exact}) {
-        targets << window.cutting().proposedTarget(way);
+        targets << window.cutting().proposedTarget();
         window.cutting().cut(way, targets.back());
         ASSERT_TRUE(QTest::qWaitFor([&] { return window.shelf().film(targets.back()) != nullptr; },
                                     FilmPatience));

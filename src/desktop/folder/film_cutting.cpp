@@ -3,39 +3,45 @@
 #include "desktop/folder/tag_mode.h"
 #include "desktop/shell/workspace.h"
 #include "splitdata/film_marks.h"
+#include "video/index.h"
 
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QWidget>
 
+#include <filesystem>
+#include <optional>
 #include <utility>
 
 namespace kavela::desktop {
 
 namespace {
+
 constexpr std::int64_t CutProgressSteps = 1000;
+
+/// The ends are set on frames of this very film, in either order.
+FilmCut pieceOf(const VideoIndex& film, CutKind way, CMTime first, CMTime last,
+                const std::filesystem::path& target) {
+    if (orderOf(last, first) < 0)
+        std::swap(first, last);
+    return {.kind = way,
+            .first = film.frameAt(first).value_or(0),
+            .last = film.frameAt(last).value_or(film.frameCount() - 1),
+            .target = target};
+}
+
 } // namespace
 
 FilmCutting::FilmCutting(Workspace& workspace, TagMode& ends, QWidget& window)
     : QObject(&window), m_workspace(workspace), m_ends(ends), m_window(window) {}
 
-void FilmCutting::setExact(std::shared_ptr<const FilmCutter> cutter) {
-    m_exact = std::move(cutter);
-    emit m_ends.cutChanged();
+bool FilmCutting::canCut() const {
+    return m_ends.cutFirst() && m_ends.cutLast();
 }
 
-std::shared_ptr<const FilmCutter> FilmCutting::cutterFor(Way way) const {
-    return way == Way::Copy ? m_copy : m_exact;
-}
-
-bool FilmCutting::canCut(Way way) const {
-    return cutterFor(way) && m_ends.cutFirst() && m_ends.cutLast();
-}
-
-QString FilmCutting::proposedTarget(Way way) const {
+QString FilmCutting::proposedTarget() const {
     const QFileInfo film(m_ends.film());
-    const bool staysSo = way == Way::Copy && canCopyInto(film.filePath().toStdString());
-    const QString ending = staysSo ? film.suffix() : QStringLiteral("mp4");
+    const QString ending = QString::fromStdString(extensionOfPieces(film.filePath().toStdString()));
     const QString stem = film.path() + '/' + tr("%1 cut").arg(film.completeBaseName());
     QString target = stem + '.' + ending;
     for (int count = 2; QFileInfo::exists(target); ++count)
@@ -44,34 +50,36 @@ QString FilmCutting::proposedTarget(Way way) const {
 }
 
 void FilmCutting::askAndCut(Way way) {
-    if (!canCut(way))
+    if (!canCut())
         return;
     // No file is ever replaced: the dialog does not have to ask.
     const QString target = QFileDialog::getSaveFileName(
-        &m_window, tr("Cut into a new film"), proposedTarget(way), tr("Films (*.mp4 *.mov *.m4v)"),
+        &m_window, tr("Cut into a new film"), proposedTarget(), tr("Films (*.mp4 *.mov *.m4v)"),
         nullptr, QFileDialog::DontConfirmOverwrite);
     if (!target.isEmpty())
         cut(way, target);
 }
 
 void FilmCutting::cut(Way way, const QString& target) {
-    if (!canCut(way))
+    if (!canCut())
         return;
-    FilmStretch stretch{*m_ends.cutFirst(), *m_ends.cutLast()};
-    if (orderOf(stretch.last, stretch.first) < 0)
-        std::swap(stretch.first, stretch.last); // set in the other order
-    const FilmCut order{m_ends.film().toStdString(), stretch, target.toStdString()};
     m_work.runOver(
         {&m_window, tr("Cutting %1…").arg(QFileInfo(target).fileName()), true},
-        [cutter = cutterFor(way), order](const WorkSteps& steps) {
-            return cutter->cut(order, steps.stopToken(), [&steps](double fraction) {
-                steps.tellProgress(static_cast<std::int64_t>(fraction * CutProgressSteps),
-                                   CutProgressSteps);
-            });
+        [way, film = m_ends.film().toStdString(), first = *m_ends.cutFirst(),
+         last = *m_ends.cutLast(), target = target.toStdString()](const WorkSteps& steps) {
+            const auto index = readVideoIndex(film, steps.stopToken());
+            return index ? cutFilm(index, pieceOf(*index, way, first, last, target),
+                                   steps.stopToken(),
+                                   [&steps](double fraction) {
+                                       steps.tellProgress(
+                                           static_cast<std::int64_t>(fraction * CutProgressSteps),
+                                           CutProgressSteps);
+                                   })
+                         : std::nullopt;
         },
-        [this, target](bool isWhole) {
-            if (isWhole)
-                emit done(target);
+        [this](const std::optional<std::filesystem::path>& piece) {
+            if (piece)
+                emit done(QString::fromStdString(piece->string()));
         },
         {.failed = [this](const std::exception_ptr& fault) {
             m_workspace.showAlert({tr("The film could not be cut").toStdString(), messageOf(fault)},

@@ -163,11 +163,11 @@ void FilmsActions::makeCutMenu() {
     add(
         *menu, tr("Cut by &copying…"), Qt::Key_X,
         [window] { window->cutting().askAndCut(Way::Copy); },
-        [window] { return window->cutting().canCut(Way::Copy); });
+        [window] { return window->cutting().canCut(); });
     add(
         *menu, tr("Cut e&xactly…"), QKeySequence(Qt::SHIFT | Qt::Key_X),
         [window] { window->cutting().askAndCut(Way::Exact); },
-        [window] { return window->cutting().canCut(Way::Exact); });
+        [window] { return window->cutting().canCut(); });
 }
 
 /// Every film, to be found by a few letters among the commands.

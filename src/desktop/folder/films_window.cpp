@@ -3,7 +3,6 @@
 #include "common/error.h"
 #include "desktop/film/film_stage.h"
 #include "desktop/film/play_menu.h"
-#include "desktop/folder/exact_cutter.h"
 #include "desktop/folder/film_browser.h"
 #include "desktop/folder/film_playing.h"
 #include "desktop/folder/films_actions.h"
@@ -70,7 +69,6 @@ void FilmsWindow::makeParts() {
     m_stage->keepKeys(*this, [this] { m_browser->list().setFocus(); });
     m_playing = new FilmPlaying({workspace(), m_shelf, *m_browser, *m_stage, *m_tags});
     m_cutting = new FilmCutting(workspace(), *m_tags, *this);
-    m_cutting->setExact(std::make_shared<ExactCutter>());
     auto* const parts = new QSplitter;
     parts->setChildrenCollapsible(false);
     parts->addWidget(m_browser);

@@ -18,14 +18,6 @@ namespace {
 constexpr std::size_t CutCacheBytes = std::size_t{64} << 20;
 constexpr int ExactQuality = 18;
 
-/// Films of other containers are put into one that takes nearly every coding.
-std::string containerFor(const std::filesystem::path& film) {
-    std::string extension = film.extension().string();
-    for (char& letter : extension)
-        letter = 'A' <= letter && letter <= 'Z' ? static_cast<char>(letter - 'A' + 'a') : letter;
-    return extension == ".mp4" || extension == ".m4v" ? "mp4" : "mov";
-}
-
 FilmFormat formatOf(const VideoFacts& facts, bool hasSound) {
     FilmFormat format;
     format.size = {facts.storedSize.width / 2 * 2, facts.storedSize.height / 2 * 2};
@@ -104,12 +96,19 @@ void encodePiece(std::shared_ptr<const VideoIndex> film, const FilmCut& cut,
 
 } // namespace
 
+std::string extensionOfPieces(const std::filesystem::path& film) {
+    std::string extension = film.extension().string();
+    for (char& letter : extension)
+        letter = 'A' <= letter && letter <= 'Z' ? static_cast<char>(letter - 'A' + 'a') : letter;
+    return extension == ".mp4" || extension == ".m4v" ? "mp4" : "mov";
+}
+
 std::optional<std::filesystem::path>
 cutFilm(const std::shared_ptr<const VideoIndex>& film, const FilmCut& cut,
         const std::stop_token& stop, const std::function<void(double fraction)>& onProgress) {
     if (cut.first < 0 || cut.last < cut.first || cut.last >= film->frameCount())
         throw std::out_of_range("the piece lies outside the film");
-    const std::string container = containerFor(film->facts().path);
+    const std::string container = extensionOfPieces(film->facts().path);
     std::filesystem::path target = cut.target;
     target.replace_extension('.' + container);
     try {

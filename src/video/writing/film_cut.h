@@ -8,6 +8,7 @@
 #include <memory>
 #include <optional>
 #include <stop_token>
+#include <string>
 
 namespace kavela {
 
@@ -29,6 +30,10 @@ struct FilmCut {
     /// Where it goes; the extension follows the container that is written.
     std::filesystem::path target;
 };
+
+/// The extension of pieces of a film, without a dot: "mp4", or "mov", which takes nearly every
+/// coding.
+[[nodiscard]] std::string extensionOfPieces(const std::filesystem::path& film);
 
 /// Cuts the piece with its sound. `onProgress` gets 0 to 1, from the calling thread. Returns the
 /// name that the file got: "NAME 2" where the name was taken. Nothing, and nothing is left on the
