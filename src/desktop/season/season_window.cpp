@@ -9,6 +9,7 @@
 #include "desktop/season/progression_panel.h"
 #include "desktop/season/season_actions.h"
 #include "desktop/season/season_header.h"
+#include "desktop/season/season_pages.h"
 #include "desktop/season/season_reports.h"
 #include "desktop/shell/file_names.h"
 #include "desktop/shell/qt_text.h"
@@ -24,7 +25,6 @@
 #include <QSignalBlocker>
 #include <QStackedWidget>
 #include <QStatusBar>
-#include <QTabWidget>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -44,10 +44,6 @@ bool isRaceOrFolder(const QString& path) {
     return file.isDir() || file.suffix().compare(QStringLiteral("kvx"), Qt::CaseInsensitive) == 0;
 }
 
-constexpr std::array SeasonPairsShown{RacePair::Heats, RacePair::SemifinalToFinal,
-                                      RacePair::HeatsToFinal};
-constexpr std::array SeasonRatesShown{RaceRate::Medals, RaceRate::Finals, RaceRate::Semifinals};
-
 } // namespace
 
 SeasonWindow::SeasonWindow(Workspace& workspace)
@@ -64,9 +60,7 @@ SeasonWindow::~SeasonWindow() {
     m_team.disconnect(this);
     m_facts.disconnect(this);
     m_header->disconnect(this);
-    m_tabs->disconnect(this);
-    for (FiguresPanel* const panel : m_figures)
-        panel->disconnect(this);
+    m_figures->disconnect(this);
 }
 
 void SeasonWindow::makeParts() {
@@ -104,39 +98,14 @@ QWidget* SeasonWindow::makeEmptyPage() {
 
 QWidget* SeasonWindow::makeContent() {
     m_header = new SeasonHeader;
-    m_tabs = new QTabWidget;
-    m_tabs->setDocumentMode(true);
-    m_progression = new ProgressionPanel(workspace());
-    m_tabs->addTab(m_progression, tr("Progression"));
-    addFigures(Pairs, "pairs", tr("Phases"), tr("From which phase to which"),
-               {tr("Run 1 to run 2 of the heats"), tr("Semifinal to final"),
-                tr("Heats to final, percent behind")});
-    addFigures(Spread, "spread", tr("Spread"), {}, {});
-    addFigures(Trend, "trend", tr("Trend"), tr("Behind whom"),
-               {tr("Behind the winners"), tr("Behind the fastest splits")});
-    addFigures(Heads, "heads", tr("Head to head"), {}, {});
-    addFigures(Rates, "rates", tr("Medals and finals"), tr("How far"),
-               {tr("Medals"), tr("Finals"), tr("Semifinals")});
-    addFigures(Places, "places", tr("Expected places"), {}, {});
-    addFigures(Benchmarks, "benchmarks", tr("What it takes"), {}, {});
-    m_compared = new ComparisonPanel(workspace());
-    m_tabs->addTab(m_compared, tr("Athletes"));
+    m_figures = new SeasonPages(workspace());
     auto* const page = new QWidget;
     auto* const column = new QVBoxLayout(page);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(theme::SmallSpacing);
     column->addWidget(m_header);
-    column->addWidget(m_tabs, 1);
+    column->addWidget(m_figures, 1);
     return page;
-}
-
-void SeasonWindow::addFigures(Page page, const char* name, const QString& title,
-                              const QString& label, const QStringList& choices) {
-    auto* const panel = new FiguresPanel(workspace(), name);
-    m_figures[static_cast<std::size_t>(page - FirstOfFigures)] = panel;
-    panel->offer(label, choices);
-    m_tabs->addTab(panel, title);
-    connect(panel, &FiguresPanel::choiceChanged, this, [this, page] { showFigures(page); });
 }
 
 void SeasonWindow::connectParts() {
@@ -146,11 +115,8 @@ void SeasonWindow::connectParts() {
     connect(m_header, &SeasonHeader::changed, this, &SeasonWindow::compute);
     connect(m_header, &SeasonHeader::athleteChanged, this, &SeasonWindow::showPages);
     connect(m_header, &SeasonHeader::racesRequested, this, &SeasonWindow::chooseFolder);
-    connect(m_progression, &ProgressionPanel::placeRequested, this, &SeasonWindow::placeRequested);
-    std::vector<ChartFrame*> charts{&m_progression->chart(), &m_compared->chart()};
-    for (FiguresPanel* const panel : m_figures)
-        charts.push_back(&panel->chart());
-    for (ChartFrame* const chart : charts) {
+    connect(&progression(), &ProgressionPanel::placeRequested, this, &SeasonWindow::placeRequested);
+    for (ChartFrame* const chart : m_figures->charts()) {
         connect(&chart->interaction(), &PlotInteraction::saved, this, [this](const QString& path) {
             tell(tr("Saved %1").arg(QFileInfo(path).fileName()));
         });
@@ -230,7 +196,7 @@ void SeasonWindow::showAgain(const QString& view) {
     if (m_view.size() < 5)
         m_view.clear();
     else
-        m_tabs->setCurrentIndex(std::clamp(m_view[0].toInt(), 0, PageCount - 1));
+        m_figures->setCurrentIndex(std::clamp(m_view[0].toInt(), 0, PageCount - 1));
 }
 
 void SeasonWindow::openRemembered() {
@@ -336,84 +302,42 @@ void SeasonWindow::take(const SharedSeason& season) {
     for (std::size_t i = 0; i < season->season.athletes.size(); ++i)
         names << qtText(season->memberOf(i).name);
     m_header->offerAthletes(names);
-    QStringList phases;
-    for (const std::string& phase : benchmarkPhases(season->season))
-        phases << qtText(phase);
-    std::ranges::stable_partition(phases, [](const QString& phase) { return phase == "Final"; });
-    figures(Benchmarks).offer(tr("Phase"), phases);
+    m_figures->take(season);
     showPages();
     showStatus();
 }
 
 void SeasonWindow::showPages() {
-    const auto athlete = m_header->athlete();
-    if (!m_season || !athlete || *athlete >= m_season->season.athletes.size())
-        return;
-    m_progression->show(m_season, *athlete);
-    for (int page = FirstOfFigures; page <= Benchmarks; ++page)
-        showFigures(static_cast<Page>(page));
-    m_compared->show(m_season);
+    m_figures->show(m_header->athlete());
     m_actions->refresh();
 }
 
-void SeasonWindow::showFigures(Page page) {
-    const auto athlete = m_header->athlete();
-    if (!m_season || !athlete || *athlete >= m_season->season.athletes.size())
-        return;
-    FiguresPanel& panel = figures(page);
-    const auto choice = static_cast<std::size_t>(std::max(panel.choice(), 0));
-    const ShownSeason& season = *m_season;
-    switch (page) {
-    case Pairs:
-        return panel.show(m_season, pairFigures(season, SeasonPairsShown.at(choice)));
-    case Spread:
-        return panel.show(m_season, spreadFigures(season));
-    case Trend:
-        return panel.show(m_season,
-                          trendFigures(season, choice == 0 ? TrendOf::Winner : TrendOf::Splits));
-    case Heads:
-        return panel.show(m_season, headFigures(season, *athlete));
-    case Rates:
-        return panel.show(m_season, rateFigures(season, SeasonRatesShown.at(choice)));
-    case Places:
-        return panel.show(m_season, placeFigures(season));
-    case Benchmarks:
-        return panel.show(m_season,
-                          benchmarkFigures(season,
-                                           panel.choice() < 0 ? std::string("Final")
-                                                              : panel.choiceText().toStdString(),
-                                           *athlete));
-    case Progression:
-    case Compared:
-        break;
-    }
-}
-
-FiguresPanel& SeasonWindow::figures(Page page) const {
-    return *m_figures.at(static_cast<std::size_t>(page - FirstOfFigures));
-}
-
 void SeasonWindow::showPage(Page page) {
-    m_tabs->setCurrentIndex(page);
-    table().setFocus();
+    m_figures->showPage(page);
 }
 
 SeasonWindow::Page SeasonWindow::page() const {
-    return static_cast<Page>(m_tabs->currentIndex());
+    return m_figures->page();
 }
 
 ChartFrame& SeasonWindow::chart() const {
-    if (page() == Progression)
-        return m_progression->chart();
-    if (page() == Compared)
-        return m_compared->chart();
-    return figures(page()).chart();
+    return m_figures->chart();
 }
 
 ColumnTable& SeasonWindow::table() const {
-    if (page() == Progression)
-        return m_progression->table();
-    return page() == Compared ? m_compared->table() : figures(page()).table();
+    return m_figures->table();
+}
+
+ProgressionPanel& SeasonWindow::progression() const {
+    return m_figures->progression();
+}
+
+FiguresPanel& SeasonWindow::figures(Page page) const {
+    return m_figures->figures(page);
+}
+
+ComparisonPanel& SeasonWindow::compared() const {
+    return m_figures->compared();
 }
 
 void SeasonWindow::saveChart() {
@@ -428,7 +352,7 @@ void SeasonWindow::saveTable() {
 void SeasonWindow::showChosenAthlete() {
     std::optional<std::size_t> athlete;
     if (page() == Compared)
-        athlete = m_compared->current();
+        athlete = compared().current();
     else if (page() != Progression)
         if (const FigureLine* const line = figures(page()).current())
             athlete = line->athlete;

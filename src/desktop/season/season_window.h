@@ -1,12 +1,12 @@
 #pragma once
 
 #include "desktop/facts/watched_facts.h"
+#include "desktop/season/season_pages.h"
 #include "desktop/season/shown_season.h"
 #include "desktop/season/watched_team.h"
 #include "desktop/shell/background_work.h"
 #include "desktop/shell/tool_window.h"
 
-#include <array>
 #include <optional>
 #include <string>
 #include <utility>
@@ -14,7 +14,6 @@
 
 class QLabel;
 class QStackedWidget;
-class QTabWidget;
 
 namespace kavela::desktop {
 
@@ -35,8 +34,9 @@ class SeasonWindow : public ToolWindow {
     Q_OBJECT
 
 public:
-    enum Page { Progression, Pairs, Spread, Trend, Heads, Rates, Places, Benchmarks, Compared };
-    static constexpr int PageCount = Compared + 1;
+    using Page = SeasonPages::Page;
+    using enum SeasonPages::Page;
+    static constexpr int PageCount = SeasonPages::PageCount;
 
     explicit SeasonWindow(Workspace& workspace);
     ~SeasonWindow() override;
@@ -87,10 +87,10 @@ public:
     [[nodiscard]] SeasonReports& reports() const { return *m_reports; }
 
     [[nodiscard]] SeasonHeader& header() const { return *m_header; }
-    [[nodiscard]] ProgressionPanel& progression() const { return *m_progression; }
+    [[nodiscard]] ProgressionPanel& progression() const;
     /// Of the pages from Pairs to Benchmarks.
     [[nodiscard]] FiguresPanel& figures(Page page) const;
-    [[nodiscard]] ComparisonPanel& compared() const { return *m_compared; }
+    [[nodiscard]] ComparisonPanel& compared() const;
     /// What is shown; null before the first team was read.
     [[nodiscard]] const SharedSeason& season() const { return m_season; }
     /// Something is being read or computed.
@@ -104,19 +104,14 @@ protected:
     void takeFiles(const QStringList& paths) override;
 
 private:
-    static constexpr int FirstOfFigures = Pairs;
-
     void makeParts();
     [[nodiscard]] QWidget* makeEmptyPage();
     [[nodiscard]] QWidget* makeContent();
-    void addFigures(Page page, const char* name, const QString& title, const QString& label,
-                    const QStringList& choices);
     void connectParts();
     void takeTeam();
     void compute();
     void take(const SharedSeason& season);
     void showPages();
-    void showFigures(Page page);
     void showStatus();
     void showTitle();
     void tell(const QString& text);
@@ -134,10 +129,7 @@ private:
     QStackedWidget* m_pages = nullptr;
     QLabel* m_emptyText = nullptr;
     SeasonHeader* m_header = nullptr;
-    QTabWidget* m_tabs = nullptr;
-    ProgressionPanel* m_progression = nullptr;
-    std::array<FiguresPanel*, Benchmarks - FirstOfFigures + 1> m_figures{};
-    ComparisonPanel* m_compared = nullptr;
+    SeasonPages* m_figures = nullptr;
     FactsStatus* m_status = nullptr;
     SeasonReports* m_reports = nullptr;
     SeasonActions* m_actions = nullptr;
