@@ -4,6 +4,8 @@
 #include <array>
 #include <cmath>
 #include <cstdlib>
+#include <cstdint>
+#include <iterator>
 #include <limits>
 #include <random>
 
@@ -70,6 +72,13 @@ bool hasTexture(const SmallPlane& plane, int left, int top) {
         }
     const int least = LeastTexture * BlockSide * BlockSide / 2;
     return across >= least && down >= least;
+}
+
+int meanShade(const SmallPlane& plane) {
+    std::int64_t sum = 0;
+    for (const std::uint8_t sample : plane.samples)
+        sum += sample;
+    return static_cast<int>(sum / std::max<std::int64_t>(std::ssize(plane.samples), 1));
 }
 
 double vertex(double before, double at, double behind) {
@@ -198,13 +207,14 @@ std::optional<PictureMotion> CameraMotion::follow(const TrackPicture& picture,
 CameraMotion::Shift CameraMotion::coarseShift(const SmallPlane& coarse) const {
     Shift best;
     double least = std::numeric_limits<double>::infinity();
+    const int lighter = meanShade(coarse) - meanShade(m_coarseBefore);
     for (int dy = -CoarseReach; dy <= CoarseReach; ++dy)
         for (int dx = -CoarseReach; dx <= CoarseReach; ++dx) {
             int sum = 0;
             int count = 0;
             for (int y = std::max(0, -dy); y < std::min(coarse.height, coarse.height - dy); ++y)
                 for (int x = std::max(0, -dx); x < std::min(coarse.width, coarse.width - dx); ++x) {
-                    sum += std::abs(m_coarseBefore.row(y)[x] - coarse.row(y + dy)[x + dx]);
+                    sum += std::abs(m_coarseBefore.row(y)[x] + lighter - coarse.row(y + dy)[x + dx]);
                     ++count;
                 }
             // Of two that fit alike, the smaller one.
