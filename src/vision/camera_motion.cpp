@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
-#include <cstdlib>
 #include <cstdint>
+#include <cstdlib>
 #include <iterator>
 #include <limits>
 #include <random>
@@ -13,16 +13,16 @@ namespace kavela {
 
 namespace {
 
-constexpr int MatchedSide = 480;  ///< longer side of the picture in which blocks are matched
-constexpr int BlockSide = 24;     ///< pixels of that picture
-constexpr int BlockReach = 8;     ///< pixels round where a block is expected
-constexpr int CoarseFactor = 8;   ///< from that picture to the coarse one
-constexpr int CoarseReach = 8;    ///< pixels of the coarse picture
+constexpr int MatchedSide = 480; ///< longer side of the picture in which blocks are matched
+constexpr int BlockSide = 24;    ///< pixels of that picture
+constexpr int BlockReach = 8;    ///< pixels round where a block is expected
+constexpr int CoarseFactor = 8;  ///< from that picture to the coarse one
+constexpr int CoarseReach = 8;   ///< pixels of the coarse picture
 constexpr int MostBlocks = 48;
 constexpr std::size_t FewestBlocks = 6;
-constexpr int LeastTexture = 3;   ///< mean difference of neighbours, each way
+constexpr int LeastTexture = 3;        ///< mean difference of neighbours, each way
 constexpr double MostDifference = 0.5; ///< of a block found again, of its contrast
-constexpr double MostError = 1.0; ///< median, pixels of the matched picture
+constexpr double MostError = 1.0;      ///< median, pixels of the matched picture
 
 /// The mean brightness of a block, with every second row left out as everywhere here.
 int blockMean(const SmallPlane& plane, int left, int top) {
@@ -179,9 +179,8 @@ bool CameraMotion::covers(const std::optional<TrackBox>& box, int x, int y, int 
 
 std::optional<PictureMotion> CameraMotion::follow(const TrackPicture& picture,
                                                   const std::optional<TrackBox>& without) {
-    m_factor = std::max((std::max(picture.width(), picture.height()) + MatchedSide / 2) /
-                            MatchedSide,
-                        1);
+    m_factor =
+        std::max((std::max(picture.width(), picture.height()) + MatchedSide / 2) / MatchedSide, 1);
     SmallPlane now = smallPlane(picture.planes[0], m_factor);
     SmallPlane coarse = smallPlane(now.plane(), CoarseFactor);
     std::optional<PictureMotion> motion;
@@ -214,7 +213,8 @@ CameraMotion::Shift CameraMotion::coarseShift(const SmallPlane& coarse) const {
             int count = 0;
             for (int y = std::max(0, -dy); y < std::min(coarse.height, coarse.height - dy); ++y)
                 for (int x = std::max(0, -dx); x < std::min(coarse.width, coarse.width - dx); ++x) {
-                    sum += std::abs(m_coarseBefore.row(y)[x] + lighter - coarse.row(y + dy)[x + dx]);
+                    sum +=
+                        std::abs(m_coarseBefore.row(y)[x] + lighter - coarse.row(y + dy)[x + dx]);
                     ++count;
                 }
             // Of two that fit alike, the smaller one.

@@ -7,9 +7,9 @@
 
 namespace kavela {
 
-/// How a camera moves, frame by frame, seen in what stands still: blocks in a grid are looked for in
-/// the next picture, and the similarity on which most of them agree is taken (least median of the
-/// squared errors). What more than half of the picture does counts as the camera's motion.
+/// How a camera moves, frame by frame, seen in what stands still: blocks in a grid are looked for
+/// in the next picture, and the similarity on which most of them agree is taken (least median of
+/// the squared errors). What more than half of the picture does counts as the camera's motion.
 class CameraMotion {
 public:
     /// How the picture moved since the last one whose motion was known, leaving out what is in the

@@ -21,8 +21,8 @@ public:
     [[nodiscard]] VideoSize size() const { return m_size; }
     /// A frame; null where it cannot be decoded, and when interrupted. Throws VideoError when the
     /// file cannot be read any more.
-    [[nodiscard]] std::shared_ptr<const AVFrame>
-    at(FrameNumber frame, const std::function<bool()>& interrupt = {});
+    [[nodiscard]] std::shared_ptr<const AVFrame> at(FrameNumber frame,
+                                                    const std::function<bool()>& interrupt = {});
 
 private:
     FrameSource m_source;

@@ -88,8 +88,8 @@ private:
         if (!isWorthLooking(stretch, frame))
             return;
         if (const auto found = tracker.follow(picture, motion.value_or(PictureMotion())))
-            stretch.points.push_back({frame, m_film.index().secondsOf(frame), found->place,
-                                      found->size, found->score});
+            stretch.points.push_back(
+                {frame, m_film.index().secondsOf(frame), found->place, found->size, found->score});
     }
 
     [[nodiscard]] bool isWorthLooking(const FollowedStretch& stretch, FrameNumber frame) const {
@@ -133,9 +133,9 @@ private:
                 points.push_back({frame, seconds, found->place, found->size, found->score});
             later = now;
             if (m_onProgress)
-                m_onProgress({frame, 1 - static_cast<double>(frame - m_order.from.frame) /
-                                             (2.0 * static_cast<double>(m_end -
-                                                                        m_order.from.frame))});
+                m_onProgress(
+                    {frame, 1 - static_cast<double>(frame - m_order.from.frame) /
+                                    (2.0 * static_cast<double>(m_end - m_order.from.frame))});
         }
         std::ranges::reverse(points);
         return points;
@@ -216,8 +216,7 @@ Track withStretch(Track track, const FollowedStretch& stretch) {
     if (track.cameras.empty())
         track.cameras.push_back({stretch.first, {}});
     const TrackCamera* const known = track.cameraAt(stretch.first);
-    const std::optional<PictureMotion> start =
-        known ? std::optional(known->toFirst) : std::nullopt;
+    const std::optional<PictureMotion> start = known ? std::optional(known->toFirst) : std::nullopt;
     std::erase_if(track.points, isWithin);
     std::erase_if(track.cameras, isWithin);
     track.points.insert(track.points.end(), stretch.points.begin(), stretch.points.end());

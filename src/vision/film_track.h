@@ -24,8 +24,8 @@ struct FollowedStretch {
     FrameNumber last = 0;  ///< the last frame that was looked at
     bool isLast = true;    ///< no next box ends it: nothing of before stays behind it
     std::vector<TrackPoint> points;
-    std::vector<TrackCamera> cameras;    ///< against the first frame of the stretch
-    std::optional<FrameNumber> lostAt;   ///< first frame of what was not found again up to the end
+    std::vector<TrackCamera> cameras;  ///< against the first frame of the stretch
+    std::optional<FrameNumber> lostAt; ///< first frame of what was not found again up to the end
 };
 
 /// How far it has come: frames looked at, and the point of the last one where there is one.

@@ -19,9 +19,9 @@ double PatchTemplate::contrast() const {
 void PatchTemplate::renew(const SampledPatch& patch, double share) {
     for (std::size_t channel = 0; channel < 3; ++channel)
         for (std::size_t i = 0; i < m_look[channel].size(); ++i)
-            m_look[channel][i] += static_cast<float>(share) *
-                                  (static_cast<float>(patch.channels[channel][i]) -
-                                   m_look[channel][i]);
+            m_look[channel][i] +=
+                static_cast<float>(share) *
+                (static_cast<float>(patch.channels[channel][i]) - m_look[channel][i]);
     takeDeviations();
 }
 
@@ -29,8 +29,8 @@ void PatchTemplate::takeDeviations() {
     double square = 0;
     for (std::size_t channel = 0; channel < 3; ++channel) {
         const std::vector<float>& look = m_look[channel];
-        const float mean = std::accumulate(look.begin(), look.end(), 0.0F) /
-                           static_cast<float>(look.size());
+        const float mean =
+            std::accumulate(look.begin(), look.end(), 0.0F) / static_cast<float>(look.size());
         m_deviations[channel].resize(look.size());
         for (std::size_t i = 0; i < look.size(); ++i) {
             const auto deviation = static_cast<std::int16_t>(std::lround(look[i] - mean));
@@ -51,13 +51,12 @@ PatchWindow::PatchWindow(SampledPatch samples, int width, int height)
         for (int x = 0; x < m_samples.width; ++x) {
             for (std::size_t channel = 0; channel < 3; ++channel) {
                 const std::int64_t sample =
-                    m_samples
-                        .channels[channel][static_cast<std::size_t>(y * m_samples.width + x)];
+                    m_samples.channels[channel][static_cast<std::size_t>(y * m_samples.width + x)];
                 row[channel] += sample;
                 row[3] += sample * sample;
             }
-            const std::size_t at = line * (static_cast<std::size_t>(y) + 1) +
-                                   static_cast<std::size_t>(x) + 1;
+            const std::size_t at =
+                line * (static_cast<std::size_t>(y) + 1) + static_cast<std::size_t>(x) + 1;
             for (std::size_t sum = 0; sum < 4; ++sum)
                 m_sums[sum][at] = m_sums[sum][at - line] + row[sum];
         }

@@ -10,15 +10,15 @@ namespace kavela {
 
 namespace {
 
-constexpr double LongerSide = 40;    ///< samples along the longer side of a box
-constexpr double LeastContrast = 3;  ///< shades
-constexpr double ReachOfBox = 0.35;  ///< of its longer side
-constexpr int LeastReach = 10;       ///< samples
-constexpr int MostReach = 28;        ///< samples
+constexpr double LongerSide = 40;     ///< samples along the longer side of a box
+constexpr double LeastContrast = 3;   ///< shades
+constexpr double ReachOfBox = 0.35;   ///< of its longer side
+constexpr int LeastReach = 10;        ///< samples
+constexpr int MostReach = 28;         ///< samples
 constexpr double BelievedAgain = 0.5; ///< score behind a gap
-constexpr double RenewedFrom = 0.55; ///< score that is good enough to learn from
+constexpr double RenewedFrom = 0.55;  ///< score that is good enough to learn from
 constexpr double RenewedShare = 0.08;
-constexpr double LeastFirst = 0.2;   ///< correlation with the first look
+constexpr double LeastFirst = 0.2; ///< correlation with the first look
 constexpr double SizeStep = 0.04;
 
 double topOf(double before, double at, double behind) {
@@ -96,8 +96,8 @@ PatchTracker::Match PatchTracker::bestMatch(const PatchWindow& window) const {
     Match match;
     match.x = bestX - (window.across() - 1) / 2.0 +
               topOf(at(bestX - 1, bestY), best, at(bestX + 1, bestY));
-    match.y = bestY - (window.down() - 1) / 2.0 +
-              topOf(at(bestX, bestY - 1), best, at(bestX, bestY + 1));
+    match.y =
+        bestY - (window.down() - 1) / 2.0 + topOf(at(bestX, bestY - 1), best, at(bestX, bestY + 1));
     match.score = best;
     match.first = window.correlation(*m_first, bestX, bestY);
     return match;

@@ -48,10 +48,10 @@ private:
                                    double score) const;
     void take(const TrackPicture& picture, const Found& found, const PicturePlace& expected);
 
-    TrackBox m_box;     ///< as it was drawn
-    int m_width = 0;    ///< samples
+    TrackBox m_box;  ///< as it was drawn
+    int m_width = 0; ///< samples
     int m_height = 0;
-    double m_step = 1;  ///< pixels between two samples at size 1
+    double m_step = 1; ///< pixels between two samples at size 1
     double m_size = 1;
     PicturePlace m_place;
     PicturePlace m_speed; ///< pixels in a picture, beside the camera's

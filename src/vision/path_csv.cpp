@@ -23,11 +23,10 @@ std::string pathCsv(const std::vector<PathFigure>& figures) {
     std::string text = "frame,seconds,x,y,steadied_x,steadied_y,metres_x,metres_y,"
                        "metres_a_second,uncertainty,score\n";
     for (const PathFigure& figure : figures)
-        text += fmt::format("{},{},{},{},{},{},{},{}\n", figure.frame,
-                            csvNumber(figure.seconds, 6), csvPlace(figure.place, 2),
-                            csvPlace(figure.steadied, 2), csvPlace(figure.water, 3),
-                            csvNumber(figure.speed, 3), csvNumber(figure.speedError, 3),
-                            csvNumber(figure.score, 3));
+        text += fmt::format("{},{},{},{},{},{},{},{}\n", figure.frame, csvNumber(figure.seconds, 6),
+                            csvPlace(figure.place, 2), csvPlace(figure.steadied, 2),
+                            csvPlace(figure.water, 3), csvNumber(figure.speed, 3),
+                            csvNumber(figure.speedError, 3), csvNumber(figure.score, 3));
     return text;
 }
 

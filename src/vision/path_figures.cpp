@@ -16,7 +16,7 @@ constexpr int ClickDraws = 200;
 constexpr double ClickError = 2; ///< pixels
 constexpr double Slack = 1e-6;   ///< seconds
 
-double slopeOf(std::span<const PathFigure> figures, double WaterPlace::* along) {
+double slopeOf(std::span<const PathFigure> figures, double WaterPlace::*along) {
     double meanT = 0;
     double mean = 0;
     for (const PathFigure& figure : figures) {
@@ -56,7 +56,8 @@ void addSpeeds(std::vector<PathFigure>& figures) {
         const auto window = windowRound(figures, i);
         if (window.size() >= FewestPoints &&
             *window.back().seconds - *window.front().seconds >= HalfSpeedWindow / 2)
-            speeds[i] = std::hypot(slopeOf(window, &WaterPlace::x), slopeOf(window, &WaterPlace::y));
+            speeds[i] =
+                std::hypot(slopeOf(window, &WaterPlace::x), slopeOf(window, &WaterPlace::y));
     }
     for (std::size_t i = 0; i < figures.size(); ++i)
         figures[i].speed = speeds[i];

@@ -60,11 +60,9 @@ Track withoutKey(Track track, FrameNumber frame) {
     const bool isFirst = key == track.keys.begin();
     const bool isLast = std::next(key) == track.keys.end();
     const FrameNumber before = isFirst ? -1 : std::prev(key)->frame;
-    const FrameNumber behind = isLast ? std::max(frame, track.points.empty()
-                                                            ? frame
-                                                            : track.points.back().frame) +
-                                            1
-                                      : std::next(key)->frame;
+    const FrameNumber behind =
+        isLast ? std::max(frame, track.points.empty() ? frame : track.points.back().frame) + 1
+               : std::next(key)->frame;
     track.keys.erase(key);
     std::erase_if(track.points, [&](const TrackPoint& point) {
         return point.frame > before && point.frame < behind;

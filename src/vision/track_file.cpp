@@ -82,8 +82,8 @@ void takeTrack(track001& record, const Track& track) {
     for (const TrackKey& key : track.keys)
         record.boxes.push_back({key.frame, key.box.x, key.box.y, key.box.width, key.box.height});
     for (const TrackPoint& point : track.points)
-        record.points.push_back({point.frame, point.seconds, point.place.x, point.place.y,
-                                 point.size, point.score});
+        record.points.push_back(
+            {point.frame, point.seconds, point.place.x, point.place.y, point.size, point.score});
     for (const TrackCamera& camera : track.cameras)
         record.cameras.push_back({camera.frame, camera.toFirst.a, camera.toFirst.b,
                                   camera.toFirst.dx, camera.toFirst.dy});

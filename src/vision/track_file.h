@@ -66,8 +66,7 @@ struct track001 {
     std::vector<trackcamera001> cameras = {};
     trackplane001 plane = {};
 };
-BOOST_DESCRIBE_STRUCT(track001, (),
-                      (film, width, height, isOnWater, boxes, points, cameras, plane))
+BOOST_DESCRIBE_STRUCT(track001, (), (film, width, height, isOnWater, boxes, points, cameras, plane))
 
 /// What the record of a path holds. Throws DecodeError with the place of what is wrong: frames out
 /// of order, a box without a size, one or three known points.

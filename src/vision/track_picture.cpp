@@ -76,9 +76,9 @@ TrackPicture trackPictureOf(const AVFrame& planes) {
     TrackPicture picture;
     for (int i = 0; i < 3; ++i) {
         const int part = i == 0 ? 1 : 2;
-        picture.planes[static_cast<std::size_t>(i)] = {
-            planes.data[i], planes.linesize[i], (planes.width + part - 1) / part,
-            (planes.height + part - 1) / part};
+        picture.planes[static_cast<std::size_t>(i)] = {planes.data[i], planes.linesize[i],
+                                                       (planes.width + part - 1) / part,
+                                                       (planes.height + part - 1) / part};
     }
     return picture;
 }

@@ -45,7 +45,7 @@ double areaOf(double ax, double ay, double bx, double by, double cx, double cy) 
 }
 
 void checkSpread(const std::vector<PlanePoint>& points) {
-    constexpr double LeastPixels = 20;  // twice an area
+    constexpr double LeastPixels = 20; // twice an area
     constexpr double LeastMetres = 1e-3;
     for (std::size_t left = 0; left < points.size(); ++left) {
         std::vector<PlanePoint> three = points;
@@ -87,8 +87,8 @@ void WaterPlane::takeScale(const std::vector<PlanePoint>& points) {
         throw TrackError("The two known points lie on one spot.");
     m_isScaleOnly = true;
     const double scale = metres / pixels;
-    m_matrix = {scale, 0, from.x - scale * from.place.x, 0, scale, from.y - scale * from.place.y,
-                0,     0, 1};
+    m_matrix = {scale, 0, from.x - scale * from.place.x, 0, scale, from.y - scale * from.place.y, 0,
+                0,     1};
 }
 
 /// x = (h0 u + h1 v + h2) / (h6 u + h7 v + 1), y likewise: two equations for each point. Pixels are

@@ -92,8 +92,8 @@ TrackScene::TrackScene(const TrackShot& shot)
 }
 
 double TrackScene::random(int frame, int which) const {
-    return unitOf(hashOf(static_cast<unsigned>(frame), static_cast<unsigned>(which) + 100,
-                         m_shot.seed));
+    return unitOf(
+        hashOf(static_cast<unsigned>(frame), static_cast<unsigned>(which) + 100, m_shot.seed));
 }
 
 PictureMotion TrackScene::camera(int frame) const {
@@ -103,7 +103,8 @@ PictureMotion TrackScene::camera(int frame) const {
 PicturePlace TrackScene::boat(int frame) const {
     const double phase = 0.06 * frame + m_shot.seed;
     return {200 + m_shot.speed * frame + 10 * std::sin(phase),
-            235 + 22 * std::sin(0.021 * m_shot.speed * frame + m_shot.seed) + 3 * std::sin(3 * phase)};
+            235 + 22 * std::sin(0.021 * m_shot.speed * frame + m_shot.seed) +
+                3 * std::sin(3 * phase)};
 }
 
 PicturePlace TrackScene::athlete(int frame) const {
