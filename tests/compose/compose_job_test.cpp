@@ -13,8 +13,8 @@ namespace {
 
 using ::testing::HasSubstr;
 
-composejob001 jobOfTwoRuns() {
-    composejob001 job;
+composejob002 jobOfTwoRuns() {
+    composejob002 job;
     job.films = {{.splitFile = "riverside.kvx", .run = 49},
                  {.splitFile = "riverside.kvx", .run = 50}};
     job.synchronise = "waiting";
@@ -60,7 +60,7 @@ TEST_F(ComposeJob, SaysWhatIsWrongAndWhere) {
     struct Wrong {
         const char* place;
         const char* text;
-        std::function<void(composejob001&)> spoil;
+        std::function<void(composejob002&)> spoil;
     };
     const std::vector<Wrong> wrongs{
         {"layout", "\"row\" is none of", [](auto& job) { job.layout = "row"; }},
@@ -79,7 +79,7 @@ TEST_F(ComposeJob, SaysWhatIsWrongAndWhere) {
              job.range = {"splits", 0, 500, 0, 0};
          }}};
     for (const Wrong& wrong : wrongs) {
-        composejob001 job = jobOfTwoRuns();
+        composejob002 job = jobOfTwoRuns();
         wrong.spoil(job);
         try {
             static_cast<void>(compositionOf(job, m_folder.path()));
@@ -92,7 +92,7 @@ TEST_F(ComposeJob, SaysWhatIsWrongAndWhere) {
 }
 
 TEST_F(ComposeJob, AFilmWithoutMarksStartsWhereItIsSaid) {
-    composejob001 job = jobOfTwoRuns();
+    composejob002 job = jobOfTwoRuns();
     job.films[1] = {.film = "phone.mp4", .names = "Guest", .startsAt = 3.5};
     job.synchronise = "start";
     const Composition composition = compositionOf(job, m_folder.path());

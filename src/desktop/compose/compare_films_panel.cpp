@@ -85,8 +85,8 @@ std::vector<Column<CompareFilmsPanel::CandidateRow>> CompareFilmsPanel::candidat
 
 std::vector<Column<CompareFilmsPanel::FilmRow>> CompareFilmsPanel::filmColumns() {
     const auto change = [this](std::size_t place, const QString& what,
-                               const std::function<void(composefilm001&)>& to) {
-        m_edit(what, [&](composejob001& job) {
+                               const std::function<void(composefilm002&)>& to) {
+        m_edit(what, [&](composejob002& job) {
             if (place < job.films.size())
                 to(job.films[place]);
         });
@@ -95,7 +95,7 @@ std::vector<Column<CompareFilmsPanel::FilmRow>> CompareFilmsPanel::filmColumns()
         textColumn<FilmRow>(tr("Name in the film"), [](const FilmRow& row) { return row.names; });
     names.take = [change](const std::size_t& place, const FilmRow&, const QString& typed) {
         change(place, tr("name in the film"),
-               [&](composefilm001& film) { film.names = typed.toStdString(); });
+               [&](composefilm002& film) { film.names = typed.toStdString(); });
     };
     Column<FilmRow> category = textColumn<FilmRow>(tr("Category"), [](const FilmRow& row) {
         return QString::fromStdString(row.film.category);
@@ -103,7 +103,7 @@ std::vector<Column<CompareFilmsPanel::FilmRow>> CompareFilmsPanel::filmColumns()
     category.tip = tr("In place of that of the split file.");
     category.take = [change](const std::size_t& place, const FilmRow&, const QString& typed) {
         change(place, tr("category in the film"),
-               [&](composefilm001& film) { film.category = typed.toStdString(); });
+               [&](composefilm002& film) { film.category = typed.toStdString(); });
     };
     Column<FilmRow> start = textColumn<FilmRow>(tr("Starts at [s]"), nullptr);
     start.kind = ColumnKind::Number;
@@ -120,7 +120,7 @@ std::vector<Column<CompareFilmsPanel::FilmRow>> CompareFilmsPanel::filmColumns()
         const double seconds =
             typedSeconds(typed, {0, 86400, tr("The start is a second of the film, 0 to 86400")});
         change(place, tr("start of a film"),
-               [&](composefilm001& film) { film.startsAt = seconds; });
+               [&](composefilm002& film) { film.startsAt = seconds; });
     };
     return {textColumn<FilmRow>(tr("No."),
                                 [](const FilmRow& row) { return QString::number(row.place + 1); }),
@@ -194,12 +194,12 @@ void CompareFilmsPanel::addCandidates(const std::vector<CompareCandidate>& found
     showRows();
 }
 
-void CompareFilmsPanel::showJob(const composejob001& job) {
+void CompareFilmsPanel::showJob(const composejob002& job) {
     m_job = job;
     showRows();
 }
 
-const CompareCandidate* CompareFilmsPanel::candidateOf(const composefilm001& film) const {
+const CompareCandidate* CompareFilmsPanel::candidateOf(const composefilm002& film) const {
     const auto found = std::ranges::find_if(
         m_known, [&](const CompareCandidate& candidate) { return isCandidate(film, candidate); });
     return found == m_known.end() ? nullptr : &*found;
@@ -208,7 +208,7 @@ const CompareCandidate* CompareFilmsPanel::candidateOf(const composefilm001& fil
 void CompareFilmsPanel::showRows() {
     std::vector<CandidateRow> rows;
     for (std::size_t number = 0; number < m_known.size(); ++number) {
-        const auto film = std::ranges::find_if(m_job.films, [&](const composefilm001& entry) {
+        const auto film = std::ranges::find_if(m_job.films, [&](const composefilm002& entry) {
             return isCandidate(entry, m_known[number]);
         });
         rows.push_back(
@@ -219,7 +219,7 @@ void CompareFilmsPanel::showRows() {
     m_candidates.show(std::move(rows));
     std::vector<FilmRow> films;
     for (std::size_t place = 0; place < m_job.films.size(); ++place) {
-        const composefilm001& film = m_job.films[place];
+        const composefilm002& film = m_job.films[place];
         const CompareCandidate* const known = candidateOf(film);
         FilmRow row{place, film, QString::fromStdString(film.names),
                     QFileInfo(QString::fromStdString(film.film)).fileName(),
@@ -249,7 +249,7 @@ void CompareFilmsPanel::toggle(std::size_t candidate) {
         return;
     const CompareCandidate chosen = m_known[candidate];
     const auto film = std::ranges::find_if(
-        m_job.films, [&](const composefilm001& entry) { return isCandidate(entry, chosen); });
+        m_job.films, [&](const composefilm002& entry) { return isCandidate(entry, chosen); });
     if (film != m_job.films.end()) {
         removeFilm(static_cast<std::size_t>(film - m_job.films.begin()));
         return;
@@ -258,7 +258,7 @@ void CompareFilmsPanel::toggle(std::size_t candidate) {
         emit refused(tr("Four films are the most. Take one out first."));
         return;
     }
-    m_edit(tr("choice of a film"), [&](composejob001& job) {
+    m_edit(tr("choice of a film"), [&](composejob002& job) {
         job.films.push_back(filmOfCandidate(chosen));
         if (job.films.size() > 2 &&
             (job.layout == wordOf(LayoutKind::Ghost) || job.layout == wordOf(LayoutKind::Wipe)))
@@ -271,7 +271,7 @@ void CompareFilmsPanel::toggle(std::size_t candidate) {
 void CompareFilmsPanel::removeFilm(std::size_t film) {
     if (film >= m_job.films.size())
         return;
-    m_edit(tr("removal of a film"), [&](composejob001& job) {
+    m_edit(tr("removal of a film"), [&](composejob002& job) {
         job.films.erase(job.films.begin() + static_cast<std::ptrdiff_t>(film));
         const auto heard = static_cast<std::size_t>(std::max<std::int64_t>(job.sound, 0));
         if (heard == film + 1)
@@ -286,7 +286,7 @@ void CompareFilmsPanel::moveFilm(int step) {
     const int to = from + step;
     if (from < 0 || to < 0 || to >= static_cast<int>(m_job.films.size()))
         return;
-    m_edit(tr("order of the films"), [&](composejob001& job) {
+    m_edit(tr("order of the films"), [&](composejob002& job) {
         std::swap(job.films[static_cast<std::size_t>(from)],
                   job.films[static_cast<std::size_t>(to)]);
         if (job.sound == from + 1)
