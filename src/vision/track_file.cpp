@@ -29,7 +29,8 @@ void checkFrames(const Entries& entries, const std::string& name) {
 }
 
 KnownPlane knownPlaneOf(const trackplane001& record, const std::string& place) {
-    if (record.points.size() != 2 && record.points.size() != 4)
+    constexpr std::size_t Most = 4;
+    if (record.points.empty() || record.points.size() > Most)
         refuseTrack(place + "points", "four known points were expected, or two for a scale only");
     if (record.frame < 0)
         refuseTrack(place + "frame", "a frame from 0 on was expected");

@@ -5,6 +5,7 @@
 #include "desktop/shell/tables/column_table.h"
 #include "desktop/shell/theme.h"
 #include "desktop/shell/typed_number.h"
+#include "vision/track_file.h"
 
 #include <QFileInfo>
 #include <QHBoxLayout>
@@ -122,10 +123,55 @@ std::vector<Column<CompareFilmsPanel::FilmRow>> CompareFilmsPanel::filmColumns()
         change(place, tr("start of a film"),
                [&](composefilm002& film) { film.startsAt = seconds; });
     };
-    return {textColumn<FilmRow>(tr("No."),
-                                [](const FilmRow& row) { return QString::number(row.place + 1); }),
-            names, category, start,
-            textColumn<FilmRow>(tr("Film"), [](const FilmRow& row) { return row.file; })};
+    std::vector<Column<FilmRow>> columns{
+        textColumn<FilmRow>(tr("No."),
+                            [](const FilmRow& row) { return QString::number(row.place + 1); }),
+        names, category, start};
+    for (Column<FilmRow>& tick : pathTicks())
+        columns.push_back(std::move(tick));
+    columns.push_back(textColumn<FilmRow>(tr("Film"), [](const FilmRow& row) { return row.file; }));
+    return columns;
+}
+
+/// What can be shown of the path that was followed on a film.
+std::vector<Column<CompareFilmsPanel::FilmRow>> CompareFilmsPanel::pathTicks() {
+    const auto tickOf = [this](const QString& title, const QString& tip,
+                               const std::function<bool(const composefilm002&)>& isOn,
+                               const std::function<void(composefilm002&, bool)>& turn) {
+        Column<FilmRow> column = textColumn<FilmRow>(title, nullptr);
+        column.tip = tip;
+        column.show = [isOn](const FilmRow& row) {
+            Cell cell;
+            if (row.track.isEmpty())
+                cell.text = QStringLiteral("–");
+            else
+                cell.isTicked = isOn(row.film);
+            return cell;
+        };
+        column.tick = [this, turn](const std::size_t& place, const FilmRow& row, bool isTicked) {
+            if (row.track.isEmpty())
+                return;
+            m_edit(tr("path of a film"), [&](composejob002& job) {
+                if (place >= job.films.size())
+                    return;
+                composefilm002& film = job.films[place];
+                turn(film, isTicked);
+                const bool isUsed = film.drawsPath || film.zoom > 1;
+                film.track = isUsed ? row.track.toStdString() : std::string();
+            });
+        };
+        return column;
+    };
+    return {tickOf(
+                tr("Path"), tr("Draws the path that was followed on it in the window Tracking."),
+                [](const composefilm002& film) { return film.drawsPath; },
+                [](composefilm002& film, bool isTicked) { film.drawsPath = isTicked; }),
+            tickOf(
+                tr("Follow"), tr("Shows it twice as large, round that path."),
+                [](const composefilm002& film) { return film.zoom > 1; },
+                [](composefilm002& film, bool isTicked) {
+                    film.zoom = isTicked ? PathView::MostZoom : 1;
+                })};
 }
 
 QWidget* CompareFilmsPanel::makeCandidates() {
@@ -221,13 +267,21 @@ void CompareFilmsPanel::showRows() {
     for (std::size_t place = 0; place < m_job.films.size(); ++place) {
         const composefilm002& film = m_job.films[place];
         const CompareCandidate* const known = candidateOf(film);
-        FilmRow row{place, film, QString::fromStdString(film.names),
+        FilmRow row{place,
+                    film,
+                    QString::fromStdString(film.names),
                     QFileInfo(QString::fromStdString(film.film)).fileName(),
-                    known && known->isMarked};
+                    known && known->isMarked,
+                    QString::fromStdString(film.track)};
         if (known && row.names.isEmpty())
             row.names = known->names;
         if (known)
             row.file = QFileInfo(known->film).fileName();
+        const std::string path = known ? known->film.toStdString() : film.film;
+        if (row.track.isEmpty() && !path.empty()) {
+            const QString track = QString::fromStdString(trackPathOf(path).string());
+            row.track = QFileInfo::exists(track) ? track : QString();
+        }
         films.push_back(std::move(row));
     }
     m_films.show(std::move(films));

@@ -59,10 +59,12 @@ private:
         QString names; ///< as they are shown
         QString file;
         bool isMarked = false;
+        QString track; ///< the path that lies beside its film; empty for none
     };
 
     [[nodiscard]] std::vector<Column<CandidateRow>> candidateColumns();
     [[nodiscard]] std::vector<Column<FilmRow>> filmColumns();
+    [[nodiscard]] std::vector<Column<FilmRow>> pathTicks();
     [[nodiscard]] QWidget* makeCandidates();
     [[nodiscard]] QWidget* makeFilms();
     void showRows();

@@ -28,9 +28,9 @@ std::optional<double> downOf(const std::optional<Place>& place) {
 
 Column<PathFigure> figureColumn(const char* title, const char* unit, int decimals,
                                 std::function<std::optional<double>(const PathFigure&)> figure) {
-    Column<PathFigure> column = numberColumn<PathFigure>(
-        trackText(title), std::move(figure),
-        [decimals](double value) { return shownNumber(value, decimals); });
+    Column<PathFigure> column =
+        numberColumn<PathFigure>(trackText(title), std::move(figure),
+                                 [decimals](double value) { return shownNumber(value, decimals); });
     column.unit = QString::fromUtf8(unit);
     return column;
 }
@@ -42,8 +42,9 @@ QString speedSentence(const std::vector<PathFigure>& figures, bool isScaleOnly) 
             fastest = &figure;
     if (!fastest)
         return {};
-    QString sentence = trackText("Fastest at %1 s of the film: %2 m/s")
-                           .arg(shownHundredths(*fastest->seconds), shownNumber(*fastest->speed, 1));
+    QString sentence =
+        trackText("Fastest at %1 s of the film: %2 m/s")
+            .arg(shownHundredths(*fastest->seconds), shownNumber(*fastest->speed, 1));
     if (fastest->speedError)
         sentence += QStringLiteral(" ± ") + shownNumber(*fastest->speedError, 1);
     if (isScaleOnly)
@@ -54,26 +55,25 @@ QString speedSentence(const std::vector<PathFigure>& figures, bool isScaleOnly) 
 } // namespace
 
 std::vector<Column<PathFigure>> pathColumns() {
-    return {figureColumn("Frame", "", 0,
-                         [](const PathFigure& figure) {
-                             return std::optional(static_cast<double>(figure.frame));
-                         }),
-            figureColumn("Time", "s", 3, [](const PathFigure& figure) { return figure.seconds; }),
-            figureColumn("x", "px", 1,
-                         [](const PathFigure& figure) { return acrossOf(figure.place); }),
-            figureColumn("y", "px", 1, [](const PathFigure& figure) { return downOf(figure.place); }),
-            figureColumn("Steadied x", "px", 1,
-                         [](const PathFigure& figure) { return acrossOf(figure.steadied); }),
-            figureColumn("Steadied y", "px", 1,
-                         [](const PathFigure& figure) { return downOf(figure.steadied); }),
-            figureColumn("Across", "m", 2,
-                         [](const PathFigure& figure) { return acrossOf(figure.water); }),
-            figureColumn("Along", "m", 2,
-                         [](const PathFigure& figure) { return downOf(figure.water); }),
-            figureColumn("Speed", "m/s", 2, [](const PathFigure& figure) { return figure.speed; }),
-            figureColumn("±", "m/s", 2,
-                         [](const PathFigure& figure) { return figure.speedError; }),
-            figureColumn("Score", "", 2, [](const PathFigure& figure) { return figure.score; })};
+    return {
+        figureColumn("Frame", "", 0,
+                     [](const PathFigure& figure) {
+                         return std::optional(static_cast<double>(figure.frame));
+                     }),
+        figureColumn("Time", "s", 3, [](const PathFigure& figure) { return figure.seconds; }),
+        figureColumn("x", "px", 1, [](const PathFigure& figure) { return acrossOf(figure.place); }),
+        figureColumn("y", "px", 1, [](const PathFigure& figure) { return downOf(figure.place); }),
+        figureColumn("Steadied x", "px", 1,
+                     [](const PathFigure& figure) { return acrossOf(figure.steadied); }),
+        figureColumn("Steadied y", "px", 1,
+                     [](const PathFigure& figure) { return downOf(figure.steadied); }),
+        figureColumn("Across", "m", 2,
+                     [](const PathFigure& figure) { return acrossOf(figure.water); }),
+        figureColumn("Along", "m", 2,
+                     [](const PathFigure& figure) { return downOf(figure.water); }),
+        figureColumn("Speed", "m/s", 2, [](const PathFigure& figure) { return figure.speed; }),
+        figureColumn("±", "m/s", 2, [](const PathFigure& figure) { return figure.speedError; }),
+        figureColumn("Score", "", 2, [](const PathFigure& figure) { return figure.score; })};
 }
 
 ChartContent speedContent(const std::vector<PathFigure>& figures, bool hasPlane, bool isScaleOnly) {
@@ -86,10 +86,10 @@ ChartContent speedContent(const std::vector<PathFigure>& figures, bool hasPlane,
     content.yFromZero = true;
     content.emptyText =
         figures.empty() ? trackText("Draw a box round what is to be followed.")
-        : !hasPlane     ? trackText("Click known points on the water for metres and speeds: the poles "
-                                    "of two gates, or of one for a scale only.")
-                        : trackText("There is no speed: the path is too short, or the camera's motion "
-                                    "is not known.");
+        : !hasPlane ? trackText("Click known points on the water for metres and speeds: the poles "
+                                "of two gates, or of one for a scale only.")
+                    : trackText("There is no speed: the path is too short, or the camera's motion "
+                                "is not known.");
     ChartSeries speed{trackText("Speed"), {}, ChartSeries::Form::Line};
     ChartBand band;
     band.name = trackText("Uncertainty of the clicks");

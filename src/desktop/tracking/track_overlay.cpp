@@ -156,8 +156,8 @@ void TrackOverlay::mouseMoveEvent(QMouseEvent* event) {
         return;
     const PicturePlace a = placeAt(m_from);
     const PicturePlace b = placeAt(event->position());
-    m_drawn = TrackBox{std::min(a.x, b.x), std::min(a.y, b.y), std::abs(b.x - a.x),
-                       std::abs(b.y - a.y)};
+    m_drawn =
+        TrackBox{std::min(a.x, b.x), std::min(a.y, b.y), std::abs(b.x - a.x), std::abs(b.y - a.y)};
     update();
 }
 
@@ -213,8 +213,8 @@ void TrackOverlay::paintPath(QPainter& painter) const {
         before = point.frame;
     };
     for (const TrackPoint& point : m_track.points)
-        if (const auto place = point.frame <= m_frame ? m_track.seenFrom(point, m_frame)
-                                                      : std::nullopt)
+        if (const auto place =
+                point.frame <= m_frame ? m_track.seenFrom(point, m_frame) : std::nullopt)
             add(point, *place);
     for (const TrackPoint& point : m_found)
         add(point, point.place);

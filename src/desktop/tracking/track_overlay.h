@@ -12,8 +12,8 @@
 namespace kavela::desktop {
 
 /// What is drawn over the picture of a film: the path up to the frame, the box, the known points.
-/// A box is drawn with the mouse, or by arrow keys: they move it, with Shift they size it, and Enter
-/// takes it. Covers the film view that is its parent.
+/// A box is drawn with the mouse, or by arrow keys: they move it, with Shift they size it, and
+/// Enter takes it. Covers the film view that is its parent.
 class TrackOverlay : public QWidget {
     Q_OBJECT
 

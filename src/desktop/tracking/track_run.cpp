@@ -57,7 +57,8 @@ void TrackRun::start(const std::shared_ptr<const VideoIndex>& index, const Track
     m_found.clear();
     m_isRunning = true;
     m_poll.start();
-    const auto task = [index, track, key, stop = m_stop, shared = m_shared](const WorkSteps& steps) {
+    const auto task = [index, track, key, stop = m_stop,
+                       shared = m_shared](const WorkSteps& steps) {
         std::stop_source source = stop;
         const std::stop_callback also(steps.stopToken(), [&source] { source.request_stop(); });
         FilmPlanes film(index);
@@ -75,18 +76,17 @@ void TrackRun::start(const std::shared_ptr<const VideoIndex>& index, const Track
         m_isRunning = false;
         m_found.clear();
     };
-    m_work.run(
-        task,
-        [this, end](const RunResult& result) {
-            end();
-            emit ended(result.track, result.lostAt.value_or(-1));
-        },
-        {.failed =
-             [this, end](const std::exception_ptr& fault) {
-                 end();
-                 emit failed(QString::fromStdString(messageOf(fault)));
-             },
-         .cancelled = end});
+    m_work.run(task,
+               [this, end](const RunResult& result) {
+                   end();
+                   emit ended(result.track, result.lostAt.value_or(-1));
+               },
+               {.failed =
+                    [this, end](const std::exception_ptr& fault) {
+                        end();
+                        emit failed(QString::fromStdString(messageOf(fault)));
+                    },
+                .cancelled = end});
 }
 
 void TrackRun::showProgress() {
