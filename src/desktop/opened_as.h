@@ -32,8 +32,8 @@ enum class OpensAs {
     Penalties,   ///< split files and folders, where the coach asks for it: none is known by content
     Season,      ///< a team with its races, where the coach asks for it
     Fetch,       ///< films that are fetched, which opens sources and lists of its own
-    Comparison,  ///< of films
-    Tracking,    ///< the path of something on a film
+    Comparison, ///< of films
+    Tracking,   ///< the path of something on a film
     NotReady
 };
 
