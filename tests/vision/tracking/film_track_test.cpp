@@ -56,7 +56,7 @@ protected:
         shot.vanishesAt = 30;
         m_scene = std::make_unique<TrackScene>(shot);
         m_film = std::make_unique<FilmPlanes>(
-            readVideoIndex(writeScene(*m_scene, 55, m_folder.path() / "shot.mp4")));
+            readVideoIndex(writeScene(*m_scene, 65, m_folder.path() / "shot.mp4")));
     }
 
     test::TempFolder m_folder;
@@ -67,20 +67,20 @@ protected:
 TEST_F(FilmTrack, EndsWhereTheBoatIsLostAndSaysSo) {
     std::vector<FrameNumber> told;
     const FollowedStretch stretch =
-        followStretch(*m_film, {{0, m_scene->athleteBox(0)}, {}, 54}, {},
+        followStretch(*m_film, {{0, m_scene->athleteBox(0)}, {}, 64}, {},
                       [&](const TrackProgress& now) { told.push_back(now.frame); });
     ASSERT_TRUE(stretch.lostAt);
     EXPECT_NEAR(double(*stretch.lostAt), 30, 6);
     EXPECT_EQ(stretch.points.back().frame + 1, *stretch.lostAt);
     EXPECT_EQ(told.front(), 1);
     EXPECT_EQ(told.back(), stretch.last);
-    EXPECT_LT(stretch.last, 54); // nobody looks on for ever
+    EXPECT_LT(stretch.last, 64); // nobody looks on for ever
 }
 
 TEST_F(FilmTrack, RunsFromBothSidesBetweenTwoBoxes) {
     Track track;
     track.keys = {{0, m_scene->athleteBox(0)}, {28, m_scene->athleteBox(28)}};
-    track = withStretch(track, followStretch(*m_film, stretchOf(track, 0, 54)));
+    track = withStretch(track, followStretch(*m_film, stretchOf(track, 0, 64)));
     ASSERT_EQ(track.points.size(), 29U);
     EXPECT_EQ(track.cameras.size(), 29U);
     for (const TrackPoint& point : track.points) {
@@ -89,14 +89,14 @@ TEST_F(FilmTrack, RunsFromBothSidesBetweenTwoBoxes) {
     }
     // Another box behind the end leaves what lies before it.
     const std::vector<TrackPoint> before = track.points;
-    track = withStretch(track, followStretch(*m_film, stretchOf(track, 1, 54)));
+    track = withStretch(track, followStretch(*m_film, stretchOf(track, 1, 64)));
     EXPECT_EQ(std::vector(track.points.begin(), track.points.begin() + 28),
               std::vector(before.begin(), before.begin() + 28));
 }
 
 TEST_F(FilmTrack, KeepsWhatItFoundWhenItIsStopped) {
     std::stop_source stop;
-    const FollowedStretch stretch = followStretch(*m_film, {{0, m_scene->athleteBox(0)}, {}, 54},
+    const FollowedStretch stretch = followStretch(*m_film, {{0, m_scene->athleteBox(0)}, {}, 64},
                                                   stop.get_token(), [&](const TrackProgress& now) {
                                                       if (now.frame == 10)
                                                           stop.request_stop();
