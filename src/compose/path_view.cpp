@@ -11,34 +11,36 @@ namespace {
 constexpr double HalfSmoothing = 0.3; ///< seconds to each side
 constexpr double TrailSeconds = 8;
 
-} // namespace
-
-PicturePoint PathView::middleAt(double seconds) const {
-    const auto& points = m_track.points;
-    if (points.empty())
-        return {0.5, 0.5};
-    const auto behind = [&](double from) {
-        return std::ranges::lower_bound(points, from, {}, &TrackPoint::seconds);
-    };
-    double weights = 0;
-    PicturePlace sum;
-    for (auto at = behind(seconds - HalfSmoothing);
-         at != points.end() && at->seconds < seconds + HalfSmoothing; ++at) {
-        const double weight = 1 - std::abs(at->seconds - seconds) / HalfSmoothing;
-        sum = {sum.x + weight * at->place.x, sum.y + weight * at->place.y};
-        weights += weight;
-    }
-    if (weights > 0)
-        return shareOf({sum.x / weights, sum.y / weights});
-    const auto next = behind(seconds);
+/// Only for where the picture is held: nothing of it is shown as a path.
+PicturePlace placeBetween(const std::vector<TrackPoint>& points, double seconds) {
+    const auto next = std::ranges::lower_bound(points, seconds, {}, &TrackPoint::seconds);
     if (next == points.begin())
-        return shareOf(next->place);
+        return next->place;
     const TrackPoint& last = *std::prev(next);
     if (next == points.end())
-        return shareOf(last.place);
+        return last.place;
     const double share = (seconds - last.seconds) / (next->seconds - last.seconds);
-    return shareOf({std::lerp(last.place.x, next->place.x, share),
-                    std::lerp(last.place.y, next->place.y, share)});
+    return {std::lerp(last.place.x, next->place.x, share),
+            std::lerp(last.place.y, next->place.y, share)};
+}
+
+} // namespace
+
+/// Smoothed in steps of a fiftieth, also over gaps, so that the picture never jumps.
+PicturePoint PathView::middleAt(double seconds) const {
+    constexpr int Steps = 15; // to each side
+    if (m_track.points.empty())
+        return {0.5, 0.5};
+    double weights = 0;
+    PicturePlace sum;
+    for (int step = -Steps; step <= Steps; ++step) {
+        const double weight = 1 - std::abs(step) / (Steps + 1.0);
+        const PicturePlace place =
+            placeBetween(m_track.points, seconds + HalfSmoothing * step / Steps);
+        sum = {sum.x + weight * place.x, sum.y + weight * place.y};
+        weights += weight;
+    }
+    return shareOf({sum.x / weights, sum.y / weights});
 }
 
 std::vector<std::vector<PicturePoint>> PathView::trailUpTo(FrameNumber frame) const {

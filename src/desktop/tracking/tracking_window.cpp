@@ -220,12 +220,17 @@ void TrackingWindow::connectParts() {
         goTo(frame);
     });
     connect(m_run, &TrackRun::ended, this, &TrackingWindow::takeRun);
-    connect(m_run, &TrackRun::failed, this, [this](const QString& why) {
-        m_progress->hide();
-        m_stopAction->setEnabled(false);
-        m_overlay->setTrack(m_document->track());
-        tell(why);
-    });
+    connect(m_run, &TrackRun::failed, this, &TrackingWindow::takeFailure);
+}
+
+/// A box that cannot be followed is none.
+void TrackingWindow::takeFailure(const QString& why) {
+    m_progress->hide();
+    m_stopAction->setEnabled(false);
+    if (std::exchange(m_isBoxNew, false) && m_runKeys == m_document->track().keys)
+        m_document->undoStack().undo();
+    m_overlay->setTrack(m_document->track());
+    tell(why);
 }
 
 bool TrackingWindow::open(const QString& path) {
@@ -341,6 +346,7 @@ void TrackingWindow::drawBox(const TrackBox& box) {
     m_deck->pause();
     const Track track = withKey(m_document->track(), {*frame, box});
     editTrack(tr("box"), track);
+    m_isBoxNew = true;
     const auto key = std::ranges::find(track.keys, *frame, &TrackKey::frame);
     startRun(static_cast<std::size_t>(key - track.keys.begin()));
 }
@@ -397,6 +403,7 @@ void TrackingWindow::removeBox() {
     }
     const auto number = static_cast<std::size_t>(key - before.keys.begin());
     editTrack(tr("removal of a box"), withoutKey(before, *frame));
+    m_isBoxNew = false;
     if (number > 0)
         startRun(number - 1);
 }

@@ -101,6 +101,7 @@ private:
     void editTrack(const QString& what, const Track& track);
     void startRun(std::size_t key);
     void takeRun(const Track& track, FrameNumber lostAt);
+    void takeFailure(const QString& why);
     void takePoint(const PicturePlace& place);
     void tell(const QString& text);
     [[nodiscard]] QString secondsText(FrameNumber frame) const;
@@ -126,6 +127,7 @@ private:
     QAction* m_isOnWater = nullptr;
     std::vector<PathFigure> m_shown;
     std::vector<TrackKey> m_runKeys; ///< boxes of the run that goes on
+    bool m_isBoxNew = false;         ///< the run began with a box that was just drawn
     int m_asked = 0;                 ///< number of the latest computation
     QString m_film;                  ///< that is open
     BackgroundWork m_work;
