@@ -156,7 +156,7 @@ private:
 };
 
 /// Both found it: the mean of the two.
-TrackPoint between(const TrackPoint& a, const TrackPoint& b) {
+TrackPoint meanOfBoth(const TrackPoint& a, const TrackPoint& b) {
     TrackPoint mean = a;
     mean.place = {(a.place.x + b.place.x) / 2, (a.place.y + b.place.y) / 2};
     mean.score = std::min(a.score, b.score);
@@ -198,7 +198,7 @@ std::vector<TrackPoint> joinedPoints(const std::vector<TrackPoint>& forwards,
     std::vector<TrackPoint> joined;
     for (auto at = frames.begin(); at != frames.end(); ++at) {
         if (at->areOne(reach))
-            joined.push_back(between(*at->forwards, *at->backwards));
+            joined.push_back(meanOfBoth(*at->forwards, *at->backwards));
         else if (at->forwards && (!at->backwards || at < firstOne) && firstOne != frames.end())
             joined.push_back(*at->forwards);
         else if (at->backwards && (!at->forwards || at >= lastOne) && firstOne != frames.end())

@@ -26,7 +26,7 @@ double topOf(double before, double at, double behind) {
     return bend < 0 ? std::clamp((before - behind) / (2 * bend), -0.5, 0.5) : 0;
 }
 
-bool isInside(const TrackPicture& picture, const PicturePlace& place) {
+bool liesInPicture(const TrackPicture& picture, const PicturePlace& place) {
     return place.x >= 0 && place.y >= 0 && place.x < picture.width() && place.y < picture.height();
 }
 
@@ -113,14 +113,14 @@ std::optional<PatchTracker::Found> PatchTracker::follow(const TrackPicture& pict
     const int reach = std::min(
         std::max(static_cast<int>(longer * ReachOfBox), LeastReach) + 2 * m_missed, MostReach);
     std::optional<Found> found;
-    if (isInside(picture, expected)) {
+    if (liesInPicture(picture, expected)) {
         const double step = m_step * size;
         SampledPatch samples;
         samplePatch(picture, expected, step, m_width + 2 * reach, m_height + 2 * reach, samples);
         const Match match = bestMatch(PatchWindow(std::move(samples), m_width, m_height));
         const PicturePlace place{expected.x + match.x * step, expected.y + match.y * step};
         if (match.score >= (m_missed > 0 ? BelievedAgain : LeastScore) &&
-            match.first >= LeastFirst && isInside(picture, place))
+            match.first >= LeastFirst && liesInPicture(picture, place))
             found = Found{place, size, match.score};
     }
     m_size = size;

@@ -165,7 +165,8 @@ std::vector<Column<TrackingWindow::PointRow>> TrackingWindow::pointColumns() {
 }
 
 void TrackingWindow::makeMenus() {
-    QMenu* const file = makeFileMenu();
+    QMenu* const file =
+        makeFileMenu({.openText = tr("&Open a film or a path…"), .open = [this] { chooseFile(); }});
     file->addAction(tr("&Export the path as CSV…"), QKeySequence(Qt::CTRL | Qt::Key_E), this,
                     &TrackingWindow::exportCsv);
     makeEditMenu();
@@ -253,8 +254,26 @@ QStringList TrackingWindow::paths() const {
     return m_film.isEmpty() ? files : QStringList{m_film};
 }
 
+/// A film that is dropped is followed here, not timed.
 void TrackingWindow::takeFiles(const QStringList& paths) {
-    emit openRequested(paths);
+    const bool isOneFilm =
+        paths.size() == 1 && isVideoFile(QFileInfo(paths.front()).fileName().toStdString());
+    if (!isOneFilm) {
+        emit openRequested(paths);
+        return;
+    }
+    whenLeft([this, path = paths.front()](bool mayGo) {
+        if (mayGo)
+            static_cast<void>(open(path));
+    });
+}
+
+void TrackingWindow::chooseFile() {
+    const QString path = QFileDialog::getOpenFileName(
+        this, tr("Open a film or a path on one"), QFileInfo(m_film).absolutePath(),
+        tr("Films and paths (*.mp4 *.mov *.m4v *.mkv *.avi *.mts *.track.json);;All files (*)"));
+    if (!path.isEmpty())
+        takeFiles({path});
 }
 
 void TrackingWindow::showDocument() {
@@ -384,9 +403,9 @@ void TrackingWindow::takeRun(const Track& track, FrameNumber lostAt) {
                 "a gap until both sides meet.")
                  .arg(secondsText(lostAt)));
     } else {
-        tell(gaps == 0 ? tr("Followed without a gap.")
-                       : tr("Followed, with %n gap(s). G goes to the next one.", nullptr,
-                            static_cast<int>(gaps)));
+        tell(gaps == 0   ? tr("Followed without a gap.")
+             : gaps == 1 ? tr("Followed, with one gap. G goes there.")
+                         : tr("Followed, with %1 gaps. G goes to the next one.").arg(gaps));
     }
     m_overlay->setFocus();
 }

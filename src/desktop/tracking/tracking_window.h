@@ -92,6 +92,7 @@ private:
     [[nodiscard]] QWidget* makePages();
     void makeMenus();
     void connectParts();
+    void chooseFile();
     void showDocument();
     void showFilm();
     void showFrame();
