@@ -45,6 +45,7 @@ int main(int count, char** words) {
     addMotionAnalysis();
     addFacts(files);
     addCompose();
+    addTracking();
     ValueReporter reporter;
     benchmark::RunSpecifiedBenchmarks(&reporter);
     return printRatios(reporter.values()) > 0 ? 1 : 0;

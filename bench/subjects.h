@@ -18,5 +18,6 @@ void addMotionAnalysis();
 /// Over so many split files, at least 20.
 void addFacts(std::size_t files);
 void addCompose();
+void addTracking();
 
 } // namespace kavela::bench

@@ -26,7 +26,8 @@ constexpr std::array Kinds{KindOfMembers{"split file", {"info", "athletes"}},
                            KindOfMembers{"team", {"realMyTeam", "realMyTeam"}},
                            KindOfMembers{"planning", {"coach", "athletes"}},
                            KindOfMembers{"test results", {"tests", "eights"}},
-                           KindOfMembers{"comparison", {"films", "synchronise"}}};
+                           KindOfMembers{"comparison", {"films", "synchronise"}},
+                           KindOfMembers{"path", {"boxes", "cameras"}}};
 
 bool holdsAny(const Element& parent, std::string_view list) {
     simdjson::dom::array entries;

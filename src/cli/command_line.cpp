@@ -47,6 +47,7 @@ int run(int argc, char** argv, const char* version, const Painting* painting) {
     addSeason(program, status, painting);
     addTable(program, status);
     addCompose(program, status, painting);
+    addTrack(program, status, painting);
     addFetch(program, status, painting);
     addDemo(program, status, painting);
     if (const auto ended = call.run(argc, argv))

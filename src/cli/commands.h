@@ -28,6 +28,7 @@ void addPenalties(Command program, int& status);
 void addSeason(Command program, int& status, const Painting* painting);
 void addTable(Command program, int& status);
 void addCompose(Command program, int& status, const Painting* painting);
+void addTrack(Command program, int& status, const Painting* painting);
 void addFetch(Command program, int& status, const Painting* painting);
 void addDemo(Command program, int& status, const Painting* painting);
 

@@ -9,6 +9,7 @@
 #include "results/selection_records.h"
 #include "splitdata/document.h"
 
+#include <array>
 #include <cstddef>
 #include <filesystem>
 #include <optional>
@@ -24,6 +25,18 @@ struct FilmFetchCall {
     std::string user;       ///< empty where the server asks for none
     bool showsOnly = false; ///< nothing is to be fetched
     bool isAgreed = false;  ///< nobody is asked
+};
+
+/// What is followed through a film, and where to.
+struct TrackCall {
+    using Box = std::array<double, 4>; ///< left, upper side, width, height, in pixels
+
+    std::string film;
+    Box box{};
+    double at = 0;                 ///< second of the film at which the box was drawn
+    std::optional<double> to = {}; ///< second at which it ends
+    std::string plane;             ///< file of known points; empty for none
+    std::string output;            ///< file to write
 };
 
 /// What commands do with libraries that take longer to load than a table takes to print: those that
@@ -82,6 +95,10 @@ public:
     /// Prints what would be fetched from a source, and fetches it where that is wanted. Returns the
     /// exit status.
     [[nodiscard]] virtual int fetchFilms(const FilmFetchCall& call) const = 0;
+
+    /// Follows something through a film and writes its path as a table. Returns the exit status,
+    /// after a message where that is not 0.
+    [[nodiscard]] virtual int trackFilm(const TrackCall& call) const = 0;
 };
 
 /// Thrown by a command of a program without painting: the call is for `kavela-paint`.

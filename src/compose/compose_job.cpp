@@ -2,8 +2,10 @@
 
 #include "common/json_decode.h"
 #include "common/json_encode.h"
+#include "common/record_convert.h"
 #include "common/safe_file.h"
 #include "splitdata/loader.h"
+#include "vision/track_file.h"
 
 #include <algorithm>
 #include <array>
@@ -33,6 +35,36 @@ constexpr std::array<WordOfKind<Synchronise>, 4> SynchroniseWords{
      {Synchronise::Stretched, "stretched"}}};
 constexpr std::array<WordOfKind<RangeKind>, 3> RangeWords{
     {{RangeKind::Run, "run"}, {RangeKind::Splits, "splits"}, {RangeKind::Free, "free"}}};
+
+/// Jobs of before films could have paths.
+struct composefilm001 {
+    std::string splitFile;
+    std::int64_t run = 0;
+    std::int64_t camera = 1;
+    std::string film;
+    std::string names;
+    std::string category;
+    double startsAt = 0;
+    std::vector<composepoint001> points;
+};
+BOOST_DESCRIBE_STRUCT(composefilm001, (),
+                      (splitFile, run, camera, film, names, category, startsAt, points))
+
+struct composejob001 {
+    std::vector<composefilm001> films;
+    std::string layout;
+    double wipe = 0.5;
+    std::string synchronise;
+    std::int64_t split = 0;
+    composerange001 range;
+    double speed = 1;
+    composecaptions001 captions;
+    std::int64_t sound = 0;
+    composeoutput001 output;
+};
+BOOST_DESCRIBE_STRUCT(composejob001, (),
+                      (films, layout, wipe, synchronise, split, range, speed, captions, sound,
+                       output))
 
 [[noreturn]] void refuse(std::string path, std::string text) {
     throw DecodeError({std::move(path), std::move(text)});
@@ -88,7 +120,7 @@ private:
     std::list<std::pair<fs::path, splittakerdata031>> m_documents;
 };
 
-std::optional<PointPair> pointsOf(const composefilm001& film, const std::string& place) {
+std::optional<PointPair> pointsOf(const composefilm002& film, const std::string& place) {
     if (film.points.empty())
         return std::nullopt;
     if (film.points.size() != 2)
@@ -96,8 +128,33 @@ std::optional<PointPair> pointsOf(const composefilm001& film, const std::string&
     return PointPair{{{film.points[0].x, film.points[0].y}, {film.points[1].x, film.points[1].y}}};
 }
 
+std::shared_ptr<const PathView> pathOf(const composefilm002& film, const std::string& place,
+                                       const fs::path& folder) {
+    if (!(film.zoom >= 1 && film.zoom <= PathView::MostZoom))
+        refuse(place + ".zoom", "a number from 1 to 2 was expected");
+    if (film.track.empty()) {
+        if (film.zoom > 1 || film.drawsPath)
+            refuse(place + ".track", "no path is named that could be drawn or followed");
+        return nullptr;
+    }
+    const fs::path path = folder / film.track;
+    try {
+        const track001 record = readTrack(path);
+        if (record.width <= 0 || record.height <= 0)
+            refuse(place + ".track", path.string() + ": the size of its picture is missing");
+        return std::make_shared<const PathView>(
+            trackOf(record),
+            VideoSize{static_cast<int>(record.width), static_cast<int>(record.height)}, film.zoom,
+            film.drawsPath);
+    } catch (const FileError& error) {
+        refuse(place + ".track", error.what());
+    } catch (const DecodeError& error) {
+        refuse(place + ".track", path.string() + ": " + error.what());
+    }
+}
+
 /// What a job says by itself goes before what the split file tells.
-void takeOwnWords(const composefilm001& film, ComposedFilm& composed) {
+void takeOwnWords(const composefilm002& film, ComposedFilm& composed) {
     if (!film.names.empty())
         composed.run.names = film.names;
     if (!film.category.empty())
@@ -107,7 +164,7 @@ void takeOwnWords(const composefilm001& film, ComposedFilm& composed) {
         composed.run.marks = {film.startsAt};
 }
 
-ComposedFilm filmOf(const composefilm001& film, const std::string& place, const fs::path& folder,
+ComposedFilm filmOf(const composefilm002& film, const std::string& place, const fs::path& folder,
                     SplitFiles& files, std::vector<std::string>& titles) {
     ComposedFilm composed;
     if (!film.film.empty())
@@ -131,11 +188,12 @@ ComposedFilm filmOf(const composefilm001& film, const std::string& place, const 
     if (composed.path.empty())
         refuse(place + ".film", "neither a film nor a split file is named");
     composed.points = pointsOf(film, place);
+    composed.view = pathOf(film, place, folder);
     takeOwnWords(film, composed);
     return composed;
 }
 
-LayoutChoice layoutOf(const composejob001& job) {
+LayoutChoice layoutOf(const composejob002& job) {
     LayoutChoice layout;
     layout.kind = kindOf(LayoutWords, job.layout, "layout");
     layout.wipe = job.wipe;
@@ -156,7 +214,7 @@ LayoutChoice layoutOf(const composejob001& job) {
     return layout;
 }
 
-RangeChoice rangeChoiceOf(const composejob001& job) {
+RangeChoice rangeChoiceOf(const composejob002& job) {
     RangeChoice range;
     range.kind = kindOf(RangeWords, job.range.kind, "range.kind");
     range.fromSplit = countedFrom(0, job.range.fromSplit, "range.fromSplit");
@@ -189,15 +247,29 @@ std::string_view wordOf(RangeKind kind) {
     return wordIn(RangeWords, kind);
 }
 
-composejob001 readComposeJob(const fs::path& path) {
-    return decode<composejob001>(JsonDocument::fromFile(path));
+composejob002 composeJobOf(const JsonDocument& document) {
+    composejob002 job;
+    Fault fault;
+    if (tryDecode(document.root(), job, fault))
+        return job;
+    composejob001 older;
+    Fault faultOfOlder;
+    if (!tryDecode(document.root(), older, faultOfOlder))
+        // What an older job lacks by right is not what is wrong with it.
+        throw DecodeError(fault.path.ends_with(".track") ? faultOfOlder : fault);
+    convertValue(std::move(older), job);
+    return job;
 }
 
-void writeComposeJob(const composejob001& job, const fs::path& path) {
+composejob002 readComposeJob(const fs::path& path) {
+    return composeJobOf(JsonDocument::fromFile(path));
+}
+
+void writeComposeJob(const composejob002& job, const fs::path& path) {
     writeFileSafely(path, encode(job));
 }
 
-Composition compositionOf(const composejob001& job, const fs::path& folder) {
+Composition compositionOf(const composejob002& job, const fs::path& folder) {
     Composition composition;
     composition.layout = layoutOf(job);
     composition.synchronise = kindOf(SynchroniseWords, job.synchronise, "synchronise");
@@ -219,11 +291,17 @@ Composition compositionOf(const composejob001& job, const fs::path& folder) {
     for (std::size_t i = 0; i < job.films.size(); ++i)
         composition.films.push_back(filmOf(job.films[i], "films[" + std::to_string(i) + "]", folder,
                                            files, composition.splitTitles));
+    const bool isOverlaid =
+        composition.layout.kind == LayoutKind::Ghost || composition.layout.kind == LayoutKind::Wipe;
+    for (std::size_t i = 0; isOverlaid && i < job.films.size(); ++i)
+        if (job.films[i].zoom > 1)
+            refuse("films[" + std::to_string(i) + "].zoom",
+                   "films that lie over each other cannot follow a path");
     static_cast<void>(rangeOf(composition, timeMapOf(composition)));
     return composition;
 }
 
-fs::path outputOf(const composejob001& job, const fs::path& path) {
+fs::path outputOf(const composejob002& job, const fs::path& path) {
     if (!job.output.file.empty())
         return path.parent_path() / job.output.file;
     return fs::path(path).replace_extension(".mp4");

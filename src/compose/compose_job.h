@@ -1,5 +1,6 @@
 #pragma once
 
+#include "common/json_document.h"
 #include "compose/composition.h"
 
 #include <boost/describe.hpp>
@@ -20,7 +21,7 @@ struct composepoint001 {
 };
 BOOST_DESCRIBE_STRUCT(composepoint001, (), (x, y))
 
-struct composefilm001 {
+struct composefilm002 {
     std::string splitFile = {};
     std::int64_t run = 0;
     std::int64_t camera = 1;
@@ -29,9 +30,13 @@ struct composefilm001 {
     std::string category = {};
     double startsAt = 0;
     std::vector<composepoint001> points = {};
+    std::string track = {};
+    bool drawsPath = false;
+    double zoom = 1;
 };
-BOOST_DESCRIBE_STRUCT(composefilm001, (),
-                      (splitFile, run, camera, film, names, category, startsAt, points))
+BOOST_DESCRIBE_STRUCT(composefilm002, (),
+                      (splitFile, run, camera, film, names, category, startsAt, points, track,
+                       drawsPath, zoom))
 
 struct composerange001 {
     std::string kind = "run";
@@ -60,8 +65,8 @@ struct composeoutput001 {
 };
 BOOST_DESCRIBE_STRUCT(composeoutput001, (), (file, width, height, small))
 
-struct composejob001 {
-    std::vector<composefilm001> films;
+struct composejob002 {
+    std::vector<composefilm002> films;
     std::string layout = "side by side";
     double wipe = 0.5;
     std::string synchronise = "start";
@@ -72,7 +77,7 @@ struct composejob001 {
     std::int64_t sound = 0;
     composeoutput001 output;
 };
-BOOST_DESCRIBE_STRUCT(composejob001, (),
+BOOST_DESCRIBE_STRUCT(composejob002, (),
                       (films, layout, wipe, synchronise, split, range, speed, captions, sound,
                        output))
 
@@ -81,21 +86,25 @@ BOOST_DESCRIBE_STRUCT(composejob001, (),
 [[nodiscard]] std::string_view wordOf(Synchronise how);
 [[nodiscard]] std::string_view wordOf(RangeKind kind);
 
-/// Reads a job from a file. Throws FileError, or DecodeError with the place of what is wrong.
-[[nodiscard]] composejob001 readComposeJob(const std::filesystem::path& path);
+/// A job as it stands in a document, as readComposeJob() takes it. Throws DecodeError.
+[[nodiscard]] composejob002 composeJobOf(const JsonDocument& document);
+
+/// Reads a job from a file, also one of before films could have paths. Throws FileError, or
+/// DecodeError with the place of what is wrong.
+[[nodiscard]] composejob002 readComposeJob(const std::filesystem::path& path);
 
 /// Writes a job, safely. Throws FileError, and EncodeError for what JSON cannot hold.
-void writeComposeJob(const composejob001& job, const std::filesystem::path& path);
+void writeComposeJob(const composejob002& job, const std::filesystem::path& path);
 
 /// What a job asks for, with what its split files tell of the runs. Names of files are relative to
 /// `folder`, that of the job. A film that is not there is no fault: its place stays dark. Throws
 /// DecodeError with the place in the job of what is wrong.
-[[nodiscard]] Composition compositionOf(const composejob001& job,
+[[nodiscard]] Composition compositionOf(const composejob002& job,
                                         const std::filesystem::path& folder);
 
 /// Where the composed film goes: as the job says, or, where it names none, beside the job under
 /// its name. `job` is the path of the job.
-[[nodiscard]] std::filesystem::path outputOf(const composejob001& job,
+[[nodiscard]] std::filesystem::path outputOf(const composejob002& job,
                                              const std::filesystem::path& path);
 
 } // namespace kavela

@@ -107,10 +107,9 @@ private:
             m_feeds.push_back(nullptr);
             if (!m_films[film].index)
                 continue;
-            const PictureRect& place = m_mixer.places()[film].picture;
             auto pictures = std::make_unique<FilmPictures>(
                 m_films[film].index, std::make_shared<FrameCache>(FeedCacheBytes / m_films.size()),
-                VideoSize{place.width, place.height});
+                m_mixer.pictureSize(film));
             m_feeds.back() = std::make_unique<FilmFeed>(
                 std::move(pictures), m_frames, [this, film](std::int64_t frame) {
                     return m_mixer.frameOf(film, commonOf(frame));

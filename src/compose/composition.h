@@ -2,6 +2,7 @@
 
 #include "compose/caption_plan.h"
 #include "compose/layout.h"
+#include "compose/path_view.h"
 #include "compose/time_map.h"
 #include "splitdata/document.h"
 #include "video/writing/film_writer.h"
@@ -20,6 +21,8 @@ struct ComposedFilm {
     std::filesystem::path path;
     CaptionedRun run;
     std::optional<PointPair> points; ///< two things that the first two films both show
+    /// The path of something on it that is drawn or followed; null for none.
+    std::shared_ptr<const PathView> view = nullptr;
 };
 
 enum class RangeKind {

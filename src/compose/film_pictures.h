@@ -3,6 +3,7 @@
 #include "compose/layout.h"
 #include "video/frame_source.h"
 #include "video/writing/plane_scaler.h"
+#include "video/writing/turned_planes.h"
 
 #include <functional>
 #include <memory>
@@ -50,8 +51,5 @@ private:
     PlanesPtr m_picture;
     std::optional<PictureFault> m_fault;
 };
-
-/// The planes turned clockwise by 90, 180 or 270 degrees.
-[[nodiscard]] AvOwner<AVFrame> turnedPlanes(const AVFrame& planes, int rotation);
 
 } // namespace kavela

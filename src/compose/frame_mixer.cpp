@@ -1,5 +1,6 @@
 #include "compose/frame_mixer.h"
 
+#include "compose/path_laying.h"
 #include "compose/picture_laying.h"
 #include "video/video_error.h"
 
@@ -69,6 +70,7 @@ void FrameMixer::placeFilms(const Composition& composition) {
     for (std::size_t i = 0; i < composition.films.size(); ++i) {
         sizes.push_back(m_films[i].index ? m_films[i].index->facts().shownSize : UnknownFilmSize);
         points.push_back(composition.films[i].points);
+        m_views.push_back(composition.films[i].view);
         m_names.push_back(composition.films[i].path.filename().string());
     }
     m_places = layOutFilms(layout, sizes, points);
@@ -82,11 +84,61 @@ void FrameMixer::mix(double common, std::span<const PlanesPtr> pictures, AVFrame
     darken(planes);
     for (std::size_t film = 0; film < m_places.size(); ++film)
         if (pictures[film])
-            layPicture(m_places[film], *pictures[film], planes);
+            layFilm(film, common, *pictures[film], planes);
+    for (std::size_t film = 0; film < m_places.size(); ++film)
+        if (pictures[film] && m_views[film] && m_views[film]->isDrawn())
+            drawPath(film, common, planes);
     if (m_isWipe && m_places.size() > 1)
         drawDivider(planes, m_places[1].firstColumn);
     if (m_painter != nullptr)
         write(common, planes);
+}
+
+VideoSize FrameMixer::pictureSize(std::size_t film) const {
+    const PictureRect& place = m_places[film].picture;
+    const double zoom = m_views[film] ? m_views[film]->zoom() : 1;
+    return {static_cast<int>(place.width * zoom) / 2 * 2,
+            static_cast<int>(place.height * zoom) / 2 * 2};
+}
+
+/// The corner of what is seen of a larger picture: the path in the middle, as far as the picture
+/// goes.
+PicturePlace FrameMixer::cornerOf(std::size_t film, FrameNumber frame) const {
+    const PictureRect& place = m_places[film].picture;
+    const VideoSize size = pictureSize(film);
+    const PicturePoint middle = m_views[film]->middleAt(m_films[film].index->secondsOf(frame));
+    return {std::clamp(middle.x * size.width - place.width / 2.0, 0.0,
+                       std::max(double(size.width - place.width), 0.0)),
+            std::clamp(middle.y * size.height - place.height / 2.0, 0.0,
+                       std::max(double(size.height - place.height), 0.0))};
+}
+
+void FrameMixer::layFilm(std::size_t film, double common, const AVFrame& picture,
+                         AVFrame& planes) const {
+    if (m_views[film] && m_views[film]->zoom() > 1)
+        layPart(m_places[film].picture, cornerOf(film, frameOf(film, common)), picture, planes);
+    else
+        layPicture(m_places[film], picture, planes);
+}
+
+void FrameMixer::drawPath(std::size_t film, double common, AVFrame& planes) const {
+    const FilmPlace& place = m_places[film];
+    const FrameNumber frame = frameOf(film, common);
+    const VideoSize size = pictureSize(film);
+    const PicturePlace corner = m_views[film]->zoom() > 1 ? cornerOf(film, frame) : PicturePlace{};
+    for (const std::vector<PicturePoint>& piece : m_views[film]->trailUpTo(frame)) {
+        std::vector<PicturePlace> line;
+        for (const PicturePoint& point : piece) {
+            const PicturePlace own{point.x * size.width - corner.x,
+                                   point.y * size.height - corner.y};
+            if (const auto& to = place.alignment)
+                line.push_back({to->a * own.x - to->b * own.y + to->dx,
+                                to->b * own.x + to->a * own.y + to->dy});
+            else
+                line.push_back({own.x + place.picture.x, own.y + place.picture.y});
+        }
+        drawTrail(line, place.picture, place.firstColumn, planes);
+    }
 }
 
 void FrameMixer::write(double common, AVFrame& planes) {

@@ -44,6 +44,9 @@ public:
     [[nodiscard]] const CommonRange& range() const { return m_range; }
     [[nodiscard]] const CaptionPlan& captions() const { return m_captions; }
     [[nodiscard]] const std::vector<FilmPlace>& places() const { return m_places; }
+    /// How large the pictures of a film have to be: those of one that follows a path are larger
+    /// than its place. Even.
+    [[nodiscard]] VideoSize pictureSize(std::size_t film) const;
     /// Seconds of the composed film.
     [[nodiscard]] double length() const { return (m_range.to - m_range.from) / m_speed; }
     /// Common time at a number of seconds of the composed film.
@@ -53,15 +56,19 @@ public:
     [[nodiscard]] FrameNumber frameOf(std::size_t film, double common) const;
 
     /// Fills the planes, of the mixer's size, with what is seen at a moment of common time.
-    /// `pictures` has one entry for each film, of its place's size, or null.
+    /// `pictures` has one entry for each film, of its pictureSize(), or null.
     void mix(double common, std::span<const PlanesPtr> pictures, AVFrame& planes);
 
 private:
     void placeFilms(const Composition& composition);
     void write(double common, AVFrame& planes);
+    void layFilm(std::size_t film, double common, const AVFrame& picture, AVFrame& planes) const;
+    void drawPath(std::size_t film, double common, AVFrame& planes) const;
+    [[nodiscard]] PicturePlace cornerOf(std::size_t film, FrameNumber frame) const;
 
     std::vector<OpenedFilm> m_films;
-    std::vector<std::string> m_names; ///< of the files
+    std::vector<std::string> m_names;                     ///< of the files
+    std::vector<std::shared_ptr<const PathView>> m_views; ///< null where no path is shown
     VideoSize m_size;
     double m_speed;
     bool m_hasGapChart;

@@ -9,14 +9,15 @@ namespace {
 namespace fs = std::filesystem;
 
 template <class Change>
-void changeNames(composejob001& job, const Change& change) {
+void changeNames(composejob002& job, const Change& change) {
     const auto changed = [&](std::string& name) {
         if (!name.empty())
             name = change(fs::path(name)).generic_string();
     };
-    for (composefilm001& film : job.films) {
+    for (composefilm002& film : job.films) {
         changed(film.splitFile);
         changed(film.film);
+        changed(film.track);
     }
     changed(job.output.file);
 }
@@ -30,12 +31,12 @@ bool sharesMoreThanRoot(const fs::path& a, const fs::path& b) {
 
 } // namespace
 
-composejob001 withFullNames(composejob001 job, const fs::path& folder) {
+composejob002 withFullNames(composejob002 job, const fs::path& folder) {
     changeNames(job, [&](const fs::path& name) { return (folder / name).lexically_normal(); });
     return job;
 }
 
-composejob001 withNamesFrom(composejob001 job, const fs::path& folder) {
+composejob002 withNamesFrom(composejob002 job, const fs::path& folder) {
     const fs::path base = folder.lexically_normal();
     changeNames(job, [&](const fs::path& name) {
         if (name.is_relative() || !sharesMoreThanRoot(name.lexically_normal(), base))

@@ -9,10 +9,10 @@
 namespace kavela {
 
 /// The job with the names of its files in full; `folder` is that of its file.
-[[nodiscard]] composejob001 withFullNames(composejob001 job, const std::filesystem::path& folder);
+[[nodiscard]] composejob002 withFullNames(composejob002 job, const std::filesystem::path& folder);
 
 /// The job with the names of its files as its file in `folder` holds them. A file that shares
 /// nothing with the folder but the root, such as one of another disk, keeps its full name.
-[[nodiscard]] composejob001 withNamesFrom(composejob001 job, const std::filesystem::path& folder);
+[[nodiscard]] composejob002 withNamesFrom(composejob002 job, const std::filesystem::path& folder);
 
 } // namespace kavela

@@ -34,10 +34,9 @@ ComposePreview::ComposePreview(const Composition& composition, const std::vector
       m_planes(newPlanes(m_mixer.size())),
       m_colours(screenColours(m_mixer.size())) {
     for (std::size_t film = 0; film < films.size(); ++film) {
-        const PictureRect& place = m_mixer.places()[film].picture;
         m_films.push_back(films[film].index
                               ? std::make_unique<FilmPictures>(films[film].index, cache,
-                                                               VideoSize{place.width, place.height})
+                                                               m_mixer.pictureSize(film))
                               : nullptr);
     }
 }

@@ -101,7 +101,8 @@ std::optional<OpensAs> documentOpensAs(const ContentKind& document, const QStrin
         {"selection races", OpensAs::Selection}, {"team", OpensAs::Team},
         {"planning", OpensAs::Planning},         {"test results", OpensAs::Tests},
         {"raw session", OpensAs::Recording},     {"smart session", OpensAs::Session},
-        {"test session", OpensAs::TestSession},  {"comparison", OpensAs::Comparison}};
+        {"test session", OpensAs::TestSession},  {"comparison", OpensAs::Comparison},
+        {"path", OpensAs::Tracking}};
     if (document.kind == "split file")
         return splitFileOpensAs(document, path);
     const auto kind = Kinds.find(document.kind);

@@ -17,6 +17,7 @@
 #include "desktop/tables/tables_window.h"
 #include "desktop/taking/taking_window.h"
 #include "desktop/team/team_window.h"
+#include "desktop/tracking/tracking_window.h"
 #include "desktop/watertests/tests_window.h"
 #include "planning/messages.h"
 
@@ -98,6 +99,14 @@ std::vector<ToolKind> makeTools() {
          Choice::Document,
          {tr("Comparisons of films"), tr("Comparisons"), "json", tr("Comparison")},
          makeEditor<CompareWindow>},
+        {"tracking",
+         OpensAs::Tracking,
+         tr("Tracking"),
+         tr("Boat, gate or head followed through a film: its path and speed."),
+         "tracking",
+         Choice::Files,
+         {tr("Open films"), tr("Films"), "mp4", {}},
+         makeEditor<TrackingWindow>},
         {"team",
          OpensAs::Team,
          tr("Team"),

@@ -115,7 +115,7 @@ int tell(const std::optional<ComposedFilmFile>& film) {
 
 int composeFilm(const fs::path& job, const fs::path& output) {
     try {
-        const composejob001 record = readComposeJob(job);
+        const composejob002 record = readComposeJob(job);
         const Composition composition = compositionOf(record, job.parent_path());
         return tell(composed(composition, output.empty() ? outputOf(record, job) : output));
     } catch (const DecodeError& error) {

@@ -1,8 +1,10 @@
 #include "compose/compose_job.h"
 
 #include "common/error.h"
+#include "common/json_encode.h"
 #include "common/temp_folder.h"
 #include "sample/season.h"
+#include "vision/track_file.h"
 
 #include <gmock/gmock.h>
 
@@ -13,8 +15,8 @@ namespace {
 
 using ::testing::HasSubstr;
 
-composejob001 jobOfTwoRuns() {
-    composejob001 job;
+composejob002 jobOfTwoRuns() {
+    composejob002 job;
     job.films = {{.splitFile = "riverside.kvx", .run = 49},
                  {.splitFile = "riverside.kvx", .run = 50}};
     job.synchronise = "waiting";
@@ -60,7 +62,7 @@ TEST_F(ComposeJob, SaysWhatIsWrongAndWhere) {
     struct Wrong {
         const char* place;
         const char* text;
-        std::function<void(composejob001&)> spoil;
+        std::function<void(composejob002&)> spoil;
     };
     const std::vector<Wrong> wrongs{
         {"layout", "\"row\" is none of", [](auto& job) { job.layout = "row"; }},
@@ -70,6 +72,9 @@ TEST_F(ComposeJob, SaysWhatIsWrongAndWhere) {
         {"films[0].camera", "no film", [](auto& job) { job.films[0].camera = 9; }},
         {"films[1].splitFile", "", [](auto& job) { job.films[1].splitFile = "none.kvx"; }},
         {"films[0].points", "two points", [](auto& job) { job.films[0].points.resize(1); }},
+        {"films[0].track", "no path", [](auto& job) { job.films[0].drawsPath = true; }},
+        {"films[0].track", "none.json", [](auto& job) { job.films[0].track = "none.json"; }},
+        {"films[1].zoom", "1 to 2", [](auto& job) { job.films[1].zoom = 3; }},
         {"speed", "0.125", [](auto& job) { job.speed = 0; }},
         {"sound", "no film", [](auto& job) { job.sound = 3; }},
         {"output.width", "even", [](auto& job) { job.output.width = 1281; }},
@@ -79,7 +84,7 @@ TEST_F(ComposeJob, SaysWhatIsWrongAndWhere) {
              job.range = {"splits", 0, 500, 0, 0};
          }}};
     for (const Wrong& wrong : wrongs) {
-        composejob001 job = jobOfTwoRuns();
+        composejob002 job = jobOfTwoRuns();
         wrong.spoil(job);
         try {
             static_cast<void>(compositionOf(job, m_folder.path()));
@@ -91,8 +96,48 @@ TEST_F(ComposeJob, SaysWhatIsWrongAndWhere) {
     }
 }
 
+TEST_F(ComposeJob, TakesFilesOfBeforeFilmsHadPaths) {
+    composejob002 job = jobOfTwoRuns();
+    std::string text = encode(job);
+    const std::string added = R"(,"track":"","drawsPath":false,"zoom":1)";
+    for (std::size_t at = text.find(added); at != std::string::npos; at = text.find(added))
+        text.erase(at, added.size());
+    const composejob002 read = readComposeJob(m_folder.add("older.json", text));
+    EXPECT_EQ(encode(read), encode(job));
+    // What is wrong with an older one is told, not what it lacks by right.
+    text.replace(text.find("\"wipe\":0.5"), 10, "\"wipe\":\"\"");
+    try {
+        static_cast<void>(readComposeJob(m_folder.add("wrong.json", text)));
+        ADD_FAILURE();
+    } catch (const DecodeError& error) {
+        EXPECT_EQ(error.fault().path, "wipe");
+    }
+}
+
+TEST_F(ComposeJob, ReadsThePathOfAFilm) {
+    track001 track{.film = "phone.mp4", .width = 400, .height = 200};
+    for (int frame = 0; frame < 100; ++frame)
+        track.points.push_back({frame, frame / 50.0, 100.0 + frame, 50, 1, 1});
+    track.points.erase(track.points.begin() + 40, track.points.begin() + 90);
+    writeTrack(track, m_folder.path() / "phone.track.json");
+    composejob002 job = jobOfTwoRuns();
+    job.films[0].track = "phone.track.json";
+    job.films[0].drawsPath = true;
+    job.films[0].zoom = 2;
+    const auto view = compositionOf(job, m_folder.path()).films[0].view;
+    ASSERT_TRUE(view);
+    EXPECT_NEAR(view->middleAt(0.4).x, 120.0 / 400, 1e-6);
+    EXPECT_NEAR(view->middleAt(0.4).y, 0.25, 1e-9);
+    EXPECT_NEAR(view->middleAt(1.29).x, (139.0 + 190) / 2 / 400, 0.01); // over the gap
+    EXPECT_NEAR(view->middleAt(60).x, 199.0 / 400, 1e-6);
+    // Without the camera's motion no other frame's place is known.
+    EXPECT_LE(view->trailUpTo(30).size(), 1U);
+    job.layout = "ghost";
+    EXPECT_THROW(static_cast<void>(compositionOf(job, m_folder.path())), DecodeError);
+}
+
 TEST_F(ComposeJob, AFilmWithoutMarksStartsWhereItIsSaid) {
-    composejob001 job = jobOfTwoRuns();
+    composejob002 job = jobOfTwoRuns();
     job.films[1] = {.film = "phone.mp4", .names = "Guest", .startsAt = 3.5};
     job.synchronise = "start";
     const Composition composition = compositionOf(job, m_folder.path());

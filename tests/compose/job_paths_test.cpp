@@ -13,19 +13,19 @@ namespace {
 using ::testing::ElementsAre;
 
 TEST(JobPaths, LeadFromTheFolderAndBackAgain) {
-    composejob001 job;
+    composejob002 job;
     job.films.resize(3);
     job.films[0].splitFile = "race.kvx";
     job.films[1].splitFile = "../other/race.kvx";
     job.films[1].film = "films/b.mp4";
     job.films[2].film = "/media/stick/c.mp4";
-    const composejob001 full = withFullNames(job, "/home/coach/races");
+    const composejob002 full = withFullNames(job, "/home/coach/races");
     EXPECT_EQ(full.films[0].splitFile, "/home/coach/races/race.kvx");
     EXPECT_EQ(full.films[0].film, "") << "the run's own stays the run's own";
     EXPECT_EQ(full.films[1].splitFile, "/home/coach/other/race.kvx");
     EXPECT_EQ(full.output.file, "") << "beside the job stays beside it, wherever that is saved";
 
-    const composejob001 back = withNamesFrom(full, "/home/coach/races");
+    const composejob002 back = withNamesFrom(full, "/home/coach/races");
     for (std::size_t film = 0; film < job.films.size(); ++film) {
         EXPECT_EQ(back.films[film].splitFile, job.films[film].splitFile);
         EXPECT_EQ(back.films[film].film, job.films[film].film) << "another disk keeps its name";

@@ -40,7 +40,7 @@ protected:
         m_desktop.openCompare(
             {.runs = {}, .films = {{film("one.mp4"), "One", 1}, {film("two.mp4"), "Two", 1.5}}});
         CompareWindow& window = *m_desktop.windowsOf<CompareWindow>().back();
-        window.document().edit("size", [](composejob001& job) {
+        window.document().edit("size", [](composejob002& job) {
             job.captions = {false, false, false, false, false, false};
             job.output.width = 640;
             job.output.height = 180;
@@ -74,7 +74,7 @@ TEST_F(CompareWindowTest, ShowsFilmsAsTheyAreHeldTogether) {
     EXPECT_TRUE(shows(window, 150, 175));
     window.player().step(-3);
     EXPECT_TRUE(shows(window, 147, 172));
-    window.document().edit("start", [](composejob001& job) { job.films[1].startsAt = 3; });
+    window.document().edit("start", [](composejob002& job) { job.films[1].startsAt = 3; });
     EXPECT_TRUE(shows(window, 147, 247)) << "the moment stays while the films are moved";
     window.document().undoStack().undo();
     EXPECT_TRUE(shows(window, 147, 172));
@@ -134,7 +134,7 @@ TEST_F(CompareWindowTest, ChoosesFilmsInATable) {
     window.addFiles({film("three.mp4"), film("four.mp4"), film("five.mp4")});
     ASSERT_TRUE(
         QTest::qWaitFor([&] { return window.films().candidates().size() == 5; }, CompareWait));
-    window.document().edit("layout", [](composejob001& job) {
+    window.document().edit("layout", [](composejob002& job) {
         job.layout = "ghost";
         job.sound = 2;
     });
@@ -151,7 +151,7 @@ TEST_F(CompareWindowTest, ChoosesFilmsInATable) {
 
 TEST_F(CompareWindowTest, SaysWhichFilmCannotBeHeldThere) {
     CompareWindow& window = compareTwo();
-    window.document().edit("split", [](composejob001& job) {
+    window.document().edit("split", [](composejob002& job) {
         job.synchronise = "split";
         job.split = 2;
     });
@@ -177,7 +177,7 @@ TEST_F(CompareWindowTest, AlignsByPointsThatAreClickedSideBySide) {
     EXPECT_TRUE(window.isAligning());
     emit window.view().clicked({0.9, 0.75});
     EXPECT_FALSE(window.isAligning());
-    const composejob001& job = window.document().value();
+    const composejob002& job = window.document().value();
     EXPECT_EQ(job.layout, "ghost");
     ASSERT_EQ(job.films[1].points.size(), 2U);
     EXPECT_NEAR(job.films[0].points[1].x, 0.8, 0.03);
@@ -187,7 +187,7 @@ TEST_F(CompareWindowTest, AlignsByPointsThatAreClickedSideBySide) {
 
 TEST_F(CompareWindowTest, ComposesOneAfterTheOtherWhileTheWindowIsGone) {
     CompareWindow& window = compareTwo();
-    window.document().edit("part", [](composejob001& job) { job.range.to = 0.5; });
+    window.document().edit("part", [](composejob002& job) { job.range.to = 0.5; });
     const QString target = QString::fromStdString((m_folder.path() / "pair.mp4").string());
     RenderQueue& queue = RenderQueue::of(m_workspace);
     const auto first = window.composeTo(target);
@@ -213,7 +213,7 @@ TEST_F(CompareWindowTest, ComposesOneAfterTheOtherWhileTheWindowIsGone) {
 
 TEST_F(CompareWindowTest, LeavesNothingOfAFilmThatIsStopped) {
     CompareWindow& window = compareTwo();
-    window.document().edit("part", [](composejob001& job) { job.range.to = 25; });
+    window.document().edit("part", [](composejob002& job) { job.range.to = 25; });
     RenderQueue& queue = RenderQueue::of(m_workspace);
     const QString target = QString::fromStdString((m_folder.path() / "long.mp4").string());
     const auto running = window.composeTo(target);
@@ -238,7 +238,7 @@ TEST_F(CompareWindowTest, IsReachedFromTheSelectedRunsOfARace) {
     race->view().selectRun(0);
     trigger(*race, QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_F));
     ASSERT_EQ(m_desktop.windowsOf<CompareWindow>().size(), 1);
-    const composejob001& job = m_desktop.windowsOf<CompareWindow>().front()->document().value();
+    const composejob002& job = m_desktop.windowsOf<CompareWindow>().front()->document().value();
     ASSERT_EQ(job.films.size(), 1U);
     EXPECT_THAT(job.films[0].splitFile, HasSubstr("riverside_cup.kvx"));
     EXPECT_EQ(job.films[0].run, static_cast<std::int64_t>(race->view().selectedRuns().front()) + 1);

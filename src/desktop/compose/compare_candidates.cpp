@@ -77,7 +77,7 @@ void readFilm(const QString& path, const std::stop_token& stop, FoundCandidates&
 
 /// Whether a film of a job is marked from its start to a split behind it. One that is not known
 /// yet, as while its split file is being read, is taken to be.
-bool isMarkedIn(const composefilm001& film, const std::vector<CompareCandidate>& known) {
+bool isMarkedIn(const composefilm002& film, const std::vector<CompareCandidate>& known) {
     if (film.splitFile.empty())
         return false;
     const auto candidate = std::ranges::find_if(
@@ -108,8 +108,8 @@ void placeCandidates(const Workspace& workspace, std::vector<CompareCandidate>& 
                 placeOfFilm(workspace, candidate.splitFile, QFileInfo(candidate.film).fileName());
 }
 
-composefilm001 filmOfCandidate(const CompareCandidate& candidate) {
-    composefilm001 film;
+composefilm002 filmOfCandidate(const CompareCandidate& candidate) {
+    composefilm002 film;
     film.startsAt = candidate.startsAt;
     film.camera = candidate.camera;
     if (candidate.splitFile.isEmpty()) {
@@ -125,7 +125,7 @@ composefilm001 filmOfCandidate(const CompareCandidate& candidate) {
     return film;
 }
 
-bool isCandidate(const composefilm001& film, const CompareCandidate& candidate) {
+bool isCandidate(const composefilm002& film, const CompareCandidate& candidate) {
     if (film.splitFile.empty() || candidate.splitFile.isEmpty())
         return film.splitFile.empty() && candidate.splitFile.isEmpty() &&
                film.film == candidate.film.toStdString();
@@ -133,14 +133,14 @@ bool isCandidate(const composefilm001& film, const CompareCandidate& candidate) 
            film.camera == candidate.camera;
 }
 
-void settleRange(composejob001& job, const std::vector<CompareCandidate>& known) {
+void settleRange(composejob002& job, const std::vector<CompareCandidate>& known) {
     if (job.films.empty() || job.range.kind == wordOf(RangeKind::Free) ||
         std::ranges::any_of(job.films,
-                            [&](const composefilm001& film) { return isMarkedIn(film, known); }))
+                            [&](const composefilm002& film) { return isMarkedIn(film, known); }))
         return;
     constexpr double UnknownLength = 60; // seconds
     double longest = 0;
-    for (const composefilm001& film : job.films)
+    for (const composefilm002& film : job.films)
         for (const CompareCandidate& candidate : known)
             if (isCandidate(film, candidate))
                 longest = std::max(longest, candidate.length - film.startsAt);

@@ -51,14 +51,14 @@ struct FoundCandidates {
 void placeCandidates(const Workspace& workspace, std::vector<CompareCandidate>& candidates);
 
 /// The film of a job that a candidate stands for.
-[[nodiscard]] composefilm001 filmOfCandidate(const CompareCandidate& candidate);
+[[nodiscard]] composefilm002 filmOfCandidate(const CompareCandidate& candidate);
 
 /// Whether a film of a job is the candidate.
-[[nodiscard]] bool isCandidate(const composefilm001& film, const CompareCandidate& candidate);
+[[nodiscard]] bool isCandidate(const composefilm002& film, const CompareCandidate& candidate);
 
 /// Brings a job's range to what its films can show: films without marks are shown from their start,
 /// for as long as the longest of them goes on or a minute where that is not known. Other ranges
 /// stay. `known` are those candidates that were read.
-void settleRange(composejob001& job, const std::vector<CompareCandidate>& known);
+void settleRange(composejob002& job, const std::vector<CompareCandidate>& known);
 
 } // namespace kavela::desktop

@@ -29,11 +29,11 @@ bool CompareDocument::open(const QString& path, QWidget* over) {
     return false;
 }
 
-void CompareDocument::startNew(const QString& path, composejob001 job, QWidget* over) {
+void CompareDocument::startNew(const QString& path, composejob002 job, QWidget* over) {
     start(std::move(job), path, over);
 }
 
-void CompareDocument::createNew(const QString& folder, composejob001 job, QWidget* over) {
+void CompareDocument::createNew(const QString& folder, composejob002 job, QWidget* over) {
     QString path = QDir(folder).filePath("Comparison.json");
     for (int number = 2; QFileInfo::exists(path); ++number)
         path = QDir(folder).filePath(QString("Comparison %1.json").arg(number));
@@ -52,7 +52,7 @@ EditedFile::Content CompareDocument::contentFor(const QString& path) const {
 
 bool CompareDocument::recover(const std::string& content) {
     try {
-        startFrom(decodeText<composejob001>(content));
+        startFrom(composeJobOf(JsonDocument::fromText(content)));
         return true;
     } catch (const DecodeError& error) {
         workspace().log()(error.what());

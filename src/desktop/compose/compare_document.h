@@ -7,7 +7,7 @@ namespace kavela::desktop {
 
 /// A comparison of films that is being edited. Its files are named in full here, and from the
 /// comparison's folder in its file.
-class CompareDocument : public Document<composejob001> {
+class CompareDocument : public Document<composejob002> {
     Q_OBJECT
 
 public:
@@ -19,9 +19,9 @@ public:
     [[nodiscard]] bool open(const QString& path, QWidget* over);
     /// A new comparison of these films; the path is where saving will propose to put it. What it
     /// begins with needs no saving.
-    void startNew(const QString& path, composejob001 job, QWidget* over);
+    void startNew(const QString& path, composejob002 job, QWidget* over);
     /// A new one under a name that is free in a folder.
-    void createNew(const QString& folder, composejob001 job, QWidget* over);
+    void createNew(const QString& folder, composejob002 job, QWidget* over);
 
 protected:
     [[nodiscard]] QString summary() const override;

@@ -5,6 +5,7 @@
 #include "desktop/shell/tables/column_table.h"
 #include "desktop/shell/theme.h"
 #include "desktop/shell/typed_number.h"
+#include "vision/track_file.h"
 
 #include <QFileInfo>
 #include <QHBoxLayout>
@@ -85,8 +86,8 @@ std::vector<Column<CompareFilmsPanel::CandidateRow>> CompareFilmsPanel::candidat
 
 std::vector<Column<CompareFilmsPanel::FilmRow>> CompareFilmsPanel::filmColumns() {
     const auto change = [this](std::size_t place, const QString& what,
-                               const std::function<void(composefilm001&)>& to) {
-        m_edit(what, [&](composejob001& job) {
+                               const std::function<void(composefilm002&)>& to) {
+        m_edit(what, [&](composejob002& job) {
             if (place < job.films.size())
                 to(job.films[place]);
         });
@@ -95,7 +96,7 @@ std::vector<Column<CompareFilmsPanel::FilmRow>> CompareFilmsPanel::filmColumns()
         textColumn<FilmRow>(tr("Name in the film"), [](const FilmRow& row) { return row.names; });
     names.take = [change](const std::size_t& place, const FilmRow&, const QString& typed) {
         change(place, tr("name in the film"),
-               [&](composefilm001& film) { film.names = typed.toStdString(); });
+               [&](composefilm002& film) { film.names = typed.toStdString(); });
     };
     Column<FilmRow> category = textColumn<FilmRow>(tr("Category"), [](const FilmRow& row) {
         return QString::fromStdString(row.film.category);
@@ -103,7 +104,7 @@ std::vector<Column<CompareFilmsPanel::FilmRow>> CompareFilmsPanel::filmColumns()
     category.tip = tr("In place of that of the split file.");
     category.take = [change](const std::size_t& place, const FilmRow&, const QString& typed) {
         change(place, tr("category in the film"),
-               [&](composefilm001& film) { film.category = typed.toStdString(); });
+               [&](composefilm002& film) { film.category = typed.toStdString(); });
     };
     Column<FilmRow> start = textColumn<FilmRow>(tr("Starts at [s]"), nullptr);
     start.kind = ColumnKind::Number;
@@ -120,12 +121,57 @@ std::vector<Column<CompareFilmsPanel::FilmRow>> CompareFilmsPanel::filmColumns()
         const double seconds =
             typedSeconds(typed, {0, 86400, tr("The start is a second of the film, 0 to 86400")});
         change(place, tr("start of a film"),
-               [&](composefilm001& film) { film.startsAt = seconds; });
+               [&](composefilm002& film) { film.startsAt = seconds; });
     };
-    return {textColumn<FilmRow>(tr("No."),
-                                [](const FilmRow& row) { return QString::number(row.place + 1); }),
-            names, category, start,
-            textColumn<FilmRow>(tr("Film"), [](const FilmRow& row) { return row.file; })};
+    std::vector<Column<FilmRow>> columns{
+        textColumn<FilmRow>(tr("No."),
+                            [](const FilmRow& row) { return QString::number(row.place + 1); }),
+        names, category, start};
+    for (Column<FilmRow>& tick : pathTicks())
+        columns.push_back(std::move(tick));
+    columns.push_back(textColumn<FilmRow>(tr("Film"), [](const FilmRow& row) { return row.file; }));
+    return columns;
+}
+
+/// What can be shown of the path that was followed on a film.
+std::vector<Column<CompareFilmsPanel::FilmRow>> CompareFilmsPanel::pathTicks() {
+    const auto tickOf = [this](const QString& title, const QString& tip,
+                               const std::function<bool(const composefilm002&)>& isOn,
+                               const std::function<void(composefilm002&, bool)>& turn) {
+        Column<FilmRow> column = textColumn<FilmRow>(title, nullptr);
+        column.tip = tip;
+        column.show = [isOn](const FilmRow& row) {
+            Cell cell;
+            if (row.track.isEmpty())
+                cell.text = QStringLiteral("–");
+            else
+                cell.isTicked = isOn(row.film);
+            return cell;
+        };
+        column.tick = [this, turn](const std::size_t& place, const FilmRow& row, bool isTicked) {
+            if (row.track.isEmpty())
+                return;
+            m_edit(tr("path of a film"), [&](composejob002& job) {
+                if (place >= job.films.size())
+                    return;
+                composefilm002& film = job.films[place];
+                turn(film, isTicked);
+                const bool isUsed = film.drawsPath || film.zoom > 1;
+                film.track = isUsed ? row.track.toStdString() : std::string();
+            });
+        };
+        return column;
+    };
+    return {tickOf(
+                tr("Path"), tr("Draws the path that was followed on it in the window Tracking."),
+                [](const composefilm002& film) { return film.drawsPath; },
+                [](composefilm002& film, bool isTicked) { film.drawsPath = isTicked; }),
+            tickOf(
+                tr("Follow"), tr("Shows it twice as large, round that path."),
+                [](const composefilm002& film) { return film.zoom > 1; },
+                [](composefilm002& film, bool isTicked) {
+                    film.zoom = isTicked ? PathView::MostZoom : 1;
+                })};
 }
 
 QWidget* CompareFilmsPanel::makeCandidates() {
@@ -194,12 +240,12 @@ void CompareFilmsPanel::addCandidates(const std::vector<CompareCandidate>& found
     showRows();
 }
 
-void CompareFilmsPanel::showJob(const composejob001& job) {
+void CompareFilmsPanel::showJob(const composejob002& job) {
     m_job = job;
     showRows();
 }
 
-const CompareCandidate* CompareFilmsPanel::candidateOf(const composefilm001& film) const {
+const CompareCandidate* CompareFilmsPanel::candidateOf(const composefilm002& film) const {
     const auto found = std::ranges::find_if(
         m_known, [&](const CompareCandidate& candidate) { return isCandidate(film, candidate); });
     return found == m_known.end() ? nullptr : &*found;
@@ -208,7 +254,7 @@ const CompareCandidate* CompareFilmsPanel::candidateOf(const composefilm001& fil
 void CompareFilmsPanel::showRows() {
     std::vector<CandidateRow> rows;
     for (std::size_t number = 0; number < m_known.size(); ++number) {
-        const auto film = std::ranges::find_if(m_job.films, [&](const composefilm001& entry) {
+        const auto film = std::ranges::find_if(m_job.films, [&](const composefilm002& entry) {
             return isCandidate(entry, m_known[number]);
         });
         rows.push_back(
@@ -219,15 +265,23 @@ void CompareFilmsPanel::showRows() {
     m_candidates.show(std::move(rows));
     std::vector<FilmRow> films;
     for (std::size_t place = 0; place < m_job.films.size(); ++place) {
-        const composefilm001& film = m_job.films[place];
+        const composefilm002& film = m_job.films[place];
         const CompareCandidate* const known = candidateOf(film);
-        FilmRow row{place, film, QString::fromStdString(film.names),
+        FilmRow row{place,
+                    film,
+                    QString::fromStdString(film.names),
                     QFileInfo(QString::fromStdString(film.film)).fileName(),
-                    known && known->isMarked};
+                    known && known->isMarked,
+                    QString::fromStdString(film.track)};
         if (known && row.names.isEmpty())
             row.names = known->names;
         if (known)
             row.file = QFileInfo(known->film).fileName();
+        const std::string path = known ? known->film.toStdString() : film.film;
+        if (row.track.isEmpty() && !path.empty()) {
+            const QString track = QString::fromStdString(trackPathOf(path).string());
+            row.track = QFileInfo::exists(track) ? track : QString();
+        }
         films.push_back(std::move(row));
     }
     m_films.show(std::move(films));
@@ -249,7 +303,7 @@ void CompareFilmsPanel::toggle(std::size_t candidate) {
         return;
     const CompareCandidate chosen = m_known[candidate];
     const auto film = std::ranges::find_if(
-        m_job.films, [&](const composefilm001& entry) { return isCandidate(entry, chosen); });
+        m_job.films, [&](const composefilm002& entry) { return isCandidate(entry, chosen); });
     if (film != m_job.films.end()) {
         removeFilm(static_cast<std::size_t>(film - m_job.films.begin()));
         return;
@@ -258,7 +312,7 @@ void CompareFilmsPanel::toggle(std::size_t candidate) {
         emit refused(tr("Four films are the most. Take one out first."));
         return;
     }
-    m_edit(tr("choice of a film"), [&](composejob001& job) {
+    m_edit(tr("choice of a film"), [&](composejob002& job) {
         job.films.push_back(filmOfCandidate(chosen));
         if (job.films.size() > 2 &&
             (job.layout == wordOf(LayoutKind::Ghost) || job.layout == wordOf(LayoutKind::Wipe)))
@@ -271,7 +325,7 @@ void CompareFilmsPanel::toggle(std::size_t candidate) {
 void CompareFilmsPanel::removeFilm(std::size_t film) {
     if (film >= m_job.films.size())
         return;
-    m_edit(tr("removal of a film"), [&](composejob001& job) {
+    m_edit(tr("removal of a film"), [&](composejob002& job) {
         job.films.erase(job.films.begin() + static_cast<std::ptrdiff_t>(film));
         const auto heard = static_cast<std::size_t>(std::max<std::int64_t>(job.sound, 0));
         if (heard == film + 1)
@@ -286,7 +340,7 @@ void CompareFilmsPanel::moveFilm(int step) {
     const int to = from + step;
     if (from < 0 || to < 0 || to >= static_cast<int>(m_job.films.size()))
         return;
-    m_edit(tr("order of the films"), [&](composejob001& job) {
+    m_edit(tr("order of the films"), [&](composejob002& job) {
         std::swap(job.films[static_cast<std::size_t>(from)],
                   job.films[static_cast<std::size_t>(to)]);
         if (job.sound == from + 1)

@@ -22,14 +22,14 @@ class CompareFilmsPanel : public QWidget {
 public:
     /// Makes a change of the job a step of undo.
     using Edit =
-        std::function<void(const QString& what, const std::function<void(composejob001&)>& change)>;
+        std::function<void(const QString& what, const std::function<void(composejob002&)>& change)>;
 
     explicit CompareFilmsPanel(Edit edit, QWidget* parent = nullptr);
 
     /// Takes in what can be chosen, beside what was there; what it knows already stays.
     void addCandidates(const std::vector<CompareCandidate>& found);
     [[nodiscard]] const std::vector<CompareCandidate>& candidates() const { return m_known; }
-    void showJob(const composejob001& job);
+    void showJob(const composejob002& job);
 
     /// Chooses a candidate as the last film, or takes it out; by its place among candidates().
     void toggle(std::size_t candidate);
@@ -55,23 +55,25 @@ private:
     };
     struct FilmRow {
         std::size_t place = 0;
-        composefilm001 film;
+        composefilm002 film;
         QString names; ///< as they are shown
         QString file;
         bool isMarked = false;
+        QString track; ///< the path that lies beside its film; empty for none
     };
 
     [[nodiscard]] std::vector<Column<CandidateRow>> candidateColumns();
     [[nodiscard]] std::vector<Column<FilmRow>> filmColumns();
+    [[nodiscard]] std::vector<Column<FilmRow>> pathTicks();
     [[nodiscard]] QWidget* makeCandidates();
     [[nodiscard]] QWidget* makeFilms();
     void showRows();
     void filter(const QString& text);
-    [[nodiscard]] const CompareCandidate* candidateOf(const composefilm001& film) const;
+    [[nodiscard]] const CompareCandidate* candidateOf(const composefilm002& film) const;
 
     Edit m_edit;
     std::vector<CompareCandidate> m_known;
-    composejob001 m_job;
+    composejob002 m_job;
     ColumnModel<CandidateRow> m_candidates;
     ColumnModel<FilmRow> m_films;
     ColumnTable* m_candidateTable = nullptr;

@@ -48,16 +48,16 @@ CompareForm::CompareForm(Edit edit, QWidget* parent)
                        wordChoice("One within the other", LayoutKind::PictureInPicture),
                        wordChoice("Ghost: seen through", LayoutKind::Ghost),
                        wordChoice("Left and right of a line", LayoutKind::Wipe)},
-           &composejob001::layout);
+           &composejob002::layout);
     number({.name = "wipe", .label = formText("Line at"), .tip = formText("0 left, 1 right")},
-           {.least = 0, .most = 1, .decimals = 2, .step = 0.05}, &composejob001::wipe);
+           {.least = 0, .most = 1, .decimals = 2, .step = 0.05}, &composejob002::wipe);
     choice({.name = "synchronise", .label = formText("&Together")},
            TextChoices{wordChoice("at the start", Synchronise::Start),
                        wordChoice("at one split", Synchronise::Split),
                        wordChoice("at every split, waiting", Synchronise::Waiting),
                        wordChoice("at every split, stretched", Synchronise::Stretched)},
-           &composejob001::synchronise);
-    whole({.name = "split", .label = formText("Split")}, splitNumber(), &composejob001::split);
+           &composejob002::synchronise);
+    whole({.name = "split", .label = formText("Split")}, splitNumber(), &composejob002::split);
     addTimes();
     addCaptions();
     addOutput();
@@ -68,8 +68,8 @@ void CompareForm::addTimes() {
            TextChoices{wordChoice("the whole run", RangeKind::Run),
                        wordChoice("from split to split", RangeKind::Splits),
                        wordChoice("free", RangeKind::Free)},
-           Access{[](const composejob001& job) { return job.range.kind; },
-                  [](composejob001& job, const std::string& kind) {
+           Access{[](const composejob002& job) { return job.range.kind; },
+                  [](composejob002& job, const std::string& kind) {
                       job.range.kind = kind;
                       // What was never chosen is a part that can be shown.
                       if (kind == wordOf(RangeKind::Splits) &&
@@ -98,7 +98,7 @@ void CompareForm::addTimes() {
                                                    {QStringLiteral("½"), 0.5},
                                                    {QStringLiteral("¼"), 0.25},
                                                    {QStringLiteral("⅛"), 0.125}},
-           &composejob001::speed);
+           &composejob002::speed);
 }
 
 void CompareForm::addCaptions() {
@@ -133,10 +133,10 @@ void CompareForm::addOutput() {
                {formText("1080 × 1920, upright"), {1080, 1920}},
                {formText("720 × 1280, upright"), {720, 1280}},
                {formText("1080 × 1080, square"), {1080, 1080}}},
-           Access{[](const composejob001& job) -> SizeChoice {
+           Access{[](const composejob002& job) -> SizeChoice {
                       return {job.output.width, job.output.height};
                   },
-                  [](composejob001& job, const SizeChoice& size) {
+                  [](composejob002& job, const SizeChoice& size) {
                       job.output.width = size.first;
                       job.output.height = size.second;
                   }});
@@ -148,10 +148,10 @@ void CompareForm::addOutput() {
     whole({.name = "sound",
            .label = formText("S&ound of film"),
            .tip = formText("None in slow motion, nor while that film waits or is stretched.")},
-          {.least = 0, .most = 4, .none = formText("none")}, &composejob001::sound);
+          {.least = 0, .most = 4, .none = formText("none")}, &composejob002::sound);
 }
 
-void CompareForm::showComparison(const composejob001& job, bool isOther) {
+void CompareForm::showComparison(const composejob002& job, bool isOther) {
     setFieldVisible("wipe", job.layout == wordOf(LayoutKind::Wipe));
     setFieldVisible("split", job.synchronise == wordOf(Synchronise::Split));
     const bool isSplits = job.range.kind == wordOf(RangeKind::Splits);

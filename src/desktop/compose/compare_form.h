@@ -6,12 +6,12 @@
 namespace kavela::desktop {
 
 /// How films are seen together: layout, synchronisation, part, speed, captions, size.
-class CompareForm : public RecordForm<composejob001> {
+class CompareForm : public RecordForm<composejob002> {
 public:
     explicit CompareForm(Edit edit, QWidget* parent = nullptr);
 
     /// Shows a job; fields that mean nothing for it are hidden.
-    void showComparison(const composejob001& job, bool isOther = false);
+    void showComparison(const composejob002& job, bool isOther = false);
 
 private:
     void addTimes();

@@ -28,7 +28,7 @@ ComparePlayer::ComparePlayer(std::shared_ptr<FrameCache> frames, QObject* parent
 
 ComparePlayer::~ComparePlayer() = default;
 
-void ComparePlayer::show(const composejob001& job, QSize box) {
+void ComparePlayer::show(const composejob002& job, QSize box) {
     m_worker->ask({++m_asked, job, {std::max(box.width(), 2), std::max(box.height(), 2)}});
 }
 

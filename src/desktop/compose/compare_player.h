@@ -49,7 +49,7 @@ public:
     /// Shows a job, whose files are named in full, in pictures that fit into the box. The moment
     /// stays as far as the film still has it. What is asked for while another one is being read
     /// takes its place.
-    void show(const composejob001& job, QSize box);
+    void show(const composejob002& job, QSize box);
     /// Shows nothing.
     void clear();
 

@@ -77,7 +77,7 @@ CompareWindow::~CompareWindow() {
 
 void CompareWindow::makeParts() {
     const auto editor = [this](const QString& what,
-                               const std::function<void(composejob001&)>& change) {
+                               const std::function<void(composejob002&)>& change) {
         edit(what, change);
     };
     m_films = new CompareFilmsPanel(editor);
@@ -153,7 +153,7 @@ void CompareWindow::makeMenus() {
     part->addAction(tr("&End here"), QKeySequence(Qt::Key_O), this, &CompareWindow::endHere);
     part->addAction(tr("The &whole run"), QKeySequence(Qt::Key_W), this, [this] {
         edit(tr("part that is shown"),
-             [](composejob001& job) { job.range.kind = wordOf(RangeKind::Run); });
+             [](composejob002& job) { job.range.kind = wordOf(RangeKind::Run); });
     });
     part->addSeparator();
     part->addAction(tr("&Align the second film by two points"), QKeySequence(Qt::Key_A), this,
@@ -202,7 +202,7 @@ void CompareWindow::connectPlayer() {
     connect(m_line, &RangeLine::rangeDragged, this, &CompareWindow::setRange);
 }
 
-void CompareWindow::edit(const QString& what, const std::function<void(composejob001&)>& change) {
+void CompareWindow::edit(const QString& what, const std::function<void(composejob002&)>& change) {
     m_isCutToFour = false; // it was read, and the choice goes on from there
     m_document->edit(what, change);
 }
@@ -211,7 +211,7 @@ bool CompareWindow::open(const QString& path) {
     if (!m_document->open(path, this))
         return false;
     QStringList files;
-    for (const composefilm001& film : m_document->value().films)
+    for (const composefilm002& film : m_document->value().films)
         files.append(QString::fromStdString(film.splitFile.empty() ? film.film : film.splitFile));
     files.removeDuplicates();
     addFiles(files);
@@ -228,12 +228,12 @@ void CompareWindow::startNew(const QString& path) {
 
 /// The runs are known once their files are read; until then they are taken to be marked.
 void CompareWindow::startWith(const CompareRequest& request) {
-    composejob001 job;
+    composejob002 job;
     QStringList files;
     std::vector<CompareCandidate> films;
     for (const CompareRequest::Run& run : request.runs) {
         const QString file = QFileInfo(run.splitFile).absoluteFilePath();
-        composefilm001 film;
+        composefilm002 film;
         film.splitFile = file.toStdString();
         film.run = static_cast<std::int64_t>(run.run) + 1;
         job.films.push_back(film);
@@ -308,7 +308,7 @@ void CompareWindow::chooseFilms() {
 }
 
 void CompareWindow::showDocument() {
-    const composejob001& job = m_document->value();
+    const composejob002& job = m_document->value();
     m_films->showJob(job);
     m_form->showComparison(job);
     m_compose->setEnabled(job.films.size() > 1);
@@ -317,7 +317,7 @@ void CompareWindow::showDocument() {
 
 /// Points are clicked in both films side by side, whatever the layout.
 void CompareWindow::showPreview() {
-    composejob001 job = m_document->value();
+    composejob002 job = m_document->value();
     if (job.films.size() < 2) {
         m_player->clear();
         m_view->setMessage(job.films.empty() ? tr("Tick two to four films to compare them.")
@@ -398,7 +398,7 @@ void CompareWindow::setRange(double from, double to) {
     if (!m_player->prepared())
         return;
     const RangeChoice choice = rangeBetween(from, to, m_player->prepared()->splits);
-    edit(tr("part that is shown"), [&](composejob001& job) {
+    edit(tr("part that is shown"), [&](composejob002& job) {
         job.range.kind = wordOf(choice.kind);
         if (choice.kind == RangeKind::Splits) {
             job.range.fromSplit = static_cast<std::int64_t>(choice.fromSplit);
@@ -439,8 +439,8 @@ void CompareWindow::alignByPoints() {
 }
 
 void CompareWindow::forgetPoints() {
-    edit(tr("points that were forgotten"), [](composejob001& job) {
-        for (composefilm001& film : job.films)
+    edit(tr("points that were forgotten"), [](composejob002& job) {
+        for (composefilm002& film : job.films)
             film.points.clear();
     });
 }
@@ -461,7 +461,7 @@ void CompareWindow::takePoint(const QPointF& point) {
         return;
     const auto points = m_points;
     alignByPoints(); // it is done
-    edit(tr("alignment by two points"), [&](composejob001& job) {
+    edit(tr("alignment by two points"), [&](composejob002& job) {
         for (std::size_t film = 0; film < points.size() && film < job.films.size(); ++film)
             job.films[film].points = points[film];
         if (job.layout != wordOf(LayoutKind::Wipe))
@@ -493,7 +493,7 @@ void CompareWindow::askAndCompose() {
     const QString target = dialog.selectedFiles().constFirst();
     if (target != proposedTarget())
         edit(tr("file of the film"),
-             [&](composejob001& job) { job.output.file = target.toStdString(); });
+             [&](composejob002& job) { job.output.file = target.toStdString(); });
     composeTo(target);
 }
 

@@ -85,7 +85,7 @@ private:
     void makeMenus();
     void connectParts();
     void connectPlayer();
-    void edit(const QString& what, const std::function<void(composejob001&)>& change);
+    void edit(const QString& what, const std::function<void(composejob002&)>& change);
     void showDocument();
     void showPreview();
     void showPrepared();

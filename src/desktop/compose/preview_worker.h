@@ -20,7 +20,7 @@ class PreviewWorker {
 public:
     struct Wish {
         std::uint64_t number = 0;
-        composejob001 job;
+        composejob002 job;
         VideoSize box;
     };
     /// What there is to tell since it was taken last.

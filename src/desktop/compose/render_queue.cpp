@@ -39,7 +39,7 @@ RenderQueue& RenderQueue::of(Workspace& workspace) {
     return *queue;
 }
 
-std::uint64_t RenderQueue::add(composejob001 job, const QString& target) {
+std::uint64_t RenderQueue::add(composejob002 job, const QString& target) {
     const std::uint64_t id = ++m_lastId;
     RenderJob added;
     added.id = id;

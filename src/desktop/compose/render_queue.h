@@ -25,7 +25,7 @@ struct RenderJob {
     enum class State { Waiting, Running, Done, Failed, Stopped };
 
     std::uint64_t id = 0;
-    composejob001 job; ///< names its files in full
+    composejob002 job; ///< names its files in full
     QString target;    ///< path that was asked for; as it was written once it is done
     State state = State::Waiting;
     double done = 0;        ///< 0 to 1
@@ -46,7 +46,7 @@ public:
     ~RenderQueue() override;
 
     /// Appends a film; gives the id of its job.
-    std::uint64_t add(composejob001 job, const QString& target);
+    std::uint64_t add(composejob002 job, const QString& target);
     /// Stops a job that waits or runs; nothing of its film is left then.
     void stop(std::uint64_t id);
     void stopAll();

@@ -1,0 +1,137 @@
+#pragma once
+
+#include "desktop/shell/background_work.h"
+#include "desktop/shell/tables/column_model.h"
+#include "desktop/shell/tool_window.h"
+#include "desktop/tracking/track_document.h"
+#include "desktop/tracking/track_figures.h"
+
+#include <memory>
+#include <optional>
+#include <vector>
+
+class QAction;
+class QLabel;
+class QProgressBar;
+class QTabWidget;
+
+namespace kavela::desktop {
+
+class ColumnTable;
+class FilmDeck;
+class FilmView;
+class SeriesChart;
+class TrackLine;
+class TrackOverlay;
+class TrackRun;
+
+/// Follows boat, gate or head through a film: a box is drawn, the path grows while the film runs,
+/// and where it is lost a new box is asked for. Beside the film its speed, figures and the known
+/// points on the water.
+class TrackingWindow : public ToolWindow {
+    Q_OBJECT
+
+public:
+    enum Page { Speed, Figures, KnownPoints };
+
+    TrackingWindow(Workspace& workspace, Autosave autosave);
+    ~TrackingWindow() override;
+
+    /// A film, with the path that lies beside it, or a path. False, after an alert, when it cannot
+    /// be opened.
+    [[nodiscard]] bool open(const QString& path) override;
+    /// The film as long as its path was never saved.
+    [[nodiscard]] QStringList paths() const override;
+
+    [[nodiscard]] TrackDocument& document() const { return *m_document; }
+    [[nodiscard]] FilmDeck& deck() const { return *m_deck; }
+    [[nodiscard]] TrackOverlay& overlay() const { return *m_overlay; }
+    [[nodiscard]] TrackRun& run() const { return *m_run; }
+    [[nodiscard]] ColumnTable& pointTable() const { return *m_pointTable; }
+    [[nodiscard]] SeriesChart& chart() const { return *m_chart; }
+    /// What is told below the film.
+    [[nodiscard]] QString told() const;
+    /// Those that are shown.
+    [[nodiscard]] const std::vector<PathFigure>& figures() const { return m_shown; }
+
+    /// Goes to a frame.
+    void goTo(qint64 frame);
+    /// Draws a box in the frame that is shown, and follows it.
+    void drawBox(const TrackBox& box);
+    /// Takes the box of the frame that is shown away.
+    void removeBox();
+    void goToGap();
+    void stopFollowing();
+    void setTakesPoints(bool takesPoints);
+    void forgetPoints();
+    void exportCsv();
+    /// The same to a file. Throws FileError.
+    void writeCsv(const QString& path) const;
+
+signals:
+    /// Other figures are shown.
+    void figuresShown();
+
+protected:
+    void takeFiles(const QStringList& paths) override;
+
+private:
+    struct PointRow {
+        std::size_t number = 0;
+        trackplanepoint001 point;
+    };
+    struct Computed {
+        std::vector<PathFigure> figures;
+        QString fault; ///< why there are no metres; empty where there are, or none are wanted
+        bool isScaleOnly = false;
+    };
+
+    TrackingWindow(Workspace& workspace, std::unique_ptr<TrackDocument> document);
+    [[nodiscard]] std::vector<Column<PointRow>> pointColumns();
+    [[nodiscard]] QWidget* makeStage();
+    [[nodiscard]] QWidget* makePages();
+    void makeMenus();
+    void connectParts();
+    void chooseFile();
+    void showDocument();
+    void showFilm();
+    void showFrame();
+    void computeFigures();
+    void showFigures(const Computed& computed);
+    [[nodiscard]] std::optional<FrameNumber> shownFrame() const;
+    void editTrack(const QString& what, const Track& track);
+    void startRun(std::size_t key);
+    void takeRun(const Track& track, FrameNumber lostAt);
+    void takeFailure(const QString& why);
+    void takePoint(const PicturePlace& place);
+    void tell(const QString& text);
+    [[nodiscard]] QString secondsText(FrameNumber frame) const;
+
+    std::unique_ptr<TrackDocument> m_document;
+    FilmDeck* m_deck = nullptr;
+    FilmView* m_view = nullptr;
+    TrackOverlay* m_overlay = nullptr;
+    TrackLine* m_line = nullptr;
+    TrackRun* m_run = nullptr;
+    QLabel* m_told = nullptr;
+    QLabel* m_time = nullptr;
+    QProgressBar* m_progress = nullptr;
+    QTabWidget* m_tabs = nullptr;
+    SeriesChart* m_chart = nullptr;
+    ColumnModel<PathFigure> m_figures;
+    ColumnModel<PointRow> m_points;
+    ColumnTable* m_figureTable = nullptr;
+    ColumnTable* m_pointTable = nullptr;
+    QLabel* m_pointsTold = nullptr;
+    QAction* m_takesPoints = nullptr;
+    QAction* m_stopAction = nullptr;
+    QAction* m_isOnWater = nullptr;
+    std::vector<PathFigure> m_shown;
+    std::vector<TrackKey> m_runKeys; ///< boxes of the run that goes on
+    bool m_isBoxNew = false;         ///< the run began with a box that was just drawn
+    int m_asked = 0;                 ///< number of the latest computation
+    QString m_film;                  ///< that is open
+    BackgroundWork m_work;
+};
+
+} // namespace kavela::desktop
