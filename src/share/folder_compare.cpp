@@ -52,6 +52,8 @@ private:
              .headers = {{"Depth", "1"}, {"Content-Type", "application/xml; charset=utf-8"}}});
         if (answer.isMissing()) {
             // A folder that went meanwhile; the first one is made when something is put there.
+            if (folder.empty())
+                refuseFile(address);
             return {};
         }
         if (answer.status() == 401)
@@ -64,6 +66,14 @@ private:
         if (!answer.isDone())
             throw ShareError(refusalOf(answer));
         return read(answer, address, folder);
+    }
+
+    /// Behind the name of a file there is no folder to be found.
+    void refuseFile(fetch::Address address) {
+        address.path.pop_back();
+        if (const auto file = address.path.empty() ? std::nullopt : m_web.stateOf(address);
+            file && !file->isFolder)
+            throw ShareError("The address is that of a file. A folder is shared.");
     }
 
     std::vector<fetch::DavEntry> read(const DavAnswer& answer, const fetch::Address& address,

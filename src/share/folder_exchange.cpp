@@ -248,12 +248,10 @@ ShareResult FolderExchange::upload(const std::string& path, bool isNew) {
         lock.reset();
         return settle(path);
     }
-    if (answer.status() == 507 || answer.status() == 413)
-        m_full = answer.status() == 507 ? refusalOf(answer) : std::string();
-    if (!answer.isDone()) {
-        // An answer that was lost does not tell what the server has.
+    if (answer.status() == 507)
+        m_full = refusalOf(answer);
+    if (!answer.isDone())
         throw ShareError(refusalOf(answer), answer.status() == 401);
-    }
     return checkSent(path, sent, answer);
 }
 

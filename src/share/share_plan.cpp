@@ -9,7 +9,7 @@ namespace kavela::share {
 namespace {
 
 template <class File>
-const File* fileAt(const std::map<std::string, File>& files, const std::string& path) {
+const File* entryAt(const std::map<std::string, File>& files, const std::string& path) {
     const auto found = files.find(path);
     return found == files.end() ? nullptr : &found->second;
 }
@@ -97,9 +97,9 @@ std::vector<ShareRow> sharePlan(const HereFiles& here, const ThereFiles& there,
         paths.insert(path);
     std::vector<ShareRow> plan;
     for (const std::string& path : paths) {
-        const HereFile* const own = fileAt(here, path);
-        const ThereFile* const other = fileAt(there, path);
-        const KnownFile* const noted = fileAt(known, path);
+        const HereFile* const own = entryAt(here, path);
+        const ThereFile* const other = entryAt(there, path);
+        const KnownFile* const noted = entryAt(known, path);
         const Change change = changeOf(own, other, noted);
         if (change == Change::None || change == Change::Agree)
             continue;
