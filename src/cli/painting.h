@@ -26,6 +26,17 @@ struct FilmFetchCall {
     bool isAgreed = false;  ///< nobody is asked
 };
 
+/// What is shared by a call, and how.
+struct FolderShareCall {
+    std::string folder;
+    std::string to;         ///< the address; empty for the one that was used last
+    std::string user;       ///< empty where the server asks for none
+    bool showsOnly = false; ///< nothing is to be moved
+    bool isAgreed = false;  ///< nobody is asked
+    bool deletes = false;   ///< what was deleted on one side may be deleted on the other
+    bool isJson = false;
+};
+
 /// What commands do with libraries that take longer to load than a table takes to print: those that
 /// paint, make films and keep preferences. `kavela` does without them; a command that needs this
 /// asks for it with `neededIf` before it prints or writes anything, and `kavela-paint` takes over.
@@ -82,6 +93,10 @@ public:
     /// Prints what would be fetched from a source, and fetches it where that is wanted. Returns the
     /// exit status.
     [[nodiscard]] virtual int fetchFilms(const FilmFetchCall& call) const = 0;
+
+    /// Prints what differs between a folder and a server, and shares it where that is wanted.
+    /// Returns the exit status.
+    [[nodiscard]] virtual int shareFolder(const FolderShareCall& call) const = 0;
 };
 
 /// Thrown by a command of a program without painting: the call is for `kavela-paint`.

@@ -2,6 +2,7 @@
 
 #include "painting/composed_film_file.h"
 #include "painting/film_fetch.h"
+#include "painting/folder_share.h"
 #include "painting/offscreen_application.h"
 #include "painting/report_files.h"
 #include "painting/season_film_files.h"
@@ -79,6 +80,10 @@ int OwnPainting::composeFilm(const fs::path& job, const fs::path& output) const 
 
 int OwnPainting::fetchFilms(const cli::FilmFetchCall& call) const {
     return painting::fetchFilms(call);
+}
+
+int OwnPainting::shareFolder(const cli::FolderShareCall& call) const {
+    return painting::shareFolder(call);
 }
 
 } // namespace kavela::painting
