@@ -9,6 +9,8 @@
 #include <QCryptographicHash>
 #include <QFile>
 
+#include <algorithm>
+#include <array>
 #include <deque>
 
 namespace kavela::share {
@@ -50,12 +52,13 @@ private:
              .verb = "PROPFIND",
              .body = davBody(),
              .headers = {{"Depth", "1"}, {"Content-Type", "application/xml; charset=utf-8"}}});
-        if (answer.isMissing()) {
-            // A folder that went meanwhile; the first one is made when something is put there.
-            if (folder.empty())
-                refuseFile(address);
+        constexpr std::array<int, 3> SaidBehindFiles{400, 403, 404};
+        if (folder.empty() &&
+            std::ranges::find(SaidBehindFiles, answer.status()) != SaidBehindFiles.end())
+            refuseFile(address);
+        // A folder that went meanwhile; the first one is made when something is put there.
+        if (answer.isMissing())
             return {};
-        }
         if (answer.status() == 401)
             throw ShareError(refusalOf(answer), true);
         constexpr int MultiStatus = 207;
@@ -84,7 +87,6 @@ private:
                 if (folder.empty() && !entry.isFolder && isFolderItself(entry.address, address))
                     throw ShareError("The address is that of a file. A folder is shared.");
             m_survey.foldersThere.insert(folder);
-            m_survey.canLock = m_survey.canLock || answer.head.dav.find('2') != std::string::npos;
             return entries;
         } catch (const fetch::ListingError& error) {
             throw ShareError(error.what());
@@ -161,6 +163,19 @@ private:
     std::set<std::string> m_seen;
 };
 
+/// Whether a server says of itself that it locks: "1,2,3", where 2 stands for it.
+bool locksBy(std::string_view dav) {
+    while (!dav.empty()) {
+        const std::size_t end = std::min(dav.find(','), dav.size());
+        std::string_view part = dav.substr(0, end);
+        part.remove_prefix(std::min(part.find_first_not_of(' '), part.size()));
+        if (part == "2")
+            return true;
+        dav.remove_prefix(std::min(end + 1, dav.size()));
+    }
+    return false;
+}
+
 /// Fills in the hashes that decide something.
 void hashWhereNeeded(const SharedPlace& place, ShareSurvey& survey, const ShareSteps& steps) {
     std::vector<std::string> wanted;
@@ -227,6 +242,8 @@ ShareSurvey compareFolder(const ShareRequest& request, const ShareSteps& steps) 
     survey.leftOut = std::move(own.leftOut);
     WebFolder web(rulesOf(request), steps.stop);
     ServerWalk(web, survey, steps).walk();
+    const DavAnswer options = web.askOnce({.address = web.address(), .verb = "OPTIONS"});
+    survey.canLock = options.isDone() && locksBy(options.head.dav);
     survey.asked = web.asked();
     hashWhereNeeded(place, survey, steps);
     noteAgreement(survey);

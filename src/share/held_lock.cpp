@@ -16,7 +16,8 @@ HeldLock::HeldLock(WebFolder& web, const ShareRequest& request, fetch::Address f
                    std::int64_t bytes)
     : m_request(request), m_file(std::move(file)) {
     const std::int64_t seconds = LeastLockSeconds + bytes / SlowestBytesPerSecond;
-    const DavAnswer answer = web.ask(
+    // Without it, what is put is bound to its mark: it is not waited for.
+    const DavAnswer answer = web.askOnce(
         {.address = m_file,
          .verb = "LOCK",
          .body = "<?xml version=\"1.0\" encoding=\"utf-8\"?><d:lockinfo xmlns:d=\"DAV:\">"

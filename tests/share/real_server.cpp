@@ -51,7 +51,7 @@ RealServer::RealServer(const Kind& kind) : m_isSecure(kind.isApache), m_port(fre
         hash.waitForFinished();
         (void)m_folder.add("users", (user.user + ':').toStdString() +
                                         hash.readAllStandardOutput().toStdString());
-        (void)m_folder.add("conf", apacheConfiguration(kind));
+        (void)m_folder.add("conf", apacheConfiguration());
         m_process.start("/usr/sbin/apache2", {"-X", "-d", ".", "-f", configuration});
     } else {
         (void)m_folder.add("users", (user.user + ':' + user.password + '\n').toStdString());
@@ -120,21 +120,19 @@ void RealServer::makeCertificate(const std::string& end) const {
     QSslConfiguration::setDefaultConfiguration(trusting);
 }
 
-std::string RealServer::apacheConfiguration(const Kind& kind) const {
+std::string RealServer::apacheConfiguration() const {
     std::string modules;
     for (const char* name : {"mpm_event", "authn_core", "authn_file", "authz_core", "authz_user",
                              "auth_basic", "dav", "dav_fs", "ssl"})
         modules += fmt::format("LoadModule {0}_module /usr/lib/apache2/modules/mod_{0}.so\n", name);
-    const std::string own = (m_folder.path() / "own").string();
     return modules + (::geteuid() == 0 ? "User nobody\nGroup nogroup\n" : "") +
            fmt::format("ServerName 127.0.0.1\nListen 127.0.0.1:{1}\nPidFile {0}/own/pid\n"
                        "ErrorLog {0}/own/error.log\nDocumentRoot {0}/root\nMutex file:{0}/own\n"
                        "SSLEngine on\nSSLCertificateFile {0}/certificate.pem\n"
-                       "SSLCertificateKeyFile {0}/key.pem\n{2}"
+                       "SSLCertificateKeyFile {0}/key.pem\nDavLockDB {0}/own/locks\n"
                        "<Location /dav>\nDav On\nAuthType Basic\nAuthName files\n"
                        "AuthUserFile {0}/users\nRequire valid-user\n</Location>\n",
-                       m_folder.path().string(), m_port,
-                       kind.hasLocks ? "DavLockDB " + own + "/locks\n" : std::string());
+                       m_folder.path().string(), m_port);
 }
 
 std::string RealServer::lighttpdConfiguration(const Kind& kind) const {
@@ -143,7 +141,8 @@ std::string RealServer::lighttpdConfiguration(const Kind& kind) const {
         "server.document-root = \"{0}/root\"\nserver.bind = \"127.0.0.1\"\nserver.port = {1}\n"
         "server.errorlog = \"{0}/own/error.log\"\nserver.upload-dirs = (\"{0}/own\")\n"
         "webdav.activate = \"enable\"\n"
-        "server.stat-cache-engine = \"disable\"\n{2}"
+        "server.stat-cache-engine = \"disable\"\n"
+        "mimetype.assign = (\"\" => \"application/octet-stream\")\n{2}"
         "auth.backend = \"plain\"\nauth.backend.plain.userfile = \"{0}/users\"\n"
         "auth.require = (\"/dav\" => (\"method\" => \"basic\", \"realm\" => \"files\", "
         "\"require\" => \"valid-user\"))\n",

@@ -16,9 +16,9 @@ class RealServer {
 public:
     struct Kind {
         std::string name;
-        bool isApache = false; ///< with a certificate of its own; the other is plain
-        bool hasLocks = false;
-        std::string end = {}; ///< of the certificate, as "20250101000000Z"; empty for tomorrow
+        bool isApache = false; ///< with locks and a certificate of its own; the other is plain
+        bool hasLocks = false; ///< of the other
+        std::string end = {};  ///< of the certificate, as "20250101000000Z"; empty for tomorrow
     };
 
     explicit RealServer(const Kind& kind);
@@ -39,7 +39,7 @@ public:
 
 private:
     void makeCertificate(const std::string& end) const;
-    [[nodiscard]] std::string apacheConfiguration(const Kind& kind) const;
+    [[nodiscard]] std::string apacheConfiguration() const;
     [[nodiscard]] std::string lighttpdConfiguration(const Kind& kind) const;
 
     TempFolder m_folder;

@@ -177,14 +177,13 @@ TEST_P(RealServers, SayThatThePasswordIsWrongAndMakeAFolderThatIsNotThere) {
 INSTANTIATE_TEST_SUITE_P(Kinds, RealServers,
                          ::testing::Values(RealServer::Kind{"lighttpd"},
                                            RealServer::Kind{"lighttpdWithLocks", false, true},
-                                           RealServer::Kind{"apache", true, false},
-                                           RealServer::Kind{"apacheWithLocks", true, true}),
+                                           RealServer::Kind{"apache", true}),
                          [](const auto& kind) { return kind.param.name; });
 
 TEST(RealServer, WithACertificateThatEndedYesterdayIsNotAsked) {
     const std::string yesterday =
         QDateTime::currentDateTimeUtc().addDays(-1).toString("yyyyMMddHHmmss").toStdString();
-    RealServer server({"apache", true, false, yesterday + 'Z'});
+    RealServer server({"apache", true, true, yesterday + 'Z'});
     ASSERT_TRUE(server.isThere()) << server.faults();
     SharingCoach coach(server.address(), "PC", server.login());
     coach.write("a.kvx", "a");
