@@ -135,6 +135,9 @@ WebFolder::Brought WebFolder::bring(const fetch::Address& file, const std::files
         const auto fault = bringSome(file, part, moved, brought);
         if (!fault)
             return brought;
+        if (!fault->otherSite.empty())
+            throw ShareError("The server leads to another one, " + fault->otherSite +
+                             ", which is not followed.");
         if (fault->isNotThere || fault->wantsLogin || sizeOnDisk(part) <= before)
             throw ShareError(fault->reason, fault->wantsLogin);
     }
