@@ -49,11 +49,12 @@ class KeepingServer : public FaultyServer {
 public:
     void addFile(const QByteArray& name, const QByteArray& content) {
         files[name] = content;
-        add("/dav/" + name, {[this, name](const Asked& asked) { return answerFor(name, asked); }});
+        add("/dav/" + name,
+            {[this, name](const Asked& question) { return answerFor(name, question); }});
     }
     void start() {
-        add("/dav/", {[this](const Asked& asked) {
-                if (!mayAsk(asked))
+        add("/dav/", {[this](const Asked& question) {
+                if (!mayAsk(question))
                     return answer("401 No", "WWW-Authenticate: Basic realm=\"x\"\r\n");
                 QByteArray body = "<d:multistatus xmlns:d=\"DAV:\">" + entry("");
                 for (const auto& [name, content] : files)
@@ -66,9 +67,9 @@ public:
     bool wantsLogin = false;
 
 private:
-    [[nodiscard]] bool mayAsk(const Asked& asked) const {
-        const auto told = asked.headers.find("authorization");
-        return !wantsLogin || (told != asked.headers.end() &&
+    [[nodiscard]] bool mayAsk(const Asked& question) const {
+        const auto told = question.headers.find("authorization");
+        return !wantsLogin || (told != question.headers.end() &&
                                told->second == "Basic " + QByteArray("coach:rapid").toBase64());
     }
     [[nodiscard]] QByteArray entry(const QByteArray& name) const {
@@ -83,13 +84,13 @@ private:
     [[nodiscard]] QByteArray tag(const QByteArray& name) const {
         return "\"" + files.at(name).toHex() + "\"";
     }
-    QByteArray answerFor(const QByteArray& name, const Asked& asked) {
+    QByteArray answerFor(const QByteArray& name, const Asked& question) {
         if (!files.contains(name))
             return answer("404 No");
-        if (asked.verb == "PROPFIND")
+        if (question.verb == "PROPFIND")
             return answer("207 Multi-Status", {},
                           "<d:multistatus xmlns:d=\"DAV:\">" + entry(name) + "</d:multistatus>");
-        if (asked.verb == "DELETE") {
+        if (question.verb == "DELETE") {
             files.erase(name);
             return answer("204 Gone");
         }
