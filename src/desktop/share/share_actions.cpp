@@ -31,7 +31,7 @@ void ShareActions::add(QMenu& menu, const QString& text, const QKeySequence& key
 void ShareActions::makeFileMenu() {
     ShareWindow* const window = &m_window;
     (void)window->makeFileMenu(
-        {tr("&Choose the folder to share…"), [window] { window->chooseFolder(); }});
+        {tr("&Open a folder to share…"), [window] { window->chooseFolder(); }});
 }
 
 void ShareActions::makeShareMenu() {
