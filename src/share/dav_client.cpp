@@ -56,8 +56,10 @@ private:
 
     void give() {
         deleteLater();
+        // Who hears it may take the client along, and this with it.
         const DavClient::Answered answered = std::exchange(m_answered, {});
-        answered(m_answer);
+        const DavAnswer answer = std::move(m_answer);
+        answered(answer);
     }
 
     fetch::WebRules m_rules;
