@@ -49,6 +49,7 @@ int run(int argc, char** argv, const char* version, const Painting* painting) {
     addCompose(program, status, painting);
     addTrack(program, status, painting);
     addFetch(program, status, painting);
+    addShare(program, status, painting);
     addDemo(program, status, painting);
     if (const auto ended = call.run(argc, argv))
         return *ended;

@@ -30,6 +30,7 @@ void addTable(Command program, int& status);
 void addCompose(Command program, int& status, const Painting* painting);
 void addTrack(Command program, int& status, const Painting* painting);
 void addFetch(Command program, int& status, const Painting* painting);
+void addShare(Command program, int& status, const Painting* painting);
 void addDemo(Command program, int& status, const Painting* painting);
 
 } // namespace kavela::cli

@@ -39,6 +39,17 @@ struct TrackCall {
     std::string output;            ///< file to write
 };
 
+/// What is shared by a call, and how.
+struct FolderShareCall {
+    std::string folder;
+    std::string to;         ///< the address; empty for the one that was used last
+    std::string user;       ///< empty where the server asks for none
+    bool showsOnly = false; ///< nothing is to be moved
+    bool isAgreed = false;  ///< nobody is asked
+    bool deletes = false;   ///< what was deleted on one side may be deleted on the other
+    bool isJson = false;
+};
+
 /// What commands do with libraries that take longer to load than a table takes to print: those that
 /// paint, make films and keep preferences. `kavela` does without them; a command that needs this
 /// asks for it with `neededIf` before it prints or writes anything, and `kavela-paint` takes over.
@@ -99,6 +110,10 @@ public:
     /// Follows something through a film and writes its path as a table. Returns the exit status,
     /// after a message where that is not 0.
     [[nodiscard]] virtual int trackFilm(const TrackCall& call) const = 0;
+
+    /// Prints what differs between a folder and a server, and shares it where that is wanted.
+    /// Returns the exit status.
+    [[nodiscard]] virtual int shareFolder(const FolderShareCall& call) const = 0;
 };
 
 /// Thrown by a command of a program without painting: the call is for `kavela-paint`.

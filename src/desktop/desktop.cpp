@@ -11,6 +11,7 @@
 #include "desktop/race/race_window.h"
 #include "desktop/sessions/session_imports.h"
 #include "desktop/sessions/session_window.h"
+#include "desktop/share/share_window.h"
 #include "desktop/shell/bring_to_front.h"
 #include "desktop/shell/disk_worker.h"
 #include "desktop/shell/edited_file.h"
@@ -283,6 +284,10 @@ bool Desktop::openIn(const ToolKind& tool, const QString& path) {
         openSeason({path});
         return true;
     }
+    if (tool.opens == OpensAs::Share) {
+        openShare(path);
+        return true;
+    }
     const QString file = canonicalPath(path);
     if (m_opening.contains(file) || raiseEditorOf(path))
         return true;
@@ -437,6 +442,17 @@ void Desktop::openFetch() {
         window = new FetchWindow(m_workspace);
         show(window);
     }
+    bringToFront(*window);
+}
+
+void Desktop::openShare(const QString& folder) {
+    ShareWindow* window = windowsOf<ShareWindow>().value(0);
+    if (!window) {
+        window = new ShareWindow(m_workspace);
+        show(window);
+    }
+    if (!folder.isEmpty())
+        (void)window->open(folder);
     bringToFront(*window);
 }
 

@@ -80,6 +80,8 @@ public:
     void openFind(const QStringList& paths) { m_analysis.openFind(paths); }
     /// Brings the window that fetches films to the front.
     void openFetch();
+    /// Brings the window that shares folders to the front, with this folder where one is given.
+    void openShare(const QString& folder);
     /// Shows the films of a folder, or of a film's folder with that film in front; the window that
     /// has the folder comes to the front.
     void openFilms(const QString& path);

@@ -32,6 +32,7 @@ enum class OpensAs {
     Penalties,   ///< split files and folders, where the coach asks for it: none is known by content
     Season,      ///< a team with its races, where the coach asks for it
     Fetch,       ///< films that are fetched, which opens sources and lists of its own
+    Share,       ///< a folder, where the coach asks for it: by content it is to be timed
     Comparison, ///< of films
     Tracking,   ///< the path of something on a film
     NotReady

@@ -22,6 +22,8 @@ void ToolChoice::choose(const ToolKind& tool) const {
             m_program.openSeason({});
         else if (tool.opens == OpensAs::Fetch)
             m_program.openFetch();
+        else if (tool.opens == OpensAs::Share)
+            m_program.openShare({});
         else
             m_program.openFind({});
         return;

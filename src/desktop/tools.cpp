@@ -14,6 +14,7 @@
 #include "desktop/selection/selection_window.h"
 #include "desktop/sessions/session_window.h"
 #include "desktop/sessions/test_session_window.h"
+#include "desktop/share/share_window.h"
 #include "desktop/tables/tables_window.h"
 #include "desktop/taking/taking_window.h"
 #include "desktop/team/team_window.h"
@@ -195,6 +196,14 @@ std::vector<ToolKind> makeTools() {
          Choice::None,
          {tr("Open a source of films"), tr("Sources of films"), "json", {}},
          makeReader<FetchWindow>},
+        {"share",
+         OpensAs::Share,
+         tr("Share folders"),
+         tr("A folder the same here and on the team's own server, nothing overwritten."),
+         "share",
+         Choice::None,
+         {tr("Share a folder"), tr("Folders"), "*", {}},
+         makeReader<ShareWindow>},
         {"testsession",
          OpensAs::TestSession,
          tr("Test session"),

@@ -145,7 +145,7 @@ void FileTransfer::takeBytes(const QByteArray& bytes) {
     // Unbuffered by itself: what a full disk did not take is not counted as held.
     if (m_file.write(bytes) != bytes.size() || !m_file.flush()) {
         const std::string reason = m_file.errorString().toStdString();
-        fail({"The disk does not take the film: " + reason});
+        fail({"The disk does not take the file: " + reason});
         return;
     }
     m_held.bytes += bytes.size();
@@ -158,7 +158,7 @@ void FileTransfer::takeEnd(const WebEnd& end) {
     else if (end.kind == WebEnd::Kind::Broken)
         retry(end.reason);
     else if (m_held.note.size > 0 && m_held.bytes < m_held.note.size)
-        retry("The film broke off before its end.");
+        retry("The file broke off before its end.");
     else
         finishFile();
 }
@@ -175,7 +175,7 @@ void FileTransfer::finishFile() {
     if (isFlushed)
         emit whole();
     else
-        fail({"The disk does not take the film."});
+        fail({"The disk does not take the file."});
 }
 
 void FileTransfer::retry(const std::string& reason,

@@ -41,6 +41,8 @@ public:
     void dropPart();
 
     [[nodiscard]] const std::filesystem::path& part() const { return m_part; }
+    /// What is known of the state that came.
+    [[nodiscard]] const filmpart001& note() const { return m_held.note; }
     /// The SHA-256 that the server told of the file; empty for none.
     [[nodiscard]] const std::string& digest() const { return m_digest; }
 

@@ -2,11 +2,11 @@
 
 #include "common/folded_text.h"
 #include "common/json_document.h"
+#include "fetch/dav_listing.h"
 #include "fetch/html_links.h"
 #include "fetch/playlist.h"
 #include "splittaking/video_names.h"
 
-#include <pugixml.hpp>
 #include <simdjson.h>
 
 #include <algorithm>
@@ -87,46 +87,10 @@ void readJsonListing(std::string_view body, FoundFilms& found) {
     }
 }
 
-std::string_view davName(const pugi::xml_node& node) {
-    const std::string_view name = node.name();
-    const std::size_t colon = name.find(':');
-    return colon == std::string_view::npos ? name : name.substr(colon + 1);
-}
-
-/// What WebDAV tells of one file.
-void takeResponse(const pugi::xml_node& response, FoundFilms& found) {
-    std::string_view link;
-    std::optional<std::int64_t> size;
-    for (const pugi::xml_node part : response) {
-        if (davName(part) == "href")
-            link = part.child_value();
-        if (davName(part) != "propstat")
-            continue;
-        for (const pugi::xml_node properties : part)
-            for (const pugi::xml_node property : properties) {
-                const std::string_view text = property.child_value();
-                std::int64_t bytes = -1;
-                if (davName(property) == "getcontentlength" &&
-                    std::from_chars(text.data(), text.data() + text.size(), bytes).ec ==
-                        std::errc() &&
-                    bytes >= 0)
-                    size = bytes;
-            }
-    }
-    if (!link.empty() && !link.ends_with('/')) // one with a slash is a folder
-        found.take(link, size);
-}
-
-void readWebDav(std::string_view body, FoundFilms& found) {
-    pugi::xml_document document;
-    const auto result = document.load_buffer(body.data(), body.size());
-    const pugi::xml_node root = document.document_element();
-    if (!result || davName(root) != "multistatus")
-        throw ListingError("The answer is no WebDAV folder" +
-                           (result ? std::string(".") : std::string(": ") + result.description()));
-    for (const pugi::xml_node response : root)
-        if (davName(response) == "response")
-            takeResponse(response, found);
+void readWebDav(std::string_view body, const Address& base, FoundFilms& found) {
+    for (const DavEntry& entry : entriesOfDav(body, base))
+        if (!entry.isFolder)
+            found.take(entry.address.text(), entry.size);
 }
 
 /// A date "2026-05-12" is no three bibs; 0 where none begins here, else its length.
@@ -188,7 +152,7 @@ std::vector<ListedFilm> filmsInListing(ListingKind kind, std::string_view body,
     if (kind == ListingKind::Json)
         readJsonListing(body, found);
     else if (kind == ListingKind::WebDav)
-        readWebDav(body, found);
+        readWebDav(body, base, found);
     else
         for (const PlaylistEntry& entry : entriesOfPlaylist(body))
             found.take(entry.link, std::nullopt, entry.title);

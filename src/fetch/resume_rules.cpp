@@ -87,7 +87,7 @@ AnswerPlan planOfRest(const HeldPart& held, bool wasRest, const AnswerHead& head
     const bool isOther = isOtherState(head, held.note.validator);
     const bool hasOtherSize = range->size && held.note.size > 0 && *range->size != held.note.size;
     if (isOther || hasOtherSize)
-        return {.step = Step::AskWhole, .reason = "The film was changed meanwhile."};
+        return {.step = Step::AskWhole, .reason = "The file was changed meanwhile."};
     if (range->first != held.bytes)
         return {.step = Step::AskWhole,
                 .reason = "The server went on from another place than it was asked to."};
@@ -100,7 +100,7 @@ AnswerPlan planOfRest(const HeldPart& held, bool wasRest, const AnswerHead& head
 AnswerPlan planOfWhole(const Address& address, const AnswerHead& head) {
     if (!head.contentEncoding.empty() && head.contentEncoding != "identity")
         return {.step = AnswerPlan::Step::Refuse,
-                .reason = "The server packs the film in a way that was not asked for."};
+                .reason = "The server packs the file in a way that was not asked for."};
     return {.step = AnswerPlan::Step::Start,
             .note = {address.text(), strongValidator(head), announcedSize(head)}};
 }
@@ -125,7 +125,7 @@ AnswerPlan planOfAnswer(const HeldPart& held, bool wasRest, const Address& addre
         return planOfRest(held, wasRest, head);
     case 416:
         if (wasRest)
-            return {.step = Step::AskWhole, .reason = "The server has no more of the film."};
+            return {.step = Step::AskWhole, .reason = "The server has no more of the file."};
         return {.reason = answered + '.'};
     case 404:
     case 410:

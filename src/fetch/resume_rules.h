@@ -52,6 +52,8 @@ struct AnswerHead {
     std::string retryAfter = {};
     std::string digest = {}; ///< Repr-Digest
     std::string contentType = {};
+    std::string dav = {};       ///< what a WebDAV server can do: "1, 2"
+    std::string lockToken = {}; ///< in its angle brackets
 };
 
 struct AnswerPlan {

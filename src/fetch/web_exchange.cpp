@@ -1,7 +1,9 @@
 #include "fetch/web_exchange.h"
 
+#include <QIODevice>
 #include <QNetworkAccessManager>
 #include <QNetworkReply>
+#include <QSslCertificate>
 #include <QSslError>
 #include <QUrl>
 
@@ -27,7 +29,8 @@ AnswerHead headOf(const QNetworkReply& reply) {
             header("Content-Length"), header("Content-Encoding"),
             header("ETag"),           header("Last-Modified"),
             header("Retry-After"),    header("Repr-Digest"),
-            header("Content-Type")};
+            header("Content-Type"),   header("DAV"),
+            header("Lock-Token")};
 }
 
 std::string brokenReason(const QNetworkReply& reply, bool hasHead) {
@@ -42,6 +45,20 @@ std::string brokenReason(const QNetworkReply& reply, bool hasHead) {
     default:
         return hasHead ? "The connection broke off." : "The server cannot be reached.";
     }
+}
+
+/// Whom a certificate names as its issuer, as people would write it.
+std::string issuerOf(const QSslCertificate& certificate) {
+    for (const auto name : {QSslCertificate::Organization, QSslCertificate::CommonName})
+        if (const QStringList known = certificate.issuerInfo(name); !known.isEmpty())
+            return known.constFirst().toStdString();
+    return "an unknown issuer";
+}
+
+std::string untrustedReason(const QSslError& fault) {
+    return "The certificate of the server is not trusted, so that nothing was sent. It was issued "
+           "by “" +
+           issuerOf(fault.certificate()) + "”: " + fault.errorString().toStdString() + '.';
 }
 
 } // namespace
@@ -98,15 +115,29 @@ QNetworkRequest WebExchange::request() const {
 void WebExchange::send() {
     m_hasHead = false;
     m_untrusted.clear();
-    m_reply = m_network.sendCustomRequest(request(), m_ask.verb, m_ask.body);
+    m_reply = sentRequest();
     m_reply->setReadBufferSize(MostBytesAhead);
     connect(m_reply, &QNetworkReply::sslErrors, this, [this](const QList<QSslError>& faults) {
-        m_untrusted = "The certificate of the server is not trusted: " +
-                      faults.constFirst().errorString().toStdString() + '.';
+        m_untrusted = untrustedReason(faults.constFirst());
     });
+    connect(m_reply, &QNetworkReply::uploadProgress, this, &WebExchange::sent);
     connect(m_reply, &QNetworkReply::metaDataChanged, this, &WebExchange::takeHead);
     connect(m_reply, &QNetworkReply::readyRead, this, &WebExchange::takeBytes);
     connect(m_reply, &QNetworkReply::finished, this, &WebExchange::takeEnd);
+}
+
+QNetworkReply* WebExchange::sentRequest() {
+    // Of an answer without content the network would wait for some, did it not know the question.
+    if (m_ask.verb == "HEAD")
+        return m_network.head(request());
+    if (!m_ask.content)
+        return m_network.sendCustomRequest(request(), m_ask.verb, m_ask.body);
+    m_ask.content->seek(0); // a redirect may have taken it
+    QNetworkReply* const reply =
+        m_network.sendCustomRequest(request(), m_ask.verb, m_ask.content.get());
+    // It reads of the content as long as it is there, which may be longer than this.
+    connect(reply, &QObject::destroyed, [content = m_ask.content] {});
+    return reply;
 }
 
 void WebExchange::takeHead() {

@@ -7,10 +7,12 @@
 #include <QNetworkRequest>
 #include <QObject>
 
+#include <memory>
 #include <string>
 #include <utility>
 #include <vector>
 
+class QIODevice;
 class QNetworkAccessManager;
 class QNetworkReply;
 
@@ -22,6 +24,8 @@ struct WebAsk {
     QByteArray verb = "GET";
     QByteArray body = {};
     std::vector<std::pair<QByteArray, QByteArray>> headers = {};
+    /// Sent in place of the body where there is one: open, from its beginning.
+    std::shared_ptr<QIODevice> content = nullptr;
 };
 
 /// How an exchange ended.
@@ -56,10 +60,13 @@ public:
 signals:
     void answered(const kavela::fetch::AnswerHead& head);
     void received(const QByteArray& bytes);
+    /// How much of what is asked with is on its way.
+    void sent(qint64 bytes, qint64 all);
     void ended(const kavela::fetch::WebEnd& end);
 
 private:
     void send();
+    [[nodiscard]] QNetworkReply* sentRequest();
     [[nodiscard]] QNetworkRequest request() const;
     void takeHead();
     void follow();

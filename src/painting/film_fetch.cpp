@@ -6,19 +6,15 @@
 #include "fetch/bib_list.h"
 #include "fetch/fetch_job.h"
 #include "fetch/plan_maker.h"
-#include "fetch/secret_store.h"
+#include "painting/console_login.h"
 
-#include <QCoreApplication>
 #include <QEventLoop>
 #include <QTimer>
 
 #include <fmt/format.h>
-#include <termios.h>
 #include <unistd.h>
 
 #include <algorithm>
-#include <array>
-#include <iostream>
 #include <iterator>
 
 namespace kavela::painting {
@@ -27,58 +23,6 @@ namespace {
 
 using fetch::FilmResult;
 using fetch::PlannedFilm;
-
-/// The application object that the event loop asks for; without windows.
-class ConsoleApplication {
-public:
-    ConsoleApplication() : m_application(m_count, m_pointers.data()) {}
-
-private:
-    std::string m_name = "kavela";
-    std::array<char*, 2> m_pointers{m_name.data(), nullptr};
-    int m_count = 1;
-    QCoreApplication m_application;
-};
-
-/// A line from the terminal that does not show what is typed, whatever ends the typing.
-std::string typedSecret(const std::string& question) {
-    std::cerr << question << std::flush;
-    termios shown{};
-    const bool isTerminal = ::tcgetattr(STDIN_FILENO, &shown) == 0;
-    termios hidden = shown;
-    hidden.c_lflag &= ~static_cast<tcflag_t>(ECHO);
-    if (isTerminal)
-        ::tcsetattr(STDIN_FILENO, TCSAFLUSH, &hidden);
-    std::string line;
-    std::getline(std::cin, line);
-    if (isTerminal)
-        ::tcsetattr(STDIN_FILENO, TCSAFLUSH, &shown);
-    std::cerr << '\n';
-    return line;
-}
-
-bool isTypedYes(const std::string& question) {
-    std::cerr << question << " [y/N] " << std::flush;
-    std::string line;
-    std::getline(std::cin, line);
-    return line == "y" || line == "Y" || line == "yes";
-}
-
-/// The login of a user: what the store keeps of them, else what is typed.
-fetch::WebLogin loginOf(const std::string& user, const fetch::Address& source) {
-    std::optional<fetch::WebLogin> kept;
-    fetch::SecretStore store;
-    QEventLoop loop;
-    store.find(source, [&](const std::optional<fetch::WebLogin>& found) {
-        kept = found;
-        loop.quit();
-    });
-    loop.exec();
-    if (kept && kept->user.toStdString() == user)
-        return *kept;
-    const std::string password = typedSecret("Password of " + user + " on " + source.site() + ": ");
-    return {QString::fromStdString(user), QString::fromStdString(password)};
-}
 
 fetch::MadePlan madePlan(const fetch::filmsource001& source, std::vector<fetch::FetchRun> runs,
                          const fetch::WebRules& rules) {

@@ -3,6 +3,7 @@
 #include "painting/composed_film_file.h"
 #include "painting/film_fetch.h"
 #include "painting/film_tracking.h"
+#include "painting/folder_share.h"
 #include "painting/offscreen_application.h"
 #include "painting/report_files.h"
 #include "painting/season_film_files.h"
@@ -84,6 +85,10 @@ int OwnPainting::fetchFilms(const cli::FilmFetchCall& call) const {
 
 int OwnPainting::trackFilm(const cli::TrackCall& call) const {
     return painting::trackFilm(call);
+}
+
+int OwnPainting::shareFolder(const cli::FolderShareCall& call) const {
+    return painting::shareFolder(call);
 }
 
 } // namespace kavela::painting

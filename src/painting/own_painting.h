@@ -26,6 +26,7 @@ public:
                                   const std::filesystem::path& output) const override;
     [[nodiscard]] int fetchFilms(const cli::FilmFetchCall& call) const override;
     [[nodiscard]] int trackFilm(const cli::TrackCall& call) const override;
+    [[nodiscard]] int shareFolder(const cli::FolderShareCall& call) const override;
 };
 
 } // namespace kavela::painting

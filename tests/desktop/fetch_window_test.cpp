@@ -2,8 +2,8 @@
 
 #include "common/recorders.h"
 #include "common/temp_folder.h"
-#include "desktop/fetch/login_dialog.h"
 #include "desktop/fetch/site_list.h"
+#include "desktop/shell/login_dialog.h"
 #include "desktop/shell/workspace.h"
 #include "fetch/faulty_server.h"
 #include "fetch/test_films.h"

@@ -2,9 +2,9 @@
 
 #include "common/error.h"
 #include "desktop/fetch/fetch_actions.h"
-#include "desktop/fetch/login_dialog.h"
 #include "desktop/fetch/site_list.h"
 #include "desktop/shell/fault_label.h"
+#include "desktop/shell/login_dialog.h"
 #include "desktop/shell/qt_text.h"
 #include "desktop/shell/scroll_page.h"
 #include "desktop/shell/tables/column_table.h"

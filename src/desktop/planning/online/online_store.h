@@ -1,6 +1,7 @@
 #pragma once
 
-#include <QNetworkAccessManager>
+#include "share/dav_client.h"
+
 #include <QUrl>
 
 #include <functional>
@@ -33,13 +34,13 @@ struct OnlineCondition {
     bool isNew = false; ///< none: there must be no such file yet
 };
 
-/// Files of shared plannings on such a server. Everything is asynchronous; an answer that does not
-/// come within half a minute is a failure.
+/// Files of shared plannings on such a server, by the client that shares folders. Everything is
+/// asynchronous; an answer that does not come within half a minute is a failure.
 class OnlineStore : public QObject {
     Q_OBJECT
 
 public:
-    explicit OnlineStore(QObject* parent = nullptr);
+    explicit OnlineStore(QObject* parent = nullptr) : QObject(parent) {}
 
     struct Upload {
         QString name; ///< within the folder
@@ -54,12 +55,10 @@ public:
              const Answered& answered);
 
 private:
-    [[nodiscard]] static QNetworkRequest request(const OnlineAddress& address, const QString& name);
     /// Sends nothing to an address that has a fault.
-    void send(const OnlineAddress& address, const std::function<QNetworkReply*()>& sent,
-              const Answered& answered);
+    void send(const OnlineAddress& address, fetch::WebAsk ask, const Answered& answered);
 
-    QNetworkAccessManager m_network;
+    share::DavClient m_client;
 };
 
 } // namespace kavela::desktop

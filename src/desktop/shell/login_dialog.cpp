@@ -1,4 +1,4 @@
-#include "desktop/fetch/login_dialog.h"
+#include "desktop/shell/login_dialog.h"
 
 #include "desktop/shell/theme.h"
 
