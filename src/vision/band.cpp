@@ -91,8 +91,8 @@ std::vector<std::uint8_t> cutBand(const BandShape& shape, const HalfPlanes& pict
     return band;
 }
 
-std::vector<std::uint8_t>
-medianBand(const BandShape& shape, std::span<const std::vector<std::uint8_t>* const> bands) {
+std::vector<std::uint8_t> medianBand(const BandShape& shape,
+                                     std::span<const std::vector<std::uint8_t>* const> bands) {
     if (bands.empty())
         throw std::invalid_argument("a median of no bands");
     std::vector<std::uint8_t> median(shape.samples());

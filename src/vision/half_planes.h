@@ -18,7 +18,10 @@ struct HalfPlanes {
     HalfPlanes() = default;
     /// A grey picture of a size.
     HalfPlanes(int wide, int high)
-        : width(wide), height(high), luma(samples(), 128), blue(samples(), 128),
+        : width(wide),
+          height(high),
+          luma(samples(), 128),
+          blue(samples(), 128),
           red(samples(), 128) {}
 
     [[nodiscard]] std::size_t samples() const {

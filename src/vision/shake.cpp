@@ -24,7 +24,7 @@ bool takePattern(const HalfPlanes& picture, int left, int top, std::vector<float
     auto out = pattern.begin();
     for (int y = top; y < top + ShakeBlock; ++y)
         for (int x = left; x < left + ShakeBlock; ++x)
-            sum += *out++ = picture.luma[picture.at(x, y)];
+            sum += * out++ = picture.luma[picture.at(x, y)];
     const float mean = sum / float(pattern.size());
     float squares = 0;
     for (float& value : pattern) {
@@ -66,8 +66,10 @@ double cornerStrength(const HalfPlanes& picture, int left, int top) {
     double xy = 0;
     for (int y = top + 1; y < top + ShakeBlock - 1; ++y)
         for (int x = left + 1; x < left + ShakeBlock - 1; ++x) {
-            const double dx = picture.luma[picture.at(x + 1, y)] - picture.luma[picture.at(x - 1, y)];
-            const double dy = picture.luma[picture.at(x, y + 1)] - picture.luma[picture.at(x, y - 1)];
+            const double dx =
+                picture.luma[picture.at(x + 1, y)] - picture.luma[picture.at(x - 1, y)];
+            const double dy =
+                picture.luma[picture.at(x, y + 1)] - picture.luma[picture.at(x, y - 1)];
             xx += dx * dx;
             yy += dy * dy;
             xy += dx * dy;
@@ -127,10 +129,10 @@ ShakeMeter::Match ShakeMeter::matchOf(const Block& block, const HalfPlanes& pict
                 bestX = x;
                 bestY = y;
             }
-    best.shift.x = bestX + parabolaTop(likeness(bestX - 1, bestY), best.likeness,
-                                       likeness(bestX + 1, bestY));
-    best.shift.y = bestY + parabolaTop(likeness(bestX, bestY - 1), best.likeness,
-                                       likeness(bestX, bestY + 1));
+    best.shift.x =
+        bestX + parabolaTop(likeness(bestX - 1, bestY), best.likeness, likeness(bestX + 1, bestY));
+    best.shift.y =
+        bestY + parabolaTop(likeness(bestX, bestY - 1), best.likeness, likeness(bestX, bestY + 1));
     best.shift.isKnown = best.likeness > LeastLikeness;
     return best;
 }
@@ -149,7 +151,8 @@ void ShakeMeter::chooseBlocks(std::span<const HalfPlanes> pictures, const HalfPl
     constexpr std::size_t MostTried = 60;
     constexpr double LeastStrength = 3'000;
     for (const Corner& corner : corners) {
-        if (m_blocks.size() >= MostShakeBlocks || &corner - corners.data() >= std::ptrdiff_t(MostTried))
+        if (m_blocks.size() >= MostShakeBlocks ||
+            &corner - corners.data() >= std::ptrdiff_t(MostTried))
             return;
         const bool isApart = std::ranges::none_of(m_blocks, [&](const Block& block) {
             return std::abs(block.x - corner.x) < ShakeBlock &&
@@ -170,8 +173,8 @@ void ShakeMeter::chooseBlocks(std::span<const HalfPlanes> pictures, const HalfPl
     }
 }
 
-/// A tripod keeps the picture within a few pixels. Blocks of the first picture are looked for in the
-/// others, since the median of pictures that moved has no blocks at all.
+/// A tripod keeps the picture within a few pixels. Blocks of the first picture are looked for in
+/// the others, since the median of pictures that moved has no blocks at all.
 void ShakeMeter::judgeHold(std::span<const HalfPlanes> pictures) {
     if (m_blocks.size() >= FewestShakeBlocks)
         return;
@@ -188,8 +191,7 @@ void ShakeMeter::judgeHold(std::span<const HalfPlanes> pictures) {
                 !takePattern(first, x, y, block.pattern))
                 continue;
             ++corners;
-            const Match match =
-                matchOf(block, pictures[pictures.size() / 2], 0, 0, ShakeReach / 2);
+            const Match match = matchOf(block, pictures[pictures.size() / 2], 0, 0, ShakeReach / 2);
             still += match.shift.isKnown ? 1 : 0;
         }
     m_isHandHeld = corners >= FewestCorners && still * 4 < corners;

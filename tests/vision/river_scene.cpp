@@ -84,7 +84,10 @@ double between(double part, double low, double high) {
 class RiverScene::Canvas {
 public:
     Canvas(int width, int height, double shiftX, double shiftY)
-        : m_width(width), m_height(height), m_shiftX(shiftX), m_shiftY(shiftY),
+        : m_width(width),
+          m_height(height),
+          m_shiftX(shiftX),
+          m_shiftY(shiftY),
           m_pixels(std::size_t(width) * std::size_t(height)) {}
 
     [[nodiscard]] int width() const { return m_width; }
@@ -173,8 +176,8 @@ RiverScene::RiverScene(const RiverRecipe& recipe) : m_recipe(recipe) {
     for (int i = 0; i < recipe.boats; ++i) {
         const auto number = static_cast<std::uint32_t>(i) * 16U;
         const double crossing = 2 + room * (i + 0.2 + 0.6 * chance(seed, number));
-        m_boats.push_back(
-            boat(crossing, between(chance(seed, number + 1), recipe.slowest, recipe.fastest), number));
+        m_boats.push_back(boat(
+            crossing, between(chance(seed, number + 1), recipe.slowest, recipe.fastest), number));
     }
     for (int i = 0; i < recipe.upstreamBoats; ++i) {
         const auto number = 4000U + static_cast<std::uint32_t>(i) * 16U;
@@ -183,7 +186,8 @@ RiverScene::RiverScene(const RiverRecipe& recipe) : m_recipe(recipe) {
     }
     for (int i = 0; i < recipe.logs; ++i) {
         const auto number = 8000U + static_cast<std::uint32_t>(i) * 16U;
-        Mover log = boat(between(chance(seed, number), 1, recipe.seconds - 1), recipe.current, number);
+        Mover log =
+            boat(between(chance(seed, number), 1, recipe.seconds - 1), recipe.current, number);
         log.length = between(chance(seed, number + 9), 20, 45);
         log.surge = 0;
         log.hull = {70, 55, 40};
@@ -202,8 +206,12 @@ double RiverScene::secondsOf(std::int64_t frame) const {
 
 RiverScene::Mover RiverScene::boat(double crossing, double speed, std::uint32_t number) const {
     const auto part = [&](std::uint32_t i) { return chance(m_recipe.seed, number + i); };
-    constexpr std::array<Colour, 6> Hulls{{{225, 225, 225}, {200, 40, 40}, {235, 190, 40},
-                                           {40, 70, 190}, {240, 120, 30}, {30, 30, 34}}};
+    constexpr std::array<Colour, 6> Hulls{{{225, 225, 225},
+                                           {200, 40, 40},
+                                           {235, 190, 40},
+                                           {40, 70, 190},
+                                           {240, 120, 30},
+                                           {30, 30, 34}}};
     Mover made;
     made.crossing = crossing;
     made.speed = speed;
@@ -215,7 +223,8 @@ RiverScene::Mover RiverScene::boat(double crossing, double speed, std::uint32_t 
     made.length = m_recipe.boatLength;
     made.hull = Hulls[static_cast<std::size_t>(part(7) * Hulls.size())];
     made.deck = Hulls[static_cast<std::size_t>(part(8) * Hulls.size())];
-    made.vest = {between(part(10), 30, 240), between(part(11), 30, 200), between(part(12), 30, 240)};
+    made.vest = {between(part(10), 30, 240), between(part(11), 30, 200),
+                 between(part(12), 30, 240)};
     if (m_recipe.hasDarkHulls) {
         made.hull = {between(part(7), 52, 66), between(part(8), 66, 80), between(part(9), 64, 80)};
         made.deck = made.hull;
@@ -266,12 +275,13 @@ void RiverScene::settleTruth() {
 }
 
 double RiverScene::lightAt(double seconds) const {
-    const double cloud = m_recipe.clouds * std::sin(Turn * (seconds / 17 + chance(m_recipe.seed, 77)));
+    const double cloud =
+        m_recipe.clouds * std::sin(Turn * (seconds / 17 + chance(m_recipe.seed, 77)));
     const auto step = static_cast<std::uint32_t>(seconds / 3.3);
     const double into = std::min((seconds / 3.3 - step) * 3.3 / 0.4, 1.0); // it takes 0.4 s
-    const double exposure = m_recipe.exposureStep *
-                            between(into, chance(m_recipe.seed, 900U + step) - 0.5,
-                                    chance(m_recipe.seed, 901U + step) - 0.5);
+    const double exposure =
+        m_recipe.exposureStep * between(into, chance(m_recipe.seed, 900U + step) - 0.5,
+                                        chance(m_recipe.seed, 901U + step) - 0.5);
     return m_recipe.light * (1 + cloud) * (1 + exposure);
 }
 
@@ -307,10 +317,11 @@ void RiverScene::drawWater(Canvas& canvas, double seconds, std::int64_t frame) c
             const double drift = fixedX - flow * shear;
             const float wave = ground.middle.at(drift, y + 31 * age) * (1 - young) +
                                ground.middle.at(drift, y + 31 * (age + 1)) * young;
-            const float ripple = ground.small.at(drift * 0.9 + 17 * std::sin(seconds), y * 2 + 13 * age) *
-                                     (1 - young) +
-                                 ground.small.at(drift * 0.9 + 17 * std::sin(seconds), y * 2 + 13 * age + 13) *
-                                     young;
+            const float ripple =
+                ground.small.at(drift * 0.9 + 17 * std::sin(seconds), y * 2 + 13 * age) *
+                    (1 - young) +
+                ground.small.at(drift * 0.9 + 17 * std::sin(seconds), y * 2 + 13 * age + 13) *
+                    young;
             const float standing = ground.large.at(fixedX, y * 2);
             const float froth = 0.55F * wave + 0.45F * ripple + 0.5F * standing;
             double grey = 16 * wave + 9 * ripple;
@@ -365,9 +376,10 @@ void RiverScene::drawPaddler(Canvas& canvas, const Mover& mover, double seconds)
     canvas.spot(body + lean, row - 18 * scale, 4 * scale, 4 * scale, mover.deck);
     const double reach = 26 * scale;
     const double angle = std::sin(stroke) * 0.9;
-    canvas.rod(body + lean - reach * std::cos(angle), row - 9 * scale - reach * 0.5 * std::sin(angle),
-               body + lean + reach * std::cos(angle), row - 9 * scale + reach * 0.5 * std::sin(angle),
-               0.9 * scale, {30, 30, 30});
+    canvas.rod(body + lean - reach * std::cos(angle),
+               row - 9 * scale - reach * 0.5 * std::sin(angle),
+               body + lean + reach * std::cos(angle),
+               row - 9 * scale + reach * 0.5 * std::sin(angle), 0.9 * scale, {30, 30, 30});
 }
 
 void RiverScene::drawBoat(Canvas& canvas, const Mover& mover, double seconds) const {
@@ -413,7 +425,9 @@ void RiverScene::drawOthers(Canvas& canvas, double seconds, std::int64_t frame) 
     for (int i = 0; i < m_recipe.spectators; ++i) {
         const auto number = 500U + static_cast<std::uint32_t>(i);
         const double speed = between(chance(m_recipe.seed, number), -35, 35);
-        const double x = std::fmod(chance(m_recipe.seed, number + 50U) * 600 + speed * seconds + 6000, 600) - 100;
+        const double x =
+            std::fmod(chance(m_recipe.seed, number + 50U) * 600 + speed * seconds + 6000, 600) -
+            100;
         const double y = m_recipe.height * 0.17;
         canvas.spot(x, y, 4, 13, {60 + 100 * chance(number, 3), 60, 110});
         canvas.spot(x, y - 15, 3, 3, {190, 150, 130});
@@ -422,8 +436,9 @@ void RiverScene::drawOthers(Canvas& canvas, double seconds, std::int64_t frame) 
         const auto number = 700U + static_cast<std::uint32_t>(i);
         const double start = chance(m_recipe.seed, number) * m_recipe.seconds;
         const double x = (seconds - start) * between(chance(m_recipe.seed, number + 20U), 150, 320);
-        canvas.spot(x, m_recipe.height * between(chance(m_recipe.seed, number + 40U), 0.3, 0.7) +
-                           4 * std::sin(seconds * 3),
+        canvas.spot(x,
+                    m_recipe.height * between(chance(m_recipe.seed, number + 40U), 0.3, 0.7) +
+                        4 * std::sin(seconds * 3),
                     5, 2 + std::sin(seconds * 30), {235, 235, 235});
     }
     for (int i = 0; i < int(m_recipe.rain); ++i) {
