@@ -75,6 +75,17 @@ BandShape bandShape(const SlitLine& halfLine, double step) {
     return shape;
 }
 
+FittedBand fittedBand(const SlitLine& halfLine, double wide, double high) {
+    constexpr double MostColumns = 96;
+    constexpr double MostRows = 220;
+    const SlitPoint way = crossingDirection(halfLine);
+    const bool isLevel = std::abs(way.x) >= std::abs(way.y);
+    const double length = isLevel ? wide : high;
+    const double height = isLevel ? high : wide;
+    const double step = std::max({1.0, length / MostColumns, lengthOf(halfLine) / MostRows});
+    return {bandShape(halfLine, step), {length / step, height / step}};
+}
+
 std::vector<std::uint8_t> cutBand(const BandShape& shape, const HalfPlanes& picture,
                                   SlitPoint shift) {
     std::vector<std::uint8_t> band(shape.samples());

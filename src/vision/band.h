@@ -35,6 +35,22 @@ struct BandShape {
     }
 };
 
+/// How large a boat is in a band.
+struct BandBoat {
+    double length = 0; ///< columns
+    double height = 0; ///< rows, with its paddler
+};
+
+/// A band made to measure for boats of a size.
+struct FittedBand {
+    BandShape shape;
+    BandBoat boat;
+};
+
+/// The band for a line and for boats `wide` × `high`, all in half pixels: coarser than they are
+/// where a boat or the line is so long that finer would show nothing more.
+[[nodiscard]] FittedBand fittedBand(const SlitLine& halfLine, double wide, double high);
+
 /// The shape for a line in half pixels. `step` is the distance of rows and of columns, at least 1.
 [[nodiscard]] BandShape bandShape(const SlitLine& halfLine, double step);
 

@@ -16,27 +16,37 @@ struct BowPart {
     int lastRow;
 };
 
-/// How sharp a motion shows what is in a part: what is averaged along the wrong way is dull.
+/// How sharp a motion shows the edges in a part: averaged along another way they become dull, also
+/// those of a hull that is all of one colour.
 double sharpness(const BandStretch& stretch, const PileMotion& motion, const BowPart& part) {
     constexpr float ColourWeight = 2;
     constexpr int Every = 2;
-    const Pile pile = pileUp(stretch, motion, {part.firstSlot, part.lastSlot, Every});
+    const Pile pile = pileUp(stretch, motion, {part.firstSlot - 1, part.lastSlot + 1, Every});
     double sum = 0;
     for (int channel = 0; channel < BandChannels; ++channel)
-        for (int slot = part.firstSlot; slot < part.lastSlot; ++slot)
-            for (int row = part.firstRow; row < part.lastRow; ++row) {
-                const float value = pile.at(channel, slot)[row];
-                sum += (channel == 0 ? 1 : ColourWeight) * value * value;
-            }
+        for (int slot = part.firstSlot; slot < part.lastSlot; ++slot) {
+            const float* const before = pile.at(channel, slot - 1);
+            const float* const behind = pile.at(channel, slot + 1);
+            float squares = 0;
+            for (int row = part.firstRow; row < part.lastRow; ++row)
+                squares += (behind[row] - before[row]) * (behind[row] - before[row]);
+            sum += double(channel == 0 ? squares : ColourWeight * squares);
+        }
     return sum;
+}
+
+/// Where the boat of a seed stands over time, from ahead of its bow on.
+BowPart boatPart(const BandStretch& stretch, const BandBoat& boat, const BoatSeed& seed) {
+    const double passage = boat.length / seed.motion.speed;
+    const int above = static_cast<int>(boat.height * 0.7);
+    return {seed.slot - static_cast<int>(0.3 * passage),
+            seed.slot + static_cast<int>(0.8 * passage), std::max(seed.row - above, 0),
+            std::min(seed.row + seed.rows + above, stretch.shape.rows)};
 }
 
 /// The motion that shows the boat best, near that of the seed.
 PileMotion settledMotion(const BandStretch& stretch, const BandBoat& boat, const BoatSeed& seed) {
-    const int passage = static_cast<int>(boat.length / seed.motion.speed);
-    const int above = static_cast<int>(boat.height * 0.7);
-    const BowPart part{seed.slot, seed.slot + passage * 8 / 10, std::max(seed.row - above, 0),
-                       std::min(seed.row + seed.rows + above, stretch.shape.rows)};
+    const BowPart part = boatPart(stretch, boat, seed);
     PileMotion best = seed.motion;
     double most = -1;
     constexpr std::array Speeds{0.72, 0.78, 0.84, 0.89, 0.94, 1.0, 1.06, 1.12, 1.19, 1.27, 1.36};
@@ -49,6 +59,16 @@ PileMotion settledMotion(const BandStretch& stretch, const BandBoat& boat, const
             }
         }
     return best;
+}
+
+/// How much sharper the boat is than along the best way against it. A boat that goes up is duller.
+double sharperThanOpposite(const BandStretch& stretch, const BandBoat& boat, const BoatSeed& seed,
+                           const PileMotion& motion) {
+    const BowPart part = boatPart(stretch, boat, seed);
+    double most = 1e-3;
+    for (const double factor : {0.35, 0.6, 1.0, 1.5})
+        most = std::max(most, sharpness(stretch, {-factor * motion.speed, 0}, part));
+    return sharpness(stretch, motion, part) / most;
 }
 
 /// What stands out in a part, in spreads of the water, each place with its neighbours.
@@ -139,7 +159,7 @@ private:
 
 /// What stands out is measured against what the front of the hull gives.
 float bowLevel(const BowGround& ground, const BowPart& front) {
-    constexpr float Least = 1.9F;
+    constexpr float Least = 2.2F;
     constexpr float Part = 0.38F;
     std::vector<float> values;
     for (int slot = front.firstSlot; slot < front.lastSlot; ++slot)
@@ -196,7 +216,7 @@ std::optional<FoundBow> findBow(const BandStretch& stretch, const BandBoat& boat
         ++first;
     if (first == ground.last())
         return std::nullopt;
-    const BowPiece body(ground, level * 0.7F, front, whole);
+    const BowPiece body(ground, level, front, whole);
     int filled = 0;
     int tallest = 0;
     for (int slot = first; slot < std::min(first + passage, ground.last()); ++slot) {
@@ -205,7 +225,8 @@ std::optional<FoundBow> findBow(const BandStretch& stretch, const BandBoat& boat
         tallest = std::max(tallest, tall);
     }
     return FoundBow{first - beforeSlot(ground, first, hull, level), motion.speed,
-                    double(filled) / passage, tallest / boat.height};
+                    double(filled) / passage, tallest / boat.height,
+                    sharperThanOpposite(stretch, boat, seed, motion)};
 }
 
 } // namespace kavela

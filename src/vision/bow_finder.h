@@ -21,6 +21,9 @@ struct FoundBow {
     double speed = 0;       ///< columns a slot
     double lengthShare = 0; ///< of the boat's length that hangs together behind it
     double heightShare = 0; ///< of the boat's height that stands out in its middle
+    /// How much sharper its edges are along its way than along the best one against it; below 1 for
+    /// a boat that goes up.
+    double sharpness = 0;
 };
 
 /// Settles speed and slant over the whole boat and finds its foremost point: the first place of the

@@ -14,13 +14,12 @@ namespace {
 /// In boat lengths a second.
 constexpr std::array SearchSpeeds{0.32, 0.42, 0.55, 0.71, 0.92, 1.18, 1.5, 1.9};
 constexpr std::array SearchSlants{-0.13, 0.0, 0.13};
-constexpr std::array OppositeSpeeds{-0.35, -0.6, -0.95, -1.4};
 constexpr double HullPart = 0.3; ///< of a boat's height with its paddler
 constexpr double BehindPart = 0.4;
 constexpr double AheadPart = 0.25;
 constexpr float LeastScore = 3;
 constexpr float AheadWeight = 1.6F;
-constexpr float OverOpposite = 1.4F;
+constexpr double OverOpposite = 1.4;
 constexpr double SecondsBetweenBands = 0.04;
 
 /// Sums of energy over any rectangle of slots and rows.
@@ -65,22 +64,20 @@ private:
 /// The best that a slot has to offer.
 struct SlotBest {
     float score = 0;
-    float behind = 0;
     int row = 0;
     std::size_t motion = 0;
 };
 
-class Search {
+class BandSearch {
 public:
-    Search(const BandStretch& stretch, const BandBoat& boat)
+    BandSearch(const BandStretch& stretch, const BandBoat& boat)
         : m_stretch(stretch),
           m_boat(boat),
           m_slots(static_cast<int>(stretch.slots.size())),
           m_rows(stretch.shape.rows),
           m_hull(std::clamp(static_cast<int>(std::lround(boat.height * HullPart)), 2,
                             std::max(stretch.shape.rows - 1, 2))),
-          m_best(stretch.slots.size()),
-          m_opposite(stretch.slots.size() * static_cast<std::size_t>(stretch.shape.rows)) {}
+          m_best(stretch.slots.size()) {}
 
     [[nodiscard]] bool isTooSmall() const { return m_hull >= m_rows || m_slots < 10; }
     void tryMotions(const std::stop_token& stop);
@@ -93,10 +90,7 @@ private:
     };
     [[nodiscard]] EnergySums sumsFor(const PileMotion& motion, std::vector<float>& spread) const;
     void tryForward(const PileMotion& motion);
-    void tryOpposite(double speed);
-    [[nodiscard]] float oppositeNear(int slot, int slots, int row) const;
-    [[nodiscard]] double confidenceOf(const SlotBest& best, const FoundBow& bow,
-                                      float opposite) const;
+    [[nodiscard]] static double confidenceOf(const SlotBest& best, const FoundBow& bow);
 
     const BandStretch& m_stretch;
     BandBoat m_boat;
@@ -104,11 +98,10 @@ private:
     int m_rows;
     int m_hull;
     std::vector<SlotBest> m_best;
-    std::vector<float> m_opposite;
     std::vector<TriedMotion> m_motions;
 };
 
-EnergySums Search::sumsFor(const PileMotion& motion, std::vector<float>& spread) const {
+EnergySums BandSearch::sumsFor(const PileMotion& motion, std::vector<float>& spread) const {
     const int every =
         std::max(static_cast<int>(std::lround(SecondsBetweenBands / m_stretch.secondsPerSlot)), 1);
     const Pile pile = pileUp(m_stretch, motion, {0, m_slots, every});
@@ -116,7 +109,7 @@ EnergySums Search::sumsFor(const PileMotion& motion, std::vector<float>& spread)
     return {pileEnergy(pile, spread), m_slots, m_rows};
 }
 
-void Search::tryForward(const PileMotion& motion) {
+void BandSearch::tryForward(const PileMotion& motion) {
     TriedMotion tried{motion, {}};
     const EnergySums sums = sumsFor(motion, tried.spread);
     const double passage = m_boat.length / motion.speed;
@@ -128,53 +121,32 @@ void Search::tryForward(const PileMotion& motion) {
             const float empty = sums.mean(slot - ahead, slot, row, row + m_hull);
             SlotBest& best = m_best[static_cast<std::size_t>(slot)];
             if (const float score = full - AheadWeight * empty; score > best.score)
-                best = {score, full, row, m_motions.size()};
+                best = {score, row, m_motions.size()};
         }
     m_motions.push_back(std::move(tried));
 }
 
-void Search::tryOpposite(double speed) {
-    std::vector<float> spread;
-    const EnergySums sums = sumsFor({speed, 0}, spread);
-    const int half = std::max(static_cast<int>(m_boat.length / -speed * BehindPart / 2), 1);
-    for (int slot = 0; slot < m_slots; ++slot)
-        for (int row = 0; row + m_hull <= m_rows; ++row) {
-            float& most = m_opposite[static_cast<std::size_t>(slot * m_rows + row)];
-            most = std::max(most, sums.mean(slot - half, slot + half, row, row + m_hull));
-        }
-}
-
-void Search::tryMotions(const std::stop_token& stop) {
+void BandSearch::tryMotions(const std::stop_token& stop) {
     const double scale = m_boat.length * m_stretch.secondsPerSlot;
-    for (const double speed : OppositeSpeeds)
-        if (!stop.stop_requested())
-            tryOpposite(speed * scale);
     for (const double speed : SearchSpeeds)
         for (const double slant : SearchSlants)
             if (!stop.stop_requested())
                 tryForward({speed * scale, slant});
 }
 
-/// The most that goes against the boats while one passes in a row.
-float Search::oppositeNear(int slot, int slots, int row) const {
-    float most = 0;
-    for (int at = std::max(slot, 0); at < std::min(slot + slots, m_slots); ++at)
-        most = std::max(most, m_opposite[static_cast<std::size_t>(at * m_rows + row)]);
-    return most;
-}
-
-double Search::confidenceOf(const SlotBest& best, const FoundBow& bow, float opposite) const {
+double BandSearch::confidenceOf(const SlotBest& best, const FoundBow& bow) {
     constexpr double StrongScore = 7;
     constexpr double WholeLength = 0.65;
     constexpr double WholeHeight = 0.6;
+    constexpr double WholeWay = 1.0; // twice as sharp as against it
     const double strength = 1 - std::exp(-best.score / StrongScore);
     const double length = std::min(bow.lengthShare / WholeLength, 1.0);
     const double height = std::min(bow.heightShare / WholeHeight, 1.0);
-    const double way = std::clamp(best.behind / std::max(opposite, 1.0F) - 0.6, 0.0, 1.0);
+    const double way = std::clamp((bow.sharpness - 1) / WholeWay, 0.0, 1.0);
     return strength * length * height * way;
 }
 
-std::vector<BandCrossing> Search::crossings(const std::stop_token& stop) const {
+std::vector<BandCrossing> BandSearch::crossings(const std::stop_token& stop) const {
     std::vector<int> order;
     for (int slot = 0; slot < m_slots; ++slot)
         if (m_best[static_cast<std::size_t>(slot)].score >= LeastScore)
@@ -198,12 +170,11 @@ std::vector<BandCrossing> Search::crossings(const std::stop_token& stop) const {
         };
         const auto bow =
             findBow(m_stretch, m_boat, {slot, best.row, m_hull, tried.motion, &tried.spread});
-        const float opposite = oppositeNear(slot, static_cast<int>(passage * BehindPart), best.row);
         block(slot - 0.5 * passage, slot + 0.9 * passage);
-        if (!bow || best.behind < OverOpposite * opposite)
+        if (!bow || bow->sharpness < OverOpposite)
             continue;
         block(bow->slot - 0.5 * passage, bow->slot + 1.1 * passage);
-        found.push_back({bow->slot, bow->speed, confidenceOf(best, *bow, opposite)});
+        found.push_back({bow->slot, bow->speed, confidenceOf(best, *bow)});
     }
     std::ranges::sort(found, {}, &BandCrossing::slot);
     return found;
@@ -213,7 +184,7 @@ std::vector<BandCrossing> Search::crossings(const std::stop_token& stop) const {
 
 std::vector<BandCrossing> searchCrossings(const BandStretch& stretch, const BandBoat& boat,
                                           const std::stop_token& stop) {
-    Search search(stretch, boat);
+    BandSearch search(stretch, boat);
     if (search.isTooSmall())
         return {};
     search.tryMotions(stop);

@@ -7,12 +7,6 @@
 
 namespace kavela {
 
-/// How large a boat is in a band.
-struct BandBoat {
-    double length = 0; ///< columns
-    double height = 0; ///< rows, with its paddler
-};
-
 /// A boat that was found in a stretch.
 struct BandCrossing {
     double slot = 0;       ///< when its bow is on the line, in slots of the stretch

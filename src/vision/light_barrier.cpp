@@ -37,12 +37,16 @@ std::pair<FrameNumber, FrameNumber> framesBetween(const VideoIndex& index, doubl
 
 } // namespace
 
+void checkBarrierRequest(const BarrierRequest& request, const VideoFacts& facts) {
+    checkSlitLine(request.line, facts.shownSize, facts.path);
+    checkBoatBox(request.boat, facts);
+}
+
 std::optional<Crossings> findCrossings(const std::shared_ptr<const VideoIndex>& index,
                                        const BarrierRequest& request, const std::stop_token& stop,
                                        const Progress& onProgress) {
     const VideoFacts& facts = index->facts();
-    checkSlitLine(request.line, facts.shownSize, facts.path);
-    checkBoatBox(request.boat, facts);
+    checkBarrierRequest(request, facts);
     const auto [first, last] = framesBetween(*index, request.fromSeconds, request.toSeconds);
     FilmStream stream(index);
     const SlitLine line{storedHalfPoint(request.line.first, facts),

@@ -64,10 +64,14 @@ struct Crossings {
     std::vector<std::string> notes;
 };
 
+/// Throws VideoError for a line outside the picture or too short, and for a box without size or
+/// larger than the picture.
+void checkBarrierRequest(const BarrierRequest& request, const VideoFacts& facts);
+
 /// Looks for boats. To be called in a thread of its own: it takes about half a film's playing time.
 /// `onProgress` is called from the calling thread. Nothing once `stop` is requested, which takes
-/// effect within half a second. Throws VideoError for a film that cannot be opened, a line outside
-/// the picture, a box without size or with more than the picture, and a range without frames.
+/// effect within half a second. Throws VideoError for a film that cannot be opened, as
+/// checkBarrierRequest(), and for a range without frames.
 [[nodiscard]] std::optional<Crossings>
 findCrossings(const std::filesystem::path& film, const BarrierRequest& request,
               const std::stop_token& stop = {},

@@ -19,10 +19,6 @@ constexpr double SecondsToLearn = 20;
 constexpr double StretchSeconds = 24;
 constexpr double StretchMargin = SlowestPassage + LongestPile;
 constexpr int BandsInMedian = 48;
-/// A boat is no longer than this in columns, nor a line in rows: more shows nothing more.
-constexpr double MostColumns = 96;
-constexpr double MostRows = 220;
-
 struct CutBand {
     FrameNumber number;
     double seconds;
@@ -34,13 +30,9 @@ public:
     StreamSearch(PictureStream& stream, FrameNumber first, FrameNumber last, const SlitLine& line,
                  const BoatBox& boat)
         : m_stream(stream), m_first(first), m_last(last) {
-        const SlitPoint way = crossingDirection(line);
-        const bool isLevel = std::abs(way.x) >= std::abs(way.y);
-        const double length = isLevel ? boat.width : boat.height;
-        const double height = isLevel ? boat.height : boat.width;
-        const double step = std::max({1.0, length / MostColumns, lengthOf(line) / MostRows});
-        m_shape = bandShape(line, step);
-        m_boat = {length / step, height / step};
+        const FittedBand band = fittedBand(line, boat.width, boat.height);
+        m_shape = band.shape;
+        m_boat = band.boat;
     }
 
     [[nodiscard]] std::optional<Crossings>
