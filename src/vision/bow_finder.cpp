@@ -78,7 +78,7 @@ public:
         : m_first(pile.first),
           m_slots(pile.slots),
           m_rows(pile.rows),
-          m_values(pileEnergy(pile, spread)) {
+          m_values(pileEnergy(pile, spread, 0)) {
         for (float& value : m_values)
             value = std::sqrt(value);
         smooth();
@@ -160,7 +160,7 @@ private:
 /// What stands out is measured against what the front of the hull gives.
 float bowLevel(const BowGround& ground, const BowPart& front) {
     constexpr float Least = 2.2F;
-    constexpr float Part = 0.38F;
+    constexpr float Part = 0.4F; // half would be where a soft edge lies; a dipping bow is fainter
     std::vector<float> values;
     for (int slot = front.firstSlot; slot < front.lastSlot; ++slot)
         for (int row = front.firstRow; row < front.lastRow; ++row)

@@ -17,6 +17,7 @@ constexpr std::array SearchSlants{-0.13, 0.0, 0.13};
 constexpr double HullPart = 0.3; ///< of a boat's height with its paddler
 constexpr double BehindPart = 0.4;
 constexpr double AheadPart = 0.25;
+constexpr float EnergyLimit = 60;
 constexpr float LeastScore = 3;
 constexpr float AheadWeight = 1.6F;
 constexpr double OverOpposite = 1.4;
@@ -106,7 +107,7 @@ EnergySums BandSearch::sumsFor(const PileMotion& motion, std::vector<float>& spr
         std::max(static_cast<int>(std::lround(SecondsBetweenBands / m_stretch.secondsPerSlot)), 1);
     const Pile pile = pileUp(m_stretch, motion, {0, m_slots, every});
     spread = usualSpread(pile);
-    return {pileEnergy(pile, spread), m_slots, m_rows};
+    return {pileEnergy(pile, spread, EnergyLimit), m_slots, m_rows};
 }
 
 void BandSearch::tryForward(const PileMotion& motion) {

@@ -86,8 +86,7 @@ std::vector<float> usualSpread(const Pile& pile) {
     return spread;
 }
 
-std::vector<float> pileEnergy(const Pile& pile, const std::vector<float>& spread) {
-    constexpr float Limit = 60;
+std::vector<float> pileEnergy(const Pile& pile, const std::vector<float>& spread, float limit) {
     constexpr float Coloured = 4; // squared spreads
     constexpr float ShadowPart = 0.5F;
     const auto rows = static_cast<std::size_t>(pile.rows);
@@ -105,7 +104,7 @@ std::vector<float> pileEnergy(const Pile& pile, const std::vector<float>& spread
             if (y < 0 && colour < Coloured)
                 y *= ShadowPart;
             const float sum = (y * y + colour) / 3;
-            out[row] = sum / (1 + sum / Limit);
+            out[row] = limit > 0 ? sum / (1 + sum / limit) : sum;
         }
     }
     return energy;

@@ -62,8 +62,10 @@ inline constexpr double LongestPile = 0.45; ///< to either side of the moment
 [[nodiscard]] std::vector<float> usualSpread(const Pile& pile);
 
 /// How much stands out in each slot and row: the squares of the values in units of their usual
-/// spread, averaged over the channels and held below a limit, so that water gives about 1. What is
-/// darker in the same colour, as a shadow is, counts half in its value. Slot by slot.
-[[nodiscard]] std::vector<float> pileEnergy(const Pile& pile, const std::vector<float>& spread);
+/// spread, averaged over the channels, so that water gives about 1. What is darker in the same
+/// colour, as a shadow is, counts half in its value. No energy reaches `limit`, so that the little
+/// that is very bright does not outweigh the many; 0 is no limit. Slot by slot.
+[[nodiscard]] std::vector<float> pileEnergy(const Pile& pile, const std::vector<float>& spread,
+                                            float limit);
 
 } // namespace kavela

@@ -449,14 +449,18 @@ void RiverScene::drawOthers(Canvas& canvas, double seconds, std::int64_t frame) 
     }
 }
 
+SlitPoint RiverScene::cameraShift(double seconds) const {
+    const double gale = Turn * seconds;
+    return {m_recipe.shake * (std::sin(gale * 3.1) + 0.6 * std::sin(gale * 7.3)) +
+                m_recipe.walk * (std::sin(gale * 0.31) + 0.5 * std::sin(gale * 0.83)),
+            m_recipe.shake * 0.7 * std::sin(gale * 4.7) +
+                m_recipe.walk * 0.6 * std::sin(gale * 0.47 + 1)};
+}
+
 HalfPlanes RiverScene::picture(std::int64_t frame) const {
     const double seconds = secondsOf(frame);
-    const double gale = Turn * seconds;
-    const double x = m_recipe.shake * (std::sin(gale * 3.1) + 0.6 * std::sin(gale * 7.3)) +
-                     m_recipe.walk * (std::sin(gale * 0.31) + 0.5 * std::sin(gale * 0.83));
-    const double y = m_recipe.shake * 0.7 * std::sin(gale * 4.7) +
-                     m_recipe.walk * 0.6 * std::sin(gale * 0.47 + 1);
-    Canvas canvas(m_recipe.width, m_recipe.height, x, y);
+    const SlitPoint shift = cameraShift(seconds);
+    Canvas canvas(m_recipe.width, m_recipe.height, shift.x, shift.y);
     drawLand(canvas);
     drawWater(canvas, seconds, frame);
     for (const Mover& log : m_logs)

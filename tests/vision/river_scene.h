@@ -58,6 +58,8 @@ public:
     [[nodiscard]] HalfPlanes picture(std::int64_t frame) const;
     /// The line and the box of a boat, in pixels of the whole picture: twice the half pixels.
     [[nodiscard]] BarrierRequest request() const;
+    /// Where the camera's trembling puts what stands still, half pixels.
+    [[nodiscard]] SlitPoint cameraShift(double seconds) const;
     /// In the order of time.
     [[nodiscard]] const std::vector<RiverTruth>& truth() const { return m_truth; }
 
