@@ -44,6 +44,7 @@ private:
     [[nodiscard]] std::vector<std::vector<std::int8_t>> deviations() const;
     [[nodiscard]] double secondsPerSlot() const;
     [[nodiscard]] FrameNumber frameAtOrBehind(double seconds) const;
+    [[nodiscard]] FrameNumber framesPerBand() const;
     void tellHandHeld();
 
     PictureStream& m_stream;
@@ -94,8 +95,27 @@ std::vector<std::vector<std::int8_t>> StreamSearch::deviations() const {
 
 FrameNumber StreamSearch::frameAtOrBehind(double seconds) const {
     constexpr double Rounding = 1e-6;
-    const auto band = std::ranges::lower_bound(m_bands, seconds - Rounding, {}, &CutBand::seconds);
-    return band == m_bands.end() ? m_bands.back().number : band->number;
+    FrameNumber low = m_first;
+    FrameNumber high = m_last - 1;
+    while (low < high) {
+        const FrameNumber middle = low + (high - low) / 2;
+        if (m_stream.secondsOf(middle) < seconds - Rounding)
+            low = middle + 1;
+        else
+            high = middle;
+    }
+    return low;
+}
+
+/// Films of 120 frames a second and more tell no more of when a boat comes than every second frame
+/// does, and would fill the memory.
+FrameNumber StreamSearch::framesPerBand() const {
+    constexpr double MostBandsPerSecond = 60;
+    const double seconds = m_stream.secondsOf(m_last - 1) - m_stream.secondsOf(m_first);
+    if (!(seconds > 0))
+        return 1;
+    const double rate = static_cast<double>(m_last - 1 - m_first) / seconds;
+    return std::max<FrameNumber>(std::llround(rate / MostBandsPerSecond), 1);
 }
 
 /// Searches all bands there are, and keeps what lies from one moment to before another.
@@ -136,13 +156,14 @@ StreamSearch::run(const std::stop_token& stop,
     ShakeMeter shake = learnShake(stop);
     if (shake.isHandHeld())
         tellHandHeld();
+    m_found.frames = m_last - m_first;
     FrameNumber missing = 0;
     double keepFrom = -std::numeric_limits<double>::infinity();
-    for (FrameNumber number = m_first; number < m_last; ++number) {
+    const FrameNumber every = framesPerBand();
+    for (FrameNumber number = m_first; number < m_last; number += every) {
         if (stop.stop_requested())
             return std::nullopt;
         const auto picture = m_stream.picture(number, stop);
-        ++m_found.frames;
         if (!picture) {
             ++missing;
             continue;
