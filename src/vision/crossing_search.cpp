@@ -118,7 +118,10 @@ void BandSearch::tryForward(const PileMotion& motion) {
     const int ahead = std::max(static_cast<int>(passage * AheadPart), 2);
     for (int slot = 0; slot < m_slots; ++slot)
         for (int row = 0; row + m_hull <= m_rows; ++row) {
-            const float full = sums.mean(slot, slot + behind, row, row + m_hull);
+            // What is only smeared ahead of a boat fills the second half alone.
+            const int half = slot + behind / 2;
+            const float full = std::min(sums.mean(slot, half, row, row + m_hull),
+                                        sums.mean(half, slot + behind, row, row + m_hull));
             const float empty = sums.mean(slot - ahead, slot, row, row + m_hull);
             SlotBest& best = m_best[static_cast<std::size_t>(slot)];
             if (const float score = full - AheadWeight * empty; score > best.score)
@@ -139,10 +142,12 @@ double BandSearch::confidenceOf(const SlotBest& best, const FoundBow& bow) {
     constexpr double StrongScore = 7;
     constexpr double WholeLength = 0.65;
     constexpr double WholeHeight = 0.6;
+    constexpr double TooHigh = 1.7;  // foam and gusts know no height
     constexpr double WholeWay = 1.0; // twice as sharp as against it
     const double strength = 1 - std::exp(-best.score / StrongScore);
     const double length = std::min(bow.lengthShare / WholeLength, 1.0);
-    const double height = std::min(bow.heightShare / WholeHeight, 1.0);
+    const double height =
+        bow.heightShare > TooHigh ? 0.5 : std::min(bow.heightShare / WholeHeight, 1.0);
     const double way = std::clamp((bow.sharpness - 1) / WholeWay, 0.0, 1.0);
     return strength * length * height * way;
 }
@@ -171,10 +176,11 @@ std::vector<BandCrossing> BandSearch::crossings(const std::stop_token& stop) con
         };
         const auto bow =
             findBow(m_stretch, m_boat, {slot, best.row, m_hull, tried.motion, &tried.spread});
+        const double smear = LongestPile / m_stretch.secondsPerSlot;
         block(slot - 0.5 * passage, slot + 0.9 * passage);
         if (!bow || bow->sharpness < OverOpposite)
             continue;
-        block(bow->slot - 0.5 * passage, bow->slot + 1.1 * passage);
+        block(bow->slot - 0.5 * passage - smear, bow->slot + 1.1 * passage + smear);
         found.push_back({bow->slot, bow->speed, confidenceOf(best, *bow)});
     }
     std::ranges::sort(found, {}, &BandCrossing::slot);

@@ -178,8 +178,8 @@ void ShakeMeter::chooseBlocks(std::span<const HalfPlanes> pictures, const HalfPl
 void ShakeMeter::judgeHold(std::span<const HalfPlanes> pictures) {
     if (m_blocks.size() >= FewestShakeBlocks)
         return;
-    constexpr int Step = 2 * ShakeBlock;
-    constexpr double LeastStrength = 20'000;
+    constexpr int Step = ShakeBlock;
+    constexpr double LeastStrength = 8'000;
     constexpr int FewestCorners = 4;
     int corners = 0;
     int still = 0;

@@ -26,7 +26,7 @@ RiverRecipe filmedRiver() {
     recipe.width = 200;
     recipe.height = 120;
     recipe.boatLength = 60;
-    recipe.slowest = 45;
+    recipe.slowest = 65;
     recipe.fastest = 95;
     recipe.foam = 0.1;
     recipe.dipping = 0;

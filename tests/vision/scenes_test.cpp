@@ -16,7 +16,7 @@ RiverRecipe shortScene(std::uint32_t seed) {
     recipe.width = 200;
     recipe.height = 120;
     recipe.boatLength = 60;
-    recipe.slowest = 45;
+    recipe.slowest = 65;
     recipe.fastest = 95;
     recipe.current = 35;
     recipe.spectators = 0;
