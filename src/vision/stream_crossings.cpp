@@ -19,6 +19,8 @@ constexpr double SecondsToLearn = 20;
 constexpr double StretchSeconds = 24;
 constexpr double StretchMargin = SlowestPassage + LongestPile;
 constexpr int BandsInMedian = 48;
+/// Behind a longer one the film goes on as another: nothing is known of what moved meanwhile.
+constexpr double LongestGap = 1;
 struct CutBand {
     FrameNumber number;
     double seconds;
@@ -168,10 +170,14 @@ StreamSearch::run(const std::stop_token& stop,
             ++missing;
             continue;
         }
+        const double now = m_stream.secondsOf(number);
+        if (!m_bands.empty() && now - m_bands.back().seconds > LongestGap) {
+            search(keepFrom, std::numeric_limits<double>::infinity(), stop);
+            m_bands.clear();
+            keepFrom = now;
+        }
         const CameraShift shift = shake.shiftOf(*picture);
-        m_bands.push_back(
-            {number, m_stream.secondsOf(number), cutBand(m_shape, *picture, {shift.x, shift.y})});
-        const double now = m_bands.back().seconds;
+        m_bands.push_back({number, now, cutBand(m_shape, *picture, {shift.x, shift.y})});
         if (now - m_bands.front().seconds >= StretchSeconds + 2 * StretchMargin) {
             search(keepFrom, now - StretchMargin, stop);
             keepFrom = now - StretchMargin;
