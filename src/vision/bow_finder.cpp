@@ -44,21 +44,37 @@ BowPart boatPart(const BandStretch& stretch, const BandBoat& boat, const BoatSee
             std::min(seed.row + seed.rows + above, stretch.shape.rows)};
 }
 
-/// The motion that shows the boat best, near that of the seed.
-PileMotion settledMotion(const BandStretch& stretch, const BandBoat& boat, const BoatSeed& seed) {
-    const BowPart part = boatPart(stretch, boat, seed);
-    PileMotion best = seed.motion;
+constexpr std::array SettledSpeeds{0.72, 0.78, 0.84, 0.89, 0.94, 1.0, 1.06, 1.12, 1.19, 1.27, 1.36};
+
+/// The sharpest motion near one.
+PileMotion sharpestNear(const BandStretch& stretch, const PileMotion& start, const BowPart& part) {
+    PileMotion best = start;
     double most = -1;
-    constexpr std::array Speeds{0.72, 0.78, 0.84, 0.89, 0.94, 1.0, 1.06, 1.12, 1.19, 1.27, 1.36};
-    for (const double factor : Speeds)
+    for (const double factor : SettledSpeeds)
         for (const double slant : {-0.06, 0.0, 0.06}) {
-            const PileMotion motion{seed.motion.speed * factor, seed.motion.slant + slant};
+            const PileMotion motion{start.speed * factor, start.slant + slant};
             if (const double sharp = sharpness(stretch, motion, part); sharp > most) {
                 most = sharp;
                 best = motion;
             }
         }
     return best;
+}
+
+/// The motion that shows the boat best. A seed can stand in what a fast boat smears ahead of itself
+/// along a slow way: then the sharpest is the fastest, and faster ones are tried.
+PileMotion settledMotion(const BandStretch& stretch, const BandBoat& boat, const BoatSeed& seed) {
+    constexpr int MostTries = 5;
+    const BowPart part = boatPart(stretch, boat, seed);
+    PileMotion motion = seed.motion;
+    for (int i = 0; i < MostTries; ++i) {
+        const PileMotion best = sharpestNear(stretch, motion, part);
+        const double factor = best.speed / motion.speed;
+        motion = best;
+        if (factor > SettledSpeeds.front() * 1.01 && factor < SettledSpeeds.back() * 0.99)
+            break;
+    }
+    return motion;
 }
 
 /// How much sharper the boat is than along the best way against it. A boat that goes up is duller.

@@ -176,9 +176,14 @@ std::vector<BandCrossing> BandSearch::crossings(const std::stop_token& stop) con
         };
         const auto bow =
             findBow(m_stretch, m_boat, {slot, best.row, m_hull, tried.motion, &tried.spread});
+        const bool isOneBefore =
+            bow && bow->slot >= 0 && bow->slot < m_slots &&
+            isBlocked[static_cast<std::size_t>(bow->slot)]; // another way of seeing a boat
         const double smear = LongestPile / m_stretch.secondsPerSlot;
-        block(slot - 0.5 * passage, slot + 0.9 * passage);
-        if (!bow || bow->sharpness < OverOpposite)
+        // A boat may come close behind one that goes up.
+        block(slot - 0.25 * passage, slot + 0.25 * passage);
+        block(slot, slot + 1.0);
+        if (!bow || bow->sharpness < OverOpposite || isOneBefore)
             continue;
         block(bow->slot - 0.5 * passage - smear, bow->slot + 1.1 * passage + smear);
         found.push_back({bow->slot, bow->speed, confidenceOf(best, *bow)});
