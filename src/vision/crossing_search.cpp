@@ -18,7 +18,7 @@ constexpr double HullPart = 0.3; ///< of a boat's height with its paddler
 constexpr double BehindPart = 0.4;
 constexpr double AheadPart = 0.25;
 constexpr float EnergyLimit = 60;
-constexpr float LeastScore = 3;
+constexpr float LeastSeedScore = 3;
 constexpr float AheadWeight = 1.6F;
 constexpr double OverOpposite = 1.4;
 constexpr double SecondsBetweenBands = 0.04;
@@ -155,7 +155,7 @@ double BandSearch::confidenceOf(const SlotBest& best, const FoundBow& bow) {
 std::vector<BandCrossing> BandSearch::crossings(const std::stop_token& stop) const {
     std::vector<int> order;
     for (int slot = 0; slot < m_slots; ++slot)
-        if (m_best[static_cast<std::size_t>(slot)].score >= LeastScore)
+        if (m_best[static_cast<std::size_t>(slot)].score >= LeastSeedScore)
             order.push_back(slot);
     std::ranges::stable_sort(order, std::greater(), [&](int slot) {
         return m_best[static_cast<std::size_t>(slot)].score;

@@ -33,14 +33,14 @@ HalfPlanes halved(const AVFrame& frame) {
     return half;
 }
 
-bool isSideways(const VideoFacts& facts) {
+bool liesSideways(const VideoFacts& facts) {
     return facts.rotation == 90 || facts.rotation == 270;
 }
 
 /// How many stored pixels one of the upright picture is, in the stored picture's directions.
 SlitPoint storedScale(const VideoFacts& facts) {
-    const double wide = isSideways(facts) ? facts.shownSize.height : facts.shownSize.width;
-    const double high = isSideways(facts) ? facts.shownSize.width : facts.shownSize.height;
+    const double wide = liesSideways(facts) ? facts.shownSize.height : facts.shownSize.width;
+    const double high = liesSideways(facts) ? facts.shownSize.width : facts.shownSize.height;
     return {facts.storedSize.width / wide, facts.storedSize.height / high};
 }
 
@@ -91,8 +91,8 @@ SlitPoint storedHalfPoint(const SlitPoint& point, const VideoFacts& facts) {
 
 BoatBox storedHalfBox(const BoatBox& box, const VideoFacts& facts) {
     const SlitPoint scale = storedScale(facts);
-    const double width = isSideways(facts) ? box.height : box.width;
-    const double height = isSideways(facts) ? box.width : box.height;
+    const double width = liesSideways(facts) ? box.height : box.width;
+    const double height = liesSideways(facts) ? box.width : box.height;
     return {0, 0, width * scale.x / 2, height * scale.y / 2};
 }
 

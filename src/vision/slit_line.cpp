@@ -9,7 +9,7 @@ namespace kavela {
 
 namespace {
 
-bool isWithin(const SlitPoint& point, VideoSize shown) {
+bool isOnPicture(const SlitPoint& point, VideoSize shown) {
     return point.x >= 0 && point.y >= 0 && point.x <= shown.width && point.y <= shown.height;
 }
 
@@ -32,7 +32,7 @@ SlitPoint crossingDirection(const SlitLine& line) {
 
 void checkSlitLine(const SlitLine& line, VideoSize shown, const std::filesystem::path& film) {
     for (const SlitPoint& end : {line.first, line.second})
-        if (!isWithin(end, shown))
+        if (!isOnPicture(end, shown))
             throw VideoError(film, "the line's end at " + placeText(end) +
                                        " lies outside the picture of " +
                                        std::to_string(shown.width) + " × " +
