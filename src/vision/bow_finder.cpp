@@ -155,10 +155,10 @@ public:
 
 private:
     void take(int slot, int row) {
-        const bool isWithin = slot >= m_bounds.firstSlot && slot < m_bounds.lastSlot &&
-                              row >= m_bounds.firstRow && row < m_bounds.lastRow &&
-                              m_ground.contains(slot, row);
-        if (!isWithin || m_taken[m_ground.place(slot, row)] || m_ground.at(slot, row) < m_level)
+        const bool isInBounds = slot >= m_bounds.firstSlot && slot < m_bounds.lastSlot &&
+                                row >= m_bounds.firstRow && row < m_bounds.lastRow &&
+                                m_ground.contains(slot, row);
+        if (!isInBounds || m_taken[m_ground.place(slot, row)] || m_ground.at(slot, row) < m_level)
             return;
         m_taken[m_ground.place(slot, row)] = true;
         m_open.emplace_back(slot, row);
