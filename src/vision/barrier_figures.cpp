@@ -1,0 +1,33 @@
+#include "vision/barrier_figures.h"
+
+#include <fmt/format.h>
+
+namespace kavela {
+
+const BarrierFigures& measuredBarrierFigures() {
+    // Change them with docs/light-barrier.md, after a run of bench/vision.
+    static const BarrierFigures figures{};
+    return figures;
+}
+
+bool reachesTargets(const BarrierFigures& figures, const BarrierTargets& targets) {
+    return figures.runs > 0 && figures.foundShare >= targets.leastFoundShare &&
+           figures.falsePerHour <= targets.mostFalsePerHour &&
+           figures.p95ErrorFrames <= targets.mostP95ErrorFrames && figures.cpuShareOfPlaying > 0 &&
+           figures.cpuShareOfPlaying <= targets.mostCpuShareOfPlaying;
+}
+
+std::string tellFigures(const BarrierFigures& figures, const BarrierTargets& targets) {
+    if (figures.runs == 0)
+        return "The search for boats was not measured.";
+    return fmt::format(
+        "Measured on {} scenes of {} ({} runs, {:.0f} minutes): {:.1f} % of the runs found "
+        "(asked: {:.0f} %), {:.1f} false proposals an hour (asked: at most {:g}), an error of at "
+        "most {:.1f} frames for 95 of 100 (asked: {:g}).",
+        figures.scenes, figures.isOnRealWater ? "real water" : "rendered water", figures.runs,
+        figures.minutes, 100 * figures.foundShare, 100 * targets.leastFoundShare,
+        figures.falsePerHour, targets.mostFalsePerHour, figures.p95ErrorFrames,
+        targets.mostP95ErrorFrames);
+}
+
+} // namespace kavela

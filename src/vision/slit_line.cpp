@@ -1,0 +1,45 @@
+#include "vision/slit_line.h"
+
+#include "video/video_error.h"
+
+#include <cmath>
+#include <string>
+
+namespace kavela {
+
+namespace {
+
+bool isOnPicture(const SlitPoint& point, VideoSize shown) {
+    return point.x >= 0 && point.y >= 0 && point.x <= shown.width && point.y <= shown.height;
+}
+
+std::string placeText(const SlitPoint& point) {
+    return std::to_string(std::lround(point.x)) + ", " + std::to_string(std::lround(point.y));
+}
+
+} // namespace
+
+double lengthOf(const SlitLine& line) {
+    return std::hypot(line.second.x - line.first.x, line.second.y - line.first.y);
+}
+
+SlitPoint crossingDirection(const SlitLine& line) {
+    const double length = lengthOf(line);
+    const double x = (line.second.x - line.first.x) / length;
+    const double y = (line.second.y - line.first.y) / length;
+    return line.from == BoatsFrom::Left ? SlitPoint{-y, x} : SlitPoint{y, -x};
+}
+
+void checkSlitLine(const SlitLine& line, VideoSize shown, const std::filesystem::path& film) {
+    for (const SlitPoint& end : {line.first, line.second})
+        if (!isOnPicture(end, shown))
+            throw VideoError(film, "the line's end at " + placeText(end) +
+                                       " lies outside the picture of " +
+                                       std::to_string(shown.width) + " × " +
+                                       std::to_string(shown.height) + " pixels");
+    if (!(lengthOf(line) >= ShortestSlit))
+        throw VideoError(film, "the line is shorter than " +
+                                   std::to_string(std::lround(ShortestSlit)) + " pixels");
+}
+
+} // namespace kavela
