@@ -125,7 +125,7 @@ std::pair<double, double> storedPlace(double x, double y, int rotation) {
 
 } // namespace
 
-LineSampler::LineSampler(const VideoFacts& facts, const SlitEnds& line, int height)
+LineSampler::LineSampler(const VideoFacts& facts, const SlitLine& line, int height)
     : m_height(std::max(height, 1)),
       m_perPixel(std::max(1, static_cast<int>(std::lround(lengthOf(line) / m_height)))),
       m_column(static_cast<std::size_t>(m_height), Opaque),
@@ -133,8 +133,9 @@ LineSampler::LineSampler(const VideoFacts& facts, const SlitEnds& line, int heig
     const int places = m_height * m_perPixel;
     for (int i = 0; i < places; ++i) {
         const double along = (i + 0.5) / places;
-        const Place upright{(line.x1 + along * (line.x2 - line.x1)) / facts.shownSize.width,
-                            (line.y1 + along * (line.y2 - line.y1)) / facts.shownSize.height};
+        const Place upright{
+            (line.first.x + along * (line.second.x - line.first.x)) / facts.shownSize.width,
+            (line.first.y + along * (line.second.y - line.first.y)) / facts.shownSize.height};
         const auto [x, y] = storedPlace(upright.x, upright.y, facts.rotation);
         m_upright.push_back(upright);
         m_stored.push_back({x, y});

@@ -3,7 +3,7 @@
 #include "video/index.h"
 #include "video/picture.h"
 #include "video/video_frame.h"
-#include "vision/slit_picture.h"
+#include "vision/slit_line.h"
 
 #include <cstdint>
 #include <memory>
@@ -16,7 +16,7 @@ namespace kavela {
 class LineSampler {
 public:
     /// `height` pixels along each line, at least 1.
-    LineSampler(const VideoFacts& facts, const SlitEnds& line, int height);
+    LineSampler(const VideoFacts& facts, const SlitLine& line, int height);
     ~LineSampler();
     LineSampler(LineSampler&&) noexcept;
     LineSampler& operator=(LineSampler&&) = delete;

@@ -12,8 +12,13 @@ namespace kavela {
 
 namespace fs = std::filesystem;
 
-SlitEnds endsOf(const slitline001& line) {
-    return {line.x1, line.y1, line.x2, line.y2};
+SlitLine lineOf(const slitline001& line) {
+    return {
+        {line.x1, line.y1}, {line.x2, line.y2}, line.fromLeft ? BoatsFrom::Left : BoatsFrom::Right};
+}
+
+BoatBox boatOf(const slitline001& line) {
+    return {line.boatX, line.boatY, line.boatWidth, line.boatHeight};
 }
 
 fs::path slitFileOf(const fs::path& film) {

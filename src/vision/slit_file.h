@@ -1,6 +1,7 @@
 #pragma once
 
-#include "vision/slit_picture.h"
+#include "vision/light_barrier.h"
+#include "vision/slit_line.h"
 
 #include <boost/describe.hpp>
 
@@ -27,7 +28,8 @@ struct slitline001 {
     double y1 = 0;
     double x2 = 0;
     double y2 = 0;
-    bool fromLeft = true; ///< boats come from the left of who looks from the first end to the second
+    bool fromLeft =
+        true; ///< boats come from the left of who looks from the first end to the second
     /// Upper left corner, width and height of a box round a boat; 0 without one.
     double boatX = 0;
     double boatY = 0;
@@ -47,7 +49,9 @@ struct slitfile001 {
 };
 BOOST_DESCRIBE_STRUCT(slitfile001, (), (kavelaSlit, width, height, lines))
 
-[[nodiscard]] SlitEnds endsOf(const slitline001& line);
+[[nodiscard]] SlitLine lineOf(const slitline001& line);
+/// The box round a boat; of no size where none was drawn.
+[[nodiscard]] BoatBox boatOf(const slitline001& line);
 
 /// "NAME.slit.json" beside the film.
 [[nodiscard]] std::filesystem::path slitFileOf(const std::filesystem::path& film);

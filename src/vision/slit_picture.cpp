@@ -1,13 +1,11 @@
 #include "vision/slit_picture.h"
 
 #include "video/frame_run.h"
-#include "video/video_error.h"
 #include "vision/line_sampler.h"
 
 #include <algorithm>
 #include <cmath>
 #include <cstdint>
-#include <string>
 #include <utility>
 
 namespace kavela {
@@ -15,7 +13,6 @@ namespace kavela {
 namespace {
 
 constexpr std::size_t BytesOfPixel = 4;
-constexpr double ShortestLine = 8; // pixels
 constexpr int LeastHeight = 24;
 /// Sizes of other levels, on top of the first one.
 constexpr double WithLevels = 1 + 1.0 / 8 + 1.0 / 64;
@@ -162,27 +159,6 @@ double slitInterval(const VideoIndex& index, FrameNumber number) {
 
 } // namespace
 
-double lengthOf(const SlitEnds& line) {
-    return std::hypot(line.x2 - line.x1, line.y2 - line.y1);
-}
-
-void checkSlitLine(const SlitEnds& line, const VideoFacts& facts) {
-    const VideoSize size = facts.shownSize;
-    const auto isInside = [&](double x, double y) {
-        return x >= 0 && y >= 0 && x <= size.width && y <= size.height; // nothing that is no number
-    };
-    for (const auto& [x, y] : {std::pair(line.x1, line.y1), std::pair(line.x2, line.y2)})
-        if (!isInside(x, y))
-            throw VideoError(facts.path, "the line ends outside the picture at " +
-                                             std::to_string(std::lround(x)) + ", " +
-                                             std::to_string(std::lround(y)) + "; the picture is " +
-                                             std::to_string(size.width) + " × " +
-                                             std::to_string(size.height) + " pixels");
-    if (lengthOf(line) < ShortestLine)
-        throw VideoError(facts.path, "the line is too short: its ends must be at least 8 pixels "
-                                     "apart");
-}
-
 void SlitPicture::add(std::shared_ptr<const SlitTile> tile) {
     if (tiles.empty())
         first = tile->first;
@@ -199,11 +175,12 @@ const SlitTile* SlitPicture::tileOf(FrameNumber column) const {
 
 std::vector<int> slitHeights(const VideoIndex& index, const SlitOrder& wanted) {
     const SlitOrder order = withinFilm(wanted, index);
-    const double columns = static_cast<double>(std::max<FrameNumber>(order.last - order.first, 0)) + 1;
+    const double columns =
+        static_cast<double>(std::max<FrameNumber>(order.last - order.first, 0)) + 1;
     const double bytesOfRow = columns * double(BytesOfPixel) * WithLevels;
     double rows = 0;
     std::vector<int> heights;
-    for (const SlitEnds& line : order.lines) {
+    for (const SlitLine& line : order.lines) {
         heights.push_back(std::clamp(static_cast<int>(std::lround(lengthOf(line))), 1,
                                      std::max(order.mostHeight, 1)));
         rows += heights.back();
@@ -218,19 +195,19 @@ std::vector<int> slitHeights(const VideoIndex& index, const SlitOrder& wanted) {
 SlitReading readSlits(std::shared_ptr<const VideoIndex> index, const SlitOrder& wanted,
                       const std::stop_token& stop, const TakeSlitTile& take) {
     const SlitOrder order = withinFilm(wanted, *index);
-    for (const SlitEnds& line : order.lines)
-        checkSlitLine(line, index->facts());
+    for (const SlitLine& line : order.lines)
+        checkSlitLine(line, index->facts().shownSize, index->facts().path);
     SlitReading reading;
     if (order.lines.empty() || order.last < order.first)
         return reading;
     SlitWriters writers(*index, order, take);
     FrameRun run(index);
-    const bool isDone =
-        run.run({order.first, order.last}, [&] { return stop.stop_requested(); },
-                [&](FrameNumber number, const FramePtr& samples) {
-                    if (number >= order.first && number <= order.last)
-                        writers.add(number, *samples, reading);
-                });
+    const bool isDone = run.run(
+        {order.first, order.last}, [&] { return stop.stop_requested(); },
+        [&](FrameNumber number, const FramePtr& samples) {
+            if (number >= order.first && number <= order.last)
+                writers.add(number, *samples, reading);
+        });
     reading.isStopped = !isDone;
     reading.isCutOff = isDone && run.endedBefore(order.last);
     if (isDone && !reading.isCutOff)
@@ -257,7 +234,8 @@ double slitSecondsAt(const VideoIndex& index, FrameNumber first, double column) 
     const double place = column - 0.5 + static_cast<double>(first);
     const FrameNumber frame = std::clamp<FrameNumber>(static_cast<FrameNumber>(std::floor(place)),
                                                       0, index.frameCount() - 1);
-    return index.secondsOf(frame) + (place - static_cast<double>(frame)) * slitInterval(index, frame);
+    return index.secondsOf(frame) +
+           (place - static_cast<double>(frame)) * slitInterval(index, frame);
 }
 
 FrameNumber slitFrameAt(const VideoIndex& index, FrameNumber first, double column) {

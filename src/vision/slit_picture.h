@@ -2,6 +2,7 @@
 
 #include "video/index.h"
 #include "video/picture.h"
+#include "vision/slit_line.h"
 
 #include <array>
 #include <cstddef>
@@ -13,24 +14,6 @@
 /// What stood on a line across the picture of a fixed camera, column by column over time, as a
 /// finish camera shows it.
 namespace kavela {
-
-/// The ends of a line in pixels of the upright picture with square pixels, from its upper left
-/// corner. The first end is the upper edge of the slit picture.
-struct SlitEnds {
-    double x1 = 0;
-    double y1 = 0;
-    double x2 = 0;
-    double y2 = 0;
-
-    friend bool operator==(const SlitEnds&, const SlitEnds&) = default;
-};
-
-/// Pixels from end to end.
-[[nodiscard]] double lengthOf(const SlitEnds& line);
-
-/// Throws VideoError, with what is wrong, for a line that lies partly outside the picture or is too
-/// short to show anything.
-void checkSlitLine(const SlitEnds& line, const VideoFacts& facts);
 
 /// Columns that stand in one tile, but for the last one of a picture.
 inline constexpr FrameNumber SlitTileColumns = 128;
@@ -61,7 +44,7 @@ struct SlitPicture {
 
 /// What is to be read of a film.
 struct SlitOrder {
-    std::vector<SlitEnds> lines;
+    std::vector<SlitLine> lines;
     FrameNumber first = 0;
     FrameNumber last = -1; ///< below 0: up to the end of the film
     /// What all pictures together may take, in bytes; a film of hours gets lower pictures.
@@ -84,7 +67,8 @@ struct SlitReading {
 using TakeSlitTile =
     std::function<void(std::size_t line, const std::shared_ptr<const SlitTile>& tile)>;
 
-/// Reads the slit pictures of several lines, decoding the film once. Throws VideoError for a line
+/// Reads the slit pictures of several lines, decoding the film once. The first end of a line is the
+/// upper edge of its picture. Throws VideoError for a line
 /// that checkSlitLine() refuses, and for a film that cannot be opened. Ends within a packet of the
 /// film once `stop` is requested; what is then in the last tile is handed out too.
 SlitReading readSlits(std::shared_ptr<const VideoIndex> index, const SlitOrder& order,
