@@ -1,0 +1,150 @@
+#pragma once
+
+#include "desktop/barrier/crossing_search.h"
+#include "desktop/barrier/slit_keeping.h"
+#include "desktop/barrier/slit_loader.h"
+#include "desktop/barrier/slit_race.h"
+#include "desktop/barrier/slit_tables.h"
+#include "desktop/shell/tool_window.h"
+
+#include <optional>
+
+class QCheckBox;
+class QComboBox;
+class QLabel;
+class QProgressBar;
+class QPushButton;
+
+namespace kavela::desktop {
+
+class ColumnTable;
+class FaultLabel;
+class FilmDeck;
+class FilmView;
+class LineOverlay;
+class SlitActions;
+class SlitView;
+
+/// The film of a fixed camera with lines over it, the slit picture of one of them below, and the
+/// runs that are marked there.
+class SlitWindow : public ToolWindow {
+    Q_OBJECT
+
+public:
+    explicit SlitWindow(Workspace& workspace);
+    ~SlitWindow() override;
+
+    [[nodiscard]] QStringList paths() const override;
+    /// A film. False, after an alert, where none is.
+    [[nodiscard]] bool open(const QString& path) override;
+    void chooseFilm();
+    /// Marks go into this race from now on, which split taking has open.
+    void setRace(TakingDocument& document, ToolWindow& owner);
+    /// The split file beside the film, or its folder where none is.
+    [[nodiscard]] QString raceOfFilm() const;
+
+    [[nodiscard]] SlitKeeping& keeping() { return m_keeping; }
+    [[nodiscard]] SlitLoader& loader() { return m_loader; }
+    [[nodiscard]] SlitRace& race() { return m_race; }
+    [[nodiscard]] FilmDeck& deck() const { return *m_deck; }
+    [[nodiscard]] SlitView& view() const { return *m_view; }
+    [[nodiscard]] LineOverlay& overlay() const { return *m_overlay; }
+    [[nodiscard]] ColumnTable& runTable() const { return *m_runTable; }
+    [[nodiscard]] ColumnTable& proposalTable() const { return *m_proposalTable; }
+    [[nodiscard]] const QString& film() const { return m_film; }
+    [[nodiscard]] QString told() const;
+    /// The line that is in front; null where none is drawn.
+    [[nodiscard]] const slitline001* line() const;
+    [[nodiscard]] std::size_t lineNumber() const { return m_line; }
+    /// What is proposed on it, without what was refused, in the order of time.
+    [[nodiscard]] std::vector<Proposal> proposals() const;
+
+    // Lines.
+    void drawLine();
+    void drawBoat();
+    void chooseLine(std::size_t line); ///< a number beyond the lines changes nothing
+    void stepLine(int step);
+    void removeLine();
+    void turnArrow();
+    void setSplit(std::size_t split);
+
+    // The hair line, in frames or parts of one.
+    void setHair(double column);
+    void stepHair(int frames);
+    void refineHair(double frames);
+    void stepProposal(int step);
+    void stepRun(int step);
+
+    // Marks.
+    /// Marks the run in front at the hair line, and goes on to the next one without a mark.
+    void mark();
+    void unmark();
+    void setFiner(bool isFiner);
+    /// Refuses the proposal at the hair line for good.
+    void refuseProposal();
+    void forgetRefusals();
+    void searchBoats();
+    /// Why proposals cannot be accepted all at once; empty where they can.
+    [[nodiscard]] QString lockOfAcceptAll() const;
+    void acceptAll();
+
+    void exportPicture();
+    /// The part of the picture that is seen as PNG, with a time scale. Returns why not; empty when
+    /// it is written.
+    [[nodiscard]] QString exportTo(const QString& file);
+
+signals:
+    /// The race beside the film is to be opened in split taking, and handed over by setRace().
+    void raceRequested(const QString& path);
+    void pathsChanged();
+
+protected:
+    void takeFiles(const QStringList& paths) override;
+
+private:
+    void makeParts();
+    [[nodiscard]] QWidget* makePanel();
+    void connectParts();
+    void connectLines();
+    void followFilm();
+    void showLines();
+    void showPicture();
+    void showRuns();
+    void showState();
+    void drawn(std::size_t line, const QPointF& first, const QPointF& second);
+    void editLine(const std::function<void(slitline001&)>& change);
+    void followRun();
+    void moveMark(int run, double column);
+    [[nodiscard]] QString markAt(int run, double column);
+    [[nodiscard]] std::optional<Proposal> proposalAtHair() const;
+    void refuse(const QString& why);
+    void tell(const QString& text);
+
+    QString m_film;
+    SlitKeeping m_keeping;
+    SlitLoader m_loader;
+    SlitRace m_race;
+    CrossingSearch m_search;
+    std::size_t m_line = 0;
+    int m_run = -1; ///< of the race
+    bool m_isFiner = false;
+    QString m_told;
+    ColumnModel<SlitRunRow> m_runs;
+    ColumnModel<ProposalRow> m_proposals;
+    FilmDeck* m_deck;
+    FilmView* m_filmView = nullptr;
+    LineOverlay* m_overlay = nullptr;
+    SlitView* m_view = nullptr;
+    QComboBox* m_lineBox = nullptr;
+    QComboBox* m_splitBox = nullptr;
+    ColumnTable* m_runTable = nullptr;
+    ColumnTable* m_proposalTable = nullptr;
+    QPushButton* m_openRace = nullptr;
+    QLabel* m_raceName = nullptr;
+    QCheckBox* m_finer = nullptr;
+    QProgressBar* m_progress = nullptr;
+    FaultLabel* m_note = nullptr;
+    SlitActions* m_actions = nullptr;
+};
+
+} // namespace kavela::desktop
