@@ -33,6 +33,7 @@ enum class OpensAs {
     Season,      ///< a team with its races, where the coach asks for it
     Fetch,       ///< films that are fetched, which opens sources and lists of its own
     Comparison, ///< of films
+    SlitPicture, ///< a film, where the coach asks for it: by content it is to be timed
     NotReady
 };
 

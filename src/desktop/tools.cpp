@@ -1,5 +1,6 @@
 #include "desktop/tools.h"
 
+#include "desktop/barrier/slit_window.h"
 #include "desktop/compose/compare_window.h"
 #include "desktop/cross/cross_window.h"
 #include "desktop/fetch/fetch_window.h"
@@ -96,6 +97,14 @@ std::vector<ToolKind> makeTools() {
          Choice::Document,
          {tr("Comparisons of films"), tr("Comparisons"), "json", tr("Comparison")},
          makeEditor<CompareWindow>},
+        {"slit",
+         OpensAs::SlitPicture,
+         tr("Slit picture"),
+         tr("A finish camera made of the film of a tripod: every crossing of a line at a glance."),
+         "slit",
+         Choice::Files,
+         {tr("Open films of a fixed camera"), tr("Films"), "mp4", {}},
+         makeReader<SlitWindow>},
         {"team",
          OpensAs::Team,
          tr("Team"),
