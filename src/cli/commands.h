@@ -29,6 +29,7 @@ void addSeason(Command program, int& status, const Painting* painting);
 void addTable(Command program, int& status);
 void addCompose(Command program, int& status, const Painting* painting);
 void addFetch(Command program, int& status, const Painting* painting);
+void addSlit(Command program, int& status, const Painting* painting);
 void addDemo(Command program, int& status, const Painting* painting);
 
 } // namespace kavela::cli

@@ -9,6 +9,7 @@
 #include "results/selection_records.h"
 #include "splitdata/document.h"
 
+#include <array>
 #include <cstddef>
 #include <filesystem>
 #include <optional>
@@ -24,6 +25,19 @@ struct FilmFetchCall {
     std::string user;       ///< empty where the server asks for none
     bool showsOnly = false; ///< nothing is to be fetched
     bool isAgreed = false;  ///< nobody is asked
+};
+
+/// What is shown of a film's line, and how.
+struct SlitCall {
+    std::string film;
+    std::array<double, 4> line{}; ///< X1, Y1, X2, Y2 in pixels of the upright picture
+    std::optional<double> from;   ///< seconds of the film
+    std::optional<double> to;
+    std::string output; ///< a picture; empty for none
+    bool isJson = false;
+    bool hasProposals = false;
+    std::array<double, 4> boat{}; ///< X, Y, width, height of a box round one boat
+    bool isFromLeft = true;
 };
 
 /// What commands do with libraries that take longer to load than a table takes to print: those that
@@ -82,6 +96,10 @@ public:
     /// Prints what would be fetched from a source, and fetches it where that is wanted. Returns the
     /// exit status.
     [[nodiscard]] virtual int fetchFilms(const FilmFetchCall& call) const = 0;
+
+    /// Writes the slit picture of a film's line, and prints its columns and what may have crossed
+    /// it where that is wanted. Returns the exit status.
+    [[nodiscard]] virtual int writeSlit(const SlitCall& call) const = 0;
 };
 
 /// Thrown by a command of a program without painting: the call is for `kavela-paint`.

@@ -5,6 +5,7 @@
 #include "painting/offscreen_application.h"
 #include "painting/report_files.h"
 #include "painting/season_film_files.h"
+#include "painting/slit_files.h"
 #include "preferences/preferences.h"
 #include "report/athlete_page.h"
 #include "report/pdf_file.h"
@@ -79,6 +80,10 @@ int OwnPainting::composeFilm(const fs::path& job, const fs::path& output) const 
 
 int OwnPainting::fetchFilms(const cli::FilmFetchCall& call) const {
     return painting::fetchFilms(call);
+}
+
+int OwnPainting::writeSlit(const cli::SlitCall& call) const {
+    return painting::writeSlit(call);
 }
 
 } // namespace kavela::painting

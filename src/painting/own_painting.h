@@ -25,6 +25,7 @@ public:
     [[nodiscard]] int composeFilm(const std::filesystem::path& job,
                                   const std::filesystem::path& output) const override;
     [[nodiscard]] int fetchFilms(const cli::FilmFetchCall& call) const override;
+    [[nodiscard]] int writeSlit(const cli::SlitCall& call) const override;
 };
 
 } // namespace kavela::painting
