@@ -1,8 +1,6 @@
 #include "desktop/barrier/slit_race.h"
 
 #include "desktop/shell/qt_text.h"
-#include "desktop/shell/tool_window.h"
-#include "desktop/splitfile/taking_document.h"
 #include "splitdata/run_timing.h"
 #include "splittaking/film_crossings.h"
 

@@ -1,6 +1,8 @@
 #pragma once
 
 #include "common/cm_time.h"
+#include "desktop/shell/tool_window.h"
+#include "desktop/splitfile/taking_document.h"
 
 #include <QObject>
 #include <QPointer>
@@ -10,9 +12,6 @@
 #include <vector>
 
 namespace kavela::desktop {
-
-class TakingDocument;
-class ToolWindow;
 
 /// A run that is seen on the film, at one of its lines.
 struct SlitRun {

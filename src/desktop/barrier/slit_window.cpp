@@ -14,7 +14,6 @@
 #include "desktop/shell/theme.h"
 #include "desktop/shell/window_place.h"
 #include "desktop/shell/workspace.h"
-#include "desktop/splitfile/taking_document.h"
 #include "desktop/splitfile/taking_files.h"
 #include "splittaking/film_crossings.h"
 #include "splittaking/video_names.h"
