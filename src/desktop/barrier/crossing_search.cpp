@@ -58,7 +58,9 @@ void CrossingSearch::search(const slitline001& line) {
                                  });
         },
         [this, request](std::optional<Crossings> crossings) {
-            take(request.line, request.boat, std::move(crossings));
+            stop();
+            if (crossings)
+                keep(request.line, request.boat, std::move(*crossings));
         },
         {.failed = [this](const std::exception_ptr& fault) {
             stop();
@@ -68,13 +70,9 @@ void CrossingSearch::search(const slitline001& line) {
     emit changed();
 }
 
-void CrossingSearch::take(const SlitLine& line, const BoatBox& boat,
-                          std::optional<Crossings> crossings) {
-    stop();
-    if (crossings) {
-        std::erase_if(m_found, [&](const Found& found) { return found.line == line; });
-        m_found.push_back({line, boat, std::move(*crossings)});
-    }
+void CrossingSearch::keep(const SlitLine& line, const BoatBox& boat, Crossings crossings) {
+    std::erase_if(m_found, [&](const Found& found) { return found.line == line; });
+    m_found.push_back({line, boat, std::move(crossings)});
     emit changed();
 }
 

@@ -27,6 +27,8 @@ public:
     /// Looks for the boats of one line, in place of what is being looked for.
     void search(const slitline001& line);
     void cancel();
+    /// Keeps what was found on a line, as a search of it does, in place of what was found before.
+    void keep(const SlitLine& line, const BoatBox& boat, Crossings crossings);
     [[nodiscard]] bool isSearching() const { return m_isSearching; }
     /// How far it is, 0 to 1.
     [[nodiscard]] double share() const;
@@ -51,7 +53,6 @@ private:
 
     [[nodiscard]] const Found* find(const slitline001& line) const;
     void stop();
-    void take(const SlitLine& line, const BoatBox& boat, std::optional<Crossings> crossings);
 
     std::shared_ptr<const VideoIndex> m_index;
     std::vector<Found> m_found;

@@ -46,6 +46,7 @@ public:
     [[nodiscard]] SlitKeeping& keeping() { return m_keeping; }
     [[nodiscard]] SlitLoader& loader() { return m_loader; }
     [[nodiscard]] SlitRace& race() { return m_race; }
+    [[nodiscard]] CrossingSearch& search() { return m_search; }
     [[nodiscard]] FilmDeck& deck() const { return *m_deck; }
     [[nodiscard]] SlitView& view() const { return *m_view; }
     [[nodiscard]] LineOverlay& overlay() const { return *m_overlay; }
