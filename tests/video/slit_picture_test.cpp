@@ -56,7 +56,7 @@ int numberInColumn(const SlitPicture& picture, FrameNumber column, bool isBackwa
 
 class SlitOfClip : public ::testing::TestWithParam<const char*> {};
 
-/// Deep colours, frames that are stored out of order, a variable rate, a film that is cut off.
+/// Deep colours and full ones, frames that are stored out of order, a variable rate.
 TEST_P(SlitOfClip, HasAColumnForEachFrame) {
     const Read read = readClip(GetParam(), {.lines = {AcrossBlocks}});
     ASSERT_GT(read.reading.columns, 60);
@@ -68,7 +68,17 @@ TEST_P(SlitOfClip, HasAColumnForEachFrame) {
 
 INSTANTIATE_TEST_SUITE_P(Films, SlitOfClip,
                          ::testing::Values("h264_50.mp4", "variable.mp4", "open_hevc.mp4",
-                                           "intra.mov", "cut_front.mp4"));
+                                           "intra.mov"));
+
+TEST(SlitPicture, ShowsWhatIsLeftOfAFilmThatWasCutOff) {
+    const Read read = readClip("cut_front.mp4", {.lines = {AcrossBlocks}});
+    constexpr FrameNumber Torn = 10; // frames that build on what is not there any more
+    ASSERT_GT(read.picture.columns, 60);
+    ASSERT_LT(read.picture.columns, 200);
+    EXPECT_EQ(read.picture.columns, read.reading.columns);
+    for (FrameNumber column = 0; column < read.picture.columns - Torn; ++column)
+        ASSERT_EQ(numberInColumn(read.picture, column), column);
+}
 
 TEST(SlitPicture, FollowsTheTurnOfTheFilm) {
     // Turned clockwise the first row of blocks is the right edge, from top to bottom.
