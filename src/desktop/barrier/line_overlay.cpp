@@ -144,7 +144,10 @@ void LineOverlay::mouseMoveEvent(QMouseEvent* event) {
             setCursor(gripAt(event->position()) ? Qt::SizeAllCursor : Qt::ArrowCursor);
         return;
     }
-    const QPointF to = filmPlace(event->position());
+    dragTo(filmPlace(event->position()));
+}
+
+void LineOverlay::dragTo(const QPointF& to) {
     if (m_grip)
         moveEnd(to - m_to);
     m_to = to;
@@ -178,7 +181,9 @@ void LineOverlay::moveEnd(const QPointF& by) {
     update();
 }
 
-void LineOverlay::mouseReleaseEvent(QMouseEvent*) {
+void LineOverlay::mouseReleaseEvent(QMouseEvent* event) {
+    if (m_grip || m_isDrawing)
+        dragTo(filmPlace(event->position()));
     const auto grip = std::exchange(m_grip, std::nullopt);
     const bool isDrawing = std::exchange(m_isDrawing, false);
     if (grip && grip->line < m_lines.size()) {

@@ -55,6 +55,7 @@ private:
     [[nodiscard]] QRectF picture() const;
     [[nodiscard]] std::optional<Grip> gripAt(const QPointF& place) const;
     [[nodiscard]] QLineF shown(const slitline001& line) const;
+    void dragTo(const QPointF& to);
     void moveEnd(const QPointF& by);
     void paintLine(QPainter& painter, std::size_t line) const;
 

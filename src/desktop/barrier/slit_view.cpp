@@ -244,6 +244,7 @@ void SlitView::mouseReleaseEvent(QMouseEvent* event) {
     const double place = event->position().x();
     const bool isClick = std::abs(place - m_pressed) < DragStart;
     if (drag == Drag::Mark && !isClick) {
+        m_draggedTo = std::clamp(columnAt(place), 0.0, columns() - 1e-6);
         emit markDropped(m_dragged, m_draggedTo);
     } else if (drag == Drag::Press || (drag == Drag::Mark && isClick)) {
         m_hair =

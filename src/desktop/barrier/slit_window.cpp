@@ -158,6 +158,7 @@ void SlitWindow::connectParts() {
     connect(&m_search, &CrossingSearch::changed, this, &SlitWindow::showRuns);
     connect(&m_search, &CrossingSearch::failed, this, &SlitWindow::tell);
     connect(m_runTable, &ColumnTable::chosen, this, &SlitWindow::followRun);
+    connect(m_runTable, &ColumnTable::clicked, this, &SlitWindow::goToRun);
     connect(m_proposalTable, &ColumnTable::chosen, this, [this] {
         if (const int place = m_proposalTable->currentPlace();
             place >= 0 && m_proposalTable->hasFocus() && m_loader.index())
@@ -329,12 +330,9 @@ void SlitWindow::showRuns() {
         crossings.push_back(proposal.seconds);
     std::vector<std::optional<double>> marked;
     std::vector<SlitRunRow> rows;
-    std::vector<SlitMark> marks;
     for (const SlitRun& run : runs) {
         marked.push_back(run.seconds);
         rows.push_back({run, std::nullopt, line() && m_search.isSearched(*line())});
-        if (run.seconds)
-            marks.push_back({*run.seconds, run.crew, run.run, run.run == m_run});
     }
     const auto owners = runsOfCrossings(crossings, marked);
     std::vector<ProposalRow> proposed;
@@ -349,10 +347,12 @@ void SlitWindow::showRuns() {
     }
     m_runs.show(std::move(rows));
     m_proposals.show(std::move(proposed));
-    m_view->setMarks(std::move(marks));
     m_view->setGuesses(std::move(guesses));
-    if (m_run < 0 && !runs.empty())
+    if (m_run < 0 && !runs.empty()) {
         m_runTable->choose(0);
+        m_run = runs.front().run; // also where it was chosen already
+    }
+    showMarks();
     showState();
 }
 
@@ -428,7 +428,12 @@ void SlitWindow::drawn(std::size_t number, const QPointF& first, const QPointF& 
         return;
     }
     m_told.clear();
+    const bool isNew = number >= m_keeping.file().lines.size();
+    if (isNew || number != m_line)
+        m_run = -1;
     m_line = number;
+    if (isNew) // what is dragged keeps the arrow keys
+        m_view->setFocus();
     m_keeping.edit([&](slitfile001& file) {
         file.width = size.width;
         file.height = size.height;
@@ -445,7 +450,6 @@ void SlitWindow::drawn(std::size_t number, const QPointF& first, const QPointF& 
         line.x2 = second.x();
         line.y2 = second.y();
     });
-    m_view->setFocus();
 }
 
 void SlitWindow::editLine(const std::function<void(slitline001&)>& change) {
@@ -536,20 +540,37 @@ void SlitWindow::stepRun(int step) {
         m_runTable->choose(place);
 }
 
-/// The hair line goes to where the run is marked, or may have crossed; else it stays.
+/// The first run of a line comes to the front without anything else, another one with its place.
 void SlitWindow::followRun() {
     const int place = m_runTable->currentPlace();
-    if (place < 0 || place >= static_cast<int>(m_runs.rows().size()))
+    if (place < 0 || place >= static_cast<int>(m_runs.rows().size()) ||
+        m_runs.row(place).run.run == m_run)
+        return;
+    const bool wasNone = std::exchange(m_run, m_runs.row(place).run.run) < 0;
+    showMarks();
+    if (!wasNone)
+        goToRun();
+}
+
+/// The hair line goes to where the run is marked, or may have crossed; else it stays.
+void SlitWindow::goToRun() {
+    const int place = m_runTable->currentPlace();
+    const auto index = m_loader.index();
+    if (place < 0 || place >= static_cast<int>(m_runs.rows().size()) || !index)
         return;
     const SlitRunRow row = m_runs.row(place);
-    const bool wasNone = std::exchange(m_run, row.run.run) < 0;
-    const auto index = m_loader.index();
-    const auto seconds = row.run.seconds ? row.run.seconds
-                         : row.proposal  ? std::optional(row.proposal->seconds)
-                                         : std::nullopt;
-    if (index && seconds && !wasNone)
-        setHair(slitColumnAt(*index, 0, *seconds));
-    showRuns();
+    if (row.run.seconds)
+        setHair(slitColumnAt(*index, 0, *row.run.seconds));
+    else if (row.proposal)
+        setHair(slitColumnAt(*index, 0, row.proposal->seconds));
+}
+
+void SlitWindow::showMarks() {
+    std::vector<SlitMark> marks;
+    for (const SlitRunRow& row : m_runs.rows())
+        if (row.run.seconds)
+            marks.push_back({*row.run.seconds, row.run.crew, row.run.run, row.run.run == m_run});
+    m_view->setMarks(std::move(marks));
 }
 
 QString SlitWindow::markAt(int run, double column) {

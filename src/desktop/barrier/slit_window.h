@@ -115,6 +115,8 @@ private:
     void drawn(std::size_t line, const QPointF& first, const QPointF& second);
     void editLine(const std::function<void(slitline001&)>& change);
     void followRun();
+    void goToRun();
+    void showMarks();
     void moveMark(int run, double column);
     [[nodiscard]] QString markAt(int run, double column);
     [[nodiscard]] std::optional<Proposal> proposalAtHair() const;
