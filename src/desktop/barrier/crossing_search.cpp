@@ -92,6 +92,11 @@ std::vector<Proposal> CrossingSearch::proposals(const slitline001& line) const {
     return proposals;
 }
 
+std::vector<Proposal> CrossingSearch::allProposals(const slitline001& line) const {
+    const Found* const found = find(line);
+    return found ? found->crossings.proposals : std::vector<Proposal>();
+}
+
 QStringList CrossingSearch::notes(const slitline001& line) const {
     const Found* const found = find(line);
     if (!found)

@@ -35,6 +35,8 @@ public:
 
     /// What was found on a line as it is now, without what was refused there; in the order of time.
     [[nodiscard]] std::vector<Proposal> proposals(const slitline001& line) const;
+    /// The same with what was refused.
+    [[nodiscard]] std::vector<Proposal> allProposals(const slitline001& line) const;
     /// Whether it was looked for there.
     [[nodiscard]] bool isSearched(const slitline001& line) const { return find(line) != nullptr; }
     /// What there is to say of it, a sentence each.

@@ -39,6 +39,10 @@ SlitStrip::SlitStrip(FilmDeck& deck, const TimeLine& line, QWidget* parent)
     m_loader.setMostHeight(2 * StripPixels);
     hide();
     connect(&m_deck, &FilmDeck::indexChanged, this, &SlitStrip::follow);
+    connect(&m_deck, &FilmDeck::stateChanged, this, [this] {
+        if (m_deck.views() == 0) // the film is gone
+            follow();
+    });
     connect(&m_deck, &FilmDeck::frameShown, this, [this] { update(); });
     connect(&m_loader, &SlitLoader::grown, this, [this] { update(); });
 }

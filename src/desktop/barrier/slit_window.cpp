@@ -4,33 +4,23 @@
 #include "common/error.h"
 #include "desktop/barrier/line_overlay.h"
 #include "desktop/barrier/slit_actions.h"
+#include "desktop/barrier/slit_panel.h"
 #include "desktop/barrier/slit_view.h"
 #include "desktop/film/film_deck.h"
 #include "desktop/film/film_memory.h"
 #include "desktop/film/film_view.h"
-#include "desktop/shell/fault_label.h"
 #include "desktop/shell/qt_text.h"
 #include "desktop/shell/tables/column_table.h"
 #include "desktop/shell/theme.h"
 #include "desktop/shell/window_place.h"
 #include "desktop/shell/workspace.h"
 #include "desktop/splitfile/taking_files.h"
-#include "splittaking/film_crossings.h"
 #include "splittaking/video_names.h"
-#include "vision/barrier_figures.h"
 
-#include <QCheckBox>
-#include <QComboBox>
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
-#include <QHBoxLayout>
-#include <QLabel>
-#include <QProgressBar>
-#include <QPushButton>
-#include <QSignalBlocker>
 #include <QSplitter>
-#include <QVBoxLayout>
 
 #include <algorithm>
 #include <cmath>
@@ -40,10 +30,6 @@ namespace kavela::desktop {
 
 namespace {
 
-/// A proposal is the one at the hair line within this, in seconds.
-constexpr double ProposalReach = 0.5;
-constexpr double SureProposal = 0.5; ///< confidence
-
 QString slitFilmFilter() {
     return SlitWindow::tr("Films (*.mp4 *.mov *.m4v *.avi *.mkv *.mts *.m2ts);;All files (*)");
 }
@@ -52,8 +38,7 @@ QString slitFilmFilter() {
 
 SlitWindow::SlitWindow(Workspace& workspace)
     : ToolWindow(workspace, nullptr, {"slit", tr("Slit picture"), "mp4"}),
-      m_runs(slitRunColumns(), RowsKnownBy::Number),
-      m_proposals(proposalColumns(), RowsKnownBy::Number),
+      m_marking(m_keeping, m_race, m_search),
       m_deck(new FilmDeck(FilmMemory::of(workspace), this)) {
     makeParts();
     connectParts();
@@ -71,14 +56,14 @@ SlitWindow::~SlitWindow() {
     m_loader.disconnect(this);
     m_search.disconnect(this);
     m_keeping.disconnect(this);
-    m_runTable->disconnect(this);
-    m_proposalTable->disconnect(this);
+    m_panel->disconnect(this);
 }
 
 void SlitWindow::makeParts() {
     m_filmView = new FilmView(*m_deck, 0);
     m_overlay = new LineOverlay(*m_filmView);
     m_view = new SlitView;
+    m_panel = new SlitPanel;
     auto* const pictures = new QSplitter(Qt::Vertical);
     pictures->setChildrenCollapsible(false);
     pictures->addWidget(m_filmView);
@@ -91,54 +76,11 @@ void SlitWindow::makeParts() {
     whole->setChildrenCollapsible(false);
     whole->setContentsMargins(theme::Spacing, theme::Spacing, theme::Spacing, theme::Spacing);
     whole->addWidget(pictures);
-    whole->addWidget(makePanel());
+    whole->addWidget(m_panel);
     whole->setStretchFactor(0, 1);
     shareSizes(*whole, {900, 360});
     rememberSizes(*whole, workspace(), "slitParts");
     setCentralWidget(whole);
-}
-
-QWidget* SlitWindow::makePanel() {
-    m_lineBox = new QComboBox;
-    m_lineBox->setObjectName("slitLine");
-    m_splitBox = new QComboBox;
-    m_splitBox->setObjectName("slitSplit");
-    m_raceName = new QLabel;
-    m_raceName->setTextFormat(Qt::PlainText);
-    m_raceName->setWordWrap(true);
-    m_openRace = new QPushButton(tr("Open the &race…"));
-    m_openRace->setObjectName("openRace");
-    m_runTable = new ColumnTable(m_runs, "slitRuns");
-    m_runTable->keepOrder();
-    m_runTable->stretch({0});
-    m_proposalTable = new ColumnTable(m_proposals, "slitProposals");
-    m_proposalTable->setEmptyText(
-        tr("Draw a box round one boat (B), then look for boats (Ctrl+B): where they may have "
-           "crossed is listed here."));
-    m_proposalTable->stretch({2});
-    m_finer = new QCheckBox(tr("Times &finer than the frame"));
-    m_finer->setToolTip(tr("The time of the split follows the hair line between two frames; the "
-                           "mark itself stays on the frame."));
-    m_progress = new QProgressBar;
-    m_progress->setMaximumHeight(18);
-    m_note = new FaultLabel;
-    auto* const panel = new QWidget;
-    panel->setMinimumWidth(300);
-    auto* const lines = new QHBoxLayout;
-    lines->addWidget(m_lineBox, 1);
-    lines->addWidget(new QLabel(tr("marks")));
-    lines->addWidget(m_splitBox, 1);
-    auto* const column = new QVBoxLayout(panel);
-    column->setContentsMargins(theme::Spacing, 0, 0, 0);
-    column->addLayout(lines);
-    column->addWidget(m_raceName);
-    column->addWidget(m_openRace);
-    column->addWidget(m_runTable, 3);
-    column->addWidget(m_finer);
-    column->addWidget(m_proposalTable, 2);
-    column->addWidget(m_progress);
-    column->addWidget(m_note);
-    return panel;
 }
 
 void SlitWindow::connectParts() {
@@ -157,15 +99,14 @@ void SlitWindow::connectParts() {
     connect(&m_race, &SlitRace::changed, this, &SlitWindow::showLines);
     connect(&m_search, &CrossingSearch::changed, this, &SlitWindow::showRuns);
     connect(&m_search, &CrossingSearch::failed, this, &SlitWindow::tell);
-    connect(m_runTable, &ColumnTable::chosen, this, &SlitWindow::followRun);
-    connect(m_runTable, &ColumnTable::clicked, this, &SlitWindow::goToRun);
-    connect(m_proposalTable, &ColumnTable::chosen, this, [this] {
-        if (const int place = m_proposalTable->currentPlace();
-            place >= 0 && m_proposalTable->hasFocus() && m_loader.index())
-            setHair(slitColumnAt(*m_loader.index(), 0, m_proposals.row(place).proposal.seconds));
+    connect(m_panel, &SlitPanel::runChosen, this, &SlitWindow::followRun);
+    connect(m_panel, &SlitPanel::runClicked, this, &SlitWindow::goToRun);
+    connect(m_panel, &SlitPanel::proposalChosen, this, [this](double seconds) {
+        if (m_loader.index())
+            setHair(slitColumnAt(*m_loader.index(), 0, seconds));
     });
-    connect(m_openRace, &QPushButton::clicked, this, [this] { emit raceRequested(raceOfFilm()); });
-    connect(m_finer, &QCheckBox::toggled, this, &SlitWindow::setFiner);
+    connect(m_panel, &SlitPanel::raceWanted, this, [this] { emit raceRequested(raceOfFilm()); });
+    connect(m_panel, &SlitPanel::finerChosen, this, &SlitWindow::setFiner);
 }
 
 void SlitWindow::connectLines() {
@@ -175,7 +116,7 @@ void SlitWindow::connectLines() {
     connect(m_overlay, &LineOverlay::lineDrawn, this, &SlitWindow::drawn);
     connect(m_overlay, &LineOverlay::boatDrawn, this, [this](const QRectF& box) {
         m_overlay->setTool(LineOverlay::Tool::None);
-        editLine([&](slitline001& line) {
+        m_marking.edit([&](slitline001& line) {
             line.boatX = box.x();
             line.boatY = box.y();
             line.boatWidth = box.width();
@@ -183,14 +124,22 @@ void SlitWindow::connectLines() {
         });
     });
     connect(m_overlay, &LineOverlay::left, this, [this] { m_view->setFocus(); });
-    connect(m_lineBox, &QComboBox::activated, this, [this](int line) {
-        chooseLine(static_cast<std::size_t>(line));
+    connect(m_panel, &SlitPanel::lineChosen, this, [this](std::size_t line) {
+        chooseLine(line);
         m_view->setFocus();
     });
-    connect(m_splitBox, &QComboBox::activated, this, [this](int split) {
-        setSplit(static_cast<std::size_t>(split));
+    connect(m_panel, &SlitPanel::splitChosen, this, [this](std::size_t split) {
+        setSplit(split);
         m_view->setFocus();
     });
+}
+
+ColumnTable& SlitWindow::runTable() const {
+    return m_panel->runTable();
+}
+
+ColumnTable& SlitWindow::proposalTable() const {
+    return m_panel->proposalTable();
 }
 
 QStringList SlitWindow::paths() const {
@@ -205,7 +154,8 @@ bool SlitWindow::open(const QString& path) {
         return false;
     }
     m_film = info.absoluteFilePath();
-    m_line = 0;
+    m_marking.setNumber(0);
+    m_marking.setIndex(nullptr);
     m_run = -1;
     m_told.clear();
     m_loader.setFilm(nullptr);
@@ -265,39 +215,22 @@ void SlitWindow::followFilm() {
     m_overlay->setFilmSize({size.width, size.height});
     if (!index->isComplete())
         return;
+    m_marking.setIndex(index);
     m_loader.setFilm(index);
     m_search.setFilm(index);
     showPicture();
     showRuns();
 }
 
-const slitline001* SlitWindow::line() const {
-    const auto& lines = m_keeping.file().lines;
-    return m_line < lines.size() ? &lines[m_line] : nullptr;
-}
-
 void SlitWindow::showLines() {
     const auto& lines = m_keeping.file().lines;
-    if (m_line >= lines.size())
-        m_line = 0;
+    if (m_marking.number() >= lines.size())
+        m_marking.setNumber(0);
     std::vector<SlitLine> drawn;
     for (const slitline001& each : lines)
         drawn.push_back(lineOf(each));
-    const QSignalBlocker quiet(m_lineBox);
-    const QSignalBlocker still(m_splitBox);
-    m_lineBox->clear();
-    for (std::size_t number = 0; number < lines.size(); ++number)
-        m_lineBox->addItem(tr("Line %1").arg(number + 1));
-    m_lineBox->setCurrentIndex(lines.empty() ? -1 : static_cast<int>(m_line));
-    m_lineBox->setEnabled(!lines.empty());
-    m_splitBox->clear();
-    const std::size_t split =
-        line() ? static_cast<std::size_t>(std::max<std::int64_t>(line()->split, 0)) : 0;
-    for (std::size_t each = 0; each <= std::max(m_race.splits(), split); ++each)
-        m_splitBox->addItem(m_race.titleOf(each));
-    m_splitBox->setCurrentIndex(line() ? static_cast<int>(split) : -1);
-    m_splitBox->setEnabled(line() != nullptr);
-    m_overlay->setLines(lines, m_line);
+    m_panel->showLines(m_marking, lines.size(), m_race);
+    m_overlay->setLines(lines, m_marking.number());
     m_loader.setLines(drawn);
     showPicture();
     showRuns();
@@ -311,69 +244,33 @@ void SlitWindow::showPicture() {
                                     "what stands on it is shown here over time."));
     else
         m_view->setMessage(m_loader.told().isEmpty() ? tr("Reading the film…") : m_loader.told());
-    m_view->setPicture(line() ? &m_loader.picture(m_line) : nullptr, m_loader.index());
+    m_view->setPicture(line() ? &m_loader.picture(lineNumber()) : nullptr, m_loader.index());
     showState();
 }
 
-std::vector<Proposal> SlitWindow::proposals() const {
-    return line() ? m_search.proposals(*line()) : std::vector<Proposal>();
-}
-
-/// Runs, marks and proposals belong together: each proposal falls to a run.
 void SlitWindow::showRuns() {
-    const std::size_t split =
-        line() ? static_cast<std::size_t>(std::max<std::int64_t>(line()->split, 0)) : 0;
-    const std::vector<SlitRun> runs = line() ? m_race.runs(split) : std::vector<SlitRun>();
-    const std::vector<Proposal> found = proposals();
-    std::vector<double> crossings;
-    for (const Proposal& proposal : found)
-        crossings.push_back(proposal.seconds);
-    std::vector<std::optional<double>> marked;
-    std::vector<SlitRunRow> rows;
-    for (const SlitRun& run : runs) {
-        marked.push_back(run.seconds);
-        rows.push_back({run, std::nullopt, line() && m_search.isSearched(*line())});
-    }
-    const auto owners = runsOfCrossings(crossings, marked);
-    std::vector<ProposalRow> proposed;
     std::vector<SlitGuess> guesses;
-    for (std::size_t i = 0; i < found.size(); ++i) {
-        const auto owner = owners[i];
-        proposed.push_back(
-            {found[i], owner ? runs[*owner].crew : QString(), owner && marked[*owner].has_value()});
-        guesses.push_back({found[i].seconds, found[i].confidence});
-        if (owner && !rows[*owner].proposal)
-            rows[*owner].proposal = found[i];
-    }
-    m_runs.show(std::move(rows));
-    m_proposals.show(std::move(proposed));
+    for (const Proposal& proposal : m_marking.proposals())
+        guesses.push_back({proposal.seconds, proposal.confidence});
     m_view->setGuesses(std::move(guesses));
-    if (m_run < 0 && !runs.empty()) {
-        m_runTable->choose(0);
-        m_run = runs.front().run; // also where it was chosen already
+    m_panel->showRows(m_marking.rows());
+    if (m_run < 0 && !m_panel->runs().empty()) {
+        m_panel->runTable().choose(0);
+        m_run = m_panel->runs().front().run.run; // also where it was chosen already
     }
     showMarks();
     showState();
 }
 
 void SlitWindow::showState() {
-    m_openRace->setVisible(!m_race.isThere() && !m_film.isEmpty());
-    const bool hasRuns = !m_runs.rows().empty();
-    m_raceName->setText(m_race.isThere() ? tr("Marks go into %1").arg(m_race.name())
-                                         : tr("Marks need the race of this film in split taking."));
-    m_runTable->setEmptyText(
-        m_race.isThere() && line() && !hasRuns
-            ? tr("No run of %1 has the film %2. Add it there as a film of the runs or as a fixed "
-                 "camera.")
-                  .arg(m_race.name(), QFileInfo(m_film).fileName())
-            : tr("The runs that are seen on this film are listed here."));
-    const bool isBusy = m_loader.isReading() || m_search.isSearching();
-    m_progress->setVisible(isBusy);
-    m_progress->setFormat(m_loader.isReading() ? tr("Reading the film: %p %")
-                                               : tr("Looking for boats: %p %"));
-    m_progress->setValue(
-        static_cast<int>(100 * (m_loader.isReading() ? m_loader.share() : m_search.share())));
-    m_note->tell(told());
+    m_panel->showRace(m_race, QFileInfo(m_film).fileName(), line() != nullptr);
+    if (m_loader.isReading())
+        m_panel->showWork(tr("Reading the film:"), m_loader.share());
+    else if (m_search.isSearching())
+        m_panel->showWork(tr("Looking for boats:"), m_search.share());
+    else
+        m_panel->showWork({}, 0);
+    m_panel->tell(told());
     if (m_actions)
         m_actions->refresh();
 }
@@ -382,7 +279,7 @@ QString SlitWindow::told() const {
     QStringList notes;
     if (!m_told.isEmpty())
         notes.append(m_told);
-    if (line() && !m_loader.picture(m_line).tiles.empty() && !m_loader.told().isEmpty())
+    if (line() && !m_loader.picture(lineNumber()).tiles.empty() && !m_loader.told().isEmpty())
         notes.append(m_loader.told());
     if (line())
         notes.append(m_search.notes(*line()));
@@ -429,9 +326,9 @@ void SlitWindow::drawn(std::size_t number, const QPointF& first, const QPointF& 
     }
     m_told.clear();
     const bool isNew = number >= m_keeping.file().lines.size();
-    if (isNew || number != m_line)
+    if (isNew || number != lineNumber())
         m_run = -1;
-    m_line = number;
+    m_marking.setNumber(number);
     if (isNew) // what is dragged keeps the arrow keys
         m_view->setFocus();
     m_keeping.edit([&](slitfile001& file) {
@@ -452,15 +349,10 @@ void SlitWindow::drawn(std::size_t number, const QPointF& first, const QPointF& 
     });
 }
 
-void SlitWindow::editLine(const std::function<void(slitline001&)>& change) {
-    if (line())
-        m_keeping.edit([&](slitfile001& file) { change(file.lines[m_line]); });
-}
-
 void SlitWindow::chooseLine(std::size_t number) {
-    if (number >= m_keeping.file().lines.size() || number == m_line)
+    if (number >= m_keeping.file().lines.size() || number == lineNumber())
         return;
-    m_line = number;
+    m_marking.setNumber(number);
     m_run = -1;
     showLines();
 }
@@ -468,8 +360,9 @@ void SlitWindow::chooseLine(std::size_t number) {
 void SlitWindow::stepLine(int step) {
     const std::size_t count = m_keeping.file().lines.size();
     if (count > 1)
-        chooseLine((m_line + count + static_cast<std::size_t>(step + static_cast<int>(count))) %
-                   count);
+        chooseLine(
+            (lineNumber() + count + static_cast<std::size_t>(step + static_cast<int>(count))) %
+            count);
 }
 
 /// What was refused on it goes with it, which cannot be taken back.
@@ -484,17 +377,17 @@ void SlitWindow::removeLine() {
             tr("Remove the line"), this))
         return;
     m_keeping.edit([this](slitfile001& file) {
-        file.lines.erase(file.lines.begin() + static_cast<std::ptrdiff_t>(m_line));
+        file.lines.erase(file.lines.begin() + static_cast<std::ptrdiff_t>(lineNumber()));
     });
 }
 
 void SlitWindow::turnArrow() {
-    editLine([](slitline001& line) { line.fromLeft = !line.fromLeft; });
+    m_marking.edit([](slitline001& line) { line.fromLeft = !line.fromLeft; });
 }
 
 void SlitWindow::setSplit(std::size_t split) {
     m_run = -1;
-    editLine([&](slitline001& line) { line.split = static_cast<std::int64_t>(split); });
+    m_marking.edit([&](slitline001& line) { line.split = static_cast<std::int64_t>(split); });
 }
 
 void SlitWindow::setHair(double column) {
@@ -502,7 +395,8 @@ void SlitWindow::setHair(double column) {
     const auto index = m_deck->index(0);
     if (!index || index->frameCount() == 0)
         return;
-    m_deck->pause();
+    if (m_deck->isPlaying())
+        m_deck->pause();
     m_deck->seek(index->stampOf(slitFrameAt(*index, 0, m_view->hair())));
 }
 
@@ -515,38 +409,25 @@ void SlitWindow::refineHair(double frames) {
 }
 
 void SlitWindow::stepProposal(int step) {
-    const auto index = m_loader.index();
-    if (!index)
-        return;
-    const double now = slitSecondsAt(*index, 0, m_view->hair());
-    constexpr double Same = 1e-4;
-    std::optional<double> to;
-    for (const Proposal& proposal : proposals()) {
-        if (step < 0 && proposal.seconds < now - Same)
-            to = proposal.seconds;
-        if (step > 0 && proposal.seconds > now + Same && !to)
-            to = proposal.seconds;
-    }
-    if (to)
-        setHair(slitColumnAt(*index, 0, *to));
+    if (const auto to = m_marking.proposalBeside(m_view->hair(), step))
+        setHair(*to);
     else
         refuse(step < 0 ? tr("There is no proposal before this.")
                         : tr("There is no proposal behind this."));
 }
 
 void SlitWindow::stepRun(int step) {
-    const int place = m_runTable->currentPlace() + step;
-    if (place >= 0 && place < static_cast<int>(m_runs.rows().size()))
-        m_runTable->choose(place);
+    const int place = m_panel->runTable().currentPlace() + step;
+    if (place >= 0 && place < static_cast<int>(m_panel->runs().size()))
+        m_panel->runTable().choose(place);
 }
 
 /// The first run of a line comes to the front without anything else, another one with its place.
 void SlitWindow::followRun() {
-    const int place = m_runTable->currentPlace();
-    if (place < 0 || place >= static_cast<int>(m_runs.rows().size()) ||
-        m_runs.row(place).run.run == m_run)
+    const SlitRunRow* const row = m_panel->chosen();
+    if (!row || row->run.run == m_run)
         return;
-    const bool wasNone = std::exchange(m_run, m_runs.row(place).run.run) < 0;
+    const bool wasNone = std::exchange(m_run, row->run.run) < 0;
     showMarks();
     if (!wasNone)
         goToRun();
@@ -554,33 +435,22 @@ void SlitWindow::followRun() {
 
 /// The hair line goes to where the run is marked, or may have crossed; else it stays.
 void SlitWindow::goToRun() {
-    const int place = m_runTable->currentPlace();
+    const SlitRunRow* const row = m_panel->chosen();
     const auto index = m_loader.index();
-    if (place < 0 || place >= static_cast<int>(m_runs.rows().size()) || !index)
+    if (!row || !index)
         return;
-    const SlitRunRow row = m_runs.row(place);
-    if (row.run.seconds)
-        setHair(slitColumnAt(*index, 0, *row.run.seconds));
-    else if (row.proposal)
-        setHair(slitColumnAt(*index, 0, row.proposal->seconds));
+    if (row->run.seconds)
+        setHair(slitColumnAt(*index, 0, *row->run.seconds));
+    else if (row->proposal)
+        setHair(slitColumnAt(*index, 0, row->proposal->seconds));
 }
 
 void SlitWindow::showMarks() {
     std::vector<SlitMark> marks;
-    for (const SlitRunRow& row : m_runs.rows())
+    for (const SlitRunRow& row : m_panel->runs())
         if (row.run.seconds)
             marks.push_back({*row.run.seconds, row.run.crew, row.run.run, row.run.run == m_run});
     m_view->setMarks(std::move(marks));
-}
-
-QString SlitWindow::markAt(int run, double column) {
-    const auto index = m_deck->index(0);
-    if (!index || index->frameCount() == 0)
-        return tr("The film is not read so far.");
-    const FrameNumber frame = slitFrameAt(*index, 0, column);
-    const double beside = slitSecondsAt(*index, 0, column) - index->secondsOf(frame);
-    return m_race.mark(run, static_cast<std::size_t>(std::max<std::int64_t>(line()->split, 0)),
-                       index->stampOf(frame), m_isFiner ? std::optional(beside) : std::nullopt);
 }
 
 void SlitWindow::mark() {
@@ -594,28 +464,30 @@ void SlitWindow::mark() {
             refuse(tr("Marks need the race of this film: open it in split taking."));
         return;
     }
-    if (m_runs.rows().empty() || m_run < 0) {
-        refuse(m_runTable->emptyText());
+    if (m_panel->runs().empty() || m_run < 0) {
+        refuse(m_panel->runTable().emptyText());
         return;
     }
-    const int marked = m_runTable->currentPlace();
-    if (const QString why = markAt(m_run, m_view->hair()); !why.isEmpty()) {
+    const auto isInFront = [this](const SlitRunRow& row) { return row.run.run == m_run; };
+    const auto isOpen = [](const SlitRunRow& row) { return !row.run.seconds; };
+    if (const QString why = m_marking.mark(m_run, m_view->hair(), m_isFiner); !why.isEmpty()) {
         refuse(why);
         return;
     }
     tell({});
-    m_filmView->flash(m_runs.row(marked).run.crew);
-    const auto& rows = m_runs.rows();
-    const auto next = std::find_if(rows.begin() + marked, rows.end(),
-                                   [](const SlitRunRow& row) { return !row.run.seconds; });
-    if (next != rows.end())
-        m_runTable->choose(static_cast<int>(next - rows.begin()));
+    const auto& rows = m_panel->runs();
+    const auto marked = std::ranges::find_if(rows, isInFront);
+    if (marked == rows.end())
+        return;
+    m_filmView->flash(marked->run.crew);
+    if (const auto next = std::find_if(marked, rows.end(), isOpen); next != rows.end())
+        m_panel->runTable().choose(static_cast<int>(next - rows.begin()));
 }
 
 void SlitWindow::moveMark(int run, double column) {
     if (!line())
         return;
-    if (const QString why = markAt(run, column); !why.isEmpty())
+    if (const QString why = m_marking.mark(run, column, m_isFiner); !why.isEmpty())
         refuse(why);
     else
         setHair(column);
@@ -623,45 +495,22 @@ void SlitWindow::moveMark(int run, double column) {
 }
 
 void SlitWindow::unmark() {
-    if (!line())
-        return;
-    const QString why =
-        m_race.unmark(m_run, static_cast<std::size_t>(std::max<std::int64_t>(line()->split, 0)));
-    if (!why.isEmpty())
+    if (const QString why = m_marking.unmark(m_run); line() && !why.isEmpty())
         refuse(why);
 }
 
 void SlitWindow::setFiner(bool isFiner) {
     m_isFiner = isFiner;
-    m_finer->setChecked(isFiner);
-}
-
-std::optional<Proposal> SlitWindow::proposalAtHair() const {
-    const auto index = m_loader.index();
-    if (!index)
-        return std::nullopt;
-    const double now = slitSecondsAt(*index, 0, m_view->hair());
-    std::optional<Proposal> nearest;
-    for (const Proposal& proposal : proposals())
-        if (const double way = std::abs(proposal.seconds - now);
-            way <= (nearest ? std::abs(nearest->seconds - now) : ProposalReach))
-            nearest = proposal;
-    return nearest;
+    m_panel->setFiner(isFiner);
 }
 
 void SlitWindow::refuseProposal() {
-    const auto proposal = proposalAtHair();
-    if (!proposal) {
-        refuse(tr("There is no proposal at the hair line."));
-        return;
-    }
-    editLine([&](slitline001& line) {
-        line.refused.push_back({proposal->frame, proposal->seconds});
-    });
+    if (const QString why = m_marking.refuse(m_view->hair()); !why.isEmpty())
+        refuse(why);
 }
 
 void SlitWindow::forgetRefusals() {
-    editLine([](slitline001& line) { line.refused.clear(); });
+    m_marking.edit([](slitline001& line) { line.refused.clear(); });
 }
 
 void SlitWindow::searchBoats() {
@@ -673,37 +522,16 @@ void SlitWindow::searchBoats() {
     m_search.search(*line());
 }
 
-QString SlitWindow::lockOfAcceptAll() const {
-    const BarrierFigures& figures = measuredBarrierFigures();
-    return reachesTargets(figures) ? QString() : qtText(tellFigures(figures));
-}
-
-/// One step of undo, whatever the number of runs.
 void SlitWindow::acceptAll() {
-    if (const QString lock = lockOfAcceptAll(); !lock.isEmpty()) {
+    if (const QString lock = lockOfAcceptAll(); !lock.isEmpty())
         workspace().showAlert(
             {tr("Proposals are accepted one by one").toStdString(), lock.toStdString()}, this);
-        return;
-    }
-    const auto index = m_loader.index();
-    if (!line() || !m_race.isThere() || !index)
-        return;
-    const std::vector<SlitRunRow> rows = m_runs.rows();
-    QStringList refused;
-    QUndoStack& steps = m_race.document()->undoStack();
-    steps.beginMacro(tr("proposals accepted"));
-    for (const SlitRunRow& row : rows)
-        if (!row.run.seconds && row.proposal && row.proposal->confidence >= SureProposal)
-            if (const QString why =
-                    markAt(row.run.run, slitColumnAt(*index, 0, row.proposal->seconds));
-                !why.isEmpty())
-                refused.append(row.run.crew + QStringLiteral(": ") + why);
-    steps.endMacro();
-    tell(refused.join(' '));
+    else
+        tell(m_marking.acceptAll(m_isFiner));
 }
 
 void SlitWindow::exportPicture() {
-    if (!line() || m_loader.picture(m_line).tiles.empty()) {
+    if (!line() || m_loader.picture(lineNumber()).tiles.empty()) {
         refuse(tr("There is no slit picture yet."));
         return;
     }
@@ -720,7 +548,7 @@ void SlitWindow::exportPicture() {
 }
 
 QString SlitWindow::exportTo(const QString& file) {
-    const SlitPicture& picture = m_loader.picture(m_line);
+    const SlitPicture& picture = m_loader.picture(lineNumber());
     const auto index = m_loader.index();
     if (!index || picture.tiles.empty())
         return tr("There is no slit picture yet.");
@@ -728,7 +556,7 @@ QString SlitWindow::exportTo(const QString& file) {
                     slitFrameAt(*index, 0, m_view->columnAt(m_view->width())),
                     {}};
     sheet.last = std::min(sheet.last, picture.columns - 1);
-    for (const SlitRunRow& row : m_runs.rows())
+    for (const SlitRunRow& row : m_panel->runs())
         if (row.run.seconds)
             sheet.marks.push_back({*row.run.seconds, row.run.crew});
     try {

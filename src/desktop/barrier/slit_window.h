@@ -3,26 +3,20 @@
 #include "desktop/barrier/crossing_search.h"
 #include "desktop/barrier/slit_keeping.h"
 #include "desktop/barrier/slit_loader.h"
+#include "desktop/barrier/slit_marking.h"
 #include "desktop/barrier/slit_race.h"
-#include "desktop/barrier/slit_tables.h"
 #include "desktop/shell/tool_window.h"
 
 #include <optional>
 
-class QCheckBox;
-class QComboBox;
-class QLabel;
-class QProgressBar;
-class QPushButton;
-
 namespace kavela::desktop {
 
 class ColumnTable;
-class FaultLabel;
 class FilmDeck;
 class FilmView;
 class LineOverlay;
 class SlitActions;
+class SlitPanel;
 class SlitView;
 
 /// The film of a fixed camera with lines over it, the slit picture of one of them below, and the
@@ -50,15 +44,15 @@ public:
     [[nodiscard]] FilmDeck& deck() const { return *m_deck; }
     [[nodiscard]] SlitView& view() const { return *m_view; }
     [[nodiscard]] LineOverlay& overlay() const { return *m_overlay; }
-    [[nodiscard]] ColumnTable& runTable() const { return *m_runTable; }
-    [[nodiscard]] ColumnTable& proposalTable() const { return *m_proposalTable; }
+    [[nodiscard]] ColumnTable& runTable() const;
+    [[nodiscard]] ColumnTable& proposalTable() const;
     [[nodiscard]] const QString& film() const { return m_film; }
     [[nodiscard]] QString told() const;
     /// The line that is in front; null where none is drawn.
-    [[nodiscard]] const slitline001* line() const;
-    [[nodiscard]] std::size_t lineNumber() const { return m_line; }
+    [[nodiscard]] const slitline001* line() const { return m_marking.line(); }
+    [[nodiscard]] std::size_t lineNumber() const { return m_marking.number(); }
     /// What is proposed on it, without what was refused, in the order of time.
-    [[nodiscard]] std::vector<Proposal> proposals() const;
+    [[nodiscard]] std::vector<Proposal> proposals() const { return m_marking.proposals(); }
 
     // Lines.
     void drawLine();
@@ -86,7 +80,7 @@ public:
     void forgetRefusals();
     void searchBoats();
     /// Why proposals cannot be accepted all at once; empty where they can.
-    [[nodiscard]] QString lockOfAcceptAll() const;
+    [[nodiscard]] QString lockOfAcceptAll() const { return SlitMarking::lock(); }
     void acceptAll();
 
     void exportPicture();
@@ -104,7 +98,6 @@ protected:
 
 private:
     void makeParts();
-    [[nodiscard]] QWidget* makePanel();
     void connectParts();
     void connectLines();
     void followFilm();
@@ -113,13 +106,10 @@ private:
     void showRuns();
     void showState();
     void drawn(std::size_t line, const QPointF& first, const QPointF& second);
-    void editLine(const std::function<void(slitline001&)>& change);
     void followRun();
     void goToRun();
     void showMarks();
     void moveMark(int run, double column);
-    [[nodiscard]] QString markAt(int run, double column);
-    [[nodiscard]] std::optional<Proposal> proposalAtHair() const;
     void refuse(const QString& why);
     void tell(const QString& text);
 
@@ -128,25 +118,15 @@ private:
     SlitLoader m_loader;
     SlitRace m_race;
     CrossingSearch m_search;
-    std::size_t m_line = 0;
+    SlitMarking m_marking;
     int m_run = -1; ///< of the race
     bool m_isFiner = false;
     QString m_told;
-    ColumnModel<SlitRunRow> m_runs;
-    ColumnModel<ProposalRow> m_proposals;
     FilmDeck* m_deck;
     FilmView* m_filmView = nullptr;
     LineOverlay* m_overlay = nullptr;
     SlitView* m_view = nullptr;
-    QComboBox* m_lineBox = nullptr;
-    QComboBox* m_splitBox = nullptr;
-    ColumnTable* m_runTable = nullptr;
-    ColumnTable* m_proposalTable = nullptr;
-    QPushButton* m_openRace = nullptr;
-    QLabel* m_raceName = nullptr;
-    QCheckBox* m_finer = nullptr;
-    QProgressBar* m_progress = nullptr;
-    FaultLabel* m_note = nullptr;
+    SlitPanel* m_panel = nullptr;
     SlitActions* m_actions = nullptr;
 };
 
