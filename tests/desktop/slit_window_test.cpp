@@ -6,7 +6,6 @@
 #include "desktop/barrier/line_overlay.h"
 #include "desktop/barrier/slit_strip.h"
 #include "desktop/barrier/slit_view.h"
-#include "desktop/desktop.h"
 #include "desktop/film/film_deck.h"
 #include "desktop/film/film_stage.h"
 #include "desktop/film/time_line.h"

@@ -51,6 +51,9 @@ void SlitActions::makeFileMenu() {
     add(
         *menu, tr("Save what is seen as a &picture…"), {Qt::CTRL | Qt::Key_E},
         [window] { window->exportPicture(); }, [window] { return window->line() != nullptr; });
+    add(
+        *menu, tr("Save the &water round the marks…"), {}, [window] { window->saveBands(); },
+        [window] { return window->line() != nullptr; });
     menu->addSeparator();
 }
 

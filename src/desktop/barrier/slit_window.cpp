@@ -1,6 +1,5 @@
 #include "desktop/barrier/slit_window.h"
 
-#include "captions/slit_sheet.h"
 #include "common/error.h"
 #include "desktop/barrier/line_overlay.h"
 #include "desktop/barrier/slit_actions.h"
@@ -55,6 +54,7 @@ SlitWindow::~SlitWindow() {
     m_race.disconnect(this);
     m_loader.disconnect(this);
     m_search.disconnect(this);
+    m_saving.disconnect(this);
     m_keeping.disconnect(this);
     m_panel->disconnect(this);
 }
@@ -99,6 +99,7 @@ void SlitWindow::connectParts() {
     connect(&m_race, &SlitRace::changed, this, &SlitWindow::showLines);
     connect(&m_search, &CrossingSearch::changed, this, &SlitWindow::showRuns);
     connect(&m_search, &CrossingSearch::failed, this, &SlitWindow::tell);
+    connect(&m_saving, &SlitSaving::told, this, &SlitWindow::tell);
     connect(m_panel, &SlitPanel::runChosen, this, &SlitWindow::followRun);
     connect(m_panel, &SlitPanel::runClicked, this, &SlitWindow::goToRun);
     connect(m_panel, &SlitPanel::proposalChosen, this, [this](double seconds) {
@@ -556,15 +557,27 @@ QString SlitWindow::exportTo(const QString& file) {
                     slitFrameAt(*index, 0, m_view->columnAt(m_view->width())),
                     {}};
     sheet.last = std::min(sheet.last, picture.columns - 1);
+    if (sheet.last < sheet.first)
+        return tr("That part is not read yet.");
     for (const SlitRunRow& row : m_panel->runs())
         if (row.run.seconds)
             sheet.marks.push_back({*row.run.seconds, row.run.crew});
-    try {
-        writePng(paintSlitSheet(picture, *index, sheet), file.toStdString());
-    } catch (const FileError& error) {
-        return qtText(error.reason());
+    return SlitSaving::writePicture(file, picture, *index, sheet);
+}
+
+void SlitWindow::saveBands() {
+    const auto judgements = m_marking.judgements();
+    if (!line() || line()->boatWidth <= 0 || judgements.empty()) {
+        refuse(tr("There is nothing to learn from yet: look for boats, then mark and refuse what "
+                  "was found."));
+        return;
     }
-    return {};
+    const QFileInfo film(m_film);
+    const QString file = QFileDialog::getSaveFileName(
+        this, tr("Save the water round the marks"),
+        film.absolutePath() + '/' + film.completeBaseName() + ".bands", tr("Bands (*.bands)"));
+    if (!file.isEmpty())
+        m_saving.writeBands(file, m_loader.index(), *line(), judgements);
 }
 
 } // namespace kavela::desktop

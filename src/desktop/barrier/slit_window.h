@@ -5,6 +5,7 @@
 #include "desktop/barrier/slit_loader.h"
 #include "desktop/barrier/slit_marking.h"
 #include "desktop/barrier/slit_race.h"
+#include "desktop/barrier/slit_saving.h"
 #include "desktop/shell/tool_window.h"
 
 #include <optional>
@@ -88,6 +89,9 @@ public:
     /// it is written.
     [[nodiscard]] QString exportTo(const QString& file);
 
+    /// Asks where to keep the water round the marks and refusals, which teaches the search.
+    void saveBands();
+
 signals:
     /// The race beside the film is to be opened in split taking, and handed over by setRace().
     void raceRequested(const QString& path);
@@ -118,6 +122,7 @@ private:
     SlitLoader m_loader;
     SlitRace m_race;
     CrossingSearch m_search;
+    SlitSaving m_saving;
     SlitMarking m_marking;
     int m_run = -1; ///< of the race
     bool m_isFiner = false;
