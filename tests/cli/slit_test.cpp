@@ -53,7 +53,7 @@ TEST_F(SlitCalls, WriteAColumnForEachFrameAndPrintItsStamp) {
     EXPECT_EQ(pngNumber("slit.png", WidthAt), SlitFrames);
     EXPECT_GT(pngNumber("slit.png", HeightAt), 160) << "the line with its scale below";
     const json printed = json::parse(ending.output);
-    ASSERT_EQ(printed["columns"].size(), SlitFrames);
+    ASSERT_EQ(printed["columns"].size(), std::size_t{SlitFrames});
     EXPECT_EQ(printed["columns"][30]["frame"], 30);
     EXPECT_NEAR(printed["columns"][30]["seconds"].get<double>(), 1.2, 1e-6);
 

@@ -4,6 +4,7 @@
 #include "common/recorders.h"
 #include "common/temp_folder.h"
 #include "desktop/barrier/line_overlay.h"
+#include "desktop/barrier/slit_stage.h"
 #include "desktop/barrier/slit_strip.h"
 #include "desktop/barrier/slit_view.h"
 #include "desktop/film/film_deck.h"
@@ -220,7 +221,7 @@ TEST_F(SlitWindowTest, EnterMarksTheFrameUnderTheHairLine) {
 
 TEST_F(SlitWindowTest, FinerTimesLeaveTheMarkOnItsFrame) {
     SlitWindow& window = openWithRace();
-    window.setHair(40.5);
+    window.stage().setHair(40.5);
     for (int i = 0; i < 3; ++i)
         press(Qt::ALT | Qt::Key_Right);
     window.mark();
@@ -239,7 +240,7 @@ TEST_F(SlitWindowTest, RunsAreMarkedInTheirOrderAndMarksAreDragged) {
     SlitWindow& window = openWithRace();
     EXPECT_EQ(window.runTable().model()->rowCount(), 3) << "the run of another film is not here";
     for (const int frame : {20, 50, 80}) {
-        window.setHair(frame + 0.5);
+        window.stage().setHair(frame + 0.5);
         press(Qt::Key_Return);
     }
     EXPECT_EQ(markedFrame(0, 1), 20);
@@ -247,7 +248,7 @@ TEST_F(SlitWindowTest, RunsAreMarkedInTheirOrderAndMarksAreDragged) {
     EXPECT_EQ(markedFrame(2, 1), 80);
     EXPECT_EQ(markedFrame(3, 1), -1);
 
-    window.setHair(5.5);
+    window.stage().setHair(5.5);
     SlitView& view = window.view();
     const int y = view.height() / 2;
     drag(view, QPointF(view.placeOf(50.5), y), QPointF(view.placeOf(60.5), y));
@@ -262,11 +263,11 @@ TEST_F(SlitWindowTest, RunsAreMarkedInTheirOrderAndMarksAreDragged) {
     drag(overlay, overlay.placeOf({300, 100}), overlay.placeOf({300, 900}));
     ASSERT_THAT(window.keeping().file().lines, SizeIs(2));
     EXPECT_EQ(window.line()->split, 2);
-    window.setHair(10.5);
+    window.stage().setHair(10.5);
     window.mark();
     EXPECT_EQ(markedFrame(0, 2), -1);
     EXPECT_THAT(window.told().toStdString(), HasSubstr("split 1"));
-    window.setHair(30.5);
+    window.stage().setHair(30.5);
     window.mark();
     EXPECT_EQ(markedFrame(0, 2), 30);
     EXPECT_EQ(markedFrame(0, 1), 20);

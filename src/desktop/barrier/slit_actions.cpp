@@ -1,5 +1,6 @@
 #include "desktop/barrier/slit_actions.h"
 
+#include "desktop/barrier/slit_stage.h"
 #include "desktop/barrier/slit_view.h"
 #include "desktop/barrier/slit_window.h"
 #include "desktop/film/film_deck.h"
@@ -99,25 +100,26 @@ void SlitActions::makeLineMenu() {
 
 void SlitActions::makeHairMenu() {
     SlitWindow* const window = &m_window;
-    SlitView* const view = &window->view();
+    SlitStage* const stage = &window->stage();
+    SlitView* const view = &stage->slit();
     QMenu* const menu = window->menuBar()->addMenu(tr("&Hair line"));
     constexpr int Leap = 10; // frames
     constexpr double PartOfFrame = 0.1;
     constexpr double Closer = 1.5;
-    add(*menu, tr("One frame &earlier"), {Qt::Key_Left}, [window] { window->stepHair(-1); });
-    add(*menu, tr("One frame &later"), {Qt::Key_Right}, [window] { window->stepHair(1); });
+    add(*menu, tr("One frame &earlier"), {Qt::Key_Left}, [stage] { stage->stepHair(-1); });
+    add(*menu, tr("One frame &later"), {Qt::Key_Right}, [stage] { stage->stepHair(1); });
     add(*menu, tr("Ten frames earlier"), {Qt::SHIFT | Qt::Key_Left},
-        [window] { window->stepHair(-Leap); });
+        [stage] { stage->stepHair(-Leap); });
     add(*menu, tr("Ten frames later"), {Qt::SHIFT | Qt::Key_Right},
-        [window] { window->stepHair(Leap); });
+        [stage] { stage->stepHair(Leap); });
     add(*menu, tr("A tenth of a frame earlier"), {Qt::ALT | Qt::Key_Left},
-        [window] { window->refineHair(-PartOfFrame); });
+        [stage] { stage->refineHair(-PartOfFrame); });
     add(*menu, tr("A tenth of a frame later"), {Qt::ALT | Qt::Key_Right},
-        [window] { window->refineHair(PartOfFrame); });
+        [stage] { stage->refineHair(PartOfFrame); });
     menu->addSeparator();
     add(*menu, tr("&Next proposal"), {Qt::Key_PageDown}, [window] { window->stepProposal(1); });
     add(*menu, tr("&Previous proposal"), {Qt::Key_PageUp}, [window] { window->stepProposal(-1); });
-    add(*menu, tr("To the &beginning"), {Qt::Key_Home}, [window] { window->setHair(0.5); });
+    add(*menu, tr("To the &beginning"), {Qt::Key_Home}, [stage] { stage->setHair(0.5); });
     menu->addSeparator();
     add(*menu, tr("&Closer"), {Qt::Key_Plus, Qt::CTRL | Qt::Key_Plus, Qt::Key_Equal},
         [view] { view->zoomBy(Closer); });

@@ -4,9 +4,8 @@
 #include "desktop/barrier/line_overlay.h"
 #include "desktop/barrier/slit_actions.h"
 #include "desktop/barrier/slit_panel.h"
+#include "desktop/barrier/slit_stage.h"
 #include "desktop/barrier/slit_view.h"
-#include "desktop/film/film_deck.h"
-#include "desktop/film/film_memory.h"
 #include "desktop/film/film_view.h"
 #include "desktop/shell/qt_text.h"
 #include "desktop/shell/tables/column_table.h"
@@ -38,7 +37,7 @@ QString slitFilmFilter() {
 SlitWindow::SlitWindow(Workspace& workspace)
     : ToolWindow(workspace, nullptr, {"slit", tr("Slit picture"), "mp4"}),
       m_marking(m_keeping, m_race, m_search),
-      m_deck(new FilmDeck(FilmMemory::of(workspace), this)) {
+      m_stage(new SlitStage(workspace)) {
     makeParts();
     connectParts();
     connectLines();
@@ -47,10 +46,9 @@ SlitWindow::SlitWindow(Workspace& workspace)
     showLines();
 }
 
-/// The deck is the first of the children to go, and says nothing while the others do.
 SlitWindow::~SlitWindow() {
-    m_deck->blockSignals(true);
-    m_deck->disconnect();
+    // The parts report to the window while they are taken apart.
+    m_stage->disconnect(this);
     m_race.disconnect(this);
     m_loader.disconnect(this);
     m_search.disconnect(this);
@@ -60,22 +58,11 @@ SlitWindow::~SlitWindow() {
 }
 
 void SlitWindow::makeParts() {
-    m_filmView = new FilmView(*m_deck, 0);
-    m_overlay = new LineOverlay(*m_filmView);
-    m_view = new SlitView;
     m_panel = new SlitPanel;
-    auto* const pictures = new QSplitter(Qt::Vertical);
-    pictures->setChildrenCollapsible(false);
-    pictures->addWidget(m_filmView);
-    pictures->addWidget(m_view);
-    pictures->setStretchFactor(0, 1);
-    pictures->setStretchFactor(1, 1);
-    shareSizes(*pictures, {340, 340});
-    rememberSizes(*pictures, workspace(), "slitPictures");
     auto* const whole = new QSplitter;
     whole->setChildrenCollapsible(false);
     whole->setContentsMargins(theme::Spacing, theme::Spacing, theme::Spacing, theme::Spacing);
-    whole->addWidget(pictures);
+    whole->addWidget(m_stage);
     whole->addWidget(m_panel);
     whole->setStretchFactor(0, 1);
     shareSizes(*whole, {900, 360});
@@ -84,16 +71,9 @@ void SlitWindow::makeParts() {
 }
 
 void SlitWindow::connectParts() {
-    connect(m_deck, &FilmDeck::indexChanged, this, &SlitWindow::followFilm);
-    connect(m_deck, &FilmDeck::frameShown, this, [this] {
-        const FilmPicture* const picture = m_deck->shown(0);
-        if (m_deck->isPlaying() && picture && !picture->isPreview) // who looks at it goes with it
-            m_view->setHair(static_cast<double>(picture->frame.number) + 0.5);
-    });
-    connect(m_deck, &FilmDeck::failed, this,
-            [this](std::size_t, const QString& why) { tell(why); });
-    connect(m_view, &SlitView::hairMoved, this, &SlitWindow::setHair);
-    connect(m_view, &SlitView::markDropped, this, &SlitWindow::moveMark);
+    connect(m_stage, &SlitStage::indexChanged, this, &SlitWindow::followFilm);
+    connect(m_stage, &SlitStage::failed, this, &SlitWindow::tell);
+    connect(&view(), &SlitView::markDropped, this, &SlitWindow::moveMark);
     connect(&m_loader, &SlitLoader::grown, this, &SlitWindow::showPicture);
     connect(&m_loader, &SlitLoader::ended, this, &SlitWindow::showPicture);
     connect(&m_race, &SlitRace::changed, this, &SlitWindow::showLines);
@@ -104,7 +84,7 @@ void SlitWindow::connectParts() {
     connect(m_panel, &SlitPanel::runClicked, this, &SlitWindow::goToRun);
     connect(m_panel, &SlitPanel::proposalChosen, this, [this](double seconds) {
         if (m_loader.index())
-            setHair(slitColumnAt(*m_loader.index(), 0, seconds));
+            m_stage->setHair(slitColumnAt(*m_loader.index(), 0, seconds));
     });
     connect(m_panel, &SlitPanel::raceWanted, this, [this] { emit raceRequested(raceOfFilm()); });
     connect(m_panel, &SlitPanel::finerChosen, this, &SlitWindow::setFiner);
@@ -113,10 +93,10 @@ void SlitWindow::connectParts() {
 void SlitWindow::connectLines() {
     connect(&m_keeping, &SlitKeeping::changed, this, &SlitWindow::showLines);
     connect(&m_keeping, &SlitKeeping::failed, this, &SlitWindow::tell);
-    connect(m_overlay, &LineOverlay::lineChosen, this, &SlitWindow::chooseLine);
-    connect(m_overlay, &LineOverlay::lineDrawn, this, &SlitWindow::drawn);
-    connect(m_overlay, &LineOverlay::boatDrawn, this, [this](const QRectF& box) {
-        m_overlay->setTool(LineOverlay::Tool::None);
+    connect(&overlay(), &LineOverlay::lineChosen, this, &SlitWindow::chooseLine);
+    connect(&overlay(), &LineOverlay::lineDrawn, this, &SlitWindow::drawn);
+    connect(&overlay(), &LineOverlay::boatDrawn, this, [this](const QRectF& box) {
+        overlay().setTool(LineOverlay::Tool::None);
         m_marking.edit([&](slitline001& line) {
             line.boatX = box.x();
             line.boatY = box.y();
@@ -124,15 +104,26 @@ void SlitWindow::connectLines() {
             line.boatHeight = box.height();
         });
     });
-    connect(m_overlay, &LineOverlay::left, this, [this] { m_view->setFocus(); });
     connect(m_panel, &SlitPanel::lineChosen, this, [this](std::size_t line) {
         chooseLine(line);
-        m_view->setFocus();
+        view().setFocus();
     });
     connect(m_panel, &SlitPanel::splitChosen, this, [this](std::size_t split) {
         setSplit(split);
-        m_view->setFocus();
+        view().setFocus();
     });
+}
+
+FilmDeck& SlitWindow::deck() const {
+    return m_stage->deck();
+}
+
+SlitView& SlitWindow::view() const {
+    return m_stage->slit();
+}
+
+LineOverlay& SlitWindow::overlay() const {
+    return m_stage->overlay();
 }
 
 ColumnTable& SlitWindow::runTable() const {
@@ -161,16 +152,12 @@ bool SlitWindow::open(const QString& path) {
     m_told.clear();
     m_loader.setFilm(nullptr);
     m_search.setFilm(nullptr);
-    m_view->setPicture(nullptr, nullptr);
-    m_overlay->setFilmSize({});
-    m_filmView->setMessage({});
     setWindowTitle(info.fileName() + QStringLiteral(" – ") + tr("Slit picture") +
                    QStringLiteral(" – Kavela"));
     setWindowFilePath(m_film);
     m_race.setFilm(m_film);
     m_keeping.open(m_film);
-    m_deck->open({m_film});
-    m_view->setFocus();
+    m_stage->open(m_film);
     emit pathsChanged();
     return true;
 }
@@ -209,11 +196,7 @@ QString SlitWindow::raceOfFilm() const {
 
 /// The lines can be drawn as soon as the film is seen; it is read when all of it is known.
 void SlitWindow::followFilm() {
-    const auto index = m_deck->index(0);
-    if (!index)
-        return;
-    const VideoSize size = index->facts().shownSize;
-    m_overlay->setFilmSize({size.width, size.height});
+    const auto index = m_stage->index();
     if (!index->isComplete())
         return;
     m_marking.setIndex(index);
@@ -231,7 +214,7 @@ void SlitWindow::showLines() {
     for (const slitline001& each : lines)
         drawn.push_back(lineOf(each));
     m_panel->showLines(m_marking, lines.size(), m_race);
-    m_overlay->setLines(lines, m_marking.number());
+    overlay().setLines(lines, m_marking.number());
     m_loader.setLines(drawn);
     showPicture();
     showRuns();
@@ -239,13 +222,13 @@ void SlitWindow::showLines() {
 
 void SlitWindow::showPicture() {
     if (!line())
-        m_view->setMessage(m_film.isEmpty()
-                               ? tr("Open the film of a camera on a tripod (Ctrl+O).")
-                               : tr("Press N and draw a line across the water in the film above: "
-                                    "what stands on it is shown here over time."));
+        view().setMessage(m_film.isEmpty()
+                              ? tr("Open the film of a camera on a tripod (Ctrl+O).")
+                              : tr("Press N and draw a line across the water in the film above: "
+                                   "what stands on it is shown here over time."));
     else
-        m_view->setMessage(m_loader.told().isEmpty() ? tr("Reading the film…") : m_loader.told());
-    m_view->setPicture(line() ? &m_loader.picture(lineNumber()) : nullptr, m_loader.index());
+        view().setMessage(m_loader.told().isEmpty() ? tr("Reading the film…") : m_loader.told());
+    view().setPicture(line() ? &m_loader.picture(lineNumber()) : nullptr, m_loader.index());
     showState();
 }
 
@@ -253,7 +236,7 @@ void SlitWindow::showRuns() {
     std::vector<SlitGuess> guesses;
     for (const Proposal& proposal : m_marking.proposals())
         guesses.push_back({proposal.seconds, proposal.confidence});
-    m_view->setGuesses(std::move(guesses));
+    view().setGuesses(std::move(guesses));
     m_panel->showRows(m_marking.rows());
     if (m_run < 0 && !m_panel->runs().empty()) {
         m_panel->runTable().choose(0);
@@ -293,12 +276,12 @@ void SlitWindow::tell(const QString& text) {
 }
 
 void SlitWindow::refuse(const QString& why) {
-    m_filmView->refuse(why);
+    m_stage->film().refuse(why);
     tell(why);
 }
 
 void SlitWindow::drawLine() {
-    m_overlay->setTool(LineOverlay::Tool::Line);
+    overlay().setTool(LineOverlay::Tool::Line);
     tell({});
 }
 
@@ -307,13 +290,13 @@ void SlitWindow::drawBoat() {
         refuse(tr("Draw a line first: N."));
         return;
     }
-    m_overlay->setTool(LineOverlay::Tool::Boat);
+    overlay().setTool(LineOverlay::Tool::Boat);
 }
 
 /// A line that is no line is told and not kept; the one before it is shown again.
 void SlitWindow::drawn(std::size_t number, const QPointF& first, const QPointF& second) {
-    m_overlay->setTool(LineOverlay::Tool::None);
-    const auto index = m_deck->index(0);
+    overlay().setTool(LineOverlay::Tool::None);
+    const auto index = m_stage->index();
     if (!index)
         return;
     const VideoSize size = index->facts().shownSize;
@@ -331,7 +314,7 @@ void SlitWindow::drawn(std::size_t number, const QPointF& first, const QPointF& 
         m_run = -1;
     m_marking.setNumber(number);
     if (isNew) // what is dragged keeps the arrow keys
-        m_view->setFocus();
+        view().setFocus();
     m_keeping.edit([&](slitfile001& file) {
         file.width = size.width;
         file.height = size.height;
@@ -391,27 +374,9 @@ void SlitWindow::setSplit(std::size_t split) {
     m_marking.edit([&](slitline001& line) { line.split = static_cast<std::int64_t>(split); });
 }
 
-void SlitWindow::setHair(double column) {
-    m_view->setHair(column);
-    const auto index = m_deck->index(0);
-    if (!index || index->frameCount() == 0)
-        return;
-    if (m_deck->isPlaying())
-        m_deck->pause();
-    m_deck->seek(index->stampOf(slitFrameAt(*index, 0, m_view->hair())));
-}
-
-void SlitWindow::stepHair(int frames) {
-    setHair(std::floor(m_view->hair()) + 0.5 + frames);
-}
-
-void SlitWindow::refineHair(double frames) {
-    setHair(m_view->hair() + frames);
-}
-
 void SlitWindow::stepProposal(int step) {
-    if (const auto to = m_marking.proposalBeside(m_view->hair(), step))
-        setHair(*to);
+    if (const auto to = m_marking.proposalBeside(view().hair(), step))
+        m_stage->setHair(*to);
     else
         refuse(step < 0 ? tr("There is no proposal before this.")
                         : tr("There is no proposal behind this."));
@@ -441,9 +406,9 @@ void SlitWindow::goToRun() {
     if (!row || !index)
         return;
     if (row->run.seconds)
-        setHair(slitColumnAt(*index, 0, *row->run.seconds));
+        m_stage->setHair(slitColumnAt(*index, 0, *row->run.seconds));
     else if (row->proposal)
-        setHair(slitColumnAt(*index, 0, row->proposal->seconds));
+        m_stage->setHair(slitColumnAt(*index, 0, row->proposal->seconds));
 }
 
 void SlitWindow::showMarks() {
@@ -451,7 +416,7 @@ void SlitWindow::showMarks() {
     for (const SlitRunRow& row : m_panel->runs())
         if (row.run.seconds)
             marks.push_back({*row.run.seconds, row.run.crew, row.run.run, row.run.run == m_run});
-    m_view->setMarks(std::move(marks));
+    view().setMarks(std::move(marks));
 }
 
 void SlitWindow::mark() {
@@ -471,7 +436,7 @@ void SlitWindow::mark() {
     }
     const auto isInFront = [this](const SlitRunRow& row) { return row.run.run == m_run; };
     const auto isOpen = [](const SlitRunRow& row) { return !row.run.seconds; };
-    if (const QString why = m_marking.mark(m_run, m_view->hair(), m_isFiner); !why.isEmpty()) {
+    if (const QString why = m_marking.mark(m_run, view().hair(), m_isFiner); !why.isEmpty()) {
         refuse(why);
         return;
     }
@@ -480,7 +445,7 @@ void SlitWindow::mark() {
     const auto marked = std::ranges::find_if(rows, isInFront);
     if (marked == rows.end())
         return;
-    m_filmView->flash(marked->run.crew);
+    m_stage->film().flash(marked->run.crew);
     if (const auto next = std::find_if(marked, rows.end(), isOpen); next != rows.end())
         m_panel->runTable().choose(static_cast<int>(next - rows.begin()));
 }
@@ -491,7 +456,7 @@ void SlitWindow::moveMark(int run, double column) {
     if (const QString why = m_marking.mark(run, column, m_isFiner); !why.isEmpty())
         refuse(why);
     else
-        setHair(column);
+        m_stage->setHair(column);
     showRuns(); // where it was, if it was refused
 }
 
@@ -506,7 +471,7 @@ void SlitWindow::setFiner(bool isFiner) {
 }
 
 void SlitWindow::refuseProposal() {
-    if (const QString why = m_marking.refuse(m_view->hair()); !why.isEmpty())
+    if (const QString why = m_marking.refuse(view().hair()); !why.isEmpty())
         refuse(why);
 }
 
@@ -553,8 +518,8 @@ QString SlitWindow::exportTo(const QString& file) {
     const auto index = m_loader.index();
     if (!index || picture.tiles.empty())
         return tr("There is no slit picture yet.");
-    SlitSheet sheet{slitFrameAt(*index, 0, m_view->columnAt(0)),
-                    slitFrameAt(*index, 0, m_view->columnAt(m_view->width())),
+    SlitSheet sheet{slitFrameAt(*index, 0, view().columnAt(0)),
+                    slitFrameAt(*index, 0, view().columnAt(view().width())),
                     {}};
     sheet.last = std::min(sheet.last, picture.columns - 1);
     if (sheet.last < sheet.first)

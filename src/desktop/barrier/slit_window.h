@@ -14,10 +14,10 @@ namespace kavela::desktop {
 
 class ColumnTable;
 class FilmDeck;
-class FilmView;
 class LineOverlay;
 class SlitActions;
 class SlitPanel;
+class SlitStage;
 class SlitView;
 
 /// The film of a fixed camera with lines over it, the slit picture of one of them below, and the
@@ -42,9 +42,10 @@ public:
     [[nodiscard]] SlitLoader& loader() { return m_loader; }
     [[nodiscard]] SlitRace& race() { return m_race; }
     [[nodiscard]] CrossingSearch& search() { return m_search; }
-    [[nodiscard]] FilmDeck& deck() const { return *m_deck; }
-    [[nodiscard]] SlitView& view() const { return *m_view; }
-    [[nodiscard]] LineOverlay& overlay() const { return *m_overlay; }
+    [[nodiscard]] FilmDeck& deck() const;
+    [[nodiscard]] SlitView& view() const;
+    [[nodiscard]] LineOverlay& overlay() const;
+    [[nodiscard]] SlitStage& stage() const { return *m_stage; }
     [[nodiscard]] ColumnTable& runTable() const;
     [[nodiscard]] ColumnTable& proposalTable() const;
     [[nodiscard]] const QString& film() const { return m_film; }
@@ -64,10 +65,6 @@ public:
     void turnArrow();
     void setSplit(std::size_t split);
 
-    // The hair line, in frames or parts of one.
-    void setHair(double column);
-    void stepHair(int frames);
-    void refineHair(double frames);
     void stepProposal(int step);
     void stepRun(int step);
 
@@ -127,10 +124,7 @@ private:
     int m_run = -1; ///< of the race
     bool m_isFiner = false;
     QString m_told;
-    FilmDeck* m_deck;
-    FilmView* m_filmView = nullptr;
-    LineOverlay* m_overlay = nullptr;
-    SlitView* m_view = nullptr;
+    SlitStage* m_stage;
     SlitPanel* m_panel = nullptr;
     SlitActions* m_actions = nullptr;
 };
