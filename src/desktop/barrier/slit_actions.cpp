@@ -6,6 +6,8 @@
 #include "desktop/film/film_deck.h"
 
 #include <QAction>
+#include <QFileDialog>
+#include <QFileInfo>
 #include <QMenuBar>
 
 #include <utility>
@@ -51,11 +53,37 @@ void SlitActions::makeFileMenu() {
         [window] { return window->race().isThere(); });
     add(
         *menu, tr("Save what is seen as a &picture…"), {Qt::CTRL | Qt::Key_E},
-        [window] { window->exportPicture(); }, [window] { return window->line() != nullptr; });
+        [this] { exportPicture(); }, [window] { return window->line() != nullptr; });
     add(
-        *menu, tr("Save the &water round the marks…"), {}, [window] { window->saveBands(); },
+        *menu, tr("Save the &water round the marks…"), {}, [this] { saveBands(); },
         [window] { return window->line() != nullptr; });
     menu->addSeparator();
+}
+
+QString SlitActions::askForFile(const QString& title, const QString& suffix,
+                                const QString& filter) const {
+    const QFileInfo film(m_window.film());
+    const QString file = QFileDialog::getSaveFileName(
+        &m_window, title, film.absolutePath() + '/' + film.completeBaseName() + suffix, filter);
+    return file.isEmpty() || !QFileInfo(file).suffix().isEmpty() ? file : file + suffix;
+}
+
+void SlitActions::exportPicture() {
+    const QString file = askForFile(tr("Save what is seen of the slit picture"),
+                                    QStringLiteral(".png"), tr("Pictures (*.png)"));
+    if (file.isEmpty())
+        return;
+    const QString why = m_window.exportTo(file);
+    m_window.tell(why.isEmpty() ? QString() : tr("The picture could not be saved: %1").arg(why));
+}
+
+void SlitActions::saveBands() {
+    const QString file = askForFile(tr("Save the water round the marks"), QStringLiteral(".bands"),
+                                    tr("Bands (*.bands)"));
+    if (file.isEmpty())
+        return;
+    if (const QString why = m_window.saveBandsTo(file); !why.isEmpty())
+        m_window.refuse(why);
 }
 
 void SlitActions::makeEditMenu() {

@@ -2,6 +2,7 @@
 
 #include <QKeySequence>
 #include <QObject>
+#include <QString>
 
 #include <functional>
 #include <vector>
@@ -34,6 +35,10 @@ private:
     void makeHairMenu();
     void makeMarkMenu();
     void makePlayMenu();
+    void exportPicture();
+    void saveBands();
+    [[nodiscard]] QString askForFile(const QString& title, const QString& suffix,
+                                     const QString& filter) const;
 
     SlitWindow& m_window;
     std::vector<std::pair<QAction*, IsPossible>> m_limited;

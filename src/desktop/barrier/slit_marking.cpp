@@ -1,5 +1,6 @@
 #include "desktop/barrier/slit_marking.h"
 
+#include "common/error.h"
 #include "desktop/shell/qt_text.h"
 #include "splittaking/film_crossings.h"
 #include "vision/barrier_figures.h"
@@ -32,6 +33,39 @@ std::size_t SlitMarking::split() const {
 void SlitMarking::edit(const std::function<void(slitline001&)>& change) {
     if (line())
         m_keeping.edit([&](slitfile001& file) { change(file.lines[m_number]); });
+}
+
+QString SlitMarking::draw(std::size_t number, const SlitLine& ends, const VideoFacts& film) {
+    try {
+        checkSlitLine(ends, film.shownSize, film.path);
+    } catch (const FileError& error) {
+        return qtText(error.reason());
+    }
+    m_number = std::min(number, m_keeping.file().lines.size());
+    m_keeping.edit([&](slitfile001& file) {
+        file.width = film.shownSize.width;
+        file.height = film.shownSize.height;
+        if (m_number == file.lines.size()) {
+            std::int64_t split = 0;
+            for (const slitline001& line : file.lines)
+                split = std::max(split, line.split);
+            const auto most = static_cast<std::int64_t>(m_race.splits());
+            file.lines.push_back({.split = most > 0 ? std::min(split + 1, most) : split + 1});
+        }
+        slitline001& line = file.lines[m_number];
+        line.x1 = ends.first.x;
+        line.y1 = ends.first.y;
+        line.x2 = ends.second.x;
+        line.y2 = ends.second.y;
+    });
+    return {};
+}
+
+void SlitMarking::remove() {
+    if (line())
+        m_keeping.edit([this](slitfile001& file) {
+            file.lines.erase(file.lines.begin() + static_cast<std::ptrdiff_t>(m_number));
+        });
 }
 
 double SlitMarking::secondsAt(double column) const {

@@ -34,6 +34,10 @@ public:
     void setNumber(std::size_t number) { m_number = number; }
     [[nodiscard]] std::size_t split() const; ///< whose marks it makes; 0 is the start
     void edit(const std::function<void(slitline001&)>& change);
+    /// Draws a line anew and brings it to the front; a number behind the last one adds a line for
+    /// the next split. Returns what is wrong with it; it is as it was then.
+    [[nodiscard]] QString draw(std::size_t number, const SlitLine& ends, const VideoFacts& film);
+    void remove(); ///< the line in front
 
     /// What is proposed, without what was refused, in the order of time.
     [[nodiscard]] std::vector<Proposal> proposals() const;

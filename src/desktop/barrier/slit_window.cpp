@@ -1,6 +1,5 @@
 #include "desktop/barrier/slit_window.h"
 
-#include "common/error.h"
 #include "desktop/barrier/line_overlay.h"
 #include "desktop/barrier/slit_actions.h"
 #include "desktop/barrier/slit_panel.h"
@@ -299,38 +298,18 @@ void SlitWindow::drawn(std::size_t number, const QPointF& first, const QPointF& 
     const auto index = m_stage->index();
     if (!index)
         return;
-    const VideoSize size = index->facts().shownSize;
-    try {
-        checkSlitLine({{first.x(), first.y()}, {second.x(), second.y()}}, size,
-                      m_film.toStdString());
-    } catch (const FileError& error) {
-        showLines();
-        refuse(qtText(error.reason()));
-        return;
-    }
-    m_told.clear();
     const bool isNew = number >= m_keeping.file().lines.size();
     if (isNew || number != lineNumber())
         m_run = -1;
-    m_marking.setNumber(number);
     if (isNew) // what is dragged keeps the arrow keys
         view().setFocus();
-    m_keeping.edit([&](slitfile001& file) {
-        file.width = size.width;
-        file.height = size.height;
-        if (number >= file.lines.size()) {
-            std::int64_t split = 0;
-            for (const slitline001& line : file.lines)
-                split = std::max(split, line.split);
-            const auto most = static_cast<std::int64_t>(m_race.splits());
-            file.lines.push_back({.split = most > 0 ? std::min(split + 1, most) : split + 1});
-        }
-        slitline001& line = file.lines[std::min(number, file.lines.size() - 1)];
-        line.x1 = first.x();
-        line.y1 = first.y();
-        line.x2 = second.x();
-        line.y2 = second.y();
-    });
+    m_told.clear();
+    if (const QString why = m_marking.draw(
+            number, {{first.x(), first.y()}, {second.x(), second.y()}}, index->facts());
+        !why.isEmpty()) {
+        showLines();
+        refuse(why);
+    }
 }
 
 void SlitWindow::chooseLine(std::size_t number) {
@@ -360,9 +339,8 @@ void SlitWindow::removeLine() {
                      .toStdString()},
             tr("Remove the line"), this))
         return;
-    m_keeping.edit([this](slitfile001& file) {
-        file.lines.erase(file.lines.begin() + static_cast<std::ptrdiff_t>(lineNumber()));
-    });
+    m_run = -1;
+    m_marking.remove();
 }
 
 void SlitWindow::turnArrow() {
@@ -496,23 +474,6 @@ void SlitWindow::acceptAll() {
         tell(m_marking.acceptAll(m_isFiner));
 }
 
-void SlitWindow::exportPicture() {
-    if (!line() || m_loader.picture(lineNumber()).tiles.empty()) {
-        refuse(tr("There is no slit picture yet."));
-        return;
-    }
-    const QFileInfo film(m_film);
-    QString file = QFileDialog::getSaveFileName(
-        this, tr("Save what is seen of the slit picture"),
-        film.absolutePath() + '/' + film.completeBaseName() + ".png", tr("Pictures (*.png)"));
-    if (file.isEmpty())
-        return;
-    if (QFileInfo(file).suffix().isEmpty())
-        file += QStringLiteral(".png");
-    const QString why = exportTo(file);
-    tell(why.isEmpty() ? QString() : tr("The picture could not be saved: %1").arg(why));
-}
-
 QString SlitWindow::exportTo(const QString& file) {
     const SlitPicture& picture = m_loader.picture(lineNumber());
     const auto index = m_loader.index();
@@ -530,19 +491,13 @@ QString SlitWindow::exportTo(const QString& file) {
     return SlitSaving::writePicture(file, picture, *index, sheet);
 }
 
-void SlitWindow::saveBands() {
+QString SlitWindow::saveBandsTo(const QString& file) {
     const auto judgements = m_marking.judgements();
-    if (!line() || line()->boatWidth <= 0 || judgements.empty()) {
-        refuse(tr("There is nothing to learn from yet: look for boats, then mark and refuse what "
-                  "was found."));
-        return;
-    }
-    const QFileInfo film(m_film);
-    const QString file = QFileDialog::getSaveFileName(
-        this, tr("Save the water round the marks"),
-        film.absolutePath() + '/' + film.completeBaseName() + ".bands", tr("Bands (*.bands)"));
-    if (!file.isEmpty())
-        m_saving.writeBands(file, m_loader.index(), *line(), judgements);
+    if (!line() || line()->boatWidth <= 0 || judgements.empty())
+        return tr("There is nothing to learn from yet: look for boats, then mark and refuse what "
+                  "was found.");
+    m_saving.writeBands(file, m_loader.index(), *line(), judgements);
+    return {};
 }
 
 } // namespace kavela::desktop

@@ -81,13 +81,17 @@ public:
     [[nodiscard]] QString lockOfAcceptAll() const { return SlitMarking::lock(); }
     void acceptAll();
 
-    void exportPicture();
     /// The part of the picture that is seen as PNG, with a time scale. Returns why not; empty when
     /// it is written.
     [[nodiscard]] QString exportTo(const QString& file);
 
-    /// Asks where to keep the water round the marks and refusals, which teaches the search.
-    void saveBands();
+    /// Keeps the water round the marks and refusals in a file, which teaches the search; what
+    /// becomes of it is told. Returns why not where there is none.
+    [[nodiscard]] QString saveBandsTo(const QString& file);
+
+    /// Why something was not done: over the film, and beside it.
+    void refuse(const QString& why);
+    void tell(const QString& text); ///< beside the film; empty for nothing
 
 signals:
     /// The race beside the film is to be opened in split taking, and handed over by setRace().
@@ -111,8 +115,6 @@ private:
     void goToRun();
     void showMarks();
     void moveMark(int run, double column);
-    void refuse(const QString& why);
-    void tell(const QString& text);
 
     QString m_film;
     SlitKeeping m_keeping;
