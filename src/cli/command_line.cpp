@@ -50,6 +50,7 @@ int run(int argc, char** argv, const char* version, const Painting* painting) {
     addTrack(program, status, painting);
     addFetch(program, status, painting);
     addShare(program, status, painting);
+    addSlit(program, status, painting);
     addDemo(program, status, painting);
     if (const auto ended = call.run(argc, argv))
         return *ended;

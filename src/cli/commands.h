@@ -31,6 +31,7 @@ void addCompose(Command program, int& status, const Painting* painting);
 void addTrack(Command program, int& status, const Painting* painting);
 void addFetch(Command program, int& status, const Painting* painting);
 void addShare(Command program, int& status, const Painting* painting);
+void addSlit(Command program, int& status, const Painting* painting);
 void addDemo(Command program, int& status, const Painting* painting);
 
 } // namespace kavela::cli

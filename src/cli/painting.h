@@ -50,6 +50,19 @@ struct FolderShareCall {
     bool isJson = false;
 };
 
+/// What is shown of a film's line, and how.
+struct SlitCall {
+    std::string film;
+    std::array<double, 4> line{}; ///< X1, Y1, X2, Y2 in pixels of the upright picture
+    std::optional<double> from;   ///< seconds of the film
+    std::optional<double> to;
+    std::string output; ///< a picture; empty for none
+    bool isJson = false;
+    bool hasProposals = false;
+    std::array<double, 4> boat{}; ///< X, Y, width, height of a box round one boat
+    bool isFromLeft = true;
+};
+
 /// What commands do with libraries that take longer to load than a table takes to print: those that
 /// paint, make films and keep preferences. `kavela` does without them; a command that needs this
 /// asks for it with `neededIf` before it prints or writes anything, and `kavela-paint` takes over.
@@ -114,6 +127,10 @@ public:
     /// Prints what differs between a folder and a server, and shares it where that is wanted.
     /// Returns the exit status.
     [[nodiscard]] virtual int shareFolder(const FolderShareCall& call) const = 0;
+
+    /// Writes the slit picture of a film's line, and prints its columns and what may have crossed
+    /// it where that is wanted. Returns the exit status.
+    [[nodiscard]] virtual int writeSlit(const SlitCall& call) const = 0;
 };
 
 /// Thrown by a command of a program without painting: the call is for `kavela-paint`.

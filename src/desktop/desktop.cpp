@@ -1,6 +1,7 @@
 #include "desktop/desktop.h"
 
 #include "common/error.h"
+#include "desktop/barrier/slit_window.h"
 #include "desktop/compose/compare_window.h"
 #include "desktop/cross/cross_window.h"
 #include "desktop/fetch/fetch_window.h"
@@ -264,6 +265,10 @@ bool Desktop::openIn(const ToolKind& tool, const QString& path) {
         openFilms(path);
         return true;
     }
+    if (tool.opens == OpensAs::SlitPicture) {
+        openSlit(path);
+        return true;
+    }
     if (tool.opens == OpensAs::FolderOfFilms)
         return openTaking(path) != nullptr;
     if (tool.opens == OpensAs::Cross)
@@ -471,6 +476,37 @@ void Desktop::openFilms(const QString& path) {
         show(window);
     else
         delete window;
+}
+
+void Desktop::openSlit(const QString& film, TakingWindow* race) {
+    SlitWindow* window = nullptr;
+    for (SlitWindow* const each : windowsOf<SlitWindow>())
+        if (isSameFile(each->film(), film))
+            window = each;
+    if (!window) {
+        window = new SlitWindow(m_workspace);
+        if (!window->open(film)) {
+            delete window;
+            return;
+        }
+        connect(window, &SlitWindow::pathsChanged, this, &Desktop::rememberSession);
+        connect(window, &SlitWindow::raceRequested, this,
+                [this, window = QPointer(window)](const QString& path) {
+                    (void)m_splitFiles.openTaking(path, [window](TakingWindow& taking) {
+                        if (!window)
+                            return;
+                        window->setRace(taking.document(), taking);
+                        bringToFront(*window);
+                    });
+                });
+        show(window);
+    }
+    for (TakingWindow* const taking : windowsOf<TakingWindow>())
+        if (!race && isSameFile(taking->document().folder(), QFileInfo(film).absolutePath()))
+            race = taking;
+    if (race && window->race().document() != &race->document())
+        window->setRace(race->document(), *race);
+    bringToFront(*window);
 }
 
 void Desktop::openCompare(const CompareRequest& request) {

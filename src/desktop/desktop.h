@@ -114,6 +114,10 @@ public:
     void showLossesAgain(const QStringList& paths, const QString& view) {
         m_analysis.showLossesAgain(paths, view);
     }
+    /// Shows the slit picture of a fixed camera's film, in the window that has it where there is
+    /// one. Its marks go into the race that split taking has open for the film's folder, or into
+    /// that of `race`.
+    void openSlit(const QString& film, TakingWindow* race = nullptr);
     /// Compares films in a window of its own.
     void openCompare(const CompareRequest& request);
     /// Opens the planning that the preferences name, where they ask for one.

@@ -52,6 +52,7 @@ bool EarlierWork::restoreWindows() const {
     QMap<int, LossesThen> seasons;
     QStringList others;
     QStringList searched;
+    QStringList slits;
     for (const OpenFile& file : rememberedSession(m_workspace))
         if (file.kind == "race")
             races.append(file.path);
@@ -65,6 +66,8 @@ bool EarlierWork::restoreWindows() const {
             (void)m_program.openCross(file.path);
         else if (file.kind == "films")
             m_program.openFilms(file.path);
+        else if (file.kind == "slit")
+            slits.append(file.path);
         else if (file.kind == "find")
             searched.append(file.path);
         else if (file.kind == "penalties")
@@ -82,6 +85,8 @@ bool EarlierWork::restoreWindows() const {
         m_program.showLossesAgain(window.paths, window.view);
     for (const LossesThen& window : seasons)
         m_program.showSeasonAgain(window.paths, window.view);
+    for (const QString& film : slits) // after split taking, which has their races
+        m_program.openSlit(film);
     if (!others.isEmpty())
         m_program.openAll(others);
     if (!searched.isEmpty())

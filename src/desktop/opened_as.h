@@ -35,6 +35,7 @@ enum class OpensAs {
     Share,       ///< a folder, where the coach asks for it: by content it is to be timed
     Comparison, ///< of films
     Tracking,   ///< the path of something on a film
+    SlitPicture, ///< a film, where the coach asks for it: by content it is to be timed
     NotReady
 };
 

@@ -162,6 +162,8 @@ TakingWindow* SplitFileWindows::showTaking(const QString& path) {
     QObject::connect(window, &TakingWindow::analysisRequested, &m_program,
                      [this, window] { m_analysis.showEdited(window->document()); });
     QObject::connect(window, &TakingWindow::crossRequested, &m_program, &Desktop::openCross);
+    QObject::connect(window, &TakingWindow::slitRequested, &m_program,
+                     [this, window](const QString& film) { m_program.openSlit(film, window); });
     QObject::connect(window, &TakingWindow::openRequested, &m_program,
                      [this](const QStringList& files) {
                          for (const QString& file : files)

@@ -1,5 +1,6 @@
 #include "desktop/tools.h"
 
+#include "desktop/barrier/slit_window.h"
 #include "desktop/compose/compare_window.h"
 #include "desktop/cross/cross_window.h"
 #include "desktop/fetch/fetch_window.h"
@@ -108,6 +109,14 @@ std::vector<ToolKind> makeTools() {
          Choice::Files,
          {tr("Open films"), tr("Films"), "mp4", {}},
          makeEditor<TrackingWindow>},
+        {"slit",
+         OpensAs::SlitPicture,
+         tr("Slit picture"),
+         tr("A finish camera made of the film of a tripod: every crossing of a line at a glance."),
+         "slit",
+         Choice::Files,
+         {tr("Open films of a fixed camera"), tr("Films"), "mp4", {}},
+         makeReader<SlitWindow>},
         {"team",
          OpensAs::Team,
          tr("Team"),

@@ -7,6 +7,7 @@
 #include "painting/offscreen_application.h"
 #include "painting/report_files.h"
 #include "painting/season_film_files.h"
+#include "painting/slit_files.h"
 #include "preferences/preferences.h"
 #include "report/athlete_page.h"
 #include "report/pdf_file.h"
@@ -89,6 +90,10 @@ int OwnPainting::trackFilm(const cli::TrackCall& call) const {
 
 int OwnPainting::shareFolder(const cli::FolderShareCall& call) const {
     return painting::shareFolder(call);
+}
+
+int OwnPainting::writeSlit(const cli::SlitCall& call) const {
+    return painting::writeSlit(call);
 }
 
 } // namespace kavela::painting

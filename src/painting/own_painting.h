@@ -27,6 +27,7 @@ public:
     [[nodiscard]] int fetchFilms(const cli::FilmFetchCall& call) const override;
     [[nodiscard]] int trackFilm(const cli::TrackCall& call) const override;
     [[nodiscard]] int shareFolder(const cli::FolderShareCall& call) const override;
+    [[nodiscard]] int writeSlit(const cli::SlitCall& call) const override;
 };
 
 } // namespace kavela::painting

@@ -89,6 +89,10 @@ void FilmStage::addAbove(QWidget& bar) {
     m_column->insertWidget(m_column->indexOf(m_grid), &bar);
 }
 
+void FilmStage::addOverLine(QWidget& strip) {
+    m_column->insertWidget(m_column->indexOf(m_line), &strip);
+}
+
 void FilmStage::addBelow(QWidget& strip) {
     m_column->addWidget(&strip);
 }

@@ -62,7 +62,8 @@ public:
     [[nodiscard]] const QStringList& films() const { return m_films; }
 
     void addAbove(QWidget& bar);
-    void addBelow(QWidget& strip); ///< under the time line, in the order of the calls
+    void addOverLine(QWidget& strip); ///< between the state of the films and the time line
+    void addBelow(QWidget& strip);    ///< under the time line, in the order of the calls
     /// The keys are the films' in a window, except in a field; `leave` gives the focus back.
     void keepKeys(QMainWindow& window, std::function<void()> leave);
     /// Nothing is told any more: what listens goes.

@@ -287,6 +287,12 @@ void TakingDocument::setMarks(int index, const QString& what, const RunMarks& ma
     put(what, withMarks(value(), static_cast<std::size_t>(index), marks));
 }
 
+void TakingDocument::setMarks(int index, const QString& what, const RunMarks& marks,
+                              const std::function<void(athletedata031&)>& change) {
+    const auto run = static_cast<std::size_t>(index);
+    put(what, withRun(withMarks(value(), run, marks), run, change));
+}
+
 void TakingDocument::addRun(const QString& what, athletedata031 run) {
     put(what, withMoreRuns(value(), {std::move(run)}));
 }

@@ -84,6 +84,9 @@ public:
     void editCross(const QString& what, TrialStarts starts,
                    const std::function<void(crossdata030&)>& change);
     void setMarks(int index, const QString& what, const RunMarks& marks);
+    /// The same, with a change of what the marks made of the run.
+    void setMarks(int index, const QString& what, const RunMarks& marks,
+                  const std::function<void(athletedata031&)>& change);
     void addRun(const QString& what, athletedata031 run);
     void removeRun(int index);
     void moveRun(int index, int to);

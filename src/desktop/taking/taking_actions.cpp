@@ -148,6 +148,8 @@ void TakingActions::makeCameraMenu() {
                           [this] { m_window.films().addCamera(); }));
     m_ofRun.push_back(
         add(*menu, tr("&Where are the films now?…"), {}, [this] { m_window.films().find(); }));
+    m_ofRun.push_back(add(*menu, tr("Sl&it picture of the last camera"),
+                          {keys(Qt::CTRL | Qt::SHIFT | Qt::Key_L)}, [this] { showSlit(); }));
     add(*menu, tr("Last camera one frame back"),
         {keys(Qt::ALT | Qt::Key_PageUp), keys(Qt::CTRL | Qt::ALT | Qt::Key_Left)}, [&deck] {
             if (deck.views() > 1)
@@ -162,6 +164,16 @@ void TakingActions::makeCameraMenu() {
         [this] { m_window.makeFilmLarger(); });
     add(*menu, tr("The frames shown are &one moment"), {keys(Qt::CTRL | Qt::Key_L)},
         [&deck] { deck.alignCameras(); });
+}
+
+/// A fixed camera stands behind the run's own, so that the last one is meant.
+void TakingActions::showSlit() {
+    const FilmDeck& deck = m_window.deck();
+    const QStringList films = deck.films() + deck.filmsBeside();
+    if (films.isEmpty())
+        m_window.stage().refuse(tr("There is no film here that has a slit picture."));
+    else
+        emit m_window.slitRequested(films.constLast());
 }
 
 void TakingActions::refresh() {

@@ -33,6 +33,7 @@ private:
     void makeMarkMenu();
     void makePenaltyMenu();
     void makeCameraMenu();
+    void showSlit();
     QAction* add(QMenu& menu, const QString& text, const QList<QKeySequence>& keys, Act act);
     [[nodiscard]] Commands athletes() const;
     void chooseFolder();

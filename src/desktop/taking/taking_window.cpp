@@ -1,5 +1,6 @@
 #include "desktop/taking/taking_window.h"
 
+#include "desktop/barrier/slit_strip.h"
 #include "desktop/film/film_grid.h"
 #include "desktop/film/film_stage.h"
 #include "desktop/film/time_line.h"
@@ -129,6 +130,7 @@ void TakingWindow::makeStage() {
     m_notes = new NotesPanel({m_document, deck(), workspace(), *m_gates, *m_clips, m_run, {}},
                              m_stage->line(), *m_form);
     m_stage->addAbove(m_notes->bar());
+    m_stage->addOverLine(*new SlitStrip(deck(), m_stage->line())); // the stage owns it
     m_stage->addBelow(m_notes->lanes());
     m_stage->addBelow(*m_times);
     m_stage->addBelow(*m_gates);

@@ -89,6 +89,7 @@ public:
 signals:
     void analysisRequested(); ///< of the document as it is now, saved or not
     void crossRequested(const QString& path);
+    void slitRequested(const QString& film); ///< marks made there go into the document
 
 protected:
     /// Films become runs, a recording belongs to the run in front.

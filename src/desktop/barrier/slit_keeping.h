@@ -1,0 +1,40 @@
+#pragma once
+
+#include "vision/slit_file.h"
+
+#include <QObject>
+#include <QString>
+
+#include <functional>
+
+namespace kavela::desktop {
+
+/// The lines over a film and what was refused on them, in a file beside the film. It is written at
+/// every change, beside the window.
+class SlitKeeping : public QObject {
+    Q_OBJECT
+
+public:
+    using QObject::QObject;
+
+    /// Reads what belongs to a film; nothing where it has no lines yet. What cannot be read is
+    /// told, and is put aside under another name before lines are written there.
+    void open(const QString& film);
+    [[nodiscard]] const slitfile001& file() const { return m_file; }
+    /// Changes and writes it.
+    void edit(const std::function<void(slitfile001&)>& change);
+
+signals:
+    void changed();
+    /// It could not be read or written, and why; the next change tries to write again.
+    void failed(const QString& why);
+
+private:
+    void write();
+
+    QString m_film;
+    slitfile001 m_file;
+    bool m_isUnreadable = false; ///< what stands under the name was not made by this window
+};
+
+} // namespace kavela::desktop

@@ -1,0 +1,198 @@
+#include "desktop/barrier/slit_marking.h"
+
+#include "common/error.h"
+#include "desktop/shell/qt_text.h"
+#include "splittaking/film_crossings.h"
+#include "vision/barrier_figures.h"
+
+#include <QUndoStack>
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+namespace kavela::desktop {
+
+namespace {
+
+/// A proposal and a mark so near to each other, in seconds, are of one boat.
+constexpr double ProposalReach = 0.5;
+constexpr double SureProposal = 0.5; ///< confidence
+
+} // namespace
+
+const slitline001* SlitMarking::line() const {
+    const auto& lines = m_keeping.file().lines;
+    return m_number < lines.size() ? &lines[m_number] : nullptr;
+}
+
+std::size_t SlitMarking::split() const {
+    return line() ? static_cast<std::size_t>(std::max<std::int64_t>(line()->split, 0)) : 0;
+}
+
+void SlitMarking::edit(const std::function<void(slitline001&)>& change) {
+    if (line())
+        m_keeping.edit([&](slitfile001& file) { change(file.lines[m_number]); });
+}
+
+QString SlitMarking::draw(std::size_t number, const SlitLine& ends, const VideoFacts& film) {
+    try {
+        checkSlitLine(ends, film.shownSize, film.path);
+    } catch (const FileError& error) {
+        return qtText(error.reason());
+    }
+    m_number = std::min(number, m_keeping.file().lines.size());
+    m_keeping.edit([&](slitfile001& file) {
+        file.width = film.shownSize.width;
+        file.height = film.shownSize.height;
+        if (m_number == file.lines.size()) {
+            std::int64_t split = 0;
+            for (const slitline001& line : file.lines)
+                split = std::max(split, line.split);
+            const auto most = static_cast<std::int64_t>(m_race.splits());
+            file.lines.push_back({.split = most > 0 ? std::min(split + 1, most) : split + 1});
+        }
+        slitline001& line = file.lines[m_number];
+        line.x1 = ends.first.x;
+        line.y1 = ends.first.y;
+        line.x2 = ends.second.x;
+        line.y2 = ends.second.y;
+    });
+    return {};
+}
+
+void SlitMarking::remove() {
+    if (line())
+        m_keeping.edit([this](slitfile001& file) {
+            file.lines.erase(file.lines.begin() + static_cast<std::ptrdiff_t>(m_number));
+        });
+}
+
+double SlitMarking::secondsAt(double column) const {
+    return m_index ? slitSecondsAt(*m_index, 0, column) : 0;
+}
+
+std::vector<Proposal> SlitMarking::proposals() const {
+    return line() ? m_search.proposals(*line()) : std::vector<Proposal>();
+}
+
+std::optional<Proposal> SlitMarking::proposalAt(double column) const {
+    const double now = secondsAt(column);
+    std::optional<Proposal> nearest;
+    for (const Proposal& proposal : proposals())
+        if (const double way = std::abs(proposal.seconds - now);
+            way <= (nearest ? std::abs(nearest->seconds - now) : ProposalReach))
+            nearest = proposal;
+    return nearest;
+}
+
+std::optional<double> SlitMarking::proposalBeside(double column, int step) const {
+    if (!m_index)
+        return std::nullopt;
+    constexpr double Same = 1e-4;
+    const double now = secondsAt(column);
+    std::optional<double> to;
+    for (const Proposal& proposal : proposals()) {
+        if (step < 0 && proposal.seconds < now - Same)
+            to = proposal.seconds;
+        if (step > 0 && proposal.seconds > now + Same && !to)
+            to = proposal.seconds;
+    }
+    return to ? std::optional(slitColumnAt(*m_index, 0, *to)) : std::nullopt;
+}
+
+SlitMarking::Rows SlitMarking::rows() const {
+    Rows rows;
+    if (!line())
+        return rows;
+    const std::vector<Proposal> found = proposals();
+    const bool isSearched = m_search.isSearched(*line());
+    std::vector<double> crossings;
+    for (const Proposal& proposal : found)
+        crossings.push_back(proposal.seconds);
+    std::vector<std::optional<double>> marked;
+    for (const SlitRun& run : m_race.runs(split())) {
+        marked.push_back(run.seconds);
+        rows.runs.push_back({run, std::nullopt, isSearched});
+    }
+    const auto owners = runsOfCrossings(crossings, marked);
+    for (std::size_t i = 0; i < found.size(); ++i) {
+        const auto owner = owners[i];
+        rows.proposals.push_back({found[i], owner ? rows.runs[*owner].run.crew : QString(),
+                                  owner && marked[*owner].has_value()});
+        if (owner && !rows.runs[*owner].proposal)
+            rows.runs[*owner].proposal = found[i];
+    }
+    return rows;
+}
+
+/// The stamp is that of the frame whose column the place lies in.
+QString SlitMarking::mark(int run, double column, bool isFiner) {
+    if (!m_index || m_index->frameCount() == 0)
+        return tr("The film is not read so far.");
+    const FrameNumber frame = slitFrameAt(*m_index, 0, column);
+    const double beside = secondsAt(column) - m_index->secondsOf(frame);
+    return m_race.mark(run, split(), m_index->stampOf(frame),
+                       isFiner ? std::optional(beside) : std::nullopt);
+}
+
+QString SlitMarking::unmark(int run) {
+    return m_race.unmark(run, split());
+}
+
+QString SlitMarking::refuse(double column) {
+    const auto proposal = proposalAt(column);
+    if (!proposal)
+        return tr("There is no proposal at the hair line.");
+    edit([&](slitline001& line) { line.refused.push_back({proposal->frame, proposal->seconds}); });
+    return {};
+}
+
+QString SlitMarking::lock() {
+    const BarrierFigures& figures = measuredBarrierFigures();
+    return reachesTargets(figures) ? QString() : qtText(tellFigures(figures));
+}
+
+QString SlitMarking::acceptAll(bool isFiner) {
+    if (!line() || !m_race.isThere() || !m_index)
+        return tr("Nothing can be accepted without a line, its proposals and the race.");
+    const std::vector<SlitRunRow> runs = rows().runs;
+    QStringList refused;
+    QUndoStack& steps = m_race.document()->undoStack();
+    steps.beginMacro(tr("proposals accepted"));
+    for (const SlitRunRow& row : runs) {
+        if (row.run.seconds || !row.proposal || row.proposal->confidence < SureProposal)
+            continue;
+        const double column = slitColumnAt(*m_index, 0, row.proposal->seconds);
+        if (const QString why = mark(row.run.run, column, isFiner); !why.isEmpty())
+            refused.append(row.run.crew + QStringLiteral(": ") + why);
+    }
+    steps.endMacro();
+    return refused.join(' ');
+}
+
+std::vector<BandJudgement> SlitMarking::judgements() const {
+    std::vector<BandJudgement> judgements;
+    if (!line())
+        return judgements;
+    std::vector<double> marked;
+    for (const SlitRun& run : m_race.runs(split()))
+        if (run.seconds)
+            marked.push_back(*run.seconds);
+    for (const Proposal& proposal : m_search.allProposals(*line())) {
+        const auto own = std::ranges::find_if(marked, [&](double seconds) {
+            return std::abs(seconds - proposal.seconds) <= ProposalReach;
+        });
+        if (own != marked.end()) {
+            judgements.push_back({proposal, *own});
+            marked.erase(own);
+        } else if (isRefused(*line(), proposal.seconds)) {
+            judgements.push_back({proposal, std::nullopt});
+        } // what was not looked at yet teaches nothing
+    }
+    for (const double missed : marked)
+        judgements.push_back({std::nullopt, missed});
+    return judgements;
+}
+
+} // namespace kavela::desktop

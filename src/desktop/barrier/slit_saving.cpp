@@ -1,0 +1,39 @@
+#include "desktop/barrier/slit_saving.h"
+
+#include "common/error.h"
+#include "desktop/shell/qt_text.h"
+
+#include <QFileInfo>
+
+namespace kavela::desktop {
+
+QString SlitSaving::writePicture(const QString& file, const SlitPicture& picture,
+                                 const VideoIndex& index, const SlitSheet& sheet) {
+    try {
+        writePng(paintSlitSheet(picture, index, sheet), file.toStdString());
+    } catch (const FileError& error) {
+        return qtText(error.reason());
+    }
+    return {};
+}
+
+void SlitSaving::writeBands(const QString& file, const std::shared_ptr<const VideoIndex>& index,
+                            const slitline001& line, const std::vector<BandJudgement>& judgements) {
+    BarrierRequest request;
+    request.line = lineOf(line);
+    request.boat = boatOf(line);
+    m_work.run(
+        [path = file.toStdString(), index, request, judgements](const WorkSteps& steps) {
+            if (const auto recording = recordBands(index, request, judgements, steps.stopToken()))
+                writeBandRecording(*recording, path);
+        },
+        [this, name = QFileInfo(file).fileName()] {
+            emit told(tr("The water round the marks is in %1.").arg(name));
+        },
+        {.failed = [this](const std::exception_ptr& fault) {
+            emit told(
+                tr("The water round the marks could not be saved: %1").arg(qtText(causeOf(fault))));
+        }});
+}
+
+} // namespace kavela::desktop

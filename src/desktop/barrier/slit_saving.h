@@ -1,0 +1,38 @@
+#pragma once
+
+#include "captions/slit_sheet.h"
+#include "desktop/shell/background_work.h"
+#include "vision/band_recording.h"
+#include "vision/slit_file.h"
+
+#include <QObject>
+#include <QString>
+
+#include <memory>
+#include <vector>
+
+namespace kavela::desktop {
+
+/// What is written of a slit picture for others.
+class SlitSaving : public QObject {
+    Q_OBJECT
+
+public:
+    using QObject::QObject;
+
+    /// Writes a part of a picture as PNG with its time scale. Returns why not; empty when it is
+    /// written.
+    [[nodiscard]] static QString writePicture(const QString& file, const SlitPicture& picture,
+                                              const VideoIndex& index, const SlitSheet& sheet);
+    /// Writes the water beside a line round each place that was judged, beside the window.
+    void writeBands(const QString& file, const std::shared_ptr<const VideoIndex>& index,
+                    const slitline001& line, const std::vector<BandJudgement>& judgements);
+
+signals:
+    void told(const QString& text); ///< how it ended
+
+private:
+    BackgroundWork m_work;
+};
+
+} // namespace kavela::desktop

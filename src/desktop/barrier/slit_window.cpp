@@ -1,0 +1,503 @@
+#include "desktop/barrier/slit_window.h"
+
+#include "desktop/barrier/line_overlay.h"
+#include "desktop/barrier/slit_actions.h"
+#include "desktop/barrier/slit_panel.h"
+#include "desktop/barrier/slit_stage.h"
+#include "desktop/barrier/slit_view.h"
+#include "desktop/film/film_view.h"
+#include "desktop/shell/qt_text.h"
+#include "desktop/shell/tables/column_table.h"
+#include "desktop/shell/theme.h"
+#include "desktop/shell/window_place.h"
+#include "desktop/shell/workspace.h"
+#include "desktop/splitfile/taking_files.h"
+#include "splittaking/video_names.h"
+
+#include <QDir>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QSplitter>
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+namespace kavela::desktop {
+
+namespace {
+
+QString slitFilmFilter() {
+    return SlitWindow::tr("Films (*.mp4 *.mov *.m4v *.avi *.mkv *.mts *.m2ts);;All files (*)");
+}
+
+} // namespace
+
+SlitWindow::SlitWindow(Workspace& workspace)
+    : ToolWindow(workspace, nullptr, {"slit", tr("Slit picture"), "mp4"}),
+      m_marking(m_keeping, m_race, m_search),
+      m_stage(new SlitStage(workspace)) {
+    makeParts();
+    connectParts();
+    connectLines();
+    m_actions = new SlitActions(*this);
+    setWindowTitle(tr("Slit picture") + QStringLiteral(" – Kavela"));
+    showLines();
+}
+
+SlitWindow::~SlitWindow() {
+    // The parts report to the window while they are taken apart.
+    m_stage->disconnect(this);
+    m_race.disconnect(this);
+    m_loader.disconnect(this);
+    m_search.disconnect(this);
+    m_saving.disconnect(this);
+    m_keeping.disconnect(this);
+    m_panel->disconnect(this);
+}
+
+void SlitWindow::makeParts() {
+    m_panel = new SlitPanel;
+    auto* const whole = new QSplitter;
+    whole->setChildrenCollapsible(false);
+    whole->setContentsMargins(theme::Spacing, theme::Spacing, theme::Spacing, theme::Spacing);
+    whole->addWidget(m_stage);
+    whole->addWidget(m_panel);
+    whole->setStretchFactor(0, 1);
+    shareSizes(*whole, {900, 360});
+    rememberSizes(*whole, workspace(), "slitParts");
+    setCentralWidget(whole);
+}
+
+void SlitWindow::connectParts() {
+    connect(m_stage, &SlitStage::indexChanged, this, &SlitWindow::followFilm);
+    connect(m_stage, &SlitStage::failed, this, &SlitWindow::tell);
+    connect(&view(), &SlitView::markDropped, this, &SlitWindow::moveMark);
+    connect(&m_loader, &SlitLoader::grown, this, &SlitWindow::showPicture);
+    connect(&m_loader, &SlitLoader::ended, this, &SlitWindow::showPicture);
+    connect(&m_race, &SlitRace::changed, this, &SlitWindow::showLines);
+    connect(&m_search, &CrossingSearch::changed, this, &SlitWindow::showRuns);
+    connect(&m_search, &CrossingSearch::failed, this, &SlitWindow::tell);
+    connect(&m_saving, &SlitSaving::told, this, &SlitWindow::tell);
+    connect(m_panel, &SlitPanel::runChosen, this, &SlitWindow::followRun);
+    connect(m_panel, &SlitPanel::runClicked, this, &SlitWindow::goToRun);
+    connect(m_panel, &SlitPanel::proposalChosen, this, [this](double seconds) {
+        if (m_loader.index())
+            m_stage->setHair(slitColumnAt(*m_loader.index(), 0, seconds));
+    });
+    connect(m_panel, &SlitPanel::raceWanted, this, [this] { emit raceRequested(raceOfFilm()); });
+    connect(m_panel, &SlitPanel::finerChosen, this, &SlitWindow::setFiner);
+}
+
+void SlitWindow::connectLines() {
+    connect(&m_keeping, &SlitKeeping::changed, this, &SlitWindow::showLines);
+    connect(&m_keeping, &SlitKeeping::failed, this, &SlitWindow::tell);
+    connect(&overlay(), &LineOverlay::lineChosen, this, &SlitWindow::chooseLine);
+    connect(&overlay(), &LineOverlay::lineDrawn, this, &SlitWindow::drawn);
+    connect(&overlay(), &LineOverlay::boatDrawn, this, [this](const QRectF& box) {
+        overlay().setTool(LineOverlay::Tool::None);
+        m_marking.edit([&](slitline001& line) {
+            line.boatX = box.x();
+            line.boatY = box.y();
+            line.boatWidth = box.width();
+            line.boatHeight = box.height();
+        });
+    });
+    connect(m_panel, &SlitPanel::lineChosen, this, [this](std::size_t line) {
+        chooseLine(line);
+        view().setFocus();
+    });
+    connect(m_panel, &SlitPanel::splitChosen, this, [this](std::size_t split) {
+        setSplit(split);
+        view().setFocus();
+    });
+}
+
+FilmDeck& SlitWindow::deck() const {
+    return m_stage->deck();
+}
+
+SlitView& SlitWindow::view() const {
+    return m_stage->slit();
+}
+
+LineOverlay& SlitWindow::overlay() const {
+    return m_stage->overlay();
+}
+
+ColumnTable& SlitWindow::runTable() const {
+    return m_panel->runTable();
+}
+
+ColumnTable& SlitWindow::proposalTable() const {
+    return m_panel->proposalTable();
+}
+
+QStringList SlitWindow::paths() const {
+    return m_film.isEmpty() ? QStringList() : QStringList(m_film);
+}
+
+bool SlitWindow::open(const QString& path) {
+    const QFileInfo info(path);
+    if (!info.isFile()) {
+        workspace().showAlert(
+            {"", tr("“%1” is not there.").arg(QDir::toNativeSeparators(path)).toStdString()}, this);
+        return false;
+    }
+    m_film = info.absoluteFilePath();
+    m_marking.setNumber(0);
+    m_marking.setIndex(nullptr);
+    m_run = -1;
+    m_told.clear();
+    m_loader.setFilm(nullptr);
+    m_search.setFilm(nullptr);
+    setWindowTitle(info.fileName() + QStringLiteral(" – ") + tr("Slit picture") +
+                   QStringLiteral(" – Kavela"));
+    setWindowFilePath(m_film);
+    m_race.setFilm(m_film);
+    m_keeping.open(m_film);
+    m_stage->open(m_film);
+    emit pathsChanged();
+    return true;
+}
+
+void SlitWindow::chooseFilm() {
+    const QString film = QFileDialog::getOpenFileName(this, tr("Open the film of a fixed camera"),
+                                                      QFileInfo(m_film).path(), slitFilmFilter());
+    if (!film.isEmpty())
+        (void)open(film);
+}
+
+void SlitWindow::takeFiles(const QStringList& paths) {
+    const QFileInfo first(paths.value(0));
+    if (isVideoFile(first.fileName().toStdString()))
+        (void)open(first.filePath());
+    else if (first.suffix() == QLatin1String("kvx"))
+        emit raceRequested(first.absoluteFilePath());
+    else
+        emit openRequested(paths);
+}
+
+void SlitWindow::setRace(TakingDocument& document, ToolWindow& owner) {
+    m_run = -1;
+    m_race.setDocument(document, owner);
+    m_told.clear();
+    showState();
+}
+
+QString SlitWindow::raceOfFilm() const {
+    if (m_film.isEmpty())
+        return {};
+    const QString folder = QFileInfo(m_film).absolutePath();
+    const QString file = splitFileIn(folder);
+    return file.isEmpty() ? folder : QDir(folder).absoluteFilePath(file);
+}
+
+/// The lines can be drawn as soon as the film is seen; it is read when all of it is known.
+void SlitWindow::followFilm() {
+    const auto index = m_stage->index();
+    if (!index->isComplete())
+        return;
+    m_marking.setIndex(index);
+    m_loader.setFilm(index);
+    m_search.setFilm(index);
+    showPicture();
+    showRuns();
+}
+
+void SlitWindow::showLines() {
+    const auto& lines = m_keeping.file().lines;
+    if (m_marking.number() >= lines.size())
+        m_marking.setNumber(0);
+    std::vector<SlitLine> drawn;
+    for (const slitline001& each : lines)
+        drawn.push_back(lineOf(each));
+    m_panel->showLines(m_marking, lines.size(), m_race);
+    overlay().setLines(lines, m_marking.number());
+    m_loader.setLines(drawn);
+    showPicture();
+    showRuns();
+}
+
+void SlitWindow::showPicture() {
+    if (!line())
+        view().setMessage(m_film.isEmpty()
+                              ? tr("Open the film of a camera on a tripod (Ctrl+O).")
+                              : tr("Press N and draw a line across the water in the film above: "
+                                   "what stands on it is shown here over time."));
+    else
+        view().setMessage(m_loader.told().isEmpty() ? tr("Reading the film…") : m_loader.told());
+    view().setPicture(line() ? &m_loader.picture(lineNumber()) : nullptr, m_loader.index());
+    showState();
+}
+
+void SlitWindow::showRuns() {
+    std::vector<SlitGuess> guesses;
+    for (const Proposal& proposal : m_marking.proposals())
+        guesses.push_back({proposal.seconds, proposal.confidence});
+    view().setGuesses(std::move(guesses));
+    m_panel->showRows(m_marking.rows());
+    if (m_run < 0 && !m_panel->runs().empty()) {
+        m_panel->runTable().choose(0);
+        m_run = m_panel->runs().front().run.run; // also where it was chosen already
+    }
+    showMarks();
+    showState();
+}
+
+void SlitWindow::showState() {
+    m_panel->showRace(m_race, QFileInfo(m_film).fileName(), line() != nullptr);
+    if (m_loader.isReading())
+        m_panel->showWork(tr("Reading the film:"), m_loader.share());
+    else if (m_search.isSearching())
+        m_panel->showWork(tr("Looking for boats:"), m_search.share());
+    else
+        m_panel->showWork({}, 0);
+    m_panel->tell(told());
+    if (m_actions)
+        m_actions->refresh();
+}
+
+QString SlitWindow::told() const {
+    QStringList notes;
+    if (!m_told.isEmpty())
+        notes.append(m_told);
+    if (line() && !m_loader.picture(lineNumber()).tiles.empty() && !m_loader.told().isEmpty())
+        notes.append(m_loader.told());
+    if (line())
+        notes.append(m_search.notes(*line()));
+    return notes.join(' ');
+}
+
+void SlitWindow::tell(const QString& text) {
+    m_told = text;
+    showState();
+}
+
+void SlitWindow::refuse(const QString& why) {
+    m_stage->film().refuse(why);
+    tell(why);
+}
+
+void SlitWindow::drawLine() {
+    overlay().setTool(LineOverlay::Tool::Line);
+    tell({});
+}
+
+void SlitWindow::drawBoat() {
+    if (!line()) {
+        refuse(tr("Draw a line first: N."));
+        return;
+    }
+    overlay().setTool(LineOverlay::Tool::Boat);
+}
+
+/// A line that is no line is told and not kept; the one before it is shown again.
+void SlitWindow::drawn(std::size_t number, const QPointF& first, const QPointF& second) {
+    overlay().setTool(LineOverlay::Tool::None);
+    const auto index = m_stage->index();
+    if (!index)
+        return;
+    const bool isNew = number >= m_keeping.file().lines.size();
+    if (isNew || number != lineNumber())
+        m_run = -1;
+    if (isNew) // what is dragged keeps the arrow keys
+        view().setFocus();
+    m_told.clear();
+    if (const QString why = m_marking.draw(
+            number, {{first.x(), first.y()}, {second.x(), second.y()}}, index->facts());
+        !why.isEmpty()) {
+        showLines();
+        refuse(why);
+    }
+}
+
+void SlitWindow::chooseLine(std::size_t number) {
+    if (number >= m_keeping.file().lines.size() || number == lineNumber())
+        return;
+    m_marking.setNumber(number);
+    m_run = -1;
+    showLines();
+}
+
+void SlitWindow::stepLine(int step) {
+    const std::size_t count = m_keeping.file().lines.size();
+    if (count > 1)
+        chooseLine(
+            (lineNumber() + count + static_cast<std::size_t>(step + static_cast<int>(count))) %
+            count);
+}
+
+/// What was refused on it goes with it, which cannot be taken back.
+void SlitWindow::removeLine() {
+    if (!line())
+        return;
+    if (!line()->refused.empty() &&
+        !workspace().askBeforeLoss(
+            {"", tr("%1 proposals were refused on this line. They are forgotten with it.")
+                     .arg(line()->refused.size())
+                     .toStdString()},
+            tr("Remove the line"), this))
+        return;
+    m_run = -1;
+    m_marking.remove();
+}
+
+void SlitWindow::turnArrow() {
+    m_marking.edit([](slitline001& line) { line.fromLeft = !line.fromLeft; });
+}
+
+void SlitWindow::setSplit(std::size_t split) {
+    m_run = -1;
+    m_marking.edit([&](slitline001& line) { line.split = static_cast<std::int64_t>(split); });
+}
+
+void SlitWindow::stepProposal(int step) {
+    if (const auto to = m_marking.proposalBeside(view().hair(), step))
+        m_stage->setHair(*to);
+    else
+        refuse(step < 0 ? tr("There is no proposal before this.")
+                        : tr("There is no proposal behind this."));
+}
+
+void SlitWindow::stepRun(int step) {
+    const int place = m_panel->runTable().currentPlace() + step;
+    if (place >= 0 && place < static_cast<int>(m_panel->runs().size()))
+        m_panel->runTable().choose(place);
+}
+
+/// The first run of a line comes to the front without anything else, another one with its place.
+void SlitWindow::followRun() {
+    const SlitRunRow* const row = m_panel->chosen();
+    if (!row || row->run.run == m_run)
+        return;
+    const bool wasNone = std::exchange(m_run, row->run.run) < 0;
+    showMarks();
+    if (!wasNone)
+        goToRun();
+}
+
+/// The hair line goes to where the run is marked, or may have crossed; else it stays.
+void SlitWindow::goToRun() {
+    const SlitRunRow* const row = m_panel->chosen();
+    const auto index = m_loader.index();
+    if (!row || !index)
+        return;
+    if (row->run.seconds)
+        m_stage->setHair(slitColumnAt(*index, 0, *row->run.seconds));
+    else if (row->proposal)
+        m_stage->setHair(slitColumnAt(*index, 0, row->proposal->seconds));
+}
+
+void SlitWindow::showMarks() {
+    std::vector<SlitMark> marks;
+    for (const SlitRunRow& row : m_panel->runs())
+        if (row.run.seconds)
+            marks.push_back({*row.run.seconds, row.run.crew, row.run.run, row.run.run == m_run});
+    view().setMarks(std::move(marks));
+}
+
+void SlitWindow::mark() {
+    if (!line()) {
+        refuse(tr("Draw a line first: N."));
+        return;
+    }
+    if (!m_race.isThere()) {
+        emit raceRequested(raceOfFilm());
+        if (!m_race.isThere())
+            refuse(tr("Marks need the race of this film: open it in split taking."));
+        return;
+    }
+    if (m_panel->runs().empty() || m_run < 0) {
+        refuse(m_panel->runTable().emptyText());
+        return;
+    }
+    const auto isInFront = [this](const SlitRunRow& row) { return row.run.run == m_run; };
+    const auto isOpen = [](const SlitRunRow& row) { return !row.run.seconds; };
+    if (const QString why = m_marking.mark(m_run, view().hair(), m_isFiner); !why.isEmpty()) {
+        refuse(why);
+        return;
+    }
+    tell({});
+    const auto& rows = m_panel->runs();
+    const auto marked = std::ranges::find_if(rows, isInFront);
+    if (marked == rows.end())
+        return;
+    m_stage->film().flash(marked->run.crew);
+    if (const auto next = std::find_if(marked, rows.end(), isOpen); next != rows.end())
+        m_panel->runTable().choose(static_cast<int>(next - rows.begin()));
+}
+
+void SlitWindow::moveMark(int run, double column) {
+    if (!line())
+        return;
+    if (const QString why = m_marking.mark(run, column, m_isFiner); !why.isEmpty())
+        refuse(why);
+    else
+        m_stage->setHair(column);
+    showRuns(); // where it was, if it was refused
+}
+
+void SlitWindow::unmark() {
+    if (const QString why = m_marking.unmark(m_run); line() && !why.isEmpty())
+        refuse(why);
+}
+
+void SlitWindow::setFiner(bool isFiner) {
+    m_isFiner = isFiner;
+    m_panel->setFiner(isFiner);
+}
+
+void SlitWindow::refuseProposal() {
+    if (const QString why = m_marking.refuse(view().hair()); !why.isEmpty())
+        refuse(why);
+}
+
+void SlitWindow::forgetRefusals() {
+    m_marking.edit([](slitline001& line) { line.refused.clear(); });
+}
+
+void SlitWindow::searchBoats() {
+    if (!line() || line()->boatWidth <= 0 || line()->boatHeight <= 0) {
+        refuse(line() ? tr("Draw a box round one boat first: B.") : tr("Draw a line first: N."));
+        return;
+    }
+    tell({});
+    m_search.search(*line());
+}
+
+void SlitWindow::acceptAll() {
+    if (const QString lock = lockOfAcceptAll(); !lock.isEmpty())
+        workspace().showAlert(
+            {tr("Proposals are accepted one by one").toStdString(), lock.toStdString()}, this);
+    else
+        tell(m_marking.acceptAll(m_isFiner));
+}
+
+QString SlitWindow::exportTo(const QString& file) {
+    const SlitPicture& picture = m_loader.picture(lineNumber());
+    const auto index = m_loader.index();
+    if (!index || picture.tiles.empty())
+        return tr("There is no slit picture yet.");
+    SlitSheet sheet{slitFrameAt(*index, 0, view().columnAt(0)),
+                    slitFrameAt(*index, 0, view().columnAt(view().width())),
+                    {}};
+    sheet.last = std::min(sheet.last, picture.columns - 1);
+    if (sheet.last < sheet.first)
+        return tr("That part is not read yet.");
+    for (const SlitRunRow& row : m_panel->runs())
+        if (row.run.seconds)
+            sheet.marks.push_back({*row.run.seconds, row.run.crew});
+    return SlitSaving::writePicture(file, picture, *index, sheet);
+}
+
+QString SlitWindow::saveBandsTo(const QString& file) {
+    const auto judgements = m_marking.judgements();
+    if (!line() || line()->boatWidth <= 0 || judgements.empty())
+        return tr("There is nothing to learn from yet: look for boats, then mark and refuse what "
+                  "was found.");
+    m_saving.writeBands(file, m_loader.index(), *line(), judgements);
+    return {};
+}
+
+} // namespace kavela::desktop
