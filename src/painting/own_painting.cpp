@@ -3,6 +3,7 @@
 #include "painting/composed_film_file.h"
 #include "painting/film_fetch.h"
 #include "painting/offscreen_application.h"
+#include "painting/page_clip_files.h"
 #include "painting/report_files.h"
 #include "painting/season_film_files.h"
 #include "preferences/preferences.h"
@@ -67,6 +68,10 @@ bool OwnPainting::areSeasonPagesWritten(const Season& season, const fs::path& fo
         files.push_back({report::seasonPageFileName(season, i),
                          [&season, i] { return report::seasonPage(season, i); }, true});
     return areReportsWritten(files, folder);
+}
+
+bool OwnPainting::arePageClipsCut(const std::vector<page::ClipOrder>& clips) const {
+    return painting::arePageClipsCut(clips);
 }
 
 int OwnPainting::writeSeasonFilms(const fs::path& folder) const {
