@@ -86,8 +86,8 @@ int makePage(const PageCall& call, const Painting* painting) {
     if (!hasFiles(input))
         return NotDone;
     const std::vector<std::size_t> runs = seasonRuns(
-        input.facts, {choice.crewKey,
-                      call.category.empty() ? std::string() : categoryKey(call.category), {}});
+        input.facts,
+        {choice.crewKey, call.category.empty() ? std::string() : categoryKey(call.category), {}});
     if (runs.empty()) {
         logUnknownAthlete(input.facts, call.athlete, call.category);
         return NotDone;
@@ -116,9 +116,7 @@ void addPage(Command program, int& status, const Painting* painting) {
         .option("PATH", call->paths,
                 "Split files (.kvx) of any release, and folders of them; several make a season")
         .required();
-    command
-        .option("--athlete", call->athlete, "Whose page; a crew as \"A / B\"")
-        .required();
+    command.option("--athlete", call->athlete, "Whose page; a crew as \"A / B\"").required();
     command.option("-o,--output", call->output, "File to write, ending in .html").required();
     command.option("--category", call->category, "Only runs of this category");
     command.option("--phase", call->phase, "Only runs of this phase");
@@ -130,9 +128,10 @@ void addPage(Command program, int& status, const Painting* painting) {
                  "Show penalty seconds behind the times");
     command.flag("--clips", call->clips,
                  "Cut the athlete's runs out of their films into the folder of the page");
-    command.footer("The page needs nothing else to be read. Films play from the folder that is named "
-                   "as the page without .html: clips of the runs, and what else is put there, such "
-                   "as comparisons. Split files are only read.");
+    command.footer(
+        "The page needs nothing else to be read. Films play from the folder that is named "
+        "as the page without .html: clips of the runs, and what else is put there, such "
+        "as comparisons. Split files are only read.");
     command.onRun([=, &status] { status = makePage(*call, painting); });
 }
 

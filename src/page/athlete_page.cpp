@@ -33,8 +33,7 @@ std::vector<RaceOnPage> racesOf(std::vector<RaceFile>& files, const PageChoice& 
     for (std::size_t number = 0; number < files.size(); ++number)
         if (hasRunsOf(files[number].document, choice))
             races.emplace_back(std::move(files[number]), number, choice);
-    std::ranges::stable_sort(races, {},
-                             [](const RaceOnPage& race) { return race.file().date; });
+    std::ranges::stable_sort(races, {}, [](const RaceOnPage& race) { return race.file().date; });
     return races;
 }
 

@@ -19,8 +19,8 @@ struct RaceFile {
     std::filesystem::path path;
 };
 
-/// Whose page, and how it shows the times. What narrows the runs narrows whom the splits are coloured
-/// among too, as the filters of the analyzer do.
+/// Whose page, and how it shows the times. What narrows the runs narrows whom the splits are
+/// coloured among too, as the filters of the analyzer do.
 struct PageChoice {
     std::string crewKey;
     std::string category; ///< only runs of it, however it is written; empty for all
@@ -45,8 +45,8 @@ struct PageFilm {
 /// Whether some run of a file is.
 [[nodiscard]] bool hasRunsOf(const splittakerdata031& document, const PageChoice& choice);
 
-/// The whole page, of one race or of several: the earliest first, those without a run of the athlete
-/// left out. Nothing where no run is the athlete's.
+/// The whole page, of one race or of several: the earliest first, those without a run of the
+/// athlete left out. Nothing where no run is the athlete's.
 [[nodiscard]] std::optional<std::string> athletePage(std::vector<RaceFile> races,
                                                      const PageChoice& choice,
                                                      const std::vector<PageFilm>& films = {});

@@ -57,11 +57,12 @@ std::string cellStyle(ColourScale scale) {
         rules += name + "{background:" + backgroundOf(*tint) + ";color:#000}" + name +
                  ".y{background:" + backgroundOf(faded(*tint)) + ";color:#444}";
     }
-    return rules + (scale == ColourScale::BlueOrange
-                        ? ":root{--w:#1b62a5;--x:#a35200}@media(prefers-color-scheme:dark){:root{"
-                          "--w:#6cb6f0;--x:#f2a34e}}"
-                        : ":root{--w:#0b7a36;--x:#c02727}@media(prefers-color-scheme:dark){:root{"
-                          "--w:#4cd97b;--x:#ff7b72}}") +
+    return rules +
+           (scale == ColourScale::BlueOrange
+                ? ":root{--w:#1b62a5;--x:#a35200}@media(prefers-color-scheme:dark){:root{"
+                  "--w:#6cb6f0;--x:#f2a34e}}"
+                : ":root{--w:#0b7a36;--x:#c02727}@media(prefers-color-scheme:dark){:root{"
+                  "--w:#4cd97b;--x:#ff7b72}}") +
            ".w{color:var(--w)}.x{color:var(--x)}.y{color:var(--soft);font-style:italic}";
 }
 

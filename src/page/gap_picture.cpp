@@ -87,8 +87,7 @@ std::string pictureBegin(std::string_view label) {
 /// Where a line of gaps lies in its picture.
 class GapDrawing {
 public:
-    explicit GapDrawing(const GapLine& line)
-        : m_line(line), m_scale(least(line), most(line)) {}
+    explicit GapDrawing(const GapLine& line) : m_line(line), m_scale(least(line), most(line)) {}
 
     [[nodiscard]] bool isDrawn() const {
         return m_line.points.size() >= 2 && m_line.points.back().at > 0;
@@ -169,9 +168,12 @@ private:
 
     [[nodiscard]] std::string lastValue() const {
         const double gap = m_line.points.back().gap;
+        // On the side that the line does not come from.
+        const bool isFalling = m_line.points[m_line.points.size() - 2].gap > gap;
+        const double place = m_scale.placeOf(gap) + (isFalling ? 16 : -8);
         return "<text class=v x=" + point(RightEdge) +
-               " y=" + point(std::max(m_scale.placeOf(gap) - 7, 10.0)) + ">" +
-               signedHundredths(gap) + "</text>";
+               " y=" + point(std::clamp(place, 11.0, LowerEdge - 3)) + ">" + signedHundredths(gap) +
+               "</text>";
     }
 
     const GapLine& m_line;

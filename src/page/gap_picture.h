@@ -22,14 +22,15 @@ struct GapLine {
     std::vector<GapPoint> points;
 };
 
-/// The picture as inline SVG that takes the colours of the page; empty for fewer than two stretches.
+/// The picture as inline SVG that takes the colours of the page; empty for fewer than two
+/// stretches.
 [[nodiscard]] std::string gapPicture(const GapLine& line);
 
 /// A dot of a season: how far behind the winner a run was.
 struct SeasonDot {
-    double day = 0;     ///< of any calendar
-    double percent = 0; ///< behind the winner
-    std::string title;  ///< what it is
+    double day = 0;      ///< of any calendar
+    double percent = 0;  ///< behind the winner
+    std::string title;   ///< what it is
     bool isLast = false; ///< of its race, such as the final: drawn filled
 };
 

@@ -26,8 +26,7 @@ std::string_view writtenOut(char letter) {
 }
 
 bool staysInAddress(char letter) {
-    const bool isLetter =
-        ('a' <= letter && letter <= 'z') || ('A' <= letter && letter <= 'Z');
+    const bool isLetter = ('a' <= letter && letter <= 'z') || ('A' <= letter && letter <= 'Z');
     const bool isDigit = '0' <= letter && letter <= '9';
     return isLetter || isDigit || std::string_view("-._~/").find(letter) != std::string_view::npos;
 }

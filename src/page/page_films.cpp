@@ -19,7 +19,8 @@ namespace {
 constexpr double SecondsAround = 1.5; ///< of film before the start and after the last mark
 constexpr const char* PosterEnding = ".jpg";
 
-/// What the clips of each race begin with: its file's name, told apart where two are called the same.
+/// What the clips of each race begin with: its file's name, told apart where two are called the
+/// same.
 std::vector<std::string> clipNames(const std::vector<RaceFile>& races) {
     std::map<std::string, int> known;
     std::vector<std::string> names;
@@ -88,8 +89,7 @@ std::vector<ClipOrder> clipOrders(const std::vector<RaceFile>& races, const Page
             if (!span || !(span->end > span->start))
                 continue;
             orders.push_back({races[race].path.parent_path() / athlete.videoname.front(),
-                              std::max(span->start - SecondsAround, 0.0),
-                              span->end + SecondsAround,
+                              std::max(span->start - SecondsAround, 0.0), span->end + SecondsAround,
                               filmFolderOf(page) / (names[race] + std::to_string(run))});
         }
     }

@@ -22,13 +22,14 @@ struct ClipOrder {
 /// The folder of a page.
 [[nodiscard]] std::filesystem::path filmFolderOf(const std::filesystem::path& page);
 
-/// What is to be cut so that the page shows the athlete's runs: those with a film and two marks on it.
+/// What is to be cut so that the page shows the athlete's runs: those with a film and two marks on
+/// it.
 [[nodiscard]] std::vector<ClipOrder> clipOrders(const std::vector<RaceFile>& races,
                                                 const PageChoice& choice,
                                                 const std::filesystem::path& page);
 
-/// The films that lie in the folder of a page now, those of runs told apart from the others by their
-/// names; none where there is no such folder.
+/// The films that lie in the folder of a page now, those of runs told apart from the others by
+/// their names; none where there is no such folder.
 [[nodiscard]] std::vector<PageFilm> filmsBeside(const std::vector<RaceFile>& races,
                                                 const std::filesystem::path& page);
 

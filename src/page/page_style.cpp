@@ -13,7 +13,7 @@ h1{margin:0;font-size:1.7rem;line-height:1.15;letter-spacing:-.01em}
 h2{margin:30px 4px 2px;font-size:1.3rem;line-height:1.2}
 h3{margin:20px 4px 8px;font-size:1.05rem}
 h4,caption{margin:18px 0 6px;font-size:.82rem;font-weight:600;color:var(--soft);text-align:left}
-p{margin:4px}
+p{margin:4px}header p{margin:4px 0}
 a{color:var(--lead)}
 small{font-size:.78em;color:var(--soft);font-weight:400}
 .h,figcaption{color:var(--soft);font-size:.85rem}
@@ -30,19 +30,19 @@ article:target{outline:2px solid var(--lead)}
 .k dd{margin:0;font-size:1.15rem;font-weight:600;font-variant-numeric:tabular-nums;line-height:1.25}
 figure{margin:10px 0}
 section>figure{max-width:620px;padding:12px 14px}
-svg{display:block;width:100%;height:auto;font:10px system-ui,sans-serif;fill:var(--soft)}
+svg{display:block;width:100%;max-width:460px;height:auto;font:10px system-ui,sans-serif;fill:var(--soft)}
 .l,.z{fill:none;stroke:var(--line)}.z{stroke:var(--soft)}
 .s{fill:none;stroke:var(--lead);stroke-width:2;stroke-linejoin:round}
 .q{fill:none;stroke:var(--soft);stroke-width:1.5;stroke-dasharray:4 3}
 path.a{fill:var(--lead);opacity:.14;stroke:none}
 .d{fill:var(--lead)}
 circle.o{fill:var(--card);stroke:var(--lead);stroke-width:1.5}
-.e,.v{text-anchor:end}.m,.p{text-anchor:middle}
+text{paint-order:stroke;stroke:var(--card);stroke-width:3px;stroke-linejoin:round}.e,.v{text-anchor:end}.m,.p{text-anchor:middle}
 .p{fill:var(--warn);font-weight:700}.v{fill:var(--ink);font-weight:700;font-size:12px}
 table{border-collapse:collapse;font-variant-numeric:tabular-nums;font-size:.88rem}
 caption{margin:0;padding:6px 0}
 th,td{padding:5px 7px;text-align:right;border-bottom:1px solid var(--line);font-weight:400}
-thead th{color:var(--soft);font-size:.76rem;vertical-align:bottom;line-height:1.2}
+thead th{overflow-wrap:normal;color:var(--soft);font-size:.76rem;vertical-align:bottom;line-height:1.2}
 th:first-child{text-align:left}
 tbody th i{display:inline-block;min-width:1.25em;font-style:normal;font-size:.78em;color:var(--soft)}
 .r{width:100%;margin-top:14px}
@@ -50,7 +50,7 @@ tbody th i{display:inline-block;min-width:1.25em;font-style:normal;font-size:.78
 .r th,.r td{padding-left:4px;padding-right:6px}
 .r .t th{font-weight:600}
 .j{text-align:left!important}
-div.o{overflow-x:auto;max-width:100%;margin-top:8px}
+div.o{overflow-x:auto;width:fit-content;min-width:min(100%,34rem);max-width:100%;margin-top:8px}
 .b{border-collapse:separate;border-spacing:0;min-width:100%}
 .b caption{padding:8px 10px;position:sticky;left:0}
 .b td{white-space:nowrap}

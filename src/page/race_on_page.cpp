@@ -105,8 +105,8 @@ RaceOnPage::RaceOnPage(RaceFile file, std::size_t number, const PageChoice& choi
 }
 
 std::optional<std::size_t> RaceOnPage::rowOf(std::size_t run) const {
-    const auto found = std::ranges::find(m_set.alldata, static_cast<std::int64_t>(run),
-                                         &analyzerdata::athleteInt);
+    const auto found =
+        std::ranges::find(m_set.alldata, static_cast<std::int64_t>(run), &analyzerdata::athleteInt);
     return found == m_set.alldata.end()
                ? std::nullopt
                : std::optional(static_cast<std::size_t>(found - m_set.alldata.begin()));

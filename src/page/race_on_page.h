@@ -53,8 +53,8 @@ public:
     [[nodiscard]] std::optional<std::size_t> rowOf(std::size_t run) const;
     /// Against the winner of its group, by the place in own().
     [[nodiscard]] const RunLosses& lossesOf(std::size_t own) const { return m_losses[own]; }
-    /// By section, then the whole run, by the place in own(). Those marked on the film, else those of
-    /// an attached recording.
+    /// By section, then the whole run, by the place in own(). Those marked on the film, else those
+    /// of an attached recording.
     [[nodiscard]] const std::vector<PageStrokes>& strokesOf(std::size_t own) const {
         return m_strokes[own];
     }

@@ -53,9 +53,9 @@ public:
             title += (title.empty() ? "" : " · ") + escaped(facts.text(first.phase));
         if (title.empty())
             title = "Runs";
-        std::string made = "<div class=o role=region tabindex=0 aria-label=\"Split table: " + title +
-                           "\"><table class=b><caption>" + title +
-                           "</caption><thead><tr><th scope=col>Crew";
+        std::string made =
+            "<div class=o role=region tabindex=0 aria-label=\"Split table: " + title +
+            "\"><table class=b><caption>" + title + "</caption><thead><tr><th scope=col>Crew";
         for (const std::size_t column : m_columns)
             made += "<th scope=col>" + escaped(m_race.table().columns[column].title);
         made += "<th scope=col>Pen</thead><tbody>";
@@ -149,9 +149,8 @@ std::string racePart(const RaceOnPage& race, bool isOfSeason, const std::vector<
     made += "<div class=a>";
     for (std::size_t own = 0; own < race.own().size(); ++own)
         made += runPart(race, own, films);
-    made += "</div><h3>" +
-            std::string(isOfSeason ? "Beside the winner" : "Among the others") + "</h3>" +
-            groupTables(race, isOfSeason) + legendOf(race);
+    made += "</div><h3>" + std::string(isOfSeason ? "Beside the winner" : "Among the others") +
+            "</h3>" + groupTables(race, isOfSeason) + legendOf(race);
     return made + "</section>\n";
 }
 

@@ -72,7 +72,8 @@ private:
             isShown[static_cast<std::size_t>(gate)] = true;
             items += item(gate);
         }
-        return items.empty() ? items : "<div><b>" + escaped(title) + "</b><ol>" + items + "</ol></div>";
+        return items.empty() ? items
+                             : "<div><b>" + escaped(title) + "</b><ol>" + items + "</ol></div>";
     }
 
     [[nodiscard]] std::string item(std::int64_t gate) const {
@@ -146,10 +147,10 @@ std::string lossNote(const FactStore& facts, const LossRow& note) {
         labelOf(LabelList::LossGateDetails, note.gateDetails),
         labelOf(LabelList::LossStyle, note.style),
         labelOf(LabelList::LossWaterFeature, note.waterFeature)};
-    std::string made = "<li><b>" +
-                       (note.lost == 0 ? std::string("Not finished")
-                                       : signedHundredths(note.lost) + " s") +
-                       "</b>";
+    std::string made =
+        "<li><b>" +
+        (note.lost == 0 ? std::string("Not finished") : signedHundredths(note.lost) + " s") +
+        "</b>";
     if (!facts.text(note.versus).empty())
         made += " against " + isolated(facts.text(note.versus));
     made += ": " + escaped(joinedTexts(where, ", "));
@@ -183,7 +184,7 @@ std::string upstreamPart(const RaceOnPage& race, std::size_t own) {
         return {};
     std::string made = "<table class=r><caption>Upstream gates</caption><thead><tr><th scope=col>"
                        "Gate<th scope=col>In<th scope=col>Out<th scope=col>Time<th scope=col>To "
-                       "winner<th scope=col>Turn</thead><tbody>";
+                       "winner<th scope=col class=j>Turn</thead><tbody>";
     for (const GateRow& gate : gates) {
         const GateLoss* const loss = gateLossOf(race.lossesOf(own), gate.gate);
         made += "<tr><th scope=row>" + std::to_string(gate.gate) + "<td>" +

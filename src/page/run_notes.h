@@ -12,7 +12,8 @@ namespace kavela::page {
 /// and what was noted of each.
 [[nodiscard]] std::string penaltiesPart(const RaceOnPage& race, std::size_t row);
 
-/// The upstream gates of a run by its place in RaceOnPage::own(): times, and what the winner's differ.
+/// The upstream gates of a run by its place in RaceOnPage::own(): times, and what the winner's
+/// differ.
 [[nodiscard]] std::string upstreamPart(const RaceOnPage& race, std::size_t own);
 
 /// What the coach noted as time lost against others.

@@ -33,8 +33,8 @@ public:
           m_losses(race.lossesOf(own)) {
         m_isWinner = m_losses.referenceRun == m_run;
         if (m_isWinner)
-            m_toIdeal = kavela::lossesOf(race.facts(), race.rivals(), m_run,
-                                         {LossReferenceKind::Ideal, 0});
+            m_toIdeal =
+                kavela::lossesOf(race.facts(), race.rivals(), m_run, {LossReferenceKind::Ideal, 0});
     }
 
     [[nodiscard]] std::string text(const std::vector<PageFilm>& films) {
@@ -68,9 +68,8 @@ private:
         if (const auto place = placeInGroup(facts, group, m_run)) {
             const auto count = std::ranges::count_if(
                 group, [&](std::size_t run) { return facts.runs()[run].isComplete; });
-            made += figure("Place",
-                           std::to_string(*place) + " <small>of " + std::to_string(count) +
-                               "</small>");
+            made += figure("Place", std::to_string(*place) + " <small>of " + std::to_string(count) +
+                                        "</small>");
         }
         if (m_facts.isComplete) {
             made += figure("Total", seconds(m_facts.total)) +
@@ -101,8 +100,8 @@ private:
         return text;
     }
 
-    /// What the gap is drawn against: the winner's own is one of nothing, so hers is against what the
-    /// field could do together.
+    /// What the gap is drawn against: the winner's own is one of nothing, so hers is against what
+    /// the field could do together.
     [[nodiscard]] const RunLosses& drawn() const { return m_isWinner ? m_toIdeal : m_losses; }
 
     [[nodiscard]] GapLine gapLine() const {
@@ -120,9 +119,9 @@ private:
             std::string name = std::to_string(stretch.first);
             if (stretch.last != stretch.first)
                 name += '-' + std::to_string(stretch.last);
-            line.points.push_back({std::move(name), at, paddling + penalties, paddling,
-                                   stretch.pen > 0 ? '+' + std::to_string(stretch.pen)
-                                                   : std::string()});
+            line.points.push_back(
+                {std::move(name), at, paddling + penalties, paddling,
+                 stretch.pen > 0 ? '+' + std::to_string(stretch.pen) : std::string()});
         }
         return line;
     }
@@ -138,10 +137,10 @@ private:
         if (picture.empty())
             return {};
         return "<figure>" + picture + "<figcaption>" +
-               (m_isWinner ? std::string("This run won. Gap to the ideal run, the best of every "
-                                         "section, in seconds.")
-                           : "Gap to " + isolated(other) +
-                                 ", in seconds: above the line is behind.") +
+               (m_isWinner
+                    ? std::string("This run won. Gap to the ideal run, the best of every "
+                                  "section, in seconds.")
+                    : "Gap to " + isolated(other) + ", in seconds: above the line is behind.") +
                sumWords() + "</figcaption></figure>";
     }
 
@@ -204,8 +203,8 @@ private:
         const bool hasLosses = !m_isWinner && !m_losses.stretches.empty();
         const bool hasPens = hasPenalties();
         const auto& strokes = m_race.strokesOf(m_own);
-        const bool hasStrokes =
-            std::ranges::any_of(strokes, [](const PageStrokes& of) { return of.count.has_value(); });
+        const bool hasStrokes = std::ranges::any_of(
+            strokes, [](const PageStrokes& of) { return of.count.has_value(); });
         std::string made = "<table class=r><caption>Splits</caption><thead><tr><th scope=col>"
                            "Section<th scope=col>Time<th scope=col>Rank";
         made += std::string(hasLosses ? "<th scope=col>To winner" : "") +

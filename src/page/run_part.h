@@ -7,8 +7,8 @@
 
 namespace kavela::page {
 
-/// The part of one run of the athlete, by its place in RaceOnPage::own(): its figures, the gap along
-/// the course, its splits, penalties, losses, upstream gates, what was noted, and its films.
+/// The part of one run of the athlete, by its place in RaceOnPage::own(): its figures, the gap
+/// along the course, its splits, penalties, losses, upstream gates, what was noted, and its films.
 [[nodiscard]] std::string runPart(const RaceOnPage& race, std::size_t own,
                                   const std::vector<PageFilm>& films);
 

@@ -28,11 +28,10 @@ struct LossFieldTitle {
     std::string_view title;
 };
 
-constexpr std::array LossFieldTitles{LossFieldTitle{"kind", "Sections"},
-                                     LossFieldTitle{"third", "Course"},
-                                     LossFieldTitle{"upstream", "Upstream gates"},
-                                     LossFieldTitle{"direction", "Direction"},
-                                     LossFieldTitle{"style", "Style"}};
+constexpr std::array LossFieldTitles{
+    LossFieldTitle{"kind", "Sections"}, LossFieldTitle{"third", "Course"},
+    LossFieldTitle{"upstream", "Upstream gates"}, LossFieldTitle{"direction", "Direction"},
+    LossFieldTitle{"style", "Style"}};
 
 std::string lossFieldTitle(std::string_view field) {
     const auto found = std::ranges::find(LossFieldTitles, field, &LossFieldTitle::field);
@@ -73,9 +72,10 @@ FactStore factsTogether(const std::vector<RaceOnPage>& races) {
 std::string lossTable(const SeasonLosses& losses) {
     constexpr std::size_t MostRows = 30; // there are fewer unless a file holds odd labels
     std::string made =
-        "<div class=o role=region tabindex=0 aria-label=\"Where time is lost\"><table class=\"b s\">"
+        "<div class=o role=region tabindex=0 aria-label=\"Where time is lost\"><table class=\"b "
+        "s\">"
         "<thead><tr><th scope=col>In<th scope=col>A run, s<th scope=col>Percent<th scope=col>90 % "
-        "interval<th scope=col>Runs<th scope=col>Verdict</thead><tbody>";
+        "interval<th scope=col>Runs<th scope=col class=j>Verdict</thead><tbody>";
     for (std::size_t i = 0; i < std::min(losses.rows.size(), MostRows); ++i) {
         const SeasonLossRow& row = losses.rows[i];
         const std::string range =
@@ -96,8 +96,8 @@ std::string trainList(const SeasonLosses& losses) {
     std::string made = "<ol class=n>";
     for (const std::size_t place : losses.train) {
         const SeasonLossRow& row = losses.rows[place];
-        made += "<li><b>" + lossFieldTitle(row.field) + ", " + escaped(row.text) + "</b>: " +
-                signedHundredths(row.perRun) + " s a run";
+        made += "<li><b>" + lossFieldTitle(row.field) + ", " + escaped(row.text) +
+                "</b>: " + signedHundredths(row.perRun) + " s a run";
     }
     return made + "</ol>";
 }
@@ -146,14 +146,14 @@ std::string progressPart(const std::vector<RaceOnPage>& races) {
 
 std::string seasonLossPart(const std::vector<RaceOnPage>& races, const PageChoice& choice) {
     const FactStore facts = factsTogether(races);
-    const SeasonLosses losses = seasonLosses(
-        facts, {choice.crewKey,
-                choice.category.empty() ? std::string() : categoryKey(choice.category), {}});
+    const SeasonLosses losses =
+        seasonLosses(facts, {choice.crewKey,
+                             choice.category.empty() ? std::string() : categoryKey(choice.category),
+                             {}});
     if (losses.runs.size() < 2 || losses.rows.empty())
         return {};
     return "<section><h2>What to train</h2>" + trainList(losses) + "<h3>Where time is lost</h3>" +
-           lossTable(losses) +
-           "<p class=h>Against the winners, over " +
+           lossTable(losses) + "<p class=h>Against the winners, over " +
            countText(static_cast<long long>(losses.runs.size()), "whole run", "whole runs") +
            ". Losing: the whole interval is above 0.</p></section>\n";
 }

@@ -24,6 +24,7 @@ class ChartFrame;
 class ColumnTable;
 class ComparisonPanel;
 class FiguresPanel;
+class PhonePages;
 class ProgressionPanel;
 class SeasonActions;
 class SeasonHeader;
@@ -85,6 +86,9 @@ public:
     /// None for the team's.
     void saveReport(std::optional<std::size_t> athlete);
     void previewReports();
+    /// Asks whose page for a telephone is to be made, of the races that are shown.
+    void askForPhonePage();
+    [[nodiscard]] PhonePages& phonePages() const { return *m_phonePages; }
     [[nodiscard]] SeasonReports& reports() const { return *m_reports; }
 
     [[nodiscard]] SeasonHeader& header() const { return *m_header; }
@@ -144,6 +148,7 @@ private:
     QPushButton* m_failed = nullptr;
     QLabel* m_status = nullptr;
     SeasonReports* m_reports = nullptr;
+    PhonePages* m_phonePages = nullptr;
     SeasonActions* m_actions = nullptr;
     BackgroundWork m_work;
 };

@@ -37,8 +37,7 @@ std::optional<fs::path> cutAside(const ClipOrder& order, const std::stop_token& 
         throw std::runtime_error("The marks of the run lie behind the end of the film.");
     fs::path aside = order.target;
     aside += " new.mp4"; // the end follows the film
-    return cutFilm(film,
-                   {.kind = CutKind::Copy, .first = *first, .last = *last, .target = aside},
+    return cutFilm(film, {.kind = CutKind::Copy, .first = *first, .last = *last, .target = aside},
                    stop);
 }
 
@@ -51,7 +50,8 @@ void cutClip(const ClipOrder& order, const std::stop_token& stop) {
     fs::path poster = order.target;
     poster += ".jpg";
     try {
-        if (const std::string picture = thumbnailOf(*aside, thumbnailFolder(), stop); !picture.empty())
+        if (const std::string picture = thumbnailOf(*aside, thumbnailFolder(), stop);
+            !picture.empty())
             writeFileSafely(poster, picture);
         fs::rename(*aside, clip);
     } catch (const std::exception&) {
