@@ -29,6 +29,12 @@ std::string point(double value) {
     return made;
 }
 
+/// Damaged files have times that no picture can hold.
+bool isOfThisWorld(double value) {
+    constexpr double Most = 1e6;
+    return std::abs(value) < Most;
+}
+
 /// A scale of round steps from the least to the most, with nought in it.
 struct RoundScale {
     double low = 0;
@@ -90,7 +96,11 @@ public:
     explicit GapDrawing(const GapLine& line) : m_line(line), m_scale(least(line), most(line)) {}
 
     [[nodiscard]] bool isDrawn() const {
-        return m_line.points.size() >= 2 && m_line.points.back().at > 0;
+        return m_line.points.size() >= 2 && m_line.points.back().at > 0 &&
+               std::ranges::all_of(m_line.points, [](const GapPoint& end) {
+                   return isOfThisWorld(end.at) && isOfThisWorld(end.gap) &&
+                          isOfThisWorld(end.paddling);
+               });
     }
 
     [[nodiscard]] std::string text() const {
@@ -188,7 +198,9 @@ std::string gapPicture(const GapLine& line) {
 }
 
 std::string seasonPicture(const std::vector<SeasonDot>& dots) {
-    if (dots.size() < 2)
+    if (dots.size() < 2 || !std::ranges::all_of(dots, [](const SeasonDot& dot) {
+            return isOfThisWorld(dot.day) && isOfThisWorld(dot.percent);
+        }))
         return {};
     const auto [first, last] = std::ranges::minmax(dots, {}, &SeasonDot::day);
     const auto [least, most] = std::ranges::minmax(dots, {}, &SeasonDot::percent);

@@ -49,7 +49,7 @@ tbody th i{display:inline-block;min-width:1.25em;font-style:normal;font-size:.78
 .r th:first-child{padding-left:0}
 .r th,.r td{padding-left:4px;padding-right:6px}
 .r .t th{font-weight:600}
-.j{text-align:left!important}
+.r td{white-space:nowrap}.r .j,.b .j{text-align:left;white-space:normal;overflow-wrap:break-word}
 div.o{overflow-x:auto;width:fit-content;min-width:min(100%,34rem);max-width:100%;margin-top:8px}
 .b{border-collapse:separate;border-spacing:0;min-width:100%}
 .b caption{padding:8px 10px;position:sticky;left:0}
