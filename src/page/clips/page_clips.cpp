@@ -35,6 +35,7 @@ std::optional<fs::path> cutAside(const ClipOrder& order, const std::stop_token& 
     const auto last = film->frameAt(order.to);
     if (!first || !last || *last <= *first)
         throw std::runtime_error("The marks of the run lie behind the end of the film.");
+    makeFolder(order.target.parent_path());
     fs::path aside = order.target;
     aside += " new.mp4"; // the end follows the film
     return cutFilm(film, {.kind = CutKind::Copy, .first = *first, .last = *last, .target = aside},
@@ -70,7 +71,6 @@ std::vector<ClipFault> cutClips(std::span<const ClipOrder> orders, const std::st
     for (const ClipOrder& order : orders) {
         if (stop.stop_requested())
             break;
-        makeFolder(order.target.parent_path());
         try {
             cutClip(order, stop);
         } catch (const std::exception& fault) {

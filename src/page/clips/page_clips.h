@@ -20,8 +20,8 @@ struct ClipFault {
 
 /// Cuts clips out of their films by taking over what is stored, and makes a picture of each. An
 /// earlier clip of the same run is replaced once the new one is whole. A film that is missing or
-/// cannot be read is told, and the others are cut all the same. `onProgress` gets how many are
-/// done, from the calling thread. Throws FileError where the folder cannot be made.
+/// cannot be read, and a disk that takes no clip, are told, and the others are cut all the same.
+/// `onProgress` gets how many are done, from the calling thread.
 [[nodiscard]] std::vector<ClipFault>
 cutClips(std::span<const ClipOrder> orders, const std::stop_token& stop = {},
          const std::function<void(std::size_t done)>& onProgress = {});
