@@ -33,7 +33,7 @@ struct PageCall {
     bool clips = false;
 };
 
-page::PageChoice choiceOf(const PageCall& call, const UserPreferences& preferences) {
+page::PageChoice pageChoiceOf(const PageCall& call, const UserPreferences& preferences) {
     const auto decided = [&](int flag, std::string_view key) {
         return flag == 0 ? preferences.boolean(key) : flag > 0;
     };
@@ -81,7 +81,7 @@ int makePage(const PageCall& call, const Painting* painting) {
         return WrongCall;
     }
     const Painting* const cutter = neededIf(call.clips, painting);
-    const page::PageChoice choice = choiceOf(call, UserPreferences(painting));
+    const page::PageChoice choice = pageChoiceOf(call, UserPreferences(painting));
     const FolderScan input = scanNamed(call.paths);
     if (!hasFiles(input))
         return NotDone;
