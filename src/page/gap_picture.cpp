@@ -35,6 +35,10 @@ bool isOfThisWorld(double value) {
     return std::abs(value) < Most;
 }
 
+std::string quoted(const std::string& text) {
+    return '"' + text + '"';
+}
+
 /// A scale of round steps from the least to the most, with nought in it.
 struct RoundScale {
     double low = 0;
@@ -70,19 +74,22 @@ std::string scaleText(double value, double step) {
     return text.data();
 }
 
+/// The lines across the picture and their numbers; one path for all, since a page has many
+/// pictures.
 std::string scaleLines(const RoundScale& scale) {
-    std::string made;
-    const int lines = static_cast<int>(std::lround((scale.high - scale.low) / scale.step));
-    for (int i = 0; i <= lines; ++i) {
+    std::string lines;
+    std::string texts;
+    const int count = static_cast<int>(std::lround((scale.high - scale.low) / scale.step));
+    for (int i = 0; i <= count; ++i) {
         const double value = scale.low + i * scale.step;
-        const std::string y = point(scale.placeOf(value));
-        const bool isNought = std::abs(value) < scale.step / 2;
-        made += "<path class=" + std::string(isNought ? "z" : "l") + " d=\"M" + point(LeftEdge) +
-                ' ' + y + 'H' + point(RightEdge) + "\"/><text class=e x=" + point(LeftEdge - 5) +
-                " y=" + point(scale.placeOf(value) + 3.5) + ">" + scaleText(value, scale.step) +
-                "</text>";
+        const double y = scale.placeOf(value);
+        lines += 'M' + point(LeftEdge) + ' ' + point(y) + 'H' + point(RightEdge);
+        texts += "<text x=" + point(LeftEdge - 5) + " y=" + point(y + 3.5) + ">" +
+                 scaleText(value, scale.step) + "</text>";
     }
-    return made;
+    return "<path class=l d=" + quoted(lines) + "/><path class=z d=" +
+           quoted('M' + point(LeftEdge) + ' ' + point(scale.placeOf(0)) + 'H' + point(RightEdge)) +
+           "/><g class=e>" + texts + "</g>";
 }
 
 std::string pictureBegin(std::string_view label) {
@@ -144,36 +151,37 @@ private:
 
     /// The names of the stretches under the course; those that find no room are left out.
     [[nodiscard]] std::string stretches() const {
-        std::string made;
+        std::string lines;
+        std::string texts;
         double from = LeftEdge;
         double free = 0;
         for (const GapPoint& end : m_line.points) {
             const double middle = (from + x(end)) / 2;
             from = x(end);
-            if (&end != &m_line.points.back())
-                made += "<path class=l d=\"M" + point(from) + ' ' + point(UpperEdge) + 'V' +
-                        point(LowerEdge) + "\"/>";
+            lines += 'M' + point(from) + ' ' + point(UpperEdge) + 'V' + point(LowerEdge);
             const double half = 3.5 * static_cast<double>(end.name.size());
             if (middle - half < free)
                 continue;
             free = middle + half;
-            made += "<text class=m x=" + point(middle) + " y=" + point(LowerEdge + 15) + ">" +
-                    escaped(end.name) + "</text>";
+            texts += "<text x=" + point(middle) + " y=" + point(LowerEdge + 15) + ">" +
+                     escaped(end.name) + "</text>";
         }
-        return made;
+        return "<path class=l d=" + quoted(lines) + "/><g class=m>" + texts + "</g>";
     }
 
+    /// Dots are ends of lines without a length, which are round.
     [[nodiscard]] std::string ends() const {
-        std::string made;
+        std::string dots;
+        std::string marks;
         for (const GapPoint& end : m_line.points) {
             const double y = m_scale.placeOf(end.gap);
-            made += "<circle class=d cx=" + point(x(end)) + " cy=" + point(y) + " r=2.5 />";
+            dots += 'M' + point(x(end)) + ' ' + point(y) + "h0";
             if (!end.mark.empty() && &end != &m_line.points.back())
-                made += "<text class=p x=" + point(x(end)) +
-                        " y=" + point(std::max(y - 7, UpperEdge - 4)) + ">" + escaped(end.mark) +
-                        "</text>";
+                marks += "<text class=p x=" + point(x(end)) +
+                         " y=" + point(std::max(y - 7, UpperEdge - 4)) + ">" + escaped(end.mark) +
+                         "</text>";
         }
-        return made;
+        return "<path class=i d=" + quoted(dots) + "/>" + marks;
     }
 
     [[nodiscard]] std::string lastValue() const {

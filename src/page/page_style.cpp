@@ -35,6 +35,7 @@ svg{display:block;width:100%;max-width:460px;height:auto;font:10px system-ui,san
 .s{fill:none;stroke:var(--lead);stroke-width:2;stroke-linejoin:round}
 .q{fill:none;stroke:var(--soft);stroke-width:1.5;stroke-dasharray:4 3}
 path.a{fill:var(--lead);opacity:.14;stroke:none}
+.i{fill:none;stroke:var(--lead);stroke-width:5;stroke-linecap:round}
 .d{fill:var(--lead)}
 circle.o{fill:var(--card);stroke:var(--lead);stroke-width:1.5}
 text{paint-order:stroke;stroke:var(--card);stroke-width:3px;stroke-linejoin:round}.e,.v{text-anchor:end}.m,.p{text-anchor:middle}

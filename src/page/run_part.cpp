@@ -129,10 +129,9 @@ private:
     [[nodiscard]] std::string gap() const {
         GapLine line = gapLine();
         const std::string other = m_isWinner ? "the ideal run" : winnerName();
-        line.label = "Gap to " + other + " along the course:";
-        for (std::size_t k = 0; k < line.points.size(); ++k)
-            line.label += (k == 0 ? " " : ", ") + signedHundredths(line.points[k].gap) + " after " +
-                          m_race.sectionTitle(drawn().stretches[k].last - 1);
+        line.label = "Gap to " + other + " from section to section";
+        for (const GapPoint& end : line.points)
+            line.label += ", " + signedHundredths(end.gap);
         const std::string picture = gapPicture(line);
         if (picture.empty())
             return {};
