@@ -35,7 +35,7 @@ bool isOfThisWorld(double value) {
     return std::abs(value) < Most;
 }
 
-std::string quoted(const std::string& text) {
+std::string inQuotes(const std::string& text) {
     return '"' + text + '"';
 }
 
@@ -87,8 +87,9 @@ std::string scaleLines(const RoundScale& scale) {
         texts += "<text x=" + point(LeftEdge - 5) + " y=" + point(y + 3.5) + ">" +
                  scaleText(value, scale.step) + "</text>";
     }
-    return "<path class=l d=" + quoted(lines) + "/><path class=z d=" +
-           quoted('M' + point(LeftEdge) + ' ' + point(scale.placeOf(0)) + 'H' + point(RightEdge)) +
+    return "<path class=l d=" + inQuotes(lines) + "/><path class=z d=" +
+           inQuotes('M' + point(LeftEdge) + ' ' + point(scale.placeOf(0)) + 'H' +
+                    point(RightEdge)) +
            "/><g class=e>" + texts + "</g>";
 }
 
@@ -166,7 +167,7 @@ private:
             texts += "<text x=" + point(middle) + " y=" + point(LowerEdge + 15) + ">" +
                      escaped(end.name) + "</text>";
         }
-        return "<path class=l d=" + quoted(lines) + "/><g class=m>" + texts + "</g>";
+        return "<path class=l d=" + inQuotes(lines) + "/><g class=m>" + texts + "</g>";
     }
 
     /// Dots are ends of lines without a length, which are round.
@@ -181,7 +182,7 @@ private:
                          " y=" + point(std::max(y - 7, UpperEdge - 4)) + ">" + escaped(end.mark) +
                          "</text>";
         }
-        return "<path class=i d=" + quoted(dots) + "/>" + marks;
+        return "<path class=i d=" + inQuotes(dots) + "/>" + marks;
     }
 
     [[nodiscard]] std::string lastValue() const {
