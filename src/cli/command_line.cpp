@@ -43,6 +43,7 @@ int run(int argc, char** argv, const char* version, const Painting* painting) {
     addFind(program, status);
     addFacts(program, status);
     addLosses(program, status, painting);
+    addPage(program, status, painting);
     addPenalties(program, status);
     addSeason(program, status, painting);
     addTable(program, status);

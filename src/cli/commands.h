@@ -24,6 +24,7 @@ void addStrokes(Command program, int& status);
 void addFind(Command program, int& status);
 void addFacts(Command program, int& status);
 void addLosses(Command program, int& status, const Painting* painting);
+void addPage(Command program, int& status, const Painting* painting);
 void addPenalties(Command program, int& status);
 void addSeason(Command program, int& status, const Painting* painting);
 void addTable(Command program, int& status);

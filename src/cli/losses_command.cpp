@@ -8,13 +8,12 @@
 #include "cli/losses_text.h"
 #include "cli/painting.h"
 #include "cli/told_reason.h"
+#include "cli/unknown_athlete.h"
 #include "performance/loss_reasons.h"
-#include "results/name_likeness.h"
 #include "splitdata/athlete_keys.h"
 
 #include <algorithm>
 #include <memory>
-#include <set>
 
 namespace kavela::cli {
 
@@ -85,29 +84,6 @@ int tellFile(const LossesCall& call) {
                                  : lossesText(*facts, runs, standardOutput()));
 }
 
-/// The crews of a store as first written, each once, of one category where one is asked for.
-std::vector<std::string> crewsOf(const FactStore& facts, const std::string& category) {
-    std::set<TextId> known;
-    std::vector<std::string> crews;
-    for (const RunRow& run : facts.runs())
-        if ((category.empty() || facts.text(run.categoryKey) == category) &&
-            known.insert(run.crewKey).second)
-            crews.emplace_back(facts.text(run.crew));
-    return crews;
-}
-
-void logUnknownAthlete(const FactStore& facts, const LossesCall& call) {
-    constexpr std::size_t MostOffered = 3;
-    const std::vector<std::string> crews = crewsOf(facts, categoryKey(call.category));
-    std::string text = "No run is by \"" + pathText(call.athlete) + '"';
-    if (!call.category.empty())
-        text += " in the category \"" + pathText(call.category) + '"';
-    const std::vector<std::size_t> likest = byLikeness(call.athlete, crews);
-    for (std::size_t i = 0; i < std::min(likest.size(), MostOffered); ++i)
-        text += (i == 0 ? ". The nearest names: " : ", ") + crews[likest[i]];
-    logLine(text + '.');
-}
-
 int tellSeason(const LossesCall& call, const Painting* painter) {
     const FolderScan input = scanNamed(call.paths);
     if (!hasFiles(input))
@@ -116,7 +92,7 @@ int tellSeason(const LossesCall& call, const Painting* painter) {
                                 referenceOf(call)};
     const std::vector<std::size_t> runs = seasonRuns(input.facts, query);
     if (runs.empty()) {
-        logUnknownAthlete(input.facts, call);
+        logUnknownAthlete(input.facts, call.athlete, call.category);
         return NotDone;
     }
     if (!call.why.empty())

@@ -3,6 +3,7 @@
 #include "analysis/split_table.h"
 #include "app/preference_table.h"
 #include "facts/fact_store.h"
+#include "page/page_films.h"
 #include "performance/loss_season.h"
 #include "performance/season.h"
 #include "results/categorization.h"
@@ -104,6 +105,10 @@ public:
     /// False, after a message, when one cannot be written.
     [[nodiscard]] virtual bool areSeasonPagesWritten(const Season& season,
                                                      const std::filesystem::path& folder) const = 0;
+
+    /// Cuts the clips that lie beside an athlete's page, with a progress bar; an earlier clip of
+    /// the same run is replaced. False, after a message for each, when one could not be cut.
+    [[nodiscard]] virtual bool arePageClipsCut(const std::vector<page::ClipOrder>& clips) const = 0;
 
     /// Makes the films of the sample season beside their split files, with a progress bar; a film
     /// that is there already stays. Returns the exit status; throws FileError when a film cannot be

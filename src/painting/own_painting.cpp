@@ -5,6 +5,7 @@
 #include "painting/film_tracking.h"
 #include "painting/folder_share.h"
 #include "painting/offscreen_application.h"
+#include "painting/page_clip_files.h"
 #include "painting/report_files.h"
 #include "painting/season_film_files.h"
 #include "painting/slit_files.h"
@@ -70,6 +71,10 @@ bool OwnPainting::areSeasonPagesWritten(const Season& season, const fs::path& fo
         files.push_back({report::seasonPageFileName(season, i),
                          [&season, i] { return report::seasonPage(season, i); }, true});
     return areReportsWritten(files, folder);
+}
+
+bool OwnPainting::arePageClipsCut(const std::vector<page::ClipOrder>& clips) const {
+    return painting::arePageClipsCut(clips);
 }
 
 int OwnPainting::writeSeasonFilms(const fs::path& folder) const {

@@ -21,6 +21,7 @@ public:
                                             const std::filesystem::path& folder) const override;
     [[nodiscard]] bool areSeasonPagesWritten(const Season& season,
                                              const std::filesystem::path& folder) const override;
+    [[nodiscard]] bool arePageClipsCut(const std::vector<page::ClipOrder>& clips) const override;
     [[nodiscard]] int writeSeasonFilms(const std::filesystem::path& folder) const override;
     [[nodiscard]] int composeFilm(const std::filesystem::path& job,
                                   const std::filesystem::path& output) const override;

@@ -17,6 +17,7 @@
 #include "desktop/losses/run_picker.h"
 #include "desktop/losses/season_page.h"
 #include "desktop/losses/waterfall_chart.h"
+#include "desktop/page/phone_pages.h"
 #include "desktop/shell/tables/column_table.h"
 #include "desktop/shell/workspace.h"
 #include "performance/loss_races.h"
@@ -25,6 +26,7 @@
 
 #include <QComboBox>
 #include <QLineEdit>
+#include <QMessageBox>
 #include <QPushButton>
 #include <QTest>
 
@@ -282,6 +284,43 @@ TEST_F(LossesWindowTest, TellsWhenTheRunOrItsRivalIsGone) {
     (void)add("race.kvx", race);
     EXPECT_TRUE(follows("Ondřej Skalboř, Final is not in the files any more"));
     EXPECT_TRUE(state().hasRun()) << "another one of the race";
+}
+
+TEST_F(LossesWindowTest, WritesThePageForATelephoneFromTheSavedFiles) {
+    const QString first = add("first.kvx", threeRuns());
+    ASSERT_TRUE(open({first, add("second.kvx", threeRuns())}, 1));
+    m_window.askForPhonePage();
+    auto* const dialog = m_window.findChild<PhonePageDialog*>();
+    ASSERT_TRUE(dialog);
+    ASSERT_TRUE(dialog->crew());
+    EXPECT_EQ(dialog->crew()->name, "Bea Sample") << "whose run is shown";
+    EXPECT_EQ(dialog->crew()->races.size(), 2);
+    PhonePageJob job{dialog->crew()->races, dialog->request().shown, first, false};
+    job.choice.crewKey = dialog->crew()->key;
+    dialog->findChild<QComboBox*>("crew")->setEditText("nobody");
+    EXPECT_FALSE(dialog->crew());
+    EXPECT_FALSE(dialog->findChild<QPushButton*>("save")->isEnabled());
+    dialog->reject();
+
+    QStringList failed;
+    QStringList written;
+    QObject::connect(&m_window.phonePages(), &PhonePages::failed, &m_window,
+                     [&](const QString& path) { failed.append(path); });
+    QObject::connect(&m_window.phonePages(), &PhonePages::written, &m_window,
+                     [&](const QString& path) { written.append(path); });
+    const std::string race = contentOf(first.toStdString());
+    m_window.phonePages().write(job);
+    EXPECT_EQ(failed, QStringList(first)) << "a race is no page";
+    EXPECT_EQ(contentOf(first.toStdString()), race);
+    ASSERT_THAT(m_recorder.alerts, SizeIs(1));
+    EXPECT_THAT(m_recorder.alerts.front(), HasSubstr(".html"));
+    m_recorder.alerts.clear();
+    const fs::path page = m_folder.path() / "page.html";
+    job.target = QString::fromStdString(page.string());
+    m_window.phonePages().write(job);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !written.isEmpty(); }));
+    EXPECT_NE(contentOf(page).find("<h1><bdi>Bea Sample</bdi></h1>"), std::string::npos);
+    EXPECT_TRUE(m_window.findChild<QMessageBox*>("pageWritten"));
 }
 
 TEST_F(LossesWindowTest, WritesTheAthletesPageOfOneRaceOrOfAll) {

@@ -50,6 +50,11 @@ void LossesActions::makeFileMenu() {
         menu->addAction(tr("&Page of an athlete: PDF, preview, print…"), QKeySequence::Print,
                         window, [window] { window->askForAthletePage(); });
     m_refreshers.push_back([page, window] { page->setEnabled(window->state().hasRun()); });
+    QAction* const phonePage =
+        menu->addAction(tr("Pa&ge for an athlete…"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_G),
+                        window, [window] { window->askForPhonePage(); });
+    m_refreshers.push_back(
+        [phonePage, window] { phonePage->setEnabled(window->state().hasRun()); });
     menu->addAction(tr("Save the table as &CSV…"), QKeySequence(Qt::CTRL | Qt::Key_E), window,
                     [window] { window->saveTable(); });
     menu->addAction(

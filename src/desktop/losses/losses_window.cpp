@@ -9,6 +9,7 @@
 #include "desktop/losses/loss_texts.h"
 #include "desktop/losses/losses_actions.h"
 #include "desktop/losses/season_page.h"
+#include "desktop/page/phone_pages.h"
 #include "desktop/shell/file_names.h"
 #include "desktop/shell/tables/column_table.h"
 #include "desktop/shell/theme.h"
@@ -149,6 +150,7 @@ void LossesWindow::connectParts() {
         setSeasonShown(false);
     });
     m_athletePages = new AthletePages(m_state, workspace(), *this);
+    m_phonePages = new PhonePages(workspace(), *this);
     connect(m_athletePages, &AthletePages::writing, this, [this](const QString& path) {
         tell(tr("Writing %1…").arg(QFileInfo(path).fileName()));
     });
@@ -332,6 +334,13 @@ void LossesWindow::offerToOpen(const QString& path) {
 
 void LossesWindow::askForAthletePage() {
     m_athletePages->ask(m_season->query());
+}
+
+void LossesWindow::askForPhonePage() {
+    PhonePageRequest request{phonePageCrews(m_state.facts()), m_season->query().crewKey, {}};
+    request.shown.settings = PhonePages::settingsOf(workspace());
+    request.shown.scale = m_state.scale();
+    m_phonePages->ask(std::move(request));
 }
 
 void LossesWindow::playChosen() {

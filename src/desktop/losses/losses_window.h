@@ -16,6 +16,7 @@ class QTabWidget;
 namespace kavela::desktop {
 
 class AthletePages;
+class PhonePages;
 class ClipPair;
 class LossChartsPanel;
 class LossHeader;
@@ -69,6 +70,9 @@ public:
     void saveTable();
     /// Asks whose A4 page is to be looked at or saved.
     void askForAthletePage();
+    /// Asks whose page for a telephone is to be made.
+    void askForPhonePage();
+    [[nodiscard]] PhonePages& phonePages() const { return *m_phonePages; }
     [[nodiscard]] AthletePages& athletePages() const { return *m_athletePages; }
 
 signals:
@@ -113,6 +117,7 @@ private:
     QPushButton* m_openPage; ///< opens what was written last
     QString m_writtenPage;
     AthletePages* m_athletePages;
+    PhonePages* m_phonePages;
 };
 
 } // namespace kavela::desktop

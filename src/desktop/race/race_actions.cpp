@@ -2,9 +2,12 @@
 
 #include "desktop/charts/chart_panel.h"
 #include "desktop/compose/compare_request.h"
+#include "desktop/page/phone_pages.h"
 #include "desktop/race/race_view.h"
 #include "desktop/race/race_window.h"
 #include "desktop/shell/workspace.h"
+#include "facts/fact_store.h"
+#include "splitdata/athlete_keys.h"
 
 #include <QActionGroup>
 #include <QCoreApplication>
@@ -12,10 +15,15 @@
 #include <QFileInfo>
 #include <QMenuBar>
 
+#include <utility>
+
 namespace kavela::desktop {
 
 RaceActions::RaceActions(RaceWindow& window, Workspace& workspace)
-    : QObject(&window), m_window(window), m_workspace(workspace) {
+    : QObject(&window),
+      m_window(window),
+      m_workspace(workspace),
+      m_phonePages(new PhonePages(workspace, window)) {
     makeFileMenu();
     makeTableMenu();
     makeCompareMenu();
@@ -58,10 +66,39 @@ void RaceActions::makeFileMenu() {
     menu->addSeparator();
     add(*menu, tr("&Report: preview, PDF, print…"), QKeySequence::Print,
         [](RaceView& view) { view.previewReports(); });
+    add(*menu, tr("Pa&ge for an athlete…"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_G),
+        [this](RaceView& view) { askForPhonePage(view); });
     add(*menu, tr("Save the table as &CSV…"), QKeySequence(Qt::CTRL | Qt::Key_E),
         [](RaceView& view) { view.saveCsv(); });
     add(*menu, tr("Cop&y the selected runs"), QKeySequence::Copy,
         [](RaceView& view) { view.copySelection(); });
+}
+
+/// As the table is shown: filters, settings and scale go into the page. The file is read anew, and
+/// what is being edited elsewhere is in it once it is saved.
+void RaceActions::askForPhonePage(const RaceView& view) {
+    const RaceDocument& document = view.document();
+    PhonePageRequest request;
+    request.shown.settings = document.settings();
+    request.shown.scale = view.model().scale();
+    request.shown.category = document.filter().category.toStdString();
+    request.shown.phase = document.filter().phase.toStdString();
+    FactStore facts;
+    splittakerdata031 named;
+    named.info = document.info();
+    for (const analyzerdata& run : document.shownSet().alldata) {
+        athletedata031 athlete;
+        athlete.names = run.names;
+        athlete.cat = run.category;
+        named.athletes.push_back(std::move(athlete));
+    }
+    facts.add(named, document.path().toStdString());
+    request.crews = phonePageCrews(facts);
+    if (const auto row = view.currentRun())
+        for (const analyzerdata& run : document.wholeSet().alldata)
+            if (std::cmp_equal(run.athleteInt, *row))
+                request.shownCrew = crewKey(run.names);
+    m_phonePages->ask(std::move(request));
 }
 
 void RaceActions::makeContentMenu(QMenu& menu) {

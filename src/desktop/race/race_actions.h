@@ -11,6 +11,7 @@ class QMenu;
 
 namespace kavela::desktop {
 
+class PhonePages;
 class RaceView;
 class RaceWindow;
 class Workspace;
@@ -34,6 +35,7 @@ private:
     void makeReferenceMenu(QMenu& menu);
     void makeCompareMenu();
     void compareFilms(const RaceView& view);
+    void askForPhonePage(const RaceView& view);
     void makeChartMenu();
     void makeWindowMenu();
     QAction* add(QMenu& menu, const QString& text, const QKeySequence& keys, ViewAction act);
@@ -47,6 +49,7 @@ private:
 
     RaceWindow& m_window;
     Workspace& m_workspace;
+    PhonePages* m_phonePages;
     std::vector<std::function<void()>> m_refreshers;
 };
 

@@ -56,6 +56,9 @@ void SeasonActions::makeFileMenu() {
                << menu->addAction(tr("Report of the tea&m as PDF…"),
                                   QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_R), window,
                                   [window] { window->saveReport(std::nullopt); });
+    m_ofSeason << menu->addAction(tr("Pa&ge for an athlete…"),
+                                  QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_G), window,
+                                  [window] { window->askForPhonePage(); });
     menu->addSeparator();
     m_ofSeason << menu->addAction(tr("Save the tab&le as CSV…"),
                                   QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_E), window,

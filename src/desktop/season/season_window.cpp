@@ -4,6 +4,7 @@
 #include "desktop/charts/plot_interaction.h"
 #include "desktop/charts/series_chart.h"
 #include "desktop/facts/facts_status.h"
+#include "desktop/page/phone_pages.h"
 #include "desktop/season/comparison_panel.h"
 #include "desktop/season/figures_panel.h"
 #include "desktop/season/progression_panel.h"
@@ -16,6 +17,7 @@
 #include "desktop/shell/tables/column_table.h"
 #include "desktop/shell/theme.h"
 #include "desktop/shell/workspace.h"
+#include "splitdata/athlete_keys.h"
 
 #include <QFileDialog>
 #include <QFileInfo>
@@ -50,6 +52,7 @@ SeasonWindow::SeasonWindow(Workspace& workspace)
     : ToolWindow(workspace, nullptr, {"season", tr("Season"), "kvteam"}) {
     makeParts();
     m_reports = new SeasonReports(workspace, *this);
+    m_phonePages = new PhonePages(workspace, *this);
     m_actions = new SeasonActions(*this);
     connectParts();
     showTitle();
@@ -392,6 +395,16 @@ void SeasonWindow::saveReport(std::optional<std::size_t> athlete) {
 void SeasonWindow::previewReports() {
     if (m_season && !m_season->season.athletes.empty())
         m_reports->preview(m_season, m_header->athlete(), m_team.path());
+}
+
+void SeasonWindow::askForPhonePage() {
+    if (!m_season)
+        return;
+    PhonePageRequest request{phonePageCrews(*m_season->facts), {}, {}};
+    if (const auto athlete = m_header->athlete())
+        request.shownCrew = crewKey(m_season->memberOf(*athlete).name);
+    request.shown.settings = PhonePages::settingsOf(this->workspace());
+    m_phonePages->ask(std::move(request));
 }
 
 bool SeasonWindow::isBusy() const {

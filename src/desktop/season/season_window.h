@@ -22,6 +22,7 @@ class ColumnTable;
 class ComparisonPanel;
 class FactsStatus;
 class FiguresPanel;
+class PhonePages;
 class ProgressionPanel;
 class SeasonActions;
 class SeasonHeader;
@@ -84,6 +85,9 @@ public:
     /// None for the team's.
     void saveReport(std::optional<std::size_t> athlete);
     void previewReports();
+    /// Asks whose page for a telephone is to be made, of the races that are shown.
+    void askForPhonePage();
+    [[nodiscard]] PhonePages& phonePages() const { return *m_phonePages; }
     [[nodiscard]] SeasonReports& reports() const { return *m_reports; }
 
     [[nodiscard]] SeasonHeader& header() const { return *m_header; }
@@ -132,6 +136,7 @@ private:
     SeasonPages* m_figures = nullptr;
     FactsStatus* m_status = nullptr;
     SeasonReports* m_reports = nullptr;
+    PhonePages* m_phonePages = nullptr;
     SeasonActions* m_actions = nullptr;
     BackgroundWork m_work;
 };
