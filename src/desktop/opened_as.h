@@ -32,7 +32,8 @@ enum class OpensAs {
     Penalties,   ///< split files and folders, where the coach asks for it: none is known by content
     Season,      ///< a team with its races, where the coach asks for it
     Fetch,       ///< films that are fetched, which opens sources and lists of its own
-    Comparison, ///< of films
+    Comparison,  ///< of films
+    Course,      ///< of a split file, where the coach asks for it: by content it is a race
     NotReady
 };
 
