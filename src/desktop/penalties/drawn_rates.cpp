@@ -1,7 +1,7 @@
 #include "desktop/penalties/drawn_rates.h"
 
 #include "desktop/shell/theme.h"
-#include "performance/penalty_rates.h"
+#include "performance/penalty_charts.h"
 
 #include <QHelpEvent>
 #include <QKeyEvent>
