@@ -4,6 +4,7 @@
 #include "common/json_encode.h"
 #include "common/safe_file.h"
 #include "sample/comparison.h"
+#include "sample/course_map.h"
 #include "sample/cross.h"
 #include "sample/league.h"
 #include "sample/older_releases.h"
@@ -61,7 +62,9 @@ void addPlanning(std::vector<SampleFile>& files) {
 std::vector<SampleFile> sampleSeason() {
     std::vector<SampleFile> files{{"races/riverside_cup.kvx", encode(holdRace(riversideCup()))}};
     addOpener(files);
-    files.push_back({"races/highland_open.kvx", encode(holdRace(highlandOpen()))});
+    splittakerdata031 highland = holdRace(highlandOpen());
+    highland.info.coursedesign = drawnCourse(highland.info);
+    files.push_back({"races/highland_open.kvx", encode(highland)});
     const splittakerdata031 night = holdRace(harbourNight());
     constexpr int EightInTheEvening = 20 * 3600;
     files.push_back({"races/harbour_night.kvx", encode(night)});

@@ -122,6 +122,15 @@ std::vector<unsigned char> packed(std::string_view text) {
     return bytes;
 }
 
+/// A chunk of its type and data, which stand in one piece as the checksum wants them.
+std::vector<unsigned char> framed(Bytes typed) {
+    std::vector<unsigned char> chunk;
+    appendBigEndian(chunk, static_cast<std::uint32_t>(typed.size() - PngTextType.size()));
+    chunk.insert(chunk.end(), typed.begin(), typed.end());
+    appendBigEndian(chunk, checksum(typed));
+    return chunk;
+}
+
 std::vector<unsigned char> textChunk(std::string_view keyword, std::string_view text) {
     std::vector<unsigned char> typed(PngTextType.begin(), PngTextType.end());
     typed.insert(typed.end(), keyword.begin(), keyword.end());
@@ -129,11 +138,19 @@ std::vector<unsigned char> textChunk(std::string_view keyword, std::string_view 
     typed.insert(typed.end(), {0, 1, 0, 0, 0});
     const std::vector<unsigned char> body = packed(text);
     typed.insert(typed.end(), body.begin(), body.end());
-    std::vector<unsigned char> chunk;
-    appendBigEndian(chunk, static_cast<std::uint32_t>(typed.size() - PngTextType.size()));
-    chunk.insert(chunk.end(), typed.begin(), typed.end());
-    appendBigEndian(chunk, checksum(typed));
-    return chunk;
+    return framed(typed);
+}
+
+void append(std::vector<unsigned char>& bytes, const std::vector<unsigned char>& more) {
+    bytes.insert(bytes.end(), more.begin(), more.end());
+}
+
+/// Type and data in one piece.
+std::vector<unsigned char> typedChunk(std::string_view type,
+                                      const std::vector<unsigned char>& data) {
+    std::vector<unsigned char> typed(type.begin(), type.end());
+    append(typed, data);
+    return typed;
 }
 
 } // namespace
@@ -144,6 +161,27 @@ std::optional<PngSize> pngSize(std::span<const unsigned char> png) {
         return {};
     const Bytes header = chunks->front().data;
     return PngSize{bigEndian(header), bigEndian(header.subspan(4))};
+}
+
+std::vector<unsigned char> pngOf(PngSize size, std::span<const unsigned char> pixels) {
+    constexpr std::size_t BytesAPixel = 3;
+    const std::size_t line = BytesAPixel * size.width;
+    if (size.width == 0 || size.height == 0 || pixels.size() != line * size.height)
+        throw std::invalid_argument("the pixels do not fill the picture");
+    std::vector<unsigned char> header;
+    appendBigEndian(header, static_cast<std::uint32_t>(size.width));
+    appendBigEndian(header, static_cast<std::uint32_t>(size.height));
+    append(header, {8, 2, 0, 0, 0}); // eight bits of three colours, not interlaced
+    std::string filtered;
+    for (std::size_t row = 0; row < size.height; ++row) {
+        filtered += '\0'; // each line begins with its filter: none
+        filtered += textOf(pixels.subspan(row * line, line));
+    }
+    std::vector<unsigned char> bytes(PngSignature.begin(), PngSignature.end());
+    append(bytes, framed(typedChunk("IHDR", header)));
+    append(bytes, framed(typedChunk("IDAT", packed(filtered))));
+    append(bytes, framed(typedChunk("IEND", {})));
+    return bytes;
 }
 
 std::optional<std::string> textInPng(std::span<const unsigned char> png, std::string_view keyword,

@@ -21,6 +21,10 @@ struct PngSize {
 /// their end whole: each has its checksum proved.
 [[nodiscard]] std::optional<PngSize> pngSize(std::span<const unsigned char> png);
 
+/// A PNG of pixels of three bytes each, red, green and blue, line by line. Throws
+/// std::invalid_argument where they are not as many as the size wants.
+[[nodiscard]] std::vector<unsigned char> pngOf(PngSize size, std::span<const unsigned char> pixels);
+
 /// The first text under the keyword; nothing where there is none, where the PNG is damaged, or
 /// where the text would be longer than `mostText` bytes. No more than that is ever unpacked.
 [[nodiscard]] std::optional<std::string> textInPng(std::span<const unsigned char> png,

@@ -6,11 +6,13 @@
 #include "desktop/penalties/cost_panel.h"
 #include "desktop/penalties/course_panel.h"
 #include "desktop/penalties/details_panel.h"
+#include "desktop/penalties/drawn_rates.h"
 #include "desktop/penalties/penalty_filter.h"
 #include "desktop/penalties/rates_panel.h"
 #include "desktop/penalties/trade_off_panel.h"
 #include "desktop/shell/tables/column_table.h"
 #include "race_fixture.h"
+#include "report/course_picture.h"
 #include "splitdata/document.h"
 
 #include <QBuffer>
@@ -18,6 +20,7 @@
 #include <QImage>
 #include <QLabel>
 #include <QPushButton>
+#include <QSignalSpy>
 
 #include <cmath>
 

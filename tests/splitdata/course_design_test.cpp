@@ -130,6 +130,15 @@ TEST(CourseDesign, LaterReleasesAndDrawingsBeyondTheLimitsAreNotRead) {
     EXPECT_FALSE(isRead(good + std::string(300U << 20U, ' '))); // 300 kB that unpack to 300 MB
 }
 
+TEST(CourseDesign, IsKeptInAPictureOfPixelsAsWell) {
+    const CourseBytes pixels(3 * 6 * 4, 200);
+    const auto stored =
+        courseIn(withCourse(pngOf({6, 3}, std::span(pixels).first(54)), twoGates()));
+    ASSERT_TRUE(stored);
+    EXPECT_EQ(stored->heightOfWidth, 0.5);
+    EXPECT_THROW((void)pngOf({6, 3}, pixels), std::invalid_argument);
+}
+
 TEST(CourseDesign, WhatCouldNotBeReadBackIsNotKept) {
     const CourseBytes plain = bytesOf(PlainPicture);
     coursedesign001 far = twoGates();
