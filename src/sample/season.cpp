@@ -12,6 +12,7 @@
 #include "sample/races.h"
 #include "sample/recordings.h"
 #include "sample/selection.h"
+#include "sample/sprint_camera.h"
 #include "sample/team.h"
 #include "sample/tests.h"
 #include "sample/tracks.h"
@@ -74,6 +75,7 @@ std::vector<SampleFile> sampleSeason() {
     addLeague(files);
     files.push_back({"training/gate_laps.kvx", encode(gateLaps())});
     files.push_back({"training/form_test.kvx", encode(formTest())});
+    files.push_back({"camera/sprint.kvx", encode(sprintSession())});
     files.push_back({"recordings/upstream_drill.kvb", encode(upstreamDrill())});
     files.push_back({"recordings/sprint_with_watch.kvb", encode(sprintWithWatch())});
     files.push_back({"recordings/old_phone_v4.kvb", encode(oldPhone())});
