@@ -16,7 +16,7 @@ namespace {
 
 constexpr qreal DrawnTitleHeight = 17 * Point;
 constexpr qreal DrawnNoteHeight = 12 * Point;
-constexpr qreal TallestCourse = 230 * Point;
+constexpr qreal TallestCourse = 190 * Point;
 constexpr qreal LowestCourse = 90 * Point; ///< less room than this is for the next page
 constexpr QColor TouchedPatch(0xf2, 0xa9, 0x1c);
 constexpr QColor MissedPatch(0xb8, 0x2a, 0x2a);

@@ -59,7 +59,7 @@ TEST(CoursePicture, IsAPictureToOthersThatAlsoReadTheTextWithin) {
 }
 
 TEST(CoursePicture, HasLessPixelsWhereAPhotoWouldMakeItTooLarge) {
-    QImage noise(400, 300, QImage::Format_RGB32);
+    QImage noise(800, 600, QImage::Format_RGB32);
     std::mt19937 dice(5);
     for (int y = 0; y < noise.height(); ++y)
         for (int x = 0; x < noise.width(); ++x)
@@ -68,7 +68,6 @@ TEST(CoursePicture, HasLessPixelsWhereAPhotoWouldMakeItTooLarge) {
     QBuffer buffer(&png);
     buffer.open(QIODevice::WriteOnly);
     noise.scaled(1600, 1200, Qt::IgnoreAspectRatio, Qt::SmoothTransformation).save(&buffer, "PNG");
-    ASSERT_GT(png.size(), static_cast<qsizetype>(MostCourseBytes));
     const report::CourseGround ground =
         report::courseGround({reinterpret_cast<const unsigned char*>(png.constData()),
                               static_cast<std::size_t>(png.size())});

@@ -8,7 +8,11 @@ namespace kavela::desktop {
 
 namespace {
 constexpr double HalfGate = 0.025; ///< widths of the picture
+
+bool isBlank(const coursedesign001& design) {
+    return partsOf(design).empty() && design.background.bytes.empty();
 }
+} // namespace
 
 CourseDraft courseDraftOf(const infodata031& info, std::string& fault) {
     CourseDraft draft;
@@ -32,8 +36,11 @@ CourseDraft courseDraftOf(const infodata031& info, std::string& fault) {
 }
 
 infodata031 withDraft(infodata031 info, const CourseDraft& draft) {
-    info.coursedesign = report::coursePicture(
-        report::CoursePainting(draft.design, draft.heightOfWidth, draft.words()));
+    // A white sheet is no course: where all was rubbed out the race has none.
+    info.coursedesign = isBlank(draft.design)
+                            ? Blob()
+                            : report::coursePicture(report::CoursePainting(
+                                  draft.design, draft.heightOfWidth, draft.words()));
     info.upGates = draft.upGates;
     if (info.gates == 0)
         for (const coursegate001& gate : draft.design.gates)
