@@ -1,9 +1,10 @@
 #include "desktop/course/course_editor.h"
 
 #include "common/recorders.h"
-#include "common/safe_file.h"
 #include "common/temp_folder.h"
+#include "desktop/race_fixture.h"
 #include "desktop/shell/workspace.h"
+#include "desktop/taking/taking_window.h"
 
 #include <gmock/gmock.h>
 
@@ -13,6 +14,7 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QTest>
+#include <QTimer>
 
 namespace kavela::test {
 namespace {
@@ -227,6 +229,33 @@ TEST_F(CourseEditorTest, AsksBeforeADrawingIsLost) {
     EXPECT_FALSE(editor.isVisible());
     EXPECT_THAT(m_questions, SizeIs(1)) << "nothing is lost any more";
     EXPECT_TRUE(editor.info().coursedesign.bytes.empty());
+}
+
+/// Through the analyzer, as most races are open there.
+TEST_F(RaceWindowTest, ItsCourseIsDrawnIntoSplitTakingAsOneStep) {
+    RaceWindow* const race = open(copyOf(Examples / "races" / "spring_opener.kvx"));
+    ASSERT_TRUE(race);
+    QTimer waiting; // for the editor, which is in the way of everything else
+    QObject::connect(&waiting, &QTimer::timeout, &waiting, [&waiting] {
+        auto* const editor = qobject_cast<CourseEditor*>(QApplication::activeModalWidget());
+        if (!editor)
+            return;
+        waiting.stop();
+        QTest::mouseClick(&editor->canvas(), Qt::LeftButton, {},
+                          editor->canvas().placeOf({0.5, 0.3}).toPoint());
+        editor->accept();
+    });
+    waiting.start(10);
+    trigger(*race, QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_G));
+    ASSERT_THAT(m_desktop.windowsOf<desktop::TakingWindow>(), SizeIs(1));
+    desktop::TakingDocument& document =
+        m_desktop.windowsOf<desktop::TakingWindow>().front()->document();
+    const auto stored = courseIn(document.info().coursedesign);
+    ASSERT_TRUE(stored);
+    EXPECT_THAT(stored->design.gates, SizeIs(1));
+    EXPECT_EQ(document.undoStack().count(), 1);
+    document.undoStack().undo();
+    EXPECT_TRUE(document.info().coursedesign.bytes.empty());
 }
 
 } // namespace

@@ -38,8 +38,7 @@ struct CourseSpan {
     coursepoint001 middle;
     coursepoint001 half;
 };
-/// With the gate or split line of the next number; `what` names it. Nothing where the race has no
-/// more of them.
+/// With the gate or split line of the next number. Nothing where the race has no more of them.
 [[nodiscard]] std::optional<CourseDraft> withNextGate(CourseDraft draft, const CourseSpan& span);
 [[nodiscard]] std::optional<CourseDraft> withNextSplitLine(CourseDraft draft,
                                                            const CourseSpan& span);
