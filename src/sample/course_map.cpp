@@ -45,7 +45,7 @@ coursepoint001 besideAt(double part, double right) {
     return {middle.x - dy / length * right, middle.y + dx / length * right};
 }
 
-std::vector<coursepoint001> bank(double right) {
+std::vector<coursepoint001> bankBeside(double right) {
     constexpr int Pieces = 40;
     std::vector<coursepoint001> points;
     for (int i = 0; i <= Pieces; ++i)
@@ -54,7 +54,7 @@ std::vector<coursepoint001> bank(double right) {
 }
 
 /// Pixels of three colours, painted with round dots.
-class Map {
+class CourseRaster {
 public:
     void draw(const coursepoint001& from, const coursepoint001& to, double pixels, Colour colour) {
         const double steps = std::ceil(std::hypot(to.x - from.x, to.y - from.y) * MapWidth * 2) + 1;
@@ -86,21 +86,21 @@ private:
         std::vector<unsigned char>(3 * MapWidth * MapHeight, Paper[0]);
 };
 
-bool isUp(const infodata031& info, std::int64_t gate) {
+bool hangsUpstream(const infodata031& info, std::int64_t gate) {
     return std::ranges::find(info.upGates, gate) != info.upGates.end();
 }
 
 /// Where along the river a gate hangs: the start and the finish have room of their own.
-double partOf(const infodata031& info, double gate) {
+double alongCourse(const infodata031& info, double gate) {
     return gate / (static_cast<double>(info.gates) + 1);
 }
 
-coursegate001 gateOf(const infodata031& info, std::int64_t number) {
-    const double part = partOf(info, static_cast<double>(number));
+coursegate001 hungGate(const infodata031& info, std::int64_t number) {
+    const double part = alongCourse(info, static_cast<double>(number));
     const double side = number % 2 == 0 ? 1 : -1;
-    const double right = side * (isUp(info, number) ? NearBank : NearBank / 2);
+    const double right = side * (hangsUpstream(info, number) ? NearBank : NearBank / 2);
     coursegate001 gate{number, besideAt(part, right - HalfHung), besideAt(part, right + HalfHung)};
-    if (isUp(info, number)) // a boat comes from below, so that its left is the other side
+    if (hangsUpstream(info, number)) // a boat comes from below, so that its left is the other side
         std::swap(gate.left, gate.right);
     return gate;
 }
@@ -108,13 +108,13 @@ coursegate001 gateOf(const infodata031& info, std::int64_t number) {
 coursedesign001 designOf(const infodata031& info) {
     coursedesign001 design;
     design.size = 260;
-    design.banks = {bank(-HalfRiver), bank(HalfRiver)};
+    design.banks = {bankBeside(-HalfRiver), bankBeside(HalfRiver)};
     for (std::int64_t number = 1; number <= info.gates; ++number)
-        design.gates.push_back(gateOf(info, number));
+        design.gates.push_back(hungGate(info, number));
     for (std::size_t split = 0; split < info.definedsections.size(); ++split)
         if (!info.definedsections[split].empty()) {
             const double part =
-                partOf(info, static_cast<double>(info.definedsections[split].back()) + 0.5);
+                alongCourse(info, static_cast<double>(info.definedsections[split].back()) + 0.5);
             design.splitlines.push_back({static_cast<std::int64_t>(split) + 1,
                                          besideAt(part, -HalfRiver), besideAt(part, HalfRiver)});
         }
@@ -122,15 +122,15 @@ coursedesign001 designOf(const infodata031& info) {
     return design;
 }
 
-Map mapOf(const coursedesign001& design, const infodata031& info) {
-    Map map;
+CourseRaster mapOf(const coursedesign001& design, const infodata031& info) {
+    CourseRaster map;
     for (const auto& points : design.banks)
         for (std::size_t i = 1; i < points.size(); ++i)
             map.draw(points[i - 1], points[i], 2.5, Earth);
     for (const coursesplitline001& line : design.splitlines)
         map.draw(line.a, line.b, 0.8, Timed);
     for (const coursegate001& gate : design.gates) {
-        const Colour colour = isUp(info, gate.number) ? HungUp : Hung;
+        const Colour colour = hangsUpstream(info, gate.number) ? HungUp : Hung;
         map.draw(gate.left, gate.right, 1.2, colour);
         map.dot(gate.left, 4, colour);
         map.dot(gate.right, 4, colour);
@@ -142,7 +142,7 @@ Map mapOf(const coursedesign001& design, const infodata031& info) {
 
 Blob drawnCourse(const infodata031& info) {
     const coursedesign001 design = designOf(info);
-    const Map map = mapOf(design, info);
+    const CourseRaster map = mapOf(design, info);
     return withCourse(pngOf({MapWidth, MapHeight}, map.pixels()), design);
 }
 

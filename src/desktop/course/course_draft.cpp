@@ -1,7 +1,5 @@
 #include "desktop/course/course_draft.h"
 
-#include "report/typeface.h"
-
 #include <algorithm>
 
 namespace kavela::desktop {
