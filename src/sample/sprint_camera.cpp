@@ -1,6 +1,7 @@
 #include "sample/sprint_camera.h"
 
 #include "sample/courses.h"
+#include "sample/dice.h"
 #include "sample/session.h"
 
 #include <algorithm>
@@ -26,8 +27,8 @@ std::vector<SprintPassage> sprintPassages() {
             continue;
         const auto number = static_cast<Frames>(passages.size());
         const Frames start = FirstSprint + number * BetweenSprints + framesOf(dice.between(0, 0.8));
-        const Frames seconds = framesOf(dice.between(2.7, 3.1) * boat.pace);
-        passages.push_back({boat, start, start + seconds, dice.between(-0.28, 0.28)});
+        const Frames needed = framesOf(dice.between(2.7, 3.1) * boat.pace);
+        passages.push_back({boat, start, start + needed, dice.between(-0.28, 0.28)});
     }
     return passages;
 }
