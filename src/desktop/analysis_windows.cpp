@@ -36,6 +36,7 @@ RaceWindow* AnalysisWindows::makeRaceWindow() {
                      [this](const QString& path) { openTables({path}, {}); });
     QObject::connect(window, &RaceWindow::officialDifferencesRequested, &m_program,
                      &Desktop::openOfficialDifferences);
+    QObject::connect(window, &RaceWindow::courseRequested, &m_program, &Desktop::openCourse);
     QObject::connect(window, &RaceWindow::viewsChanged, &m_program, &Desktop::rememberSession);
     return window;
 }

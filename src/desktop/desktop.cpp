@@ -273,6 +273,10 @@ bool Desktop::openIn(const ToolKind& tool, const QString& path) {
         return openTaking(path) != nullptr;
     if (tool.opens == OpensAs::Cross)
         return openCross(path) != nullptr;
+    if (tool.opens == OpensAs::Course) {
+        openCourse(path);
+        return true;
+    }
     if (tool.opens == OpensAs::Penalties) {
         openPenalties({path});
         return true;

@@ -97,6 +97,8 @@ public:
     void openOfficialDifferences(const QString& path) {
         m_splitFiles.openOfficialDifferences(path);
     }
+    /// Shows the drawing of a race's course over its split taking, to be drawn on.
+    void openCourse(const QString& path) { m_splitFiles.openCourse(path); }
     /// Shows how a team's athletes stand over the seasons, in the window that has the team where
     /// there is one; without a path the team that was shown last.
     void openSeason(const QStringList& paths) { m_analysis.openSeason(paths); }

@@ -33,9 +33,10 @@ enum class OpensAs {
     Season,      ///< a team with its races, where the coach asks for it
     Fetch,       ///< films that are fetched, which opens sources and lists of its own
     Share,       ///< a folder, where the coach asks for it: by content it is to be timed
-    Comparison, ///< of films
-    Tracking,   ///< the path of something on a film
+    Comparison,  ///< of films
+    Tracking,    ///< the path of something on a film
     SlitPicture, ///< a film, where the coach asks for it: by content it is to be timed
+    Course,      ///< of a split file, where the coach asks for it: by content it is a race
     NotReady
 };
 

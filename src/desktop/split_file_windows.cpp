@@ -255,6 +255,10 @@ void SplitFileWindows::openOfficialDifferences(const QString& path) {
         path, [this](TakingWindow& window) { showOfficialDifferences(window, m_workspace); });
 }
 
+void SplitFileWindows::openCourse(const QString& path) {
+    (void)openTaking(path, [](TakingWindow& window) { window.exchange().drawCourse(); });
+}
+
 void SplitFileWindows::showPlace(const Place& place) {
     showRun(QString::fromStdString(place.file.string()), place.run, [place](TakingWindow& window) {
         if (place.moment)

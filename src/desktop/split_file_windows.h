@@ -38,6 +38,8 @@ public:
     void showMoment(const QString& path, int run, std::size_t split);
     /// Where the race and official results differ, over its split taking.
     void openOfficialDifferences(const QString& path);
+    /// The drawing of the course, over its split taking.
+    void openCourse(const QString& path);
     /// Where a number of a split file comes from: its run and frame.
     void showPlace(const Place& place);
 

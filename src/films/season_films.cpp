@@ -90,6 +90,20 @@ void fill(const AVFrame& frame, const YuvPicture& picture) {
     }
 }
 
+template <class Scene>
+std::string filmOf(const Scene& scene, Frames length, std::int32_t timescale) {
+    MemorySink bytes;
+    FilmWriter writer(formatOfSeason(timescale), bytes);
+    YuvPicture picture(FilmWidth, FilmHeight);
+    for (Frames frame = 0; frame < length; ++frame) {
+        scene.draw(frame, picture);
+        fill(writer.picture(), picture);
+        writer.add(frame);
+    }
+    writer.finish();
+    return bytes.take();
+}
+
 } // namespace
 
 std::vector<PlannedFilm> sessionFilms(const splittakerdata031& session, const fs::path& folder,
@@ -116,20 +130,22 @@ std::vector<PlannedFilm> seasonFilms(const std::function<bool(const fs::path&)>&
     };
     add(sample::holdRace(sample::harbourNight()), "races");
     add(sample::formTest(), "training");
+    const fs::path sprint = fs::path("camera") / sample::SprintFilm;
+    if (isWanted(sprint))
+        films.push_back({sprint, nullptr, std::make_shared<FixedScene>(sample::sprintPassages())});
     return films;
 }
 
 std::string makeFilm(const FilmScene& scene) {
-    MemorySink bytes;
-    FilmWriter writer(formatOfSeason(scene.run().timescale), bytes);
-    YuvPicture picture(FilmWidth, FilmHeight);
-    for (Frames frame = 0; frame < scene.run().length; ++frame) {
-        scene.draw(frame, picture);
-        fill(writer.picture(), picture);
-        writer.add(frame);
-    }
-    writer.finish();
-    return bytes.take();
+    return filmOf(scene, scene.run().length, scene.run().timescale);
+}
+
+std::string makeFilm(const FixedScene& scene) {
+    return filmOf(scene, scene.length(), sample::FilmClock().timescale);
+}
+
+std::string makeFilm(const PlannedFilm& film) {
+    return film.fixed ? makeFilm(*film.fixed) : makeFilm(*film.scene);
 }
 
 } // namespace kavela::films

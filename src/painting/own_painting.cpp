@@ -31,9 +31,10 @@ void OwnPainting::writeRaceReport(splittakerdata031 document, const fs::path& sp
                                   const TableSettings& settings, const fs::path& target) const {
     const OffscreenApplication application;
     const report::ReportHeading heading = report::reportHeading(document.info);
+    const report::SharedCourse drawn = report::sharedCourse(document.info);
     const RaceSet set = makeRaceSet(std::move(document), splitFile);
-    report::writePdf(report::RaceReport(heading, set, settings, report::ReportContent::Race),
-                     target);
+    report::writePdf(
+        report::RaceReport(heading, set, settings, report::ReportContent::Race, {}, drawn), target);
 }
 
 bool OwnPainting::isCategorizationWritten(const std::string& category,

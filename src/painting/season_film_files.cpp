@@ -22,9 +22,9 @@ std::vector<films::PlannedFilm> missingFilms(const fs::path& folder) {
 }
 
 /// A film gets its name only when it is whole, whatever ends the program meanwhile.
-void makeAt(const fs::path& target, const films::FilmScene& scene) {
+void makeAt(const fs::path& target, const films::PlannedFilm& film) {
     try {
-        writeFileSafely(target, films::makeFilm(scene));
+        writeFileSafely(target, films::makeFilm(film));
     } catch (const FileError& error) {
         throw FileError(target, error.reason()); // not the name that it had on the way
     }
@@ -33,7 +33,7 @@ void makeAt(const fs::path& target, const films::FilmScene& scene) {
 void makeFilms(const std::vector<films::PlannedFilm>& plans, const fs::path& folder) {
     cli::ProgressBar progress(plans.size());
     parallelFor(plans.size(), [&](std::size_t i) {
-        makeAt(folder / plans[i].name, *plans[i].scene);
+        makeAt(folder / plans[i].name, plans[i]);
         progress.step();
     });
 }

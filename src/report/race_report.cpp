@@ -17,10 +17,14 @@ constexpr qreal SectionGap = 22 * Point;
 constexpr std::size_t FewestRowsBelowHeading = 8;
 
 void putRaceSections(PageBuilder& pages, const RaceSet& set, std::span<const QString> sectionTitles,
-                     const Typeface& typeface) {
+                     const SharedCourse& drawn, const Typeface& typeface) {
     putLists(pages, raceLists(set, sectionTitles), typeface);
     pages.skip(SectionGap);
     putGateChart(pages, coursePenalties(set), typeface);
+    pages.skip(SectionGap);
+    if (!drawn)
+        return;
+    putDrawnCourse(pages, drawn, coursePenalties(set), typeface);
     pages.skip(SectionGap);
 }
 
@@ -42,7 +46,8 @@ void putNoRuns(PageBuilder& pages, const Typeface& typeface) {
 }
 
 PageBuilder racePages(const ReportHeading& heading, const RaceSet& set,
-                      const TableSettings& settings, ReportContent content, const TableView& view) {
+                      const TableSettings& settings, ReportContent content, const TableView& view,
+                      const SharedCourse& drawn) {
     const Typeface typeface;
     const SplitTable splits = makeSplitTable(set, settings);
     const ReportTable table = reportTable(set, splits, settings, view);
@@ -51,7 +56,7 @@ PageBuilder racePages(const ReportHeading& heading, const RaceSet& set,
     if (content == ReportContent::Race) {
         putTitleBlock(pages, heading, typeface);
         if (table.rowCount() > 0) {
-            putRaceSections(pages, set, columnTitles(splits), typeface);
+            putRaceSections(pages, set, columnTitles(splits), drawn, typeface);
             putTableHeading(pages, layout, typeface);
         }
     } else {
@@ -67,7 +72,8 @@ PageBuilder racePages(const ReportHeading& heading, const RaceSet& set,
 } // namespace
 
 RaceReport::RaceReport(const ReportHeading& heading, const RaceSet& set,
-                       const TableSettings& settings, ReportContent content, const TableView& view)
-    : SheetReport(heading, racePages(heading, set, settings, content, view)) {}
+                       const TableSettings& settings, ReportContent content, const TableView& view,
+                       const SharedCourse& drawn)
+    : SheetReport(heading, racePages(heading, set, settings, content, view, drawn)) {}
 
 } // namespace kavela::report

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "report/drawn_course.h"
 #include "report/sheet_report.h"
 #include "report/table_view.h"
 
@@ -14,9 +15,10 @@ enum class ReportContent {
 /// outlive it.
 class RaceReport : public SheetReport {
 public:
-    /// Lying where the table needs the width, for the whole report.
+    /// Lying where the table needs the width, for the whole report. With the course as it was drawn
+    /// among its sections, unless that is null.
     RaceReport(const ReportHeading& heading, const RaceSet& set, const TableSettings& settings,
-               ReportContent content, const TableView& view = {});
+               ReportContent content, const TableView& view = {}, const SharedCourse& drawn = {});
 };
 
 } // namespace kavela::report

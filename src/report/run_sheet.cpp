@@ -1,5 +1,6 @@
 #include "report/run_sheet.h"
 
+#include "report/drawn_course.h"
 #include "report/page_frame.h"
 #include "report/run_sheet_data.h"
 #include "report/run_sheet_splits.h"
@@ -45,7 +46,10 @@ std::unique_ptr<PagedReport> runSheet(const infodata031& info, const RaceSet& se
     putSplits(pages, data, typeface);
     if (!data.splits.empty())
         pages.skip(SheetPartGap);
-    putCourse(pages, data.course, typeface);
+    if (const SharedCourse drawn = sharedCourse(info); drawn && !data.course.gates.empty())
+        putDrawnCourse(pages, drawn, data.course, typeface);
+    else
+        putCourse(pages, data.course, typeface);
     if (!data.course.gates.empty())
         pages.skip(SheetPartGap);
     putSheetLists(pages, data.lists, typeface);

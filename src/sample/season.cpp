@@ -4,6 +4,7 @@
 #include "common/json_encode.h"
 #include "common/safe_file.h"
 #include "sample/comparison.h"
+#include "sample/course_map.h"
 #include "sample/cross.h"
 #include "sample/league.h"
 #include "sample/older_releases.h"
@@ -11,6 +12,7 @@
 #include "sample/races.h"
 #include "sample/recordings.h"
 #include "sample/selection.h"
+#include "sample/sprint_camera.h"
 #include "sample/team.h"
 #include "sample/tests.h"
 #include "sample/tracks.h"
@@ -61,7 +63,9 @@ void addPlanning(std::vector<SampleFile>& files) {
 std::vector<SampleFile> sampleSeason() {
     std::vector<SampleFile> files{{"races/riverside_cup.kvx", encode(holdRace(riversideCup()))}};
     addOpener(files);
-    files.push_back({"races/highland_open.kvx", encode(holdRace(highlandOpen()))});
+    splittakerdata031 highland = holdRace(highlandOpen());
+    highland.info.coursedesign = drawnCourse(highland.info);
+    files.push_back({"races/highland_open.kvx", encode(highland)});
     const splittakerdata031 night = holdRace(harbourNight());
     constexpr int EightInTheEvening = 20 * 3600;
     files.push_back({"races/harbour_night.kvx", encode(night)});
@@ -71,6 +75,7 @@ std::vector<SampleFile> sampleSeason() {
     addLeague(files);
     files.push_back({"training/gate_laps.kvx", encode(gateLaps())});
     files.push_back({"training/form_test.kvx", encode(formTest())});
+    files.push_back({"camera/sprint.kvx", encode(sprintSession())});
     files.push_back({"recordings/upstream_drill.kvb", encode(upstreamDrill())});
     files.push_back({"recordings/sprint_with_watch.kvb", encode(sprintWithWatch())});
     files.push_back({"recordings/old_phone_v4.kvb", encode(oldPhone())});

@@ -7,11 +7,13 @@
 #include "desktop/penalties/cost_panel.h"
 #include "desktop/penalties/course_panel.h"
 #include "desktop/penalties/details_panel.h"
+#include "desktop/penalties/drawn_rates.h"
 #include "desktop/penalties/penalty_filter.h"
 #include "desktop/penalties/rates_panel.h"
 #include "desktop/penalties/trade_off_panel.h"
 #include "desktop/shell/tables/column_table.h"
 #include "race_fixture.h"
+#include "report/course_picture.h"
 #include "splitdata/document.h"
 
 #include <QBuffer>
@@ -19,6 +21,7 @@
 #include <QImage>
 #include <QLabel>
 #include <QPushButton>
+#include <QSignalSpy>
 #include <QTableView>
 
 #include <cmath>
@@ -260,6 +263,24 @@ TEST_F(PenaltiesWindowTest, DrawsTheCourseOverItsPictureWhereTheFileHoldsOne) {
     EXPECT_TRUE(QTest::qWaitFor([&] { return remark->isVisibleTo(&m_window.course()); }));
     EXPECT_TRUE(chart.content().backdrop.isNull()) << "that of the file before is gone";
     EXPECT_THAT(chart.content().marks, SizeIs(4));
+}
+
+TEST_F(PenaltiesWindowTest, ShowsTheRatesAtTheGatesOfACourseThatWasDrawn) {
+    splittakerdata031 race = final();
+    coursedesign001 design;
+    design.gates = {{1, {0.2, 0.1}, {0.2, 0.2}}, {3, {0.6, 0.3}, {0.6, 0.4}}};
+    race.info.coursedesign = report::coursePicture(report::CoursePainting(design, 0.5, {}));
+    ASSERT_TRUE(open({pathText(add("drawn.kvx", race))}));
+    desktop::DrawnRates& drawn = m_window.course().drawn();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return drawn.isVisibleTo(&m_window.course()); }));
+    EXPECT_TRUE(m_window.course().chart().content().backdrop.isNull()) << "it is there once";
+    EXPECT_THAT(drawn.tellOf(3).toStdString(), StartsWith("Gate 3: "));
+    EXPECT_FALSE(drawn.placeOf(2)) << "nobody drew it";
+    QSignalSpy chosen(&m_window.course(), &desktop::CoursePanel::gateActivated);
+    drawn.resize(400, 300);
+    QTest::mouseClick(&drawn, Qt::LeftButton, {}, drawn.placeOf(3).value().toPoint());
+    ASSERT_EQ(chosen.size(), 1);
+    EXPECT_EQ(chosen[0][1].toLongLong(), 3);
 }
 
 TEST_F(PenaltiesWindowTest, FiltersByCategoryAndCrewAndSaysWhatSpeedPays) {

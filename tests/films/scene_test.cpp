@@ -1,4 +1,5 @@
 #include "films/film_scene.h"
+#include "films/fixed_scene.h"
 #include "films/season_films.h"
 #include "sample/races.h"
 #include "sample/training.h"
@@ -133,6 +134,33 @@ TEST(FilmScene, RefusesARunThatNoFilmCanShow) {
     run.sectioninfo.cmtimes.assign(8, {});
     EXPECT_THROW((void)runOnFilm(session.info, run, 0), std::invalid_argument);
     EXPECT_THROW((void)runOnFilm({}, session.athletes.back(), 0), std::invalid_argument);
+}
+
+TEST(FixedScene, BoatsCrossBothLinesOneAfterTheOtherAtTheFramesOfTheSession) {
+    const std::vector<sample::SprintPassage> passages = sample::sprintPassages();
+    const FixedScene scene(passages);
+    ASSERT_EQ(passages.size(), sample::sprintSession().athletes.size());
+    ASSERT_GE(passages.size(), 4U);
+    YuvPicture before(FilmWidth, FilmHeight);
+    YuvPicture after(FilmWidth, FilmHeight);
+    Frames last = 0;
+    for (std::size_t i = 0; i < passages.size(); ++i) {
+        const auto& [boat, start, finish, lane] = passages[i];
+        EXPECT_LT(scene.bowAt(i, start - 1).x(), FixedScene::StartColumn);
+        EXPECT_GT(scene.bowAt(i, start).x(), FixedScene::StartColumn);
+        EXPECT_LT(scene.bowAt(i, finish - 1).x(), FixedScene::FinishColumn);
+        EXPECT_GT(scene.bowAt(i, finish).x(), FixedScene::FinishColumn);
+        EXPECT_GT(start, last) << "one after the other";
+        last = finish;
+        // Half a boat further there is deck on the line where there was water.
+        constexpr Frames HalfABoat = 15;
+        scene.draw(finish - HalfABoat, before);
+        scene.draw(finish + HalfABoat, after);
+        const auto row = static_cast<int>(scene.bowAt(i, finish).y());
+        const auto column = static_cast<int>(FixedScene::FinishColumn);
+        EXPECT_NE(before.yLine(row)[column], after.yLine(row)[column]) << boat.crew();
+    }
+    EXPECT_LT(last + sample::FramesPerSecond, scene.length());
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 #include "desktop/penalties/course_panel.h"
 
 #include "desktop/charts/interval_chart.h"
+#include "desktop/penalties/drawn_rates.h"
 #include "desktop/penalties/penalty_contents.h"
 #include "desktop/shell/qt_text.h"
 #include "desktop/shell/theme.h"
@@ -21,7 +22,8 @@ CoursePanel::CoursePanel(QWidget* parent)
       m_title(new QLabel(tr("C&ourse of"))),
       m_courses(new QComboBox),
       m_remark(new QLabel),
-      m_chart(new IntervalChart) {
+      m_chart(new IntervalChart),
+      m_drawn(new DrawnRates) {
     m_courses->setObjectName("course");
     m_courses->setSizeAdjustPolicy(QComboBox::AdjustToContents);
     m_title->setBuddy(m_courses);
@@ -37,12 +39,18 @@ CoursePanel::CoursePanel(QWidget* parent)
     column->setSpacing(theme::Spacing);
     column->addLayout(row);
     column->addWidget(m_chart, 1);
+    column->addWidget(m_drawn, 1);
+    m_drawn->hide();
     m_title->hide();
     m_courses->hide();
     connect(m_courses, &QComboBox::currentIndexChanged, this, &CoursePanel::showCourse);
     connect(m_chart, &IntervalChart::markActivated, this, [this](std::size_t mark) {
         if (const CourseOfRates* const shown = course(); shown && mark < shown->gates.size())
             emit gateActivated(shown->file, shown->gates[mark].gate);
+    });
+    connect(m_drawn, &DrawnRates::gateActivated, this, [this](qint64 gate) {
+        if (const CourseOfRates* const shown = course())
+            emit gateActivated(shown->file, gate);
     });
     answerWhy(m_chart->focusProxy(), [this](const QPoint& at) {
         return whyOf(at.x() < 0 ? m_chart->current() : m_chart->markAt(at));
@@ -86,7 +94,10 @@ void CoursePanel::showCourse() {
 void CoursePanel::showChart() {
     const CourseOfRates* const shown = course();
     IntervalChartContent content = courseContent(shown ? *shown : CourseOfRates());
-    content.backdrop = m_picture.image;
+    // The gates stand on the drawing below; faint behind the chart it would only be in the way.
+    content.backdrop = m_picture.drawn ? QImage() : m_picture.image;
+    m_drawn->show(m_picture.drawn, shown ? *shown : CourseOfRates());
+    m_drawn->setVisible(m_picture.drawn != nullptr);
     m_chart->show(std::move(content));
     m_remark->setText(m_picture.isBroken
                           ? tr("The drawing of the course in this file cannot be shown.")

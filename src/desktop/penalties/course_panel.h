@@ -14,6 +14,7 @@ class QLabel;
 
 namespace kavela::desktop {
 
+class DrawnRates;
 class IntervalChart;
 
 /// The course of a race with the rate of touches at each of its gates, over the drawing of the
@@ -30,6 +31,7 @@ public:
     void showNext(int step);
 
     [[nodiscard]] IntervalChart& chart() const { return *m_chart; }
+    [[nodiscard]] DrawnRates& drawn() const { return *m_drawn; }
 
 signals:
     /// A gate was clicked, of a file.
@@ -48,6 +50,7 @@ private:
     QComboBox* m_courses;
     QLabel* m_remark;
     IntervalChart* m_chart;
+    DrawnRates* m_drawn; ///< below it, where the course was drawn
     CoursePicture m_picture;
     QString m_pictureOf;                             ///< path of its file
     std::shared_ptr<const FactStore> m_pictureFacts; ///< as that was read then

@@ -34,8 +34,10 @@ CoursePicture coursePictureIn(const std::filesystem::path& file) {
     if (!read.version)
         return {};
     const auto& bytes = read.document.info.coursedesign.bytes;
-    return coursePictureOf(QByteArray(reinterpret_cast<const char*>(bytes.data()),
-                                      static_cast<qsizetype>(bytes.size())));
+    CoursePicture picture = coursePictureOf(QByteArray(reinterpret_cast<const char*>(bytes.data()),
+                                                       static_cast<qsizetype>(bytes.size())));
+    picture.drawn = report::sharedCourse(read.document.info);
+    return picture;
 }
 
 } // namespace kavela::desktop

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "report/drawn_course.h"
+
 #include <QImage>
 
 #include <filesystem>
@@ -8,8 +10,9 @@ namespace kavela::desktop {
 
 /// The drawing of its course that a split file holds.
 struct CoursePicture {
-    QImage image;          ///< null where there is none
-    bool isBroken = false; ///< there are bytes, but no picture can be made of them
+    QImage image;                    ///< null where there is none
+    report::SharedCourse drawn = {}; ///< where it can be painted from its parts; null otherwise
+    bool isBroken = false;           ///< there are bytes, but no picture can be made of them
 };
 
 /// Reads it from a split file of any release; none where the file cannot be read. Takes as long as

@@ -234,6 +234,9 @@ void RaceActions::makeChartMenu() {
         [this](RaceView& view) {
             emit m_window.lossesRequested({view.document().path()}, view.currentRun());
         });
+    menu->addAction(tr("&Draw the course…"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_G),
+                    &m_window,
+                    [this] { emit m_window.courseRequested(m_window.document().path()); });
     menu->addSeparator();
     add(*menu, tr("Show the &whole chart"), QKeySequence(Qt::CTRL | Qt::Key_0),
         [](RaceView& view) { view.charts().fit(); });

@@ -44,10 +44,12 @@ std::vector<NamedReport> raceReports(const RaceDocument& document, const SplitTa
                                      std::optional<std::size_t> selectedRun) {
     const auto set = std::make_shared<const RaceSet>(document.shownSet());
     const report::ReportHeading heading = report::reportHeading(document.info());
+    const report::SharedCourse drawn = report::sharedCourse(document.info());
     const TableSettings settings = document.settings();
     const auto make = [=](ReportContent content, const report::TableView& view) {
         return [=]() -> std::unique_ptr<report::PagedReport> {
-            return std::make_unique<report::RaceReport>(heading, *set, settings, content, view);
+            return std::make_unique<report::RaceReport>(heading, *set, settings, content, view,
+                                                        drawn);
         };
     };
     const QFileInfo file(document.path());

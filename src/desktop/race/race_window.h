@@ -59,6 +59,8 @@ signals:
     void tablesRequested(const QString& path);
     /// Where the race in front and official results differ is to be shown.
     void officialDifferencesRequested(const QString& path);
+    /// The course of the race in front is to be drawn.
+    void courseRequested(const QString& path);
     /// The penalties of the race in front are to be shown in a window of their own.
     void penaltiesRequested(const QStringList& paths);
 

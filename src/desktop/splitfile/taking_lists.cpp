@@ -20,8 +20,9 @@ void writeBeside(splittakerdata031 document, const std::filesystem::path& file,
     if (!lists.pdf)
         return;
     const report::ReportHeading heading = report::reportHeading(document.info);
+    const report::SharedCourse drawn = report::sharedCourse(document.info);
     const RaceSet set = makeRaceSet(std::move(document), file);
-    report::writePdf(report::RaceReport(heading, set, {}, report::ReportContent::Race),
+    report::writePdf(report::RaceReport(heading, set, {}, report::ReportContent::Race, {}, drawn),
                      beside.replace_extension(".pdf"));
 }
 

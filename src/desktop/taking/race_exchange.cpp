@@ -3,6 +3,7 @@
 #include "common/alerts.h"
 #include "common/error.h"
 #include "common/text_file.h"
+#include "desktop/course/course_editor.h"
 #include "desktop/shell/workspace.h"
 #include "desktop/splitfile/film_files.h"
 #include "desktop/splitfile/taking_document.h"
@@ -39,6 +40,18 @@ void RaceExchange::setUpCourse() {
     CourseDialog dialog(m_document.info(), m_workspace, &m_window);
     if (dialog.exec() == QDialog::Accepted)
         m_document.editInfo(tr("course"), [&](infodata031& info) { info = dialog.info(); });
+}
+
+void RaceExchange::drawCourse() {
+    if (!m_commit())
+        return;
+    CourseEditor editor(m_document.info(), m_workspace, &m_window);
+    if (editor.exec() == QDialog::Accepted && editor.isChanged())
+        m_document.editInfo(tr("drawing of the course"), [&](infodata031& info) {
+            info.coursedesign = editor.info().coursedesign;
+            info.upGates = editor.info().upGates;
+            info.gates = editor.info().gates;
+        });
 }
 
 void RaceExchange::readFilmNames() {

@@ -29,6 +29,8 @@ public:
                  QWidget& window, std::function<bool()> commit);
 
     void setUpCourse();
+    /// Shows the drawing of the course, to be drawn on.
+    void drawCourse();
     /// Asks how the films are named, and reads the runs from their names again.
     void readFilmNames();
     void importSplitFile();

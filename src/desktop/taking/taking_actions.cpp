@@ -97,6 +97,8 @@ void TakingActions::makeEditMenu() {
     QMenu* menu = m_window.makeEditMenu();
     add(*menu, tr("Race and &course…"), {keys(Qt::CTRL | Qt::Key_G)},
         [this] { m_window.exchange().setUpCourse(); });
+    add(*menu, tr("&Draw the course…"), {keys(Qt::CTRL | Qt::SHIFT | Qt::Key_G)},
+        [this] { m_window.exchange().drawCourse(); });
     add(*menu, tr("Names of the &films…"), {}, [this] { m_window.exchange().readFilmNames(); });
     add(*menu, tr("&Previous run"), {keys(Qt::Key_Up)}, [this] {
         if (!stepNumber(1))
