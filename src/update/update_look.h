@@ -2,7 +2,7 @@
 
 #include "fetch/small_fetch.h"
 #include "update/manifest.h"
-#include "update/signature.h"
+#include "update/update_source.h"
 #include "update/version.h"
 
 #include <QNetworkAccessManager>
@@ -15,15 +15,6 @@
 #include <vector>
 
 namespace kavela::update {
-
-/// Where newer versions are told of, and who signs for them.
-struct UpdateSource {
-    fetch::Address manifest; ///< the signature lies beside it, ".sig" behind its name
-    PublicKey key{};
-};
-
-/// What this program was built with. Nothing where it was built without an address.
-[[nodiscard]] std::optional<UpdateSource> builtInUpdateSource();
 
 /// The headers of every question for a version: that of the program, and nothing of the computer or
 /// the coach.
