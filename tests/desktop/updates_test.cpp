@@ -97,7 +97,7 @@ protected:
         ASSERT_TRUE(start());
     }
 
-    const QByteArray package{50'000, 'k'};
+    const QByteArray package = QByteArray(50'000, 'k');
     const update::KeyPair keys = update::newKeyPair();
     FaultyServer server;
     TempFolder folder;
@@ -182,7 +182,7 @@ TEST_F(UpdatesTest, TellsOfAListThatMustNotBeUsedAndOfNoOtherFaultUnasked) {
     serve("0.32.0", update::newKeyPair().secretKey);
     ASSERT_TRUE(start());
     ASSERT_THAT(m_recorder.alerts, SizeIs(1));
-    EXPECT_THAT(m_recorder.alerts[0].text, HasSubstr("somebody else's"));
+    EXPECT_THAT(m_recorder.alerts[0], HasSubstr("somebody else's"));
     EXPECT_FALSE(updates->offer());
     m_recorder.alerts.clear();
     server.add("/newest.json", {always(answer("404 Not Found"))});
@@ -199,7 +199,7 @@ TEST_F(UpdatesTest, GoesBackToNoVersionThatWasOfferedBefore) {
     serve("0.32.0", keys.secretKey);
     startNextDay();
     ASSERT_THAT(m_recorder.alerts, SizeIs(1));
-    EXPECT_THAT(m_recorder.alerts[0].text, HasSubstr("older than 0.33.0"));
+    EXPECT_THAT(m_recorder.alerts[0], HasSubstr("older than 0.33.0"));
     EXPECT_FALSE(updates->offer());
     m_recorder.alerts.clear();
 }
