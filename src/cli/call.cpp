@@ -13,6 +13,43 @@ namespace {
 /// Columns of the names in a help text.
 constexpr std::size_t NameColumns = 34;
 
+/// The words of a list, as the parser writes it behind the kind of an option: "TEXT:{csv,json}".
+std::vector<std::string> wordsOf(const CLI::Option& option) {
+    const std::string kind = option.get_type_name();
+    const std::size_t begin = kind.find('{');
+    const std::size_t end = kind.find('}');
+    if (begin == std::string::npos || end == std::string::npos || end <= begin)
+        return {};
+    return CLI::detail::split(kind.substr(begin + 1, end - begin - 1), ',');
+}
+
+OptionOutline outlineOf(const CLI::Option& option) {
+    OptionOutline outline;
+    for (const std::string& name : option.get_lnames())
+        outline.names.push_back("--" + name);
+    for (const std::string& name : option.get_snames())
+        outline.names.push_back('-' + name);
+    if (outline.names.empty())
+        outline.operand = option.get_name(true);
+    outline.help = option.get_description();
+    outline.words = wordsOf(option);
+    outline.takesValue = option.get_expected_max() > 0;
+    outline.isRequired = option.get_required();
+    outline.isRepeated = option.get_items_expected_max() > 1;
+    return outline;
+}
+
+CommandOutline outlineOf(const CLI::App& app) {
+    CommandOutline outline{app.get_name(), app.get_description(), app.get_footer(), {}, {}};
+    for (const CLI::Option* const option : app.get_options())
+        if (!option->get_group().empty())
+            outline.options.push_back(outlineOf(*option));
+    for (const CLI::App* const command : app.get_subcommands([](const CLI::App*) { return true; }))
+        if (!command->get_group().empty())
+            outline.commands.push_back(outlineOf(*command));
+    return outline;
+}
+
 } // namespace
 
 Option& Option::required() {
@@ -27,6 +64,11 @@ Option& Option::check(Complaint complaint) {
 
 Option& Option::oneOf(std::vector<std::string> words) {
     m_option->check(CLI::IsMember(std::move(words)));
+    return *this;
+}
+
+Option& Option::hidden() {
+    m_option->group("");
     return *this;
 }
 
@@ -73,8 +115,8 @@ Option Command::option(const std::string& name, std::function<void(const std::st
     return Option(*m_app->add_option_function<std::string>(name, take, help));
 }
 
-void Command::flag(const std::string& name, bool& value, const std::string& help) {
-    m_app->add_flag(name, value, help);
+Option Command::flag(const std::string& name, bool& value, const std::string& help) {
+    return Option(*m_app->add_flag(name, value, help));
 }
 
 void Command::flag(const std::string& names, int& count, const std::string& help) {
@@ -101,6 +143,10 @@ std::optional<int> Call::run(int argc, char** argv) {
         return m_app->exit(error) == 0 ? Done : WrongCall;
     }
     return std::nullopt;
+}
+
+CommandOutline Call::outline() const {
+    return outlineOf(*m_app);
 }
 
 bool Call::namesCommand() const {

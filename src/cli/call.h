@@ -1,5 +1,7 @@
 #pragma once
 
+#include "cli/call_outline.h"
+
 #include <cstddef>
 #include <cstdint>
 #include <functional>
@@ -30,6 +32,8 @@ public:
     Option& check(Complaint complaint);
     /// Takes these words alone.
     Option& oneOf(std::vector<std::string> words);
+    /// Keeps it out of help, completion and manual: it is for programs.
+    Option& hidden();
 
 private:
     CLI::Option* m_option;
@@ -58,7 +62,7 @@ public:
     /// An option whose text is handed to `take`.
     Option option(const std::string& name, std::function<void(const std::string& text)> take,
                   const std::string& help);
-    void flag(const std::string& name, bool& value, const std::string& help);
+    Option flag(const std::string& name, bool& value, const std::string& help);
     /// A flag "--name,!--no-name": counted up, or down.
     void flag(const std::string& names, int& count, const std::string& help);
 
@@ -78,6 +82,8 @@ public:
     /// all, since help was asked for or the call is wrong; both have then been told.
     [[nodiscard]] std::optional<int> run(int argc, char** argv);
     [[nodiscard]] bool namesCommand() const;
+    /// All that can be called, as it stands now; without what is hidden.
+    [[nodiscard]] CommandOutline outline() const;
 
 private:
     std::unique_ptr<CLI::App> m_app;

@@ -2,6 +2,7 @@
 
 #include "cli/call.h"
 #include "cli/commands.h"
+#include "cli/completion_text.h"
 #include "cli/console.h"
 #include "cli/other_program.h"
 #include "cli/painting.h"
@@ -26,6 +27,12 @@ int run(int argc, char** argv, const char* version, const Painting* painting) {
     program.option("FILE", files, "Files to open in the desktop program");
     bool isNew = false;
     program.flag("--new", isNew, "Start another desktop program, also where one runs");
+    std::string shell;
+    program.option("--completion", shell, "Prints what a shell completes calls by")
+        .oneOf({"bash", "zsh", "fish"})
+        .hidden();
+    bool isManual = false;
+    program.flag("--manual", isManual, "Prints the page of the manual").hidden();
     int status = Done;
     addInfo(program, status);
     addUpgrade(program, status);
@@ -55,6 +62,11 @@ int run(int argc, char** argv, const char* version, const Painting* painting) {
     addDemo(program, status, painting);
     if (const auto ended = call.run(argc, argv))
         return *ended;
+    if (isManual || !shell.empty()) // for packages, which take it along
+        return print(isManual ? manualText(call.outline(), version)
+                              : completionText(call.outline(), shell))
+                   ? Done
+                   : NotDone;
     return call.namesCommand() ? status : startDesktop(files, isNew);
 }
 

@@ -76,7 +76,9 @@ Desktop::Desktop(Workspace& workspace, std::optional<Autosave> autosave)
       m_choice(*this, m_workspace),
       m_plannings(*this, m_workspace, m_autosave),
       m_analysis(*this, m_workspace),
-      m_splitFiles(*this, m_workspace, m_autosave, m_analysis) {
+      m_splitFiles(*this, m_workspace, m_autosave, m_analysis),
+      m_updates(m_workspace, update::parsedVersion(QApplication::applicationVersion().toStdString())
+                                 .value_or(update::Version())) {
     loadIcons();
     m_workspace.setProgramCommands(
         [program = QPointer(this)] { return program ? program->toolCommands() : Commands(); });

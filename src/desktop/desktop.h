@@ -12,6 +12,7 @@
 #include "desktop/shell/workspace.h"
 #include "desktop/split_file_windows.h"
 #include "desktop/tool_choice.h"
+#include "desktop/update/updates.h"
 
 #include <QMap>
 #include <QPointer>
@@ -125,6 +126,9 @@ public:
     /// Opens the planning that the preferences name, where they ask for one.
     void loadPlanningAtStart() { m_plannings.loadAtStart(); }
 
+    /// Asks once whether newer versions may be looked for, and looks where it is time to.
+    void lookForVersions() { m_updates.beginAtStart(front()); }
+
     /// Shows a window that was made, and follows what it asks for.
     void show(ToolWindow* window);
     /// The moment behind a time of the analyzer, in the film it was taken from.
@@ -193,6 +197,7 @@ private:
     PlanningWindows m_plannings;
     AnalysisWindows m_analysis;
     SplitFileWindows m_splitFiles;
+    Updates m_updates;
 };
 
 } // namespace kavela::desktop

@@ -11,6 +11,7 @@
 #include <QDir>
 #include <QStandardPaths>
 #include <QStyleFactory>
+#include <QTimer>
 
 #include <cstdio>
 
@@ -98,6 +99,7 @@ int main(int argc, char** argv) {
 
     Workspace workspace(Preferences(), rotatingLog(logFile()), systemNow);
     workspace.startUp(userLibraryFolder());
+    workspace.setUpdateSource(update::builtInUpdateSource());
     applyScheme(workspace);
     const AutosavePlace kept(autosaveFolder(), start == OneProgram::Start::Beside
                                                    ? AutosavePlace::Program::Beside
@@ -109,5 +111,8 @@ int main(int argc, char** argv) {
             qputenv(ActivationToken, call.activation);
         program.comeForward(call.files);
     });
+    // Once everything stands on the screen, and other starts are answered.
+    if (start != OneProgram::Start::Beside)
+        QTimer::singleShot(0, &program, &Desktop::lookForVersions);
     return QApplication::exec();
 }

@@ -55,7 +55,7 @@ void SmallFetch::takeBytes(const QByteArray& bytes) {
     if (m_answer.body.size() <= m_most)
         return;
     m_exchange->stop();
-    give({.reason = "The answer is longer than any list is."});
+    give({.reason = "The answer is longer than any list is.", .isTooLong = true});
 }
 
 void SmallFetch::takeEnd(const WebEnd& end) {

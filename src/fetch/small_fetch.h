@@ -16,6 +16,7 @@ struct SmallAnswer {
     std::string otherSite = {}; ///< the server that would have to be ticked
     bool isNotThere = false;    ///< the server has it not yet
     bool wantsLogin = false;
+    bool isTooLong = false; ///< it was refused while it came
 };
 
 /// Lists, playlists and checksums: answers that fit into memory, asked for again as films are.

@@ -61,6 +61,9 @@ void addHelpMenu(QMainWindow& window, Workspace& workspace, const QString& kind,
             window.setWindowState(window.windowState().setFlag(Qt::WindowFullScreen, on));
         });
     full->setCheckable(true);
+    if (workspace.updateSource())
+        menu->addAction(QObject::tr("&Look for a newer version"), &window,
+                        [&window, &workspace] { emit workspace.newerVersionRequested(&window); });
     const std::vector<KeyBinding> bindings = applyKeyBindings(window, workspace, kind);
     QObject::connect(change, &QAction::triggered, &window, [&window, &workspace, bindings, kind] {
         KeyEditor(bindings, workspace, kind, &window).exec();

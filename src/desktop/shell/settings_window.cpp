@@ -1,9 +1,11 @@
 #include "desktop/shell/settings_window.h"
 
+#include "desktop/shell/fault_label.h"
 #include "desktop/shell/number_box.h"
 #include "desktop/shell/qt_text.h"
 #include "desktop/shell/scheme.h"
 #include "desktop/shell/theme.h"
+#include "desktop/shell/update_choice.h"
 #include "desktop/shell/workspace.h"
 #include "video/machine_memory.h"
 
@@ -14,6 +16,7 @@
 #include <QFormLayout>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QLineEdit>
 #include <QLocale>
 #include <QPlainTextEdit>
 #include <QPushButton>
@@ -91,6 +94,9 @@ SettingsWindow::SettingsWindow(Workspace& workspace, QWidget* parent)
             form->addWidget(editor(entryOf(key)));
         if (std::ranges::find(page.keys, "startinCMTime") != page.keys.end())
             form->addWidget(frameMemoryNote());
+        if (std::ranges::find(page.keys, "autoloadTestMonitor") != page.keys.end() &&
+            m_workspace.updateSource())
+            form->addWidget(newerVersionEditor());
         form->addStretch(1);
         tabs->addTab(sheet, tr(page.title));
     }
@@ -136,6 +142,34 @@ QWidget* SettingsWindow::schemeEditor() {
         schemes->setToolTip(tr("The environment variable KAVELA_SCHEME decides for this session."));
     row->addWidget(new QLabel(tr("Windows")));
     row->addWidget(schemes, 1);
+    return box;
+}
+
+QWidget* SettingsWindow::newerVersionEditor() {
+    auto* box = new QWidget;
+    auto* column = new QVBoxLayout(box);
+    column->setContentsMargins(0, 0, 0, 0);
+    auto* mayLook = new QCheckBox(tr("Look for a newer version once a day"));
+    mayLook->setObjectName("mayLook");
+    mayLook->setChecked(lookHabit(m_workspace).mayLook.value_or(false));
+    connect(mayLook, &QCheckBox::toggled, this, [this](bool on) { setMayLook(m_workspace, on); });
+    auto* row = new QHBoxLayout;
+    auto* address = new QLineEdit(chosenUpdateAddress(m_workspace));
+    address->setObjectName("updateAddress");
+    address->setPlaceholderText(qtText(m_workspace.updateSource()->manifest.text()));
+    auto* caption = new QLabel(tr("Where it is looked for"));
+    caption->setBuddy(address);
+    row->addWidget(caption);
+    row->addWidget(address, 1);
+    auto* fault = new FaultLabel;
+    connect(address, &QLineEdit::editingFinished, this, [this, address, fault] {
+        const bool isTaken = chooseUpdateAddress(m_workspace, address->text());
+        fault->tell(isTaken ? QString()
+                            : tr("This is no https address. It is looked for where it was."));
+    });
+    column->addWidget(mayLook);
+    column->addLayout(row);
+    column->addWidget(fault);
     return box;
 }
 

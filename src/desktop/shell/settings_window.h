@@ -20,6 +20,7 @@ public:
 private:
     [[nodiscard]] QWidget* editor(const PreferenceEntry& entry);
     [[nodiscard]] QWidget* schemeEditor();
+    [[nodiscard]] QWidget* newerVersionEditor();
     [[nodiscard]] QWidget* colourModeEditor();
     [[nodiscard]] QWidget* switchEditor(const PreferenceEntry& entry);
     [[nodiscard]] QWidget* numberEditor(const PreferenceEntry& entry);

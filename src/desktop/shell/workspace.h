@@ -5,6 +5,7 @@
 #include "common/reference_date.h"
 #include "desktop/shell/open_files.h"
 #include "preferences/preferences.h"
+#include "update/update_source.h"
 
 #include <QObject>
 #include <QSet>
@@ -12,6 +13,7 @@
 
 #include <filesystem>
 #include <functional>
+#include <optional>
 #include <utility>
 #include <vector>
 
@@ -51,6 +53,15 @@ public:
     using ProgramCommands = std::function<std::vector<Command>()>;
     void setProgramCommands(ProgramCommands commands) { m_programCommands = std::move(commands); }
     [[nodiscard]] std::vector<Command> programCommands() const;
+
+    /// Where newer versions of the program are told of; nothing where they are not looked for, and
+    /// nothing of it is shown then.
+    void setUpdateSource(std::optional<update::UpdateSource> source) {
+        m_updateSource = std::move(source);
+    }
+    [[nodiscard]] const std::optional<update::UpdateSource>& updateSource() const {
+        return m_updateSource;
+    }
 
     /// Whether the work kept for a document was put off since the program started: it is not asked
     /// for again before the next start.
@@ -102,6 +113,8 @@ signals:
     void recentFilesChanged();
     /// A window wants a file opened in whichever tool it belongs to.
     void openRequested(const QString& path);
+    /// The coach wants to know, in a window, whether there is a newer version of the program.
+    void newerVersionRequested(QWidget* over);
 
 private:
     Preferences m_preferences;
@@ -110,6 +123,7 @@ private:
     OpenFiles m_openFiles;
     QSet<QString> m_putOff; ///< canonical paths
     ProgramCommands m_programCommands;
+    std::optional<update::UpdateSource> m_updateSource;
     Alerts* m_alerts = nullptr;
     Answer m_answer;
     Choice m_choice;
