@@ -3,6 +3,7 @@
 #include "analysis/cell_text.h"
 #include "common/display_text.h"
 #include "common/number_text.h"
+#include "common/text.h"
 #include "performance/loss_charts.h"
 #include "performance/loss_ways.h"
 
@@ -40,7 +41,7 @@ std::string referenceWord(const LossReference& reference) {
     case LossReferenceKind::Own:
         return "the own fastest other run";
     case LossReferenceKind::Run:
-        return fmt::format("run {}", reference.run);
+        return say("run {}", reference.run);
     }
     return {};
 }
@@ -105,10 +106,10 @@ private:
         if (losses.sum)
             head += std::string(LossMargin) + signedInColour(losses.shown.gap);
         else if (!run.isComplete)
-            head += std::string(LossMargin) + styled(LossDim, "no total");
+            head += std::string(LossMargin) + styled(LossDim, say("no total"));
         else if (losses.hasReference)
             head += std::string(LossMargin) + hundredthsText(run.total) +
-                    styled(LossDim, ", no totals to compare");
+                    styled(LossDim, say(", no totals to compare"));
         if (losses.hasReference && losses.reference.kind == LossReferenceKind::Own)
             head += styled(LossDim, referenceText(losses));
         addLine(head);
@@ -168,8 +169,7 @@ private:
             words.push_back(gateText(gate));
         words.push_back("between " + signedHundredths(stretch.between));
         if (stretch.strokes && stretch.referenceStrokes)
-            words.push_back(
-                fmt::format("strokes {} on {}", *stretch.strokes, *stretch.referenceStrokes));
+            words.push_back(say("strokes {} on {}", *stretch.strokes, *stretch.referenceStrokes));
         addWrapped(words);
     }
 
@@ -183,17 +183,17 @@ private:
     }
 
     static std::string gateText(const GateLoss& gate) {
-        return fmt::format("gate {} {}", gate.gate, signedHundredths(gate.loss));
+        return say("gate {} {}", gate.gate, signedHundredths(gate.loss));
     }
 
     void addExplained(const RunLosses& losses) {
         if (!losses.explained || !losses.noted || *losses.noted == 0)
             return;
-        addLine(styled(LossDim,
-                       fmt::format("     Explained by notes: {} of {} ({:.0f} %)",
-                                   hundredthsText(*losses.noted),
-                                   hundredthsText(static_cast<double>(losses.shown.paddling) / 100),
-                                   *losses.explained * 100)));
+        addLine(
+            styled(LossDim, say("     Explained by notes: {} of {} ({:.0f} %)",
+                                hundredthsText(*losses.noted),
+                                hundredthsText(static_cast<double>(losses.shown.paddling) / 100),
+                                *losses.explained * 100)));
     }
 
     [[nodiscard]] std::string signedInColour(std::int64_t hundredths) const {

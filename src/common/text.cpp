@@ -66,4 +66,9 @@ std::string sayCount(std::int64_t count, std::string_view one, std::string_view 
     return filledText(own, found.empty() ? own : found, fmt::make_format_args(count));
 }
 
+std::string countedWords(std::int64_t count, std::string_view one, std::string_view many) {
+    constexpr const char* Number = "{} ";
+    return sayCount(count, Number + std::string(one), Number + std::string(many));
+}
+
 } // namespace kavela

@@ -13,9 +13,10 @@
 /// translation; a program that installs no catalogue says it as it stands. Files, JSON, headings of
 /// CSV and what else other programs read never pass through here, or stand under FixedWords.
 ///
-/// A text is found by those who translate where it is the literal of `say`, `sayCount`, `translated`
-/// or KAVELA_TEXT, so it is never put together from pieces: a sentence is one text with places for
-/// what changes, which a translation may bring into another order, as in "{1} von {0}".
+/// A text is found by those who translate where it is the literal of `say`, `sayCount`,
+/// `translated` or KAVELA_TEXT, so it is never put together from pieces: a sentence is one text
+/// with places for what changes, which a translation may bring into another order, as in "{1} von
+/// {0}".
 namespace kavela {
 
 /// Marks a literal of a table that is looked up where it is shown.
@@ -80,6 +81,10 @@ template <class... Arguments>
 /// So many of something: `one` for 1, `many` for every other number, each with {} for the number.
 /// Languages with more forms have theirs as forms of `many`.
 [[nodiscard]] std::string sayCount(std::int64_t count, std::string_view one, std::string_view many);
+
+/// "1 run", "60 runs": the words without their number.
+[[nodiscard]] std::string countedWords(std::int64_t count, std::string_view one,
+                                       std::string_view many);
 
 } // namespace kavela
 

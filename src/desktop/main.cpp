@@ -2,6 +2,7 @@
 #include "desktop/one_program.h"
 #include "desktop/shell/autosave_place.h"
 #include "desktop/shell/diagnostic_log.h"
+#include "desktop/shell/language.h"
 #include "desktop/shell/scheme.h"
 #include "desktop/shell/screen_fit.h"
 #include "desktop/start_options.h"
@@ -99,6 +100,7 @@ int main(int argc, char** argv) {
     Workspace workspace(Preferences(), rotatingLog(logFile()), systemNow);
     workspace.startUp(userLibraryFolder());
     applyScheme(workspace);
+    speakLanguage(spokenLanguage(workspace), !chosenLanguage(workspace).isEmpty());
     const AutosavePlace kept(autosaveFolder(), start == OneProgram::Start::Beside
                                                    ? AutosavePlace::Program::Beside
                                                    : AutosavePlace::Program::One);

@@ -81,8 +81,8 @@ std::string languageFor(const LanguageWishes& wishes) {
         return wishes.kavela;
     const std::array inOrder{&wishes.all, &wishes.messages, &wishes.lang};
     const auto set = std::ranges::find_if(inOrder, [](const auto* text) { return !text->empty(); });
-    const std::string ofLocale = set == inOrder.end() ? std::string(English)
-                                                      : languageOfLocale(**set);
+    const std::string ofLocale =
+        set == inOrder.end() ? std::string(English) : languageOfLocale(**set);
     // The list counts for people only: a program that sets the locale "C" wants what it knows.
     if (set != inOrder.end() && **set != "C" && **set != "POSIX") {
         for (std::string_view rest = wishes.list; !rest.empty();) {

@@ -26,8 +26,7 @@ std::string_view StaticCatalogue::form(std::string_view text, std::size_t number
     const auto found = std::ranges::lower_bound(m_data.starts, text, {}, textAt);
     if (found == m_data.starts.end() || textAt(*found) != text)
         return {};
-    const std::size_t forms =
-        m_data.forms[static_cast<std::size_t>(found - m_data.starts.begin())];
+    const std::size_t forms = m_data.forms[static_cast<std::size_t>(found - m_data.starts.begin())];
     if ((forms > 1) != isCounted)
         return {};
     std::string_view word = text;

@@ -22,6 +22,7 @@ constexpr int BadUse = 2;
 constexpr const char* Usage =
     "kavela-texts extract SOURCES OUT          marks the texts of the plain libraries\n"
     "kavela-texts pseudo CATALOGUE OUT         writes the catalogue of long texts\n"
+    "kavela-texts windows CATALOGUE OUT        writes the catalogue as the windows ask it\n"
     "kavela-texts tables COMPLETE OUT FILE…    writes the tables that are built in\n";
 
 void write(const fs::path& file, const std::string& content) {
@@ -65,6 +66,8 @@ bool run(const std::vector<std::string>& arguments) {
         write(arguments[2], markedTexts(textsBelow(arguments[1])));
     else if (work == "pseudo" && arguments.size() == 3)
         writeCatalogue(pseudoCatalogue(readCatalogue(arguments[1])), arguments[2]);
+    else if (work == "windows" && arguments.size() == 3)
+        writeCatalogue(withAnyContext(readCatalogue(arguments[1])), arguments[2]);
     else if (work == "tables" && arguments.size() > 3)
         writeTables(arguments[1], arguments[2], {arguments.begin() + 3, arguments.end()});
     else

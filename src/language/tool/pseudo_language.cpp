@@ -10,15 +10,15 @@ namespace kavela::catalogue {
 namespace {
 
 constexpr std::array<std::pair<char, std::string_view>, 10> Accents{{{'a', "á"},
-                                                                    {'e', "ě"},
-                                                                    {'i', "í"},
-                                                                    {'o', "ö"},
-                                                                    {'u', "ů"},
-                                                                    {'A', "Á"},
-                                                                    {'E', "É"},
-                                                                    {'I', "Í"},
-                                                                    {'O', "Ö"},
-                                                                    {'U', "Ů"}}};
+                                                                     {'e', "ě"},
+                                                                     {'i', "í"},
+                                                                     {'o', "ö"},
+                                                                     {'u', "ů"},
+                                                                     {'A', "Á"},
+                                                                     {'E', "É"},
+                                                                     {'I', "Í"},
+                                                                     {'O', "Ö"},
+                                                                     {'U', "Ů"}}};
 
 /// How many bytes at the start of a text are not for people: 0 where a letter stands there.
 std::size_t markupLength(std::string_view text) {

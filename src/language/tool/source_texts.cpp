@@ -19,6 +19,7 @@ enum class Texts {
     FirstAlone,  ///< where nothing else is in the argument
     SecondAlone, ///< the same
     Counted,     ///< the third one
+    CountedWord, ///< the same, said behind its number
     RuleTexts,   ///< the second, third and fourth of a rule
     Last,        ///< the last one, of options of the command line
 };
@@ -35,7 +36,9 @@ constexpr std::array Markers{
     Marker{"translated", '(', Texts::First},
     Marker{"KAVELA_TEXT", '(', Texts::First},
     Marker{"sayCount", '(', Texts::Counted},
-    Marker{"saidCount", '(', Texts::Counted},
+    Marker{"counted", '(', Texts::CountedWord},
+    Marker{"countedText", '(', Texts::CountedWord},
+    Marker{"seasonCounted", '(', Texts::CountedWord},
     Marker{"Rule", '{', Texts::RuleTexts},
     Marker{"input", '(', Texts::FirstAlone},
     Marker{"note", '(', Texts::FirstAlone},
@@ -110,7 +113,7 @@ private:
         m_at = std::min(m_at, m_source.size());
         std::string text(m_source.substr(start, m_at - start));
         ++m_at;
-        m_word.clear();
+        m_word = {};
         return text;
     }
 
@@ -121,8 +124,7 @@ private:
             m_at = m_source.size();
             return;
         }
-        const std::string end =
-            ')' + std::string(m_source.substr(m_at + 2, open - m_at - 2)) + '"';
+        const std::string end = ')' + std::string(m_source.substr(m_at + 2, open - m_at - 2)) + '"';
         m_at = std::min(m_source.find(end, open), m_source.size() - 1) + end.size();
         mix();
     }
@@ -159,7 +161,7 @@ private:
             ++m_open.back().argument;
         else
             mix();
-        m_word.clear();
+        m_word = {};
     }
 
     void mix() {
@@ -182,7 +184,13 @@ private:
             m_open.pop_back();
         for (const Literal& literal : bracket.literals)
             if (bracket.marker && isText(bracket, literal) && !literal.spelling.empty())
-                m_texts.push_back({literal.spelling, bracket.marker->texts == Texts::Counted});
+                m_texts.push_back(textOf(*bracket.marker, literal));
+    }
+
+    static SourceText textOf(const Marker& marker, const Literal& literal) {
+        if (marker.texts == Texts::CountedWord)
+            return {"{} " + literal.spelling, true};
+        return {literal.spelling, marker.texts == Texts::Counted};
     }
 
     static bool isText(const Bracket& bracket, const Literal& literal) {
@@ -195,6 +203,7 @@ private:
         case Texts::SecondAlone:
             return literal.argument == 1 && isAlone;
         case Texts::Counted:
+        case Texts::CountedWord:
             return literal.argument == 2;
         case Texts::RuleTexts:
             return literal.argument >= 1 && isAlone;
@@ -247,8 +256,8 @@ std::vector<SourceText> textsBelow(const std::filesystem::path& folder) {
 std::string markedTexts(const std::vector<SourceText>& texts) {
     std::string source;
     for (const SourceText& text : texts)
-        source += std::string(text.isCounted ? "QT_TRANSLATE_N_NOOP" : "QT_TRANSLATE_NOOP") + "(\"" +
-                  std::string(PlainContext) + "\", \"" + text.spelling + "\")\n";
+        source += std::string(text.isCounted ? "QT_TRANSLATE_N_NOOP" : "QT_TRANSLATE_NOOP") +
+                  "(\"" + std::string(PlainContext) + "\", \"" + text.spelling + "\")\n";
     return source;
 }
 

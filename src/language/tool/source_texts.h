@@ -5,8 +5,8 @@
 #include <string_view>
 #include <vector>
 
-/// The texts of the plain libraries as they stand in their sources. They have no classes to translate
-/// for, and are known by the functions that say them.
+/// The texts of the plain libraries as they stand in their sources. They have no classes to
+/// translate for, and are known by the functions that say them.
 namespace kavela::catalogue {
 
 /// The context of all of them in the catalogues.
@@ -18,8 +18,8 @@ struct SourceText {
     bool isCounted = false; ///< it has forms for numbers
 };
 
-/// The texts in one source, in their order. `isCommandLine` for sources that describe options, whose
-/// helps are texts too.
+/// The texts in one source, in their order. `isCommandLine` for sources that describe options,
+/// whose helps are texts too.
 [[nodiscard]] std::vector<SourceText> textsIn(std::string_view source, bool isCommandLine);
 
 /// The texts of all sources below a folder, each once, in the order of the paths. Throws

@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <map>
+#include <set>
 
 namespace kavela::catalogue {
 
@@ -72,6 +73,19 @@ std::string tablesSource(const std::vector<BuiltIn>& catalogues) {
     return source + "constexpr CatalogueData Data[] = {\n" + list +
            "};\n\n} // namespace\n\nstd::span<const CatalogueData> builtInData() {\n"
            "    return Data;\n}\n\n} // namespace kavela\n";
+}
+
+Catalogue withAnyContext(const Catalogue& catalogue) {
+    Catalogue whole = catalogue;
+    std::set<std::string> known;
+    for (Message message : catalogue.messages) {
+        if (message.isGone || !message.isFinished || !known.insert(message.source).second)
+            continue;
+        message.context = AnyContext;
+        message.comment.clear();
+        whole.messages.push_back(std::move(message));
+    }
+    return whole;
 }
 
 } // namespace kavela::catalogue
