@@ -46,11 +46,11 @@ inline constexpr std::string_view English = "en";
 
 /// What the environment says about languages.
 struct LanguageWishes {
-    std::string kavela;   ///< KAVELA_LANGUAGE: decides alone; any language that is built in
-    std::string list;     ///< LANGUAGE: "de:fr"
-    std::string all;      ///< LC_ALL
-    std::string messages; ///< LC_MESSAGES
-    std::string lang;     ///< LANG
+    std::string kavela = {};   ///< KAVELA_LANGUAGE: decides alone; any language that is built in
+    std::string list = {};     ///< LANGUAGE: "de:fr"
+    std::string all = {};      ///< LC_ALL
+    std::string messages = {}; ///< LC_MESSAGES
+    std::string lang = {};     ///< LANG
 };
 
 [[nodiscard]] LanguageWishes languageWishes();

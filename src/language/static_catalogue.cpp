@@ -8,7 +8,7 @@ StaticCatalogue::StaticCatalogue(const Language& language, const CatalogueData& 
     : m_language(language), m_data(data) {}
 
 StaticCatalogue::StaticCatalogue(StaticCatalogue&& other) noexcept
-    : m_language(other.m_language), m_data(other.m_data) {}
+    : TextCatalogue(), m_language(other.m_language), m_data(other.m_data) {}
 
 std::string_view StaticCatalogue::of(std::string_view text) const {
     return form(text, 0, false);

@@ -333,16 +333,18 @@ void PenaltiesWindow::showStatus() {
     QStringList parts;
     if (files > 0) {
         const PenaltyRates& rates = m_figures->rates;
-        parts << (files == 1 ? tr("1 file") : tr("%1 files").arg(files))
-              << (rates.runs == 1 ? tr("1 run") : tr("%1 runs").arg(rates.runs));
+        parts << (files == 1 ? tr("1 file") : tr("%n files", nullptr, static_cast<int>(files)))
+              << (rates.runs == 1 ? tr("1 run")
+                                  : tr("%n runs", nullptr, static_cast<int>(rates.runs)));
         if (rates.leftOut > 0)
             parts << shownWords(leftOutText(rates.leftOut));
     }
     if (m_facts.isIncomplete())
         parts << tr("Reading was cancelled: not all files are here.");
     if (failed > 0)
-        parts << (failed == 1 ? tr("1 file could not be read")
-                              : tr("%1 files could not be read").arg(failed));
+        parts << (failed == 1
+                      ? tr("1 file could not be read")
+                      : tr("%n files could not be read", nullptr, static_cast<int>(failed)));
     m_status->setText(parts.join(QStringLiteral(" · ")));
     m_actions->refresh();
 }
