@@ -616,10 +616,6 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>%1 athletes were added.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>The list is no UTF-8 text and was read as Latin-1: look at the names.</source>
         <translation type="unfinished"></translation>
     </message>
@@ -658,6 +654,13 @@
     <message>
         <source>results taken over</source>
         <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n athletes were added.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -4268,6 +4271,406 @@
         <source>ratios that are left</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Side by side</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Above each other</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Two by two</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>One within the other</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ghost: seen through</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Left and right of a line</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>at the start</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>at one split</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>at every split, waiting</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>at every split, stretched</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the whole run</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>from split to split</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Combination</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter plays both films</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No film is known here</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Own time less the reference&apos;s; all of them add up to what is shown on top</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Between</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Lost outside the upstream gates</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Reference&apos;s strokes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Own seconds of penalty in the section</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A tick makes the run what all are held against</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Paddling</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Timing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>On expected time</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Time without penalties less the expected time</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Lost up to the pole line</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Lost from the pole line on</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Noted</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>not noted</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cost</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Seconds of the chosen way over the fastest one timed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Forward</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Turning rate (left above 0)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Turning</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Roll (starboard down above 0)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pitch (bow up above 0)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Speed by position</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Hull speed, estimated</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Hull speed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Watch acceleration</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Watch</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Acceleration of the phone, x</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Acceleration x</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Acceleration of the phone, y</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Acceleration y</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Acceleration of the phone, z</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Acceleration z</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Rotation of the phone, x</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Rotation x</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Rotation of the phone, y</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Rotation y</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Rotation of the phone, z</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Rotation z</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>by gate</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>by type of gate</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>by tenth of the course</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>by section</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>by crew</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>by category</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>by phase</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>by race</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>by month</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>by hand</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tenth</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Se&amp;gments</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Left and right</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Whole numbers</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Decimal numbers</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Times</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>DNF and the like</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Penalty missing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Penalty too many</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Bibs swapped</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No result</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Not finished</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Not in list</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Not filmed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Average:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Average variation:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Total variation:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Average increase:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Total increase:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Lap time</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Time in straight line</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Time in rotation</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Average speed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Maximum acceleration</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Average acceleration</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Average deacceleration</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Roll movement</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Roll (°)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Maximum force</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Impulse (N s)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Largest negative acceleration</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Negative acceleration (m/s2)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Effective water phase</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Rotation about the vertical axis</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Turns to the left are above 0, turns to the right below.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>kavela::desktop</name>
@@ -6512,10 +6915,6 @@ Press Insert to add one, or import a list.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>%1 runs</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source> · %1 of %2 selected runs</source>
         <translation type="unfinished"></translation>
     </message>
@@ -6526,6 +6925,13 @@ Press Insert to add one, or import a list.</source>
     <message>
         <source>Open a race to see its charts.</source>
         <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n runs</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -6860,9 +7266,12 @@ Press Insert to add one, or import a list.</source>
         <source>1 film</source>
         <translation type="unfinished"></translation>
     </message>
-    <message>
-        <source>%1 films</source>
-        <translation type="unfinished"></translation>
+    <message numerus="yes">
+        <source>%n films</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -7611,10 +8020,6 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>%1 gates</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>roll after %1</source>
         <translation type="unfinished"></translation>
     </message>
@@ -7629,6 +8034,13 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     <message>
         <source>course</source>
         <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n gates</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -8156,10 +8568,6 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>%1 films agreed to</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>films one start later</source>
         <translation type="unfinished"></translation>
     </message>
@@ -8206,6 +8614,13 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     <message>
         <source>clock of the camera</source>
         <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n films agreed to</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -8682,10 +9097,6 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>%1 changes</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>“%1” cannot be opened</source>
         <translation type="unfinished"></translation>
     </message>
@@ -8728,6 +9139,13 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     <message>
         <source>The file of the older version could not be kept beside the new one, so that nothing was written.</source>
         <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n changes</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -8896,10 +9314,6 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>%1 exercises</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>%1 · %2 sets · tonnage %3 kg</source>
         <translation type="unfinished"></translation>
     </message>
@@ -8918,6 +9332,13 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     <message>
         <source>estimated maximum</source>
         <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n exercises</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -9679,15 +10100,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>%1 files</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>1 run</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1 runs</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -9721,6 +10134,20 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     <message>
         <source>Semicolon-separated text (*.csv)</source>
         <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n files</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n runs</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -12666,15 +13093,7 @@ Penalties are left out.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>%1 files</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>1 run</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1 runs</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -12683,10 +13102,6 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>1 file could not be read</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1 files could not be read</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -12700,6 +13115,27 @@ Penalties are left out.</source>
     <message>
         <source>%1 and %2 more</source>
         <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n files</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n runs</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n files could not be read</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -13122,9 +13558,12 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
         <source>1 athlete</source>
         <translation type="unfinished"></translation>
     </message>
-    <message>
-        <source>%1 athletes</source>
-        <translation type="unfinished"></translation>
+    <message numerus="yes">
+        <source>%n athletes</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -13632,9 +14071,12 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
         <source>A run with a missed gate stands in the table alone.</source>
         <translation type="unfinished"></translation>
     </message>
-    <message>
-        <source>%1 runs with a missed gate stand in the table alone.</source>
-        <translation type="unfinished"></translation>
+    <message numerus="yes">
+        <source>%n runs with a missed gate stand in the table alone.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -13919,10 +14361,6 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>%1 runs</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>%1 of %2 runs</source>
         <translation type="unfinished"></translation>
     </message>
@@ -13945,6 +14383,13 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     <message>
         <source>All categories</source>
         <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n runs</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -14773,16 +15218,19 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>%1 films are still being composed.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Leaving the program stops that, and nothing of an unfinished film is kept.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Stop and leave</source>
         <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n films are still being composed.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -15161,10 +15609,6 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>%1 runs</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Compare with a run of another race</source>
         <translation type="unfinished"></translation>
     </message>
@@ -15204,6 +15648,13 @@ Choose a file.</source>
     <message>
         <source>Split files (*.kvx);;All files (*)</source>
         <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n runs</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -15463,10 +15914,6 @@ Choose a file.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>⚠ %1 could not be read…</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Search a folder</source>
         <translation type="unfinished"></translation>
     </message>
@@ -15477,6 +15924,13 @@ Choose a file.</source>
     <message>
         <source>Split files (*.kvx);;All files (*)</source>
         <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>⚠ %n could not be read…</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -15791,15 +16245,7 @@ Choose a file.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>%1 whole runs</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>one file</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1 files</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -15817,6 +16263,20 @@ Choose a file.</source>
     <message>
         <source>gate %1</source>
         <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n whole runs</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n files</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -16009,15 +16469,7 @@ Choose a file.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Races from %1 split files</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>1 run compared</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1 runs compared</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -16045,16 +16497,33 @@ Choose a file.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>%1 files could not be read</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>and %1 more</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>These files could not be read</source>
         <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>Races from %n split files</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n runs compared</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n files could not be read</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -16327,9 +16796,12 @@ Choose a file.</source>
         <source>1 race</source>
         <translation type="unfinished"></translation>
     </message>
-    <message>
-        <source>%1 races</source>
-        <translation type="unfinished"></translation>
+    <message numerus="yes">
+        <source>%n races</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -17795,15 +18267,7 @@ Place, gap and percent are there as in any other.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>%1 rows</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>1 column</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1 columns</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -17813,6 +18277,20 @@ Place, gap and percent are there as in any other.</source>
     <message>
         <source>%1 that only you can tell (F6)</source>
         <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n rows</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n columns</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -17996,10 +18474,6 @@ Place, gap and percent are there as in any other.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>&amp;Take over %1 lines</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Choose the event of the race.</source>
         <translation type="unfinished"></translation>
     </message>
@@ -18010,6 +18484,13 @@ Place, gap and percent are there as in any other.</source>
     <message>
         <source>%1 of %2 lines are ticked; %3 stay out. A click on an athlete chooses another one, or adds the name to the team.</source>
         <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>&amp;Take over %n lines</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -18418,10 +18899,6 @@ Place, gap and percent are there as in any other.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>%1 runs</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>%1 with %2 is emptied. Ctrl+Z brings it back.</source>
         <translation type="unfinished"></translation>
     </message>
@@ -18434,16 +18911,26 @@ Place, gap and percent are there as in any other.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>%1 starts without a split are not stored in the file. This computer keeps them, and offers them when the file is opened here again.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Close</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Overwrite</source>
         <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n runs</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n starts without a split are not stored in the file. This computer keeps them, and offers them when the file is opened here again.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -18546,9 +19033,12 @@ Place, gap and percent are there as in any other.</source>
         <source>1 athlete</source>
         <translation type="unfinished"></translation>
     </message>
-    <message>
-        <source>%1 athletes</source>
-        <translation type="unfinished"></translation>
+    <message numerus="yes">
+        <source>%n athletes</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -18723,9 +19213,12 @@ Place, gap and percent are there as in any other.</source>
         <source>1 test</source>
         <translation type="unfinished"></translation>
     </message>
-    <message>
-        <source>%1 tests</source>
-        <translation type="unfinished"></translation>
+    <message numerus="yes">
+        <source>%n tests</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -19381,15 +19874,7 @@ Add one by hand with Ctrl+N, or drop split files and recordings here.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>%1 measurements are new.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>1 other is there already.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1 others are there already.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -19401,15 +19886,7 @@ Add one by hand with Ctrl+N, or drop split files and recordings here.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>%1 lines are left out:</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Add 1 measurement</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Add %1 measurements</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -19419,6 +19896,34 @@ Add one by hand with Ctrl+N, or drop split files and recordings here.</source>
     <message>
         <source>Reason</source>
         <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n measurements are new.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n others are there already.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n lines are left out:</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Add %n measurements</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
     </message>
 </context>
 <context>

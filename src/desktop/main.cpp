@@ -100,7 +100,7 @@ int main(int argc, char** argv) {
     Workspace workspace(Preferences(), rotatingLog(logFile()), systemNow);
     workspace.startUp(userLibraryFolder());
     applyScheme(workspace);
-    speakLanguage(spokenLanguage(workspace), !chosenLanguage(workspace).isEmpty());
+    const SpokenLanguage language(spokenLanguage(workspace), !chosenLanguage(workspace).isEmpty());
     const AutosavePlace kept(autosaveFolder(), start == OneProgram::Start::Beside
                                                    ? AutosavePlace::Program::Beside
                                                    : AutosavePlace::Program::One);

@@ -1,6 +1,7 @@
 #include "performance/loss_season.h"
 
 #include "analysis/cell_text.h"
+#include "common/text.h"
 #include "performance/loss_rules.h"
 #include "splitdata/annotation_labels.h"
 

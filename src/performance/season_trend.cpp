@@ -58,13 +58,13 @@ TrendVerdict verdictOf(const Interval& interval) {
 std::string_view verdictText(TrendVerdict verdict) {
     switch (verdict) {
     case TrendVerdict::Faster:
-        return "faster";
+        return translated("faster");
     case TrendVerdict::Slower:
-        return "slower";
+        return translated("slower");
     case TrendVerdict::Unclear:
         break;
     }
-    return "unclear";
+    return translated("unclear");
 }
 
 SeasonTrend seasonTrend(const SeasonMember& member, TrendOf of, Why* why) {

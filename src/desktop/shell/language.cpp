@@ -8,6 +8,8 @@
 #include <QLocale>
 #include <QTranslator>
 
+#include <utility>
+
 // Resources of a library are only linked where something asks for them, outside of every namespace.
 static void takeInTranslations() {
     Q_INIT_RESOURCE(translations);
@@ -19,7 +21,8 @@ namespace {
 
 constexpr const char* LanguageKey = "language";
 
-/// Asks again without the context: a plain function names one that no class has.
+/// Asks again without the context: a plain function names one that no class has. Catalogues are
+/// built in with all their texts in a context of that name too.
 class OwnTexts : public QTranslator {
 public:
     using QTranslator::QTranslator;
@@ -30,15 +33,6 @@ public:
         return said.isNull() ? QTranslator::translate("any", text, nullptr, count) : said;
     }
 };
-
-/// Texts of one catalogue, for the life of the program; a catalogue that is not there adds none.
-void addTexts(const QString& file) {
-    auto* const texts = new OwnTexts(QCoreApplication::instance());
-    if (texts->load(file))
-        QCoreApplication::installTranslator(texts);
-    else
-        delete texts;
-}
 
 } // namespace
 
@@ -53,14 +47,13 @@ void chooseLanguage(Workspace& workspace, const QString& code) {
 QString spokenLanguage(const Workspace& workspace) {
     const LanguageWishes wishes = languageWishes();
     const QString chosen = chosenLanguage(workspace);
-    const bool isDecided = isLanguage(wishes.kavela);
     // A language that this version no longer offers gives way to that of the system.
-    if (!isDecided && !chosen.isEmpty() && isLanguage(chosen.toStdString()))
+    if (!isLanguage(wishes.kavela) && !chosen.isEmpty() && isLanguage(chosen.toStdString()))
         return chosen;
     return QString::fromStdString(languageFor(wishes));
 }
 
-void speakLanguage(const QString& code, bool isChosen) {
+SpokenLanguage::SpokenLanguage(const QString& code, bool isChosen) {
     installCatalogue(builtInCatalogue(code.toStdString()));
     if (isChosen)
         QLocale::setDefault(QLocale(code));
@@ -70,6 +63,19 @@ void speakLanguage(const QString& code, bool isChosen) {
     // The later one is asked first: our own words before those of the toolkit.
     addTexts(QStringLiteral(":/translations/qtbase_%1.qm").arg(code));
     addTexts(QStringLiteral(":/translations/kavela_%1.qm").arg(code));
+}
+
+SpokenLanguage::~SpokenLanguage() {
+    for (const auto& texts : m_texts)
+        QCoreApplication::removeTranslator(texts.get());
+    installCatalogue(nullptr);
+    QLocale::setDefault(m_before);
+}
+
+void SpokenLanguage::addTexts(const QString& file) {
+    auto texts = std::make_unique<OwnTexts>();
+    if (texts->load(file) && QCoreApplication::installTranslator(texts.get()))
+        m_texts.push_back(std::move(texts));
 }
 
 } // namespace kavela::desktop

@@ -1,7 +1,12 @@
 #pragma once
 
+#include <QLocale>
 #include <QString>
-#include <QStringList>
+
+#include <memory>
+#include <vector>
+
+class QTranslator;
 
 namespace kavela::desktop {
 
@@ -18,9 +23,24 @@ void chooseLanguage(Workspace& workspace, const QString& code);
 /// one of the system that is offered; "en" where none of them is.
 [[nodiscard]] QString spokenLanguage(const Workspace& workspace);
 
-/// Makes the program speak a language, windows and plain libraries alike, and write its numbers
-/// where the coach chose it. Called once, before the first window. A language that is not built in
-/// leaves everything in English.
-void speakLanguage(const QString& code, bool isChosen);
+/// While it lives, the program speaks a language, windows and plain libraries alike. Made before
+/// the first window, and once: names of tools are said when they are first asked for. A language
+/// that is not built in leaves everything in English.
+class SpokenLanguage {
+public:
+    /// A language that the coach chose also decides how numbers are written; otherwise that is left
+    /// to the country of the system.
+    SpokenLanguage(const QString& code, bool isChosen);
+    SpokenLanguage(const SpokenLanguage&) = delete;
+    SpokenLanguage& operator=(const SpokenLanguage&) = delete;
+    ~SpokenLanguage();
+
+private:
+    /// Texts of one catalogue; one that is not there adds none.
+    void addTexts(const QString& file);
+
+    QLocale m_before;
+    std::vector<std::unique_ptr<QTranslator>> m_texts;
+};
 
 } // namespace kavela::desktop
