@@ -100,7 +100,7 @@ TEST_F(LanguageTest, ReachesEveryKindOfText) {
         EXPECT_TRUE(
             isSaid(QCoreApplication::translate("MotionRecording", "Hull speed"), "Hull speed"));
         const QString films = QCoreApplication::translate("none", "%n films", nullptr, 12);
-        EXPECT_TRUE(films.startsWith("12 ") && isSaid(films, "12 films")) << films.toStdString();
+        EXPECT_TRUE(films.startsWith("12 ") && films != "12 films") << films.toStdString();
         EXPECT_NE(say("{} met nobody in these races.", "Ana"), "Ana met nobody in these races.");
     }
     EXPECT_EQ(desktop::SettingsWindow::tr("As the system"), "As the system");
