@@ -59,11 +59,6 @@ public:
 /// digits is one.
 [[nodiscard]] std::string saidNumber(std::string number);
 
-/// The same for each number of a text of ours: nothing else in it may look like one.
-[[nodiscard]] inline std::string saidNumbers(std::string text) {
-    return saidNumber(std::move(text));
-}
-
 /// A number among the arguments of a text, written with the decimal sign of the language.
 struct SaidReal {
     double value = 0;

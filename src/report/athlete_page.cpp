@@ -56,11 +56,12 @@ QString meanWords(const MeanOf& mean) {
 }
 
 QString rateWords(const RateOf& rate) {
-    return QString::asprintf("%.1f", rate.rate * 100);
+    return saidNumbers(QString::asprintf("%.1f", rate.rate * 100));
 }
 
 QString rateRange(const RateOf& rate) {
-    return QString::asprintf("%.1f–%.1f", rate.interval.low * 100, rate.interval.high * 100);
+    return saidNumbers(
+        QString::asprintf("%.1f–%.1f", rate.interval.low * 100, rate.interval.high * 100));
 }
 
 QString countWords(const RateOf& rate) {
@@ -169,13 +170,13 @@ private:
             const bool isFirst = row.field != field;
             field = row.field;
             const QString range =
-                row.interval
-                    ? QString::asprintf("%+.1f to %+.1f", row.interval->low, row.interval->high)
-                    : said("too few");
+                row.interval ? QString::fromStdString(
+                                   say("{:+.1f} to {:+.1f}", row.interval->low, row.interval->high))
+                             : said("too few");
             table.rows.push_back(
                 {{isFirst ? fieldTitle(field) : QString(), reportText(row.text),
                   QString::number(row.runs), signedSeconds(row.loss), signedSeconds(row.perRun),
-                  QString::asprintf("%+.1f", row.percent), range, QString(),
+                  saidNumbers(QString::asprintf("%+.1f", row.percent)), range, QString(),
                   row.interval ? QString::fromStdString(std::string(verdictText(row.verdict)))
                                : Dash},
                  row.percent,

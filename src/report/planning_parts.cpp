@@ -131,7 +131,7 @@ QDate dateOf(std::chrono::sys_days day) {
 QString amountText(double amount) {
     if (amount == 0 || !std::isfinite(amount))
         return Dash;
-    const std::string text = shortestText(roundedToHundredths(amount));
+    const std::string text = saidNumber(shortestText(roundedToHundredths(amount)));
     constexpr std::size_t Longest = 9; // more digits only come from damaged files
     return text.size() > Longest ? QString::number(amount, 'g', 3) : QString::fromStdString(text);
 }

@@ -19,7 +19,7 @@ constexpr std::size_t Results = 0;
 constexpr std::size_t Ideals = 1;
 
 QString secondsText(double seconds) {
-    const std::string text = hundredthsText(seconds);
+    const std::string text = saidNumber(hundredthsText(seconds));
     constexpr std::size_t Longest = 12; // more digits only come from damaged files
     return text.size() > Longest ? QString::number(seconds, 'g', 3) : QString::fromStdString(text);
 }

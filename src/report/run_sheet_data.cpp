@@ -116,8 +116,8 @@ void addRecordedStrokes(RunSheetData& data, const analyzerdata& run) {
     data.recordingNote = reportText(motion.reason);
     if (motion.whole.cover == MotionCover::Part)
         data.recordingNote = said("%1 s of %2 s; strokes are counted of whole sections.")
-                                 .arg(motion.whole.covered, 0, 'f', 1)
-                                 .arg(motion.seconds, 0, 'f', 1);
+                                 .arg(saidNumbers(QString::number(motion.whole.covered, 'f', 1)))
+                                 .arg(saidNumbers(QString::number(motion.seconds, 'f', 1)));
     for (std::size_t k = 0; k < std::min(motion.sections.size(), data.splits.size()); ++k) {
         const SectionMotion& section = motion.sections[k];
         const bool isCounted = section.cover == MotionCover::Whole;
@@ -232,7 +232,7 @@ RunSheetData runSheetData(const infodata031& info, const RaceSet& set, std::size
 QString sheetSeconds(double seconds) {
     if (!std::isfinite(seconds))
         return QStringLiteral("–");
-    const std::string text = hundredthsText(seconds);
+    const std::string text = saidNumber(hundredthsText(seconds));
     constexpr std::size_t Longest = 10; // more digits only come from damaged files
     return text.size() > Longest ? QString::number(seconds, 'g', 3) : QString::fromStdString(text);
 }

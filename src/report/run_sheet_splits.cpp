@@ -43,7 +43,7 @@ QString countText(const SheetStrokes& strokes) {
 
 QString rateText(const SheetStrokes& strokes) {
     const bool isKnown = strokes.rate && std::isfinite(*strokes.rate);
-    return isKnown ? QString::number(*strokes.rate, 'f', 1) : Dash;
+    return isKnown ? saidNumbers(QString::number(*strokes.rate, 'f', 1)) : Dash;
 }
 
 void addStrokes(std::vector<Column>& columns, const char* group, SheetStrokes SheetSplit::*which) {

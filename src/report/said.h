@@ -15,4 +15,9 @@ namespace kavela::report {
     return QString::fromUtf8(words.data(), static_cast<qsizetype>(words.size()));
 }
 
+/// Numbers with the decimal sign of the language: nothing else in the text may look like one.
+[[nodiscard]] inline QString saidNumbers(const QString& numbers) {
+    return QString::fromStdString(saidNumber(numbers.toStdString()));
+}
+
 } // namespace kavela::report

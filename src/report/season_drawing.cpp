@@ -162,7 +162,10 @@ void paintBenchmarks(QPainter& painter, const QRectF& place, const BenchmarkChar
                          QPointF(x + half, scale.at(box.median)));
         typeface.draw(painter, {x - apart / 2, plot.bottom() + 2 * Point, apart, SeasonFootHeight},
                       Qt::AlignHCenter,
-                      said("rank %1: %2 %").arg(box.rank).arg(box.median, 0, 'f', 1), Caption);
+                      said("rank %1: %2 %")
+                          .arg(box.rank)
+                          .arg(saidNumbers(QString::number(box.median, 'f', 1))),
+                      Caption);
     }
     if (chart.own)
         paintLevel(painter, plot, scale.at(*chart.own), said("own median"), typeface);
@@ -197,7 +200,7 @@ void paintPlaces(QPainter& painter, const QRectF& place, const PlacesChart& char
         write(place.left(), y, PlaceNameWidth - 4 * Point, Qt::AlignLeft, reportText(row.name),
               style);
         write(numbers, y, PlaceNumberWidth - 4 * Point, Qt::AlignRight,
-              QString::number(row.expected, 'f', 1), style);
+              saidNumbers(QString::number(row.expected, 'f', 1)), style);
         write(numbers + PlaceNumberWidth, y, PlaceNumberWidth - 4 * Point, Qt::AlignRight,
               QStringLiteral("%1 %").arg(100 * row.medal, 0, 'f', 0), style);
         for (std::size_t i = 0; i < row.places.size(); ++i) {

@@ -21,12 +21,13 @@ constexpr TextStyle SeasonLineStyle{8, false, Ink};
 constexpr std::size_t MostRivalsOnPage = 9;
 
 QString signedPercent(double percent) {
-    return QString::asprintf("%+.1f", percent);
+    return saidNumbers(QString::asprintf("%+.1f", percent));
 }
 
 QString signedRange(const std::optional<Interval>& interval) {
-    return interval ? QString::asprintf("%+.1f to %+.1f", interval->low, interval->high)
-                    : said("too few");
+    return interval
+               ? QString::fromStdString(say("{:+.1f} to {:+.1f}", interval->low, interval->high))
+               : said("too few");
 }
 
 /// The page as it is being filled.
@@ -81,7 +82,7 @@ private:
             std::ranges::any_of(chart.points, [](const auto& point) { return !point.isMissed; });
         putSection(isOfWinner ? said("Percent behind the winner")
                               : said("Percent behind the fastest splits"),
-                   "circle: heats, triangle: semifinal, square: final",
+                   say("circle: heats, triangle: semifinal, square: final"),
                    hasPoints ? ProgressionHeight : 2 * SeasonGap);
         if (hasPoints)
             m_pages.put(ProgressionHeight, [member = m_member, chart, typeface = m_typeface](
@@ -99,8 +100,8 @@ private:
         if (rate) {
             row.texts = {what, said("%1 of %2").arg(rate->count).arg(rate->of),
                          QString::asprintf("%.0f", 100 * rate->rate),
-                         QString::asprintf("%.0f to %.0f", 100 * rate->interval.low,
-                                           100 * rate->interval.high),
+                         QString::fromStdString(say("{:.0f} to {:.0f}", 100 * rate->interval.low,
+                                                    100 * rate->interval.high)),
                          QString()};
             row.value = 100 * rate->rate;
             row.interval = Interval{100 * rate->interval.low, 100 * rate->interval.high};
@@ -130,7 +131,7 @@ private:
         addRate(table, said("Medals"), m_athlete.medals);
         addRate(table, said("Finals"), m_athlete.finals);
         addRate(table, said("Semifinals"), m_athlete.semifinals);
-        putSection(said("Medals and finals"), "of the races whose result is known",
+        putSection(said("Medals and finals"), say("of the races whose result is known"),
                    heightOf(table));
         putTable(std::move(table));
     }
@@ -177,10 +178,9 @@ private:
     [[nodiscard]] std::string spreadWords() const {
         const BoatSpread& spread = m_athlete.spread;
         if (!spread.shrunk || spread.runs < LeastValues)
-            return "too few runs to tell what is chance";
-        return QString::asprintf("chance from run to run %.1f %%, all %.1f %%; %.2f %% matters",
-                                 *spread.shrunk, *m_season.spread.cv, *m_season.spread.worthwhile)
-            .toStdString();
+            return say("too few runs to tell what is chance");
+        return say("chance from run to run {:.1f} %, all {:.1f} %; {:.2f} % matters",
+                   *spread.shrunk, *m_season.spread.cv, *m_season.spread.worthwhile);
     }
 
     void putRivals() {
@@ -193,7 +193,8 @@ private:
             table.rows.push_back(
                 {{reportText(rival.label), QString::number(rival.runs),
                   QString::asprintf("%.0f", *rival.value),
-                  QString::asprintf("%.0f to %.0f", rival.interval->low, rival.interval->high),
+                  QString::fromStdString(
+                      say("{:.0f} to {:.0f}", rival.interval->low, rival.interval->high)),
                   QString()},
                  rival.value,
                  rival.interval,

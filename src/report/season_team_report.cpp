@@ -61,8 +61,9 @@ private:
         row.texts = {reportText(m_season.data.members[athlete.member].name),
                      rateText(athlete.medals),
                      rateText(athlete.finals),
-                     isSpreadKnown ? QString::number(*athlete.spread.shrunk, 'f', 1) : Dash,
-                     trend.perYear ? QString::asprintf("%+.1f", *trend.perYear) : Dash,
+                     isSpreadKnown ? saidNumbers(QString::number(*athlete.spread.shrunk, 'f', 1))
+                                   : Dash,
+                     trend.perYear ? saidNumbers(QString::asprintf("%+.1f", *trend.perYear)) : Dash,
                      QString(),
                      reportText(std::string(trend.perYear ? verdictText(trend.verdict)
                                                           : std::string_view("too few")))};

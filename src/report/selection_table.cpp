@@ -29,7 +29,7 @@ constexpr std::size_t SelectionFewestRows = 3; ///< below a heading
 constexpr std::size_t RacesSideBySide = 4;
 
 QString numberText(double value) {
-    const std::string text = hundredthsText(value);
+    const std::string text = saidNumber(hundredthsText(value));
     constexpr std::size_t Longest = 10; // more digits only come from damaged files
     return text.size() > Longest ? QString::number(value, 'g', 3) : QString::fromStdString(text);
 }

@@ -78,9 +78,10 @@ TEST(Catalogues, LoseNoPlaceToFillAndNoKey) {
     for (const Language& language : translatedLanguages())
         for (const Message& message : catalogueOf(language).messages)
             for (const std::string& form : message.forms)
-                if (message.isFinished && !form.empty())
+                if (message.isFinished && !form.empty()) {
                     EXPECT_EQ(faultOf(message, form), "")
                         << language.code << ": \"" << message.source << "\" is \"" << form << '"';
+                }
 }
 
 TEST(Catalogues, ThatAreOfferedHaveEveryText) {
@@ -118,9 +119,11 @@ TEST(Catalogues, ThatAreOfferedKnowEveryTextOfThePlainLibraries) {
 TEST(Catalogues, ListOnlyLanguagesThatThereAre) {
     std::ifstream list(Translations / "complete.txt");
     ASSERT_TRUE(list.is_open());
-    for (std::string line; std::getline(list, line);)
-        if (!line.empty() && line.front() != '#')
+    for (std::string line; std::getline(list, line);) {
+        if (!line.empty() && line.front() != '#') {
             EXPECT_TRUE(isLanguage(line)) << line;
+        }
+    }
 }
 
 } // namespace
