@@ -62,9 +62,9 @@ int run(int argc, char** argv, const char* version, const Painting* painting) {
 int handOn(int argc, char** argv) {
     constexpr OtherProgram PaintingProgram{"kavela-paint", "KAVELA_PAINT"};
     const std::string program = become(PaintingProgram, {argv + 1, argv + argc});
-    logLine(
-        "This call needs the program that paints and makes films, which could not be started: " +
-        program);
+    logLine(say(
+        "This call needs the program that paints and makes films, which could not be started: {}",
+        program));
     return NotDone;
 }
 

@@ -8,6 +8,7 @@
 #include "cli/losses_text.h"
 #include "cli/painting.h"
 #include "cli/told_reason.h"
+#include "common/text.h"
 #include "performance/loss_reasons.h"
 #include "results/name_likeness.h"
 #include "splitdata/athlete_keys.h"
@@ -72,9 +73,8 @@ int tellFile(const LossesCall& call) {
         return NotDone;
     const LossReference reference = referenceOf(call);
     if (reference.kind == LossReferenceKind::Run && reference.run >= facts->runs().size()) {
-        logLine("There is no run " + std::to_string(reference.run) + ": the file has " +
-                counted(static_cast<std::int64_t>(facts->runs().size()), "run", "runs") +
-                ", counted from 0.");
+        logLine(say("There is no run {}: the file has {}, counted from 0.", reference.run,
+                    counted(static_cast<std::int64_t>(facts->runs().size()), "run", "runs")));
         return NotDone;
     }
     if (!call.why.empty())

@@ -132,6 +132,8 @@ private:
     void readLiteral() {
         const std::string text = quoted('"');
         Bracket& bracket = m_open.back();
+        if (!bracket.marker)
+            return;
         if (m_isBehindLiteral)
             bracket.literals.back().spelling += text;
         else
@@ -166,7 +168,8 @@ private:
 
     void mix() {
         m_isBehindLiteral = false;
-        m_open.back().mixed.insert(m_open.back().argument);
+        if (m_open.back().marker)
+            m_open.back().mixed.insert(m_open.back().argument);
     }
 
     void open(char sign) {
@@ -174,7 +177,7 @@ private:
             return marker.name == m_word && marker.opener == sign &&
                    (marker.texts != Texts::Last || m_isCommandLine);
         });
-        m_open.back().mixed.insert(m_open.back().argument);
+        mix();
         m_open.push_back({found == Markers.end() ? nullptr : &*found, 0, {}, {}});
     }
 
