@@ -4700,6 +4700,166 @@
         <source>Turns to the left are above 0, turns to the right below.</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>The film {} is left out: its name is no UTF-8 text.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The folder {} cannot be read: {}</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No video in {} carries the name {}. Nothing was written.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file {} exists already. Say --replace to write a new one in its place.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This call needs the program that paints and makes films, which could not be started: {}</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file {} exists and is not the sample&apos;s. Choose another folder.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file {} could not be written: {}</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file {} is none of these tables and stays as it is. Nothing was written.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The folder {} could not be made: {}</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Line {}: {}, and was imported as it stands.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no run {}: the file has {}, counted from 0.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No run has the category &quot;{}&quot;.{}</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nobody of the team races in &quot;{}&quot;. Categories: {}.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Several athletes of the team are called {}: their runs cannot be told apart.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file {} is of an older version, {}, and was not changed. Bring it to the current one first: kavela upgrade {}</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The time of {} ({}) in {} is 0; a missing result should be 999.9.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No athlete has a bonus of kind {}.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The list {} is no UTF-8 text and was read as Latin-1: look at the names.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The list {} could not be read: {}</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>{} of {} skipped.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Line {} brought the category {} into the selection{}</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No run has the {} &quot;{}&quot;. There is {}.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no file and no command {}. Run with --help for the commands.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The desktop program could not be started: {}</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>{}: this is its {}; it carries {} too (--sheet).</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Line {}, {}: perhaps {}; not joined.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>{}: this is no team: {}</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The team has no athlete {}.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>{} does not race in {}. Categories: {}.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file could not be read: {}</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no number with the id &quot;{}&quot; here.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>losing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>gaining</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>unclear</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>slower</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>circle: heats, triangle: semifinal, square: final</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>{:.0f} to {:.0f}</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>of the races whose result is known</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>too few runs to tell what is chance</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>chance from run to run {:.1f} %, all {:.1f} %; {:.2f} % matters</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>kavela::desktop</name>
