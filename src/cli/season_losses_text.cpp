@@ -40,15 +40,15 @@ std::string meanText(const MeanOf& mean) {
     const std::string range =
         mean.interval ? say("{:+.2f} to {:+.2f}", mean.interval->low, mean.interval->high)
                       : "too few";
-    return signedHundredths(mean.mean) + " (" + range + ")";
+    return saidNumber(signedHundredths(mean.mean)) + " (" + range + ")";
 }
 
 std::string seasonRowText(const SeasonLossRow& row, std::string_view field, int keyWidth) {
     const std::array cells{std::to_string(row.runs),
-                           signedHundredths(row.loss),
+                           saidNumber(signedHundredths(row.loss)),
                            fmt::format("{:+.1f}", row.percent),
                            rangeText(row.interval),
-                           signedHundredths(row.perRun),
+                           saidNumber(signedHundredths(row.perRun)),
                            row.share ? fmt::format("{:.0f} %", *row.share * 100)
                                      : std::string("–")};
     std::string text =
@@ -78,7 +78,7 @@ std::string clipText(const FactStore& facts, const LossClip& clip) {
     const std::string where =
         clip.gate ? say("gate {}", *clip.gate) : sectionsText(clip.first, clip.last);
     return say("      {} run {} {} {}\n", file, facts.runs()[clip.run].number, where,
-               signedHundredths(clip.loss));
+               saidNumber(signedHundredths(clip.loss)));
 }
 
 std::string trainText(const FactStore& facts, const SeasonLosses& season) {
@@ -88,7 +88,7 @@ std::string trainText(const FactStore& facts, const SeasonLosses& season) {
     for (std::size_t i = 0; i < season.train.size(); ++i) {
         const SeasonLossRow& row = season.rows[season.train[i]];
         text += say("  {}. {}: {}, {} s a run\n", i + 1, row.field, printable(row.text),
-                    signedHundredths(row.perRun));
+                    saidNumber(signedHundredths(row.perRun)));
         for (const LossClip& clip : row.clips)
             text += clipText(facts, clip);
     }
