@@ -4831,6 +4831,18 @@
         <source>chance from run to run {:.1f} %, all {:.1f} %; {:.2f} % matters</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>none</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Table</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>One-repetition maximum</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>kavela::desktop</name>
