@@ -2,21 +2,31 @@
 
 #include "common/temp_folder.h"
 #include "common/text.h"
+#include "desktop/shell/autosave.h"
+#include "desktop/shell/qt_text.h"
 #include "desktop/shell/settings_window.h"
+#include "desktop/shell/tool_window.h"
 #include "desktop/shell/workspace.h"
+#include "desktop/tools.h"
 #include "language/languages.h"
 
 #include <gmock/gmock.h>
 
 #include <QAbstractButton>
+#include <QAction>
 #include <QApplication>
 #include <QComboBox>
+#include <QKeySequence>
 #include <QLabel>
 #include <QLocale>
+#include <QMap>
+#include <QMenu>
+#include <QMenuBar>
 #include <QStringList>
 #include <QTabWidget>
 #include <QTest>
 
+#include <memory>
 #include <optional>
 
 namespace kavela::test {
@@ -138,6 +148,48 @@ TEST_F(LanguageTest, OfLongTextsFitsTheSettings) {
         EXPECT_LE(settings.height(), 800) << "grew on page " << page;
         EXPECT_EQ(clippedTexts(settings).join('\n'), "") << "on page " << page;
     }
+}
+
+/// Pairs of texts among the actions, and in the menus below them, that one key would reach.
+QStringList doubledKeys(const QList<QAction*>& actions) {
+    QStringList doubled;
+    QMap<QString, QString> reached;
+    for (const QAction* const action : actions) {
+        const QString key = QKeySequence::mnemonic(action->text()).toString();
+        if (!key.isEmpty() && reached.contains(key))
+            doubled << reached[key] + " / " + action->text();
+        reached.insert(key, action->text());
+        if (action->menu())
+            doubled << doubledKeys(action->menu()->actions());
+    }
+    return doubled;
+}
+
+TEST_F(LanguageTest, ThatIsOfferedHasNoKeyTwiceAndFitsTheScreen) {
+    const auto& tools = desktop::toolKinds(); // said once, in English here
+    const desktop::Autosave kept(QString::fromStdString((m_folder.path() / "kept").string()));
+    for (const Language& language : offeredLanguages()) {
+        const SpokenLanguage spoken(desktop::qtText(language.code), false);
+        for (const desktop::ToolKind& tool : tools) {
+            const std::unique_ptr<desktop::ToolWindow> window(tool.make(m_workspace, kept));
+            const QString where = desktop::qtText(language.code) + ' ' + tool.kind;
+            EXPECT_EQ(doubledKeys(window->menuBar()->actions()).join('\n'), "")
+                << where.toStdString();
+            EXPECT_LE(window->minimumSizeHint().width(), 1280) << where.toStdString();
+            EXPECT_LE(window->minimumSizeHint().height(), 800) << where.toStdString();
+        }
+    }
+}
+
+TEST(DoubledKeys, AreFoundInMenusBelow) {
+    QMenu menu;
+    menu.addAction("&Open");
+    menu.addAction("&Save");
+    EXPECT_EQ(doubledKeys(menu.actions()), QStringList());
+    QMenu* const below = menu.addMenu("&More");
+    below->addAction("&Print");
+    below->addAction("To the &printer");
+    EXPECT_EQ(doubledKeys(menu.actions()), QStringList{"&Print / To the &printer"});
 }
 
 } // namespace
