@@ -1,6 +1,7 @@
 #include "cli/call.h"
 
 #include "cli/console.h"
+#include "common/text.h"
 
 #include <CLI/CLI.hpp>
 
@@ -9,6 +10,11 @@
 namespace kavela::cli {
 
 namespace {
+
+/// Helps are marked by being the last argument of what describes an option.
+std::string helpText(const std::string& help) {
+    return std::string(translated(help));
+}
 
 /// Columns of the names in a help text.
 constexpr std::size_t NameColumns = 34;
@@ -73,7 +79,7 @@ Option& Option::hidden() {
 }
 
 Command Command::command(const std::string& name, const std::string& help) {
-    return Command(*m_app->add_subcommand(name, help));
+    return Command(*m_app->add_subcommand(name, helpText(help)));
 }
 
 void Command::needsCommand() {
@@ -81,7 +87,7 @@ void Command::needsCommand() {
 }
 
 void Command::footer(const std::string& text) {
-    m_app->footer(text);
+    m_app->footer(helpText(text));
 }
 
 void Command::onRun(std::function<void()> work) {
@@ -89,42 +95,42 @@ void Command::onRun(std::function<void()> work) {
 }
 
 Option Command::option(const std::string& name, std::string& value, const std::string& help) {
-    return Option(*m_app->add_option(name, value, help));
+    return Option(*m_app->add_option(name, value, helpText(help)));
 }
 
 Option Command::option(const std::string& name, std::vector<std::string>& values,
                        const std::string& help) {
-    return Option(*m_app->add_option(name, values, help));
+    return Option(*m_app->add_option(name, values, helpText(help)));
 }
 
 Option Command::option(const std::string& name, std::optional<std::size_t>& value,
                        const std::string& help) {
-    return Option(*m_app->add_option(name, value, help));
+    return Option(*m_app->add_option(name, value, helpText(help)));
 }
 
 Option Command::option(const std::string& name, std::int64_t& value, const std::string& help) {
-    return Option(*m_app->add_option(name, value, help));
+    return Option(*m_app->add_option(name, value, helpText(help)));
 }
 
 Option Command::option(const std::string& name, double& value, const std::string& help) {
-    return Option(*m_app->add_option(name, value, help));
+    return Option(*m_app->add_option(name, value, helpText(help)));
 }
 
 Option Command::option(const std::string& name, std::function<void(const std::string& text)> take,
                        const std::string& help) {
-    return Option(*m_app->add_option_function<std::string>(name, take, help));
+    return Option(*m_app->add_option_function<std::string>(name, take, helpText(help)));
 }
 
 Option Command::flag(const std::string& name, bool& value, const std::string& help) {
-    return Option(*m_app->add_flag(name, value, help));
+    return Option(*m_app->add_flag(name, value, helpText(help)));
 }
 
 void Command::flag(const std::string& names, int& count, const std::string& help) {
-    m_app->add_flag(names, count, help);
+    m_app->add_flag(names, count, helpText(help));
 }
 
 Call::Call(const std::string& name, const std::string& help, const std::string& version)
-    : m_app(std::make_unique<CLI::App>(help, name)) {
+    : m_app(std::make_unique<CLI::App>(helpText(help), name)) {
     m_app->set_version_flag("--version", version);
     m_app->require_subcommand(0, 1);
     m_app->get_formatter()->column_width(NameColumns);

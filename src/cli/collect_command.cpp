@@ -4,6 +4,7 @@
 #include "cli/split_file_edit.h"
 #include "cli/user_preferences.h"
 #include "common/error.h"
+#include "common/text.h"
 #include "splittaking/messages.h"
 #include "splittaking/training_collection.h"
 
@@ -24,7 +25,7 @@ struct CollectCall {
 /// Writes the training file; false, after a message, when it cannot be.
 bool isCollected(TrainingCollection& collection, const fs::path& target) {
     for (const std::string& film : collection.unusable)
-        logLine("The film " + pathText(film) + " is left out: its name is no UTF-8 text.");
+        logLine(say("The film {} is left out: its name is no UTF-8 text.", pathText(film)));
     return isSaved(collection.document, target.string());
 }
 
@@ -35,19 +36,19 @@ int collect(const CollectCall& call, const UserPreferences& preferences) {
     try {
         collection = collectTraining(call.folder, plan);
     } catch (const FileError& error) {
-        logLine("The folder " + pathText(call.folder) + " cannot be read: " + error.reason());
+        logLine(say("The folder {} cannot be read: {}", pathText(call.folder), error.reason()));
         return NotDone;
     }
     const auto runs = static_cast<std::int64_t>(collection.document.athletes.size());
     if (runs == 0) {
-        logLine("No video in " + pathText(call.folder) + " carries the name " +
-                pathText(call.athlete) + ". Nothing was written.");
+        logLine(say("No video in {} carries the name {}. Nothing was written.",
+                    pathText(call.folder), pathText(call.athlete)));
         return NotDone;
     }
     const fs::path target = fs::path(call.folder) / TrainingFileName;
     if (!call.replace && fs::exists(fs::symlink_status(target))) {
-        logLine("The file " + pathText(target) +
-                " exists already. Say --replace to write a new one in its place.");
+        logLine(say("The file {} exists already. Say --replace to write a new one in its place.",
+                    pathText(target)));
         return NotDone;
     }
     if (!isCollected(collection, target))

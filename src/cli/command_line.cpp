@@ -6,7 +6,9 @@
 #include "cli/console.h"
 #include "cli/other_program.h"
 #include "cli/painting.h"
+#include "cli/spoken_language.h"
 #include "cli/start_desktop.h"
+#include "common/text.h"
 
 #include <exception>
 #include <new>
@@ -19,7 +21,8 @@ namespace {
 
 /// Parses the call and runs the subcommand it names.
 int run(int argc, char** argv, const char* version, const Painting* painting) {
-    Call call("kavela", "Kavela: splits, results and recordings of canoe slalom.", version);
+    Call call("kavela", KAVELA_TEXT("Kavela: splits, results and recordings of canoe slalom."),
+              version);
     Command program = call.program();
     program.footer(
         "Without a command, the desktop program starts and opens the files in their tools.");
@@ -33,6 +36,8 @@ int run(int argc, char** argv, const char* version, const Painting* painting) {
         .hidden();
     bool isManual = false;
     program.flag("--manual", isManual, "Prints the page of the manual").hidden();
+    std::string language; // heeded before the call is read: its helps are in that language
+    program.option("--language", language, "Language of what is said: en or one that is built in");
     int status = Done;
     addInfo(program, status);
     addUpgrade(program, status);
@@ -73,9 +78,9 @@ int run(int argc, char** argv, const char* version, const Painting* painting) {
 int handOn(int argc, char** argv) {
     constexpr OtherProgram PaintingProgram{"kavela-paint", "KAVELA_PAINT"};
     const std::string program = become(PaintingProgram, {argv + 1, argv + argc});
-    logLine(
-        "This call needs the program that paints and makes films, which could not be started: " +
-        program);
+    logLine(say(
+        "This call needs the program that paints and makes films, which could not be started: {}",
+        program));
     return NotDone;
 }
 
@@ -83,7 +88,8 @@ int handOn(int argc, char** argv) {
 
 int runCommandLine(int argc, char** argv, const char* version, const Painting* painting) {
     try {
-        return run(argc, argv, version, painting);
+        const std::vector<std::string> arguments(argv + 1, argv + argc);
+        return speakAsCalled(arguments) ? run(argc, argv, version, painting) : WrongCall;
     } catch (const NeedsPainting&) {
         return handOn(argc, argv);
     } catch (const std::bad_alloc&) {

@@ -1,6 +1,7 @@
 #include "cli/console.h"
 
 #include "common/display_text.h"
+#include "common/text.h"
 
 #include <sys/ioctl.h>
 #include <unistd.h>
@@ -27,7 +28,8 @@ Terminal describe(int descriptor) {
 
 void logLine(std::string_view line) {
     // Names inside a document must not steer the terminal; to a file they go as they are.
-    const std::string text = standardError().isTerminal ? printable(line) : std::string(line);
+    const std::string said(translated(line));
+    const std::string text = standardError().isTerminal ? printable(said) : said;
     std::fprintf(stderr, "%s\n", text.c_str());
 }
 
@@ -49,7 +51,7 @@ std::string pathText(const std::filesystem::path& path) {
 }
 
 std::string counted(std::int64_t count, std::string_view singular, std::string_view plural) {
-    return std::to_string(count) + ' ' + std::string(count == 1 ? singular : plural);
+    return countedWords(count, singular, plural);
 }
 
 Terminal standardOutput() {

@@ -4,6 +4,7 @@
 #include "cli/painting.h"
 #include "common/error.h"
 #include "common/safe_file.h"
+#include "common/text.h"
 #include "sample/season.h"
 
 #include <fstream>
@@ -29,8 +30,8 @@ int writeSeason(const fs::path& folder) {
     const std::vector<SampleFile> season = sampleSeason();
     for (const SampleFile& file : season) {
         if (wouldReplace(folder / file.name, file)) {
-            logLine("The file " + pathText(folder / file.name) +
-                    " exists and is not the sample's. Choose another folder.");
+            logLine(say("The file {} exists and is not the sample's. Choose another folder.",
+                        pathText(folder / file.name)));
             return NotDone;
         }
     }
@@ -55,7 +56,8 @@ int demo(const fs::path& folder, bool withFilms, const Painting* painting) {
         return status == Done && filming ? filming->writeSeasonFilms(folder) : status;
     } catch (const FileError& error) {
         logLine("Failed to create file");
-        logLine("The file " + pathText(error.path()) + " could not be written: " + error.reason());
+        logLine(
+            say("The file {} could not be written: {}", pathText(error.path()), error.reason()));
         return NotDone;
     }
 }

@@ -3,6 +3,7 @@
 #include "cli/console.h"
 #include "cli/user_preferences.h"
 #include "common/safe_file.h"
+#include "common/text.h"
 #include "splitdata/loader.h"
 #include "splittaking/table_export.h"
 
@@ -42,7 +43,7 @@ bool isWritten(const std::string& path, const std::function<void()>& write) {
         return true;
     } catch (const FileError& error) {
         logLine("Failed to create file");
-        logLine("The file " + path + " could not be written: " + error.reason());
+        logLine(say("The file {} could not be written: {}", path, error.reason()));
         return false;
     }
 }

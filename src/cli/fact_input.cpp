@@ -3,6 +3,7 @@
 #include "cli/console.h"
 #include "cli/split_file_edit.h"
 #include "common/safe_file.h"
+#include "common/text.h"
 
 #include <algorithm>
 #include <filesystem>
@@ -36,7 +37,7 @@ bool isTableWritten(const std::string& target, const std::string& table) {
         return true;
     } catch (const FileError& error) {
         logLine("Failed to create file");
-        logLine("The file " + pathText(target) + " could not be written: " + error.reason());
+        logLine(say("The file {} could not be written: {}", pathText(target), error.reason()));
         return false;
     }
 }

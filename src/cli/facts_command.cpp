@@ -5,6 +5,7 @@
 #include "cli/fact_scan.h"
 #include "common/error.h"
 #include "common/safe_file.h"
+#include "common/text.h"
 
 #include <fstream>
 #include <memory>
@@ -31,8 +32,9 @@ bool isOurs(const FactSheet& table, const fs::path& path) {
 int writeTables(const std::vector<FactSheet>& tables, const fs::path& folder) {
     for (const FactSheet& table : tables)
         if (const fs::path path = pathOf(table, folder); !isOurs(table, path)) {
-            logLine("The file " + pathText(path) +
-                    " is none of these tables and stays as it is. Nothing was written.");
+            logLine(
+                say("The file {} is none of these tables and stays as it is. Nothing was written.",
+                    pathText(path)));
             return NotDone;
         }
     try {
@@ -41,9 +43,11 @@ int writeTables(const std::vector<FactSheet>& tables, const fs::path& folder) {
             writeFileSafely(pathOf(table, folder), table.titles() + table.rows);
         return Done;
     } catch (const FileError& error) {
-        logLine("The file " + pathText(error.path()) + " could not be written: " + error.reason());
+        logLine(
+            say("The file {} could not be written: {}", pathText(error.path()), error.reason()));
     } catch (const fs::filesystem_error& error) {
-        logLine("The folder " + pathText(folder) + " could not be made: " + error.code().message());
+        logLine(
+            say("The folder {} could not be made: {}", pathText(folder), error.code().message()));
     }
     return NotDone;
 }

@@ -3,6 +3,7 @@
 #include "common/display_text.h"
 #include "common/json_encode.h"
 #include "common/number_text.h"
+#include "common/text.h"
 #include "facts/found_text.h"
 
 #include <algorithm>
@@ -49,7 +50,7 @@ std::vector<Printed> printedColumns(const QueryAnswer& answer) {
         const FoundPlaceTexts texts = foundPlaceTexts(answer, row);
         columns[columns.size() - 3].texts.push_back(texts.run);
         columns[columns.size() - 2].texts.push_back(
-            std::isnan(place.at) ? std::string() : hundredthsText(place.at));
+            std::isnan(place.at) ? std::string() : saidNumber(hundredthsText(place.at)));
         columns.back().texts.push_back(printable(texts.file));
     }
     std::erase_if(columns, [](const Printed& column) { return column.isEmpty(); });

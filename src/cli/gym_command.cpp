@@ -4,6 +4,7 @@
 #include "common/display_text.h"
 #include "common/json_encode.h"
 #include "common/number_text.h"
+#include "common/text.h"
 #include "planning/gym_maximum.h"
 
 #include <cmath>
@@ -43,14 +44,16 @@ std::string gymJson(const GymEstimates& estimates) {
 std::string line(const char* label, double value) {
     constexpr int LabelWidth = 24;
     constexpr int ValueWidth = 10;
-    const std::string text = std::isfinite(value) ? hundredthsText(value) + " kg" : "none";
-    return fitted(label, LabelWidth) + rightAligned(text, ValueWidth) + '\n';
+    const std::string text =
+        std::isfinite(value) ? saidNumber(hundredthsText(value)) + " kg" : say("none");
+    return fitted(translated(label), LabelWidth) + rightAligned(text, ValueWidth) + '\n';
 }
 
 std::string gymText(const GymEstimates& estimates) {
-    return line("Table", estimates.table) + line("Epley", estimates.epley) +
+    return line(KAVELA_TEXT("Table"), estimates.table) + line("Epley", estimates.epley) +
            line("Brzycki", estimates.brzycki) + line("McGlothin", estimates.mcglothin) +
-           line("Lombardi", estimates.lombardi) + line("One-repetition maximum", estimates.result);
+           line("Lombardi", estimates.lombardi) +
+           line(KAVELA_TEXT("One-repetition maximum"), estimates.result);
 }
 
 int gym(const GymCall& call) {

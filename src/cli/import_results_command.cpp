@@ -4,6 +4,7 @@
 #include "cli/split_file_edit.h"
 #include "common/display_text.h"
 #include "common/json_encode.h"
+#include "common/text.h"
 #include "splittaking/results_import.h"
 
 #include <memory>
@@ -45,8 +46,7 @@ std::string importText(const ResultsImport& import) {
 /// The JSON tells what was left out; what is odd among the rest goes beside it.
 void tellDoubtful(const ResultsImport& import) {
     for (const SkippedLine& doubtful : import.doubtful)
-        logLine("Line " + std::to_string(doubtful.line) + ": " + doubtful.reason +
-                ", and was imported as it stands.");
+        logLine(say("Line {}: {}, and was imported as it stands.", doubtful.line, doubtful.reason));
 }
 
 int importList(const ImportCall& call) {

@@ -9,6 +9,7 @@
 #include "cli/painting.h"
 #include "cli/told_reason.h"
 #include "cli/unknown_athlete.h"
+#include "common/text.h"
 #include "performance/loss_reasons.h"
 #include "splitdata/athlete_keys.h"
 
@@ -71,9 +72,8 @@ int tellFile(const LossesCall& call) {
         return NotDone;
     const LossReference reference = referenceOf(call);
     if (reference.kind == LossReferenceKind::Run && reference.run >= facts->runs().size()) {
-        logLine("There is no run " + std::to_string(reference.run) + ": the file has " +
-                counted(static_cast<std::int64_t>(facts->runs().size()), "run", "runs") +
-                ", counted from 0.");
+        logLine(say("There is no run {}: the file has {}, counted from 0.", reference.run,
+                    counted(static_cast<std::int64_t>(facts->runs().size()), "run", "runs")));
         return NotDone;
     }
     if (!call.why.empty())

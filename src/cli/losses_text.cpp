@@ -3,6 +3,7 @@
 #include "analysis/cell_text.h"
 #include "common/display_text.h"
 #include "common/number_text.h"
+#include "common/text.h"
 #include "performance/loss_charts.h"
 #include "performance/loss_ways.h"
 
@@ -40,7 +41,7 @@ std::string referenceWord(const LossReference& reference) {
     case LossReferenceKind::Own:
         return "the own fastest other run";
     case LossReferenceKind::Run:
-        return fmt::format("run {}", reference.run);
+        return say("run {}", reference.run);
     }
     return {};
 }
@@ -94,7 +95,7 @@ private:
         if (losses.referenceRun)
             text += ", " + shownText(m_facts.text(row(*losses.referenceRun).crew));
         if (losses.referenceTotal)
-            text += ", " + hundredthsText(*losses.referenceTotal);
+            text += ", " + saidNumber(hundredthsText(*losses.referenceTotal));
         return losses.hasReference ? text : text + ": there is none";
     }
 
@@ -105,10 +106,10 @@ private:
         if (losses.sum)
             head += std::string(LossMargin) + signedInColour(losses.shown.gap);
         else if (!run.isComplete)
-            head += std::string(LossMargin) + styled(LossDim, "no total");
+            head += std::string(LossMargin) + styled(LossDim, say("no total"));
         else if (losses.hasReference)
-            head += std::string(LossMargin) + hundredthsText(run.total) +
-                    styled(LossDim, ", no totals to compare");
+            head += std::string(LossMargin) + saidNumber(hundredthsText(run.total)) +
+                    styled(LossDim, say(", no totals to compare"));
         if (losses.hasReference && losses.reference.kind == LossReferenceKind::Own)
             head += styled(LossDim, referenceText(losses));
         addLine(head);
@@ -125,10 +126,10 @@ private:
     [[nodiscard]] std::vector<std::string> waterfallWords(const RunLosses& losses) const {
         std::vector<std::string> words;
         const auto add = [&](const std::string& name, std::int64_t hundredths) {
-            words.push_back(name + ' ' + signedText(hundredths));
+            words.push_back(name + ' ' + saidNumber(signedText(hundredths)));
         };
         if (losses.sum)
-            words.push_back(hundredthsText(losses.sum->reference));
+            words.push_back(saidNumber(hundredthsText(losses.sum->reference)));
         for (std::size_t i = 0; i < losses.stretches.size(); ++i)
             add(sectionsText(losses.stretches[i].first, losses.stretches[i].last),
                 losses.shown.stretches[i]);
@@ -138,7 +139,7 @@ private:
             add("penalties", losses.shown.penalties);
         if (losses.shown.timing != 0)
             add("timing", losses.shown.timing);
-        words.push_back(hundredthsText(losses.sum->own));
+        words.push_back(saidNumber(hundredthsText(losses.sum->own)));
         return words;
     }
 
@@ -166,10 +167,9 @@ private:
         std::vector<std::string> words{sectionsText(stretch.first, stretch.last)};
         for (const GateLoss& gate : stretch.gates)
             words.push_back(gateText(gate));
-        words.push_back("between " + signedHundredths(stretch.between));
+        words.push_back("between " + saidNumber(signedHundredths(stretch.between)));
         if (stretch.strokes && stretch.referenceStrokes)
-            words.push_back(
-                fmt::format("strokes {} on {}", *stretch.strokes, *stretch.referenceStrokes));
+            words.push_back(say("strokes {} on {}", *stretch.strokes, *stretch.referenceStrokes));
         addWrapped(words);
     }
 
@@ -183,21 +183,22 @@ private:
     }
 
     static std::string gateText(const GateLoss& gate) {
-        return fmt::format("gate {} {}", gate.gate, signedHundredths(gate.loss));
+        return say("gate {} {}", gate.gate, saidNumber(signedHundredths(gate.loss)));
     }
 
     void addExplained(const RunLosses& losses) {
         if (!losses.explained || !losses.noted || *losses.noted == 0)
             return;
-        addLine(styled(LossDim,
-                       fmt::format("     Explained by notes: {} of {} ({:.0f} %)",
-                                   hundredthsText(*losses.noted),
-                                   hundredthsText(static_cast<double>(losses.shown.paddling) / 100),
-                                   *losses.explained * 100)));
+        addLine(
+            styled(LossDim,
+                   say("     Explained by notes: {} of {} ({:.0f} %)",
+                       saidNumber(hundredthsText(*losses.noted)),
+                       saidNumber(hundredthsText(static_cast<double>(losses.shown.paddling) / 100)),
+                       *losses.explained * 100)));
     }
 
     [[nodiscard]] std::string signedInColour(std::int64_t hundredths) const {
-        const std::string text = signedText(hundredths);
+        const std::string text = saidNumber(signedText(hundredths));
         return hundredths == 0 ? text : styled(hundredths > 0 ? LossRed : LossGreen, text);
     }
 
@@ -223,9 +224,9 @@ std::string wayCostsText(const FactStore& facts, std::span<const WayCost> ways) 
     std::string text;
     for (const WayCost& way : ways)
         if (way.cost && *way.cost > 0)
-            text +=
-                fmt::format("  {:>6}  {}, {}\n", signedHundredths(*way.cost), shownText(way.title),
-                            shownText(facts.text(facts.runs()[way.run].crew)));
+            text += fmt::format("  {:>6}  {}, {}\n", saidNumber(signedHundredths(*way.cost)),
+                                shownText(way.title),
+                                shownText(facts.text(facts.runs()[way.run].crew)));
     return text.empty() ? text : "\nWays: chosen against the fastest timed\n" + text;
 }
 
@@ -258,8 +259,8 @@ std::string lossNotesText(const LossNotes& notes) {
         text += "  " + fitted(row.field == field ? "" : row.field, FieldWidth) +
                 fitted(row.text.empty() ? "not noted" : shownText(row.text), KeyWidth) +
                 rightAligned(std::to_string(row.count), NumberWidth) +
-                rightAligned(signedHundredths(row.lost), NumberWidth) +
-                rightAligned(signedHundredths(row.gained), NumberWidth) + '\n';
+                rightAligned(saidNumber(signedHundredths(row.lost)), NumberWidth) +
+                rightAligned(saidNumber(signedHundredths(row.gained)), NumberWidth) + '\n';
         field = row.field;
     }
     if (notes.unfinished > 0)

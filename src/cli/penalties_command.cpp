@@ -6,6 +6,7 @@
 #include "cli/penalties_json.h"
 #include "cli/penalties_text.h"
 #include "cli/told_reason.h"
+#include "common/text.h"
 #include "performance/penalty_reasons.h"
 
 #include <memory>
@@ -38,8 +39,8 @@ bool hasCategory(const FactStore& facts, const std::string& category) {
     std::string text;
     for (const std::string& name : present)
         text += (text.empty() ? "" : ", ") + name;
-    logLine("No run has the category \"" + category + "\"." +
-            (text.empty() ? "" : " There is " + text + "."));
+    logLine(say("No run has the category \"{}\".{}", category,
+                (text.empty() ? "" : " There is " + text + ".")));
     return false;
 }
 

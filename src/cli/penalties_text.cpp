@@ -1,6 +1,7 @@
 #include "cli/penalties_text.h"
 
 #include "common/display_text.h"
+#include "common/text.h"
 #include "performance/penalty_words.h"
 
 #include <fmt/format.h>
@@ -72,7 +73,7 @@ private:
     void addLeftOut(std::size_t count) {
         if (count > 0)
             addStyled(DimCode,
-                      fmt::format("… {} more; all of them with --json, --csv or in a pipe", count));
+                      say("… {} more; all of them with --json, --csv or in a pipe", count));
     }
 
     /// Words one after the other in lines of the terminal's width, the later ones indented.
@@ -94,13 +95,13 @@ private:
 
     void addHeading() {
         const PenaltyRates& rates = m_findings.rates;
-        addStyled(BoldCode, fmt::format("Penalties by {} · {}, {}", nameOf(rates.by),
-                                        counted(whole(m_facts.files().size()), "file", "files"),
-                                        counted(whole(rates.runs), "run", "runs")));
+        addStyled(BoldCode, say("Penalties by {} · {}, {}", nameOf(rates.by),
+                                counted(whole(m_facts.files().size()), "file", "files"),
+                                counted(whole(rates.runs), "run", "runs")));
         if (rates.clean)
-            addLine(fmt::format("{} of {} whole runs without a penalty: {:.1f} % ({})",
-                                rates.clean->count, rates.clean->of, 100 * rates.clean->rate,
-                                percentRange(rates.clean->interval)));
+            addLine(say("{} of {} whole runs without a penalty: {:.1f} % ({})", rates.clean->count,
+                        rates.clean->of, 100 * rates.clean->rate,
+                        percentRange(rates.clean->interval)));
         if (rates.leftOut > 0)
             addLine(counted(whole(rates.leftOut), "run", "runs") +
                     " left out: penalties not known by gate");
@@ -132,16 +133,15 @@ private:
             addRate(rows[i], label);
         addLeftOut(rows.size() - count);
         const CommonRate& common = m_findings.rates.common;
-        addStyled(DimCode,
-                  fmt::format("Ranked: drawn towards {:.1f} %, the more the fewer the passages;",
-                              100 * common.mean));
+        addStyled(DimCode, say("Ranked: drawn towards {:.1f} %, the more the fewer the passages;",
+                               100 * common.mean));
         addStyled(DimCode, "* touched more than that with 95 % certainty and more");
     }
 
     void addRate(const RateRow& row, int label) {
         std::string line = fitted(labelOf(row), label);
         if (row.touches)
-            line += rightAligned(fmt::format("{} of {}", row.touches->count, row.touches->of), 12) +
+            line += rightAligned(say("{} of {}", row.touches->count, row.touches->of), 12) +
                     rightAligned(fmt::format("{:.1f}", 100 * row.touches->rate), 7) +
                     rightAligned(percentRange(row.touches->interval), 11);
         else
@@ -171,7 +171,7 @@ private:
             return;
         const std::vector<PenaltyCost> costs = costliest();
         const std::size_t free = m_findings.costs.size() - costs.size();
-        addTitle("What penalties cost");
+        addTitle(say("What penalties cost"));
         const std::size_t count = shown(costs.size(), MostCostsShown);
         for (std::size_t i = 0; i < count; ++i)
             addCost(costs[i]);
@@ -190,10 +190,10 @@ private:
             fmt::format("{} {}", m_facts.text(run.category), m_facts.text(run.phase));
         std::string line = fitted(printable(m_facts.text(run.crew)), CrewWidth) + ' ' +
                            fitted(printable(where), PlaceWidth) +
-                           rightAligned(fmt::format("gate {}", cost.gate), 8) +
+                           rightAligned(say("gate {}", cost.gate), 8) +
                            (cost.isMissedGate() ? " missed" : " touch ") +
-                           fmt::format("  {} of {}, without {}", ordinalText(cost.rank), cost.of,
-                                       ordinalText(cost.without));
+                           say("  {} of {}, without {}", ordinalText(cost.rank), cost.of,
+                               ordinalText(cost.without));
         const std::string file = ' ' + printable(m_files[run.file]);
         if (m_files.size() > 1 &&
             (m_terminal.width == 0 || displayWidth(line) + displayWidth(file) <= m_terminal.width))
@@ -205,9 +205,9 @@ private:
     }
 
     static std::string shareText(const DetailRow& row) {
-        return fmt::format("{} {} of {} ({:.0f} %, {:.0f}–{:.0f})", detailText(row),
-                           row.share.count, row.share.of, 100 * row.share.rate,
-                           100 * row.share.interval.low, 100 * row.share.interval.high);
+        return say("{} {} of {} ({:.0f} %, {:.0f}–{:.0f})", detailText(row), row.share.count,
+                   row.share.of, 100 * row.share.rate, 100 * row.share.interval.low,
+                   100 * row.share.interval.high);
     }
 
     void addDetails() {
@@ -215,7 +215,7 @@ private:
         const DetailShares& details = m_findings.details;
         if (details.noted == 0)
             return;
-        addTitle(fmt::format("Noted of {}", counted(whole(details.noted), "penalty", "penalties")));
+        addTitle(say("Noted of {}", counted(whole(details.noted), "penalty", "penalties")));
         for (const DetailField& field : DetailFields) {
             std::vector<std::string> parts;
             for (const DetailRow& row : details.rows)
@@ -246,9 +246,9 @@ private:
                     rightAligned(fmt::format("{:.1f} %", row.paddling), 10) +
                     rightAligned(fmt::format("{:.1f} %", row.total), 9));
         if (tradeOff.breakEven)
-            addLine(fmt::format("1 % of speed pays for {:.2f} touches a run; times in percent of "
-                                "the group's median",
-                                *tradeOff.breakEven));
+            addLine(say("1 % of speed pays for {:.2f} touches a run; times in percent of "
+                        "the group's median",
+                        *tradeOff.breakEven));
     }
 
     const FactStore& m_facts;

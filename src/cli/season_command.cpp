@@ -10,6 +10,7 @@
 #include "cli/team_input.h"
 #include "cli/told_reason.h"
 #include "common/delimited_text.h"
+#include "common/text.h"
 #include "performance/season_reasons.h"
 #include "results/name_likeness.h"
 
@@ -74,8 +75,8 @@ void logUnknownCategory(const myTeamToSaveStruct& team, const std::string& categ
     std::string text;
     for (const std::string& label : labels)
         text += (text.empty() ? "" : ", ") + label;
-    logLine("Nobody of the team races in \"" + pathText(category) +
-            "\". Categories: " + (text.empty() ? "none" : text) + '.');
+    logLine(say("Nobody of the team races in \"{}\". Categories: {}.", pathText(category),
+                (text.empty() ? "none" : text)));
 }
 
 /// The boats of a field; nothing, after a message, where one is not known.
@@ -130,8 +131,8 @@ int tellTeamSeason(const SeasonCall& call, const Painting* painting) {
         return NotDone;
     }
     for (const std::string& twin : data.twins)
-        logLine("Several athletes of the team are called " + pathText(twin) +
-                ": their runs cannot be told apart.");
+        logLine(say("Several athletes of the team are called {}: their runs cannot be told apart.",
+                    pathText(twin)));
     const auto field = fieldOf(data, call);
     if (!field)
         return NotDone;

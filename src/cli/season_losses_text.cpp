@@ -2,6 +2,7 @@
 
 #include "analysis/cell_text.h"
 #include "common/display_text.h"
+#include "common/text.h"
 
 #include <fmt/format.h>
 
@@ -30,24 +31,24 @@ constexpr int SeasonKeyWidthIfNarrow = 11; ///< a line then fits into 80 columns
 constexpr int WideEnough = 100;
 
 std::string rangeText(const std::optional<Interval>& interval) {
-    return interval ? fmt::format("{:+.1f} to {:+.1f}", interval->low, interval->high) : "too few";
+    return interval ? say("{:+.1f} to {:+.1f}", interval->low, interval->high) : "too few";
 }
 
 std::string meanText(const MeanOf& mean) {
     if (mean.n == 0)
         return "not known";
     const std::string range =
-        mean.interval ? fmt::format("{:+.2f} to {:+.2f}", mean.interval->low, mean.interval->high)
+        mean.interval ? say("{:+.2f} to {:+.2f}", mean.interval->low, mean.interval->high)
                       : "too few";
-    return signedHundredths(mean.mean) + " (" + range + ")";
+    return saidNumber(signedHundredths(mean.mean)) + " (" + range + ")";
 }
 
 std::string seasonRowText(const SeasonLossRow& row, std::string_view field, int keyWidth) {
     const std::array cells{std::to_string(row.runs),
-                           signedHundredths(row.loss),
+                           saidNumber(signedHundredths(row.loss)),
                            fmt::format("{:+.1f}", row.percent),
                            rangeText(row.interval),
-                           signedHundredths(row.perRun),
+                           saidNumber(signedHundredths(row.perRun)),
                            row.share ? fmt::format("{:.0f} %", *row.share * 100)
                                      : std::string("–")};
     std::string text =
@@ -75,9 +76,9 @@ std::string seasonTable(const SeasonLosses& season, const Terminal& terminal) {
 std::string clipText(const FactStore& facts, const LossClip& clip) {
     const std::string file = printable(pathText(facts.pathOf(facts.runs()[clip.run]).filename()));
     const std::string where =
-        clip.gate ? fmt::format("gate {}", *clip.gate) : sectionsText(clip.first, clip.last);
-    return fmt::format("      {} run {} {} {}\n", file, facts.runs()[clip.run].number, where,
-                       signedHundredths(clip.loss));
+        clip.gate ? say("gate {}", *clip.gate) : sectionsText(clip.first, clip.last);
+    return say("      {} run {} {} {}\n", file, facts.runs()[clip.run].number, where,
+               saidNumber(signedHundredths(clip.loss)));
 }
 
 std::string trainText(const FactStore& facts, const SeasonLosses& season) {
@@ -86,8 +87,8 @@ std::string trainText(const FactStore& facts, const SeasonLosses& season) {
     std::string text = "\nTrain\n";
     for (std::size_t i = 0; i < season.train.size(); ++i) {
         const SeasonLossRow& row = season.rows[season.train[i]];
-        text += fmt::format("  {}. {}: {}, {} s a run\n", i + 1, row.field, printable(row.text),
-                            signedHundredths(row.perRun));
+        text += say("  {}. {}: {}, {} s a run\n", i + 1, row.field, printable(row.text),
+                    saidNumber(signedHundredths(row.perRun)));
         for (const LossClip& clip : row.clips)
             text += clipText(facts, clip);
     }
@@ -109,7 +110,7 @@ std::string seasonLossesText(const FactStore& facts, const std::string& athlete,
                              const Terminal& terminal) {
     const std::string name = printable(athlete);
     std::string text = terminal.hasColours ? "\x1b[1m" + name + "\x1b[0m" : name;
-    text += fmt::format(" · on {} · {}\n", textOf(reference), runsText(facts, season));
+    text += say(" · on {} · {}\n", textOf(reference), runsText(facts, season));
     text += "  gap a run " + meanText(season.gap) + '\n';
     text += "  penalties " + meanText(season.penalties) + '\n';
     if (!season.rows.empty())

@@ -3,6 +3,7 @@
 #include "cli/season_chart_text.h"
 #include "common/display_text.h"
 #include "common/number_text.h"
+#include "common/text.h"
 
 #include <fmt/format.h>
 
@@ -20,8 +21,7 @@ constexpr std::size_t MostRivals = 3;
 constexpr std::size_t MostPlacesInText = 16;
 
 std::string seasonRange(const std::optional<Interval>& interval) {
-    return interval ? fmt::format(" ({:+.1f} to {:+.1f})", interval->low, interval->high)
-                    : " (too few)";
+    return interval ? say(" ({:+.1f} to {:+.1f})", interval->low, interval->high) : " (too few)";
 }
 
 std::string seasonFact(std::string_view what, const std::string& text) {
@@ -68,20 +68,20 @@ private:
 
     void addHeading() {
         const SeasonSpread& spread = m_season.spread;
-        addLine(bold(printable("Season " + m_season.data.category)) +
-                fmt::format(" · {} · {} of races",
-                            counted(static_cast<std::int64_t>(m_season.athletes.size()), "athlete",
-                                    "athletes"),
-                            counted(static_cast<std::int64_t>(fileCount(m_season.data)),
-                                    "split file", "split files")));
+        addLine(
+            bold(printable("Season " + m_season.data.category)) +
+            say(" · {} · {} of races",
+                counted(static_cast<std::int64_t>(m_season.athletes.size()), "athlete", "athletes"),
+                counted(static_cast<std::int64_t>(fileCount(m_season.data)), "split file",
+                        "split files")));
         if (!spread.cv) {
-            addLine("Too few runs to tell how much they vary by chance.");
+            addLine(say("Too few runs to tell how much they vary by chance."));
             return;
         }
-        addLine(fmt::format("Runs vary by {:.1f} %{}, from {}; {:.2f} % is worth gaining.",
-                            *spread.cv, seasonRange(spread.interval),
-                            counted(static_cast<std::int64_t>(spread.runs), "run", "runs"),
-                            *spread.worthwhile));
+        addLine(say("Runs vary by {:.1f} %{}, from {}; {:.2f} % is worth gaining.", *spread.cv,
+                    seasonRange(spread.interval),
+                    counted(static_cast<std::int64_t>(spread.runs), "run", "runs"),
+                    *spread.worthwhile));
     }
 
     [[nodiscard]] std::string commonRange() const {
@@ -99,7 +99,7 @@ private:
         if (lines.empty()) {
             for (const std::string& fact : facts)
                 addLine(fact);
-            addLine(dim("Neither winners nor fastest splits of these races are known."));
+            addLine(dim(say("Neither winners nor fastest splits of these races are known.")));
             return;
         }
         if (m_terminal.width > 0 && m_terminal.width < SideBySideFrom)
@@ -107,7 +107,7 @@ private:
         else
             addBeside(chart, lines, facts);
         if (chart.medalLine)
-            addLine(dim("      ┄ third of the final, median"));
+            addLine(dim(say("      ┄ third of the final, median")));
     }
 
     [[nodiscard]] static std::string chartHead(const ProgressionChart& chart) {
@@ -140,9 +140,9 @@ private:
         const SeasonMember& member = m_season.data.members[athlete.member];
         std::vector<std::string> facts{bold(printable(member.name)) +
                                        (member.isRetired ? " (retired)" : "")};
-        facts.push_back(seasonFact("within", spreadText(athlete.spread)));
-        facts.push_back(trendFact("trend", athlete.toWinner));
-        facts.push_back(trendFact("on splits", athlete.toSplits));
+        facts.push_back(seasonFact(say("within"), spreadText(athlete.spread)));
+        facts.push_back(trendFact(say("trend"), athlete.toWinner));
+        facts.push_back(trendFact(say("on splits"), athlete.toSplits));
         addRate(facts, "medals", athlete.medals);
         addRate(facts, "finals", athlete.finals);
         addRate(facts, "semifinals", athlete.semifinals);
@@ -162,10 +162,10 @@ private:
     [[nodiscard]] std::string spreadText(const BoatSpread& spread) const {
         std::string text = "too few";
         if (spread.shrunk && spread.runs >= LeastValues)
-            text = fmt::format("{:.1f} % (all {:.1f}{})", *spread.shrunk, *m_season.spread.cv,
-                               commonRange());
+            text =
+                say("{:.1f} % (all {:.1f}{})", *spread.shrunk, *m_season.spread.cv, commonRange());
         if (spread.missed > 0)
-            text += fmt::format(", {} missed", spread.missed);
+            text += say(", {} missed", spread.missed);
         return text;
     }
 
@@ -173,8 +173,8 @@ private:
         if (!trend.perYear)
             return seasonFact(what, "too few");
         const std::string word(verdictText(trend.verdict));
-        return seasonFact(what, fmt::format("{:+.1f} %/yr{} ", *trend.perYear,
-                                            seasonRange(trend.interval))) +
+        return seasonFact(what,
+                          say("{:+.1f} %/yr{} ", *trend.perYear, seasonRange(trend.interval))) +
                (trend.verdict == TrendVerdict::Unclear ? word : bold(word));
     }
 
@@ -182,8 +182,8 @@ private:
                         const std::optional<RateOf>& rate) {
         if (rate)
             facts.push_back(
-                seasonFact(what, fmt::format("{} of {} ({:.0f}–{:.0f} %)", rate->count, rate->of,
-                                             100 * rate->interval.low, 100 * rate->interval.high)));
+                seasonFact(what, say("{} of {} ({:.0f}–{:.0f} %)", rate->count, rate->of,
+                                     100 * rate->interval.low, 100 * rate->interval.high)));
     }
 
     static void addPair(std::vector<std::string>& facts, std::string_view what,
@@ -198,9 +198,8 @@ private:
     [[nodiscard]] std::string headFact(const HeadToHead& head) const {
         constexpr int RivalWidth = 18;
         return fitted("on " + printable(m_season.data.boats[head.versus].name), RivalWidth) +
-               fmt::format(" {} of {} ({:.0f}–{:.0f} %), {:+.1f} %", shortestText(head.won),
-                           head.met, 100 * head.interval.low, 100 * head.interval.high,
-                           head.gap.mean);
+               say(" {} of {} ({:.0f}–{:.0f} %), {:+.1f} %", shortestText(head.won), head.met,
+                   100 * head.interval.low, 100 * head.interval.high, head.gap.mean);
     }
 
     /// The first rank is nothing behind itself.
@@ -212,7 +211,7 @@ private:
         std::string head = fitted("What it took", PhaseWidth);
         for (const std::size_t rank : BenchmarkRanks)
             if (rank > 1)
-                head += rightAligned(fmt::format("rank {}", rank), RankWidth);
+                head += rightAligned(say("rank {}", rank), RankWidth);
         addLine("");
         addLine(bold(head));
         for (const Benchmark& benchmark : m_season.benchmarks) {
@@ -255,14 +254,13 @@ private:
             addPlace(places.boats[i]);
         const std::size_t hidden = places.boats.size() - std::min(most, places.boats.size());
         if (hidden > 0)
-            addLine(dim(fmt::format("… {} more; all of them with --json or in a pipe", hidden)));
+            addLine(dim(say("… {} more; all of them with --json or in a pipe", hidden)));
         if (places.more > 0)
-            addLine(dim(fmt::format("{} more boats come into question: name a field with --field",
-                                    places.more)));
+            addLine(dim(
+                say("{} more boats come into question: name a field with --field", places.more)));
         for (const std::size_t boat : places.leftOut)
-            addLine(
-                dim(fmt::format("{} is left out: fewer than {} runs, or never met the others",
-                                printable(m_season.data.boats[boat].name), LeastRunsForPlaces)));
+            addLine(dim(say("{} is left out: fewer than {} runs, or never met the others",
+                            printable(m_season.data.boats[boat].name), LeastRunsForPlaces)));
     }
 
     void addPlace(const ExpectedPlace& place) {

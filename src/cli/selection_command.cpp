@@ -8,6 +8,7 @@
 #include "common/display_text.h"
 #include "common/folded_text.h"
 #include "common/number_text.h"
+#include "common/text.h"
 #include "common/text_file.h"
 #include "results/list_lines.h"
 #include "results/messages.h"
@@ -50,10 +51,9 @@ std::optional<RecognisedSelectionFile> openedSelection(const std::string& path) 
 bool isWritable(const RecognisedSelectionFile& file, const std::string& path) {
     if (file.isCurrent())
         return true;
-    logLine("The file " + pathText(path) + " is of an older version, " +
-            std::string(file.version->label) +
-            ", and was not changed. Bring it to the current one first: kavela upgrade " +
-            pathText(path));
+    logLine(say("The file {} is of an older version, {}, and was not changed. Bring it to the "
+                "current one first: kavela upgrade {}",
+                pathText(path), file.version->label, pathText(path)));
     return false;
 }
 
@@ -68,9 +68,9 @@ std::optional<selectionracesStruct_v3> openedForChange(const std::string& path) 
 void warnOfZeros(const selectionracesStruct_v3& document) {
     for (const ResultPlace& place : zeroResults(document)) {
         const srCategoryStruct_v3& category = document.categories[place.category];
-        logLine("The time of " + category.athletes[place.athlete].name + " (" + category.cat +
-                ") in " + document.races[place.race].location +
-                " is 0; a missing result should be 999.9.");
+        logLine(say("The time of {} ({}) in {} is 0; a missing result should be 999.9.",
+                    category.athletes[place.athlete].name, category.cat,
+                    document.races[place.race].location));
     }
 }
 
@@ -83,7 +83,7 @@ int rank(const SelectionCall& call, const Painting* painting) {
     recomputeSelection(document, call.bonus);
     warnOfZeros(document);
     if (call.bonus && *call.bonus >= bonusKinds(document))
-        logLine("No athlete has a bonus of kind " + std::to_string(*call.bonus) + '.');
+        logLine(say("No athlete has a bonus of kind {}.", *call.bonus));
     if (call.write && !saveSelectionFile(document, call.file, logLine))
         return NotDone;
     if (painter && !painter->isSelectionWritten(document, call.bonus, call.pdf))
@@ -110,15 +110,15 @@ std::optional<std::string> textOf(const std::string& list) {
     try {
         ListText read = readListText(list);
         if (read.isLatin1)
-            logLine("The list " + pathText(list) +
-                    " is no UTF-8 text and was read as Latin-1: look at the names.");
+            logLine(say("The list {} is no UTF-8 text and was read as Latin-1: look at the names.",
+                        pathText(list)));
         return std::move(read.text);
     } catch (const FileError& error) {
         reason = error.reason();
     } catch (const DecodeError& error) {
         reason = error.what();
     }
-    logLine("The list " + pathText(list) + " could not be read: " + reason);
+    logLine(say("The list {} could not be read: {}", pathText(list), reason));
     return std::nullopt;
 }
 
@@ -132,12 +132,13 @@ std::string knownCategories() {
 /// What somebody has to see who does not read the lines that were printed.
 void tellOddities(const ListImport& import, const std::string& list) {
     if (!import.skipped.empty())
-        logLine(counted(static_cast<std::int64_t>(import.skipped.size()), "line", "lines") +
-                " of " + pathText(list) + " skipped.");
+        logLine(say("{} of {} skipped.",
+                    counted(static_cast<std::int64_t>(import.skipped.size()), "line", "lines"),
+                    pathText(list)));
     for (const NewCategory& category : import.added)
-        logLine("Line " + std::to_string(category.line) + " brought the category " +
-                printable(category.label) + " into the selection" +
-                (category.isKnown ? "." : "; it is none of " + knownCategories() + '.'));
+        logLine(say("Line {} brought the category {} into the selection{}", category.line,
+                    printable(category.label),
+                    (category.isKnown ? "." : "; it is none of " + knownCategories() + '.')));
 }
 
 /// A list of which nothing could be taken is a failure, unless everybody in it is there already.

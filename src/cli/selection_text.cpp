@@ -2,6 +2,7 @@
 
 #include "common/display_text.h"
 #include "common/number_text.h"
+#include "common/text.h"
 
 #include <algorithm>
 
@@ -17,7 +18,7 @@ constexpr int ScoreWidth = 8;
 /// A dash for a race without a result.
 std::string partText(const ScorePart& part) {
     const std::string text =
-        part.percentage == MissingPercentage ? "-" : hundredthsText(part.percentage);
+        part.percentage == MissingPercentage ? "-" : saidNumber(hundredthsText(part.percentage));
     return part.fate == ResultFate::Counted ? text + ' ' : '(' + text + ')';
 }
 
@@ -67,7 +68,7 @@ std::string lineText(const srAthleteStruct_v3& athlete, const Standing& standing
     if (bonus)
         text += rightAligned(standing.score.bonus ? partText(*standing.score.bonus) : "- ",
                              widths.part);
-    return text + rightAligned(hundredthsText(standing.score.score), ScoreWidth) + '\n';
+    return text + rightAligned(saidNumber(hundredthsText(standing.score.score)), ScoreWidth) + '\n';
 }
 
 } // namespace

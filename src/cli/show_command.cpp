@@ -7,6 +7,7 @@
 #include "cli/show_text.h"
 #include "cli/told_reason.h"
 #include "cli/user_preferences.h"
+#include "common/text.h"
 #include "splitdata/loader.h"
 
 #include <memory>
@@ -60,8 +61,7 @@ void filter(RaceSet& set, std::string analyzerdata::*field, const std::string& w
     const std::string present = valuesOf(set, field);
     set = filteredRaceSet(set, [&](const analyzerdata& run) { return run.*field == wanted; });
     if (set.alldata.empty() && !present.empty())
-        logLine("No run has the " + std::string(fieldName) + " \"" + wanted + "\". There is " +
-                present + ".");
+        logLine(say("No run has the {} \"{}\". There is {}.", fieldName, wanted, present));
 }
 
 int show(const ShowCall& call, const Painting* painting) {

@@ -1,6 +1,7 @@
 #include "cli/show_text.h"
 
 #include "common/display_text.h"
+#include "common/text.h"
 
 #include <fmt/format.h>
 
@@ -215,7 +216,7 @@ std::string legend(const TableSettings& settings) {
 RaceHeading headingOf(const infodata031& info) {
     const std::string& name = info.title.empty() ? info.event : info.title;
     const std::string gates =
-        info.gates > 0 ? fmt::format("{} gates, {} upstream", info.gates, info.upGates.size()) : "";
+        info.gates > 0 ? say("{} gates, {} upstream", info.gates, info.upGates.size()) : "";
     return {printable(joined({name, info.session, info.place}, " · ")),
             printable(joined({dayText(info.date), gates, info.watertype}, " · "))};
 }

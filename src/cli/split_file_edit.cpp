@@ -1,6 +1,7 @@
 #include "cli/split_file_edit.h"
 
 #include "cli/console.h"
+#include "common/text.h"
 
 namespace kavela::cli {
 
@@ -16,10 +17,9 @@ std::optional<RecognisedSplitFile> openedSplitFile(const std::string& path) {
 bool isWritable(const RecognisedSplitFile& file, const std::string& path) {
     if (file.isCurrent())
         return true;
-    logLine("The file " + pathText(path) + " is of an older version, " +
-            std::string(file.version->label) +
-            ", and was not changed. Bring it to the current one first: kavela upgrade " +
-            pathText(path));
+    logLine(say("The file {} is of an older version, {}, and was not changed. Bring it to the "
+                "current one first: kavela upgrade {}",
+                pathText(path), file.version->label, pathText(path)));
     return false;
 }
 

@@ -2,6 +2,7 @@
 
 #include "cli/console.h"
 #include "cli/other_program.h"
+#include "common/text.h"
 
 #include <filesystem>
 #include <utility>
@@ -14,8 +15,8 @@ int startDesktop(const std::vector<std::string>& files, bool isNew) {
     for (const std::string& file : files) {
         std::error_code ignored;
         if (!fs::exists(file, ignored)) {
-            logLine("There is no file and no command " + file +
-                    ". Run with --help for the commands.");
+            logLine(
+                say("There is no file and no command {}. Run with --help for the commands.", file));
             return WrongCall;
         }
     }
@@ -25,7 +26,7 @@ int startDesktop(const std::vector<std::string>& files, bool isNew) {
         arguments.emplace_back("--new");
     arguments.insert(arguments.end(), files.begin(), files.end());
     const std::string program = become(Desktop, std::move(arguments));
-    logLine("The desktop program could not be started: " + program);
+    logLine(say("The desktop program could not be started: {}", program));
     return NotDone;
 }
 

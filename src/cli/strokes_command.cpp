@@ -7,6 +7,7 @@
 #include "cli/strokes_profile.h"
 #include "cli/strokes_text.h"
 #include "common/safe_file.h"
+#include "common/text.h"
 
 #include <memory>
 
@@ -32,7 +33,7 @@ bool writeTable(const MotionAnalysis& analysis, const std::string& path) {
         return true;
     } catch (const FileError& error) {
         logLine("Failed to create file");
-        logLine("The file " + path + " could not be written: " + error.reason());
+        logLine(say("The file {} could not be written: {}", path, error.reason()));
         return false;
     }
 }

@@ -1,5 +1,7 @@
 #include "cli/strokes_profile.h"
 
+#include "common/text.h"
+
 #include <fmt/format.h>
 
 #include <algorithm>
@@ -59,8 +61,7 @@ Complaint numberWithin(double least, double most, const char* unit) {
         const auto value = numberOf(text);
         return value && *value >= least && *value <= most
                    ? std::string()
-                   : fmt::format("\"{}\" is no number from {:g} to {:g} {}.", text, least, most,
-                                 unit);
+                   : say("\"{}\" is no number from {:g} to {:g} {}.", text, least, most, unit);
     };
 }
 
@@ -72,7 +73,7 @@ Complaint wordOf(const Table& table) {
         std::string names;
         for (const auto& [name, value] : table)
             names += (names.empty() ? "" : ", ") + std::string(name);
-        return fmt::format("\"{}\" is none of: {}.", text, names);
+        return say("\"{}\" is none of: {}.", text, names);
     };
 }
 

@@ -3,6 +3,7 @@
 #include "boatmotion/strokes/stroke_table.h"
 #include "cli/console.h"
 #include "common/display_text.h"
+#include "common/text.h"
 
 #include <fmt/format.h>
 
@@ -110,16 +111,16 @@ std::string strokesText(const MotionAnalysis& analysis, const MotionProfile& pro
            totalIf("Distance", totals.distance, 0, "m") +
            totalIf("Mean speed", totals.meanSpeed, 2, "m/s") +
            totalIf("Top speed", totals.topSpeed, 2, "m/s") +
-           totalLine("Median rate", fmt::format("{:.1f} 1/min", totals.medianRate)) +
+           totalLine("Median rate", say("{:.1f} 1/min", totals.medianRate)) +
            totalIf("Mean water phase", totals.waterPhase, 2, "s") +
            totalIf("Mean force", totals.force, 0, "N") +
            totalIf("Mean impulse", totals.impulse, 1, "N·s") +
            totalIf("Mean power", totals.power, 0, "W") +
            totalLine("Reckoned with",
-                     fmt::format("{:g} kg, drag {:g} N·s²/m², {}; force and power hold on flat "
-                                 "water only",
-                                 profile.mass, profile.drag,
-                                 profile.boat == BoatClass::Canoe ? "canoe" : "kayak"));
+                     say("{:g} kg, drag {:g} N·s²/m², {}; force and power hold on flat "
+                         "water only",
+                         profile.mass, profile.drag,
+                         profile.boat == BoatClass::Canoe ? "canoe" : "kayak"));
 }
 
 } // namespace kavela::cli

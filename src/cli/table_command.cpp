@@ -5,6 +5,7 @@
 #include "cli/split_file_edit.h"
 #include "cli/table_print.h"
 #include "common/error.h"
+#include "common/text.h"
 #include "common/text_file.h"
 #include "performance/race_tables.h"
 #include "results/team_file.h"
@@ -55,8 +56,8 @@ ListGrid listOfRace(const infodata031& info, const std::string& path, const std:
     for (std::size_t i = 1; i < names.size(); ++i)
         others += (others.empty() ? "" : ", ") + names[i];
     if (!others.empty())
-        logLine(pathText(path) + ": this is its " + names.front() + "; it carries " + others +
-                " too (--sheet).");
+        logLine(say("{}: this is its {}; it carries {} too (--sheet).", pathText(path),
+                    names.front(), others));
     return chosenList(raceTableLists(info, names.front()), sheet);
 }
 
@@ -88,9 +89,8 @@ void tellUnsure(const ListTable& table, std::span<const KnownAthlete> athletes,
         std::string names;
         for (const std::size_t athlete : row.athletes)
             names += (names.empty() ? "" : " or ") + athletes[athlete].name;
-        logLine("Line " + std::to_string(table.lines[row.row]) + ", " +
-                crewOfRow(table, row.row).value_or(std::string()) + ": perhaps " + names +
-                "; not joined.");
+        logLine(say("Line {}, {}: perhaps {}; not joined.", table.lines[row.row],
+                    crewOfRow(table, row.row).value_or(std::string()), names));
     }
 }
 
@@ -133,7 +133,7 @@ int showTable(const TableCall& call) {
     } catch (const FileError& error) {
         logLine(error.what());
     } catch (const DecodeError& error) {
-        logLine(pathText(call.team) + ": this is no team: " + error.what());
+        logLine(say("{}: this is no team: {}", pathText(call.team), error.what()));
     }
     return NotDone;
 }

@@ -5,6 +5,7 @@
 #include "cli/team_input.h"
 #include "common/display_text.h"
 #include "common/json_encode.h"
+#include "common/text.h"
 #include "results/athlete_summary.h"
 #include "results/categorization.h"
 #include "results/team_seasons.h"
@@ -52,12 +53,12 @@ int summarize(const TeamCall& call) {
         return NotDone;
     const myTeamStruct* const athlete = athleteNamed(*team, call.athlete);
     if (!athlete) {
-        logLine("The team has no athlete " + call.athlete + '.');
+        logLine(say("The team has no athlete {}.", call.athlete));
         return NotDone;
     }
     if (!categoryOf(*athlete, call.category)) {
-        logLine(athlete->name + " does not race in " + call.category +
-                ". Categories: " + categoriesOf(*athlete) + '.');
+        logLine(say("{} does not race in {}. Categories: {}.", athlete->name, call.category,
+                    categoriesOf(*athlete)));
         return NotDone;
     }
     const AthleteSummary summary = athleteSummary(*athlete, call.category);

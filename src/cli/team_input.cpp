@@ -1,6 +1,7 @@
 #include "cli/team_input.h"
 
 #include "cli/console.h"
+#include "common/text.h"
 #include "results/team_file.h"
 #include "splitdata/loader.h"
 
@@ -15,7 +16,7 @@ std::optional<myTeamToSaveStruct> teamOfFile(const std::string& path) {
     } catch (const FileError& error) {
         reason = error.reason();
     }
-    logLine("The file could not be read: " + reason);
+    logLine(say("The file could not be read: {}", reason));
     ConsoleAlerts().show({"", IncompatibleFileText});
     return std::nullopt;
 }

@@ -2,6 +2,7 @@
 
 #include "cli/console.h"
 #include "common/display_text.h"
+#include "common/text.h"
 #include "common/why_text.h"
 
 #include <string>
@@ -11,7 +12,7 @@ namespace kavela::cli {
 int tellReason(const std::optional<Reason>& reason, std::string_view id) {
     if (reason)
         return print(whyText(*reason)) ? Done : NotDone;
-    logLine("There is no number with the id \"" + validUtf8(id) + "\" here.");
+    logLine(say("There is no number with the id \"{}\" here.", validUtf8(id)));
     return NotDone;
 }
 

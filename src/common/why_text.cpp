@@ -2,6 +2,7 @@
 
 #include "common/display_text.h"
 #include "common/number_text.h"
+#include "common/text.h"
 
 #include <fmt/format.h>
 
@@ -21,21 +22,21 @@ public:
 
     void add(const Reason& reason) {
         line(printable(reason.shown) +
-             (reason.rule ? "  " + std::string(reason.rule->sentence) : std::string()));
+             (reason.rule ? "  " + std::string(translated(reason.rule->sentence)) : std::string()));
         const int width = nameWidth(reason);
         for (const Input& input : reason.inputs)
-            line("  " + fitted(printable(input.name), width) + "  " +
+            line("  " + fitted(printable(translated(input.name)), width) + "  " +
                  rightAligned(inputText(input), valueWidth(reason)) +
                  (input.place ? "  " + placeText(*input.place) : std::string()) +
                  (input.plusMinus > 0 ? "  " + plusMinusText(input) : std::string()));
         if (reason.rule)
-            field("rule", width, ruleText(reason));
+            field(say("rule"), width, ruleText(reason));
         if (reason.rule && !reason.rule->source.empty())
-            field("source", width, std::string(reason.rule->source));
+            field(say("source"), width, std::string(translated(reason.rule->source)));
         if (reason.uncertainty)
-            field("within", width, uncertaintyText(reason));
+            field(say("within"), width, uncertaintyText(reason));
         for (const std::string& note : reason.notes)
-            field("note", width, printable(note));
+            field(say("note"), width, printable(translated(note)));
         addParts(reason);
     }
 
@@ -44,7 +45,7 @@ public:
 private:
     static std::string ruleText(const Reason& reason) {
         const std::string rounding = roundingText(reason);
-        const std::string formula(reason.rule->formula);
+        const std::string formula(translated(reason.rule->formula));
         return rounding.empty() ? formula : formula + ";  " + rounding;
     }
 
@@ -68,9 +69,9 @@ private:
 
     static int nameWidth(const Reason& reason) {
         constexpr int Widest = 28;
-        int width = displayWidth("source");
+        int width = displayWidth(translated("source"));
         for (const Input& input : reason.inputs)
-            width = std::max(width, displayWidth(printable(input.name)));
+            width = std::max(width, displayWidth(printable(translated(input.name))));
         return std::min(width, Widest);
     }
 
@@ -89,13 +90,13 @@ private:
 
 std::string placeText(const Place& place) {
     std::string text = printable(validUtf8(place.file.filename().string()));
-    text += fmt::format("{}run {}", Dot, place.run);
+    text += std::string(Dot) + say("run {}", place.run);
     if (place.split)
-        text += fmt::format("{}split {}", Dot, *place.split);
+        text += std::string(Dot) + say("split {}", *place.split);
     if (place.gate)
-        text += fmt::format("{}gate {}", Dot, *place.gate);
+        text += std::string(Dot) + say("gate {}", *place.gate);
     if (place.entry)
-        text += fmt::format("{}entry {}", Dot, *place.entry);
+        text += std::string(Dot) + say("entry {}", *place.entry);
     if (place.moment)
         text += fmt::format("{}{} s", Dot, hundredthsText(place.moment->seconds()));
     return text;
@@ -104,14 +105,15 @@ std::string placeText(const Place& place) {
 std::string roundingText(const Reason& reason) {
     if (reason.shown.find_first_of("0123456789") == std::string::npos)
         return {};
-    return fmt::format("shown {} of {}", printable(reason.shown), shortestText(reason.value));
+    return say("shown {} of {}", printable(reason.shown), shortestText(reason.value));
 }
 
 std::string uncertaintyText(const Reason& reason) {
     if (!reason.uncertainty)
         return {};
-    return fmt::format("{} to {}  ({})", shortestText(reason.uncertainty->low),
-                       shortestText(reason.uncertainty->high), printable(reason.uncertaintySource));
+    return say("{} to {}  ({})", shortestText(reason.uncertainty->low),
+               shortestText(reason.uncertainty->high),
+               printable(translated(reason.uncertaintySource)));
 }
 
 std::string inputText(const Input& input) {
@@ -127,7 +129,7 @@ std::string plusMinusText(const Input& input) {
     // Below half a hundredth it is not nothing.
     const std::string amount = input.plusMinus < 0.005 ? fmt::format("{:.3f}", input.plusMinus)
                                                        : hundredthsText(input.plusMinus);
-    return fmt::format("± {} ({})", amount, printable(input.plusMinusSource));
+    return fmt::format("± {} ({})", amount, printable(translated(input.plusMinusSource)));
 }
 
 std::string whyText(const Reason& reason) {

@@ -2,6 +2,7 @@
 #include "desktop/one_program.h"
 #include "desktop/shell/autosave_place.h"
 #include "desktop/shell/diagnostic_log.h"
+#include "desktop/shell/language.h"
 #include "desktop/shell/scheme.h"
 #include "desktop/shell/screen_fit.h"
 #include "desktop/start_options.h"
@@ -101,6 +102,7 @@ int main(int argc, char** argv) {
     workspace.startUp(userLibraryFolder());
     workspace.setUpdateSource(update::builtInUpdateSource());
     applyScheme(workspace);
+    const SpokenLanguage language(spokenLanguage(workspace), !chosenLanguage(workspace).isEmpty());
     const AutosavePlace kept(autosaveFolder(), start == OneProgram::Start::Beside
                                                    ? AutosavePlace::Program::Beside
                                                    : AutosavePlace::Program::One);

@@ -25,7 +25,6 @@
 
 #include <QCoreApplication>
 #include <QDate>
-#include <QStringList>
 
 #include <algorithm>
 #include <utility>
@@ -239,15 +238,21 @@ const ToolKind* toolWhere(const std::function<bool(const ToolKind&)>& isIt) {
 
 struct HomeColumn {
     const char* title;
-    QStringList kinds; ///< from the top
+    std::vector<OpensAs> tools; ///< from the top
 };
 
 const std::vector<HomeColumn>& homeColumns() {
     static const std::vector<HomeColumn> Columns{
-        {QT_TRANSLATE_NOOP("Desktop", "A race"), {"race", "losses", "penalties", "tables", "find"}},
-        {QT_TRANSLATE_NOOP("Desktop", "Films"), {"taking", "cross", "films", "compare", "fetch"}},
-        {QT_TRANSLATE_NOOP("Desktop", "The season"), {"season", "team", "selection"}},
-        {QT_TRANSLATE_NOOP("Desktop", "Training"), {"planning", "watertests", "motion", "session"}},
+        {QT_TRANSLATE_NOOP("Desktop", "A race"),
+         {OpensAs::Race, OpensAs::Losses, OpensAs::Penalties, OpensAs::ResultsList, OpensAs::Course,
+          OpensAs::Find}},
+        {QT_TRANSLATE_NOOP("Desktop", "Films"),
+         {OpensAs::FolderOfFilms, OpensAs::Cross, OpensAs::Films, OpensAs::Comparison,
+          OpensAs::SlitPicture, OpensAs::Tracking, OpensAs::Fetch}},
+        {QT_TRANSLATE_NOOP("Desktop", "The season"),
+         {OpensAs::Season, OpensAs::Team, OpensAs::Selection, OpensAs::Share}},
+        {QT_TRANSLATE_NOOP("Desktop", "Training"),
+         {OpensAs::Planning, OpensAs::Tests, OpensAs::Recording, OpensAs::Session}},
     };
     return Columns;
 }
@@ -258,8 +263,8 @@ std::vector<HomeGroup> homeGroups() {
     std::vector<HomeGroup> groups;
     for (const HomeColumn& column : homeColumns()) {
         HomeGroup group{tr(column.title), {}};
-        for (const QString& kind : column.kinds)
-            if (const ToolKind* const tool = toolOfKind(kind))
+        for (const OpensAs opens : column.tools)
+            if (const ToolKind* const tool = toolFor(opens))
                 group.tools.push_back(tool);
         groups.push_back(std::move(group));
     }

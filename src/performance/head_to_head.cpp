@@ -1,6 +1,7 @@
 #include "performance/head_to_head.h"
 
 #include "common/number_text.h"
+#include "common/text.h"
 #include "performance/season_rules.h"
 
 #include <fmt/format.h>
@@ -117,7 +118,7 @@ std::optional<HeadToHead> headToHead(const SeasonData& data, const FactStore& fa
     } else {
         why->uncertain(head->interval, "90 %, Wilson");
         why->result(ruleOf(SeasonRule::Won), head->rate(),
-                    fmt::format("{} of {}", shortestText(head->won), head->met));
+                    say("{} of {}", shortestText(head->won), head->met));
     }
     return head;
 }

@@ -1,6 +1,7 @@
 #include "performance/loss_season.h"
 
 #include "analysis/cell_text.h"
+#include "common/text.h"
 #include "performance/loss_rules.h"
 #include "splitdata/annotation_labels.h"
 
@@ -18,7 +19,7 @@ namespace {
 
 constexpr std::size_t MostClips = 3;
 constexpr std::size_t MostToTrain = 3;
-constexpr std::array<std::string_view, 3> Verdicts{"losing", "gaining", "unclear"};
+constexpr std::array<std::string_view, 3> Verdicts{KAVELA_TEXT("losing"), KAVELA_TEXT("gaining"), KAVELA_TEXT("unclear")};
 constexpr std::array<std::string_view, 5> SeasonFields{"kind", "third", "upstream", "direction",
                                                        "style"};
 /// The keys that have an order of their own; labels come as they are met.
@@ -275,7 +276,7 @@ std::vector<RunLosses> wholeRuns(const FactStore& facts, std::span<const std::si
 } // namespace
 
 std::string_view verdictText(LossVerdict verdict) {
-    return Verdicts[static_cast<std::size_t>(verdict)];
+    return translated(Verdicts[static_cast<std::size_t>(verdict)]);
 }
 
 std::vector<std::size_t> seasonRuns(const FactStore& facts, const SeasonLossQuery& query) {

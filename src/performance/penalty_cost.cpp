@@ -1,6 +1,7 @@
 #include "performance/penalty_cost.h"
 
 #include "common/number_text.h"
+#include "common/text.h"
 #include "performance/penalty_rules.h"
 
 #include <fmt/format.h>
@@ -32,8 +33,7 @@ void tellDoubts(Why& why, const FactStore& facts, const GatePassage& penalty) {
     const auto pens = facts.pensOf(run);
     const double byGate = std::accumulate(pens.begin(), pens.end(), 0.0);
     if (byGate != static_cast<double>(run.penalty))
-        why.note(fmt::format("The total holds {} s of penalty, the gates {:.0f} s.", run.penalty,
-                             byGate));
+        why.note(say("The total holds {} s of penalty, the gates {:.0f} s.", run.penalty, byGate));
 }
 
 } // namespace

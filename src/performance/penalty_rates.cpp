@@ -1,5 +1,6 @@
 #include "performance/penalty_rates.h"
 
+#include "common/text.h"
 #include "performance/penalty_rules.h"
 
 #include <fmt/format.h>
@@ -35,7 +36,7 @@ void tellPassages(Why& why, const FactStore& facts, const PassageRow& row,
                   static_cast<double>(passage.seconds), placeOf(facts, passage));
     }
     if (told < all)
-        why.note(fmt::format("{} more are not listed.", all - told));
+        why.note(say("{} more are not listed.", all - told));
 }
 
 std::optional<RateOf> toldRate(const FactStore& facts, const PassageRow& row, std::size_t count,
@@ -89,7 +90,7 @@ CommonRate commonTouches(std::span<const PassageRow> rows, Why* why) {
             why->input("n of " + rows[i].label, static_cast<double>(counts[i].of));
         }
         if (rows.size() > MostPlacesTold)
-            why->note(fmt::format("{} more rows are not listed.", rows.size() - MostPlacesTold));
+            why->note(say("{} more rows are not listed.", rows.size() - MostPlacesTold));
     }
     return common;
 }

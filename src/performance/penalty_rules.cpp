@@ -1,5 +1,7 @@
 #include "performance/penalty_rules.h"
 
+#include "common/text.h"
+
 #include <fmt/format.h>
 
 #include <array>
@@ -92,9 +94,9 @@ void tellRate(Why& why, const Rule& rule, const RateOf& rate) {
 }
 
 std::string leftOutText(std::size_t runs) {
-    return fmt::format("{} left out: {} penalties are not known by gate.",
-                       runs == 1 ? std::string("1 run is") : fmt::format("{} runs are", runs),
-                       runs == 1 ? "its" : "their");
+    return say("{} left out: {} penalties are not known by gate.",
+               runs == 1 ? std::string("1 run is") : say("{} runs are", runs),
+               runs == 1 ? "its" : "their");
 }
 
 } // namespace kavela

@@ -1,5 +1,6 @@
 #include "performance/penalty_words.h"
 
+#include "common/text.h"
 #include "performance/penalty_rules.h"
 
 #include <fmt/format.h>
@@ -24,7 +25,7 @@ struct NamedRate {
 };
 
 std::string counted(std::size_t count, std::string_view one, std::string_view many) {
-    return fmt::format("{} {}", count, count == 1 ? one : many);
+    return countedWords(static_cast<std::int64_t>(count), one, many);
 }
 
 std::string withCapital(std::string text) {
@@ -44,7 +45,7 @@ std::string_view kindOf(RateBy by) {
 }
 
 std::string countText(const NamedRate& row) {
-    return row.touches ? fmt::format("{} of {}", row.touches->count, row.touches->of)
+    return row.touches ? say("{} of {}", row.touches->count, row.touches->of)
                        : std::string("nobody came");
 }
 
@@ -55,7 +56,7 @@ std::string namesOf(const std::vector<const NamedRate*>& rows) {
     for (std::size_t i = 0; i < shown; ++i)
         names += fmt::format("{}{} ({})", i == 0 ? "" : ", ", rows[i]->name, countText(*rows[i]));
     if (rows.size() > shown)
-        names += fmt::format(" and {} more", rows.size() - shown);
+        names += say(" and {} more", rows.size() - shown);
     return names;
 }
 
@@ -72,18 +73,18 @@ std::string rankedWords(const std::vector<NamedRate>& rows, std::string_view kin
     if (passages == 0)
         return "Nobody's penalties are known by gate.";
     if (!bold.empty())
-        return withCapital(fmt::format("{} {} out: touched more than the {} that all have in "
-                                       "common.",
-                                       namesOf(bold), bold.size() == 1 ? "stands" : "stand",
-                                       rateText(common)));
+        return withCapital(say("{} {} out: touched more than the {} that all have in "
+                               "common.",
+                               namesOf(bold), bold.size() == 1 ? "stands" : "stand",
+                               rateText(common)));
     if (touches < LeastTouches)
-        return fmt::format("Too few to tell: {} in {}.", counted(touches, "touch", "touches"),
-                           counted(passages, "passage", "passages"));
+        return say("Too few to tell: {} in {}.", counted(touches, "touch", "touches"),
+                   counted(passages, "passage", "passages"));
     if (rows.size() < 2)
-        return fmt::format("Only one {}: there is nothing to compare it with.", kind);
+        return say("Only one {}: there is nothing to compare it with.", kind);
     const auto& highest = *std::ranges::max_element(rows, {}, &NamedRate::shrunk);
-    return fmt::format("No {} stands out: the highest, {} ({}), may be chance.", kind, highest.name,
-                       countText(highest));
+    return say("No {} stands out: the highest, {} ({}), may be chance.", kind, highest.name,
+               countText(highest));
 }
 
 std::string nameOfRow(const RateRow& row) {
@@ -123,8 +124,8 @@ std::string wordsOf(const CourseOfRates& course) {
 }
 
 std::string wordsOf(const PenaltyCost& cost) {
-    return fmt::format("Without this {}: {}.", cost.isMissedGate() ? "missed gate" : "touch",
-                       ordinalText(cost.without));
+    return say("Without this {}: {}.", cost.isMissedGate() ? "missed gate" : "touch",
+               ordinalText(cost.without));
 }
 
 std::string wordsOf(std::span<const PenaltyCost> costs) {
@@ -135,11 +136,9 @@ std::string wordsOf(std::span<const PenaltyCost> costs) {
     const auto medals =
         static_cast<std::size_t>(std::ranges::count_if(costs, &PenaltyCost::isMedal));
     if (cost == 0)
-        return fmt::format("None of {} cost a place.",
-                           counted(costs.size(), "penalty", "penalties"));
-    return fmt::format(
-        "Of {} {} cost places, {} a medal.", counted(costs.size(), "penalty", "penalties"), cost,
-        medals == 0 ? std::string("none of them") : fmt::format("{} of them", medals));
+        return say("None of {} cost a place.", counted(costs.size(), "penalty", "penalties"));
+    return say("Of {} {} cost places, {} a medal.", counted(costs.size(), "penalty", "penalties"),
+               cost, medals == 0 ? std::string("none of them") : say("{} of them", medals));
 }
 
 std::string wordsOf(const DetailShares& details) {
@@ -147,9 +146,9 @@ std::string wordsOf(const DetailShares& details) {
         return "There is no penalty.";
     const std::string all = counted(details.penalties, "penalty", "penalties");
     if (details.noted == 0)
-        return fmt::format("None of {} was noted in detail.", all);
+        return say("None of {} was noted in detail.", all);
     const std::string start =
-        fmt::format("Of {} {} noted in detail.", all, counted(details.noted, "was", "were"));
+        say("Of {} {} noted in detail.", all, counted(details.noted, "was", "were"));
     if (details.noted < LeastValues)
         return start + " Too few to tell.";
     return start + " Shares of what was noted, no rates: nobody notes how gates are passed clean.";
@@ -158,16 +157,16 @@ std::string wordsOf(const DetailShares& details) {
 std::string wordsOf(const TradeOff& tradeOff) {
     const auto& rows = tradeOff.rows;
     if (rows.empty())
-        return fmt::format("Too few to tell: no group has {} whole runs.", LeastDivided);
+        return say("Too few to tell: no group has {} whole runs.", LeastDivided);
     if (rows.size() == 1)
-        return fmt::format("{} touches a run in {}, all in one third of the field.",
-                           fmt::format("{:.2f}", rows.front().touchesPerRun),
-                           counted(rows.front().runs, "run", "runs"));
+        return say("{} touches a run in {}, all in one third of the field.",
+                   fmt::format("{:.2f}", rows.front().touchesPerRun),
+                   counted(rows.front().runs, "run", "runs"));
     const TradeOffRow& fast = rows.front();
     const TradeOffRow& slow = rows.back();
-    const std::string figures = fmt::format("{:.2f} touches a run in the faster third, {:.2f} in "
-                                            "the slower.",
-                                            fast.touchesPerRun, slow.touchesPerRun);
+    const std::string figures = say("{:.2f} touches a run in the faster third, {:.2f} in "
+                                    "the slower.",
+                                    fast.touchesPerRun, slow.touchesPerRun);
     if (isClearlyBelow(fast, slow))
         return "The fast touch less: " + figures;
     if (isClearlyBelow(slow, fast))
@@ -177,7 +176,7 @@ std::string wordsOf(const TradeOff& tradeOff) {
 
 std::string breakEvenWords(const TradeOff& tradeOff) {
     return tradeOff.breakEven
-               ? fmt::format("1 % of speed pays for {:.2f} touches a run.", *tradeOff.breakEven)
+               ? say("1 % of speed pays for {:.2f} touches a run.", *tradeOff.breakEven)
                : std::string();
 }
 
@@ -185,9 +184,9 @@ std::string cleanWords(const PenaltyRates& rates) {
     if (!rates.clean)
         return "No whole run is known by gate.";
     const RateOf& clean = *rates.clean;
-    return fmt::format("{} of {} without a penalty: {:.1f} % ({:.1f}–{:.1f}).", clean.count,
-                       counted(clean.of, "whole run", "whole runs"), 100 * clean.rate,
-                       100 * clean.interval.low, 100 * clean.interval.high);
+    return say("{} of {} without a penalty: {:.1f} % ({:.1f}–{:.1f}).", clean.count,
+               counted(clean.of, "whole run", "whole runs"), 100 * clean.rate,
+               100 * clean.interval.low, 100 * clean.interval.high);
 }
 
 } // namespace kavela

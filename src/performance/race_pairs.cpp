@@ -1,5 +1,6 @@
 #include "performance/race_pairs.h"
 
+#include "common/text.h"
 #include "performance/season_rules.h"
 
 #include <fmt/format.h>
@@ -123,7 +124,7 @@ std::optional<RateOf> raceRate(const SeasonMember& member, RaceRate rate, Why* w
             continue;
         ++reached;
         if (why)
-            why->input(fmt::format("{} {} {}, place", race.year, race.event, race.location),
+            why->input(say("{} {} {}, place", race.year, race.event, race.location),
                        static_cast<double>(race.finalPos));
     }
     const auto found = rateOf(reached, of);
@@ -131,11 +132,11 @@ std::optional<RateOf> raceRate(const SeasonMember& member, RaceRate rate, Why* w
         why->input("counted", static_cast<double>(of));
         const std::size_t leftOut = member.races.size() - of;
         if (leftOut > 0)
-            why->note(fmt::format("{} left out: {}", leftOut,
-                                  rate == RaceRate::Medals ? "final position not known"
-                                                           : "no phase entered"));
+            why->note(
+                say("{} left out: {}", leftOut,
+                    rate == RaceRate::Medals ? "final position not known" : "no phase entered"));
         why->uncertain(found->interval, "90 %, Wilson");
-        why->result(ruleOf(ruleOfRate(rate)), found->rate, fmt::format("{} of {}", reached, of));
+        why->result(ruleOf(ruleOfRate(rate)), found->rate, say("{} of {}", reached, of));
     }
     return found;
 }

@@ -1,5 +1,6 @@
 #include "performance/season.h"
 
+#include "common/text.h"
 #include "performance/season_reasons.h"
 #include "performance/season_rules.h"
 
@@ -50,8 +51,8 @@ std::optional<double> medianOfRaces(const std::vector<PercentOfRace>& races, Why
 }
 
 std::string rateLine(std::string_view what, const RateOf& rate) {
-    return fmt::format("{} {} of {} ({:.0f}–{:.0f} %)", what, rate.count, rate.of,
-                       100 * rate.interval.low, 100 * rate.interval.high);
+    return say("{} {} of {} ({:.0f}–{:.0f} %)", what, rate.count, rate.of, 100 * rate.interval.low,
+               100 * rate.interval.high);
 }
 
 } // namespace
@@ -93,12 +94,12 @@ std::vector<std::string> SeasonFigures::lines() const {
     std::vector<std::string> lines;
     if (percent)
         lines.push_back(
-            fmt::format("{:.1f} % behind the winner, {} (median of {})", *percent, phase, runs));
+            say("{:.1f} % behind the winner, {} (median of {})", *percent, phase, runs));
     if (spread)
-        lines.push_back(fmt::format("within {:.1f} % from run to run", *spread));
+        lines.push_back(say("within {:.1f} % from run to run", *spread));
     if (trend.perYear)
         lines.push_back(
-            fmt::format("trend {:+.1f} % a year: {}", *trend.perYear, verdictText(trend.verdict)));
+            say("trend {:+.1f} % a year: {}", *trend.perYear, verdictText(trend.verdict)));
     if (medals)
         lines.push_back(rateLine("medals", *medals));
     if (finals)

@@ -1,6 +1,7 @@
 #include "performance/season_charts.h"
 
 #include "common/number_text.h"
+#include "common/text.h"
 #include "performance/season_reasons.h"
 
 #include <fmt/format.h>
@@ -21,17 +22,16 @@ const SeasonMember& memberOf(const Season& season, const SeasonAthlete& athlete)
 std::string trendSentence(const std::string& name, std::string_view whom,
                           const SeasonTrend& trend) {
     if (!trend.perYear)
-        return fmt::format("{}: too few runs to tell a trend behind {}.", name, whom);
+        return say("{}: too few runs to tell a trend behind {}.", name, whom);
     const std::string range =
-        trend.interval
-            ? fmt::format(" ({:+.1f} to {:+.1f})", trend.interval->low, trend.interval->high)
-            : std::string();
-    return fmt::format("{}: {:+.1f} % a year behind {}{}, {}.", name, *trend.perYear, whom, range,
-                       verdictText(trend.verdict));
+        trend.interval ? say(" ({:+.1f} to {:+.1f})", trend.interval->low, trend.interval->high)
+                       : std::string();
+    return say("{}: {:+.1f} % a year behind {}{}, {}.", name, *trend.perYear, whom, range,
+               verdictText(trend.verdict));
 }
 
 std::string seasonCounted(std::size_t count, std::string_view one, std::string_view many) {
-    return fmt::format("{} {}", count, count == 1 ? one : many);
+    return countedWords(static_cast<std::int64_t>(count), one, many);
 }
 
 BenchmarkChart::Box boxOf(const Benchmark& benchmark) {
@@ -67,9 +67,8 @@ ProgressionChart progressionChart(const Season& season, std::size_t athlete, Tre
         chart.medalLine = medal->median;
     const SeasonAthlete& figures = season.athletes[athlete];
     if (chart.points.empty())
-        chart.sentence =
-            fmt::format("{} of {}'s races is known.",
-                        of == TrendOf::Winner ? "No winner" : "No fastest split", member.name);
+        chart.sentence = say("{} of {}'s races is known.",
+                             of == TrendOf::Winner ? "No winner" : "No fastest split", member.name);
     else if (of == TrendOf::Winner)
         chart.sentence = trendSentence(member.name, "the winners", figures.toWinner);
     else
@@ -95,14 +94,14 @@ SeasonIntervalChart spreadChart(const Season& season) {
                               athlete.spread.runs, false});
     }
     if (!season.spread.cv)
-        chart.sentence = "Too few runs to tell how much they vary.";
+        chart.sentence = say("Too few runs to tell how much they vary.");
     else if (!season.spread.interval)
-        chart.sentence = fmt::format("From run to run {:.1f} % is chance.", *season.spread.cv);
+        chart.sentence = say("From run to run {:.1f} % is chance.", *season.spread.cv);
     else
-        chart.sentence = fmt::format(
-            "From run to run {:.1f} % ({:.1f} to {:.1f}) is chance; {:.2f} % is worth gaining.",
-            *season.spread.cv, season.spread.interval->low, season.spread.interval->high,
-            *season.spread.worthwhile);
+        chart.sentence =
+            say("From run to run {:.1f} % ({:.1f} to {:.1f}) is chance; {:.2f} % is worth gaining.",
+                *season.spread.cv, season.spread.interval->low, season.spread.interval->high,
+                *season.spread.worthwhile);
     return chart;
 }
 
@@ -121,8 +120,8 @@ SeasonIntervalChart trendChart(const Season& season, TrendOf of) {
         faster += trend.verdict == TrendVerdict::Faster ? 1 : 0;
         slower += trend.verdict == TrendVerdict::Slower ? 1 : 0;
     }
-    chart.sentence = fmt::format("{} of {} grew faster beyond doubt, {} slower.", faster,
-                                 seasonCounted(chart.rows.size(), "athlete", "athletes"), slower);
+    chart.sentence = say("{} of {} grew faster beyond doubt, {} slower.", faster,
+                         seasonCounted(chart.rows.size(), "athlete", "athletes"), slower);
     return chart;
 }
 
@@ -143,10 +142,9 @@ SeasonIntervalChart headToHeadChart(const Season& season, std::size_t athlete, s
                               Interval{100 * head.interval.low, 100 * head.interval.high}, head.met,
                               head.interval.low > Half / 100 || head.interval.high < Half / 100});
     }
-    chart.sentence = own.heads.empty()
-                         ? fmt::format("{} met nobody in these races.", name)
-                         : fmt::format("{} is ahead beyond doubt of {} of {}.", name, ahead,
-                                       seasonCounted(own.heads.size(), "rival", "rivals"));
+    chart.sentence = own.heads.empty() ? say("{} met nobody in these races.", name)
+                                       : say("{} is ahead beyond doubt of {} of {}.", name, ahead,
+                                             seasonCounted(own.heads.size(), "rival", "rivals"));
     return chart;
 }
 
@@ -161,16 +159,14 @@ BenchmarkChart benchmarkChart(const Season& season, std::string_view phase,
         chart.own = medianPercent(memberOf(season, season.athletes.at(*athlete)), phase);
     const Benchmark* const medal = benchmarkAt(season.benchmarks, phase, MedalRank);
     if (!medal)
-        chart.sentence =
-            fmt::format("No split file of this class has three whole runs of a {}.", phase);
+        chart.sentence = say("No split file of this class has three whole runs of a {}.", phase);
     else if (chart.own)
         chart.sentence =
-            fmt::format("{:.1f} % would have been among the first three in {} of {}.", *chart.own,
-                        wouldHaveReached(*medal, *chart.own), medal->values.size());
+            say("{:.1f} % would have been among the first three in {} of {}.", *chart.own,
+                wouldHaveReached(*medal, *chart.own), medal->values.size());
     else
-        chart.sentence =
-            fmt::format("The third was {:.1f} % behind in the median of {}.", medal->median,
-                        seasonCounted(medal->values.size(), "race", "races"));
+        chart.sentence = say("The third was {:.1f} % behind in the median of {}.", medal->median,
+                             seasonCounted(medal->values.size(), "race", "races"));
     return chart;
 }
 
@@ -183,11 +179,10 @@ PlacesChart placesChart(const Season& season) {
     }
     const auto best = std::ranges::find_if(chart.rows, &PlacesChart::Row::isMember);
     if (best == chart.rows.end())
-        chart.sentence = "Nobody of the team has runs enough to expect a place of.";
+        chart.sentence = say("Nobody of the team has runs enough to expect a place of.");
     else
-        chart.sentence =
-            fmt::format("{} may expect place {:.1f} of {}, a medal by {:.0f} %.", best->name,
-                        best->expected, chart.rows.size(), 100 * best->medal);
+        chart.sentence = say("{} may expect place {:.1f} of {}, a medal by {:.0f} %.", best->name,
+                             best->expected, chart.rows.size(), 100 * best->medal);
     return chart;
 }
 
@@ -195,9 +190,9 @@ std::string medalSentence(std::span<const Benchmark> all, double percent) {
     const Benchmark* const medal = benchmarkAt(all, LastPhase, MedalRank);
     if (!medal)
         return {};
-    return fmt::format("{:.1f} % would have been a medal in {} of {}", percent,
-                       wouldHaveReached(*medal, percent),
-                       seasonCounted(medal->values.size(), "final", "finals"));
+    return say("{:.1f} % would have been a medal in {} of {}", percent,
+               wouldHaveReached(*medal, percent),
+               seasonCounted(medal->values.size(), "final", "finals"));
 }
 
 } // namespace kavela

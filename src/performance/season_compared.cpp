@@ -1,5 +1,6 @@
 #include "performance/season_compared.h"
 
+#include "common/text.h"
 #include "performance/season_reasons.h"
 
 #include <fmt/format.h>
@@ -81,11 +82,11 @@ SeasonIntervalChart pairChart(const Season& season, RacePair pair) {
         faster += isFaster ? 1 : 0;
         slower += isSlower ? 1 : 0;
     }
-    chart.sentence =
-        known == 0 ? "Too few races with both to tell a change."
-                   : fmt::format("Of {} who have both often enough, {} {} beyond doubt faster in "
-                                 "{}, {} slower.",
-                                 known, faster, faster == 1 ? "is" : "are", laterOf(pair), slower);
+    chart.sentence = known == 0
+                         ? "Too few races with both to tell a change."
+                         : say("Of {} who have both often enough, {} {} beyond doubt faster in "
+                               "{}, {} slower.",
+                               known, faster, faster == 1 ? "is" : "are", laterOf(pair), slower);
     return chart;
 }
 
@@ -114,10 +115,10 @@ SeasonIntervalChart raceRateChart(const Season& season, RaceRate rate) {
         }
         chart.rows.push_back(std::move(row));
     }
-    chart.sentence = best ? fmt::format("{}: {}, {} of {} ({:.0f}–{:.0f} %).", words.most, *whose,
-                                        best->count, best->of, InPercent * best->interval.low,
-                                        InPercent * best->interval.high)
-                          : "No race of the team has a result that says so.";
+    chart.sentence =
+        best ? say("{}: {}, {} of {} ({:.0f}–{:.0f} %).", words.most, *whose, best->count, best->of,
+                   InPercent * best->interval.low, InPercent * best->interval.high)
+             : "No race of the team has a result that says so.";
     return chart;
 }
 
@@ -207,10 +208,9 @@ ComparisonChart comparisonChart(const Season& season, std::string_view phase) {
     for (const ComparisonChart::Line& line : chart.lines)
         if (line.percent && (!nearest || *line.percent < *nearest->percent))
             nearest = &line;
-    chart.sentence =
-        nearest ? fmt::format("Nearest to the winners ({}): {}, {:.1f} % (median of {}).", phase,
-                              nearest->name, *nearest->percent, nearest->runs)
-                : fmt::format("No winner of a phase \"{}\" of these races is known.", phase);
+    chart.sentence = nearest ? say("Nearest to the winners ({}): {}, {:.1f} % (median of {}).",
+                                   phase, nearest->name, *nearest->percent, nearest->runs)
+                             : say("No winner of a phase \"{}\" of these races is known.", phase);
     return chart;
 }
 

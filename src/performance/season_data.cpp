@@ -1,5 +1,6 @@
 #include "performance/season_data.h"
 
+#include "common/text.h"
 #include "facts/groups.h"
 #include "performance/penalty_passages.h"
 #include "performance/season_rules.h"
@@ -341,8 +342,7 @@ std::optional<double> percentBehindSplits(const PhaseResult& result, Why* why) {
         own += result.splits[i];
         fastest += best;
         if (why)
-            why->input(fmt::format("split {}, fastest of it {:.2f}", i + 1, best),
-                       result.splits[i]);
+            why->input(say("split {}, fastest of it {:.2f}", i + 1, best), result.splits[i]);
     }
     const double percent = 100 * (own / fastest - 1);
     if (why)

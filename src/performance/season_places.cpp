@@ -1,5 +1,6 @@
 #include "performance/season_places.h"
 
+#include "common/text.h"
 #include "performance/season_rules.h"
 
 #include <fmt/format.h>
@@ -117,8 +118,8 @@ void tellFigure(const SeasonData& data, const SeasonPlaces& places, const Expect
         return;
     }
     for (const ExpectedPlace& other : places.boats)
-        why.input(fmt::format("{}, spread {:.2f}, missed {:.1f} %", data.boats[other.boat].name,
-                              other.sd, 100 * other.fail),
+        why.input(say("{}, spread {:.2f}, missed {:.1f} %", data.boats[other.boat].name, other.sd,
+                      100 * other.fail),
                   other.mean);
     if (figure == PlaceFigure::Medal)
         why.result(ruleOf(SeasonRule::MedalChance), place.chances.medal,

@@ -1,5 +1,6 @@
 #include "performance/season_trend.h"
 
+#include "common/text.h"
 #include "performance/season_rules.h"
 #include "statistics/intervals.h"
 
@@ -31,9 +32,9 @@ std::vector<TrendPoint> trendPoints(const SeasonMember& member, TrendOf of, Why*
             points.push_back(
                 {phase.date.seconds / TrendDaySeconds, 100 * std::log1p(*percent / 100)});
             if (why)
-                why->input(fmt::format("{} {} {}, percent", dayText(phase.date), race.location,
-                                       phase.phase),
-                           *percent);
+                why->input(
+                    say("{} {} {}, percent", dayText(phase.date), race.location, phase.phase),
+                    *percent);
         }
     return points;
 }
@@ -57,13 +58,13 @@ TrendVerdict verdictOf(const Interval& interval) {
 std::string_view verdictText(TrendVerdict verdict) {
     switch (verdict) {
     case TrendVerdict::Faster:
-        return "faster";
+        return translated("faster");
     case TrendVerdict::Slower:
-        return "slower";
+        return translated("slower");
     case TrendVerdict::Unclear:
         break;
     }
-    return "unclear";
+    return translated("unclear");
 }
 
 SeasonTrend seasonTrend(const SeasonMember& member, TrendOf of, Why* why) {
@@ -87,10 +88,10 @@ SeasonTrend seasonTrend(const SeasonMember& member, TrendOf of, Why* why) {
     if (why) {
         if (trend.interval)
             why->uncertain(*trend.interval,
-                           fmt::format("90 %, Student's t with {} degrees", points.size() - 2));
+                           say("90 %, Student's t with {} degrees", points.size() - 2));
         why->note(std::string(verdictText(trend.verdict)));
         why->result(ruleOf(SeasonRule::Trend), *trend.perYear,
-                    fmt::format("{:+.1f} % a year", *trend.perYear));
+                    say("{:+.1f} % a year", *trend.perYear));
     }
     return trend;
 }

@@ -1,5 +1,6 @@
 #include "performance/spread.h"
 
+#include "common/text.h"
 #include "performance/season_rules.h"
 
 #include <fmt/format.h>
@@ -80,7 +81,7 @@ BoatSpread boatSpread(const SeasonData& data, const SeasonSpread& spread, std::s
         why->input("common spread, percent", *spread.cv);
         why->input("degrees of freedom", static_cast<double>(spread.df));
         if (own.missed > 0)
-            why->note(fmt::format("{} with a missed gate left out", own.missed));
+            why->note(say("{} with a missed gate left out", own.missed));
         const bool isShrunk = figure == BoatSpreadFigure::Shrunk;
         const double value = isShrunk ? *own.shrunk : *own.cv;
         why->result(ruleOf(isShrunk ? SeasonRule::ShrunkSpread : SeasonRule::OwnSpread), value,

@@ -7,6 +7,7 @@
 #include "report/interval_table.h"
 #include "report/list_styles.h"
 #include "report/page_frame.h"
+#include "report/said.h"
 #include "report/sheet_report.h"
 #include "report/small_lists.h"
 #include "report/wrapped_text.h"
@@ -31,14 +32,14 @@ struct FieldTitle {
     const char* title;
 };
 
-constexpr std::array FieldTitles{FieldTitle{"kind", "Sections"}, FieldTitle{"third", "Course"},
-                                 FieldTitle{"upstream", "Upstream gates"},
-                                 FieldTitle{"direction", "Direction"},
-                                 FieldTitle{"style", "Style"}};
+constexpr std::array FieldTitles{
+    FieldTitle{"kind", KAVELA_TEXT("Sections")}, FieldTitle{"third", KAVELA_TEXT("Course")},
+    FieldTitle{"upstream", KAVELA_TEXT("Upstream gates")},
+    FieldTitle{"direction", KAVELA_TEXT("Direction")}, FieldTitle{"style", KAVELA_TEXT("Style")}};
 
 QString fieldTitle(std::string_view field) {
     const auto found = std::ranges::find(FieldTitles, field, &FieldTitle::field);
-    return found == FieldTitles.end() ? reportText(field) : QString::fromLatin1(found->title);
+    return found == FieldTitles.end() ? reportText(field) : said(found->title);
 }
 
 QString signedSeconds(double seconds) {
@@ -47,34 +48,35 @@ QString signedSeconds(double seconds) {
 
 QString meanWords(const MeanOf& mean) {
     if (mean.n == 0)
-        return QStringLiteral("not known");
-    return signedSeconds(mean.mean) + (mean.interval ? QStringLiteral(" (%1 to %2)")
+        return said("not known");
+    return signedSeconds(mean.mean) + (mean.interval ? said(" (%1 to %2)")
                                                            .arg(signedSeconds(mean.interval->low),
                                                                 signedSeconds(mean.interval->high))
-                                                     : QStringLiteral(" (too few)"));
+                                                     : said(" (too few)"));
 }
 
 QString rateWords(const RateOf& rate) {
-    return QString::asprintf("%.1f", rate.rate * 100);
+    return saidNumbers(QString::asprintf("%.1f", rate.rate * 100));
 }
 
 QString rateRange(const RateOf& rate) {
-    return QString::asprintf("%.1f–%.1f", rate.interval.low * 100, rate.interval.high * 100);
+    return saidNumbers(
+        QString::asprintf("%.1f–%.1f", rate.interval.low * 100, rate.interval.high * 100));
 }
 
 QString countWords(const RateOf& rate) {
-    return QStringLiteral("%1 of %2").arg(rate.count).arg(rate.of);
+    return said("%1 of %2").arg(rate.count).arg(rate.of);
 }
 
 QString runsWords(const FactStore& facts, const SeasonLosses& season) {
     std::set<std::uint32_t> files;
     for (const std::size_t run : season.runs)
         files.insert(facts.runs()[run].file);
-    return QStringLiteral("%1 whole %2 in %3 %4")
-        .arg(season.runs.size())
-        .arg(season.runs.size() == 1 ? QStringLiteral("run") : QStringLiteral("runs"))
-        .arg(files.size())
-        .arg(files.size() == 1 ? QStringLiteral("file") : QStringLiteral("files"));
+    return said("%1 in %2")
+        .arg(QString::fromStdString(sayCount(static_cast<std::int64_t>(season.runs.size()),
+                                             "{} whole run", "{} whole runs")),
+             QString::fromStdString(
+                 sayCount(static_cast<std::int64_t>(files.size()), "{} file", "{} files")));
 }
 
 /// The page of one athlete as it is being filled.
@@ -89,7 +91,7 @@ public:
             m_heading.title = reportText(facts.text(facts.runs()[runs.front()].crew));
         m_heading.subtitle = categories(runs);
         m_heading.line =
-            QStringLiteral("Losses and penalties · %1on the reference \"%2\" · %3")
+            said("Losses and penalties · %1on the reference \"%2\" · %3")
                 .arg(m_heading.subtitle.isEmpty() ? QString()
                                                   : m_heading.subtitle + QStringLiteral(" · "),
                      reportText(textOf(query.reference)), runsWords(facts, m_losses));
@@ -136,32 +138,31 @@ private:
 
     void putLosses() {
         const IntervalTable table = lossTable();
-        putHeading(QStringLiteral("Where time is lost"),
-                   QStringLiteral("Seconds a run: gap %1, penalties %2")
+        putHeading(said("Where time is lost"),
+                   said("Seconds a run: gap %1, penalties %2")
                        .arg(meanWords(m_losses.gap), meanWords(m_losses.penalties)),
                    heightOf(table));
         if (table.rows.empty())
-            putText(QStringLiteral("No whole run can be held against this reference."), NoteStyle);
+            putText(said("No whole run can be held against this reference."), NoteStyle);
         else
             putIntervalTable(m_pages, table, m_typeface);
         if (m_losses.rows.size() > MostLossRows)
-            putText(QStringLiteral("%1 more rows are left out.")
-                        .arg(m_losses.rows.size() - MostLossRows),
+            putText(said("%1 more rows are left out.").arg(m_losses.rows.size() - MostLossRows),
                     NoteStyle);
         m_pages.skip(AthleteGap);
     }
 
     [[nodiscard]] IntervalTable lossTable() const {
         IntervalTable table;
-        table.columns = {{QStringLiteral("In"), 64, Qt::AlignLeft},
+        table.columns = {{said("In"), 64, Qt::AlignLeft},
                          {QString(), 82, Qt::AlignLeft},
-                         {QStringLiteral("Runs"), 20},
-                         {QStringLiteral("Lost, s"), 36},
-                         {QStringLiteral("A run, s"), 32},
-                         {QStringLiteral("Percent"), 28},
-                         {QStringLiteral("90 % interval"), 58},
+                         {said("Runs"), 20},
+                         {said("Lost, s"), 36},
+                         {said("A run, s"), 32},
+                         {said("Percent"), 28},
+                         {said("90 % interval"), 58},
                          {},
-                         {QStringLiteral("Verdict"), 34, Qt::AlignLeft}};
+                         {said("Verdict"), 34, Qt::AlignLeft}};
         table.drawn = 7;
         table.unit = QStringLiteral(" %");
         std::string field;
@@ -169,13 +170,13 @@ private:
             const bool isFirst = row.field != field;
             field = row.field;
             const QString range =
-                row.interval
-                    ? QString::asprintf("%+.1f to %+.1f", row.interval->low, row.interval->high)
-                    : QStringLiteral("too few");
+                row.interval ? QString::fromStdString(
+                                   say("{:+.1f} to {:+.1f}", row.interval->low, row.interval->high))
+                             : said("too few");
             table.rows.push_back(
                 {{isFirst ? fieldTitle(field) : QString(), reportText(row.text),
                   QString::number(row.runs), signedSeconds(row.loss), signedSeconds(row.perRun),
-                  QString::asprintf("%+.1f", row.percent), range, QString(),
+                  saidNumbers(QString::asprintf("%+.1f", row.percent)), range, QString(),
                   row.interval ? QString::fromStdString(std::string(verdictText(row.verdict)))
                                : Dash},
                  row.percent,
@@ -190,7 +191,7 @@ private:
         const RunRow& run = m_facts.runs()[clip.run];
         const std::string where =
             clip.gate ? "gate " + std::to_string(*clip.gate) : sectionsText(clip.first, clip.last);
-        return QStringLiteral("%1, run %2, %3 %4")
+        return said("%1, run %2, %3 %4")
             .arg(reportText(m_facts.pathOf(run).stem().string()))
             .arg(run.number)
             .arg(reportText(where), signedSeconds(clip.loss));
@@ -198,15 +199,14 @@ private:
 
     void putTraining() {
         constexpr qreal AboutAll = 70 * Point;
-        putHeading(QStringLiteral("What to train"),
-                   QStringLiteral("whose whole interval is above 0, by what it costs in a run"),
-                   AboutAll);
+        putHeading(said("What to train"),
+                   said("whose whole interval is above 0, by what it costs in a run"), AboutAll);
         if (m_losses.train.empty())
-            putText(QStringLiteral("Nothing stands out from these runs."), NoteStyle);
+            putText(said("Nothing stands out from these runs."), NoteStyle);
         for (std::size_t i = 0; i < m_losses.train.size(); ++i) {
             const SeasonLossRow& row = m_losses.rows[m_losses.train[i]];
             putText(
-                QStringLiteral("%1. %2, %3: %4 s a run")
+                said("%1. %2, %3: %4 s a run")
                     .arg(i + 1)
                     .arg(fieldTitle(row.field), reportText(row.text), signedSeconds(row.perRun)),
                 TrainStyle);
@@ -214,8 +214,7 @@ private:
             for (const LossClip& clip : row.clips)
                 clips.append(clipWords(clip));
             if (!clips.isEmpty())
-                putText(QStringLiteral("See ") + clips.join(QStringLiteral("; ")), NoteStyle,
-                        12 * Point);
+                putText(said("See ") + clips.join(QStringLiteral("; ")), NoteStyle, 12 * Point);
         }
         m_pages.skip(AthleteGap);
     }
@@ -244,27 +243,27 @@ private:
 
     [[nodiscard]] IntervalTable penaltyTable(const PenaltyRates& all) const {
         IntervalTable table;
-        table.columns = {{QStringLiteral("Gates"), 64, Qt::AlignLeft},
+        table.columns = {{said("Gates"), 64, Qt::AlignLeft},
                          {QString(), 52, Qt::AlignLeft},
-                         {QStringLiteral("Touches"), 40},
-                         {QStringLiteral("Percent"), 28},
-                         {QStringLiteral("90 % interval"), 48},
+                         {said("Touches"), 40},
+                         {said("Percent"), 28},
+                         {said("90 % interval"), 48},
                          {},
-                         {QStringLiteral("Missed"), 40},
-                         {QStringLiteral("Percent, 90 %"), 48}};
+                         {said("Missed"), 40},
+                         {said("Percent, 90 %"), 48}};
         table.drawn = 5;
         table.unit = QStringLiteral(" %");
         for (const RateRow& row : all.rows)
-            addRates(table, QStringLiteral("All"), QString(), row);
+            addRates(table, said("All"), QString(), row);
         PenaltyRates types = penaltyRates(m_facts, RateBy::Type, m_choice);
         std::ranges::sort(types.rows, {}, &RateRow::key);
         for (std::size_t i = 0; i < types.rows.size(); ++i)
-            addRates(table, i == 0 ? QStringLiteral("Type") : QString(),
-                     reportText(types.rows[i].label), types.rows[i]);
+            addRates(table, i == 0 ? said("Type") : QString(), reportText(types.rows[i].label),
+                     types.rows[i]);
         PenaltyRates tenths = penaltyRates(m_facts, RateBy::Tenth, m_choice);
         std::ranges::sort(tenths.rows, {}, &RateRow::number);
         for (std::size_t i = 0; i < tenths.rows.size(); ++i)
-            addRates(table, i == 0 ? QStringLiteral("Tenth of course") : QString(),
+            addRates(table, i == 0 ? said("Tenth of course") : QString(),
                      reportText(tenths.rows[i].label), tenths.rows[i]);
         return table;
     }
@@ -272,10 +271,9 @@ private:
     void putPenalties() {
         const PenaltyRates all = penaltyRates(m_facts, RateBy::Crew, m_choice);
         const IntervalTable table = penaltyTable(all);
-        putHeading(QStringLiteral("Penalties"), QString::fromStdString(cleanWords(all)),
-                   heightOf(table));
+        putHeading(said("Penalties"), QString::fromStdString(cleanWords(all)), heightOf(table));
         if (table.rows.empty())
-            putText(QStringLiteral("No run tells its penalties by gate."), NoteStyle);
+            putText(said("No run tells its penalties by gate."), NoteStyle);
         else
             putIntervalTable(m_pages, table, m_typeface);
         m_pages.skip(AthleteGap / 2);
@@ -289,11 +287,10 @@ private:
         constexpr qreal AboutAll = 90 * Point;
         if (m_pages.space().height() < AboutAll)
             m_pages.newPage();
-        putText(
-            QStringLiteral("Noted of %1 %2, shares of those noted:")
-                .arg(details.noted)
-                .arg(details.noted == 1 ? QStringLiteral("penalty") : QStringLiteral("penalties")),
-            NoteStyle);
+        putText(said("Noted of %1 %2, shares of those noted:")
+                    .arg(details.noted)
+                    .arg(details.noted == 1 ? said("penalty") : said("penalties")),
+                NoteStyle);
         for (const DetailField& field : DetailFields) {
             QStringList shares;
             for (const DetailRow& row : details.rows)

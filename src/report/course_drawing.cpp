@@ -1,6 +1,7 @@
 #include "report/course_drawing.h"
 
 #include "report/list_styles.h"
+#include "report/said.h"
 
 #include <QPainter>
 #include <QPolygonF>
@@ -214,8 +215,7 @@ void putCourse(PageBuilder& pages, const RunCourse& course, const Typeface& type
     if (course.gates.empty())
         return;
     pages.put(CourseTitleHeight, [=](QPainter& painter, const QRectF& place) {
-        typeface.draw(painter, place, Qt::AlignLeft, QStringLiteral("Penalties by gate"),
-                      ListTitleStyle);
+        typeface.draw(painter, place, Qt::AlignLeft, said("Penalties by gate"), ListTitleStyle);
         typeface.draw(painter, place.adjusted(place.width() * 0.4, 0, 0, 0), Qt::AlignRight,
                       course.remark, Caption);
     });
@@ -223,7 +223,7 @@ void putCourse(PageBuilder& pages, const RunCourse& course, const Typeface& type
         paintKey(painter, place, typeface);
         if (course.leftOut > 0)
             typeface.draw(painter, place, Qt::AlignRight,
-                          QStringLiteral("and %1 more gates").arg(course.leftOut), Caption);
+                          said("and %1 more gates").arg(course.leftOut), Caption);
     });
     pages.skip(5 * Point);
     const std::size_t shown = std::min(course.gates.size(), MostDrawnGates);

@@ -1,6 +1,7 @@
 #include "report/gate_chart.h"
 
 #include "report/list_styles.h"
+#include "report/said.h"
 #include "report/small_lists.h"
 
 #include <QPainter>
@@ -33,7 +34,7 @@ void paintUpstreamMark(QPainter& painter, const QPointF& top) {
 }
 
 QString counted(std::int64_t count, const char* one, const char* more) {
-    return QString::number(count) + ' ' + QString::fromLatin1(count == 1 ? one : more);
+    return QString::fromStdString(countedWords(count, one, more));
 }
 
 QString remark(const CoursePenalties& penalties) {
@@ -44,7 +45,7 @@ QString remark(const CoursePenalties& penalties) {
         missed += gate.missed;
     }
     return counted(touches, "touch", "touches") + QStringLiteral(", ") +
-           counted(missed, "missed gate", "missed gates") + QStringLiteral(" in ") +
+           counted(missed, "missed gate", "missed gates") + said(" in ") +
            counted(static_cast<std::int64_t>(penalties.countedRuns), "run", "runs");
 }
 
@@ -79,7 +80,7 @@ public:
         paintEntry(painter, line, Accent, "missed gate");
         paintUpstreamMark(painter, {line.left() + Swatch / 2, line.center().y() - 2.2 * Point});
         line.setLeft(line.left() + Swatch * 1.6);
-        m_typeface.draw(painter, line, Qt::AlignLeft, QStringLiteral("upstream gate"), Caption);
+        m_typeface.draw(painter, line, Qt::AlignLeft, said("upstream gate"), Caption);
     }
 
 private:
@@ -134,10 +135,10 @@ void putGateChart(PageBuilder& pages, const CoursePenalties& penalties, const Ty
     const GateChart chart(penalties, typeface);
     if (pages.space().height() < SectionHeadingHeight + KeyHeight + chart.height())
         pages.newPage();
-    pages.put(SectionHeadingHeight, [text = remark(penalties), typeface](QPainter& painter,
-                                                                         const QRectF& place) {
-        paintSectionHeading(painter, place, QStringLiteral("Penalties by gate"), text, typeface);
-    });
+    pages.put(SectionHeadingHeight,
+              [text = remark(penalties), typeface](QPainter& painter, const QRectF& place) {
+                  paintSectionHeading(painter, place, said("Penalties by gate"), text, typeface);
+              });
     pages.put(KeyHeight,
               [chart](QPainter& painter, const QRectF& place) { chart.paintKey(painter, place); });
     pages.put(chart.height(),

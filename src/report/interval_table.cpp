@@ -1,6 +1,7 @@
 #include "report/interval_table.h"
 
 #include "report/list_styles.h"
+#include "report/said.h"
 
 #include <QPainter>
 
@@ -87,7 +88,7 @@ private:
             constexpr qreal Half = 20 * Point;
             m_typeface.draw(painter, {at(scale, value) - Half, line.top(), 2 * Half, line.height()},
                             Qt::AlignHCenter,
-                            QString::number(value, 'f', std::abs(value) < 10 ? 1 : 0) +
+                            saidNumbers(QString::number(value, 'f', std::abs(value) < 10 ? 1 : 0)) +
                                 m_table.unit,
                             HeadStyle);
         };

@@ -1,6 +1,7 @@
 #include "report/legend.h"
 
 #include "report/list_styles.h"
+#include "report/said.h"
 
 #include <QPainter>
 
@@ -42,12 +43,12 @@ struct ScaleWords {
 
 ScaleWords scaleWords(const ReportTable& table) {
     const bool isBlue = table.scale == ColourScale::BlueOrange;
-    const QString best = isBlue ? QStringLiteral("blue") : QStringLiteral("green");
-    const QString other = isBlue ? QStringLiteral("orange") : QStringLiteral("red");
+    const QString best = isBlue ? said("blue") : said("green");
+    const QString other = isBlue ? said("orange") : said("red");
     if (table.isTinted)
-        return {QStringLiteral("fastest*, %1").arg(best),
-                QStringLiteral("%1, slowest, by tenths of the column").arg(other)};
-    return {QStringLiteral("* best of its column, in %1; all others in %2").arg(best, other), {}};
+        return {said("fastest*, %1").arg(best),
+                said("%1, slowest, by tenths of the column").arg(other)};
+    return {said("* best of its column, in %1; all others in %2").arg(best, other), {}};
 }
 
 qreal scaleWidth(const ReportTable& table, const Typeface& typeface) {

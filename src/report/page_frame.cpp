@@ -1,5 +1,7 @@
 #include "report/page_frame.h"
 
+#include "report/said.h"
+
 #include <QPainter>
 
 #include <algorithm>
@@ -87,8 +89,8 @@ void paintPageHead(QPainter& painter, const QRectF& place, const ReportHeading& 
 
 void paintPageNumber(QPainter& painter, const QRectF& place, int page, int pages,
                      const Typeface& typeface) {
-    typeface.draw(painter, place, Qt::AlignRight,
-                  QStringLiteral("Page %1 / %2").arg(page).arg(pages), {7.5, false, Quiet});
+    typeface.draw(painter, place, Qt::AlignRight, said("Page %1 / %2").arg(page).arg(pages),
+                  {7.5, false, Quiet});
 }
 
 } // namespace kavela::report

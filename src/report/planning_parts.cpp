@@ -2,6 +2,7 @@
 
 #include "common/number_text.h"
 #include "report/list_styles.h"
+#include "report/said.h"
 
 #include <QDate>
 #include <QLocale>
@@ -79,15 +80,15 @@ void paintTotalsHead(QPainter& painter, const QRectF& line, const Typeface& type
     const TotalPlaces above = totalPlaces(half);
     const TotalPlaces at = totalPlaces(half.translated(0, HeadLine));
     const auto write = [&](const QRectF& place, Qt::Alignment alignment, const char* text) {
-        typeface.draw(painter, place, alignment, QString::fromLatin1(text), HeadStyle);
+        typeface.draw(painter, place, alignment, said(text), HeadStyle);
     };
-    write(above.planned | above.listed, Qt::AlignRight, "Sessions");
-    write(above.plannedAmount | above.listedAmount, Qt::AlignRight, "Quantity");
-    write(at.category, Qt::AlignLeft, "Category");
+    write(above.planned | above.listed, Qt::AlignRight, KAVELA_TEXT("Sessions"));
+    write(above.plannedAmount | above.listedAmount, Qt::AlignRight, KAVELA_TEXT("Quantity"));
+    write(at.category, Qt::AlignLeft, KAVELA_TEXT("Category"));
     for (const QRectF& place : {at.planned, at.plannedAmount})
-        write(place, Qt::AlignRight, "plan");
+        write(place, Qt::AlignRight, KAVELA_TEXT("plan"));
     for (const QRectF& place : {at.listed, at.listedAmount})
-        write(place, Qt::AlignRight, "listed");
+        write(place, Qt::AlignRight, KAVELA_TEXT("listed"));
     write(at.percent, Qt::AlignRight, "%");
     drawRule(painter, line, line.bottom(), Accent, 0.6);
 }
@@ -130,7 +131,7 @@ QDate dateOf(std::chrono::sys_days day) {
 QString amountText(double amount) {
     if (amount == 0 || !std::isfinite(amount))
         return Dash;
-    const std::string text = shortestText(roundedToHundredths(amount));
+    const std::string text = saidNumber(shortestText(roundedToHundredths(amount)));
     constexpr std::size_t Longest = 9; // more digits only come from damaged files
     return text.size() > Longest ? QString::number(amount, 'g', 3) : QString::fromStdString(text);
 }
@@ -183,7 +184,7 @@ void putTotals(PageBuilder& pages, const std::vector<CategoryTotal>& totals, qre
     if (shown->empty())
         return put(RowHeight, [=](QPainter& painter, const QRectF& place) {
             typeface.draw(painter, place, Qt::AlignLeft,
-                          QStringLiteral("Nothing is planned and nothing entered."), QuietStyle);
+                          said("Nothing is planned and nothing entered."), QuietStyle);
         });
     put(HeadHeight,
         [=](QPainter& painter, const QRectF& place) { paintTotalsHead(painter, place, typeface); });

@@ -5,6 +5,7 @@
 #include "report/page_frame.h"
 #include "report/planning_parts.h"
 #include "report/planning_season_weeks.h"
+#include "report/said.h"
 #include "report/sheet_report.h"
 #include "report/wrapped_text.h"
 
@@ -43,27 +44,26 @@ std::size_t macrocycleCount(const std::vector<microsplanning_v5>& weeks) {
 ReportHeading seasonHeadingOf(std::string_view athlete, const yearsplannings_v6& season) {
     ReportHeading heading;
     heading.title = reportText(athlete);
-    heading.subtitle = QStringLiteral("Season %1").arg(season.year);
+    heading.subtitle = said("Season %1").arg(season.year);
     if (heading.title.isEmpty())
         heading.title = std::exchange(heading.subtitle, QString());
-    heading.line = QStringLiteral("Season %1").arg(season.year);
+    heading.line = said("Season %1").arg(season.year);
     std::size_t sessions = 0;
     for (const microsplanning_v5& week : season.micros)
         sessions += week.sessions.size();
     const auto events = std::ranges::count_if(
         season.micros, [](const microsplanning_v5& week) { return !week.event.empty(); });
-    heading.facts = {
-        {QStringLiteral("Weeks"), countOf(season.micros.size())},
-        {QStringLiteral("Macrocycles"), countOf(macrocycleCount(season.micros))},
-        {QStringLiteral("Weeks with an event"), countOf(static_cast<std::size_t>(events))},
-        {QStringLiteral("Sessions"), countOf(sessions)},
-        {QStringLiteral("Races run"), countOf(season.statisticsdata.racedata.date.size())}};
+    heading.facts = {{said("Weeks"), countOf(season.micros.size())},
+                     {said("Macrocycles"), countOf(macrocycleCount(season.micros))},
+                     {said("Weeks with an event"), countOf(static_cast<std::size_t>(events))},
+                     {said("Sessions"), countOf(sessions)},
+                     {said("Races run"), countOf(season.statisticsdata.racedata.date.size())}};
     return heading;
 }
 
 void putNote(PageBuilder& pages, const char* text, const Typeface& typeface) {
     pages.put(16 * Point, [=](QPainter& painter, const QRectF& place) {
-        typeface.draw(painter, place, Qt::AlignLeft, QString::fromLatin1(text), SeasonNoteStyle);
+        typeface.draw(painter, place, Qt::AlignLeft, said(text), SeasonNoteStyle);
     });
 }
 
@@ -108,9 +108,9 @@ void putGroup(PageBuilder& pages, const yearsplannings_v6& season, std::size_t g
     const GoalProgress progress = goalProgress(season, group);
     QString title = reportText(goalGroupName(season, group));
     if (title.isEmpty())
-        title = QStringLiteral("Group %1").arg(group + 1);
+        title = said("Group %1").arg(group + 1);
     if (progress.count > 0)
-        title += QStringLiteral("  ·  %1 of %2 reached").arg(progress.reached).arg(progress.count);
+        title += said("  ·  %1 of %2 reached").arg(progress.reached).arg(progress.count);
     if (pages.space().height() < 3 * lineHeight(GroupStyle))
         pages.newPage();
     putLines(pages, {title}, GroupStyle, typeface);
@@ -130,8 +130,7 @@ void putSeasonGoals(PageBuilder& pages, const yearsplannings_v6& season, const T
     if (groups == 0)
         return;
     pages.skip(SeasonPartGap);
-    putPartTitle(pages, QStringLiteral("Goals of the season"), 4 * lineHeight(GroupStyle),
-                 typeface);
+    putPartTitle(pages, said("Goals of the season"), 4 * lineHeight(GroupStyle), typeface);
     for (std::size_t group = 0; group < groups; ++group)
         putGroup(pages, season, group, typeface);
 }
@@ -145,12 +144,12 @@ std::unique_ptr<PagedReport> planningSeasonReport(std::string_view athlete,
     PageBuilder pages(QPageLayout::Portrait);
     putTitleBlock(pages, heading, typeface);
     if (season.micros.empty())
-        putNote(pages, "No week of this season is planned yet.", typeface);
+        putNote(pages, KAVELA_TEXT("No week of this season is planned yet."), typeface);
     else
         putSeasonWeeks(pages, season.micros, typeface);
     pages.skip(SeasonPartGap);
     const std::vector<CategoryTotal> totals = totalsOf(season.micros);
-    putPartTitle(pages, QStringLiteral("Training by category"),
+    putPartTitle(pages, said("Training by category"),
                  std::min(totalsHeight(totals), bodyPlace(pages.orientation()).height() / 2),
                  typeface);
     putTotals(pages, totals, pages.space().width(), typeface);

@@ -3,6 +3,7 @@
 #include "planning/calendar_day.h"
 #include "report/list_styles.h"
 #include "report/planning_parts.h"
+#include "report/said.h"
 
 #include <QPainter>
 #include <QStringList>
@@ -110,16 +111,16 @@ public:
     void paintHead(QPainter& painter, const QRectF& line) const {
         const Places at = places(line);
         const auto write = [&](const QRectF& place, Qt::Alignment alignment, const char* text) {
-            m_typeface.draw(painter, place, alignment, QString::fromLatin1(text), HeadStyle);
+            m_typeface.draw(painter, place, alignment, said(text), HeadStyle);
         };
-        write(at.number, Qt::AlignRight, "Week");
-        write(at.dates, Qt::AlignLeft, "Days");
-        write(at.macrocycle, Qt::AlignLeft, "Macrocycle");
-        write(at.mesocycle, Qt::AlignLeft, "Mesocycle");
-        write(at.bar | at.load, Qt::AlignLeft, "Load, %");
-        write(at.sessions.adjusted(-16 * Point, 0, 0, 0), Qt::AlignRight, "Sessions");
-        write(at.event, Qt::AlignLeft, "Event, place");
-        write(at.tests, Qt::AlignLeft, "Tests");
+        write(at.number, Qt::AlignRight, KAVELA_TEXT("Week"));
+        write(at.dates, Qt::AlignLeft, KAVELA_TEXT("Days"));
+        write(at.macrocycle, Qt::AlignLeft, KAVELA_TEXT("Macrocycle"));
+        write(at.mesocycle, Qt::AlignLeft, KAVELA_TEXT("Mesocycle"));
+        write(at.bar | at.load, Qt::AlignLeft, KAVELA_TEXT("Load, %"));
+        write(at.sessions.adjusted(-16 * Point, 0, 0, 0), Qt::AlignRight, KAVELA_TEXT("Sessions"));
+        write(at.event, Qt::AlignLeft, KAVELA_TEXT("Event, place"));
+        write(at.tests, Qt::AlignLeft, KAVELA_TEXT("Tests"));
         drawRule(painter, line, line.bottom(), Accent, 0.6);
     }
 

@@ -4,6 +4,7 @@
 #include "planning/day_parts.h"
 #include "planning/training_categories.h"
 #include "report/planning_parts.h"
+#include "report/said.h"
 #include "report/wrapped_text.h"
 #include "splitdata/run_timing.h"
 
@@ -41,8 +42,8 @@ constexpr std::size_t MostValues = 40;
 /// The columns; the last one only where a session stands in it.
 constexpr std::array DayColumns{DayPart::Morning, DayPart::Afternoon, DayPart::Evening,
                                 DayPart::AnyTime};
-constexpr std::array ColumnNames{"Morning", "Afternoon", "Evening", "Any time"};
-const auto OtherDays = QStringLiteral("Other days");
+constexpr std::array ColumnNames{KAVELA_TEXT("Morning"), KAVELA_TEXT("Afternoon"),
+                                 KAVELA_TEXT("Evening"), KAVELA_TEXT("Any time")};
 
 struct DayLine {
     QString text;
@@ -76,7 +77,7 @@ std::string valuesText(const sessioninmicro_v5& session) {
 std::string titleText(const sessioninmicro_v5& session) {
     std::string title = entryOrZero(session.titleanddes, 0);
     if (title.empty())
-        title = "Session";
+        title = say("Session");
     const auto time = timeOf(session);
     if (!time)
         return title;
@@ -108,8 +109,8 @@ public:
 
     void paintHead(QPainter& painter, const QRectF& place) const {
         for (std::size_t i = 0; i < m_columns; ++i)
-            m_typeface.draw(painter, column(place, i), Qt::AlignLeft,
-                            QString::fromLatin1(ColumnNames[i]), DayHeadStyle);
+            m_typeface.draw(painter, column(place, i), Qt::AlignLeft, said(ColumnNames[i]),
+                            DayHeadStyle);
         drawRule(painter, place, place.bottom(), Accent, 0.6);
     }
 
@@ -121,8 +122,8 @@ public:
         QRectF label(place.left(), top, DayWidth - 4 * Point, DayLineHeight);
         m_typeface.draw(painter, label, Qt::AlignLeft, day.name, DayStyle);
         label.translate(0, DayLineHeight);
-        m_typeface.draw(painter, label, Qt::AlignLeft,
-                        first == 0 ? day.date : QStringLiteral("continued"), DateStyle);
+        m_typeface.draw(painter, label, Qt::AlignLeft, first == 0 ? day.date : said("continued"),
+                        DateStyle);
         for (std::size_t part = 0; part < m_columns; ++part) {
             const auto& lines = day.columns[part];
             QRectF line = column(place, part);
@@ -148,7 +149,7 @@ private:
     }
 
     void addOtherDays(const microsplanning_v5& week, const std::vector<std::size_t>& sessions) {
-        Day& day = m_days.emplace_back(Day{OtherDays, {}, {}});
+        Day& day = m_days.emplace_back(Day{said("Other days"), {}, {}});
         for (const std::size_t index : sessions) {
             const sessioninmicro_v5& session = week.sessions[index];
             const auto date = dayOf(session);

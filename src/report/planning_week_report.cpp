@@ -4,6 +4,7 @@
 #include "report/page_frame.h"
 #include "report/planning_parts.h"
 #include "report/planning_week_days.h"
+#include "report/said.h"
 #include "report/sheet_report.h"
 #include "report/wrapped_text.h"
 
@@ -30,9 +31,9 @@ ReportHeading weekHeadingOf(std::string_view athlete, const microsplanning_v5& w
     ReportHeading heading;
     heading.title = reportText(athlete);
     if (heading.title.isEmpty())
-        heading.title = QStringLiteral("Training week");
+        heading.title = said("Training week");
     const auto first = dayOfMidnight(week.monday);
-    heading.subtitle = QStringLiteral("Week %1").arg(week.number);
+    heading.subtitle = said("Week %1").arg(week.number);
     if (first)
         heading.subtitle += QStringLiteral("  ·  ") + weekDates(*first);
     heading.line = heading.subtitle;
@@ -54,7 +55,7 @@ void putTests(PageBuilder& pages, const microsplanning_v5& week, const Typeface&
     if (tests.isEmpty())
         return;
     constexpr TextStyle Label{8.5, true, Accent};
-    const QString label = QStringLiteral("Tests");
+    const QString label = said("Tests");
     const qreal indent = typeface.width(label, Label) + 8 * Point;
     const QRectF line = pages.space();
     const auto lines =
@@ -93,8 +94,7 @@ bool putGoalsBeside(PageBuilder& pages, const microsplanning_v5& week, const QRe
         return false;
     QRectF line(place.left(), place.top(), place.width(), PartTitleHeight);
     pages.putAt(line, [=](QPainter& painter, const QRectF& at) {
-        typeface.draw(painter, at, Qt::AlignLeft, QStringLiteral("Goals of the week"),
-                      {10, true, Accent});
+        typeface.draw(painter, at, Qt::AlignLeft, said("Goals of the week"), {10, true, Accent});
     });
     line = {line.left(), line.bottom(), line.width(), lineHeight(WeekGoalStyle)};
     for (const auto& lines : goals)
@@ -112,7 +112,7 @@ bool putGoalsBeside(PageBuilder& pages, const microsplanning_v5& week, const QRe
 
 void putWeekGoals(PageBuilder& pages, const microsplanning_v5& week, const Typeface& typeface) {
     pages.skip(WeekPartGap);
-    putPartTitle(pages, QStringLiteral("Goals of the week"), lineHeight(WeekGoalStyle), typeface);
+    putPartTitle(pages, said("Goals of the week"), lineHeight(WeekGoalStyle), typeface);
     for (const auto& lines : goalLines(week, pages.space().width(), typeface))
         putLines(pages, lines, WeekGoalStyle, typeface, Bullet, GoalIndent);
 }
@@ -124,7 +124,7 @@ void putTotalsAndGoals(PageBuilder& pages, const microsplanning_v5& week,
     const QRectF space = pages.space();
     const qreal height = totalsHeight(totals);
     const qreal width = week.goals.empty() ? space.width() : space.width() * TotalsShare;
-    putPartTitle(pages, QStringLiteral("Training by category"),
+    putPartTitle(pages, said("Training by category"),
                  std::min(height, bodyPlace(pages.orientation()).height() / 2), typeface);
     const QRectF below = pages.space();
     const QRectF beside(below.left() + width + WeekColumnGap, below.top() - PartTitleHeight,
@@ -139,7 +139,7 @@ void putTotalsAndGoals(PageBuilder& pages, const microsplanning_v5& week,
 /// Lines to write on, as many as the page has room for.
 void putNotes(PageBuilder& pages, const Typeface& typeface) {
     pages.skip(WeekPartGap);
-    putPartTitle(pages, QStringLiteral("Notes"), FewestNoteLines * NoteLine, typeface);
+    putPartTitle(pages, said("Notes"), FewestNoteLines * NoteLine, typeface);
     const auto room = static_cast<std::size_t>(pages.space().height() / NoteLine);
     for (std::size_t line = 0; line < std::min(room, WeekMostNoteLines); ++line)
         pages.put(NoteLine, [](QPainter& painter, const QRectF& place) {

@@ -5,6 +5,7 @@
 #include "common/number_text.h"
 #include "report/list_styles.h"
 #include "report/report_table.h"
+#include "report/said.h"
 
 #include <algorithm>
 #include <set>
@@ -18,24 +19,22 @@ constexpr std::size_t Results = 0;
 constexpr std::size_t Ideals = 1;
 
 QString secondsText(double seconds) {
-    const std::string text = hundredthsText(seconds);
+    const std::string text = saidNumber(hundredthsText(seconds));
     constexpr std::size_t Longest = 12; // more digits only come from damaged files
     return text.size() > Longest ? QString::number(seconds, 'g', 3) : QString::fromStdString(text);
 }
 
 std::vector<ListColumn> resultColumns() {
     return {{QString()},
-            {QStringLiteral("Name"), Qt::AlignLeft, true, true},
-            {QStringLiteral("Time"), Qt::AlignRight, false, true},
-            {QStringLiteral("Pen"), Qt::AlignRight, false, true},
-            {QStringLiteral("Total")},
-            {QStringLiteral("Gap"), Qt::AlignRight, false, true}};
+            {said("Name"), Qt::AlignLeft, true, true},
+            {said("Time"), Qt::AlignRight, false, true},
+            {said("Pen"), Qt::AlignRight, false, true},
+            {said("Total")},
+            {said("Gap"), Qt::AlignRight, false, true}};
 }
 
 std::vector<ListColumn> idealColumns() {
-    return {{QStringLiteral("Section"), Qt::AlignLeft},
-            {QStringLiteral("Best")},
-            {QStringLiteral("By"), Qt::AlignLeft, true}};
+    return {{said("Section"), Qt::AlignLeft}, {said("Best")}, {said("By"), Qt::AlignLeft, true}};
 }
 
 ListRow resultRow(const RaceSet& set, const RankedRun& ranked) {
@@ -51,7 +50,7 @@ ListRow resultRow(const RaceSet& set, const RankedRun& ranked) {
 SmallList resultList(const RaceSet& set, const RunGroup& group) {
     SmallList list{Results, groupTitle(group.phase, group.category), {}};
     if (list.title.isEmpty())
-        list.title = QStringLiteral("Results");
+        list.title = said("Results");
     std::set<std::size_t> ranked;
     for (const RankedRun& run : ranking(set, group.runs)) {
         list.rows.push_back(resultRow(set, run));
@@ -85,7 +84,7 @@ QString crewAndPhase(const analyzerdata& run) {
 
 SmallList idealList(const RaceSet& set, const RunGroup& category,
                     std::span<const QString> sectionTitles) {
-    SmallList list{Ideals, QStringLiteral("Ideal run without penalties"), {}};
+    SmallList list{Ideals, said("Ideal run without penalties"), {}};
     if (!category.category.empty())
         list.title += QStringLiteral(" · ") + reportText(category.category);
     const IdealRun ideal = idealRun(set, category.runs);
@@ -96,11 +95,11 @@ SmallList idealList(const RaceSet& set, const RunGroup& category,
                               best.run ? crewAndPhase(set.alldata[*best.run]) : QString()}});
     }
     if (ideal.total)
-        list.rows.push_back({{QStringLiteral("Ideal run"), secondsText(*ideal.total), {}}, true});
+        list.rows.push_back({{said("Ideal run"), secondsText(*ideal.total), {}}, true});
     if (ideal.fastest) {
         const analyzerdata& run = set.alldata[*ideal.fastest];
-        list.rows.push_back({{QStringLiteral("Fastest run"), secondsText(run.sectioninfo.totaltime),
-                              crewAndPhase(run)}});
+        list.rows.push_back(
+            {{said("Fastest run"), secondsText(run.sectioninfo.totaltime), crewAndPhase(run)}});
     }
     return list;
 }

@@ -4,6 +4,7 @@
 #include "report/gate_chart.h"
 #include "report/page_frame.h"
 #include "report/race_lists.h"
+#include "report/said.h"
 #include "report/small_lists.h"
 #include "report/table_pages.h"
 
@@ -34,13 +35,13 @@ void putTableHeading(PageBuilder& pages, const TableLayout& layout, const Typefa
         SectionHeadingHeight + layout.headHeight() + layout.groupHeight() + rows)
         pages.newPage();
     pages.put(SectionHeadingHeight, [typeface](QPainter& painter, const QRectF& place) {
-        paintSectionHeading(painter, place, QStringLiteral("Split times"), {}, typeface);
+        paintSectionHeading(painter, place, said("Split times"), {}, typeface);
     });
 }
 
 void putNoRuns(PageBuilder& pages, const Typeface& typeface) {
     pages.put(20 * Point, [typeface](QPainter& painter, const QRectF& place) {
-        typeface.draw(painter, place, Qt::AlignLeft, QStringLiteral("There are no runs to show."),
+        typeface.draw(painter, place, Qt::AlignLeft, said("There are no runs to show."),
                       {9, false, Quiet});
     });
 }

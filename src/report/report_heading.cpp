@@ -1,6 +1,7 @@
 #include "report/report_heading.h"
 
 #include "common/reference_date.h"
+#include "report/said.h"
 #include "report/typeface.h"
 
 #include <QStringList>
@@ -25,9 +26,8 @@ QString joined(QStringList parts) {
 QString gatesInWords(const infodata031& info) {
     if (info.gates < 1)
         return {};
-    const QString gates = QStringLiteral("%1 gates").arg(info.gates);
-    return info.upGates.empty() ? gates
-                                : gates + QStringLiteral(", %1 upstream").arg(info.upGates.size());
+    const QString gates = said("%1 gates").arg(info.gates);
+    return info.upGates.empty() ? gates : gates + said(", %1 upstream").arg(info.upGates.size());
 }
 
 } // namespace
@@ -36,7 +36,7 @@ ReportHeading reportHeading(const infodata031& info) {
     ReportHeading heading;
     heading.title = reportText(info.title.empty() ? info.event : info.title);
     if (heading.title.isEmpty())
-        heading.title = QStringLiteral("Race");
+        heading.title = said("Race");
     QStringList subtitle{reportText(info.event), reportText(info.session),
                          reportText(info.category)};
     subtitle.removeAll(heading.title);
@@ -44,16 +44,16 @@ ReportHeading reportHeading(const infodata031& info) {
 
     const auto add = [&](const char* label, const QString& value) {
         if (!value.isEmpty())
-            heading.facts.push_back({QString::fromLatin1(label), value});
+            heading.facts.push_back({said(label), value});
     };
     const QString place = reportText(info.place);
     const QString day = reportText(dayText(info.date));
     const QString water = reportText(info.watertype);
-    add("Place", place);
-    add("Date", day);
-    add("Gates", info.gates > 0 ? QString::number(info.gates) : QString());
-    add("Upstream gates", gateList(info.upGates));
-    add("Water", water);
+    add(KAVELA_TEXT("Place"), place);
+    add(KAVELA_TEXT("Date"), day);
+    add(KAVELA_TEXT("Gates"), info.gates > 0 ? QString::number(info.gates) : QString());
+    add(KAVELA_TEXT("Upstream gates"), gateList(info.upGates));
+    add(KAVELA_TEXT("Water"), water);
     heading.line = joined({heading.subtitle, place, day, gatesInWords(info), water});
     return heading;
 }

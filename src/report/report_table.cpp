@@ -1,6 +1,7 @@
 #include "report/report_table.h"
 
 #include "analysis/ranking.h"
+#include "report/said.h"
 #include "report/table_note.h"
 #include "report/typeface.h"
 
@@ -114,7 +115,7 @@ public:
             ReportGroup& made = report.groups.emplace_back();
             made.title = groupTitle(group.phase, group.category);
             if (made.title.isEmpty() && !m_view.comparisons.empty())
-                made.title = QStringLiteral("Runs");
+                made.title = said("Runs");
             for (const std::size_t run : group.runs)
                 made.rows.push_back(reportRow(run));
         }
@@ -169,7 +170,7 @@ private:
     }
 
     [[nodiscard]] ReportGroup comparisonGroup() const {
-        ReportGroup group{QStringLiteral("For comparison"), {}};
+        ReportGroup group{said("For comparison"), {}};
         for (const ComparisonRow& row : m_view.comparisons) {
             ReportRow& made = group.rows.emplace_back();
             made.name = comparisonName(row);
@@ -217,11 +218,11 @@ QString groupTitle(const std::string& phase, const std::string& category) {
 QString leadTitle(RunColumn column) {
     switch (column) {
     case RunColumn::Phase:
-        return QStringLiteral("Phase");
+        return said("Phase");
     case RunColumn::Category:
-        return QStringLiteral("Cat");
+        return said("Cat");
     case RunColumn::Place:
-        return QStringLiteral("Place");
+        return said("Place");
     }
     return {};
 }
@@ -247,7 +248,7 @@ ReportTable reportTable(const RaceSet& set, const SplitTable& table, const Table
     report.isTinted = settings.isTinted();
     report.note = tableNote(set, settings, view, report.rowCount() - view.comparisons.size());
     if (view.content == CellContent::Time && hasGreyed(table))
-        report.note += QStringLiteral(" Grey: not timed as a whole, never a best.");
+        report.note += said(" Grey: not timed as a whole, never a best.");
     return report;
 }
 

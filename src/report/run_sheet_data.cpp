@@ -5,6 +5,7 @@
 #include "common/number_text.h"
 #include "common/reference_date.h"
 #include "report/run_sheet_notes.h"
+#include "report/said.h"
 #include "report/typeface.h"
 #include "splitdata/run_timing.h"
 #include "splittaking/annotations/strokes.h"
@@ -62,7 +63,7 @@ double totalOf(const RaceSet& set, const analyzerdata& run) {
 
 QString sectionTitle(const RaceSet& set, std::size_t section) {
     const QString title = reportText(entryOrZero(set.sectiontitles, section));
-    return title.isEmpty() ? QStringLiteral("Split %1").arg(section + 1) : title;
+    return title.isEmpty() ? said("Split %1").arg(section + 1) : title;
 }
 
 void addSplits(RunSheetData& data, const RaceSet& set, const analyzerdata& run) {
@@ -79,7 +80,7 @@ void addSplits(RunSheetData& data, const RaceSet& set, const analyzerdata& run) 
         data.splits.push_back(std::move(split));
     }
     data.leftOutSplits = timing.times.size() - data.splits.size();
-    data.whole.title = QStringLiteral("Run");
+    data.whole.title = said("Run");
     data.whole.time = timing.totaltime;
     data.whole.penalty = timing.totalpen;
     rank(data.whole, set, run, [&](const analyzerdata& of) { return totalOf(set, of); });
@@ -114,9 +115,9 @@ void addRecordedStrokes(RunSheetData& data, const analyzerdata& run) {
     const RunMotion motion = runMotion(run);
     data.recordingNote = reportText(motion.reason);
     if (motion.whole.cover == MotionCover::Part)
-        data.recordingNote = QStringLiteral("%1 s of %2 s; strokes are counted of whole sections.")
-                                 .arg(motion.whole.covered, 0, 'f', 1)
-                                 .arg(motion.seconds, 0, 'f', 1);
+        data.recordingNote = said("%1 s of %2 s; strokes are counted of whole sections.")
+                                 .arg(saidNumbers(QString::number(motion.whole.covered, 'f', 1)))
+                                 .arg(saidNumbers(QString::number(motion.seconds, 'f', 1)));
     for (std::size_t k = 0; k < std::min(motion.sections.size(), data.splits.size()); ++k) {
         const SectionMotion& section = motion.sections[k];
         const bool isCounted = section.cover == MotionCover::Whole;
@@ -147,7 +148,7 @@ RunCourse courseOf(const RaceSet& set, const analyzerdata& run) {
         course.gates.push_back(gate);
     }
     if (!isKnown)
-        course.remark = QStringLiteral("The penalties of this run are not known by gate.");
+        course.remark = said("The penalties of this run are not known by gate.");
     return course;
 }
 
@@ -171,7 +172,7 @@ QString joinedLine(QStringList parts) {
 void addTotals(ReportHeading& heading, const RaceSet& set, const analyzerdata& run) {
     const auto add = [&](const char* label, const QString& value) {
         if (!value.isEmpty())
-            heading.facts.push_back({QString::fromLatin1(label), value});
+            heading.facts.push_back({said(label), value});
     };
     const sectionmaindata& timing = run.sectioninfo;
     const double total = totalOf(set, run);
@@ -180,18 +181,19 @@ void addTotals(ReportHeading& heading, const RaceSet& set, const analyzerdata& r
     if (isTaken(total))
         add("Total", sheetSeconds(total));
     if (isTaken(timing.totaltime))
-        add(isTaken(total) ? "Time" : "Time so far", sheetSeconds(timing.totaltime));
+        add(isTaken(total) ? KAVELA_TEXT("Time") : KAVELA_TEXT("Time so far"),
+            sheetSeconds(timing.totaltime));
     const QString words = penaltiesOfRun(run);
-    add("Penalties", QString::number(timing.totalpen) +
-                         (words.isEmpty() ? QString() : QStringLiteral(" (%1)").arg(words)));
+    add(KAVELA_TEXT("Penalties"),
+        QString::number(timing.totalpen) +
+            (words.isEmpty() ? QString() : QStringLiteral(" (%1)").arg(words)));
     if (isTaken(total)) {
         const Comparison found =
             compared(set, run, [&](const analyzerdata& of) { return totalOf(set, of); });
         const QString category = reportText(run.category);
         heading.facts.push_back(
-            {category.isEmpty() ? QStringLiteral("Among all runs")
-                                : QStringLiteral("Among all runs of ") + category,
-             QStringLiteral("%1 of %2").arg(found.faster + 1).arg(found.count)});
+            {category.isEmpty() ? said("Among all runs") : said("Among all runs of ") + category,
+             said("%1 of %2").arg(found.faster + 1).arg(found.count)});
         if (total > found.best)
             add("Behind the best", '+' + sheetSeconds(total - found.best));
     }
@@ -202,7 +204,7 @@ ReportHeading runHeadingOf(const infodata031& info, const RaceSet& set, const an
     ReportHeading heading;
     heading.title = reportText(run.name);
     if (heading.title.isEmpty())
-        heading.title = QStringLiteral("Run");
+        heading.title = said("Run");
     heading.subtitle = joinedLine({race.title, reportText(run.phase), reportText(run.category),
                                    reportText(info.place), reportText(dayText(info.date))});
     heading.line = heading.subtitle;
@@ -230,13 +232,13 @@ RunSheetData runSheetData(const infodata031& info, const RaceSet& set, std::size
 QString sheetSeconds(double seconds) {
     if (!std::isfinite(seconds))
         return QStringLiteral("–");
-    const std::string text = hundredthsText(seconds);
+    const std::string text = saidNumber(hundredthsText(seconds));
     constexpr std::size_t Longest = 10; // more digits only come from damaged files
     return text.size() > Longest ? QString::number(seconds, 'g', 3) : QString::fromStdString(text);
 }
 
 QString countedText(std::int64_t count, const char* one, const char* more) {
-    return QString::number(count) + ' ' + QString::fromLatin1(count == 1 ? one : more);
+    return QString::fromStdString(countedWords(count, one, more));
 }
 
 } // namespace kavela::report

@@ -1,6 +1,7 @@
 #include "report/run_sheet_notes.h"
 
 #include "report/run_sheet_data.h"
+#include "report/said.h"
 #include "splitdata/annotation_labels.h"
 #include "splitdata/run_timing.h"
 #include "splittaking/annotations/custom_tags.h"
@@ -30,12 +31,12 @@ std::string signedText(double value, const std::string& text) {
 }
 
 SheetList upstreamList(const athletedata031& run) {
-    SheetList list{QStringLiteral("Upstream gates"),
-                   {{QStringLiteral("Gate"), 24, Qt::AlignLeft},
-                    {QStringLiteral("Entrance"), 32, Qt::AlignRight},
-                    {QStringLiteral("Exit"), 32, Qt::AlignRight},
-                    {QStringLiteral("Total"), 32, Qt::AlignRight},
-                    {QStringLiteral("Turn"), 0, Qt::AlignLeft}},
+    SheetList list{said("Upstream gates"),
+                   {{said("Gate"), 24, Qt::AlignLeft},
+                    {said("Entrance"), 32, Qt::AlignRight},
+                    {said("Exit"), 32, Qt::AlignRight},
+                    {said("Total"), 32, Qt::AlignRight},
+                    {said("Turn"), 0, Qt::AlignLeft}},
                    {}};
     for (const upstreamdata025& gate : run.upstreams) {
         const std::string turn = labelOf(LabelList::UpstreamDirection, gate.direction) + ", " +
@@ -48,10 +49,10 @@ SheetList upstreamList(const athletedata031& run) {
 }
 
 SheetList lossList(const athletedata031& run) {
-    SheetList list{QStringLiteral("Time losses"),
-                   {{QStringLiteral("Against"), 0, Qt::AlignLeft},
-                    {QStringLiteral("Seconds"), 36, Qt::AlignRight},
-                    {QStringLiteral("Percent"), 36, Qt::AlignRight}},
+    SheetList list{said("Time losses"),
+                   {{said("Against"), 0, Qt::AlignLeft},
+                    {said("Seconds"), 36, Qt::AlignRight},
+                    {said("Percent"), 36, Qt::AlignRight}},
                    {}};
     for (const timeloss031& loss : run.timeslosses) {
         std::string percent = sheetSeconds(loss.timelossper).chopped(1).toStdString();
@@ -81,9 +82,8 @@ std::string momentText(const athletedata031& run, const Tag& tag) {
 }
 
 SheetList tagList(const athletedata031& run) {
-    SheetList list{QStringLiteral("Tags"),
-                   {{QStringLiteral("Tag"), 0, Qt::AlignLeft},
-                    {QStringLiteral("In the run at"), 78, Qt::AlignRight}},
+    SheetList list{said("Tags"),
+                   {{said("Tag"), 0, Qt::AlignLeft}, {said("In the run at"), 78, Qt::AlignRight}},
                    {}};
     for (const Tag& tag : tagsOf(run))
         list.rows.push_back({{tag.name, momentText(run, tag)}, {}});
@@ -94,16 +94,15 @@ SheetList tagList(const athletedata031& run) {
 }
 
 SheetList commentList(const RaceSet& set, const athletedata031& run) {
-    SheetList list{QStringLiteral("Comments"),
-                   {{QString(), 64, Qt::AlignLeft}, {QString(), 0, Qt::AlignLeft}},
-                   {}};
+    SheetList list{
+        said("Comments"), {{QString(), 64, Qt::AlignLeft}, {QString(), 0, Qt::AlignLeft}}, {}};
     const std::vector<std::string>& comments = run.sectioninfo.comments;
     for (std::size_t k = 0; k < comments.size(); ++k) {
         if (comments[k].empty())
             continue;
         std::string title = entryOrZero(set.sectiontitles, k);
         if (title.empty())
-            title = "Split " + std::to_string(k + 1);
+            title = say("Split {}", k + 1);
         list.rows.push_back({{std::move(title), comments[k]}, {}});
     }
     return list;

@@ -1,6 +1,7 @@
 #include "report/run_sheet_splits.h"
 
 #include "report/list_styles.h"
+#include "report/said.h"
 
 #include <QPainter>
 
@@ -33,8 +34,7 @@ struct Column {
 QString gapText(const SheetSplit& split) {
     if (!split.gap)
         return Dash;
-    return std::round(*split.gap * 100) > 0 ? '+' + sheetSeconds(*split.gap)
-                                            : QStringLiteral("best");
+    return std::round(*split.gap * 100) > 0 ? '+' + sheetSeconds(*split.gap) : said("best");
 }
 
 QString countText(const SheetStrokes& strokes) {
@@ -43,33 +43,34 @@ QString countText(const SheetStrokes& strokes) {
 
 QString rateText(const SheetStrokes& strokes) {
     const bool isKnown = strokes.rate && std::isfinite(*strokes.rate);
-    return isKnown ? QString::number(*strokes.rate, 'f', 1) : Dash;
+    return isKnown ? saidNumbers(QString::number(*strokes.rate, 'f', 1)) : Dash;
 }
 
 void addStrokes(std::vector<Column>& columns, const char* group, SheetStrokes SheetSplit::*which) {
-    columns.push_back(
-        {group, "Strokes", 36, [which](const SheetSplit& s) { return countText(s.*which); }});
-    columns.push_back(
-        {"", "per min", 32, [which](const SheetSplit& s) { return rateText(s.*which); }});
+    columns.push_back({group, KAVELA_TEXT("Strokes"), 36,
+                       [which](const SheetSplit& s) { return countText(s.*which); }});
+    columns.push_back({"", KAVELA_TEXT("per min"), 32,
+                       [which](const SheetSplit& s) { return rateText(s.*which); }});
 }
 
 std::vector<Column> columnsOf(const RunSheetData& data) {
     const int strokes = data.hasMarkedStrokes + data.hasRecordedStrokes;
     const qreal title = SplitWidestTitle - strokes * TitleForStrokes;
     std::vector<Column> columns{
-        {"", "Split", title, [](const SheetSplit& s) { return s.title; }, Qt::AlignLeft},
-        {"", "Time", 40,
+        {"", KAVELA_TEXT("Split"), title, [](const SheetSplit& s) { return s.title; },
+         Qt::AlignLeft},
+        {"", KAVELA_TEXT("Time"), 40,
          [](const SheetSplit& s) { return s.time == 0 ? Dash : sheetSeconds(s.time); }},
-        {"", "Gap", 36, gapText},
+        {"", KAVELA_TEXT("Gap"), 36, gapText},
         {"", "", 0, {}, Qt::AlignLeft},
-        {"", "Rank", 24,
+        {"", KAVELA_TEXT("Rank"), 24,
          [](const SheetSplit& s) { return s.rank ? QString::number(*s.rank) : Dash; }},
-        {"", "Penalty", 32,
+        {"", KAVELA_TEXT("Penalty"), 32,
          [](const SheetSplit& s) { return s.penalty == 0 ? Dash : QString::number(s.penalty); }}};
     if (data.hasMarkedStrokes)
-        addStrokes(columns, "on the film", &SheetSplit::marked);
+        addStrokes(columns, KAVELA_TEXT("on the film"), &SheetSplit::marked);
     if (data.hasRecordedStrokes)
-        addStrokes(columns, "recording", &SheetSplit::recorded);
+        addStrokes(columns, KAVELA_TEXT("recording"), &SheetSplit::recorded);
     return columns;
 }
 
@@ -87,16 +88,15 @@ public:
         forCells(line, [&](const QRectF& cell, std::size_t i) {
             QRectF place = cell;
             place.setTop(line.bottom() - SplitHeadLine);
-            m_typeface.draw(painter, place, m_columns[i].alignment,
-                            QString::fromLatin1(m_columns[i].title), HeadStyle);
+            m_typeface.draw(painter, place, m_columns[i].alignment, said(m_columns[i].title),
+                            HeadStyle);
             if (*m_columns[i].group == '\0')
                 return;
             // The group stands above its two columns.
             QRectF group(cell.left(), line.top(),
                          cell.width() + SplitCellGap + m_columns[i + 1].points * Point,
                          SplitHeadLine);
-            m_typeface.draw(painter, group, Qt::AlignRight, QString::fromLatin1(m_columns[i].group),
-                            HeadStyle);
+            m_typeface.draw(painter, group, Qt::AlignRight, said(m_columns[i].group), HeadStyle);
         });
         drawRule(painter, line, line.bottom(), Accent, 0.6);
     }
@@ -161,8 +161,8 @@ void putSplits(PageBuilder& pages, const RunSheetData& data, const Typeface& typ
         });
     };
     const QString remark =
-        QStringLiteral("gap and rank among all runs of the category; the run's with penalties");
-    put(SplitTitleHeight, QStringLiteral("Splits"), remark, ListTitleStyle);
+        said("gap and rank among all runs of the category; the run's with penalties");
+    put(SplitTitleHeight, said("Splits"), remark, ListTitleStyle);
     const bool hasGroups = data.hasMarkedStrokes || data.hasRecordedStrokes;
     pages.put(hasGroups ? 2 * SplitHeadLine : SplitHeadLine,
               [=](QPainter& painter, const QRectF& place) { lines->paintHead(painter, place); });
@@ -175,13 +175,12 @@ void putSplits(PageBuilder& pages, const RunSheetData& data, const Typeface& typ
                       lines->paintRow(painter, place, split, false);
                   });
     if (isCut)
-        put(SplitRowHeight, QStringLiteral("and %1 more").arg(all - shown), {},
-            {7.5, false, Quiet});
+        put(SplitRowHeight, said("and %1 more").arg(all - shown), {}, {7.5, false, Quiet});
     pages.put(SplitRowHeight, [=, whole = data.whole](QPainter& painter, const QRectF& place) {
         lines->paintRow(painter, place, whole, true);
     });
     if (!data.recordingNote.isEmpty())
-        put(SplitRowHeight, {}, QStringLiteral("Recording: ") + data.recordingNote, RowStyle);
+        put(SplitRowHeight, {}, said("Recording: ") + data.recordingNote, RowStyle);
 }
 
 } // namespace kavela::report

@@ -1,6 +1,7 @@
 #include "report/season_drawing.h"
 
 #include "report/list_styles.h"
+#include "report/said.h"
 
 #include <QPainter>
 #include <QPolygonF>
@@ -124,8 +125,8 @@ void paintProgression(QPainter& painter, const QRectF& place, const SeasonMember
         year = race.year;
     }
     if (chart.medalLine)
-        paintLevel(painter, plot, scale.at(*chart.medalLine),
-                   QStringLiteral("third of the final, median"), typeface);
+        paintLevel(painter, plot, scale.at(*chart.medalLine), said("third of the final, median"),
+                   typeface);
     for (std::size_t i = 0; i < points.size(); ++i)
         paintPhaseMark(
             painter,
@@ -161,11 +162,13 @@ void paintBenchmarks(QPainter& painter, const QRectF& place, const BenchmarkChar
                          QPointF(x + half, scale.at(box.median)));
         typeface.draw(painter, {x - apart / 2, plot.bottom() + 2 * Point, apart, SeasonFootHeight},
                       Qt::AlignHCenter,
-                      QStringLiteral("rank %1: %2 %").arg(box.rank).arg(box.median, 0, 'f', 1),
+                      said("rank %1: %2 %")
+                          .arg(box.rank)
+                          .arg(saidNumbers(QString::number(box.median, 'f', 1))),
                       Caption);
     }
     if (chart.own)
-        paintLevel(painter, plot, scale.at(*chart.own), QStringLiteral("own median"), typeface);
+        paintLevel(painter, plot, scale.at(*chart.own), said("own median"), typeface);
     painter.restore();
 }
 
@@ -183,10 +186,10 @@ void paintPlaces(QPainter& painter, const QRectF& place, const PlacesChart& char
     };
     const qreal numbers = place.left() + PlaceNameWidth;
     const qreal cells = numbers + 2 * PlaceNumberWidth;
-    write(numbers, place.top(), PlaceNumberWidth - 4 * Point, Qt::AlignRight,
-          QStringLiteral("Place"), HeadStyle);
+    write(numbers, place.top(), PlaceNumberWidth - 4 * Point, Qt::AlignRight, said("Place"),
+          HeadStyle);
     write(numbers + PlaceNumberWidth, place.top(), PlaceNumberWidth - 4 * Point, Qt::AlignRight,
-          QStringLiteral("Medal"), HeadStyle);
+          said("Medal"), HeadStyle);
     for (std::size_t i = 0; i < chart.rows.size(); ++i)
         write(cells + cell * static_cast<qreal>(i), place.top(), cell, Qt::AlignHCenter,
               QString::number(i + 1), HeadStyle);
@@ -197,7 +200,7 @@ void paintPlaces(QPainter& painter, const QRectF& place, const PlacesChart& char
         write(place.left(), y, PlaceNameWidth - 4 * Point, Qt::AlignLeft, reportText(row.name),
               style);
         write(numbers, y, PlaceNumberWidth - 4 * Point, Qt::AlignRight,
-              QString::number(row.expected, 'f', 1), style);
+              saidNumbers(QString::number(row.expected, 'f', 1)), style);
         write(numbers + PlaceNumberWidth, y, PlaceNumberWidth - 4 * Point, Qt::AlignRight,
               QStringLiteral("%1 %").arg(100 * row.medal, 0, 'f', 0), style);
         for (std::size_t i = 0; i < row.places.size(); ++i) {

@@ -4,6 +4,7 @@
 #include "report/interval_table.h"
 #include "report/list_styles.h"
 #include "report/page_frame.h"
+#include "report/said.h"
 #include "report/season_drawing.h"
 #include "report/sheet_report.h"
 #include "report/small_lists.h"
@@ -20,12 +21,13 @@ constexpr TextStyle SeasonLineStyle{8, false, Ink};
 constexpr std::size_t MostRivalsOnPage = 9;
 
 QString signedPercent(double percent) {
-    return QString::asprintf("%+.1f", percent);
+    return saidNumbers(QString::asprintf("%+.1f", percent));
 }
 
 QString signedRange(const std::optional<Interval>& interval) {
-    return interval ? QString::asprintf("%+.1f to %+.1f", interval->low, interval->high)
-                    : QStringLiteral("too few");
+    return interval
+               ? QString::fromStdString(say("{:+.1f} to {:+.1f}", interval->low, interval->high))
+               : said("too few");
 }
 
 /// The page as it is being filled.
@@ -37,8 +39,8 @@ public:
           m_athlete(season.athletes.at(athlete)),
           m_member(season.data.members[m_athlete.member]) {
         m_heading.title = reportText(m_member.name);
-        m_heading.subtitle = QStringLiteral("Season ") + reportText(season.data.category);
-        m_heading.line = QStringLiteral("%1 · %2 races · intervals are 90 %")
+        m_heading.subtitle = said("Season ") + reportText(season.data.category);
+        m_heading.line = said("%1 · %2 races · intervals are 90 %")
                              .arg(m_heading.subtitle)
                              .arg(m_member.races.size());
     }
@@ -78,9 +80,9 @@ private:
         const bool isOfWinner = chart.of == TrendOf::Winner;
         const bool hasPoints =
             std::ranges::any_of(chart.points, [](const auto& point) { return !point.isMissed; });
-        putSection(isOfWinner ? QStringLiteral("Percent behind the winner")
-                              : QStringLiteral("Percent behind the fastest splits"),
-                   "circle: heats, triangle: semifinal, square: final",
+        putSection(isOfWinner ? said("Percent behind the winner")
+                              : said("Percent behind the fastest splits"),
+                   say("circle: heats, triangle: semifinal, square: final"),
                    hasPoints ? ProgressionHeight : 2 * SeasonGap);
         if (hasPoints)
             m_pages.put(ProgressionHeight, [member = m_member, chart, typeface = m_typeface](
@@ -96,10 +98,10 @@ private:
         IntervalRow row;
         row.texts = {what, Dash, Dash, Dash, QString()};
         if (rate) {
-            row.texts = {what, QStringLiteral("%1 of %2").arg(rate->count).arg(rate->of),
+            row.texts = {what, said("%1 of %2").arg(rate->count).arg(rate->of),
                          QString::asprintf("%.0f", 100 * rate->rate),
-                         QString::asprintf("%.0f to %.0f", 100 * rate->interval.low,
-                                           100 * rate->interval.high),
+                         QString::fromStdString(say("{:.0f} to {:.0f}", 100 * rate->interval.low,
+                                                    100 * rate->interval.high)),
                          QString()};
             row.value = 100 * rate->rate;
             row.interval = Interval{100 * rate->interval.low, 100 * rate->interval.high};
@@ -110,9 +112,9 @@ private:
     [[nodiscard]] static IntervalTable tableOf(const QString& first) {
         IntervalTable table;
         table.columns = {{first, 130, Qt::AlignLeft},
-                         {QStringLiteral("Races"), 52},
-                         {QStringLiteral("Percent"), 40},
-                         {QStringLiteral("90 % interval"), 62},
+                         {said("Races"), 52},
+                         {said("Percent"), 40},
+                         {said("90 % interval"), 62},
                          {}};
         table.drawn = 4;
         table.unit = QStringLiteral(" %");
@@ -125,11 +127,11 @@ private:
     }
 
     void putRates() {
-        IntervalTable table = tableOf(QStringLiteral("Reached"));
-        addRate(table, QStringLiteral("Medals"), m_athlete.medals);
-        addRate(table, QStringLiteral("Finals"), m_athlete.finals);
-        addRate(table, QStringLiteral("Semifinals"), m_athlete.semifinals);
-        putSection(QStringLiteral("Medals and finals"), "of the races whose result is known",
+        IntervalTable table = tableOf(said("Reached"));
+        addRate(table, said("Medals"), m_athlete.medals);
+        addRate(table, said("Finals"), m_athlete.finals);
+        addRate(table, said("Semifinals"), m_athlete.semifinals);
+        putSection(said("Medals and finals"), say("of the races whose result is known"),
                    heightOf(table));
         putTable(std::move(table));
     }
@@ -163,42 +165,42 @@ private:
     }
 
     void putChanges() {
-        IntervalTable table = tableOf(QStringLiteral("Change, below 0 is faster"));
-        addTrend(table, QStringLiteral("A year on the winner"), m_athlete.toWinner);
-        addTrend(table, QStringLiteral("A year on the splits"), m_athlete.toSplits);
-        addPair(table, QStringLiteral("Run 1 to run 2"), m_athlete.heats);
-        addPair(table, QStringLiteral("Semifinal to final"), m_athlete.semifinalToFinal);
-        addPair(table, QStringLiteral("Heats to final, behind"), m_athlete.heatsToFinal);
-        putSection(QStringLiteral("Changes"), spreadWords(), heightOf(table));
+        IntervalTable table = tableOf(said("Change, below 0 is faster"));
+        addTrend(table, said("A year on the winner"), m_athlete.toWinner);
+        addTrend(table, said("A year on the splits"), m_athlete.toSplits);
+        addPair(table, said("Run 1 to run 2"), m_athlete.heats);
+        addPair(table, said("Semifinal to final"), m_athlete.semifinalToFinal);
+        addPair(table, said("Heats to final, behind"), m_athlete.heatsToFinal);
+        putSection(said("Changes"), spreadWords(), heightOf(table));
         putTable(std::move(table));
     }
 
     [[nodiscard]] std::string spreadWords() const {
         const BoatSpread& spread = m_athlete.spread;
         if (!spread.shrunk || spread.runs < LeastValues)
-            return "too few runs to tell what is chance";
-        return QString::asprintf("chance from run to run %.1f %%, all %.1f %%; %.2f %% matters",
-                                 *spread.shrunk, *m_season.spread.cv, *m_season.spread.worthwhile)
-            .toStdString();
+            return say("too few runs to tell what is chance");
+        return say("chance from run to run {:.1f} %, all {:.1f} %; {:.2f} % matters",
+                   *spread.shrunk, *m_season.spread.cv, *m_season.spread.worthwhile);
     }
 
     void putRivals() {
         if (m_athlete.heads.empty())
             return;
-        IntervalTable table = tableOf(QStringLiteral("Ahead of"));
-        table.columns[1].title = QStringLiteral("Met");
+        IntervalTable table = tableOf(said("Ahead of"));
+        table.columns[1].title = said("Met");
         const SeasonIntervalChart chart = headToHeadChart(m_season, m_index, MostRivalsOnPage);
         for (const SeasonInterval& rival : chart.rows)
             table.rows.push_back(
                 {{reportText(rival.label), QString::number(rival.runs),
                   QString::asprintf("%.0f", *rival.value),
-                  QString::asprintf("%.0f to %.0f", rival.interval->low, rival.interval->high),
+                  QString::fromStdString(
+                      say("{:.0f} to {:.0f}", rival.interval->low, rival.interval->high)),
                   QString()},
                  rival.value,
                  rival.interval,
                  rival.isSure,
                  false});
-        putSection(QStringLiteral("Head to head"), chart.sentence, heightOf(table));
+        putSection(said("Head to head"), chart.sentence, heightOf(table));
         putTable(std::move(table));
     }
 
@@ -206,8 +208,7 @@ private:
         const BenchmarkChart chart = benchmarkChart(m_season, "Final", m_index);
         if (chart.boxes.empty())
             return;
-        putSection(QStringLiteral("What a rank of the final took"), chart.sentence,
-                   BenchmarkHeight);
+        putSection(said("What a rank of the final took"), chart.sentence, BenchmarkHeight);
         m_pages.put(BenchmarkHeight,
                     [chart, typeface = m_typeface](QPainter& painter, const QRectF& place) {
                         paintBenchmarks(painter, place, chart, typeface);

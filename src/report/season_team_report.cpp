@@ -4,6 +4,7 @@
 #include "report/interval_table.h"
 #include "report/list_styles.h"
 #include "report/page_frame.h"
+#include "report/said.h"
 #include "report/season_drawing.h"
 #include "report/sheet_report.h"
 #include "report/small_lists.h"
@@ -19,7 +20,7 @@ constexpr qreal TeamSeasonGap = 12 * Point;
 constexpr std::size_t MostAthletesOfTable = 40; ///< a table is never cut, so it must fit a page
 
 QString rateText(const std::optional<RateOf>& rate) {
-    return rate ? QStringLiteral("%1 of %2").arg(rate->count).arg(rate->of) : Dash;
+    return rate ? said("%1 of %2").arg(rate->count).arg(rate->of) : Dash;
 }
 
 /// The report as it is being filled.
@@ -30,9 +31,8 @@ public:
           m_isOfSplits(std::ranges::none_of(season.athletes, [](const SeasonAthlete& athlete) {
               return athlete.toWinner.perYear.has_value();
           })) {
-        m_heading.title = QStringLiteral("Season ") + reportText(season.data.category);
-        m_heading.line =
-            QStringLiteral("%1 athletes · intervals are 90 %").arg(season.athletes.size());
+        m_heading.title = said("Season ") + reportText(season.data.category);
+        m_heading.line = said("%1 athletes · intervals are 90 %").arg(season.athletes.size());
     }
 
     [[nodiscard]] std::unique_ptr<PagedReport> report() {
@@ -61,8 +61,9 @@ private:
         row.texts = {reportText(m_season.data.members[athlete.member].name),
                      rateText(athlete.medals),
                      rateText(athlete.finals),
-                     isSpreadKnown ? QString::number(*athlete.spread.shrunk, 'f', 1) : Dash,
-                     trend.perYear ? QString::asprintf("%+.1f", *trend.perYear) : Dash,
+                     isSpreadKnown ? saidNumbers(QString::number(*athlete.spread.shrunk, 'f', 1))
+                                   : Dash,
+                     trend.perYear ? saidNumbers(QString::asprintf("%+.1f", *trend.perYear)) : Dash,
                      QString(),
                      reportText(std::string(trend.perYear ? verdictText(trend.verdict)
                                                           : std::string_view("too few")))};
@@ -75,20 +76,19 @@ private:
     void putAthletes(std::size_t first) {
         IntervalTable table;
         table.columns = {
-            {QStringLiteral("Athlete"), 130, Qt::AlignLeft},
-            {QStringLiteral("Medals"), 42},
-            {QStringLiteral("Finals"), 42},
-            {QStringLiteral("Chance, %"), 40},
-            {QStringLiteral("% a year"), 36},
+            {said("Athlete"), 130, Qt::AlignLeft},
+            {said("Medals"), 42},
+            {said("Finals"), 42},
+            {said("Chance, %"), 40},
+            {said("% a year"), 36},
             {},
-            {m_isOfSplits ? QStringLiteral("On the splits") : QStringLiteral("On the winner"), 48,
-             Qt::AlignLeft}};
+            {m_isOfSplits ? said("On the splits") : said("On the winner"), 48, Qt::AlignLeft}};
         table.drawn = 5;
         table.unit = QStringLiteral(" %");
         const std::size_t end = std::min(first + MostAthletesOfTable, m_season.athletes.size());
         for (std::size_t i = first; i < end; ++i)
             table.rows.push_back(athleteRow(m_season.athletes[i]));
-        putTeamSection(QStringLiteral("Athletes"), spreadChart(m_season).sentence, heightOf(table));
+        putTeamSection(said("Athletes"), spreadChart(m_season).sentence, heightOf(table));
         putIntervalTable(m_pages, std::move(table), m_typeface);
         m_pages.skip(TeamSeasonGap);
     }
@@ -99,8 +99,8 @@ private:
             if (!told.insert(benchmark.phase).second)
                 continue;
             const BenchmarkChart chart = benchmarkChart(m_season, benchmark.phase);
-            putTeamSection(QStringLiteral("What a rank took: ") + reportText(benchmark.phase),
-                           chart.sentence, BenchmarkHeight);
+            putTeamSection(said("What a rank took: ") + reportText(benchmark.phase), chart.sentence,
+                           BenchmarkHeight);
             m_pages.put(BenchmarkHeight,
                         [chart, typeface = m_typeface](QPainter& painter, const QRectF& place) {
                             paintBenchmarks(painter, place, chart, typeface);
@@ -115,7 +115,7 @@ private:
             return;
         const qreal height = std::min(
             placesHeight(chart), bodyPlace(QPageLayout::Portrait).height() - SectionHeadingHeight);
-        putTeamSection(QStringLiteral("Expected places"), chart.sentence, height);
+        putTeamSection(said("Expected places"), chart.sentence, height);
         m_pages.put(height, [chart, typeface = m_typeface](QPainter& painter, const QRectF& place) {
             paintPlaces(painter, place, chart, typeface);
         });

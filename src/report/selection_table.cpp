@@ -2,6 +2,7 @@
 
 #include "common/number_text.h"
 #include "report/list_styles.h"
+#include "report/said.h"
 
 #include <QPainter>
 #include <QStringList>
@@ -28,7 +29,7 @@ constexpr std::size_t SelectionFewestRows = 3; ///< below a heading
 constexpr std::size_t RacesSideBySide = 4;
 
 QString numberText(double value) {
-    const std::string text = hundredthsText(value);
+    const std::string text = saidNumber(hundredthsText(value));
     constexpr std::size_t Longest = 10; // more digits only come from damaged files
     return text.size() > Longest ? QString::number(value, 'g', 3) : QString::fromStdString(text);
 }
@@ -106,7 +107,7 @@ Race raceOf(const sRaceStruct& race, std::size_t category, SelectionTimes times)
     const auto& bests = times == SelectionTimes::Official ? race.bestTimes : race.bestxTimes;
     const bool hasBest = category < bests.size() && bests[category] != BestOfNobody;
     return {reportText(race.location),
-            hasBest ? QStringLiteral("best %1").arg(numberText(bests[category])) : QString()};
+            hasBest ? said("best %1").arg(numberText(bests[category])) : QString()};
 }
 
 Table tableOf(const selectionracesStruct_v3& document, std::size_t index, SelectionTimes times,
@@ -135,7 +136,7 @@ Table partOf(const Table& table, std::size_t first) {
     for (SelectionRow& row : part.rows)
         row.races = cut(row.races);
     if (table.races.size() > RacesSideBySide)
-        part.title += QStringLiteral(" · races %1 to %2").arg(first + 1).arg(end);
+        part.title += said(" · races %1 to %2").arg(first + 1).arg(end);
     return part;
 }
 
@@ -149,7 +150,7 @@ public:
 
     void paintHead(QPainter& painter, const QRectF& place, bool isContinued) const {
         QRectF line(place.left(), place.top(), place.width(), SelectionTitleHeight);
-        const QString more = isContinued ? QStringLiteral(", continued") : QString();
+        const QString more = isContinued ? said(", continued") : QString();
         m_typeface.draw(painter, line, Qt::AlignLeft, m_table.title + more, SelectionTitleStyle);
         line = {line.left(), line.bottom(), line.width(), RaceLineHeight};
         for (std::size_t i = 0; i < m_table.races.size(); ++i)
@@ -229,21 +230,23 @@ private:
 
     void paintColumnHead(QPainter& painter, const Places& at) const {
         const auto write = [&](const QRectF& place, Qt::Alignment alignment, const char* text) {
-            m_typeface.draw(painter, place, alignment, QString::fromLatin1(text), HeadStyle);
+            m_typeface.draw(painter, place, alignment, said(text), HeadStyle);
         };
-        write(at.rank, Qt::AlignRight, "Pos");
-        write(at.name, Qt::AlignLeft, "SURNAME Name");
-        write(at.club, Qt::AlignLeft, "Club");
-        write(at.year, Qt::AlignRight, "Year");
+        write(at.rank, Qt::AlignRight, KAVELA_TEXT("Pos"));
+        write(at.name, Qt::AlignLeft, KAVELA_TEXT("SURNAME Name"));
+        write(at.club, Qt::AlignLeft, KAVELA_TEXT("Club"));
+        write(at.year, Qt::AlignRight, KAVELA_TEXT("Year"));
         for (const QRectF& race : at.races) {
             const RacePlaces in = racePlaces(race);
-            write(in.time, Qt::AlignRight, m_table.isExpected ? "xTime" : "Time");
-            write(in.penalty, Qt::AlignRight, "Pen");
+            write(in.time, Qt::AlignRight,
+                  m_table.isExpected ? KAVELA_TEXT("xTime") : KAVELA_TEXT("Time"));
+            write(in.penalty, Qt::AlignRight, KAVELA_TEXT("Pen"));
             write(in.percentage, Qt::AlignRight, m_table.isExpected ? "x %" : "%");
         }
         if (m_table.hasBonus)
-            write(at.bonus, Qt::AlignRight, "Bonus");
-        write(at.score, Qt::AlignRight, m_table.isExpected ? "x Score" : "Score");
+            write(at.bonus, Qt::AlignRight, KAVELA_TEXT("Bonus"));
+        write(at.score, Qt::AlignRight,
+              m_table.isExpected ? KAVELA_TEXT("x Score") : KAVELA_TEXT("Score"));
     }
 
     void paintResult(QPainter& painter, const QRectF& place, const ResultCell& cell) const {
@@ -326,13 +329,13 @@ void putText(PageBuilder& pages, const QString& text, const TextStyle& style,
 
 QString noteText(SelectionTimes times, BonusKind bonus) {
     QString note = times == SelectionTimes::Official
-                       ? QStringLiteral("Percent behind the best of the race and category. ")
-                       : QStringLiteral("Percent behind the best expected time of the race and "
-                                        "category. ");
-    note += QStringLiteral("The worst result is struck through and does not count");
-    note += bonus ? QStringLiteral("; with a bonus the two worst. ") : QStringLiteral(". ");
-    return note + QStringLiteral("Score: the sum of the others divided by three. %1: no result, "
-                                 "P: preselected.")
+                       ? said("Percent behind the best of the race and category. ")
+                       : said("Percent behind the best expected time of the race and "
+                              "category. ");
+    note += said("The worst result is struck through and does not count");
+    note += bonus ? said("; with a bonus the two worst. ") : QStringLiteral(". ");
+    return note + said("Score: the sum of the others divided by three. %1: no result, "
+                       "P: preselected.")
                       .arg(Dash);
 }
 
@@ -345,12 +348,11 @@ ReportHeading selectionHeading(const QString& title, const selectionracesStruct_
         athletes += category.athletes.size();
     ReportHeading heading;
     heading.title = title;
-    heading.subtitle = QStringLiteral("Season %1").arg(document.year);
-    heading.facts = {{QStringLiteral("Races"), QString::number(document.races.size())},
-                     {QStringLiteral("Categories"), QString::number(document.categories.size())},
-                     {QStringLiteral("Athletes"), QString::number(athletes)},
-                     {QStringLiteral("Bonus"),
-                      bonus ? QStringLiteral("Kind %1").arg(*bonus + 1) : QStringLiteral("None")}};
+    heading.subtitle = said("Season %1").arg(document.year);
+    heading.facts = {{said("Races"), QString::number(document.races.size())},
+                     {said("Categories"), QString::number(document.categories.size())},
+                     {said("Athletes"), QString::number(athletes)},
+                     {said("Bonus"), bonus ? said("Kind %1").arg(*bonus + 1) : said("None")}};
     heading.line = heading.subtitle;
     return heading;
 }
@@ -386,10 +388,10 @@ void putSignature(PageBuilder& pages, const Typeface& typeface) {
         pages.newPage();
     pages.put(Height, [typeface](QPainter& painter, const QRectF& place) {
         qreal left = place.left();
-        for (const char* what : {"Place and date", "Signature"}) {
+        for (const char* what : {KAVELA_TEXT("Place and date"), KAVELA_TEXT("Signature")}) {
             const QRectF line(left, place.bottom() - 20 * Point, 200 * Point, 14 * Point);
             drawRule(painter, line, line.top(), Ink);
-            typeface.draw(painter, line, Qt::AlignLeft, QString::fromLatin1(what), NoteStyle);
+            typeface.draw(painter, line, Qt::AlignLeft, said(what), NoteStyle);
             left = line.right() + 40 * Point;
         }
     });

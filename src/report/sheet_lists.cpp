@@ -1,6 +1,7 @@
 #include "report/sheet_lists.h"
 
 #include "report/list_styles.h"
+#include "report/said.h"
 #include "report/wrapped_text.h"
 
 #include <QPainter>
@@ -126,7 +127,7 @@ private:
             ++row;
         }
         if (row < m_list.rows.size())
-            shown.push_back({{}, QStringLiteral("and %1 more").arg(m_list.rows.size() - row)});
+            shown.push_back({{}, said("and %1 more").arg(m_list.rows.size() - row)});
         return shown;
     }
 

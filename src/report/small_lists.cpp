@@ -2,6 +2,7 @@
 
 #include "report/list_flow.h"
 #include "report/list_styles.h"
+#include "report/said.h"
 
 #include <QPainter>
 
@@ -97,7 +98,7 @@ public:
         const SmallList& list = m_lists.lists[part.list];
         QRectF line = place;
         line.setHeight(SmallListTitleHeight);
-        const QString more = part.firstRow > 0 ? QStringLiteral(", continued") : QString();
+        const QString more = part.firstRow > 0 ? said(", continued") : QString();
         m_typeface.draw(painter, line, Qt::AlignLeft, list.title + more, SmallListTitleStyle);
         line = {line.left(), line.bottom(), line.width(), SmallListHeadHeight};
         paintHead(painter, line, m_kinds[list.kind]);

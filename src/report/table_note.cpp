@@ -1,5 +1,6 @@
 #include "report/table_note.h"
 
+#include "report/said.h"
 #include "report/typeface.h"
 
 #include <QStringList>
@@ -13,7 +14,7 @@ QString referenceInWords(const RaceSet& set, const TableReference& reference) {
     case ReferenceKind::Best:
         break;
     case ReferenceKind::Median:
-        return QStringLiteral("the median of each column");
+        return said("the median of each column");
     case ReferenceKind::Run: {
         if (reference.row >= set.alldata.size())
             break;
@@ -23,10 +24,9 @@ QString referenceInWords(const RaceSet& set, const TableReference& reference) {
                                : reportText(run.name) + QStringLiteral(", ") + phase;
     }
     case ReferenceKind::Values:
-        return reference.name.empty() ? QStringLiteral("the ideal run")
-                                      : reportText(reference.name);
+        return reference.name.empty() ? said("the ideal run") : reportText(reference.name);
     }
-    return QStringLiteral("the best of each column");
+    return said("the best of each column");
 }
 
 QString contentInWords(const RaceSet& set, const TableView& view) {
@@ -34,23 +34,22 @@ QString contentInWords(const RaceSet& set, const TableView& view) {
     case CellContent::Time:
         break;
     case CellContent::Gap:
-        return QStringLiteral("Gaps in seconds to %1.").arg(referenceInWords(set, view.reference));
+        return said("Gaps in seconds to %1.").arg(referenceInWords(set, view.reference));
     case CellContent::Rank:
-        return QStringLiteral("Places within each column.");
+        return said("Places within each column.");
     case CellContent::PercentBehind:
-        return QStringLiteral("Percent behind the best of each column.");
+        return said("Percent behind the best of each column.");
     case CellContent::Percentile:
-        return QStringLiteral("Percentiles of each column; the best has 100.");
+        return said("Percentiles of each column; the best has 100.");
     }
     return {};
 }
 
 QString penaltiesInWords(const TableSettings& settings) {
     if (settings.kind == ValueKind::Accumulated)
-        return QStringLiteral("Times from the start, without penalties.");
-    return settings.penaltiesIncluded
-               ? QStringLiteral("Penalties are included in sections and total.")
-               : QStringLiteral("Penalties are not included.");
+        return said("Times from the start, without penalties.");
+    return settings.penaltiesIncluded ? said("Penalties are included in sections and total.")
+                                      : said("Penalties are not included.");
 }
 
 } // namespace
@@ -59,15 +58,15 @@ QString tableNote(const RaceSet& set, const TableSettings& settings, const Table
                   std::size_t shownRuns) {
     QStringList sentences{contentInWords(set, view), penaltiesInWords(settings)};
     if (settings.penaltiesVisible && view.content == CellContent::Time)
-        sentences << QStringLiteral("Penalty seconds in brackets.");
+        sentences << said("Penalty seconds in brackets.");
     if (shownRuns < set.alldata.size())
-        sentences << QStringLiteral("Compared among all %1 runs.").arg(set.alldata.size());
+        sentences << said("Compared among all %1 runs.").arg(set.alldata.size());
     sentences.removeAll(QString());
     return sentences.join(' ');
 }
 
 QString comparisonName(const ComparisonRow& row) {
-    QStringList parts{row.name.empty() ? QStringLiteral("Ideal run") : reportText(row.name),
+    QStringList parts{row.name.empty() ? said("Ideal run") : reportText(row.name),
                       reportText(row.origin)};
     parts.removeAll(QString());
     return parts.join(QStringLiteral(", "));

@@ -1,6 +1,7 @@
 #include "report/table_pages.h"
 
 #include "report/legend.h"
+#include "report/said.h"
 
 #include <QPainter>
 
@@ -84,8 +85,7 @@ private:
     }
 
     void paintHead(QPainter& painter, const QRectF& place, const TableStrip& strip) const {
-        m_typeface.draw(painter, namePlace(place), Qt::AlignLeft, QStringLiteral("Name"),
-                        style(Quiet, true));
+        m_typeface.draw(painter, namePlace(place), Qt::AlignLeft, said("Name"), style(Quiet, true));
         const std::vector<QRectF> leads = leadPlaces(place);
         for (std::size_t i = 0; i < leads.size(); ++i)
             paintLead(painter, leads[i], i, leadTitle(m_table.leads[i]), style(Quiet, true));
@@ -100,8 +100,7 @@ private:
                     bool isContinued) const {
         QRectF text = place;
         text.setTop(place.bottom() - 1.9 * m_layout.points * Point);
-        const QString title =
-            isContinued ? group.title + QStringLiteral(", continued") : group.title;
+        const QString title = isContinued ? group.title + said(", continued") : group.title;
         m_typeface.draw(painter, text, Qt::AlignLeft, title, style(Accent, true));
         drawRule(painter, place, place.bottom(), Rule);
     }

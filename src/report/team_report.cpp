@@ -2,6 +2,7 @@
 
 #include "report/list_flow.h"
 #include "report/page_frame.h"
+#include "report/said.h"
 #include "report/sheet_report.h"
 
 #include <QPainter>
@@ -87,7 +88,7 @@ private:
     /// Leaves in `line` the last line that was written.
     void paintHead(QPainter& painter, QRectF& line, const Categorization& athlete,
                    bool isContinued) const {
-        const QString more = isContinued ? QStringLiteral(", continued") : QString();
+        const QString more = isContinued ? said(", continued") : QString();
         m_typeface.draw(painter, line, Qt::AlignLeft, reportText(athlete.name) + more, NameStyle);
         const auto write = [&](const std::string& text, const TextStyle& style) {
             line = {line.left(), line.bottom(), line.width(), TeamLineHeight};
@@ -142,7 +143,7 @@ ReportHeading teamHeadingOf(std::string_view category,
     ReportHeading heading;
     heading.title = QStringLiteral("2025 Categorization");
     heading.subtitle = reportText(category);
-    heading.facts = {{QStringLiteral("Athletes"), QString::number(athletes.size())}};
+    heading.facts = {{said("Athletes"), QString::number(athletes.size())}};
     for (HeadingFact& fact : levelFacts(athletes))
         heading.facts.push_back(std::move(fact));
     heading.line = heading.subtitle;
@@ -156,7 +157,7 @@ void putLegend(PageBuilder& pages, const Typeface& typeface) {
             typeface.draw(painter, line, Qt::AlignLeft, text, {7.5, false, Quiet});
             line.setLeft(line.left() + typeface.width(text, {7.5, false, Quiet}) + 6 * Point);
         };
-        write(QStringLiteral("Final position"));
+        write(said("Final position"));
         for (const BandLook& look : Bands) {
             paintSquare(painter, line, look);
             line.setLeft(line.left() + SquareSide + ExtraWidth + 2 * Point);
@@ -197,7 +198,7 @@ std::unique_ptr<PagedReport> categorizationReport(std::string_view category,
     if (athletes.empty()) {
         pages.put(20 * Point, [typeface](QPainter& painter, const QRectF& place) {
             typeface.draw(painter, place, Qt::AlignLeft,
-                          QStringLiteral("No athlete of this category comes into question."),
+                          said("No athlete of this category comes into question."),
                           {9, false, Quiet});
         });
     } else {

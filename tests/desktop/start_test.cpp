@@ -71,11 +71,11 @@ TEST_F(StartTest, EveryToolStandsOnTheHomeScreenOnce) {
     std::multiset<QString> shown;
     for (const desktop::HomeGroup& group : desktop::homeGroups())
         for (const desktop::ToolKind* const tool : group.tools)
-            shown.insert(tool->kind);
+            shown.insert(tool->title);
     std::multiset<QString> made;
     for (const desktop::ToolKind& tool : desktop::toolKinds())
         if (!tool.sentence.isEmpty())
-            made.insert(tool.kind);
+            made.insert(tool.title);
     EXPECT_EQ(shown, made);
 }
 

@@ -7,7 +7,7 @@
 namespace kavela::desktop {
 
 QString runsText(std::size_t count) {
-    return count == 1 ? Chart::tr("1 run") : Chart::tr("%1 runs").arg(count);
+    return count == 1 ? Chart::tr("1 run") : Chart::tr("%n runs", nullptr, static_cast<int>(count));
 }
 
 Chart::Chart(QWidget* parent) : ChartFrame(parent) {}

@@ -62,7 +62,7 @@ bool CompareDocument::recover(const std::string& content) {
 
 QString CompareDocument::summary() const {
     const std::size_t count = value().films.size();
-    return count == 1 ? tr("1 film") : tr("%1 films").arg(count);
+    return count == 1 ? tr("1 film") : tr("%n films", nullptr, static_cast<int>(count));
 }
 
 } // namespace kavela::desktop

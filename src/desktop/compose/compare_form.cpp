@@ -1,5 +1,7 @@
 #include "desktop/compose/compare_form.h"
 
+#include "common/text.h"
+
 #include <QCoreApplication>
 
 #include <string>
@@ -41,22 +43,24 @@ NumberFacts freeMoment() {
 
 CompareForm::CompareForm(Edit edit, QWidget* parent)
     : RecordForm(std::move(edit), Arrangement::Below, parent) {
-    choice({.name = "layout", .label = formText("&Layout")},
-           TextChoices{wordChoice("Side by side", LayoutKind::SideBySide),
-                       wordChoice("Above each other", LayoutKind::Stacked),
-                       wordChoice("Two by two", LayoutKind::TwoByTwo),
-                       wordChoice("One within the other", LayoutKind::PictureInPicture),
-                       wordChoice("Ghost: seen through", LayoutKind::Ghost),
-                       wordChoice("Left and right of a line", LayoutKind::Wipe)},
-           &composejob002::layout);
+    choice(
+        {.name = "layout", .label = formText("&Layout")},
+        TextChoices{wordChoice(KAVELA_TEXT("Side by side"), LayoutKind::SideBySide),
+                    wordChoice(KAVELA_TEXT("Above each other"), LayoutKind::Stacked),
+                    wordChoice(KAVELA_TEXT("Two by two"), LayoutKind::TwoByTwo),
+                    wordChoice(KAVELA_TEXT("One within the other"), LayoutKind::PictureInPicture),
+                    wordChoice(KAVELA_TEXT("Ghost: seen through"), LayoutKind::Ghost),
+                    wordChoice(KAVELA_TEXT("Left and right of a line"), LayoutKind::Wipe)},
+        &composejob002::layout);
     number({.name = "wipe", .label = formText("Line at"), .tip = formText("0 left, 1 right")},
            {.least = 0, .most = 1, .decimals = 2, .step = 0.05}, &composejob002::wipe);
-    choice({.name = "synchronise", .label = formText("&Together")},
-           TextChoices{wordChoice("at the start", Synchronise::Start),
-                       wordChoice("at one split", Synchronise::Split),
-                       wordChoice("at every split, waiting", Synchronise::Waiting),
-                       wordChoice("at every split, stretched", Synchronise::Stretched)},
-           &composejob002::synchronise);
+    choice(
+        {.name = "synchronise", .label = formText("&Together")},
+        TextChoices{wordChoice(KAVELA_TEXT("at the start"), Synchronise::Start),
+                    wordChoice(KAVELA_TEXT("at one split"), Synchronise::Split),
+                    wordChoice(KAVELA_TEXT("at every split, waiting"), Synchronise::Waiting),
+                    wordChoice(KAVELA_TEXT("at every split, stretched"), Synchronise::Stretched)},
+        &composejob002::synchronise);
     whole({.name = "split", .label = formText("Split")}, splitNumber(), &composejob002::split);
     addTimes();
     addCaptions();
@@ -65,8 +69,8 @@ CompareForm::CompareForm(Edit edit, QWidget* parent)
 
 void CompareForm::addTimes() {
     choice({.name = "range", .label = formText("Sho&wn")},
-           TextChoices{wordChoice("the whole run", RangeKind::Run),
-                       wordChoice("from split to split", RangeKind::Splits),
+           TextChoices{wordChoice(KAVELA_TEXT("the whole run"), RangeKind::Run),
+                       wordChoice(KAVELA_TEXT("from split to split"), RangeKind::Splits),
                        wordChoice("free", RangeKind::Free)},
            Access{[](const composejob002& job) { return job.range.kind; },
                   [](composejob002& job, const std::string& kind) {

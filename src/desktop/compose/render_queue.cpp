@@ -195,8 +195,9 @@ bool RenderQueue::eventFilter(QObject* watched, QEvent* event) {
         QApplication::activeModalWidget())
         return QObject::eventFilter(watched, event);
     const int open = openJobs();
-    const QString question = open == 1 ? tr("A film is still being composed.")
-                                       : tr("%1 films are still being composed.").arg(open);
+    const QString question =
+        open == 1 ? tr("A film is still being composed.")
+                  : tr("%n films are still being composed.", nullptr, static_cast<int>(open));
     if (m_workspace.askBeforeLoss(
             {question.toStdString(),
              tr("Leaving the program stops that, and nothing of an unfinished film is kept.")

@@ -103,7 +103,7 @@ QString CourseStrip::summary() const {
         return tr("Which gates does the cross course have?");
     const auto gates = info.gates.size();
     QStringList parts{qtText(info.phase), qtText(info.cat),
-                      gates == 1 ? tr("1 gate") : tr("%1 gates").arg(gates)};
+                      gates == 1 ? tr("1 gate") : tr("%n gates", nullptr, static_cast<int>(gates))};
     if (info.rollaftergate > 0)
         parts.append(tr("roll after %1").arg(info.rollaftergate));
     parts.removeAll(QString());

@@ -41,10 +41,10 @@ void FactsStatus::show(QStringList parts) {
         parts << tr("reading was cancelled: not all files are here");
     if (failed > 0)
         parts << (failed == 1 ? tr("1 file could not be read")
-                              : tr("%1 files could not be read").arg(failed));
+                              : tr("%n files could not be read", nullptr, failed));
     if (const auto copies = static_cast<int>(m_facts.copies().size()); copies > 0)
         parts << (copies == 1 ? tr("1 copy of a file does not count")
-                              : tr("%1 copies of files do not count").arg(copies));
+                              : tr("%n copies of files do not count", nullptr, copies));
     m_failed->setVisible(failed > 0);
     tell(parts.join(QStringLiteral(" · ")));
 }

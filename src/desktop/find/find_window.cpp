@@ -239,8 +239,9 @@ void FindWindow::takeFacts() {
 void FindWindow::tellContent() {
     const std::size_t files = m_facts.facts()->files().size();
     const std::size_t runs = m_facts.facts()->runs().size();
-    QString text = tr("%1, %2").arg(files == 1 ? tr("1 file") : tr("%1 files").arg(files),
-                                    runs == 1 ? tr("1 run") : tr("%1 runs").arg(runs));
+    QString text = tr("%1, %2").arg(
+        files == 1 ? tr("1 file") : tr("%n files", nullptr, static_cast<int>(files)),
+        runs == 1 ? tr("1 run") : tr("%n runs", nullptr, static_cast<int>(runs)));
     if (m_facts.isIncomplete())
         text += tr(". Reading was stopped: the others are not searched.");
     m_places->setContent(paths().isEmpty() ? QString() : text);

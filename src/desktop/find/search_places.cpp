@@ -76,7 +76,7 @@ void SearchPlaces::setContent(const QString& content) {
 
 void SearchPlaces::setFailed(int count) {
     m_failed->setText(count == 1 ? tr("⚠ One could not be read…")
-                                 : tr("⚠ %1 could not be read…").arg(count));
+                                 : tr("⚠ %n could not be read…", nullptr, static_cast<int>(count)));
     m_failed->setVisible(count > 0);
 }
 

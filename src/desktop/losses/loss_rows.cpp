@@ -1,5 +1,6 @@
 #include "desktop/losses/loss_rows.h"
 
+#include "common/text.h"
 #include "desktop/losses/loss_state.h"
 #include "desktop/losses/loss_texts.h"
 #include "desktop/shell/qt_text.h"
@@ -122,7 +123,7 @@ QString fieldShown(const std::string& field) {
         const char* field;
         const char* shown;
     };
-    static constexpr std::array Words{Word{"combination", "Combination"},
+    static constexpr std::array Words{Word{"combination", KAVELA_TEXT("Combination")},
                                       Word{"detail", "Part"},
                                       Word{"style", "Style"},
                                       Word{"water", "Water"},
@@ -181,13 +182,16 @@ StretchModel::Columns stretchColumns(std::size_t gates) {
                           return Cell{.text = (line.hasClip ? QStringLiteral("▶ ") : QString()) +
                                               stretchTitle(line.stretch),
                                       .number = static_cast<double>(line.stretch.first),
-                                      .tip = line.hasClip ? rowText("Enter plays both films")
-                                                          : rowText("No film is known here")};
+                                      .tip = line.hasClip
+                                                 ? rowText(KAVELA_TEXT("Enter plays both films"))
+                                                 : rowText(KAVELA_TEXT("No film is known here"))};
                       }),
-        words<Line>("Kind", [](const Line& line) { return kindShown(line.stretch.kind); }),
+        words<Line>(KAVELA_TEXT("Kind"),
+                    [](const Line& line) { return kindShown(line.stretch.kind); }),
         numbers<Line>(
             "Lost", [](const Line& line) { return shownCell(line.shown); },
-            "Own time less the reference's; all of them add up to what is shown on top"),
+            KAVELA_TEXT(
+                "Own time less the reference's; all of them add up to what is shown on top")),
         numbers<Line>(
             "Lost, %",
             [](const Line& line) {
@@ -201,17 +205,17 @@ StretchModel::Columns stretchColumns(std::size_t gates) {
     for (std::size_t gate = 0; gate < gates; ++gate)
         columns.push_back(gateColumn(gate, gates));
     columns.push_back(numbers<Line>(
-        "Between", [](const Line& line) { return signedCell(line.stretch.between); },
-        "Lost outside the upstream gates"));
+        KAVELA_TEXT("Between"), [](const Line& line) { return signedCell(line.stretch.between); },
+        KAVELA_TEXT("Lost outside the upstream gates")));
     columns.push_back(
         numbers<Line>("Strokes", [](const Line& line) { return countCell(line.stretch.strokes); }));
-    columns.push_back(numbers<Line>("Reference's strokes", [](const Line& line) {
+    columns.push_back(numbers<Line>(KAVELA_TEXT("Reference's strokes"), [](const Line& line) {
         return countCell(line.stretch.referenceStrokes);
     }));
     columns.push_back(numbers<Line>(
         "Penalty",
         [](const Line& line) { return line.stretch.pen ? countCell(line.stretch.pen) : Cell{}; },
-        "Own seconds of penalty in the section"));
+        KAVELA_TEXT("Own seconds of penalty in the section")));
     return columns;
 }
 
@@ -257,7 +261,7 @@ RunModel::Columns runColumns(std::function<void(std::size_t run)> makeReference)
     };
     Column<Line> reference{
         .title = rowText("Reference"),
-        .tip = rowText("A tick makes the run what all are held against"),
+        .tip = rowText(KAVELA_TEXT("A tick makes the run what all are held against")),
         .show = [](const Line& line) { return Cell{.isTicked = line.isReference}; }};
     reference.tick = [makeReference](std::size_t, const Line& line, bool isTicked) {
         if (isTicked)
@@ -270,12 +274,13 @@ RunModel::Columns runColumns(std::function<void(std::size_t run)> makeReference)
         std::move(reference),
         numbers<Line>("Total", [](const Line& line) { return timeCell(line.total); }),
         part("Gap", &ShownLosses::gap),
-        part("Paddling", &ShownLosses::paddling),
+        part(KAVELA_TEXT("Paddling"), &ShownLosses::paddling),
         part("Penalties", &ShownLosses::penalties),
-        part("Timing", &ShownLosses::timing),
+        part(KAVELA_TEXT("Timing"), &ShownLosses::timing),
         numbers<Line>(
-            "On expected time", [](const Line& line) { return signedCell(line.losses.xTimeDiff); },
-            "Time without penalties less the expected time"),
+            KAVELA_TEXT("On expected time"),
+            [](const Line& line) { return signedCell(line.losses.xTimeDiff); },
+            KAVELA_TEXT("Time without penalties less the expected time")),
     };
 }
 
@@ -335,10 +340,10 @@ GateModel::Columns gateColumns() {
         numbers<Line>("Reference", [](const Line& line) { return timeCell(line.gate.reference); }),
         numbers<Line>(
             "Entrance", [](const Line& line) { return signedCell(line.gate.entrance); },
-            "Lost up to the pole line"),
+            KAVELA_TEXT("Lost up to the pole line")),
         numbers<Line>(
             "Exit", [](const Line& line) { return signedCell(line.gate.exit); },
-            "Lost from the pole line on"),
+            KAVELA_TEXT("Lost from the pole line on")),
     };
 }
 
@@ -372,9 +377,9 @@ NoteModel::Columns noteColumns() {
     using Line = NoteLine;
     return {
         words<Line>("By", [](const Line& line) { return fieldShown(line.note.field); }),
-        words<Line>("Noted",
+        words<Line>(KAVELA_TEXT("Noted"),
                     [](const Line& line) {
-                        return line.note.text.empty() ? rowText("not noted")
+                        return line.note.text.empty() ? rowText(KAVELA_TEXT("not noted"))
                                                       : qtText(line.note.text).simplified();
                     }),
         numbers<Line>(
@@ -412,8 +417,8 @@ WayModel::Columns wayColumns() {
     return {
         words<Line>("Way", [](const Line& line) { return qtText(line.way.title).simplified(); }),
         numbers<Line>(
-            "Cost", [](const Line& line) { return signedCell(line.way.cost); },
-            "Seconds of the chosen way over the fastest one timed"),
+            KAVELA_TEXT("Cost"), [](const Line& line) { return signedCell(line.way.cost); },
+            KAVELA_TEXT("Seconds of the chosen way over the fastest one timed")),
     };
 }
 

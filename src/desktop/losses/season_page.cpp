@@ -289,8 +289,9 @@ QString SeasonPage::summaryText() const {
     const std::size_t runs = m_season.runs.size();
     return tr("%1 on %2: %3 in %4; gap a run %5, penalties %6")
         .arg(m_name, referenceTitle(query().reference.kind),
-             runs == 1 ? tr("one whole run") : tr("%1 whole runs").arg(runs),
-             files.size() == 1 ? tr("one file") : tr("%1 files").arg(files.size()),
+             runs == 1 ? tr("one whole run") : tr("%n whole runs", nullptr, static_cast<int>(runs)),
+             files.size() == 1 ? tr("one file")
+                               : tr("%n files", nullptr, static_cast<int>(files.size())),
              meanText(m_season.gap), meanText(m_season.penalties));
 }
 

@@ -1,6 +1,7 @@
 #include "desktop/motion/motion_recording.h"
 
 #include "boatmotion/session_files.h"
+#include "common/text.h"
 #include "desktop/shell/shown_number.h"
 
 #include <QCoreApplication>
@@ -27,20 +28,20 @@ struct KindText {
 
 const KindText& textOf(CurveKind kind) {
     static constexpr std::array<KindText, CurveKinds> Texts{{
-        {"Forward acceleration", "Forward", "m/s²"},
-        {"Turning rate (left above 0)", "Turning", "°/s"},
-        {"Roll (starboard down above 0)", "Roll", "°"},
-        {"Pitch (bow up above 0)", "Pitch", "°"},
-        {"Speed by position", "Speed", "m/s"},
-        {"Hull speed, estimated", "Hull speed", "m/s"},
+        {"Forward acceleration", KAVELA_TEXT("Forward"), "m/s²"},
+        {KAVELA_TEXT("Turning rate (left above 0)"), KAVELA_TEXT("Turning"), "°/s"},
+        {KAVELA_TEXT("Roll (starboard down above 0)"), "Roll", "°"},
+        {KAVELA_TEXT("Pitch (bow up above 0)"), "Pitch", "°"},
+        {KAVELA_TEXT("Speed by position"), "Speed", "m/s"},
+        {KAVELA_TEXT("Hull speed, estimated"), KAVELA_TEXT("Hull speed"), "m/s"},
         {"Heart rate", "Heart", "/min"},
-        {"Watch acceleration", "Watch", "m/s²"},
-        {"Acceleration of the phone, x", "Acceleration x", "m/s²"},
-        {"Acceleration of the phone, y", "Acceleration y", "m/s²"},
-        {"Acceleration of the phone, z", "Acceleration z", "m/s²"},
-        {"Rotation of the phone, x", "Rotation x", "°/s"},
-        {"Rotation of the phone, y", "Rotation y", "°/s"},
-        {"Rotation of the phone, z", "Rotation z", "°/s"},
+        {KAVELA_TEXT("Watch acceleration"), KAVELA_TEXT("Watch"), "m/s²"},
+        {KAVELA_TEXT("Acceleration of the phone, x"), KAVELA_TEXT("Acceleration x"), "m/s²"},
+        {KAVELA_TEXT("Acceleration of the phone, y"), KAVELA_TEXT("Acceleration y"), "m/s²"},
+        {KAVELA_TEXT("Acceleration of the phone, z"), KAVELA_TEXT("Acceleration z"), "m/s²"},
+        {KAVELA_TEXT("Rotation of the phone, x"), KAVELA_TEXT("Rotation x"), "°/s"},
+        {KAVELA_TEXT("Rotation of the phone, y"), KAVELA_TEXT("Rotation y"), "°/s"},
+        {KAVELA_TEXT("Rotation of the phone, z"), KAVELA_TEXT("Rotation z"), "°/s"},
     }};
     return Texts[static_cast<std::size_t>(kind)];
 }

@@ -298,8 +298,9 @@ void PenaltiesWindow::showStatus() {
     QStringList parts;
     if (files > 0) {
         const PenaltyRates& rates = m_figures->rates;
-        parts << (files == 1 ? tr("1 file") : tr("%1 files").arg(files))
-              << (rates.runs == 1 ? tr("1 run") : tr("%1 runs").arg(rates.runs));
+        parts << (files == 1 ? tr("1 file") : tr("%n files", nullptr, static_cast<int>(files)))
+              << (rates.runs == 1 ? tr("1 run")
+                                  : tr("%n runs", nullptr, static_cast<int>(rates.runs)));
         if (rates.leftOut > 0)
             parts << shownWords(leftOutText(rates.leftOut));
     }

@@ -1,5 +1,6 @@
 #include "desktop/penalties/penalty_contents.h"
 
+#include "common/text.h"
 #include "desktop/charts/chart_csv.h"
 #include "desktop/penalties/figure_cells.h"
 #include "desktop/shell/qt_text.h"
@@ -104,17 +105,23 @@ IntervalMark markOf(const DetailRow& row) {
 } // namespace
 
 QString titleOf(RateBy by) {
-    static const std::array<const char*, 10> Titles{
-        "by gate",    "by type of gate", "by tenth of the course",
-        "by section", "by crew",         "by category",
-        "by phase",   "by race",         "by month",
-        "by hand"};
+    static const std::array<const char*, 10> Titles{KAVELA_TEXT("by gate"),
+                                                    KAVELA_TEXT("by type of gate"),
+                                                    KAVELA_TEXT("by tenth of the course"),
+                                                    KAVELA_TEXT("by section"),
+                                                    KAVELA_TEXT("by crew"),
+                                                    KAVELA_TEXT("by category"),
+                                                    KAVELA_TEXT("by phase"),
+                                                    KAVELA_TEXT("by race"),
+                                                    KAVELA_TEXT("by month"),
+                                                    KAVELA_TEXT("by hand")};
     return tr(Titles[static_cast<std::size_t>(by)]);
 }
 
 QString rowTitleOf(RateBy by) {
     static const std::array<const char*, 10> Titles{
-        "Gate", "Type", "Tenth", "Section", "Crew", "Category", "Phase", "Race", "Month", "Hand"};
+        "Gate",  "Type", KAVELA_TEXT("Tenth"), "Section", "Crew", "Category", "Phase", "Race",
+        "Month", "Hand"};
     return tr(Titles[static_cast<std::size_t>(by)]);
 }
 

@@ -103,7 +103,7 @@ bool PlanningDocument::mayReplace(QWidget* over) const {
 
 QString PlanningDocument::summary() const {
     const std::size_t count = value().athletes.size();
-    return count == 1 ? tr("1 athlete") : tr("%1 athletes").arg(count);
+    return count == 1 ? tr("1 athlete") : tr("%n athletes", nullptr, static_cast<int>(count));
 }
 
 } // namespace kavela::desktop

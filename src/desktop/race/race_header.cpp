@@ -35,7 +35,8 @@ void fill(QComboBox& box, const QString& all, const RaceSet& set, std::string an
 
 QString countText(std::size_t shown, std::size_t all) {
     if (shown == all)
-        return all == 1 ? RaceHeader::tr("1 run") : RaceHeader::tr("%1 runs").arg(all);
+        return all == 1 ? RaceHeader::tr("1 run")
+                        : RaceHeader::tr("%n runs", nullptr, static_cast<int>(all));
     return RaceHeader::tr("%1 of %2 runs").arg(shown).arg(all);
 }
 

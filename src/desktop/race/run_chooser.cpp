@@ -47,7 +47,8 @@ OtherRace otherRace(RecognisedSplitFile read, const QString& path) {
 QString factsOf(const OtherRace& race, const QString& path) {
     const std::size_t runs = race.set.alldata.size();
     QStringList facts{race.date.seconds == 0 ? QString() : qtText(dayText(race.date)),
-                      runs == 1 ? RunChooser::tr("1 run") : RunChooser::tr("%1 runs").arg(runs),
+                      runs == 1 ? RunChooser::tr("1 run")
+                                : RunChooser::tr("%n runs", nullptr, static_cast<int>(runs)),
                       QFileInfo(path).fileName()};
     facts.removeAll(QString());
     return race.title.simplified() + '\n' + facts.join(" · ");

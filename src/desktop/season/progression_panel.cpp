@@ -291,9 +291,9 @@ void ProgressionPanel::addPoints(ChartContent& content, const kavela::Progressio
     if (missed > 0)
         content.subtitle += ' ' + (missed == 1 ? tr("A run with a missed gate stands in the table "
                                                     "alone.")
-                                               : tr("%1 runs with a missed gate stand in the "
-                                                    "table alone.")
-                                                     .arg(missed));
+                                               : tr("%n runs with a missed gate stand in the "
+                                                    "table alone.",
+                                                    nullptr, static_cast<int>(missed)));
 }
 
 /// Labels are for what is drawn.

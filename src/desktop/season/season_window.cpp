@@ -428,16 +428,18 @@ void SeasonWindow::showStatus() {
         m_emptyText->setText(tr("Reading…"));
     else
         m_emptyText->setText(tr("Nobody of this team races in any category yet."));
-    m_header->tellRaces(files == 0   ? tr("No split files: winners and rivals are the team's own")
-                        : files == 1 ? tr("Races from 1 split file")
-                                     : tr("Races from %1 split files").arg(files),
+    m_header->tellRaces(files == 0 ? tr("No split files: winners and rivals are the team's own")
+                        : files == 1
+                            ? tr("Races from 1 split file")
+                            : tr("Races from %n split files", nullptr, static_cast<int>(files)),
                         files == 0 && !m_facts.isReading());
     QStringList parts;
     if (m_season) {
         const std::vector<std::string>& twins = m_season->season.data.twins;
         parts << (m_season->season.spread.runs == 1
                       ? tr("1 run compared")
-                      : tr("%1 runs compared").arg(m_season->season.spread.runs));
+                      : tr("%n runs compared", nullptr,
+                           static_cast<int>(m_season->season.spread.runs)));
         for (const std::string& twin : twins)
             parts << tr("several athletes are called %1: their runs cannot be told apart")
                          .arg(qtText(twin));

@@ -92,7 +92,7 @@ void SelectionDocument::settle(selectionracesStruct_v3& value) {
 
 QString SelectionDocument::summary() const {
     const std::size_t count = value().races.size();
-    return count == 1 ? tr("1 race") : tr("%1 races").arg(count);
+    return count == 1 ? tr("1 race") : tr("%n races", nullptr, static_cast<int>(count));
 }
 
 } // namespace kavela::desktop

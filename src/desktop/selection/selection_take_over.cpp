@@ -106,7 +106,8 @@ void SelectionTakeOver::tellImported(const ListImport& import, bool isLatin1) {
         return;
     }
     QStringList lines{import.imported == 1 ? tr("One athlete was added.")
-                                           : tr("%1 athletes were added.").arg(import.imported)};
+                                           : tr("%n athletes were added.", nullptr,
+                                                static_cast<int>(import.imported))};
     if (isLatin1)
         lines.append(tr("The list is no UTF-8 text and was read as Latin-1: look at the names."));
     for (const NewCategory& category : import.added)

@@ -1,5 +1,6 @@
 #include "desktop/sessions/session_actions.h"
 
+#include "common/text.h"
 #include "desktop/motion/mount_names.h"
 #include "desktop/sessions/course_map.h"
 #include "desktop/sessions/replay.h"
@@ -194,7 +195,8 @@ void makeViewMenu(SessionWindow& window) {
         window.view().map().fit();
     });
     menu.addSeparator();
-    constexpr std::array Pages{"&Strokes", "&Turns", "Se&gments", "&Distance", "&Left and right"};
+    constexpr std::array Pages{"&Strokes", "&Turns", KAVELA_TEXT("Se&gments"), "&Distance",
+                               KAVELA_TEXT("&Left and right")};
     for (std::size_t page = 0; page < Pages.size(); ++page)
         add(menu, window, tr(Pages[page]), QKeyCombination(Qt::CTRL, Qt::Key(Qt::Key_1 + page)),
             [&window, page] { window.view().tables().setCurrentIndex(static_cast<int>(page)); });

@@ -142,9 +142,10 @@ bool EditedFile::takeBack(const std::string& content) {
 
 Autosave::Label EditedFile::label() const {
     const unsigned changes = m_edits - m_editsThen;
-    QStringList note{summary(), changes == 0   ? QString()
-                                : changes == 1 ? tr("1 change")
-                                               : tr("%1 changes").arg(changes)};
+    QStringList note{summary(), changes == 0 ? QString()
+                                : changes == 1
+                                    ? tr("1 change")
+                                    : tr("%n changes", nullptr, static_cast<int>(changes))};
     note.removeAll(QString());
     return {m_path, m_tool, note.join(", ")};
 }

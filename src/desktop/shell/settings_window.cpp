@@ -1,19 +1,21 @@
 #include "desktop/shell/settings_window.h"
 
 #include "desktop/shell/fault_label.h"
+#include "common/text.h"
+#include "desktop/shell/language.h"
 #include "desktop/shell/number_box.h"
 #include "desktop/shell/qt_text.h"
 #include "desktop/shell/scheme.h"
 #include "desktop/shell/theme.h"
 #include "desktop/shell/update_choice.h"
 #include "desktop/shell/workspace.h"
+#include "language/languages.h"
 #include "video/machine_memory.h"
 
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDialogButtonBox>
 #include <QFileDialog>
-#include <QFormLayout>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
@@ -38,16 +40,17 @@ struct Page {
 
 const std::vector<Page>& pages() {
     static const std::vector<Page> Pages{
-        {QT_TR_NOOP("Look and tables"), {"colorMode", "penaltiesIncluded", "penaltiesVisible"}},
-        {QT_TR_NOOP("Video"),
+        {QT_TRANSLATE_NOOP("kavela::desktop::SettingsWindow", "Look and tables"),
+         {"colorMode", "penaltiesIncluded", "penaltiesVisible"}},
+        {QT_TRANSLATE_NOOP("kavela::desktop::SettingsWindow", "Video"),
          {"autoplaynext", "startinCMTime", "playonclick", "tagmodeplaysjustpart",
           "coachswordvisible"}},
-        {QT_TR_NOOP("Split taking"),
+        {QT_TRANSLATE_NOOP("kavela::desktop::SettingsWindow", "Split taking"),
          {"predeterminatedsplits", "savetoCSV", "savetoPDF", "savedtags", "savedTLreasons"}},
-        {QT_TR_NOOP("Boat motion"),
+        {QT_TRANSLATE_NOOP("kavela::desktop::SettingsWindow", "Boat motion"),
          {"fullscreenBMRoll", "fullscreenBMPitch", "fullscreenHR", "fullscreenBMScatter",
           "normalizedBMvalues", "gaugeImpulse", "gaugeStrokerate"}},
-        {QT_TR_NOOP("At start"),
+        {QT_TRANSLATE_NOOP("kavela::desktop::SettingsWindow", "At start"),
          {"autoloadMainFolderURL", "autoloadPlanning", "autoloadPlanningOnline",
           "autoloadPlanningURL", "planningOnline", "autoloadTestMonitor"}},
     };
@@ -58,6 +61,10 @@ const PreferenceEntry& entryOf(std::string_view key) {
     const auto table = preferenceTable();
     return *std::find_if(table.begin(), table.end(),
                          [&](const PreferenceEntry& entry) { return entry.key == key; });
+}
+
+QString meaningOf(const PreferenceEntry& entry) {
+    return qtText(translated(entry.meaning));
 }
 
 /// Nothing to choose, and worth knowing where memory is short.
@@ -89,7 +96,7 @@ SettingsWindow::SettingsWindow(Workspace& workspace, QWidget* parent)
                                  theme::LargeSpacing);
         form->setSpacing(theme::LargeSpacing);
         if (tabs->count() == 0)
-            form->addWidget(schemeEditor());
+            addLook(*form);
         for (const std::string_view key : page.keys)
             form->addWidget(editor(entryOf(key)));
         if (std::ranges::find(page.keys, "startinCMTime") != page.keys.end())
@@ -102,7 +109,9 @@ SettingsWindow::SettingsWindow(Workspace& workspace, QWidget* parent)
     }
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Close);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::accept);
-    auto* note = new QLabel(tr("Every change takes effect at once."));
+    auto* note = new QLabel(
+        tr("Every change takes effect at once, another language when Kavela starts again."));
+    note->setWordWrap(true);
     note->setForegroundRole(QPalette::PlaceholderText);
     auto* column = new QVBoxLayout(this);
     column->addWidget(tabs, 1);
@@ -173,6 +182,32 @@ QWidget* SettingsWindow::newerVersionEditor() {
     return box;
 }
 
+void SettingsWindow::addLook(QVBoxLayout& form) {
+    form.addWidget(languageEditor());
+    form.addWidget(schemeEditor());
+}
+
+QWidget* SettingsWindow::languageEditor() {
+    auto* box = new QWidget;
+    auto* row = new QHBoxLayout(box);
+    row->setContentsMargins(0, 0, 0, 0);
+    auto* choice = new QComboBox;
+    choice->setObjectName("language");
+    choice->addItem(tr("As the system"), QString());
+    choice->addItem(QStringLiteral("English"), qtText(English));
+    for (const Language& language : offeredLanguages())
+        choice->addItem(qtText(language.name), qtText(language.code));
+    choice->setCurrentIndex(std::max(0, choice->findData(chosenLanguage(m_workspace))));
+    connect(choice, &QComboBox::activated, this,
+            [this, choice] { chooseLanguage(m_workspace, choice->currentData().toString()); });
+    if (qEnvironmentVariableIsSet("KAVELA_LANGUAGE"))
+        choice->setToolTip(
+            tr("The environment variable KAVELA_LANGUAGE decides for this session."));
+    row->addWidget(new QLabel(tr("Language")));
+    row->addWidget(choice, 1);
+    return box;
+}
+
 QWidget* SettingsWindow::colourModeEditor() {
     auto* box = new QWidget;
     auto* row = new QHBoxLayout(box);
@@ -191,7 +226,7 @@ QWidget* SettingsWindow::colourModeEditor() {
 }
 
 QWidget* SettingsWindow::switchEditor(const PreferenceEntry& entry) {
-    auto* box = new QCheckBox(qtText(entry.meaning));
+    auto* box = new QCheckBox(meaningOf(entry));
     box->setObjectName(qtText(entry.key));
     box->setChecked(m_workspace.preferences().boolean(entry.key));
     connect(box, &QCheckBox::toggled, this,
@@ -211,7 +246,7 @@ QWidget* SettingsWindow::numberEditor(const PreferenceEntry& entry) {
     connect(number, &WholeBox::valueChanged, this, [this, key = entry.key](int value) {
         m_workspace.setPreference(key, std::int64_t{value});
     });
-    row->addWidget(new QLabel(qtText(entry.meaning)), 1);
+    row->addWidget(new QLabel(meaningOf(entry)), 1);
     row->addWidget(number);
     return box;
 }
@@ -220,7 +255,7 @@ QWidget* SettingsWindow::listEditor(const PreferenceEntry& entry) {
     auto* box = new QWidget;
     auto* column = new QVBoxLayout(box);
     column->setContentsMargins(0, 0, 0, 0);
-    column->addWidget(new QLabel(qtText(entry.meaning) + ' ' + tr("One a line.")));
+    column->addWidget(new QLabel(meaningOf(entry) + ' ' + tr("One a line.")));
     auto* lines = new QPlainTextEdit;
     lines->setObjectName(qtText(entry.key));
     lines->setTabChangesFocus(true);
@@ -266,7 +301,7 @@ QWidget* SettingsWindow::urlEditor(const PreferenceEntry& entry) {
         m_workspace.setPreference(key, PreferenceUrl{});
         show();
     });
-    row->addWidget(new QLabel(qtText(entry.meaning)));
+    row->addWidget(new QLabel(meaningOf(entry)));
     row->addWidget(place, 1);
     row->addWidget(choose);
     row->addWidget(clear);

@@ -4,7 +4,7 @@
 
 #include <QDialog>
 
-class QFormLayout;
+class QVBoxLayout;
 
 namespace kavela::desktop {
 
@@ -19,6 +19,9 @@ public:
 
 private:
     [[nodiscard]] QWidget* editor(const PreferenceEntry& entry);
+    /// How the program looks and speaks, which no preference of the table holds.
+    void addLook(QVBoxLayout& form);
+    [[nodiscard]] QWidget* languageEditor();
     [[nodiscard]] QWidget* schemeEditor();
     [[nodiscard]] QWidget* newerVersionEditor();
     [[nodiscard]] QWidget* colourModeEditor();

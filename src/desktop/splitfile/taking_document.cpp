@@ -372,7 +372,8 @@ bool TakingDocument::takeOfficial(const OfficialDifference& difference) {
 }
 
 void TakingDocument::reset(QWidget* over) {
-    const QString runs = runCount() == 1 ? tr("1 run") : tr("%1 runs").arg(runCount());
+    const QString runs =
+        runCount() == 1 ? tr("1 run") : tr("%n runs", nullptr, static_cast<int>(runCount()));
     const QString what = tr("%1 with %2 is emptied. Ctrl+Z brings it back.").arg(title(), runs);
     if (!workspace().askBeforeLoss(
             {messages::BeCareful,
@@ -397,9 +398,9 @@ bool TakingDocument::mayLeaveMore(QWidget* over) {
     const QString told =
         (starts == 1 ? tr("1 start without a split is not stored in the file. This computer keeps "
                           "it, and offers it when the file is opened here again.")
-                     : tr("%1 starts without a split are not stored in the file. This computer "
-                          "keeps them, and offers them when the file is opened here again.")
-                           .arg(starts));
+                     : tr("%n starts without a split are not stored in the file. This computer "
+                          "keeps them, and offers them when the file is opened here again.",
+                          nullptr, static_cast<int>(starts)));
     if (!workspace().ask({"", told.toStdString()}, tr("Close"), over))
         return false;
     keepWork();
@@ -496,7 +497,7 @@ void TakingDocument::writeCopy(const QString& file, const BesideFile& lists, QWi
 
 QString TakingDocument::summary() const {
     const std::size_t count = static_cast<std::size_t>(runCount());
-    return count == 1 ? tr("1 run") : tr("%1 runs").arg(count);
+    return count == 1 ? tr("1 run") : tr("%n runs", nullptr, static_cast<int>(count));
 }
 
 } // namespace kavela::desktop

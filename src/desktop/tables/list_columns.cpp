@@ -1,5 +1,6 @@
 #include "desktop/tables/list_columns.h"
 
+#include "common/text.h"
 #include "desktop/race/cell_colours.h"
 #include "desktop/shell/qt_text.h"
 #include "desktop/shell/shown_number.h"
@@ -113,8 +114,12 @@ Column<ListedRow> athleteColumn(const TableDocument& document) {
 } // namespace
 
 QString kindTitle(ListColumnKind kind) {
-    static constexpr std::array<const char*, 6> Titles{
-        "Whole numbers", "Decimal numbers", "Times", "DNF and the like", "Days", "Text"};
+    static constexpr std::array<const char*, 6> Titles{KAVELA_TEXT("Whole numbers"),
+                                                       KAVELA_TEXT("Decimal numbers"),
+                                                       KAVELA_TEXT("Times"),
+                                                       KAVELA_TEXT("DNF and the like"),
+                                                       "Days",
+                                                       KAVELA_TEXT("Text")};
     return translatedTitle(Titles.at(static_cast<std::size_t>(kind)));
 }
 

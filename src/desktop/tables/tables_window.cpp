@@ -417,9 +417,11 @@ void TablesWindow::showStatus() {
     m_pages->setCurrentIndex(m_document.hasList() ? 1 : 0);
     QStringList parts;
     if (m_document.hasList())
-        parts << (table.rows() == 1 ? tr("1 row") : tr("%1 rows").arg(table.rows()))
-              << (table.columns.size() == 1 ? tr("1 column")
-                                            : tr("%1 columns").arg(table.columns.size()));
+        parts << (table.rows() == 1 ? tr("1 row")
+                                    : tr("%n rows", nullptr, static_cast<int>(table.rows())))
+              << (table.columns.size() == 1
+                      ? tr("1 column")
+                      : tr("%n columns", nullptr, static_cast<int>(table.columns.size())));
     if (!table.refused.empty())
         parts << tr("%1 refused (F7)").arg(table.refused.size());
     if (const std::size_t unsure = m_document.unsureRows().size(); unsure > 0)

@@ -1,5 +1,6 @@
 #include "desktop/taking/official_dialog.h"
 
+#include "common/text.h"
 #include "desktop/shell/bring_to_front.h"
 #include "desktop/shell/qt_text.h"
 #include "desktop/shell/shown_number.h"
@@ -35,9 +36,14 @@ namespace {
 constexpr int SentenceColumn = 2;
 
 QString kindWord(OfficialDifferenceKind kind) {
-    static constexpr std::array<const char*, 8> Words{
-        "Penalty missing", "Penalty too many", "Time",        "Bibs swapped",
-        "No result",       "Not finished",     "Not in list", "Not filmed"};
+    static constexpr std::array<const char*, 8> Words{KAVELA_TEXT("Penalty missing"),
+                                                      KAVELA_TEXT("Penalty too many"),
+                                                      "Time",
+                                                      KAVELA_TEXT("Bibs swapped"),
+                                                      KAVELA_TEXT("No result"),
+                                                      KAVELA_TEXT("Not finished"),
+                                                      KAVELA_TEXT("Not in list"),
+                                                      KAVELA_TEXT("Not filmed")};
     return OfficialDialog::tr(Words.at(static_cast<std::size_t>(kind)));
 }
 

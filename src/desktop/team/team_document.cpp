@@ -78,7 +78,7 @@ bool TeamDocument::recover(const std::string& content) {
 
 QString TeamDocument::summary() const {
     const std::size_t count = value().realMyTeam.size();
-    return count == 1 ? tr("1 athlete") : tr("%1 athletes").arg(count);
+    return count == 1 ? tr("1 athlete") : tr("%n athletes", nullptr, static_cast<int>(count));
 }
 
 } // namespace kavela::desktop

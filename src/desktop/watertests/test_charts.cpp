@@ -1,5 +1,6 @@
 #include "desktop/watertests/test_charts.h"
 
+#include "common/text.h"
 #include "desktop/shell/shown_number.h"
 #include "planning/test_entry.h"
 #include "planning/test_sections.h"
@@ -15,9 +16,11 @@ namespace kavela::desktop {
 namespace {
 
 constexpr double Unknown = std::numeric_limits<double>::quiet_NaN();
-constexpr SummaryLabels OtherLabels{"Average:", "Average variation:", "Total variation:"};
-constexpr SummaryLabels AverageLabels{"Average:", nullptr, nullptr};
-constexpr SummaryLabels PowerLabels{"Average:", "Average increase:", "Total increase:"};
+constexpr SummaryLabels OtherLabels{KAVELA_TEXT("Average:"), KAVELA_TEXT("Average variation:"),
+                                    KAVELA_TEXT("Total variation:")};
+constexpr SummaryLabels AverageLabels{KAVELA_TEXT("Average:"), nullptr, nullptr};
+constexpr SummaryLabels PowerLabels{KAVELA_TEXT("Average:"), KAVELA_TEXT("Average increase:"),
+                                    KAVELA_TEXT("Total increase:")};
 
 struct TestCharts {
     Q_DECLARE_TR_FUNCTIONS(TestCharts)
@@ -89,28 +92,32 @@ std::vector<SectionKind> sectionKinds(bool isLap) {
     using Section = TestSection;
     std::vector<SectionKind> kinds;
     if (isLap)
-        kinds = {{{"Lap time", test_axis::Time, test_help::LapTime},
+        kinds = {{{KAVELA_TEXT("Lap time"), test_axis::Time, test_help::LapTime},
                   [](const Section& section) { return std::optional(section.time); }},
-                 {{"Time in straight line", test_axis::Time, test_help::StraightTime},
+                 {{KAVELA_TEXT("Time in straight line"), test_axis::Time, test_help::StraightTime},
                   [](const Section& section) { return section.straightTime; }},
-                 {{"Time in rotation", test_axis::Time, test_help::RotationTime}, rotationOf}};
+                 {{KAVELA_TEXT("Time in rotation"), test_axis::Time, test_help::RotationTime},
+                  rotationOf}};
     const auto onLaps = [&](const char* help) { return isLap ? help : ""; };
     const SectionKind others[] = {
-        {{"Average speed", test_axis::Speed}, [](const Section& section) { return section.speed; }},
+        {{KAVELA_TEXT("Average speed"), test_axis::Speed},
+         [](const Section& section) { return section.speed; }},
         {{"Stroke rate", test_axis::StrokeRate, onLaps(test_help::StrokeRate), StrokeRateLabels},
          [](const Section& section) { return section.strokeRate; }},
         {{test_series::StrokeEfficiency, test_axis::StrokeEfficiency},
          [](const Section& section) { return section.strokeEfficiency; }},
-        {{"Maximum acceleration", test_axis::MaximumAcceleration,
+        {{KAVELA_TEXT("Maximum acceleration"), test_axis::MaximumAcceleration,
           onLaps(test_help::MaximumAcceleration), AccelerationLabels},
          [](const Section& section) { return section.maximumAcceleration; }},
-        {{"Average acceleration", test_axis::AverageAcceleration,
+        {{KAVELA_TEXT("Average acceleration"), test_axis::AverageAcceleration,
           onLaps(test_help::AverageAcceleration), AccelerationLabels},
          [](const Section& section) { return section.averageAcceleration; }},
-        {{"Average deacceleration", test_axis::AverageDeceleration,
+        {{KAVELA_TEXT("Average deacceleration"), test_axis::AverageDeceleration,
           onLaps(test_help::AverageDeceleration), AccelerationLabels},
          [](const Section& section) { return section.averageDeceleration; }},
-        {{"Roll movement", "Roll (°)", onLaps(test_help::Roll), RollLabels}, rollOf}};
+        {{KAVELA_TEXT("Roll movement"), KAVELA_TEXT("Roll (°)"), onLaps(test_help::Roll),
+          RollLabels},
+         rollOf}};
     kinds.insert(kinds.end(), std::begin(others), std::end(others));
     return kinds;
 }
@@ -198,21 +205,27 @@ std::vector<SeriesKind> strokeKinds() {
         {{"Stroke rate", test_axis::StrokeRate, "", StrokeRateLabels}, &testStruct::strokeRate},
         {{test_series::StrokeEfficiency, test_axis::StrokeEfficiency},
          &testStruct::strokeEfficiency},
-        {{"Maximum force", test_axis::MaximumForce}, &testStruct::maxForce},
+        {{KAVELA_TEXT("Maximum force"), test_axis::MaximumForce}, &testStruct::maxForce},
         {{"Power", "Power (W)", "", PowerLabels}, &testStruct::pow},
-        {{"Impulse", "Impulse (N s)"}, &testStruct::impulses},
-        {{"Maximum acceleration", test_axis::MaximumAcceleration, "", AccelerationLabels},
+        {{"Impulse", KAVELA_TEXT("Impulse (N s)")}, &testStruct::impulses},
+        {{KAVELA_TEXT("Maximum acceleration"), test_axis::MaximumAcceleration, "",
+          AccelerationLabels},
          &testStruct::maxAcce},
-        {{"Average acceleration", test_axis::AverageAcceleration, "", AccelerationLabels},
+        {{KAVELA_TEXT("Average acceleration"), test_axis::AverageAcceleration, "",
+          AccelerationLabels},
          &testStruct::aveAcce},
-        {{"Average deacceleration", test_axis::AverageDeceleration, "", AccelerationLabels},
+        {{KAVELA_TEXT("Average deacceleration"), test_axis::AverageDeceleration, "",
+          AccelerationLabels},
          &testStruct::avedeacce},
-        {{"Largest negative acceleration", "Negative acceleration (m/s2)", "", AccelerationLabels},
+        {{KAVELA_TEXT("Largest negative acceleration"), KAVELA_TEXT("Negative acceleration (m/s2)"),
+          "", AccelerationLabels},
          &testStruct::maxAcceNeg},
-        {{"Effective water phase", test_axis::WaterPhase, "", WaterPhaseLabels},
+        {{KAVELA_TEXT("Effective water phase"), test_axis::WaterPhase, "", WaterPhaseLabels},
          &testStruct::waterPhase},
         {{"Aerial phase", test_axis::AerialPhase, "", AerialPhaseLabels}, &testStruct::airPhase},
-        {{"Roll movement", "Roll (°)", "", RollLabels}, &testStruct::roll, DegreesPerRadian}};
+        {{KAVELA_TEXT("Roll movement"), KAVELA_TEXT("Roll (°)"), "", RollLabels},
+         &testStruct::roll,
+         DegreesPerRadian}};
 }
 
 std::vector<TestChart> strokeCharts(const std::vector<ShownTest>& tests) {
@@ -286,8 +299,8 @@ std::vector<TestChart> eightCharts(const std::vector<ShownTest>& tests) {
         tests, TestCharts::tr("Turn"),
         [&](const ListedTest& test) { return scaled(run(test).zrotsubmaxL, 1); }));
     TestChart rotation = chartOverTime(
-        {"Rotation about the vertical axis", "Rotation (rad/s)",
-         "Turns to the left are above 0, turns to the right below."},
+        {KAVELA_TEXT("Rotation about the vertical axis"), "Rotation (rad/s)",
+         KAVELA_TEXT("Turns to the left are above 0, turns to the right below.")},
         tests, [&](const ListedTest& test) { return run(test).zrotation; },
         [&](const ListedTest& test) {
             std::vector<double> seconds;

@@ -153,7 +153,7 @@ bool TestsDocument::recover(const std::string& content) {
 
 QString TestsDocument::summary() const {
     const std::size_t count = value().size();
-    return count == 1 ? tr("1 test") : tr("%1 tests").arg(count);
+    return count == 1 ? tr("1 test") : tr("%n tests", nullptr, static_cast<int>(count));
 }
 
 } // namespace kavela::desktop

@@ -1,5 +1,6 @@
 #include "desktop/why/why_window.h"
 
+#include "common/text.h"
 #include "common/why_text.h"
 #include "desktop/shell/qt_text.h"
 #include "desktop/shell/shown_number.h"
@@ -40,15 +41,15 @@ QLabel* textLabel(const QString& text, const char* name) {
 QString facts(const Reason& reason) {
     QStringList lines;
     if (reason.rule)
-        lines.append(WhyWindow::tr("Rule: %1").arg(qtText(reason.rule->formula)));
+        lines.append(WhyWindow::tr("Rule: %1").arg(qtText(translated(reason.rule->formula))));
     if (const QString rounding = qtText(roundingText(reason)); !rounding.isEmpty())
         lines.append(shownNumbers(rounding));
     if (const QString range = qtText(uncertaintyText(reason)); !range.isEmpty())
         lines.append(WhyWindow::tr("Within %1").arg(shownNumbers(range)));
     if (reason.rule && !reason.rule->source.empty())
-        lines.append(WhyWindow::tr("Source: %1").arg(qtText(reason.rule->source)));
+        lines.append(WhyWindow::tr("Source: %1").arg(qtText(translated(reason.rule->source))));
     for (const std::string& note : reason.notes)
-        lines.append(qtText(note));
+        lines.append(qtText(translated(note)));
     return lines.join('\n');
 }
 
@@ -73,7 +74,8 @@ void WhyWindow::addHead(QVBoxLayout& column) {
     auto* shown = textLabel(shownNumbers(qtText(m_reason.shown)), "shown");
     shown->setFont(theme::titleFont(*this));
     shown->setVisible(!m_reason.shown.empty());
-    const QString sentence = m_reason.rule ? qtText(m_reason.rule->sentence) : QString();
+    const QString sentence =
+        m_reason.rule ? qtText(translated(m_reason.rule->sentence)) : QString();
     column.addWidget(shown);
     column.addWidget(textLabel(sentence, "sentence"));
     auto* more = textLabel(facts(m_reason), "facts");
@@ -125,7 +127,7 @@ void WhyWindow::addTree(QVBoxLayout& column) {
 
 void WhyWindow::addInput(const Input& input, QTreeWidgetItem& under) {
     auto* item = new QTreeWidgetItem(&under);
-    item->setText(WhatColumn, qtText(input.name));
+    item->setText(WhatColumn, qtText(translated(input.name)));
     item->setToolTip(WhatColumn, item->text(WhatColumn));
     const QString within = shownNumbers(qtText(plusMinusText(input)));
     item->setText(ValueColumn,
@@ -148,7 +150,7 @@ void WhyWindow::addInput(const Input& input, QTreeWidgetItem& under) {
 
 void WhyWindow::addPart(const Reason& part, QTreeWidgetItem& under) {
     auto* item = new QTreeWidgetItem(&under);
-    item->setText(WhatColumn, part.rule ? qtText(part.rule->sentence) : QString());
+    item->setText(WhatColumn, part.rule ? qtText(translated(part.rule->sentence)) : QString());
     item->setToolTip(WhatColumn, item->text(WhatColumn));
     item->setText(ValueColumn, shownNumbers(qtText(part.shown)));
     item->setTextAlignment(ValueColumn, Qt::AlignRight | Qt::AlignVCenter);

@@ -27,13 +27,15 @@ QString countText(std::size_t added, std::size_t read) {
         return VariabilityDialog::tr("All %1 measurements of this list are there already.")
             .arg(read);
     const QString text = added == 1 ? VariabilityDialog::tr("1 measurement is new.")
-                                    : VariabilityDialog::tr("%1 measurements are new.").arg(added);
+                                    : VariabilityDialog::tr("%n measurements are new.", nullptr,
+                                                            static_cast<int>(added));
     if (added == read)
         return text;
     const std::size_t present = read - added;
     return text + ' ' +
            (present == 1 ? VariabilityDialog::tr("1 other is there already.")
-                         : VariabilityDialog::tr("%1 others are there already.").arg(present));
+                         : VariabilityDialog::tr("%n others are there already.", nullptr,
+                                                 static_cast<int>(present)));
 }
 
 } // namespace
@@ -52,10 +54,10 @@ VariabilityDialog::VariabilityDialog(const QString& fileName, const VariabilityL
     column->addWidget(makeLabel("count", countText(added, list.measurements.size())));
     if (!list.skipped.empty()) {
         column->addSpacing(theme::Spacing);
-        column->addWidget(
-            makeLabel("skipped", list.skipped.size() == 1
-                                     ? tr("1 line is left out:")
-                                     : tr("%1 lines are left out:").arg(list.skipped.size())));
+        column->addWidget(makeLabel("skipped", list.skipped.size() == 1
+                                                   ? tr("1 line is left out:")
+                                                   : tr("%n lines are left out:", nullptr,
+                                                        static_cast<int>(list.skipped.size()))));
         column->addWidget(makeSkippedLines(list.skipped), 1);
     } else {
         column->addStretch();
@@ -63,7 +65,8 @@ VariabilityDialog::VariabilityDialog(const QString& fileName, const VariabilityL
     auto* const buttons = new QDialogButtonBox(QDialogButtonBox::Cancel);
     if (added > 0) {
         QPushButton* const add = buttons->addButton(
-            added == 1 ? tr("Add 1 measurement") : tr("Add %1 measurements").arg(added),
+            added == 1 ? tr("Add 1 measurement")
+                       : tr("Add %n measurements", nullptr, static_cast<int>(added)),
             QDialogButtonBox::AcceptRole);
         add->setFocus();
     }

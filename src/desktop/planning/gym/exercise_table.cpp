@@ -180,8 +180,9 @@ void ExerciseTable::show(const gymdataplanning_v1* session, const QStringList& n
 
 QString ExerciseTable::totalsText(const gymdataplanning_v1& session) const {
     const GymTotals totals = gymTotals(session);
-    const QString exercises =
-        totals.exercises == 1 ? tr("1 exercise") : tr("%1 exercises").arg(totals.exercises);
+    const QString exercises = totals.exercises == 1
+                                  ? tr("1 exercise")
+                                  : tr("%n exercises", nullptr, static_cast<int>(totals.exercises));
     return tr("%1 · %2 sets · tonnage %3 kg")
         .arg(exercises, totals.sets == 0 ? "0" : measureShown(totals.sets),
              totals.tonnage == 0 ? "0" : measureShown(totals.tonnage));

@@ -344,7 +344,8 @@ void DayDesk::agreeTo(const std::vector<std::string>& films) {
                         "there: %1")
                          .arg(left.join(", ")));
     else
-        stage.flash(agreed == 1 ? tr("Agreed") : tr("%1 films agreed to").arg(agreed));
+        stage.flash(agreed == 1 ? tr("Agreed")
+                                : tr("%n films agreed to", nullptr, static_cast<int>(agreed)));
 }
 
 /// A film of several boats keeps its name, which could be that of only one of them.

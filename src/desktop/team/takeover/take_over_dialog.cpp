@@ -235,7 +235,8 @@ void TakeOverDialog::showCount() {
     const std::size_t count = tickedCount();
     const bool hasRace = m_event->currentIndex() >= 0;
     m_take->setEnabled(count > 0 && hasRace);
-    m_take->setText(count == 1 ? tr("&Take over 1 line") : tr("&Take over %1 lines").arg(count));
+    m_take->setText(count == 1 ? tr("&Take over 1 line")
+                               : tr("&Take over %n lines", nullptr, static_cast<int>(count)));
     const auto takeable = std::ranges::count_if(m_plan, &PlannedResult::canBeTaken);
     if (!hasRace)
         m_note->setText(tr("Choose the event of the race."));

@@ -1,0 +1,20511 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="cs_CZ">
+<context>
+    <name></name>
+    <message>
+        <source>Selection results</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Selection results xTimes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Category</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Phase</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Result</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Athlete</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>not in the selection</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Leave out</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add %1 to the selection</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>AthletePanel</name>
+    <message>
+        <source>An athlete needs a name.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>“%1” is in the team already.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ChartExport</name>
+    <message>
+        <source>Picture (*.png)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Drawing (*.svg)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Table (*.csv)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save chart</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>CompareWindow</name>
+    <message>
+        <source>Film %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>EightTest</name>
+    <message>
+        <source>Total – · %1 of %2 splits are timed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Total %1 s · standard deviation %2 s</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>FindWindow</name>
+    <message>
+        <source>The table cannot be written over a file that is searched.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>IntervalTexts</name>
+    <message>
+        <source>A duration is written as seconds or as 1:30, up to a day</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sets and repetitions are whole numbers from 0 to 9999</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Volume and intensity are numbers such as 4.5</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>, rest %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 in all, %2 of it work; repetitions: %3</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>KeyOverlay</name>
+    <message>
+        <source>In the part with the focus</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ListedTest</name>
+    <message>
+        <source>No name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Lap test</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sprint</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Eight test</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Lap</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Eight</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>MeasureCharts</name>
+    <message>
+        <source>below what is usual</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>within what is usual</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>above what is usual</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Weight and body fat</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Body fat (%)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Weight</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Body fat</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Weight (kg)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add a weight or body fat to see how it goes through the season.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Usual: mean ± one standard deviation of the four weeks before</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Each day</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Seven-day mean</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Usual</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Week to %1: mean %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1. What is usual is known after seven measured days of the 28 before.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1, %2 (%3 to %4).</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>MeasureColumns</name>
+    <message>
+        <source>Date</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>OlderRecordings</name>
+    <message>
+        <source>“%1” is a recording of version 4. It can be converted to the current version: “%2” is written beside it, the recording itself stays as it is.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Convert and open</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>PlanningHandouts</name>
+    <message>
+        <source>Choose an athlete with a season first.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Week %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Week %1 %2.pdf</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Season %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Season %1 %2.pdf</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no week to write.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Week %1 %2.ics</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Week as a calendar file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Calendar files (*.ics)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is written.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ProgressionChart</name>
+    <message>
+        <source>Position after each phase; the chosen race is drawn heavier</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>position</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Positions of the phases stand here once they are entered.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>QObject</name>
+    <message>
+        <source>start of the roll</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>boat upside down</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>boat up again</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Recent files, in %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Search everything…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;All keys</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Why this number?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Change keys…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Full screen</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Where are the films now?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Videos (*.mov *.mp4 *.m4v *.avi *.mkv *.mts *.m2ts *.ts *.3gp *.webm *.mpg);;All files (*)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The folder has another film named %1 already. Give one of them another name first.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Copying %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 could not be copied into the folder.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>entrance</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>middle</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>exit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>All splits of this run are marked.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Mark the start first: the splits are expected from there on.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No other run has split %1 yet: nothing tells where it is to be expected.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>QueryForm</name>
+    <message>
+        <source>&amp;Athlete</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>anyone</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Category</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Phase</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>any</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>P&amp;lace</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>anywhere</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Year</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Gate</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Up or down</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>both</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Direction</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Style</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Kind</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>RaceExchange</name>
+    <message>
+        <source>course</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Names of the films</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>How the films are named, such as &quot;{any} {name} {category} {phase}&quot;.
+{name}, {category}, {phase}, {bib}, {number} and {any} stand for what differs.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Import split file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Split files (*.kvx);;All files (*)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Import official results</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Lists (*.csv *.txt);;All files (*)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There are no results in %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Create</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Overwrite</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>RankingCharts</name>
+    <message>
+        <source>Release</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The chart begins with the first position.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Points</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The chart begins with the first points.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Touches and missed gates per run</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>per run</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Touches</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Missed gates</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Take the season&apos;s statistics from split files to see penalties here.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Behind the best of the category</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Run</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Races with a time and a best time stand here.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>RankingSection</name>
+    <message>
+        <source>The release of a ranking list is a whole number such as 4</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>RunForm</name>
+    <message>
+        <source>A penalty is a whole number of seconds, 0 to 999</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>SeasonChart</name>
+    <message>
+        <source>%1: penalty (s)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>% behind</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>penalty (s)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Percent behind the fastest as lines, penalty seconds as bars</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Penalties only; percent behind comes with split files</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Percent behind the fastest stands here once runs are taken over from split files.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>SelectionTakeOver</name>
+    <message>
+        <source>Lists (*.csv *.txt);;All files (*)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Import athletes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>athletes imported</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>“%1” cannot be read</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>One athlete was added.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The list is no UTF-8 text and was read as Latin-1: look at the names.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Line %1: the category %2 is new in the selection.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Line %1: the category %2 is new in the selection, and none that boats are raced in.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Line %1: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Results of which race?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add a category first.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Split files of the race</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Split files (*.kvx);;All files (*)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There are no results in it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>results taken over</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n athletes were added.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>SessionConversion</name>
+    <message>
+        <source>Reading…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>“%1” cannot be opened</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>SessionEdits</name>
+    <message>
+        <source>session information</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nothing was cut</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Too little would be left of the session.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>cut to a stretch</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>removal of a stretch</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>removal of strokes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>new analysis</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>mount of the phone</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>SessionExports</name>
+    <message>
+        <source>Save the edited .kvb file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Recordings (*.kvb)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Export the table</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Semicolon-separated text (*.csv)</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>SessionImports</name>
+    <message>
+        <source>%1 positions and %2 heart rates were taken over.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Import the recording of the boat first: a track gives it positions and heart rates.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>track of a watch</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>move of a watch&apos;s track</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Import power-meter data</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Lists (*.csv *.txt)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>All files (*)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>“%1” cannot be read</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Import a recording or a session first: power-meter data belongs to its strokes.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>import of power-meter data</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>SessionSeries</name>
+    <message>
+        <source>Power</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>W</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Power meter</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Water phase</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>s</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Aerial phase</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>m/s</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Heart rate</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1/min</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pitch in turns</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>°</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Stroke rate</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Force</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>N</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Impulse</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>N·s</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Roll of the stroke</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>SessionTexts</name>
+    <message>
+        <source>left</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>right</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>side unknown</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Side unknown: when the session was made, it was not known which side of the phone points to the bow.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file does not tell how the clocks of strokes and fixes go together: they were fitted by the turns and may be some seconds apart.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Power-meter data is not in the strokes yet; you are asked on saving.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>SplitStatistics</name>
+    <message>
+        <source>is no split file that can be read</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>has no date</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>is of %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>has no run of %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>TestCharts</name>
+    <message>
+        <source>Not recorded, and not entered</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Lap</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Stretch of the sprint</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Turn</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Time from the start (s)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Only a recording tells this</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Split</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>TrialMarking</name>
+    <message>
+        <source>Add the first athlete above</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>M marks split %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>M marks the start</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>M marks the %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The roll is marked</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The cross course has no gates yet</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Gate %1: M marks the %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Gate %1 is marked</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The time of this trial was taken without marks on the film. Marking it anew replaces it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Mark anew</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>start mark</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>split %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1:  %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Split %1 was put in between two marks. Ctrl+Z takes it out again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Gate %1 is marked. N goes to the next gate, Shift+M moves the selected mark.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The cross course has no gates yet: they are set above.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 of gate %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Gate %1 %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The roll is marked. Shift+M moves the selected mark, Delete removes it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No mark is selected. Ctrl and the arrows go from mark to mark.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>mark moved</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>mark removed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Without a start mark the time counts from the beginning of the film.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>gate %1 removed</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>TypedMeasures</name>
+    <message>
+        <source>This moment is in no calendar: %1 seconds from 2001-01-01. It stays as it is until another date is typed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A value below 0 cannot be measured.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>More than %1 was hardly measured.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>It stays as it is until another one is typed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A measurement needs a day of the calendar such as 2026-03-09.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Expected is a number from 0 to %1, such as %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>TypedNumber</name>
+    <message>
+        <source>Expected is a number from %1 to %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Expected is a whole number from %1 to %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Expected is a time from %1 to %2 seconds</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>TypedValues</name>
+    <message>
+        <source>A time is a number of seconds such as 92.34, or 1:32.34</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A penalty is a whole number of seconds, 0 to 999</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A position is a whole number, 1 to 9999</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ranking points are a number such as 612.5</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A year is a number from 1900 to 2100</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A date is a day of the calendar such as 2025-06-14</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>WeekTexts</name>
+    <message>
+        <source>Week %1, from %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Load %1 %</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Macrocycle</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Mesocycle</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Event</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Place</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>On-water test</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Endurance test</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Blood test</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Injured</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%n session(s)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The week&apos;s date is in no calendar.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The week does not start on a Monday.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The load is negative.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The two lists of planned totals are of different lengths.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 of its sessions are on no day of the week.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The session&apos;s date is in no calendar.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The time of day is none.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The time zone “%1” is unknown.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A value is negative.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela</name>
+    <message>
+        <source>The time from the mark before to the mark of this section.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>mark − mark before</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The time of the section with the penalties of its gates.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>time + penalties</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The time from the start to the mark of this section.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Σ sections up to here</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>All sections together, as timed from the video, without penalties.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Σ sections</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>All sections together, as timed from the video, and the penalties.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Σ sections + penalties</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The sprint as it was timed for this run.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>sprint</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The official time as it was entered for this run.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>real</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A run of another race, held against the runs of this one.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>time</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The colour tells between which tenths of its column a time lies.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>tenth below &lt; time ≤ tenth above</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The least time of its column has a colour of its own.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>time = least</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A total column with a run that has no total stays white.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>white</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What was not timed, or lies beside the scale, has no colour.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>no colour</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The least of the column that counts.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>min values</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The middle of the column, of what counts.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>median values</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The time less that of the reference.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>own − reference</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The place in the column: one more than are faster to the hundredth.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1 + faster</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>How far behind the best of the column.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>100 · (own / best − 1)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The share of the column that is as slow or slower.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>100 · slower or equal / timed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The best time of the section that stands alone, whoever paddled it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>min times</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The best of every section up to here, put together.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Σ bests up to here</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The best of every section, put together.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Σ bests</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The seconds of all its touches and missed gates.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Σ gates</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The seconds of touches and missed gates of the section.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Σ gates of the section</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The official penalty seconds as they were entered for this run.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>real penalty</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The expected time as split taking stored it with this run.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>expected</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>values of the column</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>least</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>most</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>times that stand alone</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No gate was touched or missed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>penalties</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>faster</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>timed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>slower or equal</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>median</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>List of online planning entries.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Files that have already been watched.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Play the next video of a list when one ends.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Start a run at its stored video time rather than at the video&apos;s start.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Start playback as soon as a row is clicked.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show penalties in the tables.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Include penalty seconds in the times that are compared.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Colours of the split table.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Comment tag chosen last.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show the coach&apos;s comments.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>In tag mode, play only the tagged part of a video.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Kind of data opened last.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Full screen shows the roll chart.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Full screen shows the pitch chart.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Full screen shows the heart-rate chart.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Full screen shows the scatter chart.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show boat-motion values normalised.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show the impulse gauge.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show the stroke-rate gauge.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Number of splits of a new split file.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tag names saved for reuse.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Time-loss reasons saved for reuse.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Load a planning file at start.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The planning file to load at start is an online one.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Planning file to load at start.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Also export the table as CSV on saving.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Also export a PDF on saving.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Main folder to open at start.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open the test tool at start.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file is not an activity, but something else of the device.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There are no points in the file.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>{} videos</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Makes a training file of the videos that carry an athlete&apos;s name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Folder of the videos</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The athlete&apos;s name; a crew as &quot;A / B&quot;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Replace a training file that is there already</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Kavela: splits, results and recordings of canoe slalom.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Files to open in the desktop program</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Start another desktop program, also where one runs</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Language of what is said: en or one that is built in</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is not enough memory for this file.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Composes a film of several runs</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What is to be composed (.json)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>File to write, in place of the job&apos;s own</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>{} strokes</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>{} turns</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Give another name with --name.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A name goes with one recording only.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Writes the processed session of raw recordings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Raw recordings (.kvb)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Name of the new file, for a further one</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>{} files</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Failed to create file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Writes a sample season to try Kavela with</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Folder to write to; made where it is missing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Makes short films of runs as well</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Writes the split table for a spreadsheet, or a report</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Split file (.kvx) of any release</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>File to write: semicolon-separated text</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>File to write: the race report, on A4 pages</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no split file.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>{} tables</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>{} runs</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Writes what split files say as tables for other programs</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Split files, or folders with them</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Folder to write to</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Fetches the films of a race by their bibs</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Where the films come from (.json)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Only print what would be fetched</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Do not ask before anything is fetched</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>User name for the server of the address</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A search needs a file or folder and, last, the query in quotes.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The table cannot be written over a file that is searched.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Searches split files: a season in one question</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Split files, or folders with them; last the query, in quotes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Print one JSON document</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>{} groups</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>{} rows</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>What an athlete can lift once, by five formulas</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>How often the weight was lifted</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The weight in kilograms</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>{} results</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>{} lines</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Adds an official results list to a split file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Split file (.kvx) of the current version</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Semicolon-separated text with a header line: position, bib, name, nationality, time, penalty</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Says what files are, or what is wrong in them</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Files of any kind</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The table cannot be written over a file that it is made from.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tells where runs lose time against one another</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Split file (.kvx) of any release; with --athlete also folders of them</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>winner, fastest, ideal, median, own or run:I; winner without other word</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The season of an athlete over all the paths; a crew as &quot;A / B&quot;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Only the athlete&apos;s runs of this category</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Folder to write the athlete&apos;s page into, named after the athlete</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Explain one number instead: loss/RUN/winner/5, gap/RUN/ideal, …</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>run {}</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>no total</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>, no totals to compare</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>strokes {} on {}</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>gate {} {}</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>     Explained by notes: {} of {} ({:.0f} %)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tells how often gates are touched, what it cost, and whether speed pays</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Split files (.kvx) of any release, or folders of them</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What the rates are by; by gate without other word</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Only runs of this category</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>File to write the rates to: semicolon-separated text</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Explain one number instead: rate/gate/7, touches/crew/NAME, cost/RUN/GATE, …</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>… {} more; all of them with --json, --csv or in a pipe</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Penalties by {} · {}, {}</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>{} of {} whole runs without a penalty: {:.1f} % ({})</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ranked: drawn towards {:.1f} %, the more the fewer the passages;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>{} of {}</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What penalties cost</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>{} penalties</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>gate {}</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>  {} of {}, without {}</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>{} {} of {} ({:.0f} %, {:.0f}–{:.0f})</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Noted of {}</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1 % of speed pays for {:.2f} touches a run; times in percent of the group&apos;s median</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The sum of the best splits, and what each run could be</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Store the values in the file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tell how a number came about: perfect, or xtime/5 (runs from 0)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The weeks of each athlete&apos;s seasons</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Planning (.planning) of any version</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Brings plannings to the current version</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Plannings (.planning) of any version</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shows and upgrades training plannings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>{} weeks</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>{} sessions</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>{} athletes</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>{} favourite interval sessions</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>{} variability measurements</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Tells how the athletes of a team stand over seasons</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Team file (.kvteam)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Split files (.kvx) of any release, or folders of them: they tell the winners and the rivals</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Category: MK1, WK1, MC1, WC1, MX1, WX1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Only these: 2025, or 2023-2025</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Whose places to expect of one another; the team and those who raced most often without it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>File to write: the runs of the athletes as semicolon-separated text</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Folder to write a report of the team and a page for each athlete into</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Explain one number instead: spread, trend/NAME, percent/NAME/2025/WC1/Final, …</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>{:+.1f} to {:+.1f}</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>{:+.2f} to {:+.2f}</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>      {} run {} {} {}
+</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>  {}. {}: {}, {} s a run
+</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>{} whole runs</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source> · on {} · {}
+</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> ({:+.1f} to {:+.1f})</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>{} split files</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source> · {} · {} of races</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Too few runs to tell how much they vary by chance.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Runs vary by {:.1f} %{}, from {}; {:.2f} % is worth gaining.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Neither winners nor fastest splits of these races are known.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>      ┄ third of the final, median</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>within</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>trend</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>on splits</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>{:.1f} % (all {:.1f}{})</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>, {} missed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>{:+.1f} %/yr{} </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>{} of {} ({:.0f}–{:.0f} %)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>{} races</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source> {} of {} ({:.0f}–{:.0f} %), {:+.1f} %</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>rank {}</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>… {} more; all of them with --json or in a pipe</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>{} more boats come into question: name a field with --field</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>{} is left out: fewer than {} runs, or never met the others</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The ranking of each category</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Selection file (.kvsr) of any layout</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Kind of bonus that counts, from 0</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Folder to write both reports into</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Store percentages and scores in the file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Adds athletes from a list to a selection</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Selection file (.kvsr)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Text with lines Cat;Name;Surname;year;club</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Takes the results of a race from its split files</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Race of the selection: its name, or its number counted from 0</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Kind of bonus that counts in the scores, from 0</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Split files (.kvx) of the race</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Selection races and their ranking</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Prints the coloured split table of a race</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Colours: race or training</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Times from the start to each split</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add penalty seconds to the times</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show penalty seconds behind the times</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Only runs of this phase</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tell how a number came about: cell/5/3, band/5/3, ideal/3, ideal/total (runs from 0, columns and sections from 1)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>{} gates, {} upstream</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The table cannot be written over the recording itself.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Finds the strokes and turns of a boat-motion recording</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Raw recording (.kvb)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;{}&quot; is no number from {:g} to {:g} {}.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;{}&quot; is none of: {}.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Side of the phone that points to the bow, where fixes do not tell: top, bottom, right, left, back or screen</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Athlete, boat and kit in kg</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Resistance of the hull over the square of its speed in N·s²/m²</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Class of boat: k1, c1, c2, kayak or canoe</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>{} bouts</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>{:.1f} 1/min</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>{:g} kg, drag {:g} N·s²/m², {}; force and power hold on flat water only</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shows any list of results as a table, with columns reckoned</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A list: text (CSV, tabs, columns of blanks), a spreadsheet (.xlsx, .ods), or a split file (.kvx) that carries one</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A column to add: total:Time,Pen, rank:Total, gap, percent, percentile, difference:Run 2,Run 1; with &quot;by Category&quot; within each category, with &quot;down&quot; the highest first</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>ROW,COL,VALUE,FN as in Nation,Category,Time,mean; FN is count, sum, mean, median, least or most</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Team (.kvteam) whose athletes are looked for</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The sheet, where there are several; of a split file which of its lists</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>File to write the table to: semicolon-separated text</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Category, letter for letter as in the file: MK1, WK1, MC1, WC1, MX1, WX1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What the athletes of a team reached</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Name of the athlete</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Folder to write &quot;2025 Categorization.pdf&quot; into</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Brings files of older releases to the current version</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Split files, selection races, plannings and recordings, or folders</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>rule</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>source</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>note</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>split {}</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>entry {}</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>shown {} of {}</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>{} to {}  ({})</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Imported “%1”</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>“%1” cannot be imported</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Watches and phones (*.gpx *.tcx *.fit *.csv *.tsv *.txt);;All files (*)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Import from a watch or a phone</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The rows of the group.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>number of rows</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The least value of the group&apos;s rows.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The mean of the group&apos;s rows.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Σ values / rows with a value</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The middle of the group&apos;s rows.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Stopped; nothing was written.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>{} frames</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>{} films</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>There is nothing to fetch.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>90 %, Student&apos;s t</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>90 %, Wilson</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>own</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Time lost between two neighbouring marks that both runs have.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Time lost in percent of the reference&apos;s time there.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>100 · (own − reference) / reference</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>After a mark that was not taken the next time covers both sections.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Σ times between the marks</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The least time that stands alone, whoever paddled it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The median of the finalists&apos; times that stand alone.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>median times</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The difference of the totals, official where both have an official one.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>own total − reference total</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>All sections and the penalties, as timed from the video.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What was lost on the water: all stretches together.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Σ losses</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The difference of the penalties.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>own penalties − reference&apos;s penalties</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What neither water nor penalties tell: official against video time.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>gap − paddling − penalties</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Time lost in an upstream gate, by its first entry in both runs.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Time lost from the entrance of an upstream gate to its pole line.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Time lost from the pole line of an upstream gate to its exit.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What a stretch lost outside its upstream gates.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>loss − Σ gates</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The part of the loss that notes against the same crew explain.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Σ notes / paddling</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The time without penalties against the expected time.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>paddling time − expected time</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The total against a result of interest.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>own total − result</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Time lost as noted; several reasons of one note share it equally.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Σ notes above 0</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Time gained as noted; several reasons of one note share it equally.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Σ notes below 0</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What the chosen way cost against the fastest one timed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>chosen − least timed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What was lost in percent of the reference&apos;s time, over whole runs.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>100 · ΣL / ΣB,  SE² = n/(n−1) · Σ(L − qB)² / (ΣB)²</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>ratio estimator: Cochran, Sampling Techniques, 1977</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What was lost here in a run on the average.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>ΣL / n</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The part of the whole gap that was lost here.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>ΣL / Σgap</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The mean gap of the whole runs.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Σgap / n</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>interval: Student&apos;s t</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The mean difference of penalties of the whole runs.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Σ(own − reference) / n</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What was lost on the water up to a mark: all stretches before it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Σ losses to here</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The total of the run: the official one where it has one.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>One more than have a smaller total in the group, to the hundredth.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1 + totals below the own</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The strokes that were marked in the stretch.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Σ strokes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The seconds of penalty at the gates of the stretch.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Σ penalties</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The whole runs that have something of it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>number of runs</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What was lost here in all runs together.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Too few runs for an interval.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>lost</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>reference</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>gap of all runs</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>run</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>half a frame, four marks</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>loss</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>gap</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>paddling</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shown a hundredth apart, so that the parts add up to the shown gap.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>time without penalties</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>expected time</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>result</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A missed gate also saved paddling, which the rank without it does not take back.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The total holds {} s of penalty, the gates {:.0f} s.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>total</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>smaller totals</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>ranked runs</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>seconds</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>rank</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>rank without</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>clean run</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Unfinished runs are not counted: nobody knows whether they would have stayed clean.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>{} more are not listed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>M</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>{} more rows are not listed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>5 % and 95 % of the beta distribution</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>x</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>n</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>m</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Wilson&apos;s interval, 90 %</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>{} runs are</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>{} left out: {} penalties are not known by gate.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> and {} more</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>{} {} out: touched more than the {} that all have in common.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>{} touches</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>{} passages</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Too few to tell: {} in {}.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Only one {}: there is nothing to compare it with.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No {} stands out: the highest, {} ({}), may be chance.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Without this {}: {}.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>None of {} cost a place.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>{} of them</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Of {} {} cost places, {} a medal.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>None of {} was noted in detail.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>{} were</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Of {} {} noted in detail.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Too few to tell: no group has {} whole runs.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>{} touches a run in {}, all in one third of the field.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>{:.2f} touches a run in the faster third, {:.2f} in the slower.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1 % of speed pays for {:.2f} touches a run.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>{} of {} without a penalty: {:.1f} % ({:.1f}–{:.1f}).</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>{} {} {}, place</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>counted</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>{} left out: {}</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>{} {} of {} ({:.0f}–{:.0f} %)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>{:.1f} % behind the winner, {} (median of {})</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>within {:.1f} % from run to run</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>trend {:+.1f} % a year: {}</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>{}: too few runs to tell a trend behind {}.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>{}: {:+.1f} % a year behind {}{}, {}.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>{} of {}&apos;s races is known.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Too few runs to tell how much they vary.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>From run to run {:.1f} % is chance.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>From run to run {:.1f} % ({:.1f} to {:.1f}) is chance; {:.2f} % is worth gaining.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>{} of {} grew faster beyond doubt, {} slower.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>{} met nobody in these races.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>{} rivals</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>{} is ahead beyond doubt of {} of {}.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No split file of this class has three whole runs of a {}.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>{:.1f} % would have been among the first three in {} of {}.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The third was {:.1f} % behind in the median of {}.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nobody of the team has runs enough to expect a place of.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>{} may expect place {:.1f} of {}, a medal by {:.0f} %.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>{} finals</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>{:.1f} % would have been a medal in {} of {}</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Of {} who have both often enough, {} {} beyond doubt faster in {}, {} slower.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>{}: {}, {} of {} ({:.0f}–{:.0f} %).</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nearest to the winners ({}): {}, {:.1f} % (median of {}).</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No winner of a phase &quot;{}&quot; of these races is known.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>split {}, fastest of it {:.2f}</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>missed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>runs</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>all missed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>all runs</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>{}, spread {:.2f}, missed {:.1f} %</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>How far behind the winner of the phase and class, penalties included.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>100 · (T / W − 1)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>of the class winner, not of the men&apos;s kayaks: Wells, thesis, 2018</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>How far behind the fastest times of all splits together, without penalties.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>100 · (Σ splits / Σ fastest − 1)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>How much a run varies by chance, once the athlete and the course are taken out.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>100 · (e^(s/100) − 1),  s² = Σe² / df,  df = runs − athletes − phases + connected parts</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>mixed model of elite canoeists: Bonetti, Hopkins, 2010; interval: χ²</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>How much this athlete&apos;s runs varied by chance.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>s² = Σe² / (runs · df / all runs)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The athlete&apos;s spread drawn towards the common one, the more the fewer the runs.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>s² = (Σe² + 10 · common s²) / (runs · df / all runs + 10)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What is worth gaining: one more medal in ten races among equals at the top.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>0.3 · spread</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Hopkins, 2004</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The change of the percentage behind from year to year.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>slope of 100 · ln(1 + percent/100) per 365.25 days</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Races among whose first three the athlete was.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>places 1 to 3 / races with a final position</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>interval: Wilson</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Races in whose final the athlete was.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>with a final / with phases</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Races in whose semifinal the athlete was.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>with a semifinal / with phases</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The mean change from one phase of a race to a later one.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>mean of 100 · (ln later − ln earlier)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>How much a single run varies by chance, from pairs of them.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>SD of the changes / √2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>typical error: Hopkins, 2000</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Phases that both have in which the athlete was faster; ties count half.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>(won + ties/2) / met</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The mean gap in the phases that both have, penalties included.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>mean of 100 · ln(own / rival&apos;s)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What percentage behind the winner a rank took, over the races.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>median of 100 · (T of the rank / W − 1)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The chance of a missed gate, drawn towards everybody&apos;s as if by 20 runs more.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>(missed + 20q) / (runs + 20),  q = (all missed + ½) / (all runs + 1)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The mean place among this field; with a missed gate behind all that have none.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Σ place · chance,  result normal: effect, spread · √(1 + 1/n)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The chance of one of the first three places among this field.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>chances of the places 1 to 3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>How far behind the winners of a phase, the same number of races before and behind it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>median of 100 · (T / W − 1), without missed gates</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>{} {} {}, percent</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>90 %, Student&apos;s t with {} degrees</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>{:+.1f} % a year</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>spread, percent</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>athletes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>race phases</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>connected parts</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>degrees of freedom</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>90 %, χ²</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>common spread, percent</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>{} with a missed gate left out</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>exact Poisson interval, 90 %</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>median paddling</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sections</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Course</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Upstream gates</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Direction</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Style</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>not known</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> (%1 to %2)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> (too few)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 in %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Losses and penalties · %1on the reference &quot;%2&quot; · %3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Where time is lost</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Seconds a run: gap %1, penalties %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No whole run can be held against this reference.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 more rows are left out.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>In</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Runs</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Lost, s</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A run, s</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Percent</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>90 % interval</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Verdict</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>too few</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1, run %2, %3 %4</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What to train</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>whose whole interval is above 0, by what it costs in a run</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nothing stands out from these runs.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1. %2, %3: %4 s a run</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>See </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Gates</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Touches</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Missed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Percent, 90 %</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tenth of course</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Penalties</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No run tells its penalties by gate.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Noted of %1 %2, shares of those noted:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>penalty</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Penalties by gate</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>and %1 more gates</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>{} missed gates</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source> in </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>upstream gate</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>blue</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>green</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>orange</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>red</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>fastest*, %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1, slowest, by tenths of the column</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>* best of its column, in %1; all others in %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Page %1 / %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sessions</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Quantity</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Category</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>plan</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>listed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nothing is planned and nothing entered.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Season %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Weeks</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Macrocycles</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Weeks with an event</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Races run</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Group %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>  ·  %1 of %2 reached</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Goals of the season</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No week of this season is planned yet.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Training by category</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Week</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Days</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Macrocycle</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Mesocycle</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Load, %</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Event, place</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tests</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Morning</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Afternoon</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Evening</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Any time</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Session</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>continued</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Other days</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Training week</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Week %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Goals of the week</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Notes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pen</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Total</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Gap</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Section</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Best</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>By</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Results</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ideal run without penalties</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ideal run</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Fastest run</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Split times</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There are no runs to show.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 gates</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>, %1 upstream</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Race</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Place</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Water</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>For comparison</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Phase</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cat</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> Grey: not timed as a whole, never a best.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Split %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Run</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 s of %2 s; strokes are counted of whole sections.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The penalties of this run are not known by gate.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Time so far</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Among all runs</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Among all runs of </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Gate</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Entrance</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Turn</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Time losses</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Against</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Seconds</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tags</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tag</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>In the run at</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Comments</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Split {}</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>best</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Strokes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>per min</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Split</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Rank</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Penalty</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>on the film</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>recording</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>gap and rank among all runs of the category; the run&apos;s with penalties</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Splits</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>and %1 more</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Recording: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>third of the final, median</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>rank %1: %2 %</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>own median</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Medal</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Season </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 · %2 races · intervals are 90 %</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Percent behind the winner</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Percent behind the fastest splits</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Races</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Reached</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Medals</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Finals</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Semifinals</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Medals and finals</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Change, below 0 is faster</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A year on the winner</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A year on the splits</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Run 1 to run 2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Semifinal to final</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Heats to final, behind</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Changes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ahead of</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Met</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Head to head</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What a rank of the final took</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 athletes · intervals are 90 %</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Athlete</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Chance, %</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>% a year</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>On the splits</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>On the winner</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Athletes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What a rank took: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Expected places</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>best %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> · races %1 to %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>, continued</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pos</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>SURNAME Name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Club</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Year</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>xTime</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Bonus</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>x Score</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Score</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Percent behind the best of the race and category. </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Percent behind the best expected time of the race and category. </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The worst result is struck through and does not count</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>; with a bonus the two worst. </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Score: the sum of the others divided by three. %1: no result, P: preselected.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Categories</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Kind %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Place and date</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Signature</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the median of each column</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the ideal run</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the best of each column</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Gaps in seconds to %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Places within each column.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Percent behind the best of each column.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Percentiles of each column; the best has 100.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Times from the start, without penalties.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Penalties are included in sections and total.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Penalties are not included.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Penalty seconds in brackets.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Compared among all %1 runs.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Final position</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No athlete of this category comes into question.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>medals</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>championship medals</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>top 6</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>top 15</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What counts is summed and divided by three, however many races there were.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Σ counted / 3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the rules of the selection</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The results and the bonus that count.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Σ counted</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Counts in the score.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>percent</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Dropped: the worst result of all.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>not in the score</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Dropped too: a bonus stands among the results.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>How far behind the best of the category in this race, with penalties.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>100 · ((time + penalties) / best − 1)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A race without a result stands for this much.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>999.99</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>More than two medals, or one at a championship, in the first two seasons.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>medals &gt; 2 or championship medals ≥ 1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the rules of the categorization</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Three times among the first six in the first two seasons.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>top 6 ≥ 3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Four times among the first fifteen in the first two seasons.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>top 15 ≥ 4</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>None of the other levels is reached in the first two seasons.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>otherwise</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Races with a final position of 1 to 3.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>count</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Races with a final position of 1 to 6.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Races with a final position of 1 to 15.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Races with a final position.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What the run would have taken at its usual distance from the best times.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>factor · perfect time</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>How far its times stand above the best ones, without the outermost.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>mean of the ratios that are left</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A time of the run against the best of all runs there.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>own / best</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The best times of all runs, put together.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>factor</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>perfect time</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>ratios that are left</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Side by side</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Above each other</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Two by two</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>One within the other</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ghost: seen through</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Left and right of a line</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>at the start</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>at one split</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>at every split, waiting</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>at every split, stretched</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the whole run</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>from split to split</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Combination</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter plays both films</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No film is known here</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Own time less the reference&apos;s; all of them add up to what is shown on top</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Between</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Lost outside the upstream gates</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Reference&apos;s strokes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Own seconds of penalty in the section</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A tick makes the run what all are held against</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Paddling</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Timing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>On expected time</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Time without penalties less the expected time</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Lost up to the pole line</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Lost from the pole line on</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Noted</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>not noted</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cost</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Seconds of the chosen way over the fastest one timed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Forward</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Turning rate (left above 0)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Turning</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Roll (starboard down above 0)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pitch (bow up above 0)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Speed by position</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Hull speed, estimated</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Hull speed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Watch acceleration</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Watch</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Acceleration of the phone, x</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Acceleration x</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Acceleration of the phone, y</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Acceleration y</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Acceleration of the phone, z</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Acceleration z</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Rotation of the phone, x</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Rotation x</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Rotation of the phone, y</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Rotation y</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Rotation of the phone, z</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Rotation z</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>by gate</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>by type of gate</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>by tenth of the course</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>by section</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>by crew</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>by category</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>by phase</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>by race</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>by month</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>by hand</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tenth</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Se&amp;gments</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Left and right</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Whole numbers</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Decimal numbers</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Times</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>DNF and the like</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Penalty missing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Penalty too many</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Bibs swapped</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No result</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Not finished</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Not in list</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Not filmed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Average:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Average variation:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Total variation:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Average increase:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Total increase:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Lap time</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Time in straight line</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Time in rotation</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Average speed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Maximum acceleration</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Average acceleration</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Average deacceleration</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Roll movement</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Roll (°)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Maximum force</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Impulse (N s)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Largest negative acceleration</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Negative acceleration (m/s2)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Effective water phase</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Rotation about the vertical axis</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Turns to the left are above 0, turns to the right below.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The film {} is left out: its name is no UTF-8 text.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The folder {} cannot be read: {}</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No video in {} carries the name {}. Nothing was written.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file {} exists already. Say --replace to write a new one in its place.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This call needs the program that paints and makes films, which could not be started: {}</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file {} exists and is not the sample&apos;s. Choose another folder.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file {} could not be written: {}</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file {} is none of these tables and stays as it is. Nothing was written.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The folder {} could not be made: {}</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Line {}: {}, and was imported as it stands.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no run {}: the file has {}, counted from 0.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No run has the category &quot;{}&quot;.{}</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nobody of the team races in &quot;{}&quot;. Categories: {}.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Several athletes of the team are called {}: their runs cannot be told apart.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file {} is of an older version, {}, and was not changed. Bring it to the current one first: kavela upgrade {}</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The time of {} ({}) in {} is 0; a missing result should be 999.9.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No athlete has a bonus of kind {}.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The list {} is no UTF-8 text and was read as Latin-1: look at the names.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The list {} could not be read: {}</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>{} of {} skipped.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Line {} brought the category {} into the selection{}</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No run has the {} &quot;{}&quot;. There is {}.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no file and no command {}. Run with --help for the commands.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The desktop program could not be started: {}</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>{}: this is its {}; it carries {} too (--sheet).</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Line {}, {}: perhaps {}; not joined.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>{}: this is no team: {}</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The team has no athlete {}.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>{} does not race in {}. Categories: {}.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file could not be read: {}</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no number with the id &quot;{}&quot; here.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>losing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>gaining</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>unclear</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>slower</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>circle: heats, triangle: semifinal, square: final</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>{:.0f} to {:.0f}</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>of the races whose result is known</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>too few runs to tell what is chance</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>chance from run to run {:.1f} %, all {:.1f} %; {:.2f} % matters</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Table</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>One-repetition maximum</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop</name>
+    <message>
+        <source>Date</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Category</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Place</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the start</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Film</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>To know</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>waiting</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>there</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>failed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>stopped</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1, %2:%3 left</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A film is still being composed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 films are still being composed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>It can go on in the background: the list of jobs (Ctrl+J in Compare films) tells how far it is.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Go on in the background</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Stop it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Stay here</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Put together…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Piece %1 of %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Checked…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 %, %2 of %3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Waits</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>✓ Fetched</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Fetch</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Bib</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Phase</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Server</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1 film is ticked</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 films are ticked</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 fetched</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 not there yet</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 failed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 cancelled</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Move the selected mark &amp;here</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Mark one frame &amp;earlier</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Mark one frame &amp;later</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Remove the selected mark</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Previous mark</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Next mark</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nobody is called “%1” in these files.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Like it: %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Watched: 80 % of it was shown</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Of the split file: split taking edits it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Watched</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Length</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Minutes and seconds</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>At</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Moment of the film, minutes and seconds</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tag</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Imported “%1”</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>“%1” cannot be imported</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Watches and phones (*.gpx *.tcx *.fit *.csv *.tsv *.txt);;All files (*)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Import from a watch or a phone</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 s a run</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>one run</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 runs</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Where most was lost</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Seconds lost</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Of all that was lost, %</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No section was slower than the reference&apos;s.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Lost</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Together, %</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The gap along the course</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>After section</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Seconds behind, without penalties</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>result %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Lost by what it is lost in</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Of the reference&apos;s time, %</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Lost, 90 %</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No loss</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>By</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Runs</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Lost, %</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Low</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>High</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A run, s</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No row loses time for sure.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Most for sure: %1 %2, %3 s a run.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Gate</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Gate %1 of the section</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Lost in an upstream gate of the section</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1:  %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>upstream</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>downstream</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>several sections</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>not known</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a race without a name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Run %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>winner</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>fastest paddling</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>ideal run</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>median of the finalists</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>own best other run</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a rival</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open a race to see where time is lost.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The crew has no other whole run here to be held against. Choose another reference.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no %1 here to hold the run against. Choose another reference.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The two have no section in common that is timed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: nothing to be held against</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1  %2 on %3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: no section in common with %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1  %2 on %3 in %4 (no total)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Explained by notes: %1 of %2 (%3 %)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Most was lost in %1: %2 s of %3.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Penalties make %1 of it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>All %1 of the slower sections are needed to explain most of the loss.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 alone makes %2 % of what was lost in slower sections.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 of %2 slower sections make %3 % of what was lost in them.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nobody was slower than the reference in a section.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The greatest loss is that of %1 in S%2: %3 on %4.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Never behind the %1; %2 at the end of S%3.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Farthest behind at the end: %1 after S%2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Farthest behind after S%1: %2; %3 after S%4.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>no motion of the boat</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a hole of %1 s</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 holes, the longest of %2 s</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the clock ran backwards once</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the clock ran backwards %1 times</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a moment stands twice</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 moments stand twice</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Top to the bow</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Bottom to the bow</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Right to the bow</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Left to the bow</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Back to the bow</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Screen to the bow</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 of %2 touched</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Touched, %</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ranked rate, 90 %</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Touched</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>All in common</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No run that is asked for has its penalties by gate. Enter them for each gate to see where they happen.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Passages</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Touches</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Missed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Touch rate</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ranked rate</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Above</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Gate %1, upstream</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Gate %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 missed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>stands out</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>(not given)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: touches at the gates</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Gates in order; ◀ upstream</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Upstream</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Section</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Touches %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> (the highest %1, %2 more in the table)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What was noted of penalties</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Of those noted, %</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Share, 90 %</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Noted as</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Penalties</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Of</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Share</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Most of one kind: %1 %2, %3 of %4 noted.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>fastest third</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>middle third</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>slowest third</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Risk and speed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Paddling time, % of the group&apos;s median</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Touches a run</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>90 %</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Equally fast in all</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>not planned</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>planned</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sessions</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Quantity</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What the sessions add up to, in the unit that they are written in</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>In the sessions</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Event</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Penalty</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Behind best</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Gates</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Session</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Missed gates</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Athlete</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>From the first run of the heats to the second</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>From the semifinal to the final</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>From the heats to the final</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Medals</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Finals</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Semifinals</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>too few for a range</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 to %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>too few</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Change behind, %</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Change, %</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Races</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Typical error, %</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No change</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No race of the team has both.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>How much runs vary by chance</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Within, %</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Own alone, %</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>With a missed gate</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Too few runs to tell how much they vary.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Trend behind the winners</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Trend behind the fastest splits</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A year, %</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Verdict</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Too few runs of everybody to tell a trend: four over two months are needed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 against</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Against</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ahead, %</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Met</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Won</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Gap, %</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Gap 90 %</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Half</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The athlete met nobody in these races.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Of races, %</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No race of the team has a result that says so.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Expected places among %1 boats</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Boat</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Medal, %</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>First, %</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Missed gate, %</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Too few runs to expect places of anybody: each boat needs three, and the boats must have met.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What ranks took: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Rank</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Behind the winner, %</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Quartiles</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Least</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Most</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 would have</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Median of %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The first %1, %2 more in the table</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Import .kvb file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Import .s&amp;bm file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Import from a &amp;watch or logger…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Move the trac&amp;k of the watch in time…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Import &amp;power-meter data…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save the edited .&amp;kvb file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Export the strokes…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Export the &amp;turns…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Export the se&amp;gments…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Export the values per &amp;distance…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Mount of the p&amp;hone</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Found from the position</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Session &amp;information…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Analyse the recording again</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Keep the selected stretch</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove the selected &amp;stretch</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Re&amp;move the selected strokes, turns or mark</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Select &amp;nothing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Segments</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Mark here</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Mo&amp;ve the nearest mark here</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nearest mark &amp;earlier</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nearest mark &amp;later</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Remove the nearest mark</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove &amp;all marks</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Save the segments</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Replay</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Play, pause</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Slower</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Faster</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Real time</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>P&amp;revious stroke</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Next stroke</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Start</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;End</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Charts</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Zoom to the selected stretch</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Fit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1; “%2” is none.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is of release %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Its folder %1 cannot be written, so that the analyzer shows it and leaves it as it is.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Who of the team it is; a question mark: only you can tell</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> or </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Reckoned from the list</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Column</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What stands there</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Why it is not taken</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Results list</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Attached document</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Table kept with the race</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Lists (*.csv *.tsv *.txt *.xlsx *.ods *.kvx);;All files (*)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The least is %1 (%2), the most %3 (%4), of %5 rows</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>; %1 without a number are left out</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choose a column of numbers or times: a click on one of its cells, then C.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Row</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No row has a number in this column.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Day</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Start &amp;list…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Films &amp;from…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Reckon with the camera&apos;s &amp;clock</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Remove the boat from the list</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>To the next film that is not &amp;timed yet</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Open the film of the start in front</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Previous start</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Next start</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Agree: the film is named after its boat</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Agree to all that are &amp;sure</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Films from here on: one start &amp;earlier</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Films from here on: one start late&amp;r</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Did not start, or did after all</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Did not finish, or did after all</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Notes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Stroke on the left</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Stroke on the right</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Other hand for the selected stroke</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Play from the selected tag</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>To the other run of the time loss</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Record the team radio, or end it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Clips of the chosen marks, one after another</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add a &amp;category</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Team</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;New athlete…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remo&amp;ve the athlete</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Re&amp;move the category</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>New &amp;season</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>New &amp;race</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Move season or race &amp;up</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Move season or race &amp;down</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Where the athlete &amp;loses time…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>S&amp;eason of the athlete</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Compute all a&amp;verages again</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Find an athlete</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Take &amp;results over…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cate&amp;gorization report…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save the c&amp;hart…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Edit the cell</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Remove what is chosen</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Athletes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Selection %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Race analyzer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Every split of a race side by side, coloured by rank.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open races</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Split files</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Time losses</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Where each run lost its time, section by section, and a season&apos;s pattern.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open split files</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Split taking</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Time every run from its video, exact to the frame.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open a folder of videos</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Films</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A folder of films played, compared in step, tagged, renamed and cut.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open a folder of films</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Kayak cross</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Time trials, heats and attacks of a cross race, from video.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open a kayak cross</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Compare films</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Two to four runs in one picture, together at a split, as a film to take home.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Comparisons of films</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Comparisons</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Comparison</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Team</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Results of every athlete, season by season, and their category.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Team results</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Teams</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Selection races</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Who is selected, by which results, and why.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Planning</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Seasons, weeks and sessions, heart, gym and goals of a group.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Plannings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tests</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Lap, sprint and eight tests on the water, compared.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Boat motion</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Recordings of phone and watch over each other, and converted.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open recordings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Recordings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Strokes, turns and segments of a recording, on a map and replayed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Find</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Every gate, penalty and run of all seasons, by one question.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Search files</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Which gates are touched, by whom, and what it cost.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tables</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Any list of results, sorted, tinted, reckoned with, and whose it is.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open lists</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Lists</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Season</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>How a team&apos;s athletes stand: trend, rivals, medals, what it takes.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open a team</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Fetch films</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The films of a race from a server, by the bibs of a start list.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open a source of films</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sources of films</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Test session</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Test</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>New &amp;lap test</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>New &amp;sprint</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>New &amp;eight test</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Duplicate the test</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Previous test</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ne&amp;xt test</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Compare with the athlete&apos;s other tests</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Tick every listed test</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Untick all</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Values</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Table</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Charts by &amp;lap or stretch</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Charts by t&amp;urn</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Charts by &amp;stroke</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;List of tests</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choose an &amp;athlete</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Take in from a split &amp;file…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Take in from a &amp;recording…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Export the table…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Copy the table</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::AthleteDialog</name>
+    <message>
+        <source>Athlete</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>SURNAME Name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Club</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Birth year</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Age group</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Preselected, group %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Bonus %1 (percent)</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::AthleteList</name>
+    <message>
+        <source>Search athletes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Season</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>none yet</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::AthletePageDialog</name>
+    <message>
+        <source>Page of an athlete</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>All races that are open</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Only the race of the run that is shown</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Athlete</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;From</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Preview and print…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Save as PDF…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>One A4 page: where time is lost on the %1, what to train, penalties.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choose one of the athletes of the list.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::AthletePages</name>
+    <message>
+        <source>Save the page of the athlete</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>PDF documents (*.pdf)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The page cannot be written over a race that it is made from.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::AthletePanel</name>
+    <message>
+        <source>Retired: left out of the categorization report</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Search athletes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ctrl+F</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>All categories</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Athlete</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Born</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>birth year</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Boats</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ret.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Retired</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>retirement</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::AttackForm</name>
+    <message>
+        <source>Passed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No end</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Takes the end of the attack out</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The attacker went past</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Attacker</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>on</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>attacker</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>outcome of an attack</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Comment</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Side</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Place</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>side of an attack</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>place of an attack</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>comment on an attack</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Start here</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The attack starts at this frame</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>End here</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The attack ends at this frame</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Removes the attack</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>?  %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>unnamed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Start %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>End %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>defenders</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 defends</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::AveragesModel</name>
+    <message>
+        <source>Share of the runs with so many penalty seconds</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>S%1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Season</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Phase</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Behind</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Clean</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>2 s</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>4 s</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>6 to 48 s</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>50 s and more</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>All seasons</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::BalanceView</name>
+    <message>
+        <source>Side unknown: nothing tells which side of the phone points to the bow. Name its mount in the menu Edit, and left and right are found.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>even</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>left +%1 %</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>right +%1 %</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Strokes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Force (N)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Impulse (N·s)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Power (W)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Water phase (s)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Differences under %1 % are no finding</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::BodyPanel</name>
+    <message>
+        <source>Body</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>body data</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add weight</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Weight</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Body fat</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Resting heart rate</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>heart rate</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add heart rate</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Heart-rate variability</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>variability</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add measurement</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Import list…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A list with a header: Date and one or more of AVNN, SDNN, rMSSD, pNN50, LF, HF. It can also be dropped here.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Index of the chart</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Index</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choose an athlete.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add a season for this athlete first.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No weight of this season yet.
+Press Insert to add today&apos;s.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No heart rate of this season yet.
+Press Insert to add this morning&apos;s.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No measurement of this season yet.
+Press Insert to add one, or import a list.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>bpm</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add a few mornings&apos; heart rates to see the mean of the week against what is usual.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No %1 of this season. Add measurements, import a list or choose another index.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Import variability</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Lists (*.csv *.txt *.tsv);;All files (*)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>import of variability</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The list cannot be read: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::CameraPage</name>
+    <message>
+        <source>Time</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tag</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Lag</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Off by</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Attach a film…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Beside the film</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Detach</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Takes the film shown beside off this run</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Attach it to every run</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A fixed camera often films the whole race in one go</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Attach the film of a camera that stood at the course.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choose a camera to see its film beside this one.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Find one moment on both films, the fixed camera&apos;s alone with Alt+PgUp and Alt+PgDown. M marks it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>In step: the fixed camera&apos;s film is %1 s ahead.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Placed by the dates in the two films, to a second or two.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Not in step yet.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Its film has no date: moments are kept without the time of its clock.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>fixed camera detached</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>fixed camera for every run</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The film of the fixed camera shows no frame.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>moment on both films</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Same moment</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>moment removed</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::Chart</name>
+    <message>
+        <source>1 run</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> · %1 of %2 selected runs</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The filter matches nobody. Change it to see runs again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open a race to see its charts.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n runs</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::ChartPanel</name>
+    <message>
+        <source>Charts</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Reference</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Reference</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What the runs are held against</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Fit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show everything again (or double click)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save chart…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save as PNG, SVG or CSV</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Best run</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Median</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ideal run</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::ChartTabs</name>
+    <message>
+        <source>Season</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Race progression</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Averages</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;All seasons</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The season chart shows every season, not the chosen one alone</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save chart…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>As a picture (PNG, SVG) or as CSV (Ctrl+E)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The results of an athlete stand here as charts.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>all seasons</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::ChartView</name>
+    <message>
+        <source>No test yet</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 × %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Test</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Split %1 (s)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Total (s)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Standard deviation (s)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Laps</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Turns</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Strokes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Stretches</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::ClipPair</name>
+    <message>
+        <source>This run has no film.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The film is not there:
+%1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Play or pause the clips</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Play the clips from their beginnings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>From the start</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>One frame back in the clips</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Frame back</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>One frame forward in the clips</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Frame on</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Clips in slow motion</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Slow motion</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Clips slower</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Slower</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Clips faster</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Faster</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Clips at normal speed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Normal speed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Repeat the clips</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Repeat</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 · %2 s, at its end</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 · %2 of %3 s</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::ColumnTable</name>
+    <message>
+        <source>&amp;Copy</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Copy what is selected</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Save as CSV…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>C&amp;olumns</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save the table</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Semicolon-separated text (*.csv)</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::CommandPalette</name>
+    <message>
+        <source>Search</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>An action, a file, an athlete</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nothing here is called “%1”.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Searched: actions, recent files and the names in this window.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::CommentPage</name>
+    <message>
+        <source>score</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show the coach&apos;s comments</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>comment on split %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Split</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Comment</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>athlete</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>coach</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Scores</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Give-ups</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>team radio</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>team radio removed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>team radio moved</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::CompareDocument</name>
+    <message>
+        <source>It is no comparison of films, or a damaged one: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1 film</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n films</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::CompareFilmsPanel</name>
+    <message>
+        <source>In it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Its place in the composed film. Space chooses it or takes it out.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Film</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>It is not marked from the start to a split.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Category</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Phase</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Name in the film</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>name in the film</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>In place of that of the split file.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>category in the film</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Starts at [s]</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The second of the film at which a run without marks starts.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>marked</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The start is a second of the film, 0 to 86400</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>start of a film</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Find a name, a category, a film…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add split files or films, then tick the two to four that are compared.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add s&amp;plit files…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add &amp;films…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>In the composed film</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No film is chosen yet.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Take it out</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Move it &amp;up</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Move it &amp;down</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Four films are the most. Take one out first.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>choice of a film</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>removal of a film</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>order of the films</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::CompareForm</name>
+    <message>
+        <source>&amp;Layout</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Line at</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>0 left, 1 right</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Together</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Split</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sho&amp;wn</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>From split</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>To split</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>From</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>To</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Spee&amp;d</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Slow motion has no sound.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>To be read in it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Names</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Clock</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Split times and gaps</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Section</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Penalties</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Chart of the gap</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Si&amp;ze</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1080 × 1920, upright</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>720 × 1280, upright</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1080 × 1080, square</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>For sending</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>At most 1280 × 720 and coarser: a small file.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>S&amp;ound of film</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>None in slow motion, nor while that film waits or is stretched.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::CompareView</name>
+    <message>
+        <source>Preview of the composed film</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::CompareWindow</name>
+    <message>
+        <source>Compare films</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Compose the &amp;film…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add s&amp;plit files…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add &amp;films…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Compose the film…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Films being composed: &amp;jobs</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Find a run or a film</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Play</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Play or pause</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>From the &amp;beginning</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>One frame ba&amp;ck</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>One frame &amp;on</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>P&amp;art</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Begin here</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;End here</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The &amp;whole run</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>part that is shown</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Align the second film by two points</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Forget the points</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The film could not be composed: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is there. %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add the runs of split files</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Split files (*.kvx);;All files (*)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add films</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Films (*.mp4 *.mov *.m4v *.avi *.mkv *.mts *.m2ts);;All files (*)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tick two to four films to compare them.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tick one more film to compare it with.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Four films are the most: these are the first four</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 of %2 s</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Two films are aligned: choose two.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Click the same two things in both films, such as the poles of a gate. A gives it up.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>points that were forgotten</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>alignment by two points</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Compose the film</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Films (*.mp4)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>file of the film</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Composing: %1, %2 more</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Composing: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::ComparisonPanel</name>
+    <message>
+        <source>%1 of %2 (%3–%4 %)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Behind the winners in the &amp;phase</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nobody of the team races in this category.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Athlete</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Races</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Behind, %</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Median behind the winners of the phase, without missed gates</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>of runs</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Within, %</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>How much the runs vary by chance</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A year, %</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Trend behind the winners, over all phases</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Trend</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>too few</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Medals</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Finals</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The athletes year by year: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Year</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Median behind the winner, %</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::CostPanel</name>
+    <message>
+        <source>%1 A medal.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Crew</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Category</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Phase</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Race</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Gate</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Section</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Seconds</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>2 for a touch, 50 for a missed gate</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Rank</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>As it was</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>of</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Places</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>That it cost</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Without it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A missed gate also saved paddling, which is not taken back here.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show &amp;all</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No penalty of a whole run is known by gate.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open the run at this section</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>In split taking, where the section of the gate begins</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Only gate %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::CourseDialog</name>
+    <message>
+        <source>Title</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Gates</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Race and course</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Event</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Place</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Session</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Category</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Water</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Technique</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Comments</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Such as 4 8 12</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Share the gates &amp;evenly</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Gates</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Upstream gates</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Splits</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Section %1: </source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::CourseMap</name>
+    <message>
+        <source>Map of the course</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Turn %1
+Duration %2 s, angle %3°
+Rotation: peak %4 °/s, mean %5 °/s
+Push out: peak %6 m/s², mean %7 m/s²
+Roll %8° (+ inside), pitch %9° (+ bow up)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There are no position fixes in this session: no map.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 km</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 m</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>N</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Speed (m/s)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Stroke rate (1/min)</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::CoursePanel</name>
+    <message>
+        <source>C&amp;ourse of</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The drawing of the course in this file cannot be shown.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::CourseStrip</name>
+    <message>
+        <source>Course</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Gates</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Such as 1, 2, 3, 4</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Roll after gate</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Empty without a roll</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Phase</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Category</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Which gates does the cross course have?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1 gate</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>roll after %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no gate number.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The roll is after gate %1, which is not on the course.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>course</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n gates</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::CrossActions</name>
+    <message>
+        <source>&amp;Open a split file…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Save data</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open a &amp;folder of films…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open a folder of films</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Import films of time trials…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Film of the selected trial or &amp;heat…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Where are the films now?…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Split &amp;taking of this race</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show in the race &amp;analyzer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open a split file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Split files (*.kvx);;All files (*)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Course of the cross race</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Previous trial or heat</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Next trial or heat</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Copy the &amp;results</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Mark</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Mark the frame shown</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>To the first mark</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Next &amp;gate</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Previous g&amp;ate</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Split, gate or boat &amp;%1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Time trials</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Add an athlete</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>M marks the &amp;splits</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>M marks the &amp;upstream gates</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>M marks the &amp;roll</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Re&amp;name the athlete</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>R&amp;emove the trial</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Make &amp;heats from the trials</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Heats</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Add a heat…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A&amp;ttack, beginning here</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;End of the attack</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Compare &amp;films of the heat…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Names of the boats…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Remove the heat</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Results</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Time trial</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::CrossPage</name>
+    <message>
+        <source>There is no film to mark on.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nothing can be marked: %1 is not in the folder of the split file. File &gt; Where are the films now?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No mark is selected. Ctrl and the arrows go from mark to mark.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::CrossWindow</name>
+    <message>
+        <source>kayak cross</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Time trials</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Heats</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Results</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>films of the folder</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Import films with Ctrl+I, or drop them here: each becomes a time trial.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No film yet. Ctrl+Shift+I chooses the film of what is selected; films can be dropped here too.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is not in the folder of the split file. Ctrl+Shift+I chooses another film.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Not found: %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Import films of time trials</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choose the film of the trial or heat</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::CsvMappingDialog</name>
+    <message>
+        <source>%1 h %2 min</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 min %2 s</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 s</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 lines cannot be read. Line %2: %3.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Line %1: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What each column holds was guessed from its title. Choose over a column what it is; a column without a choice is left out.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 samples, %2 per second, %3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 positions</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 heart rates</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Import “%1”</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Columns and units are read as they were for the last list with these titles. Choose over a column what it is; one without a choice is left out.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Guess from the titles</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Reading…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This gives no samples.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This gives %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::CsvUnitsForm</name>
+    <message>
+        <source>&amp;Between columns</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Comma</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Semicolon</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tab</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Decimal comma</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Times</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Dates</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Seconds</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Milliseconds</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Microseconds</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nanoseconds</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Acceleration</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>g</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>m/s²</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Rotation</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>rad/s</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>°/s</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>An&amp;gles</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Radians</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Degrees</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Speed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>m/s</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>km/h</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Lying on its back, &amp;z reads</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>+1 g, upward</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>−1 g, downward</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;First sample at</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The comma stands between columns.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The times of the list are no dates. This is when the file was written, less its length.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The times of the list are dates.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::CursorTable</name>
+    <message>
+        <source>left</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>right</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>side unknown</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 %2°, %3 s</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Stroke, rate</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Force (N)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Power (W)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Turn</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Values at the cursor</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::DayDesk</name>
+    <message>
+        <source>The race day could not be kept: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> · U: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>start list</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>folder of the films</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>start removed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no start list yet: Day &gt; Start list.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No film waits to be timed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no film of %1 yet.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The film of %1 is still being copied.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Is this %1?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>film of %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no film that is surely matched and not agreed to yet.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>film agreed to</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>films agreed to</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Not named, as it is not in the folder of the race or cannot be named there: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Agreed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>films one start later</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>films one start earlier</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: no film</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>film of another boat</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>film given to a boat</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no film %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is timed: remove the last mark first.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 counts again</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The clocks of camera and start list go together.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>clock of the camera</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n films agreed to</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::DayFilms</name>
+    <message>
+        <source>%1 could not be called %2 again: is that name taken?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 could not be copied from the card. Is the card out, or the disk full?</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::DayKeeping</name>
+    <message>
+        <source>The race day %1 cannot be read: %2. It stays as it is; a new one takes its name only after it was put aside.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::DayPanel</name>
+    <message>
+        <source>agreed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>kept</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>sure</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>likely</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>unsure</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 d</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 h</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 min</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 s</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>ahead of</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>behind</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Reckon with that</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No start list yet. Paste one, or take it from a file.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Start list…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Films from…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Bib</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A boat on the list has a name.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cat</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Phase</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Film</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Type the name of another film to correct a single one</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Match</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Recorded</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>When the recording began, and whether the camera or the file says so</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>camera</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The camera&apos;s clock seems to be %1 the start list.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is not there.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Copying %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 still growing.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Of no boat: %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Of no boat: %1 films, the first is %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Of other days: %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::DerivedDialog</name>
+    <message>
+        <source>The &amp;highest number is the best</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Another column</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Total</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Rank</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Gap to the best</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Percent behind the best</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Percentile</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Difference</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;What</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sum &amp;of (none: times and penalties)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>O&amp;f</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Less</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Each &amp;compared within</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the total, else the times</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>all rows</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::Desktop</name>
+    <message>
+        <source>The folder with the races of %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>As it is in split taking now. The file does not hold all of it yet.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tools</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nothing to open in “%1”</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no split file (.kvx) and no film in this folder.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>“%1” is not where it was</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>It was in %1. Open it from where it is now, then ask again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 (on the server)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What the server has is no planning.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Run %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The run of %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is not in split taking any more: it was removed there, or has another crew and film.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 (*.%2);;All files (*)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Of single split files, or of all in a folder and below it?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Split files…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A folder…</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::DetailsPanel</name>
+    <message>
+        <source>What</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Noted as</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Penalties</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>of</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Those of which this was noted; for those of which it was not noted, all penalties</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Share %</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>90 %</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Where the share lies with 90 %</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No penalty was noted in detail. Split taking notes them.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::DocumentChoiceDialog</name>
+    <message>
+        <source>%1   in %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;New…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open an&amp;other…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Open</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>None was opened yet.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Opened before:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Name the new file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 (*.%2)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 (*.%2);;All files (*)</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::DropAreas</name>
+    <message>
+        <source>Import .kvb file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Import .sbm file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Drag .kvb file to top left of the window</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A raw recording of the boat: strokes and turns are found in it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Drag .sbm file to top right of the window</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A processed session, .sbm or .bms: strokes and turns are in it already.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::EarlierWorkDialog</name>
+    <message>
+        <source>Document</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Kept</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Then</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>given up</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>put off</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Bring back earlier work</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nothing was kept that is not in a document again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Bring back</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::EditedFile</name>
+    <message>
+        <source>today %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>yesterday %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Load</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Later</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1 change</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>“%1” cannot be opened</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file was changed by another program since it was opened. Saving replaces what that program wrote.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Replace it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Look at the other</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save as…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>“%1” is open in another window. Close it there first, or take another name.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 (the other).%2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Your work is kept apart, and offered when the file is opened again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Your work is in this window alone: it could not be kept apart either.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Try again</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file of the older version could not be kept beside the new one, so that nothing was written.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n changes</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::EightForm</name>
+    <message>
+        <source>Split %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Category</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pha&amp;se</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Splits</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Score</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Taken from</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Time
+(s)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Time of one eight</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>In the video
+(s)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Where in the video the split was taken</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>split %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>no video</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1, no motion samples</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1, %2 motion samples</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::EmptySearch</name>
+    <message>
+        <source>Drop a folder of split files (.kvx) here</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>All races below it are searched. They are only read.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Search a folder…</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::EntryTable</name>
+    <message>
+        <source>“%1” is a number from 0 to %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>“%1” is more than 0. An emptied cell stands for none.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::ExerciseTable</name>
+    <message>
+        <source>The file has no entry here. Typing makes one.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The estimate from repetitions and weight. A click or Ctrl+Enter takes it as the maximum.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Exercise</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>exercise</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sets</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>sets</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Repetitions</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>repetitions</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Weight</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>kg</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>weight</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Maximum</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>maximum</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Estimate</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add exercise</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove exercise</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Take estimate</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1 exercise</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 · %2 sets · tonnage %3 kg</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Estimated maximum: table %1 · Epley %2 · Brzycki %3 · McGlothin %4 · Lombardi %5 · result &lt;b&gt;%6&lt;/b&gt;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>new exercise</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>removal of an exercise</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>estimated maximum</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n exercises</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::ExportDialog</name>
+    <message>
+        <source>Export data</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Split files (*.kvx)</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::FactsForm</name>
+    <message>
+        <source>&amp;Athlete</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Name of the athlete</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Date</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Location</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::FailedFiles</name>
+    <message>
+        <source>File</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What is wrong</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Files that could not be read</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::FetchActions</name>
+    <message>
+        <source>&amp;Open a source…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Save the source…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choose the &amp;list of bibs…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choose the &amp;folder for the films…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Time the films of the folder</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Fet&amp;ch</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Show what would be fetched</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Fetch the ticked films</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tick &amp;all</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tick &amp;none</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ser&amp;ver</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Sign in…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Forget the password</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Other servers</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::FetchWindow</name>
+    <message>
+        <source>Fetch films</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Address</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Of one film, with {bib}, {category}, {phase} or {run} where they stand ({bib:3} is 014); or of a list: a page, JSON, M3U8 or WebDAV folder</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Bibs from</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Start list or results (a column is called bib), or a split file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>start list, results or split file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>F&amp;older</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Where the films are put; no file there is ever overwritten</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>for the films</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Names</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Of the files: {name}, {category}, {phase}, {bib} and {number}</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choose a list…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Start list, results, split file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choose a folder…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>For the films</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Other se&amp;rvers that films may come from</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show what would be fetched</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Fetch the ticked films</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nothing is fetched before it is shown here</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Films are being fetched. Another source or list is opened after that.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>“%1” is no source of films</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Start list, results or split file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Lists and split files (*.csv *.txt *.tsv *.kvx);;All files (*)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Folder for the films</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open a source of films</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sources of films (*.json)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save the source of films</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The source was saved. “kavela fetch” takes the file, too.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The source could not be saved</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What there is to fetch is being found out…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The folder “%1” cannot be made.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Films are being fetched…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no address to sign in to yet.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This computer has no password store that is open. The password holds until this window is closed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The password of %1 was forgotten.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%v of %m films</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Films are being fetched</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What is there of them stays; fetching them again goes on with it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Stop and close</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::FilmBrowser</name>
+    <message>
+        <source>Filter: k1w 12 semi</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No film here. Open a folder of films with Ctrl+O, or drop one.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No tag yet: M sets one where a film stands.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>List</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tiles</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tags</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 films</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 of %2 films</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::FilmCutting</name>
+    <message>
+        <source>%1 cut</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cut into a new film</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Films (*.mp4 *.mov *.m4v)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cutting %1…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The film could not be cut</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::FilmDeck</name>
+    <message>
+        <source>The film was closed before it had been read so far.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The film has not been read so far yet: nothing was marked.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The film has not been read so far yet: no frame to step from.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::FilmPlaying</name>
+    <message>
+        <source>Choose a film on the left.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The film is no longer there:
+%1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>That was the last one</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This is the first one</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::FilmShelf</name>
+    <message>
+        <source>Renaming films…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>“%1” has films that are to be renamed, and is open in another window. Close it there first.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A renaming was cut off here, and its note cannot be read: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Renaming was cut off</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n film(s) of this folder were being renamed when the program ended. No film is lost: the renaming can be completed, or undone.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Complete it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Undo it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This tag is of the split file: split taking edits it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::FilmStage</name>
+    <message>
+        <source>Typing: Esc gives the keys back to the film</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Fixed: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Where are the films now?…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Playing %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Paused, %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Camera %1: </source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::FilmTiles</name>
+    <message>
+        <source>No picture</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::FilmView</name>
+    <message>
+        <source>frame %1   %2 s</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>  ±%1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>…</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::FilmsActions</name>
+    <message>
+        <source>&amp;Open a folder…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Folders opened &amp;before</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Read again</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Undo the renaming</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Rename them again</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Filter the films</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Re&amp;name films…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>F&amp;ilms</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Play from the beginning</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Next film</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pre&amp;vious film</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;List</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Tiles</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>T&amp;ags</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Mark as &amp;watched</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Mark as n&amp;ot watched</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A &amp;click plays</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The next one &amp;follows</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Begin at the first &amp;mark</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Tags</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Tag this frame</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tag with a &amp;saved name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Saved tag %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Move the selected tag &amp;here</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tag one frame &amp;earlier</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tag one frame &amp;later</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Remove the selected tag</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Previous tag</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Next tag</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Play &amp;just the part around a tag</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Cut</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The cut &amp;begins here</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The cut &amp;ends here</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Give the ends up</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cut by &amp;copying…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cut e&amp;xactly…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Films</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::FilmsWindow</name>
+    <message>
+        <source>Films</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Tag that M sets:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cut</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cut into %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>“%1” is not there.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open a folder of films</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Reading…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>⚠ Not read: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::FindActions</name>
+    <message>
+        <source>Queries</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Search a &amp;folder…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Search f&amp;iles…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Read again</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>S&amp;top reading</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Files that could not be rea&amp;d…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save the result as &amp;CSV…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Query</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Type a query</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Fields</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Queries</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Keep this query</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Give up the kept query</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Resul&amp;t</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Show the run at its frame</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open its &amp;race</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Its &amp;time losses</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The rows of the &amp;group</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::FindWindow</name>
+    <message>
+        <source>Find</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Fields</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Queries</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>gates up left cat K1W time&lt;4 – what, then what is asked of it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Keep</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Keeps this query among those at hand</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The files are being read…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1 file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1 run</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>. Reading was stopped: the others are not searched.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nothing was found.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>In the group: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> · run %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> · split %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> · %1 s</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save the result</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Semicolon-separated text (*.csv)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n files</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n runs</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::FoundLines</name>
+    <message>
+        <source>In the file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Was</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Will be</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>new: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::FoundTable</name>
+    <message>
+        <source>rows of the group</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>run</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>runs</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>section</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>sections</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>gate</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>gates</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>penalty</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>penalties</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>loss</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>losses</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>section with strokes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>sections with strokes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>tag</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>tags</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>group</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>groups</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>less than 1 ms</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 ms</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 %2 in %3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>, the first %1 shown</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::GapChart</name>
+    <message>
+        <source>Select runs in the table to see where time is won and lost.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No run covers the whole course. Choose the median or a run as the reference.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The reference has no time in the first section. Choose another one.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Gap to the best run: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Gap to the median of each section</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Gap to the ideal run: the best of each section</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Gap to %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Accumulated seconds, penalties included</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Accumulated seconds, without penalties</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>← slower      faster →</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>not timed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Gap</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>in %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>After %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Section</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: gap</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: in the section</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Gap along the course for the selected runs</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::GateChart</name>
+    <message>
+        <source>No run has its penalties by gate. Enter them for each gate to see where they happen.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Penalties by gate</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Runs with a penalty at the gate, of %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> · ↑ upstream gate</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Gate</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Runs</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Missed gate, 50 s</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Touch, 2 s</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 s</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Gate %1, upstream</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Gate %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Touches</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Missed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>missed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>touch</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Upstream</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Gates</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::GateForm</name>
+    <message>
+        <source>Gate</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>In</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Out</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Total</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Turn</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Mark the pole line too</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Style</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A click brings a gate in front</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::GateStrip</name>
+    <message>
+        <source>Penalties at the gates</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No gates yet: set up the course with Ctrl+G to note penalties.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Gate %1, upstream</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Gate %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+T touch, F missed, 0 clean; N and P next and previous gate</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::Gauge</name>
+    <message>
+        <source>not known</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::GaugeRow</name>
+    <message>
+        <source>1/min</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>m/s</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>N</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>N·s</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>W</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::GoalsPanel</name>
+    <message>
+        <source>New group</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>New goal</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>New sub-goal</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Goal</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add group</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A group of goals, such as “Technique”</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add goal</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>To the group that is chosen</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add sub-goal</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>To the group that is chosen, with a status (Insert)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Up</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Alt+Up</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Down</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Alt+Down</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No goals are set for this season yet.
+“Add group” begins.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choose a season to see its goals.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Group %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 of %2 reached</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>, %1 given up</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>text of a goal</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>status of a goal</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>new goal</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>order of the goals</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>removal of a goal</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::GymPanel</name>
+    <message>
+        <source>All seasons, in kilograms</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>kg</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Maximum</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Weight</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Exercises</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tonnage</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Exercise of the chart</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;History of</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add session</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>removal of gym sessions</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Duplicate</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The same exercises once more, today</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>date</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>new gym session</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>copy of a gym session</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choose an athlete.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add a season for this athlete first.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No gym session of this season yet.
+Press Insert to add today&apos;s.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No exercise yet.
+Press Insert to add one.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choose or add a session to see its exercises.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add an exercise with its weight to see how it develops.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No weight of %1 yet.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::HeatAttacks</name>
+    <message>
+        <source>✓ passed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>✗ held</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>End</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Attacker</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Outcome</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Side</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Place</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Comment</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Attacks</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Attack at this frame</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>An attack starts here: then press the number of the attacker and those of the defenders</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A click shows the frame of an attack</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Gate %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>attack</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Attack: number of the attacker, then of the defenders</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>An attack without a moment, since there is no film: press the number of the attacker, then those of the defenders.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>attacker</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>defenders</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>moment of an attack</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>end of an attack removed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>attack removed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Start ramp</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Roll</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Eddy</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Drop</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Wave</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Flat water</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Finish</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Inside</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Outside</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::HeatDialog</name>
+    <message>
+        <source>Add a heat</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Names of the boats</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Boat %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Each boat needs a name.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 stands twice in the heat.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::HeatList</name>
+    <message>
+        <source>none</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>⚠ missing: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 of %2 gates</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Heat</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Boats</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Film</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Taken</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add a heat…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Adds a heat of up to four boats</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Names…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Other names for the boats of the heat</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Film…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Chooses the film of the heat</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Removes the heat with all its marks</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::HeatMapChart</name>
+    <message>
+        <source>Percent lost on %1, by section</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Percent lost by run and section</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>S%1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>is the reference</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Run</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::HeatOrders</name>
+    <message>
+        <source>Take at this frame</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Takes the order shown at the frame shown</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Start over</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Back to the order as it was</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Comment on this order</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add a heat first.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The cross course has no gates yet.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This order does not count for the course. Choose a gate of the course first.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No boat is named yet.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>order at gate %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Gate %1:  %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>comment on an order</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>not taken yet</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>taken at %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>offered</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Gate %1 · %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The cross course has no gates yet</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Keep its moment</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Take without a moment</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Corrects the order and leaves its moment as it is</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Takes the order shown where there is no film</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::HeatPage</name>
+    <message>
+        <source>No heats yet. Add a heat with its boats and choose its film; then go to each gate and press the numbers of the boats as they pass.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A%1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No mark is selected. Ctrl and the arrows go from mark to mark.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>order moved</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>order removed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This heat has %1 boats.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>heat</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>heat removed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>names of boats</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>film of a heat</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add a heat first.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This heat has no boats yet.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Select the attack that ends here.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::HomeWindow</name>
+    <message>
+        <source>&amp;File</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Open…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Try the &amp;sample season</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Se&amp;ttings…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Where was the time won and lost, and why?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Try the sample season</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open a file…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Recent files</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nothing opened yet. Drop a split file (.kvx) or a folder here, open one with Ctrl+O, or try the sample season.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Work kept</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>in %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Split files (*.kvx);;All files (*)</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::IdealPanel</name>
+    <message>
+        <source>Section</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Best</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>By</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ideal run %1 s</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No ideal run: a section has no time.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+Fastest run %1 s, %2
+%3 s behind the ideal run</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+Penalties are left out.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::InformationDialog</name>
+    <message>
+        <source>Session information</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The weight tells force and power when a recording is converted: analyse it again after changing it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>–</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Athlete</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Location</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Kind</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Weight</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>kg</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Paddle length</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>cm</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Blade area</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>cm²</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Blade &amp;height</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Hand po&amp;sition</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::IntervalChart</name>
+    <message>
+        <source>too few</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 to %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::IntervalForm</name>
+    <message>
+        <source>Minutes and seconds such as 1:30, or seconds</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Title</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>T&amp;arget</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Rh&amp;ythm</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>S&amp;ets</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Re&amp;petitions</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Work</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Rest between repetitions</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Rest &amp;between sets</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Kind of rest</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Volume</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Intensity</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Description</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::IntervalTimerDialog</name>
+    <message>
+        <source>%1 – timer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>◀ Back</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Space</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Skip ▶</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Full screen</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>F11</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Escape</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Start again</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Go on</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::IntervalsPanel</name>
+    <message>
+        <source>Session</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Make-up</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Total</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Work</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>New session</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>interval session</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No favourite sessions yet. “Add” begins the first.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add a session</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Duplicate</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Another one like it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Up</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Down</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove the session</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Start the timer…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A clock for the bank, readable from afar. Double click on a session opens it too.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>new interval session</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1, copy</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>copy of an interval session</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>order of the interval sessions</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>removal of an interval session</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::JobsWindow</name>
+    <message>
+        <source>S&amp;top</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show the &amp;folder</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Clear what is over</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Films being composed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No film is being composed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::KeptColumns</name>
+    <message>
+        <source>&amp;All columns in their order</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::KeptQueries</name>
+    <message>
+        <source>Queries</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Kept</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Asked last</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Examples</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::KeyEditor</name>
+    <message>
+        <source>Keys</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Find an action</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Standard keys</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is the key of “%2” already. “%3” can take it over; “%2” has it no longer then.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Take it over</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::KeyOverlay</name>
+    <message>
+        <source>All keys</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Up, Down, Page up and Page down show the rest; any other key closes.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::LaneStrip</name>
+    <message>
+        <source>Notes of the run</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A click shows the frame of a mark, dragging moves the mark</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Others</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::List</name>
+    <message>
+        <source>date</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>new %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>removal of %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::ListPanel</name>
+    <message>
+        <source>List</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No row is left. Ctrl+Z takes the last step back.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Every cell was taken.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Chart</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Refused</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Refused (%1)</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::LoginDialog</name>
+    <message>
+        <source>&amp;Keep it in the password store of this computer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sign in to %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Only this server is shown the password. It is never written into a file.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;User name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pass&amp;word</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::LossChartsPanel</name>
+    <message>
+        <source>Charts</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sum</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>From the reference&apos;s total to the run&apos;s own</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Heat map</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Percent lost by run and section</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Most lost</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The sections that lost most, in their order</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Along the course</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The gap after each section</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Fit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save chart…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show everything again (or double click)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save as PNG, SVG or CSV</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::LossHeader</name>
+    <message>
+        <source>Reference</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What the run is held against</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Alt+click or Shift+F1: why</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ru&amp;n</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>hel&amp;d against</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::LossPage</name>
+    <message>
+        <source>Start</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>End</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Against</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Seconds</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Percent</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>New</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The next M begins another time loss</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add over the section</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Another reason</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>To the other run</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>reason of a time loss</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This run</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Other run</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sets this mark at the frame shown</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>kind of a time loss</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Gates</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Part</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Style</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Water</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>comment on a time loss</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Comment</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Back to the run</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>M marks where the stretch starts and makes another time loss.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>M marks where the stretch starts and makes a time loss.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 s (%2 %) against %3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Go back to the run that lost the time first.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A time loss needs another run to compare with.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>time loss</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Start and end are marked here too. Ctrl+T goes back to the run that lost the time, where M begins its next loss.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>mark of a time loss</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>time loss removed</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::LossTables</name>
+    <message>
+        <source>Both runs have no upstream gate timed in common.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No time lost is noted of this run.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No ways are compared in this run.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sections</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Runs</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Gates</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Notes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ways</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Play both films</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Hold all against this &amp;run</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Notes (%1 unfinished)</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::LossesActions</name>
+    <message>
+        <source>&amp;Open races…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open a &amp;folder of races…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Read all again</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>S&amp;top reading</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Page of an athlete: PDF, preview, print…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save the table as &amp;CSV…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Save the chart…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Run</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Find a run</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The &amp;next in rank</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The &amp;one in front</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Season of the athlete, or the run</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Re&amp;ference</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The &amp;winner</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The &amp;fastest paddling</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The &amp;ideal run</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The &amp;median of the finalists</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The crew&apos;s &amp;own best other run</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The run that is &amp;shown</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Sum from total to total</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Heat map</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sections that lost &amp;most</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Gap &amp;along the course</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Table of s&amp;ections</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Table of &amp;runs</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Table of &amp;gates</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Table of &amp;notes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Table of &amp;ways</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show the whole &amp;chart</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Blue to orange instead of green to red</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Fil&amp;ms</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Play the section of both runs</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Film this loss…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Hide the films</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Runs</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::LossesWindow</name>
+    <message>
+        <source>Split files</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Run</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Season</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Hide the films</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Stop reading</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Open it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Writing %1…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The page was not written.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is not in the files any more; another run is shown.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is not in the files any more; the winner is the reference now.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Reading…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 files cannot be read, the first of them %2: %3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Stopped: not all files were read.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no run in what was opened.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Time losses</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 and %2 more</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open races</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Split files (*.kvx);;All files (*)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open a folder of races</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is written.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choose a section first.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No film shows this of either run: a film and both marks are needed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No film shows the run here; that of the reference plays alone.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no run to watch beside it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No film shows %1 here.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no run to film beside it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::MarkList</name>
+    <message>
+        <source>Start</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Splits</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Micro splits</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Upstream gates</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Strokes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Time losses</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tags</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> · camera %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> · fixed camera %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> · other run</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 at %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Mark</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Times are of this run, whatever film a mark lies on. A click shows the frame of a mark; Ctrl and Shift choose several for their clips</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Kinds</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The kinds of marks that are listed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Marks of the run</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>All kinds</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Clips</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Plays the clips of the chosen marks one after another; of all that are listed when not several are chosen</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n second(s) before and after a mark</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source> · outside the film</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::MicroPage</name>
+    <message>
+        <source>Mark</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>From the one before</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>M marks a micro split at the frame shown.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>micro split</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::MotionActions</name>
+    <message>
+        <source>Charts</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Recordings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Open recordings…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save the &amp;chart…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Recording</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Convert</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Convert &amp;all ticked</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Open the converted session</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Previous recording</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Next recording</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Show or hide</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show this one a&amp;lone</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Remove from the list</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Time</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Undo the move</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Redo the move</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Align the &amp;starts</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Align by the &amp;clock</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Align here: the cursor to the clicked moment</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Forget the clicked moment</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Earlier</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Later</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Previous stroke</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Next stroke</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Charts</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Axes of the &amp;phone</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Axes of the phone</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Mark strokes and turns</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Zoom &amp;in</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Zoom &amp;out</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show &amp;everything</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::MotionAlignment</name>
+    <message>
+        <source>Every recording begins at 0. Ctrl+Z brings the alignment before back.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Every recording stands at its date. Ctrl+Z brings the alignment before back.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The date is not known of %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Click the moment where it should be, choose a recording, point at its moment and press A</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::MotionCharts</name>
+    <message>
+        <source>here</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>L</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>R</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::MotionConversions</name>
+    <message>
+        <source>Convert</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1  %2: %3 strokes, %4 turns</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::MotionPanel</name>
+    <message>
+        <source>%1 s of %2 s are recorded.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nothing of it is recorded.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>greatest %1 m/s, %2 m</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Section</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Strokes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1/min</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>m/s</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Heart</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Stroke rate</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Heart rate</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Select a run to see its strokes, speed and heart rate.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No recording is attached to this run. Split taking attaches one (Ctrl+B).</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 of the part that is recorded; strokes of the whole run are not known.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Run</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::MotionRecordings</name>
+    <message>
+        <source>%1: there is not enough memory for it</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::MotionWindow</name>
+    <message>
+        <source>Recordings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Convert</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Writes strokes and turns as a processed session (.bms) beside the recording</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Convert all ticked</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>At the cursor</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Drop raw recordings (.kvb) here</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Several are laid over each other. They are only read: converting writes a new file.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open recordings…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Saved %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open recordings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Raw recordings (*.kvb);;All files (*)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Reading %1…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Raw recordings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 and %2 more</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::NoteMarks</name>
+    <message>
+        <source>This mark lies on the film of a fixed camera that is not in step.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The other run of this time loss is not in this file.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Another run came to the front: nothing was marked.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nothing can be marked: %1 is not in the folder of the split file. Cameras &gt; Where are the films now?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>mark moved</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No mark is selected. Ctrl and the arrows go from mark to mark.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This mark lies on another film than the one shown.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>None of these marks lies on the film that is shown.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nothing is selected that could be removed. Ctrl and the arrows go from mark to mark.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>mark removed</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::NotePage</name>
+    <message>
+        <source>Splits</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Penalties</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Upstreams</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Strokes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Micro</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tags</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Losses</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Comments</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ways</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cameras</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::NotesPanel</name>
+    <message>
+        <source>Clip %1 of %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This key works in the mode %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::OfficialDialog</name>
+    <message>
+        <source>Crew</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What differs</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>How</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Official results and the films</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Take over</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Show the run</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A &amp;file…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Results list</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Attached document</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Table kept with the race</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>All categories</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>All phases</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Official results</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Reading %1…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>“%1” cannot be opened</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The race carries no results list. Open one with “A file…”.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The films and this list say the same.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 differences, %2 of them to take over. The films&apos; own times stay; Ctrl+Z in split taking takes a step back.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::OnlineDialog</name>
+    <message>
+        <source>Any server that stores files by WebDAV will do. The password is asked for each time and stored nowhere.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Planning</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Address</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;User name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pass&amp;word</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The settings name no shared planning.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::OnlinePlanning</name>
+    <message>
+        <source>Saving the planning online…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>“%1” is saved online.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>“%1” was changed on the server since this planning was read from there or saved there. Saving would lose that change.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is a planning “%1” on the server that this one does not come from. Saving would replace it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Somebody else&apos;s work lies on the server</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Look at it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save under another name…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Replace it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save the planning online</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Name on the server</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 (mine)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>“%1” cannot be the name of a file.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The server has no such file.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What the server has is no planning.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The online planning could not be opened.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open an online planning</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::OnlineSaving</name>
+    <message>
+        <source>The server changes the planning all the time.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The server has no such folder.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::OnlineStore</name>
+    <message>
+        <source>an unknown issuer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The certificate of the server is not trusted, so that nothing was sent. It was issued by “%1”: %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The server does not accept the user name or the password.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The server answered with status %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The server did not answer in time.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The server cannot be reached safely: %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The server cannot be reached.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The address is none. It begins with https://.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Only https:// keeps the password and the plan from other readers.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::OrderBoard</name>
+    <message>
+        <source>Order at the gate in front</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A place up</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A place down</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Not seen at this gate</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Seen, as the last</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>not of this heat</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>not seen</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 won</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 lost</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::PageView</name>
+    <message>
+        <source>Pages of the report</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is nothing to show.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::PenaltiesActions</name>
+    <message>
+        <source>Crews</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Open split files…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open a &amp;folder…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Read &amp;again</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>S&amp;top reading</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Files that could not be rea&amp;d…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save the &amp;table as CSV…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save the &amp;chart…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Show</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Course</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Rates</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Details</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cost in &amp;places</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Risk and &amp;speed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Next course</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pre&amp;vious course</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;All runs</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The &amp;whole chart</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::PenaltiesWindow</name>
+    <message>
+        <source>Penalties</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Drop split files (.kvx) or a folder of them here</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open split files…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open a folder…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Course</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Rates</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Details</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cost in places</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Risk and speed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Which ones?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Saved %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open split files</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Split files (*.kvx);;All files (*)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open a folder</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Which gates are touched and missed, by whom, and what it cost: of one race, of several, or of a whole season. Files are only read.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Reading…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no split file (.kvx) here.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1 file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1 run</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Reading was cancelled: not all files are here.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1 file could not be read</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>and %1 more</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>These files could not be read</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 and %2 more</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n files</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n runs</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n files could not be read</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::PenaltyFilter</name>
+    <message>
+        <source>&amp;Category</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Phase</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cre&amp;w</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::PenaltyPage</name>
+    <message>
+        <source>Gate</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Penalty</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pole</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>With</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Another at this gate</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choose what else happened at the gate in front; M adds it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Moment</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Gate is</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Boat moves</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Style</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Eyes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Gate %1: %2 s. The lists change its penalty.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Gate %1: %2 s. M adds a penalty.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The seconds differ from the penalties listed at gate %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The course has no gates yet: Ctrl+G sets it up.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; begins a second one.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>penalty at gate %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>penalty removed</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::PhaseModel</name>
+    <message>
+        <source>Phase</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>time</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Penalty</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>penalty</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Total</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>position</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter a time or a position first.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>date</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Behind</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Known where the run was taken over from a split file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Splits</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>removal of a run</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::PivotDialog</name>
+    <message>
+        <source>Pivot</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>one column for all</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>How many</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sum</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Mean</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Median</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Least</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Most</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Make</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A &amp;row for each</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A &amp;column for each</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Of</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Tell</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::PlaceGrid</name>
+    <message>
+        <source>Places at the gates</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Gate %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>, which is not on the cross course</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>, replaced by a later order</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No order yet.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::PlanView</name>
+    <message>
+        <source>The week&apos;s date is in no calendar, so that it has no days.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>new session</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>session</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>removal of a session</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>copied session</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>move of a session</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no week there in this season.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Week %1 is copied.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>One of the two weeks has a date that is in no calendar.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>copy of a week</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Week %1 now holds the copied week; %2 sessions that stood there went. Ctrl+Z brings them back.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>repeated weeks</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 weeks were written.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no week behind the chosen ones.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Repeat</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>How often do the %1 chosen weeks follow themselves?
+Sessions, totals, load, cycles, place, tests and goals of the weeks behind are replaced; their events and health stay.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>emptied weeks</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>planned totals</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>new week</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>removal of the last week</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Totals of the week</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Totals of the chosen weeks</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Totals of the mesocycle</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Totals of the season</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>planned sessions</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>planned quantity</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add an athlete with Ctrl+N to begin a plan.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add a season with Ctrl+Shift+N: 52 empty weeks to fill.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This season has no weeks. Add one with the menu Week.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This season has no week of today.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::PlannedAthleteDialog</name>
+    <message>
+        <source>Athlete</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Picture…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;No picture</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Picture of the athlete</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pictures (*.png *.jpg *.jpeg)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Categories</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;E-mail</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>P&amp;hone</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file is no picture, cannot be read, or is larger than 8 MB.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The athlete needs a name.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::PlanningDocument</name>
+    <message>
+        <source>online planning</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The planning “%1” will be replaced.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1 athlete</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n athletes</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::PlanningWindow</name>
+    <message>
+        <source>&amp;Athlete</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;New athlete…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Edit the athlete…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Remove the athlete</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>New &amp;season</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove the s&amp;eason</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Session</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sessions are in the plan: show &amp;it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;New session…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Edit the session…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Remove the session</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Copy the session</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Paste the session</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Move to the week &amp;before</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Move to the week be&amp;hind</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Week</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Previous week</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Next week</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;This week</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Copy the week</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Paste the &amp;week</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Repeat the chosen weeks…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Empty the chosen weeks</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>P&amp;lan what is in the sessions</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Add a week at the end</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Re&amp;move the last week</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Find an athlete</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Reports: preview, PDF, print…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Week as a &amp;calendar file…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Import heart-rate &amp;variability…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open an o&amp;nline planning…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sa&amp;ve online…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Athletes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Planning</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Plan</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Goals</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Body and heart</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Gym</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ranking and races</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Interval sessions</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 measurements of heart-rate variability of this older file hold only a highest and a lowest value, for which the present version has no place: their dates are taken over, their values are not. Saving keeps the file as it was beside the new one.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>new athlete</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>athlete</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>removal of an athlete</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add an athlete first.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>new season</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>removal of a season</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::PlayMenu</name>
+    <message>
+        <source>&amp;Play</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Play or pause</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Backwards, again: faster</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Stop; held, J and L step a frame</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Forwards, again: faster</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Slow motion backwards</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Slow motion forward</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Slower</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Faster</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Normal speed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>S&amp;ound, at normal speed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>One frame back</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>One frame forward</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>One second back</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>One second forward</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ten seconds back</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ten seconds forward</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>To the beginning</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>To the end</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::PlotInteraction</name>
+    <message>
+        <source>Show everything</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Zoom in</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Zoom out</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show all series</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Copy the picture</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Copy the values</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save as picture (PNG)…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save as drawing (SVG)…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save as table (CSV)…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The chart was not saved</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::PotentialPanel</name>
+    <message>
+        <source>The best of every own section put together, without penalties. What is left is how far the best run is from it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Athlete</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Potential</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Best run</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::PowerMeterDialog</name>
+    <message>
+        <source>Line</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Why it is refused</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Import power-meter data</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Samples: %1. Lines refused: %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> s</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>It &amp;begins after the session&apos;s start by</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 of them lie in the session, which lasts %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::ProgressionPanel</name>
+    <message>
+        <source>Behind the winners</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Behind the fastest splits</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Behind whom</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The winners&apos; totals have penalties in them, the fastest splits have not</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The team has no race of this athlete in these years.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open the &amp;winner&apos;s run</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>In split taking, where a split file has the run</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>With a missed gate: left out of spread, trend and changes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Year</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Race</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Place</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Phase</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Day</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Rank</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Total</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Winner&apos;s</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Winner</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>not known</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Behind, %</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>On splits, %</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Result</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The way of %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Behind the winner, %</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Behind the fastest splits, %</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Heats</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Final</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Semifinal</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Other runs</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Percent</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Missed gate</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>3rd of finals, median</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A run with a missed gate stands in the table alone.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n runs with a missed gate stand in the table alone.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::QueryEdit</name>
+    <message>
+        <source>Query</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::QueryFault</name>
+    <message>
+        <source>%1 (at letter %2)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Writes “%1” there</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::QueryForm</name>
+    <message>
+        <source>Fi&amp;nd</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Words that its words begin with; a whole name in quotes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Seconds, or 1:32.45; %1 in front leaves out the limit itself</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>At l&amp;east</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>no limit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>At &amp;most</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>G&amp;roups by</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Up to three columns with commas between them</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>no groups</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Best</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>all</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>S&amp;ort by</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>as found</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>From the largest do&amp;wn</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Only the f&amp;irst</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Near it: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::RaceActions</name>
+    <message>
+        <source>Open it &amp;again</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ti&amp;me it on video</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Report: preview, PDF, print…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save the table as &amp;CSV…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cop&amp;y the selected runs</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Times</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Gap to the reference</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Place</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Per&amp;cent behind the best</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Percenti&amp;le</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Reference: the best</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Reference: the &amp;median</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Reference: the &amp;selected row</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Table</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Accumulated times</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Penalties &amp;included</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Penalties &amp;visible</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>C&amp;olumns</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Find a name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show all r&amp;uns</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Tint cells by rank</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Blue to orange instead of green to red</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Compare</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Ideal run on top</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A &amp;run of another race…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Films of the selected runs…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>With &amp;official results…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The results list as a &amp;table</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Clear the comparison</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>C&amp;harts</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Gaps along the course</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>T&amp;imes of the sections</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>P&amp;enalties at the gates</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Totals</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Penalties</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Time &amp;losses</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show the &amp;whole chart</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Save the chart…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Window</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Races &amp;side by side</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Larger: the table or the chart alone</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Next race</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Previous race</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::RaceDocument</name>
+    <message>
+        <source>A file of version %1. It could not be rewritten in the current version and stays as it is.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A file of version %1, rewritten in the current one. The previous file is kept as %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 gates, %2 upstream</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::RaceHeader</name>
+    <message>
+        <source>1 run</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 of %2 runs</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Phase</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Category</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>All phases</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>All categories</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n runs</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::RaceKeeping</name>
+    <message>
+        <source>“%1” is open in another window</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save and close it there, then keep the table. Nothing was written.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Keeping the table with the race…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>“%1” keeps a table already</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This one takes its place. The official results themselves stay.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The table was not kept with “%1”</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::RaceView</name>
+    <message>
+        <source>&amp;Run</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>I&amp;deal run</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pote&amp;ntial</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Motion</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open it again</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>gaps to the best</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>gaps to the median</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>gaps to %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the ideal run</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This course has %1 sections. The colours and the penalties in brackets are those of the first ten; place, gap and percent are there for all of them.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save the table</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Semicolon-separated text (*.csv)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file on the disk is newer than what you see.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file is not on the disk any more. What you see is what it held.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>All columns in the order of the course</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::RaceWindow</name>
+    <message>
+        <source>Split files</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Races</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::RacesSection</name>
+    <message>
+        <source>No runs yet: take them from the season&apos;s split files.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&lt;b&gt;%1&lt;/b&gt; runs, &lt;b&gt;%2&lt;/b&gt; of them clean (%3 %)  ·  touches per run &lt;b&gt;%4&lt;/b&gt;  ·  missed gates per run &lt;b&gt;%5&lt;/b&gt;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Take from split files…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Races and penalties</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choose &amp;files…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choose a f&amp;older…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Files and folders can be dropped here too</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::RadioBox</name>
+    <message>
+        <source>Team radio</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Records what you say about the run</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Plays the recording</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Attach…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Takes a sound file into the split file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save as…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Writes the recording into a file of its own</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Earlier</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Moves the recording up</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Takes the recording out of the split file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 · %2, %3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Record</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Recording, %1 s</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Record what you say to the athlete, or attach a voice message.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This computer has no microphone that can be used.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The microphone gave no sound.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Attach a recording</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sounds (*.m4a *.mp3 *.wav *.aiff *.aif *.caf *.ogg *.opus *.flac *.aac *.amr);;All files (*)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 has %2: recordings up to %3 can be kept in a split file.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 cannot be played: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Recording %1 cannot be played: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>recording %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save the recording</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::RangeLine</name>
+    <message>
+        <source>Click to go there. Drag the ends of the coloured part to choose what the film shows; near a split they take it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::RankingModel</name>
+    <message>
+        <source>%1 (was %2)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>was %1, now %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A time of 0 counts as the formula says and puts the athlete far in front. Edit &gt; Make times of 0 missing results.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Dropped: the worst result</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Dropped too: a bonus stands among the results</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Counted</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>#</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>SURNAME Name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Score</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Bonus</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Year</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Club</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pre</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>correction</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pen</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tried only. Really: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>no result</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter the time first: the penalty belongs to it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>penalty</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>result removed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>result</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::RankingPanel</name>
+    <message>
+        <source>entry of the ranking list</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>removal from the ranking list</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Take the season&apos;s statistics</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Split files (*.kvx);;All files (*)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no split file in it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Reading split files…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>season statistics from split files</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::RankingSection</name>
+    <message>
+        <source>Add a release</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove the release</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ranking list</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add release</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Release</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Points</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::RatesPanel</name>
+    <message>
+        <source>Passages</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Runs that came past</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Touches</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Rate %</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Touches of 100 passages</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>90 %</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Where the rate lies with 90 %</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ranked %</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Drawn towards what all have in common, the more the fewer the passages</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ranked 90 %</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Where the ranked rate lies</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Above %</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The chance to be above what all have in common; from 95 the row is bold</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Missed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Missed gates</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Missed %</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Missed 90 %</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Rates</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No run that is asked for has its penalties by gate.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::ReadingProgress</name>
+    <message>
+        <source>Stop reading</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 of %2 files</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::RecordedSoundPlayer</name>
+    <message>
+        <source>This computer has no loudspeaker.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::RecordingDialog</name>
+    <message>
+        <source>The film begins %1 after the recording.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The film begins %1 before the recording.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Its clock gains %1 s in 100 s, which is taken out.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The recording is of another athlete and another day.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The recording is of another athlete.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The recording is of another day.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Recording of a run</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choose a &amp;recording…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Attach the part of this run</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Take o&amp;ff what is attached</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Common moment</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A later one, against drift</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>From the film</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>From the chart</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>film %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>recording %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Reading %1…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>“%1” cannot be opened</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No recording yet</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choose the recording (.kvb) of the run, or drop it here.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The boat&apos;s acceleration stands here.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Find a moment that film and recording both show, such as the first stroke or a hit on the boat: go there in the film, click it in the chart, and set both.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Forward acceleration</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Acceleration</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Yaw rate</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>film –</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>recording –</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The run has to be marked first: its start and its splits.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Recording: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Run: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nothing of the recording lies within the run.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The part of %1 is attached.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::RecordingList</name>
+    <message>
+        <source>%1 a second</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>position</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>no position</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>heart</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>no heart</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>watch</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>no watch</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>looking for strokes…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 strokes, %2 turns</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>side unknown</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Recordings</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::RecordingOfRun</name>
+    <message>
+        <source>recording</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>recording taken off</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Attach it all the same</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Recording of the run</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Recordings (*.kvb);;All files (*)</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::RecordingPanel</name>
+    <message>
+        <source>Found from the position</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Later b&amp;y</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Drag a curve with Shift, or press A, to move it in time</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>s</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Mass in motion</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Athlete, boat and kit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>kg</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Drag</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Resistance of the hull over the square of its speed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>N·s²/m²</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Boat</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Kayak</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Canoe</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>P&amp;hone</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Which side of the phone points to the bow; used where the position does not tell</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::RenameFilmsDialog</name>
+    <message>
+        <source>Now</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Then</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>stays</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>stays: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Rename films</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>How the films are to be called: {name}, {category}, {phase}, {bib} and {number} stand for what is known of each. Split files of the folder follow.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Rename</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 of %2 films get another name.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 lack what the pattern asks for.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::RenderQueue</name>
+    <message>
+        <source>A film is still being composed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Leaving the program stops that, and nothing of an unfinished film is kept.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Stop and leave</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n films are still being composed.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::ReplayBar</name>
+    <message>
+        <source>Place in the session</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Speed of the replay ([ slower, ] faster)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pause (Space)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Play (Space)</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::ReportPreview</name>
+    <message>
+        <source>Save as PDF</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>PDF documents (*.pdf)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Report</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Smaller</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Larger</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Fit width</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Print…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save as PDF…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No pages</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Page %1 of %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Preview – Kavela</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1, preview – Kavela</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Saved as %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Table as shown</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Race report</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Run sheet</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::ResultsDialog</name>
+    <message>
+        <source>Line %1: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Official results from %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Run</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Type a part of the name for another line; an emptied cell stands for none</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Phase</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Real time now</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No line</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>“%1” stands in %2 lines of the list: it must be in one.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 lines come into the file. Real time and penalty are taken for %2 of %3 runs: those that are ticked.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No line was found for %1. A part of the name, typed in the last column, chooses one.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::ResultsPage</name>
+    <message>
+        <source>→ goes on</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>out</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>★ wins</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>⚠ Not finished: no order was taken.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>⚠ Not finished. Gates without an order: %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>⚠ Not all boats were seen at the last gate.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Gates without an order: %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Final</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Finals</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Semifinals</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Quarterfinals</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Round %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Boat</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Place</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Gained</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Lost</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Outcome</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Athlete</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Attacks</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Succeeded</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Success</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Attacked</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Held</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Defence</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>not told</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Where</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No results yet: they follow from the orders at the gates that are taken on the page of heats.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Attacks and defences</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Where attacks succeed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Heat %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shows the heat on its film</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::ResultsView</name>
+    <message>
+        <source>Nobody is in the team yet. Add the first athlete with Ctrl+N.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No athlete fits the search.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choose the boat %1 races in: menu Team, “Add a category”.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add the first season with Ctrl+Shift+N, or drop a split file or a list of results here to take results over.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The first two seasons (✓) count for the categorization. Alt+Up, Alt+Down or dragging changes the order.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choose a race to see and edit its runs.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>new season</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>new race</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>order of the seasons</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>order of the races</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>removal of a race</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>removal of a season</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::RollForm</name>
+    <message>
+        <source>Part of the roll</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Roll</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Style</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Going over</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Coming up</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Total</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::RowModel</name>
+    <message>
+        <source>yes</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::RunChooser</name>
+    <message>
+        <source>1 run</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Compare with a run of another race</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Compare</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Race</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Other file…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>R&amp;un</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No other race lies in this folder.
+Choose a file.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>not a race</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open a race</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Split files (*.kvx);;All files (*)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n runs</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::RunFilms</name>
+    <message>
+        <source>Import videos with Ctrl+I, or drop a folder of videos here.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is not in the folder of the split file.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>All films are found</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 of %2 films are there. Not found: %3.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Import video</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add another camera of this run</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>camera added</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Attach the film of a fixed camera</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>fixed camera attached</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::RunForm</name>
+    <message>
+        <source>A comma and minutes, such as 1:32,34, are taken too</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Crew</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Category</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Phase</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Hand</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Real time</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Real penalty</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sprint</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>sprint time</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Total %1 s,</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>penalties %1 s</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Expected %1 s</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Perfect time %1 s</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::RunPanel</name>
+    <message>
+        <source>A clean run.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Touched: gate %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Missed: gate %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>To best</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Select a run to see its sections. Select two to compare them.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> against %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>penalties %1 s</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Total %1 s,</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Total –,</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Real %1 s,</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Expected %1 s</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Best own sections %1 s</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A time must be above 0. Check the marks of this run.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Not the whole course</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Gap</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Section</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pen</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Place</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::RunPicker</name>
+    <message>
+        <source>Run</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Type any part of a name, phase, category or race</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Find a run</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::RunsToEnter</name>
+    <message>
+        <source>perhaps %1?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>another run is better</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>; xTime %1 stays</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>line %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>(no run)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>has no result in this race</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>no result</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>(line %1)</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::RunsToEnter::Outcome</name>
+    <message>
+        <source>place %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>place %1, was %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::SearchPlaces</name>
+    <message>
+        <source>Remove</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Folders and files that are searched</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add folder…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The chosen folder or file is not searched any more</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>⚠ One could not be read…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Search a folder</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Search files</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Split files (*.kvx);;All files (*)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>⚠ %n could not be read…</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::SeasonActions</name>
+    <message>
+        <source>Athletes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Open a team…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add &amp;split files…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add a &amp;folder of races…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Read &amp;again</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>S&amp;top reading</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Files that could not be rea&amp;d…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Reports to look at and print…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Report of the &amp;athlete as PDF…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Report of the tea&amp;m as PDF…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save the tab&amp;le as CSV…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save the &amp;chart…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Show</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Progression</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>P&amp;hases</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Spread</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Trend</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Head to h&amp;ead</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Medals and finals</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>E&amp;xpected places</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;What it takes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Athletes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The who&amp;le chart</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Athl&amp;ete</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The &amp;next athlete</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The athlete &amp;before</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Show the athlete of the row</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Expect the places of a &amp;field…</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::SeasonHeader</name>
+    <message>
+        <source>Add the races…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Category</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Years</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Athlete</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::SeasonModel</name>
+    <message>
+        <source>✓ counts</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The first two seasons count for the categorization. Move a season by dragging it, or with Alt+Up and Alt+Down.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Final classification of the race</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Position in the ICF world ranking at the end of the season</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Points in the ICF world ranking</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Season, race</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Location</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Place</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Rank</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Points</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>ICF ranking position</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>ICF ranking points</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is a season %1 already.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>year</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>final position</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>“%1” is none of the events.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>event</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>location</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::SeasonPage</name>
+    <message>
+        <source>%1 to %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>too few</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>not known</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No whole run of this athlete can be held against the reference.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nothing stands out: there is no clip to choose.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Show this run</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>By</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Runs</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Lost</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Seconds, of all runs together</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Lost, %</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Of the reference&apos;s time there</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>90 %</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A run</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Seconds lost in a run on the average</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Of the gap, %</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Verdict</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What the interval says: losing where all of it is above 0</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>See</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Run</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open a folder of races to see an athlete&apos;s season.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: no whole run in %2 files can be held against the %3.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 on %2: %3 in %4; gap a run %5, penalties %6</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>one whole run</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>one file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Train: nothing stands out from these runs.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1. %2: %3, %4 s a run</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Train:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>gate %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n whole runs</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n files</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::SeasonReports</name>
+    <message>
+        <source>The team</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save the report of %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save the report of the team</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>PDF documents (*.pdf)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The report cannot be written over a file that it is made from.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::SeasonWindow</name>
+    <message>
+        <source>Season</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Drop a team (.kvteam) and the folder of its races here</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open a team…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add a folder of races…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Progression</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Phases</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>From which phase to which</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Run 1 to run 2 of the heats</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Semifinal to final</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Heats to final, percent behind</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Spread</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Trend</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Behind whom</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Behind the winners</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Behind the fastest splits</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Head to head</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Medals and finals</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>How far</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Medals</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Finals</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Semifinals</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Expected places</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What it takes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Athletes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Which ones?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Saved %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Writing %1…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open a team</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Teams (*.kvteam);;All files (*)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add split files</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Split files (*.kvx);;All files (*)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add a folder of races</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Phase</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Whose places to expect</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A name a line, as a start list has them. Nothing for the team and those who raced most often.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 could not be read: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>How every athlete of a team stands over the seasons: behind the winners, against rivals, and against chance. Files are only read.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Reading…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nobody of this team races in any category yet.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No split files: winners and rivals are the team&apos;s own</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Races from 1 split file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1 run compared</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>several athletes are called %1: their runs cannot be told apart</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>nobody in these races is called %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>too few runs to expect a place of %1 of the field</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the team could not be read again: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>reading was cancelled: not all files are here</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1 file could not be read</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>and %1 more</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>These files could not be read</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>Races from %n split files</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n runs compared</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n files could not be read</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::SectionChart</name>
+    <message>
+        <source>Box</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Quartiles, and the runs far from them</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Strip</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A dot for every run</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Behind best</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Seconds behind the best of the section</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Seconds in the section</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No section has been timed yet.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Seconds in each section</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Seconds behind the best of each section</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Times of %1 by section</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>, penalties included</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>← slower      faster →</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Not timed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Quarter of the runs under</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Median</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Quarter of the runs over</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Slowest</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Runs</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Behind the best</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Place</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Section</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Fastest</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Lower quartile</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Upper quartile</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sections</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Distribution of the times of each section</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::SectionForm</name>
+    <message>
+        <source>Turns</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Turn %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Stretch %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Lap %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>La&amp;ps</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>number of laps</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Distance between the &amp;gates</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>distance</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>m</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Turn li&amp;mit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A faster rotation of the boat is a turn, a slower one straight paddling</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>rad/s</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Told by the strokes that were recorded</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Time
+(s)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Straight
+(s)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Rotation
+(s)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Speed
+(m/s)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Follows from distance and time until it is typed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Stroke rate
+(1/min)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Efficiency
+(m/stroke)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Follows from speed and stroke rate until typed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Left
+(rad/s)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Left
+(s)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Right
+(rad/s)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Right
+(s)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sections</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The time in straight line is part of the time of its section: it cannot be longer.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>section %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>turn %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Total: %1 s</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Total: – · %1 of %2 sections are timed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> · %1 strokes recorded</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::SelectionDocument</name>
+    <message>
+        <source>1 race</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n races</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::SelectionEdits</name>
+    <message>
+        <source>Race</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Race location</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>race added</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1. %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Rename which race?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>race renamed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove which race?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>race removed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Category</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Category of the athletes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>category added</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add a category first.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is in this category already.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>athlete added</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>athlete</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>athlete removed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>times of 0</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::SelectionTakeOverDialog</name>
+    <message>
+        <source>Results of %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Take over</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Athletes who get a result: %1, of them new in the selection: %2. Without a result then: %3. Runs and lines that stay out: %4. A click on an athlete chooses another one, or adds the name to the selection.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::SelectionWindow</name>
+    <message>
+        <source>Selection races</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Copy the table</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Reports: preview, PDF, print…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Make times of 0 &amp;missing results</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Copy the table</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;What if</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Races</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Add a race…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Rename a race…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remo&amp;ve a race…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Results from &amp;split files…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Results from a &amp;list (position, total, penalty)…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Results from a list with &amp;categories and clubs…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Athletes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add a &amp;category…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Add an athlete…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Edit the athlete…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Remove the athlete</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Import athletes…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;How a list has to look</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Category %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Categories</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Bonus</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Official times</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>xTimes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What if…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Try other times and penalties; nothing of it is kept (W)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Selection %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What if: times and penalties typed now are tried only. End it (W) to go back to the real results.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add the races of the selection first (Ctrl+R), then athletes (Ctrl+N, or drop a .csv file).</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Now add a category (Ctrl+G), such as MK1; then its athletes (Ctrl+N, or drop a .csv file).</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add the athletes of the category (Ctrl+N, or drop a .csv file), then their results: type them, or take them over from split files (Ctrl+I).</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n result(s) have a time of 0, which puts their athletes far in front. Edit &gt; Make times of 0 missing results.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>End what if</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No bonus</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Bonus %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::SensorChart</name>
+    <message>
+        <source>%1 s</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Time (s)</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::SeriesDrawing</name>
+    <message>
+        <source>%1: low</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: high</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::SessionCharts</name>
+    <message>
+        <source>none was recorded</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>there are no turns</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>there are no strokes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>not known, since nothing tells which side of the phone points to the bow</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>not known, since there are no positions that tell the speed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Stroke rate</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Force</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Impulse</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Power</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Heart rate</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Phases</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Roll</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pitch</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>end</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::SessionDialog</name>
+    <message>
+        <source>at</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Training session</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Title</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>When</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Place</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Description</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>On the water</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>In the gym</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Others</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>not in this week</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::SessionMarks</name>
+    <message>
+        <source>%1 marks: two make a segment</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 segments</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>mark</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>removal of a mark</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>removal of all marks</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is a mark already</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>move of a mark</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Mark at %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::SessionTables</name>
+    <message>
+        <source>Strokes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Turns</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Segments</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Distance</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Left and right</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> m</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Values every</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Strokes (%1)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Turns (%1)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>from the first mark</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>from the start</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::SessionView</name>
+    <message>
+        <source>Speed against stroke rate</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Stroke rate (1/min)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Speed (m/s)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The speed of the strokes is not known.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Side unknown</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Information…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Athlete, place, kind and equipment</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Name the phone&apos;s mount</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Zoom</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show the selected stretch alone</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Keep</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cut the session to the selected stretch</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Take the selected stretch out</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Stroke rate</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Colour of the course</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 – %2: %3 s, %4 strokes, %5/min, %6 m, %7 m/s</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::SessionWindow</name>
+    <message>
+        <source>Session</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sessions (*.bms);;Sessions (*.sbm)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>All files (*)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Import .kvb file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Recordings (*.kvb)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Import .sbm file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sessions (*.sbm *.bms)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>power of the power meter</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save the session</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save with it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save without it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Saved without the power meter&apos;s data, which are still here.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::SettingsWindow</name>
+    <message>
+        <source>Look and tables</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Video</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Split taking</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Boat motion</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>At start</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The decoded frames of all open films together take at most %1, and never more than a quarter of this computer&apos;s memory of %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Every change takes effect at once, another language when Kavela starts again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>As the system</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The environment variable KAVELA_SCHEME decides for this session.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Windows</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The environment variable KAVELA_LANGUAGE decides for this session.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Race: best green, others red</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Training: cells tinted by rank</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Colours of the split table</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>One a line.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choose…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choose a folder</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choose a file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::SiteList</name>
+    <message>
+        <source>Other servers that films may come from</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::SplitBar</name>
+    <message>
+        <source>Split times</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::SplitMode</name>
+    <message>
+        <source>Start</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nothing can be marked: %1 is not in the folder of the split file. Cameras &gt; Where are the films now?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No mark is selected. Ctrl and the arrows go from mark to mark.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Another run came to the front: nothing was marked.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The times of this run were taken without marks on the video. Marking it anew replaces them.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Mark anew</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>start mark</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>split %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1:  %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Split %1 was put in between two marks. Ctrl+Z takes it out again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>mark moved</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no mark yet that could be moved.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>mark removed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Split %1 is expected behind the end of the film.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Split %1 is expected here</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::SplitTableModel</name>
+    <message>
+        <source>Not timed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1, %2: %3 s
+place %4 of %5
+%6 s behind the best, %7 %</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1, %2: %3 s
+%4
+It counts for nothing: no place, no gap, never a best.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The best of every section, put together</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 in %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ideal run</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Gates %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Section %1: the colours and the penalties in brackets are those of the first ten sections only.
+Place, gap and percent are there as in any other.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Phase</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cat</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Place</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 penalty</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::SplitsShown</name>
+    <message>
+        <source>%1?</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::StartListDialog</name>
+    <message>
+        <source>Start list</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>12,Ann Lee,K1W,10:01:30</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Day</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Phase</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Take over</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>From a file…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Paste the list: bib, name, category and start time or order, or with titles in its first line. Boats that are in this phase already are corrected.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Lists (*.csv *.txt);;All files (*)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Starts: %1. Lines that cannot be taken: %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Line %1: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::StatisticsDialog</name>
+    <message>
+        <source>%1 in races, %2 in all</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Left out</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Because it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Season statistics from split files</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Runs found: %1, in %2 files. They replace what stands there now: %3.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>None of the files has a run of this athlete and season. Nothing is replaced.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Replace the statistics</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::StrategyPage</name>
+    <message>
+        <source>best</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>way of the run</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>way renamed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A time is a number of seconds such as 4.35, or 1:04.35</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>time of a way</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Taken</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Way</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Gap</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The tick is at the way that the run took. Names and times are edited by a double click.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add a way</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A section, or a name for the place</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Another way, such as spin or direct</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Take its time</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>comment on ways</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Comment</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>New</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Compared</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Time from</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Section</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Without a name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The run took the fastest way.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The way of the run cost %1 s.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choose a section or name a place, and add it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add the ways of paddling this place.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>M marks where %1 ends</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>M marks where %1 begins</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choose a section, or write a name for the place.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>ways at %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>way added</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add a way and select it first.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 was not timed there.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is timed: %2 s. Empty its time to mark it anew.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The end of a way comes after its beginning at %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>way timed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>way removed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>ways removed</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::StrokePage</name>
+    <message>
+        <source>Section</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Strokes/min</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A marks a stroke on the left, D on the right, M with the other hand than before.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Rate now</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Style</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 per minute, %2 strokes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>left stroke</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>right stroke</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>other hand</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>style of the stroke</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::SummaryPanel</name>
+    <message>
+        <source>Retired athletes are left out.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Two seasons are needed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The first two seasons have no race with a final position.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> and </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Over the seasons</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>All seasons</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Categorization</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>, born %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>One race has no final position. It counts as a medal here, not in the categorization.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 races have no final position. They count as medals here, not in the categorization.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Counted: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::TableDocument</name>
+    <message>
+        <source>Join the athletes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Say who line %1 is</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::TablesActions</name>
+    <message>
+        <source>&amp;Open a list…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open what was &amp;copied</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A&amp;nother list of this file…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Keep with the race…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save the &amp;table as CSV…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save the c&amp;hart…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The first line holds the &amp;titles</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The first line is a ro&amp;w</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No &amp;groups</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Column</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Sort</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sort &amp;downwards</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Group by it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Tint it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Chart of it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Keep rows with…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Leave it out</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Read it as</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Add</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Total</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Rank</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Gap to the best</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Percent behind the best</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Percenti&amp;le</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Another column…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>P&amp;ivot…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A&amp;thletes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Join a team…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Who is meant?…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Show</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What was &amp;refused</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Blue to orange instead of green to red</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The &amp;whole chart</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::TablesWindow</name>
+    <message>
+        <source>Tables</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Drop a list of results here</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Text (CSV, tabs, columns of blanks), a spreadsheet (.xlsx, .ods), what was copied from a page, or a race that carries a list. Lists are only read.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open a list…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open what was copied</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Saved %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Kept with %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Reading %1…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>“%1” cannot be opened as a table</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What was copied is no list</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Which of its lists?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What was copied</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This step cannot be taken</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Keep rows</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Rows whose “%1” contains this are kept; the cell as it stands keeps just its like.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> table</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Semicolon-separated text (*.csv)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open lists</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Begin anew?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What you made of this list is given up; the file stays.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Begin anew</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Join a team</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Teams (*.kvteam);;All files (*)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The rows cannot be joined</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>“%1” cannot be opened</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nobody of the team</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Who is %1 in line %2?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Keep with the race</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Split files (*.kvx);;All files (*)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save the table</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The table was not saved</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The list that it is made from stays as it is. Choose another name.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Saving the table…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1 row</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1 column</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 refused (F7)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 that only you can tell (F6)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n rows</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n columns</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::TagMode</name>
+    <message>
+        <source>Tag</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no film to tag.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no tag %1 yet: type its name above.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This tag is of the split file: split taking moves it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No tag is selected.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no film to cut.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::TagPage</name>
+    <message>
+        <source>Time</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tag</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Play just the tagged part</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Rename the tag</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Gives the selected tag the name above</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>M sets the tag at the frame shown.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter sets the tag %1 at the frame shown. Esc gives the keys back to the film.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choose or type the name of the tag first.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>tag %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Select a tag and write its new name.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>tag renamed</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::TakeOverDialog</name>
+    <message>
+        <source>Boat</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Phase</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Result</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Athlete</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>not in the team</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Leave out</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add %1 to the team</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>perhaps %1?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is added to the athlete&apos;s boats</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the same stands there</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Take results over</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choose the event</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Event</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Location</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Season</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The positions are the &amp;final ones of the race</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Category</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Phase</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Day</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Take over</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tick &amp;all</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tick &amp;none</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>(line %1)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 and %2 more</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Final position</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Take over 1 line</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choose the event of the race.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nothing in the file belongs to an athlete of the team. A click on “not in the team” chooses one, or adds the name to the team.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 of %2 lines are ticked; %3 stay out. A click on an athlete chooses another one, or adds the name to the team.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>&amp;Take over %n lines</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::TakeRecordingDialog</name>
+    <message>
+        <source> m</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> rad/s</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Take a test in from a recording</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Test</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Athlete</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Location</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>La&amp;ps</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Distance between the gates</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>T&amp;urn limit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Suggest the marks again</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Take in</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Lap %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Stretch %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Eight %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 strokes and %2 turns were found.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ends at
+(s)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Seconds from the beginning of the recording</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Time
+(s)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Length of the section</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No such test was found in the recording.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Each mark has to be later than the one before.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Laps found in the recording: %1 of %2. What is taken in has no more of them.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Eights found in the recording: %1 of %2. What is taken in has no more of them.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Rotation and marks</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Time from the beginning of the recording (s)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Rotation (rad/s)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Rotation</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Marks</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::TakeRunDialog</name>
+    <message>
+        <source>%1 of %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Athlete</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Category</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Phase</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sections</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Total</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>s</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Motion</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>yes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Take in tests from “%1”</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Take in</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Test</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Take %1 runs in</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Each section of the run becomes a lap.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Each section of the run becomes a stretch of the sprint.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The first five sections become the splits, with their marks in the video; the motion samples of the run tell its rotation.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::TakingActions</name>
+    <message>
+        <source>&amp;Open a folder of videos…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Save data</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Import &amp;video…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Import split &amp;file…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Import official &amp;results…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Compare &amp;with official results…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Recording of the run…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Run s&amp;heet: preview, PDF, print…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Export data…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show in the race &amp;analyzer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Compare fil&amp;ms of the run…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Kayak &amp;cross of this race</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open a folder of videos</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Race and &amp;course…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Names of the &amp;films…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Previous run</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Next run</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Find an athlete</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Move the run up</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Move the run down</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove the run from the list</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Delete &amp;all data…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Mark</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Mark the split</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>To where the next split is e&amp;xpected</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>To the start mark</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>To split &amp;%1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Gates</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Touch: 2 s</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Missed gate: &amp;50 s</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Clean</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Next gate</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Previous gate</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Cameras</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Add another camera of this run…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Where are the films now?…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Last camera one frame back</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Last camera one frame forward</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Larger: without the table, the film alone, all again</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The frames shown are &amp;one moment</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::TakingDocument</name>
+    <message>
+        <source>Save a copy as</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Split files (*.kvx)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> &quot;Save as…&quot; writes a copy in the present release and opens it here; its films stay where they are.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save as…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>names of the films</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>run removed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>run moved</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>videos imported</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>“%1” holds no runs. Nothing was imported.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>split file imported</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>official results imported</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>official result of %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1 run</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 with %2 is emptied. Ctrl+Z brings it back.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>reset</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1 start without a split is not stored in the file. This computer keeps it, and offers it when the file is opened here again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Overwrite</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n runs</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n starts without a split are not stored in the file. This computer keeps them, and offers them when the file is opened here again.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::TakingWindow</name>
+    <message>
+        <source>correction</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cat</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Phase</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Total</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1/%2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>split taking</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Athlete&apos;s name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter finds the athlete&apos;s next run, or collects a training file of all videos with that name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Race &amp;day, or the table of the race</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>In which folder do the films appear?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A click on a time shows its frame</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>penalty at gate %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::TeamAthleteDialog</name>
+    <message>
+        <source>New athlete</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Written in capitals in the team</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Such as 1998</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Surname</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Given name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Born in</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Boats</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::TeamDocument</name>
+    <message>
+        <source>It is no team file, or a damaged one: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>averages</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1 athlete</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n athletes</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::TeamWindow</name>
+    <message>
+        <source>Take results over</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Split files and result lists (*.kvx *.csv *.txt);;All files (*)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>“%1” cannot be taken over</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There are no results in it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Line %1: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There are no runs in it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>results taken over</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Team</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>new athlete</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>removal of an athlete</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>new category</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>removal of a category</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choose an athlete and a category first.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add a season first.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choose a category first.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No athlete comes into question in %1: two seasons are needed, with a final position in one of the first two.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Categorization %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::TestListPanel</name>
+    <message>
+        <source>All tests</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Athlete</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ticked tests are laid over the chosen one (Space)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Test</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Location</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>All athletes</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::TestSessionWindow</name>
+    <message>
+        <source>Time (s)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There are no values in this attempt.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Heart rate (1/min)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Test session</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Values</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Export the table…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>“%1” cannot be opened</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Attempt %1
+%2 stroke values, %3 of the sprint</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>All kinds</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sprint data</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Export the table</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Semicolon-separated text (*.csv)</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::TestsDocument</name>
+    <message>
+        <source>It is no file of tests, or a damaged one: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>removal of tests</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1 test</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n tests</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::TestsWindow</name>
+    <message>
+        <source>Take tests in from a split file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Split files (*.kvx);;All files (*)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Take a test in from a recording</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Recordings (*.kvb);;All files (*)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>“%1” cannot be taken in</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There are no runs in it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>tests taken in</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>test taken in</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>It is no raw recording, or a damaged one: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tests</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Charts</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Values</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Table</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>One ticked test is of another kind and left out here.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 ticked tests are of another kind and left out here.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>new eight test</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>new sprint</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>new lap test</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>copy of a test</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Export the table of tests</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Semicolon-separated text (*.csv);;All files (*)</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::TickStrip</name>
+    <message>
+        <source>Other marks</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A click shows the frame of a mark</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::TimeLine</name>
+    <message>
+        <source>Time line</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::TimerFace</name>
+    <message>
+        <source>%1 – paused</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Set %1 of %2   ·   Repetition %3 of %4</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Well done.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Next: the end</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Next: %1 %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::ToolWindow</name>
+    <message>
+        <source>%1 files (*.%2)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1, saving…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Open…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save &amp;as…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>All files (*)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open it again</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Keep what is here</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>⚠ Another program changed “%1”. What is shown here is from before.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>⚠ “%1” is no longer in its folder. Saving puts it there again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Opening “%1” again gives up what was not saved here.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Bring &amp;back earlier work…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Home</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Se&amp;ttings…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>C&amp;lose</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Saving… The window closes when the file is written.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Saving… What is to be opened follows when the file is written.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::TotalsChart</name>
+    <message>
+        <source>No run has a time for the whole course yet.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Time and penalties of %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Seconds on the course, without penalties</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> · %1 without a total</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Penalty seconds</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>← slower      faster →</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Penalties</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Result</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Place</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Run</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Selected</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Totals</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Total time against penalties</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::TrackOffsetDialog</name>
+    <message>
+        <source>Track of a watch</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The clock of the watch is perhaps wrong. Say when the track began in truth.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>With the &amp;recording</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Both were started at the same moment</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Recording</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Track, by its clock</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The track &amp;began</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Join it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 of %2 positions and %3 of %4 heart rates lie in the recording, or a minute around it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::TradeOffPanel</name>
+    <message>
+        <source>In percent of the median of its group</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>By paddling time</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Runs</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Touches a run</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>90 %</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Exact interval of the touches</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Missed a run</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Paddling %</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Total %</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No group has enough whole runs to be divided.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::TrialList</name>
+    <message>
+        <source>New athlete</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter adds a time trial of that athlete; Esc gives the keys back to the film</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A time trial needs the name of its athlete.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pos</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Athlete</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Film</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>⚠ missing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is not in the folder</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add an athlete</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Re&amp;name the athlete</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Film…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>R&amp;emove the trial</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Film…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Chooses the film of the selected trial</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Removes the selected trial</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::TrialPage</name>
+    <message>
+        <source>Start</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Gate %1 %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Roll</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Gate %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Split</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>From the start</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 boats</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>How many boats go on to the heats</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Make heats from the trials</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Heats of four, the fastest against the slowest. Heats that exist stay.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Splits</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Upstream gates</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A click shows the frame of a split</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>gate %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>roll</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 s</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>time trial of %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>films imported</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>film of the trial</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>athlete renamed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>time trial removed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No trial has a time yet: heats are made from the fastest ones.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There are heats already. They stay as they are, and those from the trials come behind them.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Make heats</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>heats from the trials</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::UpstreamPage</name>
+    <message>
+        <source>Gate</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>In</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Out</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Total</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Turn</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Mark the pole line too</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Turn to the</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Style</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Gate %1 is marked. N goes to the next gate, Shift+M moves the selected mark.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Gate %1 is no upstream gate. N goes to the next one.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 of gate %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Gate %1 %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>gate %1 removed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The marks of gate %1 are removed. Ctrl+Z brings them back.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Gate %1 is no upstream gate</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Gate %1: M marks the %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Gate %1 is marked</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 s in the gate</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>gate %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::ValuesPanel</name>
+    <message>
+        <source>No test yet.
+
+Add one by hand with Ctrl+N, or drop split files and recordings here.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::VariabilityDialog</name>
+    <message>
+        <source>There is no measurement in this list.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>All %1 measurements of this list are there already.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1 measurement is new.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1 other is there already.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Import variability</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1 line is left out:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add 1 measurement</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Reason</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n measurements are new.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n others are there already.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n lines are left out:</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Add %n measurements</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::WaterfallChart</name>
+    <message>
+        <source>One of the two has no total, so there is no sum. The sections that both have stand in the table and in the other charts.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sections, penalties and timing from total to total</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>penalties</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>timing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Seconds</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shown</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Up to here</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Part</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>From</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>To</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::WeekForm</name>
+    <message>
+        <source>Macrocycle</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Mesocycle</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Place</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Event</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>On-water test</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>done on</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Endurance test</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Blood test</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Injured part</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Health notes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>“%1” are no dates. Write them as 2026-03-10, with commas between.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>dates of tests</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>load</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Load</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>health</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Health</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>One per line</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>goals of the week</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Goals</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Week %1 · from %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Week %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 weeks are chosen: load, cycles and place go into all of them.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::WeekGrid</name>
+    <message>
+        <source>Morning</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Afternoon</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Evening</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Any time</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Week</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>On no day of this week</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Session</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::WhyKeys</name>
+    <message>
+        <source>Go to a number first, or hold Alt and click on it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nothing was computed here.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::WhyLabel</name>
+    <message>
+        <source>Alt+click or Shift+F1: why</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::WhyPanel</name>
+    <message>
+        <source>counted</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>dropped: worst</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>dropped: bonus</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>no result</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Result</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Percent</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Score</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Select an athlete to see where the score comes from.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1. %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Bonus</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Score: %1 / 3 = %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Place: was %1, now %2. Score: was %3, now %4.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 s in %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A place better with a total of
+%1</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::WhyWindow</name>
+    <message>
+        <source>Rule: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Within %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Source: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Why this number?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Why %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What went into it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter opens a number made on the way, and shows the place of a value</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>From</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Where</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show this place (Enter)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1, link</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Copy as text</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The whole explanation (%1)</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::Workspace</name>
+    <message>
+        <source>Save the changes to %1?</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::YearStrip</name>
+    <message>
+        <source>Year</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Month</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Macrocycle</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Mesocycle</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Load</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Week</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Event</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tests</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+</TS>
