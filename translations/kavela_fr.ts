@@ -78,6 +78,25 @@
     </message>
 </context>
 <context>
+    <name>Desktop</name>
+    <message>
+        <source>A race</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Films</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The season</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Training</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>EightTest</name>
     <message>
         <source>Total – · %1 of %2 splits are timed</source>
@@ -238,6 +257,13 @@
     </message>
 </context>
 <context>
+    <name>OnlineStore</name>
+    <message>
+        <source>The server does not accept the user name or the password.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>PlanningHandouts</name>
     <message>
         <source>Choose an athlete with a season first.</source>
@@ -385,6 +411,10 @@
         <source>No other run has split %1 yet: nothing tells where it is to be expected.</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>&amp;Look for a newer version</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>QueryForm</name>
@@ -486,6 +516,10 @@
     </message>
     <message>
         <source>Overwrite</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>drawing of the course</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -870,6 +904,25 @@
     </message>
     <message>
         <source>Power-meter data is not in the strokes yet; you are asked on saving.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>SlitMarking</name>
+    <message>
+        <source>The film is not read so far.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no proposal at the hair line.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nothing can be accepted without a line, its proposals and the race.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>proposals accepted</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -4843,6 +4896,165 @@
         <source>One-repetition maximum</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Prints what a shell completes calls by</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Prints the page of the manual</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The page cannot be written over a file that it is made from.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Writes the page of an athlete for a telephone, one HTML file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Split files (.kvx) of any release, and folders of them; several make a season</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Whose page; a crew as &quot;A / B&quot;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>File to write, ending in .html</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cut the athlete&apos;s runs out of their films into the folder of the page</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shares a folder with a server, both ways</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The folder on this computer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Address of the folder on the server</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>User name for the server</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Only print what would be done</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Do not ask before anything is done</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Delete on each side what was deleted on the other and not changed since</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Print JSON; nothing is asked</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shows what stood on a line of a film over time, as a picture</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Film of a camera that stands still</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>X1,Y1,X2,Y2: the ends of the line in pixels</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Picture to write (.png)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Print the frame and stamp of every column as JSON</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Look for boats that cross the line</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>X,Y,WIDTH,HEIGHT: a box round one boat, for --proposals</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Where boats come from: left or right of the line</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nothing to do: name a picture with -o, or ask for --json or --proposals.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>--proposals needs a box round one boat: --boat X,Y,WIDTH,HEIGHT.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Follows a boat, gate or head through a film, as a table</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Film to look at</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What is followed: X,Y,WIDTH,HEIGHT in pixels of the picture, from its upper left corner</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Second of the film at which the box was drawn</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Second at which following ends; otherwise where it is lost, or the film ends</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Known points on the water (.json), for metres and speeds</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>File to write (.csv)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>In some frames the camera&apos;s motion is not known: too little of the picture stands still. They have no steadied place.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Metres hold for what is on the water; a head is above it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Two known points give a scale only: lengths and speeds hold near them and along the line between them.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What was deleted on one side stays on the other: --delete deletes it there.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The server wants a user name: --user tells it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>{} columns</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>kavela::desktop</name>
@@ -6498,6 +6710,58 @@
         <source>&amp;Copy the table</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Course</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The course drawn: banks, gates, split lines and the lines of runs.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Draw the course of a race</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tracking</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Boat, gate or head followed through a film: its path and speed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open films</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Slit picture</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A finish camera made of the film of a tripod: every crossing of a line at a glance.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open films of a fixed camera</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Share folders</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A folder the same here and on the team&apos;s own server, nothing overwritten.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Share a folder</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Folders</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>kavela::desktop::AthleteDialog</name>
@@ -7572,6 +7836,26 @@ Press Insert to add one, or import a list.</source>
         <source>order of the films</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>path of a film</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Path</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Draws the path that was followed on it in the window Tracking.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Follow</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shows it twice as large, round that path.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>kavela::desktop::CompareForm</name>
@@ -8033,6 +8317,33 @@ Press Insert to add one, or import a list.</source>
     </message>
 </context>
 <context>
+    <name>kavela::desktop::CourseCanvas</name>
+    <message>
+        <source>Drawing of the course</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Hold the button down and draw along the water.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>course</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>All %1 gates of the race are drawn. Race and course says how many there are.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>All %1 splits of the race are drawn. Race and course says how many there are.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 removed</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>kavela::desktop::CourseDialog</name>
     <message>
         <source>Title</source>
@@ -8104,6 +8415,89 @@ Press Insert to add one, or import a list.</source>
     </message>
 </context>
 <context>
+    <name>kavela::desktop::CourseEditor</name>
+    <message>
+        <source>Photo or plan of the course</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pictures (*.png *.jpg *.jpeg);;All files (*)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Words there</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Draw the course</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The picture of the race cannot be drawn upon: %1 It stays as long as nothing is drawn.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tab next part · arrows move it, Shift+arrows far · Alt+←/→ turn · PgDn its points · Delete · Insert puts one in the middle · Ctrl+Z undo, Ctrl+Shift+Z redo</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Hold and move</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Gate</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Split line</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Bank</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Line of a run</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Text</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Photo below…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Only whit&amp;e below</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>text</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>photo</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>white</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Leave the course as it was? What was drawn is lost.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Leave it</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>kavela::desktop::CourseMap</name>
     <message>
         <source>Map of the course</source>
@@ -8150,6 +8544,57 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>The drawing of the course in this file cannot be shown.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::CoursePartForm</name>
+    <message>
+        <source>&amp;Number</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Upstream gate</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Na&amp;me or text</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> m</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>not measured</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Width of the picture</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nothing selected</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The race has %1 gates only. Race and course says how many there are.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>direction of gate %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>number %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>width of the picture</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -8433,6 +8878,17 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Choose the film of the trial or heat</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::CrossingSearch</name>
+    <message>
+        <source>The slit picture shows what stood on the line all the same.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No boat was found that crosses this line in the direction of the arrow.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -9173,6 +9629,25 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
 </context>
 <context>
+    <name>kavela::desktop::DrawnRates</name>
+    <message>
+        <source>Touches on the course</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Gate %1: %2 %</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>, %1 of %2 touched</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>kavela::desktop::DropAreas</name>
     <message>
         <source>Import .kvb file</source>
@@ -9541,6 +10016,39 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     <message>
         <source>&amp;Location</source>
         <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::FactsStatus</name>
+    <message>
+        <source>Which ones?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>reading was cancelled: not all files are here</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1 file could not be read</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n files could not be read</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 copy of a file does not count</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n copies of files do not count</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -11737,6 +12245,21 @@ Penalties are left out.</source>
     </message>
 </context>
 <context>
+    <name>kavela::desktop::LineOverlay</name>
+    <message>
+        <source>Lines over the film</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Drag an end of a line, or the line. With the focus here the arrows move it, with Shift by ten pixels; Tab goes from end to end, Esc leaves.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>kavela::desktop::List</name>
     <message>
         <source>date</source>
@@ -12201,6 +12724,10 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Runs</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pa&amp;ge for an athlete…</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -12843,6 +13370,69 @@ Penalties are left out.</source>
     </message>
 </context>
 <context>
+    <name>kavela::desktop::OfferDialog</name>
+    <message>
+        <source>A newer version</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Kavela %1 is here</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What is new</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nothing is told of what is new.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file has %1 and is put into %2. You install it yourself, when it suits you.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>It is of %1. You have %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Skip this version</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Later</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Download</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Show the folder</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file is the one that was signed, and stands as “%1” in %2. Leave Kavela before you install it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nothing was kept of the file.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>kavela::desktop::OfficialDialog</name>
     <message>
         <source>Crew</source>
@@ -13025,34 +13615,6 @@ Penalties are left out.</source>
 <context>
     <name>kavela::desktop::OnlineStore</name>
     <message>
-        <source>an unknown issuer</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The certificate of the server is not trusted, so that nothing was sent. It was issued by “%1”: %2.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The server does not accept the user name or the password.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The server answered with status %1.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The server did not answer in time.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The server cannot be reached safely: %1.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The server cannot be reached.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>The address is none. It begins with https://.</source>
         <translation type="unfinished"></translation>
     </message>
@@ -13225,14 +13787,6 @@ Penalties are left out.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Cancel</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Which ones?</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Saved %1</source>
         <translation type="unfinished"></translation>
     </message>
@@ -13269,22 +13823,6 @@ Penalties are left out.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Reading was cancelled: not all files are here.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>1 file could not be read</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>and %1 more</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>These files could not be read</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>%1 and %2 more</source>
         <translation type="unfinished"></translation>
     </message>
@@ -13297,13 +13835,6 @@ Penalties are left out.</source>
     </message>
     <message numerus="yes">
         <source>%n runs</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n files could not be read</source>
         <translation type="unfinished">
             <numerusform></numerusform>
             <numerusform></numerusform>
@@ -13464,6 +13995,76 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>removal of a run</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::PhonePageDialog</name>
+    <message>
+        <source>&amp;Cut the runs out of their films</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Page for an athlete</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Save…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Athlete</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choose one of the athletes of the list.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>One file for the telephone, of one race as it was last saved. Films lie in the folder beside it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>One file for the telephone, the season of %1 files as they were last saved. Films lie in the folder beside it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::PhonePages</name>
+    <message>
+        <source>No clip of %1: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save the page of %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pages (*.html *.htm)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The page cannot be written over a race that it is made from.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Making the page…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Page for an athlete</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is written.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Open it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show in &amp;folder</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -14508,6 +15109,14 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>&amp;Previous race</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pa&amp;ge for an athlete…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Draw the course…</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -16219,6 +16828,10 @@ Choose a file.</source>
         <source>Expect the places of a &amp;field…</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Pa&amp;ge for an athlete…</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>kavela::desktop::SeasonHeader</name>
@@ -16452,46 +17065,7 @@ Choose a file.</source>
     </message>
 </context>
 <context>
-    <name>kavela::desktop::SeasonReports</name>
-    <message>
-        <source>The team</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Save the report of %1</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Save the report of the team</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>PDF documents (*.pdf)</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The report cannot be written over a file that it is made from.</source>
-        <translation type="unfinished"></translation>
-    </message>
-</context>
-<context>
-    <name>kavela::desktop::SeasonWindow</name>
-    <message>
-        <source>Season</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Drop a team (.kvteam) and the folder of its races here</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Open a team…</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Add a folder of races…</source>
-        <translation type="unfinished"></translation>
-    </message>
+    <name>kavela::desktop::SeasonPages</name>
     <message>
         <source>Progression</source>
         <translation type="unfinished"></translation>
@@ -16573,7 +17147,49 @@ Choose a file.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Which ones?</source>
+        <source>Phase</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::SeasonReports</name>
+    <message>
+        <source>The team</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save the report of %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save the report of the team</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>PDF documents (*.pdf)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The report cannot be written over a file that it is made from.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::SeasonWindow</name>
+    <message>
+        <source>Season</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Drop a team (.kvteam) and the folder of its races here</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open a team…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add a folder of races…</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -16602,10 +17218,6 @@ Choose a file.</source>
     </message>
     <message>
         <source>Add a folder of races</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Phase</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -16660,22 +17272,6 @@ Choose a file.</source>
         <source>the team could not be read again: %1</source>
         <translation type="unfinished"></translation>
     </message>
-    <message>
-        <source>reading was cancelled: not all files are here</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>1 file could not be read</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>and %1 more</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>These files could not be read</source>
-        <translation type="unfinished"></translation>
-    </message>
     <message numerus="yes">
         <source>Races from %n split files</source>
         <translation type="unfinished">
@@ -16685,13 +17281,6 @@ Choose a file.</source>
     </message>
     <message numerus="yes">
         <source>%n runs compared</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n files could not be read</source>
         <translation type="unfinished">
             <numerusform></numerusform>
             <numerusform></numerusform>
@@ -17658,11 +18247,621 @@ Choose a file.</source>
         <source>None</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Look for a newer version once a day</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Where it is looked for</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This is no https address. It is looked for where it was.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::ShareActions</name>
+    <message>
+        <source>&amp;Open a folder to share…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sha&amp;re</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Compare both sides</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Start with the ticked files</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>C&amp;ancel</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Tick all but deletions</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tick &amp;none</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ser&amp;ver</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Sign in…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Forget the password</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::ShareWindow</name>
+    <message>
+        <source>Share folders</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>F&amp;older</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>On this computer, with everything below it but hidden files</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the folder that is shared</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Address</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Of a folder on a WebDAV server: Nextcloud, ownCloud, a NAS, Apache…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choose the folder…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Compare</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shows what differs; nothing is changed by it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shares the ticked files</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nothing is shared before it is shown here</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Another folder is shared once this one is done.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The folder to share</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no folder to share yet.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>“%1” is no folder.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Both sides are looked at…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: %2 of %3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: %2 files</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 (on the server)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 (here)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Delete 1 file?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Delete %1 files?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+and %1 more</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Files are being shared…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This computer has no password store that is open. The password holds until this window is closed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The password of %1 was forgotten.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%v of %m files</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Files are being shared</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What is done stays done; sharing again goes on with the rest.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Stop and close</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>kavela::desktop::SiteList</name>
     <message>
         <source>Other servers that films may come from</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::SlitActions</name>
+    <message>
+        <source>&amp;Open a film…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open the &amp;race of the film in split taking</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Save the race</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save what is seen as a &amp;picture…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save the &amp;water round the marks…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save what is seen of the slit picture</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pictures (*.png)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The picture could not be saved: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save the water round the marks</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Bands (*.bands)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Undo the mark</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Redo the mark</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Lines</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Draw a &amp;new line</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ne&amp;xt line</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Previous line</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Turn the arrow: boats come from the other side</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Remove the line</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Draw a box round one &amp;boat</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Look for boats that cross it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Hair line</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>One frame &amp;earlier</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>One frame &amp;later</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ten frames earlier</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ten frames later</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A tenth of a frame earlier</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A tenth of a frame later</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Next proposal</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Previous proposal</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>To the &amp;beginning</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Closer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Farther</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The &amp;whole film</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Mark</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Mark the run at the hair line</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Take the mark &amp;away</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Previous run</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Next run</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Refuse the proposal at the hair line</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Forget what was refused on this line</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Accept a&amp;ll proposals</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Accept a&amp;ll proposals: why not yet?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Play</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Play or pause</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Slower</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Faster</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Normal speed</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::SlitKeeping</name>
+    <message>
+        <source>The lines in %1 cannot be read: %2. The file is put aside before new lines take its name.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The lines could not be kept in %1: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::SlitLoader</name>
+    <message>
+        <source>The film ends early, after %1 frames.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 frames cannot be decoded: their columns are black.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::SlitPanel</name>
+    <message>
+        <source>Open the &amp;race…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Times &amp;finer than the frame</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Draw a box round one boat (B), then look for boats (Ctrl+B): where they may have crossed is listed here.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The time of the split follows the hair line between two frames; the mark itself stays on the frame.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>marks</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Line %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Marks go into %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Marks need the race of this film in split taking.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No run of %1 has the film %2. Add it there as a film of the runs or as a fixed camera.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The runs that are seen on this film are listed here.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::SlitRace</name>
+    <message>
+        <source>Start</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Split %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no run to be marked.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This run has no film %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 in the slit picture</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This run is not marked here.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>mark removed in the slit picture</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::SlitSaving</name>
+    <message>
+        <source>The water round the marks is in %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The water round the marks could not be saved: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::SlitStrip</name>
+    <message>
+        <source>Slit picture</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What stood on the line over the film, over time. A click goes there.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::SlitView</name>
+    <message>
+        <source>Slit picture</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>frame %1   %2 s</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>  (%1%2 of a frame)</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::SlitWindow</name>
+    <message>
+        <source>Films (*.mp4 *.mov *.m4v *.avi *.mkv *.mts *.m2ts);;All files (*)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Slit picture</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>“%1” is not there.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open the film of a fixed camera</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open the film of a camera on a tripod (Ctrl+O).</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Press N and draw a line across the water in the film above: what stands on it is shown here over time.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Reading the film…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Reading the film:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Looking for boats:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Draw a line first: N.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 proposals were refused on this line. They are forgotten with it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove the line</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no proposal before this.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no proposal behind this.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Marks need the race of this film: open it in split taking.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Draw a box round one boat first: B.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Proposals are accepted one by one</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no slit picture yet.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>That part is not read yet.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is nothing to learn from yet: look for boats, then mark and refuse what was found.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -19015,6 +20214,18 @@ Place, gap and percent are there as in any other.</source>
         <source>The frames shown are &amp;one moment</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>&amp;Draw the course…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sl&amp;it picture of the last camera</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no film here that has a slit picture.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>kavela::desktop::TakingDocument</name>
@@ -19684,6 +20895,28 @@ Place, gap and percent are there as in any other.</source>
     </message>
 </context>
 <context>
+    <name>kavela::desktop::TrackDocument</name>
+    <message>
+        <source>It is no path on a film, or a damaged one: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a path of 1 frame</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a path of %1 frames</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::TrackLine</name>
+    <message>
+        <source>Coloured where the path is known; diamonds are the boxes that were drawn. Click to go there.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>kavela::desktop::TrackOffsetDialog</name>
     <message>
         <source>Track of a watch</source>
@@ -19719,6 +20952,256 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>%1 of %2 positions and %3 of %4 heart rates lie in the recording, or a minute around it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::TrackOverlay</name>
+    <message>
+        <source>Box round what is followed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Draw a box round boat, head or gate. By keys: B proposes a box, arrows move it, with Shift they size it, Enter takes it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::TrackingWindow</name>
+    <message>
+        <source>Tracking</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Paths on films (*.track.json)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open a film, then draw a box round what is to be followed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Following: %p %</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Draw a box round what is to be followed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No known point yet. Tick Path &gt; Click known points, then click the foot of a gate&apos;s poles in the picture.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Take it away</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>removal of a known point</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Figures</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Known points</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A place on the water is a number of metres, -10000 to 10000</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>metres of a known point</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Point</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Across</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Along</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Open a film or a path…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Export the path as CSV…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Play</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Play or pause</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>One frame ba&amp;ck</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>One frame &amp;on</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>P&amp;ath</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Propose a &amp;box</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Take the box of this frame away</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>To the next &amp;gap</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Stop following</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Click &amp;known points</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Forget the known points</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>It lies on the &amp;water</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>whether it lies on the water</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open a film or a path on one</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Films and paths (*.mp4 *.mov *.m4v *.mkv *.avi *.mts *.track.json);;All files (*)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The film %1 is not there.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 s · frame %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The film is still being read. Draw the box again in a moment.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Stop following first, with Escape.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>box</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Following. Escape stops it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The boxes were changed meanwhile, so that the path was not taken over. Draw the box again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>path</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Lost at %1 s. Draw a new box here, or where it is seen again; what lies between stays a gap until both sides meet.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Followed without a gap.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Followed, with one gap. G goes there.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Followed, with %1 gaps. G goes to the next one.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No box was drawn in this frame.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>removal of a box</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The path has no gap.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Click the foot of a gate&apos;s poles where they meet the water, four for metres or two for a scale only, then type where they stand. P ends it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Four known points are the most. Take one away first.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The known points belong into one frame; this is where the first one was clicked.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>known point</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>removal of the known points</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Two points give a scale only: lengths and speeds hold near them and along the line between them. Four give the perspective too.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What is followed is not on the water, such as a head: its metres are off.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Export the path</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tables (*.csv)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is there.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The path could not be exported</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -19940,6 +21423,29 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>heats from the trials</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::Updates</name>
+    <message>
+        <source>Newer versions</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>May Kavela look once a day whether there is a newer version? It tells the server the version that you have, and nothing else. Without a yes it never looks by itself. You can change this in the settings.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Yes, look once a day</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Looking for a newer version…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cancel</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
