@@ -3,8 +3,9 @@
 #include "common/error.h"
 #include "common/safe_file.h"
 #include "video/index.h"
+#include "video/thumbnail.h"
 #include "video/writing/film_cut.h"
-#include "video/writing/thumbnail.h"
+#include "video/writing/jpeg.h"
 
 #include <exception>
 #include <optional>
@@ -16,6 +17,8 @@ namespace kavela::page {
 namespace fs = std::filesystem;
 
 namespace {
+
+constexpr VideoSize PosterBox{640, 640};
 
 void makeFolder(const fs::path& folder) {
     std::error_code fault;
@@ -51,9 +54,8 @@ void cutClip(const ClipOrder& order, const std::stop_token& stop) {
     fs::path poster = order.target;
     poster += ".jpg";
     try {
-        if (const std::string picture = thumbnailOf(*aside, thumbnailFolder(), stop);
-            !picture.empty())
-            writeFileSafely(poster, picture);
+        if (const Picture picture = readThumbnail(*aside, PosterBox, stop).picture; picture.pixels)
+            writeFileSafely(poster, jpegOf(picture));
         fs::rename(*aside, clip);
     } catch (const std::exception&) {
         std::error_code ignored;
