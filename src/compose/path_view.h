@@ -17,7 +17,7 @@ public:
 
     /// `size` is that of the upright picture that the places of the track are in. `zoom` is 1 to
     /// MostZoom; above 1 the picture follows the path.
-    PathView(Track track, VideoSize size, double zoom, bool isDrawn)
+    PathView(FilmTrack track, VideoSize size, double zoom, bool isDrawn)
         : m_track(std::move(track)), m_size(size), m_zoom(zoom), m_isDrawn(isDrawn) {}
 
     [[nodiscard]] double zoom() const { return m_zoom; }
@@ -36,7 +36,7 @@ private:
         return {place.x / m_size.width, place.y / m_size.height};
     }
 
-    Track m_track;
+    FilmTrack m_track;
     VideoSize m_size;
     double m_zoom;
     bool m_isDrawn;

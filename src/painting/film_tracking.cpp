@@ -40,9 +40,9 @@ FollowedStretch followedOn(FilmPlanes& film, const StretchOrder& order) {
     return followStretch(film, order, {}, [&](const TrackProgress&) { bar.step(); });
 }
 
-void tellPath(const Track& track, const FollowedStretch& stretch, const VideoIndex& index,
+void tellPath(const FilmTrack& track, const FollowedStretch& stretch, const VideoIndex& index,
               const cli::TrackCall& call) {
-    for (const Track::Gap& gap : track.gaps())
+    for (const FilmTrack::Gap& gap : track.gaps())
         cli::logLine("Not seen from " + hundredthsText(index.secondsOf(gap.first)) + " s to " +
                      hundredthsText(index.secondsOf(gap.last)) + " s: a gap.");
     if (stretch.lostAt)
@@ -65,7 +65,7 @@ int trackFilm(const cli::TrackCall& call) {
         const auto index = readVideoIndex(call.film);
         FilmPlanes film(index);
         const FollowedStretch stretch = followedOn(film, trackOrderOf(call, *index));
-        const Track track = withStretch({}, stretch);
+        const FilmTrack track = withStretch({}, stretch);
         const auto figures = pathFigures(track, plane);
         if (plane && WaterPlane(plane->points).isScaleOnly())
             cli::logLine(

@@ -209,7 +209,7 @@ std::vector<TrackPoint> joinedPoints(const std::vector<TrackPoint>& forwards,
     return joined;
 }
 
-Track withStretch(Track track, const FollowedStretch& stretch) {
+FilmTrack withStretch(FilmTrack track, const FollowedStretch& stretch) {
     const auto isWithin = [&](const auto& entry) {
         return entry.frame >= stretch.first && (stretch.isLast || entry.frame <= stretch.last);
     };
@@ -228,7 +228,7 @@ Track withStretch(Track track, const FollowedStretch& stretch) {
     return track;
 }
 
-StretchOrder stretchOf(const Track& track, std::size_t key, FrameNumber last) {
+StretchOrder stretchOf(const FilmTrack& track, std::size_t key, FrameNumber last) {
     StretchOrder order{track.keys.at(key), {}, std::max(last, track.keys[key].frame)};
     if (key + 1 < track.keys.size())
         order.to = track.keys[key + 1];

@@ -50,9 +50,9 @@ using TrackListener = std::function<void(const TrackProgress&)>;
                                                    double longerSide);
 
 /// A track with a stretch in place of what it had there.
-[[nodiscard]] Track withStretch(Track track, const FollowedStretch& stretch);
+[[nodiscard]] FilmTrack withStretch(FilmTrack track, const FollowedStretch& stretch);
 
 /// The stretch of a track that begins at its key of a number: up to the next key, or to `last`.
-[[nodiscard]] StretchOrder stretchOf(const Track& track, std::size_t key, FrameNumber last);
+[[nodiscard]] StretchOrder stretchOf(const FilmTrack& track, std::size_t key, FrameNumber last);
 
 } // namespace kavela

@@ -110,7 +110,7 @@ void addSpeedErrors(std::vector<PathFigure>& figures, const std::vector<PlanePoi
 
 } // namespace
 
-std::vector<PlanePoint> planeInFirstFrame(const Track& track, const KnownPlane& plane) {
+std::vector<PlanePoint> planeInFirstFrame(const FilmTrack& track, const KnownPlane& plane) {
     const TrackCamera* const camera = track.cameraAt(plane.frame);
     if (!camera)
         throw TrackError("It is not known how the camera moved between the path and the frame of "
@@ -121,7 +121,8 @@ std::vector<PlanePoint> planeInFirstFrame(const Track& track, const KnownPlane& 
     return points;
 }
 
-std::vector<PathFigure> pathFigures(const Track& track, const std::optional<KnownPlane>& plane) {
+std::vector<PathFigure> pathFigures(const FilmTrack& track,
+                                    const std::optional<KnownPlane>& plane) {
     std::vector<PathFigure> figures;
     for (const TrackPoint& point : track.points) {
         while (!figures.empty() && figures.back().frame + 1 < point.frame)

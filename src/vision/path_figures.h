@@ -33,12 +33,12 @@ struct PathFigure {
 /// nothing but their number. A speed is the slope of the line through the positions of 0.2 seconds;
 /// there is none across a gap. Throws TrackError as WaterPlane does, and where the camera's motion
 /// to the frame of the known points is not known.
-[[nodiscard]] std::vector<PathFigure> pathFigures(const Track& track,
+[[nodiscard]] std::vector<PathFigure> pathFigures(const FilmTrack& track,
                                                   const std::optional<KnownPlane>& plane);
 
 /// The known points as the first frame of a path shows them. Throws TrackError where it is not
 /// known how the camera moved between the two.
-[[nodiscard]] std::vector<PlanePoint> planeInFirstFrame(const Track& track,
+[[nodiscard]] std::vector<PlanePoint> planeInFirstFrame(const FilmTrack& track,
                                                         const KnownPlane& plane);
 
 } // namespace kavela

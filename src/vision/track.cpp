@@ -15,20 +15,20 @@ const Entry* entryOf(const std::vector<Entry>& entries, FrameNumber frame) {
 
 } // namespace
 
-const TrackPoint* Track::pointAt(FrameNumber frame) const {
+const TrackPoint* FilmTrack::pointAt(FrameNumber frame) const {
     return entryOf(points, frame);
 }
 
-const TrackCamera* Track::cameraAt(FrameNumber frame) const {
+const TrackCamera* FilmTrack::cameraAt(FrameNumber frame) const {
     return entryOf(cameras, frame);
 }
 
-std::optional<PicturePlace> Track::steadied(const TrackPoint& point) const {
+std::optional<PicturePlace> FilmTrack::steadied(const TrackPoint& point) const {
     const TrackCamera* const camera = cameraAt(point.frame);
     return camera ? std::optional(camera->toFirst(point.place)) : std::nullopt;
 }
 
-std::optional<PicturePlace> Track::seenFrom(const TrackPoint& point, FrameNumber frame) const {
+std::optional<PicturePlace> FilmTrack::seenFrom(const TrackPoint& point, FrameNumber frame) const {
     if (point.frame == frame)
         return point.place;
     const TrackCamera* const camera = cameraAt(frame);
@@ -36,7 +36,7 @@ std::optional<PicturePlace> Track::seenFrom(const TrackPoint& point, FrameNumber
     return camera && place ? std::optional(camera->toFirst.inverse()(*place)) : std::nullopt;
 }
 
-std::vector<Track::Gap> Track::gaps() const {
+std::vector<FilmTrack::Gap> FilmTrack::gaps() const {
     std::vector<Gap> gaps;
     for (std::size_t i = 1; i < points.size(); ++i)
         if (points[i].frame > points[i - 1].frame + 1)
@@ -44,7 +44,7 @@ std::vector<Track::Gap> Track::gaps() const {
     return gaps;
 }
 
-Track withKey(Track track, const TrackKey& key) {
+FilmTrack withKey(FilmTrack track, const TrackKey& key) {
     const auto place = std::ranges::lower_bound(track.keys, key.frame, {}, &TrackKey::frame);
     if (place != track.keys.end() && place->frame == key.frame)
         place->box = key.box;
@@ -53,7 +53,7 @@ Track withKey(Track track, const TrackKey& key) {
     return track;
 }
 
-Track withoutKey(Track track, FrameNumber frame) {
+FilmTrack withoutKey(FilmTrack track, FrameNumber frame) {
     const auto key = std::ranges::find(track.keys, frame, &TrackKey::frame);
     if (key == track.keys.end())
         return track;

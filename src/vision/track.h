@@ -50,7 +50,7 @@ struct TrackCamera {
 
 /// A path as far as it is known. Frames without a point are gaps: it was lost there, and nothing is
 /// put in its place.
-struct Track {
+struct FilmTrack {
     std::vector<TrackKey> keys;       ///< by frame, each frame once
     std::vector<TrackPoint> points;   ///< by frame, each frame once
     std::vector<TrackCamera> cameras; ///< by frame; ends where the camera's motion was not known
@@ -74,12 +74,12 @@ struct Track {
     };
     [[nodiscard]] std::vector<Gap> gaps() const;
 
-    friend bool operator==(const Track&, const Track&) = default;
+    friend bool operator==(const FilmTrack&, const FilmTrack&) = default;
 };
 
 /// A track with a further key, or another box in the frame of one that is there.
-[[nodiscard]] Track withKey(Track track, const TrackKey& key);
+[[nodiscard]] FilmTrack withKey(FilmTrack track, const TrackKey& key);
 /// A track without a key, and without what was followed from it alone: the stretches beside it.
-[[nodiscard]] Track withoutKey(Track track, FrameNumber frame);
+[[nodiscard]] FilmTrack withoutKey(FilmTrack track, FrameNumber frame);
 
 } // namespace kavela

@@ -42,11 +42,11 @@ KnownPlane knownPlaneOf(const trackplane001& record, const std::string& place) {
 
 } // namespace
 
-Track trackOf(const track001& record) {
+FilmTrack trackOf(const track001& record) {
     checkFrames(record.boxes, "boxes");
     checkFrames(record.points, "points");
     checkFrames(record.cameras, "cameras");
-    Track track;
+    FilmTrack track;
     for (std::size_t i = 0; i < record.boxes.size(); ++i) {
         const trackbox001& box = record.boxes[i];
         if (!(box.width > 0 && box.height > 0))
@@ -76,7 +76,7 @@ std::optional<KnownPlane> planeOf(const track001& record) {
     return knownPlaneOf(record.plane, "plane.");
 }
 
-void takeTrack(track001& record, const Track& track) {
+void takeTrack(track001& record, const FilmTrack& track) {
     record.boxes.clear();
     record.points.clear();
     record.cameras.clear();

@@ -71,11 +71,11 @@ BOOST_DESCRIBE_STRUCT(track001, (), (film, width, height, isOnWater, boxes, poin
 /// What the record of a path holds. Throws DecodeError with the place of what is wrong: frames out
 /// of order, a box without a size, more than four known points. Fewer than are needed are kept:
 /// they are still being clicked.
-[[nodiscard]] Track trackOf(const track001& record);
+[[nodiscard]] FilmTrack trackOf(const track001& record);
 [[nodiscard]] std::optional<KnownPlane> planeOf(const track001& record);
 
 /// Puts a path into a record in place of the one that it holds.
-void takeTrack(track001& record, const Track& track);
+void takeTrack(track001& record, const FilmTrack& track);
 void takePlane(track001& record, const std::optional<KnownPlane>& plane);
 
 /// Reads a path. Throws FileError, and DecodeError with the place of what is wrong.

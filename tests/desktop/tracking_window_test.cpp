@@ -82,7 +82,7 @@ TEST_F(TrackingWindowTest, FollowsADrawnBoxUntilItIsLostAndUndoesIt) {
     drawBoat(window, 0);
     ASSERT_TRUE(window.run().isRunning()) << window.told().toStdString();
     ASSERT_TRUE(isDone(window));
-    const Track track = window.document().track();
+    const FilmTrack track = window.document().track();
     ASSERT_GT(track.points.size(), 30U);
     for (const TrackPoint& point : track.points)
         if (m_scene->isThere(static_cast<int>(point.frame))) {
@@ -104,7 +104,7 @@ TEST_F(TrackingWindowTest, KeepsThePathBesideTheFilmAndOpensItWithTheFilm) {
     TrackingWindow& window = openFilm();
     drawBoat(window, 0);
     ASSERT_TRUE(isDone(window));
-    const Track track = window.document().track();
+    const FilmTrack track = window.document().track();
     QSignalSpy saved(window.file(), &desktop::EditedFile::saved);
     window.saveToBeside(QString::fromStdString((m_folder.path() / "run.track.json").string()));
     ASSERT_TRUE(QTest::qWaitFor([&] { return !saved.isEmpty(); }, TrackingWait));

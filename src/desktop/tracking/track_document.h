@@ -20,7 +20,7 @@ public:
     /// Begins a path on a film that has none; saving puts it beside the film.
     void startOn(const QString& film, QWidget* over);
 
-    [[nodiscard]] const Track& track() const { return m_track; }
+    [[nodiscard]] const FilmTrack& track() const { return m_track; }
 
 protected:
     void follow() override { m_track = trackOf(value()); }
@@ -30,7 +30,7 @@ protected:
     [[nodiscard]] bool recover(const std::string& content) override;
 
 private:
-    Track m_track; ///< what the value holds
+    FilmTrack m_track; ///< what the value holds
 };
 
 } // namespace kavela::desktop

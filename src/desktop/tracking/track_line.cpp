@@ -29,7 +29,7 @@ void TrackLine::setFrames(qint64 frames) {
     update();
 }
 
-void TrackLine::setTrack(const Track& track) {
+void TrackLine::setTrack(const FilmTrack& track) {
     m_track = track;
     update();
 }

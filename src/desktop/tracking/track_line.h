@@ -15,7 +15,7 @@ public:
     explicit TrackLine(QWidget* parent = nullptr);
 
     void setFrames(qint64 frames);
-    void setTrack(const Track& track);
+    void setTrack(const FilmTrack& track);
     void setFrame(qint64 frame);
 
     [[nodiscard]] QSize sizeHint() const override { return {400, 34}; }
@@ -34,7 +34,7 @@ private:
 
     qint64 m_frames = 0;
     qint64 m_frame = 0;
-    Track m_track;
+    FilmTrack m_track;
 };
 
 } // namespace kavela::desktop

@@ -51,7 +51,7 @@ void TrackOverlay::setFilmSize(QSize size) {
     update();
 }
 
-void TrackOverlay::setTrack(const Track& track, std::vector<TrackPoint> found) {
+void TrackOverlay::setTrack(const FilmTrack& track, std::vector<TrackPoint> found) {
     m_track = track;
     m_found = std::move(found);
     update();

@@ -23,7 +23,7 @@ public:
     /// Pixels of the film's upright picture; empty where that is not known yet.
     void setFilmSize(QSize size);
     /// `found` are points of a run that goes on.
-    void setTrack(const Track& track, std::vector<TrackPoint> found = {});
+    void setTrack(const FilmTrack& track, std::vector<TrackPoint> found = {});
     void setFrame(FrameNumber frame);
     void setKnownPoints(std::optional<KnownPlane> plane);
     /// Clicks mean known points, no boxes.
@@ -60,7 +60,7 @@ private:
     void paintKnownPoints(QPainter& painter) const;
 
     QSize m_film;
-    Track m_track;
+    FilmTrack m_track;
     std::vector<TrackPoint> m_found;
     FrameNumber m_frame = -1;
     std::optional<KnownPlane> m_plane;

@@ -18,13 +18,13 @@ struct TrackRun::Shared {
 namespace {
 
 struct RunResult {
-    Track track;
+    FilmTrack track;
     std::optional<FrameNumber> lostAt;
 };
 
 /// The stretches that end and begin at a box.
-RunResult runStretches(FilmPlanes& film, Track track, std::size_t key, const std::stop_token& stop,
-                       const TrackListener& tell) {
+RunResult runStretches(FilmPlanes& film, FilmTrack track, std::size_t key,
+                       const std::stop_token& stop, const TrackListener& tell) {
     const FrameNumber last = film.index().frameCount() - 1;
     RunResult result;
     for (std::size_t from = key > 0 ? key - 1 : key; from <= key && !stop.stop_requested();
@@ -50,7 +50,7 @@ TrackRun::~TrackRun() {
     m_stop.request_stop();
 }
 
-void TrackRun::start(const std::shared_ptr<const VideoIndex>& index, const Track& track,
+void TrackRun::start(const std::shared_ptr<const VideoIndex>& index, const FilmTrack& track,
                      std::size_t key) {
     m_stop = std::stop_source();
     m_shared = std::make_shared<Shared>();

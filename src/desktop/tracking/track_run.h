@@ -23,7 +23,8 @@ public:
     ~TrackRun() override;
 
     /// Follows anew what begins or ends with the box of this number. What runs must have ended.
-    void start(const std::shared_ptr<const VideoIndex>& index, const Track& track, std::size_t key);
+    void start(const std::shared_ptr<const VideoIndex>& index, const FilmTrack& track,
+               std::size_t key);
     /// What was followed so far is kept.
     void stop() { m_stop.request_stop(); }
     [[nodiscard]] bool isRunning() const { return m_isRunning; }
@@ -35,7 +36,7 @@ signals:
     void advanced(qint64 frame, double done);
     /// It has ended with this path. `lostAt` is the first frame in which it was not seen again up
     /// to the end, -1 for none.
-    void ended(const kavela::Track& track, qint64 lostAt);
+    void ended(const kavela::FilmTrack& track, qint64 lostAt);
     /// It could not be followed, in a sentence.
     void failed(const QString& why);
 

@@ -340,7 +340,7 @@ void TrackingWindow::goTo(qint64 frame) {
         m_deck->seek(index->stampOf(frame));
 }
 
-void TrackingWindow::editTrack(const QString& what, const Track& track) {
+void TrackingWindow::editTrack(const QString& what, const FilmTrack& track) {
     const auto index = m_deck->index(0);
     m_document->edit(what, [&](track001& record) {
         takeTrack(record, track);
@@ -363,7 +363,7 @@ void TrackingWindow::drawBox(const TrackBox& box) {
         return;
     }
     m_deck->pause();
-    const Track track = withKey(m_document->track(), {*frame, box});
+    const FilmTrack track = withKey(m_document->track(), {*frame, box});
     editTrack(tr("box"), track);
     m_isBoxNew = true;
     const auto key = std::ranges::find(track.keys, *frame, &TrackKey::frame);
@@ -384,7 +384,7 @@ void TrackingWindow::stopFollowing() {
 }
 
 /// What was undone while it ran is not brought back by it.
-void TrackingWindow::takeRun(const Track& track, FrameNumber lostAt) {
+void TrackingWindow::takeRun(const FilmTrack& track, FrameNumber lostAt) {
     m_progress->hide();
     m_stopAction->setEnabled(false);
     if (m_runKeys != m_document->track().keys) {
@@ -412,7 +412,7 @@ void TrackingWindow::takeRun(const Track& track, FrameNumber lostAt) {
 
 void TrackingWindow::removeBox() {
     const auto frame = shownFrame();
-    const Track& before = m_document->track();
+    const FilmTrack& before = m_document->track();
     const auto key =
         frame ? std::ranges::find(before.keys, *frame, &TrackKey::frame) : before.keys.end();
     if (m_run->isRunning() || key == before.keys.end()) {
@@ -431,7 +431,7 @@ void TrackingWindow::goToGap() {
     const FrameNumber now = shownFrame().value_or(-1);
     const auto gaps = m_document->track().gaps();
     const auto next =
-        std::ranges::find_if(gaps, [now](const Track::Gap& gap) { return gap.first > now; });
+        std::ranges::find_if(gaps, [now](const FilmTrack::Gap& gap) { return gap.first > now; });
     if (gaps.empty())
         tell(tr("The path has no gap."));
     else

@@ -99,9 +99,9 @@ private:
     void computeFigures();
     void showFigures(const Computed& computed);
     [[nodiscard]] std::optional<FrameNumber> shownFrame() const;
-    void editTrack(const QString& what, const Track& track);
+    void editTrack(const QString& what, const FilmTrack& track);
     void startRun(std::size_t key);
-    void takeRun(const Track& track, FrameNumber lostAt);
+    void takeRun(const FilmTrack& track, FrameNumber lostAt);
     void takeFailure(const QString& why);
     void takePoint(const PicturePlace& place);
     void tell(const QString& text);

@@ -57,6 +57,10 @@ Updates::~Updates() {
     delete m_look;
 }
 
+OfferDialog* Updates::offer() const {
+    return m_offer;
+}
+
 std::int64_t Updates::now() const {
     return static_cast<std::int64_t>(m_workspace.clock()().seconds + SecondsFrom1970To2001);
 }

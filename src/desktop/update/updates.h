@@ -42,7 +42,7 @@ public:
     void lookNow(QWidget* over);
     [[nodiscard]] bool isLooking() const { return m_look != nullptr; }
     /// What is offered at present; null for nothing.
-    [[nodiscard]] OfferDialog* offer() const { return m_offer; }
+    [[nodiscard]] OfferDialog* offer() const;
 
     /// Instead of the folder for downloads, the showing of a folder and the usual waits, as in
     /// tests.

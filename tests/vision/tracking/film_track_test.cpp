@@ -42,15 +42,15 @@ TEST(JoinedPoints, LeaveAGapWhereBothSidesContradictEachOther) {
 
 TEST(JoinedPoints, KeepAGapThatNeitherSideSaw) {
     const auto joined = joinedPoints(lineOf(0, 3, 0), lineOf(8, 10, 0), 40);
-    Track track;
+    FilmTrack track;
     track.points = joined;
-    EXPECT_EQ(track.gaps(), (std::vector<Track::Gap>{{4, 7}}));
+    EXPECT_EQ(track.gaps(), (std::vector<FilmTrack::Gap>{{4, 7}}));
 }
 
 /// A boat that is gone from frame 30 on.
-class FilmTrack : public ::testing::Test {
+class FollowedFilm : public ::testing::Test {
 protected:
-    FilmTrack() {
+    FollowedFilm() {
         TrackShot shot;
         shot.seed = 340;
         shot.vanishesAt = 30;
@@ -64,7 +64,7 @@ protected:
     std::unique_ptr<FilmPlanes> m_film;
 };
 
-TEST_F(FilmTrack, EndsWhereTheBoatIsLostAndSaysSo) {
+TEST_F(FollowedFilm, EndsWhereTheBoatIsLostAndSaysSo) {
     std::vector<FrameNumber> told;
     const FollowedStretch stretch =
         followStretch(*m_film, {{0, m_scene->athleteBox(0)}, {}, 64}, {},
@@ -77,8 +77,8 @@ TEST_F(FilmTrack, EndsWhereTheBoatIsLostAndSaysSo) {
     EXPECT_LT(stretch.last, 64); // nobody looks on for ever
 }
 
-TEST_F(FilmTrack, RunsFromBothSidesBetweenTwoBoxes) {
-    Track track;
+TEST_F(FollowedFilm, RunsFromBothSidesBetweenTwoBoxes) {
+    FilmTrack track;
     track.keys = {{0, m_scene->athleteBox(0)}, {28, m_scene->athleteBox(28)}};
     track = withStretch(track, followStretch(*m_film, stretchOf(track, 0, 64)));
     ASSERT_EQ(track.points.size(), 29U);
@@ -94,7 +94,7 @@ TEST_F(FilmTrack, RunsFromBothSidesBetweenTwoBoxes) {
               std::vector(before.begin(), before.begin() + 28));
 }
 
-TEST_F(FilmTrack, KeepsWhatItFoundWhenItIsStopped) {
+TEST_F(FollowedFilm, KeepsWhatItFoundWhenItIsStopped) {
     std::stop_source stop;
     const FollowedStretch stretch = followStretch(*m_film, {{0, m_scene->athleteBox(0)}, {}, 64},
                                                   stop.get_token(), [&](const TrackProgress& now) {

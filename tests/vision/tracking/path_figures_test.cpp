@@ -14,8 +14,8 @@ using ::testing::HasSubstr;
 using ::testing::ThrowsMessage;
 
 /// A boat that goes 100 pixels a second to the right while the camera pans after it by 40.
-Track pannedTrack() {
-    Track track;
+FilmTrack pannedTrack() {
+    FilmTrack track;
     track.keys = {{0, {95, 195, 10, 10}}};
     for (FrameNumber frame = 0; frame < 50; ++frame) {
         const double seconds = double(frame) / 50;
@@ -46,8 +46,8 @@ TEST(PathFigures, MeasureSpeedOnTheWaterAndNotInThePicture) {
 }
 
 TEST(PathFigures, NeverFillAGap) {
-    const Track track = pannedTrack();
-    EXPECT_EQ(track.gaps(), (std::vector<Track::Gap>{{20, 24}}));
+    const FilmTrack track = pannedTrack();
+    EXPECT_EQ(track.gaps(), (std::vector<FilmTrack::Gap>{{20, 24}}));
     const auto figures = pathFigures(track, tenPixelsAMetre(0));
     for (std::size_t frame = 20; frame <= 24; ++frame)
         EXPECT_FALSE(figures[frame].place || figures[frame].steadied || figures[frame].water ||
@@ -60,7 +60,7 @@ TEST(PathFigures, NeverFillAGap) {
         std::getline(lines, line);
     EXPECT_EQ(line, "20,,,,,,,,,,");
     // Across a gap no speed is told: the two sides may have nothing to do with each other.
-    Track jump = track;
+    FilmTrack jump = track;
     for (TrackPoint& point : jump.points)
         if (point.frame > 24)
             point.place.y += 500;

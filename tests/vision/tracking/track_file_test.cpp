@@ -11,8 +11,8 @@
 namespace kavela {
 namespace {
 
-Track smallTrack() {
-    Track track;
+FilmTrack smallTrack() {
+    FilmTrack track;
     track.keys = {{3, {10, 20, 30, 40}}, {9, {12, 22, 30, 40}}};
     track.points = {
         {3, 0.06, {25, 40}, 1, 1}, {4, 0.08, {25.5, 40.25}, 1.02, 0.8}, {9, 0.18, {27, 42}, 1, 1}};
@@ -61,8 +61,8 @@ TEST(TrackFile, SaysWhatIsWrongAndWhere) {
     }
 }
 
-TEST(Track, LosesOnlyWhatABoxLedToWhenThatIsTakenAway) {
-    const Track left = withoutKey(smallTrack(), 9);
+TEST(FilmTrack, LosesOnlyWhatABoxLedToWhenThatIsTakenAway) {
+    const FilmTrack left = withoutKey(smallTrack(), 9);
     ASSERT_EQ(left.keys.size(), 1U);
     EXPECT_EQ(left.points.size(), 1U); // what ran towards the box is followed anew
     EXPECT_EQ(left.cameras.size(), 2U);
@@ -70,8 +70,8 @@ TEST(Track, LosesOnlyWhatABoxLedToWhenThatIsTakenAway) {
     EXPECT_EQ(withoutKey(smallTrack(), 5), smallTrack());
 }
 
-TEST(Track, PlacesOfBeforeAreShownWhereTheCameraSeesThemNow) {
-    const Track track = smallTrack();
+TEST(FilmTrack, PlacesOfBeforeAreShownWhereTheCameraSeesThemNow) {
+    const FilmTrack track = smallTrack();
     const auto there = track.seenFrom(track.points[0], 4);
     ASSERT_TRUE(there);
     const PicturePlace back = track.cameras[1].toFirst(*there);
