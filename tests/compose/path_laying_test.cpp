@@ -56,7 +56,7 @@ TEST(PathLaying, ATrailIsDrawnWithinItsPlaceOnly) {
 }
 
 TEST(PathLaying, AFollowedFilmIsShownTwiceAsLargeRoundItsPath) {
-    Track track;
+    FilmTrack track;
     // In the middle, then at the very edge, where the picture ends.
     for (FrameNumber frame = 0; frame < 100; ++frame)
         track.points.push_back(
