@@ -20,7 +20,8 @@ constexpr int CoarseFactor = 8;  ///< from that picture to the coarse one
 constexpr int CoarseReach = 8;   ///< pixels of the coarse picture
 constexpr int MostBlocks = 48;
 constexpr std::size_t FewestBlocks = 6;
-constexpr int LeastTexture = 3;        ///< mean difference of neighbours, each way
+constexpr int LeastTexture = 1; ///< mean difference of neighbours, each way: films are smooth
+constexpr int MostUnknown = 12; ///< pictures after which a new one is begun with
 constexpr double MostDifference = 0.5; ///< of a block found again, of its contrast
 constexpr double MostError = 1.0;      ///< median, pixels of the matched picture
 
@@ -193,7 +194,8 @@ std::optional<PictureMotion> CameraMotion::follow(const TrackPicture& picture,
             motion->dy *= m_factor;
         }
     }
-    if (motion) {
+    m_unknown = motion ? 0 : m_unknown + 1;
+    if (motion || m_unknown > MostUnknown) {
         m_before = std::move(now);
         m_coarseBefore = std::move(coarse);
         m_hasBefore = true;

@@ -13,7 +13,8 @@ namespace kavela {
 class CameraMotion {
 public:
     /// How the picture moved since the last one whose motion was known, leaving out what is in the
-    /// box; nothing where it cannot be told. The first picture has not moved.
+    /// box; nothing where it cannot be told. The first picture has not moved. After 13 pictures
+    /// that told nothing it begins anew with the last of them: what lies before is lost.
     [[nodiscard]] std::optional<PictureMotion> follow(const TrackPicture& picture,
                                                       const std::optional<TrackBox>& without);
 
@@ -37,6 +38,7 @@ private:
     SmallPlane m_before;
     SmallPlane m_coarseBefore;
     int m_factor = 1;
+    int m_unknown = 0; ///< pictures since the last one that told its motion
     bool m_hasBefore = false;
 };
 

@@ -99,7 +99,7 @@ TEST_F(UpdateServerTest, BelievesASignedListAndTellsTheServerItsVersionAlone) {
     ASSERT_TRUE(result.manifest) << result.reason;
     EXPECT_EQ(result.manifest->files.at(0), file());
     ASSERT_EQ(server.asked.size(), 2U);
-    const std::set<QByteArray> usual{"host", "connection", "accept-encoding"};
+    const std::set<QByteArray> usual{"host", "connection", "accept-encoding", "content-length"};
     for (const auto& [name, value] : server.asked[0].headers) {
         if (name == "user-agent")
             EXPECT_EQ(value, "Kavela/0.31.0");
