@@ -99,7 +99,8 @@ void RealServer::makeCertificate(const std::string& end) const {
     (void)m_folder.add("ca.conf", "[ca]\ndefault_ca=own\n[own]\ndatabase=index.txt\nserial=serial\n"
                                   "new_certs_dir=.\ndefault_md=sha256\npolicy=any\n"
                                   "x509_extensions=names\n[any]\ncommonName=supplied\n"
-                                  "[names]\nsubjectAltName=IP:127.0.0.1\n");
+                                  "[names]\nsubjectAltName=IP:127.0.0.1\n"
+                                  "basicConstraints=critical,CA:TRUE\n");
     (void)m_folder.add("index.txt", "");
     (void)m_folder.add("serial", "1000");
     ask("openssl",
