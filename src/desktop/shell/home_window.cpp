@@ -20,12 +20,15 @@
 #include <QScrollArea>
 #include <QVBoxLayout>
 
+#include <algorithm>
 #include <cstddef>
 
 namespace kavela::desktop {
 
 namespace {
 
+constexpr int ColumnsOfRecent = 2;
+constexpr int RowsOfRecent = 2;
 constexpr int LeastRecentHeight = 96; ///< some lines, also where the page scrolls
 
 QLabel* label(const QString& text, const QFont& font) {
@@ -49,7 +52,7 @@ HomeWindow::HomeWindow(Workspace& workspace, const Tools& tools) : m_workspace(w
     column->addWidget(header());
     column->addWidget(keptWork());
     column->addWidget(tiles(tools));
-    column->addWidget(recentFiles(), 1);
+    column->addStretch(1);
     auto* area = new QScrollArea;
     area->setWidgetResizable(true);
     area->setFrameShape(QFrame::NoFrame);
@@ -97,13 +100,15 @@ QWidget* HomeWindow::header() {
     return box;
 }
 
-/// A column for each group.
+/// A column for each group, and the recent files below the last two of them, which have room.
 QWidget* HomeWindow::tiles(const Tools& tools) {
     auto* box = new QWidget;
     auto* grid = new QGridLayout(box);
     grid->setContentsMargins(0, 0, 0, 0);
     grid->setHorizontalSpacing(theme::LargeSpacing);
     grid->setVerticalSpacing(theme::Spacing);
+    const int columns = static_cast<int>(tools.size());
+    int free = 0; ///< the first row that neither of the last two columns has
     int column = 0;
     for (const ToolGroup& group : tools) {
         auto* const heading = label(group.title, theme::titleFont(*this));
@@ -112,8 +117,11 @@ QWidget* HomeWindow::tiles(const Tools& tools) {
         int row = 1;
         for (const Tool& tool : group.tools)
             grid->addWidget(new Tile(tool), row++, column);
-        ++column;
+        if (++column > columns - ColumnsOfRecent)
+            free = std::max(free, row);
     }
+    grid->addWidget(recentFiles(), free, std::max(0, columns - ColumnsOfRecent),
+                    std::max(RowsOfRecent, grid->rowCount() - free), ColumnsOfRecent);
     grid->setColumnStretch(column, 1);
     return box;
 }
