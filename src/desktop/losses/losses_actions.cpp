@@ -51,7 +51,7 @@ void LossesActions::makeFileMenu() {
                         window, [window] { window->askForAthletePage(); });
     m_refreshers.push_back([page, window] { page->setEnabled(window->state().hasRun()); });
     QAction* const phonePage =
-        menu->addAction(tr("Pa&ge for an athlete…"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_G),
+        menu->addAction(tr("Pa&ge for an athlete…"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_A),
                         window, [window] { window->askForPhonePage(); });
     m_refreshers.push_back(
         [phonePage, window] { phonePage->setEnabled(window->state().hasRun()); });

@@ -66,7 +66,7 @@ void RaceActions::makeFileMenu() {
     menu->addSeparator();
     add(*menu, tr("&Report: preview, PDF, print…"), QKeySequence::Print,
         [](RaceView& view) { view.previewReports(); });
-    add(*menu, tr("Pa&ge for an athlete…"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_G),
+    add(*menu, tr("Pa&ge for an athlete…"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_A),
         [this](RaceView& view) { askForPhonePage(view); });
     add(*menu, tr("Save the table as &CSV…"), QKeySequence(Qt::CTRL | Qt::Key_E),
         [](RaceView& view) { view.saveCsv(); });

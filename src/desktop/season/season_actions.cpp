@@ -57,7 +57,7 @@ void SeasonActions::makeFileMenu() {
                                   QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_R), window,
                                   [window] { window->saveReport(std::nullopt); });
     m_ofSeason << menu->addAction(tr("Pa&ge for an athlete…"),
-                                  QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_G), window,
+                                  QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_A), window,
                                   [window] { window->askForPhonePage(); });
     menu->addSeparator();
     m_ofSeason << menu->addAction(tr("Save the tab&le as CSV…"),
