@@ -13,11 +13,11 @@
     </message>
     <message>
         <source>Category</source>
-        <translation type="unfinished"></translation>
+        <translation>Kategorie</translation>
     </message>
     <message>
         <source>Phase</source>
-        <translation type="unfinished"></translation>
+        <translation>Phase</translation>
     </message>
     <message>
         <source>Result</source>
@@ -25,7 +25,7 @@
     </message>
     <message>
         <source>Athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>Athlet</translation>
     </message>
     <message>
         <source>not in the selection</source>
@@ -81,19 +81,19 @@
     <name>Desktop</name>
     <message>
         <source>A race</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Rennen</translation>
     </message>
     <message>
         <source>Films</source>
-        <translation type="unfinished"></translation>
+        <translation>Filme</translation>
     </message>
     <message>
         <source>The season</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Saison</translation>
     </message>
     <message>
         <source>Training</source>
-        <translation type="unfinished"></translation>
+        <translation>Training</translation>
     </message>
 </context>
 <context>
@@ -156,7 +156,7 @@
     </message>
     <message>
         <source>Sprint</source>
-        <translation type="unfinished"></translation>
+        <translation>Sprint</translation>
     </message>
     <message>
         <source>Eight test</source>
@@ -479,48 +479,49 @@
     <name>RaceExchange</name>
     <message>
         <source>course</source>
-        <translation type="unfinished"></translation>
+        <translation>Strecke</translation>
     </message>
     <message>
         <source>Names of the films</source>
-        <translation type="unfinished"></translation>
+        <translation>Namen der Filme</translation>
     </message>
     <message>
         <source>How the films are named, such as &quot;{any} {name} {category} {phase}&quot;.
 {name}, {category}, {phase}, {bib}, {number} and {any} stand for what differs.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie die Filme heißen, etwa „{any} {name} {category} {phase}“.
+{name}, {category}, {phase}, {bib}, {number} und {any} stehen für das, was wechselt.</translation>
     </message>
     <message>
         <source>Import split file</source>
-        <translation type="unfinished"></translation>
+        <translation>Zwischenzeitdatei importieren</translation>
     </message>
     <message>
         <source>Split files (*.kvx);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Zwischenzeitdateien (*.kvx);;Alle Dateien (*)</translation>
     </message>
     <message>
         <source>Import official results</source>
-        <translation type="unfinished"></translation>
+        <translation>Offizielle Ergebnisse importieren</translation>
     </message>
     <message>
         <source>Lists (*.csv *.txt);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Listen (*.csv *.txt);;Alle Dateien (*)</translation>
     </message>
     <message>
         <source>There are no results in %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>In %1 sind keine Ergebnisse.</translation>
     </message>
     <message>
         <source>Create</source>
-        <translation type="unfinished"></translation>
+        <translation>Anlegen</translation>
     </message>
     <message>
         <source>Overwrite</source>
-        <translation type="unfinished"></translation>
+        <translation>Überschreiben</translation>
     </message>
     <message>
         <source>drawing of the course</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeichnung der Strecke</translation>
     </message>
 </context>
 <context>
@@ -575,7 +576,7 @@
     </message>
     <message>
         <source>Run</source>
-        <translation type="unfinished"></translation>
+        <translation>Lauf</translation>
     </message>
     <message>
         <source>Races with a time and a best time stand here.</source>
@@ -593,7 +594,7 @@
     <name>RunForm</name>
     <message>
         <source>A penalty is a whole number of seconds, 0 to 999</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Strafe ist eine ganze Zahl von Sekunden, 0 bis 999</translation>
     </message>
 </context>
 <context>
@@ -627,7 +628,7 @@
     <name>SelectionTakeOver</name>
     <message>
         <source>Lists (*.csv *.txt);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Listen (*.csv *.txt);;Alle Dateien (*)</translation>
     </message>
     <message>
         <source>Import athletes</source>
@@ -639,7 +640,7 @@
     </message>
     <message>
         <source>Import</source>
-        <translation type="unfinished"></translation>
+        <translation>Importieren</translation>
     </message>
     <message>
         <source>“%1” cannot be read</source>
@@ -663,7 +664,7 @@
     </message>
     <message>
         <source>Line %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeile %1: %2</translation>
     </message>
     <message>
         <source>Results of which race?</source>
@@ -679,7 +680,7 @@
     </message>
     <message>
         <source>Split files (*.kvx);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Zwischenzeitdateien (*.kvx);;Alle Dateien (*)</translation>
     </message>
     <message>
         <source>There are no results in it.</source>
@@ -759,7 +760,7 @@
     </message>
     <message>
         <source>Semicolon-separated text (*.csv)</source>
-        <translation type="unfinished"></translation>
+        <translation>Text mit Semikolons (*.csv)</translation>
     </message>
 </context>
 <context>
@@ -930,19 +931,19 @@
     <name>SplitStatistics</name>
     <message>
         <source>is no split file that can be read</source>
-        <translation type="unfinished"></translation>
+        <translation>ist keine lesbare Zwischenzeitdatei</translation>
     </message>
     <message>
         <source>has no date</source>
-        <translation type="unfinished"></translation>
+        <translation>hat kein Datum</translation>
     </message>
     <message>
         <source>is of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>ist von %1</translation>
     </message>
     <message>
         <source>has no run of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>hat keinen Lauf von %1</translation>
     </message>
 </context>
 <context>
@@ -1016,27 +1017,27 @@
     </message>
     <message>
         <source>Mark anew</source>
-        <translation type="unfinished"></translation>
+        <translation>Neu markieren</translation>
     </message>
     <message>
         <source>start mark</source>
-        <translation type="unfinished"></translation>
+        <translation>Startmarke</translation>
     </message>
     <message>
         <source>split %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Zwischenzeit %1</translation>
     </message>
     <message>
         <source>Start</source>
-        <translation type="unfinished"></translation>
+        <translation>Start</translation>
     </message>
     <message>
         <source>%1:  %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1:  %2</translation>
     </message>
     <message>
         <source>Split %1 was put in between two marks. Ctrl+Z takes it out again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zwischenzeit %1 wurde zwischen zwei Marken eingefügt. Strg+Z nimmt sie wieder heraus.</translation>
     </message>
     <message>
         <source>Gate %1 is marked. N goes to the next gate, Shift+M moves the selected mark.</source>
@@ -1060,15 +1061,15 @@
     </message>
     <message>
         <source>No mark is selected. Ctrl and the arrows go from mark to mark.</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Marke ist gewählt. Strg und die Pfeile gehen von Marke zu Marke.</translation>
     </message>
     <message>
         <source>mark moved</source>
-        <translation type="unfinished"></translation>
+        <translation>Marke verschoben</translation>
     </message>
     <message>
         <source>mark removed</source>
-        <translation type="unfinished"></translation>
+        <translation>Marke entfernt</translation>
     </message>
     <message>
         <source>Without a start mark the time counts from the beginning of the film.</source>
@@ -1129,7 +1130,7 @@
     </message>
     <message>
         <source>A penalty is a whole number of seconds, 0 to 999</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Strafe ist eine ganze Zahl von Sekunden, 0 bis 999</translation>
     </message>
     <message>
         <source>A position is a whole number, 1 to 9999</source>
@@ -1172,7 +1173,7 @@
     </message>
     <message>
         <source>Place</source>
-        <translation type="unfinished"></translation>
+        <translation>Platz</translation>
     </message>
     <message>
         <source>On-water test</source>
@@ -3319,7 +3320,7 @@
     </message>
     <message>
         <source>Upstream gates</source>
-        <translation type="unfinished"></translation>
+        <translation>Aufwärtstore</translation>
     </message>
     <message>
         <source>Direction</source>
@@ -3347,7 +3348,7 @@
     </message>
     <message>
         <source>%1 in %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 in %2</translation>
     </message>
     <message>
         <source>Losses and penalties · %1on the reference &quot;%2&quot; · %3</source>
@@ -3534,7 +3535,7 @@
     </message>
     <message>
         <source>Category</source>
-        <translation type="unfinished"></translation>
+        <translation>Kategorie</translation>
     </message>
     <message>
         <source>plan</source>
@@ -3662,11 +3663,11 @@
     </message>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Name</translation>
     </message>
     <message>
         <source>Time</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeit</translation>
     </message>
     <message>
         <source>Pen</source>
@@ -3674,7 +3675,7 @@
     </message>
     <message>
         <source>Total</source>
-        <translation type="unfinished"></translation>
+        <translation>Gesamt</translation>
     </message>
     <message>
         <source>Gap</source>
@@ -3702,7 +3703,7 @@
     </message>
     <message>
         <source>Ideal run</source>
-        <translation type="unfinished"></translation>
+        <translation>Ideallauf</translation>
     </message>
     <message>
         <source>Fastest run</source>
@@ -3710,7 +3711,7 @@
     </message>
     <message>
         <source>Split times</source>
-        <translation type="unfinished"></translation>
+        <translation>Zwischenzeiten</translation>
     </message>
     <message>
         <source>There are no runs to show.</source>
@@ -3730,7 +3731,7 @@
     </message>
     <message>
         <source>Place</source>
-        <translation type="unfinished"></translation>
+        <translation>Platz</translation>
     </message>
     <message>
         <source>Date</source>
@@ -3746,11 +3747,11 @@
     </message>
     <message>
         <source>Phase</source>
-        <translation type="unfinished"></translation>
+        <translation>Phase</translation>
     </message>
     <message>
         <source>Cat</source>
-        <translation type="unfinished"></translation>
+        <translation>Kat</translation>
     </message>
     <message>
         <source> Grey: not timed as a whole, never a best.</source>
@@ -3762,7 +3763,7 @@
     </message>
     <message>
         <source>Run</source>
-        <translation type="unfinished"></translation>
+        <translation>Lauf</translation>
     </message>
     <message>
         <source>%1 s of %2 s; strokes are counted of whole sections.</source>
@@ -3802,7 +3803,7 @@
     </message>
     <message>
         <source>Time losses</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeitverluste</translation>
     </message>
     <message>
         <source>Against</source>
@@ -3814,7 +3815,7 @@
     </message>
     <message>
         <source>Tags</source>
-        <translation type="unfinished"></translation>
+        <translation>Markierungen</translation>
     </message>
     <message>
         <source>Tag</source>
@@ -3838,7 +3839,7 @@
     </message>
     <message>
         <source>Strokes</source>
-        <translation type="unfinished"></translation>
+        <translation>Schläge</translation>
     </message>
     <message>
         <source>per min</source>
@@ -3870,7 +3871,7 @@
     </message>
     <message>
         <source>Splits</source>
-        <translation type="unfinished"></translation>
+        <translation>Zwischenzeiten</translation>
     </message>
     <message>
         <source>and %1 more</source>
@@ -3914,7 +3915,7 @@
     </message>
     <message>
         <source>Races</source>
-        <translation type="unfinished"></translation>
+        <translation>Rennen</translation>
     </message>
     <message>
         <source>Reached</source>
@@ -3926,11 +3927,11 @@
     </message>
     <message>
         <source>Finals</source>
-        <translation type="unfinished"></translation>
+        <translation>Finals</translation>
     </message>
     <message>
         <source>Semifinals</source>
-        <translation type="unfinished"></translation>
+        <translation>Halbfinals</translation>
     </message>
     <message>
         <source>Medals and finals</source>
@@ -3986,7 +3987,7 @@
     </message>
     <message>
         <source>Athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>Athlet</translation>
     </message>
     <message>
         <source>Chance, %</source>
@@ -4106,7 +4107,7 @@
     </message>
     <message>
         <source>the ideal run</source>
-        <translation type="unfinished"></translation>
+        <translation>der Ideallauf</translation>
     </message>
     <message>
         <source>the best of each column</source>
@@ -5064,11 +5065,11 @@
     </message>
     <message>
         <source>Category</source>
-        <translation type="unfinished"></translation>
+        <translation>Kategorie</translation>
     </message>
     <message>
         <source>Place</source>
-        <translation type="unfinished"></translation>
+        <translation>Platz</translation>
     </message>
     <message>
         <source>the start</source>
@@ -5164,11 +5165,11 @@
     </message>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Name</translation>
     </message>
     <message>
         <source>Phase</source>
-        <translation type="unfinished"></translation>
+        <translation>Phase</translation>
     </message>
     <message>
         <source>File</source>
@@ -5192,7 +5193,7 @@
     </message>
     <message>
         <source>%1, %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, %2</translation>
     </message>
     <message>
         <source>%1 fetched</source>
@@ -5320,7 +5321,7 @@
     </message>
     <message>
         <source>Lost</source>
-        <translation type="unfinished"></translation>
+        <translation>Verloren</translation>
     </message>
     <message>
         <source>Together, %</source>
@@ -5408,7 +5409,7 @@
     </message>
     <message>
         <source>%1:  %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1:  %2</translation>
     </message>
     <message>
         <source>upstream</source>
@@ -5432,7 +5433,7 @@
     </message>
     <message>
         <source>Run %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Lauf %1</translation>
     </message>
     <message>
         <source>winner</source>
@@ -5780,7 +5781,7 @@
     </message>
     <message>
         <source>Time</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeit</translation>
     </message>
     <message>
         <source>Penalty</source>
@@ -5804,7 +5805,7 @@
     </message>
     <message>
         <source>Athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>Athlet</translation>
     </message>
     <message>
         <source>From the first run of the heats to the second</source>
@@ -5824,11 +5825,11 @@
     </message>
     <message>
         <source>Finals</source>
-        <translation type="unfinished"></translation>
+        <translation>Finals</translation>
     </message>
     <message>
         <source>Semifinals</source>
-        <translation type="unfinished"></translation>
+        <translation>Halbfinals</translation>
     </message>
     <message>
         <source>too few for a range</source>
@@ -5852,7 +5853,7 @@
     </message>
     <message>
         <source>Races</source>
-        <translation type="unfinished"></translation>
+        <translation>Rennen</translation>
     </message>
     <message>
         <source>Typical error, %</source>
@@ -5956,7 +5957,7 @@
     </message>
     <message>
         <source>Boat</source>
-        <translation type="unfinished"></translation>
+        <translation>Boot</translation>
     </message>
     <message>
         <source>Medal, %</source>
@@ -6192,7 +6193,7 @@
     </message>
     <message>
         <source>Line</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeile</translation>
     </message>
     <message>
         <source>Column</source>
@@ -6384,7 +6385,7 @@
     </message>
     <message>
         <source>&amp;Find an athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Athleten suchen</translation>
     </message>
     <message>
         <source>Take &amp;results over…</source>
@@ -6428,11 +6429,11 @@
     </message>
     <message>
         <source>Split files</source>
-        <translation type="unfinished"></translation>
+        <translation>Zwischenzeitdateien</translation>
     </message>
     <message>
         <source>Time losses</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeitverluste</translation>
     </message>
     <message>
         <source>Where each run lost its time, section by section, and a season&apos;s pattern.</source>
@@ -6452,11 +6453,11 @@
     </message>
     <message>
         <source>Open a folder of videos</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordner mit Videos öffnen</translation>
     </message>
     <message>
         <source>Films</source>
-        <translation type="unfinished"></translation>
+        <translation>Filme</translation>
     </message>
     <message>
         <source>A folder of films played, compared in step, tagged, renamed and cut.</source>
@@ -6672,7 +6673,7 @@
     </message>
     <message>
         <source>&amp;Table</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Tabelle</translation>
     </message>
     <message>
         <source>Charts by &amp;lap or stretch</source>
@@ -6767,7 +6768,7 @@
     <name>kavela::desktop::AthleteDialog</name>
     <message>
         <source>Athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>Athlet</translation>
     </message>
     <message>
         <source>SURNAME Name</source>
@@ -6891,11 +6892,11 @@
     </message>
     <message>
         <source>All categories</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Kategorien</translation>
     </message>
     <message>
         <source>Athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>Athlet</translation>
     </message>
     <message>
         <source>name</source>
@@ -6970,7 +6971,7 @@
     </message>
     <message>
         <source>Place</source>
-        <translation type="unfinished"></translation>
+        <translation>Platz</translation>
     </message>
     <message>
         <source>side of an attack</source>
@@ -7049,7 +7050,7 @@
     </message>
     <message>
         <source>Phase</source>
-        <translation type="unfinished"></translation>
+        <translation>Phase</translation>
     </message>
     <message>
         <source>Behind</source>
@@ -7100,7 +7101,7 @@
     </message>
     <message>
         <source>Strokes</source>
-        <translation type="unfinished"></translation>
+        <translation>Schläge</translation>
     </message>
     <message>
         <source>Force (N)</source>
@@ -7249,7 +7250,7 @@ Press Insert to add one, or import a list.</source>
     <name>kavela::desktop::CameraPage</name>
     <message>
         <source>Time</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeit</translation>
     </message>
     <message>
         <source>Tag</source>
@@ -7348,7 +7349,7 @@ Press Insert to add one, or import a list.</source>
     <name>kavela::desktop::Chart</name>
     <message>
         <source>1 run</source>
-        <translation type="unfinished"></translation>
+        <translation>1 Lauf</translation>
     </message>
     <message>
         <source> · %1 of %2 selected runs</source>
@@ -7364,9 +7365,9 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message numerus="yes">
         <source>%n runs</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Lauf</numerusform>
+            <numerusform>%n Läufe</numerusform>
         </translation>
     </message>
 </context>
@@ -7414,7 +7415,7 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>Ideal run</source>
-        <translation type="unfinished"></translation>
+        <translation>Ideallauf</translation>
     </message>
 </context>
 <context>
@@ -7453,7 +7454,7 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>%1, %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, %2</translation>
     </message>
     <message>
         <source>all seasons</source>
@@ -7496,7 +7497,7 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>Strokes</source>
-        <translation type="unfinished"></translation>
+        <translation>Schläge</translation>
     </message>
     <message>
         <source>Stretches</source>
@@ -7611,15 +7612,15 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>C&amp;olumns</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Spalten</translation>
     </message>
     <message>
         <source>Save the table</source>
-        <translation type="unfinished"></translation>
+        <translation>Tabelle speichern</translation>
     </message>
     <message>
         <source>Semicolon-separated text (*.csv)</source>
-        <translation type="unfinished"></translation>
+        <translation>Text mit Semikolons (*.csv)</translation>
     </message>
 </context>
 <context>
@@ -7730,19 +7731,19 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Name</translation>
     </message>
     <message>
         <source>Category</source>
-        <translation type="unfinished"></translation>
+        <translation>Kategorie</translation>
     </message>
     <message>
         <source>Phase</source>
-        <translation type="unfinished"></translation>
+        <translation>Phase</translation>
     </message>
     <message>
         <source>Time</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeit</translation>
     </message>
     <message>
         <source>Name in the film</source>
@@ -8075,7 +8076,7 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>Split files (*.kvx);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Zwischenzeitdateien (*.kvx);;Alle Dateien (*)</translation>
     </message>
     <message>
         <source>Add films</source>
@@ -8095,7 +8096,7 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>Start</source>
-        <translation type="unfinished"></translation>
+        <translation>Start</translation>
     </message>
     <message>
         <source>Four films are the most: these are the first four</source>
@@ -8166,11 +8167,11 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>Athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>Athlet</translation>
     </message>
     <message>
         <source>Races</source>
-        <translation type="unfinished"></translation>
+        <translation>Rennen</translation>
     </message>
     <message>
         <source>Behind, %</source>
@@ -8214,7 +8215,7 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>Finals</source>
-        <translation type="unfinished"></translation>
+        <translation>Finals</translation>
     </message>
     <message>
         <source>The athletes year by year: %1</source>
@@ -8237,15 +8238,15 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>Crew</source>
-        <translation type="unfinished"></translation>
+        <translation>Besatzung</translation>
     </message>
     <message>
         <source>Category</source>
-        <translation type="unfinished"></translation>
+        <translation>Kategorie</translation>
     </message>
     <message>
         <source>Phase</source>
-        <translation type="unfinished"></translation>
+        <translation>Phase</translation>
     </message>
     <message>
         <source>Race</source>
@@ -8328,7 +8329,7 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>course</source>
-        <translation type="unfinished"></translation>
+        <translation>Strecke</translation>
     </message>
     <message>
         <source>All %1 gates of the race are drawn. Race and course says how many there are.</source>
@@ -8363,7 +8364,7 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>Place</source>
-        <translation type="unfinished"></translation>
+        <translation>Platz</translation>
     </message>
     <message>
         <source>Date</source>
@@ -8375,7 +8376,7 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>Category</source>
-        <translation type="unfinished"></translation>
+        <translation>Kategorie</translation>
     </message>
     <message>
         <source>Water</source>
@@ -8399,7 +8400,7 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>&amp;Gates</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Tore</translation>
     </message>
     <message>
         <source>&amp;Upstream gates</source>
@@ -8622,11 +8623,11 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Phase</source>
-        <translation type="unfinished"></translation>
+        <translation>Phase</translation>
     </message>
     <message>
         <source>Category</source>
-        <translation type="unfinished"></translation>
+        <translation>Kategorie</translation>
     </message>
     <message>
         <source>Which gates does the cross course have?</source>
@@ -8650,7 +8651,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>course</source>
-        <translation type="unfinished"></translation>
+        <translation>Strecke</translation>
     </message>
     <message numerus="yes">
         <source>%n gates</source>
@@ -8668,7 +8669,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>&amp;Save data</source>
-        <translation type="unfinished"></translation>
+        <translation>Daten &amp;speichern</translation>
     </message>
     <message>
         <source>Open a &amp;folder of films…</source>
@@ -8688,7 +8689,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>&amp;Where are the films now?…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Wo sind die Filme jetzt?…</translation>
     </message>
     <message>
         <source>Split &amp;taking of this race</source>
@@ -8696,7 +8697,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Show in the race &amp;analyzer</source>
-        <translation type="unfinished"></translation>
+        <translation>In der Renn&amp;analyse zeigen</translation>
     </message>
     <message>
         <source>Open a split file</source>
@@ -8704,7 +8705,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Split files (*.kvx);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Zwischenzeitdateien (*.kvx);;Alle Dateien (*)</translation>
     </message>
     <message>
         <source>&amp;Course of the cross race</source>
@@ -8724,7 +8725,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>&amp;Mark</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Markieren</translation>
     </message>
     <message>
         <source>&amp;Mark the frame shown</source>
@@ -8831,7 +8832,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>No mark is selected. Ctrl and the arrows go from mark to mark.</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Marke ist gewählt. Strg und die Pfeile gehen von Marke zu Marke.</translation>
     </message>
 </context>
 <context>
@@ -8912,7 +8913,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Line %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeile %1: %2</translation>
     </message>
     <message>
         <source>What each column holds was guessed from its title. Choose over a column what it is; a column without a choice is left out.</source>
@@ -8944,7 +8945,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Import</source>
-        <translation type="unfinished"></translation>
+        <translation>Importieren</translation>
     </message>
     <message>
         <source>Reading…</source>
@@ -8983,7 +8984,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>&amp;Times</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Zeiten</translation>
     </message>
     <message>
         <source>Dates</source>
@@ -9098,7 +9099,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>%1, %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, %2</translation>
     </message>
     <message>
         <source>%1 %2°, %3 s</source>
@@ -9106,7 +9107,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Time</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeit</translation>
     </message>
     <message>
         <source>Stroke, rate</source>
@@ -9333,7 +9334,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Start</source>
-        <translation type="unfinished"></translation>
+        <translation>Start</translation>
     </message>
     <message>
         <source>Bib</source>
@@ -9341,7 +9342,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Name</translation>
     </message>
     <message>
         <source>A boat on the list has a name.</source>
@@ -9349,11 +9350,11 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Cat</source>
-        <translation type="unfinished"></translation>
+        <translation>Kat</translation>
     </message>
     <message>
         <source>Phase</source>
-        <translation type="unfinished"></translation>
+        <translation>Phase</translation>
     </message>
     <message>
         <source>State</source>
@@ -9428,7 +9429,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Total</source>
-        <translation type="unfinished"></translation>
+        <translation>Gesamt</translation>
     </message>
     <message>
         <source>Rank</source>
@@ -9487,67 +9488,67 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     <name>kavela::desktop::Desktop</name>
     <message>
         <source>The folder with the races of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Ordner mit den Rennen von %1</translation>
     </message>
     <message>
         <source>As it is in split taking now. The file does not hold all of it yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie es jetzt in der Zwischenzeitnahme steht. Die Datei enthält noch nicht alles davon.</translation>
     </message>
     <message>
         <source>Tools</source>
-        <translation type="unfinished"></translation>
+        <translation>Werkzeuge</translation>
     </message>
     <message>
         <source>Nothing to open in “%1”</source>
-        <translation type="unfinished"></translation>
+        <translation>In „%1“ ist nichts zu öffnen</translation>
     </message>
     <message>
         <source>There is no split file (.kvx) and no film in this folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>In diesem Ordner ist keine Zwischenzeitdatei (.kvx) und kein Film.</translation>
     </message>
     <message>
         <source>“%1” is not where it was</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ ist nicht mehr, wo es war</translation>
     </message>
     <message>
         <source>It was in %1. Open it from where it is now, then ask again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es war in %1. Von seinem jetzigen Ort aus öffnen, dann erneut fragen.</translation>
     </message>
     <message>
         <source>%1 (on the server)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (auf dem Server)</translation>
     </message>
     <message>
         <source>What the server has is no planning.</source>
-        <translation type="unfinished"></translation>
+        <translation>Was der Server hat, ist keine Planung.</translation>
     </message>
     <message>
         <source>Run %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Lauf %1</translation>
     </message>
     <message>
         <source>The run of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Lauf von %1</translation>
     </message>
     <message>
         <source>%1 is not in split taking any more: it was removed there, or has another crew and film.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ist nicht mehr in der Zwischenzeitnahme: dort entfernt, oder mit anderer Besatzung und anderem Film.</translation>
     </message>
     <message>
         <source>%1 (*.%2);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (*.%2);;Alle Dateien (*)</translation>
     </message>
     <message>
         <source>Of single split files, or of all in a folder and below it?</source>
-        <translation type="unfinished"></translation>
+        <translation>Von einzelnen Zwischenzeitdateien oder von allen in einem Ordner und darunter?</translation>
     </message>
     <message>
         <source>Split files…</source>
-        <translation type="unfinished"></translation>
+        <translation>Zwischenzeitdateien…</translation>
     </message>
     <message>
         <source>A folder…</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Ordner…</translation>
     </message>
 </context>
 <context>
@@ -9625,7 +9626,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>%1 (*.%2);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (*.%2);;Alle Dateien (*)</translation>
     </message>
 </context>
 <context>
@@ -9644,7 +9645,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>%1 %</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 %</translation>
     </message>
 </context>
 <context>
@@ -9761,7 +9762,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Save as…</source>
-        <translation type="unfinished"></translation>
+        <translation>Speichern unter…</translation>
     </message>
     <message>
         <source>“%1” is open in another window. Close it there first, or take another name.</source>
@@ -9811,7 +9812,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Splits</source>
-        <translation type="unfinished"></translation>
+        <translation>Zwischenzeiten</translation>
     </message>
     <message>
         <source>Score</source>
@@ -9841,7 +9842,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>split %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Zwischenzeit %1</translation>
     </message>
     <message>
         <source>no video</source>
@@ -9996,7 +9997,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Split files (*.kvx)</source>
-        <translation type="unfinished"></translation>
+        <translation>Zwischenzeitdateien (*.kvx)</translation>
     </message>
 </context>
 <context>
@@ -10320,7 +10321,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Tags</source>
-        <translation type="unfinished"></translation>
+        <translation>Markierungen</translation>
     </message>
     <message>
         <source>%1 films</source>
@@ -10628,14 +10629,14 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Films</source>
-        <translation type="unfinished"></translation>
+        <translation>Filme</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::FilmsWindow</name>
     <message>
         <source>Films</source>
-        <translation type="unfinished"></translation>
+        <translation>Filme</translation>
     </message>
     <message>
         <source>&amp;Tag that M sets:</source>
@@ -10773,7 +10774,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>%1, %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, %2</translation>
     </message>
     <message>
         <source>1 file</source>
@@ -10781,7 +10782,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>1 run</source>
-        <translation type="unfinished"></translation>
+        <translation>1 Lauf</translation>
     </message>
     <message>
         <source>. Reading was stopped: the others are not searched.</source>
@@ -10813,7 +10814,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Semicolon-separated text (*.csv)</source>
-        <translation type="unfinished"></translation>
+        <translation>Text mit Semikolons (*.csv)</translation>
     </message>
     <message numerus="yes">
         <source>%n files</source>
@@ -10824,9 +10825,9 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message numerus="yes">
         <source>%n runs</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Lauf</numerusform>
+            <numerusform>%n Läufe</numerusform>
         </translation>
     </message>
 </context>
@@ -10988,7 +10989,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>in %1</source>
-        <translation type="unfinished"></translation>
+        <translation>in %1</translation>
     </message>
     <message>
         <source>After %1</source>
@@ -11102,7 +11103,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Total</source>
-        <translation type="unfinished"></translation>
+        <translation>Gesamt</translation>
     </message>
     <message>
         <source>Turn</source>
@@ -11396,7 +11397,7 @@ Press Insert to add one.</source>
     </message>
     <message>
         <source>Start</source>
-        <translation type="unfinished"></translation>
+        <translation>Start</translation>
     </message>
     <message>
         <source>End</source>
@@ -11412,7 +11413,7 @@ Press Insert to add one.</source>
     </message>
     <message>
         <source>Outcome</source>
-        <translation type="unfinished"></translation>
+        <translation>Ausgang</translation>
     </message>
     <message>
         <source>Side</source>
@@ -11420,7 +11421,7 @@ Press Insert to add one.</source>
     </message>
     <message>
         <source>Place</source>
-        <translation type="unfinished"></translation>
+        <translation>Platz</translation>
     </message>
     <message>
         <source>Comment</source>
@@ -11428,7 +11429,7 @@ Press Insert to add one.</source>
     </message>
     <message>
         <source>Attacks</source>
-        <translation type="unfinished"></translation>
+        <translation>Angriffe</translation>
     </message>
     <message>
         <source>Attack at this frame</source>
@@ -11629,7 +11630,7 @@ Press Insert to add one.</source>
     </message>
     <message>
         <source>Run</source>
-        <translation type="unfinished"></translation>
+        <translation>Lauf</translation>
     </message>
 </context>
 <context>
@@ -11731,7 +11732,7 @@ Press Insert to add one.</source>
     </message>
     <message>
         <source>No mark is selected. Ctrl and the arrows go from mark to mark.</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Marke ist gewählt. Strg und die Pfeile gehen von Marke zu Marke.</translation>
     </message>
     <message>
         <source>order moved</source>
@@ -11778,59 +11779,59 @@ Press Insert to add one.</source>
     <name>kavela::desktop::HomeWindow</name>
     <message>
         <source>&amp;File</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Datei</translation>
     </message>
     <message>
         <source>&amp;Open…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Öffnen…</translation>
     </message>
     <message>
         <source>Try the &amp;sample season</source>
-        <translation type="unfinished"></translation>
+        <translation>Bei&amp;spielsaison ausprobieren</translation>
     </message>
     <message>
         <source>Se&amp;ttings…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Einstellungen…</translation>
     </message>
     <message>
         <source>&amp;Quit</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Beenden</translation>
     </message>
     <message>
         <source>Where was the time won and lost, and why?</source>
-        <translation type="unfinished"></translation>
+        <translation>Wo wurde Zeit gewonnen und verloren, und warum?</translation>
     </message>
     <message>
         <source>Try the sample season</source>
-        <translation type="unfinished"></translation>
+        <translation>Beispielsaison ausprobieren</translation>
     </message>
     <message>
         <source>Open a file…</source>
-        <translation type="unfinished"></translation>
+        <translation>Datei öffnen…</translation>
     </message>
     <message>
         <source>Recent files</source>
-        <translation type="unfinished"></translation>
+        <translation>Zuletzt geöffnet</translation>
     </message>
     <message>
         <source>Nothing opened yet. Drop a split file (.kvx) or a folder here, open one with Ctrl+O, or try the sample season.</source>
-        <translation type="unfinished"></translation>
+        <translation>Noch nichts geöffnet. Eine Zwischenzeitdatei (.kvx) oder einen Ordner hierher ziehen, mit Strg+O öffnen oder die Beispielsaison ausprobieren.</translation>
     </message>
     <message>
         <source>Work kept</source>
-        <translation type="unfinished"></translation>
+        <translation>Bewahrte Arbeit</translation>
     </message>
     <message>
         <source>in %1</source>
-        <translation type="unfinished"></translation>
+        <translation>in %1</translation>
     </message>
     <message>
         <source>Open</source>
-        <translation type="unfinished"></translation>
+        <translation>Öffnen</translation>
     </message>
     <message>
         <source>Split files (*.kvx);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Zwischenzeitdateien (*.kvx);;Alle Dateien (*)</translation>
     </message>
 </context>
 <context>
@@ -12028,7 +12029,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Schließen</translation>
     </message>
     <message>
         <source>Escape</source>
@@ -12048,7 +12049,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Start</source>
-        <translation type="unfinished"></translation>
+        <translation>Start</translation>
     </message>
 </context>
 <context>
@@ -12063,7 +12064,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Total</source>
-        <translation type="unfinished"></translation>
+        <translation>Gesamt</translation>
     </message>
     <message>
         <source>Work</source>
@@ -12207,7 +12208,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Schließen</translation>
     </message>
     <message>
         <source>%1 is the key of “%2” already. “%3” can take it over; “%2” has it no longer then.</source>
@@ -12256,7 +12257,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Start</source>
-        <translation type="unfinished"></translation>
+        <translation>Start</translation>
     </message>
 </context>
 <context>
@@ -12410,7 +12411,7 @@ Penalties are left out.</source>
     <name>kavela::desktop::LossPage</name>
     <message>
         <source>Start</source>
-        <translation type="unfinished"></translation>
+        <translation>Start</translation>
     </message>
     <message>
         <source>End</source>
@@ -12604,15 +12605,15 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Save the table as &amp;CSV…</source>
-        <translation type="unfinished"></translation>
+        <translation>Tabelle als &amp;CSV speichern…</translation>
     </message>
     <message>
         <source>&amp;Save the chart…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Diagramm speichern…</translation>
     </message>
     <message>
         <source>&amp;Run</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Lauf</translation>
     </message>
     <message>
         <source>&amp;Find a run</source>
@@ -12704,7 +12705,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>&amp;Blue to orange instead of green to red</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Blau bis Orange statt Grün bis Rot</translation>
     </message>
     <message>
         <source>Fil&amp;ms</source>
@@ -12728,18 +12729,18 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Pa&amp;ge for an athlete…</source>
-        <translation type="unfinished"></translation>
+        <translation>Seite für einen &amp;Athleten…</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::LossesWindow</name>
     <message>
         <source>Split files</source>
-        <translation type="unfinished"></translation>
+        <translation>Zwischenzeitdateien</translation>
     </message>
     <message>
         <source>Run</source>
-        <translation type="unfinished"></translation>
+        <translation>Lauf</translation>
     </message>
     <message>
         <source>Season</source>
@@ -12795,7 +12796,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Time losses</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeitverluste</translation>
     </message>
     <message>
         <source>%1 and %2 more</source>
@@ -12807,7 +12808,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Split files (*.kvx);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Zwischenzeitdateien (*.kvx);;Alle Dateien (*)</translation>
     </message>
     <message>
         <source>Open a folder of races</source>
@@ -12846,105 +12847,105 @@ Penalties are left out.</source>
     <name>kavela::desktop::MarkList</name>
     <message>
         <source>Start</source>
-        <translation type="unfinished"></translation>
+        <translation>Start</translation>
     </message>
     <message>
         <source>Splits</source>
-        <translation type="unfinished"></translation>
+        <translation>Zwischenzeiten</translation>
     </message>
     <message>
         <source>Micro splits</source>
-        <translation type="unfinished"></translation>
+        <translation>Mikrozeiten</translation>
     </message>
     <message>
         <source>Upstream gates</source>
-        <translation type="unfinished"></translation>
+        <translation>Aufwärtstore</translation>
     </message>
     <message>
         <source>Strokes</source>
-        <translation type="unfinished"></translation>
+        <translation>Schläge</translation>
     </message>
     <message>
         <source>Time losses</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeitverluste</translation>
     </message>
     <message>
         <source>Tags</source>
-        <translation type="unfinished"></translation>
+        <translation>Markierungen</translation>
     </message>
     <message>
         <source> · camera %1</source>
-        <translation type="unfinished"></translation>
+        <translation> · Kamera %1</translation>
     </message>
     <message>
         <source> · fixed camera %1</source>
-        <translation type="unfinished"></translation>
+        <translation> · feste Kamera %1</translation>
     </message>
     <message>
         <source> · other run</source>
-        <translation type="unfinished"></translation>
+        <translation> · anderer Lauf</translation>
     </message>
     <message>
         <source>%1 at %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 bei %2</translation>
     </message>
     <message>
         <source>Time</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeit</translation>
     </message>
     <message>
         <source>Mark</source>
-        <translation type="unfinished"></translation>
+        <translation>Marke</translation>
     </message>
     <message>
         <source>Times are of this run, whatever film a mark lies on. A click shows the frame of a mark; Ctrl and Shift choose several for their clips</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeiten sind die dieses Laufs, auf welchem Film eine Marke auch liegt. Ein Klick zeigt das Bild einer Marke; Strg und Umschalt wählen mehrere für ihre Clips</translation>
     </message>
     <message>
         <source>Kinds</source>
-        <translation type="unfinished"></translation>
+        <translation>Arten</translation>
     </message>
     <message>
         <source>The kinds of marks that are listed</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Arten von Marken in der Liste</translation>
     </message>
     <message>
         <source>Marks of the run</source>
-        <translation type="unfinished"></translation>
+        <translation>Marken des Laufs</translation>
     </message>
     <message>
         <source>All kinds</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Arten</translation>
     </message>
     <message>
         <source>Clips</source>
-        <translation type="unfinished"></translation>
+        <translation>Clips</translation>
     </message>
     <message>
         <source>Plays the clips of the chosen marks one after another; of all that are listed when not several are chosen</source>
-        <translation type="unfinished"></translation>
+        <translation>Spielt die Clips der gewählten Marken nacheinander ab; alle der Liste, wenn nicht mehrere gewählt sind</translation>
     </message>
     <message numerus="yes">
         <source>%n second(s) before and after a mark</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Sekunde vor und nach einer Marke</numerusform>
+            <numerusform>%n Sekunden vor und nach einer Marke</numerusform>
         </translation>
     </message>
     <message>
         <source> · outside the film</source>
-        <translation type="unfinished"></translation>
+        <translation> · außerhalb des Films</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::MicroPage</name>
     <message>
         <source>Mark</source>
-        <translation type="unfinished"></translation>
+        <translation>Marke</translation>
     </message>
     <message>
         <source>Time</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeit</translation>
     </message>
     <message>
         <source>From the one before</source>
@@ -13151,7 +13152,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Strokes</source>
-        <translation type="unfinished"></translation>
+        <translation>Schläge</translation>
     </message>
     <message>
         <source>1/min</source>
@@ -13191,7 +13192,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Run</source>
-        <translation type="unfinished"></translation>
+        <translation>Lauf</translation>
     </message>
 </context>
 <context>
@@ -13280,19 +13281,19 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Another run came to the front: nothing was marked.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein anderer Lauf kam nach vorn: nichts wurde markiert.</translation>
     </message>
     <message>
         <source>Nothing can be marked: %1 is not in the folder of the split file. Cameras &gt; Where are the films now?</source>
-        <translation type="unfinished"></translation>
+        <translation>Nichts kann markiert werden: %1 ist nicht im Ordner der Zwischenzeitdatei. Kameras &gt; Wo sind die Filme jetzt?</translation>
     </message>
     <message>
         <source>mark moved</source>
-        <translation type="unfinished"></translation>
+        <translation>Marke verschoben</translation>
     </message>
     <message>
         <source>No mark is selected. Ctrl and the arrows go from mark to mark.</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Marke ist gewählt. Strg und die Pfeile gehen von Marke zu Marke.</translation>
     </message>
     <message>
         <source>This mark lies on another film than the one shown.</source>
@@ -13308,14 +13309,14 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>mark removed</source>
-        <translation type="unfinished"></translation>
+        <translation>Marke entfernt</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::NotePage</name>
     <message>
         <source>Splits</source>
-        <translation type="unfinished"></translation>
+        <translation>Zwischenzeiten</translation>
     </message>
     <message>
         <source>Penalties</source>
@@ -13327,7 +13328,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Strokes</source>
-        <translation type="unfinished"></translation>
+        <translation>Schläge</translation>
     </message>
     <message>
         <source>Micro</source>
@@ -13335,7 +13336,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Tags</source>
-        <translation type="unfinished"></translation>
+        <translation>Markierungen</translation>
     </message>
     <message>
         <source>Losses</source>
@@ -13436,7 +13437,7 @@ Penalties are left out.</source>
     <name>kavela::desktop::OfficialDialog</name>
     <message>
         <source>Crew</source>
-        <translation type="unfinished"></translation>
+        <translation>Besatzung</translation>
     </message>
     <message>
         <source>What differs</source>
@@ -13476,11 +13477,11 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>All categories</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Kategorien</translation>
     </message>
     <message>
         <source>All phases</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Phasen</translation>
     </message>
     <message>
         <source>Official results</source>
@@ -13590,7 +13591,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>What the server has is no planning.</source>
-        <translation type="unfinished"></translation>
+        <translation>Was der Server hat, ist keine Planung.</translation>
     </message>
     <message>
         <source>The online planning could not be opened.</source>
@@ -13796,7 +13797,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Split files (*.kvx);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Zwischenzeitdateien (*.kvx);;Alle Dateien (*)</translation>
     </message>
     <message>
         <source>Open a folder</source>
@@ -13820,7 +13821,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>1 run</source>
-        <translation type="unfinished"></translation>
+        <translation>1 Lauf</translation>
     </message>
     <message>
         <source>%1 and %2 more</source>
@@ -13835,9 +13836,9 @@ Penalties are left out.</source>
     </message>
     <message numerus="yes">
         <source>%n runs</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Lauf</numerusform>
+            <numerusform>%n Läufe</numerusform>
         </translation>
     </message>
 </context>
@@ -13928,7 +13929,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>penalty at gate %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Strafe an Tor %1</translation>
     </message>
     <message>
         <source>penalty removed</source>
@@ -13939,11 +13940,11 @@ Penalties are left out.</source>
     <name>kavela::desktop::PhaseModel</name>
     <message>
         <source>Phase</source>
-        <translation type="unfinished"></translation>
+        <translation>Phase</translation>
     </message>
     <message>
         <source>Time</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeit</translation>
     </message>
     <message>
         <source>time</source>
@@ -13959,7 +13960,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Total</source>
-        <translation type="unfinished"></translation>
+        <translation>Gesamt</translation>
     </message>
     <message>
         <source>Position</source>
@@ -13991,7 +13992,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Splits</source>
-        <translation type="unfinished"></translation>
+        <translation>Zwischenzeiten</translation>
     </message>
     <message>
         <source>removal of a run</source>
@@ -14274,7 +14275,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     <name>kavela::desktop::PlannedAthleteDialog</name>
     <message>
         <source>Athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>Athlet</translation>
     </message>
     <message>
         <source>&amp;Picture…</source>
@@ -14451,7 +14452,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>&amp;Find an athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Athleten suchen</translation>
     </message>
     <message>
         <source>&amp;Reports: preview, PDF, print…</source>
@@ -14527,11 +14528,11 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>new season</source>
-        <translation type="unfinished"></translation>
+        <translation>neue Saison</translation>
     </message>
     <message>
         <source>removal of a season</source>
-        <translation type="unfinished"></translation>
+        <translation>Entfernen einer Saison</translation>
     </message>
 </context>
 <context>
@@ -14664,7 +14665,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>Athlet</translation>
     </message>
     <message>
         <source>Potential</source>
@@ -14683,7 +14684,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     <name>kavela::desktop::PowerMeterDialog</name>
     <message>
         <source>Line</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeile</translation>
     </message>
     <message>
         <source>Why it is refused</source>
@@ -14707,7 +14708,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Import</source>
-        <translation type="unfinished"></translation>
+        <translation>Importieren</translation>
     </message>
     <message>
         <source>%1 of them lie in the session, which lasts %2.</source>
@@ -14758,11 +14759,11 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Place</source>
-        <translation type="unfinished"></translation>
+        <translation>Platz</translation>
     </message>
     <message>
         <source>Phase</source>
-        <translation type="unfinished"></translation>
+        <translation>Phase</translation>
     </message>
     <message>
         <source>Day</source>
@@ -14774,7 +14775,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Total</source>
-        <translation type="unfinished"></translation>
+        <translation>Gesamt</translation>
     </message>
     <message>
         <source>Winner&apos;s</source>
@@ -14818,7 +14819,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Final</source>
-        <translation type="unfinished"></translation>
+        <translation>Finale</translation>
     </message>
     <message>
         <source>Semifinal</source>
@@ -14941,235 +14942,235 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     <name>kavela::desktop::RaceActions</name>
     <message>
         <source>Open it &amp;again</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Erneut öffnen</translation>
     </message>
     <message>
         <source>Ti&amp;me it on video</source>
-        <translation type="unfinished"></translation>
+        <translation>Auf &amp;Video stoppen</translation>
     </message>
     <message>
         <source>&amp;Report: preview, PDF, print…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Bericht: Vorschau, PDF, Druck…</translation>
     </message>
     <message>
         <source>Save the table as &amp;CSV…</source>
-        <translation type="unfinished"></translation>
+        <translation>Tabelle als &amp;CSV speichern…</translation>
     </message>
     <message>
         <source>Cop&amp;y the selected runs</source>
-        <translation type="unfinished"></translation>
+        <translation>Gewählte Läufe &amp;kopieren</translation>
     </message>
     <message>
         <source>&amp;Times</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Zeiten</translation>
     </message>
     <message>
         <source>&amp;Gap to the reference</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Rückstand auf die Referenz</translation>
     </message>
     <message>
         <source>&amp;Place</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Platz</translation>
     </message>
     <message>
         <source>Per&amp;cent behind the best</source>
-        <translation type="unfinished"></translation>
+        <translation>Pro&amp;zent hinter dem Besten</translation>
     </message>
     <message>
         <source>Percenti&amp;le</source>
-        <translation type="unfinished"></translation>
+        <translation>Per&amp;zentil</translation>
     </message>
     <message>
         <source>&amp;Reference: the best</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Referenz: der Beste</translation>
     </message>
     <message>
         <source>Reference: the &amp;median</source>
-        <translation type="unfinished"></translation>
+        <translation>Referenz: der &amp;Median</translation>
     </message>
     <message>
         <source>Reference: the &amp;selected row</source>
-        <translation type="unfinished"></translation>
+        <translation>Referenz: die &amp;gewählte Zeile</translation>
     </message>
     <message>
         <source>&amp;Table</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Tabelle</translation>
     </message>
     <message>
         <source>&amp;Accumulated times</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Auflaufende Zeiten</translation>
     </message>
     <message>
         <source>Penalties &amp;included</source>
-        <translation type="unfinished"></translation>
+        <translation>Strafen &amp;eingerechnet</translation>
     </message>
     <message>
         <source>Penalties &amp;visible</source>
-        <translation type="unfinished"></translation>
+        <translation>Strafen &amp;sichtbar</translation>
     </message>
     <message>
         <source>C&amp;olumns</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Spalten</translation>
     </message>
     <message>
         <source>&amp;Find a name</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Namen suchen</translation>
     </message>
     <message>
         <source>Show all r&amp;uns</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle &amp;Läufe zeigen</translation>
     </message>
     <message>
         <source>&amp;Tint cells by rank</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Zellen nach Platz färben</translation>
     </message>
     <message>
         <source>&amp;Blue to orange instead of green to red</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Blau bis Orange statt Grün bis Rot</translation>
     </message>
     <message>
         <source>&amp;Compare</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Vergleichen</translation>
     </message>
     <message>
         <source>&amp;Ideal run on top</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ideallauf obenan</translation>
     </message>
     <message>
         <source>A &amp;run of another race…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Lauf eines anderen Rennens…</translation>
     </message>
     <message>
         <source>&amp;Films of the selected runs…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Filme der gewählten Läufe…</translation>
     </message>
     <message>
         <source>With &amp;official results…</source>
-        <translation type="unfinished"></translation>
+        <translation>Mit &amp;offiziellen Ergebnissen…</translation>
     </message>
     <message>
         <source>The results list as a &amp;table</source>
-        <translation type="unfinished"></translation>
+        <translation>Ergebnisliste als &amp;Tabelle</translation>
     </message>
     <message>
         <source>&amp;Clear the comparison</source>
-        <translation type="unfinished"></translation>
+        <translation>Vergleich &amp;aufheben</translation>
     </message>
     <message>
         <source>C&amp;harts</source>
-        <translation type="unfinished"></translation>
+        <translation>D&amp;iagramme</translation>
     </message>
     <message>
         <source>&amp;Gaps along the course</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Rückstände entlang der Strecke</translation>
     </message>
     <message>
         <source>T&amp;imes of the sections</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Zeiten der Abschnitte</translation>
     </message>
     <message>
         <source>P&amp;enalties at the gates</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Strafen an den Toren</translation>
     </message>
     <message>
         <source>&amp;Totals</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Gesamtzeiten</translation>
     </message>
     <message>
         <source>&amp;Penalties</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Strafen</translation>
     </message>
     <message>
         <source>Time &amp;losses</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeit&amp;verluste</translation>
     </message>
     <message>
         <source>Show the &amp;whole chart</source>
-        <translation type="unfinished"></translation>
+        <translation>Ganzes &amp;Diagramm zeigen</translation>
     </message>
     <message>
         <source>&amp;Save the chart…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Diagramm speichern…</translation>
     </message>
     <message>
         <source>&amp;Window</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Fenster</translation>
     </message>
     <message>
         <source>Races &amp;side by side</source>
-        <translation type="unfinished"></translation>
+        <translation>Rennen &amp;nebeneinander</translation>
     </message>
     <message>
         <source>&amp;Larger: the table or the chart alone</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Größer: nur die Tabelle oder das Diagramm</translation>
     </message>
     <message>
         <source>&amp;Next race</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Nächstes Rennen</translation>
     </message>
     <message>
         <source>&amp;Previous race</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Voriges Rennen</translation>
     </message>
     <message>
         <source>Pa&amp;ge for an athlete…</source>
-        <translation type="unfinished"></translation>
+        <translation>Seite für einen &amp;Athleten…</translation>
     </message>
     <message>
         <source>&amp;Draw the course…</source>
-        <translation type="unfinished"></translation>
+        <translation>Strecke &amp;zeichnen…</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::RaceDocument</name>
     <message>
         <source>A file of version %1. It could not be rewritten in the current version and stays as it is.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Datei der Version %1. Sie ließ sich nicht in der heutigen Version schreiben und bleibt, wie sie ist.</translation>
     </message>
     <message>
         <source>A file of version %1, rewritten in the current one. The previous file is kept as %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Datei der Version %1, in der heutigen neu geschrieben. Die frühere Datei bleibt als %2.</translation>
     </message>
     <message>
         <source>%1 gates, %2 upstream</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Tore, davon %2 aufwärts</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::RaceHeader</name>
     <message>
         <source>1 run</source>
-        <translation type="unfinished"></translation>
+        <translation>1 Lauf</translation>
     </message>
     <message>
         <source>%1 of %2 runs</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 von %2 Läufen</translation>
     </message>
     <message>
         <source>Phase</source>
-        <translation type="unfinished"></translation>
+        <translation>Phase</translation>
     </message>
     <message>
         <source>Category</source>
-        <translation type="unfinished"></translation>
+        <translation>Kategorie</translation>
     </message>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Name</translation>
     </message>
     <message>
         <source>All phases</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Phasen</translation>
     </message>
     <message>
         <source>All categories</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Kategorien</translation>
     </message>
     <message numerus="yes">
         <source>%n runs</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Lauf</numerusform>
+            <numerusform>%n Läufe</numerusform>
         </translation>
     </message>
 </context>
@@ -15177,136 +15178,136 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     <name>kavela::desktop::RaceKeeping</name>
     <message>
         <source>“%1” is open in another window</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ ist in einem anderen Fenster offen</translation>
     </message>
     <message>
         <source>Save and close it there, then keep the table. Nothing was written.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dort speichern und schließen, dann die Tabelle behalten. Nichts wurde geschrieben.</translation>
     </message>
     <message>
         <source>Keeping the table with the race…</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Tabelle wird zum Rennen gelegt…</translation>
     </message>
     <message>
         <source>“%1” keeps a table already</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ hat schon eine Tabelle</translation>
     </message>
     <message>
         <source>This one takes its place. The official results themselves stay.</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese tritt an ihre Stelle. Die offiziellen Ergebnisse selbst bleiben.</translation>
     </message>
     <message>
         <source>Replace</source>
-        <translation type="unfinished"></translation>
+        <translation>Ersetzen</translation>
     </message>
     <message>
         <source>The table was not kept with “%1”</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Tabelle wurde nicht zu „%1“ gelegt</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::RaceView</name>
     <message>
         <source>&amp;Run</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Lauf</translation>
     </message>
     <message>
         <source>I&amp;deal run</source>
-        <translation type="unfinished"></translation>
+        <translation>I&amp;deallauf</translation>
     </message>
     <message>
         <source>Pote&amp;ntial</source>
-        <translation type="unfinished"></translation>
+        <translation>Pote&amp;nzial</translation>
     </message>
     <message>
         <source>&amp;Motion</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Bewegung</translation>
     </message>
     <message>
         <source>Open it again</source>
-        <translation type="unfinished"></translation>
+        <translation>Erneut öffnen</translation>
     </message>
     <message>
         <source>gaps to the best</source>
-        <translation type="unfinished"></translation>
+        <translation>Rückstände auf den Besten</translation>
     </message>
     <message>
         <source>gaps to the median</source>
-        <translation type="unfinished"></translation>
+        <translation>Rückstände auf den Median</translation>
     </message>
     <message>
         <source>gaps to %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Rückstände auf %1</translation>
     </message>
     <message>
         <source>the ideal run</source>
-        <translation type="unfinished"></translation>
+        <translation>der Ideallauf</translation>
     </message>
     <message>
         <source>This course has %1 sections. The colours and the penalties in brackets are those of the first ten; place, gap and percent are there for all of them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Strecke hat %1 Abschnitte. Farben und Strafen in Klammern gibt es für die ersten zehn; Platz, Rückstand und Prozent für alle.</translation>
     </message>
     <message>
         <source>Save the table</source>
-        <translation type="unfinished"></translation>
+        <translation>Tabelle speichern</translation>
     </message>
     <message>
         <source>Semicolon-separated text (*.csv)</source>
-        <translation type="unfinished"></translation>
+        <translation>Text mit Semikolons (*.csv)</translation>
     </message>
     <message>
         <source>The file on the disk is newer than what you see.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei auf der Platte ist neuer als das Gezeigte.</translation>
     </message>
     <message>
         <source>The file is not on the disk any more. What you see is what it held.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei ist nicht mehr auf der Platte. Gezeigt wird, was sie enthielt.</translation>
     </message>
     <message>
         <source>All columns in the order of the course</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Spalten in der Reihenfolge der Strecke</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::RaceWindow</name>
     <message>
         <source>Split files</source>
-        <translation type="unfinished"></translation>
+        <translation>Zwischenzeitdateien</translation>
     </message>
     <message>
         <source>Races</source>
-        <translation type="unfinished"></translation>
+        <translation>Rennen</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::RacesSection</name>
     <message>
         <source>No runs yet: take them from the season&apos;s split files.</source>
-        <translation type="unfinished"></translation>
+        <translation>Noch keine Läufe: aus den Zwischenzeitdateien der Saison übernehmen.</translation>
     </message>
     <message>
         <source>&lt;b&gt;%1&lt;/b&gt; runs, &lt;b&gt;%2&lt;/b&gt; of them clean (%3 %)  ·  touches per run &lt;b&gt;%4&lt;/b&gt;  ·  missed gates per run &lt;b&gt;%5&lt;/b&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;%1&lt;/b&gt; Läufe, &lt;b&gt;%2&lt;/b&gt; davon fehlerfrei (%3 %)  ·  Berührungen je Lauf &lt;b&gt;%4&lt;/b&gt;  ·  Torfehler je Lauf &lt;b&gt;%5&lt;/b&gt;</translation>
     </message>
     <message>
         <source>Take from split files…</source>
-        <translation type="unfinished"></translation>
+        <translation>Aus Zwischenzeitdateien übernehmen…</translation>
     </message>
     <message>
         <source>Races and penalties</source>
-        <translation type="unfinished"></translation>
+        <translation>Rennen und Strafen</translation>
     </message>
     <message>
         <source>Choose &amp;files…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Dateien wählen…</translation>
     </message>
     <message>
         <source>Choose a f&amp;older…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ordner wählen…</translation>
     </message>
     <message>
         <source>Files and folders can be dropped here too</source>
-        <translation type="unfinished"></translation>
+        <translation>Dateien und Ordner lassen sich auch hierher ziehen</translation>
     </message>
 </context>
 <context>
@@ -15333,7 +15334,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Save as…</source>
-        <translation type="unfinished"></translation>
+        <translation>Speichern unter…</translation>
     </message>
     <message>
         <source>Writes the recording into a file of its own</source>
@@ -15483,7 +15484,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>correction</source>
-        <translation type="unfinished"></translation>
+        <translation>Korrektur</translation>
     </message>
     <message>
         <source>Pen</source>
@@ -15534,7 +15535,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Split files (*.kvx);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Zwischenzeitdateien (*.kvx);;Alle Dateien (*)</translation>
     </message>
     <message>
         <source>There is no split file in it.</source>
@@ -15725,7 +15726,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Schließen</translation>
     </message>
     <message>
         <source>Common moment</source>
@@ -16049,7 +16050,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>%1 %</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 %</translation>
     </message>
     <message>
         <source>Smaller</source>
@@ -16073,7 +16074,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Schließen</translation>
     </message>
     <message>
         <source>No pages</source>
@@ -16112,237 +16113,237 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     <name>kavela::desktop::ResultsDialog</name>
     <message>
         <source>Line %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeile %1: %2</translation>
     </message>
     <message>
         <source>Official results from %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Offizielle Ergebnisse aus %1</translation>
     </message>
     <message>
         <source>Import</source>
-        <translation type="unfinished"></translation>
+        <translation>Importieren</translation>
     </message>
     <message>
         <source>Run</source>
-        <translation type="unfinished"></translation>
+        <translation>Lauf</translation>
     </message>
     <message>
         <source>Line</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeile</translation>
     </message>
     <message>
         <source>Type a part of the name for another line; an emptied cell stands for none</source>
-        <translation type="unfinished"></translation>
+        <translation>Für eine andere Zeile einen Teil des Namens tippen; eine geleerte Zelle steht für keine</translation>
     </message>
     <message>
         <source>Phase</source>
-        <translation type="unfinished"></translation>
+        <translation>Phase</translation>
     </message>
     <message>
         <source>Real time now</source>
-        <translation type="unfinished"></translation>
+        <translation>Offizielle Zeit jetzt</translation>
     </message>
     <message>
         <source>No line</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Zeile</translation>
     </message>
     <message>
         <source>“%1” stands in %2 lines of the list: it must be in one.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ steht in %2 Zeilen der Liste: es muss in einer stehen.</translation>
     </message>
     <message>
         <source>%1 lines come into the file. Real time and penalty are taken for %2 of %3 runs: those that are ticked.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Zeilen kommen in die Datei. Offizielle Zeit und Strafe werden für %2 von %3 Läufen übernommen: die mit Häkchen.</translation>
     </message>
     <message>
         <source>No line was found for %1. A part of the name, typed in the last column, chooses one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Für %1 wurde keine Zeile gefunden. Ein Teil des Namens, in der letzten Spalte getippt, wählt eine.</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::ResultsPage</name>
     <message>
         <source>→ goes on</source>
-        <translation type="unfinished"></translation>
+        <translation>→ weiter</translation>
     </message>
     <message>
         <source>out</source>
-        <translation type="unfinished"></translation>
+        <translation>raus</translation>
     </message>
     <message>
         <source>★ wins</source>
-        <translation type="unfinished"></translation>
+        <translation>★ siegt</translation>
     </message>
     <message>
         <source>⚠ Not finished: no order was taken.</source>
-        <translation type="unfinished"></translation>
+        <translation>⚠ Nicht im Ziel: keine Reihenfolge erfasst.</translation>
     </message>
     <message>
         <source>⚠ Not finished. Gates without an order: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>⚠ Nicht im Ziel. Tore ohne Reihenfolge: %1.</translation>
     </message>
     <message>
         <source>⚠ Not all boats were seen at the last gate.</source>
-        <translation type="unfinished"></translation>
+        <translation>⚠ Am letzten Tor wurden nicht alle Boote gesehen.</translation>
     </message>
     <message>
         <source>Gates without an order: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tore ohne Reihenfolge: %1.</translation>
     </message>
     <message>
         <source>Final</source>
-        <translation type="unfinished"></translation>
+        <translation>Finale</translation>
     </message>
     <message>
         <source>Finals</source>
-        <translation type="unfinished"></translation>
+        <translation>Finals</translation>
     </message>
     <message>
         <source>Semifinals</source>
-        <translation type="unfinished"></translation>
+        <translation>Halbfinals</translation>
     </message>
     <message>
         <source>Quarterfinals</source>
-        <translation type="unfinished"></translation>
+        <translation>Viertelfinals</translation>
     </message>
     <message>
         <source>Round %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Runde %1</translation>
     </message>
     <message>
         <source>Boat</source>
-        <translation type="unfinished"></translation>
+        <translation>Boot</translation>
     </message>
     <message>
         <source>Place</source>
-        <translation type="unfinished"></translation>
+        <translation>Platz</translation>
     </message>
     <message>
         <source>Start</source>
-        <translation type="unfinished"></translation>
+        <translation>Start</translation>
     </message>
     <message>
         <source>Gained</source>
-        <translation type="unfinished"></translation>
+        <translation>Gewonnen</translation>
     </message>
     <message>
         <source>Lost</source>
-        <translation type="unfinished"></translation>
+        <translation>Verloren</translation>
     </message>
     <message>
         <source>Outcome</source>
-        <translation type="unfinished"></translation>
+        <translation>Ausgang</translation>
     </message>
     <message>
         <source>%1 %</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 %</translation>
     </message>
     <message>
         <source>Athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>Athlet</translation>
     </message>
     <message>
         <source>Attacks</source>
-        <translation type="unfinished"></translation>
+        <translation>Angriffe</translation>
     </message>
     <message>
         <source>Succeeded</source>
-        <translation type="unfinished"></translation>
+        <translation>Gelungen</translation>
     </message>
     <message>
         <source>Success</source>
-        <translation type="unfinished"></translation>
+        <translation>Erfolg</translation>
     </message>
     <message>
         <source>Attacked</source>
-        <translation type="unfinished"></translation>
+        <translation>Angegriffen</translation>
     </message>
     <message>
         <source>Held</source>
-        <translation type="unfinished"></translation>
+        <translation>Gehalten</translation>
     </message>
     <message>
         <source>Defence</source>
-        <translation type="unfinished"></translation>
+        <translation>Verteidigung</translation>
     </message>
     <message>
         <source>not told</source>
-        <translation type="unfinished"></translation>
+        <translation>ohne Angabe</translation>
     </message>
     <message>
         <source>Where</source>
-        <translation type="unfinished"></translation>
+        <translation>Wo</translation>
     </message>
     <message>
         <source>No results yet: they follow from the orders at the gates that are taken on the page of heats.</source>
-        <translation type="unfinished"></translation>
+        <translation>Noch keine Ergebnisse: sie folgen aus den Reihenfolgen an den Toren, die auf der Seite der Heats erfasst werden.</translation>
     </message>
     <message>
         <source>Attacks and defences</source>
-        <translation type="unfinished"></translation>
+        <translation>Angriffe und Verteidigungen</translation>
     </message>
     <message>
         <source>Where attacks succeed</source>
-        <translation type="unfinished"></translation>
+        <translation>Wo Angriffe gelingen</translation>
     </message>
     <message>
         <source>Heat %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Heat %1</translation>
     </message>
     <message>
         <source>Shows the heat on its film</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeigt den Heat auf seinem Film</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::ResultsView</name>
     <message>
         <source>Nobody is in the team yet. Add the first athlete with Ctrl+N.</source>
-        <translation type="unfinished"></translation>
+        <translation>Noch niemand im Team. Den ersten Athleten mit Strg+N hinzufügen.</translation>
     </message>
     <message>
         <source>No athlete fits the search.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein Athlet passt zur Suche.</translation>
     </message>
     <message>
         <source>Choose the boat %1 races in: menu Team, “Add a category”.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Boot wählen, das %1 fährt: Menü Team, „Kategorie hinzufügen“.</translation>
     </message>
     <message>
         <source>Add the first season with Ctrl+Shift+N, or drop a split file or a list of results here to take results over.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die erste Saison mit Strg+Umschalt+N hinzufügen oder eine Zwischenzeitdatei oder Ergebnisliste hierher ziehen, um Ergebnisse zu übernehmen.</translation>
     </message>
     <message>
         <source>The first two seasons (✓) count for the categorization. Alt+Up, Alt+Down or dragging changes the order.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die ersten zwei Saisons (✓) zählen für die Einstufung. Alt+Auf, Alt+Ab oder Ziehen ändert die Reihenfolge.</translation>
     </message>
     <message>
         <source>Choose a race to see and edit its runs.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Rennen wählen, um seine Läufe zu sehen und zu bearbeiten.</translation>
     </message>
     <message>
         <source>new season</source>
-        <translation type="unfinished"></translation>
+        <translation>neue Saison</translation>
     </message>
     <message>
         <source>new race</source>
-        <translation type="unfinished"></translation>
+        <translation>neues Rennen</translation>
     </message>
     <message>
         <source>order of the seasons</source>
-        <translation type="unfinished"></translation>
+        <translation>Reihenfolge der Saisons</translation>
     </message>
     <message>
         <source>order of the races</source>
-        <translation type="unfinished"></translation>
+        <translation>Reihenfolge der Rennen</translation>
     </message>
     <message>
         <source>removal of a race</source>
-        <translation type="unfinished"></translation>
+        <translation>Entfernen eines Rennens</translation>
     </message>
     <message>
         <source>removal of a season</source>
-        <translation type="unfinished"></translation>
+        <translation>Entfernen einer Saison</translation>
     </message>
 </context>
 <context>
@@ -16353,7 +16354,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Time</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeit</translation>
     </message>
     <message>
         <source>Roll</source>
@@ -16373,7 +16374,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Total</source>
-        <translation type="unfinished"></translation>
+        <translation>Gesamt</translation>
     </message>
 </context>
 <context>
@@ -16387,7 +16388,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     <name>kavela::desktop::RunChooser</name>
     <message>
         <source>1 run</source>
-        <translation type="unfinished"></translation>
+        <translation>1 Lauf</translation>
     </message>
     <message>
         <source>Compare with a run of another race</source>
@@ -16411,7 +16412,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Name</translation>
     </message>
     <message>
         <source>No other race lies in this folder.
@@ -16428,13 +16429,13 @@ Choose a file.</source>
     </message>
     <message>
         <source>Split files (*.kvx);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Zwischenzeitdateien (*.kvx);;Alle Dateien (*)</translation>
     </message>
     <message numerus="yes">
         <source>%n runs</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Lauf</numerusform>
+            <numerusform>%n Läufe</numerusform>
         </translation>
     </message>
 </context>
@@ -16481,55 +16482,55 @@ Choose a file.</source>
     <name>kavela::desktop::RunForm</name>
     <message>
         <source>A comma and minutes, such as 1:32,34, are taken too</source>
-        <translation type="unfinished"></translation>
+        <translation>Komma und Minuten wie in 1:32,34 gehen auch</translation>
     </message>
     <message>
         <source>Crew</source>
-        <translation type="unfinished"></translation>
+        <translation>Besatzung</translation>
     </message>
     <message>
         <source>Category</source>
-        <translation type="unfinished"></translation>
+        <translation>Kategorie</translation>
     </message>
     <message>
         <source>Phase</source>
-        <translation type="unfinished"></translation>
+        <translation>Phase</translation>
     </message>
     <message>
         <source>Hand</source>
-        <translation type="unfinished"></translation>
+        <translation>Hand</translation>
     </message>
     <message>
         <source>Real time</source>
-        <translation type="unfinished"></translation>
+        <translation>Offizielle Zeit</translation>
     </message>
     <message>
         <source>Real penalty</source>
-        <translation type="unfinished"></translation>
+        <translation>Offizielle Strafe</translation>
     </message>
     <message>
         <source>Sprint</source>
-        <translation type="unfinished"></translation>
+        <translation>Sprint</translation>
     </message>
     <message>
         <source>sprint time</source>
-        <translation type="unfinished"></translation>
+        <translation>Sprintzeit</translation>
     </message>
     <message>
         <source>Total %1 s,</source>
-        <translation type="unfinished"></translation>
+        <translation>Gesamt %1 s,</translation>
     </message>
     <message>
         <source>penalties %1 s</source>
-        <translation type="unfinished"></translation>
+        <translation>Strafen %1 s</translation>
     </message>
     <message>
         <source>Expected %1 s</source>
-        <translation type="unfinished"></translation>
+        <translation>Erwartet %1 s</translation>
     </message>
     <message>
         <source>Perfect time %1 s</source>
-        <translation type="unfinished"></translation>
+        <translation>Perfekte Zeit %1 s</translation>
     </message>
 </context>
 <context>
@@ -16560,11 +16561,11 @@ Choose a file.</source>
     </message>
     <message>
         <source>penalties %1 s</source>
-        <translation type="unfinished"></translation>
+        <translation>Strafen %1 s</translation>
     </message>
     <message>
         <source>Total %1 s,</source>
-        <translation type="unfinished"></translation>
+        <translation>Gesamt %1 s,</translation>
     </message>
     <message>
         <source>Total –,</source>
@@ -16576,7 +16577,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>Expected %1 s</source>
-        <translation type="unfinished"></translation>
+        <translation>Erwartet %1 s</translation>
     </message>
     <message>
         <source>Best own sections %1 s</source>
@@ -16600,7 +16601,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>Time</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeit</translation>
     </message>
     <message>
         <source>Pen</source>
@@ -16608,14 +16609,14 @@ Choose a file.</source>
     </message>
     <message>
         <source>Place</source>
-        <translation type="unfinished"></translation>
+        <translation>Platz</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::RunPicker</name>
     <message>
         <source>Run</source>
-        <translation type="unfinished"></translation>
+        <translation>Lauf</translation>
     </message>
     <message>
         <source>Type any part of a name, phase, category or race</source>
@@ -16704,7 +16705,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>Split files (*.kvx);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Zwischenzeitdateien (*.kvx);;Alle Dateien (*)</translation>
     </message>
     <message numerus="yes">
         <source>⚠ %n could not be read…</source>
@@ -16830,7 +16831,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>Pa&amp;ge for an athlete…</source>
-        <translation type="unfinished"></translation>
+        <translation>Seite für einen &amp;Athleten…</translation>
     </message>
 </context>
 <context>
@@ -16884,7 +16885,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>Place</source>
-        <translation type="unfinished"></translation>
+        <translation>Platz</translation>
     </message>
     <message>
         <source>Rank</source>
@@ -16967,7 +16968,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>Lost</source>
-        <translation type="unfinished"></translation>
+        <translation>Verloren</translation>
     </message>
     <message>
         <source>Seconds, of all runs together</source>
@@ -17011,7 +17012,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>Run</source>
-        <translation type="unfinished"></translation>
+        <translation>Lauf</translation>
     </message>
     <message>
         <source>Open a folder of races to see an athlete&apos;s season.</source>
@@ -17128,11 +17129,11 @@ Choose a file.</source>
     </message>
     <message>
         <source>Finals</source>
-        <translation type="unfinished"></translation>
+        <translation>Finals</translation>
     </message>
     <message>
         <source>Semifinals</source>
-        <translation type="unfinished"></translation>
+        <translation>Halbfinals</translation>
     </message>
     <message>
         <source>Expected places</source>
@@ -17148,7 +17149,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>Phase</source>
-        <translation type="unfinished"></translation>
+        <translation>Phase</translation>
     </message>
 </context>
 <context>
@@ -17214,7 +17215,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>Split files (*.kvx);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Zwischenzeitdateien (*.kvx);;Alle Dateien (*)</translation>
     </message>
     <message>
         <source>Add a folder of races</source>
@@ -17315,7 +17316,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>Time</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeit</translation>
     </message>
     <message>
         <source>Seconds in the section</source>
@@ -17347,7 +17348,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>Not timed</source>
-        <translation type="unfinished"></translation>
+        <translation>Ohne Zeit</translation>
     </message>
     <message>
         <source>Quarter of the runs under</source>
@@ -17375,7 +17376,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>Place</source>
-        <translation type="unfinished"></translation>
+        <translation>Platz</translation>
     </message>
     <message>
         <source>%1 of %2</source>
@@ -17601,7 +17602,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>Category</source>
-        <translation type="unfinished"></translation>
+        <translation>Kategorie</translation>
     </message>
     <message>
         <source>Category of the athletes</source>
@@ -17910,7 +17911,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>&amp;Place</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Platz</translation>
     </message>
     <message>
         <source>&amp;Description</source>
@@ -17972,7 +17973,7 @@ Choose a file.</source>
     <name>kavela::desktop::SessionTables</name>
     <message>
         <source>Strokes</source>
-        <translation type="unfinished"></translation>
+        <translation>Schläge</translation>
     </message>
     <message>
         <source>Turns</source>
@@ -18343,7 +18344,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>Start</source>
-        <translation type="unfinished"></translation>
+        <translation>Start</translation>
     </message>
     <message>
         <source>Shares the ticked files</source>
@@ -18387,7 +18388,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>%1 (on the server)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (auf dem Server)</translation>
     </message>
     <message>
         <source>%1 (here)</source>
@@ -18586,7 +18587,7 @@ and %1 more</source>
     </message>
     <message>
         <source>&amp;Mark</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Markieren</translation>
     </message>
     <message>
         <source>&amp;Mark the run at the hair line</source>
@@ -18598,11 +18599,11 @@ and %1 more</source>
     </message>
     <message>
         <source>&amp;Previous run</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Voriger Lauf</translation>
     </message>
     <message>
         <source>&amp;Next run</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Nächster Lauf</translation>
     </message>
     <message>
         <source>&amp;Refuse the proposal at the hair line</source>
@@ -18710,7 +18711,7 @@ and %1 more</source>
     <name>kavela::desktop::SlitRace</name>
     <message>
         <source>Start</source>
-        <translation type="unfinished"></translation>
+        <translation>Start</translation>
     </message>
     <message>
         <source>Split %1</source>
@@ -18771,7 +18772,7 @@ and %1 more</source>
     </message>
     <message>
         <source>%1 %</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 %</translation>
     </message>
     <message>
         <source>frame %1   %2 s</source>
@@ -18869,141 +18870,146 @@ and %1 more</source>
     <name>kavela::desktop::SplitBar</name>
     <message>
         <source>Split times</source>
-        <translation type="unfinished"></translation>
+        <translation>Zwischenzeiten</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::SplitMode</name>
     <message>
         <source>Start</source>
-        <translation type="unfinished"></translation>
+        <translation>Start</translation>
     </message>
     <message>
         <source>Nothing can be marked: %1 is not in the folder of the split file. Cameras &gt; Where are the films now?</source>
-        <translation type="unfinished"></translation>
+        <translation>Nichts kann markiert werden: %1 ist nicht im Ordner der Zwischenzeitdatei. Kameras &gt; Wo sind die Filme jetzt?</translation>
     </message>
     <message>
         <source>No mark is selected. Ctrl and the arrows go from mark to mark.</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Marke ist gewählt. Strg und die Pfeile gehen von Marke zu Marke.</translation>
     </message>
     <message>
         <source>Another run came to the front: nothing was marked.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein anderer Lauf kam nach vorn: nichts wurde markiert.</translation>
     </message>
     <message>
         <source>The times of this run were taken without marks on the video. Marking it anew replaces them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Zeiten dieses Laufs wurden ohne Marken im Video genommen. Neues Markieren ersetzt sie.</translation>
     </message>
     <message>
         <source>Mark anew</source>
-        <translation type="unfinished"></translation>
+        <translation>Neu markieren</translation>
     </message>
     <message>
         <source>start mark</source>
-        <translation type="unfinished"></translation>
+        <translation>Startmarke</translation>
     </message>
     <message>
         <source>split %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Zwischenzeit %1</translation>
     </message>
     <message>
         <source>%1:  %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1:  %2</translation>
     </message>
     <message>
         <source>Split %1 was put in between two marks. Ctrl+Z takes it out again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zwischenzeit %1 wurde zwischen zwei Marken eingefügt. Strg+Z nimmt sie wieder heraus.</translation>
     </message>
     <message>
         <source>mark moved</source>
-        <translation type="unfinished"></translation>
+        <translation>Marke verschoben</translation>
     </message>
     <message>
         <source>There is no mark yet that could be moved.</source>
-        <translation type="unfinished"></translation>
+        <translation>Noch keine Marke da, die sich verschieben ließe.</translation>
     </message>
     <message>
         <source>mark removed</source>
-        <translation type="unfinished"></translation>
+        <translation>Marke entfernt</translation>
     </message>
     <message>
         <source>Split %1 is expected behind the end of the film.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zwischenzeit %1 wird hinter dem Ende des Films erwartet.</translation>
     </message>
     <message>
         <source>Split %1 is expected here</source>
-        <translation type="unfinished"></translation>
+        <translation>Zwischenzeit %1 wird hier erwartet</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::SplitTableModel</name>
     <message>
         <source>Not timed</source>
-        <translation type="unfinished"></translation>
+        <translation>Ohne Zeit</translation>
     </message>
     <message>
         <source>%1, %2: %3 s
 place %4 of %5
 %6 s behind the best, %7 %</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, %2: %3 s
+Platz %4 von %5
+%6 s hinter dem Besten, %7 %</translation>
     </message>
     <message>
         <source>%1, %2: %3 s
 %4
 It counts for nothing: no place, no gap, never a best.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, %2: %3 s
+%4
+Zählt nicht: kein Platz, kein Rückstand, nie Bestzeit.</translation>
     </message>
     <message>
         <source>The best of every section, put together</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Beste jedes Abschnitts, zusammengesetzt</translation>
     </message>
     <message>
         <source>%1 in %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 in %2</translation>
     </message>
     <message>
         <source>Ideal run</source>
-        <translation type="unfinished"></translation>
+        <translation>Ideallauf</translation>
     </message>
     <message>
         <source>%1, %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, %2</translation>
     </message>
     <message>
         <source>Gates %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Tore %1</translation>
     </message>
     <message>
         <source>Section %1: the colours and the penalties in brackets are those of the first ten sections only.
 Place, gap and percent are there as in any other.</source>
-        <translation type="unfinished"></translation>
+        <translation>Abschnitt %1: Farben und Strafen in Klammern gibt es nur für die ersten zehn Abschnitte.
+Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Name</translation>
     </message>
     <message>
         <source>Phase</source>
-        <translation type="unfinished"></translation>
+        <translation>Phase</translation>
     </message>
     <message>
         <source>Cat</source>
-        <translation type="unfinished"></translation>
+        <translation>Kat</translation>
     </message>
     <message>
         <source>Place</source>
-        <translation type="unfinished"></translation>
+        <translation>Platz</translation>
     </message>
     <message>
         <source>%1 penalty</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Strafe</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::SplitsShown</name>
     <message>
         <source>%1?</source>
-        <translation type="unfinished"></translation>
+        <translation>%1?</translation>
     </message>
 </context>
 <context>
@@ -19022,7 +19028,7 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>Phase</source>
-        <translation type="unfinished"></translation>
+        <translation>Phase</translation>
     </message>
     <message>
         <source>Take over</source>
@@ -19038,7 +19044,7 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>Lists (*.csv *.txt);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Listen (*.csv *.txt);;Alle Dateien (*)</translation>
     </message>
     <message>
         <source>Starts: %1. Lines that cannot be taken: %2.</source>
@@ -19046,7 +19052,7 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>Line %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeile %1: %2</translation>
     </message>
 </context>
 <context>
@@ -19112,7 +19118,7 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>Time</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeit</translation>
     </message>
     <message>
         <source>Gap</source>
@@ -19220,7 +19226,7 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>Start</source>
-        <translation type="unfinished"></translation>
+        <translation>Start</translation>
     </message>
     <message>
         <source>The end of a way comes after its beginning at %1.</source>
@@ -19456,7 +19462,7 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>Percenti&amp;le</source>
-        <translation type="unfinished"></translation>
+        <translation>Per&amp;zentil</translation>
     </message>
     <message>
         <source>&amp;Another column…</source>
@@ -19488,7 +19494,7 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>&amp;Blue to orange instead of green to red</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Blau bis Orange statt Grün bis Rot</translation>
     </message>
     <message>
         <source>The &amp;whole chart</source>
@@ -19567,7 +19573,7 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>Semicolon-separated text (*.csv)</source>
-        <translation type="unfinished"></translation>
+        <translation>Text mit Semikolons (*.csv)</translation>
     </message>
     <message>
         <source>Open lists</source>
@@ -19615,11 +19621,11 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>Split files (*.kvx);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Zwischenzeitdateien (*.kvx);;Alle Dateien (*)</translation>
     </message>
     <message>
         <source>Save the table</source>
-        <translation type="unfinished"></translation>
+        <translation>Tabelle speichern</translation>
     </message>
     <message>
         <source>The table was not saved</source>
@@ -19695,7 +19701,7 @@ Place, gap and percent are there as in any other.</source>
     <name>kavela::desktop::TagPage</name>
     <message>
         <source>Time</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeit</translation>
     </message>
     <message>
         <source>Tag</source>
@@ -19742,11 +19748,11 @@ Place, gap and percent are there as in any other.</source>
     <name>kavela::desktop::TakeOverDialog</name>
     <message>
         <source>Boat</source>
-        <translation type="unfinished"></translation>
+        <translation>Boot</translation>
     </message>
     <message>
         <source>Phase</source>
-        <translation type="unfinished"></translation>
+        <translation>Phase</translation>
     </message>
     <message>
         <source>Result</source>
@@ -19754,7 +19760,7 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>Athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>Athlet</translation>
     </message>
     <message>
         <source>not in the team</source>
@@ -19924,7 +19930,7 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>Start</source>
-        <translation type="unfinished"></translation>
+        <translation>Start</translation>
     </message>
     <message>
         <source>%1 strokes and %2 turns were found.</source>
@@ -19993,15 +19999,15 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>Athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>Athlet</translation>
     </message>
     <message>
         <source>Category</source>
-        <translation type="unfinished"></translation>
+        <translation>Kategorie</translation>
     </message>
     <message>
         <source>Phase</source>
-        <translation type="unfinished"></translation>
+        <translation>Phase</translation>
     </message>
     <message>
         <source>Sections</source>
@@ -20009,7 +20015,7 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>Total</source>
-        <translation type="unfinished"></translation>
+        <translation>Gesamt</translation>
     </message>
     <message>
         <source>s</source>
@@ -20056,263 +20062,263 @@ Place, gap and percent are there as in any other.</source>
     <name>kavela::desktop::TakingActions</name>
     <message>
         <source>&amp;Open a folder of videos…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ordner mit Videos öffnen…</translation>
     </message>
     <message>
         <source>&amp;Save data</source>
-        <translation type="unfinished"></translation>
+        <translation>Daten &amp;speichern</translation>
     </message>
     <message>
         <source>Import &amp;video…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Video importieren…</translation>
     </message>
     <message>
         <source>Import split &amp;file…</source>
-        <translation type="unfinished"></translation>
+        <translation>Zwischenzeit&amp;datei importieren…</translation>
     </message>
     <message>
         <source>Import official &amp;results…</source>
-        <translation type="unfinished"></translation>
+        <translation>Offizielle &amp;Ergebnisse importieren…</translation>
     </message>
     <message>
         <source>Compare &amp;with official results…</source>
-        <translation type="unfinished"></translation>
+        <translation>Mit offiziellen Ergebnissen &amp;vergleichen…</translation>
     </message>
     <message>
         <source>&amp;Recording of the run…</source>
-        <translation type="unfinished"></translation>
+        <translation>Aufzeichnung des &amp;Laufs…</translation>
     </message>
     <message>
         <source>Run s&amp;heet: preview, PDF, print…</source>
-        <translation type="unfinished"></translation>
+        <translation>Lauf&amp;blatt: Vorschau, PDF, Druck…</translation>
     </message>
     <message>
         <source>&amp;Export data…</source>
-        <translation type="unfinished"></translation>
+        <translation>Daten e&amp;xportieren…</translation>
     </message>
     <message>
         <source>Show in the race &amp;analyzer</source>
-        <translation type="unfinished"></translation>
+        <translation>In der Renn&amp;analyse zeigen</translation>
     </message>
     <message>
         <source>Compare fil&amp;ms of the run…</source>
-        <translation type="unfinished"></translation>
+        <translation>Fil&amp;me des Laufs vergleichen…</translation>
     </message>
     <message>
         <source>Kayak &amp;cross of this race</source>
-        <translation type="unfinished"></translation>
+        <translation>Kajak-&amp;Cross dieses Rennens</translation>
     </message>
     <message>
         <source>Open a folder of videos</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordner mit Videos öffnen</translation>
     </message>
     <message>
         <source>Race and &amp;course…</source>
-        <translation type="unfinished"></translation>
+        <translation>Rennen und Stre&amp;cke…</translation>
     </message>
     <message>
         <source>Names of the &amp;films…</source>
-        <translation type="unfinished"></translation>
+        <translation>Namen der &amp;Filme…</translation>
     </message>
     <message>
         <source>&amp;Previous run</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Voriger Lauf</translation>
     </message>
     <message>
         <source>&amp;Next run</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Nächster Lauf</translation>
     </message>
     <message>
         <source>&amp;Find an athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Athleten suchen</translation>
     </message>
     <message>
         <source>Move the run up</source>
-        <translation type="unfinished"></translation>
+        <translation>Lauf nach oben</translation>
     </message>
     <message>
         <source>Move the run down</source>
-        <translation type="unfinished"></translation>
+        <translation>Lauf nach unten</translation>
     </message>
     <message>
         <source>Remove the run from the list</source>
-        <translation type="unfinished"></translation>
+        <translation>Lauf aus der Liste entfernen</translation>
     </message>
     <message>
         <source>Delete &amp;all data…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Alle Daten löschen…</translation>
     </message>
     <message>
         <source>&amp;Mark</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Markieren</translation>
     </message>
     <message>
         <source>&amp;Mark the split</source>
-        <translation type="unfinished"></translation>
+        <translation>Zwischenzeit &amp;markieren</translation>
     </message>
     <message>
         <source>To where the next split is e&amp;xpected</source>
-        <translation type="unfinished"></translation>
+        <translation>Dorthin, wo die nächste Zwischenzeit er&amp;wartet wird</translation>
     </message>
     <message>
         <source>To the start mark</source>
-        <translation type="unfinished"></translation>
+        <translation>Zur Startmarke</translation>
     </message>
     <message>
         <source>To split &amp;%1</source>
-        <translation type="unfinished"></translation>
+        <translation>Zu Zwischenzeit &amp;%1</translation>
     </message>
     <message>
         <source>&amp;Gates</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Tore</translation>
     </message>
     <message>
         <source>&amp;Touch: 2 s</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Berührung: 2 s</translation>
     </message>
     <message>
         <source>Missed gate: &amp;50 s</source>
-        <translation type="unfinished"></translation>
+        <translation>Torfehler: &amp;50 s</translation>
     </message>
     <message>
         <source>&amp;Clean</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Fehlerfrei</translation>
     </message>
     <message>
         <source>&amp;Next gate</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Nächstes Tor</translation>
     </message>
     <message>
         <source>&amp;Previous gate</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Voriges Tor</translation>
     </message>
     <message>
         <source>&amp;Cameras</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Kameras</translation>
     </message>
     <message>
         <source>&amp;Add another camera of this run…</source>
-        <translation type="unfinished"></translation>
+        <translation>Weitere Kamera dieses Laufs &amp;hinzufügen…</translation>
     </message>
     <message>
         <source>&amp;Where are the films now?…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Wo sind die Filme jetzt?…</translation>
     </message>
     <message>
         <source>Last camera one frame back</source>
-        <translation type="unfinished"></translation>
+        <translation>Letzte Kamera ein Bild zurück</translation>
     </message>
     <message>
         <source>Last camera one frame forward</source>
-        <translation type="unfinished"></translation>
+        <translation>Letzte Kamera ein Bild vor</translation>
     </message>
     <message>
         <source>&amp;Larger: without the table, the film alone, all again</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Größer: ohne Tabelle, nur der Film, wieder alles</translation>
     </message>
     <message>
         <source>The frames shown are &amp;one moment</source>
-        <translation type="unfinished"></translation>
+        <translation>Die gezeigten Bilder sind &amp;ein Moment</translation>
     </message>
     <message>
         <source>&amp;Draw the course…</source>
-        <translation type="unfinished"></translation>
+        <translation>Strecke &amp;zeichnen…</translation>
     </message>
     <message>
         <source>Sl&amp;it picture of the last camera</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Schlitzbild der letzten Kamera</translation>
     </message>
     <message>
         <source>There is no film here that has a slit picture.</source>
-        <translation type="unfinished"></translation>
+        <translation>Hier ist kein Film, der ein Schlitzbild hat.</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::TakingDocument</name>
     <message>
         <source>Save a copy as</source>
-        <translation type="unfinished"></translation>
+        <translation>Kopie speichern unter</translation>
     </message>
     <message>
         <source>Split files (*.kvx)</source>
-        <translation type="unfinished"></translation>
+        <translation>Zwischenzeitdateien (*.kvx)</translation>
     </message>
     <message>
         <source> &quot;Save as…&quot; writes a copy in the present release and opens it here; its films stay where they are.</source>
-        <translation type="unfinished"></translation>
+        <translation> „Speichern unter…“ schreibt eine Kopie in der heutigen Version und öffnet sie hier; ihre Filme bleiben, wo sie sind.</translation>
     </message>
     <message>
         <source>Save as…</source>
-        <translation type="unfinished"></translation>
+        <translation>Speichern unter…</translation>
     </message>
     <message>
         <source>names of the films</source>
-        <translation type="unfinished"></translation>
+        <translation>Namen der Filme</translation>
     </message>
     <message>
         <source>run removed</source>
-        <translation type="unfinished"></translation>
+        <translation>Lauf entfernt</translation>
     </message>
     <message>
         <source>run moved</source>
-        <translation type="unfinished"></translation>
+        <translation>Lauf verschoben</translation>
     </message>
     <message>
         <source>videos imported</source>
-        <translation type="unfinished"></translation>
+        <translation>Videos importiert</translation>
     </message>
     <message>
         <source>“%1” holds no runs. Nothing was imported.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ enthält keine Läufe. Nichts wurde importiert.</translation>
     </message>
     <message>
         <source>split file imported</source>
-        <translation type="unfinished"></translation>
+        <translation>Zwischenzeitdatei importiert</translation>
     </message>
     <message>
         <source>official results imported</source>
-        <translation type="unfinished"></translation>
+        <translation>offizielle Ergebnisse importiert</translation>
     </message>
     <message>
         <source>official result of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>offizielles Ergebnis von %1</translation>
     </message>
     <message>
         <source>1 run</source>
-        <translation type="unfinished"></translation>
+        <translation>1 Lauf</translation>
     </message>
     <message>
         <source>%1 with %2 is emptied. Ctrl+Z brings it back.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 mit %2 ist geleert. Strg+Z holt es zurück.</translation>
     </message>
     <message>
         <source>reset</source>
-        <translation type="unfinished"></translation>
+        <translation>zurückgesetzt</translation>
     </message>
     <message>
         <source>1 start without a split is not stored in the file. This computer keeps it, and offers it when the file is opened here again.</source>
-        <translation type="unfinished"></translation>
+        <translation>1 Start ohne Zwischenzeit steht nicht in der Datei. Dieser Rechner bewahrt ihn und bietet ihn an, wenn die Datei hier wieder geöffnet wird.</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Schließen</translation>
     </message>
     <message>
         <source>Overwrite</source>
-        <translation type="unfinished"></translation>
+        <translation>Überschreiben</translation>
     </message>
     <message numerus="yes">
         <source>%n runs</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Lauf</numerusform>
+            <numerusform>%n Läufe</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n starts without a split are not stored in the file. This computer keeps them, and offers them when the file is opened here again.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Start ohne Zwischenzeit steht nicht in der Datei. Dieser Rechner bewahrt ihn und bietet ihn an, wenn die Datei hier wieder geöffnet wird.</numerusform>
+            <numerusform>%n Starts ohne Zwischenzeit stehen nicht in der Datei. Dieser Rechner bewahrt sie und bietet sie an, wenn die Datei hier wieder geöffnet wird.</numerusform>
         </translation>
     </message>
 </context>
@@ -20320,55 +20326,55 @@ Place, gap and percent are there as in any other.</source>
     <name>kavela::desktop::TakingWindow</name>
     <message>
         <source>correction</source>
-        <translation type="unfinished"></translation>
+        <translation>Korrektur</translation>
     </message>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Name</translation>
     </message>
     <message>
         <source>Cat</source>
-        <translation type="unfinished"></translation>
+        <translation>Kat</translation>
     </message>
     <message>
         <source>Phase</source>
-        <translation type="unfinished"></translation>
+        <translation>Phase</translation>
     </message>
     <message>
         <source>Total</source>
-        <translation type="unfinished"></translation>
+        <translation>Gesamt</translation>
     </message>
     <message>
         <source>%1/%2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1/%2</translation>
     </message>
     <message>
         <source>split taking</source>
-        <translation type="unfinished"></translation>
+        <translation>Zwischenzeitnahme</translation>
     </message>
     <message>
         <source>Athlete&apos;s name</source>
-        <translation type="unfinished"></translation>
+        <translation>Name des Athleten</translation>
     </message>
     <message>
         <source>Enter finds the athlete&apos;s next run, or collects a training file of all videos with that name</source>
-        <translation type="unfinished"></translation>
+        <translation>Enter findet den nächsten Lauf des Athleten oder sammelt alle Videos mit diesem Namen in einer Trainingsdatei</translation>
     </message>
     <message>
         <source>Race &amp;day, or the table of the race</source>
-        <translation type="unfinished"></translation>
+        <translation>Renn&amp;tag oder Tabelle des Rennens</translation>
     </message>
     <message>
         <source>In which folder do the films appear?</source>
-        <translation type="unfinished"></translation>
+        <translation>In welchem Ordner erscheinen die Filme?</translation>
     </message>
     <message>
         <source>A click on a time shows its frame</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Klick auf eine Zeit zeigt ihr Bild</translation>
     </message>
     <message>
         <source>penalty at gate %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Strafe an Tor %1</translation>
     </message>
 </context>
 <context>
@@ -20444,7 +20450,7 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>Line %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeile %1: %2</translation>
     </message>
     <message>
         <source>There are no runs in it.</source>
@@ -20503,7 +20509,7 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>Athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>Athlet</translation>
     </message>
     <message>
         <source>Ticked tests are laid over the chosen one (Space)</source>
@@ -20567,7 +20573,7 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>All kinds</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Arten</translation>
     </message>
     <message>
         <source>Sprint data</source>
@@ -20579,7 +20585,7 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>Semicolon-separated text (*.csv)</source>
-        <translation type="unfinished"></translation>
+        <translation>Text mit Semikolons (*.csv)</translation>
     </message>
 </context>
 <context>
@@ -20612,7 +20618,7 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>Split files (*.kvx);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Zwischenzeitdateien (*.kvx);;Alle Dateien (*)</translation>
     </message>
     <message>
         <source>Take a test in from a recording</source>
@@ -20744,11 +20750,11 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>&amp;File</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Datei</translation>
     </message>
     <message>
         <source>&amp;Open…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Öffnen…</translation>
     </message>
     <message>
         <source>&amp;Save</source>
@@ -20760,7 +20766,7 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>Open</source>
-        <translation type="unfinished"></translation>
+        <translation>Öffnen</translation>
     </message>
     <message>
         <source>All files (*)</source>
@@ -20780,7 +20786,7 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>Open it again</source>
-        <translation type="unfinished"></translation>
+        <translation>Erneut öffnen</translation>
     </message>
     <message>
         <source>Keep what is here</source>
@@ -20808,7 +20814,7 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>Se&amp;ttings…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Einstellungen…</translation>
     </message>
     <message>
         <source>C&amp;lose</source>
@@ -20816,7 +20822,7 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>&amp;Quit</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Beenden</translation>
     </message>
     <message>
         <source>Save</source>
@@ -20859,7 +20865,7 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>Time</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeit</translation>
     </message>
     <message>
         <source>Penalties</source>
@@ -20871,7 +20877,7 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>Place</source>
-        <translation type="unfinished"></translation>
+        <translation>Platz</translation>
     </message>
     <message>
         <source>%1 of %2</source>
@@ -20879,7 +20885,7 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>Run</source>
-        <translation type="unfinished"></translation>
+        <translation>Lauf</translation>
     </message>
     <message>
         <source>Selected</source>
@@ -21268,11 +21274,11 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>Athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>Athlet</translation>
     </message>
     <message>
         <source>Time</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeit</translation>
     </message>
     <message>
         <source>Film</source>
@@ -21323,7 +21329,7 @@ Place, gap and percent are there as in any other.</source>
     <name>kavela::desktop::TrialPage</name>
     <message>
         <source>Start</source>
-        <translation type="unfinished"></translation>
+        <translation>Start</translation>
     </message>
     <message>
         <source>Gate %1 %2</source>
@@ -21343,7 +21349,7 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>Time</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeit</translation>
     </message>
     <message>
         <source>From the start</source>
@@ -21367,11 +21373,11 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>Splits</source>
-        <translation type="unfinished"></translation>
+        <translation>Zwischenzeiten</translation>
     </message>
     <message>
         <source>Upstream gates</source>
-        <translation type="unfinished"></translation>
+        <translation>Aufwärtstore</translation>
     </message>
     <message>
         <source>A click shows the frame of a split</source>
@@ -21465,7 +21471,7 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>Total</source>
-        <translation type="unfinished"></translation>
+        <translation>Gesamt</translation>
     </message>
     <message>
         <source>Turn</source>
@@ -21569,7 +21575,7 @@ Add one by hand with Ctrl+N, or drop split files and recordings here.</source>
     </message>
     <message>
         <source>Line</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeile</translation>
     </message>
     <message>
         <source>Reason</source>
@@ -21659,7 +21665,7 @@ Add one by hand with Ctrl+N, or drop split files and recordings here.</source>
     </message>
     <message>
         <source>Place</source>
-        <translation type="unfinished"></translation>
+        <translation>Platz</translation>
     </message>
     <message>
         <source>Event</source>
@@ -21887,7 +21893,7 @@ Add one by hand with Ctrl+N, or drop split files and recordings here.</source>
     </message>
     <message>
         <source>Where</source>
-        <translation type="unfinished"></translation>
+        <translation>Wo</translation>
     </message>
     <message>
         <source>Show this place (Enter)</source>
