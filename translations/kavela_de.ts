@@ -303,7 +303,7 @@
     </message>
     <message>
         <source>%1 is written.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ist geschrieben.</translation>
     </message>
 </context>
 <context>
@@ -428,11 +428,11 @@
     </message>
     <message>
         <source>&amp;Category</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Kategorie</translation>
     </message>
     <message>
         <source>&amp;Phase</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Phase</translation>
     </message>
     <message>
         <source>any</source>
@@ -528,51 +528,51 @@
     <name>RankingCharts</name>
     <message>
         <source>Release</source>
-        <translation type="unfinished"></translation>
+        <translation>Ausgabe</translation>
     </message>
     <message>
         <source>Position</source>
-        <translation type="unfinished"></translation>
+        <translation>Position</translation>
     </message>
     <message>
         <source>The chart begins with the first position.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Diagramm beginnt mit der ersten Position.</translation>
     </message>
     <message>
         <source>Points</source>
-        <translation type="unfinished"></translation>
+        <translation>Punkte</translation>
     </message>
     <message>
         <source>The chart begins with the first points.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Diagramm beginnt mit den ersten Punkten.</translation>
     </message>
     <message>
         <source>Touches and missed gates per run</source>
-        <translation type="unfinished"></translation>
+        <translation>Berührungen und Torfehler je Lauf</translation>
     </message>
     <message>
         <source>per run</source>
-        <translation type="unfinished"></translation>
+        <translation>je Lauf</translation>
     </message>
     <message>
         <source>Touches</source>
-        <translation type="unfinished"></translation>
+        <translation>Berührungen</translation>
     </message>
     <message>
         <source>Missed gates</source>
-        <translation type="unfinished"></translation>
+        <translation>Torfehler</translation>
     </message>
     <message>
         <source>Take the season&apos;s statistics from split files to see penalties here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Statistik der Saison aus Zwischenzeitdateien übernehmen, um hier Strafen zu sehen.</translation>
     </message>
     <message>
         <source>Behind the best of the category</source>
-        <translation type="unfinished"></translation>
+        <translation>Hinter dem Besten der Kategorie</translation>
     </message>
     <message>
         <source>%</source>
-        <translation type="unfinished"></translation>
+        <translation>%</translation>
     </message>
     <message>
         <source>Run</source>
@@ -580,14 +580,14 @@
     </message>
     <message>
         <source>Races with a time and a best time stand here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Hier stehen Rennen mit einer Zeit und einer Bestzeit.</translation>
     </message>
 </context>
 <context>
     <name>RankingSection</name>
     <message>
         <source>The release of a ranking list is a whole number such as 4</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Ausgabe einer Rangliste ist eine ganze Zahl wie 4</translation>
     </message>
 </context>
 <context>
@@ -702,7 +702,7 @@
     <name>SessionConversion</name>
     <message>
         <source>Reading…</source>
-        <translation type="unfinished"></translation>
+        <translation>Wird gelesen…</translation>
     </message>
     <message>
         <source>“%1” cannot be opened</source>
@@ -1001,7 +1001,7 @@
     </message>
     <message>
         <source>The cross course has no gates yet</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Cross-Strecke hat noch keine Tore</translation>
     </message>
     <message>
         <source>Gate %1: M marks the %2</source>
@@ -2777,7 +2777,7 @@
     </message>
     <message>
         <source>result</source>
-        <translation type="unfinished"></translation>
+        <translation>Ergebnis</translation>
     </message>
     <message>
         <source>A missed gate also saved paddling, which the rank without it does not take back.</source>
@@ -3312,11 +3312,11 @@
     </message>
     <message>
         <source>Sections</source>
-        <translation type="unfinished"></translation>
+        <translation>Abschnitte</translation>
     </message>
     <message>
         <source>Course</source>
-        <translation type="unfinished"></translation>
+        <translation>Strecke</translation>
     </message>
     <message>
         <source>Upstream gates</source>
@@ -3328,7 +3328,7 @@
     </message>
     <message>
         <source>Style</source>
-        <translation type="unfinished"></translation>
+        <translation>Stil</translation>
     </message>
     <message>
         <source>not known</source>
@@ -3376,7 +3376,7 @@
     </message>
     <message>
         <source>Runs</source>
-        <translation type="unfinished"></translation>
+        <translation>Läufe</translation>
     </message>
     <message>
         <source>Lost, s</source>
@@ -3388,7 +3388,7 @@
     </message>
     <message>
         <source>Percent</source>
-        <translation type="unfinished"></translation>
+        <translation>Prozent</translation>
     </message>
     <message>
         <source>90 % interval</source>
@@ -3428,11 +3428,11 @@
     </message>
     <message>
         <source>Gates</source>
-        <translation type="unfinished"></translation>
+        <translation>Tore</translation>
     </message>
     <message>
         <source>Touches</source>
-        <translation type="unfinished"></translation>
+        <translation>Berührungen</translation>
     </message>
     <message>
         <source>Missed</source>
@@ -3444,7 +3444,7 @@
     </message>
     <message>
         <source>All</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle</translation>
     </message>
     <message>
         <source>Type</source>
@@ -3456,7 +3456,7 @@
     </message>
     <message>
         <source>Penalties</source>
-        <translation type="unfinished"></translation>
+        <translation>Strafen</translation>
     </message>
     <message>
         <source>No run tells its penalties by gate.</source>
@@ -3468,7 +3468,7 @@
     </message>
     <message>
         <source>penalty</source>
-        <translation type="unfinished"></translation>
+        <translation>Strafe</translation>
     </message>
     <message>
         <source>Penalties by gate</source>
@@ -3659,7 +3659,7 @@
     </message>
     <message>
         <source>Notes</source>
-        <translation type="unfinished"></translation>
+        <translation>Notizen</translation>
     </message>
     <message>
         <source>Name</source>
@@ -3671,7 +3671,7 @@
     </message>
     <message>
         <source>Pen</source>
-        <translation type="unfinished"></translation>
+        <translation>Str</translation>
     </message>
     <message>
         <source>Total</source>
@@ -3679,11 +3679,11 @@
     </message>
     <message>
         <source>Gap</source>
-        <translation type="unfinished"></translation>
+        <translation>Rückstand</translation>
     </message>
     <message>
         <source>Section</source>
-        <translation type="unfinished"></translation>
+        <translation>Abschnitt</translation>
     </message>
     <message>
         <source>Best</source>
@@ -3695,7 +3695,7 @@
     </message>
     <message>
         <source>Results</source>
-        <translation type="unfinished"></translation>
+        <translation>Ergebnisse</translation>
     </message>
     <message>
         <source>Ideal run without penalties</source>
@@ -3739,7 +3739,7 @@
     </message>
     <message>
         <source>Water</source>
-        <translation type="unfinished"></translation>
+        <translation>Wasser</translation>
     </message>
     <message>
         <source>For comparison</source>
@@ -3787,7 +3787,7 @@
     </message>
     <message>
         <source>Gate</source>
-        <translation type="unfinished"></translation>
+        <translation>Tor</translation>
     </message>
     <message>
         <source>Entrance</source>
@@ -3807,11 +3807,11 @@
     </message>
     <message>
         <source>Against</source>
-        <translation type="unfinished"></translation>
+        <translation>Gegen</translation>
     </message>
     <message>
         <source>Seconds</source>
-        <translation type="unfinished"></translation>
+        <translation>Sekunden</translation>
     </message>
     <message>
         <source>Tags</source>
@@ -3855,7 +3855,7 @@
     </message>
     <message>
         <source>Penalty</source>
-        <translation type="unfinished"></translation>
+        <translation>Strafe</translation>
     </message>
     <message>
         <source>on the film</source>
@@ -4035,15 +4035,15 @@
     </message>
     <message>
         <source>SURNAME Name</source>
-        <translation type="unfinished"></translation>
+        <translation>NACHNAME Vorname</translation>
     </message>
     <message>
         <source>Club</source>
-        <translation type="unfinished"></translation>
+        <translation>Verein</translation>
     </message>
     <message>
         <source>Year</source>
-        <translation type="unfinished"></translation>
+        <translation>Jahr</translation>
     </message>
     <message>
         <source>xTime</source>
@@ -4051,7 +4051,7 @@
     </message>
     <message>
         <source>Bonus</source>
-        <translation type="unfinished"></translation>
+        <translation>Bonus</translation>
     </message>
     <message>
         <source>x Score</source>
@@ -4059,7 +4059,7 @@
     </message>
     <message>
         <source>Score</source>
-        <translation type="unfinished"></translation>
+        <translation>Wertung</translation>
     </message>
     <message>
         <source>Percent behind the best of the race and category. </source>
@@ -4887,7 +4887,7 @@
     </message>
     <message>
         <source>none</source>
-        <translation type="unfinished"></translation>
+        <translation>keine</translation>
     </message>
     <message>
         <source>Table</source>
@@ -5077,7 +5077,7 @@
     </message>
     <message>
         <source>Film</source>
-        <translation type="unfinished"></translation>
+        <translation>Film</translation>
     </message>
     <message>
         <source>State</source>
@@ -5369,7 +5369,7 @@
     </message>
     <message>
         <source>Runs</source>
-        <translation type="unfinished"></translation>
+        <translation>Läufe</translation>
     </message>
     <message>
         <source>Lost, %</source>
@@ -5397,7 +5397,7 @@
     </message>
     <message>
         <source>Gate</source>
-        <translation type="unfinished"></translation>
+        <translation>Tor</translation>
     </message>
     <message>
         <source>Gate %1 of the section</source>
@@ -5617,7 +5617,7 @@
     </message>
     <message>
         <source>Touches</source>
-        <translation type="unfinished"></translation>
+        <translation>Berührungen</translation>
     </message>
     <message>
         <source>Missed</source>
@@ -5641,7 +5641,7 @@
     </message>
     <message>
         <source>Gate %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Tor %1</translation>
     </message>
     <message>
         <source>%1 missed</source>
@@ -5673,7 +5673,7 @@
     </message>
     <message>
         <source>Section</source>
-        <translation type="unfinished"></translation>
+        <translation>Abschnitt</translation>
     </message>
     <message>
         <source>Touches %1</source>
@@ -5701,7 +5701,7 @@
     </message>
     <message>
         <source>Penalties</source>
-        <translation type="unfinished"></translation>
+        <translation>Strafen</translation>
     </message>
     <message>
         <source>Of</source>
@@ -5729,7 +5729,7 @@
     </message>
     <message>
         <source>Risk and speed</source>
-        <translation type="unfinished"></translation>
+        <translation>Risiko und Tempo</translation>
     </message>
     <message>
         <source>Paddling time, % of the group&apos;s median</source>
@@ -5777,7 +5777,7 @@
     </message>
     <message>
         <source>Position</source>
-        <translation type="unfinished"></translation>
+        <translation>Position</translation>
     </message>
     <message>
         <source>Time</source>
@@ -5785,7 +5785,7 @@
     </message>
     <message>
         <source>Penalty</source>
-        <translation type="unfinished"></translation>
+        <translation>Strafe</translation>
     </message>
     <message>
         <source>Behind best</source>
@@ -5793,7 +5793,7 @@
     </message>
     <message>
         <source>Gates</source>
-        <translation type="unfinished"></translation>
+        <translation>Tore</translation>
     </message>
     <message>
         <source>Session</source>
@@ -5801,7 +5801,7 @@
     </message>
     <message>
         <source>Missed gates</source>
-        <translation type="unfinished"></translation>
+        <translation>Torfehler</translation>
     </message>
     <message>
         <source>Athlete</source>
@@ -5913,7 +5913,7 @@
     </message>
     <message>
         <source>Against</source>
-        <translation type="unfinished"></translation>
+        <translation>Gegen</translation>
     </message>
     <message>
         <source>Ahead, %</source>
@@ -6157,7 +6157,7 @@
     </message>
     <message>
         <source>&amp;View</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ansicht</translation>
     </message>
     <message>
         <source>&amp;Zoom to the selected stretch</source>
@@ -6425,7 +6425,7 @@
     </message>
     <message>
         <source>Open races</source>
-        <translation type="unfinished"></translation>
+        <translation>Rennen öffnen</translation>
     </message>
     <message>
         <source>Split files</source>
@@ -6441,7 +6441,7 @@
     </message>
     <message>
         <source>Open split files</source>
-        <translation type="unfinished"></translation>
+        <translation>Zwischenzeitdateien öffnen</translation>
     </message>
     <message>
         <source>Split taking</source>
@@ -6465,7 +6465,7 @@
     </message>
     <message>
         <source>Open a folder of films</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordner mit Filmen öffnen</translation>
     </message>
     <message>
         <source>Kayak cross</source>
@@ -6597,7 +6597,7 @@
     </message>
     <message>
         <source>Season</source>
-        <translation type="unfinished"></translation>
+        <translation>Saison</translation>
     </message>
     <message>
         <source>How a team&apos;s athletes stand: trend, rivals, medals, what it takes.</source>
@@ -6713,7 +6713,7 @@
     </message>
     <message>
         <source>Course</source>
-        <translation type="unfinished"></translation>
+        <translation>Strecke</translation>
     </message>
     <message>
         <source>The course drawn: banks, gates, split lines and the lines of runs.</source>
@@ -6772,7 +6772,7 @@
     </message>
     <message>
         <source>SURNAME Name</source>
-        <translation type="unfinished"></translation>
+        <translation>NACHNAME Vorname</translation>
     </message>
     <message>
         <source>unknown</source>
@@ -6800,7 +6800,7 @@
     </message>
     <message>
         <source>none</source>
-        <translation type="unfinished"></translation>
+        <translation>keine</translation>
     </message>
     <message>
         <source>Bonus %1 (percent)</source>
@@ -6815,7 +6815,7 @@
     </message>
     <message>
         <source>Season</source>
-        <translation type="unfinished"></translation>
+        <translation>Saison</translation>
     </message>
     <message>
         <source>none yet</source>
@@ -6912,7 +6912,7 @@
     </message>
     <message>
         <source>Boats</source>
-        <translation type="unfinished"></translation>
+        <translation>Boote</translation>
     </message>
     <message>
         <source>Ret.</source>
@@ -6947,7 +6947,7 @@
     </message>
     <message>
         <source>Attacker</source>
-        <translation type="unfinished"></translation>
+        <translation>Angreifer</translation>
     </message>
     <message>
         <source>on</source>
@@ -6955,7 +6955,7 @@
     </message>
     <message>
         <source>attacker</source>
-        <translation type="unfinished"></translation>
+        <translation>Angreifer</translation>
     </message>
     <message>
         <source>outcome of an attack</source>
@@ -6963,11 +6963,11 @@
     </message>
     <message>
         <source>Comment</source>
-        <translation type="unfinished"></translation>
+        <translation>Kommentar</translation>
     </message>
     <message>
         <source>Side</source>
-        <translation type="unfinished"></translation>
+        <translation>Seite</translation>
     </message>
     <message>
         <source>Place</source>
@@ -7003,7 +7003,7 @@
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>Entfernen</translation>
     </message>
     <message>
         <source>Removes the attack</source>
@@ -7027,7 +7027,7 @@
     </message>
     <message>
         <source>defenders</source>
-        <translation type="unfinished"></translation>
+        <translation>Verteidiger</translation>
     </message>
     <message>
         <source>%1 defends</source>
@@ -7042,11 +7042,11 @@
     </message>
     <message>
         <source>S%1</source>
-        <translation type="unfinished"></translation>
+        <translation>A%1</translation>
     </message>
     <message>
         <source>Season</source>
-        <translation type="unfinished"></translation>
+        <translation>Saison</translation>
     </message>
     <message>
         <source>Phase</source>
@@ -7121,11 +7121,11 @@
     </message>
     <message>
         <source>Left</source>
-        <translation type="unfinished"></translation>
+        <translation>Links</translation>
     </message>
     <message>
         <source>Right</source>
-        <translation type="unfinished"></translation>
+        <translation>Rechts</translation>
     </message>
     <message>
         <source>Differences under %1 % are no finding</source>
@@ -7375,7 +7375,7 @@ Press Insert to add one, or import a list.</source>
     <name>kavela::desktop::ChartPanel</name>
     <message>
         <source>Charts</source>
-        <translation type="unfinished"></translation>
+        <translation>Diagramme</translation>
     </message>
     <message>
         <source>&amp;Reference</source>
@@ -7383,7 +7383,7 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>Reference</source>
-        <translation type="unfinished"></translation>
+        <translation>Referenz</translation>
     </message>
     <message>
         <source>What the runs are held against</source>
@@ -7391,19 +7391,19 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>Fit</source>
-        <translation type="unfinished"></translation>
+        <translation>Einpassen</translation>
     </message>
     <message>
         <source>Show everything again (or double click)</source>
-        <translation type="unfinished"></translation>
+        <translation>Wieder alles zeigen (oder Doppelklick)</translation>
     </message>
     <message>
         <source>Save chart…</source>
-        <translation type="unfinished"></translation>
+        <translation>Diagramm speichern…</translation>
     </message>
     <message>
         <source>Save as PNG, SVG or CSV</source>
-        <translation type="unfinished"></translation>
+        <translation>Als PNG, SVG oder CSV speichern</translation>
     </message>
     <message>
         <source>Best run</source>
@@ -7422,7 +7422,7 @@ Press Insert to add one, or import a list.</source>
     <name>kavela::desktop::ChartTabs</name>
     <message>
         <source>Season</source>
-        <translation type="unfinished"></translation>
+        <translation>Saison</translation>
     </message>
     <message>
         <source>Race progression</source>
@@ -7442,7 +7442,7 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>Save chart…</source>
-        <translation type="unfinished"></translation>
+        <translation>Diagramm speichern…</translation>
     </message>
     <message>
         <source>As a picture (PNG, SVG) or as CSV (Ctrl+E)</source>
@@ -7662,7 +7662,7 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>Comment</source>
-        <translation type="unfinished"></translation>
+        <translation>Kommentar</translation>
     </message>
     <message>
         <source>athlete</source>
@@ -7723,7 +7723,7 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>Film</source>
-        <translation type="unfinished"></translation>
+        <translation>Film</translation>
     </message>
     <message>
         <source>It is not marked from the start to a split.</source>
@@ -7926,11 +7926,11 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>Section</source>
-        <translation type="unfinished"></translation>
+        <translation>Abschnitt</translation>
     </message>
     <message>
         <source>Penalties</source>
-        <translation type="unfinished"></translation>
+        <translation>Strafen</translation>
     </message>
     <message>
         <source>Chart of the gap</source>
@@ -7974,7 +7974,7 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>none</source>
-        <translation type="unfinished"></translation>
+        <translation>keine</translation>
     </message>
 </context>
 <context>
@@ -8223,7 +8223,7 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>Year</source>
-        <translation type="unfinished"></translation>
+        <translation>Jahr</translation>
     </message>
     <message>
         <source>Median behind the winner, %</source>
@@ -8254,15 +8254,15 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>Gate</source>
-        <translation type="unfinished"></translation>
+        <translation>Tor</translation>
     </message>
     <message>
         <source>Section</source>
-        <translation type="unfinished"></translation>
+        <translation>Abschnitt</translation>
     </message>
     <message>
         <source>Seconds</source>
-        <translation type="unfinished"></translation>
+        <translation>Sekunden</translation>
     </message>
     <message>
         <source>2 for a touch, 50 for a missed gate</source>
@@ -8352,7 +8352,7 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>Gates</source>
-        <translation type="unfinished"></translation>
+        <translation>Tore</translation>
     </message>
     <message>
         <source>Race and course</source>
@@ -8380,7 +8380,7 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>Water</source>
-        <translation type="unfinished"></translation>
+        <translation>Wasser</translation>
     </message>
     <message>
         <source>Technique</source>
@@ -8603,11 +8603,11 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     <name>kavela::desktop::CourseStrip</name>
     <message>
         <source>Course</source>
-        <translation type="unfinished"></translation>
+        <translation>Strecke</translation>
     </message>
     <message>
         <source>Gates</source>
-        <translation type="unfinished"></translation>
+        <translation>Tore</translation>
     </message>
     <message>
         <source>Such as 1, 2, 3, 4</source>
@@ -8665,7 +8665,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     <name>kavela::desktop::CrossActions</name>
     <message>
         <source>&amp;Open a split file…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Zwischenzeitdatei öffnen…</translation>
     </message>
     <message>
         <source>&amp;Save data</source>
@@ -8673,19 +8673,19 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Open a &amp;folder of films…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ordner mit Filmen öffnen…</translation>
     </message>
     <message>
         <source>Open a folder of films</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordner mit Filmen öffnen</translation>
     </message>
     <message>
         <source>&amp;Import films of time trials…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Filme von Zeitfahren importieren…</translation>
     </message>
     <message>
         <source>Film of the selected trial or &amp;heat…</source>
-        <translation type="unfinished"></translation>
+        <translation>Film des gewählten Zeitfahrens oder &amp;Heats…</translation>
     </message>
     <message>
         <source>&amp;Where are the films now?…</source>
@@ -8693,7 +8693,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Split &amp;taking of this race</source>
-        <translation type="unfinished"></translation>
+        <translation>Zwischenzei&amp;tnahme dieses Rennens</translation>
     </message>
     <message>
         <source>Show in the race &amp;analyzer</source>
@@ -8701,7 +8701,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Open a split file</source>
-        <translation type="unfinished"></translation>
+        <translation>Zwischenzeitdatei öffnen</translation>
     </message>
     <message>
         <source>Split files (*.kvx);;All files (*)</source>
@@ -8709,19 +8709,19 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>&amp;Course of the cross race</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Strecke des Cross-Rennens</translation>
     </message>
     <message>
         <source>&amp;Previous trial or heat</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Voriges Zeitfahren oder Heat</translation>
     </message>
     <message>
         <source>&amp;Next trial or heat</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Nächstes Zeitfahren oder Heat</translation>
     </message>
     <message>
         <source>Copy the &amp;results</source>
-        <translation type="unfinished"></translation>
+        <translation>Ergebnisse &amp;kopieren</translation>
     </message>
     <message>
         <source>&amp;Mark</source>
@@ -8729,106 +8729,106 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>&amp;Mark the frame shown</source>
-        <translation type="unfinished"></translation>
+        <translation>Gezeigtes Bild &amp;markieren</translation>
     </message>
     <message>
         <source>To the first mark</source>
-        <translation type="unfinished"></translation>
+        <translation>Zur ersten Marke</translation>
     </message>
     <message>
         <source>Next &amp;gate</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Nächstes Tor</translation>
     </message>
     <message>
         <source>Previous g&amp;ate</source>
-        <translation type="unfinished"></translation>
+        <translation>V&amp;origes Tor</translation>
     </message>
     <message>
         <source>Split, gate or boat &amp;%1</source>
-        <translation type="unfinished"></translation>
+        <translation>Zwischenzeit, Tor oder Boot &amp;%1</translation>
     </message>
     <message>
         <source>&amp;Time trials</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Zeitfahren</translation>
     </message>
     <message>
         <source>&amp;Add an athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Athleten hinzufügen</translation>
     </message>
     <message>
         <source>M marks the &amp;splits</source>
-        <translation type="unfinished"></translation>
+        <translation>M markiert die &amp;Zwischenzeiten</translation>
     </message>
     <message>
         <source>M marks the &amp;upstream gates</source>
-        <translation type="unfinished"></translation>
+        <translation>M markiert die A&amp;ufwärtstore</translation>
     </message>
     <message>
         <source>M marks the &amp;roll</source>
-        <translation type="unfinished"></translation>
+        <translation>M markiert die &amp;Rolle</translation>
     </message>
     <message>
         <source>Re&amp;name the athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>Athleten um&amp;benennen</translation>
     </message>
     <message>
         <source>R&amp;emove the trial</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeitfahren &amp;entfernen</translation>
     </message>
     <message>
         <source>Make &amp;heats from the trials</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Heats aus den Zeitfahren machen</translation>
     </message>
     <message>
         <source>&amp;Heats</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Heats</translation>
     </message>
     <message>
         <source>&amp;Add a heat…</source>
-        <translation type="unfinished"></translation>
+        <translation>Heat &amp;hinzufügen…</translation>
     </message>
     <message>
         <source>A&amp;ttack, beginning here</source>
-        <translation type="unfinished"></translation>
+        <translation>An&amp;griff, der hier beginnt</translation>
     </message>
     <message>
         <source>&amp;End of the attack</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ende des Angriffs</translation>
     </message>
     <message>
         <source>Compare &amp;films of the heat…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Filme des Heats vergleichen…</translation>
     </message>
     <message>
         <source>&amp;Names of the boats…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Namen der Boote…</translation>
     </message>
     <message>
         <source>&amp;Remove the heat</source>
-        <translation type="unfinished"></translation>
+        <translation>Heat en&amp;tfernen</translation>
     </message>
     <message>
         <source>&amp;View</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ansicht</translation>
     </message>
     <message>
         <source>&amp;Results</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ergebnisse</translation>
     </message>
     <message>
         <source>Time trial</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeitfahren</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::CrossPage</name>
     <message>
         <source>There is no film to mark on.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein Film da, auf dem zu markieren wäre.</translation>
     </message>
     <message>
         <source>Nothing can be marked: %1 is not in the folder of the split file. File &gt; Where are the films now?</source>
-        <translation type="unfinished"></translation>
+        <translation>Nichts kann markiert werden: %1 ist nicht im Ordner der Zwischenzeitdatei. Datei &gt; Wo sind die Filme jetzt?</translation>
     </message>
     <message>
         <source>No mark is selected. Ctrl and the arrows go from mark to mark.</source>
@@ -8839,58 +8839,58 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     <name>kavela::desktop::CrossWindow</name>
     <message>
         <source>kayak cross</source>
-        <translation type="unfinished"></translation>
+        <translation>Kajak-Cross</translation>
     </message>
     <message>
         <source>Time trials</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeitfahren</translation>
     </message>
     <message>
         <source>Heats</source>
-        <translation type="unfinished"></translation>
+        <translation>Heats</translation>
     </message>
     <message>
         <source>Results</source>
-        <translation type="unfinished"></translation>
+        <translation>Ergebnisse</translation>
     </message>
     <message>
         <source>films of the folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Filme des Ordners</translation>
     </message>
     <message>
         <source>Import films with Ctrl+I, or drop them here: each becomes a time trial.</source>
-        <translation type="unfinished"></translation>
+        <translation>Filme mit Strg+I importieren oder hierher ziehen: jeder wird ein Zeitfahren.</translation>
     </message>
     <message>
         <source>No film yet. Ctrl+Shift+I chooses the film of what is selected; films can be dropped here too.</source>
-        <translation type="unfinished"></translation>
+        <translation>Noch kein Film. Strg+Umschalt+I wählt den Film des Gewählten; Filme lassen sich auch hierher ziehen.</translation>
     </message>
     <message>
         <source>%1 is not in the folder of the split file. Ctrl+Shift+I chooses another film.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ist nicht im Ordner der Zwischenzeitdatei. Strg+Umschalt+I wählt einen anderen Film.</translation>
     </message>
     <message>
         <source>Not found: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nicht gefunden: %1.</translation>
     </message>
     <message>
         <source>Import films of time trials</source>
-        <translation type="unfinished"></translation>
+        <translation>Filme von Zeitfahren importieren</translation>
     </message>
     <message>
         <source>Choose the film of the trial or heat</source>
-        <translation type="unfinished"></translation>
+        <translation>Film des Zeitfahrens oder Heats wählen</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::CrossingSearch</name>
     <message>
         <source>The slit picture shows what stood on the line all the same.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Schlitzbild zeigt trotzdem, was auf der Linie stand.</translation>
     </message>
     <message>
         <source>No boat was found that crosses this line in the direction of the arrow.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein Boot gefunden, das diese Linie in Richtung des Pfeils überquert.</translation>
     </message>
 </context>
 <context>
@@ -8949,7 +8949,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Reading…</source>
-        <translation type="unfinished"></translation>
+        <translation>Wird gelesen…</translation>
     </message>
     <message>
         <source>This gives no samples.</source>
@@ -8992,7 +8992,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Seconds</source>
-        <translation type="unfinished"></translation>
+        <translation>Sekunden</translation>
     </message>
     <message>
         <source>Milliseconds</source>
@@ -9362,7 +9362,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Film</source>
-        <translation type="unfinished"></translation>
+        <translation>Film</translation>
     </message>
     <message>
         <source>Type the name of another film to correct a single one</source>
@@ -9563,7 +9563,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Penalties</source>
-        <translation type="unfinished"></translation>
+        <translation>Strafen</translation>
     </message>
     <message>
         <source>of</source>
@@ -9804,7 +9804,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>&amp;Category</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Kategorie</translation>
     </message>
     <message>
         <source>Pha&amp;se</source>
@@ -9816,7 +9816,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Score</source>
-        <translation type="unfinished"></translation>
+        <translation>Wertung</translation>
     </message>
     <message>
         <source>Taken from</source>
@@ -9955,7 +9955,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>Entfernen</translation>
     </message>
     <message>
         <source>1 exercise</source>
@@ -10301,23 +10301,23 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     <name>kavela::desktop::FilmBrowser</name>
     <message>
         <source>Filter: k1w 12 semi</source>
-        <translation type="unfinished"></translation>
+        <translation>Filter: k1w 12 semi</translation>
     </message>
     <message>
         <source>No film here. Open a folder of films with Ctrl+O, or drop one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein Film hier. Einen Ordner mit Filmen mit Strg+O öffnen oder hierher ziehen.</translation>
     </message>
     <message>
         <source>No tag yet: M sets one where a film stands.</source>
-        <translation type="unfinished"></translation>
+        <translation>Noch keine Markierung: M setzt eine, wo ein Film steht.</translation>
     </message>
     <message>
         <source>List</source>
-        <translation type="unfinished"></translation>
+        <translation>Liste</translation>
     </message>
     <message>
         <source>Tiles</source>
-        <translation type="unfinished"></translation>
+        <translation>Kacheln</translation>
     </message>
     <message>
         <source>Tags</source>
@@ -10325,307 +10325,308 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>%1 films</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Filme</translation>
     </message>
     <message>
         <source>%1 of %2 films</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 von %2 Filmen</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::FilmCutting</name>
     <message>
         <source>%1 cut</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 geschnitten</translation>
     </message>
     <message>
         <source>Cut into a new film</source>
-        <translation type="unfinished"></translation>
+        <translation>In einen neuen Film schneiden</translation>
     </message>
     <message>
         <source>Films (*.mp4 *.mov *.m4v)</source>
-        <translation type="unfinished"></translation>
+        <translation>Filme (*.mp4 *.mov *.m4v)</translation>
     </message>
     <message>
         <source>Cutting %1…</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 wird geschnitten…</translation>
     </message>
     <message>
         <source>The film could not be cut</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Film ließ sich nicht schneiden</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::FilmDeck</name>
     <message>
         <source>The film was closed before it had been read so far.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Film wurde geschlossen, ehe er so weit gelesen war.</translation>
     </message>
     <message>
         <source>The film has not been read so far yet: nothing was marked.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Film ist noch nicht so weit gelesen: nichts wurde markiert.</translation>
     </message>
     <message>
         <source>The film has not been read so far yet: no frame to step from.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Film ist noch nicht so weit gelesen: kein Bild, von dem aus es weiterginge.</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::FilmPlaying</name>
     <message>
         <source>Choose a film on the left.</source>
-        <translation type="unfinished"></translation>
+        <translation>Links einen Film wählen.</translation>
     </message>
     <message>
         <source>The film is no longer there:
 %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Film ist nicht mehr da:
+%1</translation>
     </message>
     <message>
         <source>That was the last one</source>
-        <translation type="unfinished"></translation>
+        <translation>Das war der letzte</translation>
     </message>
     <message>
         <source>This is the first one</source>
-        <translation type="unfinished"></translation>
+        <translation>Das ist der erste</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::FilmShelf</name>
     <message>
         <source>Renaming films…</source>
-        <translation type="unfinished"></translation>
+        <translation>Filme werden umbenannt…</translation>
     </message>
     <message>
         <source>“%1” has films that are to be renamed, and is open in another window. Close it there first.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ hat Filme, die umzubenennen sind, und ist in einem anderen Fenster offen. Dort erst schließen.</translation>
     </message>
     <message>
         <source>A renaming was cut off here, and its note cannot be read: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Umbenennen wurde hier unterbrochen, und sein Vermerk ist nicht lesbar: %1</translation>
     </message>
     <message>
         <source>Renaming was cut off</source>
-        <translation type="unfinished"></translation>
+        <translation>Umbenennen wurde unterbrochen</translation>
     </message>
     <message numerus="yes">
         <source>%n film(s) of this folder were being renamed when the program ended. No film is lost: the renaming can be completed, or undone.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Film dieses Ordners wurde gerade umbenannt, als das Programm endete. Kein Film ist verloren: das Umbenennen lässt sich abschließen oder zurücknehmen.</numerusform>
+            <numerusform>%n Filme dieses Ordners wurden gerade umbenannt, als das Programm endete. Kein Film ist verloren: das Umbenennen lässt sich abschließen oder zurücknehmen.</numerusform>
         </translation>
     </message>
     <message>
         <source>Complete it</source>
-        <translation type="unfinished"></translation>
+        <translation>Abschließen</translation>
     </message>
     <message>
         <source>Undo it</source>
-        <translation type="unfinished"></translation>
+        <translation>Zurücknehmen</translation>
     </message>
     <message>
         <source>This tag is of the split file: split taking edits it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Markierung gehört zur Zwischenzeitdatei: die Zwischenzeitnahme bearbeitet sie.</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::FilmStage</name>
     <message>
         <source>Typing: Esc gives the keys back to the film</source>
-        <translation type="unfinished"></translation>
+        <translation>Tippen: Esc gibt dem Film die Tasten zurück</translation>
     </message>
     <message>
         <source>Fixed: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Fest: %1</translation>
     </message>
     <message>
         <source>Where are the films now?…</source>
-        <translation type="unfinished"></translation>
+        <translation>Wo sind die Filme jetzt?…</translation>
     </message>
     <message>
         <source>Playing %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Wiedergabe %1</translation>
     </message>
     <message>
         <source>Paused, %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Pause, %1</translation>
     </message>
     <message>
         <source>Camera %1: </source>
-        <translation type="unfinished"></translation>
+        <translation>Kamera %1: </translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::FilmTiles</name>
     <message>
         <source>No picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein Bild</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::FilmView</name>
     <message>
         <source>frame %1   %2 s</source>
-        <translation type="unfinished"></translation>
+        <translation>Bild %1   %2 s</translation>
     </message>
     <message>
         <source>  ±%1</source>
-        <translation type="unfinished"></translation>
+        <translation>  ±%1</translation>
     </message>
     <message>
         <source>…</source>
-        <translation type="unfinished"></translation>
+        <translation>…</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::FilmsActions</name>
     <message>
         <source>&amp;Open a folder…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ordner öffnen…</translation>
     </message>
     <message>
         <source>Folders opened &amp;before</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Früher geöffnete Ordner</translation>
     </message>
     <message>
         <source>&amp;Read again</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Erneut lesen</translation>
     </message>
     <message>
         <source>&amp;Edit</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Bearbeiten</translation>
     </message>
     <message>
         <source>&amp;Undo the renaming</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Umbenennen zurücknehmen</translation>
     </message>
     <message>
         <source>&amp;Rename them again</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Erneut umbenennen</translation>
     </message>
     <message>
         <source>&amp;Filter the films</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Filme filtern</translation>
     </message>
     <message>
         <source>Re&amp;name films…</source>
-        <translation type="unfinished"></translation>
+        <translation>Filme u&amp;mbenennen…</translation>
     </message>
     <message>
         <source>F&amp;ilms</source>
-        <translation type="unfinished"></translation>
+        <translation>F&amp;ilme</translation>
     </message>
     <message>
         <source>&amp;Play from the beginning</source>
-        <translation type="unfinished"></translation>
+        <translation>Von &amp;Anfang an abspielen</translation>
     </message>
     <message>
         <source>&amp;Next film</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Nächster Film</translation>
     </message>
     <message>
         <source>Pre&amp;vious film</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Voriger Film</translation>
     </message>
     <message>
         <source>&amp;List</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Liste</translation>
     </message>
     <message>
         <source>&amp;Tiles</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Kacheln</translation>
     </message>
     <message>
         <source>T&amp;ags</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Markierungen</translation>
     </message>
     <message>
         <source>Mark as &amp;watched</source>
-        <translation type="unfinished"></translation>
+        <translation>Als an&amp;gesehen markieren</translation>
     </message>
     <message>
         <source>Mark as n&amp;ot watched</source>
-        <translation type="unfinished"></translation>
+        <translation>Als ni&amp;cht angesehen markieren</translation>
     </message>
     <message>
         <source>A &amp;click plays</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein &amp;Klick spielt ab</translation>
     </message>
     <message>
         <source>The next one &amp;follows</source>
-        <translation type="unfinished"></translation>
+        <translation>Der nächste &amp;folgt</translation>
     </message>
     <message>
         <source>Begin at the first &amp;mark</source>
-        <translation type="unfinished"></translation>
+        <translation>Bei der ersten &amp;Marke beginnen</translation>
     </message>
     <message>
         <source>&amp;Tags</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Markierungen</translation>
     </message>
     <message>
         <source>&amp;Tag this frame</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieses &amp;Bild markieren</translation>
     </message>
     <message>
         <source>Tag with a &amp;saved name</source>
-        <translation type="unfinished"></translation>
+        <translation>Mit &amp;gespeichertem Namen markieren</translation>
     </message>
     <message>
         <source>Saved tag %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Gespeicherte Markierung %1</translation>
     </message>
     <message>
         <source>Move the selected tag &amp;here</source>
-        <translation type="unfinished"></translation>
+        <translation>Gewählte Markierung &amp;hierher</translation>
     </message>
     <message>
         <source>Tag one frame &amp;earlier</source>
-        <translation type="unfinished"></translation>
+        <translation>Markierung ein Bild &amp;früher</translation>
     </message>
     <message>
         <source>Tag one frame &amp;later</source>
-        <translation type="unfinished"></translation>
+        <translation>Markierung ein Bild &amp;später</translation>
     </message>
     <message>
         <source>&amp;Remove the selected tag</source>
-        <translation type="unfinished"></translation>
+        <translation>Gewählte Markierung &amp;entfernen</translation>
     </message>
     <message>
         <source>&amp;Previous tag</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Vorige Markierung</translation>
     </message>
     <message>
         <source>&amp;Next tag</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Nächste Markierung</translation>
     </message>
     <message>
         <source>Play &amp;just the part around a tag</source>
-        <translation type="unfinished"></translation>
+        <translation>Nur den &amp;Teil um eine Markierung abspielen</translation>
     </message>
     <message>
         <source>&amp;Cut</source>
-        <translation type="unfinished"></translation>
+        <translation>S&amp;chnitt</translation>
     </message>
     <message>
         <source>The cut &amp;begins here</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Schnitt &amp;beginnt hier</translation>
     </message>
     <message>
         <source>The cut &amp;ends here</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Schnitt &amp;endet hier</translation>
     </message>
     <message>
         <source>&amp;Give the ends up</source>
-        <translation type="unfinished"></translation>
+        <translation>Enden &amp;aufgeben</translation>
     </message>
     <message>
         <source>Cut by &amp;copying…</source>
-        <translation type="unfinished"></translation>
+        <translation>Durch &amp;Kopieren schneiden…</translation>
     </message>
     <message>
         <source>Cut e&amp;xactly…</source>
-        <translation type="unfinished"></translation>
+        <translation>E&amp;xakt schneiden…</translation>
     </message>
     <message>
         <source>Films</source>
@@ -10640,31 +10641,31 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>&amp;Tag that M sets:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Markierung, die M setzt:</translation>
     </message>
     <message>
         <source>Cut</source>
-        <translation type="unfinished"></translation>
+        <translation>Schneiden</translation>
     </message>
     <message>
         <source>Cut into %1</source>
-        <translation type="unfinished"></translation>
+        <translation>In %1 geschnitten</translation>
     </message>
     <message>
         <source>“%1” is not there.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ ist nicht da.</translation>
     </message>
     <message>
         <source>Open a folder of films</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordner mit Filmen öffnen</translation>
     </message>
     <message>
         <source>Reading…</source>
-        <translation type="unfinished"></translation>
+        <translation>Wird gelesen…</translation>
     </message>
     <message>
         <source>⚠ Not read: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>⚠ Nicht gelesen: %1</translation>
     </message>
 </context>
 <context>
@@ -10683,15 +10684,15 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>&amp;Read again</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Erneut lesen</translation>
     </message>
     <message>
         <source>S&amp;top reading</source>
-        <translation type="unfinished"></translation>
+        <translation>Lesen &amp;anhalten</translation>
     </message>
     <message>
         <source>Files that could not be rea&amp;d…</source>
-        <translation type="unfinished"></translation>
+        <translation>Dateien, die nicht &amp;lesbar waren…</translation>
     </message>
     <message>
         <source>Save the result as &amp;CSV…</source>
@@ -10778,7 +10779,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>1 file</source>
-        <translation type="unfinished"></translation>
+        <translation>1 Datei</translation>
     </message>
     <message>
         <source>1 run</source>
@@ -10818,9 +10819,9 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message numerus="yes">
         <source>%n files</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Datei</numerusform>
+            <numerusform>%n Dateien</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -10882,7 +10883,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>penalty</source>
-        <translation type="unfinished"></translation>
+        <translation>Strafe</translation>
     </message>
     <message>
         <source>penalties</source>
@@ -10985,7 +10986,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Gap</source>
-        <translation type="unfinished"></translation>
+        <translation>Rückstand</translation>
     </message>
     <message>
         <source>in %1</source>
@@ -10997,7 +10998,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Section</source>
-        <translation type="unfinished"></translation>
+        <translation>Abschnitt</translation>
     </message>
     <message>
         <source>Title</source>
@@ -11036,11 +11037,11 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Gate</source>
-        <translation type="unfinished"></translation>
+        <translation>Tor</translation>
     </message>
     <message>
         <source>Runs</source>
-        <translation type="unfinished"></translation>
+        <translation>Läufe</translation>
     </message>
     <message>
         <source>Missed gate, 50 s</source>
@@ -11060,11 +11061,11 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Gate %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Tor %1</translation>
     </message>
     <message>
         <source>Touches</source>
-        <translation type="unfinished"></translation>
+        <translation>Berührungen</translation>
     </message>
     <message>
         <source>Missed</source>
@@ -11084,14 +11085,14 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Gates</source>
-        <translation type="unfinished"></translation>
+        <translation>Tore</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::GateForm</name>
     <message>
         <source>Gate</source>
-        <translation type="unfinished"></translation>
+        <translation>Tor</translation>
     </message>
     <message>
         <source>In</source>
@@ -11115,7 +11116,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Style</source>
-        <translation type="unfinished"></translation>
+        <translation>Stil</translation>
     </message>
     <message>
         <source>A click brings a gate in front</source>
@@ -11138,7 +11139,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Gate %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Tor %1</translation>
     </message>
     <message>
         <source>
@@ -11240,7 +11241,7 @@ T touch, F missed, 0 clean; N and P next and previous gate</source>
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>Entfernen</translation>
     </message>
     <message>
         <source>Delete</source>
@@ -11328,7 +11329,7 @@ T touch, F missed, 0 clean; N and P next and previous gate</source>
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>Entfernen</translation>
     </message>
     <message>
         <source>removal of gym sessions</source>
@@ -11389,11 +11390,11 @@ Press Insert to add one.</source>
     <name>kavela::desktop::HeatAttacks</name>
     <message>
         <source>✓ passed</source>
-        <translation type="unfinished"></translation>
+        <translation>✓ vorbei</translation>
     </message>
     <message>
         <source>✗ held</source>
-        <translation type="unfinished"></translation>
+        <translation>✗ gehalten</translation>
     </message>
     <message>
         <source>Start</source>
@@ -11401,15 +11402,15 @@ Press Insert to add one.</source>
     </message>
     <message>
         <source>End</source>
-        <translation type="unfinished"></translation>
+        <translation>Ende</translation>
     </message>
     <message>
         <source>Attacker</source>
-        <translation type="unfinished"></translation>
+        <translation>Angreifer</translation>
     </message>
     <message>
         <source>On</source>
-        <translation type="unfinished"></translation>
+        <translation>Auf</translation>
     </message>
     <message>
         <source>Outcome</source>
@@ -11417,7 +11418,7 @@ Press Insert to add one.</source>
     </message>
     <message>
         <source>Side</source>
-        <translation type="unfinished"></translation>
+        <translation>Seite</translation>
     </message>
     <message>
         <source>Place</source>
@@ -11425,7 +11426,7 @@ Press Insert to add one.</source>
     </message>
     <message>
         <source>Comment</source>
-        <translation type="unfinished"></translation>
+        <translation>Kommentar</translation>
     </message>
     <message>
         <source>Attacks</source>
@@ -11433,200 +11434,200 @@ Press Insert to add one.</source>
     </message>
     <message>
         <source>Attack at this frame</source>
-        <translation type="unfinished"></translation>
+        <translation>Angriff bei diesem Bild</translation>
     </message>
     <message>
         <source>An attack starts here: then press the number of the attacker and those of the defenders</source>
-        <translation type="unfinished"></translation>
+        <translation>Hier beginnt ein Angriff: dann die Nummer des Angreifers und die der Verteidiger drücken</translation>
     </message>
     <message>
         <source>A click shows the frame of an attack</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Klick zeigt das Bild eines Angriffs</translation>
     </message>
     <message>
         <source>Gate %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Tor %1</translation>
     </message>
     <message>
         <source>attack</source>
-        <translation type="unfinished"></translation>
+        <translation>Angriff</translation>
     </message>
     <message>
         <source>Attack: number of the attacker, then of the defenders</source>
-        <translation type="unfinished"></translation>
+        <translation>Angriff: Nummer des Angreifers, dann der Verteidiger</translation>
     </message>
     <message>
         <source>An attack without a moment, since there is no film: press the number of the attacker, then those of the defenders.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Angriff ohne Moment, weil kein Film da ist: die Nummer des Angreifers drücken, dann die der Verteidiger.</translation>
     </message>
     <message>
         <source>attacker</source>
-        <translation type="unfinished"></translation>
+        <translation>Angreifer</translation>
     </message>
     <message>
         <source>defenders</source>
-        <translation type="unfinished"></translation>
+        <translation>Verteidiger</translation>
     </message>
     <message>
         <source>moment of an attack</source>
-        <translation type="unfinished"></translation>
+        <translation>Moment eines Angriffs</translation>
     </message>
     <message>
         <source>end of an attack removed</source>
-        <translation type="unfinished"></translation>
+        <translation>Ende eines Angriffs entfernt</translation>
     </message>
     <message>
         <source>attack removed</source>
-        <translation type="unfinished"></translation>
+        <translation>Angriff entfernt</translation>
     </message>
     <message>
         <source>Start ramp</source>
-        <translation type="unfinished"></translation>
+        <translation>Startrampe</translation>
     </message>
     <message>
         <source>Roll</source>
-        <translation type="unfinished"></translation>
+        <translation>Rolle</translation>
     </message>
     <message>
         <source>Eddy</source>
-        <translation type="unfinished"></translation>
+        <translation>Kehrwasser</translation>
     </message>
     <message>
         <source>Drop</source>
-        <translation type="unfinished"></translation>
+        <translation>Abfall</translation>
     </message>
     <message>
         <source>Wave</source>
-        <translation type="unfinished"></translation>
+        <translation>Welle</translation>
     </message>
     <message>
         <source>Flat water</source>
-        <translation type="unfinished"></translation>
+        <translation>Flachwasser</translation>
     </message>
     <message>
         <source>Finish</source>
-        <translation type="unfinished"></translation>
+        <translation>Ziel</translation>
     </message>
     <message>
         <source>Left</source>
-        <translation type="unfinished"></translation>
+        <translation>Links</translation>
     </message>
     <message>
         <source>Right</source>
-        <translation type="unfinished"></translation>
+        <translation>Rechts</translation>
     </message>
     <message>
         <source>Inside</source>
-        <translation type="unfinished"></translation>
+        <translation>Innen</translation>
     </message>
     <message>
         <source>Outside</source>
-        <translation type="unfinished"></translation>
+        <translation>Außen</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::HeatDialog</name>
     <message>
         <source>Add a heat</source>
-        <translation type="unfinished"></translation>
+        <translation>Heat hinzufügen</translation>
     </message>
     <message>
         <source>Names of the boats</source>
-        <translation type="unfinished"></translation>
+        <translation>Namen der Boote</translation>
     </message>
     <message>
         <source>Boat %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Boot %1</translation>
     </message>
     <message>
         <source>Each boat needs a name.</source>
-        <translation type="unfinished"></translation>
+        <translation>Jedes Boot braucht einen Namen.</translation>
     </message>
     <message>
         <source>%1 stands twice in the heat.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 steht zweimal im Heat.</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::HeatList</name>
     <message>
         <source>none</source>
-        <translation type="unfinished"></translation>
+        <translation>keine</translation>
     </message>
     <message>
         <source>⚠ missing: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>⚠ fehlt: %1</translation>
     </message>
     <message>
         <source>%1 of %2 gates</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 von %2 Toren</translation>
     </message>
     <message>
         <source>Heat</source>
-        <translation type="unfinished"></translation>
+        <translation>Heat</translation>
     </message>
     <message>
         <source>Boats</source>
-        <translation type="unfinished"></translation>
+        <translation>Boote</translation>
     </message>
     <message>
         <source>Film</source>
-        <translation type="unfinished"></translation>
+        <translation>Film</translation>
     </message>
     <message>
         <source>Taken</source>
-        <translation type="unfinished"></translation>
+        <translation>Erfasst</translation>
     </message>
     <message>
         <source>Add a heat…</source>
-        <translation type="unfinished"></translation>
+        <translation>Heat hinzufügen…</translation>
     </message>
     <message>
         <source>Adds a heat of up to four boats</source>
-        <translation type="unfinished"></translation>
+        <translation>Fügt einen Heat mit bis zu vier Booten hinzu</translation>
     </message>
     <message>
         <source>Names…</source>
-        <translation type="unfinished"></translation>
+        <translation>Namen…</translation>
     </message>
     <message>
         <source>Other names for the boats of the heat</source>
-        <translation type="unfinished"></translation>
+        <translation>Andere Namen für die Boote des Heats</translation>
     </message>
     <message>
         <source>Film…</source>
-        <translation type="unfinished"></translation>
+        <translation>Film…</translation>
     </message>
     <message>
         <source>Chooses the film of the heat</source>
-        <translation type="unfinished"></translation>
+        <translation>Wählt den Film des Heats</translation>
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>Entfernen</translation>
     </message>
     <message>
         <source>Removes the heat with all its marks</source>
-        <translation type="unfinished"></translation>
+        <translation>Entfernt den Heat mit allen Marken</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::HeatMapChart</name>
     <message>
         <source>Percent lost on %1, by section</source>
-        <translation type="unfinished"></translation>
+        <translation>Verlust in Prozent auf %1, nach Abschnitt</translation>
     </message>
     <message>
         <source>Percent lost by run and section</source>
-        <translation type="unfinished"></translation>
+        <translation>Verlust in Prozent nach Lauf und Abschnitt</translation>
     </message>
     <message>
         <source>S%1</source>
-        <translation type="unfinished"></translation>
+        <translation>A%1</translation>
     </message>
     <message>
         <source>is the reference</source>
-        <translation type="unfinished"></translation>
+        <translation>ist die Referenz</translation>
     </message>
     <message>
         <source>Run</source>
@@ -11637,98 +11638,98 @@ Press Insert to add one.</source>
     <name>kavela::desktop::HeatOrders</name>
     <message>
         <source>Take at this frame</source>
-        <translation type="unfinished"></translation>
+        <translation>Bei diesem Bild erfassen</translation>
     </message>
     <message>
         <source>Takes the order shown at the frame shown</source>
-        <translation type="unfinished"></translation>
+        <translation>Erfasst die gezeigte Reihenfolge bei diesem Bild</translation>
     </message>
     <message>
         <source>Start over</source>
-        <translation type="unfinished"></translation>
+        <translation>Von vorn</translation>
     </message>
     <message>
         <source>Back to the order as it was</source>
-        <translation type="unfinished"></translation>
+        <translation>Zurück zur Reihenfolge, wie sie war</translation>
     </message>
     <message>
         <source>Comment on this order</source>
-        <translation type="unfinished"></translation>
+        <translation>Kommentar zu dieser Reihenfolge</translation>
     </message>
     <message>
         <source>Add a heat first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Erst einen Heat hinzufügen.</translation>
     </message>
     <message>
         <source>The cross course has no gates yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Cross-Strecke hat noch keine Tore.</translation>
     </message>
     <message>
         <source>This order does not count for the course. Choose a gate of the course first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Reihenfolge zählt nicht für die Strecke. Erst ein Tor der Strecke wählen.</translation>
     </message>
     <message>
         <source>No boat is named yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Noch kein Boot benannt.</translation>
     </message>
     <message>
         <source>order at gate %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Reihenfolge an Tor %1</translation>
     </message>
     <message>
         <source>Gate %1:  %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Tor %1:  %2</translation>
     </message>
     <message>
         <source>comment on an order</source>
-        <translation type="unfinished"></translation>
+        <translation>Kommentar zu einer Reihenfolge</translation>
     </message>
     <message>
         <source>not taken yet</source>
-        <translation type="unfinished"></translation>
+        <translation>noch nicht erfasst</translation>
     </message>
     <message>
         <source>taken at %1</source>
-        <translation type="unfinished"></translation>
+        <translation>erfasst bei %1</translation>
     </message>
     <message>
         <source>offered</source>
-        <translation type="unfinished"></translation>
+        <translation>angeboten</translation>
     </message>
     <message>
         <source>Gate %1 · %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Tor %1 · %2</translation>
     </message>
     <message>
         <source>The cross course has no gates yet</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Cross-Strecke hat noch keine Tore</translation>
     </message>
     <message>
         <source>Keep its moment</source>
-        <translation type="unfinished"></translation>
+        <translation>Moment behalten</translation>
     </message>
     <message>
         <source>Take without a moment</source>
-        <translation type="unfinished"></translation>
+        <translation>Ohne Moment erfassen</translation>
     </message>
     <message>
         <source>Corrects the order and leaves its moment as it is</source>
-        <translation type="unfinished"></translation>
+        <translation>Berichtigt die Reihenfolge und lässt ihren Moment, wie er ist</translation>
     </message>
     <message>
         <source>Takes the order shown where there is no film</source>
-        <translation type="unfinished"></translation>
+        <translation>Erfasst die gezeigte Reihenfolge, wo kein Film ist</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::HeatPage</name>
     <message>
         <source>No heats yet. Add a heat with its boats and choose its film; then go to each gate and press the numbers of the boats as they pass.</source>
-        <translation type="unfinished"></translation>
+        <translation>Noch keine Heats. Einen Heat mit seinen Booten hinzufügen und seinen Film wählen; dann zu jedem Tor gehen und die Nummern der Boote drücken, wie sie vorbeikommen.</translation>
     </message>
     <message>
         <source>A%1</source>
-        <translation type="unfinished"></translation>
+        <translation>A%1</translation>
     </message>
     <message>
         <source>No mark is selected. Ctrl and the arrows go from mark to mark.</source>
@@ -11736,43 +11737,43 @@ Press Insert to add one.</source>
     </message>
     <message>
         <source>order moved</source>
-        <translation type="unfinished"></translation>
+        <translation>Reihenfolge verschoben</translation>
     </message>
     <message>
         <source>order removed</source>
-        <translation type="unfinished"></translation>
+        <translation>Reihenfolge entfernt</translation>
     </message>
     <message>
         <source>This heat has %1 boats.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieser Heat hat %1 Boote.</translation>
     </message>
     <message>
         <source>heat</source>
-        <translation type="unfinished"></translation>
+        <translation>Heat</translation>
     </message>
     <message>
         <source>heat removed</source>
-        <translation type="unfinished"></translation>
+        <translation>Heat entfernt</translation>
     </message>
     <message>
         <source>names of boats</source>
-        <translation type="unfinished"></translation>
+        <translation>Namen der Boote</translation>
     </message>
     <message>
         <source>film of a heat</source>
-        <translation type="unfinished"></translation>
+        <translation>Film eines Heats</translation>
     </message>
     <message>
         <source>Add a heat first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Erst einen Heat hinzufügen.</translation>
     </message>
     <message>
         <source>This heat has no boats yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieser Heat hat noch keine Boote.</translation>
     </message>
     <message>
         <source>Select the attack that ends here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Den Angriff wählen, der hier endet.</translation>
     </message>
 </context>
 <context>
@@ -11838,7 +11839,7 @@ Press Insert to add one.</source>
     <name>kavela::desktop::IdealPanel</name>
     <message>
         <source>Section</source>
-        <translation type="unfinished"></translation>
+        <translation>Abschnitt</translation>
     </message>
     <message>
         <source>Best</source>
@@ -12005,7 +12006,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Left</source>
-        <translation type="unfinished"></translation>
+        <translation>Links</translation>
     </message>
     <message>
         <source>Space</source>
@@ -12017,7 +12018,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Right</source>
-        <translation type="unfinished"></translation>
+        <translation>Rechts</translation>
     </message>
     <message>
         <source>Full screen</source>
@@ -12112,7 +12113,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>Entfernen</translation>
     </message>
     <message>
         <source>Start the timer…</source>
@@ -12272,7 +12273,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>Entfernen</translation>
     </message>
     <message>
         <source>removal of %1</source>
@@ -12283,7 +12284,7 @@ Penalties are left out.</source>
     <name>kavela::desktop::ListPanel</name>
     <message>
         <source>List</source>
-        <translation type="unfinished"></translation>
+        <translation>Liste</translation>
     </message>
     <message>
         <source>No row is left. Ctrl+Z takes the last step back.</source>
@@ -12333,78 +12334,78 @@ Penalties are left out.</source>
     <name>kavela::desktop::LossChartsPanel</name>
     <message>
         <source>Charts</source>
-        <translation type="unfinished"></translation>
+        <translation>Diagramme</translation>
     </message>
     <message>
         <source>Sum</source>
-        <translation type="unfinished"></translation>
+        <translation>Summe</translation>
     </message>
     <message>
         <source>From the reference&apos;s total to the run&apos;s own</source>
-        <translation type="unfinished"></translation>
+        <translation>Von der Gesamtzeit der Referenz zu der des Laufs</translation>
     </message>
     <message>
         <source>Heat map</source>
-        <translation type="unfinished"></translation>
+        <translation>Heatmap</translation>
     </message>
     <message>
         <source>Percent lost by run and section</source>
-        <translation type="unfinished"></translation>
+        <translation>Verlust in Prozent nach Lauf und Abschnitt</translation>
     </message>
     <message>
         <source>Most lost</source>
-        <translation type="unfinished"></translation>
+        <translation>Größte Verluste</translation>
     </message>
     <message>
         <source>The sections that lost most, in their order</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Abschnitte mit dem größten Verlust, der Reihe nach</translation>
     </message>
     <message>
         <source>Along the course</source>
-        <translation type="unfinished"></translation>
+        <translation>Entlang der Strecke</translation>
     </message>
     <message>
         <source>The gap after each section</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Rückstand nach jedem Abschnitt</translation>
     </message>
     <message>
         <source>Fit</source>
-        <translation type="unfinished"></translation>
+        <translation>Einpassen</translation>
     </message>
     <message>
         <source>Save chart…</source>
-        <translation type="unfinished"></translation>
+        <translation>Diagramm speichern…</translation>
     </message>
     <message>
         <source>Show everything again (or double click)</source>
-        <translation type="unfinished"></translation>
+        <translation>Wieder alles zeigen (oder Doppelklick)</translation>
     </message>
     <message>
         <source>Save as PNG, SVG or CSV</source>
-        <translation type="unfinished"></translation>
+        <translation>Als PNG, SVG oder CSV speichern</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::LossHeader</name>
     <message>
         <source>Reference</source>
-        <translation type="unfinished"></translation>
+        <translation>Referenz</translation>
     </message>
     <message>
         <source>What the run is held against</source>
-        <translation type="unfinished"></translation>
+        <translation>Womit der Lauf verglichen wird</translation>
     </message>
     <message>
         <source>Alt+click or Shift+F1: why</source>
-        <translation type="unfinished"></translation>
+        <translation>Alt+Klick oder Umschalt+F1: warum</translation>
     </message>
     <message>
         <source>Ru&amp;n</source>
-        <translation type="unfinished"></translation>
+        <translation>La&amp;uf</translation>
     </message>
     <message>
         <source>hel&amp;d against</source>
-        <translation type="unfinished"></translation>
+        <translation>ver&amp;glichen mit</translation>
     </message>
 </context>
 <context>
@@ -12415,193 +12416,193 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>End</source>
-        <translation type="unfinished"></translation>
+        <translation>Ende</translation>
     </message>
     <message>
         <source>Against</source>
-        <translation type="unfinished"></translation>
+        <translation>Gegen</translation>
     </message>
     <message>
         <source>Seconds</source>
-        <translation type="unfinished"></translation>
+        <translation>Sekunden</translation>
     </message>
     <message>
         <source>Percent</source>
-        <translation type="unfinished"></translation>
+        <translation>Prozent</translation>
     </message>
     <message>
         <source>New</source>
-        <translation type="unfinished"></translation>
+        <translation>Neu</translation>
     </message>
     <message>
         <source>The next M begins another time loss</source>
-        <translation type="unfinished"></translation>
+        <translation>Das nächste M beginnt einen weiteren Zeitverlust</translation>
     </message>
     <message>
         <source>Add over the section</source>
-        <translation type="unfinished"></translation>
+        <translation>Über den Abschnitt anlegen</translation>
     </message>
     <message>
         <source>Another reason</source>
-        <translation type="unfinished"></translation>
+        <translation>Weiterer Grund</translation>
     </message>
     <message>
         <source>To the other run</source>
-        <translation type="unfinished"></translation>
+        <translation>Zum anderen Lauf</translation>
     </message>
     <message>
         <source>reason of a time loss</source>
-        <translation type="unfinished"></translation>
+        <translation>Grund eines Zeitverlusts</translation>
     </message>
     <message>
         <source>This run</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieser Lauf</translation>
     </message>
     <message>
         <source>Other run</source>
-        <translation type="unfinished"></translation>
+        <translation>Anderer Lauf</translation>
     </message>
     <message>
         <source>Sets this mark at the frame shown</source>
-        <translation type="unfinished"></translation>
+        <translation>Setzt diese Marke auf das gezeigte Bild</translation>
     </message>
     <message>
         <source>kind of a time loss</source>
-        <translation type="unfinished"></translation>
+        <translation>Art eines Zeitverlusts</translation>
     </message>
     <message>
         <source>Gates</source>
-        <translation type="unfinished"></translation>
+        <translation>Tore</translation>
     </message>
     <message>
         <source>Part</source>
-        <translation type="unfinished"></translation>
+        <translation>Teil</translation>
     </message>
     <message>
         <source>Style</source>
-        <translation type="unfinished"></translation>
+        <translation>Stil</translation>
     </message>
     <message>
         <source>Water</source>
-        <translation type="unfinished"></translation>
+        <translation>Wasser</translation>
     </message>
     <message>
         <source>comment on a time loss</source>
-        <translation type="unfinished"></translation>
+        <translation>Kommentar zu einem Zeitverlust</translation>
     </message>
     <message>
         <source>Comment</source>
-        <translation type="unfinished"></translation>
+        <translation>Kommentar</translation>
     </message>
     <message>
         <source>Back to the run</source>
-        <translation type="unfinished"></translation>
+        <translation>Zurück zum Lauf</translation>
     </message>
     <message>
         <source>M marks where the stretch starts and makes another time loss.</source>
-        <translation type="unfinished"></translation>
+        <translation>M markiert, wo die Strecke beginnt, und legt einen weiteren Zeitverlust an.</translation>
     </message>
     <message>
         <source>M marks where the stretch starts and makes a time loss.</source>
-        <translation type="unfinished"></translation>
+        <translation>M markiert, wo die Strecke beginnt, und legt einen Zeitverlust an.</translation>
     </message>
     <message>
         <source>%1 s (%2 %) against %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 s (%2 %) gegen %3</translation>
     </message>
     <message>
         <source>Go back to the run that lost the time first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Erst zurück zu dem Lauf, der die Zeit verlor.</translation>
     </message>
     <message>
         <source>A time loss needs another run to compare with.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Zeitverlust braucht einen anderen Lauf zum Vergleich.</translation>
     </message>
     <message>
         <source>time loss</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeitverlust</translation>
     </message>
     <message>
         <source>Start and end are marked here too. Ctrl+T goes back to the run that lost the time, where M begins its next loss.</source>
-        <translation type="unfinished"></translation>
+        <translation>Anfang und Ende werden auch hier markiert. Strg+T geht zurück zu dem Lauf, der die Zeit verlor; dort beginnt M seinen nächsten Verlust.</translation>
     </message>
     <message>
         <source>mark of a time loss</source>
-        <translation type="unfinished"></translation>
+        <translation>Marke eines Zeitverlusts</translation>
     </message>
     <message>
         <source>time loss removed</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeitverlust entfernt</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::LossTables</name>
     <message>
         <source>Both runs have no upstream gate timed in common.</source>
-        <translation type="unfinished"></translation>
+        <translation>Beide Läufe haben kein gemeinsames Aufwärtstor mit Zeiten.</translation>
     </message>
     <message>
         <source>No time lost is noted of this run.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zu diesem Lauf ist kein Zeitverlust notiert.</translation>
     </message>
     <message>
         <source>No ways are compared in this run.</source>
-        <translation type="unfinished"></translation>
+        <translation>In diesem Lauf sind keine Wege verglichen.</translation>
     </message>
     <message>
         <source>Sections</source>
-        <translation type="unfinished"></translation>
+        <translation>Abschnitte</translation>
     </message>
     <message>
         <source>Runs</source>
-        <translation type="unfinished"></translation>
+        <translation>Läufe</translation>
     </message>
     <message>
         <source>Gates</source>
-        <translation type="unfinished"></translation>
+        <translation>Tore</translation>
     </message>
     <message>
         <source>Notes</source>
-        <translation type="unfinished"></translation>
+        <translation>Notizen</translation>
     </message>
     <message>
         <source>Ways</source>
-        <translation type="unfinished"></translation>
+        <translation>Wege</translation>
     </message>
     <message>
         <source>&amp;Play both films</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Beide Filme abspielen</translation>
     </message>
     <message>
         <source>Hold all against this &amp;run</source>
-        <translation type="unfinished"></translation>
+        <translation>Alles mit diesem &amp;Lauf vergleichen</translation>
     </message>
     <message>
         <source>Notes (%1 unfinished)</source>
-        <translation type="unfinished"></translation>
+        <translation>Notizen (%1 unfertig)</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::LossesActions</name>
     <message>
         <source>&amp;Open races…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Rennen öffnen…</translation>
     </message>
     <message>
         <source>Open a &amp;folder of races…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ordner mit Rennen öffnen…</translation>
     </message>
     <message>
         <source>&amp;Read all again</source>
-        <translation type="unfinished"></translation>
+        <translation>A&amp;lle erneut lesen</translation>
     </message>
     <message>
         <source>S&amp;top reading</source>
-        <translation type="unfinished"></translation>
+        <translation>Lesen &amp;anhalten</translation>
     </message>
     <message>
         <source>&amp;Page of an athlete: PDF, preview, print…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Seite eines Athleten: PDF, Vorschau, Druck…</translation>
     </message>
     <message>
         <source>Save the table as &amp;CSV…</source>
@@ -12617,91 +12618,91 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>&amp;Find a run</source>
-        <translation type="unfinished"></translation>
+        <translation>Lauf s&amp;uchen</translation>
     </message>
     <message>
         <source>The &amp;next in rank</source>
-        <translation type="unfinished"></translation>
+        <translation>Der &amp;nächste im Rang</translation>
     </message>
     <message>
         <source>The &amp;one in front</source>
-        <translation type="unfinished"></translation>
+        <translation>Der &amp;davor</translation>
     </message>
     <message>
         <source>&amp;Season of the athlete, or the run</source>
-        <translation type="unfinished"></translation>
+        <translation>Saison des &amp;Athleten oder der Lauf</translation>
     </message>
     <message>
         <source>Re&amp;ference</source>
-        <translation type="unfinished"></translation>
+        <translation>R&amp;eferenz</translation>
     </message>
     <message>
         <source>The &amp;winner</source>
-        <translation type="unfinished"></translation>
+        <translation>Der &amp;Sieger</translation>
     </message>
     <message>
         <source>The &amp;fastest paddling</source>
-        <translation type="unfinished"></translation>
+        <translation>Der mit der schnellsten &amp;Fahrzeit</translation>
     </message>
     <message>
         <source>The &amp;ideal run</source>
-        <translation type="unfinished"></translation>
+        <translation>Der &amp;Ideallauf</translation>
     </message>
     <message>
         <source>The &amp;median of the finalists</source>
-        <translation type="unfinished"></translation>
+        <translation>Der &amp;Median der Finalisten</translation>
     </message>
     <message>
         <source>The crew&apos;s &amp;own best other run</source>
-        <translation type="unfinished"></translation>
+        <translation>Der beste &amp;andere Lauf der Besatzung selbst</translation>
     </message>
     <message>
         <source>The run that is &amp;shown</source>
-        <translation type="unfinished"></translation>
+        <translation>Der gezeigte &amp;Lauf</translation>
     </message>
     <message>
         <source>&amp;View</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ansicht</translation>
     </message>
     <message>
         <source>&amp;Sum from total to total</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Summe von Gesamtzeit zu Gesamtzeit</translation>
     </message>
     <message>
         <source>&amp;Heat map</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Heatmap</translation>
     </message>
     <message>
         <source>Sections that lost &amp;most</source>
-        <translation type="unfinished"></translation>
+        <translation>Abschnitte mit dem &amp;größten Verlust</translation>
     </message>
     <message>
         <source>Gap &amp;along the course</source>
-        <translation type="unfinished"></translation>
+        <translation>Rückstand &amp;entlang der Strecke</translation>
     </message>
     <message>
         <source>Table of s&amp;ections</source>
-        <translation type="unfinished"></translation>
+        <translation>Tabelle der A&amp;bschnitte</translation>
     </message>
     <message>
         <source>Table of &amp;runs</source>
-        <translation type="unfinished"></translation>
+        <translation>Tabelle der &amp;Läufe</translation>
     </message>
     <message>
         <source>Table of &amp;gates</source>
-        <translation type="unfinished"></translation>
+        <translation>Tabelle der &amp;Tore</translation>
     </message>
     <message>
         <source>Table of &amp;notes</source>
-        <translation type="unfinished"></translation>
+        <translation>Tabelle der &amp;Notizen</translation>
     </message>
     <message>
         <source>Table of &amp;ways</source>
-        <translation type="unfinished"></translation>
+        <translation>Tabelle der &amp;Wege</translation>
     </message>
     <message>
         <source>Show the whole &amp;chart</source>
-        <translation type="unfinished"></translation>
+        <translation>Ganzes &amp;Diagramm zeigen</translation>
     </message>
     <message>
         <source>&amp;Blue to orange instead of green to red</source>
@@ -12709,23 +12710,23 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Fil&amp;ms</source>
-        <translation type="unfinished"></translation>
+        <translation>Fil&amp;me</translation>
     </message>
     <message>
         <source>&amp;Play the section of both runs</source>
-        <translation type="unfinished"></translation>
+        <translation>Abschnitt beider Läufe abs&amp;pielen</translation>
     </message>
     <message>
         <source>&amp;Film this loss…</source>
-        <translation type="unfinished"></translation>
+        <translation>Diesen Verlust &amp;filmen…</translation>
     </message>
     <message>
         <source>&amp;Hide the films</source>
-        <translation type="unfinished"></translation>
+        <translation>Filme &amp;ausblenden</translation>
     </message>
     <message>
         <source>Runs</source>
-        <translation type="unfinished"></translation>
+        <translation>Läufe</translation>
     </message>
     <message>
         <source>Pa&amp;ge for an athlete…</source>
@@ -12744,55 +12745,55 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Season</source>
-        <translation type="unfinished"></translation>
+        <translation>Saison</translation>
     </message>
     <message>
         <source>Hide the films</source>
-        <translation type="unfinished"></translation>
+        <translation>Filme ausblenden</translation>
     </message>
     <message>
         <source>Stop reading</source>
-        <translation type="unfinished"></translation>
+        <translation>Lesen anhalten</translation>
     </message>
     <message>
         <source>&amp;Open it</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Öffnen</translation>
     </message>
     <message>
         <source>Writing %1…</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 wird geschrieben…</translation>
     </message>
     <message>
         <source>The page was not written.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Seite wurde nicht geschrieben.</translation>
     </message>
     <message>
         <source>%1 is not in the files any more; another run is shown.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ist nicht mehr in den Dateien; ein anderer Lauf wird gezeigt.</translation>
     </message>
     <message>
         <source>%1 is not in the files any more; the winner is the reference now.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ist nicht mehr in den Dateien; jetzt ist der Sieger die Referenz.</translation>
     </message>
     <message>
         <source>Reading…</source>
-        <translation type="unfinished"></translation>
+        <translation>Wird gelesen…</translation>
     </message>
     <message>
         <source>%1 cannot be read: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ist nicht lesbar: %2</translation>
     </message>
     <message>
         <source>%1 files cannot be read, the first of them %2: %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Dateien sind nicht lesbar, die erste davon %2: %3</translation>
     </message>
     <message>
         <source>Stopped: not all files were read.</source>
-        <translation type="unfinished"></translation>
+        <translation>Angehalten: nicht alle Dateien wurden gelesen.</translation>
     </message>
     <message>
         <source>There is no run in what was opened.</source>
-        <translation type="unfinished"></translation>
+        <translation>In dem Geöffneten ist kein Lauf.</translation>
     </message>
     <message>
         <source>Time losses</source>
@@ -12800,11 +12801,11 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>%1 and %2 more</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 und %2 weitere</translation>
     </message>
     <message>
         <source>Open races</source>
-        <translation type="unfinished"></translation>
+        <translation>Rennen öffnen</translation>
     </message>
     <message>
         <source>Split files (*.kvx);;All files (*)</source>
@@ -12812,35 +12813,35 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Open a folder of races</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordner mit Rennen öffnen</translation>
     </message>
     <message>
         <source>%1 is written.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ist geschrieben.</translation>
     </message>
     <message>
         <source>Choose a section first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Erst einen Abschnitt wählen.</translation>
     </message>
     <message>
         <source>No film shows this of either run: a film and both marks are needed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein Film zeigt das von einem der Läufe: nötig sind ein Film und beide Marken.</translation>
     </message>
     <message>
         <source>No film shows the run here; that of the reference plays alone.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein Film zeigt den Lauf hier; der der Referenz läuft allein.</translation>
     </message>
     <message>
         <source>There is no run to watch beside it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt keinen Lauf, der daneben zu sehen wäre.</translation>
     </message>
     <message>
         <source>No film shows %1 here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein Film zeigt %1 hier.</translation>
     </message>
     <message>
         <source>There is no run to film beside it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt keinen Lauf, der daneben zu filmen wäre.</translation>
     </message>
 </context>
 <context>
@@ -12964,7 +12965,7 @@ Penalties are left out.</source>
     <name>kavela::desktop::MotionActions</name>
     <message>
         <source>Charts</source>
-        <translation type="unfinished"></translation>
+        <translation>Diagramme</translation>
     </message>
     <message>
         <source>Recordings</source>
@@ -12976,7 +12977,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Save the &amp;chart…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Diagramm speichern…</translation>
     </message>
     <message>
         <source>&amp;Recording</source>
@@ -13148,7 +13149,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Section</source>
-        <translation type="unfinished"></translation>
+        <translation>Abschnitt</translation>
     </message>
     <message>
         <source>Strokes</source>
@@ -13242,7 +13243,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Saved %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 gespeichert</translation>
     </message>
     <message>
         <source>Open recordings</source>
@@ -13266,7 +13267,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>%1 and %2 more</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 und %2 weitere</translation>
     </message>
 </context>
 <context>
@@ -13320,7 +13321,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Penalties</source>
-        <translation type="unfinished"></translation>
+        <translation>Strafen</translation>
     </message>
     <message>
         <source>Upstreams</source>
@@ -13348,7 +13349,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Ways</source>
-        <translation type="unfinished"></translation>
+        <translation>Wege</translation>
     </message>
     <message>
         <source>Cameras</source>
@@ -13356,7 +13357,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>Entfernen</translation>
     </message>
 </context>
 <context>
@@ -13678,122 +13679,122 @@ Penalties are left out.</source>
     <name>kavela::desktop::PenaltiesActions</name>
     <message>
         <source>Crews</source>
-        <translation type="unfinished"></translation>
+        <translation>Besatzungen</translation>
     </message>
     <message>
         <source>&amp;Open split files…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Zwischenzeitdateien öffnen…</translation>
     </message>
     <message>
         <source>Open a &amp;folder…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ordner öffnen…</translation>
     </message>
     <message>
         <source>Read &amp;again</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Erneut lesen</translation>
     </message>
     <message>
         <source>S&amp;top reading</source>
-        <translation type="unfinished"></translation>
+        <translation>Lesen &amp;anhalten</translation>
     </message>
     <message>
         <source>Files that could not be rea&amp;d…</source>
-        <translation type="unfinished"></translation>
+        <translation>Dateien, die nicht &amp;lesbar waren…</translation>
     </message>
     <message>
         <source>Save the &amp;table as CSV…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Tabelle als CSV speichern…</translation>
     </message>
     <message>
         <source>Save the &amp;chart…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Diagramm speichern…</translation>
     </message>
     <message>
         <source>&amp;Show</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Zeigen</translation>
     </message>
     <message>
         <source>&amp;Course</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Strecke</translation>
     </message>
     <message>
         <source>&amp;Rates</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Raten</translation>
     </message>
     <message>
         <source>&amp;Details</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Einzelheiten</translation>
     </message>
     <message>
         <source>Cost in &amp;places</source>
-        <translation type="unfinished"></translation>
+        <translation>Kosten in &amp;Plätzen</translation>
     </message>
     <message>
         <source>Risk and &amp;speed</source>
-        <translation type="unfinished"></translation>
+        <translation>R&amp;isiko und Tempo</translation>
     </message>
     <message>
         <source>&amp;Next course</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Nächste Strecke</translation>
     </message>
     <message>
         <source>Pre&amp;vious course</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Vorige Strecke</translation>
     </message>
     <message>
         <source>&amp;All runs</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Alle Läufe</translation>
     </message>
     <message>
         <source>The &amp;whole chart</source>
-        <translation type="unfinished"></translation>
+        <translation>Das &amp;ganze Diagramm</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::PenaltiesWindow</name>
     <message>
         <source>Penalties</source>
-        <translation type="unfinished"></translation>
+        <translation>Strafen</translation>
     </message>
     <message>
         <source>Drop split files (.kvx) or a folder of them here</source>
-        <translation type="unfinished"></translation>
+        <translation>Zwischenzeitdateien (.kvx) oder einen Ordner damit hierher ziehen</translation>
     </message>
     <message>
         <source>Open split files…</source>
-        <translation type="unfinished"></translation>
+        <translation>Zwischenzeitdateien öffnen…</translation>
     </message>
     <message>
         <source>Open a folder…</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordner öffnen…</translation>
     </message>
     <message>
         <source>Course</source>
-        <translation type="unfinished"></translation>
+        <translation>Strecke</translation>
     </message>
     <message>
         <source>Rates</source>
-        <translation type="unfinished"></translation>
+        <translation>Raten</translation>
     </message>
     <message>
         <source>Details</source>
-        <translation type="unfinished"></translation>
+        <translation>Einzelheiten</translation>
     </message>
     <message>
         <source>Cost in places</source>
-        <translation type="unfinished"></translation>
+        <translation>Kosten in Plätzen</translation>
     </message>
     <message>
         <source>Risk and speed</source>
-        <translation type="unfinished"></translation>
+        <translation>Risiko und Tempo</translation>
     </message>
     <message>
         <source>Saved %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 gespeichert</translation>
     </message>
     <message>
         <source>Open split files</source>
-        <translation type="unfinished"></translation>
+        <translation>Zwischenzeitdateien öffnen</translation>
     </message>
     <message>
         <source>Split files (*.kvx);;All files (*)</source>
@@ -13801,23 +13802,23 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Open a folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordner öffnen</translation>
     </message>
     <message>
         <source>Which gates are touched and missed, by whom, and what it cost: of one race, of several, or of a whole season. Files are only read.</source>
-        <translation type="unfinished"></translation>
+        <translation>Welche Tore berührt und verfehlt werden, von wem, und was es kostete: in einem Rennen, in mehreren oder einer ganzen Saison. Dateien werden nur gelesen.</translation>
     </message>
     <message>
         <source>Reading…</source>
-        <translation type="unfinished"></translation>
+        <translation>Wird gelesen…</translation>
     </message>
     <message>
         <source>There is no split file (.kvx) here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Hier ist keine Zwischenzeitdatei (.kvx).</translation>
     </message>
     <message>
         <source>1 file</source>
-        <translation type="unfinished"></translation>
+        <translation>1 Datei</translation>
     </message>
     <message>
         <source>1 run</source>
@@ -13825,13 +13826,13 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>%1 and %2 more</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 und %2 weitere</translation>
     </message>
     <message numerus="yes">
         <source>%n files</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Datei</numerusform>
+            <numerusform>%n Dateien</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -13846,86 +13847,86 @@ Penalties are left out.</source>
     <name>kavela::desktop::PenaltyFilter</name>
     <message>
         <source>&amp;Category</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Kategorie</translation>
     </message>
     <message>
         <source>&amp;Phase</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Phase</translation>
     </message>
     <message>
         <source>Cre&amp;w</source>
-        <translation type="unfinished"></translation>
+        <translation>B&amp;esatzung</translation>
     </message>
     <message>
         <source>All</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::PenaltyPage</name>
     <message>
         <source>Gate</source>
-        <translation type="unfinished"></translation>
+        <translation>Tor</translation>
     </message>
     <message>
         <source>Penalty</source>
-        <translation type="unfinished"></translation>
+        <translation>Strafe</translation>
     </message>
     <message>
         <source>Pole</source>
-        <translation type="unfinished"></translation>
+        <translation>Torstab</translation>
     </message>
     <message>
         <source>With</source>
-        <translation type="unfinished"></translation>
+        <translation>Womit</translation>
     </message>
     <message>
         <source>Another at this gate</source>
-        <translation type="unfinished"></translation>
+        <translation>Noch eine an diesem Tor</translation>
     </message>
     <message>
         <source>Choose what else happened at the gate in front; M adds it</source>
-        <translation type="unfinished"></translation>
+        <translation>Wählt, was an dem Tor davor noch geschah; M fügt es hinzu</translation>
     </message>
     <message>
         <source>Moment</source>
-        <translation type="unfinished"></translation>
+        <translation>Moment</translation>
     </message>
     <message>
         <source>Gate is</source>
-        <translation type="unfinished"></translation>
+        <translation>Tor ist</translation>
     </message>
     <message>
         <source>Boat moves</source>
-        <translation type="unfinished"></translation>
+        <translation>Boot fährt</translation>
     </message>
     <message>
         <source>Style</source>
-        <translation type="unfinished"></translation>
+        <translation>Stil</translation>
     </message>
     <message>
         <source>Eyes</source>
-        <translation type="unfinished"></translation>
+        <translation>Augen</translation>
     </message>
     <message>
         <source>Gate %1: %2 s. The lists change its penalty.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tor %1: %2 s. Die Listen ändern seine Strafe.</translation>
     </message>
     <message>
         <source>Gate %1: %2 s. M adds a penalty.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tor %1: %2 s. M fügt eine Strafe hinzu.</translation>
     </message>
     <message>
         <source>The seconds differ from the penalties listed at gate %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Sekunden weichen von den Strafen an Tor %1 ab.</translation>
     </message>
     <message>
         <source>The course has no gates yet: Ctrl+G sets it up.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Strecke hat noch keine Tore: Strg+G richtet sie ein.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; begins a second one.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ beginnt eine zweite.</translation>
     </message>
     <message>
         <source>penalty at gate %1</source>
@@ -13933,7 +13934,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>penalty removed</source>
-        <translation type="unfinished"></translation>
+        <translation>Strafe entfernt</translation>
     </message>
 </context>
 <context>
@@ -13952,11 +13953,11 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Penalty</source>
-        <translation type="unfinished"></translation>
+        <translation>Strafe</translation>
     </message>
     <message>
         <source>penalty</source>
-        <translation type="unfinished"></translation>
+        <translation>Strafe</translation>
     </message>
     <message>
         <source>Total</source>
@@ -13964,7 +13965,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Position</source>
-        <translation type="unfinished"></translation>
+        <translation>Position</translation>
     </message>
     <message>
         <source>position</source>
@@ -14058,11 +14059,11 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>%1 is written.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ist geschrieben.</translation>
     </message>
     <message>
         <source>&amp;Open it</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Öffnen</translation>
     </message>
     <message>
         <source>Show in &amp;folder</source>
@@ -14085,7 +14086,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Sum</source>
-        <translation type="unfinished"></translation>
+        <translation>Summe</translation>
     </message>
     <message>
         <source>Mean</source>
@@ -14132,7 +14133,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Gate %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Tor %1</translation>
     </message>
     <message>
         <source>, which is not on the cross course</source>
@@ -14448,7 +14449,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>&amp;View</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ansicht</translation>
     </message>
     <message>
         <source>&amp;Find an athlete</source>
@@ -14677,7 +14678,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Left</source>
-        <translation type="unfinished"></translation>
+        <translation>Links</translation>
     </message>
 </context>
 <context>
@@ -14751,7 +14752,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Year</source>
-        <translation type="unfinished"></translation>
+        <translation>Jahr</translation>
     </message>
     <message>
         <source>Race</source>
@@ -14815,7 +14816,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Heats</source>
-        <translation type="unfinished"></translation>
+        <translation>Heats</translation>
     </message>
     <message>
         <source>Final</source>
@@ -14831,7 +14832,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Percent</source>
-        <translation type="unfinished"></translation>
+        <translation>Prozent</translation>
     </message>
     <message>
         <source>Missed gate</source>
@@ -15350,7 +15351,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>Entfernen</translation>
     </message>
     <message>
         <source>Takes the recording out of the split file</source>
@@ -15406,7 +15407,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>%1 cannot be read: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ist nicht lesbar: %2</translation>
     </message>
     <message>
         <source>Recording %1 cannot be played: %2</source>
@@ -15432,55 +15433,55 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     <name>kavela::desktop::RankingModel</name>
     <message>
         <source>%1 (was %2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (war %2)</translation>
     </message>
     <message>
         <source>was %1, now %2</source>
-        <translation type="unfinished"></translation>
+        <translation>war %1, jetzt %2</translation>
     </message>
     <message>
         <source>A time of 0 counts as the formula says and puts the athlete far in front. Edit &gt; Make times of 0 missing results.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Zeit von 0 zählt, wie die Formel sagt, und setzt den Athleten weit nach vorn. Bearbeiten &gt; Zeiten von 0 zu fehlenden Ergebnissen machen.</translation>
     </message>
     <message>
         <source>Dropped: the worst result</source>
-        <translation type="unfinished"></translation>
+        <translation>Gestrichen: das schlechteste Ergebnis</translation>
     </message>
     <message>
         <source>Dropped too: a bonus stands among the results</source>
-        <translation type="unfinished"></translation>
+        <translation>Auch gestrichen: unter den Ergebnissen steht ein Bonus</translation>
     </message>
     <message>
         <source>Counted</source>
-        <translation type="unfinished"></translation>
+        <translation>Gezählt</translation>
     </message>
     <message>
         <source>#</source>
-        <translation type="unfinished"></translation>
+        <translation>#</translation>
     </message>
     <message>
         <source>SURNAME Name</source>
-        <translation type="unfinished"></translation>
+        <translation>NACHNAME Vorname</translation>
     </message>
     <message>
         <source>Score</source>
-        <translation type="unfinished"></translation>
+        <translation>Wertung</translation>
     </message>
     <message>
         <source>Bonus</source>
-        <translation type="unfinished"></translation>
+        <translation>Bonus</translation>
     </message>
     <message>
         <source>Year</source>
-        <translation type="unfinished"></translation>
+        <translation>Jahr</translation>
     </message>
     <message>
         <source>Club</source>
-        <translation type="unfinished"></translation>
+        <translation>Verein</translation>
     </message>
     <message>
         <source>Pre</source>
-        <translation type="unfinished"></translation>
+        <translation>Ges</translation>
     </message>
     <message>
         <source>correction</source>
@@ -15488,50 +15489,50 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Pen</source>
-        <translation type="unfinished"></translation>
+        <translation>Str</translation>
     </message>
     <message>
         <source>%</source>
-        <translation type="unfinished"></translation>
+        <translation>%</translation>
     </message>
     <message>
         <source>Tried only. Really: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Nur probiert. Wirklich: %1</translation>
     </message>
     <message>
         <source>no result</source>
-        <translation type="unfinished"></translation>
+        <translation>kein Ergebnis</translation>
     </message>
     <message>
         <source>Enter the time first: the penalty belongs to it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Erst die Zeit eingeben: die Strafe gehört dazu.</translation>
     </message>
     <message>
         <source>penalty</source>
-        <translation type="unfinished"></translation>
+        <translation>Strafe</translation>
     </message>
     <message>
         <source>result removed</source>
-        <translation type="unfinished"></translation>
+        <translation>Ergebnis entfernt</translation>
     </message>
     <message>
         <source>result</source>
-        <translation type="unfinished"></translation>
+        <translation>Ergebnis</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::RankingPanel</name>
     <message>
         <source>entry of the ranking list</source>
-        <translation type="unfinished"></translation>
+        <translation>Eintrag der Rangliste</translation>
     </message>
     <message>
         <source>removal from the ranking list</source>
-        <translation type="unfinished"></translation>
+        <translation>Entfernen aus der Rangliste</translation>
     </message>
     <message>
         <source>Take the season&apos;s statistics</source>
-        <translation type="unfinished"></translation>
+        <translation>Statistik der Saison übernehmen</translation>
     </message>
     <message>
         <source>Split files (*.kvx);;All files (*)</source>
@@ -15539,50 +15540,50 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>There is no split file in it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Darin ist keine Zwischenzeitdatei.</translation>
     </message>
     <message>
         <source>Reading split files…</source>
-        <translation type="unfinished"></translation>
+        <translation>Zwischenzeitdateien werden gelesen…</translation>
     </message>
     <message>
         <source>season statistics from split files</source>
-        <translation type="unfinished"></translation>
+        <translation>Saisonstatistik aus Zwischenzeitdateien</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::RankingSection</name>
     <message>
         <source>Add a release</source>
-        <translation type="unfinished"></translation>
+        <translation>Ausgabe hinzufügen</translation>
     </message>
     <message>
         <source>Remove the release</source>
-        <translation type="unfinished"></translation>
+        <translation>Ausgabe entfernen</translation>
     </message>
     <message>
         <source>Ranking list</source>
-        <translation type="unfinished"></translation>
+        <translation>Rangliste</translation>
     </message>
     <message>
         <source>Add release</source>
-        <translation type="unfinished"></translation>
+        <translation>Neue Ausgabe</translation>
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>Entfernen</translation>
     </message>
     <message>
         <source>Release</source>
-        <translation type="unfinished"></translation>
+        <translation>Ausgabe</translation>
     </message>
     <message>
         <source>Points</source>
-        <translation type="unfinished"></translation>
+        <translation>Punkte</translation>
     </message>
     <message>
         <source>Position</source>
-        <translation type="unfinished"></translation>
+        <translation>Position</translation>
     </message>
 </context>
 <context>
@@ -15597,7 +15598,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Touches</source>
-        <translation type="unfinished"></translation>
+        <translation>Berührungen</translation>
     </message>
     <message>
         <source>Rate %</source>
@@ -15645,7 +15646,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Missed gates</source>
-        <translation type="unfinished"></translation>
+        <translation>Torfehler</translation>
     </message>
     <message>
         <source>Missed %</source>
@@ -15657,7 +15658,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>&amp;Rates</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Raten</translation>
     </message>
     <message>
         <source>No run that is asked for has its penalties by gate.</source>
@@ -15668,7 +15669,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     <name>kavela::desktop::ReadingProgress</name>
     <message>
         <source>Stop reading</source>
-        <translation type="unfinished"></translation>
+        <translation>Lesen anhalten</translation>
     </message>
     <message>
         <source>%1 of %2 files</source>
@@ -16358,11 +16359,11 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Roll</source>
-        <translation type="unfinished"></translation>
+        <translation>Rolle</translation>
     </message>
     <message>
         <source>Style</source>
-        <translation type="unfinished"></translation>
+        <translation>Stil</translation>
     </message>
     <message>
         <source>Going over</source>
@@ -16392,23 +16393,23 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Compare with a run of another race</source>
-        <translation type="unfinished"></translation>
+        <translation>Mit einem Lauf eines anderen Rennens vergleichen</translation>
     </message>
     <message>
         <source>Compare</source>
-        <translation type="unfinished"></translation>
+        <translation>Vergleichen</translation>
     </message>
     <message>
         <source>&amp;Race</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Rennen</translation>
     </message>
     <message>
         <source>&amp;Other file…</source>
-        <translation type="unfinished"></translation>
+        <translation>Andere &amp;Datei…</translation>
     </message>
     <message>
         <source>R&amp;un</source>
-        <translation type="unfinished"></translation>
+        <translation>L&amp;auf</translation>
     </message>
     <message>
         <source>Name</source>
@@ -16417,15 +16418,16 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     <message>
         <source>No other race lies in this folder.
 Choose a file.</source>
-        <translation type="unfinished"></translation>
+        <translation>In diesem Ordner liegt kein anderes Rennen.
+Eine Datei wählen.</translation>
     </message>
     <message>
         <source>not a race</source>
-        <translation type="unfinished"></translation>
+        <translation>kein Rennen</translation>
     </message>
     <message>
         <source>Open a race</source>
-        <translation type="unfinished"></translation>
+        <translation>Rennen öffnen</translation>
     </message>
     <message>
         <source>Split files (*.kvx);;All files (*)</source>
@@ -16443,39 +16445,39 @@ Choose a file.</source>
     <name>kavela::desktop::RunFilms</name>
     <message>
         <source>Import videos with Ctrl+I, or drop a folder of videos here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Videos mit Strg+I importieren oder einen Ordner mit Videos hierher ziehen.</translation>
     </message>
     <message>
         <source>%1 is not in the folder of the split file.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ist nicht im Ordner der Zwischenzeitdatei.</translation>
     </message>
     <message>
         <source>All films are found</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Filme gefunden</translation>
     </message>
     <message>
         <source>%1 of %2 films are there. Not found: %3.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 von %2 Filmen sind da. Nicht gefunden: %3.</translation>
     </message>
     <message>
         <source>Import video</source>
-        <translation type="unfinished"></translation>
+        <translation>Video importieren</translation>
     </message>
     <message>
         <source>Add another camera of this run</source>
-        <translation type="unfinished"></translation>
+        <translation>Weitere Kamera dieses Laufs hinzufügen</translation>
     </message>
     <message>
         <source>camera added</source>
-        <translation type="unfinished"></translation>
+        <translation>Kamera hinzugefügt</translation>
     </message>
     <message>
         <source>Attach the film of a fixed camera</source>
-        <translation type="unfinished"></translation>
+        <translation>Film einer festen Kamera zuordnen</translation>
     </message>
     <message>
         <source>fixed camera attached</source>
-        <translation type="unfinished"></translation>
+        <translation>feste Kamera zugeordnet</translation>
     </message>
 </context>
 <context>
@@ -16537,27 +16539,27 @@ Choose a file.</source>
     <name>kavela::desktop::RunPanel</name>
     <message>
         <source>A clean run.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein fehlerfreier Lauf.</translation>
     </message>
     <message>
         <source>Touched: gate %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Berührt: Tor %1.</translation>
     </message>
     <message>
         <source>Missed: gate %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Torfehler: Tor %1.</translation>
     </message>
     <message>
         <source>To best</source>
-        <translation type="unfinished"></translation>
+        <translation>Zum Besten</translation>
     </message>
     <message>
         <source>Select a run to see its sections. Select two to compare them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Einen Lauf wählen, um seine Abschnitte zu sehen. Zwei wählen, um sie zu vergleichen.</translation>
     </message>
     <message>
         <source> against %1</source>
-        <translation type="unfinished"></translation>
+        <translation> gegen %1</translation>
     </message>
     <message>
         <source>penalties %1 s</source>
@@ -16569,11 +16571,11 @@ Choose a file.</source>
     </message>
     <message>
         <source>Total –,</source>
-        <translation type="unfinished"></translation>
+        <translation>Gesamt –,</translation>
     </message>
     <message>
         <source>Real %1 s,</source>
-        <translation type="unfinished"></translation>
+        <translation>Offiziell %1 s,</translation>
     </message>
     <message>
         <source>Expected %1 s</source>
@@ -16581,23 +16583,23 @@ Choose a file.</source>
     </message>
     <message>
         <source>Best own sections %1 s</source>
-        <translation type="unfinished"></translation>
+        <translation>Beste eigene Abschnitte %1 s</translation>
     </message>
     <message>
         <source>A time must be above 0. Check the marks of this run.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Zeit muss über 0 liegen. Die Marken dieses Laufs prüfen.</translation>
     </message>
     <message>
         <source>Not the whole course</source>
-        <translation type="unfinished"></translation>
+        <translation>Nicht die ganze Strecke</translation>
     </message>
     <message>
         <source>Gap</source>
-        <translation type="unfinished"></translation>
+        <translation>Rückstand</translation>
     </message>
     <message>
         <source>Section</source>
-        <translation type="unfinished"></translation>
+        <translation>Abschnitt</translation>
     </message>
     <message>
         <source>Time</source>
@@ -16605,7 +16607,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>Pen</source>
-        <translation type="unfinished"></translation>
+        <translation>Str</translation>
     </message>
     <message>
         <source>Place</source>
@@ -16620,46 +16622,46 @@ Choose a file.</source>
     </message>
     <message>
         <source>Type any part of a name, phase, category or race</source>
-        <translation type="unfinished"></translation>
+        <translation>Einen Teil von Name, Phase, Kategorie oder Rennen tippen</translation>
     </message>
     <message>
         <source>Find a run</source>
-        <translation type="unfinished"></translation>
+        <translation>Lauf suchen</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::RunsToEnter</name>
     <message>
         <source>perhaps %1?</source>
-        <translation type="unfinished"></translation>
+        <translation>vielleicht %1?</translation>
     </message>
     <message>
         <source>another run is better</source>
-        <translation type="unfinished"></translation>
+        <translation>ein anderer Lauf ist besser</translation>
     </message>
     <message>
         <source>; xTime %1 stays</source>
-        <translation type="unfinished"></translation>
+        <translation>; xTime %1 bleibt</translation>
     </message>
     <message>
         <source>line %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeile %1</translation>
     </message>
     <message>
         <source>(no run)</source>
-        <translation type="unfinished"></translation>
+        <translation>(kein Lauf)</translation>
     </message>
     <message>
         <source>has no result in this race</source>
-        <translation type="unfinished"></translation>
+        <translation>hat kein Ergebnis in diesem Rennen</translation>
     </message>
     <message>
         <source>no result</source>
-        <translation type="unfinished"></translation>
+        <translation>kein Ergebnis</translation>
     </message>
     <message>
         <source>(line %1)</source>
-        <translation type="unfinished"></translation>
+        <translation>(Zeile %1)</translation>
     </message>
 </context>
 <context>
@@ -16677,7 +16679,7 @@ Choose a file.</source>
     <name>kavela::desktop::SearchPlaces</name>
     <message>
         <source>Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>Entfernen</translation>
     </message>
     <message>
         <source>Folders and files that are searched</source>
@@ -16735,15 +16737,15 @@ Choose a file.</source>
     </message>
     <message>
         <source>Read &amp;again</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Erneut lesen</translation>
     </message>
     <message>
         <source>S&amp;top reading</source>
-        <translation type="unfinished"></translation>
+        <translation>Lesen &amp;anhalten</translation>
     </message>
     <message>
         <source>Files that could not be rea&amp;d…</source>
-        <translation type="unfinished"></translation>
+        <translation>Dateien, die nicht &amp;lesbar waren…</translation>
     </message>
     <message>
         <source>&amp;Reports to look at and print…</source>
@@ -16763,11 +16765,11 @@ Choose a file.</source>
     </message>
     <message>
         <source>Save the &amp;chart…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Diagramm speichern…</translation>
     </message>
     <message>
         <source>&amp;Show</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Zeigen</translation>
     </message>
     <message>
         <source>&amp;Progression</source>
@@ -16842,7 +16844,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>&amp;Category</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Kategorie</translation>
     </message>
     <message>
         <source>&amp;Years</source>
@@ -16893,7 +16895,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>Points</source>
-        <translation type="unfinished"></translation>
+        <translation>Punkte</translation>
     </message>
     <message>
         <source>ICF ranking position</source>
@@ -16964,7 +16966,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>Runs</source>
-        <translation type="unfinished"></translation>
+        <translation>Läufe</translation>
     </message>
     <message>
         <source>Lost</source>
@@ -17059,9 +17061,9 @@ Choose a file.</source>
     </message>
     <message numerus="yes">
         <source>%n files</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Datei</numerusform>
+            <numerusform>%n Dateien</numerusform>
         </translation>
     </message>
 </context>
@@ -17179,7 +17181,7 @@ Choose a file.</source>
     <name>kavela::desktop::SeasonWindow</name>
     <message>
         <source>Season</source>
-        <translation type="unfinished"></translation>
+        <translation>Saison</translation>
     </message>
     <message>
         <source>Drop a team (.kvteam) and the folder of its races here</source>
@@ -17195,11 +17197,11 @@ Choose a file.</source>
     </message>
     <message>
         <source>Saved %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 gespeichert</translation>
     </message>
     <message>
         <source>Writing %1…</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 wird geschrieben…</translation>
     </message>
     <message>
         <source>Open a team</source>
@@ -17239,7 +17241,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>Reading…</source>
-        <translation type="unfinished"></translation>
+        <translation>Wird gelesen…</translation>
     </message>
     <message>
         <source>Nobody of this team races in any category yet.</source>
@@ -17368,7 +17370,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>Runs</source>
-        <translation type="unfinished"></translation>
+        <translation>Läufe</translation>
     </message>
     <message>
         <source>Behind the best</source>
@@ -17384,7 +17386,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>Section</source>
-        <translation type="unfinished"></translation>
+        <translation>Abschnitt</translation>
     </message>
     <message>
         <source>Title</source>
@@ -17404,7 +17406,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>Sections</source>
-        <translation type="unfinished"></translation>
+        <translation>Abschnitte</translation>
     </message>
     <message>
         <source>Distribution of the times of each section</source>
@@ -17525,7 +17527,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>Sections</source>
-        <translation type="unfinished"></translation>
+        <translation>Abschnitte</translation>
     </message>
     <message>
         <source>The time in straight line is part of the time of its section: it cannot be longer.</source>
@@ -17744,7 +17746,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>Bonus</source>
-        <translation type="unfinished"></translation>
+        <translation>Bonus</translation>
     </message>
     <message>
         <source>Official times</source>
@@ -17880,7 +17882,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>Roll</source>
-        <translation type="unfinished"></translation>
+        <translation>Rolle</translation>
     </message>
     <message>
         <source>Pitch</source>
@@ -18036,11 +18038,11 @@ Choose a file.</source>
     </message>
     <message>
         <source>Left</source>
-        <translation type="unfinished"></translation>
+        <translation>Links</translation>
     </message>
     <message>
         <source>Right</source>
-        <translation type="unfinished"></translation>
+        <translation>Rechts</translation>
     </message>
     <message>
         <source>Side unknown</source>
@@ -18076,7 +18078,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>Entfernen</translation>
     </message>
     <message>
         <source>Take the selected stretch out</source>
@@ -18230,7 +18232,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>none</source>
-        <translation type="unfinished"></translation>
+        <translation>keine</translation>
     </message>
     <message>
         <source>Choose…</source>
@@ -18336,7 +18338,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>Compare</source>
-        <translation type="unfinished"></translation>
+        <translation>Vergleichen</translation>
     </message>
     <message>
         <source>Shows what differs; nothing is changed by it</source>
@@ -18491,7 +18493,7 @@ and %1 more</source>
     </message>
     <message>
         <source>&amp;Edit</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Bearbeiten</translation>
     </message>
     <message>
         <source>&amp;Undo the mark</source>
@@ -18776,7 +18778,7 @@ and %1 more</source>
     </message>
     <message>
         <source>frame %1   %2 s</source>
-        <translation type="unfinished"></translation>
+        <translation>Bild %1   %2 s</translation>
     </message>
     <message>
         <source>  (%1%2 of a frame)</source>
@@ -18795,7 +18797,7 @@ and %1 more</source>
     </message>
     <message>
         <source>“%1” is not there.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ ist nicht da.</translation>
     </message>
     <message>
         <source>Open the film of a fixed camera</source>
@@ -19110,7 +19112,7 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>Taken</source>
-        <translation type="unfinished"></translation>
+        <translation>Erfasst</translation>
     </message>
     <message>
         <source>Way</source>
@@ -19122,7 +19124,7 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>Gap</source>
-        <translation type="unfinished"></translation>
+        <translation>Rückstand</translation>
     </message>
     <message>
         <source>The tick is at the way that the run took. Names and times are edited by a double click.</source>
@@ -19150,7 +19152,7 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>Comment</source>
-        <translation type="unfinished"></translation>
+        <translation>Kommentar</translation>
     </message>
     <message>
         <source>Add</source>
@@ -19158,7 +19160,7 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>New</source>
-        <translation type="unfinished"></translation>
+        <translation>Neu</translation>
     </message>
     <message>
         <source>Compared</source>
@@ -19170,7 +19172,7 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>Section</source>
-        <translation type="unfinished"></translation>
+        <translation>Abschnitt</translation>
     </message>
     <message>
         <source>Without a name</source>
@@ -19249,15 +19251,15 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     <name>kavela::desktop::StrokePage</name>
     <message>
         <source>Section</source>
-        <translation type="unfinished"></translation>
+        <translation>Abschnitt</translation>
     </message>
     <message>
         <source>Left</source>
-        <translation type="unfinished"></translation>
+        <translation>Links</translation>
     </message>
     <message>
         <source>Right</source>
-        <translation type="unfinished"></translation>
+        <translation>Rechts</translation>
     </message>
     <message>
         <source>Strokes/min</source>
@@ -19273,7 +19275,7 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>Style</source>
-        <translation type="unfinished"></translation>
+        <translation>Stil</translation>
     </message>
     <message>
         <source>%1 per minute, %2 strokes</source>
@@ -19374,7 +19376,7 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>Save the &amp;table as CSV…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Tabelle als CSV speichern…</translation>
     </message>
     <message>
         <source>Save the c&amp;hart…</source>
@@ -19382,7 +19384,7 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>&amp;Edit</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Bearbeiten</translation>
     </message>
     <message>
         <source>&amp;Undo</source>
@@ -19486,7 +19488,7 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>&amp;Show</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Zeigen</translation>
     </message>
     <message>
         <source>What was &amp;refused</source>
@@ -19498,7 +19500,7 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>The &amp;whole chart</source>
-        <translation type="unfinished"></translation>
+        <translation>Das &amp;ganze Diagramm</translation>
     </message>
 </context>
 <context>
@@ -19525,7 +19527,7 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>Saved %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 gespeichert</translation>
     </message>
     <message>
         <source>Kept with %1</source>
@@ -19776,7 +19778,7 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>perhaps %1?</source>
-        <translation type="unfinished"></translation>
+        <translation>vielleicht %1?</translation>
     </message>
     <message>
         <source>%1 is added to the athlete&apos;s boats</source>
@@ -19812,11 +19814,11 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>&amp;Category</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Kategorie</translation>
     </message>
     <message>
         <source>&amp;Phase</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Phase</translation>
     </message>
     <message>
         <source>&amp;Day</source>
@@ -19836,11 +19838,11 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>(line %1)</source>
-        <translation type="unfinished"></translation>
+        <translation>(Zeile %1)</translation>
     </message>
     <message>
         <source>%1 and %2 more</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 und %2 weitere</translation>
     </message>
     <message>
         <source>Final position</source>
@@ -20011,7 +20013,7 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>Sections</source>
-        <translation type="unfinished"></translation>
+        <translation>Abschnitte</translation>
     </message>
     <message>
         <source>Total</source>
@@ -20405,7 +20407,7 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>Boats</source>
-        <translation type="unfinished"></translation>
+        <translation>Boote</translation>
     </message>
 </context>
 <context>
@@ -20654,7 +20656,7 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>Charts</source>
-        <translation type="unfinished"></translation>
+        <translation>Diagramme</translation>
     </message>
     <message>
         <source>Values</source>
@@ -20774,7 +20776,7 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>&amp;Edit</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Bearbeiten</translation>
     </message>
     <message>
         <source>&amp;Undo</source>
@@ -20869,7 +20871,7 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>Penalties</source>
-        <translation type="unfinished"></translation>
+        <translation>Strafen</translation>
     </message>
     <message>
         <source>Result</source>
@@ -21223,7 +21225,7 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>Runs</source>
-        <translation type="unfinished"></translation>
+        <translation>Läufe</translation>
     </message>
     <message>
         <source>Touches a run</source>
@@ -21282,7 +21284,7 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>Film</source>
-        <translation type="unfinished"></translation>
+        <translation>Film</translation>
     </message>
     <message>
         <source>⚠ missing</source>
@@ -21298,7 +21300,7 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>Re&amp;name the athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>Athleten um&amp;benennen</translation>
     </message>
     <message>
         <source>&amp;Film…</source>
@@ -21306,11 +21308,11 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>R&amp;emove the trial</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeitfahren &amp;entfernen</translation>
     </message>
     <message>
         <source>Film…</source>
-        <translation type="unfinished"></translation>
+        <translation>Film…</translation>
     </message>
     <message>
         <source>Chooses the film of the selected trial</source>
@@ -21318,7 +21320,7 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>Entfernen</translation>
     </message>
     <message>
         <source>Removes the selected trial</source>
@@ -21337,11 +21339,11 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>Roll</source>
-        <translation type="unfinished"></translation>
+        <translation>Rolle</translation>
     </message>
     <message>
         <source>Gate %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Tor %1</translation>
     </message>
     <message>
         <source>Split</source>
@@ -21459,7 +21461,7 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     <name>kavela::desktop::UpstreamPage</name>
     <message>
         <source>Gate</source>
-        <translation type="unfinished"></translation>
+        <translation>Tor</translation>
     </message>
     <message>
         <source>In</source>
@@ -21487,7 +21489,7 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>Style</source>
-        <translation type="unfinished"></translation>
+        <translation>Stil</translation>
     </message>
     <message>
         <source>Gate %1 is marked. N goes to the next gate, Shift+M moves the selected mark.</source>
@@ -21630,7 +21632,7 @@ Add one by hand with Ctrl+N, or drop split files and recordings here.</source>
     </message>
     <message>
         <source>Seconds</source>
-        <translation type="unfinished"></translation>
+        <translation>Sekunden</translation>
     </message>
     <message>
         <source>Shown</source>
@@ -21642,7 +21644,7 @@ Add one by hand with Ctrl+N, or drop split files and recordings here.</source>
     </message>
     <message>
         <source>Part</source>
-        <translation type="unfinished"></translation>
+        <translation>Teil</translation>
     </message>
     <message>
         <source>From</source>
@@ -21790,7 +21792,7 @@ Add one by hand with Ctrl+N, or drop split files and recordings here.</source>
     <name>kavela::desktop::WhyLabel</name>
     <message>
         <source>Alt+click or Shift+F1: why</source>
-        <translation type="unfinished"></translation>
+        <translation>Alt+Klick oder Umschalt+F1: warum</translation>
     </message>
 </context>
 <context>
@@ -21809,7 +21811,7 @@ Add one by hand with Ctrl+N, or drop split files and recordings here.</source>
     </message>
     <message>
         <source>no result</source>
-        <translation type="unfinished"></translation>
+        <translation>kein Ergebnis</translation>
     </message>
     <message>
         <source>Result</source>
@@ -21817,11 +21819,11 @@ Add one by hand with Ctrl+N, or drop split files and recordings here.</source>
     </message>
     <message>
         <source>Percent</source>
-        <translation type="unfinished"></translation>
+        <translation>Prozent</translation>
     </message>
     <message>
         <source>Score</source>
-        <translation type="unfinished"></translation>
+        <translation>Wertung</translation>
     </message>
     <message>
         <source>Select an athlete to see where the score comes from.</source>
@@ -21833,7 +21835,7 @@ Add one by hand with Ctrl+N, or drop split files and recordings here.</source>
     </message>
     <message>
         <source>Bonus</source>
-        <translation type="unfinished"></translation>
+        <translation>Bonus</translation>
     </message>
     <message>
         <source>Score: %1 / 3 = %2</source>
@@ -21923,7 +21925,7 @@ Add one by hand with Ctrl+N, or drop split files and recordings here.</source>
     <name>kavela::desktop::YearStrip</name>
     <message>
         <source>Year</source>
-        <translation type="unfinished"></translation>
+        <translation>Jahr</translation>
     </message>
     <message>
         <source>Month</source>
