@@ -111,7 +111,7 @@
     <name>FindWindow</name>
     <message>
         <source>The table cannot be written over a file that is searched.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Tabelle kann nicht über eine Datei geschrieben werden, die durchsucht wird.</translation>
     </message>
 </context>
 <context>
@@ -242,7 +242,7 @@
     <name>MeasureColumns</name>
     <message>
         <source>Date</source>
-        <translation type="unfinished"></translation>
+        <translation>Datum</translation>
     </message>
 </context>
 <context>
@@ -271,7 +271,7 @@
     </message>
     <message>
         <source>Week %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Woche %1</translation>
     </message>
     <message>
         <source>Week %1 %2.pdf</source>
@@ -279,7 +279,7 @@
     </message>
     <message>
         <source>Season %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Saison %1</translation>
     </message>
     <message>
         <source>Season %1 %2.pdf</source>
@@ -962,7 +962,7 @@
     </message>
     <message>
         <source>Turn</source>
-        <translation type="unfinished"></translation>
+        <translation>Drehung</translation>
     </message>
     <message>
         <source>Time from the start (s)</source>
@@ -974,7 +974,7 @@
     </message>
     <message>
         <source>Split</source>
-        <translation type="unfinished"></translation>
+        <translation>Zwischenzeit</translation>
     </message>
 </context>
 <context>
@@ -1161,11 +1161,11 @@
     </message>
     <message>
         <source>Macrocycle</source>
-        <translation type="unfinished"></translation>
+        <translation>Makrozyklus</translation>
     </message>
     <message>
         <source>Mesocycle</source>
-        <translation type="unfinished"></translation>
+        <translation>Mesozyklus</translation>
     </message>
     <message>
         <source>Event</source>
@@ -1236,1544 +1236,1547 @@
     <name>kavela</name>
     <message>
         <source>The time from the mark before to the mark of this section.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Zeit von der Marke davor bis zur Marke dieses Abschnitts.</translation>
     </message>
     <message>
         <source>mark − mark before</source>
-        <translation type="unfinished"></translation>
+        <translation>Marke − Marke davor</translation>
     </message>
     <message>
         <source>The time of the section with the penalties of its gates.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Zeit des Abschnitts mit den Strafen seiner Tore.</translation>
     </message>
     <message>
         <source>time + penalties</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeit + Strafen</translation>
     </message>
     <message>
         <source>The time from the start to the mark of this section.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Zeit vom Start bis zur Marke dieses Abschnitts.</translation>
     </message>
     <message>
         <source>Σ sections up to here</source>
-        <translation type="unfinished"></translation>
+        <translation>Σ Abschnitte bis hier</translation>
     </message>
     <message>
         <source>All sections together, as timed from the video, without penalties.</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Abschnitte zusammen, wie auf dem Video gestoppt, ohne Strafen.</translation>
     </message>
     <message>
         <source>Σ sections</source>
-        <translation type="unfinished"></translation>
+        <translation>Σ Abschnitte</translation>
     </message>
     <message>
         <source>All sections together, as timed from the video, and the penalties.</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Abschnitte zusammen, wie auf dem Video gestoppt, und die Strafen.</translation>
     </message>
     <message>
         <source>Σ sections + penalties</source>
-        <translation type="unfinished"></translation>
+        <translation>Σ Abschnitte + Strafen</translation>
     </message>
     <message>
         <source>The sprint as it was timed for this run.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Sprint, wie er für diesen Lauf gestoppt wurde.</translation>
     </message>
     <message>
         <source>sprint</source>
-        <translation type="unfinished"></translation>
+        <translation>Sprint</translation>
     </message>
     <message>
         <source>The official time as it was entered for this run.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die offizielle Zeit, wie sie für diesen Lauf eingegeben wurde.</translation>
     </message>
     <message>
         <source>real</source>
-        <translation type="unfinished"></translation>
+        <translation>offiziell</translation>
     </message>
     <message>
         <source>A run of another race, held against the runs of this one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Lauf eines anderen Rennens, verglichen mit den Läufen dieses Rennens.</translation>
     </message>
     <message>
         <source>time</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeit</translation>
     </message>
     <message>
         <source>The colour tells between which tenths of its column a time lies.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Farbe sagt, zwischen welchen Zehnteln ihrer Spalte eine Zeit liegt.</translation>
     </message>
     <message>
         <source>tenth below &lt; time ≤ tenth above</source>
-        <translation type="unfinished"></translation>
+        <translation>Zehntel darunter &lt; Zeit ≤ Zehntel darüber</translation>
     </message>
     <message>
         <source>The least time of its column has a colour of its own.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die kleinste Zeit ihrer Spalte hat eine eigene Farbe.</translation>
     </message>
     <message>
         <source>time = least</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeit = kleinste</translation>
     </message>
     <message>
         <source>A total column with a run that has no total stays white.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Gesamtspalte mit einem Lauf ohne Gesamtzeit bleibt weiß.</translation>
     </message>
     <message>
         <source>white</source>
-        <translation type="unfinished"></translation>
+        <translation>weiß</translation>
     </message>
     <message>
         <source>What was not timed, or lies beside the scale, has no colour.</source>
-        <translation type="unfinished"></translation>
+        <translation>Was keine Zeit hat oder neben der Skala liegt, hat keine Farbe.</translation>
     </message>
     <message>
         <source>no colour</source>
-        <translation type="unfinished"></translation>
+        <translation>keine Farbe</translation>
     </message>
     <message>
         <source>The least of the column that counts.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Kleinste der Spalte, das zählt.</translation>
     </message>
     <message>
         <source>min values</source>
-        <translation type="unfinished"></translation>
+        <translation>min Werte</translation>
     </message>
     <message>
         <source>The middle of the column, of what counts.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Mitte der Spalte, aus dem, was zählt.</translation>
     </message>
     <message>
         <source>median values</source>
-        <translation type="unfinished"></translation>
+        <translation>Median der Werte</translation>
     </message>
     <message>
         <source>The time less that of the reference.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Zeit minus die der Referenz.</translation>
     </message>
     <message>
         <source>own − reference</source>
-        <translation type="unfinished"></translation>
+        <translation>eigene − Referenz</translation>
     </message>
     <message>
         <source>The place in the column: one more than are faster to the hundredth.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Platz in der Spalte: einer mehr, als aufs Hundertstel schneller sind.</translation>
     </message>
     <message>
         <source>1 + faster</source>
-        <translation type="unfinished"></translation>
+        <translation>1 + schnellere</translation>
     </message>
     <message>
         <source>How far behind the best of the column.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie weit hinter dem Besten der Spalte.</translation>
     </message>
     <message>
         <source>100 · (own / best − 1)</source>
-        <translation type="unfinished"></translation>
+        <translation>100 · (eigene / beste − 1)</translation>
     </message>
     <message>
         <source>The share of the column that is as slow or slower.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Anteil der Spalte, der gleich schnell oder langsamer ist.</translation>
     </message>
     <message>
         <source>100 · slower or equal / timed</source>
-        <translation type="unfinished"></translation>
+        <translation>100 · langsamere oder gleiche / mit Zeit</translation>
     </message>
     <message>
         <source>The best time of the section that stands alone, whoever paddled it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die beste Zeit des Abschnitts, die für sich steht, von wem auch immer.</translation>
     </message>
     <message>
         <source>min times</source>
-        <translation type="unfinished"></translation>
+        <translation>min Zeiten</translation>
     </message>
     <message>
         <source>The best of every section up to here, put together.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Beste jedes Abschnitts bis hier, zusammengesetzt.</translation>
     </message>
     <message>
         <source>Σ bests up to here</source>
-        <translation type="unfinished"></translation>
+        <translation>Σ Bestzeiten bis hier</translation>
     </message>
     <message>
         <source>The best of every section, put together.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Beste jedes Abschnitts, zusammengesetzt.</translation>
     </message>
     <message>
         <source>Σ bests</source>
-        <translation type="unfinished"></translation>
+        <translation>Σ Bestzeiten</translation>
     </message>
     <message>
         <source>The seconds of all its touches and missed gates.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Sekunden aller Berührungen und Torfehler.</translation>
     </message>
     <message>
         <source>Σ gates</source>
-        <translation type="unfinished"></translation>
+        <translation>Σ Tore</translation>
     </message>
     <message>
         <source>The seconds of touches and missed gates of the section.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Sekunden der Berührungen und Torfehler des Abschnitts.</translation>
     </message>
     <message>
         <source>Σ gates of the section</source>
-        <translation type="unfinished"></translation>
+        <translation>Σ Tore des Abschnitts</translation>
     </message>
     <message>
         <source>The official penalty seconds as they were entered for this run.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die offiziellen Strafsekunden, wie sie für diesen Lauf eingegeben wurden.</translation>
     </message>
     <message>
         <source>real penalty</source>
-        <translation type="unfinished"></translation>
+        <translation>offizielle Strafe</translation>
     </message>
     <message>
         <source>The expected time as split taking stored it with this run.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die erwartete Zeit, wie die Zwischenzeitnahme sie mit diesem Lauf gespeichert hat.</translation>
     </message>
     <message>
         <source>expected</source>
-        <translation type="unfinished"></translation>
+        <translation>erwartet</translation>
     </message>
     <message>
         <source>values of the column</source>
-        <translation type="unfinished"></translation>
+        <translation>Werte der Spalte</translation>
     </message>
     <message>
         <source>least</source>
-        <translation type="unfinished"></translation>
+        <translation>kleinster</translation>
     </message>
     <message>
         <source>most</source>
-        <translation type="unfinished"></translation>
+        <translation>größter</translation>
     </message>
     <message>
         <source>times that stand alone</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeiten, die für sich stehen</translation>
     </message>
     <message>
         <source>No gate was touched or missed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein Tor wurde berührt oder verfehlt.</translation>
     </message>
     <message>
         <source>penalties</source>
-        <translation type="unfinished"></translation>
+        <translation>Strafen</translation>
     </message>
     <message>
         <source>faster</source>
-        <translation type="unfinished"></translation>
+        <translation>schnellere</translation>
     </message>
     <message>
         <source>timed</source>
-        <translation type="unfinished"></translation>
+        <translation>mit Zeit</translation>
     </message>
     <message>
         <source>slower or equal</source>
-        <translation type="unfinished"></translation>
+        <translation>langsamere oder gleiche</translation>
     </message>
     <message>
         <source>median</source>
-        <translation type="unfinished"></translation>
+        <translation>Median</translation>
     </message>
     <message>
         <source>List of online planning entries.</source>
-        <translation type="unfinished"></translation>
+        <translation>Liste der Einträge der Online-Planung.</translation>
     </message>
     <message>
         <source>Files that have already been watched.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dateien, die schon angesehen sind.</translation>
     </message>
     <message>
         <source>Play the next video of a list when one ends.</source>
-        <translation type="unfinished"></translation>
+        <translation>Am Ende eines Videos das nächste der Liste abspielen.</translation>
     </message>
     <message>
         <source>Start a run at its stored video time rather than at the video&apos;s start.</source>
-        <translation type="unfinished"></translation>
+        <translation>Einen Lauf bei seiner gespeicherten Videozeit beginnen statt am Anfang des Videos.</translation>
     </message>
     <message>
         <source>Start playback as soon as a row is clicked.</source>
-        <translation type="unfinished"></translation>
+        <translation>Abspielen, sobald eine Zeile angeklickt wird.</translation>
     </message>
     <message>
         <source>Show penalties in the tables.</source>
-        <translation type="unfinished"></translation>
+        <translation>Strafen in den Tabellen zeigen.</translation>
     </message>
     <message>
         <source>Include penalty seconds in the times that are compared.</source>
-        <translation type="unfinished"></translation>
+        <translation>Strafsekunden in die verglichenen Zeiten einrechnen.</translation>
     </message>
     <message>
         <source>Colours of the split table.</source>
-        <translation type="unfinished"></translation>
+        <translation>Farben der Zwischenzeitentabelle.</translation>
     </message>
     <message>
         <source>Comment tag chosen last.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zuletzt gewählte Kommentarmarkierung.</translation>
     </message>
     <message>
         <source>Show the coach&apos;s comments.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kommentare des Trainers zeigen.</translation>
     </message>
     <message>
         <source>In tag mode, play only the tagged part of a video.</source>
-        <translation type="unfinished"></translation>
+        <translation>Beim Markieren nur den markierten Teil eines Videos abspielen.</translation>
     </message>
     <message>
         <source>Kind of data opened last.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zuletzt geöffnete Art von Daten.</translation>
     </message>
     <message>
         <source>Full screen shows the roll chart.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Vollbild zeigt das Rolldiagramm.</translation>
     </message>
     <message>
         <source>Full screen shows the pitch chart.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Vollbild zeigt das Stampfdiagramm.</translation>
     </message>
     <message>
         <source>Full screen shows the heart-rate chart.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Vollbild zeigt das Herzfrequenzdiagramm.</translation>
     </message>
     <message>
         <source>Full screen shows the scatter chart.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Vollbild zeigt das Streudiagramm.</translation>
     </message>
     <message>
         <source>Show boat-motion values normalised.</source>
-        <translation type="unfinished"></translation>
+        <translation>Werte der Bootsbewegung normiert zeigen.</translation>
     </message>
     <message>
         <source>Show the impulse gauge.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impulsanzeige zeigen.</translation>
     </message>
     <message>
         <source>Show the stroke-rate gauge.</source>
-        <translation type="unfinished"></translation>
+        <translation>Schlagfrequenzanzeige zeigen.</translation>
     </message>
     <message>
         <source>Number of splits of a new split file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zahl der Zwischenzeiten einer neuen Zwischenzeitdatei.</translation>
     </message>
     <message>
         <source>Tag names saved for reuse.</source>
-        <translation type="unfinished"></translation>
+        <translation>Gespeicherte Namen von Markierungen.</translation>
     </message>
     <message>
         <source>Time-loss reasons saved for reuse.</source>
-        <translation type="unfinished"></translation>
+        <translation>Gespeicherte Gründe von Zeitverlusten.</translation>
     </message>
     <message>
         <source>Load a planning file at start.</source>
-        <translation type="unfinished"></translation>
+        <translation>Beim Start eine Planungsdatei laden.</translation>
     </message>
     <message>
         <source>The planning file to load at start is an online one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die beim Start geladene Planungsdatei liegt online.</translation>
     </message>
     <message>
         <source>Planning file to load at start.</source>
-        <translation type="unfinished"></translation>
+        <translation>Beim Start geladene Planungsdatei.</translation>
     </message>
     <message>
         <source>Also export the table as CSV on saving.</source>
-        <translation type="unfinished"></translation>
+        <translation>Beim Speichern die Tabelle auch als CSV exportieren.</translation>
     </message>
     <message>
         <source>Also export a PDF on saving.</source>
-        <translation type="unfinished"></translation>
+        <translation>Beim Speichern auch ein PDF exportieren.</translation>
     </message>
     <message>
         <source>Main folder to open at start.</source>
-        <translation type="unfinished"></translation>
+        <translation>Beim Start geöffneter Hauptordner.</translation>
     </message>
     <message>
         <source>Open the test tool at start.</source>
-        <translation type="unfinished"></translation>
+        <translation>Beim Start das Testwerkzeug öffnen.</translation>
     </message>
     <message>
         <source>The file is not an activity, but something else of the device.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei ist keine Aktivität, sondern etwas anderes vom Gerät.</translation>
     </message>
     <message>
         <source>There are no points in the file.</source>
-        <translation type="unfinished"></translation>
+        <translation>In der Datei sind keine Punkte.</translation>
     </message>
     <message numerus="yes">
         <source>{} videos</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>{} Video</numerusform>
+            <numerusform>{} Videos</numerusform>
         </translation>
     </message>
     <message>
         <source>Makes a training file of the videos that carry an athlete&apos;s name</source>
-        <translation type="unfinished"></translation>
+        <translation>Macht eine Trainingsdatei aus den Videos mit dem Namen eines Athleten</translation>
     </message>
     <message>
         <source>Folder of the videos</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordner der Videos</translation>
     </message>
     <message>
         <source>The athlete&apos;s name; a crew as &quot;A / B&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>Name des Athleten; eine Besatzung als „A / B“</translation>
     </message>
     <message>
         <source>Replace a training file that is there already</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine schon vorhandene Trainingsdatei ersetzen</translation>
     </message>
     <message>
         <source>Kavela: splits, results and recordings of canoe slalom.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kavela: Zwischenzeiten, Ergebnisse und Aufzeichnungen im Kanuslalom.</translation>
     </message>
     <message>
         <source>Files to open in the desktop program</source>
-        <translation type="unfinished"></translation>
+        <translation>Dateien, die im Programmfenster zu öffnen sind</translation>
     </message>
     <message>
         <source>Start another desktop program, also where one runs</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein weiteres Programmfenster starten, auch wo schon eines läuft</translation>
     </message>
     <message>
         <source>Language of what is said: en or one that is built in</source>
-        <translation type="unfinished"></translation>
+        <translation>Sprache der Ausgaben: en oder eine der eingebauten</translation>
     </message>
     <message>
         <source>There is not enough memory for this file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Für diese Datei reicht der Speicher nicht.</translation>
     </message>
     <message>
         <source>Composes a film of several runs</source>
-        <translation type="unfinished"></translation>
+        <translation>Setzt einen Film aus mehreren Läufen zusammen</translation>
     </message>
     <message>
         <source>What is to be composed (.json)</source>
-        <translation type="unfinished"></translation>
+        <translation>Was zusammenzusetzen ist (.json)</translation>
     </message>
     <message>
         <source>File to write, in place of the job&apos;s own</source>
-        <translation type="unfinished"></translation>
+        <translation>Zu schreibende Datei statt der des Auftrags</translation>
     </message>
     <message numerus="yes">
         <source>{} strokes</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>{} Schlag</numerusform>
+            <numerusform>{} Schläge</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>{} turns</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>{} Drehung</numerusform>
+            <numerusform>{} Drehungen</numerusform>
         </translation>
     </message>
     <message>
         <source>Give another name with --name.</source>
-        <translation type="unfinished"></translation>
+        <translation>Mit --name einen anderen Namen angeben.</translation>
     </message>
     <message>
         <source>A name goes with one recording only.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Name gehört zu nur einer Aufzeichnung.</translation>
     </message>
     <message>
         <source>Writes the processed session of raw recordings</source>
-        <translation type="unfinished"></translation>
+        <translation>Schreibt die ausgewertete Einheit aus Rohaufzeichnungen</translation>
     </message>
     <message>
         <source>Raw recordings (.kvb)</source>
-        <translation type="unfinished"></translation>
+        <translation>Rohaufzeichnungen (.kvb)</translation>
     </message>
     <message>
         <source>Name of the new file, for a further one</source>
-        <translation type="unfinished"></translation>
+        <translation>Name der neuen Datei, für eine weitere</translation>
     </message>
     <message numerus="yes">
         <source>{} files</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>{} Datei</numerusform>
+            <numerusform>{} Dateien</numerusform>
         </translation>
     </message>
     <message>
         <source>Failed to create file</source>
-        <translation type="unfinished"></translation>
+        <translation>Datei konnte nicht angelegt werden</translation>
     </message>
     <message>
         <source>Writes a sample season to try Kavela with</source>
-        <translation type="unfinished"></translation>
+        <translation>Schreibt eine Beispielsaison zum Ausprobieren von Kavela</translation>
     </message>
     <message>
         <source>Folder to write to; made where it is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>Zielordner; wird angelegt, wo er fehlt</translation>
     </message>
     <message>
         <source>Makes short films of runs as well</source>
-        <translation type="unfinished"></translation>
+        <translation>Macht auch kurze Filme der Läufe</translation>
     </message>
     <message>
         <source>Writes the split table for a spreadsheet, or a report</source>
-        <translation type="unfinished"></translation>
+        <translation>Schreibt die Zwischenzeitentabelle für die Tabellenkalkulation oder einen Bericht</translation>
     </message>
     <message>
         <source>Split file (.kvx) of any release</source>
-        <translation type="unfinished"></translation>
+        <translation>Zwischenzeitdatei (.kvx) jeder Version</translation>
     </message>
     <message>
         <source>File to write: semicolon-separated text</source>
-        <translation type="unfinished"></translation>
+        <translation>Zu schreibende Datei: Text mit Semikolons</translation>
     </message>
     <message>
         <source>File to write: the race report, on A4 pages</source>
-        <translation type="unfinished"></translation>
+        <translation>Zu schreibende Datei: der Rennbericht auf A4-Seiten</translation>
     </message>
     <message>
         <source>There is no split file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Zwischenzeitdatei vorhanden.</translation>
     </message>
     <message numerus="yes">
         <source>{} tables</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>{} Tabelle</numerusform>
+            <numerusform>{} Tabellen</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>{} runs</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>{} Lauf</numerusform>
+            <numerusform>{} Läufe</numerusform>
         </translation>
     </message>
     <message>
         <source>Writes what split files say as tables for other programs</source>
-        <translation type="unfinished"></translation>
+        <translation>Schreibt den Inhalt von Zwischenzeitdateien als Tabellen für andere Programme</translation>
     </message>
     <message>
         <source>Split files, or folders with them</source>
-        <translation type="unfinished"></translation>
+        <translation>Zwischenzeitdateien oder Ordner damit</translation>
     </message>
     <message>
         <source>Folder to write to</source>
-        <translation type="unfinished"></translation>
+        <translation>Zielordner</translation>
     </message>
     <message>
         <source>Fetches the films of a race by their bibs</source>
-        <translation type="unfinished"></translation>
+        <translation>Holt die Filme eines Rennens nach ihren Startnummern</translation>
     </message>
     <message>
         <source>Where the films come from (.json)</source>
-        <translation type="unfinished"></translation>
+        <translation>Woher die Filme kommen (.json)</translation>
     </message>
     <message>
         <source>Only print what would be fetched</source>
-        <translation type="unfinished"></translation>
+        <translation>Nur ausgeben, was geholt würde</translation>
     </message>
     <message>
         <source>Do not ask before anything is fetched</source>
-        <translation type="unfinished"></translation>
+        <translation>Vor dem Holen nicht fragen</translation>
     </message>
     <message>
         <source>User name for the server of the address</source>
-        <translation type="unfinished"></translation>
+        <translation>Benutzername für den Server der Adresse</translation>
     </message>
     <message>
         <source>A search needs a file or folder and, last, the query in quotes.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Suche braucht eine Datei oder einen Ordner und zuletzt die Abfrage in Anführungszeichen.</translation>
     </message>
     <message>
         <source>The table cannot be written over a file that is searched.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Tabelle kann nicht über eine Datei geschrieben werden, die durchsucht wird.</translation>
     </message>
     <message>
         <source>Searches split files: a season in one question</source>
-        <translation type="unfinished"></translation>
+        <translation>Durchsucht Zwischenzeitdateien: eine Saison in einer Frage</translation>
     </message>
     <message>
         <source>Split files, or folders with them; last the query, in quotes</source>
-        <translation type="unfinished"></translation>
+        <translation>Zwischenzeitdateien oder Ordner damit; zuletzt die Abfrage, in Anführungszeichen</translation>
     </message>
     <message>
         <source>Print one JSON document</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein JSON-Dokument ausgeben</translation>
     </message>
     <message numerus="yes">
         <source>{} groups</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>{} Gruppe</numerusform>
+            <numerusform>{} Gruppen</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>{} rows</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>{} Zeile</numerusform>
+            <numerusform>{} Zeilen</numerusform>
         </translation>
     </message>
     <message>
         <source>What an athlete can lift once, by five formulas</source>
-        <translation type="unfinished"></translation>
+        <translation>Was ein Athlet einmal heben kann, nach fünf Formeln</translation>
     </message>
     <message>
         <source>How often the weight was lifted</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie oft das Gewicht gehoben wurde</translation>
     </message>
     <message>
         <source>The weight in kilograms</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Gewicht in Kilogramm</translation>
     </message>
     <message numerus="yes">
         <source>{} results</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>{} Ergebnis</numerusform>
+            <numerusform>{} Ergebnisse</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>{} lines</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>{} Zeile</numerusform>
+            <numerusform>{} Zeilen</numerusform>
         </translation>
     </message>
     <message>
         <source>Adds an official results list to a split file</source>
-        <translation type="unfinished"></translation>
+        <translation>Fügt einer Zwischenzeitdatei eine offizielle Ergebnisliste hinzu</translation>
     </message>
     <message>
         <source>Split file (.kvx) of the current version</source>
-        <translation type="unfinished"></translation>
+        <translation>Zwischenzeitdatei (.kvx) der heutigen Version</translation>
     </message>
     <message>
         <source>Semicolon-separated text with a header line: position, bib, name, nationality, time, penalty</source>
-        <translation type="unfinished"></translation>
+        <translation>Text mit Semikolons und einer Kopfzeile: Platz, Startnummer, Name, Nation, Zeit, Strafe</translation>
     </message>
     <message>
         <source>Says what files are, or what is wrong in them</source>
-        <translation type="unfinished"></translation>
+        <translation>Sagt, was Dateien sind oder was an ihnen falsch ist</translation>
     </message>
     <message>
         <source>Files of any kind</source>
-        <translation type="unfinished"></translation>
+        <translation>Dateien jeder Art</translation>
     </message>
     <message>
         <source>The table cannot be written over a file that it is made from.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Tabelle kann nicht über eine Datei geschrieben werden, aus der sie entsteht.</translation>
     </message>
     <message>
         <source>Tells where runs lose time against one another</source>
-        <translation type="unfinished"></translation>
+        <translation>Sagt, wo Läufe gegeneinander Zeit verlieren</translation>
     </message>
     <message>
         <source>Split file (.kvx) of any release; with --athlete also folders of them</source>
-        <translation type="unfinished"></translation>
+        <translation>Zwischenzeitdatei (.kvx) jeder Version; mit --athlete auch Ordner damit</translation>
     </message>
     <message>
         <source>winner, fastest, ideal, median, own or run:I; winner without other word</source>
-        <translation type="unfinished"></translation>
+        <translation>winner, fastest, ideal, median, own oder run:I; ohne weiteres winner</translation>
     </message>
     <message>
         <source>The season of an athlete over all the paths; a crew as &quot;A / B&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Saison eines Athleten über alle Pfade; eine Besatzung als „A / B“</translation>
     </message>
     <message>
         <source>Only the athlete&apos;s runs of this category</source>
-        <translation type="unfinished"></translation>
+        <translation>Nur die Läufe des Athleten in dieser Kategorie</translation>
     </message>
     <message>
         <source>Folder to write the athlete&apos;s page into, named after the athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordner für die Seite des Athleten, die nach ihm heißt</translation>
     </message>
     <message>
         <source>Explain one number instead: loss/RUN/winner/5, gap/RUN/ideal, …</source>
-        <translation type="unfinished"></translation>
+        <translation>Stattdessen eine Zahl erklären: loss/RUN/winner/5, gap/RUN/ideal, …</translation>
     </message>
     <message>
         <source>run {}</source>
-        <translation type="unfinished"></translation>
+        <translation>Lauf {}</translation>
     </message>
     <message>
         <source>no total</source>
-        <translation type="unfinished"></translation>
+        <translation>keine Gesamtzeit</translation>
     </message>
     <message>
         <source>, no totals to compare</source>
-        <translation type="unfinished"></translation>
+        <translation>, keine vergleichbaren Gesamtzeiten</translation>
     </message>
     <message>
         <source>strokes {} on {}</source>
-        <translation type="unfinished"></translation>
+        <translation>Schläge {} zu {}</translation>
     </message>
     <message>
         <source>gate {} {}</source>
-        <translation type="unfinished"></translation>
+        <translation>Tor {} {}</translation>
     </message>
     <message>
         <source>     Explained by notes: {} of {} ({:.0f} %)</source>
-        <translation type="unfinished"></translation>
+        <translation>     Durch Notizen erklärt: {} von {} ({:.0f} %)</translation>
     </message>
     <message>
         <source>Tells how often gates are touched, what it cost, and whether speed pays</source>
-        <translation type="unfinished"></translation>
+        <translation>Sagt, wie oft Tore berührt werden, was es kostete und ob sich Tempo lohnt</translation>
     </message>
     <message>
         <source>Split files (.kvx) of any release, or folders of them</source>
-        <translation type="unfinished"></translation>
+        <translation>Zwischenzeitdateien (.kvx) jeder Version oder Ordner damit</translation>
     </message>
     <message>
         <source>What the rates are by; by gate without other word</source>
-        <translation type="unfinished"></translation>
+        <translation>Wonach die Raten gehen; ohne weiteres nach Tor</translation>
     </message>
     <message>
         <source>Only runs of this category</source>
-        <translation type="unfinished"></translation>
+        <translation>Nur Läufe dieser Kategorie</translation>
     </message>
     <message>
         <source>File to write the rates to: semicolon-separated text</source>
-        <translation type="unfinished"></translation>
+        <translation>Zu schreibende Datei für die Raten: Text mit Semikolons</translation>
     </message>
     <message>
         <source>Explain one number instead: rate/gate/7, touches/crew/NAME, cost/RUN/GATE, …</source>
-        <translation type="unfinished"></translation>
+        <translation>Stattdessen eine Zahl erklären: rate/gate/7, touches/crew/NAME, cost/RUN/GATE, …</translation>
     </message>
     <message>
         <source>… {} more; all of them with --json, --csv or in a pipe</source>
-        <translation type="unfinished"></translation>
+        <translation>… {} weitere; alle mit --json, --csv oder in einer Pipe</translation>
     </message>
     <message>
         <source>Penalties by {} · {}, {}</source>
-        <translation type="unfinished"></translation>
+        <translation>Strafen {} · {}, {}</translation>
     </message>
     <message>
         <source>{} of {} whole runs without a penalty: {:.1f} % ({})</source>
-        <translation type="unfinished"></translation>
+        <translation>{} von {} ganzen Läufen ohne Strafe: {:.1f} % ({})</translation>
     </message>
     <message>
         <source>Ranked: drawn towards {:.1f} %, the more the fewer the passages;</source>
-        <translation type="unfinished"></translation>
+        <translation>Gereiht: zu {:.1f} % hingezogen, umso mehr, je weniger Durchfahrten;</translation>
     </message>
     <message>
         <source>{} of {}</source>
-        <translation type="unfinished"></translation>
+        <translation>{} von {}</translation>
     </message>
     <message>
         <source>What penalties cost</source>
-        <translation type="unfinished"></translation>
+        <translation>Was Strafen kosten</translation>
     </message>
     <message numerus="yes">
         <source>{} penalties</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>{} Strafe</numerusform>
+            <numerusform>{} Strafen</numerusform>
         </translation>
     </message>
     <message>
         <source>gate {}</source>
-        <translation type="unfinished"></translation>
+        <translation>Tor {}</translation>
     </message>
     <message>
         <source>  {} of {}, without {}</source>
-        <translation type="unfinished"></translation>
+        <translation>  {} von {}, ohne {}</translation>
     </message>
     <message>
         <source>{} {} of {} ({:.0f} %, {:.0f}–{:.0f})</source>
-        <translation type="unfinished"></translation>
+        <translation>{} {} von {} ({:.0f} %, {:.0f}–{:.0f})</translation>
     </message>
     <message>
         <source>Noted of {}</source>
-        <translation type="unfinished"></translation>
+        <translation>Notiert zu {}</translation>
     </message>
     <message>
         <source>1 % of speed pays for {:.2f} touches a run; times in percent of the group&apos;s median</source>
-        <translation type="unfinished"></translation>
+        <translation>1 % Tempo wiegt {:.2f} Berührungen je Lauf auf; Zeiten in Prozent des Medians der Gruppe</translation>
     </message>
     <message>
         <source>The sum of the best splits, and what each run could be</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Summe der besten Abschnitte, und was jeder Lauf hätte sein können</translation>
     </message>
     <message>
         <source>Store the values in the file</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Werte in der Datei speichern</translation>
     </message>
     <message>
         <source>Tell how a number came about: perfect, or xtime/5 (runs from 0)</source>
-        <translation type="unfinished"></translation>
+        <translation>Sagen, wie eine Zahl zustande kam: perfect oder xtime/5 (Läufe ab 0)</translation>
     </message>
     <message>
         <source>The weeks of each athlete&apos;s seasons</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Wochen der Saisons jedes Athleten</translation>
     </message>
     <message>
         <source>Planning (.planning) of any version</source>
-        <translation type="unfinished"></translation>
+        <translation>Planung (.planning) jeder Version</translation>
     </message>
     <message>
         <source>Brings plannings to the current version</source>
-        <translation type="unfinished"></translation>
+        <translation>Bringt Planungen auf die heutige Version</translation>
     </message>
     <message>
         <source>Plannings (.planning) of any version</source>
-        <translation type="unfinished"></translation>
+        <translation>Planungen (.planning) jeder Version</translation>
     </message>
     <message>
         <source>Shows and upgrades training plannings</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeigt und aktualisiert Trainingsplanungen</translation>
     </message>
     <message numerus="yes">
         <source>{} weeks</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>{} Woche</numerusform>
+            <numerusform>{} Wochen</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>{} sessions</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>{} Einheit</numerusform>
+            <numerusform>{} Einheiten</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>{} athletes</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>{} Athlet</numerusform>
+            <numerusform>{} Athleten</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>{} favourite interval sessions</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>{} bevorzugte Intervalleinheit</numerusform>
+            <numerusform>{} bevorzugte Intervalleinheiten</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>{} variability measurements</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>{} Variabilitätsmessung</numerusform>
+            <numerusform>{} Variabilitätsmessungen</numerusform>
         </translation>
     </message>
     <message>
         <source>Tells how the athletes of a team stand over seasons</source>
-        <translation type="unfinished"></translation>
+        <translation>Sagt, wie die Athleten eines Teams über die Saisons stehen</translation>
     </message>
     <message>
         <source>Team file (.kvteam)</source>
-        <translation type="unfinished"></translation>
+        <translation>Teamdatei (.kvteam)</translation>
     </message>
     <message>
         <source>Split files (.kvx) of any release, or folders of them: they tell the winners and the rivals</source>
-        <translation type="unfinished"></translation>
+        <translation>Zwischenzeitdateien (.kvx) jeder Version oder Ordner damit: sie nennen die Sieger und die Rivalen</translation>
     </message>
     <message>
         <source>Category: MK1, WK1, MC1, WC1, MX1, WX1</source>
-        <translation type="unfinished"></translation>
+        <translation>Kategorie: MK1, WK1, MC1, WC1, MX1, WX1</translation>
     </message>
     <message>
         <source>Only these: 2025, or 2023-2025</source>
-        <translation type="unfinished"></translation>
+        <translation>Nur diese: 2025 oder 2023-2025</translation>
     </message>
     <message>
         <source>Whose places to expect of one another; the team and those who raced most often without it</source>
-        <translation type="unfinished"></translation>
+        <translation>Wessen Plätze gegeneinander zu erwarten sind; ohne weiteres das Team und wer am öftesten fuhr</translation>
     </message>
     <message>
         <source>File to write: the runs of the athletes as semicolon-separated text</source>
-        <translation type="unfinished"></translation>
+        <translation>Zu schreibende Datei: die Läufe der Athleten als Text mit Semikolons</translation>
     </message>
     <message>
         <source>Folder to write a report of the team and a page for each athlete into</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordner für einen Bericht des Teams und eine Seite je Athlet</translation>
     </message>
     <message>
         <source>Explain one number instead: spread, trend/NAME, percent/NAME/2025/WC1/Final, …</source>
-        <translation type="unfinished"></translation>
+        <translation>Stattdessen eine Zahl erklären: spread, trend/NAME, percent/NAME/2025/WC1/Final, …</translation>
     </message>
     <message>
         <source>{:+.1f} to {:+.1f}</source>
-        <translation type="unfinished"></translation>
+        <translation>{:+.1f} bis {:+.1f}</translation>
     </message>
     <message>
         <source>{:+.2f} to {:+.2f}</source>
-        <translation type="unfinished"></translation>
+        <translation>{:+.2f} bis {:+.2f}</translation>
     </message>
     <message>
         <source>      {} run {} {} {}
 </source>
-        <translation type="unfinished"></translation>
+        <translation>      {} Lauf {} {} {}
+</translation>
     </message>
     <message>
         <source>  {}. {}: {}, {} s a run
 </source>
-        <translation type="unfinished"></translation>
+        <translation>  {}. {}: {}, {} s je Lauf
+</translation>
     </message>
     <message numerus="yes">
         <source>{} whole runs</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>{} ganzer Lauf</numerusform>
+            <numerusform>{} ganze Läufe</numerusform>
         </translation>
     </message>
     <message>
         <source> · on {} · {}
 </source>
-        <translation type="unfinished"></translation>
+        <translation> · auf {} · {}
+</translation>
     </message>
     <message>
         <source> ({:+.1f} to {:+.1f})</source>
-        <translation type="unfinished"></translation>
+        <translation> ({:+.1f} bis {:+.1f})</translation>
     </message>
     <message numerus="yes">
         <source>{} split files</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>{} Zwischenzeitdatei</numerusform>
+            <numerusform>{} Zwischenzeitdateien</numerusform>
         </translation>
     </message>
     <message>
         <source> · {} · {} of races</source>
-        <translation type="unfinished"></translation>
+        <translation> · {} · {} von Rennen</translation>
     </message>
     <message>
         <source>Too few runs to tell how much they vary by chance.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zu wenige Läufe, um zu sagen, wie stark sie zufällig schwanken.</translation>
     </message>
     <message>
         <source>Runs vary by {:.1f} %{}, from {}; {:.2f} % is worth gaining.</source>
-        <translation type="unfinished"></translation>
+        <translation>Läufe schwanken um {:.1f} %{} ({}); {:.2f} % zu gewinnen lohnt sich.</translation>
     </message>
     <message>
         <source>Neither winners nor fastest splits of these races are known.</source>
-        <translation type="unfinished"></translation>
+        <translation>Von diesen Rennen sind weder Sieger noch schnellste Abschnitte bekannt.</translation>
     </message>
     <message>
         <source>      ┄ third of the final, median</source>
-        <translation type="unfinished"></translation>
+        <translation>      ┄ Dritter des Finales, Median</translation>
     </message>
     <message>
         <source>within</source>
-        <translation type="unfinished"></translation>
+        <translation>Streuung</translation>
     </message>
     <message>
         <source>trend</source>
-        <translation type="unfinished"></translation>
+        <translation>Trend</translation>
     </message>
     <message>
         <source>on splits</source>
-        <translation type="unfinished"></translation>
+        <translation>auf Abschnitte</translation>
     </message>
     <message>
         <source>{:.1f} % (all {:.1f}{})</source>
-        <translation type="unfinished"></translation>
+        <translation>{:.1f} % (alle {:.1f}{})</translation>
     </message>
     <message>
         <source>, {} missed</source>
-        <translation type="unfinished"></translation>
+        <translation>, {} verfehlt</translation>
     </message>
     <message>
         <source>{:+.1f} %/yr{} </source>
-        <translation type="unfinished"></translation>
+        <translation>{:+.1f} %/Jahr{} </translation>
     </message>
     <message>
         <source>{} of {} ({:.0f}–{:.0f} %)</source>
-        <translation type="unfinished"></translation>
+        <translation>{} von {} ({:.0f}–{:.0f} %)</translation>
     </message>
     <message numerus="yes">
         <source>{} races</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>{} Rennen</numerusform>
+            <numerusform>{} Rennen</numerusform>
         </translation>
     </message>
     <message>
         <source> {} of {} ({:.0f}–{:.0f} %), {:+.1f} %</source>
-        <translation type="unfinished"></translation>
+        <translation> {} von {} ({:.0f}–{:.0f} %), {:+.1f} %</translation>
     </message>
     <message>
         <source>rank {}</source>
-        <translation type="unfinished"></translation>
+        <translation>Rang {}</translation>
     </message>
     <message>
         <source>… {} more; all of them with --json or in a pipe</source>
-        <translation type="unfinished"></translation>
+        <translation>… {} weitere; alle mit --json oder in einer Pipe</translation>
     </message>
     <message>
         <source>{} more boats come into question: name a field with --field</source>
-        <translation type="unfinished"></translation>
+        <translation>{} weitere Boote kommen in Frage: mit --field ein Feld nennen</translation>
     </message>
     <message>
         <source>{} is left out: fewer than {} runs, or never met the others</source>
-        <translation type="unfinished"></translation>
+        <translation>{} fehlt: weniger als {} Läufe, oder nie auf die anderen getroffen</translation>
     </message>
     <message>
         <source>The ranking of each category</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Rangliste jeder Kategorie</translation>
     </message>
     <message>
         <source>Selection file (.kvsr) of any layout</source>
-        <translation type="unfinished"></translation>
+        <translation>Nominierungsdatei (.kvsr) jeder Bauart</translation>
     </message>
     <message>
         <source>Kind of bonus that counts, from 0</source>
-        <translation type="unfinished"></translation>
+        <translation>Art des Bonus, die zählt, ab 0</translation>
     </message>
     <message>
         <source>Folder to write both reports into</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordner für beide Berichte</translation>
     </message>
     <message>
         <source>Store percentages and scores in the file</source>
-        <translation type="unfinished"></translation>
+        <translation>Prozente und Wertungen in der Datei speichern</translation>
     </message>
     <message>
         <source>Adds athletes from a list to a selection</source>
-        <translation type="unfinished"></translation>
+        <translation>Fügt einer Nominierung Athleten aus einer Liste hinzu</translation>
     </message>
     <message>
         <source>Selection file (.kvsr)</source>
-        <translation type="unfinished"></translation>
+        <translation>Nominierungsdatei (.kvsr)</translation>
     </message>
     <message>
         <source>Text with lines Cat;Name;Surname;year;club</source>
-        <translation type="unfinished"></translation>
+        <translation>Text mit Zeilen Cat;Name;Surname;year;club</translation>
     </message>
     <message>
         <source>Takes the results of a race from its split files</source>
-        <translation type="unfinished"></translation>
+        <translation>Übernimmt die Ergebnisse eines Rennens aus seinen Zwischenzeitdateien</translation>
     </message>
     <message>
         <source>Race of the selection: its name, or its number counted from 0</source>
-        <translation type="unfinished"></translation>
+        <translation>Rennen der Nominierung: sein Name oder seine Nummer, gezählt ab 0</translation>
     </message>
     <message>
         <source>Kind of bonus that counts in the scores, from 0</source>
-        <translation type="unfinished"></translation>
+        <translation>Art des Bonus, die in den Wertungen zählt, ab 0</translation>
     </message>
     <message>
         <source>Split files (.kvx) of the race</source>
-        <translation type="unfinished"></translation>
+        <translation>Zwischenzeitdateien (.kvx) des Rennens</translation>
     </message>
     <message>
         <source>Selection races and their ranking</source>
-        <translation type="unfinished"></translation>
+        <translation>Qualifikationsrennen und ihre Rangliste</translation>
     </message>
     <message>
         <source>Prints the coloured split table of a race</source>
-        <translation type="unfinished"></translation>
+        <translation>Gibt die farbige Zwischenzeitentabelle eines Rennens aus</translation>
     </message>
     <message>
         <source>Colours: race or training</source>
-        <translation type="unfinished"></translation>
+        <translation>Farben: race oder training</translation>
     </message>
     <message>
         <source>Times from the start to each split</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeiten vom Start bis zu jeder Zwischenzeit</translation>
     </message>
     <message>
         <source>Add penalty seconds to the times</source>
-        <translation type="unfinished"></translation>
+        <translation>Strafsekunden zu den Zeiten zählen</translation>
     </message>
     <message>
         <source>Show penalty seconds behind the times</source>
-        <translation type="unfinished"></translation>
+        <translation>Strafsekunden hinter den Zeiten zeigen</translation>
     </message>
     <message>
         <source>Only runs of this phase</source>
-        <translation type="unfinished"></translation>
+        <translation>Nur Läufe dieser Phase</translation>
     </message>
     <message>
         <source>Tell how a number came about: cell/5/3, band/5/3, ideal/3, ideal/total (runs from 0, columns and sections from 1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Sagen, wie eine Zahl zustande kam: cell/5/3, band/5/3, ideal/3, ideal/total (Läufe ab 0, Spalten und Abschnitte ab 1)</translation>
     </message>
     <message>
         <source>{} gates, {} upstream</source>
-        <translation type="unfinished"></translation>
+        <translation>{} Tore, davon {} aufwärts</translation>
     </message>
     <message>
         <source>The table cannot be written over the recording itself.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Tabelle kann nicht über die Aufzeichnung selbst geschrieben werden.</translation>
     </message>
     <message>
         <source>Finds the strokes and turns of a boat-motion recording</source>
-        <translation type="unfinished"></translation>
+        <translation>Findet die Schläge und Drehungen einer Aufzeichnung der Bootsbewegung</translation>
     </message>
     <message>
         <source>Raw recording (.kvb)</source>
-        <translation type="unfinished"></translation>
+        <translation>Rohaufzeichnung (.kvb)</translation>
     </message>
     <message>
         <source>&quot;{}&quot; is no number from {:g} to {:g} {}.</source>
-        <translation type="unfinished"></translation>
+        <translation>„{}“ ist keine Zahl von {:g} bis {:g} {}.</translation>
     </message>
     <message>
         <source>&quot;{}&quot; is none of: {}.</source>
-        <translation type="unfinished"></translation>
+        <translation>„{}“ ist nichts von: {}.</translation>
     </message>
     <message>
         <source>Side of the phone that points to the bow, where fixes do not tell: top, bottom, right, left, back or screen</source>
-        <translation type="unfinished"></translation>
+        <translation>Seite des Telefons, die zum Bug zeigt, wo Ortungen es nicht sagen: top, bottom, right, left, back oder screen</translation>
     </message>
     <message>
         <source>Athlete, boat and kit in kg</source>
-        <translation type="unfinished"></translation>
+        <translation>Athlet, Boot und Ausrüstung in kg</translation>
     </message>
     <message>
         <source>Resistance of the hull over the square of its speed in N·s²/m²</source>
-        <translation type="unfinished"></translation>
+        <translation>Widerstand des Rumpfs durch das Quadrat seiner Geschwindigkeit in N·s²/m²</translation>
     </message>
     <message>
         <source>Class of boat: k1, c1, c2, kayak or canoe</source>
-        <translation type="unfinished"></translation>
+        <translation>Bootsklasse: k1, c1, c2, kayak oder canoe</translation>
     </message>
     <message numerus="yes">
         <source>{} bouts</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>{} Belastung</numerusform>
+            <numerusform>{} Belastungen</numerusform>
         </translation>
     </message>
     <message>
         <source>{:.1f} 1/min</source>
-        <translation type="unfinished"></translation>
+        <translation>{:.1f} 1/min</translation>
     </message>
     <message>
         <source>{:g} kg, drag {:g} N·s²/m², {}; force and power hold on flat water only</source>
-        <translation type="unfinished"></translation>
+        <translation>{:g} kg, Widerstand {:g} N·s²/m², {}; Kraft und Leistung gelten nur auf Flachwasser</translation>
     </message>
     <message>
         <source>Shows any list of results as a table, with columns reckoned</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeigt jede Ergebnisliste als Tabelle, mit berechneten Spalten</translation>
     </message>
     <message>
         <source>A list: text (CSV, tabs, columns of blanks), a spreadsheet (.xlsx, .ods), or a split file (.kvx) that carries one</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Liste: Text (CSV, Tabs, Spalten aus Leerzeichen), eine Tabellendatei (.xlsx, .ods) oder eine Zwischenzeitdatei (.kvx), die eine enthält</translation>
     </message>
     <message>
         <source>A column to add: total:Time,Pen, rank:Total, gap, percent, percentile, difference:Run 2,Run 1; with &quot;by Category&quot; within each category, with &quot;down&quot; the highest first</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine neue Spalte: total:Time,Pen, rank:Total, gap, percent, percentile, difference:Run 2,Run 1; mit &quot;by Category&quot; in jeder Kategorie, mit &quot;down&quot; das Höchste zuerst</translation>
     </message>
     <message>
         <source>ROW,COL,VALUE,FN as in Nation,Category,Time,mean; FN is count, sum, mean, median, least or most</source>
-        <translation type="unfinished"></translation>
+        <translation>ROW,COL,VALUE,FN wie in Nation,Category,Time,mean; FN ist count, sum, mean, median, least oder most</translation>
     </message>
     <message>
         <source>Team (.kvteam) whose athletes are looked for</source>
-        <translation type="unfinished"></translation>
+        <translation>Team (.kvteam), nach dessen Athleten gesucht wird</translation>
     </message>
     <message>
         <source>The sheet, where there are several; of a split file which of its lists</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Blatt, wo es mehrere gibt; bei einer Zwischenzeitdatei, welche ihrer Listen</translation>
     </message>
     <message>
         <source>File to write the table to: semicolon-separated text</source>
-        <translation type="unfinished"></translation>
+        <translation>Zu schreibende Datei für die Tabelle: Text mit Semikolons</translation>
     </message>
     <message>
         <source>Category, letter for letter as in the file: MK1, WK1, MC1, WC1, MX1, WX1</source>
-        <translation type="unfinished"></translation>
+        <translation>Kategorie, Buchstabe für Buchstabe wie in der Datei: MK1, WK1, MC1, WC1, MX1, WX1</translation>
     </message>
     <message>
         <source>What the athletes of a team reached</source>
-        <translation type="unfinished"></translation>
+        <translation>Was die Athleten eines Teams erreicht haben</translation>
     </message>
     <message>
         <source>Name of the athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>Name des Athleten</translation>
     </message>
     <message>
         <source>Folder to write &quot;2025 Categorization.pdf&quot; into</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordner für „2025 Categorization.pdf“</translation>
     </message>
     <message>
         <source>Brings files of older releases to the current version</source>
-        <translation type="unfinished"></translation>
+        <translation>Bringt Dateien älterer Versionen auf die heutige</translation>
     </message>
     <message>
         <source>Split files, selection races, plannings and recordings, or folders</source>
-        <translation type="unfinished"></translation>
+        <translation>Zwischenzeitdateien, Qualifikationsrennen, Planungen und Aufzeichnungen, oder Ordner</translation>
     </message>
     <message>
         <source>rule</source>
-        <translation type="unfinished"></translation>
+        <translation>Regel</translation>
     </message>
     <message>
         <source>source</source>
-        <translation type="unfinished"></translation>
+        <translation>Quelle</translation>
     </message>
     <message>
         <source>note</source>
-        <translation type="unfinished"></translation>
+        <translation>Anmerkung</translation>
     </message>
     <message>
         <source>split {}</source>
-        <translation type="unfinished"></translation>
+        <translation>Zwischenzeit {}</translation>
     </message>
     <message>
         <source>entry {}</source>
-        <translation type="unfinished"></translation>
+        <translation>Eintrag {}</translation>
     </message>
     <message>
         <source>shown {} of {}</source>
-        <translation type="unfinished"></translation>
+        <translation>gezeigt {} von {}</translation>
     </message>
     <message>
         <source>{} to {}  ({})</source>
-        <translation type="unfinished"></translation>
+        <translation>{} bis {}  ({})</translation>
     </message>
     <message>
         <source>Imported “%1”</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ importiert</translation>
     </message>
     <message>
         <source>“%1” cannot be imported</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ lässt sich nicht importieren</translation>
     </message>
     <message>
         <source>Watches and phones (*.gpx *.tcx *.fit *.csv *.tsv *.txt);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Uhren und Telefone (*.gpx *.tcx *.fit *.csv *.tsv *.txt);;Alle Dateien (*)</translation>
     </message>
     <message>
         <source>Import from a watch or a phone</source>
-        <translation type="unfinished"></translation>
+        <translation>Von einer Uhr oder einem Telefon importieren</translation>
     </message>
     <message>
         <source>The rows of the group.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Zeilen der Gruppe.</translation>
     </message>
     <message>
         <source>number of rows</source>
-        <translation type="unfinished"></translation>
+        <translation>Zahl der Zeilen</translation>
     </message>
     <message>
         <source>The least value of the group&apos;s rows.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der kleinste Wert der Zeilen der Gruppe.</translation>
     </message>
     <message>
         <source>The mean of the group&apos;s rows.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Mittel der Zeilen der Gruppe.</translation>
     </message>
     <message>
         <source>Σ values / rows with a value</source>
-        <translation type="unfinished"></translation>
+        <translation>Σ Werte / Zeilen mit Wert</translation>
     </message>
     <message>
         <source>The middle of the group&apos;s rows.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Mitte der Zeilen der Gruppe.</translation>
     </message>
     <message>
         <source>Stopped; nothing was written.</source>
-        <translation type="unfinished"></translation>
+        <translation>Angehalten; nichts wurde geschrieben.</translation>
     </message>
     <message numerus="yes">
         <source>{} frames</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>{} Bild</numerusform>
+            <numerusform>{} Bilder</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>{} films</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>{} Film</numerusform>
+            <numerusform>{} Filme</numerusform>
         </translation>
     </message>
     <message>
         <source>There is nothing to fetch.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt nichts zu holen.</translation>
     </message>
     <message>
         <source>90 %, Student&apos;s t</source>
-        <translation type="unfinished"></translation>
+        <translation>90 %, Student-t</translation>
     </message>
     <message>
         <source>90 %, Wilson</source>
-        <translation type="unfinished"></translation>
+        <translation>90 %, Wilson</translation>
     </message>
     <message>
         <source>own</source>
-        <translation type="unfinished"></translation>
+        <translation>eigene</translation>
     </message>
     <message>
         <source>Time lost between two neighbouring marks that both runs have.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeitverlust zwischen zwei benachbarten Marken, die beide Läufe haben.</translation>
     </message>
     <message>
         <source>Time lost in percent of the reference&apos;s time there.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeitverlust in Prozent der Zeit der Referenz dort.</translation>
     </message>
     <message>
         <source>100 · (own − reference) / reference</source>
-        <translation type="unfinished"></translation>
+        <translation>100 · (eigene − Referenz) / Referenz</translation>
     </message>
     <message>
         <source>After a mark that was not taken the next time covers both sections.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nach einer nicht genommenen Marke umfasst die nächste Zeit beide Abschnitte.</translation>
     </message>
     <message>
         <source>Σ times between the marks</source>
-        <translation type="unfinished"></translation>
+        <translation>Σ Zeiten zwischen den Marken</translation>
     </message>
     <message>
         <source>The least time that stands alone, whoever paddled it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die kleinste Zeit, die für sich steht, von wem auch immer.</translation>
     </message>
     <message>
         <source>The median of the finalists&apos; times that stand alone.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Median der Zeiten der Finalisten, die für sich stehen.</translation>
     </message>
     <message>
         <source>median times</source>
-        <translation type="unfinished"></translation>
+        <translation>Median der Zeiten</translation>
     </message>
     <message>
         <source>The difference of the totals, official where both have an official one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Unterschied der Gesamtzeiten, der offiziellen, wo beide eine haben.</translation>
     </message>
     <message>
         <source>own total − reference total</source>
-        <translation type="unfinished"></translation>
+        <translation>eigene Gesamtzeit − Gesamtzeit der Referenz</translation>
     </message>
     <message>
         <source>All sections and the penalties, as timed from the video.</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Abschnitte und die Strafen, wie auf dem Video gestoppt.</translation>
     </message>
     <message>
         <source>What was lost on the water: all stretches together.</source>
-        <translation type="unfinished"></translation>
+        <translation>Was auf dem Wasser verloren ging: alle Stücke zusammen.</translation>
     </message>
     <message>
         <source>Σ losses</source>
-        <translation type="unfinished"></translation>
+        <translation>Σ Verluste</translation>
     </message>
     <message>
         <source>The difference of the penalties.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Unterschied der Strafen.</translation>
     </message>
     <message>
         <source>own penalties − reference&apos;s penalties</source>
-        <translation type="unfinished"></translation>
+        <translation>eigene Strafen − Strafen der Referenz</translation>
     </message>
     <message>
         <source>What neither water nor penalties tell: official against video time.</source>
-        <translation type="unfinished"></translation>
+        <translation>Was weder Wasser noch Strafen sagen: offizielle gegen Videozeit.</translation>
     </message>
     <message>
         <source>gap − paddling − penalties</source>
-        <translation type="unfinished"></translation>
+        <translation>Rückstand − Fahrzeit − Strafen</translation>
     </message>
     <message>
         <source>Time lost in an upstream gate, by its first entry in both runs.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeitverlust in einem Aufwärtstor, nach seiner ersten Einfahrt in beiden Läufen.</translation>
     </message>
     <message>
         <source>Time lost from the entrance of an upstream gate to its pole line.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeitverlust von der Einfahrt eines Aufwärtstors bis zu seiner Torlinie.</translation>
     </message>
     <message>
         <source>Time lost from the pole line of an upstream gate to its exit.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeitverlust von der Torlinie eines Aufwärtstors bis zu seiner Ausfahrt.</translation>
     </message>
     <message>
         <source>What a stretch lost outside its upstream gates.</source>
-        <translation type="unfinished"></translation>
+        <translation>Was ein Stück außerhalb seiner Aufwärtstore verlor.</translation>
     </message>
     <message>
         <source>loss − Σ gates</source>
-        <translation type="unfinished"></translation>
+        <translation>Verlust − Σ Tore</translation>
     </message>
     <message>
         <source>The part of the loss that notes against the same crew explain.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Teil des Verlusts, den Notizen gegen dieselbe Besatzung erklären.</translation>
     </message>
     <message>
         <source>Σ notes / paddling</source>
-        <translation type="unfinished"></translation>
+        <translation>Σ Notizen / Fahrzeit</translation>
     </message>
     <message>
         <source>The time without penalties against the expected time.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Zeit ohne Strafen gegen die erwartete Zeit.</translation>
     </message>
     <message>
         <source>paddling time − expected time</source>
-        <translation type="unfinished"></translation>
+        <translation>Fahrzeit − erwartete Zeit</translation>
     </message>
     <message>
         <source>The total against a result of interest.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Gesamtzeit gegen ein Ergebnis von Interesse.</translation>
     </message>
     <message>
         <source>own total − result</source>
-        <translation type="unfinished"></translation>
+        <translation>eigene Gesamtzeit − Ergebnis</translation>
     </message>
     <message>
         <source>Time lost as noted; several reasons of one note share it equally.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeitverlust laut Notizen; mehrere Gründe einer Notiz teilen ihn gleich.</translation>
     </message>
     <message>
         <source>Σ notes above 0</source>
-        <translation type="unfinished"></translation>
+        <translation>Σ Notizen über 0</translation>
     </message>
     <message>
         <source>Time gained as noted; several reasons of one note share it equally.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeitgewinn laut Notizen; mehrere Gründe einer Notiz teilen ihn gleich.</translation>
     </message>
     <message>
         <source>Σ notes below 0</source>
-        <translation type="unfinished"></translation>
+        <translation>Σ Notizen unter 0</translation>
     </message>
     <message>
         <source>What the chosen way cost against the fastest one timed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Was der gewählte Weg gegen den schnellsten gestoppten kostete.</translation>
     </message>
     <message>
         <source>chosen − least timed</source>
-        <translation type="unfinished"></translation>
+        <translation>gewählter − kleinster gestoppter</translation>
     </message>
     <message>
         <source>What was lost in percent of the reference&apos;s time, over whole runs.</source>
-        <translation type="unfinished"></translation>
+        <translation>Was verloren ging, in Prozent der Zeit der Referenz, über ganze Läufe.</translation>
     </message>
     <message>
         <source>100 · ΣL / ΣB,  SE² = n/(n−1) · Σ(L − qB)² / (ΣB)²</source>
-        <translation type="unfinished"></translation>
+        <translation>100 · ΣL / ΣB,  SE² = n/(n−1) · Σ(L − qB)² / (ΣB)²</translation>
     </message>
     <message>
         <source>ratio estimator: Cochran, Sampling Techniques, 1977</source>
-        <translation type="unfinished"></translation>
+        <translation>Verhältnisschätzer: Cochran, Sampling Techniques, 1977</translation>
     </message>
     <message>
         <source>What was lost here in a run on the average.</source>
-        <translation type="unfinished"></translation>
+        <translation>Was hier in einem Lauf im Mittel verloren ging.</translation>
     </message>
     <message>
         <source>ΣL / n</source>
-        <translation type="unfinished"></translation>
+        <translation>ΣL / n</translation>
     </message>
     <message>
         <source>The part of the whole gap that was lost here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Teil des ganzen Rückstands, der hier verloren ging.</translation>
     </message>
     <message>
         <source>ΣL / Σgap</source>
-        <translation type="unfinished"></translation>
+        <translation>ΣL / ΣRückstand</translation>
     </message>
     <message>
         <source>The mean gap of the whole runs.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der mittlere Rückstand der ganzen Läufe.</translation>
     </message>
     <message>
         <source>Σgap / n</source>
-        <translation type="unfinished"></translation>
+        <translation>ΣRückstand / n</translation>
     </message>
     <message>
         <source>interval: Student&apos;s t</source>
-        <translation type="unfinished"></translation>
+        <translation>Intervall: Student-t</translation>
     </message>
     <message>
         <source>The mean difference of penalties of the whole runs.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der mittlere Unterschied der Strafen der ganzen Läufe.</translation>
     </message>
     <message>
         <source>Σ(own − reference) / n</source>
-        <translation type="unfinished"></translation>
+        <translation>Σ(eigene − Referenz) / n</translation>
     </message>
     <message>
         <source>What was lost on the water up to a mark: all stretches before it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Was auf dem Wasser bis zu einer Marke verloren ging: alle Stücke davor.</translation>
     </message>
     <message>
         <source>Σ losses to here</source>
-        <translation type="unfinished"></translation>
+        <translation>Σ Verluste bis hier</translation>
     </message>
     <message>
         <source>The total of the run: the official one where it has one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Gesamtzeit des Laufs: die offizielle, wo er eine hat.</translation>
     </message>
     <message>
         <source>One more than have a smaller total in the group, to the hundredth.</source>
-        <translation type="unfinished"></translation>
+        <translation>Einer mehr, als in der Gruppe aufs Hundertstel eine kleinere Gesamtzeit haben.</translation>
     </message>
     <message>
         <source>1 + totals below the own</source>
-        <translation type="unfinished"></translation>
+        <translation>1 + Gesamtzeiten unter der eigenen</translation>
     </message>
     <message>
         <source>The strokes that were marked in the stretch.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Schläge, die in dem Stück markiert wurden.</translation>
     </message>
     <message>
         <source>Σ strokes</source>
-        <translation type="unfinished"></translation>
+        <translation>Σ Schläge</translation>
     </message>
     <message>
         <source>The seconds of penalty at the gates of the stretch.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Strafsekunden an den Toren des Stücks.</translation>
     </message>
     <message>
         <source>Σ penalties</source>
-        <translation type="unfinished"></translation>
+        <translation>Σ Strafen</translation>
     </message>
     <message>
         <source>The whole runs that have something of it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die ganzen Läufe, die etwas davon haben.</translation>
     </message>
     <message>
         <source>number of runs</source>
-        <translation type="unfinished"></translation>
+        <translation>Zahl der Läufe</translation>
     </message>
     <message>
         <source>What was lost here in all runs together.</source>
-        <translation type="unfinished"></translation>
+        <translation>Was hier in allen Läufen zusammen verloren ging.</translation>
     </message>
     <message>
         <source>Too few runs for an interval.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zu wenige Läufe für ein Intervall.</translation>
     </message>
     <message>
         <source>lost</source>
-        <translation type="unfinished"></translation>
+        <translation>verloren</translation>
     </message>
     <message>
         <source>reference</source>
-        <translation type="unfinished"></translation>
+        <translation>Referenz</translation>
     </message>
     <message>
         <source>gap of all runs</source>
-        <translation type="unfinished"></translation>
+        <translation>Rückstand aller Läufe</translation>
     </message>
     <message>
         <source>run</source>
-        <translation type="unfinished"></translation>
+        <translation>Lauf</translation>
     </message>
     <message>
         <source>half a frame, four marks</source>
-        <translation type="unfinished"></translation>
+        <translation>ein halbes Bild, vier Marken</translation>
     </message>
     <message>
         <source>loss</source>
-        <translation type="unfinished"></translation>
+        <translation>Verlust</translation>
     </message>
     <message>
         <source>gap</source>
-        <translation type="unfinished"></translation>
+        <translation>Rückstand</translation>
     </message>
     <message>
         <source>paddling</source>
-        <translation type="unfinished"></translation>
+        <translation>Fahrzeit</translation>
     </message>
     <message>
         <source>Shown a hundredth apart, so that the parts add up to the shown gap.</source>
-        <translation type="unfinished"></translation>
+        <translation>Um ein Hundertstel anders gezeigt, damit die Teile den gezeigten Rückstand ergeben.</translation>
     </message>
     <message>
         <source>time without penalties</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeit ohne Strafen</translation>
     </message>
     <message>
         <source>expected time</source>
-        <translation type="unfinished"></translation>
+        <translation>erwartete Zeit</translation>
     </message>
     <message>
         <source>result</source>
@@ -2781,310 +2784,310 @@
     </message>
     <message>
         <source>A missed gate also saved paddling, which the rank without it does not take back.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Torfehler sparte auch Fahrzeit; der Rang ohne ihn nimmt das nicht zurück.</translation>
     </message>
     <message>
         <source>The total holds {} s of penalty, the gates {:.0f} s.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Gesamtzeit enthält {} s Strafe, die Tore {:.0f} s.</translation>
     </message>
     <message>
         <source>total</source>
-        <translation type="unfinished"></translation>
+        <translation>Gesamtzeit</translation>
     </message>
     <message>
         <source>smaller totals</source>
-        <translation type="unfinished"></translation>
+        <translation>kleinere Gesamtzeiten</translation>
     </message>
     <message>
         <source>ranked runs</source>
-        <translation type="unfinished"></translation>
+        <translation>gereihte Läufe</translation>
     </message>
     <message>
         <source>seconds</source>
-        <translation type="unfinished"></translation>
+        <translation>Sekunden</translation>
     </message>
     <message>
         <source>rank</source>
-        <translation type="unfinished"></translation>
+        <translation>Rang</translation>
     </message>
     <message>
         <source>rank without</source>
-        <translation type="unfinished"></translation>
+        <translation>Rang ohne</translation>
     </message>
     <message>
         <source>clean run</source>
-        <translation type="unfinished"></translation>
+        <translation>fehlerfreier Lauf</translation>
     </message>
     <message>
         <source>Unfinished runs are not counted: nobody knows whether they would have stayed clean.</source>
-        <translation type="unfinished"></translation>
+        <translation>Abgebrochene Läufe zählen nicht: niemand weiß, ob sie fehlerfrei geblieben wären.</translation>
     </message>
     <message>
         <source>{} more are not listed.</source>
-        <translation type="unfinished"></translation>
+        <translation>{} weitere stehen nicht in der Liste.</translation>
     </message>
     <message>
         <source>M</source>
-        <translation type="unfinished"></translation>
+        <translation>M</translation>
     </message>
     <message>
         <source>{} more rows are not listed.</source>
-        <translation type="unfinished"></translation>
+        <translation>{} weitere Zeilen stehen nicht in der Liste.</translation>
     </message>
     <message>
         <source>5 % and 95 % of the beta distribution</source>
-        <translation type="unfinished"></translation>
+        <translation>5 % und 95 % der Betaverteilung</translation>
     </message>
     <message>
         <source>x</source>
-        <translation type="unfinished"></translation>
+        <translation>x</translation>
     </message>
     <message>
         <source>n</source>
-        <translation type="unfinished"></translation>
+        <translation>n</translation>
     </message>
     <message>
         <source>m</source>
-        <translation type="unfinished"></translation>
+        <translation>m</translation>
     </message>
     <message>
         <source>Wilson&apos;s interval, 90 %</source>
-        <translation type="unfinished"></translation>
+        <translation>Wilson-Intervall, 90 %</translation>
     </message>
     <message>
         <source>{} runs are</source>
-        <translation type="unfinished"></translation>
+        <translation>{} Läufe</translation>
     </message>
     <message>
         <source>{} left out: {} penalties are not known by gate.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ausgelassen: {}; Strafen ({}) nicht nach Toren bekannt.</translation>
     </message>
     <message>
         <source> and {} more</source>
-        <translation type="unfinished"></translation>
+        <translation> und {} weitere</translation>
     </message>
     <message>
         <source>{} {} out: touched more than the {} that all have in common.</source>
-        <translation type="unfinished"></translation>
+        <translation>{} {} out: mehr Berührungen als die {}, die allen gemeinsam sind.</translation>
     </message>
     <message numerus="yes">
         <source>{} touches</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>{} Berührung</numerusform>
+            <numerusform>{} Berührungen</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>{} passages</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>{} Durchfahrt</numerusform>
+            <numerusform>{} Durchfahrten</numerusform>
         </translation>
     </message>
     <message>
         <source>Too few to tell: {} in {}.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zu wenige für eine Aussage: {} bei {}.</translation>
     </message>
     <message>
         <source>Only one {}: there is nothing to compare it with.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nur ein Fall ({}): es gibt nichts zum Vergleichen.</translation>
     </message>
     <message>
         <source>No {} stands out: the highest, {} ({}), may be chance.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nichts fällt auf ({}): der höchste Wert, {} ({}), kann Zufall sein.</translation>
     </message>
     <message>
         <source>Without this {}: {}.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ohne dies ({}): {}.</translation>
     </message>
     <message>
         <source>None of {} cost a place.</source>
-        <translation type="unfinished"></translation>
+        <translation>Keinen Platz kostete: {}.</translation>
     </message>
     <message>
         <source>{} of them</source>
-        <translation type="unfinished"></translation>
+        <translation>{} davon</translation>
     </message>
     <message>
         <source>Of {} {} cost places, {} a medal.</source>
-        <translation type="unfinished"></translation>
+        <translation>Von {} kosteten {} Plätze, {} eine Medaille.</translation>
     </message>
     <message>
         <source>None of {} was noted in detail.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nichts im Einzelnen notiert: {}.</translation>
     </message>
     <message numerus="yes">
         <source>{} were</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>{} wurde</numerusform>
+            <numerusform>{} wurden</numerusform>
         </translation>
     </message>
     <message>
         <source>Of {} {} noted in detail.</source>
-        <translation type="unfinished"></translation>
+        <translation>Von {} {} im Einzelnen notiert.</translation>
     </message>
     <message>
         <source>Too few to tell: no group has {} whole runs.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zu wenige für eine Aussage: keine Gruppe hat {} ganze Läufe.</translation>
     </message>
     <message>
         <source>{} touches a run in {}, all in one third of the field.</source>
-        <translation type="unfinished"></translation>
+        <translation>{} Berührungen je Lauf bei {}, alle in einem Drittel des Felds.</translation>
     </message>
     <message>
         <source>{:.2f} touches a run in the faster third, {:.2f} in the slower.</source>
-        <translation type="unfinished"></translation>
+        <translation>{:.2f} Berührungen je Lauf im schnelleren Drittel, {:.2f} im langsameren.</translation>
     </message>
     <message>
         <source>1 % of speed pays for {:.2f} touches a run.</source>
-        <translation type="unfinished"></translation>
+        <translation>1 % Tempo wiegt {:.2f} Berührungen je Lauf auf.</translation>
     </message>
     <message>
         <source>{} of {} without a penalty: {:.1f} % ({:.1f}–{:.1f}).</source>
-        <translation type="unfinished"></translation>
+        <translation>{} von {} ohne Strafe: {:.1f} % ({:.1f}–{:.1f}).</translation>
     </message>
     <message>
         <source>{} {} {}, place</source>
-        <translation type="unfinished"></translation>
+        <translation>{} {} {}, Platz</translation>
     </message>
     <message>
         <source>counted</source>
-        <translation type="unfinished"></translation>
+        <translation>gezählt</translation>
     </message>
     <message>
         <source>{} left out: {}</source>
-        <translation type="unfinished"></translation>
+        <translation>{} ausgelassen: {}</translation>
     </message>
     <message>
         <source>{} {} of {} ({:.0f}–{:.0f} %)</source>
-        <translation type="unfinished"></translation>
+        <translation>{} {} von {} ({:.0f}–{:.0f} %)</translation>
     </message>
     <message>
         <source>{:.1f} % behind the winner, {} (median of {})</source>
-        <translation type="unfinished"></translation>
+        <translation>{:.1f} % hinter dem Sieger, {} (Median: {})</translation>
     </message>
     <message>
         <source>within {:.1f} % from run to run</source>
-        <translation type="unfinished"></translation>
+        <translation>Streuung {:.1f} % von Lauf zu Lauf</translation>
     </message>
     <message>
         <source>trend {:+.1f} % a year: {}</source>
-        <translation type="unfinished"></translation>
+        <translation>Trend {:+.1f} % im Jahr: {}</translation>
     </message>
     <message>
         <source>{}: too few runs to tell a trend behind {}.</source>
-        <translation type="unfinished"></translation>
+        <translation>{}: zu wenige Läufe für einen Trend gegenüber: {}.</translation>
     </message>
     <message>
         <source>{}: {:+.1f} % a year behind {}{}, {}.</source>
-        <translation type="unfinished"></translation>
+        <translation>{}: {:+.1f} % im Jahr, Abstand zu: {}{}, {}.</translation>
     </message>
     <message>
         <source>{} of {}&apos;s races is known.</source>
-        <translation type="unfinished"></translation>
+        <translation>{} in den Rennen von {} bekannt.</translation>
     </message>
     <message>
         <source>Too few runs to tell how much they vary.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zu wenige Läufe, um zu sagen, wie stark sie schwanken.</translation>
     </message>
     <message>
         <source>From run to run {:.1f} % is chance.</source>
-        <translation type="unfinished"></translation>
+        <translation>Von Lauf zu Lauf sind {:.1f} % Zufall.</translation>
     </message>
     <message>
         <source>From run to run {:.1f} % ({:.1f} to {:.1f}) is chance; {:.2f} % is worth gaining.</source>
-        <translation type="unfinished"></translation>
+        <translation>Von Lauf zu Lauf sind {:.1f} % ({:.1f} bis {:.1f}) Zufall; {:.2f} % zu gewinnen lohnt sich.</translation>
     </message>
     <message>
         <source>{} of {} grew faster beyond doubt, {} slower.</source>
-        <translation type="unfinished"></translation>
+        <translation>{} von {} wurden zweifelsfrei schneller, {} langsamer.</translation>
     </message>
     <message>
         <source>{} met nobody in these races.</source>
-        <translation type="unfinished"></translation>
+        <translation>{} traf in diesen Rennen auf niemanden.</translation>
     </message>
     <message numerus="yes">
         <source>{} rivals</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>{} Rivale</numerusform>
+            <numerusform>{} Rivalen</numerusform>
         </translation>
     </message>
     <message>
         <source>{} is ahead beyond doubt of {} of {}.</source>
-        <translation type="unfinished"></translation>
+        <translation>{} liegt zweifelsfrei vor {} von {}.</translation>
     </message>
     <message>
         <source>No split file of this class has three whole runs of a {}.</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Zwischenzeitdatei dieser Klasse hat drei ganze Läufe: {}.</translation>
     </message>
     <message>
         <source>{:.1f} % would have been among the first three in {} of {}.</source>
-        <translation type="unfinished"></translation>
+        <translation>{:.1f} % wären unter den ersten drei gewesen: {} von {}.</translation>
     </message>
     <message>
         <source>The third was {:.1f} % behind in the median of {}.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Dritte lag {:.1f} % zurück (Median: {}).</translation>
     </message>
     <message>
         <source>Nobody of the team has runs enough to expect a place of.</source>
-        <translation type="unfinished"></translation>
+        <translation>Niemand im Team hat genug Läufe, um einen Platz zu erwarten.</translation>
     </message>
     <message>
         <source>{} may expect place {:.1f} of {}, a medal by {:.0f} %.</source>
-        <translation type="unfinished"></translation>
+        <translation>{} darf Platz {:.1f} von {} erwarten, eine Medaille mit {:.0f} %.</translation>
     </message>
     <message numerus="yes">
         <source>{} finals</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>{} Finale</numerusform>
+            <numerusform>{} Finals</numerusform>
         </translation>
     </message>
     <message>
         <source>{:.1f} % would have been a medal in {} of {}</source>
-        <translation type="unfinished"></translation>
+        <translation>{:.1f} % wären eine Medaille gewesen: {} von {}</translation>
     </message>
     <message>
         <source>Of {} who have both often enough, {} {} beyond doubt faster in {}, {} slower.</source>
-        <translation type="unfinished"></translation>
+        <translation>Von {}, die beide oft genug haben, {} {} zweifelsfrei schneller ({}), {} langsamer.</translation>
     </message>
     <message>
         <source>{}: {}, {} of {} ({:.0f}–{:.0f} %).</source>
-        <translation type="unfinished"></translation>
+        <translation>{}: {}, {} von {} ({:.0f}–{:.0f} %).</translation>
     </message>
     <message>
         <source>Nearest to the winners ({}): {}, {:.1f} % (median of {}).</source>
-        <translation type="unfinished"></translation>
+        <translation>Den Siegern am nächsten ({}): {}, {:.1f} % (Median: {}).</translation>
     </message>
     <message>
         <source>No winner of a phase &quot;{}&quot; of these races is known.</source>
-        <translation type="unfinished"></translation>
+        <translation>Von diesen Rennen ist kein Sieger einer Phase „{}“ bekannt.</translation>
     </message>
     <message>
         <source>split {}, fastest of it {:.2f}</source>
-        <translation type="unfinished"></translation>
+        <translation>Zwischenzeit {}, die schnellste {:.2f}</translation>
     </message>
     <message>
         <source>missed</source>
-        <translation type="unfinished"></translation>
+        <translation>verfehlt</translation>
     </message>
     <message>
         <source>runs</source>
-        <translation type="unfinished"></translation>
+        <translation>Läufe</translation>
     </message>
     <message>
         <source>all missed</source>
-        <translation type="unfinished"></translation>
+        <translation>alle verfehlten</translation>
     </message>
     <message>
         <source>all runs</source>
-        <translation type="unfinished"></translation>
+        <translation>alle Läufe</translation>
     </message>
     <message>
         <source>{}, spread {:.2f}, missed {:.1f} %</source>
-        <translation type="unfinished"></translation>
+        <translation>{}, Streuung {:.2f}, verfehlt {:.1f} %</translation>
     </message>
     <message>
         <source>How far behind the winner of the phase and class, penalties included.</source>
@@ -3551,7 +3554,7 @@
     </message>
     <message>
         <source>Season %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Saison %1</translation>
     </message>
     <message>
         <source>Weeks</source>
@@ -3599,11 +3602,11 @@
     </message>
     <message>
         <source>Macrocycle</source>
-        <translation type="unfinished"></translation>
+        <translation>Makrozyklus</translation>
     </message>
     <message>
         <source>Mesocycle</source>
-        <translation type="unfinished"></translation>
+        <translation>Mesozyklus</translation>
     </message>
     <message>
         <source>Load, %</source>
@@ -3651,7 +3654,7 @@
     </message>
     <message>
         <source>Week %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Woche %1</translation>
     </message>
     <message>
         <source>Goals of the week</source>
@@ -3735,7 +3738,7 @@
     </message>
     <message>
         <source>Date</source>
-        <translation type="unfinished"></translation>
+        <translation>Datum</translation>
     </message>
     <message>
         <source>Water</source>
@@ -3799,7 +3802,7 @@
     </message>
     <message>
         <source>Turn</source>
-        <translation type="unfinished"></translation>
+        <translation>Drehung</translation>
     </message>
     <message>
         <source>Time losses</source>
@@ -3847,7 +3850,7 @@
     </message>
     <message>
         <source>Split</source>
-        <translation type="unfinished"></translation>
+        <translation>Zwischenzeit</translation>
     </message>
     <message>
         <source>Rank</source>
@@ -5061,7 +5064,7 @@
     <name>kavela::desktop</name>
     <message>
         <source>Date</source>
-        <translation type="unfinished"></translation>
+        <translation>Datum</translation>
     </message>
     <message>
         <source>Category</source>
@@ -5277,19 +5280,19 @@
     </message>
     <message>
         <source>Imported “%1”</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ importiert</translation>
     </message>
     <message>
         <source>“%1” cannot be imported</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ lässt sich nicht importieren</translation>
     </message>
     <message>
         <source>Watches and phones (*.gpx *.tcx *.fit *.csv *.tsv *.txt);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Uhren und Telefone (*.gpx *.tcx *.fit *.csv *.tsv *.txt);;Alle Dateien (*)</translation>
     </message>
     <message>
         <source>Import from a watch or a phone</source>
-        <translation type="unfinished"></translation>
+        <translation>Von einer Uhr oder einem Telefon importieren</translation>
     </message>
     <message>
         <source>%1 s a run</source>
@@ -5885,7 +5888,7 @@
     </message>
     <message>
         <source>Too few runs to tell how much they vary.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zu wenige Läufe, um zu sagen, wie stark sie schwanken.</translation>
     </message>
     <message>
         <source>Trend behind the winners</source>
@@ -7658,7 +7661,7 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>Split</source>
-        <translation type="unfinished"></translation>
+        <translation>Zwischenzeit</translation>
     </message>
     <message>
         <source>Comment</source>
@@ -7878,7 +7881,7 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>Split</source>
-        <translation type="unfinished"></translation>
+        <translation>Zwischenzeit</translation>
     </message>
     <message>
         <source>Sho&amp;wn</source>
@@ -8368,7 +8371,7 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>Date</source>
-        <translation type="unfinished"></translation>
+        <translation>Datum</translation>
     </message>
     <message>
         <source>Session</source>
@@ -8487,7 +8490,7 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>white</source>
-        <translation type="unfinished"></translation>
+        <translation>weiß</translation>
     </message>
     <message>
         <source>Leave the course as it was? What was drawn is lost.</source>
@@ -9123,7 +9126,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Turn</source>
-        <translation type="unfinished"></translation>
+        <translation>Drehung</translation>
     </message>
     <message>
         <source>Values at the cursor</source>
@@ -10008,7 +10011,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Name of the athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>Name des Athleten</translation>
     </message>
     <message>
         <source>&amp;Date</source>
@@ -10859,11 +10862,11 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>run</source>
-        <translation type="unfinished"></translation>
+        <translation>Lauf</translation>
     </message>
     <message>
         <source>runs</source>
-        <translation type="unfinished"></translation>
+        <translation>Läufe</translation>
     </message>
     <message>
         <source>section</source>
@@ -10887,11 +10890,11 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>penalties</source>
-        <translation type="unfinished"></translation>
+        <translation>Strafen</translation>
     </message>
     <message>
         <source>loss</source>
-        <translation type="unfinished"></translation>
+        <translation>Verlust</translation>
     </message>
     <message>
         <source>losses</source>
@@ -11073,7 +11076,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>missed</source>
-        <translation type="unfinished"></translation>
+        <translation>verfehlt</translation>
     </message>
     <message>
         <source>touch</source>
@@ -11108,7 +11111,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Turn</source>
-        <translation type="unfinished"></translation>
+        <translation>Drehung</translation>
     </message>
     <message>
         <source>Mark the pole line too</source>
@@ -13949,7 +13952,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>time</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeit</translation>
     </message>
     <message>
         <source>Penalty</source>
@@ -13973,7 +13976,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Date</source>
-        <translation type="unfinished"></translation>
+        <translation>Datum</translation>
     </message>
     <message>
         <source>Enter a time or a position first.</source>
@@ -17449,7 +17452,7 @@ Eine Datei wählen.</translation>
     </message>
     <message>
         <source>m</source>
-        <translation type="unfinished"></translation>
+        <translation>m</translation>
     </message>
     <message>
         <source>Turn li&amp;mit</source>
@@ -20519,7 +20522,7 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>Date</source>
-        <translation type="unfinished"></translation>
+        <translation>Datum</translation>
     </message>
     <message>
         <source>Test</source>
@@ -21347,7 +21350,7 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>Split</source>
-        <translation type="unfinished"></translation>
+        <translation>Zwischenzeit</translation>
     </message>
     <message>
         <source>Time</source>
@@ -21477,7 +21480,7 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>Turn</source>
-        <translation type="unfinished"></translation>
+        <translation>Drehung</translation>
     </message>
     <message>
         <source>Mark the pole line too</source>
@@ -21624,7 +21627,7 @@ Add one by hand with Ctrl+N, or drop split files and recordings here.</source>
     </message>
     <message>
         <source>penalties</source>
-        <translation type="unfinished"></translation>
+        <translation>Strafen</translation>
     </message>
     <message>
         <source>timing</source>
@@ -21659,11 +21662,11 @@ Add one by hand with Ctrl+N, or drop split files and recordings here.</source>
     <name>kavela::desktop::WeekForm</name>
     <message>
         <source>Macrocycle</source>
-        <translation type="unfinished"></translation>
+        <translation>Makrozyklus</translation>
     </message>
     <message>
         <source>Mesocycle</source>
-        <translation type="unfinished"></translation>
+        <translation>Mesozyklus</translation>
     </message>
     <message>
         <source>Place</source>
@@ -21739,7 +21742,7 @@ Add one by hand with Ctrl+N, or drop split files and recordings here.</source>
     </message>
     <message>
         <source>Week %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Woche %1</translation>
     </message>
     <message>
         <source>%1 weeks are chosen: load, cycles and place go into all of them.</source>
@@ -21799,7 +21802,7 @@ Add one by hand with Ctrl+N, or drop split files and recordings here.</source>
     <name>kavela::desktop::WhyPanel</name>
     <message>
         <source>counted</source>
-        <translation type="unfinished"></translation>
+        <translation>gezählt</translation>
     </message>
     <message>
         <source>dropped: worst</source>
@@ -21933,11 +21936,11 @@ Add one by hand with Ctrl+N, or drop split files and recordings here.</source>
     </message>
     <message>
         <source>Macrocycle</source>
-        <translation type="unfinished"></translation>
+        <translation>Makrozyklus</translation>
     </message>
     <message>
         <source>Mesocycle</source>
-        <translation type="unfinished"></translation>
+        <translation>Mesozyklus</translation>
     </message>
     <message>
         <source>Load</source>
