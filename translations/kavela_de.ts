@@ -3091,227 +3091,227 @@
     </message>
     <message>
         <source>How far behind the winner of the phase and class, penalties included.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie weit hinter dem Sieger der Phase und Klasse, Strafen eingerechnet.</translation>
     </message>
     <message>
         <source>100 · (T / W − 1)</source>
-        <translation type="unfinished"></translation>
+        <translation>100 · (T / W − 1)</translation>
     </message>
     <message>
         <source>of the class winner, not of the men&apos;s kayaks: Wells, thesis, 2018</source>
-        <translation type="unfinished"></translation>
+        <translation>des Klassensiegers, nicht der Kajak-Männer: Wells, thesis, 2018</translation>
     </message>
     <message>
         <source>How far behind the fastest times of all splits together, without penalties.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie weit hinter den schnellsten Zeiten aller Abschnitte zusammen, ohne Strafen.</translation>
     </message>
     <message>
         <source>100 · (Σ splits / Σ fastest − 1)</source>
-        <translation type="unfinished"></translation>
+        <translation>100 · (Σ Abschnitte / Σ schnellste − 1)</translation>
     </message>
     <message>
         <source>How much a run varies by chance, once the athlete and the course are taken out.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie stark ein Lauf zufällig schwankt, wenn Athlet und Strecke herausgerechnet sind.</translation>
     </message>
     <message>
         <source>100 · (e^(s/100) − 1),  s² = Σe² / df,  df = runs − athletes − phases + connected parts</source>
-        <translation type="unfinished"></translation>
+        <translation>100 · (e^(s/100) − 1),  s² = Σe² / df,  df = Läufe − Athleten − Phasen + verbundene Teile</translation>
     </message>
     <message>
         <source>mixed model of elite canoeists: Bonetti, Hopkins, 2010; interval: χ²</source>
-        <translation type="unfinished"></translation>
+        <translation>gemischtes Modell für Spitzenkanuten: Bonetti, Hopkins, 2010; Intervall: χ²</translation>
     </message>
     <message>
         <source>How much this athlete&apos;s runs varied by chance.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie stark die Läufe dieses Athleten zufällig schwankten.</translation>
     </message>
     <message>
         <source>s² = Σe² / (runs · df / all runs)</source>
-        <translation type="unfinished"></translation>
+        <translation>s² = Σe² / (Läufe · df / alle Läufe)</translation>
     </message>
     <message>
         <source>The athlete&apos;s spread drawn towards the common one, the more the fewer the runs.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Streuung des Athleten, zur gemeinsamen hingezogen, umso mehr, je weniger Läufe.</translation>
     </message>
     <message>
         <source>s² = (Σe² + 10 · common s²) / (runs · df / all runs + 10)</source>
-        <translation type="unfinished"></translation>
+        <translation>s² = (Σe² + 10 · gemeinsames s²) / (Läufe · df / alle Läufe + 10)</translation>
     </message>
     <message>
         <source>What is worth gaining: one more medal in ten races among equals at the top.</source>
-        <translation type="unfinished"></translation>
+        <translation>Was zu gewinnen sich lohnt: eine Medaille mehr in zehn Rennen unter Gleichen an der Spitze.</translation>
     </message>
     <message>
         <source>0.3 · spread</source>
-        <translation type="unfinished"></translation>
+        <translation>0.3 · Streuung</translation>
     </message>
     <message>
         <source>Hopkins, 2004</source>
-        <translation type="unfinished"></translation>
+        <translation>Hopkins, 2004</translation>
     </message>
     <message>
         <source>The change of the percentage behind from year to year.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Änderung des Prozentrückstands von Jahr zu Jahr.</translation>
     </message>
     <message>
         <source>slope of 100 · ln(1 + percent/100) per 365.25 days</source>
-        <translation type="unfinished"></translation>
+        <translation>Steigung von 100 · ln(1 + Prozent/100) je 365.25 Tage</translation>
     </message>
     <message>
         <source>Races among whose first three the athlete was.</source>
-        <translation type="unfinished"></translation>
+        <translation>Rennen, in denen der Athlet unter den ersten drei war.</translation>
     </message>
     <message>
         <source>places 1 to 3 / races with a final position</source>
-        <translation type="unfinished"></translation>
+        <translation>Plätze 1 bis 3 / Rennen mit Endplatz</translation>
     </message>
     <message>
         <source>interval: Wilson</source>
-        <translation type="unfinished"></translation>
+        <translation>Intervall: Wilson</translation>
     </message>
     <message>
         <source>Races in whose final the athlete was.</source>
-        <translation type="unfinished"></translation>
+        <translation>Rennen, in deren Finale der Athlet stand.</translation>
     </message>
     <message>
         <source>with a final / with phases</source>
-        <translation type="unfinished"></translation>
+        <translation>mit Finale / mit Phasen</translation>
     </message>
     <message>
         <source>Races in whose semifinal the athlete was.</source>
-        <translation type="unfinished"></translation>
+        <translation>Rennen, in deren Halbfinale der Athlet stand.</translation>
     </message>
     <message>
         <source>with a semifinal / with phases</source>
-        <translation type="unfinished"></translation>
+        <translation>mit Halbfinale / mit Phasen</translation>
     </message>
     <message>
         <source>The mean change from one phase of a race to a later one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die mittlere Änderung von einer Phase eines Rennens zu einer späteren.</translation>
     </message>
     <message>
         <source>mean of 100 · (ln later − ln earlier)</source>
-        <translation type="unfinished"></translation>
+        <translation>Mittel von 100 · (ln spätere − ln frühere)</translation>
     </message>
     <message>
         <source>How much a single run varies by chance, from pairs of them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie stark ein einzelner Lauf zufällig schwankt, aus Paaren von Läufen.</translation>
     </message>
     <message>
         <source>SD of the changes / √2</source>
-        <translation type="unfinished"></translation>
+        <translation>SD der Änderungen / √2</translation>
     </message>
     <message>
         <source>typical error: Hopkins, 2000</source>
-        <translation type="unfinished"></translation>
+        <translation>typischer Fehler: Hopkins, 2000</translation>
     </message>
     <message>
         <source>Phases that both have in which the athlete was faster; ties count half.</source>
-        <translation type="unfinished"></translation>
+        <translation>Gemeinsame Phasen, in denen der Athlet schneller war; Gleichstand zählt halb.</translation>
     </message>
     <message>
         <source>(won + ties/2) / met</source>
-        <translation type="unfinished"></translation>
+        <translation>(gewonnen + gleich/2) / getroffen</translation>
     </message>
     <message>
         <source>The mean gap in the phases that both have, penalties included.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der mittlere Rückstand in den gemeinsamen Phasen, Strafen eingerechnet.</translation>
     </message>
     <message>
         <source>mean of 100 · ln(own / rival&apos;s)</source>
-        <translation type="unfinished"></translation>
+        <translation>Mittel von 100 · ln(eigene / des Rivalen)</translation>
     </message>
     <message>
         <source>What percentage behind the winner a rank took, over the races.</source>
-        <translation type="unfinished"></translation>
+        <translation>Mit wie viel Prozent hinter dem Sieger ein Rang erreicht wurde, über die Rennen.</translation>
     </message>
     <message>
         <source>median of 100 · (T of the rank / W − 1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Median von 100 · (T des Rangs / W − 1)</translation>
     </message>
     <message>
         <source>The chance of a missed gate, drawn towards everybody&apos;s as if by 20 runs more.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Wahrscheinlichkeit eines Torfehlers, zu der aller hingezogen wie durch 20 Läufe mehr.</translation>
     </message>
     <message>
         <source>(missed + 20q) / (runs + 20),  q = (all missed + ½) / (all runs + 1)</source>
-        <translation type="unfinished"></translation>
+        <translation>(verfehlt + 20q) / (Läufe + 20),  q = (alle verfehlten + ½) / (alle Läufe + 1)</translation>
     </message>
     <message>
         <source>The mean place among this field; with a missed gate behind all that have none.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der mittlere Platz in diesem Feld; mit Torfehler hinter allen, die keinen haben.</translation>
     </message>
     <message>
         <source>Σ place · chance,  result normal: effect, spread · √(1 + 1/n)</source>
-        <translation type="unfinished"></translation>
+        <translation>Σ Platz · Wahrscheinlichkeit,  Ergebnis normal: Effekt, Streuung · √(1 + 1/n)</translation>
     </message>
     <message>
         <source>The chance of one of the first three places among this field.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Wahrscheinlichkeit eines der ersten drei Plätze in diesem Feld.</translation>
     </message>
     <message>
         <source>chances of the places 1 to 3</source>
-        <translation type="unfinished"></translation>
+        <translation>Wahrscheinlichkeiten der Plätze 1 bis 3</translation>
     </message>
     <message>
         <source>How far behind the winners of a phase, the same number of races before and behind it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie weit hinter den Siegern einer Phase, gleich viele Rennen davor wie danach.</translation>
     </message>
     <message>
         <source>median of 100 · (T / W − 1), without missed gates</source>
-        <translation type="unfinished"></translation>
+        <translation>Median von 100 · (T / W − 1), ohne Torfehler</translation>
     </message>
     <message>
         <source>{} {} {}, percent</source>
-        <translation type="unfinished"></translation>
+        <translation>{} {} {}, Prozent</translation>
     </message>
     <message>
         <source>90 %, Student&apos;s t with {} degrees</source>
-        <translation type="unfinished"></translation>
+        <translation>90 %, Student-t mit {} Freiheitsgraden</translation>
     </message>
     <message>
         <source>{:+.1f} % a year</source>
-        <translation type="unfinished"></translation>
+        <translation>{:+.1f} % im Jahr</translation>
     </message>
     <message>
         <source>spread, percent</source>
-        <translation type="unfinished"></translation>
+        <translation>Streuung, Prozent</translation>
     </message>
     <message>
         <source>athletes</source>
-        <translation type="unfinished"></translation>
+        <translation>Athleten</translation>
     </message>
     <message>
         <source>race phases</source>
-        <translation type="unfinished"></translation>
+        <translation>Rennphasen</translation>
     </message>
     <message>
         <source>connected parts</source>
-        <translation type="unfinished"></translation>
+        <translation>verbundene Teile</translation>
     </message>
     <message>
         <source>degrees of freedom</source>
-        <translation type="unfinished"></translation>
+        <translation>Freiheitsgrade</translation>
     </message>
     <message>
         <source>90 %, χ²</source>
-        <translation type="unfinished"></translation>
+        <translation>90 %, χ²</translation>
     </message>
     <message>
         <source>common spread, percent</source>
-        <translation type="unfinished"></translation>
+        <translation>gemeinsame Streuung, Prozent</translation>
     </message>
     <message>
         <source>{} with a missed gate left out</source>
-        <translation type="unfinished"></translation>
+        <translation>{} mit Torfehler ausgelassen</translation>
     </message>
     <message>
         <source>exact Poisson interval, 90 %</source>
-        <translation type="unfinished"></translation>
+        <translation>exaktes Poisson-Intervall, 90 %</translation>
     </message>
     <message>
         <source>median paddling</source>
-        <translation type="unfinished"></translation>
+        <translation>mittlere Fahrzeit</translation>
     </message>
     <message>
         <source>Sections</source>
@@ -3327,7 +3327,7 @@
     </message>
     <message>
         <source>Direction</source>
-        <translation type="unfinished"></translation>
+        <translation>Richtung</translation>
     </message>
     <message>
         <source>Style</source>
@@ -3335,19 +3335,19 @@
     </message>
     <message>
         <source>not known</source>
-        <translation type="unfinished"></translation>
+        <translation>nicht bekannt</translation>
     </message>
     <message>
         <source> (%1 to %2)</source>
-        <translation type="unfinished"></translation>
+        <translation> (%1 bis %2)</translation>
     </message>
     <message>
         <source> (too few)</source>
-        <translation type="unfinished"></translation>
+        <translation> (zu wenige)</translation>
     </message>
     <message>
         <source>%1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 von %2</translation>
     </message>
     <message>
         <source>%1 in %2</source>
@@ -3355,27 +3355,27 @@
     </message>
     <message>
         <source>Losses and penalties · %1on the reference &quot;%2&quot; · %3</source>
-        <translation type="unfinished"></translation>
+        <translation>Verluste und Strafen · %1auf die Referenz „%2“ · %3</translation>
     </message>
     <message>
         <source>Where time is lost</source>
-        <translation type="unfinished"></translation>
+        <translation>Wo Zeit verloren geht</translation>
     </message>
     <message>
         <source>Seconds a run: gap %1, penalties %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Sekunden je Lauf: Rückstand %1, Strafen %2</translation>
     </message>
     <message>
         <source>No whole run can be held against this reference.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein ganzer Lauf lässt sich mit dieser Referenz vergleichen.</translation>
     </message>
     <message>
         <source>%1 more rows are left out.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 weitere Zeilen sind ausgelassen.</translation>
     </message>
     <message>
         <source>In</source>
-        <translation type="unfinished"></translation>
+        <translation>In</translation>
     </message>
     <message>
         <source>Runs</source>
@@ -3383,11 +3383,11 @@
     </message>
     <message>
         <source>Lost, s</source>
-        <translation type="unfinished"></translation>
+        <translation>Verlust, s</translation>
     </message>
     <message>
         <source>A run, s</source>
-        <translation type="unfinished"></translation>
+        <translation>Je Lauf, s</translation>
     </message>
     <message>
         <source>Percent</source>
@@ -3395,39 +3395,39 @@
     </message>
     <message>
         <source>90 % interval</source>
-        <translation type="unfinished"></translation>
+        <translation>90-%-Intervall</translation>
     </message>
     <message>
         <source>Verdict</source>
-        <translation type="unfinished"></translation>
+        <translation>Befund</translation>
     </message>
     <message>
         <source>too few</source>
-        <translation type="unfinished"></translation>
+        <translation>zu wenige</translation>
     </message>
     <message>
         <source>%1, run %2, %3 %4</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, Lauf %2, %3 %4</translation>
     </message>
     <message>
         <source>What to train</source>
-        <translation type="unfinished"></translation>
+        <translation>Was zu trainieren ist</translation>
     </message>
     <message>
         <source>whose whole interval is above 0, by what it costs in a run</source>
-        <translation type="unfinished"></translation>
+        <translation>deren ganzes Intervall über 0 liegt, nach dem, was es in einem Lauf kostet</translation>
     </message>
     <message>
         <source>Nothing stands out from these runs.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aus diesen Läufen fällt nichts auf.</translation>
     </message>
     <message>
         <source>%1. %2, %3: %4 s a run</source>
-        <translation type="unfinished"></translation>
+        <translation>%1. %2, %3: %4 s je Lauf</translation>
     </message>
     <message>
         <source>See </source>
-        <translation type="unfinished"></translation>
+        <translation>Siehe </translation>
     </message>
     <message>
         <source>Gates</source>
@@ -3439,11 +3439,11 @@
     </message>
     <message>
         <source>Missed</source>
-        <translation type="unfinished"></translation>
+        <translation>Verfehlt</translation>
     </message>
     <message>
         <source>Percent, 90 %</source>
-        <translation type="unfinished"></translation>
+        <translation>Prozent, 90 %</translation>
     </message>
     <message>
         <source>All</source>
@@ -3451,11 +3451,11 @@
     </message>
     <message>
         <source>Type</source>
-        <translation type="unfinished"></translation>
+        <translation>Typ</translation>
     </message>
     <message>
         <source>Tenth of course</source>
-        <translation type="unfinished"></translation>
+        <translation>Zehntel der Strecke</translation>
     </message>
     <message>
         <source>Penalties</source>
@@ -3463,11 +3463,11 @@
     </message>
     <message>
         <source>No run tells its penalties by gate.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein Lauf nennt seine Strafen nach Toren.</translation>
     </message>
     <message>
         <source>Noted of %1 %2, shares of those noted:</source>
-        <translation type="unfinished"></translation>
+        <translation>Notiert zu %1 %2, Anteile der notierten:</translation>
     </message>
     <message>
         <source>penalty</source>
@@ -3475,66 +3475,66 @@
     </message>
     <message>
         <source>Penalties by gate</source>
-        <translation type="unfinished"></translation>
+        <translation>Strafen nach Toren</translation>
     </message>
     <message>
         <source>and %1 more gates</source>
-        <translation type="unfinished"></translation>
+        <translation>und %1 weitere Tore</translation>
     </message>
     <message numerus="yes">
         <source>{} missed gates</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>{} Torfehler</numerusform>
+            <numerusform>{} Torfehler</numerusform>
         </translation>
     </message>
     <message>
         <source> in </source>
-        <translation type="unfinished"></translation>
+        <translation> in </translation>
     </message>
     <message>
         <source>upstream gate</source>
-        <translation type="unfinished"></translation>
+        <translation>Aufwärtstor</translation>
     </message>
     <message>
         <source>blue</source>
-        <translation type="unfinished"></translation>
+        <translation>blau</translation>
     </message>
     <message>
         <source>green</source>
-        <translation type="unfinished"></translation>
+        <translation>grün</translation>
     </message>
     <message>
         <source>orange</source>
-        <translation type="unfinished"></translation>
+        <translation>orange</translation>
     </message>
     <message>
         <source>red</source>
-        <translation type="unfinished"></translation>
+        <translation>rot</translation>
     </message>
     <message>
         <source>fastest*, %1</source>
-        <translation type="unfinished"></translation>
+        <translation>schnellste*, %1</translation>
     </message>
     <message>
         <source>%1, slowest, by tenths of the column</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, langsamste, nach Zehnteln der Spalte</translation>
     </message>
     <message>
         <source>* best of its column, in %1; all others in %2</source>
-        <translation type="unfinished"></translation>
+        <translation>* Bestzeit ihrer Spalte, in %1; alle anderen in %2</translation>
     </message>
     <message>
         <source>Page %1 / %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Seite %1 / %2</translation>
     </message>
     <message>
         <source>Sessions</source>
-        <translation type="unfinished"></translation>
+        <translation>Einheiten</translation>
     </message>
     <message>
         <source>Quantity</source>
-        <translation type="unfinished"></translation>
+        <translation>Menge</translation>
     </message>
     <message>
         <source>Category</source>
@@ -3542,15 +3542,15 @@
     </message>
     <message>
         <source>plan</source>
-        <translation type="unfinished"></translation>
+        <translation>Plan</translation>
     </message>
     <message>
         <source>listed</source>
-        <translation type="unfinished"></translation>
+        <translation>Liste</translation>
     </message>
     <message>
         <source>Nothing is planned and nothing entered.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nichts ist geplant und nichts eingetragen.</translation>
     </message>
     <message>
         <source>Season %1</source>
@@ -3558,47 +3558,47 @@
     </message>
     <message>
         <source>Weeks</source>
-        <translation type="unfinished"></translation>
+        <translation>Wochen</translation>
     </message>
     <message>
         <source>Macrocycles</source>
-        <translation type="unfinished"></translation>
+        <translation>Makrozyklen</translation>
     </message>
     <message>
         <source>Weeks with an event</source>
-        <translation type="unfinished"></translation>
+        <translation>Wochen mit einem Ereignis</translation>
     </message>
     <message>
         <source>Races run</source>
-        <translation type="unfinished"></translation>
+        <translation>Gefahrene Rennen</translation>
     </message>
     <message>
         <source>Group %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Gruppe %1</translation>
     </message>
     <message>
         <source>  ·  %1 of %2 reached</source>
-        <translation type="unfinished"></translation>
+        <translation>  ·  %1 von %2 erreicht</translation>
     </message>
     <message>
         <source>Goals of the season</source>
-        <translation type="unfinished"></translation>
+        <translation>Ziele der Saison</translation>
     </message>
     <message>
         <source>No week of this season is planned yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Noch keine Woche dieser Saison ist geplant.</translation>
     </message>
     <message>
         <source>Training by category</source>
-        <translation type="unfinished"></translation>
+        <translation>Training nach Kategorie</translation>
     </message>
     <message>
         <source>Week</source>
-        <translation type="unfinished"></translation>
+        <translation>Woche</translation>
     </message>
     <message>
         <source>Days</source>
-        <translation type="unfinished"></translation>
+        <translation>Tage</translation>
     </message>
     <message>
         <source>Macrocycle</source>
@@ -3610,47 +3610,47 @@
     </message>
     <message>
         <source>Load, %</source>
-        <translation type="unfinished"></translation>
+        <translation>Belastung, %</translation>
     </message>
     <message>
         <source>Event, place</source>
-        <translation type="unfinished"></translation>
+        <translation>Ereignis, Ort</translation>
     </message>
     <message>
         <source>Tests</source>
-        <translation type="unfinished"></translation>
+        <translation>Tests</translation>
     </message>
     <message>
         <source>Morning</source>
-        <translation type="unfinished"></translation>
+        <translation>Morgen</translation>
     </message>
     <message>
         <source>Afternoon</source>
-        <translation type="unfinished"></translation>
+        <translation>Nachmittag</translation>
     </message>
     <message>
         <source>Evening</source>
-        <translation type="unfinished"></translation>
+        <translation>Abend</translation>
     </message>
     <message>
         <source>Any time</source>
-        <translation type="unfinished"></translation>
+        <translation>Jederzeit</translation>
     </message>
     <message>
         <source>Session</source>
-        <translation type="unfinished"></translation>
+        <translation>Einheit</translation>
     </message>
     <message>
         <source>continued</source>
-        <translation type="unfinished"></translation>
+        <translation>fortgesetzt</translation>
     </message>
     <message>
         <source>Other days</source>
-        <translation type="unfinished"></translation>
+        <translation>Andere Tage</translation>
     </message>
     <message>
         <source>Training week</source>
-        <translation type="unfinished"></translation>
+        <translation>Trainingswoche</translation>
     </message>
     <message>
         <source>Week %1</source>
@@ -3658,7 +3658,7 @@
     </message>
     <message>
         <source>Goals of the week</source>
-        <translation type="unfinished"></translation>
+        <translation>Ziele der Woche</translation>
     </message>
     <message>
         <source>Notes</source>
@@ -3690,11 +3690,11 @@
     </message>
     <message>
         <source>Best</source>
-        <translation type="unfinished"></translation>
+        <translation>Beste</translation>
     </message>
     <message>
         <source>By</source>
-        <translation type="unfinished"></translation>
+        <translation>Von</translation>
     </message>
     <message>
         <source>Results</source>
@@ -3702,7 +3702,7 @@
     </message>
     <message>
         <source>Ideal run without penalties</source>
-        <translation type="unfinished"></translation>
+        <translation>Ideallauf ohne Strafen</translation>
     </message>
     <message>
         <source>Ideal run</source>
@@ -3710,7 +3710,7 @@
     </message>
     <message>
         <source>Fastest run</source>
-        <translation type="unfinished"></translation>
+        <translation>Schnellster Lauf</translation>
     </message>
     <message>
         <source>Split times</source>
@@ -3718,19 +3718,19 @@
     </message>
     <message>
         <source>There are no runs to show.</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Läufe zu zeigen.</translation>
     </message>
     <message>
         <source>%1 gates</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Tore</translation>
     </message>
     <message>
         <source>, %1 upstream</source>
-        <translation type="unfinished"></translation>
+        <translation>, davon %1 aufwärts</translation>
     </message>
     <message>
         <source>Race</source>
-        <translation type="unfinished"></translation>
+        <translation>Rennen</translation>
     </message>
     <message>
         <source>Place</source>
@@ -3746,7 +3746,7 @@
     </message>
     <message>
         <source>For comparison</source>
-        <translation type="unfinished"></translation>
+        <translation>Zum Vergleich</translation>
     </message>
     <message>
         <source>Phase</source>
@@ -3758,11 +3758,11 @@
     </message>
     <message>
         <source> Grey: not timed as a whole, never a best.</source>
-        <translation type="unfinished"></translation>
+        <translation> Grau: nicht als Ganzes gestoppt, nie Bestzeit.</translation>
     </message>
     <message>
         <source>Split %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Zwischenzeit %1</translation>
     </message>
     <message>
         <source>Run</source>
@@ -3770,23 +3770,23 @@
     </message>
     <message>
         <source>%1 s of %2 s; strokes are counted of whole sections.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 s von %2 s; Schläge werden in ganzen Abschnitten gezählt.</translation>
     </message>
     <message>
         <source>The penalties of this run are not known by gate.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Strafen dieses Laufs sind nicht nach Toren bekannt.</translation>
     </message>
     <message>
         <source>Time so far</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeit bis hier</translation>
     </message>
     <message>
         <source>Among all runs</source>
-        <translation type="unfinished"></translation>
+        <translation>Unter allen Läufen</translation>
     </message>
     <message>
         <source>Among all runs of </source>
-        <translation type="unfinished"></translation>
+        <translation>Unter allen Läufen: </translation>
     </message>
     <message>
         <source>Gate</source>
@@ -3794,11 +3794,11 @@
     </message>
     <message>
         <source>Entrance</source>
-        <translation type="unfinished"></translation>
+        <translation>Einfahrt</translation>
     </message>
     <message>
         <source>Exit</source>
-        <translation type="unfinished"></translation>
+        <translation>Ausfahrt</translation>
     </message>
     <message>
         <source>Turn</source>
@@ -3822,23 +3822,23 @@
     </message>
     <message>
         <source>Tag</source>
-        <translation type="unfinished"></translation>
+        <translation>Markierung</translation>
     </message>
     <message>
         <source>In the run at</source>
-        <translation type="unfinished"></translation>
+        <translation>Im Lauf bei</translation>
     </message>
     <message>
         <source>Comments</source>
-        <translation type="unfinished"></translation>
+        <translation>Kommentare</translation>
     </message>
     <message>
         <source>Split {}</source>
-        <translation type="unfinished"></translation>
+        <translation>Zwischenzeit {}</translation>
     </message>
     <message>
         <source>best</source>
-        <translation type="unfinished"></translation>
+        <translation>beste</translation>
     </message>
     <message>
         <source>Strokes</source>
@@ -3846,7 +3846,7 @@
     </message>
     <message>
         <source>per min</source>
-        <translation type="unfinished"></translation>
+        <translation>je min</translation>
     </message>
     <message>
         <source>Split</source>
@@ -3854,7 +3854,7 @@
     </message>
     <message>
         <source>Rank</source>
-        <translation type="unfinished"></translation>
+        <translation>Rang</translation>
     </message>
     <message>
         <source>Penalty</source>
@@ -3862,15 +3862,15 @@
     </message>
     <message>
         <source>on the film</source>
-        <translation type="unfinished"></translation>
+        <translation>auf dem Film</translation>
     </message>
     <message>
         <source>recording</source>
-        <translation type="unfinished"></translation>
+        <translation>Aufzeichnung</translation>
     </message>
     <message>
         <source>gap and rank among all runs of the category; the run&apos;s with penalties</source>
-        <translation type="unfinished"></translation>
+        <translation>Rückstand und Rang unter allen Läufen der Kategorie; der des Laufs mit Strafen</translation>
     </message>
     <message>
         <source>Splits</source>
@@ -3878,43 +3878,43 @@
     </message>
     <message>
         <source>and %1 more</source>
-        <translation type="unfinished"></translation>
+        <translation>und %1 weitere</translation>
     </message>
     <message>
         <source>Recording: </source>
-        <translation type="unfinished"></translation>
+        <translation>Aufzeichnung: </translation>
     </message>
     <message>
         <source>third of the final, median</source>
-        <translation type="unfinished"></translation>
+        <translation>Dritter des Finales, Median</translation>
     </message>
     <message>
         <source>rank %1: %2 %</source>
-        <translation type="unfinished"></translation>
+        <translation>Rang %1: %2 %</translation>
     </message>
     <message>
         <source>own median</source>
-        <translation type="unfinished"></translation>
+        <translation>eigener Median</translation>
     </message>
     <message>
         <source>Medal</source>
-        <translation type="unfinished"></translation>
+        <translation>Medaille</translation>
     </message>
     <message>
         <source>Season </source>
-        <translation type="unfinished"></translation>
+        <translation>Saison </translation>
     </message>
     <message>
         <source>%1 · %2 races · intervals are 90 %</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 · %2 Rennen · Intervalle sind 90 %</translation>
     </message>
     <message>
         <source>Percent behind the winner</source>
-        <translation type="unfinished"></translation>
+        <translation>Prozent hinter dem Sieger</translation>
     </message>
     <message>
         <source>Percent behind the fastest splits</source>
-        <translation type="unfinished"></translation>
+        <translation>Prozent hinter den schnellsten Abschnitten</translation>
     </message>
     <message>
         <source>Races</source>
@@ -3922,11 +3922,11 @@
     </message>
     <message>
         <source>Reached</source>
-        <translation type="unfinished"></translation>
+        <translation>Erreicht</translation>
     </message>
     <message>
         <source>Medals</source>
-        <translation type="unfinished"></translation>
+        <translation>Medaillen</translation>
     </message>
     <message>
         <source>Finals</source>
@@ -3938,55 +3938,55 @@
     </message>
     <message>
         <source>Medals and finals</source>
-        <translation type="unfinished"></translation>
+        <translation>Medaillen und Finals</translation>
     </message>
     <message>
         <source>Change, below 0 is faster</source>
-        <translation type="unfinished"></translation>
+        <translation>Änderung, unter 0 ist schneller</translation>
     </message>
     <message>
         <source>A year on the winner</source>
-        <translation type="unfinished"></translation>
+        <translation>Im Jahr auf den Sieger</translation>
     </message>
     <message>
         <source>A year on the splits</source>
-        <translation type="unfinished"></translation>
+        <translation>Im Jahr auf Abschnitte</translation>
     </message>
     <message>
         <source>Run 1 to run 2</source>
-        <translation type="unfinished"></translation>
+        <translation>Lauf 1 zu Lauf 2</translation>
     </message>
     <message>
         <source>Semifinal to final</source>
-        <translation type="unfinished"></translation>
+        <translation>Halbfinale zu Finale</translation>
     </message>
     <message>
         <source>Heats to final, behind</source>
-        <translation type="unfinished"></translation>
+        <translation>Vorlauf zu Finale, Rückstand</translation>
     </message>
     <message>
         <source>Changes</source>
-        <translation type="unfinished"></translation>
+        <translation>Änderungen</translation>
     </message>
     <message>
         <source>Ahead of</source>
-        <translation type="unfinished"></translation>
+        <translation>Vor</translation>
     </message>
     <message>
         <source>Met</source>
-        <translation type="unfinished"></translation>
+        <translation>Getroffen</translation>
     </message>
     <message>
         <source>Head to head</source>
-        <translation type="unfinished"></translation>
+        <translation>Direkter Vergleich</translation>
     </message>
     <message>
         <source>What a rank of the final took</source>
-        <translation type="unfinished"></translation>
+        <translation>Was ein Rang im Finale brauchte</translation>
     </message>
     <message>
         <source>%1 athletes · intervals are 90 %</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Athleten · Intervalle sind 90 %</translation>
     </message>
     <message>
         <source>Athlete</source>
@@ -3994,47 +3994,47 @@
     </message>
     <message>
         <source>Chance, %</source>
-        <translation type="unfinished"></translation>
+        <translation>Zufall, %</translation>
     </message>
     <message>
         <source>% a year</source>
-        <translation type="unfinished"></translation>
+        <translation>% im Jahr</translation>
     </message>
     <message>
         <source>On the splits</source>
-        <translation type="unfinished"></translation>
+        <translation>Auf Abschnitte</translation>
     </message>
     <message>
         <source>On the winner</source>
-        <translation type="unfinished"></translation>
+        <translation>Auf den Sieger</translation>
     </message>
     <message>
         <source>Athletes</source>
-        <translation type="unfinished"></translation>
+        <translation>Athleten</translation>
     </message>
     <message>
         <source>What a rank took: </source>
-        <translation type="unfinished"></translation>
+        <translation>Was ein Rang brauchte: </translation>
     </message>
     <message>
         <source>Expected places</source>
-        <translation type="unfinished"></translation>
+        <translation>Erwartete Plätze</translation>
     </message>
     <message>
         <source>best %1</source>
-        <translation type="unfinished"></translation>
+        <translation>bester %1</translation>
     </message>
     <message>
         <source> · races %1 to %2</source>
-        <translation type="unfinished"></translation>
+        <translation> · Rennen %1 bis %2</translation>
     </message>
     <message>
         <source>, continued</source>
-        <translation type="unfinished"></translation>
+        <translation>, fortgesetzt</translation>
     </message>
     <message>
         <source>Pos</source>
-        <translation type="unfinished"></translation>
+        <translation>Pl</translation>
     </message>
     <message>
         <source>SURNAME Name</source>
@@ -4050,7 +4050,7 @@
     </message>
     <message>
         <source>xTime</source>
-        <translation type="unfinished"></translation>
+        <translation>xTime</translation>
     </message>
     <message>
         <source>Bonus</source>
@@ -4058,7 +4058,7 @@
     </message>
     <message>
         <source>x Score</source>
-        <translation type="unfinished"></translation>
+        <translation>x Wertung</translation>
     </message>
     <message>
         <source>Score</source>
@@ -4066,47 +4066,47 @@
     </message>
     <message>
         <source>Percent behind the best of the race and category. </source>
-        <translation type="unfinished"></translation>
+        <translation>Prozent hinter dem Besten des Rennens und der Kategorie. </translation>
     </message>
     <message>
         <source>Percent behind the best expected time of the race and category. </source>
-        <translation type="unfinished"></translation>
+        <translation>Prozent hinter der besten erwarteten Zeit des Rennens und der Kategorie. </translation>
     </message>
     <message>
         <source>The worst result is struck through and does not count</source>
-        <translation type="unfinished"></translation>
+        <translation>Das schlechteste Ergebnis ist durchgestrichen und zählt nicht</translation>
     </message>
     <message>
         <source>; with a bonus the two worst. </source>
-        <translation type="unfinished"></translation>
+        <translation>; mit Bonus die zwei schlechtesten. </translation>
     </message>
     <message>
         <source>Score: the sum of the others divided by three. %1: no result, P: preselected.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wertung: die Summe der anderen, durch drei geteilt. %1: kein Ergebnis, P: gesetzt.</translation>
     </message>
     <message>
         <source>Categories</source>
-        <translation type="unfinished"></translation>
+        <translation>Kategorien</translation>
     </message>
     <message>
         <source>Kind %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Art %1</translation>
     </message>
     <message>
         <source>None</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine</translation>
     </message>
     <message>
         <source>Place and date</source>
-        <translation type="unfinished"></translation>
+        <translation>Ort und Datum</translation>
     </message>
     <message>
         <source>Signature</source>
-        <translation type="unfinished"></translation>
+        <translation>Unterschrift</translation>
     </message>
     <message>
         <source>the median of each column</source>
-        <translation type="unfinished"></translation>
+        <translation>der Median jeder Spalte</translation>
     </message>
     <message>
         <source>the ideal run</source>
@@ -4114,779 +4114,779 @@
     </message>
     <message>
         <source>the best of each column</source>
-        <translation type="unfinished"></translation>
+        <translation>das Beste jeder Spalte</translation>
     </message>
     <message>
         <source>Gaps in seconds to %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Rückstände in Sekunden auf %1.</translation>
     </message>
     <message>
         <source>Places within each column.</source>
-        <translation type="unfinished"></translation>
+        <translation>Plätze in jeder Spalte.</translation>
     </message>
     <message>
         <source>Percent behind the best of each column.</source>
-        <translation type="unfinished"></translation>
+        <translation>Prozent hinter dem Besten jeder Spalte.</translation>
     </message>
     <message>
         <source>Percentiles of each column; the best has 100.</source>
-        <translation type="unfinished"></translation>
+        <translation>Perzentile jeder Spalte; das Beste hat 100.</translation>
     </message>
     <message>
         <source>Times from the start, without penalties.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeiten vom Start an, ohne Strafen.</translation>
     </message>
     <message>
         <source>Penalties are included in sections and total.</source>
-        <translation type="unfinished"></translation>
+        <translation>Strafen sind in Abschnitten und Gesamtzeit enthalten.</translation>
     </message>
     <message>
         <source>Penalties are not included.</source>
-        <translation type="unfinished"></translation>
+        <translation>Strafen sind nicht enthalten.</translation>
     </message>
     <message>
         <source>Penalty seconds in brackets.</source>
-        <translation type="unfinished"></translation>
+        <translation>Strafsekunden in Klammern.</translation>
     </message>
     <message>
         <source>Compared among all %1 runs.</source>
-        <translation type="unfinished"></translation>
+        <translation>Verglichen unter allen %1 Läufen.</translation>
     </message>
     <message>
         <source>Final position</source>
-        <translation type="unfinished"></translation>
+        <translation>Endplatz</translation>
     </message>
     <message>
         <source>No athlete of this category comes into question.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein Athlet dieser Kategorie kommt in Frage.</translation>
     </message>
     <message>
         <source>medals</source>
-        <translation type="unfinished"></translation>
+        <translation>Medaillen</translation>
     </message>
     <message>
         <source>championship medals</source>
-        <translation type="unfinished"></translation>
+        <translation>Meisterschaftsmedaillen</translation>
     </message>
     <message>
         <source>top 6</source>
-        <translation type="unfinished"></translation>
+        <translation>Top 6</translation>
     </message>
     <message>
         <source>top 15</source>
-        <translation type="unfinished"></translation>
+        <translation>Top 15</translation>
     </message>
     <message>
         <source>What counts is summed and divided by three, however many races there were.</source>
-        <translation type="unfinished"></translation>
+        <translation>Was zählt, wird summiert und durch drei geteilt, wie viele Rennen es auch waren.</translation>
     </message>
     <message>
         <source>Σ counted / 3</source>
-        <translation type="unfinished"></translation>
+        <translation>Σ gezählte / 3</translation>
     </message>
     <message>
         <source>the rules of the selection</source>
-        <translation type="unfinished"></translation>
+        <translation>die Regeln der Nominierung</translation>
     </message>
     <message>
         <source>The results and the bonus that count.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Ergebnisse und der Bonus, die zählen.</translation>
     </message>
     <message>
         <source>Σ counted</source>
-        <translation type="unfinished"></translation>
+        <translation>Σ gezählte</translation>
     </message>
     <message>
         <source>Counts in the score.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zählt in der Wertung.</translation>
     </message>
     <message>
         <source>percent</source>
-        <translation type="unfinished"></translation>
+        <translation>Prozent</translation>
     </message>
     <message>
         <source>Dropped: the worst result of all.</source>
-        <translation type="unfinished"></translation>
+        <translation>Gestrichen: das schlechteste Ergebnis von allen.</translation>
     </message>
     <message>
         <source>not in the score</source>
-        <translation type="unfinished"></translation>
+        <translation>nicht in der Wertung</translation>
     </message>
     <message>
         <source>Dropped too: a bonus stands among the results.</source>
-        <translation type="unfinished"></translation>
+        <translation>Auch gestrichen: unter den Ergebnissen steht ein Bonus.</translation>
     </message>
     <message>
         <source>How far behind the best of the category in this race, with penalties.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie weit hinter dem Besten der Kategorie in diesem Rennen, mit Strafen.</translation>
     </message>
     <message>
         <source>100 · ((time + penalties) / best − 1)</source>
-        <translation type="unfinished"></translation>
+        <translation>100 · ((Zeit + Strafen) / beste − 1)</translation>
     </message>
     <message>
         <source>A race without a result stands for this much.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Rennen ohne Ergebnis zählt so viel.</translation>
     </message>
     <message>
         <source>999.99</source>
-        <translation type="unfinished"></translation>
+        <translation>999.99</translation>
     </message>
     <message>
         <source>More than two medals, or one at a championship, in the first two seasons.</source>
-        <translation type="unfinished"></translation>
+        <translation>Mehr als zwei Medaillen, oder eine bei einer Meisterschaft, in den ersten zwei Saisons.</translation>
     </message>
     <message>
         <source>medals &gt; 2 or championship medals ≥ 1</source>
-        <translation type="unfinished"></translation>
+        <translation>Medaillen &gt; 2 oder Meisterschaftsmedaillen ≥ 1</translation>
     </message>
     <message>
         <source>the rules of the categorization</source>
-        <translation type="unfinished"></translation>
+        <translation>die Regeln der Einstufung</translation>
     </message>
     <message>
         <source>Three times among the first six in the first two seasons.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dreimal unter den ersten sechs in den ersten zwei Saisons.</translation>
     </message>
     <message>
         <source>top 6 ≥ 3</source>
-        <translation type="unfinished"></translation>
+        <translation>Top 6 ≥ 3</translation>
     </message>
     <message>
         <source>Four times among the first fifteen in the first two seasons.</source>
-        <translation type="unfinished"></translation>
+        <translation>Viermal unter den ersten fünfzehn in den ersten zwei Saisons.</translation>
     </message>
     <message>
         <source>top 15 ≥ 4</source>
-        <translation type="unfinished"></translation>
+        <translation>Top 15 ≥ 4</translation>
     </message>
     <message>
         <source>None of the other levels is reached in the first two seasons.</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine der anderen Stufen ist in den ersten zwei Saisons erreicht.</translation>
     </message>
     <message>
         <source>otherwise</source>
-        <translation type="unfinished"></translation>
+        <translation>sonst</translation>
     </message>
     <message>
         <source>Races with a final position of 1 to 3.</source>
-        <translation type="unfinished"></translation>
+        <translation>Rennen mit einem Endplatz von 1 bis 3.</translation>
     </message>
     <message>
         <source>count</source>
-        <translation type="unfinished"></translation>
+        <translation>Anzahl</translation>
     </message>
     <message>
         <source>Races with a final position of 1 to 6.</source>
-        <translation type="unfinished"></translation>
+        <translation>Rennen mit einem Endplatz von 1 bis 6.</translation>
     </message>
     <message>
         <source>Races with a final position of 1 to 15.</source>
-        <translation type="unfinished"></translation>
+        <translation>Rennen mit einem Endplatz von 1 bis 15.</translation>
     </message>
     <message>
         <source>Races with a final position.</source>
-        <translation type="unfinished"></translation>
+        <translation>Rennen mit einem Endplatz.</translation>
     </message>
     <message>
         <source>What the run would have taken at its usual distance from the best times.</source>
-        <translation type="unfinished"></translation>
+        <translation>Was der Lauf bei seinem üblichen Abstand zu den Bestzeiten gebraucht hätte.</translation>
     </message>
     <message>
         <source>factor · perfect time</source>
-        <translation type="unfinished"></translation>
+        <translation>Faktor · perfekte Zeit</translation>
     </message>
     <message>
         <source>How far its times stand above the best ones, without the outermost.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie weit seine Zeiten über den besten liegen, ohne die äußersten.</translation>
     </message>
     <message>
         <source>mean of the ratios that are left</source>
-        <translation type="unfinished"></translation>
+        <translation>Mittel der übrigen Verhältnisse</translation>
     </message>
     <message>
         <source>A time of the run against the best of all runs there.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Zeit des Laufs gegen die beste aller Läufe dort.</translation>
     </message>
     <message>
         <source>own / best</source>
-        <translation type="unfinished"></translation>
+        <translation>eigene / beste</translation>
     </message>
     <message>
         <source>The best times of all runs, put together.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die besten Zeiten aller Läufe, zusammengesetzt.</translation>
     </message>
     <message>
         <source>factor</source>
-        <translation type="unfinished"></translation>
+        <translation>Faktor</translation>
     </message>
     <message>
         <source>perfect time</source>
-        <translation type="unfinished"></translation>
+        <translation>perfekte Zeit</translation>
     </message>
     <message>
         <source>ratios that are left</source>
-        <translation type="unfinished"></translation>
+        <translation>übrige Verhältnisse</translation>
     </message>
     <message>
         <source>Side by side</source>
-        <translation type="unfinished"></translation>
+        <translation>Nebeneinander</translation>
     </message>
     <message>
         <source>Above each other</source>
-        <translation type="unfinished"></translation>
+        <translation>Übereinander</translation>
     </message>
     <message>
         <source>Two by two</source>
-        <translation type="unfinished"></translation>
+        <translation>Zwei mal zwei</translation>
     </message>
     <message>
         <source>One within the other</source>
-        <translation type="unfinished"></translation>
+        <translation>Einer im anderen</translation>
     </message>
     <message>
         <source>Ghost: seen through</source>
-        <translation type="unfinished"></translation>
+        <translation>Geist: durchscheinend</translation>
     </message>
     <message>
         <source>Left and right of a line</source>
-        <translation type="unfinished"></translation>
+        <translation>Links und rechts einer Linie</translation>
     </message>
     <message>
         <source>at the start</source>
-        <translation type="unfinished"></translation>
+        <translation>am Start</translation>
     </message>
     <message>
         <source>at one split</source>
-        <translation type="unfinished"></translation>
+        <translation>an einer Zwischenzeit</translation>
     </message>
     <message>
         <source>at every split, waiting</source>
-        <translation type="unfinished"></translation>
+        <translation>an jeder Zwischenzeit, wartend</translation>
     </message>
     <message>
         <source>at every split, stretched</source>
-        <translation type="unfinished"></translation>
+        <translation>an jeder Zwischenzeit, gedehnt</translation>
     </message>
     <message>
         <source>the whole run</source>
-        <translation type="unfinished"></translation>
+        <translation>der ganze Lauf</translation>
     </message>
     <message>
         <source>from split to split</source>
-        <translation type="unfinished"></translation>
+        <translation>von Zwischenzeit zu Zwischenzeit</translation>
     </message>
     <message>
         <source>Combination</source>
-        <translation type="unfinished"></translation>
+        <translation>Torkombination</translation>
     </message>
     <message>
         <source>Enter plays both films</source>
-        <translation type="unfinished"></translation>
+        <translation>Enter spielt beide Filme ab</translation>
     </message>
     <message>
         <source>No film is known here</source>
-        <translation type="unfinished"></translation>
+        <translation>Hier ist kein Film bekannt</translation>
     </message>
     <message>
         <source>Kind</source>
-        <translation type="unfinished"></translation>
+        <translation>Art</translation>
     </message>
     <message>
         <source>Own time less the reference&apos;s; all of them add up to what is shown on top</source>
-        <translation type="unfinished"></translation>
+        <translation>Eigene Zeit minus die der Referenz; alle zusammen ergeben, was oben steht</translation>
     </message>
     <message>
         <source>Between</source>
-        <translation type="unfinished"></translation>
+        <translation>Zwischen</translation>
     </message>
     <message>
         <source>Lost outside the upstream gates</source>
-        <translation type="unfinished"></translation>
+        <translation>Verlust außerhalb der Aufwärtstore</translation>
     </message>
     <message>
         <source>Reference&apos;s strokes</source>
-        <translation type="unfinished"></translation>
+        <translation>Schläge der Referenz</translation>
     </message>
     <message>
         <source>Own seconds of penalty in the section</source>
-        <translation type="unfinished"></translation>
+        <translation>Eigene Strafsekunden im Abschnitt</translation>
     </message>
     <message>
         <source>A tick makes the run what all are held against</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Häkchen macht den Lauf zum Vergleich für alle</translation>
     </message>
     <message>
         <source>Paddling</source>
-        <translation type="unfinished"></translation>
+        <translation>Fahrzeit</translation>
     </message>
     <message>
         <source>Timing</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeitnahme</translation>
     </message>
     <message>
         <source>On expected time</source>
-        <translation type="unfinished"></translation>
+        <translation>Auf erwartete Zeit</translation>
     </message>
     <message>
         <source>Time without penalties less the expected time</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeit ohne Strafen minus die erwartete Zeit</translation>
     </message>
     <message>
         <source>Lost up to the pole line</source>
-        <translation type="unfinished"></translation>
+        <translation>Verlust bis zur Torlinie</translation>
     </message>
     <message>
         <source>Lost from the pole line on</source>
-        <translation type="unfinished"></translation>
+        <translation>Verlust ab der Torlinie</translation>
     </message>
     <message>
         <source>Noted</source>
-        <translation type="unfinished"></translation>
+        <translation>Notiert</translation>
     </message>
     <message>
         <source>not noted</source>
-        <translation type="unfinished"></translation>
+        <translation>nicht notiert</translation>
     </message>
     <message>
         <source>Cost</source>
-        <translation type="unfinished"></translation>
+        <translation>Kosten</translation>
     </message>
     <message>
         <source>Seconds of the chosen way over the fastest one timed</source>
-        <translation type="unfinished"></translation>
+        <translation>Sekunden des gewählten Wegs über dem schnellsten gestoppten</translation>
     </message>
     <message>
         <source>Forward</source>
-        <translation type="unfinished"></translation>
+        <translation>Vorwärts</translation>
     </message>
     <message>
         <source>Turning rate (left above 0)</source>
-        <translation type="unfinished"></translation>
+        <translation>Drehrate (links über 0)</translation>
     </message>
     <message>
         <source>Turning</source>
-        <translation type="unfinished"></translation>
+        <translation>Drehen</translation>
     </message>
     <message>
         <source>Roll (starboard down above 0)</source>
-        <translation type="unfinished"></translation>
+        <translation>Rollen (Steuerbord tief über 0)</translation>
     </message>
     <message>
         <source>Pitch (bow up above 0)</source>
-        <translation type="unfinished"></translation>
+        <translation>Stampfen (Bug hoch über 0)</translation>
     </message>
     <message>
         <source>Speed by position</source>
-        <translation type="unfinished"></translation>
+        <translation>Tempo nach Position</translation>
     </message>
     <message>
         <source>Hull speed, estimated</source>
-        <translation type="unfinished"></translation>
+        <translation>Bootsgeschwindigkeit, geschätzt</translation>
     </message>
     <message>
         <source>Hull speed</source>
-        <translation type="unfinished"></translation>
+        <translation>Bootsgeschwindigkeit</translation>
     </message>
     <message>
         <source>Watch acceleration</source>
-        <translation type="unfinished"></translation>
+        <translation>Beschleunigung der Uhr</translation>
     </message>
     <message>
         <source>Watch</source>
-        <translation type="unfinished"></translation>
+        <translation>Uhr</translation>
     </message>
     <message>
         <source>Acceleration of the phone, x</source>
-        <translation type="unfinished"></translation>
+        <translation>Beschleunigung des Telefons, x</translation>
     </message>
     <message>
         <source>Acceleration x</source>
-        <translation type="unfinished"></translation>
+        <translation>Beschleunigung x</translation>
     </message>
     <message>
         <source>Acceleration of the phone, y</source>
-        <translation type="unfinished"></translation>
+        <translation>Beschleunigung des Telefons, y</translation>
     </message>
     <message>
         <source>Acceleration y</source>
-        <translation type="unfinished"></translation>
+        <translation>Beschleunigung y</translation>
     </message>
     <message>
         <source>Acceleration of the phone, z</source>
-        <translation type="unfinished"></translation>
+        <translation>Beschleunigung des Telefons, z</translation>
     </message>
     <message>
         <source>Acceleration z</source>
-        <translation type="unfinished"></translation>
+        <translation>Beschleunigung z</translation>
     </message>
     <message>
         <source>Rotation of the phone, x</source>
-        <translation type="unfinished"></translation>
+        <translation>Drehung des Telefons, x</translation>
     </message>
     <message>
         <source>Rotation x</source>
-        <translation type="unfinished"></translation>
+        <translation>Drehung x</translation>
     </message>
     <message>
         <source>Rotation of the phone, y</source>
-        <translation type="unfinished"></translation>
+        <translation>Drehung des Telefons, y</translation>
     </message>
     <message>
         <source>Rotation y</source>
-        <translation type="unfinished"></translation>
+        <translation>Drehung y</translation>
     </message>
     <message>
         <source>Rotation of the phone, z</source>
-        <translation type="unfinished"></translation>
+        <translation>Drehung des Telefons, z</translation>
     </message>
     <message>
         <source>Rotation z</source>
-        <translation type="unfinished"></translation>
+        <translation>Drehung z</translation>
     </message>
     <message>
         <source>by gate</source>
-        <translation type="unfinished"></translation>
+        <translation>nach Tor</translation>
     </message>
     <message>
         <source>by type of gate</source>
-        <translation type="unfinished"></translation>
+        <translation>nach Art des Tors</translation>
     </message>
     <message>
         <source>by tenth of the course</source>
-        <translation type="unfinished"></translation>
+        <translation>nach Zehntel der Strecke</translation>
     </message>
     <message>
         <source>by section</source>
-        <translation type="unfinished"></translation>
+        <translation>nach Abschnitt</translation>
     </message>
     <message>
         <source>by crew</source>
-        <translation type="unfinished"></translation>
+        <translation>nach Besatzung</translation>
     </message>
     <message>
         <source>by category</source>
-        <translation type="unfinished"></translation>
+        <translation>nach Kategorie</translation>
     </message>
     <message>
         <source>by phase</source>
-        <translation type="unfinished"></translation>
+        <translation>nach Phase</translation>
     </message>
     <message>
         <source>by race</source>
-        <translation type="unfinished"></translation>
+        <translation>nach Rennen</translation>
     </message>
     <message>
         <source>by month</source>
-        <translation type="unfinished"></translation>
+        <translation>nach Monat</translation>
     </message>
     <message>
         <source>by hand</source>
-        <translation type="unfinished"></translation>
+        <translation>nach Hand</translation>
     </message>
     <message>
         <source>Tenth</source>
-        <translation type="unfinished"></translation>
+        <translation>Zehntel</translation>
     </message>
     <message>
         <source>Se&amp;gments</source>
-        <translation type="unfinished"></translation>
+        <translation>Se&amp;gmente</translation>
     </message>
     <message>
         <source>&amp;Left and right</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Links und rechts</translation>
     </message>
     <message>
         <source>Whole numbers</source>
-        <translation type="unfinished"></translation>
+        <translation>Ganze Zahlen</translation>
     </message>
     <message>
         <source>Decimal numbers</source>
-        <translation type="unfinished"></translation>
+        <translation>Dezimalzahlen</translation>
     </message>
     <message>
         <source>Times</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeiten</translation>
     </message>
     <message>
         <source>DNF and the like</source>
-        <translation type="unfinished"></translation>
+        <translation>DNF und Ähnliches</translation>
     </message>
     <message>
         <source>Text</source>
-        <translation type="unfinished"></translation>
+        <translation>Text</translation>
     </message>
     <message>
         <source>Penalty missing</source>
-        <translation type="unfinished"></translation>
+        <translation>Strafe fehlt</translation>
     </message>
     <message>
         <source>Penalty too many</source>
-        <translation type="unfinished"></translation>
+        <translation>Strafe zu viel</translation>
     </message>
     <message>
         <source>Bibs swapped</source>
-        <translation type="unfinished"></translation>
+        <translation>Startnummern vertauscht</translation>
     </message>
     <message>
         <source>No result</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein Ergebnis</translation>
     </message>
     <message>
         <source>Not finished</source>
-        <translation type="unfinished"></translation>
+        <translation>Nicht im Ziel</translation>
     </message>
     <message>
         <source>Not in list</source>
-        <translation type="unfinished"></translation>
+        <translation>Nicht in der Liste</translation>
     </message>
     <message>
         <source>Not filmed</source>
-        <translation type="unfinished"></translation>
+        <translation>Nicht gefilmt</translation>
     </message>
     <message>
         <source>Average:</source>
-        <translation type="unfinished"></translation>
+        <translation>Mittel:</translation>
     </message>
     <message>
         <source>Average variation:</source>
-        <translation type="unfinished"></translation>
+        <translation>Mittlere Schwankung:</translation>
     </message>
     <message>
         <source>Total variation:</source>
-        <translation type="unfinished"></translation>
+        <translation>Gesamte Schwankung:</translation>
     </message>
     <message>
         <source>Average increase:</source>
-        <translation type="unfinished"></translation>
+        <translation>Mittlere Zunahme:</translation>
     </message>
     <message>
         <source>Total increase:</source>
-        <translation type="unfinished"></translation>
+        <translation>Gesamte Zunahme:</translation>
     </message>
     <message>
         <source>Lap time</source>
-        <translation type="unfinished"></translation>
+        <translation>Rundenzeit</translation>
     </message>
     <message>
         <source>Time in straight line</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeit geradeaus</translation>
     </message>
     <message>
         <source>Time in rotation</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeit in Drehung</translation>
     </message>
     <message>
         <source>Average speed</source>
-        <translation type="unfinished"></translation>
+        <translation>Mittleres Tempo</translation>
     </message>
     <message>
         <source>Maximum acceleration</source>
-        <translation type="unfinished"></translation>
+        <translation>Größte Beschleunigung</translation>
     </message>
     <message>
         <source>Average acceleration</source>
-        <translation type="unfinished"></translation>
+        <translation>Mittlere Beschleunigung</translation>
     </message>
     <message>
         <source>Average deacceleration</source>
-        <translation type="unfinished"></translation>
+        <translation>Mittlere Verzögerung</translation>
     </message>
     <message>
         <source>Roll movement</source>
-        <translation type="unfinished"></translation>
+        <translation>Rollbewegung</translation>
     </message>
     <message>
         <source>Roll (°)</source>
-        <translation type="unfinished"></translation>
+        <translation>Rollen (°)</translation>
     </message>
     <message>
         <source>Maximum force</source>
-        <translation type="unfinished"></translation>
+        <translation>Größte Kraft</translation>
     </message>
     <message>
         <source>Impulse (N s)</source>
-        <translation type="unfinished"></translation>
+        <translation>Impuls (N s)</translation>
     </message>
     <message>
         <source>Largest negative acceleration</source>
-        <translation type="unfinished"></translation>
+        <translation>Größte negative Beschleunigung</translation>
     </message>
     <message>
         <source>Negative acceleration (m/s2)</source>
-        <translation type="unfinished"></translation>
+        <translation>Negative Beschleunigung (m/s2)</translation>
     </message>
     <message>
         <source>Effective water phase</source>
-        <translation type="unfinished"></translation>
+        <translation>Wirksame Wasserphase</translation>
     </message>
     <message>
         <source>Rotation about the vertical axis</source>
-        <translation type="unfinished"></translation>
+        <translation>Drehung um die Hochachse</translation>
     </message>
     <message>
         <source>Turns to the left are above 0, turns to the right below.</source>
-        <translation type="unfinished"></translation>
+        <translation>Drehungen nach links liegen über 0, nach rechts darunter.</translation>
     </message>
     <message>
         <source>The film {} is left out: its name is no UTF-8 text.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Film {} ist ausgelassen: sein Name ist kein UTF-8-Text.</translation>
     </message>
     <message>
         <source>The folder {} cannot be read: {}</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Ordner {} ist nicht lesbar: {}</translation>
     </message>
     <message>
         <source>No video in {} carries the name {}. Nothing was written.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein Video in {} trägt den Namen {}. Nichts wurde geschrieben.</translation>
     </message>
     <message>
         <source>The file {} exists already. Say --replace to write a new one in its place.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei {} gibt es schon. Mit --replace wird an ihrer Stelle eine neue geschrieben.</translation>
     </message>
     <message>
         <source>This call needs the program that paints and makes films, which could not be started: {}</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieser Aufruf braucht das Programm, das zeichnet und Filme macht; es ließ sich nicht starten: {}</translation>
     </message>
     <message>
         <source>The file {} exists and is not the sample&apos;s. Choose another folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei {} gibt es, und sie gehört nicht zum Beispiel. Einen anderen Ordner wählen.</translation>
     </message>
     <message>
         <source>The file {} could not be written: {}</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei {} konnte nicht geschrieben werden: {}</translation>
     </message>
     <message>
         <source>The file {} is none of these tables and stays as it is. Nothing was written.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei {} ist keine dieser Tabellen und bleibt, wie sie ist. Nichts wurde geschrieben.</translation>
     </message>
     <message>
         <source>The folder {} could not be made: {}</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Ordner {} konnte nicht angelegt werden: {}</translation>
     </message>
     <message>
         <source>Line {}: {}, and was imported as it stands.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeile {}: {}; so importiert, wie sie steht.</translation>
     </message>
     <message>
         <source>There is no run {}: the file has {}, counted from 0.</source>
-        <translation type="unfinished"></translation>
+        <translation>Einen Lauf {} gibt es nicht: die Datei hat {}, gezählt ab 0.</translation>
     </message>
     <message>
         <source>No run has the category &quot;{}&quot;.{}</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein Lauf hat die Kategorie „{}“.{}</translation>
     </message>
     <message>
         <source>Nobody of the team races in &quot;{}&quot;. Categories: {}.</source>
-        <translation type="unfinished"></translation>
+        <translation>Niemand im Team fährt in „{}“. Kategorien: {}.</translation>
     </message>
     <message>
         <source>Several athletes of the team are called {}: their runs cannot be told apart.</source>
-        <translation type="unfinished"></translation>
+        <translation>Mehrere Athleten des Teams heißen {}: ihre Läufe sind nicht zu unterscheiden.</translation>
     </message>
     <message>
         <source>The file {} is of an older version, {}, and was not changed. Bring it to the current one first: kavela upgrade {}</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei {} ist von einer älteren Version, {}, und wurde nicht geändert. Erst auf die heutige bringen: kavela upgrade {}</translation>
     </message>
     <message>
         <source>The time of {} ({}) in {} is 0; a missing result should be 999.9.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Zeit von {} ({}) in {} ist 0; ein fehlendes Ergebnis sollte 999.9 sein.</translation>
     </message>
     <message>
         <source>No athlete has a bonus of kind {}.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein Athlet hat einen Bonus der Art {}.</translation>
     </message>
     <message>
         <source>The list {} is no UTF-8 text and was read as Latin-1: look at the names.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Liste {} ist kein UTF-8-Text und wurde als Latin-1 gelesen: die Namen prüfen.</translation>
     </message>
     <message>
         <source>The list {} could not be read: {}</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Liste {} konnte nicht gelesen werden: {}</translation>
     </message>
     <message>
         <source>{} of {} skipped.</source>
-        <translation type="unfinished"></translation>
+        <translation>{} von {} übersprungen.</translation>
     </message>
     <message>
         <source>Line {} brought the category {} into the selection{}</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeile {} brachte die Kategorie {} in die Nominierung{}</translation>
     </message>
     <message>
         <source>No run has the {} &quot;{}&quot;. There is {}.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein Lauf hat als {} „{}“. Es gibt {}.</translation>
     </message>
     <message>
         <source>There is no file and no command {}. Run with --help for the commands.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt keine Datei und keinen Befehl {}. Mit --help kommen die Befehle.</translation>
     </message>
     <message>
         <source>The desktop program could not be started: {}</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Programmfenster ließ sich nicht starten: {}</translation>
     </message>
     <message>
         <source>{}: this is its {}; it carries {} too (--sheet).</source>
-        <translation type="unfinished"></translation>
+        <translation>{}: das ist: {}; enthalten ist auch {} (--sheet).</translation>
     </message>
     <message>
         <source>Line {}, {}: perhaps {}; not joined.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeile {}, {}: vielleicht {}; nicht verbunden.</translation>
     </message>
     <message>
         <source>{}: this is no team: {}</source>
-        <translation type="unfinished"></translation>
+        <translation>{}: das ist kein Team: {}</translation>
     </message>
     <message>
         <source>The team has no athlete {}.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Team hat keinen Athleten {}.</translation>
     </message>
     <message>
         <source>{} does not race in {}. Categories: {}.</source>
-        <translation type="unfinished"></translation>
+        <translation>{} fährt nicht in {}. Kategorien: {}.</translation>
     </message>
     <message>
         <source>The file could not be read: {}</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei konnte nicht gelesen werden: {}</translation>
     </message>
     <message>
         <source>There is no number with the id &quot;{}&quot; here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Hier gibt es keine Zahl mit der Kennung „{}“.</translation>
     </message>
     <message>
         <source>losing</source>
-        <translation type="unfinished"></translation>
+        <translation>verliert</translation>
     </message>
     <message>
         <source>gaining</source>
-        <translation type="unfinished"></translation>
+        <translation>gewinnt</translation>
     </message>
     <message>
         <source>unclear</source>
-        <translation type="unfinished"></translation>
+        <translation>unklar</translation>
     </message>
     <message>
         <source>slower</source>
-        <translation type="unfinished"></translation>
+        <translation>langsamer</translation>
     </message>
     <message>
         <source>circle: heats, triangle: semifinal, square: final</source>
-        <translation type="unfinished"></translation>
+        <translation>Kreis: Vorlauf, Dreieck: Halbfinale, Quadrat: Finale</translation>
     </message>
     <message>
         <source>{:.0f} to {:.0f}</source>
-        <translation type="unfinished"></translation>
+        <translation>{:.0f} bis {:.0f}</translation>
     </message>
     <message>
         <source>of the races whose result is known</source>
-        <translation type="unfinished"></translation>
+        <translation>der Rennen mit bekanntem Ergebnis</translation>
     </message>
     <message>
         <source>too few runs to tell what is chance</source>
-        <translation type="unfinished"></translation>
+        <translation>zu wenige Läufe, um zu sagen, was Zufall ist</translation>
     </message>
     <message>
         <source>chance from run to run {:.1f} %, all {:.1f} %; {:.2f} % matters</source>
-        <translation type="unfinished"></translation>
+        <translation>Zufall von Lauf zu Lauf {:.1f} %, alle {:.1f} %; {:.2f} % zählen</translation>
     </message>
     <message>
         <source>none</source>
@@ -4894,169 +4894,169 @@
     </message>
     <message>
         <source>Table</source>
-        <translation type="unfinished"></translation>
+        <translation>Tabelle</translation>
     </message>
     <message>
         <source>One-repetition maximum</source>
-        <translation type="unfinished"></translation>
+        <translation>Einer-Maximum</translation>
     </message>
     <message>
         <source>Prints what a shell completes calls by</source>
-        <translation type="unfinished"></translation>
+        <translation>Gibt aus, womit eine Shell Aufrufe ergänzt</translation>
     </message>
     <message>
         <source>Prints the page of the manual</source>
-        <translation type="unfinished"></translation>
+        <translation>Gibt die Handbuchseite aus</translation>
     </message>
     <message>
         <source>The page cannot be written over a file that it is made from.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Seite kann nicht über eine Datei geschrieben werden, aus der sie entsteht.</translation>
     </message>
     <message>
         <source>Writes the page of an athlete for a telephone, one HTML file</source>
-        <translation type="unfinished"></translation>
+        <translation>Schreibt die Seite eines Athleten fürs Telefon, eine HTML-Datei</translation>
     </message>
     <message>
         <source>Split files (.kvx) of any release, and folders of them; several make a season</source>
-        <translation type="unfinished"></translation>
+        <translation>Zwischenzeitdateien (.kvx) jeder Version und Ordner damit; mehrere ergeben eine Saison</translation>
     </message>
     <message>
         <source>Whose page; a crew as &quot;A / B&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>Wessen Seite; eine Besatzung als „A / B“</translation>
     </message>
     <message>
         <source>File to write, ending in .html</source>
-        <translation type="unfinished"></translation>
+        <translation>Zu schreibende Datei, endend auf .html</translation>
     </message>
     <message>
         <source>Cut the athlete&apos;s runs out of their films into the folder of the page</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Läufe des Athleten aus ihren Filmen in den Ordner der Seite schneiden</translation>
     </message>
     <message>
         <source>Shares a folder with a server, both ways</source>
-        <translation type="unfinished"></translation>
+        <translation>Teilt einen Ordner mit einem Server, in beide Richtungen</translation>
     </message>
     <message>
         <source>The folder on this computer</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Ordner auf diesem Rechner</translation>
     </message>
     <message>
         <source>Address of the folder on the server</source>
-        <translation type="unfinished"></translation>
+        <translation>Adresse des Ordners auf dem Server</translation>
     </message>
     <message>
         <source>User name for the server</source>
-        <translation type="unfinished"></translation>
+        <translation>Benutzername für den Server</translation>
     </message>
     <message>
         <source>Only print what would be done</source>
-        <translation type="unfinished"></translation>
+        <translation>Nur ausgeben, was getan würde</translation>
     </message>
     <message>
         <source>Do not ask before anything is done</source>
-        <translation type="unfinished"></translation>
+        <translation>Nicht fragen, ehe etwas getan wird</translation>
     </message>
     <message>
         <source>Delete on each side what was deleted on the other and not changed since</source>
-        <translation type="unfinished"></translation>
+        <translation>Auf jeder Seite löschen, was auf der anderen gelöscht und seither nicht geändert wurde</translation>
     </message>
     <message>
         <source>Print JSON; nothing is asked</source>
-        <translation type="unfinished"></translation>
+        <translation>JSON ausgeben; nichts wird gefragt</translation>
     </message>
     <message>
         <source>Shows what stood on a line of a film over time, as a picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeigt als Bild, was über die Zeit auf einer Linie eines Films stand</translation>
     </message>
     <message>
         <source>Film of a camera that stands still</source>
-        <translation type="unfinished"></translation>
+        <translation>Film einer stehenden Kamera</translation>
     </message>
     <message>
         <source>X1,Y1,X2,Y2: the ends of the line in pixels</source>
-        <translation type="unfinished"></translation>
+        <translation>X1,Y1,X2,Y2: die Enden der Linie in Pixeln</translation>
     </message>
     <message>
         <source>Picture to write (.png)</source>
-        <translation type="unfinished"></translation>
+        <translation>Zu schreibendes Bild (.png)</translation>
     </message>
     <message>
         <source>Print the frame and stamp of every column as JSON</source>
-        <translation type="unfinished"></translation>
+        <translation>Bild und Zeitstempel jeder Spalte als JSON ausgeben</translation>
     </message>
     <message>
         <source>Look for boats that cross the line</source>
-        <translation type="unfinished"></translation>
+        <translation>Boote suchen, die die Linie überqueren</translation>
     </message>
     <message>
         <source>X,Y,WIDTH,HEIGHT: a box round one boat, for --proposals</source>
-        <translation type="unfinished"></translation>
+        <translation>X,Y,WIDTH,HEIGHT: ein Kasten um ein Boot, für --proposals</translation>
     </message>
     <message>
         <source>Where boats come from: left or right of the line</source>
-        <translation type="unfinished"></translation>
+        <translation>Woher Boote kommen: left oder right der Linie</translation>
     </message>
     <message>
         <source>Nothing to do: name a picture with -o, or ask for --json or --proposals.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nichts zu tun: mit -o ein Bild nennen oder --json oder --proposals verlangen.</translation>
     </message>
     <message>
         <source>--proposals needs a box round one boat: --boat X,Y,WIDTH,HEIGHT.</source>
-        <translation type="unfinished"></translation>
+        <translation>--proposals braucht einen Kasten um ein Boot: --boat X,Y,WIDTH,HEIGHT.</translation>
     </message>
     <message>
         <source>Follows a boat, gate or head through a film, as a table</source>
-        <translation type="unfinished"></translation>
+        <translation>Verfolgt ein Boot, ein Tor oder einen Kopf durch einen Film, als Tabelle</translation>
     </message>
     <message>
         <source>Film to look at</source>
-        <translation type="unfinished"></translation>
+        <translation>Zu untersuchender Film</translation>
     </message>
     <message>
         <source>What is followed: X,Y,WIDTH,HEIGHT in pixels of the picture, from its upper left corner</source>
-        <translation type="unfinished"></translation>
+        <translation>Was verfolgt wird: X,Y,WIDTH,HEIGHT in Pixeln des Bildes, von links oben</translation>
     </message>
     <message>
         <source>Second of the film at which the box was drawn</source>
-        <translation type="unfinished"></translation>
+        <translation>Sekunde des Films, in der der Kasten gezeichnet wurde</translation>
     </message>
     <message>
         <source>Second at which following ends; otherwise where it is lost, or the film ends</source>
-        <translation type="unfinished"></translation>
+        <translation>Sekunde, in der das Verfolgen endet; sonst, wo es abreißt oder der Film endet</translation>
     </message>
     <message>
         <source>Known points on the water (.json), for metres and speeds</source>
-        <translation type="unfinished"></translation>
+        <translation>Bekannte Punkte auf dem Wasser (.json), für Meter und Tempo</translation>
     </message>
     <message>
         <source>File to write (.csv)</source>
-        <translation type="unfinished"></translation>
+        <translation>Zu schreibende Datei (.csv)</translation>
     </message>
     <message>
         <source>In some frames the camera&apos;s motion is not known: too little of the picture stands still. They have no steadied place.</source>
-        <translation type="unfinished"></translation>
+        <translation>In einigen Bildern ist die Bewegung der Kamera nicht bekannt: zu wenig vom Bild steht still. Sie haben keinen beruhigten Ort.</translation>
     </message>
     <message>
         <source>Metres hold for what is on the water; a head is above it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Meter gelten für das, was auf dem Wasser ist; ein Kopf ist darüber.</translation>
     </message>
     <message>
         <source>Two known points give a scale only: lengths and speeds hold near them and along the line between them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zwei bekannte Punkte geben nur einen Maßstab: Längen und Tempo gelten in ihrer Nähe und auf der Linie zwischen ihnen.</translation>
     </message>
     <message>
         <source>What was deleted on one side stays on the other: --delete deletes it there.</source>
-        <translation type="unfinished"></translation>
+        <translation>Was auf einer Seite gelöscht wurde, bleibt auf der anderen: --delete löscht es dort.</translation>
     </message>
     <message>
         <source>The server wants a user name: --user tells it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Server will einen Benutzernamen: --user nennt ihn.</translation>
     </message>
     <message numerus="yes">
         <source>{} columns</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>{} Spalte</numerusform>
+            <numerusform>{} Spalten</numerusform>
         </translation>
     </message>
 </context>
@@ -5276,7 +5276,7 @@
     </message>
     <message>
         <source>Tag</source>
-        <translation type="unfinished"></translation>
+        <translation>Markierung</translation>
     </message>
     <message>
         <source>Imported “%1”</source>
@@ -5364,7 +5364,7 @@
     </message>
     <message>
         <source>By</source>
-        <translation type="unfinished"></translation>
+        <translation>Von</translation>
     </message>
     <message>
         <source>What</source>
@@ -5388,7 +5388,7 @@
     </message>
     <message>
         <source>A run, s</source>
-        <translation type="unfinished"></translation>
+        <translation>Je Lauf, s</translation>
     </message>
     <message>
         <source>No row loses time for sure.</source>
@@ -5428,7 +5428,7 @@
     </message>
     <message>
         <source>not known</source>
-        <translation type="unfinished"></translation>
+        <translation>nicht bekannt</translation>
     </message>
     <message>
         <source>a race without a name</source>
@@ -5624,7 +5624,7 @@
     </message>
     <message>
         <source>Missed</source>
-        <translation type="unfinished"></translation>
+        <translation>Verfehlt</translation>
     </message>
     <message>
         <source>Touch rate</source>
@@ -5656,7 +5656,7 @@
     </message>
     <message>
         <source>%1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 von %2</translation>
     </message>
     <message>
         <source>(not given)</source>
@@ -5760,11 +5760,11 @@
     </message>
     <message>
         <source>Sessions</source>
-        <translation type="unfinished"></translation>
+        <translation>Einheiten</translation>
     </message>
     <message>
         <source>Quantity</source>
-        <translation type="unfinished"></translation>
+        <translation>Menge</translation>
     </message>
     <message>
         <source>What the sessions add up to, in the unit that they are written in</source>
@@ -5800,7 +5800,7 @@
     </message>
     <message>
         <source>Session</source>
-        <translation type="unfinished"></translation>
+        <translation>Einheit</translation>
     </message>
     <message>
         <source>Missed gates</source>
@@ -5824,7 +5824,7 @@
     </message>
     <message>
         <source>Medals</source>
-        <translation type="unfinished"></translation>
+        <translation>Medaillen</translation>
     </message>
     <message>
         <source>Finals</source>
@@ -5844,7 +5844,7 @@
     </message>
     <message>
         <source>too few</source>
-        <translation type="unfinished"></translation>
+        <translation>zu wenige</translation>
     </message>
     <message>
         <source>Change behind, %</source>
@@ -5904,7 +5904,7 @@
     </message>
     <message>
         <source>Verdict</source>
-        <translation type="unfinished"></translation>
+        <translation>Befund</translation>
     </message>
     <message>
         <source>Too few runs of everybody to tell a trend: four over two months are needed.</source>
@@ -5924,7 +5924,7 @@
     </message>
     <message>
         <source>Met</source>
-        <translation type="unfinished"></translation>
+        <translation>Getroffen</translation>
     </message>
     <message>
         <source>Won</source>
@@ -5984,7 +5984,7 @@
     </message>
     <message>
         <source>Rank</source>
-        <translation type="unfinished"></translation>
+        <translation>Rang</translation>
     </message>
     <message>
         <source>Behind the winner, %</source>
@@ -6412,7 +6412,7 @@
     </message>
     <message>
         <source>Athletes</source>
-        <translation type="unfinished"></translation>
+        <translation>Athleten</translation>
     </message>
     <message>
         <source>Selection %1</source>
@@ -6540,7 +6540,7 @@
     </message>
     <message>
         <source>Tests</source>
-        <translation type="unfinished"></translation>
+        <translation>Tests</translation>
     </message>
     <message>
         <source>Lap, sprint and eight tests on the water, compared.</source>
@@ -7257,7 +7257,7 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>Tag</source>
-        <translation type="unfinished"></translation>
+        <translation>Markierung</translation>
     </message>
     <message>
         <source>Lag</source>
@@ -7293,7 +7293,7 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>None</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine</translation>
     </message>
     <message>
         <source>Attach the film of a camera that stood at the course.</source>
@@ -8210,11 +8210,11 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>too few</source>
-        <translation type="unfinished"></translation>
+        <translation>zu wenige</translation>
     </message>
     <message>
         <source>Medals</source>
-        <translation type="unfinished"></translation>
+        <translation>Medaillen</translation>
     </message>
     <message>
         <source>Finals</source>
@@ -8253,7 +8253,7 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>Race</source>
-        <translation type="unfinished"></translation>
+        <translation>Rennen</translation>
     </message>
     <message>
         <source>Gate</source>
@@ -8273,7 +8273,7 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>Rank</source>
-        <translation type="unfinished"></translation>
+        <translation>Rang</translation>
     </message>
     <message>
         <source>As it was</source>
@@ -8375,7 +8375,7 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>Session</source>
-        <translation type="unfinished"></translation>
+        <translation>Einheit</translation>
     </message>
     <message>
         <source>Category</source>
@@ -8391,7 +8391,7 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>Comments</source>
-        <translation type="unfinished"></translation>
+        <translation>Kommentare</translation>
     </message>
     <message>
         <source>Such as 4 8 12</source>
@@ -8430,7 +8430,7 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>Text</source>
-        <translation type="unfinished"></translation>
+        <translation>Text</translation>
     </message>
     <message>
         <source>Words there</source>
@@ -9233,7 +9233,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>%1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 von %2</translation>
     </message>
     <message>
         <source>%1 counts again</source>
@@ -9436,7 +9436,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Rank</source>
-        <translation type="unfinished"></translation>
+        <translation>Rang</translation>
     </message>
     <message>
         <source>Gap to the best</source>
@@ -9803,7 +9803,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     <name>kavela::desktop::EightForm</name>
     <message>
         <source>Split %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Zwischenzeit %1</translation>
     </message>
     <message>
         <source>&amp;Category</source>
@@ -11028,7 +11028,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Penalties by gate</source>
-        <translation type="unfinished"></translation>
+        <translation>Strafen nach Toren</translation>
     </message>
     <message>
         <source>Runs with a penalty at the gate, of %1</source>
@@ -11072,7 +11072,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Missed</source>
-        <translation type="unfinished"></translation>
+        <translation>Verfehlt</translation>
     </message>
     <message>
         <source>missed</source>
@@ -11099,7 +11099,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>In</source>
-        <translation type="unfinished"></translation>
+        <translation>In</translation>
     </message>
     <message>
         <source>Out</source>
@@ -11154,7 +11154,7 @@ T touch, F missed, 0 clean; N and P next and previous gate</source>
     <name>kavela::desktop::Gauge</name>
     <message>
         <source>not known</source>
-        <translation type="unfinished"></translation>
+        <translation>nicht bekannt</translation>
     </message>
 </context>
 <context>
@@ -11261,7 +11261,7 @@ T touch, F missed, 0 clean; N and P next and previous gate</source>
     </message>
     <message>
         <source>Group %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Gruppe %1</translation>
     </message>
     <message>
         <source>%1 of %2 reached</source>
@@ -11846,11 +11846,11 @@ Press Insert to add one.</source>
     </message>
     <message>
         <source>Best</source>
-        <translation type="unfinished"></translation>
+        <translation>Beste</translation>
     </message>
     <message>
         <source>By</source>
-        <translation type="unfinished"></translation>
+        <translation>Von</translation>
     </message>
     <message>
         <source>Ideal run %1 s</source>
@@ -11935,7 +11935,7 @@ Penalties are left out.</source>
     <name>kavela::desktop::IntervalChart</name>
     <message>
         <source>too few</source>
-        <translation type="unfinished"></translation>
+        <translation>zu wenige</translation>
     </message>
     <message>
         <source>%1 to %2</source>
@@ -12060,7 +12060,7 @@ Penalties are left out.</source>
     <name>kavela::desktop::IntervalsPanel</name>
     <message>
         <source>Session</source>
-        <translation type="unfinished"></translation>
+        <translation>Einheit</translation>
     </message>
     <message>
         <source>Make-up</source>
@@ -13258,7 +13258,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>%1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 von %2</translation>
     </message>
     <message>
         <source>Reading %1…</source>
@@ -13348,7 +13348,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Comments</source>
-        <translation type="unfinished"></translation>
+        <translation>Kommentare</translation>
     </message>
     <message>
         <source>Ways</source>
@@ -13418,7 +13418,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>%1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 von %2</translation>
     </message>
     <message>
         <source>&amp;Close</source>
@@ -14480,7 +14480,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Athletes</source>
-        <translation type="unfinished"></translation>
+        <translation>Athleten</translation>
     </message>
     <message>
         <source>Planning</source>
@@ -14759,7 +14759,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Race</source>
-        <translation type="unfinished"></translation>
+        <translation>Rennen</translation>
     </message>
     <message>
         <source>Place</source>
@@ -14775,7 +14775,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Rank</source>
-        <translation type="unfinished"></translation>
+        <translation>Rang</translation>
     </message>
     <message>
         <source>Total</source>
@@ -14791,7 +14791,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>not known</source>
-        <translation type="unfinished"></translation>
+        <translation>nicht bekannt</translation>
     </message>
     <message>
         <source>Behind, %</source>
@@ -15645,7 +15645,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Missed</source>
-        <translation type="unfinished"></translation>
+        <translation>Verfehlt</translation>
     </message>
     <message>
         <source>Missed gates</source>
@@ -15876,7 +15876,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     <name>kavela::desktop::RecordingOfRun</name>
     <message>
         <source>recording</source>
-        <translation type="unfinished"></translation>
+        <translation>Aufzeichnung</translation>
     </message>
     <message>
         <source>recording taken off</source>
@@ -16724,7 +16724,7 @@ Eine Datei wählen.</translation>
     <name>kavela::desktop::SeasonActions</name>
     <message>
         <source>Athletes</source>
-        <translation type="unfinished"></translation>
+        <translation>Athleten</translation>
     </message>
     <message>
         <source>&amp;Open a team…</source>
@@ -16894,7 +16894,7 @@ Eine Datei wählen.</translation>
     </message>
     <message>
         <source>Rank</source>
-        <translation type="unfinished"></translation>
+        <translation>Rang</translation>
     </message>
     <message>
         <source>Points</source>
@@ -16941,11 +16941,11 @@ Eine Datei wählen.</translation>
     </message>
     <message>
         <source>too few</source>
-        <translation type="unfinished"></translation>
+        <translation>zu wenige</translation>
     </message>
     <message>
         <source>not known</source>
-        <translation type="unfinished"></translation>
+        <translation>nicht bekannt</translation>
     </message>
     <message>
         <source>No whole run of this athlete can be held against the reference.</source>
@@ -16961,7 +16961,7 @@ Eine Datei wählen.</translation>
     </message>
     <message>
         <source>By</source>
-        <translation type="unfinished"></translation>
+        <translation>Von</translation>
     </message>
     <message>
         <source>What</source>
@@ -17005,7 +17005,7 @@ Eine Datei wählen.</translation>
     </message>
     <message>
         <source>Verdict</source>
-        <translation type="unfinished"></translation>
+        <translation>Befund</translation>
     </message>
     <message>
         <source>What the interval says: losing where all of it is above 0</source>
@@ -17090,7 +17090,7 @@ Eine Datei wählen.</translation>
     </message>
     <message>
         <source>Semifinal to final</source>
-        <translation type="unfinished"></translation>
+        <translation>Halbfinale zu Finale</translation>
     </message>
     <message>
         <source>Heats to final, percent behind</source>
@@ -17118,11 +17118,11 @@ Eine Datei wählen.</translation>
     </message>
     <message>
         <source>Head to head</source>
-        <translation type="unfinished"></translation>
+        <translation>Direkter Vergleich</translation>
     </message>
     <message>
         <source>Medals and finals</source>
-        <translation type="unfinished"></translation>
+        <translation>Medaillen und Finals</translation>
     </message>
     <message>
         <source>How far</source>
@@ -17130,7 +17130,7 @@ Eine Datei wählen.</translation>
     </message>
     <message>
         <source>Medals</source>
-        <translation type="unfinished"></translation>
+        <translation>Medaillen</translation>
     </message>
     <message>
         <source>Finals</source>
@@ -17142,7 +17142,7 @@ Eine Datei wählen.</translation>
     </message>
     <message>
         <source>Expected places</source>
-        <translation type="unfinished"></translation>
+        <translation>Erwartete Plätze</translation>
     </message>
     <message>
         <source>What it takes</source>
@@ -17150,7 +17150,7 @@ Eine Datei wählen.</translation>
     </message>
     <message>
         <source>Athletes</source>
-        <translation type="unfinished"></translation>
+        <translation>Athleten</translation>
     </message>
     <message>
         <source>Phase</source>
@@ -17385,7 +17385,7 @@ Eine Datei wählen.</translation>
     </message>
     <message>
         <source>%1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 von %2</translation>
     </message>
     <message>
         <source>Section</source>
@@ -17575,7 +17575,7 @@ Eine Datei wählen.</translation>
     <name>kavela::desktop::SelectionEdits</name>
     <message>
         <source>Race</source>
-        <translation type="unfinished"></translation>
+        <translation>Rennen</translation>
     </message>
     <message>
         <source>Race location</source>
@@ -17745,7 +17745,7 @@ Eine Datei wählen.</translation>
     </message>
     <message>
         <source>Categories</source>
-        <translation type="unfinished"></translation>
+        <translation>Kategorien</translation>
     </message>
     <message>
         <source>Bonus</source>
@@ -18108,7 +18108,7 @@ Eine Datei wählen.</translation>
     <name>kavela::desktop::SessionWindow</name>
     <message>
         <source>Session</source>
-        <translation type="unfinished"></translation>
+        <translation>Einheit</translation>
     </message>
     <message>
         <source>Sessions (*.bms);;Sessions (*.sbm)</source>
@@ -18251,7 +18251,7 @@ Eine Datei wählen.</translation>
     </message>
     <message>
         <source>None</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine</translation>
     </message>
     <message>
         <source>Look for a newer version once a day</source>
@@ -18720,7 +18720,7 @@ and %1 more</source>
     </message>
     <message>
         <source>Split %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Zwischenzeit %1</translation>
     </message>
     <message>
         <source>%1: %2</source>
@@ -19095,7 +19095,7 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     <name>kavela::desktop::StrategyPage</name>
     <message>
         <source>best</source>
-        <translation type="unfinished"></translation>
+        <translation>beste</translation>
     </message>
     <message>
         <source>way of the run</source>
@@ -19679,7 +19679,7 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     <name>kavela::desktop::TagMode</name>
     <message>
         <source>Tag</source>
-        <translation type="unfinished"></translation>
+        <translation>Markierung</translation>
     </message>
     <message>
         <source>There is no film to tag.</source>
@@ -19710,7 +19710,7 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>Tag</source>
-        <translation type="unfinished"></translation>
+        <translation>Markierung</translation>
     </message>
     <message>
         <source>Play just the tagged part</source>
@@ -19849,7 +19849,7 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>Final position</source>
-        <translation type="unfinished"></translation>
+        <translation>Endplatz</translation>
     </message>
     <message>
         <source>&amp;Take over 1 line</source>
@@ -20000,7 +20000,7 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     <name>kavela::desktop::TakeRunDialog</name>
     <message>
         <source>%1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 von %2</translation>
     </message>
     <message>
         <source>Athlete</source>
@@ -20655,7 +20655,7 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>Tests</source>
-        <translation type="unfinished"></translation>
+        <translation>Tests</translation>
     </message>
     <message>
         <source>Charts</source>
@@ -20667,7 +20667,7 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>Table</source>
-        <translation type="unfinished"></translation>
+        <translation>Tabelle</translation>
     </message>
     <message>
         <source>One ticked test is of another kind and left out here.</source>
@@ -20886,7 +20886,7 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>%1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 von %2</translation>
     </message>
     <message>
         <source>Run</source>
@@ -21275,7 +21275,7 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>Pos</source>
-        <translation type="unfinished"></translation>
+        <translation>Pl</translation>
     </message>
     <message>
         <source>Athlete</source>
@@ -21468,7 +21468,7 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>In</source>
-        <translation type="unfinished"></translation>
+        <translation>In</translation>
     </message>
     <message>
         <source>Out</source>
@@ -21753,23 +21753,23 @@ Add one by hand with Ctrl+N, or drop split files and recordings here.</source>
     <name>kavela::desktop::WeekGrid</name>
     <message>
         <source>Morning</source>
-        <translation type="unfinished"></translation>
+        <translation>Morgen</translation>
     </message>
     <message>
         <source>Afternoon</source>
-        <translation type="unfinished"></translation>
+        <translation>Nachmittag</translation>
     </message>
     <message>
         <source>Evening</source>
-        <translation type="unfinished"></translation>
+        <translation>Abend</translation>
     </message>
     <message>
         <source>Any time</source>
-        <translation type="unfinished"></translation>
+        <translation>Jederzeit</translation>
     </message>
     <message>
         <source>Week</source>
-        <translation type="unfinished"></translation>
+        <translation>Woche</translation>
     </message>
     <message>
         <source>On no day of this week</source>
@@ -21777,7 +21777,7 @@ Add one by hand with Ctrl+N, or drop split files and recordings here.</source>
     </message>
     <message>
         <source>Session</source>
-        <translation type="unfinished"></translation>
+        <translation>Einheit</translation>
     </message>
 </context>
 <context>
@@ -21948,7 +21948,7 @@ Add one by hand with Ctrl+N, or drop split files and recordings here.</source>
     </message>
     <message>
         <source>Week</source>
-        <translation type="unfinished"></translation>
+        <translation>Woche</translation>
     </message>
     <message>
         <source>Event</source>
@@ -21956,7 +21956,7 @@ Add one by hand with Ctrl+N, or drop split files and recordings here.</source>
     </message>
     <message>
         <source>Tests</source>
-        <translation type="unfinished"></translation>
+        <translation>Tests</translation>
     </message>
 </context>
 </TS>
