@@ -5,11 +5,11 @@
     <name></name>
     <message>
         <source>Selection results</source>
-        <translation type="unfinished"></translation>
+        <translation>Ergebnisse der Nominierung</translation>
     </message>
     <message>
         <source>Selection results xTimes</source>
-        <translation type="unfinished"></translation>
+        <translation>Ergebnisse der Nominierung, xTimes</translation>
     </message>
     <message>
         <source>Category</source>
@@ -21,7 +21,7 @@
     </message>
     <message>
         <source>Result</source>
-        <translation type="unfinished"></translation>
+        <translation>Ergebnis</translation>
     </message>
     <message>
         <source>Athlete</source>
@@ -29,52 +29,52 @@
     </message>
     <message>
         <source>not in the selection</source>
-        <translation type="unfinished"></translation>
+        <translation>nicht in der Nominierung</translation>
     </message>
     <message>
         <source>Leave out</source>
-        <translation type="unfinished"></translation>
+        <translation>Auslassen</translation>
     </message>
     <message>
         <source>Add %1 to the selection</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 zur Nominierung hinzufügen</translation>
     </message>
 </context>
 <context>
     <name>AthletePanel</name>
     <message>
         <source>An athlete needs a name.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Athlet braucht einen Namen.</translation>
     </message>
     <message>
         <source>“%1” is in the team already.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ ist schon im Team.</translation>
     </message>
 </context>
 <context>
     <name>ChartExport</name>
     <message>
         <source>Picture (*.png)</source>
-        <translation type="unfinished"></translation>
+        <translation>Bild (*.png)</translation>
     </message>
     <message>
         <source>Drawing (*.svg)</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeichnung (*.svg)</translation>
     </message>
     <message>
         <source>Table (*.csv)</source>
-        <translation type="unfinished"></translation>
+        <translation>Tabelle (*.csv)</translation>
     </message>
     <message>
         <source>Save chart</source>
-        <translation type="unfinished"></translation>
+        <translation>Diagramm speichern</translation>
     </message>
 </context>
 <context>
     <name>CompareWindow</name>
     <message>
         <source>Film %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Film %1</translation>
     </message>
 </context>
 <context>
@@ -100,11 +100,11 @@
     <name>EightTest</name>
     <message>
         <source>Total – · %1 of %2 splits are timed</source>
-        <translation type="unfinished"></translation>
+        <translation>Gesamt – · %1 von %2 Zwischenzeiten sind gestoppt</translation>
     </message>
     <message>
         <source>Total %1 s · standard deviation %2 s</source>
-        <translation type="unfinished"></translation>
+        <translation>Gesamt %1 s · Standardabweichung %2 s</translation>
     </message>
 </context>
 <context>
@@ -118,41 +118,41 @@
     <name>IntervalTexts</name>
     <message>
         <source>A duration is written as seconds or as 1:30, up to a day</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Dauer sind Sekunden oder wie 1:30, bis zu einem Tag</translation>
     </message>
     <message>
         <source>Sets and repetitions are whole numbers from 0 to 9999</source>
-        <translation type="unfinished"></translation>
+        <translation>Sätze und Wiederholungen sind ganze Zahlen von 0 bis 9999</translation>
     </message>
     <message>
         <source>Volume and intensity are numbers such as 4.5</source>
-        <translation type="unfinished"></translation>
+        <translation>Umfang und Intensität sind Zahlen wie 4.5</translation>
     </message>
     <message>
         <source>, rest %1</source>
-        <translation type="unfinished"></translation>
+        <translation>, Pause %1</translation>
     </message>
     <message>
         <source>%1 in all, %2 of it work; repetitions: %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 im Ganzen, davon %2 Arbeit; Wiederholungen: %3</translation>
     </message>
 </context>
 <context>
     <name>KeyOverlay</name>
     <message>
         <source>In the part with the focus</source>
-        <translation type="unfinished"></translation>
+        <translation>Im Teil mit dem Fokus</translation>
     </message>
 </context>
 <context>
     <name>ListedTest</name>
     <message>
         <source>No name</source>
-        <translation type="unfinished"></translation>
+        <translation>Ohne Namen</translation>
     </message>
     <message>
         <source>Lap test</source>
-        <translation type="unfinished"></translation>
+        <translation>Rundentest</translation>
     </message>
     <message>
         <source>Sprint</source>
@@ -160,82 +160,82 @@
     </message>
     <message>
         <source>Eight test</source>
-        <translation type="unfinished"></translation>
+        <translation>Achtertest</translation>
     </message>
     <message>
         <source>Lap</source>
-        <translation type="unfinished"></translation>
+        <translation>Runde</translation>
     </message>
     <message>
         <source>Eight</source>
-        <translation type="unfinished"></translation>
+        <translation>Acht</translation>
     </message>
 </context>
 <context>
     <name>MeasureCharts</name>
     <message>
         <source>below what is usual</source>
-        <translation type="unfinished"></translation>
+        <translation>unter dem Üblichen</translation>
     </message>
     <message>
         <source>within what is usual</source>
-        <translation type="unfinished"></translation>
+        <translation>im Rahmen des Üblichen</translation>
     </message>
     <message>
         <source>above what is usual</source>
-        <translation type="unfinished"></translation>
+        <translation>über dem Üblichen</translation>
     </message>
     <message>
         <source>Weight and body fat</source>
-        <translation type="unfinished"></translation>
+        <translation>Gewicht und Körperfett</translation>
     </message>
     <message>
         <source>Body fat (%)</source>
-        <translation type="unfinished"></translation>
+        <translation>Körperfett (%)</translation>
     </message>
     <message>
         <source>Weight</source>
-        <translation type="unfinished"></translation>
+        <translation>Gewicht</translation>
     </message>
     <message>
         <source>Body fat</source>
-        <translation type="unfinished"></translation>
+        <translation>Körperfett</translation>
     </message>
     <message>
         <source>Weight (kg)</source>
-        <translation type="unfinished"></translation>
+        <translation>Gewicht (kg)</translation>
     </message>
     <message>
         <source>Add a weight or body fat to see how it goes through the season.</source>
-        <translation type="unfinished"></translation>
+        <translation>Gewicht oder Körperfett hinzufügen, um den Verlauf über die Saison zu sehen.</translation>
     </message>
     <message>
         <source>Usual: mean ± one standard deviation of the four weeks before</source>
-        <translation type="unfinished"></translation>
+        <translation>Üblich: Mittel ± eine Standardabweichung der vier Wochen davor</translation>
     </message>
     <message>
         <source>Each day</source>
-        <translation type="unfinished"></translation>
+        <translation>Jeder Tag</translation>
     </message>
     <message>
         <source>Seven-day mean</source>
-        <translation type="unfinished"></translation>
+        <translation>Sieben-Tage-Mittel</translation>
     </message>
     <message>
         <source>Usual</source>
-        <translation type="unfinished"></translation>
+        <translation>Üblich</translation>
     </message>
     <message>
         <source>Week to %1: mean %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Woche bis %1: Mittel %2</translation>
     </message>
     <message>
         <source>%1. What is usual is known after seven measured days of the 28 before.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1. Was üblich ist, steht fest nach sieben gemessenen Tagen von den 28 davor.</translation>
     </message>
     <message>
         <source>%1, %2 (%3 to %4).</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, %2 (%3 bis %4).</translation>
     </message>
 </context>
 <context>
@@ -249,25 +249,25 @@
     <name>OlderRecordings</name>
     <message>
         <source>“%1” is a recording of version 4. It can be converted to the current version: “%2” is written beside it, the recording itself stays as it is.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ ist eine Aufzeichnung der Version 4. Sie lässt sich in die heutige Version umwandeln: „%2“ wird daneben geschrieben, die Aufzeichnung selbst bleibt, wie sie ist.</translation>
     </message>
     <message>
         <source>Convert and open</source>
-        <translation type="unfinished"></translation>
+        <translation>Umwandeln und öffnen</translation>
     </message>
 </context>
 <context>
     <name>OnlineStore</name>
     <message>
         <source>The server does not accept the user name or the password.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Server nimmt Benutzernamen oder Passwort nicht an.</translation>
     </message>
 </context>
 <context>
     <name>PlanningHandouts</name>
     <message>
         <source>Choose an athlete with a season first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Erst einen Athleten mit einer Saison wählen.</translation>
     </message>
     <message>
         <source>Week %1</source>
@@ -275,7 +275,7 @@
     </message>
     <message>
         <source>Week %1 %2.pdf</source>
-        <translation type="unfinished"></translation>
+        <translation>Woche %1 %2.pdf</translation>
     </message>
     <message>
         <source>Season %1</source>
@@ -283,23 +283,23 @@
     </message>
     <message>
         <source>Season %1 %2.pdf</source>
-        <translation type="unfinished"></translation>
+        <translation>Saison %1 %2.pdf</translation>
     </message>
     <message>
         <source>There is no week to write.</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Woche zu schreiben.</translation>
     </message>
     <message>
         <source>Week %1 %2.ics</source>
-        <translation type="unfinished"></translation>
+        <translation>Woche %1 %2.ics</translation>
     </message>
     <message>
         <source>Week as a calendar file</source>
-        <translation type="unfinished"></translation>
+        <translation>Woche als Kalenderdatei</translation>
     </message>
     <message>
         <source>Calendar files (*.ics)</source>
-        <translation type="unfinished"></translation>
+        <translation>Kalenderdateien (*.ics)</translation>
     </message>
     <message>
         <source>%1 is written.</source>
@@ -310,121 +310,121 @@
     <name>ProgressionChart</name>
     <message>
         <source>Position after each phase; the chosen race is drawn heavier</source>
-        <translation type="unfinished"></translation>
+        <translation>Position nach jeder Phase; das gewählte Rennen ist stärker gezeichnet</translation>
     </message>
     <message>
         <source>position</source>
-        <translation type="unfinished"></translation>
+        <translation>Position</translation>
     </message>
     <message>
         <source>Positions of the phases stand here once they are entered.</source>
-        <translation type="unfinished"></translation>
+        <translation>Hier stehen die Positionen der Phasen, sobald sie eingetragen sind.</translation>
     </message>
 </context>
 <context>
     <name>QObject</name>
     <message>
         <source>start of the roll</source>
-        <translation type="unfinished"></translation>
+        <translation>Beginn der Rolle</translation>
     </message>
     <message>
         <source>boat upside down</source>
-        <translation type="unfinished"></translation>
+        <translation>Boot kieloben</translation>
     </message>
     <message>
         <source>boat up again</source>
-        <translation type="unfinished"></translation>
+        <translation>Boot wieder oben</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Abbrechen</translation>
     </message>
     <message>
         <source>Recent files, in %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Zuletzt geöffnet, in %1</translation>
     </message>
     <message>
         <source>&amp;Help</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Hilfe</translation>
     </message>
     <message>
         <source>&amp;Search everything…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Alles durchsuchen…</translation>
     </message>
     <message>
         <source>&amp;All keys</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle &amp;Tasten</translation>
     </message>
     <message>
         <source>&amp;Why this number?</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Warum diese Zahl?</translation>
     </message>
     <message>
         <source>&amp;Change keys…</source>
-        <translation type="unfinished"></translation>
+        <translation>Tasten ä&amp;ndern…</translation>
     </message>
     <message>
         <source>&amp;Full screen</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Vollbild</translation>
     </message>
     <message>
         <source>Where are the films now?</source>
-        <translation type="unfinished"></translation>
+        <translation>Wo sind die Filme jetzt?</translation>
     </message>
     <message>
         <source>Videos (*.mov *.mp4 *.m4v *.avi *.mkv *.mts *.m2ts *.ts *.3gp *.webm *.mpg);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Videos (*.mov *.mp4 *.m4v *.avi *.mkv *.mts *.m2ts *.ts *.3gp *.webm *.mpg);;Alle Dateien (*)</translation>
     </message>
     <message>
         <source>The folder has another film named %1 already. Give one of them another name first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Ordner hat schon einen anderen Film namens %1. Erst einem der beiden einen anderen Namen geben.</translation>
     </message>
     <message>
         <source>Copying %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 wird kopiert</translation>
     </message>
     <message>
         <source>%1 could not be copied into the folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 konnte nicht in den Ordner kopiert werden.</translation>
     </message>
     <message>
         <source>entrance</source>
-        <translation type="unfinished"></translation>
+        <translation>Einfahrt</translation>
     </message>
     <message>
         <source>middle</source>
-        <translation type="unfinished"></translation>
+        <translation>Mitte</translation>
     </message>
     <message>
         <source>exit</source>
-        <translation type="unfinished"></translation>
+        <translation>Ausfahrt</translation>
     </message>
     <message>
         <source>All splits of this run are marked.</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Zwischenzeiten dieses Laufs sind markiert.</translation>
     </message>
     <message>
         <source>Mark the start first: the splits are expected from there on.</source>
-        <translation type="unfinished"></translation>
+        <translation>Erst den Start markieren: von dort an werden die Zwischenzeiten erwartet.</translation>
     </message>
     <message>
         <source>No other run has split %1 yet: nothing tells where it is to be expected.</source>
-        <translation type="unfinished"></translation>
+        <translation>Noch kein anderer Lauf hat Zwischenzeit %1: nichts sagt, wo sie zu erwarten ist.</translation>
     </message>
     <message>
         <source>&amp;Look for a newer version</source>
-        <translation type="unfinished"></translation>
+        <translation>Nach neuerer Version &amp;suchen</translation>
     </message>
 </context>
 <context>
     <name>QueryForm</name>
     <message>
         <source>&amp;Athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Athlet</translation>
     </message>
     <message>
         <source>anyone</source>
-        <translation type="unfinished"></translation>
+        <translation>alle</translation>
     </message>
     <message>
         <source>&amp;Category</source>
@@ -436,43 +436,43 @@
     </message>
     <message>
         <source>any</source>
-        <translation type="unfinished"></translation>
+        <translation>beliebig</translation>
     </message>
     <message>
         <source>P&amp;lace</source>
-        <translation type="unfinished"></translation>
+        <translation>P&amp;latz</translation>
     </message>
     <message>
         <source>anywhere</source>
-        <translation type="unfinished"></translation>
+        <translation>überall</translation>
     </message>
     <message>
         <source>&amp;Year</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Jahr</translation>
     </message>
     <message>
         <source>&amp;Gate</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Tor</translation>
     </message>
     <message>
         <source>&amp;Up or down</source>
-        <translation type="unfinished"></translation>
+        <translation>A&amp;uf oder ab</translation>
     </message>
     <message>
         <source>both</source>
-        <translation type="unfinished"></translation>
+        <translation>beides</translation>
     </message>
     <message>
         <source>&amp;Direction</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Richtung</translation>
     </message>
     <message>
         <source>&amp;Style</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Stil</translation>
     </message>
     <message>
         <source>&amp;Kind</source>
-        <translation type="unfinished"></translation>
+        <translation>A&amp;rt</translation>
     </message>
 </context>
 <context>
@@ -601,27 +601,27 @@
     <name>SeasonChart</name>
     <message>
         <source>%1: penalty (s)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: Strafe (s)</translation>
     </message>
     <message>
         <source>% behind</source>
-        <translation type="unfinished"></translation>
+        <translation>% Rückstand</translation>
     </message>
     <message>
         <source>penalty (s)</source>
-        <translation type="unfinished"></translation>
+        <translation>Strafe (s)</translation>
     </message>
     <message>
         <source>Percent behind the fastest as lines, penalty seconds as bars</source>
-        <translation type="unfinished"></translation>
+        <translation>Prozent hinter dem Schnellsten als Linien, Strafsekunden als Balken</translation>
     </message>
     <message>
         <source>Penalties only; percent behind comes with split files</source>
-        <translation type="unfinished"></translation>
+        <translation>Nur Strafen; Prozent Rückstand kommen mit Zwischenzeitdateien</translation>
     </message>
     <message>
         <source>Percent behind the fastest stands here once runs are taken over from split files.</source>
-        <translation type="unfinished"></translation>
+        <translation>Prozent hinter dem Schnellsten stehen hier, sobald Läufe aus Zwischenzeitdateien übernommen sind.</translation>
     </message>
 </context>
 <context>
@@ -632,11 +632,11 @@
     </message>
     <message>
         <source>Import athletes</source>
-        <translation type="unfinished"></translation>
+        <translation>Athleten importieren</translation>
     </message>
     <message>
         <source>athletes imported</source>
-        <translation type="unfinished"></translation>
+        <translation>Athleten importiert</translation>
     </message>
     <message>
         <source>Import</source>
@@ -644,23 +644,23 @@
     </message>
     <message>
         <source>“%1” cannot be read</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ ist nicht lesbar</translation>
     </message>
     <message>
         <source>One athlete was added.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Athlet wurde hinzugefügt.</translation>
     </message>
     <message>
         <source>The list is no UTF-8 text and was read as Latin-1: look at the names.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Liste ist kein UTF-8-Text und wurde als Latin-1 gelesen: die Namen prüfen.</translation>
     </message>
     <message>
         <source>Line %1: the category %2 is new in the selection.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeile %1: die Kategorie %2 ist neu in der Nominierung.</translation>
     </message>
     <message>
         <source>Line %1: the category %2 is new in the selection, and none that boats are raced in.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeile %1: die Kategorie %2 ist neu in der Nominierung und keine, in der Boote fahren.</translation>
     </message>
     <message>
         <source>Line %1: %2</source>
@@ -668,15 +668,15 @@
     </message>
     <message>
         <source>Results of which race?</source>
-        <translation type="unfinished"></translation>
+        <translation>Ergebnisse welches Rennens?</translation>
     </message>
     <message>
         <source>Add a category first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Erst eine Kategorie hinzufügen.</translation>
     </message>
     <message>
         <source>Split files of the race</source>
-        <translation type="unfinished"></translation>
+        <translation>Zwischenzeitdateien des Rennens</translation>
     </message>
     <message>
         <source>Split files (*.kvx);;All files (*)</source>
@@ -684,17 +684,17 @@
     </message>
     <message>
         <source>There are no results in it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Darin sind keine Ergebnisse.</translation>
     </message>
     <message>
         <source>results taken over</source>
-        <translation type="unfinished"></translation>
+        <translation>Ergebnisse übernommen</translation>
     </message>
     <message numerus="yes">
         <source>%n athletes were added.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Athlet wurde hinzugefügt.</numerusform>
+            <numerusform>%n Athleten wurden hinzugefügt.</numerusform>
         </translation>
     </message>
 </context>
@@ -706,57 +706,57 @@
     </message>
     <message>
         <source>“%1” cannot be opened</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ lässt sich nicht öffnen</translation>
     </message>
 </context>
 <context>
     <name>SessionEdits</name>
     <message>
         <source>session information</source>
-        <translation type="unfinished"></translation>
+        <translation>Angaben zur Einheit</translation>
     </message>
     <message>
         <source>Nothing was cut</source>
-        <translation type="unfinished"></translation>
+        <translation>Nichts wurde geschnitten</translation>
     </message>
     <message>
         <source>Too little would be left of the session.</source>
-        <translation type="unfinished"></translation>
+        <translation>Von der Einheit bliebe zu wenig übrig.</translation>
     </message>
     <message>
         <source>cut to a stretch</source>
-        <translation type="unfinished"></translation>
+        <translation>auf ein Stück gekürzt</translation>
     </message>
     <message>
         <source>removal of a stretch</source>
-        <translation type="unfinished"></translation>
+        <translation>Entfernen eines Stücks</translation>
     </message>
     <message>
         <source>removal of strokes</source>
-        <translation type="unfinished"></translation>
+        <translation>Entfernen von Schlägen</translation>
     </message>
     <message>
         <source>new analysis</source>
-        <translation type="unfinished"></translation>
+        <translation>neue Auswertung</translation>
     </message>
     <message>
         <source>mount of the phone</source>
-        <translation type="unfinished"></translation>
+        <translation>Lage des Telefons</translation>
     </message>
 </context>
 <context>
     <name>SessionExports</name>
     <message>
         <source>Save the edited .kvb file</source>
-        <translation type="unfinished"></translation>
+        <translation>Bearbeitete .kvb-Datei speichern</translation>
     </message>
     <message>
         <source>Recordings (*.kvb)</source>
-        <translation type="unfinished"></translation>
+        <translation>Aufzeichnungen (*.kvb)</translation>
     </message>
     <message>
         <source>Export the table</source>
-        <translation type="unfinished"></translation>
+        <translation>Tabelle exportieren</translation>
     </message>
     <message>
         <source>Semicolon-separated text (*.csv)</source>
@@ -767,164 +767,164 @@
     <name>SessionImports</name>
     <message>
         <source>%1 positions and %2 heart rates were taken over.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Positionen und %2 Herzfrequenzen wurden übernommen.</translation>
     </message>
     <message>
         <source>Import the recording of the boat first: a track gives it positions and heart rates.</source>
-        <translation type="unfinished"></translation>
+        <translation>Erst die Aufzeichnung des Boots importieren: ein Track gibt ihr Positionen und Herzfrequenzen.</translation>
     </message>
     <message>
         <source>track of a watch</source>
-        <translation type="unfinished"></translation>
+        <translation>Track einer Uhr</translation>
     </message>
     <message>
         <source>move of a watch&apos;s track</source>
-        <translation type="unfinished"></translation>
+        <translation>Verschieben des Tracks einer Uhr</translation>
     </message>
     <message>
         <source>Import power-meter data</source>
-        <translation type="unfinished"></translation>
+        <translation>Daten eines Leistungsmessers importieren</translation>
     </message>
     <message>
         <source>Lists (*.csv *.txt)</source>
-        <translation type="unfinished"></translation>
+        <translation>Listen (*.csv *.txt)</translation>
     </message>
     <message>
         <source>All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Dateien (*)</translation>
     </message>
     <message>
         <source>“%1” cannot be read</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ ist nicht lesbar</translation>
     </message>
     <message>
         <source>Import a recording or a session first: power-meter data belongs to its strokes.</source>
-        <translation type="unfinished"></translation>
+        <translation>Erst eine Aufzeichnung oder Einheit importieren: Daten eines Leistungsmessers gehören zu ihren Schlägen.</translation>
     </message>
     <message>
         <source>import of power-meter data</source>
-        <translation type="unfinished"></translation>
+        <translation>Import von Daten eines Leistungsmessers</translation>
     </message>
 </context>
 <context>
     <name>SessionSeries</name>
     <message>
         <source>Power</source>
-        <translation type="unfinished"></translation>
+        <translation>Leistung</translation>
     </message>
     <message>
         <source>W</source>
-        <translation type="unfinished"></translation>
+        <translation>W</translation>
     </message>
     <message>
         <source>Power meter</source>
-        <translation type="unfinished"></translation>
+        <translation>Leistungsmesser</translation>
     </message>
     <message>
         <source>Water phase</source>
-        <translation type="unfinished"></translation>
+        <translation>Wasserphase</translation>
     </message>
     <message>
         <source>s</source>
-        <translation type="unfinished"></translation>
+        <translation>s</translation>
     </message>
     <message>
         <source>Aerial phase</source>
-        <translation type="unfinished"></translation>
+        <translation>Luftphase</translation>
     </message>
     <message>
         <source>Speed</source>
-        <translation type="unfinished"></translation>
+        <translation>Tempo</translation>
     </message>
     <message>
         <source>m/s</source>
-        <translation type="unfinished"></translation>
+        <translation>m/s</translation>
     </message>
     <message>
         <source>Heart rate</source>
-        <translation type="unfinished"></translation>
+        <translation>Herzfrequenz</translation>
     </message>
     <message>
         <source>1/min</source>
-        <translation type="unfinished"></translation>
+        <translation>1/min</translation>
     </message>
     <message>
         <source>Pitch in turns</source>
-        <translation type="unfinished"></translation>
+        <translation>Stampfen in Drehungen</translation>
     </message>
     <message>
         <source>°</source>
-        <translation type="unfinished"></translation>
+        <translation>°</translation>
     </message>
     <message>
         <source>Stroke rate</source>
-        <translation type="unfinished"></translation>
+        <translation>Schlagfrequenz</translation>
     </message>
     <message>
         <source>Force</source>
-        <translation type="unfinished"></translation>
+        <translation>Kraft</translation>
     </message>
     <message>
         <source>N</source>
-        <translation type="unfinished"></translation>
+        <translation>N</translation>
     </message>
     <message>
         <source>Impulse</source>
-        <translation type="unfinished"></translation>
+        <translation>Impuls</translation>
     </message>
     <message>
         <source>N·s</source>
-        <translation type="unfinished"></translation>
+        <translation>N·s</translation>
     </message>
     <message>
         <source>Roll of the stroke</source>
-        <translation type="unfinished"></translation>
+        <translation>Rollen des Schlags</translation>
     </message>
 </context>
 <context>
     <name>SessionTexts</name>
     <message>
         <source>left</source>
-        <translation type="unfinished"></translation>
+        <translation>links</translation>
     </message>
     <message>
         <source>right</source>
-        <translation type="unfinished"></translation>
+        <translation>rechts</translation>
     </message>
     <message>
         <source>side unknown</source>
-        <translation type="unfinished"></translation>
+        <translation>Seite unbekannt</translation>
     </message>
     <message>
         <source>Side unknown: when the session was made, it was not known which side of the phone points to the bow.</source>
-        <translation type="unfinished"></translation>
+        <translation>Seite unbekannt: als die Einheit entstand, war nicht bekannt, welche Seite des Telefons zum Bug zeigt.</translation>
     </message>
     <message>
         <source>The file does not tell how the clocks of strokes and fixes go together: they were fitted by the turns and may be some seconds apart.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei sagt nicht, wie die Uhren von Schlägen und Ortungen zusammengehen: sie wurden nach den Drehungen angepasst und können um Sekunden abweichen.</translation>
     </message>
     <message>
         <source>Power-meter data is not in the strokes yet; you are asked on saving.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Daten des Leistungsmessers sind noch nicht in den Schlägen; beim Speichern wird gefragt.</translation>
     </message>
 </context>
 <context>
     <name>SlitMarking</name>
     <message>
         <source>The film is not read so far.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Film ist noch nicht so weit gelesen.</translation>
     </message>
     <message>
         <source>There is no proposal at the hair line.</source>
-        <translation type="unfinished"></translation>
+        <translation>An der Haarlinie ist kein Vorschlag.</translation>
     </message>
     <message>
         <source>Nothing can be accepted without a line, its proposals and the race.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nichts lässt sich annehmen ohne eine Linie, ihre Vorschläge und das Rennen.</translation>
     </message>
     <message>
         <source>proposals accepted</source>
-        <translation type="unfinished"></translation>
+        <translation>Vorschläge angenommen</translation>
     </message>
 </context>
 <context>
@@ -950,15 +950,15 @@
     <name>TestCharts</name>
     <message>
         <source>Not recorded, and not entered</source>
-        <translation type="unfinished"></translation>
+        <translation>Nicht aufgezeichnet und nicht eingetragen</translation>
     </message>
     <message>
         <source>Lap</source>
-        <translation type="unfinished"></translation>
+        <translation>Runde</translation>
     </message>
     <message>
         <source>Stretch of the sprint</source>
-        <translation type="unfinished"></translation>
+        <translation>Stück des Sprints</translation>
     </message>
     <message>
         <source>Turn</source>
@@ -966,11 +966,11 @@
     </message>
     <message>
         <source>Time from the start (s)</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeit ab Start (s)</translation>
     </message>
     <message>
         <source>Only a recording tells this</source>
-        <translation type="unfinished"></translation>
+        <translation>Das sagt nur eine Aufzeichnung</translation>
     </message>
     <message>
         <source>Split</source>
@@ -981,23 +981,23 @@
     <name>TrialMarking</name>
     <message>
         <source>Add the first athlete above</source>
-        <translation type="unfinished"></translation>
+        <translation>Oben den ersten Athleten hinzufügen</translation>
     </message>
     <message>
         <source>M marks split %1</source>
-        <translation type="unfinished"></translation>
+        <translation>M markiert Zwischenzeit %1</translation>
     </message>
     <message>
         <source>M marks the start</source>
-        <translation type="unfinished"></translation>
+        <translation>M markiert den Start</translation>
     </message>
     <message>
         <source>M marks the %1</source>
-        <translation type="unfinished"></translation>
+        <translation>M markiert: %1</translation>
     </message>
     <message>
         <source>The roll is marked</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Rolle ist markiert</translation>
     </message>
     <message>
         <source>The cross course has no gates yet</source>
@@ -1005,15 +1005,15 @@
     </message>
     <message>
         <source>Gate %1: M marks the %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Tor %1: M markiert: %2</translation>
     </message>
     <message>
         <source>Gate %1 is marked</source>
-        <translation type="unfinished"></translation>
+        <translation>Tor %1 ist markiert</translation>
     </message>
     <message>
         <source>The time of this trial was taken without marks on the film. Marking it anew replaces it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Zeit dieses Zeitfahrens wurde ohne Marken im Film genommen. Neues Markieren ersetzt sie.</translation>
     </message>
     <message>
         <source>Mark anew</source>
@@ -1041,23 +1041,23 @@
     </message>
     <message>
         <source>Gate %1 is marked. N goes to the next gate, Shift+M moves the selected mark.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tor %1 ist markiert. N geht zum nächsten Tor, Umschalt+M verschiebt die gewählte Marke.</translation>
     </message>
     <message>
         <source>The cross course has no gates yet: they are set above.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Cross-Strecke hat noch keine Tore: sie werden oben gesetzt.</translation>
     </message>
     <message>
         <source>%1 of gate %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 von Tor %2</translation>
     </message>
     <message>
         <source>Gate %1 %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Tor %1 %2</translation>
     </message>
     <message>
         <source>The roll is marked. Shift+M moves the selected mark, Delete removes it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Rolle ist markiert. Umschalt+M verschiebt die gewählte Marke, Entf entfernt sie.</translation>
     </message>
     <message>
         <source>No mark is selected. Ctrl and the arrows go from mark to mark.</source>
@@ -1073,60 +1073,60 @@
     </message>
     <message>
         <source>Without a start mark the time counts from the beginning of the film.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ohne Startmarke zählt die Zeit vom Anfang des Films.</translation>
     </message>
     <message>
         <source>gate %1 removed</source>
-        <translation type="unfinished"></translation>
+        <translation>Tor %1 entfernt</translation>
     </message>
 </context>
 <context>
     <name>TypedMeasures</name>
     <message>
         <source>This moment is in no calendar: %1 seconds from 2001-01-01. It stays as it is until another date is typed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieser Moment steht in keinem Kalender: %1 Sekunden ab 2001-01-01. Er bleibt, bis ein anderes Datum getippt wird.</translation>
     </message>
     <message>
         <source>A value below 0 cannot be measured.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Wert unter 0 lässt sich nicht messen.</translation>
     </message>
     <message>
         <source>More than %1 was hardly measured.</source>
-        <translation type="unfinished"></translation>
+        <translation>Mehr als %1 wurde kaum gemessen.</translation>
     </message>
     <message>
         <source>It stays as it is until another one is typed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es bleibt, bis etwas anderes getippt wird.</translation>
     </message>
     <message>
         <source>A measurement needs a day of the calendar such as 2026-03-09.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Messung braucht einen Kalendertag wie 2026-03-09.</translation>
     </message>
     <message>
         <source>Expected is a number from 0 to %1, such as %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Erwartet wird eine Zahl von 0 bis %1, etwa %2</translation>
     </message>
 </context>
 <context>
     <name>TypedNumber</name>
     <message>
         <source>Expected is a number from %1 to %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Erwartet wird eine Zahl von %1 bis %2</translation>
     </message>
     <message>
         <source>Expected is a whole number from %1 to %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Erwartet wird eine ganze Zahl von %1 bis %2</translation>
     </message>
     <message>
         <source>Expected is a time from %1 to %2 seconds</source>
-        <translation type="unfinished"></translation>
+        <translation>Erwartet wird eine Zeit von %1 bis %2 Sekunden</translation>
     </message>
 </context>
 <context>
     <name>TypedValues</name>
     <message>
         <source>A time is a number of seconds such as 92.34, or 1:32.34</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Zeit ist eine Zahl von Sekunden wie 92.34 oder 1:32.34</translation>
     </message>
     <message>
         <source>A penalty is a whole number of seconds, 0 to 999</source>
@@ -1134,30 +1134,30 @@
     </message>
     <message>
         <source>A position is a whole number, 1 to 9999</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Position ist eine ganze Zahl, 1 bis 9999</translation>
     </message>
     <message>
         <source>Ranking points are a number such as 612.5</source>
-        <translation type="unfinished"></translation>
+        <translation>Ranglistenpunkte sind eine Zahl wie 612.5</translation>
     </message>
     <message>
         <source>A year is a number from 1900 to 2100</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Jahr ist eine Zahl von 1900 bis 2100</translation>
     </message>
     <message>
         <source>A date is a day of the calendar such as 2025-06-14</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Datum ist ein Kalendertag wie 2025-06-14</translation>
     </message>
 </context>
 <context>
     <name>WeekTexts</name>
     <message>
         <source>Week %1, from %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Woche %1, ab %2</translation>
     </message>
     <message>
         <source>Load %1 %</source>
-        <translation type="unfinished"></translation>
+        <translation>Belastung %1 %</translation>
     </message>
     <message>
         <source>Macrocycle</source>
@@ -1169,7 +1169,7 @@
     </message>
     <message>
         <source>Event</source>
-        <translation type="unfinished"></translation>
+        <translation>Ereignis</translation>
     </message>
     <message>
         <source>Place</source>
@@ -1177,59 +1177,59 @@
     </message>
     <message>
         <source>On-water test</source>
-        <translation type="unfinished"></translation>
+        <translation>Wassertest</translation>
     </message>
     <message>
         <source>Endurance test</source>
-        <translation type="unfinished"></translation>
+        <translation>Ausdauertest</translation>
     </message>
     <message>
         <source>Blood test</source>
-        <translation type="unfinished"></translation>
+        <translation>Bluttest</translation>
     </message>
     <message>
         <source>Injured</source>
-        <translation type="unfinished"></translation>
+        <translation>Verletzt</translation>
     </message>
     <message>
         <source>%n session(s)</source>
-        <translation type="unfinished"></translation>
+        <translation>%n Einheit(en)</translation>
     </message>
     <message>
         <source>The week&apos;s date is in no calendar.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Datum der Woche steht in keinem Kalender.</translation>
     </message>
     <message>
         <source>The week does not start on a Monday.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Woche beginnt nicht an einem Montag.</translation>
     </message>
     <message>
         <source>The load is negative.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Belastung ist negativ.</translation>
     </message>
     <message>
         <source>The two lists of planned totals are of different lengths.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die zwei Listen geplanter Summen sind verschieden lang.</translation>
     </message>
     <message>
         <source>%1 of its sessions are on no day of the week.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ihrer Einheiten liegen auf keinem Tag der Woche.</translation>
     </message>
     <message>
         <source>The session&apos;s date is in no calendar.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Datum der Einheit steht in keinem Kalender.</translation>
     </message>
     <message>
         <source>The time of day is none.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Tageszeit ist keine.</translation>
     </message>
     <message>
         <source>The time zone “%1” is unknown.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Zeitzone „%1“ ist unbekannt.</translation>
     </message>
     <message>
         <source>A value is negative.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Wert ist negativ.</translation>
     </message>
 </context>
 <context>
@@ -5076,7 +5076,7 @@
     </message>
     <message>
         <source>the start</source>
-        <translation type="unfinished"></translation>
+        <translation>der Start</translation>
     </message>
     <message>
         <source>Film</source>
@@ -5084,87 +5084,87 @@
     </message>
     <message>
         <source>State</source>
-        <translation type="unfinished"></translation>
+        <translation>Stand</translation>
     </message>
     <message>
         <source>To know</source>
-        <translation type="unfinished"></translation>
+        <translation>Hinweise</translation>
     </message>
     <message>
         <source>waiting</source>
-        <translation type="unfinished"></translation>
+        <translation>wartet</translation>
     </message>
     <message>
         <source>there</source>
-        <translation type="unfinished"></translation>
+        <translation>da</translation>
     </message>
     <message>
         <source>failed</source>
-        <translation type="unfinished"></translation>
+        <translation>gescheitert</translation>
     </message>
     <message>
         <source>stopped</source>
-        <translation type="unfinished"></translation>
+        <translation>angehalten</translation>
     </message>
     <message>
         <source>%1, %2:%3 left</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, noch %2:%3</translation>
     </message>
     <message>
         <source>A film is still being composed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Film wird noch zusammengesetzt.</translation>
     </message>
     <message>
         <source>%1 films are still being composed.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Filme werden noch zusammengesetzt.</translation>
     </message>
     <message>
         <source>It can go on in the background: the list of jobs (Ctrl+J in Compare films) tells how far it is.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das kann im Hintergrund weitergehen: die Liste der Aufträge (Strg+J in Filme vergleichen) sagt, wie weit es ist.</translation>
     </message>
     <message>
         <source>Go on in the background</source>
-        <translation type="unfinished"></translation>
+        <translation>Im Hintergrund weiter</translation>
     </message>
     <message>
         <source>Stop it</source>
-        <translation type="unfinished"></translation>
+        <translation>Anhalten</translation>
     </message>
     <message>
         <source>Stay here</source>
-        <translation type="unfinished"></translation>
+        <translation>Hier bleiben</translation>
     </message>
     <message>
         <source>Put together…</source>
-        <translation type="unfinished"></translation>
+        <translation>Wird zusammengefügt…</translation>
     </message>
     <message>
         <source>Piece %1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Stück %1 von %2</translation>
     </message>
     <message>
         <source>Checked…</source>
-        <translation type="unfinished"></translation>
+        <translation>Geprüft…</translation>
     </message>
     <message>
         <source>%1 %, %2 of %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 %, %2 von %3</translation>
     </message>
     <message>
         <source>Waits</source>
-        <translation type="unfinished"></translation>
+        <translation>Wartet</translation>
     </message>
     <message>
         <source>✓ Fetched</source>
-        <translation type="unfinished"></translation>
+        <translation>✓ Geholt</translation>
     </message>
     <message>
         <source>Fetch</source>
-        <translation type="unfinished"></translation>
+        <translation>Holen</translation>
     </message>
     <message>
         <source>Bib</source>
-        <translation type="unfinished"></translation>
+        <translation>Nr</translation>
     </message>
     <message>
         <source>Name</source>
@@ -5176,23 +5176,23 @@
     </message>
     <message>
         <source>File</source>
-        <translation type="unfinished"></translation>
+        <translation>Datei</translation>
     </message>
     <message>
         <source>Size</source>
-        <translation type="unfinished"></translation>
+        <translation>Größe</translation>
     </message>
     <message>
         <source>Server</source>
-        <translation type="unfinished"></translation>
+        <translation>Server</translation>
     </message>
     <message>
         <source>1 film is ticked</source>
-        <translation type="unfinished"></translation>
+        <translation>1 Film hat ein Häkchen</translation>
     </message>
     <message>
         <source>%1 films are ticked</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Filme haben ein Häkchen</translation>
     </message>
     <message>
         <source>%1, %2</source>
@@ -5200,79 +5200,79 @@
     </message>
     <message>
         <source>%1 fetched</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 geholt</translation>
     </message>
     <message>
         <source>%1 not there yet</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 noch nicht da</translation>
     </message>
     <message>
         <source>%1 failed</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 gescheitert</translation>
     </message>
     <message>
         <source>%1 cancelled</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 abgebrochen</translation>
     </message>
     <message>
         <source>Move the selected mark &amp;here</source>
-        <translation type="unfinished"></translation>
+        <translation>Gewählte Marke &amp;hierher</translation>
     </message>
     <message>
         <source>Mark one frame &amp;earlier</source>
-        <translation type="unfinished"></translation>
+        <translation>Marke ein Bild &amp;früher</translation>
     </message>
     <message>
         <source>Mark one frame &amp;later</source>
-        <translation type="unfinished"></translation>
+        <translation>Marke ein Bild &amp;später</translation>
     </message>
     <message>
         <source>&amp;Remove the selected mark</source>
-        <translation type="unfinished"></translation>
+        <translation>Gewählte Marke &amp;entfernen</translation>
     </message>
     <message>
         <source>&amp;Previous mark</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Vorige Marke</translation>
     </message>
     <message>
         <source>&amp;Next mark</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Nächste Marke</translation>
     </message>
     <message>
         <source>Nobody is called “%1” in these files.</source>
-        <translation type="unfinished"></translation>
+        <translation>Niemand heißt in diesen Dateien „%1“.</translation>
     </message>
     <message>
         <source>Like it: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ähnlich: %1.</translation>
     </message>
     <message>
         <source>Watched: 80 % of it was shown</source>
-        <translation type="unfinished"></translation>
+        <translation>Angesehen: 80 % davon wurden gezeigt</translation>
     </message>
     <message>
         <source>Of the split file: split taking edits it</source>
-        <translation type="unfinished"></translation>
+        <translation>Aus der Zwischenzeitdatei: die Zwischenzeitnahme bearbeitet sie</translation>
     </message>
     <message>
         <source>Watched</source>
-        <translation type="unfinished"></translation>
+        <translation>Angesehen</translation>
     </message>
     <message>
         <source>Length</source>
-        <translation type="unfinished"></translation>
+        <translation>Länge</translation>
     </message>
     <message>
         <source>Minutes and seconds</source>
-        <translation type="unfinished"></translation>
+        <translation>Minuten und Sekunden</translation>
     </message>
     <message>
         <source>At</source>
-        <translation type="unfinished"></translation>
+        <translation>Bei</translation>
     </message>
     <message>
         <source>Moment of the film, minutes and seconds</source>
-        <translation type="unfinished"></translation>
+        <translation>Moment des Films, Minuten und Sekunden</translation>
     </message>
     <message>
         <source>Tag</source>
@@ -5296,31 +5296,31 @@
     </message>
     <message>
         <source>%1 s a run</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 s je Lauf</translation>
     </message>
     <message>
         <source>one run</source>
-        <translation type="unfinished"></translation>
+        <translation>ein Lauf</translation>
     </message>
     <message>
         <source>%1 runs</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Läufe</translation>
     </message>
     <message>
         <source>Where most was lost</source>
-        <translation type="unfinished"></translation>
+        <translation>Wo am meisten verloren ging</translation>
     </message>
     <message>
         <source>Seconds lost</source>
-        <translation type="unfinished"></translation>
+        <translation>Verlorene Sekunden</translation>
     </message>
     <message>
         <source>Of all that was lost, %</source>
-        <translation type="unfinished"></translation>
+        <translation>Von allem Verlust, %</translation>
     </message>
     <message>
         <source>No section was slower than the reference&apos;s.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein Abschnitt war langsamer als der der Referenz.</translation>
     </message>
     <message>
         <source>Lost</source>
@@ -5328,39 +5328,39 @@
     </message>
     <message>
         <source>Together, %</source>
-        <translation type="unfinished"></translation>
+        <translation>Zusammen, %</translation>
     </message>
     <message>
         <source>The gap along the course</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Rückstand entlang der Strecke</translation>
     </message>
     <message>
         <source>After section</source>
-        <translation type="unfinished"></translation>
+        <translation>Nach Abschnitt</translation>
     </message>
     <message>
         <source>Seconds behind, without penalties</source>
-        <translation type="unfinished"></translation>
+        <translation>Sekunden Rückstand, ohne Strafen</translation>
     </message>
     <message>
         <source>result %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Ergebnis %1</translation>
     </message>
     <message>
         <source>Lost by what it is lost in</source>
-        <translation type="unfinished"></translation>
+        <translation>Verlust nach dem, worin er entstand</translation>
     </message>
     <message>
         <source>Of the reference&apos;s time, %</source>
-        <translation type="unfinished"></translation>
+        <translation>Von der Zeit der Referenz, %</translation>
     </message>
     <message>
         <source>Lost, 90 %</source>
-        <translation type="unfinished"></translation>
+        <translation>Verlust, 90 %</translation>
     </message>
     <message>
         <source>No loss</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein Verlust</translation>
     </message>
     <message>
         <source>By</source>
@@ -5368,7 +5368,7 @@
     </message>
     <message>
         <source>What</source>
-        <translation type="unfinished"></translation>
+        <translation>Was</translation>
     </message>
     <message>
         <source>Runs</source>
@@ -5376,15 +5376,15 @@
     </message>
     <message>
         <source>Lost, %</source>
-        <translation type="unfinished"></translation>
+        <translation>Verlust, %</translation>
     </message>
     <message>
         <source>Low</source>
-        <translation type="unfinished"></translation>
+        <translation>Unten</translation>
     </message>
     <message>
         <source>High</source>
-        <translation type="unfinished"></translation>
+        <translation>Oben</translation>
     </message>
     <message>
         <source>A run, s</source>
@@ -5392,11 +5392,11 @@
     </message>
     <message>
         <source>No row loses time for sure.</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Zeile verliert sicher Zeit.</translation>
     </message>
     <message>
         <source>Most for sure: %1 %2, %3 s a run.</source>
-        <translation type="unfinished"></translation>
+        <translation>Am meisten sicher: %1 %2, %3 s je Lauf.</translation>
     </message>
     <message>
         <source>Gate</source>
@@ -5404,11 +5404,11 @@
     </message>
     <message>
         <source>Gate %1 of the section</source>
-        <translation type="unfinished"></translation>
+        <translation>Tor %1 des Abschnitts</translation>
     </message>
     <message>
         <source>Lost in an upstream gate of the section</source>
-        <translation type="unfinished"></translation>
+        <translation>Verlust in einem Aufwärtstor des Abschnitts</translation>
     </message>
     <message>
         <source>%1:  %2</source>
@@ -5416,15 +5416,15 @@
     </message>
     <message>
         <source>upstream</source>
-        <translation type="unfinished"></translation>
+        <translation>aufwärts</translation>
     </message>
     <message>
         <source>downstream</source>
-        <translation type="unfinished"></translation>
+        <translation>abwärts</translation>
     </message>
     <message>
         <source>several sections</source>
-        <translation type="unfinished"></translation>
+        <translation>mehrere Abschnitte</translation>
     </message>
     <message>
         <source>not known</source>
@@ -5432,7 +5432,7 @@
     </message>
     <message>
         <source>a race without a name</source>
-        <translation type="unfinished"></translation>
+        <translation>ein Rennen ohne Namen</translation>
     </message>
     <message>
         <source>Run %1</source>
@@ -5440,183 +5440,183 @@
     </message>
     <message>
         <source>winner</source>
-        <translation type="unfinished"></translation>
+        <translation>Sieger</translation>
     </message>
     <message>
         <source>fastest paddling</source>
-        <translation type="unfinished"></translation>
+        <translation>schnellste Fahrzeit</translation>
     </message>
     <message>
         <source>ideal run</source>
-        <translation type="unfinished"></translation>
+        <translation>Ideallauf</translation>
     </message>
     <message>
         <source>median of the finalists</source>
-        <translation type="unfinished"></translation>
+        <translation>Median der Finalisten</translation>
     </message>
     <message>
         <source>own best other run</source>
-        <translation type="unfinished"></translation>
+        <translation>eigener bester anderer Lauf</translation>
     </message>
     <message>
         <source>a rival</source>
-        <translation type="unfinished"></translation>
+        <translation>ein Rivale</translation>
     </message>
     <message>
         <source>Open a race to see where time is lost.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Rennen öffnen, um zu sehen, wo Zeit verloren geht.</translation>
     </message>
     <message>
         <source>The crew has no other whole run here to be held against. Choose another reference.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Besatzung hat hier keinen anderen ganzen Lauf zum Vergleich. Eine andere Referenz wählen.</translation>
     </message>
     <message>
         <source>There is no %1 here to hold the run against. Choose another reference.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zum Vergleich fehlt hier: %1. Eine andere Referenz wählen.</translation>
     </message>
     <message>
         <source>The two have no section in common that is timed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die beiden haben keinen gemeinsamen Abschnitt mit Zeit.</translation>
     </message>
     <message>
         <source>%1: nothing to be held against</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: nichts zum Vergleich</translation>
     </message>
     <message>
         <source>%1  %2 on %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1  %2 auf %3</translation>
     </message>
     <message>
         <source>%1: no section in common with %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: kein Abschnitt gemeinsam mit %2</translation>
     </message>
     <message>
         <source>%1  %2 on %3 in %4 (no total)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1  %2 auf %3 in %4 (keine Gesamtzeit)</translation>
     </message>
     <message>
         <source>Explained by notes: %1 of %2 (%3 %)</source>
-        <translation type="unfinished"></translation>
+        <translation>Durch Notizen erklärt: %1 von %2 (%3 %)</translation>
     </message>
     <message>
         <source>Most was lost in %1: %2 s of %3.</source>
-        <translation type="unfinished"></translation>
+        <translation>Am meisten ging in %1 verloren: %2 s von %3.</translation>
     </message>
     <message>
         <source>Penalties make %1 of it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Strafen machen davon %1 aus.</translation>
     </message>
     <message>
         <source>All %1 of the slower sections are needed to explain most of the loss.</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle %1 langsameren Abschnitte sind nötig, um das meiste des Verlusts zu erklären.</translation>
     </message>
     <message>
         <source>%1 alone makes %2 % of what was lost in slower sections.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 allein macht %2 % des Verlusts in langsameren Abschnitten aus.</translation>
     </message>
     <message>
         <source>%1 of %2 slower sections make %3 % of what was lost in them.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 von %2 langsameren Abschnitten machen %3 % des Verlusts in ihnen aus.</translation>
     </message>
     <message>
         <source>Nobody was slower than the reference in a section.</source>
-        <translation type="unfinished"></translation>
+        <translation>Niemand war in einem Abschnitt langsamer als die Referenz.</translation>
     </message>
     <message>
         <source>The greatest loss is that of %1 in S%2: %3 on %4.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der größte Verlust ist der von %1 in A%2: %3 auf %4.</translation>
     </message>
     <message>
         <source>Never behind the %1; %2 at the end of S%3.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nie im Rückstand auf: %1; %2 am Ende von A%3.</translation>
     </message>
     <message>
         <source>Farthest behind at the end: %1 after S%2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Am Ende am weitesten zurück: %1 nach A%2.</translation>
     </message>
     <message>
         <source>Farthest behind after S%1: %2; %3 after S%4.</source>
-        <translation type="unfinished"></translation>
+        <translation>Am weitesten zurück nach A%1: %2; %3 nach A%4.</translation>
     </message>
     <message>
         <source>no motion of the boat</source>
-        <translation type="unfinished"></translation>
+        <translation>keine Bewegung des Boots</translation>
     </message>
     <message>
         <source>a hole of %1 s</source>
-        <translation type="unfinished"></translation>
+        <translation>eine Lücke von %1 s</translation>
     </message>
     <message>
         <source>%1 holes, the longest of %2 s</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Lücken, die längste %2 s</translation>
     </message>
     <message>
         <source>the clock ran backwards once</source>
-        <translation type="unfinished"></translation>
+        <translation>die Uhr lief einmal rückwärts</translation>
     </message>
     <message>
         <source>the clock ran backwards %1 times</source>
-        <translation type="unfinished"></translation>
+        <translation>die Uhr lief %1-mal rückwärts</translation>
     </message>
     <message>
         <source>a moment stands twice</source>
-        <translation type="unfinished"></translation>
+        <translation>ein Moment steht zweimal</translation>
     </message>
     <message>
         <source>%1 moments stand twice</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Momente stehen zweimal</translation>
     </message>
     <message>
         <source>Top to the bow</source>
-        <translation type="unfinished"></translation>
+        <translation>Oben zum Bug</translation>
     </message>
     <message>
         <source>Bottom to the bow</source>
-        <translation type="unfinished"></translation>
+        <translation>Unten zum Bug</translation>
     </message>
     <message>
         <source>Right to the bow</source>
-        <translation type="unfinished"></translation>
+        <translation>Rechts zum Bug</translation>
     </message>
     <message>
         <source>Left to the bow</source>
-        <translation type="unfinished"></translation>
+        <translation>Links zum Bug</translation>
     </message>
     <message>
         <source>Back to the bow</source>
-        <translation type="unfinished"></translation>
+        <translation>Rückseite zum Bug</translation>
     </message>
     <message>
         <source>Screen to the bow</source>
-        <translation type="unfinished"></translation>
+        <translation>Bildschirm zum Bug</translation>
     </message>
     <message>
         <source>%1 of %2 touched</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 von %2 berührt</translation>
     </message>
     <message>
         <source>Touched, %</source>
-        <translation type="unfinished"></translation>
+        <translation>Berührt, %</translation>
     </message>
     <message>
         <source>Ranked rate, 90 %</source>
-        <translation type="unfinished"></translation>
+        <translation>Gereihte Rate, 90 %</translation>
     </message>
     <message>
         <source>Touched</source>
-        <translation type="unfinished"></translation>
+        <translation>Berührt</translation>
     </message>
     <message>
         <source>All in common</source>
-        <translation type="unfinished"></translation>
+        <translation>Allen gemeinsam</translation>
     </message>
     <message>
         <source>No run that is asked for has its penalties by gate. Enter them for each gate to see where they happen.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein gefragter Lauf hat seine Strafen nach Toren. Für jedes Tor eintragen, um zu sehen, wo sie entstehen.</translation>
     </message>
     <message>
         <source>Passages</source>
-        <translation type="unfinished"></translation>
+        <translation>Durchfahrten</translation>
     </message>
     <message>
         <source>Touches</source>
@@ -5628,19 +5628,19 @@
     </message>
     <message>
         <source>Touch rate</source>
-        <translation type="unfinished"></translation>
+        <translation>Berührungsrate</translation>
     </message>
     <message>
         <source>Ranked rate</source>
-        <translation type="unfinished"></translation>
+        <translation>Gereihte Rate</translation>
     </message>
     <message>
         <source>Above</source>
-        <translation type="unfinished"></translation>
+        <translation>Über</translation>
     </message>
     <message>
         <source>Gate %1, upstream</source>
-        <translation type="unfinished"></translation>
+        <translation>Tor %1, aufwärts</translation>
     </message>
     <message>
         <source>Gate %1</source>
@@ -5648,11 +5648,11 @@
     </message>
     <message>
         <source>%1 missed</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 verfehlt</translation>
     </message>
     <message>
         <source>stands out</source>
-        <translation type="unfinished"></translation>
+        <translation>fällt auf</translation>
     </message>
     <message>
         <source>%1 of %2</source>
@@ -5660,19 +5660,19 @@
     </message>
     <message>
         <source>(not given)</source>
-        <translation type="unfinished"></translation>
+        <translation>(ohne Angabe)</translation>
     </message>
     <message>
         <source>%1: touches at the gates</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: Berührungen an den Toren</translation>
     </message>
     <message>
         <source>Gates in order; ◀ upstream</source>
-        <translation type="unfinished"></translation>
+        <translation>Tore der Reihe nach; ◀ aufwärts</translation>
     </message>
     <message>
         <source>Upstream</source>
-        <translation type="unfinished"></translation>
+        <translation>Aufwärts</translation>
     </message>
     <message>
         <source>Section</source>
@@ -5680,27 +5680,27 @@
     </message>
     <message>
         <source>Touches %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Berührungen %1</translation>
     </message>
     <message>
         <source> (the highest %1, %2 more in the table)</source>
-        <translation type="unfinished"></translation>
+        <translation> (die höchsten %1, %2 weitere in der Tabelle)</translation>
     </message>
     <message>
         <source>What was noted of penalties</source>
-        <translation type="unfinished"></translation>
+        <translation>Was zu Strafen notiert wurde</translation>
     </message>
     <message>
         <source>Of those noted, %</source>
-        <translation type="unfinished"></translation>
+        <translation>Von den notierten, %</translation>
     </message>
     <message>
         <source>Share, 90 %</source>
-        <translation type="unfinished"></translation>
+        <translation>Anteil, 90 %</translation>
     </message>
     <message>
         <source>Noted as</source>
-        <translation type="unfinished"></translation>
+        <translation>Notiert als</translation>
     </message>
     <message>
         <source>Penalties</source>
@@ -5708,27 +5708,27 @@
     </message>
     <message>
         <source>Of</source>
-        <translation type="unfinished"></translation>
+        <translation>Von</translation>
     </message>
     <message>
         <source>Share</source>
-        <translation type="unfinished"></translation>
+        <translation>Anteil</translation>
     </message>
     <message>
         <source>Most of one kind: %1 %2, %3 of %4 noted.</source>
-        <translation type="unfinished"></translation>
+        <translation>Am meisten von einer Art: %1 %2, %3 von %4 notierten.</translation>
     </message>
     <message>
         <source>fastest third</source>
-        <translation type="unfinished"></translation>
+        <translation>schnellstes Drittel</translation>
     </message>
     <message>
         <source>middle third</source>
-        <translation type="unfinished"></translation>
+        <translation>mittleres Drittel</translation>
     </message>
     <message>
         <source>slowest third</source>
-        <translation type="unfinished"></translation>
+        <translation>langsamstes Drittel</translation>
     </message>
     <message>
         <source>Risk and speed</source>
@@ -5736,27 +5736,27 @@
     </message>
     <message>
         <source>Paddling time, % of the group&apos;s median</source>
-        <translation type="unfinished"></translation>
+        <translation>Fahrzeit, % des Medians der Gruppe</translation>
     </message>
     <message>
         <source>Touches a run</source>
-        <translation type="unfinished"></translation>
+        <translation>Berührungen je Lauf</translation>
     </message>
     <message>
         <source>90 %</source>
-        <translation type="unfinished"></translation>
+        <translation>90 %</translation>
     </message>
     <message>
         <source>Equally fast in all</source>
-        <translation type="unfinished"></translation>
+        <translation>Insgesamt gleich schnell</translation>
     </message>
     <message>
         <source>not planned</source>
-        <translation type="unfinished"></translation>
+        <translation>nicht geplant</translation>
     </message>
     <message>
         <source>planned</source>
-        <translation type="unfinished"></translation>
+        <translation>geplant</translation>
     </message>
     <message>
         <source>Sessions</source>
@@ -5768,15 +5768,15 @@
     </message>
     <message>
         <source>What the sessions add up to, in the unit that they are written in</source>
-        <translation type="unfinished"></translation>
+        <translation>Was die Einheiten ergeben, in der Maßeinheit, in der sie stehen</translation>
     </message>
     <message>
         <source>In the sessions</source>
-        <translation type="unfinished"></translation>
+        <translation>In den Einheiten</translation>
     </message>
     <message>
         <source>Event</source>
-        <translation type="unfinished"></translation>
+        <translation>Ereignis</translation>
     </message>
     <message>
         <source>Position</source>
@@ -5792,7 +5792,7 @@
     </message>
     <message>
         <source>Behind best</source>
-        <translation type="unfinished"></translation>
+        <translation>Hinter dem Besten</translation>
     </message>
     <message>
         <source>Gates</source>
@@ -5812,15 +5812,15 @@
     </message>
     <message>
         <source>From the first run of the heats to the second</source>
-        <translation type="unfinished"></translation>
+        <translation>Vom ersten Lauf der Vorläufe zum zweiten</translation>
     </message>
     <message>
         <source>From the semifinal to the final</source>
-        <translation type="unfinished"></translation>
+        <translation>Vom Halbfinale zum Finale</translation>
     </message>
     <message>
         <source>From the heats to the final</source>
-        <translation type="unfinished"></translation>
+        <translation>Von den Vorläufen zum Finale</translation>
     </message>
     <message>
         <source>Medals</source>
@@ -5836,11 +5836,11 @@
     </message>
     <message>
         <source>too few for a range</source>
-        <translation type="unfinished"></translation>
+        <translation>zu wenige für einen Bereich</translation>
     </message>
     <message>
         <source>%1 to %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 bis %2</translation>
     </message>
     <message>
         <source>too few</source>
@@ -5848,11 +5848,11 @@
     </message>
     <message>
         <source>Change behind, %</source>
-        <translation type="unfinished"></translation>
+        <translation>Änderung des Rückstands, %</translation>
     </message>
     <message>
         <source>Change, %</source>
-        <translation type="unfinished"></translation>
+        <translation>Änderung, %</translation>
     </message>
     <message>
         <source>Races</source>
@@ -5860,31 +5860,31 @@
     </message>
     <message>
         <source>Typical error, %</source>
-        <translation type="unfinished"></translation>
+        <translation>Typischer Fehler, %</translation>
     </message>
     <message>
         <source>No change</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Änderung</translation>
     </message>
     <message>
         <source>No race of the team has both.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein Rennen des Teams hat beides.</translation>
     </message>
     <message>
         <source>How much runs vary by chance</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie stark Läufe zufällig schwanken</translation>
     </message>
     <message>
         <source>Within, %</source>
-        <translation type="unfinished"></translation>
+        <translation>Streuung, %</translation>
     </message>
     <message>
         <source>Own alone, %</source>
-        <translation type="unfinished"></translation>
+        <translation>Eigene allein, %</translation>
     </message>
     <message>
         <source>With a missed gate</source>
-        <translation type="unfinished"></translation>
+        <translation>Mit Torfehler</translation>
     </message>
     <message>
         <source>Too few runs to tell how much they vary.</source>
@@ -5892,15 +5892,15 @@
     </message>
     <message>
         <source>Trend behind the winners</source>
-        <translation type="unfinished"></translation>
+        <translation>Trend hinter den Siegern</translation>
     </message>
     <message>
         <source>Trend behind the fastest splits</source>
-        <translation type="unfinished"></translation>
+        <translation>Trend hinter den schnellsten Abschnitten</translation>
     </message>
     <message>
         <source>A year, %</source>
-        <translation type="unfinished"></translation>
+        <translation>Im Jahr, %</translation>
     </message>
     <message>
         <source>Verdict</source>
@@ -5908,11 +5908,11 @@
     </message>
     <message>
         <source>Too few runs of everybody to tell a trend: four over two months are needed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zu wenige Läufe bei allen für einen Trend: nötig sind vier über zwei Monate.</translation>
     </message>
     <message>
         <source>%1 against</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 gegen</translation>
     </message>
     <message>
         <source>Against</source>
@@ -5920,7 +5920,7 @@
     </message>
     <message>
         <source>Ahead, %</source>
-        <translation type="unfinished"></translation>
+        <translation>Vorn, %</translation>
     </message>
     <message>
         <source>Met</source>
@@ -5928,35 +5928,35 @@
     </message>
     <message>
         <source>Won</source>
-        <translation type="unfinished"></translation>
+        <translation>Siege</translation>
     </message>
     <message>
         <source>Gap, %</source>
-        <translation type="unfinished"></translation>
+        <translation>Rückstand, %</translation>
     </message>
     <message>
         <source>Gap 90 %</source>
-        <translation type="unfinished"></translation>
+        <translation>Rückstand 90 %</translation>
     </message>
     <message>
         <source>Half</source>
-        <translation type="unfinished"></translation>
+        <translation>Hälfte</translation>
     </message>
     <message>
         <source>The athlete met nobody in these races.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Athlet traf in diesen Rennen auf niemanden.</translation>
     </message>
     <message>
         <source>Of races, %</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Rennen, %</translation>
     </message>
     <message>
         <source>No race of the team has a result that says so.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein Rennen des Teams hat ein Ergebnis, das dies sagt.</translation>
     </message>
     <message>
         <source>Expected places among %1 boats</source>
-        <translation type="unfinished"></translation>
+        <translation>Erwartete Plätze unter %1 Booten</translation>
     </message>
     <message>
         <source>Boat</source>
@@ -5964,23 +5964,23 @@
     </message>
     <message>
         <source>Medal, %</source>
-        <translation type="unfinished"></translation>
+        <translation>Medaille, %</translation>
     </message>
     <message>
         <source>First, %</source>
-        <translation type="unfinished"></translation>
+        <translation>Erster, %</translation>
     </message>
     <message>
         <source>Missed gate, %</source>
-        <translation type="unfinished"></translation>
+        <translation>Torfehler, %</translation>
     </message>
     <message>
         <source>Too few runs to expect places of anybody: each boat needs three, and the boats must have met.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zu wenige Läufe, um Plätze zu erwarten: jedes Boot braucht drei, und die Boote müssen aufeinander getroffen sein.</translation>
     </message>
     <message>
         <source>What ranks took: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Was Ränge brauchten: %1</translation>
     </message>
     <message>
         <source>Rank</source>
@@ -5988,175 +5988,175 @@
     </message>
     <message>
         <source>Behind the winner, %</source>
-        <translation type="unfinished"></translation>
+        <translation>Hinter dem Sieger, %</translation>
     </message>
     <message>
         <source>Quartiles</source>
-        <translation type="unfinished"></translation>
+        <translation>Quartile</translation>
     </message>
     <message>
         <source>Least</source>
-        <translation type="unfinished"></translation>
+        <translation>Kleinste</translation>
     </message>
     <message>
         <source>Most</source>
-        <translation type="unfinished"></translation>
+        <translation>Größte</translation>
     </message>
     <message>
         <source>%1 would have</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 hätten</translation>
     </message>
     <message>
         <source>Median of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Median von %1</translation>
     </message>
     <message>
         <source>The first %1, %2 more in the table</source>
-        <translation type="unfinished"></translation>
+        <translation>Die ersten %1, %2 weitere in der Tabelle</translation>
     </message>
     <message>
         <source>&amp;Import .kvb file</source>
-        <translation type="unfinished"></translation>
+        <translation>.kvb-Datei &amp;importieren</translation>
     </message>
     <message>
         <source>Import .s&amp;bm file</source>
-        <translation type="unfinished"></translation>
+        <translation>.s&amp;bm-Datei importieren</translation>
     </message>
     <message>
         <source>Import from a &amp;watch or logger…</source>
-        <translation type="unfinished"></translation>
+        <translation>Von &amp;Uhr oder Logger importieren…</translation>
     </message>
     <message>
         <source>Move the trac&amp;k of the watch in time…</source>
-        <translation type="unfinished"></translation>
+        <translation>Trac&amp;k der Uhr in der Zeit verschieben…</translation>
     </message>
     <message>
         <source>Import &amp;power-meter data…</source>
-        <translation type="unfinished"></translation>
+        <translation>Daten eines &amp;Leistungsmessers importieren…</translation>
     </message>
     <message>
         <source>Save the edited .&amp;kvb file</source>
-        <translation type="unfinished"></translation>
+        <translation>Bearbeitete .k&amp;vb-Datei speichern</translation>
     </message>
     <message>
         <source>&amp;Export the strokes…</source>
-        <translation type="unfinished"></translation>
+        <translation>Schläge e&amp;xportieren…</translation>
     </message>
     <message>
         <source>Export the &amp;turns…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Drehungen exportieren…</translation>
     </message>
     <message>
         <source>Export the se&amp;gments…</source>
-        <translation type="unfinished"></translation>
+        <translation>Se&amp;gmente exportieren…</translation>
     </message>
     <message>
         <source>Export the values per &amp;distance…</source>
-        <translation type="unfinished"></translation>
+        <translation>Werte je St&amp;recke exportieren…</translation>
     </message>
     <message>
         <source>Mount of the p&amp;hone</source>
-        <translation type="unfinished"></translation>
+        <translation>Lage des &amp;Telefons</translation>
     </message>
     <message>
         <source>Found from the position</source>
-        <translation type="unfinished"></translation>
+        <translation>Aus der Position bestimmt</translation>
     </message>
     <message>
         <source>Session &amp;information…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Angaben zur Einheit…</translation>
     </message>
     <message>
         <source>&amp;Analyse the recording again</source>
-        <translation type="unfinished"></translation>
+        <translation>Aufzeichnung neu aus&amp;werten</translation>
     </message>
     <message>
         <source>&amp;Keep the selected stretch</source>
-        <translation type="unfinished"></translation>
+        <translation>Gewähltes Stück &amp;behalten</translation>
     </message>
     <message>
         <source>Remove the selected &amp;stretch</source>
-        <translation type="unfinished"></translation>
+        <translation>Gewähltes &amp;Stück entfernen</translation>
     </message>
     <message>
         <source>Re&amp;move the selected strokes, turns or mark</source>
-        <translation type="unfinished"></translation>
+        <translation>Gewählte Schläge, Drehungen oder Marke &amp;entfernen</translation>
     </message>
     <message>
         <source>Select &amp;nothing</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Nichts wählen</translation>
     </message>
     <message>
         <source>&amp;Segments</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Segmente</translation>
     </message>
     <message>
         <source>&amp;Mark here</source>
-        <translation type="unfinished"></translation>
+        <translation>Hier &amp;markieren</translation>
     </message>
     <message>
         <source>Mo&amp;ve the nearest mark here</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Nächste Marke hierher</translation>
     </message>
     <message>
         <source>Nearest mark &amp;earlier</source>
-        <translation type="unfinished"></translation>
+        <translation>Nächste Marke &amp;früher</translation>
     </message>
     <message>
         <source>Nearest mark &amp;later</source>
-        <translation type="unfinished"></translation>
+        <translation>Nächste Marke &amp;später</translation>
     </message>
     <message>
         <source>&amp;Remove the nearest mark</source>
-        <translation type="unfinished"></translation>
+        <translation>Nächste Marke &amp;entfernen</translation>
     </message>
     <message>
         <source>Remove &amp;all marks</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Alle Marken entfernen</translation>
     </message>
     <message>
         <source>&amp;Save the segments</source>
-        <translation type="unfinished"></translation>
+        <translation>Segmente s&amp;peichern</translation>
     </message>
     <message>
         <source>&amp;Replay</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Wiedergabe</translation>
     </message>
     <message>
         <source>&amp;Play, pause</source>
-        <translation type="unfinished"></translation>
+        <translation>Abs&amp;pielen, Pause</translation>
     </message>
     <message>
         <source>&amp;Slower</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Langsamer</translation>
     </message>
     <message>
         <source>&amp;Faster</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Schneller</translation>
     </message>
     <message>
         <source>&amp;Real time</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Echtzeit</translation>
     </message>
     <message>
         <source>P&amp;revious stroke</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Voriger Schlag</translation>
     </message>
     <message>
         <source>&amp;Next stroke</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Nächster Schlag</translation>
     </message>
     <message>
         <source>&amp;Start</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Anfang</translation>
     </message>
     <message>
         <source>&amp;End</source>
-        <translation type="unfinished"></translation>
+        <translation>En&amp;de</translation>
     </message>
     <message>
         <source>&amp;Charts</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Diagramme</translation>
     </message>
     <message>
         <source>&amp;View</source>
@@ -6164,35 +6164,35 @@
     </message>
     <message>
         <source>&amp;Zoom to the selected stretch</source>
-        <translation type="unfinished"></translation>
+        <translation>Auf das gewählte Stück &amp;zoomen</translation>
     </message>
     <message>
         <source>&amp;Fit</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Einpassen</translation>
     </message>
     <message>
         <source>%1; “%2” is none.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1; „%2“ ist nichts davon.</translation>
     </message>
     <message>
         <source>%1 is of release %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ist von Version %2.</translation>
     </message>
     <message>
         <source>Its folder %1 cannot be written, so that the analyzer shows it and leaves it as it is.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Ordner %1 ist nicht beschreibbar; die Rennanalyse zeigt die Datei und lässt sie, wie sie ist.</translation>
     </message>
     <message>
         <source>Who of the team it is; a question mark: only you can tell</source>
-        <translation type="unfinished"></translation>
+        <translation>Wer im Team es ist; ein Fragezeichen: das weiß nur der Trainer</translation>
     </message>
     <message>
         <source> or </source>
-        <translation type="unfinished"></translation>
+        <translation> oder </translation>
     </message>
     <message>
         <source>Reckoned from the list</source>
-        <translation type="unfinished"></translation>
+        <translation>Aus der Liste berechnet</translation>
     </message>
     <message>
         <source>Line</source>
@@ -6200,191 +6200,191 @@
     </message>
     <message>
         <source>Column</source>
-        <translation type="unfinished"></translation>
+        <translation>Spalte</translation>
     </message>
     <message>
         <source>What stands there</source>
-        <translation type="unfinished"></translation>
+        <translation>Was dort steht</translation>
     </message>
     <message>
         <source>Why it is not taken</source>
-        <translation type="unfinished"></translation>
+        <translation>Warum nicht übernommen</translation>
     </message>
     <message>
         <source>Results list</source>
-        <translation type="unfinished"></translation>
+        <translation>Ergebnisliste</translation>
     </message>
     <message>
         <source>Attached document</source>
-        <translation type="unfinished"></translation>
+        <translation>Angehängtes Dokument</translation>
     </message>
     <message>
         <source>Table kept with the race</source>
-        <translation type="unfinished"></translation>
+        <translation>Tabelle beim Rennen</translation>
     </message>
     <message>
         <source>Lists (*.csv *.tsv *.txt *.xlsx *.ods *.kvx);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Listen (*.csv *.tsv *.txt *.xlsx *.ods *.kvx);;Alle Dateien (*)</translation>
     </message>
     <message>
         <source>The least is %1 (%2), the most %3 (%4), of %5 rows</source>
-        <translation type="unfinished"></translation>
+        <translation>Am kleinsten ist %1 (%2), am größten %3 (%4), von %5 Zeilen</translation>
     </message>
     <message>
         <source>; %1 without a number are left out</source>
-        <translation type="unfinished"></translation>
+        <translation>; %1 ohne Zahl sind ausgelassen</translation>
     </message>
     <message>
         <source>Choose a column of numbers or times: a click on one of its cells, then C.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Spalte mit Zahlen oder Zeiten wählen: eine ihrer Zellen anklicken, dann C.</translation>
     </message>
     <message>
         <source>Row</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeile</translation>
     </message>
     <message>
         <source>No row has a number in this column.</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Zeile hat in dieser Spalte eine Zahl.</translation>
     </message>
     <message>
         <source>&amp;Day</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Tag</translation>
     </message>
     <message>
         <source>Start &amp;list…</source>
-        <translation type="unfinished"></translation>
+        <translation>Start&amp;liste…</translation>
     </message>
     <message>
         <source>Films &amp;from…</source>
-        <translation type="unfinished"></translation>
+        <translation>Filme &amp;aus…</translation>
     </message>
     <message>
         <source>Reckon with the camera&apos;s &amp;clock</source>
-        <translation type="unfinished"></translation>
+        <translation>Mit der &amp;Uhr der Kamera rechnen</translation>
     </message>
     <message>
         <source>&amp;Remove the boat from the list</source>
-        <translation type="unfinished"></translation>
+        <translation>Boot aus der Liste &amp;entfernen</translation>
     </message>
     <message>
         <source>To the next film that is not &amp;timed yet</source>
-        <translation type="unfinished"></translation>
+        <translation>Zum nächsten Film &amp;ohne Zeiten</translation>
     </message>
     <message>
         <source>&amp;Open the film of the start in front</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Film des Starts nach vorn holen</translation>
     </message>
     <message>
         <source>&amp;Previous start</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Voriger Start</translation>
     </message>
     <message>
         <source>&amp;Next start</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Nächster Start</translation>
     </message>
     <message>
         <source>&amp;Agree: the film is named after its boat</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Zustimmen: der Film heißt nach seinem Boot</translation>
     </message>
     <message>
         <source>Agree to all that are &amp;sure</source>
-        <translation type="unfinished"></translation>
+        <translation>Allen &amp;sicheren zustimmen</translation>
     </message>
     <message>
         <source>Films from here on: one start &amp;earlier</source>
-        <translation type="unfinished"></translation>
+        <translation>Filme ab hier: einen Start frü&amp;her</translation>
     </message>
     <message>
         <source>Films from here on: one start late&amp;r</source>
-        <translation type="unfinished"></translation>
+        <translation>Filme ab hier: einen Start s&amp;päter</translation>
     </message>
     <message>
         <source>Did not start, or did after all</source>
-        <translation type="unfinished"></translation>
+        <translation>Nicht gestartet, oder doch</translation>
     </message>
     <message>
         <source>Did not finish, or did after all</source>
-        <translation type="unfinished"></translation>
+        <translation>Nicht im Ziel, oder doch</translation>
     </message>
     <message>
         <source>&amp;Notes</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Notizen</translation>
     </message>
     <message>
         <source>Stroke on the left</source>
-        <translation type="unfinished"></translation>
+        <translation>Schlag links</translation>
     </message>
     <message>
         <source>Stroke on the right</source>
-        <translation type="unfinished"></translation>
+        <translation>Schlag rechts</translation>
     </message>
     <message>
         <source>Other hand for the selected stroke</source>
-        <translation type="unfinished"></translation>
+        <translation>Andere Hand für den gewählten Schlag</translation>
     </message>
     <message>
         <source>Play from the selected tag</source>
-        <translation type="unfinished"></translation>
+        <translation>Ab der gewählten Markierung abspielen</translation>
     </message>
     <message>
         <source>To the other run of the time loss</source>
-        <translation type="unfinished"></translation>
+        <translation>Zum anderen Lauf des Zeitverlusts</translation>
     </message>
     <message>
         <source>Record the team radio, or end it</source>
-        <translation type="unfinished"></translation>
+        <translation>Teamfunk aufnehmen oder beenden</translation>
     </message>
     <message>
         <source>Clips of the chosen marks, one after another</source>
-        <translation type="unfinished"></translation>
+        <translation>Clips der gewählten Marken, nacheinander</translation>
     </message>
     <message>
         <source>Add a &amp;category</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Kategorie hinzufügen</translation>
     </message>
     <message>
         <source>&amp;Team</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Team</translation>
     </message>
     <message>
         <source>&amp;New athlete…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Neuer Athlet…</translation>
     </message>
     <message>
         <source>Remo&amp;ve the athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>Athleten entf&amp;ernen</translation>
     </message>
     <message>
         <source>Re&amp;move the category</source>
-        <translation type="unfinished"></translation>
+        <translation>Kategorie ent&amp;fernen</translation>
     </message>
     <message>
         <source>New &amp;season</source>
-        <translation type="unfinished"></translation>
+        <translation>Neue &amp;Saison</translation>
     </message>
     <message>
         <source>New &amp;race</source>
-        <translation type="unfinished"></translation>
+        <translation>Neues &amp;Rennen</translation>
     </message>
     <message>
         <source>Move season or race &amp;up</source>
-        <translation type="unfinished"></translation>
+        <translation>Saison oder Rennen nach &amp;oben</translation>
     </message>
     <message>
         <source>Move season or race &amp;down</source>
-        <translation type="unfinished"></translation>
+        <translation>Saison oder Rennen nach &amp;unten</translation>
     </message>
     <message>
         <source>Where the athlete &amp;loses time…</source>
-        <translation type="unfinished"></translation>
+        <translation>Wo der Athlet &amp;Zeit verliert…</translation>
     </message>
     <message>
         <source>S&amp;eason of the athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>Saison des &amp;Athleten</translation>
     </message>
     <message>
         <source>Compute all a&amp;verages again</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle &amp;Mittelwerte neu berechnen</translation>
     </message>
     <message>
         <source>&amp;Find an athlete</source>
@@ -6392,23 +6392,23 @@
     </message>
     <message>
         <source>Take &amp;results over…</source>
-        <translation type="unfinished"></translation>
+        <translation>Er&amp;gebnisse übernehmen…</translation>
     </message>
     <message>
         <source>Cate&amp;gorization report…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Bericht zur Einstufung…</translation>
     </message>
     <message>
         <source>Save the c&amp;hart…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Diagramm speichern…</translation>
     </message>
     <message>
         <source>&amp;Edit the cell</source>
-        <translation type="unfinished"></translation>
+        <translation>Zelle &amp;bearbeiten</translation>
     </message>
     <message>
         <source>&amp;Remove what is chosen</source>
-        <translation type="unfinished"></translation>
+        <translation>Gewähltes en&amp;tfernen</translation>
     </message>
     <message>
         <source>Athletes</source>
@@ -6416,15 +6416,15 @@
     </message>
     <message>
         <source>Selection %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Nominierung %1</translation>
     </message>
     <message>
         <source>Race analyzer</source>
-        <translation type="unfinished"></translation>
+        <translation>Rennanalyse</translation>
     </message>
     <message>
         <source>Every split of a race side by side, coloured by rank.</source>
-        <translation type="unfinished"></translation>
+        <translation>Jeder Abschnitt eines Rennens nebeneinander, nach Rang gefärbt.</translation>
     </message>
     <message>
         <source>Open races</source>
@@ -6440,7 +6440,7 @@
     </message>
     <message>
         <source>Where each run lost its time, section by section, and a season&apos;s pattern.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wo jeder Lauf seine Zeit verlor, Abschnitt für Abschnitt, und das Muster einer Saison.</translation>
     </message>
     <message>
         <source>Open split files</source>
@@ -6448,11 +6448,11 @@
     </message>
     <message>
         <source>Split taking</source>
-        <translation type="unfinished"></translation>
+        <translation>Zwischenzeitnahme</translation>
     </message>
     <message>
         <source>Time every run from its video, exact to the frame.</source>
-        <translation type="unfinished"></translation>
+        <translation>Jeden Lauf auf seinem Video stoppen, aufs Bild genau.</translation>
     </message>
     <message>
         <source>Open a folder of videos</source>
@@ -6464,7 +6464,7 @@
     </message>
     <message>
         <source>A folder of films played, compared in step, tagged, renamed and cut.</source>
-        <translation type="unfinished"></translation>
+        <translation>Einen Ordner mit Filmen abspielen, im Gleichlauf vergleichen, markieren, umbenennen und schneiden.</translation>
     </message>
     <message>
         <source>Open a folder of films</source>
@@ -6472,71 +6472,71 @@
     </message>
     <message>
         <source>Kayak cross</source>
-        <translation type="unfinished"></translation>
+        <translation>Kajak-Cross</translation>
     </message>
     <message>
         <source>Time trials, heats and attacks of a cross race, from video.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeitfahren, Heats und Angriffe eines Cross-Rennens, auf Video.</translation>
     </message>
     <message>
         <source>Open a kayak cross</source>
-        <translation type="unfinished"></translation>
+        <translation>Kajak-Cross öffnen</translation>
     </message>
     <message>
         <source>Compare films</source>
-        <translation type="unfinished"></translation>
+        <translation>Filme vergleichen</translation>
     </message>
     <message>
         <source>Two to four runs in one picture, together at a split, as a film to take home.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zwei bis vier Läufe in einem Bild, an einer Zwischenzeit gleichauf, als Film zum Mitnehmen.</translation>
     </message>
     <message>
         <source>Comparisons of films</source>
-        <translation type="unfinished"></translation>
+        <translation>Filmvergleiche</translation>
     </message>
     <message>
         <source>Comparisons</source>
-        <translation type="unfinished"></translation>
+        <translation>Vergleiche</translation>
     </message>
     <message>
         <source>Comparison</source>
-        <translation type="unfinished"></translation>
+        <translation>Vergleich</translation>
     </message>
     <message>
         <source>Team</source>
-        <translation type="unfinished"></translation>
+        <translation>Team</translation>
     </message>
     <message>
         <source>Results of every athlete, season by season, and their category.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ergebnisse jedes Athleten, Saison für Saison, und seine Kategorie.</translation>
     </message>
     <message>
         <source>Team results</source>
-        <translation type="unfinished"></translation>
+        <translation>Teamergebnisse</translation>
     </message>
     <message>
         <source>Teams</source>
-        <translation type="unfinished"></translation>
+        <translation>Teams</translation>
     </message>
     <message>
         <source>Selection races</source>
-        <translation type="unfinished"></translation>
+        <translation>Qualifikationsrennen</translation>
     </message>
     <message>
         <source>Who is selected, by which results, and why.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wer nominiert ist, durch welche Ergebnisse, und warum.</translation>
     </message>
     <message>
         <source>Planning</source>
-        <translation type="unfinished"></translation>
+        <translation>Planung</translation>
     </message>
     <message>
         <source>Seasons, weeks and sessions, heart, gym and goals of a group.</source>
-        <translation type="unfinished"></translation>
+        <translation>Saisons, Wochen und Einheiten, Herz, Kraftraum und Ziele einer Gruppe.</translation>
     </message>
     <message>
         <source>Plannings</source>
-        <translation type="unfinished"></translation>
+        <translation>Planungen</translation>
     </message>
     <message>
         <source>Tests</source>
@@ -6544,59 +6544,59 @@
     </message>
     <message>
         <source>Lap, sprint and eight tests on the water, compared.</source>
-        <translation type="unfinished"></translation>
+        <translation>Runden-, Sprint- und Achtertests auf dem Wasser, verglichen.</translation>
     </message>
     <message>
         <source>Boat motion</source>
-        <translation type="unfinished"></translation>
+        <translation>Bootsbewegung</translation>
     </message>
     <message>
         <source>Recordings of phone and watch over each other, and converted.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aufzeichnungen von Telefon und Uhr übereinander, und umgewandelt.</translation>
     </message>
     <message>
         <source>Open recordings</source>
-        <translation type="unfinished"></translation>
+        <translation>Aufzeichnungen öffnen</translation>
     </message>
     <message>
         <source>Recordings</source>
-        <translation type="unfinished"></translation>
+        <translation>Aufzeichnungen</translation>
     </message>
     <message>
         <source>Strokes, turns and segments of a recording, on a map and replayed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Schläge, Drehungen und Segmente einer Aufzeichnung, auf der Karte und als Wiedergabe.</translation>
     </message>
     <message>
         <source>Find</source>
-        <translation type="unfinished"></translation>
+        <translation>Suchen</translation>
     </message>
     <message>
         <source>Every gate, penalty and run of all seasons, by one question.</source>
-        <translation type="unfinished"></translation>
+        <translation>Jedes Tor, jede Strafe und jeder Lauf aller Saisons, mit einer Frage.</translation>
     </message>
     <message>
         <source>Search files</source>
-        <translation type="unfinished"></translation>
+        <translation>Dateien durchsuchen</translation>
     </message>
     <message>
         <source>Which gates are touched, by whom, and what it cost.</source>
-        <translation type="unfinished"></translation>
+        <translation>Welche Tore berührt werden, von wem, und was es kostete.</translation>
     </message>
     <message>
         <source>Tables</source>
-        <translation type="unfinished"></translation>
+        <translation>Tabellen</translation>
     </message>
     <message>
         <source>Any list of results, sorted, tinted, reckoned with, and whose it is.</source>
-        <translation type="unfinished"></translation>
+        <translation>Jede Ergebnisliste, sortiert, gefärbt, durchgerechnet, und wessen sie ist.</translation>
     </message>
     <message>
         <source>Open lists</source>
-        <translation type="unfinished"></translation>
+        <translation>Listen öffnen</translation>
     </message>
     <message>
         <source>Lists</source>
-        <translation type="unfinished"></translation>
+        <translation>Listen</translation>
     </message>
     <message>
         <source>Season</source>
@@ -6604,75 +6604,75 @@
     </message>
     <message>
         <source>How a team&apos;s athletes stand: trend, rivals, medals, what it takes.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie die Athleten eines Teams stehen: Trend, Rivalen, Medaillen, was es braucht.</translation>
     </message>
     <message>
         <source>Open a team</source>
-        <translation type="unfinished"></translation>
+        <translation>Team öffnen</translation>
     </message>
     <message>
         <source>Fetch films</source>
-        <translation type="unfinished"></translation>
+        <translation>Filme holen</translation>
     </message>
     <message>
         <source>The films of a race from a server, by the bibs of a start list.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Filme eines Rennens von einem Server, nach den Startnummern einer Startliste.</translation>
     </message>
     <message>
         <source>Open a source of films</source>
-        <translation type="unfinished"></translation>
+        <translation>Filmquelle öffnen</translation>
     </message>
     <message>
         <source>Sources of films</source>
-        <translation type="unfinished"></translation>
+        <translation>Filmquellen</translation>
     </message>
     <message>
         <source>Test session</source>
-        <translation type="unfinished"></translation>
+        <translation>Testeinheit</translation>
     </message>
     <message>
         <source>&amp;Test</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Test</translation>
     </message>
     <message>
         <source>New &amp;lap test</source>
-        <translation type="unfinished"></translation>
+        <translation>Neuer &amp;Rundentest</translation>
     </message>
     <message>
         <source>New &amp;sprint</source>
-        <translation type="unfinished"></translation>
+        <translation>Neuer &amp;Sprint</translation>
     </message>
     <message>
         <source>New &amp;eight test</source>
-        <translation type="unfinished"></translation>
+        <translation>Neuer &amp;Achtertest</translation>
     </message>
     <message>
         <source>&amp;Duplicate the test</source>
-        <translation type="unfinished"></translation>
+        <translation>Test &amp;duplizieren</translation>
     </message>
     <message>
         <source>&amp;Previous test</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Voriger Test</translation>
     </message>
     <message>
         <source>Ne&amp;xt test</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Nächster Test</translation>
     </message>
     <message>
         <source>&amp;Compare with the athlete&apos;s other tests</source>
-        <translation type="unfinished"></translation>
+        <translation>Mit anderen Tests des Athleten ver&amp;gleichen</translation>
     </message>
     <message>
         <source>&amp;Tick every listed test</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Tests der Liste a&amp;bhaken</translation>
     </message>
     <message>
         <source>&amp;Untick all</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Häkchen w&amp;eg</translation>
     </message>
     <message>
         <source>&amp;Values</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Werte</translation>
     </message>
     <message>
         <source>&amp;Table</source>
@@ -6680,39 +6680,39 @@
     </message>
     <message>
         <source>Charts by &amp;lap or stretch</source>
-        <translation type="unfinished"></translation>
+        <translation>Diagramme nach Runde oder S&amp;tück</translation>
     </message>
     <message>
         <source>Charts by t&amp;urn</source>
-        <translation type="unfinished"></translation>
+        <translation>Diagramme nach D&amp;rehung</translation>
     </message>
     <message>
         <source>Charts by &amp;stroke</source>
-        <translation type="unfinished"></translation>
+        <translation>Diagramme nach &amp;Schlag</translation>
     </message>
     <message>
         <source>&amp;List of tests</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Liste der Tests</translation>
     </message>
     <message>
         <source>Choose an &amp;athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>Ath&amp;leten wählen</translation>
     </message>
     <message>
         <source>Take in from a split &amp;file…</source>
-        <translation type="unfinished"></translation>
+        <translation>Aus &amp;Zwischenzeitdatei übernehmen…</translation>
     </message>
     <message>
         <source>Take in from a &amp;recording…</source>
-        <translation type="unfinished"></translation>
+        <translation>Aus Auf&amp;zeichnung übernehmen…</translation>
     </message>
     <message>
         <source>&amp;Export the table…</source>
-        <translation type="unfinished"></translation>
+        <translation>Tabelle e&amp;xportieren…</translation>
     </message>
     <message>
         <source>&amp;Copy the table</source>
-        <translation type="unfinished"></translation>
+        <translation>Tabelle &amp;kopieren</translation>
     </message>
     <message>
         <source>Course</source>
@@ -6720,51 +6720,51 @@
     </message>
     <message>
         <source>The course drawn: banks, gates, split lines and the lines of runs.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Strecke gezeichnet: Ufer, Tore, Zeitlinien und die Linien der Läufe.</translation>
     </message>
     <message>
         <source>Draw the course of a race</source>
-        <translation type="unfinished"></translation>
+        <translation>Strecke eines Rennens zeichnen</translation>
     </message>
     <message>
         <source>Tracking</source>
-        <translation type="unfinished"></translation>
+        <translation>Verfolgung</translation>
     </message>
     <message>
         <source>Boat, gate or head followed through a film: its path and speed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Boot, Tor oder Kopf durch einen Film verfolgt: Bahn und Tempo.</translation>
     </message>
     <message>
         <source>Open films</source>
-        <translation type="unfinished"></translation>
+        <translation>Filme öffnen</translation>
     </message>
     <message>
         <source>Slit picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Schlitzbild</translation>
     </message>
     <message>
         <source>A finish camera made of the film of a tripod: every crossing of a line at a glance.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Zielkamera aus dem Film eines Stativs: jede Überquerung einer Linie auf einen Blick.</translation>
     </message>
     <message>
         <source>Open films of a fixed camera</source>
-        <translation type="unfinished"></translation>
+        <translation>Filme einer festen Kamera öffnen</translation>
     </message>
     <message>
         <source>Share folders</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordner teilen</translation>
     </message>
     <message>
         <source>A folder the same here and on the team&apos;s own server, nothing overwritten.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Ordner, gleich hier und auf dem teameigenen Server, nichts wird überschrieben.</translation>
     </message>
     <message>
         <source>Share a folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordner teilen</translation>
     </message>
     <message>
         <source>Folders</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordner</translation>
     </message>
 </context>
 <context>
@@ -6779,27 +6779,27 @@
     </message>
     <message>
         <source>unknown</source>
-        <translation type="unfinished"></translation>
+        <translation>unbekannt</translation>
     </message>
     <message>
         <source>&amp;Name</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Name</translation>
     </message>
     <message>
         <source>&amp;Club</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Verein</translation>
     </message>
     <message>
         <source>&amp;Birth year</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Geburtsjahr</translation>
     </message>
     <message>
         <source>&amp;Age group</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Altersklasse</translation>
     </message>
     <message>
         <source>Preselected, group %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Gesetzt, Gruppe %1</translation>
     </message>
     <message>
         <source>none</source>
@@ -6807,7 +6807,7 @@
     </message>
     <message>
         <source>Bonus %1 (percent)</source>
-        <translation type="unfinished"></translation>
+        <translation>Bonus %1 (Prozent)</translation>
     </message>
 </context>
 <context>
@@ -6841,7 +6841,7 @@
     </message>
     <message>
         <source>&amp;Athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Athlet</translation>
     </message>
     <message>
         <source>&amp;From</source>
@@ -7151,11 +7151,11 @@
     </message>
     <message>
         <source>Weight</source>
-        <translation type="unfinished"></translation>
+        <translation>Gewicht</translation>
     </message>
     <message>
         <source>Body fat</source>
-        <translation type="unfinished"></translation>
+        <translation>Körperfett</translation>
     </message>
     <message>
         <source>Resting heart rate</source>
@@ -7991,7 +7991,7 @@ Press Insert to add one, or import a list.</source>
     <name>kavela::desktop::CompareWindow</name>
     <message>
         <source>Compare films</source>
-        <translation type="unfinished"></translation>
+        <translation>Filme vergleichen</translation>
     </message>
     <message>
         <source>Compose the &amp;film…</source>
@@ -8190,7 +8190,7 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>Within, %</source>
-        <translation type="unfinished"></translation>
+        <translation>Streuung, %</translation>
     </message>
     <message>
         <source>How much the runs vary by chance</source>
@@ -8198,7 +8198,7 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>A year, %</source>
-        <translation type="unfinished"></translation>
+        <translation>Im Jahr, %</translation>
     </message>
     <message>
         <source>Trend behind the winners, over all phases</source>
@@ -8363,7 +8363,7 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>Event</source>
-        <translation type="unfinished"></translation>
+        <translation>Ereignis</translation>
     </message>
     <message>
         <source>Place</source>
@@ -8454,7 +8454,7 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>&amp;Gate</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Tor</translation>
     </message>
     <message>
         <source>&amp;Split line</source>
@@ -8529,7 +8529,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>N</source>
-        <translation type="unfinished"></translation>
+        <translation>N</translation>
     </message>
     <message>
         <source>Speed (m/s)</source>
@@ -9051,7 +9051,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>m/s</source>
-        <translation type="unfinished"></translation>
+        <translation>m/s</translation>
     </message>
     <message>
         <source>km/h</source>
@@ -9090,15 +9090,15 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     <name>kavela::desktop::CursorTable</name>
     <message>
         <source>left</source>
-        <translation type="unfinished"></translation>
+        <translation>links</translation>
     </message>
     <message>
         <source>right</source>
-        <translation type="unfinished"></translation>
+        <translation>rechts</translation>
     </message>
     <message>
         <source>side unknown</source>
-        <translation type="unfinished"></translation>
+        <translation>Seite unbekannt</translation>
     </message>
     <message>
         <source>%1, %2</source>
@@ -9341,7 +9341,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Bib</source>
-        <translation type="unfinished"></translation>
+        <translation>Nr</translation>
     </message>
     <message>
         <source>Name</source>
@@ -9361,7 +9361,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>State</source>
-        <translation type="unfinished"></translation>
+        <translation>Stand</translation>
     </message>
     <message>
         <source>Film</source>
@@ -9558,11 +9558,11 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     <name>kavela::desktop::DetailsPanel</name>
     <message>
         <source>What</source>
-        <translation type="unfinished"></translation>
+        <translation>Was</translation>
     </message>
     <message>
         <source>Noted as</source>
-        <translation type="unfinished"></translation>
+        <translation>Notiert als</translation>
     </message>
     <message>
         <source>Penalties</source>
@@ -9582,7 +9582,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>90 %</source>
-        <translation type="unfinished"></translation>
+        <translation>90 %</translation>
     </message>
     <message>
         <source>Where the share lies with 90 %</source>
@@ -9690,7 +9690,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>What</source>
-        <translation type="unfinished"></translation>
+        <translation>Was</translation>
     </message>
     <message>
         <source>Then</source>
@@ -9749,7 +9749,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>“%1” cannot be opened</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ lässt sich nicht öffnen</translation>
     </message>
     <message>
         <source>The file was changed by another program since it was opened. Saving replaces what that program wrote.</source>
@@ -9922,7 +9922,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Weight</source>
-        <translation type="unfinished"></translation>
+        <translation>Gewicht</translation>
     </message>
     <message>
         <source>kg</source>
@@ -10007,7 +10007,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     <name>kavela::desktop::FactsForm</name>
     <message>
         <source>&amp;Athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Athlet</translation>
     </message>
     <message>
         <source>Name of the athlete</source>
@@ -10059,7 +10059,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     <name>kavela::desktop::FailedFiles</name>
     <message>
         <source>File</source>
-        <translation type="unfinished"></translation>
+        <translation>Datei</translation>
     </message>
     <message>
         <source>What is wrong</source>
@@ -10141,7 +10141,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     <name>kavela::desktop::FetchWindow</name>
     <message>
         <source>Fetch films</source>
-        <translation type="unfinished"></translation>
+        <translation>Filme holen</translation>
     </message>
     <message>
         <source>&amp;Address</source>
@@ -10213,7 +10213,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Abbrechen</translation>
     </message>
     <message>
         <source>Nothing is fetched before it is shown here</source>
@@ -10241,7 +10241,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Open a source of films</source>
-        <translation type="unfinished"></translation>
+        <translation>Filmquelle öffnen</translation>
     </message>
     <message>
         <source>Sources of films (*.json)</source>
@@ -10750,7 +10750,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     <name>kavela::desktop::FindWindow</name>
     <message>
         <source>Find</source>
-        <translation type="unfinished"></translation>
+        <translation>Suchen</translation>
     </message>
     <message>
         <source>Fields</source>
@@ -11060,7 +11060,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Gate %1, upstream</source>
-        <translation type="unfinished"></translation>
+        <translation>Tor %1, aufwärts</translation>
     </message>
     <message>
         <source>Gate %1</source>
@@ -11084,7 +11084,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Upstream</source>
-        <translation type="unfinished"></translation>
+        <translation>Aufwärts</translation>
     </message>
     <message>
         <source>Gates</source>
@@ -11138,7 +11138,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Gate %1, upstream</source>
-        <translation type="unfinished"></translation>
+        <translation>Tor %1, aufwärts</translation>
     </message>
     <message>
         <source>Gate %1</source>
@@ -11161,23 +11161,23 @@ T touch, F missed, 0 clean; N and P next and previous gate</source>
     <name>kavela::desktop::GaugeRow</name>
     <message>
         <source>1/min</source>
-        <translation type="unfinished"></translation>
+        <translation>1/min</translation>
     </message>
     <message>
         <source>m/s</source>
-        <translation type="unfinished"></translation>
+        <translation>m/s</translation>
     </message>
     <message>
         <source>N</source>
-        <translation type="unfinished"></translation>
+        <translation>N</translation>
     </message>
     <message>
         <source>N·s</source>
-        <translation type="unfinished"></translation>
+        <translation>N·s</translation>
     </message>
     <message>
         <source>W</source>
-        <translation type="unfinished"></translation>
+        <translation>W</translation>
     </message>
 </context>
 <context>
@@ -11308,7 +11308,7 @@ T touch, F missed, 0 clean; N and P next and previous gate</source>
     </message>
     <message>
         <source>Weight</source>
-        <translation type="unfinished"></translation>
+        <translation>Gewicht</translation>
     </message>
     <message>
         <source>Exercises</source>
@@ -11888,7 +11888,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>&amp;Athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Athlet</translation>
     </message>
     <message>
         <source>&amp;Location</source>
@@ -11896,7 +11896,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>&amp;Kind</source>
-        <translation type="unfinished"></translation>
+        <translation>A&amp;rt</translation>
     </message>
     <message>
         <source>&amp;Weight</source>
@@ -11939,7 +11939,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>%1 to %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 bis %2</translation>
     </message>
 </context>
 <context>
@@ -12972,7 +12972,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Recordings</source>
-        <translation type="unfinished"></translation>
+        <translation>Aufzeichnungen</translation>
     </message>
     <message>
         <source>&amp;Open recordings…</source>
@@ -13060,11 +13060,11 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>&amp;Next stroke</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Nächster Schlag</translation>
     </message>
     <message>
         <source>&amp;Charts</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Diagramme</translation>
     </message>
     <message>
         <source>Axes of the &amp;phone</source>
@@ -13160,11 +13160,11 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>1/min</source>
-        <translation type="unfinished"></translation>
+        <translation>1/min</translation>
     </message>
     <message>
         <source>m/s</source>
-        <translation type="unfinished"></translation>
+        <translation>m/s</translation>
     </message>
     <message>
         <source>Heart</source>
@@ -13172,15 +13172,15 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Speed</source>
-        <translation type="unfinished"></translation>
+        <translation>Tempo</translation>
     </message>
     <message>
         <source>Stroke rate</source>
-        <translation type="unfinished"></translation>
+        <translation>Schlagfrequenz</translation>
     </message>
     <message>
         <source>Heart rate</source>
-        <translation type="unfinished"></translation>
+        <translation>Herzfrequenz</translation>
     </message>
     <message>
         <source>Select a run to see its strokes, speed and heart rate.</source>
@@ -13210,7 +13210,7 @@ Penalties are left out.</source>
     <name>kavela::desktop::MotionWindow</name>
     <message>
         <source>Recordings</source>
-        <translation type="unfinished"></translation>
+        <translation>Aufzeichnungen</translation>
     </message>
     <message>
         <source>Open it</source>
@@ -13250,7 +13250,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Open recordings</source>
-        <translation type="unfinished"></translation>
+        <translation>Aufzeichnungen öffnen</translation>
     </message>
     <message>
         <source>Raw recordings (*.kvb);;All files (*)</source>
@@ -13469,15 +13469,15 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Results list</source>
-        <translation type="unfinished"></translation>
+        <translation>Ergebnisliste</translation>
     </message>
     <message>
         <source>Attached document</source>
-        <translation type="unfinished"></translation>
+        <translation>Angehängtes Dokument</translation>
     </message>
     <message>
         <source>Table kept with the race</source>
-        <translation type="unfinished"></translation>
+        <translation>Tabelle beim Rennen</translation>
     </message>
     <message>
         <source>All categories</source>
@@ -13497,7 +13497,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>“%1” cannot be opened</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ lässt sich nicht öffnen</translation>
     </message>
     <message>
         <source>The race carries no results list. Open one with “A file…”.</source>
@@ -13972,7 +13972,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>position</source>
-        <translation type="unfinished"></translation>
+        <translation>Position</translation>
     </message>
     <message>
         <source>Date</source>
@@ -14019,7 +14019,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>&amp;Athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Athlet</translation>
     </message>
     <message>
         <source>Choose one of the athletes of the list.</source>
@@ -14101,11 +14101,11 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Least</source>
-        <translation type="unfinished"></translation>
+        <translation>Kleinste</translation>
     </message>
     <message>
         <source>Most</source>
-        <translation type="unfinished"></translation>
+        <translation>Größte</translation>
     </message>
     <message>
         <source>Make</source>
@@ -14299,7 +14299,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>&amp;Name</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Name</translation>
     </message>
     <message>
         <source>&amp;Categories</source>
@@ -14348,11 +14348,11 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     <name>kavela::desktop::PlanningWindow</name>
     <message>
         <source>&amp;Athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Athlet</translation>
     </message>
     <message>
         <source>&amp;New athlete…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Neuer Athlet…</translation>
     </message>
     <message>
         <source>&amp;Edit the athlete…</source>
@@ -14364,7 +14364,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>New &amp;season</source>
-        <translation type="unfinished"></translation>
+        <translation>Neue &amp;Saison</translation>
     </message>
     <message>
         <source>Remove the s&amp;eason</source>
@@ -14484,7 +14484,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Planning</source>
-        <translation type="unfinished"></translation>
+        <translation>Planung</translation>
     </message>
     <message>
         <source>Plan</source>
@@ -14571,11 +14571,11 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>&amp;Slower</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Langsamer</translation>
     </message>
     <message>
         <source>&amp;Faster</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Schneller</translation>
     </message>
     <message>
         <source>&amp;Normal speed</source>
@@ -14696,7 +14696,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Import power-meter data</source>
-        <translation type="unfinished"></translation>
+        <translation>Daten eines Leistungsmessers importieren</translation>
     </message>
     <message>
         <source>Samples: %1. Lines refused: %2.</source>
@@ -14803,7 +14803,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Result</source>
-        <translation type="unfinished"></translation>
+        <translation>Ergebnis</translation>
     </message>
     <message>
         <source>The way of %1</source>
@@ -14811,7 +14811,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Behind the winner, %</source>
-        <translation type="unfinished"></translation>
+        <translation>Hinter dem Sieger, %</translation>
     </message>
     <message>
         <source>Behind the fastest splits, %</source>
@@ -15593,7 +15593,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     <name>kavela::desktop::RatesPanel</name>
     <message>
         <source>Passages</source>
-        <translation type="unfinished"></translation>
+        <translation>Durchfahrten</translation>
     </message>
     <message>
         <source>Runs that came past</source>
@@ -15613,7 +15613,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>90 %</source>
-        <translation type="unfinished"></translation>
+        <translation>90 %</translation>
     </message>
     <message>
         <source>Where the rate lies with 90 %</source>
@@ -15766,7 +15766,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>“%1” cannot be opened</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ lässt sich nicht öffnen</translation>
     </message>
     <message>
         <source>No recording yet</source>
@@ -15833,7 +15833,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>position</source>
-        <translation type="unfinished"></translation>
+        <translation>Position</translation>
     </message>
     <message>
         <source>no position</source>
@@ -15865,11 +15865,11 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>side unknown</source>
-        <translation type="unfinished"></translation>
+        <translation>Seite unbekannt</translation>
     </message>
     <message>
         <source>Recordings</source>
-        <translation type="unfinished"></translation>
+        <translation>Aufzeichnungen</translation>
     </message>
 </context>
 <context>
@@ -15899,7 +15899,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     <name>kavela::desktop::RecordingPanel</name>
     <message>
         <source>Found from the position</source>
-        <translation type="unfinished"></translation>
+        <translation>Aus der Position bestimmt</translation>
     </message>
     <message>
         <source>Later b&amp;y</source>
@@ -15911,7 +15911,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>s</source>
-        <translation type="unfinished"></translation>
+        <translation>s</translation>
     </message>
     <message>
         <source>&amp;Mass in motion</source>
@@ -16001,7 +16001,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     <name>kavela::desktop::RenderQueue</name>
     <message>
         <source>A film is still being composed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Film wird noch zusammengesetzt.</translation>
     </message>
     <message>
         <source>Leaving the program stops that, and nothing of an unfinished film is kept.</source>
@@ -16706,7 +16706,7 @@ Eine Datei wählen.</translation>
     </message>
     <message>
         <source>Search files</source>
-        <translation type="unfinished"></translation>
+        <translation>Dateien durchsuchen</translation>
     </message>
     <message>
         <source>Split files (*.kvx);;All files (*)</source>
@@ -16855,7 +16855,7 @@ Eine Datei wählen.</translation>
     </message>
     <message>
         <source>&amp;Athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Athlet</translation>
     </message>
 </context>
 <context>
@@ -16937,7 +16937,7 @@ Eine Datei wählen.</translation>
     <name>kavela::desktop::SeasonPage</name>
     <message>
         <source>%1 to %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 bis %2</translation>
     </message>
     <message>
         <source>too few</source>
@@ -16965,7 +16965,7 @@ Eine Datei wählen.</translation>
     </message>
     <message>
         <source>What</source>
-        <translation type="unfinished"></translation>
+        <translation>Was</translation>
     </message>
     <message>
         <source>Runs</source>
@@ -16981,7 +16981,7 @@ Eine Datei wählen.</translation>
     </message>
     <message>
         <source>Lost, %</source>
-        <translation type="unfinished"></translation>
+        <translation>Verlust, %</translation>
     </message>
     <message>
         <source>Of the reference&apos;s time there</source>
@@ -16989,7 +16989,7 @@ Eine Datei wählen.</translation>
     </message>
     <message>
         <source>90 %</source>
-        <translation type="unfinished"></translation>
+        <translation>90 %</translation>
     </message>
     <message>
         <source>A run</source>
@@ -17208,7 +17208,7 @@ Eine Datei wählen.</translation>
     </message>
     <message>
         <source>Open a team</source>
-        <translation type="unfinished"></translation>
+        <translation>Team öffnen</translation>
     </message>
     <message>
         <source>Teams (*.kvteam);;All files (*)</source>
@@ -17313,7 +17313,7 @@ Eine Datei wählen.</translation>
     </message>
     <message>
         <source>Behind best</source>
-        <translation type="unfinished"></translation>
+        <translation>Hinter dem Besten</translation>
     </message>
     <message>
         <source>Seconds behind the best of the section</source>
@@ -17619,7 +17619,7 @@ Eine Datei wählen.</translation>
     </message>
     <message>
         <source>Add a category first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Erst eine Kategorie hinzufügen.</translation>
     </message>
     <message>
         <source>%1 is in this category already.</source>
@@ -17661,7 +17661,7 @@ Eine Datei wählen.</translation>
     <name>kavela::desktop::SelectionWindow</name>
     <message>
         <source>Selection races</source>
-        <translation type="unfinished"></translation>
+        <translation>Qualifikationsrennen</translation>
     </message>
     <message>
         <source>Copy the table</source>
@@ -17677,7 +17677,7 @@ Eine Datei wählen.</translation>
     </message>
     <message>
         <source>&amp;Copy the table</source>
-        <translation type="unfinished"></translation>
+        <translation>Tabelle &amp;kopieren</translation>
     </message>
     <message>
         <source>&amp;What if</source>
@@ -17769,7 +17769,7 @@ Eine Datei wählen.</translation>
     </message>
     <message>
         <source>Selection %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Nominierung %1</translation>
     </message>
     <message>
         <source>What if: times and penalties typed now are tried only. End it (W) to go back to the real results.</source>
@@ -17857,27 +17857,27 @@ Eine Datei wählen.</translation>
     </message>
     <message>
         <source>Stroke rate</source>
-        <translation type="unfinished"></translation>
+        <translation>Schlagfrequenz</translation>
     </message>
     <message>
         <source>Force</source>
-        <translation type="unfinished"></translation>
+        <translation>Kraft</translation>
     </message>
     <message>
         <source>Impulse</source>
-        <translation type="unfinished"></translation>
+        <translation>Impuls</translation>
     </message>
     <message>
         <source>Power</source>
-        <translation type="unfinished"></translation>
+        <translation>Leistung</translation>
     </message>
     <message>
         <source>Speed</source>
-        <translation type="unfinished"></translation>
+        <translation>Tempo</translation>
     </message>
     <message>
         <source>Heart rate</source>
-        <translation type="unfinished"></translation>
+        <translation>Herzfrequenz</translation>
     </message>
     <message>
         <source>Phases</source>
@@ -18089,11 +18089,11 @@ Eine Datei wählen.</translation>
     </message>
     <message>
         <source>Speed</source>
-        <translation type="unfinished"></translation>
+        <translation>Tempo</translation>
     </message>
     <message>
         <source>Stroke rate</source>
-        <translation type="unfinished"></translation>
+        <translation>Schlagfrequenz</translation>
     </message>
     <message>
         <source>Colour of the course</source>
@@ -18116,7 +18116,7 @@ Eine Datei wählen.</translation>
     </message>
     <message>
         <source>All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Dateien (*)</translation>
     </message>
     <message>
         <source>Import .kvb file</source>
@@ -18124,7 +18124,7 @@ Eine Datei wählen.</translation>
     </message>
     <message>
         <source>Recordings (*.kvb)</source>
-        <translation type="unfinished"></translation>
+        <translation>Aufzeichnungen (*.kvb)</translation>
     </message>
     <message>
         <source>Import .sbm file</source>
@@ -18167,11 +18167,11 @@ Eine Datei wählen.</translation>
     </message>
     <message>
         <source>Split taking</source>
-        <translation type="unfinished"></translation>
+        <translation>Zwischenzeitnahme</translation>
     </message>
     <message>
         <source>Boat motion</source>
-        <translation type="unfinished"></translation>
+        <translation>Bootsbewegung</translation>
     </message>
     <message>
         <source>At start</source>
@@ -18313,7 +18313,7 @@ Eine Datei wählen.</translation>
     <name>kavela::desktop::ShareWindow</name>
     <message>
         <source>Share folders</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordner teilen</translation>
     </message>
     <message>
         <source>F&amp;older</source>
@@ -18357,7 +18357,7 @@ Eine Datei wählen.</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Abbrechen</translation>
     </message>
     <message>
         <source>Nothing is shared before it is shown here</source>
@@ -18636,11 +18636,11 @@ and %1 more</source>
     </message>
     <message>
         <source>&amp;Slower</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Langsamer</translation>
     </message>
     <message>
         <source>&amp;Faster</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Schneller</translation>
     </message>
     <message>
         <source>&amp;Normal speed</source>
@@ -18762,7 +18762,7 @@ and %1 more</source>
     <name>kavela::desktop::SlitStrip</name>
     <message>
         <source>Slit picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Schlitzbild</translation>
     </message>
     <message>
         <source>What stood on the line over the film, over time. A click goes there.</source>
@@ -18773,7 +18773,7 @@ and %1 more</source>
     <name>kavela::desktop::SlitView</name>
     <message>
         <source>Slit picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Schlitzbild</translation>
     </message>
     <message>
         <source>%1 %</source>
@@ -18796,7 +18796,7 @@ and %1 more</source>
     </message>
     <message>
         <source>Slit picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Schlitzbild</translation>
     </message>
     <message>
         <source>“%1” is not there.</source>
@@ -19383,7 +19383,7 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>Save the c&amp;hart…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Diagramm speichern…</translation>
     </message>
     <message>
         <source>&amp;Edit</source>
@@ -19510,7 +19510,7 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     <name>kavela::desktop::TablesWindow</name>
     <message>
         <source>Tables</source>
-        <translation type="unfinished"></translation>
+        <translation>Tabellen</translation>
     </message>
     <message>
         <source>Drop a list of results here</source>
@@ -19582,7 +19582,7 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>Open lists</source>
-        <translation type="unfinished"></translation>
+        <translation>Listen öffnen</translation>
     </message>
     <message>
         <source>Begin anew?</source>
@@ -19610,7 +19610,7 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>“%1” cannot be opened</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ lässt sich nicht öffnen</translation>
     </message>
     <message>
         <source>Nobody of the team</source>
@@ -19761,7 +19761,7 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>Result</source>
-        <translation type="unfinished"></translation>
+        <translation>Ergebnis</translation>
     </message>
     <message>
         <source>Athlete</source>
@@ -19773,7 +19773,7 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>Leave out</source>
-        <translation type="unfinished"></translation>
+        <translation>Auslassen</translation>
     </message>
     <message>
         <source>Add %1 to the team</source>
@@ -19825,7 +19825,7 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>&amp;Day</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Tag</translation>
     </message>
     <message>
         <source>Take over</source>
@@ -19891,11 +19891,11 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>&amp;Test</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Test</translation>
     </message>
     <message>
         <source>&amp;Athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Athlet</translation>
     </message>
     <message>
         <source>&amp;Location</source>
@@ -20024,7 +20024,7 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>s</source>
-        <translation type="unfinished"></translation>
+        <translation>s</translation>
     </message>
     <message>
         <source>Motion</source>
@@ -20044,7 +20044,7 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>&amp;Test</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Test</translation>
     </message>
     <message>
         <source>Take %1 runs in</source>
@@ -20451,7 +20451,7 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>There are no results in it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Darin sind keine Ergebnisse.</translation>
     </message>
     <message>
         <source>Line %1: %2</source>
@@ -20463,11 +20463,11 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>results taken over</source>
-        <translation type="unfinished"></translation>
+        <translation>Ergebnisse übernommen</translation>
     </message>
     <message>
         <source>Team</source>
-        <translation type="unfinished"></translation>
+        <translation>Team</translation>
     </message>
     <message>
         <source>new athlete</source>
@@ -20557,7 +20557,7 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>Test session</source>
-        <translation type="unfinished"></translation>
+        <translation>Testeinheit</translation>
     </message>
     <message>
         <source>Values</source>
@@ -20565,11 +20565,11 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>&amp;Export the table…</source>
-        <translation type="unfinished"></translation>
+        <translation>Tabelle e&amp;xportieren…</translation>
     </message>
     <message>
         <source>“%1” cannot be opened</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ lässt sich nicht öffnen</translation>
     </message>
     <message>
         <source>Attempt %1
@@ -20586,7 +20586,7 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>Export the table</source>
-        <translation type="unfinished"></translation>
+        <translation>Tabelle exportieren</translation>
     </message>
     <message>
         <source>Semicolon-separated text (*.csv)</source>
@@ -20775,7 +20775,7 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Dateien (*)</translation>
     </message>
     <message>
         <source>&amp;Edit</source>
@@ -20878,7 +20878,7 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>Result</source>
-        <translation type="unfinished"></translation>
+        <translation>Ergebnis</translation>
     </message>
     <message>
         <source>Place</source>
@@ -20981,7 +20981,7 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     <name>kavela::desktop::TrackingWindow</name>
     <message>
         <source>Tracking</source>
-        <translation type="unfinished"></translation>
+        <translation>Verfolgung</translation>
     </message>
     <message>
         <source>Paths on films (*.track.json)</source>
@@ -21013,7 +21013,7 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>Speed</source>
-        <translation type="unfinished"></translation>
+        <translation>Tempo</translation>
     </message>
     <message>
         <source>Figures</source>
@@ -21232,11 +21232,11 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>Touches a run</source>
-        <translation type="unfinished"></translation>
+        <translation>Berührungen je Lauf</translation>
     </message>
     <message>
         <source>90 %</source>
-        <translation type="unfinished"></translation>
+        <translation>90 %</translation>
     </message>
     <message>
         <source>Exact interval of the touches</source>
@@ -21338,7 +21338,7 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>Gate %1 %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Tor %1 %2</translation>
     </message>
     <message>
         <source>Roll</source>
@@ -21457,7 +21457,7 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Abbrechen</translation>
     </message>
 </context>
 <context>
@@ -21496,7 +21496,7 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>Gate %1 is marked. N goes to the next gate, Shift+M moves the selected mark.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tor %1 ist markiert. N geht zum nächsten Tor, Umschalt+M verschiebt die gewählte Marke.</translation>
     </message>
     <message>
         <source>Gate %1 is no upstream gate. N goes to the next one.</source>
@@ -21504,15 +21504,15 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>%1 of gate %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 von Tor %2</translation>
     </message>
     <message>
         <source>Gate %1 %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Tor %1 %2</translation>
     </message>
     <message>
         <source>gate %1 removed</source>
-        <translation type="unfinished"></translation>
+        <translation>Tor %1 entfernt</translation>
     </message>
     <message>
         <source>The marks of gate %1 are removed. Ctrl+Z brings them back.</source>
@@ -21524,11 +21524,11 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>Gate %1: M marks the %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Tor %1: M markiert: %2</translation>
     </message>
     <message>
         <source>Gate %1 is marked</source>
-        <translation type="unfinished"></translation>
+        <translation>Tor %1 ist markiert</translation>
     </message>
     <message>
         <source>%1 s in the gate</source>
@@ -21674,11 +21674,11 @@ Add one by hand with Ctrl+N, or drop split files and recordings here.</source>
     </message>
     <message>
         <source>Event</source>
-        <translation type="unfinished"></translation>
+        <translation>Ereignis</translation>
     </message>
     <message>
         <source>On-water test</source>
-        <translation type="unfinished"></translation>
+        <translation>Wassertest</translation>
     </message>
     <message>
         <source>done on</source>
@@ -21686,11 +21686,11 @@ Add one by hand with Ctrl+N, or drop split files and recordings here.</source>
     </message>
     <message>
         <source>Endurance test</source>
-        <translation type="unfinished"></translation>
+        <translation>Ausdauertest</translation>
     </message>
     <message>
         <source>Blood test</source>
-        <translation type="unfinished"></translation>
+        <translation>Bluttest</translation>
     </message>
     <message>
         <source>Injured part</source>
@@ -21818,7 +21818,7 @@ Add one by hand with Ctrl+N, or drop split files and recordings here.</source>
     </message>
     <message>
         <source>Result</source>
-        <translation type="unfinished"></translation>
+        <translation>Ergebnis</translation>
     </message>
     <message>
         <source>Percent</source>
@@ -21952,7 +21952,7 @@ Add one by hand with Ctrl+N, or drop split files and recordings here.</source>
     </message>
     <message>
         <source>Event</source>
-        <translation type="unfinished"></translation>
+        <translation>Ereignis</translation>
     </message>
     <message>
         <source>Tests</source>
