@@ -5524,19 +5524,19 @@
     </message>
     <message>
         <source>The greatest loss is that of %1 in S%2: %3 on %4.</source>
-        <translation>Der größte Verlust ist der von %1 in A%2: %3 auf %4.</translation>
+        <translation>Der größte Verlust ist der von %1 in S%2: %3 auf %4.</translation>
     </message>
     <message>
         <source>Never behind the %1; %2 at the end of S%3.</source>
-        <translation>Nie im Rückstand auf: %1; %2 am Ende von A%3.</translation>
+        <translation>Nie im Rückstand auf: %1; %2 am Ende von S%3.</translation>
     </message>
     <message>
         <source>Farthest behind at the end: %1 after S%2.</source>
-        <translation>Am Ende am weitesten zurück: %1 nach A%2.</translation>
+        <translation>Am Ende am weitesten zurück: %1 nach S%2.</translation>
     </message>
     <message>
         <source>Farthest behind after S%1: %2; %3 after S%4.</source>
-        <translation>Am weitesten zurück nach A%1: %2; %3 nach A%4.</translation>
+        <translation>Am weitesten zurück nach S%1: %2; %3 nach S%4.</translation>
     </message>
     <message>
         <source>no motion of the boat</source>
@@ -6814,7 +6814,7 @@
     <name>kavela::desktop::AthleteList</name>
     <message>
         <source>Search athletes</source>
-        <translation type="unfinished"></translation>
+        <translation>Athleten suchen</translation>
     </message>
     <message>
         <source>Season</source>
@@ -6822,22 +6822,22 @@
     </message>
     <message>
         <source>none yet</source>
-        <translation type="unfinished"></translation>
+        <translation>noch keine</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::AthletePageDialog</name>
     <message>
         <source>Page of an athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>Seite eines Athleten</translation>
     </message>
     <message>
         <source>All races that are open</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle offenen Rennen</translation>
     </message>
     <message>
         <source>Only the race of the run that is shown</source>
-        <translation type="unfinished"></translation>
+        <translation>Nur das Rennen des gezeigten Laufs</translation>
     </message>
     <message>
         <source>&amp;Athlete</source>
@@ -6845,53 +6845,53 @@
     </message>
     <message>
         <source>&amp;From</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Aus</translation>
     </message>
     <message>
         <source>&amp;Preview and print…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Vorschau und Druck…</translation>
     </message>
     <message>
         <source>&amp;Save as PDF…</source>
-        <translation type="unfinished"></translation>
+        <translation>Als &amp;PDF speichern…</translation>
     </message>
     <message>
         <source>One A4 page: where time is lost on the %1, what to train, penalties.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine A4-Seite: wo Zeit verloren geht (Referenz: %1), was zu trainieren ist, Strafen.</translation>
     </message>
     <message>
         <source>Choose one of the athletes of the list.</source>
-        <translation type="unfinished"></translation>
+        <translation>Einen Athleten aus der Liste wählen.</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::AthletePages</name>
     <message>
         <source>Save the page of the athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>Seite des Athleten speichern</translation>
     </message>
     <message>
         <source>PDF documents (*.pdf)</source>
-        <translation type="unfinished"></translation>
+        <translation>PDF-Dokumente (*.pdf)</translation>
     </message>
     <message>
         <source>The page cannot be written over a race that it is made from.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Seite kann nicht über ein Rennen geschrieben werden, aus dem sie entsteht.</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::AthletePanel</name>
     <message>
         <source>Retired: left out of the categorization report</source>
-        <translation type="unfinished"></translation>
+        <translation>Zurückgetreten: nicht im Bericht zur Einstufung</translation>
     </message>
     <message>
         <source>Search athletes</source>
-        <translation type="unfinished"></translation>
+        <translation>Athleten suchen</translation>
     </message>
     <message>
         <source>Ctrl+F</source>
-        <translation type="unfinished"></translation>
+        <translation>Strg+F</translation>
     </message>
     <message>
         <source>All categories</source>
@@ -6903,15 +6903,15 @@
     </message>
     <message>
         <source>name</source>
-        <translation type="unfinished"></translation>
+        <translation>Name</translation>
     </message>
     <message>
         <source>Born</source>
-        <translation type="unfinished"></translation>
+        <translation>Geb.</translation>
     </message>
     <message>
         <source>birth year</source>
-        <translation type="unfinished"></translation>
+        <translation>Geburtsjahr</translation>
     </message>
     <message>
         <source>Boats</source>
@@ -6919,34 +6919,34 @@
     </message>
     <message>
         <source>Ret.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zur.</translation>
     </message>
     <message>
         <source>Retired</source>
-        <translation type="unfinished"></translation>
+        <translation>Zurückgetreten</translation>
     </message>
     <message>
         <source>retirement</source>
-        <translation type="unfinished"></translation>
+        <translation>Rücktritt</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::AttackForm</name>
     <message>
         <source>Passed</source>
-        <translation type="unfinished"></translation>
+        <translation>Vorbei</translation>
     </message>
     <message>
         <source>No end</source>
-        <translation type="unfinished"></translation>
+        <translation>Ohne Ende</translation>
     </message>
     <message>
         <source>Takes the end of the attack out</source>
-        <translation type="unfinished"></translation>
+        <translation>Nimmt das Ende des Angriffs heraus</translation>
     </message>
     <message>
         <source>The attacker went past</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Angreifer kam vorbei</translation>
     </message>
     <message>
         <source>Attacker</source>
@@ -6954,7 +6954,7 @@
     </message>
     <message>
         <source>on</source>
-        <translation type="unfinished"></translation>
+        <translation>auf</translation>
     </message>
     <message>
         <source>attacker</source>
@@ -6962,7 +6962,7 @@
     </message>
     <message>
         <source>outcome of an attack</source>
-        <translation type="unfinished"></translation>
+        <translation>Ausgang eines Angriffs</translation>
     </message>
     <message>
         <source>Comment</source>
@@ -6978,31 +6978,31 @@
     </message>
     <message>
         <source>side of an attack</source>
-        <translation type="unfinished"></translation>
+        <translation>Seite eines Angriffs</translation>
     </message>
     <message>
         <source>place of an attack</source>
-        <translation type="unfinished"></translation>
+        <translation>Ort eines Angriffs</translation>
     </message>
     <message>
         <source>comment on an attack</source>
-        <translation type="unfinished"></translation>
+        <translation>Kommentar zu einem Angriff</translation>
     </message>
     <message>
         <source>Start here</source>
-        <translation type="unfinished"></translation>
+        <translation>Beginnt hier</translation>
     </message>
     <message>
         <source>The attack starts at this frame</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Angriff beginnt bei diesem Bild</translation>
     </message>
     <message>
         <source>End here</source>
-        <translation type="unfinished"></translation>
+        <translation>Endet hier</translation>
     </message>
     <message>
         <source>The attack ends at this frame</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Angriff endet bei diesem Bild</translation>
     </message>
     <message>
         <source>Remove</source>
@@ -7010,23 +7010,23 @@
     </message>
     <message>
         <source>Removes the attack</source>
-        <translation type="unfinished"></translation>
+        <translation>Entfernt den Angriff</translation>
     </message>
     <message>
         <source>?  %1</source>
-        <translation type="unfinished"></translation>
+        <translation>?  %1</translation>
     </message>
     <message>
         <source>unnamed</source>
-        <translation type="unfinished"></translation>
+        <translation>ohne Namen</translation>
     </message>
     <message>
         <source>Start %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Anfang %1</translation>
     </message>
     <message>
         <source>End %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Ende %1</translation>
     </message>
     <message>
         <source>defenders</source>
@@ -7034,18 +7034,18 @@
     </message>
     <message>
         <source>%1 defends</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 verteidigt</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::AveragesModel</name>
     <message>
         <source>Share of the runs with so many penalty seconds</source>
-        <translation type="unfinished"></translation>
+        <translation>Anteil der Läufe mit so vielen Strafsekunden</translation>
     </message>
     <message>
         <source>S%1</source>
-        <translation>A%1</translation>
+        <translation>S%1</translation>
     </message>
     <message>
         <source>Season</source>
@@ -7057,50 +7057,50 @@
     </message>
     <message>
         <source>Behind</source>
-        <translation type="unfinished"></translation>
+        <translation>Rückstand</translation>
     </message>
     <message>
         <source>Clean</source>
-        <translation type="unfinished"></translation>
+        <translation>Fehlerfrei</translation>
     </message>
     <message>
         <source>2 s</source>
-        <translation type="unfinished"></translation>
+        <translation>2 s</translation>
     </message>
     <message>
         <source>4 s</source>
-        <translation type="unfinished"></translation>
+        <translation>4 s</translation>
     </message>
     <message>
         <source>6 to 48 s</source>
-        <translation type="unfinished"></translation>
+        <translation>6 bis 48 s</translation>
     </message>
     <message>
         <source>50 s and more</source>
-        <translation type="unfinished"></translation>
+        <translation>50 s und mehr</translation>
     </message>
     <message>
         <source>All seasons</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Saisons</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::BalanceView</name>
     <message>
         <source>Side unknown: nothing tells which side of the phone points to the bow. Name its mount in the menu Edit, and left and right are found.</source>
-        <translation type="unfinished"></translation>
+        <translation>Seite unbekannt: nichts sagt, welche Seite des Telefons zum Bug zeigt. Seine Lage im Menü Bearbeiten nennen, dann sind links und rechts bestimmt.</translation>
     </message>
     <message>
         <source>even</source>
-        <translation type="unfinished"></translation>
+        <translation>gleich</translation>
     </message>
     <message>
         <source>left +%1 %</source>
-        <translation type="unfinished"></translation>
+        <translation>links +%1 %</translation>
     </message>
     <message>
         <source>right +%1 %</source>
-        <translation type="unfinished"></translation>
+        <translation>rechts +%1 %</translation>
     </message>
     <message>
         <source>Strokes</source>
@@ -7108,19 +7108,19 @@
     </message>
     <message>
         <source>Force (N)</source>
-        <translation type="unfinished"></translation>
+        <translation>Kraft (N)</translation>
     </message>
     <message>
         <source>Impulse (N·s)</source>
-        <translation type="unfinished"></translation>
+        <translation>Impuls (N·s)</translation>
     </message>
     <message>
         <source>Power (W)</source>
-        <translation type="unfinished"></translation>
+        <translation>Leistung (W)</translation>
     </message>
     <message>
         <source>Water phase (s)</source>
-        <translation type="unfinished"></translation>
+        <translation>Wasserphase (s)</translation>
     </message>
     <message>
         <source>Left</source>
@@ -7132,22 +7132,22 @@
     </message>
     <message>
         <source>Differences under %1 % are no finding</source>
-        <translation type="unfinished"></translation>
+        <translation>Unterschiede unter %1 % sagen nichts</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::BodyPanel</name>
     <message>
         <source>Body</source>
-        <translation type="unfinished"></translation>
+        <translation>Körper</translation>
     </message>
     <message>
         <source>body data</source>
-        <translation type="unfinished"></translation>
+        <translation>Körperdaten</translation>
     </message>
     <message>
         <source>Add weight</source>
-        <translation type="unfinished"></translation>
+        <translation>Neues Gewicht</translation>
     </message>
     <message>
         <source>Weight</source>
@@ -7159,94 +7159,97 @@
     </message>
     <message>
         <source>Resting heart rate</source>
-        <translation type="unfinished"></translation>
+        <translation>Ruhepuls</translation>
     </message>
     <message>
         <source>heart rate</source>
-        <translation type="unfinished"></translation>
+        <translation>Herzfrequenz</translation>
     </message>
     <message>
         <source>Add heart rate</source>
-        <translation type="unfinished"></translation>
+        <translation>Neue Herzfrequenz</translation>
     </message>
     <message>
         <source>Heart-rate variability</source>
-        <translation type="unfinished"></translation>
+        <translation>Herzfrequenzvariabilität</translation>
     </message>
     <message>
         <source>variability</source>
-        <translation type="unfinished"></translation>
+        <translation>Variabilität</translation>
     </message>
     <message>
         <source>Add measurement</source>
-        <translation type="unfinished"></translation>
+        <translation>Neue Messung</translation>
     </message>
     <message>
         <source>Import list…</source>
-        <translation type="unfinished"></translation>
+        <translation>Liste importieren…</translation>
     </message>
     <message>
         <source>A list with a header: Date and one or more of AVNN, SDNN, rMSSD, pNN50, LF, HF. It can also be dropped here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Liste mit Kopfzeile: Date und einer oder mehrere von AVNN, SDNN, rMSSD, pNN50, LF, HF. Sie lässt sich auch hierher ziehen.</translation>
     </message>
     <message>
         <source>Index of the chart</source>
-        <translation type="unfinished"></translation>
+        <translation>Index des Diagramms</translation>
     </message>
     <message>
         <source>&amp;Index</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Index</translation>
     </message>
     <message>
         <source>Choose an athlete.</source>
-        <translation type="unfinished"></translation>
+        <translation>Einen Athleten wählen.</translation>
     </message>
     <message>
         <source>Add a season for this athlete first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Erst eine Saison für diesen Athleten hinzufügen.</translation>
     </message>
     <message>
         <source>No weight of this season yet.
 Press Insert to add today&apos;s.</source>
-        <translation type="unfinished"></translation>
+        <translation>Noch kein Gewicht dieser Saison.
+Einfg fügt das heutige hinzu.</translation>
     </message>
     <message>
         <source>No heart rate of this season yet.
 Press Insert to add this morning&apos;s.</source>
-        <translation type="unfinished"></translation>
+        <translation>Noch keine Herzfrequenz dieser Saison.
+Einfg fügt die von heute Morgen hinzu.</translation>
     </message>
     <message>
         <source>No measurement of this season yet.
 Press Insert to add one, or import a list.</source>
-        <translation type="unfinished"></translation>
+        <translation>Noch keine Messung dieser Saison.
+Einfg fügt eine hinzu, oder eine Liste importieren.</translation>
     </message>
     <message>
         <source>bpm</source>
-        <translation type="unfinished"></translation>
+        <translation>1/min</translation>
     </message>
     <message>
         <source>Add a few mornings&apos; heart rates to see the mean of the week against what is usual.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Herzfrequenz einiger Morgen hinzufügen, um das Wochenmittel gegen das Übliche zu sehen.</translation>
     </message>
     <message>
         <source>No %1 of this season. Add measurements, import a list or choose another index.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein %1 in dieser Saison. Messungen hinzufügen, eine Liste importieren oder einen anderen Index wählen.</translation>
     </message>
     <message>
         <source>Import variability</source>
-        <translation type="unfinished"></translation>
+        <translation>Variabilität importieren</translation>
     </message>
     <message>
         <source>Lists (*.csv *.txt *.tsv);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Listen (*.csv *.txt *.tsv);;Alle Dateien (*)</translation>
     </message>
     <message>
         <source>import of variability</source>
-        <translation type="unfinished"></translation>
+        <translation>Import von Variabilität</translation>
     </message>
     <message>
         <source>The list cannot be read: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Liste ist nicht lesbar: %1</translation>
     </message>
 </context>
 <context>
@@ -7261,35 +7264,35 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>Lag</source>
-        <translation type="unfinished"></translation>
+        <translation>Versatz</translation>
     </message>
     <message>
         <source>Off by</source>
-        <translation type="unfinished"></translation>
+        <translation>Abweichung</translation>
     </message>
     <message>
         <source>Attach a film…</source>
-        <translation type="unfinished"></translation>
+        <translation>Film zuordnen…</translation>
     </message>
     <message>
         <source>Beside the film</source>
-        <translation type="unfinished"></translation>
+        <translation>Daneben</translation>
     </message>
     <message>
         <source>Detach</source>
-        <translation type="unfinished"></translation>
+        <translation>Lösen</translation>
     </message>
     <message>
         <source>Takes the film shown beside off this run</source>
-        <translation type="unfinished"></translation>
+        <translation>Nimmt den daneben gezeigten Film von diesem Lauf</translation>
     </message>
     <message>
         <source>Attach it to every run</source>
-        <translation type="unfinished"></translation>
+        <translation>Jedem Lauf zuordnen</translation>
     </message>
     <message>
         <source>A fixed camera often films the whole race in one go</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine feste Kamera filmt oft das ganze Rennen am Stück</translation>
     </message>
     <message>
         <source>None</source>
@@ -7297,55 +7300,55 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>Attach the film of a camera that stood at the course.</source>
-        <translation type="unfinished"></translation>
+        <translation>Den Film einer Kamera zuordnen, die an der Strecke stand.</translation>
     </message>
     <message>
         <source>Choose a camera to see its film beside this one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Kamera wählen, um ihren Film neben diesem zu sehen.</translation>
     </message>
     <message>
         <source>Find one moment on both films, the fixed camera&apos;s alone with Alt+PgUp and Alt+PgDown. M marks it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Einen Moment auf beiden Filmen suchen, den der festen Kamera allein mit Alt+Bild auf und Alt+Bild ab. M markiert ihn.</translation>
     </message>
     <message>
         <source>In step: the fixed camera&apos;s film is %1 s ahead.</source>
-        <translation type="unfinished"></translation>
+        <translation>Im Gleichlauf: der Film der festen Kamera ist %1 s voraus.</translation>
     </message>
     <message>
         <source>Placed by the dates in the two films, to a second or two.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nach den Daten in beiden Filmen gelegt, auf ein, zwei Sekunden genau.</translation>
     </message>
     <message>
         <source>Not in step yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Noch nicht im Gleichlauf.</translation>
     </message>
     <message>
         <source>Its film has no date: moments are kept without the time of its clock.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ihr Film hat kein Datum: Momente stehen ohne die Zeit ihrer Uhr.</translation>
     </message>
     <message>
         <source>fixed camera detached</source>
-        <translation type="unfinished"></translation>
+        <translation>feste Kamera gelöst</translation>
     </message>
     <message>
         <source>fixed camera for every run</source>
-        <translation type="unfinished"></translation>
+        <translation>feste Kamera für jeden Lauf</translation>
     </message>
     <message>
         <source>The film of the fixed camera shows no frame.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Film der festen Kamera zeigt kein Bild.</translation>
     </message>
     <message>
         <source>moment on both films</source>
-        <translation type="unfinished"></translation>
+        <translation>Moment auf beiden Filmen</translation>
     </message>
     <message>
         <source>Same moment</source>
-        <translation type="unfinished"></translation>
+        <translation>Gleicher Moment</translation>
     </message>
     <message>
         <source>moment removed</source>
-        <translation type="unfinished"></translation>
+        <translation>Moment entfernt</translation>
     </message>
 </context>
 <context>
@@ -7356,15 +7359,15 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source> · %1 of %2 selected runs</source>
-        <translation type="unfinished"></translation>
+        <translation> · %1 von %2 gewählten Läufen</translation>
     </message>
     <message>
         <source>The filter matches nobody. Change it to see runs again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Filter passt auf niemanden. Ihn ändern, um wieder Läufe zu sehen.</translation>
     </message>
     <message>
         <source>Open a race to see its charts.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Rennen öffnen, um seine Diagramme zu sehen.</translation>
     </message>
     <message numerus="yes">
         <source>%n runs</source>
@@ -7382,7 +7385,7 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>&amp;Reference</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Referenz</translation>
     </message>
     <message>
         <source>Reference</source>
@@ -7390,7 +7393,7 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>What the runs are held against</source>
-        <translation type="unfinished"></translation>
+        <translation>Womit die Läufe verglichen werden</translation>
     </message>
     <message>
         <source>Fit</source>
@@ -7410,11 +7413,11 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>Best run</source>
-        <translation type="unfinished"></translation>
+        <translation>Bester Lauf</translation>
     </message>
     <message>
         <source>Median</source>
-        <translation type="unfinished"></translation>
+        <translation>Median</translation>
     </message>
     <message>
         <source>Ideal run</source>
@@ -7429,19 +7432,19 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>Race progression</source>
-        <translation type="unfinished"></translation>
+        <translation>Rennverlauf</translation>
     </message>
     <message>
         <source>Averages</source>
-        <translation type="unfinished"></translation>
+        <translation>Mittelwerte</translation>
     </message>
     <message>
         <source>&amp;All seasons</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Alle Saisons</translation>
     </message>
     <message>
         <source>The season chart shows every season, not the chosen one alone</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Saisondiagramm zeigt jede Saison, nicht nur die gewählte</translation>
     </message>
     <message>
         <source>Save chart…</source>
@@ -7449,11 +7452,11 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>As a picture (PNG, SVG) or as CSV (Ctrl+E)</source>
-        <translation type="unfinished"></translation>
+        <translation>Als Bild (PNG, SVG) oder als CSV (Strg+E)</translation>
     </message>
     <message>
         <source>The results of an athlete stand here as charts.</source>
-        <translation type="unfinished"></translation>
+        <translation>Hier stehen die Ergebnisse eines Athleten als Diagramme.</translation>
     </message>
     <message>
         <source>%1, %2</source>
@@ -7461,42 +7464,42 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>all seasons</source>
-        <translation type="unfinished"></translation>
+        <translation>alle Saisons</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::ChartView</name>
     <message>
         <source>No test yet</source>
-        <translation type="unfinished"></translation>
+        <translation>Noch kein Test</translation>
     </message>
     <message>
         <source>%1 × %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 × %2</translation>
     </message>
     <message>
         <source>Test</source>
-        <translation type="unfinished"></translation>
+        <translation>Test</translation>
     </message>
     <message>
         <source>Split %1 (s)</source>
-        <translation type="unfinished"></translation>
+        <translation>Zwischenzeit %1 (s)</translation>
     </message>
     <message>
         <source>Total (s)</source>
-        <translation type="unfinished"></translation>
+        <translation>Gesamt (s)</translation>
     </message>
     <message>
         <source>Standard deviation (s)</source>
-        <translation type="unfinished"></translation>
+        <translation>Standardabweichung (s)</translation>
     </message>
     <message>
         <source>Laps</source>
-        <translation type="unfinished"></translation>
+        <translation>Runden</translation>
     </message>
     <message>
         <source>Turns</source>
-        <translation type="unfinished"></translation>
+        <translation>Drehungen</translation>
     </message>
     <message>
         <source>Strokes</source>
@@ -7504,114 +7507,115 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>Stretches</source>
-        <translation type="unfinished"></translation>
+        <translation>Stücke</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::ClipPair</name>
     <message>
         <source>This run has no film.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieser Lauf hat keinen Film.</translation>
     </message>
     <message>
         <source>The film is not there:
 %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Film ist nicht da:
+%1</translation>
     </message>
     <message>
         <source>Play or pause the clips</source>
-        <translation type="unfinished"></translation>
+        <translation>Clips abspielen oder anhalten</translation>
     </message>
     <message>
         <source>Play</source>
-        <translation type="unfinished"></translation>
+        <translation>Abspielen</translation>
     </message>
     <message>
         <source>Play the clips from their beginnings</source>
-        <translation type="unfinished"></translation>
+        <translation>Clips von Anfang an abspielen</translation>
     </message>
     <message>
         <source>From the start</source>
-        <translation type="unfinished"></translation>
+        <translation>Von vorn</translation>
     </message>
     <message>
         <source>One frame back in the clips</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Bild zurück in den Clips</translation>
     </message>
     <message>
         <source>Frame back</source>
-        <translation type="unfinished"></translation>
+        <translation>Bild zurück</translation>
     </message>
     <message>
         <source>One frame forward in the clips</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Bild vor in den Clips</translation>
     </message>
     <message>
         <source>Frame on</source>
-        <translation type="unfinished"></translation>
+        <translation>Bild vor</translation>
     </message>
     <message>
         <source>Clips in slow motion</source>
-        <translation type="unfinished"></translation>
+        <translation>Clips in Zeitlupe</translation>
     </message>
     <message>
         <source>Slow motion</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeitlupe</translation>
     </message>
     <message>
         <source>Clips slower</source>
-        <translation type="unfinished"></translation>
+        <translation>Clips langsamer</translation>
     </message>
     <message>
         <source>Slower</source>
-        <translation type="unfinished"></translation>
+        <translation>Langsamer</translation>
     </message>
     <message>
         <source>Clips faster</source>
-        <translation type="unfinished"></translation>
+        <translation>Clips schneller</translation>
     </message>
     <message>
         <source>Faster</source>
-        <translation type="unfinished"></translation>
+        <translation>Schneller</translation>
     </message>
     <message>
         <source>Clips at normal speed</source>
-        <translation type="unfinished"></translation>
+        <translation>Clips mit normalem Tempo</translation>
     </message>
     <message>
         <source>Normal speed</source>
-        <translation type="unfinished"></translation>
+        <translation>Normales Tempo</translation>
     </message>
     <message>
         <source>Repeat the clips</source>
-        <translation type="unfinished"></translation>
+        <translation>Clips wiederholen</translation>
     </message>
     <message>
         <source>Repeat</source>
-        <translation type="unfinished"></translation>
+        <translation>Wiederholen</translation>
     </message>
     <message>
         <source>%1 · %2 s, at its end</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 · %2 s, am Ende</translation>
     </message>
     <message>
         <source>%1 · %2 of %3 s</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 · %2 von %3 s</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::ColumnTable</name>
     <message>
         <source>&amp;Copy</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Kopieren</translation>
     </message>
     <message>
         <source>&amp;Copy what is selected</source>
-        <translation type="unfinished"></translation>
+        <translation>Gewähltes &amp;kopieren</translation>
     </message>
     <message>
         <source>&amp;Save as CSV…</source>
-        <translation type="unfinished"></translation>
+        <translation>Als CSV &amp;speichern…</translation>
     </message>
     <message>
         <source>C&amp;olumns</source>
@@ -7630,34 +7634,34 @@ Press Insert to add one, or import a list.</source>
     <name>kavela::desktop::CommandPalette</name>
     <message>
         <source>Search</source>
-        <translation type="unfinished"></translation>
+        <translation>Suchen</translation>
     </message>
     <message>
         <source>An action, a file, an athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Aktion, eine Datei, ein Athlet</translation>
     </message>
     <message>
         <source>Nothing here is called “%1”.</source>
-        <translation type="unfinished"></translation>
+        <translation>Hier heißt nichts „%1“.</translation>
     </message>
     <message>
         <source>Searched: actions, recent files and the names in this window.</source>
-        <translation type="unfinished"></translation>
+        <translation>Durchsucht: Aktionen, zuletzt geöffnete Dateien und die Namen in diesem Fenster.</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::CommentPage</name>
     <message>
         <source>score</source>
-        <translation type="unfinished"></translation>
+        <translation>Wertung</translation>
     </message>
     <message>
         <source>Show the coach&apos;s comments</source>
-        <translation type="unfinished"></translation>
+        <translation>Kommentare des Trainers zeigen</translation>
     </message>
     <message>
         <source>comment on split %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Kommentar zu Zwischenzeit %1</translation>
     </message>
     <message>
         <source>Split</source>
@@ -7669,48 +7673,48 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>Athlet</translation>
     </message>
     <message>
         <source>coach</source>
-        <translation type="unfinished"></translation>
+        <translation>Trainer</translation>
     </message>
     <message>
         <source>Scores</source>
-        <translation type="unfinished"></translation>
+        <translation>Wertungen</translation>
     </message>
     <message>
         <source>Give-ups</source>
-        <translation type="unfinished"></translation>
+        <translation>Aufgaben</translation>
     </message>
     <message>
         <source>team radio</source>
-        <translation type="unfinished"></translation>
+        <translation>Teamfunk</translation>
     </message>
     <message>
         <source>team radio removed</source>
-        <translation type="unfinished"></translation>
+        <translation>Teamfunk entfernt</translation>
     </message>
     <message>
         <source>team radio moved</source>
-        <translation type="unfinished"></translation>
+        <translation>Teamfunk verschoben</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::CompareDocument</name>
     <message>
         <source>It is no comparison of films, or a damaged one: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Das ist kein Filmvergleich, oder ein beschädigter: %1</translation>
     </message>
     <message>
         <source>1 film</source>
-        <translation type="unfinished"></translation>
+        <translation>1 Film</translation>
     </message>
     <message numerus="yes">
         <source>%n films</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Film</numerusform>
+            <numerusform>%n Filme</numerusform>
         </translation>
     </message>
 </context>
@@ -7718,11 +7722,11 @@ Press Insert to add one, or import a list.</source>
     <name>kavela::desktop::CompareFilmsPanel</name>
     <message>
         <source>In it</source>
-        <translation type="unfinished"></translation>
+        <translation>Darin</translation>
     </message>
     <message>
         <source>Its place in the composed film. Space chooses it or takes it out.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sein Platz im zusammengesetzten Film. Leertaste wählt ihn oder nimmt ihn heraus.</translation>
     </message>
     <message>
         <source>Film</source>
@@ -7730,7 +7734,7 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>It is not marked from the start to a split.</source>
-        <translation type="unfinished"></translation>
+        <translation>Er ist nicht vom Start bis zu einer Zwischenzeit markiert.</translation>
     </message>
     <message>
         <source>Name</source>
@@ -7750,134 +7754,134 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>Name in the film</source>
-        <translation type="unfinished"></translation>
+        <translation>Name im Film</translation>
     </message>
     <message>
         <source>name in the film</source>
-        <translation type="unfinished"></translation>
+        <translation>Name im Film</translation>
     </message>
     <message>
         <source>In place of that of the split file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Anstelle dessen aus der Zwischenzeitdatei.</translation>
     </message>
     <message>
         <source>category in the film</source>
-        <translation type="unfinished"></translation>
+        <translation>Kategorie im Film</translation>
     </message>
     <message>
         <source>Starts at [s]</source>
-        <translation type="unfinished"></translation>
+        <translation>Beginn [s]</translation>
     </message>
     <message>
         <source>The second of the film at which a run without marks starts.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Sekunde des Films, in der ein Lauf ohne Marken beginnt.</translation>
     </message>
     <message>
         <source>marked</source>
-        <translation type="unfinished"></translation>
+        <translation>markiert</translation>
     </message>
     <message>
         <source>The start is a second of the film, 0 to 86400</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Start ist eine Sekunde des Films, 0 bis 86400</translation>
     </message>
     <message>
         <source>start of a film</source>
-        <translation type="unfinished"></translation>
+        <translation>Start eines Films</translation>
     </message>
     <message>
         <source>No.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nr.</translation>
     </message>
     <message>
         <source>Find a name, a category, a film…</source>
-        <translation type="unfinished"></translation>
+        <translation>Name, Kategorie oder Film suchen…</translation>
     </message>
     <message>
         <source>Add split files or films, then tick the two to four that are compared.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zwischenzeitdateien oder Filme hinzufügen, dann zwei bis vier zum Vergleich abhaken.</translation>
     </message>
     <message>
         <source>Add s&amp;plit files…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Zwischenzeitdateien hinzufügen…</translation>
     </message>
     <message>
         <source>Add &amp;films…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Filme hinzufügen…</translation>
     </message>
     <message>
         <source>In the composed film</source>
-        <translation type="unfinished"></translation>
+        <translation>Im zusammengesetzten Film</translation>
     </message>
     <message>
         <source>No film is chosen yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Noch kein Film gewählt.</translation>
     </message>
     <message>
         <source>&amp;Take it out</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Herausnehmen</translation>
     </message>
     <message>
         <source>Move it &amp;up</source>
-        <translation type="unfinished"></translation>
+        <translation>Nach &amp;oben</translation>
     </message>
     <message>
         <source>Move it &amp;down</source>
-        <translation type="unfinished"></translation>
+        <translation>Nach &amp;unten</translation>
     </message>
     <message>
         <source>Four films are the most. Take one out first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Mehr als vier Filme gehen nicht. Erst einen herausnehmen.</translation>
     </message>
     <message>
         <source>choice of a film</source>
-        <translation type="unfinished"></translation>
+        <translation>Wahl eines Films</translation>
     </message>
     <message>
         <source>removal of a film</source>
-        <translation type="unfinished"></translation>
+        <translation>Entfernen eines Films</translation>
     </message>
     <message>
         <source>order of the films</source>
-        <translation type="unfinished"></translation>
+        <translation>Reihenfolge der Filme</translation>
     </message>
     <message>
         <source>path of a film</source>
-        <translation type="unfinished"></translation>
+        <translation>Bahn eines Films</translation>
     </message>
     <message>
         <source>Path</source>
-        <translation type="unfinished"></translation>
+        <translation>Bahn</translation>
     </message>
     <message>
         <source>Draws the path that was followed on it in the window Tracking.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeichnet die Bahn ein, die im Fenster Verfolgung auf ihm verfolgt wurde.</translation>
     </message>
     <message>
         <source>Follow</source>
-        <translation type="unfinished"></translation>
+        <translation>Folgen</translation>
     </message>
     <message>
         <source>Shows it twice as large, round that path.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeigt ihn doppelt so groß, um diese Bahn herum.</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::CompareForm</name>
     <message>
         <source>&amp;Layout</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Anordnung</translation>
     </message>
     <message>
         <source>Line at</source>
-        <translation type="unfinished"></translation>
+        <translation>Linie bei</translation>
     </message>
     <message>
         <source>0 left, 1 right</source>
-        <translation type="unfinished"></translation>
+        <translation>0 links, 1 rechts</translation>
     </message>
     <message>
         <source>&amp;Together</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Gleichauf</translation>
     </message>
     <message>
         <source>Split</source>
@@ -7885,47 +7889,47 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>Sho&amp;wn</source>
-        <translation type="unfinished"></translation>
+        <translation>Ge&amp;zeigt</translation>
     </message>
     <message>
         <source>From split</source>
-        <translation type="unfinished"></translation>
+        <translation>Von Zwischenzeit</translation>
     </message>
     <message>
         <source>To split</source>
-        <translation type="unfinished"></translation>
+        <translation>Bis Zwischenzeit</translation>
     </message>
     <message>
         <source>From</source>
-        <translation type="unfinished"></translation>
+        <translation>Von</translation>
     </message>
     <message>
         <source>To</source>
-        <translation type="unfinished"></translation>
+        <translation>Bis</translation>
     </message>
     <message>
         <source>Spee&amp;d</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Tempo</translation>
     </message>
     <message>
         <source>Slow motion has no sound.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeitlupe hat keinen Ton.</translation>
     </message>
     <message>
         <source>To be read in it</source>
-        <translation type="unfinished"></translation>
+        <translation>Darin zu lesen</translation>
     </message>
     <message>
         <source>&amp;Names</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Namen</translation>
     </message>
     <message>
         <source>&amp;Clock</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Uhr</translation>
     </message>
     <message>
         <source>Split times and gaps</source>
-        <translation type="unfinished"></translation>
+        <translation>Zwischenzeiten und Rückstände</translation>
     </message>
     <message>
         <source>Section</source>
@@ -7937,43 +7941,43 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>Chart of the gap</source>
-        <translation type="unfinished"></translation>
+        <translation>Diagramm des Rückstands</translation>
     </message>
     <message>
         <source>The file</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei</translation>
     </message>
     <message>
         <source>Si&amp;ze</source>
-        <translation type="unfinished"></translation>
+        <translation>G&amp;röße</translation>
     </message>
     <message>
         <source>1080 × 1920, upright</source>
-        <translation type="unfinished"></translation>
+        <translation>1080 × 1920, hochkant</translation>
     </message>
     <message>
         <source>720 × 1280, upright</source>
-        <translation type="unfinished"></translation>
+        <translation>720 × 1280, hochkant</translation>
     </message>
     <message>
         <source>1080 × 1080, square</source>
-        <translation type="unfinished"></translation>
+        <translation>1080 × 1080, quadratisch</translation>
     </message>
     <message>
         <source>For sending</source>
-        <translation type="unfinished"></translation>
+        <translation>Zum Versenden</translation>
     </message>
     <message>
         <source>At most 1280 × 720 and coarser: a small file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Höchstens 1280 × 720 und gröber: eine kleine Datei.</translation>
     </message>
     <message>
         <source>S&amp;ound of film</source>
-        <translation type="unfinished"></translation>
+        <translation>T&amp;on des Films</translation>
     </message>
     <message>
         <source>None in slow motion, nor while that film waits or is stretched.</source>
-        <translation type="unfinished"></translation>
+        <translation>Keiner in Zeitlupe, und solange dieser Film wartet oder gedehnt ist.</translation>
     </message>
     <message>
         <source>none</source>
@@ -7984,7 +7988,7 @@ Press Insert to add one, or import a list.</source>
     <name>kavela::desktop::CompareView</name>
     <message>
         <source>Preview of the composed film</source>
-        <translation type="unfinished"></translation>
+        <translation>Vorschau des zusammengesetzten Films</translation>
     </message>
 </context>
 <context>
@@ -7995,87 +7999,87 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>Compose the &amp;film…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Film zusammensetzen…</translation>
     </message>
     <message>
         <source>Add s&amp;plit files…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Zwischenzeitdateien hinzufügen…</translation>
     </message>
     <message>
         <source>Add &amp;films…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Filme hinzufügen…</translation>
     </message>
     <message>
         <source>&amp;Compose the film…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Film zusammensetzen…</translation>
     </message>
     <message>
         <source>Films being composed: &amp;jobs</source>
-        <translation type="unfinished"></translation>
+        <translation>Auf&amp;träge: Filme in Arbeit</translation>
     </message>
     <message>
         <source>&amp;Find a run or a film</source>
-        <translation type="unfinished"></translation>
+        <translation>Lauf oder Film s&amp;uchen</translation>
     </message>
     <message>
         <source>&amp;Play</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Wiedergabe</translation>
     </message>
     <message>
         <source>&amp;Play or pause</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Abspielen oder anhalten</translation>
     </message>
     <message>
         <source>From the &amp;beginning</source>
-        <translation type="unfinished"></translation>
+        <translation>Von &amp;Anfang an</translation>
     </message>
     <message>
         <source>One frame ba&amp;ck</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Bild &amp;zurück</translation>
     </message>
     <message>
         <source>One frame &amp;on</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Bild &amp;vor</translation>
     </message>
     <message>
         <source>P&amp;art</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Teil</translation>
     </message>
     <message>
         <source>&amp;Begin here</source>
-        <translation type="unfinished"></translation>
+        <translation>Hier &amp;beginnen</translation>
     </message>
     <message>
         <source>&amp;End here</source>
-        <translation type="unfinished"></translation>
+        <translation>Hier &amp;enden</translation>
     </message>
     <message>
         <source>The &amp;whole run</source>
-        <translation type="unfinished"></translation>
+        <translation>Der &amp;ganze Lauf</translation>
     </message>
     <message>
         <source>part that is shown</source>
-        <translation type="unfinished"></translation>
+        <translation>gezeigter Teil</translation>
     </message>
     <message>
         <source>&amp;Align the second film by two points</source>
-        <translation type="unfinished"></translation>
+        <translation>Zweiten Film an zwei Punkten aus&amp;richten</translation>
     </message>
     <message>
         <source>&amp;Forget the points</source>
-        <translation type="unfinished"></translation>
+        <translation>Punkte ver&amp;gessen</translation>
     </message>
     <message>
         <source>The film could not be composed: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Film konnte nicht zusammengesetzt werden: %1</translation>
     </message>
     <message>
         <source>%1 is there. %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ist da. %2</translation>
     </message>
     <message>
         <source>Add the runs of split files</source>
-        <translation type="unfinished"></translation>
+        <translation>Läufe von Zwischenzeitdateien hinzufügen</translation>
     </message>
     <message>
         <source>Split files (*.kvx);;All files (*)</source>
@@ -8083,19 +8087,19 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>Add films</source>
-        <translation type="unfinished"></translation>
+        <translation>Filme hinzufügen</translation>
     </message>
     <message>
         <source>Films (*.mp4 *.mov *.m4v *.avi *.mkv *.mts *.m2ts);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Filme (*.mp4 *.mov *.m4v *.avi *.mkv *.mts *.m2ts);;Alle Dateien (*)</translation>
     </message>
     <message>
         <source>Tick two to four films to compare them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zwei bis vier Filme zum Vergleich abhaken.</translation>
     </message>
     <message>
         <source>Tick one more film to compare it with.</source>
-        <translation type="unfinished"></translation>
+        <translation>Noch einen Film zum Vergleich abhaken.</translation>
     </message>
     <message>
         <source>Start</source>
@@ -8103,70 +8107,70 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>Four films are the most: these are the first four</source>
-        <translation type="unfinished"></translation>
+        <translation>Mehr als vier Filme gehen nicht: dies sind die ersten vier</translation>
     </message>
     <message>
         <source>Pause</source>
-        <translation type="unfinished"></translation>
+        <translation>Pause</translation>
     </message>
     <message>
         <source>Play</source>
-        <translation type="unfinished"></translation>
+        <translation>Abspielen</translation>
     </message>
     <message>
         <source>%1 of %2 s</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 von %2 s</translation>
     </message>
     <message>
         <source>Two films are aligned: choose two.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zwei Filme werden ausgerichtet: zwei wählen.</translation>
     </message>
     <message>
         <source>Click the same two things in both films, such as the poles of a gate. A gives it up.</source>
-        <translation type="unfinished"></translation>
+        <translation>In beiden Filmen auf dieselben zwei Dinge klicken, etwa die Torstäbe. A bricht ab.</translation>
     </message>
     <message>
         <source>points that were forgotten</source>
-        <translation type="unfinished"></translation>
+        <translation>vergessene Punkte</translation>
     </message>
     <message>
         <source>alignment by two points</source>
-        <translation type="unfinished"></translation>
+        <translation>Ausrichten an zwei Punkten</translation>
     </message>
     <message>
         <source>Compose the film</source>
-        <translation type="unfinished"></translation>
+        <translation>Film zusammensetzen</translation>
     </message>
     <message>
         <source>Films (*.mp4)</source>
-        <translation type="unfinished"></translation>
+        <translation>Filme (*.mp4)</translation>
     </message>
     <message>
         <source>file of the film</source>
-        <translation type="unfinished"></translation>
+        <translation>Datei des Films</translation>
     </message>
     <message>
         <source>Composing: %1, %2 more</source>
-        <translation type="unfinished"></translation>
+        <translation>Wird zusammengesetzt: %1, %2 weitere</translation>
     </message>
     <message>
         <source>Composing: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Wird zusammengesetzt: %1</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::ComparisonPanel</name>
     <message>
         <source>%1 of %2 (%3–%4 %)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 von %2 (%3–%4 %)</translation>
     </message>
     <message>
         <source>Behind the winners in the &amp;phase</source>
-        <translation type="unfinished"></translation>
+        <translation>Hinter den Siegern in der &amp;Phase</translation>
     </message>
     <message>
         <source>Nobody of the team races in this category.</source>
-        <translation type="unfinished"></translation>
+        <translation>Niemand im Team fährt in dieser Kategorie.</translation>
     </message>
     <message>
         <source>Athlete</source>
@@ -8178,15 +8182,15 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>Behind, %</source>
-        <translation type="unfinished"></translation>
+        <translation>Rückstand, %</translation>
     </message>
     <message>
         <source>Median behind the winners of the phase, without missed gates</source>
-        <translation type="unfinished"></translation>
+        <translation>Median hinter den Siegern der Phase, ohne Torfehler</translation>
     </message>
     <message>
         <source>of runs</source>
-        <translation type="unfinished"></translation>
+        <translation>der Läufe</translation>
     </message>
     <message>
         <source>Within, %</source>
@@ -8194,7 +8198,7 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>How much the runs vary by chance</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie stark die Läufe zufällig schwanken</translation>
     </message>
     <message>
         <source>A year, %</source>
@@ -8202,11 +8206,11 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>Trend behind the winners, over all phases</source>
-        <translation type="unfinished"></translation>
+        <translation>Trend hinter den Siegern, über alle Phasen</translation>
     </message>
     <message>
         <source>Trend</source>
-        <translation type="unfinished"></translation>
+        <translation>Trend</translation>
     </message>
     <message>
         <source>too few</source>
@@ -8222,7 +8226,7 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>The athletes year by year: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Athleten Jahr für Jahr: %1</translation>
     </message>
     <message>
         <source>Year</source>
@@ -8230,14 +8234,14 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>Median behind the winner, %</source>
-        <translation type="unfinished"></translation>
+        <translation>Median hinter dem Sieger, %</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::CostPanel</name>
     <message>
         <source>%1 A medal.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Eine Medaille.</translation>
     </message>
     <message>
         <source>Crew</source>
@@ -8269,7 +8273,7 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>2 for a touch, 50 for a missed gate</source>
-        <translation type="unfinished"></translation>
+        <translation>2 für eine Berührung, 50 für einen Torfehler</translation>
     </message>
     <message>
         <source>Rank</source>
@@ -8277,58 +8281,58 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>As it was</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie es war</translation>
     </message>
     <message>
         <source>of</source>
-        <translation type="unfinished"></translation>
+        <translation>von</translation>
     </message>
     <message>
         <source>Places</source>
-        <translation type="unfinished"></translation>
+        <translation>Plätze</translation>
     </message>
     <message>
         <source>That it cost</source>
-        <translation type="unfinished"></translation>
+        <translation>Die es kostete</translation>
     </message>
     <message>
         <source>Without it</source>
-        <translation type="unfinished"></translation>
+        <translation>Ohne sie</translation>
     </message>
     <message>
         <source>A missed gate also saved paddling, which is not taken back here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Torfehler sparte auch Fahrzeit; das wird hier nicht zurückgenommen.</translation>
     </message>
     <message>
         <source>Show &amp;all</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Alle zeigen</translation>
     </message>
     <message>
         <source>No penalty of a whole run is known by gate.</source>
-        <translation type="unfinished"></translation>
+        <translation>Von keinem ganzen Lauf ist eine Strafe nach Toren bekannt.</translation>
     </message>
     <message>
         <source>Open the run at this section</source>
-        <translation type="unfinished"></translation>
+        <translation>Lauf bei diesem Abschnitt öffnen</translation>
     </message>
     <message>
         <source>In split taking, where the section of the gate begins</source>
-        <translation type="unfinished"></translation>
+        <translation>In der Zwischenzeitnahme, wo der Abschnitt des Tors beginnt</translation>
     </message>
     <message>
         <source>Only gate %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Nur Tor %1</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::CourseCanvas</name>
     <message>
         <source>Drawing of the course</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeichnung der Strecke</translation>
     </message>
     <message>
         <source>Hold the button down and draw along the water.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Taste gedrückt halten und am Wasser entlang zeichnen.</translation>
     </message>
     <message>
         <source>course</source>
@@ -8336,22 +8340,22 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>All %1 gates of the race are drawn. Race and course says how many there are.</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle %1 Tore des Rennens sind gezeichnet. Wie viele es sind, sagt Rennen und Strecke.</translation>
     </message>
     <message>
         <source>All %1 splits of the race are drawn. Race and course says how many there are.</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle %1 Zwischenzeiten des Rennens sind gezeichnet. Wie viele es sind, sagt Rennen und Strecke.</translation>
     </message>
     <message>
         <source>%1 removed</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 entfernt</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::CourseDialog</name>
     <message>
         <source>Title</source>
-        <translation type="unfinished"></translation>
+        <translation>Titel</translation>
     </message>
     <message>
         <source>Gates</source>
@@ -8359,7 +8363,7 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>Race and course</source>
-        <translation type="unfinished"></translation>
+        <translation>Rennen und Strecke</translation>
     </message>
     <message>
         <source>Event</source>
@@ -8387,7 +8391,7 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>Technique</source>
-        <translation type="unfinished"></translation>
+        <translation>Technik</translation>
     </message>
     <message>
         <source>Comments</source>
@@ -8395,11 +8399,11 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>Such as 4 8 12</source>
-        <translation type="unfinished"></translation>
+        <translation>Etwa 4 8 12</translation>
     </message>
     <message>
         <source>Share the gates &amp;evenly</source>
-        <translation type="unfinished"></translation>
+        <translation>Tore &amp;gleichmäßig verteilen</translation>
     </message>
     <message>
         <source>&amp;Gates</source>
@@ -8407,26 +8411,26 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>&amp;Upstream gates</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Aufwärtstore</translation>
     </message>
     <message>
         <source>&amp;Splits</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Zwischenzeiten</translation>
     </message>
     <message>
         <source>Section %1: </source>
-        <translation type="unfinished"></translation>
+        <translation>Abschnitt %1: </translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::CourseEditor</name>
     <message>
         <source>Photo or plan of the course</source>
-        <translation type="unfinished"></translation>
+        <translation>Foto oder Plan der Strecke</translation>
     </message>
     <message>
         <source>Pictures (*.png *.jpg *.jpeg);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Bilder (*.png *.jpg *.jpeg);;Alle Dateien (*)</translation>
     </message>
     <message>
         <source>Text</source>
@@ -8434,23 +8438,23 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>Words there</source>
-        <translation type="unfinished"></translation>
+        <translation>Text dort</translation>
     </message>
     <message>
         <source>Draw the course</source>
-        <translation type="unfinished"></translation>
+        <translation>Strecke zeichnen</translation>
     </message>
     <message>
         <source>The picture of the race cannot be drawn upon: %1 It stays as long as nothing is drawn.</source>
-        <translation type="unfinished"></translation>
+        <translation>Auf dem Bild des Rennens lässt sich nicht zeichnen: %1 Es bleibt, solange nichts gezeichnet wird.</translation>
     </message>
     <message>
         <source>Tab next part · arrows move it, Shift+arrows far · Alt+←/→ turn · PgDn its points · Delete · Insert puts one in the middle · Ctrl+Z undo, Ctrl+Shift+Z redo</source>
-        <translation type="unfinished"></translation>
+        <translation>Tab nächster Teil · Pfeile verschieben ihn, Umschalt+Pfeile weit · Alt+←/→ dreht · Bild ab seine Punkte · Entf · Einfg setzt einen in die Mitte · Strg+Z zurück, Strg+Umschalt+Z wieder vor</translation>
     </message>
     <message>
         <source>&amp;Hold and move</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Greifen und verschieben</translation>
     </message>
     <message>
         <source>&amp;Gate</source>
@@ -8458,35 +8462,35 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>&amp;Split line</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Zeitlinie</translation>
     </message>
     <message>
         <source>&amp;Bank</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ufer</translation>
     </message>
     <message>
         <source>&amp;Line of a run</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Linie eines Laufs</translation>
     </message>
     <message>
         <source>&amp;Text</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Text</translation>
     </message>
     <message>
         <source>&amp;Photo below…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Foto darunter…</translation>
     </message>
     <message>
         <source>Only whit&amp;e below</source>
-        <translation type="unfinished"></translation>
+        <translation>Nur &amp;Weiß darunter</translation>
     </message>
     <message>
         <source>text</source>
-        <translation type="unfinished"></translation>
+        <translation>Text</translation>
     </message>
     <message>
         <source>photo</source>
-        <translation type="unfinished"></translation>
+        <translation>Foto</translation>
     </message>
     <message>
         <source>white</source>
@@ -8494,18 +8498,18 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>Leave the course as it was? What was drawn is lost.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Strecke lassen, wie sie war? Was gezeichnet wurde, ist dann verloren.</translation>
     </message>
     <message>
         <source>Leave it</source>
-        <translation type="unfinished"></translation>
+        <translation>So lassen</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::CourseMap</name>
     <message>
         <source>Map of the course</source>
-        <translation type="unfinished"></translation>
+        <translation>Karte der Strecke</translation>
     </message>
     <message>
         <source>Turn %1
@@ -8513,19 +8517,23 @@ Duration %2 s, angle %3°
 Rotation: peak %4 °/s, mean %5 °/s
 Push out: peak %6 m/s², mean %7 m/s²
 Roll %8° (+ inside), pitch %9° (+ bow up)</source>
-        <translation type="unfinished"></translation>
+        <translation>Drehung %1
+Dauer %2 s, Winkel %3°
+Rotation: Spitze %4 °/s, Mittel %5 °/s
+Abdruck: Spitze %6 m/s², Mittel %7 m/s²
+Rollen %8° (+ innen), Stampfen %9° (+ Bug hoch)</translation>
     </message>
     <message>
         <source>There are no position fixes in this session: no map.</source>
-        <translation type="unfinished"></translation>
+        <translation>In dieser Einheit sind keine Ortungen: keine Karte.</translation>
     </message>
     <message>
         <source>%1 km</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 km</translation>
     </message>
     <message>
         <source>%1 m</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 m</translation>
     </message>
     <message>
         <source>N</source>
@@ -8533,73 +8541,73 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Speed (m/s)</source>
-        <translation type="unfinished"></translation>
+        <translation>Tempo (m/s)</translation>
     </message>
     <message>
         <source>Stroke rate (1/min)</source>
-        <translation type="unfinished"></translation>
+        <translation>Schlagfrequenz (1/min)</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::CoursePanel</name>
     <message>
         <source>C&amp;ourse of</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Strecke von</translation>
     </message>
     <message>
         <source>The drawing of the course in this file cannot be shown.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Zeichnung der Strecke in dieser Datei lässt sich nicht zeigen.</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::CoursePartForm</name>
     <message>
         <source>&amp;Number</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Nummer</translation>
     </message>
     <message>
         <source>&amp;Upstream gate</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Aufwärtstor</translation>
     </message>
     <message>
         <source>Na&amp;me or text</source>
-        <translation type="unfinished"></translation>
+        <translation>Na&amp;me oder Text</translation>
     </message>
     <message>
         <source> m</source>
-        <translation type="unfinished"></translation>
+        <translation> m</translation>
     </message>
     <message>
         <source>not measured</source>
-        <translation type="unfinished"></translation>
+        <translation>nicht gemessen</translation>
     </message>
     <message>
         <source>&amp;Width of the picture</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Breite des Bilds</translation>
     </message>
     <message>
         <source>Nothing selected</source>
-        <translation type="unfinished"></translation>
+        <translation>Nichts gewählt</translation>
     </message>
     <message>
         <source>The race has %1 gates only. Race and course says how many there are.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Rennen hat nur %1 Tore. Wie viele es sind, sagt Rennen und Strecke.</translation>
     </message>
     <message>
         <source>direction of gate %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Richtung von Tor %1</translation>
     </message>
     <message>
         <source>number %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Nummer %1</translation>
     </message>
     <message>
         <source>name</source>
-        <translation type="unfinished"></translation>
+        <translation>Name</translation>
     </message>
     <message>
         <source>width of the picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Breite des Bilds</translation>
     </message>
 </context>
 <context>
@@ -8614,15 +8622,15 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Such as 1, 2, 3, 4</source>
-        <translation type="unfinished"></translation>
+        <translation>Etwa 1, 2, 3, 4</translation>
     </message>
     <message>
         <source>Roll after gate</source>
-        <translation type="unfinished"></translation>
+        <translation>Rolle nach Tor</translation>
     </message>
     <message>
         <source>Empty without a roll</source>
-        <translation type="unfinished"></translation>
+        <translation>Leer ohne Rolle</translation>
     </message>
     <message>
         <source>Phase</source>
@@ -8634,23 +8642,23 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Which gates does the cross course have?</source>
-        <translation type="unfinished"></translation>
+        <translation>Welche Tore hat die Cross-Strecke?</translation>
     </message>
     <message>
         <source>1 gate</source>
-        <translation type="unfinished"></translation>
+        <translation>1 Tor</translation>
     </message>
     <message>
         <source>roll after %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Rolle nach %1</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no gate number.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ ist keine Tornummer.</translation>
     </message>
     <message>
         <source>The roll is after gate %1, which is not on the course.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Rolle ist nach Tor %1, das nicht auf der Strecke ist.</translation>
     </message>
     <message>
         <source>course</source>
@@ -8658,9 +8666,9 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message numerus="yes">
         <source>%n gates</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Tor</numerusform>
+            <numerusform>%n Tore</numerusform>
         </translation>
     </message>
 </context>
@@ -8900,19 +8908,19 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     <name>kavela::desktop::CsvMappingDialog</name>
     <message>
         <source>%1 h %2 min</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 h %2 min</translation>
     </message>
     <message>
         <source>%1 min %2 s</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 min %2 s</translation>
     </message>
     <message>
         <source>%1 s</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 s</translation>
     </message>
     <message>
         <source>%1 lines cannot be read. Line %2: %3.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Zeilen sind nicht lesbar. Zeile %2: %3.</translation>
     </message>
     <message>
         <source>Line %1: %2</source>
@@ -8920,31 +8928,31 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>What each column holds was guessed from its title. Choose over a column what it is; a column without a choice is left out.</source>
-        <translation type="unfinished"></translation>
+        <translation>Was jede Spalte enthält, wurde aus ihrem Titel geraten. Über einer Spalte wählen, was sie ist; eine ohne Wahl wird ausgelassen.</translation>
     </message>
     <message>
         <source>%1 samples, %2 per second, %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Messwerte, %2 je Sekunde, %3</translation>
     </message>
     <message>
         <source>%1 positions</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Positionen</translation>
     </message>
     <message>
         <source>%1 heart rates</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Herzfrequenzen</translation>
     </message>
     <message>
         <source>Import “%1”</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ importieren</translation>
     </message>
     <message>
         <source>Columns and units are read as they were for the last list with these titles. Choose over a column what it is; one without a choice is left out.</source>
-        <translation type="unfinished"></translation>
+        <translation>Spalten und Einheiten werden wie bei der letzten Liste mit diesen Titeln gelesen. Über einer Spalte wählen, was sie ist; eine ohne Wahl wird ausgelassen.</translation>
     </message>
     <message>
         <source>Guess from the titles</source>
-        <translation type="unfinished"></translation>
+        <translation>Aus den Titeln raten</translation>
     </message>
     <message>
         <source>Import</source>
@@ -8956,34 +8964,34 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>This gives no samples.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das ergibt keine Messwerte.</translation>
     </message>
     <message>
         <source>This gives %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das ergibt %1.</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::CsvUnitsForm</name>
     <message>
         <source>&amp;Between columns</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Zwischen Spalten</translation>
     </message>
     <message>
         <source>Comma</source>
-        <translation type="unfinished"></translation>
+        <translation>Komma</translation>
     </message>
     <message>
         <source>Semicolon</source>
-        <translation type="unfinished"></translation>
+        <translation>Semikolon</translation>
     </message>
     <message>
         <source>Tab</source>
-        <translation type="unfinished"></translation>
+        <translation>Tab</translation>
     </message>
     <message>
         <source>&amp;Decimal comma</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Dezimalkomma</translation>
     </message>
     <message>
         <source>&amp;Times</source>
@@ -8991,7 +8999,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Dates</source>
-        <translation type="unfinished"></translation>
+        <translation>Datumsangaben</translation>
     </message>
     <message>
         <source>Seconds</source>
@@ -8999,55 +9007,55 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Milliseconds</source>
-        <translation type="unfinished"></translation>
+        <translation>Millisekunden</translation>
     </message>
     <message>
         <source>Microseconds</source>
-        <translation type="unfinished"></translation>
+        <translation>Mikrosekunden</translation>
     </message>
     <message>
         <source>Nanoseconds</source>
-        <translation type="unfinished"></translation>
+        <translation>Nanosekunden</translation>
     </message>
     <message>
         <source>&amp;Acceleration</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Beschleunigung</translation>
     </message>
     <message>
         <source>g</source>
-        <translation type="unfinished"></translation>
+        <translation>g</translation>
     </message>
     <message>
         <source>m/s²</source>
-        <translation type="unfinished"></translation>
+        <translation>m/s²</translation>
     </message>
     <message>
         <source>&amp;Rotation</source>
-        <translation type="unfinished"></translation>
+        <translation>D&amp;rehung</translation>
     </message>
     <message>
         <source>rad/s</source>
-        <translation type="unfinished"></translation>
+        <translation>rad/s</translation>
     </message>
     <message>
         <source>°/s</source>
-        <translation type="unfinished"></translation>
+        <translation>°/s</translation>
     </message>
     <message>
         <source>An&amp;gles</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Winkel</translation>
     </message>
     <message>
         <source>Radians</source>
-        <translation type="unfinished"></translation>
+        <translation>Bogenmaß</translation>
     </message>
     <message>
         <source>Degrees</source>
-        <translation type="unfinished"></translation>
+        <translation>Grad</translation>
     </message>
     <message>
         <source>&amp;Speed</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Tempo</translation>
     </message>
     <message>
         <source>m/s</source>
@@ -9055,35 +9063,35 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>km/h</source>
-        <translation type="unfinished"></translation>
+        <translation>km/h</translation>
     </message>
     <message>
         <source>Lying on its back, &amp;z reads</source>
-        <translation type="unfinished"></translation>
+        <translation>Auf dem Rücken liegend zeigt &amp;z</translation>
     </message>
     <message>
         <source>+1 g, upward</source>
-        <translation type="unfinished"></translation>
+        <translation>+1 g, nach oben</translation>
     </message>
     <message>
         <source>−1 g, downward</source>
-        <translation type="unfinished"></translation>
+        <translation>−1 g, nach unten</translation>
     </message>
     <message>
         <source>&amp;First sample at</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Erster Messwert um</translation>
     </message>
     <message>
         <source>The comma stands between columns.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Komma steht zwischen Spalten.</translation>
     </message>
     <message>
         <source>The times of the list are no dates. This is when the file was written, less its length.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Zeiten der Liste sind keine Datumsangaben. Dies ist, wann die Datei geschrieben wurde, minus ihre Länge.</translation>
     </message>
     <message>
         <source>The times of the list are dates.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Zeiten der Liste sind Datumsangaben.</translation>
     </message>
 </context>
 <context>
@@ -9106,7 +9114,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>%1 %2°, %3 s</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 %2°, %3 s</translation>
     </message>
     <message>
         <source>Time</source>
@@ -9114,15 +9122,15 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Stroke, rate</source>
-        <translation type="unfinished"></translation>
+        <translation>Schlag, Frequenz</translation>
     </message>
     <message>
         <source>Force (N)</source>
-        <translation type="unfinished"></translation>
+        <translation>Kraft (N)</translation>
     </message>
     <message>
         <source>Power (W)</source>
-        <translation type="unfinished"></translation>
+        <translation>Leistung (W)</translation>
     </message>
     <message>
         <source>Turn</source>
@@ -9130,106 +9138,106 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Values at the cursor</source>
-        <translation type="unfinished"></translation>
+        <translation>Werte am Cursor</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::DayDesk</name>
     <message>
         <source>The race day could not be kept: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Renntag konnte nicht bewahrt werden: %1</translation>
     </message>
     <message>
         <source> · U: %1</source>
-        <translation type="unfinished"></translation>
+        <translation> · U: %1</translation>
     </message>
     <message>
         <source>start list</source>
-        <translation type="unfinished"></translation>
+        <translation>Startliste</translation>
     </message>
     <message>
         <source>folder of the films</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordner der Filme</translation>
     </message>
     <message>
         <source>start removed</source>
-        <translation type="unfinished"></translation>
+        <translation>Start entfernt</translation>
     </message>
     <message>
         <source>There is no start list yet: Day &gt; Start list.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt noch keine Startliste: Tag &gt; Startliste.</translation>
     </message>
     <message>
         <source>No film waits to be timed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein Film wartet auf Zeiten.</translation>
     </message>
     <message>
         <source>There is no film of %1 yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Von %1 gibt es noch keinen Film.</translation>
     </message>
     <message>
         <source>The film of %1 is still being copied.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Film von %1 wird noch kopiert.</translation>
     </message>
     <message>
         <source>Is this %1?</source>
-        <translation type="unfinished"></translation>
+        <translation>Ist das %1?</translation>
     </message>
     <message>
         <source>film of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Film von %1</translation>
     </message>
     <message>
         <source>There is no film that is surely matched and not agreed to yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein Film ist sicher zugeordnet und noch ohne Zustimmung.</translation>
     </message>
     <message>
         <source>film agreed to</source>
-        <translation type="unfinished"></translation>
+        <translation>Film zugestimmt</translation>
     </message>
     <message>
         <source>films agreed to</source>
-        <translation type="unfinished"></translation>
+        <translation>Filmen zugestimmt</translation>
     </message>
     <message>
         <source>Not named, as it is not in the folder of the race or cannot be named there: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Nicht benannt, weil er nicht im Ordner des Rennens ist oder dort nicht benannt werden kann: %1</translation>
     </message>
     <message>
         <source>Agreed</source>
-        <translation type="unfinished"></translation>
+        <translation>Zugestimmt</translation>
     </message>
     <message>
         <source>films one start later</source>
-        <translation type="unfinished"></translation>
+        <translation>Filme einen Start später</translation>
     </message>
     <message>
         <source>films one start earlier</source>
-        <translation type="unfinished"></translation>
+        <translation>Filme einen Start früher</translation>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2</translation>
     </message>
     <message>
         <source>%1: no film</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: kein Film</translation>
     </message>
     <message>
         <source>film of another boat</source>
-        <translation type="unfinished"></translation>
+        <translation>Film eines anderen Boots</translation>
     </message>
     <message>
         <source>film given to a boat</source>
-        <translation type="unfinished"></translation>
+        <translation>Film einem Boot gegeben</translation>
     </message>
     <message>
         <source>There is no film %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt keinen Film %1</translation>
     </message>
     <message>
         <source>%1 is timed: remove the last mark first.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 hat Zeiten: erst die letzte Marke entfernen.</translation>
     </message>
     <message>
         <source>%1 of %2</source>
@@ -9237,21 +9245,21 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>%1 counts again</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 zählt wieder</translation>
     </message>
     <message>
         <source>The clocks of camera and start list go together.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Uhren von Kamera und Startliste gehen zusammen.</translation>
     </message>
     <message>
         <source>clock of the camera</source>
-        <translation type="unfinished"></translation>
+        <translation>Uhr der Kamera</translation>
     </message>
     <message numerus="yes">
         <source>%n films agreed to</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Film zugestimmt</numerusform>
+            <numerusform>%n Filmen zugestimmt</numerusform>
         </translation>
     </message>
 </context>
@@ -9259,81 +9267,81 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     <name>kavela::desktop::DayFilms</name>
     <message>
         <source>%1 could not be called %2 again: is that name taken?</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 konnte nicht wieder %2 heißen: ist der Name vergeben?</translation>
     </message>
     <message>
         <source>%1 could not be copied from the card. Is the card out, or the disk full?</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 konnte nicht von der Karte kopiert werden. Ist die Karte draußen oder die Platte voll?</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::DayKeeping</name>
     <message>
         <source>The race day %1 cannot be read: %2. It stays as it is; a new one takes its name only after it was put aside.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Renntag %1 ist nicht lesbar: %2. Er bleibt, wie er ist; ein neuer nimmt seinen Namen erst, wenn er beiseitegelegt ist.</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::DayPanel</name>
     <message>
         <source>agreed</source>
-        <translation type="unfinished"></translation>
+        <translation>zugestimmt</translation>
     </message>
     <message>
         <source>kept</source>
-        <translation type="unfinished"></translation>
+        <translation>bewahrt</translation>
     </message>
     <message>
         <source>sure</source>
-        <translation type="unfinished"></translation>
+        <translation>sicher</translation>
     </message>
     <message>
         <source>likely</source>
-        <translation type="unfinished"></translation>
+        <translation>wahrscheinlich</translation>
     </message>
     <message>
         <source>unsure</source>
-        <translation type="unfinished"></translation>
+        <translation>unsicher</translation>
     </message>
     <message>
         <source>%1 d</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 d</translation>
     </message>
     <message>
         <source>%1 h</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 h</translation>
     </message>
     <message>
         <source>%1 min</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 min</translation>
     </message>
     <message>
         <source>%1 s</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 s</translation>
     </message>
     <message>
         <source>ahead of</source>
-        <translation type="unfinished"></translation>
+        <translation>vor</translation>
     </message>
     <message>
         <source>behind</source>
-        <translation type="unfinished"></translation>
+        <translation>hinter</translation>
     </message>
     <message>
         <source>Reckon with that</source>
-        <translation type="unfinished"></translation>
+        <translation>Damit rechnen</translation>
     </message>
     <message>
         <source>No start list yet. Paste one, or take it from a file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Noch keine Startliste. Eine einfügen oder aus einer Datei nehmen.</translation>
     </message>
     <message>
         <source>Start list…</source>
-        <translation type="unfinished"></translation>
+        <translation>Startliste…</translation>
     </message>
     <message>
         <source>Films from…</source>
-        <translation type="unfinished"></translation>
+        <translation>Filme aus…</translation>
     </message>
     <message>
         <source>Start</source>
@@ -9349,7 +9357,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>A boat on the list has a name.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Boot auf der Liste hat einen Namen.</translation>
     </message>
     <message>
         <source>Cat</source>
@@ -9369,66 +9377,66 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Type the name of another film to correct a single one</source>
-        <translation type="unfinished"></translation>
+        <translation>Den Namen eines anderen Films tippen, um einen einzelnen zu berichtigen</translation>
     </message>
     <message>
         <source>Match</source>
-        <translation type="unfinished"></translation>
+        <translation>Zuordnung</translation>
     </message>
     <message>
         <source>Recorded</source>
-        <translation type="unfinished"></translation>
+        <translation>Aufgenommen</translation>
     </message>
     <message>
         <source>When the recording began, and whether the camera or the file says so</source>
-        <translation type="unfinished"></translation>
+        <translation>Wann die Aufnahme begann, und ob das die Kamera oder die Datei sagt</translation>
     </message>
     <message>
         <source>camera</source>
-        <translation type="unfinished"></translation>
+        <translation>Kamera</translation>
     </message>
     <message>
         <source>file</source>
-        <translation type="unfinished"></translation>
+        <translation>Datei</translation>
     </message>
     <message>
         <source>The camera&apos;s clock seems to be %1 the start list.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Uhr der Kamera geht anscheinend %1 der Startliste.</translation>
     </message>
     <message>
         <source>%1 is not there.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ist nicht da.</translation>
     </message>
     <message>
         <source>Copying %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 wird kopiert.</translation>
     </message>
     <message>
         <source>%1 still growing.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 wächst noch.</translation>
     </message>
     <message>
         <source>Of no boat: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zu keinem Boot: %1.</translation>
     </message>
     <message>
         <source>Of no boat: %1 films, the first is %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zu keinem Boot: %1 Filme, der erste ist %2.</translation>
     </message>
     <message>
         <source>Of other days: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Von anderen Tagen: %1.</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::DerivedDialog</name>
     <message>
         <source>The &amp;highest number is the best</source>
-        <translation type="unfinished"></translation>
+        <translation>Die &amp;höchste Zahl ist die beste</translation>
     </message>
     <message>
         <source>Another column</source>
-        <translation type="unfinished"></translation>
+        <translation>Weitere Spalte</translation>
     </message>
     <message>
         <source>Total</source>
@@ -9440,51 +9448,51 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Gap to the best</source>
-        <translation type="unfinished"></translation>
+        <translation>Rückstand auf den Besten</translation>
     </message>
     <message>
         <source>Percent behind the best</source>
-        <translation type="unfinished"></translation>
+        <translation>Prozent hinter dem Besten</translation>
     </message>
     <message>
         <source>Percentile</source>
-        <translation type="unfinished"></translation>
+        <translation>Perzentil</translation>
     </message>
     <message>
         <source>Difference</source>
-        <translation type="unfinished"></translation>
+        <translation>Differenz</translation>
     </message>
     <message>
         <source>Add</source>
-        <translation type="unfinished"></translation>
+        <translation>Hinzufügen</translation>
     </message>
     <message>
         <source>&amp;What</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Was</translation>
     </message>
     <message>
         <source>Sum &amp;of (none: times and penalties)</source>
-        <translation type="unfinished"></translation>
+        <translation>Summe &amp;von (ohne: Zeiten und Strafen)</translation>
     </message>
     <message>
         <source>O&amp;f</source>
-        <translation type="unfinished"></translation>
+        <translation>Vo&amp;n</translation>
     </message>
     <message>
         <source>&amp;Less</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Minus</translation>
     </message>
     <message>
         <source>Each &amp;compared within</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Jeweils verglichen in</translation>
     </message>
     <message>
         <source>the total, else the times</source>
-        <translation type="unfinished"></translation>
+        <translation>die Gesamtzeit, sonst die Zeiten</translation>
     </message>
     <message>
         <source>all rows</source>
-        <translation type="unfinished"></translation>
+        <translation>alle Zeilen</translation>
     </message>
 </context>
 <context>
@@ -9570,15 +9578,15 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>of</source>
-        <translation type="unfinished"></translation>
+        <translation>von</translation>
     </message>
     <message>
         <source>Those of which this was noted; for those of which it was not noted, all penalties</source>
-        <translation type="unfinished"></translation>
+        <translation>Die, zu denen dies notiert wurde; für die anderen alle Strafen</translation>
     </message>
     <message>
         <source>Share %</source>
-        <translation type="unfinished"></translation>
+        <translation>Anteil %</translation>
     </message>
     <message>
         <source>90 %</source>
@@ -9586,46 +9594,46 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Where the share lies with 90 %</source>
-        <translation type="unfinished"></translation>
+        <translation>Wo der Anteil mit 90 % liegt</translation>
     </message>
     <message>
         <source>No penalty was noted in detail. Split taking notes them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Strafe wurde im Einzelnen notiert. Das geschieht in der Zwischenzeitnahme.</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::DocumentChoiceDialog</name>
     <message>
         <source>%1   in %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1   in %2</translation>
     </message>
     <message>
         <source>&amp;New…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Neu…</translation>
     </message>
     <message>
         <source>Open an&amp;other…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Andere öffnen…</translation>
     </message>
     <message>
         <source>&amp;Open</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Öffnen</translation>
     </message>
     <message>
         <source>None was opened yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Noch keine wurde geöffnet.</translation>
     </message>
     <message>
         <source>Opened before:</source>
-        <translation type="unfinished"></translation>
+        <translation>Früher geöffnet:</translation>
     </message>
     <message>
         <source>Name the new file</source>
-        <translation type="unfinished"></translation>
+        <translation>Die neue Datei benennen</translation>
     </message>
     <message>
         <source>%1 (*.%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (*.%2)</translation>
     </message>
     <message>
         <source>%1 (*.%2);;All files (*)</source>
@@ -9636,15 +9644,15 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     <name>kavela::desktop::DrawnRates</name>
     <message>
         <source>Touches on the course</source>
-        <translation type="unfinished"></translation>
+        <translation>Berührungen auf der Strecke</translation>
     </message>
     <message>
         <source>Gate %1: %2 %</source>
-        <translation type="unfinished"></translation>
+        <translation>Tor %1: %2 %</translation>
     </message>
     <message>
         <source>, %1 of %2 touched</source>
-        <translation type="unfinished"></translation>
+        <translation>, %1 von %2 berührt</translation>
     </message>
     <message>
         <source>%1 %</source>
@@ -9655,38 +9663,38 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     <name>kavela::desktop::DropAreas</name>
     <message>
         <source>Import .kvb file</source>
-        <translation type="unfinished"></translation>
+        <translation>.kvb-Datei importieren</translation>
     </message>
     <message>
         <source>Import .sbm file</source>
-        <translation type="unfinished"></translation>
+        <translation>.sbm-Datei importieren</translation>
     </message>
     <message>
         <source>Drag .kvb file to top left of the window</source>
-        <translation type="unfinished"></translation>
+        <translation>.kvb-Datei links oben ins Fenster ziehen</translation>
     </message>
     <message>
         <source>A raw recording of the boat: strokes and turns are found in it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Rohaufzeichnung des Boots: Schläge und Drehungen werden darin gesucht.</translation>
     </message>
     <message>
         <source>Drag .sbm file to top right of the window</source>
-        <translation type="unfinished"></translation>
+        <translation>.sbm-Datei rechts oben ins Fenster ziehen</translation>
     </message>
     <message>
         <source>A processed session, .sbm or .bms: strokes and turns are in it already.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine ausgewertete Einheit, .sbm oder .bms: Schläge und Drehungen sind schon darin.</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::EarlierWorkDialog</name>
     <message>
         <source>Document</source>
-        <translation type="unfinished"></translation>
+        <translation>Dokument</translation>
     </message>
     <message>
         <source>Kept</source>
-        <translation type="unfinished"></translation>
+        <translation>Bewahrt</translation>
     </message>
     <message>
         <source>What</source>
@@ -9694,58 +9702,58 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Then</source>
-        <translation type="unfinished"></translation>
+        <translation>Danach</translation>
     </message>
     <message>
         <source>given up</source>
-        <translation type="unfinished"></translation>
+        <translation>verworfen</translation>
     </message>
     <message>
         <source>put off</source>
-        <translation type="unfinished"></translation>
+        <translation>verschoben</translation>
     </message>
     <message>
         <source>Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordner</translation>
     </message>
     <message>
         <source>Bring back earlier work</source>
-        <translation type="unfinished"></translation>
+        <translation>Frühere Arbeit zurückholen</translation>
     </message>
     <message>
         <source>Nothing was kept that is not in a document again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nichts ist bewahrt, was nicht wieder in einem Dokument steht.</translation>
     </message>
     <message>
         <source>Bring back</source>
-        <translation type="unfinished"></translation>
+        <translation>Zurückholen</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::EditedFile</name>
     <message>
         <source>today %1</source>
-        <translation type="unfinished"></translation>
+        <translation>heute %1</translation>
     </message>
     <message>
         <source>yesterday %1</source>
-        <translation type="unfinished"></translation>
+        <translation>gestern %1</translation>
     </message>
     <message>
         <source>Load</source>
-        <translation type="unfinished"></translation>
+        <translation>Laden</translation>
     </message>
     <message>
         <source>Later</source>
-        <translation type="unfinished"></translation>
+        <translation>Später</translation>
     </message>
     <message>
         <source>Discard</source>
-        <translation type="unfinished"></translation>
+        <translation>Verwerfen</translation>
     </message>
     <message>
         <source>1 change</source>
-        <translation type="unfinished"></translation>
+        <translation>1 Änderung</translation>
     </message>
     <message>
         <source>“%1” cannot be opened</source>
@@ -9753,15 +9761,15 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>The file was changed by another program since it was opened. Saving replaces what that program wrote.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein anderes Programm hat die Datei seit dem Öffnen geändert. Speichern ersetzt, was jenes Programm schrieb.</translation>
     </message>
     <message>
         <source>Replace it</source>
-        <translation type="unfinished"></translation>
+        <translation>Ersetzen</translation>
     </message>
     <message>
         <source>Look at the other</source>
-        <translation type="unfinished"></translation>
+        <translation>Die andere ansehen</translation>
     </message>
     <message>
         <source>Save as…</source>
@@ -9769,33 +9777,33 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>“%1” is open in another window. Close it there first, or take another name.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ ist in einem anderen Fenster offen. Dort erst schließen oder einen anderen Namen nehmen.</translation>
     </message>
     <message>
         <source>%1 (the other).%2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (die andere).%2</translation>
     </message>
     <message>
         <source>Your work is kept apart, and offered when the file is opened again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Arbeit wird getrennt bewahrt und angeboten, wenn die Datei wieder geöffnet wird.</translation>
     </message>
     <message>
         <source>Your work is in this window alone: it could not be kept apart either.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Arbeit ist nur in diesem Fenster: auch getrennt ließ sie sich nicht bewahren.</translation>
     </message>
     <message>
         <source>Try again</source>
-        <translation type="unfinished"></translation>
+        <translation>Erneut versuchen</translation>
     </message>
     <message>
         <source>The file of the older version could not be kept beside the new one, so that nothing was written.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei der älteren Version ließ sich nicht neben der neuen bewahren; nichts wurde geschrieben.</translation>
     </message>
     <message numerus="yes">
         <source>%n changes</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Änderung</numerusform>
+            <numerusform>%n Änderungen</numerusform>
         </translation>
     </message>
 </context>
@@ -9811,7 +9819,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Pha&amp;se</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Phase</translation>
     </message>
     <message>
         <source>Splits</source>
@@ -9823,25 +9831,27 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Taken from</source>
-        <translation type="unfinished"></translation>
+        <translation>Aus</translation>
     </message>
     <message>
         <source>Time
 (s)</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeit
+(s)</translation>
     </message>
     <message>
         <source>Time of one eight</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeit einer Acht</translation>
     </message>
     <message>
         <source>In the video
 (s)</source>
-        <translation type="unfinished"></translation>
+        <translation>Im Video
+(s)</translation>
     </message>
     <message>
         <source>Where in the video the split was taken</source>
-        <translation type="unfinished"></translation>
+        <translation>Wo im Video die Zwischenzeit genommen wurde</translation>
     </message>
     <message>
         <source>split %1</source>
@@ -9849,48 +9859,48 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>no video</source>
-        <translation type="unfinished"></translation>
+        <translation>kein Video</translation>
     </message>
     <message>
         <source>%1, no motion samples</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, keine Messwerte der Bewegung</translation>
     </message>
     <message>
         <source>%1, %2 motion samples</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, %2 Messwerte der Bewegung</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::EmptySearch</name>
     <message>
         <source>Drop a folder of split files (.kvx) here</source>
-        <translation type="unfinished"></translation>
+        <translation>Einen Ordner mit Zwischenzeitdateien (.kvx) hierher ziehen</translation>
     </message>
     <message>
         <source>All races below it are searched. They are only read.</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Rennen darunter werden durchsucht. Sie werden nur gelesen.</translation>
     </message>
     <message>
         <source>Search a folder…</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordner durchsuchen…</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::EntryTable</name>
     <message>
         <source>“%1” is a number from 0 to %2</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ ist eine Zahl von 0 bis %2</translation>
     </message>
     <message>
         <source>“%1” is more than 0. An emptied cell stands for none.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ ist mehr als 0. Eine geleerte Zelle steht für keine.</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::ExerciseTable</name>
     <message>
         <source>The file has no entry here. Typing makes one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei hat hier keinen Eintrag. Tippen legt einen an.</translation>
     </message>
     <message>
         <source>The estimate from repetitions and weight. A click or Ctrl+Enter takes it as the maximum.</source>
@@ -10067,7 +10077,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordner</translation>
     </message>
     <message>
         <source>Files that could not be read</source>
@@ -10177,7 +10187,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>&amp;Names</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Namen</translation>
     </message>
     <message>
         <source>Of the files: {name}, {category}, {phase}, {bib} and {number}</source>
@@ -11005,7 +11015,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Title</source>
-        <translation type="unfinished"></translation>
+        <translation>Titel</translation>
     </message>
     <message>
         <source>%1: gap</source>
@@ -11056,7 +11066,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>%1 s</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 s</translation>
     </message>
     <message>
         <source>Gate %1, upstream</source>
@@ -11360,11 +11370,11 @@ T touch, F missed, 0 clean; N and P next and previous gate</source>
     </message>
     <message>
         <source>Choose an athlete.</source>
-        <translation type="unfinished"></translation>
+        <translation>Einen Athleten wählen.</translation>
     </message>
     <message>
         <source>Add a season for this athlete first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Erst eine Saison für diesen Athleten hinzufügen.</translation>
     </message>
     <message>
         <source>No gym session of this season yet.
@@ -11626,7 +11636,7 @@ Press Insert to add one.</source>
     </message>
     <message>
         <source>S%1</source>
-        <translation>A%1</translation>
+        <translation>S%1</translation>
     </message>
     <message>
         <source>is the reference</source>
@@ -12041,7 +12051,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Pause</source>
-        <translation type="unfinished"></translation>
+        <translation>Pause</translation>
     </message>
     <message>
         <source>Start again</source>
@@ -12092,7 +12102,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Add</source>
-        <translation type="unfinished"></translation>
+        <translation>Hinzufügen</translation>
     </message>
     <message>
         <source>Duplicate</source>
@@ -12185,7 +12195,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Kept</source>
-        <translation type="unfinished"></translation>
+        <translation>Bewahrt</translation>
     </message>
     <message>
         <source>Asked last</source>
@@ -13571,7 +13581,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Replace it</source>
-        <translation type="unfinished"></translation>
+        <translation>Ersetzen</translation>
     </message>
     <message>
         <source>Save the planning online</source>
@@ -13988,7 +13998,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Behind</source>
-        <translation type="unfinished"></translation>
+        <translation>Rückstand</translation>
     </message>
     <message>
         <source>Known where the run was taken over from a split file</source>
@@ -14023,7 +14033,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Choose one of the athletes of the list.</source>
-        <translation type="unfinished"></translation>
+        <translation>Einen Athleten aus der Liste wählen.</translation>
     </message>
     <message>
         <source>One file for the telephone, of one race as it was last saved. Films lie in the folder beside it.</source>
@@ -14050,7 +14060,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>The page cannot be written over a race that it is made from.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Seite kann nicht über ein Rennen geschrieben werden, aus dem sie entsteht.</translation>
     </message>
     <message>
         <source>Making the page…</source>
@@ -14097,7 +14107,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Median</source>
-        <translation type="unfinished"></translation>
+        <translation>Median</translation>
     </message>
     <message>
         <source>Least</source>
@@ -14211,7 +14221,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Repeat</source>
-        <translation type="unfinished"></translation>
+        <translation>Wiederholen</translation>
     </message>
     <message>
         <source>How often do the %1 chosen weeks follow themselves?
@@ -14520,7 +14530,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>Athlet</translation>
     </message>
     <message>
         <source>removal of an athlete</source>
@@ -14543,11 +14553,11 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     <name>kavela::desktop::PlayMenu</name>
     <message>
         <source>&amp;Play</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Wiedergabe</translation>
     </message>
     <message>
         <source>&amp;Play or pause</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Abspielen oder anhalten</translation>
     </message>
     <message>
         <source>Backwards, again: faster</source>
@@ -14677,7 +14687,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Best run</source>
-        <translation type="unfinished"></translation>
+        <translation>Bester Lauf</translation>
     </message>
     <message>
         <source>Left</source>
@@ -14795,7 +14805,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Behind, %</source>
-        <translation type="unfinished"></translation>
+        <translation>Rückstand, %</translation>
     </message>
     <message>
         <source>On splits, %</source>
@@ -15374,7 +15384,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Play</source>
-        <translation type="unfinished"></translation>
+        <translation>Abspielen</translation>
     </message>
     <message>
         <source>Recording, %1 s</source>
@@ -15966,7 +15976,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Then</source>
-        <translation type="unfinished"></translation>
+        <translation>Danach</translation>
     </message>
     <message>
         <source>stays</source>
@@ -16046,7 +16056,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>PDF documents (*.pdf)</source>
-        <translation type="unfinished"></translation>
+        <translation>PDF-Dokumente (*.pdf)</translation>
     </message>
     <message>
         <source>Report</source>
@@ -17102,7 +17112,7 @@ Eine Datei wählen.</translation>
     </message>
     <message>
         <source>Trend</source>
-        <translation type="unfinished"></translation>
+        <translation>Trend</translation>
     </message>
     <message>
         <source>Behind whom</source>
@@ -17173,7 +17183,7 @@ Eine Datei wählen.</translation>
     </message>
     <message>
         <source>PDF documents (*.pdf)</source>
-        <translation type="unfinished"></translation>
+        <translation>PDF-Dokumente (*.pdf)</translation>
     </message>
     <message>
         <source>The report cannot be written over a file that it is made from.</source>
@@ -17361,7 +17371,7 @@ Eine Datei wählen.</translation>
     </message>
     <message>
         <source>Median</source>
-        <translation type="unfinished"></translation>
+        <translation>Median</translation>
     </message>
     <message>
         <source>Quarter of the runs over</source>
@@ -17393,7 +17403,7 @@ Eine Datei wählen.</translation>
     </message>
     <message>
         <source>Title</source>
-        <translation type="unfinished"></translation>
+        <translation>Titel</translation>
     </message>
     <message>
         <source>Fastest</source>
@@ -17420,7 +17430,7 @@ Eine Datei wählen.</translation>
     <name>kavela::desktop::SectionForm</name>
     <message>
         <source>Turns</source>
-        <translation type="unfinished"></translation>
+        <translation>Drehungen</translation>
     </message>
     <message>
         <source>Turn %1</source>
@@ -17464,7 +17474,7 @@ Eine Datei wählen.</translation>
     </message>
     <message>
         <source>rad/s</source>
-        <translation type="unfinished"></translation>
+        <translation>rad/s</translation>
     </message>
     <message>
         <source>Told by the strokes that were recorded</source>
@@ -17473,7 +17483,8 @@ Eine Datei wählen.</translation>
     <message>
         <source>Time
 (s)</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeit
+(s)</translation>
     </message>
     <message>
         <source>Straight
@@ -17631,7 +17642,7 @@ Eine Datei wählen.</translation>
     </message>
     <message>
         <source>athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>Athlet</translation>
     </message>
     <message>
         <source>athlete removed</source>
@@ -17815,7 +17826,7 @@ Eine Datei wählen.</translation>
     <name>kavela::desktop::SensorChart</name>
     <message>
         <source>%1 s</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 s</translation>
     </message>
     <message>
         <source>Time (s)</source>
@@ -17982,7 +17993,7 @@ Eine Datei wählen.</translation>
     </message>
     <message>
         <source>Turns</source>
-        <translation type="unfinished"></translation>
+        <translation>Drehungen</translation>
     </message>
     <message>
         <source>Segments</source>
@@ -17998,7 +18009,7 @@ Eine Datei wählen.</translation>
     </message>
     <message>
         <source> m</source>
-        <translation type="unfinished"></translation>
+        <translation> m</translation>
     </message>
     <message>
         <source>Values every</source>
@@ -18029,11 +18040,11 @@ Eine Datei wählen.</translation>
     </message>
     <message>
         <source>Stroke rate (1/min)</source>
-        <translation type="unfinished"></translation>
+        <translation>Schlagfrequenz (1/min)</translation>
     </message>
     <message>
         <source>Speed (m/s)</source>
-        <translation type="unfinished"></translation>
+        <translation>Tempo (m/s)</translation>
     </message>
     <message>
         <source>The speed of the strokes is not known.</source>
@@ -18120,7 +18131,7 @@ Eine Datei wählen.</translation>
     </message>
     <message>
         <source>Import .kvb file</source>
-        <translation type="unfinished"></translation>
+        <translation>.kvb-Datei importieren</translation>
     </message>
     <message>
         <source>Recordings (*.kvb)</source>
@@ -18128,7 +18139,7 @@ Eine Datei wählen.</translation>
     </message>
     <message>
         <source>Import .sbm file</source>
-        <translation type="unfinished"></translation>
+        <translation>.sbm-Datei importieren</translation>
     </message>
     <message>
         <source>Sessions (*.sbm *.bms)</source>
@@ -18628,11 +18639,11 @@ and %1 more</source>
     </message>
     <message>
         <source>&amp;Play</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Wiedergabe</translation>
     </message>
     <message>
         <source>&amp;Play or pause</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Abspielen oder anhalten</translation>
     </message>
     <message>
         <source>&amp;Slower</source>
@@ -18724,7 +18735,7 @@ and %1 more</source>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2</translation>
     </message>
     <message>
         <source>There is no run to be marked.</source>
@@ -18792,7 +18803,7 @@ and %1 more</source>
     <name>kavela::desktop::SlitWindow</name>
     <message>
         <source>Films (*.mp4 *.mov *.m4v *.avi *.mkv *.mts *.m2ts);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Filme (*.mp4 *.mov *.m4v *.avi *.mkv *.mts *.m2ts);;Alle Dateien (*)</translation>
     </message>
     <message>
         <source>Slit picture</source>
@@ -19159,7 +19170,7 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>Add</source>
-        <translation type="unfinished"></translation>
+        <translation>Hinzufügen</translation>
     </message>
     <message>
         <source>New</source>
@@ -19325,7 +19336,7 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>All seasons</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Saisons</translation>
     </message>
     <message>
         <source>Categorization</source>
@@ -19538,7 +19549,7 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>&amp;Copy</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Kopieren</translation>
     </message>
     <message>
         <source>Reading %1…</source>
@@ -19879,7 +19890,7 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     <name>kavela::desktop::TakeRecordingDialog</name>
     <message>
         <source> m</source>
-        <translation type="unfinished"></translation>
+        <translation> m</translation>
     </message>
     <message>
         <source> rad/s</source>
@@ -19953,7 +19964,8 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     <message>
         <source>Time
 (s)</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeit
+(s)</translation>
     </message>
     <message>
         <source>Length of the section</source>
@@ -20526,7 +20538,7 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>Test</source>
-        <translation type="unfinished"></translation>
+        <translation>Test</translation>
     </message>
     <message>
         <source>Location</source>
@@ -21053,19 +21065,19 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>&amp;Play</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Wiedergabe</translation>
     </message>
     <message>
         <source>&amp;Play or pause</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Abspielen oder anhalten</translation>
     </message>
     <message>
         <source>One frame ba&amp;ck</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Bild &amp;zurück</translation>
     </message>
     <message>
         <source>One frame &amp;on</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Bild &amp;vor</translation>
     </message>
     <message>
         <source>P&amp;ath</source>
@@ -21358,7 +21370,7 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>From the start</source>
-        <translation type="unfinished"></translation>
+        <translation>Von vorn</translation>
     </message>
     <message>
         <source>%1 boats</source>
@@ -21398,7 +21410,7 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>%1 s</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 s</translation>
     </message>
     <message>
         <source>time trial of %1</source>
@@ -21568,7 +21580,7 @@ Add one by hand with Ctrl+N, or drop split files and recordings here.</source>
     </message>
     <message>
         <source>Import variability</source>
-        <translation type="unfinished"></translation>
+        <translation>Variabilität importieren</translation>
     </message>
     <message>
         <source>1 line is left out:</source>
@@ -21651,11 +21663,11 @@ Add one by hand with Ctrl+N, or drop split files and recordings here.</source>
     </message>
     <message>
         <source>From</source>
-        <translation type="unfinished"></translation>
+        <translation>Von</translation>
     </message>
     <message>
         <source>To</source>
-        <translation type="unfinished"></translation>
+        <translation>Bis</translation>
     </message>
 </context>
 <context>
@@ -21714,7 +21726,7 @@ Add one by hand with Ctrl+N, or drop split files and recordings here.</source>
     </message>
     <message>
         <source>Load</source>
-        <translation type="unfinished"></translation>
+        <translation>Laden</translation>
     </message>
     <message>
         <source>health</source>
@@ -21890,7 +21902,7 @@ Add one by hand with Ctrl+N, or drop split files and recordings here.</source>
     </message>
     <message>
         <source>From</source>
-        <translation type="unfinished"></translation>
+        <translation>Von</translation>
     </message>
     <message>
         <source>Value</source>
@@ -21944,7 +21956,7 @@ Add one by hand with Ctrl+N, or drop split files and recordings here.</source>
     </message>
     <message>
         <source>Load</source>
-        <translation type="unfinished"></translation>
+        <translation>Laden</translation>
     </message>
     <message>
         <source>Week</source>
