@@ -9904,31 +9904,31 @@ Rollen %8° (+ innen), Stampfen %9° (+ Bug hoch)</translation>
     </message>
     <message>
         <source>The estimate from repetitions and weight. A click or Ctrl+Enter takes it as the maximum.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Schätzung aus Wiederholungen und Gewicht. Ein Klick oder Strg+Enter nimmt sie als Maximum.</translation>
     </message>
     <message>
         <source>Exercise</source>
-        <translation type="unfinished"></translation>
+        <translation>Übung</translation>
     </message>
     <message>
         <source>exercise</source>
-        <translation type="unfinished"></translation>
+        <translation>Übung</translation>
     </message>
     <message>
         <source>Sets</source>
-        <translation type="unfinished"></translation>
+        <translation>Sätze</translation>
     </message>
     <message>
         <source>sets</source>
-        <translation type="unfinished"></translation>
+        <translation>Sätze</translation>
     </message>
     <message>
         <source>Repetitions</source>
-        <translation type="unfinished"></translation>
+        <translation>Wiederholungen</translation>
     </message>
     <message>
         <source>repetitions</source>
-        <translation type="unfinished"></translation>
+        <translation>Wiederholungen</translation>
     </message>
     <message>
         <source>Weight</source>
@@ -9936,35 +9936,35 @@ Rollen %8° (+ innen), Stampfen %9° (+ Bug hoch)</translation>
     </message>
     <message>
         <source>kg</source>
-        <translation type="unfinished"></translation>
+        <translation>kg</translation>
     </message>
     <message>
         <source>weight</source>
-        <translation type="unfinished"></translation>
+        <translation>Gewicht</translation>
     </message>
     <message>
         <source>Maximum</source>
-        <translation type="unfinished"></translation>
+        <translation>Maximum</translation>
     </message>
     <message>
         <source>maximum</source>
-        <translation type="unfinished"></translation>
+        <translation>Maximum</translation>
     </message>
     <message>
         <source>Estimate</source>
-        <translation type="unfinished"></translation>
+        <translation>Schätzung</translation>
     </message>
     <message>
         <source>Add exercise</source>
-        <translation type="unfinished"></translation>
+        <translation>Neue Übung</translation>
     </message>
     <message>
         <source>Remove exercise</source>
-        <translation type="unfinished"></translation>
+        <translation>Übung entfernen</translation>
     </message>
     <message>
         <source>Take estimate</source>
-        <translation type="unfinished"></translation>
+        <translation>Schätzung nehmen</translation>
     </message>
     <message>
         <source>Remove</source>
@@ -9972,33 +9972,33 @@ Rollen %8° (+ innen), Stampfen %9° (+ Bug hoch)</translation>
     </message>
     <message>
         <source>1 exercise</source>
-        <translation type="unfinished"></translation>
+        <translation>1 Übung</translation>
     </message>
     <message>
         <source>%1 · %2 sets · tonnage %3 kg</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 · %2 Sätze · Tonnage %3 kg</translation>
     </message>
     <message>
         <source>Estimated maximum: table %1 · Epley %2 · Brzycki %3 · McGlothin %4 · Lombardi %5 · result &lt;b&gt;%6&lt;/b&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>Geschätztes Maximum: Tabelle %1 · Epley %2 · Brzycki %3 · McGlothin %4 · Lombardi %5 · Ergebnis &lt;b&gt;%6&lt;/b&gt;</translation>
     </message>
     <message>
         <source>new exercise</source>
-        <translation type="unfinished"></translation>
+        <translation>neue Übung</translation>
     </message>
     <message>
         <source>removal of an exercise</source>
-        <translation type="unfinished"></translation>
+        <translation>Entfernen einer Übung</translation>
     </message>
     <message>
         <source>estimated maximum</source>
-        <translation type="unfinished"></translation>
+        <translation>geschätztes Maximum</translation>
     </message>
     <message numerus="yes">
         <source>%n exercises</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Übung</numerusform>
+            <numerusform>%n Übungen</numerusform>
         </translation>
     </message>
 </context>
@@ -10006,7 +10006,7 @@ Rollen %8° (+ innen), Stampfen %9° (+ Bug hoch)</translation>
     <name>kavela::desktop::ExportDialog</name>
     <message>
         <source>Export data</source>
-        <translation type="unfinished"></translation>
+        <translation>Daten exportieren</translation>
     </message>
     <message>
         <source>Split files (*.kvx)</source>
@@ -10025,43 +10025,43 @@ Rollen %8° (+ innen), Stampfen %9° (+ Bug hoch)</translation>
     </message>
     <message>
         <source>&amp;Date</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Datum</translation>
     </message>
     <message>
         <source>&amp;Location</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ort</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::FactsStatus</name>
     <message>
         <source>Which ones?</source>
-        <translation type="unfinished"></translation>
+        <translation>Welche?</translation>
     </message>
     <message>
         <source>reading was cancelled: not all files are here</source>
-        <translation type="unfinished"></translation>
+        <translation>das Lesen wurde abgebrochen: nicht alle Dateien sind hier</translation>
     </message>
     <message>
         <source>1 file could not be read</source>
-        <translation type="unfinished"></translation>
+        <translation>1 Datei war nicht lesbar</translation>
     </message>
     <message numerus="yes">
         <source>%n files could not be read</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Datei war nicht lesbar</numerusform>
+            <numerusform>%n Dateien waren nicht lesbar</numerusform>
         </translation>
     </message>
     <message>
         <source>1 copy of a file does not count</source>
-        <translation type="unfinished"></translation>
+        <translation>1 Kopie einer Datei zählt nicht</translation>
     </message>
     <message numerus="yes">
         <source>%n copies of files do not count</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Kopie von Dateien zählt nicht</numerusform>
+            <numerusform>%n Kopien von Dateien zählen nicht</numerusform>
         </translation>
     </message>
 </context>
@@ -10073,7 +10073,7 @@ Rollen %8° (+ innen), Stampfen %9° (+ Bug hoch)</translation>
     </message>
     <message>
         <source>What is wrong</source>
-        <translation type="unfinished"></translation>
+        <translation>Was falsch ist</translation>
     </message>
     <message>
         <source>Folder</source>
@@ -10081,70 +10081,70 @@ Rollen %8° (+ innen), Stampfen %9° (+ Bug hoch)</translation>
     </message>
     <message>
         <source>Files that could not be read</source>
-        <translation type="unfinished"></translation>
+        <translation>Nicht lesbare Dateien</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::FetchActions</name>
     <message>
         <source>&amp;Open a source…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Quelle öffnen…</translation>
     </message>
     <message>
         <source>&amp;Save the source…</source>
-        <translation type="unfinished"></translation>
+        <translation>Quelle &amp;speichern…</translation>
     </message>
     <message>
         <source>Choose the &amp;list of bibs…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Liste der Startnummern wählen…</translation>
     </message>
     <message>
         <source>Choose the &amp;folder for the films…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ordner für die Filme wählen…</translation>
     </message>
     <message>
         <source>&amp;Time the films of the folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Filme des Ordners s&amp;toppen</translation>
     </message>
     <message>
         <source>Fet&amp;ch</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Holen</translation>
     </message>
     <message>
         <source>&amp;Show what would be fetched</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Zeigen, was geholt würde</translation>
     </message>
     <message>
         <source>&amp;Fetch the ticked films</source>
-        <translation type="unfinished"></translation>
+        <translation>Abgehakte Filme &amp;holen</translation>
     </message>
     <message>
         <source>&amp;Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Abbre&amp;chen</translation>
     </message>
     <message>
         <source>Tick &amp;all</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Alle abhaken</translation>
     </message>
     <message>
         <source>Tick &amp;none</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Keine abhaken</translation>
     </message>
     <message>
         <source>Ser&amp;ver</source>
-        <translation type="unfinished"></translation>
+        <translation>Ser&amp;ver</translation>
     </message>
     <message>
         <source>&amp;Sign in…</source>
-        <translation type="unfinished"></translation>
+        <translation>An&amp;melden…</translation>
     </message>
     <message>
         <source>&amp;Forget the password</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Passwort vergessen</translation>
     </message>
     <message>
         <source>&amp;Other servers</source>
-        <translation type="unfinished"></translation>
+        <translation>Andere Ser&amp;ver</translation>
     </message>
 </context>
 <context>
@@ -10155,35 +10155,35 @@ Rollen %8° (+ innen), Stampfen %9° (+ Bug hoch)</translation>
     </message>
     <message>
         <source>&amp;Address</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Adresse</translation>
     </message>
     <message>
         <source>Of one film, with {bib}, {category}, {phase} or {run} where they stand ({bib:3} is 014); or of a list: a page, JSON, M3U8 or WebDAV folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Eines Films, mit {bib}, {category}, {phase} oder {run}, wo sie stehen ({bib:3} ist 014); oder einer Liste: Seite, JSON, M3U8 oder WebDAV-Ordner</translation>
     </message>
     <message>
         <source>&amp;Bibs from</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Startnummern aus</translation>
     </message>
     <message>
         <source>Start list or results (a column is called bib), or a split file</source>
-        <translation type="unfinished"></translation>
+        <translation>Startliste oder Ergebnisse (eine Spalte heißt bib), oder eine Zwischenzeitdatei</translation>
     </message>
     <message>
         <source>start list, results or split file</source>
-        <translation type="unfinished"></translation>
+        <translation>Startliste, Ergebnisse oder Zwischenzeitdatei</translation>
     </message>
     <message>
         <source>F&amp;older</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ordner</translation>
     </message>
     <message>
         <source>Where the films are put; no file there is ever overwritten</source>
-        <translation type="unfinished"></translation>
+        <translation>Wohin die Filme kommen; keine Datei dort wird je überschrieben</translation>
     </message>
     <message>
         <source>for the films</source>
-        <translation type="unfinished"></translation>
+        <translation>für die Filme</translation>
     </message>
     <message>
         <source>&amp;Names</source>
@@ -10191,35 +10191,35 @@ Rollen %8° (+ innen), Stampfen %9° (+ Bug hoch)</translation>
     </message>
     <message>
         <source>Of the files: {name}, {category}, {phase}, {bib} and {number}</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Dateien: {name}, {category}, {phase}, {bib} und {number}</translation>
     </message>
     <message>
         <source>Choose a list…</source>
-        <translation type="unfinished"></translation>
+        <translation>Liste wählen…</translation>
     </message>
     <message>
         <source>Start list, results, split file</source>
-        <translation type="unfinished"></translation>
+        <translation>Startliste, Ergebnisse, Zwischenzeitdatei</translation>
     </message>
     <message>
         <source>Choose a folder…</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordner wählen…</translation>
     </message>
     <message>
         <source>For the films</source>
-        <translation type="unfinished"></translation>
+        <translation>Für die Filme</translation>
     </message>
     <message>
         <source>Other se&amp;rvers that films may come from</source>
-        <translation type="unfinished"></translation>
+        <translation>Andere Ser&amp;ver, von denen Filme kommen dürfen</translation>
     </message>
     <message>
         <source>Show what would be fetched</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeigen, was geholt würde</translation>
     </message>
     <message>
         <source>Fetch the ticked films</source>
-        <translation type="unfinished"></translation>
+        <translation>Abgehakte Filme holen</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -10227,27 +10227,27 @@ Rollen %8° (+ innen), Stampfen %9° (+ Bug hoch)</translation>
     </message>
     <message>
         <source>Nothing is fetched before it is shown here</source>
-        <translation type="unfinished"></translation>
+        <translation>Nichts wird geholt, ehe es hier gezeigt ist</translation>
     </message>
     <message>
         <source>Films are being fetched. Another source or list is opened after that.</source>
-        <translation type="unfinished"></translation>
+        <translation>Filme werden geholt. Eine andere Quelle oder Liste wird danach geöffnet.</translation>
     </message>
     <message>
         <source>“%1” is no source of films</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ ist keine Filmquelle</translation>
     </message>
     <message>
         <source>Start list, results or split file</source>
-        <translation type="unfinished"></translation>
+        <translation>Startliste, Ergebnisse oder Zwischenzeitdatei</translation>
     </message>
     <message>
         <source>Lists and split files (*.csv *.txt *.tsv *.kvx);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Listen und Zwischenzeitdateien (*.csv *.txt *.tsv *.kvx);;Alle Dateien (*)</translation>
     </message>
     <message>
         <source>Folder for the films</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordner für die Filme</translation>
     </message>
     <message>
         <source>Open a source of films</source>
@@ -10255,59 +10255,59 @@ Rollen %8° (+ innen), Stampfen %9° (+ Bug hoch)</translation>
     </message>
     <message>
         <source>Sources of films (*.json)</source>
-        <translation type="unfinished"></translation>
+        <translation>Filmquellen (*.json)</translation>
     </message>
     <message>
         <source>Save the source of films</source>
-        <translation type="unfinished"></translation>
+        <translation>Filmquelle speichern</translation>
     </message>
     <message>
         <source>The source was saved. “kavela fetch” takes the file, too.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Quelle wurde gespeichert. Auch „kavela fetch“ nimmt die Datei.</translation>
     </message>
     <message>
         <source>The source could not be saved</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Quelle konnte nicht gespeichert werden</translation>
     </message>
     <message>
         <source>What there is to fetch is being found out…</source>
-        <translation type="unfinished"></translation>
+        <translation>Es wird ermittelt, was zu holen ist…</translation>
     </message>
     <message>
         <source>The folder “%1” cannot be made.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Ordner „%1“ lässt sich nicht anlegen.</translation>
     </message>
     <message>
         <source>Films are being fetched…</source>
-        <translation type="unfinished"></translation>
+        <translation>Filme werden geholt…</translation>
     </message>
     <message>
         <source>There is no address to sign in to yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Noch keine Adresse zum Anmelden.</translation>
     </message>
     <message>
         <source>This computer has no password store that is open. The password holds until this window is closed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieser Rechner hat keinen offenen Passwortspeicher. Das Passwort gilt, bis dieses Fenster schließt.</translation>
     </message>
     <message>
         <source>The password of %1 was forgotten.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Passwort von %1 ist vergessen.</translation>
     </message>
     <message>
         <source>%v of %m films</source>
-        <translation type="unfinished"></translation>
+        <translation>%v von %m Filmen</translation>
     </message>
     <message>
         <source>Films are being fetched</source>
-        <translation type="unfinished"></translation>
+        <translation>Filme werden geholt</translation>
     </message>
     <message>
         <source>What is there of them stays; fetching them again goes on with it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Was schon da ist, bleibt; erneutes Holen setzt es fort.</translation>
     </message>
     <message>
         <source>Stop and close</source>
-        <translation type="unfinished"></translation>
+        <translation>Anhalten und schließen</translation>
     </message>
 </context>
 <context>
@@ -10685,15 +10685,15 @@ Rollen %8° (+ innen), Stampfen %9° (+ Bug hoch)</translation>
     <name>kavela::desktop::FindActions</name>
     <message>
         <source>Queries</source>
-        <translation type="unfinished"></translation>
+        <translation>Abfragen</translation>
     </message>
     <message>
         <source>Search a &amp;folder…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ordner durchsuchen…</translation>
     </message>
     <message>
         <source>Search f&amp;iles…</source>
-        <translation type="unfinished"></translation>
+        <translation>Date&amp;ien durchsuchen…</translation>
     </message>
     <message>
         <source>&amp;Read again</source>
@@ -10709,51 +10709,51 @@ Rollen %8° (+ innen), Stampfen %9° (+ Bug hoch)</translation>
     </message>
     <message>
         <source>Save the result as &amp;CSV…</source>
-        <translation type="unfinished"></translation>
+        <translation>Ergebnis als &amp;CSV speichern…</translation>
     </message>
     <message>
         <source>&amp;Query</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Abfrage</translation>
     </message>
     <message>
         <source>&amp;Type a query</source>
-        <translation type="unfinished"></translation>
+        <translation>Abfrage &amp;tippen</translation>
     </message>
     <message>
         <source>&amp;Fields</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Felder</translation>
     </message>
     <message>
         <source>&amp;Queries</source>
-        <translation type="unfinished"></translation>
+        <translation>A&amp;bfragen</translation>
     </message>
     <message>
         <source>&amp;Keep this query</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Abfrage be&amp;wahren</translation>
     </message>
     <message>
         <source>&amp;Give up the kept query</source>
-        <translation type="unfinished"></translation>
+        <translation>Bewahrte Abfrage auf&amp;geben</translation>
     </message>
     <message>
         <source>Resul&amp;t</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ergebnis</translation>
     </message>
     <message>
         <source>&amp;Show the run at its frame</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Lauf bei seinem Bild zeigen</translation>
     </message>
     <message>
         <source>Open its &amp;race</source>
-        <translation type="unfinished"></translation>
+        <translation>Sein &amp;Rennen öffnen</translation>
     </message>
     <message>
         <source>Its &amp;time losses</source>
-        <translation type="unfinished"></translation>
+        <translation>Seine &amp;Zeitverluste</translation>
     </message>
     <message>
         <source>The rows of the &amp;group</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Zeilen der &amp;Gruppe</translation>
     </message>
 </context>
 <context>
@@ -10764,27 +10764,27 @@ Rollen %8° (+ innen), Stampfen %9° (+ Bug hoch)</translation>
     </message>
     <message>
         <source>Fields</source>
-        <translation type="unfinished"></translation>
+        <translation>Felder</translation>
     </message>
     <message>
         <source>Queries</source>
-        <translation type="unfinished"></translation>
+        <translation>Abfragen</translation>
     </message>
     <message>
         <source>gates up left cat K1W time&lt;4 – what, then what is asked of it</source>
-        <translation type="unfinished"></translation>
+        <translation>gates up left cat K1W time&lt;4 – was, dann was davon gefragt ist</translation>
     </message>
     <message>
         <source>Keep</source>
-        <translation type="unfinished"></translation>
+        <translation>Bewahren</translation>
     </message>
     <message>
         <source>Keeps this query among those at hand</source>
-        <translation type="unfinished"></translation>
+        <translation>Legt diese Abfrage zu den griffbereiten</translation>
     </message>
     <message>
         <source>The files are being read…</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Dateien werden gelesen…</translation>
     </message>
     <message>
         <source>%1, %2</source>
@@ -10800,31 +10800,31 @@ Rollen %8° (+ innen), Stampfen %9° (+ Bug hoch)</translation>
     </message>
     <message>
         <source>. Reading was stopped: the others are not searched.</source>
-        <translation type="unfinished"></translation>
+        <translation>. Das Lesen wurde angehalten: die anderen sind nicht durchsucht.</translation>
     </message>
     <message>
         <source>Nothing was found.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nichts gefunden.</translation>
     </message>
     <message>
         <source>In the group: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>In der Gruppe: %1</translation>
     </message>
     <message>
         <source> · run %1</source>
-        <translation type="unfinished"></translation>
+        <translation> · Lauf %1</translation>
     </message>
     <message>
         <source> · split %1</source>
-        <translation type="unfinished"></translation>
+        <translation> · Zwischenzeit %1</translation>
     </message>
     <message>
         <source> · %1 s</source>
-        <translation type="unfinished"></translation>
+        <translation> · %1 s</translation>
     </message>
     <message>
         <source>Save the result</source>
-        <translation type="unfinished"></translation>
+        <translation>Ergebnis speichern</translation>
     </message>
     <message>
         <source>Semicolon-separated text (*.csv)</source>
@@ -10849,26 +10849,26 @@ Rollen %8° (+ innen), Stampfen %9° (+ Bug hoch)</translation>
     <name>kavela::desktop::FoundLines</name>
     <message>
         <source>In the file</source>
-        <translation type="unfinished"></translation>
+        <translation>In der Datei</translation>
     </message>
     <message>
         <source>Was</source>
-        <translation type="unfinished"></translation>
+        <translation>Bisher</translation>
     </message>
     <message>
         <source>Will be</source>
-        <translation type="unfinished"></translation>
+        <translation>Künftig</translation>
     </message>
     <message>
         <source>new: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>neu: %1</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::FoundTable</name>
     <message>
         <source>rows of the group</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeilen der Gruppe</translation>
     </message>
     <message>
         <source>run</source>
@@ -10880,19 +10880,19 @@ Rollen %8° (+ innen), Stampfen %9° (+ Bug hoch)</translation>
     </message>
     <message>
         <source>section</source>
-        <translation type="unfinished"></translation>
+        <translation>Abschnitt</translation>
     </message>
     <message>
         <source>sections</source>
-        <translation type="unfinished"></translation>
+        <translation>Abschnitte</translation>
     </message>
     <message>
         <source>gate</source>
-        <translation type="unfinished"></translation>
+        <translation>Tor</translation>
     </message>
     <message>
         <source>gates</source>
-        <translation type="unfinished"></translation>
+        <translation>Tore</translation>
     </message>
     <message>
         <source>penalty</source>
@@ -10908,94 +10908,94 @@ Rollen %8° (+ innen), Stampfen %9° (+ Bug hoch)</translation>
     </message>
     <message>
         <source>losses</source>
-        <translation type="unfinished"></translation>
+        <translation>Verluste</translation>
     </message>
     <message>
         <source>section with strokes</source>
-        <translation type="unfinished"></translation>
+        <translation>Abschnitt mit Schlägen</translation>
     </message>
     <message>
         <source>sections with strokes</source>
-        <translation type="unfinished"></translation>
+        <translation>Abschnitte mit Schlägen</translation>
     </message>
     <message>
         <source>tag</source>
-        <translation type="unfinished"></translation>
+        <translation>Markierung</translation>
     </message>
     <message>
         <source>tags</source>
-        <translation type="unfinished"></translation>
+        <translation>Markierungen</translation>
     </message>
     <message>
         <source>group</source>
-        <translation type="unfinished"></translation>
+        <translation>Gruppe</translation>
     </message>
     <message>
         <source>groups</source>
-        <translation type="unfinished"></translation>
+        <translation>Gruppen</translation>
     </message>
     <message>
         <source>less than 1 ms</source>
-        <translation type="unfinished"></translation>
+        <translation>weniger als 1 ms</translation>
     </message>
     <message>
         <source>%1 ms</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ms</translation>
     </message>
     <message>
         <source>%1 %2 in %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 %2 in %3</translation>
     </message>
     <message>
         <source>, the first %1 shown</source>
-        <translation type="unfinished"></translation>
+        <translation>, die ersten %1 gezeigt</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::GapChart</name>
     <message>
         <source>Select runs in the table to see where time is won and lost.</source>
-        <translation type="unfinished"></translation>
+        <translation>Läufe in der Tabelle wählen, um zu sehen, wo Zeit gewonnen und verloren wird.</translation>
     </message>
     <message>
         <source>No run covers the whole course. Choose the median or a run as the reference.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein Lauf umfasst die ganze Strecke. Den Median oder einen Lauf als Referenz wählen.</translation>
     </message>
     <message>
         <source>The reference has no time in the first section. Choose another one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Referenz hat im ersten Abschnitt keine Zeit. Eine andere wählen.</translation>
     </message>
     <message>
         <source>Gap to the best run: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Rückstand auf den besten Lauf: %1</translation>
     </message>
     <message>
         <source>Gap to the median of each section</source>
-        <translation type="unfinished"></translation>
+        <translation>Rückstand auf den Median jedes Abschnitts</translation>
     </message>
     <message>
         <source>Gap to the ideal run: the best of each section</source>
-        <translation type="unfinished"></translation>
+        <translation>Rückstand auf den Ideallauf: das Beste jedes Abschnitts</translation>
     </message>
     <message>
         <source>Gap to %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Rückstand auf %1</translation>
     </message>
     <message>
         <source>Accumulated seconds, penalties included</source>
-        <translation type="unfinished"></translation>
+        <translation>Auflaufende Sekunden, mit Strafen</translation>
     </message>
     <message>
         <source>Accumulated seconds, without penalties</source>
-        <translation type="unfinished"></translation>
+        <translation>Auflaufende Sekunden, ohne Strafen</translation>
     </message>
     <message>
         <source>← slower      faster →</source>
-        <translation type="unfinished"></translation>
+        <translation>← langsamer      schneller →</translation>
     </message>
     <message>
         <source>not timed</source>
-        <translation type="unfinished"></translation>
+        <translation>ohne Zeit</translation>
     </message>
     <message>
         <source>Gap</source>
@@ -11007,7 +11007,7 @@ Rollen %8° (+ innen), Stampfen %9° (+ Bug hoch)</translation>
     </message>
     <message>
         <source>After %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Nach %1</translation>
     </message>
     <message>
         <source>Section</source>
@@ -11019,22 +11019,22 @@ Rollen %8° (+ innen), Stampfen %9° (+ Bug hoch)</translation>
     </message>
     <message>
         <source>%1: gap</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: Rückstand</translation>
     </message>
     <message>
         <source>%1: in the section</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: im Abschnitt</translation>
     </message>
     <message>
         <source>Gap along the course for the selected runs</source>
-        <translation type="unfinished"></translation>
+        <translation>Rückstand entlang der Strecke für die gewählten Läufe</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::GateChart</name>
     <message>
         <source>No run has its penalties by gate. Enter them for each gate to see where they happen.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein Lauf hat seine Strafen nach Toren. Für jedes Tor eintragen, um zu sehen, wo sie entstehen.</translation>
     </message>
     <message>
         <source>Penalties by gate</source>
@@ -11042,11 +11042,11 @@ Rollen %8° (+ innen), Stampfen %9° (+ Bug hoch)</translation>
     </message>
     <message>
         <source>Runs with a penalty at the gate, of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Läufe mit Strafe am Tor, von %1</translation>
     </message>
     <message>
         <source> · ↑ upstream gate</source>
-        <translation type="unfinished"></translation>
+        <translation> · ↑ Aufwärtstor</translation>
     </message>
     <message>
         <source>Gate</source>
@@ -11058,11 +11058,11 @@ Rollen %8° (+ innen), Stampfen %9° (+ Bug hoch)</translation>
     </message>
     <message>
         <source>Missed gate, 50 s</source>
-        <translation type="unfinished"></translation>
+        <translation>Torfehler, 50 s</translation>
     </message>
     <message>
         <source>Touch, 2 s</source>
-        <translation type="unfinished"></translation>
+        <translation>Berührung, 2 s</translation>
     </message>
     <message>
         <source>%1 s</source>
@@ -11090,7 +11090,7 @@ Rollen %8° (+ innen), Stampfen %9° (+ Bug hoch)</translation>
     </message>
     <message>
         <source>touch</source>
-        <translation type="unfinished"></translation>
+        <translation>Berührung</translation>
     </message>
     <message>
         <source>Upstream</source>
@@ -11113,7 +11113,7 @@ Rollen %8° (+ innen), Stampfen %9° (+ Bug hoch)</translation>
     </message>
     <message>
         <source>Out</source>
-        <translation type="unfinished"></translation>
+        <translation>Aus</translation>
     </message>
     <message>
         <source>Total</source>
@@ -11125,7 +11125,7 @@ Rollen %8° (+ innen), Stampfen %9° (+ Bug hoch)</translation>
     </message>
     <message>
         <source>Mark the pole line too</source>
-        <translation type="unfinished"></translation>
+        <translation>Auch die Torlinie markieren</translation>
     </message>
     <message>
         <source>Style</source>
@@ -11133,18 +11133,18 @@ Rollen %8° (+ innen), Stampfen %9° (+ Bug hoch)</translation>
     </message>
     <message>
         <source>A click brings a gate in front</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Klick holt ein Tor nach vorn</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::GateStrip</name>
     <message>
         <source>Penalties at the gates</source>
-        <translation type="unfinished"></translation>
+        <translation>Strafen an den Toren</translation>
     </message>
     <message>
         <source>No gates yet: set up the course with Ctrl+G to note penalties.</source>
-        <translation type="unfinished"></translation>
+        <translation>Noch keine Tore: die Strecke mit Strg+G einrichten, um Strafen zu notieren.</translation>
     </message>
     <message>
         <source>Gate %1, upstream</source>
@@ -11157,7 +11157,8 @@ Rollen %8° (+ innen), Stampfen %9° (+ Bug hoch)</translation>
     <message>
         <source>
 T touch, F missed, 0 clean; N and P next and previous gate</source>
-        <translation type="unfinished"></translation>
+        <translation>
+T Berührung, F Torfehler, 0 fehlerfrei; N und P nächstes und voriges Tor</translation>
     </message>
 </context>
 <context>
@@ -11194,63 +11195,63 @@ T touch, F missed, 0 clean; N and P next and previous gate</source>
     <name>kavela::desktop::GoalsPanel</name>
     <message>
         <source>New group</source>
-        <translation type="unfinished"></translation>
+        <translation>Neue Gruppe</translation>
     </message>
     <message>
         <source>New goal</source>
-        <translation type="unfinished"></translation>
+        <translation>Neues Ziel</translation>
     </message>
     <message>
         <source>New sub-goal</source>
-        <translation type="unfinished"></translation>
+        <translation>Neues Teilziel</translation>
     </message>
     <message>
         <source>Goal</source>
-        <translation type="unfinished"></translation>
+        <translation>Ziel</translation>
     </message>
     <message>
         <source>Status</source>
-        <translation type="unfinished"></translation>
+        <translation>Stand</translation>
     </message>
     <message>
         <source>Add group</source>
-        <translation type="unfinished"></translation>
+        <translation>Neue Gruppe</translation>
     </message>
     <message>
         <source>A group of goals, such as “Technique”</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Gruppe von Zielen, etwa „Technik“</translation>
     </message>
     <message>
         <source>Add goal</source>
-        <translation type="unfinished"></translation>
+        <translation>Neues Ziel</translation>
     </message>
     <message>
         <source>To the group that is chosen</source>
-        <translation type="unfinished"></translation>
+        <translation>Zur gewählten Gruppe</translation>
     </message>
     <message>
         <source>Add sub-goal</source>
-        <translation type="unfinished"></translation>
+        <translation>Neues Teilziel</translation>
     </message>
     <message>
         <source>To the group that is chosen, with a status (Insert)</source>
-        <translation type="unfinished"></translation>
+        <translation>Zur gewählten Gruppe, mit einem Stand (Einfg)</translation>
     </message>
     <message>
         <source>Up</source>
-        <translation type="unfinished"></translation>
+        <translation>Nach oben</translation>
     </message>
     <message>
         <source>Alt+Up</source>
-        <translation type="unfinished"></translation>
+        <translation>Alt+Auf</translation>
     </message>
     <message>
         <source>Down</source>
-        <translation type="unfinished"></translation>
+        <translation>Nach unten</translation>
     </message>
     <message>
         <source>Alt+Down</source>
-        <translation type="unfinished"></translation>
+        <translation>Alt+Ab</translation>
     </message>
     <message>
         <source>Remove</source>
@@ -11258,16 +11259,17 @@ T touch, F missed, 0 clean; N and P next and previous gate</source>
     </message>
     <message>
         <source>Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>Löschen</translation>
     </message>
     <message>
         <source>No goals are set for this season yet.
 “Add group” begins.</source>
-        <translation type="unfinished"></translation>
+        <translation>Für diese Saison sind noch keine Ziele gesetzt.
+„Neue Gruppe“ macht den Anfang.</translation>
     </message>
     <message>
         <source>Choose a season to see its goals.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Saison wählen, um ihre Ziele zu sehen.</translation>
     </message>
     <message>
         <source>Group %1</source>
@@ -11275,46 +11277,46 @@ T touch, F missed, 0 clean; N and P next and previous gate</source>
     </message>
     <message>
         <source>%1 of %2 reached</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 von %2 erreicht</translation>
     </message>
     <message>
         <source>, %1 given up</source>
-        <translation type="unfinished"></translation>
+        <translation>, %1 aufgegeben</translation>
     </message>
     <message>
         <source>text of a goal</source>
-        <translation type="unfinished"></translation>
+        <translation>Text eines Ziels</translation>
     </message>
     <message>
         <source>status of a goal</source>
-        <translation type="unfinished"></translation>
+        <translation>Stand eines Ziels</translation>
     </message>
     <message>
         <source>new goal</source>
-        <translation type="unfinished"></translation>
+        <translation>neues Ziel</translation>
     </message>
     <message>
         <source>order of the goals</source>
-        <translation type="unfinished"></translation>
+        <translation>Reihenfolge der Ziele</translation>
     </message>
     <message>
         <source>removal of a goal</source>
-        <translation type="unfinished"></translation>
+        <translation>Entfernen eines Ziels</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::GymPanel</name>
     <message>
         <source>All seasons, in kilograms</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Saisons, in Kilogramm</translation>
     </message>
     <message>
         <source>kg</source>
-        <translation type="unfinished"></translation>
+        <translation>kg</translation>
     </message>
     <message>
         <source>Maximum</source>
-        <translation type="unfinished"></translation>
+        <translation>Maximum</translation>
     </message>
     <message>
         <source>Weight</source>
@@ -11322,23 +11324,23 @@ T touch, F missed, 0 clean; N and P next and previous gate</source>
     </message>
     <message>
         <source>Exercises</source>
-        <translation type="unfinished"></translation>
+        <translation>Übungen</translation>
     </message>
     <message>
         <source>Tonnage</source>
-        <translation type="unfinished"></translation>
+        <translation>Tonnage</translation>
     </message>
     <message>
         <source>Exercise of the chart</source>
-        <translation type="unfinished"></translation>
+        <translation>Übung des Diagramms</translation>
     </message>
     <message>
         <source>&amp;History of</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Verlauf von</translation>
     </message>
     <message>
         <source>Add session</source>
-        <translation type="unfinished"></translation>
+        <translation>Neue Einheit</translation>
     </message>
     <message>
         <source>Remove</source>
@@ -11346,27 +11348,27 @@ T touch, F missed, 0 clean; N and P next and previous gate</source>
     </message>
     <message>
         <source>removal of gym sessions</source>
-        <translation type="unfinished"></translation>
+        <translation>Entfernen von Krafteinheiten</translation>
     </message>
     <message>
         <source>Duplicate</source>
-        <translation type="unfinished"></translation>
+        <translation>Duplizieren</translation>
     </message>
     <message>
         <source>The same exercises once more, today</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieselben Übungen noch einmal, heute</translation>
     </message>
     <message>
         <source>date</source>
-        <translation type="unfinished"></translation>
+        <translation>Datum</translation>
     </message>
     <message>
         <source>new gym session</source>
-        <translation type="unfinished"></translation>
+        <translation>neue Krafteinheit</translation>
     </message>
     <message>
         <source>copy of a gym session</source>
-        <translation type="unfinished"></translation>
+        <translation>Kopie einer Krafteinheit</translation>
     </message>
     <message>
         <source>Choose an athlete.</source>
@@ -11379,24 +11381,26 @@ T touch, F missed, 0 clean; N and P next and previous gate</source>
     <message>
         <source>No gym session of this season yet.
 Press Insert to add today&apos;s.</source>
-        <translation type="unfinished"></translation>
+        <translation>Noch keine Krafteinheit dieser Saison.
+Einfg fügt die heutige hinzu.</translation>
     </message>
     <message>
         <source>No exercise yet.
 Press Insert to add one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Noch keine Übung.
+Einfg fügt eine hinzu.</translation>
     </message>
     <message>
         <source>Choose or add a session to see its exercises.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Einheit wählen oder hinzufügen, um ihre Übungen zu sehen.</translation>
     </message>
     <message>
         <source>Add an exercise with its weight to see how it develops.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Übung mit Gewicht hinzufügen, um zu sehen, wie sie sich entwickelt.</translation>
     </message>
     <message>
         <source>No weight of %1 yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Noch kein Gewicht von %1.</translation>
     </message>
 </context>
 <context>
@@ -11864,37 +11868,40 @@ Press Insert to add one.</source>
     </message>
     <message>
         <source>Ideal run %1 s</source>
-        <translation type="unfinished"></translation>
+        <translation>Ideallauf %1 s</translation>
     </message>
     <message>
         <source>No ideal run: a section has no time.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein Ideallauf: ein Abschnitt hat keine Zeit.</translation>
     </message>
     <message>
         <source>
 Fastest run %1 s, %2
 %3 s behind the ideal run</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Schnellster Lauf %1 s, %2
+%3 s hinter dem Ideallauf</translation>
     </message>
     <message>
         <source>
 Penalties are left out.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Strafen sind nicht enthalten.</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::InformationDialog</name>
     <message>
         <source>Session information</source>
-        <translation type="unfinished"></translation>
+        <translation>Angaben zur Einheit</translation>
     </message>
     <message>
         <source>The weight tells force and power when a recording is converted: analyse it again after changing it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Gewicht bestimmt Kraft und Leistung, wenn eine Aufzeichnung umgewandelt wird: nach dem Ändern neu auswerten.</translation>
     </message>
     <message>
         <source>–</source>
-        <translation type="unfinished"></translation>
+        <translation>–</translation>
     </message>
     <message>
         <source>&amp;Athlete</source>
@@ -11902,7 +11909,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>&amp;Location</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ort</translation>
     </message>
     <message>
         <source>&amp;Kind</source>
@@ -11910,35 +11917,35 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>&amp;Weight</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Gewicht</translation>
     </message>
     <message>
         <source>kg</source>
-        <translation type="unfinished"></translation>
+        <translation>kg</translation>
     </message>
     <message>
         <source>&amp;Paddle length</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Paddellänge</translation>
     </message>
     <message>
         <source>cm</source>
-        <translation type="unfinished"></translation>
+        <translation>cm</translation>
     </message>
     <message>
         <source>&amp;Blade area</source>
-        <translation type="unfinished"></translation>
+        <translation>Blatt&amp;fläche</translation>
     </message>
     <message>
         <source>cm²</source>
-        <translation type="unfinished"></translation>
+        <translation>cm²</translation>
     </message>
     <message>
         <source>Blade &amp;height</source>
-        <translation type="unfinished"></translation>
+        <translation>Blatt&amp;höhe</translation>
     </message>
     <message>
         <source>Hand po&amp;sition</source>
-        <translation type="unfinished"></translation>
+        <translation>Hand&amp;haltung</translation>
     </message>
 </context>
 <context>
@@ -11956,66 +11963,66 @@ Penalties are left out.</source>
     <name>kavela::desktop::IntervalForm</name>
     <message>
         <source>Minutes and seconds such as 1:30, or seconds</source>
-        <translation type="unfinished"></translation>
+        <translation>Minuten und Sekunden wie 1:30, oder Sekunden</translation>
     </message>
     <message>
         <source>&amp;Title</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Titel</translation>
     </message>
     <message>
         <source>T&amp;arget</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ziel</translation>
     </message>
     <message>
         <source>Rh&amp;ythm</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Rhythmus</translation>
     </message>
     <message>
         <source>S&amp;ets</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Sätze</translation>
     </message>
     <message>
         <source>Re&amp;petitions</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Wiederholungen</translation>
     </message>
     <message>
         <source>&amp;Work</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Arbeit</translation>
     </message>
     <message>
         <source>&amp;Rest between repetitions</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Pause zwischen Wiederholungen</translation>
     </message>
     <message>
         <source>Rest &amp;between sets</source>
-        <translation type="unfinished"></translation>
+        <translation>Pause zwischen Sätz&amp;en</translation>
     </message>
     <message>
         <source>&amp;Kind of rest</source>
-        <translation type="unfinished"></translation>
+        <translation>Art &amp;der Pause</translation>
     </message>
     <message>
         <source>&amp;Volume</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Umfang</translation>
     </message>
     <message>
         <source>&amp;Intensity</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Intensität</translation>
     </message>
     <message>
         <source>&amp;Description</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Beschreibung</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::IntervalTimerDialog</name>
     <message>
         <source>%1 – timer</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 – Timer</translation>
     </message>
     <message>
         <source>◀ Back</source>
-        <translation type="unfinished"></translation>
+        <translation>◀ Zurück</translation>
     </message>
     <message>
         <source>Left</source>
@@ -12023,11 +12030,11 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Space</source>
-        <translation type="unfinished"></translation>
+        <translation>Leertaste</translation>
     </message>
     <message>
         <source>Skip ▶</source>
-        <translation type="unfinished"></translation>
+        <translation>Weiter ▶</translation>
     </message>
     <message>
         <source>Right</source>
@@ -12035,11 +12042,11 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Full screen</source>
-        <translation type="unfinished"></translation>
+        <translation>Vollbild</translation>
     </message>
     <message>
         <source>F11</source>
-        <translation type="unfinished"></translation>
+        <translation>F11</translation>
     </message>
     <message>
         <source>Close</source>
@@ -12047,7 +12054,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Escape</source>
-        <translation type="unfinished"></translation>
+        <translation>Esc</translation>
     </message>
     <message>
         <source>Pause</source>
@@ -12055,11 +12062,11 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Start again</source>
-        <translation type="unfinished"></translation>
+        <translation>Von vorn</translation>
     </message>
     <message>
         <source>Go on</source>
-        <translation type="unfinished"></translation>
+        <translation>Fortsetzen</translation>
     </message>
     <message>
         <source>Start</source>
@@ -12074,7 +12081,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Make-up</source>
-        <translation type="unfinished"></translation>
+        <translation>Aufbau</translation>
     </message>
     <message>
         <source>Total</source>
@@ -12082,23 +12089,23 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Work</source>
-        <translation type="unfinished"></translation>
+        <translation>Arbeit</translation>
     </message>
     <message>
         <source>New session</source>
-        <translation type="unfinished"></translation>
+        <translation>Neue Einheit</translation>
     </message>
     <message>
         <source>interval session</source>
-        <translation type="unfinished"></translation>
+        <translation>Intervalleinheit</translation>
     </message>
     <message>
         <source>No favourite sessions yet. “Add” begins the first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Noch keine bevorzugten Einheiten. „Hinzufügen“ macht den Anfang.</translation>
     </message>
     <message>
         <source>Add a session</source>
-        <translation type="unfinished"></translation>
+        <translation>Einheit hinzufügen</translation>
     </message>
     <message>
         <source>Add</source>
@@ -12106,23 +12113,23 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Duplicate</source>
-        <translation type="unfinished"></translation>
+        <translation>Duplizieren</translation>
     </message>
     <message>
         <source>Another one like it</source>
-        <translation type="unfinished"></translation>
+        <translation>Noch eine solche</translation>
     </message>
     <message>
         <source>Up</source>
-        <translation type="unfinished"></translation>
+        <translation>Nach oben</translation>
     </message>
     <message>
         <source>Down</source>
-        <translation type="unfinished"></translation>
+        <translation>Nach unten</translation>
     </message>
     <message>
         <source>Remove the session</source>
-        <translation type="unfinished"></translation>
+        <translation>Einheit entfernen</translation>
     </message>
     <message>
         <source>Remove</source>
@@ -12130,68 +12137,68 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Start the timer…</source>
-        <translation type="unfinished"></translation>
+        <translation>Timer starten…</translation>
     </message>
     <message>
         <source>A clock for the bank, readable from afar. Double click on a session opens it too.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Uhr fürs Ufer, von weitem lesbar. Auch ein Doppelklick auf eine Einheit öffnet sie.</translation>
     </message>
     <message>
         <source>new interval session</source>
-        <translation type="unfinished"></translation>
+        <translation>neue Intervalleinheit</translation>
     </message>
     <message>
         <source>%1, copy</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, Kopie</translation>
     </message>
     <message>
         <source>copy of an interval session</source>
-        <translation type="unfinished"></translation>
+        <translation>Kopie einer Intervalleinheit</translation>
     </message>
     <message>
         <source>order of the interval sessions</source>
-        <translation type="unfinished"></translation>
+        <translation>Reihenfolge der Intervalleinheiten</translation>
     </message>
     <message>
         <source>removal of an interval session</source>
-        <translation type="unfinished"></translation>
+        <translation>Entfernen einer Intervalleinheit</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::JobsWindow</name>
     <message>
         <source>S&amp;top</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Anhalten</translation>
     </message>
     <message>
         <source>Show the &amp;folder</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ordner zeigen</translation>
     </message>
     <message>
         <source>&amp;Clear what is over</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Erledigtes ausräumen</translation>
     </message>
     <message>
         <source>Films being composed</source>
-        <translation type="unfinished"></translation>
+        <translation>Filme in Arbeit</translation>
     </message>
     <message>
         <source>No film is being composed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein Film wird zusammengesetzt.</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::KeptColumns</name>
     <message>
         <source>&amp;All columns in their order</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Alle Spalten in ihrer Reihenfolge</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::KeptQueries</name>
     <message>
         <source>Queries</source>
-        <translation type="unfinished"></translation>
+        <translation>Abfragen</translation>
     </message>
     <message>
         <source>Kept</source>
@@ -12199,26 +12206,26 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Asked last</source>
-        <translation type="unfinished"></translation>
+        <translation>Zuletzt gefragt</translation>
     </message>
     <message>
         <source>Examples</source>
-        <translation type="unfinished"></translation>
+        <translation>Beispiele</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::KeyEditor</name>
     <message>
         <source>Keys</source>
-        <translation type="unfinished"></translation>
+        <translation>Tasten</translation>
     </message>
     <message>
         <source>Find an action</source>
-        <translation type="unfinished"></translation>
+        <translation>Aktion suchen</translation>
     </message>
     <message>
         <source>Standard keys</source>
-        <translation type="unfinished"></translation>
+        <translation>Standardtasten</translation>
     </message>
     <message>
         <source>Close</source>
@@ -12226,48 +12233,48 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>%1 is the key of “%2” already. “%3” can take it over; “%2” has it no longer then.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ist schon die Taste von „%2“. „%3“ kann sie übernehmen; „%2“ hat sie dann nicht mehr.</translation>
     </message>
     <message>
         <source>Take it over</source>
-        <translation type="unfinished"></translation>
+        <translation>Übernehmen</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::KeyOverlay</name>
     <message>
         <source>All keys</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Tasten</translation>
     </message>
     <message>
         <source>Up, Down, Page up and Page down show the rest; any other key closes.</source>
-        <translation type="unfinished"></translation>
+        <translation>Auf, Ab, Bild auf und Bild ab zeigen den Rest; jede andere Taste schließt.</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::LaneStrip</name>
     <message>
         <source>Notes of the run</source>
-        <translation type="unfinished"></translation>
+        <translation>Notizen des Laufs</translation>
     </message>
     <message>
         <source>A click shows the frame of a mark, dragging moves the mark</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Klick zeigt das Bild einer Marke, Ziehen verschiebt die Marke</translation>
     </message>
     <message>
         <source>Others</source>
-        <translation type="unfinished"></translation>
+        <translation>Andere</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::LineOverlay</name>
     <message>
         <source>Lines over the film</source>
-        <translation type="unfinished"></translation>
+        <translation>Linien über dem Film</translation>
     </message>
     <message>
         <source>Drag an end of a line, or the line. With the focus here the arrows move it, with Shift by ten pixels; Tab goes from end to end, Esc leaves.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Ende einer Linie ziehen, oder die Linie. Mit dem Fokus hier verschieben die Pfeile sie, mit Umschalt um zehn Pixel; Tab geht von Ende zu Ende, Esc verlässt sie.</translation>
     </message>
     <message>
         <source>Start</source>
@@ -12278,11 +12285,11 @@ Penalties are left out.</source>
     <name>kavela::desktop::List</name>
     <message>
         <source>date</source>
-        <translation type="unfinished"></translation>
+        <translation>Datum</translation>
     </message>
     <message>
         <source>new %1</source>
-        <translation type="unfinished"></translation>
+        <translation>neu: %1</translation>
     </message>
     <message>
         <source>Remove</source>
@@ -12290,7 +12297,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>removal of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Entfernen: %1</translation>
     </message>
 </context>
 <context>
@@ -12301,46 +12308,46 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>No row is left. Ctrl+Z takes the last step back.</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Zeile übrig. Strg+Z nimmt den letzten Schritt zurück.</translation>
     </message>
     <message>
         <source>Every cell was taken.</source>
-        <translation type="unfinished"></translation>
+        <translation>Jede Zelle wurde übernommen.</translation>
     </message>
     <message>
         <source>Chart</source>
-        <translation type="unfinished"></translation>
+        <translation>Diagramm</translation>
     </message>
     <message>
         <source>Refused</source>
-        <translation type="unfinished"></translation>
+        <translation>Abgelehnt</translation>
     </message>
     <message>
         <source>Refused (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Abgelehnt (%1)</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::LoginDialog</name>
     <message>
         <source>&amp;Keep it in the password store of this computer</source>
-        <translation type="unfinished"></translation>
+        <translation>Im Passwort&amp;speicher dieses Rechners behalten</translation>
     </message>
     <message>
         <source>Sign in to %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Anmelden bei %1</translation>
     </message>
     <message>
         <source>Only this server is shown the password. It is never written into a file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nur dieser Server bekommt das Passwort. Es wird nie in eine Datei geschrieben.</translation>
     </message>
     <message>
         <source>&amp;User name</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Benutzername</translation>
     </message>
     <message>
         <source>Pass&amp;word</source>
-        <translation type="unfinished"></translation>
+        <translation>Pass&amp;wort</translation>
     </message>
 </context>
 <context>
@@ -12963,15 +12970,15 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>From the one before</source>
-        <translation type="unfinished"></translation>
+        <translation>Ab voriger</translation>
     </message>
     <message>
         <source>M marks a micro split at the frame shown.</source>
-        <translation type="unfinished"></translation>
+        <translation>M markiert eine Mikrozeit bei dem gezeigten Bild.</translation>
     </message>
     <message>
         <source>micro split</source>
-        <translation type="unfinished"></translation>
+        <translation>Mikrozeit</translation>
     </message>
 </context>
 <context>
@@ -12986,7 +12993,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>&amp;Open recordings…</source>
-        <translation type="unfinished"></translation>
+        <translation>Aufzeichnungen &amp;öffnen…</translation>
     </message>
     <message>
         <source>Save the &amp;chart…</source>
@@ -12994,79 +13001,79 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>&amp;Recording</source>
-        <translation type="unfinished"></translation>
+        <translation>Auf&amp;zeichnung</translation>
     </message>
     <message>
         <source>&amp;Convert</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Umwandeln</translation>
     </message>
     <message>
         <source>Convert &amp;all ticked</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Alle abgehakten umwandeln</translation>
     </message>
     <message>
         <source>&amp;Open the converted session</source>
-        <translation type="unfinished"></translation>
+        <translation>Umgewandelte &amp;Einheit öffnen</translation>
     </message>
     <message>
         <source>&amp;Previous recording</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Vorige Aufzeichnung</translation>
     </message>
     <message>
         <source>&amp;Next recording</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Nächste Aufzeichnung</translation>
     </message>
     <message>
         <source>&amp;Show or hide</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Zeigen oder ausblenden</translation>
     </message>
     <message>
         <source>Show this one a&amp;lone</source>
-        <translation type="unfinished"></translation>
+        <translation>Nur &amp;diese zeigen</translation>
     </message>
     <message>
         <source>&amp;Remove from the list</source>
-        <translation type="unfinished"></translation>
+        <translation>Aus der &amp;Liste entfernen</translation>
     </message>
     <message>
         <source>&amp;Time</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Zeit</translation>
     </message>
     <message>
         <source>&amp;Undo the move</source>
-        <translation type="unfinished"></translation>
+        <translation>Verschieben &amp;zurücknehmen</translation>
     </message>
     <message>
         <source>&amp;Redo the move</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Wieder verschieben</translation>
     </message>
     <message>
         <source>Align the &amp;starts</source>
-        <translation type="unfinished"></translation>
+        <translation>An den &amp;Starts ausrichten</translation>
     </message>
     <message>
         <source>Align by the &amp;clock</source>
-        <translation type="unfinished"></translation>
+        <translation>An der &amp;Uhr ausrichten</translation>
     </message>
     <message>
         <source>&amp;Align here: the cursor to the clicked moment</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Hier ausrichten: der Cursor auf den angeklickten Moment</translation>
     </message>
     <message>
         <source>&amp;Forget the clicked moment</source>
-        <translation type="unfinished"></translation>
+        <translation>Angeklickten Moment &amp;vergessen</translation>
     </message>
     <message>
         <source>&amp;Earlier</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Früher</translation>
     </message>
     <message>
         <source>&amp;Later</source>
-        <translation type="unfinished"></translation>
+        <translation>S&amp;päter</translation>
     </message>
     <message>
         <source>&amp;Previous stroke</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Voriger Schlag</translation>
     </message>
     <message>
         <source>&amp;Next stroke</source>
@@ -13078,87 +13085,87 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Axes of the &amp;phone</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Achsen des Telefons</translation>
     </message>
     <message>
         <source>Axes of the phone</source>
-        <translation type="unfinished"></translation>
+        <translation>Achsen des Telefons</translation>
     </message>
     <message>
         <source>&amp;Mark strokes and turns</source>
-        <translation type="unfinished"></translation>
+        <translation>Schläge und Drehungen &amp;markieren</translation>
     </message>
     <message>
         <source>Zoom &amp;in</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Vergrößern</translation>
     </message>
     <message>
         <source>Zoom &amp;out</source>
-        <translation type="unfinished"></translation>
+        <translation>Ver&amp;kleinern</translation>
     </message>
     <message>
         <source>Show &amp;everything</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Alles zeigen</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::MotionAlignment</name>
     <message>
         <source>Every recording begins at 0. Ctrl+Z brings the alignment before back.</source>
-        <translation type="unfinished"></translation>
+        <translation>Jede Aufzeichnung beginnt bei 0. Strg+Z holt die Ausrichtung davor zurück.</translation>
     </message>
     <message>
         <source>Every recording stands at its date. Ctrl+Z brings the alignment before back.</source>
-        <translation type="unfinished"></translation>
+        <translation>Jede Aufzeichnung steht bei ihrem Datum. Strg+Z holt die Ausrichtung davor zurück.</translation>
     </message>
     <message>
         <source>The date is not known of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Datum ist nicht bekannt von %1</translation>
     </message>
     <message>
         <source>Click the moment where it should be, choose a recording, point at its moment and press A</source>
-        <translation type="unfinished"></translation>
+        <translation>Auf den Moment klicken, wo es sein soll, eine Aufzeichnung wählen, auf ihren Moment zeigen und A drücken</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::MotionCharts</name>
     <message>
         <source>here</source>
-        <translation type="unfinished"></translation>
+        <translation>hier</translation>
     </message>
     <message>
         <source>L</source>
-        <translation type="unfinished"></translation>
+        <translation>L</translation>
     </message>
     <message>
         <source>R</source>
-        <translation type="unfinished"></translation>
+        <translation>R</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::MotionConversions</name>
     <message>
         <source>Convert</source>
-        <translation type="unfinished"></translation>
+        <translation>Umwandeln</translation>
     </message>
     <message>
         <source>%1  %2: %3 strokes, %4 turns</source>
-        <translation type="unfinished"></translation>
+        <translation>%1  %2: %3 Schläge, %4 Drehungen</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::MotionPanel</name>
     <message>
         <source>%1 s of %2 s are recorded.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 s von %2 s sind aufgezeichnet.</translation>
     </message>
     <message>
         <source>Nothing of it is recorded.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nichts davon ist aufgezeichnet.</translation>
     </message>
     <message>
         <source>greatest %1 m/s, %2 m</source>
-        <translation type="unfinished"></translation>
+        <translation>höchstens %1 m/s, %2 m</translation>
     </message>
     <message>
         <source>Section</source>
@@ -13178,7 +13185,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Heart</source>
-        <translation type="unfinished"></translation>
+        <translation>Herz</translation>
     </message>
     <message>
         <source>Speed</source>
@@ -13194,15 +13201,15 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Select a run to see its strokes, speed and heart rate.</source>
-        <translation type="unfinished"></translation>
+        <translation>Einen Lauf wählen, um seine Schläge, sein Tempo und die Herzfrequenz zu sehen.</translation>
     </message>
     <message>
         <source>No recording is attached to this run. Split taking attaches one (Ctrl+B).</source>
-        <translation type="unfinished"></translation>
+        <translation>Diesem Lauf ist keine Aufzeichnung zugeordnet. Das geschieht in der Zwischenzeitnahme (Strg+B).</translation>
     </message>
     <message>
         <source>%1 of the part that is recorded; strokes of the whole run are not known.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 des aufgezeichneten Teils; Schläge des ganzen Laufs sind nicht bekannt.</translation>
     </message>
     <message>
         <source>Run</source>
@@ -13213,7 +13220,7 @@ Penalties are left out.</source>
     <name>kavela::desktop::MotionRecordings</name>
     <message>
         <source>%1: there is not enough memory for it</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: der Speicher reicht dafür nicht</translation>
     </message>
 </context>
 <context>
@@ -13224,35 +13231,35 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Open it</source>
-        <translation type="unfinished"></translation>
+        <translation>Öffnen</translation>
     </message>
     <message>
         <source>Convert</source>
-        <translation type="unfinished"></translation>
+        <translation>Umwandeln</translation>
     </message>
     <message>
         <source>Writes strokes and turns as a processed session (.bms) beside the recording</source>
-        <translation type="unfinished"></translation>
+        <translation>Schreibt Schläge und Drehungen als ausgewertete Einheit (.bms) neben die Aufzeichnung</translation>
     </message>
     <message>
         <source>Convert all ticked</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle abgehakten umwandeln</translation>
     </message>
     <message>
         <source>At the cursor</source>
-        <translation type="unfinished"></translation>
+        <translation>Am Cursor</translation>
     </message>
     <message>
         <source>Drop raw recordings (.kvb) here</source>
-        <translation type="unfinished"></translation>
+        <translation>Rohaufzeichnungen (.kvb) hierher ziehen</translation>
     </message>
     <message>
         <source>Several are laid over each other. They are only read: converting writes a new file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Mehrere liegen übereinander. Sie werden nur gelesen: Umwandeln schreibt eine neue Datei.</translation>
     </message>
     <message>
         <source>Open recordings…</source>
-        <translation type="unfinished"></translation>
+        <translation>Aufzeichnungen öffnen…</translation>
     </message>
     <message>
         <source>Saved %1</source>
@@ -13264,7 +13271,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Raw recordings (*.kvb);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Rohaufzeichnungen (*.kvb);;Alle Dateien (*)</translation>
     </message>
     <message>
         <source>%1 of %2</source>
@@ -13272,11 +13279,11 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Reading %1…</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 wird gelesen…</translation>
     </message>
     <message>
         <source>Raw recordings</source>
-        <translation type="unfinished"></translation>
+        <translation>Rohaufzeichnungen</translation>
     </message>
     <message>
         <source>%1 and %2 more</source>
@@ -13287,11 +13294,11 @@ Penalties are left out.</source>
     <name>kavela::desktop::NoteMarks</name>
     <message>
         <source>This mark lies on the film of a fixed camera that is not in step.</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Marke liegt auf dem Film einer festen Kamera, die nicht im Gleichlauf ist.</translation>
     </message>
     <message>
         <source>The other run of this time loss is not in this file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der andere Lauf dieses Zeitverlusts ist nicht in dieser Datei.</translation>
     </message>
     <message>
         <source>Another run came to the front: nothing was marked.</source>
@@ -13311,15 +13318,15 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>This mark lies on another film than the one shown.</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Marke liegt auf einem anderen Film als dem gezeigten.</translation>
     </message>
     <message>
         <source>None of these marks lies on the film that is shown.</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine dieser Marken liegt auf dem gezeigten Film.</translation>
     </message>
     <message>
         <source>Nothing is selected that could be removed. Ctrl and the arrows go from mark to mark.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nichts ist gewählt, das sich entfernen ließe. Strg und die Pfeile gehen von Marke zu Marke.</translation>
     </message>
     <message>
         <source>mark removed</source>
@@ -13338,7 +13345,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Upstreams</source>
-        <translation type="unfinished"></translation>
+        <translation>Aufwärtstore</translation>
     </message>
     <message>
         <source>Strokes</source>
@@ -13346,7 +13353,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Micro</source>
-        <translation type="unfinished"></translation>
+        <translation>Mikro</translation>
     </message>
     <message>
         <source>Tags</source>
@@ -13354,7 +13361,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Losses</source>
-        <translation type="unfinished"></translation>
+        <translation>Verluste</translation>
     </message>
     <message>
         <source>Comments</source>
@@ -13366,7 +13373,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Cameras</source>
-        <translation type="unfinished"></translation>
+        <translation>Kameras</translation>
     </message>
     <message>
         <source>Remove</source>
@@ -13377,54 +13384,54 @@ Penalties are left out.</source>
     <name>kavela::desktop::NotesPanel</name>
     <message>
         <source>Clip %1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Clip %1 von %2</translation>
     </message>
     <message>
         <source>This key works in the mode %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Taste wirkt im Modus %1.</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::OfferDialog</name>
     <message>
         <source>A newer version</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine neuere Version</translation>
     </message>
     <message>
         <source>Kavela %1 is here</source>
-        <translation type="unfinished"></translation>
+        <translation>Kavela %1 ist da</translation>
     </message>
     <message>
         <source>What is new</source>
-        <translation type="unfinished"></translation>
+        <translation>Was neu ist</translation>
     </message>
     <message>
         <source>Nothing is told of what is new.</source>
-        <translation type="unfinished"></translation>
+        <translation>Was neu ist, wird nicht gesagt.</translation>
     </message>
     <message>
         <source>The file has %1 and is put into %2. You install it yourself, when it suits you.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei hat %1 und kommt nach %2. Installiert wird sie von Hand, wenn es passt.</translation>
     </message>
     <message>
         <source>It is of %1. You have %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sie ist vom %1. Installiert ist %2.</translation>
     </message>
     <message>
         <source>&amp;Skip this version</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Version &amp;überspringen</translation>
     </message>
     <message>
         <source>&amp;Later</source>
-        <translation type="unfinished"></translation>
+        <translation>S&amp;päter</translation>
     </message>
     <message>
         <source>&amp;Download</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Herunterladen</translation>
     </message>
     <message>
         <source>&amp;Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Abbre&amp;chen</translation>
     </message>
     <message>
         <source>%1 of %2</source>
@@ -13432,19 +13439,19 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>&amp;Close</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Schließen</translation>
     </message>
     <message>
         <source>&amp;Show the folder</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ordner zeigen</translation>
     </message>
     <message>
         <source>The file is the one that was signed, and stands as “%1” in %2. Leave Kavela before you install it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei ist die signierte und liegt als „%1“ in %2. Kavela vor dem Installieren beenden.</translation>
     </message>
     <message>
         <source>Nothing was kept of the file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Von der Datei wurde nichts behalten.</translation>
     </message>
 </context>
 <context>
@@ -13455,27 +13462,27 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>What differs</source>
-        <translation type="unfinished"></translation>
+        <translation>Unterschied</translation>
     </message>
     <message>
         <source>How</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie</translation>
     </message>
     <message>
         <source>Official results and the films</source>
-        <translation type="unfinished"></translation>
+        <translation>Offizielle Ergebnisse und die Filme</translation>
     </message>
     <message>
         <source>&amp;Take over</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Übernehmen</translation>
     </message>
     <message>
         <source>&amp;Show the run</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Lauf zeigen</translation>
     </message>
     <message>
         <source>A &amp;file…</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine &amp;Datei…</translation>
     </message>
     <message>
         <source>Results list</source>
@@ -13499,11 +13506,11 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Official results</source>
-        <translation type="unfinished"></translation>
+        <translation>Offizielle Ergebnisse</translation>
     </message>
     <message>
         <source>Reading %1…</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 wird gelesen…</translation>
     </message>
     <message>
         <source>“%1” cannot be opened</source>
@@ -13511,73 +13518,73 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>The race carries no results list. Open one with “A file…”.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Rennen enthält keine Ergebnisliste. Mit „Eine Datei…“ eine öffnen.</translation>
     </message>
     <message>
         <source>The films and this list say the same.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Filme und diese Liste sagen dasselbe.</translation>
     </message>
     <message>
         <source>%1 differences, %2 of them to take over. The films&apos; own times stay; Ctrl+Z in split taking takes a step back.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Unterschiede, davon %2 zu übernehmen. Die eigenen Zeiten der Filme bleiben; Strg+Z in der Zwischenzeitnahme geht einen Schritt zurück.</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::OnlineDialog</name>
     <message>
         <source>Any server that stores files by WebDAV will do. The password is asked for each time and stored nowhere.</source>
-        <translation type="unfinished"></translation>
+        <translation>Jeder Server, der Dateien über WebDAV ablegt, ist recht. Das Passwort wird jedes Mal erfragt und nirgends gespeichert.</translation>
     </message>
     <message>
         <source>&amp;Planning</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Planung</translation>
     </message>
     <message>
         <source>&amp;Address</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Adresse</translation>
     </message>
     <message>
         <source>&amp;User name</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Benutzername</translation>
     </message>
     <message>
         <source>Pass&amp;word</source>
-        <translation type="unfinished"></translation>
+        <translation>Pass&amp;wort</translation>
     </message>
     <message>
         <source>The settings name no shared planning.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Einstellungen nennen keine geteilte Planung.</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::OnlinePlanning</name>
     <message>
         <source>Saving the planning online…</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Planung wird online gespeichert…</translation>
     </message>
     <message>
         <source>“%1” is saved online.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ ist online gespeichert.</translation>
     </message>
     <message>
         <source>“%1” was changed on the server since this planning was read from there or saved there. Saving would lose that change.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ wurde auf dem Server geändert, seit diese Planung dort gelesen oder gespeichert wurde. Beim Speichern ginge jene Änderung verloren.</translation>
     </message>
     <message>
         <source>There is a planning “%1” on the server that this one does not come from. Saving would replace it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Auf dem Server liegt eine Planung „%1“, von der diese nicht stammt. Speichern würde sie ersetzen.</translation>
     </message>
     <message>
         <source>Somebody else&apos;s work lies on the server</source>
-        <translation type="unfinished"></translation>
+        <translation>Auf dem Server liegt die Arbeit von jemand anderem</translation>
     </message>
     <message>
         <source>Look at it</source>
-        <translation type="unfinished"></translation>
+        <translation>Ansehen</translation>
     </message>
     <message>
         <source>Save under another name…</source>
-        <translation type="unfinished"></translation>
+        <translation>Unter anderem Namen speichern…</translation>
     </message>
     <message>
         <source>Replace it</source>
@@ -13585,23 +13592,23 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Save the planning online</source>
-        <translation type="unfinished"></translation>
+        <translation>Planung online speichern</translation>
     </message>
     <message>
         <source>Name on the server</source>
-        <translation type="unfinished"></translation>
+        <translation>Name auf dem Server</translation>
     </message>
     <message>
         <source>%1 (mine)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (meine)</translation>
     </message>
     <message>
         <source>“%1” cannot be the name of a file.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ kann kein Dateiname sein.</translation>
     </message>
     <message>
         <source>The server has no such file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Server hat keine solche Datei.</translation>
     </message>
     <message>
         <source>What the server has is no planning.</source>
@@ -13609,83 +13616,83 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>The online planning could not be opened.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Online-Planung konnte nicht geöffnet werden.</translation>
     </message>
     <message>
         <source>Open an online planning</source>
-        <translation type="unfinished"></translation>
+        <translation>Online-Planung öffnen</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::OnlineSaving</name>
     <message>
         <source>The server changes the planning all the time.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Server ändert die Planung fortwährend.</translation>
     </message>
     <message>
         <source>The server has no such folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Server hat keinen solchen Ordner.</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::OnlineStore</name>
     <message>
         <source>The address is none. It begins with https://.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das ist keine Adresse. Sie beginnt mit https://.</translation>
     </message>
     <message>
         <source>Only https:// keeps the password and the plan from other readers.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nur https:// hält Passwort und Plan vor fremden Lesern verborgen.</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::OrderBoard</name>
     <message>
         <source>Order at the gate in front</source>
-        <translation type="unfinished"></translation>
+        <translation>Reihenfolge am Tor davor</translation>
     </message>
     <message>
         <source>A place up</source>
-        <translation type="unfinished"></translation>
+        <translation>Einen Platz vor</translation>
     </message>
     <message>
         <source>A place down</source>
-        <translation type="unfinished"></translation>
+        <translation>Einen Platz zurück</translation>
     </message>
     <message>
         <source>Not seen at this gate</source>
-        <translation type="unfinished"></translation>
+        <translation>An diesem Tor nicht gesehen</translation>
     </message>
     <message>
         <source>Seen, as the last</source>
-        <translation type="unfinished"></translation>
+        <translation>Gesehen, als letztes</translation>
     </message>
     <message>
         <source>not of this heat</source>
-        <translation type="unfinished"></translation>
+        <translation>nicht in diesem Heat</translation>
     </message>
     <message>
         <source>not seen</source>
-        <translation type="unfinished"></translation>
+        <translation>nicht gesehen</translation>
     </message>
     <message>
         <source>%1 won</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 gewonnen</translation>
     </message>
     <message>
         <source>%1 lost</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 verloren</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::PageView</name>
     <message>
         <source>Pages of the report</source>
-        <translation type="unfinished"></translation>
+        <translation>Seiten des Berichts</translation>
     </message>
     <message>
         <source>There is nothing to show.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt nichts zu zeigen.</translation>
     </message>
 </context>
 <context>
@@ -13990,11 +13997,11 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Enter a time or a position first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Erst eine Zeit oder eine Position eingeben.</translation>
     </message>
     <message>
         <source>date</source>
-        <translation type="unfinished"></translation>
+        <translation>Datum</translation>
     </message>
     <message>
         <source>Behind</source>
@@ -14002,7 +14009,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Known where the run was taken over from a split file</source>
-        <translation type="unfinished"></translation>
+        <translation>Bekannt, wo der Lauf aus einer Zwischenzeitdatei übernommen wurde</translation>
     </message>
     <message>
         <source>Splits</source>
@@ -14010,22 +14017,22 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>removal of a run</source>
-        <translation type="unfinished"></translation>
+        <translation>Entfernen eines Laufs</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::PhonePageDialog</name>
     <message>
         <source>&amp;Cut the runs out of their films</source>
-        <translation type="unfinished"></translation>
+        <translation>Läufe aus ihren Filmen &amp;schneiden</translation>
     </message>
     <message>
         <source>Page for an athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>Seite für einen Athleten</translation>
     </message>
     <message>
         <source>&amp;Save…</source>
-        <translation type="unfinished"></translation>
+        <translation>S&amp;peichern…</translation>
     </message>
     <message>
         <source>&amp;Athlete</source>
@@ -14037,26 +14044,26 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>One file for the telephone, of one race as it was last saved. Films lie in the folder beside it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Datei fürs Telefon, von einem Rennen, wie es zuletzt gespeichert wurde. Filme liegen im Ordner daneben.</translation>
     </message>
     <message>
         <source>One file for the telephone, the season of %1 files as they were last saved. Films lie in the folder beside it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Datei fürs Telefon, die Saison aus %1 Dateien, wie sie zuletzt gespeichert wurden. Filme liegen im Ordner daneben.</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::PhonePages</name>
     <message>
         <source>No clip of %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein Clip von %1: %2</translation>
     </message>
     <message>
         <source>Save the page of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Seite von %1 speichern</translation>
     </message>
     <message>
         <source>Pages (*.html *.htm)</source>
-        <translation type="unfinished"></translation>
+        <translation>Seiten (*.html *.htm)</translation>
     </message>
     <message>
         <source>The page cannot be written over a race that it is made from.</source>
@@ -14064,11 +14071,11 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Making the page…</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Seite wird gemacht…</translation>
     </message>
     <message>
         <source>Page for an athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>Seite für einen Athleten</translation>
     </message>
     <message>
         <source>%1 is written.</source>
@@ -14080,22 +14087,22 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Show in &amp;folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Im &amp;Ordner zeigen</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::PivotDialog</name>
     <message>
         <source>Pivot</source>
-        <translation type="unfinished"></translation>
+        <translation>Pivot</translation>
     </message>
     <message>
         <source>one column for all</source>
-        <translation type="unfinished"></translation>
+        <translation>eine Spalte für alle</translation>
     </message>
     <message>
         <source>How many</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie viele</translation>
     </message>
     <message>
         <source>Sum</source>
@@ -14103,7 +14110,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Mean</source>
-        <translation type="unfinished"></translation>
+        <translation>Mittel</translation>
     </message>
     <message>
         <source>Median</source>
@@ -14119,30 +14126,30 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Make</source>
-        <translation type="unfinished"></translation>
+        <translation>Anlegen</translation>
     </message>
     <message>
         <source>A &amp;row for each</source>
-        <translation type="unfinished"></translation>
+        <translation>Je eine &amp;Zeile für</translation>
     </message>
     <message>
         <source>A &amp;column for each</source>
-        <translation type="unfinished"></translation>
+        <translation>Je eine &amp;Spalte für</translation>
     </message>
     <message>
         <source>&amp;Of</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Von</translation>
     </message>
     <message>
         <source>&amp;Tell</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Sagen</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::PlaceGrid</name>
     <message>
         <source>Places at the gates</source>
-        <translation type="unfinished"></translation>
+        <translation>Plätze an den Toren</translation>
     </message>
     <message>
         <source>Gate %1</source>
@@ -14150,74 +14157,74 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>, which is not on the cross course</source>
-        <translation type="unfinished"></translation>
+        <translation>, das nicht auf der Cross-Strecke ist</translation>
     </message>
     <message>
         <source>, replaced by a later order</source>
-        <translation type="unfinished"></translation>
+        <translation>, ersetzt durch eine spätere Reihenfolge</translation>
     </message>
     <message>
         <source>No order yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Noch keine Reihenfolge.</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::PlanView</name>
     <message>
         <source>The week&apos;s date is in no calendar, so that it has no days.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Datum der Woche steht in keinem Kalender; sie hat daher keine Tage.</translation>
     </message>
     <message>
         <source>new session</source>
-        <translation type="unfinished"></translation>
+        <translation>neue Einheit</translation>
     </message>
     <message>
         <source>session</source>
-        <translation type="unfinished"></translation>
+        <translation>Einheit</translation>
     </message>
     <message>
         <source>removal of a session</source>
-        <translation type="unfinished"></translation>
+        <translation>Entfernen einer Einheit</translation>
     </message>
     <message>
         <source>copied session</source>
-        <translation type="unfinished"></translation>
+        <translation>kopierte Einheit</translation>
     </message>
     <message>
         <source>move of a session</source>
-        <translation type="unfinished"></translation>
+        <translation>Verschieben einer Einheit</translation>
     </message>
     <message>
         <source>There is no week there in this season.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dort hat diese Saison keine Woche.</translation>
     </message>
     <message>
         <source>Week %1 is copied.</source>
-        <translation type="unfinished"></translation>
+        <translation>Woche %1 ist kopiert.</translation>
     </message>
     <message>
         <source>One of the two weeks has a date that is in no calendar.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine der beiden Wochen hat ein Datum, das in keinem Kalender steht.</translation>
     </message>
     <message>
         <source>copy of a week</source>
-        <translation type="unfinished"></translation>
+        <translation>Kopie einer Woche</translation>
     </message>
     <message>
         <source>Week %1 now holds the copied week; %2 sessions that stood there went. Ctrl+Z brings them back.</source>
-        <translation type="unfinished"></translation>
+        <translation>Woche %1 enthält jetzt die kopierte Woche; %2 Einheiten, die dort standen, sind weg. Strg+Z holt sie zurück.</translation>
     </message>
     <message>
         <source>repeated weeks</source>
-        <translation type="unfinished"></translation>
+        <translation>wiederholte Wochen</translation>
     </message>
     <message>
         <source>%1 weeks were written.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Wochen wurden geschrieben.</translation>
     </message>
     <message>
         <source>There is no week behind the chosen ones.</source>
-        <translation type="unfinished"></translation>
+        <translation>Hinter den gewählten gibt es keine Woche.</translation>
     </message>
     <message>
         <source>Repeat</source>
@@ -14226,63 +14233,64 @@ Penalties are left out.</source>
     <message>
         <source>How often do the %1 chosen weeks follow themselves?
 Sessions, totals, load, cycles, place, tests and goals of the weeks behind are replaced; their events and health stay.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie oft folgen die %1 gewählten Wochen auf sich selbst?
+Einheiten, Summen, Belastung, Zyklen, Ort, Tests und Ziele der Wochen dahinter werden ersetzt; ihre Ereignisse und die Gesundheit bleiben.</translation>
     </message>
     <message>
         <source>emptied weeks</source>
-        <translation type="unfinished"></translation>
+        <translation>geleerte Wochen</translation>
     </message>
     <message>
         <source>planned totals</source>
-        <translation type="unfinished"></translation>
+        <translation>geplante Summen</translation>
     </message>
     <message>
         <source>new week</source>
-        <translation type="unfinished"></translation>
+        <translation>neue Woche</translation>
     </message>
     <message>
         <source>removal of the last week</source>
-        <translation type="unfinished"></translation>
+        <translation>Entfernen der letzten Woche</translation>
     </message>
     <message>
         <source>Totals of the week</source>
-        <translation type="unfinished"></translation>
+        <translation>Summen der Woche</translation>
     </message>
     <message>
         <source>Totals of the chosen weeks</source>
-        <translation type="unfinished"></translation>
+        <translation>Summen der gewählten Wochen</translation>
     </message>
     <message>
         <source>Totals of the mesocycle</source>
-        <translation type="unfinished"></translation>
+        <translation>Summen des Mesozyklus</translation>
     </message>
     <message>
         <source>Totals of the season</source>
-        <translation type="unfinished"></translation>
+        <translation>Summen der Saison</translation>
     </message>
     <message>
         <source>planned sessions</source>
-        <translation type="unfinished"></translation>
+        <translation>geplante Einheiten</translation>
     </message>
     <message>
         <source>planned quantity</source>
-        <translation type="unfinished"></translation>
+        <translation>geplante Menge</translation>
     </message>
     <message>
         <source>Add an athlete with Ctrl+N to begin a plan.</source>
-        <translation type="unfinished"></translation>
+        <translation>Einen Athleten mit Strg+N hinzufügen, um einen Plan zu beginnen.</translation>
     </message>
     <message>
         <source>Add a season with Ctrl+Shift+N: 52 empty weeks to fill.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Saison mit Strg+Umschalt+N hinzufügen: 52 leere Wochen zum Füllen.</translation>
     </message>
     <message>
         <source>This season has no weeks. Add one with the menu Week.</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Saison hat keine Wochen. Mit dem Menü Woche eine hinzufügen.</translation>
     </message>
     <message>
         <source>This season has no week of today.</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Saison hat keine Woche von heute.</translation>
     </message>
 </context>
 <context>
@@ -14293,19 +14301,19 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>&amp;Picture…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Bild…</translation>
     </message>
     <message>
         <source>&amp;No picture</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Kein Bild</translation>
     </message>
     <message>
         <source>Picture of the athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>Bild des Athleten</translation>
     </message>
     <message>
         <source>Pictures (*.png *.jpg *.jpeg)</source>
-        <translation type="unfinished"></translation>
+        <translation>Bilder (*.png *.jpg *.jpeg)</translation>
     </message>
     <message>
         <source>&amp;Name</source>
@@ -14313,44 +14321,44 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>&amp;Categories</source>
-        <translation type="unfinished"></translation>
+        <translation>K&amp;ategorien</translation>
     </message>
     <message>
         <source>&amp;E-mail</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;E-Mail</translation>
     </message>
     <message>
         <source>P&amp;hone</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Telefon</translation>
     </message>
     <message>
         <source>The file is no picture, cannot be read, or is larger than 8 MB.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei ist kein Bild, nicht lesbar oder größer als 8 MB.</translation>
     </message>
     <message>
         <source>The athlete needs a name.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Athlet braucht einen Namen.</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::PlanningDocument</name>
     <message>
         <source>online planning</source>
-        <translation type="unfinished"></translation>
+        <translation>Online-Planung</translation>
     </message>
     <message>
         <source>The planning “%1” will be replaced.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Planung „%1“ wird ersetzt.</translation>
     </message>
     <message>
         <source>1 athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>1 Athlet</translation>
     </message>
     <message numerus="yes">
         <source>%n athletes</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Athlet</numerusform>
+            <numerusform>%n Athleten</numerusform>
         </translation>
     </message>
 </context>
@@ -15772,7 +15780,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Reading %1…</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 wird gelesen…</translation>
     </message>
     <message>
         <source>“%1” cannot be opened</source>
@@ -15933,7 +15941,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>kg</source>
-        <translation type="unfinished"></translation>
+        <translation>kg</translation>
     </message>
     <message>
         <source>&amp;Drag</source>
@@ -15961,7 +15969,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>P&amp;hone</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Telefon</translation>
     </message>
     <message>
         <source>Which side of the phone points to the bow; used where the position does not tell</source>
@@ -17359,7 +17367,7 @@ Eine Datei wählen.</translation>
     </message>
     <message>
         <source>← slower      faster →</source>
-        <translation type="unfinished"></translation>
+        <translation>← langsamer      schneller →</translation>
     </message>
     <message>
         <source>Not timed</source>
@@ -17661,7 +17669,7 @@ Eine Datei wählen.</translation>
     </message>
     <message>
         <source>&amp;Take over</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Übernehmen</translation>
     </message>
     <message>
         <source>Athletes who get a result: %1, of them new in the selection: %2. Without a result then: %3. Runs and lines that stay out: %4. A click on an athlete chooses another one, or adds the name to the selection.</source>
@@ -17919,7 +17927,7 @@ Eine Datei wählen.</translation>
     </message>
     <message>
         <source>&amp;Title</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Titel</translation>
     </message>
     <message>
         <source>When</source>
@@ -17931,7 +17939,7 @@ Eine Datei wählen.</translation>
     </message>
     <message>
         <source>&amp;Description</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Beschreibung</translation>
     </message>
     <message>
         <source>On the water</source>
@@ -17943,7 +17951,7 @@ Eine Datei wählen.</translation>
     </message>
     <message>
         <source>Others</source>
-        <translation type="unfinished"></translation>
+        <translation>Andere</translation>
     </message>
     <message>
         <source>not in this week</source>
@@ -18084,7 +18092,7 @@ Eine Datei wählen.</translation>
     </message>
     <message>
         <source>Keep</source>
-        <translation type="unfinished"></translation>
+        <translation>Bewahren</translation>
     </message>
     <message>
         <source>Cut the session to the selected stretch</source>
@@ -18305,19 +18313,19 @@ Eine Datei wählen.</translation>
     </message>
     <message>
         <source>Tick &amp;none</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Keine abhaken</translation>
     </message>
     <message>
         <source>Ser&amp;ver</source>
-        <translation type="unfinished"></translation>
+        <translation>Ser&amp;ver</translation>
     </message>
     <message>
         <source>&amp;Sign in…</source>
-        <translation type="unfinished"></translation>
+        <translation>An&amp;melden…</translation>
     </message>
     <message>
         <source>&amp;Forget the password</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Passwort vergessen</translation>
     </message>
 </context>
 <context>
@@ -18328,7 +18336,7 @@ Eine Datei wählen.</translation>
     </message>
     <message>
         <source>F&amp;older</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ordner</translation>
     </message>
     <message>
         <source>On this computer, with everything below it but hidden files</source>
@@ -18340,7 +18348,7 @@ Eine Datei wählen.</translation>
     </message>
     <message>
         <source>&amp;Address</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Adresse</translation>
     </message>
     <message>
         <source>Of a folder on a WebDAV server: Nextcloud, ownCloud, a NAS, Apache…</source>
@@ -18425,7 +18433,7 @@ and %1 more</source>
     </message>
     <message>
         <source>Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>Löschen</translation>
     </message>
     <message>
         <source>Files are being shared…</source>
@@ -18433,11 +18441,11 @@ and %1 more</source>
     </message>
     <message>
         <source>This computer has no password store that is open. The password holds until this window is closed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieser Rechner hat keinen offenen Passwortspeicher. Das Passwort gilt, bis dieses Fenster schließt.</translation>
     </message>
     <message>
         <source>The password of %1 was forgotten.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Passwort von %1 ist vergessen.</translation>
     </message>
     <message>
         <source>%v of %m files</source>
@@ -18453,7 +18461,7 @@ and %1 more</source>
     </message>
     <message>
         <source>Stop and close</source>
-        <translation type="unfinished"></translation>
+        <translation>Anhalten und schließen</translation>
     </message>
 </context>
 <context>
@@ -19553,7 +19561,7 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>Reading %1…</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 wird gelesen…</translation>
     </message>
     <message>
         <source>“%1” cannot be opened as a table</source>
@@ -19816,7 +19824,7 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>&amp;Location</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ort</translation>
     </message>
     <message>
         <source>&amp;Season</source>
@@ -19844,11 +19852,11 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>Tick &amp;all</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Alle abhaken</translation>
     </message>
     <message>
         <source>Tick &amp;none</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Keine abhaken</translation>
     </message>
     <message>
         <source>(line %1)</source>
@@ -19910,7 +19918,7 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>&amp;Location</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ort</translation>
     </message>
     <message>
         <source>La&amp;ps</source>
@@ -20437,13 +20445,13 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>1 athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>1 Athlet</translation>
     </message>
     <message numerus="yes">
         <source>%n athletes</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Athlet</numerusform>
+            <numerusform>%n Athleten</numerusform>
         </translation>
     </message>
 </context>
@@ -20878,7 +20886,7 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>← slower      faster →</source>
-        <translation type="unfinished"></translation>
+        <translation>← langsamer      schneller →</translation>
     </message>
     <message>
         <source>Time</source>
@@ -21484,7 +21492,7 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>Out</source>
-        <translation type="unfinished"></translation>
+        <translation>Aus</translation>
     </message>
     <message>
         <source>Total</source>
@@ -21496,7 +21504,7 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>Mark the pole line too</source>
-        <translation type="unfinished"></translation>
+        <translation>Auch die Torlinie markieren</translation>
     </message>
     <message>
         <source>Turn to the</source>
