@@ -5164,7 +5164,7 @@
     </message>
     <message>
         <source>Bib</source>
-        <translation>Nr</translation>
+        <translation>StNr</translation>
     </message>
     <message>
         <source>Name</source>
@@ -9349,7 +9349,7 @@ Rollen %8° (+ innen), Stampfen %9° (+ Bug hoch)</translation>
     </message>
     <message>
         <source>Bib</source>
-        <translation>Nr</translation>
+        <translation>StNr</translation>
     </message>
     <message>
         <source>Name</source>
@@ -11109,7 +11109,7 @@ Rollen %8° (+ innen), Stampfen %9° (+ Bug hoch)</translation>
     </message>
     <message>
         <source>In</source>
-        <translation>In</translation>
+        <translation>Ein</translation>
     </message>
     <message>
         <source>Out</source>
@@ -14374,11 +14374,11 @@ Einheiten, Summen, Belastung, Zyklen, Ort, Tests und Ziele der Wochen dahinter w
     </message>
     <message>
         <source>&amp;Edit the athlete…</source>
-        <translation type="unfinished"></translation>
+        <translation>Athleten &amp;bearbeiten…</translation>
     </message>
     <message>
         <source>&amp;Remove the athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>Athleten ent&amp;fernen</translation>
     </message>
     <message>
         <source>New &amp;season</source>
@@ -14386,87 +14386,87 @@ Einheiten, Summen, Belastung, Zyklen, Ort, Tests und Ziele der Wochen dahinter w
     </message>
     <message>
         <source>Remove the s&amp;eason</source>
-        <translation type="unfinished"></translation>
+        <translation>Saison ent&amp;fernen</translation>
     </message>
     <message>
         <source>&amp;Session</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Einheit</translation>
     </message>
     <message>
         <source>Sessions are in the plan: show &amp;it</source>
-        <translation type="unfinished"></translation>
+        <translation>Einheiten stehen im Plan: &amp;ihn zeigen</translation>
     </message>
     <message>
         <source>&amp;New session…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Neue Einheit…</translation>
     </message>
     <message>
         <source>&amp;Edit the session…</source>
-        <translation type="unfinished"></translation>
+        <translation>Einheit &amp;bearbeiten…</translation>
     </message>
     <message>
         <source>&amp;Remove the session</source>
-        <translation type="unfinished"></translation>
+        <translation>Einheit &amp;entfernen</translation>
     </message>
     <message>
         <source>&amp;Copy the session</source>
-        <translation type="unfinished"></translation>
+        <translation>Einheit &amp;kopieren</translation>
     </message>
     <message>
         <source>&amp;Paste the session</source>
-        <translation type="unfinished"></translation>
+        <translation>Einheit ein&amp;fügen</translation>
     </message>
     <message>
         <source>Move to the week &amp;before</source>
-        <translation type="unfinished"></translation>
+        <translation>In die Woche &amp;davor</translation>
     </message>
     <message>
         <source>Move to the week be&amp;hind</source>
-        <translation type="unfinished"></translation>
+        <translation>In die Woche dan&amp;ach</translation>
     </message>
     <message>
         <source>&amp;Week</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Woche</translation>
     </message>
     <message>
         <source>&amp;Previous week</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Vorige Woche</translation>
     </message>
     <message>
         <source>&amp;Next week</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Nächste Woche</translation>
     </message>
     <message>
         <source>&amp;This week</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Diese Woche</translation>
     </message>
     <message>
         <source>&amp;Copy the week</source>
-        <translation type="unfinished"></translation>
+        <translation>Woche &amp;kopieren</translation>
     </message>
     <message>
         <source>Paste the &amp;week</source>
-        <translation type="unfinished"></translation>
+        <translation>Woche ein&amp;fügen</translation>
     </message>
     <message>
         <source>&amp;Repeat the chosen weeks…</source>
-        <translation type="unfinished"></translation>
+        <translation>Gewählte Wochen &amp;wiederholen…</translation>
     </message>
     <message>
         <source>&amp;Empty the chosen weeks</source>
-        <translation type="unfinished"></translation>
+        <translation>Gewählte Wochen &amp;leeren</translation>
     </message>
     <message>
         <source>P&amp;lan what is in the sessions</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Planen, was in den Einheiten steht</translation>
     </message>
     <message>
         <source>&amp;Add a week at the end</source>
-        <translation type="unfinished"></translation>
+        <translation>Woche am Ende an&amp;hängen</translation>
     </message>
     <message>
         <source>Re&amp;move the last week</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Letzte Woche entfernen</translation>
     </message>
     <message>
         <source>&amp;View</source>
@@ -14478,23 +14478,23 @@ Einheiten, Summen, Belastung, Zyklen, Ort, Tests und Ziele der Wochen dahinter w
     </message>
     <message>
         <source>&amp;Reports: preview, PDF, print…</source>
-        <translation type="unfinished"></translation>
+        <translation>Be&amp;richte: Vorschau, PDF, Druck…</translation>
     </message>
     <message>
         <source>Week as a &amp;calendar file…</source>
-        <translation type="unfinished"></translation>
+        <translation>Woche als &amp;Kalenderdatei…</translation>
     </message>
     <message>
         <source>Import heart-rate &amp;variability…</source>
-        <translation type="unfinished"></translation>
+        <translation>Herzfrequenz&amp;variabilität importieren…</translation>
     </message>
     <message>
         <source>Open an o&amp;nline planning…</source>
-        <translation type="unfinished"></translation>
+        <translation>O&amp;nline-Planung öffnen…</translation>
     </message>
     <message>
         <source>Sa&amp;ve online…</source>
-        <translation type="unfinished"></translation>
+        <translation>Online spei&amp;chern…</translation>
     </message>
     <message>
         <source>Athletes</source>
@@ -14506,35 +14506,35 @@ Einheiten, Summen, Belastung, Zyklen, Ort, Tests und Ziele der Wochen dahinter w
     </message>
     <message>
         <source>Plan</source>
-        <translation type="unfinished"></translation>
+        <translation>Plan</translation>
     </message>
     <message>
         <source>Goals</source>
-        <translation type="unfinished"></translation>
+        <translation>Ziele</translation>
     </message>
     <message>
         <source>Body and heart</source>
-        <translation type="unfinished"></translation>
+        <translation>Körper und Herz</translation>
     </message>
     <message>
         <source>Gym</source>
-        <translation type="unfinished"></translation>
+        <translation>Kraftraum</translation>
     </message>
     <message>
         <source>Ranking and races</source>
-        <translation type="unfinished"></translation>
+        <translation>Rangliste und Rennen</translation>
     </message>
     <message>
         <source>Interval sessions</source>
-        <translation type="unfinished"></translation>
+        <translation>Intervalleinheiten</translation>
     </message>
     <message>
         <source>%1 measurements of heart-rate variability of this older file hold only a highest and a lowest value, for which the present version has no place: their dates are taken over, their values are not. Saving keeps the file as it was beside the new one.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Messungen der Herzfrequenzvariabilität dieser älteren Datei enthalten nur einen höchsten und einen niedrigsten Wert, für die die heutige Version keinen Platz hat: ihre Daten werden übernommen, ihre Werte nicht. Speichern bewahrt die bisherige Datei neben der neuen.</translation>
     </message>
     <message>
         <source>new athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>neuer Athlet</translation>
     </message>
     <message>
         <source>athlete</source>
@@ -14542,11 +14542,11 @@ Einheiten, Summen, Belastung, Zyklen, Ort, Tests und Ziele der Wochen dahinter w
     </message>
     <message>
         <source>removal of an athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>Entfernen eines Athleten</translation>
     </message>
     <message>
         <source>Add an athlete first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Erst einen Athleten hinzufügen.</translation>
     </message>
     <message>
         <source>new season</source>
@@ -14569,23 +14569,23 @@ Einheiten, Summen, Belastung, Zyklen, Ort, Tests und Ziele der Wochen dahinter w
     </message>
     <message>
         <source>Backwards, again: faster</source>
-        <translation type="unfinished"></translation>
+        <translation>Rückwärts, nochmals: schneller</translation>
     </message>
     <message>
         <source>Stop; held, J and L step a frame</source>
-        <translation type="unfinished"></translation>
+        <translation>Halt; gehalten gehen J und L ein Bild weiter</translation>
     </message>
     <message>
         <source>Forwards, again: faster</source>
-        <translation type="unfinished"></translation>
+        <translation>Vorwärts, nochmals: schneller</translation>
     </message>
     <message>
         <source>Slow motion backwards</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeitlupe rückwärts</translation>
     </message>
     <message>
         <source>Slow motion forward</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeitlupe vorwärts</translation>
     </message>
     <message>
         <source>&amp;Slower</source>
@@ -14597,93 +14597,93 @@ Einheiten, Summen, Belastung, Zyklen, Ort, Tests und Ziele der Wochen dahinter w
     </message>
     <message>
         <source>&amp;Normal speed</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Normales Tempo</translation>
     </message>
     <message>
         <source>S&amp;ound, at normal speed</source>
-        <translation type="unfinished"></translation>
+        <translation>T&amp;on, bei normalem Tempo</translation>
     </message>
     <message>
         <source>One frame back</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Bild zurück</translation>
     </message>
     <message>
         <source>One frame forward</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Bild vor</translation>
     </message>
     <message>
         <source>One second back</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Sekunde zurück</translation>
     </message>
     <message>
         <source>One second forward</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Sekunde vor</translation>
     </message>
     <message>
         <source>Ten seconds back</source>
-        <translation type="unfinished"></translation>
+        <translation>Zehn Sekunden zurück</translation>
     </message>
     <message>
         <source>Ten seconds forward</source>
-        <translation type="unfinished"></translation>
+        <translation>Zehn Sekunden vor</translation>
     </message>
     <message>
         <source>To the beginning</source>
-        <translation type="unfinished"></translation>
+        <translation>Zum Anfang</translation>
     </message>
     <message>
         <source>To the end</source>
-        <translation type="unfinished"></translation>
+        <translation>Zum Ende</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::PlotInteraction</name>
     <message>
         <source>Show everything</source>
-        <translation type="unfinished"></translation>
+        <translation>Alles zeigen</translation>
     </message>
     <message>
         <source>Zoom in</source>
-        <translation type="unfinished"></translation>
+        <translation>Vergrößern</translation>
     </message>
     <message>
         <source>Zoom out</source>
-        <translation type="unfinished"></translation>
+        <translation>Verkleinern</translation>
     </message>
     <message>
         <source>Show all series</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Reihen zeigen</translation>
     </message>
     <message>
         <source>Copy the picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Bild kopieren</translation>
     </message>
     <message>
         <source>Copy the values</source>
-        <translation type="unfinished"></translation>
+        <translation>Werte kopieren</translation>
     </message>
     <message>
         <source>Save as picture (PNG)…</source>
-        <translation type="unfinished"></translation>
+        <translation>Als Bild speichern (PNG)…</translation>
     </message>
     <message>
         <source>Save as drawing (SVG)…</source>
-        <translation type="unfinished"></translation>
+        <translation>Als Zeichnung speichern (SVG)…</translation>
     </message>
     <message>
         <source>Save as table (CSV)…</source>
-        <translation type="unfinished"></translation>
+        <translation>Als Tabelle speichern (CSV)…</translation>
     </message>
     <message>
         <source>The chart was not saved</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Diagramm wurde nicht gespeichert</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::PotentialPanel</name>
     <message>
         <source>The best of every own section put together, without penalties. What is left is how far the best run is from it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Beste jedes eigenen Abschnitts zusammengesetzt, ohne Strafen. Was übrig bleibt, fehlt dem besten Lauf dazu.</translation>
     </message>
     <message>
         <source>Athlete</source>
@@ -14691,7 +14691,7 @@ Einheiten, Summen, Belastung, Zyklen, Ort, Tests und Ziele der Wochen dahinter w
     </message>
     <message>
         <source>Potential</source>
-        <translation type="unfinished"></translation>
+        <translation>Potenzial</translation>
     </message>
     <message>
         <source>Best run</source>
@@ -14710,7 +14710,7 @@ Einheiten, Summen, Belastung, Zyklen, Ort, Tests und Ziele der Wochen dahinter w
     </message>
     <message>
         <source>Why it is refused</source>
-        <translation type="unfinished"></translation>
+        <translation>Warum abgelehnt</translation>
     </message>
     <message>
         <source>Import power-meter data</source>
@@ -14718,15 +14718,15 @@ Einheiten, Summen, Belastung, Zyklen, Ort, Tests und Ziele der Wochen dahinter w
     </message>
     <message>
         <source>Samples: %1. Lines refused: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Messwerte: %1. Abgelehnte Zeilen: %2.</translation>
     </message>
     <message>
         <source> s</source>
-        <translation type="unfinished"></translation>
+        <translation> s</translation>
     </message>
     <message>
         <source>It &amp;begins after the session&apos;s start by</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Beginnt nach dem Start der Einheit um</translation>
     </message>
     <message>
         <source>Import</source>
@@ -14734,42 +14734,42 @@ Einheiten, Summen, Belastung, Zyklen, Ort, Tests und Ziele der Wochen dahinter w
     </message>
     <message>
         <source>%1 of them lie in the session, which lasts %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 davon liegen in der Einheit, die %2 dauert.</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::ProgressionPanel</name>
     <message>
         <source>Behind the winners</source>
-        <translation type="unfinished"></translation>
+        <translation>Hinter den Siegern</translation>
     </message>
     <message>
         <source>Behind the fastest splits</source>
-        <translation type="unfinished"></translation>
+        <translation>Hinter den schnellsten Abschnitten</translation>
     </message>
     <message>
         <source>Behind whom</source>
-        <translation type="unfinished"></translation>
+        <translation>Hinter wem</translation>
     </message>
     <message>
         <source>The winners&apos; totals have penalties in them, the fastest splits have not</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Gesamtzeiten der Sieger enthalten Strafen, die schnellsten Abschnitte nicht</translation>
     </message>
     <message>
         <source>The team has no race of this athlete in these years.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Team hat in diesen Jahren kein Rennen dieses Athleten.</translation>
     </message>
     <message>
         <source>Open the &amp;winner&apos;s run</source>
-        <translation type="unfinished"></translation>
+        <translation>Lauf des &amp;Siegers öffnen</translation>
     </message>
     <message>
         <source>In split taking, where a split file has the run</source>
-        <translation type="unfinished"></translation>
+        <translation>In der Zwischenzeitnahme, wo eine Zwischenzeitdatei den Lauf hat</translation>
     </message>
     <message>
         <source>With a missed gate: left out of spread, trend and changes</source>
-        <translation type="unfinished"></translation>
+        <translation>Mit Torfehler: zählt nicht in Streuung, Trend und Änderungen</translation>
     </message>
     <message>
         <source>Year</source>
@@ -14789,7 +14789,7 @@ Einheiten, Summen, Belastung, Zyklen, Ort, Tests und Ziele der Wochen dahinter w
     </message>
     <message>
         <source>Day</source>
-        <translation type="unfinished"></translation>
+        <translation>Tag</translation>
     </message>
     <message>
         <source>Rank</source>
@@ -14801,11 +14801,11 @@ Einheiten, Summen, Belastung, Zyklen, Ort, Tests und Ziele der Wochen dahinter w
     </message>
     <message>
         <source>Winner&apos;s</source>
-        <translation type="unfinished"></translation>
+        <translation>Des Siegers</translation>
     </message>
     <message>
         <source>Winner</source>
-        <translation type="unfinished"></translation>
+        <translation>Sieger</translation>
     </message>
     <message>
         <source>not known</source>
@@ -14817,7 +14817,7 @@ Einheiten, Summen, Belastung, Zyklen, Ort, Tests und Ziele der Wochen dahinter w
     </message>
     <message>
         <source>On splits, %</source>
-        <translation type="unfinished"></translation>
+        <translation>Auf Abschn., %</translation>
     </message>
     <message>
         <source>Result</source>
@@ -14825,7 +14825,7 @@ Einheiten, Summen, Belastung, Zyklen, Ort, Tests und Ziele der Wochen dahinter w
     </message>
     <message>
         <source>The way of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Weg von %1</translation>
     </message>
     <message>
         <source>Behind the winner, %</source>
@@ -14833,7 +14833,7 @@ Einheiten, Summen, Belastung, Zyklen, Ort, Tests und Ziele der Wochen dahinter w
     </message>
     <message>
         <source>Behind the fastest splits, %</source>
-        <translation type="unfinished"></translation>
+        <translation>Hinter den schnellsten Abschnitten, %</translation>
     </message>
     <message>
         <source>Heats</source>
@@ -14845,11 +14845,11 @@ Einheiten, Summen, Belastung, Zyklen, Ort, Tests und Ziele der Wochen dahinter w
     </message>
     <message>
         <source>Semifinal</source>
-        <translation type="unfinished"></translation>
+        <translation>Halbfinale</translation>
     </message>
     <message>
         <source>Other runs</source>
-        <translation type="unfinished"></translation>
+        <translation>Andere Läufe</translation>
     </message>
     <message>
         <source>Percent</source>
@@ -14857,21 +14857,21 @@ Einheiten, Summen, Belastung, Zyklen, Ort, Tests und Ziele der Wochen dahinter w
     </message>
     <message>
         <source>Missed gate</source>
-        <translation type="unfinished"></translation>
+        <translation>Torfehler</translation>
     </message>
     <message>
         <source>3rd of finals, median</source>
-        <translation type="unfinished"></translation>
+        <translation>3. der Finals, Median</translation>
     </message>
     <message>
         <source>A run with a missed gate stands in the table alone.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Lauf mit Torfehler steht nur in der Tabelle.</translation>
     </message>
     <message numerus="yes">
         <source>%n runs with a missed gate stand in the table alone.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Lauf mit Torfehler steht nur in der Tabelle.</numerusform>
+            <numerusform>%n Läufe mit Torfehler stehen nur in der Tabelle.</numerusform>
         </translation>
     </message>
 </context>
@@ -14879,85 +14879,85 @@ Einheiten, Summen, Belastung, Zyklen, Ort, Tests und Ziele der Wochen dahinter w
     <name>kavela::desktop::QueryEdit</name>
     <message>
         <source>Query</source>
-        <translation type="unfinished"></translation>
+        <translation>Abfrage</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::QueryFault</name>
     <message>
         <source>%1 (at letter %2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (bei Buchstabe %2)</translation>
     </message>
     <message>
         <source>Writes “%1” there</source>
-        <translation type="unfinished"></translation>
+        <translation>Schreibt dort „%1“</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::QueryForm</name>
     <message>
         <source>Fi&amp;nd</source>
-        <translation type="unfinished"></translation>
+        <translation>Su&amp;chen</translation>
     </message>
     <message>
         <source>Words that its words begin with; a whole name in quotes</source>
-        <translation type="unfinished"></translation>
+        <translation>Wörter, mit denen die Wörter beginnen; ein ganzer Name in Anführungszeichen</translation>
     </message>
     <message>
         <source>Seconds, or 1:32.45; %1 in front leaves out the limit itself</source>
-        <translation type="unfinished"></translation>
+        <translation>Sekunden oder 1:32.45; %1 davor lässt die Grenze selbst aus</translation>
     </message>
     <message>
         <source>At l&amp;east</source>
-        <translation type="unfinished"></translation>
+        <translation>Mi&amp;ndestens</translation>
     </message>
     <message>
         <source>no limit</source>
-        <translation type="unfinished"></translation>
+        <translation>ohne Grenze</translation>
     </message>
     <message>
         <source>At &amp;most</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Höchstens</translation>
     </message>
     <message>
         <source>G&amp;roups by</source>
-        <translation type="unfinished"></translation>
+        <translation>Gr&amp;uppen nach</translation>
     </message>
     <message>
         <source>Up to three columns with commas between them</source>
-        <translation type="unfinished"></translation>
+        <translation>Bis zu drei Spalten mit Kommas dazwischen</translation>
     </message>
     <message>
         <source>no groups</source>
-        <translation type="unfinished"></translation>
+        <translation>ohne Gruppen</translation>
     </message>
     <message>
         <source>&amp;Best</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Beste</translation>
     </message>
     <message>
         <source>all</source>
-        <translation type="unfinished"></translation>
+        <translation>alle</translation>
     </message>
     <message>
         <source>S&amp;ort by</source>
-        <translation type="unfinished"></translation>
+        <translation>S&amp;ortieren nach</translation>
     </message>
     <message>
         <source>as found</source>
-        <translation type="unfinished"></translation>
+        <translation>wie gefunden</translation>
     </message>
     <message>
         <source>From the largest do&amp;wn</source>
-        <translation type="unfinished"></translation>
+        <translation>Vom Größten &amp;abwärts</translation>
     </message>
     <message>
         <source>Only the f&amp;irst</source>
-        <translation type="unfinished"></translation>
+        <translation>Nur die &amp;ersten</translation>
     </message>
     <message>
         <source>Near it: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>In der Nähe: %1</translation>
     </message>
 </context>
 <context>
@@ -15336,23 +15336,23 @@ Einheiten, Summen, Belastung, Zyklen, Ort, Tests und Ziele der Wochen dahinter w
     <name>kavela::desktop::RadioBox</name>
     <message>
         <source>Team radio</source>
-        <translation type="unfinished"></translation>
+        <translation>Teamfunk</translation>
     </message>
     <message>
         <source>Records what you say about the run</source>
-        <translation type="unfinished"></translation>
+        <translation>Nimmt auf, was zum Lauf gesagt wird</translation>
     </message>
     <message>
         <source>Plays the recording</source>
-        <translation type="unfinished"></translation>
+        <translation>Spielt die Aufnahme ab</translation>
     </message>
     <message>
         <source>Attach…</source>
-        <translation type="unfinished"></translation>
+        <translation>Anhängen…</translation>
     </message>
     <message>
         <source>Takes a sound file into the split file</source>
-        <translation type="unfinished"></translation>
+        <translation>Nimmt eine Tondatei in die Zwischenzeitdatei auf</translation>
     </message>
     <message>
         <source>Save as…</source>
@@ -15360,15 +15360,15 @@ Einheiten, Summen, Belastung, Zyklen, Ort, Tests und Ziele der Wochen dahinter w
     </message>
     <message>
         <source>Writes the recording into a file of its own</source>
-        <translation type="unfinished"></translation>
+        <translation>Schreibt die Aufnahme in eine eigene Datei</translation>
     </message>
     <message>
         <source>Earlier</source>
-        <translation type="unfinished"></translation>
+        <translation>Früher</translation>
     </message>
     <message>
         <source>Moves the recording up</source>
-        <translation type="unfinished"></translation>
+        <translation>Schiebt die Aufnahme nach oben</translation>
     </message>
     <message>
         <source>Remove</source>
@@ -15376,19 +15376,19 @@ Einheiten, Summen, Belastung, Zyklen, Ort, Tests und Ziele der Wochen dahinter w
     </message>
     <message>
         <source>Takes the recording out of the split file</source>
-        <translation type="unfinished"></translation>
+        <translation>Nimmt die Aufnahme aus der Zwischenzeitdatei</translation>
     </message>
     <message>
         <source>%1 · %2, %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 · %2, %3</translation>
     </message>
     <message>
         <source>Stop</source>
-        <translation type="unfinished"></translation>
+        <translation>Halt</translation>
     </message>
     <message>
         <source>Record</source>
-        <translation type="unfinished"></translation>
+        <translation>Aufnehmen</translation>
     </message>
     <message>
         <source>Play</source>
@@ -15396,35 +15396,35 @@ Einheiten, Summen, Belastung, Zyklen, Ort, Tests und Ziele der Wochen dahinter w
     </message>
     <message>
         <source>Recording, %1 s</source>
-        <translation type="unfinished"></translation>
+        <translation>Aufnahme, %1 s</translation>
     </message>
     <message>
         <source>Record what you say to the athlete, or attach a voice message.</source>
-        <translation type="unfinished"></translation>
+        <translation>Worte an den Athleten aufnehmen oder eine Sprachnachricht anhängen.</translation>
     </message>
     <message>
         <source>This computer has no microphone that can be used.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieser Rechner hat kein brauchbares Mikrofon.</translation>
     </message>
     <message>
         <source>The microphone gave no sound.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Mikrofon gab keinen Ton.</translation>
     </message>
     <message>
         <source>Attach a recording</source>
-        <translation type="unfinished"></translation>
+        <translation>Aufnahme anhängen</translation>
     </message>
     <message>
         <source>Sounds (*.m4a *.mp3 *.wav *.aiff *.aif *.caf *.ogg *.opus *.flac *.aac *.amr);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Töne (*.m4a *.mp3 *.wav *.aiff *.aif *.caf *.ogg *.opus *.flac *.aac *.amr);;Alle Dateien (*)</translation>
     </message>
     <message>
         <source>%1 has %2: recordings up to %3 can be kept in a split file.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 hat %2: Aufnahmen bis %3 passen in eine Zwischenzeitdatei.</translation>
     </message>
     <message>
         <source>%1 cannot be played: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 lässt sich nicht abspielen: %2</translation>
     </message>
     <message>
         <source>%1 cannot be read: %2</source>
@@ -15432,22 +15432,22 @@ Einheiten, Summen, Belastung, Zyklen, Ort, Tests und Ziele der Wochen dahinter w
     </message>
     <message>
         <source>Recording %1 cannot be played: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Aufnahme %1 lässt sich nicht abspielen: %2</translation>
     </message>
     <message>
         <source>recording %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Aufnahme %1</translation>
     </message>
     <message>
         <source>Save the recording</source>
-        <translation type="unfinished"></translation>
+        <translation>Aufnahme speichern</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::RangeLine</name>
     <message>
         <source>Click to go there. Drag the ends of the coloured part to choose what the film shows; near a split they take it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Klicken, um dorthin zu gehen. Die Enden des farbigen Teils ziehen, um zu wählen, was der Film zeigt; nahe einer Zwischenzeit rasten sie ein.</translation>
     </message>
 </context>
 <context>
@@ -15615,7 +15615,7 @@ Einheiten, Summen, Belastung, Zyklen, Ort, Tests und Ziele der Wochen dahinter w
     </message>
     <message>
         <source>Runs that came past</source>
-        <translation type="unfinished"></translation>
+        <translation>Läufe, die vorbeikamen</translation>
     </message>
     <message>
         <source>Touches</source>
@@ -15623,11 +15623,11 @@ Einheiten, Summen, Belastung, Zyklen, Ort, Tests und Ziele der Wochen dahinter w
     </message>
     <message>
         <source>Rate %</source>
-        <translation type="unfinished"></translation>
+        <translation>Rate %</translation>
     </message>
     <message>
         <source>Touches of 100 passages</source>
-        <translation type="unfinished"></translation>
+        <translation>Berührungen auf 100 Durchfahrten</translation>
     </message>
     <message>
         <source>90 %</source>
@@ -15635,31 +15635,31 @@ Einheiten, Summen, Belastung, Zyklen, Ort, Tests und Ziele der Wochen dahinter w
     </message>
     <message>
         <source>Where the rate lies with 90 %</source>
-        <translation type="unfinished"></translation>
+        <translation>Wo die Rate mit 90 % liegt</translation>
     </message>
     <message>
         <source>Ranked %</source>
-        <translation type="unfinished"></translation>
+        <translation>Gereiht %</translation>
     </message>
     <message>
         <source>Drawn towards what all have in common, the more the fewer the passages</source>
-        <translation type="unfinished"></translation>
+        <translation>Hingezogen zu dem, was allen gemeinsam ist, umso mehr, je weniger Durchfahrten</translation>
     </message>
     <message>
         <source>Ranked 90 %</source>
-        <translation type="unfinished"></translation>
+        <translation>Gereiht 90 %</translation>
     </message>
     <message>
         <source>Where the ranked rate lies</source>
-        <translation type="unfinished"></translation>
+        <translation>Wo die gereihte Rate liegt</translation>
     </message>
     <message>
         <source>Above %</source>
-        <translation type="unfinished"></translation>
+        <translation>Über %</translation>
     </message>
     <message>
         <source>The chance to be above what all have in common; from 95 the row is bold</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Wahrscheinlichkeit, über dem allen Gemeinsamen zu liegen; ab 95 ist die Zeile fett</translation>
     </message>
     <message>
         <source>Missed</source>
@@ -15671,11 +15671,11 @@ Einheiten, Summen, Belastung, Zyklen, Ort, Tests und Ziele der Wochen dahinter w
     </message>
     <message>
         <source>Missed %</source>
-        <translation type="unfinished"></translation>
+        <translation>Verfehlt %</translation>
     </message>
     <message>
         <source>Missed 90 %</source>
-        <translation type="unfinished"></translation>
+        <translation>Verfehlt 90 %</translation>
     </message>
     <message>
         <source>&amp;Rates</source>
@@ -15683,7 +15683,7 @@ Einheiten, Summen, Belastung, Zyklen, Ort, Tests und Ziele der Wochen dahinter w
     </message>
     <message>
         <source>No run that is asked for has its penalties by gate.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein gefragter Lauf hat seine Strafen nach Toren.</translation>
     </message>
 </context>
 <context>
@@ -15694,57 +15694,57 @@ Einheiten, Summen, Belastung, Zyklen, Ort, Tests und Ziele der Wochen dahinter w
     </message>
     <message>
         <source>%1 of %2 files</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 von %2 Dateien</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::RecordedSoundPlayer</name>
     <message>
         <source>This computer has no loudspeaker.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieser Rechner hat keinen Lautsprecher.</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::RecordingDialog</name>
     <message>
         <source>The film begins %1 after the recording.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Film beginnt %1 nach der Aufzeichnung.</translation>
     </message>
     <message>
         <source>The film begins %1 before the recording.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Film beginnt %1 vor der Aufzeichnung.</translation>
     </message>
     <message>
         <source>Its clock gains %1 s in 100 s, which is taken out.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ihre Uhr geht in 100 s um %1 s vor; das ist herausgerechnet.</translation>
     </message>
     <message>
         <source>The recording is of another athlete and another day.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Aufzeichnung ist von einem anderen Athleten und einem anderen Tag.</translation>
     </message>
     <message>
         <source>The recording is of another athlete.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Aufzeichnung ist von einem anderen Athleten.</translation>
     </message>
     <message>
         <source>The recording is of another day.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Aufzeichnung ist von einem anderen Tag.</translation>
     </message>
     <message>
         <source>Recording of a run</source>
-        <translation type="unfinished"></translation>
+        <translation>Aufzeichnung eines Laufs</translation>
     </message>
     <message>
         <source>Choose a &amp;recording…</source>
-        <translation type="unfinished"></translation>
+        <translation>Aufzeichnung &amp;wählen…</translation>
     </message>
     <message>
         <source>&amp;Attach the part of this run</source>
-        <translation type="unfinished"></translation>
+        <translation>Teil dieses Laufs &amp;zuordnen</translation>
     </message>
     <message>
         <source>Take o&amp;ff what is attached</source>
-        <translation type="unfinished"></translation>
+        <translation>Zugeordnetes &amp;lösen</translation>
     </message>
     <message>
         <source>Close</source>
@@ -15752,31 +15752,31 @@ Einheiten, Summen, Belastung, Zyklen, Ort, Tests und Ziele der Wochen dahinter w
     </message>
     <message>
         <source>Common moment</source>
-        <translation type="unfinished"></translation>
+        <translation>Gemeinsamer Moment</translation>
     </message>
     <message>
         <source>A later one, against drift</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein späterer, gegen Drift</translation>
     </message>
     <message>
         <source>From the film</source>
-        <translation type="unfinished"></translation>
+        <translation>Vom Film</translation>
     </message>
     <message>
         <source>From the chart</source>
-        <translation type="unfinished"></translation>
+        <translation>Vom Diagramm</translation>
     </message>
     <message>
         <source>Clear</source>
-        <translation type="unfinished"></translation>
+        <translation>Leeren</translation>
     </message>
     <message>
         <source>film %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Film %1</translation>
     </message>
     <message>
         <source>recording %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Aufnahme %1</translation>
     </message>
     <message>
         <source>Reading %1…</source>
@@ -15788,66 +15788,66 @@ Einheiten, Summen, Belastung, Zyklen, Ort, Tests und Ziele der Wochen dahinter w
     </message>
     <message>
         <source>No recording yet</source>
-        <translation type="unfinished"></translation>
+        <translation>Noch keine Aufzeichnung</translation>
     </message>
     <message>
         <source>Choose the recording (.kvb) of the run, or drop it here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Aufzeichnung (.kvb) des Laufs wählen oder hierher ziehen.</translation>
     </message>
     <message>
         <source>The boat&apos;s acceleration stands here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Hier steht die Beschleunigung des Boots.</translation>
     </message>
     <message>
         <source>Find a moment that film and recording both show, such as the first stroke or a hit on the boat: go there in the film, click it in the chart, and set both.</source>
-        <translation type="unfinished"></translation>
+        <translation>Einen Moment suchen, den Film und Aufzeichnung zeigen, etwa den ersten Schlag oder einen Stoß ans Boot: im Film hingehen, im Diagramm anklicken und beide setzen.</translation>
     </message>
     <message>
         <source>Forward acceleration</source>
-        <translation type="unfinished"></translation>
+        <translation>Beschleunigung vorwärts</translation>
     </message>
     <message>
         <source>Acceleration</source>
-        <translation type="unfinished"></translation>
+        <translation>Beschleunigung</translation>
     </message>
     <message>
         <source>Yaw rate</source>
-        <translation type="unfinished"></translation>
+        <translation>Gierrate</translation>
     </message>
     <message>
         <source>film –</source>
-        <translation type="unfinished"></translation>
+        <translation>Film –</translation>
     </message>
     <message>
         <source>recording –</source>
-        <translation type="unfinished"></translation>
+        <translation>Aufzeichnung –</translation>
     </message>
     <message>
         <source>The run has to be marked first: its start and its splits.</source>
-        <translation type="unfinished"></translation>
+        <translation>Erst den Lauf markieren: seinen Start und seine Zwischenzeiten.</translation>
     </message>
     <message>
         <source>Recording: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Aufzeichnung: %1</translation>
     </message>
     <message>
         <source>Run: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Lauf: %1</translation>
     </message>
     <message>
         <source>Nothing of the recording lies within the run.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nichts von der Aufzeichnung liegt im Lauf.</translation>
     </message>
     <message>
         <source>The part of %1 is attached.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Teil von %1 ist zugeordnet.</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::RecordingList</name>
     <message>
         <source>%1 a second</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 je Sekunde</translation>
     </message>
     <message>
         <source>position</source>
@@ -15855,31 +15855,31 @@ Einheiten, Summen, Belastung, Zyklen, Ort, Tests und Ziele der Wochen dahinter w
     </message>
     <message>
         <source>no position</source>
-        <translation type="unfinished"></translation>
+        <translation>keine Position</translation>
     </message>
     <message>
         <source>heart</source>
-        <translation type="unfinished"></translation>
+        <translation>Herz</translation>
     </message>
     <message>
         <source>no heart</source>
-        <translation type="unfinished"></translation>
+        <translation>kein Herz</translation>
     </message>
     <message>
         <source>watch</source>
-        <translation type="unfinished"></translation>
+        <translation>Uhr</translation>
     </message>
     <message>
         <source>no watch</source>
-        <translation type="unfinished"></translation>
+        <translation>keine Uhr</translation>
     </message>
     <message>
         <source>looking for strokes…</source>
-        <translation type="unfinished"></translation>
+        <translation>Schläge werden gesucht…</translation>
     </message>
     <message>
         <source>%1 strokes, %2 turns</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Schläge, %2 Drehungen</translation>
     </message>
     <message>
         <source>side unknown</source>
@@ -15898,19 +15898,19 @@ Einheiten, Summen, Belastung, Zyklen, Ort, Tests und Ziele der Wochen dahinter w
     </message>
     <message>
         <source>recording taken off</source>
-        <translation type="unfinished"></translation>
+        <translation>Aufzeichnung gelöst</translation>
     </message>
     <message>
         <source>Attach it all the same</source>
-        <translation type="unfinished"></translation>
+        <translation>Trotzdem zuordnen</translation>
     </message>
     <message>
         <source>Recording of the run</source>
-        <translation type="unfinished"></translation>
+        <translation>Aufzeichnung des Laufs</translation>
     </message>
     <message>
         <source>Recordings (*.kvb);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Aufzeichnungen (*.kvb);;Alle Dateien (*)</translation>
     </message>
 </context>
 <context>
@@ -15921,11 +15921,11 @@ Einheiten, Summen, Belastung, Zyklen, Ort, Tests und Ziele der Wochen dahinter w
     </message>
     <message>
         <source>Later b&amp;y</source>
-        <translation type="unfinished"></translation>
+        <translation>S&amp;päter um</translation>
     </message>
     <message>
         <source>Drag a curve with Shift, or press A, to move it in time</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Kurve mit Umschalt ziehen oder A drücken, um sie in der Zeit zu verschieben</translation>
     </message>
     <message>
         <source>s</source>
@@ -15933,11 +15933,11 @@ Einheiten, Summen, Belastung, Zyklen, Ort, Tests und Ziele der Wochen dahinter w
     </message>
     <message>
         <source>&amp;Mass in motion</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Bewegte Masse</translation>
     </message>
     <message>
         <source>Athlete, boat and kit</source>
-        <translation type="unfinished"></translation>
+        <translation>Athlet, Boot und Ausrüstung</translation>
     </message>
     <message>
         <source>kg</source>
@@ -15945,27 +15945,27 @@ Einheiten, Summen, Belastung, Zyklen, Ort, Tests und Ziele der Wochen dahinter w
     </message>
     <message>
         <source>&amp;Drag</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Widerstand</translation>
     </message>
     <message>
         <source>Resistance of the hull over the square of its speed</source>
-        <translation type="unfinished"></translation>
+        <translation>Widerstand des Rumpfs durch das Quadrat seiner Geschwindigkeit</translation>
     </message>
     <message>
         <source>N·s²/m²</source>
-        <translation type="unfinished"></translation>
+        <translation>N·s²/m²</translation>
     </message>
     <message>
         <source>&amp;Boat</source>
-        <translation type="unfinished"></translation>
+        <translation>B&amp;oot</translation>
     </message>
     <message>
         <source>Kayak</source>
-        <translation type="unfinished"></translation>
+        <translation>Kajak</translation>
     </message>
     <message>
         <source>Canoe</source>
-        <translation type="unfinished"></translation>
+        <translation>Canadier</translation>
     </message>
     <message>
         <source>P&amp;hone</source>
@@ -15973,14 +15973,14 @@ Einheiten, Summen, Belastung, Zyklen, Ort, Tests und Ziele der Wochen dahinter w
     </message>
     <message>
         <source>Which side of the phone points to the bow; used where the position does not tell</source>
-        <translation type="unfinished"></translation>
+        <translation>Welche Seite des Telefons zum Bug zeigt; gilt, wo die Position es nicht sagt</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::RenameFilmsDialog</name>
     <message>
         <source>Now</source>
-        <translation type="unfinished"></translation>
+        <translation>Jetzt</translation>
     </message>
     <message>
         <source>Then</source>
@@ -15988,31 +15988,31 @@ Einheiten, Summen, Belastung, Zyklen, Ort, Tests und Ziele der Wochen dahinter w
     </message>
     <message>
         <source>stays</source>
-        <translation type="unfinished"></translation>
+        <translation>bleibt</translation>
     </message>
     <message>
         <source>stays: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>bleibt: %1</translation>
     </message>
     <message>
         <source>Rename films</source>
-        <translation type="unfinished"></translation>
+        <translation>Filme umbenennen</translation>
     </message>
     <message>
         <source>How the films are to be called: {name}, {category}, {phase}, {bib} and {number} stand for what is known of each. Split files of the folder follow.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie die Filme heißen sollen: {name}, {category}, {phase}, {bib} und {number} stehen für das, was von jedem bekannt ist. Zwischenzeitdateien des Ordners ziehen mit.</translation>
     </message>
     <message>
         <source>Rename</source>
-        <translation type="unfinished"></translation>
+        <translation>Umbenennen</translation>
     </message>
     <message>
         <source>%1 of %2 films get another name.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 von %2 Filmen bekommen einen anderen Namen.</translation>
     </message>
     <message>
         <source>%1 lack what the pattern asks for.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 fehlt, was das Muster verlangt.</translation>
     </message>
 </context>
 <context>
@@ -16023,17 +16023,17 @@ Einheiten, Summen, Belastung, Zyklen, Ort, Tests und Ziele der Wochen dahinter w
     </message>
     <message>
         <source>Leaving the program stops that, and nothing of an unfinished film is kept.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Verlassen des Programms hält das an, und von einem unfertigen Film bleibt nichts.</translation>
     </message>
     <message>
         <source>Stop and leave</source>
-        <translation type="unfinished"></translation>
+        <translation>Anhalten und verlassen</translation>
     </message>
     <message numerus="yes">
         <source>%n films are still being composed.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Film wird noch zusammengesetzt.</numerusform>
+            <numerusform>%n Filme werden noch zusammengesetzt.</numerusform>
         </translation>
     </message>
 </context>
@@ -16041,26 +16041,26 @@ Einheiten, Summen, Belastung, Zyklen, Ort, Tests und Ziele der Wochen dahinter w
     <name>kavela::desktop::ReplayBar</name>
     <message>
         <source>Place in the session</source>
-        <translation type="unfinished"></translation>
+        <translation>Stelle in der Einheit</translation>
     </message>
     <message>
         <source>Speed of the replay ([ slower, ] faster)</source>
-        <translation type="unfinished"></translation>
+        <translation>Tempo der Wiedergabe ([ langsamer, ] schneller)</translation>
     </message>
     <message>
         <source>Pause (Space)</source>
-        <translation type="unfinished"></translation>
+        <translation>Pause (Leertaste)</translation>
     </message>
     <message>
         <source>Play (Space)</source>
-        <translation type="unfinished"></translation>
+        <translation>Abspielen (Leertaste)</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::ReportPreview</name>
     <message>
         <source>Save as PDF</source>
-        <translation type="unfinished"></translation>
+        <translation>Als PDF speichern</translation>
     </message>
     <message>
         <source>PDF documents (*.pdf)</source>
@@ -16068,7 +16068,7 @@ Einheiten, Summen, Belastung, Zyklen, Ort, Tests und Ziele der Wochen dahinter w
     </message>
     <message>
         <source>Report</source>
-        <translation type="unfinished"></translation>
+        <translation>Bericht</translation>
     </message>
     <message>
         <source>%1 %</source>
@@ -16076,23 +16076,23 @@ Einheiten, Summen, Belastung, Zyklen, Ort, Tests und Ziele der Wochen dahinter w
     </message>
     <message>
         <source>Smaller</source>
-        <translation type="unfinished"></translation>
+        <translation>Kleiner</translation>
     </message>
     <message>
         <source>Larger</source>
-        <translation type="unfinished"></translation>
+        <translation>Größer</translation>
     </message>
     <message>
         <source>Fit width</source>
-        <translation type="unfinished"></translation>
+        <translation>Auf Breite</translation>
     </message>
     <message>
         <source>Print…</source>
-        <translation type="unfinished"></translation>
+        <translation>Drucken…</translation>
     </message>
     <message>
         <source>Save as PDF…</source>
-        <translation type="unfinished"></translation>
+        <translation>Als PDF speichern…</translation>
     </message>
     <message>
         <source>Close</source>
@@ -16100,35 +16100,35 @@ Einheiten, Summen, Belastung, Zyklen, Ort, Tests und Ziele der Wochen dahinter w
     </message>
     <message>
         <source>No pages</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Seiten</translation>
     </message>
     <message>
         <source>Page %1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Seite %1 von %2</translation>
     </message>
     <message>
         <source>Preview – Kavela</source>
-        <translation type="unfinished"></translation>
+        <translation>Vorschau – Kavela</translation>
     </message>
     <message>
         <source>%1, preview – Kavela</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, Vorschau – Kavela</translation>
     </message>
     <message>
         <source>Saved as %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Gespeichert als %1</translation>
     </message>
     <message>
         <source>Table as shown</source>
-        <translation type="unfinished"></translation>
+        <translation>Tabelle wie gezeigt</translation>
     </message>
     <message>
         <source>Race report</source>
-        <translation type="unfinished"></translation>
+        <translation>Rennbericht</translation>
     </message>
     <message>
         <source>Run sheet</source>
-        <translation type="unfinished"></translation>
+        <translation>Laufblatt</translation>
     </message>
 </context>
 <context>
@@ -16372,7 +16372,7 @@ Einheiten, Summen, Belastung, Zyklen, Ort, Tests und Ziele der Wochen dahinter w
     <name>kavela::desktop::RollForm</name>
     <message>
         <source>Part of the roll</source>
-        <translation type="unfinished"></translation>
+        <translation>Teil der Rolle</translation>
     </message>
     <message>
         <source>Time</source>
@@ -16388,11 +16388,11 @@ Einheiten, Summen, Belastung, Zyklen, Ort, Tests und Ziele der Wochen dahinter w
     </message>
     <message>
         <source>Going over</source>
-        <translation type="unfinished"></translation>
+        <translation>Kentern</translation>
     </message>
     <message>
         <source>Coming up</source>
-        <translation type="unfinished"></translation>
+        <translation>Hochkommen</translation>
     </message>
     <message>
         <source>Total</source>
@@ -16403,7 +16403,7 @@ Einheiten, Summen, Belastung, Zyklen, Ort, Tests und Ziele der Wochen dahinter w
     <name>kavela::desktop::RowModel</name>
     <message>
         <source>yes</source>
-        <translation type="unfinished"></translation>
+        <translation>ja</translation>
     </message>
 </context>
 <context>
@@ -16689,11 +16689,11 @@ Eine Datei wählen.</translation>
     <name>kavela::desktop::RunsToEnter::Outcome</name>
     <message>
         <source>place %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Platz %1</translation>
     </message>
     <message>
         <source>place %1, was %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Platz %1, war %2</translation>
     </message>
 </context>
 <context>
@@ -16704,23 +16704,23 @@ Eine Datei wählen.</translation>
     </message>
     <message>
         <source>Folders and files that are searched</source>
-        <translation type="unfinished"></translation>
+        <translation>Durchsuchte Ordner und Dateien</translation>
     </message>
     <message>
         <source>Add folder…</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordner hinzufügen…</translation>
     </message>
     <message>
         <source>The chosen folder or file is not searched any more</source>
-        <translation type="unfinished"></translation>
+        <translation>Der gewählte Ordner oder die Datei wird nicht mehr durchsucht</translation>
     </message>
     <message>
         <source>⚠ One could not be read…</source>
-        <translation type="unfinished"></translation>
+        <translation>⚠ Eine war nicht lesbar…</translation>
     </message>
     <message>
         <source>Search a folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordner durchsuchen</translation>
     </message>
     <message>
         <source>Search files</source>
@@ -16732,9 +16732,9 @@ Eine Datei wählen.</translation>
     </message>
     <message numerus="yes">
         <source>⚠ %n could not be read…</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>⚠ %n war nicht lesbar…</numerusform>
+            <numerusform>⚠ %n waren nicht lesbar…</numerusform>
         </translation>
     </message>
 </context>
@@ -16746,15 +16746,15 @@ Eine Datei wählen.</translation>
     </message>
     <message>
         <source>&amp;Open a team…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Team öffnen…</translation>
     </message>
     <message>
         <source>Add &amp;split files…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Zwischenzeitdateien hinzufügen…</translation>
     </message>
     <message>
         <source>Add a &amp;folder of races…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ordner mit Rennen hinzufügen…</translation>
     </message>
     <message>
         <source>Read &amp;again</source>
@@ -16770,19 +16770,19 @@ Eine Datei wählen.</translation>
     </message>
     <message>
         <source>&amp;Reports to look at and print…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Berichte ansehen und drucken…</translation>
     </message>
     <message>
         <source>Report of the &amp;athlete as PDF…</source>
-        <translation type="unfinished"></translation>
+        <translation>Bericht des &amp;Athleten als PDF…</translation>
     </message>
     <message>
         <source>Report of the tea&amp;m as PDF…</source>
-        <translation type="unfinished"></translation>
+        <translation>Bericht des Tea&amp;ms als PDF…</translation>
     </message>
     <message>
         <source>Save the tab&amp;le as CSV…</source>
-        <translation type="unfinished"></translation>
+        <translation>Tabe&amp;lle als CSV speichern…</translation>
     </message>
     <message>
         <source>Save the &amp;chart…</source>
@@ -16794,63 +16794,63 @@ Eine Datei wählen.</translation>
     </message>
     <message>
         <source>&amp;Progression</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Verlauf</translation>
     </message>
     <message>
         <source>P&amp;hases</source>
-        <translation type="unfinished"></translation>
+        <translation>P&amp;hasen</translation>
     </message>
     <message>
         <source>&amp;Spread</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Streuung</translation>
     </message>
     <message>
         <source>&amp;Trend</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Trend</translation>
     </message>
     <message>
         <source>Head to h&amp;ead</source>
-        <translation type="unfinished"></translation>
+        <translation>Direkter V&amp;ergleich</translation>
     </message>
     <message>
         <source>&amp;Medals and finals</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Medaillen und Finals</translation>
     </message>
     <message>
         <source>E&amp;xpected places</source>
-        <translation type="unfinished"></translation>
+        <translation>Erwartete &amp;Plätze</translation>
     </message>
     <message>
         <source>&amp;What it takes</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Was es braucht</translation>
     </message>
     <message>
         <source>&amp;Athletes</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Athleten</translation>
     </message>
     <message>
         <source>The who&amp;le chart</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ganzes Diagramm</translation>
     </message>
     <message>
         <source>Athl&amp;ete</source>
-        <translation type="unfinished"></translation>
+        <translation>Athl&amp;et</translation>
     </message>
     <message>
         <source>The &amp;next athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>Der &amp;nächste Athlet</translation>
     </message>
     <message>
         <source>The athlete &amp;before</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Athlet &amp;davor</translation>
     </message>
     <message>
         <source>&amp;Show the athlete of the row</source>
-        <translation type="unfinished"></translation>
+        <translation>Athleten der Zeile &amp;zeigen</translation>
     </message>
     <message>
         <source>Expect the places of a &amp;field…</source>
-        <translation type="unfinished"></translation>
+        <translation>Plätze eines &amp;Felds erwarten…</translation>
     </message>
     <message>
         <source>Pa&amp;ge for an athlete…</source>
@@ -16861,7 +16861,7 @@ Eine Datei wählen.</translation>
     <name>kavela::desktop::SeasonHeader</name>
     <message>
         <source>Add the races…</source>
-        <translation type="unfinished"></translation>
+        <translation>Rennen hinzufügen…</translation>
     </message>
     <message>
         <source>&amp;Category</source>
@@ -16869,7 +16869,7 @@ Eine Datei wählen.</translation>
     </message>
     <message>
         <source>&amp;Years</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Jahre</translation>
     </message>
     <message>
         <source>&amp;Athlete</source>
@@ -16880,31 +16880,31 @@ Eine Datei wählen.</translation>
     <name>kavela::desktop::SeasonModel</name>
     <message>
         <source>✓ counts</source>
-        <translation type="unfinished"></translation>
+        <translation>✓ zählt</translation>
     </message>
     <message>
         <source>The first two seasons count for the categorization. Move a season by dragging it, or with Alt+Up and Alt+Down.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die ersten zwei Saisons zählen für die Einstufung. Eine Saison durch Ziehen oder mit Alt+Auf und Alt+Ab verschieben.</translation>
     </message>
     <message>
         <source>Final classification of the race</source>
-        <translation type="unfinished"></translation>
+        <translation>Endklassement des Rennens</translation>
     </message>
     <message>
         <source>Position in the ICF world ranking at the end of the season</source>
-        <translation type="unfinished"></translation>
+        <translation>Platz in der ICF-Weltrangliste am Ende der Saison</translation>
     </message>
     <message>
         <source>Points in the ICF world ranking</source>
-        <translation type="unfinished"></translation>
+        <translation>Punkte in der ICF-Weltrangliste</translation>
     </message>
     <message>
         <source>Season, race</source>
-        <translation type="unfinished"></translation>
+        <translation>Saison, Rennen</translation>
     </message>
     <message>
         <source>Location</source>
-        <translation type="unfinished"></translation>
+        <translation>Ort</translation>
     </message>
     <message>
         <source>Place</source>
@@ -16920,35 +16920,35 @@ Eine Datei wählen.</translation>
     </message>
     <message>
         <source>ICF ranking position</source>
-        <translation type="unfinished"></translation>
+        <translation>Platz ICF-Rangliste</translation>
     </message>
     <message>
         <source>ICF ranking points</source>
-        <translation type="unfinished"></translation>
+        <translation>Punkte ICF-Rangliste</translation>
     </message>
     <message>
         <source>There is a season %1 already.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Saison %1 gibt es schon.</translation>
     </message>
     <message>
         <source>year</source>
-        <translation type="unfinished"></translation>
+        <translation>Jahr</translation>
     </message>
     <message>
         <source>final position</source>
-        <translation type="unfinished"></translation>
+        <translation>Endplatz</translation>
     </message>
     <message>
         <source>“%1” is none of the events.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ ist keines der Ereignisse.</translation>
     </message>
     <message>
         <source>event</source>
-        <translation type="unfinished"></translation>
+        <translation>Ereignis</translation>
     </message>
     <message>
         <source>location</source>
-        <translation type="unfinished"></translation>
+        <translation>Ort</translation>
     </message>
 </context>
 <context>
@@ -16967,15 +16967,15 @@ Eine Datei wählen.</translation>
     </message>
     <message>
         <source>No whole run of this athlete can be held against the reference.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein ganzer Lauf dieses Athleten lässt sich mit der Referenz vergleichen.</translation>
     </message>
     <message>
         <source>Nothing stands out: there is no clip to choose.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nichts fällt auf: es gibt keinen Clip zu wählen.</translation>
     </message>
     <message>
         <source>&amp;Show this run</source>
-        <translation type="unfinished"></translation>
+        <translation>Diesen Lauf &amp;zeigen</translation>
     </message>
     <message>
         <source>By</source>
@@ -16995,7 +16995,7 @@ Eine Datei wählen.</translation>
     </message>
     <message>
         <source>Seconds, of all runs together</source>
-        <translation type="unfinished"></translation>
+        <translation>Sekunden, von allen Läufen zusammen</translation>
     </message>
     <message>
         <source>Lost, %</source>
@@ -17003,7 +17003,7 @@ Eine Datei wählen.</translation>
     </message>
     <message>
         <source>Of the reference&apos;s time there</source>
-        <translation type="unfinished"></translation>
+        <translation>Von der Zeit der Referenz dort</translation>
     </message>
     <message>
         <source>90 %</source>
@@ -17011,15 +17011,15 @@ Eine Datei wählen.</translation>
     </message>
     <message>
         <source>A run</source>
-        <translation type="unfinished"></translation>
+        <translation>Je Lauf</translation>
     </message>
     <message>
         <source>Seconds lost in a run on the average</source>
-        <translation type="unfinished"></translation>
+        <translation>Verlorene Sekunden in einem Lauf im Mittel</translation>
     </message>
     <message>
         <source>Of the gap, %</source>
-        <translation type="unfinished"></translation>
+        <translation>Vom Rückstand, %</translation>
     </message>
     <message>
         <source>Verdict</source>
@@ -17027,11 +17027,11 @@ Eine Datei wählen.</translation>
     </message>
     <message>
         <source>What the interval says: losing where all of it is above 0</source>
-        <translation type="unfinished"></translation>
+        <translation>Was das Intervall sagt: Verlust, wo es ganz über 0 liegt</translation>
     </message>
     <message>
         <source>See</source>
-        <translation type="unfinished"></translation>
+        <translation>Siehe</translation>
     </message>
     <message>
         <source>Run</source>
@@ -17039,45 +17039,45 @@ Eine Datei wählen.</translation>
     </message>
     <message>
         <source>Open a folder of races to see an athlete&apos;s season.</source>
-        <translation type="unfinished"></translation>
+        <translation>Einen Ordner mit Rennen öffnen, um die Saison eines Athleten zu sehen.</translation>
     </message>
     <message>
         <source>%1: no whole run in %2 files can be held against the %3.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: kein ganzer Lauf in %2 Dateien lässt sich vergleichen (Referenz: %3).</translation>
     </message>
     <message>
         <source>%1 on %2: %3 in %4; gap a run %5, penalties %6</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 auf %2: %3 in %4; Rückstand je Lauf %5, Strafen %6</translation>
     </message>
     <message>
         <source>one whole run</source>
-        <translation type="unfinished"></translation>
+        <translation>ein ganzer Lauf</translation>
     </message>
     <message>
         <source>one file</source>
-        <translation type="unfinished"></translation>
+        <translation>eine Datei</translation>
     </message>
     <message>
         <source>Train: nothing stands out from these runs.</source>
-        <translation type="unfinished"></translation>
+        <translation>Training: aus diesen Läufen fällt nichts auf.</translation>
     </message>
     <message>
         <source>%1. %2: %3, %4 s a run</source>
-        <translation type="unfinished"></translation>
+        <translation>%1. %2: %3, %4 s je Lauf</translation>
     </message>
     <message>
         <source>Train:</source>
-        <translation type="unfinished"></translation>
+        <translation>Training:</translation>
     </message>
     <message>
         <source>gate %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Tor %1</translation>
     </message>
     <message numerus="yes">
         <source>%n whole runs</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n ganzer Lauf</numerusform>
+            <numerusform>%n ganze Läufe</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -17092,19 +17092,19 @@ Eine Datei wählen.</translation>
     <name>kavela::desktop::SeasonPages</name>
     <message>
         <source>Progression</source>
-        <translation type="unfinished"></translation>
+        <translation>Verlauf</translation>
     </message>
     <message>
         <source>Phases</source>
-        <translation type="unfinished"></translation>
+        <translation>Phasen</translation>
     </message>
     <message>
         <source>From which phase to which</source>
-        <translation type="unfinished"></translation>
+        <translation>Von welcher Phase zu welcher</translation>
     </message>
     <message>
         <source>Run 1 to run 2 of the heats</source>
-        <translation type="unfinished"></translation>
+        <translation>Lauf 1 zu Lauf 2 der Vorläufe</translation>
     </message>
     <message>
         <source>Semifinal to final</source>
@@ -17112,11 +17112,11 @@ Eine Datei wählen.</translation>
     </message>
     <message>
         <source>Heats to final, percent behind</source>
-        <translation type="unfinished"></translation>
+        <translation>Vorlauf zu Finale, Prozent Rückstand</translation>
     </message>
     <message>
         <source>Spread</source>
-        <translation type="unfinished"></translation>
+        <translation>Streuung</translation>
     </message>
     <message>
         <source>Trend</source>
@@ -17124,15 +17124,15 @@ Eine Datei wählen.</translation>
     </message>
     <message>
         <source>Behind whom</source>
-        <translation type="unfinished"></translation>
+        <translation>Hinter wem</translation>
     </message>
     <message>
         <source>Behind the winners</source>
-        <translation type="unfinished"></translation>
+        <translation>Hinter den Siegern</translation>
     </message>
     <message>
         <source>Behind the fastest splits</source>
-        <translation type="unfinished"></translation>
+        <translation>Hinter den schnellsten Abschnitten</translation>
     </message>
     <message>
         <source>Head to head</source>
@@ -17144,7 +17144,7 @@ Eine Datei wählen.</translation>
     </message>
     <message>
         <source>How far</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie weit</translation>
     </message>
     <message>
         <source>Medals</source>
@@ -17164,7 +17164,7 @@ Eine Datei wählen.</translation>
     </message>
     <message>
         <source>What it takes</source>
-        <translation type="unfinished"></translation>
+        <translation>Was es braucht</translation>
     </message>
     <message>
         <source>Athletes</source>
@@ -17179,15 +17179,15 @@ Eine Datei wählen.</translation>
     <name>kavela::desktop::SeasonReports</name>
     <message>
         <source>The team</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Team</translation>
     </message>
     <message>
         <source>Save the report of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Bericht von %1 speichern</translation>
     </message>
     <message>
         <source>Save the report of the team</source>
-        <translation type="unfinished"></translation>
+        <translation>Bericht des Teams speichern</translation>
     </message>
     <message>
         <source>PDF documents (*.pdf)</source>
@@ -17195,7 +17195,7 @@ Eine Datei wählen.</translation>
     </message>
     <message>
         <source>The report cannot be written over a file that it is made from.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Bericht kann nicht über eine Datei geschrieben werden, aus der er entsteht.</translation>
     </message>
 </context>
 <context>
@@ -17206,15 +17206,15 @@ Eine Datei wählen.</translation>
     </message>
     <message>
         <source>Drop a team (.kvteam) and the folder of its races here</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Team (.kvteam) und den Ordner seiner Rennen hierher ziehen</translation>
     </message>
     <message>
         <source>Open a team…</source>
-        <translation type="unfinished"></translation>
+        <translation>Team öffnen…</translation>
     </message>
     <message>
         <source>Add a folder of races…</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordner mit Rennen hinzufügen…</translation>
     </message>
     <message>
         <source>Saved %1</source>
@@ -17230,11 +17230,11 @@ Eine Datei wählen.</translation>
     </message>
     <message>
         <source>Teams (*.kvteam);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Teams (*.kvteam);;Alle Dateien (*)</translation>
     </message>
     <message>
         <source>Add split files</source>
-        <translation type="unfinished"></translation>
+        <translation>Zwischenzeitdateien hinzufügen</translation>
     </message>
     <message>
         <source>Split files (*.kvx);;All files (*)</source>
@@ -17242,23 +17242,23 @@ Eine Datei wählen.</translation>
     </message>
     <message>
         <source>Add a folder of races</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordner mit Rennen hinzufügen</translation>
     </message>
     <message>
         <source>Whose places to expect</source>
-        <translation type="unfinished"></translation>
+        <translation>Wessen Plätze zu erwarten sind</translation>
     </message>
     <message>
         <source>A name a line, as a start list has them. Nothing for the team and those who raced most often.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Name je Zeile, wie in einer Startliste. Nichts für das Team und wer am öftesten fuhr.</translation>
     </message>
     <message>
         <source>%1 could not be read: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 war nicht lesbar: %2</translation>
     </message>
     <message>
         <source>How every athlete of a team stands over the seasons: behind the winners, against rivals, and against chance. Files are only read.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie jeder Athlet eines Teams über die Saisons steht: hinter den Siegern, gegen Rivalen und gegen den Zufall. Dateien werden nur gelesen.</translation>
     </message>
     <message>
         <source>Reading…</source>
@@ -17266,48 +17266,48 @@ Eine Datei wählen.</translation>
     </message>
     <message>
         <source>Nobody of this team races in any category yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Noch fährt niemand dieses Teams in einer Kategorie.</translation>
     </message>
     <message>
         <source>No split files: winners and rivals are the team&apos;s own</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Zwischenzeitdateien: Sieger und Rivalen sind die des Teams selbst</translation>
     </message>
     <message>
         <source>Races from 1 split file</source>
-        <translation type="unfinished"></translation>
+        <translation>Rennen aus 1 Zwischenzeitdatei</translation>
     </message>
     <message>
         <source>1 run compared</source>
-        <translation type="unfinished"></translation>
+        <translation>1 Lauf verglichen</translation>
     </message>
     <message>
         <source>several athletes are called %1: their runs cannot be told apart</source>
-        <translation type="unfinished"></translation>
+        <translation>mehrere Athleten heißen %1: ihre Läufe sind nicht zu unterscheiden</translation>
     </message>
     <message>
         <source>nobody in these races is called %1</source>
-        <translation type="unfinished"></translation>
+        <translation>niemand heißt in diesen Rennen %1</translation>
     </message>
     <message>
         <source>too few runs to expect a place of %1 of the field</source>
-        <translation type="unfinished"></translation>
+        <translation>zu wenige Läufe, um einen Platz zu erwarten: %1 aus dem Feld</translation>
     </message>
     <message>
         <source>the team could not be read again: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>das Team war nicht erneut lesbar: %1</translation>
     </message>
     <message numerus="yes">
         <source>Races from %n split files</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Rennen aus %n Zwischenzeitdatei</numerusform>
+            <numerusform>Rennen aus %n Zwischenzeitdateien</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n runs compared</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Lauf verglichen</numerusform>
+            <numerusform>%n Läufe verglichen</numerusform>
         </translation>
     </message>
 </context>
@@ -17315,19 +17315,19 @@ Eine Datei wählen.</translation>
     <name>kavela::desktop::SectionChart</name>
     <message>
         <source>Box</source>
-        <translation type="unfinished"></translation>
+        <translation>Box</translation>
     </message>
     <message>
         <source>Quartiles, and the runs far from them</source>
-        <translation type="unfinished"></translation>
+        <translation>Quartile, und die Läufe weit davon</translation>
     </message>
     <message>
         <source>Strip</source>
-        <translation type="unfinished"></translation>
+        <translation>Streifen</translation>
     </message>
     <message>
         <source>A dot for every run</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Punkt für jeden Lauf</translation>
     </message>
     <message>
         <source>Behind best</source>
@@ -17335,7 +17335,7 @@ Eine Datei wählen.</translation>
     </message>
     <message>
         <source>Seconds behind the best of the section</source>
-        <translation type="unfinished"></translation>
+        <translation>Sekunden hinter dem Besten des Abschnitts</translation>
     </message>
     <message>
         <source>Time</source>
@@ -17343,27 +17343,27 @@ Eine Datei wählen.</translation>
     </message>
     <message>
         <source>Seconds in the section</source>
-        <translation type="unfinished"></translation>
+        <translation>Sekunden im Abschnitt</translation>
     </message>
     <message>
         <source>No section has been timed yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Noch kein Abschnitt hat Zeiten.</translation>
     </message>
     <message>
         <source>Seconds in each section</source>
-        <translation type="unfinished"></translation>
+        <translation>Sekunden in jedem Abschnitt</translation>
     </message>
     <message>
         <source>Seconds behind the best of each section</source>
-        <translation type="unfinished"></translation>
+        <translation>Sekunden hinter dem Besten jedes Abschnitts</translation>
     </message>
     <message>
         <source>Times of %1 by section</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeiten von %1 nach Abschnitt</translation>
     </message>
     <message>
         <source>, penalties included</source>
-        <translation type="unfinished"></translation>
+        <translation>, mit Strafen</translation>
     </message>
     <message>
         <source>← slower      faster →</source>
@@ -17375,7 +17375,7 @@ Eine Datei wählen.</translation>
     </message>
     <message>
         <source>Quarter of the runs under</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Viertel der Läufe unter</translation>
     </message>
     <message>
         <source>Median</source>
@@ -17383,11 +17383,11 @@ Eine Datei wählen.</translation>
     </message>
     <message>
         <source>Quarter of the runs over</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Viertel der Läufe über</translation>
     </message>
     <message>
         <source>Slowest</source>
-        <translation type="unfinished"></translation>
+        <translation>Langsamster</translation>
     </message>
     <message>
         <source>Runs</source>
@@ -17395,7 +17395,7 @@ Eine Datei wählen.</translation>
     </message>
     <message>
         <source>Behind the best</source>
-        <translation type="unfinished"></translation>
+        <translation>Hinter dem Besten</translation>
     </message>
     <message>
         <source>Place</source>
@@ -17415,15 +17415,15 @@ Eine Datei wählen.</translation>
     </message>
     <message>
         <source>Fastest</source>
-        <translation type="unfinished"></translation>
+        <translation>Schnellster</translation>
     </message>
     <message>
         <source>Lower quartile</source>
-        <translation type="unfinished"></translation>
+        <translation>Unteres Quartil</translation>
     </message>
     <message>
         <source>Upper quartile</source>
-        <translation type="unfinished"></translation>
+        <translation>Oberes Quartil</translation>
     </message>
     <message>
         <source>Sections</source>
@@ -17431,7 +17431,7 @@ Eine Datei wählen.</translation>
     </message>
     <message>
         <source>Distribution of the times of each section</source>
-        <translation type="unfinished"></translation>
+        <translation>Verteilung der Zeiten jedes Abschnitts</translation>
     </message>
 </context>
 <context>
@@ -17442,31 +17442,31 @@ Eine Datei wählen.</translation>
     </message>
     <message>
         <source>Turn %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Drehung %1</translation>
     </message>
     <message>
         <source>Stretch %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Stück %1</translation>
     </message>
     <message>
         <source>Lap %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Runde %1</translation>
     </message>
     <message>
         <source>La&amp;ps</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Runden</translation>
     </message>
     <message>
         <source>number of laps</source>
-        <translation type="unfinished"></translation>
+        <translation>Zahl der Runden</translation>
     </message>
     <message>
         <source>Distance between the &amp;gates</source>
-        <translation type="unfinished"></translation>
+        <translation>Abstand zwischen den &amp;Toren</translation>
     </message>
     <message>
         <source>distance</source>
-        <translation type="unfinished"></translation>
+        <translation>Distanz</translation>
     </message>
     <message>
         <source>m</source>
@@ -17474,11 +17474,11 @@ Eine Datei wählen.</translation>
     </message>
     <message>
         <source>Turn li&amp;mit</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Drehgrenze</translation>
     </message>
     <message>
         <source>A faster rotation of the boat is a turn, a slower one straight paddling</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine schnellere Rotation des Boots ist eine Drehung, eine langsamere Geradeausfahrt</translation>
     </message>
     <message>
         <source>rad/s</source>
@@ -17486,7 +17486,7 @@ Eine Datei wählen.</translation>
     </message>
     <message>
         <source>Told by the strokes that were recorded</source>
-        <translation type="unfinished"></translation>
+        <translation>Aus den aufgezeichneten Schlägen</translation>
     </message>
     <message>
         <source>Time
@@ -17497,55 +17497,64 @@ Eine Datei wählen.</translation>
     <message>
         <source>Straight
 (s)</source>
-        <translation type="unfinished"></translation>
+        <translation>Gerade
+(s)</translation>
     </message>
     <message>
         <source>Rotation
 (s)</source>
-        <translation type="unfinished"></translation>
+        <translation>Rotation
+(s)</translation>
     </message>
     <message>
         <source>Speed
 (m/s)</source>
-        <translation type="unfinished"></translation>
+        <translation>Tempo
+(m/s)</translation>
     </message>
     <message>
         <source>Follows from distance and time until it is typed</source>
-        <translation type="unfinished"></translation>
+        <translation>Folgt aus Distanz und Zeit, bis es getippt wird</translation>
     </message>
     <message>
         <source>Stroke rate
 (1/min)</source>
-        <translation type="unfinished"></translation>
+        <translation>Schlagfrequenz
+(1/min)</translation>
     </message>
     <message>
         <source>Efficiency
 (m/stroke)</source>
-        <translation type="unfinished"></translation>
+        <translation>Effizienz
+(m/Schlag)</translation>
     </message>
     <message>
         <source>Follows from speed and stroke rate until typed</source>
-        <translation type="unfinished"></translation>
+        <translation>Folgt aus Tempo und Schlagfrequenz, bis getippt</translation>
     </message>
     <message>
         <source>Left
 (rad/s)</source>
-        <translation type="unfinished"></translation>
+        <translation>Links
+(rad/s)</translation>
     </message>
     <message>
         <source>Left
 (s)</source>
-        <translation type="unfinished"></translation>
+        <translation>Links
+(s)</translation>
     </message>
     <message>
         <source>Right
 (rad/s)</source>
-        <translation type="unfinished"></translation>
+        <translation>Rechts
+(rad/s)</translation>
     </message>
     <message>
         <source>Right
 (s)</source>
-        <translation type="unfinished"></translation>
+        <translation>Rechts
+(s)</translation>
     </message>
     <message>
         <source>Sections</source>
@@ -17553,40 +17562,40 @@ Eine Datei wählen.</translation>
     </message>
     <message>
         <source>The time in straight line is part of the time of its section: it cannot be longer.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Zeit geradeaus ist ein Teil der Zeit ihres Abschnitts: sie kann nicht länger sein.</translation>
     </message>
     <message>
         <source>section %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Abschnitt %1</translation>
     </message>
     <message>
         <source>turn %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Drehung %1</translation>
     </message>
     <message>
         <source>Total: %1 s</source>
-        <translation type="unfinished"></translation>
+        <translation>Gesamt: %1 s</translation>
     </message>
     <message>
         <source>Total: – · %1 of %2 sections are timed</source>
-        <translation type="unfinished"></translation>
+        <translation>Gesamt: – · %1 von %2 Abschnitten sind gestoppt</translation>
     </message>
     <message>
         <source> · %1 strokes recorded</source>
-        <translation type="unfinished"></translation>
+        <translation> · %1 Schläge aufgezeichnet</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::SelectionDocument</name>
     <message>
         <source>1 race</source>
-        <translation type="unfinished"></translation>
+        <translation>1 Rennen</translation>
     </message>
     <message numerus="yes">
         <source>%n races</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Rennen</numerusform>
+            <numerusform>%n Rennen</numerusform>
         </translation>
     </message>
 </context>
@@ -17598,31 +17607,31 @@ Eine Datei wählen.</translation>
     </message>
     <message>
         <source>Race location</source>
-        <translation type="unfinished"></translation>
+        <translation>Ort des Rennens</translation>
     </message>
     <message>
         <source>race added</source>
-        <translation type="unfinished"></translation>
+        <translation>Rennen hinzugefügt</translation>
     </message>
     <message>
         <source>%1. %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1. %2</translation>
     </message>
     <message>
         <source>Rename which race?</source>
-        <translation type="unfinished"></translation>
+        <translation>Welches Rennen umbenennen?</translation>
     </message>
     <message>
         <source>race renamed</source>
-        <translation type="unfinished"></translation>
+        <translation>Rennen umbenannt</translation>
     </message>
     <message>
         <source>Remove which race?</source>
-        <translation type="unfinished"></translation>
+        <translation>Welches Rennen entfernen?</translation>
     </message>
     <message>
         <source>race removed</source>
-        <translation type="unfinished"></translation>
+        <translation>Rennen entfernt</translation>
     </message>
     <message>
         <source>Category</source>
@@ -17630,11 +17639,11 @@ Eine Datei wählen.</translation>
     </message>
     <message>
         <source>Category of the athletes</source>
-        <translation type="unfinished"></translation>
+        <translation>Kategorie der Athleten</translation>
     </message>
     <message>
         <source>category added</source>
-        <translation type="unfinished"></translation>
+        <translation>Kategorie hinzugefügt</translation>
     </message>
     <message>
         <source>Add a category first.</source>
@@ -17642,11 +17651,11 @@ Eine Datei wählen.</translation>
     </message>
     <message>
         <source>%1 is in this category already.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ist schon in dieser Kategorie.</translation>
     </message>
     <message>
         <source>athlete added</source>
-        <translation type="unfinished"></translation>
+        <translation>Athlet hinzugefügt</translation>
     </message>
     <message>
         <source>athlete</source>
@@ -17654,18 +17663,18 @@ Eine Datei wählen.</translation>
     </message>
     <message>
         <source>athlete removed</source>
-        <translation type="unfinished"></translation>
+        <translation>Athlet entfernt</translation>
     </message>
     <message>
         <source>times of 0</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeiten von 0</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::SelectionTakeOverDialog</name>
     <message>
         <source>Results of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Ergebnisse von %1</translation>
     </message>
     <message>
         <source>&amp;Take over</source>
@@ -17673,7 +17682,7 @@ Eine Datei wählen.</translation>
     </message>
     <message>
         <source>Athletes who get a result: %1, of them new in the selection: %2. Without a result then: %3. Runs and lines that stay out: %4. A click on an athlete chooses another one, or adds the name to the selection.</source>
-        <translation type="unfinished"></translation>
+        <translation>Athleten mit Ergebnis: %1, davon neu in der Nominierung: %2. Dann ohne Ergebnis: %3. Läufe und Zeilen, die draußen bleiben: %4. Ein Klick auf einen Athleten wählt einen anderen oder nimmt den Namen in die Nominierung auf.</translation>
     </message>
 </context>
 <context>
@@ -17684,15 +17693,15 @@ Eine Datei wählen.</translation>
     </message>
     <message>
         <source>Copy the table</source>
-        <translation type="unfinished"></translation>
+        <translation>Tabelle kopieren</translation>
     </message>
     <message>
         <source>&amp;Reports: preview, PDF, print…</source>
-        <translation type="unfinished"></translation>
+        <translation>Be&amp;richte: Vorschau, PDF, Druck…</translation>
     </message>
     <message>
         <source>Make times of 0 &amp;missing results</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeiten von 0 zu fehlenden Er&amp;gebnissen machen</translation>
     </message>
     <message>
         <source>&amp;Copy the table</source>
@@ -17700,67 +17709,67 @@ Eine Datei wählen.</translation>
     </message>
     <message>
         <source>&amp;What if</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Was wäre, wenn</translation>
     </message>
     <message>
         <source>&amp;Races</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Rennen</translation>
     </message>
     <message>
         <source>&amp;Add a race…</source>
-        <translation type="unfinished"></translation>
+        <translation>Rennen &amp;hinzufügen…</translation>
     </message>
     <message>
         <source>&amp;Rename a race…</source>
-        <translation type="unfinished"></translation>
+        <translation>Rennen &amp;umbenennen…</translation>
     </message>
     <message>
         <source>Remo&amp;ve a race…</source>
-        <translation type="unfinished"></translation>
+        <translation>Rennen &amp;entfernen…</translation>
     </message>
     <message>
         <source>Results from &amp;split files…</source>
-        <translation type="unfinished"></translation>
+        <translation>Ergebnisse aus &amp;Zwischenzeitdateien…</translation>
     </message>
     <message>
         <source>Results from a &amp;list (position, total, penalty)…</source>
-        <translation type="unfinished"></translation>
+        <translation>Ergebnisse aus einer &amp;Liste (Platz, Gesamt, Strafe)…</translation>
     </message>
     <message>
         <source>Results from a list with &amp;categories and clubs…</source>
-        <translation type="unfinished"></translation>
+        <translation>Ergebnisse aus einer Liste mit &amp;Kategorien und Vereinen…</translation>
     </message>
     <message>
         <source>&amp;Athletes</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Athleten</translation>
     </message>
     <message>
         <source>Add a &amp;category…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Kategorie hinzufügen…</translation>
     </message>
     <message>
         <source>&amp;Add an athlete…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Athleten hinzufügen…</translation>
     </message>
     <message>
         <source>&amp;Edit the athlete…</source>
-        <translation type="unfinished"></translation>
+        <translation>Athleten &amp;bearbeiten…</translation>
     </message>
     <message>
         <source>&amp;Remove the athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>Athleten ent&amp;fernen</translation>
     </message>
     <message>
         <source>&amp;Import athletes…</source>
-        <translation type="unfinished"></translation>
+        <translation>Athleten &amp;importieren…</translation>
     </message>
     <message>
         <source>&amp;How a list has to look</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Wie eine Liste aussehen muss</translation>
     </message>
     <message>
         <source>Category %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Kategorie %1</translation>
     </message>
     <message>
         <source>Categories</source>
@@ -17772,19 +17781,19 @@ Eine Datei wählen.</translation>
     </message>
     <message>
         <source>Official times</source>
-        <translation type="unfinished"></translation>
+        <translation>Offizielle Zeiten</translation>
     </message>
     <message>
         <source>xTimes</source>
-        <translation type="unfinished"></translation>
+        <translation>xTimes</translation>
     </message>
     <message>
         <source>What if…</source>
-        <translation type="unfinished"></translation>
+        <translation>Was wäre, wenn…</translation>
     </message>
     <message>
         <source>Try other times and penalties; nothing of it is kept (W)</source>
-        <translation type="unfinished"></translation>
+        <translation>Andere Zeiten und Strafen probieren; nichts davon bleibt (W)</translation>
     </message>
     <message>
         <source>Selection %1</source>
@@ -17792,42 +17801,42 @@ Eine Datei wählen.</translation>
     </message>
     <message>
         <source>What if: times and penalties typed now are tried only. End it (W) to go back to the real results.</source>
-        <translation type="unfinished"></translation>
+        <translation>Was wäre, wenn: jetzt getippte Zeiten und Strafen sind nur probiert. Beenden (W), um zu den wirklichen Ergebnissen zurückzukehren.</translation>
     </message>
     <message>
         <source>Add the races of the selection first (Ctrl+R), then athletes (Ctrl+N, or drop a .csv file).</source>
-        <translation type="unfinished"></translation>
+        <translation>Erst die Rennen der Nominierung hinzufügen (Strg+R), dann Athleten (Strg+N, oder eine .csv-Datei hierher ziehen).</translation>
     </message>
     <message>
         <source>Now add a category (Ctrl+G), such as MK1; then its athletes (Ctrl+N, or drop a .csv file).</source>
-        <translation type="unfinished"></translation>
+        <translation>Jetzt eine Kategorie hinzufügen (Strg+G), etwa MK1; dann ihre Athleten (Strg+N, oder eine .csv-Datei hierher ziehen).</translation>
     </message>
     <message>
         <source>Add the athletes of the category (Ctrl+N, or drop a .csv file), then their results: type them, or take them over from split files (Ctrl+I).</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Athleten der Kategorie hinzufügen (Strg+N, oder eine .csv-Datei hierher ziehen), dann ihre Ergebnisse: tippen oder aus Zwischenzeitdateien übernehmen (Strg+I).</translation>
     </message>
     <message numerus="yes">
         <source>%n result(s) have a time of 0, which puts their athletes far in front. Edit &gt; Make times of 0 missing results.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Ergebnis hat eine Zeit von 0, was seinen Athleten weit nach vorn setzt. Bearbeiten &gt; Zeiten von 0 zu fehlenden Ergebnissen machen.</numerusform>
+            <numerusform>%n Ergebnisse haben eine Zeit von 0, was ihre Athleten weit nach vorn setzt. Bearbeiten &gt; Zeiten von 0 zu fehlenden Ergebnissen machen.</numerusform>
         </translation>
     </message>
     <message>
         <source>End what if</source>
-        <translation type="unfinished"></translation>
+        <translation>„Was wäre, wenn“ beenden</translation>
     </message>
     <message>
         <source>%1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (%2)</translation>
     </message>
     <message>
         <source>No bonus</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein Bonus</translation>
     </message>
     <message>
         <source>Bonus %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Bonus %1</translation>
     </message>
 </context>
 <context>
@@ -17900,7 +17909,7 @@ Eine Datei wählen.</translation>
     </message>
     <message>
         <source>Phases</source>
-        <translation type="unfinished"></translation>
+        <translation>Phasen</translation>
     </message>
     <message>
         <source>Roll</source>
@@ -18092,7 +18101,7 @@ Eine Datei wählen.</translation>
     </message>
     <message>
         <source>Keep</source>
-        <translation>Bewahren</translation>
+        <translation>Behalten</translation>
     </message>
     <message>
         <source>Cut the session to the selected stretch</source>
@@ -18663,7 +18672,7 @@ and %1 more</source>
     </message>
     <message>
         <source>&amp;Normal speed</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Normales Tempo</translation>
     </message>
 </context>
 <context>
@@ -19048,7 +19057,7 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>Day</source>
-        <translation type="unfinished"></translation>
+        <translation>Tag</translation>
     </message>
     <message>
         <source>Phase</source>
@@ -19621,7 +19630,7 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>Teams (*.kvteam);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Teams (*.kvteam);;Alle Dateien (*)</translation>
     </message>
     <message>
         <source>The rows cannot be joined</source>
@@ -19922,7 +19931,7 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>La&amp;ps</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Runden</translation>
     </message>
     <message>
         <source>&amp;Distance between the gates</source>
@@ -19942,11 +19951,11 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>Lap %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Runde %1</translation>
     </message>
     <message>
         <source>Stretch %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Stück %1</translation>
     </message>
     <message>
         <source>Eight %1</source>
@@ -20052,7 +20061,7 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>yes</source>
-        <translation type="unfinished"></translation>
+        <translation>ja</translation>
     </message>
     <message>
         <source>Take in tests from “%1”</source>
@@ -20491,11 +20500,11 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>new athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>neuer Athlet</translation>
     </message>
     <message>
         <source>removal of an athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>Entfernen eines Athleten</translation>
     </message>
     <message>
         <source>new category</source>
@@ -20550,7 +20559,7 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>Location</source>
-        <translation type="unfinished"></translation>
+        <translation>Ort</translation>
     </message>
     <message>
         <source>All athletes</source>
@@ -20651,7 +20660,7 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>Recordings (*.kvb);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Aufzeichnungen (*.kvb);;Alle Dateien (*)</translation>
     </message>
     <message>
         <source>“%1” cannot be taken in</source>
@@ -21410,7 +21419,7 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>gate %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Tor %1</translation>
     </message>
     <message>
         <source>roll</source>
@@ -21488,7 +21497,7 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>In</source>
-        <translation>In</translation>
+        <translation>Ein</translation>
     </message>
     <message>
         <source>Out</source>
@@ -21556,7 +21565,7 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>gate %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Tor %1</translation>
     </message>
 </context>
 <context>
@@ -21754,7 +21763,7 @@ Add one by hand with Ctrl+N, or drop split files and recordings here.</source>
     </message>
     <message>
         <source>Goals</source>
-        <translation type="unfinished"></translation>
+        <translation>Ziele</translation>
     </message>
     <message>
         <source>Week %1 · from %2</source>
@@ -21854,7 +21863,7 @@ Add one by hand with Ctrl+N, or drop split files and recordings here.</source>
     </message>
     <message>
         <source>%1. %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1. %2</translation>
     </message>
     <message>
         <source>Bonus</source>
