@@ -17847,41 +17847,41 @@ Eine Datei wählen.</translation>
     </message>
     <message>
         <source>Time (s)</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeit (s)</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::SeriesDrawing</name>
     <message>
         <source>%1: low</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: tief</translation>
     </message>
     <message>
         <source>%1: high</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: hoch</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::SessionCharts</name>
     <message>
         <source>none was recorded</source>
-        <translation type="unfinished"></translation>
+        <translation>keine wurde aufgezeichnet</translation>
     </message>
     <message>
         <source>there are no turns</source>
-        <translation type="unfinished"></translation>
+        <translation>es gibt keine Drehungen</translation>
     </message>
     <message>
         <source>there are no strokes</source>
-        <translation type="unfinished"></translation>
+        <translation>es gibt keine Schläge</translation>
     </message>
     <message>
         <source>not known, since nothing tells which side of the phone points to the bow</source>
-        <translation type="unfinished"></translation>
+        <translation>nicht bekannt, weil nichts sagt, welche Seite des Telefons zum Bug zeigt</translation>
     </message>
     <message>
         <source>not known, since there are no positions that tell the speed</source>
-        <translation type="unfinished"></translation>
+        <translation>nicht bekannt, weil keine Positionen das Tempo sagen</translation>
     </message>
     <message>
         <source>Stroke rate</source>
@@ -17917,22 +17917,22 @@ Eine Datei wählen.</translation>
     </message>
     <message>
         <source>Pitch</source>
-        <translation type="unfinished"></translation>
+        <translation>Stampfen</translation>
     </message>
     <message>
         <source>end</source>
-        <translation type="unfinished"></translation>
+        <translation>Ende</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::SessionDialog</name>
     <message>
         <source>at</source>
-        <translation type="unfinished"></translation>
+        <translation>um</translation>
     </message>
     <message>
         <source>Training session</source>
-        <translation type="unfinished"></translation>
+        <translation>Trainingseinheit</translation>
     </message>
     <message>
         <source>&amp;Title</source>
@@ -17940,7 +17940,7 @@ Eine Datei wählen.</translation>
     </message>
     <message>
         <source>When</source>
-        <translation type="unfinished"></translation>
+        <translation>Wann</translation>
     </message>
     <message>
         <source>&amp;Place</source>
@@ -17952,11 +17952,11 @@ Eine Datei wählen.</translation>
     </message>
     <message>
         <source>On the water</source>
-        <translation type="unfinished"></translation>
+        <translation>Auf dem Wasser</translation>
     </message>
     <message>
         <source>In the gym</source>
-        <translation type="unfinished"></translation>
+        <translation>Im Kraftraum</translation>
     </message>
     <message>
         <source>Others</source>
@@ -17964,42 +17964,42 @@ Eine Datei wählen.</translation>
     </message>
     <message>
         <source>not in this week</source>
-        <translation type="unfinished"></translation>
+        <translation>nicht in dieser Woche</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::SessionMarks</name>
     <message>
         <source>%1 marks: two make a segment</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Marken: zwei ergeben ein Segment</translation>
     </message>
     <message>
         <source>%1 segments</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Segmente</translation>
     </message>
     <message>
         <source>mark</source>
-        <translation type="unfinished"></translation>
+        <translation>Marke</translation>
     </message>
     <message>
         <source>removal of a mark</source>
-        <translation type="unfinished"></translation>
+        <translation>Entfernen einer Marke</translation>
     </message>
     <message>
         <source>removal of all marks</source>
-        <translation type="unfinished"></translation>
+        <translation>Entfernen aller Marken</translation>
     </message>
     <message>
         <source>There is a mark already</source>
-        <translation type="unfinished"></translation>
+        <translation>Da ist schon eine Marke</translation>
     </message>
     <message>
         <source>move of a mark</source>
-        <translation type="unfinished"></translation>
+        <translation>Verschieben einer Marke</translation>
     </message>
     <message>
         <source>Mark at %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Marke bei %1</translation>
     </message>
 </context>
 <context>
@@ -18014,15 +18014,15 @@ Eine Datei wählen.</translation>
     </message>
     <message>
         <source>Segments</source>
-        <translation type="unfinished"></translation>
+        <translation>Segmente</translation>
     </message>
     <message>
         <source>Distance</source>
-        <translation type="unfinished"></translation>
+        <translation>Distanz</translation>
     </message>
     <message>
         <source>Left and right</source>
-        <translation type="unfinished"></translation>
+        <translation>Links und rechts</translation>
     </message>
     <message>
         <source> m</source>
@@ -18030,30 +18030,30 @@ Eine Datei wählen.</translation>
     </message>
     <message>
         <source>Values every</source>
-        <translation type="unfinished"></translation>
+        <translation>Werte alle</translation>
     </message>
     <message>
         <source>Strokes (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Schläge (%1)</translation>
     </message>
     <message>
         <source>Turns (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Drehungen (%1)</translation>
     </message>
     <message>
         <source>from the first mark</source>
-        <translation type="unfinished"></translation>
+        <translation>ab der ersten Marke</translation>
     </message>
     <message>
         <source>from the start</source>
-        <translation type="unfinished"></translation>
+        <translation>ab dem Start</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::SessionView</name>
     <message>
         <source>Speed against stroke rate</source>
-        <translation type="unfinished"></translation>
+        <translation>Tempo gegen Schlagfrequenz</translation>
     </message>
     <message>
         <source>Stroke rate (1/min)</source>
@@ -18065,7 +18065,7 @@ Eine Datei wählen.</translation>
     </message>
     <message>
         <source>The speed of the strokes is not known.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Tempo der Schläge ist nicht bekannt.</translation>
     </message>
     <message>
         <source>Left</source>
@@ -18077,27 +18077,27 @@ Eine Datei wählen.</translation>
     </message>
     <message>
         <source>Side unknown</source>
-        <translation type="unfinished"></translation>
+        <translation>Seite unbekannt</translation>
     </message>
     <message>
         <source>Information…</source>
-        <translation type="unfinished"></translation>
+        <translation>Angaben…</translation>
     </message>
     <message>
         <source>Athlete, place, kind and equipment</source>
-        <translation type="unfinished"></translation>
+        <translation>Athlet, Ort, Art und Ausrüstung</translation>
     </message>
     <message>
         <source>Name the phone&apos;s mount</source>
-        <translation type="unfinished"></translation>
+        <translation>Lage des Telefons nennen</translation>
     </message>
     <message>
         <source>Zoom</source>
-        <translation type="unfinished"></translation>
+        <translation>Zoom</translation>
     </message>
     <message>
         <source>Show the selected stretch alone</source>
-        <translation type="unfinished"></translation>
+        <translation>Nur das gewählte Stück zeigen</translation>
     </message>
     <message>
         <source>Keep</source>
@@ -18105,7 +18105,7 @@ Eine Datei wählen.</translation>
     </message>
     <message>
         <source>Cut the session to the selected stretch</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Einheit auf das gewählte Stück kürzen</translation>
     </message>
     <message>
         <source>Remove</source>
@@ -18113,7 +18113,7 @@ Eine Datei wählen.</translation>
     </message>
     <message>
         <source>Take the selected stretch out</source>
-        <translation type="unfinished"></translation>
+        <translation>Das gewählte Stück herausnehmen</translation>
     </message>
     <message>
         <source>Speed</source>
@@ -18125,11 +18125,11 @@ Eine Datei wählen.</translation>
     </message>
     <message>
         <source>Colour of the course</source>
-        <translation type="unfinished"></translation>
+        <translation>Farbe der Strecke</translation>
     </message>
     <message>
         <source>%1 – %2: %3 s, %4 strokes, %5/min, %6 m, %7 m/s</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 – %2: %3 s, %4 Schläge, %5/min, %6 m, %7 m/s</translation>
     </message>
 </context>
 <context>
@@ -18140,7 +18140,7 @@ Eine Datei wählen.</translation>
     </message>
     <message>
         <source>Sessions (*.bms);;Sessions (*.sbm)</source>
-        <translation type="unfinished"></translation>
+        <translation>Einheiten (*.bms);;Einheiten (*.sbm)</translation>
     </message>
     <message>
         <source>All files (*)</source>
@@ -18160,38 +18160,38 @@ Eine Datei wählen.</translation>
     </message>
     <message>
         <source>Sessions (*.sbm *.bms)</source>
-        <translation type="unfinished"></translation>
+        <translation>Einheiten (*.sbm *.bms)</translation>
     </message>
     <message>
         <source>power of the power meter</source>
-        <translation type="unfinished"></translation>
+        <translation>Leistung des Leistungsmessers</translation>
     </message>
     <message>
         <source>Save the session</source>
-        <translation type="unfinished"></translation>
+        <translation>Einheit speichern</translation>
     </message>
     <message>
         <source>Save with it</source>
-        <translation type="unfinished"></translation>
+        <translation>Damit speichern</translation>
     </message>
     <message>
         <source>Save without it</source>
-        <translation type="unfinished"></translation>
+        <translation>Ohne speichern</translation>
     </message>
     <message>
         <source>Saved without the power meter&apos;s data, which are still here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ohne die Daten des Leistungsmessers gespeichert; sie sind hier noch da.</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::SettingsWindow</name>
     <message>
         <source>Look and tables</source>
-        <translation type="unfinished"></translation>
+        <translation>Aussehen und Tabellen</translation>
     </message>
     <message>
         <source>Video</source>
-        <translation type="unfinished"></translation>
+        <translation>Video</translation>
     </message>
     <message>
         <source>Split taking</source>
@@ -18203,63 +18203,63 @@ Eine Datei wählen.</translation>
     </message>
     <message>
         <source>At start</source>
-        <translation type="unfinished"></translation>
+        <translation>Beim Start</translation>
     </message>
     <message>
         <source>The decoded frames of all open films together take at most %1, and never more than a quarter of this computer&apos;s memory of %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die dekodierten Bilder aller offenen Filme zusammen belegen höchstens %1 und nie mehr als ein Viertel des Speichers dieses Rechners von %2.</translation>
     </message>
     <message>
         <source>Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Einstellungen</translation>
     </message>
     <message>
         <source>Every change takes effect at once, another language when Kavela starts again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Jede Änderung wirkt sofort, eine andere Sprache beim nächsten Start von Kavela.</translation>
     </message>
     <message>
         <source>As the system</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie das System</translation>
     </message>
     <message>
         <source>Light</source>
-        <translation type="unfinished"></translation>
+        <translation>Hell</translation>
     </message>
     <message>
         <source>Dark</source>
-        <translation type="unfinished"></translation>
+        <translation>Dunkel</translation>
     </message>
     <message>
         <source>The environment variable KAVELA_SCHEME decides for this session.</source>
-        <translation type="unfinished"></translation>
+        <translation>Für diese Sitzung entscheidet die Umgebungsvariable KAVELA_SCHEME.</translation>
     </message>
     <message>
         <source>Windows</source>
-        <translation type="unfinished"></translation>
+        <translation>Fenster</translation>
     </message>
     <message>
         <source>The environment variable KAVELA_LANGUAGE decides for this session.</source>
-        <translation type="unfinished"></translation>
+        <translation>Für diese Sitzung entscheidet die Umgebungsvariable KAVELA_LANGUAGE.</translation>
     </message>
     <message>
         <source>Language</source>
-        <translation type="unfinished"></translation>
+        <translation>Sprache</translation>
     </message>
     <message>
         <source>Race: best green, others red</source>
-        <translation type="unfinished"></translation>
+        <translation>Rennen: beste grün, andere rot</translation>
     </message>
     <message>
         <source>Training: cells tinted by rank</source>
-        <translation type="unfinished"></translation>
+        <translation>Training: Zellen nach Rang gefärbt</translation>
     </message>
     <message>
         <source>Colours of the split table</source>
-        <translation type="unfinished"></translation>
+        <translation>Farben der Zwischenzeitentabelle</translation>
     </message>
     <message>
         <source>One a line.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine je Zeile.</translation>
     </message>
     <message>
         <source>none</source>
@@ -18267,15 +18267,15 @@ Eine Datei wählen.</translation>
     </message>
     <message>
         <source>Choose…</source>
-        <translation type="unfinished"></translation>
+        <translation>Wählen…</translation>
     </message>
     <message>
         <source>Choose a folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordner wählen</translation>
     </message>
     <message>
         <source>Choose a file</source>
-        <translation type="unfinished"></translation>
+        <translation>Datei wählen</translation>
     </message>
     <message>
         <source>None</source>
@@ -18283,42 +18283,42 @@ Eine Datei wählen.</translation>
     </message>
     <message>
         <source>Look for a newer version once a day</source>
-        <translation type="unfinished"></translation>
+        <translation>Einmal am Tag nach einer neueren Version sehen</translation>
     </message>
     <message>
         <source>Where it is looked for</source>
-        <translation type="unfinished"></translation>
+        <translation>Wo nachgesehen wird</translation>
     </message>
     <message>
         <source>This is no https address. It is looked for where it was.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das ist keine https-Adresse. Nachgesehen wird, wo es bisher war.</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::ShareActions</name>
     <message>
         <source>&amp;Open a folder to share…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ordner zum Teilen öffnen…</translation>
     </message>
     <message>
         <source>Sha&amp;re</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Teilen</translation>
     </message>
     <message>
         <source>&amp;Compare both sides</source>
-        <translation type="unfinished"></translation>
+        <translation>Beide Seiten &amp;vergleichen</translation>
     </message>
     <message>
         <source>&amp;Start with the ticked files</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Mit den abgehakten Dateien beginnen</translation>
     </message>
     <message>
         <source>C&amp;ancel</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Abbrechen</translation>
     </message>
     <message>
         <source>&amp;Tick all but deletions</source>
-        <translation type="unfinished"></translation>
+        <translation>Alles a&amp;bhaken außer Löschen</translation>
     </message>
     <message>
         <source>Tick &amp;none</source>
@@ -18349,11 +18349,11 @@ Eine Datei wählen.</translation>
     </message>
     <message>
         <source>On this computer, with everything below it but hidden files</source>
-        <translation type="unfinished"></translation>
+        <translation>Auf diesem Rechner, mit allem darunter außer verborgenen Dateien</translation>
     </message>
     <message>
         <source>the folder that is shared</source>
-        <translation type="unfinished"></translation>
+        <translation>der geteilte Ordner</translation>
     </message>
     <message>
         <source>&amp;Address</source>
@@ -18361,11 +18361,11 @@ Eine Datei wählen.</translation>
     </message>
     <message>
         <source>Of a folder on a WebDAV server: Nextcloud, ownCloud, a NAS, Apache…</source>
-        <translation type="unfinished"></translation>
+        <translation>Eines Ordners auf einem WebDAV-Server: Nextcloud, ownCloud, ein NAS, Apache…</translation>
     </message>
     <message>
         <source>Choose the folder…</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordner wählen…</translation>
     </message>
     <message>
         <source>Compare</source>
@@ -18373,7 +18373,7 @@ Eine Datei wählen.</translation>
     </message>
     <message>
         <source>Shows what differs; nothing is changed by it</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeigt, was sich unterscheidet; nichts wird dadurch geändert</translation>
     </message>
     <message>
         <source>Start</source>
@@ -18381,7 +18381,7 @@ Eine Datei wählen.</translation>
     </message>
     <message>
         <source>Shares the ticked files</source>
-        <translation type="unfinished"></translation>
+        <translation>Teilt die abgehakten Dateien</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -18389,35 +18389,35 @@ Eine Datei wählen.</translation>
     </message>
     <message>
         <source>Nothing is shared before it is shown here</source>
-        <translation type="unfinished"></translation>
+        <translation>Nichts wird geteilt, ehe es hier gezeigt ist</translation>
     </message>
     <message>
         <source>Another folder is shared once this one is done.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein anderer Ordner wird geteilt, wenn dieser fertig ist.</translation>
     </message>
     <message>
         <source>The folder to share</source>
-        <translation type="unfinished"></translation>
+        <translation>Der zu teilende Ordner</translation>
     </message>
     <message>
         <source>There is no folder to share yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Noch kein Ordner zum Teilen.</translation>
     </message>
     <message>
         <source>“%1” is no folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ ist kein Ordner.</translation>
     </message>
     <message>
         <source>Both sides are looked at…</source>
-        <translation type="unfinished"></translation>
+        <translation>Beide Seiten werden angesehen…</translation>
     </message>
     <message>
         <source>%1: %2 of %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2 von %3</translation>
     </message>
     <message>
         <source>%1: %2 files</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2 Dateien</translation>
     </message>
     <message>
         <source>%1 (on the server)</source>
@@ -18425,20 +18425,21 @@ Eine Datei wählen.</translation>
     </message>
     <message>
         <source>%1 (here)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (hier)</translation>
     </message>
     <message>
         <source>Delete 1 file?</source>
-        <translation type="unfinished"></translation>
+        <translation>1 Datei löschen?</translation>
     </message>
     <message>
         <source>Delete %1 files?</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Dateien löschen?</translation>
     </message>
     <message>
         <source>
 and %1 more</source>
-        <translation type="unfinished"></translation>
+        <translation>
+und %1 weitere</translation>
     </message>
     <message>
         <source>Delete</source>
@@ -18446,7 +18447,7 @@ and %1 more</source>
     </message>
     <message>
         <source>Files are being shared…</source>
-        <translation type="unfinished"></translation>
+        <translation>Dateien werden geteilt…</translation>
     </message>
     <message>
         <source>This computer has no password store that is open. The password holds until this window is closed.</source>
@@ -18458,15 +18459,15 @@ and %1 more</source>
     </message>
     <message>
         <source>%v of %m files</source>
-        <translation type="unfinished"></translation>
+        <translation>%v von %m Dateien</translation>
     </message>
     <message>
         <source>Files are being shared</source>
-        <translation type="unfinished"></translation>
+        <translation>Dateien werden geteilt</translation>
     </message>
     <message>
         <source>What is done stays done; sharing again goes on with the rest.</source>
-        <translation type="unfinished"></translation>
+        <translation>Was fertig ist, bleibt fertig; erneutes Teilen macht mit dem Rest weiter.</translation>
     </message>
     <message>
         <source>Stop and close</source>
@@ -18477,50 +18478,50 @@ and %1 more</source>
     <name>kavela::desktop::SiteList</name>
     <message>
         <source>Other servers that films may come from</source>
-        <translation type="unfinished"></translation>
+        <translation>Andere Server, von denen Filme kommen dürfen</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::SlitActions</name>
     <message>
         <source>&amp;Open a film…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Film öffnen…</translation>
     </message>
     <message>
         <source>Open the &amp;race of the film in split taking</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Rennen des Films in der Zwischenzeitnahme öffnen</translation>
     </message>
     <message>
         <source>&amp;Save the race</source>
-        <translation type="unfinished"></translation>
+        <translation>Rennen &amp;speichern</translation>
     </message>
     <message>
         <source>Save what is seen as a &amp;picture…</source>
-        <translation type="unfinished"></translation>
+        <translation>Gezeigtes als &amp;Bild speichern…</translation>
     </message>
     <message>
         <source>Save the &amp;water round the marks…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Wasser um die Marken speichern…</translation>
     </message>
     <message>
         <source>Save what is seen of the slit picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Gezeigten Teil des Schlitzbilds speichern</translation>
     </message>
     <message>
         <source>Pictures (*.png)</source>
-        <translation type="unfinished"></translation>
+        <translation>Bilder (*.png)</translation>
     </message>
     <message>
         <source>The picture could not be saved: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Bild konnte nicht gespeichert werden: %1</translation>
     </message>
     <message>
         <source>Save the water round the marks</source>
-        <translation type="unfinished"></translation>
+        <translation>Wasser um die Marken speichern</translation>
     </message>
     <message>
         <source>Bands (*.bands)</source>
-        <translation type="unfinished"></translation>
+        <translation>Streifen (*.bands)</translation>
     </message>
     <message>
         <source>&amp;Edit</source>
@@ -18528,95 +18529,95 @@ and %1 more</source>
     </message>
     <message>
         <source>&amp;Undo the mark</source>
-        <translation type="unfinished"></translation>
+        <translation>Marke &amp;zurücknehmen</translation>
     </message>
     <message>
         <source>&amp;Redo the mark</source>
-        <translation type="unfinished"></translation>
+        <translation>Marke &amp;wiederherstellen</translation>
     </message>
     <message>
         <source>&amp;Lines</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Linien</translation>
     </message>
     <message>
         <source>Draw a &amp;new line</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Neue Linie zeichnen</translation>
     </message>
     <message>
         <source>Ne&amp;xt line</source>
-        <translation type="unfinished"></translation>
+        <translation>N&amp;ächste Linie</translation>
     </message>
     <message>
         <source>&amp;Previous line</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Vorige Linie</translation>
     </message>
     <message>
         <source>&amp;Turn the arrow: boats come from the other side</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Pfeil umdrehen: Boote kommen von der anderen Seite</translation>
     </message>
     <message>
         <source>&amp;Remove the line</source>
-        <translation type="unfinished"></translation>
+        <translation>Linie &amp;entfernen</translation>
     </message>
     <message>
         <source>Draw a box round one &amp;boat</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Kasten um ein Boot zeichnen</translation>
     </message>
     <message>
         <source>&amp;Look for boats that cross it</source>
-        <translation type="unfinished"></translation>
+        <translation>Boote &amp;suchen, die sie überqueren</translation>
     </message>
     <message>
         <source>&amp;Hair line</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Haarlinie</translation>
     </message>
     <message>
         <source>One frame &amp;earlier</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Bild &amp;früher</translation>
     </message>
     <message>
         <source>One frame &amp;later</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Bild s&amp;päter</translation>
     </message>
     <message>
         <source>Ten frames earlier</source>
-        <translation type="unfinished"></translation>
+        <translation>Zehn Bilder früher</translation>
     </message>
     <message>
         <source>Ten frames later</source>
-        <translation type="unfinished"></translation>
+        <translation>Zehn Bilder später</translation>
     </message>
     <message>
         <source>A tenth of a frame earlier</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Zehntel Bild früher</translation>
     </message>
     <message>
         <source>A tenth of a frame later</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Zehntel Bild später</translation>
     </message>
     <message>
         <source>&amp;Next proposal</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Nächster Vorschlag</translation>
     </message>
     <message>
         <source>&amp;Previous proposal</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Voriger Vorschlag</translation>
     </message>
     <message>
         <source>To the &amp;beginning</source>
-        <translation type="unfinished"></translation>
+        <translation>Zum &amp;Anfang</translation>
     </message>
     <message>
         <source>&amp;Closer</source>
-        <translation type="unfinished"></translation>
+        <translation>Nä&amp;her</translation>
     </message>
     <message>
         <source>&amp;Farther</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Weiter weg</translation>
     </message>
     <message>
         <source>The &amp;whole film</source>
-        <translation type="unfinished"></translation>
+        <translation>Der &amp;ganze Film</translation>
     </message>
     <message>
         <source>&amp;Mark</source>
@@ -18624,11 +18625,11 @@ and %1 more</source>
     </message>
     <message>
         <source>&amp;Mark the run at the hair line</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Lauf an der Haarlinie markieren</translation>
     </message>
     <message>
         <source>Take the mark &amp;away</source>
-        <translation type="unfinished"></translation>
+        <translation>Marke weg&amp;nehmen</translation>
     </message>
     <message>
         <source>&amp;Previous run</source>
@@ -18640,19 +18641,19 @@ and %1 more</source>
     </message>
     <message>
         <source>&amp;Refuse the proposal at the hair line</source>
-        <translation type="unfinished"></translation>
+        <translation>Vorschlag an der Haarlinie a&amp;blehnen</translation>
     </message>
     <message>
         <source>&amp;Forget what was refused on this line</source>
-        <translation type="unfinished"></translation>
+        <translation>Auf dieser Linie Abgelehntes &amp;vergessen</translation>
     </message>
     <message>
         <source>Accept a&amp;ll proposals</source>
-        <translation type="unfinished"></translation>
+        <translation>A&amp;lle Vorschläge annehmen</translation>
     </message>
     <message>
         <source>Accept a&amp;ll proposals: why not yet?</source>
-        <translation type="unfinished"></translation>
+        <translation>A&amp;lle Vorschläge annehmen: warum noch nicht?</translation>
     </message>
     <message>
         <source>&amp;Play</source>
@@ -18679,65 +18680,65 @@ and %1 more</source>
     <name>kavela::desktop::SlitKeeping</name>
     <message>
         <source>The lines in %1 cannot be read: %2. The file is put aside before new lines take its name.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Linien in %1 sind nicht lesbar: %2. Die Datei wird beiseitegelegt, ehe neue Linien ihren Namen nehmen.</translation>
     </message>
     <message>
         <source>The lines could not be kept in %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Linien konnten nicht in %1 bewahrt werden: %2</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::SlitLoader</name>
     <message>
         <source>The film ends early, after %1 frames.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Film endet früh, nach %1 Bildern.</translation>
     </message>
     <message>
         <source>%1 frames cannot be decoded: their columns are black.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Bilder lassen sich nicht dekodieren: ihre Spalten sind schwarz.</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::SlitPanel</name>
     <message>
         <source>Open the &amp;race…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Rennen öffnen…</translation>
     </message>
     <message>
         <source>Times &amp;finer than the frame</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeiten &amp;feiner als das Bild</translation>
     </message>
     <message>
         <source>Draw a box round one boat (B), then look for boats (Ctrl+B): where they may have crossed is listed here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Einen Kasten um ein Boot zeichnen (B), dann Boote suchen (Strg+B): hier steht, wo sie überquert haben könnten.</translation>
     </message>
     <message>
         <source>The time of the split follows the hair line between two frames; the mark itself stays on the frame.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Zwischenzeit folgt der Haarlinie zwischen zwei Bildern; die Marke selbst bleibt auf dem Bild.</translation>
     </message>
     <message>
         <source>marks</source>
-        <translation type="unfinished"></translation>
+        <translation>Marken</translation>
     </message>
     <message>
         <source>Line %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Linie %1</translation>
     </message>
     <message>
         <source>Marks go into %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Marken gehen in %1</translation>
     </message>
     <message>
         <source>Marks need the race of this film in split taking.</source>
-        <translation type="unfinished"></translation>
+        <translation>Marken brauchen das Rennen dieses Films in der Zwischenzeitnahme.</translation>
     </message>
     <message>
         <source>No run of %1 has the film %2. Add it there as a film of the runs or as a fixed camera.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein Lauf von %1 hat den Film %2. Dort als Film der Läufe oder als feste Kamera hinzufügen.</translation>
     </message>
     <message>
         <source>The runs that are seen on this film are listed here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Hier stehen die Läufe, die auf diesem Film zu sehen sind.</translation>
     </message>
 </context>
 <context>
@@ -18756,34 +18757,34 @@ and %1 more</source>
     </message>
     <message>
         <source>There is no run to be marked.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein Lauf ist zu markieren.</translation>
     </message>
     <message>
         <source>This run has no film %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieser Lauf hat keinen Film %1.</translation>
     </message>
     <message>
         <source>%1 in the slit picture</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 im Schlitzbild</translation>
     </message>
     <message>
         <source>This run is not marked here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieser Lauf ist hier nicht markiert.</translation>
     </message>
     <message>
         <source>mark removed in the slit picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Marke im Schlitzbild entfernt</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::SlitSaving</name>
     <message>
         <source>The water round the marks is in %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Wasser um die Marken ist in %1.</translation>
     </message>
     <message>
         <source>The water round the marks could not be saved: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Wasser um die Marken konnte nicht gespeichert werden: %1</translation>
     </message>
 </context>
 <context>
@@ -18794,7 +18795,7 @@ and %1 more</source>
     </message>
     <message>
         <source>What stood on the line over the film, over time. A click goes there.</source>
-        <translation type="unfinished"></translation>
+        <translation>Was im Lauf des Films auf der Linie stand. Ein Klick geht dorthin.</translation>
     </message>
 </context>
 <context>
@@ -18813,7 +18814,7 @@ and %1 more</source>
     </message>
     <message>
         <source>  (%1%2 of a frame)</source>
-        <translation type="unfinished"></translation>
+        <translation>  (%1%2 eines Bilds)</translation>
     </message>
 </context>
 <context>
@@ -18832,71 +18833,71 @@ and %1 more</source>
     </message>
     <message>
         <source>Open the film of a fixed camera</source>
-        <translation type="unfinished"></translation>
+        <translation>Film einer festen Kamera öffnen</translation>
     </message>
     <message>
         <source>Open the film of a camera on a tripod (Ctrl+O).</source>
-        <translation type="unfinished"></translation>
+        <translation>Den Film einer Kamera auf einem Stativ öffnen (Strg+O).</translation>
     </message>
     <message>
         <source>Press N and draw a line across the water in the film above: what stands on it is shown here over time.</source>
-        <translation type="unfinished"></translation>
+        <translation>N drücken und im Film oben eine Linie übers Wasser ziehen: hier erscheint, was über die Zeit auf ihr steht.</translation>
     </message>
     <message>
         <source>Reading the film…</source>
-        <translation type="unfinished"></translation>
+        <translation>Film wird gelesen…</translation>
     </message>
     <message>
         <source>Reading the film:</source>
-        <translation type="unfinished"></translation>
+        <translation>Film wird gelesen:</translation>
     </message>
     <message>
         <source>Looking for boats:</source>
-        <translation type="unfinished"></translation>
+        <translation>Boote werden gesucht:</translation>
     </message>
     <message>
         <source>Draw a line first: N.</source>
-        <translation type="unfinished"></translation>
+        <translation>Erst eine Linie zeichnen: N.</translation>
     </message>
     <message>
         <source>%1 proposals were refused on this line. They are forgotten with it.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Vorschläge wurden auf dieser Linie abgelehnt. Sie werden mit ihr vergessen.</translation>
     </message>
     <message>
         <source>Remove the line</source>
-        <translation type="unfinished"></translation>
+        <translation>Linie entfernen</translation>
     </message>
     <message>
         <source>There is no proposal before this.</source>
-        <translation type="unfinished"></translation>
+        <translation>Davor gibt es keinen Vorschlag.</translation>
     </message>
     <message>
         <source>There is no proposal behind this.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dahinter gibt es keinen Vorschlag.</translation>
     </message>
     <message>
         <source>Marks need the race of this film: open it in split taking.</source>
-        <translation type="unfinished"></translation>
+        <translation>Marken brauchen das Rennen dieses Films: in der Zwischenzeitnahme öffnen.</translation>
     </message>
     <message>
         <source>Draw a box round one boat first: B.</source>
-        <translation type="unfinished"></translation>
+        <translation>Erst einen Kasten um ein Boot zeichnen: B.</translation>
     </message>
     <message>
         <source>Proposals are accepted one by one</source>
-        <translation type="unfinished"></translation>
+        <translation>Vorschläge werden einzeln angenommen</translation>
     </message>
     <message>
         <source>There is no slit picture yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt noch kein Schlitzbild.</translation>
     </message>
     <message>
         <source>That part is not read yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieser Teil ist noch nicht gelesen.</translation>
     </message>
     <message>
         <source>There is nothing to learn from yet: look for boats, then mark and refuse what was found.</source>
-        <translation type="unfinished"></translation>
+        <translation>Noch ist nichts zu lernen: Boote suchen, dann markieren und ablehnen, was gefunden wurde.</translation>
     </message>
 </context>
 <context>
@@ -19049,11 +19050,11 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     <name>kavela::desktop::StartListDialog</name>
     <message>
         <source>Start list</source>
-        <translation type="unfinished"></translation>
+        <translation>Startliste</translation>
     </message>
     <message>
         <source>12,Ann Lee,K1W,10:01:30</source>
-        <translation type="unfinished"></translation>
+        <translation>12,Ann Lee,K1W,10:01:30</translation>
     </message>
     <message>
         <source>Day</source>
@@ -19065,15 +19066,15 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>Take over</source>
-        <translation type="unfinished"></translation>
+        <translation>Übernehmen</translation>
     </message>
     <message>
         <source>From a file…</source>
-        <translation type="unfinished"></translation>
+        <translation>Aus einer Datei…</translation>
     </message>
     <message>
         <source>Paste the list: bib, name, category and start time or order, or with titles in its first line. Boats that are in this phase already are corrected.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Liste einfügen: Startnummer, Name, Kategorie und Startzeit oder Reihenfolge, oder mit Titeln in der ersten Zeile. Boote, die schon in dieser Phase sind, werden berichtigt.</translation>
     </message>
     <message>
         <source>Lists (*.csv *.txt);;All files (*)</source>
@@ -19081,7 +19082,7 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>Starts: %1. Lines that cannot be taken: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Starts: %1. Nicht übernehmbare Zeilen: %2.</translation>
     </message>
     <message>
         <source>Line %1: %2</source>
@@ -19092,31 +19093,31 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     <name>kavela::desktop::StatisticsDialog</name>
     <message>
         <source>%1 in races, %2 in all</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 in Rennen, %2 im Ganzen</translation>
     </message>
     <message>
         <source>Left out</source>
-        <translation type="unfinished"></translation>
+        <translation>Ausgelassen</translation>
     </message>
     <message>
         <source>Because it</source>
-        <translation type="unfinished"></translation>
+        <translation>Weil es</translation>
     </message>
     <message>
         <source>Season statistics from split files</source>
-        <translation type="unfinished"></translation>
+        <translation>Saisonstatistik aus Zwischenzeitdateien</translation>
     </message>
     <message>
         <source>Runs found: %1, in %2 files. They replace what stands there now: %3.</source>
-        <translation type="unfinished"></translation>
+        <translation>Gefundene Läufe: %1, in %2 Dateien. Sie ersetzen, was jetzt dort steht: %3.</translation>
     </message>
     <message>
         <source>None of the files has a run of this athlete and season. Nothing is replaced.</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine der Dateien hat einen Lauf dieses Athleten in dieser Saison. Nichts wird ersetzt.</translation>
     </message>
     <message>
         <source>&amp;Replace the statistics</source>
-        <translation type="unfinished"></translation>
+        <translation>Statistik &amp;ersetzen</translation>
     </message>
 </context>
 <context>
@@ -19127,19 +19128,19 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>way of the run</source>
-        <translation type="unfinished"></translation>
+        <translation>Weg des Laufs</translation>
     </message>
     <message>
         <source>way renamed</source>
-        <translation type="unfinished"></translation>
+        <translation>Weg umbenannt</translation>
     </message>
     <message>
         <source>A time is a number of seconds such as 4.35, or 1:04.35</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Zeit ist eine Zahl von Sekunden wie 4.35, oder 1:04.35</translation>
     </message>
     <message>
         <source>time of a way</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeit eines Wegs</translation>
     </message>
     <message>
         <source>Taken</source>
@@ -19147,7 +19148,7 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>Way</source>
-        <translation type="unfinished"></translation>
+        <translation>Weg</translation>
     </message>
     <message>
         <source>Time</source>
@@ -19159,27 +19160,27 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>The tick is at the way that the run took. Names and times are edited by a double click.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Häkchen steht bei dem Weg, den der Lauf nahm. Namen und Zeiten ändert ein Doppelklick.</translation>
     </message>
     <message>
         <source>Add a way</source>
-        <translation type="unfinished"></translation>
+        <translation>Weg hinzufügen</translation>
     </message>
     <message>
         <source>A section, or a name for the place</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Abschnitt, oder ein Name für die Stelle</translation>
     </message>
     <message>
         <source>Another way, such as spin or direct</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein anderer Weg, etwa Spin oder direkt</translation>
     </message>
     <message>
         <source>Take its time</source>
-        <translation type="unfinished"></translation>
+        <translation>Seine Zeit nehmen</translation>
     </message>
     <message>
         <source>comment on ways</source>
-        <translation type="unfinished"></translation>
+        <translation>Kommentar zu Wegen</translation>
     </message>
     <message>
         <source>Comment</source>
@@ -19195,11 +19196,11 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>Compared</source>
-        <translation type="unfinished"></translation>
+        <translation>Verglichen</translation>
     </message>
     <message>
         <source>Time from</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeit ab</translation>
     </message>
     <message>
         <source>Section</source>
@@ -19207,55 +19208,55 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>Without a name</source>
-        <translation type="unfinished"></translation>
+        <translation>Ohne Namen</translation>
     </message>
     <message>
         <source>The run took the fastest way.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Lauf nahm den schnellsten Weg.</translation>
     </message>
     <message>
         <source>The way of the run cost %1 s.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Weg des Laufs kostete %1 s.</translation>
     </message>
     <message>
         <source>Choose a section or name a place, and add it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Einen Abschnitt wählen oder eine Stelle benennen und hinzufügen.</translation>
     </message>
     <message>
         <source>Add the ways of paddling this place.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Wege hinzufügen, diese Stelle zu fahren.</translation>
     </message>
     <message>
         <source>M marks where %1 ends</source>
-        <translation type="unfinished"></translation>
+        <translation>M markiert, wo %1 endet</translation>
     </message>
     <message>
         <source>M marks where %1 begins</source>
-        <translation type="unfinished"></translation>
+        <translation>M markiert, wo %1 beginnt</translation>
     </message>
     <message>
         <source>Choose a section, or write a name for the place.</source>
-        <translation type="unfinished"></translation>
+        <translation>Einen Abschnitt wählen oder einen Namen für die Stelle schreiben.</translation>
     </message>
     <message>
         <source>ways at %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Wege bei %1</translation>
     </message>
     <message>
         <source>way added</source>
-        <translation type="unfinished"></translation>
+        <translation>Weg hinzugefügt</translation>
     </message>
     <message>
         <source>Add a way and select it first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Erst einen Weg hinzufügen und wählen.</translation>
     </message>
     <message>
         <source>%1 was not timed there.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 wurde dort nicht gestoppt.</translation>
     </message>
     <message>
         <source>%1 is timed: %2 s. Empty its time to mark it anew.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ist gestoppt: %2 s. Die Zeit leeren, um neu zu markieren.</translation>
     </message>
     <message>
         <source>Start</source>
@@ -19263,19 +19264,19 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>The end of a way comes after its beginning at %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Ende eines Wegs kommt nach seinem Anfang bei %1.</translation>
     </message>
     <message>
         <source>way timed</source>
-        <translation type="unfinished"></translation>
+        <translation>Weg gestoppt</translation>
     </message>
     <message>
         <source>way removed</source>
-        <translation type="unfinished"></translation>
+        <translation>Weg entfernt</translation>
     </message>
     <message>
         <source>ways removed</source>
-        <translation type="unfinished"></translation>
+        <translation>Wege entfernt</translation>
     </message>
 </context>
 <context>
@@ -19294,15 +19295,15 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>Strokes/min</source>
-        <translation type="unfinished"></translation>
+        <translation>Schläge/min</translation>
     </message>
     <message>
         <source>A marks a stroke on the left, D on the right, M with the other hand than before.</source>
-        <translation type="unfinished"></translation>
+        <translation>A markiert einen Schlag links, D rechts, M mit der anderen Hand als zuvor.</translation>
     </message>
     <message>
         <source>Rate now</source>
-        <translation type="unfinished"></translation>
+        <translation>Frequenz jetzt</translation>
     </message>
     <message>
         <source>Style</source>
@@ -19310,46 +19311,46 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>%1 per minute, %2 strokes</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 je Minute, %2 Schläge</translation>
     </message>
     <message>
         <source>left stroke</source>
-        <translation type="unfinished"></translation>
+        <translation>Schlag links</translation>
     </message>
     <message>
         <source>right stroke</source>
-        <translation type="unfinished"></translation>
+        <translation>Schlag rechts</translation>
     </message>
     <message>
         <source>other hand</source>
-        <translation type="unfinished"></translation>
+        <translation>andere Hand</translation>
     </message>
     <message>
         <source>style of the stroke</source>
-        <translation type="unfinished"></translation>
+        <translation>Stil des Schlags</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::SummaryPanel</name>
     <message>
         <source>Retired athletes are left out.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zurückgetretene Athleten sind ausgelassen.</translation>
     </message>
     <message>
         <source>Two seasons are needed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zwei Saisons sind nötig.</translation>
     </message>
     <message>
         <source>The first two seasons have no race with a final position.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die ersten zwei Saisons haben kein Rennen mit Endplatz.</translation>
     </message>
     <message>
         <source> and </source>
-        <translation type="unfinished"></translation>
+        <translation> und </translation>
     </message>
     <message>
         <source>Over the seasons</source>
-        <translation type="unfinished"></translation>
+        <translation>Über die Saisons</translation>
     </message>
     <message>
         <source>All seasons</source>
@@ -19357,53 +19358,53 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>Categorization</source>
-        <translation type="unfinished"></translation>
+        <translation>Einstufung</translation>
     </message>
     <message>
         <source>, born %1</source>
-        <translation type="unfinished"></translation>
+        <translation>, geboren %1</translation>
     </message>
     <message>
         <source>One race has no final position. It counts as a medal here, not in the categorization.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Rennen hat keinen Endplatz. Es zählt hier als Medaille, nicht in der Einstufung.</translation>
     </message>
     <message>
         <source>%1 races have no final position. They count as medals here, not in the categorization.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Rennen haben keinen Endplatz. Sie zählen hier als Medaillen, nicht in der Einstufung.</translation>
     </message>
     <message>
         <source>Counted: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Gezählt: %1</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::TableDocument</name>
     <message>
         <source>Join the athletes</source>
-        <translation type="unfinished"></translation>
+        <translation>Athleten verbinden</translation>
     </message>
     <message>
         <source>Say who line %1 is</source>
-        <translation type="unfinished"></translation>
+        <translation>Sagen, wer Zeile %1 ist</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::TablesActions</name>
     <message>
         <source>&amp;Open a list…</source>
-        <translation type="unfinished"></translation>
+        <translation>Liste &amp;öffnen…</translation>
     </message>
     <message>
         <source>Open what was &amp;copied</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Kopiertes öffnen</translation>
     </message>
     <message>
         <source>A&amp;nother list of this file…</source>
-        <translation type="unfinished"></translation>
+        <translation>A&amp;ndere Liste dieser Datei…</translation>
     </message>
     <message>
         <source>&amp;Keep with the race…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Zum Rennen legen…</translation>
     </message>
     <message>
         <source>Save the &amp;table as CSV…</source>
@@ -19419,79 +19420,79 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>&amp;Undo</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Rückgängig</translation>
     </message>
     <message>
         <source>&amp;Redo</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Wiederherstellen</translation>
     </message>
     <message>
         <source>The first line holds the &amp;titles</source>
-        <translation type="unfinished"></translation>
+        <translation>Die erste Zeile enthält die &amp;Titel</translation>
     </message>
     <message>
         <source>The first line is a ro&amp;w</source>
-        <translation type="unfinished"></translation>
+        <translation>Die erste Zeile ist eine &amp;Datenzeile</translation>
     </message>
     <message>
         <source>No &amp;groups</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine &amp;Gruppen</translation>
     </message>
     <message>
         <source>&amp;Column</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Spalte</translation>
     </message>
     <message>
         <source>&amp;Sort</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Sortieren</translation>
     </message>
     <message>
         <source>Sort &amp;downwards</source>
-        <translation type="unfinished"></translation>
+        <translation>A&amp;bwärts sortieren</translation>
     </message>
     <message>
         <source>&amp;Group by it</source>
-        <translation type="unfinished"></translation>
+        <translation>Danach &amp;gruppieren</translation>
     </message>
     <message>
         <source>&amp;Tint it</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Färben</translation>
     </message>
     <message>
         <source>&amp;Chart of it</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Diagramm davon</translation>
     </message>
     <message>
         <source>&amp;Keep rows with…</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeilen be&amp;halten mit…</translation>
     </message>
     <message>
         <source>&amp;Leave it out</source>
-        <translation type="unfinished"></translation>
+        <translation>Aus&amp;lassen</translation>
     </message>
     <message>
         <source>&amp;Read it as</source>
-        <translation type="unfinished"></translation>
+        <translation>Lesen &amp;als</translation>
     </message>
     <message>
         <source>&amp;Add</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Hinzufügen</translation>
     </message>
     <message>
         <source>&amp;Total</source>
-        <translation type="unfinished"></translation>
+        <translation>Gesam&amp;t</translation>
     </message>
     <message>
         <source>&amp;Rank</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Rang</translation>
     </message>
     <message>
         <source>&amp;Gap to the best</source>
-        <translation type="unfinished"></translation>
+        <translation>Rü&amp;ckstand auf den Besten</translation>
     </message>
     <message>
         <source>&amp;Percent behind the best</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Prozent hinter dem Besten</translation>
     </message>
     <message>
         <source>Percenti&amp;le</source>
@@ -19499,23 +19500,23 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>&amp;Another column…</source>
-        <translation type="unfinished"></translation>
+        <translation>Weitere &amp;Spalte…</translation>
     </message>
     <message>
         <source>P&amp;ivot…</source>
-        <translation type="unfinished"></translation>
+        <translation>P&amp;ivot…</translation>
     </message>
     <message>
         <source>A&amp;thletes</source>
-        <translation type="unfinished"></translation>
+        <translation>A&amp;thleten</translation>
     </message>
     <message>
         <source>&amp;Join a team…</source>
-        <translation type="unfinished"></translation>
+        <translation>Mit einem &amp;Team verbinden…</translation>
     </message>
     <message>
         <source>&amp;Who is meant?…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Wer ist gemeint?…</translation>
     </message>
     <message>
         <source>&amp;Show</source>
@@ -19523,7 +19524,7 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>What was &amp;refused</source>
-        <translation type="unfinished"></translation>
+        <translation>Was &amp;abgelehnt wurde</translation>
     </message>
     <message>
         <source>&amp;Blue to orange instead of green to red</source>
@@ -19542,19 +19543,19 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>Drop a list of results here</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Ergebnisliste hierher ziehen</translation>
     </message>
     <message>
         <source>Text (CSV, tabs, columns of blanks), a spreadsheet (.xlsx, .ods), what was copied from a page, or a race that carries a list. Lists are only read.</source>
-        <translation type="unfinished"></translation>
+        <translation>Text (CSV, Tabs, Spalten aus Leerzeichen), eine Tabellendatei (.xlsx, .ods), aus einer Seite Kopiertes oder ein Rennen, das eine Liste enthält. Listen werden nur gelesen.</translation>
     </message>
     <message>
         <source>Open a list…</source>
-        <translation type="unfinished"></translation>
+        <translation>Liste öffnen…</translation>
     </message>
     <message>
         <source>Open what was copied</source>
-        <translation type="unfinished"></translation>
+        <translation>Kopiertes öffnen</translation>
     </message>
     <message>
         <source>Saved %1</source>
@@ -19562,7 +19563,7 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>Kept with %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Bei %1 abgelegt</translation>
     </message>
     <message>
         <source>&amp;Copy</source>
@@ -19574,35 +19575,35 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>“%1” cannot be opened as a table</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ lässt sich nicht als Tabelle öffnen</translation>
     </message>
     <message>
         <source>What was copied is no list</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Kopierte ist keine Liste</translation>
     </message>
     <message>
         <source>Which of its lists?</source>
-        <translation type="unfinished"></translation>
+        <translation>Welche ihrer Listen?</translation>
     </message>
     <message>
         <source>What was copied</source>
-        <translation type="unfinished"></translation>
+        <translation>Kopiertes</translation>
     </message>
     <message>
         <source>This step cannot be taken</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieser Schritt geht nicht</translation>
     </message>
     <message>
         <source>Keep rows</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeilen behalten</translation>
     </message>
     <message>
         <source>Rows whose “%1” contains this are kept; the cell as it stands keeps just its like.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeilen, deren „%1“ dies enthält, bleiben; die Zelle, wie sie steht, behält nur ihresgleichen.</translation>
     </message>
     <message>
         <source> table</source>
-        <translation type="unfinished"></translation>
+        <translation> Tabelle</translation>
     </message>
     <message>
         <source>Semicolon-separated text (*.csv)</source>
@@ -19614,19 +19615,19 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>Begin anew?</source>
-        <translation type="unfinished"></translation>
+        <translation>Von vorn beginnen?</translation>
     </message>
     <message>
         <source>What you made of this list is given up; the file stays.</source>
-        <translation type="unfinished"></translation>
+        <translation>Was aus dieser Liste gemacht wurde, ist dann verworfen; die Datei bleibt.</translation>
     </message>
     <message>
         <source>Begin anew</source>
-        <translation type="unfinished"></translation>
+        <translation>Von vorn beginnen</translation>
     </message>
     <message>
         <source>Join a team</source>
-        <translation type="unfinished"></translation>
+        <translation>Mit einem Team verbinden</translation>
     </message>
     <message>
         <source>Teams (*.kvteam);;All files (*)</source>
@@ -19634,7 +19635,7 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>The rows cannot be joined</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Zeilen lassen sich nicht verbinden</translation>
     </message>
     <message>
         <source>“%1” cannot be opened</source>
@@ -19642,15 +19643,15 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>Nobody of the team</source>
-        <translation type="unfinished"></translation>
+        <translation>Niemand im Team</translation>
     </message>
     <message>
         <source>Who is %1 in line %2?</source>
-        <translation type="unfinished"></translation>
+        <translation>Wer ist %1 in Zeile %2?</translation>
     </message>
     <message>
         <source>Keep with the race</source>
-        <translation type="unfinished"></translation>
+        <translation>Zum Rennen legen</translation>
     </message>
     <message>
         <source>Split files (*.kvx);;All files (*)</source>
@@ -19662,44 +19663,44 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>The table was not saved</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Tabelle wurde nicht gespeichert</translation>
     </message>
     <message>
         <source>The list that it is made from stays as it is. Choose another name.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Liste, aus der sie entsteht, bleibt, wie sie ist. Einen anderen Namen wählen.</translation>
     </message>
     <message>
         <source>Saving the table…</source>
-        <translation type="unfinished"></translation>
+        <translation>Tabelle wird gespeichert…</translation>
     </message>
     <message>
         <source>1 row</source>
-        <translation type="unfinished"></translation>
+        <translation>1 Zeile</translation>
     </message>
     <message>
         <source>1 column</source>
-        <translation type="unfinished"></translation>
+        <translation>1 Spalte</translation>
     </message>
     <message>
         <source>%1 refused (F7)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 abgelehnt (F7)</translation>
     </message>
     <message>
         <source>%1 that only you can tell (F6)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, die nur der Trainer kennt (F6)</translation>
     </message>
     <message numerus="yes">
         <source>%n rows</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Zeile</numerusform>
+            <numerusform>%n Zeilen</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n columns</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Spalte</numerusform>
+            <numerusform>%n Spalten</numerusform>
         </translation>
     </message>
 </context>
@@ -19711,23 +19712,23 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>There is no film to tag.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein Film zum Markieren da.</translation>
     </message>
     <message>
         <source>There is no tag %1 yet: type its name above.</source>
-        <translation type="unfinished"></translation>
+        <translation>Markierung %1 gibt es noch nicht: ihren Namen oben tippen.</translation>
     </message>
     <message>
         <source>This tag is of the split file: split taking moves it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Markierung gehört zur Zwischenzeitdatei: die Zwischenzeitnahme verschiebt sie.</translation>
     </message>
     <message>
         <source>No tag is selected.</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Markierung gewählt.</translation>
     </message>
     <message>
         <source>There is no film to cut.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein Film zum Schneiden da.</translation>
     </message>
 </context>
 <context>
@@ -19742,39 +19743,39 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>Play just the tagged part</source>
-        <translation type="unfinished"></translation>
+        <translation>Nur den markierten Teil abspielen</translation>
     </message>
     <message>
         <source>Rename the tag</source>
-        <translation type="unfinished"></translation>
+        <translation>Markierung umbenennen</translation>
     </message>
     <message>
         <source>Gives the selected tag the name above</source>
-        <translation type="unfinished"></translation>
+        <translation>Gibt der gewählten Markierung den Namen oben</translation>
     </message>
     <message>
         <source>M sets the tag at the frame shown.</source>
-        <translation type="unfinished"></translation>
+        <translation>M setzt die Markierung bei dem gezeigten Bild.</translation>
     </message>
     <message>
         <source>Enter sets the tag %1 at the frame shown. Esc gives the keys back to the film.</source>
-        <translation type="unfinished"></translation>
+        <translation>Enter setzt die Markierung %1 bei dem gezeigten Bild. Esc gibt dem Film die Tasten zurück.</translation>
     </message>
     <message>
         <source>Choose or type the name of the tag first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Erst den Namen der Markierung wählen oder tippen.</translation>
     </message>
     <message>
         <source>tag %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Markierung %1</translation>
     </message>
     <message>
         <source>Select a tag and write its new name.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Markierung wählen und ihren neuen Namen schreiben.</translation>
     </message>
     <message>
         <source>tag renamed</source>
-        <translation type="unfinished"></translation>
+        <translation>Markierung umbenannt</translation>
     </message>
 </context>
 <context>
@@ -19797,7 +19798,7 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>not in the team</source>
-        <translation type="unfinished"></translation>
+        <translation>nicht im Team</translation>
     </message>
     <message>
         <source>Leave out</source>
@@ -19805,7 +19806,7 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>Add %1 to the team</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ins Team aufnehmen</translation>
     </message>
     <message>
         <source>perhaps %1?</source>
@@ -19813,23 +19814,23 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>%1 is added to the athlete&apos;s boats</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 kommt zu den Booten des Athleten</translation>
     </message>
     <message>
         <source>the same stands there</source>
-        <translation type="unfinished"></translation>
+        <translation>dasselbe steht dort</translation>
     </message>
     <message>
         <source>Take results over</source>
-        <translation type="unfinished"></translation>
+        <translation>Ergebnisse übernehmen</translation>
     </message>
     <message>
         <source>Choose the event</source>
-        <translation type="unfinished"></translation>
+        <translation>Ereignis wählen</translation>
     </message>
     <message>
         <source>&amp;Event</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ereignis</translation>
     </message>
     <message>
         <source>&amp;Location</source>
@@ -19837,11 +19838,11 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>&amp;Season</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Saison</translation>
     </message>
     <message>
         <source>The positions are the &amp;final ones of the race</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Positionen sind die &amp;endgültigen des Rennens</translation>
     </message>
     <message>
         <source>&amp;Category</source>
@@ -19857,7 +19858,7 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>Take over</source>
-        <translation type="unfinished"></translation>
+        <translation>Übernehmen</translation>
     </message>
     <message>
         <source>Tick &amp;all</source>
@@ -19881,25 +19882,25 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>&amp;Take over 1 line</source>
-        <translation type="unfinished"></translation>
+        <translation>1 Zeile &amp;übernehmen</translation>
     </message>
     <message>
         <source>Choose the event of the race.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Ereignis des Rennens wählen.</translation>
     </message>
     <message>
         <source>Nothing in the file belongs to an athlete of the team. A click on “not in the team” chooses one, or adds the name to the team.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nichts in der Datei gehört einem Athleten des Teams. Ein Klick auf „nicht im Team“ wählt einen oder nimmt den Namen ins Team auf.</translation>
     </message>
     <message>
         <source>%1 of %2 lines are ticked; %3 stay out. A click on an athlete chooses another one, or adds the name to the team.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 von %2 Zeilen sind abgehakt; %3 bleiben draußen. Ein Klick auf einen Athleten wählt einen anderen oder nimmt den Namen ins Team auf.</translation>
     </message>
     <message numerus="yes">
         <source>&amp;Take over %n lines</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Zeile &amp;übernehmen</numerusform>
+            <numerusform>%n Zeilen &amp;übernehmen</numerusform>
         </translation>
     </message>
 </context>
@@ -19911,11 +19912,11 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source> rad/s</source>
-        <translation type="unfinished"></translation>
+        <translation> rad/s</translation>
     </message>
     <message>
         <source>Take a test in from a recording</source>
-        <translation type="unfinished"></translation>
+        <translation>Test aus einer Aufzeichnung übernehmen</translation>
     </message>
     <message>
         <source>&amp;Test</source>
@@ -19935,19 +19936,19 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>&amp;Distance between the gates</source>
-        <translation type="unfinished"></translation>
+        <translation>Abstand zwischen &amp;den Toren</translation>
     </message>
     <message>
         <source>T&amp;urn limit</source>
-        <translation type="unfinished"></translation>
+        <translation>Dreh&amp;grenze</translation>
     </message>
     <message>
         <source>&amp;Suggest the marks again</source>
-        <translation type="unfinished"></translation>
+        <translation>Marken erneut &amp;vorschlagen</translation>
     </message>
     <message>
         <source>Take in</source>
-        <translation type="unfinished"></translation>
+        <translation>Übernehmen</translation>
     </message>
     <message>
         <source>Lap %1</source>
@@ -19959,7 +19960,7 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>Eight %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Acht %1</translation>
     </message>
     <message>
         <source>Start</source>
@@ -19967,16 +19968,17 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>%1 strokes and %2 turns were found.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Schläge und %2 Drehungen wurden gefunden.</translation>
     </message>
     <message>
         <source>Ends at
 (s)</source>
-        <translation type="unfinished"></translation>
+        <translation>Endet bei
+(s)</translation>
     </message>
     <message>
         <source>Seconds from the beginning of the recording</source>
-        <translation type="unfinished"></translation>
+        <translation>Sekunden ab dem Anfang der Aufzeichnung</translation>
     </message>
     <message>
         <source>Time
@@ -19986,43 +19988,43 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>Length of the section</source>
-        <translation type="unfinished"></translation>
+        <translation>Länge des Abschnitts</translation>
     </message>
     <message>
         <source>No such test was found in the recording.</source>
-        <translation type="unfinished"></translation>
+        <translation>In der Aufzeichnung wurde kein solcher Test gefunden.</translation>
     </message>
     <message>
         <source>Each mark has to be later than the one before.</source>
-        <translation type="unfinished"></translation>
+        <translation>Jede Marke muss später sein als die davor.</translation>
     </message>
     <message>
         <source>Laps found in the recording: %1 of %2. What is taken in has no more of them.</source>
-        <translation type="unfinished"></translation>
+        <translation>In der Aufzeichnung gefundene Runden: %1 von %2. Mehr davon hat das Übernommene nicht.</translation>
     </message>
     <message>
         <source>Eights found in the recording: %1 of %2. What is taken in has no more of them.</source>
-        <translation type="unfinished"></translation>
+        <translation>In der Aufzeichnung gefundene Achten: %1 von %2. Mehr davon hat das Übernommene nicht.</translation>
     </message>
     <message>
         <source>Rotation and marks</source>
-        <translation type="unfinished"></translation>
+        <translation>Rotation und Marken</translation>
     </message>
     <message>
         <source>Time from the beginning of the recording (s)</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeit ab dem Anfang der Aufzeichnung (s)</translation>
     </message>
     <message>
         <source>Rotation (rad/s)</source>
-        <translation type="unfinished"></translation>
+        <translation>Rotation (rad/s)</translation>
     </message>
     <message>
         <source>Rotation</source>
-        <translation type="unfinished"></translation>
+        <translation>Rotation</translation>
     </message>
     <message>
         <source>Marks</source>
-        <translation type="unfinished"></translation>
+        <translation>Marken</translation>
     </message>
 </context>
 <context>
@@ -20057,7 +20059,7 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>Motion</source>
-        <translation type="unfinished"></translation>
+        <translation>Bewegung</translation>
     </message>
     <message>
         <source>yes</source>
@@ -20065,11 +20067,11 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>Take in tests from “%1”</source>
-        <translation type="unfinished"></translation>
+        <translation>Tests aus „%1“ übernehmen</translation>
     </message>
     <message>
         <source>Take in</source>
-        <translation type="unfinished"></translation>
+        <translation>Übernehmen</translation>
     </message>
     <message>
         <source>&amp;Test</source>
@@ -20077,19 +20079,19 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>Take %1 runs in</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Läufe übernehmen</translation>
     </message>
     <message>
         <source>Each section of the run becomes a lap.</source>
-        <translation type="unfinished"></translation>
+        <translation>Jeder Abschnitt des Laufs wird eine Runde.</translation>
     </message>
     <message>
         <source>Each section of the run becomes a stretch of the sprint.</source>
-        <translation type="unfinished"></translation>
+        <translation>Jeder Abschnitt des Laufs wird ein Stück des Sprints.</translation>
     </message>
     <message>
         <source>The first five sections become the splits, with their marks in the video; the motion samples of the run tell its rotation.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die ersten fünf Abschnitte werden die Zwischenzeiten, mit ihren Marken im Video; die Messwerte der Bewegung des Laufs sagen seine Rotation.</translation>
     </message>
 </context>
 <context>
@@ -20415,27 +20417,27 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     <name>kavela::desktop::TeamAthleteDialog</name>
     <message>
         <source>New athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>Neuer Athlet</translation>
     </message>
     <message>
         <source>Written in capitals in the team</source>
-        <translation type="unfinished"></translation>
+        <translation>Im Team in Großbuchstaben</translation>
     </message>
     <message>
         <source>Such as 1998</source>
-        <translation type="unfinished"></translation>
+        <translation>Etwa 1998</translation>
     </message>
     <message>
         <source>&amp;Surname</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Nachname</translation>
     </message>
     <message>
         <source>&amp;Given name</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Vorname</translation>
     </message>
     <message>
         <source>&amp;Born in</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Geboren</translation>
     </message>
     <message>
         <source>Boats</source>
@@ -20446,11 +20448,11 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     <name>kavela::desktop::TeamDocument</name>
     <message>
         <source>It is no team file, or a damaged one: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Das ist keine Teamdatei, oder eine beschädigte: %1</translation>
     </message>
     <message>
         <source>averages</source>
-        <translation type="unfinished"></translation>
+        <translation>Mittelwerte</translation>
     </message>
     <message>
         <source>1 athlete</source>
@@ -20468,15 +20470,15 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     <name>kavela::desktop::TeamWindow</name>
     <message>
         <source>Take results over</source>
-        <translation type="unfinished"></translation>
+        <translation>Ergebnisse übernehmen</translation>
     </message>
     <message>
         <source>Split files and result lists (*.kvx *.csv *.txt);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Zwischenzeitdateien und Ergebnislisten (*.kvx *.csv *.txt);;Alle Dateien (*)</translation>
     </message>
     <message>
         <source>“%1” cannot be taken over</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ lässt sich nicht übernehmen</translation>
     </message>
     <message>
         <source>There are no results in it.</source>
@@ -20488,7 +20490,7 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>There are no runs in it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Darin sind keine Läufe.</translation>
     </message>
     <message>
         <source>results taken over</source>
@@ -20508,38 +20510,38 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>new category</source>
-        <translation type="unfinished"></translation>
+        <translation>neue Kategorie</translation>
     </message>
     <message>
         <source>removal of a category</source>
-        <translation type="unfinished"></translation>
+        <translation>Entfernen einer Kategorie</translation>
     </message>
     <message>
         <source>Choose an athlete and a category first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Erst einen Athleten und eine Kategorie wählen.</translation>
     </message>
     <message>
         <source>Add a season first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Erst eine Saison hinzufügen.</translation>
     </message>
     <message>
         <source>Choose a category first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Erst eine Kategorie wählen.</translation>
     </message>
     <message>
         <source>No athlete comes into question in %1: two seasons are needed, with a final position in one of the first two.</source>
-        <translation type="unfinished"></translation>
+        <translation>In %1 kommt kein Athlet in Frage: nötig sind zwei Saisons, mit einem Endplatz in einer der ersten zwei.</translation>
     </message>
     <message>
         <source>Categorization %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Einstufung %1</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::TestListPanel</name>
     <message>
         <source>All tests</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Tests</translation>
     </message>
     <message>
         <source>Athlete</source>
@@ -20547,7 +20549,7 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>Ticked tests are laid over the chosen one (Space)</source>
-        <translation type="unfinished"></translation>
+        <translation>Abgehakte Tests liegen über dem gewählten (Leertaste)</translation>
     </message>
     <message>
         <source>Date</source>
@@ -20563,26 +20565,26 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>All athletes</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Athleten</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::TestSessionWindow</name>
     <message>
         <source>Time (s)</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeit (s)</translation>
     </message>
     <message>
         <source>Value</source>
-        <translation type="unfinished"></translation>
+        <translation>Wert</translation>
     </message>
     <message>
         <source>There are no values in this attempt.</source>
-        <translation type="unfinished"></translation>
+        <translation>In diesem Versuch gibt es keine Werte.</translation>
     </message>
     <message>
         <source>Heart rate (1/min)</source>
-        <translation type="unfinished"></translation>
+        <translation>Herzfrequenz (1/min)</translation>
     </message>
     <message>
         <source>Test session</source>
@@ -20590,7 +20592,7 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>Values</source>
-        <translation type="unfinished"></translation>
+        <translation>Werte</translation>
     </message>
     <message>
         <source>&amp;Export the table…</source>
@@ -20603,7 +20605,8 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     <message>
         <source>Attempt %1
 %2 stroke values, %3 of the sprint</source>
-        <translation type="unfinished"></translation>
+        <translation>Versuch %1
+%2 Schlagwerte, %3 vom Sprint</translation>
     </message>
     <message>
         <source>All kinds</source>
@@ -20611,7 +20614,7 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>Sprint data</source>
-        <translation type="unfinished"></translation>
+        <translation>Sprintdaten</translation>
     </message>
     <message>
         <source>Export the table</source>
@@ -20626,21 +20629,21 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     <name>kavela::desktop::TestsDocument</name>
     <message>
         <source>It is no file of tests, or a damaged one: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Das ist keine Testdatei, oder eine beschädigte: %1</translation>
     </message>
     <message>
         <source>removal of tests</source>
-        <translation type="unfinished"></translation>
+        <translation>Entfernen von Tests</translation>
     </message>
     <message>
         <source>1 test</source>
-        <translation type="unfinished"></translation>
+        <translation>1 Test</translation>
     </message>
     <message numerus="yes">
         <source>%n tests</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Test</numerusform>
+            <numerusform>%n Tests</numerusform>
         </translation>
     </message>
 </context>
@@ -20648,7 +20651,7 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     <name>kavela::desktop::TestsWindow</name>
     <message>
         <source>Take tests in from a split file</source>
-        <translation type="unfinished"></translation>
+        <translation>Tests aus einer Zwischenzeitdatei übernehmen</translation>
     </message>
     <message>
         <source>Split files (*.kvx);;All files (*)</source>
@@ -20656,7 +20659,7 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>Take a test in from a recording</source>
-        <translation type="unfinished"></translation>
+        <translation>Test aus einer Aufzeichnung übernehmen</translation>
     </message>
     <message>
         <source>Recordings (*.kvb);;All files (*)</source>
@@ -20664,23 +20667,23 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>“%1” cannot be taken in</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ lässt sich nicht übernehmen</translation>
     </message>
     <message>
         <source>There are no runs in it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Darin sind keine Läufe.</translation>
     </message>
     <message>
         <source>tests taken in</source>
-        <translation type="unfinished"></translation>
+        <translation>Tests übernommen</translation>
     </message>
     <message>
         <source>test taken in</source>
-        <translation type="unfinished"></translation>
+        <translation>Test übernommen</translation>
     </message>
     <message>
         <source>It is no raw recording, or a damaged one: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Das ist keine Rohaufzeichnung, oder eine beschädigte: %1</translation>
     </message>
     <message>
         <source>Tests</source>
@@ -20692,7 +20695,7 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>Values</source>
-        <translation type="unfinished"></translation>
+        <translation>Werte</translation>
     </message>
     <message>
         <source>Table</source>
@@ -20700,87 +20703,87 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>One ticked test is of another kind and left out here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein abgehakter Test ist von anderer Art und hier ausgelassen.</translation>
     </message>
     <message>
         <source>%1 ticked tests are of another kind and left out here.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 abgehakte Tests sind von anderer Art und hier ausgelassen.</translation>
     </message>
     <message>
         <source>new eight test</source>
-        <translation type="unfinished"></translation>
+        <translation>neuer Achtertest</translation>
     </message>
     <message>
         <source>new sprint</source>
-        <translation type="unfinished"></translation>
+        <translation>neuer Sprint</translation>
     </message>
     <message>
         <source>new lap test</source>
-        <translation type="unfinished"></translation>
+        <translation>neuer Rundentest</translation>
     </message>
     <message>
         <source>copy of a test</source>
-        <translation type="unfinished"></translation>
+        <translation>Kopie eines Tests</translation>
     </message>
     <message>
         <source>Export the table of tests</source>
-        <translation type="unfinished"></translation>
+        <translation>Tabelle der Tests exportieren</translation>
     </message>
     <message>
         <source>Semicolon-separated text (*.csv);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Text mit Semikolons (*.csv);;Alle Dateien (*)</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::TickStrip</name>
     <message>
         <source>Other marks</source>
-        <translation type="unfinished"></translation>
+        <translation>Andere Marken</translation>
     </message>
     <message>
         <source>A click shows the frame of a mark</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Klick zeigt das Bild einer Marke</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::TimeLine</name>
     <message>
         <source>Time line</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeitachse</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::TimerFace</name>
     <message>
         <source>%1 – paused</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 – Pause</translation>
     </message>
     <message>
         <source>Set %1 of %2   ·   Repetition %3 of %4</source>
-        <translation type="unfinished"></translation>
+        <translation>Satz %1 von %2   ·   Wiederholung %3 von %4</translation>
     </message>
     <message>
         <source>Well done.</source>
-        <translation type="unfinished"></translation>
+        <translation>Gut gemacht.</translation>
     </message>
     <message>
         <source>Next: the end</source>
-        <translation type="unfinished"></translation>
+        <translation>Danach: Ende</translation>
     </message>
     <message>
         <source>Next: %1 %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Danach: %1 %2</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::ToolWindow</name>
     <message>
         <source>%1 files (*.%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1-Dateien (*.%2)</translation>
     </message>
     <message>
         <source>%1, saving…</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, wird gespeichert…</translation>
     </message>
     <message>
         <source>&amp;File</source>
@@ -20792,11 +20795,11 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>&amp;Save</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Speichern</translation>
     </message>
     <message>
         <source>Save &amp;as…</source>
-        <translation type="unfinished"></translation>
+        <translation>Speichern &amp;unter…</translation>
     </message>
     <message>
         <source>Open</source>
@@ -20812,11 +20815,11 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>&amp;Undo</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Rückgängig</translation>
     </message>
     <message>
         <source>&amp;Redo</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Wiederherstellen</translation>
     </message>
     <message>
         <source>Open it again</source>
@@ -20824,27 +20827,27 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>Keep what is here</source>
-        <translation type="unfinished"></translation>
+        <translation>Behalten, was hier ist</translation>
     </message>
     <message>
         <source>⚠ Another program changed “%1”. What is shown here is from before.</source>
-        <translation type="unfinished"></translation>
+        <translation>⚠ Ein anderes Programm hat „%1“ geändert. Gezeigt wird der Stand davor.</translation>
     </message>
     <message>
         <source>⚠ “%1” is no longer in its folder. Saving puts it there again.</source>
-        <translation type="unfinished"></translation>
+        <translation>⚠ „%1“ ist nicht mehr in seinem Ordner. Speichern legt es dort wieder an.</translation>
     </message>
     <message>
         <source>Opening “%1” again gives up what was not saved here.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ erneut zu öffnen verwirft, was hier nicht gespeichert wurde.</translation>
     </message>
     <message>
         <source>Bring &amp;back earlier work…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Frühere Arbeit zurückholen…</translation>
     </message>
     <message>
         <source>&amp;Home</source>
-        <translation type="unfinished"></translation>
+        <translation>S&amp;tartfenster</translation>
     </message>
     <message>
         <source>Se&amp;ttings…</source>
@@ -20852,7 +20855,7 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>C&amp;lose</source>
-        <translation type="unfinished"></translation>
+        <translation>S&amp;chließen</translation>
     </message>
     <message>
         <source>&amp;Quit</source>
@@ -20860,38 +20863,38 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>Save</source>
-        <translation type="unfinished"></translation>
+        <translation>Speichern</translation>
     </message>
     <message>
         <source>Saving… The window closes when the file is written.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wird gespeichert… Das Fenster schließt, wenn die Datei geschrieben ist.</translation>
     </message>
     <message>
         <source>Saving… What is to be opened follows when the file is written.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wird gespeichert… Was zu öffnen ist, folgt, wenn die Datei geschrieben ist.</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::TotalsChart</name>
     <message>
         <source>No run has a time for the whole course yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Noch kein Lauf hat eine Zeit für die ganze Strecke.</translation>
     </message>
     <message>
         <source>Time and penalties of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeit und Strafen von %1</translation>
     </message>
     <message>
         <source>Seconds on the course, without penalties</source>
-        <translation type="unfinished"></translation>
+        <translation>Sekunden auf der Strecke, ohne Strafen</translation>
     </message>
     <message>
         <source> · %1 without a total</source>
-        <translation type="unfinished"></translation>
+        <translation> · %1 ohne Gesamtzeit</translation>
     </message>
     <message>
         <source>Penalty seconds</source>
-        <translation type="unfinished"></translation>
+        <translation>Strafsekunden</translation>
     </message>
     <message>
         <source>← slower      faster →</source>
@@ -20923,87 +20926,87 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>Selected</source>
-        <translation type="unfinished"></translation>
+        <translation>Gewählt</translation>
     </message>
     <message>
         <source>Totals</source>
-        <translation type="unfinished"></translation>
+        <translation>Gesamtzeiten</translation>
     </message>
     <message>
         <source>Total time against penalties</source>
-        <translation type="unfinished"></translation>
+        <translation>Gesamtzeit gegen Strafen</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::TrackDocument</name>
     <message>
         <source>It is no path on a film, or a damaged one: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Das ist keine Bahn auf einem Film, oder eine beschädigte: %1</translation>
     </message>
     <message>
         <source>a path of 1 frame</source>
-        <translation type="unfinished"></translation>
+        <translation>eine Bahn von 1 Bild</translation>
     </message>
     <message>
         <source>a path of %1 frames</source>
-        <translation type="unfinished"></translation>
+        <translation>eine Bahn von %1 Bildern</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::TrackLine</name>
     <message>
         <source>Coloured where the path is known; diamonds are the boxes that were drawn. Click to go there.</source>
-        <translation type="unfinished"></translation>
+        <translation>Farbig, wo die Bahn bekannt ist; Rauten sind die gezeichneten Kästen. Klicken, um dorthin zu gehen.</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::TrackOffsetDialog</name>
     <message>
         <source>Track of a watch</source>
-        <translation type="unfinished"></translation>
+        <translation>Track einer Uhr</translation>
     </message>
     <message>
         <source>The clock of the watch is perhaps wrong. Say when the track began in truth.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Uhr geht vielleicht falsch. Sagen, wann der Track in Wahrheit begann.</translation>
     </message>
     <message>
         <source>With the &amp;recording</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Mit der Aufzeichnung</translation>
     </message>
     <message>
         <source>Both were started at the same moment</source>
-        <translation type="unfinished"></translation>
+        <translation>Beide wurden im selben Moment gestartet</translation>
     </message>
     <message>
         <source>Recording</source>
-        <translation type="unfinished"></translation>
+        <translation>Aufzeichnung</translation>
     </message>
     <message>
         <source>Track, by its clock</source>
-        <translation type="unfinished"></translation>
+        <translation>Track, nach seiner Uhr</translation>
     </message>
     <message>
         <source>The track &amp;began</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Beginn des Tracks</translation>
     </message>
     <message>
         <source>Join it</source>
-        <translation type="unfinished"></translation>
+        <translation>Verbinden</translation>
     </message>
     <message>
         <source>%1 of %2 positions and %3 of %4 heart rates lie in the recording, or a minute around it.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 von %2 Positionen und %3 von %4 Herzfrequenzen liegen in der Aufzeichnung oder eine Minute um sie herum.</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::TrackOverlay</name>
     <message>
         <source>Box round what is followed</source>
-        <translation type="unfinished"></translation>
+        <translation>Kasten um das Verfolgte</translation>
     </message>
     <message>
         <source>Draw a box round boat, head or gate. By keys: B proposes a box, arrows move it, with Shift they size it, Enter takes it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Einen Kasten um Boot, Kopf oder Tor zeichnen. Mit Tasten: B schlägt einen Kasten vor, Pfeile verschieben ihn, mit Umschalt ändern sie die Größe, Enter nimmt ihn.</translation>
     </message>
 </context>
 <context>
@@ -21014,31 +21017,31 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>Paths on films (*.track.json)</source>
-        <translation type="unfinished"></translation>
+        <translation>Bahnen auf Filmen (*.track.json)</translation>
     </message>
     <message>
         <source>Open a film, then draw a box round what is to be followed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Einen Film öffnen, dann einen Kasten um das zeichnen, was verfolgt werden soll.</translation>
     </message>
     <message>
         <source>Following: %p %</source>
-        <translation type="unfinished"></translation>
+        <translation>Verfolgen: %p %</translation>
     </message>
     <message>
         <source>Draw a box round what is to be followed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Einen Kasten um das zeichnen, was verfolgt werden soll.</translation>
     </message>
     <message>
         <source>No known point yet. Tick Path &gt; Click known points, then click the foot of a gate&apos;s poles in the picture.</source>
-        <translation type="unfinished"></translation>
+        <translation>Noch kein bekannter Punkt. Bahn &gt; Bekannte Punkte anklicken abhaken, dann im Bild den Fuß der Torstäbe anklicken.</translation>
     </message>
     <message>
         <source>&amp;Take it away</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Wegnehmen</translation>
     </message>
     <message>
         <source>removal of a known point</source>
-        <translation type="unfinished"></translation>
+        <translation>Entfernen eines bekannten Punkts</translation>
     </message>
     <message>
         <source>Speed</source>
@@ -21046,39 +21049,39 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>Figures</source>
-        <translation type="unfinished"></translation>
+        <translation>Zahlen</translation>
     </message>
     <message>
         <source>Known points</source>
-        <translation type="unfinished"></translation>
+        <translation>Bekannte Punkte</translation>
     </message>
     <message>
         <source>A place on the water is a number of metres, -10000 to 10000</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Ort auf dem Wasser ist eine Zahl von Metern, -10000 bis 10000</translation>
     </message>
     <message>
         <source>metres of a known point</source>
-        <translation type="unfinished"></translation>
+        <translation>Meter eines bekannten Punkts</translation>
     </message>
     <message>
         <source>Point</source>
-        <translation type="unfinished"></translation>
+        <translation>Punkt</translation>
     </message>
     <message>
         <source>Across</source>
-        <translation type="unfinished"></translation>
+        <translation>Quer</translation>
     </message>
     <message>
         <source>Along</source>
-        <translation type="unfinished"></translation>
+        <translation>Längs</translation>
     </message>
     <message>
         <source>&amp;Open a film or a path…</source>
-        <translation type="unfinished"></translation>
+        <translation>Film oder Bahn &amp;öffnen…</translation>
     </message>
     <message>
         <source>&amp;Export the path as CSV…</source>
-        <translation type="unfinished"></translation>
+        <translation>Bahn als CSV e&amp;xportieren…</translation>
     </message>
     <message>
         <source>&amp;Play</source>
@@ -21098,162 +21101,162 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>P&amp;ath</source>
-        <translation type="unfinished"></translation>
+        <translation>B&amp;ahn</translation>
     </message>
     <message>
         <source>Propose a &amp;box</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Kasten vorschlagen</translation>
     </message>
     <message>
         <source>&amp;Take the box of this frame away</source>
-        <translation type="unfinished"></translation>
+        <translation>Kasten dieses Bilds &amp;wegnehmen</translation>
     </message>
     <message>
         <source>To the next &amp;gap</source>
-        <translation type="unfinished"></translation>
+        <translation>Zur nächsten &amp;Lücke</translation>
     </message>
     <message>
         <source>&amp;Stop following</source>
-        <translation type="unfinished"></translation>
+        <translation>Verfolgen an&amp;halten</translation>
     </message>
     <message>
         <source>Click &amp;known points</source>
-        <translation type="unfinished"></translation>
+        <translation>Bekannte &amp;Punkte anklicken</translation>
     </message>
     <message>
         <source>&amp;Forget the known points</source>
-        <translation type="unfinished"></translation>
+        <translation>Bekannte Punkte &amp;vergessen</translation>
     </message>
     <message>
         <source>It lies on the &amp;water</source>
-        <translation type="unfinished"></translation>
+        <translation>Es liegt &amp;auf dem Wasser</translation>
     </message>
     <message>
         <source>whether it lies on the water</source>
-        <translation type="unfinished"></translation>
+        <translation>ob es auf dem Wasser liegt</translation>
     </message>
     <message>
         <source>Open a film or a path on one</source>
-        <translation type="unfinished"></translation>
+        <translation>Film oder Bahn auf einem öffnen</translation>
     </message>
     <message>
         <source>Films and paths (*.mp4 *.mov *.m4v *.mkv *.avi *.mts *.track.json);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Filme und Bahnen (*.mp4 *.mov *.m4v *.mkv *.avi *.mts *.track.json);;Alle Dateien (*)</translation>
     </message>
     <message>
         <source>The film %1 is not there.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Film %1 ist nicht da.</translation>
     </message>
     <message>
         <source>%1 s · frame %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 s · Bild %2</translation>
     </message>
     <message>
         <source>The film is still being read. Draw the box again in a moment.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Film wird noch gelesen. Den Kasten gleich noch einmal zeichnen.</translation>
     </message>
     <message>
         <source>Stop following first, with Escape.</source>
-        <translation type="unfinished"></translation>
+        <translation>Erst das Verfolgen anhalten, mit Esc.</translation>
     </message>
     <message>
         <source>box</source>
-        <translation type="unfinished"></translation>
+        <translation>Kasten</translation>
     </message>
     <message>
         <source>Following. Escape stops it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wird verfolgt. Esc hält es an.</translation>
     </message>
     <message>
         <source>The boxes were changed meanwhile, so that the path was not taken over. Draw the box again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Kästen wurden inzwischen geändert; die Bahn wurde nicht übernommen. Den Kasten noch einmal zeichnen.</translation>
     </message>
     <message>
         <source>path</source>
-        <translation type="unfinished"></translation>
+        <translation>Bahn</translation>
     </message>
     <message>
         <source>Lost at %1 s. Draw a new box here, or where it is seen again; what lies between stays a gap until both sides meet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Verloren bei %1 s. Hier oder wo es wieder zu sehen ist einen neuen Kasten zeichnen; dazwischen bleibt eine Lücke, bis beide Seiten sich treffen.</translation>
     </message>
     <message>
         <source>Followed without a gap.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ohne Lücke verfolgt.</translation>
     </message>
     <message>
         <source>Followed, with one gap. G goes there.</source>
-        <translation type="unfinished"></translation>
+        <translation>Verfolgt, mit einer Lücke. G geht dorthin.</translation>
     </message>
     <message>
         <source>Followed, with %1 gaps. G goes to the next one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Verfolgt, mit %1 Lücken. G geht zur nächsten.</translation>
     </message>
     <message>
         <source>No box was drawn in this frame.</source>
-        <translation type="unfinished"></translation>
+        <translation>In diesem Bild wurde kein Kasten gezeichnet.</translation>
     </message>
     <message>
         <source>removal of a box</source>
-        <translation type="unfinished"></translation>
+        <translation>Entfernen eines Kastens</translation>
     </message>
     <message>
         <source>The path has no gap.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Bahn hat keine Lücke.</translation>
     </message>
     <message>
         <source>Click the foot of a gate&apos;s poles where they meet the water, four for metres or two for a scale only, then type where they stand. P ends it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Den Fuß der Torstäbe anklicken, wo sie das Wasser treffen, vier für Meter oder zwei nur für einen Maßstab, dann tippen, wo sie stehen. P beendet es.</translation>
     </message>
     <message>
         <source>Four known points are the most. Take one away first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Mehr als vier bekannte Punkte gehen nicht. Erst einen wegnehmen.</translation>
     </message>
     <message>
         <source>The known points belong into one frame; this is where the first one was clicked.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die bekannten Punkte gehören in ein Bild; dies ist das, in dem der erste angeklickt wurde.</translation>
     </message>
     <message>
         <source>known point</source>
-        <translation type="unfinished"></translation>
+        <translation>bekannter Punkt</translation>
     </message>
     <message>
         <source>removal of the known points</source>
-        <translation type="unfinished"></translation>
+        <translation>Entfernen der bekannten Punkte</translation>
     </message>
     <message>
         <source>Two points give a scale only: lengths and speeds hold near them and along the line between them. Four give the perspective too.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zwei Punkte geben nur einen Maßstab: Längen und Tempo gelten in ihrer Nähe und auf der Linie zwischen ihnen. Vier geben auch die Perspektive.</translation>
     </message>
     <message>
         <source>What is followed is not on the water, such as a head: its metres are off.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Verfolgte ist nicht auf dem Wasser, etwa ein Kopf: seine Meter stimmen nicht.</translation>
     </message>
     <message>
         <source>Export the path</source>
-        <translation type="unfinished"></translation>
+        <translation>Bahn exportieren</translation>
     </message>
     <message>
         <source>Tables (*.csv)</source>
-        <translation type="unfinished"></translation>
+        <translation>Tabellen (*.csv)</translation>
     </message>
     <message>
         <source>%1 is there.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ist da.</translation>
     </message>
     <message>
         <source>The path could not be exported</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Bahn konnte nicht exportiert werden</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::TradeOffPanel</name>
     <message>
         <source>In percent of the median of its group</source>
-        <translation type="unfinished"></translation>
+        <translation>In Prozent des Medians der Gruppe</translation>
     </message>
     <message>
         <source>By paddling time</source>
-        <translation type="unfinished"></translation>
+        <translation>Nach Fahrzeit</translation>
     </message>
     <message>
         <source>Runs</source>
@@ -21269,38 +21272,38 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>Exact interval of the touches</source>
-        <translation type="unfinished"></translation>
+        <translation>Exaktes Intervall der Berührungen</translation>
     </message>
     <message>
         <source>Missed a run</source>
-        <translation type="unfinished"></translation>
+        <translation>Verfehlt je Lauf</translation>
     </message>
     <message>
         <source>Paddling %</source>
-        <translation type="unfinished"></translation>
+        <translation>Fahrzeit %</translation>
     </message>
     <message>
         <source>Total %</source>
-        <translation type="unfinished"></translation>
+        <translation>Gesamt %</translation>
     </message>
     <message>
         <source>No group has enough whole runs to be divided.</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Gruppe hat genug ganze Läufe zum Teilen.</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::TrialList</name>
     <message>
         <source>New athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>Neuer Athlet</translation>
     </message>
     <message>
         <source>Enter adds a time trial of that athlete; Esc gives the keys back to the film</source>
-        <translation type="unfinished"></translation>
+        <translation>Enter fügt ein Zeitfahren dieses Athleten hinzu; Esc gibt dem Film die Tasten zurück</translation>
     </message>
     <message>
         <source>A time trial needs the name of its athlete.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Zeitfahren braucht den Namen seines Athleten.</translation>
     </message>
     <message>
         <source>Pos</source>
@@ -21320,15 +21323,15 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>⚠ missing</source>
-        <translation type="unfinished"></translation>
+        <translation>⚠ fehlt</translation>
     </message>
     <message>
         <source>%1 is not in the folder</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ist nicht im Ordner</translation>
     </message>
     <message>
         <source>Add an athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>Athleten hinzufügen</translation>
     </message>
     <message>
         <source>Re&amp;name the athlete</source>
@@ -21336,7 +21339,7 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>&amp;Film…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Film…</translation>
     </message>
     <message>
         <source>R&amp;emove the trial</source>
@@ -21348,7 +21351,7 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>Chooses the film of the selected trial</source>
-        <translation type="unfinished"></translation>
+        <translation>Wählt den Film des gewählten Zeitfahrens</translation>
     </message>
     <message>
         <source>Remove</source>
@@ -21356,7 +21359,7 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>Removes the selected trial</source>
-        <translation type="unfinished"></translation>
+        <translation>Entfernt das gewählte Zeitfahren</translation>
     </message>
 </context>
 <context>
@@ -21391,19 +21394,19 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>%1 boats</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Boote</translation>
     </message>
     <message>
         <source>How many boats go on to the heats</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie viele Boote in die Heats kommen</translation>
     </message>
     <message>
         <source>Make heats from the trials</source>
-        <translation type="unfinished"></translation>
+        <translation>Heats aus den Zeitfahren machen</translation>
     </message>
     <message>
         <source>Heats of four, the fastest against the slowest. Heats that exist stay.</source>
-        <translation type="unfinished"></translation>
+        <translation>Heats zu viert, die Schnellsten gegen die Langsamsten. Vorhandene Heats bleiben.</translation>
     </message>
     <message>
         <source>Splits</source>
@@ -21415,7 +21418,7 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>A click shows the frame of a split</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Klick zeigt das Bild einer Zwischenzeit</translation>
     </message>
     <message>
         <source>gate %1</source>
@@ -21423,7 +21426,7 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>roll</source>
-        <translation type="unfinished"></translation>
+        <translation>Rolle</translation>
     </message>
     <message>
         <source>%1 s</source>
@@ -21431,58 +21434,58 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>time trial of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeitfahren von %1</translation>
     </message>
     <message>
         <source>films imported</source>
-        <translation type="unfinished"></translation>
+        <translation>Filme importiert</translation>
     </message>
     <message>
         <source>film of the trial</source>
-        <translation type="unfinished"></translation>
+        <translation>Film des Zeitfahrens</translation>
     </message>
     <message>
         <source>athlete renamed</source>
-        <translation type="unfinished"></translation>
+        <translation>Athlet umbenannt</translation>
     </message>
     <message>
         <source>time trial removed</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeitfahren entfernt</translation>
     </message>
     <message>
         <source>No trial has a time yet: heats are made from the fastest ones.</source>
-        <translation type="unfinished"></translation>
+        <translation>Noch hat kein Zeitfahren eine Zeit: Heats entstehen aus den schnellsten.</translation>
     </message>
     <message>
         <source>There are heats already. They stay as they are, and those from the trials come behind them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt schon Heats. Sie bleiben, wie sie sind; die aus den Zeitfahren kommen dahinter.</translation>
     </message>
     <message>
         <source>Make heats</source>
-        <translation type="unfinished"></translation>
+        <translation>Heats machen</translation>
     </message>
     <message>
         <source>heats from the trials</source>
-        <translation type="unfinished"></translation>
+        <translation>Heats aus den Zeitfahren</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::Updates</name>
     <message>
         <source>Newer versions</source>
-        <translation type="unfinished"></translation>
+        <translation>Neuere Versionen</translation>
     </message>
     <message>
         <source>May Kavela look once a day whether there is a newer version? It tells the server the version that you have, and nothing else. Without a yes it never looks by itself. You can change this in the settings.</source>
-        <translation type="unfinished"></translation>
+        <translation>Darf Kavela einmal am Tag nachsehen, ob es eine neuere Version gibt? Der Server erfährt die installierte Version und sonst nichts. Ohne ein Ja sieht es nie von selbst nach. In den Einstellungen lässt sich das ändern.</translation>
     </message>
     <message>
         <source>Yes, look once a day</source>
-        <translation type="unfinished"></translation>
+        <translation>Ja, einmal am Tag nachsehen</translation>
     </message>
     <message>
         <source>Looking for a newer version…</source>
-        <translation type="unfinished"></translation>
+        <translation>Nach einer neueren Version wird gesehen…</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -21517,7 +21520,7 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>Turn to the</source>
-        <translation type="unfinished"></translation>
+        <translation>Drehung nach</translation>
     </message>
     <message>
         <source>Style</source>
@@ -21529,7 +21532,7 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>Gate %1 is no upstream gate. N goes to the next one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tor %1 ist kein Aufwärtstor. N geht zum nächsten.</translation>
     </message>
     <message>
         <source>%1 of gate %2</source>
@@ -21545,11 +21548,11 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>The marks of gate %1 are removed. Ctrl+Z brings them back.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Marken von Tor %1 sind entfernt. Strg+Z holt sie zurück.</translation>
     </message>
     <message>
         <source>Gate %1 is no upstream gate</source>
-        <translation type="unfinished"></translation>
+        <translation>Tor %1 ist kein Aufwärtstor</translation>
     </message>
     <message>
         <source>Gate %1: M marks the %2</source>
@@ -21561,7 +21564,7 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>%1 s in the gate</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 s im Tor</translation>
     </message>
     <message>
         <source>gate %1</source>
@@ -21574,26 +21577,28 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
         <source>No test yet.
 
 Add one by hand with Ctrl+N, or drop split files and recordings here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Noch kein Test.
+
+Von Hand mit Strg+N einen hinzufügen oder Zwischenzeitdateien und Aufzeichnungen hierher ziehen.</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::VariabilityDialog</name>
     <message>
         <source>There is no measurement in this list.</source>
-        <translation type="unfinished"></translation>
+        <translation>In dieser Liste ist keine Messung.</translation>
     </message>
     <message>
         <source>All %1 measurements of this list are there already.</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle %1 Messungen dieser Liste sind schon da.</translation>
     </message>
     <message>
         <source>1 measurement is new.</source>
-        <translation type="unfinished"></translation>
+        <translation>1 Messung ist neu.</translation>
     </message>
     <message>
         <source>1 other is there already.</source>
-        <translation type="unfinished"></translation>
+        <translation>1 andere ist schon da.</translation>
     </message>
     <message>
         <source>Import variability</source>
@@ -21601,11 +21606,11 @@ Add one by hand with Ctrl+N, or drop split files and recordings here.</source>
     </message>
     <message>
         <source>1 line is left out:</source>
-        <translation type="unfinished"></translation>
+        <translation>1 Zeile ist ausgelassen:</translation>
     </message>
     <message>
         <source>Add 1 measurement</source>
-        <translation type="unfinished"></translation>
+        <translation>1 Messung hinzufügen</translation>
     </message>
     <message>
         <source>Line</source>
@@ -21613,34 +21618,34 @@ Add one by hand with Ctrl+N, or drop split files and recordings here.</source>
     </message>
     <message>
         <source>Reason</source>
-        <translation type="unfinished"></translation>
+        <translation>Grund</translation>
     </message>
     <message numerus="yes">
         <source>%n measurements are new.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Messung ist neu.</numerusform>
+            <numerusform>%n Messungen sind neu.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n others are there already.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n andere ist schon da.</numerusform>
+            <numerusform>%n andere sind schon da.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n lines are left out:</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Zeile ist ausgelassen:</numerusform>
+            <numerusform>%n Zeilen sind ausgelassen:</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Add %n measurements</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Messung hinzufügen</numerusform>
+            <numerusform>%n Messungen hinzufügen</numerusform>
         </translation>
     </message>
 </context>
@@ -21648,11 +21653,11 @@ Add one by hand with Ctrl+N, or drop split files and recordings here.</source>
     <name>kavela::desktop::WaterfallChart</name>
     <message>
         <source>One of the two has no total, so there is no sum. The sections that both have stand in the table and in the other charts.</source>
-        <translation type="unfinished"></translation>
+        <translation>Einer der beiden hat keine Gesamtzeit, daher keine Summe. Die gemeinsamen Abschnitte stehen in der Tabelle und den anderen Diagrammen.</translation>
     </message>
     <message>
         <source>Sections, penalties and timing from total to total</source>
-        <translation type="unfinished"></translation>
+        <translation>Abschnitte, Strafen und Zeitnahme von Gesamtzeit zu Gesamtzeit</translation>
     </message>
     <message>
         <source>penalties</source>
@@ -21660,7 +21665,7 @@ Add one by hand with Ctrl+N, or drop split files and recordings here.</source>
     </message>
     <message>
         <source>timing</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeitnahme</translation>
     </message>
     <message>
         <source>Seconds</source>
@@ -21668,11 +21673,11 @@ Add one by hand with Ctrl+N, or drop split files and recordings here.</source>
     </message>
     <message>
         <source>Shown</source>
-        <translation type="unfinished"></translation>
+        <translation>Gezeigt</translation>
     </message>
     <message>
         <source>Up to here</source>
-        <translation type="unfinished"></translation>
+        <translation>Bis hier</translation>
     </message>
     <message>
         <source>Part</source>
@@ -21711,7 +21716,7 @@ Add one by hand with Ctrl+N, or drop split files and recordings here.</source>
     </message>
     <message>
         <source>done on</source>
-        <translation type="unfinished"></translation>
+        <translation>gemacht am</translation>
     </message>
     <message>
         <source>Endurance test</source>
@@ -21723,23 +21728,23 @@ Add one by hand with Ctrl+N, or drop split files and recordings here.</source>
     </message>
     <message>
         <source>Injured part</source>
-        <translation type="unfinished"></translation>
+        <translation>Verletzter Teil</translation>
     </message>
     <message>
         <source>Health notes</source>
-        <translation type="unfinished"></translation>
+        <translation>Notizen zur Gesundheit</translation>
     </message>
     <message>
         <source>“%1” are no dates. Write them as 2026-03-10, with commas between.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ sind keine Datumsangaben. Wie 2026-03-10 schreiben, mit Kommas dazwischen.</translation>
     </message>
     <message>
         <source>dates of tests</source>
-        <translation type="unfinished"></translation>
+        <translation>Daten der Tests</translation>
     </message>
     <message>
         <source>load</source>
-        <translation type="unfinished"></translation>
+        <translation>Belastung</translation>
     </message>
     <message>
         <source>Load</source>
@@ -21747,19 +21752,19 @@ Add one by hand with Ctrl+N, or drop split files and recordings here.</source>
     </message>
     <message>
         <source>health</source>
-        <translation type="unfinished"></translation>
+        <translation>Gesundheit</translation>
     </message>
     <message>
         <source>Health</source>
-        <translation type="unfinished"></translation>
+        <translation>Gesundheit</translation>
     </message>
     <message>
         <source>One per line</source>
-        <translation type="unfinished"></translation>
+        <translation>Eines je Zeile</translation>
     </message>
     <message>
         <source>goals of the week</source>
-        <translation type="unfinished"></translation>
+        <translation>Ziele der Woche</translation>
     </message>
     <message>
         <source>Goals</source>
@@ -21767,7 +21772,7 @@ Add one by hand with Ctrl+N, or drop split files and recordings here.</source>
     </message>
     <message>
         <source>Week %1 · from %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Woche %1 · ab %2</translation>
     </message>
     <message>
         <source>Week %1</source>
@@ -21775,7 +21780,7 @@ Add one by hand with Ctrl+N, or drop split files and recordings here.</source>
     </message>
     <message>
         <source>%1 weeks are chosen: load, cycles and place go into all of them.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Wochen sind gewählt: Belastung, Zyklen und Ort gehen in alle.</translation>
     </message>
 </context>
 <context>
@@ -21802,7 +21807,7 @@ Add one by hand with Ctrl+N, or drop split files and recordings here.</source>
     </message>
     <message>
         <source>On no day of this week</source>
-        <translation type="unfinished"></translation>
+        <translation>Auf keinem Tag dieser Woche</translation>
     </message>
     <message>
         <source>Session</source>
@@ -21813,11 +21818,11 @@ Add one by hand with Ctrl+N, or drop split files and recordings here.</source>
     <name>kavela::desktop::WhyKeys</name>
     <message>
         <source>Go to a number first, or hold Alt and click on it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Erst zu einer Zahl gehen, oder Alt halten und darauf klicken.</translation>
     </message>
     <message>
         <source>Nothing was computed here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Hier wurde nichts berechnet.</translation>
     </message>
 </context>
 <context>
@@ -21835,11 +21840,11 @@ Add one by hand with Ctrl+N, or drop split files and recordings here.</source>
     </message>
     <message>
         <source>dropped: worst</source>
-        <translation type="unfinished"></translation>
+        <translation>gestrichen: schlechtestes</translation>
     </message>
     <message>
         <source>dropped: bonus</source>
-        <translation type="unfinished"></translation>
+        <translation>gestrichen: Bonus</translation>
     </message>
     <message>
         <source>no result</source>
@@ -21859,7 +21864,7 @@ Add one by hand with Ctrl+N, or drop split files and recordings here.</source>
     </message>
     <message>
         <source>Select an athlete to see where the score comes from.</source>
-        <translation type="unfinished"></translation>
+        <translation>Einen Athleten wählen, um zu sehen, woher die Wertung kommt.</translation>
     </message>
     <message>
         <source>%1. %2</source>
@@ -21871,51 +21876,52 @@ Add one by hand with Ctrl+N, or drop split files and recordings here.</source>
     </message>
     <message>
         <source>Score: %1 / 3 = %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Wertung: %1 / 3 = %2</translation>
     </message>
     <message>
         <source>Place: was %1, now %2. Score: was %3, now %4.</source>
-        <translation type="unfinished"></translation>
+        <translation>Platz: war %1, jetzt %2. Wertung: war %3, jetzt %4.</translation>
     </message>
     <message>
         <source>%1 s in %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 s in %2</translation>
     </message>
     <message>
         <source>A place better with a total of
 %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Einen Platz besser mit gesamt
+%1</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::WhyWindow</name>
     <message>
         <source>Rule: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Regel: %1</translation>
     </message>
     <message>
         <source>Within %1</source>
-        <translation type="unfinished"></translation>
+        <translation>In %1</translation>
     </message>
     <message>
         <source>Source: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Quelle: %1</translation>
     </message>
     <message>
         <source>Why this number?</source>
-        <translation type="unfinished"></translation>
+        <translation>Warum diese Zahl?</translation>
     </message>
     <message>
         <source>Why %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Warum %1</translation>
     </message>
     <message>
         <source>What went into it</source>
-        <translation type="unfinished"></translation>
+        <translation>Was eingeht</translation>
     </message>
     <message>
         <source>Enter opens a number made on the way, and shows the place of a value</source>
-        <translation type="unfinished"></translation>
+        <translation>Enter öffnet eine unterwegs entstandene Zahl und zeigt die Stelle eines Werts</translation>
     </message>
     <message>
         <source>From</source>
@@ -21923,7 +21929,7 @@ Add one by hand with Ctrl+N, or drop split files and recordings here.</source>
     </message>
     <message>
         <source>Value</source>
-        <translation type="unfinished"></translation>
+        <translation>Wert</translation>
     </message>
     <message>
         <source>Where</source>
@@ -21931,26 +21937,26 @@ Add one by hand with Ctrl+N, or drop split files and recordings here.</source>
     </message>
     <message>
         <source>Show this place (Enter)</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Stelle zeigen (Enter)</translation>
     </message>
     <message>
         <source>%1, link</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, Verweis</translation>
     </message>
     <message>
         <source>&amp;Copy as text</source>
-        <translation type="unfinished"></translation>
+        <translation>Als Text &amp;kopieren</translation>
     </message>
     <message>
         <source>The whole explanation (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Die ganze Erklärung (%1)</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::Workspace</name>
     <message>
         <source>Save the changes to %1?</source>
-        <translation type="unfinished"></translation>
+        <translation>Änderungen an %1 speichern?</translation>
     </message>
 </context>
 <context>
@@ -21961,7 +21967,7 @@ Add one by hand with Ctrl+N, or drop split files and recordings here.</source>
     </message>
     <message>
         <source>Month</source>
-        <translation type="unfinished"></translation>
+        <translation>Monat</translation>
     </message>
     <message>
         <source>Macrocycle</source>
