@@ -456,7 +456,7 @@
     </message>
     <message>
         <source>&amp;Up or down</source>
-        <translation>A&amp;uf oder ab</translation>
+        <translation>Auf o&amp;der ab</translation>
     </message>
     <message>
         <source>both</source>
@@ -464,7 +464,7 @@
     </message>
     <message>
         <source>&amp;Direction</source>
-        <translation>&amp;Richtung</translation>
+        <translation>Richtun&amp;g</translation>
     </message>
     <message>
         <source>&amp;Style</source>
@@ -6096,7 +6096,7 @@
     </message>
     <message>
         <source>Mo&amp;ve the nearest mark here</source>
-        <translation>&amp;Nächste Marke hierher</translation>
+        <translation>Nächste Marke h&amp;ierher</translation>
     </message>
     <message>
         <source>Nearest mark &amp;earlier</source>
@@ -6156,7 +6156,7 @@
     </message>
     <message>
         <source>&amp;Charts</source>
-        <translation>&amp;Diagramme</translation>
+        <translation>Dia&amp;gramme</translation>
     </message>
     <message>
         <source>&amp;View</source>
@@ -6396,7 +6396,7 @@
     </message>
     <message>
         <source>Cate&amp;gorization report…</source>
-        <translation>&amp;Bericht zur Einstufung…</translation>
+        <translation>Bericht &amp;zur Einstufung…</translation>
     </message>
     <message>
         <source>Save the c&amp;hart…</source>
@@ -6680,7 +6680,7 @@
     </message>
     <message>
         <source>Charts by &amp;lap or stretch</source>
-        <translation>Diagramme nach Runde oder S&amp;tück</translation>
+        <translation>Diagramme nach R&amp;unde oder Stück</translation>
     </message>
     <message>
         <source>Charts by t&amp;urn</source>
@@ -6696,7 +6696,7 @@
     </message>
     <message>
         <source>Choose an &amp;athlete</source>
-        <translation>Ath&amp;leten wählen</translation>
+        <translation>At&amp;hleten wählen</translation>
     </message>
     <message>
         <source>Take in from a split &amp;file…</source>
@@ -6704,7 +6704,7 @@
     </message>
     <message>
         <source>Take in from a &amp;recording…</source>
-        <translation>Aus Auf&amp;zeichnung übernehmen…</translation>
+        <translation>Aus Aufze&amp;ichnung übernehmen…</translation>
     </message>
     <message>
         <source>&amp;Export the table…</source>
@@ -6845,7 +6845,7 @@
     </message>
     <message>
         <source>&amp;From</source>
-        <translation>&amp;Aus</translation>
+        <translation>A&amp;us</translation>
     </message>
     <message>
         <source>&amp;Preview and print…</source>
@@ -7615,7 +7615,7 @@ Einfg fügt eine hinzu, oder eine Liste importieren.</translation>
     </message>
     <message>
         <source>&amp;Save as CSV…</source>
-        <translation>Als CSV &amp;speichern…</translation>
+        <translation>Als CS&amp;V speichern…</translation>
     </message>
     <message>
         <source>C&amp;olumns</source>
@@ -7999,7 +7999,7 @@ Einfg fügt eine hinzu, oder eine Liste importieren.</translation>
     </message>
     <message>
         <source>Compose the &amp;film…</source>
-        <translation>&amp;Film zusammensetzen…</translation>
+        <translation>Film zusammense&amp;tzen…</translation>
     </message>
     <message>
         <source>Add s&amp;plit files…</source>
@@ -8011,7 +8011,7 @@ Einfg fügt eine hinzu, oder eine Liste importieren.</translation>
     </message>
     <message>
         <source>&amp;Compose the film…</source>
-        <translation>&amp;Film zusammensetzen…</translation>
+        <translation>Film zusammense&amp;tzen…</translation>
     </message>
     <message>
         <source>Films being composed: &amp;jobs</source>
@@ -8027,7 +8027,7 @@ Einfg fügt eine hinzu, oder eine Liste importieren.</translation>
     </message>
     <message>
         <source>&amp;Play or pause</source>
-        <translation>&amp;Abspielen oder anhalten</translation>
+        <translation>Abs&amp;pielen oder anhalten</translation>
     </message>
     <message>
         <source>From the &amp;beginning</source>
@@ -8035,7 +8035,7 @@ Einfg fügt eine hinzu, oder eine Liste importieren.</translation>
     </message>
     <message>
         <source>One frame ba&amp;ck</source>
-        <translation>Ein Bild &amp;zurück</translation>
+        <translation>Ein Bild zu&amp;rück</translation>
     </message>
     <message>
         <source>One frame &amp;on</source>
@@ -8067,7 +8067,7 @@ Einfg fügt eine hinzu, oder eine Liste importieren.</translation>
     </message>
     <message>
         <source>&amp;Forget the points</source>
-        <translation>Punkte ver&amp;gessen</translation>
+        <translation>Punkte verge&amp;ssen</translation>
     </message>
     <message>
         <source>The film could not be composed: %1</source>
@@ -8474,7 +8474,7 @@ Einfg fügt eine hinzu, oder eine Liste importieren.</translation>
     </message>
     <message>
         <source>&amp;Text</source>
-        <translation>&amp;Text</translation>
+        <translation>Te&amp;xt</translation>
     </message>
     <message>
         <source>&amp;Photo below…</source>
@@ -8975,7 +8975,7 @@ Rollen %8° (+ innen), Stampfen %9° (+ Bug hoch)</translation>
     <name>kavela::desktop::CsvUnitsForm</name>
     <message>
         <source>&amp;Between columns</source>
-        <translation>&amp;Zwischen Spalten</translation>
+        <translation>Zwischen S&amp;palten</translation>
     </message>
     <message>
         <source>Comma</source>
@@ -10108,7 +10108,7 @@ Rollen %8° (+ innen), Stampfen %9° (+ Bug hoch)</translation>
     </message>
     <message>
         <source>Fet&amp;ch</source>
-        <translation>&amp;Holen</translation>
+        <translation>H&amp;olen</translation>
     </message>
     <message>
         <source>&amp;Show what would be fetched</source>
@@ -10563,7 +10563,7 @@ Rollen %8° (+ innen), Stampfen %9° (+ Bug hoch)</translation>
     </message>
     <message>
         <source>A &amp;click plays</source>
-        <translation>Ein &amp;Klick spielt ab</translation>
+        <translation>&amp;Ein Klick spielt ab</translation>
     </message>
     <message>
         <source>The next one &amp;follows</source>
@@ -10571,7 +10571,7 @@ Rollen %8° (+ innen), Stampfen %9° (+ Bug hoch)</translation>
     </message>
     <message>
         <source>Begin at the first &amp;mark</source>
-        <translation>Bei der ersten &amp;Marke beginnen</translation>
+        <translation>&amp;Bei der ersten Marke beginnen</translation>
     </message>
     <message>
         <source>&amp;Tags</source>
@@ -10701,7 +10701,7 @@ Rollen %8° (+ innen), Stampfen %9° (+ Bug hoch)</translation>
     </message>
     <message>
         <source>S&amp;top reading</source>
-        <translation>Lesen &amp;anhalten</translation>
+        <translation>Lesen an&amp;halten</translation>
     </message>
     <message>
         <source>Files that could not be rea&amp;d…</source>
@@ -11259,7 +11259,7 @@ T Berührung, F Torfehler, 0 fehlerfrei; N und P nächstes und voriges Tor</tran
     </message>
     <message>
         <source>Delete</source>
-        <translation>Löschen</translation>
+        <translation>Entf</translation>
     </message>
     <message>
         <source>No goals are set for this season yet.
@@ -11941,7 +11941,7 @@ Strafen sind nicht enthalten.</translation>
     </message>
     <message>
         <source>Blade &amp;height</source>
-        <translation>Blatt&amp;höhe</translation>
+        <translation>Bla&amp;tthöhe</translation>
     </message>
     <message>
         <source>Hand po&amp;sition</source>
@@ -12026,7 +12026,7 @@ Strafen sind nicht enthalten.</translation>
     </message>
     <message>
         <source>Left</source>
-        <translation>Links</translation>
+        <translation>Pfeil links</translation>
     </message>
     <message>
         <source>Space</source>
@@ -12038,7 +12038,7 @@ Strafen sind nicht enthalten.</translation>
     </message>
     <message>
         <source>Right</source>
-        <translation>Rechts</translation>
+        <translation>Pfeil rechts</translation>
     </message>
     <message>
         <source>Full screen</source>
@@ -12618,7 +12618,7 @@ Strafen sind nicht enthalten.</translation>
     </message>
     <message>
         <source>S&amp;top reading</source>
-        <translation>Lesen &amp;anhalten</translation>
+        <translation>Lesen an&amp;halten</translation>
     </message>
     <message>
         <source>&amp;Page of an athlete: PDF, preview, print…</source>
@@ -12702,7 +12702,7 @@ Strafen sind nicht enthalten.</translation>
     </message>
     <message>
         <source>Table of s&amp;ections</source>
-        <translation>Tabelle der A&amp;bschnitte</translation>
+        <translation>Tabelle der Abschn&amp;itte</translation>
     </message>
     <message>
         <source>Table of &amp;runs</source>
@@ -13001,7 +13001,7 @@ Strafen sind nicht enthalten.</translation>
     </message>
     <message>
         <source>&amp;Recording</source>
-        <translation>Auf&amp;zeichnung</translation>
+        <translation>Au&amp;fzeichnung</translation>
     </message>
     <message>
         <source>&amp;Convert</source>
@@ -13061,7 +13061,7 @@ Strafen sind nicht enthalten.</translation>
     </message>
     <message>
         <source>&amp;Forget the clicked moment</source>
-        <translation>Angeklickten Moment &amp;vergessen</translation>
+        <translation>Angeklickten &amp;Moment vergessen</translation>
     </message>
     <message>
         <source>&amp;Earlier</source>
@@ -13081,7 +13081,7 @@ Strafen sind nicht enthalten.</translation>
     </message>
     <message>
         <source>&amp;Charts</source>
-        <translation>&amp;Diagramme</translation>
+        <translation>Dia&amp;gramme</translation>
     </message>
     <message>
         <source>Axes of the &amp;phone</source>
@@ -13337,7 +13337,7 @@ Strafen sind nicht enthalten.</translation>
     <name>kavela::desktop::NotePage</name>
     <message>
         <source>Splits</source>
-        <translation>Zwischenzeiten</translation>
+        <translation>Zeiten</translation>
     </message>
     <message>
         <source>Penalties</source>
@@ -13715,7 +13715,7 @@ Strafen sind nicht enthalten.</translation>
     </message>
     <message>
         <source>S&amp;top reading</source>
-        <translation>Lesen &amp;anhalten</translation>
+        <translation>Lesen an&amp;halten</translation>
     </message>
     <message>
         <source>Files that could not be rea&amp;d…</source>
@@ -14142,7 +14142,7 @@ Strafen sind nicht enthalten.</translation>
     </message>
     <message>
         <source>&amp;Tell</source>
-        <translation>&amp;Sagen</translation>
+        <translation>Sa&amp;gen</translation>
     </message>
 </context>
 <context>
@@ -14366,7 +14366,7 @@ Einheiten, Summen, Belastung, Zyklen, Ort, Tests und Ziele der Wochen dahinter w
     <name>kavela::desktop::PlanningWindow</name>
     <message>
         <source>&amp;Athlete</source>
-        <translation>&amp;Athlet</translation>
+        <translation>Ath&amp;let</translation>
     </message>
     <message>
         <source>&amp;New athlete…</source>
@@ -14386,7 +14386,7 @@ Einheiten, Summen, Belastung, Zyklen, Ort, Tests und Ziele der Wochen dahinter w
     </message>
     <message>
         <source>Remove the s&amp;eason</source>
-        <translation>Saison ent&amp;fernen</translation>
+        <translation>Saison en&amp;tfernen</translation>
     </message>
     <message>
         <source>&amp;Session</source>
@@ -14466,7 +14466,7 @@ Einheiten, Summen, Belastung, Zyklen, Ort, Tests und Ziele der Wochen dahinter w
     </message>
     <message>
         <source>Re&amp;move the last week</source>
-        <translation>&amp;Letzte Woche entfernen</translation>
+        <translation>L&amp;etzte Woche entfernen</translation>
     </message>
     <message>
         <source>&amp;View</source>
@@ -14565,7 +14565,7 @@ Einheiten, Summen, Belastung, Zyklen, Ort, Tests und Ziele der Wochen dahinter w
     </message>
     <message>
         <source>&amp;Play or pause</source>
-        <translation>&amp;Abspielen oder anhalten</translation>
+        <translation>Abs&amp;pielen oder anhalten</translation>
     </message>
     <message>
         <source>Backwards, again: faster</source>
@@ -14949,7 +14949,7 @@ Einheiten, Summen, Belastung, Zyklen, Ort, Tests und Ziele der Wochen dahinter w
     </message>
     <message>
         <source>From the largest do&amp;wn</source>
-        <translation>Vom Größten &amp;abwärts</translation>
+        <translation>Vom Größten ab&amp;wärts</translation>
     </message>
     <message>
         <source>Only the f&amp;irst</source>
@@ -14996,11 +14996,11 @@ Einheiten, Summen, Belastung, Zyklen, Ort, Tests und Ziele der Wochen dahinter w
     </message>
     <message>
         <source>Per&amp;cent behind the best</source>
-        <translation>Pro&amp;zent hinter dem Besten</translation>
+        <translation>Pr&amp;ozent hinter dem Besten</translation>
     </message>
     <message>
         <source>Percenti&amp;le</source>
-        <translation>Per&amp;zentil</translation>
+        <translation>Perzent&amp;il</translation>
     </message>
     <message>
         <source>&amp;Reference: the best</source>
@@ -15028,7 +15028,7 @@ Einheiten, Summen, Belastung, Zyklen, Ort, Tests und Ziele der Wochen dahinter w
     </message>
     <message>
         <source>Penalties &amp;visible</source>
-        <translation>Strafen &amp;sichtbar</translation>
+        <translation>Strafen sich&amp;tbar</translation>
     </message>
     <message>
         <source>C&amp;olumns</source>
@@ -15088,11 +15088,11 @@ Einheiten, Summen, Belastung, Zyklen, Ort, Tests und Ziele der Wochen dahinter w
     </message>
     <message>
         <source>T&amp;imes of the sections</source>
-        <translation>&amp;Zeiten der Abschnitte</translation>
+        <translation>Zeiten der A&amp;bschnitte</translation>
     </message>
     <message>
         <source>P&amp;enalties at the gates</source>
-        <translation>&amp;Strafen an den Toren</translation>
+        <translation>Stra&amp;fen an den Toren</translation>
     </message>
     <message>
         <source>&amp;Totals</source>
@@ -15108,7 +15108,7 @@ Einheiten, Summen, Belastung, Zyklen, Ort, Tests und Ziele der Wochen dahinter w
     </message>
     <message>
         <source>Show the &amp;whole chart</source>
-        <translation>Ganzes &amp;Diagramm zeigen</translation>
+        <translation>Ganzes Diagra&amp;mm zeigen</translation>
     </message>
     <message>
         <source>&amp;Save the chart…</source>
@@ -15120,7 +15120,7 @@ Einheiten, Summen, Belastung, Zyklen, Ort, Tests und Ziele der Wochen dahinter w
     </message>
     <message>
         <source>Races &amp;side by side</source>
-        <translation>Rennen &amp;nebeneinander</translation>
+        <translation>Rennen neben&amp;einander</translation>
     </message>
     <message>
         <source>&amp;Larger: the table or the chart alone</source>
@@ -16762,7 +16762,7 @@ Eine Datei wählen.</translation>
     </message>
     <message>
         <source>S&amp;top reading</source>
-        <translation>Lesen &amp;anhalten</translation>
+        <translation>Lesen an&amp;halten</translation>
     </message>
     <message>
         <source>Files that could not be rea&amp;d…</source>
@@ -16774,7 +16774,7 @@ Eine Datei wählen.</translation>
     </message>
     <message>
         <source>Report of the &amp;athlete as PDF…</source>
-        <translation>Bericht des &amp;Athleten als PDF…</translation>
+        <translation>Be&amp;richt des Athleten als PDF…</translation>
     </message>
     <message>
         <source>Report of the tea&amp;m as PDF…</source>
@@ -16782,7 +16782,7 @@ Eine Datei wählen.</translation>
     </message>
     <message>
         <source>Save the tab&amp;le as CSV…</source>
-        <translation>Tabe&amp;lle als CSV speichern…</translation>
+        <translation>Tabelle als CS&amp;V speichern…</translation>
     </message>
     <message>
         <source>Save the &amp;chart…</source>
@@ -18625,11 +18625,11 @@ und %1 weitere</translation>
     </message>
     <message>
         <source>&amp;Mark the run at the hair line</source>
-        <translation>&amp;Lauf an der Haarlinie markieren</translation>
+        <translation>Lauf an der Haarlinie &amp;markieren</translation>
     </message>
     <message>
         <source>Take the mark &amp;away</source>
-        <translation>Marke weg&amp;nehmen</translation>
+        <translation>Marke &amp;wegnehmen</translation>
     </message>
     <message>
         <source>&amp;Previous run</source>
@@ -18645,7 +18645,7 @@ und %1 weitere</translation>
     </message>
     <message>
         <source>&amp;Forget what was refused on this line</source>
-        <translation>Auf dieser Linie Abgelehntes &amp;vergessen</translation>
+        <translation>Auf dieser Linie Abgelehntes v&amp;ergessen</translation>
     </message>
     <message>
         <source>Accept a&amp;ll proposals</source>
@@ -18661,7 +18661,7 @@ und %1 weitere</translation>
     </message>
     <message>
         <source>&amp;Play or pause</source>
-        <translation>&amp;Abspielen oder anhalten</translation>
+        <translation>Abs&amp;pielen oder anhalten</translation>
     </message>
     <message>
         <source>&amp;Slower</source>
@@ -19476,7 +19476,7 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>&amp;Add</source>
-        <translation>&amp;Hinzufügen</translation>
+        <translation>Hin&amp;zufügen</translation>
     </message>
     <message>
         <source>&amp;Total</source>
@@ -19496,7 +19496,7 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>Percenti&amp;le</source>
-        <translation>Per&amp;zentil</translation>
+        <translation>Perzent&amp;il</translation>
     </message>
     <message>
         <source>&amp;Another column…</source>
@@ -20106,7 +20106,7 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>Import &amp;video…</source>
-        <translation>&amp;Video importieren…</translation>
+        <translation>V&amp;ideo importieren…</translation>
     </message>
     <message>
         <source>Import split &amp;file…</source>
@@ -20182,7 +20182,7 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>Delete &amp;all data…</source>
-        <translation>&amp;Alle Daten löschen…</translation>
+        <translation>Alle Daten &amp;löschen…</translation>
     </message>
     <message>
         <source>&amp;Mark</source>
@@ -21089,11 +21089,11 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>&amp;Play or pause</source>
-        <translation>&amp;Abspielen oder anhalten</translation>
+        <translation>Abs&amp;pielen oder anhalten</translation>
     </message>
     <message>
         <source>One frame ba&amp;ck</source>
-        <translation>Ein Bild &amp;zurück</translation>
+        <translation>Ein Bild zu&amp;rück</translation>
     </message>
     <message>
         <source>One frame &amp;on</source>
@@ -21125,11 +21125,11 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>&amp;Forget the known points</source>
-        <translation>Bekannte Punkte &amp;vergessen</translation>
+        <translation>Bekannte Punkte verge&amp;ssen</translation>
     </message>
     <message>
         <source>It lies on the &amp;water</source>
-        <translation>Es liegt &amp;auf dem Wasser</translation>
+        <translation>Es &amp;liegt auf dem Wasser</translation>
     </message>
     <message>
         <source>whether it lies on the water</source>
