@@ -2195,7 +2195,7 @@
     </message>
     <message>
         <source>rank {}</source>
-        <translation>Rang {}</translation>
+        <translation>Platz {}</translation>
     </message>
     <message>
         <source>… {} more; all of them with --json or in a pipe</source>
@@ -2784,7 +2784,7 @@
     </message>
     <message>
         <source>A missed gate also saved paddling, which the rank without it does not take back.</source>
-        <translation>Ein Torfehler sparte auch Fahrzeit; der Rang ohne ihn nimmt das nicht zurück.</translation>
+        <translation>Ein Torfehler sparte auch Fahrzeit; der Platz ohne ihn nimmt das nicht zurück.</translation>
     </message>
     <message>
         <source>The total holds {} s of penalty, the gates {:.0f} s.</source>
@@ -2808,11 +2808,11 @@
     </message>
     <message>
         <source>rank</source>
-        <translation>Rang</translation>
+        <translation>Platz</translation>
     </message>
     <message>
         <source>rank without</source>
-        <translation>Rang ohne</translation>
+        <translation>Platz ohne</translation>
     </message>
     <message>
         <source>clean run</source>
@@ -3223,11 +3223,11 @@
     </message>
     <message>
         <source>What percentage behind the winner a rank took, over the races.</source>
-        <translation>Mit wie viel Prozent hinter dem Sieger ein Rang erreicht wurde, über die Rennen.</translation>
+        <translation>Mit wie viel Prozent hinter dem Sieger ein Platz erreicht wurde, über die Rennen.</translation>
     </message>
     <message>
         <source>median of 100 · (T of the rank / W − 1)</source>
-        <translation>Median von 100 · (T des Rangs / W − 1)</translation>
+        <translation>Median von 100 · (T des Platzes / W − 1)</translation>
     </message>
     <message>
         <source>The chance of a missed gate, drawn towards everybody&apos;s as if by 20 runs more.</source>
@@ -3854,7 +3854,7 @@
     </message>
     <message>
         <source>Rank</source>
-        <translation>Rang</translation>
+        <translation>Platz</translation>
     </message>
     <message>
         <source>Penalty</source>
@@ -3870,7 +3870,7 @@
     </message>
     <message>
         <source>gap and rank among all runs of the category; the run&apos;s with penalties</source>
-        <translation>Rückstand und Rang unter allen Läufen der Kategorie; der des Laufs mit Strafen</translation>
+        <translation>Rückstand und Platz unter allen Läufen der Kategorie; der des Laufs mit Strafen</translation>
     </message>
     <message>
         <source>Splits</source>
@@ -3890,7 +3890,7 @@
     </message>
     <message>
         <source>rank %1: %2 %</source>
-        <translation>Rang %1: %2 %</translation>
+        <translation>Platz %1: %2 %</translation>
     </message>
     <message>
         <source>own median</source>
@@ -3982,7 +3982,7 @@
     </message>
     <message>
         <source>What a rank of the final took</source>
-        <translation>Was ein Rang im Finale brauchte</translation>
+        <translation>Was ein Platz im Finale brauchte</translation>
     </message>
     <message>
         <source>%1 athletes · intervals are 90 %</source>
@@ -4014,7 +4014,7 @@
     </message>
     <message>
         <source>What a rank took: </source>
-        <translation>Was ein Rang brauchte: </translation>
+        <translation>Was ein Platz brauchte: </translation>
     </message>
     <message>
         <source>Expected places</source>
@@ -5980,11 +5980,11 @@
     </message>
     <message>
         <source>What ranks took: %1</source>
-        <translation>Was Ränge brauchten: %1</translation>
+        <translation>Was Plätze brauchten: %1</translation>
     </message>
     <message>
         <source>Rank</source>
-        <translation>Rang</translation>
+        <translation>Platz</translation>
     </message>
     <message>
         <source>Behind the winner, %</source>
@@ -6096,19 +6096,19 @@
     </message>
     <message>
         <source>Mo&amp;ve the nearest mark here</source>
-        <translation>Nächste Marke h&amp;ierher</translation>
+        <translation>Nächstliegende Marke h&amp;ierher</translation>
     </message>
     <message>
         <source>Nearest mark &amp;earlier</source>
-        <translation>Nächste Marke &amp;früher</translation>
+        <translation>Nächstliegende Marke &amp;früher</translation>
     </message>
     <message>
         <source>Nearest mark &amp;later</source>
-        <translation>Nächste Marke &amp;später</translation>
+        <translation>Nächstliegende Marke &amp;später</translation>
     </message>
     <message>
         <source>&amp;Remove the nearest mark</source>
-        <translation>Nächste Marke &amp;entfernen</translation>
+        <translation>Nächstliegende Marke &amp;entfernen</translation>
     </message>
     <message>
         <source>Remove &amp;all marks</source>
@@ -6424,7 +6424,7 @@
     </message>
     <message>
         <source>Every split of a race side by side, coloured by rank.</source>
-        <translation>Jeder Abschnitt eines Rennens nebeneinander, nach Rang gefärbt.</translation>
+        <translation>Jeder Abschnitt eines Rennens nebeneinander, nach Platz gefärbt.</translation>
     </message>
     <message>
         <source>Open races</source>
@@ -7685,7 +7685,7 @@ Einfg fügt eine hinzu, oder eine Liste importieren.</translation>
     </message>
     <message>
         <source>Give-ups</source>
-        <translation>Aufgaben</translation>
+        <translation>Aufgegeben</translation>
     </message>
     <message>
         <source>team radio</source>
@@ -7806,7 +7806,7 @@ Einfg fügt eine hinzu, oder eine Liste importieren.</translation>
     </message>
     <message>
         <source>Add &amp;films…</source>
-        <translation>&amp;Filme hinzufügen…</translation>
+        <translation>Fil&amp;me hinzufügen…</translation>
     </message>
     <message>
         <source>In the composed film</source>
@@ -7999,7 +7999,7 @@ Einfg fügt eine hinzu, oder eine Liste importieren.</translation>
     </message>
     <message>
         <source>Compose the &amp;film…</source>
-        <translation>Film zusammense&amp;tzen…</translation>
+        <translation>F&amp;ilm zusammensetzen…</translation>
     </message>
     <message>
         <source>Add s&amp;plit files…</source>
@@ -8007,15 +8007,15 @@ Einfg fügt eine hinzu, oder eine Liste importieren.</translation>
     </message>
     <message>
         <source>Add &amp;films…</source>
-        <translation>&amp;Filme hinzufügen…</translation>
+        <translation>Fil&amp;me hinzufügen…</translation>
     </message>
     <message>
         <source>&amp;Compose the film…</source>
-        <translation>Film zusammense&amp;tzen…</translation>
+        <translation>F&amp;ilm zusammensetzen…</translation>
     </message>
     <message>
         <source>Films being composed: &amp;jobs</source>
-        <translation>Auf&amp;träge: Filme in Arbeit</translation>
+        <translation>Auft&amp;räge: Filme in Arbeit</translation>
     </message>
     <message>
         <source>&amp;Find a run or a film</source>
@@ -8277,7 +8277,7 @@ Einfg fügt eine hinzu, oder eine Liste importieren.</translation>
     </message>
     <message>
         <source>Rank</source>
-        <translation>Rang</translation>
+        <translation>Platz</translation>
     </message>
     <message>
         <source>As it was</source>
@@ -8692,7 +8692,7 @@ Rollen %8° (+ innen), Stampfen %9° (+ Bug hoch)</translation>
     </message>
     <message>
         <source>&amp;Import films of time trials…</source>
-        <translation>&amp;Filme von Zeitfahren importieren…</translation>
+        <translation>Fil&amp;me von Zeitfahren importieren…</translation>
     </message>
     <message>
         <source>Film of the selected trial or &amp;heat…</source>
@@ -8704,7 +8704,7 @@ Rollen %8° (+ innen), Stampfen %9° (+ Bug hoch)</translation>
     </message>
     <message>
         <source>Split &amp;taking of this race</source>
-        <translation>Zwischenzei&amp;tnahme dieses Rennens</translation>
+        <translation>Zwischenzeitnahme &amp;dieses Rennens</translation>
     </message>
     <message>
         <source>Show in the race &amp;analyzer</source>
@@ -9444,7 +9444,7 @@ Rollen %8° (+ innen), Stampfen %9° (+ Bug hoch)</translation>
     </message>
     <message>
         <source>Rank</source>
-        <translation>Rang</translation>
+        <translation>Platz</translation>
     </message>
     <message>
         <source>Gap to the best</source>
@@ -10104,7 +10104,7 @@ Rollen %8° (+ innen), Stampfen %9° (+ Bug hoch)</translation>
     </message>
     <message>
         <source>&amp;Time the films of the folder</source>
-        <translation>Filme des Ordners s&amp;toppen</translation>
+        <translation>Filme des Ordners sto&amp;ppen</translation>
     </message>
     <message>
         <source>Fet&amp;ch</source>
@@ -10503,7 +10503,7 @@ Rollen %8° (+ innen), Stampfen %9° (+ Bug hoch)</translation>
     </message>
     <message>
         <source>&amp;Read again</source>
-        <translation>&amp;Erneut lesen</translation>
+        <translation>Erneut &amp;lesen</translation>
     </message>
     <message>
         <source>&amp;Edit</source>
@@ -10697,7 +10697,7 @@ Rollen %8° (+ innen), Stampfen %9° (+ Bug hoch)</translation>
     </message>
     <message>
         <source>&amp;Read again</source>
-        <translation>&amp;Erneut lesen</translation>
+        <translation>Erneut &amp;lesen</translation>
     </message>
     <message>
         <source>S&amp;top reading</source>
@@ -10705,11 +10705,11 @@ Rollen %8° (+ innen), Stampfen %9° (+ Bug hoch)</translation>
     </message>
     <message>
         <source>Files that could not be rea&amp;d…</source>
-        <translation>Dateien, die nicht &amp;lesbar waren…</translation>
+        <translation>Dateien, die &amp;nicht lesbar waren…</translation>
     </message>
     <message>
         <source>Save the result as &amp;CSV…</source>
-        <translation>Ergebnis als &amp;CSV speichern…</translation>
+        <translation>Ergebnis als CS&amp;V speichern…</translation>
     </message>
     <message>
         <source>&amp;Query</source>
@@ -12622,11 +12622,11 @@ Strafen sind nicht enthalten.</translation>
     </message>
     <message>
         <source>&amp;Page of an athlete: PDF, preview, print…</source>
-        <translation>&amp;Seite eines Athleten: PDF, Vorschau, Druck…</translation>
+        <translation>Se&amp;ite eines Athleten: PDF, Vorschau, Druck…</translation>
     </message>
     <message>
         <source>Save the table as &amp;CSV…</source>
-        <translation>Tabelle als &amp;CSV speichern…</translation>
+        <translation>Tabelle als CS&amp;V speichern…</translation>
     </message>
     <message>
         <source>&amp;Save the chart…</source>
@@ -12642,7 +12642,7 @@ Strafen sind nicht enthalten.</translation>
     </message>
     <message>
         <source>The &amp;next in rank</source>
-        <translation>Der &amp;nächste im Rang</translation>
+        <translation>Der &amp;nächste nach Platz</translation>
     </message>
     <message>
         <source>The &amp;one in front</source>
@@ -13711,7 +13711,7 @@ Strafen sind nicht enthalten.</translation>
     </message>
     <message>
         <source>Read &amp;again</source>
-        <translation>&amp;Erneut lesen</translation>
+        <translation>Erneut &amp;lesen</translation>
     </message>
     <message>
         <source>S&amp;top reading</source>
@@ -13719,11 +13719,11 @@ Strafen sind nicht enthalten.</translation>
     </message>
     <message>
         <source>Files that could not be rea&amp;d…</source>
-        <translation>Dateien, die nicht &amp;lesbar waren…</translation>
+        <translation>Dateien, die &amp;nicht lesbar waren…</translation>
     </message>
     <message>
         <source>Save the &amp;table as CSV…</source>
-        <translation>&amp;Tabelle als CSV speichern…</translation>
+        <translation>Tabelle als CS&amp;V speichern…</translation>
     </message>
     <message>
         <source>Save the &amp;chart…</source>
@@ -14793,7 +14793,7 @@ Einheiten, Summen, Belastung, Zyklen, Ort, Tests und Ziele der Wochen dahinter w
     </message>
     <message>
         <source>Rank</source>
-        <translation>Rang</translation>
+        <translation>Platz</translation>
     </message>
     <message>
         <source>Total</source>
@@ -14964,19 +14964,19 @@ Einheiten, Summen, Belastung, Zyklen, Ort, Tests und Ziele der Wochen dahinter w
     <name>kavela::desktop::RaceActions</name>
     <message>
         <source>Open it &amp;again</source>
-        <translation>&amp;Erneut öffnen</translation>
+        <translation>Er&amp;neut öffnen</translation>
     </message>
     <message>
         <source>Ti&amp;me it on video</source>
-        <translation>Auf &amp;Video stoppen</translation>
+        <translation>Auf V&amp;ideo stoppen</translation>
     </message>
     <message>
         <source>&amp;Report: preview, PDF, print…</source>
-        <translation>&amp;Bericht: Vorschau, PDF, Druck…</translation>
+        <translation>Be&amp;richt: Vorschau, PDF, Druck…</translation>
     </message>
     <message>
         <source>Save the table as &amp;CSV…</source>
-        <translation>Tabelle als &amp;CSV speichern…</translation>
+        <translation>Tabelle als CS&amp;V speichern…</translation>
     </message>
     <message>
         <source>Cop&amp;y the selected runs</source>
@@ -16746,7 +16746,7 @@ Eine Datei wählen.</translation>
     </message>
     <message>
         <source>&amp;Open a team…</source>
-        <translation>&amp;Team öffnen…</translation>
+        <translation>Team &amp;öffnen…</translation>
     </message>
     <message>
         <source>Add &amp;split files…</source>
@@ -16758,7 +16758,7 @@ Eine Datei wählen.</translation>
     </message>
     <message>
         <source>Read &amp;again</source>
-        <translation>&amp;Erneut lesen</translation>
+        <translation>Erneut &amp;lesen</translation>
     </message>
     <message>
         <source>S&amp;top reading</source>
@@ -16766,15 +16766,15 @@ Eine Datei wählen.</translation>
     </message>
     <message>
         <source>Files that could not be rea&amp;d…</source>
-        <translation>Dateien, die nicht &amp;lesbar waren…</translation>
+        <translation>Dateien, die &amp;nicht lesbar waren…</translation>
     </message>
     <message>
         <source>&amp;Reports to look at and print…</source>
-        <translation>&amp;Berichte ansehen und drucken…</translation>
+        <translation>Berichte ansehen und d&amp;rucken…</translation>
     </message>
     <message>
         <source>Report of the &amp;athlete as PDF…</source>
-        <translation>Be&amp;richt des Athleten als PDF…</translation>
+        <translation>Bericht des Athleten als &amp;PDF…</translation>
     </message>
     <message>
         <source>Report of the tea&amp;m as PDF…</source>
@@ -16912,7 +16912,7 @@ Eine Datei wählen.</translation>
     </message>
     <message>
         <source>Rank</source>
-        <translation>Rang</translation>
+        <translation>Platz</translation>
     </message>
     <message>
         <source>Points</source>
@@ -17709,7 +17709,7 @@ Eine Datei wählen.</translation>
     </message>
     <message>
         <source>&amp;What if</source>
-        <translation>&amp;Was wäre, wenn</translation>
+        <translation>Was wäre, we&amp;nn</translation>
     </message>
     <message>
         <source>&amp;Races</source>
@@ -18251,7 +18251,7 @@ Eine Datei wählen.</translation>
     </message>
     <message>
         <source>Training: cells tinted by rank</source>
-        <translation>Training: Zellen nach Rang gefärbt</translation>
+        <translation>Training: Zellen nach Platz gefärbt</translation>
     </message>
     <message>
         <source>Colours of the split table</source>
@@ -18485,7 +18485,7 @@ und %1 weitere</translation>
     <name>kavela::desktop::SlitActions</name>
     <message>
         <source>&amp;Open a film…</source>
-        <translation>&amp;Film öffnen…</translation>
+        <translation>Film &amp;öffnen…</translation>
     </message>
     <message>
         <source>Open the &amp;race of the film in split taking</source>
@@ -18497,7 +18497,7 @@ und %1 weitere</translation>
     </message>
     <message>
         <source>Save what is seen as a &amp;picture…</source>
-        <translation>Gezeigtes als &amp;Bild speichern…</translation>
+        <translation>Gezeigtes als B&amp;ild speichern…</translation>
     </message>
     <message>
         <source>Save the &amp;water round the marks…</source>
@@ -19408,7 +19408,7 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>Save the &amp;table as CSV…</source>
-        <translation>&amp;Tabelle als CSV speichern…</translation>
+        <translation>Tabelle als CS&amp;V speichern…</translation>
     </message>
     <message>
         <source>Save the c&amp;hart…</source>
@@ -19476,7 +19476,7 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>&amp;Add</source>
-        <translation>Hin&amp;zufügen</translation>
+        <translation>Hinzu&amp;fügen</translation>
     </message>
     <message>
         <source>&amp;Total</source>
@@ -19484,7 +19484,7 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>&amp;Rank</source>
-        <translation>&amp;Rang</translation>
+        <translation>Plat&amp;z</translation>
     </message>
     <message>
         <source>&amp;Gap to the best</source>
@@ -19504,7 +19504,7 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>P&amp;ivot…</source>
-        <translation>P&amp;ivot…</translation>
+        <translation>Pi&amp;vot…</translation>
     </message>
     <message>
         <source>A&amp;thletes</source>
@@ -20114,7 +20114,7 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>Import official &amp;results…</source>
-        <translation>Offizielle &amp;Ergebnisse importieren…</translation>
+        <translation>Offizielle Er&amp;gebnisse importieren…</translation>
     </message>
     <message>
         <source>Compare &amp;with official results…</source>
@@ -20126,7 +20126,7 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>Run s&amp;heet: preview, PDF, print…</source>
-        <translation>Lauf&amp;blatt: Vorschau, PDF, Druck…</translation>
+        <translation>Laufblatt: Vorschau, &amp;PDF, Druck…</translation>
     </message>
     <message>
         <source>&amp;Export data…</source>
@@ -20142,7 +20142,7 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>Kayak &amp;cross of this race</source>
-        <translation>Kajak-&amp;Cross dieses Rennens</translation>
+        <translation>Ka&amp;jak-Cross dieses Rennens</translation>
     </message>
     <message>
         <source>Open a folder of videos</source>
@@ -21129,7 +21129,7 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>It lies on the &amp;water</source>
-        <translation>Es &amp;liegt auf dem Wasser</translation>
+        <translation>Es lieg&amp;t auf dem Wasser</translation>
     </message>
     <message>
         <source>whether it lies on the water</source>
