@@ -1173,7 +1173,7 @@
     </message>
     <message>
         <source>Place</source>
-        <translation>Platz</translation>
+        <translation>Ort</translation>
     </message>
     <message>
         <source>On-water test</source>
@@ -2156,7 +2156,7 @@
     </message>
     <message>
         <source>within</source>
-        <translation>Streuung</translation>
+        <translation>Spanne</translation>
     </message>
     <message>
         <source>trend</source>
@@ -5776,7 +5776,7 @@
     </message>
     <message>
         <source>Event</source>
-        <translation>Ereignis</translation>
+        <translation>Wettkampf</translation>
     </message>
     <message>
         <source>Position</source>
@@ -6974,7 +6974,7 @@
     </message>
     <message>
         <source>Place</source>
-        <translation>Platz</translation>
+        <translation>Ort</translation>
     </message>
     <message>
         <source>side of an attack</source>
@@ -7981,7 +7981,7 @@ Einfg fügt eine hinzu, oder eine Liste importieren.</translation>
     </message>
     <message>
         <source>none</source>
-        <translation>keine</translation>
+        <translation>keiner</translation>
     </message>
 </context>
 <context>
@@ -8367,11 +8367,11 @@ Einfg fügt eine hinzu, oder eine Liste importieren.</translation>
     </message>
     <message>
         <source>Event</source>
-        <translation>Ereignis</translation>
+        <translation>Wettkampf</translation>
     </message>
     <message>
         <source>Place</source>
-        <translation>Platz</translation>
+        <translation>Ort</translation>
     </message>
     <message>
         <source>Date</source>
@@ -11415,7 +11415,7 @@ Einfg fügt eine hinzu.</translation>
     </message>
     <message>
         <source>Start</source>
-        <translation>Start</translation>
+        <translation>Anfang</translation>
     </message>
     <message>
         <source>End</source>
@@ -11439,7 +11439,7 @@ Einfg fügt eine hinzu.</translation>
     </message>
     <message>
         <source>Place</source>
-        <translation>Platz</translation>
+        <translation>Ort</translation>
     </message>
     <message>
         <source>Comment</source>
@@ -11569,7 +11569,7 @@ Einfg fügt eine hinzu.</translation>
     <name>kavela::desktop::HeatList</name>
     <message>
         <source>none</source>
-        <translation>keine</translation>
+        <translation>keiner</translation>
     </message>
     <message>
         <source>⚠ missing: %1</source>
@@ -12432,7 +12432,7 @@ Strafen sind nicht enthalten.</translation>
     <name>kavela::desktop::LossPage</name>
     <message>
         <source>Start</source>
-        <translation>Start</translation>
+        <translation>Anfang</translation>
     </message>
     <message>
         <source>End</source>
@@ -14699,7 +14699,7 @@ Einheiten, Summen, Belastung, Zyklen, Ort, Tests und Ziele der Wochen dahinter w
     </message>
     <message>
         <source>Left</source>
-        <translation>Links</translation>
+        <translation>Übrig</translation>
     </message>
 </context>
 <context>
@@ -14781,7 +14781,7 @@ Einheiten, Summen, Belastung, Zyklen, Ort, Tests und Ziele der Wochen dahinter w
     </message>
     <message>
         <source>Place</source>
-        <translation>Platz</translation>
+        <translation>Ort</translation>
     </message>
     <message>
         <source>Phase</source>
@@ -14837,7 +14837,7 @@ Einheiten, Summen, Belastung, Zyklen, Ort, Tests und Ziele der Wochen dahinter w
     </message>
     <message>
         <source>Heats</source>
-        <translation>Heats</translation>
+        <translation>Vorläufe</translation>
     </message>
     <message>
         <source>Final</source>
@@ -15776,7 +15776,7 @@ Einheiten, Summen, Belastung, Zyklen, Ort, Tests und Ziele der Wochen dahinter w
     </message>
     <message>
         <source>recording %1</source>
-        <translation>Aufnahme %1</translation>
+        <translation>Aufzeichnung %1</translation>
     </message>
     <message>
         <source>Reading %1…</source>
@@ -16940,11 +16940,11 @@ Eine Datei wählen.</translation>
     </message>
     <message>
         <source>“%1” is none of the events.</source>
-        <translation>„%1“ ist keines der Ereignisse.</translation>
+        <translation>„%1“ ist keiner der Wettkämpfe.</translation>
     </message>
     <message>
         <source>event</source>
-        <translation>Ereignis</translation>
+        <translation>Wettkampf</translation>
     </message>
     <message>
         <source>location</source>
@@ -17913,7 +17913,7 @@ Eine Datei wählen.</translation>
     </message>
     <message>
         <source>Roll</source>
-        <translation>Rolle</translation>
+        <translation>Rollen</translation>
     </message>
     <message>
         <source>Pitch</source>
@@ -17944,7 +17944,7 @@ Eine Datei wählen.</translation>
     </message>
     <message>
         <source>&amp;Place</source>
-        <translation>&amp;Platz</translation>
+        <translation>&amp;Ort</translation>
     </message>
     <message>
         <source>&amp;Description</source>
@@ -18377,7 +18377,7 @@ Eine Datei wählen.</translation>
     </message>
     <message>
         <source>Start</source>
-        <translation>Start</translation>
+        <translation>Beginnen</translation>
     </message>
     <message>
         <source>Shares the ticked files</source>
@@ -19144,7 +19144,7 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>Taken</source>
-        <translation>Erfasst</translation>
+        <translation>Gefahren</translation>
     </message>
     <message>
         <source>Way</source>
@@ -19260,7 +19260,7 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>Start</source>
-        <translation>Start</translation>
+        <translation>Anfang</translation>
     </message>
     <message>
         <source>The end of a way comes after its beginning at %1.</source>
@@ -19826,11 +19826,11 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>Choose the event</source>
-        <translation>Ereignis wählen</translation>
+        <translation>Wettkampf wählen</translation>
     </message>
     <message>
         <source>&amp;Event</source>
-        <translation>&amp;Ereignis</translation>
+        <translation>&amp;Wettkampf</translation>
     </message>
     <message>
         <source>&amp;Location</source>
@@ -19886,7 +19886,7 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>Choose the event of the race.</source>
-        <translation>Das Ereignis des Rennens wählen.</translation>
+        <translation>Den Wettkampf des Rennens wählen.</translation>
     </message>
     <message>
         <source>Nothing in the file belongs to an athlete of the team. A click on “not in the team” chooses one, or adds the name to the team.</source>
@@ -21704,7 +21704,7 @@ Von Hand mit Strg+N einen hinzufügen oder Zwischenzeitdateien und Aufzeichnunge
     </message>
     <message>
         <source>Place</source>
-        <translation>Platz</translation>
+        <translation>Ort</translation>
     </message>
     <message>
         <source>Event</source>
@@ -21748,7 +21748,7 @@ Von Hand mit Strg+N einen hinzufügen oder Zwischenzeitdateien und Aufzeichnunge
     </message>
     <message>
         <source>Load</source>
-        <translation>Laden</translation>
+        <translation>Belastung</translation>
     </message>
     <message>
         <source>health</source>
@@ -21901,7 +21901,7 @@ Von Hand mit Strg+N einen hinzufügen oder Zwischenzeitdateien und Aufzeichnunge
     </message>
     <message>
         <source>Within %1</source>
-        <translation>In %1</translation>
+        <translation>Im Bereich %1</translation>
     </message>
     <message>
         <source>Source: %1</source>
@@ -21979,7 +21979,7 @@ Von Hand mit Strg+N einen hinzufügen oder Zwischenzeitdateien und Aufzeichnunge
     </message>
     <message>
         <source>Load</source>
-        <translation>Laden</translation>
+        <translation>Belastung</translation>
     </message>
     <message>
         <source>Week</source>
