@@ -5364,7 +5364,7 @@
     </message>
     <message>
         <source>By</source>
-        <translation>Von</translation>
+        <translation>Nach</translation>
     </message>
     <message>
         <source>What</source>
@@ -11511,7 +11511,7 @@ Einfg fügt eine hinzu.</translation>
     </message>
     <message>
         <source>Drop</source>
-        <translation>Abfall</translation>
+        <translation>Stufe</translation>
     </message>
     <message>
         <source>Wave</source>
@@ -13926,7 +13926,7 @@ Strafen sind nicht enthalten.</translation>
     </message>
     <message>
         <source>Eyes</source>
-        <translation>Augen</translation>
+        <translation>Blick</translation>
     </message>
     <message>
         <source>Gate %1: %2 s. The lists change its penalty.</source>
@@ -16979,7 +16979,7 @@ Eine Datei wählen.</translation>
     </message>
     <message>
         <source>By</source>
-        <translation>Von</translation>
+        <translation>Nach</translation>
     </message>
     <message>
         <source>What</source>
