@@ -5,695 +5,696 @@
     <name></name>
     <message>
         <source>Selection results</source>
-        <translation type="unfinished"></translation>
+        <translation>Résultats de la sélection</translation>
     </message>
     <message>
         <source>Selection results xTimes</source>
-        <translation type="unfinished"></translation>
+        <translation>Résultats de la sélection xTimes</translation>
     </message>
     <message>
         <source>Category</source>
-        <translation type="unfinished"></translation>
+        <translation>Catégorie</translation>
     </message>
     <message>
         <source>Phase</source>
-        <translation type="unfinished"></translation>
+        <translation>Phase</translation>
     </message>
     <message>
         <source>Result</source>
-        <translation type="unfinished"></translation>
+        <translation>Résultat</translation>
     </message>
     <message>
         <source>Athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>Athlète</translation>
     </message>
     <message>
         <source>not in the selection</source>
-        <translation type="unfinished"></translation>
+        <translation>pas dans la sélection</translation>
     </message>
     <message>
         <source>Leave out</source>
-        <translation type="unfinished"></translation>
+        <translation>Laisser de côté</translation>
     </message>
     <message>
         <source>Add %1 to the selection</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajouter %1 à la sélection</translation>
     </message>
 </context>
 <context>
     <name>AthletePanel</name>
     <message>
         <source>An athlete needs a name.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un athlète doit avoir un nom.</translation>
     </message>
     <message>
         <source>“%1” is in the team already.</source>
-        <translation type="unfinished"></translation>
+        <translation>« %1 » est déjà dans l’équipe.</translation>
     </message>
 </context>
 <context>
     <name>ChartExport</name>
     <message>
         <source>Picture (*.png)</source>
-        <translation type="unfinished"></translation>
+        <translation>Image (*.png)</translation>
     </message>
     <message>
         <source>Drawing (*.svg)</source>
-        <translation type="unfinished"></translation>
+        <translation>Dessin (*.svg)</translation>
     </message>
     <message>
         <source>Table (*.csv)</source>
-        <translation type="unfinished"></translation>
+        <translation>Tableau (*.csv)</translation>
     </message>
     <message>
         <source>Save chart</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer le graphique</translation>
     </message>
 </context>
 <context>
     <name>CompareWindow</name>
     <message>
         <source>Film %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Film %1</translation>
     </message>
 </context>
 <context>
     <name>Desktop</name>
     <message>
         <source>A race</source>
-        <translation type="unfinished"></translation>
+        <translation>Une course</translation>
     </message>
     <message>
         <source>Films</source>
-        <translation type="unfinished"></translation>
+        <translation>Films</translation>
     </message>
     <message>
         <source>The season</source>
-        <translation type="unfinished"></translation>
+        <translation>La saison</translation>
     </message>
     <message>
         <source>Training</source>
-        <translation type="unfinished"></translation>
+        <translation>Entraînement</translation>
     </message>
 </context>
 <context>
     <name>EightTest</name>
     <message>
         <source>Total – · %1 of %2 splits are timed</source>
-        <translation type="unfinished"></translation>
+        <translation>Total – · %1 intermédiaires sur %2 sont chronométrés</translation>
     </message>
     <message>
         <source>Total %1 s · standard deviation %2 s</source>
-        <translation type="unfinished"></translation>
+        <translation>Total %1 s · écart-type %2 s</translation>
     </message>
 </context>
 <context>
     <name>FindWindow</name>
     <message>
         <source>The table cannot be written over a file that is searched.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le tableau ne peut pas être écrit par-dessus un fichier où l’on cherche.</translation>
     </message>
 </context>
 <context>
     <name>IntervalTexts</name>
     <message>
         <source>A duration is written as seconds or as 1:30, up to a day</source>
-        <translation type="unfinished"></translation>
+        <translation>Une durée s’écrit en secondes ou comme 1:30, jusqu’à un jour</translation>
     </message>
     <message>
         <source>Sets and repetitions are whole numbers from 0 to 9999</source>
-        <translation type="unfinished"></translation>
+        <translation>Séries et répétitions sont des nombres entiers de 0 à 9999</translation>
     </message>
     <message>
         <source>Volume and intensity are numbers such as 4.5</source>
-        <translation type="unfinished"></translation>
+        <translation>Volume et intensité sont des nombres comme 4,5</translation>
     </message>
     <message>
         <source>, rest %1</source>
-        <translation type="unfinished"></translation>
+        <translation>, récupération %1</translation>
     </message>
     <message>
         <source>%1 in all, %2 of it work; repetitions: %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 en tout, dont %2 d’effort ; répétitions : %3</translation>
     </message>
 </context>
 <context>
     <name>KeyOverlay</name>
     <message>
         <source>In the part with the focus</source>
-        <translation type="unfinished"></translation>
+        <translation>Dans la partie active</translation>
     </message>
 </context>
 <context>
     <name>ListedTest</name>
     <message>
         <source>No name</source>
-        <translation type="unfinished"></translation>
+        <translation>Pas de nom</translation>
     </message>
     <message>
         <source>Lap test</source>
-        <translation type="unfinished"></translation>
+        <translation>Test par tours</translation>
     </message>
     <message>
         <source>Sprint</source>
-        <translation type="unfinished"></translation>
+        <translation>Sprint</translation>
     </message>
     <message>
         <source>Eight test</source>
-        <translation type="unfinished"></translation>
+        <translation>Test en huit</translation>
     </message>
     <message>
         <source>Lap</source>
-        <translation type="unfinished"></translation>
+        <translation>Tour</translation>
     </message>
     <message>
         <source>Eight</source>
-        <translation type="unfinished"></translation>
+        <translation>Huit</translation>
     </message>
 </context>
 <context>
     <name>MeasureCharts</name>
     <message>
         <source>below what is usual</source>
-        <translation type="unfinished"></translation>
+        <translation>au-dessous de l’habituel</translation>
     </message>
     <message>
         <source>within what is usual</source>
-        <translation type="unfinished"></translation>
+        <translation>dans l’habituel</translation>
     </message>
     <message>
         <source>above what is usual</source>
-        <translation type="unfinished"></translation>
+        <translation>au-dessus de l’habituel</translation>
     </message>
     <message>
         <source>Weight and body fat</source>
-        <translation type="unfinished"></translation>
+        <translation>Poids et masse grasse</translation>
     </message>
     <message>
         <source>Body fat (%)</source>
-        <translation type="unfinished"></translation>
+        <translation>Masse grasse (%)</translation>
     </message>
     <message>
         <source>Weight</source>
-        <translation type="unfinished"></translation>
+        <translation>Poids</translation>
     </message>
     <message>
         <source>Body fat</source>
-        <translation type="unfinished"></translation>
+        <translation>Masse grasse</translation>
     </message>
     <message>
         <source>Weight (kg)</source>
-        <translation type="unfinished"></translation>
+        <translation>Poids (kg)</translation>
     </message>
     <message>
         <source>Add a weight or body fat to see how it goes through the season.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajoutez un poids ou une masse grasse pour en voir l’évolution au fil de la saison.</translation>
     </message>
     <message>
         <source>Usual: mean ± one standard deviation of the four weeks before</source>
-        <translation type="unfinished"></translation>
+        <translation>Habituel : moyenne ± un écart-type des quatre semaines précédentes</translation>
     </message>
     <message>
         <source>Each day</source>
-        <translation type="unfinished"></translation>
+        <translation>Chaque jour</translation>
     </message>
     <message>
         <source>Seven-day mean</source>
-        <translation type="unfinished"></translation>
+        <translation>Moyenne sur sept jours</translation>
     </message>
     <message>
         <source>Usual</source>
-        <translation type="unfinished"></translation>
+        <translation>Habituel</translation>
     </message>
     <message>
         <source>Week to %1: mean %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Semaine jusqu’au %1 : moyenne %2</translation>
     </message>
     <message>
         <source>%1. What is usual is known after seven measured days of the 28 before.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1. L’habituel est connu après sept jours mesurés sur les 28 précédents.</translation>
     </message>
     <message>
         <source>%1, %2 (%3 to %4).</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, %2 (%3 à %4).</translation>
     </message>
 </context>
 <context>
     <name>MeasureColumns</name>
     <message>
         <source>Date</source>
-        <translation type="unfinished"></translation>
+        <translation>Date</translation>
     </message>
 </context>
 <context>
     <name>OlderRecordings</name>
     <message>
         <source>“%1” is a recording of version 4. It can be converted to the current version: “%2” is written beside it, the recording itself stays as it is.</source>
-        <translation type="unfinished"></translation>
+        <translation>« %1 » est un enregistrement de version 4. Il peut être converti à la version actuelle : « %2 » est écrit à côté, l’enregistrement lui-même reste tel quel.</translation>
     </message>
     <message>
         <source>Convert and open</source>
-        <translation type="unfinished"></translation>
+        <translation>Convertir et ouvrir</translation>
     </message>
 </context>
 <context>
     <name>OnlineStore</name>
     <message>
         <source>The server does not accept the user name or the password.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le serveur n’accepte pas le nom d’utilisateur ou le mot de passe.</translation>
     </message>
 </context>
 <context>
     <name>PlanningHandouts</name>
     <message>
         <source>Choose an athlete with a season first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisissez d’abord un athlète avec une saison.</translation>
     </message>
     <message>
         <source>Week %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Semaine %1</translation>
     </message>
     <message>
         <source>Week %1 %2.pdf</source>
-        <translation type="unfinished"></translation>
+        <translation>Semaine %1 %2.pdf</translation>
     </message>
     <message>
         <source>Season %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Saison %1</translation>
     </message>
     <message>
         <source>Season %1 %2.pdf</source>
-        <translation type="unfinished"></translation>
+        <translation>Saison %1 %2.pdf</translation>
     </message>
     <message>
         <source>There is no week to write.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il n’y a aucune semaine à écrire.</translation>
     </message>
     <message>
         <source>Week %1 %2.ics</source>
-        <translation type="unfinished"></translation>
+        <translation>Semaine %1 %2.ics</translation>
     </message>
     <message>
         <source>Week as a calendar file</source>
-        <translation type="unfinished"></translation>
+        <translation>Semaine en fichier de calendrier</translation>
     </message>
     <message>
         <source>Calendar files (*.ics)</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichiers de calendrier (*.ics)</translation>
     </message>
     <message>
         <source>%1 is written.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 est écrit.</translation>
     </message>
 </context>
 <context>
     <name>ProgressionChart</name>
     <message>
         <source>Position after each phase; the chosen race is drawn heavier</source>
-        <translation type="unfinished"></translation>
+        <translation>Position après chaque phase ; la course choisie est en trait plus épais</translation>
     </message>
     <message>
         <source>position</source>
-        <translation type="unfinished"></translation>
+        <translation>position</translation>
     </message>
     <message>
         <source>Positions of the phases stand here once they are entered.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les positions des phases apparaissent ici une fois saisies.</translation>
     </message>
 </context>
 <context>
     <name>QObject</name>
     <message>
         <source>start of the roll</source>
-        <translation type="unfinished"></translation>
+        <translation>début de l’esquimautage</translation>
     </message>
     <message>
         <source>boat upside down</source>
-        <translation type="unfinished"></translation>
+        <translation>bateau retourné</translation>
     </message>
     <message>
         <source>boat up again</source>
-        <translation type="unfinished"></translation>
+        <translation>bateau redressé</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Annuler</translation>
     </message>
     <message>
         <source>Recent files, in %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichiers récents, dans %1</translation>
     </message>
     <message>
         <source>&amp;Help</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Aide</translation>
     </message>
     <message>
         <source>&amp;Search everything…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Tout chercher…</translation>
     </message>
     <message>
         <source>&amp;All keys</source>
-        <translation type="unfinished"></translation>
+        <translation>Toutes &amp;les touches</translation>
     </message>
     <message>
         <source>&amp;Why this number?</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Pourquoi ce nombre ?</translation>
     </message>
     <message>
         <source>&amp;Change keys…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Changer les touches…</translation>
     </message>
     <message>
         <source>&amp;Full screen</source>
-        <translation type="unfinished"></translation>
+        <translation>Pl&amp;ein écran</translation>
     </message>
     <message>
         <source>Where are the films now?</source>
-        <translation type="unfinished"></translation>
+        <translation>Où sont les films maintenant ?</translation>
     </message>
     <message>
         <source>Videos (*.mov *.mp4 *.m4v *.avi *.mkv *.mts *.m2ts *.ts *.3gp *.webm *.mpg);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Vidéos (*.mov *.mp4 *.m4v *.avi *.mkv *.mts *.m2ts *.ts *.3gp *.webm *.mpg);;Tous les fichiers (*)</translation>
     </message>
     <message>
         <source>The folder has another film named %1 already. Give one of them another name first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le dossier contient déjà un autre film nommé %1. Donnez d’abord un autre nom à l’un des deux.</translation>
     </message>
     <message>
         <source>Copying %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Copie de %1</translation>
     </message>
     <message>
         <source>%1 could not be copied into the folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 n’a pas pu être copié dans le dossier.</translation>
     </message>
     <message>
         <source>entrance</source>
-        <translation type="unfinished"></translation>
+        <translation>entrée</translation>
     </message>
     <message>
         <source>middle</source>
-        <translation type="unfinished"></translation>
+        <translation>milieu</translation>
     </message>
     <message>
         <source>exit</source>
-        <translation type="unfinished"></translation>
+        <translation>sortie</translation>
     </message>
     <message>
         <source>All splits of this run are marked.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tous les intermédiaires de cette manche sont marqués.</translation>
     </message>
     <message>
         <source>Mark the start first: the splits are expected from there on.</source>
-        <translation type="unfinished"></translation>
+        <translation>Marquez d’abord le départ : les intermédiaires sont attendus à partir de là.</translation>
     </message>
     <message>
         <source>No other run has split %1 yet: nothing tells where it is to be expected.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucune autre manche n’a encore l’intermédiaire %1 : rien ne dit où l’attendre.</translation>
     </message>
     <message>
         <source>&amp;Look for a newer version</source>
-        <translation type="unfinished"></translation>
+        <translation>Chercher &amp;une version plus récente</translation>
     </message>
 </context>
 <context>
     <name>QueryForm</name>
     <message>
         <source>&amp;Athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Athlète</translation>
     </message>
     <message>
         <source>anyone</source>
-        <translation type="unfinished"></translation>
+        <translation>n’importe qui</translation>
     </message>
     <message>
         <source>&amp;Category</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Catégorie</translation>
     </message>
     <message>
         <source>&amp;Phase</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Phase</translation>
     </message>
     <message>
         <source>any</source>
-        <translation type="unfinished"></translation>
+        <translation>toutes</translation>
     </message>
     <message>
         <source>P&amp;lace</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Lieu</translation>
     </message>
     <message>
         <source>anywhere</source>
-        <translation type="unfinished"></translation>
+        <translation>partout</translation>
     </message>
     <message>
         <source>&amp;Year</source>
-        <translation type="unfinished"></translation>
+        <translation>A&amp;nnée</translation>
     </message>
     <message>
         <source>&amp;Gate</source>
-        <translation type="unfinished"></translation>
+        <translation>P&amp;orte</translation>
     </message>
     <message>
         <source>&amp;Up or down</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Descendue ou remontée</translation>
     </message>
     <message>
         <source>both</source>
-        <translation type="unfinished"></translation>
+        <translation>les deux</translation>
     </message>
     <message>
         <source>&amp;Direction</source>
-        <translation type="unfinished"></translation>
+        <translation>Di&amp;rection</translation>
     </message>
     <message>
         <source>&amp;Style</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Style</translation>
     </message>
     <message>
         <source>&amp;Kind</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Type</translation>
     </message>
 </context>
 <context>
     <name>RaceExchange</name>
     <message>
         <source>course</source>
-        <translation type="unfinished"></translation>
+        <translation>parcours</translation>
     </message>
     <message>
         <source>Names of the films</source>
-        <translation type="unfinished"></translation>
+        <translation>Noms des films</translation>
     </message>
     <message>
         <source>How the films are named, such as &quot;{any} {name} {category} {phase}&quot;.
 {name}, {category}, {phase}, {bib}, {number} and {any} stand for what differs.</source>
-        <translation type="unfinished"></translation>
+        <translation>Comment les films sont nommés, par exemple « {any} {name} {category} {phase} ».
+{name}, {category}, {phase}, {bib}, {number} et {any} remplacent ce qui diffère.</translation>
     </message>
     <message>
         <source>Import split file</source>
-        <translation type="unfinished"></translation>
+        <translation>Importer un fichier d’intermédiaires</translation>
     </message>
     <message>
         <source>Split files (*.kvx);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichiers d’intermédiaires (*.kvx);;Tous les fichiers (*)</translation>
     </message>
     <message>
         <source>Import official results</source>
-        <translation type="unfinished"></translation>
+        <translation>Importer les résultats officiels</translation>
     </message>
     <message>
         <source>Lists (*.csv *.txt);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Listes (*.csv *.txt);;Tous les fichiers (*)</translation>
     </message>
     <message>
         <source>There are no results in %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il n’y a aucun résultat dans %1.</translation>
     </message>
     <message>
         <source>Create</source>
-        <translation type="unfinished"></translation>
+        <translation>Créer</translation>
     </message>
     <message>
         <source>Overwrite</source>
-        <translation type="unfinished"></translation>
+        <translation>Écraser</translation>
     </message>
     <message>
         <source>drawing of the course</source>
-        <translation type="unfinished"></translation>
+        <translation>dessin du parcours</translation>
     </message>
 </context>
 <context>
     <name>RankingCharts</name>
     <message>
         <source>Release</source>
-        <translation type="unfinished"></translation>
+        <translation>Édition</translation>
     </message>
     <message>
         <source>Position</source>
-        <translation type="unfinished"></translation>
+        <translation>Position</translation>
     </message>
     <message>
         <source>The chart begins with the first position.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le graphique commence avec la première position.</translation>
     </message>
     <message>
         <source>Points</source>
-        <translation type="unfinished"></translation>
+        <translation>Points</translation>
     </message>
     <message>
         <source>The chart begins with the first points.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le graphique commence avec les premiers points.</translation>
     </message>
     <message>
         <source>Touches and missed gates per run</source>
-        <translation type="unfinished"></translation>
+        <translation>Touches et portes manquées par manche</translation>
     </message>
     <message>
         <source>per run</source>
-        <translation type="unfinished"></translation>
+        <translation>par manche</translation>
     </message>
     <message>
         <source>Touches</source>
-        <translation type="unfinished"></translation>
+        <translation>Touches</translation>
     </message>
     <message>
         <source>Missed gates</source>
-        <translation type="unfinished"></translation>
+        <translation>Portes manquées</translation>
     </message>
     <message>
         <source>Take the season&apos;s statistics from split files to see penalties here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Prenez les statistiques de la saison dans les fichiers d’intermédiaires pour voir ici les pénalités.</translation>
     </message>
     <message>
         <source>Behind the best of the category</source>
-        <translation type="unfinished"></translation>
+        <translation>Derrière le meilleur de la catégorie</translation>
     </message>
     <message>
         <source>%</source>
-        <translation type="unfinished"></translation>
+        <translation>%</translation>
     </message>
     <message>
         <source>Run</source>
-        <translation type="unfinished"></translation>
+        <translation>Manche</translation>
     </message>
     <message>
         <source>Races with a time and a best time stand here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les courses avec un temps et un meilleur temps apparaissent ici.</translation>
     </message>
 </context>
 <context>
     <name>RankingSection</name>
     <message>
         <source>The release of a ranking list is a whole number such as 4</source>
-        <translation type="unfinished"></translation>
+        <translation>L’édition d’un classement est un nombre entier comme 4</translation>
     </message>
 </context>
 <context>
     <name>RunForm</name>
     <message>
         <source>A penalty is a whole number of seconds, 0 to 999</source>
-        <translation type="unfinished"></translation>
+        <translation>Une pénalité est un nombre entier de secondes, de 0 à 999</translation>
     </message>
 </context>
 <context>
     <name>SeasonChart</name>
     <message>
         <source>%1: penalty (s)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 : pénalité (s)</translation>
     </message>
     <message>
         <source>% behind</source>
-        <translation type="unfinished"></translation>
+        <translation>% de retard</translation>
     </message>
     <message>
         <source>penalty (s)</source>
-        <translation type="unfinished"></translation>
+        <translation>pénalité (s)</translation>
     </message>
     <message>
         <source>Percent behind the fastest as lines, penalty seconds as bars</source>
-        <translation type="unfinished"></translation>
+        <translation>Pourcentage derrière le plus rapide en lignes, secondes de pénalité en barres</translation>
     </message>
     <message>
         <source>Penalties only; percent behind comes with split files</source>
-        <translation type="unfinished"></translation>
+        <translation>Seulement les pénalités ; le pourcentage de retard vient avec les fichiers d’intermédiaires</translation>
     </message>
     <message>
         <source>Percent behind the fastest stands here once runs are taken over from split files.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le pourcentage derrière le plus rapide apparaît ici une fois des manches reprises de fichiers d’intermédiaires.</translation>
     </message>
 </context>
 <context>
     <name>SelectionTakeOver</name>
     <message>
         <source>Lists (*.csv *.txt);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Listes (*.csv *.txt);;Tous les fichiers (*)</translation>
     </message>
     <message>
         <source>Import athletes</source>
-        <translation type="unfinished"></translation>
+        <translation>Importer des athlètes</translation>
     </message>
     <message>
         <source>athletes imported</source>
-        <translation type="unfinished"></translation>
+        <translation>athlètes importés</translation>
     </message>
     <message>
         <source>Import</source>
-        <translation type="unfinished"></translation>
+        <translation>Importer</translation>
     </message>
     <message>
         <source>“%1” cannot be read</source>
-        <translation type="unfinished"></translation>
+        <translation>« %1 » ne peut pas être lu</translation>
     </message>
     <message>
         <source>One athlete was added.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un athlète a été ajouté.</translation>
     </message>
     <message>
         <source>The list is no UTF-8 text and was read as Latin-1: look at the names.</source>
-        <translation type="unfinished"></translation>
+        <translation>La liste n’est pas un texte UTF-8 et a été lue en Latin-1 : vérifiez les noms.</translation>
     </message>
     <message>
         <source>Line %1: the category %2 is new in the selection.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ligne %1 : la catégorie %2 est nouvelle dans la sélection.</translation>
     </message>
     <message>
         <source>Line %1: the category %2 is new in the selection, and none that boats are raced in.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ligne %1 : la catégorie %2 est nouvelle dans la sélection, et ce n’est pas une catégorie de bateaux de course.</translation>
     </message>
     <message>
         <source>Line %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Ligne %1 : %2</translation>
     </message>
     <message>
         <source>Results of which race?</source>
-        <translation type="unfinished"></translation>
+        <translation>Résultats de quelle course ?</translation>
     </message>
     <message>
         <source>Add a category first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajoutez d’abord une catégorie.</translation>
     </message>
     <message>
         <source>Split files of the race</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichiers d’intermédiaires de la course</translation>
     </message>
     <message>
         <source>Split files (*.kvx);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichiers d’intermédiaires (*.kvx);;Tous les fichiers (*)</translation>
     </message>
     <message>
         <source>There are no results in it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il ne contient aucun résultat.</translation>
     </message>
     <message>
         <source>results taken over</source>
-        <translation type="unfinished"></translation>
+        <translation>résultats repris</translation>
     </message>
     <message numerus="yes">
         <source>%n athletes were added.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n athlète a été ajouté.</numerusform>
+            <numerusform>%n athlètes ont été ajoutés.</numerusform>
         </translation>
     </message>
 </context>
@@ -701,4358 +702,4361 @@
     <name>SessionConversion</name>
     <message>
         <source>Reading…</source>
-        <translation type="unfinished"></translation>
+        <translation>Lecture…</translation>
     </message>
     <message>
         <source>“%1” cannot be opened</source>
-        <translation type="unfinished"></translation>
+        <translation>« %1 » ne peut pas être ouvert</translation>
     </message>
 </context>
 <context>
     <name>SessionEdits</name>
     <message>
         <source>session information</source>
-        <translation type="unfinished"></translation>
+        <translation>informations de la séance</translation>
     </message>
     <message>
         <source>Nothing was cut</source>
-        <translation type="unfinished"></translation>
+        <translation>Rien n’a été coupé</translation>
     </message>
     <message>
         <source>Too little would be left of the session.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il resterait trop peu de la séance.</translation>
     </message>
     <message>
         <source>cut to a stretch</source>
-        <translation type="unfinished"></translation>
+        <translation>coupe sur un tronçon</translation>
     </message>
     <message>
         <source>removal of a stretch</source>
-        <translation type="unfinished"></translation>
+        <translation>suppression d’un tronçon</translation>
     </message>
     <message>
         <source>removal of strokes</source>
-        <translation type="unfinished"></translation>
+        <translation>suppression de coups de pagaie</translation>
     </message>
     <message>
         <source>new analysis</source>
-        <translation type="unfinished"></translation>
+        <translation>nouvelle analyse</translation>
     </message>
     <message>
         <source>mount of the phone</source>
-        <translation type="unfinished"></translation>
+        <translation>fixation du téléphone</translation>
     </message>
 </context>
 <context>
     <name>SessionExports</name>
     <message>
         <source>Save the edited .kvb file</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer le fichier .kvb modifié</translation>
     </message>
     <message>
         <source>Recordings (*.kvb)</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrements (*.kvb)</translation>
     </message>
     <message>
         <source>Export the table</source>
-        <translation type="unfinished"></translation>
+        <translation>Exporter le tableau</translation>
     </message>
     <message>
         <source>Semicolon-separated text (*.csv)</source>
-        <translation type="unfinished"></translation>
+        <translation>Texte séparé par des points-virgules (*.csv)</translation>
     </message>
 </context>
 <context>
     <name>SessionImports</name>
     <message>
         <source>%1 positions and %2 heart rates were taken over.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 positions et %2 fréquences cardiaques ont été reprises.</translation>
     </message>
     <message>
         <source>Import the recording of the boat first: a track gives it positions and heart rates.</source>
-        <translation type="unfinished"></translation>
+        <translation>Importez d’abord l’enregistrement du bateau : une trace lui donne positions et fréquences cardiaques.</translation>
     </message>
     <message>
         <source>track of a watch</source>
-        <translation type="unfinished"></translation>
+        <translation>trace d’une montre</translation>
     </message>
     <message>
         <source>move of a watch&apos;s track</source>
-        <translation type="unfinished"></translation>
+        <translation>déplacement de la trace d’une montre</translation>
     </message>
     <message>
         <source>Import power-meter data</source>
-        <translation type="unfinished"></translation>
+        <translation>Importer les données du capteur de puissance</translation>
     </message>
     <message>
         <source>Lists (*.csv *.txt)</source>
-        <translation type="unfinished"></translation>
+        <translation>Listes (*.csv *.txt)</translation>
     </message>
     <message>
         <source>All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Tous les fichiers (*)</translation>
     </message>
     <message>
         <source>“%1” cannot be read</source>
-        <translation type="unfinished"></translation>
+        <translation>« %1 » ne peut pas être lu</translation>
     </message>
     <message>
         <source>Import a recording or a session first: power-meter data belongs to its strokes.</source>
-        <translation type="unfinished"></translation>
+        <translation>Importez d’abord un enregistrement ou une séance : les données du capteur de puissance vont avec ses coups de pagaie.</translation>
     </message>
     <message>
         <source>import of power-meter data</source>
-        <translation type="unfinished"></translation>
+        <translation>import des données du capteur de puissance</translation>
     </message>
 </context>
 <context>
     <name>SessionSeries</name>
     <message>
         <source>Power</source>
-        <translation type="unfinished"></translation>
+        <translation>Puissance</translation>
     </message>
     <message>
         <source>W</source>
-        <translation type="unfinished"></translation>
+        <translation>W</translation>
     </message>
     <message>
         <source>Power meter</source>
-        <translation type="unfinished"></translation>
+        <translation>Capteur de puissance</translation>
     </message>
     <message>
         <source>Water phase</source>
-        <translation type="unfinished"></translation>
+        <translation>Phase aquatique</translation>
     </message>
     <message>
         <source>s</source>
-        <translation type="unfinished"></translation>
+        <translation>s</translation>
     </message>
     <message>
         <source>Aerial phase</source>
-        <translation type="unfinished"></translation>
+        <translation>Phase aérienne</translation>
     </message>
     <message>
         <source>Speed</source>
-        <translation type="unfinished"></translation>
+        <translation>Vitesse</translation>
     </message>
     <message>
         <source>m/s</source>
-        <translation type="unfinished"></translation>
+        <translation>m/s</translation>
     </message>
     <message>
         <source>Heart rate</source>
-        <translation type="unfinished"></translation>
+        <translation>Fréquence cardiaque</translation>
     </message>
     <message>
         <source>1/min</source>
-        <translation type="unfinished"></translation>
+        <translation>1/min</translation>
     </message>
     <message>
         <source>Pitch in turns</source>
-        <translation type="unfinished"></translation>
+        <translation>Tangage en virage</translation>
     </message>
     <message>
         <source>°</source>
-        <translation type="unfinished"></translation>
+        <translation>°</translation>
     </message>
     <message>
         <source>Stroke rate</source>
-        <translation type="unfinished"></translation>
+        <translation>Cadence</translation>
     </message>
     <message>
         <source>Force</source>
-        <translation type="unfinished"></translation>
+        <translation>Force</translation>
     </message>
     <message>
         <source>N</source>
-        <translation type="unfinished"></translation>
+        <translation>N</translation>
     </message>
     <message>
         <source>Impulse</source>
-        <translation type="unfinished"></translation>
+        <translation>Impulsion</translation>
     </message>
     <message>
         <source>N·s</source>
-        <translation type="unfinished"></translation>
+        <translation>N·s</translation>
     </message>
     <message>
         <source>Roll of the stroke</source>
-        <translation type="unfinished"></translation>
+        <translation>Roulis du coup de pagaie</translation>
     </message>
 </context>
 <context>
     <name>SessionTexts</name>
     <message>
         <source>left</source>
-        <translation type="unfinished"></translation>
+        <translation>gauche</translation>
     </message>
     <message>
         <source>right</source>
-        <translation type="unfinished"></translation>
+        <translation>droite</translation>
     </message>
     <message>
         <source>side unknown</source>
-        <translation type="unfinished"></translation>
+        <translation>côté inconnu</translation>
     </message>
     <message>
         <source>Side unknown: when the session was made, it was not known which side of the phone points to the bow.</source>
-        <translation type="unfinished"></translation>
+        <translation>Côté inconnu : quand la séance a été faite, on ne savait pas quel côté du téléphone pointe vers l’avant.</translation>
     </message>
     <message>
         <source>The file does not tell how the clocks of strokes and fixes go together: they were fitted by the turns and may be some seconds apart.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier ne dit pas comment s’accordent les horloges des coups de pagaie et des positions : elles ont été ajustées d’après les virages et peuvent différer de quelques secondes.</translation>
     </message>
     <message>
         <source>Power-meter data is not in the strokes yet; you are asked on saving.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les données du capteur de puissance ne sont pas encore dans les coups de pagaie ; la question sera posée à l’enregistrement.</translation>
     </message>
 </context>
 <context>
     <name>SlitMarking</name>
     <message>
         <source>The film is not read so far.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le film n’est pas lu jusque-là.</translation>
     </message>
     <message>
         <source>There is no proposal at the hair line.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il n’y a aucune proposition au réticule.</translation>
     </message>
     <message>
         <source>Nothing can be accepted without a line, its proposals and the race.</source>
-        <translation type="unfinished"></translation>
+        <translation>Rien ne peut être accepté sans une ligne, ses propositions et la course.</translation>
     </message>
     <message>
         <source>proposals accepted</source>
-        <translation type="unfinished"></translation>
+        <translation>propositions acceptées</translation>
     </message>
 </context>
 <context>
     <name>SplitStatistics</name>
     <message>
         <source>is no split file that can be read</source>
-        <translation type="unfinished"></translation>
+        <translation>n’est pas un fichier d’intermédiaires lisible</translation>
     </message>
     <message>
         <source>has no date</source>
-        <translation type="unfinished"></translation>
+        <translation>n’a pas de date</translation>
     </message>
     <message>
         <source>is of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>est de %1</translation>
     </message>
     <message>
         <source>has no run of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>n’a aucune manche de %1</translation>
     </message>
 </context>
 <context>
     <name>TestCharts</name>
     <message>
         <source>Not recorded, and not entered</source>
-        <translation type="unfinished"></translation>
+        <translation>Ni enregistré ni saisi</translation>
     </message>
     <message>
         <source>Lap</source>
-        <translation type="unfinished"></translation>
+        <translation>Tour</translation>
     </message>
     <message>
         <source>Stretch of the sprint</source>
-        <translation type="unfinished"></translation>
+        <translation>Tronçon du sprint</translation>
     </message>
     <message>
         <source>Turn</source>
-        <translation type="unfinished"></translation>
+        <translation>Virage</translation>
     </message>
     <message>
         <source>Time from the start (s)</source>
-        <translation type="unfinished"></translation>
+        <translation>Temps depuis le départ (s)</translation>
     </message>
     <message>
         <source>Only a recording tells this</source>
-        <translation type="unfinished"></translation>
+        <translation>Seul un enregistrement le dit</translation>
     </message>
     <message>
         <source>Split</source>
-        <translation type="unfinished"></translation>
+        <translation>Inter</translation>
     </message>
 </context>
 <context>
     <name>TrialMarking</name>
     <message>
         <source>Add the first athlete above</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajoutez le premier athlète ci-dessus</translation>
     </message>
     <message>
         <source>M marks split %1</source>
-        <translation type="unfinished"></translation>
+        <translation>M marque l’intermédiaire %1</translation>
     </message>
     <message>
         <source>M marks the start</source>
-        <translation type="unfinished"></translation>
+        <translation>M marque le départ</translation>
     </message>
     <message>
         <source>M marks the %1</source>
-        <translation type="unfinished"></translation>
+        <translation>M marque : %1</translation>
     </message>
     <message>
         <source>The roll is marked</source>
-        <translation type="unfinished"></translation>
+        <translation>L’esquimautage est marqué</translation>
     </message>
     <message>
         <source>The cross course has no gates yet</source>
-        <translation type="unfinished"></translation>
+        <translation>Le parcours de cross n’a pas encore de portes</translation>
     </message>
     <message>
         <source>Gate %1: M marks the %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Porte %1 : M marque : %2</translation>
     </message>
     <message>
         <source>Gate %1 is marked</source>
-        <translation type="unfinished"></translation>
+        <translation>La porte %1 est marquée</translation>
     </message>
     <message>
         <source>The time of this trial was taken without marks on the film. Marking it anew replaces it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le temps de ce contre-la-montre a été pris sans marques sur le film. Le marquer à nouveau le remplace.</translation>
     </message>
     <message>
         <source>Mark anew</source>
-        <translation type="unfinished"></translation>
+        <translation>Marquer à nouveau</translation>
     </message>
     <message>
         <source>start mark</source>
-        <translation type="unfinished"></translation>
+        <translation>marque de départ</translation>
     </message>
     <message>
         <source>split %1</source>
-        <translation type="unfinished"></translation>
+        <translation>intermédiaire %1</translation>
     </message>
     <message>
         <source>Start</source>
-        <translation type="unfinished"></translation>
+        <translation>Départ</translation>
     </message>
     <message>
         <source>%1:  %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 :  %2</translation>
     </message>
     <message>
         <source>Split %1 was put in between two marks. Ctrl+Z takes it out again.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’intermédiaire %1 a été inséré entre deux marques. Ctrl+Z l’enlève.</translation>
     </message>
     <message>
         <source>Gate %1 is marked. N goes to the next gate, Shift+M moves the selected mark.</source>
-        <translation type="unfinished"></translation>
+        <translation>La porte %1 est marquée. N passe à la porte suivante, Maj+M déplace la marque choisie.</translation>
     </message>
     <message>
         <source>The cross course has no gates yet: they are set above.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le parcours de cross n’a pas encore de portes : elles se règlent ci-dessus.</translation>
     </message>
     <message>
         <source>%1 of gate %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 de la porte %2</translation>
     </message>
     <message>
         <source>Gate %1 %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Porte %1 %2</translation>
     </message>
     <message>
         <source>The roll is marked. Shift+M moves the selected mark, Delete removes it.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’esquimautage est marqué. Maj+M déplace la marque choisie, Suppr la retire.</translation>
     </message>
     <message>
         <source>No mark is selected. Ctrl and the arrows go from mark to mark.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucune marque n’est choisie. Ctrl et les flèches vont de marque en marque.</translation>
     </message>
     <message>
         <source>mark moved</source>
-        <translation type="unfinished"></translation>
+        <translation>marque déplacée</translation>
     </message>
     <message>
         <source>mark removed</source>
-        <translation type="unfinished"></translation>
+        <translation>marque retirée</translation>
     </message>
     <message>
         <source>Without a start mark the time counts from the beginning of the film.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sans marque de départ, le temps compte depuis le début du film.</translation>
     </message>
     <message>
         <source>gate %1 removed</source>
-        <translation type="unfinished"></translation>
+        <translation>porte %1 retirée</translation>
     </message>
 </context>
 <context>
     <name>TypedMeasures</name>
     <message>
         <source>This moment is in no calendar: %1 seconds from 2001-01-01. It stays as it is until another date is typed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce moment n’est dans aucun calendrier : %1 secondes depuis 2001-01-01. Il reste tel quel jusqu’à la saisie d’une autre date.</translation>
     </message>
     <message>
         <source>A value below 0 cannot be measured.</source>
-        <translation type="unfinished"></translation>
+        <translation>Une valeur au-dessous de 0 ne peut pas être mesurée.</translation>
     </message>
     <message>
         <source>More than %1 was hardly measured.</source>
-        <translation type="unfinished"></translation>
+        <translation>Plus de %1 n’a guère été mesuré.</translation>
     </message>
     <message>
         <source>It stays as it is until another one is typed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Elle reste telle quelle jusqu’à la saisie d’une autre.</translation>
     </message>
     <message>
         <source>A measurement needs a day of the calendar such as 2026-03-09.</source>
-        <translation type="unfinished"></translation>
+        <translation>Une mesure demande un jour du calendrier comme 2026-03-09.</translation>
     </message>
     <message>
         <source>Expected is a number from 0 to %1, such as %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Il faut un nombre de 0 à %1, comme %2</translation>
     </message>
 </context>
 <context>
     <name>TypedNumber</name>
     <message>
         <source>Expected is a number from %1 to %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Il faut un nombre de %1 à %2</translation>
     </message>
     <message>
         <source>Expected is a whole number from %1 to %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Il faut un nombre entier de %1 à %2</translation>
     </message>
     <message>
         <source>Expected is a time from %1 to %2 seconds</source>
-        <translation type="unfinished"></translation>
+        <translation>Il faut un temps de %1 à %2 secondes</translation>
     </message>
 </context>
 <context>
     <name>TypedValues</name>
     <message>
         <source>A time is a number of seconds such as 92.34, or 1:32.34</source>
-        <translation type="unfinished"></translation>
+        <translation>Un temps est un nombre de secondes comme 92.34, ou 1:32.34</translation>
     </message>
     <message>
         <source>A penalty is a whole number of seconds, 0 to 999</source>
-        <translation type="unfinished"></translation>
+        <translation>Une pénalité est un nombre entier de secondes, de 0 à 999</translation>
     </message>
     <message>
         <source>A position is a whole number, 1 to 9999</source>
-        <translation type="unfinished"></translation>
+        <translation>Une position est un nombre entier, de 1 à 9999</translation>
     </message>
     <message>
         <source>Ranking points are a number such as 612.5</source>
-        <translation type="unfinished"></translation>
+        <translation>Les points du classement sont un nombre comme 612.5</translation>
     </message>
     <message>
         <source>A year is a number from 1900 to 2100</source>
-        <translation type="unfinished"></translation>
+        <translation>Une année est un nombre de 1900 à 2100</translation>
     </message>
     <message>
         <source>A date is a day of the calendar such as 2025-06-14</source>
-        <translation type="unfinished"></translation>
+        <translation>Une date est un jour du calendrier comme 2025-06-14</translation>
     </message>
 </context>
 <context>
     <name>WeekTexts</name>
     <message>
         <source>Week %1, from %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Semaine %1, du %2</translation>
     </message>
     <message>
         <source>Load %1 %</source>
-        <translation type="unfinished"></translation>
+        <translation>Charge %1 %</translation>
     </message>
     <message>
         <source>Macrocycle</source>
-        <translation type="unfinished"></translation>
+        <translation>Macrocycle</translation>
     </message>
     <message>
         <source>Mesocycle</source>
-        <translation type="unfinished"></translation>
+        <translation>Mésocycle</translation>
     </message>
     <message>
         <source>Event</source>
-        <translation type="unfinished"></translation>
+        <translation>Compétition</translation>
     </message>
     <message>
         <source>Place</source>
-        <translation type="unfinished"></translation>
+        <translation>Place</translation>
     </message>
     <message>
         <source>On-water test</source>
-        <translation type="unfinished"></translation>
+        <translation>Test sur l’eau</translation>
     </message>
     <message>
         <source>Endurance test</source>
-        <translation type="unfinished"></translation>
+        <translation>Test d’endurance</translation>
     </message>
     <message>
         <source>Blood test</source>
-        <translation type="unfinished"></translation>
+        <translation>Prise de sang</translation>
     </message>
     <message>
         <source>Injured</source>
-        <translation type="unfinished"></translation>
+        <translation>Blessé</translation>
     </message>
     <message>
         <source>%n session(s)</source>
-        <translation type="unfinished"></translation>
+        <translation>%n séance(s)</translation>
     </message>
     <message>
         <source>The week&apos;s date is in no calendar.</source>
-        <translation type="unfinished"></translation>
+        <translation>La date de la semaine n’est dans aucun calendrier.</translation>
     </message>
     <message>
         <source>The week does not start on a Monday.</source>
-        <translation type="unfinished"></translation>
+        <translation>La semaine ne commence pas un lundi.</translation>
     </message>
     <message>
         <source>The load is negative.</source>
-        <translation type="unfinished"></translation>
+        <translation>La charge est négative.</translation>
     </message>
     <message>
         <source>The two lists of planned totals are of different lengths.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les deux listes de totaux prévus sont de longueurs différentes.</translation>
     </message>
     <message>
         <source>%1 of its sessions are on no day of the week.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 de ses séances ne sont sur aucun jour de la semaine.</translation>
     </message>
     <message>
         <source>The session&apos;s date is in no calendar.</source>
-        <translation type="unfinished"></translation>
+        <translation>La date de la séance n’est dans aucun calendrier.</translation>
     </message>
     <message>
         <source>The time of day is none.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le moment de la journée est inexistant.</translation>
     </message>
     <message>
         <source>The time zone “%1” is unknown.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fuseau horaire « %1 » est inconnu.</translation>
     </message>
     <message>
         <source>A value is negative.</source>
-        <translation type="unfinished"></translation>
+        <translation>Une valeur est négative.</translation>
     </message>
 </context>
 <context>
     <name>kavela</name>
     <message>
         <source>The time from the mark before to the mark of this section.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le temps de la marque précédente à la marque de ce secteur.</translation>
     </message>
     <message>
         <source>mark − mark before</source>
-        <translation type="unfinished"></translation>
+        <translation>marque − marque précédente</translation>
     </message>
     <message>
         <source>The time of the section with the penalties of its gates.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le temps du secteur avec les pénalités de ses portes.</translation>
     </message>
     <message>
         <source>time + penalties</source>
-        <translation type="unfinished"></translation>
+        <translation>temps + pénalités</translation>
     </message>
     <message>
         <source>The time from the start to the mark of this section.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le temps du départ à la marque de ce secteur.</translation>
     </message>
     <message>
         <source>Σ sections up to here</source>
-        <translation type="unfinished"></translation>
+        <translation>Σ secteurs jusqu’ici</translation>
     </message>
     <message>
         <source>All sections together, as timed from the video, without penalties.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tous les secteurs ensemble, chronométrés sur la vidéo, sans pénalités.</translation>
     </message>
     <message>
         <source>Σ sections</source>
-        <translation type="unfinished"></translation>
+        <translation>Σ secteurs</translation>
     </message>
     <message>
         <source>All sections together, as timed from the video, and the penalties.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tous les secteurs ensemble, chronométrés sur la vidéo, et les pénalités.</translation>
     </message>
     <message>
         <source>Σ sections + penalties</source>
-        <translation type="unfinished"></translation>
+        <translation>Σ secteurs + pénalités</translation>
     </message>
     <message>
         <source>The sprint as it was timed for this run.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le sprint tel qu’il a été chronométré pour cette manche.</translation>
     </message>
     <message>
         <source>sprint</source>
-        <translation type="unfinished"></translation>
+        <translation>sprint</translation>
     </message>
     <message>
         <source>The official time as it was entered for this run.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le temps officiel tel qu’il a été saisi pour cette manche.</translation>
     </message>
     <message>
         <source>real</source>
-        <translation type="unfinished"></translation>
+        <translation>réel</translation>
     </message>
     <message>
         <source>A run of another race, held against the runs of this one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Une manche d’une autre course, comparée aux manches de celle-ci.</translation>
     </message>
     <message>
         <source>time</source>
-        <translation type="unfinished"></translation>
+        <translation>temps</translation>
     </message>
     <message>
         <source>The colour tells between which tenths of its column a time lies.</source>
-        <translation type="unfinished"></translation>
+        <translation>La couleur dit entre quels dixièmes de sa colonne se trouve un temps.</translation>
     </message>
     <message>
         <source>tenth below &lt; time ≤ tenth above</source>
-        <translation type="unfinished"></translation>
+        <translation>dixième inférieur &lt; temps ≤ dixième supérieur</translation>
     </message>
     <message>
         <source>The least time of its column has a colour of its own.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le plus petit temps de sa colonne a sa propre couleur.</translation>
     </message>
     <message>
         <source>time = least</source>
-        <translation type="unfinished"></translation>
+        <translation>temps = minimum</translation>
     </message>
     <message>
         <source>A total column with a run that has no total stays white.</source>
-        <translation type="unfinished"></translation>
+        <translation>Une colonne de total où une manche n’a pas de total reste blanche.</translation>
     </message>
     <message>
         <source>white</source>
-        <translation type="unfinished"></translation>
+        <translation>blanc</translation>
     </message>
     <message>
         <source>What was not timed, or lies beside the scale, has no colour.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce qui n’a pas été chronométré, ou sort de l’échelle, n’a pas de couleur.</translation>
     </message>
     <message>
         <source>no colour</source>
-        <translation type="unfinished"></translation>
+        <translation>sans couleur</translation>
     </message>
     <message>
         <source>The least of the column that counts.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le minimum de la colonne qui compte.</translation>
     </message>
     <message>
         <source>min values</source>
-        <translation type="unfinished"></translation>
+        <translation>min des valeurs</translation>
     </message>
     <message>
         <source>The middle of the column, of what counts.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le milieu de la colonne, pour ce qui compte.</translation>
     </message>
     <message>
         <source>median values</source>
-        <translation type="unfinished"></translation>
+        <translation>médiane des valeurs</translation>
     </message>
     <message>
         <source>The time less that of the reference.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le temps moins celui de la référence.</translation>
     </message>
     <message>
         <source>own − reference</source>
-        <translation type="unfinished"></translation>
+        <translation>propre − référence</translation>
     </message>
     <message>
         <source>The place in the column: one more than are faster to the hundredth.</source>
-        <translation type="unfinished"></translation>
+        <translation>La place dans la colonne : une de plus que le nombre de ceux qui sont plus rapides au centième.</translation>
     </message>
     <message>
         <source>1 + faster</source>
-        <translation type="unfinished"></translation>
+        <translation>1 + plus rapides</translation>
     </message>
     <message>
         <source>How far behind the best of the column.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le retard sur le meilleur de la colonne.</translation>
     </message>
     <message>
         <source>100 · (own / best − 1)</source>
-        <translation type="unfinished"></translation>
+        <translation>100 · (propre / meilleur − 1)</translation>
     </message>
     <message>
         <source>The share of the column that is as slow or slower.</source>
-        <translation type="unfinished"></translation>
+        <translation>La part de la colonne qui est aussi lente ou plus lente.</translation>
     </message>
     <message>
         <source>100 · slower or equal / timed</source>
-        <translation type="unfinished"></translation>
+        <translation>100 · plus lents ou égaux / chronométrés</translation>
     </message>
     <message>
         <source>The best time of the section that stands alone, whoever paddled it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le meilleur temps du secteur qui est mesuré seul, quel qu’en soit l’auteur.</translation>
     </message>
     <message>
         <source>min times</source>
-        <translation type="unfinished"></translation>
+        <translation>min des temps</translation>
     </message>
     <message>
         <source>The best of every section up to here, put together.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le meilleur de chaque secteur jusqu’ici, mis bout à bout.</translation>
     </message>
     <message>
         <source>Σ bests up to here</source>
-        <translation type="unfinished"></translation>
+        <translation>Σ meilleurs jusqu’ici</translation>
     </message>
     <message>
         <source>The best of every section, put together.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le meilleur de chaque secteur, mis bout à bout.</translation>
     </message>
     <message>
         <source>Σ bests</source>
-        <translation type="unfinished"></translation>
+        <translation>Σ meilleurs</translation>
     </message>
     <message>
         <source>The seconds of all its touches and missed gates.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les secondes de toutes ses touches et portes manquées.</translation>
     </message>
     <message>
         <source>Σ gates</source>
-        <translation type="unfinished"></translation>
+        <translation>Σ portes</translation>
     </message>
     <message>
         <source>The seconds of touches and missed gates of the section.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les secondes des touches et portes manquées du secteur.</translation>
     </message>
     <message>
         <source>Σ gates of the section</source>
-        <translation type="unfinished"></translation>
+        <translation>Σ portes du secteur</translation>
     </message>
     <message>
         <source>The official penalty seconds as they were entered for this run.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les secondes de pénalité officielles telles qu’elles ont été saisies pour cette manche.</translation>
     </message>
     <message>
         <source>real penalty</source>
-        <translation type="unfinished"></translation>
+        <translation>pénalité réelle</translation>
     </message>
     <message>
         <source>The expected time as split taking stored it with this run.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le temps attendu tel que la prise de temps intermédiaires l’a conservé avec cette manche.</translation>
     </message>
     <message>
         <source>expected</source>
-        <translation type="unfinished"></translation>
+        <translation>attendu</translation>
     </message>
     <message>
         <source>values of the column</source>
-        <translation type="unfinished"></translation>
+        <translation>valeurs de la colonne</translation>
     </message>
     <message>
         <source>least</source>
-        <translation type="unfinished"></translation>
+        <translation>minimum</translation>
     </message>
     <message>
         <source>most</source>
-        <translation type="unfinished"></translation>
+        <translation>maximum</translation>
     </message>
     <message>
         <source>times that stand alone</source>
-        <translation type="unfinished"></translation>
+        <translation>temps mesurés seuls</translation>
     </message>
     <message>
         <source>No gate was touched or missed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucune porte n’a été touchée ni manquée.</translation>
     </message>
     <message>
         <source>penalties</source>
-        <translation type="unfinished"></translation>
+        <translation>pénalités</translation>
     </message>
     <message>
         <source>faster</source>
-        <translation type="unfinished"></translation>
+        <translation>plus rapides</translation>
     </message>
     <message>
         <source>timed</source>
-        <translation type="unfinished"></translation>
+        <translation>chronométrés</translation>
     </message>
     <message>
         <source>slower or equal</source>
-        <translation type="unfinished"></translation>
+        <translation>plus lents ou égaux</translation>
     </message>
     <message>
         <source>median</source>
-        <translation type="unfinished"></translation>
+        <translation>médiane</translation>
     </message>
     <message>
         <source>List of online planning entries.</source>
-        <translation type="unfinished"></translation>
+        <translation>Liste des entrées de planification en ligne.</translation>
     </message>
     <message>
         <source>Files that have already been watched.</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichiers qui ont déjà été vus.</translation>
     </message>
     <message>
         <source>Play the next video of a list when one ends.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lire la vidéo suivante d’une liste quand une vidéo se termine.</translation>
     </message>
     <message>
         <source>Start a run at its stored video time rather than at the video&apos;s start.</source>
-        <translation type="unfinished"></translation>
+        <translation>Commencer une manche à son temps vidéo enregistré plutôt qu’au début de la vidéo.</translation>
     </message>
     <message>
         <source>Start playback as soon as a row is clicked.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lancer la lecture dès qu’une ligne est cliquée.</translation>
     </message>
     <message>
         <source>Show penalties in the tables.</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher les pénalités dans les tableaux.</translation>
     </message>
     <message>
         <source>Include penalty seconds in the times that are compared.</source>
-        <translation type="unfinished"></translation>
+        <translation>Inclure les secondes de pénalité dans les temps comparés.</translation>
     </message>
     <message>
         <source>Colours of the split table.</source>
-        <translation type="unfinished"></translation>
+        <translation>Couleurs du tableau des intermédiaires.</translation>
     </message>
     <message>
         <source>Comment tag chosen last.</source>
-        <translation type="unfinished"></translation>
+        <translation>Étiquette de commentaire choisie en dernier.</translation>
     </message>
     <message>
         <source>Show the coach&apos;s comments.</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher les commentaires de l’entraîneur.</translation>
     </message>
     <message>
         <source>In tag mode, play only the tagged part of a video.</source>
-        <translation type="unfinished"></translation>
+        <translation>En mode étiquettes, lire seulement la partie étiquetée d’une vidéo.</translation>
     </message>
     <message>
         <source>Kind of data opened last.</source>
-        <translation type="unfinished"></translation>
+        <translation>Type de données ouvert en dernier.</translation>
     </message>
     <message>
         <source>Full screen shows the roll chart.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le plein écran affiche le graphique du roulis.</translation>
     </message>
     <message>
         <source>Full screen shows the pitch chart.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le plein écran affiche le graphique du tangage.</translation>
     </message>
     <message>
         <source>Full screen shows the heart-rate chart.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le plein écran affiche le graphique de la fréquence cardiaque.</translation>
     </message>
     <message>
         <source>Full screen shows the scatter chart.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le plein écran affiche le nuage de points.</translation>
     </message>
     <message>
         <source>Show boat-motion values normalised.</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher normalisées les valeurs du mouvement du bateau.</translation>
     </message>
     <message>
         <source>Show the impulse gauge.</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher la jauge d’impulsion.</translation>
     </message>
     <message>
         <source>Show the stroke-rate gauge.</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher la jauge de cadence.</translation>
     </message>
     <message>
         <source>Number of splits of a new split file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nombre d’intermédiaires d’un nouveau fichier d’intermédiaires.</translation>
     </message>
     <message>
         <source>Tag names saved for reuse.</source>
-        <translation type="unfinished"></translation>
+        <translation>Noms d’étiquettes enregistrés pour être réutilisés.</translation>
     </message>
     <message>
         <source>Time-loss reasons saved for reuse.</source>
-        <translation type="unfinished"></translation>
+        <translation>Raisons de pertes de temps enregistrées pour être réutilisées.</translation>
     </message>
     <message>
         <source>Load a planning file at start.</source>
-        <translation type="unfinished"></translation>
+        <translation>Charger un fichier de planification au démarrage.</translation>
     </message>
     <message>
         <source>The planning file to load at start is an online one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier de planification à charger au démarrage est en ligne.</translation>
     </message>
     <message>
         <source>Planning file to load at start.</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichier de planification à charger au démarrage.</translation>
     </message>
     <message>
         <source>Also export the table as CSV on saving.</source>
-        <translation type="unfinished"></translation>
+        <translation>Exporter aussi le tableau en CSV à l’enregistrement.</translation>
     </message>
     <message>
         <source>Also export a PDF on saving.</source>
-        <translation type="unfinished"></translation>
+        <translation>Exporter aussi un PDF à l’enregistrement.</translation>
     </message>
     <message>
         <source>Main folder to open at start.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dossier principal à ouvrir au démarrage.</translation>
     </message>
     <message>
         <source>Open the test tool at start.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir l’outil de tests au démarrage.</translation>
     </message>
     <message>
         <source>The file is not an activity, but something else of the device.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier n’est pas une activité, mais autre chose de l’appareil.</translation>
     </message>
     <message>
         <source>There are no points in the file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il n’y a aucun point dans le fichier.</translation>
     </message>
     <message numerus="yes">
         <source>{} videos</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>{} vidéo</numerusform>
+            <numerusform>{} vidéos</numerusform>
         </translation>
     </message>
     <message>
         <source>Makes a training file of the videos that carry an athlete&apos;s name</source>
-        <translation type="unfinished"></translation>
+        <translation>Crée un fichier d’entraînement des vidéos qui portent le nom d’un athlète</translation>
     </message>
     <message>
         <source>Folder of the videos</source>
-        <translation type="unfinished"></translation>
+        <translation>Dossier des vidéos</translation>
     </message>
     <message>
         <source>The athlete&apos;s name; a crew as &quot;A / B&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>Le nom de l’athlète ; un équipage sous la forme "A / B"</translation>
     </message>
     <message>
         <source>Replace a training file that is there already</source>
-        <translation type="unfinished"></translation>
+        <translation>Remplacer un fichier d’entraînement déjà présent</translation>
     </message>
     <message>
         <source>Kavela: splits, results and recordings of canoe slalom.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kavela : intermédiaires, résultats et enregistrements de canoë-kayak slalom.</translation>
     </message>
     <message>
         <source>Files to open in the desktop program</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichiers à ouvrir dans le programme de bureau</translation>
     </message>
     <message>
         <source>Start another desktop program, also where one runs</source>
-        <translation type="unfinished"></translation>
+        <translation>Démarrer un autre programme de bureau, même si un premier est lancé</translation>
     </message>
     <message>
         <source>Language of what is said: en or one that is built in</source>
-        <translation type="unfinished"></translation>
+        <translation>Langue des messages : en ou l’une de celles qui sont intégrées</translation>
     </message>
     <message>
         <source>There is not enough memory for this file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il n’y a pas assez de mémoire pour ce fichier.</translation>
     </message>
     <message>
         <source>Composes a film of several runs</source>
-        <translation type="unfinished"></translation>
+        <translation>Compose un film de plusieurs manches</translation>
     </message>
     <message>
         <source>What is to be composed (.json)</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce qui doit être composé (.json)</translation>
     </message>
     <message>
         <source>File to write, in place of the job&apos;s own</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichier à écrire, au lieu de celui de la tâche</translation>
     </message>
     <message numerus="yes">
         <source>{} strokes</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>{} coup de pagaie</numerusform>
+            <numerusform>{} coups de pagaie</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>{} turns</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>{} virage</numerusform>
+            <numerusform>{} virages</numerusform>
         </translation>
     </message>
     <message>
         <source>Give another name with --name.</source>
-        <translation type="unfinished"></translation>
+        <translation>Donnez un autre nom avec --name.</translation>
     </message>
     <message>
         <source>A name goes with one recording only.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un nom ne va qu’avec un seul enregistrement.</translation>
     </message>
     <message>
         <source>Writes the processed session of raw recordings</source>
-        <translation type="unfinished"></translation>
+        <translation>Écrit la séance traitée d’enregistrements bruts</translation>
     </message>
     <message>
         <source>Raw recordings (.kvb)</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrements bruts (.kvb)</translation>
     </message>
     <message>
         <source>Name of the new file, for a further one</source>
-        <translation type="unfinished"></translation>
+        <translation>Nom du nouveau fichier, pour un fichier de plus</translation>
     </message>
     <message numerus="yes">
         <source>{} files</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>{} fichier</numerusform>
+            <numerusform>{} fichiers</numerusform>
         </translation>
     </message>
     <message>
         <source>Failed to create file</source>
-        <translation type="unfinished"></translation>
+        <translation>Échec de la création du fichier</translation>
     </message>
     <message>
         <source>Writes a sample season to try Kavela with</source>
-        <translation type="unfinished"></translation>
+        <translation>Écrit une saison d’exemple pour essayer Kavela</translation>
     </message>
     <message>
         <source>Folder to write to; made where it is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>Dossier où écrire ; créé s’il manque</translation>
     </message>
     <message>
         <source>Makes short films of runs as well</source>
-        <translation type="unfinished"></translation>
+        <translation>Crée aussi de courts films des manches</translation>
     </message>
     <message>
         <source>Writes the split table for a spreadsheet, or a report</source>
-        <translation type="unfinished"></translation>
+        <translation>Écrit le tableau des intermédiaires pour un tableur, ou un rapport</translation>
     </message>
     <message>
         <source>Split file (.kvx) of any release</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichier d’intermédiaires (.kvx) de n’importe quelle version</translation>
     </message>
     <message>
         <source>File to write: semicolon-separated text</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichier à écrire : texte séparé par des points-virgules</translation>
     </message>
     <message>
         <source>File to write: the race report, on A4 pages</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichier à écrire : le rapport de course, sur des pages A4</translation>
     </message>
     <message>
         <source>There is no split file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il n’y a aucun fichier d’intermédiaires.</translation>
     </message>
     <message numerus="yes">
         <source>{} tables</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>{} tableau</numerusform>
+            <numerusform>{} tableaux</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>{} runs</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>{} manche</numerusform>
+            <numerusform>{} manches</numerusform>
         </translation>
     </message>
     <message>
         <source>Writes what split files say as tables for other programs</source>
-        <translation type="unfinished"></translation>
+        <translation>Écrit le contenu des fichiers d’intermédiaires en tableaux pour d’autres programmes</translation>
     </message>
     <message>
         <source>Split files, or folders with them</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichiers d’intermédiaires, ou dossiers qui en contiennent</translation>
     </message>
     <message>
         <source>Folder to write to</source>
-        <translation type="unfinished"></translation>
+        <translation>Dossier où écrire</translation>
     </message>
     <message>
         <source>Fetches the films of a race by their bibs</source>
-        <translation type="unfinished"></translation>
+        <translation>Récupère les films d’une course d’après leurs dossards</translation>
     </message>
     <message>
         <source>Where the films come from (.json)</source>
-        <translation type="unfinished"></translation>
+        <translation>D’où viennent les films (.json)</translation>
     </message>
     <message>
         <source>Only print what would be fetched</source>
-        <translation type="unfinished"></translation>
+        <translation>Seulement afficher ce qui serait récupéré</translation>
     </message>
     <message>
         <source>Do not ask before anything is fetched</source>
-        <translation type="unfinished"></translation>
+        <translation>Ne rien demander avant de récupérer</translation>
     </message>
     <message>
         <source>User name for the server of the address</source>
-        <translation type="unfinished"></translation>
+        <translation>Nom d’utilisateur pour le serveur de l’adresse</translation>
     </message>
     <message>
         <source>A search needs a file or folder and, last, the query in quotes.</source>
-        <translation type="unfinished"></translation>
+        <translation>Une recherche demande un fichier ou un dossier et, en dernier, la requête entre guillemets.</translation>
     </message>
     <message>
         <source>The table cannot be written over a file that is searched.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le tableau ne peut pas être écrit par-dessus un fichier où l’on cherche.</translation>
     </message>
     <message>
         <source>Searches split files: a season in one question</source>
-        <translation type="unfinished"></translation>
+        <translation>Cherche dans les fichiers d’intermédiaires : une saison en une question</translation>
     </message>
     <message>
         <source>Split files, or folders with them; last the query, in quotes</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichiers d’intermédiaires, ou dossiers qui en contiennent ; en dernier la requête, entre guillemets</translation>
     </message>
     <message>
         <source>Print one JSON document</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher un seul document JSON</translation>
     </message>
     <message numerus="yes">
         <source>{} groups</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>{} groupe</numerusform>
+            <numerusform>{} groupes</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>{} rows</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>{} ligne</numerusform>
+            <numerusform>{} lignes</numerusform>
         </translation>
     </message>
     <message>
         <source>What an athlete can lift once, by five formulas</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce qu’un athlète peut soulever une fois, selon cinq formules</translation>
     </message>
     <message>
         <source>How often the weight was lifted</source>
-        <translation type="unfinished"></translation>
+        <translation>Combien de fois la charge a été soulevée</translation>
     </message>
     <message>
         <source>The weight in kilograms</source>
-        <translation type="unfinished"></translation>
+        <translation>La charge en kilogrammes</translation>
     </message>
     <message numerus="yes">
         <source>{} results</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>{} résultat</numerusform>
+            <numerusform>{} résultats</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>{} lines</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>{} ligne</numerusform>
+            <numerusform>{} lignes</numerusform>
         </translation>
     </message>
     <message>
         <source>Adds an official results list to a split file</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajoute une liste de résultats officiels à un fichier d’intermédiaires</translation>
     </message>
     <message>
         <source>Split file (.kvx) of the current version</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichier d’intermédiaires (.kvx) de la version actuelle</translation>
     </message>
     <message>
         <source>Semicolon-separated text with a header line: position, bib, name, nationality, time, penalty</source>
-        <translation type="unfinished"></translation>
+        <translation>Texte séparé par des points-virgules avec une ligne de titres : position, bib, name, nationality, time, penalty</translation>
     </message>
     <message>
         <source>Says what files are, or what is wrong in them</source>
-        <translation type="unfinished"></translation>
+        <translation>Dit ce que sont des fichiers, ou ce qui ne va pas en eux</translation>
     </message>
     <message>
         <source>Files of any kind</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichiers de toute sorte</translation>
     </message>
     <message>
         <source>The table cannot be written over a file that it is made from.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le tableau ne peut pas être écrit par-dessus un fichier dont il est tiré.</translation>
     </message>
     <message>
         <source>Tells where runs lose time against one another</source>
-        <translation type="unfinished"></translation>
+        <translation>Dit où les manches perdent du temps les unes sur les autres</translation>
     </message>
     <message>
         <source>Split file (.kvx) of any release; with --athlete also folders of them</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichier d’intermédiaires (.kvx) de n’importe quelle version ; avec --athlete aussi des dossiers qui en contiennent</translation>
     </message>
     <message>
         <source>winner, fastest, ideal, median, own or run:I; winner without other word</source>
-        <translation type="unfinished"></translation>
+        <translation>winner, fastest, ideal, median, own ou run:I ; sans autre mention winner</translation>
     </message>
     <message>
         <source>The season of an athlete over all the paths; a crew as &quot;A / B&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>La saison d’un athlète sur tous les chemins donnés ; un équipage sous la forme "A / B"</translation>
     </message>
     <message>
         <source>Only the athlete&apos;s runs of this category</source>
-        <translation type="unfinished"></translation>
+        <translation>Seulement les manches de l’athlète dans cette catégorie</translation>
     </message>
     <message>
         <source>Folder to write the athlete&apos;s page into, named after the athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>Dossier où écrire la page de l’athlète, nommée d’après l’athlète</translation>
     </message>
     <message>
         <source>Explain one number instead: loss/RUN/winner/5, gap/RUN/ideal, …</source>
-        <translation type="unfinished"></translation>
+        <translation>Expliquer plutôt un seul nombre : loss/RUN/winner/5, gap/RUN/ideal, …</translation>
     </message>
     <message>
         <source>run {}</source>
-        <translation type="unfinished"></translation>
+        <translation>manche {}</translation>
     </message>
     <message>
         <source>no total</source>
-        <translation type="unfinished"></translation>
+        <translation>pas de total</translation>
     </message>
     <message>
         <source>, no totals to compare</source>
-        <translation type="unfinished"></translation>
+        <translation>, pas de totaux à comparer</translation>
     </message>
     <message>
         <source>strokes {} on {}</source>
-        <translation type="unfinished"></translation>
+        <translation>coups de pagaie {} contre {}</translation>
     </message>
     <message>
         <source>gate {} {}</source>
-        <translation type="unfinished"></translation>
+        <translation>porte {} {}</translation>
     </message>
     <message>
         <source>     Explained by notes: {} of {} ({:.0f} %)</source>
-        <translation type="unfinished"></translation>
+        <translation>     Expliqué par des notes : {} sur {} ({:.0f} %)</translation>
     </message>
     <message>
         <source>Tells how often gates are touched, what it cost, and whether speed pays</source>
-        <translation type="unfinished"></translation>
+        <translation>Dit combien de fois les portes sont touchées, ce que cela a coûté et si la vitesse paie</translation>
     </message>
     <message>
         <source>Split files (.kvx) of any release, or folders of them</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichiers d’intermédiaires (.kvx) de n’importe quelle version, ou dossiers qui en contiennent</translation>
     </message>
     <message>
         <source>What the rates are by; by gate without other word</source>
-        <translation type="unfinished"></translation>
+        <translation>Selon quoi sont les taux ; par porte sans autre mention</translation>
     </message>
     <message>
         <source>Only runs of this category</source>
-        <translation type="unfinished"></translation>
+        <translation>Seulement les manches de cette catégorie</translation>
     </message>
     <message>
         <source>File to write the rates to: semicolon-separated text</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichier où écrire les taux : texte séparé par des points-virgules</translation>
     </message>
     <message>
         <source>Explain one number instead: rate/gate/7, touches/crew/NAME, cost/RUN/GATE, …</source>
-        <translation type="unfinished"></translation>
+        <translation>Expliquer plutôt un seul nombre : rate/gate/7, touches/crew/NAME, cost/RUN/GATE, …</translation>
     </message>
     <message>
         <source>… {} more; all of them with --json, --csv or in a pipe</source>
-        <translation type="unfinished"></translation>
+        <translation>… {} de plus ; toutes avec --json, --csv ou dans un tube</translation>
     </message>
     <message>
         <source>Penalties by {} · {}, {}</source>
-        <translation type="unfinished"></translation>
+        <translation>Pénalités par {} · {}, {}</translation>
     </message>
     <message>
         <source>{} of {} whole runs without a penalty: {:.1f} % ({})</source>
-        <translation type="unfinished"></translation>
+        <translation>{} manches complètes sur {} sans pénalité : {:.1f} % ({})</translation>
     </message>
     <message>
         <source>Ranked: drawn towards {:.1f} %, the more the fewer the passages;</source>
-        <translation type="unfinished"></translation>
+        <translation>Classé : ramené vers {:.1f} %, d’autant plus que les passages sont peu nombreux ;</translation>
     </message>
     <message>
         <source>{} of {}</source>
-        <translation type="unfinished"></translation>
+        <translation>{} sur {}</translation>
     </message>
     <message>
         <source>What penalties cost</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce que coûtent les pénalités</translation>
     </message>
     <message numerus="yes">
         <source>{} penalties</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>{} pénalité</numerusform>
+            <numerusform>{} pénalités</numerusform>
         </translation>
     </message>
     <message>
         <source>gate {}</source>
-        <translation type="unfinished"></translation>
+        <translation>porte {}</translation>
     </message>
     <message>
         <source>  {} of {}, without {}</source>
-        <translation type="unfinished"></translation>
+        <translation>  {} sur {}, sans {}</translation>
     </message>
     <message>
         <source>{} {} of {} ({:.0f} %, {:.0f}–{:.0f})</source>
-        <translation type="unfinished"></translation>
+        <translation>{} {} sur {} ({:.0f} %, {:.0f}–{:.0f})</translation>
     </message>
     <message>
         <source>Noted of {}</source>
-        <translation type="unfinished"></translation>
+        <translation>Noté pour {}</translation>
     </message>
     <message>
         <source>1 % of speed pays for {:.2f} touches a run; times in percent of the group&apos;s median</source>
-        <translation type="unfinished"></translation>
+        <translation>1 % de vitesse paie pour {:.2f} touche par manche ; temps en pour cent de la médiane du groupe</translation>
     </message>
     <message>
         <source>The sum of the best splits, and what each run could be</source>
-        <translation type="unfinished"></translation>
+        <translation>La somme des meilleurs intermédiaires, et ce que chaque manche pourrait être</translation>
     </message>
     <message>
         <source>Store the values in the file</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer les valeurs dans le fichier</translation>
     </message>
     <message>
         <source>Tell how a number came about: perfect, or xtime/5 (runs from 0)</source>
-        <translation type="unfinished"></translation>
+        <translation>Dire comment un nombre est né : perfect, ou xtime/5 (manches à partir de 0)</translation>
     </message>
     <message>
         <source>The weeks of each athlete&apos;s seasons</source>
-        <translation type="unfinished"></translation>
+        <translation>Les semaines des saisons de chaque athlète</translation>
     </message>
     <message>
         <source>Planning (.planning) of any version</source>
-        <translation type="unfinished"></translation>
+        <translation>Planification (.planning) de n’importe quelle version</translation>
     </message>
     <message>
         <source>Brings plannings to the current version</source>
-        <translation type="unfinished"></translation>
+        <translation>Amène des planifications à la version actuelle</translation>
     </message>
     <message>
         <source>Plannings (.planning) of any version</source>
-        <translation type="unfinished"></translation>
+        <translation>Planifications (.planning) de n’importe quelle version</translation>
     </message>
     <message>
         <source>Shows and upgrades training plannings</source>
-        <translation type="unfinished"></translation>
+        <translation>Montre et met à jour des planifications d’entraînement</translation>
     </message>
     <message numerus="yes">
         <source>{} weeks</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>{} semaine</numerusform>
+            <numerusform>{} semaines</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>{} sessions</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>{} séance</numerusform>
+            <numerusform>{} séances</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>{} athletes</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>{} athlète</numerusform>
+            <numerusform>{} athlètes</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>{} favourite interval sessions</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>{} séance d’intervalles favorite</numerusform>
+            <numerusform>{} séances d’intervalles favorites</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>{} variability measurements</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>{} mesure de variabilité</numerusform>
+            <numerusform>{} mesures de variabilité</numerusform>
         </translation>
     </message>
     <message>
         <source>Tells how the athletes of a team stand over seasons</source>
-        <translation type="unfinished"></translation>
+        <translation>Dit où en sont les athlètes d’une équipe au fil des saisons</translation>
     </message>
     <message>
         <source>Team file (.kvteam)</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichier d’équipe (.kvteam)</translation>
     </message>
     <message>
         <source>Split files (.kvx) of any release, or folders of them: they tell the winners and the rivals</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichiers d’intermédiaires (.kvx) de n’importe quelle version, ou dossiers qui en contiennent : ils disent les vainqueurs et les rivaux</translation>
     </message>
     <message>
         <source>Category: MK1, WK1, MC1, WC1, MX1, WX1</source>
-        <translation type="unfinished"></translation>
+        <translation>Catégorie : MK1, WK1, MC1, WC1, MX1, WX1</translation>
     </message>
     <message>
         <source>Only these: 2025, or 2023-2025</source>
-        <translation type="unfinished"></translation>
+        <translation>Seulement celles-ci : 2025, ou 2023-2025</translation>
     </message>
     <message>
         <source>Whose places to expect of one another; the team and those who raced most often without it</source>
-        <translation type="unfinished"></translation>
+        <translation>De qui attendre les places les uns face aux autres ; sans cela, l’équipe et ceux qui ont couru le plus souvent</translation>
     </message>
     <message>
         <source>File to write: the runs of the athletes as semicolon-separated text</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichier à écrire : les manches des athlètes en texte séparé par des points-virgules</translation>
     </message>
     <message>
         <source>Folder to write a report of the team and a page for each athlete into</source>
-        <translation type="unfinished"></translation>
+        <translation>Dossier où écrire un rapport de l’équipe et une page pour chaque athlète</translation>
     </message>
     <message>
         <source>Explain one number instead: spread, trend/NAME, percent/NAME/2025/WC1/Final, …</source>
-        <translation type="unfinished"></translation>
+        <translation>Expliquer plutôt un seul nombre : spread, trend/NAME, percent/NAME/2025/WC1/Final, …</translation>
     </message>
     <message>
         <source>{:+.1f} to {:+.1f}</source>
-        <translation type="unfinished"></translation>
+        <translation>de {:+.1f} à {:+.1f}</translation>
     </message>
     <message>
         <source>{:+.2f} to {:+.2f}</source>
-        <translation type="unfinished"></translation>
+        <translation>de {:+.2f} à {:+.2f}</translation>
     </message>
     <message>
         <source>      {} run {} {} {}
 </source>
-        <translation type="unfinished"></translation>
+        <translation>      {} manche {} {} {}
+</translation>
     </message>
     <message>
         <source>  {}. {}: {}, {} s a run
 </source>
-        <translation type="unfinished"></translation>
+        <translation>  {}. {} : {}, {} s par manche
+</translation>
     </message>
     <message numerus="yes">
         <source>{} whole runs</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>{} manche complète</numerusform>
+            <numerusform>{} manches complètes</numerusform>
         </translation>
     </message>
     <message>
         <source> · on {} · {}
 </source>
-        <translation type="unfinished"></translation>
+        <translation> · face à {} · {}
+</translation>
     </message>
     <message>
         <source> ({:+.1f} to {:+.1f})</source>
-        <translation type="unfinished"></translation>
+        <translation> (de {:+.1f} à {:+.1f})</translation>
     </message>
     <message numerus="yes">
         <source>{} split files</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>{} fichier d’intermédiaires</numerusform>
+            <numerusform>{} fichiers d’intermédiaires</numerusform>
         </translation>
     </message>
     <message>
         <source> · {} · {} of races</source>
-        <translation type="unfinished"></translation>
+        <translation> · {} · {} des courses</translation>
     </message>
     <message>
         <source>Too few runs to tell how much they vary by chance.</source>
-        <translation type="unfinished"></translation>
+        <translation>Trop peu de manches pour dire à quel point elles varient par hasard.</translation>
     </message>
     <message>
         <source>Runs vary by {:.1f} %{}, from {}; {:.2f} % is worth gaining.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les manches varient de {:.1f} %{}, d’après {} ; gagner {:.2f} % en vaut la peine.</translation>
     </message>
     <message>
         <source>Neither winners nor fastest splits of these races are known.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ni les vainqueurs ni les intermédiaires les plus rapides de ces courses ne sont connus.</translation>
     </message>
     <message>
         <source>      ┄ third of the final, median</source>
-        <translation type="unfinished"></translation>
+        <translation>      ┄ troisième de la finale, médiane</translation>
     </message>
     <message>
         <source>within</source>
-        <translation type="unfinished"></translation>
+        <translation>dispersion</translation>
     </message>
     <message>
         <source>trend</source>
-        <translation type="unfinished"></translation>
+        <translation>tendance</translation>
     </message>
     <message>
         <source>on splits</source>
-        <translation type="unfinished"></translation>
+        <translation>sur les intermédiaires</translation>
     </message>
     <message>
         <source>{:.1f} % (all {:.1f}{})</source>
-        <translation type="unfinished"></translation>
+        <translation>{:.1f} % (tous {:.1f}{})</translation>
     </message>
     <message>
         <source>, {} missed</source>
-        <translation type="unfinished"></translation>
+        <translation>, {} manquées</translation>
     </message>
     <message>
         <source>{:+.1f} %/yr{} </source>
-        <translation type="unfinished"></translation>
+        <translation>{:+.1f} %/an{} </translation>
     </message>
     <message>
         <source>{} of {} ({:.0f}–{:.0f} %)</source>
-        <translation type="unfinished"></translation>
+        <translation>{} sur {} ({:.0f}–{:.0f} %)</translation>
     </message>
     <message numerus="yes">
         <source>{} races</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>{} course</numerusform>
+            <numerusform>{} courses</numerusform>
         </translation>
     </message>
     <message>
         <source> {} of {} ({:.0f}–{:.0f} %), {:+.1f} %</source>
-        <translation type="unfinished"></translation>
+        <translation> {} sur {} ({:.0f}–{:.0f} %), {:+.1f} %</translation>
     </message>
     <message>
         <source>rank {}</source>
-        <translation type="unfinished"></translation>
+        <translation>rang {}</translation>
     </message>
     <message>
         <source>… {} more; all of them with --json or in a pipe</source>
-        <translation type="unfinished"></translation>
+        <translation>… {} de plus ; tout avec --json ou dans un tube</translation>
     </message>
     <message>
         <source>{} more boats come into question: name a field with --field</source>
-        <translation type="unfinished"></translation>
+        <translation>{} autres bateaux entrent en ligne de compte : nommez un plateau avec --field</translation>
     </message>
     <message>
         <source>{} is left out: fewer than {} runs, or never met the others</source>
-        <translation type="unfinished"></translation>
+        <translation>{} est laissé de côté : moins de {} manches, ou n’a jamais rencontré les autres</translation>
     </message>
     <message>
         <source>The ranking of each category</source>
-        <translation type="unfinished"></translation>
+        <translation>Le classement de chaque catégorie</translation>
     </message>
     <message>
         <source>Selection file (.kvsr) of any layout</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichier de sélection (.kvsr) de n’importe quel format</translation>
     </message>
     <message>
         <source>Kind of bonus that counts, from 0</source>
-        <translation type="unfinished"></translation>
+        <translation>Type de bonus qui compte, à partir de 0</translation>
     </message>
     <message>
         <source>Folder to write both reports into</source>
-        <translation type="unfinished"></translation>
+        <translation>Dossier où écrire les deux rapports</translation>
     </message>
     <message>
         <source>Store percentages and scores in the file</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer pourcentages et scores dans le fichier</translation>
     </message>
     <message>
         <source>Adds athletes from a list to a selection</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajoute les athlètes d’une liste à une sélection</translation>
     </message>
     <message>
         <source>Selection file (.kvsr)</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichier de sélection (.kvsr)</translation>
     </message>
     <message>
         <source>Text with lines Cat;Name;Surname;year;club</source>
-        <translation type="unfinished"></translation>
+        <translation>Texte avec des lignes Cat;Name;Surname;year;club</translation>
     </message>
     <message>
         <source>Takes the results of a race from its split files</source>
-        <translation type="unfinished"></translation>
+        <translation>Reprend les résultats d’une course de ses fichiers d’intermédiaires</translation>
     </message>
     <message>
         <source>Race of the selection: its name, or its number counted from 0</source>
-        <translation type="unfinished"></translation>
+        <translation>Course de la sélection : son nom, ou son numéro compté à partir de 0</translation>
     </message>
     <message>
         <source>Kind of bonus that counts in the scores, from 0</source>
-        <translation type="unfinished"></translation>
+        <translation>Type de bonus qui compte dans les scores, à partir de 0</translation>
     </message>
     <message>
         <source>Split files (.kvx) of the race</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichiers d’intermédiaires (.kvx) de la course</translation>
     </message>
     <message>
         <source>Selection races and their ranking</source>
-        <translation type="unfinished"></translation>
+        <translation>Courses de sélection et leur classement</translation>
     </message>
     <message>
         <source>Prints the coloured split table of a race</source>
-        <translation type="unfinished"></translation>
+        <translation>Affiche le tableau coloré des intermédiaires d’une course</translation>
     </message>
     <message>
         <source>Colours: race or training</source>
-        <translation type="unfinished"></translation>
+        <translation>Couleurs : race ou training</translation>
     </message>
     <message>
         <source>Times from the start to each split</source>
-        <translation type="unfinished"></translation>
+        <translation>Temps du départ à chaque intermédiaire</translation>
     </message>
     <message>
         <source>Add penalty seconds to the times</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajouter les secondes de pénalité aux temps</translation>
     </message>
     <message>
         <source>Show penalty seconds behind the times</source>
-        <translation type="unfinished"></translation>
+        <translation>Montrer les secondes de pénalité derrière les temps</translation>
     </message>
     <message>
         <source>Only runs of this phase</source>
-        <translation type="unfinished"></translation>
+        <translation>Seulement les manches de cette phase</translation>
     </message>
     <message>
         <source>Tell how a number came about: cell/5/3, band/5/3, ideal/3, ideal/total (runs from 0, columns and sections from 1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Dire comment un nombre est né : cell/5/3, band/5/3, ideal/3, ideal/total (manches à partir de 0, colonnes et secteurs à partir de 1)</translation>
     </message>
     <message>
         <source>{} gates, {} upstream</source>
-        <translation type="unfinished"></translation>
+        <translation>{} portes, dont {} en remontée</translation>
     </message>
     <message>
         <source>The table cannot be written over the recording itself.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le tableau ne peut pas être écrit par-dessus l’enregistrement lui-même.</translation>
     </message>
     <message>
         <source>Finds the strokes and turns of a boat-motion recording</source>
-        <translation type="unfinished"></translation>
+        <translation>Trouve les coups de pagaie et les virages d’un enregistrement du mouvement du bateau</translation>
     </message>
     <message>
         <source>Raw recording (.kvb)</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrement brut (.kvb)</translation>
     </message>
     <message>
         <source>&quot;{}&quot; is no number from {:g} to {:g} {}.</source>
-        <translation type="unfinished"></translation>
+        <translation>« {} » n’est pas un nombre de {:g} à {:g} {}.</translation>
     </message>
     <message>
         <source>&quot;{}&quot; is none of: {}.</source>
-        <translation type="unfinished"></translation>
+        <translation>« {} » n’est aucun de : {}.</translation>
     </message>
     <message>
         <source>Side of the phone that points to the bow, where fixes do not tell: top, bottom, right, left, back or screen</source>
-        <translation type="unfinished"></translation>
+        <translation>Côté du téléphone qui pointe vers l’avant, là où les positions ne le disent pas : top, bottom, right, left, back ou screen</translation>
     </message>
     <message>
         <source>Athlete, boat and kit in kg</source>
-        <translation type="unfinished"></translation>
+        <translation>Athlète, bateau et équipement en kg</translation>
     </message>
     <message>
         <source>Resistance of the hull over the square of its speed in N·s²/m²</source>
-        <translation type="unfinished"></translation>
+        <translation>Résistance de la coque rapportée au carré de sa vitesse, en N·s²/m²</translation>
     </message>
     <message>
         <source>Class of boat: k1, c1, c2, kayak or canoe</source>
-        <translation type="unfinished"></translation>
+        <translation>Classe du bateau : k1, c1, c2, kayak ou canoe</translation>
     </message>
     <message numerus="yes">
         <source>{} bouts</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>{} série continue</numerusform>
+            <numerusform>{} séries continues</numerusform>
         </translation>
     </message>
     <message>
         <source>{:.1f} 1/min</source>
-        <translation type="unfinished"></translation>
+        <translation>{:.1f} 1/min</translation>
     </message>
     <message>
         <source>{:g} kg, drag {:g} N·s²/m², {}; force and power hold on flat water only</source>
-        <translation type="unfinished"></translation>
+        <translation>{:g} kg, résistance {:g} N·s²/m², {} ; force et puissance ne valent qu’en eau plate</translation>
     </message>
     <message>
         <source>Shows any list of results as a table, with columns reckoned</source>
-        <translation type="unfinished"></translation>
+        <translation>Montre n’importe quelle liste de résultats en tableau, avec des colonnes calculées</translation>
     </message>
     <message>
         <source>A list: text (CSV, tabs, columns of blanks), a spreadsheet (.xlsx, .ods), or a split file (.kvx) that carries one</source>
-        <translation type="unfinished"></translation>
+        <translation>Une liste : texte (CSV, tabulations, colonnes séparées par des blancs), classeur (.xlsx, .ods), ou fichier d’intermédiaires (.kvx) qui en porte une</translation>
     </message>
     <message>
         <source>A column to add: total:Time,Pen, rank:Total, gap, percent, percentile, difference:Run 2,Run 1; with &quot;by Category&quot; within each category, with &quot;down&quot; the highest first</source>
-        <translation type="unfinished"></translation>
+        <translation>Une colonne à ajouter : total:Time,Pen, rank:Total, gap, percent, percentile, difference:Run 2,Run 1 ; avec "by Category" au sein de chaque catégorie, avec "down" le plus grand d’abord</translation>
     </message>
     <message>
         <source>ROW,COL,VALUE,FN as in Nation,Category,Time,mean; FN is count, sum, mean, median, least or most</source>
-        <translation type="unfinished"></translation>
+        <translation>ROW,COL,VALUE,FN comme dans Nation,Category,Time,mean ; FN est count, sum, mean, median, least ou most</translation>
     </message>
     <message>
         <source>Team (.kvteam) whose athletes are looked for</source>
-        <translation type="unfinished"></translation>
+        <translation>Équipe (.kvteam) dont on cherche les athlètes</translation>
     </message>
     <message>
         <source>The sheet, where there are several; of a split file which of its lists</source>
-        <translation type="unfinished"></translation>
+        <translation>La feuille, s’il y en a plusieurs ; pour un fichier d’intermédiaires, laquelle de ses listes</translation>
     </message>
     <message>
         <source>File to write the table to: semicolon-separated text</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichier où écrire le tableau : texte séparé par des points-virgules</translation>
     </message>
     <message>
         <source>Category, letter for letter as in the file: MK1, WK1, MC1, WC1, MX1, WX1</source>
-        <translation type="unfinished"></translation>
+        <translation>Catégorie, lettre pour lettre comme dans le fichier : MK1, WK1, MC1, WC1, MX1, WX1</translation>
     </message>
     <message>
         <source>What the athletes of a team reached</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce que les athlètes d’une équipe ont atteint</translation>
     </message>
     <message>
         <source>Name of the athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>Nom de l’athlète</translation>
     </message>
     <message>
         <source>Folder to write &quot;2025 Categorization.pdf&quot; into</source>
-        <translation type="unfinished"></translation>
+        <translation>Dossier où écrire "2025 Categorization.pdf"</translation>
     </message>
     <message>
         <source>Brings files of older releases to the current version</source>
-        <translation type="unfinished"></translation>
+        <translation>Amène des fichiers de versions plus anciennes à la version actuelle</translation>
     </message>
     <message>
         <source>Split files, selection races, plannings and recordings, or folders</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichiers d’intermédiaires, courses de sélection, planifications et enregistrements, ou dossiers</translation>
     </message>
     <message>
         <source>rule</source>
-        <translation type="unfinished"></translation>
+        <translation>règle</translation>
     </message>
     <message>
         <source>source</source>
-        <translation type="unfinished"></translation>
+        <translation>source</translation>
     </message>
     <message>
         <source>note</source>
-        <translation type="unfinished"></translation>
+        <translation>note</translation>
     </message>
     <message>
         <source>split {}</source>
-        <translation type="unfinished"></translation>
+        <translation>intermédiaire {}</translation>
     </message>
     <message>
         <source>entry {}</source>
-        <translation type="unfinished"></translation>
+        <translation>entrée {}</translation>
     </message>
     <message>
         <source>shown {} of {}</source>
-        <translation type="unfinished"></translation>
+        <translation>{} affichés sur {}</translation>
     </message>
     <message>
         <source>{} to {}  ({})</source>
-        <translation type="unfinished"></translation>
+        <translation>de {} à {}  ({})</translation>
     </message>
     <message>
         <source>Imported “%1”</source>
-        <translation type="unfinished"></translation>
+        <translation>« %1 » importé</translation>
     </message>
     <message>
         <source>“%1” cannot be imported</source>
-        <translation type="unfinished"></translation>
+        <translation>« %1 » ne peut pas être importé</translation>
     </message>
     <message>
         <source>Watches and phones (*.gpx *.tcx *.fit *.csv *.tsv *.txt);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Montres et téléphones (*.gpx *.tcx *.fit *.csv *.tsv *.txt);;Tous les fichiers (*)</translation>
     </message>
     <message>
         <source>Import from a watch or a phone</source>
-        <translation type="unfinished"></translation>
+        <translation>Importer d’une montre ou d’un téléphone</translation>
     </message>
     <message>
         <source>The rows of the group.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les lignes du groupe.</translation>
     </message>
     <message>
         <source>number of rows</source>
-        <translation type="unfinished"></translation>
+        <translation>nombre de lignes</translation>
     </message>
     <message>
         <source>The least value of the group&apos;s rows.</source>
-        <translation type="unfinished"></translation>
+        <translation>La plus petite valeur des lignes du groupe.</translation>
     </message>
     <message>
         <source>The mean of the group&apos;s rows.</source>
-        <translation type="unfinished"></translation>
+        <translation>La moyenne des lignes du groupe.</translation>
     </message>
     <message>
         <source>Σ values / rows with a value</source>
-        <translation type="unfinished"></translation>
+        <translation>Σ valeurs / lignes avec une valeur</translation>
     </message>
     <message>
         <source>The middle of the group&apos;s rows.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le milieu des lignes du groupe.</translation>
     </message>
     <message>
         <source>Stopped; nothing was written.</source>
-        <translation type="unfinished"></translation>
+        <translation>Arrêté ; rien n’a été écrit.</translation>
     </message>
     <message numerus="yes">
         <source>{} frames</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>{} image</numerusform>
+            <numerusform>{} images</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>{} films</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>{} film</numerusform>
+            <numerusform>{} films</numerusform>
         </translation>
     </message>
     <message>
         <source>There is nothing to fetch.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il n’y a rien à récupérer.</translation>
     </message>
     <message>
         <source>90 %, Student&apos;s t</source>
-        <translation type="unfinished"></translation>
+        <translation>90 %, t de Student</translation>
     </message>
     <message>
         <source>90 %, Wilson</source>
-        <translation type="unfinished"></translation>
+        <translation>90 %, Wilson</translation>
     </message>
     <message>
         <source>own</source>
-        <translation type="unfinished"></translation>
+        <translation>propre</translation>
     </message>
     <message>
         <source>Time lost between two neighbouring marks that both runs have.</source>
-        <translation type="unfinished"></translation>
+        <translation>Temps perdu entre deux marques voisines que les deux manches possèdent.</translation>
     </message>
     <message>
         <source>Time lost in percent of the reference&apos;s time there.</source>
-        <translation type="unfinished"></translation>
+        <translation>Temps perdu en pour cent du temps de la référence à cet endroit.</translation>
     </message>
     <message>
         <source>100 · (own − reference) / reference</source>
-        <translation type="unfinished"></translation>
+        <translation>100 · (propre − référence) / référence</translation>
     </message>
     <message>
         <source>After a mark that was not taken the next time covers both sections.</source>
-        <translation type="unfinished"></translation>
+        <translation>Après une marque qui n’a pas été prise, le temps suivant couvre les deux secteurs.</translation>
     </message>
     <message>
         <source>Σ times between the marks</source>
-        <translation type="unfinished"></translation>
+        <translation>Σ temps entre les marques</translation>
     </message>
     <message>
         <source>The least time that stands alone, whoever paddled it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le plus petit temps mesuré seul, quel qu’en soit l’auteur.</translation>
     </message>
     <message>
         <source>The median of the finalists&apos; times that stand alone.</source>
-        <translation type="unfinished"></translation>
+        <translation>La médiane des temps des finalistes mesurés seuls.</translation>
     </message>
     <message>
         <source>median times</source>
-        <translation type="unfinished"></translation>
+        <translation>médiane des temps</translation>
     </message>
     <message>
         <source>The difference of the totals, official where both have an official one.</source>
-        <translation type="unfinished"></translation>
+        <translation>La différence des temps totaux, officiels là où les deux manches en ont un.</translation>
     </message>
     <message>
         <source>own total − reference total</source>
-        <translation type="unfinished"></translation>
+        <translation>total propre − total de la référence</translation>
     </message>
     <message>
         <source>All sections and the penalties, as timed from the video.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tous les secteurs et les pénalités, chronométrés sur la vidéo.</translation>
     </message>
     <message>
         <source>What was lost on the water: all stretches together.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce qui a été perdu sur l’eau : tous les tronçons ensemble.</translation>
     </message>
     <message>
         <source>Σ losses</source>
-        <translation type="unfinished"></translation>
+        <translation>Σ pertes</translation>
     </message>
     <message>
         <source>The difference of the penalties.</source>
-        <translation type="unfinished"></translation>
+        <translation>La différence des pénalités.</translation>
     </message>
     <message>
         <source>own penalties − reference&apos;s penalties</source>
-        <translation type="unfinished"></translation>
+        <translation>pénalités propres − pénalités de la référence</translation>
     </message>
     <message>
         <source>What neither water nor penalties tell: official against video time.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce que ni l’eau ni les pénalités n’expliquent : temps officiel face au temps vidéo.</translation>
     </message>
     <message>
         <source>gap − paddling − penalties</source>
-        <translation type="unfinished"></translation>
+        <translation>écart − navigation − pénalités</translation>
     </message>
     <message>
         <source>Time lost in an upstream gate, by its first entry in both runs.</source>
-        <translation type="unfinished"></translation>
+        <translation>Temps perdu dans une remontée, d’après sa première entrée dans les deux manches.</translation>
     </message>
     <message>
         <source>Time lost from the entrance of an upstream gate to its pole line.</source>
-        <translation type="unfinished"></translation>
+        <translation>Temps perdu de l’entrée d’une remontée à sa ligne de porte.</translation>
     </message>
     <message>
         <source>Time lost from the pole line of an upstream gate to its exit.</source>
-        <translation type="unfinished"></translation>
+        <translation>Temps perdu de la ligne de porte d’une remontée à sa sortie.</translation>
     </message>
     <message>
         <source>What a stretch lost outside its upstream gates.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce qu’un tronçon a perdu hors de ses remontées.</translation>
     </message>
     <message>
         <source>loss − Σ gates</source>
-        <translation type="unfinished"></translation>
+        <translation>perte − Σ portes</translation>
     </message>
     <message>
         <source>The part of the loss that notes against the same crew explain.</source>
-        <translation type="unfinished"></translation>
+        <translation>La part de la perte qu’expliquent les notes face au même équipage.</translation>
     </message>
     <message>
         <source>Σ notes / paddling</source>
-        <translation type="unfinished"></translation>
+        <translation>Σ notes / navigation</translation>
     </message>
     <message>
         <source>The time without penalties against the expected time.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le temps sans pénalités face au temps attendu.</translation>
     </message>
     <message>
         <source>paddling time − expected time</source>
-        <translation type="unfinished"></translation>
+        <translation>temps de navigation − temps attendu</translation>
     </message>
     <message>
         <source>The total against a result of interest.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le total face à un résultat qui intéresse.</translation>
     </message>
     <message>
         <source>own total − result</source>
-        <translation type="unfinished"></translation>
+        <translation>total propre − résultat</translation>
     </message>
     <message>
         <source>Time lost as noted; several reasons of one note share it equally.</source>
-        <translation type="unfinished"></translation>
+        <translation>Temps perdu selon les notes ; plusieurs raisons d’une même note se le partagent à parts égales.</translation>
     </message>
     <message>
         <source>Σ notes above 0</source>
-        <translation type="unfinished"></translation>
+        <translation>Σ notes au-dessus de 0</translation>
     </message>
     <message>
         <source>Time gained as noted; several reasons of one note share it equally.</source>
-        <translation type="unfinished"></translation>
+        <translation>Temps gagné selon les notes ; plusieurs raisons d’une même note se le partagent à parts égales.</translation>
     </message>
     <message>
         <source>Σ notes below 0</source>
-        <translation type="unfinished"></translation>
+        <translation>Σ notes au-dessous de 0</translation>
     </message>
     <message>
         <source>What the chosen way cost against the fastest one timed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce qu’a coûté l’option choisie face à la plus rapide chronométrée.</translation>
     </message>
     <message>
         <source>chosen − least timed</source>
-        <translation type="unfinished"></translation>
+        <translation>choisie − minimum chronométré</translation>
     </message>
     <message>
         <source>What was lost in percent of the reference&apos;s time, over whole runs.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce qui a été perdu en pour cent du temps de la référence, sur des manches complètes.</translation>
     </message>
     <message>
         <source>100 · ΣL / ΣB,  SE² = n/(n−1) · Σ(L − qB)² / (ΣB)²</source>
-        <translation type="unfinished"></translation>
+        <translation>100 · ΣL / ΣB,  SE² = n/(n−1) · Σ(L − qB)² / (ΣB)²</translation>
     </message>
     <message>
         <source>ratio estimator: Cochran, Sampling Techniques, 1977</source>
-        <translation type="unfinished"></translation>
+        <translation>estimateur par quotient : Cochran, Sampling Techniques, 1977</translation>
     </message>
     <message>
         <source>What was lost here in a run on the average.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce qui a été perdu ici en moyenne par manche.</translation>
     </message>
     <message>
         <source>ΣL / n</source>
-        <translation type="unfinished"></translation>
+        <translation>ΣL / n</translation>
     </message>
     <message>
         <source>The part of the whole gap that was lost here.</source>
-        <translation type="unfinished"></translation>
+        <translation>La part de l’écart entier qui a été perdue ici.</translation>
     </message>
     <message>
         <source>ΣL / Σgap</source>
-        <translation type="unfinished"></translation>
+        <translation>ΣL / Σécart</translation>
     </message>
     <message>
         <source>The mean gap of the whole runs.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’écart moyen des manches complètes.</translation>
     </message>
     <message>
         <source>Σgap / n</source>
-        <translation type="unfinished"></translation>
+        <translation>Σécart / n</translation>
     </message>
     <message>
         <source>interval: Student&apos;s t</source>
-        <translation type="unfinished"></translation>
+        <translation>intervalle : t de Student</translation>
     </message>
     <message>
         <source>The mean difference of penalties of the whole runs.</source>
-        <translation type="unfinished"></translation>
+        <translation>La différence moyenne de pénalités des manches complètes.</translation>
     </message>
     <message>
         <source>Σ(own − reference) / n</source>
-        <translation type="unfinished"></translation>
+        <translation>Σ(propre − référence) / n</translation>
     </message>
     <message>
         <source>What was lost on the water up to a mark: all stretches before it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce qui a été perdu sur l’eau jusqu’à une marque : tous les tronçons qui la précèdent.</translation>
     </message>
     <message>
         <source>Σ losses to here</source>
-        <translation type="unfinished"></translation>
+        <translation>Σ pertes jusqu’ici</translation>
     </message>
     <message>
         <source>The total of the run: the official one where it has one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le temps total de la manche : l’officiel là où elle en a un.</translation>
     </message>
     <message>
         <source>One more than have a smaller total in the group, to the hundredth.</source>
-        <translation type="unfinished"></translation>
+        <translation>Une de plus que le nombre de celles qui ont un total plus petit dans le groupe, au centième.</translation>
     </message>
     <message>
         <source>1 + totals below the own</source>
-        <translation type="unfinished"></translation>
+        <translation>1 + totaux inférieurs au propre</translation>
     </message>
     <message>
         <source>The strokes that were marked in the stretch.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les coups de pagaie marqués dans le tronçon.</translation>
     </message>
     <message>
         <source>Σ strokes</source>
-        <translation type="unfinished"></translation>
+        <translation>Σ coups de pagaie</translation>
     </message>
     <message>
         <source>The seconds of penalty at the gates of the stretch.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les secondes de pénalité aux portes du tronçon.</translation>
     </message>
     <message>
         <source>Σ penalties</source>
-        <translation type="unfinished"></translation>
+        <translation>Σ pénalités</translation>
     </message>
     <message>
         <source>The whole runs that have something of it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les manches complètes qui en ont quelque chose.</translation>
     </message>
     <message>
         <source>number of runs</source>
-        <translation type="unfinished"></translation>
+        <translation>nombre de manches</translation>
     </message>
     <message>
         <source>What was lost here in all runs together.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce qui a été perdu ici dans toutes les manches ensemble.</translation>
     </message>
     <message>
         <source>Too few runs for an interval.</source>
-        <translation type="unfinished"></translation>
+        <translation>Trop peu de manches pour un intervalle.</translation>
     </message>
     <message>
         <source>lost</source>
-        <translation type="unfinished"></translation>
+        <translation>perdu</translation>
     </message>
     <message>
         <source>reference</source>
-        <translation type="unfinished"></translation>
+        <translation>référence</translation>
     </message>
     <message>
         <source>gap of all runs</source>
-        <translation type="unfinished"></translation>
+        <translation>écart de toutes les manches</translation>
     </message>
     <message>
         <source>run</source>
-        <translation type="unfinished"></translation>
+        <translation>manche</translation>
     </message>
     <message>
         <source>half a frame, four marks</source>
-        <translation type="unfinished"></translation>
+        <translation>une demi-image, quatre marques</translation>
     </message>
     <message>
         <source>loss</source>
-        <translation type="unfinished"></translation>
+        <translation>perte</translation>
     </message>
     <message>
         <source>gap</source>
-        <translation type="unfinished"></translation>
+        <translation>écart</translation>
     </message>
     <message>
         <source>paddling</source>
-        <translation type="unfinished"></translation>
+        <translation>navigation</translation>
     </message>
     <message>
         <source>Shown a hundredth apart, so that the parts add up to the shown gap.</source>
-        <translation type="unfinished"></translation>
+        <translation>Affiché avec un centième d’écart, pour que les parties fassent bien l’écart affiché.</translation>
     </message>
     <message>
         <source>time without penalties</source>
-        <translation type="unfinished"></translation>
+        <translation>temps sans pénalités</translation>
     </message>
     <message>
         <source>expected time</source>
-        <translation type="unfinished"></translation>
+        <translation>temps attendu</translation>
     </message>
     <message>
         <source>result</source>
-        <translation type="unfinished"></translation>
+        <translation>résultat</translation>
     </message>
     <message>
         <source>A missed gate also saved paddling, which the rank without it does not take back.</source>
-        <translation type="unfinished"></translation>
+        <translation>Une porte manquée a aussi épargné de la navigation, ce que le rang sans elle ne corrige pas.</translation>
     </message>
     <message>
         <source>The total holds {} s of penalty, the gates {:.0f} s.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le total contient {} s de pénalité, les portes {:.0f} s.</translation>
     </message>
     <message>
         <source>total</source>
-        <translation type="unfinished"></translation>
+        <translation>total</translation>
     </message>
     <message>
         <source>smaller totals</source>
-        <translation type="unfinished"></translation>
+        <translation>totaux inférieurs</translation>
     </message>
     <message>
         <source>ranked runs</source>
-        <translation type="unfinished"></translation>
+        <translation>manches classées</translation>
     </message>
     <message>
         <source>seconds</source>
-        <translation type="unfinished"></translation>
+        <translation>secondes</translation>
     </message>
     <message>
         <source>rank</source>
-        <translation type="unfinished"></translation>
+        <translation>rang</translation>
     </message>
     <message>
         <source>rank without</source>
-        <translation type="unfinished"></translation>
+        <translation>rang sans</translation>
     </message>
     <message>
         <source>clean run</source>
-        <translation type="unfinished"></translation>
+        <translation>manche sans pénalité</translation>
     </message>
     <message>
         <source>Unfinished runs are not counted: nobody knows whether they would have stayed clean.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les manches inachevées ne sont pas comptées : nul ne sait si elles seraient restées sans pénalité.</translation>
     </message>
     <message>
         <source>{} more are not listed.</source>
-        <translation type="unfinished"></translation>
+        <translation>{} autres ne sont pas listées.</translation>
     </message>
     <message>
         <source>M</source>
-        <translation type="unfinished"></translation>
+        <translation>M</translation>
     </message>
     <message>
         <source>{} more rows are not listed.</source>
-        <translation type="unfinished"></translation>
+        <translation>{} autres lignes ne sont pas listées.</translation>
     </message>
     <message>
         <source>5 % and 95 % of the beta distribution</source>
-        <translation type="unfinished"></translation>
+        <translation>5 % et 95 % de la loi bêta</translation>
     </message>
     <message>
         <source>x</source>
-        <translation type="unfinished"></translation>
+        <translation>x</translation>
     </message>
     <message>
         <source>n</source>
-        <translation type="unfinished"></translation>
+        <translation>n</translation>
     </message>
     <message>
         <source>m</source>
-        <translation type="unfinished"></translation>
+        <translation>m</translation>
     </message>
     <message>
         <source>Wilson&apos;s interval, 90 %</source>
-        <translation type="unfinished"></translation>
+        <translation>intervalle de Wilson, 90 %</translation>
     </message>
     <message>
         <source>{} runs are</source>
-        <translation type="unfinished"></translation>
+        <translation>{} manches sont</translation>
     </message>
     <message>
         <source>{} left out: {} penalties are not known by gate.</source>
-        <translation type="unfinished"></translation>
+        <translation>{} laissées de côté : {} pénalités ne sont pas connues par porte.</translation>
     </message>
     <message>
         <source> and {} more</source>
-        <translation type="unfinished"></translation>
+        <translation> et {} autres</translation>
     </message>
     <message>
         <source>{} {} out: touched more than the {} that all have in common.</source>
-        <translation type="unfinished"></translation>
+        <translation>{} {} à part : davantage de touches que les {} communs à tous.</translation>
     </message>
     <message numerus="yes">
         <source>{} touches</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>{} touche</numerusform>
+            <numerusform>{} touches</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>{} passages</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>{} passage</numerusform>
+            <numerusform>{} passages</numerusform>
         </translation>
     </message>
     <message>
         <source>Too few to tell: {} in {}.</source>
-        <translation type="unfinished"></translation>
+        <translation>Trop peu pour conclure : {} en {}.</translation>
     </message>
     <message>
         <source>Only one {}: there is nothing to compare it with.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un seul groupe ({}) : il n’y a rien à quoi le comparer.</translation>
     </message>
     <message>
         <source>No {} stands out: the highest, {} ({}), may be chance.</source>
-        <translation type="unfinished"></translation>
+        <translation>Rien ne ressort ({}) : le plus haut, {} ({}), peut être dû au hasard.</translation>
     </message>
     <message>
         <source>Without this {}: {}.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sans ce groupe ({}) : {}.</translation>
     </message>
     <message>
         <source>None of {} cost a place.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sur {}, aucune n’a coûté de place.</translation>
     </message>
     <message>
         <source>{} of them</source>
-        <translation type="unfinished"></translation>
+        <translation>{} d’entre elles</translation>
     </message>
     <message>
         <source>Of {} {} cost places, {} a medal.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sur {}, {} ont coûté des places, {} une médaille.</translation>
     </message>
     <message>
         <source>None of {} was noted in detail.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sur {}, aucune n’a été notée en détail.</translation>
     </message>
     <message numerus="yes">
         <source>{} were</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>{} a été</numerusform>
+            <numerusform>{} ont été</numerusform>
         </translation>
     </message>
     <message>
         <source>Of {} {} noted in detail.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sur {}, {} notées en détail.</translation>
     </message>
     <message>
         <source>Too few to tell: no group has {} whole runs.</source>
-        <translation type="unfinished"></translation>
+        <translation>Trop peu pour conclure : aucun groupe n’a {} manches complètes.</translation>
     </message>
     <message>
         <source>{} touches a run in {}, all in one third of the field.</source>
-        <translation type="unfinished"></translation>
+        <translation>{} touches par manche en {}, toutes dans un seul tiers du plateau.</translation>
     </message>
     <message>
         <source>{:.2f} touches a run in the faster third, {:.2f} in the slower.</source>
-        <translation type="unfinished"></translation>
+        <translation>{:.2f} touche par manche dans le tiers rapide, {:.2f} dans le lent.</translation>
     </message>
     <message>
         <source>1 % of speed pays for {:.2f} touches a run.</source>
-        <translation type="unfinished"></translation>
+        <translation>1 % de vitesse paie pour {:.2f} touche par manche.</translation>
     </message>
     <message>
         <source>{} of {} without a penalty: {:.1f} % ({:.1f}–{:.1f}).</source>
-        <translation type="unfinished"></translation>
+        <translation>{} sur {} sans pénalité : {:.1f} % ({:.1f}–{:.1f}).</translation>
     </message>
     <message>
         <source>{} {} {}, place</source>
-        <translation type="unfinished"></translation>
+        <translation>{} {} {}, place</translation>
     </message>
     <message>
         <source>counted</source>
-        <translation type="unfinished"></translation>
+        <translation>comptées</translation>
     </message>
     <message>
         <source>{} left out: {}</source>
-        <translation type="unfinished"></translation>
+        <translation>{} laissées de côté : {}</translation>
     </message>
     <message>
         <source>{} {} of {} ({:.0f}–{:.0f} %)</source>
-        <translation type="unfinished"></translation>
+        <translation>{} {} sur {} ({:.0f}–{:.0f} %)</translation>
     </message>
     <message>
         <source>{:.1f} % behind the winner, {} (median of {})</source>
-        <translation type="unfinished"></translation>
+        <translation>{:.1f} % derrière le vainqueur, {} (médiane de {})</translation>
     </message>
     <message>
         <source>within {:.1f} % from run to run</source>
-        <translation type="unfinished"></translation>
+        <translation>à {:.1f} % près d’une manche à l’autre</translation>
     </message>
     <message>
         <source>trend {:+.1f} % a year: {}</source>
-        <translation type="unfinished"></translation>
+        <translation>tendance {:+.1f} % par an : {}</translation>
     </message>
     <message>
         <source>{}: too few runs to tell a trend behind {}.</source>
-        <translation type="unfinished"></translation>
+        <translation>{} : trop peu de manches pour dire une tendance derrière {}.</translation>
     </message>
     <message>
         <source>{}: {:+.1f} % a year behind {}{}, {}.</source>
-        <translation type="unfinished"></translation>
+        <translation>{} : {:+.1f} % par an derrière {}{}, {}.</translation>
     </message>
     <message>
         <source>{} of {}&apos;s races is known.</source>
-        <translation type="unfinished"></translation>
+        <translation>{} des courses de {} est connu.</translation>
     </message>
     <message>
         <source>Too few runs to tell how much they vary.</source>
-        <translation type="unfinished"></translation>
+        <translation>Trop peu de manches pour dire à quel point elles varient.</translation>
     </message>
     <message>
         <source>From run to run {:.1f} % is chance.</source>
-        <translation type="unfinished"></translation>
+        <translation>D’une manche à l’autre, {:.1f} % est dû au hasard.</translation>
     </message>
     <message>
         <source>From run to run {:.1f} % ({:.1f} to {:.1f}) is chance; {:.2f} % is worth gaining.</source>
-        <translation type="unfinished"></translation>
+        <translation>D’une manche à l’autre, {:.1f} % (de {:.1f} à {:.1f}) est dû au hasard ; gagner {:.2f} % en vaut la peine.</translation>
     </message>
     <message>
         <source>{} of {} grew faster beyond doubt, {} slower.</source>
-        <translation type="unfinished"></translation>
+        <translation>{} sur {} ont progressé sans aucun doute, {} ont ralenti.</translation>
     </message>
     <message>
         <source>{} met nobody in these races.</source>
-        <translation type="unfinished"></translation>
+        <translation>{} n’a rencontré personne dans ces courses.</translation>
     </message>
     <message numerus="yes">
         <source>{} rivals</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>{} rival</numerusform>
+            <numerusform>{} rivaux</numerusform>
         </translation>
     </message>
     <message>
         <source>{} is ahead beyond doubt of {} of {}.</source>
-        <translation type="unfinished"></translation>
+        <translation>{} est devant sans aucun doute face à {} sur {}.</translation>
     </message>
     <message>
         <source>No split file of this class has three whole runs of a {}.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun fichier d’intermédiaires de cette classe n’a trois manches complètes d’une phase ({}).</translation>
     </message>
     <message>
         <source>{:.1f} % would have been among the first three in {} of {}.</source>
-        <translation type="unfinished"></translation>
+        <translation>{:.1f} % aurait été parmi les trois premiers dans {} sur {}.</translation>
     </message>
     <message>
         <source>The third was {:.1f} % behind in the median of {}.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le troisième était à {:.1f} % en médiane de {}.</translation>
     </message>
     <message>
         <source>Nobody of the team has runs enough to expect a place of.</source>
-        <translation type="unfinished"></translation>
+        <translation>Personne de l’équipe n’a assez de manches pour en attendre une place.</translation>
     </message>
     <message>
         <source>{} may expect place {:.1f} of {}, a medal by {:.0f} %.</source>
-        <translation type="unfinished"></translation>
+        <translation>{} peut attendre la place {:.1f} sur {}, une médaille à {:.0f} %.</translation>
     </message>
     <message numerus="yes">
         <source>{} finals</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>{} finale</numerusform>
+            <numerusform>{} finales</numerusform>
         </translation>
     </message>
     <message>
         <source>{:.1f} % would have been a medal in {} of {}</source>
-        <translation type="unfinished"></translation>
+        <translation>{:.1f} % aurait été une médaille dans {} sur {}</translation>
     </message>
     <message>
         <source>Of {} who have both often enough, {} {} beyond doubt faster in {}, {} slower.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sur {} qui ont les deux assez souvent, {} {} sans aucun doute plus rapides en {}, {} plus lents.</translation>
     </message>
     <message>
         <source>{}: {}, {} of {} ({:.0f}–{:.0f} %).</source>
-        <translation type="unfinished"></translation>
+        <translation>{} : {}, {} sur {} ({:.0f}–{:.0f} %).</translation>
     </message>
     <message>
         <source>Nearest to the winners ({}): {}, {:.1f} % (median of {}).</source>
-        <translation type="unfinished"></translation>
+        <translation>Le plus près des vainqueurs ({}) : {}, {:.1f} % (médiane de {}).</translation>
     </message>
     <message>
         <source>No winner of a phase &quot;{}&quot; of these races is known.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun vainqueur d’une phase « {} » de ces courses n’est connu.</translation>
     </message>
     <message>
         <source>split {}, fastest of it {:.2f}</source>
-        <translation type="unfinished"></translation>
+        <translation>intermédiaire {}, le plus rapide {:.2f}</translation>
     </message>
     <message>
         <source>missed</source>
-        <translation type="unfinished"></translation>
+        <translation>manquée</translation>
     </message>
     <message>
         <source>runs</source>
-        <translation type="unfinished"></translation>
+        <translation>manches</translation>
     </message>
     <message>
         <source>all missed</source>
-        <translation type="unfinished"></translation>
+        <translation>toutes manquées</translation>
     </message>
     <message>
         <source>all runs</source>
-        <translation type="unfinished"></translation>
+        <translation>toutes les manches</translation>
     </message>
     <message>
         <source>{}, spread {:.2f}, missed {:.1f} %</source>
-        <translation type="unfinished"></translation>
+        <translation>{}, dispersion {:.2f}, manquées {:.1f} %</translation>
     </message>
     <message>
         <source>How far behind the winner of the phase and class, penalties included.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le retard sur le vainqueur de la phase et de la classe, pénalités comprises.</translation>
     </message>
     <message>
         <source>100 · (T / W − 1)</source>
-        <translation type="unfinished"></translation>
+        <translation>100 · (T / W − 1)</translation>
     </message>
     <message>
         <source>of the class winner, not of the men&apos;s kayaks: Wells, thesis, 2018</source>
-        <translation type="unfinished"></translation>
+        <translation>du vainqueur de la classe, non des kayaks hommes : Wells, thèse, 2018</translation>
     </message>
     <message>
         <source>How far behind the fastest times of all splits together, without penalties.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le retard sur les temps les plus rapides de tous les intermédiaires réunis, sans pénalités.</translation>
     </message>
     <message>
         <source>100 · (Σ splits / Σ fastest − 1)</source>
-        <translation type="unfinished"></translation>
+        <translation>100 · (Σ intermédiaires / Σ plus rapides − 1)</translation>
     </message>
     <message>
         <source>How much a run varies by chance, once the athlete and the course are taken out.</source>
-        <translation type="unfinished"></translation>
+        <translation>De combien une manche varie par hasard, une fois ôtés l’athlète et le parcours.</translation>
     </message>
     <message>
         <source>100 · (e^(s/100) − 1),  s² = Σe² / df,  df = runs − athletes − phases + connected parts</source>
-        <translation type="unfinished"></translation>
+        <translation>100 · (e^(s/100) − 1),  s² = Σe² / df,  df = manches − athlètes − phases + parties connexes</translation>
     </message>
     <message>
         <source>mixed model of elite canoeists: Bonetti, Hopkins, 2010; interval: χ²</source>
-        <translation type="unfinished"></translation>
+        <translation>modèle mixte de céistes d’élite : Bonetti, Hopkins, 2010 ; intervalle : χ²</translation>
     </message>
     <message>
         <source>How much this athlete&apos;s runs varied by chance.</source>
-        <translation type="unfinished"></translation>
+        <translation>De combien les manches de cet athlète ont varié par hasard.</translation>
     </message>
     <message>
         <source>s² = Σe² / (runs · df / all runs)</source>
-        <translation type="unfinished"></translation>
+        <translation>s² = Σe² / (manches · df / toutes les manches)</translation>
     </message>
     <message>
         <source>The athlete&apos;s spread drawn towards the common one, the more the fewer the runs.</source>
-        <translation type="unfinished"></translation>
+        <translation>La dispersion de l’athlète ramenée vers la dispersion commune, d’autant plus que les manches sont peu nombreuses.</translation>
     </message>
     <message>
         <source>s² = (Σe² + 10 · common s²) / (runs · df / all runs + 10)</source>
-        <translation type="unfinished"></translation>
+        <translation>s² = (Σe² + 10 · s² commun) / (manches · df / toutes les manches + 10)</translation>
     </message>
     <message>
         <source>What is worth gaining: one more medal in ten races among equals at the top.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce qu’il vaut la peine de gagner : une médaille de plus en dix courses entre égaux au sommet.</translation>
     </message>
     <message>
         <source>0.3 · spread</source>
-        <translation type="unfinished"></translation>
+        <translation>0,3 · dispersion</translation>
     </message>
     <message>
         <source>Hopkins, 2004</source>
-        <translation type="unfinished"></translation>
+        <translation>Hopkins, 2004</translation>
     </message>
     <message>
         <source>The change of the percentage behind from year to year.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’évolution du pourcentage de retard d’année en année.</translation>
     </message>
     <message>
         <source>slope of 100 · ln(1 + percent/100) per 365.25 days</source>
-        <translation type="unfinished"></translation>
+        <translation>pente de 100 · ln(1 + pour cent/100) par 365,25 jours</translation>
     </message>
     <message>
         <source>Races among whose first three the athlete was.</source>
-        <translation type="unfinished"></translation>
+        <translation>Courses où l’athlète était parmi les trois premiers.</translation>
     </message>
     <message>
         <source>places 1 to 3 / races with a final position</source>
-        <translation type="unfinished"></translation>
+        <translation>places de 1 à 3 / courses avec une place finale</translation>
     </message>
     <message>
         <source>interval: Wilson</source>
-        <translation type="unfinished"></translation>
+        <translation>intervalle : Wilson</translation>
     </message>
     <message>
         <source>Races in whose final the athlete was.</source>
-        <translation type="unfinished"></translation>
+        <translation>Courses dont l’athlète a couru la finale.</translation>
     </message>
     <message>
         <source>with a final / with phases</source>
-        <translation type="unfinished"></translation>
+        <translation>avec une finale / avec des phases</translation>
     </message>
     <message>
         <source>Races in whose semifinal the athlete was.</source>
-        <translation type="unfinished"></translation>
+        <translation>Courses dont l’athlète a couru la demi-finale.</translation>
     </message>
     <message>
         <source>with a semifinal / with phases</source>
-        <translation type="unfinished"></translation>
+        <translation>avec une demi-finale / avec des phases</translation>
     </message>
     <message>
         <source>The mean change from one phase of a race to a later one.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’évolution moyenne d’une phase d’une course à une phase ultérieure.</translation>
     </message>
     <message>
         <source>mean of 100 · (ln later − ln earlier)</source>
-        <translation type="unfinished"></translation>
+        <translation>moyenne de 100 · (ln ultérieure − ln antérieure)</translation>
     </message>
     <message>
         <source>How much a single run varies by chance, from pairs of them.</source>
-        <translation type="unfinished"></translation>
+        <translation>De combien une seule manche varie par hasard, d’après des paires de manches.</translation>
     </message>
     <message>
         <source>SD of the changes / √2</source>
-        <translation type="unfinished"></translation>
+        <translation>écart-type des évolutions / √2</translation>
     </message>
     <message>
         <source>typical error: Hopkins, 2000</source>
-        <translation type="unfinished"></translation>
+        <translation>erreur type : Hopkins, 2000</translation>
     </message>
     <message>
         <source>Phases that both have in which the athlete was faster; ties count half.</source>
-        <translation type="unfinished"></translation>
+        <translation>Phases communes où l’athlète était plus rapide ; les ex æquo comptent pour moitié.</translation>
     </message>
     <message>
         <source>(won + ties/2) / met</source>
-        <translation type="unfinished"></translation>
+        <translation>(gagnées + ex æquo/2) / rencontres</translation>
     </message>
     <message>
         <source>The mean gap in the phases that both have, penalties included.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’écart moyen dans les phases communes, pénalités comprises.</translation>
     </message>
     <message>
         <source>mean of 100 · ln(own / rival&apos;s)</source>
-        <translation type="unfinished"></translation>
+        <translation>moyenne de 100 · ln(propre / celui du rival)</translation>
     </message>
     <message>
         <source>What percentage behind the winner a rank took, over the races.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le pourcentage derrière le vainqueur d’un rang, au fil des courses.</translation>
     </message>
     <message>
         <source>median of 100 · (T of the rank / W − 1)</source>
-        <translation type="unfinished"></translation>
+        <translation>médiane de 100 · (T du rang / W − 1)</translation>
     </message>
     <message>
         <source>The chance of a missed gate, drawn towards everybody&apos;s as if by 20 runs more.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le risque d’une porte manquée, ramené vers celui de tous comme par 20 manches de plus.</translation>
     </message>
     <message>
         <source>(missed + 20q) / (runs + 20),  q = (all missed + ½) / (all runs + 1)</source>
-        <translation type="unfinished"></translation>
+        <translation>(manquées + 20q) / (manches + 20),  q = (toutes manquées + ½) / (toutes les manches + 1)</translation>
     </message>
     <message>
         <source>The mean place among this field; with a missed gate behind all that have none.</source>
-        <translation type="unfinished"></translation>
+        <translation>La place moyenne dans ce plateau ; avec une porte manquée, derrière tous ceux qui n’en ont pas.</translation>
     </message>
     <message>
         <source>Σ place · chance,  result normal: effect, spread · √(1 + 1/n)</source>
-        <translation type="unfinished"></translation>
+        <translation>Σ place · probabilité,  résultat normal : effet, dispersion · √(1 + 1/n)</translation>
     </message>
     <message>
         <source>The chance of one of the first three places among this field.</source>
-        <translation type="unfinished"></translation>
+        <translation>La probabilité d’une des trois premières places dans ce plateau.</translation>
     </message>
     <message>
         <source>chances of the places 1 to 3</source>
-        <translation type="unfinished"></translation>
+        <translation>probabilités des places 1 à 3</translation>
     </message>
     <message>
         <source>How far behind the winners of a phase, the same number of races before and behind it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le retard sur les vainqueurs d’une phase, autant de courses avant qu’après.</translation>
     </message>
     <message>
         <source>median of 100 · (T / W − 1), without missed gates</source>
-        <translation type="unfinished"></translation>
+        <translation>médiane de 100 · (T / W − 1), sans portes manquées</translation>
     </message>
     <message>
         <source>{} {} {}, percent</source>
-        <translation type="unfinished"></translation>
+        <translation>{} {} {}, pour cent</translation>
     </message>
     <message>
         <source>90 %, Student&apos;s t with {} degrees</source>
-        <translation type="unfinished"></translation>
+        <translation>90 %, t de Student à {} degrés</translation>
     </message>
     <message>
         <source>{:+.1f} % a year</source>
-        <translation type="unfinished"></translation>
+        <translation>{:+.1f} % par an</translation>
     </message>
     <message>
         <source>spread, percent</source>
-        <translation type="unfinished"></translation>
+        <translation>dispersion, pour cent</translation>
     </message>
     <message>
         <source>athletes</source>
-        <translation type="unfinished"></translation>
+        <translation>athlètes</translation>
     </message>
     <message>
         <source>race phases</source>
-        <translation type="unfinished"></translation>
+        <translation>phases de course</translation>
     </message>
     <message>
         <source>connected parts</source>
-        <translation type="unfinished"></translation>
+        <translation>parties connexes</translation>
     </message>
     <message>
         <source>degrees of freedom</source>
-        <translation type="unfinished"></translation>
+        <translation>degrés de liberté</translation>
     </message>
     <message>
         <source>90 %, χ²</source>
-        <translation type="unfinished"></translation>
+        <translation>90 %, χ²</translation>
     </message>
     <message>
         <source>common spread, percent</source>
-        <translation type="unfinished"></translation>
+        <translation>dispersion commune, pour cent</translation>
     </message>
     <message>
         <source>{} with a missed gate left out</source>
-        <translation type="unfinished"></translation>
+        <translation>{} avec une porte manquée laissées de côté</translation>
     </message>
     <message>
         <source>exact Poisson interval, 90 %</source>
-        <translation type="unfinished"></translation>
+        <translation>intervalle exact de Poisson, 90 %</translation>
     </message>
     <message>
         <source>median paddling</source>
-        <translation type="unfinished"></translation>
+        <translation>médiane de navigation</translation>
     </message>
     <message>
         <source>Sections</source>
-        <translation type="unfinished"></translation>
+        <translation>Secteurs</translation>
     </message>
     <message>
         <source>Course</source>
-        <translation type="unfinished"></translation>
+        <translation>Parcours</translation>
     </message>
     <message>
         <source>Upstream gates</source>
-        <translation type="unfinished"></translation>
+        <translation>Remontées</translation>
     </message>
     <message>
         <source>Direction</source>
-        <translation type="unfinished"></translation>
+        <translation>Direction</translation>
     </message>
     <message>
         <source>Style</source>
-        <translation type="unfinished"></translation>
+        <translation>Style</translation>
     </message>
     <message>
         <source>not known</source>
-        <translation type="unfinished"></translation>
+        <translation>inconnu</translation>
     </message>
     <message>
         <source> (%1 to %2)</source>
-        <translation type="unfinished"></translation>
+        <translation> (de %1 à %2)</translation>
     </message>
     <message>
         <source> (too few)</source>
-        <translation type="unfinished"></translation>
+        <translation> (trop peu)</translation>
     </message>
     <message>
         <source>%1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 sur %2</translation>
     </message>
     <message>
         <source>%1 in %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 en %2</translation>
     </message>
     <message>
         <source>Losses and penalties · %1on the reference &quot;%2&quot; · %3</source>
-        <translation type="unfinished"></translation>
+        <translation>Pertes et pénalités · %1face à la référence « %2 » · %3</translation>
     </message>
     <message>
         <source>Where time is lost</source>
-        <translation type="unfinished"></translation>
+        <translation>Où le temps est perdu</translation>
     </message>
     <message>
         <source>Seconds a run: gap %1, penalties %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Secondes par manche : écart %1, pénalités %2</translation>
     </message>
     <message>
         <source>No whole run can be held against this reference.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucune manche complète ne peut être comparée à cette référence.</translation>
     </message>
     <message>
         <source>%1 more rows are left out.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 autres lignes sont laissées de côté.</translation>
     </message>
     <message>
         <source>In</source>
-        <translation type="unfinished"></translation>
+        <translation>Dans</translation>
     </message>
     <message>
         <source>Runs</source>
-        <translation type="unfinished"></translation>
+        <translation>Manches</translation>
     </message>
     <message>
         <source>Lost, s</source>
-        <translation type="unfinished"></translation>
+        <translation>Perdu, s</translation>
     </message>
     <message>
         <source>A run, s</source>
-        <translation type="unfinished"></translation>
+        <translation>Par manche, s</translation>
     </message>
     <message>
         <source>Percent</source>
-        <translation type="unfinished"></translation>
+        <translation>Pour cent</translation>
     </message>
     <message>
         <source>90 % interval</source>
-        <translation type="unfinished"></translation>
+        <translation>Intervalle à 90 %</translation>
     </message>
     <message>
         <source>Verdict</source>
-        <translation type="unfinished"></translation>
+        <translation>Verdict</translation>
     </message>
     <message>
         <source>too few</source>
-        <translation type="unfinished"></translation>
+        <translation>trop peu</translation>
     </message>
     <message>
         <source>%1, run %2, %3 %4</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, manche %2, %3 %4</translation>
     </message>
     <message>
         <source>What to train</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce qu’il faut travailler</translation>
     </message>
     <message>
         <source>whose whole interval is above 0, by what it costs in a run</source>
-        <translation type="unfinished"></translation>
+        <translation>dont tout l’intervalle est au-dessus de 0, selon ce que cela coûte par manche</translation>
     </message>
     <message>
         <source>Nothing stands out from these runs.</source>
-        <translation type="unfinished"></translation>
+        <translation>Rien ne ressort de ces manches.</translation>
     </message>
     <message>
         <source>%1. %2, %3: %4 s a run</source>
-        <translation type="unfinished"></translation>
+        <translation>%1. %2, %3 : %4 s par manche</translation>
     </message>
     <message>
         <source>See </source>
-        <translation type="unfinished"></translation>
+        <translation>Voir </translation>
     </message>
     <message>
         <source>Gates</source>
-        <translation type="unfinished"></translation>
+        <translation>Portes</translation>
     </message>
     <message>
         <source>Touches</source>
-        <translation type="unfinished"></translation>
+        <translation>Touches</translation>
     </message>
     <message>
         <source>Missed</source>
-        <translation type="unfinished"></translation>
+        <translation>Manquées</translation>
     </message>
     <message>
         <source>Percent, 90 %</source>
-        <translation type="unfinished"></translation>
+        <translation>Pour cent, 90 %</translation>
     </message>
     <message>
         <source>All</source>
-        <translation type="unfinished"></translation>
+        <translation>Tous</translation>
     </message>
     <message>
         <source>Type</source>
-        <translation type="unfinished"></translation>
+        <translation>Type</translation>
     </message>
     <message>
         <source>Tenth of course</source>
-        <translation type="unfinished"></translation>
+        <translation>Dixième du parcours</translation>
     </message>
     <message>
         <source>Penalties</source>
-        <translation type="unfinished"></translation>
+        <translation>Pénalités</translation>
     </message>
     <message>
         <source>No run tells its penalties by gate.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucune manche ne dit ses pénalités par porte.</translation>
     </message>
     <message>
         <source>Noted of %1 %2, shares of those noted:</source>
-        <translation type="unfinished"></translation>
+        <translation>Noté pour %1 %2, parts des pénalités notées :</translation>
     </message>
     <message>
         <source>penalty</source>
-        <translation type="unfinished"></translation>
+        <translation>pénalité</translation>
     </message>
     <message>
         <source>Penalties by gate</source>
-        <translation type="unfinished"></translation>
+        <translation>Pénalités par porte</translation>
     </message>
     <message>
         <source>and %1 more gates</source>
-        <translation type="unfinished"></translation>
+        <translation>et %1 autres portes</translation>
     </message>
     <message numerus="yes">
         <source>{} missed gates</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>{} porte manquée</numerusform>
+            <numerusform>{} portes manquées</numerusform>
         </translation>
     </message>
     <message>
         <source> in </source>
-        <translation type="unfinished"></translation>
+        <translation> dans </translation>
     </message>
     <message>
         <source>upstream gate</source>
-        <translation type="unfinished"></translation>
+        <translation>remontée</translation>
     </message>
     <message>
         <source>blue</source>
-        <translation type="unfinished"></translation>
+        <translation>bleu</translation>
     </message>
     <message>
         <source>green</source>
-        <translation type="unfinished"></translation>
+        <translation>vert</translation>
     </message>
     <message>
         <source>orange</source>
-        <translation type="unfinished"></translation>
+        <translation>orange</translation>
     </message>
     <message>
         <source>red</source>
-        <translation type="unfinished"></translation>
+        <translation>rouge</translation>
     </message>
     <message>
         <source>fastest*, %1</source>
-        <translation type="unfinished"></translation>
+        <translation>le plus rapide*, %1</translation>
     </message>
     <message>
         <source>%1, slowest, by tenths of the column</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, le plus lent, par dixièmes de la colonne</translation>
     </message>
     <message>
         <source>* best of its column, in %1; all others in %2</source>
-        <translation type="unfinished"></translation>
+        <translation>* meilleur de sa colonne, en %1 ; tous les autres en %2</translation>
     </message>
     <message>
         <source>Page %1 / %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Page %1 / %2</translation>
     </message>
     <message>
         <source>Sessions</source>
-        <translation type="unfinished"></translation>
+        <translation>Séances</translation>
     </message>
     <message>
         <source>Quantity</source>
-        <translation type="unfinished"></translation>
+        <translation>Quantité</translation>
     </message>
     <message>
         <source>Category</source>
-        <translation type="unfinished"></translation>
+        <translation>Catégorie</translation>
     </message>
     <message>
         <source>plan</source>
-        <translation type="unfinished"></translation>
+        <translation>plan</translation>
     </message>
     <message>
         <source>listed</source>
-        <translation type="unfinished"></translation>
+        <translation>noté</translation>
     </message>
     <message>
         <source>Nothing is planned and nothing entered.</source>
-        <translation type="unfinished"></translation>
+        <translation>Rien n’est prévu ni saisi.</translation>
     </message>
     <message>
         <source>Season %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Saison %1</translation>
     </message>
     <message>
         <source>Weeks</source>
-        <translation type="unfinished"></translation>
+        <translation>Semaines</translation>
     </message>
     <message>
         <source>Macrocycles</source>
-        <translation type="unfinished"></translation>
+        <translation>Macrocycles</translation>
     </message>
     <message>
         <source>Weeks with an event</source>
-        <translation type="unfinished"></translation>
+        <translation>Semaines avec une compétition</translation>
     </message>
     <message>
         <source>Races run</source>
-        <translation type="unfinished"></translation>
+        <translation>Courses disputées</translation>
     </message>
     <message>
         <source>Group %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Groupe %1</translation>
     </message>
     <message>
         <source>  ·  %1 of %2 reached</source>
-        <translation type="unfinished"></translation>
+        <translation>  ·  %1 sur %2 atteints</translation>
     </message>
     <message>
         <source>Goals of the season</source>
-        <translation type="unfinished"></translation>
+        <translation>Objectifs de la saison</translation>
     </message>
     <message>
         <source>No week of this season is planned yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucune semaine de cette saison n’est encore planifiée.</translation>
     </message>
     <message>
         <source>Training by category</source>
-        <translation type="unfinished"></translation>
+        <translation>Entraînement par catégorie</translation>
     </message>
     <message>
         <source>Week</source>
-        <translation type="unfinished"></translation>
+        <translation>Semaine</translation>
     </message>
     <message>
         <source>Days</source>
-        <translation type="unfinished"></translation>
+        <translation>Jours</translation>
     </message>
     <message>
         <source>Macrocycle</source>
-        <translation type="unfinished"></translation>
+        <translation>Macrocycle</translation>
     </message>
     <message>
         <source>Mesocycle</source>
-        <translation type="unfinished"></translation>
+        <translation>Mésocycle</translation>
     </message>
     <message>
         <source>Load, %</source>
-        <translation type="unfinished"></translation>
+        <translation>Charge, %</translation>
     </message>
     <message>
         <source>Event, place</source>
-        <translation type="unfinished"></translation>
+        <translation>Compétition, lieu</translation>
     </message>
     <message>
         <source>Tests</source>
-        <translation type="unfinished"></translation>
+        <translation>Tests</translation>
     </message>
     <message>
         <source>Morning</source>
-        <translation type="unfinished"></translation>
+        <translation>Matin</translation>
     </message>
     <message>
         <source>Afternoon</source>
-        <translation type="unfinished"></translation>
+        <translation>Après-midi</translation>
     </message>
     <message>
         <source>Evening</source>
-        <translation type="unfinished"></translation>
+        <translation>Soir</translation>
     </message>
     <message>
         <source>Any time</source>
-        <translation type="unfinished"></translation>
+        <translation>À toute heure</translation>
     </message>
     <message>
         <source>Session</source>
-        <translation type="unfinished"></translation>
+        <translation>Séance</translation>
     </message>
     <message>
         <source>continued</source>
-        <translation type="unfinished"></translation>
+        <translation>suite</translation>
     </message>
     <message>
         <source>Other days</source>
-        <translation type="unfinished"></translation>
+        <translation>Autres jours</translation>
     </message>
     <message>
         <source>Training week</source>
-        <translation type="unfinished"></translation>
+        <translation>Semaine d’entraînement</translation>
     </message>
     <message>
         <source>Week %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Semaine %1</translation>
     </message>
     <message>
         <source>Goals of the week</source>
-        <translation type="unfinished"></translation>
+        <translation>Objectifs de la semaine</translation>
     </message>
     <message>
         <source>Notes</source>
-        <translation type="unfinished"></translation>
+        <translation>Notes</translation>
     </message>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Nom</translation>
     </message>
     <message>
         <source>Time</source>
-        <translation type="unfinished"></translation>
+        <translation>Temps</translation>
     </message>
     <message>
         <source>Pen</source>
-        <translation type="unfinished"></translation>
+        <translation>Pén.</translation>
     </message>
     <message>
         <source>Total</source>
-        <translation type="unfinished"></translation>
+        <translation>Total</translation>
     </message>
     <message>
         <source>Gap</source>
-        <translation type="unfinished"></translation>
+        <translation>Écart</translation>
     </message>
     <message>
         <source>Section</source>
-        <translation type="unfinished"></translation>
+        <translation>Secteur</translation>
     </message>
     <message>
         <source>Best</source>
-        <translation type="unfinished"></translation>
+        <translation>Meilleur</translation>
     </message>
     <message>
         <source>By</source>
-        <translation type="unfinished"></translation>
+        <translation>Par</translation>
     </message>
     <message>
         <source>Results</source>
-        <translation type="unfinished"></translation>
+        <translation>Résultats</translation>
     </message>
     <message>
         <source>Ideal run without penalties</source>
-        <translation type="unfinished"></translation>
+        <translation>Manche idéale sans pénalités</translation>
     </message>
     <message>
         <source>Ideal run</source>
-        <translation type="unfinished"></translation>
+        <translation>Manche idéale</translation>
     </message>
     <message>
         <source>Fastest run</source>
-        <translation type="unfinished"></translation>
+        <translation>Manche la plus rapide</translation>
     </message>
     <message>
         <source>Split times</source>
-        <translation type="unfinished"></translation>
+        <translation>Temps intermédiaires</translation>
     </message>
     <message>
         <source>There are no runs to show.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il n’y a aucune manche à afficher.</translation>
     </message>
     <message>
         <source>%1 gates</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 portes</translation>
     </message>
     <message>
         <source>, %1 upstream</source>
-        <translation type="unfinished"></translation>
+        <translation>, dont %1 en remontée</translation>
     </message>
     <message>
         <source>Race</source>
-        <translation type="unfinished"></translation>
+        <translation>Course</translation>
     </message>
     <message>
         <source>Place</source>
-        <translation type="unfinished"></translation>
+        <translation>Place</translation>
     </message>
     <message>
         <source>Date</source>
-        <translation type="unfinished"></translation>
+        <translation>Date</translation>
     </message>
     <message>
         <source>Water</source>
-        <translation type="unfinished"></translation>
+        <translation>Eau</translation>
     </message>
     <message>
         <source>For comparison</source>
-        <translation type="unfinished"></translation>
+        <translation>Pour comparaison</translation>
     </message>
     <message>
         <source>Phase</source>
-        <translation type="unfinished"></translation>
+        <translation>Phase</translation>
     </message>
     <message>
         <source>Cat</source>
-        <translation type="unfinished"></translation>
+        <translation>Cat.</translation>
     </message>
     <message>
         <source> Grey: not timed as a whole, never a best.</source>
-        <translation type="unfinished"></translation>
+        <translation> Gris : non chronométré en entier, jamais un meilleur.</translation>
     </message>
     <message>
         <source>Split %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Intermédiaire %1</translation>
     </message>
     <message>
         <source>Run</source>
-        <translation type="unfinished"></translation>
+        <translation>Manche</translation>
     </message>
     <message>
         <source>%1 s of %2 s; strokes are counted of whole sections.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 s sur %2 s ; les coups de pagaie sont comptés sur des secteurs entiers.</translation>
     </message>
     <message>
         <source>The penalties of this run are not known by gate.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les pénalités de cette manche ne sont pas connues par porte.</translation>
     </message>
     <message>
         <source>Time so far</source>
-        <translation type="unfinished"></translation>
+        <translation>Temps jusqu’ici</translation>
     </message>
     <message>
         <source>Among all runs</source>
-        <translation type="unfinished"></translation>
+        <translation>Parmi toutes les manches</translation>
     </message>
     <message>
         <source>Among all runs of </source>
-        <translation type="unfinished"></translation>
+        <translation>Parmi toutes les manches de </translation>
     </message>
     <message>
         <source>Gate</source>
-        <translation type="unfinished"></translation>
+        <translation>Porte</translation>
     </message>
     <message>
         <source>Entrance</source>
-        <translation type="unfinished"></translation>
+        <translation>Entrée</translation>
     </message>
     <message>
         <source>Exit</source>
-        <translation type="unfinished"></translation>
+        <translation>Sortie</translation>
     </message>
     <message>
         <source>Turn</source>
-        <translation type="unfinished"></translation>
+        <translation>Virage</translation>
     </message>
     <message>
         <source>Time losses</source>
-        <translation type="unfinished"></translation>
+        <translation>Pertes de temps</translation>
     </message>
     <message>
         <source>Against</source>
-        <translation type="unfinished"></translation>
+        <translation>Face à</translation>
     </message>
     <message>
         <source>Seconds</source>
-        <translation type="unfinished"></translation>
+        <translation>Secondes</translation>
     </message>
     <message>
         <source>Tags</source>
-        <translation type="unfinished"></translation>
+        <translation>Étiquettes</translation>
     </message>
     <message>
         <source>Tag</source>
-        <translation type="unfinished"></translation>
+        <translation>Étiquette</translation>
     </message>
     <message>
         <source>In the run at</source>
-        <translation type="unfinished"></translation>
+        <translation>À, dans la manche</translation>
     </message>
     <message>
         <source>Comments</source>
-        <translation type="unfinished"></translation>
+        <translation>Commentaires</translation>
     </message>
     <message>
         <source>Split {}</source>
-        <translation type="unfinished"></translation>
+        <translation>Intermédiaire {}</translation>
     </message>
     <message>
         <source>best</source>
-        <translation type="unfinished"></translation>
+        <translation>meilleur</translation>
     </message>
     <message>
         <source>Strokes</source>
-        <translation type="unfinished"></translation>
+        <translation>Coups</translation>
     </message>
     <message>
         <source>per min</source>
-        <translation type="unfinished"></translation>
+        <translation>par min</translation>
     </message>
     <message>
         <source>Split</source>
-        <translation type="unfinished"></translation>
+        <translation>Inter</translation>
     </message>
     <message>
         <source>Rank</source>
-        <translation type="unfinished"></translation>
+        <translation>Rang</translation>
     </message>
     <message>
         <source>Penalty</source>
-        <translation type="unfinished"></translation>
+        <translation>Pénalité</translation>
     </message>
     <message>
         <source>on the film</source>
-        <translation type="unfinished"></translation>
+        <translation>sur le film</translation>
     </message>
     <message>
         <source>recording</source>
-        <translation type="unfinished"></translation>
+        <translation>enregistrement</translation>
     </message>
     <message>
         <source>gap and rank among all runs of the category; the run&apos;s with penalties</source>
-        <translation type="unfinished"></translation>
+        <translation>écart et rang parmi toutes les manches de la catégorie ; pour la manche avec pénalités</translation>
     </message>
     <message>
         <source>Splits</source>
-        <translation type="unfinished"></translation>
+        <translation>Inters</translation>
     </message>
     <message>
         <source>and %1 more</source>
-        <translation type="unfinished"></translation>
+        <translation>et %1 autres</translation>
     </message>
     <message>
         <source>Recording: </source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrement : </translation>
     </message>
     <message>
         <source>third of the final, median</source>
-        <translation type="unfinished"></translation>
+        <translation>troisième de la finale, médiane</translation>
     </message>
     <message>
         <source>rank %1: %2 %</source>
-        <translation type="unfinished"></translation>
+        <translation>rang %1 : %2 %</translation>
     </message>
     <message>
         <source>own median</source>
-        <translation type="unfinished"></translation>
+        <translation>médiane propre</translation>
     </message>
     <message>
         <source>Medal</source>
-        <translation type="unfinished"></translation>
+        <translation>Médaille</translation>
     </message>
     <message>
         <source>Season </source>
-        <translation type="unfinished"></translation>
+        <translation>Saison </translation>
     </message>
     <message>
         <source>%1 · %2 races · intervals are 90 %</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 · %2 courses · les intervalles sont à 90 %</translation>
     </message>
     <message>
         <source>Percent behind the winner</source>
-        <translation type="unfinished"></translation>
+        <translation>Pourcentage derrière le vainqueur</translation>
     </message>
     <message>
         <source>Percent behind the fastest splits</source>
-        <translation type="unfinished"></translation>
+        <translation>Pourcentage derrière les intermédiaires les plus rapides</translation>
     </message>
     <message>
         <source>Races</source>
-        <translation type="unfinished"></translation>
+        <translation>Courses</translation>
     </message>
     <message>
         <source>Reached</source>
-        <translation type="unfinished"></translation>
+        <translation>Atteint</translation>
     </message>
     <message>
         <source>Medals</source>
-        <translation type="unfinished"></translation>
+        <translation>Médailles</translation>
     </message>
     <message>
         <source>Finals</source>
-        <translation type="unfinished"></translation>
+        <translation>Finales</translation>
     </message>
     <message>
         <source>Semifinals</source>
-        <translation type="unfinished"></translation>
+        <translation>Demi-finales</translation>
     </message>
     <message>
         <source>Medals and finals</source>
-        <translation type="unfinished"></translation>
+        <translation>Médailles et finales</translation>
     </message>
     <message>
         <source>Change, below 0 is faster</source>
-        <translation type="unfinished"></translation>
+        <translation>Évolution, plus rapide au-dessous de 0</translation>
     </message>
     <message>
         <source>A year on the winner</source>
-        <translation type="unfinished"></translation>
+        <translation>Par an sur le vainqueur</translation>
     </message>
     <message>
         <source>A year on the splits</source>
-        <translation type="unfinished"></translation>
+        <translation>Par an sur les intermédiaires</translation>
     </message>
     <message>
         <source>Run 1 to run 2</source>
-        <translation type="unfinished"></translation>
+        <translation>De la manche 1 à la manche 2</translation>
     </message>
     <message>
         <source>Semifinal to final</source>
-        <translation type="unfinished"></translation>
+        <translation>De la demi-finale à la finale</translation>
     </message>
     <message>
         <source>Heats to final, behind</source>
-        <translation type="unfinished"></translation>
+        <translation>Des qualifications à la finale, retard</translation>
     </message>
     <message>
         <source>Changes</source>
-        <translation type="unfinished"></translation>
+        <translation>Évolutions</translation>
     </message>
     <message>
         <source>Ahead of</source>
-        <translation type="unfinished"></translation>
+        <translation>Devant</translation>
     </message>
     <message>
         <source>Met</source>
-        <translation type="unfinished"></translation>
+        <translation>Rencontres</translation>
     </message>
     <message>
         <source>Head to head</source>
-        <translation type="unfinished"></translation>
+        <translation>Face à face</translation>
     </message>
     <message>
         <source>What a rank of the final took</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce que demandait un rang de la finale</translation>
     </message>
     <message>
         <source>%1 athletes · intervals are 90 %</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 athlètes · les intervalles sont à 90 %</translation>
     </message>
     <message>
         <source>Athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>Athlète</translation>
     </message>
     <message>
         <source>Chance, %</source>
-        <translation type="unfinished"></translation>
+        <translation>Hasard, %</translation>
     </message>
     <message>
         <source>% a year</source>
-        <translation type="unfinished"></translation>
+        <translation>% par an</translation>
     </message>
     <message>
         <source>On the splits</source>
-        <translation type="unfinished"></translation>
+        <translation>Sur les intermédiaires</translation>
     </message>
     <message>
         <source>On the winner</source>
-        <translation type="unfinished"></translation>
+        <translation>Sur le vainqueur</translation>
     </message>
     <message>
         <source>Athletes</source>
-        <translation type="unfinished"></translation>
+        <translation>Athlètes</translation>
     </message>
     <message>
         <source>What a rank took: </source>
-        <translation type="unfinished"></translation>
+        <translation>Ce que demandait un rang : </translation>
     </message>
     <message>
         <source>Expected places</source>
-        <translation type="unfinished"></translation>
+        <translation>Places attendues</translation>
     </message>
     <message>
         <source>best %1</source>
-        <translation type="unfinished"></translation>
+        <translation>meilleur %1</translation>
     </message>
     <message>
         <source> · races %1 to %2</source>
-        <translation type="unfinished"></translation>
+        <translation> · courses %1 à %2</translation>
     </message>
     <message>
         <source>, continued</source>
-        <translation type="unfinished"></translation>
+        <translation>, suite</translation>
     </message>
     <message>
         <source>Pos</source>
-        <translation type="unfinished"></translation>
+        <translation>Pos.</translation>
     </message>
     <message>
         <source>SURNAME Name</source>
-        <translation type="unfinished"></translation>
+        <translation>NOM Prénom</translation>
     </message>
     <message>
         <source>Club</source>
-        <translation type="unfinished"></translation>
+        <translation>Club</translation>
     </message>
     <message>
         <source>Year</source>
-        <translation type="unfinished"></translation>
+        <translation>Année</translation>
     </message>
     <message>
         <source>xTime</source>
-        <translation type="unfinished"></translation>
+        <translation>xTime</translation>
     </message>
     <message>
         <source>Bonus</source>
-        <translation type="unfinished"></translation>
+        <translation>Bonus</translation>
     </message>
     <message>
         <source>x Score</source>
-        <translation type="unfinished"></translation>
+        <translation>Score x</translation>
     </message>
     <message>
         <source>Score</source>
-        <translation type="unfinished"></translation>
+        <translation>Score</translation>
     </message>
     <message>
         <source>Percent behind the best of the race and category. </source>
-        <translation type="unfinished"></translation>
+        <translation>Pourcentage derrière le meilleur de la course et de la catégorie. </translation>
     </message>
     <message>
         <source>Percent behind the best expected time of the race and category. </source>
-        <translation type="unfinished"></translation>
+        <translation>Pourcentage derrière le meilleur temps attendu de la course et de la catégorie. </translation>
     </message>
     <message>
         <source>The worst result is struck through and does not count</source>
-        <translation type="unfinished"></translation>
+        <translation>Le plus mauvais résultat est barré et ne compte pas</translation>
     </message>
     <message>
         <source>; with a bonus the two worst. </source>
-        <translation type="unfinished"></translation>
+        <translation>; avec un bonus, les deux plus mauvais. </translation>
     </message>
     <message>
         <source>Score: the sum of the others divided by three. %1: no result, P: preselected.</source>
-        <translation type="unfinished"></translation>
+        <translation>Score : la somme des autres divisée par trois. %1 : pas de résultat, P : présélectionné.</translation>
     </message>
     <message>
         <source>Categories</source>
-        <translation type="unfinished"></translation>
+        <translation>Catégories</translation>
     </message>
     <message>
         <source>Kind %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Type %1</translation>
     </message>
     <message>
         <source>None</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun</translation>
     </message>
     <message>
         <source>Place and date</source>
-        <translation type="unfinished"></translation>
+        <translation>Lieu et date</translation>
     </message>
     <message>
         <source>Signature</source>
-        <translation type="unfinished"></translation>
+        <translation>Signature</translation>
     </message>
     <message>
         <source>the median of each column</source>
-        <translation type="unfinished"></translation>
+        <translation>la médiane de chaque colonne</translation>
     </message>
     <message>
         <source>the ideal run</source>
-        <translation type="unfinished"></translation>
+        <translation>la manche idéale</translation>
     </message>
     <message>
         <source>the best of each column</source>
-        <translation type="unfinished"></translation>
+        <translation>le meilleur de chaque colonne</translation>
     </message>
     <message>
         <source>Gaps in seconds to %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Écarts en secondes à %1.</translation>
     </message>
     <message>
         <source>Places within each column.</source>
-        <translation type="unfinished"></translation>
+        <translation>Places au sein de chaque colonne.</translation>
     </message>
     <message>
         <source>Percent behind the best of each column.</source>
-        <translation type="unfinished"></translation>
+        <translation>Pourcentage derrière le meilleur de chaque colonne.</translation>
     </message>
     <message>
         <source>Percentiles of each column; the best has 100.</source>
-        <translation type="unfinished"></translation>
+        <translation>Percentiles de chaque colonne ; le meilleur a 100.</translation>
     </message>
     <message>
         <source>Times from the start, without penalties.</source>
-        <translation type="unfinished"></translation>
+        <translation>Temps depuis le départ, sans pénalités.</translation>
     </message>
     <message>
         <source>Penalties are included in sections and total.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les pénalités sont comprises dans les secteurs et le total.</translation>
     </message>
     <message>
         <source>Penalties are not included.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les pénalités ne sont pas comprises.</translation>
     </message>
     <message>
         <source>Penalty seconds in brackets.</source>
-        <translation type="unfinished"></translation>
+        <translation>Secondes de pénalité entre parenthèses.</translation>
     </message>
     <message>
         <source>Compared among all %1 runs.</source>
-        <translation type="unfinished"></translation>
+        <translation>Comparé parmi l’ensemble des %1 manches.</translation>
     </message>
     <message>
         <source>Final position</source>
-        <translation type="unfinished"></translation>
+        <translation>Place finale</translation>
     </message>
     <message>
         <source>No athlete of this category comes into question.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun athlète de cette catégorie n’entre en ligne de compte.</translation>
     </message>
     <message>
         <source>medals</source>
-        <translation type="unfinished"></translation>
+        <translation>médailles</translation>
     </message>
     <message>
         <source>championship medals</source>
-        <translation type="unfinished"></translation>
+        <translation>médailles en championnat</translation>
     </message>
     <message>
         <source>top 6</source>
-        <translation type="unfinished"></translation>
+        <translation>6 premiers</translation>
     </message>
     <message>
         <source>top 15</source>
-        <translation type="unfinished"></translation>
+        <translation>15 premiers</translation>
     </message>
     <message>
         <source>What counts is summed and divided by three, however many races there were.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce qui compte est additionné et divisé par trois, quel que soit le nombre de courses.</translation>
     </message>
     <message>
         <source>Σ counted / 3</source>
-        <translation type="unfinished"></translation>
+        <translation>Σ comptés / 3</translation>
     </message>
     <message>
         <source>the rules of the selection</source>
-        <translation type="unfinished"></translation>
+        <translation>les règles de la sélection</translation>
     </message>
     <message>
         <source>The results and the bonus that count.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les résultats et le bonus qui comptent.</translation>
     </message>
     <message>
         <source>Σ counted</source>
-        <translation type="unfinished"></translation>
+        <translation>Σ comptés</translation>
     </message>
     <message>
         <source>Counts in the score.</source>
-        <translation type="unfinished"></translation>
+        <translation>Compte dans le score.</translation>
     </message>
     <message>
         <source>percent</source>
-        <translation type="unfinished"></translation>
+        <translation>pour cent</translation>
     </message>
     <message>
         <source>Dropped: the worst result of all.</source>
-        <translation type="unfinished"></translation>
+        <translation>Écarté : le plus mauvais résultat de tous.</translation>
     </message>
     <message>
         <source>not in the score</source>
-        <translation type="unfinished"></translation>
+        <translation>pas dans le score</translation>
     </message>
     <message>
         <source>Dropped too: a bonus stands among the results.</source>
-        <translation type="unfinished"></translation>
+        <translation>Écarté aussi : un bonus figure parmi les résultats.</translation>
     </message>
     <message>
         <source>How far behind the best of the category in this race, with penalties.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le retard sur le meilleur de la catégorie dans cette course, avec pénalités.</translation>
     </message>
     <message>
         <source>100 · ((time + penalties) / best − 1)</source>
-        <translation type="unfinished"></translation>
+        <translation>100 · ((temps + pénalités) / meilleur − 1)</translation>
     </message>
     <message>
         <source>A race without a result stands for this much.</source>
-        <translation type="unfinished"></translation>
+        <translation>Une course sans résultat compte pour autant.</translation>
     </message>
     <message>
         <source>999.99</source>
-        <translation type="unfinished"></translation>
+        <translation>999.99</translation>
     </message>
     <message>
         <source>More than two medals, or one at a championship, in the first two seasons.</source>
-        <translation type="unfinished"></translation>
+        <translation>Plus de deux médailles, ou une en championnat, dans les deux premières saisons.</translation>
     </message>
     <message>
         <source>medals &gt; 2 or championship medals ≥ 1</source>
-        <translation type="unfinished"></translation>
+        <translation>médailles &gt; 2 ou médailles en championnat ≥ 1</translation>
     </message>
     <message>
         <source>the rules of the categorization</source>
-        <translation type="unfinished"></translation>
+        <translation>les règles de la catégorisation</translation>
     </message>
     <message>
         <source>Three times among the first six in the first two seasons.</source>
-        <translation type="unfinished"></translation>
+        <translation>Trois fois parmi les six premiers dans les deux premières saisons.</translation>
     </message>
     <message>
         <source>top 6 ≥ 3</source>
-        <translation type="unfinished"></translation>
+        <translation>6 premiers ≥ 3</translation>
     </message>
     <message>
         <source>Four times among the first fifteen in the first two seasons.</source>
-        <translation type="unfinished"></translation>
+        <translation>Quatre fois parmi les quinze premiers dans les deux premières saisons.</translation>
     </message>
     <message>
         <source>top 15 ≥ 4</source>
-        <translation type="unfinished"></translation>
+        <translation>15 premiers ≥ 4</translation>
     </message>
     <message>
         <source>None of the other levels is reached in the first two seasons.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun des autres niveaux n’est atteint dans les deux premières saisons.</translation>
     </message>
     <message>
         <source>otherwise</source>
-        <translation type="unfinished"></translation>
+        <translation>sinon</translation>
     </message>
     <message>
         <source>Races with a final position of 1 to 3.</source>
-        <translation type="unfinished"></translation>
+        <translation>Courses avec une place finale de 1 à 3.</translation>
     </message>
     <message>
         <source>count</source>
-        <translation type="unfinished"></translation>
+        <translation>nombre</translation>
     </message>
     <message>
         <source>Races with a final position of 1 to 6.</source>
-        <translation type="unfinished"></translation>
+        <translation>Courses avec une place finale de 1 à 6.</translation>
     </message>
     <message>
         <source>Races with a final position of 1 to 15.</source>
-        <translation type="unfinished"></translation>
+        <translation>Courses avec une place finale de 1 à 15.</translation>
     </message>
     <message>
         <source>Races with a final position.</source>
-        <translation type="unfinished"></translation>
+        <translation>Courses avec une place finale.</translation>
     </message>
     <message>
         <source>What the run would have taken at its usual distance from the best times.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce que la manche aurait pris à sa distance habituelle des meilleurs temps.</translation>
     </message>
     <message>
         <source>factor · perfect time</source>
-        <translation type="unfinished"></translation>
+        <translation>facteur · temps parfait</translation>
     </message>
     <message>
         <source>How far its times stand above the best ones, without the outermost.</source>
-        <translation type="unfinished"></translation>
+        <translation>De combien ses temps dépassent les meilleurs, sans les extrêmes.</translation>
     </message>
     <message>
         <source>mean of the ratios that are left</source>
-        <translation type="unfinished"></translation>
+        <translation>moyenne des rapports restants</translation>
     </message>
     <message>
         <source>A time of the run against the best of all runs there.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un temps de la manche face au meilleur de toutes les manches à cet endroit.</translation>
     </message>
     <message>
         <source>own / best</source>
-        <translation type="unfinished"></translation>
+        <translation>propre / meilleur</translation>
     </message>
     <message>
         <source>The best times of all runs, put together.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les meilleurs temps de toutes les manches, mis bout à bout.</translation>
     </message>
     <message>
         <source>factor</source>
-        <translation type="unfinished"></translation>
+        <translation>facteur</translation>
     </message>
     <message>
         <source>perfect time</source>
-        <translation type="unfinished"></translation>
+        <translation>temps parfait</translation>
     </message>
     <message>
         <source>ratios that are left</source>
-        <translation type="unfinished"></translation>
+        <translation>rapports restants</translation>
     </message>
     <message>
         <source>Side by side</source>
-        <translation type="unfinished"></translation>
+        <translation>Côte à côte</translation>
     </message>
     <message>
         <source>Above each other</source>
-        <translation type="unfinished"></translation>
+        <translation>L’un au-dessus de l’autre</translation>
     </message>
     <message>
         <source>Two by two</source>
-        <translation type="unfinished"></translation>
+        <translation>Deux par deux</translation>
     </message>
     <message>
         <source>One within the other</source>
-        <translation type="unfinished"></translation>
+        <translation>L’un dans l’autre</translation>
     </message>
     <message>
         <source>Ghost: seen through</source>
-        <translation type="unfinished"></translation>
+        <translation>Fantôme : en transparence</translation>
     </message>
     <message>
         <source>Left and right of a line</source>
-        <translation type="unfinished"></translation>
+        <translation>À gauche et à droite d’une ligne</translation>
     </message>
     <message>
         <source>at the start</source>
-        <translation type="unfinished"></translation>
+        <translation>au départ</translation>
     </message>
     <message>
         <source>at one split</source>
-        <translation type="unfinished"></translation>
+        <translation>à un intermédiaire</translation>
     </message>
     <message>
         <source>at every split, waiting</source>
-        <translation type="unfinished"></translation>
+        <translation>à chaque intermédiaire, en attendant</translation>
     </message>
     <message>
         <source>at every split, stretched</source>
-        <translation type="unfinished"></translation>
+        <translation>à chaque intermédiaire, en étirant</translation>
     </message>
     <message>
         <source>the whole run</source>
-        <translation type="unfinished"></translation>
+        <translation>la manche entière</translation>
     </message>
     <message>
         <source>from split to split</source>
-        <translation type="unfinished"></translation>
+        <translation>d’intermédiaire à intermédiaire</translation>
     </message>
     <message>
         <source>Combination</source>
-        <translation type="unfinished"></translation>
+        <translation>Combinaison</translation>
     </message>
     <message>
         <source>Enter plays both films</source>
-        <translation type="unfinished"></translation>
+        <translation>Entrée lit les deux films</translation>
     </message>
     <message>
         <source>No film is known here</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun film n’est connu ici</translation>
     </message>
     <message>
         <source>Kind</source>
-        <translation type="unfinished"></translation>
+        <translation>Type</translation>
     </message>
     <message>
         <source>Own time less the reference&apos;s; all of them add up to what is shown on top</source>
-        <translation type="unfinished"></translation>
+        <translation>Temps propre moins celui de la référence ; tous ensemble font ce qui est affiché en haut</translation>
     </message>
     <message>
         <source>Between</source>
-        <translation type="unfinished"></translation>
+        <translation>Entre</translation>
     </message>
     <message>
         <source>Lost outside the upstream gates</source>
-        <translation type="unfinished"></translation>
+        <translation>Perdu hors des remontées</translation>
     </message>
     <message>
         <source>Reference&apos;s strokes</source>
-        <translation type="unfinished"></translation>
+        <translation>Coups de pagaie de la référence</translation>
     </message>
     <message>
         <source>Own seconds of penalty in the section</source>
-        <translation type="unfinished"></translation>
+        <translation>Propres secondes de pénalité dans le secteur</translation>
     </message>
     <message>
         <source>A tick makes the run what all are held against</source>
-        <translation type="unfinished"></translation>
+        <translation>Une coche fait de la manche celle à laquelle toutes sont comparées</translation>
     </message>
     <message>
         <source>Paddling</source>
-        <translation type="unfinished"></translation>
+        <translation>Navigation</translation>
     </message>
     <message>
         <source>Timing</source>
-        <translation type="unfinished"></translation>
+        <translation>Chronométrage</translation>
     </message>
     <message>
         <source>On expected time</source>
-        <translation type="unfinished"></translation>
+        <translation>Sur le temps attendu</translation>
     </message>
     <message>
         <source>Time without penalties less the expected time</source>
-        <translation type="unfinished"></translation>
+        <translation>Temps sans pénalités moins le temps attendu</translation>
     </message>
     <message>
         <source>Lost up to the pole line</source>
-        <translation type="unfinished"></translation>
+        <translation>Perdu jusqu’à la ligne de porte</translation>
     </message>
     <message>
         <source>Lost from the pole line on</source>
-        <translation type="unfinished"></translation>
+        <translation>Perdu à partir de la ligne de porte</translation>
     </message>
     <message>
         <source>Noted</source>
-        <translation type="unfinished"></translation>
+        <translation>Noté</translation>
     </message>
     <message>
         <source>not noted</source>
-        <translation type="unfinished"></translation>
+        <translation>pas noté</translation>
     </message>
     <message>
         <source>Cost</source>
-        <translation type="unfinished"></translation>
+        <translation>Coût</translation>
     </message>
     <message>
         <source>Seconds of the chosen way over the fastest one timed</source>
-        <translation type="unfinished"></translation>
+        <translation>Secondes de l’option choisie par rapport à la plus rapide chronométrée</translation>
     </message>
     <message>
         <source>Forward</source>
-        <translation type="unfinished"></translation>
+        <translation>Vers l’avant</translation>
     </message>
     <message>
         <source>Turning rate (left above 0)</source>
-        <translation type="unfinished"></translation>
+        <translation>Vitesse de rotation (gauche au-dessus de 0)</translation>
     </message>
     <message>
         <source>Turning</source>
-        <translation type="unfinished"></translation>
+        <translation>Rotation</translation>
     </message>
     <message>
         <source>Roll (starboard down above 0)</source>
-        <translation type="unfinished"></translation>
+        <translation>Roulis (tribord en bas au-dessus de 0)</translation>
     </message>
     <message>
         <source>Pitch (bow up above 0)</source>
-        <translation type="unfinished"></translation>
+        <translation>Tangage (pointe avant en haut au-dessus de 0)</translation>
     </message>
     <message>
         <source>Speed by position</source>
-        <translation type="unfinished"></translation>
+        <translation>Vitesse par la position</translation>
     </message>
     <message>
         <source>Hull speed, estimated</source>
-        <translation type="unfinished"></translation>
+        <translation>Vitesse de la coque, estimée</translation>
     </message>
     <message>
         <source>Hull speed</source>
-        <translation type="unfinished"></translation>
+        <translation>Vitesse de la coque</translation>
     </message>
     <message>
         <source>Watch acceleration</source>
-        <translation type="unfinished"></translation>
+        <translation>Accélération de la montre</translation>
     </message>
     <message>
         <source>Watch</source>
-        <translation type="unfinished"></translation>
+        <translation>Montre</translation>
     </message>
     <message>
         <source>Acceleration of the phone, x</source>
-        <translation type="unfinished"></translation>
+        <translation>Accélération du téléphone, x</translation>
     </message>
     <message>
         <source>Acceleration x</source>
-        <translation type="unfinished"></translation>
+        <translation>Accélération x</translation>
     </message>
     <message>
         <source>Acceleration of the phone, y</source>
-        <translation type="unfinished"></translation>
+        <translation>Accélération du téléphone, y</translation>
     </message>
     <message>
         <source>Acceleration y</source>
-        <translation type="unfinished"></translation>
+        <translation>Accélération y</translation>
     </message>
     <message>
         <source>Acceleration of the phone, z</source>
-        <translation type="unfinished"></translation>
+        <translation>Accélération du téléphone, z</translation>
     </message>
     <message>
         <source>Acceleration z</source>
-        <translation type="unfinished"></translation>
+        <translation>Accélération z</translation>
     </message>
     <message>
         <source>Rotation of the phone, x</source>
-        <translation type="unfinished"></translation>
+        <translation>Rotation du téléphone, x</translation>
     </message>
     <message>
         <source>Rotation x</source>
-        <translation type="unfinished"></translation>
+        <translation>Rotation x</translation>
     </message>
     <message>
         <source>Rotation of the phone, y</source>
-        <translation type="unfinished"></translation>
+        <translation>Rotation du téléphone, y</translation>
     </message>
     <message>
         <source>Rotation y</source>
-        <translation type="unfinished"></translation>
+        <translation>Rotation y</translation>
     </message>
     <message>
         <source>Rotation of the phone, z</source>
-        <translation type="unfinished"></translation>
+        <translation>Rotation du téléphone, z</translation>
     </message>
     <message>
         <source>Rotation z</source>
-        <translation type="unfinished"></translation>
+        <translation>Rotation z</translation>
     </message>
     <message>
         <source>by gate</source>
-        <translation type="unfinished"></translation>
+        <translation>par porte</translation>
     </message>
     <message>
         <source>by type of gate</source>
-        <translation type="unfinished"></translation>
+        <translation>par type de porte</translation>
     </message>
     <message>
         <source>by tenth of the course</source>
-        <translation type="unfinished"></translation>
+        <translation>par dixième du parcours</translation>
     </message>
     <message>
         <source>by section</source>
-        <translation type="unfinished"></translation>
+        <translation>par secteur</translation>
     </message>
     <message>
         <source>by crew</source>
-        <translation type="unfinished"></translation>
+        <translation>par équipage</translation>
     </message>
     <message>
         <source>by category</source>
-        <translation type="unfinished"></translation>
+        <translation>par catégorie</translation>
     </message>
     <message>
         <source>by phase</source>
-        <translation type="unfinished"></translation>
+        <translation>par phase</translation>
     </message>
     <message>
         <source>by race</source>
-        <translation type="unfinished"></translation>
+        <translation>par course</translation>
     </message>
     <message>
         <source>by month</source>
-        <translation type="unfinished"></translation>
+        <translation>par mois</translation>
     </message>
     <message>
         <source>by hand</source>
-        <translation type="unfinished"></translation>
+        <translation>par main</translation>
     </message>
     <message>
         <source>Tenth</source>
-        <translation type="unfinished"></translation>
+        <translation>Dixième</translation>
     </message>
     <message>
         <source>Se&amp;gments</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Segments</translation>
     </message>
     <message>
         <source>&amp;Left and right</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Gauche et droite</translation>
     </message>
     <message>
         <source>Whole numbers</source>
-        <translation type="unfinished"></translation>
+        <translation>Nombres entiers</translation>
     </message>
     <message>
         <source>Decimal numbers</source>
-        <translation type="unfinished"></translation>
+        <translation>Nombres décimaux</translation>
     </message>
     <message>
         <source>Times</source>
-        <translation type="unfinished"></translation>
+        <translation>Temps</translation>
     </message>
     <message>
         <source>DNF and the like</source>
-        <translation type="unfinished"></translation>
+        <translation>DNF et semblables</translation>
     </message>
     <message>
         <source>Text</source>
-        <translation type="unfinished"></translation>
+        <translation>Texte</translation>
     </message>
     <message>
         <source>Penalty missing</source>
-        <translation type="unfinished"></translation>
+        <translation>Pénalité absente</translation>
     </message>
     <message>
         <source>Penalty too many</source>
-        <translation type="unfinished"></translation>
+        <translation>Pénalité de trop</translation>
     </message>
     <message>
         <source>Bibs swapped</source>
-        <translation type="unfinished"></translation>
+        <translation>Dossards échangés</translation>
     </message>
     <message>
         <source>No result</source>
-        <translation type="unfinished"></translation>
+        <translation>Pas de résultat</translation>
     </message>
     <message>
         <source>Not finished</source>
-        <translation type="unfinished"></translation>
+        <translation>Non terminé</translation>
     </message>
     <message>
         <source>Not in list</source>
-        <translation type="unfinished"></translation>
+        <translation>Pas dans la liste</translation>
     </message>
     <message>
         <source>Not filmed</source>
-        <translation type="unfinished"></translation>
+        <translation>Non filmé</translation>
     </message>
     <message>
         <source>Average:</source>
-        <translation type="unfinished"></translation>
+        <translation>Moyenne :</translation>
     </message>
     <message>
         <source>Average variation:</source>
-        <translation type="unfinished"></translation>
+        <translation>Variation moyenne :</translation>
     </message>
     <message>
         <source>Total variation:</source>
-        <translation type="unfinished"></translation>
+        <translation>Variation totale :</translation>
     </message>
     <message>
         <source>Average increase:</source>
-        <translation type="unfinished"></translation>
+        <translation>Hausse moyenne :</translation>
     </message>
     <message>
         <source>Total increase:</source>
-        <translation type="unfinished"></translation>
+        <translation>Hausse totale :</translation>
     </message>
     <message>
         <source>Lap time</source>
-        <translation type="unfinished"></translation>
+        <translation>Temps au tour</translation>
     </message>
     <message>
         <source>Time in straight line</source>
-        <translation type="unfinished"></translation>
+        <translation>Temps en ligne droite</translation>
     </message>
     <message>
         <source>Time in rotation</source>
-        <translation type="unfinished"></translation>
+        <translation>Temps en rotation</translation>
     </message>
     <message>
         <source>Average speed</source>
-        <translation type="unfinished"></translation>
+        <translation>Vitesse moyenne</translation>
     </message>
     <message>
         <source>Maximum acceleration</source>
-        <translation type="unfinished"></translation>
+        <translation>Accélération maximale</translation>
     </message>
     <message>
         <source>Average acceleration</source>
-        <translation type="unfinished"></translation>
+        <translation>Accélération moyenne</translation>
     </message>
     <message>
         <source>Average deacceleration</source>
-        <translation type="unfinished"></translation>
+        <translation>Décélération moyenne</translation>
     </message>
     <message>
         <source>Roll movement</source>
-        <translation type="unfinished"></translation>
+        <translation>Mouvement de roulis</translation>
     </message>
     <message>
         <source>Roll (°)</source>
-        <translation type="unfinished"></translation>
+        <translation>Roulis (°)</translation>
     </message>
     <message>
         <source>Maximum force</source>
-        <translation type="unfinished"></translation>
+        <translation>Force maximale</translation>
     </message>
     <message>
         <source>Impulse (N s)</source>
-        <translation type="unfinished"></translation>
+        <translation>Impulsion (N s)</translation>
     </message>
     <message>
         <source>Largest negative acceleration</source>
-        <translation type="unfinished"></translation>
+        <translation>Plus forte accélération négative</translation>
     </message>
     <message>
         <source>Negative acceleration (m/s2)</source>
-        <translation type="unfinished"></translation>
+        <translation>Accélération négative (m/s2)</translation>
     </message>
     <message>
         <source>Effective water phase</source>
-        <translation type="unfinished"></translation>
+        <translation>Phase aquatique efficace</translation>
     </message>
     <message>
         <source>Rotation about the vertical axis</source>
-        <translation type="unfinished"></translation>
+        <translation>Rotation autour de l’axe vertical</translation>
     </message>
     <message>
         <source>Turns to the left are above 0, turns to the right below.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les virages à gauche sont au-dessus de 0, ceux à droite au-dessous.</translation>
     </message>
     <message>
         <source>The film {} is left out: its name is no UTF-8 text.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le film {} est laissé de côté : son nom n’est pas un texte UTF-8.</translation>
     </message>
     <message>
         <source>The folder {} cannot be read: {}</source>
-        <translation type="unfinished"></translation>
+        <translation>Le dossier {} ne peut pas être lu : {}</translation>
     </message>
     <message>
         <source>No video in {} carries the name {}. Nothing was written.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucune vidéo de {} ne porte le nom {}. Rien n’a été écrit.</translation>
     </message>
     <message>
         <source>The file {} exists already. Say --replace to write a new one in its place.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier {} existe déjà. Indiquez --replace pour en écrire un nouveau à sa place.</translation>
     </message>
     <message>
         <source>This call needs the program that paints and makes films, which could not be started: {}</source>
-        <translation type="unfinished"></translation>
+        <translation>Cet appel demande le programme qui dessine et fait les films ; il n’a pas pu être démarré : {}</translation>
     </message>
     <message>
         <source>The file {} exists and is not the sample&apos;s. Choose another folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier {} existe et n’est pas de l’exemple. Choisissez un autre dossier.</translation>
     </message>
     <message>
         <source>The file {} could not be written: {}</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier {} n’a pas pu être écrit : {}</translation>
     </message>
     <message>
         <source>The file {} is none of these tables and stays as it is. Nothing was written.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier {} n’est aucun de ces tableaux et reste tel quel. Rien n’a été écrit.</translation>
     </message>
     <message>
         <source>The folder {} could not be made: {}</source>
-        <translation type="unfinished"></translation>
+        <translation>Le dossier {} n’a pas pu être créé : {}</translation>
     </message>
     <message>
         <source>Line {}: {}, and was imported as it stands.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ligne {} : {}, et a été importée telle quelle.</translation>
     </message>
     <message>
         <source>There is no run {}: the file has {}, counted from 0.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il n’y a pas de manche {} : le fichier en a {}, comptées à partir de 0.</translation>
     </message>
     <message>
         <source>No run has the category &quot;{}&quot;.{}</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucune manche n’a la catégorie « {} ».{}</translation>
     </message>
     <message>
         <source>Nobody of the team races in &quot;{}&quot;. Categories: {}.</source>
-        <translation type="unfinished"></translation>
+        <translation>Personne de l’équipe ne court en « {} ». Catégories : {}.</translation>
     </message>
     <message>
         <source>Several athletes of the team are called {}: their runs cannot be told apart.</source>
-        <translation type="unfinished"></translation>
+        <translation>Plusieurs athlètes de l’équipe s’appellent {} : leurs manches ne peuvent pas être distinguées.</translation>
     </message>
     <message>
         <source>The file {} is of an older version, {}, and was not changed. Bring it to the current one first: kavela upgrade {}</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier {} est d’une version plus ancienne, {}, et n’a pas été modifié. Amenez-le d’abord à l’actuelle : kavela upgrade {}</translation>
     </message>
     <message>
         <source>The time of {} ({}) in {} is 0; a missing result should be 999.9.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le temps de {} ({}) dans {} est 0 ; un résultat absent devrait être 999.9.</translation>
     </message>
     <message>
         <source>No athlete has a bonus of kind {}.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun athlète n’a de bonus de type {}.</translation>
     </message>
     <message>
         <source>The list {} is no UTF-8 text and was read as Latin-1: look at the names.</source>
-        <translation type="unfinished"></translation>
+        <translation>La liste {} n’est pas un texte UTF-8 et a été lue en Latin-1 : vérifiez les noms.</translation>
     </message>
     <message>
         <source>The list {} could not be read: {}</source>
-        <translation type="unfinished"></translation>
+        <translation>La liste {} n’a pas pu être lue : {}</translation>
     </message>
     <message>
         <source>{} of {} skipped.</source>
-        <translation type="unfinished"></translation>
+        <translation>{} sur {} omis.</translation>
     </message>
     <message>
         <source>Line {} brought the category {} into the selection{}</source>
-        <translation type="unfinished"></translation>
+        <translation>La ligne {} a introduit la catégorie {} dans la sélection{}</translation>
     </message>
     <message>
         <source>No run has the {} &quot;{}&quot;. There is {}.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucune manche pour {} « {} ». Il y a {}.</translation>
     </message>
     <message>
         <source>There is no file and no command {}. Run with --help for the commands.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il n’y a ni fichier ni commande {}. Lancez avec --help pour les commandes.</translation>
     </message>
     <message>
         <source>The desktop program could not be started: {}</source>
-        <translation type="unfinished"></translation>
+        <translation>Le programme de bureau n’a pas pu être démarré : {}</translation>
     </message>
     <message>
         <source>{}: this is its {}; it carries {} too (--sheet).</source>
-        <translation type="unfinished"></translation>
+        <translation>{} : voici {} ; il contient aussi {} (--sheet).</translation>
     </message>
     <message>
         <source>Line {}, {}: perhaps {}; not joined.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ligne {}, {} : peut-être {} ; non relié.</translation>
     </message>
     <message>
         <source>{}: this is no team: {}</source>
-        <translation type="unfinished"></translation>
+        <translation>{} : ce n’est pas une équipe : {}</translation>
     </message>
     <message>
         <source>The team has no athlete {}.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’équipe n’a pas d’athlète {}.</translation>
     </message>
     <message>
         <source>{} does not race in {}. Categories: {}.</source>
-        <translation type="unfinished"></translation>
+        <translation>{} ne court pas en {}. Catégories : {}.</translation>
     </message>
     <message>
         <source>The file could not be read: {}</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier n’a pas pu être lu : {}</translation>
     </message>
     <message>
         <source>There is no number with the id &quot;{}&quot; here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il n’y a ici aucun nombre d’identifiant « {} ».</translation>
     </message>
     <message>
         <source>losing</source>
-        <translation type="unfinished"></translation>
+        <translation>en perte</translation>
     </message>
     <message>
         <source>gaining</source>
-        <translation type="unfinished"></translation>
+        <translation>en gain</translation>
     </message>
     <message>
         <source>unclear</source>
-        <translation type="unfinished"></translation>
+        <translation>incertain</translation>
     </message>
     <message>
         <source>slower</source>
-        <translation type="unfinished"></translation>
+        <translation>plus lents</translation>
     </message>
     <message>
         <source>circle: heats, triangle: semifinal, square: final</source>
-        <translation type="unfinished"></translation>
+        <translation>cercle : qualifications, triangle : demi-finale, carré : finale</translation>
     </message>
     <message>
         <source>{:.0f} to {:.0f}</source>
-        <translation type="unfinished"></translation>
+        <translation>de {:.0f} à {:.0f}</translation>
     </message>
     <message>
         <source>of the races whose result is known</source>
-        <translation type="unfinished"></translation>
+        <translation>des courses dont le résultat est connu</translation>
     </message>
     <message>
         <source>too few runs to tell what is chance</source>
-        <translation type="unfinished"></translation>
+        <translation>trop peu de manches pour dire ce qui est hasard</translation>
     </message>
     <message>
         <source>chance from run to run {:.1f} %, all {:.1f} %; {:.2f} % matters</source>
-        <translation type="unfinished"></translation>
+        <translation>hasard d’une manche à l’autre {:.1f} %, tous {:.1f} % ; {:.2f} % compte</translation>
     </message>
     <message>
         <source>none</source>
-        <translation type="unfinished"></translation>
+        <translation>aucun</translation>
     </message>
     <message>
         <source>Table</source>
-        <translation type="unfinished"></translation>
+        <translation>Tableau</translation>
     </message>
     <message>
         <source>One-repetition maximum</source>
-        <translation type="unfinished"></translation>
+        <translation>Maximum sur une répétition</translation>
     </message>
     <message>
         <source>Prints what a shell completes calls by</source>
-        <translation type="unfinished"></translation>
+        <translation>Affiche de quoi un interpréteur de commandes complète les appels</translation>
     </message>
     <message>
         <source>Prints the page of the manual</source>
-        <translation type="unfinished"></translation>
+        <translation>Affiche la page du manuel</translation>
     </message>
     <message>
         <source>The page cannot be written over a file that it is made from.</source>
-        <translation type="unfinished"></translation>
+        <translation>La page ne peut pas être écrite par-dessus un fichier dont elle est tirée.</translation>
     </message>
     <message>
         <source>Writes the page of an athlete for a telephone, one HTML file</source>
-        <translation type="unfinished"></translation>
+        <translation>Écrit la page d’un athlète pour un téléphone, un seul fichier HTML</translation>
     </message>
     <message>
         <source>Split files (.kvx) of any release, and folders of them; several make a season</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichiers d’intermédiaires (.kvx) de n’importe quelle version, et dossiers qui en contiennent ; plusieurs font une saison</translation>
     </message>
     <message>
         <source>Whose page; a crew as &quot;A / B&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>De qui est la page ; un équipage sous la forme "A / B"</translation>
     </message>
     <message>
         <source>File to write, ending in .html</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichier à écrire, finissant par .html</translation>
     </message>
     <message>
         <source>Cut the athlete&apos;s runs out of their films into the folder of the page</source>
-        <translation type="unfinished"></translation>
+        <translation>Couper les manches de l’athlète de leurs films dans le dossier de la page</translation>
     </message>
     <message>
         <source>Shares a folder with a server, both ways</source>
-        <translation type="unfinished"></translation>
+        <translation>Partage un dossier avec un serveur, dans les deux sens</translation>
     </message>
     <message>
         <source>The folder on this computer</source>
-        <translation type="unfinished"></translation>
+        <translation>Le dossier sur cet ordinateur</translation>
     </message>
     <message>
         <source>Address of the folder on the server</source>
-        <translation type="unfinished"></translation>
+        <translation>Adresse du dossier sur le serveur</translation>
     </message>
     <message>
         <source>User name for the server</source>
-        <translation type="unfinished"></translation>
+        <translation>Nom d’utilisateur pour le serveur</translation>
     </message>
     <message>
         <source>Only print what would be done</source>
-        <translation type="unfinished"></translation>
+        <translation>Seulement afficher ce qui serait fait</translation>
     </message>
     <message>
         <source>Do not ask before anything is done</source>
-        <translation type="unfinished"></translation>
+        <translation>Ne rien demander avant d’agir</translation>
     </message>
     <message>
         <source>Delete on each side what was deleted on the other and not changed since</source>
-        <translation type="unfinished"></translation>
+        <translation>Supprimer de chaque côté ce qui a été supprimé de l’autre et n’a pas changé depuis</translation>
     </message>
     <message>
         <source>Print JSON; nothing is asked</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher du JSON ; rien n’est demandé</translation>
     </message>
     <message>
         <source>Shows what stood on a line of a film over time, as a picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Montre en une image ce qui se trouvait sur une ligne d’un film au fil du temps</translation>
     </message>
     <message>
         <source>Film of a camera that stands still</source>
-        <translation type="unfinished"></translation>
+        <translation>Film d’une caméra immobile</translation>
     </message>
     <message>
         <source>X1,Y1,X2,Y2: the ends of the line in pixels</source>
-        <translation type="unfinished"></translation>
+        <translation>X1,Y1,X2,Y2 : les extrémités de la ligne en pixels</translation>
     </message>
     <message>
         <source>Picture to write (.png)</source>
-        <translation type="unfinished"></translation>
+        <translation>Image à écrire (.png)</translation>
     </message>
     <message>
         <source>Print the frame and stamp of every column as JSON</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher en JSON l’image et l’horodatage de chaque colonne</translation>
     </message>
     <message>
         <source>Look for boats that cross the line</source>
-        <translation type="unfinished"></translation>
+        <translation>Chercher des bateaux qui franchissent la ligne</translation>
     </message>
     <message>
         <source>X,Y,WIDTH,HEIGHT: a box round one boat, for --proposals</source>
-        <translation type="unfinished"></translation>
+        <translation>X,Y,WIDTH,HEIGHT : un cadre autour d’un bateau, pour --proposals</translation>
     </message>
     <message>
         <source>Where boats come from: left or right of the line</source>
-        <translation type="unfinished"></translation>
+        <translation>D’où viennent les bateaux : left ou right de la ligne</translation>
     </message>
     <message>
         <source>Nothing to do: name a picture with -o, or ask for --json or --proposals.</source>
-        <translation type="unfinished"></translation>
+        <translation>Rien à faire : nommez une image avec -o, ou demandez --json ou --proposals.</translation>
     </message>
     <message>
         <source>--proposals needs a box round one boat: --boat X,Y,WIDTH,HEIGHT.</source>
-        <translation type="unfinished"></translation>
+        <translation>--proposals demande un cadre autour d’un bateau : --boat X,Y,WIDTH,HEIGHT.</translation>
     </message>
     <message>
         <source>Follows a boat, gate or head through a film, as a table</source>
-        <translation type="unfinished"></translation>
+        <translation>Suit un bateau, une porte ou une tête dans un film, en tableau</translation>
     </message>
     <message>
         <source>Film to look at</source>
-        <translation type="unfinished"></translation>
+        <translation>Film à examiner</translation>
     </message>
     <message>
         <source>What is followed: X,Y,WIDTH,HEIGHT in pixels of the picture, from its upper left corner</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce qui est suivi : X,Y,WIDTH,HEIGHT en pixels de l’image, depuis son coin supérieur gauche</translation>
     </message>
     <message>
         <source>Second of the film at which the box was drawn</source>
-        <translation type="unfinished"></translation>
+        <translation>Seconde du film où le cadre a été dessiné</translation>
     </message>
     <message>
         <source>Second at which following ends; otherwise where it is lost, or the film ends</source>
-        <translation type="unfinished"></translation>
+        <translation>Seconde où finit le suivi ; sinon là où l’objet est perdu, ou à la fin du film</translation>
     </message>
     <message>
         <source>Known points on the water (.json), for metres and speeds</source>
-        <translation type="unfinished"></translation>
+        <translation>Points connus sur l’eau (.json), pour mètres et vitesses</translation>
     </message>
     <message>
         <source>File to write (.csv)</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichier à écrire (.csv)</translation>
     </message>
     <message>
         <source>In some frames the camera&apos;s motion is not known: too little of the picture stands still. They have no steadied place.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sur certaines images, le mouvement de la caméra n’est pas connu : trop peu de l’image est immobile. Elles n’ont pas de place stabilisée.</translation>
     </message>
     <message>
         <source>Metres hold for what is on the water; a head is above it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les mètres valent pour ce qui est sur l’eau ; une tête est au-dessus.</translation>
     </message>
     <message>
         <source>Two known points give a scale only: lengths and speeds hold near them and along the line between them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Deux points connus ne donnent qu’une échelle : longueurs et vitesses valent près d’eux et le long de la ligne entre eux.</translation>
     </message>
     <message>
         <source>What was deleted on one side stays on the other: --delete deletes it there.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce qui a été supprimé d’un côté reste de l’autre : --delete l’y supprime.</translation>
     </message>
     <message>
         <source>The server wants a user name: --user tells it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le serveur veut un nom d’utilisateur : --user l’indique.</translation>
     </message>
     <message numerus="yes">
         <source>{} columns</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>{} colonne</numerusform>
+            <numerusform>{} colonnes</numerusform>
         </translation>
     </message>
 </context>
@@ -5060,1718 +5064,1718 @@
     <name>kavela::desktop</name>
     <message>
         <source>Date</source>
-        <translation type="unfinished"></translation>
+        <translation>Date</translation>
     </message>
     <message>
         <source>Category</source>
-        <translation type="unfinished"></translation>
+        <translation>Catégorie</translation>
     </message>
     <message>
         <source>Place</source>
-        <translation type="unfinished"></translation>
+        <translation>Place</translation>
     </message>
     <message>
         <source>the start</source>
-        <translation type="unfinished"></translation>
+        <translation>le départ</translation>
     </message>
     <message>
         <source>Film</source>
-        <translation type="unfinished"></translation>
+        <translation>Film</translation>
     </message>
     <message>
         <source>State</source>
-        <translation type="unfinished"></translation>
+        <translation>État</translation>
     </message>
     <message>
         <source>To know</source>
-        <translation type="unfinished"></translation>
+        <translation>À savoir</translation>
     </message>
     <message>
         <source>waiting</source>
-        <translation type="unfinished"></translation>
+        <translation>en attente</translation>
     </message>
     <message>
         <source>there</source>
-        <translation type="unfinished"></translation>
+        <translation>là</translation>
     </message>
     <message>
         <source>failed</source>
-        <translation type="unfinished"></translation>
+        <translation>échoué</translation>
     </message>
     <message>
         <source>stopped</source>
-        <translation type="unfinished"></translation>
+        <translation>arrêté</translation>
     </message>
     <message>
         <source>%1, %2:%3 left</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, reste %2:%3</translation>
     </message>
     <message>
         <source>A film is still being composed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un film est encore en cours de composition.</translation>
     </message>
     <message>
         <source>%1 films are still being composed.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 films sont encore en cours de composition.</translation>
     </message>
     <message>
         <source>It can go on in the background: the list of jobs (Ctrl+J in Compare films) tells how far it is.</source>
-        <translation type="unfinished"></translation>
+        <translation>Elle peut continuer en arrière-plan : la liste des tâches (Ctrl+J dans Comparer des films) dit où elle en est.</translation>
     </message>
     <message>
         <source>Go on in the background</source>
-        <translation type="unfinished"></translation>
+        <translation>Continuer en arrière-plan</translation>
     </message>
     <message>
         <source>Stop it</source>
-        <translation type="unfinished"></translation>
+        <translation>L’arrêter</translation>
     </message>
     <message>
         <source>Stay here</source>
-        <translation type="unfinished"></translation>
+        <translation>Rester ici</translation>
     </message>
     <message>
         <source>Put together…</source>
-        <translation type="unfinished"></translation>
+        <translation>Assemblage…</translation>
     </message>
     <message>
         <source>Piece %1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Morceau %1 sur %2</translation>
     </message>
     <message>
         <source>Checked…</source>
-        <translation type="unfinished"></translation>
+        <translation>Vérification…</translation>
     </message>
     <message>
         <source>%1 %, %2 of %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 %, %2 sur %3</translation>
     </message>
     <message>
         <source>Waits</source>
-        <translation type="unfinished"></translation>
+        <translation>Attend</translation>
     </message>
     <message>
         <source>✓ Fetched</source>
-        <translation type="unfinished"></translation>
+        <translation>✓ Récupéré</translation>
     </message>
     <message>
         <source>Fetch</source>
-        <translation type="unfinished"></translation>
+        <translation>Récupérer</translation>
     </message>
     <message>
         <source>Bib</source>
-        <translation type="unfinished"></translation>
+        <translation>Dossard</translation>
     </message>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Nom</translation>
     </message>
     <message>
         <source>Phase</source>
-        <translation type="unfinished"></translation>
+        <translation>Phase</translation>
     </message>
     <message>
         <source>File</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichier</translation>
     </message>
     <message>
         <source>Size</source>
-        <translation type="unfinished"></translation>
+        <translation>Taille</translation>
     </message>
     <message>
         <source>Server</source>
-        <translation type="unfinished"></translation>
+        <translation>Serveur</translation>
     </message>
     <message>
         <source>1 film is ticked</source>
-        <translation type="unfinished"></translation>
+        <translation>1 film est coché</translation>
     </message>
     <message>
         <source>%1 films are ticked</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 films sont cochés</translation>
     </message>
     <message>
         <source>%1, %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, %2</translation>
     </message>
     <message>
         <source>%1 fetched</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 récupérés</translation>
     </message>
     <message>
         <source>%1 not there yet</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 pas encore là</translation>
     </message>
     <message>
         <source>%1 failed</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 échoués</translation>
     </message>
     <message>
         <source>%1 cancelled</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 annulés</translation>
     </message>
     <message>
         <source>Move the selected mark &amp;here</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Déplacer ici la marque choisie</translation>
     </message>
     <message>
         <source>Mark one frame &amp;earlier</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Marque une image plus tôt</translation>
     </message>
     <message>
         <source>Mark one frame &amp;later</source>
-        <translation type="unfinished"></translation>
+        <translation>Marque &amp;une image plus tard</translation>
     </message>
     <message>
         <source>&amp;Remove the selected mark</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Retirer la marque choisie</translation>
     </message>
     <message>
         <source>&amp;Previous mark</source>
-        <translation type="unfinished"></translation>
+        <translation>Marque &amp;précédente</translation>
     </message>
     <message>
         <source>&amp;Next mark</source>
-        <translation type="unfinished"></translation>
+        <translation>Marque &amp;suivante</translation>
     </message>
     <message>
         <source>Nobody is called “%1” in these files.</source>
-        <translation type="unfinished"></translation>
+        <translation>Personne ne s’appelle « %1 » dans ces fichiers.</translation>
     </message>
     <message>
         <source>Like it: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Semblable : %1.</translation>
     </message>
     <message>
         <source>Watched: 80 % of it was shown</source>
-        <translation type="unfinished"></translation>
+        <translation>Vu : 80 % en a été montré</translation>
     </message>
     <message>
         <source>Of the split file: split taking edits it</source>
-        <translation type="unfinished"></translation>
+        <translation>Du fichier d’intermédiaires : la prise de temps intermédiaires la modifie</translation>
     </message>
     <message>
         <source>Watched</source>
-        <translation type="unfinished"></translation>
+        <translation>Vu</translation>
     </message>
     <message>
         <source>Length</source>
-        <translation type="unfinished"></translation>
+        <translation>Durée</translation>
     </message>
     <message>
         <source>Minutes and seconds</source>
-        <translation type="unfinished"></translation>
+        <translation>Minutes et secondes</translation>
     </message>
     <message>
         <source>At</source>
-        <translation type="unfinished"></translation>
+        <translation>À</translation>
     </message>
     <message>
         <source>Moment of the film, minutes and seconds</source>
-        <translation type="unfinished"></translation>
+        <translation>Moment du film, minutes et secondes</translation>
     </message>
     <message>
         <source>Tag</source>
-        <translation type="unfinished"></translation>
+        <translation>Étiquette</translation>
     </message>
     <message>
         <source>Imported “%1”</source>
-        <translation type="unfinished"></translation>
+        <translation>« %1 » importé</translation>
     </message>
     <message>
         <source>“%1” cannot be imported</source>
-        <translation type="unfinished"></translation>
+        <translation>« %1 » ne peut pas être importé</translation>
     </message>
     <message>
         <source>Watches and phones (*.gpx *.tcx *.fit *.csv *.tsv *.txt);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Montres et téléphones (*.gpx *.tcx *.fit *.csv *.tsv *.txt);;Tous les fichiers (*)</translation>
     </message>
     <message>
         <source>Import from a watch or a phone</source>
-        <translation type="unfinished"></translation>
+        <translation>Importer d’une montre ou d’un téléphone</translation>
     </message>
     <message>
         <source>%1 s a run</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 s par manche</translation>
     </message>
     <message>
         <source>one run</source>
-        <translation type="unfinished"></translation>
+        <translation>une manche</translation>
     </message>
     <message>
         <source>%1 runs</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 manches</translation>
     </message>
     <message>
         <source>Where most was lost</source>
-        <translation type="unfinished"></translation>
+        <translation>Où l’on a le plus perdu</translation>
     </message>
     <message>
         <source>Seconds lost</source>
-        <translation type="unfinished"></translation>
+        <translation>Secondes perdues</translation>
     </message>
     <message>
         <source>Of all that was lost, %</source>
-        <translation type="unfinished"></translation>
+        <translation>De tout ce qui a été perdu, %</translation>
     </message>
     <message>
         <source>No section was slower than the reference&apos;s.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun secteur n’était plus lent que celui de la référence.</translation>
     </message>
     <message>
         <source>Lost</source>
-        <translation type="unfinished"></translation>
+        <translation>Perdu</translation>
     </message>
     <message>
         <source>Together, %</source>
-        <translation type="unfinished"></translation>
+        <translation>Cumul, %</translation>
     </message>
     <message>
         <source>The gap along the course</source>
-        <translation type="unfinished"></translation>
+        <translation>L’écart le long du parcours</translation>
     </message>
     <message>
         <source>After section</source>
-        <translation type="unfinished"></translation>
+        <translation>Après le secteur</translation>
     </message>
     <message>
         <source>Seconds behind, without penalties</source>
-        <translation type="unfinished"></translation>
+        <translation>Secondes de retard, sans pénalités</translation>
     </message>
     <message>
         <source>result %1</source>
-        <translation type="unfinished"></translation>
+        <translation>résultat %1</translation>
     </message>
     <message>
         <source>Lost by what it is lost in</source>
-        <translation type="unfinished"></translation>
+        <translation>Pertes selon ce où le temps est perdu</translation>
     </message>
     <message>
         <source>Of the reference&apos;s time, %</source>
-        <translation type="unfinished"></translation>
+        <translation>Du temps de la référence, %</translation>
     </message>
     <message>
         <source>Lost, 90 %</source>
-        <translation type="unfinished"></translation>
+        <translation>Perdu, 90 %</translation>
     </message>
     <message>
         <source>No loss</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucune perte</translation>
     </message>
     <message>
         <source>By</source>
-        <translation type="unfinished"></translation>
+        <translation>Par</translation>
     </message>
     <message>
         <source>What</source>
-        <translation type="unfinished"></translation>
+        <translation>Quoi</translation>
     </message>
     <message>
         <source>Runs</source>
-        <translation type="unfinished"></translation>
+        <translation>Manches</translation>
     </message>
     <message>
         <source>Lost, %</source>
-        <translation type="unfinished"></translation>
+        <translation>Perdu, %</translation>
     </message>
     <message>
         <source>Low</source>
-        <translation type="unfinished"></translation>
+        <translation>Bas</translation>
     </message>
     <message>
         <source>High</source>
-        <translation type="unfinished"></translation>
+        <translation>Haut</translation>
     </message>
     <message>
         <source>A run, s</source>
-        <translation type="unfinished"></translation>
+        <translation>Par manche, s</translation>
     </message>
     <message>
         <source>No row loses time for sure.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucune ligne ne perd du temps à coup sûr.</translation>
     </message>
     <message>
         <source>Most for sure: %1 %2, %3 s a run.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le plus sûr : %1 %2, %3 s par manche.</translation>
     </message>
     <message>
         <source>Gate</source>
-        <translation type="unfinished"></translation>
+        <translation>Porte</translation>
     </message>
     <message>
         <source>Gate %1 of the section</source>
-        <translation type="unfinished"></translation>
+        <translation>Porte %1 du secteur</translation>
     </message>
     <message>
         <source>Lost in an upstream gate of the section</source>
-        <translation type="unfinished"></translation>
+        <translation>Perdu dans une remontée du secteur</translation>
     </message>
     <message>
         <source>%1:  %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 :  %2</translation>
     </message>
     <message>
         <source>upstream</source>
-        <translation type="unfinished"></translation>
+        <translation>remontée</translation>
     </message>
     <message>
         <source>downstream</source>
-        <translation type="unfinished"></translation>
+        <translation>descendue</translation>
     </message>
     <message>
         <source>several sections</source>
-        <translation type="unfinished"></translation>
+        <translation>plusieurs secteurs</translation>
     </message>
     <message>
         <source>not known</source>
-        <translation type="unfinished"></translation>
+        <translation>inconnu</translation>
     </message>
     <message>
         <source>a race without a name</source>
-        <translation type="unfinished"></translation>
+        <translation>une course sans nom</translation>
     </message>
     <message>
         <source>Run %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Manche %1</translation>
     </message>
     <message>
         <source>winner</source>
-        <translation type="unfinished"></translation>
+        <translation>vainqueur</translation>
     </message>
     <message>
         <source>fastest paddling</source>
-        <translation type="unfinished"></translation>
+        <translation>navigation la plus rapide</translation>
     </message>
     <message>
         <source>ideal run</source>
-        <translation type="unfinished"></translation>
+        <translation>manche idéale</translation>
     </message>
     <message>
         <source>median of the finalists</source>
-        <translation type="unfinished"></translation>
+        <translation>médiane des finalistes</translation>
     </message>
     <message>
         <source>own best other run</source>
-        <translation type="unfinished"></translation>
+        <translation>meilleure autre manche propre</translation>
     </message>
     <message>
         <source>a rival</source>
-        <translation type="unfinished"></translation>
+        <translation>un rival</translation>
     </message>
     <message>
         <source>Open a race to see where time is lost.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrez une course pour voir où le temps est perdu.</translation>
     </message>
     <message>
         <source>The crew has no other whole run here to be held against. Choose another reference.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’équipage n’a ici aucune autre manche complète à laquelle comparer. Choisissez une autre référence.</translation>
     </message>
     <message>
         <source>There is no %1 here to hold the run against. Choose another reference.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il n’y a ici aucune référence « %1 » à laquelle comparer la manche. Choisissez-en une autre.</translation>
     </message>
     <message>
         <source>The two have no section in common that is timed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les deux n’ont aucun secteur chronométré en commun.</translation>
     </message>
     <message>
         <source>%1: nothing to be held against</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 : rien à quoi comparer</translation>
     </message>
     <message>
         <source>%1  %2 on %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1  %2 face à %3</translation>
     </message>
     <message>
         <source>%1: no section in common with %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 : aucun secteur en commun avec %2</translation>
     </message>
     <message>
         <source>%1  %2 on %3 in %4 (no total)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1  %2 face à %3 en %4 (pas de total)</translation>
     </message>
     <message>
         <source>Explained by notes: %1 of %2 (%3 %)</source>
-        <translation type="unfinished"></translation>
+        <translation>Expliqué par des notes : %1 sur %2 (%3 %)</translation>
     </message>
     <message>
         <source>Most was lost in %1: %2 s of %3.</source>
-        <translation type="unfinished"></translation>
+        <translation>La plus grande perte est en %1 : %2 s sur %3.</translation>
     </message>
     <message>
         <source>Penalties make %1 of it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les pénalités en font %1.</translation>
     </message>
     <message>
         <source>All %1 of the slower sections are needed to explain most of the loss.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les %1 secteurs plus lents sont tous nécessaires pour expliquer l’essentiel de la perte.</translation>
     </message>
     <message>
         <source>%1 alone makes %2 % of what was lost in slower sections.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 à lui seul fait %2 % de ce qui a été perdu dans les secteurs plus lents.</translation>
     </message>
     <message>
         <source>%1 of %2 slower sections make %3 % of what was lost in them.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 des %2 secteurs plus lents font %3 % de ce qui y a été perdu.</translation>
     </message>
     <message>
         <source>Nobody was slower than the reference in a section.</source>
-        <translation type="unfinished"></translation>
+        <translation>Personne n’était plus lent que la référence dans un secteur.</translation>
     </message>
     <message>
         <source>The greatest loss is that of %1 in S%2: %3 on %4.</source>
-        <translation type="unfinished"></translation>
+        <translation>La plus grande perte est celle de %1 en S%2 : %3 face à %4.</translation>
     </message>
     <message>
         <source>Never behind the %1; %2 at the end of S%3.</source>
-        <translation type="unfinished"></translation>
+        <translation>Jamais derrière (%1) ; %2 à la fin de S%3.</translation>
     </message>
     <message>
         <source>Farthest behind at the end: %1 after S%2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le plus loin derrière à la fin : %1 après S%2.</translation>
     </message>
     <message>
         <source>Farthest behind after S%1: %2; %3 after S%4.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le plus loin derrière après S%1 : %2 ; %3 après S%4.</translation>
     </message>
     <message>
         <source>no motion of the boat</source>
-        <translation type="unfinished"></translation>
+        <translation>aucun mouvement du bateau</translation>
     </message>
     <message>
         <source>a hole of %1 s</source>
-        <translation type="unfinished"></translation>
+        <translation>un trou de %1 s</translation>
     </message>
     <message>
         <source>%1 holes, the longest of %2 s</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 trous, le plus long de %2 s</translation>
     </message>
     <message>
         <source>the clock ran backwards once</source>
-        <translation type="unfinished"></translation>
+        <translation>l’horloge a reculé une fois</translation>
     </message>
     <message>
         <source>the clock ran backwards %1 times</source>
-        <translation type="unfinished"></translation>
+        <translation>l’horloge a reculé %1 fois</translation>
     </message>
     <message>
         <source>a moment stands twice</source>
-        <translation type="unfinished"></translation>
+        <translation>un moment figure deux fois</translation>
     </message>
     <message>
         <source>%1 moments stand twice</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 moments figurent deux fois</translation>
     </message>
     <message>
         <source>Top to the bow</source>
-        <translation type="unfinished"></translation>
+        <translation>Haut vers l’avant</translation>
     </message>
     <message>
         <source>Bottom to the bow</source>
-        <translation type="unfinished"></translation>
+        <translation>Bas vers l’avant</translation>
     </message>
     <message>
         <source>Right to the bow</source>
-        <translation type="unfinished"></translation>
+        <translation>Droite vers l’avant</translation>
     </message>
     <message>
         <source>Left to the bow</source>
-        <translation type="unfinished"></translation>
+        <translation>Gauche vers l’avant</translation>
     </message>
     <message>
         <source>Back to the bow</source>
-        <translation type="unfinished"></translation>
+        <translation>Dos vers l’avant</translation>
     </message>
     <message>
         <source>Screen to the bow</source>
-        <translation type="unfinished"></translation>
+        <translation>Écran vers l’avant</translation>
     </message>
     <message>
         <source>%1 of %2 touched</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 touches sur %2</translation>
     </message>
     <message>
         <source>Touched, %</source>
-        <translation type="unfinished"></translation>
+        <translation>Touché, %</translation>
     </message>
     <message>
         <source>Ranked rate, 90 %</source>
-        <translation type="unfinished"></translation>
+        <translation>Taux classé, 90 %</translation>
     </message>
     <message>
         <source>Touched</source>
-        <translation type="unfinished"></translation>
+        <translation>Touchées</translation>
     </message>
     <message>
         <source>All in common</source>
-        <translation type="unfinished"></translation>
+        <translation>Commun à tous</translation>
     </message>
     <message>
         <source>No run that is asked for has its penalties by gate. Enter them for each gate to see where they happen.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucune manche demandée n’a ses pénalités par porte. Saisissez-les pour chaque porte pour voir où elles arrivent.</translation>
     </message>
     <message>
         <source>Passages</source>
-        <translation type="unfinished"></translation>
+        <translation>Passages</translation>
     </message>
     <message>
         <source>Touches</source>
-        <translation type="unfinished"></translation>
+        <translation>Touches</translation>
     </message>
     <message>
         <source>Missed</source>
-        <translation type="unfinished"></translation>
+        <translation>Manquées</translation>
     </message>
     <message>
         <source>Touch rate</source>
-        <translation type="unfinished"></translation>
+        <translation>Taux de touches</translation>
     </message>
     <message>
         <source>Ranked rate</source>
-        <translation type="unfinished"></translation>
+        <translation>Taux classé</translation>
     </message>
     <message>
         <source>Above</source>
-        <translation type="unfinished"></translation>
+        <translation>Au-dessus</translation>
     </message>
     <message>
         <source>Gate %1, upstream</source>
-        <translation type="unfinished"></translation>
+        <translation>Porte %1, remontée</translation>
     </message>
     <message>
         <source>Gate %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Porte %1</translation>
     </message>
     <message>
         <source>%1 missed</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 manquées</translation>
     </message>
     <message>
         <source>stands out</source>
-        <translation type="unfinished"></translation>
+        <translation>ressort</translation>
     </message>
     <message>
         <source>%1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 sur %2</translation>
     </message>
     <message>
         <source>(not given)</source>
-        <translation type="unfinished"></translation>
+        <translation>(non indiqué)</translation>
     </message>
     <message>
         <source>%1: touches at the gates</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 : touches aux portes</translation>
     </message>
     <message>
         <source>Gates in order; ◀ upstream</source>
-        <translation type="unfinished"></translation>
+        <translation>Portes dans l’ordre ; ◀ remontée</translation>
     </message>
     <message>
         <source>Upstream</source>
-        <translation type="unfinished"></translation>
+        <translation>En remontée</translation>
     </message>
     <message>
         <source>Section</source>
-        <translation type="unfinished"></translation>
+        <translation>Secteur</translation>
     </message>
     <message>
         <source>Touches %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Touches %1</translation>
     </message>
     <message>
         <source> (the highest %1, %2 more in the table)</source>
-        <translation type="unfinished"></translation>
+        <translation> (les %1 plus hauts, %2 autres dans le tableau)</translation>
     </message>
     <message>
         <source>What was noted of penalties</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce qui a été noté des pénalités</translation>
     </message>
     <message>
         <source>Of those noted, %</source>
-        <translation type="unfinished"></translation>
+        <translation>Des pénalités notées, %</translation>
     </message>
     <message>
         <source>Share, 90 %</source>
-        <translation type="unfinished"></translation>
+        <translation>Part, 90 %</translation>
     </message>
     <message>
         <source>Noted as</source>
-        <translation type="unfinished"></translation>
+        <translation>Noté comme</translation>
     </message>
     <message>
         <source>Penalties</source>
-        <translation type="unfinished"></translation>
+        <translation>Pénalités</translation>
     </message>
     <message>
         <source>Of</source>
-        <translation type="unfinished"></translation>
+        <translation>Sur</translation>
     </message>
     <message>
         <source>Share</source>
-        <translation type="unfinished"></translation>
+        <translation>Part</translation>
     </message>
     <message>
         <source>Most of one kind: %1 %2, %3 of %4 noted.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le plus d’un même genre : %1 %2, %3 sur %4 notées.</translation>
     </message>
     <message>
         <source>fastest third</source>
-        <translation type="unfinished"></translation>
+        <translation>tiers rapide</translation>
     </message>
     <message>
         <source>middle third</source>
-        <translation type="unfinished"></translation>
+        <translation>tiers moyen</translation>
     </message>
     <message>
         <source>slowest third</source>
-        <translation type="unfinished"></translation>
+        <translation>tiers lent</translation>
     </message>
     <message>
         <source>Risk and speed</source>
-        <translation type="unfinished"></translation>
+        <translation>Risque et vitesse</translation>
     </message>
     <message>
         <source>Paddling time, % of the group&apos;s median</source>
-        <translation type="unfinished"></translation>
+        <translation>Temps de navigation, % de la médiane du groupe</translation>
     </message>
     <message>
         <source>Touches a run</source>
-        <translation type="unfinished"></translation>
+        <translation>Touches par manche</translation>
     </message>
     <message>
         <source>90 %</source>
-        <translation type="unfinished"></translation>
+        <translation>90 %</translation>
     </message>
     <message>
         <source>Equally fast in all</source>
-        <translation type="unfinished"></translation>
+        <translation>Aussi rapides partout</translation>
     </message>
     <message>
         <source>not planned</source>
-        <translation type="unfinished"></translation>
+        <translation>non prévu</translation>
     </message>
     <message>
         <source>planned</source>
-        <translation type="unfinished"></translation>
+        <translation>prévu</translation>
     </message>
     <message>
         <source>Sessions</source>
-        <translation type="unfinished"></translation>
+        <translation>Séances</translation>
     </message>
     <message>
         <source>Quantity</source>
-        <translation type="unfinished"></translation>
+        <translation>Quantité</translation>
     </message>
     <message>
         <source>What the sessions add up to, in the unit that they are written in</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce que font ensemble les séances, dans l’unité où elles sont écrites</translation>
     </message>
     <message>
         <source>In the sessions</source>
-        <translation type="unfinished"></translation>
+        <translation>Dans les séances</translation>
     </message>
     <message>
         <source>Event</source>
-        <translation type="unfinished"></translation>
+        <translation>Compétition</translation>
     </message>
     <message>
         <source>Position</source>
-        <translation type="unfinished"></translation>
+        <translation>Position</translation>
     </message>
     <message>
         <source>Time</source>
-        <translation type="unfinished"></translation>
+        <translation>Temps</translation>
     </message>
     <message>
         <source>Penalty</source>
-        <translation type="unfinished"></translation>
+        <translation>Pénalité</translation>
     </message>
     <message>
         <source>Behind best</source>
-        <translation type="unfinished"></translation>
+        <translation>Derrière le meilleur</translation>
     </message>
     <message>
         <source>Gates</source>
-        <translation type="unfinished"></translation>
+        <translation>Portes</translation>
     </message>
     <message>
         <source>Session</source>
-        <translation type="unfinished"></translation>
+        <translation>Séance</translation>
     </message>
     <message>
         <source>Missed gates</source>
-        <translation type="unfinished"></translation>
+        <translation>Portes manquées</translation>
     </message>
     <message>
         <source>Athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>Athlète</translation>
     </message>
     <message>
         <source>From the first run of the heats to the second</source>
-        <translation type="unfinished"></translation>
+        <translation>De la première manche de qualification à la deuxième</translation>
     </message>
     <message>
         <source>From the semifinal to the final</source>
-        <translation type="unfinished"></translation>
+        <translation>De la demi-finale à la finale</translation>
     </message>
     <message>
         <source>From the heats to the final</source>
-        <translation type="unfinished"></translation>
+        <translation>Des qualifications à la finale</translation>
     </message>
     <message>
         <source>Medals</source>
-        <translation type="unfinished"></translation>
+        <translation>Médailles</translation>
     </message>
     <message>
         <source>Finals</source>
-        <translation type="unfinished"></translation>
+        <translation>Finales</translation>
     </message>
     <message>
         <source>Semifinals</source>
-        <translation type="unfinished"></translation>
+        <translation>Demi-finales</translation>
     </message>
     <message>
         <source>too few for a range</source>
-        <translation type="unfinished"></translation>
+        <translation>trop peu pour un intervalle</translation>
     </message>
     <message>
         <source>%1 to %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 à %2</translation>
     </message>
     <message>
         <source>too few</source>
-        <translation type="unfinished"></translation>
+        <translation>trop peu</translation>
     </message>
     <message>
         <source>Change behind, %</source>
-        <translation type="unfinished"></translation>
+        <translation>Évolution du retard, %</translation>
     </message>
     <message>
         <source>Change, %</source>
-        <translation type="unfinished"></translation>
+        <translation>Évolution, %</translation>
     </message>
     <message>
         <source>Races</source>
-        <translation type="unfinished"></translation>
+        <translation>Courses</translation>
     </message>
     <message>
         <source>Typical error, %</source>
-        <translation type="unfinished"></translation>
+        <translation>Erreur type, %</translation>
     </message>
     <message>
         <source>No change</source>
-        <translation type="unfinished"></translation>
+        <translation>Pas d’évolution</translation>
     </message>
     <message>
         <source>No race of the team has both.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucune course de l’équipe n’a les deux.</translation>
     </message>
     <message>
         <source>How much runs vary by chance</source>
-        <translation type="unfinished"></translation>
+        <translation>De combien les manches varient par hasard</translation>
     </message>
     <message>
         <source>Within, %</source>
-        <translation type="unfinished"></translation>
+        <translation>Dispersion, %</translation>
     </message>
     <message>
         <source>Own alone, %</source>
-        <translation type="unfinished"></translation>
+        <translation>Propre seule, %</translation>
     </message>
     <message>
         <source>With a missed gate</source>
-        <translation type="unfinished"></translation>
+        <translation>Avec une porte manquée</translation>
     </message>
     <message>
         <source>Too few runs to tell how much they vary.</source>
-        <translation type="unfinished"></translation>
+        <translation>Trop peu de manches pour dire à quel point elles varient.</translation>
     </message>
     <message>
         <source>Trend behind the winners</source>
-        <translation type="unfinished"></translation>
+        <translation>Tendance derrière les vainqueurs</translation>
     </message>
     <message>
         <source>Trend behind the fastest splits</source>
-        <translation type="unfinished"></translation>
+        <translation>Tendance derrière les intermédiaires les plus rapides</translation>
     </message>
     <message>
         <source>A year, %</source>
-        <translation type="unfinished"></translation>
+        <translation>Par an, %</translation>
     </message>
     <message>
         <source>Verdict</source>
-        <translation type="unfinished"></translation>
+        <translation>Verdict</translation>
     </message>
     <message>
         <source>Too few runs of everybody to tell a trend: four over two months are needed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Trop peu de manches de chacun pour dire une tendance : il en faut quatre sur deux mois.</translation>
     </message>
     <message>
         <source>%1 against</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 face à</translation>
     </message>
     <message>
         <source>Against</source>
-        <translation type="unfinished"></translation>
+        <translation>Face à</translation>
     </message>
     <message>
         <source>Ahead, %</source>
-        <translation type="unfinished"></translation>
+        <translation>Devant, %</translation>
     </message>
     <message>
         <source>Met</source>
-        <translation type="unfinished"></translation>
+        <translation>Rencontres</translation>
     </message>
     <message>
         <source>Won</source>
-        <translation type="unfinished"></translation>
+        <translation>Gagnées</translation>
     </message>
     <message>
         <source>Gap, %</source>
-        <translation type="unfinished"></translation>
+        <translation>Écart, %</translation>
     </message>
     <message>
         <source>Gap 90 %</source>
-        <translation type="unfinished"></translation>
+        <translation>Écart 90 %</translation>
     </message>
     <message>
         <source>Half</source>
-        <translation type="unfinished"></translation>
+        <translation>Moitié</translation>
     </message>
     <message>
         <source>The athlete met nobody in these races.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’athlète n’a rencontré personne dans ces courses.</translation>
     </message>
     <message>
         <source>Of races, %</source>
-        <translation type="unfinished"></translation>
+        <translation>Des courses, %</translation>
     </message>
     <message>
         <source>No race of the team has a result that says so.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucune course de l’équipe n’a de résultat qui le dise.</translation>
     </message>
     <message>
         <source>Expected places among %1 boats</source>
-        <translation type="unfinished"></translation>
+        <translation>Places attendues parmi %1 bateaux</translation>
     </message>
     <message>
         <source>Boat</source>
-        <translation type="unfinished"></translation>
+        <translation>Bateau</translation>
     </message>
     <message>
         <source>Medal, %</source>
-        <translation type="unfinished"></translation>
+        <translation>Médaille, %</translation>
     </message>
     <message>
         <source>First, %</source>
-        <translation type="unfinished"></translation>
+        <translation>Première place, %</translation>
     </message>
     <message>
         <source>Missed gate, %</source>
-        <translation type="unfinished"></translation>
+        <translation>Porte manquée, %</translation>
     </message>
     <message>
         <source>Too few runs to expect places of anybody: each boat needs three, and the boats must have met.</source>
-        <translation type="unfinished"></translation>
+        <translation>Trop peu de manches pour attendre des places de quiconque : il en faut trois à chaque bateau, et les bateaux doivent s’être rencontrés.</translation>
     </message>
     <message>
         <source>What ranks took: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce que demandaient les rangs : %1</translation>
     </message>
     <message>
         <source>Rank</source>
-        <translation type="unfinished"></translation>
+        <translation>Rang</translation>
     </message>
     <message>
         <source>Behind the winner, %</source>
-        <translation type="unfinished"></translation>
+        <translation>Derrière le vainqueur, %</translation>
     </message>
     <message>
         <source>Quartiles</source>
-        <translation type="unfinished"></translation>
+        <translation>Quartiles</translation>
     </message>
     <message>
         <source>Least</source>
-        <translation type="unfinished"></translation>
+        <translation>Minimum</translation>
     </message>
     <message>
         <source>Most</source>
-        <translation type="unfinished"></translation>
+        <translation>Maximum</translation>
     </message>
     <message>
         <source>%1 would have</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 aurait</translation>
     </message>
     <message>
         <source>Median of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Médiane de %1</translation>
     </message>
     <message>
         <source>The first %1, %2 more in the table</source>
-        <translation type="unfinished"></translation>
+        <translation>Les %1 premiers, %2 autres dans le tableau</translation>
     </message>
     <message>
         <source>&amp;Import .kvb file</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Importer un fichier .kvb</translation>
     </message>
     <message>
         <source>Import .s&amp;bm file</source>
-        <translation type="unfinished"></translation>
+        <translation>Importer un &amp;fichier .sbm</translation>
     </message>
     <message>
         <source>Import from a &amp;watch or logger…</source>
-        <translation type="unfinished"></translation>
+        <translation>Importer d’une montre &amp;ou d’un enregistreur…</translation>
     </message>
     <message>
         <source>Move the trac&amp;k of the watch in time…</source>
-        <translation type="unfinished"></translation>
+        <translation>Déplacer &amp;la trace de la montre dans le temps…</translation>
     </message>
     <message>
         <source>Import &amp;power-meter data…</source>
-        <translation type="unfinished"></translation>
+        <translation>Importer les données du &amp;capteur de puissance…</translation>
     </message>
     <message>
         <source>Save the edited .&amp;kvb file</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Enregistrer le fichier .kvb modifié</translation>
     </message>
     <message>
         <source>&amp;Export the strokes…</source>
-        <translation type="unfinished"></translation>
+        <translation>E&amp;xporter les coups de pagaie…</translation>
     </message>
     <message>
         <source>Export the &amp;turns…</source>
-        <translation type="unfinished"></translation>
+        <translation>Exporter les &amp;virages…</translation>
     </message>
     <message>
         <source>Export the se&amp;gments…</source>
-        <translation type="unfinished"></translation>
+        <translation>Expor&amp;ter les segments…</translation>
     </message>
     <message>
         <source>Export the values per &amp;distance…</source>
-        <translation type="unfinished"></translation>
+        <translation>Exporter les valeurs par &amp;distance…</translation>
     </message>
     <message>
         <source>Mount of the p&amp;hone</source>
-        <translation type="unfinished"></translation>
+        <translation>Fix&amp;ation du téléphone</translation>
     </message>
     <message>
         <source>Found from the position</source>
-        <translation type="unfinished"></translation>
+        <translation>Trouvée d’après la position</translation>
     </message>
     <message>
         <source>Session &amp;information…</source>
-        <translation type="unfinished"></translation>
+        <translation>I&amp;nformations de la séance…</translation>
     </message>
     <message>
         <source>&amp;Analyse the recording again</source>
-        <translation type="unfinished"></translation>
+        <translation>Anal&amp;yser à nouveau l’enregistrement</translation>
     </message>
     <message>
         <source>&amp;Keep the selected stretch</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Garder le tronçon sélectionné</translation>
     </message>
     <message>
         <source>Remove the selected &amp;stretch</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Retirer le tronçon sélectionné</translation>
     </message>
     <message>
         <source>Re&amp;move the selected strokes, turns or mark</source>
-        <translation type="unfinished"></translation>
+        <translation>Retirer les coups de &amp;pagaie, virages ou la marque sélectionnés</translation>
     </message>
     <message>
         <source>Select &amp;nothing</source>
-        <translation type="unfinished"></translation>
+        <translation>Ne rien &amp;sélectionner</translation>
     </message>
     <message>
         <source>&amp;Segments</source>
-        <translation type="unfinished"></translation>
+        <translation>Seg&amp;ments</translation>
     </message>
     <message>
         <source>&amp;Mark here</source>
-        <translation type="unfinished"></translation>
+        <translation>Marquer &amp;ici</translation>
     </message>
     <message>
         <source>Mo&amp;ve the nearest mark here</source>
-        <translation type="unfinished"></translation>
+        <translation>Amener ici &amp;la marque la plus proche</translation>
     </message>
     <message>
         <source>Nearest mark &amp;earlier</source>
-        <translation type="unfinished"></translation>
+        <translation>Mar&amp;que la plus proche plus tôt</translation>
     </message>
     <message>
         <source>Nearest mark &amp;later</source>
-        <translation type="unfinished"></translation>
+        <translation>Marq&amp;ue la plus proche plus tard</translation>
     </message>
     <message>
         <source>&amp;Remove the nearest mark</source>
-        <translation type="unfinished"></translation>
+        <translation>R&amp;etirer la marque la plus proche</translation>
     </message>
     <message>
         <source>Remove &amp;all marks</source>
-        <translation type="unfinished"></translation>
+        <translation>Retirer &amp;toutes les marques</translation>
     </message>
     <message>
         <source>&amp;Save the segments</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Enregistrer les segments</translation>
     </message>
     <message>
         <source>&amp;Replay</source>
-        <translation type="unfinished"></translation>
+        <translation>Rele&amp;cture</translation>
     </message>
     <message>
         <source>&amp;Play, pause</source>
-        <translation type="unfinished"></translation>
+        <translation>Lecture, p&amp;ause</translation>
     </message>
     <message>
         <source>&amp;Slower</source>
-        <translation type="unfinished"></translation>
+        <translation>Plus le&amp;nt</translation>
     </message>
     <message>
         <source>&amp;Faster</source>
-        <translation type="unfinished"></translation>
+        <translation>Plus &amp;vite</translation>
     </message>
     <message>
         <source>&amp;Real time</source>
-        <translation type="unfinished"></translation>
+        <translation>Temps &amp;réel</translation>
     </message>
     <message>
         <source>P&amp;revious stroke</source>
-        <translation type="unfinished"></translation>
+        <translation>Coup &amp;de pagaie précédent</translation>
     </message>
     <message>
         <source>&amp;Next stroke</source>
-        <translation type="unfinished"></translation>
+        <translation>Coup de &amp;pagaie suivant</translation>
     </message>
     <message>
         <source>&amp;Start</source>
-        <translation type="unfinished"></translation>
+        <translation>Dé&amp;but</translation>
     </message>
     <message>
         <source>&amp;End</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Fin</translation>
     </message>
     <message>
         <source>&amp;Charts</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Graphiques</translation>
     </message>
     <message>
         <source>&amp;View</source>
-        <translation type="unfinished"></translation>
+        <translation>Affic&amp;hage</translation>
     </message>
     <message>
         <source>&amp;Zoom to the selected stretch</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Zoomer sur le tronçon sélectionné</translation>
     </message>
     <message>
         <source>&amp;Fit</source>
-        <translation type="unfinished"></translation>
+        <translation>Aj&amp;uster</translation>
     </message>
     <message>
         <source>%1; “%2” is none.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ; « %2 » n’en est pas un.</translation>
     </message>
     <message>
         <source>%1 is of release %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 est de la version %2.</translation>
     </message>
     <message>
         <source>Its folder %1 cannot be written, so that the analyzer shows it and leaves it as it is.</source>
-        <translation type="unfinished"></translation>
+        <translation>Son dossier %1 n’est pas accessible en écriture : l’analyse de course l’affiche et le laisse tel quel.</translation>
     </message>
     <message>
         <source>Who of the team it is; a question mark: only you can tell</source>
-        <translation type="unfinished"></translation>
+        <translation>Qui de l’équipe c’est ; un point d’interrogation : vous seul pouvez le dire</translation>
     </message>
     <message>
         <source> or </source>
-        <translation type="unfinished"></translation>
+        <translation> ou </translation>
     </message>
     <message>
         <source>Reckoned from the list</source>
-        <translation type="unfinished"></translation>
+        <translation>Calculé à partir de la liste</translation>
     </message>
     <message>
         <source>Line</source>
-        <translation type="unfinished"></translation>
+        <translation>Ligne</translation>
     </message>
     <message>
         <source>Column</source>
-        <translation type="unfinished"></translation>
+        <translation>Colonne</translation>
     </message>
     <message>
         <source>What stands there</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce qui s’y trouve</translation>
     </message>
     <message>
         <source>Why it is not taken</source>
-        <translation type="unfinished"></translation>
+        <translation>Pourquoi ce n’est pas repris</translation>
     </message>
     <message>
         <source>Results list</source>
-        <translation type="unfinished"></translation>
+        <translation>Liste des résultats</translation>
     </message>
     <message>
         <source>Attached document</source>
-        <translation type="unfinished"></translation>
+        <translation>Document joint</translation>
     </message>
     <message>
         <source>Table kept with the race</source>
-        <translation type="unfinished"></translation>
+        <translation>Tableau conservé avec la course</translation>
     </message>
     <message>
         <source>Lists (*.csv *.tsv *.txt *.xlsx *.ods *.kvx);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Listes (*.csv *.tsv *.txt *.xlsx *.ods *.kvx);;Tous les fichiers (*)</translation>
     </message>
     <message>
         <source>The least is %1 (%2), the most %3 (%4), of %5 rows</source>
-        <translation type="unfinished"></translation>
+        <translation>Le minimum est %1 (%2), le maximum %3 (%4), sur %5 lignes</translation>
     </message>
     <message>
         <source>; %1 without a number are left out</source>
-        <translation type="unfinished"></translation>
+        <translation>; %1 sans nombre sont laissées de côté</translation>
     </message>
     <message>
         <source>Choose a column of numbers or times: a click on one of its cells, then C.</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisissez une colonne de nombres ou de temps : un clic sur une de ses cellules, puis C.</translation>
     </message>
     <message>
         <source>Row</source>
-        <translation type="unfinished"></translation>
+        <translation>Ligne</translation>
     </message>
     <message>
         <source>No row has a number in this column.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucune ligne n’a de nombre dans cette colonne.</translation>
     </message>
     <message>
         <source>&amp;Day</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Jour</translation>
     </message>
     <message>
         <source>Start &amp;list…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Liste de départ…</translation>
     </message>
     <message>
         <source>Films &amp;from…</source>
-        <translation type="unfinished"></translation>
+        <translation>Fil&amp;ms depuis…</translation>
     </message>
     <message>
         <source>Reckon with the camera&apos;s &amp;clock</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Tenir compte de l’horloge de la caméra</translation>
     </message>
     <message>
         <source>&amp;Remove the boat from the list</source>
-        <translation type="unfinished"></translation>
+        <translation>R&amp;etirer le bateau de la liste</translation>
     </message>
     <message>
         <source>To the next film that is not &amp;timed yet</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Au prochain film pas encore chronométré</translation>
     </message>
     <message>
         <source>&amp;Open the film of the start in front</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ouvrir le film du départ au premier plan</translation>
     </message>
     <message>
         <source>&amp;Previous start</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Départ précédent</translation>
     </message>
     <message>
         <source>&amp;Next start</source>
-        <translation type="unfinished"></translation>
+        <translation>Départ &amp;suivant</translation>
     </message>
     <message>
         <source>&amp;Agree: the film is named after its boat</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Valider : le film prend le nom de son bateau</translation>
     </message>
     <message>
         <source>Agree to all that are &amp;sure</source>
-        <translation type="unfinished"></translation>
+        <translation>Valider tous &amp;ceux qui sont sûrs</translation>
     </message>
     <message>
         <source>Films from here on: one start &amp;earlier</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Films à partir d’ici : un départ plus tôt</translation>
     </message>
     <message>
         <source>Films from here on: one start late&amp;r</source>
-        <translation type="unfinished"></translation>
+        <translation>Films à &amp;partir d’ici : un départ plus tard</translation>
     </message>
     <message>
         <source>Did not start, or did after all</source>
-        <translation type="unfinished"></translation>
+        <translation>N’a pas pris le départ, ou si finalement</translation>
     </message>
     <message>
         <source>Did not finish, or did after all</source>
-        <translation type="unfinished"></translation>
+        <translation>N’a pas terminé, ou si finalement</translation>
     </message>
     <message>
         <source>&amp;Notes</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Notes</translation>
     </message>
     <message>
         <source>Stroke on the left</source>
-        <translation type="unfinished"></translation>
+        <translation>Coup de pagaie à gauche</translation>
     </message>
     <message>
         <source>Stroke on the right</source>
-        <translation type="unfinished"></translation>
+        <translation>Coup de pagaie à droite</translation>
     </message>
     <message>
         <source>Other hand for the selected stroke</source>
-        <translation type="unfinished"></translation>
+        <translation>Autre main pour le coup de pagaie choisi</translation>
     </message>
     <message>
         <source>Play from the selected tag</source>
-        <translation type="unfinished"></translation>
+        <translation>Lire depuis l’étiquette choisie</translation>
     </message>
     <message>
         <source>To the other run of the time loss</source>
-        <translation type="unfinished"></translation>
+        <translation>Vers l’autre manche de la perte de temps</translation>
     </message>
     <message>
         <source>Record the team radio, or end it</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer la radio d’équipe, ou finir</translation>
     </message>
     <message>
         <source>Clips of the chosen marks, one after another</source>
-        <translation type="unfinished"></translation>
+        <translation>Extraits des marques choisies, l’un après l’autre</translation>
     </message>
     <message>
         <source>Add a &amp;category</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajouter &amp;une catégorie</translation>
     </message>
     <message>
         <source>&amp;Team</source>
-        <translation type="unfinished"></translation>
+        <translation>É&amp;quipe</translation>
     </message>
     <message>
         <source>&amp;New athlete…</source>
-        <translation type="unfinished"></translation>
+        <translation>Nouvel at&amp;hlète…</translation>
     </message>
     <message>
         <source>Remo&amp;ve the athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Retirer l’athlète</translation>
     </message>
     <message>
         <source>Re&amp;move the category</source>
-        <translation type="unfinished"></translation>
+        <translation>Retirer &amp;la catégorie</translation>
     </message>
     <message>
         <source>New &amp;season</source>
-        <translation type="unfinished"></translation>
+        <translation>Nouv&amp;elle saison</translation>
     </message>
     <message>
         <source>New &amp;race</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Nouvelle course</translation>
     </message>
     <message>
         <source>Move season or race &amp;up</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Monter la saison ou la course</translation>
     </message>
     <message>
         <source>Move season or race &amp;down</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Descendre la saison ou la course</translation>
     </message>
     <message>
         <source>Where the athlete &amp;loses time…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Où l’athlète perd du temps…</translation>
     </message>
     <message>
         <source>S&amp;eason of the athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Saison de l’athlète</translation>
     </message>
     <message>
         <source>Compute all a&amp;verages again</source>
-        <translation type="unfinished"></translation>
+        <translation>Recalculer &amp;toutes les moyennes</translation>
     </message>
     <message>
         <source>&amp;Find an athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Chercher un athlète</translation>
     </message>
     <message>
         <source>Take &amp;results over…</source>
-        <translation type="unfinished"></translation>
+        <translation>Re&amp;prendre des résultats…</translation>
     </message>
     <message>
         <source>Cate&amp;gorization report…</source>
-        <translation type="unfinished"></translation>
+        <translation>R&amp;apport de catégorisation…</translation>
     </message>
     <message>
         <source>Save the c&amp;hart…</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer le &amp;graphique…</translation>
     </message>
     <message>
         <source>&amp;Edit the cell</source>
-        <translation type="unfinished"></translation>
+        <translation>Modi&amp;fier la cellule</translation>
     </message>
     <message>
         <source>&amp;Remove what is chosen</source>
-        <translation type="unfinished"></translation>
+        <translation>Retirer ce &amp;qui est choisi</translation>
     </message>
     <message>
         <source>Athletes</source>
-        <translation type="unfinished"></translation>
+        <translation>Athlètes</translation>
     </message>
     <message>
         <source>Selection %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Sélection %1</translation>
     </message>
     <message>
         <source>Race analyzer</source>
-        <translation type="unfinished"></translation>
+        <translation>Analyse de course</translation>
     </message>
     <message>
         <source>Every split of a race side by side, coloured by rank.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tous les intermédiaires d’une course côte à côte, colorés selon le rang.</translation>
     </message>
     <message>
         <source>Open races</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir des courses</translation>
     </message>
     <message>
         <source>Split files</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichiers d’intermédiaires</translation>
     </message>
     <message>
         <source>Time losses</source>
-        <translation type="unfinished"></translation>
+        <translation>Pertes de temps</translation>
     </message>
     <message>
         <source>Where each run lost its time, section by section, and a season&apos;s pattern.</source>
-        <translation type="unfinished"></translation>
+        <translation>Où chaque manche a perdu son temps, secteur par secteur, et ce qui se répète sur une saison.</translation>
     </message>
     <message>
         <source>Open split files</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir des fichiers d’intermédiaires</translation>
     </message>
     <message>
         <source>Split taking</source>
-        <translation type="unfinished"></translation>
+        <translation>Prise de temps intermédiaires</translation>
     </message>
     <message>
         <source>Time every run from its video, exact to the frame.</source>
-        <translation type="unfinished"></translation>
+        <translation>Chronométrer chaque manche sur sa vidéo, à l’image près.</translation>
     </message>
     <message>
         <source>Open a folder of videos</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir un dossier de vidéos</translation>
     </message>
     <message>
         <source>Films</source>
-        <translation type="unfinished"></translation>
+        <translation>Films</translation>
     </message>
     <message>
         <source>A folder of films played, compared in step, tagged, renamed and cut.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un dossier de films lus, comparés au pas, étiquetés, renommés et coupés.</translation>
     </message>
     <message>
         <source>Open a folder of films</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir un dossier de films</translation>
     </message>
     <message>
         <source>Kayak cross</source>
-        <translation type="unfinished"></translation>
+        <translation>Kayak cross</translation>
     </message>
     <message>
         <source>Time trials, heats and attacks of a cross race, from video.</source>
-        <translation type="unfinished"></translation>
+        <translation>Contre-la-montre, séries et attaques d’un cross, sur vidéo.</translation>
     </message>
     <message>
         <source>Open a kayak cross</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir un kayak cross</translation>
     </message>
     <message>
         <source>Compare films</source>
-        <translation type="unfinished"></translation>
+        <translation>Comparer des films</translation>
     </message>
     <message>
         <source>Two to four runs in one picture, together at a split, as a film to take home.</source>
-        <translation type="unfinished"></translation>
+        <translation>Deux à quatre manches dans une image, ensemble à un intermédiaire, en un film à emporter.</translation>
     </message>
     <message>
         <source>Comparisons of films</source>
-        <translation type="unfinished"></translation>
+        <translation>Comparaisons de films</translation>
     </message>
     <message>
         <source>Comparisons</source>
-        <translation type="unfinished"></translation>
+        <translation>Comparaisons</translation>
     </message>
     <message>
         <source>Comparison</source>
-        <translation type="unfinished"></translation>
+        <translation>Comparaison</translation>
     </message>
     <message>
         <source>Team</source>
-        <translation type="unfinished"></translation>
+        <translation>Équipe</translation>
     </message>
     <message>
         <source>Results of every athlete, season by season, and their category.</source>
-        <translation type="unfinished"></translation>
+        <translation>Résultats de chaque athlète, saison par saison, et leur catégorie.</translation>
     </message>
     <message>
         <source>Team results</source>
-        <translation type="unfinished"></translation>
+        <translation>Résultats d’équipe</translation>
     </message>
     <message>
         <source>Teams</source>
-        <translation type="unfinished"></translation>
+        <translation>Équipes</translation>
     </message>
     <message>
         <source>Selection races</source>
-        <translation type="unfinished"></translation>
+        <translation>Courses de sélection</translation>
     </message>
     <message>
         <source>Who is selected, by which results, and why.</source>
-        <translation type="unfinished"></translation>
+        <translation>Qui est sélectionné, par quels résultats, et pourquoi.</translation>
     </message>
     <message>
         <source>Planning</source>
-        <translation type="unfinished"></translation>
+        <translation>Planification</translation>
     </message>
     <message>
         <source>Seasons, weeks and sessions, heart, gym and goals of a group.</source>
-        <translation type="unfinished"></translation>
+        <translation>Saisons, semaines et séances, cœur, musculation et objectifs d’un groupe.</translation>
     </message>
     <message>
         <source>Plannings</source>
-        <translation type="unfinished"></translation>
+        <translation>Planifications</translation>
     </message>
     <message>
         <source>Tests</source>
-        <translation type="unfinished"></translation>
+        <translation>Tests</translation>
     </message>
     <message>
         <source>Lap, sprint and eight tests on the water, compared.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tests par tours, de sprint et en huit sur l’eau, comparés.</translation>
     </message>
     <message>
         <source>Boat motion</source>
-        <translation type="unfinished"></translation>
+        <translation>Mouvement du bateau</translation>
     </message>
     <message>
         <source>Recordings of phone and watch over each other, and converted.</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrements du téléphone et de la montre superposés, et convertis.</translation>
     </message>
     <message>
         <source>Open recordings</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir des enregistrements</translation>
     </message>
     <message>
         <source>Recordings</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrements</translation>
     </message>
     <message>
         <source>Strokes, turns and segments of a recording, on a map and replayed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Coups de pagaie, virages et segments d’un enregistrement, sur une carte et rejoués.</translation>
     </message>
     <message>
         <source>Find</source>
-        <translation type="unfinished"></translation>
+        <translation>Chercher</translation>
     </message>
     <message>
         <source>Every gate, penalty and run of all seasons, by one question.</source>
-        <translation type="unfinished"></translation>
+        <translation>Chaque porte, pénalité et manche de toutes les saisons, par une seule question.</translation>
     </message>
     <message>
         <source>Search files</source>
-        <translation type="unfinished"></translation>
+        <translation>Chercher dans des fichiers</translation>
     </message>
     <message>
         <source>Which gates are touched, by whom, and what it cost.</source>
-        <translation type="unfinished"></translation>
+        <translation>Quelles portes sont touchées, par qui, et ce que cela a coûté.</translation>
     </message>
     <message>
         <source>Tables</source>
-        <translation type="unfinished"></translation>
+        <translation>Tableaux</translation>
     </message>
     <message>
         <source>Any list of results, sorted, tinted, reckoned with, and whose it is.</source>
-        <translation type="unfinished"></translation>
+        <translation>N’importe quelle liste de résultats, triée, teintée, calculée, et à qui elle appartient.</translation>
     </message>
     <message>
         <source>Open lists</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir des listes</translation>
     </message>
     <message>
         <source>Lists</source>
-        <translation type="unfinished"></translation>
+        <translation>Listes</translation>
     </message>
     <message>
         <source>Season</source>
-        <translation type="unfinished"></translation>
+        <translation>Saison</translation>
     </message>
     <message>
         <source>How a team&apos;s athletes stand: trend, rivals, medals, what it takes.</source>
-        <translation type="unfinished"></translation>
+        <translation>Où en sont les athlètes d’une équipe : tendance, rivaux, médailles, ce qu’il faut.</translation>
     </message>
     <message>
         <source>Open a team</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir une équipe</translation>
     </message>
     <message>
         <source>Fetch films</source>
-        <translation type="unfinished"></translation>
+        <translation>Récupérer des films</translation>
     </message>
     <message>
         <source>The films of a race from a server, by the bibs of a start list.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les films d’une course depuis un serveur, d’après les dossards d’une liste de départ.</translation>
     </message>
     <message>
         <source>Open a source of films</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir une source de films</translation>
     </message>
     <message>
         <source>Sources of films</source>
-        <translation type="unfinished"></translation>
+        <translation>Sources de films</translation>
     </message>
     <message>
         <source>Test session</source>
-        <translation type="unfinished"></translation>
+        <translation>Séance de tests</translation>
     </message>
     <message>
         <source>&amp;Test</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Test</translation>
     </message>
     <message>
         <source>New &amp;lap test</source>
-        <translation type="unfinished"></translation>
+        <translation>No&amp;uveau test par tours</translation>
     </message>
     <message>
         <source>New &amp;sprint</source>
-        <translation type="unfinished"></translation>
+        <translation>Nou&amp;veau sprint</translation>
     </message>
     <message>
         <source>New &amp;eight test</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Nouveau test en huit</translation>
     </message>
     <message>
         <source>&amp;Duplicate the test</source>
-        <translation type="unfinished"></translation>
+        <translation>Dupliquer &amp;le test</translation>
     </message>
     <message>
         <source>&amp;Previous test</source>
-        <translation type="unfinished"></translation>
+        <translation>T&amp;est précédent</translation>
     </message>
     <message>
         <source>Ne&amp;xt test</source>
-        <translation type="unfinished"></translation>
+        <translation>Test su&amp;ivant</translation>
     </message>
     <message>
         <source>&amp;Compare with the athlete&apos;s other tests</source>
-        <translation type="unfinished"></translation>
+        <translation>Comparer aux autres tests &amp;de l’athlète</translation>
     </message>
     <message>
         <source>&amp;Tick every listed test</source>
-        <translation type="unfinished"></translation>
+        <translation>C&amp;ocher tous les tests listés</translation>
     </message>
     <message>
         <source>&amp;Untick all</source>
-        <translation type="unfinished"></translation>
+        <translation>Tout dé&amp;cocher</translation>
     </message>
     <message>
         <source>&amp;Values</source>
-        <translation type="unfinished"></translation>
+        <translation>Valeu&amp;rs</translation>
     </message>
     <message>
         <source>&amp;Table</source>
-        <translation type="unfinished"></translation>
+        <translation>T&amp;ableau</translation>
     </message>
     <message>
         <source>Charts by &amp;lap or stretch</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Graphiques par tour ou tronçon</translation>
     </message>
     <message>
         <source>Charts by t&amp;urn</source>
-        <translation type="unfinished"></translation>
+        <translation>Graphiques &amp;par virage</translation>
     </message>
     <message>
         <source>Charts by &amp;stroke</source>
-        <translation type="unfinished"></translation>
+        <translation>Grap&amp;hiques par coup de pagaie</translation>
     </message>
     <message>
         <source>&amp;List of tests</source>
-        <translation type="unfinished"></translation>
+        <translation>Liste des &amp;tests</translation>
     </message>
     <message>
         <source>Choose an &amp;athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisir &amp;un athlète</translation>
     </message>
     <message>
         <source>Take in from a split &amp;file…</source>
-        <translation type="unfinished"></translation>
+        <translation>Reprendre d’un &amp;fichier d’intermédiaires…</translation>
     </message>
     <message>
         <source>Take in from a &amp;recording…</source>
-        <translation type="unfinished"></translation>
+        <translation>Repre&amp;ndre d’un enregistrement…</translation>
     </message>
     <message>
         <source>&amp;Export the table…</source>
-        <translation type="unfinished"></translation>
+        <translation>Exporter &amp;le tableau…</translation>
     </message>
     <message>
         <source>&amp;Copy the table</source>
-        <translation type="unfinished"></translation>
+        <translation>Copi&amp;er le tableau</translation>
     </message>
     <message>
         <source>Course</source>
-        <translation type="unfinished"></translation>
+        <translation>Parcours</translation>
     </message>
     <message>
         <source>The course drawn: banks, gates, split lines and the lines of runs.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le parcours dessiné : rives, portes, lignes intermédiaires et trajectoires des manches.</translation>
     </message>
     <message>
         <source>Draw the course of a race</source>
-        <translation type="unfinished"></translation>
+        <translation>Dessiner le parcours d’une course</translation>
     </message>
     <message>
         <source>Tracking</source>
-        <translation type="unfinished"></translation>
+        <translation>Suivi</translation>
     </message>
     <message>
         <source>Boat, gate or head followed through a film: its path and speed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bateau, porte ou tête suivis dans un film : leur trajectoire et leur vitesse.</translation>
     </message>
     <message>
         <source>Open films</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir des films</translation>
     </message>
     <message>
         <source>Slit picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Image à fente</translation>
     </message>
     <message>
         <source>A finish camera made of the film of a tripod: every crossing of a line at a glance.</source>
-        <translation type="unfinished"></translation>
+        <translation>Une photo-finish faite du film d’un trépied : chaque passage d’une ligne d’un coup d’œil.</translation>
     </message>
     <message>
         <source>Open films of a fixed camera</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir des films d’une caméra fixe</translation>
     </message>
     <message>
         <source>Share folders</source>
-        <translation type="unfinished"></translation>
+        <translation>Partager des dossiers</translation>
     </message>
     <message>
         <source>A folder the same here and on the team&apos;s own server, nothing overwritten.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un dossier identique ici et sur le serveur de l’équipe, sans rien écraser.</translation>
     </message>
     <message>
         <source>Share a folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Partager un dossier</translation>
     </message>
     <message>
         <source>Folders</source>
-        <translation type="unfinished"></translation>
+        <translation>Dossiers</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::AthleteDialog</name>
     <message>
         <source>Athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>Athlète</translation>
     </message>
     <message>
         <source>SURNAME Name</source>
-        <translation type="unfinished"></translation>
+        <translation>NOM Prénom</translation>
     </message>
     <message>
         <source>unknown</source>
@@ -6799,7 +6803,7 @@
     </message>
     <message>
         <source>none</source>
-        <translation type="unfinished"></translation>
+        <translation>aucun</translation>
     </message>
     <message>
         <source>Bonus %1 (percent)</source>
@@ -6814,7 +6818,7 @@
     </message>
     <message>
         <source>Season</source>
-        <translation type="unfinished"></translation>
+        <translation>Saison</translation>
     </message>
     <message>
         <source>none yet</source>
@@ -6837,7 +6841,7 @@
     </message>
     <message>
         <source>&amp;Athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Athlète</translation>
     </message>
     <message>
         <source>&amp;From</source>
@@ -6891,11 +6895,11 @@
     </message>
     <message>
         <source>All categories</source>
-        <translation type="unfinished"></translation>
+        <translation>Toutes les catégories</translation>
     </message>
     <message>
         <source>Athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>Athlète</translation>
     </message>
     <message>
         <source>name</source>
@@ -6962,7 +6966,7 @@
     </message>
     <message>
         <source>Comment</source>
-        <translation type="unfinished"></translation>
+        <translation>Commentaire</translation>
     </message>
     <message>
         <source>Side</source>
@@ -6970,7 +6974,7 @@
     </message>
     <message>
         <source>Place</source>
-        <translation type="unfinished"></translation>
+        <translation>Place</translation>
     </message>
     <message>
         <source>side of an attack</source>
@@ -7045,11 +7049,11 @@
     </message>
     <message>
         <source>Season</source>
-        <translation type="unfinished"></translation>
+        <translation>Saison</translation>
     </message>
     <message>
         <source>Phase</source>
-        <translation type="unfinished"></translation>
+        <translation>Phase</translation>
     </message>
     <message>
         <source>Behind</source>
@@ -7100,7 +7104,7 @@
     </message>
     <message>
         <source>Strokes</source>
-        <translation type="unfinished"></translation>
+        <translation>Coups</translation>
     </message>
     <message>
         <source>Force (N)</source>
@@ -7147,11 +7151,11 @@
     </message>
     <message>
         <source>Weight</source>
-        <translation type="unfinished"></translation>
+        <translation>Poids</translation>
     </message>
     <message>
         <source>Body fat</source>
-        <translation type="unfinished"></translation>
+        <translation>Masse grasse</translation>
     </message>
     <message>
         <source>Resting heart rate</source>
@@ -7249,11 +7253,11 @@ Press Insert to add one, or import a list.</source>
     <name>kavela::desktop::CameraPage</name>
     <message>
         <source>Time</source>
-        <translation type="unfinished"></translation>
+        <translation>Temps</translation>
     </message>
     <message>
         <source>Tag</source>
-        <translation type="unfinished"></translation>
+        <translation>Étiquette</translation>
     </message>
     <message>
         <source>Lag</source>
@@ -7289,7 +7293,7 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>None</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun</translation>
     </message>
     <message>
         <source>Attach the film of a camera that stood at the course.</source>
@@ -7348,7 +7352,7 @@ Press Insert to add one, or import a list.</source>
     <name>kavela::desktop::Chart</name>
     <message>
         <source>1 run</source>
-        <translation type="unfinished"></translation>
+        <translation>1 manche</translation>
     </message>
     <message>
         <source> · %1 of %2 selected runs</source>
@@ -7364,9 +7368,9 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message numerus="yes">
         <source>%n runs</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n manche</numerusform>
+            <numerusform>%n manches</numerusform>
         </translation>
     </message>
 </context>
@@ -7374,7 +7378,7 @@ Press Insert to add one, or import a list.</source>
     <name>kavela::desktop::ChartPanel</name>
     <message>
         <source>Charts</source>
-        <translation type="unfinished"></translation>
+        <translation>Graphiques</translation>
     </message>
     <message>
         <source>&amp;Reference</source>
@@ -7382,7 +7386,7 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>Reference</source>
-        <translation type="unfinished"></translation>
+        <translation>Référence</translation>
     </message>
     <message>
         <source>What the runs are held against</source>
@@ -7390,19 +7394,19 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>Fit</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajuster</translation>
     </message>
     <message>
         <source>Show everything again (or double click)</source>
-        <translation type="unfinished"></translation>
+        <translation>Tout afficher à nouveau (ou double-clic)</translation>
     </message>
     <message>
         <source>Save chart…</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer le graphique…</translation>
     </message>
     <message>
         <source>Save as PNG, SVG or CSV</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer en PNG, SVG ou CSV</translation>
     </message>
     <message>
         <source>Best run</source>
@@ -7414,14 +7418,14 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>Ideal run</source>
-        <translation type="unfinished"></translation>
+        <translation>Manche idéale</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::ChartTabs</name>
     <message>
         <source>Season</source>
-        <translation type="unfinished"></translation>
+        <translation>Saison</translation>
     </message>
     <message>
         <source>Race progression</source>
@@ -7441,7 +7445,7 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>Save chart…</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer le graphique…</translation>
     </message>
     <message>
         <source>As a picture (PNG, SVG) or as CSV (Ctrl+E)</source>
@@ -7453,7 +7457,7 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>%1, %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, %2</translation>
     </message>
     <message>
         <source>all seasons</source>
@@ -7496,7 +7500,7 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>Strokes</source>
-        <translation type="unfinished"></translation>
+        <translation>Coups</translation>
     </message>
     <message>
         <source>Stretches</source>
@@ -7611,15 +7615,15 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>C&amp;olumns</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Colonnes</translation>
     </message>
     <message>
         <source>Save the table</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer le tableau</translation>
     </message>
     <message>
         <source>Semicolon-separated text (*.csv)</source>
-        <translation type="unfinished"></translation>
+        <translation>Texte séparé par des points-virgules (*.csv)</translation>
     </message>
 </context>
 <context>
@@ -7657,11 +7661,11 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>Split</source>
-        <translation type="unfinished"></translation>
+        <translation>Inter</translation>
     </message>
     <message>
         <source>Comment</source>
-        <translation type="unfinished"></translation>
+        <translation>Commentaire</translation>
     </message>
     <message>
         <source>athlete</source>
@@ -7722,7 +7726,7 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>Film</source>
-        <translation type="unfinished"></translation>
+        <translation>Film</translation>
     </message>
     <message>
         <source>It is not marked from the start to a split.</source>
@@ -7730,19 +7734,19 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Nom</translation>
     </message>
     <message>
         <source>Category</source>
-        <translation type="unfinished"></translation>
+        <translation>Catégorie</translation>
     </message>
     <message>
         <source>Phase</source>
-        <translation type="unfinished"></translation>
+        <translation>Phase</translation>
     </message>
     <message>
         <source>Time</source>
-        <translation type="unfinished"></translation>
+        <translation>Temps</translation>
     </message>
     <message>
         <source>Name in the film</source>
@@ -7877,7 +7881,7 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>Split</source>
-        <translation type="unfinished"></translation>
+        <translation>Inter</translation>
     </message>
     <message>
         <source>Sho&amp;wn</source>
@@ -7925,11 +7929,11 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>Section</source>
-        <translation type="unfinished"></translation>
+        <translation>Secteur</translation>
     </message>
     <message>
         <source>Penalties</source>
-        <translation type="unfinished"></translation>
+        <translation>Pénalités</translation>
     </message>
     <message>
         <source>Chart of the gap</source>
@@ -7973,7 +7977,7 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>none</source>
-        <translation type="unfinished"></translation>
+        <translation>aucun</translation>
     </message>
 </context>
 <context>
@@ -7987,7 +7991,7 @@ Press Insert to add one, or import a list.</source>
     <name>kavela::desktop::CompareWindow</name>
     <message>
         <source>Compare films</source>
-        <translation type="unfinished"></translation>
+        <translation>Comparer des films</translation>
     </message>
     <message>
         <source>Compose the &amp;film…</source>
@@ -8075,7 +8079,7 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>Split files (*.kvx);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichiers d’intermédiaires (*.kvx);;Tous les fichiers (*)</translation>
     </message>
     <message>
         <source>Add films</source>
@@ -8095,7 +8099,7 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>Start</source>
-        <translation type="unfinished"></translation>
+        <translation>Départ</translation>
     </message>
     <message>
         <source>Four films are the most: these are the first four</source>
@@ -8166,11 +8170,11 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>Athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>Athlète</translation>
     </message>
     <message>
         <source>Races</source>
-        <translation type="unfinished"></translation>
+        <translation>Courses</translation>
     </message>
     <message>
         <source>Behind, %</source>
@@ -8186,7 +8190,7 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>Within, %</source>
-        <translation type="unfinished"></translation>
+        <translation>Dispersion, %</translation>
     </message>
     <message>
         <source>How much the runs vary by chance</source>
@@ -8194,7 +8198,7 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>A year, %</source>
-        <translation type="unfinished"></translation>
+        <translation>Par an, %</translation>
     </message>
     <message>
         <source>Trend behind the winners, over all phases</source>
@@ -8206,15 +8210,15 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>too few</source>
-        <translation type="unfinished"></translation>
+        <translation>trop peu</translation>
     </message>
     <message>
         <source>Medals</source>
-        <translation type="unfinished"></translation>
+        <translation>Médailles</translation>
     </message>
     <message>
         <source>Finals</source>
-        <translation type="unfinished"></translation>
+        <translation>Finales</translation>
     </message>
     <message>
         <source>The athletes year by year: %1</source>
@@ -8222,7 +8226,7 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>Year</source>
-        <translation type="unfinished"></translation>
+        <translation>Année</translation>
     </message>
     <message>
         <source>Median behind the winner, %</source>
@@ -8241,27 +8245,27 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>Category</source>
-        <translation type="unfinished"></translation>
+        <translation>Catégorie</translation>
     </message>
     <message>
         <source>Phase</source>
-        <translation type="unfinished"></translation>
+        <translation>Phase</translation>
     </message>
     <message>
         <source>Race</source>
-        <translation type="unfinished"></translation>
+        <translation>Course</translation>
     </message>
     <message>
         <source>Gate</source>
-        <translation type="unfinished"></translation>
+        <translation>Porte</translation>
     </message>
     <message>
         <source>Section</source>
-        <translation type="unfinished"></translation>
+        <translation>Secteur</translation>
     </message>
     <message>
         <source>Seconds</source>
-        <translation type="unfinished"></translation>
+        <translation>Secondes</translation>
     </message>
     <message>
         <source>2 for a touch, 50 for a missed gate</source>
@@ -8269,7 +8273,7 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>Rank</source>
-        <translation type="unfinished"></translation>
+        <translation>Rang</translation>
     </message>
     <message>
         <source>As it was</source>
@@ -8328,7 +8332,7 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>course</source>
-        <translation type="unfinished"></translation>
+        <translation>parcours</translation>
     </message>
     <message>
         <source>All %1 gates of the race are drawn. Race and course says how many there are.</source>
@@ -8351,7 +8355,7 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>Gates</source>
-        <translation type="unfinished"></translation>
+        <translation>Portes</translation>
     </message>
     <message>
         <source>Race and course</source>
@@ -8359,27 +8363,27 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>Event</source>
-        <translation type="unfinished"></translation>
+        <translation>Compétition</translation>
     </message>
     <message>
         <source>Place</source>
-        <translation type="unfinished"></translation>
+        <translation>Place</translation>
     </message>
     <message>
         <source>Date</source>
-        <translation type="unfinished"></translation>
+        <translation>Date</translation>
     </message>
     <message>
         <source>Session</source>
-        <translation type="unfinished"></translation>
+        <translation>Séance</translation>
     </message>
     <message>
         <source>Category</source>
-        <translation type="unfinished"></translation>
+        <translation>Catégorie</translation>
     </message>
     <message>
         <source>Water</source>
-        <translation type="unfinished"></translation>
+        <translation>Eau</translation>
     </message>
     <message>
         <source>Technique</source>
@@ -8387,7 +8391,7 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>Comments</source>
-        <translation type="unfinished"></translation>
+        <translation>Commentaires</translation>
     </message>
     <message>
         <source>Such as 4 8 12</source>
@@ -8399,7 +8403,7 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>&amp;Gates</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Portes</translation>
     </message>
     <message>
         <source>&amp;Upstream gates</source>
@@ -8426,7 +8430,7 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>Text</source>
-        <translation type="unfinished"></translation>
+        <translation>Texte</translation>
     </message>
     <message>
         <source>Words there</source>
@@ -8450,7 +8454,7 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>&amp;Gate</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Porte</translation>
     </message>
     <message>
         <source>&amp;Split line</source>
@@ -8486,7 +8490,7 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>white</source>
-        <translation type="unfinished"></translation>
+        <translation>blanc</translation>
     </message>
     <message>
         <source>Leave the course as it was? What was drawn is lost.</source>
@@ -8525,7 +8529,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>N</source>
-        <translation type="unfinished"></translation>
+        <translation>N</translation>
     </message>
     <message>
         <source>Speed (m/s)</source>
@@ -8602,11 +8606,11 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     <name>kavela::desktop::CourseStrip</name>
     <message>
         <source>Course</source>
-        <translation type="unfinished"></translation>
+        <translation>Parcours</translation>
     </message>
     <message>
         <source>Gates</source>
-        <translation type="unfinished"></translation>
+        <translation>Portes</translation>
     </message>
     <message>
         <source>Such as 1, 2, 3, 4</source>
@@ -8622,11 +8626,11 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Phase</source>
-        <translation type="unfinished"></translation>
+        <translation>Phase</translation>
     </message>
     <message>
         <source>Category</source>
-        <translation type="unfinished"></translation>
+        <translation>Catégorie</translation>
     </message>
     <message>
         <source>Which gates does the cross course have?</source>
@@ -8650,7 +8654,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>course</source>
-        <translation type="unfinished"></translation>
+        <translation>parcours</translation>
     </message>
     <message numerus="yes">
         <source>%n gates</source>
@@ -8668,7 +8672,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>&amp;Save data</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Enregistrer les données</translation>
     </message>
     <message>
         <source>Open a &amp;folder of films…</source>
@@ -8676,7 +8680,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Open a folder of films</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir un dossier de films</translation>
     </message>
     <message>
         <source>&amp;Import films of time trials…</source>
@@ -8688,7 +8692,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>&amp;Where are the films now?…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Où sont les films maintenant ?…</translation>
     </message>
     <message>
         <source>Split &amp;taking of this race</source>
@@ -8696,7 +8700,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Show in the race &amp;analyzer</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Montrer dans l’analyse de course</translation>
     </message>
     <message>
         <source>Open a split file</source>
@@ -8704,7 +8708,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Split files (*.kvx);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichiers d’intermédiaires (*.kvx);;Tous les fichiers (*)</translation>
     </message>
     <message>
         <source>&amp;Course of the cross race</source>
@@ -8724,7 +8728,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>&amp;Mark</source>
-        <translation type="unfinished"></translation>
+        <translation>M&amp;arquer</translation>
     </message>
     <message>
         <source>&amp;Mark the frame shown</source>
@@ -8808,7 +8812,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>&amp;View</source>
-        <translation type="unfinished"></translation>
+        <translation>A&amp;ffichage</translation>
     </message>
     <message>
         <source>&amp;Results</source>
@@ -8831,7 +8835,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>No mark is selected. Ctrl and the arrows go from mark to mark.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucune marque n’est choisie. Ctrl et les flèches vont de marque en marque.</translation>
     </message>
 </context>
 <context>
@@ -8850,7 +8854,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Results</source>
-        <translation type="unfinished"></translation>
+        <translation>Résultats</translation>
     </message>
     <message>
         <source>films of the folder</source>
@@ -8912,7 +8916,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Line %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Ligne %1 : %2</translation>
     </message>
     <message>
         <source>What each column holds was guessed from its title. Choose over a column what it is; a column without a choice is left out.</source>
@@ -8944,11 +8948,11 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Import</source>
-        <translation type="unfinished"></translation>
+        <translation>Importer</translation>
     </message>
     <message>
         <source>Reading…</source>
-        <translation type="unfinished"></translation>
+        <translation>Lecture…</translation>
     </message>
     <message>
         <source>This gives no samples.</source>
@@ -8983,7 +8987,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>&amp;Times</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Temps</translation>
     </message>
     <message>
         <source>Dates</source>
@@ -8991,7 +8995,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Seconds</source>
-        <translation type="unfinished"></translation>
+        <translation>Secondes</translation>
     </message>
     <message>
         <source>Milliseconds</source>
@@ -9047,7 +9051,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>m/s</source>
-        <translation type="unfinished"></translation>
+        <translation>m/s</translation>
     </message>
     <message>
         <source>km/h</source>
@@ -9086,19 +9090,19 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     <name>kavela::desktop::CursorTable</name>
     <message>
         <source>left</source>
-        <translation type="unfinished"></translation>
+        <translation>gauche</translation>
     </message>
     <message>
         <source>right</source>
-        <translation type="unfinished"></translation>
+        <translation>droite</translation>
     </message>
     <message>
         <source>side unknown</source>
-        <translation type="unfinished"></translation>
+        <translation>côté inconnu</translation>
     </message>
     <message>
         <source>%1, %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, %2</translation>
     </message>
     <message>
         <source>%1 %2°, %3 s</source>
@@ -9106,7 +9110,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Time</source>
-        <translation type="unfinished"></translation>
+        <translation>Temps</translation>
     </message>
     <message>
         <source>Stroke, rate</source>
@@ -9122,7 +9126,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Turn</source>
-        <translation type="unfinished"></translation>
+        <translation>Virage</translation>
     </message>
     <message>
         <source>Values at the cursor</source>
@@ -9229,7 +9233,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>%1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 sur %2</translation>
     </message>
     <message>
         <source>%1 counts again</source>
@@ -9333,15 +9337,15 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Start</source>
-        <translation type="unfinished"></translation>
+        <translation>Départ</translation>
     </message>
     <message>
         <source>Bib</source>
-        <translation type="unfinished"></translation>
+        <translation>Dossard</translation>
     </message>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Nom</translation>
     </message>
     <message>
         <source>A boat on the list has a name.</source>
@@ -9349,19 +9353,19 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Cat</source>
-        <translation type="unfinished"></translation>
+        <translation>Cat.</translation>
     </message>
     <message>
         <source>Phase</source>
-        <translation type="unfinished"></translation>
+        <translation>Phase</translation>
     </message>
     <message>
         <source>State</source>
-        <translation type="unfinished"></translation>
+        <translation>État</translation>
     </message>
     <message>
         <source>Film</source>
-        <translation type="unfinished"></translation>
+        <translation>Film</translation>
     </message>
     <message>
         <source>Type the name of another film to correct a single one</source>
@@ -9428,11 +9432,11 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Total</source>
-        <translation type="unfinished"></translation>
+        <translation>Total</translation>
     </message>
     <message>
         <source>Rank</source>
-        <translation type="unfinished"></translation>
+        <translation>Rang</translation>
     </message>
     <message>
         <source>Gap to the best</source>
@@ -9487,82 +9491,82 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     <name>kavela::desktop::Desktop</name>
     <message>
         <source>The folder with the races of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Le dossier des courses de %1</translation>
     </message>
     <message>
         <source>As it is in split taking now. The file does not hold all of it yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dans l’état où il est maintenant dans la prise de temps intermédiaires. Le fichier ne contient pas encore tout.</translation>
     </message>
     <message>
         <source>Tools</source>
-        <translation type="unfinished"></translation>
+        <translation>Outils</translation>
     </message>
     <message>
         <source>Nothing to open in “%1”</source>
-        <translation type="unfinished"></translation>
+        <translation>Rien à ouvrir dans « %1 »</translation>
     </message>
     <message>
         <source>There is no split file (.kvx) and no film in this folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il n’y a ni fichier d’intermédiaires (.kvx) ni film dans ce dossier.</translation>
     </message>
     <message>
         <source>“%1” is not where it was</source>
-        <translation type="unfinished"></translation>
+        <translation>« %1 » n’est plus à sa place</translation>
     </message>
     <message>
         <source>It was in %1. Open it from where it is now, then ask again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il était dans %1. Ouvrez-le là où il est maintenant, puis demandez à nouveau.</translation>
     </message>
     <message>
         <source>%1 (on the server)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (sur le serveur)</translation>
     </message>
     <message>
         <source>What the server has is no planning.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce que contient le serveur n’est pas une planification.</translation>
     </message>
     <message>
         <source>Run %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Manche %1</translation>
     </message>
     <message>
         <source>The run of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>La manche de %1</translation>
     </message>
     <message>
         <source>%1 is not in split taking any more: it was removed there, or has another crew and film.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 n’est plus dans la prise de temps intermédiaires : la manche y a été retirée, ou a un autre équipage et un autre film.</translation>
     </message>
     <message>
         <source>%1 (*.%2);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (*.%2);;Tous les fichiers (*)</translation>
     </message>
     <message>
         <source>Of single split files, or of all in a folder and below it?</source>
-        <translation type="unfinished"></translation>
+        <translation>À partir de certains fichiers d’intermédiaires, ou de tous ceux d’un dossier et de ses sous-dossiers ?</translation>
     </message>
     <message>
         <source>Split files…</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichiers d’intermédiaires…</translation>
     </message>
     <message>
         <source>A folder…</source>
-        <translation type="unfinished"></translation>
+        <translation>Un dossier…</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::DetailsPanel</name>
     <message>
         <source>What</source>
-        <translation type="unfinished"></translation>
+        <translation>Quoi</translation>
     </message>
     <message>
         <source>Noted as</source>
-        <translation type="unfinished"></translation>
+        <translation>Noté comme</translation>
     </message>
     <message>
         <source>Penalties</source>
-        <translation type="unfinished"></translation>
+        <translation>Pénalités</translation>
     </message>
     <message>
         <source>of</source>
@@ -9578,7 +9582,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>90 %</source>
-        <translation type="unfinished"></translation>
+        <translation>90 %</translation>
     </message>
     <message>
         <source>Where the share lies with 90 %</source>
@@ -9625,7 +9629,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>%1 (*.%2);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (*.%2);;Tous les fichiers (*)</translation>
     </message>
 </context>
 <context>
@@ -9686,7 +9690,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>What</source>
-        <translation type="unfinished"></translation>
+        <translation>Quoi</translation>
     </message>
     <message>
         <source>Then</source>
@@ -9745,7 +9749,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>“%1” cannot be opened</source>
-        <translation type="unfinished"></translation>
+        <translation>« %1 » ne peut pas être ouvert</translation>
     </message>
     <message>
         <source>The file was changed by another program since it was opened. Saving replaces what that program wrote.</source>
@@ -9761,7 +9765,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Save as…</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer sous…</translation>
     </message>
     <message>
         <source>“%1” is open in another window. Close it there first, or take another name.</source>
@@ -9799,11 +9803,11 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     <name>kavela::desktop::EightForm</name>
     <message>
         <source>Split %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Intermédiaire %1</translation>
     </message>
     <message>
         <source>&amp;Category</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Catégorie</translation>
     </message>
     <message>
         <source>Pha&amp;se</source>
@@ -9811,11 +9815,11 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Splits</source>
-        <translation type="unfinished"></translation>
+        <translation>Inters</translation>
     </message>
     <message>
         <source>Score</source>
-        <translation type="unfinished"></translation>
+        <translation>Score</translation>
     </message>
     <message>
         <source>Taken from</source>
@@ -9841,7 +9845,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>split %1</source>
-        <translation type="unfinished"></translation>
+        <translation>intermédiaire %1</translation>
     </message>
     <message>
         <source>no video</source>
@@ -9918,7 +9922,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Weight</source>
-        <translation type="unfinished"></translation>
+        <translation>Poids</translation>
     </message>
     <message>
         <source>kg</source>
@@ -9996,18 +10000,18 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Split files (*.kvx)</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichiers d’intermédiaires (*.kvx)</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::FactsForm</name>
     <message>
         <source>&amp;Athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Athlète</translation>
     </message>
     <message>
         <source>Name of the athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>Nom de l’athlète</translation>
     </message>
     <message>
         <source>&amp;Date</source>
@@ -10055,7 +10059,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     <name>kavela::desktop::FailedFiles</name>
     <message>
         <source>File</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichier</translation>
     </message>
     <message>
         <source>What is wrong</source>
@@ -10137,7 +10141,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     <name>kavela::desktop::FetchWindow</name>
     <message>
         <source>Fetch films</source>
-        <translation type="unfinished"></translation>
+        <translation>Récupérer des films</translation>
     </message>
     <message>
         <source>&amp;Address</source>
@@ -10209,7 +10213,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Annuler</translation>
     </message>
     <message>
         <source>Nothing is fetched before it is shown here</source>
@@ -10237,7 +10241,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Open a source of films</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir une source de films</translation>
     </message>
     <message>
         <source>Sources of films (*.json)</source>
@@ -10300,370 +10304,371 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     <name>kavela::desktop::FilmBrowser</name>
     <message>
         <source>Filter: k1w 12 semi</source>
-        <translation type="unfinished"></translation>
+        <translation>Filtre : k1w 12 demi</translation>
     </message>
     <message>
         <source>No film here. Open a folder of films with Ctrl+O, or drop one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Pas de film ici. Ouvrez un dossier de films avec Ctrl+O, ou déposez-en un.</translation>
     </message>
     <message>
         <source>No tag yet: M sets one where a film stands.</source>
-        <translation type="unfinished"></translation>
+        <translation>Pas encore d’étiquette : M en pose une là où le film est arrêté.</translation>
     </message>
     <message>
         <source>List</source>
-        <translation type="unfinished"></translation>
+        <translation>Liste</translation>
     </message>
     <message>
         <source>Tiles</source>
-        <translation type="unfinished"></translation>
+        <translation>Vignettes</translation>
     </message>
     <message>
         <source>Tags</source>
-        <translation type="unfinished"></translation>
+        <translation>Étiquettes</translation>
     </message>
     <message>
         <source>%1 films</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 films</translation>
     </message>
     <message>
         <source>%1 of %2 films</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 films sur %2</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::FilmCutting</name>
     <message>
         <source>%1 cut</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 coupé</translation>
     </message>
     <message>
         <source>Cut into a new film</source>
-        <translation type="unfinished"></translation>
+        <translation>Couper dans un nouveau film</translation>
     </message>
     <message>
         <source>Films (*.mp4 *.mov *.m4v)</source>
-        <translation type="unfinished"></translation>
+        <translation>Films (*.mp4 *.mov *.m4v)</translation>
     </message>
     <message>
         <source>Cutting %1…</source>
-        <translation type="unfinished"></translation>
+        <translation>Coupe de %1…</translation>
     </message>
     <message>
         <source>The film could not be cut</source>
-        <translation type="unfinished"></translation>
+        <translation>Le film n’a pas pu être coupé</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::FilmDeck</name>
     <message>
         <source>The film was closed before it had been read so far.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le film a été fermé avant d’avoir été lu jusque-là.</translation>
     </message>
     <message>
         <source>The film has not been read so far yet: nothing was marked.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le film n’a pas encore été lu jusque-là : rien n’a été marqué.</translation>
     </message>
     <message>
         <source>The film has not been read so far yet: no frame to step from.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le film n’a pas encore été lu jusque-là : pas d’image d’où avancer.</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::FilmPlaying</name>
     <message>
         <source>Choose a film on the left.</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisissez un film à gauche.</translation>
     </message>
     <message>
         <source>The film is no longer there:
 %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Le film n’est plus là :
+%1</translation>
     </message>
     <message>
         <source>That was the last one</source>
-        <translation type="unfinished"></translation>
+        <translation>C’était le dernier</translation>
     </message>
     <message>
         <source>This is the first one</source>
-        <translation type="unfinished"></translation>
+        <translation>C’est le premier</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::FilmShelf</name>
     <message>
         <source>Renaming films…</source>
-        <translation type="unfinished"></translation>
+        <translation>Changement des noms de films…</translation>
     </message>
     <message>
         <source>“%1” has films that are to be renamed, and is open in another window. Close it there first.</source>
-        <translation type="unfinished"></translation>
+        <translation>« %1 » a des films à renommer et est ouvert dans une autre fenêtre. Fermez-le d’abord là-bas.</translation>
     </message>
     <message>
         <source>A renaming was cut off here, and its note cannot be read: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Un changement de noms a été interrompu ici, et sa note ne peut pas être lue : %1</translation>
     </message>
     <message>
         <source>Renaming was cut off</source>
-        <translation type="unfinished"></translation>
+        <translation>Le changement de noms a été interrompu</translation>
     </message>
     <message numerus="yes">
         <source>%n film(s) of this folder were being renamed when the program ended. No film is lost: the renaming can be completed, or undone.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n film de ce dossier était en cours de changement de nom quand le programme s’est arrêté. Aucun film n’est perdu : le changement peut être achevé ou annulé.</numerusform>
+            <numerusform>%n films de ce dossier étaient en cours de changement de nom quand le programme s’est arrêté. Aucun film n’est perdu : le changement peut être achevé ou annulé.</numerusform>
         </translation>
     </message>
     <message>
         <source>Complete it</source>
-        <translation type="unfinished"></translation>
+        <translation>L’achever</translation>
     </message>
     <message>
         <source>Undo it</source>
-        <translation type="unfinished"></translation>
+        <translation>L’annuler</translation>
     </message>
     <message>
         <source>This tag is of the split file: split taking edits it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cette étiquette est du fichier d’intermédiaires : la prise de temps intermédiaires la modifie.</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::FilmStage</name>
     <message>
         <source>Typing: Esc gives the keys back to the film</source>
-        <translation type="unfinished"></translation>
+        <translation>Saisie : Échap rend les touches au film</translation>
     </message>
     <message>
         <source>Fixed: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Fixe : %1</translation>
     </message>
     <message>
         <source>Where are the films now?…</source>
-        <translation type="unfinished"></translation>
+        <translation>Où sont les films maintenant ?…</translation>
     </message>
     <message>
         <source>Playing %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Lecture de %1</translation>
     </message>
     <message>
         <source>Paused, %1</source>
-        <translation type="unfinished"></translation>
+        <translation>En pause, %1</translation>
     </message>
     <message>
         <source>Camera %1: </source>
-        <translation type="unfinished"></translation>
+        <translation>Caméra %1 : </translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::FilmTiles</name>
     <message>
         <source>No picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Pas d’image</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::FilmView</name>
     <message>
         <source>frame %1   %2 s</source>
-        <translation type="unfinished"></translation>
+        <translation>image %1   %2 s</translation>
     </message>
     <message>
         <source>  ±%1</source>
-        <translation type="unfinished"></translation>
+        <translation>  ±%1</translation>
     </message>
     <message>
         <source>…</source>
-        <translation type="unfinished"></translation>
+        <translation>…</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::FilmsActions</name>
     <message>
         <source>&amp;Open a folder…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ouvrir un dossier…</translation>
     </message>
     <message>
         <source>Folders opened &amp;before</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Dossiers ouverts auparavant</translation>
     </message>
     <message>
         <source>&amp;Read again</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Relire</translation>
     </message>
     <message>
         <source>&amp;Edit</source>
-        <translation type="unfinished"></translation>
+        <translation>Édi&amp;tion</translation>
     </message>
     <message>
         <source>&amp;Undo the renaming</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Annuler le changement de noms</translation>
     </message>
     <message>
         <source>&amp;Rename them again</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Les renommer à nouveau</translation>
     </message>
     <message>
         <source>&amp;Filter the films</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Filtrer les films</translation>
     </message>
     <message>
         <source>Re&amp;name films…</source>
-        <translation type="unfinished"></translation>
+        <translation>R&amp;enommer les films…</translation>
     </message>
     <message>
         <source>F&amp;ilms</source>
-        <translation type="unfinished"></translation>
+        <translation>Fil&amp;ms</translation>
     </message>
     <message>
         <source>&amp;Play from the beginning</source>
-        <translation type="unfinished"></translation>
+        <translation>Lire de&amp;puis le début</translation>
     </message>
     <message>
         <source>&amp;Next film</source>
-        <translation type="unfinished"></translation>
+        <translation>Film &amp;suivant</translation>
     </message>
     <message>
         <source>Pre&amp;vious film</source>
-        <translation type="unfinished"></translation>
+        <translation>Film pré&amp;cédent</translation>
     </message>
     <message>
         <source>&amp;List</source>
-        <translation type="unfinished"></translation>
+        <translation>L&amp;iste</translation>
     </message>
     <message>
         <source>&amp;Tiles</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Vignettes</translation>
     </message>
     <message>
         <source>T&amp;ags</source>
-        <translation type="unfinished"></translation>
+        <translation>Éti&amp;quettes</translation>
     </message>
     <message>
         <source>Mark as &amp;watched</source>
-        <translation type="unfinished"></translation>
+        <translation>Si&amp;gnaler comme vu</translation>
     </message>
     <message>
         <source>Mark as n&amp;ot watched</source>
-        <translation type="unfinished"></translation>
+        <translation>Signaler comme &amp;non vu</translation>
     </message>
     <message>
         <source>A &amp;click plays</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Un clic lance la lecture</translation>
     </message>
     <message>
         <source>The next one &amp;follows</source>
-        <translation type="unfinished"></translation>
+        <translation>Le suivan&amp;t s’enchaîne</translation>
     </message>
     <message>
         <source>Begin at the first &amp;mark</source>
-        <translation type="unfinished"></translation>
+        <translation>C&amp;ommencer à la première marque</translation>
     </message>
     <message>
         <source>&amp;Tags</source>
-        <translation type="unfinished"></translation>
+        <translation>É&amp;tiquettes</translation>
     </message>
     <message>
         <source>&amp;Tag this frame</source>
-        <translation type="unfinished"></translation>
+        <translation>Étiquete&amp;r cette image</translation>
     </message>
     <message>
         <source>Tag with a &amp;saved name</source>
-        <translation type="unfinished"></translation>
+        <translation>Étiqueter &amp;avec un nom enregistré</translation>
     </message>
     <message>
         <source>Saved tag %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Étiquette enregistrée %1</translation>
     </message>
     <message>
         <source>Move the selected tag &amp;here</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Déplacer ici l’étiquette choisie</translation>
     </message>
     <message>
         <source>Tag one frame &amp;earlier</source>
-        <translation type="unfinished"></translation>
+        <translation>Étiquette une image &amp;plus tôt</translation>
     </message>
     <message>
         <source>Tag one frame &amp;later</source>
-        <translation type="unfinished"></translation>
+        <translation>Étiqu&amp;ette une image plus tard</translation>
     </message>
     <message>
         <source>&amp;Remove the selected tag</source>
-        <translation type="unfinished"></translation>
+        <translation>Retirer &amp;l’étiquette choisie</translation>
     </message>
     <message>
         <source>&amp;Previous tag</source>
-        <translation type="unfinished"></translation>
+        <translation>Étiquette pré&amp;cédente</translation>
     </message>
     <message>
         <source>&amp;Next tag</source>
-        <translation type="unfinished"></translation>
+        <translation>Étiquette &amp;suivante</translation>
     </message>
     <message>
         <source>Play &amp;just the part around a tag</source>
-        <translation type="unfinished"></translation>
+        <translation>Lire seule&amp;ment autour d’une étiquette</translation>
     </message>
     <message>
         <source>&amp;Cut</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Couper</translation>
     </message>
     <message>
         <source>The cut &amp;begins here</source>
-        <translation type="unfinished"></translation>
+        <translation>La coupe commence &amp;ici</translation>
     </message>
     <message>
         <source>The cut &amp;ends here</source>
-        <translation type="unfinished"></translation>
+        <translation>La coupe &amp;finit ici</translation>
     </message>
     <message>
         <source>&amp;Give the ends up</source>
-        <translation type="unfinished"></translation>
+        <translation>Abandonner les &amp;bornes</translation>
     </message>
     <message>
         <source>Cut by &amp;copying…</source>
-        <translation type="unfinished"></translation>
+        <translation>C&amp;ouper par copie…</translation>
     </message>
     <message>
         <source>Cut e&amp;xactly…</source>
-        <translation type="unfinished"></translation>
+        <translation>Co&amp;uper exactement…</translation>
     </message>
     <message>
         <source>Films</source>
-        <translation type="unfinished"></translation>
+        <translation>Films</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::FilmsWindow</name>
     <message>
         <source>Films</source>
-        <translation type="unfinished"></translation>
+        <translation>Films</translation>
     </message>
     <message>
         <source>&amp;Tag that M sets:</source>
-        <translation type="unfinished"></translation>
+        <translation>Étiquette &amp;posée par M :</translation>
     </message>
     <message>
         <source>Cut</source>
-        <translation type="unfinished"></translation>
+        <translation>Coupe</translation>
     </message>
     <message>
         <source>Cut into %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Couper dans %1</translation>
     </message>
     <message>
         <source>“%1” is not there.</source>
-        <translation type="unfinished"></translation>
+        <translation>« %1 » n’est pas là.</translation>
     </message>
     <message>
         <source>Open a folder of films</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir un dossier de films</translation>
     </message>
     <message>
         <source>Reading…</source>
-        <translation type="unfinished"></translation>
+        <translation>Lecture…</translation>
     </message>
     <message>
         <source>⚠ Not read: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>⚠ Non lu : %1</translation>
     </message>
 </context>
 <context>
@@ -10682,11 +10687,11 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>&amp;Read again</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Relire</translation>
     </message>
     <message>
         <source>S&amp;top reading</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Arrêter la lecture</translation>
     </message>
     <message>
         <source>Files that could not be rea&amp;d…</source>
@@ -10745,7 +10750,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     <name>kavela::desktop::FindWindow</name>
     <message>
         <source>Find</source>
-        <translation type="unfinished"></translation>
+        <translation>Chercher</translation>
     </message>
     <message>
         <source>Fields</source>
@@ -10773,7 +10778,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>%1, %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, %2</translation>
     </message>
     <message>
         <source>1 file</source>
@@ -10781,7 +10786,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>1 run</source>
-        <translation type="unfinished"></translation>
+        <translation>1 manche</translation>
     </message>
     <message>
         <source>. Reading was stopped: the others are not searched.</source>
@@ -10813,7 +10818,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Semicolon-separated text (*.csv)</source>
-        <translation type="unfinished"></translation>
+        <translation>Texte séparé par des points-virgules (*.csv)</translation>
     </message>
     <message numerus="yes">
         <source>%n files</source>
@@ -10824,9 +10829,9 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message numerus="yes">
         <source>%n runs</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n manche</numerusform>
+            <numerusform>%n manches</numerusform>
         </translation>
     </message>
 </context>
@@ -10857,11 +10862,11 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>run</source>
-        <translation type="unfinished"></translation>
+        <translation>manche</translation>
     </message>
     <message>
         <source>runs</source>
-        <translation type="unfinished"></translation>
+        <translation>manches</translation>
     </message>
     <message>
         <source>section</source>
@@ -10881,15 +10886,15 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>penalty</source>
-        <translation type="unfinished"></translation>
+        <translation>pénalité</translation>
     </message>
     <message>
         <source>penalties</source>
-        <translation type="unfinished"></translation>
+        <translation>pénalités</translation>
     </message>
     <message>
         <source>loss</source>
-        <translation type="unfinished"></translation>
+        <translation>perte</translation>
     </message>
     <message>
         <source>losses</source>
@@ -10984,11 +10989,11 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Gap</source>
-        <translation type="unfinished"></translation>
+        <translation>Écart</translation>
     </message>
     <message>
         <source>in %1</source>
-        <translation type="unfinished"></translation>
+        <translation>dans %1</translation>
     </message>
     <message>
         <source>After %1</source>
@@ -10996,7 +11001,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Section</source>
-        <translation type="unfinished"></translation>
+        <translation>Secteur</translation>
     </message>
     <message>
         <source>Title</source>
@@ -11023,7 +11028,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Penalties by gate</source>
-        <translation type="unfinished"></translation>
+        <translation>Pénalités par porte</translation>
     </message>
     <message>
         <source>Runs with a penalty at the gate, of %1</source>
@@ -11035,11 +11040,11 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Gate</source>
-        <translation type="unfinished"></translation>
+        <translation>Porte</translation>
     </message>
     <message>
         <source>Runs</source>
-        <translation type="unfinished"></translation>
+        <translation>Manches</translation>
     </message>
     <message>
         <source>Missed gate, 50 s</source>
@@ -11055,23 +11060,23 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Gate %1, upstream</source>
-        <translation type="unfinished"></translation>
+        <translation>Porte %1, remontée</translation>
     </message>
     <message>
         <source>Gate %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Porte %1</translation>
     </message>
     <message>
         <source>Touches</source>
-        <translation type="unfinished"></translation>
+        <translation>Touches</translation>
     </message>
     <message>
         <source>Missed</source>
-        <translation type="unfinished"></translation>
+        <translation>Manquées</translation>
     </message>
     <message>
         <source>missed</source>
-        <translation type="unfinished"></translation>
+        <translation>manquée</translation>
     </message>
     <message>
         <source>touch</source>
@@ -11079,22 +11084,22 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Upstream</source>
-        <translation type="unfinished"></translation>
+        <translation>En remontée</translation>
     </message>
     <message>
         <source>Gates</source>
-        <translation type="unfinished"></translation>
+        <translation>Portes</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::GateForm</name>
     <message>
         <source>Gate</source>
-        <translation type="unfinished"></translation>
+        <translation>Porte</translation>
     </message>
     <message>
         <source>In</source>
-        <translation type="unfinished"></translation>
+        <translation>Dans</translation>
     </message>
     <message>
         <source>Out</source>
@@ -11102,11 +11107,11 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Total</source>
-        <translation type="unfinished"></translation>
+        <translation>Total</translation>
     </message>
     <message>
         <source>Turn</source>
-        <translation type="unfinished"></translation>
+        <translation>Virage</translation>
     </message>
     <message>
         <source>Mark the pole line too</source>
@@ -11114,7 +11119,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Style</source>
-        <translation type="unfinished"></translation>
+        <translation>Style</translation>
     </message>
     <message>
         <source>A click brings a gate in front</source>
@@ -11133,11 +11138,11 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Gate %1, upstream</source>
-        <translation type="unfinished"></translation>
+        <translation>Porte %1, remontée</translation>
     </message>
     <message>
         <source>Gate %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Porte %1</translation>
     </message>
     <message>
         <source>
@@ -11149,30 +11154,30 @@ T touch, F missed, 0 clean; N and P next and previous gate</source>
     <name>kavela::desktop::Gauge</name>
     <message>
         <source>not known</source>
-        <translation type="unfinished"></translation>
+        <translation>inconnu</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::GaugeRow</name>
     <message>
         <source>1/min</source>
-        <translation type="unfinished"></translation>
+        <translation>1/min</translation>
     </message>
     <message>
         <source>m/s</source>
-        <translation type="unfinished"></translation>
+        <translation>m/s</translation>
     </message>
     <message>
         <source>N</source>
-        <translation type="unfinished"></translation>
+        <translation>N</translation>
     </message>
     <message>
         <source>N·s</source>
-        <translation type="unfinished"></translation>
+        <translation>N·s</translation>
     </message>
     <message>
         <source>W</source>
-        <translation type="unfinished"></translation>
+        <translation>W</translation>
     </message>
 </context>
 <context>
@@ -11256,7 +11261,7 @@ T touch, F missed, 0 clean; N and P next and previous gate</source>
     </message>
     <message>
         <source>Group %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Groupe %1</translation>
     </message>
     <message>
         <source>%1 of %2 reached</source>
@@ -11303,7 +11308,7 @@ T touch, F missed, 0 clean; N and P next and previous gate</source>
     </message>
     <message>
         <source>Weight</source>
-        <translation type="unfinished"></translation>
+        <translation>Poids</translation>
     </message>
     <message>
         <source>Exercises</source>
@@ -11396,11 +11401,11 @@ Press Insert to add one.</source>
     </message>
     <message>
         <source>Start</source>
-        <translation type="unfinished"></translation>
+        <translation>Départ</translation>
     </message>
     <message>
         <source>End</source>
-        <translation type="unfinished"></translation>
+        <translation>Fin</translation>
     </message>
     <message>
         <source>Attacker</source>
@@ -11420,11 +11425,11 @@ Press Insert to add one.</source>
     </message>
     <message>
         <source>Place</source>
-        <translation type="unfinished"></translation>
+        <translation>Place</translation>
     </message>
     <message>
         <source>Comment</source>
-        <translation type="unfinished"></translation>
+        <translation>Commentaire</translation>
     </message>
     <message>
         <source>Attacks</source>
@@ -11444,7 +11449,7 @@ Press Insert to add one.</source>
     </message>
     <message>
         <source>Gate %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Porte %1</translation>
     </message>
     <message>
         <source>attack</source>
@@ -11550,7 +11555,7 @@ Press Insert to add one.</source>
     <name>kavela::desktop::HeatList</name>
     <message>
         <source>none</source>
-        <translation type="unfinished"></translation>
+        <translation>aucun</translation>
     </message>
     <message>
         <source>⚠ missing: %1</source>
@@ -11570,7 +11575,7 @@ Press Insert to add one.</source>
     </message>
     <message>
         <source>Film</source>
-        <translation type="unfinished"></translation>
+        <translation>Film</translation>
     </message>
     <message>
         <source>Taken</source>
@@ -11617,7 +11622,7 @@ Press Insert to add one.</source>
     </message>
     <message>
         <source>Percent lost by run and section</source>
-        <translation type="unfinished"></translation>
+        <translation>Pourcentage perdu par manche et par secteur</translation>
     </message>
     <message>
         <source>S%1</source>
@@ -11629,7 +11634,7 @@ Press Insert to add one.</source>
     </message>
     <message>
         <source>Run</source>
-        <translation type="unfinished"></translation>
+        <translation>Manche</translation>
     </message>
 </context>
 <context>
@@ -11700,7 +11705,7 @@ Press Insert to add one.</source>
     </message>
     <message>
         <source>The cross course has no gates yet</source>
-        <translation type="unfinished"></translation>
+        <translation>Le parcours de cross n’a pas encore de portes</translation>
     </message>
     <message>
         <source>Keep its moment</source>
@@ -11731,7 +11736,7 @@ Press Insert to add one.</source>
     </message>
     <message>
         <source>No mark is selected. Ctrl and the arrows go from mark to mark.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucune marque n’est choisie. Ctrl et les flèches vont de marque en marque.</translation>
     </message>
     <message>
         <source>order moved</source>
@@ -11778,74 +11783,74 @@ Press Insert to add one.</source>
     <name>kavela::desktop::HomeWindow</name>
     <message>
         <source>&amp;File</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Fichier</translation>
     </message>
     <message>
         <source>&amp;Open…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ouvrir…</translation>
     </message>
     <message>
         <source>Try the &amp;sample season</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Essayer la saison d’exemple</translation>
     </message>
     <message>
         <source>Se&amp;ttings…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Réglages…</translation>
     </message>
     <message>
         <source>&amp;Quit</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Quitter</translation>
     </message>
     <message>
         <source>Where was the time won and lost, and why?</source>
-        <translation type="unfinished"></translation>
+        <translation>Où le temps a-t-il été gagné et perdu, et pourquoi ?</translation>
     </message>
     <message>
         <source>Try the sample season</source>
-        <translation type="unfinished"></translation>
+        <translation>Essayer la saison d’exemple</translation>
     </message>
     <message>
         <source>Open a file…</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir un fichier…</translation>
     </message>
     <message>
         <source>Recent files</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichiers récents</translation>
     </message>
     <message>
         <source>Nothing opened yet. Drop a split file (.kvx) or a folder here, open one with Ctrl+O, or try the sample season.</source>
-        <translation type="unfinished"></translation>
+        <translation>Rien n’a encore été ouvert. Déposez ici un fichier d’intermédiaires (.kvx) ou un dossier, ouvrez-en un avec Ctrl+O, ou essayez la saison d’exemple.</translation>
     </message>
     <message>
         <source>Work kept</source>
-        <translation type="unfinished"></translation>
+        <translation>Travail conservé</translation>
     </message>
     <message>
         <source>in %1</source>
-        <translation type="unfinished"></translation>
+        <translation>dans %1</translation>
     </message>
     <message>
         <source>Open</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir</translation>
     </message>
     <message>
         <source>Split files (*.kvx);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichiers d’intermédiaires (*.kvx);;Tous les fichiers (*)</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::IdealPanel</name>
     <message>
         <source>Section</source>
-        <translation type="unfinished"></translation>
+        <translation>Secteur</translation>
     </message>
     <message>
         <source>Best</source>
-        <translation type="unfinished"></translation>
+        <translation>Meilleur</translation>
     </message>
     <message>
         <source>By</source>
-        <translation type="unfinished"></translation>
+        <translation>Par</translation>
     </message>
     <message>
         <source>Ideal run %1 s</source>
@@ -11883,7 +11888,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>&amp;Athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Athlète</translation>
     </message>
     <message>
         <source>&amp;Location</source>
@@ -11891,7 +11896,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>&amp;Kind</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Type</translation>
     </message>
     <message>
         <source>&amp;Weight</source>
@@ -11930,11 +11935,11 @@ Penalties are left out.</source>
     <name>kavela::desktop::IntervalChart</name>
     <message>
         <source>too few</source>
-        <translation type="unfinished"></translation>
+        <translation>trop peu</translation>
     </message>
     <message>
         <source>%1 to %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 à %2</translation>
     </message>
 </context>
 <context>
@@ -12028,7 +12033,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Fermer</translation>
     </message>
     <message>
         <source>Escape</source>
@@ -12048,14 +12053,14 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Start</source>
-        <translation type="unfinished"></translation>
+        <translation>Départ</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::IntervalsPanel</name>
     <message>
         <source>Session</source>
-        <translation type="unfinished"></translation>
+        <translation>Séance</translation>
     </message>
     <message>
         <source>Make-up</source>
@@ -12063,7 +12068,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Total</source>
-        <translation type="unfinished"></translation>
+        <translation>Total</translation>
     </message>
     <message>
         <source>Work</source>
@@ -12207,7 +12212,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Fermer</translation>
     </message>
     <message>
         <source>%1 is the key of “%2” already. “%3” can take it over; “%2” has it no longer then.</source>
@@ -12256,7 +12261,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Start</source>
-        <translation type="unfinished"></translation>
+        <translation>Départ</translation>
     </message>
 </context>
 <context>
@@ -12282,7 +12287,7 @@ Penalties are left out.</source>
     <name>kavela::desktop::ListPanel</name>
     <message>
         <source>List</source>
-        <translation type="unfinished"></translation>
+        <translation>Liste</translation>
     </message>
     <message>
         <source>No row is left. Ctrl+Z takes the last step back.</source>
@@ -12332,525 +12337,525 @@ Penalties are left out.</source>
     <name>kavela::desktop::LossChartsPanel</name>
     <message>
         <source>Charts</source>
-        <translation type="unfinished"></translation>
+        <translation>Graphiques</translation>
     </message>
     <message>
         <source>Sum</source>
-        <translation type="unfinished"></translation>
+        <translation>Somme</translation>
     </message>
     <message>
         <source>From the reference&apos;s total to the run&apos;s own</source>
-        <translation type="unfinished"></translation>
+        <translation>Du temps total de la référence à celui de la manche</translation>
     </message>
     <message>
         <source>Heat map</source>
-        <translation type="unfinished"></translation>
+        <translation>Carte thermique</translation>
     </message>
     <message>
         <source>Percent lost by run and section</source>
-        <translation type="unfinished"></translation>
+        <translation>Pourcentage perdu par manche et par secteur</translation>
     </message>
     <message>
         <source>Most lost</source>
-        <translation type="unfinished"></translation>
+        <translation>Plus grandes pertes</translation>
     </message>
     <message>
         <source>The sections that lost most, in their order</source>
-        <translation type="unfinished"></translation>
+        <translation>Les secteurs où l’on a le plus perdu, dans l’ordre des pertes</translation>
     </message>
     <message>
         <source>Along the course</source>
-        <translation type="unfinished"></translation>
+        <translation>Le long du parcours</translation>
     </message>
     <message>
         <source>The gap after each section</source>
-        <translation type="unfinished"></translation>
+        <translation>L’écart après chaque secteur</translation>
     </message>
     <message>
         <source>Fit</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajuster</translation>
     </message>
     <message>
         <source>Save chart…</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer le graphique…</translation>
     </message>
     <message>
         <source>Show everything again (or double click)</source>
-        <translation type="unfinished"></translation>
+        <translation>Tout afficher à nouveau (ou double-clic)</translation>
     </message>
     <message>
         <source>Save as PNG, SVG or CSV</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer en PNG, SVG ou CSV</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::LossHeader</name>
     <message>
         <source>Reference</source>
-        <translation type="unfinished"></translation>
+        <translation>Référence</translation>
     </message>
     <message>
         <source>What the run is held against</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce à quoi la manche est comparée</translation>
     </message>
     <message>
         <source>Alt+click or Shift+F1: why</source>
-        <translation type="unfinished"></translation>
+        <translation>Alt+clic ou Maj+F1 : pourquoi</translation>
     </message>
     <message>
         <source>Ru&amp;n</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Manche</translation>
     </message>
     <message>
         <source>hel&amp;d against</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;comparée à</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::LossPage</name>
     <message>
         <source>Start</source>
-        <translation type="unfinished"></translation>
+        <translation>Départ</translation>
     </message>
     <message>
         <source>End</source>
-        <translation type="unfinished"></translation>
+        <translation>Fin</translation>
     </message>
     <message>
         <source>Against</source>
-        <translation type="unfinished"></translation>
+        <translation>Face à</translation>
     </message>
     <message>
         <source>Seconds</source>
-        <translation type="unfinished"></translation>
+        <translation>Secondes</translation>
     </message>
     <message>
         <source>Percent</source>
-        <translation type="unfinished"></translation>
+        <translation>Pour cent</translation>
     </message>
     <message>
         <source>New</source>
-        <translation type="unfinished"></translation>
+        <translation>Nouveau</translation>
     </message>
     <message>
         <source>The next M begins another time loss</source>
-        <translation type="unfinished"></translation>
+        <translation>Le prochain M commence une autre perte de temps</translation>
     </message>
     <message>
         <source>Add over the section</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajouter sur le secteur</translation>
     </message>
     <message>
         <source>Another reason</source>
-        <translation type="unfinished"></translation>
+        <translation>Autre raison</translation>
     </message>
     <message>
         <source>To the other run</source>
-        <translation type="unfinished"></translation>
+        <translation>Vers l’autre manche</translation>
     </message>
     <message>
         <source>reason of a time loss</source>
-        <translation type="unfinished"></translation>
+        <translation>raison d’une perte de temps</translation>
     </message>
     <message>
         <source>This run</source>
-        <translation type="unfinished"></translation>
+        <translation>Cette manche</translation>
     </message>
     <message>
         <source>Other run</source>
-        <translation type="unfinished"></translation>
+        <translation>Autre manche</translation>
     </message>
     <message>
         <source>Sets this mark at the frame shown</source>
-        <translation type="unfinished"></translation>
+        <translation>Place cette marque à l’image affichée</translation>
     </message>
     <message>
         <source>kind of a time loss</source>
-        <translation type="unfinished"></translation>
+        <translation>type d’une perte de temps</translation>
     </message>
     <message>
         <source>Gates</source>
-        <translation type="unfinished"></translation>
+        <translation>Portes</translation>
     </message>
     <message>
         <source>Part</source>
-        <translation type="unfinished"></translation>
+        <translation>Partie</translation>
     </message>
     <message>
         <source>Style</source>
-        <translation type="unfinished"></translation>
+        <translation>Style</translation>
     </message>
     <message>
         <source>Water</source>
-        <translation type="unfinished"></translation>
+        <translation>Eau</translation>
     </message>
     <message>
         <source>comment on a time loss</source>
-        <translation type="unfinished"></translation>
+        <translation>commentaire d’une perte de temps</translation>
     </message>
     <message>
         <source>Comment</source>
-        <translation type="unfinished"></translation>
+        <translation>Commentaire</translation>
     </message>
     <message>
         <source>Back to the run</source>
-        <translation type="unfinished"></translation>
+        <translation>Retour à la manche</translation>
     </message>
     <message>
         <source>M marks where the stretch starts and makes another time loss.</source>
-        <translation type="unfinished"></translation>
+        <translation>M marque où le tronçon commence et crée une autre perte de temps.</translation>
     </message>
     <message>
         <source>M marks where the stretch starts and makes a time loss.</source>
-        <translation type="unfinished"></translation>
+        <translation>M marque où le tronçon commence et crée une perte de temps.</translation>
     </message>
     <message>
         <source>%1 s (%2 %) against %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 s (%2 %) face à %3</translation>
     </message>
     <message>
         <source>Go back to the run that lost the time first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Revenez d’abord à la manche qui a perdu le temps.</translation>
     </message>
     <message>
         <source>A time loss needs another run to compare with.</source>
-        <translation type="unfinished"></translation>
+        <translation>Une perte de temps demande une autre manche à laquelle comparer.</translation>
     </message>
     <message>
         <source>time loss</source>
-        <translation type="unfinished"></translation>
+        <translation>perte de temps</translation>
     </message>
     <message>
         <source>Start and end are marked here too. Ctrl+T goes back to the run that lost the time, where M begins its next loss.</source>
-        <translation type="unfinished"></translation>
+        <translation>Départ et fin se marquent aussi ici. Ctrl+T revient à la manche qui a perdu le temps, où M commence sa perte suivante.</translation>
     </message>
     <message>
         <source>mark of a time loss</source>
-        <translation type="unfinished"></translation>
+        <translation>marque d’une perte de temps</translation>
     </message>
     <message>
         <source>time loss removed</source>
-        <translation type="unfinished"></translation>
+        <translation>perte de temps retirée</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::LossTables</name>
     <message>
         <source>Both runs have no upstream gate timed in common.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les deux manches n’ont aucune remontée chronométrée en commun.</translation>
     </message>
     <message>
         <source>No time lost is noted of this run.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucune perte de temps n’est notée pour cette manche.</translation>
     </message>
     <message>
         <source>No ways are compared in this run.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucune option n’est comparée dans cette manche.</translation>
     </message>
     <message>
         <source>Sections</source>
-        <translation type="unfinished"></translation>
+        <translation>Secteurs</translation>
     </message>
     <message>
         <source>Runs</source>
-        <translation type="unfinished"></translation>
+        <translation>Manches</translation>
     </message>
     <message>
         <source>Gates</source>
-        <translation type="unfinished"></translation>
+        <translation>Portes</translation>
     </message>
     <message>
         <source>Notes</source>
-        <translation type="unfinished"></translation>
+        <translation>Notes</translation>
     </message>
     <message>
         <source>Ways</source>
-        <translation type="unfinished"></translation>
+        <translation>Options</translation>
     </message>
     <message>
         <source>&amp;Play both films</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Lire les deux films</translation>
     </message>
     <message>
         <source>Hold all against this &amp;run</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Tout comparer à cette manche</translation>
     </message>
     <message>
         <source>Notes (%1 unfinished)</source>
-        <translation type="unfinished"></translation>
+        <translation>Notes (%1 inachevées)</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::LossesActions</name>
     <message>
         <source>&amp;Open races…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ouvrir des courses…</translation>
     </message>
     <message>
         <source>Open a &amp;folder of races…</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir &amp;un dossier de courses…</translation>
     </message>
     <message>
         <source>&amp;Read all again</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Tout relire</translation>
     </message>
     <message>
         <source>S&amp;top reading</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Arrêter la lecture</translation>
     </message>
     <message>
         <source>&amp;Page of an athlete: PDF, preview, print…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Page d’un athlète : PDF, aperçu, impression…</translation>
     </message>
     <message>
         <source>Save the table as &amp;CSV…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Enregistrer le tableau en CSV…</translation>
     </message>
     <message>
         <source>&amp;Save the chart…</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer &amp;le graphique…</translation>
     </message>
     <message>
         <source>&amp;Run</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Manche</translation>
     </message>
     <message>
         <source>&amp;Find a run</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Chercher une manche</translation>
     </message>
     <message>
         <source>The &amp;next in rank</source>
-        <translation type="unfinished"></translation>
+        <translation>La &amp;suivante au classement</translation>
     </message>
     <message>
         <source>The &amp;one in front</source>
-        <translation type="unfinished"></translation>
+        <translation>La p&amp;récédente au classement</translation>
     </message>
     <message>
         <source>&amp;Season of the athlete, or the run</source>
-        <translation type="unfinished"></translation>
+        <translation>Saison &amp;de l’athlète, ou la manche</translation>
     </message>
     <message>
         <source>Re&amp;ference</source>
-        <translation type="unfinished"></translation>
+        <translation>Ré&amp;férence</translation>
     </message>
     <message>
         <source>The &amp;winner</source>
-        <translation type="unfinished"></translation>
+        <translation>Le &amp;vainqueur</translation>
     </message>
     <message>
         <source>The &amp;fastest paddling</source>
-        <translation type="unfinished"></translation>
+        <translation>Le plus rapide en &amp;navigation</translation>
     </message>
     <message>
         <source>The &amp;ideal run</source>
-        <translation type="unfinished"></translation>
+        <translation>La manche &amp;idéale</translation>
     </message>
     <message>
         <source>The &amp;median of the finalists</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;La médiane des finalistes</translation>
     </message>
     <message>
         <source>The crew&apos;s &amp;own best other run</source>
-        <translation type="unfinished"></translation>
+        <translation>La meille&amp;ure autre manche de l’équipage</translation>
     </message>
     <message>
         <source>The run that is &amp;shown</source>
-        <translation type="unfinished"></translation>
+        <translation>La manche &amp;affichée</translation>
     </message>
     <message>
         <source>&amp;View</source>
-        <translation type="unfinished"></translation>
+        <translation>Affic&amp;hage</translation>
     </message>
     <message>
         <source>&amp;Sum from total to total</source>
-        <translation type="unfinished"></translation>
+        <translation>Somme d’un &amp;temps total à l’autre</translation>
     </message>
     <message>
         <source>&amp;Heat map</source>
-        <translation type="unfinished"></translation>
+        <translation>Cart&amp;e thermique</translation>
     </message>
     <message>
         <source>Sections that lost &amp;most</source>
-        <translation type="unfinished"></translation>
+        <translation>Secteurs des &amp;plus grandes pertes</translation>
     </message>
     <message>
         <source>Gap &amp;along the course</source>
-        <translation type="unfinished"></translation>
+        <translation>É&amp;cart le long du parcours</translation>
     </message>
     <message>
         <source>Table of s&amp;ections</source>
-        <translation type="unfinished"></translation>
+        <translation>Tableau des &amp;secteurs</translation>
     </message>
     <message>
         <source>Table of &amp;runs</source>
-        <translation type="unfinished"></translation>
+        <translation>Tableau des &amp;manches</translation>
     </message>
     <message>
         <source>Table of &amp;gates</source>
-        <translation type="unfinished"></translation>
+        <translation>Tableau &amp;des portes</translation>
     </message>
     <message>
         <source>Table of &amp;notes</source>
-        <translation type="unfinished"></translation>
+        <translation>Ta&amp;bleau des notes</translation>
     </message>
     <message>
         <source>Table of &amp;ways</source>
-        <translation type="unfinished"></translation>
+        <translation>Tableau des &amp;options</translation>
     </message>
     <message>
         <source>Show the whole &amp;chart</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher tout le &amp;graphique</translation>
     </message>
     <message>
         <source>&amp;Blue to orange instead of green to red</source>
-        <translation type="unfinished"></translation>
+        <translation>Du bleu à l’orange au lieu du &amp;vert au rouge</translation>
     </message>
     <message>
         <source>Fil&amp;ms</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Films</translation>
     </message>
     <message>
         <source>&amp;Play the section of both runs</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Lire le secteur des deux manches</translation>
     </message>
     <message>
         <source>&amp;Film this loss…</source>
-        <translation type="unfinished"></translation>
+        <translation>Filme&amp;r cette perte…</translation>
     </message>
     <message>
         <source>&amp;Hide the films</source>
-        <translation type="unfinished"></translation>
+        <translation>M&amp;asquer les films</translation>
     </message>
     <message>
         <source>Runs</source>
-        <translation type="unfinished"></translation>
+        <translation>Manches</translation>
     </message>
     <message>
         <source>Pa&amp;ge for an athlete…</source>
-        <translation type="unfinished"></translation>
+        <translation>Page pour &amp;un athlète…</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::LossesWindow</name>
     <message>
         <source>Split files</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichiers d’intermédiaires</translation>
     </message>
     <message>
         <source>Run</source>
-        <translation type="unfinished"></translation>
+        <translation>Manche</translation>
     </message>
     <message>
         <source>Season</source>
-        <translation type="unfinished"></translation>
+        <translation>Saison</translation>
     </message>
     <message>
         <source>Hide the films</source>
-        <translation type="unfinished"></translation>
+        <translation>Masquer les films</translation>
     </message>
     <message>
         <source>Stop reading</source>
-        <translation type="unfinished"></translation>
+        <translation>Arrêter la lecture</translation>
     </message>
     <message>
         <source>&amp;Open it</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;L’ouvrir</translation>
     </message>
     <message>
         <source>Writing %1…</source>
-        <translation type="unfinished"></translation>
+        <translation>Écriture de %1…</translation>
     </message>
     <message>
         <source>The page was not written.</source>
-        <translation type="unfinished"></translation>
+        <translation>La page n’a pas été écrite.</translation>
     </message>
     <message>
         <source>%1 is not in the files any more; another run is shown.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 n’est plus dans les fichiers ; une autre manche est affichée.</translation>
     </message>
     <message>
         <source>%1 is not in the files any more; the winner is the reference now.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 n’est plus dans les fichiers ; le vainqueur est maintenant la référence.</translation>
     </message>
     <message>
         <source>Reading…</source>
-        <translation type="unfinished"></translation>
+        <translation>Lecture…</translation>
     </message>
     <message>
         <source>%1 cannot be read: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ne peut pas être lu : %2</translation>
     </message>
     <message>
         <source>%1 files cannot be read, the first of them %2: %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 fichiers ne peuvent pas être lus, le premier est %2 : %3</translation>
     </message>
     <message>
         <source>Stopped: not all files were read.</source>
-        <translation type="unfinished"></translation>
+        <translation>Arrêté : tous les fichiers n’ont pas été lus.</translation>
     </message>
     <message>
         <source>There is no run in what was opened.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il n’y a aucune manche dans ce qui a été ouvert.</translation>
     </message>
     <message>
         <source>Time losses</source>
-        <translation type="unfinished"></translation>
+        <translation>Pertes de temps</translation>
     </message>
     <message>
         <source>%1 and %2 more</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 et %2 autres</translation>
     </message>
     <message>
         <source>Open races</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir des courses</translation>
     </message>
     <message>
         <source>Split files (*.kvx);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichiers d’intermédiaires (*.kvx);;Tous les fichiers (*)</translation>
     </message>
     <message>
         <source>Open a folder of races</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir un dossier de courses</translation>
     </message>
     <message>
         <source>%1 is written.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 est écrit.</translation>
     </message>
     <message>
         <source>Choose a section first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisissez d’abord un secteur.</translation>
     </message>
     <message>
         <source>No film shows this of either run: a film and both marks are needed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun film ne montre cela, pour aucune des deux manches : il faut un film et les deux marques.</translation>
     </message>
     <message>
         <source>No film shows the run here; that of the reference plays alone.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun film ne montre la manche ici ; celui de la référence est lu seul.</translation>
     </message>
     <message>
         <source>There is no run to watch beside it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il n’y a pas de manche à regarder à côté.</translation>
     </message>
     <message>
         <source>No film shows %1 here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun film ne montre %1 ici.</translation>
     </message>
     <message>
         <source>There is no run to film beside it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il n’y a pas de manche à filmer à côté.</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::MarkList</name>
     <message>
         <source>Start</source>
-        <translation type="unfinished"></translation>
+        <translation>Départ</translation>
     </message>
     <message>
         <source>Splits</source>
-        <translation type="unfinished"></translation>
+        <translation>Inters</translation>
     </message>
     <message>
         <source>Micro splits</source>
@@ -12858,19 +12863,19 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Upstream gates</source>
-        <translation type="unfinished"></translation>
+        <translation>Remontées</translation>
     </message>
     <message>
         <source>Strokes</source>
-        <translation type="unfinished"></translation>
+        <translation>Coups</translation>
     </message>
     <message>
         <source>Time losses</source>
-        <translation type="unfinished"></translation>
+        <translation>Pertes de temps</translation>
     </message>
     <message>
         <source>Tags</source>
-        <translation type="unfinished"></translation>
+        <translation>Étiquettes</translation>
     </message>
     <message>
         <source> · camera %1</source>
@@ -12890,7 +12895,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Time</source>
-        <translation type="unfinished"></translation>
+        <translation>Temps</translation>
     </message>
     <message>
         <source>Mark</source>
@@ -12944,7 +12949,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Time</source>
-        <translation type="unfinished"></translation>
+        <translation>Temps</translation>
     </message>
     <message>
         <source>From the one before</source>
@@ -12963,11 +12968,11 @@ Penalties are left out.</source>
     <name>kavela::desktop::MotionActions</name>
     <message>
         <source>Charts</source>
-        <translation type="unfinished"></translation>
+        <translation>Graphiques</translation>
     </message>
     <message>
         <source>Recordings</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrements</translation>
     </message>
     <message>
         <source>&amp;Open recordings…</source>
@@ -13055,11 +13060,11 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>&amp;Next stroke</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Coup de pagaie suivant</translation>
     </message>
     <message>
         <source>&amp;Charts</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Graphiques</translation>
     </message>
     <message>
         <source>Axes of the &amp;phone</source>
@@ -13147,19 +13152,19 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Section</source>
-        <translation type="unfinished"></translation>
+        <translation>Secteur</translation>
     </message>
     <message>
         <source>Strokes</source>
-        <translation type="unfinished"></translation>
+        <translation>Coups</translation>
     </message>
     <message>
         <source>1/min</source>
-        <translation type="unfinished"></translation>
+        <translation>1/min</translation>
     </message>
     <message>
         <source>m/s</source>
-        <translation type="unfinished"></translation>
+        <translation>m/s</translation>
     </message>
     <message>
         <source>Heart</source>
@@ -13167,15 +13172,15 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Speed</source>
-        <translation type="unfinished"></translation>
+        <translation>Vitesse</translation>
     </message>
     <message>
         <source>Stroke rate</source>
-        <translation type="unfinished"></translation>
+        <translation>Cadence</translation>
     </message>
     <message>
         <source>Heart rate</source>
-        <translation type="unfinished"></translation>
+        <translation>Fréquence cardiaque</translation>
     </message>
     <message>
         <source>Select a run to see its strokes, speed and heart rate.</source>
@@ -13191,7 +13196,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Run</source>
-        <translation type="unfinished"></translation>
+        <translation>Manche</translation>
     </message>
 </context>
 <context>
@@ -13205,7 +13210,7 @@ Penalties are left out.</source>
     <name>kavela::desktop::MotionWindow</name>
     <message>
         <source>Recordings</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrements</translation>
     </message>
     <message>
         <source>Open it</source>
@@ -13245,7 +13250,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Open recordings</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir des enregistrements</translation>
     </message>
     <message>
         <source>Raw recordings (*.kvb);;All files (*)</source>
@@ -13253,7 +13258,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>%1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 sur %2</translation>
     </message>
     <message>
         <source>Reading %1…</source>
@@ -13265,7 +13270,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>%1 and %2 more</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 et %2 autres</translation>
     </message>
 </context>
 <context>
@@ -13288,11 +13293,11 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>mark moved</source>
-        <translation type="unfinished"></translation>
+        <translation>marque déplacée</translation>
     </message>
     <message>
         <source>No mark is selected. Ctrl and the arrows go from mark to mark.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucune marque n’est choisie. Ctrl et les flèches vont de marque en marque.</translation>
     </message>
     <message>
         <source>This mark lies on another film than the one shown.</source>
@@ -13308,18 +13313,18 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>mark removed</source>
-        <translation type="unfinished"></translation>
+        <translation>marque retirée</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::NotePage</name>
     <message>
         <source>Splits</source>
-        <translation type="unfinished"></translation>
+        <translation>Inters</translation>
     </message>
     <message>
         <source>Penalties</source>
-        <translation type="unfinished"></translation>
+        <translation>Pénalités</translation>
     </message>
     <message>
         <source>Upstreams</source>
@@ -13327,7 +13332,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Strokes</source>
-        <translation type="unfinished"></translation>
+        <translation>Coups</translation>
     </message>
     <message>
         <source>Micro</source>
@@ -13335,7 +13340,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Tags</source>
-        <translation type="unfinished"></translation>
+        <translation>Étiquettes</translation>
     </message>
     <message>
         <source>Losses</source>
@@ -13343,11 +13348,11 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Comments</source>
-        <translation type="unfinished"></translation>
+        <translation>Commentaires</translation>
     </message>
     <message>
         <source>Ways</source>
-        <translation type="unfinished"></translation>
+        <translation>Options</translation>
     </message>
     <message>
         <source>Cameras</source>
@@ -13413,7 +13418,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>%1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 sur %2</translation>
     </message>
     <message>
         <source>&amp;Close</source>
@@ -13464,23 +13469,23 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Results list</source>
-        <translation type="unfinished"></translation>
+        <translation>Liste des résultats</translation>
     </message>
     <message>
         <source>Attached document</source>
-        <translation type="unfinished"></translation>
+        <translation>Document joint</translation>
     </message>
     <message>
         <source>Table kept with the race</source>
-        <translation type="unfinished"></translation>
+        <translation>Tableau conservé avec la course</translation>
     </message>
     <message>
         <source>All categories</source>
-        <translation type="unfinished"></translation>
+        <translation>Toutes les catégories</translation>
     </message>
     <message>
         <source>All phases</source>
-        <translation type="unfinished"></translation>
+        <translation>Toutes les phases</translation>
     </message>
     <message>
         <source>Official results</source>
@@ -13492,7 +13497,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>“%1” cannot be opened</source>
-        <translation type="unfinished"></translation>
+        <translation>« %1 » ne peut pas être ouvert</translation>
     </message>
     <message>
         <source>The race carries no results list. Open one with “A file…”.</source>
@@ -13590,7 +13595,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>What the server has is no planning.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce que contient le serveur n’est pas une planification.</translation>
     </message>
     <message>
         <source>The online planning could not be opened.</source>
@@ -13693,7 +13698,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>S&amp;top reading</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Arrêter la lecture</translation>
     </message>
     <message>
         <source>Files that could not be rea&amp;d…</source>
@@ -13752,7 +13757,7 @@ Penalties are left out.</source>
     <name>kavela::desktop::PenaltiesWindow</name>
     <message>
         <source>Penalties</source>
-        <translation type="unfinished"></translation>
+        <translation>Pénalités</translation>
     </message>
     <message>
         <source>Drop split files (.kvx) or a folder of them here</source>
@@ -13768,7 +13773,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Course</source>
-        <translation type="unfinished"></translation>
+        <translation>Parcours</translation>
     </message>
     <message>
         <source>Rates</source>
@@ -13784,7 +13789,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Risk and speed</source>
-        <translation type="unfinished"></translation>
+        <translation>Risque et vitesse</translation>
     </message>
     <message>
         <source>Saved %1</source>
@@ -13792,11 +13797,11 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Open split files</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir des fichiers d’intermédiaires</translation>
     </message>
     <message>
         <source>Split files (*.kvx);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichiers d’intermédiaires (*.kvx);;Tous les fichiers (*)</translation>
     </message>
     <message>
         <source>Open a folder</source>
@@ -13808,7 +13813,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Reading…</source>
-        <translation type="unfinished"></translation>
+        <translation>Lecture…</translation>
     </message>
     <message>
         <source>There is no split file (.kvx) here.</source>
@@ -13820,11 +13825,11 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>1 run</source>
-        <translation type="unfinished"></translation>
+        <translation>1 manche</translation>
     </message>
     <message>
         <source>%1 and %2 more</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 et %2 autres</translation>
     </message>
     <message numerus="yes">
         <source>%n files</source>
@@ -13835,9 +13840,9 @@ Penalties are left out.</source>
     </message>
     <message numerus="yes">
         <source>%n runs</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n manche</numerusform>
+            <numerusform>%n manches</numerusform>
         </translation>
     </message>
 </context>
@@ -13845,11 +13850,11 @@ Penalties are left out.</source>
     <name>kavela::desktop::PenaltyFilter</name>
     <message>
         <source>&amp;Category</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Catégorie</translation>
     </message>
     <message>
         <source>&amp;Phase</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Phase</translation>
     </message>
     <message>
         <source>Cre&amp;w</source>
@@ -13857,18 +13862,18 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>All</source>
-        <translation type="unfinished"></translation>
+        <translation>Tous</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::PenaltyPage</name>
     <message>
         <source>Gate</source>
-        <translation type="unfinished"></translation>
+        <translation>Porte</translation>
     </message>
     <message>
         <source>Penalty</source>
-        <translation type="unfinished"></translation>
+        <translation>Pénalité</translation>
     </message>
     <message>
         <source>Pole</source>
@@ -13900,7 +13905,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Style</source>
-        <translation type="unfinished"></translation>
+        <translation>Style</translation>
     </message>
     <message>
         <source>Eyes</source>
@@ -13928,7 +13933,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>penalty at gate %1</source>
-        <translation type="unfinished"></translation>
+        <translation>pénalité à la porte %1</translation>
     </message>
     <message>
         <source>penalty removed</source>
@@ -13939,39 +13944,39 @@ Penalties are left out.</source>
     <name>kavela::desktop::PhaseModel</name>
     <message>
         <source>Phase</source>
-        <translation type="unfinished"></translation>
+        <translation>Phase</translation>
     </message>
     <message>
         <source>Time</source>
-        <translation type="unfinished"></translation>
+        <translation>Temps</translation>
     </message>
     <message>
         <source>time</source>
-        <translation type="unfinished"></translation>
+        <translation>temps</translation>
     </message>
     <message>
         <source>Penalty</source>
-        <translation type="unfinished"></translation>
+        <translation>Pénalité</translation>
     </message>
     <message>
         <source>penalty</source>
-        <translation type="unfinished"></translation>
+        <translation>pénalité</translation>
     </message>
     <message>
         <source>Total</source>
-        <translation type="unfinished"></translation>
+        <translation>Total</translation>
     </message>
     <message>
         <source>Position</source>
-        <translation type="unfinished"></translation>
+        <translation>Position</translation>
     </message>
     <message>
         <source>position</source>
-        <translation type="unfinished"></translation>
+        <translation>position</translation>
     </message>
     <message>
         <source>Date</source>
-        <translation type="unfinished"></translation>
+        <translation>Date</translation>
     </message>
     <message>
         <source>Enter a time or a position first.</source>
@@ -13991,7 +13996,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Splits</source>
-        <translation type="unfinished"></translation>
+        <translation>Inters</translation>
     </message>
     <message>
         <source>removal of a run</source>
@@ -14014,7 +14019,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>&amp;Athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Athlète</translation>
     </message>
     <message>
         <source>Choose one of the athletes of the list.</source>
@@ -14057,11 +14062,11 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>%1 is written.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 est écrit.</translation>
     </message>
     <message>
         <source>&amp;Open it</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;L’ouvrir</translation>
     </message>
     <message>
         <source>Show in &amp;folder</source>
@@ -14084,7 +14089,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Sum</source>
-        <translation type="unfinished"></translation>
+        <translation>Somme</translation>
     </message>
     <message>
         <source>Mean</source>
@@ -14096,11 +14101,11 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Least</source>
-        <translation type="unfinished"></translation>
+        <translation>Minimum</translation>
     </message>
     <message>
         <source>Most</source>
-        <translation type="unfinished"></translation>
+        <translation>Maximum</translation>
     </message>
     <message>
         <source>Make</source>
@@ -14131,7 +14136,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Gate %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Porte %1</translation>
     </message>
     <message>
         <source>, which is not on the cross course</source>
@@ -14274,7 +14279,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     <name>kavela::desktop::PlannedAthleteDialog</name>
     <message>
         <source>Athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>Athlète</translation>
     </message>
     <message>
         <source>&amp;Picture…</source>
@@ -14343,11 +14348,11 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     <name>kavela::desktop::PlanningWindow</name>
     <message>
         <source>&amp;Athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Athlète</translation>
     </message>
     <message>
         <source>&amp;New athlete…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Nouvel athlète…</translation>
     </message>
     <message>
         <source>&amp;Edit the athlete…</source>
@@ -14359,7 +14364,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>New &amp;season</source>
-        <translation type="unfinished"></translation>
+        <translation>Nouvelle &amp;saison</translation>
     </message>
     <message>
         <source>Remove the s&amp;eason</source>
@@ -14447,11 +14452,11 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>&amp;View</source>
-        <translation type="unfinished"></translation>
+        <translation>A&amp;ffichage</translation>
     </message>
     <message>
         <source>&amp;Find an athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Chercher un athlète</translation>
     </message>
     <message>
         <source>&amp;Reports: preview, PDF, print…</source>
@@ -14475,11 +14480,11 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Athletes</source>
-        <translation type="unfinished"></translation>
+        <translation>Athlètes</translation>
     </message>
     <message>
         <source>Planning</source>
-        <translation type="unfinished"></translation>
+        <translation>Planification</translation>
     </message>
     <message>
         <source>Plan</source>
@@ -14566,11 +14571,11 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>&amp;Slower</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Plus lent</translation>
     </message>
     <message>
         <source>&amp;Faster</source>
-        <translation type="unfinished"></translation>
+        <translation>Plus &amp;vite</translation>
     </message>
     <message>
         <source>&amp;Normal speed</source>
@@ -14664,7 +14669,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>Athlète</translation>
     </message>
     <message>
         <source>Potential</source>
@@ -14683,7 +14688,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     <name>kavela::desktop::PowerMeterDialog</name>
     <message>
         <source>Line</source>
-        <translation type="unfinished"></translation>
+        <translation>Ligne</translation>
     </message>
     <message>
         <source>Why it is refused</source>
@@ -14691,7 +14696,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Import power-meter data</source>
-        <translation type="unfinished"></translation>
+        <translation>Importer les données du capteur de puissance</translation>
     </message>
     <message>
         <source>Samples: %1. Lines refused: %2.</source>
@@ -14707,7 +14712,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Import</source>
-        <translation type="unfinished"></translation>
+        <translation>Importer</translation>
     </message>
     <message>
         <source>%1 of them lie in the session, which lasts %2.</source>
@@ -14750,19 +14755,19 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Year</source>
-        <translation type="unfinished"></translation>
+        <translation>Année</translation>
     </message>
     <message>
         <source>Race</source>
-        <translation type="unfinished"></translation>
+        <translation>Course</translation>
     </message>
     <message>
         <source>Place</source>
-        <translation type="unfinished"></translation>
+        <translation>Place</translation>
     </message>
     <message>
         <source>Phase</source>
-        <translation type="unfinished"></translation>
+        <translation>Phase</translation>
     </message>
     <message>
         <source>Day</source>
@@ -14770,11 +14775,11 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Rank</source>
-        <translation type="unfinished"></translation>
+        <translation>Rang</translation>
     </message>
     <message>
         <source>Total</source>
-        <translation type="unfinished"></translation>
+        <translation>Total</translation>
     </message>
     <message>
         <source>Winner&apos;s</source>
@@ -14786,7 +14791,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>not known</source>
-        <translation type="unfinished"></translation>
+        <translation>inconnu</translation>
     </message>
     <message>
         <source>Behind, %</source>
@@ -14798,7 +14803,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Result</source>
-        <translation type="unfinished"></translation>
+        <translation>Résultat</translation>
     </message>
     <message>
         <source>The way of %1</source>
@@ -14806,7 +14811,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Behind the winner, %</source>
-        <translation type="unfinished"></translation>
+        <translation>Derrière le vainqueur, %</translation>
     </message>
     <message>
         <source>Behind the fastest splits, %</source>
@@ -14830,7 +14835,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Percent</source>
-        <translation type="unfinished"></translation>
+        <translation>Pour cent</translation>
     </message>
     <message>
         <source>Missed gate</source>
@@ -14941,235 +14946,235 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     <name>kavela::desktop::RaceActions</name>
     <message>
         <source>Open it &amp;again</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ouvrir à nouveau</translation>
     </message>
     <message>
         <source>Ti&amp;me it on video</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Chronométrer sur vidéo</translation>
     </message>
     <message>
         <source>&amp;Report: preview, PDF, print…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Rapport : aperçu, PDF, impression…</translation>
     </message>
     <message>
         <source>Save the table as &amp;CSV…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Enregistrer le tableau en CSV…</translation>
     </message>
     <message>
         <source>Cop&amp;y the selected runs</source>
-        <translation type="unfinished"></translation>
+        <translation>Copier &amp;les manches sélectionnées</translation>
     </message>
     <message>
         <source>&amp;Times</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Temps</translation>
     </message>
     <message>
         <source>&amp;Gap to the reference</source>
-        <translation type="unfinished"></translation>
+        <translation>Éc&amp;art à la référence</translation>
     </message>
     <message>
         <source>&amp;Place</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Place</translation>
     </message>
     <message>
         <source>Per&amp;cent behind the best</source>
-        <translation type="unfinished"></translation>
+        <translation>Pourcentage &amp;de retard sur le meilleur</translation>
     </message>
     <message>
         <source>Percenti&amp;le</source>
-        <translation type="unfinished"></translation>
+        <translation>Perce&amp;ntile</translation>
     </message>
     <message>
         <source>&amp;Reference: the best</source>
-        <translation type="unfinished"></translation>
+        <translation>Référence : le &amp;meilleur</translation>
     </message>
     <message>
         <source>Reference: the &amp;median</source>
-        <translation type="unfinished"></translation>
+        <translation>Ré&amp;férence : la médiane</translation>
     </message>
     <message>
         <source>Reference: the &amp;selected row</source>
-        <translation type="unfinished"></translation>
+        <translation>Référence : la ligne &amp;sélectionnée</translation>
     </message>
     <message>
         <source>&amp;Table</source>
-        <translation type="unfinished"></translation>
+        <translation>Ta&amp;bleau</translation>
     </message>
     <message>
         <source>&amp;Accumulated times</source>
-        <translation type="unfinished"></translation>
+        <translation>Temps c&amp;umulés</translation>
     </message>
     <message>
         <source>Penalties &amp;included</source>
-        <translation type="unfinished"></translation>
+        <translation>Pénalités c&amp;omprises</translation>
     </message>
     <message>
         <source>Penalties &amp;visible</source>
-        <translation type="unfinished"></translation>
+        <translation>Pénalités &amp;visibles</translation>
     </message>
     <message>
         <source>C&amp;olumns</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Colonnes</translation>
     </message>
     <message>
         <source>&amp;Find a name</source>
-        <translation type="unfinished"></translation>
+        <translation>C&amp;hercher un nom</translation>
     </message>
     <message>
         <source>Show all r&amp;uns</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher toutes &amp;les manches</translation>
     </message>
     <message>
         <source>&amp;Tint cells by rank</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Teinter les cellules selon le rang</translation>
     </message>
     <message>
         <source>&amp;Blue to orange instead of green to red</source>
-        <translation type="unfinished"></translation>
+        <translation>Du bleu à l’orange &amp;au lieu du vert au rouge</translation>
     </message>
     <message>
         <source>&amp;Compare</source>
-        <translation type="unfinished"></translation>
+        <translation>Com&amp;parer</translation>
     </message>
     <message>
         <source>&amp;Ideal run on top</source>
-        <translation type="unfinished"></translation>
+        <translation>Manche &amp;idéale en tête</translation>
     </message>
     <message>
         <source>A &amp;run of another race…</source>
-        <translation type="unfinished"></translation>
+        <translation>Une manche &amp;d’une autre course…</translation>
     </message>
     <message>
         <source>&amp;Films of the selected runs…</source>
-        <translation type="unfinished"></translation>
+        <translation>Films des &amp;manches sélectionnées…</translation>
     </message>
     <message>
         <source>With &amp;official results…</source>
-        <translation type="unfinished"></translation>
+        <translation>Avec les &amp;résultats officiels…</translation>
     </message>
     <message>
         <source>The results list as a &amp;table</source>
-        <translation type="unfinished"></translation>
+        <translation>La liste des résultats &amp;en tableau</translation>
     </message>
     <message>
         <source>&amp;Clear the comparison</source>
-        <translation type="unfinished"></translation>
+        <translation>E&amp;ffacer la comparaison</translation>
     </message>
     <message>
         <source>C&amp;harts</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Graphiques</translation>
     </message>
     <message>
         <source>&amp;Gaps along the course</source>
-        <translation type="unfinished"></translation>
+        <translation>Écart&amp;s le long du parcours</translation>
     </message>
     <message>
         <source>T&amp;imes of the sections</source>
-        <translation type="unfinished"></translation>
+        <translation>Temps des secte&amp;urs</translation>
     </message>
     <message>
         <source>P&amp;enalties at the gates</source>
-        <translation type="unfinished"></translation>
+        <translation>Pé&amp;nalités aux portes</translation>
     </message>
     <message>
         <source>&amp;Totals</source>
-        <translation type="unfinished"></translation>
+        <translation>Temps t&amp;otaux</translation>
     </message>
     <message>
         <source>&amp;Penalties</source>
-        <translation type="unfinished"></translation>
+        <translation>Péna&amp;lités</translation>
     </message>
     <message>
         <source>Time &amp;losses</source>
-        <translation type="unfinished"></translation>
+        <translation>Pertes de &amp;temps</translation>
     </message>
     <message>
         <source>Show the &amp;whole chart</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Afficher tout le graphique</translation>
     </message>
     <message>
         <source>&amp;Save the chart…</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer le gra&amp;phique…</translation>
     </message>
     <message>
         <source>&amp;Window</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Fenêtre</translation>
     </message>
     <message>
         <source>Races &amp;side by side</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Courses côte à côte</translation>
     </message>
     <message>
         <source>&amp;Larger: the table or the chart alone</source>
-        <translation type="unfinished"></translation>
+        <translation>Plus gran&amp;d : le tableau ou le graphique seul</translation>
     </message>
     <message>
         <source>&amp;Next race</source>
-        <translation type="unfinished"></translation>
+        <translation>Cou&amp;rse suivante</translation>
     </message>
     <message>
         <source>&amp;Previous race</source>
-        <translation type="unfinished"></translation>
+        <translation>Cours&amp;e précédente</translation>
     </message>
     <message>
         <source>Pa&amp;ge for an athlete…</source>
-        <translation type="unfinished"></translation>
+        <translation>Page pour un at&amp;hlète…</translation>
     </message>
     <message>
         <source>&amp;Draw the course…</source>
-        <translation type="unfinished"></translation>
+        <translation>Dess&amp;iner le parcours…</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::RaceDocument</name>
     <message>
         <source>A file of version %1. It could not be rewritten in the current version and stays as it is.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un fichier de version %1. Il n’a pas pu être réécrit dans la version actuelle et reste tel quel.</translation>
     </message>
     <message>
         <source>A file of version %1, rewritten in the current one. The previous file is kept as %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un fichier de version %1, réécrit dans la version actuelle. L’ancien fichier est conservé sous %2.</translation>
     </message>
     <message>
         <source>%1 gates, %2 upstream</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 portes, dont %2 en remontée</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::RaceHeader</name>
     <message>
         <source>1 run</source>
-        <translation type="unfinished"></translation>
+        <translation>1 manche</translation>
     </message>
     <message>
         <source>%1 of %2 runs</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 manches sur %2</translation>
     </message>
     <message>
         <source>Phase</source>
-        <translation type="unfinished"></translation>
+        <translation>Phase</translation>
     </message>
     <message>
         <source>Category</source>
-        <translation type="unfinished"></translation>
+        <translation>Catégorie</translation>
     </message>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Nom</translation>
     </message>
     <message>
         <source>All phases</source>
-        <translation type="unfinished"></translation>
+        <translation>Toutes les phases</translation>
     </message>
     <message>
         <source>All categories</source>
-        <translation type="unfinished"></translation>
+        <translation>Toutes les catégories</translation>
     </message>
     <message numerus="yes">
         <source>%n runs</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n manche</numerusform>
+            <numerusform>%n manches</numerusform>
         </translation>
     </message>
 </context>
@@ -15177,105 +15182,105 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     <name>kavela::desktop::RaceKeeping</name>
     <message>
         <source>“%1” is open in another window</source>
-        <translation type="unfinished"></translation>
+        <translation>« %1 » est ouvert dans une autre fenêtre</translation>
     </message>
     <message>
         <source>Save and close it there, then keep the table. Nothing was written.</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrez et fermez-le là-bas, puis conservez le tableau. Rien n’a été écrit.</translation>
     </message>
     <message>
         <source>Keeping the table with the race…</source>
-        <translation type="unfinished"></translation>
+        <translation>Conservation du tableau avec la course…</translation>
     </message>
     <message>
         <source>“%1” keeps a table already</source>
-        <translation type="unfinished"></translation>
+        <translation>« %1 » conserve déjà un tableau</translation>
     </message>
     <message>
         <source>This one takes its place. The official results themselves stay.</source>
-        <translation type="unfinished"></translation>
+        <translation>Celui-ci prend sa place. Les résultats officiels eux-mêmes restent.</translation>
     </message>
     <message>
         <source>Replace</source>
-        <translation type="unfinished"></translation>
+        <translation>Remplacer</translation>
     </message>
     <message>
         <source>The table was not kept with “%1”</source>
-        <translation type="unfinished"></translation>
+        <translation>Le tableau n’a pas été conservé avec « %1 »</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::RaceView</name>
     <message>
         <source>&amp;Run</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Manche</translation>
     </message>
     <message>
         <source>I&amp;deal run</source>
-        <translation type="unfinished"></translation>
+        <translation>Manche &amp;idéale</translation>
     </message>
     <message>
         <source>Pote&amp;ntial</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Potentiel</translation>
     </message>
     <message>
         <source>&amp;Motion</source>
-        <translation type="unfinished"></translation>
+        <translation>M&amp;ouvement</translation>
     </message>
     <message>
         <source>Open it again</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir à nouveau</translation>
     </message>
     <message>
         <source>gaps to the best</source>
-        <translation type="unfinished"></translation>
+        <translation>écarts au meilleur</translation>
     </message>
     <message>
         <source>gaps to the median</source>
-        <translation type="unfinished"></translation>
+        <translation>écarts à la médiane</translation>
     </message>
     <message>
         <source>gaps to %1</source>
-        <translation type="unfinished"></translation>
+        <translation>écarts à %1</translation>
     </message>
     <message>
         <source>the ideal run</source>
-        <translation type="unfinished"></translation>
+        <translation>la manche idéale</translation>
     </message>
     <message>
         <source>This course has %1 sections. The colours and the penalties in brackets are those of the first ten; place, gap and percent are there for all of them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce parcours a %1 secteurs. Les couleurs et les pénalités entre parenthèses sont celles des dix premiers ; place, écart et pourcentage existent pour tous.</translation>
     </message>
     <message>
         <source>Save the table</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer le tableau</translation>
     </message>
     <message>
         <source>Semicolon-separated text (*.csv)</source>
-        <translation type="unfinished"></translation>
+        <translation>Texte séparé par des points-virgules (*.csv)</translation>
     </message>
     <message>
         <source>The file on the disk is newer than what you see.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier sur le disque est plus récent que ce que vous voyez.</translation>
     </message>
     <message>
         <source>The file is not on the disk any more. What you see is what it held.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier n’est plus sur le disque. Vous voyez ce qu’il contenait.</translation>
     </message>
     <message>
         <source>All columns in the order of the course</source>
-        <translation type="unfinished"></translation>
+        <translation>Toutes les colonnes dans l’ordre du parcours</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::RaceWindow</name>
     <message>
         <source>Split files</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichiers d’intermédiaires</translation>
     </message>
     <message>
         <source>Races</source>
-        <translation type="unfinished"></translation>
+        <translation>Courses</translation>
     </message>
 </context>
 <context>
@@ -15333,7 +15338,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Save as…</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer sous…</translation>
     </message>
     <message>
         <source>Writes the recording into a file of its own</source>
@@ -15405,7 +15410,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>%1 cannot be read: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ne peut pas être lu : %2</translation>
     </message>
     <message>
         <source>Recording %1 cannot be played: %2</source>
@@ -15459,23 +15464,23 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>SURNAME Name</source>
-        <translation type="unfinished"></translation>
+        <translation>NOM Prénom</translation>
     </message>
     <message>
         <source>Score</source>
-        <translation type="unfinished"></translation>
+        <translation>Score</translation>
     </message>
     <message>
         <source>Bonus</source>
-        <translation type="unfinished"></translation>
+        <translation>Bonus</translation>
     </message>
     <message>
         <source>Year</source>
-        <translation type="unfinished"></translation>
+        <translation>Année</translation>
     </message>
     <message>
         <source>Club</source>
-        <translation type="unfinished"></translation>
+        <translation>Club</translation>
     </message>
     <message>
         <source>Pre</source>
@@ -15483,15 +15488,15 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>correction</source>
-        <translation type="unfinished"></translation>
+        <translation>correction</translation>
     </message>
     <message>
         <source>Pen</source>
-        <translation type="unfinished"></translation>
+        <translation>Pén.</translation>
     </message>
     <message>
         <source>%</source>
-        <translation type="unfinished"></translation>
+        <translation>%</translation>
     </message>
     <message>
         <source>Tried only. Really: %1</source>
@@ -15507,7 +15512,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>penalty</source>
-        <translation type="unfinished"></translation>
+        <translation>pénalité</translation>
     </message>
     <message>
         <source>result removed</source>
@@ -15515,7 +15520,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>result</source>
-        <translation type="unfinished"></translation>
+        <translation>résultat</translation>
     </message>
 </context>
 <context>
@@ -15534,7 +15539,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Split files (*.kvx);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichiers d’intermédiaires (*.kvx);;Tous les fichiers (*)</translation>
     </message>
     <message>
         <source>There is no split file in it.</source>
@@ -15573,22 +15578,22 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Release</source>
-        <translation type="unfinished"></translation>
+        <translation>Édition</translation>
     </message>
     <message>
         <source>Points</source>
-        <translation type="unfinished"></translation>
+        <translation>Points</translation>
     </message>
     <message>
         <source>Position</source>
-        <translation type="unfinished"></translation>
+        <translation>Position</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::RatesPanel</name>
     <message>
         <source>Passages</source>
-        <translation type="unfinished"></translation>
+        <translation>Passages</translation>
     </message>
     <message>
         <source>Runs that came past</source>
@@ -15596,7 +15601,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Touches</source>
-        <translation type="unfinished"></translation>
+        <translation>Touches</translation>
     </message>
     <message>
         <source>Rate %</source>
@@ -15608,7 +15613,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>90 %</source>
-        <translation type="unfinished"></translation>
+        <translation>90 %</translation>
     </message>
     <message>
         <source>Where the rate lies with 90 %</source>
@@ -15640,11 +15645,11 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Missed</source>
-        <translation type="unfinished"></translation>
+        <translation>Manquées</translation>
     </message>
     <message>
         <source>Missed gates</source>
-        <translation type="unfinished"></translation>
+        <translation>Portes manquées</translation>
     </message>
     <message>
         <source>Missed %</source>
@@ -15667,7 +15672,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     <name>kavela::desktop::ReadingProgress</name>
     <message>
         <source>Stop reading</source>
-        <translation type="unfinished"></translation>
+        <translation>Arrêter la lecture</translation>
     </message>
     <message>
         <source>%1 of %2 files</source>
@@ -15725,7 +15730,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Fermer</translation>
     </message>
     <message>
         <source>Common moment</source>
@@ -15761,7 +15766,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>“%1” cannot be opened</source>
-        <translation type="unfinished"></translation>
+        <translation>« %1 » ne peut pas être ouvert</translation>
     </message>
     <message>
         <source>No recording yet</source>
@@ -15828,7 +15833,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>position</source>
-        <translation type="unfinished"></translation>
+        <translation>position</translation>
     </message>
     <message>
         <source>no position</source>
@@ -15860,18 +15865,18 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>side unknown</source>
-        <translation type="unfinished"></translation>
+        <translation>côté inconnu</translation>
     </message>
     <message>
         <source>Recordings</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrements</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::RecordingOfRun</name>
     <message>
         <source>recording</source>
-        <translation type="unfinished"></translation>
+        <translation>enregistrement</translation>
     </message>
     <message>
         <source>recording taken off</source>
@@ -15894,7 +15899,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     <name>kavela::desktop::RecordingPanel</name>
     <message>
         <source>Found from the position</source>
-        <translation type="unfinished"></translation>
+        <translation>Trouvée d’après la position</translation>
     </message>
     <message>
         <source>Later b&amp;y</source>
@@ -15906,7 +15911,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>s</source>
-        <translation type="unfinished"></translation>
+        <translation>s</translation>
     </message>
     <message>
         <source>&amp;Mass in motion</source>
@@ -15996,7 +16001,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     <name>kavela::desktop::RenderQueue</name>
     <message>
         <source>A film is still being composed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un film est encore en cours de composition.</translation>
     </message>
     <message>
         <source>Leaving the program stops that, and nothing of an unfinished film is kept.</source>
@@ -16073,7 +16078,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Fermer</translation>
     </message>
     <message>
         <source>No pages</source>
@@ -16112,7 +16117,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     <name>kavela::desktop::ResultsDialog</name>
     <message>
         <source>Line %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Ligne %1 : %2</translation>
     </message>
     <message>
         <source>Official results from %1</source>
@@ -16120,15 +16125,15 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Import</source>
-        <translation type="unfinished"></translation>
+        <translation>Importer</translation>
     </message>
     <message>
         <source>Run</source>
-        <translation type="unfinished"></translation>
+        <translation>Manche</translation>
     </message>
     <message>
         <source>Line</source>
-        <translation type="unfinished"></translation>
+        <translation>Ligne</translation>
     </message>
     <message>
         <source>Type a part of the name for another line; an emptied cell stands for none</source>
@@ -16136,7 +16141,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Phase</source>
-        <translation type="unfinished"></translation>
+        <translation>Phase</translation>
     </message>
     <message>
         <source>Real time now</source>
@@ -16195,11 +16200,11 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Finals</source>
-        <translation type="unfinished"></translation>
+        <translation>Finales</translation>
     </message>
     <message>
         <source>Semifinals</source>
-        <translation type="unfinished"></translation>
+        <translation>Demi-finales</translation>
     </message>
     <message>
         <source>Quarterfinals</source>
@@ -16211,15 +16216,15 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Boat</source>
-        <translation type="unfinished"></translation>
+        <translation>Bateau</translation>
     </message>
     <message>
         <source>Place</source>
-        <translation type="unfinished"></translation>
+        <translation>Place</translation>
     </message>
     <message>
         <source>Start</source>
-        <translation type="unfinished"></translation>
+        <translation>Départ</translation>
     </message>
     <message>
         <source>Gained</source>
@@ -16227,7 +16232,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Lost</source>
-        <translation type="unfinished"></translation>
+        <translation>Perdu</translation>
     </message>
     <message>
         <source>Outcome</source>
@@ -16239,7 +16244,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>Athlète</translation>
     </message>
     <message>
         <source>Attacks</source>
@@ -16353,7 +16358,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Time</source>
-        <translation type="unfinished"></translation>
+        <translation>Temps</translation>
     </message>
     <message>
         <source>Roll</source>
@@ -16361,7 +16366,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Style</source>
-        <translation type="unfinished"></translation>
+        <translation>Style</translation>
     </message>
     <message>
         <source>Going over</source>
@@ -16373,7 +16378,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Total</source>
-        <translation type="unfinished"></translation>
+        <translation>Total</translation>
     </message>
 </context>
 <context>
@@ -16387,7 +16392,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     <name>kavela::desktop::RunChooser</name>
     <message>
         <source>1 run</source>
-        <translation type="unfinished"></translation>
+        <translation>1 manche</translation>
     </message>
     <message>
         <source>Compare with a run of another race</source>
@@ -16411,7 +16416,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Nom</translation>
     </message>
     <message>
         <source>No other race lies in this folder.
@@ -16428,13 +16433,13 @@ Choose a file.</source>
     </message>
     <message>
         <source>Split files (*.kvx);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichiers d’intermédiaires (*.kvx);;Tous les fichiers (*)</translation>
     </message>
     <message numerus="yes">
         <source>%n runs</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n manche</numerusform>
+            <numerusform>%n manches</numerusform>
         </translation>
     </message>
 </context>
@@ -16489,11 +16494,11 @@ Choose a file.</source>
     </message>
     <message>
         <source>Category</source>
-        <translation type="unfinished"></translation>
+        <translation>Catégorie</translation>
     </message>
     <message>
         <source>Phase</source>
-        <translation type="unfinished"></translation>
+        <translation>Phase</translation>
     </message>
     <message>
         <source>Hand</source>
@@ -16509,7 +16514,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>Sprint</source>
-        <translation type="unfinished"></translation>
+        <translation>Sprint</translation>
     </message>
     <message>
         <source>sprint time</source>
@@ -16592,30 +16597,30 @@ Choose a file.</source>
     </message>
     <message>
         <source>Gap</source>
-        <translation type="unfinished"></translation>
+        <translation>Écart</translation>
     </message>
     <message>
         <source>Section</source>
-        <translation type="unfinished"></translation>
+        <translation>Secteur</translation>
     </message>
     <message>
         <source>Time</source>
-        <translation type="unfinished"></translation>
+        <translation>Temps</translation>
     </message>
     <message>
         <source>Pen</source>
-        <translation type="unfinished"></translation>
+        <translation>Pén.</translation>
     </message>
     <message>
         <source>Place</source>
-        <translation type="unfinished"></translation>
+        <translation>Place</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::RunPicker</name>
     <message>
         <source>Run</source>
-        <translation type="unfinished"></translation>
+        <translation>Manche</translation>
     </message>
     <message>
         <source>Type any part of a name, phase, category or race</source>
@@ -16700,11 +16705,11 @@ Choose a file.</source>
     </message>
     <message>
         <source>Search files</source>
-        <translation type="unfinished"></translation>
+        <translation>Chercher dans des fichiers</translation>
     </message>
     <message>
         <source>Split files (*.kvx);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichiers d’intermédiaires (*.kvx);;Tous les fichiers (*)</translation>
     </message>
     <message numerus="yes">
         <source>⚠ %n could not be read…</source>
@@ -16718,7 +16723,7 @@ Choose a file.</source>
     <name>kavela::desktop::SeasonActions</name>
     <message>
         <source>Athletes</source>
-        <translation type="unfinished"></translation>
+        <translation>Athlètes</translation>
     </message>
     <message>
         <source>&amp;Open a team…</source>
@@ -16738,7 +16743,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>S&amp;top reading</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Arrêter la lecture</translation>
     </message>
     <message>
         <source>Files that could not be rea&amp;d…</source>
@@ -16830,7 +16835,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>Pa&amp;ge for an athlete…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Page pour un athlète…</translation>
     </message>
 </context>
 <context>
@@ -16841,7 +16846,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>&amp;Category</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Catégorie</translation>
     </message>
     <message>
         <source>&amp;Years</source>
@@ -16849,7 +16854,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>&amp;Athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Athlète</translation>
     </message>
 </context>
 <context>
@@ -16884,15 +16889,15 @@ Choose a file.</source>
     </message>
     <message>
         <source>Place</source>
-        <translation type="unfinished"></translation>
+        <translation>Place</translation>
     </message>
     <message>
         <source>Rank</source>
-        <translation type="unfinished"></translation>
+        <translation>Rang</translation>
     </message>
     <message>
         <source>Points</source>
-        <translation type="unfinished"></translation>
+        <translation>Points</translation>
     </message>
     <message>
         <source>ICF ranking position</source>
@@ -16931,15 +16936,15 @@ Choose a file.</source>
     <name>kavela::desktop::SeasonPage</name>
     <message>
         <source>%1 to %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 à %2</translation>
     </message>
     <message>
         <source>too few</source>
-        <translation type="unfinished"></translation>
+        <translation>trop peu</translation>
     </message>
     <message>
         <source>not known</source>
-        <translation type="unfinished"></translation>
+        <translation>inconnu</translation>
     </message>
     <message>
         <source>No whole run of this athlete can be held against the reference.</source>
@@ -16955,19 +16960,19 @@ Choose a file.</source>
     </message>
     <message>
         <source>By</source>
-        <translation type="unfinished"></translation>
+        <translation>Par</translation>
     </message>
     <message>
         <source>What</source>
-        <translation type="unfinished"></translation>
+        <translation>Quoi</translation>
     </message>
     <message>
         <source>Runs</source>
-        <translation type="unfinished"></translation>
+        <translation>Manches</translation>
     </message>
     <message>
         <source>Lost</source>
-        <translation type="unfinished"></translation>
+        <translation>Perdu</translation>
     </message>
     <message>
         <source>Seconds, of all runs together</source>
@@ -16975,7 +16980,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>Lost, %</source>
-        <translation type="unfinished"></translation>
+        <translation>Perdu, %</translation>
     </message>
     <message>
         <source>Of the reference&apos;s time there</source>
@@ -16983,7 +16988,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>90 %</source>
-        <translation type="unfinished"></translation>
+        <translation>90 %</translation>
     </message>
     <message>
         <source>A run</source>
@@ -16999,7 +17004,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>Verdict</source>
-        <translation type="unfinished"></translation>
+        <translation>Verdict</translation>
     </message>
     <message>
         <source>What the interval says: losing where all of it is above 0</source>
@@ -17011,7 +17016,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>Run</source>
-        <translation type="unfinished"></translation>
+        <translation>Manche</translation>
     </message>
     <message>
         <source>Open a folder of races to see an athlete&apos;s season.</source>
@@ -17084,7 +17089,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>Semifinal to final</source>
-        <translation type="unfinished"></translation>
+        <translation>De la demi-finale à la finale</translation>
     </message>
     <message>
         <source>Heats to final, percent behind</source>
@@ -17112,11 +17117,11 @@ Choose a file.</source>
     </message>
     <message>
         <source>Head to head</source>
-        <translation type="unfinished"></translation>
+        <translation>Face à face</translation>
     </message>
     <message>
         <source>Medals and finals</source>
-        <translation type="unfinished"></translation>
+        <translation>Médailles et finales</translation>
     </message>
     <message>
         <source>How far</source>
@@ -17124,19 +17129,19 @@ Choose a file.</source>
     </message>
     <message>
         <source>Medals</source>
-        <translation type="unfinished"></translation>
+        <translation>Médailles</translation>
     </message>
     <message>
         <source>Finals</source>
-        <translation type="unfinished"></translation>
+        <translation>Finales</translation>
     </message>
     <message>
         <source>Semifinals</source>
-        <translation type="unfinished"></translation>
+        <translation>Demi-finales</translation>
     </message>
     <message>
         <source>Expected places</source>
-        <translation type="unfinished"></translation>
+        <translation>Places attendues</translation>
     </message>
     <message>
         <source>What it takes</source>
@@ -17144,11 +17149,11 @@ Choose a file.</source>
     </message>
     <message>
         <source>Athletes</source>
-        <translation type="unfinished"></translation>
+        <translation>Athlètes</translation>
     </message>
     <message>
         <source>Phase</source>
-        <translation type="unfinished"></translation>
+        <translation>Phase</translation>
     </message>
 </context>
 <context>
@@ -17178,7 +17183,7 @@ Choose a file.</source>
     <name>kavela::desktop::SeasonWindow</name>
     <message>
         <source>Season</source>
-        <translation type="unfinished"></translation>
+        <translation>Saison</translation>
     </message>
     <message>
         <source>Drop a team (.kvteam) and the folder of its races here</source>
@@ -17198,11 +17203,11 @@ Choose a file.</source>
     </message>
     <message>
         <source>Writing %1…</source>
-        <translation type="unfinished"></translation>
+        <translation>Écriture de %1…</translation>
     </message>
     <message>
         <source>Open a team</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir une équipe</translation>
     </message>
     <message>
         <source>Teams (*.kvteam);;All files (*)</source>
@@ -17214,7 +17219,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>Split files (*.kvx);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichiers d’intermédiaires (*.kvx);;Tous les fichiers (*)</translation>
     </message>
     <message>
         <source>Add a folder of races</source>
@@ -17238,7 +17243,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>Reading…</source>
-        <translation type="unfinished"></translation>
+        <translation>Lecture…</translation>
     </message>
     <message>
         <source>Nobody of this team races in any category yet.</source>
@@ -17307,7 +17312,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>Behind best</source>
-        <translation type="unfinished"></translation>
+        <translation>Derrière le meilleur</translation>
     </message>
     <message>
         <source>Seconds behind the best of the section</source>
@@ -17315,7 +17320,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>Time</source>
-        <translation type="unfinished"></translation>
+        <translation>Temps</translation>
     </message>
     <message>
         <source>Seconds in the section</source>
@@ -17367,7 +17372,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>Runs</source>
-        <translation type="unfinished"></translation>
+        <translation>Manches</translation>
     </message>
     <message>
         <source>Behind the best</source>
@@ -17375,15 +17380,15 @@ Choose a file.</source>
     </message>
     <message>
         <source>Place</source>
-        <translation type="unfinished"></translation>
+        <translation>Place</translation>
     </message>
     <message>
         <source>%1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 sur %2</translation>
     </message>
     <message>
         <source>Section</source>
-        <translation type="unfinished"></translation>
+        <translation>Secteur</translation>
     </message>
     <message>
         <source>Title</source>
@@ -17403,7 +17408,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>Sections</source>
-        <translation type="unfinished"></translation>
+        <translation>Secteurs</translation>
     </message>
     <message>
         <source>Distribution of the times of each section</source>
@@ -17446,7 +17451,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>m</source>
-        <translation type="unfinished"></translation>
+        <translation>m</translation>
     </message>
     <message>
         <source>Turn li&amp;mit</source>
@@ -17524,7 +17529,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>Sections</source>
-        <translation type="unfinished"></translation>
+        <translation>Secteurs</translation>
     </message>
     <message>
         <source>The time in straight line is part of the time of its section: it cannot be longer.</source>
@@ -17569,7 +17574,7 @@ Choose a file.</source>
     <name>kavela::desktop::SelectionEdits</name>
     <message>
         <source>Race</source>
-        <translation type="unfinished"></translation>
+        <translation>Course</translation>
     </message>
     <message>
         <source>Race location</source>
@@ -17601,7 +17606,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>Category</source>
-        <translation type="unfinished"></translation>
+        <translation>Catégorie</translation>
     </message>
     <message>
         <source>Category of the athletes</source>
@@ -17613,7 +17618,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>Add a category first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajoutez d’abord une catégorie.</translation>
     </message>
     <message>
         <source>%1 is in this category already.</source>
@@ -17655,7 +17660,7 @@ Choose a file.</source>
     <name>kavela::desktop::SelectionWindow</name>
     <message>
         <source>Selection races</source>
-        <translation type="unfinished"></translation>
+        <translation>Courses de sélection</translation>
     </message>
     <message>
         <source>Copy the table</source>
@@ -17671,7 +17676,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>&amp;Copy the table</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Copier le tableau</translation>
     </message>
     <message>
         <source>&amp;What if</source>
@@ -17739,11 +17744,11 @@ Choose a file.</source>
     </message>
     <message>
         <source>Categories</source>
-        <translation type="unfinished"></translation>
+        <translation>Catégories</translation>
     </message>
     <message>
         <source>Bonus</source>
-        <translation type="unfinished"></translation>
+        <translation>Bonus</translation>
     </message>
     <message>
         <source>Official times</source>
@@ -17763,7 +17768,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>Selection %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Sélection %1</translation>
     </message>
     <message>
         <source>What if: times and penalties typed now are tried only. End it (W) to go back to the real results.</source>
@@ -17851,27 +17856,27 @@ Choose a file.</source>
     </message>
     <message>
         <source>Stroke rate</source>
-        <translation type="unfinished"></translation>
+        <translation>Cadence</translation>
     </message>
     <message>
         <source>Force</source>
-        <translation type="unfinished"></translation>
+        <translation>Force</translation>
     </message>
     <message>
         <source>Impulse</source>
-        <translation type="unfinished"></translation>
+        <translation>Impulsion</translation>
     </message>
     <message>
         <source>Power</source>
-        <translation type="unfinished"></translation>
+        <translation>Puissance</translation>
     </message>
     <message>
         <source>Speed</source>
-        <translation type="unfinished"></translation>
+        <translation>Vitesse</translation>
     </message>
     <message>
         <source>Heart rate</source>
-        <translation type="unfinished"></translation>
+        <translation>Fréquence cardiaque</translation>
     </message>
     <message>
         <source>Phases</source>
@@ -17910,7 +17915,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>&amp;Place</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Place</translation>
     </message>
     <message>
         <source>&amp;Description</source>
@@ -17972,7 +17977,7 @@ Choose a file.</source>
     <name>kavela::desktop::SessionTables</name>
     <message>
         <source>Strokes</source>
-        <translation type="unfinished"></translation>
+        <translation>Coups</translation>
     </message>
     <message>
         <source>Turns</source>
@@ -18083,11 +18088,11 @@ Choose a file.</source>
     </message>
     <message>
         <source>Speed</source>
-        <translation type="unfinished"></translation>
+        <translation>Vitesse</translation>
     </message>
     <message>
         <source>Stroke rate</source>
-        <translation type="unfinished"></translation>
+        <translation>Cadence</translation>
     </message>
     <message>
         <source>Colour of the course</source>
@@ -18102,7 +18107,7 @@ Choose a file.</source>
     <name>kavela::desktop::SessionWindow</name>
     <message>
         <source>Session</source>
-        <translation type="unfinished"></translation>
+        <translation>Séance</translation>
     </message>
     <message>
         <source>Sessions (*.bms);;Sessions (*.sbm)</source>
@@ -18110,7 +18115,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Tous les fichiers (*)</translation>
     </message>
     <message>
         <source>Import .kvb file</source>
@@ -18118,7 +18123,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>Recordings (*.kvb)</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrements (*.kvb)</translation>
     </message>
     <message>
         <source>Import .sbm file</source>
@@ -18161,11 +18166,11 @@ Choose a file.</source>
     </message>
     <message>
         <source>Split taking</source>
-        <translation type="unfinished"></translation>
+        <translation>Prise de temps intermédiaires</translation>
     </message>
     <message>
         <source>Boat motion</source>
-        <translation type="unfinished"></translation>
+        <translation>Mouvement du bateau</translation>
     </message>
     <message>
         <source>At start</source>
@@ -18229,7 +18234,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>none</source>
-        <translation type="unfinished"></translation>
+        <translation>aucun</translation>
     </message>
     <message>
         <source>Choose…</source>
@@ -18245,7 +18250,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>None</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun</translation>
     </message>
     <message>
         <source>Look for a newer version once a day</source>
@@ -18307,7 +18312,7 @@ Choose a file.</source>
     <name>kavela::desktop::ShareWindow</name>
     <message>
         <source>Share folders</source>
-        <translation type="unfinished"></translation>
+        <translation>Partager des dossiers</translation>
     </message>
     <message>
         <source>F&amp;older</source>
@@ -18343,7 +18348,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>Start</source>
-        <translation type="unfinished"></translation>
+        <translation>Départ</translation>
     </message>
     <message>
         <source>Shares the ticked files</source>
@@ -18351,7 +18356,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Annuler</translation>
     </message>
     <message>
         <source>Nothing is shared before it is shown here</source>
@@ -18387,7 +18392,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>%1 (on the server)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (sur le serveur)</translation>
     </message>
     <message>
         <source>%1 (here)</source>
@@ -18490,7 +18495,7 @@ and %1 more</source>
     </message>
     <message>
         <source>&amp;Edit</source>
-        <translation type="unfinished"></translation>
+        <translation>É&amp;dition</translation>
     </message>
     <message>
         <source>&amp;Undo the mark</source>
@@ -18586,7 +18591,7 @@ and %1 more</source>
     </message>
     <message>
         <source>&amp;Mark</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Marquer</translation>
     </message>
     <message>
         <source>&amp;Mark the run at the hair line</source>
@@ -18598,11 +18603,11 @@ and %1 more</source>
     </message>
     <message>
         <source>&amp;Previous run</source>
-        <translation type="unfinished"></translation>
+        <translation>Manche &amp;précédente</translation>
     </message>
     <message>
         <source>&amp;Next run</source>
-        <translation type="unfinished"></translation>
+        <translation>Manche &amp;suivante</translation>
     </message>
     <message>
         <source>&amp;Refuse the proposal at the hair line</source>
@@ -18630,11 +18635,11 @@ and %1 more</source>
     </message>
     <message>
         <source>&amp;Slower</source>
-        <translation type="unfinished"></translation>
+        <translation>Plus &amp;lent</translation>
     </message>
     <message>
         <source>&amp;Faster</source>
-        <translation type="unfinished"></translation>
+        <translation>Plus &amp;vite</translation>
     </message>
     <message>
         <source>&amp;Normal speed</source>
@@ -18710,11 +18715,11 @@ and %1 more</source>
     <name>kavela::desktop::SlitRace</name>
     <message>
         <source>Start</source>
-        <translation type="unfinished"></translation>
+        <translation>Départ</translation>
     </message>
     <message>
         <source>Split %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Intermédiaire %1</translation>
     </message>
     <message>
         <source>%1: %2</source>
@@ -18756,7 +18761,7 @@ and %1 more</source>
     <name>kavela::desktop::SlitStrip</name>
     <message>
         <source>Slit picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Image à fente</translation>
     </message>
     <message>
         <source>What stood on the line over the film, over time. A click goes there.</source>
@@ -18767,7 +18772,7 @@ and %1 more</source>
     <name>kavela::desktop::SlitView</name>
     <message>
         <source>Slit picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Image à fente</translation>
     </message>
     <message>
         <source>%1 %</source>
@@ -18775,7 +18780,7 @@ and %1 more</source>
     </message>
     <message>
         <source>frame %1   %2 s</source>
-        <translation type="unfinished"></translation>
+        <translation>image %1   %2 s</translation>
     </message>
     <message>
         <source>  (%1%2 of a frame)</source>
@@ -18790,11 +18795,11 @@ and %1 more</source>
     </message>
     <message>
         <source>Slit picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Image à fente</translation>
     </message>
     <message>
         <source>“%1” is not there.</source>
-        <translation type="unfinished"></translation>
+        <translation>« %1 » n’est pas là.</translation>
     </message>
     <message>
         <source>Open the film of a fixed camera</source>
@@ -18869,14 +18874,14 @@ and %1 more</source>
     <name>kavela::desktop::SplitBar</name>
     <message>
         <source>Split times</source>
-        <translation type="unfinished"></translation>
+        <translation>Temps intermédiaires</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::SplitMode</name>
     <message>
         <source>Start</source>
-        <translation type="unfinished"></translation>
+        <translation>Départ</translation>
     </message>
     <message>
         <source>Nothing can be marked: %1 is not in the folder of the split file. Cameras &gt; Where are the films now?</source>
@@ -18884,7 +18889,7 @@ and %1 more</source>
     </message>
     <message>
         <source>No mark is selected. Ctrl and the arrows go from mark to mark.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucune marque n’est choisie. Ctrl et les flèches vont de marque en marque.</translation>
     </message>
     <message>
         <source>Another run came to the front: nothing was marked.</source>
@@ -18896,27 +18901,27 @@ and %1 more</source>
     </message>
     <message>
         <source>Mark anew</source>
-        <translation type="unfinished"></translation>
+        <translation>Marquer à nouveau</translation>
     </message>
     <message>
         <source>start mark</source>
-        <translation type="unfinished"></translation>
+        <translation>marque de départ</translation>
     </message>
     <message>
         <source>split %1</source>
-        <translation type="unfinished"></translation>
+        <translation>intermédiaire %1</translation>
     </message>
     <message>
         <source>%1:  %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 :  %2</translation>
     </message>
     <message>
         <source>Split %1 was put in between two marks. Ctrl+Z takes it out again.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’intermédiaire %1 a été inséré entre deux marques. Ctrl+Z l’enlève.</translation>
     </message>
     <message>
         <source>mark moved</source>
-        <translation type="unfinished"></translation>
+        <translation>marque déplacée</translation>
     </message>
     <message>
         <source>There is no mark yet that could be moved.</source>
@@ -18924,7 +18929,7 @@ and %1 more</source>
     </message>
     <message>
         <source>mark removed</source>
-        <translation type="unfinished"></translation>
+        <translation>marque retirée</translation>
     </message>
     <message>
         <source>Split %1 is expected behind the end of the film.</source>
@@ -18959,15 +18964,15 @@ It counts for nothing: no place, no gap, never a best.</source>
     </message>
     <message>
         <source>%1 in %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 en %2</translation>
     </message>
     <message>
         <source>Ideal run</source>
-        <translation type="unfinished"></translation>
+        <translation>Manche idéale</translation>
     </message>
     <message>
         <source>%1, %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, %2</translation>
     </message>
     <message>
         <source>Gates %1</source>
@@ -18980,19 +18985,19 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Nom</translation>
     </message>
     <message>
         <source>Phase</source>
-        <translation type="unfinished"></translation>
+        <translation>Phase</translation>
     </message>
     <message>
         <source>Cat</source>
-        <translation type="unfinished"></translation>
+        <translation>Cat.</translation>
     </message>
     <message>
         <source>Place</source>
-        <translation type="unfinished"></translation>
+        <translation>Place</translation>
     </message>
     <message>
         <source>%1 penalty</source>
@@ -19022,7 +19027,7 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>Phase</source>
-        <translation type="unfinished"></translation>
+        <translation>Phase</translation>
     </message>
     <message>
         <source>Take over</source>
@@ -19038,7 +19043,7 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>Lists (*.csv *.txt);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Listes (*.csv *.txt);;Tous les fichiers (*)</translation>
     </message>
     <message>
         <source>Starts: %1. Lines that cannot be taken: %2.</source>
@@ -19046,7 +19051,7 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>Line %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Ligne %1 : %2</translation>
     </message>
 </context>
 <context>
@@ -19084,7 +19089,7 @@ Place, gap and percent are there as in any other.</source>
     <name>kavela::desktop::StrategyPage</name>
     <message>
         <source>best</source>
-        <translation type="unfinished"></translation>
+        <translation>meilleur</translation>
     </message>
     <message>
         <source>way of the run</source>
@@ -19112,11 +19117,11 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>Time</source>
-        <translation type="unfinished"></translation>
+        <translation>Temps</translation>
     </message>
     <message>
         <source>Gap</source>
-        <translation type="unfinished"></translation>
+        <translation>Écart</translation>
     </message>
     <message>
         <source>The tick is at the way that the run took. Names and times are edited by a double click.</source>
@@ -19144,7 +19149,7 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>Comment</source>
-        <translation type="unfinished"></translation>
+        <translation>Commentaire</translation>
     </message>
     <message>
         <source>Add</source>
@@ -19152,7 +19157,7 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>New</source>
-        <translation type="unfinished"></translation>
+        <translation>Nouveau</translation>
     </message>
     <message>
         <source>Compared</source>
@@ -19164,7 +19169,7 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>Section</source>
-        <translation type="unfinished"></translation>
+        <translation>Secteur</translation>
     </message>
     <message>
         <source>Without a name</source>
@@ -19220,7 +19225,7 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>Start</source>
-        <translation type="unfinished"></translation>
+        <translation>Départ</translation>
     </message>
     <message>
         <source>The end of a way comes after its beginning at %1.</source>
@@ -19243,7 +19248,7 @@ Place, gap and percent are there as in any other.</source>
     <name>kavela::desktop::StrokePage</name>
     <message>
         <source>Section</source>
-        <translation type="unfinished"></translation>
+        <translation>Secteur</translation>
     </message>
     <message>
         <source>Left</source>
@@ -19267,7 +19272,7 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>Style</source>
-        <translation type="unfinished"></translation>
+        <translation>Style</translation>
     </message>
     <message>
         <source>%1 per minute, %2 strokes</source>
@@ -19372,11 +19377,11 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>Save the c&amp;hart…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Enregistrer le graphique…</translation>
     </message>
     <message>
         <source>&amp;Edit</source>
-        <translation type="unfinished"></translation>
+        <translation>É&amp;dition</translation>
     </message>
     <message>
         <source>&amp;Undo</source>
@@ -19456,7 +19461,7 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>Percenti&amp;le</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Percentile</translation>
     </message>
     <message>
         <source>&amp;Another column…</source>
@@ -19488,7 +19493,7 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>&amp;Blue to orange instead of green to red</source>
-        <translation type="unfinished"></translation>
+        <translation>Du &amp;bleu à l’orange au lieu du vert au rouge</translation>
     </message>
     <message>
         <source>The &amp;whole chart</source>
@@ -19499,7 +19504,7 @@ Place, gap and percent are there as in any other.</source>
     <name>kavela::desktop::TablesWindow</name>
     <message>
         <source>Tables</source>
-        <translation type="unfinished"></translation>
+        <translation>Tableaux</translation>
     </message>
     <message>
         <source>Drop a list of results here</source>
@@ -19567,11 +19572,11 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>Semicolon-separated text (*.csv)</source>
-        <translation type="unfinished"></translation>
+        <translation>Texte séparé par des points-virgules (*.csv)</translation>
     </message>
     <message>
         <source>Open lists</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir des listes</translation>
     </message>
     <message>
         <source>Begin anew?</source>
@@ -19599,7 +19604,7 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>“%1” cannot be opened</source>
-        <translation type="unfinished"></translation>
+        <translation>« %1 » ne peut pas être ouvert</translation>
     </message>
     <message>
         <source>Nobody of the team</source>
@@ -19615,11 +19620,11 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>Split files (*.kvx);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichiers d’intermédiaires (*.kvx);;Tous les fichiers (*)</translation>
     </message>
     <message>
         <source>Save the table</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer le tableau</translation>
     </message>
     <message>
         <source>The table was not saved</source>
@@ -19668,7 +19673,7 @@ Place, gap and percent are there as in any other.</source>
     <name>kavela::desktop::TagMode</name>
     <message>
         <source>Tag</source>
-        <translation type="unfinished"></translation>
+        <translation>Étiquette</translation>
     </message>
     <message>
         <source>There is no film to tag.</source>
@@ -19695,11 +19700,11 @@ Place, gap and percent are there as in any other.</source>
     <name>kavela::desktop::TagPage</name>
     <message>
         <source>Time</source>
-        <translation type="unfinished"></translation>
+        <translation>Temps</translation>
     </message>
     <message>
         <source>Tag</source>
-        <translation type="unfinished"></translation>
+        <translation>Étiquette</translation>
     </message>
     <message>
         <source>Play just the tagged part</source>
@@ -19742,19 +19747,19 @@ Place, gap and percent are there as in any other.</source>
     <name>kavela::desktop::TakeOverDialog</name>
     <message>
         <source>Boat</source>
-        <translation type="unfinished"></translation>
+        <translation>Bateau</translation>
     </message>
     <message>
         <source>Phase</source>
-        <translation type="unfinished"></translation>
+        <translation>Phase</translation>
     </message>
     <message>
         <source>Result</source>
-        <translation type="unfinished"></translation>
+        <translation>Résultat</translation>
     </message>
     <message>
         <source>Athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>Athlète</translation>
     </message>
     <message>
         <source>not in the team</source>
@@ -19762,7 +19767,7 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>Leave out</source>
-        <translation type="unfinished"></translation>
+        <translation>Laisser de côté</translation>
     </message>
     <message>
         <source>Add %1 to the team</source>
@@ -19806,15 +19811,15 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>&amp;Category</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Catégorie</translation>
     </message>
     <message>
         <source>&amp;Phase</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Phase</translation>
     </message>
     <message>
         <source>&amp;Day</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Jour</translation>
     </message>
     <message>
         <source>Take over</source>
@@ -19834,11 +19839,11 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>%1 and %2 more</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 et %2 autres</translation>
     </message>
     <message>
         <source>Final position</source>
-        <translation type="unfinished"></translation>
+        <translation>Place finale</translation>
     </message>
     <message>
         <source>&amp;Take over 1 line</source>
@@ -19880,11 +19885,11 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>&amp;Test</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Test</translation>
     </message>
     <message>
         <source>&amp;Athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Athlète</translation>
     </message>
     <message>
         <source>&amp;Location</source>
@@ -19924,7 +19929,7 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>Start</source>
-        <translation type="unfinished"></translation>
+        <translation>Départ</translation>
     </message>
     <message>
         <source>%1 strokes and %2 turns were found.</source>
@@ -19989,31 +19994,31 @@ Place, gap and percent are there as in any other.</source>
     <name>kavela::desktop::TakeRunDialog</name>
     <message>
         <source>%1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 sur %2</translation>
     </message>
     <message>
         <source>Athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>Athlète</translation>
     </message>
     <message>
         <source>Category</source>
-        <translation type="unfinished"></translation>
+        <translation>Catégorie</translation>
     </message>
     <message>
         <source>Phase</source>
-        <translation type="unfinished"></translation>
+        <translation>Phase</translation>
     </message>
     <message>
         <source>Sections</source>
-        <translation type="unfinished"></translation>
+        <translation>Secteurs</translation>
     </message>
     <message>
         <source>Total</source>
-        <translation type="unfinished"></translation>
+        <translation>Total</translation>
     </message>
     <message>
         <source>s</source>
-        <translation type="unfinished"></translation>
+        <translation>s</translation>
     </message>
     <message>
         <source>Motion</source>
@@ -20033,7 +20038,7 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>&amp;Test</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Test</translation>
     </message>
     <message>
         <source>Take %1 runs in</source>
@@ -20056,263 +20061,263 @@ Place, gap and percent are there as in any other.</source>
     <name>kavela::desktop::TakingActions</name>
     <message>
         <source>&amp;Open a folder of videos…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ouvrir un dossier de vidéos…</translation>
     </message>
     <message>
         <source>&amp;Save data</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Enregistrer les données</translation>
     </message>
     <message>
         <source>Import &amp;video…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Importer une vidéo…</translation>
     </message>
     <message>
         <source>Import split &amp;file…</source>
-        <translation type="unfinished"></translation>
+        <translation>Importer &amp;un fichier d’intermédiaires…</translation>
     </message>
     <message>
         <source>Import official &amp;results…</source>
-        <translation type="unfinished"></translation>
+        <translation>Importer &amp;les résultats officiels…</translation>
     </message>
     <message>
         <source>Compare &amp;with official results…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Comparer avec les résultats officiels…</translation>
     </message>
     <message>
         <source>&amp;Recording of the run…</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrement &amp;de la manche…</translation>
     </message>
     <message>
         <source>Run s&amp;heet: preview, PDF, print…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Fiche de manche : aperçu, PDF, impression…</translation>
     </message>
     <message>
         <source>&amp;Export data…</source>
-        <translation type="unfinished"></translation>
+        <translation>E&amp;xporter les données…</translation>
     </message>
     <message>
         <source>Show in the race &amp;analyzer</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Montrer dans l’analyse de course</translation>
     </message>
     <message>
         <source>Compare fil&amp;ms of the run…</source>
-        <translation type="unfinished"></translation>
+        <translation>Com&amp;parer les films de la manche…</translation>
     </message>
     <message>
         <source>Kayak &amp;cross of this race</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Kayak cross de cette course</translation>
     </message>
     <message>
         <source>Open a folder of videos</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir un dossier de vidéos</translation>
     </message>
     <message>
         <source>Race and &amp;course…</source>
-        <translation type="unfinished"></translation>
+        <translation>Cou&amp;rse et parcours…</translation>
     </message>
     <message>
         <source>Names of the &amp;films…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Noms des films…</translation>
     </message>
     <message>
         <source>&amp;Previous run</source>
-        <translation type="unfinished"></translation>
+        <translation>M&amp;anche précédente</translation>
     </message>
     <message>
         <source>&amp;Next run</source>
-        <translation type="unfinished"></translation>
+        <translation>Manche &amp;suivante</translation>
     </message>
     <message>
         <source>&amp;Find an athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>C&amp;hercher un athlète</translation>
     </message>
     <message>
         <source>Move the run up</source>
-        <translation type="unfinished"></translation>
+        <translation>Monter la manche</translation>
     </message>
     <message>
         <source>Move the run down</source>
-        <translation type="unfinished"></translation>
+        <translation>Descendre la manche</translation>
     </message>
     <message>
         <source>Remove the run from the list</source>
-        <translation type="unfinished"></translation>
+        <translation>Retirer la manche de la liste</translation>
     </message>
     <message>
         <source>Delete &amp;all data…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Effacer toutes les données…</translation>
     </message>
     <message>
         <source>&amp;Mark</source>
-        <translation type="unfinished"></translation>
+        <translation>Mar&amp;quer</translation>
     </message>
     <message>
         <source>&amp;Mark the split</source>
-        <translation type="unfinished"></translation>
+        <translation>Marquer &amp;l’intermédiaire</translation>
     </message>
     <message>
         <source>To where the next split is e&amp;xpected</source>
-        <translation type="unfinished"></translation>
+        <translation>Là &amp;où le prochain intermédiaire est attendu</translation>
     </message>
     <message>
         <source>To the start mark</source>
-        <translation type="unfinished"></translation>
+        <translation>À la marque de départ</translation>
     </message>
     <message>
         <source>To split &amp;%1</source>
-        <translation type="unfinished"></translation>
+        <translation>À l’&amp;intermédiaire %1</translation>
     </message>
     <message>
         <source>&amp;Gates</source>
-        <translation type="unfinished"></translation>
+        <translation>Por&amp;tes</translation>
     </message>
     <message>
         <source>&amp;Touch: 2 s</source>
-        <translation type="unfinished"></translation>
+        <translation>Touche : &amp;2 s</translation>
     </message>
     <message>
         <source>Missed gate: &amp;50 s</source>
-        <translation type="unfinished"></translation>
+        <translation>Porte &amp;manquée : 50 s</translation>
     </message>
     <message>
         <source>&amp;Clean</source>
-        <translation type="unfinished"></translation>
+        <translation>Sans &amp;pénalité</translation>
     </message>
     <message>
         <source>&amp;Next gate</source>
-        <translation type="unfinished"></translation>
+        <translation>Porte s&amp;uivante</translation>
     </message>
     <message>
         <source>&amp;Previous gate</source>
-        <translation type="unfinished"></translation>
+        <translation>Po&amp;rte précédente</translation>
     </message>
     <message>
         <source>&amp;Cameras</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Caméras</translation>
     </message>
     <message>
         <source>&amp;Add another camera of this run…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ajouter une autre caméra de cette manche…</translation>
     </message>
     <message>
         <source>&amp;Where are the films now?…</source>
-        <translation type="unfinished"></translation>
+        <translation>Où &amp;sont les films maintenant ?…</translation>
     </message>
     <message>
         <source>Last camera one frame back</source>
-        <translation type="unfinished"></translation>
+        <translation>Dernière caméra, une image en arrière</translation>
     </message>
     <message>
         <source>Last camera one frame forward</source>
-        <translation type="unfinished"></translation>
+        <translation>Dernière caméra, une image en avant</translation>
     </message>
     <message>
         <source>&amp;Larger: without the table, the film alone, all again</source>
-        <translation type="unfinished"></translation>
+        <translation>Plus &amp;grand : sans le tableau, le film seul, tout à nouveau</translation>
     </message>
     <message>
         <source>The frames shown are &amp;one moment</source>
-        <translation type="unfinished"></translation>
+        <translation>L&amp;es images affichées sont le même moment</translation>
     </message>
     <message>
         <source>&amp;Draw the course…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Dessiner le parcours…</translation>
     </message>
     <message>
         <source>Sl&amp;it picture of the last camera</source>
-        <translation type="unfinished"></translation>
+        <translation>Image à &amp;fente de la dernière caméra</translation>
     </message>
     <message>
         <source>There is no film here that has a slit picture.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun film ici n’a d’image à fente.</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::TakingDocument</name>
     <message>
         <source>Save a copy as</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer une copie sous</translation>
     </message>
     <message>
         <source>Split files (*.kvx)</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichiers d’intermédiaires (*.kvx)</translation>
     </message>
     <message>
         <source> &quot;Save as…&quot; writes a copy in the present release and opens it here; its films stay where they are.</source>
-        <translation type="unfinished"></translation>
+        <translation> « Enregistrer sous… » écrit une copie dans la version actuelle et l’ouvre ici ; ses films restent où ils sont.</translation>
     </message>
     <message>
         <source>Save as…</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer sous…</translation>
     </message>
     <message>
         <source>names of the films</source>
-        <translation type="unfinished"></translation>
+        <translation>noms des films</translation>
     </message>
     <message>
         <source>run removed</source>
-        <translation type="unfinished"></translation>
+        <translation>manche retirée</translation>
     </message>
     <message>
         <source>run moved</source>
-        <translation type="unfinished"></translation>
+        <translation>manche déplacée</translation>
     </message>
     <message>
         <source>videos imported</source>
-        <translation type="unfinished"></translation>
+        <translation>vidéos importées</translation>
     </message>
     <message>
         <source>“%1” holds no runs. Nothing was imported.</source>
-        <translation type="unfinished"></translation>
+        <translation>« %1 » ne contient aucune manche. Rien n’a été importé.</translation>
     </message>
     <message>
         <source>split file imported</source>
-        <translation type="unfinished"></translation>
+        <translation>fichier d’intermédiaires importé</translation>
     </message>
     <message>
         <source>official results imported</source>
-        <translation type="unfinished"></translation>
+        <translation>résultats officiels importés</translation>
     </message>
     <message>
         <source>official result of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>résultat officiel de %1</translation>
     </message>
     <message>
         <source>1 run</source>
-        <translation type="unfinished"></translation>
+        <translation>1 manche</translation>
     </message>
     <message>
         <source>%1 with %2 is emptied. Ctrl+Z brings it back.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 avec %2 est vidé. Ctrl+Z le rétablit.</translation>
     </message>
     <message>
         <source>reset</source>
-        <translation type="unfinished"></translation>
+        <translation>remise à zéro</translation>
     </message>
     <message>
         <source>1 start without a split is not stored in the file. This computer keeps it, and offers it when the file is opened here again.</source>
-        <translation type="unfinished"></translation>
+        <translation>1 départ sans intermédiaire n’est pas écrit dans le fichier. Cet ordinateur le conserve et le propose à la réouverture du fichier ici.</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Fermer</translation>
     </message>
     <message>
         <source>Overwrite</source>
-        <translation type="unfinished"></translation>
+        <translation>Écraser</translation>
     </message>
     <message numerus="yes">
         <source>%n runs</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n manche</numerusform>
+            <numerusform>%n manches</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n starts without a split are not stored in the file. This computer keeps them, and offers them when the file is opened here again.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n départ sans intermédiaire n’est pas écrit dans le fichier. Cet ordinateur le conserve et le propose à la réouverture du fichier ici.</numerusform>
+            <numerusform>%n départs sans intermédiaire ne sont pas écrits dans le fichier. Cet ordinateur les conserve et les propose à la réouverture du fichier ici.</numerusform>
         </translation>
     </message>
 </context>
@@ -20320,55 +20325,55 @@ Place, gap and percent are there as in any other.</source>
     <name>kavela::desktop::TakingWindow</name>
     <message>
         <source>correction</source>
-        <translation type="unfinished"></translation>
+        <translation>correction</translation>
     </message>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Nom</translation>
     </message>
     <message>
         <source>Cat</source>
-        <translation type="unfinished"></translation>
+        <translation>Cat.</translation>
     </message>
     <message>
         <source>Phase</source>
-        <translation type="unfinished"></translation>
+        <translation>Phase</translation>
     </message>
     <message>
         <source>Total</source>
-        <translation type="unfinished"></translation>
+        <translation>Total</translation>
     </message>
     <message>
         <source>%1/%2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1/%2</translation>
     </message>
     <message>
         <source>split taking</source>
-        <translation type="unfinished"></translation>
+        <translation>prise de temps intermédiaires</translation>
     </message>
     <message>
         <source>Athlete&apos;s name</source>
-        <translation type="unfinished"></translation>
+        <translation>Nom de l’athlète</translation>
     </message>
     <message>
         <source>Enter finds the athlete&apos;s next run, or collects a training file of all videos with that name</source>
-        <translation type="unfinished"></translation>
+        <translation>Entrée trouve la manche suivante de l’athlète, ou réunit un fichier d’entraînement de toutes les vidéos à ce nom</translation>
     </message>
     <message>
         <source>Race &amp;day, or the table of the race</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Jour de course, ou le tableau de la course</translation>
     </message>
     <message>
         <source>In which folder do the films appear?</source>
-        <translation type="unfinished"></translation>
+        <translation>Dans quel dossier les films arrivent-ils ?</translation>
     </message>
     <message>
         <source>A click on a time shows its frame</source>
-        <translation type="unfinished"></translation>
+        <translation>Un clic sur un temps montre son image</translation>
     </message>
     <message>
         <source>penalty at gate %1</source>
-        <translation type="unfinished"></translation>
+        <translation>pénalité à la porte %1</translation>
     </message>
 </context>
 <context>
@@ -20440,11 +20445,11 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>There are no results in it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il ne contient aucun résultat.</translation>
     </message>
     <message>
         <source>Line %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Ligne %1 : %2</translation>
     </message>
     <message>
         <source>There are no runs in it.</source>
@@ -20452,11 +20457,11 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>results taken over</source>
-        <translation type="unfinished"></translation>
+        <translation>résultats repris</translation>
     </message>
     <message>
         <source>Team</source>
-        <translation type="unfinished"></translation>
+        <translation>Équipe</translation>
     </message>
     <message>
         <source>new athlete</source>
@@ -20503,7 +20508,7 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>Athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>Athlète</translation>
     </message>
     <message>
         <source>Ticked tests are laid over the chosen one (Space)</source>
@@ -20511,7 +20516,7 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>Date</source>
-        <translation type="unfinished"></translation>
+        <translation>Date</translation>
     </message>
     <message>
         <source>Test</source>
@@ -20546,7 +20551,7 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>Test session</source>
-        <translation type="unfinished"></translation>
+        <translation>Séance de tests</translation>
     </message>
     <message>
         <source>Values</source>
@@ -20554,11 +20559,11 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>&amp;Export the table…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Exporter le tableau…</translation>
     </message>
     <message>
         <source>“%1” cannot be opened</source>
-        <translation type="unfinished"></translation>
+        <translation>« %1 » ne peut pas être ouvert</translation>
     </message>
     <message>
         <source>Attempt %1
@@ -20575,11 +20580,11 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>Export the table</source>
-        <translation type="unfinished"></translation>
+        <translation>Exporter le tableau</translation>
     </message>
     <message>
         <source>Semicolon-separated text (*.csv)</source>
-        <translation type="unfinished"></translation>
+        <translation>Texte séparé par des points-virgules (*.csv)</translation>
     </message>
 </context>
 <context>
@@ -20612,7 +20617,7 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>Split files (*.kvx);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichiers d’intermédiaires (*.kvx);;Tous les fichiers (*)</translation>
     </message>
     <message>
         <source>Take a test in from a recording</source>
@@ -20644,11 +20649,11 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>Tests</source>
-        <translation type="unfinished"></translation>
+        <translation>Tests</translation>
     </message>
     <message>
         <source>Charts</source>
-        <translation type="unfinished"></translation>
+        <translation>Graphiques</translation>
     </message>
     <message>
         <source>Values</source>
@@ -20656,7 +20661,7 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>Table</source>
-        <translation type="unfinished"></translation>
+        <translation>Tableau</translation>
     </message>
     <message>
         <source>One ticked test is of another kind and left out here.</source>
@@ -20744,11 +20749,11 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>&amp;File</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Fichier</translation>
     </message>
     <message>
         <source>&amp;Open…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ouvrir…</translation>
     </message>
     <message>
         <source>&amp;Save</source>
@@ -20760,15 +20765,15 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>Open</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir</translation>
     </message>
     <message>
         <source>All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Tous les fichiers (*)</translation>
     </message>
     <message>
         <source>&amp;Edit</source>
-        <translation type="unfinished"></translation>
+        <translation>É&amp;dition</translation>
     </message>
     <message>
         <source>&amp;Undo</source>
@@ -20780,7 +20785,7 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>Open it again</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir à nouveau</translation>
     </message>
     <message>
         <source>Keep what is here</source>
@@ -20808,7 +20813,7 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>Se&amp;ttings…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Réglages…</translation>
     </message>
     <message>
         <source>C&amp;lose</source>
@@ -20816,7 +20821,7 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>&amp;Quit</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Quitter</translation>
     </message>
     <message>
         <source>Save</source>
@@ -20859,27 +20864,27 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>Time</source>
-        <translation type="unfinished"></translation>
+        <translation>Temps</translation>
     </message>
     <message>
         <source>Penalties</source>
-        <translation type="unfinished"></translation>
+        <translation>Pénalités</translation>
     </message>
     <message>
         <source>Result</source>
-        <translation type="unfinished"></translation>
+        <translation>Résultat</translation>
     </message>
     <message>
         <source>Place</source>
-        <translation type="unfinished"></translation>
+        <translation>Place</translation>
     </message>
     <message>
         <source>%1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 sur %2</translation>
     </message>
     <message>
         <source>Run</source>
-        <translation type="unfinished"></translation>
+        <translation>Manche</translation>
     </message>
     <message>
         <source>Selected</source>
@@ -20970,7 +20975,7 @@ Place, gap and percent are there as in any other.</source>
     <name>kavela::desktop::TrackingWindow</name>
     <message>
         <source>Tracking</source>
-        <translation type="unfinished"></translation>
+        <translation>Suivi</translation>
     </message>
     <message>
         <source>Paths on films (*.track.json)</source>
@@ -21002,7 +21007,7 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>Speed</source>
-        <translation type="unfinished"></translation>
+        <translation>Vitesse</translation>
     </message>
     <message>
         <source>Figures</source>
@@ -21217,15 +21222,15 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>Runs</source>
-        <translation type="unfinished"></translation>
+        <translation>Manches</translation>
     </message>
     <message>
         <source>Touches a run</source>
-        <translation type="unfinished"></translation>
+        <translation>Touches par manche</translation>
     </message>
     <message>
         <source>90 %</source>
-        <translation type="unfinished"></translation>
+        <translation>90 %</translation>
     </message>
     <message>
         <source>Exact interval of the touches</source>
@@ -21264,19 +21269,19 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>Pos</source>
-        <translation type="unfinished"></translation>
+        <translation>Pos.</translation>
     </message>
     <message>
         <source>Athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>Athlète</translation>
     </message>
     <message>
         <source>Time</source>
-        <translation type="unfinished"></translation>
+        <translation>Temps</translation>
     </message>
     <message>
         <source>Film</source>
-        <translation type="unfinished"></translation>
+        <translation>Film</translation>
     </message>
     <message>
         <source>⚠ missing</source>
@@ -21323,11 +21328,11 @@ Place, gap and percent are there as in any other.</source>
     <name>kavela::desktop::TrialPage</name>
     <message>
         <source>Start</source>
-        <translation type="unfinished"></translation>
+        <translation>Départ</translation>
     </message>
     <message>
         <source>Gate %1 %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Porte %1 %2</translation>
     </message>
     <message>
         <source>Roll</source>
@@ -21335,15 +21340,15 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>Gate %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Porte %1</translation>
     </message>
     <message>
         <source>Split</source>
-        <translation type="unfinished"></translation>
+        <translation>Inter</translation>
     </message>
     <message>
         <source>Time</source>
-        <translation type="unfinished"></translation>
+        <translation>Temps</translation>
     </message>
     <message>
         <source>From the start</source>
@@ -21367,11 +21372,11 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>Splits</source>
-        <translation type="unfinished"></translation>
+        <translation>Inters</translation>
     </message>
     <message>
         <source>Upstream gates</source>
-        <translation type="unfinished"></translation>
+        <translation>Remontées</translation>
     </message>
     <message>
         <source>A click shows the frame of a split</source>
@@ -21446,18 +21451,18 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Annuler</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::UpstreamPage</name>
     <message>
         <source>Gate</source>
-        <translation type="unfinished"></translation>
+        <translation>Porte</translation>
     </message>
     <message>
         <source>In</source>
-        <translation type="unfinished"></translation>
+        <translation>Dans</translation>
     </message>
     <message>
         <source>Out</source>
@@ -21465,11 +21470,11 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>Total</source>
-        <translation type="unfinished"></translation>
+        <translation>Total</translation>
     </message>
     <message>
         <source>Turn</source>
-        <translation type="unfinished"></translation>
+        <translation>Virage</translation>
     </message>
     <message>
         <source>Mark the pole line too</source>
@@ -21481,11 +21486,11 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>Style</source>
-        <translation type="unfinished"></translation>
+        <translation>Style</translation>
     </message>
     <message>
         <source>Gate %1 is marked. N goes to the next gate, Shift+M moves the selected mark.</source>
-        <translation type="unfinished"></translation>
+        <translation>La porte %1 est marquée. N passe à la porte suivante, Maj+M déplace la marque choisie.</translation>
     </message>
     <message>
         <source>Gate %1 is no upstream gate. N goes to the next one.</source>
@@ -21493,15 +21498,15 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>%1 of gate %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 de la porte %2</translation>
     </message>
     <message>
         <source>Gate %1 %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Porte %1 %2</translation>
     </message>
     <message>
         <source>gate %1 removed</source>
-        <translation type="unfinished"></translation>
+        <translation>porte %1 retirée</translation>
     </message>
     <message>
         <source>The marks of gate %1 are removed. Ctrl+Z brings them back.</source>
@@ -21513,11 +21518,11 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>Gate %1: M marks the %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Porte %1 : M marque : %2</translation>
     </message>
     <message>
         <source>Gate %1 is marked</source>
-        <translation type="unfinished"></translation>
+        <translation>La porte %1 est marquée</translation>
     </message>
     <message>
         <source>%1 s in the gate</source>
@@ -21569,7 +21574,7 @@ Add one by hand with Ctrl+N, or drop split files and recordings here.</source>
     </message>
     <message>
         <source>Line</source>
-        <translation type="unfinished"></translation>
+        <translation>Ligne</translation>
     </message>
     <message>
         <source>Reason</source>
@@ -21616,7 +21621,7 @@ Add one by hand with Ctrl+N, or drop split files and recordings here.</source>
     </message>
     <message>
         <source>penalties</source>
-        <translation type="unfinished"></translation>
+        <translation>pénalités</translation>
     </message>
     <message>
         <source>timing</source>
@@ -21624,7 +21629,7 @@ Add one by hand with Ctrl+N, or drop split files and recordings here.</source>
     </message>
     <message>
         <source>Seconds</source>
-        <translation type="unfinished"></translation>
+        <translation>Secondes</translation>
     </message>
     <message>
         <source>Shown</source>
@@ -21636,7 +21641,7 @@ Add one by hand with Ctrl+N, or drop split files and recordings here.</source>
     </message>
     <message>
         <source>Part</source>
-        <translation type="unfinished"></translation>
+        <translation>Partie</translation>
     </message>
     <message>
         <source>From</source>
@@ -21651,23 +21656,23 @@ Add one by hand with Ctrl+N, or drop split files and recordings here.</source>
     <name>kavela::desktop::WeekForm</name>
     <message>
         <source>Macrocycle</source>
-        <translation type="unfinished"></translation>
+        <translation>Macrocycle</translation>
     </message>
     <message>
         <source>Mesocycle</source>
-        <translation type="unfinished"></translation>
+        <translation>Mésocycle</translation>
     </message>
     <message>
         <source>Place</source>
-        <translation type="unfinished"></translation>
+        <translation>Place</translation>
     </message>
     <message>
         <source>Event</source>
-        <translation type="unfinished"></translation>
+        <translation>Compétition</translation>
     </message>
     <message>
         <source>On-water test</source>
-        <translation type="unfinished"></translation>
+        <translation>Test sur l’eau</translation>
     </message>
     <message>
         <source>done on</source>
@@ -21675,11 +21680,11 @@ Add one by hand with Ctrl+N, or drop split files and recordings here.</source>
     </message>
     <message>
         <source>Endurance test</source>
-        <translation type="unfinished"></translation>
+        <translation>Test d’endurance</translation>
     </message>
     <message>
         <source>Blood test</source>
-        <translation type="unfinished"></translation>
+        <translation>Prise de sang</translation>
     </message>
     <message>
         <source>Injured part</source>
@@ -21731,7 +21736,7 @@ Add one by hand with Ctrl+N, or drop split files and recordings here.</source>
     </message>
     <message>
         <source>Week %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Semaine %1</translation>
     </message>
     <message>
         <source>%1 weeks are chosen: load, cycles and place go into all of them.</source>
@@ -21742,23 +21747,23 @@ Add one by hand with Ctrl+N, or drop split files and recordings here.</source>
     <name>kavela::desktop::WeekGrid</name>
     <message>
         <source>Morning</source>
-        <translation type="unfinished"></translation>
+        <translation>Matin</translation>
     </message>
     <message>
         <source>Afternoon</source>
-        <translation type="unfinished"></translation>
+        <translation>Après-midi</translation>
     </message>
     <message>
         <source>Evening</source>
-        <translation type="unfinished"></translation>
+        <translation>Soir</translation>
     </message>
     <message>
         <source>Any time</source>
-        <translation type="unfinished"></translation>
+        <translation>À toute heure</translation>
     </message>
     <message>
         <source>Week</source>
-        <translation type="unfinished"></translation>
+        <translation>Semaine</translation>
     </message>
     <message>
         <source>On no day of this week</source>
@@ -21766,7 +21771,7 @@ Add one by hand with Ctrl+N, or drop split files and recordings here.</source>
     </message>
     <message>
         <source>Session</source>
-        <translation type="unfinished"></translation>
+        <translation>Séance</translation>
     </message>
 </context>
 <context>
@@ -21784,14 +21789,14 @@ Add one by hand with Ctrl+N, or drop split files and recordings here.</source>
     <name>kavela::desktop::WhyLabel</name>
     <message>
         <source>Alt+click or Shift+F1: why</source>
-        <translation type="unfinished"></translation>
+        <translation>Alt+clic ou Maj+F1 : pourquoi</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::WhyPanel</name>
     <message>
         <source>counted</source>
-        <translation type="unfinished"></translation>
+        <translation>comptées</translation>
     </message>
     <message>
         <source>dropped: worst</source>
@@ -21807,15 +21812,15 @@ Add one by hand with Ctrl+N, or drop split files and recordings here.</source>
     </message>
     <message>
         <source>Result</source>
-        <translation type="unfinished"></translation>
+        <translation>Résultat</translation>
     </message>
     <message>
         <source>Percent</source>
-        <translation type="unfinished"></translation>
+        <translation>Pour cent</translation>
     </message>
     <message>
         <source>Score</source>
-        <translation type="unfinished"></translation>
+        <translation>Score</translation>
     </message>
     <message>
         <source>Select an athlete to see where the score comes from.</source>
@@ -21827,7 +21832,7 @@ Add one by hand with Ctrl+N, or drop split files and recordings here.</source>
     </message>
     <message>
         <source>Bonus</source>
-        <translation type="unfinished"></translation>
+        <translation>Bonus</translation>
     </message>
     <message>
         <source>Score: %1 / 3 = %2</source>
@@ -21917,7 +21922,7 @@ Add one by hand with Ctrl+N, or drop split files and recordings here.</source>
     <name>kavela::desktop::YearStrip</name>
     <message>
         <source>Year</source>
-        <translation type="unfinished"></translation>
+        <translation>Année</translation>
     </message>
     <message>
         <source>Month</source>
@@ -21925,11 +21930,11 @@ Add one by hand with Ctrl+N, or drop split files and recordings here.</source>
     </message>
     <message>
         <source>Macrocycle</source>
-        <translation type="unfinished"></translation>
+        <translation>Macrocycle</translation>
     </message>
     <message>
         <source>Mesocycle</source>
-        <translation type="unfinished"></translation>
+        <translation>Mésocycle</translation>
     </message>
     <message>
         <source>Load</source>
@@ -21937,15 +21942,15 @@ Add one by hand with Ctrl+N, or drop split files and recordings here.</source>
     </message>
     <message>
         <source>Week</source>
-        <translation type="unfinished"></translation>
+        <translation>Semaine</translation>
     </message>
     <message>
         <source>Event</source>
-        <translation type="unfinished"></translation>
+        <translation>Compétition</translation>
     </message>
     <message>
         <source>Tests</source>
-        <translation type="unfinished"></translation>
+        <translation>Tests</translation>
     </message>
 </context>
 </TS>
