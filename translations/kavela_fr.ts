@@ -1173,7 +1173,7 @@
     </message>
     <message>
         <source>Place</source>
-        <translation>Place</translation>
+        <translation>Lieu</translation>
     </message>
     <message>
         <source>On-water test</source>
@@ -1615,7 +1615,7 @@
     </message>
     <message>
         <source>The athlete&apos;s name; a crew as &quot;A / B&quot;</source>
-        <translation>Le nom de l’athlète ; un équipage sous la forme "A / B"</translation>
+        <translation>Le nom de l’athlète ; un équipage sous la forme &quot;A / B&quot;</translation>
     </message>
     <message>
         <source>Replace a training file that is there already</source>
@@ -1874,7 +1874,7 @@
     </message>
     <message>
         <source>The season of an athlete over all the paths; a crew as &quot;A / B&quot;</source>
-        <translation>La saison d’un athlète sur tous les chemins donnés ; un équipage sous la forme "A / B"</translation>
+        <translation>La saison d’un athlète sur tous les chemins donnés ; un équipage sous la forme &quot;A / B&quot;</translation>
     </message>
     <message>
         <source>Only the athlete&apos;s runs of this category</source>
@@ -2354,7 +2354,7 @@
     </message>
     <message>
         <source>A column to add: total:Time,Pen, rank:Total, gap, percent, percentile, difference:Run 2,Run 1; with &quot;by Category&quot; within each category, with &quot;down&quot; the highest first</source>
-        <translation>Une colonne à ajouter : total:Time,Pen, rank:Total, gap, percent, percentile, difference:Run 2,Run 1 ; avec "by Category" au sein de chaque catégorie, avec "down" le plus grand d’abord</translation>
+        <translation>Une colonne à ajouter : total:Time,Pen, rank:Total, gap, percent, percentile, difference:Run 2,Run 1 ; avec &quot;by Category&quot; au sein de chaque catégorie, avec &quot;down&quot; le plus grand d’abord</translation>
     </message>
     <message>
         <source>ROW,COL,VALUE,FN as in Nation,Category,Time,mean; FN is count, sum, mean, median, least or most</source>
@@ -2386,7 +2386,7 @@
     </message>
     <message>
         <source>Folder to write &quot;2025 Categorization.pdf&quot; into</source>
-        <translation>Dossier où écrire "2025 Categorization.pdf"</translation>
+        <translation>Dossier où écrire &quot;2025 Categorization.pdf&quot;</translation>
     </message>
     <message>
         <source>Brings files of older releases to the current version</source>
@@ -4922,7 +4922,7 @@
     </message>
     <message>
         <source>Whose page; a crew as &quot;A / B&quot;</source>
-        <translation>De qui est la page ; un équipage sous la forme "A / B"</translation>
+        <translation>De qui est la page ; un équipage sous la forme &quot;A / B&quot;</translation>
     </message>
     <message>
         <source>File to write, ending in .html</source>
@@ -6779,27 +6779,27 @@
     </message>
     <message>
         <source>unknown</source>
-        <translation type="unfinished"></translation>
+        <translation>inconnu</translation>
     </message>
     <message>
         <source>&amp;Name</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Nom</translation>
     </message>
     <message>
         <source>&amp;Club</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Club</translation>
     </message>
     <message>
         <source>&amp;Birth year</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Année de naissance</translation>
     </message>
     <message>
         <source>&amp;Age group</source>
-        <translation type="unfinished"></translation>
+        <translation>Classe &amp;d’âge</translation>
     </message>
     <message>
         <source>Preselected, group %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Présélectionné, groupe %1</translation>
     </message>
     <message>
         <source>none</source>
@@ -6807,14 +6807,14 @@
     </message>
     <message>
         <source>Bonus %1 (percent)</source>
-        <translation type="unfinished"></translation>
+        <translation>Bonus %1 (pour cent)</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::AthleteList</name>
     <message>
         <source>Search athletes</source>
-        <translation type="unfinished"></translation>
+        <translation>Chercher des athlètes</translation>
     </message>
     <message>
         <source>Season</source>
@@ -6822,22 +6822,22 @@
     </message>
     <message>
         <source>none yet</source>
-        <translation type="unfinished"></translation>
+        <translation>encore aucune</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::AthletePageDialog</name>
     <message>
         <source>Page of an athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>Page d’un athlète</translation>
     </message>
     <message>
         <source>All races that are open</source>
-        <translation type="unfinished"></translation>
+        <translation>Toutes les courses ouvertes</translation>
     </message>
     <message>
         <source>Only the race of the run that is shown</source>
-        <translation type="unfinished"></translation>
+        <translation>Seulement la course de la manche affichée</translation>
     </message>
     <message>
         <source>&amp;Athlete</source>
@@ -6845,53 +6845,53 @@
     </message>
     <message>
         <source>&amp;From</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;De</translation>
     </message>
     <message>
         <source>&amp;Preview and print…</source>
-        <translation type="unfinished"></translation>
+        <translation>Aperçu &amp;et impression…</translation>
     </message>
     <message>
         <source>&amp;Save as PDF…</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer en &amp;PDF…</translation>
     </message>
     <message>
         <source>One A4 page: where time is lost on the %1, what to train, penalties.</source>
-        <translation type="unfinished"></translation>
+        <translation>Une page A4 : où le temps est perdu sur la référence (%1), ce qu’il faut travailler, les pénalités.</translation>
     </message>
     <message>
         <source>Choose one of the athletes of the list.</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisissez un des athlètes de la liste.</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::AthletePages</name>
     <message>
         <source>Save the page of the athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer la page de l’athlète</translation>
     </message>
     <message>
         <source>PDF documents (*.pdf)</source>
-        <translation type="unfinished"></translation>
+        <translation>Documents PDF (*.pdf)</translation>
     </message>
     <message>
         <source>The page cannot be written over a race that it is made from.</source>
-        <translation type="unfinished"></translation>
+        <translation>La page ne peut pas être écrite par-dessus une course dont elle est tirée.</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::AthletePanel</name>
     <message>
         <source>Retired: left out of the categorization report</source>
-        <translation type="unfinished"></translation>
+        <translation>A arrêté : absent du rapport de catégorisation</translation>
     </message>
     <message>
         <source>Search athletes</source>
-        <translation type="unfinished"></translation>
+        <translation>Chercher des athlètes</translation>
     </message>
     <message>
         <source>Ctrl+F</source>
-        <translation type="unfinished"></translation>
+        <translation>Ctrl+F</translation>
     </message>
     <message>
         <source>All categories</source>
@@ -6903,66 +6903,66 @@
     </message>
     <message>
         <source>name</source>
-        <translation type="unfinished"></translation>
+        <translation>nom</translation>
     </message>
     <message>
         <source>Born</source>
-        <translation type="unfinished"></translation>
+        <translation>Naiss.</translation>
     </message>
     <message>
         <source>birth year</source>
-        <translation type="unfinished"></translation>
+        <translation>année de naissance</translation>
     </message>
     <message>
         <source>Boats</source>
-        <translation type="unfinished"></translation>
+        <translation>Bateaux</translation>
     </message>
     <message>
         <source>Ret.</source>
-        <translation type="unfinished"></translation>
+        <translation>Arr.</translation>
     </message>
     <message>
         <source>Retired</source>
-        <translation type="unfinished"></translation>
+        <translation>A arrêté</translation>
     </message>
     <message>
         <source>retirement</source>
-        <translation type="unfinished"></translation>
+        <translation>arrêt</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::AttackForm</name>
     <message>
         <source>Passed</source>
-        <translation type="unfinished"></translation>
+        <translation>Passé</translation>
     </message>
     <message>
         <source>No end</source>
-        <translation type="unfinished"></translation>
+        <translation>Sans fin</translation>
     </message>
     <message>
         <source>Takes the end of the attack out</source>
-        <translation type="unfinished"></translation>
+        <translation>Enlève la fin de l’attaque</translation>
     </message>
     <message>
         <source>The attacker went past</source>
-        <translation type="unfinished"></translation>
+        <translation>L’attaquant est passé</translation>
     </message>
     <message>
         <source>Attacker</source>
-        <translation type="unfinished"></translation>
+        <translation>Attaquant</translation>
     </message>
     <message>
         <source>on</source>
-        <translation type="unfinished"></translation>
+        <translation>sur</translation>
     </message>
     <message>
         <source>attacker</source>
-        <translation type="unfinished"></translation>
+        <translation>attaquant</translation>
     </message>
     <message>
         <source>outcome of an attack</source>
-        <translation type="unfinished"></translation>
+        <translation>issue d’une attaque</translation>
     </message>
     <message>
         <source>Comment</source>
@@ -6970,82 +6970,82 @@
     </message>
     <message>
         <source>Side</source>
-        <translation type="unfinished"></translation>
+        <translation>Côté</translation>
     </message>
     <message>
         <source>Place</source>
-        <translation>Place</translation>
+        <translation>Lieu</translation>
     </message>
     <message>
         <source>side of an attack</source>
-        <translation type="unfinished"></translation>
+        <translation>côté d’une attaque</translation>
     </message>
     <message>
         <source>place of an attack</source>
-        <translation type="unfinished"></translation>
+        <translation>lieu d’une attaque</translation>
     </message>
     <message>
         <source>comment on an attack</source>
-        <translation type="unfinished"></translation>
+        <translation>commentaire d’une attaque</translation>
     </message>
     <message>
         <source>Start here</source>
-        <translation type="unfinished"></translation>
+        <translation>Débute ici</translation>
     </message>
     <message>
         <source>The attack starts at this frame</source>
-        <translation type="unfinished"></translation>
+        <translation>L’attaque commence à cette image</translation>
     </message>
     <message>
         <source>End here</source>
-        <translation type="unfinished"></translation>
+        <translation>Finit ici</translation>
     </message>
     <message>
         <source>The attack ends at this frame</source>
-        <translation type="unfinished"></translation>
+        <translation>L’attaque finit à cette image</translation>
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>Retirer</translation>
     </message>
     <message>
         <source>Removes the attack</source>
-        <translation type="unfinished"></translation>
+        <translation>Retire l’attaque</translation>
     </message>
     <message>
         <source>?  %1</source>
-        <translation type="unfinished"></translation>
+        <translation>?  %1</translation>
     </message>
     <message>
         <source>unnamed</source>
-        <translation type="unfinished"></translation>
+        <translation>sans nom</translation>
     </message>
     <message>
         <source>Start %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Début %1</translation>
     </message>
     <message>
         <source>End %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Fin %1</translation>
     </message>
     <message>
         <source>defenders</source>
-        <translation type="unfinished"></translation>
+        <translation>défenseurs</translation>
     </message>
     <message>
         <source>%1 defends</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 défend</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::AveragesModel</name>
     <message>
         <source>Share of the runs with so many penalty seconds</source>
-        <translation type="unfinished"></translation>
+        <translation>Part des manches avec tant de secondes de pénalité</translation>
     </message>
     <message>
         <source>S%1</source>
-        <translation type="unfinished"></translation>
+        <translation>S%1</translation>
     </message>
     <message>
         <source>Season</source>
@@ -7057,50 +7057,50 @@
     </message>
     <message>
         <source>Behind</source>
-        <translation type="unfinished"></translation>
+        <translation>Retard</translation>
     </message>
     <message>
         <source>Clean</source>
-        <translation type="unfinished"></translation>
+        <translation>Sans pén.</translation>
     </message>
     <message>
         <source>2 s</source>
-        <translation type="unfinished"></translation>
+        <translation>2 s</translation>
     </message>
     <message>
         <source>4 s</source>
-        <translation type="unfinished"></translation>
+        <translation>4 s</translation>
     </message>
     <message>
         <source>6 to 48 s</source>
-        <translation type="unfinished"></translation>
+        <translation>6 à 48 s</translation>
     </message>
     <message>
         <source>50 s and more</source>
-        <translation type="unfinished"></translation>
+        <translation>50 s et plus</translation>
     </message>
     <message>
         <source>All seasons</source>
-        <translation type="unfinished"></translation>
+        <translation>Toutes les saisons</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::BalanceView</name>
     <message>
         <source>Side unknown: nothing tells which side of the phone points to the bow. Name its mount in the menu Edit, and left and right are found.</source>
-        <translation type="unfinished"></translation>
+        <translation>Côté inconnu : rien ne dit quel côté du téléphone pointe vers l’avant. Nommez sa fixation dans le menu Édition : gauche et droite seront trouvées.</translation>
     </message>
     <message>
         <source>even</source>
-        <translation type="unfinished"></translation>
+        <translation>égal</translation>
     </message>
     <message>
         <source>left +%1 %</source>
-        <translation type="unfinished"></translation>
+        <translation>gauche +%1 %</translation>
     </message>
     <message>
         <source>right +%1 %</source>
-        <translation type="unfinished"></translation>
+        <translation>droite +%1 %</translation>
     </message>
     <message>
         <source>Strokes</source>
@@ -7108,46 +7108,46 @@
     </message>
     <message>
         <source>Force (N)</source>
-        <translation type="unfinished"></translation>
+        <translation>Force (N)</translation>
     </message>
     <message>
         <source>Impulse (N·s)</source>
-        <translation type="unfinished"></translation>
+        <translation>Impulsion (N·s)</translation>
     </message>
     <message>
         <source>Power (W)</source>
-        <translation type="unfinished"></translation>
+        <translation>Puissance (W)</translation>
     </message>
     <message>
         <source>Water phase (s)</source>
-        <translation type="unfinished"></translation>
+        <translation>Phase aquatique (s)</translation>
     </message>
     <message>
         <source>Left</source>
-        <translation type="unfinished"></translation>
+        <translation>Gauche</translation>
     </message>
     <message>
         <source>Right</source>
-        <translation type="unfinished"></translation>
+        <translation>Droite</translation>
     </message>
     <message>
         <source>Differences under %1 % are no finding</source>
-        <translation type="unfinished"></translation>
+        <translation>Des différences de moins de %1 % ne prouvent rien</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::BodyPanel</name>
     <message>
         <source>Body</source>
-        <translation type="unfinished"></translation>
+        <translation>Corps</translation>
     </message>
     <message>
         <source>body data</source>
-        <translation type="unfinished"></translation>
+        <translation>données corporelles</translation>
     </message>
     <message>
         <source>Add weight</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajouter un poids</translation>
     </message>
     <message>
         <source>Weight</source>
@@ -7159,94 +7159,97 @@
     </message>
     <message>
         <source>Resting heart rate</source>
-        <translation type="unfinished"></translation>
+        <translation>Fréquence cardiaque de repos</translation>
     </message>
     <message>
         <source>heart rate</source>
-        <translation type="unfinished"></translation>
+        <translation>fréquence cardiaque</translation>
     </message>
     <message>
         <source>Add heart rate</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajouter une fréquence cardiaque</translation>
     </message>
     <message>
         <source>Heart-rate variability</source>
-        <translation type="unfinished"></translation>
+        <translation>Variabilité de la fréquence cardiaque</translation>
     </message>
     <message>
         <source>variability</source>
-        <translation type="unfinished"></translation>
+        <translation>variabilité</translation>
     </message>
     <message>
         <source>Add measurement</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajouter une mesure</translation>
     </message>
     <message>
         <source>Import list…</source>
-        <translation type="unfinished"></translation>
+        <translation>Importer une liste…</translation>
     </message>
     <message>
         <source>A list with a header: Date and one or more of AVNN, SDNN, rMSSD, pNN50, LF, HF. It can also be dropped here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Une liste avec des titres : Date et un ou plusieurs de AVNN, SDNN, rMSSD, pNN50, LF, HF. Elle peut aussi être déposée ici.</translation>
     </message>
     <message>
         <source>Index of the chart</source>
-        <translation type="unfinished"></translation>
+        <translation>Indice du graphique</translation>
     </message>
     <message>
         <source>&amp;Index</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Indice</translation>
     </message>
     <message>
         <source>Choose an athlete.</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisissez un athlète.</translation>
     </message>
     <message>
         <source>Add a season for this athlete first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajoutez d’abord une saison pour cet athlète.</translation>
     </message>
     <message>
         <source>No weight of this season yet.
 Press Insert to add today&apos;s.</source>
-        <translation type="unfinished"></translation>
+        <translation>Encore aucun poids cette saison.
+Appuyez sur Inser pour ajouter celui d’aujourd’hui.</translation>
     </message>
     <message>
         <source>No heart rate of this season yet.
 Press Insert to add this morning&apos;s.</source>
-        <translation type="unfinished"></translation>
+        <translation>Encore aucune fréquence cardiaque cette saison.
+Appuyez sur Inser pour ajouter celle de ce matin.</translation>
     </message>
     <message>
         <source>No measurement of this season yet.
 Press Insert to add one, or import a list.</source>
-        <translation type="unfinished"></translation>
+        <translation>Encore aucune mesure cette saison.
+Appuyez sur Inser pour en ajouter une, ou importez une liste.</translation>
     </message>
     <message>
         <source>bpm</source>
-        <translation type="unfinished"></translation>
+        <translation>bpm</translation>
     </message>
     <message>
         <source>Add a few mornings&apos; heart rates to see the mean of the week against what is usual.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajoutez les fréquences cardiaques de quelques matins pour voir la moyenne de la semaine face à l’habituel.</translation>
     </message>
     <message>
         <source>No %1 of this season. Add measurements, import a list or choose another index.</source>
-        <translation type="unfinished"></translation>
+        <translation>Pas de %1 cette saison. Ajoutez des mesures, importez une liste ou choisissez un autre indice.</translation>
     </message>
     <message>
         <source>Import variability</source>
-        <translation type="unfinished"></translation>
+        <translation>Importer la variabilité</translation>
     </message>
     <message>
         <source>Lists (*.csv *.txt *.tsv);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Listes (*.csv *.txt *.tsv);;Tous les fichiers (*)</translation>
     </message>
     <message>
         <source>import of variability</source>
-        <translation type="unfinished"></translation>
+        <translation>import de variabilité</translation>
     </message>
     <message>
         <source>The list cannot be read: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>La liste ne peut pas être lue : %1</translation>
     </message>
 </context>
 <context>
@@ -7261,35 +7264,35 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>Lag</source>
-        <translation type="unfinished"></translation>
+        <translation>Décalage</translation>
     </message>
     <message>
         <source>Off by</source>
-        <translation type="unfinished"></translation>
+        <translation>Erreur</translation>
     </message>
     <message>
         <source>Attach a film…</source>
-        <translation type="unfinished"></translation>
+        <translation>Joindre un film…</translation>
     </message>
     <message>
         <source>Beside the film</source>
-        <translation type="unfinished"></translation>
+        <translation>À côté du film</translation>
     </message>
     <message>
         <source>Detach</source>
-        <translation type="unfinished"></translation>
+        <translation>Détacher</translation>
     </message>
     <message>
         <source>Takes the film shown beside off this run</source>
-        <translation type="unfinished"></translation>
+        <translation>Retire de cette manche le film affiché à côté</translation>
     </message>
     <message>
         <source>Attach it to every run</source>
-        <translation type="unfinished"></translation>
+        <translation>Joindre à chaque manche</translation>
     </message>
     <message>
         <source>A fixed camera often films the whole race in one go</source>
-        <translation type="unfinished"></translation>
+        <translation>Une caméra fixe filme souvent toute la course d’une traite</translation>
     </message>
     <message>
         <source>None</source>
@@ -7297,55 +7300,55 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>Attach the film of a camera that stood at the course.</source>
-        <translation type="unfinished"></translation>
+        <translation>Joignez le film d’une caméra placée au bord du parcours.</translation>
     </message>
     <message>
         <source>Choose a camera to see its film beside this one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisissez une caméra pour voir son film à côté de celui-ci.</translation>
     </message>
     <message>
         <source>Find one moment on both films, the fixed camera&apos;s alone with Alt+PgUp and Alt+PgDown. M marks it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Trouvez un même moment sur les deux films, celui de la caméra fixe seul avec Alt+PgPréc et Alt+PgSuiv. M le marque.</translation>
     </message>
     <message>
         <source>In step: the fixed camera&apos;s film is %1 s ahead.</source>
-        <translation type="unfinished"></translation>
+        <translation>Synchronisé : le film de la caméra fixe est en avance de %1 s.</translation>
     </message>
     <message>
         <source>Placed by the dates in the two films, to a second or two.</source>
-        <translation type="unfinished"></translation>
+        <translation>Placé d’après les dates des deux films, à une ou deux secondes près.</translation>
     </message>
     <message>
         <source>Not in step yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Pas encore synchronisé.</translation>
     </message>
     <message>
         <source>Its film has no date: moments are kept without the time of its clock.</source>
-        <translation type="unfinished"></translation>
+        <translation>Son film n’a pas de date : les moments sont gardés sans l’heure de son horloge.</translation>
     </message>
     <message>
         <source>fixed camera detached</source>
-        <translation type="unfinished"></translation>
+        <translation>caméra fixe détachée</translation>
     </message>
     <message>
         <source>fixed camera for every run</source>
-        <translation type="unfinished"></translation>
+        <translation>caméra fixe pour chaque manche</translation>
     </message>
     <message>
         <source>The film of the fixed camera shows no frame.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le film de la caméra fixe n’affiche aucune image.</translation>
     </message>
     <message>
         <source>moment on both films</source>
-        <translation type="unfinished"></translation>
+        <translation>moment sur les deux films</translation>
     </message>
     <message>
         <source>Same moment</source>
-        <translation type="unfinished"></translation>
+        <translation>Même moment</translation>
     </message>
     <message>
         <source>moment removed</source>
-        <translation type="unfinished"></translation>
+        <translation>moment retiré</translation>
     </message>
 </context>
 <context>
@@ -7356,15 +7359,15 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source> · %1 of %2 selected runs</source>
-        <translation type="unfinished"></translation>
+        <translation> · %1 sur %2 manches sélectionnées</translation>
     </message>
     <message>
         <source>The filter matches nobody. Change it to see runs again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le filtre ne correspond à personne. Changez-le pour revoir des manches.</translation>
     </message>
     <message>
         <source>Open a race to see its charts.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrez une course pour voir ses graphiques.</translation>
     </message>
     <message numerus="yes">
         <source>%n runs</source>
@@ -7382,7 +7385,7 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>&amp;Reference</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Référence</translation>
     </message>
     <message>
         <source>Reference</source>
@@ -7390,7 +7393,7 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>What the runs are held against</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce à quoi les manches sont comparées</translation>
     </message>
     <message>
         <source>Fit</source>
@@ -7410,11 +7413,11 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>Best run</source>
-        <translation type="unfinished"></translation>
+        <translation>Meilleure manche</translation>
     </message>
     <message>
         <source>Median</source>
-        <translation type="unfinished"></translation>
+        <translation>Médiane</translation>
     </message>
     <message>
         <source>Ideal run</source>
@@ -7429,19 +7432,19 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>Race progression</source>
-        <translation type="unfinished"></translation>
+        <translation>Déroulement de la course</translation>
     </message>
     <message>
         <source>Averages</source>
-        <translation type="unfinished"></translation>
+        <translation>Moyennes</translation>
     </message>
     <message>
         <source>&amp;All seasons</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Toutes les saisons</translation>
     </message>
     <message>
         <source>The season chart shows every season, not the chosen one alone</source>
-        <translation type="unfinished"></translation>
+        <translation>Le graphique montre toutes les saisons, pas seulement celle choisie</translation>
     </message>
     <message>
         <source>Save chart…</source>
@@ -7449,11 +7452,11 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>As a picture (PNG, SVG) or as CSV (Ctrl+E)</source>
-        <translation type="unfinished"></translation>
+        <translation>En image (PNG, SVG) ou en CSV (Ctrl+E)</translation>
     </message>
     <message>
         <source>The results of an athlete stand here as charts.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les résultats d’un athlète apparaissent ici en graphiques.</translation>
     </message>
     <message>
         <source>%1, %2</source>
@@ -7461,42 +7464,42 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>all seasons</source>
-        <translation type="unfinished"></translation>
+        <translation>toutes les saisons</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::ChartView</name>
     <message>
         <source>No test yet</source>
-        <translation type="unfinished"></translation>
+        <translation>Pas encore de test</translation>
     </message>
     <message>
         <source>%1 × %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 × %2</translation>
     </message>
     <message>
         <source>Test</source>
-        <translation type="unfinished"></translation>
+        <translation>Test</translation>
     </message>
     <message>
         <source>Split %1 (s)</source>
-        <translation type="unfinished"></translation>
+        <translation>Inter %1 (s)</translation>
     </message>
     <message>
         <source>Total (s)</source>
-        <translation type="unfinished"></translation>
+        <translation>Total (s)</translation>
     </message>
     <message>
         <source>Standard deviation (s)</source>
-        <translation type="unfinished"></translation>
+        <translation>Écart-type (s)</translation>
     </message>
     <message>
         <source>Laps</source>
-        <translation type="unfinished"></translation>
+        <translation>Tours</translation>
     </message>
     <message>
         <source>Turns</source>
-        <translation type="unfinished"></translation>
+        <translation>Virages</translation>
     </message>
     <message>
         <source>Strokes</source>
@@ -7504,118 +7507,119 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>Stretches</source>
-        <translation type="unfinished"></translation>
+        <translation>Tronçons</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::ClipPair</name>
     <message>
         <source>This run has no film.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cette manche n’a pas de film.</translation>
     </message>
     <message>
         <source>The film is not there:
 %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Le film n’est pas là :
+%1</translation>
     </message>
     <message>
         <source>Play or pause the clips</source>
-        <translation type="unfinished"></translation>
+        <translation>Lire les extraits ou mettre en pause</translation>
     </message>
     <message>
         <source>Play</source>
-        <translation type="unfinished"></translation>
+        <translation>Lire</translation>
     </message>
     <message>
         <source>Play the clips from their beginnings</source>
-        <translation type="unfinished"></translation>
+        <translation>Lire les extraits depuis leur début</translation>
     </message>
     <message>
         <source>From the start</source>
-        <translation type="unfinished"></translation>
+        <translation>Depuis le départ</translation>
     </message>
     <message>
         <source>One frame back in the clips</source>
-        <translation type="unfinished"></translation>
+        <translation>Une image en arrière dans les extraits</translation>
     </message>
     <message>
         <source>Frame back</source>
-        <translation type="unfinished"></translation>
+        <translation>Image préc.</translation>
     </message>
     <message>
         <source>One frame forward in the clips</source>
-        <translation type="unfinished"></translation>
+        <translation>Une image en avant dans les extraits</translation>
     </message>
     <message>
         <source>Frame on</source>
-        <translation type="unfinished"></translation>
+        <translation>Image suiv.</translation>
     </message>
     <message>
         <source>Clips in slow motion</source>
-        <translation type="unfinished"></translation>
+        <translation>Extraits au ralenti</translation>
     </message>
     <message>
         <source>Slow motion</source>
-        <translation type="unfinished"></translation>
+        <translation>Ralenti</translation>
     </message>
     <message>
         <source>Clips slower</source>
-        <translation type="unfinished"></translation>
+        <translation>Extraits plus lents</translation>
     </message>
     <message>
         <source>Slower</source>
-        <translation type="unfinished"></translation>
+        <translation>Plus lent</translation>
     </message>
     <message>
         <source>Clips faster</source>
-        <translation type="unfinished"></translation>
+        <translation>Extraits plus rapides</translation>
     </message>
     <message>
         <source>Faster</source>
-        <translation type="unfinished"></translation>
+        <translation>Plus vite</translation>
     </message>
     <message>
         <source>Clips at normal speed</source>
-        <translation type="unfinished"></translation>
+        <translation>Extraits à vitesse normale</translation>
     </message>
     <message>
         <source>Normal speed</source>
-        <translation type="unfinished"></translation>
+        <translation>Vitesse normale</translation>
     </message>
     <message>
         <source>Repeat the clips</source>
-        <translation type="unfinished"></translation>
+        <translation>Répéter les extraits</translation>
     </message>
     <message>
         <source>Repeat</source>
-        <translation type="unfinished"></translation>
+        <translation>Répéter</translation>
     </message>
     <message>
         <source>%1 · %2 s, at its end</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 · %2 s, à sa fin</translation>
     </message>
     <message>
         <source>%1 · %2 of %3 s</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 · %2 sur %3 s</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::ColumnTable</name>
     <message>
         <source>&amp;Copy</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Copier</translation>
     </message>
     <message>
         <source>&amp;Copy what is selected</source>
-        <translation type="unfinished"></translation>
+        <translation>Copier &amp;la sélection</translation>
     </message>
     <message>
         <source>&amp;Save as CSV…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Enregistrer en CSV…</translation>
     </message>
     <message>
         <source>C&amp;olumns</source>
-        <translation>&amp;Colonnes</translation>
+        <translation>C&amp;olonnes</translation>
     </message>
     <message>
         <source>Save the table</source>
@@ -7630,34 +7634,34 @@ Press Insert to add one, or import a list.</source>
     <name>kavela::desktop::CommandPalette</name>
     <message>
         <source>Search</source>
-        <translation type="unfinished"></translation>
+        <translation>Chercher</translation>
     </message>
     <message>
         <source>An action, a file, an athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>Une action, un fichier, un athlète</translation>
     </message>
     <message>
         <source>Nothing here is called “%1”.</source>
-        <translation type="unfinished"></translation>
+        <translation>Rien ici ne s’appelle « %1 ».</translation>
     </message>
     <message>
         <source>Searched: actions, recent files and the names in this window.</source>
-        <translation type="unfinished"></translation>
+        <translation>Recherché : actions, fichiers récents et noms dans cette fenêtre.</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::CommentPage</name>
     <message>
         <source>score</source>
-        <translation type="unfinished"></translation>
+        <translation>score</translation>
     </message>
     <message>
         <source>Show the coach&apos;s comments</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher les commentaires de l’entraîneur</translation>
     </message>
     <message>
         <source>comment on split %1</source>
-        <translation type="unfinished"></translation>
+        <translation>commentaire de l’intermédiaire %1</translation>
     </message>
     <message>
         <source>Split</source>
@@ -7669,48 +7673,48 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>athlète</translation>
     </message>
     <message>
         <source>coach</source>
-        <translation type="unfinished"></translation>
+        <translation>entraîneur</translation>
     </message>
     <message>
         <source>Scores</source>
-        <translation type="unfinished"></translation>
+        <translation>Scores</translation>
     </message>
     <message>
         <source>Give-ups</source>
-        <translation type="unfinished"></translation>
+        <translation>Abandons</translation>
     </message>
     <message>
         <source>team radio</source>
-        <translation type="unfinished"></translation>
+        <translation>radio d’équipe</translation>
     </message>
     <message>
         <source>team radio removed</source>
-        <translation type="unfinished"></translation>
+        <translation>radio d’équipe retirée</translation>
     </message>
     <message>
         <source>team radio moved</source>
-        <translation type="unfinished"></translation>
+        <translation>radio d’équipe déplacée</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::CompareDocument</name>
     <message>
         <source>It is no comparison of films, or a damaged one: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce n’est pas une comparaison de films, ou elle est abîmée : %1</translation>
     </message>
     <message>
         <source>1 film</source>
-        <translation type="unfinished"></translation>
+        <translation>1 film</translation>
     </message>
     <message numerus="yes">
         <source>%n films</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n film</numerusform>
+            <numerusform>%n films</numerusform>
         </translation>
     </message>
 </context>
@@ -7718,11 +7722,11 @@ Press Insert to add one, or import a list.</source>
     <name>kavela::desktop::CompareFilmsPanel</name>
     <message>
         <source>In it</source>
-        <translation type="unfinished"></translation>
+        <translation>Dedans</translation>
     </message>
     <message>
         <source>Its place in the composed film. Space chooses it or takes it out.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sa place dans le film composé. Espace le choisit ou le retire.</translation>
     </message>
     <message>
         <source>Film</source>
@@ -7730,7 +7734,7 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>It is not marked from the start to a split.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il n’est pas marqué du départ à un intermédiaire.</translation>
     </message>
     <message>
         <source>Name</source>
@@ -7750,134 +7754,134 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>Name in the film</source>
-        <translation type="unfinished"></translation>
+        <translation>Nom dans le film</translation>
     </message>
     <message>
         <source>name in the film</source>
-        <translation type="unfinished"></translation>
+        <translation>nom dans le film</translation>
     </message>
     <message>
         <source>In place of that of the split file.</source>
-        <translation type="unfinished"></translation>
+        <translation>À la place de celui du fichier d’intermédiaires.</translation>
     </message>
     <message>
         <source>category in the film</source>
-        <translation type="unfinished"></translation>
+        <translation>catégorie dans le film</translation>
     </message>
     <message>
         <source>Starts at [s]</source>
-        <translation type="unfinished"></translation>
+        <translation>Départ à [s]</translation>
     </message>
     <message>
         <source>The second of the film at which a run without marks starts.</source>
-        <translation type="unfinished"></translation>
+        <translation>La seconde du film où démarre une manche sans marques.</translation>
     </message>
     <message>
         <source>marked</source>
-        <translation type="unfinished"></translation>
+        <translation>marqué</translation>
     </message>
     <message>
         <source>The start is a second of the film, 0 to 86400</source>
-        <translation type="unfinished"></translation>
+        <translation>Le départ est une seconde du film, de 0 à 86400</translation>
     </message>
     <message>
         <source>start of a film</source>
-        <translation type="unfinished"></translation>
+        <translation>départ d’un film</translation>
     </message>
     <message>
         <source>No.</source>
-        <translation type="unfinished"></translation>
+        <translation>N°</translation>
     </message>
     <message>
         <source>Find a name, a category, a film…</source>
-        <translation type="unfinished"></translation>
+        <translation>Chercher un nom, une catégorie, un film…</translation>
     </message>
     <message>
         <source>Add split files or films, then tick the two to four that are compared.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajoutez des fichiers d’intermédiaires ou des films, puis cochez les deux à quatre à comparer.</translation>
     </message>
     <message>
         <source>Add s&amp;plit files…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ajouter des fichiers d’intermédiaires…</translation>
     </message>
     <message>
         <source>Add &amp;films…</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajouter &amp;des films…</translation>
     </message>
     <message>
         <source>In the composed film</source>
-        <translation type="unfinished"></translation>
+        <translation>Dans le film composé</translation>
     </message>
     <message>
         <source>No film is chosen yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun film n’est encore choisi.</translation>
     </message>
     <message>
         <source>&amp;Take it out</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Le retirer</translation>
     </message>
     <message>
         <source>Move it &amp;up</source>
-        <translation type="unfinished"></translation>
+        <translation>Le &amp;monter</translation>
     </message>
     <message>
         <source>Move it &amp;down</source>
-        <translation type="unfinished"></translation>
+        <translation>L&amp;e descendre</translation>
     </message>
     <message>
         <source>Four films are the most. Take one out first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Quatre films au plus. Retirez-en d’abord un.</translation>
     </message>
     <message>
         <source>choice of a film</source>
-        <translation type="unfinished"></translation>
+        <translation>choix d’un film</translation>
     </message>
     <message>
         <source>removal of a film</source>
-        <translation type="unfinished"></translation>
+        <translation>retrait d’un film</translation>
     </message>
     <message>
         <source>order of the films</source>
-        <translation type="unfinished"></translation>
+        <translation>ordre des films</translation>
     </message>
     <message>
         <source>path of a film</source>
-        <translation type="unfinished"></translation>
+        <translation>trajectoire d’un film</translation>
     </message>
     <message>
         <source>Path</source>
-        <translation type="unfinished"></translation>
+        <translation>Trajectoire</translation>
     </message>
     <message>
         <source>Draws the path that was followed on it in the window Tracking.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dessine la trajectoire qui y a été suivie dans la fenêtre Suivi.</translation>
     </message>
     <message>
         <source>Follow</source>
-        <translation type="unfinished"></translation>
+        <translation>Suivre</translation>
     </message>
     <message>
         <source>Shows it twice as large, round that path.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le montre deux fois plus grand, autour de cette trajectoire.</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::CompareForm</name>
     <message>
         <source>&amp;Layout</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Disposition</translation>
     </message>
     <message>
         <source>Line at</source>
-        <translation type="unfinished"></translation>
+        <translation>Ligne à</translation>
     </message>
     <message>
         <source>0 left, 1 right</source>
-        <translation type="unfinished"></translation>
+        <translation>0 à gauche, 1 à droite</translation>
     </message>
     <message>
         <source>&amp;Together</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ensemble</translation>
     </message>
     <message>
         <source>Split</source>
@@ -7885,47 +7889,47 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>Sho&amp;wn</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Affiché</translation>
     </message>
     <message>
         <source>From split</source>
-        <translation type="unfinished"></translation>
+        <translation>De l’intermédiaire</translation>
     </message>
     <message>
         <source>To split</source>
-        <translation type="unfinished"></translation>
+        <translation>À l’intermédiaire</translation>
     </message>
     <message>
         <source>From</source>
-        <translation type="unfinished"></translation>
+        <translation>De</translation>
     </message>
     <message>
         <source>To</source>
-        <translation type="unfinished"></translation>
+        <translation>À</translation>
     </message>
     <message>
         <source>Spee&amp;d</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Vitesse</translation>
     </message>
     <message>
         <source>Slow motion has no sound.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le ralenti n’a pas de son.</translation>
     </message>
     <message>
         <source>To be read in it</source>
-        <translation type="unfinished"></translation>
+        <translation>À y lire</translation>
     </message>
     <message>
         <source>&amp;Names</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Noms</translation>
     </message>
     <message>
         <source>&amp;Clock</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Chrono</translation>
     </message>
     <message>
         <source>Split times and gaps</source>
-        <translation type="unfinished"></translation>
+        <translation>Temps intermédiaires et écarts</translation>
     </message>
     <message>
         <source>Section</source>
@@ -7937,43 +7941,43 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>Chart of the gap</source>
-        <translation type="unfinished"></translation>
+        <translation>Graphique de l’écart</translation>
     </message>
     <message>
         <source>The file</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier</translation>
     </message>
     <message>
         <source>Si&amp;ze</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Taille</translation>
     </message>
     <message>
         <source>1080 × 1920, upright</source>
-        <translation type="unfinished"></translation>
+        <translation>1080 × 1920, vertical</translation>
     </message>
     <message>
         <source>720 × 1280, upright</source>
-        <translation type="unfinished"></translation>
+        <translation>720 × 1280, vertical</translation>
     </message>
     <message>
         <source>1080 × 1080, square</source>
-        <translation type="unfinished"></translation>
+        <translation>1080 × 1080, carré</translation>
     </message>
     <message>
         <source>For sending</source>
-        <translation type="unfinished"></translation>
+        <translation>Pour l’envoi</translation>
     </message>
     <message>
         <source>At most 1280 × 720 and coarser: a small file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Au plus 1280 × 720 et moins fin : un petit fichier.</translation>
     </message>
     <message>
         <source>S&amp;ound of film</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Son du film</translation>
     </message>
     <message>
         <source>None in slow motion, nor while that film waits or is stretched.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun au ralenti, ni tant que ce film attend ou est étiré.</translation>
     </message>
     <message>
         <source>none</source>
@@ -7984,7 +7988,7 @@ Press Insert to add one, or import a list.</source>
     <name>kavela::desktop::CompareView</name>
     <message>
         <source>Preview of the composed film</source>
-        <translation type="unfinished"></translation>
+        <translation>Aperçu du film composé</translation>
     </message>
 </context>
 <context>
@@ -7995,87 +7999,87 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>Compose the &amp;film…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Composer le film…</translation>
     </message>
     <message>
         <source>Add s&amp;plit files…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ajouter des fichiers d’intermédiaires…</translation>
     </message>
     <message>
         <source>Add &amp;films…</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajouter &amp;des films…</translation>
     </message>
     <message>
         <source>&amp;Compose the film…</source>
-        <translation type="unfinished"></translation>
+        <translation>Composer &amp;le film…</translation>
     </message>
     <message>
         <source>Films being composed: &amp;jobs</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Films en composition : tâches</translation>
     </message>
     <message>
         <source>&amp;Find a run or a film</source>
-        <translation type="unfinished"></translation>
+        <translation>Chercher &amp;une manche ou un film</translation>
     </message>
     <message>
         <source>&amp;Play</source>
-        <translation type="unfinished"></translation>
+        <translation>L&amp;ecture</translation>
     </message>
     <message>
         <source>&amp;Play or pause</source>
-        <translation type="unfinished"></translation>
+        <translation>Lire &amp;ou mettre en pause</translation>
     </message>
     <message>
         <source>From the &amp;beginning</source>
-        <translation type="unfinished"></translation>
+        <translation>De&amp;puis le début</translation>
     </message>
     <message>
         <source>One frame ba&amp;ck</source>
-        <translation type="unfinished"></translation>
+        <translation>Une &amp;image en arrière</translation>
     </message>
     <message>
         <source>One frame &amp;on</source>
-        <translation type="unfinished"></translation>
+        <translation>U&amp;ne image en avant</translation>
     </message>
     <message>
         <source>P&amp;art</source>
-        <translation type="unfinished"></translation>
+        <translation>Pa&amp;rtie</translation>
     </message>
     <message>
         <source>&amp;Begin here</source>
-        <translation type="unfinished"></translation>
+        <translation>Co&amp;mmencer ici</translation>
     </message>
     <message>
         <source>&amp;End here</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Finir ici</translation>
     </message>
     <message>
         <source>The &amp;whole run</source>
-        <translation type="unfinished"></translation>
+        <translation>La manc&amp;he entière</translation>
     </message>
     <message>
         <source>part that is shown</source>
-        <translation type="unfinished"></translation>
+        <translation>partie affichée</translation>
     </message>
     <message>
         <source>&amp;Align the second film by two points</source>
-        <translation type="unfinished"></translation>
+        <translation>Ali&amp;gner le deuxième film par deux points</translation>
     </message>
     <message>
         <source>&amp;Forget the points</source>
-        <translation type="unfinished"></translation>
+        <translation>Ou&amp;blier les points</translation>
     </message>
     <message>
         <source>The film could not be composed: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Le film n’a pas pu être composé : %1</translation>
     </message>
     <message>
         <source>%1 is there. %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 est là. %2</translation>
     </message>
     <message>
         <source>Add the runs of split files</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajouter les manches de fichiers d’intermédiaires</translation>
     </message>
     <message>
         <source>Split files (*.kvx);;All files (*)</source>
@@ -8083,19 +8087,19 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>Add films</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajouter des films</translation>
     </message>
     <message>
         <source>Films (*.mp4 *.mov *.m4v *.avi *.mkv *.mts *.m2ts);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Films (*.mp4 *.mov *.m4v *.avi *.mkv *.mts *.m2ts);;Tous les fichiers (*)</translation>
     </message>
     <message>
         <source>Tick two to four films to compare them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cochez deux à quatre films pour les comparer.</translation>
     </message>
     <message>
         <source>Tick one more film to compare it with.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cochez un film de plus auquel le comparer.</translation>
     </message>
     <message>
         <source>Start</source>
@@ -8103,70 +8107,70 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>Four films are the most: these are the first four</source>
-        <translation type="unfinished"></translation>
+        <translation>Quatre films au plus : voici les quatre premiers</translation>
     </message>
     <message>
         <source>Pause</source>
-        <translation type="unfinished"></translation>
+        <translation>Pause</translation>
     </message>
     <message>
         <source>Play</source>
-        <translation type="unfinished"></translation>
+        <translation>Lire</translation>
     </message>
     <message>
         <source>%1 of %2 s</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 sur %2 s</translation>
     </message>
     <message>
         <source>Two films are aligned: choose two.</source>
-        <translation type="unfinished"></translation>
+        <translation>On aligne deux films : choisissez-en deux.</translation>
     </message>
     <message>
         <source>Click the same two things in both films, such as the poles of a gate. A gives it up.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cliquez les deux mêmes choses dans les deux films, par exemple les fiches d’une porte. A abandonne.</translation>
     </message>
     <message>
         <source>points that were forgotten</source>
-        <translation type="unfinished"></translation>
+        <translation>points oubliés</translation>
     </message>
     <message>
         <source>alignment by two points</source>
-        <translation type="unfinished"></translation>
+        <translation>alignement par deux points</translation>
     </message>
     <message>
         <source>Compose the film</source>
-        <translation type="unfinished"></translation>
+        <translation>Composer le film</translation>
     </message>
     <message>
         <source>Films (*.mp4)</source>
-        <translation type="unfinished"></translation>
+        <translation>Films (*.mp4)</translation>
     </message>
     <message>
         <source>file of the film</source>
-        <translation type="unfinished"></translation>
+        <translation>fichier du film</translation>
     </message>
     <message>
         <source>Composing: %1, %2 more</source>
-        <translation type="unfinished"></translation>
+        <translation>Composition : %1, %2 de plus</translation>
     </message>
     <message>
         <source>Composing: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Composition : %1</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::ComparisonPanel</name>
     <message>
         <source>%1 of %2 (%3–%4 %)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 sur %2 (%3–%4 %)</translation>
     </message>
     <message>
         <source>Behind the winners in the &amp;phase</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Derrière les vainqueurs dans la phase</translation>
     </message>
     <message>
         <source>Nobody of the team races in this category.</source>
-        <translation type="unfinished"></translation>
+        <translation>Personne de l’équipe ne court dans cette catégorie.</translation>
     </message>
     <message>
         <source>Athlete</source>
@@ -8178,15 +8182,15 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>Behind, %</source>
-        <translation type="unfinished"></translation>
+        <translation>Retard, %</translation>
     </message>
     <message>
         <source>Median behind the winners of the phase, without missed gates</source>
-        <translation type="unfinished"></translation>
+        <translation>Médiane du retard sur les vainqueurs de la phase, sans portes manquées</translation>
     </message>
     <message>
         <source>of runs</source>
-        <translation type="unfinished"></translation>
+        <translation>manches</translation>
     </message>
     <message>
         <source>Within, %</source>
@@ -8194,7 +8198,7 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>How much the runs vary by chance</source>
-        <translation type="unfinished"></translation>
+        <translation>De combien les manches varient par hasard</translation>
     </message>
     <message>
         <source>A year, %</source>
@@ -8202,11 +8206,11 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>Trend behind the winners, over all phases</source>
-        <translation type="unfinished"></translation>
+        <translation>Tendance derrière les vainqueurs, toutes phases</translation>
     </message>
     <message>
         <source>Trend</source>
-        <translation type="unfinished"></translation>
+        <translation>Tendance</translation>
     </message>
     <message>
         <source>too few</source>
@@ -8222,7 +8226,7 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>The athletes year by year: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Les athlètes année par année : %1</translation>
     </message>
     <message>
         <source>Year</source>
@@ -8230,18 +8234,18 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>Median behind the winner, %</source>
-        <translation type="unfinished"></translation>
+        <translation>Médiane du retard sur le vainqueur, %</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::CostPanel</name>
     <message>
         <source>%1 A medal.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Une médaille.</translation>
     </message>
     <message>
         <source>Crew</source>
-        <translation type="unfinished"></translation>
+        <translation>Équipage</translation>
     </message>
     <message>
         <source>Category</source>
@@ -8269,7 +8273,7 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>2 for a touch, 50 for a missed gate</source>
-        <translation type="unfinished"></translation>
+        <translation>2 pour une touche, 50 pour une porte manquée</translation>
     </message>
     <message>
         <source>Rank</source>
@@ -8277,58 +8281,58 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>As it was</source>
-        <translation type="unfinished"></translation>
+        <translation>En réalité</translation>
     </message>
     <message>
         <source>of</source>
-        <translation type="unfinished"></translation>
+        <translation>sur</translation>
     </message>
     <message>
         <source>Places</source>
-        <translation type="unfinished"></translation>
+        <translation>Places</translation>
     </message>
     <message>
         <source>That it cost</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce que cela a coûté</translation>
     </message>
     <message>
         <source>Without it</source>
-        <translation type="unfinished"></translation>
+        <translation>Sans elle</translation>
     </message>
     <message>
         <source>A missed gate also saved paddling, which is not taken back here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Une porte manquée a aussi épargné de la navigation, ce qui n’est pas corrigé ici.</translation>
     </message>
     <message>
         <source>Show &amp;all</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Tout afficher</translation>
     </message>
     <message>
         <source>No penalty of a whole run is known by gate.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucune pénalité d’une manche complète n’est connue par porte.</translation>
     </message>
     <message>
         <source>Open the run at this section</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir la manche à ce secteur</translation>
     </message>
     <message>
         <source>In split taking, where the section of the gate begins</source>
-        <translation type="unfinished"></translation>
+        <translation>Dans la prise de temps intermédiaires, là où commence le secteur de la porte</translation>
     </message>
     <message>
         <source>Only gate %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Seulement la porte %1</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::CourseCanvas</name>
     <message>
         <source>Drawing of the course</source>
-        <translation type="unfinished"></translation>
+        <translation>Dessin du parcours</translation>
     </message>
     <message>
         <source>Hold the button down and draw along the water.</source>
-        <translation type="unfinished"></translation>
+        <translation>Maintenez le bouton et dessinez le long de l’eau.</translation>
     </message>
     <message>
         <source>course</source>
@@ -8336,22 +8340,22 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>All %1 gates of the race are drawn. Race and course says how many there are.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les %1 portes de la course sont toutes dessinées. Leur nombre se règle dans Course et parcours.</translation>
     </message>
     <message>
         <source>All %1 splits of the race are drawn. Race and course says how many there are.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les %1 intermédiaires de la course sont tous dessinés. Leur nombre se règle dans Course et parcours.</translation>
     </message>
     <message>
         <source>%1 removed</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 retiré</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::CourseDialog</name>
     <message>
         <source>Title</source>
-        <translation type="unfinished"></translation>
+        <translation>Titre</translation>
     </message>
     <message>
         <source>Gates</source>
@@ -8359,7 +8363,7 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>Race and course</source>
-        <translation type="unfinished"></translation>
+        <translation>Course et parcours</translation>
     </message>
     <message>
         <source>Event</source>
@@ -8367,7 +8371,7 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>Place</source>
-        <translation>Place</translation>
+        <translation>Lieu</translation>
     </message>
     <message>
         <source>Date</source>
@@ -8387,7 +8391,7 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>Technique</source>
-        <translation type="unfinished"></translation>
+        <translation>Technique</translation>
     </message>
     <message>
         <source>Comments</source>
@@ -8395,11 +8399,11 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>Such as 4 8 12</source>
-        <translation type="unfinished"></translation>
+        <translation>Par exemple 4 8 12</translation>
     </message>
     <message>
         <source>Share the gates &amp;evenly</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Répartir les portes également</translation>
     </message>
     <message>
         <source>&amp;Gates</source>
@@ -8407,26 +8411,26 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>&amp;Upstream gates</source>
-        <translation type="unfinished"></translation>
+        <translation>Portes &amp;en remontée</translation>
     </message>
     <message>
         <source>&amp;Splits</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Intermédiaires</translation>
     </message>
     <message>
         <source>Section %1: </source>
-        <translation type="unfinished"></translation>
+        <translation>Secteur %1 : </translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::CourseEditor</name>
     <message>
         <source>Photo or plan of the course</source>
-        <translation type="unfinished"></translation>
+        <translation>Photo ou plan du parcours</translation>
     </message>
     <message>
         <source>Pictures (*.png *.jpg *.jpeg);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Images (*.png *.jpg *.jpeg);;Tous les fichiers (*)</translation>
     </message>
     <message>
         <source>Text</source>
@@ -8434,23 +8438,23 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>Words there</source>
-        <translation type="unfinished"></translation>
+        <translation>Mots à cet endroit</translation>
     </message>
     <message>
         <source>Draw the course</source>
-        <translation type="unfinished"></translation>
+        <translation>Dessiner le parcours</translation>
     </message>
     <message>
         <source>The picture of the race cannot be drawn upon: %1 It stays as long as nothing is drawn.</source>
-        <translation type="unfinished"></translation>
+        <translation>On ne peut pas dessiner sur l’image de la course : %1 Elle reste tant que rien n’est dessiné.</translation>
     </message>
     <message>
         <source>Tab next part · arrows move it, Shift+arrows far · Alt+←/→ turn · PgDn its points · Delete · Insert puts one in the middle · Ctrl+Z undo, Ctrl+Shift+Z redo</source>
-        <translation type="unfinished"></translation>
+        <translation>Tab partie suivante · les flèches la déplacent, Maj+flèches loin · Alt+←/→ tourner · PgSuiv ses points · Suppr · Inser en met un au milieu · Ctrl+Z annuler, Ctrl+Maj+Z rétablir</translation>
     </message>
     <message>
         <source>&amp;Hold and move</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Saisir et déplacer</translation>
     </message>
     <message>
         <source>&amp;Gate</source>
@@ -8458,35 +8462,35 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>&amp;Split line</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ligne intermédiaire</translation>
     </message>
     <message>
         <source>&amp;Bank</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Rive</translation>
     </message>
     <message>
         <source>&amp;Line of a run</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Trajectoire d’une manche</translation>
     </message>
     <message>
         <source>&amp;Text</source>
-        <translation type="unfinished"></translation>
+        <translation>T&amp;exte</translation>
     </message>
     <message>
         <source>&amp;Photo below…</source>
-        <translation type="unfinished"></translation>
+        <translation>Photo &amp;au-dessous…</translation>
     </message>
     <message>
         <source>Only whit&amp;e below</source>
-        <translation type="unfinished"></translation>
+        <translation>Seulement &amp;du blanc au-dessous</translation>
     </message>
     <message>
         <source>text</source>
-        <translation type="unfinished"></translation>
+        <translation>texte</translation>
     </message>
     <message>
         <source>photo</source>
-        <translation type="unfinished"></translation>
+        <translation>photo</translation>
     </message>
     <message>
         <source>white</source>
@@ -8494,18 +8498,18 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>Leave the course as it was? What was drawn is lost.</source>
-        <translation type="unfinished"></translation>
+        <translation>Laisser le parcours tel qu’il était ? Ce qui a été dessiné est perdu.</translation>
     </message>
     <message>
         <source>Leave it</source>
-        <translation type="unfinished"></translation>
+        <translation>Le laisser</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::CourseMap</name>
     <message>
         <source>Map of the course</source>
-        <translation type="unfinished"></translation>
+        <translation>Carte du parcours</translation>
     </message>
     <message>
         <source>Turn %1
@@ -8513,19 +8517,23 @@ Duration %2 s, angle %3°
 Rotation: peak %4 °/s, mean %5 °/s
 Push out: peak %6 m/s², mean %7 m/s²
 Roll %8° (+ inside), pitch %9° (+ bow up)</source>
-        <translation type="unfinished"></translation>
+        <translation>Virage %1
+Durée %2 s, angle %3°
+Rotation : pointe %4 °/s, moyenne %5 °/s
+Relance : pointe %6 m/s², moyenne %7 m/s²
+Roulis %8° (+ intérieur), tangage %9° (+ pointe avant en haut)</translation>
     </message>
     <message>
         <source>There are no position fixes in this session: no map.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il n’y a pas de positions dans cette séance : pas de carte.</translation>
     </message>
     <message>
         <source>%1 km</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 km</translation>
     </message>
     <message>
         <source>%1 m</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 m</translation>
     </message>
     <message>
         <source>N</source>
@@ -8533,73 +8541,73 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Speed (m/s)</source>
-        <translation type="unfinished"></translation>
+        <translation>Vitesse (m/s)</translation>
     </message>
     <message>
         <source>Stroke rate (1/min)</source>
-        <translation type="unfinished"></translation>
+        <translation>Cadence (1/min)</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::CoursePanel</name>
     <message>
         <source>C&amp;ourse of</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Parcours de</translation>
     </message>
     <message>
         <source>The drawing of the course in this file cannot be shown.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le dessin du parcours de ce fichier ne peut pas être affiché.</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::CoursePartForm</name>
     <message>
         <source>&amp;Number</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Numéro</translation>
     </message>
     <message>
         <source>&amp;Upstream gate</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Porte en remontée</translation>
     </message>
     <message>
         <source>Na&amp;me or text</source>
-        <translation type="unfinished"></translation>
+        <translation>Nom &amp;ou texte</translation>
     </message>
     <message>
         <source> m</source>
-        <translation type="unfinished"></translation>
+        <translation> m</translation>
     </message>
     <message>
         <source>not measured</source>
-        <translation type="unfinished"></translation>
+        <translation>pas mesuré</translation>
     </message>
     <message>
         <source>&amp;Width of the picture</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Largeur de l’image</translation>
     </message>
     <message>
         <source>Nothing selected</source>
-        <translation type="unfinished"></translation>
+        <translation>Rien de sélectionné</translation>
     </message>
     <message>
         <source>The race has %1 gates only. Race and course says how many there are.</source>
-        <translation type="unfinished"></translation>
+        <translation>La course n’a que %1 portes. Leur nombre se règle dans Course et parcours.</translation>
     </message>
     <message>
         <source>direction of gate %1</source>
-        <translation type="unfinished"></translation>
+        <translation>direction de la porte %1</translation>
     </message>
     <message>
         <source>number %1</source>
-        <translation type="unfinished"></translation>
+        <translation>numéro %1</translation>
     </message>
     <message>
         <source>name</source>
-        <translation type="unfinished"></translation>
+        <translation>nom</translation>
     </message>
     <message>
         <source>width of the picture</source>
-        <translation type="unfinished"></translation>
+        <translation>largeur de l’image</translation>
     </message>
 </context>
 <context>
@@ -8614,15 +8622,15 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Such as 1, 2, 3, 4</source>
-        <translation type="unfinished"></translation>
+        <translation>Par exemple 1, 2, 3, 4</translation>
     </message>
     <message>
         <source>Roll after gate</source>
-        <translation type="unfinished"></translation>
+        <translation>Esquimautage après la porte</translation>
     </message>
     <message>
         <source>Empty without a roll</source>
-        <translation type="unfinished"></translation>
+        <translation>Vide sans esquimautage</translation>
     </message>
     <message>
         <source>Phase</source>
@@ -8634,23 +8642,23 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Which gates does the cross course have?</source>
-        <translation type="unfinished"></translation>
+        <translation>Quelles portes a le parcours de cross ?</translation>
     </message>
     <message>
         <source>1 gate</source>
-        <translation type="unfinished"></translation>
+        <translation>1 porte</translation>
     </message>
     <message>
         <source>roll after %1</source>
-        <translation type="unfinished"></translation>
+        <translation>esquimautage après %1</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no gate number.</source>
-        <translation type="unfinished"></translation>
+        <translation>« %1 » n’est pas un numéro de porte.</translation>
     </message>
     <message>
         <source>The roll is after gate %1, which is not on the course.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’esquimautage est après la porte %1, qui n’est pas sur le parcours.</translation>
     </message>
     <message>
         <source>course</source>
@@ -8658,9 +8666,9 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message numerus="yes">
         <source>%n gates</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n porte</numerusform>
+            <numerusform>%n portes</numerusform>
         </translation>
     </message>
 </context>
@@ -8668,7 +8676,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     <name>kavela::desktop::CrossActions</name>
     <message>
         <source>&amp;Open a split file…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ouvrir un fichier d’intermédiaires…</translation>
     </message>
     <message>
         <source>&amp;Save data</source>
@@ -8676,7 +8684,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Open a &amp;folder of films…</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir &amp;un dossier de films…</translation>
     </message>
     <message>
         <source>Open a folder of films</source>
@@ -8684,19 +8692,19 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>&amp;Import films of time trials…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Importer les films des contre-la-montre…</translation>
     </message>
     <message>
         <source>Film of the selected trial or &amp;heat…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Film du contre-la-montre ou de la série choisis…</translation>
     </message>
     <message>
         <source>&amp;Where are the films now?…</source>
-        <translation>&amp;Où sont les films maintenant ?…</translation>
+        <translation>Où &amp;sont les films maintenant ?…</translation>
     </message>
     <message>
         <source>Split &amp;taking of this race</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Prise de temps intermédiaires de cette course</translation>
     </message>
     <message>
         <source>Show in the race &amp;analyzer</source>
@@ -8704,7 +8712,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Open a split file</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir un fichier d’intermédiaires</translation>
     </message>
     <message>
         <source>Split files (*.kvx);;All files (*)</source>
@@ -8712,19 +8720,19 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>&amp;Course of the cross race</source>
-        <translation type="unfinished"></translation>
+        <translation>Parcours &amp;du cross</translation>
     </message>
     <message>
         <source>&amp;Previous trial or heat</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Contre-la-montre ou série précédents</translation>
     </message>
     <message>
         <source>&amp;Next trial or heat</source>
-        <translation type="unfinished"></translation>
+        <translation>Contre-&amp;la-montre ou série suivants</translation>
     </message>
     <message>
         <source>Copy the &amp;results</source>
-        <translation type="unfinished"></translation>
+        <translation>Copier les &amp;résultats</translation>
     </message>
     <message>
         <source>&amp;Mark</source>
@@ -8732,106 +8740,106 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>&amp;Mark the frame shown</source>
-        <translation type="unfinished"></translation>
+        <translation>Mar&amp;quer l’image affichée</translation>
     </message>
     <message>
         <source>To the first mark</source>
-        <translation type="unfinished"></translation>
+        <translation>À la première marque</translation>
     </message>
     <message>
         <source>Next &amp;gate</source>
-        <translation type="unfinished"></translation>
+        <translation>Por&amp;te suivante</translation>
     </message>
     <message>
         <source>Previous g&amp;ate</source>
-        <translation type="unfinished"></translation>
+        <translation>P&amp;orte précédente</translation>
     </message>
     <message>
         <source>Split, gate or boat &amp;%1</source>
-        <translation type="unfinished"></translation>
+        <translation>Intermédiaire, porte ou &amp;bateau %1</translation>
     </message>
     <message>
         <source>&amp;Time trials</source>
-        <translation type="unfinished"></translation>
+        <translation>Co&amp;ntre-la-montre</translation>
     </message>
     <message>
         <source>&amp;Add an athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajouter &amp;un athlète</translation>
     </message>
     <message>
         <source>M marks the &amp;splits</source>
-        <translation type="unfinished"></translation>
+        <translation>M marque les &amp;intermédiaires</translation>
     </message>
     <message>
         <source>M marks the &amp;upstream gates</source>
-        <translation type="unfinished"></translation>
+        <translation>M marqu&amp;e les remontées</translation>
     </message>
     <message>
         <source>M marks the &amp;roll</source>
-        <translation type="unfinished"></translation>
+        <translation>M marque l’e&amp;squimautage</translation>
     </message>
     <message>
         <source>Re&amp;name the athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>Reno&amp;mmer l’athlète</translation>
     </message>
     <message>
         <source>R&amp;emove the trial</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Retirer le contre-la-montre</translation>
     </message>
     <message>
         <source>Make &amp;heats from the trials</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Faire les séries d’après les contre-la-montre</translation>
     </message>
     <message>
         <source>&amp;Heats</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Séries</translation>
     </message>
     <message>
         <source>&amp;Add a heat…</source>
-        <translation type="unfinished"></translation>
+        <translation>A&amp;jouter une série…</translation>
     </message>
     <message>
         <source>A&amp;ttack, beginning here</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Attaque qui commence ici</translation>
     </message>
     <message>
         <source>&amp;End of the attack</source>
-        <translation type="unfinished"></translation>
+        <translation>Fin &amp;de l’attaque</translation>
     </message>
     <message>
         <source>Compare &amp;films of the heat…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Comparer les films de la série…</translation>
     </message>
     <message>
         <source>&amp;Names of the boats…</source>
-        <translation type="unfinished"></translation>
+        <translation>N&amp;oms des bateaux…</translation>
     </message>
     <message>
         <source>&amp;Remove the heat</source>
-        <translation type="unfinished"></translation>
+        <translation>Retirer &amp;la série</translation>
     </message>
     <message>
         <source>&amp;View</source>
-        <translation>A&amp;ffichage</translation>
+        <translation>Affic&amp;hage</translation>
     </message>
     <message>
         <source>&amp;Results</source>
-        <translation type="unfinished"></translation>
+        <translation>Rés&amp;ultats</translation>
     </message>
     <message>
         <source>Time trial</source>
-        <translation type="unfinished"></translation>
+        <translation>Contre-la-montre</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::CrossPage</name>
     <message>
         <source>There is no film to mark on.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il n’y a pas de film où marquer.</translation>
     </message>
     <message>
         <source>Nothing can be marked: %1 is not in the folder of the split file. File &gt; Where are the films now?</source>
-        <translation type="unfinished"></translation>
+        <translation>Rien ne peut être marqué : %1 n’est pas dans le dossier du fichier d’intermédiaires. Fichier &gt; Où sont les films maintenant ?</translation>
     </message>
     <message>
         <source>No mark is selected. Ctrl and the arrows go from mark to mark.</source>
@@ -8842,15 +8850,15 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     <name>kavela::desktop::CrossWindow</name>
     <message>
         <source>kayak cross</source>
-        <translation type="unfinished"></translation>
+        <translation>kayak cross</translation>
     </message>
     <message>
         <source>Time trials</source>
-        <translation type="unfinished"></translation>
+        <translation>Contre-la-montre</translation>
     </message>
     <message>
         <source>Heats</source>
-        <translation type="unfinished"></translation>
+        <translation>Séries</translation>
     </message>
     <message>
         <source>Results</source>
@@ -8858,61 +8866,61 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>films of the folder</source>
-        <translation type="unfinished"></translation>
+        <translation>films du dossier</translation>
     </message>
     <message>
         <source>Import films with Ctrl+I, or drop them here: each becomes a time trial.</source>
-        <translation type="unfinished"></translation>
+        <translation>Importez des films avec Ctrl+I, ou déposez-les ici : chacun devient un contre-la-montre.</translation>
     </message>
     <message>
         <source>No film yet. Ctrl+Shift+I chooses the film of what is selected; films can be dropped here too.</source>
-        <translation type="unfinished"></translation>
+        <translation>Pas encore de film. Ctrl+Maj+I choisit le film de ce qui est sélectionné ; des films peuvent aussi être déposés ici.</translation>
     </message>
     <message>
         <source>%1 is not in the folder of the split file. Ctrl+Shift+I chooses another film.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 n’est pas dans le dossier du fichier d’intermédiaires. Ctrl+Maj+I choisit un autre film.</translation>
     </message>
     <message>
         <source>Not found: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Introuvable : %1.</translation>
     </message>
     <message>
         <source>Import films of time trials</source>
-        <translation type="unfinished"></translation>
+        <translation>Importer les films des contre-la-montre</translation>
     </message>
     <message>
         <source>Choose the film of the trial or heat</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisir le film du contre-la-montre ou de la série</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::CrossingSearch</name>
     <message>
         <source>The slit picture shows what stood on the line all the same.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’image à fente montre tout de même ce qui se trouvait sur la ligne.</translation>
     </message>
     <message>
         <source>No boat was found that crosses this line in the direction of the arrow.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun bateau n’a été trouvé qui franchisse cette ligne dans le sens de la flèche.</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::CsvMappingDialog</name>
     <message>
         <source>%1 h %2 min</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 h %2 min</translation>
     </message>
     <message>
         <source>%1 min %2 s</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 min %2 s</translation>
     </message>
     <message>
         <source>%1 s</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 s</translation>
     </message>
     <message>
         <source>%1 lines cannot be read. Line %2: %3.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 lignes ne peuvent pas être lues. Ligne %2 : %3.</translation>
     </message>
     <message>
         <source>Line %1: %2</source>
@@ -8920,31 +8928,31 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>What each column holds was guessed from its title. Choose over a column what it is; a column without a choice is left out.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le contenu de chaque colonne a été deviné d’après son titre. Choisissez au-dessus d’une colonne ce qu’elle est ; une colonne sans choix est laissée de côté.</translation>
     </message>
     <message>
         <source>%1 samples, %2 per second, %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 échantillons, %2 par seconde, %3</translation>
     </message>
     <message>
         <source>%1 positions</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 positions</translation>
     </message>
     <message>
         <source>%1 heart rates</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 fréquences cardiaques</translation>
     </message>
     <message>
         <source>Import “%1”</source>
-        <translation type="unfinished"></translation>
+        <translation>Importer « %1 »</translation>
     </message>
     <message>
         <source>Columns and units are read as they were for the last list with these titles. Choose over a column what it is; one without a choice is left out.</source>
-        <translation type="unfinished"></translation>
+        <translation>Colonnes et unités sont lues comme pour la dernière liste à ces titres. Choisissez au-dessus d’une colonne ce qu’elle est ; une colonne sans choix est laissée de côté.</translation>
     </message>
     <message>
         <source>Guess from the titles</source>
-        <translation type="unfinished"></translation>
+        <translation>Deviner d’après les titres</translation>
     </message>
     <message>
         <source>Import</source>
@@ -8956,34 +8964,34 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>This gives no samples.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cela ne donne aucun échantillon.</translation>
     </message>
     <message>
         <source>This gives %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cela donne %1.</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::CsvUnitsForm</name>
     <message>
         <source>&amp;Between columns</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Entre les colonnes</translation>
     </message>
     <message>
         <source>Comma</source>
-        <translation type="unfinished"></translation>
+        <translation>Virgule</translation>
     </message>
     <message>
         <source>Semicolon</source>
-        <translation type="unfinished"></translation>
+        <translation>Point-virgule</translation>
     </message>
     <message>
         <source>Tab</source>
-        <translation type="unfinished"></translation>
+        <translation>Tabulation</translation>
     </message>
     <message>
         <source>&amp;Decimal comma</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Virgule décimale</translation>
     </message>
     <message>
         <source>&amp;Times</source>
@@ -8991,7 +8999,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Dates</source>
-        <translation type="unfinished"></translation>
+        <translation>Dates</translation>
     </message>
     <message>
         <source>Seconds</source>
@@ -8999,55 +9007,55 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Milliseconds</source>
-        <translation type="unfinished"></translation>
+        <translation>Millisecondes</translation>
     </message>
     <message>
         <source>Microseconds</source>
-        <translation type="unfinished"></translation>
+        <translation>Microsecondes</translation>
     </message>
     <message>
         <source>Nanoseconds</source>
-        <translation type="unfinished"></translation>
+        <translation>Nanosecondes</translation>
     </message>
     <message>
         <source>&amp;Acceleration</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Accélération</translation>
     </message>
     <message>
         <source>g</source>
-        <translation type="unfinished"></translation>
+        <translation>g</translation>
     </message>
     <message>
         <source>m/s²</source>
-        <translation type="unfinished"></translation>
+        <translation>m/s²</translation>
     </message>
     <message>
         <source>&amp;Rotation</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Rotation</translation>
     </message>
     <message>
         <source>rad/s</source>
-        <translation type="unfinished"></translation>
+        <translation>rad/s</translation>
     </message>
     <message>
         <source>°/s</source>
-        <translation type="unfinished"></translation>
+        <translation>°/s</translation>
     </message>
     <message>
         <source>An&amp;gles</source>
-        <translation type="unfinished"></translation>
+        <translation>A&amp;ngles</translation>
     </message>
     <message>
         <source>Radians</source>
-        <translation type="unfinished"></translation>
+        <translation>Radians</translation>
     </message>
     <message>
         <source>Degrees</source>
-        <translation type="unfinished"></translation>
+        <translation>Degrés</translation>
     </message>
     <message>
         <source>&amp;Speed</source>
-        <translation type="unfinished"></translation>
+        <translation>Vite&amp;sse</translation>
     </message>
     <message>
         <source>m/s</source>
@@ -9055,35 +9063,35 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>km/h</source>
-        <translation type="unfinished"></translation>
+        <translation>km/h</translation>
     </message>
     <message>
         <source>Lying on its back, &amp;z reads</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Couché sur le dos, z indique</translation>
     </message>
     <message>
         <source>+1 g, upward</source>
-        <translation type="unfinished"></translation>
+        <translation>+1 g, vers le haut</translation>
     </message>
     <message>
         <source>−1 g, downward</source>
-        <translation type="unfinished"></translation>
+        <translation>−1 g, vers le bas</translation>
     </message>
     <message>
         <source>&amp;First sample at</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Premier échantillon à</translation>
     </message>
     <message>
         <source>The comma stands between columns.</source>
-        <translation type="unfinished"></translation>
+        <translation>La virgule sépare les colonnes.</translation>
     </message>
     <message>
         <source>The times of the list are no dates. This is when the file was written, less its length.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les temps de la liste ne sont pas des dates. Voici quand le fichier a été écrit, moins sa durée.</translation>
     </message>
     <message>
         <source>The times of the list are dates.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les temps de la liste sont des dates.</translation>
     </message>
 </context>
 <context>
@@ -9106,7 +9114,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>%1 %2°, %3 s</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 %2°, %3 s</translation>
     </message>
     <message>
         <source>Time</source>
@@ -9114,15 +9122,15 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Stroke, rate</source>
-        <translation type="unfinished"></translation>
+        <translation>Coup, cadence</translation>
     </message>
     <message>
         <source>Force (N)</source>
-        <translation type="unfinished"></translation>
+        <translation>Force (N)</translation>
     </message>
     <message>
         <source>Power (W)</source>
-        <translation type="unfinished"></translation>
+        <translation>Puissance (W)</translation>
     </message>
     <message>
         <source>Turn</source>
@@ -9130,106 +9138,106 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Values at the cursor</source>
-        <translation type="unfinished"></translation>
+        <translation>Valeurs au curseur</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::DayDesk</name>
     <message>
         <source>The race day could not be kept: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Le jour de course n’a pas pu être conservé : %1</translation>
     </message>
     <message>
         <source> · U: %1</source>
-        <translation type="unfinished"></translation>
+        <translation> · U : %1</translation>
     </message>
     <message>
         <source>start list</source>
-        <translation type="unfinished"></translation>
+        <translation>liste de départ</translation>
     </message>
     <message>
         <source>folder of the films</source>
-        <translation type="unfinished"></translation>
+        <translation>dossier des films</translation>
     </message>
     <message>
         <source>start removed</source>
-        <translation type="unfinished"></translation>
+        <translation>départ retiré</translation>
     </message>
     <message>
         <source>There is no start list yet: Day &gt; Start list.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il n’y a pas encore de liste de départ : Jour &gt; Liste de départ.</translation>
     </message>
     <message>
         <source>No film waits to be timed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun film n’attend d’être chronométré.</translation>
     </message>
     <message>
         <source>There is no film of %1 yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il n’y a pas encore de film de %1.</translation>
     </message>
     <message>
         <source>The film of %1 is still being copied.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le film de %1 est encore en cours de copie.</translation>
     </message>
     <message>
         <source>Is this %1?</source>
-        <translation type="unfinished"></translation>
+        <translation>Est-ce %1 ?</translation>
     </message>
     <message>
         <source>film of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>film de %1</translation>
     </message>
     <message>
         <source>There is no film that is surely matched and not agreed to yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il n’y a aucun film attribué à coup sûr et pas encore validé.</translation>
     </message>
     <message>
         <source>film agreed to</source>
-        <translation type="unfinished"></translation>
+        <translation>film validé</translation>
     </message>
     <message>
         <source>films agreed to</source>
-        <translation type="unfinished"></translation>
+        <translation>films validés</translation>
     </message>
     <message>
         <source>Not named, as it is not in the folder of the race or cannot be named there: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Pas renommé, car hors du dossier de la course ou impossible à renommer là : %1</translation>
     </message>
     <message>
         <source>Agreed</source>
-        <translation type="unfinished"></translation>
+        <translation>Validé</translation>
     </message>
     <message>
         <source>films one start later</source>
-        <translation type="unfinished"></translation>
+        <translation>films un départ plus tard</translation>
     </message>
     <message>
         <source>films one start earlier</source>
-        <translation type="unfinished"></translation>
+        <translation>films un départ plus tôt</translation>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 : %2</translation>
     </message>
     <message>
         <source>%1: no film</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 : pas de film</translation>
     </message>
     <message>
         <source>film of another boat</source>
-        <translation type="unfinished"></translation>
+        <translation>film d’un autre bateau</translation>
     </message>
     <message>
         <source>film given to a boat</source>
-        <translation type="unfinished"></translation>
+        <translation>film attribué à un bateau</translation>
     </message>
     <message>
         <source>There is no film %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Il n’y a pas de film %1</translation>
     </message>
     <message>
         <source>%1 is timed: remove the last mark first.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 est chronométré : retirez d’abord la dernière marque.</translation>
     </message>
     <message>
         <source>%1 of %2</source>
@@ -9237,21 +9245,21 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>%1 counts again</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 compte à nouveau</translation>
     </message>
     <message>
         <source>The clocks of camera and start list go together.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les horloges de la caméra et de la liste de départ concordent.</translation>
     </message>
     <message>
         <source>clock of the camera</source>
-        <translation type="unfinished"></translation>
+        <translation>horloge de la caméra</translation>
     </message>
     <message numerus="yes">
         <source>%n films agreed to</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n film validé</numerusform>
+            <numerusform>%n films validés</numerusform>
         </translation>
     </message>
 </context>
@@ -9259,81 +9267,81 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     <name>kavela::desktop::DayFilms</name>
     <message>
         <source>%1 could not be called %2 again: is that name taken?</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 n’a pas pu être renommé %2 : ce nom est-il pris ?</translation>
     </message>
     <message>
         <source>%1 could not be copied from the card. Is the card out, or the disk full?</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 n’a pas pu être copié depuis la carte. La carte est-elle retirée, ou le disque plein ?</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::DayKeeping</name>
     <message>
         <source>The race day %1 cannot be read: %2. It stays as it is; a new one takes its name only after it was put aside.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le jour de course %1 ne peut pas être lu : %2. Il reste tel quel ; un nouveau ne prend son nom qu’une fois l’ancien mis de côté.</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::DayPanel</name>
     <message>
         <source>agreed</source>
-        <translation type="unfinished"></translation>
+        <translation>validé</translation>
     </message>
     <message>
         <source>kept</source>
-        <translation type="unfinished"></translation>
+        <translation>conservé</translation>
     </message>
     <message>
         <source>sure</source>
-        <translation type="unfinished"></translation>
+        <translation>sûr</translation>
     </message>
     <message>
         <source>likely</source>
-        <translation type="unfinished"></translation>
+        <translation>probable</translation>
     </message>
     <message>
         <source>unsure</source>
-        <translation type="unfinished"></translation>
+        <translation>incertain</translation>
     </message>
     <message>
         <source>%1 d</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 j</translation>
     </message>
     <message>
         <source>%1 h</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 h</translation>
     </message>
     <message>
         <source>%1 min</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 min</translation>
     </message>
     <message>
         <source>%1 s</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 s</translation>
     </message>
     <message>
         <source>ahead of</source>
-        <translation type="unfinished"></translation>
+        <translation>en avance sur</translation>
     </message>
     <message>
         <source>behind</source>
-        <translation type="unfinished"></translation>
+        <translation>en retard sur</translation>
     </message>
     <message>
         <source>Reckon with that</source>
-        <translation type="unfinished"></translation>
+        <translation>En tenir compte</translation>
     </message>
     <message>
         <source>No start list yet. Paste one, or take it from a file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Pas encore de liste de départ. Collez-en une, ou prenez-la dans un fichier.</translation>
     </message>
     <message>
         <source>Start list…</source>
-        <translation type="unfinished"></translation>
+        <translation>Liste de départ…</translation>
     </message>
     <message>
         <source>Films from…</source>
-        <translation type="unfinished"></translation>
+        <translation>Films depuis…</translation>
     </message>
     <message>
         <source>Start</source>
@@ -9349,7 +9357,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>A boat on the list has a name.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un bateau de la liste a un nom.</translation>
     </message>
     <message>
         <source>Cat</source>
@@ -9369,66 +9377,66 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Type the name of another film to correct a single one</source>
-        <translation type="unfinished"></translation>
+        <translation>Tapez le nom d’un autre film pour en corriger un seul</translation>
     </message>
     <message>
         <source>Match</source>
-        <translation type="unfinished"></translation>
+        <translation>Attribution</translation>
     </message>
     <message>
         <source>Recorded</source>
-        <translation type="unfinished"></translation>
+        <translation>Filmé</translation>
     </message>
     <message>
         <source>When the recording began, and whether the camera or the file says so</source>
-        <translation type="unfinished"></translation>
+        <translation>Quand la prise de vue a commencé, et si c’est la caméra ou le fichier qui le dit</translation>
     </message>
     <message>
         <source>camera</source>
-        <translation type="unfinished"></translation>
+        <translation>caméra</translation>
     </message>
     <message>
         <source>file</source>
-        <translation type="unfinished"></translation>
+        <translation>fichier</translation>
     </message>
     <message>
         <source>The camera&apos;s clock seems to be %1 the start list.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’horloge de la caméra semble être %1 la liste de départ.</translation>
     </message>
     <message>
         <source>%1 is not there.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 n’est pas là.</translation>
     </message>
     <message>
         <source>Copying %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Copie de %1.</translation>
     </message>
     <message>
         <source>%1 still growing.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 grandit encore.</translation>
     </message>
     <message>
         <source>Of no boat: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>D’aucun bateau : %1.</translation>
     </message>
     <message>
         <source>Of no boat: %1 films, the first is %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>D’aucun bateau : %1 films, le premier est %2.</translation>
     </message>
     <message>
         <source>Of other days: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>D’autres jours : %1.</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::DerivedDialog</name>
     <message>
         <source>The &amp;highest number is the best</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Le plus grand nombre est le meilleur</translation>
     </message>
     <message>
         <source>Another column</source>
-        <translation type="unfinished"></translation>
+        <translation>Autre colonne</translation>
     </message>
     <message>
         <source>Total</source>
@@ -9440,51 +9448,51 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Gap to the best</source>
-        <translation type="unfinished"></translation>
+        <translation>Écart au meilleur</translation>
     </message>
     <message>
         <source>Percent behind the best</source>
-        <translation type="unfinished"></translation>
+        <translation>Pourcentage derrière le meilleur</translation>
     </message>
     <message>
         <source>Percentile</source>
-        <translation type="unfinished"></translation>
+        <translation>Percentile</translation>
     </message>
     <message>
         <source>Difference</source>
-        <translation type="unfinished"></translation>
+        <translation>Différence</translation>
     </message>
     <message>
         <source>Add</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajouter</translation>
     </message>
     <message>
         <source>&amp;What</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Quoi</translation>
     </message>
     <message>
         <source>Sum &amp;of (none: times and penalties)</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Somme de (aucun : temps et pénalités)</translation>
     </message>
     <message>
         <source>O&amp;f</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;De</translation>
     </message>
     <message>
         <source>&amp;Less</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Moins</translation>
     </message>
     <message>
         <source>Each &amp;compared within</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Chacun comparé au sein de</translation>
     </message>
     <message>
         <source>the total, else the times</source>
-        <translation type="unfinished"></translation>
+        <translation>le total, sinon les temps</translation>
     </message>
     <message>
         <source>all rows</source>
-        <translation type="unfinished"></translation>
+        <translation>toutes les lignes</translation>
     </message>
 </context>
 <context>
@@ -9570,15 +9578,15 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>of</source>
-        <translation type="unfinished"></translation>
+        <translation>sur</translation>
     </message>
     <message>
         <source>Those of which this was noted; for those of which it was not noted, all penalties</source>
-        <translation type="unfinished"></translation>
+        <translation>Celles où ceci a été noté ; pour celles où rien n’a été noté, toutes les pénalités</translation>
     </message>
     <message>
         <source>Share %</source>
-        <translation type="unfinished"></translation>
+        <translation>Part %</translation>
     </message>
     <message>
         <source>90 %</source>
@@ -9586,46 +9594,46 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Where the share lies with 90 %</source>
-        <translation type="unfinished"></translation>
+        <translation>Où se trouve la part, à 90 %</translation>
     </message>
     <message>
         <source>No penalty was noted in detail. Split taking notes them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucune pénalité n’a été notée en détail. Cela se note dans la prise de temps intermédiaires.</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::DocumentChoiceDialog</name>
     <message>
         <source>%1   in %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1   dans %2</translation>
     </message>
     <message>
         <source>&amp;New…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Nouveau…</translation>
     </message>
     <message>
         <source>Open an&amp;other…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ouvrir un autre…</translation>
     </message>
     <message>
         <source>&amp;Open</source>
-        <translation type="unfinished"></translation>
+        <translation>O&amp;uvrir</translation>
     </message>
     <message>
         <source>None was opened yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun n’a encore été ouvert.</translation>
     </message>
     <message>
         <source>Opened before:</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouverts auparavant :</translation>
     </message>
     <message>
         <source>Name the new file</source>
-        <translation type="unfinished"></translation>
+        <translation>Nommer le nouveau fichier</translation>
     </message>
     <message>
         <source>%1 (*.%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (*.%2)</translation>
     </message>
     <message>
         <source>%1 (*.%2);;All files (*)</source>
@@ -9636,57 +9644,57 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     <name>kavela::desktop::DrawnRates</name>
     <message>
         <source>Touches on the course</source>
-        <translation type="unfinished"></translation>
+        <translation>Touches sur le parcours</translation>
     </message>
     <message>
         <source>Gate %1: %2 %</source>
-        <translation type="unfinished"></translation>
+        <translation>Porte %1 : %2 %</translation>
     </message>
     <message>
         <source>, %1 of %2 touched</source>
-        <translation type="unfinished"></translation>
+        <translation>, %1 touches sur %2</translation>
     </message>
     <message>
         <source>%1 %</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 %</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::DropAreas</name>
     <message>
         <source>Import .kvb file</source>
-        <translation type="unfinished"></translation>
+        <translation>Importer un fichier .kvb</translation>
     </message>
     <message>
         <source>Import .sbm file</source>
-        <translation type="unfinished"></translation>
+        <translation>Importer un fichier .sbm</translation>
     </message>
     <message>
         <source>Drag .kvb file to top left of the window</source>
-        <translation type="unfinished"></translation>
+        <translation>Glissez un fichier .kvb en haut à gauche de la fenêtre</translation>
     </message>
     <message>
         <source>A raw recording of the boat: strokes and turns are found in it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un enregistrement brut du bateau : coups de pagaie et virages y sont trouvés.</translation>
     </message>
     <message>
         <source>Drag .sbm file to top right of the window</source>
-        <translation type="unfinished"></translation>
+        <translation>Glissez un fichier .sbm en haut à droite de la fenêtre</translation>
     </message>
     <message>
         <source>A processed session, .sbm or .bms: strokes and turns are in it already.</source>
-        <translation type="unfinished"></translation>
+        <translation>Une séance traitée, .sbm ou .bms : coups de pagaie et virages y sont déjà.</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::EarlierWorkDialog</name>
     <message>
         <source>Document</source>
-        <translation type="unfinished"></translation>
+        <translation>Document</translation>
     </message>
     <message>
         <source>Kept</source>
-        <translation type="unfinished"></translation>
+        <translation>Conservé</translation>
     </message>
     <message>
         <source>What</source>
@@ -9694,58 +9702,58 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Then</source>
-        <translation type="unfinished"></translation>
+        <translation>Ensuite</translation>
     </message>
     <message>
         <source>given up</source>
-        <translation type="unfinished"></translation>
+        <translation>abandonné</translation>
     </message>
     <message>
         <source>put off</source>
-        <translation type="unfinished"></translation>
+        <translation>remis à plus tard</translation>
     </message>
     <message>
         <source>Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Dossier</translation>
     </message>
     <message>
         <source>Bring back earlier work</source>
-        <translation type="unfinished"></translation>
+        <translation>Reprendre un travail antérieur</translation>
     </message>
     <message>
         <source>Nothing was kept that is not in a document again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Rien n’a été conservé qui ne soit de nouveau dans un document.</translation>
     </message>
     <message>
         <source>Bring back</source>
-        <translation type="unfinished"></translation>
+        <translation>Reprendre</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::EditedFile</name>
     <message>
         <source>today %1</source>
-        <translation type="unfinished"></translation>
+        <translation>aujourd’hui %1</translation>
     </message>
     <message>
         <source>yesterday %1</source>
-        <translation type="unfinished"></translation>
+        <translation>hier %1</translation>
     </message>
     <message>
         <source>Load</source>
-        <translation type="unfinished"></translation>
+        <translation>Charger</translation>
     </message>
     <message>
         <source>Later</source>
-        <translation type="unfinished"></translation>
+        <translation>Plus tard</translation>
     </message>
     <message>
         <source>Discard</source>
-        <translation type="unfinished"></translation>
+        <translation>Abandonner</translation>
     </message>
     <message>
         <source>1 change</source>
-        <translation type="unfinished"></translation>
+        <translation>1 changement</translation>
     </message>
     <message>
         <source>“%1” cannot be opened</source>
@@ -9753,15 +9761,15 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>The file was changed by another program since it was opened. Saving replaces what that program wrote.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier a été modifié par un autre programme depuis son ouverture. Enregistrer remplace ce que ce programme a écrit.</translation>
     </message>
     <message>
         <source>Replace it</source>
-        <translation type="unfinished"></translation>
+        <translation>Le remplacer</translation>
     </message>
     <message>
         <source>Look at the other</source>
-        <translation type="unfinished"></translation>
+        <translation>Regarder l’autre</translation>
     </message>
     <message>
         <source>Save as…</source>
@@ -9769,33 +9777,33 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>“%1” is open in another window. Close it there first, or take another name.</source>
-        <translation type="unfinished"></translation>
+        <translation>« %1 » est ouvert dans une autre fenêtre. Fermez-le d’abord là-bas, ou prenez un autre nom.</translation>
     </message>
     <message>
         <source>%1 (the other).%2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (l’autre).%2</translation>
     </message>
     <message>
         <source>Your work is kept apart, and offered when the file is opened again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Votre travail est conservé à part, et proposé à la réouverture du fichier.</translation>
     </message>
     <message>
         <source>Your work is in this window alone: it could not be kept apart either.</source>
-        <translation type="unfinished"></translation>
+        <translation>Votre travail n’est que dans cette fenêtre : il n’a pas non plus pu être conservé à part.</translation>
     </message>
     <message>
         <source>Try again</source>
-        <translation type="unfinished"></translation>
+        <translation>Réessayer</translation>
     </message>
     <message>
         <source>The file of the older version could not be kept beside the new one, so that nothing was written.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier de l’ancienne version n’a pas pu être conservé à côté du nouveau : rien n’a été écrit.</translation>
     </message>
     <message numerus="yes">
         <source>%n changes</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n changement</numerusform>
+            <numerusform>%n changements</numerusform>
         </translation>
     </message>
 </context>
@@ -9811,7 +9819,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Pha&amp;se</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Phase</translation>
     </message>
     <message>
         <source>Splits</source>
@@ -9823,25 +9831,27 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Taken from</source>
-        <translation type="unfinished"></translation>
+        <translation>Repris de</translation>
     </message>
     <message>
         <source>Time
 (s)</source>
-        <translation type="unfinished"></translation>
+        <translation>Temps
+(s)</translation>
     </message>
     <message>
         <source>Time of one eight</source>
-        <translation type="unfinished"></translation>
+        <translation>Temps d’un huit</translation>
     </message>
     <message>
         <source>In the video
 (s)</source>
-        <translation type="unfinished"></translation>
+        <translation>Sur la vidéo
+(s)</translation>
     </message>
     <message>
         <source>Where in the video the split was taken</source>
-        <translation type="unfinished"></translation>
+        <translation>Où sur la vidéo l’intermédiaire a été pris</translation>
     </message>
     <message>
         <source>split %1</source>
@@ -9849,146 +9859,146 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>no video</source>
-        <translation type="unfinished"></translation>
+        <translation>pas de vidéo</translation>
     </message>
     <message>
         <source>%1, no motion samples</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, pas d’échantillons de mouvement</translation>
     </message>
     <message>
         <source>%1, %2 motion samples</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, %2 échantillons de mouvement</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::EmptySearch</name>
     <message>
         <source>Drop a folder of split files (.kvx) here</source>
-        <translation type="unfinished"></translation>
+        <translation>Déposez ici un dossier de fichiers d’intermédiaires (.kvx)</translation>
     </message>
     <message>
         <source>All races below it are searched. They are only read.</source>
-        <translation type="unfinished"></translation>
+        <translation>On cherche dans toutes les courses qu’il contient. Elles sont seulement lues.</translation>
     </message>
     <message>
         <source>Search a folder…</source>
-        <translation type="unfinished"></translation>
+        <translation>Chercher dans un dossier…</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::EntryTable</name>
     <message>
         <source>“%1” is a number from 0 to %2</source>
-        <translation type="unfinished"></translation>
+        <translation>« %1 » est un nombre de 0 à %2</translation>
     </message>
     <message>
         <source>“%1” is more than 0. An emptied cell stands for none.</source>
-        <translation type="unfinished"></translation>
+        <translation>« %1 » est plus grand que 0. Une cellule vidée signifie aucun.</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::ExerciseTable</name>
     <message>
         <source>The file has no entry here. Typing makes one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier n’a pas d’entrée ici. Une saisie en crée une.</translation>
     </message>
     <message>
         <source>The estimate from repetitions and weight. A click or Ctrl+Enter takes it as the maximum.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’estimation d’après répétitions et charge. Un clic ou Ctrl+Entrée la prend comme maximum.</translation>
     </message>
     <message>
         <source>Exercise</source>
-        <translation type="unfinished"></translation>
+        <translation>Exercice</translation>
     </message>
     <message>
         <source>exercise</source>
-        <translation type="unfinished"></translation>
+        <translation>exercice</translation>
     </message>
     <message>
         <source>Sets</source>
-        <translation type="unfinished"></translation>
+        <translation>Séries</translation>
     </message>
     <message>
         <source>sets</source>
-        <translation type="unfinished"></translation>
+        <translation>séries</translation>
     </message>
     <message>
         <source>Repetitions</source>
-        <translation type="unfinished"></translation>
+        <translation>Répétitions</translation>
     </message>
     <message>
         <source>repetitions</source>
-        <translation type="unfinished"></translation>
+        <translation>répétitions</translation>
     </message>
     <message>
         <source>Weight</source>
-        <translation>Poids</translation>
+        <translation>Charge</translation>
     </message>
     <message>
         <source>kg</source>
-        <translation type="unfinished"></translation>
+        <translation>kg</translation>
     </message>
     <message>
         <source>weight</source>
-        <translation type="unfinished"></translation>
+        <translation>charge</translation>
     </message>
     <message>
         <source>Maximum</source>
-        <translation type="unfinished"></translation>
+        <translation>Maximum</translation>
     </message>
     <message>
         <source>maximum</source>
-        <translation type="unfinished"></translation>
+        <translation>maximum</translation>
     </message>
     <message>
         <source>Estimate</source>
-        <translation type="unfinished"></translation>
+        <translation>Estimation</translation>
     </message>
     <message>
         <source>Add exercise</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajouter un exercice</translation>
     </message>
     <message>
         <source>Remove exercise</source>
-        <translation type="unfinished"></translation>
+        <translation>Retirer l’exercice</translation>
     </message>
     <message>
         <source>Take estimate</source>
-        <translation type="unfinished"></translation>
+        <translation>Prendre l’estimation</translation>
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>Retirer</translation>
     </message>
     <message>
         <source>1 exercise</source>
-        <translation type="unfinished"></translation>
+        <translation>1 exercice</translation>
     </message>
     <message>
         <source>%1 · %2 sets · tonnage %3 kg</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 · %2 séries · tonnage %3 kg</translation>
     </message>
     <message>
         <source>Estimated maximum: table %1 · Epley %2 · Brzycki %3 · McGlothin %4 · Lombardi %5 · result &lt;b&gt;%6&lt;/b&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>Maximum estimé : tableau %1 · Epley %2 · Brzycki %3 · McGlothin %4 · Lombardi %5 · résultat &lt;b&gt;%6&lt;/b&gt;</translation>
     </message>
     <message>
         <source>new exercise</source>
-        <translation type="unfinished"></translation>
+        <translation>nouvel exercice</translation>
     </message>
     <message>
         <source>removal of an exercise</source>
-        <translation type="unfinished"></translation>
+        <translation>retrait d’un exercice</translation>
     </message>
     <message>
         <source>estimated maximum</source>
-        <translation type="unfinished"></translation>
+        <translation>maximum estimé</translation>
     </message>
     <message numerus="yes">
         <source>%n exercises</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n exercice</numerusform>
+            <numerusform>%n exercices</numerusform>
         </translation>
     </message>
 </context>
@@ -9996,7 +10006,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     <name>kavela::desktop::ExportDialog</name>
     <message>
         <source>Export data</source>
-        <translation type="unfinished"></translation>
+        <translation>Exporter les données</translation>
     </message>
     <message>
         <source>Split files (*.kvx)</source>
@@ -10015,43 +10025,43 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>&amp;Date</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Date</translation>
     </message>
     <message>
         <source>&amp;Location</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Lieu</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::FactsStatus</name>
     <message>
         <source>Which ones?</source>
-        <translation type="unfinished"></translation>
+        <translation>Lesquels ?</translation>
     </message>
     <message>
         <source>reading was cancelled: not all files are here</source>
-        <translation type="unfinished"></translation>
+        <translation>la lecture a été annulée : tous les fichiers ne sont pas là</translation>
     </message>
     <message>
         <source>1 file could not be read</source>
-        <translation type="unfinished"></translation>
+        <translation>1 fichier n’a pas pu être lu</translation>
     </message>
     <message numerus="yes">
         <source>%n files could not be read</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n fichier n’a pas pu être lu</numerusform>
+            <numerusform>%n fichiers n’ont pas pu être lus</numerusform>
         </translation>
     </message>
     <message>
         <source>1 copy of a file does not count</source>
-        <translation type="unfinished"></translation>
+        <translation>1 copie d’un fichier ne compte pas</translation>
     </message>
     <message numerus="yes">
         <source>%n copies of files do not count</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n copie de fichier ne compte pas</numerusform>
+            <numerusform>%n copies de fichiers ne comptent pas</numerusform>
         </translation>
     </message>
 </context>
@@ -10063,78 +10073,78 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>What is wrong</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce qui ne va pas</translation>
     </message>
     <message>
         <source>Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Dossier</translation>
     </message>
     <message>
         <source>Files that could not be read</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichiers qui n’ont pas pu être lus</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::FetchActions</name>
     <message>
         <source>&amp;Open a source…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ouvrir une source…</translation>
     </message>
     <message>
         <source>&amp;Save the source…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Enregistrer la source…</translation>
     </message>
     <message>
         <source>Choose the &amp;list of bibs…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Choisir la liste des dossards…</translation>
     </message>
     <message>
         <source>Choose the &amp;folder for the films…</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisir &amp;le dossier des films…</translation>
     </message>
     <message>
         <source>&amp;Time the films of the folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Chronométrer les &amp;films du dossier</translation>
     </message>
     <message>
         <source>Fet&amp;ch</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Récupérer</translation>
     </message>
     <message>
         <source>&amp;Show what would be fetched</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Montrer ce qui serait récupéré</translation>
     </message>
     <message>
         <source>&amp;Fetch the ticked films</source>
-        <translation type="unfinished"></translation>
+        <translation>Réc&amp;upérer les films cochés</translation>
     </message>
     <message>
         <source>&amp;Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Annuler</translation>
     </message>
     <message>
         <source>Tick &amp;all</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Tout cocher</translation>
     </message>
     <message>
         <source>Tick &amp;none</source>
-        <translation type="unfinished"></translation>
+        <translation>Tout &amp;décocher</translation>
     </message>
     <message>
         <source>Ser&amp;ver</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Serveur</translation>
     </message>
     <message>
         <source>&amp;Sign in…</source>
-        <translation type="unfinished"></translation>
+        <translation>Se co&amp;nnecter…</translation>
     </message>
     <message>
         <source>&amp;Forget the password</source>
-        <translation type="unfinished"></translation>
+        <translation>Oublier le mot de &amp;passe</translation>
     </message>
     <message>
         <source>&amp;Other servers</source>
-        <translation type="unfinished"></translation>
+        <translation>Autres ser&amp;veurs</translation>
     </message>
 </context>
 <context>
@@ -10145,71 +10155,71 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>&amp;Address</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Adresse</translation>
     </message>
     <message>
         <source>Of one film, with {bib}, {category}, {phase} or {run} where they stand ({bib:3} is 014); or of a list: a page, JSON, M3U8 or WebDAV folder</source>
-        <translation type="unfinished"></translation>
+        <translation>D’un film, avec {bib}, {category}, {phase} ou {run} à leur place ({bib:3} est 014) ; ou d’une liste : page, JSON, M3U8 ou dossier WebDAV</translation>
     </message>
     <message>
         <source>&amp;Bibs from</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Dossards de</translation>
     </message>
     <message>
         <source>Start list or results (a column is called bib), or a split file</source>
-        <translation type="unfinished"></translation>
+        <translation>Liste de départ ou résultats (une colonne s’appelle bib), ou un fichier d’intermédiaires</translation>
     </message>
     <message>
         <source>start list, results or split file</source>
-        <translation type="unfinished"></translation>
+        <translation>liste de départ, résultats ou fichier d’intermédiaires</translation>
     </message>
     <message>
         <source>F&amp;older</source>
-        <translation type="unfinished"></translation>
+        <translation>D&amp;ossier</translation>
     </message>
     <message>
         <source>Where the films are put; no file there is ever overwritten</source>
-        <translation type="unfinished"></translation>
+        <translation>Où sont placés les films ; aucun fichier n’y est jamais écrasé</translation>
     </message>
     <message>
         <source>for the films</source>
-        <translation type="unfinished"></translation>
+        <translation>pour les films</translation>
     </message>
     <message>
         <source>&amp;Names</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Noms</translation>
     </message>
     <message>
         <source>Of the files: {name}, {category}, {phase}, {bib} and {number}</source>
-        <translation type="unfinished"></translation>
+        <translation>Des fichiers : {name}, {category}, {phase}, {bib} et {number}</translation>
     </message>
     <message>
         <source>Choose a list…</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisir une liste…</translation>
     </message>
     <message>
         <source>Start list, results, split file</source>
-        <translation type="unfinished"></translation>
+        <translation>Liste de départ, résultats, fichier d’intermédiaires</translation>
     </message>
     <message>
         <source>Choose a folder…</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisir un dossier…</translation>
     </message>
     <message>
         <source>For the films</source>
-        <translation type="unfinished"></translation>
+        <translation>Pour les films</translation>
     </message>
     <message>
         <source>Other se&amp;rvers that films may come from</source>
-        <translation type="unfinished"></translation>
+        <translation>Autres &amp;serveurs d’où peuvent venir les films</translation>
     </message>
     <message>
         <source>Show what would be fetched</source>
-        <translation type="unfinished"></translation>
+        <translation>Montrer ce qui serait récupéré</translation>
     </message>
     <message>
         <source>Fetch the ticked films</source>
-        <translation type="unfinished"></translation>
+        <translation>Récupérer les films cochés</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -10217,27 +10227,27 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Nothing is fetched before it is shown here</source>
-        <translation type="unfinished"></translation>
+        <translation>Rien n’est récupéré avant d’être montré ici</translation>
     </message>
     <message>
         <source>Films are being fetched. Another source or list is opened after that.</source>
-        <translation type="unfinished"></translation>
+        <translation>Des films sont en cours de récupération. Une autre source ou liste s’ouvrira ensuite.</translation>
     </message>
     <message>
         <source>“%1” is no source of films</source>
-        <translation type="unfinished"></translation>
+        <translation>« %1 » n’est pas une source de films</translation>
     </message>
     <message>
         <source>Start list, results or split file</source>
-        <translation type="unfinished"></translation>
+        <translation>Liste de départ, résultats ou fichier d’intermédiaires</translation>
     </message>
     <message>
         <source>Lists and split files (*.csv *.txt *.tsv *.kvx);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Listes et fichiers d’intermédiaires (*.csv *.txt *.tsv *.kvx);;Tous les fichiers (*)</translation>
     </message>
     <message>
         <source>Folder for the films</source>
-        <translation type="unfinished"></translation>
+        <translation>Dossier des films</translation>
     </message>
     <message>
         <source>Open a source of films</source>
@@ -10245,59 +10255,59 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Sources of films (*.json)</source>
-        <translation type="unfinished"></translation>
+        <translation>Sources de films (*.json)</translation>
     </message>
     <message>
         <source>Save the source of films</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer la source de films</translation>
     </message>
     <message>
         <source>The source was saved. “kavela fetch” takes the file, too.</source>
-        <translation type="unfinished"></translation>
+        <translation>La source a été enregistrée. « kavela fetch » accepte aussi ce fichier.</translation>
     </message>
     <message>
         <source>The source could not be saved</source>
-        <translation type="unfinished"></translation>
+        <translation>La source n’a pas pu être enregistrée</translation>
     </message>
     <message>
         <source>What there is to fetch is being found out…</source>
-        <translation type="unfinished"></translation>
+        <translation>Recherche de ce qu’il y a à récupérer…</translation>
     </message>
     <message>
         <source>The folder “%1” cannot be made.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le dossier « %1 » ne peut pas être créé.</translation>
     </message>
     <message>
         <source>Films are being fetched…</source>
-        <translation type="unfinished"></translation>
+        <translation>Récupération des films…</translation>
     </message>
     <message>
         <source>There is no address to sign in to yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il n’y a pas encore d’adresse où se connecter.</translation>
     </message>
     <message>
         <source>This computer has no password store that is open. The password holds until this window is closed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cet ordinateur n’a pas de coffre de mots de passe ouvert. Le mot de passe vaut jusqu’à la fermeture de cette fenêtre.</translation>
     </message>
     <message>
         <source>The password of %1 was forgotten.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le mot de passe de %1 a été oublié.</translation>
     </message>
     <message>
         <source>%v of %m films</source>
-        <translation type="unfinished"></translation>
+        <translation>%v sur %m films</translation>
     </message>
     <message>
         <source>Films are being fetched</source>
-        <translation type="unfinished"></translation>
+        <translation>Des films sont en cours de récupération</translation>
     </message>
     <message>
         <source>What is there of them stays; fetching them again goes on with it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce qui en est là reste ; une nouvelle récupération reprend à cet endroit.</translation>
     </message>
     <message>
         <source>Stop and close</source>
-        <translation type="unfinished"></translation>
+        <translation>Arrêter et fermer</translation>
     </message>
 </context>
 <context>
@@ -10675,15 +10685,15 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     <name>kavela::desktop::FindActions</name>
     <message>
         <source>Queries</source>
-        <translation type="unfinished"></translation>
+        <translation>Requêtes</translation>
     </message>
     <message>
         <source>Search a &amp;folder…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Chercher dans un dossier…</translation>
     </message>
     <message>
         <source>Search f&amp;iles…</source>
-        <translation type="unfinished"></translation>
+        <translation>Chercher &amp;dans des fichiers…</translation>
     </message>
     <message>
         <source>&amp;Read again</source>
@@ -10695,55 +10705,55 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Files that could not be rea&amp;d…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Fichiers qui n’ont pas pu être lus…</translation>
     </message>
     <message>
         <source>Save the result as &amp;CSV…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Enregistrer le résultat en CSV…</translation>
     </message>
     <message>
         <source>&amp;Query</source>
-        <translation type="unfinished"></translation>
+        <translation>Re&amp;quête</translation>
     </message>
     <message>
         <source>&amp;Type a query</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Taper une requête</translation>
     </message>
     <message>
         <source>&amp;Fields</source>
-        <translation type="unfinished"></translation>
+        <translation>C&amp;hamps</translation>
     </message>
     <message>
         <source>&amp;Queries</source>
-        <translation type="unfinished"></translation>
+        <translation>Req&amp;uêtes</translation>
     </message>
     <message>
         <source>&amp;Keep this query</source>
-        <translation type="unfinished"></translation>
+        <translation>C&amp;onserver cette requête</translation>
     </message>
     <message>
         <source>&amp;Give up the kept query</source>
-        <translation type="unfinished"></translation>
+        <translation>Abandonner &amp;la requête conservée</translation>
     </message>
     <message>
         <source>Resul&amp;t</source>
-        <translation type="unfinished"></translation>
+        <translation>Ré&amp;sultat</translation>
     </message>
     <message>
         <source>&amp;Show the run at its frame</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Montrer la manche à son image</translation>
     </message>
     <message>
         <source>Open its &amp;race</source>
-        <translation type="unfinished"></translation>
+        <translation>Ou&amp;vrir sa course</translation>
     </message>
     <message>
         <source>Its &amp;time losses</source>
-        <translation type="unfinished"></translation>
+        <translation>Ses &amp;pertes de temps</translation>
     </message>
     <message>
         <source>The rows of the &amp;group</source>
-        <translation type="unfinished"></translation>
+        <translation>Les lignes &amp;du groupe</translation>
     </message>
 </context>
 <context>
@@ -10754,27 +10764,27 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Fields</source>
-        <translation type="unfinished"></translation>
+        <translation>Champs</translation>
     </message>
     <message>
         <source>Queries</source>
-        <translation type="unfinished"></translation>
+        <translation>Requêtes</translation>
     </message>
     <message>
         <source>gates up left cat K1W time&lt;4 – what, then what is asked of it</source>
-        <translation type="unfinished"></translation>
+        <translation>gates up left cat K1W time&lt;4 – quoi, puis ce qu’on en demande</translation>
     </message>
     <message>
         <source>Keep</source>
-        <translation type="unfinished"></translation>
+        <translation>Garder</translation>
     </message>
     <message>
         <source>Keeps this query among those at hand</source>
-        <translation type="unfinished"></translation>
+        <translation>Garde cette requête à portée de main</translation>
     </message>
     <message>
         <source>The files are being read…</source>
-        <translation type="unfinished"></translation>
+        <translation>Lecture des fichiers…</translation>
     </message>
     <message>
         <source>%1, %2</source>
@@ -10782,7 +10792,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>1 file</source>
-        <translation type="unfinished"></translation>
+        <translation>1 fichier</translation>
     </message>
     <message>
         <source>1 run</source>
@@ -10790,31 +10800,31 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>. Reading was stopped: the others are not searched.</source>
-        <translation type="unfinished"></translation>
+        <translation>. La lecture a été arrêtée : on n’a pas cherché dans les autres.</translation>
     </message>
     <message>
         <source>Nothing was found.</source>
-        <translation type="unfinished"></translation>
+        <translation>Rien n’a été trouvé.</translation>
     </message>
     <message>
         <source>In the group: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Dans le groupe : %1</translation>
     </message>
     <message>
         <source> · run %1</source>
-        <translation type="unfinished"></translation>
+        <translation> · manche %1</translation>
     </message>
     <message>
         <source> · split %1</source>
-        <translation type="unfinished"></translation>
+        <translation> · intermédiaire %1</translation>
     </message>
     <message>
         <source> · %1 s</source>
-        <translation type="unfinished"></translation>
+        <translation> · %1 s</translation>
     </message>
     <message>
         <source>Save the result</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer le résultat</translation>
     </message>
     <message>
         <source>Semicolon-separated text (*.csv)</source>
@@ -10822,9 +10832,9 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message numerus="yes">
         <source>%n files</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n fichier</numerusform>
+            <numerusform>%n fichiers</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -10839,26 +10849,26 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     <name>kavela::desktop::FoundLines</name>
     <message>
         <source>In the file</source>
-        <translation type="unfinished"></translation>
+        <translation>Dans le fichier</translation>
     </message>
     <message>
         <source>Was</source>
-        <translation type="unfinished"></translation>
+        <translation>Avant</translation>
     </message>
     <message>
         <source>Will be</source>
-        <translation type="unfinished"></translation>
+        <translation>Après</translation>
     </message>
     <message>
         <source>new: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>nouveau : %1</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::FoundTable</name>
     <message>
         <source>rows of the group</source>
-        <translation type="unfinished"></translation>
+        <translation>lignes du groupe</translation>
     </message>
     <message>
         <source>run</source>
@@ -10870,19 +10880,19 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>section</source>
-        <translation type="unfinished"></translation>
+        <translation>secteur</translation>
     </message>
     <message>
         <source>sections</source>
-        <translation type="unfinished"></translation>
+        <translation>secteurs</translation>
     </message>
     <message>
         <source>gate</source>
-        <translation type="unfinished"></translation>
+        <translation>porte</translation>
     </message>
     <message>
         <source>gates</source>
-        <translation type="unfinished"></translation>
+        <translation>portes</translation>
     </message>
     <message>
         <source>penalty</source>
@@ -10898,94 +10908,94 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>losses</source>
-        <translation type="unfinished"></translation>
+        <translation>pertes</translation>
     </message>
     <message>
         <source>section with strokes</source>
-        <translation type="unfinished"></translation>
+        <translation>secteur avec coups de pagaie</translation>
     </message>
     <message>
         <source>sections with strokes</source>
-        <translation type="unfinished"></translation>
+        <translation>secteurs avec coups de pagaie</translation>
     </message>
     <message>
         <source>tag</source>
-        <translation type="unfinished"></translation>
+        <translation>étiquette</translation>
     </message>
     <message>
         <source>tags</source>
-        <translation type="unfinished"></translation>
+        <translation>étiquettes</translation>
     </message>
     <message>
         <source>group</source>
-        <translation type="unfinished"></translation>
+        <translation>groupe</translation>
     </message>
     <message>
         <source>groups</source>
-        <translation type="unfinished"></translation>
+        <translation>groupes</translation>
     </message>
     <message>
         <source>less than 1 ms</source>
-        <translation type="unfinished"></translation>
+        <translation>moins de 1 ms</translation>
     </message>
     <message>
         <source>%1 ms</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ms</translation>
     </message>
     <message>
         <source>%1 %2 in %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 %2 en %3</translation>
     </message>
     <message>
         <source>, the first %1 shown</source>
-        <translation type="unfinished"></translation>
+        <translation>, les %1 premiers affichés</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::GapChart</name>
     <message>
         <source>Select runs in the table to see where time is won and lost.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sélectionnez des manches dans le tableau pour voir où le temps est gagné et perdu.</translation>
     </message>
     <message>
         <source>No run covers the whole course. Choose the median or a run as the reference.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucune manche ne couvre tout le parcours. Choisissez la médiane ou une manche comme référence.</translation>
     </message>
     <message>
         <source>The reference has no time in the first section. Choose another one.</source>
-        <translation type="unfinished"></translation>
+        <translation>La référence n’a pas de temps dans le premier secteur. Choisissez-en une autre.</translation>
     </message>
     <message>
         <source>Gap to the best run: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Écart à la meilleure manche : %1</translation>
     </message>
     <message>
         <source>Gap to the median of each section</source>
-        <translation type="unfinished"></translation>
+        <translation>Écart à la médiane de chaque secteur</translation>
     </message>
     <message>
         <source>Gap to the ideal run: the best of each section</source>
-        <translation type="unfinished"></translation>
+        <translation>Écart à la manche idéale : le meilleur de chaque secteur</translation>
     </message>
     <message>
         <source>Gap to %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Écart à %1</translation>
     </message>
     <message>
         <source>Accumulated seconds, penalties included</source>
-        <translation type="unfinished"></translation>
+        <translation>Secondes cumulées, pénalités comprises</translation>
     </message>
     <message>
         <source>Accumulated seconds, without penalties</source>
-        <translation type="unfinished"></translation>
+        <translation>Secondes cumulées, sans pénalités</translation>
     </message>
     <message>
         <source>← slower      faster →</source>
-        <translation type="unfinished"></translation>
+        <translation>← plus lent      plus rapide →</translation>
     </message>
     <message>
         <source>not timed</source>
-        <translation type="unfinished"></translation>
+        <translation>non chronométré</translation>
     </message>
     <message>
         <source>Gap</source>
@@ -10997,7 +11007,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>After %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Après %1</translation>
     </message>
     <message>
         <source>Section</source>
@@ -11005,26 +11015,26 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Title</source>
-        <translation type="unfinished"></translation>
+        <translation>Titre</translation>
     </message>
     <message>
         <source>%1: gap</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 : écart</translation>
     </message>
     <message>
         <source>%1: in the section</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 : dans le secteur</translation>
     </message>
     <message>
         <source>Gap along the course for the selected runs</source>
-        <translation type="unfinished"></translation>
+        <translation>Écart le long du parcours pour les manches sélectionnées</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::GateChart</name>
     <message>
         <source>No run has its penalties by gate. Enter them for each gate to see where they happen.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucune manche n’a ses pénalités par porte. Saisissez-les pour chaque porte pour voir où elles arrivent.</translation>
     </message>
     <message>
         <source>Penalties by gate</source>
@@ -11032,11 +11042,11 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Runs with a penalty at the gate, of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Manches avec une pénalité à la porte, sur %1</translation>
     </message>
     <message>
         <source> · ↑ upstream gate</source>
-        <translation type="unfinished"></translation>
+        <translation> · ↑ remontée</translation>
     </message>
     <message>
         <source>Gate</source>
@@ -11048,15 +11058,15 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Missed gate, 50 s</source>
-        <translation type="unfinished"></translation>
+        <translation>Porte manquée, 50 s</translation>
     </message>
     <message>
         <source>Touch, 2 s</source>
-        <translation type="unfinished"></translation>
+        <translation>Touche, 2 s</translation>
     </message>
     <message>
         <source>%1 s</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 s</translation>
     </message>
     <message>
         <source>Gate %1, upstream</source>
@@ -11080,7 +11090,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>touch</source>
-        <translation type="unfinished"></translation>
+        <translation>touche</translation>
     </message>
     <message>
         <source>Upstream</source>
@@ -11099,11 +11109,11 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>In</source>
-        <translation>Dans</translation>
+        <translation>Entrée</translation>
     </message>
     <message>
         <source>Out</source>
-        <translation type="unfinished"></translation>
+        <translation>Sortie</translation>
     </message>
     <message>
         <source>Total</source>
@@ -11115,7 +11125,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Mark the pole line too</source>
-        <translation type="unfinished"></translation>
+        <translation>Marquer aussi la ligne de porte</translation>
     </message>
     <message>
         <source>Style</source>
@@ -11123,18 +11133,18 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>A click brings a gate in front</source>
-        <translation type="unfinished"></translation>
+        <translation>Un clic met une porte au premier plan</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::GateStrip</name>
     <message>
         <source>Penalties at the gates</source>
-        <translation type="unfinished"></translation>
+        <translation>Pénalités aux portes</translation>
     </message>
     <message>
         <source>No gates yet: set up the course with Ctrl+G to note penalties.</source>
-        <translation type="unfinished"></translation>
+        <translation>Pas encore de portes : réglez le parcours avec Ctrl+G pour noter des pénalités.</translation>
     </message>
     <message>
         <source>Gate %1, upstream</source>
@@ -11147,7 +11157,8 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     <message>
         <source>
 T touch, F missed, 0 clean; N and P next and previous gate</source>
-        <translation type="unfinished"></translation>
+        <translation>
+T touche, F manquée, 0 sans pénalité ; N et P porte suivante et précédente</translation>
     </message>
 </context>
 <context>
@@ -11184,80 +11195,81 @@ T touch, F missed, 0 clean; N and P next and previous gate</source>
     <name>kavela::desktop::GoalsPanel</name>
     <message>
         <source>New group</source>
-        <translation type="unfinished"></translation>
+        <translation>Nouveau groupe</translation>
     </message>
     <message>
         <source>New goal</source>
-        <translation type="unfinished"></translation>
+        <translation>Nouvel objectif</translation>
     </message>
     <message>
         <source>New sub-goal</source>
-        <translation type="unfinished"></translation>
+        <translation>Nouveau sous-objectif</translation>
     </message>
     <message>
         <source>Goal</source>
-        <translation type="unfinished"></translation>
+        <translation>Objectif</translation>
     </message>
     <message>
         <source>Status</source>
-        <translation type="unfinished"></translation>
+        <translation>Statut</translation>
     </message>
     <message>
         <source>Add group</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajouter un groupe</translation>
     </message>
     <message>
         <source>A group of goals, such as “Technique”</source>
-        <translation type="unfinished"></translation>
+        <translation>Un groupe d’objectifs, comme « Technique »</translation>
     </message>
     <message>
         <source>Add goal</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajouter un objectif</translation>
     </message>
     <message>
         <source>To the group that is chosen</source>
-        <translation type="unfinished"></translation>
+        <translation>Au groupe choisi</translation>
     </message>
     <message>
         <source>Add sub-goal</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajouter un sous-objectif</translation>
     </message>
     <message>
         <source>To the group that is chosen, with a status (Insert)</source>
-        <translation type="unfinished"></translation>
+        <translation>Au groupe choisi, avec un statut (Inser)</translation>
     </message>
     <message>
         <source>Up</source>
-        <translation type="unfinished"></translation>
+        <translation>Monter</translation>
     </message>
     <message>
         <source>Alt+Up</source>
-        <translation type="unfinished"></translation>
+        <translation>Alt+Haut</translation>
     </message>
     <message>
         <source>Down</source>
-        <translation type="unfinished"></translation>
+        <translation>Descendre</translation>
     </message>
     <message>
         <source>Alt+Down</source>
-        <translation type="unfinished"></translation>
+        <translation>Alt+Bas</translation>
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>Retirer</translation>
     </message>
     <message>
         <source>Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>Supprimer</translation>
     </message>
     <message>
         <source>No goals are set for this season yet.
 “Add group” begins.</source>
-        <translation type="unfinished"></translation>
+        <translation>Encore aucun objectif pour cette saison.
+« Ajouter un groupe » pour commencer.</translation>
     </message>
     <message>
         <source>Choose a season to see its goals.</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisissez une saison pour voir ses objectifs.</translation>
     </message>
     <message>
         <source>Group %1</source>
@@ -11265,143 +11277,145 @@ T touch, F missed, 0 clean; N and P next and previous gate</source>
     </message>
     <message>
         <source>%1 of %2 reached</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 sur %2 atteints</translation>
     </message>
     <message>
         <source>, %1 given up</source>
-        <translation type="unfinished"></translation>
+        <translation>, %1 abandonnés</translation>
     </message>
     <message>
         <source>text of a goal</source>
-        <translation type="unfinished"></translation>
+        <translation>texte d’un objectif</translation>
     </message>
     <message>
         <source>status of a goal</source>
-        <translation type="unfinished"></translation>
+        <translation>statut d’un objectif</translation>
     </message>
     <message>
         <source>new goal</source>
-        <translation type="unfinished"></translation>
+        <translation>nouvel objectif</translation>
     </message>
     <message>
         <source>order of the goals</source>
-        <translation type="unfinished"></translation>
+        <translation>ordre des objectifs</translation>
     </message>
     <message>
         <source>removal of a goal</source>
-        <translation type="unfinished"></translation>
+        <translation>retrait d’un objectif</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::GymPanel</name>
     <message>
         <source>All seasons, in kilograms</source>
-        <translation type="unfinished"></translation>
+        <translation>Toutes les saisons, en kilogrammes</translation>
     </message>
     <message>
         <source>kg</source>
-        <translation type="unfinished"></translation>
+        <translation>kg</translation>
     </message>
     <message>
         <source>Maximum</source>
-        <translation type="unfinished"></translation>
+        <translation>Maximum</translation>
     </message>
     <message>
         <source>Weight</source>
-        <translation>Poids</translation>
+        <translation>Charge</translation>
     </message>
     <message>
         <source>Exercises</source>
-        <translation type="unfinished"></translation>
+        <translation>Exercices</translation>
     </message>
     <message>
         <source>Tonnage</source>
-        <translation type="unfinished"></translation>
+        <translation>Tonnage</translation>
     </message>
     <message>
         <source>Exercise of the chart</source>
-        <translation type="unfinished"></translation>
+        <translation>Exercice du graphique</translation>
     </message>
     <message>
         <source>&amp;History of</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Historique de</translation>
     </message>
     <message>
         <source>Add session</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajouter une séance</translation>
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>Retirer</translation>
     </message>
     <message>
         <source>removal of gym sessions</source>
-        <translation type="unfinished"></translation>
+        <translation>retrait de séances de musculation</translation>
     </message>
     <message>
         <source>Duplicate</source>
-        <translation type="unfinished"></translation>
+        <translation>Dupliquer</translation>
     </message>
     <message>
         <source>The same exercises once more, today</source>
-        <translation type="unfinished"></translation>
+        <translation>Les mêmes exercices encore une fois, aujourd’hui</translation>
     </message>
     <message>
         <source>date</source>
-        <translation type="unfinished"></translation>
+        <translation>date</translation>
     </message>
     <message>
         <source>new gym session</source>
-        <translation type="unfinished"></translation>
+        <translation>nouvelle séance de musculation</translation>
     </message>
     <message>
         <source>copy of a gym session</source>
-        <translation type="unfinished"></translation>
+        <translation>copie d’une séance de musculation</translation>
     </message>
     <message>
         <source>Choose an athlete.</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisissez un athlète.</translation>
     </message>
     <message>
         <source>Add a season for this athlete first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajoutez d’abord une saison pour cet athlète.</translation>
     </message>
     <message>
         <source>No gym session of this season yet.
 Press Insert to add today&apos;s.</source>
-        <translation type="unfinished"></translation>
+        <translation>Encore aucune séance de musculation cette saison.
+Appuyez sur Inser pour ajouter celle d’aujourd’hui.</translation>
     </message>
     <message>
         <source>No exercise yet.
 Press Insert to add one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Encore aucun exercice.
+Appuyez sur Inser pour en ajouter un.</translation>
     </message>
     <message>
         <source>Choose or add a session to see its exercises.</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisissez ou ajoutez une séance pour voir ses exercices.</translation>
     </message>
     <message>
         <source>Add an exercise with its weight to see how it develops.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajoutez un exercice avec sa charge pour voir comment elle évolue.</translation>
     </message>
     <message>
         <source>No weight of %1 yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Encore aucune charge pour %1.</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::HeatAttacks</name>
     <message>
         <source>✓ passed</source>
-        <translation type="unfinished"></translation>
+        <translation>✓ passée</translation>
     </message>
     <message>
         <source>✗ held</source>
-        <translation type="unfinished"></translation>
+        <translation>✗ contenue</translation>
     </message>
     <message>
         <source>Start</source>
-        <translation>Départ</translation>
+        <translation>Début</translation>
     </message>
     <message>
         <source>End</source>
@@ -11409,23 +11423,23 @@ Press Insert to add one.</source>
     </message>
     <message>
         <source>Attacker</source>
-        <translation type="unfinished"></translation>
+        <translation>Attaquant</translation>
     </message>
     <message>
         <source>On</source>
-        <translation type="unfinished"></translation>
+        <translation>Sur</translation>
     </message>
     <message>
         <source>Outcome</source>
-        <translation type="unfinished"></translation>
+        <translation>Issue</translation>
     </message>
     <message>
         <source>Side</source>
-        <translation type="unfinished"></translation>
+        <translation>Côté</translation>
     </message>
     <message>
         <source>Place</source>
-        <translation>Place</translation>
+        <translation>Lieu</translation>
     </message>
     <message>
         <source>Comment</source>
@@ -11433,19 +11447,19 @@ Press Insert to add one.</source>
     </message>
     <message>
         <source>Attacks</source>
-        <translation type="unfinished"></translation>
+        <translation>Attaques</translation>
     </message>
     <message>
         <source>Attack at this frame</source>
-        <translation type="unfinished"></translation>
+        <translation>Attaque à cette image</translation>
     </message>
     <message>
         <source>An attack starts here: then press the number of the attacker and those of the defenders</source>
-        <translation type="unfinished"></translation>
+        <translation>Une attaque commence ici : tapez ensuite le numéro de l’attaquant et ceux des défenseurs</translation>
     </message>
     <message>
         <source>A click shows the frame of an attack</source>
-        <translation type="unfinished"></translation>
+        <translation>Un clic montre l’image d’une attaque</translation>
     </message>
     <message>
         <source>Gate %1</source>
@@ -11453,102 +11467,102 @@ Press Insert to add one.</source>
     </message>
     <message>
         <source>attack</source>
-        <translation type="unfinished"></translation>
+        <translation>attaque</translation>
     </message>
     <message>
         <source>Attack: number of the attacker, then of the defenders</source>
-        <translation type="unfinished"></translation>
+        <translation>Attaque : numéro de l’attaquant, puis des défenseurs</translation>
     </message>
     <message>
         <source>An attack without a moment, since there is no film: press the number of the attacker, then those of the defenders.</source>
-        <translation type="unfinished"></translation>
+        <translation>Une attaque sans moment, puisqu’il n’y a pas de film : tapez le numéro de l’attaquant, puis ceux des défenseurs.</translation>
     </message>
     <message>
         <source>attacker</source>
-        <translation type="unfinished"></translation>
+        <translation>attaquant</translation>
     </message>
     <message>
         <source>defenders</source>
-        <translation type="unfinished"></translation>
+        <translation>défenseurs</translation>
     </message>
     <message>
         <source>moment of an attack</source>
-        <translation type="unfinished"></translation>
+        <translation>moment d’une attaque</translation>
     </message>
     <message>
         <source>end of an attack removed</source>
-        <translation type="unfinished"></translation>
+        <translation>fin d’une attaque retirée</translation>
     </message>
     <message>
         <source>attack removed</source>
-        <translation type="unfinished"></translation>
+        <translation>attaque retirée</translation>
     </message>
     <message>
         <source>Start ramp</source>
-        <translation type="unfinished"></translation>
+        <translation>Rampe de départ</translation>
     </message>
     <message>
         <source>Roll</source>
-        <translation type="unfinished"></translation>
+        <translation>Esquimautage</translation>
     </message>
     <message>
         <source>Eddy</source>
-        <translation type="unfinished"></translation>
+        <translation>Contre-courant</translation>
     </message>
     <message>
         <source>Drop</source>
-        <translation type="unfinished"></translation>
+        <translation>Chute</translation>
     </message>
     <message>
         <source>Wave</source>
-        <translation type="unfinished"></translation>
+        <translation>Vague</translation>
     </message>
     <message>
         <source>Flat water</source>
-        <translation type="unfinished"></translation>
+        <translation>Eau plate</translation>
     </message>
     <message>
         <source>Finish</source>
-        <translation type="unfinished"></translation>
+        <translation>Arrivée</translation>
     </message>
     <message>
         <source>Left</source>
-        <translation type="unfinished"></translation>
+        <translation>Gauche</translation>
     </message>
     <message>
         <source>Right</source>
-        <translation type="unfinished"></translation>
+        <translation>Droite</translation>
     </message>
     <message>
         <source>Inside</source>
-        <translation type="unfinished"></translation>
+        <translation>Intérieur</translation>
     </message>
     <message>
         <source>Outside</source>
-        <translation type="unfinished"></translation>
+        <translation>Extérieur</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::HeatDialog</name>
     <message>
         <source>Add a heat</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajouter une série</translation>
     </message>
     <message>
         <source>Names of the boats</source>
-        <translation type="unfinished"></translation>
+        <translation>Noms des bateaux</translation>
     </message>
     <message>
         <source>Boat %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Bateau %1</translation>
     </message>
     <message>
         <source>Each boat needs a name.</source>
-        <translation type="unfinished"></translation>
+        <translation>Chaque bateau doit avoir un nom.</translation>
     </message>
     <message>
         <source>%1 stands twice in the heat.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 figure deux fois dans la série.</translation>
     </message>
 </context>
 <context>
@@ -11559,19 +11573,19 @@ Press Insert to add one.</source>
     </message>
     <message>
         <source>⚠ missing: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>⚠ manque : %1</translation>
     </message>
     <message>
         <source>%1 of %2 gates</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 portes sur %2</translation>
     </message>
     <message>
         <source>Heat</source>
-        <translation type="unfinished"></translation>
+        <translation>Série</translation>
     </message>
     <message>
         <source>Boats</source>
-        <translation type="unfinished"></translation>
+        <translation>Bateaux</translation>
     </message>
     <message>
         <source>Film</source>
@@ -11579,46 +11593,46 @@ Press Insert to add one.</source>
     </message>
     <message>
         <source>Taken</source>
-        <translation type="unfinished"></translation>
+        <translation>Pris</translation>
     </message>
     <message>
         <source>Add a heat…</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajouter une série…</translation>
     </message>
     <message>
         <source>Adds a heat of up to four boats</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajoute une série de quatre bateaux au plus</translation>
     </message>
     <message>
         <source>Names…</source>
-        <translation type="unfinished"></translation>
+        <translation>Noms…</translation>
     </message>
     <message>
         <source>Other names for the boats of the heat</source>
-        <translation type="unfinished"></translation>
+        <translation>D’autres noms pour les bateaux de la série</translation>
     </message>
     <message>
         <source>Film…</source>
-        <translation type="unfinished"></translation>
+        <translation>Film…</translation>
     </message>
     <message>
         <source>Chooses the film of the heat</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisit le film de la série</translation>
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>Retirer</translation>
     </message>
     <message>
         <source>Removes the heat with all its marks</source>
-        <translation type="unfinished"></translation>
+        <translation>Retire la série avec toutes ses marques</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::HeatMapChart</name>
     <message>
         <source>Percent lost on %1, by section</source>
-        <translation type="unfinished"></translation>
+        <translation>Pourcentage perdu face à %1, par secteur</translation>
     </message>
     <message>
         <source>Percent lost by run and section</source>
@@ -11626,11 +11640,11 @@ Press Insert to add one.</source>
     </message>
     <message>
         <source>S%1</source>
-        <translation type="unfinished"></translation>
+        <translation>S%1</translation>
     </message>
     <message>
         <source>is the reference</source>
-        <translation type="unfinished"></translation>
+        <translation>est la référence</translation>
     </message>
     <message>
         <source>Run</source>
@@ -11641,67 +11655,67 @@ Press Insert to add one.</source>
     <name>kavela::desktop::HeatOrders</name>
     <message>
         <source>Take at this frame</source>
-        <translation type="unfinished"></translation>
+        <translation>Prendre à cette image</translation>
     </message>
     <message>
         <source>Takes the order shown at the frame shown</source>
-        <translation type="unfinished"></translation>
+        <translation>Prend l’ordre affiché à l’image affichée</translation>
     </message>
     <message>
         <source>Start over</source>
-        <translation type="unfinished"></translation>
+        <translation>Recommencer</translation>
     </message>
     <message>
         <source>Back to the order as it was</source>
-        <translation type="unfinished"></translation>
+        <translation>Retour à l’ordre tel qu’il était</translation>
     </message>
     <message>
         <source>Comment on this order</source>
-        <translation type="unfinished"></translation>
+        <translation>Commentaire de cet ordre</translation>
     </message>
     <message>
         <source>Add a heat first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajoutez d’abord une série.</translation>
     </message>
     <message>
         <source>The cross course has no gates yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le parcours de cross n’a pas encore de portes.</translation>
     </message>
     <message>
         <source>This order does not count for the course. Choose a gate of the course first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cet ordre ne compte pas pour le parcours. Choisissez d’abord une porte du parcours.</translation>
     </message>
     <message>
         <source>No boat is named yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun bateau n’a encore de nom.</translation>
     </message>
     <message>
         <source>order at gate %1</source>
-        <translation type="unfinished"></translation>
+        <translation>ordre à la porte %1</translation>
     </message>
     <message>
         <source>Gate %1:  %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Porte %1 :  %2</translation>
     </message>
     <message>
         <source>comment on an order</source>
-        <translation type="unfinished"></translation>
+        <translation>commentaire d’un ordre</translation>
     </message>
     <message>
         <source>not taken yet</source>
-        <translation type="unfinished"></translation>
+        <translation>pas encore pris</translation>
     </message>
     <message>
         <source>taken at %1</source>
-        <translation type="unfinished"></translation>
+        <translation>pris à %1</translation>
     </message>
     <message>
         <source>offered</source>
-        <translation type="unfinished"></translation>
+        <translation>proposé</translation>
     </message>
     <message>
         <source>Gate %1 · %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Porte %1 · %2</translation>
     </message>
     <message>
         <source>The cross course has no gates yet</source>
@@ -11709,30 +11723,30 @@ Press Insert to add one.</source>
     </message>
     <message>
         <source>Keep its moment</source>
-        <translation type="unfinished"></translation>
+        <translation>Garder son moment</translation>
     </message>
     <message>
         <source>Take without a moment</source>
-        <translation type="unfinished"></translation>
+        <translation>Prendre sans moment</translation>
     </message>
     <message>
         <source>Corrects the order and leaves its moment as it is</source>
-        <translation type="unfinished"></translation>
+        <translation>Corrige l’ordre et laisse son moment tel quel</translation>
     </message>
     <message>
         <source>Takes the order shown where there is no film</source>
-        <translation type="unfinished"></translation>
+        <translation>Prend l’ordre affiché là où il n’y a pas de film</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::HeatPage</name>
     <message>
         <source>No heats yet. Add a heat with its boats and choose its film; then go to each gate and press the numbers of the boats as they pass.</source>
-        <translation type="unfinished"></translation>
+        <translation>Encore aucune série. Ajoutez une série avec ses bateaux et choisissez son film ; allez ensuite à chaque porte et tapez les numéros des bateaux dans l’ordre de passage.</translation>
     </message>
     <message>
         <source>A%1</source>
-        <translation type="unfinished"></translation>
+        <translation>A%1</translation>
     </message>
     <message>
         <source>No mark is selected. Ctrl and the arrows go from mark to mark.</source>
@@ -11740,43 +11754,43 @@ Press Insert to add one.</source>
     </message>
     <message>
         <source>order moved</source>
-        <translation type="unfinished"></translation>
+        <translation>ordre déplacé</translation>
     </message>
     <message>
         <source>order removed</source>
-        <translation type="unfinished"></translation>
+        <translation>ordre retiré</translation>
     </message>
     <message>
         <source>This heat has %1 boats.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cette série a %1 bateaux.</translation>
     </message>
     <message>
         <source>heat</source>
-        <translation type="unfinished"></translation>
+        <translation>série</translation>
     </message>
     <message>
         <source>heat removed</source>
-        <translation type="unfinished"></translation>
+        <translation>série retirée</translation>
     </message>
     <message>
         <source>names of boats</source>
-        <translation type="unfinished"></translation>
+        <translation>noms des bateaux</translation>
     </message>
     <message>
         <source>film of a heat</source>
-        <translation type="unfinished"></translation>
+        <translation>film d’une série</translation>
     </message>
     <message>
         <source>Add a heat first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajoutez d’abord une série.</translation>
     </message>
     <message>
         <source>This heat has no boats yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cette série n’a pas encore de bateaux.</translation>
     </message>
     <message>
         <source>Select the attack that ends here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sélectionnez l’attaque qui finit ici.</translation>
     </message>
 </context>
 <context>
@@ -11854,37 +11868,40 @@ Press Insert to add one.</source>
     </message>
     <message>
         <source>Ideal run %1 s</source>
-        <translation type="unfinished"></translation>
+        <translation>Manche idéale %1 s</translation>
     </message>
     <message>
         <source>No ideal run: a section has no time.</source>
-        <translation type="unfinished"></translation>
+        <translation>Pas de manche idéale : un secteur n’a pas de temps.</translation>
     </message>
     <message>
         <source>
 Fastest run %1 s, %2
 %3 s behind the ideal run</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Manche la plus rapide %1 s, %2
+%3 s derrière la manche idéale</translation>
     </message>
     <message>
         <source>
 Penalties are left out.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Les pénalités sont laissées de côté.</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::InformationDialog</name>
     <message>
         <source>Session information</source>
-        <translation type="unfinished"></translation>
+        <translation>Informations de la séance</translation>
     </message>
     <message>
         <source>The weight tells force and power when a recording is converted: analyse it again after changing it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le poids donne force et puissance à la conversion d’un enregistrement : analysez-le à nouveau après l’avoir changé.</translation>
     </message>
     <message>
         <source>–</source>
-        <translation type="unfinished"></translation>
+        <translation>–</translation>
     </message>
     <message>
         <source>&amp;Athlete</source>
@@ -11892,7 +11909,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>&amp;Location</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Lieu</translation>
     </message>
     <message>
         <source>&amp;Kind</source>
@@ -11900,35 +11917,35 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>&amp;Weight</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Poids</translation>
     </message>
     <message>
         <source>kg</source>
-        <translation type="unfinished"></translation>
+        <translation>kg</translation>
     </message>
     <message>
         <source>&amp;Paddle length</source>
-        <translation type="unfinished"></translation>
+        <translation>Longueur &amp;de la pagaie</translation>
     </message>
     <message>
         <source>cm</source>
-        <translation type="unfinished"></translation>
+        <translation>cm</translation>
     </message>
     <message>
         <source>&amp;Blade area</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Surface de la pale</translation>
     </message>
     <message>
         <source>cm²</source>
-        <translation type="unfinished"></translation>
+        <translation>cm²</translation>
     </message>
     <message>
         <source>Blade &amp;height</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Hauteur de la pale</translation>
     </message>
     <message>
         <source>Hand po&amp;sition</source>
-        <translation type="unfinished"></translation>
+        <translation>Position des &amp;mains</translation>
     </message>
 </context>
 <context>
@@ -11946,90 +11963,90 @@ Penalties are left out.</source>
     <name>kavela::desktop::IntervalForm</name>
     <message>
         <source>Minutes and seconds such as 1:30, or seconds</source>
-        <translation type="unfinished"></translation>
+        <translation>Minutes et secondes comme 1:30, ou secondes</translation>
     </message>
     <message>
         <source>&amp;Title</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Titre</translation>
     </message>
     <message>
         <source>T&amp;arget</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Cible</translation>
     </message>
     <message>
         <source>Rh&amp;ythm</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Rythme</translation>
     </message>
     <message>
         <source>S&amp;ets</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Séries</translation>
     </message>
     <message>
         <source>Re&amp;petitions</source>
-        <translation type="unfinished"></translation>
+        <translation>Ré&amp;pétitions</translation>
     </message>
     <message>
         <source>&amp;Work</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Effort</translation>
     </message>
     <message>
         <source>&amp;Rest between repetitions</source>
-        <translation type="unfinished"></translation>
+        <translation>Réc&amp;upération entre répétitions</translation>
     </message>
     <message>
         <source>Rest &amp;between sets</source>
-        <translation type="unfinished"></translation>
+        <translation>Récupér&amp;ation entre séries</translation>
     </message>
     <message>
         <source>&amp;Kind of rest</source>
-        <translation type="unfinished"></translation>
+        <translation>Type &amp;de récupération</translation>
     </message>
     <message>
         <source>&amp;Volume</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Volume</translation>
     </message>
     <message>
         <source>&amp;Intensity</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Intensité</translation>
     </message>
     <message>
         <source>&amp;Description</source>
-        <translation type="unfinished"></translation>
+        <translation>Descripti&amp;on</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::IntervalTimerDialog</name>
     <message>
         <source>%1 – timer</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 – minuteur</translation>
     </message>
     <message>
         <source>◀ Back</source>
-        <translation type="unfinished"></translation>
+        <translation>◀ Retour</translation>
     </message>
     <message>
         <source>Left</source>
-        <translation type="unfinished"></translation>
+        <translation>Gauche</translation>
     </message>
     <message>
         <source>Space</source>
-        <translation type="unfinished"></translation>
+        <translation>Espace</translation>
     </message>
     <message>
         <source>Skip ▶</source>
-        <translation type="unfinished"></translation>
+        <translation>Passer ▶</translation>
     </message>
     <message>
         <source>Right</source>
-        <translation type="unfinished"></translation>
+        <translation>Droite</translation>
     </message>
     <message>
         <source>Full screen</source>
-        <translation type="unfinished"></translation>
+        <translation>Plein écran</translation>
     </message>
     <message>
         <source>F11</source>
-        <translation type="unfinished"></translation>
+        <translation>F11</translation>
     </message>
     <message>
         <source>Close</source>
@@ -12037,23 +12054,23 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Escape</source>
-        <translation type="unfinished"></translation>
+        <translation>Échap</translation>
     </message>
     <message>
         <source>Pause</source>
-        <translation type="unfinished"></translation>
+        <translation>Pause</translation>
     </message>
     <message>
         <source>Start again</source>
-        <translation type="unfinished"></translation>
+        <translation>Recommencer</translation>
     </message>
     <message>
         <source>Go on</source>
-        <translation type="unfinished"></translation>
+        <translation>Continuer</translation>
     </message>
     <message>
         <source>Start</source>
-        <translation>Départ</translation>
+        <translation>Démarrer</translation>
     </message>
 </context>
 <context>
@@ -12064,7 +12081,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Make-up</source>
-        <translation type="unfinished"></translation>
+        <translation>Composition</translation>
     </message>
     <message>
         <source>Total</source>
@@ -12072,143 +12089,143 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Work</source>
-        <translation type="unfinished"></translation>
+        <translation>Effort</translation>
     </message>
     <message>
         <source>New session</source>
-        <translation type="unfinished"></translation>
+        <translation>Nouvelle séance</translation>
     </message>
     <message>
         <source>interval session</source>
-        <translation type="unfinished"></translation>
+        <translation>séance d’intervalles</translation>
     </message>
     <message>
         <source>No favourite sessions yet. “Add” begins the first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Encore aucune séance favorite. « Ajouter » crée la première.</translation>
     </message>
     <message>
         <source>Add a session</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajouter une séance</translation>
     </message>
     <message>
         <source>Add</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajouter</translation>
     </message>
     <message>
         <source>Duplicate</source>
-        <translation type="unfinished"></translation>
+        <translation>Dupliquer</translation>
     </message>
     <message>
         <source>Another one like it</source>
-        <translation type="unfinished"></translation>
+        <translation>Une autre semblable</translation>
     </message>
     <message>
         <source>Up</source>
-        <translation type="unfinished"></translation>
+        <translation>Monter</translation>
     </message>
     <message>
         <source>Down</source>
-        <translation type="unfinished"></translation>
+        <translation>Descendre</translation>
     </message>
     <message>
         <source>Remove the session</source>
-        <translation type="unfinished"></translation>
+        <translation>Retirer la séance</translation>
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>Retirer</translation>
     </message>
     <message>
         <source>Start the timer…</source>
-        <translation type="unfinished"></translation>
+        <translation>Lancer le minuteur…</translation>
     </message>
     <message>
         <source>A clock for the bank, readable from afar. Double click on a session opens it too.</source>
-        <translation type="unfinished"></translation>
+        <translation>Une horloge pour la rive, lisible de loin. Un double-clic sur une séance l’ouvre aussi.</translation>
     </message>
     <message>
         <source>new interval session</source>
-        <translation type="unfinished"></translation>
+        <translation>nouvelle séance d’intervalles</translation>
     </message>
     <message>
         <source>%1, copy</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, copie</translation>
     </message>
     <message>
         <source>copy of an interval session</source>
-        <translation type="unfinished"></translation>
+        <translation>copie d’une séance d’intervalles</translation>
     </message>
     <message>
         <source>order of the interval sessions</source>
-        <translation type="unfinished"></translation>
+        <translation>ordre des séances d’intervalles</translation>
     </message>
     <message>
         <source>removal of an interval session</source>
-        <translation type="unfinished"></translation>
+        <translation>retrait d’une séance d’intervalles</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::JobsWindow</name>
     <message>
         <source>S&amp;top</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Arrêter</translation>
     </message>
     <message>
         <source>Show the &amp;folder</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Montrer le dossier</translation>
     </message>
     <message>
         <source>&amp;Clear what is over</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Effacer ce qui est fini</translation>
     </message>
     <message>
         <source>Films being composed</source>
-        <translation type="unfinished"></translation>
+        <translation>Films en composition</translation>
     </message>
     <message>
         <source>No film is being composed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun film n’est en composition.</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::KeptColumns</name>
     <message>
         <source>&amp;All columns in their order</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Toutes les colonnes dans leur ordre</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::KeptQueries</name>
     <message>
         <source>Queries</source>
-        <translation type="unfinished"></translation>
+        <translation>Requêtes</translation>
     </message>
     <message>
         <source>Kept</source>
-        <translation type="unfinished"></translation>
+        <translation>Conservées</translation>
     </message>
     <message>
         <source>Asked last</source>
-        <translation type="unfinished"></translation>
+        <translation>Demandées en dernier</translation>
     </message>
     <message>
         <source>Examples</source>
-        <translation type="unfinished"></translation>
+        <translation>Exemples</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::KeyEditor</name>
     <message>
         <source>Keys</source>
-        <translation type="unfinished"></translation>
+        <translation>Touches</translation>
     </message>
     <message>
         <source>Find an action</source>
-        <translation type="unfinished"></translation>
+        <translation>Chercher une action</translation>
     </message>
     <message>
         <source>Standard keys</source>
-        <translation type="unfinished"></translation>
+        <translation>Touches standard</translation>
     </message>
     <message>
         <source>Close</source>
@@ -12216,48 +12233,48 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>%1 is the key of “%2” already. “%3” can take it over; “%2” has it no longer then.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 est déjà la touche de « %2 ». « %3 » peut la reprendre ; « %2 » ne l’aura alors plus.</translation>
     </message>
     <message>
         <source>Take it over</source>
-        <translation type="unfinished"></translation>
+        <translation>La reprendre</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::KeyOverlay</name>
     <message>
         <source>All keys</source>
-        <translation type="unfinished"></translation>
+        <translation>Toutes les touches</translation>
     </message>
     <message>
         <source>Up, Down, Page up and Page down show the rest; any other key closes.</source>
-        <translation type="unfinished"></translation>
+        <translation>Haut, Bas, Page préc. et Page suiv. montrent la suite ; toute autre touche ferme.</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::LaneStrip</name>
     <message>
         <source>Notes of the run</source>
-        <translation type="unfinished"></translation>
+        <translation>Notes de la manche</translation>
     </message>
     <message>
         <source>A click shows the frame of a mark, dragging moves the mark</source>
-        <translation type="unfinished"></translation>
+        <translation>Un clic montre l’image d’une marque, un glissement déplace la marque</translation>
     </message>
     <message>
         <source>Others</source>
-        <translation type="unfinished"></translation>
+        <translation>Autres</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::LineOverlay</name>
     <message>
         <source>Lines over the film</source>
-        <translation type="unfinished"></translation>
+        <translation>Lignes sur le film</translation>
     </message>
     <message>
         <source>Drag an end of a line, or the line. With the focus here the arrows move it, with Shift by ten pixels; Tab goes from end to end, Esc leaves.</source>
-        <translation type="unfinished"></translation>
+        <translation>Faites glisser une extrémité d’une ligne, ou la ligne. Quand elle est active, les flèches la déplacent, avec Maj de dix pixels ; Tab va d’une extrémité à l’autre, Échap quitte.</translation>
     </message>
     <message>
         <source>Start</source>
@@ -12268,19 +12285,19 @@ Penalties are left out.</source>
     <name>kavela::desktop::List</name>
     <message>
         <source>date</source>
-        <translation type="unfinished"></translation>
+        <translation>date</translation>
     </message>
     <message>
         <source>new %1</source>
-        <translation type="unfinished"></translation>
+        <translation>ajout : %1</translation>
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>Retirer</translation>
     </message>
     <message>
         <source>removal of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>retrait : %1</translation>
     </message>
 </context>
 <context>
@@ -12291,46 +12308,46 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>No row is left. Ctrl+Z takes the last step back.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il ne reste aucune ligne. Ctrl+Z annule la dernière étape.</translation>
     </message>
     <message>
         <source>Every cell was taken.</source>
-        <translation type="unfinished"></translation>
+        <translation>Chaque cellule a été reprise.</translation>
     </message>
     <message>
         <source>Chart</source>
-        <translation type="unfinished"></translation>
+        <translation>Graphique</translation>
     </message>
     <message>
         <source>Refused</source>
-        <translation type="unfinished"></translation>
+        <translation>Refusé</translation>
     </message>
     <message>
         <source>Refused (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Refusé (%1)</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::LoginDialog</name>
     <message>
         <source>&amp;Keep it in the password store of this computer</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Le garder dans le coffre de mots de passe de cet ordinateur</translation>
     </message>
     <message>
         <source>Sign in to %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Se connecter à %1</translation>
     </message>
     <message>
         <source>Only this server is shown the password. It is never written into a file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Seul ce serveur reçoit le mot de passe. Il n’est jamais écrit dans un fichier.</translation>
     </message>
     <message>
         <source>&amp;User name</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Nom d’utilisateur</translation>
     </message>
     <message>
         <source>Pass&amp;word</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Mot de passe</translation>
     </message>
 </context>
 <context>
@@ -12415,7 +12432,7 @@ Penalties are left out.</source>
     <name>kavela::desktop::LossPage</name>
     <message>
         <source>Start</source>
-        <translation>Départ</translation>
+        <translation>Début</translation>
     </message>
     <message>
         <source>End</source>
@@ -12859,7 +12876,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Micro splits</source>
-        <translation type="unfinished"></translation>
+        <translation>Micro-inters</translation>
     </message>
     <message>
         <source>Upstream gates</source>
@@ -12879,19 +12896,19 @@ Penalties are left out.</source>
     </message>
     <message>
         <source> · camera %1</source>
-        <translation type="unfinished"></translation>
+        <translation> · caméra %1</translation>
     </message>
     <message>
         <source> · fixed camera %1</source>
-        <translation type="unfinished"></translation>
+        <translation> · caméra fixe %1</translation>
     </message>
     <message>
         <source> · other run</source>
-        <translation type="unfinished"></translation>
+        <translation> · autre manche</translation>
     </message>
     <message>
         <source>%1 at %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 à %2</translation>
     </message>
     <message>
         <source>Time</source>
@@ -12899,53 +12916,53 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Mark</source>
-        <translation type="unfinished"></translation>
+        <translation>Marque</translation>
     </message>
     <message>
         <source>Times are of this run, whatever film a mark lies on. A click shows the frame of a mark; Ctrl and Shift choose several for their clips</source>
-        <translation type="unfinished"></translation>
+        <translation>Les temps sont ceux de cette manche, quel que soit le film de la marque. Un clic montre l’image d’une marque ; Ctrl et Maj en choisissent plusieurs pour leurs extraits</translation>
     </message>
     <message>
         <source>Kinds</source>
-        <translation type="unfinished"></translation>
+        <translation>Types</translation>
     </message>
     <message>
         <source>The kinds of marks that are listed</source>
-        <translation type="unfinished"></translation>
+        <translation>Les types de marques listés</translation>
     </message>
     <message>
         <source>Marks of the run</source>
-        <translation type="unfinished"></translation>
+        <translation>Marques de la manche</translation>
     </message>
     <message>
         <source>All kinds</source>
-        <translation type="unfinished"></translation>
+        <translation>Tous les types</translation>
     </message>
     <message>
         <source>Clips</source>
-        <translation type="unfinished"></translation>
+        <translation>Extraits</translation>
     </message>
     <message>
         <source>Plays the clips of the chosen marks one after another; of all that are listed when not several are chosen</source>
-        <translation type="unfinished"></translation>
+        <translation>Lit l’un après l’autre les extraits des marques choisies ; de toutes celles listées si plusieurs ne sont pas choisies</translation>
     </message>
     <message numerus="yes">
         <source>%n second(s) before and after a mark</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n seconde avant et après une marque</numerusform>
+            <numerusform>%n secondes avant et après une marque</numerusform>
         </translation>
     </message>
     <message>
         <source> · outside the film</source>
-        <translation type="unfinished"></translation>
+        <translation> · hors du film</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::MicroPage</name>
     <message>
         <source>Mark</source>
-        <translation type="unfinished"></translation>
+        <translation>Marque</translation>
     </message>
     <message>
         <source>Time</source>
@@ -12953,15 +12970,15 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>From the one before</source>
-        <translation type="unfinished"></translation>
+        <translation>Depuis le précédent</translation>
     </message>
     <message>
         <source>M marks a micro split at the frame shown.</source>
-        <translation type="unfinished"></translation>
+        <translation>M marque un micro-intermédiaire à l’image affichée.</translation>
     </message>
     <message>
         <source>micro split</source>
-        <translation type="unfinished"></translation>
+        <translation>micro-intermédiaire</translation>
     </message>
 </context>
 <context>
@@ -12976,179 +12993,179 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>&amp;Open recordings…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ouvrir des enregistrements…</translation>
     </message>
     <message>
         <source>Save the &amp;chart…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Enregistrer le graphique…</translation>
     </message>
     <message>
         <source>&amp;Recording</source>
-        <translation type="unfinished"></translation>
+        <translation>E&amp;nregistrement</translation>
     </message>
     <message>
         <source>&amp;Convert</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Convertir</translation>
     </message>
     <message>
         <source>Convert &amp;all ticked</source>
-        <translation type="unfinished"></translation>
+        <translation>Convertir &amp;tous ceux cochés</translation>
     </message>
     <message>
         <source>&amp;Open the converted session</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir &amp;la séance convertie</translation>
     </message>
     <message>
         <source>&amp;Previous recording</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrement &amp;précédent</translation>
     </message>
     <message>
         <source>&amp;Next recording</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrement &amp;suivant</translation>
     </message>
     <message>
         <source>&amp;Show or hide</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Afficher ou masquer</translation>
     </message>
     <message>
         <source>Show this one a&amp;lone</source>
-        <translation type="unfinished"></translation>
+        <translation>A&amp;fficher celui-ci seul</translation>
     </message>
     <message>
         <source>&amp;Remove from the list</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Retirer de la liste</translation>
     </message>
     <message>
         <source>&amp;Time</source>
-        <translation type="unfinished"></translation>
+        <translation>Te&amp;mps</translation>
     </message>
     <message>
         <source>&amp;Undo the move</source>
-        <translation type="unfinished"></translation>
+        <translation>Annuler le &amp;déplacement</translation>
     </message>
     <message>
         <source>&amp;Redo the move</source>
-        <translation type="unfinished"></translation>
+        <translation>Réta&amp;blir le déplacement</translation>
     </message>
     <message>
         <source>Align the &amp;starts</source>
-        <translation type="unfinished"></translation>
+        <translation>Ali&amp;gner les départs</translation>
     </message>
     <message>
         <source>Align by the &amp;clock</source>
-        <translation type="unfinished"></translation>
+        <translation>Aligner par l’&amp;horloge</translation>
     </message>
     <message>
         <source>&amp;Align here: the cursor to the clicked moment</source>
-        <translation type="unfinished"></translation>
+        <translation>Aligner &amp;ici : le curseur au moment cliqué</translation>
     </message>
     <message>
         <source>&amp;Forget the clicked moment</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Oublier le moment cliqué</translation>
     </message>
     <message>
         <source>&amp;Earlier</source>
-        <translation type="unfinished"></translation>
+        <translation>Pl&amp;us tôt</translation>
     </message>
     <message>
         <source>&amp;Later</source>
-        <translation type="unfinished"></translation>
+        <translation>Plus &amp;tard</translation>
     </message>
     <message>
         <source>&amp;Previous stroke</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Coup de pagaie précédent</translation>
     </message>
     <message>
         <source>&amp;Next stroke</source>
-        <translation>&amp;Coup de pagaie suivant</translation>
+        <translation>Coup de &amp;pagaie suivant</translation>
     </message>
     <message>
         <source>&amp;Charts</source>
-        <translation>&amp;Graphiques</translation>
+        <translation>Graphi&amp;ques</translation>
     </message>
     <message>
         <source>Axes of the &amp;phone</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Axes du téléphone</translation>
     </message>
     <message>
         <source>Axes of the phone</source>
-        <translation type="unfinished"></translation>
+        <translation>Axes du téléphone</translation>
     </message>
     <message>
         <source>&amp;Mark strokes and turns</source>
-        <translation type="unfinished"></translation>
+        <translation>Marquer coups de pagaie &amp;et virages</translation>
     </message>
     <message>
         <source>Zoom &amp;in</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Zoom avant</translation>
     </message>
     <message>
         <source>Zoom &amp;out</source>
-        <translation type="unfinished"></translation>
+        <translation>Zoo&amp;m arrière</translation>
     </message>
     <message>
         <source>Show &amp;everything</source>
-        <translation type="unfinished"></translation>
+        <translation>Tout a&amp;fficher</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::MotionAlignment</name>
     <message>
         <source>Every recording begins at 0. Ctrl+Z brings the alignment before back.</source>
-        <translation type="unfinished"></translation>
+        <translation>Chaque enregistrement commence à 0. Ctrl+Z rétablit l’alignement précédent.</translation>
     </message>
     <message>
         <source>Every recording stands at its date. Ctrl+Z brings the alignment before back.</source>
-        <translation type="unfinished"></translation>
+        <translation>Chaque enregistrement est à sa date. Ctrl+Z rétablit l’alignement précédent.</translation>
     </message>
     <message>
         <source>The date is not known of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>La date de %1 n’est pas connue</translation>
     </message>
     <message>
         <source>Click the moment where it should be, choose a recording, point at its moment and press A</source>
-        <translation type="unfinished"></translation>
+        <translation>Cliquez le moment voulu, choisissez un enregistrement, pointez son moment et appuyez sur A</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::MotionCharts</name>
     <message>
         <source>here</source>
-        <translation type="unfinished"></translation>
+        <translation>ici</translation>
     </message>
     <message>
         <source>L</source>
-        <translation type="unfinished"></translation>
+        <translation>G</translation>
     </message>
     <message>
         <source>R</source>
-        <translation type="unfinished"></translation>
+        <translation>D</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::MotionConversions</name>
     <message>
         <source>Convert</source>
-        <translation type="unfinished"></translation>
+        <translation>Convertir</translation>
     </message>
     <message>
         <source>%1  %2: %3 strokes, %4 turns</source>
-        <translation type="unfinished"></translation>
+        <translation>%1  %2 : %3 coups de pagaie, %4 virages</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::MotionPanel</name>
     <message>
         <source>%1 s of %2 s are recorded.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 s sur %2 s sont enregistrées.</translation>
     </message>
     <message>
         <source>Nothing of it is recorded.</source>
-        <translation type="unfinished"></translation>
+        <translation>Rien n’en est enregistré.</translation>
     </message>
     <message>
         <source>greatest %1 m/s, %2 m</source>
-        <translation type="unfinished"></translation>
+        <translation>maximum %1 m/s, %2 m</translation>
     </message>
     <message>
         <source>Section</source>
@@ -13168,7 +13185,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Heart</source>
-        <translation type="unfinished"></translation>
+        <translation>Cœur</translation>
     </message>
     <message>
         <source>Speed</source>
@@ -13184,15 +13201,15 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Select a run to see its strokes, speed and heart rate.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sélectionnez une manche pour voir ses coups de pagaie, sa vitesse et sa fréquence cardiaque.</translation>
     </message>
     <message>
         <source>No recording is attached to this run. Split taking attaches one (Ctrl+B).</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun enregistrement n’est joint à cette manche. La prise de temps intermédiaires en joint un (Ctrl+B).</translation>
     </message>
     <message>
         <source>%1 of the part that is recorded; strokes of the whole run are not known.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 de la partie enregistrée ; les coups de pagaie de la manche entière ne sont pas connus.</translation>
     </message>
     <message>
         <source>Run</source>
@@ -13203,7 +13220,7 @@ Penalties are left out.</source>
     <name>kavela::desktop::MotionRecordings</name>
     <message>
         <source>%1: there is not enough memory for it</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 : il n’y a pas assez de mémoire pour cela</translation>
     </message>
 </context>
 <context>
@@ -13214,39 +13231,39 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Open it</source>
-        <translation type="unfinished"></translation>
+        <translation>L’ouvrir</translation>
     </message>
     <message>
         <source>Convert</source>
-        <translation type="unfinished"></translation>
+        <translation>Convertir</translation>
     </message>
     <message>
         <source>Writes strokes and turns as a processed session (.bms) beside the recording</source>
-        <translation type="unfinished"></translation>
+        <translation>Écrit coups de pagaie et virages en séance traitée (.bms) à côté de l’enregistrement</translation>
     </message>
     <message>
         <source>Convert all ticked</source>
-        <translation type="unfinished"></translation>
+        <translation>Convertir tous ceux cochés</translation>
     </message>
     <message>
         <source>At the cursor</source>
-        <translation type="unfinished"></translation>
+        <translation>Au curseur</translation>
     </message>
     <message>
         <source>Drop raw recordings (.kvb) here</source>
-        <translation type="unfinished"></translation>
+        <translation>Déposez ici des enregistrements bruts (.kvb)</translation>
     </message>
     <message>
         <source>Several are laid over each other. They are only read: converting writes a new file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Plusieurs sont superposés. Ils sont seulement lus : convertir écrit un nouveau fichier.</translation>
     </message>
     <message>
         <source>Open recordings…</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir des enregistrements…</translation>
     </message>
     <message>
         <source>Saved %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 enregistré</translation>
     </message>
     <message>
         <source>Open recordings</source>
@@ -13254,7 +13271,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Raw recordings (*.kvb);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrements bruts (*.kvb);;Tous les fichiers (*)</translation>
     </message>
     <message>
         <source>%1 of %2</source>
@@ -13262,11 +13279,11 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Reading %1…</source>
-        <translation type="unfinished"></translation>
+        <translation>Lecture de %1…</translation>
     </message>
     <message>
         <source>Raw recordings</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrements bruts</translation>
     </message>
     <message>
         <source>%1 and %2 more</source>
@@ -13277,19 +13294,19 @@ Penalties are left out.</source>
     <name>kavela::desktop::NoteMarks</name>
     <message>
         <source>This mark lies on the film of a fixed camera that is not in step.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cette marque est sur le film d’une caméra fixe qui n’est pas synchronisée.</translation>
     </message>
     <message>
         <source>The other run of this time loss is not in this file.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’autre manche de cette perte de temps n’est pas dans ce fichier.</translation>
     </message>
     <message>
         <source>Another run came to the front: nothing was marked.</source>
-        <translation type="unfinished"></translation>
+        <translation>Une autre manche est passée au premier plan : rien n’a été marqué.</translation>
     </message>
     <message>
         <source>Nothing can be marked: %1 is not in the folder of the split file. Cameras &gt; Where are the films now?</source>
-        <translation type="unfinished"></translation>
+        <translation>Rien ne peut être marqué : %1 n’est pas dans le dossier du fichier d’intermédiaires. Caméras &gt; Où sont les films maintenant ?</translation>
     </message>
     <message>
         <source>mark moved</source>
@@ -13301,15 +13318,15 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>This mark lies on another film than the one shown.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cette marque est sur un autre film que celui affiché.</translation>
     </message>
     <message>
         <source>None of these marks lies on the film that is shown.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucune de ces marques n’est sur le film affiché.</translation>
     </message>
     <message>
         <source>Nothing is selected that could be removed. Ctrl and the arrows go from mark to mark.</source>
-        <translation type="unfinished"></translation>
+        <translation>Rien de sélectionné ne peut être retiré. Ctrl et les flèches vont de marque en marque.</translation>
     </message>
     <message>
         <source>mark removed</source>
@@ -13328,7 +13345,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Upstreams</source>
-        <translation type="unfinished"></translation>
+        <translation>Remontées</translation>
     </message>
     <message>
         <source>Strokes</source>
@@ -13336,7 +13353,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Micro</source>
-        <translation type="unfinished"></translation>
+        <translation>Micro</translation>
     </message>
     <message>
         <source>Tags</source>
@@ -13344,7 +13361,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Losses</source>
-        <translation type="unfinished"></translation>
+        <translation>Pertes</translation>
     </message>
     <message>
         <source>Comments</source>
@@ -13356,65 +13373,65 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Cameras</source>
-        <translation type="unfinished"></translation>
+        <translation>Caméras</translation>
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>Retirer</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::NotesPanel</name>
     <message>
         <source>Clip %1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Extrait %1 sur %2</translation>
     </message>
     <message>
         <source>This key works in the mode %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cette touche agit dans le mode %1.</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::OfferDialog</name>
     <message>
         <source>A newer version</source>
-        <translation type="unfinished"></translation>
+        <translation>Une version plus récente</translation>
     </message>
     <message>
         <source>Kavela %1 is here</source>
-        <translation type="unfinished"></translation>
+        <translation>Kavela %1 est là</translation>
     </message>
     <message>
         <source>What is new</source>
-        <translation type="unfinished"></translation>
+        <translation>Nouveautés</translation>
     </message>
     <message>
         <source>Nothing is told of what is new.</source>
-        <translation type="unfinished"></translation>
+        <translation>Rien n’est dit des nouveautés.</translation>
     </message>
     <message>
         <source>The file has %1 and is put into %2. You install it yourself, when it suits you.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier fait %1 et est placé dans %2. Vous l’installez vous-même, quand cela vous convient.</translation>
     </message>
     <message>
         <source>It is of %1. You have %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Elle est du %1. Vous avez %2.</translation>
     </message>
     <message>
         <source>&amp;Skip this version</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Sauter cette version</translation>
     </message>
     <message>
         <source>&amp;Later</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Plus tard</translation>
     </message>
     <message>
         <source>&amp;Download</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Télécharger</translation>
     </message>
     <message>
         <source>&amp;Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Annuler</translation>
     </message>
     <message>
         <source>%1 of %2</source>
@@ -13422,50 +13439,50 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>&amp;Close</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Fermer</translation>
     </message>
     <message>
         <source>&amp;Show the folder</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Montrer le dossier</translation>
     </message>
     <message>
         <source>The file is the one that was signed, and stands as “%1” in %2. Leave Kavela before you install it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier est bien celui qui a été signé ; il se trouve sous le nom « %1 » dans %2. Quittez Kavela avant de l’installer.</translation>
     </message>
     <message>
         <source>Nothing was kept of the file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Rien du fichier n’a été gardé.</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::OfficialDialog</name>
     <message>
         <source>Crew</source>
-        <translation type="unfinished"></translation>
+        <translation>Équipage</translation>
     </message>
     <message>
         <source>What differs</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce qui diffère</translation>
     </message>
     <message>
         <source>How</source>
-        <translation type="unfinished"></translation>
+        <translation>Comment</translation>
     </message>
     <message>
         <source>Official results and the films</source>
-        <translation type="unfinished"></translation>
+        <translation>Résultats officiels et films</translation>
     </message>
     <message>
         <source>&amp;Take over</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Reprendre</translation>
     </message>
     <message>
         <source>&amp;Show the run</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Montrer la manche</translation>
     </message>
     <message>
         <source>A &amp;file…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Un fichier…</translation>
     </message>
     <message>
         <source>Results list</source>
@@ -13489,11 +13506,11 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Official results</source>
-        <translation type="unfinished"></translation>
+        <translation>Résultats officiels</translation>
     </message>
     <message>
         <source>Reading %1…</source>
-        <translation type="unfinished"></translation>
+        <translation>Lecture de %1…</translation>
     </message>
     <message>
         <source>“%1” cannot be opened</source>
@@ -13501,97 +13518,97 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>The race carries no results list. Open one with “A file…”.</source>
-        <translation type="unfinished"></translation>
+        <translation>La course ne porte pas de liste de résultats. Ouvrez-en une avec « Un fichier… ».</translation>
     </message>
     <message>
         <source>The films and this list say the same.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les films et cette liste disent la même chose.</translation>
     </message>
     <message>
         <source>%1 differences, %2 of them to take over. The films&apos; own times stay; Ctrl+Z in split taking takes a step back.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 différences, dont %2 à reprendre. Les temps propres des films restent ; Ctrl+Z dans la prise de temps intermédiaires annule une étape.</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::OnlineDialog</name>
     <message>
         <source>Any server that stores files by WebDAV will do. The password is asked for each time and stored nowhere.</source>
-        <translation type="unfinished"></translation>
+        <translation>N’importe quel serveur qui conserve des fichiers par WebDAV convient. Le mot de passe est demandé à chaque fois et n’est gardé nulle part.</translation>
     </message>
     <message>
         <source>&amp;Planning</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Planification</translation>
     </message>
     <message>
         <source>&amp;Address</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Adresse</translation>
     </message>
     <message>
         <source>&amp;User name</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Nom d’utilisateur</translation>
     </message>
     <message>
         <source>Pass&amp;word</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Mot de passe</translation>
     </message>
     <message>
         <source>The settings name no shared planning.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les réglages ne nomment aucune planification partagée.</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::OnlinePlanning</name>
     <message>
         <source>Saving the planning online…</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrement de la planification en ligne…</translation>
     </message>
     <message>
         <source>“%1” is saved online.</source>
-        <translation type="unfinished"></translation>
+        <translation>« %1 » est enregistrée en ligne.</translation>
     </message>
     <message>
         <source>“%1” was changed on the server since this planning was read from there or saved there. Saving would lose that change.</source>
-        <translation type="unfinished"></translation>
+        <translation>« %1 » a été modifiée sur le serveur depuis que cette planification y a été lue ou enregistrée. Enregistrer perdrait cette modification.</translation>
     </message>
     <message>
         <source>There is a planning “%1” on the server that this one does not come from. Saving would replace it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il y a sur le serveur une planification « %1 » dont celle-ci ne provient pas. Enregistrer la remplacerait.</translation>
     </message>
     <message>
         <source>Somebody else&apos;s work lies on the server</source>
-        <translation type="unfinished"></translation>
+        <translation>Le travail de quelqu’un d’autre est sur le serveur</translation>
     </message>
     <message>
         <source>Look at it</source>
-        <translation type="unfinished"></translation>
+        <translation>Le regarder</translation>
     </message>
     <message>
         <source>Save under another name…</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer sous un autre nom…</translation>
     </message>
     <message>
         <source>Replace it</source>
-        <translation type="unfinished"></translation>
+        <translation>Le remplacer</translation>
     </message>
     <message>
         <source>Save the planning online</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer la planification en ligne</translation>
     </message>
     <message>
         <source>Name on the server</source>
-        <translation type="unfinished"></translation>
+        <translation>Nom sur le serveur</translation>
     </message>
     <message>
         <source>%1 (mine)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (la mienne)</translation>
     </message>
     <message>
         <source>“%1” cannot be the name of a file.</source>
-        <translation type="unfinished"></translation>
+        <translation>« %1 » ne peut pas être le nom d’un fichier.</translation>
     </message>
     <message>
         <source>The server has no such file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le serveur n’a pas ce fichier.</translation>
     </message>
     <message>
         <source>What the server has is no planning.</source>
@@ -13599,83 +13616,83 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>The online planning could not be opened.</source>
-        <translation type="unfinished"></translation>
+        <translation>La planification en ligne n’a pas pu être ouverte.</translation>
     </message>
     <message>
         <source>Open an online planning</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir une planification en ligne</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::OnlineSaving</name>
     <message>
         <source>The server changes the planning all the time.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le serveur modifie la planification sans arrêt.</translation>
     </message>
     <message>
         <source>The server has no such folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le serveur n’a pas ce dossier.</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::OnlineStore</name>
     <message>
         <source>The address is none. It begins with https://.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce n’est pas une adresse. Elle commence par https://.</translation>
     </message>
     <message>
         <source>Only https:// keeps the password and the plan from other readers.</source>
-        <translation type="unfinished"></translation>
+        <translation>Seul https:// protège le mot de passe et le plan des autres lecteurs.</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::OrderBoard</name>
     <message>
         <source>Order at the gate in front</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordre à la porte au premier plan</translation>
     </message>
     <message>
         <source>A place up</source>
-        <translation type="unfinished"></translation>
+        <translation>Une place plus haut</translation>
     </message>
     <message>
         <source>A place down</source>
-        <translation type="unfinished"></translation>
+        <translation>Une place plus bas</translation>
     </message>
     <message>
         <source>Not seen at this gate</source>
-        <translation type="unfinished"></translation>
+        <translation>Pas vu à cette porte</translation>
     </message>
     <message>
         <source>Seen, as the last</source>
-        <translation type="unfinished"></translation>
+        <translation>Vu, comme dernier</translation>
     </message>
     <message>
         <source>not of this heat</source>
-        <translation type="unfinished"></translation>
+        <translation>pas de cette série</translation>
     </message>
     <message>
         <source>not seen</source>
-        <translation type="unfinished"></translation>
+        <translation>pas vu</translation>
     </message>
     <message>
         <source>%1 won</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 gagnées</translation>
     </message>
     <message>
         <source>%1 lost</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 perdues</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::PageView</name>
     <message>
         <source>Pages of the report</source>
-        <translation type="unfinished"></translation>
+        <translation>Pages du rapport</translation>
     </message>
     <message>
         <source>There is nothing to show.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il n’y a rien à montrer.</translation>
     </message>
 </context>
 <context>
@@ -13702,7 +13719,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Files that could not be rea&amp;d…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Fichiers qui n’ont pas pu être lus…</translation>
     </message>
     <message>
         <source>Save the &amp;table as CSV…</source>
@@ -13710,7 +13727,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Save the &amp;chart…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Enregistrer le graphique…</translation>
     </message>
     <message>
         <source>&amp;Show</source>
@@ -13793,7 +13810,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Saved %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 enregistré</translation>
     </message>
     <message>
         <source>Open split files</source>
@@ -13821,7 +13838,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>1 file</source>
-        <translation type="unfinished"></translation>
+        <translation>1 fichier</translation>
     </message>
     <message>
         <source>1 run</source>
@@ -13833,9 +13850,9 @@ Penalties are left out.</source>
     </message>
     <message numerus="yes">
         <source>%n files</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n fichier</numerusform>
+            <numerusform>%n fichiers</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -13984,11 +14001,11 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>date</source>
-        <translation type="unfinished"></translation>
+        <translation>date</translation>
     </message>
     <message>
         <source>Behind</source>
-        <translation type="unfinished"></translation>
+        <translation>Retard</translation>
     </message>
     <message>
         <source>Known where the run was taken over from a split file</source>
@@ -14023,7 +14040,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Choose one of the athletes of the list.</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisissez un des athlètes de la liste.</translation>
     </message>
     <message>
         <source>One file for the telephone, of one race as it was last saved. Films lie in the folder beside it.</source>
@@ -14050,7 +14067,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>The page cannot be written over a race that it is made from.</source>
-        <translation type="unfinished"></translation>
+        <translation>La page ne peut pas être écrite par-dessus une course dont elle est tirée.</translation>
     </message>
     <message>
         <source>Making the page…</source>
@@ -14097,7 +14114,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Median</source>
-        <translation type="unfinished"></translation>
+        <translation>Médiane</translation>
     </message>
     <message>
         <source>Least</source>
@@ -14211,7 +14228,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Repeat</source>
-        <translation type="unfinished"></translation>
+        <translation>Répéter</translation>
     </message>
     <message>
         <source>How often do the %1 chosen weeks follow themselves?
@@ -14299,7 +14316,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>&amp;Name</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Nom</translation>
     </message>
     <message>
         <source>&amp;Categories</source>
@@ -14520,7 +14537,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>athlète</translation>
     </message>
     <message>
         <source>removal of an athlete</source>
@@ -14543,11 +14560,11 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     <name>kavela::desktop::PlayMenu</name>
     <message>
         <source>&amp;Play</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Lecture</translation>
     </message>
     <message>
         <source>&amp;Play or pause</source>
-        <translation type="unfinished"></translation>
+        <translation>Lire &amp;ou mettre en pause</translation>
     </message>
     <message>
         <source>Backwards, again: faster</source>
@@ -14677,11 +14694,11 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Best run</source>
-        <translation type="unfinished"></translation>
+        <translation>Meilleure manche</translation>
     </message>
     <message>
         <source>Left</source>
-        <translation type="unfinished"></translation>
+        <translation>Reste</translation>
     </message>
 </context>
 <context>
@@ -14795,7 +14812,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Behind, %</source>
-        <translation type="unfinished"></translation>
+        <translation>Retard, %</translation>
     </message>
     <message>
         <source>On splits, %</source>
@@ -14819,7 +14836,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Heats</source>
-        <translation type="unfinished"></translation>
+        <translation>Qualifications</translation>
     </message>
     <message>
         <source>Final</source>
@@ -15354,7 +15371,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>Retirer</translation>
     </message>
     <message>
         <source>Takes the recording out of the split file</source>
@@ -15374,7 +15391,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Play</source>
-        <translation type="unfinished"></translation>
+        <translation>Lire</translation>
     </message>
     <message>
         <source>Recording, %1 s</source>
@@ -15574,7 +15591,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>Retirer</translation>
     </message>
     <message>
         <source>Release</source>
@@ -15762,7 +15779,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Reading %1…</source>
-        <translation type="unfinished"></translation>
+        <translation>Lecture de %1…</translation>
     </message>
     <message>
         <source>“%1” cannot be opened</source>
@@ -15923,7 +15940,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>kg</source>
-        <translation type="unfinished"></translation>
+        <translation>kg</translation>
     </message>
     <message>
         <source>&amp;Drag</source>
@@ -15966,7 +15983,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Then</source>
-        <translation type="unfinished"></translation>
+        <translation>Ensuite</translation>
     </message>
     <message>
         <source>stays</source>
@@ -16046,7 +16063,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>PDF documents (*.pdf)</source>
-        <translation type="unfinished"></translation>
+        <translation>Documents PDF (*.pdf)</translation>
     </message>
     <message>
         <source>Report</source>
@@ -16054,7 +16071,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>%1 %</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 %</translation>
     </message>
     <message>
         <source>Smaller</source>
@@ -16236,11 +16253,11 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Outcome</source>
-        <translation type="unfinished"></translation>
+        <translation>Issue</translation>
     </message>
     <message>
         <source>%1 %</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 %</translation>
     </message>
     <message>
         <source>Athlete</source>
@@ -16248,7 +16265,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Attacks</source>
-        <translation type="unfinished"></translation>
+        <translation>Attaques</translation>
     </message>
     <message>
         <source>Succeeded</source>
@@ -16362,7 +16379,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Roll</source>
-        <translation type="unfinished"></translation>
+        <translation>Esquimautage</translation>
     </message>
     <message>
         <source>Style</source>
@@ -16490,7 +16507,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>Crew</source>
-        <translation type="unfinished"></translation>
+        <translation>Équipage</translation>
     </message>
     <message>
         <source>Category</source>
@@ -16681,7 +16698,7 @@ Choose a file.</source>
     <name>kavela::desktop::SearchPlaces</name>
     <message>
         <source>Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>Retirer</translation>
     </message>
     <message>
         <source>Folders and files that are searched</source>
@@ -16747,7 +16764,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>Files that could not be rea&amp;d…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Fichiers qui n’ont pas pu être lus…</translation>
     </message>
     <message>
         <source>&amp;Reports to look at and print…</source>
@@ -16767,7 +16784,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>Save the &amp;chart…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Enregistrer le graphique…</translation>
     </message>
     <message>
         <source>&amp;Show</source>
@@ -17063,9 +17080,9 @@ Choose a file.</source>
     </message>
     <message numerus="yes">
         <source>%n files</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n fichier</numerusform>
+            <numerusform>%n fichiers</numerusform>
         </translation>
     </message>
 </context>
@@ -17101,7 +17118,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>Trend</source>
-        <translation type="unfinished"></translation>
+        <translation>Tendance</translation>
     </message>
     <message>
         <source>Behind whom</source>
@@ -17172,7 +17189,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>PDF documents (*.pdf)</source>
-        <translation type="unfinished"></translation>
+        <translation>Documents PDF (*.pdf)</translation>
     </message>
     <message>
         <source>The report cannot be written over a file that it is made from.</source>
@@ -17199,7 +17216,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>Saved %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 enregistré</translation>
     </message>
     <message>
         <source>Writing %1…</source>
@@ -17348,7 +17365,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>← slower      faster →</source>
-        <translation type="unfinished"></translation>
+        <translation>← plus lent      plus rapide →</translation>
     </message>
     <message>
         <source>Not timed</source>
@@ -17360,7 +17377,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>Median</source>
-        <translation type="unfinished"></translation>
+        <translation>Médiane</translation>
     </message>
     <message>
         <source>Quarter of the runs over</source>
@@ -17392,7 +17409,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>Title</source>
-        <translation type="unfinished"></translation>
+        <translation>Titre</translation>
     </message>
     <message>
         <source>Fastest</source>
@@ -17419,7 +17436,7 @@ Choose a file.</source>
     <name>kavela::desktop::SectionForm</name>
     <message>
         <source>Turns</source>
-        <translation type="unfinished"></translation>
+        <translation>Virages</translation>
     </message>
     <message>
         <source>Turn %1</source>
@@ -17463,7 +17480,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>rad/s</source>
-        <translation type="unfinished"></translation>
+        <translation>rad/s</translation>
     </message>
     <message>
         <source>Told by the strokes that were recorded</source>
@@ -17472,7 +17489,8 @@ Choose a file.</source>
     <message>
         <source>Time
 (s)</source>
-        <translation type="unfinished"></translation>
+        <translation>Temps
+(s)</translation>
     </message>
     <message>
         <source>Straight
@@ -17630,7 +17648,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>athlète</translation>
     </message>
     <message>
         <source>athlete removed</source>
@@ -17649,7 +17667,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>&amp;Take over</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Reprendre</translation>
     </message>
     <message>
         <source>Athletes who get a result: %1, of them new in the selection: %2. Without a result then: %3. Runs and lines that stay out: %4. A click on an athlete chooses another one, or adds the name to the selection.</source>
@@ -17814,7 +17832,7 @@ Choose a file.</source>
     <name>kavela::desktop::SensorChart</name>
     <message>
         <source>%1 s</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 s</translation>
     </message>
     <message>
         <source>Time (s)</source>
@@ -17884,7 +17902,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>Roll</source>
-        <translation type="unfinished"></translation>
+        <translation>Roulis</translation>
     </message>
     <message>
         <source>Pitch</source>
@@ -17907,7 +17925,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>&amp;Title</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Titre</translation>
     </message>
     <message>
         <source>When</source>
@@ -17919,7 +17937,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>&amp;Description</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Description</translation>
     </message>
     <message>
         <source>On the water</source>
@@ -17931,7 +17949,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>Others</source>
-        <translation type="unfinished"></translation>
+        <translation>Autres</translation>
     </message>
     <message>
         <source>not in this week</source>
@@ -17981,7 +17999,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>Turns</source>
-        <translation type="unfinished"></translation>
+        <translation>Virages</translation>
     </message>
     <message>
         <source>Segments</source>
@@ -17997,7 +18015,7 @@ Choose a file.</source>
     </message>
     <message>
         <source> m</source>
-        <translation type="unfinished"></translation>
+        <translation> m</translation>
     </message>
     <message>
         <source>Values every</source>
@@ -18028,11 +18046,11 @@ Choose a file.</source>
     </message>
     <message>
         <source>Stroke rate (1/min)</source>
-        <translation type="unfinished"></translation>
+        <translation>Cadence (1/min)</translation>
     </message>
     <message>
         <source>Speed (m/s)</source>
-        <translation type="unfinished"></translation>
+        <translation>Vitesse (m/s)</translation>
     </message>
     <message>
         <source>The speed of the strokes is not known.</source>
@@ -18040,11 +18058,11 @@ Choose a file.</source>
     </message>
     <message>
         <source>Left</source>
-        <translation type="unfinished"></translation>
+        <translation>Gauche</translation>
     </message>
     <message>
         <source>Right</source>
-        <translation type="unfinished"></translation>
+        <translation>Droite</translation>
     </message>
     <message>
         <source>Side unknown</source>
@@ -18072,7 +18090,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>Keep</source>
-        <translation type="unfinished"></translation>
+        <translation>Garder</translation>
     </message>
     <message>
         <source>Cut the session to the selected stretch</source>
@@ -18080,7 +18098,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>Retirer</translation>
     </message>
     <message>
         <source>Take the selected stretch out</source>
@@ -18119,7 +18137,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>Import .kvb file</source>
-        <translation type="unfinished"></translation>
+        <translation>Importer un fichier .kvb</translation>
     </message>
     <message>
         <source>Recordings (*.kvb)</source>
@@ -18127,7 +18145,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>Import .sbm file</source>
-        <translation type="unfinished"></translation>
+        <translation>Importer un fichier .sbm</translation>
     </message>
     <message>
         <source>Sessions (*.sbm *.bms)</source>
@@ -18293,19 +18311,19 @@ Choose a file.</source>
     </message>
     <message>
         <source>Tick &amp;none</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Tout décocher</translation>
     </message>
     <message>
         <source>Ser&amp;ver</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Serveur</translation>
     </message>
     <message>
         <source>&amp;Sign in…</source>
-        <translation type="unfinished"></translation>
+        <translation>Se &amp;connecter…</translation>
     </message>
     <message>
         <source>&amp;Forget the password</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Oublier le mot de passe</translation>
     </message>
 </context>
 <context>
@@ -18316,7 +18334,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>F&amp;older</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Dossier</translation>
     </message>
     <message>
         <source>On this computer, with everything below it but hidden files</source>
@@ -18328,7 +18346,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>&amp;Address</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Adresse</translation>
     </message>
     <message>
         <source>Of a folder on a WebDAV server: Nextcloud, ownCloud, a NAS, Apache…</source>
@@ -18348,7 +18366,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>Start</source>
-        <translation>Départ</translation>
+        <translation>Démarrer</translation>
     </message>
     <message>
         <source>Shares the ticked files</source>
@@ -18413,7 +18431,7 @@ and %1 more</source>
     </message>
     <message>
         <source>Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>Supprimer</translation>
     </message>
     <message>
         <source>Files are being shared…</source>
@@ -18421,11 +18439,11 @@ and %1 more</source>
     </message>
     <message>
         <source>This computer has no password store that is open. The password holds until this window is closed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cet ordinateur n’a pas de coffre de mots de passe ouvert. Le mot de passe vaut jusqu’à la fermeture de cette fenêtre.</translation>
     </message>
     <message>
         <source>The password of %1 was forgotten.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le mot de passe de %1 a été oublié.</translation>
     </message>
     <message>
         <source>%v of %m files</source>
@@ -18441,7 +18459,7 @@ and %1 more</source>
     </message>
     <message>
         <source>Stop and close</source>
-        <translation type="unfinished"></translation>
+        <translation>Arrêter et fermer</translation>
     </message>
 </context>
 <context>
@@ -18627,15 +18645,15 @@ and %1 more</source>
     </message>
     <message>
         <source>&amp;Play</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Lecture</translation>
     </message>
     <message>
         <source>&amp;Play or pause</source>
-        <translation type="unfinished"></translation>
+        <translation>Lire &amp;ou mettre en pause</translation>
     </message>
     <message>
         <source>&amp;Slower</source>
-        <translation>Plus &amp;lent</translation>
+        <translation>Pl&amp;us lent</translation>
     </message>
     <message>
         <source>&amp;Faster</source>
@@ -18723,7 +18741,7 @@ and %1 more</source>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 : %2</translation>
     </message>
     <message>
         <source>There is no run to be marked.</source>
@@ -18776,7 +18794,7 @@ and %1 more</source>
     </message>
     <message>
         <source>%1 %</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 %</translation>
     </message>
     <message>
         <source>frame %1   %2 s</source>
@@ -18791,7 +18809,7 @@ and %1 more</source>
     <name>kavela::desktop::SlitWindow</name>
     <message>
         <source>Films (*.mp4 *.mov *.m4v *.avi *.mkv *.mts *.m2ts);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Films (*.mp4 *.mov *.m4v *.avi *.mkv *.mts *.m2ts);;Tous les fichiers (*)</translation>
     </message>
     <message>
         <source>Slit picture</source>
@@ -18885,7 +18903,7 @@ and %1 more</source>
     </message>
     <message>
         <source>Nothing can be marked: %1 is not in the folder of the split file. Cameras &gt; Where are the films now?</source>
-        <translation type="unfinished"></translation>
+        <translation>Rien ne peut être marqué : %1 n’est pas dans le dossier du fichier d’intermédiaires. Caméras &gt; Où sont les films maintenant ?</translation>
     </message>
     <message>
         <source>No mark is selected. Ctrl and the arrows go from mark to mark.</source>
@@ -18893,7 +18911,7 @@ and %1 more</source>
     </message>
     <message>
         <source>Another run came to the front: nothing was marked.</source>
-        <translation type="unfinished"></translation>
+        <translation>Une autre manche est passée au premier plan : rien n’a été marqué.</translation>
     </message>
     <message>
         <source>The times of this run were taken without marks on the video. Marking it anew replaces them.</source>
@@ -19109,7 +19127,7 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>Taken</source>
-        <translation type="unfinished"></translation>
+        <translation>Prise</translation>
     </message>
     <message>
         <source>Way</source>
@@ -19153,7 +19171,7 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>Add</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajouter</translation>
     </message>
     <message>
         <source>New</source>
@@ -19225,7 +19243,7 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>Start</source>
-        <translation>Départ</translation>
+        <translation>Début</translation>
     </message>
     <message>
         <source>The end of a way comes after its beginning at %1.</source>
@@ -19252,11 +19270,11 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>Left</source>
-        <translation type="unfinished"></translation>
+        <translation>Gauche</translation>
     </message>
     <message>
         <source>Right</source>
-        <translation type="unfinished"></translation>
+        <translation>Droite</translation>
     </message>
     <message>
         <source>Strokes/min</source>
@@ -19319,7 +19337,7 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>All seasons</source>
-        <translation type="unfinished"></translation>
+        <translation>Toutes les saisons</translation>
     </message>
     <message>
         <source>Categorization</source>
@@ -19524,7 +19542,7 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>Saved %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 enregistré</translation>
     </message>
     <message>
         <source>Kept with %1</source>
@@ -19532,11 +19550,11 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>&amp;Copy</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Copier</translation>
     </message>
     <message>
         <source>Reading %1…</source>
-        <translation type="unfinished"></translation>
+        <translation>Lecture de %1…</translation>
     </message>
     <message>
         <source>“%1” cannot be opened as a table</source>
@@ -19799,7 +19817,7 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>&amp;Location</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Lieu</translation>
     </message>
     <message>
         <source>&amp;Season</source>
@@ -19827,11 +19845,11 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>Tick &amp;all</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Tout cocher</translation>
     </message>
     <message>
         <source>Tick &amp;none</source>
-        <translation type="unfinished"></translation>
+        <translation>Tout &amp;décocher</translation>
     </message>
     <message>
         <source>(line %1)</source>
@@ -19873,7 +19891,7 @@ Place, gap and percent are there as in any other.</source>
     <name>kavela::desktop::TakeRecordingDialog</name>
     <message>
         <source> m</source>
-        <translation type="unfinished"></translation>
+        <translation> m</translation>
     </message>
     <message>
         <source> rad/s</source>
@@ -19893,7 +19911,7 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>&amp;Location</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Lieu</translation>
     </message>
     <message>
         <source>La&amp;ps</source>
@@ -19947,7 +19965,8 @@ Place, gap and percent are there as in any other.</source>
     <message>
         <source>Time
 (s)</source>
-        <translation type="unfinished"></translation>
+        <translation>Temps
+(s)</translation>
     </message>
     <message>
         <source>Length of the section</source>
@@ -20404,7 +20423,7 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>Boats</source>
-        <translation type="unfinished"></translation>
+        <translation>Bateaux</translation>
     </message>
 </context>
 <context>
@@ -20520,7 +20539,7 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>Test</source>
-        <translation type="unfinished"></translation>
+        <translation>Test</translation>
     </message>
     <message>
         <source>Location</source>
@@ -20572,7 +20591,7 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>All kinds</source>
-        <translation type="unfinished"></translation>
+        <translation>Tous les types</translation>
     </message>
     <message>
         <source>Sprint data</source>
@@ -20860,7 +20879,7 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>← slower      faster →</source>
-        <translation type="unfinished"></translation>
+        <translation>← plus lent      plus rapide →</translation>
     </message>
     <message>
         <source>Time</source>
@@ -21047,19 +21066,19 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>&amp;Play</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Lecture</translation>
     </message>
     <message>
         <source>&amp;Play or pause</source>
-        <translation type="unfinished"></translation>
+        <translation>Lire &amp;ou mettre en pause</translation>
     </message>
     <message>
         <source>One frame ba&amp;ck</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Une image en arrière</translation>
     </message>
     <message>
         <source>One frame &amp;on</source>
-        <translation type="unfinished"></translation>
+        <translation>Une &amp;image en avant</translation>
     </message>
     <message>
         <source>P&amp;ath</source>
@@ -21297,7 +21316,7 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>Re&amp;name the athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Renommer l’athlète</translation>
     </message>
     <message>
         <source>&amp;Film…</source>
@@ -21305,11 +21324,11 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>R&amp;emove the trial</source>
-        <translation type="unfinished"></translation>
+        <translation>Retirer &amp;le contre-la-montre</translation>
     </message>
     <message>
         <source>Film…</source>
-        <translation type="unfinished"></translation>
+        <translation>Film…</translation>
     </message>
     <message>
         <source>Chooses the film of the selected trial</source>
@@ -21317,7 +21336,7 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>Retirer</translation>
     </message>
     <message>
         <source>Removes the selected trial</source>
@@ -21336,7 +21355,7 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>Roll</source>
-        <translation type="unfinished"></translation>
+        <translation>Esquimautage</translation>
     </message>
     <message>
         <source>Gate %1</source>
@@ -21352,7 +21371,7 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>From the start</source>
-        <translation type="unfinished"></translation>
+        <translation>Depuis le départ</translation>
     </message>
     <message>
         <source>%1 boats</source>
@@ -21392,7 +21411,7 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>%1 s</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 s</translation>
     </message>
     <message>
         <source>time trial of %1</source>
@@ -21462,11 +21481,11 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>In</source>
-        <translation>Dans</translation>
+        <translation>Entrée</translation>
     </message>
     <message>
         <source>Out</source>
-        <translation type="unfinished"></translation>
+        <translation>Sortie</translation>
     </message>
     <message>
         <source>Total</source>
@@ -21478,7 +21497,7 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>Mark the pole line too</source>
-        <translation type="unfinished"></translation>
+        <translation>Marquer aussi la ligne de porte</translation>
     </message>
     <message>
         <source>Turn to the</source>
@@ -21562,7 +21581,7 @@ Add one by hand with Ctrl+N, or drop split files and recordings here.</source>
     </message>
     <message>
         <source>Import variability</source>
-        <translation type="unfinished"></translation>
+        <translation>Importer la variabilité</translation>
     </message>
     <message>
         <source>1 line is left out:</source>
@@ -21645,11 +21664,11 @@ Add one by hand with Ctrl+N, or drop split files and recordings here.</source>
     </message>
     <message>
         <source>From</source>
-        <translation type="unfinished"></translation>
+        <translation>De</translation>
     </message>
     <message>
         <source>To</source>
-        <translation type="unfinished"></translation>
+        <translation>À</translation>
     </message>
 </context>
 <context>
@@ -21664,7 +21683,7 @@ Add one by hand with Ctrl+N, or drop split files and recordings here.</source>
     </message>
     <message>
         <source>Place</source>
-        <translation>Place</translation>
+        <translation>Lieu</translation>
     </message>
     <message>
         <source>Event</source>
@@ -21708,7 +21727,7 @@ Add one by hand with Ctrl+N, or drop split files and recordings here.</source>
     </message>
     <message>
         <source>Load</source>
-        <translation type="unfinished"></translation>
+        <translation>Charge</translation>
     </message>
     <message>
         <source>health</source>
@@ -21796,7 +21815,7 @@ Add one by hand with Ctrl+N, or drop split files and recordings here.</source>
     <name>kavela::desktop::WhyPanel</name>
     <message>
         <source>counted</source>
-        <translation>comptées</translation>
+        <translation>compté</translation>
     </message>
     <message>
         <source>dropped: worst</source>
@@ -21884,7 +21903,7 @@ Add one by hand with Ctrl+N, or drop split files and recordings here.</source>
     </message>
     <message>
         <source>From</source>
-        <translation type="unfinished"></translation>
+        <translation>De</translation>
     </message>
     <message>
         <source>Value</source>
@@ -21938,7 +21957,7 @@ Add one by hand with Ctrl+N, or drop split files and recordings here.</source>
     </message>
     <message>
         <source>Load</source>
-        <translation type="unfinished"></translation>
+        <translation>Charge</translation>
     </message>
     <message>
         <source>Week</source>
